@@ -1,0 +1,6 @@
+#pragma once
+// Extensions: button with pictures.
+
+#include <afxwin.h>
+
+#include "detail/bitmapbutton.h"

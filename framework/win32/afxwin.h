@@ -1,0 +1,28 @@
+#pragma once
+// Windows, menus, device contexts, dialogs, controls, threads and the application.
+
+#include <afx.h>
+#include <afxcoll.h>
+#include <afxtempl.h>
+
+#include <commctrl.h>
+#include <shellapi.h>
+#include <tchar.h>
+
+#include "afxres.h"
+
+#include "detail/cmdtarget.h"
+
+#include "detail/gdi.h"
+
+#include "detail/menu.h"
+
+#include "detail/wnd.h"
+
+#include "detail/app.h"
+
+#include "detail/dialog.h"
+
+#include "detail/stdctrls.h"
+
+#include "afxmsg_.h"

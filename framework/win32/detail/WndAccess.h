@@ -1,0 +1,54 @@
+#pragma once
+// The framework's own way to what CWnd keeps private. Inside framework.dll only.
+
+#include <afxwin.h>
+
+namespace framework
+{
+enum WndFlags : UINT
+{
+    WndToolTips = 0x0001,
+    WndTrackingToolTips = 0x0002,
+    WndModalLoop = 0x0010,
+    WndContinueModal = 0x0020,
+    WndOwnedByTemporaryMap = 0x0100
+};
+
+struct WndAccess
+{
+    static UINT & Flags(CWnd & window) { return window.m_nFlags; }
+    static WNDPROC & SuperProcedure(CWnd & window) { return window.m_pfnSuper; }
+    static int ModalResult(CWnd const & window) { return window.m_nModalResult; }
+    static bool IsFrame(CWnd const & window) { return window.IsFrameWnd() != FALSE; }
+    static void SubclassCreated(CWnd & window, HWND handle) { window.SubclassCreated(handle); }
+    static LRESULT CallWindowProc(CWnd & window, UINT message, WPARAM wParam, LPARAM lParam)
+    {
+        return window.WindowProc(message, wParam, lParam);
+    }
+};
+
+/// What the lParam of a WM_CTLCOLOR, made from the message of one kind of control, points to.
+struct ControlColour
+{
+    HWND control;
+    HDC dc;
+    UINT kind; // CTLCOLOR_...
+};
+
+/// The handle of a window that may be missing.
+inline HWND SafeHandle(CWnd const * window)
+{
+    return window != nullptr ? window->m_hWnd : nullptr;
+}
+
+/// Offers a message to the objects from the window up to the last window, and says whether one took it.
+FRAMEWORK_API BOOL WalkPreTranslateTree(HWND last, MSG * message);
+FRAMEWORK_API void SendMessageToDescendants(HWND window, UINT message, WPARAM wParam, LPARAM lParam, BOOL deep,
+                                            BOOL onlyPermanent);
+/// The window that a modal window can belong to. topLevel, if given, gets the window that was disabled, or null.
+FRAMEWORK_API HWND FindSafeOwner(HWND parent, HWND * topLevel);
+/// Shows the user what a handler of the message threw, as far as it's his business.
+void ReportHandlerException(CException & exception, MSG const & message);
+/// The first entry of a map for a message, without its base maps. Null if there is none.
+const AFX_MSGMAP_ENTRY * FindEntry(const AFX_MSGMAP_ENTRY * entries, UINT message, UINT code, UINT id);
+} // namespace framework

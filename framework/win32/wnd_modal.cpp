@@ -1,0 +1,107 @@
+// CWnd: modal loops, and offering messages to objects before they are dispatched.
+
+#include "afxpriv.h"
+#include "detail/ThreadState.h"
+#include "detail/WndAccess.h"
+
+namespace
+{
+constexpr UINT systemTimerMessage = 0x0118; // of carets and menus; undocumented by the system
+} // namespace
+
+BOOL framework::WalkPreTranslateTree(HWND last, MSG * message)
+{
+    for (HWND window = message->hwnd; window != nullptr; window = ::GetParent(window))
+    {
+        CWnd * const object = CWnd::FromHandlePermanent(window);
+        if (object != nullptr && object->PreTranslateMessage(message))
+            return TRUE;
+        if (window == last)
+            break;
+    }
+    return FALSE;
+}
+
+BOOL CWnd::PreTranslateMessage(MSG * pMsg)
+{
+    if (framework::CurrentThreadState().toolTipsEnabled)
+        FilterToolTipMessage(pMsg);
+    return FALSE;
+}
+
+int CWnd::RunModalLoop(DWORD dwFlags)
+{
+    ASSERT(::IsWindow(m_hWnd));
+    ASSERT((m_nFlags & framework::WndModalLoop) == 0);
+    bool showWhenIdle = (dwFlags & MLF_SHOWONIDLE) != 0 && (GetStyle() & WS_VISIBLE) == 0;
+    HWND const parent = ::GetParent(m_hWnd);
+    MSG & message = framework::CurrentThreadState().pumpedMessage;
+    m_nFlags |= framework::WndModalLoop | framework::WndContinueModal;
+    auto const show = [this, &showWhenIdle] {
+        showWhenIdle = false;
+        ShowWindow(SW_SHOWNORMAL);
+        UpdateWindow();
+    };
+    bool idle = true;
+    LONG idleCount = 0;
+    for (;;)
+    {
+        ASSERT(ContinueModal());
+        while (idle && !::PeekMessage(&message, nullptr, 0, 0, PM_NOREMOVE))
+        {
+            ASSERT(ContinueModal());
+            if (showWhenIdle)
+                show();
+            if ((dwFlags & MLF_NOIDLEMSG) == 0 && parent != nullptr && idleCount == 0)
+                ::SendMessage(parent, WM_ENTERIDLE, MSGF_DIALOGBOX, reinterpret_cast<LPARAM>(m_hWnd));
+            if ((dwFlags & MLF_NOKICKIDLE) != 0 || SendMessage(WM_KICKIDLE, MSGF_DIALOGBOX, idleCount++) == 0)
+                idle = false;
+        }
+        do
+        {
+            if (!AfxPumpMessage())
+            {
+                AfxPostQuitMessage(static_cast<int>(message.wParam)); // the outer loops end, too
+                m_nFlags &= ~static_cast<UINT>(framework::WndModalLoop | framework::WndContinueModal);
+                return -1;
+            }
+            if (showWhenIdle && (message.message == systemTimerMessage || message.message == WM_SYSKEYDOWN))
+                show();
+            if (!ContinueModal())
+            {
+                m_nFlags &= ~static_cast<UINT>(framework::WndModalLoop | framework::WndContinueModal);
+                return m_nModalResult;
+            }
+            if (AfxIsIdleMessage(&message))
+            {
+                idle = true;
+                idleCount = 0;
+            }
+        } while (::PeekMessage(&message, nullptr, 0, 0, PM_NOREMOVE));
+    }
+}
+
+BOOL CWnd::ContinueModal()
+{
+    return (m_nFlags & framework::WndContinueModal) != 0;
+}
+
+void CWnd::EndModalLoop(int nResult)
+{
+    ASSERT(::IsWindow(m_hWnd));
+    m_nModalResult = nResult;
+    if ((m_nFlags & framework::WndContinueModal) == 0)
+        return;
+    m_nFlags &= ~static_cast<UINT>(framework::WndContinueModal);
+    PostMessage(WM_NULL); // wakes the loop
+}
+
+void CWnd::BeginModalState()
+{
+    ::EnableWindow(m_hWnd, FALSE);
+}
+
+void CWnd::EndModalState()
+{
+    ::EnableWindow(m_hWnd, TRUE);
+}

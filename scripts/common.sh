@@ -1,0 +1,119 @@
+# Shared by the commands at the root: messages, Debian packages, display and Wine prefix. Sourced, not run.
+
+top=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+build="$top/build"
+mkdir -p "$build"
+
+say() { printf '==> %s\n' "$*"; }
+fail() { printf 'error: %s\n' "$*" >&2; exit 1; }
+
+# install_packages NAME...: installs those of the Debian packages that are missing.
+install_packages() {
+    local missing=() name
+    for name in "$@"; do
+        [ "$(dpkg-query -W -f='${db:Status-Status}' "$name" 2>/dev/null)" = installed ] || missing+=("$name")
+    done
+    [ ${#missing[@]} -gt 0 ] || return 0
+    local as_root=()
+    if [ "$(id -u)" != 0 ]; then
+        command -v sudo >/dev/null || fail "missing packages: ${missing[*]}; install them as root, or install sudo"
+        as_root=(sudo)
+    fi
+    say "installing ${#missing[@]} Debian packages: ${missing[*]}"
+    local log="$build/packages.log"
+    "${as_root[@]}" apt-get update >"$log" 2>&1 || say "the package lists could not be refreshed; going on with the old ones"
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends "${missing[@]}" \
+        >>"$log" 2>&1 || { tail -n 20 "$log" >&2; fail "installing packages failed; the whole log is $log"; }
+}
+
+packages_windows=(cmake ninja-build ccache make g++-mingw-w64-x86-64-posix wine64 wine fonts-wine xvfb xauth librsvg2-bin
+    icoutils imagemagick alsa-utils googletest)
+packages_logic=(cmake ninja-build ccache g++ clang libclang-rt-14-dev googletest)
+
+# run_logged TITLE LOG COMMAND...: runs a long step; its progress lines go to the terminal, all else to the log.
+run_logged() {
+    local title=$1 log=$2 began=$SECONDS status
+    shift 2
+    say "$title"
+    if [ -t 1 ]; then
+        "$@" 2>&1 | tee "$log" | stdbuf -oL grep -oE '^\[[0-9]+/[0-9]+\][^/]*' | stdbuf -oL tr '\n' '\r'
+        status=${PIPESTATUS[0]}
+        printf '\n'
+    else
+        "$@" 2>&1 | tee "$log" | stdbuf -oL awk 'match($0, /^\[[0-9]+\/[0-9]+\]/) {
+            split(substr($0, 2, RLENGTH - 2), n, "/"); part = int(n[1] * 4 / n[2])
+            if (part != last) { last = part; print "    " n[1] " of " n[2]; fflush() } }'
+        status=${PIPESTATUS[0]}
+    fi
+    [ "$status" = 0 ] || { tail -n 60 "$log" >&2; fail "$title: failed; the whole log is $log"; }
+    say "$title: done in $((SECONDS - began)) s"
+}
+
+# build_preset PRESET [TARGET]: configures where needed and builds.
+build_preset() {
+    local preset=$1 target=${2:-all} jobs
+    jobs=$(nproc)
+    [ -f "$build/$preset/build.ninja" ] ||
+        (cd "$top" && run_logged "configuring ($preset)" "$build/configure-$preset.log" cmake --preset "$preset") || exit 1
+    (cd "$top" && run_logged "building ($preset)" "$build/build-$preset.log" \
+        cmake --build "$build/$preset" --target "$target" -j "$jobs") || exit 1
+}
+
+xvfb_pid=
+wine_started=
+
+# start_display WIDTHxHEIGHT: starts a virtual display of our own and points DISPLAY to it.
+start_display() {
+    local size=$1 number
+    Xvfb -displayfd 9 -screen 0 "${size}x24" -nolisten tcp -noreset 9>"$build/display-number.$$" >"$build/xvfb.log" 2>&1 &
+    xvfb_pid=$!
+    local waited
+    for waited in $(seq 100); do
+        number=$(cat "$build/display-number.$$" 2>/dev/null)
+        [ -z "$number" ] || break
+        kill -0 "$xvfb_pid" 2>/dev/null || fail "Xvfb did not start: $(cat "$build/xvfb.log")"
+        sleep 0.1
+    done
+    rm -f "$build/display-number.$$"
+    [ -n "$number" ] || fail "Xvfb gave no display number within 10 s"
+    export DISPLAY=":$number"
+}
+
+# prepare_prefix FOLDER [WIDTHxHEIGHT]: makes the Wine prefix if it is missing and keeps its server up. With a size,
+# programs get one virtual desktop of that size with captions and frames.
+prepare_prefix() {
+    export WINEPREFIX=$1 WINEDEBUG=-all WINEDLLOVERRIDES="mscoree,mshtml,winedbg.exe=" WINEARCH=win64
+    if [ ! -f "$WINEPREFIX/prepared" ]; then
+        say "preparing Wine (about 20 s)"
+        rm -rf "$WINEPREFIX"
+        mkdir -p "$WINEPREFIX"
+        wine wineboot -i >"$build/wineboot.log" 2>&1 || fail "Wine could not be prepared: $(tail -n 5 "$build/wineboot.log")"
+        wineserver -w
+        local font
+        mkdir -p "$WINEPREFIX/drive_c/windows/Fonts"
+        for font in tahoma.ttf tahomabd.ttf marlett.ttf; do
+            [ -e "$WINEPREFIX/drive_c/windows/Fonts/$font" ] || [ ! -e "/usr/share/wine/fonts/$font" ] ||
+                cp "/usr/share/wine/fonts/$font" "$WINEPREFIX/drive_c/windows/Fonts/"
+        done
+        touch "$WINEPREFIX/prepared"
+    fi
+    wineserver -p
+    wine_started=1
+    if [ -n "${2:-}" ]; then
+        wine reg add 'HKCU\Software\Wine\Explorer' /v Desktop /d Default /f >/dev/null 2>&1
+        wine reg add 'HKCU\Software\Wine\Explorer\Desktops' /v Default /d "$2" /f >/dev/null 2>&1
+    else
+        wine reg delete 'HKCU\Software\Wine\Explorer' /v Desktop /f >/dev/null 2>&1 || true
+    fi
+}
+
+# Ends what this run started, and nothing else.
+end_all() {
+    [ -z "$wine_started" ] || { wineserver -k 2>/dev/null; wineserver -w 2>/dev/null; }
+    wine_started=
+    [ -z "$xvfb_pid" ] || { kill "$xvfb_pid" 2>/dev/null; wait "$xvfb_pid" 2>/dev/null; }
+    xvfb_pid=
+}
+trap end_all EXIT
+trap 'exit 130' INT
+trap 'exit 143' TERM

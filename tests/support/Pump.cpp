@@ -1,0 +1,123 @@
+#include "Pump.h"
+
+#include <algorithm>
+#include <map>
+
+namespace tests
+{
+namespace
+{
+std::map<UINT_PTR, LaterActions *> & Timers()
+{
+    static std::map<UINT_PTR, LaterActions *> timers;
+    return timers;
+}
+
+constexpr UINT StepInterval = 10;         // milliseconds
+constexpr ULONGLONG ReadyLimit = 5000;    // milliseconds
+
+bool PumpOne()
+{
+    MSG message;
+    if (!::PeekMessage(&message, nullptr, 0, 0, PM_NOREMOVE))
+        return false;
+    if (message.message == WM_QUIT)
+    {
+        // A quit message belongs to the program's loop; the test's own loop drops it.
+        ::PeekMessage(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE);
+        return true;
+    }
+    AfxGetThread()->PumpMessage();
+    return true;
+}
+} // namespace
+
+void PumpPosted(int limit)
+{
+    while (limit-- > 0 && PumpOne())
+    {
+    }
+}
+
+bool PumpUntil(std::function<bool()> const & predicate, std::chrono::milliseconds limit)
+{
+    auto const end = std::chrono::steady_clock::now() + limit;
+    bool idleDone = false;
+    for (;;)
+    {
+        if (predicate())
+            return true;
+        if (PumpOne())
+        {
+            idleDone = false;
+            continue;
+        }
+        if (!idleDone)
+        {
+            for (LONG count = 0; count < 8 && AfxGetThread()->OnIdle(count); ++count)
+            {
+            }
+            idleDone = true;
+            continue;
+        }
+        auto const left = std::chrono::duration_cast<std::chrono::milliseconds>(end - std::chrono::steady_clock::now());
+        if (left.count() <= 0)
+            return predicate();
+        ::MsgWaitForMultipleObjects(0, nullptr, FALSE, static_cast<DWORD>(std::min<long long>(left.count(), 10)),
+                                    QS_ALLINPUT);
+    }
+}
+
+void PumpFor(std::chrono::milliseconds time)
+{
+    PumpUntil([] { return false; }, time);
+}
+
+LaterActions::LaterActions()
+{
+    m_timer = ::SetTimer(nullptr, 0, StepInterval, OnTimer);
+    Timers()[m_timer] = this;
+}
+
+LaterActions::~LaterActions()
+{
+    ::KillTimer(nullptr, m_timer);
+    Timers().erase(m_timer);
+}
+
+void LaterActions::Add(std::function<void()> action, std::function<bool()> ready)
+{
+    m_actions.push_back({std::move(action), std::move(ready)});
+}
+
+bool LaterActions::Done() const
+{
+    return m_next == m_actions.size();
+}
+
+void CALLBACK LaterActions::OnTimer(HWND, UINT, UINT_PTR id, DWORD)
+{
+    auto const found = Timers().find(id);
+    if (found != Timers().end())
+        found->second->Step();
+}
+
+void LaterActions::Step()
+{
+    if (Done())
+        return;
+    Action const action = m_actions[m_next];
+    if (action.ready && !action.ready())
+    {
+        ULONGLONG const now = ::GetTickCount64();
+        if (m_waitingSince == 0)
+            m_waitingSince = now;
+        if (now - m_waitingSince < ReadyLimit)
+            return;
+        m_failed = true;
+    }
+    m_waitingSince = 0;
+    ++m_next; // before the action: it may run a loop of its own, which steps on
+    action.run();
+}
+} // namespace tests

@@ -1,0 +1,11 @@
+#pragma once
+
+#define IDS_TITLE 101
+#define IDR_MAIN_MENU 102
+
+#define ID_PEN_BLACK 40001
+#define ID_PEN_RED 40002
+#define ID_PEN_THICK 40003
+#define ID_DRAWING_UNDO 40004
+#define ID_DRAWING_CLEAR 40005
+#define ID_PROGRAM_EXIT 40006

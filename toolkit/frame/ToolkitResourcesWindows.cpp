@@ -1,0 +1,34 @@
+#include "frame/ToolkitResources.h"
+
+#include "frame/ToolkitModule.h"
+
+CToolkitResourceExchange::CToolkitResourceExchange() : m_former(AfxGetResourceHandle())
+{
+    AfxSetResourceHandle(g_toolkitModule.hModule);
+}
+
+CToolkitResourceExchange::~CToolkitResourceExchange()
+{
+    AfxSetResourceHandle(m_former);
+}
+
+HICON LoadToolkitIcon(UINT id)
+{
+    CToolkitResourceExchange const exchange;
+    LPCWSTR const name = MAKEINTRESOURCEW(id);
+    return ::LoadIconW(AfxFindResourceHandle(name, RT_GROUP_ICON), name);
+}
+
+HMENU LoadToolkitMenu(UINT id)
+{
+    CToolkitResourceExchange const exchange;
+    LPCWSTR const name = MAKEINTRESOURCEW(id);
+    return ::LoadMenuW(AfxFindResourceHandle(name, RT_MENU), name);
+}
+
+CString LoadToolkitString(UINT id)
+{
+    CToolkitResourceExchange const exchange;
+    CString text;
+    return text.LoadString(id) ? text : CString();
+}

@@ -1,0 +1,45 @@
+#include "FileDialogs.h"
+
+#include <afxdlgs.h>
+
+namespace workbench
+{
+
+namespace
+{
+
+// Enough for some hundreds of names; a larger choice is refused by the dialog.
+constexpr DWORD c_namesLength = 65536;
+
+} // namespace
+
+std::vector<std::filesystem::path> ChooseFiles(CWnd & owner)
+{
+    std::vector<std::filesystem::path> files;
+    std::vector<wchar_t> names(c_namesLength, L'\0');
+    CFileDialog dialog(TRUE, L"wav", nullptr, OFN_ALLOWMULTISELECT | OFN_FILEMUSTEXIST | OFN_HIDEREADONLY,
+                       L"WAV recordings (*.wav;*.wave)|*.wav;*.wave|All files (*.*)|*.*||", &owner);
+    dialog.GetOFN().lpstrTitle = L"Open Recordings";
+    dialog.GetOFN().lpstrFile = names.data();
+    dialog.GetOFN().nMaxFile = c_namesLength;
+    if (dialog.DoModal() == IDOK)
+    {
+        for (auto position = dialog.GetStartPosition(); position != nullptr;)
+        {
+            files.emplace_back(dialog.GetNextPathName(position).GetString());
+        }
+    }
+    return files;
+}
+
+std::optional<std::filesystem::path> ChooseFolder(CWnd & owner)
+{
+    CFolderPickerDialog dialog(nullptr, 0, &owner);
+    if (dialog.DoModal() != IDOK)
+    {
+        return std::nullopt;
+    }
+    return std::filesystem::path(dialog.GetPathName().GetString());
+}
+
+} // namespace workbench

@@ -1,0 +1,87 @@
+#pragma once
+
+#include <afxwin.h>
+
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include "RecordingList.h"
+#include "ScreenMetrics.h"
+#include "WaveformView.h"
+#include "layout/DialogResizer.h"
+#include "logic/AnalysisQueue.h"
+#include "windows/FensterManager.h"
+
+/// The workbench's main window: the list of recordings, the waveform of the chosen one, and the commands.
+class CMainWindow : public CWnd
+{
+public:
+    CMainWindow();
+
+    /// Creates the window at the place where it stood last.
+    bool CreateMainWindow();
+
+    /// Shows the recordings that folders and files stand for, in place of the present ones.
+    void ShowTargets(std::vector<std::filesystem::path> targets);
+
+    /// The number of recordings, and of those that are still being read.
+    int RecordingCount() const { return static_cast<int>(m_files.size()); }
+    int UnreadCount() const { return m_unread; }
+
+    /// Chooses a recording by its place in the list. Gives false for one that does not exist.
+    bool ChooseRecording(int index);
+
+    /// The place of the first recording that cannot be shown, or is damaged; -1 if there is none.
+    int FirstDamagedRecording() const;
+
+    BOOL PreTranslateMessage(MSG * message) override;
+
+protected:
+    DECLARE_MESSAGE_MAP()
+
+private:
+    afx_msg int OnCreate(LPCREATESTRUCT create);
+    afx_msg void OnClose();
+    afx_msg void OnDestroy();
+    afx_msg void OnEndSession(BOOL ending);
+    afx_msg void OnSize(UINT type, int width, int height);
+    afx_msg void OnGetMinMaxInfo(MINMAXINFO * info);
+    afx_msg void OnActivate(UINT state, CWnd * other, BOOL minimized);
+    afx_msg void OnSetFocus(CWnd * previous);
+    afx_msg void OnDropFiles(HDROP drop);
+    afx_msg void OnOpenFiles();
+    afx_msg void OnOpenFolder();
+    afx_msg void OnReload();
+    afx_msg void OnCloseCommand();
+    afx_msg void OnItemChanged(NMHDR * header, LRESULT * result);
+    afx_msg void OnItemActivated(NMHDR * header, LRESULT * result);
+    afx_msg LRESULT OnRecordingsReady(WPARAM, LPARAM);
+
+    bool CreateChildren();
+    void Arrange();
+    void RememberPlace();
+    void ShowChosen();
+    void ReadAgain(int index);
+    void UpdateStatusLine();
+
+    workbench::ScreenMetrics m_metrics;
+    CFensterManager m_memory;
+    CRecordingList m_list;
+    CWaveformView m_waveform;
+    CButton m_openFiles;
+    CButton m_openFolder;
+    CButton m_reload;
+    CButton m_close;
+    CStatic m_statusLine;
+    std::unique_ptr<CDialogResizer> m_resizer;
+    HACCEL m_accelerators = nullptr;
+    HWND m_lastFocus = nullptr;
+
+    std::vector<std::filesystem::path> m_targets;
+    std::vector<std::filesystem::path> m_files;
+    std::vector<std::shared_ptr<workbench::RecordingAnalysis const>> m_analyses; ///< null while being read
+    int m_unread = 0;
+    std::unique_ptr<workbench::AnalysisQueue> m_queue;
+};

@@ -1,0 +1,40 @@
+#include "ScreenMetrics.h"
+
+namespace workbench
+{
+
+namespace
+{
+
+// The text over whose width the system, too, takes the average for dialog units.
+constexpr wchar_t c_alphabet[] = L"ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
+constexpr int c_alphabetLength = 52;
+
+} // namespace
+
+ScreenMetrics::ScreenMetrics()
+{
+    NONCLIENTMETRICSW metrics{};
+    metrics.cbSize = sizeof(metrics);
+    if (!::SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof(metrics), &metrics, 0))
+    {
+        ::GetObjectW(::GetStockObject(DEFAULT_GUI_FONT), sizeof(metrics.lfMessageFont), &metrics.lfMessageFont);
+    }
+    VERIFY(m_font.CreateFontIndirect(&metrics.lfMessageFont));
+    auto bold = metrics.lfMessageFont;
+    bold.lfWeight = FW_BOLD;
+    VERIFY(m_boldFont.CreateFontIndirect(&bold));
+
+    CDC dc;
+    if (dc.CreateCompatibleDC(nullptr))
+    {
+        SelectScope const font(dc, m_font);
+        auto const extent = dc.GetTextExtent(c_alphabet, c_alphabetLength);
+        TEXTMETRIC text{};
+        dc.GetTextMetrics(&text);
+        m_averageWidth = (extent.cx + c_alphabetLength / 2) / c_alphabetLength;
+        m_height = text.tmHeight;
+    }
+}
+
+} // namespace workbench

@@ -1,0 +1,49 @@
+#pragma once
+// The system's message font and the lengths that follow from it.
+
+#include <afxwin.h>
+
+namespace workbench
+{
+
+/// The fonts of the workbench's windows, and lengths in pixels that scale with them. Windows that use a font must end
+/// before the object does.
+class ScreenMetrics
+{
+public:
+    /// Takes the system's message font as it is now.
+    ScreenMetrics();
+
+    /// The message font, and the same in bold.
+    CFont & Font() { return m_font; }
+    CFont & BoldFont() { return m_boldFont; }
+
+    /// Pixels for horizontal and vertical dialog units of the message font.
+    int X(int dialogUnits) const { return ::MulDiv(dialogUnits, m_averageWidth, 4); }
+    int Y(int dialogUnits) const { return ::MulDiv(dialogUnits, m_height, 8); }
+
+    /// The height of a line of text.
+    int LineHeight() const { return m_height; }
+
+private:
+    CFont m_font;
+    CFont m_boldFont;
+    int m_averageWidth = 6;
+    int m_height = 13;
+};
+
+/// Selects an object into a device context, and the former one back at the end of the block.
+class SelectScope
+{
+public:
+    SelectScope(CDC & dc, CFont & font) : m_dc(dc), m_previous(dc.SelectObject(&font)) {}
+    SelectScope(SelectScope const &) = delete;
+    SelectScope & operator=(SelectScope const &) = delete;
+    ~SelectScope() { m_dc.SelectObject(m_previous); }
+
+private:
+    CDC & m_dc;
+    CFont * m_previous;
+};
+
+} // namespace workbench

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <filesystem>
+
+class CMainWindow;
+
+/// A tour of the workbench's windows without a user, so that a script can take pictures of them.
+///
+/// At each step N, counted from 1, the walk writes "step-N.ready" into its folder, which holds the name of the
+/// picture, and goes on when the script has written "step-N.done". "places.txt" gets a line for each step: the
+/// picture's name and the main window's left, top, right and bottom in screen pixels.
+class CWalk
+{
+public:
+    /// The folder is made if it is missing; markers that an earlier walk left in it are removed.
+    CWalk(CMainWindow & window, std::filesystem::path folder);
+
+    /// Goes through recordings and sizes. False if a marker could not be written, a wait timed out or the window ended.
+    bool Run();
+
+    /// Shows the window as it is after a restart, in one step. False as with Run.
+    bool RunAfterRestart();
+
+private:
+    bool Step(char const * picture);
+    bool WaitForRecordings();
+    bool Resize(int left, int top, int width, int height);
+
+    CMainWindow & m_window;
+    std::filesystem::path m_folder;
+    int m_step = 0;
+};

@@ -1,0 +1,303 @@
+#include "WaveformView.h"
+
+#include <afxcontrolbarutil.h>
+
+#include <algorithm>
+#include <cmath>
+
+#include "logic/Axis.h"
+#include "logic/TextFormat.h"
+
+namespace
+{
+
+constexpr COLORREF c_plotColour = RGB(249, 250, 252);
+constexpr COLORREF c_frameColour = RGB(190, 198, 207);
+constexpr COLORREF c_gridColour = RGB(226, 230, 236);
+constexpr COLORREF c_centreColour = RGB(150, 160, 172);
+constexpr COLORREF c_waveColour = RGB(33, 102, 172);
+constexpr COLORREF c_clippedColour = RGB(200, 48, 40);
+constexpr COLORREF c_labelColour = RGB(88, 98, 110);
+constexpr COLORREF c_problemColour = RGB(168, 40, 32);
+
+CSize TextSize(CDC & dc, std::wstring const & text)
+{
+    return dc.GetTextExtent(text.c_str(), static_cast<int>(text.size()));
+}
+
+void DrawText(CDC & dc, std::wstring const & text, CRect rect, UINT format)
+{
+    dc.DrawText(text.c_str(), static_cast<int>(text.size()), &rect, format | DT_NOPREFIX);
+}
+
+constexpr int c_leastLaneHeight = 3; // pixels
+
+constexpr UINT c_oneLine = DT_SINGLELINE | DT_END_ELLIPSIS;
+constexpr UINT c_label = DT_SINGLELINE | DT_NOCLIP;
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(CWaveformView, CWnd)
+    ON_WM_PAINT()
+    ON_WM_ERASEBKGND()
+    ON_MESSAGE(WM_PRINTCLIENT, &CWaveformView::OnPrintClient)
+END_MESSAGE_MAP()
+
+bool CWaveformView::CreateView(CWnd & parent, UINT id, workbench::ScreenMetrics & metrics)
+{
+    m_metrics = &metrics;
+    auto const windowClass = AfxRegisterWndClass(CS_HREDRAW | CS_VREDRAW, ::LoadCursorW(nullptr, IDC_ARROW));
+    return Create(windowClass, L"Waveform", WS_CHILD | WS_VISIBLE | WS_BORDER, CRect(), &parent, id) != FALSE;
+}
+
+void CWaveformView::ShowRecording(std::wstring name, std::shared_ptr<workbench::RecordingAnalysis const> analysis)
+{
+    m_title = std::move(name);
+    m_text = analysis->problem ? L"Cannot be shown: " + analysis->StatusText() + L"." : std::wstring();
+    m_analysis = std::move(analysis);
+    m_columns.clear();
+    Invalidate(FALSE);
+}
+
+void CWaveformView::ShowText(std::wstring title, std::wstring text)
+{
+    m_title = std::move(title);
+    m_text = std::move(text);
+    m_analysis.reset();
+    m_columns.clear();
+    Invalidate(FALSE);
+}
+
+BOOL CWaveformView::OnEraseBkgnd(CDC *)
+{
+    return TRUE;
+}
+
+void CWaveformView::OnPaint()
+{
+    CPaintDC paint(this);
+    CRect client;
+    GetClientRect(&client);
+    CMemDC buffer(paint, client);
+    Draw(buffer.GetDC(), client);
+}
+
+LRESULT CWaveformView::OnPrintClient(WPARAM dc, LPARAM)
+{
+    CRect client;
+    GetClientRect(&client);
+    Draw(*CDC::FromHandle(reinterpret_cast<HDC>(dc)), client);
+    return 0;
+}
+
+void CWaveformView::Draw(CDC & dc, CRect const & client)
+{
+    dc.FillSolidRect(client, ::GetSysColor(COLOR_WINDOW));
+    if (m_metrics == nullptr || client.IsRectEmpty())
+    {
+        return;
+    }
+    dc.SetBkMode(TRANSPARENT);
+    workbench::SelectScope const font(dc, m_metrics->Font());
+    if (!m_analysis || m_analysis->problem)
+    {
+        DrawMessage(dc, client);
+        return;
+    }
+    auto area = client;
+    area.DeflateRect(m_metrics->X(6), m_metrics->Y(5));
+    area.top = DrawHeading(dc, area);
+
+    auto const line = m_metrics->LineHeight();
+    auto plot = area;
+    plot.left += TextSize(dc, L"-12").cx + m_metrics->X(4);
+    plot.bottom -= line + m_metrics->Y(4);
+    auto const lanes = static_cast<int>(m_analysis->waveform.Lanes());
+    auto const gap = lanes > 1 ? m_metrics->Y(lanes > 8 ? 1 : 4) : 0;
+    auto const pitch = static_cast<double>(plot.Height() + gap) / std::max(lanes, 1);
+    if (plot.Width() < m_metrics->X(20) || pitch < gap + c_leastLaneHeight)
+    {
+        return;
+    }
+    DrawTimeAxis(dc, plot);
+    for (int i = 0; i < lanes; ++i)
+    {
+        Lane lane;
+        lane.rect = CRect(plot.left, plot.top + static_cast<int>(i * pitch), plot.right,
+                          plot.top + static_cast<int>((i + 1) * pitch) - gap);
+        lane.centre = (lane.rect.top + lane.rect.bottom) / 2;
+        lane.halfHeight = std::max((lane.rect.Height() - 1) / 2 - m_metrics->Y(2), 1);
+        DrawLane(dc, lane, static_cast<std::size_t>(i));
+    }
+}
+
+void CWaveformView::DrawMessage(CDC & dc, CRect const & client)
+{
+    auto area = client;
+    area.DeflateRect(m_metrics->X(10), m_metrics->Y(8));
+    auto const line = m_metrics->LineHeight();
+    area.top = std::max<int>(area.top, area.CenterPoint().y - 2 * line);
+    {
+        workbench::SelectScope const bold(dc, m_metrics->BoldFont());
+        dc.SetTextColor(::GetSysColor(COLOR_WINDOWTEXT));
+        DrawText(dc, m_title, area, DT_CENTER | c_oneLine);
+    }
+    area.top += line + m_metrics->Y(5);
+    dc.SetTextColor(m_analysis ? c_problemColour : c_labelColour);
+    DrawText(dc, m_text, area, DT_CENTER | DT_WORDBREAK);
+}
+
+int CWaveformView::DrawHeading(CDC & dc, CRect const & area)
+{
+    auto const line = m_metrics->LineHeight();
+    auto rect = area;
+    {
+        workbench::SelectScope const bold(dc, m_metrics->BoldFont());
+        dc.SetTextColor(::GetSysColor(COLOR_WINDOWTEXT));
+        DrawText(dc, m_title, rect, DT_LEFT | c_oneLine);
+    }
+    rect.top += line + m_metrics->Y(1);
+    dc.SetTextColor(c_labelColour);
+    DrawText(dc, Details(), rect, DT_LEFT | c_oneLine);
+    rect.top += line + m_metrics->Y(1);
+    if (m_analysis->info.IsCutOff() || m_analysis->invalidSamples > 0)
+    {
+        dc.SetTextColor(c_problemColour);
+        DrawText(dc, L"This file is damaged: " + m_analysis->StatusText() + L".", rect, DT_LEFT | c_oneLine);
+        rect.top += line + m_metrics->Y(1);
+    }
+    return rect.top + m_metrics->Y(3);
+}
+
+std::wstring CWaveformView::Details() const
+{
+    auto const & info = m_analysis->info;
+    auto const coding = info.coding == workbench::SampleCoding::Float ? L"-bit float" : L"-bit";
+    auto details = workbench::FormatSampleRate(info.sampleRate) + L"  \u00B7  " + std::to_wstring(info.bitsPerSample) +
+                   coding + L"  \u00B7  " + workbench::FormatCount(info.channels, L"channel", L"channels") +
+                   L"  \u00B7  " + workbench::FormatDuration(info.frames, info.sampleRate);
+    if (info.channels > m_analysis->waveform.Lanes())
+    {
+        details += L"  \u00B7  the first " + std::to_wstring(m_analysis->waveform.Lanes()) + L" are shown";
+    }
+    return details;
+}
+
+std::wstring CWaveformView::LaneName(std::size_t index) const
+{
+    switch (m_analysis->info.channels)
+    {
+    case 1:
+        return {};
+    case 2:
+        return index == 0 ? L"Left" : L"Right";
+    default:
+        return std::to_wstring(index + 1);
+    }
+}
+
+std::vector<workbench::MinMax> const & CWaveformView::Columns(std::size_t lane, int width)
+{
+    m_columns.resize(m_analysis->waveform.Lanes());
+    auto & columns = m_columns[lane];
+    if (columns.size() != static_cast<std::size_t>(width))
+    {
+        columns = m_analysis->waveform.Columns(lane, static_cast<std::size_t>(width));
+    }
+    return columns;
+}
+
+void CWaveformView::DrawLane(CDC & dc, Lane const & lane, std::size_t index)
+{
+    dc.FillSolidRect(lane.rect, c_plotColour);
+    DrawLevelGrid(dc, lane);
+
+    CRect inside = lane.rect;
+    inside.DeflateRect(1, 1);
+    auto const seconds = static_cast<double>(m_analysis->info.frames) / m_analysis->info.sampleRate;
+    for (auto const & tick : workbench::TimeTicks(seconds, inside.Width(), m_metrics->X(44)))
+    {
+        dc.FillSolidRect(inside.left + tick.position, inside.top, 1, inside.Height(), c_gridColour);
+    }
+    dc.FillSolidRect(inside.left, lane.centre, inside.Width(), 1, c_centreColour);
+
+    // Each column reaches over to the one before it, so that steep slopes stay one line.
+    auto const y = [&](float amplitude) {
+        auto const limited = std::clamp(amplitude, -1.0F, 1.0F);
+        return lane.centre - static_cast<int>(std::lround(limited * static_cast<float>(lane.halfHeight)));
+    };
+    auto const & columns = Columns(index, inside.Width());
+    auto previousTop = y(columns.front().greatest);
+    auto previousBottom = y(columns.front().least);
+    for (int i = 0; i < inside.Width(); ++i)
+    {
+        auto const & column = columns[static_cast<std::size_t>(i)];
+        auto const top = y(column.greatest);
+        auto const bottom = y(column.least);
+        auto const from = std::min(top, previousBottom);
+        auto const to = std::max(bottom, previousTop);
+        auto const clipped = column.greatest > 1.0F || column.least < -1.0F;
+        dc.FillSolidRect(inside.left + i, from, 1, to - from + 1, clipped ? c_clippedColour : c_waveColour);
+        previousTop = top;
+        previousBottom = bottom;
+    }
+    dc.Draw3dRect(lane.rect, c_frameColour, c_frameColour);
+
+    auto const name = LaneName(index);
+    if (!name.empty() && lane.rect.Height() >= m_metrics->LineHeight() + m_metrics->Y(4))
+    {
+        // On a ground of its own, so that it is read over the waveform.
+        CRect label(lane.rect.TopLeft(), TextSize(dc, name));
+        label.OffsetRect(m_metrics->X(3), m_metrics->Y(2));
+        auto ground = label;
+        ground.InflateRect(m_metrics->X(2), 1);
+        dc.FillSolidRect(ground, c_plotColour);
+        dc.SetBkMode(TRANSPARENT);
+        dc.SetTextColor(c_labelColour);
+        DrawText(dc, name, label, DT_LEFT | c_label);
+    }
+}
+
+void CWaveformView::DrawLevelGrid(CDC & dc, Lane const & lane)
+{
+    auto const line = m_metrics->LineHeight();
+    auto const draw = [&](int y, std::wstring const & label, bool withLabel) {
+        dc.FillSolidRect(lane.rect.left, y, lane.rect.Width(), 1, c_gridColour);
+        if (withLabel)
+        {
+            auto const size = TextSize(dc, label);
+            CRect const rect(0, y - line / 2, lane.rect.left - m_metrics->X(2), y - line / 2 + size.cy);
+            dc.SetBkMode(TRANSPARENT);
+            dc.SetTextColor(c_labelColour);
+            DrawText(dc, label, rect, DT_RIGHT | c_label);
+        }
+    };
+    for (auto const & level : workbench::LevelLines(lane.halfHeight, line + m_metrics->Y(1)))
+    {
+        auto const height = static_cast<int>(std::lround(level.amplitude * lane.halfHeight));
+        draw(lane.centre - height, level.label, true);
+        draw(lane.centre + height, level.label, true);
+    }
+    if (lane.halfHeight >= line)
+    {
+        draw(lane.centre, L"-\u221E", true);
+    }
+}
+
+void CWaveformView::DrawTimeAxis(CDC & dc, CRect const & plot)
+{
+    auto const seconds = static_cast<double>(m_analysis->info.frames) / m_analysis->info.sampleRate;
+    auto const tickHeight = m_metrics->Y(2);
+    CRect client;
+    GetClientRect(&client);
+    dc.SetTextColor(c_labelColour);
+    for (auto const & tick : workbench::TimeTicks(seconds, plot.Width() - 2, m_metrics->X(44)))
+    {
+        auto const x = plot.left + 1 + tick.position;
+        dc.FillSolidRect(x, plot.bottom, 1, tickHeight, c_frameColour);
+        auto const size = TextSize(dc, tick.label);
+        auto const left = std::clamp<int>(x - size.cx / 2, plot.left, std::max<int>(plot.right - size.cx, plot.left));
+        dc.SetBkMode(TRANSPARENT);
+        DrawText(dc, tick.label, CRect(CPoint(left, plot.bottom + tickHeight + 1), size), DT_LEFT | c_label);
+    }
+}

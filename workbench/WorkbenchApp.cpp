@@ -1,0 +1,102 @@
+#include "WorkbenchApp.h"
+
+#include <afxcmn.h>
+#include <shellapi.h>
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "MainWindow.h"
+#include "Walk.h"
+#include "frame/PreferenceStore.h"
+
+namespace
+{
+
+constexpr wchar_t c_company[] = L"Instrument Suite";
+constexpr wchar_t c_application[] = L"Instrument Workbench";
+
+constexpr UINT c_messageStartWalk = WM_APP + 1;
+
+std::vector<std::wstring> Arguments()
+{
+    std::vector<std::wstring> arguments;
+    int count = 0;
+    auto * const texts = ::CommandLineToArgvW(::GetCommandLineW(), &count);
+    for (int i = 1; texts != nullptr && i < count; ++i)
+    {
+        arguments.emplace_back(texts[i]);
+    }
+    ::LocalFree(texts);
+    return arguments;
+}
+
+} // namespace
+
+CWorkbenchApp theApp;
+
+BEGIN_MESSAGE_MAP(CWorkbenchApp, CWinApp)
+    ON_THREAD_MESSAGE(c_messageStartWalk, &CWorkbenchApp::OnStartWalk)
+END_MESSAGE_MAP()
+
+CWorkbenchApp::CWorkbenchApp() : CWinApp(c_application) {}
+
+CWorkbenchApp::~CWorkbenchApp() = default;
+
+BOOL CWorkbenchApp::InitInstance()
+{
+    INITCOMMONCONTROLSEX controls{sizeof(controls), ICC_WIN95_CLASSES | ICC_STANDARD_CLASSES};
+    ::InitCommonControlsEx(&controls);
+    CWinApp::InitInstance();
+
+    m_commandLine = workbench::ParseCommandLine(Arguments());
+    if (!m_commandLine.error.empty())
+    {
+        AfxMessageBox(m_commandLine.error.c_str());
+        m_exitCode = 2;
+        return FALSE;
+    }
+    SetRegistryKey(c_company);
+    m_preferences = std::make_unique<RegistryPreferenceStore>(CString(c_company), CString(c_application));
+    CVeskBase::SetPreferenceVesk(m_preferences.get());
+
+    m_mainWindow = std::make_unique<CMainWindow>();
+    m_pMainWnd = m_mainWindow.get();
+    if (!m_mainWindow->CreateMainWindow())
+    {
+        m_exitCode = 1;
+        return FALSE;
+    }
+    m_mainWindow->ShowWindow(m_nCmdShow);
+    m_mainWindow->UpdateWindow();
+    m_mainWindow->ShowTargets({m_commandLine.targets.begin(), m_commandLine.targets.end()});
+    if (m_commandLine.mode != workbench::RunMode::Interactive)
+    {
+        PostThreadMessage(c_messageStartWalk, 0, 0);
+    }
+    return TRUE;
+}
+
+void CWorkbenchApp::OnStartWalk(WPARAM, LPARAM)
+{
+    CWalk walk(*m_mainWindow, m_commandLine.walkFolder);
+    auto const restarted = m_commandLine.mode == workbench::RunMode::WalkRestart;
+    if (!(restarted ? walk.RunAfterRestart() : walk.Run()))
+    {
+        m_exitCode = 1;
+    }
+    if (::IsWindow(m_mainWindow->GetSafeHwnd()))
+    {
+        m_mainWindow->PostMessage(WM_CLOSE);
+    }
+}
+
+int CWorkbenchApp::ExitInstance()
+{
+    m_mainWindow.reset();
+    m_pMainWnd = nullptr;
+    CVeskBase::SetPreferenceVesk(nullptr);
+    auto const result = CWinApp::ExitInstance();
+    return m_exitCode != 0 ? m_exitCode : result;
+}

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <afxwin.h>
+
+#include <memory>
+
+#include "RegistryPreferenceStore.h"
+#include "logic/CommandLine.h"
+
+class CMainWindow;
+
+/// The program: sets the preference store up and opens the main window.
+class CWorkbenchApp : public CWinApp
+{
+public:
+    CWorkbenchApp();
+    ~CWorkbenchApp() override;
+
+    BOOL InitInstance() override;
+    int ExitInstance() override;
+
+private:
+    afx_msg void OnStartWalk(WPARAM, LPARAM);
+
+    workbench::CommandLine m_commandLine;
+    std::unique_ptr<RegistryPreferenceStore> m_preferences;
+    std::unique_ptr<CMainWindow> m_mainWindow;
+    int m_exitCode = 0;
+
+    DECLARE_MESSAGE_MAP()
+};

@@ -1,0 +1,95 @@
+#include "logic/Axis.h"
+
+#include <array>
+#include <cmath>
+#include <cwchar>
+
+namespace workbench
+{
+
+namespace
+{
+
+struct Step
+{
+    double seconds;
+    int decimals;
+};
+
+/// The smallest step of at least so many seconds.
+Step StepOfAtLeast(double seconds)
+{
+    for (int exponent = -6; exponent < 1; ++exponent)
+    {
+        auto const unit = std::pow(10.0, exponent);
+        for (auto const factor : {1.0, 2.0, 5.0})
+        {
+            if (factor * unit >= seconds)
+            {
+                return {factor * unit, -exponent};
+            }
+        }
+    }
+    for (auto const minutesOrSeconds : {10.0, 20.0, 30.0, 60.0, 120.0, 300.0, 600.0, 1200.0, 1800.0, 3600.0})
+    {
+        if (minutesOrSeconds >= seconds)
+        {
+            return {minutesOrSeconds, 0};
+        }
+    }
+    return {std::ceil(seconds / 3600.0) * 3600.0, 0};
+}
+
+std::wstring TimeLabel(double seconds, int decimals, bool asMinutes)
+{
+    wchar_t text[64];
+    if (asMinutes)
+    {
+        auto const whole = std::llround(seconds);
+        std::swprintf(text, std::size(text), L"%lld:%02d", whole / 60, static_cast<int>(whole % 60));
+    }
+    else
+    {
+        std::swprintf(text, std::size(text), L"%.*f s", decimals, seconds);
+    }
+    return text;
+}
+
+} // namespace
+
+std::vector<TimeTick> TimeTicks(double seconds, int width, int leastDistance)
+{
+    std::vector<TimeTick> ticks;
+    if (!(seconds > 0.0) || width <= 0 || leastDistance <= 0)
+    {
+        return ticks;
+    }
+    auto const step = StepOfAtLeast(seconds * leastDistance / width);
+    auto const asMinutes = seconds >= 60.0 && step.decimals == 0;
+    auto const count = static_cast<int>(std::floor(seconds / step.seconds + 1e-9));
+    for (int i = 0; i <= count; ++i)
+    {
+        auto const time = i * step.seconds;
+        ticks.push_back(
+            {static_cast<int>(std::lround(time / seconds * width)), TimeLabel(time, step.decimals, asMinutes)});
+    }
+    return ticks;
+}
+
+std::vector<LevelLine> LevelLines(int halfHeight, int leastDistance)
+{
+    std::vector<LevelLine> lines;
+    for (auto const decibels : {0, -6, -12, -18, -24})
+    {
+        // With steps of 6 dB a line is as far from the one above it as from the centre line.
+        auto const amplitude = std::pow(10.0, decibels / 20.0);
+        if (amplitude * halfHeight < leastDistance)
+        {
+            break;
+        }
+        lines.push_back({amplitude, std::to_wstring(decibels)});
+    }
+    return lines;
+}
+
+} // namespace workbench

@@ -1,0 +1,37 @@
+#pragma once
+// Where the grid lines of a waveform view stand, and what is written beside them.
+
+#include <string>
+#include <vector>
+
+namespace workbench
+{
+
+/// A line of the time axis: pixels from its left end, and its label.
+struct TimeTick
+{
+    int position;
+    std::wstring label;
+
+    bool operator==(TimeTick const &) const = default;
+};
+
+/// The ticks of a time axis of `width` pixels that shows `seconds` from its left to its right end. Steps are 1, 2 or 5
+/// of a decimal unit, from ten seconds on also 10, 20 and 30 seconds and minutes; neighbours are at least
+/// `leastDistance` pixels apart. Empty if one of the arguments is not above 0.
+std::vector<TimeTick> TimeTicks(double seconds, int width, int leastDistance);
+
+/// A line of the level grid: its amplitude above the centre line, full scale at 1.0, and its label in dBFS.
+struct LevelLine
+{
+    double amplitude;
+    std::wstring label;
+
+    bool operator==(LevelLine const &) const = default;
+};
+
+/// The level lines of one half of a lane that is `halfHeight` pixels from the centre line to full scale: full scale
+/// and each 6 dB below it down to -24 dBFS, as long as they are `leastDistance` pixels apart and off the centre line.
+std::vector<LevelLine> LevelLines(int halfHeight, int leastDistance);
+
+} // namespace workbench

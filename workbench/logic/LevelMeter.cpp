@@ -1,0 +1,34 @@
+#include "logic/LevelMeter.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace workbench
+{
+
+double AmplitudeToDecibels(double amplitude)
+{
+    return amplitude > 0.0 ? 20.0 * std::log10(amplitude) : -std::numeric_limits<double>::infinity();
+}
+
+void LevelMeter::Add(std::span<double const> samples)
+{
+    // A sum of its own for each call keeps the rounding small in long recordings.
+    double sum = 0.0;
+    for (auto const sample : samples)
+    {
+        m_peak = std::max(m_peak, std::abs(sample));
+        sum += sample * sample;
+    }
+    m_sumOfSquares += sum;
+    m_count += samples.size();
+}
+
+Levels LevelMeter::Result() const
+{
+    auto const meanSquare = m_count > 0 ? m_sumOfSquares / static_cast<double>(m_count) : 0.0;
+    return {AmplitudeToDecibels(m_peak), AmplitudeToDecibels(std::sqrt(meanSquare))};
+}
+
+} // namespace workbench

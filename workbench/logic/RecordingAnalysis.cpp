@@ -1,0 +1,79 @@
+#include "logic/RecordingAnalysis.h"
+
+#include "logic/TextFormat.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace workbench
+{
+
+namespace
+{
+
+constexpr std::size_t c_samplesPerStep = 32768;
+
+} // namespace
+
+std::wstring RecordingAnalysis::StatusText() const
+{
+    if (problem)
+    {
+        return problem->Text();
+    }
+    if (info.IsCutOff())
+    {
+        return L"cut off, should be " + FormatDuration(info.announcedFrames, info.sampleRate);
+    }
+    if (invalidSamples > 0)
+    {
+        return L"has invalid samples";
+    }
+    return L"OK";
+}
+
+RecordingAnalyser::RecordingAnalyser(std::unique_ptr<ByteSource> source)
+{
+    auto opened = WavReader::Open(std::move(source));
+    if (auto const * const problem = std::get_if<ReadProblem>(&opened))
+    {
+        m_analysis.problem = *problem;
+        return;
+    }
+    m_reader.emplace(std::move(std::get<WavReader>(opened)));
+    std::size_t const channels = m_reader->Info().channels;
+    m_waveform.emplace(channels);
+    m_samples.resize(std::max<std::size_t>(c_samplesPerStep / channels, 1) * channels);
+}
+
+RecordingAnalyser::RecordingAnalyser(std::filesystem::path const & path)
+    : RecordingAnalyser(std::unique_ptr<ByteSource>(FileByteSource::Open(path)))
+{
+}
+
+bool RecordingAnalyser::Step()
+{
+    if (!m_reader)
+    {
+        return false;
+    }
+    auto const frames = m_reader->ReadFrames(m_samples);
+    auto const samples = std::span<double const>(m_samples).first(frames * m_reader->Info().channels);
+    m_levels.Add(samples);
+    m_waveform->Add(samples);
+    return frames > 0;
+}
+
+RecordingAnalysis RecordingAnalyser::Take()
+{
+    if (m_reader)
+    {
+        m_analysis.info = m_reader->Info();
+        m_analysis.invalidSamples = m_reader->InvalidSamples();
+        m_analysis.levels = m_levels.Result();
+        m_analysis.waveform = m_waveform->Finish();
+    }
+    return std::move(m_analysis);
+}
+
+} // namespace workbench

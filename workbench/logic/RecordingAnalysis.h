@@ -1,0 +1,55 @@
+#pragma once
+// Everything the workbench knows about one recording, and the reading of it in small steps.
+
+#include "logic/LevelMeter.h"
+#include "logic/Waveform.h"
+#include "logic/WavReader.h"
+
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace workbench
+{
+
+/// The result of reading a recording: either a problem, or all the rest.
+struct RecordingAnalysis
+{
+    std::optional<ReadProblem> problem;
+    RecordingInfo info;
+    Levels levels{};
+    Waveform waveform;
+    std::uint64_t invalidSamples = 0;
+
+    /// What there is to say about the file in English: the problem, "cut off" with the duration announced,
+    /// "has invalid samples", or "OK".
+    std::wstring StatusText() const;
+};
+
+/// Reads a recording once, from front to end, in steps.
+class RecordingAnalyser
+{
+public:
+    /// Opens the source, which may be null.
+    explicit RecordingAnalyser(std::unique_ptr<ByteSource> source);
+
+    /// Opens a file.
+    explicit RecordingAnalyser(std::filesystem::path const & path);
+
+    /// Takes the next samples, some 30,000 at a time. False when everything is read; to be called until then.
+    bool Step();
+
+    /// The result, complete after `Step` gave false. It can be taken once.
+    RecordingAnalysis Take();
+
+private:
+    std::optional<WavReader> m_reader;
+    RecordingAnalysis m_analysis;
+    LevelMeter m_levels;
+    std::optional<WaveformBuilder> m_waveform;
+    std::vector<double> m_samples;
+};
+
+} // namespace workbench

@@ -1,0 +1,52 @@
+#include "logic/TextFormat.h"
+
+#include <cmath>
+#include <cwchar>
+
+namespace workbench
+{
+
+std::wstring FormatDuration(std::uint64_t frames, std::uint32_t sampleRate)
+{
+    if (sampleRate == 0)
+    {
+        return L"-";
+    }
+    auto const seconds = frames / sampleRate;
+    // The remainder is below 2^32, so that a thousand of it fits easily.
+    auto const milliseconds = seconds * 1000 + (frames % sampleRate * 1000 + sampleRate / 2) / sampleRate;
+    wchar_t text[48];
+    std::swprintf(text, std::size(text), L"%llu:%02u.%03u", static_cast<unsigned long long>(milliseconds / 60000),
+                  static_cast<unsigned>(milliseconds / 1000 % 60), static_cast<unsigned>(milliseconds % 1000));
+    return text;
+}
+
+std::wstring FormatLevel(double decibels)
+{
+    if (std::isinf(decibels) && decibels < 0.0)
+    {
+        return L"-\u221E";
+    }
+    auto const tenths = std::round(decibels * 10.0);
+    wchar_t text[64];
+    // Adding zero turns a negative zero into a plain one.
+    std::swprintf(text, std::size(text), L"%.1f", tenths / 10.0 + 0.0);
+    return text;
+}
+
+std::wstring FormatSampleRate(std::uint32_t sampleRate)
+{
+    auto text = std::to_wstring(sampleRate);
+    for (auto i = static_cast<int>(text.size()) - 3; i > 0; i -= 3)
+    {
+        text.insert(static_cast<std::size_t>(i), 1, L',');
+    }
+    return text + L" Hz";
+}
+
+std::wstring FormatCount(std::size_t count, wchar_t const * singular, wchar_t const * plural)
+{
+    return std::to_wstring(count) + L' ' + (count == 1 ? singular : plural);
+}
+
+} // namespace workbench

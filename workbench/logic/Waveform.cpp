@@ -1,0 +1,137 @@
+#include "logic/Waveform.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace workbench
+{
+
+namespace
+{
+
+MinMax Union(MinMax a, MinMax b)
+{
+    return {std::min(a.least, b.least), std::max(a.greatest, b.greatest)};
+}
+
+/// Each pair of buckets as one; an odd one at the end stays as it is.
+std::vector<MinMax> Halve(std::vector<MinMax> const & buckets)
+{
+    std::vector<MinMax> result;
+    result.reserve((buckets.size() + 1) / 2);
+    for (std::size_t i = 0; i < buckets.size(); i += 2)
+    {
+        result.push_back(i + 1 < buckets.size() ? Union(buckets[i], buckets[i + 1]) : buckets[i]);
+    }
+    return result;
+}
+
+} // namespace
+
+MinMax Waveform::Range(std::size_t lane, std::uint64_t first, std::uint64_t end) const
+{
+    if (lane >= m_lanes.size() || first >= m_frames)
+    {
+        return {};
+    }
+    auto const last = std::min(std::max(end, first + 1), m_frames) - 1;
+    auto from = static_cast<std::size_t>(first / m_framesPerBucket);
+    auto to = static_cast<std::size_t>(last / m_framesPerBucket) + 1;
+    auto result = m_lanes[lane][0][from];
+    for (auto const & level : m_lanes[lane])
+    {
+        if (from >= to)
+        {
+            break;
+        }
+        if (from % 2 == 1)
+        {
+            result = Union(result, level[from++]);
+        }
+        if (to % 2 == 1)
+        {
+            result = Union(result, level[--to]);
+        }
+        from /= 2;
+        to /= 2;
+    }
+    return result;
+}
+
+std::vector<MinMax> Waveform::Columns(std::size_t lane, std::size_t width) const
+{
+    std::vector<MinMax> columns(width);
+    // Whole frames and the remainder apart, so that the product below stays small.
+    auto const whole = width > 0 ? m_frames / width : 0;
+    auto const remainder = width > 0 ? m_frames % width : 0;
+    auto const edge = [&](std::size_t column) { return column * whole + column * remainder / width; };
+    for (std::size_t column = 0; column < width; ++column)
+    {
+        columns[column] = Range(lane, edge(column), edge(column + 1));
+    }
+    return columns;
+}
+
+WaveformBuilder::WaveformBuilder(std::size_t channels)
+    : m_channels(std::max<std::size_t>(channels, 1)),
+      m_buckets(std::min(m_channels, c_maximumLanes))
+{
+}
+
+void WaveformBuilder::StartBucket()
+{
+    if (m_buckets[0].size() == c_maximumBuckets)
+    {
+        for (auto & lane : m_buckets)
+        {
+            lane = Halve(lane);
+        }
+        m_framesPerBucket *= 2;
+    }
+    m_framesInBucket = 0;
+}
+
+void WaveformBuilder::Add(std::span<double const> samples)
+{
+    for (std::size_t i = 0; i + m_channels <= samples.size(); i += m_channels)
+    {
+        if (m_framesInBucket == 0 || m_framesInBucket == m_framesPerBucket)
+        {
+            StartBucket();
+        }
+        for (std::size_t lane = 0; lane < m_buckets.size(); ++lane)
+        {
+            auto const value = static_cast<float>(samples[i + lane]);
+            if (m_framesInBucket == 0)
+            {
+                m_buckets[lane].push_back({value, value});
+            }
+            else
+            {
+                m_buckets[lane].back() = Union(m_buckets[lane].back(), {value, value});
+            }
+        }
+        ++m_framesInBucket;
+        ++m_frames;
+    }
+}
+
+Waveform WaveformBuilder::Finish()
+{
+    Waveform waveform;
+    waveform.m_frames = m_frames;
+    waveform.m_framesPerBucket = m_framesPerBucket;
+    for (auto & buckets : m_buckets)
+    {
+        auto & levels = waveform.m_lanes.emplace_back();
+        levels.push_back(std::move(buckets));
+        while (levels.back().size() > 1)
+        {
+            levels.push_back(Halve(levels.back()));
+        }
+    }
+    *this = WaveformBuilder(m_channels);
+    return waveform;
+}
+
+} // namespace workbench
