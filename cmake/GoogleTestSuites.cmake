@@ -3,7 +3,7 @@
 function(add_gtest_suites target prefix)
     cmake_parse_arguments(PARSE_ARGV 2 arg "" "TIMEOUT;LOCK" "")
     if(NOT arg_TIMEOUT)
-        set(arg_TIMEOUT 300)
+        set(arg_TIMEOUT 90)
     endif()
     get_target_property(sources ${target} SOURCES)
     set(suites)

@@ -97,14 +97,20 @@ prepare_prefix() {
         done
         touch "$WINEPREFIX/prepared"
     fi
+    # The desktop is chosen when the first program starts, so the server is ended once the registry says which.
+    local desktop='HKCU\Software\Wine\Explorer'
+    if [ -n "${2:-}" ]; then
+        wine reg add "$desktop" /v Desktop /d Default /f >/dev/null 2>&1
+        wine reg add "$desktop\Desktops" /v Default /d "$2" /f >/dev/null 2>&1
+    else
+        wine reg delete "$desktop" /v Desktop /f >/dev/null 2>&1
+    fi
+    wineserver -k
+    wineserver -w
     wineserver -p
     wine_started=1
-    if [ -n "${2:-}" ]; then
-        wine reg add 'HKCU\Software\Wine\Explorer' /v Desktop /d Default /f >/dev/null 2>&1
-        wine reg add 'HKCU\Software\Wine\Explorer\Desktops' /v Default /d "$2" /f >/dev/null 2>&1
-    else
-        wine reg delete 'HKCU\Software\Wine\Explorer' /v Desktop /f >/dev/null 2>&1 || true
-    fi
+    # The first window brings the desktop process, which would hold the output of the program that it is started for.
+    wine rundll32 user32.dll,GetDesktopWindow </dev/null >/dev/null 2>&1
 }
 
 # Ends what this run started, and nothing else.

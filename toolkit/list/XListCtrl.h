@@ -1,0 +1,402 @@
+#pragma once
+
+#include <afxcmn.h>
+
+#include <functional>
+#include <map>
+#include <utility>
+#include <vector>
+
+#include "frame/Export.h"
+#include "list/XHeaderCtrl.h"
+#include "list/XListColumnFit.h"
+#include "list/XListCtrlData.h"
+#include "list/XListRowPool.h"
+
+namespace XListCtrl
+{
+class CXCombo;
+class CXEdit;
+} // namespace XListCtrl
+
+/// A report list whose every cell is a small typed object: text, number, date, check box, radio button, in-place edit,
+/// combo box, hyperlink, progress bar or custom-drawn area.
+///
+/// Rows and columns count from 0; lengths are in pixels, colours 0x00BBGGRR. Every operation that writes what the user
+/// can see repaints the cell, unless it says otherwise. A row or column that does not exist gives false, -1, 0, null or
+/// an empty text, and changes nothing. Columns come first, rows after: inserting columns into a filled list leaves its
+/// rows short. The list owns its rows and cells for its own life and recycles them. For the user-interface thread alone.
+class INSTRUMENT_UI_API CXListCtrl : public CListCtrl
+{
+    DECLARE_DYNAMIC(CXListCtrl)
+
+public:
+    CXListCtrl();
+    CXListCtrl(CXListCtrl const &) = delete;
+    CXListCtrl & operator=(CXListCtrl const &) = delete;
+    ~CXListCtrl() override;
+
+    /// A left click on an enabled cell, before the cell acts: row, column.
+    std::function<void(int, int)> m_onCellClick;
+    /// The user changed a cell: row, column.
+    std::function<void(int, int)> m_onStateChange;
+    /// A double click on a cell: row, column.
+    std::function<void(int, int)> m_onDoubleClick;
+    /// A drop swapped two rows.
+    std::function<void(int, int)> m_onRowsSwapped;
+    /// Its presence enables the context menu: command, row, column.
+    std::function<void(int, int, int)> m_onContextCommand;
+
+    // --- Columns ---
+
+    /// Adds a column behind the last one; its index.
+    int AddColumn(wchar_t const * title, int format, int width);
+    /// One less than the index at which the column landed, which is meant; -1 without a header.
+    int InsertColumn(int col, wchar_t const * title, int format, int width, int subItem);
+    int GetColumnCount() const;
+    /// Deletes all rows as well.
+    void DeleteAllColumns();
+    /// Sets the width, or what an auto-size constant gives, plus twice the header's spacing. The last native result.
+    virtual int SetColumnWidth(int col, int width);
+    /// Fits all columns to the window, so that no horizontal scroll bar appears. col takes up the difference first, if it
+    /// can; negative: all columns share it.
+    void AutosizeColumnWidth(int col);
+
+    // --- Rows ---
+
+    /// A negative position means behind the last row. The index of the row, or the negative native result. Only the first
+    /// cell gets the colours. ptr and data are the row's words; ptr is not owned.
+    int InsertItem(int pos, wchar_t const * text, COLORREF textColor, COLORREF background, void const * ptr,
+                   long long data);
+    int InsertItem(int pos, wchar_t const * text, void const * ptr, long long data);
+    /// The same behind the last row.
+    int AddItem(wchar_t const * text, void const * ptr, long long data);
+    /// lParam becomes the row's pointer word. A negative iItem gives -1.
+    int InsertItem(LVITEMW const * item);
+    int DeleteItem(int row);
+    int DeleteAllItems();
+    /// While on, no operation repaints its cell; the model changes at once all the same. Switching it off repaints all.
+    void SetBatchInsertMode(bool on);
+    /// Enables every cell and the window itself.
+    void EnableAll(bool enable);
+    void DisableAll(bool disable);
+
+    // --- Selection ---
+
+    /// The next selected row behind that one, -1 for the first; -1 if there is none.
+    int GetCurSel(int after) const;
+    int GetSelectedItem() const;
+    int GetSelectedItemAfter(int row) const;
+    /// Selects and focuses the row; a negative row clears as SetNoSelection does.
+    bool SetCurSel(int row, bool ensureVisible);
+    /// Clears the first selected row only; it is meant that others stay.
+    void SetNoSelection();
+
+    // --- Text and values ---
+
+    /// The cell becomes a text.
+    bool SetItemText(int row, int col, wchar_t const * text);
+    /// A null text leaves the text alone; a colour of -1 stands for the list's own. The value type stays.
+    bool SetItemText(int row, int col, wchar_t const * text, COLORREF textColor, COLORREF background);
+    bool SetItemText(int row, int col, int value);
+    /// format is printf-style; null for "%5.2f". A text of more than 49 characters is cut.
+    bool SetItemText(int row, int col, float value, wchar_t const * format);
+    /// Shows the text and keeps the value behind it; without a text, as SetItemText with the default format.
+    bool SetItemFloatVal(int row, int col, float value, wchar_t const * text);
+    /// Keeps the time only: neither text nor screen change.
+    bool SetItemDatetime(int row, int col, CTime time);
+    /// iImage becomes the cell's image, also where the structure doesn't ask for one, which is meant. 1 on success, -1 for
+    /// a negative iItem, else 0.
+    int SetItem(LVITEMW const * item);
+    bool SetItemImage(int row, int col, int image);
+
+    // --- Kinds of cell ---
+
+    bool SetEdit(int row, int col, bool on);
+    /// setColor: the text becomes blue, or black again.
+    bool SetHyperlink(int row, int col, bool on, bool setColor);
+    /// format: printf-style with one int, for the text on the bar; empty or null for percent.
+    bool SetProgress(int row, int col, bool showText, wchar_t const * format);
+    /// value is in percent, from 0 on, without an upper limit; displayValue is what the cell's own format is given.
+    void UpdateProgress(int row, int col, int value, int displayValue);
+    void DeleteProgress(int row, int col);
+    bool SetCustomDraw(int row, int col, std::function<void(int, int, CDC *, CRect const &)> painter);
+    void UpdateCustomDraw(int row, int col);
+    /// Does not repaint.
+    void RemoveCustomDraw(int row, int col);
+    /// Keeps the pointers, not the texts, which must outlive the cell's use of them. Without entries the cell is plain.
+    bool SetComboBox(int row, int col, std::map<int, wchar_t const *> const & strings, int selectedId, int defaultId);
+    /// strings may be null; else it must outlive the cell unchanged.
+    bool SetComboBox(int row, int col, std::map<int, CString> const * strings, int selectedId, int defaultId);
+    /// With the list's shared table, which is filled before.
+    bool SetComboBoxGlobalStrings(int row, int col, int selectedId, int defaultId);
+    /// Does not repaint.
+    bool SetComboStyle(int row, int col, bool sorted, int visibleItems);
+    /// An unknown id selects the default id and empties the text shown, which is meant.
+    bool SetComboSelection(int row, int col, int id);
+    bool SetComboSelection(int row, int col, CString const & text);
+    int GetComboCurSel(int row, int col) const;
+    CString GetComboText(int row, int col);
+
+    // --- The list's shared combo strings ---
+
+    void GlobalComboStringsReset();
+    /// An id that is there keeps its text.
+    void GlobalComboStringsInsert(int id, CString const & text);
+    int GlobalComboStringsGetId(CString const & text, int fallback) const;
+    wchar_t const * GlobalComboStringsGetText(int id) const;
+
+    // --- Access to cells ---
+
+    bool IsValidItem(int row, int col) const;
+    /// The row's first cell; null if there is no such row, or none with cells.
+    XLISTCTRLDATA * GetRowData(int row);
+    XLISTCTRLDATA const * GetRowData(int row) const;
+    /// The cell; null if there is none. A negative column is not tested.
+    XLISTCTRLDATA * GetRowItemData(int row, int col);
+    XLISTCTRLDATA const * GetRowItemData(int row, int col) const;
+    /// Without any range test; null only for a row without cells.
+    XLISTCTRLDATA * GetRowItemDataDirect(int row, int col);
+
+    // --- Row words and keys; none of the writers repaints ---
+
+    bool SetItemData(int row, long long data);
+    bool SetItemData(int row, int data);
+    bool SetItemData(int row, unsigned int data);
+    bool SetItemData(int row, int low, int high);
+    long long GetItemData64(int row) const;
+    /// The low 32 bits.
+    int GetItemData(int row) const;
+    /// The high 32 bits.
+    int GetItemData2(int row) const;
+    bool SetItemDataPtr(int row, void const * ptr);
+    void * GetItemDataPtr(int row) const;
+    /// Eight numbers.
+    bool SetItemIdx8(int row, int const * key);
+    bool GetItemIdx8(int row, int * key) const;
+    /// The first six of the eight.
+    bool SetItemClavis(int row, int const * key);
+    bool GetItemClavis(int row, int * key) const;
+    /// The first row from the top; -1 if there is none.
+    int FindDataItem(long long data) const;
+    int FindDataItem(int data) const;
+    int FindDataItem(unsigned long data) const;
+    int FindDataItemPtr(void const * ptr) const;
+    int FindDataItemClavis(int const * key) const;
+    /// The low 32 bits of the selected row's word, with their sign.
+    long long GetSelectedItemData(long long fallback) const;
+    void * GetSelectedItemDataPtr() const;
+
+    // --- Properties (the XLP_ bits) ---
+
+    void SetItemProperty(int row, int col, unsigned int bits, bool on);
+    /// True if any of the bits is set.
+    bool GetItemProperty(int row, int col, unsigned int bits) const;
+    /// Every column; does not repaint.
+    void SetRowProperty(int row, unsigned int bits, bool on);
+    /// Always true.
+    bool SetBold(int row, int col, bool bold);
+    bool GetBold(int row, int col) const;
+    void SetModified(int row, int col, bool modified);
+    bool GetModified(int row, int col) const;
+    bool SetEnabled(int row, int col, bool enabled);
+    bool SetEnabled(int row, bool enabled);
+    bool GetEnabled(int row, int col) const;
+    /// True as soon as one cell of the row is enabled.
+    bool GetEnabled(int row) const;
+    /// An XLV_ type; does not repaint.
+    void SetItemValueType(int row, int col, unsigned int type);
+    unsigned int GetItemValueType(int row, int col);
+    void SetRowColors(int row, COLORREF text, COLORREF background);
+    void SetItemColors(int row, int col, COLORREF text, COLORREF background, COLORREF gradient);
+    /// Both outputs are 0 where the result is false.
+    bool GetItemColors(int row, int col, COLORREF & text, COLORREF & background) const;
+
+    // --- Check boxes and radio buttons (the XLC_ states) ---
+
+    /// XLC_NONE, XLC_UNCHECKED, XLC_CHECKED or XLC_CROSSED; false for any other.
+    bool SetCheckbox(int row, int col, int state);
+    int GetCheckbox(int row, int col) const;
+    int GetItemCheckedState(int row, int col) const;
+    /// Any value; the cell's properties stay.
+    void SetItemCheckedState(int row, int col, int state);
+    /// XLC_NONE, XLC_RADIO_ON or XLC_RADIO_OFF. On switches the column's present radio row off.
+    bool SetRadioButton(int row, int col, int state);
+    bool GetItemRadioOn(int row, int col) const;
+    int GetActiveRadioItem(int col) const;
+    /// Rows whose cell has that state. XLC_NONE counts every row; another negative state every check or radio cell.
+    unsigned long long CountCheckedItems(int col, int state) const;
+
+    // --- Look ---
+
+    /// The LVS_ display type; only LVS_REPORT has the behaviour of cells.
+    void SetDisplayStyle(long style);
+    long GetDisplayStyle();
+    void SetFullRowSelect();
+    void SetHoverSelection();
+    void SetWithCheckboxes();
+    void SetWithGridlines();
+    /// The former setting. Does not repaint.
+    bool SetEllipsis(bool ellipsis);
+    bool GetEllipsis() const;
+    /// Room left and right of a cell's text. Does not repaint.
+    void SetCellPadding(int padding);
+    int GetCellPadding() const;
+    void SetEmptyListText(CString const & text);
+    void SetEmptyListTextDefault();
+    void SetListModified(bool modified);
+    bool GetListModified() const;
+    /// Repaints one cell, or the whole row for column -1. Does nothing in batch mode.
+    void UpdateSubItem(int row, int col);
+
+    // --- Header ---
+
+    void SetHeaderAlignment(unsigned int alignment);
+    void SetHeaderTextColor(COLORREF color);
+    void SetHeaderUseImageList(bool use);
+    void SetHeaderDirectColumnClick();
+    /// Check boxes in the header follow their column's cells and drive them.
+    void SetHeaderAutoCheckbox(bool on);
+    /// An XHC_ state; false for any other.
+    bool SetHeaderCheckedState(int col, int state);
+    int GetHeaderCheckedState(int col) const;
+    /// Takes check boxes away as well as sort arrows.
+    void SetHeaderRemoveAllMarks();
+
+    // --- Mouse, menu and tooltips ---
+
+    /// Calls m_onStateChange and posts the message (row, column) to the parent, else to the owner.
+    virtual void OnItemStateChange(int row, int col, unsigned int message);
+    /// What a click on a column's header does; the header calls it.
+    void OnHeaderColumnClick(int col);
+    /// The row at a client point and its column; -1 off any cell.
+    int GetPointItem(CPoint const & point, int & col);
+    /// The menu that the host fills. It has no handle in a list from a dialog template.
+    CMenu & PopUpMenu();
+    /// Call it before the window is subclassed or created.
+    void EnableItemToolTipps();
+    void SetDefaultToolTipText(wchar_t const * text);
+    /// It is meant that only the tooltip of column 1 shows, over all cells of the row.
+    bool SetItemToolTipText(int row, int col, wchar_t const * text);
+    CString GetItemToolTipText(int row, int col);
+    void DeleteAllToolTips();
+    INT_PTR OnToolHitTest(CPoint point, TOOLINFO * info) const override;
+
+protected:
+    virtual BOOL OnToolTipText(UINT id, NMHDR * header, LRESULT * result);
+    void PreSubclassWindow() override;
+    BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT * result) override;
+
+    /// Row and column at a client point; (-1, -1) off any cell.
+    std::pair<int, int> GetItem(CPoint const & point);
+    /// A cell's rectangle; area is an LVIR_ constant. Column 0 ends where the next column begins.
+    bool GetSubItemRect(int row, int col, int area, CRect & rect) const;
+    bool InitializeComboBox(int row, int col, int selectedId, int defaultId);
+    void SubclassHeaderControl();
+
+    // The editors open with these.
+    void DrawEditControl(int row, int col);
+    void DrawComboBoxControl(int row, int col);
+
+    // Painting. cells is the row's first cell; nothing is drawn into an empty rectangle or without cells or context.
+    void GetColors();
+    void GetDrawColors(int row, int col, COLORREF & text, COLORREF & background);
+    /// The width used.
+    int DrawImage(int row, int col, CDC * dc, COLORREF text, COLORREF background, CRect rect, XLISTCTRLDATA * cells);
+    void DrawTextW(int row, int col, CDC * dc, COLORREF text, COLORREF background, CRect & rect,
+                   XLISTCTRLDATA * cells);
+    void DrawCheckbox(int row, int col, CDC * dc, COLORREF text, COLORREF background, CRect & rect,
+                      XLISTCTRLDATA * cells);
+    void DrawCheckboxBox(CRect & box, int state, bool enabled, CDC * dc);
+    void DrawRadioBox(CRect & box, int state, bool enabled, CDC * dc);
+    void DrawComboBox(int row, int col, CDC * dc, COLORREF text, COLORREF background, CRect & rect,
+                      XLISTCTRLDATA * cells);
+    void DrawProgress(int row, int col, CDC * dc, COLORREF text, COLORREF background, CRect & rect,
+                      XLISTCTRLDATA * cells);
+
+    afx_msg BOOL OnClick(NMHDR * header, LRESULT * result);
+    afx_msg BOOL OnColumnClick(NMHDR * header, LRESULT * result);
+    afx_msg int OnCreate(LPCREATESTRUCT create);
+    afx_msg void OnCustomDraw(NMHDR * header, LRESULT * result);
+    afx_msg void OnDestroy();
+    afx_msg void OnLButtonDown(UINT flags, CPoint point);
+    afx_msg void OnLButtonUp(UINT flags, CPoint point);
+    afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
+    afx_msg void OnPaint();
+    afx_msg void OnSysColorChange();
+    afx_msg BOOL OnEraseBkgnd(CDC * dc);
+    afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
+    afx_msg void OnRButtonDown(UINT flags, CPoint point);
+    afx_msg void OnNcLButtonDown(UINT hitTest, CPoint point);
+    afx_msg void OnMouseMove(UINT flags, CPoint point);
+    afx_msg void OnContextMenu(CWnd * window, CPoint point);
+    afx_msg void OnTimer(UINT_PTR id);
+    afx_msg LRESULT OnComboEscape(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnComboComplete(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnXEditKillFocus(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnXEditEscape(WPARAM wParam, LPARAM lParam);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    /// The row object in the native item; null where there is none.
+    XLISTCTRLROW * RowOf(int row) const;
+    /// The cell if row and column are in range and the row reaches that far, else null.
+    XLISTCTRLDATA * ValidCell(int row, int col) const;
+    bool StoreNewRow(int row, COLORREF text, COLORREF background, int image, void const * ptr, long long data);
+    /// Recomputes the state of a column's header from its cells, where the header follows them.
+    void UpdateHeaderFromCells(int col);
+    void PostToParent(unsigned int message, WPARAM wParam, LPARAM lParam) const;
+    void FillCell(int row, int col, CDC & dc, COLORREF background, CRect const & rect, XLISTCTRLDATA const & cell);
+    /// DrawText format of a column's texts.
+    UINT TextFormat(int col) const;
+
+    CXHeaderCtrl m_header;
+    int m_columnCount = 0;
+    CString m_emptyListText;
+    int m_sortColumn = -1;
+    bool m_sortAscending = true;
+    CXListRowPool m_rowPool;
+    bool m_headerSubclassed = false;
+    bool m_ellipsis = true;
+    bool m_listModified = false;
+    bool m_itemToolTips = false;
+    CString m_defaultToolTipText;
+    bool m_batchInsert = false;
+    int m_cellPadding = 5;
+    CString m_savedText;
+    bool m_headerAutoCheckbox = false;
+    std::vector<int> m_columnWidths;
+    CColumnFitMemory m_widthMemory;
+    XListCtrl::CXEdit * m_edit = nullptr;
+    int m_editRow = 0;
+    int m_editCol = 0;
+    XListCtrl::CXCombo * m_combo = nullptr;
+    int m_comboRow = 0;
+    int m_comboCol = 0;
+    CRect m_comboRect;
+    std::map<int, CString> m_globalComboStrings;
+
+    COLORREF m_colorFace;
+    COLORREF m_colorEdgeHighlight;
+    COLORREF m_colorEdgeShadow;
+    COLORREF m_colorActiveCaption;
+    COLORREF m_colorInactiveSelection;
+    COLORREF m_colorBarFrame;
+    COLORREF m_colorButtonText;
+    COLORREF m_colorDisabled;
+    COLORREF m_colorSelection;
+    COLORREF m_colorSelectionText;
+    COLORREF m_colorInactiveCaption;
+    COLORREF m_colorInactiveCaptionText;
+    COLORREF m_colorWindow;
+    COLORREF m_colorWindowText;
+    COLORREF m_colorCheckFrame;
+    COLORREF m_colorCheckMark;
+
+    bool m_dragEnabled = false;
+    int m_dragSource = -1;
+    int m_dropTarget = -1;
+    long long m_dragCursor = 32512;
+    CImageList m_dragImage;
+    CMenu m_popupMenu;
+};
