@@ -1,5 +1,6 @@
 // The main program of the window tests: GoogleTest within an application of the framework.
 
+#include "ChildProgram.h"
 #include "TestApp.h"
 
 #include <framework_testing.h>
@@ -67,6 +68,8 @@ int main(int argc, char ** argv)
         std::fprintf(stderr, "the framework could not be initialised\n");
         return 2;
     }
+    if (std::optional<int> const exitCode = tests::RunAsChild())
+        return *exitCode;
     testing::UnitTest::GetInstance()->listeners().Append(new LeftOverCheck);
     int const result = RUN_ALL_TESTS();
     g_app.ExitInstance();

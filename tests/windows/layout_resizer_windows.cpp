@@ -11,7 +11,7 @@
 #include "MemoryPreferenceStore.h"
 #include "ScopedWindow.h"
 #include "layout/DialogResizer.h"
-#include "suite_ChildProgram.h"
+#include "ChildProgram.h"
 
 namespace
 {
@@ -320,15 +320,16 @@ TEST(LayoutLimits, TheSystemKeepsToTheTrackSizes)
 }
 
 // What the next test starts: a window object without a window.
-TEST(LayoutAssertion, DISABLED_ConstructsOnADeadWindow)
+CHILD_PROGRAM(ConstructsOnADeadWindow)
 {
     CWnd dead;
     CDialogResizer const resizer(dead, L"");
+    return 0;
 }
 
 TEST(LayoutAssertion, ADeadWindowIsReportedByTheRuntime)
 {
-    tests::ChildProgram child("LayoutAssertion.DISABLED_ConstructsOnADeadWindow");
+    tests::ChildProgram child("ConstructsOnADeadWindow");
     ASSERT_TRUE(child.WaitForEnd());
     EXPECT_NE(child.ExitCode(), 0U);
     std::string const text = child.ErrorText();

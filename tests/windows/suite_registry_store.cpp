@@ -11,9 +11,9 @@
 #include <string>
 #include <vector>
 
+#include "ChildProgram.h"
 #include "PreferenceValueNames.h"
 #include "RegistryPreferenceStore.h"
-#include "suite_ChildProgram.h"
 
 namespace
 {
@@ -37,36 +37,28 @@ private:
     HANDLE m_event;
 };
 
+std::wstring SignalName(std::wstring const & subkey, wchar_t const * name)
+{
+    std::wstring result = subkey + name;
+    for (wchar_t & unit : result)
+    {
+        if (unit == L'\\')
+            unit = L'/';
+    }
+    return result;
+}
+
 class SuiteRegistryStore : public testing::Test
 {
 protected:
     void TearDown() override
     {
-        if (m_parent)
-            ::RegDeleteTreeW(HKEY_CURRENT_USER, tests_key);
+        ::RegDeleteTreeW(HKEY_CURRENT_USER, tests_key);
     }
 
     static std::wstring OwnSubkey()
     {
         return std::wstring(tests_key) + L"\\Process " + std::to_wstring(::GetCurrentProcessId()) + L"\\Preferences";
-    }
-
-    /// In a child: the parent's subkey, which the child leaves as it is.
-    std::wstring ParentSubkey()
-    {
-        m_parent = false;
-        return tests::ChildProgram::Argument();
-    }
-
-    static std::wstring SignalName(std::wstring const & subkey, wchar_t const * name)
-    {
-        std::wstring result = subkey + name;
-        for (wchar_t & unit : result)
-        {
-            if (unit == L'\\')
-                unit = L'/';
-        }
-        return result;
     }
 
     LSTATUS WriteRaw(wchar_t const * name, DWORD type, void const * data, DWORD size)
@@ -94,7 +86,6 @@ protected:
     }
 
     std::wstring const m_subkey = OwnSubkey();
-    bool m_parent = true;
 };
 } // namespace
 
@@ -331,22 +322,22 @@ TEST_F(SuiteRegistryStore, DeniedAccessIsToldAndChangesNothing)
 }
 
 // The other program of the next test: writes, tells that it has written, and waits to be killed.
-TEST_F(SuiteRegistryStore, DISABLED_ChildWritesAndWaits)
+CHILD_PROGRAM(WritesAndWaits)
 {
-    std::wstring const subkey = ParentSubkey();
-    RegistryPreferenceStore store(subkey.c_str());
+    RegistryPreferenceStore store(argument.c_str());
     store.LookupSetInt(L"Written", 4711, 0);
     store.LookupSetBool(L"Written", true, 1);
     store.CreateEntry(L"Entry", 0)->SetInt(-5, 2);
-    Signal written(SignalName(subkey, L"written"));
+    Signal written(SignalName(argument, L"written"));
     written.Give();
     ::Sleep(60000);
+    return 0;
 }
 
 TEST_F(SuiteRegistryStore, WhatAKilledProgramHasWrittenStays)
 {
     Signal written(SignalName(m_subkey, L"written"));
-    tests::ChildProgram child("SuiteRegistryStore.DISABLED_ChildWritesAndWaits", m_subkey);
+    tests::ChildProgram child("WritesAndWaits", m_subkey);
     ASSERT_TRUE(child.Started());
     ASSERT_TRUE(written.Await());
     child.Kill();
@@ -358,20 +349,22 @@ TEST_F(SuiteRegistryStore, WhatAKilledProgramHasWrittenStays)
 
 // The other program of the next test: changes one value again and again, and counts another up, until it is told to
 // end.
-TEST_F(SuiteRegistryStore, DISABLED_ChildWritesAllTheTime)
+CHILD_PROGRAM(WritesAllTheTime)
 {
-    std::wstring const subkey = ParentSubkey();
-    RegistryPreferenceStore store(subkey.c_str());
-    Signal end(SignalName(subkey, L"end"));
+    RegistryPreferenceStore store(argument.c_str());
+    Signal end(SignalName(argument, L"end"));
     int count = 0;
     while (!end.Given())
     {
-        ASSERT_EQ(store.LookupSetInt(L"Pattern", count % 2 == 0 ? first_pattern : second_pattern, 0), lookup::success);
-        ASSERT_EQ(store.LookupSetInt(L"Child", ++count, 0), lookup::success);
+        if (store.LookupSetInt(L"Pattern", count % 2 == 0 ? first_pattern : second_pattern, 0) != lookup::success ||
+            store.LookupSetInt(L"Child", ++count, 0) != lookup::success)
+            return 1;
     }
     // What the parent has written meanwhile is seen here.
-    EXPECT_EQ(store.LookupGetInt(L"Parent", 0, -1), 1000);
-    EXPECT_EQ(store.LookupSetInt(L"Child", count, 1), lookup::success);
+    return store.LookupGetInt(L"Parent", 0, -1) == 1000 &&
+                   store.LookupSetInt(L"Child", count, 1) == lookup::success
+               ? 0
+               : 2;
 }
 
 TEST_F(SuiteRegistryStore, TwoProgramsWriteAtOnce)
@@ -380,7 +373,7 @@ TEST_F(SuiteRegistryStore, TwoProgramsWriteAtOnce)
     RegistryPreferenceStore store(m_subkey.c_str());
     ASSERT_EQ(store.LookupSetInt(L"Pattern", first_pattern, 0), lookup::success);
     EXPECT_EQ(store.LookupGetInt(L"Child", 0, 0), 0) << "read before, so that a kept value would show";
-    tests::ChildProgram child("SuiteRegistryStore.DISABLED_ChildWritesAllTheTime", m_subkey);
+    tests::ChildProgram child("WritesAllTheTime", m_subkey);
     ASSERT_TRUE(child.Started());
     ULONGLONG const limit = ::GetTickCount64() + 60000;
     while (store.LookupGetInt(L"Child", 0, 0) == 0 && ::GetTickCount64() < limit)

@@ -1,12 +1,29 @@
-#include "suite_ChildProgram.h"
+#include "ChildProgram.h"
+
+#include <map>
 
 namespace tests
 {
 namespace
 {
+constexpr wchar_t name_variable[] = L"TEST_CHILD_NAME";
 constexpr wchar_t argument_variable[] = L"TEST_CHILD_ARGUMENT";
+constexpr int unknown_child_exit_code = 98;
 constexpr DWORD time_limit = 60000; // ms
 constexpr UINT killed_exit_code = 99;
+
+std::wstring Variable(wchar_t const * name)
+{
+    wchar_t value[1024];
+    DWORD const length = ::GetEnvironmentVariableW(name, value, 1024);
+    return std::wstring(value, length < 1024 ? length : 0);
+}
+
+std::map<std::string, ChildFunction> & Children()
+{
+    static std::map<std::string, ChildFunction> children;
+    return children;
+}
 
 std::wstring ProgramPath()
 {
@@ -16,7 +33,7 @@ std::wstring ProgramPath()
 }
 } // namespace
 
-ChildProgram::ChildProgram(std::string const & test, std::wstring const & argument)
+ChildProgram::ChildProgram(std::string const & name, std::wstring const & argument)
 {
     SECURITY_ATTRIBUTES inherited{sizeof(inherited), nullptr, TRUE};
     HANDLE errors = nullptr;
@@ -29,8 +46,8 @@ ChildProgram::ChildProgram(std::string const & test, std::wstring const & argume
     startup.dwFlags = STARTF_USESTDHANDLES;
     startup.hStdOutput = errors;
     startup.hStdError = errors;
-    std::wstring command = L"\"" + ProgramPath() + L"\" --gtest_also_run_disabled_tests --gtest_filter=" +
-                           std::wstring(test.begin(), test.end());
+    std::wstring command = L"\"" + ProgramPath() + L"\"";
+    ::SetEnvironmentVariableW(name_variable, std::wstring(name.begin(), name.end()).c_str());
     ::SetEnvironmentVariableW(argument_variable, argument.c_str());
     PROCESS_INFORMATION process{};
     if (::CreateProcessW(nullptr, command.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &startup, &process))
@@ -38,6 +55,7 @@ ChildProgram::ChildProgram(std::string const & test, std::wstring const & argume
         ::CloseHandle(process.hThread);
         m_process = process.hProcess;
     }
+    ::SetEnvironmentVariableW(name_variable, nullptr);
     ::SetEnvironmentVariableW(argument_variable, nullptr);
     ::CloseHandle(errors);
 }
@@ -81,10 +99,17 @@ std::string ChildProgram::ErrorText()
     return text;
 }
 
-std::wstring ChildProgram::Argument()
+bool RegisterChild(std::string const & name, ChildFunction function)
 {
-    wchar_t argument[1024];
-    DWORD const length = ::GetEnvironmentVariableW(argument_variable, argument, 1024);
-    return std::wstring(argument, length);
+    return Children().emplace(name, function).second;
+}
+
+std::optional<int> RunAsChild()
+{
+    std::wstring const wide = Variable(name_variable);
+    if (wide.empty())
+        return std::nullopt;
+    auto const found = Children().find(std::string(wide.begin(), wide.end()));
+    return found != Children().end() ? found->second(Variable(argument_variable)) : unknown_child_exit_code;
 }
 } // namespace tests
