@@ -1,114 +1,24 @@
 // Puts the toolkit beside the native controls and calls, in one run on real windows.
 
 #include <afxwin.h>
-#include "instrument_ui.h"
-#include "Measure.h"
+#include "ControlBench.h"
 
-#include <chrono>
-#include <memory>
 #include <regex>
 
 namespace
 {
-using Clock = std::chrono::steady_clock;
-
-template <class Work> double Nanoseconds(Work && work)
-{
-    auto const began = Clock::now();
-    work();
-    return std::chrono::duration<double, std::nano>(Clock::now() - began).count();
-}
-
-void PumpAll()
-{
-    MSG message;
-    while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE))
-    {
-        ::TranslateMessage(&message);
-        ::DispatchMessageW(&message);
-    }
-}
-
-/// 1,000 visible children in a visible window: the resizer's layout beside the same MoveWindow calls alone.
-/// Both sides move the same windows between the same two sizes in turns; each side makes each way as often.
-bool LayoutOf1000Children()
-{
-    constexpr int childCount = 1000;
-    constexpr int rounds = 12;
-    CWnd parent;
-    if (!parent.CreateEx(0, AfxRegisterWndClass(0), L"layout", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 50, 50, 640, 520,
-                         nullptr, nullptr))
-        return false;
-
-    std::vector<std::unique_ptr<CWnd>> children;
-    CEdges const edges[] = {CEdges::BOTTOM_RIGHT(), CEdges::TOP_LEFT_BOTTOM_RIGHT(), CEdges::HORI_CENTER(),
-                            CEdges::BOTTOM_THIRD(), CEdges::RIGHT_HALF()};
-    CDialogResizer resizer(parent, CString());
-    for (int i = 0; i < childCount; ++i)
-    {
-        children.push_back(std::make_unique<CWnd>());
-        int const x = i % 40 * 15;
-        int const y = i / 40 * 18;
-        if (!children.back()->Create(L"STATIC", L"", WS_CHILD | WS_VISIBLE, CRect(x, y, x + 14, y + 16), &parent,
-                                     static_cast<UINT>(100 + i)))
-            return false;
-        resizer.PositionChild(children.back().get(), edges[i % 5], nullptr);
-    }
-
-    struct Place
-    {
-        HWND window;
-        CRect rect;
-    };
-    CSize const sizes[] = {CSize(700, 560), CSize(820, 660)};
-    std::vector<Place> places[2];
-    for (int s = 0; s < 2; ++s)
-    {
-        parent.SetWindowPos(nullptr, 0, 0, sizes[s].cx, sizes[s].cy, SWP_NOMOVE | SWP_NOZORDER);
-        resizer.OnSize();
-        for (CWnd * child = parent.GetWindow(GW_CHILD); child != nullptr; child = child->GetWindow(GW_HWNDNEXT))
-        {
-            CRect rect;
-            child->GetWindowRect(rect);
-            parent.ScreenToClient(rect);
-            places[s].push_back({child->m_hWnd, rect});
-        }
-        PumpAll();
-    }
-
-    std::vector<double> ours;
-    std::vector<double> reference;
-    for (int round = 0; round < rounds; ++round)
-    {
-        for (int s = 0; s < 2; ++s)
-        {
-            // In even rounds the resizer goes to the first size and the plain calls to the second; then the reverse.
-            bool const resizerGoes = (s == 0) == (round % 2 == 0);
-            parent.SetWindowPos(nullptr, 0, 0, sizes[s].cx, sizes[s].cy, SWP_NOMOVE | SWP_NOZORDER);
-            PumpAll();
-            if (resizerGoes)
-                ours.push_back(Nanoseconds([&] { resizer.OnSize(); }));
-            else
-                reference.push_back(Nanoseconds([&] {
-                    for (Place const & place : places[s])
-                        ::MoveWindow(place.window, place.rect.left, place.rect.top, place.rect.Width(),
-                                     place.rect.Height(), TRUE);
-                }));
-            PumpAll();
-        }
-    }
-    parent.DestroyWindow();
-    return bench::Report("layout of 1,000 children beside 1,000 MoveWindow calls, a child",
-                         bench::Median(ours) / childCount, bench::Median(reference) / childCount, 1.05);
-}
-
 struct Measure
 {
     char const * name;
     bool (*run)();
 };
 constexpr Measure measures[] = {
-    {"layout", LayoutOf1000Children},
+    {"layout", bench::LayoutOf1000Children},
+    {"list-fill", bench::FillingAList},
+    {"list-refill", bench::RefillingAList},
+    {"list-memory", bench::MemoryOfARow},
+    {"list-paint", bench::PaintingAPageOfText},
+    {"list-kinds", bench::PaintingPagesOfOtherKinds},
 };
 } // namespace
 

@@ -33,6 +33,17 @@ inline bool Report(std::string const & name, double ours, double reference, doub
     return met;
 }
 
+/// The same for whole numbers of something, the goal being the greatest number allowed.
+inline bool ReportCount(std::string const & name, unsigned long long ours, unsigned long long reference,
+                        unsigned long long goal)
+{
+    bool const met = ours <= goal;
+    std::printf("%s | %llu | %llu | %.3f | %llu | %s\n", name.c_str(), ours, reference,
+                static_cast<double>(ours) / static_cast<double>(reference), goal, met ? "met" : "missed");
+    std::fflush(stdout);
+    return met;
+}
+
 /// The same for a goal that is a number of nanoseconds.
 inline bool ReportTime(std::string const & name, double ours, double reference, double goal)
 {

@@ -10,7 +10,7 @@ fail() { printf 'error: %s\n' "$*" >&2; exit 1; }
 # install_packages NAME...: installs those of the Debian packages that are missing.
 install_packages() {
     local missing=() name
-    for name in "$@"; do
+    for name in $(printf '%s\n' "$@" | sort -u); do
         [ "$(dpkg-query -W -f='${db:Status-Status}' "$name" 2>/dev/null)" = installed ] || missing+=("$name")
     done
     [ ${#missing[@]} -gt 0 ] || return 0
@@ -26,9 +26,9 @@ install_packages() {
         >>"$log" 2>&1 || { tail -n 20 "$log" >&2; fail "installing packages failed; the whole log is $log"; }
 }
 
-packages_windows=(cmake ninja-build ccache make g++-mingw-w64-x86-64-posix wine64 wine fonts-wine xvfb xauth librsvg2-bin
-    icoutils imagemagick alsa-utils googletest)
+packages_windows=(cmake ninja-build ccache g++-mingw-w64-x86-64-posix wine64 wine fonts-wine xvfb xauth googletest)
 packages_logic=(cmake ninja-build ccache g++ clang libclang-rt-14-dev googletest)
+packages_workbench=(imagemagick alsa-utils)
 
 # run_logged TITLE LOG COMMAND...: runs a long step; its progress lines go to the terminal, all else to the log.
 run_logged() {

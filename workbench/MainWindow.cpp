@@ -1,3 +1,5 @@
+// The main window's life, layout and commands; what it does with recordings is in MainWindowRecordings.cpp.
+
 #include "MainWindow.h"
 
 #include <shellapi.h>
@@ -6,8 +8,7 @@
 #include <array>
 
 #include "FileDialogs.h"
-#include "logic/RecordingFiles.h"
-#include "logic/TextFormat.h"
+#include "frame/RegisteredMessages.h"
 #include "resource.h"
 
 namespace
@@ -23,16 +24,16 @@ constexpr int c_margin = 7;
 constexpr int c_spacing = 5;
 constexpr int c_buttonWidth = 60;
 constexpr int c_buttonHeight = 15;
-constexpr int c_leastWaveformWidth = 170;
-constexpr int c_leastListHeight = 150;
+constexpr int c_leastListHeight = 100;
+constexpr int c_leastWaveformHeight = 125;
 
-// The part of the window's growth that goes to the list, in 1/10000; the waveform gets the rest.
-constexpr int c_listShare = 3000;
+// The part of the window's growth that goes to the list, in 1/10000; the waveform below it gets the rest.
+constexpr int c_listShare = 3500;
 
-// The first start's size as a part of the work area, in percent.
-constexpr int c_preferredPercent = 85;
-constexpr int c_preferredWidthLimit = 760;
-constexpr int c_preferredHeightLimit = 400;
+// The first start's size as a part of the work area, in percent, and its limits in dialog units.
+constexpr int c_preferredPercent = 93;
+constexpr int c_preferredWidthLimit = 790;
+constexpr int c_preferredHeightLimit = 420;
 
 } // namespace
 
@@ -50,8 +51,16 @@ BEGIN_MESSAGE_MAP(CMainWindow, CWnd)
     ON_COMMAND(ID_OPEN_FOLDER, &CMainWindow::OnOpenFolder)
     ON_COMMAND(ID_RELOAD, &CMainWindow::OnReload)
     ON_COMMAND(ID_CLOSE_WORKBENCH, &CMainWindow::OnCloseCommand)
+    ON_COMMAND(ID_READ_AGAIN, &CMainWindow::OnReadAgain)
+    ON_COMMAND(ID_SHOW_DETAILS, &CMainWindow::OnShowDetails)
+    ON_COMMAND(ID_SET_REFERENCE, &CMainWindow::OnSetReference)
+    ON_COMMAND(ID_MARK_ALL, &CMainWindow::OnMarkAll)
+    ON_COMMAND(ID_MARK_NONE, &CMainWindow::OnMarkNone)
     ON_NOTIFY(LVN_ITEMCHANGED, IDC_RECORDINGS, &CMainWindow::OnItemChanged)
-    ON_NOTIFY(LVN_ITEMACTIVATE, IDC_RECORDINGS, &CMainWindow::OnItemActivated)
+    ON_REGISTERED_MESSAGE(WM_XLISTCTRL_CHECKBOX_CLICKED, &CMainWindow::OnListCheckClicked)
+    ON_REGISTERED_MESSAGE(WM_XLISTCTRL_LINK_CLICKED, &CMainWindow::OnListLinkClicked)
+    ON_REGISTERED_MESSAGE(WM_XLISTCTRL_ITEM_DBLCLICKED, &CMainWindow::OnListDoubleClicked)
+    ON_REGISTERED_MESSAGE(WM_XLISTCTRL_COLUMNCLICK, &CMainWindow::OnListColumnClicked)
     ON_MESSAGE(c_messageRecordingsReady, &CMainWindow::OnRecordingsReady)
 END_MESSAGE_MAP()
 
@@ -96,6 +105,11 @@ int CMainWindow::OnCreate(LPCREATESTRUCT create)
                                         ::GetSystemMetrics(SM_CXSMICON), ::GetSystemMetrics(SM_CYSMICON), LR_SHARED)),
         FALSE);
     DragAcceptFiles();
+    // The commands of the list's menu are the window's, which has them for the keyboard, too.
+    m_list.m_onContextCommand = [this](int command, int row, int) {
+        m_list.ChooseLine(row);
+        SendMessage(WM_COMMAND, static_cast<WPARAM>(command));
+    };
     auto const window = m_hWnd;
     m_queue = std::make_unique<workbench::AnalysisQueue>(
         [window] { ::PostMessageW(window, c_messageRecordingsReady, 0, 0); });
@@ -136,22 +150,24 @@ void CMainWindow::Arrange()
     auto const spacingX = m_metrics.X(c_spacing);
     auto const spacingY = m_metrics.Y(c_spacing);
     CSize const button(m_metrics.X(c_buttonWidth), m_metrics.Y(c_buttonHeight));
-    CSize const list(m_list.UsualWidth(), m_metrics.Y(c_leastListHeight));
-    auto const waveformWidth = m_metrics.X(c_leastWaveformWidth);
+    CSize const list(m_list.LeastWidth(), m_metrics.Y(c_leastListHeight));
+    auto const waveformHeight = m_metrics.Y(c_leastWaveformHeight);
 
-    CRect window(0, 0, 2 * marginX + list.cx + spacingX + waveformWidth,
-                 2 * marginY + list.cy + spacingY + button.cy + spacingY + m_metrics.LineHeight());
+    CRect window(0, 0, 2 * marginX + list.cx,
+                 2 * marginY + list.cy + spacingY + waveformHeight + spacingY + button.cy + spacingY +
+                     m_metrics.LineHeight());
     auto const right = window.right - marginX;
-    auto const buttonTop = marginY + list.cy + spacingY;
+    auto const waveformTop = marginY + list.cy + spacingY;
+    auto const buttonTop = waveformTop + waveformHeight + spacingY;
     auto const statusTop = buttonTop + button.cy + spacingY;
     ::AdjustWindowRectEx(&window, GetStyle(), FALSE, GetExStyle());
     SetWindowPos(nullptr, 0, 0, window.Width(), window.Height(), SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 
     m_resizer = std::make_unique<CDialogResizer>(*this, CString());
     CRect rect(CPoint(marginX, marginY), list);
-    m_resizer->PositionChild(&m_list, CRect(0, 0, c_listShare, 10000), &rect);
-    rect = CRect(rect.right + spacingX, marginY, right, rect.bottom);
-    m_resizer->PositionChild(&m_waveform, CRect(c_listShare, 0, 10000, 10000), &rect);
+    m_resizer->PositionChild(&m_list, CRect(0, 0, 10000, c_listShare), &rect);
+    rect = CRect(marginX, waveformTop, right, waveformTop + waveformHeight);
+    m_resizer->PositionChild(&m_waveform, CRect(0, c_listShare, 10000, 10000), &rect);
     rect = CRect(CPoint(marginX, buttonTop), button);
     for (auto * const child : {&m_openFiles, &m_openFolder, &m_reload})
     {
@@ -163,135 +179,6 @@ void CMainWindow::Arrange()
     rect = CRect(CPoint(marginX, statusTop), CSize(right - marginX, m_metrics.LineHeight()));
     m_resizer->PositionChild(&m_statusLine, CEdges::BOTTOM_LEFT_RIGHT(), &rect);
     m_resizer->OnSize();
-}
-
-void CMainWindow::ShowTargets(std::vector<std::filesystem::path> targets)
-{
-    m_targets = std::move(targets);
-    m_queue->Clear();
-    m_files = workbench::FindRecordings(m_targets);
-    m_analyses.assign(m_files.size(), nullptr);
-    m_unread = static_cast<int>(m_files.size());
-    m_list.ShowFiles(m_files);
-    for (unsigned i = 0; i < m_files.size(); ++i)
-    {
-        m_queue->Add(i, m_files[i]);
-    }
-    m_list.ChooseLine(0);
-    m_reload.EnableWindow(!m_targets.empty());
-    ShowChosen();
-    UpdateStatusLine();
-}
-
-bool CMainWindow::ChooseRecording(int index)
-{
-    if (index < 0 || index >= RecordingCount())
-    {
-        return false;
-    }
-    m_list.ChooseLine(index);
-    return true;
-}
-
-int CMainWindow::FirstDamagedRecording() const
-{
-    auto const damaged = [](auto const & analysis) {
-        return analysis && (analysis->problem || analysis->info.IsCutOff() || analysis->invalidSamples > 0);
-    };
-    auto const found = std::ranges::find_if(m_analyses, damaged);
-    return found != m_analyses.end() ? static_cast<int>(found - m_analyses.begin()) : -1;
-}
-
-LRESULT CMainWindow::OnRecordingsReady(WPARAM, LPARAM)
-{
-    auto const chosen = m_list.ChosenLine();
-    for (auto const & [id, analysis] : m_queue->TakeFinished())
-    {
-        if (id >= m_analyses.size())
-        {
-            continue;
-        }
-        if (!m_analyses[id])
-        {
-            --m_unread;
-        }
-        m_analyses[id] = analysis;
-        m_list.ShowAnalysis(static_cast<int>(id), *analysis);
-        if (static_cast<int>(id) == chosen)
-        {
-            ShowChosen();
-        }
-    }
-    UpdateStatusLine();
-    return 0;
-}
-
-void CMainWindow::ShowChosen()
-{
-    auto const chosen = m_list.ChosenLine();
-    if (m_files.empty())
-    {
-        if (m_targets.empty())
-        {
-            m_waveform.ShowText(L"No recordings", L"Open WAV files or a folder to see them here.");
-        }
-        else
-        {
-            m_waveform.ShowText(L"No recordings", L"There are no WAV files in this folder.");
-        }
-    }
-    else if (chosen < 0 || chosen >= RecordingCount())
-    {
-        m_waveform.ShowText(L"No recording chosen", L"Choose a recording in the list to see its waveform.");
-    }
-    else
-    {
-        auto const index = static_cast<std::size_t>(chosen);
-        auto name = m_files[index].filename().wstring();
-        if (m_analyses[index])
-        {
-            m_waveform.ShowRecording(std::move(name), m_analyses[index]);
-        }
-        else
-        {
-            m_waveform.ShowText(std::move(name), L"reading...");
-        }
-    }
-}
-
-void CMainWindow::UpdateStatusLine()
-{
-    auto text = workbench::FormatCount(m_files.size(), L"recording", L"recordings");
-    if (m_unread > 0)
-    {
-        text += L", " + std::to_wstring(m_unread) + L" being read";
-    }
-    auto const unreadable = std::ranges::count_if(m_analyses, [](auto const & a) { return a && a->problem; });
-    if (unreadable > 0)
-    {
-        text += L", " + std::to_wstring(unreadable) + L" cannot be shown";
-    }
-    text += L".  Levels refer to a full-scale sine: 0 dBFS peak, -3.0 dBFS RMS.";
-    m_statusLine.SetWindowText(text.c_str());
-}
-
-void CMainWindow::ReadAgain(int index)
-{
-    if (index < 0 || index >= RecordingCount())
-    {
-        return;
-    }
-    auto const i = static_cast<std::size_t>(index);
-    if (!m_analyses[i])
-    {
-        return;
-    }
-    m_analyses[i] = nullptr;
-    ++m_unread;
-    m_list.ShowReading(index);
-    m_queue->Add(static_cast<unsigned>(index), m_files[i]);
-    ShowChosen();
-    UpdateStatusLine();
 }
 
 void CMainWindow::OnOpenFiles()
@@ -311,13 +198,6 @@ void CMainWindow::OnOpenFolder()
     }
 }
 
-void CMainWindow::OnReload()
-{
-    auto const chosen = m_list.ChosenLine();
-    ShowTargets(m_targets);
-    ChooseRecording(chosen);
-}
-
 void CMainWindow::OnDropFiles(HDROP drop)
 {
     std::vector<std::filesystem::path> files;
@@ -331,22 +211,6 @@ void CMainWindow::OnDropFiles(HDROP drop)
     ::DragFinish(drop);
     SetForegroundWindow();
     ShowTargets(std::move(files));
-}
-
-void CMainWindow::OnItemChanged(NMHDR * header, LRESULT * result)
-{
-    auto const & change = *reinterpret_cast<NMLISTVIEW *>(header);
-    if ((change.uChanged & LVIF_STATE) != 0 && ((change.uOldState ^ change.uNewState) & LVIS_SELECTED) != 0)
-    {
-        ShowChosen();
-    }
-    *result = 0;
-}
-
-void CMainWindow::OnItemActivated(NMHDR *, LRESULT * result)
-{
-    ReadAgain(m_list.ChosenLine());
-    *result = 0;
 }
 
 BOOL CMainWindow::PreTranslateMessage(MSG * message)
@@ -430,6 +294,7 @@ void CMainWindow::OnCloseCommand()
 
 void CMainWindow::OnClose()
 {
+    CloseDetails();
     RememberPlace();
     DestroyWindow();
 }

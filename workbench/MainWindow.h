@@ -3,10 +3,12 @@
 #include <afxwin.h>
 
 #include <filesystem>
+#include <map>
 #include <memory>
 #include <optional>
 #include <vector>
 
+#include "DetailsWindow.h"
 #include "RecordingList.h"
 #include "ScreenMetrics.h"
 #include "WaveformView.h"
@@ -36,6 +38,14 @@ public:
     /// The place of the first recording that cannot be shown, or is damaged; -1 if there is none.
     int FirstDamagedRecording() const;
 
+    /// The list, for what a walk does in place of a user.
+    CRecordingList & List() { return m_list; }
+
+    /// Opens the details of a recording, or shows them in the open window. Gives false for one that does not exist or
+    /// is being read.
+    bool ShowDetails(int index);
+    void CloseDetails();
+
     BOOL PreTranslateMessage(MSG * message) override;
 
 protected:
@@ -56,7 +66,15 @@ private:
     afx_msg void OnReload();
     afx_msg void OnCloseCommand();
     afx_msg void OnItemChanged(NMHDR * header, LRESULT * result);
-    afx_msg void OnItemActivated(NMHDR * header, LRESULT * result);
+    afx_msg void OnReadAgain();
+    afx_msg void OnShowDetails();
+    afx_msg void OnSetReference();
+    afx_msg void OnMarkAll();
+    afx_msg void OnMarkNone();
+    afx_msg LRESULT OnListCheckClicked(WPARAM row, LPARAM column);
+    afx_msg LRESULT OnListLinkClicked(WPARAM row, LPARAM column);
+    afx_msg LRESULT OnListDoubleClicked(WPARAM row, LPARAM column);
+    afx_msg LRESULT OnListColumnClicked(WPARAM state, LPARAM column);
     afx_msg LRESULT OnRecordingsReady(WPARAM, LPARAM);
 
     bool CreateChildren();
@@ -64,6 +82,8 @@ private:
     void RememberPlace();
     void ShowChosen();
     void ReadAgain(int index);
+    void KeepNotes();
+    std::wstring ComparisonText() const;
     void UpdateStatusLine();
 
     workbench::ScreenMetrics m_metrics;
@@ -75,6 +95,7 @@ private:
     CButton m_reload;
     CButton m_close;
     CStatic m_statusLine;
+    CDetailsWindow m_details;
     std::unique_ptr<CDialogResizer> m_resizer;
     HACCEL m_accelerators = nullptr;
     HWND m_lastFocus = nullptr;
@@ -82,6 +103,7 @@ private:
     std::vector<std::filesystem::path> m_targets;
     std::vector<std::filesystem::path> m_files;
     std::vector<std::shared_ptr<workbench::RecordingAnalysis const>> m_analyses; ///< null while being read
+    std::map<std::filesystem::path, CRecordingList::Notes> m_notes; ///< of all recordings shown since the start
     int m_unread = 0;
     std::unique_ptr<workbench::AnalysisQueue> m_queue;
 };

@@ -1,166 +1,190 @@
+// The list's columns, selection and input; its lines' contents are in RecordingListLines.cpp.
+
 #include "RecordingList.h"
 
 #include <algorithm>
+#include <numeric>
 
-#include "logic/TextFormat.h"
+#include "frame/CoreLibrary.h"
+#include "frame/RegisteredMessages.h"
+#include "resource.h"
 
 namespace
 {
-
-enum Column
-{
-    column_name,
-    column_duration,
-    column_channels,
-    column_rate,
-    column_peak,
-    column_rms,
-    column_status,
-    column_count
-};
 
 struct ColumnDesign
 {
     wchar_t const * title;
     int format;
-    wchar_t const * usualText; ///< of the width that the column is made for
+    wchar_t const * leastText; ///< of the width that the column never goes below
 };
 
-constexpr ColumnDesign c_columns[column_count] = {
-    {L"Name", LVCFMT_LEFT, L"Measurement 12.wav"},
+// The date's least text is made when the columns are, as the user writes dates.
+constexpr ColumnDesign c_columns[CRecordingList::column_count] = {
+    {L"", LVCFMT_LEFT, L""},
+    {L"Name", LVCFMT_LEFT, L"Measurement 1"},
+    {L"Ref.", LVCFMT_CENTER, L""},
+    {L"Waveform", LVCFMT_LEFT, L"mmmmmmm"},
     {L"Duration", LVCFMT_RIGHT, L"10:00.000"},
     {L"Channels", LVCFMT_RIGHT, L"2"},
-    {L"Sample rate", LVCFMT_RIGHT, L"192,000 Hz"},
-    {L"Peak (dBFS)", LVCFMT_RIGHT, L"-100.0"},
+    {L"Rate (Hz)", LVCFMT_RIGHT, L"192000"},
+    {L"Peak (dBFS)", LVCFMT_CENTER, L"mmmmmmm"},
     {L"RMS (dBFS)", LVCFMT_RIGHT, L"-100.0"},
-    {L"Status", LVCFMT_LEFT, L"cut off before the first sample"},
+    {L"Date", LVCFMT_LEFT, L""},
+    {L"Rating", LVCFMT_LEFT, L"Not rated mm"},
+    {L"Comment", LVCFMT_LEFT, L"mmmmmmm"},
+    {L"Status", LVCFMT_LEFT, L"mmm cut off,"},
 };
 
-// The room that the list view and its header keep beside a text, with some air.
-constexpr int c_cellPadding = 16;
+// The flexible columns in the order in which they get what is left over, and how far they grow before the next one gets
+// anything, as a multiple of their least width. The last one takes the rest.
+struct Growth
+{
+    CRecordingList::Column column;
+    int limit;
+};
+constexpr Growth c_growth[] = {{CRecordingList::column_overview, 2},
+                               {CRecordingList::column_comment, 2},
+                               {CRecordingList::column_peak, 2},
+                               {CRecordingList::column_overview, 3},
+                               {CRecordingList::column_comment, 100}};
 
-constexpr wchar_t c_readingText[] = L"reading...";
+// The room that cell and header keep left and right of a text, a divider and the rounding of text widths.
+constexpr int c_textRoom = 16;
+constexpr int c_checkWidth = 30; // of a header's check box with its room
+
+constexpr wchar_t const * c_ratings[] = {L"Not rated", L"Good", L"Usable", L"Rejected"};
 
 } // namespace
 
-BEGIN_MESSAGE_MAP(CRecordingList, CListCtrl)
+BEGIN_MESSAGE_MAP(CRecordingList, CXListCtrl)
     ON_WM_SIZE()
+    ON_WM_SETFOCUS()
+    ON_WM_KILLFOCUS()
+    ON_WM_ERASEBKGND()
+    ON_NOTIFY_REFLECT_EX(LVN_ITEMCHANGED, &CRecordingList::OnItemChanged)
+    ON_WM_KEYDOWN()
+    ON_WM_CONTEXTMENU()
 END_MESSAGE_MAP()
 
 bool CRecordingList::CreateList(CWnd & parent, UINT id, workbench::ScreenMetrics & metrics)
 {
-    constexpr DWORD style =
-        WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_BORDER | LVS_REPORT | LVS_SINGLESEL | LVS_SHOWSELALWAYS;
+    EnableItemToolTipps();
+    // More than one line can be selected: with LVS_SINGLESEL the arrow keys would not leave a selected line.
+    constexpr DWORD style = WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_BORDER | LVS_REPORT | LVS_SHOWSELALWAYS;
     if (!Create(style, CRect(), &parent, id))
     {
         return false;
     }
-    SetExtendedStyle(LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER | LVS_EX_LABELTIP);
+    SetFullRowSelect();
     SetFont(&metrics.Font(), FALSE);
-    for (int column = 0; column < column_count; ++column)
+    SetEmptyListText(L"No recordings. Open files or a folder.");
+    SetHeaderAutoCheckbox(true);
+    for (int i = 0; i < static_cast<int>(std::size(c_ratings)); ++i)
     {
-        auto const & design = c_columns[column];
-        auto const width = std::max(WidthOf(design.title), WidthOf(design.usualText));
-        InsertColumn(column, design.title, design.format, width);
-        m_usual.push_back(width);
-        m_usualWidth += width;
+        GlobalComboStringsInsert(i, c_ratings[i]);
     }
-    m_needs = m_usual;
-    m_usualWidth += ::GetSystemMetrics(SM_CXVSCROLL) + 2 * ::GetSystemMetrics(SM_CXBORDER);
+    CreateImages();
+    CreateColumns();
+    CreateMenu();
     return true;
+}
+
+void CRecordingList::CreateColumns()
+{
+    for (int i = 0; i < column_count; ++i)
+    {
+        auto const & design = c_columns[i];
+        auto & least = m_least[static_cast<std::size_t>(i)];
+        least = std::max(WidthOf(design.title), WidthOf(design.leastText));
+        if (i == column_check)
+        {
+            least = c_checkWidth;
+        }
+        else if (i == column_date)
+        {
+            least =
+                WidthOf(UserDateTimeText(CTime(2000, 12, 28, 22, 58, 48), dtf_date_time_without_seconds).GetString());
+        }
+        AddColumn(design.title, design.format, least);
+    }
+    m_needs = m_least;
+    m_leastWidth = std::accumulate(m_least.begin(), m_least.end(), 0) + ::GetSystemMetrics(SM_CXVSCROLL) +
+                   2 * ::GetSystemMetrics(SM_CXBORDER);
+    SetHeaderCheckedState(column_check, XHC_UNCHECKED);
+}
+
+/// The images of the states, which also give the lines their height.
+void CRecordingList::CreateImages()
+{
+    constexpr int size = 20;
+    VERIFY(m_images.Create(size, size, ILC_COLOR32 | ILC_MASK, 3, 0));
+    for (auto const id : {IDI_STATUS_OK, IDI_STATUS_DAMAGED, IDI_STATUS_UNREADABLE})
+    {
+        m_images.Add(static_cast<HICON>(
+            ::LoadImageW(AfxGetInstanceHandle(), MAKEINTRESOURCEW(id), IMAGE_ICON, size, size, LR_SHARED)));
+    }
+    SetImageList(&m_images, LVSIL_SMALL);
+}
+
+void CRecordingList::CreateMenu()
+{
+    auto & menu = PopUpMenu();
+    menu.AppendMenu(MF_STRING, ID_SHOW_DETAILS, L"&Details...\tAlt+Enter");
+    menu.AppendMenu(MF_STRING, ID_SET_REFERENCE, L"Set as &reference\tCtrl+R");
+    menu.AppendMenu(MF_STRING, ID_READ_AGAIN, L"Read &again\tCtrl+F5");
+    menu.AppendMenu(MF_SEPARATOR);
+    menu.AppendMenu(MF_STRING, ID_MARK_ALL, L"&Mark all\tCtrl+A");
+    menu.AppendMenu(MF_STRING, ID_MARK_NONE, L"Mark &none\tCtrl+Shift+A");
+    menu.AppendMenu(MF_SEPARATOR);
+    menu.AppendMenu(MF_STRING, ID_RELOAD, L"Re&load everything\tF5");
+    menu.SetDefaultItem(ID_SHOW_DETAILS);
 }
 
 int CRecordingList::WidthOf(std::wstring const & text) const
 {
-    return GetStringWidth(text.c_str()) + c_cellPadding;
+    return GetStringWidth(text.c_str()) + c_textRoom;
 }
 
-void CRecordingList::ShowFiles(std::vector<std::filesystem::path> const & files)
+void CRecordingList::Require(Column column, int width)
 {
-    SetRedraw(FALSE);
-    DeleteAllItems();
-    m_needs = m_usual;
-    for (int line = 0; line < static_cast<int>(files.size()); ++line)
-    {
-        auto const name = files[static_cast<std::size_t>(line)].filename().wstring();
-        InsertItem(line, name.c_str());
-        SetItemText(line, column_status, c_readingText);
-        Require(column_name, name);
-    }
-    SetRedraw(TRUE);
-    FitColumns();
-    Invalidate();
+    m_needs[column] = std::max(m_needs[column], width);
 }
 
-void CRecordingList::ShowReading(int line)
-{
-    for (int column = column_duration; column < column_status; ++column)
-    {
-        SetItemText(line, column, L"");
-    }
-    SetItemText(line, column_status, c_readingText);
-}
-
-void CRecordingList::ShowAnalysis(int line, workbench::RecordingAnalysis const & analysis)
-{
-    if (line < 0 || line >= GetItemCount())
-    {
-        return;
-    }
-    auto const set = [&](int column, std::wstring text) {
-        // Text at the right edge can come out a pixel wider than it was measured; the blank keeps its last digit whole.
-        text += L' ';
-        SetItemText(line, column, text.c_str());
-        Require(column, text);
-    };
-    if (!analysis.problem)
-    {
-        auto const & info = analysis.info;
-        set(column_duration, workbench::FormatDuration(info.frames, info.sampleRate));
-        set(column_channels, std::to_wstring(info.channels));
-        set(column_rate, workbench::FormatSampleRate(info.sampleRate));
-        set(column_peak, workbench::FormatLevel(analysis.levels.peak));
-        set(column_rms, workbench::FormatLevel(analysis.levels.rms));
-    }
-    auto const status = analysis.StatusText();
-    SetItemText(line, column_status, status.c_str());
-    Require(column_status, status);
-    FitColumns();
-}
-
-void CRecordingList::Require(int column, std::wstring const & text)
-{
-    auto & needs = m_needs[static_cast<std::size_t>(column)];
-    needs = std::max(needs, WidthOf(text));
-}
-
-/// Gives the numbers all the width that they need, and shares the rest between name and status: the status comes first,
-/// a long name is cut down to its usual width, and what is left over then goes to the status.
+/// Gives the columns that show values all the width that they need, then status and name what they need as far as it is
+/// there, and shares the rest among the flexible ones.
 void CRecordingList::FitColumns()
 {
     // Changing a width can change the scroll bars and so come back here through the size message.
-    if (m_fitting || m_needs.empty())
+    if (m_fitting || m_leastWidth == 0)
     {
         return;
     }
     m_fitting = true;
     CRect client;
     GetClientRect(&client);
-    int rest = client.Width();
-    for (int column = column_duration; column < column_status; ++column)
-    {
-        rest -= m_needs[static_cast<std::size_t>(column)];
-    }
     auto widths = m_needs;
-    auto & name = widths[column_name];
-    name = std::max(std::min(name, rest - m_needs[column_status]), m_usual[column_name]);
-    widths[column_status] = std::max(rest - name, m_needs[column_status]);
+    widths[column_name] = m_least[column_name];
+    widths[column_status] = m_least[column_status];
+    auto rest = std::max(client.Width() - std::accumulate(widths.begin(), widths.end(), 0), 0);
+    auto const give = [&](Column column, int wanted) {
+        auto const more = std::clamp(wanted - widths[column], 0, rest);
+        widths[column] += more;
+        rest -= more;
+    };
+    give(column_status, m_needs[column_status]);
+    give(column_name, m_needs[column_name]);
+    for (auto const & growth : c_growth)
+    {
+        give(growth.column, growth.limit * m_least[growth.column]);
+    }
     for (int column = 0; column < column_count; ++column)
     {
         auto const width = widths[static_cast<std::size_t>(column)];
         if (width != GetColumnWidth(column))
         {
-            SetColumnWidth(column, width);
+            // The list's own function would add room for the header, which is in these widths already.
+            CListCtrl::SetColumnWidth(column, width);
         }
     }
     m_fitting = false;
@@ -168,18 +192,177 @@ void CRecordingList::FitColumns()
 
 int CRecordingList::ChosenLine() const
 {
-    return GetNextItem(-1, LVNI_SELECTED);
+    auto const focused = GetNextItem(-1, LVNI_SELECTED | LVNI_FOCUSED);
+    return focused >= 0 ? focused : GetSelectedItem();
 }
 
 void CRecordingList::ChooseLine(int line)
 {
-    constexpr UINT state = LVIS_SELECTED | LVIS_FOCUSED;
-    SetItemState(line, state, state);
-    EnsureVisible(line, FALSE);
+    for (auto other = GetSelectedItem(); other >= 0; other = GetSelectedItemAfter(other))
+    {
+        if (other != line)
+        {
+            SetItemState(other, 0, LVIS_SELECTED | LVIS_FOCUSED);
+        }
+    }
+    if (line >= 0)
+    {
+        SetCurSel(line, true);
+    }
+}
+
+void CRecordingList::SetChecked(int line, bool checked)
+{
+    auto const state = GetCheckbox(line, column_check);
+    auto const wanted = checked ? XLC_CHECKED : XLC_UNCHECKED;
+    if ((state == XLC_CHECKED || state == XLC_UNCHECKED) && state != wanted)
+    {
+        SetCheckbox(line, column_check, wanted);
+        SetModified(line, column_check, true);
+        OnItemStateChange(line, column_check, WM_XLISTCTRL_CHECKBOX_CLICKED);
+    }
+}
+
+void CRecordingList::CheckAll(bool checked)
+{
+    for (int line = 0; line < GetItemCount(); ++line)
+    {
+        SetChecked(line, checked);
+    }
+}
+
+void CRecordingList::ToggleSelected()
+{
+    auto const checked = !IsChecked(ChosenLine());
+    for (auto line = GetSelectedItem(); line >= 0; line = GetSelectedItemAfter(line))
+    {
+        SetChecked(line, checked);
+    }
+}
+
+void CRecordingList::ShowHeaderCheck()
+{
+    auto const checked = CountCheckedItems(column_check, XLC_CHECKED);
+    auto const unchecked = CountCheckedItems(column_check, XLC_UNCHECKED);
+    auto const state = checked == 0 ? XHC_UNCHECKED : unchecked == 0 ? XHC_CHECKED : XHC_MIXED;
+    if (state != GetHeaderCheckedState(column_check))
+    {
+        SetHeaderCheckedState(column_check, state);
+    }
+}
+
+void CRecordingList::SetReference(int line)
+{
+    if (GetItemCheckedState(line, column_reference) == XLC_RADIO_OFF)
+    {
+        SetRadioButton(line, column_reference, XLC_RADIO_ON);
+        SetModified(line, column_reference, true);
+        OnItemStateChange(line, column_reference, WM_XLISTCTRL_CHECKBOX_CLICKED);
+    }
+}
+
+void CRecordingList::ShowReference()
+{
+    auto const reference = ReferenceLine();
+    for (int line = 0; line < GetItemCount(); ++line)
+    {
+        if (GetBold(line, column_name) != (line == reference))
+        {
+            SetBold(line, column_name, line == reference);
+        }
+    }
+}
+
+CPoint CRecordingList::CellCentre(int line, Column column)
+{
+    CRect rect;
+    GetSubItemRect(line, column, LVIR_BOUNDS, rect);
+    return rect.CenterPoint();
 }
 
 void CRecordingList::OnSize(UINT type, int width, int height)
 {
-    CListCtrl::OnSize(type, width, height);
+    CXListCtrl::OnSize(type, width, height);
     FitColumns();
+}
+
+void CRecordingList::OnSetFocus(CWnd * other)
+{
+    CXListCtrl::OnSetFocus(other);
+    RepaintSelected();
+}
+
+void CRecordingList::OnKillFocus(CWnd * other)
+{
+    CXListCtrl::OnKillFocus(other);
+    RepaintSelected();
+}
+
+BOOL CRecordingList::OnItemChanged(NMHDR * header, LRESULT * result)
+{
+    auto const & change = *reinterpret_cast<NMLISTVIEW *>(header);
+    if ((change.uChanged & LVIF_STATE) != 0)
+    {
+        UpdateSubItem(change.iItem, column_check);
+    }
+    *result = 0;
+    return FALSE; // the parent hears of it, too
+}
+
+/// The system's list view leaves the first two pixels of a line out when it repaints a selection.
+void CRecordingList::RepaintSelected()
+{
+    for (auto line = GetSelectedItem(); line >= 0; line = GetSelectedItemAfter(line))
+    {
+        UpdateSubItem(line, column_check);
+    }
+}
+
+/// Erases, besides what no cell covers, the edges that bars leave free in their cells.
+BOOL CRecordingList::OnEraseBkgnd(CDC * dc)
+{
+    auto const result = CXListCtrl::OnEraseBkgnd(dc);
+    auto const end = std::min(GetTopIndex() + GetCountPerPage() + 1, GetItemCount());
+    for (auto line = GetTopIndex(); line < end; ++line)
+    {
+        CRect cell;
+        if (GetItemProperty(line, column_peak, XLP_PROGRESS) && GetSubItemRect(line, column_peak, LVIR_BOUNDS, cell))
+        {
+            dc->FillSolidRect(cell.left, cell.top, 1, cell.Height(), ::GetSysColor(COLOR_WINDOW));
+            dc->FillSolidRect(cell.left, cell.bottom - 1, cell.Width(), 1, ::GetSysColor(COLOR_WINDOW));
+        }
+    }
+    return result;
+}
+
+void CRecordingList::OnKeyDown(UINT key, UINT repeat, UINT flags)
+{
+    if (key == VK_SPACE && ::GetKeyState(VK_CONTROL) >= 0 && ::GetKeyState(VK_SHIFT) >= 0)
+    {
+        ToggleSelected();
+        return;
+    }
+    CXListCtrl::OnKeyDown(key, repeat, flags);
+}
+
+void CRecordingList::OnContextMenu(CWnd * window, CPoint point)
+{
+    auto line = ChosenLine();
+    if (point == CPoint(-1, -1) && line >= 0)
+    {
+        // By the keyboard: the menu opens at the chosen line.
+        EnsureVisible(line, FALSE);
+        point = CellCentre(line, column_name);
+        ClientToScreen(&point);
+    }
+    else
+    {
+        auto client = point;
+        ScreenToClient(&client);
+        int column = 0;
+        line = GetPointItem(client, column);
+    }
+    auto const readable = GetItemCheckedState(line, column_reference) != XLC_NONE;
+    PopUpMenu().EnableMenuItem(ID_SET_REFERENCE, MF_BYCOMMAND | (readable ? MF_ENABLED : MF_GRAYED));
+    CXListCtrl::OnContextMenu(window, point);
 }

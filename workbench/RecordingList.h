@@ -3,50 +3,122 @@
 #include <afxcmn.h>
 #include <afxwin.h>
 
+#include <array>
 #include <filesystem>
+#include <memory>
 #include <string>
 #include <vector>
 
 #include "ScreenMetrics.h"
+#include "list/XListCtrl.h"
 #include "logic/RecordingAnalysis.h"
 
-/// The list of recordings: one line a file, with its header's values, its levels and what there is to say about it.
-class CRecordingList : public CListCtrl
+class CRecordingOverview;
+
+/// The list of recordings: one line a file, with its header's values, its levels, what the user says about it and what
+/// there is to say about the file.
+class CRecordingList : public CXListCtrl
 {
 public:
-    /// Creates the list with its columns. The font is the caller's and must outlive the window.
+    enum Column
+    {
+        column_check, ///< selected for what is done with several recordings
+        column_name,
+        column_reference, ///< the recording that others are compared with
+        column_overview,
+        column_duration,
+        column_channels,
+        column_rate,
+        column_peak,
+        column_rms,
+        column_date,
+        column_rating,
+        column_comment,
+        column_status,
+        column_count
+    };
+
+    /// What the user says about a recording.
+    struct Notes
+    {
+        bool checked = false;
+        bool reference = false;
+        int rating = 0; ///< a place in the list of ratings
+        std::wstring comment;
+    };
+
+    /// Creates the list with its columns and its context menu, whose commands are those of the workbench. The font is
+    /// the metrics' and must outlive the window.
     bool CreateList(CWnd & parent, UINT id, workbench::ScreenMetrics & metrics);
 
-    /// The width in pixels at which all columns with usual contents are seen.
-    int UsualWidth() const { return m_usualWidth; }
+    /// The width in pixels at which all columns are seen, the flexible ones at their least.
+    int LeastWidth() const { return m_leastWidth; }
 
-    /// Replaces all lines by one for each file, which says that it is being read.
-    void ShowFiles(std::vector<std::filesystem::path> const & files);
+    /// Replaces all lines by one for each file, which says that it is being read. There are as many notes as files.
+    void ShowFiles(std::vector<std::filesystem::path> const & files, std::vector<Notes> const & notes);
 
-    /// Fills a line. A line that does not exist is ignored.
-    void ShowAnalysis(int line, workbench::RecordingAnalysis const & analysis);
+    /// Fills a line; a file that could not be read gets a disabled one. A line that does not exist is ignored.
+    void ShowAnalysis(int line, std::shared_ptr<workbench::RecordingAnalysis const> const & analysis);
 
     /// Says again that a line's file is being read.
-    void ShowReading(int line);
+    void ShowReading(int line, std::filesystem::path const & file);
 
-    /// The chosen line, -1 for none.
+    /// The line that commands go to: the selected one with the focus, else the first selected; -1 for none.
     int ChosenLine() const;
 
-    /// Chooses a line, which gets the focus rectangle and is scrolled into view.
+    /// Selects one line alone, which gets the focus and is scrolled into view. Negative: none.
     void ChooseLine(int line);
+
+    /// What the user has said so far about a line's recording.
+    Notes NotesOf(int line);
+
+    bool IsChecked(int line) const { return GetCheckbox(line, column_check) == XLC_CHECKED; }
+    /// Checks or clears all recordings that can be read; the parent hears of each that changes.
+    void CheckAll(bool checked);
+    /// Makes the header's check box show what the lines have together, those that could not be read left out.
+    void ShowHeaderCheck();
+
+    /// The line of the reference recording; -1 if there is none.
+    int ReferenceLine() const { return GetActiveRadioItem(column_reference); }
+    /// Makes a line's recording the reference. A line that could not be read is ignored.
+    void SetReference(int line);
+    /// Shows the reference's name in bold.
+    void ShowReference();
+
+    /// The middle of a cell in client pixels.
+    CPoint CellCentre(int line, Column column);
 
 protected:
     DECLARE_MESSAGE_MAP()
 
 private:
     afx_msg void OnSize(UINT type, int width, int height);
+    afx_msg void OnSetFocus(CWnd * other);
+    afx_msg void OnKillFocus(CWnd * other);
+    afx_msg BOOL OnEraseBkgnd(CDC * dc);
+    afx_msg BOOL OnItemChanged(NMHDR * header, LRESULT * result);
+    afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
+    afx_msg void OnContextMenu(CWnd * window, CPoint point);
 
+    void CreateColumns();
+    void CreateImages();
+    void CreateMenu();
+    void PrepareLine(int line, std::filesystem::path const & file, Notes const & notes);
+    void ShowProblem(int line, workbench::RecordingAnalysis const & analysis);
+    void ShowValues(int line, std::shared_ptr<workbench::RecordingAnalysis const> const & analysis);
+    void ShowStatus(int line, workbench::RecordingAnalysis const & analysis);
+    void MarkValue(int line, Column column);
+    void DrawOverview(int line, CDC & dc, CRect const & rect, CRecordingOverview & overview);
+    void SetChecked(int line, bool checked);
+    void ToggleSelected();
+    void RepaintSelected();
     int WidthOf(std::wstring const & text) const;
-    void Require(int column, std::wstring const & text);
+    void Require(Column column, int width);
     void FitColumns();
 
-    int m_usualWidth = 0;
-    std::vector<int> m_usual; ///< of each column: the width that it never goes below
-    std::vector<int> m_needs; ///< of each column: the width that shows its longest text
+    CImageList m_images;
+    int m_leastWidth = 0;
+    std::array<int, column_count> m_least{}; ///< the width that a column never goes below
+    std::array<int, column_count> m_needs{}; ///< the width that shows its longest text
     bool m_fitting = false;
 };

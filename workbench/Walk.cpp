@@ -13,7 +13,8 @@ namespace
 constexpr ULONGLONG c_stepLimit = 10'000; // milliseconds that the script has for a picture
 constexpr ULONGLONG c_readLimit = 60'000; // milliseconds that reading the recordings may take
 constexpr DWORD c_pollInterval = 20;      // milliseconds
-constexpr ULONGLONG c_settleTime = 300;   // milliseconds for painting to reach the screen
+constexpr int c_mostChecked = 3;
+constexpr ULONGLONG c_settleTime = 300; // milliseconds for painting to reach the screen
 
 /// Handles messages until the condition holds. False after the time limit, or when the program is told to quit.
 bool PumpUntil(std::function<bool()> const & holds, ULONGLONG limit)
@@ -73,13 +74,9 @@ bool CWalk::Resize(int left, int top, int width, int height)
     return m_window.SetWindowPos(nullptr, left, top, width, height, SWP_NOZORDER) != FALSE;
 }
 
-bool CWalk::Step(char const * picture)
+/// Announces the next step to the script. False if a marker could not be written.
+bool CWalk::WriteReady(char const * picture)
 {
-    Settle();
-    if (!::IsWindow(m_window.GetSafeHwnd()))
-    {
-        return false;
-    }
     CRect place;
     m_window.GetWindowRect(&place);
     std::ofstream(m_folder / "places.txt", std::ios::app | std::ios::binary)
@@ -94,17 +91,103 @@ bool CWalk::Step(char const * picture)
         return false;
     }
     std::filesystem::rename(draft, m_folder / (name + ".ready"), error);
-    if (error)
+    return !error;
+}
+
+/// Whether the script has taken the present step's picture.
+bool CWalk::IsDone() const
+{
+    std::error_code ignored;
+    return std::filesystem::exists(m_folder / ("step-" + std::to_string(m_step) + ".done"), ignored);
+}
+
+bool CWalk::Step(char const * picture)
+{
+    Settle();
+    return ::IsWindow(m_window.GetSafeHwnd()) && WriteReady(picture) &&
+           PumpUntil([this] { return IsDone(); }, c_stepLimit);
+}
+
+/// Opens the menu of a line and takes the step while it is open. The menu has a message loop of its own, in which
+/// timers run; one of them takes the step and closes the menu at its end.
+bool CWalk::StepInMenu(char const * picture, int line)
+{
+    enum class Phase
     {
-        return false;
+        opening,
+        waiting,
+        failed,
+        done
+    };
+    static CWalk * walk;
+    static char const * name;
+    static Phase phase;
+    static ULONGLONG end;
+    walk = this;
+    name = picture;
+    phase = Phase::opening;
+    end = ::GetTickCount64() + c_settleTime;
+
+    auto const timer = ::SetTimer(nullptr, 0, c_pollInterval, [](HWND, UINT, UINT_PTR, DWORD) {
+        auto const late = ::GetTickCount64() >= end;
+        if (phase == Phase::opening && late)
+        {
+            phase = walk->WriteReady(name) ? Phase::waiting : Phase::failed;
+            end = ::GetTickCount64() + c_stepLimit;
+        }
+        else if (phase == Phase::waiting && (late || walk->IsDone()))
+        {
+            phase = late ? Phase::failed : Phase::done;
+        }
+        if (phase == Phase::failed || phase == Phase::done)
+        {
+            walk->m_window.List().SendMessage(WM_CANCELMODE);
+        }
+    });
+    auto & list = m_window.List();
+    auto point = list.CellCentre(line, CRecordingList::column_overview);
+    list.ClientToScreen(&point);
+    list.SendMessage(WM_CONTEXTMENU, reinterpret_cast<WPARAM>(list.m_hWnd), MAKELPARAM(point.x, point.y));
+    ::KillTimer(nullptr, timer);
+    return phase == Phase::done;
+}
+
+void CWalk::Click(int line, int column)
+{
+    auto & list = m_window.List();
+    auto const point = list.CellCentre(line, static_cast<CRecordingList::Column>(column));
+    auto const where = MAKELPARAM(point.x, point.y);
+    list.PostMessage(WM_LBUTTONDOWN, MK_LBUTTON, where);
+    list.PostMessage(WM_LBUTTONUP, 0, where);
+    Settle();
+}
+
+/// Checks some recordings and makes the first other one the reference, as a user would with the mouse.
+bool CWalk::CheckSome()
+{
+    auto & list = m_window.List();
+    auto checked = 0;
+    for (int line = 0; line < m_window.RecordingCount() && checked < c_mostChecked; line += 2)
+    {
+        if (list.GetCheckbox(line, CRecordingList::column_check) == XLC_UNCHECKED)
+        {
+            Click(line, CRecordingList::column_check);
+            if (!list.IsChecked(line))
+            {
+                return false;
+            }
+            ++checked;
+        }
     }
-    auto const done = m_folder / (name + ".done");
-    return PumpUntil(
-        [&done] {
-            std::error_code ignored;
-            return std::filesystem::exists(done, ignored);
-        },
-        c_stepLimit);
+    for (int line = 0; line < m_window.RecordingCount(); ++line)
+    {
+        if (list.GetCheckbox(line, CRecordingList::column_check) == XLC_UNCHECKED)
+        {
+            Click(line, CRecordingList::column_reference);
+            return list.ReferenceLine() == line && m_window.ChooseRecording((line + 1) % m_window.RecordingCount());
+        }
+    }
+    return true;
 }
 
 bool CWalk::Run()
@@ -121,7 +204,13 @@ bool CWalk::Run()
     {
         return false;
     }
-    m_window.ChooseRecording(0);
+    if (m_window.RecordingCount() > 0 &&
+        !(CheckSome() && Step("workbench-checked") && StepInMenu("workbench-menu", m_window.RecordingCount() / 3) &&
+          m_window.ShowDetails(0) && Step("workbench-details")))
+    {
+        return false;
+    }
+    m_window.CloseDetails();
     CRect work;
     ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
     if (!Resize(work.left, work.top, work.Width(), work.Height()) || !Step("workbench-large"))
@@ -134,7 +223,7 @@ bool CWalk::Run()
         return false;
     }
     // A place that the next start can be told by.
-    return Resize(work.left + 90, work.top + 110, work.Width() * 9 / 10, work.Height() * 6 / 10) &&
+    return Resize(work.left + 30, work.top + 110, work.Width() * 95 / 100, work.Height() * 6 / 10) &&
            Step("workbench-before-restart");
 }
 

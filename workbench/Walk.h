@@ -15,7 +15,8 @@ public:
     /// The folder is made if it is missing; markers that an earlier walk left in it are removed.
     CWalk(CMainWindow & window, std::filesystem::path folder);
 
-    /// Goes through recordings and sizes. False if a marker could not be written, a wait timed out or the window ended.
+    /// Goes through recordings, marks, menu, details and sizes. False if a marker could not be written, a wait timed
+    /// out or the window ended.
     bool Run();
 
     /// Shows the window as it is after a restart, in one step. False as with Run.
@@ -23,6 +24,11 @@ public:
 
 private:
     bool Step(char const * picture);
+    bool CheckSome();
+    bool StepInMenu(char const * picture, int line);
+    void Click(int line, int column);
+    bool WriteReady(char const * picture);
+    bool IsDone() const;
     bool WaitForRecordings();
     bool Resize(int left, int top, int width, int height);
 

@@ -251,6 +251,7 @@ void CWaveformView::DrawLane(CDC & dc, Lane const & lane, std::size_t index)
         label.OffsetRect(m_metrics->X(3), m_metrics->Y(2));
         auto ground = label;
         ground.InflateRect(m_metrics->X(2), 1);
+        ground.left = lane.rect.left + 1;
         dc.FillSolidRect(ground, c_plotColour);
         dc.SetBkMode(TRANSPARENT);
         dc.SetTextColor(c_labelColour);

@@ -8,6 +8,7 @@ namespace tests
 {
 namespace
 {
+constexpr ULONGLONG RestOfCursor = 30; // ms
 constexpr int AbsoluteRange = 65536; // SendInput's coordinates span the screen with 0 to 65535
 
 void Send(std::vector<INPUT> input)
@@ -108,7 +109,23 @@ bool MoveMouse(CPoint screen)
     move.mi.dx = Absolute(screen.x, ::GetSystemMetrics(SM_CXSCREEN));
     move.mi.dy = Absolute(screen.y, ::GetSystemMetrics(SM_CYSCREEN));
     Send({move});
-    return PumpUntil(there);
+    // A late report of the position before may put the cursor back, so it must have rested for a while.
+    ULONGLONG arrived = 0;
+    return PumpUntil(
+        [&]
+        {
+            ULONGLONG const now = ::GetTickCount64();
+            if (!there())
+            {
+                if (arrived != 0)
+                    Send({move});
+                arrived = 0;
+                return false;
+            }
+            if (arrived == 0)
+                arrived = now;
+            return now - arrived >= RestOfCursor;
+        });
 }
 
 void Press(Button button)

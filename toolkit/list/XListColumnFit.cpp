@@ -2,39 +2,41 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
+#include <limits>
 #include <numeric>
 
 namespace
 {
 // A column's part of the difference, rounded as the fitting has always done it: half a pixel is added and the rest cut
 // off towards zero, in single precision.
-int Share(int difference, int width, int sum)
+std::int64_t Share(std::int64_t difference, int width, std::int64_t sum)
 {
     float const part = static_cast<float>(difference) * static_cast<float>(width) / static_cast<float>(sum);
-    return static_cast<int>(part + 0.5f);
+    return static_cast<std::int64_t>(part + 0.5f);
 }
 
-void ShareProportionally(std::vector<int> & widths, int sum, int minimum, int & difference)
+void ShareProportionally(std::vector<int> & widths, std::int64_t sum, int minimum, std::int64_t & difference)
 {
-    int const whole = difference;
+    std::int64_t const whole = difference;
     for (int & width : widths)
     {
-        int const share = sum != 0 ? Share(whole, width, sum) : 0;
-        int const result = width + share;
+        std::int64_t const share = sum != 0 ? Share(whole, width, sum) : 0;
+        std::int64_t const result = width + share;
         if (result <= minimum)
         {
-            difference -= minimum - width;
+            difference -= std::int64_t{minimum} - width;
             width = minimum;
         }
         else
         {
             difference -= share;
-            width = result;
+            width = static_cast<int>(std::min<std::int64_t>(result, std::numeric_limits<int>::max()));
         }
     }
 }
 
-void ShareSinglePixels(std::vector<int> & widths, int minimum, int difference, CColumnFitMemory & memory)
+void ShareSinglePixels(std::vector<int> & widths, int minimum, std::int64_t difference, CColumnFitMemory & memory)
 {
     int const count = static_cast<int>(widths.size());
     bool const grow = difference > 0;
@@ -65,8 +67,9 @@ void ShareSinglePixels(std::vector<int> & widths, int minimum, int difference, C
 
 ColumnFit FitColumns(std::vector<int> & widths, int available, int minimum, int preferred, CColumnFitMemory & memory)
 {
-    int const sum = std::accumulate(widths.begin(), widths.end(), 0);
-    int difference = available - sum;
+    // Single widths may be anything that a header takes, so their sum may pass the range of an int.
+    std::int64_t const sum = std::accumulate(widths.begin(), widths.end(), std::int64_t{0});
+    std::int64_t difference = available - sum;
     if (difference == 0)
         return ColumnFit::unchanged;
 
@@ -76,7 +79,7 @@ ColumnFit FitColumns(std::vector<int> & widths, int available, int minimum, int 
         int & width = widths[static_cast<std::size_t>(preferred)];
         if (width + difference > minimum)
         {
-            width += difference;
+            width += static_cast<int>(difference);
             return ColumnFit::preferred_only;
         }
         // The array keeps the old width; the sharing below goes on from it.

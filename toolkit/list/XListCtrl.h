@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <map>
+#include <span>
 #include <utility>
 #include <vector>
 
@@ -285,6 +286,7 @@ public:
 protected:
     virtual BOOL OnToolTipText(UINT id, NMHDR * header, LRESULT * result);
     void PreSubclassWindow() override;
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT * result) override;
 
     /// Row and column at a client point; (-1, -1) off any cell.
@@ -342,11 +344,24 @@ private:
     XLISTCTRLROW * RowOf(int row) const;
     /// The cell if row and column are in range and the row reaches that far, else null.
     XLISTCTRLDATA * ValidCell(int row, int col) const;
-    bool StoreNewRow(int row, COLORREF text, COLORREF background, int image, void const * ptr, long long data);
+    /// Inserts the item together with a row object; the native result. A failed insertion takes no row.
+    int InsertWithRow(LVITEMW item, COLORREF text, COLORREF background, int image, void const * ptr, long long data);
+    /// The number of rows; 0 without a window.
+    int RowCount() const;
+    /// Notes the object of a row, so that asking for the same row again needs no message.
+    void RememberRow(int row, XLISTCTRLROW * object) const;
+    void ForgetRow() const;
+    /// Sets the native text alone; false if that fails.
+    bool ShowText(int row, int col, wchar_t const * text);
+    void SelectComboEntry(int row, int col, XLISTCTRLDATA & cell, std::pair<int const, wchar_t const *> const * entry);
+    /// The cells of a row as far as the list's columns reach; none for a row without.
+    std::span<XLISTCTRLDATA> CellsOf(int row) const;
     /// Recomputes the state of a column's header from its cells, where the header follows them.
     void UpdateHeaderFromCells(int col);
     void PostToParent(unsigned int message, WPARAM wParam, LPARAM lParam) const;
-    void FillCell(int row, int col, CDC & dc, COLORREF background, CRect const & rect, XLISTCTRLDATA const & cell);
+    /// How the drawing of most kinds begins: turns the colours into drawing colours, fills the cell and lays the wash on.
+    void FillCell(int row, int col, CDC & dc, COLORREF & text, COLORREF & background, CRect const & rect,
+                  XLISTCTRLDATA const & cell);
     /// DrawText format of a column's texts.
     UINT TextFormat(int col) const;
 
@@ -399,4 +414,9 @@ private:
     long long m_dragCursor = 32512;
     CImageList m_dragImage;
     CMenu m_popupMenu;
+
+    mutable int m_knownRow = -1;
+    mutable XLISTCTRLROW * m_knownRowObject = nullptr;
+    /// Native operations under way that move rows or change their parameter words.
+    int m_rowChanges = 0;
 };

@@ -7,6 +7,8 @@
 #include <functional>
 #include <map>
 
+#include "frame/Export.h"
+
 class CDC;
 
 // Property bits. Those of the low byte but the first say what kind of cell it is; those of the high byte survive most
@@ -108,16 +110,16 @@ public:
 
     /// Everything as in a new cell, but for toolTipText, progressFormat and progressShowText, which stay. That is meant:
     /// a recycled row keeps the tooltips and the progress format of the row that it once was.
-    void Recycle();
+    INSTRUMENT_UI_API void Recycle();
 
     // Changes of kind. It is meant that some keep the look of the cell and others forget it and enable the cell.
 
     /// Plain: keeps the enabled bit and the high byte, takes any check or radio state away.
-    void MakePlain();
+    INSTRUMENT_UI_API void MakePlain();
     /// A check box or radio button in the state given: keeps the enabled bit and the high byte.
-    void MakeCheck(int state);
-    void MakeEdit();
-    void MakeLink();
-    void MakeProgress();
-    void MakeCombo();
+    INSTRUMENT_UI_API void MakeCheck(int state);
+    INSTRUMENT_UI_API void MakeEdit();
+    INSTRUMENT_UI_API void MakeLink();
+    INSTRUMENT_UI_API void MakeProgress();
+    INSTRUMENT_UI_API void MakeCombo();
 };

@@ -9,6 +9,7 @@ void XLISTCTRLROW::Prepare(unsigned int columns)
     {
         m_cells = std::make_unique<XLISTCTRLDATA[]>(columns);
         m_capacity = columns;
+        return;
     }
     for (unsigned int i = 0; i < m_capacity; ++i)
         m_cells[i].Recycle();

@@ -12,6 +12,12 @@ double AmplitudeToDecibels(double amplitude)
     return amplitude > 0.0 ? 20.0 * std::log10(amplitude) : -std::numeric_limits<double>::infinity();
 }
 
+int LevelBarPercent(double decibels)
+{
+    auto const part = 1.0 - std::clamp(decibels, c_levelBarLeast, 0.0) / c_levelBarLeast;
+    return static_cast<int>(std::lround(part * 100.0));
+}
+
 void LevelMeter::Add(std::span<double const> samples)
 {
     // A sum of its own for each call keeps the rounding small in long recordings.

@@ -21,6 +21,12 @@ struct Levels
 /// 20 log10 of an amplitude; minus infinity for 0 and below.
 double AmplitudeToDecibels(double amplitude);
 
+/// The level at the lower end of a level bar; its upper end is 0 dBFS.
+constexpr double c_levelBarLeast = -60.0;
+
+/// The part of a level bar that a level fills, in whole percent from 0 to 100.
+int LevelBarPercent(double decibels);
+
 /// Takes all samples of all channels and gives their common levels.
 class LevelMeter
 {

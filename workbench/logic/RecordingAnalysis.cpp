@@ -49,6 +49,7 @@ RecordingAnalyser::RecordingAnalyser(std::unique_ptr<ByteSource> source)
 RecordingAnalyser::RecordingAnalyser(std::filesystem::path const & path)
     : RecordingAnalyser(std::unique_ptr<ByteSource>(FileByteSource::Open(path)))
 {
+    m_analysis.file = ReadFileFacts(path);
 }
 
 bool RecordingAnalyser::Step()

@@ -1,6 +1,7 @@
 #pragma once
 // Everything the workbench knows about one recording, and the reading of it in small steps.
 
+#include "logic/FileFacts.h"
 #include "logic/LevelMeter.h"
 #include "logic/Waveform.h"
 #include "logic/WavReader.h"
@@ -14,9 +15,10 @@
 namespace workbench
 {
 
-/// The result of reading a recording: either a problem, or all the rest.
+/// The result of reading a recording: what its file is, and either a problem or all the rest.
 struct RecordingAnalysis
 {
+    FileFacts file;
     std::optional<ReadProblem> problem;
     RecordingInfo info;
     Levels levels{};

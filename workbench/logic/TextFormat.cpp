@@ -6,19 +6,27 @@
 namespace workbench
 {
 
-std::wstring FormatDuration(std::uint64_t frames, std::uint32_t sampleRate)
+std::uint64_t DurationMilliseconds(std::uint64_t frames, std::uint32_t sampleRate)
 {
     if (sampleRate == 0)
     {
-        return L"-";
+        return 0;
     }
-    auto const seconds = frames / sampleRate;
     // The remainder is below 2^32, so that a thousand of it fits easily.
-    auto const milliseconds = seconds * 1000 + (frames % sampleRate * 1000 + sampleRate / 2) / sampleRate;
+    return frames / sampleRate * 1000 + (frames % sampleRate * 1000 + sampleRate / 2) / sampleRate;
+}
+
+std::wstring FormatMilliseconds(std::uint64_t milliseconds)
+{
     wchar_t text[48];
     std::swprintf(text, std::size(text), L"%llu:%02u.%03u", static_cast<unsigned long long>(milliseconds / 60000),
                   static_cast<unsigned>(milliseconds / 1000 % 60), static_cast<unsigned>(milliseconds % 1000));
     return text;
+}
+
+std::wstring FormatDuration(std::uint64_t frames, std::uint32_t sampleRate)
+{
+    return sampleRate == 0 ? L"-" : FormatMilliseconds(DurationMilliseconds(frames, sampleRate));
 }
 
 std::wstring FormatLevel(double decibels)
@@ -34,14 +42,33 @@ std::wstring FormatLevel(double decibels)
     return text;
 }
 
-std::wstring FormatSampleRate(std::uint32_t sampleRate)
+std::wstring FormatDifference(double decibels, double reference)
 {
-    auto text = std::to_wstring(sampleRate);
+    if (std::isinf(decibels) || std::isinf(reference))
+    {
+        return L"-";
+    }
+    auto text = FormatLevel(decibels - reference);
+    if (text.front() != L'-' && text != L"0.0")
+    {
+        text.insert(text.begin(), L'+');
+    }
+    return text + L" dB";
+}
+
+std::wstring FormatThousands(std::uint64_t number)
+{
+    auto text = std::to_wstring(number);
     for (auto i = static_cast<int>(text.size()) - 3; i > 0; i -= 3)
     {
         text.insert(static_cast<std::size_t>(i), 1, L',');
     }
-    return text + L" Hz";
+    return text;
+}
+
+std::wstring FormatSampleRate(std::uint32_t sampleRate)
+{
+    return FormatThousands(sampleRate) + L" Hz";
 }
 
 std::wstring FormatCount(std::size_t count, wchar_t const * singular, wchar_t const * plural)

@@ -31,6 +31,10 @@ protected:
             CDialog::OnTimer(nIDEvent);
             return;
         }
+        // The dialog is shown when its loop is idle for the first time.
+        constexpr int mostTicks = 500;
+        if (!IsWindowVisible() && ++m_ticks < mostTicks)
+            return;
         KillTimer(SelfTestTimer);
         CString version;
         GetDlgItemText(IDC_VERSION, version);
@@ -42,6 +46,7 @@ protected:
 
 private:
     static constexpr UINT_PTR SelfTestTimer = 1;
+    int m_ticks = 0;
 
     DECLARE_MESSAGE_MAP()
 };

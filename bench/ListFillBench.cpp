@@ -1,0 +1,197 @@
+// Filling a report list beside filling a native one with the same texts.
+
+#include <afxcmn.h>
+#include "list/XListCtrl.h"
+#include "ControlBench.h"
+#include "Measure.h"
+#include "ModuleAllocations.h"
+
+#include <cstdio>
+#include <string>
+#include <vector>
+
+namespace
+{
+using bench::Nanoseconds;
+using bench::PumpAll;
+
+constexpr int row_count = 20000;
+constexpr int column_count = 8;
+constexpr int cell_count = row_count * column_count;
+constexpr DWORD list_style = WS_CHILD | WS_VISIBLE | LVS_REPORT | LVS_SHOWSELALWAYS;
+CRect const list_place(0, 0, 700, 500);
+
+using Texts = std::vector<std::wstring>;
+
+Texts const & CellTexts()
+{
+    static Texts const texts = []
+    {
+        Texts made;
+        for (int i = 0; i < cell_count; ++i)
+            made.push_back(L"value " + std::to_wstring(i * 7 % 100003));
+        return made;
+    }();
+    return texts;
+}
+
+wchar_t const * TextOf(int row, int column)
+{
+    return CellTexts()[static_cast<std::size_t>(row * column_count + column)].c_str();
+}
+
+void Fill(CListCtrl & list)
+{
+    list.SetRedraw(FALSE);
+    for (int row = 0; row < row_count; ++row)
+    {
+        list.InsertItem(row, TextOf(row, 0));
+        for (int column = 1; column < column_count; ++column)
+            list.SetItemText(row, column, TextOf(row, column));
+    }
+    list.SetRedraw(TRUE);
+}
+
+void Fill(CXListCtrl & list)
+{
+    list.SetRedraw(FALSE);
+    list.SetBatchInsertMode(true);
+    for (int row = 0; row < row_count; ++row)
+    {
+        list.InsertItem(row, TextOf(row, 0), nullptr, row);
+        for (int column = 1; column < column_count; ++column)
+            list.SetItemText(row, column, TextOf(row, column));
+    }
+    list.SetBatchInsertMode(false);
+    list.SetRedraw(TRUE);
+}
+
+template <class List> void CreateWithColumns(List & list, CWnd & parent)
+{
+    list.Create(list_style, list_place, &parent, 7);
+    list.ModifyStyle(0, LVS_NOSORTHEADER);
+}
+
+void AddColumns(CXListCtrl & list)
+{
+    for (int i = 0; i < column_count; ++i)
+        list.AddColumn(L"column", LVCFMT_LEFT, 80);
+}
+void AddColumns(CListCtrl & list)
+{
+    for (int i = 0; i < column_count; ++i)
+        list.InsertColumn(i, L"column", LVCFMT_LEFT, 80, i);
+}
+
+class Parent : public CWnd
+{
+public:
+    Parent()
+    {
+        CreateEx(0, AfxRegisterWndClass(0), L"list", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 20, 20, 740, 560, nullptr,
+                 nullptr);
+        PumpAll();
+    }
+    ~Parent() override { DestroyWindow(); }
+};
+
+/// Filling a new list of that class.
+template <class List> double FillNew(CWnd & parent)
+{
+    List list;
+    CreateWithColumns(list, parent);
+    AddColumns(list);
+    PumpAll();
+    double const time = Nanoseconds([&] { Fill(list); });
+    list.DestroyWindow();
+    PumpAll();
+    return time;
+}
+} // namespace
+
+bool bench::FillingAList()
+{
+    Parent parent;
+    CellTexts();
+    std::vector<double> ours;
+    std::vector<double> reference;
+    for (int round = 0; round < 7; ++round)
+    {
+        reference.push_back(FillNew<CListCtrl>(parent));
+        ours.push_back(FillNew<CXListCtrl>(parent));
+    }
+    return Report("filling 20,000 rows of 8 cells beside the native list, a cell", Median(ours) / cell_count,
+                  Median(reference) / cell_count, 1.15);
+}
+
+bool bench::RefillingAList()
+{
+    Parent parent;
+    CXListCtrl list;
+    CreateWithColumns(list, parent);
+    AddColumns(list);
+    CListCtrl native;
+    CreateWithColumns(native, parent);
+    AddColumns(native);
+    unsigned long long firstAllocations = 0;
+    {
+        ModuleAllocations const counter(L"instrument_ui.dll");
+        Fill(list);
+        firstAllocations = counter.Count();
+    }
+    Fill(native);
+
+    std::vector<double> ours;
+    std::vector<double> reference;
+    unsigned long long allocations = 0;
+    for (int round = 0; round < 7; ++round)
+    {
+        reference.push_back(Nanoseconds([&] {
+            native.SetRedraw(FALSE);
+            native.DeleteAllItems();
+            Fill(native);
+        }));
+        ours.push_back(Nanoseconds([&] {
+            list.SetRedraw(FALSE);
+            list.DeleteAllItems();
+            Fill(list);
+        }));
+    }
+    {
+        ModuleAllocations const counter(L"instrument_ui.dll");
+        list.SetRedraw(FALSE);
+        list.DeleteAllItems();
+        Fill(list);
+        allocations = counter.Count();
+    }
+    list.DestroyWindow();
+    native.DestroyWindow();
+    // A new list needs a row object and its cells for each row: fewer would mean that the count does not see them.
+    if (firstAllocations < 2 * row_count)
+    {
+        std::printf("the module's allocations cannot be counted\n");
+        return false;
+    }
+    bool const timeMet = Report("deleting and refilling 20,000 rows of 8 cells beside the native list, a cell",
+                                Median(ours) / cell_count, Median(reference) / cell_count, 1.15);
+    return ReportCount("allocations of the module in refilling 20,000 rows beside filling them anew", allocations,
+                       firstAllocations, 0) &&
+           timeMet;
+}
+
+bool bench::MemoryOfARow()
+{
+    XLISTCTRLDATA const cell;
+    unsigned long long const fields =
+        sizeof(cell.properties) + sizeof(cell.valueType) + sizeof(cell.imageIndex) + sizeof(cell.toolTipText) +
+        sizeof(cell.intValue) + sizeof(cell.floatValue) + sizeof(cell.timeValue) + sizeof(cell.itemData64) +
+        sizeof(cell.itemDataPtr) + sizeof(cell.idx8) + sizeof(cell.textColor) + sizeof(cell.backgroundColor) +
+        sizeof(cell.gradientColor) + sizeof(cell.checkedState) + sizeof(cell.comboStrings) + sizeof(cell.comboSorted) +
+        sizeof(cell.comboVisibleItems) + sizeof(cell.comboDefaultId) + sizeof(cell.comboCurrentId) +
+        sizeof(cell.progressValue) + sizeof(cell.progressDisplayValue) + sizeof(cell.progressFormat) +
+        sizeof(cell.progressShowText) + sizeof(cell.customDraw);
+    unsigned long long const row = sizeof(XLISTCTRLROW *) + sizeof(XLISTCTRLROW) + column_count * sizeof(XLISTCTRLDATA);
+    // A tenth more than the bare fields for gaps, the row object and its slot.
+    return ReportCount("bytes of a row of 8 cells beside its bare fields", row, column_count * fields,
+                       column_count * fields * 11 / 10);
+}

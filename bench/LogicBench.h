@@ -1,0 +1,14 @@
+#pragma once
+// The measures of the logic benchmark: each prints its lines and tells whether its goals are met. And what they share.
+
+#include <map>
+#include <string>
+
+namespace bench
+{
+bool LayoutArithmetic();
+bool SearchingRows();
+
+/// Runs the benchmarks registered since the last call; the best time of each in nanoseconds.
+std::map<std::string, double> RunRegistered();
+} // namespace bench

@@ -1,0 +1,131 @@
+// The layout engine's arithmetic beside the plain loop over the same data.
+
+#include "layout/DialogResizer.h"
+#include "layout/LayoutPlatform.h"
+#include "LogicBench.h"
+#include "Measure.h"
+
+#include <benchmark/benchmark.h>
+
+#include <cstdlib>
+#include <random>
+
+namespace
+{
+constexpr int childCount = 1000;
+
+/// Windows that are entries of a table: as cheap as a window system can be, so that what is left is the arithmetic.
+class TableOfWindows final : public LayoutPlatform
+{
+public:
+    struct Window
+    {
+        CRect rect;
+        bool valid = true;
+    };
+    std::vector<Window> windows = std::vector<Window>(childCount + 1);
+
+    static HWND Handle(std::size_t index) { return reinterpret_cast<HWND>(static_cast<std::uintptr_t>(index + 1)); }
+    static std::size_t Index(HWND window) { return reinterpret_cast<std::uintptr_t>(window) - 1; }
+    static CWnd * Object(std::size_t index) { return reinterpret_cast<CWnd *>(Handle(index)); }
+
+    HWND HandleOf(CWnd const & window) override { return reinterpret_cast<HWND>(const_cast<CWnd *>(&window)); }
+    CWnd * DialogItem(CWnd &, int) override { return nullptr; }
+    bool IsWindow(HWND) override { return true; }
+    void GetWindowRect(HWND window, RECT & rect) override { rect = windows[Index(window)].rect; }
+    HWND GetParent(HWND) override { return Handle(0); }
+    void ScreenToClient(HWND, POINT &) override {}
+    HWND FirstChild(HWND) override { return Handle(1); }
+    HWND NextWindow(HWND window) override
+    {
+        return Index(window) < static_cast<std::size_t>(childCount) ? Handle(Index(window) + 1) : nullptr;
+    }
+    void MoveWindow(HWND window, int left, int top, int width, int height) override
+    {
+        windows[Index(window)].rect = CRect(left, top, left + width, top + height);
+    }
+    void MoveDialog(CWnd &, int, int, int, int) override {}
+    void Invalidate(HWND window) override { windows[Index(window)].valid = false; }
+    void ReportAssertion(wchar_t const *, wchar_t const *, unsigned int) override { std::abort(); }
+};
+
+TableOfWindows table;
+
+struct PlainChild
+{
+    CRect design;
+    CRect fractions;
+};
+
+std::vector<PlainChild> plainChildren;
+CSize const designSize(2000, 1500);
+
+void SetUp(CDialogResizer & resizer)
+{
+    std::mt19937 random(7);
+    plainChildren.clear();
+    for (int i = 0; i < childCount; ++i)
+    {
+        CRect const design(static_cast<int>(random() % 1900), static_cast<int>(random() % 1400), 1950, 1450);
+        CRect const fractions(static_cast<int>(random() % 10001), static_cast<int>(random() % 10001), 10000, 10000);
+        plainChildren.push_back({design, fractions});
+        resizer.PositionChild(TableOfWindows::Object(static_cast<std::size_t>(i) + 1), fractions, &design);
+    }
+}
+
+void SetSize(int round)
+{
+    table.windows[0].rect = CRect(0, 0, designSize.cx + round % 500, designSize.cy + round % 300);
+}
+
+void LayoutByResizer(benchmark::State & state)
+{
+    table.windows[0].rect = CRect(CPoint(0, 0), designSize);
+    CDialogResizer resizer(*TableOfWindows::Object(0), CString());
+    SetUp(resizer);
+    int round = 0;
+    for (auto _ : state)
+    {
+        SetSize(++round);
+        resizer.OnSize();
+        benchmark::ClobberMemory();
+    }
+}
+
+/// The same formulas over an array, with the results written where the resizer's window system writes them.
+void LayoutByPlainLoop(benchmark::State & state)
+{
+    int round = 0;
+    for (auto _ : state)
+    {
+        SetSize(++round);
+        int const dx = table.windows[0].rect.Width() - designSize.cx;
+        int const dy = table.windows[0].rect.Height() - designSize.cy;
+        for (std::size_t i = 0; i < plainChildren.size(); ++i)
+        {
+            PlainChild const & child = plainChildren[i];
+            table.windows[i + 1].rect = CRect(child.design.left + child.fractions.left * dx / 10000,
+                                              child.design.top + child.fractions.top * dy / 10000,
+                                              child.design.right + child.fractions.right * dx / 10000,
+                                              child.design.bottom + child.fractions.bottom * dy / 10000);
+            table.windows[i + 1].valid = false;
+        }
+        benchmark::ClobberMemory();
+    }
+}
+} // namespace
+
+LayoutPlatform & LayoutPlatform::Instance()
+{
+    return table;
+}
+
+bool bench::LayoutArithmetic()
+{
+    // The resizer first: it fills the array that the plain loop goes over.
+    benchmark::RegisterBenchmark("resizer", LayoutByResizer)->Repetitions(5);
+    benchmark::RegisterBenchmark("plain", LayoutByPlainLoop)->Repetitions(5);
+    std::map<std::string, double> times = RunRegistered();
+    return ReportTime("layout arithmetic beside a plain loop, a child", times["resizer"] / childCount,
+                      times["plain"] / childCount, 20);
+}

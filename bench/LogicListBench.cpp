@@ -1,0 +1,95 @@
+// Searches over a list's rows beside the plain loop over the same records.
+
+#include "list/XListRowPool.h"
+#include "list/XListSearch.h"
+#include "LogicBench.h"
+#include "Measure.h"
+
+#include <benchmark/benchmark.h>
+
+#include <cstdio>
+#include <vector>
+
+namespace
+{
+constexpr int rowCount = 100000;
+constexpr unsigned int columnCount = 8;
+constexpr long long lastData = rowCount - 1;
+// Per row: where the row object is, where its cells are, and the word compared.
+constexpr double bytesOfRow = 2 * sizeof(void *) + sizeof(long long);
+
+/// The parameter words of a native list, and the rows behind them.
+struct Rows
+{
+    CXListRowPool pool{16};
+    std::vector<XLISTCTRLROW *> parameters;
+
+    Rows()
+    {
+        for (int i = 0; i < rowCount; ++i)
+        {
+            parameters.push_back(pool.Take());
+            parameters.back()->Prepare(columnCount);
+            parameters.back()->cells()->itemData64 = i;
+        }
+    }
+};
+
+Rows const & TheRows()
+{
+    static Rows const rows;
+    return rows;
+}
+
+void SearchByFindRow(benchmark::State & state)
+{
+    std::vector<XLISTCTRLROW *> const & parameters = TheRows().parameters;
+    long long data = lastData;
+    for (auto _ : state)
+    {
+        benchmark::DoNotOptimize(data);
+        int const found = FindRow(
+            rowCount,
+            [&](int row)
+            {
+                XLISTCTRLROW const * const object = parameters[static_cast<std::size_t>(row)];
+                return object != nullptr ? object->cells() : nullptr;
+            },
+            [data](XLISTCTRLDATA const & cell) { return cell.itemData64 == data; });
+        if (found != lastData)
+            state.SkipWithError("not found");
+        benchmark::DoNotOptimize(found);
+    }
+}
+
+void SearchByPlainLoop(benchmark::State & state)
+{
+    std::vector<XLISTCTRLROW *> const & parameters = TheRows().parameters;
+    long long data = lastData;
+    for (auto _ : state)
+    {
+        benchmark::DoNotOptimize(data);
+        int found = -1;
+        for (int row = 0; row < rowCount; ++row)
+            if (parameters[static_cast<std::size_t>(row)]->cells()[0].itemData64 == data)
+            {
+                found = row;
+                break;
+            }
+        if (found != lastData)
+            state.SkipWithError("not found");
+        benchmark::DoNotOptimize(found);
+    }
+}
+} // namespace
+
+bool bench::SearchingRows()
+{
+    benchmark::RegisterBenchmark("search", SearchByFindRow)->MinTime(0.05)->Repetitions(20);
+    benchmark::RegisterBenchmark("plain", SearchByPlainLoop)->MinTime(0.05)->Repetitions(20);
+    std::map<std::string, double> times = RunRegistered();
+    char name[120];
+    std::snprintf(name, sizeof(name), "search of the last of 100,000 rows beside a plain loop (%.2f GB/s), a row",
+                  bytesOfRow * rowCount / times["search"]);
+    return Report(name, times["search"] / rowCount, times["plain"] / rowCount, 1.05);
+}

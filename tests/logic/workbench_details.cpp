@@ -1,0 +1,192 @@
+// What the list and the details window say about a recording.
+
+#include "logic/FileFacts.h"
+#include "logic/LevelMeter.h"
+#include "logic/RecordingDetails.h"
+#include "logic/TextFormat.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <fstream>
+#include <limits>
+#include <system_error>
+
+namespace
+{
+
+using namespace workbench;
+
+constexpr double c_infinity = std::numeric_limits<double>::infinity();
+
+TEST(LevelBar, IsEmptyAtItsLowerEndAndFullAtFullScale)
+{
+    EXPECT_EQ(LevelBarPercent(-60.0), 0);
+    EXPECT_EQ(LevelBarPercent(-30.0), 50);
+    EXPECT_EQ(LevelBarPercent(0.0), 100);
+}
+
+TEST(LevelBar, RoundsToWholePercent)
+{
+    EXPECT_EQ(LevelBarPercent(-59.6), 1);
+    EXPECT_EQ(LevelBarPercent(-59.8), 0);
+    EXPECT_EQ(LevelBarPercent(-6.02), 90);
+}
+
+TEST(LevelBar, StaysWithinItsEnds)
+{
+    EXPECT_EQ(LevelBarPercent(-c_infinity), 0);
+    EXPECT_EQ(LevelBarPercent(-100.0), 0);
+    EXPECT_EQ(LevelBarPercent(12.0), 100);
+}
+
+TEST(LevelDifference, CarriesItsSign)
+{
+    EXPECT_EQ(FormatDifference(-6.0, -8.1), L"+2.1 dB");
+    EXPECT_EQ(FormatDifference(-8.1, -6.0), L"-2.1 dB");
+}
+
+TEST(LevelDifference, HasNoSignAtZero)
+{
+    EXPECT_EQ(FormatDifference(-6.0, -6.0), L"0.0 dB");
+    EXPECT_EQ(FormatDifference(-6.04, -6.0), L"0.0 dB");
+    EXPECT_EQ(FormatDifference(-6.0, -6.04), L"0.0 dB");
+}
+
+TEST(LevelDifference, DoesNotExistWithSilence)
+{
+    EXPECT_EQ(FormatDifference(-c_infinity, -6.0), L"-");
+    EXPECT_EQ(FormatDifference(-6.0, -c_infinity), L"-");
+    EXPECT_EQ(FormatDifference(-c_infinity, -c_infinity), L"-");
+}
+
+TEST(Thousands, GetCommasFromFourDigitsOn)
+{
+    EXPECT_EQ(FormatThousands(0), L"0");
+    EXPECT_EQ(FormatThousands(999), L"999");
+    EXPECT_EQ(FormatThousands(1000), L"1,000");
+    EXPECT_EQ(FormatThousands(1234567), L"1,234,567");
+    EXPECT_EQ(FormatThousands(std::numeric_limits<std::uint64_t>::max()), L"18,446,744,073,709,551,615");
+}
+
+TEST(DurationMilliseconds, AreRoundedAndAddUpAcrossRates)
+{
+    EXPECT_EQ(DurationMilliseconds(48000, 48000), 1000U);
+    EXPECT_EQ(DurationMilliseconds(24, 48000), 1U); // half a millisecond
+    EXPECT_EQ(DurationMilliseconds(23, 48000), 0U);
+    EXPECT_EQ(DurationMilliseconds(100, 0), 0U);
+    EXPECT_EQ(FormatMilliseconds(DurationMilliseconds(96000, 48000) + DurationMilliseconds(44100, 44100)), L"0:03.000");
+    EXPECT_EQ(FormatMilliseconds(3'600'000), L"60:00.000");
+}
+
+RecordingAnalysis GoodRecording()
+{
+    RecordingAnalysis analysis;
+    analysis.file.size = 137134;
+    analysis.info.channels = 2;
+    analysis.info.bitsPerSample = 16;
+    analysis.info.sampleRate = 48000;
+    analysis.info.frames = 68545;
+    analysis.info.announcedFrames = 68545;
+    analysis.levels = {-6.5, -22.61};
+    return analysis;
+}
+
+TEST(RecordingDetails, SayEverythingAboutARecording)
+{
+    std::vector<DetailLine> const expected = {{L"File", L"a.wav"},
+                                              {L"Folder", L"measured"},
+                                              {L"Size", L"137,134 bytes"},
+                                              {L"Date", L"yesterday"},
+                                              {L"Format", L"16-bit PCM"},
+                                              {L"Channels", L"2"},
+                                              {L"Sample rate", L"48,000 Hz"},
+                                              {L"Duration", L"0:01.428 (68,545 samples)"},
+                                              {L"Peak level", L"-6.5 dBFS"},
+                                              {L"RMS level", L"-22.6 dBFS"},
+                                              {L"Status", L"OK"}};
+    EXPECT_EQ(DescribeRecording("measured/a.wav", GoodRecording(), L"yesterday"), expected);
+}
+
+TEST(RecordingDetails, SayOfAFileThatIsNoneWhatItIsAndWhy)
+{
+    RecordingAnalysis analysis;
+    analysis.file.size = 1;
+    analysis.problem = ReadProblem{ReadFault::NotWav};
+    std::vector<DetailLine> const expected = {
+        {L"File", L"a.wav"}, {L"Folder", L"measured"}, {L"Size", L"1 byte"}, {L"Status", analysis.problem->Text()}};
+    EXPECT_EQ(DescribeRecording("measured/a.wav", analysis, L""), expected);
+}
+
+TEST(RecordingDetails, LeaveOutASizeThatIsNotKnown)
+{
+    auto analysis = GoodRecording();
+    analysis.file.size.reset();
+    EXPECT_EQ(DescribeRecording("a.wav", analysis, L"").at(2).label, L"Format");
+}
+
+TEST(RecordingDetails, NameTheCoding)
+{
+    RecordingInfo info;
+    info.bitsPerSample = 32;
+    info.coding = SampleCoding::Float;
+    EXPECT_EQ(FormatCoding(info), L"32-bit float");
+    info.bitsPerSample = 8;
+    info.coding = SampleCoding::UnsignedInteger;
+    EXPECT_EQ(FormatCoding(info), L"8-bit PCM");
+}
+
+class FileFactsTest : public testing::Test
+{
+protected:
+    void TearDown() override
+    {
+        std::error_code ignored;
+        std::filesystem::remove(m_path, ignored);
+    }
+
+    std::filesystem::path m_path = std::filesystem::temp_directory_path() / "workbench-file-facts.wav";
+};
+
+TEST_F(FileFactsTest, AreSizeAndTimeOfTheFile)
+{
+    std::ofstream(m_path, std::ios::binary) << "12345";
+    auto const facts = ReadFileFacts(m_path);
+    EXPECT_EQ(facts.size, 5U);
+    ASSERT_TRUE(facts.lastWrite);
+    auto const now = std::chrono::system_clock::to_time_t(std::chrono::system_clock::now());
+    EXPECT_LE(std::abs(static_cast<long long>(now - *facts.lastWrite)), 60);
+}
+
+TEST_F(FileFactsTest, FollowTheFilesTime)
+{
+    std::ofstream(m_path, std::ios::binary) << "12345";
+    auto const before = ReadFileFacts(m_path);
+    ASSERT_TRUE(before.lastWrite);
+    std::filesystem::last_write_time(m_path, std::filesystem::last_write_time(m_path) - std::chrono::hours(1));
+    auto const after = ReadFileFacts(m_path);
+    ASSERT_TRUE(after.lastWrite);
+    EXPECT_EQ(*before.lastWrite - *after.lastWrite, 3600);
+}
+
+TEST_F(FileFactsTest, AreEmptyForAMissingFile)
+{
+    auto const facts = ReadFileFacts(m_path);
+    EXPECT_FALSE(facts.size);
+    EXPECT_FALSE(facts.lastWrite);
+}
+
+TEST_F(FileFactsTest, ComeWithTheAnalysis)
+{
+    std::ofstream(m_path, std::ios::binary) << "12345";
+    RecordingAnalyser analyser(m_path);
+    while (analyser.Step())
+    {
+    }
+    auto const analysis = analyser.Take();
+    EXPECT_TRUE(analysis.problem);
+    EXPECT_EQ(analysis.file.size, 5U);
+    EXPECT_TRUE(analysis.file.lastWrite);
+}
+
+} // namespace

@@ -1,0 +1,564 @@
+#include "list_PaintTest.h"
+
+#include <cmath>
+#include <set>
+#include <utility>
+
+namespace
+{
+using Pixels = std::set<std::pair<int, int>>;
+
+class ListPaintCells : public tests::ListPaintTest
+{
+protected:
+    static constexpr COLORREF Ink = RGB(200, 0, 100);
+    static constexpr COLORREF Paper = RGB(240, 250, 230);
+
+    /// Gives the cell a text in a colour that nothing else has.
+    void Write(int row, int col, wchar_t const * text) { list.SetItemText(row, col, text, Ink, Paper); }
+    void SetWidth(int col, int width) { list.CListCtrl::SetColumnWidth(col, width); }
+
+    Pixels PixelsOf(COLORREF colour, CRect const & rect) const
+    {
+        Pixels pixels;
+        for (int y = rect.top; y < rect.bottom; ++y)
+            for (int x = rect.left; x < rect.right; ++x)
+                if (canvas.Pixel(x, y) == colour)
+                    pixels.insert({x - rect.left, y - rect.top});
+        return pixels;
+    }
+
+    /// The box of a check cell without a text, in the middle of the cell.
+    static CRect CentredBox(CRect const & cell)
+    {
+        CPoint const corner(cell.left + cell.Width() / 2 - 6 - 1, cell.top + (cell.Height() - BoxSize) / 2);
+        return CRect(corner, CSize(BoxSize, BoxSize));
+    }
+
+    std::unique_ptr<tests::Canvas> Painted(int row, int col)
+    {
+        Paint(row, col);
+        return Copy(Cell(row, col));
+    }
+};
+
+TEST_F(ListPaintCells, StagesBeforeTheCellsAskForTheCells)
+{
+    LRESULT result = -1;
+    NMLVCUSTOMDRAW draw = Notification(CDDS_PREPAINT, 0, 0);
+    list.OnCustomDraw(&draw.nmcd.hdr, &result);
+    EXPECT_EQ(result, CDRF_NOTIFYSUBITEMDRAW);
+    draw = Notification(CDDS_ITEMPREPAINT, 0, 0);
+    list.OnCustomDraw(&draw.nmcd.hdr, &result);
+    EXPECT_EQ(result, CDRF_NOTIFYSUBITEMDRAW);
+    draw = Notification(CDDS_ITEMPOSTPAINT, 0, 0);
+    list.OnCustomDraw(&draw.nmcd.hdr, &result);
+    EXPECT_EQ(result, CDRF_DODEFAULT);
+    EXPECT_EQ(Paint(0, 1), CDRF_SKIPDEFAULT);
+}
+
+TEST_F(ListPaintCells, ARowWithoutCellsIsDrawnByTheNativeList)
+{
+    int const row = list.InsertForeignItem(0, L"x");
+    EXPECT_EQ(Paint(row, 0), CDRF_DODEFAULT);
+    EXPECT_TRUE(canvas.BoundsOfOther(Untouched).IsRectEmpty());
+}
+
+TEST_F(ListPaintCells, AColumnBeyondTheRowsCellsIsDrawnByTheNativeList)
+{
+    list.AddColumns(6);
+    EXPECT_EQ(Paint(0, 8), CDRF_DODEFAULT);
+    EXPECT_TRUE(canvas.BoundsOfOther(Untouched).IsRectEmpty());
+}
+
+TEST_F(ListPaintCells, TheColoursGoToTheNotification)
+{
+    list.SetItemColors(0, 1, Ink, Paper, XLISTCTRLDATA::no_gradient);
+    NMLVCUSTOMDRAW draw = Notification(CDDS_ITEMPREPAINT | CDDS_SUBITEM, 0, 1);
+    LRESULT result = 0;
+    list.OnCustomDraw(&draw.nmcd.hdr, &result);
+    EXPECT_EQ(draw.clrText, Ink);
+    EXPECT_EQ(draw.clrTextBk, Paper);
+}
+
+TEST_F(ListPaintCells, ATextCellIsFilledWhollyAndPadded)
+{
+    Write(0, 1, L"XXXXXXXXXXXXXXXXXXXXXX");
+    Paint(0, 1);
+    CRect const cell = Cell(0, 1);
+    EXPECT_EQ(canvas.BoundsOfOther(Untouched), cell);
+    EXPECT_EQ(Count(Untouched, cell), 0);
+    CRect const text = Bounds(Ink, cell);
+    EXPECT_GE(text.left, Padding);
+    EXPECT_LE(text.left, Padding + 2);
+    EXPECT_LE(text.right, ColumnWidth - Padding);
+}
+
+TEST_F(ListPaintCells, PaddingThatLeavesNoRoomShowsNoText)
+{
+    Write(0, 1, L"XXXXXXXXXXXX");
+    list.SetCellPadding(200);
+    Paint(0, 1);
+    EXPECT_EQ(canvas.Count(Ink), 0);
+    EXPECT_TRUE(OnlyWithin(Cell(0, 1)));
+}
+
+TEST_F(ListPaintCells, TheDrawOperationLeavesTheCallersRectangleAlone)
+{
+    Write(0, 1, L"X");
+    CRect rect = Cell(0, 1);
+    list.DrawTextW(0, 1, &canvas.Dc(), Ink, Paper, rect, list.GetRowData(0));
+    EXPECT_EQ(rect, Cell(0, 1));
+    EXPECT_GT(canvas.Count(Ink), 0);
+}
+
+TEST_F(ListPaintCells, TextFollowsTheColumnsAlignment)
+{
+    HDITEMW item = {};
+    item.mask = HDI_FORMAT;
+    for (int col = 0; col < 3; ++col)
+        Write(0, col, L"X");
+    for (auto const & [col, format] : {std::pair(1, HDF_RIGHT), std::pair(2, HDF_CENTER)})
+    {
+        item.fmt = format | HDF_STRING;
+        ::SendMessageW(list.Header(), HDM_SETITEMW, static_cast<WPARAM>(col), reinterpret_cast<LPARAM>(&item));
+    }
+    Paint(0, 0);
+    EXPECT_LE(Bounds(Ink, Cell(0, 0)).left, Padding + 2);
+    Paint(0, 1);
+    CRect const right = Bounds(Ink, Cell(0, 1));
+    EXPECT_GE(right.right, ColumnWidth - Padding - 2);
+    EXPECT_LE(right.right, ColumnWidth - Padding);
+    Paint(0, 2);
+    EXPECT_NEAR(Bounds(Ink, Cell(0, 2)).CenterPoint().x, ColumnWidth / 2, 2);
+}
+
+TEST_F(ListPaintCells, TooLongATextEndsInAnEllipsisIfThatIsOn)
+{
+    Write(0, 1, L"XXXXXXXXXXXXXXXXXXXXXX");
+    auto const withEllipsis = Painted(0, 1);
+    EXPECT_TRUE(list.SetEllipsis(false));
+    auto const without = Painted(0, 1);
+    EXPECT_FALSE(tests::SamePixels(*withEllipsis, *without));
+    // The dots stand at the bottom of the line only.
+    EXPECT_LT(withEllipsis->Count(Ink), without->Count(Ink));
+
+    Write(0, 1, L"X");
+    auto const shortText = Painted(0, 1);
+    list.SetEllipsis(true);
+    EXPECT_TRUE(tests::SamePixels(*Painted(0, 1), *shortText));
+}
+
+TEST_F(ListPaintCells, BoldAndUnderlineShow)
+{
+    Write(0, 1, L"IlI");
+    CRect const cell = Cell(0, 1);
+    Paint(0, 1);
+    int const plainInk = Count(Ink, cell);
+    CRect const plain = Bounds(Ink, cell);
+    list.SetBold(0, 1, true);
+    Paint(0, 1);
+    EXPECT_GT(Count(Ink, cell), plainInk);
+    list.SetBold(0, 1, false);
+    list.SetItemProperty(0, 1, XLP_UNDERLINE, true);
+    Paint(0, 1);
+    EXPECT_GT(Bounds(Ink, cell).bottom, plain.bottom);
+    // The font of the device context is as before.
+    list.SetItemProperty(0, 1, XLP_UNDERLINE, false);
+    Paint(0, 1);
+    EXPECT_EQ(Count(Ink, cell), plainInk);
+}
+
+TEST_F(ListPaintCells, ATextOfAnyLengthIsDrawn)
+{
+    CString text(L' ', 700);
+    text += L"XX";
+    HDITEMW item = {};
+    item.mask = HDI_FORMAT;
+    item.fmt = HDF_RIGHT | HDF_STRING;
+    ::SendMessageW(list.Header(), HDM_SETITEMW, 1, reinterpret_cast<LPARAM>(&item));
+    list.SetEllipsis(false);
+    Write(0, 1, text);
+    Paint(0, 1);
+    EXPECT_GT(canvas.Count(Ink), 0);
+    EXPECT_TRUE(OnlyWithin(Cell(0, 1)));
+}
+
+TEST_F(ListPaintCells, AnAmpersandIsAnAmpersandInTextAndAMnemonicBesideABox)
+{
+    list.AddColumns(1, 100);
+    Write(0, 1, L"&X");
+    auto const text = Painted(0, 1);
+    Write(0, 1, L"X");
+    EXPECT_LT(Painted(0, 1)->Count(Ink), text->Count(Ink));
+    CRect const plain = Bounds(Ink, Cell(0, 1));
+
+    list.SetCheckbox(0, 1, XLC_UNCHECKED);
+    Write(0, 1, L"&X");
+    Paint(0, 1);
+    CRect const mnemonic = Bounds(Ink, Cell(0, 1));
+    EXPECT_LE(mnemonic.Width(), plain.Width() + 2);
+    EXPECT_GT(mnemonic.bottom, plain.bottom);
+}
+
+TEST_F(ListPaintCells, TheBoxStandsNinePixelsInAndTheTextFourBehind)
+{
+    list.SetCheckbox(0, 1, XLC_UNCHECKED);
+    Write(0, 1, L"XXXXXXXXX");
+    list.SetCellPadding(20);
+    Paint(0, 1);
+    CRect const cell = Cell(0, 1);
+    EXPECT_EQ(Bounds(CheckFrame, cell), CRect(CPoint(9, (RowHeight - BoxSize) / 2), CSize(BoxSize, BoxSize)));
+    CRect const text = Bounds(Ink, cell);
+    EXPECT_GE(text.left, 9 + BoxSize + 4);
+    EXPECT_LE(text.left, 9 + BoxSize + 4 + 2);
+    EXPECT_GT(text.right, ColumnWidth - 15);
+}
+
+TEST_F(ListPaintCells, TheBoxIsCentredWithoutText)
+{
+    list.SetCheckbox(0, 1, XLC_UNCHECKED);
+    CRect const cell = Cell(0, 1);
+    Paint(0, 1);
+    CRect box = CentredBox(cell);
+    box.OffsetRect(-cell.TopLeft());
+    EXPECT_EQ(box.left, 23);
+    EXPECT_EQ(Bounds(CheckFrame, cell), box);
+}
+
+TEST_F(ListPaintCells, TheFrameIsOnePixelWideAndTheInteriorIsTheCells)
+{
+    list.SetCheckbox(0, 1, XLC_UNCHECKED);
+    list.SetItemColors(0, 1, Ink, Paper, XLISTCTRLDATA::no_gradient);
+    Paint(0, 1);
+    CRect box = CentredBox(Cell(0, 1));
+    EXPECT_EQ(Count(CheckFrame, box), 4 * (BoxSize - 1));
+    box.DeflateRect(1, 1);
+    EXPECT_EQ(Count(Paper, box), box.Width() * box.Height());
+}
+
+TEST_F(ListPaintCells, TheTickIsSevenLinesOfThreePixels)
+{
+    Pixels const expected = {
+        {9, 3}, {9, 4}, {9, 5}, {8, 4}, {8, 5}, {8, 6}, {7, 5}, {7, 6}, {7, 7}, {6, 6}, {6, 7},
+        {6, 8}, {5, 7}, {5, 8}, {5, 9}, {4, 6}, {4, 7}, {4, 8}, {3, 5}, {3, 6}, {3, 7},
+    };
+    list.SetCheckbox(0, 1, XLC_CHECKED);
+    Paint(0, 1);
+    EXPECT_EQ(PixelsOf(CheckMark, CentredBox(Cell(0, 1))), expected);
+}
+
+TEST_F(ListPaintCells, TheCrossIsFourDiagonals)
+{
+    Pixels expected;
+    for (int i = 0; i < 7; ++i)
+    {
+        for (int x : {3 + i, 4 + i, 9 - i, 10 - i})
+            expected.insert({x, 3 + i});
+    }
+    list.SetCheckbox(0, 1, XLC_CROSSED);
+    Paint(0, 1);
+    EXPECT_EQ(PixelsOf(CrossMark, CentredBox(Cell(0, 1))), expected);
+}
+
+TEST_F(ListPaintCells, AnUnknownCheckStateHasTextButNoBox)
+{
+    list.SetCheckbox(0, 1, XLC_CHECKED);
+    Write(0, 1, L"XX");
+    list.SetItemCheckedState(0, 1, 5);
+    Paint(0, 1);
+    CRect const cell = Cell(0, 1);
+    EXPECT_EQ(Count(CheckFrame, cell), 0);
+    EXPECT_EQ(Count(CheckMark, cell), 0);
+    EXPECT_GT(Count(Ink, cell), 0);
+    EXPECT_EQ(Count(Ink, cell) + Count(Paper, cell), cell.Width() * cell.Height());
+}
+
+TEST_F(ListPaintCells, ACheckCellShowsNoImage)
+{
+    list.SetCheckbox(0, 1, XLC_CHECKED);
+    auto const without = Painted(0, 1);
+    list.SetItemImage(0, 1, 0);
+    EXPECT_TRUE(tests::SamePixels(*Painted(0, 1), *without));
+}
+
+TEST_F(ListPaintCells, ARadioButtonOnIsALitBallAndOffIsWhite)
+{
+    list.SetRadioButton(0, 1, XLC_RADIO_OFF);
+    Data(0, 1).backgroundColor = Paper;
+    CRect const cell = Cell(0, 1);
+    CRect const box = CentredBox(cell);
+    CPoint const middle = box.CenterPoint();
+    Paint(0, 1);
+    EXPECT_EQ(canvas.Pixel(middle.x, middle.y), RGB(255, 255, 255));
+    EXPECT_GT(Count(CheckFrame, box), 0);
+
+    list.SetRadioButton(0, 1, XLC_RADIO_ON);
+    Paint(0, 1);
+    COLORREF const lit = canvas.Pixel(box.left + 1 + 3, box.top + 1 + 3);
+    COLORREF const dark = canvas.Pixel(box.left + 10, box.top + 9);
+    EXPECT_GT(GetGValue(lit), 230);
+    EXPECT_LT(GetGValue(dark), GetGValue(lit) - 30);
+    EXPECT_GT(GetGValue(dark), 140);
+
+    // Nothing but the background outside of the box without its outermost pixels.
+    CRect ring = box;
+    ring.DeflateRect(1, 1);
+    CRect painted = canvas.BoundsOf([](COLORREF pixel) { return pixel != Paper && pixel != Untouched; });
+    CRect both;
+    both.UnionRect(painted, ring);
+    EXPECT_GE(both.left, box.left);
+    EXPECT_LE(both.right, box.right);
+    EXPECT_GE(both.top, box.top);
+    EXPECT_LE(both.bottom, box.bottom);
+}
+
+TEST_F(ListPaintCells, AnImageStandsTheSpacingInAndItsTextRightBehind)
+{
+    list.SetItemImage(0, 1, 0);
+    Write(0, 1, L"XXXXXXXXX");
+    Paint(0, 1);
+    CRect const cell = Cell(0, 1);
+    EXPECT_EQ(Bounds(Red, cell), CRect(Spacing, 10 - (ImageHeight >> 1), Spacing + ImageWidth, 20));
+    EXPECT_EQ(Count(Red, cell), ImageWidth * ImageHeight);
+    CRect const text = Bounds(Ink, cell);
+    EXPECT_GE(text.left, Spacing + ImageWidth + Padding);
+    EXPECT_LE(text.left, Spacing + ImageWidth + Padding + 2);
+}
+
+TEST_F(ListPaintCells, AnImageIsCutToANarrowCell)
+{
+    list.SetItemImage(0, 1, 0);
+    SetWidth(1, 15);
+    Paint(0, 1);
+    CRect const cell = Cell(0, 1);
+    EXPECT_EQ(Bounds(Red, cell).left, Spacing);
+    EXPECT_EQ(Bounds(Red, cell).right, 15);
+    EXPECT_TRUE(OnlyWithin(cell));
+
+    SetWidth(1, Spacing);
+    Paint(0, 1);
+    EXPECT_EQ(canvas.Count(Red), 0);
+    EXPECT_TRUE(OnlyWithin(Cell(0, 1)));
+}
+
+TEST_F(ListPaintCells, TheWidthOfAnImageIsThatAndTheSpacing)
+{
+    CRect const cell = Cell(0, 1);
+    XLISTCTRLDATA * const cells = list.GetRowData(0);
+    auto const width = [&] { return list.DrawImage(0, 1, &canvas.Dc(), Ink, Paper, cell, cells); };
+    EXPECT_EQ(width(), 0);
+    cells[1].imageIndex = 1;
+    EXPECT_EQ(width(), ImageWidth + Spacing);
+    EXPECT_EQ(Count(Green, cell), ImageWidth * ImageHeight);
+    cells[1].imageIndex = 99;
+    EXPECT_EQ(width(), Spacing);
+    EXPECT_EQ(Count(Green, cell), 0);
+    list.SetImageList(nullptr, LVSIL_SMALL);
+    EXPECT_EQ(width(), 0);
+}
+
+TEST_F(ListPaintCells, AnImageListKeepsItsBackgroundColour)
+{
+    CImageList * const images = list.GetImageList(LVSIL_SMALL);
+    images->SetBkColor(Ink);
+    list.SetItemImage(0, 1, 0);
+    Paint(0, 1);
+    EXPECT_EQ(images->GetBkColor(), Ink);
+    images->SetBkColor(CLR_NONE);
+}
+
+TEST_F(ListPaintCells, AComboHasAnArrowAtItsRight)
+{
+    list.SetComboBox(0, 1, std::map<int, wchar_t const *>{{1, L""}}, 1, 1);
+    Data(0, 1).backgroundColor = Paper;
+    Paint(0, 1);
+    CRect const cell = Cell(0, 1);
+    CRect arrow = canvas.BoundsOf([](COLORREF pixel) { return pixel != Paper && pixel != Untouched; });
+    arrow.OffsetRect(-cell.TopLeft());
+    // Its box begins 5 pixels of padding and 13 of its own left of the edge, and 4 below the top.
+    EXPECT_NEAR(arrow.left, ColumnWidth - 18 + 3, 1);
+    EXPECT_NEAR(arrow.right, ColumnWidth - 18 + 3 + 8, 1);
+    EXPECT_NEAR(arrow.top, 4 + 3, 1);
+    EXPECT_NEAR(arrow.bottom, 4 + 3 + 7, 1);
+    // Darker towards its tip.
+    int const x = static_cast<int>(cell.left) + ColumnWidth - 18 + 3 + 4;
+    EXPECT_GT(GetRValue(canvas.Pixel(x, cell.top + 4 + 3 + 2)), GetRValue(canvas.Pixel(x, cell.top + 4 + 3 + 5)));
+}
+
+TEST_F(ListPaintCells, TheTextOfAComboEndsBeforeTheArrowAndADisabledOneHasNeitherArrowNorPadding)
+{
+    list.SetEllipsis(false);
+    list.SetComboBox(0, 1, std::map<int, wchar_t const *>{{1, L"XXXXXXXXXXXXXXXX"}}, 1, 1);
+    Data(0, 1).textColor = Ink;
+    CRect const cell = Cell(0, 1);
+    Paint(0, 1);
+    CRect text = Bounds(Ink, cell);
+    EXPECT_GE(text.left, Padding);
+    EXPECT_LE(text.left, Padding + 2);
+    EXPECT_LE(text.right, ColumnWidth - Padding - 13);
+    EXPECT_GE(text.right, ColumnWidth - Padding - 13 - 3);
+
+    list.SetEnabled(0, 1, false);
+    Paint(0, 1);
+    text = Bounds(::GetSysColor(COLOR_GRAYTEXT), cell);
+    EXPECT_LT(text.left, Padding - 1);
+    EXPECT_GE(text.right, ColumnWidth - 2);
+    EXPECT_EQ(canvas.BoundsOf([](COLORREF pixel) { return GetGValue(pixel) > GetRValue(pixel) + 20; }),
+              CRect(0, 0, 0, 0));
+}
+
+TEST_F(ListPaintCells, ACombosTextIsNeitherBoldNorUnderlined)
+{
+    list.SetComboBox(0, 1, std::map<int, wchar_t const *>{{1, L"Xx"}}, 1, 1);
+    auto const plain = Painted(0, 1);
+    list.SetItemProperty(0, 1, XLP_BOLD | XLP_UNDERLINE, true);
+    EXPECT_TRUE(tests::SamePixels(*Painted(0, 1), *plain));
+}
+
+TEST_F(ListPaintCells, AWashFadesOutToTheRight)
+{
+    COLORREF const wash = RGB(10, 60, 200);
+    list.SetItemColors(0, 1, 0, RGB(255, 255, 255), wash);
+    Paint(0, 1);
+    CRect const cell = Cell(0, 1);
+    CRect const painted = canvas.BoundsOf([](COLORREF pixel) { return pixel != 0xFFFFFF && pixel != Untouched; });
+    EXPECT_EQ(painted, CRect(cell.left + 1, cell.top + 2, cell.right - 1, cell.bottom - 2));
+    int const y = cell.CenterPoint().y;
+    EXPECT_NEAR(GetRValue(canvas.Pixel(cell.left + 1, y)), 10, 2);
+    int former = 0;
+    for (int x = cell.left + 1; x < cell.right - 1; ++x)
+    {
+        int const red = GetRValue(canvas.Pixel(x, y));
+        EXPECT_GE(red, former) << x;
+        former = red;
+    }
+    EXPECT_GT(former, 200);
+    EXPECT_LT(former, 255);
+    // At 0.3 of 1.05 widths the colour still covers 240 of 255 parts.
+    int const bend = cell.left + 1 + static_cast<int>(0.3 * 1.05 * (ColumnWidth - 2));
+    EXPECT_NEAR(GetRValue(canvas.Pixel(bend, y)), 10 + 245 * 15 / 255, 5);
+}
+
+TEST_F(ListPaintCells, ACustomCellIsPaintedByItsOwnAlone)
+{
+    CRect seen;
+    int row = -1;
+    int col = -1;
+    list.SetCustomDraw(2, 1, [&](int atRow, int atCol, CDC * dc, CRect const & rect) {
+        row = atRow;
+        col = atCol;
+        seen = rect;
+        dc->SetPixel(rect.left + 1, rect.top + 1, Ink);
+    });
+    EXPECT_EQ(Paint(2, 1), CDRF_SKIPDEFAULT);
+    EXPECT_EQ(row, 2);
+    EXPECT_EQ(col, 1);
+    EXPECT_EQ(seen, Cell(2, 1));
+    EXPECT_EQ(canvas.BoundsOfOther(Untouched), CRect(CPoint(seen.left + 1, seen.top + 1), CSize(1, 1)));
+}
+
+TEST_F(ListPaintCells, AnEmptyPainterIsABadFunctionCall)
+{
+    list.SetCustomDraw(0, 1, {});
+    EXPECT_THROW(Paint(0, 1), std::bad_function_call);
+    list.RemoveCustomDraw(0, 1);
+    EXPECT_EQ(Paint(0, 1), CDRF_SKIPDEFAULT);
+}
+
+TEST_F(ListPaintCells, KindsAreTriedInOrder)
+{
+    // A progress cell with a check state, a combo's bit and a painter is a bar.
+    list.SetProgress(0, 1, false, nullptr);
+    auto const bar = Painted(0, 1);
+    XLISTCTRLDATA & cell = Data(0, 1);
+    cell.checkedState = XLC_CHECKED;
+    cell.properties |= XLP_COMBO | XLP_CUSTOMDRAW;
+    bool custom = false;
+    cell.customDraw = [&](int, int, CDC *, CRect const &) { custom = true; };
+    EXPECT_TRUE(tests::SamePixels(*Painted(0, 1), *bar));
+    cell.properties &= ~XLP_PROGRESS;
+    Paint(0, 1);
+    EXPECT_EQ(Count(CheckMark, Cell(0, 1)), 21);
+    cell.checkedState = XLC_NONE;
+    EXPECT_FALSE(tests::SamePixels(*Painted(0, 1), *bar));
+    EXPECT_FALSE(custom);
+    cell.properties &= ~XLP_COMBO;
+    Paint(0, 1);
+    EXPECT_TRUE(custom);
+}
+
+TEST_F(ListPaintCells, NothingIsDrawnIntoNothing)
+{
+    list.SetItemImage(0, 1, 0);
+    XLISTCTRLDATA * const cells = list.GetRowData(0);
+    CDC * const dc = &canvas.Dc();
+    CRect const cell = Cell(0, 1);
+    CRect const empty(cell.left, cell.top, cell.left, cell.bottom);
+    EXPECT_EQ(list.DrawImage(0, 1, dc, 0, 0, empty, cells), 0);
+    for (auto const draw :
+         {&tests::TestList::DrawTextW, &tests::TestList::DrawCheckbox, &tests::TestList::DrawComboBox})
+    {
+        CRect rect = empty;
+        (list.*draw)(0, 1, dc, 0, 0, rect, cells);
+        rect = cell;
+        (list.*draw)(0, 1, nullptr, 0, 0, rect, cells);
+        (list.*draw)(0, 1, dc, 0, 0, rect, nullptr);
+    }
+    CRect rect = cell;
+    list.DrawProgress(0, 1, nullptr, 0, 0, rect, cells);
+    list.DrawProgress(0, 1, dc, 0, 0, rect, nullptr);
+    EXPECT_TRUE(canvas.BoundsOfOther(Untouched).IsRectEmpty());
+}
+
+TEST_F(ListPaintCells, ColumnZeroEndsWhereTheNextColumnBegins)
+{
+    Write(0, 0, L"XXXXXXXXXXXXXXXXXXXXXX");
+    Paint(0, 0);
+    CRect const next = Cell(0, 1);
+    EXPECT_EQ(canvas.BoundsOfOther(Untouched), CRect(0, next.top, next.left, next.bottom));
+}
+
+TEST_F(ListPaintCells, NoKindLeavesItsCellHoweverNarrow)
+{
+    constexpr int all_kinds = 7;
+    for (int width : {1, 2, 3, 5, 8, 12, 14, 18, 23, 30, 60})
+    {
+        SetWidth(1, width);
+        for (int kind = 0; kind < all_kinds; ++kind)
+        {
+            Data(0, 1) = XLISTCTRLDATA();
+            Data(0, 1).gradientColor = kind % 2 == 0 ? 0x804020 : XLISTCTRLDATA::no_gradient;
+            list.SetItemText(0, 1, L"Text");
+            switch (kind)
+            {
+            case 0:
+                list.SetCheckbox(0, 1, XLC_CHECKED);
+                break;
+            case 1:
+                list.SetCheckbox(0, 1, XLC_CROSSED);
+                list.SetItemText(0, 1, L"");
+                break;
+            case 2:
+                list.SetRadioButton(0, 1, XLC_RADIO_ON);
+                break;
+            case 3:
+                list.SetComboBox(0, 1, std::map<int, wchar_t const *>{{1, L"Text"}}, 1, 1);
+                break;
+            case 4:
+                list.SetProgress(0, 1, true, L"%d of 100");
+                list.UpdateProgress(0, 1, 40, 40);
+                break;
+            case 5:
+                list.SetItemImage(0, 1, 0);
+                break;
+            default:
+                list.SetBold(0, 1, true);
+                break;
+            }
+            Paint(0, 1);
+            EXPECT_TRUE(OnlyWithin(Cell(0, 1))) << "width " << width << ", kind " << kind;
+        }
+    }
+}
+} // namespace

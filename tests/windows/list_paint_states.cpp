@@ -1,0 +1,375 @@
+#include "GdiHandleCount.h"
+#include "Pump.h"
+#include "TestApp.h"
+#include "list_PaintTest.h"
+
+#include <map>
+#include <utility>
+#include <vector>
+
+namespace
+{
+COLORREF Sys(int index)
+{
+    return ::GetSysColor(index);
+}
+
+class ListPaintStates : public tests::ListPaintTest
+{
+protected:
+    static constexpr COLORREF Ink = RGB(200, 0, 100);
+    static constexpr COLORREF Paper = RGB(240, 250, 230);
+
+    explicit ListPaintStates(DWORD style = Style) : ListPaintTest(style) {}
+
+    void SetUp() override
+    {
+        ListPaintTest::SetUp();
+        for (int col = 0; col < 3; ++col)
+            list.SetItemText(1, col, L"XX", Ink, Paper);
+    }
+
+    /// Whether the cell, when painted, is of these two colours alone and has both.
+    testing::AssertionResult IsOf(int row, int col, COLORREF text, COLORREF background)
+    {
+        Paint(row, col);
+        CRect const cell = Cell(row, col);
+        int const texts = Count(text, cell);
+        int const backgrounds = Count(background, cell);
+        if (texts > 0 && backgrounds > 0 && texts + backgrounds == cell.Width() * cell.Height())
+            return testing::AssertionSuccess();
+        return testing::AssertionFailure() << std::hex << texts << " pixels have the text's colour " << text << ", "
+                                           << backgrounds << " the background's " << background;
+    }
+    testing::AssertionResult IsSelected(int col)
+    {
+        return IsOf(1, col, Sys(COLOR_HIGHLIGHTTEXT), Sys(COLOR_HIGHLIGHT));
+    }
+    bool Erase() { return list.SendMessage(WM_ERASEBKGND, reinterpret_cast<WPARAM>(canvas.Dc().GetSafeHdc())) != 0; }
+    void SetFullRow(bool on)
+    {
+        ::SendMessageW(list.m_hWnd, LVM_SETEXTENDEDLISTVIEWSTYLE, LVS_EX_FULLROWSELECT, on ? LVS_EX_FULLROWSELECT : 0);
+    }
+};
+
+class ListPaintStatesShown : public ListPaintStates
+{
+protected:
+    ListPaintStatesShown() : ListPaintStates(Style | LVS_SHOWSELALWAYS) {}
+};
+
+TEST_F(ListPaintStates, ASelectedRowHasTheHighlightsColours)
+{
+    EXPECT_TRUE(IsOf(1, 1, Ink, Paper));
+    Select(1, true);
+    for (int col = 0; col < 3; ++col)
+        EXPECT_TRUE(IsSelected(col)) << col;
+}
+
+TEST_F(ListPaintStates, WithoutFullRowSelectionOnlyColumnZeroShowsIt)
+{
+    SetFullRow(false);
+    Select(1, true);
+    EXPECT_TRUE(IsSelected(0));
+    EXPECT_TRUE(IsOf(1, 1, Ink, Paper));
+    EXPECT_TRUE(IsOf(1, 2, Ink, Paper));
+    list.SetCheckbox(1, 0, XLC_CHECKED);
+    list.SetCheckbox(1, 1, XLC_CHECKED);
+    Paint(1, 0);
+    EXPECT_GT(Count(Sys(COLOR_HIGHLIGHT), Cell(1, 0)), 100);
+    EXPECT_GT(Count(CheckMark, Cell(1, 0)), 0);
+    EXPECT_EQ(Count(Paper, Cell(1, 0)), 0);
+    Paint(1, 1);
+    EXPECT_EQ(Count(Sys(COLOR_HIGHLIGHT), Cell(1, 1)), 0);
+    EXPECT_GT(Count(Paper, Cell(1, 1)), 100);
+}
+
+TEST_F(ListPaintStates, WithoutTheFocusARowHasItsOwnColours)
+{
+    Select(1, true);
+    EXPECT_TRUE(IsSelected(1));
+    Select(1, false);
+    EXPECT_TRUE(IsOf(1, 0, Ink, Paper));
+    EXPECT_TRUE(IsOf(1, 1, Ink, Paper));
+}
+
+TEST_F(ListPaintStatesShown, WithoutTheFocusASelectionThatAlwaysShowsIsOnFaceColour)
+{
+    Select(1, true);
+    EXPECT_TRUE(IsSelected(1));
+    Select(1, false);
+    EXPECT_TRUE(IsOf(1, 1, Sys(COLOR_WINDOWTEXT), Sys(COLOR_BTNFACE)));
+    SetFullRow(false);
+    EXPECT_TRUE(IsOf(1, 0, Sys(COLOR_WINDOWTEXT), Sys(COLOR_BTNFACE)));
+    EXPECT_TRUE(IsOf(1, 1, Ink, Paper));
+}
+
+TEST_F(ListPaintStates, MarksStayAsTheyAreInASelectedRow)
+{
+    list.SetItemText(1, 1, L"");
+    list.SetCheckbox(1, 1, XLC_CROSSED);
+    Paint(1, 1);
+    int const frame = Count(CheckFrame, Cell(1, 1));
+    int const cross = Count(CrossMark, Cell(1, 1));
+    Select(1, true);
+    Paint(1, 1);
+    EXPECT_EQ(Count(CheckFrame, Cell(1, 1)), frame);
+    EXPECT_EQ(Count(CrossMark, Cell(1, 1)), cross);
+}
+
+TEST_F(ListPaintStates, ADisabledCellOnTheWindowsColourIsGreyOnFaceColour)
+{
+    list.SetItemColors(1, 1, Ink, Sys(COLOR_WINDOW), XLISTCTRLDATA::no_gradient);
+    list.SetEnabled(1, 1, false);
+    EXPECT_TRUE(IsOf(1, 1, Sys(COLOR_GRAYTEXT), Sys(COLOR_BTNFACE)));
+    NMLVCUSTOMDRAW draw = Notification(CDDS_ITEMPREPAINT | CDDS_SUBITEM, 1, 1);
+    LRESULT result = 0;
+    list.OnCustomDraw(&draw.nmcd.hdr, &result);
+    EXPECT_EQ(draw.clrText, Sys(COLOR_GRAYTEXT));
+    EXPECT_EQ(draw.clrTextBk, Sys(COLOR_BTNFACE));
+}
+
+TEST_F(ListPaintStates, ADisabledCellKeepsABackgroundOfItsOwn)
+{
+    list.SetEnabled(1, 1, false);
+    EXPECT_TRUE(IsOf(1, 1, Sys(COLOR_GRAYTEXT), Paper));
+}
+
+TEST_F(ListPaintStates, DisabledMarksAreGrey)
+{
+    list.SetItemText(1, 1, L"");
+    for (int const state : {XLC_UNCHECKED, XLC_CHECKED, XLC_CROSSED})
+    {
+        list.SetCheckbox(1, 1, state);
+        list.SetEnabled(1, 1, true);
+        Paint(1, 1);
+        CRect const cell = Cell(1, 1);
+        int const enabled = cell.Width() * cell.Height() - Count(Paper, cell);
+        list.SetEnabled(1, 1, false);
+        Paint(1, 1);
+        EXPECT_EQ(Count(Sys(COLOR_GRAYTEXT), cell), enabled) << state;
+        EXPECT_EQ(Count(Paper, cell), cell.Width() * cell.Height() - enabled) << state;
+    }
+}
+
+TEST_F(ListPaintStates, ADisabledRadioButtonDoesNotTellWhetherItIsOn)
+{
+    list.SetRadioButton(1, 1, XLC_RADIO_ON);
+    list.SetEnabled(1, 1, false);
+    Paint(1, 1);
+    auto const on = Copy(Cell(1, 1));
+    list.SetRadioButton(1, 1, XLC_RADIO_OFF);
+    Paint(1, 1);
+    EXPECT_TRUE(tests::SamePixels(*on, *Copy(Cell(1, 1))));
+}
+
+TEST_F(ListPaintStates, ALinkIsAnUnderlinedText)
+{
+    Paint(1, 1);
+    CRect const plain = Bounds(Ink, Cell(1, 1));
+    list.SetHyperlink(1, 1, true, false);
+    Paint(1, 1);
+    EXPECT_GT(Bounds(Ink, Cell(1, 1)).bottom, plain.bottom);
+    list.SetHyperlink(1, 1, true, true);
+    EXPECT_TRUE(IsOf(1, 1, 0xFF0000, Paper));
+}
+
+TEST_F(ListPaintStates, AnImageStandsOnTheDrawingColour)
+{
+    list.SetItemImage(1, 1, 0);
+    list.SetItemText(1, 1, L"");
+    Select(1, true);
+    Paint(1, 1);
+    CRect const cell = Cell(1, 1);
+    EXPECT_EQ(Count(Red, cell) + Count(Sys(COLOR_HIGHLIGHT), cell), cell.Width() * cell.Height());
+}
+
+TEST_F(ListPaintStates, RowsAreNotErased)
+{
+    canvas.Fill(Untouched);
+    EXPECT_TRUE(Erase());
+    CRect const first = Cell(0, 0);
+    CRect const last = Cell(3, 2);
+    CRect const rows(first.left, first.top, last.right, last.bottom);
+    EXPECT_EQ(Count(Untouched, rows), rows.Width() * rows.Height());
+    EXPECT_EQ(canvas.Count(Untouched), rows.Width() * rows.Height());
+    EXPECT_EQ(canvas.Count(Sys(COLOR_WINDOW)), canvas.Width() * canvas.Height() - rows.Width() * rows.Height());
+}
+
+TEST_F(ListPaintStates, ErasingStaysWithinTheClip)
+{
+    canvas.Fill(Untouched);
+    CRect const clip(100, 30, 300, 120);
+    CRgn region;
+    region.CreateRectRgnIndirect(clip);
+    canvas.Dc().SelectClipRgn(&region);
+    EXPECT_TRUE(Erase());
+    canvas.Dc().SelectClipRgn(nullptr);
+    CRect rows(0, Cell(0, 0).top, Cell(3, 2).right, Cell(3, 2).bottom);
+    rows.IntersectRect(rows, clip);
+    EXPECT_EQ(canvas.Count(Sys(COLOR_WINDOW)), clip.Width() * clip.Height() - rows.Width() * rows.Height());
+    EXPECT_TRUE(OnlyWithin(clip));
+}
+
+TEST_F(ListPaintStates, AnEmptyListIsErasedByTheNativeList)
+{
+    list.DeleteAllItems();
+    canvas.Fill(Untouched);
+    Erase();
+    CRect const below(0, 40, canvas.Width(), canvas.Height());
+    EXPECT_EQ(Count(list.GetBkColor(), below), below.Width() * below.Height());
+}
+
+/// What the list shows on the screen, painted anew.
+void Show(tests::TestList & list, tests::Canvas & canvas)
+{
+    list.Invalidate();
+    list.UpdateWindow();
+    canvas.CopyFromScreen(list.m_hWnd);
+}
+
+TEST_F(ListPaintStates, AnEmptyListShowsItsTextBelowTheHeader)
+{
+    CRect header;
+    ::SendMessageW(list.Header(), HDM_GETITEMRECT, 0, reinterpret_cast<LPARAM>(&header));
+    list.DeleteAllItems();
+    Show(list, canvas);
+    CRect const below(0, header.bottom, canvas.Width(), canvas.Height());
+    EXPECT_EQ(Count(Sys(COLOR_WINDOW), below), below.Width() * below.Height());
+
+    list.SetEmptyListText(L"HHHHHH HHHHHH");
+    Show(list, canvas);
+    EXPECT_LT(Count(Sys(COLOR_WINDOW), below), below.Width() * below.Height());
+    canvas.Dc().FillSolidRect(header.left, 0, canvas.Width(), header.bottom, Sys(COLOR_WINDOW));
+    CRect const text = canvas.BoundsOfOther(Sys(COLOR_WINDOW));
+    EXPECT_GE(text.top, header.bottom + 10);
+    EXPECT_LE(text.top, header.bottom + 10 + 8);
+    EXPECT_NEAR(text.CenterPoint().x, canvas.Width() / 2, 3);
+}
+
+TEST_F(ListPaintStates, AListWithRowsShowsNoEmptyText)
+{
+    Show(list, canvas);
+    tests::Canvas with(canvas.Width(), canvas.Height());
+    list.SetEmptyListText(L"HHHHHH");
+    Show(list, with);
+    EXPECT_TRUE(tests::SamePixels(canvas, with));
+}
+
+TEST_F(ListPaintStates, TheScreenShowsWhatTheCellsPaint)
+{
+    list.SetItemText(1, 1, L"");
+    list.SetCheckbox(1, 1, XLC_CHECKED);
+    Show(list, canvas);
+    CRect const cell = Cell(1, 1);
+    EXPECT_EQ(Count(CheckMark, cell), 21);
+    EXPECT_EQ(Count(CheckFrame, cell), 48);
+    EXPECT_EQ(Count(Paper, cell) + 21 + 48, cell.Width() * cell.Height());
+}
+
+TEST_F(ListPaintStates, AChangedCellAloneIsToBePainted)
+{
+    list.SetProgress(1, 2, true, nullptr);
+    list.SetCheckbox(1, 1, XLC_UNCHECKED);
+    list.UpdateWindow();
+    CRect around = Cell(1, 1);
+    around.InflateRect(2, 2);
+    list.TakeUpdateRect();
+    list.SetCheckbox(1, 1, XLC_CHECKED);
+    EXPECT_EQ(list.TakeUpdateRect(), around);
+    list.SetEnabled(1, 1, false);
+    EXPECT_EQ(list.TakeUpdateRect(), around);
+    list.SetBold(1, 1, true);
+    EXPECT_EQ(list.TakeUpdateRect(), around);
+    around = Cell(1, 2);
+    around.InflateRect(2, 2);
+    list.UpdateProgress(1, 2, 30, 30);
+    EXPECT_EQ(list.TakeUpdateRect(), around);
+}
+
+TEST_F(ListPaintStates, PaintingTheChangedCellPaintsItAlone)
+{
+    std::vector<std::pair<int, int>> painted;
+    auto const note = [&](int row, int col, CDC * dc, CRect const & rect) {
+        if (dc->RectVisible(rect))
+            painted.emplace_back(row, col);
+    };
+    for (int row = 0; row < 4; ++row)
+        for (int col = 0; col < 3; ++col)
+            list.SetCustomDraw(row, col, note);
+    list.UpdateWindow();
+    list.TakeUpdateRect();
+    painted.clear();
+    list.InvalidateRect(Cell(2, 1));
+    list.UpdateWindow();
+    EXPECT_EQ(painted, (std::vector<std::pair<int, int>>{{2, 1}}));
+}
+
+TEST_F(ListPaintStates, AnEmptyPainterIsReportedAndTheProgramGoesOn)
+{
+    list.SetCustomDraw(1, 1, {});
+    list.UpdateWindow();
+    tests::PumpPosted();
+    EXPECT_FALSE(tests::App().TakeMessages().empty());
+    list.RemoveCustomDraw(1, 1);
+    Show(list, canvas);
+    EXPECT_GT(Count(Paper, Cell(1, 1)), 0);
+    EXPECT_TRUE(tests::App().TakeMessages().empty());
+}
+
+TEST_F(ListPaintStates, NewSystemColoursAreTakenUp)
+{
+    int const element = COLOR_HIGHLIGHT;
+    COLORREF const former = Sys(element);
+    COLORREF const other = RGB(1, 120, 60);
+    Select(1, true);
+    ::SetSysColors(1, &element, &other);
+    list.SendMessage(WM_SYSCOLORCHANGE);
+    EXPECT_TRUE(IsOf(1, 1, Sys(COLOR_HIGHLIGHTTEXT), other));
+    ::SetSysColors(1, &element, &former);
+    list.SendMessage(WM_SYSCOLORCHANGE);
+    EXPECT_TRUE(IsSelected(1));
+}
+
+class ListPaintHandles : public ListPaintStates, public testing::WithParamInterface<int>
+{
+};
+
+INSTANTIATE_TEST_SUITE_P(Kinds, ListPaintHandles, testing::Range(0, 9));
+
+TEST_P(ListPaintHandles, PaintingLeavesNone)
+{
+    constexpr int cells = 20000;
+    switch (GetParam())
+    {
+    case 0:
+        break;
+    case 1:
+        list.SetItemProperty(1, 1, XLP_BOLD | XLP_UNDERLINE, true);
+        break;
+    case 2:
+        list.SetItemColors(1, 1, Ink, Paper, RGB(40, 80, 200));
+        break;
+    case 3:
+        list.SetCheckbox(1, 1, XLC_CHECKED);
+        break;
+    case 4:
+        list.SetCheckbox(1, 1, XLC_CROSSED);
+        break;
+    case 5:
+        list.SetRadioButton(1, 1, XLC_RADIO_ON);
+        break;
+    case 6:
+        list.SetComboBox(1, 1, std::map<int, wchar_t const *>{{1, L"XX"}}, 1, 1);
+        break;
+    case 7:
+        list.SetProgress(1, 1, true, nullptr);
+        list.UpdateProgress(1, 1, 50, 50);
+        break;
+    default:
+        list.SetItemImage(1, 1, 0);
+        break;
+    }
+    EXPECT_EQ(tests::GdiGrowth([&] { PaintOver(1, 1); }, cells, 10), 0);
+}
+} // namespace

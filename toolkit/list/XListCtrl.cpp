@@ -1,0 +1,251 @@
+#include "list/XListCtrl.h"
+
+#include "frame/InternalMessages.h"
+#include "frame/ToolkitResources.h"
+#include "list/XListInput.h"
+#include "resources/resource_ids.h"
+
+#include <utility>
+
+namespace
+{
+constexpr std::size_t first_pool_capacity = 16;
+constexpr UINT last_tool_id = 0xFFFF;
+} // namespace
+
+IMPLEMENT_DYNAMIC(CXListCtrl, CListCtrl)
+
+// clang-format off
+BEGIN_MESSAGE_MAP(CXListCtrl, CListCtrl)
+    ON_NOTIFY_REFLECT_EX(NM_CLICK, &CXListCtrl::OnClick)
+    ON_NOTIFY_REFLECT_EX(LVN_COLUMNCLICK, &CXListCtrl::OnColumnClick)
+    ON_WM_CREATE()
+    ON_NOTIFY_REFLECT(NM_CUSTOMDRAW, &CXListCtrl::OnCustomDraw)
+    ON_WM_DESTROY()
+    ON_WM_LBUTTONDOWN()
+    ON_WM_LBUTTONUP()
+    ON_WM_LBUTTONDBLCLK()
+    ON_WM_PAINT()
+    ON_WM_SYSCOLORCHANGE()
+    ON_WM_ERASEBKGND()
+    ON_WM_KEYDOWN()
+    ON_WM_RBUTTONDOWN()
+    ON_WM_NCLBUTTONDOWN()
+    ON_WM_MOUSEMOVE()
+    ON_WM_CONTEXTMENU()
+    ON_WM_TIMER()
+    ON_NOTIFY_EX_RANGE(TTN_NEEDTEXTW, 0, last_tool_id, &CXListCtrl::OnToolTipText)
+    ON_NOTIFY_EX_RANGE(TTN_NEEDTEXTA, 0, last_tool_id, &CXListCtrl::OnToolTipText)
+    ON_REGISTERED_MESSAGE(WM_XCOMBOLIST_VK_ESCAPE, &CXListCtrl::OnComboEscape)
+    ON_REGISTERED_MESSAGE(WM_XCOMBOLIST_COMPLETE, &CXListCtrl::OnComboComplete)
+    ON_REGISTERED_MESSAGE(WM_XEDIT_KILL_FOCUS, &CXListCtrl::OnXEditKillFocus)
+    ON_REGISTERED_MESSAGE(WM_XEDIT_VK_ESCAPE, &CXListCtrl::OnXEditEscape)
+END_MESSAGE_MAP()
+// clang-format on
+
+CXListCtrl::CXListCtrl() : m_rowPool(first_pool_capacity)
+{
+    GetColors();
+}
+
+CXListCtrl::~CXListCtrl()
+{
+    // While the header's object is still there, which the window would miss otherwise.
+    if (m_hWnd != nullptr)
+        DestroyWindow();
+}
+
+void CXListCtrl::PreSubclassWindow()
+{
+    CListCtrl::PreSubclassWindow();
+    ForgetRow();
+    SetExtendedStyle(GetExtendedStyle() | LVS_EX_FULLROWSELECT);
+    if (m_itemToolTips)
+    {
+        if (CToolTipCtrl * const own = GetToolTips())
+            own->Activate(FALSE);
+        EnableToolTips(TRUE);
+    }
+    else
+    {
+        SetExtendedStyle(GetExtendedStyle() | LVS_EX_INFOTIP);
+    }
+    SubclassHeaderControl();
+}
+
+int CXListCtrl::OnCreate(LPCREATESTRUCT create)
+{
+    if (CListCtrl::OnCreate(create) == -1)
+        return -1;
+    SubclassHeaderControl();
+    // A window made anew starts with an empty menu as well.
+    if (m_popupMenu.GetSafeHmenu() != nullptr)
+        m_popupMenu.DestroyMenu();
+    m_popupMenu.CreatePopupMenu();
+    return 0;
+}
+
+void CXListCtrl::SubclassHeaderControl()
+{
+    if (m_headerSubclassed)
+        return;
+    // None before the list is complete, or in a display style without columns.
+    auto const header = reinterpret_cast<HWND>(::SendMessageW(m_hWnd, LVM_GETHEADER, 0, 0));
+    if (header == nullptr || !m_header.SubclassWindow(header))
+        return;
+    m_headerSubclassed = true;
+    m_header.SetList(this);
+}
+
+void CXListCtrl::OnDestroy()
+{
+    m_rowPool.GiveBackAll();
+    m_headerSubclassed = false;
+    CListCtrl::OnDestroy();
+}
+
+BOOL CXListCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT * result)
+{
+    return CListCtrl::OnChildNotify(message, wParam, lParam, result);
+}
+
+// Look
+
+void CXListCtrl::SetDisplayStyle(long style)
+{
+    ModifyStyle(LVS_TYPEMASK, static_cast<DWORD>(style) & LVS_TYPEMASK);
+}
+
+long CXListCtrl::GetDisplayStyle()
+{
+    return static_cast<long>(GetStyle() & LVS_TYPEMASK);
+}
+
+void CXListCtrl::SetFullRowSelect()
+{
+    SetExtendedStyle(GetExtendedStyle() | LVS_EX_FULLROWSELECT);
+}
+
+void CXListCtrl::SetHoverSelection()
+{
+    SetExtendedStyle(GetExtendedStyle() | LVS_EX_TWOCLICKACTIVATE);
+}
+
+void CXListCtrl::SetWithCheckboxes()
+{
+    SetExtendedStyle(GetExtendedStyle() | LVS_EX_CHECKBOXES);
+}
+
+void CXListCtrl::SetWithGridlines()
+{
+    SetExtendedStyle(GetExtendedStyle() | LVS_EX_GRIDLINES);
+}
+
+bool CXListCtrl::SetEllipsis(bool ellipsis)
+{
+    return std::exchange(m_ellipsis, ellipsis);
+}
+
+bool CXListCtrl::GetEllipsis() const
+{
+    return m_ellipsis;
+}
+
+void CXListCtrl::SetCellPadding(int padding)
+{
+    m_cellPadding = padding;
+}
+
+int CXListCtrl::GetCellPadding() const
+{
+    return m_cellPadding;
+}
+
+void CXListCtrl::SetEmptyListText(CString const & text)
+{
+    m_emptyListText = text;
+}
+
+void CXListCtrl::SetEmptyListTextDefault()
+{
+    m_emptyListText = LoadToolkitString(TOOLKIT_STRING_EMPTY_LIST);
+}
+
+void CXListCtrl::SetListModified(bool modified)
+{
+    m_listModified = modified;
+}
+
+bool CXListCtrl::GetListModified() const
+{
+    return m_listModified;
+}
+
+// Header
+
+void CXListCtrl::SetHeaderAlignment(unsigned int alignment)
+{
+    m_header.SetAlignment(alignment);
+}
+
+void CXListCtrl::SetHeaderTextColor(COLORREF color)
+{
+    m_header.SetTextColor(color);
+}
+
+void CXListCtrl::SetHeaderUseImageList(bool use)
+{
+    m_header.SetUseImageList(use);
+}
+
+void CXListCtrl::SetHeaderDirectColumnClick()
+{
+    m_header.SetDirectColumnClick();
+}
+
+void CXListCtrl::SetHeaderAutoCheckbox(bool on)
+{
+    m_headerAutoCheckbox = on;
+}
+
+bool CXListCtrl::SetHeaderCheckedState(int col, int state)
+{
+    if (col < 0 || col >= m_columnCount || state < XHC_NONE || state >= XHC_END || !::IsWindow(m_header.m_hWnd))
+        return false;
+    HDITEMW item{};
+    item.mask = HDI_IMAGE;
+    item.iImage = state;
+    m_header.SetItem(col, &item);
+    return true;
+}
+
+int CXListCtrl::GetHeaderCheckedState(int col) const
+{
+    if (col < 0 || col >= m_columnCount || !::IsWindow(m_header.m_hWnd))
+        return -1;
+    HDITEMW item{};
+    item.mask = HDI_IMAGE;
+    return m_header.GetItem(col, &item) ? item.iImage : -1;
+}
+
+void CXListCtrl::SetHeaderRemoveAllMarks()
+{
+    for (int col = 0; col < m_columnCount; ++col)
+        SetHeaderCheckedState(col, XHC_NONE);
+}
+
+void CXListCtrl::UpdateHeaderFromCells(int col)
+{
+    if (!m_headerAutoCheckbox || !HeaderFollowsCells(GetHeaderCheckedState(col)))
+        return;
+    int const rows = GetItemCount();
+    unsigned long long counts[XLC_CROSSED + 1] = {};
+    for (int row = 0; row < rows; ++row)
+    {
+        XLISTCTRLDATA const * const cell = ValidCell(row, col);
+        if (cell != nullptr && cell->checkedState >= XLC_UNCHECKED && cell->checkedState <= XLC_CROSSED)
+            ++counts[cell->checkedState];
+    }
+    SetHeaderCheckedState(col, HeaderStateOfCells(static_cast<unsigned long long>(rows), counts[XLC_UNCHECKED],
+                                                  counts[XLC_CHECKED], counts[XLC_CROSSED]));
+}

@@ -1,0 +1,457 @@
+// The cells of the list and what is kept with its rows: words, keys, properties, check states.
+
+#include "list/XListCtrl.h"
+
+#include "list/XListInput.h"
+#include "list/XListSearch.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <iterator>
+
+// Access
+
+int CXListCtrl::RowCount() const
+{
+    return m_hWnd != nullptr ? GetItemCount() : 0;
+}
+
+XLISTCTRLROW * CXListCtrl::RowOf(int row) const
+{
+    if (row < 0 || m_hWnd == nullptr)
+        return nullptr;
+    if (row == m_knownRow)
+        return m_knownRowObject;
+    LVITEMW item{};
+    item.mask = LVIF_PARAM;
+    item.iItem = row;
+    if (!CListCtrl::GetItem(&item))
+        return nullptr;
+    auto * const object = reinterpret_cast<XLISTCTRLROW *>(item.lParam);
+    RememberRow(row, object);
+    return object;
+}
+
+void CXListCtrl::RememberRow(int row, XLISTCTRLROW * object) const
+{
+    if (m_rowChanges != 0)
+        return;
+    m_knownRow = row;
+    m_knownRowObject = object;
+}
+
+void CXListCtrl::ForgetRow() const
+{
+    m_knownRow = -1;
+    m_knownRowObject = nullptr;
+}
+
+LRESULT CXListCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    switch (message)
+    {
+    case LVM_INSERTITEMA:
+    case LVM_INSERTITEMW:
+    case LVM_SETITEMA:
+    case LVM_SETITEMW:
+    case LVM_DELETEITEM:
+    case LVM_DELETEALLITEMS:
+    case LVM_SORTITEMS:
+    case LVM_SORTITEMSEX:
+    case LVM_SETITEMCOUNT:
+    case WM_DESTROY:
+        break;
+    default:
+        return CListCtrl::WindowProc(message, wParam, lParam);
+    }
+
+    struct RowChange
+    {
+        explicit RowChange(CXListCtrl & list) : m_list(list)
+        {
+            ++m_list.m_rowChanges;
+            m_list.ForgetRow();
+        }
+        ~RowChange() { --m_list.m_rowChanges; }
+        CXListCtrl & m_list;
+    } const change(*this);
+    return CListCtrl::WindowProc(message, wParam, lParam);
+}
+
+bool CXListCtrl::IsValidItem(int row, int col) const
+{
+    if (row < 0 || col < 0 || col >= m_columnCount || m_hWnd == nullptr)
+        return false;
+    return row == m_knownRow || row < GetItemCount();
+}
+
+XLISTCTRLDATA * CXListCtrl::ValidCell(int row, int col) const
+{
+    if (col < 0 || col >= m_columnCount)
+        return nullptr;
+    XLISTCTRLROW const * const object = RowOf(row);
+    return object != nullptr && static_cast<unsigned int>(col) < object->capacity() ? object->cells() + col : nullptr;
+}
+
+XLISTCTRLDATA * CXListCtrl::GetRowData(int row)
+{
+    XLISTCTRLROW const * const object = RowOf(row);
+    return object != nullptr ? object->cells() : nullptr;
+}
+
+XLISTCTRLDATA const * CXListCtrl::GetRowData(int row) const
+{
+    XLISTCTRLROW const * const object = RowOf(row);
+    return object != nullptr ? object->cells() : nullptr;
+}
+
+XLISTCTRLDATA * CXListCtrl::GetRowItemData(int row, int col)
+{
+    return ValidCell(row, col);
+}
+
+XLISTCTRLDATA const * CXListCtrl::GetRowItemData(int row, int col) const
+{
+    return ValidCell(row, col);
+}
+
+XLISTCTRLDATA * CXListCtrl::GetRowItemDataDirect(int row, int col)
+{
+    XLISTCTRLDATA * const cells = GetRowData(row);
+    return cells != nullptr ? cells + col : nullptr;
+}
+
+// Row words and keys
+
+bool CXListCtrl::SetItemData(int row, long long data)
+{
+    XLISTCTRLDATA * const cells = GetRowData(row);
+    if (cells == nullptr)
+        return false;
+    cells->itemData64 = data;
+    return true;
+}
+
+bool CXListCtrl::SetItemData(int row, int data)
+{
+    return SetItemData(row, static_cast<long long>(data));
+}
+
+bool CXListCtrl::SetItemData(int row, unsigned int data)
+{
+    return SetItemData(row, static_cast<long long>(data));
+}
+
+bool CXListCtrl::SetItemData(int row, int low, int high)
+{
+    auto const upper = static_cast<std::uint64_t>(static_cast<std::uint32_t>(high)) << 32;
+    return SetItemData(row, static_cast<long long>(upper | static_cast<std::uint32_t>(low)));
+}
+
+long long CXListCtrl::GetItemData64(int row) const
+{
+    XLISTCTRLDATA const * const cells = GetRowData(row);
+    return cells != nullptr ? cells->itemData64 : 0;
+}
+
+int CXListCtrl::GetItemData(int row) const
+{
+    return static_cast<int>(static_cast<std::uint32_t>(static_cast<std::uint64_t>(GetItemData64(row))));
+}
+
+int CXListCtrl::GetItemData2(int row) const
+{
+    return static_cast<int>(static_cast<std::uint32_t>(static_cast<std::uint64_t>(GetItemData64(row)) >> 32));
+}
+
+bool CXListCtrl::SetItemDataPtr(int row, void const * ptr)
+{
+    XLISTCTRLDATA * const cells = GetRowData(row);
+    if (cells == nullptr)
+        return false;
+    cells->itemDataPtr = const_cast<void *>(ptr);
+    return true;
+}
+
+void * CXListCtrl::GetItemDataPtr(int row) const
+{
+    XLISTCTRLDATA const * const cells = GetRowData(row);
+    return cells != nullptr ? cells->itemDataPtr : nullptr;
+}
+
+bool CXListCtrl::SetItemIdx8(int row, int const * key)
+{
+    XLISTCTRLDATA * const cells = GetRowData(row);
+    if (cells == nullptr || key == nullptr)
+        return false;
+    std::copy_n(key, XLISTCTRLDATA::key_length, cells->idx8);
+    return true;
+}
+
+bool CXListCtrl::GetItemIdx8(int row, int * key) const
+{
+    XLISTCTRLDATA const * const cells = GetRowData(row);
+    if (cells == nullptr || key == nullptr)
+        return false;
+    std::copy_n(cells->idx8, XLISTCTRLDATA::key_length, key);
+    return true;
+}
+
+bool CXListCtrl::SetItemClavis(int row, int const * key)
+{
+    XLISTCTRLDATA * const cells = GetRowData(row);
+    if (cells == nullptr || key == nullptr)
+        return false;
+    std::copy_n(key, XLISTCTRLDATA::clavis_length, cells->idx8);
+    return true;
+}
+
+bool CXListCtrl::GetItemClavis(int row, int * key) const
+{
+    XLISTCTRLDATA const * const cells = GetRowData(row);
+    if (cells == nullptr || key == nullptr)
+        return false;
+    std::copy_n(cells->idx8, XLISTCTRLDATA::clavis_length, key);
+    return true;
+}
+
+int CXListCtrl::FindDataItem(long long data) const
+{
+    return FindRow(
+        RowCount(), [this](int row) { return GetRowData(row); },
+        [data](XLISTCTRLDATA const & cell) { return cell.itemData64 == data; });
+}
+
+int CXListCtrl::FindDataItem(int data) const
+{
+    return FindDataItem(static_cast<long long>(data));
+}
+
+int CXListCtrl::FindDataItem(unsigned long data) const
+{
+    return FindDataItem(static_cast<long long>(data));
+}
+
+int CXListCtrl::FindDataItemPtr(void const * ptr) const
+{
+    return FindRow(
+        RowCount(), [this](int row) { return GetRowData(row); },
+        [ptr](XLISTCTRLDATA const & cell) { return cell.itemDataPtr == ptr; });
+}
+
+int CXListCtrl::FindDataItemClavis(int const * key) const
+{
+    if (key == nullptr)
+        return -1;
+    return FindRow(
+        RowCount(), [this](int row) { return GetRowData(row); },
+        [key](XLISTCTRLDATA const & cell) { return HasClavis(cell, key); });
+}
+
+long long CXListCtrl::GetSelectedItemData(long long fallback) const
+{
+    int const row = GetSelectedItem();
+    return row >= 0 ? GetItemData(row) : fallback;
+}
+
+void * CXListCtrl::GetSelectedItemDataPtr() const
+{
+    int const row = GetSelectedItem();
+    return row >= 0 ? GetItemDataPtr(row) : nullptr;
+}
+
+// Properties
+
+void CXListCtrl::SetItemProperty(int row, int col, unsigned int bits, bool on)
+{
+    XLISTCTRLDATA * const cell = ValidCell(row, col);
+    if (cell == nullptr)
+        return;
+    cell->properties = on ? cell->properties | bits : cell->properties & ~bits;
+    UpdateSubItem(row, col);
+}
+
+bool CXListCtrl::GetItemProperty(int row, int col, unsigned int bits) const
+{
+    XLISTCTRLDATA const * const cell = ValidCell(row, col);
+    return cell != nullptr && (cell->properties & bits) != 0;
+}
+
+void CXListCtrl::SetRowProperty(int row, unsigned int bits, bool on)
+{
+    for (XLISTCTRLDATA & cell : CellsOf(row))
+        cell.properties = on ? cell.properties | bits : cell.properties & ~bits;
+}
+
+bool CXListCtrl::SetBold(int row, int col, bool bold)
+{
+    SetItemProperty(row, col, XLP_BOLD, bold);
+    return true;
+}
+
+bool CXListCtrl::GetBold(int row, int col) const
+{
+    return GetItemProperty(row, col, XLP_BOLD);
+}
+
+void CXListCtrl::SetModified(int row, int col, bool modified)
+{
+    SetItemProperty(row, col, XLP_MODIFIED, modified);
+}
+
+bool CXListCtrl::GetModified(int row, int col) const
+{
+    return GetItemProperty(row, col, XLP_MODIFIED);
+}
+
+bool CXListCtrl::SetEnabled(int row, int col, bool enabled)
+{
+    if (ValidCell(row, col) == nullptr)
+        return false;
+    SetItemProperty(row, col, XLP_ENABLED, enabled);
+    return true;
+}
+
+bool CXListCtrl::SetEnabled(int row, bool enabled)
+{
+    if (GetRowData(row) == nullptr)
+        return false;
+    SetRowProperty(row, XLP_ENABLED, enabled);
+    UpdateSubItem(row, -1);
+    return true;
+}
+
+bool CXListCtrl::GetEnabled(int row, int col) const
+{
+    return GetItemProperty(row, col, XLP_ENABLED);
+}
+
+bool CXListCtrl::GetEnabled(int row) const
+{
+    std::span<XLISTCTRLDATA> const cells = CellsOf(row);
+    return std::any_of(cells.begin(), cells.end(),
+                       [](XLISTCTRLDATA const & cell) { return (cell.properties & XLP_ENABLED) != 0; });
+}
+
+void CXListCtrl::SetItemValueType(int row, int col, unsigned int type)
+{
+    if (XLISTCTRLDATA * const cell = ValidCell(row, col))
+        cell->valueType = type;
+}
+
+unsigned int CXListCtrl::GetItemValueType(int row, int col)
+{
+    XLISTCTRLDATA const * const cell = ValidCell(row, col);
+    return cell != nullptr ? cell->valueType : XLV_TEXT;
+}
+
+void CXListCtrl::SetRowColors(int row, COLORREF text, COLORREF background)
+{
+    for (XLISTCTRLDATA & cell : CellsOf(row))
+    {
+        cell.textColor = text;
+        cell.backgroundColor = background;
+    }
+    UpdateSubItem(row, -1);
+}
+
+void CXListCtrl::SetItemColors(int row, int col, COLORREF text, COLORREF background, COLORREF gradient)
+{
+    XLISTCTRLDATA * const cell = ValidCell(row, col);
+    if (cell == nullptr)
+        return;
+    cell->textColor = text;
+    cell->backgroundColor = background;
+    cell->gradientColor = gradient;
+    UpdateSubItem(row, col);
+}
+
+bool CXListCtrl::GetItemColors(int row, int col, COLORREF & text, COLORREF & background) const
+{
+    text = 0;
+    background = 0;
+    XLISTCTRLDATA const * const cell = ValidCell(row, col);
+    if (cell == nullptr)
+        return false;
+    text = cell->textColor;
+    background = cell->backgroundColor;
+    return true;
+}
+
+std::span<XLISTCTRLDATA> CXListCtrl::CellsOf(int row) const
+{
+    XLISTCTRLROW const * const object = RowOf(row);
+    if (object == nullptr || m_columnCount <= 0)
+        return {};
+    return {object->cells(), std::min(object->capacity(), static_cast<unsigned int>(m_columnCount))};
+}
+
+// Check states
+
+bool CXListCtrl::SetCheckbox(int row, int col, int state)
+{
+    XLISTCTRLDATA * const cell = ValidCell(row, col);
+    if (cell == nullptr || state < XLC_NONE || state > XLC_CROSSED)
+        return false;
+    cell->MakeCheck(state);
+    UpdateSubItem(row, col);
+    UpdateHeaderFromCells(col);
+    return true;
+}
+
+int CXListCtrl::GetCheckbox(int row, int col) const
+{
+    return GetItemCheckedState(row, col);
+}
+
+int CXListCtrl::GetItemCheckedState(int row, int col) const
+{
+    XLISTCTRLDATA const * const cell = ValidCell(row, col);
+    return cell != nullptr ? cell->checkedState : XLC_NONE;
+}
+
+void CXListCtrl::SetItemCheckedState(int row, int col, int state)
+{
+    XLISTCTRLDATA * const cell = ValidCell(row, col);
+    if (cell == nullptr)
+        return;
+    cell->checkedState = state;
+    UpdateSubItem(row, col);
+}
+
+bool CXListCtrl::SetRadioButton(int row, int col, int state)
+{
+    XLISTCTRLDATA * const cell = ValidCell(row, col);
+    if (cell == nullptr || (state != XLC_NONE && state != XLC_RADIO_ON && state != XLC_RADIO_OFF))
+        return false;
+    if (state == XLC_RADIO_ON)
+        SetItemCheckedState(GetActiveRadioItem(col), col, XLC_RADIO_OFF);
+    cell->MakeCheck(state);
+    UpdateSubItem(row, col);
+    return true;
+}
+
+bool CXListCtrl::GetItemRadioOn(int row, int col) const
+{
+    return GetItemCheckedState(row, col) == XLC_RADIO_ON;
+}
+
+int CXListCtrl::GetActiveRadioItem(int col) const
+{
+    return FindRow(
+        RowCount(), [this, col](int row) { return ValidCell(row, col); },
+        [](XLISTCTRLDATA const & cell) { return cell.checkedState == XLC_RADIO_ON; });
+}
+
+unsigned long long CXListCtrl::CountCheckedItems(int col, int state) const
+{
+    unsigned long long count = 0;
+    int const rows = RowCount();
+    for (int row = 0; row < rows; ++row)
+    {
+        XLISTCTRLDATA const * const cell = ValidCell(row, col);
+        if (cell != nullptr && CountsAsChecked(cell->checkedState, state))
+            ++count;
+    }
+    return count;
+}

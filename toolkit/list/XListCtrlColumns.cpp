@@ -1,0 +1,90 @@
+// Columns of the list.
+
+#include "list/XListCtrl.h"
+
+#include <cstddef>
+
+namespace
+{
+// What the available width leaves free of the window's.
+constexpr int border_width = 4;
+} // namespace
+
+int CXListCtrl::AddColumn(wchar_t const * title, int format, int width)
+{
+    if (!::IsWindow(m_header.m_hWnd))
+        return -1;
+    m_columnCount = GetColumnCount() + 1;
+    // Past the end, so that it lands last.
+    CListCtrl::InsertColumn(m_columnCount, title, format, width, -1);
+    return m_columnCount - 1;
+}
+
+int CXListCtrl::InsertColumn(int col, wchar_t const * title, int format, int width, int subItem)
+{
+    if (!::IsWindow(m_header.m_hWnd))
+        return -1;
+    int const landed = CListCtrl::InsertColumn(col, title, format, width, subItem);
+    m_columnCount = GetColumnCount();
+    return landed - 1;
+}
+
+int CXListCtrl::GetColumnCount() const
+{
+    return ::IsWindow(m_header.m_hWnd) ? m_header.GetItemCount() : 0;
+}
+
+void CXListCtrl::DeleteAllColumns()
+{
+    if (m_columnCount == 0 || !::IsWindow(m_hWnd))
+        return;
+    DeleteAllItems();
+    for (int col = GetColumnCount() - 1; col >= 0; --col)
+        DeleteColumn(col);
+    m_columnCount = 0;
+}
+
+int CXListCtrl::SetColumnWidth(int col, int width)
+{
+    if (!::IsWindow(m_hWnd))
+        return FALSE;
+    CListCtrl::SetColumnWidth(col, width);
+    return CListCtrl::SetColumnWidth(col, GetColumnWidth(col) + 2 * m_header.GetSpacing());
+}
+
+void CXListCtrl::AutosizeColumnWidth(int col)
+{
+    int const count = GetColumnCount();
+    if (!::IsWindow(m_hWnd) || count <= 0)
+        return;
+    CRect window;
+    GetWindowRect(&window);
+    if (window.Width() < 1)
+        return;
+    int available = window.Width() - border_width;
+    if (GetItemCount() > GetCountPerPage())
+        available -= ::GetSystemMetrics(SM_CXVSCROLL);
+
+    m_columnWidths.resize(static_cast<std::size_t>(count));
+    for (int i = 0; i < count; ++i)
+        m_columnWidths[static_cast<std::size_t>(i)] = GetColumnWidth(i);
+
+    int const minimum = m_header.GetSpacing();
+    int const preferred = col < count ? col : count - 1;
+    switch (FitColumns(m_columnWidths, available, minimum, preferred, m_widthMemory))
+    {
+    case ColumnFit::unchanged:
+        break;
+    case ColumnFit::preferred_only:
+        CListCtrl::SetColumnWidth(preferred, m_columnWidths[static_cast<std::size_t>(preferred)]);
+        break;
+    case ColumnFit::all:
+        if (preferred >= 0)
+            CListCtrl::SetColumnWidth(preferred, minimum + 1);
+        ShowWindow(SW_HIDE);
+        for (int i = 0; i < count; ++i)
+            CListCtrl::SetColumnWidth(i, m_columnWidths[static_cast<std::size_t>(i)]);
+        ShowWindow(SW_SHOW);
+        break;
+    }
+}

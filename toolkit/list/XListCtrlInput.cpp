@@ -1,0 +1,347 @@
+// CXListCtrl: mouse, keyboard, context menu, timers and what the parent hears of them.
+
+#include "list/XListCtrl.h"
+
+#include "frame/RegisteredMessages.h"
+#include "list/XListInput.h"
+
+namespace
+{
+constexpr UINT_PTR unlock_update_timer = 1;
+constexpr UINT_PTR cancel_combo_timer = 2;
+constexpr UINT_PTR complete_combo_timer = 3;
+constexpr UINT_PTR show_combo_text_timer = 4;
+/// Milliseconds: enough to leave the stack of the combo that asked for the end.
+constexpr UINT combo_delay = 50;
+
+bool IsCell(std::pair<int, int> const & cell)
+{
+    return cell.first >= 0 && cell.second >= 0;
+}
+
+/// An index as a message word, with its sign.
+WPARAM Word(int index)
+{
+    return static_cast<WPARAM>(static_cast<LONG_PTR>(index));
+}
+
+/// What a press on a cell that was found enabled means now: its host may have changed it since, but the press is not
+/// swallowed any more.
+CellPress DecideAdmittedPress(XLISTCTRLDATA const & cell)
+{
+    XLISTCTRLDATA enabled;
+    enabled.properties = cell.properties | XLP_ENABLED;
+    enabled.checkedState = cell.checkedState;
+    return DecidePress(enabled);
+}
+} // namespace
+
+std::pair<int, int> CXListCtrl::GetItem(CPoint const & point)
+{
+    LVHITTESTINFO hit{};
+    hit.pt = point;
+    if (!::IsWindow(m_hWnd))
+        return {-1, -1};
+    SubItemHitTest(&hit);
+    if ((hit.flags & LVHT_ONITEM) == 0)
+        return {-1, -1};
+    return {hit.iItem, hit.iSubItem};
+}
+
+int CXListCtrl::GetPointItem(CPoint const & point, int & col)
+{
+    auto const [row, column] = GetItem(point);
+    col = column;
+    return column < 0 ? -1 : row;
+}
+
+// --- Notifications ---
+
+void CXListCtrl::PostToParent(unsigned int message, WPARAM wParam, LPARAM lParam) const
+{
+    if (!::IsWindow(m_hWnd))
+        return;
+    CWnd const * receiver = GetParent();
+    if (receiver == nullptr)
+        receiver = GetOwner();
+    if (receiver != nullptr && ::IsWindow(receiver->m_hWnd))
+        ::PostMessageW(receiver->m_hWnd, message, wParam, lParam);
+}
+
+void CXListCtrl::OnItemStateChange(int row, int col, unsigned int message)
+{
+    HWND const self = m_hWnd;
+    if (m_onStateChange)
+        m_onStateChange(row, col);
+    // The callback may have ended the list.
+    if (::IsWindow(self))
+        PostToParent(message, Word(row), static_cast<LPARAM>(Word(col)));
+}
+
+// --- Mouse ---
+
+void CXListCtrl::OnLButtonDown(UINT, CPoint point)
+{
+    if (GetDisplayStyle() != LVS_REPORT)
+    {
+        Default();
+        return;
+    }
+    auto const place = GetItem(point);
+    auto const [row, col] = place;
+    if (!IsCell(place))
+    {
+        if (m_combo != nullptr)
+            OnComboEscape(0, 0);
+        Default();
+        return;
+    }
+    // Rows that were inserted past this class, or before the column was, have no cell here.
+    XLISTCTRLDATA * cell = ValidCell(row, col);
+    if (cell != nullptr && DecidePress(*cell) == CellPress::ignored)
+        return;
+
+    // A callback may end the list or take the row away.
+    HWND const self = m_hWnd;
+    if (cell != nullptr && m_onCellClick)
+    {
+        m_onCellClick(row, col);
+        if (!::IsWindow(self))
+            return;
+        cell = ValidCell(row, col);
+    }
+    switch (cell != nullptr ? DecideAdmittedPress(*cell) : CellPress::select_only)
+    {
+    case CellPress::open_combo:
+        Default();
+        DrawComboBoxControl(row, col);
+        return;
+    case CellPress::open_edit:
+        Default();
+        DrawEditControl(row, col);
+        return;
+    case CellPress::follow_link:
+        Default();
+        if (::IsWindow(self))
+            OnItemStateChange(row, col, WM_XLISTCTRL_LINK_CLICKED);
+        return;
+    case CellPress::flip_check:
+        cell->checkedState = cell->checkedState == XLC_CHECKED ? XLC_UNCHECKED : XLC_CHECKED;
+        cell->properties |= XLP_MODIFIED;
+        m_listModified = true;
+        UpdateSubItem(row, col);
+        OnItemStateChange(row, col, WM_XLISTCTRL_CHECKBOX_CLICKED);
+        if (::IsWindow(self))
+            UpdateHeaderFromCells(col);
+        break;
+    case CellPress::switch_radio_on:
+    {
+        int const formerRow = GetActiveRadioItem(col);
+        if (XLISTCTRLDATA * const former = ValidCell(formerRow, col))
+        {
+            former->checkedState = XLC_RADIO_OFF;
+            former->properties |= XLP_MODIFIED;
+            UpdateSubItem(formerRow, col);
+            OnItemStateChange(formerRow, col, WM_XLISTCTRL_CHECKBOX_CLICKED);
+            if (!::IsWindow(self))
+                return;
+        }
+        cell = ValidCell(row, col);
+        if (cell == nullptr)
+            break;
+        cell->checkedState = XLC_RADIO_ON;
+        cell->properties |= XLP_MODIFIED;
+        m_listModified = true;
+        UpdateSubItem(row, col);
+        OnItemStateChange(row, col, WM_XLISTCTRL_CHECKBOX_CLICKED);
+        break;
+    }
+    default:
+        break;
+    }
+    if (::IsWindow(self))
+        Default();
+}
+
+void CXListCtrl::OnLButtonUp(UINT flags, CPoint point)
+{
+    CListCtrl::OnLButtonUp(flags, point);
+}
+
+void CXListCtrl::OnMouseMove(UINT flags, CPoint point)
+{
+    CListCtrl::OnMouseMove(flags, point);
+}
+
+void CXListCtrl::OnLButtonDblClk(UINT flags, CPoint point)
+{
+    if (GetDisplayStyle() == LVS_REPORT)
+    {
+        auto const place = GetItem(point);
+        auto const [row, col] = place;
+        if (IsCell(place))
+        {
+            HWND const self = m_hWnd;
+            if (m_onDoubleClick)
+                m_onDoubleClick(row, col);
+            if (!::IsWindow(self))
+                return;
+            PostToParent(WM_XLISTCTRL_ITEM_DBLCLICKED, Word(row), static_cast<LPARAM>(Word(col)));
+        }
+        else if (m_combo != nullptr)
+            OnComboEscape(0, 0);
+    }
+    CListCtrl::OnLButtonDblClk(flags, point);
+}
+
+void CXListCtrl::OnRButtonDown(UINT, CPoint point)
+{
+    if (IsCell(GetItem(point)))
+        Default();
+}
+
+void CXListCtrl::OnNcLButtonDown(UINT hitTest, CPoint point)
+{
+    if (m_edit != nullptr)
+        OnXEditKillFocus(0, 0);
+    CListCtrl::OnNcLButtonDown(hitTest, point);
+}
+
+BOOL CXListCtrl::OnClick(NMHDR *, LRESULT * result)
+{
+    *result = 0;
+    return FALSE;
+}
+
+BOOL CXListCtrl::OnColumnClick(NMHDR * header, LRESULT * result)
+{
+    *result = 0;
+    OnHeaderColumnClick(reinterpret_cast<NMLISTVIEW const *>(header)->iSubItem);
+    return FALSE;
+}
+
+void CXListCtrl::OnHeaderColumnClick(int col)
+{
+    HeaderPress const press = DecideHeaderPress(GetHeaderCheckedState(col), m_headerAutoCheckbox);
+    if (press.changesCells)
+    {
+        HWND const self = m_hWnd;
+        SetHeaderCheckedState(col, press.headerState);
+        m_header.UpdateWindow();
+        for (int row = 0; row < GetItemCount(); ++row)
+        {
+            XLISTCTRLDATA * const cell = ValidCell(row, col);
+            if (cell == nullptr || cell->checkedState == XLC_NONE || cell->checkedState == press.cellState)
+                continue;
+            cell->checkedState = press.cellState;
+            cell->properties |= XLP_MODIFIED;
+            m_listModified = true;
+            UpdateSubItem(row, col);
+            OnItemStateChange(row, col, WM_XLISTCTRL_CHECKBOX_CLICKED);
+            if (!::IsWindow(self))
+                return;
+        }
+    }
+    PostToParent(WM_XLISTCTRL_COLUMNCLICK, Word(press.cellState), static_cast<LPARAM>(Word(col)));
+}
+
+// --- Keyboard ---
+
+void CXListCtrl::OnKeyDown(UINT key, UINT repeat, UINT flags)
+{
+    bool const down = key == VK_DOWN || key == VK_NEXT;
+    bool const up = key == VK_UP || key == VK_PRIOR;
+    if ((GetStyle() & LVS_SINGLESEL) == 0 || (!down && !up))
+    {
+        CListCtrl::OnKeyDown(key, repeat, flags);
+        return;
+    }
+    HWND const self = m_hWnd;
+    int const before = GetCurSel(-1);
+    CListCtrl::OnKeyDown(key, repeat, flags);
+    if (before < 0 || !::IsWindow(self))
+        return;
+    SetCurSel(RowAfterNavigationKey(before, GetItemCount(), down, [this](int row) { return GetEnabled(row); }), true);
+}
+
+// --- Context menu ---
+
+CMenu & CXListCtrl::PopUpMenu()
+{
+    return m_popupMenu;
+}
+
+void CXListCtrl::OnContextMenu(CWnd * window, CPoint point)
+{
+    CPoint inside = point;
+    ScreenToClient(&inside);
+    auto const place = GetItem(inside);
+    CRect header(0, 0, 0, 0);
+    if (m_header.GetSafeHwnd() != nullptr)
+        m_header.GetWindowRect(&header);
+    bool const belowHeader = header.IsRectNull() || point.y >= header.bottom;
+    if (!IsCell(place) || !m_onContextCommand || !belowHeader)
+    {
+        CListCtrl::OnContextMenu(window, point);
+        return;
+    }
+    if (m_popupMenu.GetSafeHmenu() == nullptr)
+        return;
+    HWND const self = m_hWnd;
+    int const command =
+        m_popupMenu.TrackPopupMenuEx(TPM_RETURNCMD | TPM_RIGHTBUTTON, point.x, point.y, this, nullptr);
+    if (command != 0 && ::IsWindow(self) && m_onContextCommand)
+        m_onContextCommand(command, place.first, place.second);
+}
+
+// --- Editors and timers ---
+
+// Cells have no editors of their own: a press on such a cell selects its row, which has happened by now.
+
+void CXListCtrl::DrawEditControl(int, int) {}
+
+void CXListCtrl::DrawComboBoxControl(int, int) {}
+
+LRESULT CXListCtrl::OnComboEscape(WPARAM, LPARAM)
+{
+    SetTimer(cancel_combo_timer, combo_delay, nullptr);
+    return 0;
+}
+
+LRESULT CXListCtrl::OnComboComplete(WPARAM, LPARAM)
+{
+    SetTimer(complete_combo_timer, combo_delay, nullptr);
+    return 0;
+}
+
+LRESULT CXListCtrl::OnXEditKillFocus(WPARAM, LPARAM)
+{
+    return 0;
+}
+
+LRESULT CXListCtrl::OnXEditEscape(WPARAM, LPARAM)
+{
+    // The cell that was edited last gets its former text back even if its edit is gone, which is meant.
+    CListCtrl::SetItemText(m_editRow, m_editCol, m_savedText);
+    UpdateSubItem(m_editRow, m_editCol);
+    return 0;
+}
+
+void CXListCtrl::OnTimer(UINT_PTR id)
+{
+    switch (id)
+    {
+    case unlock_update_timer:
+        KillTimer(id);
+        ::LockWindowUpdate(nullptr);
+        break;
+    case cancel_combo_timer:
+    case complete_combo_timer:
+    case show_combo_text_timer:
+        KillTimer(id);
+        break;
+    default:
+        break;
+    }
+    CListCtrl::OnTimer(id);
+}

@@ -1,0 +1,359 @@
+// What the cells of the list show, and the kinds that they can be.
+
+#include "list/XListCtrl.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <cwchar>
+#include <utility>
+
+namespace
+{
+constexpr COLORREF default_color = static_cast<COLORREF>(-1);
+constexpr COLORREF link_color = 0xFF0000;
+constexpr COLORREF unlinked_color = 0;
+constexpr wchar_t const * default_float_format = L"%5.2f";
+
+// For the one user-interface thread.
+constexpr std::size_t number_length = 50;
+wchar_t g_intText[number_length];
+wchar_t g_floatText[number_length];
+
+wchar_t const * OrEmpty(wchar_t const * text)
+{
+    return text != nullptr ? text : L"";
+}
+} // namespace
+
+// Texts and values
+
+bool CXListCtrl::ShowText(int row, int col, wchar_t const * text)
+{
+    return CListCtrl::SetItemText(row, col, text) != FALSE;
+}
+
+bool CXListCtrl::SetItemText(int row, int col, wchar_t const * text)
+{
+    XLISTCTRLDATA * const cell = ValidCell(row, col);
+    if (cell == nullptr || !ShowText(row, col, text))
+        return false;
+    cell->valueType = XLV_TEXT;
+    UpdateSubItem(row, col);
+    return true;
+}
+
+bool CXListCtrl::SetItemText(int row, int col, wchar_t const * text, COLORREF textColor, COLORREF background)
+{
+    XLISTCTRLDATA * const cell = ValidCell(row, col);
+    if (cell == nullptr)
+        return false;
+    bool const shown = text == nullptr || ShowText(row, col, text);
+    cell->textColor = textColor != default_color ? textColor : m_colorWindowText;
+    cell->backgroundColor = background != default_color ? background : m_colorWindow;
+    UpdateSubItem(row, col);
+    return shown;
+}
+
+bool CXListCtrl::SetItemText(int row, int col, int value)
+{
+    XLISTCTRLDATA * const cell = ValidCell(row, col);
+    if (cell == nullptr)
+        return false;
+    _snwprintf_s(g_intText, number_length, _TRUNCATE, L"%d", value);
+    if (!ShowText(row, col, g_intText))
+        return false;
+    cell->intValue = value;
+    cell->valueType = XLV_INT;
+    UpdateSubItem(row, col);
+    return true;
+}
+
+bool CXListCtrl::SetItemText(int row, int col, float value, wchar_t const * format)
+{
+    XLISTCTRLDATA * const cell = ValidCell(row, col);
+    if (cell == nullptr)
+        return false;
+    _snwprintf_s(g_floatText, number_length, _TRUNCATE, format != nullptr ? format : default_float_format,
+                 static_cast<double>(value));
+    if (!ShowText(row, col, g_floatText))
+        return false;
+    cell->floatValue = value;
+    cell->valueType = XLV_FLOAT;
+    UpdateSubItem(row, col);
+    return true;
+}
+
+bool CXListCtrl::SetItemFloatVal(int row, int col, float value, wchar_t const * text)
+{
+    if (text == nullptr || *text == L'\0')
+        return SetItemText(row, col, value, nullptr);
+    XLISTCTRLDATA * const cell = ValidCell(row, col);
+    if (cell == nullptr || !ShowText(row, col, text))
+        return false;
+    cell->floatValue = value;
+    cell->valueType = XLV_FLOAT;
+    UpdateSubItem(row, col);
+    return true;
+}
+
+bool CXListCtrl::SetItemDatetime(int row, int col, CTime time)
+{
+    XLISTCTRLDATA * const cell = ValidCell(row, col);
+    if (cell == nullptr)
+        return false;
+    cell->timeValue = time;
+    cell->valueType = XLV_DATETIME;
+    return true;
+}
+
+int CXListCtrl::SetItem(LVITEMW const * item)
+{
+    if (item == nullptr || item->iItem < 0)
+        return -1;
+    if (m_hWnd == nullptr)
+        return FALSE;
+    LVITEMW native = *item;
+    // The native word belongs to the row's object.
+    native.mask &= ~static_cast<UINT>(LVIF_PARAM);
+    if (!CListCtrl::SetItem(&native))
+        return FALSE;
+    XLISTCTRLDATA * const cell = ValidCell(item->iItem, item->iSubItem);
+    if (cell == nullptr)
+        return FALSE;
+    cell->imageIndex = item->iImage;
+    UpdateSubItem(item->iItem, item->iSubItem);
+    return TRUE;
+}
+
+bool CXListCtrl::SetItemImage(int row, int col, int image)
+{
+    XLISTCTRLDATA * const cell = ValidCell(row, col);
+    if (cell == nullptr)
+        return false;
+    cell->imageIndex = image;
+    if (col == 0)
+        CListCtrl::SetItem(row, 0, LVIF_IMAGE, nullptr, image, 0, 0, 0);
+    UpdateSubItem(row, col);
+    return true;
+}
+
+// Kinds
+
+bool CXListCtrl::SetEdit(int row, int col, bool on)
+{
+    XLISTCTRLDATA * const cell = ValidCell(row, col);
+    if (cell == nullptr)
+        return false;
+    if (on)
+        cell->MakeEdit();
+    else
+        cell->MakePlain();
+    UpdateSubItem(row, col);
+    return true;
+}
+
+bool CXListCtrl::SetHyperlink(int row, int col, bool on, bool setColor)
+{
+    XLISTCTRLDATA * const cell = ValidCell(row, col);
+    if (cell == nullptr)
+        return false;
+    if (on)
+        cell->MakeLink();
+    else
+        cell->MakePlain();
+    if (setColor)
+        cell->textColor = on ? link_color : unlinked_color;
+    UpdateSubItem(row, col);
+    return true;
+}
+
+bool CXListCtrl::SetProgress(int row, int col, bool showText, wchar_t const * format)
+{
+    XLISTCTRLDATA * const cell = ValidCell(row, col);
+    if (cell == nullptr)
+        return false;
+    cell->MakeProgress();
+    cell->progressValue = 0;
+    cell->progressDisplayValue = 0;
+    cell->progressShowText = showText;
+    cell->progressFormat = OrEmpty(format);
+    cell->backgroundColor = m_colorSelection;
+    UpdateSubItem(row, col);
+    return true;
+}
+
+void CXListCtrl::UpdateProgress(int row, int col, int value, int displayValue)
+{
+    XLISTCTRLDATA * const cell = ValidCell(row, col);
+    if (cell == nullptr)
+        return;
+    cell->progressValue = std::max(value, 0);
+    cell->progressDisplayValue = cell->progressFormat.IsEmpty() ? cell->progressValue : displayValue;
+    UpdateSubItem(row, col);
+}
+
+void CXListCtrl::DeleteProgress(int row, int col)
+{
+    XLISTCTRLDATA * const cell = ValidCell(row, col);
+    if (cell == nullptr)
+        return;
+    cell->MakePlain();
+    cell->progressValue = 0;
+    cell->progressDisplayValue = 0;
+    UpdateSubItem(row, col);
+}
+
+bool CXListCtrl::SetCustomDraw(int row, int col, std::function<void(int, int, CDC *, CRect const &)> painter)
+{
+    XLISTCTRLDATA * const cell = ValidCell(row, col);
+    if (cell == nullptr)
+        return false;
+    cell->properties |= XLP_CUSTOMDRAW;
+    cell->customDraw = std::move(painter);
+    UpdateSubItem(row, col);
+    return true;
+}
+
+void CXListCtrl::UpdateCustomDraw(int row, int col)
+{
+    UpdateSubItem(row, col);
+}
+
+void CXListCtrl::RemoveCustomDraw(int row, int col)
+{
+    XLISTCTRLDATA * const cell = ValidCell(row, col);
+    if (cell == nullptr)
+        return;
+    cell->properties &= ~XLP_CUSTOMDRAW;
+    cell->customDraw = nullptr;
+}
+
+// Combo cells
+
+bool CXListCtrl::SetComboBox(int row, int col, std::map<int, wchar_t const *> const & strings, int selectedId,
+                             int defaultId)
+{
+    XLISTCTRLDATA * const cell = ValidCell(row, col);
+    if (cell == nullptr)
+        return false;
+    cell->comboStrings = strings;
+    return InitializeComboBox(row, col, selectedId, defaultId);
+}
+
+bool CXListCtrl::SetComboBox(int row, int col, std::map<int, CString> const * strings, int selectedId, int defaultId)
+{
+    XLISTCTRLDATA * const cell = ValidCell(row, col);
+    if (cell == nullptr)
+        return false;
+    cell->comboStrings.clear();
+    if (strings != nullptr)
+    {
+        for (auto const & [id, text] : *strings)
+            cell->comboStrings.emplace_hint(cell->comboStrings.end(), id, text.GetString());
+    }
+    return InitializeComboBox(row, col, selectedId, defaultId);
+}
+
+bool CXListCtrl::SetComboBoxGlobalStrings(int row, int col, int selectedId, int defaultId)
+{
+    return SetComboBox(row, col, &m_globalComboStrings, selectedId, defaultId);
+}
+
+bool CXListCtrl::InitializeComboBox(int row, int col, int selectedId, int defaultId)
+{
+    XLISTCTRLDATA * const cell = ValidCell(row, col);
+    if (cell == nullptr)
+        return false;
+    if (cell->comboStrings.empty())
+    {
+        cell->MakePlain();
+        UpdateSubItem(row, col);
+        return true;
+    }
+    cell->MakeCombo();
+    cell->comboDefaultId = defaultId;
+    auto const entry = cell->comboStrings.find(selectedId);
+    SelectComboEntry(row, col, *cell, entry != cell->comboStrings.end() ? &*entry : nullptr);
+    return true;
+}
+
+// Without an entry the text becomes empty, also where the default id has one, which is meant.
+void CXListCtrl::SelectComboEntry(int row, int col, XLISTCTRLDATA & cell,
+                                  std::pair<int const, wchar_t const *> const * entry)
+{
+    cell.comboCurrentId = entry != nullptr ? entry->first : cell.comboDefaultId;
+    ShowText(row, col, entry != nullptr ? OrEmpty(entry->second) : L"");
+    UpdateSubItem(row, col);
+}
+
+bool CXListCtrl::SetComboStyle(int row, int col, bool sorted, int visibleItems)
+{
+    XLISTCTRLDATA * const cell = ValidCell(row, col);
+    if (cell == nullptr)
+        return false;
+    cell->comboSorted = sorted;
+    cell->comboVisibleItems = visibleItems;
+    return true;
+}
+
+bool CXListCtrl::SetComboSelection(int row, int col, int id)
+{
+    XLISTCTRLDATA * const cell = ValidCell(row, col);
+    if (cell == nullptr || (cell->properties & XLP_COMBO) == 0)
+        return false;
+    auto const entry = cell->comboStrings.find(id);
+    SelectComboEntry(row, col, *cell, entry != cell->comboStrings.end() ? &*entry : nullptr);
+    return true;
+}
+
+bool CXListCtrl::SetComboSelection(int row, int col, CString const & text)
+{
+    XLISTCTRLDATA * const cell = ValidCell(row, col);
+    if (cell == nullptr || (cell->properties & XLP_COMBO) == 0)
+        return false;
+    auto const entry =
+        std::find_if(cell->comboStrings.begin(), cell->comboStrings.end(), [&text](auto const & candidate) {
+            return std::wcscmp(OrEmpty(candidate.second), text.GetString()) == 0;
+        });
+    SelectComboEntry(row, col, *cell, entry != cell->comboStrings.end() ? &*entry : nullptr);
+    return true;
+}
+
+int CXListCtrl::GetComboCurSel(int row, int col) const
+{
+    XLISTCTRLDATA const * const cell = ValidCell(row, col);
+    return cell != nullptr ? cell->comboCurrentId : -1;
+}
+
+CString CXListCtrl::GetComboText(int row, int col)
+{
+    return IsValidItem(row, col) ? GetItemText(row, col) : CString();
+}
+
+// The shared table
+
+void CXListCtrl::GlobalComboStringsReset()
+{
+    m_globalComboStrings.clear();
+}
+
+void CXListCtrl::GlobalComboStringsInsert(int id, CString const & text)
+{
+    m_globalComboStrings.emplace(id, text);
+}
+
+int CXListCtrl::GlobalComboStringsGetId(CString const & text, int fallback) const
+{
+    for (auto const & [id, candidate] : m_globalComboStrings)
+    {
+        if (candidate == text)
+            return id;
+    }
+    return fallback;
+}
+
+wchar_t const * CXListCtrl::GlobalComboStringsGetText(int id) const
+{
+    auto const found = m_globalComboStrings.find(id);
+    return found != m_globalComboStrings.end() ? found->second.GetString() : L"";
+}
