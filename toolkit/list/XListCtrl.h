@@ -364,6 +364,11 @@ private:
                   XLISTCTRLDATA const & cell);
     /// DrawText format of a column's texts.
     UINT TextFormat(int col) const;
+    UINT AskTextFormat(int col) const;
+    /// The bounds of a cell that is being painted.
+    CRect PaintedRect(int row, int col);
+    bool IsSelected(int row);
+    bool HasFocus();
 
     CXHeaderCtrl m_header;
     int m_columnCount = 0;
@@ -419,4 +424,29 @@ private:
     mutable XLISTCTRLROW * m_knownRowObject = nullptr;
     /// Native operations under way that move rows or change their parameter words.
     int m_rowChanges = 0;
+
+    /// What stays the same while the window paints itself once, so that it is asked for once a row or column instead of
+    /// once a cell.
+    struct PaintMemory
+    {
+        struct Column
+        {
+            int left;
+            int right;
+            bool edgesKnown = false;
+            UINT format;
+            bool formatKnown = false;
+        };
+        std::vector<Column> columns;
+        int row = -1;
+        int top;
+        int bottom;
+        int stateRow = -1;
+        bool selected;
+        bool focusKnown = false;
+        bool focused;
+    };
+    class PaintScope;
+    /// Null outside of a paint. Not owned.
+    mutable PaintMemory * m_paint = nullptr;
 };

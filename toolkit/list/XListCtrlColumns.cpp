@@ -12,6 +12,8 @@ constexpr int border_width = 4;
 
 int CXListCtrl::AddColumn(wchar_t const * title, int format, int width)
 {
+    if (::IsWindow(m_hWnd))
+        SubclassHeaderControl(); // some native lists make their header only after their creation
     if (!::IsWindow(m_header.m_hWnd))
         return -1;
     m_columnCount = GetColumnCount() + 1;
@@ -22,6 +24,8 @@ int CXListCtrl::AddColumn(wchar_t const * title, int format, int width)
 
 int CXListCtrl::InsertColumn(int col, wchar_t const * title, int format, int width, int subItem)
 {
+    if (::IsWindow(m_hWnd))
+        SubclassHeaderControl();
     if (!::IsWindow(m_header.m_hWnd))
         return -1;
     int const landed = CListCtrl::InsertColumn(col, title, format, width, subItem);

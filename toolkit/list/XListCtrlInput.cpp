@@ -134,8 +134,7 @@ void CXListCtrl::OnLButtonDown(UINT, CPoint point)
         if (::IsWindow(self))
             UpdateHeaderFromCells(col);
         break;
-    case CellPress::switch_radio_on:
-    {
+    case CellPress::switch_radio_on: {
         int const formerRow = GetActiveRadioItem(col);
         if (XLISTCTRLDATA * const former = ValidCell(formerRow, col))
         {
@@ -288,8 +287,7 @@ void CXListCtrl::OnContextMenu(CWnd * window, CPoint point)
     if (m_popupMenu.GetSafeHmenu() == nullptr)
         return;
     HWND const self = m_hWnd;
-    int const command =
-        m_popupMenu.TrackPopupMenuEx(TPM_RETURNCMD | TPM_RIGHTBUTTON, point.x, point.y, this, nullptr);
+    int const command = m_popupMenu.TrackPopupMenuEx(TPM_RETURNCMD | TPM_RIGHTBUTTON, point.x, point.y, this, nullptr);
     if (command != 0 && ::IsWindow(self) && m_onContextCommand)
         m_onContextCommand(command, place.first, place.second);
 }

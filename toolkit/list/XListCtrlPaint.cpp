@@ -52,6 +52,21 @@ private:
 };
 } // namespace
 
+/// Remembers for the length of one paint, which may run within another.
+class CXListCtrl::PaintScope
+{
+public:
+    explicit PaintScope(CXListCtrl & list) : m_list(list), m_outer(list.m_paint) { m_list.m_paint = &m_memory; }
+    ~PaintScope() { m_list.m_paint = m_outer; }
+    PaintScope(PaintScope const &) = delete;
+    PaintScope & operator=(PaintScope const &) = delete;
+
+private:
+    CXListCtrl & m_list;
+    PaintMemory * m_outer;
+    PaintMemory m_memory;
+};
+
 void CXListCtrl::GetColors()
 {
     m_colorFace = ::GetSysColor(COLOR_BTNFACE);
@@ -114,8 +129,7 @@ void CXListCtrl::OnCustomDraw(NMHDR * header, LRESULT * result)
     draw.clrTextBk = background;
 
     CDC * const dc = CDC::FromHandle(draw.nmcd.hdc);
-    CRect rect(0, 0, 0, 0);
-    GetSubItemRect(row, col, LVIR_BOUNDS, rect);
+    CRect rect = PaintedRect(row, col);
 
     if ((cell.properties & XLP_PROGRESS) != 0)
     {
@@ -134,6 +148,9 @@ void CXListCtrl::OnCustomDraw(NMHDR * header, LRESULT * result)
     else if ((cell.properties & XLP_CUSTOMDRAW) != 0)
     {
         cell.customDraw(row, col, dc, rect);
+        // The host's code may have changed anything.
+        if (m_paint != nullptr)
+            *m_paint = {};
     }
     else
     {
@@ -145,11 +162,11 @@ void CXListCtrl::OnCustomDraw(NMHDR * header, LRESULT * result)
 
 void CXListCtrl::GetDrawColors(int row, int col, COLORREF & text, COLORREF & background)
 {
-    if (GetItemState(row, LVIS_SELECTED) == 0)
+    if (!IsSelected(row))
         return;
     if (col != 0 && (GetExtendedStyle() & LVS_EX_FULLROWSELECT) == 0)
         return;
-    if (::GetFocus() == m_hWnd)
+    if (HasFocus())
     {
         text = m_colorSelectionText;
         background = m_colorSelection;
@@ -171,6 +188,72 @@ void CXListCtrl::FillCell(int row, int col, CDC & dc, COLORREF & text, COLORREF 
 }
 
 UINT CXListCtrl::TextFormat(int col) const
+{
+    if (m_paint == nullptr || col < 0)
+        return AskTextFormat(col);
+    auto const index = static_cast<std::size_t>(col);
+    if (m_paint->columns.size() <= index)
+        m_paint->columns.resize(index + 1);
+    PaintMemory::Column & column = m_paint->columns[index];
+    if (!column.formatKnown)
+    {
+        column.format = AskTextFormat(col);
+        column.formatKnown = true;
+    }
+    return column.format;
+}
+
+// Within one paint all cells of a row share its top and bottom, and all cells of a column its left and right.
+CRect CXListCtrl::PaintedRect(int row, int col)
+{
+    CRect rect(0, 0, 0, 0);
+    if (m_paint == nullptr)
+    {
+        GetSubItemRect(row, col, LVIR_BOUNDS, rect);
+        return rect;
+    }
+    auto const index = static_cast<std::size_t>(col);
+    if (m_paint->columns.size() <= index)
+        m_paint->columns.resize(index + 1);
+    PaintMemory::Column & column = m_paint->columns[index];
+    if (m_paint->row == row && column.edgesKnown)
+        return CRect(column.left, m_paint->top, column.right, m_paint->bottom);
+    if (!GetSubItemRect(row, col, LVIR_BOUNDS, rect))
+        return rect;
+    m_paint->row = row;
+    m_paint->top = rect.top;
+    m_paint->bottom = rect.bottom;
+    column.left = rect.left;
+    column.right = rect.right;
+    column.edgesKnown = true;
+    return rect;
+}
+
+bool CXListCtrl::IsSelected(int row)
+{
+    if (m_paint == nullptr)
+        return GetItemState(row, LVIS_SELECTED) != 0;
+    if (m_paint->stateRow != row)
+    {
+        m_paint->selected = GetItemState(row, LVIS_SELECTED) != 0;
+        m_paint->stateRow = row;
+    }
+    return m_paint->selected;
+}
+
+bool CXListCtrl::HasFocus()
+{
+    if (m_paint == nullptr)
+        return ::GetFocus() == m_hWnd;
+    if (!m_paint->focusKnown)
+    {
+        m_paint->focused = ::GetFocus() == m_hWnd;
+        m_paint->focusKnown = true;
+    }
+    return m_paint->focused;
+}
+
+UINT CXListCtrl::AskTextFormat(int col) const
 {
     UINT format = DT_NOPREFIX | DT_SINGLELINE | DT_VCENTER;
     if (m_ellipsis)
@@ -222,7 +305,10 @@ void CXListCtrl::OnPaint()
 {
     constexpr int gap_below_header = 10;
 
-    Default();
+    {
+        PaintScope const paint(*this);
+        Default();
+    }
     if (GetItemCount() > 0 || m_emptyListText.IsEmpty())
         return;
 
