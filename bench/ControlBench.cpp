@@ -13,12 +13,9 @@ struct Measure
     bool (*run)();
 };
 constexpr Measure measures[] = {
-    {"layout", bench::LayoutOf1000Children},
-    {"list-fill", bench::FillingAList},
-    {"list-refill", bench::RefillingAList},
-    {"list-memory", bench::MemoryOfARow},
-    {"list-paint", bench::PaintingAPageOfText},
-    {"list-kinds", bench::PaintingPagesOfOtherKinds},
+    {"layout", bench::LayoutOf1000Children},    {"list-fill", bench::FillingAList},
+    {"list-refill", bench::RefillingAList},     {"list-memory", bench::MemoryOfARow},
+    {"list-paint", bench::PaintingAPageOfText}, {"list-kinds", bench::PaintingPagesOfOtherKinds},
 };
 } // namespace
 

@@ -1,5 +1,6 @@
 #pragma once
-// The measures of the control benchmark: each prints its lines and tells whether its goals are met. And what they share.
+// The measures of the control benchmark: each prints its lines and tells whether its goals are met. And what they
+// share.
 
 #include <afxwin.h>
 

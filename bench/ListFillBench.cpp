@@ -25,8 +25,7 @@ using Texts = std::vector<std::wstring>;
 
 Texts const & CellTexts()
 {
-    static Texts const texts = []
-    {
+    static Texts const texts = [] {
         Texts made;
         for (int i = 0; i < cell_count; ++i)
             made.push_back(L"value " + std::to_wstring(i * 7 % 100003));

@@ -99,8 +99,8 @@ bool PaintAndReport(Page & page, char const * name, double goal)
     return bench::Report(name, bench::Median(ours) / cell_count, bench::Median(reference) / cell_count, goal);
 }
 
-/// A page of cells that change(list, row, column) has made of text cells. Images, where there are some, are given to both
-/// lists, so that their rows have the same height.
+/// A page of cells that change(list, row, column) has made of text cells. Images, where there are some, are given to
+/// both lists, so that their rows have the same height.
 template <class Change> bool PageOf(char const * name, Change && change, CImageList * images = nullptr)
 {
     Page page;
@@ -127,26 +127,29 @@ bool bench::PaintingAPageOfText()
 
 bool bench::PaintingPagesOfOtherKinds()
 {
-    bool met = PageOf("painting check cells beside native text cells, a cell",
-                      [](CXListCtrl & list, int row, int column) { list.SetCheckbox(row, column, (row + column) % 3); });
+    bool met =
+        PageOf("painting check cells beside native text cells, a cell",
+               [](CXListCtrl & list, int row, int column) { list.SetCheckbox(row, column, (row + column) % 3); });
     met = PageOf("painting radio cells beside native text cells, a cell",
-                 [](CXListCtrl & list, int row, int column)
-                 { list.SetRadioButton(row, column, row == column ? XLC_RADIO_ON : XLC_RADIO_OFF); }) &&
+                 [](CXListCtrl & list, int row, int column) {
+                     list.SetRadioButton(row, column, row == column ? XLC_RADIO_ON : XLC_RADIO_OFF);
+                 }) &&
           met;
     met = PageOf("painting combo cells beside native text cells, a cell",
-                 [](CXListCtrl & list, int row, int column)
-                 { list.SetComboBox(row, column, {{1, L"first"}, {2, L"second"}}, 1 + row % 2, 1); }) &&
+                 [](CXListCtrl & list, int row, int column) {
+                     list.SetComboBox(row, column, {{1, L"first"}, {2, L"second"}}, 1 + row % 2, 1);
+                 }) &&
           met;
     met = PageOf("painting progress cells beside native text cells, a cell",
-                 [](CXListCtrl & list, int row, int column)
-                 {
+                 [](CXListCtrl & list, int row, int column) {
                      list.SetProgress(row, column, true, nullptr);
                      list.UpdateProgress(row, column, (row * 13 + column * 7) % 101, 0);
                  }) &&
           met;
     met = PageOf("painting cells with a wash beside native text cells, a cell",
-                 [](CXListCtrl & list, int row, int column)
-                 { list.SetItemColors(row, column, RGB(0, 0, 0), RGB(255, 255, 255), RGB(255, 200, 120)); }) &&
+                 [](CXListCtrl & list, int row, int column) {
+                     list.SetItemColors(row, column, RGB(0, 0, 0), RGB(255, 255, 255), RGB(255, 200, 120));
+                 }) &&
           met;
 
     CImageList images;
@@ -155,7 +158,8 @@ bool bench::PaintingPagesOfOtherKinds()
     std::vector<COLORREF> const pixels(16 * 16, RGB(20, 120, 200));
     picture.CreateBitmap(16, 16, 1, 32, pixels.data());
     images.Add(&picture, RGB(0, 0, 0));
-    return PageOf("painting cells with an image beside native text cells, a cell",
-                  [](CXListCtrl & list, int row, int column) { list.SetItemImage(row, column, 0); }, &images) &&
+    return PageOf(
+               "painting cells with an image beside native text cells, a cell",
+               [](CXListCtrl & list, int row, int column) { list.SetItemImage(row, column, 0); }, &images) &&
            met;
 }

@@ -48,8 +48,8 @@ inline bool ReportCount(std::string const & name, unsigned long long ours, unsig
 inline bool ReportTime(std::string const & name, double ours, double reference, double goal)
 {
     bool const met = ours <= goal;
-    std::printf("%s | %.1f ns | %.1f ns | %.3f | %.0f ns | %s\n", name.c_str(), ours, reference, ours / reference,
-                goal, met ? "met" : "missed");
+    std::printf("%s | %.1f ns | %.1f ns | %.3f | %.0f ns | %s\n", name.c_str(), ours, reference, ours / reference, goal,
+                met ? "met" : "missed");
     std::fflush(stdout);
     return met;
 }

@@ -5,9 +5,9 @@
 
 namespace bench
 {
-/// For its life, what the module imports as `operator new`, `operator new[]`, `malloc`, `calloc` and `realloc` counts its
-/// calls. Allocations by inlined code count as well, since they go through the module's imports; those of other modules,
-/// the native controls among them, don't. One object at a time.
+/// For its life, what the module imports as `operator new`, `operator new[]`, `malloc`, `calloc` and `realloc` counts
+/// its calls. Allocations by inlined code count as well, since they go through the module's imports; those of other
+/// modules, the native controls among them, don't. One object at a time.
 class ModuleAllocations
 {
 public:

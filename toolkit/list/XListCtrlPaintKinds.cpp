@@ -380,12 +380,29 @@ void CXListCtrl::DrawProgress(int, int col, CDC * dc, COLORREF text, COLORREF ba
         caption.Format(L"%d%%", cell.progressValue);
     else
         caption.Format(cell.progressFormat, cell.progressDisplayValue);
+    dc->SetBkMode(TRANSPARENT);
+    auto const draw = [&](COLORREF color) {
+        dc->SetTextColor(color);
+        dc->DrawText(caption, &room, DT_CENTER | DT_SINGLELINE | DT_VCENTER);
+    };
+    // A text that keeps its distance from the bar's edge, italics and the like included, needs no clipping.
+    CSize const extent = dc->GetTextExtent(caption);
+    int const textLeft = room.left + (room.Width() - extent.cx) / 2 - extent.cy;
+    int const textRight = textLeft + extent.cx + 2 * extent.cy;
+    if (textLeft >= bar.left && textRight <= bar.right)
+    {
+        draw(trough_color);
+        return;
+    }
+    if (textLeft >= rest.left && textRight <= rest.right)
+    {
+        draw(text);
+        return;
+    }
     // The text changes its colour exactly at the bar's edge.
     auto const drawPart = [&](CRect const & part, COLORREF color) {
         ClipScope const clip(*dc, part);
-        dc->SetBkMode(TRANSPARENT);
-        dc->SetTextColor(color);
-        dc->DrawText(caption, &room, DT_CENTER | DT_SINGLELINE | DT_VCENTER);
+        draw(color);
     };
     drawPart(bar, trough_color);
     drawPart(rest, text);
