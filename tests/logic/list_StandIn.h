@@ -78,9 +78,8 @@ public:
             return std::tuple(cells == nullptr, cells != nullptr ? cells->itemData64 : 0,
                               cells != nullptr ? reinterpret_cast<std::uintptr_t>(cells->itemDataPtr) : 0);
         };
-        std::stable_sort(m_items.begin(), m_items.end(), [&](Item const & a, Item const & b) {
-            return ascending ? key(a) < key(b) : key(b) < key(a);
-        });
+        std::stable_sort(m_items.begin(), m_items.end(),
+                         [&](Item const & a, Item const & b) { return ascending ? key(a) < key(b) : key(b) < key(a); });
     }
     void SetWidth(int column, int width) { m_columns[static_cast<std::size_t>(column)].width = width; }
     int Width(int column) const { return m_columns[static_cast<std::size_t>(column)].width; }
@@ -439,7 +438,8 @@ private:
     }
     template <class Matches> int Find(Matches && matches)
     {
-        return FindRow(ItemCount(), [this](int row) { return FirstCell(row); }, matches);
+        return FindRow(
+            ItemCount(), [this](int row) { return FirstCell(row); }, matches);
     }
     void ShowCombo(int row, int column, XLISTCTRLDATA & cell, int id)
     {

@@ -93,14 +93,14 @@ TEST(ListCell, FieldsHaveTheirSizes)
 TEST(ListCell, FieldsStandInTheirOrder)
 {
     XLISTCTRLDATA const cell;
-    void const * const fields[] = {&cell.properties,        &cell.valueType,       &cell.imageIndex,
-                                   &cell.toolTipText,       &cell.intValue,        &cell.floatValue,
-                                   &cell.timeValue,         &cell.itemData64,      &cell.itemDataPtr,
-                                   &cell.idx8,              &cell.textColor,       &cell.backgroundColor,
-                                   &cell.gradientColor,     &cell.checkedState,    &cell.comboStrings,
-                                   &cell.comboSorted,       &cell.comboVisibleItems, &cell.comboDefaultId,
-                                   &cell.comboCurrentId,    &cell.progressValue,   &cell.progressDisplayValue,
-                                   &cell.progressFormat,    &cell.progressShowText, &cell.customDraw};
+    void const * const fields[] = {&cell.properties,     &cell.valueType,         &cell.imageIndex,
+                                   &cell.toolTipText,    &cell.intValue,          &cell.floatValue,
+                                   &cell.timeValue,      &cell.itemData64,        &cell.itemDataPtr,
+                                   &cell.idx8,           &cell.textColor,         &cell.backgroundColor,
+                                   &cell.gradientColor,  &cell.checkedState,      &cell.comboStrings,
+                                   &cell.comboSorted,    &cell.comboVisibleItems, &cell.comboDefaultId,
+                                   &cell.comboCurrentId, &cell.progressValue,     &cell.progressDisplayValue,
+                                   &cell.progressFormat, &cell.progressShowText,  &cell.customDraw};
     EXPECT_EQ(fields[0], &cell);
     for (std::size_t i = 1; i < std::size(fields); ++i)
         EXPECT_LT(reinterpret_cast<std::uintptr_t>(fields[i - 1]), reinterpret_cast<std::uintptr_t>(fields[i]))

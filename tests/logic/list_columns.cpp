@@ -91,8 +91,8 @@ TEST(ListColumnFit, APreferredColumnAtTheMinimumGoesOnFromItsOldWidth)
 TEST(ListColumnFit, APreferredColumnBelowTheMinimumAddsWhatItLacks)
 {
     Fitter fitter;
-    // -98, and 3 - 7 on top, is -102, of which column 0 has -1 and column 1, with 199, -100.5 + 0.5. Column 0 would be 2
-    // and gets 6, so 3 more are missing: -105 + 100 is -5. Column 0 cannot give a single pixel, column 1 gives all.
+    // -98, and 3 - 7 on top, is -102, of which column 0 has -1 and column 1, with 199, -100.5 + 0.5. Column 0 would be
+    // 2 and gets 6, so 3 more are missing: -105 + 100 is -5. Column 0 cannot give a single pixel, column 1 gives all.
     EXPECT_EQ(fitter.Fit({3, 199}, 104, 0), Widths({6, 94}));
 }
 
@@ -126,11 +126,11 @@ TEST(ListColumnFit, AFirstShrinkingStartsWithColumn0)
 TEST(ListColumnFit, AFittingWithoutSinglePixelsLeavesTheMemory)
 {
     Fitter fitter;
-    fitter.Fit({10, 10, 10}, 31);            // column 1 took it
-    fitter.Fit({10, 10, 10}, 27);            // -0.5 each: three whole shares of 0, three single pixels from column 1 down
+    fitter.Fit({10, 10, 10}, 31); // column 1 took it
+    fitter.Fit({10, 10, 10}, 27); // -0.5 each: three whole shares of 0, three single pixels from column 1 down
     EXPECT_EQ(fitter.widths, Widths({9, 9, 9}));
-    fitter.Fit({10, 10, 10}, 60);            // shared out whole
-    fitter.Fit({10, 10, 10}, 100, 0);        // column 0 alone
+    fitter.Fit({10, 10, 10}, 60);     // shared out whole
+    fitter.Fit({10, 10, 10}, 100, 0); // column 0 alone
     EXPECT_EQ(fitter.Fit({10, 10, 10}, 29), Widths({10, 9, 10}));
 }
 

@@ -1,6 +1,6 @@
 #pragma once
-// What a report list of typed cells must do, said as plainly as possible and with nothing of the toolkit's own: vectors,
-// numbers and loops. A random walk holds the toolkit's list against it (ListWalk.h).
+// What a report list of typed cells must do, said as plainly as possible and with nothing of the toolkit's own:
+// vectors, numbers and loops. A random walk holds the toolkit's list against it (ListWalk.h).
 
 #include <algorithm>
 #include <array>
@@ -114,10 +114,7 @@ public:
     /// The row's cells, also those behind the last column.
     std::vector<Cell> & Cells(int row) { return stores[static_cast<std::size_t>(At(row).store)]; }
     /// The row's first cell, also in a list without columns.
-    Cell * First(int row)
-    {
-        return At(row).store < 0 ? nullptr : Cells(row).data();
-    }
+    Cell * First(int row) { return At(row).store < 0 ? nullptr : Cells(row).data(); }
     Row & At(int row) { return rows[static_cast<std::size_t>(row)]; }
     std::wstring & Text(int row, int column) { return At(row).texts[static_cast<std::size_t>(column)]; }
 
@@ -200,9 +197,8 @@ public:
         auto const key = [this](Row const & row) {
             std::vector<Cell> const * const cells =
                 row.store < 0 ? nullptr : &stores[static_cast<std::size_t>(row.store)];
-            return cells == nullptr
-                       ? std::tuple(true, 0LL, std::uintptr_t{0})
-                       : std::tuple(false, (*cells)[0].data, (*cells)[0].pointer);
+            return cells == nullptr ? std::tuple(true, 0LL, std::uintptr_t{0})
+                                    : std::tuple(false, (*cells)[0].data, (*cells)[0].pointer);
         };
         std::stable_sort(marked.begin(), marked.end(), [&](auto const & a, auto const & b) {
             return ascending ? key(a.first) < key(b.first) : key(b.first) < key(a.first);

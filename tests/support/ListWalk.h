@@ -5,9 +5,10 @@
 //     EXPECT_EQ(list_walk::Run(list, seed, 10000), "");     // what went wrong, with the seed, step and operation
 //
 // Beside CXListCtrl's own names the list walked has: InsertForeign (an item without a row object), Sort, Press (a left
-// press on a cell), Navigate (a navigation key), SetWidth and Width (without padding), Available (room for the columns),
-// MinimumWidth, BarColor, ItemCount, Text, TakeNotices, and IsSound (what it knows of its own consistency).
+// press on a cell), Navigate (a navigation key), SetWidth and Width (without padding), Available (room for the
+// columns), MinimumWidth, BarColor, ItemCount, Text, TakeNotices, and IsSound (what it knows of its own consistency).
 
+#include "ListExpectations.h"
 #include "ListReferenceModel.h"
 #include "list/XListCtrlData.h"
 
@@ -61,6 +62,8 @@ private:
         if (!right && m_difference.empty())
             m_difference = what;
     }
+    /// what: null if all is right.
+    void Check(char const * what) { Check(what == nullptr, what != nullptr ? what : ""); }
     template <class Value> void Same(Value const & ours, Value const & expected, char const * what)
     {
         Check(ours == expected, what);
@@ -142,28 +145,10 @@ private:
         int const available = m_list.Available();
         int const minimum = m_list.MinimumWidth();
         int const asked = Below(m_model.ColumnCount() + 3) - 1;
-        int const preferred = std::min(asked, m_model.ColumnCount() - 1);
         m_list.AutosizeColumnWidth(asked);
         std::vector<int> const after = Widths();
 
-        int room = available;
-        if (preferred >= 0 && Sum(before) != available)
-        {
-            auto const place = static_cast<std::size_t>(preferred);
-            int const alone = before[place] + available - Sum(before);
-            if (alone > minimum)
-            {
-                std::vector<int> expected = before;
-                expected[place] = alone;
-                Same(after, expected, "the preferred column takes the difference");
-                return;
-            }
-            room += before[place] - (minimum + 1);
-        }
-        bool const atMinimum = *std::max_element(after.begin(), after.end()) <= minimum + 1;
-        Check(Sum(after) == room || (atMinimum && Sum(after) > room), "the sum of the widths");
-        if (Sum(before) != available)
-            Check(*std::min_element(after.begin(), after.end()) >= minimum, "no width below the minimum");
+        Check(FittingIsRight(before, after, available, minimum, asked), "the widths");
     }
     std::vector<int> Widths()
     {
@@ -171,13 +156,6 @@ private:
         for (int column = 0; column < m_model.ColumnCount(); ++column)
             widths.push_back(m_list.Width(column));
         return widths;
-    }
-    static int Sum(std::vector<int> const & widths)
-    {
-        int sum = 0;
-        for (int const width : widths)
-            sum += width;
-        return sum;
     }
 
     // --- Rows ---
@@ -562,36 +540,8 @@ private:
             Cell const * const expected = m_model.Find(row, column);
             Same(ours != nullptr, expected != nullptr, "whether there is a cell");
             if (ours != nullptr && expected != nullptr)
-                CompareCell(*ours, *expected);
+                Check(DifferentField(*ours, *expected));
         }
-    }
-
-    void CompareCell(XLISTCTRLDATA const & ours, Cell const & expected)
-    {
-        Same(ours.properties, expected.properties, "properties");
-        Same(ours.valueType, expected.valueType, "valueType");
-        Same(ours.imageIndex, expected.image, "imageIndex");
-        Check(expected.tip == ours.toolTipText.GetString(), "toolTipText");
-        Same(ours.intValue, expected.number, "intValue");
-        Same(ours.itemData64, expected.data, "itemData64");
-        Same(reinterpret_cast<std::uintptr_t>(ours.itemDataPtr), expected.pointer, "itemDataPtr");
-        Check(std::equal(std::begin(ours.idx8), std::end(ours.idx8), expected.key.begin()), "idx8");
-        Same(static_cast<unsigned>(ours.textColor), expected.textColor, "textColor");
-        Same(static_cast<unsigned>(ours.backgroundColor), expected.background, "backgroundColor");
-        Same(static_cast<unsigned>(ours.gradientColor), expected.gradient, "gradientColor");
-        Same(ours.checkedState, expected.checked, "checkedState");
-        Check(std::equal(ours.comboStrings.begin(), ours.comboStrings.end(), expected.comboIds.begin(),
-                         expected.comboIds.end(), [](auto const & entry, int id) { return entry.first == id; }),
-              "comboStrings");
-        Same(ours.comboSorted, expected.comboSorted, "comboSorted");
-        Same(ours.comboVisibleItems, expected.comboVisible, "comboVisibleItems");
-        Same(ours.comboDefaultId, expected.comboDefault, "comboDefaultId");
-        Same(ours.comboCurrentId, expected.comboCurrent, "comboCurrentId");
-        Same(ours.progressValue, expected.progress, "progressValue");
-        Same(ours.progressDisplayValue, expected.progressDisplay, "progressDisplayValue");
-        Check(expected.progressFormat == ours.progressFormat.GetString(), "progressFormat");
-        Same(ours.progressShowText, expected.progressText, "progressShowText");
-        Same(static_cast<bool>(ours.customDraw), expected.painter, "customDraw");
     }
 
     void CompareSearches()

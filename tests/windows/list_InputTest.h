@@ -147,8 +147,9 @@ protected:
     int Ticks(UINT_PTR id) const
     {
         auto const & all = m_input.Received();
-        return static_cast<int>(std::count_if(all.begin(), all.end(), [id](tests::ReceivedMessage const & received)
-                                              { return received.message == WM_TIMER && received.wParam == id; }));
+        return static_cast<int>(std::count_if(all.begin(), all.end(), [id](tests::ReceivedMessage const & received) {
+            return received.message == WM_TIMER && received.wParam == id;
+        }));
     }
 
     tests::ListHost m_host;

@@ -184,8 +184,7 @@ TEST_F(ListClicks, CellClickComesBeforeTheCellActs)
     m_list.SetCheckbox(3, 1, XLC_UNCHECKED);
     std::vector<Cell> heard;
     int state = -1;
-    m_list.m_onCellClick = [&](int row, int col)
-    {
+    m_list.m_onCellClick = [&](int row, int col) {
         heard.emplace_back(row, col);
         state = m_list.GetCheckbox(row, col);
     };

@@ -68,8 +68,7 @@ TEST_F(ListHeaderClicks, HeaderIsPaintedAtOnceAndTheCellsAfterwards)
     ASSERT_TRUE(m_list.GetSubItemRect(2, 1, LVIR_BOUNDS, cell));
     bool headerWaits = true;
     CRect invalid;
-    m_list.m_onStateChange = [&](int, int)
-    {
+    m_list.m_onStateChange = [&](int, int) {
         headerWaits = ::GetUpdateRect(m_list.Header(), nullptr, FALSE);
         ::GetUpdateRect(m_list.m_hWnd, &invalid, FALSE);
     };
@@ -182,8 +181,7 @@ TEST_F(ListHeaderClicks, HandlerMayEndTheListInTheMiddle)
     m_list.SetHeaderAutoCheckbox(true);
     ASSERT_TRUE(m_list.SetHeaderCheckedState(1, XHC_UNCHECKED));
     int calls = 0;
-    m_list.m_onStateChange = [&](int, int)
-    {
+    m_list.m_onStateChange = [&](int, int) {
         if (++calls == 3)
             m_list.DestroyWindow();
     };

@@ -183,8 +183,8 @@ protected:
 };
 
 BEGIN_MESSAGE_MAP(NotifiedParent, CWnd)
-ON_NOTIFY(NM_CLICK, 9, &NotifiedParent::OnListClick)
-ON_NOTIFY(LVN_COLUMNCLICK, 9, &NotifiedParent::OnListColumn)
+    ON_NOTIFY(NM_CLICK, 9, &NotifiedParent::OnListClick)
+    ON_NOTIFY(LVN_COLUMNCLICK, 9, &NotifiedParent::OnListColumn)
 END_MESSAGE_MAP()
 
 TEST_F(ListNotifications, ParentHearsTheNativeClicksToo)

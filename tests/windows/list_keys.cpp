@@ -97,8 +97,11 @@ TEST_F(ListKeysSingle, ScrollTheirRowIntoView)
     m_list.SetCurSel(3, false);
     m_list.EnsureVisible(67, FALSE);
     ASSERT_GT(m_list.GetTopIndex(), 30);
+    tests::MessageRecorder recorder({LVM_ENSUREVISIBLE});
+    recorder.Watch(m_list.m_hWnd, "list");
     PressKey(VK_NEXT);
     EXPECT_LE(m_list.GetTopIndex(), 3);
+    EXPECT_TRUE(recorder.Matches({{"list", LVM_ENSUREVISIBLE, tests::Way::Sent, 3, FALSE}}));
     EXPECT_EQ(m_list.GetSelectedItem(), 3);
 }
 

@@ -36,15 +36,13 @@ protected:
     void PointAt(CPoint client)
     {
         CPoint const screen = Screen(client);
-        ASSERT_TRUE(list_input::HoverUntil(screen,
-                                           [&]
-                                           {
-                                               m_button.PostMessageW(WM_NULL);
-                                               tests::PumpPosted();
-                                               DWORD const position = ::GetMessagePos();
-                                               return std::abs(static_cast<short>(LOWORD(position)) - screen.x) < 2 &&
-                                                      static_cast<short>(HIWORD(position)) == screen.y;
-                                           }));
+        ASSERT_TRUE(list_input::HoverUntil(screen, [&] {
+            m_button.PostMessageW(WM_NULL);
+            tests::PumpPosted();
+            DWORD const position = ::GetMessagePos();
+            return std::abs(static_cast<short>(LOWORD(position)) - screen.x) < 2 &&
+                   static_cast<short>(HIWORD(position)) == screen.y;
+        }));
     }
     struct Answer
     {
@@ -274,7 +272,7 @@ TEST_F(ListToolTips, ComeThroughTheMessageMap)
 
 TEST_F(ListToolTips, ShowUnderTheMouse)
 {
-    std::wstring const wide = L"a text that is longer than the eighty characters for which a tooltip structure has room";
+    std::wstring const wide = L"a text that is longer than the eighty characters for which the structure has room";
     m_list.SetItemToolTipText(2, 1, L"second");
     m_list.SetItemToolTipText(5, 1, wide.c_str());
     auto const shows = [](std::wstring const & text) { return [text] { return ShownTip() == text; }; };

@@ -50,7 +50,8 @@ public:
     std::wstring Text(int row, int col) const
     {
         wchar_t text[100];
-        return {text, static_cast<std::size_t>(CListCtrl::GetItemText(row, col, text, static_cast<int>(std::size(text))))};
+        return {text,
+                static_cast<std::size_t>(CListCtrl::GetItemText(row, col, text, static_cast<int>(std::size(text))))};
     }
 
     /// A press where the cell can be hit, and its end.
