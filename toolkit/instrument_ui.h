@@ -10,4 +10,10 @@
 #include "layout/Edges.h"
 #include "layout/DialogResizer.h"
 
+#include "dialogs/PopupConfig.h"
+#include "dialogs/Dialog3d.h"
+#include "dialogs/FolderDialog.h"
+#include "dialogs/SprachauswahlDlg.h"
+
 #include "windows/FensterManager.h"
+#include "windows/MenueManager.h"

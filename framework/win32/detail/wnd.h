@@ -246,7 +246,7 @@ public:
     static CWnd * PASCAL GetOpenClipboardWindow();
     static CWnd * PASCAL GetClipboardOwner();
     static CWnd * PASCAL GetClipboardViewer();
-    CMenu * GetMenu() const;
+    virtual CMenu * GetMenu() const;
     BOOL SetMenu(CMenu * pMenu);
     void DrawMenuBar();
     CMenu * GetSystemMenu(BOOL bRevert) const;
