@@ -71,6 +71,7 @@ public:
     /// Sees every message that no handler of the dialog swallowed.
     std::vector<UINT> m_defaulted;
     std::vector<int> m_alphas; // after each tick
+    int m_fadeEnds = 0;
     int m_inits = 0;
     int m_shown = 0;
     int m_oks = 0;
@@ -110,17 +111,12 @@ public:
     {
         SetWindowPos(nullptr, 0, 0, width, height, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     }
-    /// Lets the fade that runs end; false if it doesn't.
+    /// Lets the fade that runs end; false if it doesn't. The tick that ends the timer is the one that is swallowed.
     bool FinishFade()
     {
-        size_t last = m_alphas.size();
-        int quiet = 0;
-        return tests::PumpUntil([&] {
-            ::Sleep(5);
-            quiet = m_alphas.size() == last ? quiet + 1 : 0;
-            last = m_alphas.size();
-            return quiet > 30;
-        });
+        bool const ended = tests::PumpUntil([&] { return m_fadeEnds > 0; });
+        m_fadeEnds = 0;
+        return ended;
     }
 
     int DisplayDialog() override
@@ -161,9 +157,14 @@ protected:
         if (message == WM_WINDOWPOSCHANGED && (reinterpret_cast<WINDOWPOS *>(lParam)->flags & SWP_SHOWWINDOW) != 0)
             ++m_shown;
         HWND const window = m_hWnd;
+        int const defaulted = DefaultedCount(WM_TIMER);
         LRESULT const result = CDialog3d::WindowProc(message, wParam, lParam);
         if (message == WM_TIMER && ::IsWindow(window))
+        {
             m_alphas.push_back(ShownAlpha());
+            if (DefaultedCount(WM_TIMER) == defaulted)
+                ++m_fadeEnds;
+        }
         return result;
     }
 
