@@ -113,6 +113,17 @@ TEST(ListColumns, RefuseWithoutAHeader)
     list.AutosizeColumnWidth(0);
 }
 
+// A native list may make its header only when it is first needed.
+TEST(ListColumns, AHiddenListGetsItsColumns)
+{
+    ListHost host(TestList::default_style & ~WS_VISIBLE);
+    TestList & list = host.list;
+    EXPECT_EQ(list.AddColumn(L"a", LVCFMT_LEFT, 50), 0);
+    EXPECT_EQ(list.AddColumn(L"b", LVCFMT_LEFT, 50), 1);
+    EXPECT_TRUE(list.SetHeaderCheckedState(1, XHC_CHECKED)) << "the header is the list's own";
+    EXPECT_EQ(list.GetHeaderCheckedState(1), XHC_CHECKED);
+}
+
 TEST(ListColumns, RefuseAfterTheWindowIsGone)
 {
     ListHost host;

@@ -305,6 +305,34 @@ TEST_F(ListPaintStates, PaintingTheChangedCellPaintsItAlone)
     EXPECT_EQ(painted, (std::vector<std::pair<int, int>>{{2, 1}}));
 }
 
+TEST_F(ListPaintStates, OnePaintFillsEveryCellWithItsOwnColours)
+{
+    auto const colour = [](int row, int col) { return RGB(40 * row + 20, 60 * col + 20, 90); };
+    for (int row = 0; row < 4; ++row)
+        for (int col = 0; col < 3; ++col)
+        {
+            list.SetItemText(row, col, L"");
+            list.SetItemColors(row, col, RGB(0, 0, 0), colour(row, col), 0xFFFFFF);
+        }
+    list.SetCurSel(2, false);
+    ::SetFocus(list.m_hWnd);
+    // Twice, with other columns: nothing of one paint may be left for the next.
+    for (int const width : {80, 55})
+    {
+        static_cast<CListCtrl &>(list).SetColumnWidth(0, width);
+        list.RedrawWindow();
+        CClientDC dc(&list);
+        for (int row = 0; row < 4; ++row)
+            for (int col = 0; col < 3; ++col)
+            {
+                COLORREF const expected = row == 2 ? ::GetSysColor(COLOR_HIGHLIGHT) : colour(row, col);
+                CRect const cell = Cell(row, col);
+                EXPECT_EQ(dc.GetPixel(cell.left + 3, cell.top + 1), expected) << row << ", " << col;
+                EXPECT_EQ(dc.GetPixel(cell.right - 1, cell.bottom - 2), expected) << row << ", " << col;
+            }
+    }
+}
+
 TEST_F(ListPaintStates, AnEmptyPainterIsReportedAndTheProgramGoesOn)
 {
     list.SetCustomDraw(1, 1, {});

@@ -12,20 +12,18 @@ constexpr int border_width = 4;
 
 int CXListCtrl::AddColumn(wchar_t const * title, int format, int width)
 {
-    if (::IsWindow(m_hWnd))
-        SubclassHeaderControl(); // some native lists make their header only after their creation
-    if (!::IsWindow(m_header.m_hWnd))
+    if (!::IsWindow(m_hWnd))
         return -1;
     m_columnCount = GetColumnCount() + 1;
     // Past the end, so that it lands last.
     CListCtrl::InsertColumn(m_columnCount, title, format, width, -1);
+    // A list that has not been shown yet may have made its header only now.
+    SubclassHeaderControl();
     return m_columnCount - 1;
 }
 
 int CXListCtrl::InsertColumn(int col, wchar_t const * title, int format, int width, int subItem)
 {
-    if (::IsWindow(m_hWnd))
-        SubclassHeaderControl();
     if (!::IsWindow(m_header.m_hWnd))
         return -1;
     int const landed = CListCtrl::InsertColumn(col, title, format, width, subItem);
