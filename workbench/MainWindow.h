@@ -8,10 +8,12 @@
 #include <optional>
 #include <vector>
 
-#include "DetailsWindow.h"
+#include "DetailsDialog.h"
 #include "RecordingList.h"
 #include "ScreenMetrics.h"
+#include "SettingsDialog.h"
 #include "WaveformView.h"
+#include "WindowMenu.h"
 #include "layout/DialogResizer.h"
 #include "logic/AnalysisQueue.h"
 #include "windows/FensterManager.h"
@@ -44,7 +46,16 @@ public:
     /// Opens the details of a recording, or shows them in the open window. Gives false for one that does not exist or
     /// is being read.
     bool ShowDetails(int index);
-    void CloseDetails();
+    CDetailsDialog & Details() { return m_details; }
+
+    /// Opens the settings, or brings them to the front.
+    bool ShowSettings();
+    CSettingsDialog & SettingsDialog() { return m_settingsDialog; }
+
+    /// Makes it the language of the windows that open from now on, and stores it.
+    void ChooseLanguage(unsigned short languageId);
+
+    void CloseDialogs();
 
     BOOL PreTranslateMessage(MSG * message) override;
 
@@ -56,6 +67,7 @@ private:
     afx_msg void OnClose();
     afx_msg void OnDestroy();
     afx_msg void OnEndSession(BOOL ending);
+    afx_msg void OnInitMenuPopup(CMenu * menu, UINT index, BOOL systemMenu);
     afx_msg void OnSize(UINT type, int width, int height);
     afx_msg void OnGetMinMaxInfo(MINMAXINFO * info);
     afx_msg void OnActivate(UINT state, CWnd * other, BOOL minimized);
@@ -65,6 +77,10 @@ private:
     afx_msg void OnOpenFolder();
     afx_msg void OnReload();
     afx_msg void OnCloseCommand();
+    afx_msg void OnShowSettings();
+    afx_msg void OnChooseLanguage();
+    afx_msg void OnCloseDialogs();
+    afx_msg void OnDialogChosen(UINT id);
     afx_msg void OnItemChanged(NMHDR * header, LRESULT * result);
     afx_msg void OnReadAgain();
     afx_msg void OnShowDetails();
@@ -79,6 +95,9 @@ private:
 
     bool CreateChildren();
     void Arrange();
+    void PrepareDialogs();
+    void TakeSettings(workbench::Settings const & settings);
+    CDetailsDialog::Actions DetailsActions();
     void RememberPlace();
     void ShowChosen();
     void ReadAgain(int index);
@@ -90,12 +109,12 @@ private:
     CFensterManager m_memory;
     CRecordingList m_list;
     CWaveformView m_waveform;
-    CButton m_openFiles;
-    CButton m_openFolder;
-    CButton m_reload;
-    CButton m_close;
     CStatic m_statusLine;
-    CDetailsWindow m_details;
+    CWindowMenu m_windowMenu;
+    CDetailsDialog m_details;
+    int m_detailsIndex = -1; ///< the recording whose details are shown
+    CSettingsDialog m_settingsDialog;
+    workbench::Settings m_settings;
     std::unique_ptr<CDialogResizer> m_resizer;
     HACCEL m_accelerators = nullptr;
     HWND m_lastFocus = nullptr;

@@ -8,11 +8,12 @@
 #include "frame/CoreLibrary.h"
 #include "logic/RecordingDetails.h"
 #include "logic/TextFormat.h"
+#include "logic/Texts.h"
 
 namespace
 {
 
-constexpr wchar_t c_readingText[] = L"reading...";
+constexpr auto c_readingText = workbench::Translatable(L"reading...");
 
 // Places in the image list.
 constexpr int c_imageOk = 0;
@@ -87,7 +88,7 @@ void CRecordingList::PrepareLine(int line, std::filesystem::path const & file, N
     SetComboBoxGlobalStrings(line, column_rating, notes.rating, 0);
     SetItemText(line, column_comment, notes.comment.c_str());
     SetEdit(line, column_comment, true);
-    SetItemText(line, column_status, c_readingText);
+    SetItemText(line, column_status, workbench::Text(c_readingText));
     SetItemImage(line, column_status, -1);
     Require(column_name, WidthOf(name));
 }

@@ -7,9 +7,12 @@
 
 #include "logic/Axis.h"
 #include "logic/TextFormat.h"
+#include "logic/Texts.h"
 
 namespace
 {
+
+using workbench::Text;
 
 constexpr COLORREF c_plotColour = RGB(249, 250, 252);
 constexpr COLORREF c_frameColour = RGB(190, 198, 207);
@@ -53,7 +56,7 @@ bool CWaveformView::CreateView(CWnd & parent, UINT id, workbench::ScreenMetrics 
 void CWaveformView::ShowRecording(std::wstring name, std::shared_ptr<workbench::RecordingAnalysis const> analysis)
 {
     m_title = std::move(name);
-    m_text = analysis->problem ? L"Cannot be shown: " + analysis->StatusText() + L"." : std::wstring();
+    m_text = analysis->problem ? Text(L"Cannot be shown") + (L": " + analysis->StatusText() + L'.') : std::wstring();
     m_analysis = std::move(analysis);
     m_columns.clear();
     Invalidate(FALSE);
@@ -163,7 +166,8 @@ int CWaveformView::DrawHeading(CDC & dc, CRect const & area)
     if (m_analysis->info.IsCutOff() || m_analysis->invalidSamples > 0)
     {
         dc.SetTextColor(c_problemColour);
-        DrawText(dc, L"This file is damaged: " + m_analysis->StatusText() + L".", rect, DT_LEFT | c_oneLine);
+        DrawText(dc, Text(L"This file is damaged") + (L": " + m_analysis->StatusText() + L'.'), rect,
+                 DT_LEFT | c_oneLine);
         rect.top += line + m_metrics->Y(1);
     }
     return rect.top + m_metrics->Y(3);
@@ -172,13 +176,14 @@ int CWaveformView::DrawHeading(CDC & dc, CRect const & area)
 std::wstring CWaveformView::Details() const
 {
     auto const & info = m_analysis->info;
-    auto const coding = info.coding == workbench::SampleCoding::Float ? L"-bit float" : L"-bit";
+    auto const coding = info.coding == workbench::SampleCoding::Float ? Text(L"-bit float") : Text(L"-bit");
     auto details = workbench::FormatSampleRate(info.sampleRate) + L"  \u00B7  " + std::to_wstring(info.bitsPerSample) +
-                   coding + L"  \u00B7  " + workbench::FormatCount(info.channels, L"channel", L"channels") +
+                   coding + L"  \u00B7  " + workbench::FormatCount(info.channels, Text(L"channel"), Text(L"channels")) +
                    L"  \u00B7  " + workbench::FormatDuration(info.frames, info.sampleRate);
     if (info.channels > m_analysis->waveform.Lanes())
     {
-        details += L"  \u00B7  the first " + std::to_wstring(m_analysis->waveform.Lanes()) + L" are shown";
+        details += std::wstring(L"  \u00B7  ") + Text(L"the first") + L' ' +
+                   std::to_wstring(m_analysis->waveform.Lanes()) + L' ' + Text(L"are shown");
     }
     return details;
 }
@@ -190,7 +195,7 @@ std::wstring CWaveformView::LaneName(std::size_t index) const
     case 1:
         return {};
     case 2:
-        return index == 0 ? L"Left" : L"Right";
+        return index == 0 ? Text(L"Left") : Text(L"Right");
     default:
         return std::to_wstring(index + 1);
     }

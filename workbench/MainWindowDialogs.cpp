@@ -1,0 +1,151 @@
+// The main window's dialogs and menus.
+
+#include "MainWindow.h"
+
+#include "FileDialogs.h"
+#include "dialogs/SprachauswahlDlg.h"
+#include "logic/Texts.h"
+#include "resource.h"
+
+using workbench::Text;
+
+void CMainWindow::PrepareDialogs()
+{
+    m_windowMenu.SetMenu(Text(L"&Window"));
+    m_settings = workbench::ReadSettings();
+    for (CWorkbenchDialog * const dialog :
+         {static_cast<CWorkbenchDialog *>(&m_details), static_cast<CWorkbenchDialog *>(&m_settingsDialog)})
+    {
+        dialog->Follow(m_settings);
+        dialog->m_onOpened = [this](CWorkbenchDialog & which, bool open) {
+            if (open)
+            {
+                m_windowMenu.Add(which, which.GetDialogTitle());
+            }
+            else
+            {
+                m_windowMenu.Remove(which);
+            }
+        };
+    }
+    m_settingsDialog.m_onAccepted = [this](workbench::Settings const & settings) { TakeSettings(settings); };
+    m_details.m_actions = [this] { return DetailsActions(); };
+}
+
+void CMainWindow::TakeSettings(workbench::Settings const & settings)
+{
+    m_settings = settings;
+    m_details.Follow(settings);
+    m_settingsDialog.Follow(settings);
+    if (!workbench::StoreSettings(settings))
+    {
+        AfxMessageBox(Text(L"The settings could not be stored."), MB_ICONEXCLAMATION);
+    }
+}
+
+/// What can be done from the details that are shown now. The list may have other recordings by then.
+CDetailsDialog::Actions CMainWindow::DetailsActions()
+{
+    CDetailsDialog::Actions actions;
+    auto const index = m_detailsIndex;
+    auto const readable = [this](int i) {
+        return i >= 0 && i < RecordingCount() && m_analyses[static_cast<std::size_t>(i)] != nullptr;
+    };
+    if (readable(index - 1))
+    {
+        actions.previous = [this, index] { ShowDetails(index - 1); };
+    }
+    if (readable(index + 1))
+    {
+        actions.next = [this, index] { ShowDetails(index + 1); };
+    }
+    if (readable(index))
+    {
+        actions.showInList = [this, index] {
+            m_list.ChooseLine(index);
+            SetActiveWindow();
+        };
+        if (!m_analyses[static_cast<std::size_t>(index)]->problem)
+        {
+            actions.setReference = [this, index] { m_list.SetReference(index); };
+        }
+    }
+    return actions;
+}
+
+bool CMainWindow::ShowSettings()
+{
+    return m_settingsDialog.OpenWith(m_settings);
+}
+
+void CMainWindow::OnShowSettings()
+{
+    ShowSettings();
+}
+
+void CMainWindow::ChooseLanguage(unsigned short languageId)
+{
+    workbench::UseLanguage(languageId);
+    if (!workbench::StoreLanguage(languageId))
+    {
+        AfxMessageBox(Text(L"The settings could not be stored."), MB_ICONEXCLAMATION);
+    }
+}
+
+void CMainWindow::OnChooseLanguage()
+{
+    CSprachauswahlDlg dialog(workbench::ReadLanguage(), this);
+    if (dialog.DoModal() == IDOK && dialog.SpracheGeaendert())
+    {
+        ChooseLanguage(dialog.SprachId());
+    }
+}
+
+void CMainWindow::CloseDialogs()
+{
+    m_windowMenu.CloseAll();
+}
+
+void CMainWindow::OnCloseDialogs()
+{
+    CloseDialogs();
+}
+
+void CMainWindow::OnDialogChosen(UINT id)
+{
+    m_windowMenu.Activate(id);
+}
+
+void CMainWindow::OnOpenFiles()
+{
+    auto files = workbench::ChooseFiles(*this);
+    if (!files.empty())
+    {
+        ShowTargets(std::move(files));
+    }
+}
+
+void CMainWindow::OnOpenFolder()
+{
+    if (auto const folder = workbench::ChooseFolder(*this))
+    {
+        ShowTargets({*folder});
+    }
+}
+
+void CMainWindow::OnInitMenuPopup(CMenu * menu, UINT index, BOOL systemMenu)
+{
+    CWnd::OnInitMenuPopup(menu, index, systemMenu);
+    auto const enable = [menu](UINT id, bool enabled) {
+        menu->EnableMenuItem(id, MF_BYCOMMAND | (enabled ? MF_ENABLED : MF_GRAYED));
+    };
+    auto const chosen = m_list.ChosenLine();
+    auto const read = chosen >= 0 && chosen < RecordingCount() && m_analyses[static_cast<std::size_t>(chosen)];
+    enable(ID_RELOAD, !m_targets.empty());
+    enable(ID_SHOW_DETAILS, read);
+    enable(ID_READ_AGAIN, read);
+    enable(ID_SET_REFERENCE, read && !m_analyses[static_cast<std::size_t>(chosen)]->problem);
+    enable(ID_MARK_ALL, RecordingCount() > 0);
+    enable(ID_MARK_NONE, RecordingCount() > 0);
+    enable(ID_CLOSE_DIALOGS, m_details.IsOpen() || m_settingsDialog.IsOpen());
+}
