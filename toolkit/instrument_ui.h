@@ -19,3 +19,8 @@
 
 #include "windows/FensterManager.h"
 #include "windows/MenueManager.h"
+
+#include "segments/ColorScheme.h"
+#include "segments/DigiStyle.h"
+#include "segments/DigiStatic.h"
+#include "segments/LedTextAnzeiger.h"
