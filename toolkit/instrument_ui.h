@@ -7,6 +7,8 @@
 #include "frame/CoreLibrary.h"
 #include "frame/PreferenceStore.h"
 
+#include "colours/Farbtabellen.h"
+
 #include "layout/Edges.h"
 #include "layout/DialogResizer.h"
 
@@ -17,3 +19,8 @@
 
 #include "windows/FensterManager.h"
 #include "windows/MenueManager.h"
+
+#include "segments/ColorScheme.h"
+#include "segments/DigiStyle.h"
+#include "segments/DigiStatic.h"
+#include "segments/LedTextAnzeiger.h"
