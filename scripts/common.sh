@@ -114,8 +114,12 @@ prepare_prefix() {
 }
 
 # Gives the prefix the dialog font that Windows has. Wine would take Tahoma, whose wider letters need more room than the
-# dialogs have.
+# dialogs have. The font of messages, which Wine takes from the former, stays Tahoma.
 use_windows_dialog_font() {
+    local tahoma='f5ffffff000000000000000000000000900100000000000100000000' # 11 pixels, weight 400
+    tahoma+='5400610068006f006d0061000000'
+    while [ ${#tahoma} -lt 184 ]; do tahoma+=00; done
+    wine reg add 'HKCU\Control Panel\Desktop\WindowMetrics' /v MessageFont /t REG_BINARY /d "$tahoma" /f >/dev/null 2>&1
     wine reg add 'HKLM\Software\Microsoft\Windows NT\CurrentVersion\FontSubstitutes' /v 'MS Shell Dlg' \
         /d 'MS Sans Serif' /f >/dev/null 2>&1
 }

@@ -66,7 +66,7 @@ BEGIN_MESSAGE_MAP(CMainWindow, CWnd)
     ON_MESSAGE(c_messageRecordingsReady, &CMainWindow::OnRecordingsReady)
 END_MESSAGE_MAP()
 
-CMainWindow::CMainWindow() : m_memory(c_title, CFensterManager::window_main) {}
+CMainWindow::CMainWindow() : m_memory(c_title, CFensterManager::window_main), m_settings(workbench::ReadSettings()) {}
 
 bool CMainWindow::CreateMainWindow()
 {
@@ -109,6 +109,7 @@ int CMainWindow::OnCreate(LPCREATESTRUCT create)
                                         ::GetSystemMetrics(SM_CXSMICON), ::GetSystemMetrics(SM_CYSMICON), LR_SHARED)),
         FALSE);
     DragAcceptFiles();
+    m_waveform.m_onCursor = [this] { ShowReading(); };
     // The commands of the list's menu are the window's, which has them for the keyboard, too.
     m_list.m_onContextCommand = [this](int command, int row, int) {
         m_list.ChooseLine(row);
@@ -123,8 +124,9 @@ int CMainWindow::OnCreate(LPCREATESTRUCT create)
 
 bool CMainWindow::CreateChildren()
 {
-    auto created =
-        m_list.CreateList(*this, IDC_RECORDINGS, m_metrics) && m_waveform.CreateView(*this, IDC_WAVEFORM, m_metrics);
+    auto created = m_list.CreateList(*this, IDC_RECORDINGS, m_metrics) &&
+                   m_waveform.CreateView(*this, IDC_WAVEFORM, m_metrics) &&
+                   m_panel.CreatePanel(*this, IDC_MEASURE_PANEL, m_metrics, m_settings.spectrogramScale);
     created = created && m_statusLine.Create(L"", WS_CHILD | WS_VISIBLE | SS_LEFT | SS_NOPREFIX | SS_ENDELLIPSIS,
                                              CRect(), this, IDC_STATUS_LINE);
     m_statusLine.SetFont(&m_metrics.Font());
@@ -137,14 +139,18 @@ void CMainWindow::Arrange()
     auto const marginX = m_metrics.X(c_margin);
     auto const marginY = m_metrics.Y(c_margin);
     auto const spacingY = m_metrics.Y(c_spacing);
-    CSize const list(m_list.LeastWidth(), m_metrics.Y(c_leastListHeight));
+    CSize const list(std::max(m_list.LeastWidth(), CMeasurePanel::LeastWidth(m_metrics)),
+                     m_metrics.Y(c_leastListHeight));
+    auto const panelHeight = CMeasurePanel::Height(m_metrics);
     auto const waveformHeight = m_metrics.Y(c_leastWaveformHeight);
 
     CRect window(0, 0, 2 * marginX + list.cx,
-                 2 * marginY + list.cy + spacingY + waveformHeight + spacingY + m_metrics.LineHeight());
+                 2 * marginY + list.cy + spacingY + waveformHeight + spacingY + panelHeight + spacingY +
+                     m_metrics.LineHeight());
     auto const right = window.right - marginX;
     auto const waveformTop = marginY + list.cy + spacingY;
-    auto const statusTop = waveformTop + waveformHeight + spacingY;
+    auto const panelTop = waveformTop + waveformHeight + spacingY;
+    auto const statusTop = panelTop + panelHeight + spacingY;
     ::AdjustWindowRectEx(&window, GetStyle(), TRUE, GetExStyle());
     SetWindowPos(nullptr, 0, 0, window.Width(), window.Height(), SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 
@@ -153,6 +159,8 @@ void CMainWindow::Arrange()
     m_resizer->PositionChild(&m_list, CRect(0, 0, 10000, c_listShare), &rect);
     rect = CRect(marginX, waveformTop, right, waveformTop + waveformHeight);
     m_resizer->PositionChild(&m_waveform, CRect(0, c_listShare, 10000, 10000), &rect);
+    rect = CRect(marginX, panelTop, right, panelTop + panelHeight);
+    m_resizer->PositionChild(&m_panel, CEdges::BOTTOM_LEFT_RIGHT(), &rect);
     rect = CRect(CPoint(marginX, statusTop), CSize(right - marginX, m_metrics.LineHeight()));
     m_resizer->PositionChild(&m_statusLine, CEdges::BOTTOM_LEFT_RIGHT(), &rect);
     m_resizer->OnSize();

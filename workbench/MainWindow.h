@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "DetailsDialog.h"
+#include "MeasurePanel.h"
 #include "RecordingList.h"
 #include "ScreenMetrics.h"
 #include "SettingsDialog.h"
@@ -36,6 +37,9 @@ public:
 
     /// Chooses a recording by its place in the list. Gives false for one that does not exist.
     bool ChooseRecording(int index);
+
+    /// Moves the cursor to a part of the chosen recording, in percent.
+    void MoveCursorToPart(int percent);
 
     /// The place of the first recording that cannot be shown, or is damaged; -1 if there is none.
     int FirstDamagedRecording() const;
@@ -100,6 +104,7 @@ private:
     CDetailsDialog::Actions DetailsActions();
     void RememberPlace();
     void ShowChosen();
+    void ShowReading();
     void ReadAgain(int index);
     void KeepNotes();
     std::wstring ComparisonText() const;
@@ -109,6 +114,7 @@ private:
     CFensterManager m_memory;
     CRecordingList m_list;
     CWaveformView m_waveform;
+    CMeasurePanel m_panel;
     CStatic m_statusLine;
     CWindowMenu m_windowMenu;
     CDetailsDialog m_details;

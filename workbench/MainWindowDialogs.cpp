@@ -12,7 +12,6 @@ using workbench::Text;
 void CMainWindow::PrepareDialogs()
 {
     m_windowMenu.SetMenu(Text(L"&Window"));
-    m_settings = workbench::ReadSettings();
     for (CWorkbenchDialog * const dialog :
          {static_cast<CWorkbenchDialog *>(&m_details), static_cast<CWorkbenchDialog *>(&m_settingsDialog)})
     {
@@ -28,7 +27,15 @@ void CMainWindow::PrepareDialogs()
             }
         };
     }
-    m_settingsDialog.m_onAccepted = [this](workbench::Settings const & settings) { TakeSettings(settings); };
+    m_settingsDialog.m_onAccepted = [this](workbench::Settings settings) {
+        settings.spectrogramScale = m_settings.spectrogramScale; // which the dialog doesn't have
+        TakeSettings(settings);
+    };
+    m_panel.m_onScale = [this](unsigned int scale) {
+        auto settings = m_settings;
+        settings.spectrogramScale = scale;
+        TakeSettings(settings);
+    };
     m_details.m_actions = [this] { return DetailsActions(); };
 }
 

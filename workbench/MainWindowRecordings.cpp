@@ -3,8 +3,10 @@
 #include "MainWindow.h"
 
 #include <algorithm>
+#include <limits>
 
 #include "frame/CoreLibrary.h"
+#include "logic/CursorReading.h"
 #include "logic/RecordingDetails.h"
 #include "logic/RecordingFiles.h"
 #include "logic/TextFormat.h"
@@ -55,6 +57,16 @@ bool CMainWindow::ChooseRecording(int index)
     }
     m_list.ChooseLine(index);
     return true;
+}
+
+void CMainWindow::MoveCursorToPart(int percent)
+{
+    auto const chosen = m_list.ChosenLine();
+    if (chosen >= 0 && chosen < RecordingCount() && m_analyses[static_cast<std::size_t>(chosen)])
+    {
+        m_waveform.MoveCursor(m_analyses[static_cast<std::size_t>(chosen)]->info.frames / 100 *
+                              static_cast<unsigned>(percent));
+    }
 }
 
 int CMainWindow::FirstDamagedRecording() const
@@ -121,6 +133,23 @@ void CMainWindow::ShowChosen()
             m_waveform.ShowText(std::move(name), Text(L"reading..."));
         }
     }
+}
+
+/// Shows the waveform's cursor on the displays.
+void CMainWindow::ShowReading()
+{
+    auto const chosen = m_list.ChosenLine();
+    auto const cursor = m_waveform.Cursor();
+    if (!cursor || chosen < 0 || chosen >= RecordingCount() || !m_analyses[static_cast<std::size_t>(chosen)])
+    {
+        m_panel.ShowReading(workbench::PositionReading(0, 0),
+                            workbench::LevelReading(-std::numeric_limits<double>::infinity()));
+        return;
+    }
+    auto const & analysis = *m_analyses[static_cast<std::size_t>(chosen)];
+    m_panel.ShowReading(
+        workbench::PositionReading(*cursor, analysis.info.sampleRate),
+        workbench::LevelReading(workbench::LevelAround(analysis.waveform, analysis.info.sampleRate, *cursor)));
 }
 
 /// What the chosen recording's levels are against the reference's; empty where there is nothing to compare.

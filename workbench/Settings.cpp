@@ -16,6 +16,7 @@ constexpr wchar_t c_section[] = L"Settings";
 constexpr wchar_t c_fadeIn[] = L"FadeIn";
 constexpr wchar_t c_dragByBackground[] = L"DragByBackground";
 constexpr wchar_t c_inactiveOpacity[] = L"InactiveOpacity";
+constexpr wchar_t c_spectrogramScale[] = L"SpectrogramScale";
 constexpr wchar_t c_startFolders[] = L"StartFolders";
 constexpr wchar_t c_language[] = L"Language";
 constexpr wchar_t c_separator = L'|'; // no name of a folder has it
@@ -53,6 +54,8 @@ Settings ReadSettings()
     {
         settings.inactiveOpacity = opacity;
     }
+    settings.spectrogramScale =
+        app.GetProfileInt(c_section, c_spectrogramScale, static_cast<int>(settings.spectrogramScale));
     settings.startFolders = Split(app.GetProfileString(c_section, c_startFolders).GetString());
     return settings;
 }
@@ -68,6 +71,7 @@ bool StoreSettings(Settings const & settings)
     return app.WriteProfileInt(c_section, c_fadeIn, settings.fadeIn) &&
            app.WriteProfileInt(c_section, c_dragByBackground, settings.dragByBackground) &&
            app.WriteProfileInt(c_section, c_inactiveOpacity, settings.inactiveOpacity) &&
+           app.WriteProfileInt(c_section, c_spectrogramScale, static_cast<int>(settings.spectrogramScale)) &&
            app.WriteProfileString(c_section, c_startFolders, folders.c_str());
 }
 

@@ -16,6 +16,7 @@ struct Settings
     bool fadeIn = true;                              ///< dialogs fade in when they open
     bool dragByBackground = true;                    ///< dialogs can be moved by their background
     int inactiveOpacity = 50;                        ///< of dialogs that are not active, in percent
+    unsigned int spectrogramScale = 1;               ///< the number of a colour scale
     std::vector<std::filesystem::path> startFolders; ///< opened when the program starts without others
 
     /// The alpha of a dialog that is not active: 0 to 255.

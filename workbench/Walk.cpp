@@ -14,6 +14,7 @@ constexpr ULONGLONG c_stepLimit = 10'000; // milliseconds that the script has fo
 constexpr ULONGLONG c_readLimit = 60'000; // milliseconds that reading the recordings may take
 constexpr DWORD c_pollInterval = 20;      // milliseconds
 constexpr int c_mostChecked = 3;
+constexpr int c_cursorPercent = 25;
 constexpr ULONGLONG c_settleTime = 300; // milliseconds for painting to reach the screen
 
 /// Handles messages until the condition holds. False after the time limit, or when the program is told to quit.
@@ -296,9 +297,13 @@ bool CWalk::Run()
     {
         return false;
     }
-    if (m_window.ChooseRecording(m_window.RecordingCount() / 2) && !Step("workbench-chosen"))
+    if (m_window.ChooseRecording(m_window.RecordingCount() / 2))
     {
-        return false;
+        m_window.MoveCursorToPart(c_cursorPercent);
+        if (!Step("workbench-chosen"))
+        {
+            return false;
+        }
     }
     if (m_window.ChooseRecording(m_window.FirstDamagedRecording()) && !Step("workbench-damaged"))
     {

@@ -4,7 +4,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 
+#include "colours/Farbtabellen.h"
 #include "logic/Axis.h"
 #include "logic/TextFormat.h"
 #include "logic/Texts.h"
@@ -18,8 +20,11 @@ constexpr COLORREF c_plotColour = RGB(249, 250, 252);
 constexpr COLORREF c_frameColour = RGB(190, 198, 207);
 constexpr COLORREF c_gridColour = RGB(226, 230, 236);
 constexpr COLORREF c_centreColour = RGB(150, 160, 172);
-constexpr COLORREF c_waveColour = RGB(33, 102, 172);
-constexpr COLORREF c_clippedColour = RGB(200, 48, 40);
+// Scope colours by their index. Lanes beyond the last colour begin again with the first.
+constexpr int c_laneColours[] = {29, 28, 23, 5, 15, 14};
+constexpr int c_clippedColour = 2;
+constexpr int c_cursorColour = 17;
+
 constexpr COLORREF c_labelColour = RGB(88, 98, 110);
 constexpr COLORREF c_problemColour = RGB(168, 40, 32);
 
@@ -44,13 +49,21 @@ BEGIN_MESSAGE_MAP(CWaveformView, CWnd)
     ON_WM_PAINT()
     ON_WM_ERASEBKGND()
     ON_MESSAGE(WM_PRINTCLIENT, &CWaveformView::OnPrintClient)
+    ON_WM_LBUTTONDOWN()
+    ON_WM_MOUSEMOVE()
+    ON_WM_LBUTTONUP()
+    ON_WM_KEYDOWN()
+    ON_WM_GETDLGCODE()
+    ON_WM_SETFOCUS()
+    ON_WM_KILLFOCUS()
 END_MESSAGE_MAP()
 
 bool CWaveformView::CreateView(CWnd & parent, UINT id, workbench::ScreenMetrics & metrics)
 {
     m_metrics = &metrics;
     auto const windowClass = AfxRegisterWndClass(CS_HREDRAW | CS_VREDRAW, ::LoadCursorW(nullptr, IDC_ARROW));
-    return Create(windowClass, L"Waveform", WS_CHILD | WS_VISIBLE | WS_BORDER, CRect(), &parent, id) != FALSE;
+    return Create(windowClass, L"Waveform", WS_CHILD | WS_VISIBLE | WS_BORDER | WS_TABSTOP, CRect(), &parent, id) !=
+           FALSE;
 }
 
 void CWaveformView::ShowRecording(std::wstring name, std::shared_ptr<workbench::RecordingAnalysis const> analysis)
@@ -59,7 +72,12 @@ void CWaveformView::ShowRecording(std::wstring name, std::shared_ptr<workbench::
     m_text = analysis->problem ? Text(L"Cannot be shown") + (L": " + analysis->StatusText() + L'.') : std::wstring();
     m_analysis = std::move(analysis);
     m_columns.clear();
+    m_cursor = 0;
     Invalidate(FALSE);
+    if (m_onCursor)
+    {
+        m_onCursor();
+    }
 }
 
 void CWaveformView::ShowText(std::wstring title, std::wstring text)
@@ -68,7 +86,12 @@ void CWaveformView::ShowText(std::wstring title, std::wstring text)
     m_text = std::move(text);
     m_analysis.reset();
     m_columns.clear();
+    m_cursor = 0;
     Invalidate(FALSE);
+    if (m_onCursor)
+    {
+        m_onCursor();
+    }
 }
 
 BOOL CWaveformView::OnEraseBkgnd(CDC *)
@@ -122,6 +145,7 @@ void CWaveformView::Draw(CDC & dc, CRect const & client)
     {
         return;
     }
+    m_plot = m_printing ? m_plot : plot;
     DrawTimeAxis(dc, plot);
     for (int i = 0; i < lanes; ++i)
     {
@@ -132,6 +156,141 @@ void CWaveformView::Draw(CDC & dc, CRect const & client)
         lane.halfHeight = std::max((lane.rect.Height() - 1) / 2 - m_metrics->Y(2), 1);
         DrawLane(dc, lane, static_cast<std::size_t>(i));
     }
+    if (!m_printing)
+    {
+        DrawCursor(dc, plot);
+    }
+}
+
+void CWaveformView::Print(CDC & dc, CRect const & rect)
+{
+    m_printing = true;
+    auto columns = std::move(m_columns);
+    m_columns.clear();
+    Draw(dc, rect);
+    m_columns = std::move(columns);
+    m_printing = false;
+}
+
+/// A scope colour, or what stands for it on paper.
+COLORREF CWaveformView::Colour(int scopeIndex) const
+{
+    return m_printing ? Farbtabellen::DruckFarbe(scopeIndex) : Farbtabellen::ScopeFarbe(scopeIndex);
+}
+
+void CWaveformView::DrawCursor(CDC & dc, CRect const & plot)
+{
+    auto const width = plot.Width() - 2;
+    auto const x =
+        plot.left + 1 +
+        static_cast<int>(static_cast<double>(m_cursor) / static_cast<double>(m_analysis->info.frames) * width);
+    dc.FillSolidRect(x, plot.top, GetFocus() == this ? 2 : 1, plot.Height(), Colour(c_cursorColour));
+}
+
+std::optional<std::uint64_t> CWaveformView::Cursor() const
+{
+    return ShowsRecording() ? std::optional(m_cursor) : std::nullopt;
+}
+
+void CWaveformView::MoveCursor(std::uint64_t frame)
+{
+    if (!ShowsRecording())
+    {
+        return;
+    }
+    auto const cursor = std::min(frame, m_analysis->info.frames - 1);
+    if (cursor != m_cursor)
+    {
+        m_cursor = cursor;
+        Invalidate(FALSE);
+        if (m_onCursor)
+        {
+            m_onCursor();
+        }
+    }
+}
+
+/// Moves the cursor to what lies at a place of the client area.
+void CWaveformView::MoveCursorTo(int x)
+{
+    auto const width = m_plot.Width() - 2;
+    if (ShowsRecording() && width > 0)
+    {
+        auto const part = std::clamp(static_cast<double>(x - m_plot.left - 1) / width, 0.0, 1.0);
+        MoveCursor(static_cast<std::uint64_t>(part * static_cast<double>(m_analysis->info.frames)));
+    }
+}
+
+void CWaveformView::OnLButtonDown(UINT flags, CPoint point)
+{
+    CWnd::OnLButtonDown(flags, point);
+    SetFocus();
+    SetCapture();
+    MoveCursorTo(point.x);
+}
+
+void CWaveformView::OnMouseMove(UINT flags, CPoint point)
+{
+    CWnd::OnMouseMove(flags, point);
+    if (GetCapture() == this)
+    {
+        MoveCursorTo(point.x);
+    }
+}
+
+void CWaveformView::OnLButtonUp(UINT flags, CPoint point)
+{
+    CWnd::OnLButtonUp(flags, point);
+    if (GetCapture() == this)
+    {
+        ::ReleaseCapture();
+    }
+}
+
+UINT CWaveformView::OnGetDlgCode()
+{
+    return DLGC_WANTARROWS;
+}
+
+void CWaveformView::OnKeyDown(UINT key, UINT repeat, UINT flags)
+{
+    if (ShowsRecording() && m_plot.Width() > 2)
+    {
+        // A key moves by what one pixel shows, at least by one frame.
+        auto const last = m_analysis->info.frames - 1;
+        auto const step =
+            std::max<std::uint64_t>(m_analysis->info.frames / static_cast<unsigned>(m_plot.Width() - 2), 1);
+        switch (key)
+        {
+        case VK_LEFT:
+            MoveCursor(m_cursor - std::min(m_cursor, step));
+            return;
+        case VK_RIGHT:
+            MoveCursor(m_cursor + std::min(last - m_cursor, step));
+            return;
+        case VK_HOME:
+            MoveCursor(0);
+            return;
+        case VK_END:
+            MoveCursor(last);
+            return;
+        default:
+            break;
+        }
+    }
+    CWnd::OnKeyDown(key, repeat, flags);
+}
+
+void CWaveformView::OnSetFocus(CWnd * other)
+{
+    CWnd::OnSetFocus(other);
+    Invalidate(FALSE);
+}
+
+void CWaveformView::OnKillFocus(CWnd * other)
+{
+    CWnd::OnKillFocus(other);
+    Invalidate(FALSE);
 }
 
 void CWaveformView::DrawMessage(CDC & dc, CRect const & client)
@@ -231,6 +390,8 @@ void CWaveformView::DrawLane(CDC & dc, Lane const & lane, std::size_t index)
         auto const limited = std::clamp(amplitude, -1.0F, 1.0F);
         return lane.centre - static_cast<int>(std::lround(limited * static_cast<float>(lane.halfHeight)));
     };
+    auto const waveColour = Colour(c_laneColours[index % std::size(c_laneColours)]);
+    auto const clippedColour = Colour(c_clippedColour);
     auto const & columns = Columns(index, inside.Width());
     auto previousTop = y(columns.front().greatest);
     auto previousBottom = y(columns.front().least);
@@ -242,7 +403,7 @@ void CWaveformView::DrawLane(CDC & dc, Lane const & lane, std::size_t index)
         auto const from = std::min(top, previousBottom);
         auto const to = std::max(bottom, previousTop);
         auto const clipped = column.greatest > 1.0F || column.least < -1.0F;
-        dc.FillSolidRect(inside.left + i, from, 1, to - from + 1, clipped ? c_clippedColour : c_waveColour);
+        dc.FillSolidRect(inside.left + i, from, 1, to - from + 1, clipped ? clippedColour : waveColour);
         previousTop = top;
         previousBottom = bottom;
     }

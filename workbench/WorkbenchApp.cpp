@@ -62,6 +62,7 @@ BOOL CWorkbenchApp::InitInstance()
     m_preferences = std::make_unique<RegistryPreferenceStore>(CString(c_company), CString(c_application));
     CVeskBase::SetPreferenceVesk(m_preferences.get());
 
+    m_graphics = std::make_unique<workbench::GraphicsScope>();
     workbench::UseLanguage(workbench::ReadLanguage());
     std::vector<std::filesystem::path> targets(m_commandLine.targets.begin(), m_commandLine.targets.end());
     if (targets.empty())
@@ -103,6 +104,7 @@ int CWorkbenchApp::ExitInstance()
 {
     m_mainWindow.reset();
     m_pMainWnd = nullptr;
+    m_graphics.reset();
     CVeskBase::SetPreferenceVesk(nullptr);
     auto const result = CWinApp::ExitInstance();
     return m_exitCode != 0 ? m_exitCode : result;

@@ -113,6 +113,10 @@ constexpr Entry c_entries[] = {
     {L"&Next recording\tCtrl+Page Down", L"&Nächste Aufnahme\tStrg+Bild ab"},
     {L"Show in the &list", L"In der &Liste zeigen"},
     {L"Set as &reference", L"Als &Bezug setzen"},
+    // The displays.
+    {L"Position", L"Position"},
+    {L"Level (dBFS)", L"Pegel (dBFS)"},
+    {L"S&pectrogram colours:", L"S&pektrogrammfarben:"},
     // Settings.
     {L"Settings", L"Einstellungen"},
     {L"The opacity must be between 20 and 100 percent.", L"Die Deckkraft muss zwischen 20 und 100 Prozent liegen."},
