@@ -7,6 +7,8 @@
 #include "frame/CoreLibrary.h"
 #include "frame/PreferenceStore.h"
 
+#include "clipboard/Clipboard.h"
+
 #include "layout/Edges.h"
 #include "layout/DialogResizer.h"
 
