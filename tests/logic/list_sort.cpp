@@ -66,7 +66,7 @@ int NoTexts()
 /// The results in both directions, without any text.
 std::pair<int, int> Both(XLISTCTRLDATA const & a, XLISTCTRLDATA const & b)
 {
-    return {CompareCells(&a, &b, true, &NoTexts), CompareCells(&a, &b, false, &NoTexts)};
+    return {CompareRows(ListSortKey(&a), ListSortKey(&b), true, &NoTexts), CompareRows(ListSortKey(&a), ListSortKey(&b), false, &NoTexts)};
 }
 
 using Directions = std::pair<int, int>;
@@ -74,9 +74,9 @@ using Directions = std::pair<int, int>;
 TEST(ListSortCells, AMissingCellEqualsEveryOther)
 {
     XLISTCTRLDATA const last = IntCell(1, XLP_ENABLED | XLP_SORT_LAST);
-    EXPECT_EQ(CompareCells(nullptr, &last, true, &NoTexts), 0);
-    EXPECT_EQ(CompareCells(&last, nullptr, true, &NoTexts), 0);
-    EXPECT_EQ(CompareCells(nullptr, nullptr, false, &NoTexts), 0);
+    EXPECT_EQ(CompareRows(ListSortKey(nullptr), ListSortKey(&last), true, &NoTexts), 0);
+    EXPECT_EQ(CompareRows(ListSortKey(&last), ListSortKey(nullptr), true, &NoTexts), 0);
+    EXPECT_EQ(CompareRows(ListSortKey(nullptr), ListSortKey(nullptr), false, &NoTexts), 0);
 }
 
 TEST(ListSortCells, RowsThatSortLastStayBehindInBothDirections)
@@ -167,7 +167,7 @@ TEST(ListSortCells, TheFirstCellsKindDecidesHowBothAreRead)
     // The other way round the texts decide.
     XLISTCTRLDATA const number = IntCell(5);
     XLISTCTRLDATA const cell = TextCell();
-    EXPECT_EQ(CompareCells(&cell, &number, true, [] { return -1; }), -1);
+    EXPECT_EQ(CompareRows(ListSortKey(&cell), ListSortKey(&number), true, [] { return -1; }), -1);
 }
 
 TEST(ListSortCells, TextsGiveOneOrTheOtherDirection)
@@ -176,13 +176,13 @@ TEST(ListSortCells, TextsGiveOneOrTheOtherDirection)
     XLISTCTRLDATA const b = TextCell();
     for (int const lower : {-1, -7})
     {
-        EXPECT_EQ(CompareCells(&a, &b, true, [lower] { return lower; }), -1);
-        EXPECT_EQ(CompareCells(&a, &b, false, [lower] { return lower; }), 1);
-        EXPECT_EQ(CompareCells(&a, &b, true, [lower] { return -lower; }), 1);
-        EXPECT_EQ(CompareCells(&a, &b, false, [lower] { return -lower; }), -1);
+        EXPECT_EQ(CompareRows(ListSortKey(&a), ListSortKey(&b), true, [lower] { return lower; }), -1);
+        EXPECT_EQ(CompareRows(ListSortKey(&a), ListSortKey(&b), false, [lower] { return lower; }), 1);
+        EXPECT_EQ(CompareRows(ListSortKey(&a), ListSortKey(&b), true, [lower] { return -lower; }), 1);
+        EXPECT_EQ(CompareRows(ListSortKey(&a), ListSortKey(&b), false, [lower] { return -lower; }), -1);
     }
-    EXPECT_EQ(CompareCells(&a, &b, true, [] { return 0; }), 0);
-    EXPECT_EQ(CompareCells(&a, &b, false, [] { return 0; }), 0);
+    EXPECT_EQ(CompareRows(ListSortKey(&a), ListSortKey(&b), true, [] { return 0; }), 0);
+    EXPECT_EQ(CompareRows(ListSortKey(&a), ListSortKey(&b), false, [] { return 0; }), 0);
 }
 
 /// The rules once more, one after the other, with nothing of the code under test.
@@ -245,7 +245,7 @@ TEST(ListSortCells, FollowTheRulesForRandomCells)
         XLISTCTRLDATA const b = cell();
         int const texts = below(5) - 2;
         bool const ascending = below(2) == 0;
-        ASSERT_EQ(CompareCells(&a, &b, ascending, [texts] { return texts; }),
+        ASSERT_EQ(CompareRows(ListSortKey(&a), ListSortKey(&b), ascending, [texts] { return texts; }),
                   ExpectedComparison(a, b, ascending ? 1 : -1, texts))
             << "case " << i;
     }

@@ -418,9 +418,10 @@ private:
     /// The row objects from the top; null for rows without.
     std::vector<XLISTCTRLROW *> AllRows() const;
     /// The order of the rows by the cells of the sorted column, as their present indices.
-    std::vector<int> DefaultOrder() const;
-    /// Has the native list put its rows in that order.
-    void ApplyOrder(std::vector<int> const & order);
+    std::vector<int> DefaultOrder(std::vector<XLISTCTRLROW *> const & rows) const;
+    /// Has the native list put its rows, which are those given, in that order. Rows without an object get one for the
+    /// time of the sort, in rows, too.
+    void ApplyOrder(std::vector<int> const & order, std::vector<XLISTCTRLROW *> & rows);
     /// Gives the native item that parameter word.
     bool SetNativeParam(int row, XLISTCTRLROW const * object);
     std::wstring HeaderTitle(int col) const;

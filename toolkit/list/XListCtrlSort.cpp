@@ -83,12 +83,17 @@ void CXListCtrl::SortByColumn(int col, bool ascending, bool setMark,
     HWND const self = m_hWnd;
     if (compare == nullptr)
     {
-        ApplyOrder(DefaultOrder());
+        std::vector<XLISTCTRLROW *> rows = AllRows();
+        std::vector<int> const order = DefaultOrder(rows);
+        ApplyOrder(order, rows);
     }
     else
     {
         auto const list = static_cast<long long>(reinterpret_cast<LONG_PTR>(this));
-        ApplyOrder(SortedOrder(RowCount(), [compare, list](int a, int b) { return compare(a, b, list); }));
+        std::vector<int> const order =
+            SortedOrder(RowCount(), [compare, list](int a, int b) { return compare(a, b, list); });
+        std::vector<XLISTCTRLROW *> rows = AllRows();
+        ApplyOrder(order, rows);
     }
     if (!setMark || !::IsWindow(self))
         return;
@@ -105,25 +110,24 @@ std::vector<XLISTCTRLROW *> CXListCtrl::AllRows() const
     return rows;
 }
 
-std::vector<int> CXListCtrl::DefaultOrder() const
+std::vector<int> CXListCtrl::DefaultOrder(std::vector<XLISTCTRLROW *> const & rows) const
 {
-    std::vector<XLISTCTRLROW *> const rows = AllRows();
-    std::vector<XLISTCTRLDATA const *> cells(rows.size(), nullptr);
-    for (std::size_t i = 0; i < rows.size(); ++i)
-        if (rows[i] != nullptr && static_cast<unsigned int>(m_sortColumn) < rows[i]->capacity())
-            cells[i] = rows[i]->cells() + m_sortColumn;
+    auto const col = static_cast<unsigned int>(m_sortColumn);
+    std::vector<ListSortKey> keys;
+    keys.reserve(rows.size());
+    for (XLISTCTRLROW const * const row : rows)
+        keys.emplace_back(row != nullptr && col < row->capacity() ? row->cells() + col : nullptr);
     ColumnTexts texts(*this, m_sortColumn, rows.size());
-    return SortedOrder(static_cast<int>(rows.size()), [&](int a, int b) {
-        return CompareCells(cells[static_cast<std::size_t>(a)], cells[static_cast<std::size_t>(b)], m_sortAscending,
-                            [&] { return texts.Compare(a, b); });
+    return SortedOrder(static_cast<int>(rows.size()), [&, ascending = m_sortAscending](int a, int b) {
+        return CompareRows(keys[static_cast<std::size_t>(a)], keys[static_cast<std::size_t>(b)], ascending,
+                           [&texts, a, b] { return texts.Compare(a, b); });
     });
 }
 
-void CXListCtrl::ApplyOrder(std::vector<int> const & order)
+void CXListCtrl::ApplyOrder(std::vector<int> const & order, std::vector<XLISTCTRLROW *> & rows)
 {
-    std::vector<XLISTCTRLROW *> rows = AllRows();
-    // A comparison may have changed the list, against its rules.
-    if (rows.size() != order.size() || rows.empty())
+    // What was asked of the host for the order may have changed the list, against the rules.
+    if (rows.size() != order.size() || rows.size() != static_cast<std::size_t>(RowCount()) || rows.empty())
         return;
     // Only through its row object can a native item be told its place; those without get one for this time.
     auto const strays = static_cast<std::size_t>(std::count(rows.begin(), rows.end(), nullptr));

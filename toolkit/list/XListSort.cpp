@@ -10,9 +10,23 @@ template <class Value> int Compare(Value const & a, Value const & b)
 }
 } // namespace
 
-int CompareValues(XLISTCTRLDATA const & a, XLISTCTRLDATA const & b)
+ListSortKey::ListSortKey(XLISTCTRLDATA const * cell) : hasCell(cell != nullptr)
 {
-    if ((a.properties & XLP_PROGRESS) != 0)
+    if (cell == nullptr)
+        return;
+    sortsFirst = (cell->properties & XLP_SORT_FIRST) != 0;
+    sortsLast = (cell->properties & XLP_SORT_LAST) != 0;
+    isProgress = (cell->properties & XLP_PROGRESS) != 0;
+    valueType = cell->valueType;
+    progressValue = cell->progressValue;
+    intValue = cell->intValue;
+    floatValue = cell->floatValue;
+    timeValue = cell->timeValue.GetTime();
+}
+
+int CompareValues(ListSortKey const & a, ListSortKey const & b)
+{
+    if (a.isProgress)
         return Compare(a.progressValue, b.progressValue);
     switch (a.valueType)
     {
@@ -21,7 +35,7 @@ int CompareValues(XLISTCTRLDATA const & a, XLISTCTRLDATA const & b)
     case XLV_FLOAT:
         return Compare(a.floatValue, b.floatValue);
     case XLV_DATETIME:
-        return Compare(a.timeValue.GetTime(), b.timeValue.GetTime());
+        return Compare(a.timeValue, b.timeValue);
     default:
         return 0;
     }

@@ -9,46 +9,49 @@
 
 #include "list/XListCtrlData.h"
 
+/// What a row is sorted by: what its cell in the sorted column holds, apart from the text shown. Small, so that many
+/// comparisons stay within little memory.
+struct ListSortKey
+{
+    /// Null for a row without that cell.
+    explicit ListSortKey(XLISTCTRLDATA const * cell);
+
+    bool hasCell;
+    bool sortsFirst = false;
+    bool sortsLast = false;
+    bool isProgress = false;
+    unsigned int valueType = XLV_TEXT;
+    int progressValue = 0;
+    int intValue = 0;
+    float floatValue = 0;
+    long long timeValue = 0;
+};
+
 /// Compares the values of two cells by the field that the first one's kind names; -1, 0 or 1. 0 where that kind has no
 /// value, and with a NaN on either side.
-int CompareValues(XLISTCTRLDATA const & a, XLISTCTRLDATA const & b);
+int CompareValues(ListSortKey const & a, ListSortKey const & b);
 
-/// Whether a cell is ordered by its value and not by its text.
-inline bool SortsByValue(XLISTCTRLDATA const & cell)
-{
-    return (cell.properties & XLP_PROGRESS) != 0 || cell.valueType != XLV_TEXT;
-}
-
-/// The order of two rows by their cells in the sorted column: negative if the first row goes ahead. A null cell equals
-/// everything. Rows that sort first or last do so in both directions. The first cell's kind decides alone how both are
-/// read. compareTexts(), asked only where texts decide, compares the texts shown: negative, 0 or positive.
+/// The order of two rows: negative if the first one goes ahead. A row without the cell equals every other one. Rows that
+/// sort first or last do so in both directions. The first cell's kind decides alone how both are read.
+/// compareTexts(), asked only where texts decide, compares the texts shown: negative, 0 or positive.
 template <class CompareTexts>
-int CompareCells(XLISTCTRLDATA const * a, XLISTCTRLDATA const * b, bool ascending, CompareTexts && compareTexts)
+int CompareRows(ListSortKey const & a, ListSortKey const & b, bool ascending, CompareTexts && compareTexts)
 {
-    if (a == nullptr || b == nullptr)
+    if (!a.hasCell || !b.hasCell)
         return 0;
-    unsigned int const either = a->properties | b->properties;
-    if ((either & XLP_SORT_LAST) != 0)
-    {
-        if ((a->properties & XLP_SORT_LAST) == 0)
-            return -1;
-        return (b->properties & XLP_SORT_LAST) != 0 ? 0 : 1;
-    }
-    if ((either & XLP_SORT_FIRST) != 0)
-    {
-        if ((a->properties & XLP_SORT_FIRST) == 0)
-            return 1;
-        return (b->properties & XLP_SORT_FIRST) != 0 ? 0 : -1;
-    }
-    int const order = SortsByValue(*a) ? CompareValues(*a, *b) : compareTexts();
+    if (a.sortsLast || b.sortsLast)
+        return static_cast<int>(a.sortsLast) - static_cast<int>(b.sortsLast);
+    if (a.sortsFirst || b.sortsFirst)
+        return static_cast<int>(b.sortsFirst) - static_cast<int>(a.sortsFirst);
+    int const order = a.isProgress || a.valueType != XLV_TEXT ? CompareValues(a, b) : compareTexts();
     if (order == 0)
         return 0;
     return (order < 0) == ascending ? -1 : 1;
 }
 
-/// The numbers from 0 up to count, each once, so that compare(first, second) is not positive for any two neighbours that
-/// a merge put beside each other. Numbers that compare equal keep their order. A compare that contradicts itself gives
-/// some order, in the same time.
+/// The indices of so many rows in the order that compare(index, index) gives: a negative result puts the first row ahead.
+/// Rows that compare equal keep their order. A compare that contradicts itself gives some order, in the same time; each
+/// index is there once in any case.
 template <class Compare> std::vector<int> SortedOrder(int count, Compare && compare)
 {
     std::size_t const size = count > 0 ? static_cast<std::size_t>(count) : 0;
