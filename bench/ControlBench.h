@@ -14,6 +14,8 @@ bool RefillingAList();
 bool MemoryOfARow();
 bool PaintingAPageOfText();
 bool PaintingPagesOfOtherKinds();
+bool SortingAList();
+bool ExportingAList();
 
 template <class Work> double Nanoseconds(Work && work)
 {

@@ -54,6 +54,8 @@ LRESULT ListParent::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
     if (IsListMessage(message))
         posted.push_back(Unpacked(message, wParam, lParam));
+    if (message == WM_NOTIFY && onNotify)
+        onNotify(*reinterpret_cast<NMHDR const *>(lParam));
     return ScopedWindow::WindowProc(message, wParam, lParam);
 }
 

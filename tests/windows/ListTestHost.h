@@ -18,6 +18,7 @@
 #include "frame/RegisteredMessages.h"
 #include "list/XListCtrl.h"
 
+#include <functional>
 #include <iosfwd>
 #include <vector>
 
@@ -45,6 +46,8 @@ public:
     using ScopedWindow::ScopedWindow;
 
     PostedRows posted;
+    /// Called with each notification that arrives.
+    std::function<void(NMHDR const &)> onNotify;
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;

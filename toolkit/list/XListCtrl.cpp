@@ -99,14 +99,10 @@ void CXListCtrl::SubclassHeaderControl()
 
 void CXListCtrl::OnDestroy()
 {
+    EndDragImage();
     m_rowPool.GiveBackAll();
     m_headerSubclassed = false;
     CListCtrl::OnDestroy();
-}
-
-BOOL CXListCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT * result)
-{
-    return CListCtrl::OnChildNotify(message, wParam, lParam, result);
 }
 
 // Look

@@ -5,6 +5,7 @@
 #include <functional>
 #include <map>
 #include <span>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -43,7 +44,7 @@ public:
     std::function<void(int, int)> m_onStateChange;
     /// A double click on a cell: row, column.
     std::function<void(int, int)> m_onDoubleClick;
-    /// A drop swapped two rows.
+    /// A drop swapped two rows: the upper one, the lower one.
     std::function<void(int, int)> m_onRowsSwapped;
     /// Its presence enables the context menu: command, row, column.
     std::function<void(int, int, int)> m_onContextCommand;
@@ -264,6 +265,23 @@ public:
     /// Takes check boxes away as well as sort arrows.
     void SetHeaderRemoveAllMarks();
 
+    // --- Order, dragging and export ---
+
+    /// Sorts the rows by a column. compare gets two row indices of the unsorted list and the CXListCtrl as an integer; a
+    /// negative result puts the first row ahead. It must not change the list. Null compares cells by their values or
+    /// texts. setMark: the column's header shows an arrow, and every other mark goes, check boxes too; with a negative
+    /// column that is all that happens. Any other column that does not exist changes nothing.
+    void SortByColumn(int col, bool ascending, bool setMark, int (*compare)(long long, long long, long long));
+    /// From now on the user can drag a row onto another one, which swaps the two. There is no way back. It is meant that
+    /// the list goes on marking rows below the pointer after the first drop, and that a later release of the button over
+    /// another row swaps the row last dragged with it.
+    void EnableDragAndDrop();
+    /// Puts a block of cells on the clipboard as text: tabs between columns, CR LF behind each line. Cells with a number
+    /// or date give that, in the system's form; all others the text shown, at most 199 characters of it. A negative last
+    /// row or column, or one past the end, means the last one; one ahead of the first is the first. Rows without cells
+    /// are left out. False for a first row or column past the end, or if the clipboard refuses.
+    bool ExportToClipboard(bool withHeader, int firstRow, int lastRow, int firstCol, int lastCol);
+
     // --- Mouse, menu and tooltips ---
 
     /// Calls m_onStateChange and posts the message (row, column) to the parent, else to the owner.
@@ -369,6 +387,45 @@ private:
     CRect PaintedRect(int row, int col);
     bool IsSelected(int row);
     bool HasFocus();
+
+    /// One column of a row that is being carried to another place: a native item with the buffer for its text.
+    struct dd_list_Item
+    {
+        static constexpr int text_size = 256;
+        dd_list_Item();
+        dd_list_Item(dd_list_Item const &) = delete;
+        dd_list_Item & operator=(dd_list_Item const &) = delete;
+
+        LVITEMW item;
+        wchar_t text[text_size];
+    };
+    /// The row dragged and the row below the pointer.
+    std::pair<int, int> indices() const { return {m_dragSource, m_dropTarget}; }
+    void begin_drag(NMHDR * header, LRESULT * result);
+    /// Swaps the two rows.
+    void drop_on_list();
+    /// As many columns as there are places.
+    void save_row(std::vector<dd_list_Item> & saved, int row);
+    void restore_row(std::vector<dd_list_Item> & saved, int row);
+    /// Makes the picture that follows the pointer from an area of the client context.
+    void MakeDragImage(CDC & client, CRect const & cell);
+    /// Takes the picture off the screen; changes nothing without one.
+    void EndDragImage();
+    void SetDropMark(int row, bool on);
+    /// Moves picture, mark and cursor to the pointer; false if the list ended meanwhile.
+    bool FollowDrag(CPoint point);
+
+    /// The row objects from the top; null for rows without.
+    std::vector<XLISTCTRLROW *> AllRows() const;
+    /// The order of the rows by the cells of the sorted column, as their present indices.
+    std::vector<int> DefaultOrder(std::vector<XLISTCTRLROW *> const & rows) const;
+    /// Has the native list put its rows, which are those given, in that order. Rows without an object get one for the
+    /// time of the sort, in rows, too.
+    void ApplyOrder(std::vector<int> const & order, std::vector<XLISTCTRLROW *> & rows);
+    /// Gives the native item that parameter word.
+    bool SetNativeParam(int row, XLISTCTRLROW const * object);
+    std::wstring HeaderTitle(int col) const;
+    std::wstring ShownText(int row, int col) const;
 
     CXHeaderCtrl m_header;
     int m_columnCount = 0;

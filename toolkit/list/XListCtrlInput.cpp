@@ -162,16 +162,6 @@ void CXListCtrl::OnLButtonDown(UINT, CPoint point)
         Default();
 }
 
-void CXListCtrl::OnLButtonUp(UINT flags, CPoint point)
-{
-    CListCtrl::OnLButtonUp(flags, point);
-}
-
-void CXListCtrl::OnMouseMove(UINT flags, CPoint point)
-{
-    CListCtrl::OnMouseMove(flags, point);
-}
-
 void CXListCtrl::OnLButtonDblClk(UINT flags, CPoint point)
 {
     if (GetDisplayStyle() == LVS_REPORT)

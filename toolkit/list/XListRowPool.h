@@ -16,10 +16,14 @@ public:
     unsigned int capacity() const { return m_capacity; }
     /// Makes room for that many columns and gives all records up to the capacity their values of a recycled cell.
     void Prepare(unsigned int columns);
+    /// The place in the list that a sort under way has found for the row; without a meaning at other times.
+    int sortPlace() const { return m_sortPlace; }
+    void SetSortPlace(int place) { m_sortPlace = place; }
 
 private:
     std::unique_ptr<XLISTCTRLDATA[]> m_cells;
     unsigned int m_capacity = 0;
+    int m_sortPlace = 0;
 };
 
 /// Owns every row that a list ever had, until the list ends. Rows in use stand first, in no particular order; behind

@@ -1,0 +1,237 @@
+// CXListCtrl: dragging a row onto another one, which swaps the two.
+
+#include "list/XListCtrl.h"
+
+#include <algorithm>
+#include <string_view>
+#include <utility>
+
+namespace
+{
+// The cursors of a drag, by the numbers of the system's resources.
+constexpr long long arrow_cursor = 32512;
+constexpr long long refusing_cursor = 32648;
+
+constexpr UINT first_cell_mask =
+    LVIF_TEXT | LVIF_IMAGE | LVIF_PARAM | LVIF_STATE | LVIF_INDENT | LVIF_NORECOMPUTE;
+constexpr UINT other_cell_mask = LVIF_TEXT | LVIF_IMAGE;
+
+constexpr COLORREF drag_mask_colour = RGB(0, 0, 0);
+
+/// The context of a window's client area; null if there is none.
+class ClientContext
+{
+public:
+    explicit ClientContext(CWnd & window) : m_window(window), m_dc(window.GetDC()) {}
+    ClientContext(ClientContext const &) = delete;
+    ClientContext & operator=(ClientContext const &) = delete;
+    ~ClientContext()
+    {
+        if (m_dc != nullptr)
+            m_window.ReleaseDC(m_dc);
+    }
+    CDC * Get() const { return m_dc; }
+
+private:
+    CWnd & m_window;
+    CDC * m_dc;
+};
+
+/// Copies an area of the context into the bitmap.
+bool CopyArea(CDC & source, CRect const & area, CBitmap & bitmap)
+{
+    CDC memory;
+    if (!memory.CreateCompatibleDC(&source) || !bitmap.CreateCompatibleBitmap(&source, area.Width(), area.Height()))
+        return false;
+    CBitmap * const former = memory.SelectObject(&bitmap);
+    memory.BitBlt(0, 0, area.Width(), area.Height(), &source, area.left, area.top, SRCCOPY);
+    memory.SelectObject(former);
+    return true;
+}
+} // namespace
+
+CXListCtrl::dd_list_Item::dd_list_Item() : item{}, text{}
+{
+    item.pszText = text;
+    item.cchTextMax = text_size - 1;
+}
+
+void CXListCtrl::EnableDragAndDrop()
+{
+    m_dragEnabled = true;
+}
+
+BOOL CXListCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT * result)
+{
+    auto * const header = reinterpret_cast<NMHDR *>(lParam);
+    bool const begins = m_dragEnabled && message == WM_NOTIFY && header->code == LVN_BEGINDRAG;
+    LRESULT unused = 0;
+    if (begins)
+        begin_drag(header, result != nullptr ? result : &unused);
+    BOOL const handled = CListCtrl::OnChildNotify(message, wParam, lParam, result);
+    return begins ? handled | TRUE : handled;
+}
+
+void CXListCtrl::begin_drag(NMHDR * header, LRESULT * result)
+{
+    *result = 0;
+    auto const & notification = *reinterpret_cast<NMLISTVIEW const *>(header);
+    m_dragSource = notification.iItem;
+    CRect rect(0, 0, 0, 0);
+    {
+        ClientContext const context(*this);
+        if (context.Get() == nullptr)
+            return;
+        GetSubItemRect(m_dragSource, 0, LVIR_BOUNDS, rect);
+        MakeDragImage(*context.Get(), rect);
+    }
+    CPoint const hotSpot = CPoint(notification.ptAction) - rect.TopLeft();
+    ::ImageList_BeginDrag(m_dragImage.GetSafeHandle(), 0, hotSpot.x, hotSpot.y);
+    CPoint screen = notification.ptAction;
+    ClientToScreen(&screen);
+    ::ImageList_DragEnter(nullptr, screen.x, screen.y);
+    m_dropTarget = -1;
+    m_dragCursor = arrow_cursor;
+    SetCapture();
+}
+
+void CXListCtrl::MakeDragImage(CDC & client, CRect const & cell)
+{
+    // Left from a drag whose end the list did not see.
+    EndDragImage();
+    CBitmap picture;
+    if (!CopyArea(client, cell, picture) || !m_dragImage.Create(cell.Width(), cell.Height(), 0, 1, 0))
+        return;
+    ::ImageList_AddMasked(m_dragImage.GetSafeHandle(), static_cast<HBITMAP>(picture.GetSafeHandle()),
+                          drag_mask_colour);
+}
+
+void CXListCtrl::EndDragImage()
+{
+    if (m_dragImage.GetSafeHandle() == nullptr)
+        return;
+    ::ImageList_DragLeave(nullptr);
+    ::ImageList_EndDrag();
+    m_dragImage.DeleteImageList();
+}
+
+void CXListCtrl::SetDropMark(int row, bool on)
+{
+    HWND const self = m_hWnd;
+    SetItemState(row, on ? LVIS_DROPHILITED : 0, LVIS_DROPHILITED);
+    // The parent hears of the change and may have ended the list.
+    if (::IsWindow(self))
+        RedrawItems(row, row);
+}
+
+bool CXListCtrl::FollowDrag(CPoint point)
+{
+    HWND const self = m_hWnd;
+    CPoint screen = point;
+    ClientToScreen(&screen);
+    ::ImageList_DragMove(screen.x, screen.y);
+    ::ImageList_DragShowNolock(FALSE);
+    bool const inside = ::WindowFromPoint(screen) == self;
+    int const target = inside ? HitTest(point) : -1;
+    int const former = std::exchange(m_dropTarget, target);
+    if (former != -1 && former != target)
+        SetDropMark(former, false);
+    if (target != -1 && ::IsWindow(self))
+        SetDropMark(target, true);
+    if (::IsWindow(self) && (inside || former != -1))
+        UpdateWindow();
+    if (!::IsWindow(self))
+        return false;
+    long long const cursor = target != -1 ? arrow_cursor : refusing_cursor;
+    if (m_dragCursor != cursor)
+    {
+        m_dragCursor = cursor;
+        ::SetCursor(::LoadCursorW(nullptr, MAKEINTRESOURCEW(cursor)));
+    }
+    ::ImageList_DragShowNolock(TRUE);
+    return true;
+}
+
+void CXListCtrl::OnMouseMove(UINT flags, CPoint point)
+{
+    if (m_dragEnabled && m_dragSource >= 0 && !FollowDrag(point))
+        return;
+    CListCtrl::OnMouseMove(flags, point);
+}
+
+void CXListCtrl::OnLButtonUp(UINT flags, CPoint point)
+{
+    if (m_dragEnabled && m_dragSource >= 0)
+    {
+        HWND const self = m_hWnd;
+        ::ReleaseCapture();
+        EndDragImage();
+        if (m_dropTarget != -1)
+            SetDropMark(m_dropTarget, false);
+        CPoint screen = point;
+        ::ClientToScreen(self, &screen);
+        if (::WindowFromPoint(screen) == self && m_dropTarget != m_dragSource)
+            drop_on_list();
+        if (!::IsWindow(self))
+            return;
+    }
+    CListCtrl::OnLButtonUp(flags, point);
+}
+
+void CXListCtrl::drop_on_list()
+{
+    auto const [first, second] = indices();
+    int const a = std::min(first, second);
+    int const b = std::max(first, second);
+    // A row may have gone since it was picked up or marked.
+    if (a < 0 || b >= RowCount())
+        return;
+    auto const columns = static_cast<std::size_t>(m_columnCount);
+    std::vector<dd_list_Item> upper(columns);
+    std::vector<dd_list_Item> lower(columns);
+    HWND const self = m_hWnd;
+    save_row(upper, a);
+    save_row(lower, b);
+    restore_row(upper, b);
+    restore_row(lower, a);
+    if (!::IsWindow(self))
+        return;
+    RedrawItems(a, a);
+    RedrawItems(b, b);
+    if (m_onRowsSwapped)
+        m_onRowsSwapped(a, b);
+}
+
+void CXListCtrl::save_row(std::vector<dd_list_Item> & saved, int row)
+{
+    int col = 0;
+    for (dd_list_Item & cell : saved)
+    {
+        cell.item.mask = col == 0 ? first_cell_mask : other_cell_mask;
+        cell.item.stateMask = col == 0 ? ~0U : 0U;
+        cell.item.iItem = row;
+        cell.item.iSubItem = col++;
+        ::SendMessageW(m_hWnd, LVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&cell.item));
+        // The native list may give its own text instead of a copy, and that text is about to change.
+        wchar_t const * const given = cell.item.pszText;
+        if (given == cell.text || given == LPSTR_TEXTCALLBACKW)
+            continue;
+        std::wstring_view const whole(given != nullptr ? given : L"");
+        whole.copy(cell.text, dd_list_Item::text_size - 1);
+        cell.item.pszText = cell.text;
+    }
+}
+
+void CXListCtrl::restore_row(std::vector<dd_list_Item> & saved, int row)
+{
+    if (saved.empty())
+        return;
+    auto const * const object = reinterpret_cast<XLISTCTRLROW const *>(saved.front().item.lParam);
+    for (std::size_t col = 0; col < saved.size(); ++col)
+    {
+        if (object != nullptr && col < object->capacity())
+            object->cells()[col].properties |= XLP_MODIFIED;
+        saved[col].item.iItem = row;
+        ::SendMessageW(m_hWnd, LVM_SETITEMW, 0, reinterpret_cast<LPARAM>(&saved[col].item));
+    }
+}
