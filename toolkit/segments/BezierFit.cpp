@@ -1,6 +1,5 @@
 #include "segments/BezierFit.h"
 
-#include <array>
 #include <cmath>
 #include <cstddef>
 
@@ -15,8 +14,9 @@ constexpr double step_divisor = -3;
 
 constexpr double scan_end = 1.01;
 constexpr double least_move = 0.001;
-/// Ends a secant search that runs in a circle. Searches that end by themselves take a small part of it.
-constexpr int secant_limit = 1000;
+/// Ends a secant search that runs in a circle, as happens for some sizes of a cell; one that ends by itself has been
+/// seen to take up to a tenth of this.
+constexpr int secant_limit = 10000;
 
 /// One coordinate of the curve as a polynomial in t, -1 at its beginning and 1 at its end.
 struct Polynomial
@@ -50,6 +50,12 @@ struct Curve
     Polynomial x;
     Polynomial y;
 
+    double SquaredDistance(CDigiPoint const & target, double t) const
+    {
+        double const dx = x.At(t) - target.x;
+        double const dy = y.At(t) - target.y;
+        return dx * dx + dy * dy;
+    }
     Place From(CDigiPoint const & target, double t) const
     {
         double const dx = x.At(t) - target.x;
@@ -71,20 +77,24 @@ double NextOfSecant(Place const & previous, Place const & current)
 }
 
 /// The squared distance of the target from the place on the curve that the search ends at.
-double SquaredDistance(Curve const & curve, CDigiPoint const & target, double dt)
+double SearchedDistance(Curve const & curve, CDigiPoint const & target, double dt)
 {
-    Place best = curve.From(target, -1);
-    for (double t = -1; t <= scan_end; t += dt)
+    double best = -1;
+    double least = curve.SquaredDistance(target, best);
+    for (double t = best; t <= scan_end; t += dt)
     {
-        Place const place = curve.From(target, t);
-        if (place.squaredDistance == 0)
+        double const squaredDistance = curve.SquaredDistance(target, t);
+        if (squaredDistance == 0)
             return 0;
-        if (place.squaredDistance < best.squaredDistance)
-            best = place;
+        if (squaredDistance < least)
+        {
+            best = t;
+            least = squaredDistance;
+        }
     }
 
-    double const beside = best.t + dt;
-    Place previous = best;
+    double const beside = best + dt;
+    Place previous = curve.From(target, best);
     Place current = curve.From(target, beside > 1 ? 1 - dt : beside);
     for (int i = 0; i < secant_limit && current.squaredDistance != 0 && current.slope != 0; ++i)
     {
@@ -105,7 +115,7 @@ double ErrorOf(std::span<CDigiPoint const> points, CDigiPoint const & first, CDi
     double const numberCount = 2.0 * static_cast<double>(points.size());
     double sum = 0;
     for (CDigiPoint const & target : points.subspan(1, points.size() - 2))
-        sum += SquaredDistance(curve, target, 2 / numberCount);
+        sum += SearchedDistance(curve, target, 2 / numberCount);
     return sum;
 }
 
