@@ -106,7 +106,9 @@ inline CDigiCharOwner ReadKind(std::istringstream & line)
     std::string form;
     line >> kind >> form;
     unsigned long const style = form == "rounded" ? DigiStyleRounded : 0;
-    CDigiCharOwner character = kind == "seven" ? Make(L'8', style) : kind == "fourteen" ? Make(L'A', style) : Make(L'.', style);
+    CDigiCharOwner character = kind == "seven"      ? Make(L'8', style)
+                               : kind == "fourteen" ? Make(L'A', style)
+                                                    : Make(L'.', style);
     EXPECT_EQ(character->segmentCount, kind == "seven" ? 7 : kind == "fourteen" ? 14 : 3);
     return character;
 }

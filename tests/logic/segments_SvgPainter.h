@@ -9,7 +9,8 @@
 
 namespace segments
 {
-/// Gathers one path element a segment: class "on" or "off" in the curve form, "led-on" or "led-off" in the polygon form.
+/// Gathers one path element a segment: class "on" or "off" in the curve form, "led-on" or "led-off" in the polygon
+/// form.
 class SvgPainter : public DigiStatic::CDigiCurvePainter, public DigiStatic::CDigiPolygonPainter
 {
 public:

@@ -38,14 +38,12 @@ CDigiChar OneSegment(CDigiSegment const & segment)
 
 TEST(SegmentCurves, EachSegmentIsSelectedTracedPaintedAndMerged)
 {
-    EXPECT_EQ(Trace(*Make(L'.'), narrow_cell),
-              "off begin M 4 23 L 4 32 L 13 32 L 13 23 end paint region "
-              "off begin M 4 50 L 4 59 L 13 59 L 13 50 end paint region "
-              "on begin M 4 68 L 4 77 L 13 77 L 13 68 end paint region");
-    EXPECT_EQ(Trace(*Make(L':'), narrow_cell),
-              "on begin M 4 23 L 4 32 L 13 32 L 13 23 end paint region "
-              "on begin M 4 50 L 4 59 L 13 59 L 13 50 end paint region "
-              "off begin M 4 68 L 4 77 L 13 77 L 13 68 end paint region");
+    EXPECT_EQ(Trace(*Make(L'.'), narrow_cell), "off begin M 4 23 L 4 32 L 13 32 L 13 23 end paint region "
+                                               "off begin M 4 50 L 4 59 L 13 59 L 13 50 end paint region "
+                                               "on begin M 4 68 L 4 77 L 13 77 L 13 68 end paint region");
+    EXPECT_EQ(Trace(*Make(L':'), narrow_cell), "on begin M 4 23 L 4 32 L 13 32 L 13 23 end paint region "
+                                               "on begin M 4 50 L 4 59 L 13 59 L 13 50 end paint region "
+                                               "off begin M 4 68 L 4 77 L 13 77 L 13 68 end paint region");
 }
 
 TEST(SegmentCurves, HiddenSegmentsAreSelectedAndNoMore)

@@ -32,8 +32,8 @@ public:
     void AddGroup(char const * caption, std::wstring_view text, unsigned long style, bool asPolygons)
     {
         m_y += caption_height;
-        m_body += "<text x=\"" + std::to_string(margin) + "\" y=\"" + std::to_string(m_y - 6) + "\">" + caption +
-                  "</text>\n";
+        m_body +=
+            "<text x=\"" + std::to_string(margin) + "\" y=\"" + std::to_string(m_y - 6) + "\">" + caption + "</text>\n";
         while (!text.empty())
         {
             AddLine(text.substr(0, columns), style, asPolygons);
@@ -103,8 +103,8 @@ TEST(SegmentSheet, KeptPictureIsWhatIsPainted)
         std::ofstream(kept_path, std::ios::binary) << painted;
         FAIL() << kept_path << " is written anew";
     }
-    auto const [ofKept, ofPainted] = std::mismatch(kept.begin(), kept.end(), painted.begin(), painted.end());
-    EXPECT_TRUE(kept == painted) << kept_path << " differs from byte " << ofKept - kept.begin() << " on: "
-                                 << std::string(ofPainted, std::min(painted.end(), ofPainted + 80));
+    auto const differing = std::mismatch(kept.begin(), kept.end(), painted.begin(), painted.end()).second;
+    auto const at = static_cast<std::size_t>(differing - painted.begin());
+    EXPECT_TRUE(kept == painted) << kept_path << " differs from byte " << at << " on: " << painted.substr(at, 80);
 }
 } // namespace

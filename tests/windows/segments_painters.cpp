@@ -60,9 +60,13 @@ Gdiplus::Color Opaque(COLORREF colour)
 class ContextTools
 {
 public:
-    explicit ContextTools(CDC & dc) :
-        m_dc(dc), offPen(PS_SOLID, 1, off_edge), onPen(PS_SOLID, 1, on_edge), offBrush(off_fill), onBrush(on_fill),
-        m_state(dc.SaveDC())
+    explicit ContextTools(CDC & dc)
+        : m_dc(dc),
+          offPen(PS_SOLID, 1, off_edge),
+          onPen(PS_SOLID, 1, on_edge),
+          offBrush(off_fill),
+          onBrush(on_fill),
+          m_state(dc.SaveDC())
     {
     }
     ~ContextTools() { m_dc.RestoreDC(m_state); }
@@ -365,8 +369,8 @@ protected:
     {
         std::wstring_view const text = GetParam().text;
         int const lineCount = (static_cast<int>(text.size()) + LineLength - 1) / LineLength;
-        tests::Canvas canvas(static_cast<int>(LineLength * 49 * Scale) + 1, static_cast<int>(lineCount * LineHeight) + 1,
-                             background);
+        tests::Canvas canvas(static_cast<int>(LineLength * 49 * Scale) + 1,
+                             static_cast<int>(lineCount * LineHeight) + 1, background);
         double x = 0;
         double y = 0;
         for (std::size_t i = 0; i < text.size(); ++i)

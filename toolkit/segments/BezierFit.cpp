@@ -1,7 +1,7 @@
 #include "segments/BezierFit.h"
 
 #include <cmath>
-#include <cstddef>
+#include <vector>
 
 namespace DigiStatic
 {
@@ -26,8 +26,11 @@ struct Polynomial
     double a2;
     double a3;
 
-    Polynomial(double x0, double x1, double x2, double x3) :
-        a0(0), a1(0), a2(3 * (x3 + x0 - x1 - x2) / 8), a3((x3 - x0 + 3 * (x1 - x2)) / 8)
+    Polynomial(double x0, double x1, double x2, double x3)
+        : a0(0),
+          a1(0),
+          a2(3 * (x3 + x0 - x1 - x2) / 8),
+          a3((x3 - x0 + 3 * (x1 - x2)) / 8)
     {
         a1 = (x3 - x0) / 2 - a3;
         a0 = (x3 + x0) / 2 - a2;
@@ -36,6 +39,13 @@ struct Polynomial
     double At(double t) const { return ((a3 * t + a2) * t + a1) * t + a0; }
     double SlopeAt(double t) const { return (3 * a3 * t + 2 * a2) * t + a1; }
 };
+
+double SquaredDistance(CDigiPoint const & a, CDigiPoint const & b)
+{
+    double const dx = a.x - b.x;
+    double const dy = a.y - b.y;
+    return dx * dx + dy * dy;
+}
 
 /// A place on the curve as seen from one point of the run.
 struct Place
@@ -50,17 +60,12 @@ struct Curve
     Polynomial x;
     Polynomial y;
 
-    double SquaredDistance(CDigiPoint const & target, double t) const
-    {
-        double const dx = x.At(t) - target.x;
-        double const dy = y.At(t) - target.y;
-        return dx * dx + dy * dy;
-    }
+    CDigiPoint At(double t) const { return {x.At(t), y.At(t)}; }
     Place From(CDigiPoint const & target, double t) const
     {
-        double const dx = x.At(t) - target.x;
-        double const dy = y.At(t) - target.y;
-        return {t, dx * dx + dy * dy, x.SlopeAt(t) * dx + y.SlopeAt(t) * dy};
+        CDigiPoint const place = At(t);
+        double const slope = x.SlopeAt(t) * (place.x - target.x) + y.SlopeAt(t) * (place.y - target.y);
+        return {t, SquaredDistance(place, target), slope};
     }
 };
 
@@ -76,48 +81,74 @@ double NextOfSecant(Place const & previous, Place const & current)
     return Clamped((previous.t + current.t) / 2);
 }
 
-/// The squared distance of the target from the place on the curve that the search ends at.
-double SearchedDistance(Curve const & curve, CDigiPoint const & target, double dt)
+/// The points that a curve is to meet, and the places where it is looked at first, which are the same for all of them.
+class Run
 {
-    double best = -1;
-    double least = curve.SquaredDistance(target, best);
-    for (double t = best; t <= scan_end; t += dt)
+public:
+    explicit Run(std::span<CDigiPoint const> points) : m_points(points)
     {
-        double const squaredDistance = curve.SquaredDistance(target, t);
-        if (squaredDistance == 0)
-            return 0;
-        if (squaredDistance < least)
+        double const numberCount = 2.0 * static_cast<double>(points.size());
+        m_step = 2 / numberCount;
+        for (double t = -1; t <= scan_end; t += m_step)
+            m_scan.push_back({t, {}});
+    }
+
+    double Error(CBezierControls const & controls)
+    {
+        CDigiPoint const & begin = m_points.front();
+        CDigiPoint const & end = m_points.back();
+        Curve const curve = {{begin.x, controls.first.x, controls.second.x, end.x},
+                             {begin.y, controls.first.y, controls.second.y, end.y}};
+        for (Scanned & scanned : m_scan)
+            scanned.place = curve.At(scanned.t);
+        double sum = 0;
+        for (CDigiPoint const & target : m_points.subspan(1, m_points.size() - 2))
+            sum += SearchedDistance(curve, target);
+        return sum;
+    }
+
+private:
+    struct Scanned
+    {
+        double t;
+        CDigiPoint place;
+    };
+
+    /// The squared distance of the target from the place on the curve that the search ends at.
+    double SearchedDistance(Curve const & curve, CDigiPoint const & target) const
+    {
+        double best = m_scan.front().t;
+        double least = SquaredDistance(m_scan.front().place, target);
+        for (Scanned const & scanned : m_scan)
         {
-            best = t;
-            least = squaredDistance;
+            double const squaredDistance = SquaredDistance(scanned.place, target);
+            if (squaredDistance == 0)
+                return 0;
+            if (squaredDistance < least)
+            {
+                best = scanned.t;
+                least = squaredDistance;
+            }
         }
+
+        double const beside = best + m_step;
+        Place previous = curve.From(target, best);
+        Place current = curve.From(target, beside > 1 ? 1 - m_step : beside);
+        for (int i = 0; i < secant_limit && current.squaredDistance != 0 && current.slope != 0; ++i)
+        {
+            double const t = NextOfSecant(previous, current);
+            if (!(std::abs(t - current.t) >= least_move))
+                break;
+            previous = current;
+            current = curve.From(target, t);
+        }
+        return current.squaredDistance;
     }
 
-    double const beside = best + dt;
-    Place previous = curve.From(target, best);
-    Place current = curve.From(target, beside > 1 ? 1 - dt : beside);
-    for (int i = 0; i < secant_limit && current.squaredDistance != 0 && current.slope != 0; ++i)
-    {
-        double const t = NextOfSecant(previous, current);
-        if (!(std::abs(t - current.t) >= least_move))
-            break;
-        previous = current;
-        current = curve.From(target, t);
-    }
-    return current.squaredDistance;
-}
-
-double ErrorOf(std::span<CDigiPoint const> points, CDigiPoint const & first, CDigiPoint const & second)
-{
-    CDigiPoint const & begin = points.front();
-    CDigiPoint const & end = points.back();
-    Curve const curve = {{begin.x, first.x, second.x, end.x}, {begin.y, first.y, second.y, end.y}};
-    double const numberCount = 2.0 * static_cast<double>(points.size());
-    double sum = 0;
-    for (CDigiPoint const & target : points.subspan(1, points.size() - 2))
-        sum += SearchedDistance(curve, target, 2 / numberCount);
-    return sum;
-}
+    std::span<CDigiPoint const> m_points;
+    double m_step;
+    std::vector<Scanned> m_scan;
+};
 
 /// Moves one number of the control points away from its anchor and back while that makes the error smaller.
 template <class Error> void Search(double & number, double anchor, double & least, Error const & error)
@@ -147,7 +178,7 @@ template <class Error> void Search(double & number, double anchor, double & leas
 
 double BezierError(std::span<CDigiPoint const> points, CBezierControls const & controls)
 {
-    return ErrorOf(points, controls.first, controls.second);
+    return Run(points).Error(controls);
 }
 
 CBezierControls FitBezier(std::span<CDigiPoint const> points)
@@ -159,7 +190,8 @@ CBezierControls FitBezier(std::span<CDigiPoint const> points)
     CBezierControls controls = {{second.x + (second.x - begin.x), second.y + (second.y - begin.y)},
                                 {lastButOne.x + (lastButOne.x - end.x), lastButOne.y + (lastButOne.y - end.y)}};
 
-    auto const error = [&] { return BezierError(points, controls); };
+    Run run(points);
+    auto const error = [&] { return run.Error(controls); };
     double least = error();
     for (int pass = 0; pass < pass_count; ++pass)
     {

@@ -1,4 +1,5 @@
-// Any text in any style in any rectangle: characters side by side, as the displays paint them, and outlines of any shape.
+// Any text in any style in any rectangle: characters side by side, as the displays paint them, and outlines of any
+// shape.
 
 #include <algorithm>
 #include <cmath>
