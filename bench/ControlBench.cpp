@@ -16,6 +16,7 @@ constexpr Measure measures[] = {
     {"layout", bench::LayoutOf1000Children},    {"list-fill", bench::FillingAList},
     {"list-refill", bench::RefillingAList},     {"list-memory", bench::MemoryOfARow},
     {"list-paint", bench::PaintingAPageOfText}, {"list-kinds", bench::PaintingPagesOfOtherKinds},
+    {"segments", bench::PaintingSegmentCharacters},
 };
 } // namespace
 

@@ -14,6 +14,7 @@ bool RefillingAList();
 bool MemoryOfARow();
 bool PaintingAPageOfText();
 bool PaintingPagesOfOtherKinds();
+bool PaintingSegmentCharacters();
 
 template <class Work> double Nanoseconds(Work && work)
 {
