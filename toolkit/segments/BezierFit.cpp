@@ -1,8 +1,7 @@
 #include "segments/BezierFit.h"
 
-#include <array>
 #include <cmath>
-#include <cstddef>
+#include <vector>
 
 namespace DigiStatic
 {
@@ -15,8 +14,9 @@ constexpr double step_divisor = -3;
 
 constexpr double scan_end = 1.01;
 constexpr double least_move = 0.001;
-/// Ends a secant search that runs in a circle. Searches that end by themselves take a small part of it.
-constexpr int secant_limit = 1000;
+/// Ends a secant search that runs in a circle, as happens for some sizes of a cell; one that ends by itself has been
+/// seen to take up to a tenth of this.
+constexpr int secant_limit = 10000;
 
 /// One coordinate of the curve as a polynomial in t, -1 at its beginning and 1 at its end.
 struct Polynomial
@@ -26,8 +26,11 @@ struct Polynomial
     double a2;
     double a3;
 
-    Polynomial(double x0, double x1, double x2, double x3) :
-        a0(0), a1(0), a2(3 * (x3 + x0 - x1 - x2) / 8), a3((x3 - x0 + 3 * (x1 - x2)) / 8)
+    Polynomial(double x0, double x1, double x2, double x3)
+        : a0(0),
+          a1(0),
+          a2(3 * (x3 + x0 - x1 - x2) / 8),
+          a3((x3 - x0 + 3 * (x1 - x2)) / 8)
     {
         a1 = (x3 - x0) / 2 - a3;
         a0 = (x3 + x0) / 2 - a2;
@@ -36,6 +39,13 @@ struct Polynomial
     double At(double t) const { return ((a3 * t + a2) * t + a1) * t + a0; }
     double SlopeAt(double t) const { return (3 * a3 * t + 2 * a2) * t + a1; }
 };
+
+double SquaredDistance(CDigiPoint const & a, CDigiPoint const & b)
+{
+    double const dx = a.x - b.x;
+    double const dy = a.y - b.y;
+    return dx * dx + dy * dy;
+}
 
 /// A place on the curve as seen from one point of the run.
 struct Place
@@ -50,11 +60,12 @@ struct Curve
     Polynomial x;
     Polynomial y;
 
+    CDigiPoint At(double t) const { return {x.At(t), y.At(t)}; }
     Place From(CDigiPoint const & target, double t) const
     {
-        double const dx = x.At(t) - target.x;
-        double const dy = y.At(t) - target.y;
-        return {t, dx * dx + dy * dy, x.SlopeAt(t) * dx + y.SlopeAt(t) * dy};
+        CDigiPoint const place = At(t);
+        double const slope = x.SlopeAt(t) * (place.x - target.x) + y.SlopeAt(t) * (place.y - target.y);
+        return {t, SquaredDistance(place, target), slope};
     }
 };
 
@@ -70,44 +81,74 @@ double NextOfSecant(Place const & previous, Place const & current)
     return Clamped((previous.t + current.t) / 2);
 }
 
-/// The squared distance of the target from the place on the curve that the search ends at.
-double SquaredDistance(Curve const & curve, CDigiPoint const & target, double dt)
+/// The points that a curve is to meet, and the places where it is looked at first, which are the same for all of them.
+class Run
 {
-    Place best = curve.From(target, -1);
-    for (double t = -1; t <= scan_end; t += dt)
+public:
+    explicit Run(std::span<CDigiPoint const> points) : m_points(points)
     {
-        Place const place = curve.From(target, t);
-        if (place.squaredDistance == 0)
-            return 0;
-        if (place.squaredDistance < best.squaredDistance)
-            best = place;
+        double const numberCount = 2.0 * static_cast<double>(points.size());
+        m_step = 2 / numberCount;
+        for (double t = -1; t <= scan_end; t += m_step)
+            m_scan.push_back({t, {}});
     }
 
-    double const beside = best.t + dt;
-    Place previous = best;
-    Place current = curve.From(target, beside > 1 ? 1 - dt : beside);
-    for (int i = 0; i < secant_limit && current.squaredDistance != 0 && current.slope != 0; ++i)
+    double Error(CBezierControls const & controls)
     {
-        double const t = NextOfSecant(previous, current);
-        if (!(std::abs(t - current.t) >= least_move))
-            break;
-        previous = current;
-        current = curve.From(target, t);
+        CDigiPoint const & begin = m_points.front();
+        CDigiPoint const & end = m_points.back();
+        Curve const curve = {{begin.x, controls.first.x, controls.second.x, end.x},
+                             {begin.y, controls.first.y, controls.second.y, end.y}};
+        for (Scanned & scanned : m_scan)
+            scanned.place = curve.At(scanned.t);
+        double sum = 0;
+        for (CDigiPoint const & target : m_points.subspan(1, m_points.size() - 2))
+            sum += SearchedDistance(curve, target);
+        return sum;
     }
-    return current.squaredDistance;
-}
 
-double ErrorOf(std::span<CDigiPoint const> points, CDigiPoint const & first, CDigiPoint const & second)
-{
-    CDigiPoint const & begin = points.front();
-    CDigiPoint const & end = points.back();
-    Curve const curve = {{begin.x, first.x, second.x, end.x}, {begin.y, first.y, second.y, end.y}};
-    double const numberCount = 2.0 * static_cast<double>(points.size());
-    double sum = 0;
-    for (CDigiPoint const & target : points.subspan(1, points.size() - 2))
-        sum += SquaredDistance(curve, target, 2 / numberCount);
-    return sum;
-}
+private:
+    struct Scanned
+    {
+        double t;
+        CDigiPoint place;
+    };
+
+    /// The squared distance of the target from the place on the curve that the search ends at.
+    double SearchedDistance(Curve const & curve, CDigiPoint const & target) const
+    {
+        double best = m_scan.front().t;
+        double least = SquaredDistance(m_scan.front().place, target);
+        for (Scanned const & scanned : m_scan)
+        {
+            double const squaredDistance = SquaredDistance(scanned.place, target);
+            if (squaredDistance == 0)
+                return 0;
+            if (squaredDistance < least)
+            {
+                best = scanned.t;
+                least = squaredDistance;
+            }
+        }
+
+        double const beside = best + m_step;
+        Place previous = curve.From(target, best);
+        Place current = curve.From(target, beside > 1 ? 1 - m_step : beside);
+        for (int i = 0; i < secant_limit && current.squaredDistance != 0 && current.slope != 0; ++i)
+        {
+            double const t = NextOfSecant(previous, current);
+            if (!(std::abs(t - current.t) >= least_move))
+                break;
+            previous = current;
+            current = curve.From(target, t);
+        }
+        return current.squaredDistance;
+    }
+
+    std::span<CDigiPoint const> m_points;
+    double m_step;
+    std::vector<Scanned> m_scan;
+};
 
 /// Moves one number of the control points away from its anchor and back while that makes the error smaller.
 template <class Error> void Search(double & number, double anchor, double & least, Error const & error)
@@ -137,7 +178,7 @@ template <class Error> void Search(double & number, double anchor, double & leas
 
 double BezierError(std::span<CDigiPoint const> points, CBezierControls const & controls)
 {
-    return ErrorOf(points, controls.first, controls.second);
+    return Run(points).Error(controls);
 }
 
 CBezierControls FitBezier(std::span<CDigiPoint const> points)
@@ -149,7 +190,8 @@ CBezierControls FitBezier(std::span<CDigiPoint const> points)
     CBezierControls controls = {{second.x + (second.x - begin.x), second.y + (second.y - begin.y)},
                                 {lastButOne.x + (lastButOne.x - end.x), lastButOne.y + (lastButOne.y - end.y)}};
 
-    auto const error = [&] { return BezierError(points, controls); };
+    Run run(points);
+    auto const error = [&] { return run.Error(controls); };
     double least = error();
     for (int pass = 0; pass < pass_count; ++pass)
     {

@@ -61,8 +61,9 @@ struct Sign
     wchar_t character;
     std::uint8_t index;
 };
-constexpr Sign fourteen_signs[] = {{L'%', 48},  {L'\'', 45}, {L'(', 40},  {L')', 41},           {L'*', 38},
-                                   {L'+', 39},  {L'/', 43},  {L'\\', 42}, {superscript_two, 47}, {micro_sign, 49}};
+constexpr Sign fourteen_signs[] = {
+    {L'%', 48},  {L'\'', 45},           {L'(', 40},      {L')', 41}, {L'*', 38}, {L'+', 39}, {L'/', 43},
+    {L'\\', 42}, {superscript_two, 47}, {micro_sign, 49}};
 
 bool IsWithin(wchar_t character, wchar_t first, wchar_t last)
 {
@@ -102,8 +103,11 @@ bool IsRounded(unsigned long style)
 }
 } // namespace
 
-CDigiChar::CDigiChar(CDigiChar const & other) :
-    width(other.width), mask(other.mask), segmentCount(other.segmentCount), hideOff(other.hideOff)
+CDigiChar::CDigiChar(CDigiChar const & other)
+    : width(other.width),
+      mask(other.mask),
+      segmentCount(other.segmentCount),
+      hideOff(other.hideOff)
 {
 }
 

@@ -15,8 +15,11 @@ POINT ToPoint(CDevicePoint const & point)
 class ContextPainter : public CDigiCurvePainter
 {
 public:
-    ContextPainter(CDC & dc, CPen * const (&pens)[2], CBrush * const (&brushes)[2], CRgn * region) :
-        m_dc(dc), m_pens(pens), m_brushes(brushes), m_region(region)
+    ContextPainter(CDC & dc, CPen * const (&pens)[2], CBrush * const (&brushes)[2], CRgn * region)
+        : m_dc(dc),
+          m_pens(pens),
+          m_brushes(brushes),
+          m_region(region)
     {
     }
 
@@ -62,8 +65,11 @@ class GraphicsPainter : public CDigiPolygonPainter
 {
 public:
     GraphicsPainter(Gdiplus::Graphics & graphics, Gdiplus::Pen & onPen, Gdiplus::Brush & offBrush,
-                    Gdiplus::Brush & onBrush) :
-        m_graphics(graphics), m_onPen(onPen), m_offBrush(offBrush), m_onBrush(onBrush)
+                    Gdiplus::Brush & onBrush)
+        : m_graphics(graphics),
+          m_onPen(onPen),
+          m_offBrush(offBrush),
+          m_onBrush(onBrush)
     {
     }
 

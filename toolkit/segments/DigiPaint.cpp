@@ -20,8 +20,11 @@ struct Scaling
     double x;
     double y;
 
-    Scaling(CDigiChar const & character, const double rect[4]) :
-        left(rect[0]), top(rect[1]), x((rect[2] - rect[0]) / character.width), y((rect[3] - rect[1]) / cell_height)
+    Scaling(CDigiChar const & character, const double rect[4])
+        : left(rect[0]),
+          top(rect[1]),
+          x((rect[2] - rect[0]) / character.width),
+          y((rect[3] - rect[1]) / cell_height)
     {
     }
 
