@@ -35,10 +35,10 @@ std::vector<std::filesystem::path> ChooseFiles(CWnd & owner)
     return files;
 }
 
-std::optional<std::filesystem::path> ChooseFolder(CWnd & owner)
+std::optional<std::filesystem::path> ChooseFolder(CWnd & owner, wchar_t const * title)
 {
     CFolderDialog dialog(owner.m_hWnd);
-    dialog.SetTitleMessage(Text(L"Choose a folder with recordings:"));
+    dialog.SetTitleMessage(title);
     if (dialog.DoModal() != IDOK)
     {
         return std::nullopt;

@@ -2,6 +2,7 @@
 
 #include <afxwin.h>
 
+#include <array>
 #include <filesystem>
 #include <map>
 #include <memory>
@@ -11,6 +12,7 @@
 #include "DetailsDialog.h"
 #include "MeasurePanel.h"
 #include "RecordingList.h"
+#include "PreviewDialog.h"
 #include "ScreenMetrics.h"
 #include "SettingsDialog.h"
 #include "WaveformView.h"
@@ -56,6 +58,9 @@ public:
     bool ShowSettings();
     CSettingsDialog & SettingsDialog() { return m_settingsDialog; }
 
+    /// Opens the print preview of the chosen recording. False if it cannot be opened.
+    bool ShowPreview();
+
     /// Makes it the language of the windows that open from now on, and stores it.
     void ChooseLanguage(unsigned short languageId);
 
@@ -83,6 +88,9 @@ private:
     afx_msg void OnCloseCommand();
     afx_msg void OnShowSettings();
     afx_msg void OnChooseLanguage();
+    afx_msg void OnExportSettings();
+    afx_msg void OnImportSettings();
+    afx_msg void OnPrintPreview();
     afx_msg void OnCloseDialogs();
     afx_msg void OnDialogChosen(UINT id);
     afx_msg void OnItemChanged(NMHDR * header, LRESULT * result);
@@ -100,7 +108,10 @@ private:
     bool CreateChildren();
     void Arrange();
     void PrepareDialogs();
+    std::array<CWorkbenchDialog *, 3> Dialogs();
+    void FollowSettings(workbench::Settings const & settings);
     void TakeSettings(workbench::Settings const & settings);
+    void DrawPage(CDC & dc, CRect const & page);
     CDetailsDialog::Actions DetailsActions();
     void RememberPlace();
     void ShowChosen();
@@ -120,6 +131,7 @@ private:
     CDetailsDialog m_details;
     int m_detailsIndex = -1; ///< the recording whose details are shown
     CSettingsDialog m_settingsDialog;
+    CPreviewDialog m_preview;
     workbench::Settings m_settings;
     std::unique_ptr<CDialogResizer> m_resizer;
     HACCEL m_accelerators = nullptr;

@@ -2,18 +2,25 @@
 
 #include "MainWindow.h"
 
+#include <algorithm>
+
 #include "FileDialogs.h"
+#include "SettingsFile.h"
 #include "dialogs/SprachauswahlDlg.h"
 #include "logic/Texts.h"
 #include "resource.h"
 
 using workbench::Text;
 
+std::array<CWorkbenchDialog *, 3> CMainWindow::Dialogs()
+{
+    return {&m_details, &m_settingsDialog, &m_preview};
+}
+
 void CMainWindow::PrepareDialogs()
 {
     m_windowMenu.SetMenu(Text(L"&Window"));
-    for (CWorkbenchDialog * const dialog :
-         {static_cast<CWorkbenchDialog *>(&m_details), static_cast<CWorkbenchDialog *>(&m_settingsDialog)})
+    for (auto * const dialog : Dialogs())
     {
         dialog->Follow(m_settings);
         dialog->m_onOpened = [this](CWorkbenchDialog & which, bool open) {
@@ -39,11 +46,20 @@ void CMainWindow::PrepareDialogs()
     m_details.m_actions = [this] { return DetailsActions(); };
 }
 
-void CMainWindow::TakeSettings(workbench::Settings const & settings)
+/// Lets the windows follow the settings.
+void CMainWindow::FollowSettings(workbench::Settings const & settings)
 {
     m_settings = settings;
-    m_details.Follow(settings);
-    m_settingsDialog.Follow(settings);
+    for (auto * const dialog : Dialogs())
+    {
+        dialog->Follow(settings);
+    }
+    m_panel.ChooseScale(settings.spectrogramScale);
+}
+
+void CMainWindow::TakeSettings(workbench::Settings const & settings)
+{
+    FollowSettings(settings);
     if (!workbench::StoreSettings(settings))
     {
         AfxMessageBox(Text(L"The settings could not be stored."), MB_ICONEXCLAMATION);
@@ -108,6 +124,41 @@ void CMainWindow::OnChooseLanguage()
     }
 }
 
+void CMainWindow::OnExportSettings()
+{
+    workbench::ExportSettings(*this);
+}
+
+void CMainWindow::OnImportSettings()
+{
+    auto const result = workbench::ImportSettings(*this);
+    if (result == workbench::SettingsFileResult::Done || result == workbench::SettingsFileResult::Incomplete)
+    {
+        FollowSettings(workbench::ReadSettings());
+        workbench::UseLanguage(workbench::ReadLanguage());
+    }
+}
+
+/// Shows the page of the chosen recording as it would be on paper.
+void CMainWindow::OnPrintPreview()
+{
+    ShowPreview();
+}
+
+bool CMainWindow::ShowPreview()
+{
+    return m_preview.Show([this](CDC & dc, CRect const & page) { DrawPage(dc, page); });
+}
+
+/// The page: the waveform and below it the spectrogram.
+void CMainWindow::DrawPage(CDC & dc, CRect const & page)
+{
+    auto const gap = m_metrics.Y(6);
+    auto upper = page;
+    upper.bottom = page.top + (page.Height() - gap) / 2;
+    m_waveform.Print(dc, upper);
+}
+
 void CMainWindow::CloseDialogs()
 {
     m_windowMenu.CloseAll();
@@ -134,7 +185,7 @@ void CMainWindow::OnOpenFiles()
 
 void CMainWindow::OnOpenFolder()
 {
-    if (auto const folder = workbench::ChooseFolder(*this))
+    if (auto const folder = workbench::ChooseFolder(*this, Text(L"Choose a folder with recordings:")))
     {
         ShowTargets({*folder});
     }
@@ -154,5 +205,5 @@ void CMainWindow::OnInitMenuPopup(CMenu * menu, UINT index, BOOL systemMenu)
     enable(ID_SET_REFERENCE, read && !m_analyses[static_cast<std::size_t>(chosen)]->problem);
     enable(ID_MARK_ALL, RecordingCount() > 0);
     enable(ID_MARK_NONE, RecordingCount() > 0);
-    enable(ID_CLOSE_DIALOGS, m_details.IsOpen() || m_settingsDialog.IsOpen());
+    enable(ID_CLOSE_DIALOGS, std::ranges::any_of(Dialogs(), [](auto const * dialog) { return dialog->IsOpen(); }));
 }

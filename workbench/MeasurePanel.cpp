@@ -38,8 +38,8 @@ int CMeasurePanel::Height(workbench::ScreenMetrics const & metrics)
 
 int CMeasurePanel::LeastWidth(workbench::ScreenMetrics const & metrics)
 {
-    return metrics.X(c_positionLabelWidth + c_positionWidth + c_levelLabelWidth + c_levelWidth + 2 * c_gap + c_scaleLabelWidth + c_scaleWidth + c_gap +
-                     c_clockWidth);
+    return metrics.X(c_positionLabelWidth + c_positionWidth + c_levelLabelWidth + c_levelWidth + 2 * c_gap +
+                     c_scaleLabelWidth + c_scaleWidth + c_gap + c_clockWidth);
 }
 
 bool CMeasurePanel::CreatePanel(CWnd & parent, UINT id, workbench::ScreenMetrics & metrics, unsigned int scale)

@@ -231,6 +231,11 @@ bool CWalk::GoThroughDialogs(std::string const & suffix)
         return false;
     }
     m_window.CloseDialogs();
+    if (!m_window.ShowPreview() || !Step(name("workbench-preview").c_str()))
+    {
+        return false;
+    }
+    m_window.CloseDialogs();
     // With the last dialog its item and the separator above it go.
     if (m_window.GetMenu()->GetSubMenu(windowMenu)->GetMenuItemCount() != 1)
     {

@@ -16,14 +16,13 @@ namespace
 
 using workbench::Text;
 
-constexpr COLORREF c_plotColour = RGB(249, 250, 252);
-constexpr COLORREF c_frameColour = RGB(190, 198, 207);
-constexpr COLORREF c_gridColour = RGB(226, 230, 236);
-constexpr COLORREF c_centreColour = RGB(150, 160, 172);
 // Scope colours by their index. Lanes beyond the last colour begin again with the first.
-constexpr int c_laneColours[] = {29, 28, 23, 5, 15, 14};
+constexpr int c_laneColours[] = {7, 5, 3, 8, 19, 4};
 constexpr int c_clippedColour = 2;
-constexpr int c_cursorColour = 17;
+constexpr int c_cursorColour = 31;
+constexpr int c_groundColour = 24;
+
+constexpr COLORREF c_frameColour = RGB(190, 198, 207);
 
 constexpr COLORREF c_labelColour = RGB(88, 98, 110);
 constexpr COLORREF c_problemColour = RGB(168, 40, 32);
@@ -176,6 +175,16 @@ void CWaveformView::Print(CDC & dc, CRect const & rect)
 COLORREF CWaveformView::Colour(int scopeIndex) const
 {
     return m_printing ? Farbtabellen::DruckFarbe(scopeIndex) : Farbtabellen::ScopeFarbe(scopeIndex);
+}
+
+/// The colours around the waveform: like a scope on the screen, light on paper.
+CWaveformView::SurroundingColours CWaveformView::Surroundings() const
+{
+    if (m_printing)
+    {
+        return {RGB(255, 255, 255), RGB(226, 230, 236), RGB(150, 160, 172), c_labelColour};
+    }
+    return {Farbtabellen::ScopeFarbe(c_groundColour), RGB(26, 58, 110), RGB(66, 98, 146), RGB(176, 196, 224)};
 }
 
 void CWaveformView::DrawCursor(CDC & dc, CRect const & plot)
@@ -373,7 +382,7 @@ std::vector<workbench::MinMax> const & CWaveformView::Columns(std::size_t lane, 
 
 void CWaveformView::DrawLane(CDC & dc, Lane const & lane, std::size_t index)
 {
-    dc.FillSolidRect(lane.rect, c_plotColour);
+    dc.FillSolidRect(lane.rect, Surroundings().ground);
     DrawLevelGrid(dc, lane);
 
     CRect inside = lane.rect;
@@ -381,9 +390,9 @@ void CWaveformView::DrawLane(CDC & dc, Lane const & lane, std::size_t index)
     auto const seconds = static_cast<double>(m_analysis->info.frames) / m_analysis->info.sampleRate;
     for (auto const & tick : workbench::TimeTicks(seconds, inside.Width(), m_metrics->X(44)))
     {
-        dc.FillSolidRect(inside.left + tick.position, inside.top, 1, inside.Height(), c_gridColour);
+        dc.FillSolidRect(inside.left + tick.position, inside.top, 1, inside.Height(), Surroundings().grid);
     }
-    dc.FillSolidRect(inside.left, lane.centre, inside.Width(), 1, c_centreColour);
+    dc.FillSolidRect(inside.left, lane.centre, inside.Width(), 1, Surroundings().centre);
 
     // Each column reaches over to the one before it, so that steep slopes stay one line.
     auto const y = [&](float amplitude) {
@@ -418,9 +427,9 @@ void CWaveformView::DrawLane(CDC & dc, Lane const & lane, std::size_t index)
         auto ground = label;
         ground.InflateRect(m_metrics->X(2), 1);
         ground.left = lane.rect.left + 1;
-        dc.FillSolidRect(ground, c_plotColour);
+        dc.FillSolidRect(ground, Surroundings().ground);
         dc.SetBkMode(TRANSPARENT);
-        dc.SetTextColor(c_labelColour);
+        dc.SetTextColor(Surroundings().label);
         DrawText(dc, name, label, DT_LEFT | c_label);
     }
 }
@@ -429,7 +438,7 @@ void CWaveformView::DrawLevelGrid(CDC & dc, Lane const & lane)
 {
     auto const line = m_metrics->LineHeight();
     auto const draw = [&](int y, std::wstring const & label, bool withLabel) {
-        dc.FillSolidRect(lane.rect.left, y, lane.rect.Width(), 1, c_gridColour);
+        dc.FillSolidRect(lane.rect.left, y, lane.rect.Width(), 1, Surroundings().grid);
         if (withLabel)
         {
             auto const size = TextSize(dc, label);

@@ -64,6 +64,16 @@ private:
     void MoveCursorTo(int x);
     bool ShowsRecording() const { return m_analysis && !m_analysis->problem && m_analysis->info.frames > 0; }
     COLORREF Colour(int scopeIndex) const;
+
+    struct SurroundingColours
+    {
+        COLORREF ground;
+        COLORREF grid;
+        COLORREF centre;
+        COLORREF label; ///< inside a lane
+    };
+    SurroundingColours Surroundings() const;
+
     void DrawMessage(CDC & dc, CRect const & client);
     int DrawHeading(CDC & dc, CRect const & area);
     void DrawLane(CDC & dc, Lane const & lane, std::size_t index);

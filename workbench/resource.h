@@ -10,6 +10,7 @@
 
 #define IDD_SETTINGS 101
 #define IDD_DETAILS 102
+#define IDD_PREVIEW 103
 
 // The main window.
 #define IDC_RECORDINGS 1001
@@ -36,6 +37,10 @@
 #define IDC_DETAIL_LABEL_FIRST 1201
 #define IDC_DETAIL_TEXT_FIRST 1221
 
+// The print preview.
+#define IDC_PAGE_FRAME 1301
+#define IDC_PAGE 1302
+
 #define ID_OPEN_FILES 40001
 #define ID_OPEN_FOLDER 40002
 #define ID_RELOAD 40003
@@ -48,6 +53,12 @@
 #define ID_SHOW_SETTINGS 40010
 #define ID_CHOOSE_LANGUAGE 40011
 #define ID_CLOSE_DIALOGS 40012
+#define ID_PRINT_PREVIEW 40013
+#define ID_COPY 40014
+#define ID_COPY_ALL 40015
+#define ID_COPY_SPECTROGRAM 40016
+#define ID_EXPORT_SETTINGS 40017
+#define ID_IMPORT_SETTINGS 40018
 
 // The items of open dialogs in the window menu.
 #define ID_DIALOG_FIRST 41000

@@ -4,12 +4,13 @@
 
 #include <functional>
 
+#include "frame/Export.h"
 #include "windows/SettingsTree.h"
 
 namespace registry_settings
 {
 /// The registry below an application's key as a settings tree.
-class RegistrySettingsTree final : public SettingsTree
+class INSTRUMENT_UI_API RegistrySettingsTree final : public SettingsTree
 {
 public:
     /// applicationKey: opens the application's key, or makes it; it is asked anew each time and its key closed by this

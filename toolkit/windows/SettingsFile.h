@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <iosfwd>
 
+#include "frame/Export.h"
 #include "windows/SettingsTree.h"
 
 namespace registry_settings
@@ -25,7 +26,7 @@ struct settings_file_names
 };
 
 /// The suite's names in a folder; without one, in the process's current folder.
-settings_file_names settings_files(std::filesystem::path const & folder = {});
+INSTRUMENT_UI_API settings_file_names settings_files(std::filesystem::path const & folder = {});
 
 /// Writes version and records; of a name the first units up to the low 16 bits of its length. False at the first failed
 /// write.
@@ -42,10 +43,10 @@ bool read_settings_file(std::filesystem::path const & file, registry_entry_list 
 
 /// Writes the whole tree to the saved file. False if the tree can't be read, and no file is then touched; or if the file
 /// can't be written in full.
-bool export_registry_settings(SettingsTree & tree, settings_file_names const & files);
+INSTRUMENT_UI_API bool export_registry_settings(SettingsTree & tree, settings_file_names const & files);
 
 /// Reads the plain file, gives it its restored name and replaces the tree by it. False if the file is missing, no
 /// settings file, or can't be renamed, and nothing is then changed; or if the tree can't be written (see
 /// write_registry_tree).
-bool import_registry_settings(SettingsTree & tree, settings_file_names const & files);
+INSTRUMENT_UI_API bool import_registry_settings(SettingsTree & tree, settings_file_names const & files);
 } // namespace registry_settings

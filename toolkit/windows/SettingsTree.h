@@ -9,6 +9,8 @@
 #include <string>
 #include <vector>
 
+#include "frame/Export.h"
+
 namespace registry_settings
 {
 /// What a record stands for. A damaged file may hold any other number.
@@ -46,7 +48,7 @@ using registry_entry_list = std::deque<registry_entry>;
 constexpr std::uint32_t value_type_none = 0;
 
 /// The tree, as far as it is needed here. Failures are told by results alone.
-class SettingsTree
+class INSTRUMENT_UI_API SettingsTree
 {
 public:
     /// An open key; 0 is none. Who opens or creates one closes it.

@@ -117,10 +117,23 @@ constexpr Entry c_entries[] = {
     {L"Position", L"Position"},
     {L"Level (dBFS)", L"Pegel (dBFS)"},
     {L"S&pectrogram colours:", L"S&pektrogrammfarben:"},
+    {L"Print Preview", L"Druckvorschau"},
     // Settings.
     {L"Settings", L"Einstellungen"},
     {L"The opacity must be between 20 and 100 percent.", L"Die Deckkraft muss zwischen 20 und 100 Prozent liegen."},
     {L"Choose a folder that is opened at the start:", L"Wählen Sie einen Ordner, der beim Start geöffnet wird:"},
+    {L"Choose the folder for the settings file:", L"Wählen Sie den Ordner für die Einstellungsdatei:"},
+    {L"Choose the folder that has the settings file:", L"Wählen Sie den Ordner mit der Einstellungsdatei:"},
+    {L"The settings could not be written to this file:",
+     L"Die Einstellungen ließen sich nicht in diese Datei schreiben:"},
+    {L"The settings are in this file now:", L"Die Einstellungen stehen jetzt in dieser Datei:"},
+    {L"This folder has no settings file:", L"In diesem Ordner ist keine Einstellungsdatei:"},
+    {L"Replace all settings by those in this file?", L"Alle Einstellungen durch die in dieser Datei ersetzen?"},
+    {L"The settings are those of the file now.", L"Es gelten jetzt die Einstellungen der Datei."},
+    {L"Only a part of the settings could be taken from this file:",
+     L"Nur ein Teil der Einstellungen ließ sich aus dieser Datei übernehmen:"},
+    {L"This is no settings file, or it cannot be read:",
+     L"Dies ist keine Einstellungsdatei, oder sie ist nicht lesbar:"},
     {L"The settings could not be stored.", L"Die Einstellungen ließen sich nicht speichern."},
 };
 
