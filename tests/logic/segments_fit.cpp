@@ -66,6 +66,15 @@ TEST(SegmentFit, ExactHitEndsTheSearchOfItsPointAlone)
     EXPECT_NEAR(BezierError(run, {{1.0 / 3, 0}, {2.0 / 3, 0}}), 4, 1e-12);
 }
 
+// The search goes on from the first of several places that are equally near, and may end at a farther one for that.
+// The numbers are those of curve_error in data/segments/make_expectations.py.
+TEST(SegmentFit, OfPlacesEquallyNearTheFirstIsTaken)
+{
+    EXPECT_NEAR(BezierError(Points{{0, 0}, {0, 0}, {1, 0}, {0, 0}}, {{-6, -3}, {4, -5}}), 1, 1e-9);
+    EXPECT_NEAR(BezierError(Points{{0, 0}, {0, 0}, {4, -3}, {7, 1}}, {{0, 8}, {8, 8}}), 25, 1e-9);
+    EXPECT_NEAR(BezierError(Points{{0, 0}, {0, 0}, {5, -4}, {0, -8}}, {{-4, -7}, {-7, -3}}), 40.2483321333217, 1e-9);
+}
+
 TEST(SegmentFit, CurveAndErrorHaveTheEndsOfTheRun)
 {
     // With controls on the ends the curve is the straight line between them, whatever its pace.
