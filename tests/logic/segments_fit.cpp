@@ -52,7 +52,9 @@ TEST(SegmentFit, ErrorOfAPointOnTheCurveIsNothing)
 TEST(SegmentFit, ErrorOfAPointBeyondAnEndIsMeasuredFromThatEnd)
 {
     EXPECT_EQ(ErrorOfStraight({{5, 0}}), 4);
+    EXPECT_EQ(ErrorOfStraight({{4, 0}}), 1);
     EXPECT_EQ(ErrorOfStraight({{-2, 1}}), 5);
+    EXPECT_EQ(ErrorOfStraight({{-1, 0}}), 1);
 }
 
 TEST(SegmentFit, ErrorsOfAllInnerPointsAreAdded)
@@ -64,6 +66,30 @@ TEST(SegmentFit, ExactHitEndsTheSearchOfItsPointAlone)
 {
     Points const run = {{0, 0}, {0, 0}, {0.5, 2}, {1, 0}};
     EXPECT_NEAR(BezierError(run, {{1.0 / 3, 0}, {2.0 / 3, 0}}), 4, 1e-12);
+}
+
+// The numbers of the next three are those of curve_error in data/segments/make_expectations.py.
+
+TEST(SegmentFit, OfPlacesEquallyNearTheFirstIsTaken)
+{
+    // The search goes on from there, and may end at a farther place for that.
+    EXPECT_NEAR(BezierError(Points{{0, 0}, {0, 0}, {1, 0}, {0, 0}}, {{-6, -3}, {4, -5}}), 1, 1e-9);
+    EXPECT_NEAR(BezierError(Points{{0, 0}, {0, 0}, {4, -3}, {7, 1}}, {{0, 8}, {8, 8}}), 25, 1e-9);
+    EXPECT_NEAR(BezierError(Points{{0, 0}, {0, 0}, {5, -4}, {0, -8}}, {{-4, -7}, {-7, -3}}), 40.2483321333217, 1e-9);
+}
+
+TEST(SegmentFit, PlacesAreLookedAtUpToTheEndAndNotBeyond)
+{
+    EXPECT_NEAR(BezierError(Points{{0, 0}, {0, 0}, {-6, -1}, {0, 2}}, {{6, -6}, {5, 7}}), 37, 1e-9);
+    EXPECT_NEAR(BezierError(Points{{0, 0}, {0, 0}, {1, 6}, {-2, -3}}, {{0, 4}, {-8, -8}}), 28.6597376397437, 1e-9);
+    EXPECT_NEAR(BezierError(Points{{0, 0}, {0, 0}, {6, 4}, {2, 4}}, {{-4, -8}, {-7, -5}}), 16, 1e-9);
+    EXPECT_NEAR(BezierError(Points{{0, 0}, {0, 0}, {-2, 2}, {0, 1}}, {{2, -2}, {5, -7}}), 5, 1e-9);
+}
+
+TEST(SegmentFit, SearchEndsWhereItHardlyMoves)
+{
+    EXPECT_NEAR(BezierError(Points{{0, 0}, {0, 0}, {-5, 5}, {-3, 7}}, {{6, 5}, {-8, -1}}), 0.998326621778948, 1e-9);
+    EXPECT_NEAR(BezierError(Points{{0, 0}, {0, 0}, {3, -5}, {8, -1}}, {{4, 0}, {-2, -4}}), 8.32726483557259, 1e-9);
 }
 
 TEST(SegmentFit, CurveAndErrorHaveTheEndsOfTheRun)

@@ -69,8 +69,9 @@ TEST(SegmentCurves, EveryBitOfTheMaskSelectsItsSegment)
         int segment = -1;
         for (std::string word; words >> word;)
         {
-            if (word == "on" || word == "off")
-                EXPECT_EQ(word == "on", ++segment == bit) << segment << " with bit " << bit;
+            if (word != "on" && word != "off")
+                continue;
+            EXPECT_EQ(word == "on", ++segment == bit) << segment << " with bit " << bit;
         }
         EXPECT_EQ(segment, 13);
         auto const polygons = Polygons(character, design_cell);
