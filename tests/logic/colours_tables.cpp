@@ -228,9 +228,8 @@ TEST(NearestScopeColour, OfAPaletteColourIsItself)
         EXPECT_EQ(ScopeFarbIndex(ScopePalette[index]), index);
 }
 
-TEST(NearestScopeColour, ComparesAllBitsFirstAndThreeChannelsAfterwards)
+TEST(NearestScopeColour, IsFoundByThreeChannelsIfTheFourthByteIsSet)
 {
-    // With a fourth byte no colour is matched exactly; the nearest is found by the rest.
     for (unsigned int index = 0; index < 32; ++index)
         EXPECT_EQ(ScopeFarbIndex(ScopePalette[index] | 0x01000000), index);
 }
