@@ -261,10 +261,10 @@ TEST_P(SettingsProtocol, NamesOfKeysEndAtANullCharacter)
 
 TEST_P(SettingsProtocol, LettersAreTheSameInEitherCase)
 {
-    registry_entry_list list{Begin(u"Key"), Value(u"Name", type_sz, {1}), End(),
-                             Begin(u"KEY"), Value(u"NAME", type_sz, {2}), End()};
+    registry_entry_list list{Begin(u"Key az"), Value(u"Name az", type_sz, {1}), End(),
+                             Begin(u"KEY AZ"), Value(u"NAME AZ", type_sz, {2}), End()};
     ASSERT_TRUE(write_registry_tree(tree, list));
-    EXPECT_EQ(Content(), (registry_entry_list{Begin(u"Key"), Value(u"Name", type_sz, {2}), End()}));
+    EXPECT_EQ(Content(), (registry_entry_list{Begin(u"Key az"), Value(u"Name az", type_sz, {2}), End()}));
 }
 
 TEST_P(SettingsProtocol, AKeyNamedByAPathIsMadeWithItsParents)
