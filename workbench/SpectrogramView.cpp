@@ -304,8 +304,7 @@ std::wstring CSpectrogramView::Details() const
     if (info.channels > 1)
     {
         auto const shown = std::min<std::size_t>(info.channels, workbench::SpectrogramBuilder::c_maximumChannels);
-        details += L"  \u00B7  the loudest of " +
-                   workbench::FormatCount(shown, L"channel", L"channels");
+        details += L"  \u00B7  the loudest of " + workbench::FormatCount(shown, L"channel", L"channels");
     }
     return details;
 }

@@ -14,8 +14,8 @@
 #include "logic/SpectrogramJob.h"
 
 /// Shows the spectrogram of one recording: a heading, the spectrogram with a time and a frequency axis, and a legend of
-/// its colours. While it is computed, on a thread of its own, a progress bar shows instead; where there is nothing to see,
-/// a text says why.
+/// its colours. While it is computed, on a thread of its own, a progress bar shows instead; where there is nothing to
+/// see, a text says why.
 class CSpectrogramView : public CWnd
 {
 public:
@@ -28,7 +28,8 @@ public:
     /// Creates the view. The metrics are the caller's and must outlive the window.
     bool CreateView(CWnd & parent, UINT id, workbench::ScreenMetrics & metrics);
 
-    /// Computes the spectrogram of a file and shows it, or what is wrong with the file. The view must have been created.
+    /// Computes the spectrogram of a file and shows it, or what is wrong with the file. The view must have been
+    /// created.
     void ShowRecording(std::wstring name, std::filesystem::path const & path);
 
     /// Shows a text in place of a spectrogram: a title and a line below it, both may be empty.
@@ -40,9 +41,9 @@ public:
     /// Whether a spectrogram is being computed.
     bool IsComputing() const { return m_job != nullptr; }
 
-    /// Draws what the view shows into a rectangle, in logical units, of any device context: a metafile's or a printer's,
-    /// too. In the place of a progress bar there is a text alone. Lengths and fonts are the screen's; scale them by the
-    /// mapping mode.
+    /// Draws what the view shows into a rectangle, in logical units, of any device context: a metafile's or a
+    /// printer's, too. In the place of a progress bar there is a text alone. Lengths and fonts are the screen's; scale
+    /// them by the mapping mode.
     void Draw(CDC & dc, CRect const & rect);
 
 protected:

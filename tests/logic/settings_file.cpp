@@ -423,8 +423,16 @@ TEST(SettingsTree, AFailureOfTheTreeEndsTheReading)
 TEST(MemorySettingsTree, SubkeysAreInTheOrderOfTheirNamesAndValuesAsTheyCame)
 {
     MemorySettingsTree tree;
-    registry_entry_list list{Value(u"z", type_sz, {}), Value(u"a", type_sz, {}), Begin(u"c"), End(), Begin(u"B"), End(),
-                             Begin(u"a"), End(), Begin(u"_"), End()};
+    registry_entry_list list{Value(u"z", type_sz, {}),
+                             Value(u"a", type_sz, {}),
+                             Begin(u"c"),
+                             End(),
+                             Begin(u"B"),
+                             End(),
+                             Begin(u"a"),
+                             End(),
+                             Begin(u"_"),
+                             End()};
     ASSERT_TRUE(write_registry_tree(tree, list));
     ASSERT_TRUE(read_registry_tree(tree, list));
     EXPECT_EQ(list, (registry_entry_list{Value(u"z", type_sz, {}), Value(u"a", type_sz, {}), Begin(u"a"), End(),
@@ -471,6 +479,37 @@ TEST(MemorySettingsTree, AnOpenKeyThatIsDeletedGivesNothing)
     EXPECT_EQ(tree.CreateSubkey(key, u"B"), 0U);
     tree.EmptyKey(key);
     tree.Close(key);
+}
+
+TEST(MemorySettingsTree, APathHasAnyNumberOfNamesOfFullLength)
+{
+    MemorySettingsTree tree;
+    std::u16string const name(longest_key_name, u'k');
+    SettingsTree::key_t const root = tree.Open({}, SettingsTree::access_t::read);
+    ASSERT_NE(tree.CreateSubkey(root, name + u"\\" + name + u"\\C\\D"), 0U);
+    registry_entry_list list;
+    ASSERT_TRUE(read_registry_tree(tree, list));
+    EXPECT_EQ(list,
+              (registry_entry_list{Begin(name), Begin(name), Begin(u"C"), Begin(u"D"), End(), End(), End(), End()}));
+    EXPECT_EQ(tree.CreateSubkey(root, name + u"k\\C"), 0U);
+}
+
+TEST(MemorySettingsTree, WhatIsNotThereIsNotOpenedAndNotMade)
+{
+    MemorySettingsTree tree;
+    SettingsTree::key_t const root = tree.Open({}, SettingsTree::access_t::read);
+    ASSERT_TRUE(tree.SetValue(root, Value(u"v", type_sz, {1})));
+    ASSERT_NE(tree.CreateSubkey(root, u"A"), 0U);
+    EXPECT_EQ(tree.OpenSubkey(root, u"B"), 0U);
+    EXPECT_EQ(tree.Open(u"B", SettingsTree::access_t::read), 0U);
+    EXPECT_EQ(tree.Count(root).subkeys, 1U);
+    registry_entry entry;
+    std::u16string name;
+    EXPECT_TRUE(tree.DescribeValue(root, 0, entry));
+    EXPECT_FALSE(tree.DescribeValue(root, 1, entry));
+    EXPECT_FALSE(tree.ReadValue(root, 1, entry));
+    EXPECT_TRUE(tree.SubkeyName(root, 0, name));
+    EXPECT_FALSE(tree.SubkeyName(root, 1, name));
 }
 
 TEST(MemorySettingsTree, CheckedRightsAreThoseOfTheOpening)

@@ -26,7 +26,8 @@ using Signal = std::function<double(std::uint64_t frame)>;
 
 Signal Sine(double hertz, double rate, double amplitude = 1.0)
 {
-    return [=](std::uint64_t frame) { return amplitude * std::sin(2 * c_pi * hertz * static_cast<double>(frame) / rate); };
+    return
+        [=](std::uint64_t frame) { return amplitude * std::sin(2 * c_pi * hertz * static_cast<double>(frame) / rate); };
 }
 
 double Silence(std::uint64_t)
@@ -232,7 +233,8 @@ TEST(Spectrogram, FrequenciesReachFromZeroToHalfTheRate)
 TEST(Spectrogram, LevelsAreThoseOfTheSine)
 {
     // On a row's own frequency nothing is lost between rows.
-    for (auto const & [amplitude, entry] : {std::pair(1.0, 31), {0.5, 29}, {0.1, 25}, {0.01, 18}, {0.001, 12}, {1e-5, 0}})
+    for (auto const & [amplitude, entry] :
+         {std::pair(1.0, 31), {0.5, 29}, {0.1, 25}, {0.01, 18}, {0.001, 12}, {1e-5, 0}})
     {
         auto const spectrogram = Build({Sine(64 * 48000.0 / 1024, 48000, amplitude)}, 48000, 20000);
         EXPECT_EQ(spectrogram.Entry(10, 64), entry) << amplitude;
@@ -260,7 +262,8 @@ TEST(Spectrogram, EveryPointIsThatOfAPlainTransform)
             std::vector<double> samples(channels * frames);
             for (std::size_t i = 0; i < samples.size(); ++i)
             {
-                samples[i] = (static_cast<double>(random()) / 2147483648.0 - 1.0) * std::pow(0.1, i * 4 / samples.size());
+                samples[i] =
+                    (static_cast<double>(random()) / 2147483648.0 - 1.0) * std::pow(0.1, i * 4 / samples.size());
                 parts[i % channels].push_back(samples[i]);
             }
             SpectrogramBuilder builder(channels, 3200, frames);
@@ -274,8 +277,8 @@ TEST(Spectrogram, EveryPointIsThatOfAPlainTransform)
                 for (std::size_t row = 0; row < 33; ++row)
                 {
                     ASSERT_TRUE(Matches(spectrogram.Entry(column, row), levels[column][row]))
-                        << channels << " channels, " << frames << " frames, column " << column << ", row " << row << ": "
-                        << spectrogram.Entry(column, row) << " for " << levels[column][row];
+                        << channels << " channels, " << frames << " frames, column " << column << ", row " << row
+                        << ": " << spectrogram.Entry(column, row) << " for " << levels[column][row];
                 }
             }
         }
@@ -566,10 +569,15 @@ TEST(FrequencyTicks, StandAtRoundNumbersAndKeepTheirDistance)
                   {0, L"0 Hz"}, {50, L"5 kHz"}, {100, L"10 kHz"}, {150, L"15 kHz"}, {200, L"20 kHz"}}));
     EXPECT_EQ(FrequencyTicks(24000, 240, 50), FrequencyTicks(24000, 240, 40));
     EXPECT_EQ(FrequencyTicks(24000, 240, 51).size(), 3u);
-    EXPECT_EQ(FrequencyTicks(4000, 400, 50),
-              (std::vector<FrequencyTick>{{0, L"0 Hz"}, {50, L"500 Hz"}, {100, L"1 kHz"}, {150, L"1.5 kHz"},
-                                          {200, L"2 kHz"}, {250, L"2.5 kHz"}, {300, L"3 kHz"}, {350, L"3.5 kHz"},
-                                          {400, L"4 kHz"}}));
+    EXPECT_EQ(FrequencyTicks(4000, 400, 50), (std::vector<FrequencyTick>{{0, L"0 Hz"},
+                                                                         {50, L"500 Hz"},
+                                                                         {100, L"1 kHz"},
+                                                                         {150, L"1.5 kHz"},
+                                                                         {200, L"2 kHz"},
+                                                                         {250, L"2.5 kHz"},
+                                                                         {300, L"3 kHz"},
+                                                                         {350, L"3.5 kHz"},
+                                                                         {400, L"4 kHz"}}));
     EXPECT_EQ(FrequencyTicks(0.5, 100, 40),
               (std::vector<FrequencyTick>{{0, L"0 Hz"}, {40, L"0.2 Hz"}, {80, L"0.4 Hz"}}));
     EXPECT_EQ(FrequencyTicks(22050, 100, 90), (std::vector<FrequencyTick>{{0, L"0 Hz"}, {91, L"20 kHz"}}));

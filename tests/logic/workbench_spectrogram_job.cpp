@@ -34,7 +34,8 @@ protected:
     fs::path const & Recording(std::size_t frames)
     {
         std::vector<std::int16_t> const samples(frames, 1000);
-        auto const file = wav::File().Chunk("fmt ", wav::Format(1, 1, 8000, 2, 16)).Chunk("data", wav::Samples16(samples));
+        auto const file =
+            wav::File().Chunk("fmt ", wav::Format(1, 1, 8000, 2, 16)).Chunk("data", wav::Samples16(samples));
         auto const & bytes = file.Content();
         std::ofstream stream(m_path, std::ios::binary);
         stream.write(reinterpret_cast<char const *>(bytes.data()), static_cast<std::streamsize>(bytes.size()));

@@ -43,8 +43,8 @@ struct FrequencyTick
     bool operator==(FrequencyTick const &) const = default;
 };
 
-/// The ticks of a frequency axis of `height` pixels from 0 up to `highest` hertz. Steps are 1, 2 or 5 of a decimal unit,
-/// and neighbours at least `leastDistance` pixels apart. From 1000 Hz on labels are in kHz. Empty if one of the
+/// The ticks of a frequency axis of `height` pixels from 0 up to `highest` hertz. Steps are 1, 2 or 5 of a decimal
+/// unit, and neighbours at least `leastDistance` pixels apart. From 1000 Hz on labels are in kHz. Empty if one of the
 /// arguments is not above 0.
 std::vector<FrequencyTick> FrequencyTicks(double highest, int height, int leastDistance);
 

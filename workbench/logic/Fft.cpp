@@ -14,8 +14,8 @@ namespace
 
 /// The butterflies of a pair of halves. Plain pointers to four different places let the compiler use wide registers.
 void CombineHalves(float * __restrict firstReal, float * __restrict firstImaginary, float * __restrict secondReal,
-                   float * __restrict secondImaginary, float const * __restrict cosines,
-                   float const * __restrict sines, std::size_t count)
+                   float * __restrict secondImaginary, float const * __restrict cosines, float const * __restrict sines,
+                   std::size_t count)
 {
     for (std::size_t i = 0; i < count; ++i)
     {
@@ -71,8 +71,8 @@ void Fft::Transform(std::span<float> real, std::span<float> imaginary) const
         auto const * const sines = m_sines.data() + half - 1;
         for (std::size_t first = 0; first < size; first += 2 * half)
         {
-            CombineHalves(&real[first], &imaginary[first], &real[first + half], &imaginary[first + half], cosines, sines,
-                          half);
+            CombineHalves(&real[first], &imaginary[first], &real[first + half], &imaginary[first + half], cosines,
+                          sines, half);
         }
     }
 }

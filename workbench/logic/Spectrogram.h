@@ -2,8 +2,8 @@
 // The spectrogram of a recording: the level at each time and frequency, as an entry of a colour scale.
 //
 // Windows of about 20 ms, weighted with a raised cosine, follow one another at half their length. A point shows the
-// loudest of the windows and channels that fall on it, so that a short click is not lost in a long recording. Levels are
-// in dBFS of a sine: one of full scale, 1.0 in the samples, has 0 dBFS.
+// loudest of the windows and channels that fall on it, so that a short click is not lost in a long recording. Levels
+// are in dBFS of a sine: one of full scale, 1.0 in the samples, has 0 dBFS.
 
 #include "logic/Fft.h"
 #include "logic/WavReader.h"
@@ -65,8 +65,8 @@ public:
     std::size_t ColumnOfFrame(std::uint64_t frame) const;
 
     /// A picture of `width` times `height` entries, the top line first: time runs over its whole width and frequency up
-    /// its whole height. Where several points fall on one of the picture, the highest counts. Empty if there is nothing to
-    /// show.
+    /// its whole height. Where several points fall on one of the picture, the highest counts. Empty if there is nothing
+    /// to show.
     std::vector<std::uint8_t> Picture(std::size_t width, std::size_t height) const;
 
 private:
@@ -114,7 +114,7 @@ private:
     std::size_t m_lanes;
     Fft m_fft;
     std::vector<float> m_weights;
-    float m_fullScalePower = 1.0F; ///< what a sine of full scale has in its row
+    float m_fullScalePower = 1.0F;             ///< what a sine of full scale has in its row
     std::vector<std::vector<float>> m_samples; ///< of each lane, what the next window has so far
     std::size_t m_filled = 0;
     std::uint64_t m_framesLeft = 0;
