@@ -39,6 +39,19 @@ private:
     bool m_fails;
 };
 
+/// Tells where it stands, and can't be sought all the same.
+class TellingSource : public PlainSource
+{
+public:
+    using PlainSource::PlainSource;
+
+protected:
+    pos_type seekoff(off_type offset, std::ios::seekdir way, std::ios::openmode) override
+    {
+        return offset == 0 && way == std::ios::cur ? pos_type(gptr() - eback()) : pos_type(off_type(-1));
+    }
+};
+
 /// Takes so many bytes and no more.
 class SmallSink : public std::streambuf
 {
@@ -164,6 +177,11 @@ TEST(SettingsFile, AStreamThatCannotBeSoughtIsReadAllTheSame)
     registry_entry_list list;
     EXPECT_TRUE(read_settings(stream, list));
     EXPECT_EQ(list, records);
+
+    TellingSource telling(FileBytes().Records(records).Text(), false);
+    std::istream tellingStream(&telling);
+    EXPECT_TRUE(read_settings(tellingStream, list));
+    EXPECT_EQ(list, records);
 }
 
 TEST(SettingsFile, LengthsOfADamagedFileTakeNoMemory)
@@ -194,6 +212,24 @@ TEST(SettingsFile, LengthsOfADamagedFileTakeNoMemory)
     std::size_t const beforeName = tests::AllocationsSoFar().bytes;
     EXPECT_TRUE(read_settings(name, list));
     EXPECT_LT(tests::AllocationsSoFar().bytes - beforeName, 200000U);
+}
+
+TEST(SettingsFile, ALengthIsHeldAgainstWhatIsLeftOfTheFile)
+{
+    constexpr std::size_t size = 4'000'000;
+    std::string const bytes = FileBytes()
+                                  .Record(u"a", entry_value, type_binary, Bytes(size, 1))
+                                  .Number(0, 2)
+                                  .Number(entry_value, 4)
+                                  .Number(type_binary, 4)
+                                  .Number(0xFFFFFFFF, 4)
+                                  .Text();
+    std::istringstream stream(bytes);
+    registry_entry_list list;
+    std::size_t const before = tests::AllocationsSoFar().bytes;
+    EXPECT_TRUE(read_settings(stream, list));
+    EXPECT_LT(tests::AllocationsSoFar().bytes - before, size + 300000U);
+    EXPECT_EQ(list.size(), 1U);
 }
 
 TEST(SettingsFile, DataOfAKnownLengthIsAllocatedOnce)
@@ -240,7 +276,9 @@ TEST(SettingsFile, AFolderIsNoFile)
     EXPECT_FALSE(read_settings_file(folder.Path(), list));
     EXPECT_TRUE(list.empty());
     EXPECT_FALSE(write_settings_file(folder.Path(), {}));
+    list = {Begin(u"A")};
     EXPECT_FALSE(read_settings_file(folder.Path() / "missing", list));
+    EXPECT_TRUE(list.empty());
 }
 
 TEST(SettingsFile, FilesWithOtherCharactersInTheirNamesAreFound)
@@ -329,7 +367,8 @@ TEST(SettingsTree, AFailureOfTheTreeEndsTheReading)
         Failing(SettingsTree & tree, int step) : m_tree(tree), m_step(step) {}
         key_t Open(std::u16string const & subkey, access_t access) override
         {
-            return m_step == 0 ? 0 : m_tree.Open(subkey, access);
+            bool const refused = m_step == 0 || (m_step == 5 && access == access_t::read);
+            return refused ? 0 : m_tree.Open(subkey, access);
         }
         key_t OpenSubkey(key_t key, std::u16string const & name) override
         {
@@ -372,15 +411,28 @@ TEST(SettingsTree, AFailureOfTheTreeEndsTheReading)
     EXPECT_FALSE(write_registry_tree(none, list));
     EXPECT_FALSE(registry_key_exists(none, u"A"));
     EXPECT_TRUE(registry_key_exists(tree, u"A")) << "nothing was deleted";
-    Failing sound(tree, 5);
+    Failing sound(tree, 6);
     EXPECT_TRUE(read_registry_tree(sound, list));
+
+    Failing unreadable(tree, 5);
+    list.clear();
+    EXPECT_FALSE(write_registry_tree(unreadable, list)) << "it is deleted and can't be opened again";
+    EXPECT_FALSE(registry_key_exists(tree, u"A"));
 }
 
 TEST(MemorySettingsTree, SubkeysAreInTheOrderOfTheirNamesAndValuesAsTheyCame)
 {
     MemorySettingsTree tree;
-    registry_entry_list list{Value(u"z", type_sz, {}), Value(u"a", type_sz, {}), Begin(u"c"), End(), Begin(u"B"), End(),
-                             Begin(u"a"), End(), Begin(u"_"), End()};
+    registry_entry_list list{Value(u"z", type_sz, {}),
+                             Value(u"a", type_sz, {}),
+                             Begin(u"c"),
+                             End(),
+                             Begin(u"B"),
+                             End(),
+                             Begin(u"a"),
+                             End(),
+                             Begin(u"_"),
+                             End()};
     ASSERT_TRUE(write_registry_tree(tree, list));
     ASSERT_TRUE(read_registry_tree(tree, list));
     EXPECT_EQ(list, (registry_entry_list{Value(u"z", type_sz, {}), Value(u"a", type_sz, {}), Begin(u"a"), End(),
@@ -427,6 +479,37 @@ TEST(MemorySettingsTree, AnOpenKeyThatIsDeletedGivesNothing)
     EXPECT_EQ(tree.CreateSubkey(key, u"B"), 0U);
     tree.EmptyKey(key);
     tree.Close(key);
+}
+
+TEST(MemorySettingsTree, APathHasAnyNumberOfNamesOfFullLength)
+{
+    MemorySettingsTree tree;
+    std::u16string const name(longest_key_name, u'k');
+    SettingsTree::key_t const root = tree.Open({}, SettingsTree::access_t::read);
+    ASSERT_NE(tree.CreateSubkey(root, name + u"\\" + name + u"\\C\\D"), 0U);
+    registry_entry_list list;
+    ASSERT_TRUE(read_registry_tree(tree, list));
+    EXPECT_EQ(list,
+              (registry_entry_list{Begin(name), Begin(name), Begin(u"C"), Begin(u"D"), End(), End(), End(), End()}));
+    EXPECT_EQ(tree.CreateSubkey(root, name + u"k\\C"), 0U);
+}
+
+TEST(MemorySettingsTree, WhatIsNotThereIsNotOpenedAndNotMade)
+{
+    MemorySettingsTree tree;
+    SettingsTree::key_t const root = tree.Open({}, SettingsTree::access_t::read);
+    ASSERT_TRUE(tree.SetValue(root, Value(u"v", type_sz, {1})));
+    ASSERT_NE(tree.CreateSubkey(root, u"A"), 0U);
+    EXPECT_EQ(tree.OpenSubkey(root, u"B"), 0U);
+    EXPECT_EQ(tree.Open(u"B", SettingsTree::access_t::read), 0U);
+    EXPECT_EQ(tree.Count(root).subkeys, 1U);
+    registry_entry entry;
+    std::u16string name;
+    EXPECT_TRUE(tree.DescribeValue(root, 0, entry));
+    EXPECT_FALSE(tree.DescribeValue(root, 1, entry));
+    EXPECT_FALSE(tree.ReadValue(root, 1, entry));
+    EXPECT_TRUE(tree.SubkeyName(root, 0, name));
+    EXPECT_FALSE(tree.SubkeyName(root, 1, name));
 }
 
 TEST(MemorySettingsTree, CheckedRightsAreThoseOfTheOpening)

@@ -29,9 +29,8 @@ private:
 };
 } // namespace
 
-INSTANTIATE_TEST_SUITE_P(Memory, SettingsProtocol, testing::Values([] {
-                             return std::unique_ptr<TreeHost>(std::make_unique<MemoryHost>());
-                         }));
+INSTANTIATE_TEST_SUITE_P(Memory, SettingsProtocol,
+                         testing::Values([] { return std::unique_ptr<TreeHost>(std::make_unique<MemoryHost>()); }));
 INSTANTIATE_TEST_SUITE_P(CheckedMemory, SettingsProtocol, testing::Values([] {
                              return std::unique_ptr<TreeHost>(std::make_unique<CheckedMemoryHost>());
                          }));
@@ -60,18 +59,18 @@ TEST_P(SettingsProtocol, AnEmptyKeyIsABeginAndAnEnd)
 {
     Fill({Begin(u"K\u20AC"), End()});
     ASSERT_TRUE(export_registry_settings(tree, files));
-    EXPECT_EQ(ReadBytes(files.saved), (Bytes{1,                                                           //
+    EXPECT_EQ(ReadBytes(files.saved), (Bytes{1,                                                            //
                                              2, 0, 'K', 0, 0xAC, 0x20, 2, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, //
-                                             0, 0, 3, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0}));
+                                             0, 0, 3,   0, 0,    0,    0, 0, 0, 0, 0, 0, 0, 0}));
 }
 
 TEST_P(SettingsProtocol, AKeysValuesComeBeforeItsSubkeysAndTheRootsFirst)
 {
-    Fill({Begin(u"A"), Begin(u"AA"), Value(u"v", type_dword, {1, 0, 0, 0}), End(), Value(u"v", type_dword, {2, 0, 0, 0}),
-          End(), Begin(u"B"), End(), Value(u"v", type_dword, {3, 0, 0, 0})});
-    EXPECT_EQ(Content(), (registry_entry_list{Value(u"v", type_dword, {3, 0, 0, 0}), Begin(u"A"),
-                                              Value(u"v", type_dword, {2, 0, 0, 0}), Begin(u"AA"),
-                                              Value(u"v", type_dword, {1, 0, 0, 0}), End(), End(), Begin(u"B"), End()}));
+    Fill({Begin(u"A"), Begin(u"AA"), Value(u"v", type_dword, {1, 0, 0, 0}), End(),
+          Value(u"v", type_dword, {2, 0, 0, 0}), End(), Begin(u"B"), End(), Value(u"v", type_dword, {3, 0, 0, 0})});
+    EXPECT_EQ(Content(), (registry_entry_list{
+                             Value(u"v", type_dword, {3, 0, 0, 0}), Begin(u"A"), Value(u"v", type_dword, {2, 0, 0, 0}),
+                             Begin(u"AA"), Value(u"v", type_dword, {1, 0, 0, 0}), End(), End(), Begin(u"B"), End()}));
 }
 
 TEST_P(SettingsProtocol, TheExportOverwritesALongerFile)
@@ -88,7 +87,7 @@ TEST_P(SettingsProtocol, AnImportReplacesTheTreeAndTakesThePlainNameAway)
 {
     Fill({Begin(u"Old"), End()});
     registry_entry_list const list{Begin(u"A"), Value(u"a", type_dword, {1, 0, 0, 0}), Begin(u"AA"), End(), End(),
-                                   Begin(u"B"), Value(u"", type_qword, Bytes(8, 9)), End()};
+                                   Begin(u"B"), Value(u"", type_qword, Bytes(8, 9)),   End()};
     Bytes const bytes = FileBytes().Records(list).Get();
     WriteBytes(files.plain, bytes);
     WriteBytes(files.restored, {42});
@@ -182,8 +181,8 @@ TEST_P(SettingsProtocol, TextKeepsTheTerminatorsThatItHas)
     registry_entry_list list{Begin(u"A")};
     char16_t name = u'a';
     for (std::uint32_t const type : {type_sz, type_expand_sz, type_multi_sz})
-        for (Bytes const & data : {Bytes{}, Bytes{'x'}, Bytes{'x', 0}, Bytes{'x', 0, 'y'}, Bytes{'x', 0, 0}, Bytes{0, 0},
-                                   Bytes{'x', 0, 0, 0}, Bytes{'x', 0, 0, 0, 0, 0}, Bytes(64, 'x')})
+        for (Bytes const & data : {Bytes{}, Bytes{'x'}, Bytes{'x', 0}, Bytes{'x', 0, 'y'}, Bytes{'x', 0, 0},
+                                   Bytes{0, 0}, Bytes{'x', 0, 0, 0}, Bytes{'x', 0, 0, 0, 0, 0}, Bytes(64, 'x')})
             list.push_back(Value(std::u16string(1, name++), type, data));
     list.push_back(End());
     Fill(list);
@@ -261,15 +260,16 @@ TEST_P(SettingsProtocol, NamesOfKeysEndAtANullCharacter)
 
 TEST_P(SettingsProtocol, LettersAreTheSameInEitherCase)
 {
-    registry_entry_list list{Begin(u"Key"), Value(u"Name", type_sz, {1}), End(),
-                             Begin(u"KEY"), Value(u"NAME", type_sz, {2}), End()};
+    registry_entry_list list{Begin(u"Key az"), Value(u"Name az", type_sz, {1}), End(),
+                             Begin(u"KEY AZ"), Value(u"NAME AZ", type_sz, {2}), End()};
     ASSERT_TRUE(write_registry_tree(tree, list));
-    EXPECT_EQ(Content(), (registry_entry_list{Begin(u"Key"), Value(u"Name", type_sz, {2}), End()}));
+    EXPECT_EQ(Content(), (registry_entry_list{Begin(u"Key az"), Value(u"Name az", type_sz, {2}), End()}));
 }
 
 TEST_P(SettingsProtocol, AKeyNamedByAPathIsMadeWithItsParents)
 {
-    registry_entry_list list{Begin(u"A\\B"), Value(u"v\\w", type_sz, {1}), End(), Begin(u""), Begin(u"C"), End(), End()};
+    registry_entry_list list{Begin(u"A\\B"), Value(u"v\\w", type_sz, {1}), End(), Begin(u""), Begin(u"C"), End(),
+                             End()};
     ASSERT_TRUE(write_registry_tree(tree, list));
     EXPECT_EQ(Content(), (registry_entry_list{Begin(u"A"), Begin(u"B"), Value(u"v\\w", type_sz, {1}), End(), End(),
                                               Begin(u"C"), End()}));
