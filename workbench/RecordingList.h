@@ -72,8 +72,8 @@ public:
     int LineAt(int row) const;
     int PlaceOf(int line) const;
 
-    /// Sorts the lines by a column, whose title gets the arrow; lines without a value there come last. The column of the
-    /// check boxes sorts nothing.
+    /// Sorts the lines by a column, whose title gets the arrow; lines without a value there come last. The column of
+    /// the check boxes sorts nothing.
     void SortLines(Column column, bool ascending);
 
     /// Copies the selected lines, or all of them, as a table for other programs: as text and as HTML. Without a

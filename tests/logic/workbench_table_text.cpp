@@ -20,7 +20,8 @@ TextTable SmallTable()
 /// The HTML of a table of one cell with that text.
 std::wstring HtmlOf(std::wstring const & text)
 {
-    std::wstring const before = L"<table border=\"1\">\r\n<tr><th align=\"left\">t</th></tr>\r\n<tr><td align=\"left\">";
+    std::wstring const before =
+        L"<table border=\"1\">\r\n<tr><th align=\"left\">t</th></tr>\r\n<tr><td align=\"left\">";
     std::wstring const after = L"</td></tr>\r\n</table>";
     auto const html = HtmlTable({{{L"t", false}}, {{text}}});
     if (html.size() < before.size() + after.size() || html.substr(0, before.size()) != before ||
@@ -48,12 +49,11 @@ TEST(PlainTableText, KeepsEachTextInItsField)
 
 TEST(HtmlTableText, HasTitlesAndAlignment)
 {
-    EXPECT_EQ(HtmlTable(SmallTable()),
-              L"<table border=\"1\">\r\n"
-              L"<tr><th align=\"left\">Name</th><th align=\"right\">Peak</th></tr>\r\n"
-              L"<tr><td align=\"left\">a.wav</td><td align=\"right\">-6.0</td></tr>\r\n"
-              L"<tr><td align=\"left\">b.wav</td><td align=\"right\"></td></tr>\r\n"
-              L"</table>");
+    EXPECT_EQ(HtmlTable(SmallTable()), L"<table border=\"1\">\r\n"
+                                       L"<tr><th align=\"left\">Name</th><th align=\"right\">Peak</th></tr>\r\n"
+                                       L"<tr><td align=\"left\">a.wav</td><td align=\"right\">-6.0</td></tr>\r\n"
+                                       L"<tr><td align=\"left\">b.wav</td><td align=\"right\"></td></tr>\r\n"
+                                       L"</table>");
 }
 
 TEST(HtmlTableText, MarkupInATextIsText)
@@ -64,7 +64,9 @@ TEST(HtmlTableText, MarkupInATextIsText)
 
 TEST(HtmlTableText, LineBreaksAreKeptAndControlCharactersLeftOut)
 {
-    EXPECT_EQ(HtmlOf(L"a\r\nb\nc\td\x01\x1F\x7F" L"e"), L"a<br>b<br>c de");
+    EXPECT_EQ(HtmlOf(L"a\r\nb\nc\td\x01\x1F\x7F"
+                     L"e"),
+              L"a<br>b<br>c de");
     EXPECT_EQ(HtmlOf(std::wstring(L"a\0b", 3)), L"ab");
 }
 
@@ -103,8 +105,7 @@ TEST(HtmlTableText, IsAsciiForAnyText)
 
 TEST(HtmlTableText, TextsWithoutATitleAreLeftOut)
 {
-    EXPECT_EQ(HtmlTable({{{L"t", false}}, {{L"1", L"2"}}}),
-              HtmlTable({{{L"t", false}}, {{L"1"}}}));
+    EXPECT_EQ(HtmlTable({{{L"t", false}}, {{L"1", L"2"}}}), HtmlTable({{{L"t", false}}, {{L"1"}}}));
 }
 
 } // namespace

@@ -120,7 +120,6 @@ private:
     int m_shift = 8;
 };
 
-
 TEST_F(ListDrag, SwapsTheTwoRowsAndLeavesThoseBetween)
 {
     m_list.SetItemText(5, 2, L"five");
@@ -150,8 +149,8 @@ TEST_F(ListDrag, IsOffUntilItIsEnabled)
     notification.hdr.code = LVN_BEGINDRAG;
     notification.iItem = 1;
     LRESULT result = 5;
-    EXPECT_FALSE(other.list.OnChildNotify(WM_NOTIFY, notification.hdr.idFrom, reinterpret_cast<LPARAM>(&notification),
-                                          &result));
+    EXPECT_FALSE(
+        other.list.OnChildNotify(WM_NOTIFY, notification.hdr.idFrom, reinterpret_cast<LPARAM>(&notification), &result));
     EXPECT_EQ(result, 5);
     EXPECT_NE(::GetCapture(), other.list.m_hWnd);
 }
@@ -166,14 +165,14 @@ TEST_F(ListDrag, TheBeginningIsKeptFromTheParent)
     notification.hdr.code = LVN_BEGINDRAG;
     notification.iItem = 1;
     LRESULT result = 5;
-    EXPECT_TRUE(m_list.OnChildNotify(WM_NOTIFY, notification.hdr.idFrom, reinterpret_cast<LPARAM>(&notification),
-                                     &result));
+    EXPECT_TRUE(
+        m_list.OnChildNotify(WM_NOTIFY, notification.hdr.idFrom, reinterpret_cast<LPARAM>(&notification), &result));
     EXPECT_EQ(result, 0);
     EXPECT_TRUE(Captured());
     // Any other notification is treated as ever.
     notification.hdr.code = LVN_BEGINRDRAG;
-    EXPECT_FALSE(m_list.OnChildNotify(WM_NOTIFY, notification.hdr.idFrom, reinterpret_cast<LPARAM>(&notification),
-                                      &result));
+    EXPECT_FALSE(
+        m_list.OnChildNotify(WM_NOTIFY, notification.hdr.idFrom, reinterpret_cast<LPARAM>(&notification), &result));
     ::ReleaseCapture();
 }
 
@@ -432,9 +431,7 @@ TEST_F(ListDrag, RepaintsBothRowsAfterTheDrop)
     m_list.UpdateWindow();
     m_list.TakeUpdateRect();
     CRect update;
-    m_list.m_onRowsSwapped = [&](int, int) {
-        m_list.GetUpdateRect(&update);
-    };
+    m_list.m_onRowsSwapped = [&](int, int) { m_list.GetUpdateRect(&update); };
     CRect second;
     CRect fifth;
     ASSERT_TRUE(m_list.GetItemRect(2, &second, LVIR_BOUNDS));
@@ -596,9 +593,9 @@ TEST_F(ListDrag, ThePictureIsHiddenWhileRowsAreRepainted)
 {
     wchar_t const module[] = L"instrument_ui.dll";
     tests::ImportPatch const patches[] = {
-        {module, "ImageList_BeginDrag", &BeginDrag},     {module, "ImageList_DragEnter", &DragEnter},
-        {module, "ImageList_DragMove", &DragMove},       {module, "ImageList_DragShowNolock", &DragShow},
-        {module, "ImageList_DragLeave", &DragLeave},     {module, "ImageList_EndDrag", &EndDrag},
+        {module, "ImageList_BeginDrag", &BeginDrag}, {module, "ImageList_DragEnter", &DragEnter},
+        {module, "ImageList_DragMove", &DragMove},   {module, "ImageList_DragShowNolock", &DragShow},
+        {module, "ImageList_DragLeave", &DragLeave}, {module, "ImageList_EndDrag", &EndDrag},
         {module, "ImageList_AddMasked", &AddMasked}};
     for (auto const & patch : patches)
         ASSERT_TRUE(patch.Done());

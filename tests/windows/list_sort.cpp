@@ -58,7 +58,6 @@ protected:
     TestList & m_list = m_host.list;
 };
 
-
 TEST_F(ListSort, PutsNumbersInOrderInBothDirections)
 {
     FillNumbers({3, 1, 2});

@@ -19,8 +19,8 @@ struct TextTable
     std::vector<std::vector<std::wstring>> rows;
 };
 
-/// The table as lines that end with carriage return and line feed, tabs between the texts. Tabs and line breaks within a
-/// text become blanks.
+/// The table as lines that end with carriage return and line feed, tabs between the texts. Tabs and line breaks within
+/// a text become blanks.
 std::wstring PlainTable(TextTable const & table);
 
 /// The table as an HTML fragment in plain ASCII: other characters are numeric references. Line breaks within a text are

@@ -31,7 +31,8 @@ struct Recording
 };
 // Two peaks have the same whole percent on their bar.
 constexpr Recording recordings[] = {
-    {L"b.wav", 3000, -6.0}, {L"e.wav", 1000, -6.4}, {L"a.wav", 0, 0.0}, {L"d.wav", 10000, -6.2}, {L"c.wav", 2000, -40.0},
+    {L"b.wav", 3000, -6.0},  {L"e.wav", 1000, -6.4},  {L"a.wav", 0, 0.0},
+    {L"d.wav", 10000, -6.2}, {L"c.wav", 2000, -40.0},
 };
 constexpr int unreadable = 2;
 
