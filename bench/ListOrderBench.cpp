@@ -137,8 +137,7 @@ bool bench::ExportingAList()
     std::vector<double> reference;
     for (int round = 0; round < rounds; ++round)
     {
-        ours.push_back(Nanoseconds(
-            [&] { done = lists.own.ExportToClipboard(true, 0, -1, 0, -1) && done; }));
+        ours.push_back(Nanoseconds([&] { done = lists.own.ExportToClipboard(true, 0, -1, 0, -1) && done; }));
         // The texts of one column, read one by one.
         reference.push_back(Nanoseconds([&] {
             for (int row = 0; row < row_count; ++row)

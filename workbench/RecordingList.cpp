@@ -1,4 +1,5 @@
-// The list's columns, selection and input; its lines' contents are in RecordingListLines.cpp.
+// The list's columns, selection and input; its lines' contents are in RecordingListLines.cpp, their order and copies of
+// them in RecordingListOrder.cpp.
 
 #include "RecordingList.h"
 
@@ -70,6 +71,9 @@ BEGIN_MESSAGE_MAP(CRecordingList, CXListCtrl)
     ON_NOTIFY_REFLECT_EX(LVN_ITEMCHANGED, &CRecordingList::OnItemChanged)
     ON_WM_KEYDOWN()
     ON_WM_CONTEXTMENU()
+    ON_NOTIFY_REFLECT_EX(LVN_COLUMNCLICK, &CRecordingList::OnTitleClick)
+    ON_WM_MOUSEMOVE()
+    ON_WM_LBUTTONUP()
 END_MESSAGE_MAP()
 
 bool CRecordingList::CreateList(CWnd & parent, UINT id, workbench::ScreenMetrics & metrics)
@@ -85,6 +89,8 @@ bool CRecordingList::CreateList(CWnd & parent, UINT id, workbench::ScreenMetrics
     SetFont(&metrics.Font(), FALSE);
     SetEmptyListText(Text(L"No recordings. Open files or a folder."));
     SetHeaderAutoCheckbox(true);
+    EnableDragAndDrop();
+    m_onRowsSwapped = [this](int, int) { ForgetOrder(); };
     for (int i = 0; i < static_cast<int>(std::size(c_ratings)); ++i)
     {
         GlobalComboStringsInsert(i, Text(c_ratings[i]));
@@ -199,50 +205,51 @@ void CRecordingList::FitColumns()
 int CRecordingList::ChosenLine() const
 {
     auto const focused = GetNextItem(-1, LVNI_SELECTED | LVNI_FOCUSED);
-    return focused >= 0 ? focused : GetSelectedItem();
+    return LineAt(focused >= 0 ? focused : GetSelectedItem());
 }
 
 void CRecordingList::ChooseLine(int line)
 {
+    auto const row = PlaceOf(line);
     for (auto other = GetSelectedItem(); other >= 0; other = GetSelectedItemAfter(other))
     {
-        if (other != line)
+        if (other != row)
         {
             SetItemState(other, 0, LVIS_SELECTED | LVIS_FOCUSED);
         }
     }
-    if (line >= 0)
+    if (row >= 0)
     {
-        SetCurSel(line, true);
+        SetCurSel(row, true);
     }
 }
 
-void CRecordingList::SetChecked(int line, bool checked)
+void CRecordingList::SetChecked(int row, bool checked)
 {
-    auto const state = GetCheckbox(line, column_check);
+    auto const state = GetCheckbox(row, column_check);
     auto const wanted = checked ? XLC_CHECKED : XLC_UNCHECKED;
     if ((state == XLC_CHECKED || state == XLC_UNCHECKED) && state != wanted)
     {
-        SetCheckbox(line, column_check, wanted);
-        SetModified(line, column_check, true);
-        OnItemStateChange(line, column_check, WM_XLISTCTRL_CHECKBOX_CLICKED);
+        SetCheckbox(row, column_check, wanted);
+        SetModified(row, column_check, true);
+        OnItemStateChange(row, column_check, WM_XLISTCTRL_CHECKBOX_CLICKED);
     }
 }
 
 void CRecordingList::CheckAll(bool checked)
 {
-    for (int line = 0; line < GetItemCount(); ++line)
+    for (int row = 0; row < GetItemCount(); ++row)
     {
-        SetChecked(line, checked);
+        SetChecked(row, checked);
     }
 }
 
 void CRecordingList::ToggleSelected()
 {
     auto const checked = !IsChecked(ChosenLine());
-    for (auto line = GetSelectedItem(); line >= 0; line = GetSelectedItemAfter(line))
+    for (auto row = GetSelectedItem(); row >= 0; row = GetSelectedItemAfter(row))
     {
-        SetChecked(line, checked);
+        SetChecked(row, checked);
     }
 }
 
@@ -259,22 +266,23 @@ void CRecordingList::ShowHeaderCheck()
 
 void CRecordingList::SetReference(int line)
 {
-    if (GetItemCheckedState(line, column_reference) == XLC_RADIO_OFF)
+    auto const row = PlaceOf(line);
+    if (GetItemCheckedState(row, column_reference) == XLC_RADIO_OFF)
     {
-        SetRadioButton(line, column_reference, XLC_RADIO_ON);
-        SetModified(line, column_reference, true);
-        OnItemStateChange(line, column_reference, WM_XLISTCTRL_CHECKBOX_CLICKED);
+        SetRadioButton(row, column_reference, XLC_RADIO_ON);
+        SetModified(row, column_reference, true);
+        OnItemStateChange(row, column_reference, WM_XLISTCTRL_CHECKBOX_CLICKED);
     }
 }
 
 void CRecordingList::ShowReference()
 {
-    auto const reference = ReferenceLine();
-    for (int line = 0; line < GetItemCount(); ++line)
+    auto const reference = GetActiveRadioItem(column_reference);
+    for (int row = 0; row < GetItemCount(); ++row)
     {
-        if (GetBold(line, column_name) != (line == reference))
+        if (GetBold(row, column_name) != (row == reference))
         {
-            SetBold(line, column_name, line == reference);
+            SetBold(row, column_name, row == reference);
         }
     }
 }
@@ -282,7 +290,7 @@ void CRecordingList::ShowReference()
 CPoint CRecordingList::CellCentre(int line, Column column)
 {
     CRect rect;
-    GetSubItemRect(line, column, LVIR_BOUNDS, rect);
+    GetSubItemRect(PlaceOf(line), column, LVIR_BOUNDS, rect);
     return rect.CenterPoint();
 }
 
@@ -318,9 +326,9 @@ BOOL CRecordingList::OnItemChanged(NMHDR * header, LRESULT * result)
 /// The system's list view leaves the first two pixels of a line out when it repaints a selection.
 void CRecordingList::RepaintSelected()
 {
-    for (auto line = GetSelectedItem(); line >= 0; line = GetSelectedItemAfter(line))
+    for (auto row = GetSelectedItem(); row >= 0; row = GetSelectedItemAfter(row))
     {
-        UpdateSubItem(line, column_check);
+        UpdateSubItem(row, column_check);
     }
 }
 
@@ -329,10 +337,10 @@ BOOL CRecordingList::OnEraseBkgnd(CDC * dc)
 {
     auto const result = CXListCtrl::OnEraseBkgnd(dc);
     auto const end = std::min(GetTopIndex() + GetCountPerPage() + 1, GetItemCount());
-    for (auto line = GetTopIndex(); line < end; ++line)
+    for (auto row = GetTopIndex(); row < end; ++row)
     {
         CRect cell;
-        if (GetItemProperty(line, column_peak, XLP_PROGRESS) && GetSubItemRect(line, column_peak, LVIR_BOUNDS, cell))
+        if (GetItemProperty(row, column_peak, XLP_PROGRESS) && GetSubItemRect(row, column_peak, LVIR_BOUNDS, cell))
         {
             dc->FillSolidRect(cell.left, cell.top, 1, cell.Height(), ::GetSysColor(COLOR_WINDOW));
             dc->FillSolidRect(cell.left, cell.bottom - 1, cell.Width(), 1, ::GetSysColor(COLOR_WINDOW));
@@ -348,17 +356,22 @@ void CRecordingList::OnKeyDown(UINT key, UINT repeat, UINT flags)
         ToggleSelected();
         return;
     }
+    if (key == L'C' && ::GetKeyState(VK_CONTROL) < 0 && ::GetKeyState(VK_SHIFT) >= 0 && ::GetKeyState(VK_MENU) >= 0)
+    {
+        CopyToClipboard(false);
+        return;
+    }
     CXListCtrl::OnKeyDown(key, repeat, flags);
 }
 
 void CRecordingList::OnContextMenu(CWnd * window, CPoint point)
 {
-    auto line = ChosenLine();
-    if (point == CPoint(-1, -1) && line >= 0)
+    auto row = PlaceOf(ChosenLine());
+    if (point == CPoint(-1, -1) && row >= 0)
     {
         // By the keyboard: the menu opens at the chosen line.
-        EnsureVisible(line, FALSE);
-        point = CellCentre(line, column_name);
+        EnsureVisible(row, FALSE);
+        point = CellCentre(LineAt(row), column_name);
         ClientToScreen(&point);
     }
     else
@@ -366,9 +379,9 @@ void CRecordingList::OnContextMenu(CWnd * window, CPoint point)
         auto client = point;
         ScreenToClient(&client);
         int column = 0;
-        line = GetPointItem(client, column);
+        row = GetPointItem(client, column);
     }
-    auto const readable = GetItemCheckedState(line, column_reference) != XLC_NONE;
+    auto const readable = GetItemCheckedState(row, column_reference) != XLC_NONE;
     PopUpMenu().EnableMenuItem(ID_SET_REFERENCE, MF_BYCOMMAND | (readable ? MF_ENABLED : MF_GRAYED));
     CXListCtrl::OnContextMenu(window, point);
 }

@@ -44,12 +44,13 @@ void CRecordingList::ShowFiles(std::vector<std::filesystem::path> const & files,
     SetBatchInsertMode(true);
     DeleteAllItems();
     m_needs = m_least;
+    ForgetOrder();
     for (std::size_t i = 0; i < files.size(); ++i)
     {
-        auto const line = AddItem(L"", nullptr, static_cast<long long>(i));
-        if (line >= 0)
+        auto const row = AddItem(L"", nullptr, static_cast<long long>(i));
+        if (row >= 0)
         {
-            PrepareLine(line, files[i], notes[i]);
+            PrepareRow(row, files[i], notes[i]);
         }
     }
     ShowHeaderCheck();
@@ -61,41 +62,47 @@ void CRecordingList::ShowFiles(std::vector<std::filesystem::path> const & files,
 
 void CRecordingList::ShowReading(int line, std::filesystem::path const & file)
 {
-    PrepareLine(line, file, NotesOf(line));
-    ShowReference();
+    auto const row = PlaceOf(line);
+    if (row >= 0)
+    {
+        PrepareRow(row, file, NotesAt(row));
+        ShowReference();
+    }
 }
 
 /// Makes the cells what they are for a recording that can be read, without its values.
-void CRecordingList::PrepareLine(int line, std::filesystem::path const & file, Notes const & notes)
+void CRecordingList::PrepareRow(int row, std::filesystem::path const & file, Notes const & notes)
 {
     auto const name = file.filename().wstring();
-    SetEnabled(line, true);
-    RemoveCustomDraw(line, column_overview);
-    DeleteProgress(line, column_peak);
-    SetRowColors(line, ::GetSysColor(COLOR_WINDOWTEXT), ::GetSysColor(COLOR_WINDOW));
+    SetEnabled(row, true);
+    RemoveCustomDraw(row, column_overview);
+    DeleteProgress(row, column_peak);
+    SetRowColors(row, ::GetSysColor(COLOR_WINDOWTEXT), ::GetSysColor(COLOR_WINDOW));
     for (int column = column_overview; column < column_rating; ++column)
     {
-        SetItemText(line, column, L"");
-        SetItemColors(line, column, ::GetSysColor(COLOR_WINDOWTEXT), ::GetSysColor(COLOR_WINDOW),
+        SetItemText(row, column, L"");
+        SetItemColors(row, column, ::GetSysColor(COLOR_WINDOWTEXT), ::GetSysColor(COLOR_WINDOW),
                       XLISTCTRLDATA::no_gradient);
     }
 
-    SetCheckbox(line, column_check, notes.checked ? XLC_CHECKED : XLC_UNCHECKED);
-    SetItemText(line, column_name, name.c_str());
-    SetHyperlink(line, column_name, true, true);
-    SetItemToolTipText(line, column_name, file.c_str());
-    SetRadioButton(line, column_reference, notes.reference ? XLC_RADIO_ON : XLC_RADIO_OFF);
-    SetComboBoxGlobalStrings(line, column_rating, notes.rating, 0);
-    SetItemText(line, column_comment, notes.comment.c_str());
-    SetEdit(line, column_comment, true);
-    SetItemText(line, column_status, workbench::Text(c_readingText));
-    SetItemImage(line, column_status, -1);
+    SetCheckbox(row, column_check, notes.checked ? XLC_CHECKED : XLC_UNCHECKED);
+    SetItemText(row, column_name, name.c_str());
+    SetHyperlink(row, column_name, true, true);
+    SetItemToolTipText(row, column_name, file.c_str());
+    SetRadioButton(row, column_reference, notes.reference ? XLC_RADIO_ON : XLC_RADIO_OFF);
+    SetComboBoxGlobalStrings(row, column_rating, notes.rating, 0);
+    SetItemText(row, column_comment, notes.comment.c_str());
+    SetEdit(row, column_comment, true);
+    SetItemText(row, column_status, workbench::Text(c_readingText));
+    SetItemImage(row, column_status, -1);
+    SortValuesLast(row, true);
     Require(column_name, WidthOf(name));
 }
 
 void CRecordingList::ShowAnalysis(int line, std::shared_ptr<workbench::RecordingAnalysis const> const & analysis)
 {
-    if (line < 0 || line >= GetItemCount())
+    auto const row = PlaceOf(line);
+    if (row < 0)
     {
         return;
     }
@@ -103,98 +110,100 @@ void CRecordingList::ShowAnalysis(int line, std::shared_ptr<workbench::Recording
     {
         CTime const time(*analysis->file.lastWrite);
         auto const text = UserDateTimeText(time, dtf_date_time_without_seconds);
-        SetItemText(line, column_date, text);
-        SetItemDatetime(line, column_date, time);
+        SetItemText(row, column_date, text);
+        SetItemDatetime(row, column_date, time);
+        SetItemProperty(row, column_date, XLP_SORT_LAST, false);
         Require(column_date, WidthOf(text.GetString()));
     }
-    ShowStatus(line, *analysis);
+    ShowStatus(row, *analysis);
     if (analysis->problem)
     {
-        ShowProblem(line, *analysis);
+        ShowProblem(row, *analysis);
     }
     else
     {
-        ShowValues(line, analysis);
+        ShowValues(row, analysis);
     }
     FitColumns();
 }
 
-void CRecordingList::ShowStatus(int line, workbench::RecordingAnalysis const & analysis)
+void CRecordingList::ShowStatus(int row, workbench::RecordingAnalysis const & analysis)
 {
     auto const damaged = analysis.info.IsCutOff() || analysis.invalidSamples > 0;
     auto const status = analysis.StatusText();
-    SetItemText(line, column_status, status.c_str());
-    SetItemImage(line, column_status, analysis.problem ? c_imageUnreadable : damaged ? c_imageDamaged : c_imageOk);
+    SetItemText(row, column_status, status.c_str());
+    SetItemImage(row, column_status, analysis.problem ? c_imageUnreadable : damaged ? c_imageDamaged : c_imageOk);
     Require(column_status, WidthOf(status) + c_imageRoom);
 }
 
-void CRecordingList::ShowValues(int line, std::shared_ptr<workbench::RecordingAnalysis const> const & analysis)
+void CRecordingList::ShowValues(int row, std::shared_ptr<workbench::RecordingAnalysis const> const & analysis)
 {
     auto const & info = analysis->info;
     auto const duration = AtRightEdge(workbench::FormatDuration(info.frames, info.sampleRate));
     auto const milliseconds = workbench::DurationMilliseconds(info.frames, info.sampleRate);
-    SetItemFloatVal(line, column_duration, static_cast<float>(milliseconds) / 1000.0F, duration.c_str());
+    SetItemFloatVal(row, column_duration, static_cast<float>(milliseconds) / 1000.0F, duration.c_str());
     Require(column_duration, WidthOf(duration));
-    SetItemText(line, column_channels, static_cast<int>(info.channels));
-    SetItemText(line, column_rate, static_cast<int>(info.sampleRate));
+    SetItemText(row, column_channels, static_cast<int>(info.channels));
+    SetItemText(row, column_rate, static_cast<int>(info.sampleRate));
     Require(column_rate, WidthOf(std::to_wstring(info.sampleRate)));
 
     // The bar's text is made with a whole number; to show tenths, the finished text is its format.
     auto const peak = workbench::FormatLevel(analysis->levels.peak);
-    SetProgress(line, column_peak, true, peak.c_str());
-    SetItemFloatVal(line, column_peak, static_cast<float>(analysis->levels.peak), peak.c_str());
-    SetItemColors(line, column_peak, ::GetSysColor(COLOR_WINDOWTEXT),
+    SetProgress(row, column_peak, true, peak.c_str());
+    SetItemFloatVal(row, column_peak, static_cast<float>(analysis->levels.peak), peak.c_str());
+    SetItemColors(row, column_peak, ::GetSysColor(COLOR_WINDOWTEXT),
                   analysis->levels.peak > 0.0 ? c_clippedColour : c_barColour, XLISTCTRLDATA::no_gradient);
-    UpdateProgress(line, column_peak, std::max(workbench::LevelBarPercent(analysis->levels.peak), c_leastBarPercent),
+    UpdateProgress(row, column_peak, std::max(workbench::LevelBarPercent(analysis->levels.peak), c_leastBarPercent),
                    0);
 
     auto const rms = AtRightEdge(workbench::FormatLevel(analysis->levels.rms));
-    SetItemFloatVal(line, column_rms, static_cast<float>(analysis->levels.rms), rms.c_str());
+    SetItemFloatVal(row, column_rms, static_cast<float>(analysis->levels.rms), rms.c_str());
     Require(column_rms, WidthOf(rms));
 
+    SortValuesLast(row, false);
     // The value that the damage makes doubtful is marked.
     if (info.IsCutOff())
     {
-        MarkValue(line, column_duration);
+        MarkValue(row, column_duration);
     }
     if (analysis->invalidSamples > 0)
     {
-        MarkValue(line, column_rms);
+        MarkValue(row, column_rms);
     }
 
     auto const overview = std::make_shared<CRecordingOverview>(analysis);
-    SetCustomDraw(line, column_overview, [this, overview](int row, int, CDC * dc, CRect const & rect) {
+    SetCustomDraw(row, column_overview, [this, overview](int row, int, CDC * dc, CRect const & rect) {
         DrawOverview(row, *dc, rect, *overview);
     });
 }
 
-void CRecordingList::MarkValue(int line, Column column)
+void CRecordingList::MarkValue(int row, Column column)
 {
-    SetItemColors(line, column, ::GetSysColor(COLOR_WINDOWTEXT), ::GetSysColor(COLOR_WINDOW), c_damagedColour);
+    SetItemColors(row, column, ::GetSysColor(COLOR_WINDOWTEXT), ::GetSysColor(COLOR_WINDOW), c_damagedColour);
 }
 
 /// Leaves of the line what is known of its file, and makes it one that does not react.
-void CRecordingList::ShowProblem(int line, workbench::RecordingAnalysis const & analysis)
+void CRecordingList::ShowProblem(int row, workbench::RecordingAnalysis const & analysis)
 {
-    SetCheckbox(line, column_check, XLC_NONE);
-    SetHyperlink(line, column_name, false, true);
-    SetBold(line, column_name, false);
-    SetItemProperty(line, column_name, XLP_UNDERLINE, false);
-    SetRadioButton(line, column_reference, XLC_NONE);
-    SetComboBox(line, column_rating, std::map<int, wchar_t const *>(), 0, 0);
-    SetItemText(line, column_rating, L"");
-    SetEdit(line, column_comment, false);
-    SetEnabled(line, false);
-    auto const tip = GetItemToolTipText(line, column_name) + L": " + analysis.StatusText().c_str();
-    SetItemToolTipText(line, column_name, tip);
+    SetCheckbox(row, column_check, XLC_NONE);
+    SetHyperlink(row, column_name, false, true);
+    SetBold(row, column_name, false);
+    SetItemProperty(row, column_name, XLP_UNDERLINE, false);
+    SetRadioButton(row, column_reference, XLC_NONE);
+    SetComboBox(row, column_rating, std::map<int, wchar_t const *>(), 0, 0);
+    SetItemText(row, column_rating, L"");
+    SetEdit(row, column_comment, false);
+    SetEnabled(row, false);
+    auto const tip = GetItemToolTipText(row, column_name) + L": " + analysis.StatusText().c_str();
+    SetItemToolTipText(row, column_name, tip);
     ShowHeaderCheck();
 }
 
-void CRecordingList::DrawOverview(int line, CDC & dc, CRect const & rect, CRecordingOverview & overview)
+void CRecordingList::DrawOverview(int row, CDC & dc, CRect const & rect, CRecordingOverview & overview)
 {
     auto background = ::GetSysColor(COLOR_WINDOW);
     auto wave = c_barColour;
-    if (GetItemState(line, LVIS_SELECTED) != 0)
+    if (GetItemState(row, LVIS_SELECTED) != 0)
     {
         auto const focused = GetFocus() == this;
         background = ::GetSysColor(focused ? COLOR_HIGHLIGHT : COLOR_BTNFACE);
@@ -205,10 +214,15 @@ void CRecordingList::DrawOverview(int line, CDC & dc, CRect const & rect, CRecor
 
 CRecordingList::Notes CRecordingList::NotesOf(int line)
 {
+    return NotesAt(PlaceOf(line));
+}
+
+CRecordingList::Notes CRecordingList::NotesAt(int row)
+{
     Notes notes;
-    notes.checked = IsChecked(line);
-    notes.reference = GetItemRadioOn(line, column_reference);
-    notes.rating = std::max(GetComboCurSel(line, column_rating), 0);
-    notes.comment = GetItemText(line, column_comment).GetString();
+    notes.checked = GetCheckbox(row, column_check) == XLC_CHECKED;
+    notes.reference = GetItemRadioOn(row, column_reference);
+    notes.rating = std::max(GetComboCurSel(row, column_rating), 0);
+    notes.comment = GetItemText(row, column_comment).GetString();
     return notes;
 }

@@ -66,7 +66,8 @@ int NoTexts()
 /// The results in both directions, without any text.
 std::pair<int, int> Both(XLISTCTRLDATA const & a, XLISTCTRLDATA const & b)
 {
-    return {CompareRows(ListSortKey(&a), ListSortKey(&b), true, &NoTexts), CompareRows(ListSortKey(&a), ListSortKey(&b), false, &NoTexts)};
+    return {CompareRows(ListSortKey(&a), ListSortKey(&b), true, &NoTexts),
+            CompareRows(ListSortKey(&a), ListSortKey(&b), false, &NoTexts)};
 }
 
 using Directions = std::pair<int, int>;

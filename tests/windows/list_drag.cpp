@@ -93,6 +93,26 @@ protected:
         Drop();
     }
 
+    /// The native list's message that a row begins to be dragged, by the middle of its first cell.
+    NMLISTVIEW Beginning(int row) const
+    {
+        NMLISTVIEW notification{};
+        notification.hdr.hwndFrom = m_list.m_hWnd;
+        notification.hdr.idFrom = tests::TestList::id;
+        notification.hdr.code = LVN_BEGINDRAG;
+        notification.iItem = row;
+        notification.ptAction = Middle(row, 0);
+        return notification;
+    }
+    /// What the list makes of it: its answer, and the result word, which was 5 before.
+    std::pair<BOOL, LRESULT> Notify(NMLISTVIEW notification)
+    {
+        LRESULT result = 5;
+        BOOL const answer =
+            m_list.OnChildNotify(WM_NOTIFY, notification.hdr.idFrom, reinterpret_cast<LPARAM>(&notification), &result);
+        return {answer, result};
+    }
+
     std::vector<int> Marked() const
     {
         std::vector<int> marked;
@@ -119,7 +139,6 @@ protected:
 private:
     int m_shift = 8;
 };
-
 
 TEST_F(ListDrag, SwapsTheTwoRowsAndLeavesThoseBetween)
 {
@@ -150,31 +169,20 @@ TEST_F(ListDrag, IsOffUntilItIsEnabled)
     notification.hdr.code = LVN_BEGINDRAG;
     notification.iItem = 1;
     LRESULT result = 5;
-    EXPECT_FALSE(other.list.OnChildNotify(WM_NOTIFY, notification.hdr.idFrom, reinterpret_cast<LPARAM>(&notification),
-                                          &result));
+    EXPECT_FALSE(
+        other.list.OnChildNotify(WM_NOTIFY, notification.hdr.idFrom, reinterpret_cast<LPARAM>(&notification), &result));
     EXPECT_EQ(result, 5);
     EXPECT_NE(::GetCapture(), other.list.m_hWnd);
 }
 
 TEST_F(ListDrag, TheBeginningIsKeptFromTheParent)
 {
-    tests::MessageRecorder notifications({WM_NOTIFY});
-    notifications.Watch(m_host.parent.m_hWnd, "parent");
-    NMLISTVIEW notification{};
-    notification.hdr.hwndFrom = m_list.m_hWnd;
-    notification.hdr.idFrom = tests::TestList::id;
-    notification.hdr.code = LVN_BEGINDRAG;
-    notification.iItem = 1;
-    LRESULT result = 5;
-    EXPECT_TRUE(m_list.OnChildNotify(WM_NOTIFY, notification.hdr.idFrom, reinterpret_cast<LPARAM>(&notification),
-                                     &result));
-    EXPECT_EQ(result, 0);
+    NMLISTVIEW notification = Beginning(1);
+    EXPECT_EQ(Notify(notification), std::pair(TRUE, LRESULT(0)));
     EXPECT_TRUE(Captured());
     // Any other notification is treated as ever.
     notification.hdr.code = LVN_BEGINRDRAG;
-    EXPECT_FALSE(m_list.OnChildNotify(WM_NOTIFY, notification.hdr.idFrom, reinterpret_cast<LPARAM>(&notification),
-                                      &result));
-    ::ReleaseCapture();
+    EXPECT_EQ(Notify(notification), std::pair(FALSE, LRESULT(5)));
 }
 
 TEST_F(ListDrag, CapturesTheMouseUntilTheDrop)
@@ -227,6 +235,21 @@ TEST_F(ListDrag, TheCursorRefusesWhereNothingCanBeDropped)
     EXPECT_TRUE(Shows(IDC_NO));
     EXPECT_EQ(Marked(), Rows{});
     EXPECT_EQ(m_swaps, Swaps{});
+}
+
+TEST_F(ListDrag, ANewDragBeginsWithTheArrow)
+{
+    Begin(5);
+    MoveTo(Aside());
+    Drop();
+    ASSERT_TRUE(Shows(IDC_NO));
+    ::SetCursor(::LoadCursorW(nullptr, IDC_ARROW));
+    Notify(Beginning(3));
+    CPoint outside = Aside();
+    ::ScreenToClient(m_list.m_hWnd, &outside);
+    ::SendMessageW(m_list.m_hWnd, WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(outside.x, outside.y));
+    EXPECT_TRUE(Shows(IDC_NO));
+    ::SendMessageW(m_list.m_hWnd, WM_LBUTTONUP, 0, MAKELPARAM(outside.x, outside.y));
 }
 
 TEST_F(ListDrag, ADropOnTheSourceRowDoesNothing)
@@ -432,9 +455,7 @@ TEST_F(ListDrag, RepaintsBothRowsAfterTheDrop)
     m_list.UpdateWindow();
     m_list.TakeUpdateRect();
     CRect update;
-    m_list.m_onRowsSwapped = [&](int, int) {
-        m_list.GetUpdateRect(&update);
-    };
+    m_list.m_onRowsSwapped = [&](int, int) { m_list.GetUpdateRect(&update); };
     CRect second;
     CRect fifth;
     ASSERT_TRUE(m_list.GetItemRect(2, &second, LVIR_BOUNDS));
@@ -508,19 +529,32 @@ TEST_F(ListDrag, ManyDragsLeaveNoGdiHandles)
 
 TEST_F(ListDrag, ABeginningThatFollowsAnUnfinishedDragTakesItsPlace)
 {
+    Drag(5, 2);
+    m_swaps.clear();
+    tests::GdiBalance const balance;
     Begin(5);
-    NMLISTVIEW notification{};
-    notification.hdr.hwndFrom = m_list.m_hWnd;
-    notification.hdr.idFrom = tests::TestList::id;
-    notification.hdr.code = LVN_BEGINDRAG;
-    notification.iItem = 1;
-    notification.ptAction = Middle(1, 0);
-    LRESULT result = 0;
-    m_list.OnChildNotify(WM_NOTIFY, notification.hdr.idFrom, reinterpret_cast<LPARAM>(&notification), &result);
+    NMLISTVIEW notification = Beginning(1);
+    notification.ptAction.x += 5;
+    Notify(notification);
+    CRect cell;
+    ASSERT_TRUE(m_list.GetSubItemRect(1, 0, LVIR_BOUNDS, cell));
+    POINT hotSpot{};
+    ASSERT_NE(::ImageList_GetDragImage(nullptr, &hotSpot), nullptr);
+    EXPECT_EQ(CPoint(hotSpot) + cell.TopLeft(), CPoint(notification.ptAction));
     MoveOver(3);
     Drop();
     EXPECT_EQ(m_swaps, (Swaps{{1, 3}}));
     EXPECT_EQ(::ImageList_GetDragImage(nullptr, nullptr), nullptr);
+}
+
+TEST_F(ListDrag, ANewDragHasNoTargetUntilTheMouseMoves)
+{
+    Drag(5, 2);
+    m_swaps.clear();
+    NMLISTVIEW const notification = Beginning(6);
+    Notify(notification);
+    ::SendMessageW(m_list.m_hWnd, WM_LBUTTONUP, 0, MAKELPARAM(notification.ptAction.x, notification.ptAction.y));
+    EXPECT_EQ(m_swaps, Swaps{});
 }
 
 // --- The picture below the pointer ---
@@ -529,14 +563,9 @@ TEST_F(ListDrag, ThePictureIsTheRowsFirstCellAtThePointOfThePress)
 {
     CRect cell;
     ASSERT_TRUE(m_list.GetSubItemRect(5, 0, LVIR_BOUNDS, cell));
-    NMLISTVIEW notification{};
-    notification.hdr.hwndFrom = m_list.m_hWnd;
-    notification.hdr.idFrom = tests::TestList::id;
-    notification.hdr.code = LVN_BEGINDRAG;
-    notification.iItem = 5;
+    NMLISTVIEW notification = Beginning(5);
     notification.ptAction = cell.TopLeft() + CPoint(23, 7);
-    LRESULT result = 0;
-    m_list.OnChildNotify(WM_NOTIFY, notification.hdr.idFrom, reinterpret_cast<LPARAM>(&notification), &result);
+    Notify(notification);
     POINT position{};
     POINT hotSpot{};
     HIMAGELIST const picture = ::ImageList_GetDragImage(&position, &hotSpot);
@@ -596,9 +625,9 @@ TEST_F(ListDrag, ThePictureIsHiddenWhileRowsAreRepainted)
 {
     wchar_t const module[] = L"instrument_ui.dll";
     tests::ImportPatch const patches[] = {
-        {module, "ImageList_BeginDrag", &BeginDrag},     {module, "ImageList_DragEnter", &DragEnter},
-        {module, "ImageList_DragMove", &DragMove},       {module, "ImageList_DragShowNolock", &DragShow},
-        {module, "ImageList_DragLeave", &DragLeave},     {module, "ImageList_EndDrag", &EndDrag},
+        {module, "ImageList_BeginDrag", &BeginDrag}, {module, "ImageList_DragEnter", &DragEnter},
+        {module, "ImageList_DragMove", &DragMove},   {module, "ImageList_DragShowNolock", &DragShow},
+        {module, "ImageList_DragLeave", &DragLeave}, {module, "ImageList_EndDrag", &EndDrag},
         {module, "ImageList_AddMasked", &AddMasked}};
     for (auto const & patch : patches)
         ASSERT_TRUE(patch.Done());
@@ -609,14 +638,7 @@ TEST_F(ListDrag, ThePictureIsHiddenWhileRowsAreRepainted)
     m_list.SetFocus();
     tests::PumpPosted();
     calls.clear();
-    NMLISTVIEW notification{};
-    notification.hdr.hwndFrom = m_list.m_hWnd;
-    notification.hdr.idFrom = tests::TestList::id;
-    notification.hdr.code = LVN_BEGINDRAG;
-    notification.iItem = 5;
-    notification.ptAction = Middle(5, 0);
-    LRESULT result = 0;
-    m_list.OnChildNotify(WM_NOTIFY, notification.hdr.idFrom, reinterpret_cast<LPARAM>(&notification), &result);
+    Notify(Beginning(5));
     EXPECT_EQ(calls, (std::vector<std::string>{"add masked 0", "begin 0", "enter the desktop"}));
 
     auto const send = [this](UINT message, CPoint client) {

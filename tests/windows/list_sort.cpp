@@ -58,7 +58,6 @@ protected:
     TestList & m_list = m_host.list;
 };
 
-
 TEST_F(ListSort, PutsNumbersInOrderInBothDirections)
 {
     FillNumbers({3, 1, 2});
@@ -83,6 +82,26 @@ TEST_F(ListSort, ComparesNumbersByValueAndTextsByCharacter)
     EXPECT_EQ(m_list.Texts(1), (Strings{L"", L"10", L"9", L"B", L"a", L"b"}));
     m_list.SortByColumn(1, false, false, nullptr);
     EXPECT_EQ(m_list.Texts(1), (Strings{L"b", L"a", L"B", L"9", L"10", L""}));
+}
+
+TEST_F(ListSort, EqualTextsKeepTheirOrder)
+{
+    FillTexts({L"ab", L"a", L"b", L"", L"abc", L"a", L"b", L"", L"a"});
+    m_list.SortByColumn(1, true, false, nullptr);
+    EXPECT_EQ(Order(), (std::vector<int>{3, 7, 1, 5, 8, 0, 4, 2, 6}));
+    m_list.SortByColumn(1, false, false, nullptr);
+    EXPECT_EQ(Order(), (std::vector<int>{2, 6, 4, 0, 1, 5, 8, 3, 7}));
+}
+
+TEST_F(ListSort, ComparesTextsOfAnyLength)
+{
+    m_host.Fill(2, 0);
+    // Around the sizes of buffers that double.
+    std::vector<int> const lengths = {1025, 255, 1023, 256, 254, 512, 257, 511, 1024, 510};
+    for (int const length : lengths)
+        m_list.AddItem(std::wstring(static_cast<std::size_t>(length), L'x').c_str(), nullptr, length);
+    m_list.SortByColumn(0, true, false, nullptr);
+    EXPECT_EQ(Order(), (std::vector<int>{254, 255, 256, 257, 510, 511, 512, 1023, 1024, 1025}));
 }
 
 TEST_F(ListSort, ComparesLongTextsToTheirEnd)

@@ -12,8 +12,7 @@ namespace
 constexpr long long arrow_cursor = 32512;
 constexpr long long refusing_cursor = 32648;
 
-constexpr UINT first_cell_mask =
-    LVIF_TEXT | LVIF_IMAGE | LVIF_PARAM | LVIF_STATE | LVIF_INDENT | LVIF_NORECOMPUTE;
+constexpr UINT first_cell_mask = LVIF_TEXT | LVIF_IMAGE | LVIF_PARAM | LVIF_STATE | LVIF_INDENT | LVIF_NORECOMPUTE;
 constexpr UINT other_cell_mask = LVIF_TEXT | LVIF_IMAGE;
 
 constexpr COLORREF drag_mask_colour = RGB(0, 0, 0);
@@ -102,8 +101,7 @@ void CXListCtrl::MakeDragImage(CDC & client, CRect const & cell)
     CBitmap picture;
     if (!CopyArea(client, cell, picture) || !m_dragImage.Create(cell.Width(), cell.Height(), 0, 1, 0))
         return;
-    ::ImageList_AddMasked(m_dragImage.GetSafeHandle(), static_cast<HBITMAP>(picture.GetSafeHandle()),
-                          drag_mask_colour);
+    ::ImageList_AddMasked(m_dragImage.GetSafeHandle(), static_cast<HBITMAP>(picture.GetSafeHandle()), drag_mask_colour);
 }
 
 void CXListCtrl::EndDragImage()

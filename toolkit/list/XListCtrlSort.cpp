@@ -1,4 +1,5 @@
-// CXListCtrl: sorting. The order is found first, from the rows as they stand; then the native list moves its items once.
+// CXListCtrl: sorting. The order is found first, from the rows as they stand; then the native list moves its items once,
+// by the places found. Its own sort by index is not used: some systems ask for rows by index while items are moving.
 
 #include "list/XListCtrl.h"
 
@@ -14,7 +15,10 @@ class ColumnTexts
 {
 public:
     ColumnTexts(CListCtrl const & list, int col, std::size_t rows)
-        : m_list(list), m_col(col), m_begins(rows, unread), m_buffer(first_size)
+        : m_list(list),
+          m_col(col),
+          m_begins(rows, unread),
+          m_buffer(first_size)
     {
     }
 
@@ -71,8 +75,7 @@ int CALLBACK ComparePlaces(LPARAM first, LPARAM second, LPARAM)
 }
 } // namespace
 
-void CXListCtrl::SortByColumn(int col, bool ascending, bool setMark,
-                              int (*compare)(long long, long long, long long))
+void CXListCtrl::SortByColumn(int col, bool ascending, bool setMark, int (*compare)(long long, long long, long long))
 {
     if (col < 0 && setMark)
         SetHeaderRemoveAllMarks();

@@ -34,8 +34,8 @@ std::wstring ExportedNumber(float value, std::wstring_view decimalSign)
 {
     // Independent of the locale that the host has set for the whole process.
     char digits[number_size];
-    auto const end = std::to_chars(digits, digits + number_size, static_cast<double>(value),
-                                   std::chars_format::general, significant_digits)
+    auto const end = std::to_chars(digits, digits + number_size, static_cast<double>(value), std::chars_format::general,
+                                   significant_digits)
                          .ptr;
     std::wstring text;
     for (char const * c = digits; c != end; ++c)

@@ -31,11 +31,11 @@ std::wstring ExportedNumber(float value, std::wstring_view decimalSign);
 /// The first exported_text_limit characters.
 std::wstring_view ExportedText(std::wstring_view text);
 
-/// A cell as text, by its value where it has one. dateText(CTime) gives a date as text, shownText() the text that the cell
-/// shows; each is asked only where it is needed.
-template <class DateText, class ShownText>
-std::wstring ExportedCell(XLISTCTRLDATA const & cell, std::wstring_view decimalSign, DateText && dateText,
-                          ShownText && shownText)
+/// A cell as text, by its value where it has one. dateText(CTime) gives a date as text, shownText() the text that the
+/// cell shows; each is asked only where it is needed.
+template <class DateText, class ShownText> std::wstring ExportedCell(XLISTCTRLDATA const & cell,
+                                                                     std::wstring_view decimalSign,
+                                                                     DateText && dateText, ShownText && shownText)
 {
     switch (cell.valueType)
     {

@@ -31,8 +31,8 @@ struct ListSortKey
 /// value, and with a NaN on either side.
 int CompareValues(ListSortKey const & a, ListSortKey const & b);
 
-/// The order of two rows: negative if the first one goes ahead. A row without the cell equals every other one. Rows that
-/// sort first or last do so in both directions. The first cell's kind decides alone how both are read.
+/// The order of two rows: negative if the first one goes ahead. A row without the cell equals every other one. Rows
+/// that sort first or last do so in both directions. The first cell's kind decides alone how both are read.
 /// compareTexts(), asked only where texts decide, compares the texts shown: negative, 0 or positive.
 template <class CompareTexts>
 int CompareRows(ListSortKey const & a, ListSortKey const & b, bool ascending, CompareTexts && compareTexts)
@@ -49,9 +49,9 @@ int CompareRows(ListSortKey const & a, ListSortKey const & b, bool ascending, Co
     return (order < 0) == ascending ? -1 : 1;
 }
 
-/// The indices of so many rows in the order that compare(index, index) gives: a negative result puts the first row ahead.
-/// Rows that compare equal keep their order. A compare that contradicts itself gives some order, in the same time; each
-/// index is there once in any case.
+/// The indices of so many rows in the order that compare(index, index) gives: a negative result puts the first row
+/// ahead. Rows that compare equal keep their order. A compare that contradicts itself gives some order, in the same
+/// time; each index is there once in any case.
 template <class Compare> std::vector<int> SortedOrder(int count, Compare && compare)
 {
     std::size_t const size = count > 0 ? static_cast<std::size_t>(count) : 0;

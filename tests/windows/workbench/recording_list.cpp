@@ -1,0 +1,296 @@
+// The workbench's list of recordings: sorting by a click, dragging lines, and copies of them.
+
+#include "../clipboard_ClipboardTest.h"
+#include "Input.h"
+#include "Pump.h"
+#include "RecordingList.h"
+#include "ScopedWindow.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstring>
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace
+{
+using Lines = std::vector<int>;
+using workbench::RecordingAnalysis;
+
+constexpr int list_id = 7;
+constexpr std::uint32_t rate = 1000;
+
+struct Recording
+{
+    wchar_t const * name;
+    std::uint64_t milliseconds; ///< 0: cannot be read
+    double peak;
+};
+// Two peaks have the same whole percent on their bar.
+constexpr Recording recordings[] = {
+    {L"b.wav", 3000, -6.0},  {L"e.wav", 1000, -6.4},  {L"a.wav", 0, 0.0},
+    {L"d.wav", 10000, -6.2}, {L"c.wav", 2000, -40.0},
+};
+constexpr int unreadable = 2;
+
+std::shared_ptr<RecordingAnalysis const> AnalysisOf(Recording const & recording)
+{
+    auto analysis = std::make_shared<RecordingAnalysis>();
+    if (recording.milliseconds == 0)
+    {
+        analysis->problem = workbench::ReadProblem{workbench::ReadFault::CannotBeOpened};
+        return analysis;
+    }
+    analysis->info.channels = 1;
+    analysis->info.sampleRate = rate;
+    analysis->info.frames = recording.milliseconds;
+    analysis->info.announcedFrames = recording.milliseconds;
+    analysis->levels = {recording.peak, recording.peak - 3.0};
+    return analysis;
+}
+
+class RecordingListTest : public clipboard_tests::ClipboardTest
+{
+protected:
+    void SetUp() override
+    {
+        ClipboardTest::SetUp();
+        ASSERT_TRUE(m_list.CreateList(m_parent, list_id, m_metrics));
+        m_list.SetWindowPos(nullptr, 0, 0, 1160, 260, SWP_NOZORDER);
+        Show();
+        ASSERT_TRUE(tests::BringToFront(m_parent.m_hWnd));
+        m_list.SetFocus();
+        m_list.UpdateWindow();
+        tests::PumpPosted();
+    }
+    void TearDown() override
+    {
+        m_list.DestroyWindow();
+        ClipboardTest::TearDown();
+    }
+
+    void Show()
+    {
+        std::vector<std::filesystem::path> files;
+        for (auto const & recording : recordings)
+        {
+            files.push_back(std::filesystem::path(L"C:\\recordings") / recording.name);
+        }
+        m_list.ShowFiles(files, std::vector<CRecordingList::Notes>(files.size()));
+        for (int line = 0; line < static_cast<int>(std::size(recordings)); ++line)
+        {
+            m_list.ShowAnalysis(line, AnalysisOf(recordings[line]));
+        }
+    }
+    Lines Order() const
+    {
+        Lines order;
+        for (int row = 0; row < m_list.GetItemCount(); ++row)
+        {
+            order.push_back(m_list.LineAt(row));
+        }
+        return order;
+    }
+    /// Clicks on a column's title and waits until its arrow shows that.
+    void ClickTitle(CRecordingList::Column column, int expectedMark)
+    {
+        CRect item;
+        CHeaderCtrl * const header = m_list.GetHeaderCtrl();
+        ASSERT_TRUE(header->GetItemRect(column, &item));
+        // Successive clicks are apart, so that they are no double click.
+        m_shift = -m_shift;
+        tests::Click(tests::ClientPoint(header->m_hWnd, item.CenterPoint() + CPoint(m_shift, 0)));
+        EXPECT_TRUE(tests::PumpUntil([&] { return m_list.GetHeaderCheckedState(column) == expectedMark; }));
+        tests::PumpPosted();
+    }
+    void Select(std::vector<int> const & lines)
+    {
+        m_list.ChooseLine(-1);
+        for (int const line : lines)
+        {
+            m_list.SetItemState(m_list.PlaceOf(line), LVIS_SELECTED, LVIS_SELECTED);
+        }
+    }
+    CPoint ScreenPoint(int line)
+    {
+        return tests::ClientPoint(m_list.m_hWnd, m_list.CellCentre(line, CRecordingList::column_status));
+    }
+
+    workbench::ScreenMetrics m_metrics;
+    tests::ScopedWindow m_parent{CRect(20, 20, 1220, 400)};
+    CRecordingList m_list;
+
+private:
+    int m_shift = 6;
+};
+
+TEST_F(RecordingListTest, AClickOnATitleSortsAndAnotherOneTurnsTheOrder)
+{
+    ClickTitle(CRecordingList::column_name, XHC_SORT_ASCENDING);
+    EXPECT_EQ(Order(), (Lines{2, 0, 4, 3, 1}));
+    ClickTitle(CRecordingList::column_name, XHC_SORT_DESCENDING);
+    EXPECT_EQ(Order(), (Lines{1, 3, 4, 0, 2}));
+    ClickTitle(CRecordingList::column_duration, XHC_SORT_ASCENDING);
+    EXPECT_EQ(m_list.GetHeaderCheckedState(CRecordingList::column_name), XHC_NONE);
+    EXPECT_EQ(Order(), (Lines{1, 4, 0, 3, 2}));
+}
+
+TEST_F(RecordingListTest, EveryColumnButTheCheckBoxesSorts)
+{
+    for (int column = CRecordingList::column_name; column < CRecordingList::column_count; ++column)
+    {
+        m_list.SortLines(static_cast<CRecordingList::Column>(column), false);
+        EXPECT_EQ(m_list.GetHeaderCheckedState(column), XHC_SORT_DESCENDING) << column;
+        EXPECT_EQ(m_list.GetHeaderCheckedState(CRecordingList::column_check), XHC_UNCHECKED) << column;
+    }
+    Lines const before = Order();
+    m_list.SortLines(CRecordingList::column_check, true);
+    EXPECT_EQ(Order(), before);
+    EXPECT_EQ(m_list.GetHeaderCheckedState(CRecordingList::column_status), XHC_SORT_DESCENDING);
+}
+
+TEST_F(RecordingListTest, LinesWithoutAValueComeLastBothWays)
+{
+    for (auto const column : {CRecordingList::column_duration, CRecordingList::column_peak, CRecordingList::column_rms,
+                              CRecordingList::column_rating, CRecordingList::column_overview})
+    {
+        for (bool const ascending : {true, false})
+        {
+            m_list.SortLines(column, ascending);
+            EXPECT_EQ(m_list.PlaceOf(unreadable), 4) << column;
+        }
+    }
+}
+
+TEST_F(RecordingListTest, PeaksGoByTheirLevelAndNotByTheirBar)
+{
+    m_list.SortLines(CRecordingList::column_peak, true);
+    EXPECT_EQ(Order(), (Lines{4, 1, 3, 0, 2}));
+    m_list.SortLines(CRecordingList::column_peak, false);
+    EXPECT_EQ(Order(), (Lines{0, 3, 1, 4, 2}));
+}
+
+TEST_F(RecordingListTest, TheReferenceComesFirstAndRatingsGoByTheirRank)
+{
+    m_list.SetReference(3);
+    m_list.SortLines(CRecordingList::column_reference, true);
+    EXPECT_EQ(m_list.LineAt(0), 3);
+    m_list.SetComboSelection(m_list.PlaceOf(4), CRecordingList::column_rating, 1);
+    m_list.SetComboSelection(m_list.PlaceOf(0), CRecordingList::column_rating, 3);
+    m_list.SortLines(CRecordingList::column_rating, false);
+    EXPECT_EQ(m_list.LineAt(0), 0);
+    EXPECT_EQ(m_list.LineAt(1), 4);
+}
+
+TEST_F(RecordingListTest, AnUnopenedColumnGoesBackToTheOrderOfTheFiles)
+{
+    m_list.SortLines(CRecordingList::column_name, false);
+    m_list.SortLines(CRecordingList::column_overview, true);
+    EXPECT_EQ(Order(), (Lines{0, 1, 3, 4, 2}));
+}
+
+TEST_F(RecordingListTest, LinesKeepTheirNumbers)
+{
+    m_list.ChooseLine(3);
+    m_list.SortLines(CRecordingList::column_name, true);
+    EXPECT_EQ(m_list.ChosenLine(), 3);
+    EXPECT_EQ(m_list.GetItemText(m_list.PlaceOf(3), CRecordingList::column_name), L"d.wav");
+    m_list.ChooseLine(0);
+    EXPECT_EQ(m_list.GetSelectedItem(), 1);
+    m_list.SetReference(4);
+    EXPECT_EQ(m_list.ReferenceLine(), 4);
+    EXPECT_TRUE(m_list.NotesOf(4).reference);
+    EXPECT_FALSE(m_list.NotesOf(0).reference);
+    m_list.ShowAnalysis(1, AnalysisOf({L"", 77000, -1.0}));
+    EXPECT_EQ(m_list.GetItemText(m_list.PlaceOf(1), CRecordingList::column_duration).Trim(), L"1:17.000");
+    for (int const wrong : {-1, 5, 99})
+    {
+        EXPECT_EQ(m_list.LineAt(wrong), -1);
+        EXPECT_EQ(m_list.PlaceOf(wrong), -1);
+    }
+}
+
+TEST_F(RecordingListTest, NewFilesStandInTheirOwnOrder)
+{
+    m_list.SortLines(CRecordingList::column_name, true);
+    Show();
+    EXPECT_EQ(Order(), (Lines{0, 1, 2, 3, 4}));
+    EXPECT_EQ(m_list.GetHeaderCheckedState(CRecordingList::column_name), XHC_NONE);
+    EXPECT_EQ(m_list.GetHeaderCheckedState(CRecordingList::column_check), XHC_UNCHECKED);
+    // The next click sorts upwards again.
+    ClickTitle(CRecordingList::column_name, XHC_SORT_ASCENDING);
+}
+
+TEST_F(RecordingListTest, ADragSwapsTwoLinesAndEndsTheSorting)
+{
+    m_list.SortLines(CRecordingList::column_name, true);
+    ASSERT_EQ(Order(), (Lines{2, 0, 4, 3, 1}));
+    tests::Drag(ScreenPoint(0), ScreenPoint(1));
+    ASSERT_TRUE(tests::PumpUntil([this] { return Order() == (Lines{2, 1, 4, 3, 0}); }));
+    EXPECT_EQ(m_list.GetHeaderCheckedState(CRecordingList::column_name), XHC_NONE);
+    EXPECT_EQ(m_list.GetHeaderCheckedState(CRecordingList::column_check), XHC_UNCHECKED);
+    EXPECT_EQ(m_list.PlaceOf(0), 4);
+    EXPECT_EQ(m_list.ChosenLine(), 0);
+}
+
+TEST_F(RecordingListTest, AfterADragClicksOnlySelect)
+{
+    tests::Drag(ScreenPoint(0), ScreenPoint(3));
+    ASSERT_TRUE(tests::PumpUntil([this] { return m_list.PlaceOf(0) == 3; }));
+    Lines const order = Order();
+    ASSERT_TRUE(tests::MoveMouse(ScreenPoint(4)));
+    tests::Click(ScreenPoint(4));
+    EXPECT_TRUE(tests::PumpUntil([this] { return m_list.ChosenLine() == 4; }));
+    tests::PumpFor(std::chrono::milliseconds(50));
+    EXPECT_EQ(Order(), order);
+    for (int row = 0; row < m_list.GetItemCount(); ++row)
+    {
+        EXPECT_EQ(m_list.GetItemState(row, LVIS_DROPHILITED), 0U) << row;
+    }
+    // And the next drag works.
+    tests::Drag(ScreenPoint(1), ScreenPoint(4));
+    EXPECT_TRUE(tests::PumpUntil([this] { return m_list.PlaceOf(4) == 1 && m_list.PlaceOf(1) == 4; }));
+}
+
+TEST_F(RecordingListTest, CtrlCCopiesTheSelectedLinesInTheirOrderAsTextAndHtml)
+{
+    m_list.SortLines(CRecordingList::column_name, true);
+    m_list.SetReference(3);
+    Select({0, 3});
+    tests::Key(L'C', {VK_CONTROL});
+    ASSERT_TRUE(tests::PumpUntil([] { return Has(CF_UNICODETEXT) && Has(HtmlFormat()); }));
+    EXPECT_EQ(WideText(), L"Name\tRef.\tDuration\tChannels\tRate (Hz)\tPeak (dBFS)\tRMS (dBFS)\tDate\tRating\tComment\t"
+                          L"Status\r\n"
+                          L"b.wav\t\t0:03.000\t1\t1000\t-6.0\t-9.0\t\tNot rated\t\tOK\r\n"
+                          L"d.wav\tx\t0:10.000\t1\t1000\t-6.2\t-9.2\t\tNot rated\t\tOK\r\n");
+    std::vector<char> const bytes = Bytes(HtmlFormat());
+    std::string const html(bytes.data(), ::strnlen(bytes.data(), bytes.size()));
+    EXPECT_NE(html.find("<td align=\"left\">b.wav</td>"), std::string::npos);
+    EXPECT_NE(html.find("<td align=\"right\">0:10.000</td>"), std::string::npos);
+    EXPECT_EQ(html.find("a.wav"), std::string::npos);
+    EXPECT_NE(html.find("</table>"), std::string::npos);
+    EXPECT_NE(html.find("<!--EndFragment -->"), std::string::npos);
+}
+
+TEST_F(RecordingListTest, WithoutASelectionOrAskedForAllItCopiesAll)
+{
+    auto const lines = [] {
+        std::wstring const text = WideText();
+        return std::count(text.begin(), text.end(), L'\n');
+    };
+    Select({1});
+    EXPECT_TRUE(m_list.CopyToClipboard(true));
+    EXPECT_EQ(lines(), 6);
+    EXPECT_TRUE(m_list.CopyToClipboard(false));
+    EXPECT_EQ(lines(), 2);
+    Select({});
+    EXPECT_TRUE(m_list.CopyToClipboard(false));
+    EXPECT_EQ(lines(), 6);
+    m_list.ShowFiles({}, {});
+    EXPECT_FALSE(m_list.CopyToClipboard(true));
+    EXPECT_EQ(lines(), 6);
+}
+} // namespace

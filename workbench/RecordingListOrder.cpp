@@ -1,0 +1,247 @@
+// The order of the list's lines, and copies of them for other programs.
+
+#include "RecordingList.h"
+
+#include <algorithm>
+#include <iterator>
+#include <numeric>
+#include <utility>
+
+#include "clipboard/Clipboard.h"
+
+namespace
+{
+
+// The columns whose values are missing while a recording is being read, and if it cannot be.
+constexpr CRecordingList::Column c_valueColumns[] = {
+    CRecordingList::column_reference, CRecordingList::column_overview, CRecordingList::column_duration,
+    CRecordingList::column_channels,  CRecordingList::column_rate,     CRecordingList::column_peak,
+    CRecordingList::column_rms,       CRecordingList::column_date,     CRecordingList::column_rating};
+
+/// Whether lines are compared by a number that is not their cell's own: the bar of a peak has but whole percents, and
+/// check, picture and choice have none.
+bool HasOwnOrder(int column)
+{
+    return column == CRecordingList::column_reference || column == CRecordingList::column_overview ||
+           column == CRecordingList::column_peak || column == CRecordingList::column_rating;
+}
+
+/// Whether a column goes along into a copy.
+bool IsCopied(int column)
+{
+    return column != CRecordingList::column_check && column != CRecordingList::column_overview;
+}
+
+} // namespace
+
+int CRecordingList::LineAt(int row) const
+{
+    return row >= 0 && row < GetItemCount() ? GetItemData(row) : -1;
+}
+
+int CRecordingList::PlaceOf(int line) const
+{
+    if (line < 0 || line >= GetItemCount())
+    {
+        return -1;
+    }
+    auto const known = static_cast<std::size_t>(line);
+    if (known >= m_places.size() || LineAt(m_places[known]) != line)
+    {
+        // Lines have moved since.
+        m_places.assign(static_cast<std::size_t>(GetItemCount()), -1);
+        for (int row = 0; row < GetItemCount(); ++row)
+        {
+            auto const other = LineAt(row);
+            if (other >= 0 && other < GetItemCount())
+            {
+                m_places[static_cast<std::size_t>(other)] = row;
+            }
+        }
+    }
+    return m_places[known];
+}
+
+/// The lines are in no column's order any more.
+void CRecordingList::ForgetOrder()
+{
+    m_sortedColumn = -1;
+    SortByColumn(-1, true, true, nullptr);
+    ShowHeaderCheck();
+}
+
+void CRecordingList::SortLines(Column column, bool ascending)
+{
+    if (column == column_check)
+    {
+        return;
+    }
+    m_sortedColumn = column;
+    m_ascending = ascending;
+    SortByColumn(column, ascending, true, HasOwnOrder(column) ? &CompareInList : nullptr);
+    // It goes with the marks of the other columns.
+    ShowHeaderCheck();
+    auto const chosen = PlaceOf(ChosenLine());
+    if (chosen >= 0)
+    {
+        EnsureVisible(chosen, FALSE);
+    }
+}
+
+int CRecordingList::CompareInList(long long a, long long b, long long list)
+{
+    auto * const control = reinterpret_cast<CXListCtrl *>(static_cast<LONG_PTR>(list));
+    return static_cast<CRecordingList *>(control)->CompareRows(static_cast<int>(a), static_cast<int>(b));
+}
+
+int CRecordingList::CompareRows(int a, int b)
+{
+    auto const lastA = GetItemProperty(a, m_sortedColumn, XLP_SORT_LAST);
+    auto const lastB = GetItemProperty(b, m_sortedColumn, XLP_SORT_LAST);
+    if (lastA || lastB)
+    {
+        return static_cast<int>(lastA) - static_cast<int>(lastB);
+    }
+    auto const valueA = SortValue(a);
+    auto const valueB = SortValue(b);
+    auto const order = static_cast<int>(valueA > valueB) - static_cast<int>(valueA < valueB);
+    return m_ascending ? order : -order;
+}
+
+/// What a row is sorted by in a column with an order of its own.
+double CRecordingList::SortValue(int row)
+{
+    switch (m_sortedColumn)
+    {
+    case column_reference:
+        return GetItemRadioOn(row, column_reference) ? 0.0 : 1.0;
+    case column_peak:
+        return GetRowItemDataDirect(row, column_peak)->floatValue;
+    case column_rating:
+        return GetComboCurSel(row, column_rating);
+    default:
+        // Pictures have the order in which the files were opened.
+        return LineAt(row);
+    }
+}
+
+void CRecordingList::SortValuesLast(int row, bool last)
+{
+    for (auto const column : c_valueColumns)
+    {
+        // The date is known of a file that cannot be read, too.
+        if (last || column != column_date)
+        {
+            SetItemProperty(row, column, XLP_SORT_LAST, last);
+        }
+    }
+}
+
+/// The list's own work comes last, for it tells the parent.
+BOOL CRecordingList::OnTitleClick(NMHDR * header, LRESULT * result)
+{
+    auto const column = reinterpret_cast<NMLISTVIEW *>(header)->iSubItem;
+    if (column >= 0 && column < column_count)
+    {
+        SortLines(static_cast<Column>(column), column != m_sortedColumn || !m_ascending);
+    }
+    return OnColumnClick(header, result);
+}
+
+BOOL CRecordingList::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT * result)
+{
+    auto const handled = CXListCtrl::OnChildNotify(message, wParam, lParam, result);
+    if (message == WM_NOTIFY && reinterpret_cast<NMHDR *>(lParam)->code == LVN_BEGINDRAG)
+    {
+        m_draggingRow = true;
+    }
+    return handled;
+}
+
+// After its first drag the list would go on marking and swapping rows with every click. Here a drag ends with its drop:
+// without one, mouse messages go past the list's dragging.
+
+void CRecordingList::OnMouseMove(UINT flags, CPoint point)
+{
+    if (m_draggingRow)
+    {
+        CXListCtrl::OnMouseMove(flags, point);
+    }
+    else
+    {
+        CListCtrl::OnMouseMove(flags, point);
+    }
+}
+
+void CRecordingList::OnLButtonUp(UINT flags, CPoint point)
+{
+    if (std::exchange(m_draggingRow, false))
+    {
+        CXListCtrl::OnLButtonUp(flags, point);
+    }
+    else
+    {
+        CListCtrl::OnLButtonUp(flags, point);
+    }
+}
+
+std::vector<int> CRecordingList::RowsToCopy(bool all) const
+{
+    std::vector<int> rows;
+    for (auto row = all ? -1 : GetSelectedItem(); row >= 0; row = GetSelectedItemAfter(row))
+    {
+        rows.push_back(row);
+    }
+    if (rows.empty())
+    {
+        rows.resize(static_cast<std::size_t>(GetItemCount()));
+        std::iota(rows.begin(), rows.end(), 0);
+    }
+    return rows;
+}
+
+workbench::TextTable CRecordingList::TableOf(std::vector<int> const & rows)
+{
+    workbench::TextTable table;
+    std::vector<int> columns;
+    for (int column = 0; column < column_count; ++column)
+    {
+        if (!IsCopied(column))
+        {
+            continue;
+        }
+        columns.push_back(column);
+        wchar_t title[64] = L"";
+        LVCOLUMNW native{};
+        native.mask = LVCF_TEXT | LVCF_FMT;
+        native.pszText = title;
+        native.cchTextMax = static_cast<int>(std::size(title));
+        GetColumn(column, &native);
+        table.columns.push_back({title, (native.fmt & LVCFMT_JUSTIFYMASK) == LVCFMT_RIGHT});
+    }
+    for (auto const row : rows)
+    {
+        auto & texts = table.rows.emplace_back();
+        for (auto const column : columns)
+        {
+            auto text = GetItemText(row, column);
+            if (column == column_reference && GetItemRadioOn(row, column))
+            {
+                text = L"x";
+            }
+            texts.emplace_back(text.Trim().GetString());
+        }
+    }
+    return table;
+}
+
+bool CRecordingList::CopyToClipboard(bool all)
+{
+    auto const rows = RowsToCopy(all);
+    if (rows.empty())
+    {
+        return false;
+    }
+    auto const table = TableOf(rows);
+    return Clipboard::HtmlToClipboard(workbench::HtmlTable(table).c_str(), workbench::PlainTable(table).c_str());
+}

@@ -1,0 +1,142 @@
+#include "TableText.h"
+
+#include <cstddef>
+#include <string_view>
+
+namespace workbench
+{
+
+namespace
+{
+
+constexpr char32_t c_firstLead = 0xD800;
+constexpr char32_t c_firstTrail = 0xDC00;
+constexpr char32_t c_endOfSurrogates = 0xE000;
+constexpr char32_t c_endOfPlane = 0x10000;
+constexpr char32_t c_endOfCharacters = 0x110000;
+constexpr char32_t c_endOfPrintable = 0x7F; // of ASCII
+
+constexpr wchar_t c_rowEnd[] = L"\r\n";
+
+/// The character that begins at the place, which moves behind it; 0 for one that is none.
+char32_t NextCharacter(std::wstring_view text, std::size_t & place)
+{
+    auto const unit = static_cast<char32_t>(text[place++]);
+    if (unit < c_firstLead || unit >= c_endOfSurrogates)
+    {
+        return unit < c_endOfCharacters ? unit : 0;
+    }
+    if (unit >= c_firstTrail || place == text.size())
+    {
+        return 0;
+    }
+    auto const trail = static_cast<char32_t>(text[place]);
+    if (trail < c_firstTrail || trail >= c_endOfSurrogates)
+    {
+        return 0;
+    }
+    ++place;
+    return c_endOfPlane + ((unit - c_firstLead) << 10) + (trail - c_firstTrail);
+}
+
+void AppendHtml(std::wstring & html, std::wstring_view text)
+{
+    for (std::size_t place = 0; place < text.size();)
+    {
+        auto const character = NextCharacter(text, place);
+        switch (character)
+        {
+        case U'&':
+            html += L"&amp;";
+            break;
+        case U'<':
+            html += L"&lt;";
+            break;
+        case U'>':
+            html += L"&gt;";
+            break;
+        case U'\n':
+            html += L"<br>";
+            break;
+        case U'\t':
+            html += L' ';
+            break;
+        default:
+            if (character > c_endOfPrintable)
+            {
+                html += L"&#" + std::to_wstring(static_cast<unsigned long>(character)) + L';';
+            }
+            else if (character >= U' ' && character < c_endOfPrintable)
+            {
+                html += static_cast<wchar_t>(character);
+            }
+        }
+    }
+}
+
+void AppendCell(std::wstring & html, std::wstring_view tag, TextTable::Column const & column, std::wstring_view text)
+{
+    html += L'<';
+    html += tag;
+    html += column.alignedRight ? L" align=\"right\">" : L" align=\"left\">";
+    AppendHtml(html, text);
+    html += L"</";
+    html += tag;
+    html += L'>';
+}
+
+void AppendPlain(std::wstring & plain, std::wstring_view text)
+{
+    for (auto const c : text)
+    {
+        plain += c == L'\t' || c == L'\r' || c == L'\n' ? L' ' : c;
+    }
+}
+
+} // namespace
+
+std::wstring PlainTable(TextTable const & table)
+{
+    std::wstring plain;
+    auto const appendLine = [&plain](auto const & cells, auto && textOf) {
+        bool first = true;
+        for (auto const & cell : cells)
+        {
+            if (!first)
+            {
+                plain += L'\t';
+            }
+            first = false;
+            AppendPlain(plain, textOf(cell));
+        }
+        plain += c_rowEnd;
+    };
+    appendLine(table.columns, [](TextTable::Column const & column) -> std::wstring const & { return column.title; });
+    for (auto const & row : table.rows)
+    {
+        appendLine(row, [](std::wstring const & text) -> std::wstring const & { return text; });
+    }
+    return plain;
+}
+
+std::wstring HtmlTable(TextTable const & table)
+{
+    std::wstring html = L"<table border=\"1\">\r\n<tr>";
+    for (auto const & column : table.columns)
+    {
+        AppendCell(html, L"th", column, column.title);
+    }
+    html += L"</tr>\r\n";
+    for (auto const & row : table.rows)
+    {
+        html += L"<tr>";
+        for (std::size_t i = 0; i < row.size() && i < table.columns.size(); ++i)
+        {
+            AppendCell(html, L"td", table.columns[i], row[i]);
+        }
+        html += L"</tr>\r\n";
+    }
+    return html + L"</table>";
+}
+
+} // namespace workbench

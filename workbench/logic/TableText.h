@@ -1,0 +1,30 @@
+#pragma once
+// A table of texts as it goes to other programs.
+
+#include <string>
+#include <vector>
+
+namespace workbench
+{
+
+/// Titles, and rows with a text for each title.
+struct TextTable
+{
+    struct Column
+    {
+        std::wstring title;
+        bool alignedRight = false;
+    };
+    std::vector<Column> columns;
+    std::vector<std::vector<std::wstring>> rows;
+};
+
+/// The table as lines that end with carriage return and line feed, tabs between the texts. Tabs and line breaks within
+/// a text become blanks.
+std::wstring PlainTable(TextTable const & table);
+
+/// The table as an HTML fragment in plain ASCII: other characters are numeric references. Line breaks within a text are
+/// kept; control characters and halves of surrogate pairs are left out.
+std::wstring HtmlTable(TextTable const & table);
+
+} // namespace workbench
