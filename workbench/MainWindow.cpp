@@ -7,6 +7,7 @@
 
 #include <algorithm>
 
+#include "colours/Farbtabellen.h"
 #include "frame/RegisteredMessages.h"
 #include "resource.h"
 
@@ -21,11 +22,14 @@ constexpr UINT c_messageRecordingsReady = WM_APP + 1;
 // Lengths in dialog units.
 constexpr int c_margin = 7;
 constexpr int c_spacing = 5;
-constexpr int c_leastListHeight = 100;
-constexpr int c_leastWaveformHeight = 125;
+constexpr int c_leastListHeight = 90;
+constexpr int c_leastWaveformHeight = 96;
+constexpr int c_leastSpectrogramHeight = 96;
 
-// The part of the window's growth that goes to the list, in 1/10000; the waveform below it gets the rest.
-constexpr int c_listShare = 3500;
+// Where the parts of the window's growth end that go to the list and to the waveform, in 1/10000; the spectrogram gets
+// the rest.
+constexpr int c_listEnd = 3000;
+constexpr int c_waveformEnd = 6000;
 
 // The first start's size as a part of the work area, in percent, and its limits in dialog units.
 constexpr int c_preferredPercent = 93;
@@ -54,6 +58,9 @@ BEGIN_MESSAGE_MAP(CMainWindow, CWnd)
     ON_COMMAND(ID_EXPORT_SETTINGS, &CMainWindow::OnExportSettings)
     ON_COMMAND(ID_IMPORT_SETTINGS, &CMainWindow::OnImportSettings)
     ON_COMMAND(ID_PRINT_PREVIEW, &CMainWindow::OnPrintPreview)
+    ON_COMMAND(ID_COPY, &CMainWindow::OnCopy)
+    ON_COMMAND(ID_COPY_ALL, &CMainWindow::OnCopyAll)
+    ON_COMMAND(ID_COPY_SPECTROGRAM, &CMainWindow::OnCopySpectrogram)
     ON_COMMAND(ID_CLOSE_DIALOGS, &CMainWindow::OnCloseDialogs)
     ON_COMMAND_RANGE(ID_DIALOG_FIRST, ID_DIALOG_LAST, &CMainWindow::OnDialogChosen)
     ON_COMMAND(ID_READ_AGAIN, &CMainWindow::OnReadAgain)
@@ -112,10 +119,11 @@ int CMainWindow::OnCreate(LPCREATESTRUCT create)
                                         ::GetSystemMetrics(SM_CXSMICON), ::GetSystemMetrics(SM_CYSMICON), LR_SHARED)),
         FALSE);
     DragAcceptFiles();
+    m_spectrogram.SetColours(Farbtabellen::SpektrogrammFarbtabelle(m_settings.spectrogramScale));
     m_waveform.m_onCursor = [this] { ShowReading(); };
     // The commands of the list's menu are the window's, which has them for the keyboard, too.
     m_list.m_onContextCommand = [this](int command, int row, int) {
-        m_list.ChooseLine(row);
+        m_list.ChooseLine(m_list.LineAt(row));
         SendMessage(WM_COMMAND, static_cast<WPARAM>(command));
     };
     auto const window = m_hWnd;
@@ -129,6 +137,7 @@ bool CMainWindow::CreateChildren()
 {
     auto created = m_list.CreateList(*this, IDC_RECORDINGS, m_metrics) &&
                    m_waveform.CreateView(*this, IDC_WAVEFORM, m_metrics) &&
+                   m_spectrogram.CreateView(*this, IDC_SPECTROGRAM, m_metrics) &&
                    m_panel.CreatePanel(*this, IDC_MEASURE_PANEL, m_metrics, m_settings.spectrogramScale);
     created = created && m_statusLine.Create(L"", WS_CHILD | WS_VISIBLE | SS_LEFT | SS_NOPREFIX | SS_ENDELLIPSIS,
                                              CRect(), this, IDC_STATUS_LINE);
@@ -146,22 +155,26 @@ void CMainWindow::Arrange()
                      m_metrics.Y(c_leastListHeight));
     auto const panelHeight = CMeasurePanel::Height(m_metrics);
     auto const waveformHeight = m_metrics.Y(c_leastWaveformHeight);
+    auto const spectrogramHeight = m_metrics.Y(c_leastSpectrogramHeight);
 
     CRect window(0, 0, 2 * marginX + list.cx,
-                 2 * marginY + list.cy + spacingY + waveformHeight + spacingY + panelHeight + spacingY +
-                     m_metrics.LineHeight());
+                 2 * marginY + list.cy + spacingY + waveformHeight + spacingY + spectrogramHeight + spacingY +
+                     panelHeight + spacingY + m_metrics.LineHeight());
     auto const right = window.right - marginX;
     auto const waveformTop = marginY + list.cy + spacingY;
-    auto const panelTop = waveformTop + waveformHeight + spacingY;
+    auto const spectrogramTop = waveformTop + waveformHeight + spacingY;
+    auto const panelTop = spectrogramTop + spectrogramHeight + spacingY;
     auto const statusTop = panelTop + panelHeight + spacingY;
     ::AdjustWindowRectEx(&window, GetStyle(), TRUE, GetExStyle());
     SetWindowPos(nullptr, 0, 0, window.Width(), window.Height(), SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 
     m_resizer = std::make_unique<CDialogResizer>(*this, CString());
     CRect rect(CPoint(marginX, marginY), list);
-    m_resizer->PositionChild(&m_list, CRect(0, 0, 10000, c_listShare), &rect);
+    m_resizer->PositionChild(&m_list, CRect(0, 0, 10000, c_listEnd), &rect);
     rect = CRect(marginX, waveformTop, right, waveformTop + waveformHeight);
-    m_resizer->PositionChild(&m_waveform, CRect(0, c_listShare, 10000, 10000), &rect);
+    m_resizer->PositionChild(&m_waveform, CRect(0, c_listEnd, 10000, c_waveformEnd), &rect);
+    rect = CRect(marginX, spectrogramTop, right, spectrogramTop + spectrogramHeight);
+    m_resizer->PositionChild(&m_spectrogram, CRect(0, c_waveformEnd, 10000, 10000), &rect);
     rect = CRect(marginX, panelTop, right, panelTop + panelHeight);
     m_resizer->PositionChild(&m_panel, CEdges::BOTTOM_LEFT_RIGHT(), &rect);
     rect = CRect(CPoint(marginX, statusTop), CSize(right - marginX, m_metrics.LineHeight()));

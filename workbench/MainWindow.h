@@ -15,6 +15,7 @@
 #include "PreviewDialog.h"
 #include "ScreenMetrics.h"
 #include "SettingsDialog.h"
+#include "SpectrogramView.h"
 #include "WaveformView.h"
 #include "WindowMenu.h"
 #include "layout/DialogResizer.h"
@@ -61,6 +62,9 @@ public:
     /// Opens the print preview of the chosen recording. False if it cannot be opened.
     bool ShowPreview();
 
+    /// Whether the spectrogram of the chosen recording is still being computed.
+    bool IsComputing() const { return m_spectrogram.IsComputing(); }
+
     /// Makes it the language of the windows that open from now on, and stores it.
     void ChooseLanguage(unsigned short languageId);
 
@@ -91,6 +95,9 @@ private:
     afx_msg void OnExportSettings();
     afx_msg void OnImportSettings();
     afx_msg void OnPrintPreview();
+    afx_msg void OnCopy();
+    afx_msg void OnCopyAll();
+    afx_msg void OnCopySpectrogram();
     afx_msg void OnCloseDialogs();
     afx_msg void OnDialogChosen(UINT id);
     afx_msg void OnItemChanged(NMHDR * header, LRESULT * result);
@@ -115,6 +122,7 @@ private:
     CDetailsDialog::Actions DetailsActions();
     void RememberPlace();
     void ShowChosen();
+    void ShowText(wchar_t const * title, wchar_t const * text);
     void ShowReading();
     void ReadAgain(int index);
     void KeepNotes();
@@ -125,6 +133,8 @@ private:
     CFensterManager m_memory;
     CRecordingList m_list;
     CWaveformView m_waveform;
+    CSpectrogramView m_spectrogram;
+    std::shared_ptr<workbench::RecordingAnalysis const> m_shown; ///< in both views; null for a text
     CMeasurePanel m_panel;
     CStatic m_statusLine;
     CWindowMenu m_windowMenu;

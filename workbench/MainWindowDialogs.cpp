@@ -5,7 +5,9 @@
 #include <algorithm>
 
 #include "FileDialogs.h"
+#include "PictureCopy.h"
 #include "SettingsFile.h"
+#include "colours/Farbtabellen.h"
 #include "dialogs/SprachauswahlDlg.h"
 #include "logic/Texts.h"
 #include "resource.h"
@@ -55,6 +57,8 @@ void CMainWindow::FollowSettings(workbench::Settings const & settings)
         dialog->Follow(settings);
     }
     m_panel.ChooseScale(settings.spectrogramScale);
+    m_spectrogram.SetColours(Farbtabellen::SpektrogrammFarbtabelle(settings.spectrogramScale));
+    m_preview.Update();
 }
 
 void CMainWindow::TakeSettings(workbench::Settings const & settings)
@@ -71,16 +75,20 @@ CDetailsDialog::Actions CMainWindow::DetailsActions()
 {
     CDetailsDialog::Actions actions;
     auto const index = m_detailsIndex;
+    // The neighbours in the order in which the list shows them.
+    auto const row = m_list.PlaceOf(index);
+    auto const previous = row > 0 ? m_list.LineAt(row - 1) : -1;
+    auto const next = row >= 0 ? m_list.LineAt(row + 1) : -1;
     auto const readable = [this](int i) {
         return i >= 0 && i < RecordingCount() && m_analyses[static_cast<std::size_t>(i)] != nullptr;
     };
-    if (readable(index - 1))
+    if (readable(previous))
     {
-        actions.previous = [this, index] { ShowDetails(index - 1); };
+        actions.previous = [this, previous] { ShowDetails(previous); };
     }
-    if (readable(index + 1))
+    if (readable(next))
     {
-        actions.next = [this, index] { ShowDetails(index + 1); };
+        actions.next = [this, next] { ShowDetails(next); };
     }
     if (readable(index))
     {
@@ -156,7 +164,28 @@ void CMainWindow::DrawPage(CDC & dc, CRect const & page)
     auto const gap = m_metrics.Y(6);
     auto upper = page;
     upper.bottom = page.top + (page.Height() - gap) / 2;
+    auto lower = page;
+    lower.top = upper.bottom + gap;
     m_waveform.Print(dc, upper);
+    m_spectrogram.Draw(dc, lower);
+}
+
+void CMainWindow::OnCopy()
+{
+    m_list.CopyToClipboard(false);
+}
+
+void CMainWindow::OnCopyAll()
+{
+    m_list.CopyToClipboard(true);
+}
+
+void CMainWindow::OnCopySpectrogram()
+{
+    CRect client;
+    m_spectrogram.GetClientRect(&client);
+    workbench::CopyPicture(*this, client.Size(),
+                           [this](CDC & dc, CRect const & rect) { m_spectrogram.Draw(dc, rect); });
 }
 
 void CMainWindow::CloseDialogs()
@@ -199,6 +228,9 @@ void CMainWindow::OnInitMenuPopup(CMenu * menu, UINT index, BOOL systemMenu)
     };
     auto const chosen = m_list.ChosenLine();
     auto const read = chosen >= 0 && chosen < RecordingCount() && m_analyses[static_cast<std::size_t>(chosen)];
+    enable(ID_COPY, RecordingCount() > 0);
+    enable(ID_COPY_ALL, RecordingCount() > 0);
+    enable(ID_COPY_SPECTROGRAM, m_shown && !m_shown->problem && !IsComputing());
     enable(ID_RELOAD, !m_targets.empty());
     enable(ID_SHOW_DETAILS, read);
     enable(ID_READ_AGAIN, read);

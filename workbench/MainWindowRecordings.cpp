@@ -102,37 +102,43 @@ LRESULT CMainWindow::OnRecordingsReady(WPARAM, LPARAM)
     return 0;
 }
 
+/// Shows a text in both views.
+void CMainWindow::ShowText(wchar_t const * title, wchar_t const * text)
+{
+    m_shown.reset();
+    m_waveform.ShowText(title, text);
+    m_spectrogram.ShowText(title, text);
+}
+
 void CMainWindow::ShowChosen()
 {
     auto const chosen = m_list.ChosenLine();
     if (m_files.empty())
     {
-        if (m_targets.empty())
-        {
-            m_waveform.ShowText(Text(L"No recordings"), Text(L"Open WAV files or a folder to see them here."));
-        }
-        else
-        {
-            m_waveform.ShowText(Text(L"No recordings"), Text(L"There are no WAV files in this folder."));
-        }
+        ShowText(Text(L"No recordings"), m_targets.empty() ? Text(L"Open WAV files or a folder to see them here.")
+                                                           : Text(L"There are no WAV files in this folder."));
     }
     else if (chosen < 0 || chosen >= RecordingCount())
     {
-        m_waveform.ShowText(Text(L"No recording chosen"), Text(L"Choose a recording in the list to see its waveform."));
+        ShowText(Text(L"No recording chosen"), Text(L"Choose a recording in the list to see it here."));
     }
     else
     {
         auto const index = static_cast<std::size_t>(chosen);
-        auto name = m_files[index].filename().wstring();
-        if (m_analyses[index])
+        auto const name = m_files[index].filename().wstring();
+        auto const & analysis = m_analyses[index];
+        if (!analysis)
         {
-            m_waveform.ShowRecording(std::move(name), m_analyses[index]);
+            ShowText(name.c_str(), Text(L"reading..."));
         }
-        else
+        else if (analysis != m_shown)
         {
-            m_waveform.ShowText(std::move(name), Text(L"reading..."));
+            m_shown = analysis;
+            m_waveform.ShowRecording(name, analysis);
+            m_spectrogram.ShowRecording(name, m_files[index]);
         }
     }
+    m_preview.Update();
 }
 
 /// Shows the waveform's cursor on the displays.
@@ -314,7 +320,7 @@ LRESULT CMainWindow::OnListCheckClicked(WPARAM, LPARAM column)
 
 LRESULT CMainWindow::OnListLinkClicked(WPARAM row, LPARAM)
 {
-    ShowDetails(static_cast<int>(row));
+    ShowDetails(m_list.LineAt(static_cast<int>(row)));
     return 0;
 }
 
@@ -329,7 +335,7 @@ LRESULT CMainWindow::OnListDoubleClicked(WPARAM row, LPARAM column)
     case CRecordingList::column_comment:
         break;
     default:
-        ShowDetails(static_cast<int>(row));
+        ShowDetails(m_list.LineAt(static_cast<int>(row)));
     }
     return 0;
 }

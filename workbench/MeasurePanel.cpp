@@ -103,6 +103,8 @@ void CMeasurePanel::OnSize(UINT type, int width, int height)
     m_scale.MoveWindow(left, top, m_metrics->X(c_scaleWidth), box.Height() + m_metrics->Y(c_height) * 8);
     auto const clock = m_metrics->X(c_clockWidth);
     m_clock.MoveWindow(width - clock, 0, clock, height);
+    // The panel has mostly moved as well; what it takes along of its children may be of other windows.
+    RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
 void CMeasurePanel::ShowReading(std::wstring const & position, std::wstring const & level)

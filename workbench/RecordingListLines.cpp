@@ -153,8 +153,7 @@ void CRecordingList::ShowValues(int row, std::shared_ptr<workbench::RecordingAna
     SetItemFloatVal(row, column_peak, static_cast<float>(analysis->levels.peak), peak.c_str());
     SetItemColors(row, column_peak, ::GetSysColor(COLOR_WINDOWTEXT),
                   analysis->levels.peak > 0.0 ? c_clippedColour : c_barColour, XLISTCTRLDATA::no_gradient);
-    UpdateProgress(row, column_peak, std::max(workbench::LevelBarPercent(analysis->levels.peak), c_leastBarPercent),
-                   0);
+    UpdateProgress(row, column_peak, std::max(workbench::LevelBarPercent(analysis->levels.peak), c_leastBarPercent), 0);
 
     auto const rms = AtRightEdge(workbench::FormatLevel(analysis->levels.rms));
     SetItemFloatVal(row, column_rms, static_cast<float>(analysis->levels.rms), rms.c_str());

@@ -5,8 +5,12 @@
 #include <algorithm>
 #include <cmath>
 
+#include "PlotMargins.h"
 #include "logic/Axis.h"
 #include "logic/TextFormat.h"
+#include "logic/Texts.h"
+
+using workbench::Text;
 
 namespace
 {
@@ -122,7 +126,7 @@ void CSpectrogramView::EndJob()
 
 void CSpectrogramView::ShowRecording(std::wstring name, std::filesystem::path const & path)
 {
-    ShowText(std::move(name), L"The spectrogram is being computed.");
+    ShowText(std::move(name), Text(L"The spectrogram is being computed."));
     m_progress.SetPos(0);
     PlaceProgress();
     m_progress.ShowWindow(SW_SHOWNA);
@@ -163,7 +167,7 @@ LRESULT CSpectrogramView::OnComputed(WPARAM, LPARAM)
         return 0;
     }
     EndJob();
-    m_text = result->problem ? L"Cannot be shown: " + result->problem->Text() + L"." : std::wstring();
+    m_text = result->problem ? Text(L"Cannot be shown") + (L": " + result->problem->Text() + L'.') : std::wstring();
     m_result = std::move(result);
     Invalidate(FALSE);
     return 0;
@@ -253,8 +257,9 @@ void CSpectrogramView::Draw(CDC & dc, CRect const & rect)
     auto plot = area;
     plot.top += line / 2;
     plot.bottom -= line + m_metrics->Y(4);
-    plot.left += FrequencyLabelWidth(dc, plot.Height() - 2) + m_metrics->X(4);
-    plot.right -= TextSize(dc, L"-96 dB").cx + m_metrics->X(14);
+    workbench::PlotMargins const margins(dc, *m_metrics);
+    plot.left += margins.left;
+    plot.right -= margins.right;
     if (plot.Width() < m_metrics->X(20) || plot.Height() < 2 * line)
     {
         return;
@@ -304,7 +309,8 @@ std::wstring CSpectrogramView::Details() const
     if (info.channels > 1)
     {
         auto const shown = std::min<std::size_t>(info.channels, workbench::SpectrogramBuilder::c_maximumChannels);
-        details += L"  \u00B7  the loudest of " + workbench::FormatCount(shown, L"channel", L"channels");
+        details += std::wstring(L"  \u00B7  ") + Text(L"the loudest of") + L' ' +
+                   workbench::FormatCount(shown, Text(L"channel"), Text(L"channels"));
     }
     return details;
 }
@@ -372,16 +378,6 @@ void CSpectrogramView::DrawTimeAxis(CDC & dc, CRect const & plot)
         auto const left = std::clamp<int>(x - width / 2, plot.left, std::max<int>(plot.right - width, plot.left));
         DrawLabel(dc, tick.label, CPoint(left, plot.bottom + tickHeight + 1));
     }
-}
-
-int CSpectrogramView::FrequencyLabelWidth(CDC & dc, int height) const
-{
-    int width = 0;
-    for (auto const & tick : workbench::FrequencyTicks(m_result->info.sampleRate / 2.0, height, m_metrics->Y(16)))
-    {
-        width = std::max<int>(width, TextSize(dc, tick.label).cx);
-    }
-    return width;
 }
 
 void CSpectrogramView::DrawFrequencyAxis(CDC & dc, CRect const & plot)

@@ -67,7 +67,6 @@ private:
     void DrawTimeAxis(CDC & dc, CRect const & plot);
     void DrawFrequencyAxis(CDC & dc, CRect const & plot);
     void DrawLegend(CDC & dc, CRect const & bar);
-    int FrequencyLabelWidth(CDC & dc, int height) const;
     std::wstring Details() const;
 
     workbench::ScreenMetrics * m_metrics = nullptr;

@@ -67,7 +67,7 @@ CWalk::CWalk(CMainWindow & window, std::filesystem::path folder) : m_window(wind
 
 bool CWalk::WaitForRecordings()
 {
-    return PumpUntil([this] { return m_window.UnreadCount() == 0; }, c_readLimit);
+    return PumpUntil([this] { return m_window.UnreadCount() == 0 && !m_window.IsComputing(); }, c_readLimit);
 }
 
 bool CWalk::Resize(int left, int top, int width, int height)
@@ -105,7 +105,7 @@ bool CWalk::IsDone() const
 bool CWalk::Step(char const * picture)
 {
     Settle();
-    return ::IsWindow(m_window.GetSafeHwnd()) && WriteReady(picture) &&
+    return WaitForRecordings() && ::IsWindow(m_window.GetSafeHwnd()) && WriteReady(picture) &&
            PumpUntil([this] { return IsDone(); }, c_stepLimit);
 }
 
@@ -296,6 +296,38 @@ bool CWalk::CheckSome()
     return true;
 }
 
+/// Sorts by the peak level, the loudest first, as a click on the title does that shows the arrow already.
+bool CWalk::SortByPeak()
+{
+    auto & list = m_window.List();
+    auto & header = *list.GetHeaderCtrl();
+    CRect title;
+    header.GetItemRect(CRecordingList::column_peak, &title);
+    auto const point = title.CenterPoint();
+    for (int click = 0; click < 2; ++click)
+    {
+        header.PostMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(point.x, point.y));
+        header.PostMessage(WM_LBUTTONUP, 0, MAKELPARAM(point.x, point.y));
+        Settle();
+    }
+    auto const sorted = Step("workbench-sorted");
+    list.SortLines(CRecordingList::column_name, true);
+    return sorted;
+}
+
+/// Copies lines and spectrogram, of which the clipboard then has every form.
+bool CWalk::CopyEverything()
+{
+    m_window.SendMessage(WM_COMMAND, ID_COPY_ALL);
+    auto const html = ::RegisterClipboardFormatW(L"HTML Format");
+    if (!::IsClipboardFormatAvailable(CF_UNICODETEXT) || !::IsClipboardFormatAvailable(html))
+    {
+        return false;
+    }
+    m_window.SendMessage(WM_COMMAND, ID_COPY_SPECTROGRAM);
+    return ::IsClipboardFormatAvailable(CF_ENHMETAFILE) != FALSE;
+}
+
 bool CWalk::Run()
 {
     if (!WaitForRecordings() || !Step("workbench-initial"))
@@ -309,6 +341,10 @@ bool CWalk::Run()
         {
             return false;
         }
+    }
+    if (m_window.RecordingCount() > 1 && !(SortByPeak() && CopyEverything()))
+    {
+        return false;
     }
     if (m_window.ChooseRecording(m_window.FirstDamagedRecording()) && !Step("workbench-damaged"))
     {

@@ -29,6 +29,8 @@ public:
 private:
     bool Step(char const * picture);
     bool CheckSome();
+    bool SortByPeak();
+    bool CopyEverything();
     bool StepInside(char const * picture, std::function<void()> const & enter, std::function<void()> const & leave);
     bool StepInMenu(char const * picture, CWnd & window, CPoint point);
     bool StepInMainMenu(char const * picture, int position);

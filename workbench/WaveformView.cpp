@@ -6,6 +6,7 @@
 #include <cmath>
 #include <iterator>
 
+#include "PlotMargins.h"
 #include "colours/Farbtabellen.h"
 #include "logic/Axis.h"
 #include "logic/TextFormat.h"
@@ -135,7 +136,9 @@ void CWaveformView::Draw(CDC & dc, CRect const & client)
 
     auto const line = m_metrics->LineHeight();
     auto plot = area;
-    plot.left += TextSize(dc, L"-12").cx + m_metrics->X(4);
+    workbench::PlotMargins const margins(dc, *m_metrics);
+    plot.left += margins.left;
+    plot.right -= margins.right;
     plot.bottom -= line + m_metrics->Y(4);
     auto const lanes = static_cast<int>(m_analysis->waveform.Lanes());
     auto const gap = lanes > 1 ? m_metrics->Y(lanes > 8 ? 1 : 4) : 0;
