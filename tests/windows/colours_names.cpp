@@ -8,6 +8,7 @@
 
 #include "ChildProgram.h"
 #include "GdiHandleCount.h"
+#include "ImportPatch.h"
 #include "ResourceReader.h"
 
 #include <gtest/gtest.h>
@@ -187,6 +188,27 @@ CHILD_PROGRAM(NamesStayInTheFirstLanguage)
     return differences.Count();
 }
 
+int g_palettes = 0;
+WORD g_version = 0;
+WORD g_entries = 0;
+
+HPALETTE WINAPI RecordPalette(LOGPALETTE const * palette)
+{
+    ++g_palettes;
+    g_version = palette->palVersion;
+    g_entries = palette->palNumEntries;
+    return nullptr;
+}
+
+CHILD_PROGRAM(PaletteThatCannotBeMade)
+{
+    tests::ImportPatch const patch(L"instrument_ui.dll", "CreatePalette", &RecordPalette);
+    CPalette * const palette = ScopeFarbenPalette();
+    bool const asked = patch.Done() && g_palettes == 1 && g_version == 0x300 && g_entries == 32;
+    bool const sameAgain = palette != nullptr && ScopeFarbenPalette() == palette && g_palettes == 1;
+    return asked && sameAgain && palette->GetSafeHandle() == nullptr ? 0 : 1;
+}
+
 CHILD_PROGRAM(NamesOfTheHostStay)
 {
     // A table that the host has changed stays changed: later calls give the object at once.
@@ -221,6 +243,11 @@ TEST(ColourPalettes, AreMadeOnce)
     EXPECT_EQ(ScopeFarbenPalette(), scope);
     EXPECT_EQ(SelvaneFarbenPalette(), second);
     EXPECT_EQ(scope->GetSafeHandle(), handle);
+}
+
+TEST(ColourPalettes, FailureOfTheSystemIsNotReported)
+{
+    ExpectChildFindsNoDifference("PaletteThatCannotBeMade", L"");
 }
 
 TEST(ColourPalettes, ResourceModuleIsTheApplicationsAfterwards)

@@ -68,13 +68,15 @@ TEST_F(DigiStaticShape, TransparencySwitchesTheWindowStyle)
 {
     Open();
     display.ValidateRect(nullptr);
+    DWORD const before = display.GetExStyle();
+    ASSERT_EQ(before & WS_EX_TRANSPARENT, 0U);
     display.SetTransparent(true);
     EXPECT_TRUE(display.m_transparent);
-    EXPECT_EQ(display.GetExStyle() & WS_EX_TRANSPARENT, static_cast<DWORD>(WS_EX_TRANSPARENT));
+    EXPECT_EQ(display.GetExStyle(), before | WS_EX_TRANSPARENT);
     EXPECT_FALSE(display.NeedsPaint());
     display.SetTransparent(false);
     EXPECT_FALSE(display.m_transparent);
-    EXPECT_EQ(display.GetExStyle() & WS_EX_TRANSPARENT, 0U);
+    EXPECT_EQ(display.GetExStyle(), before);
     EXPECT_FALSE(display.NeedsPaint());
 }
 

@@ -244,6 +244,8 @@ TEST_F(DigiStaticStyle, BitsAreSetAndCleared)
     EXPECT_EQ(display.m_digiStyle, 1U + 8 + 16);
     EXPECT_EQ(display.ModifyDigiStyle(1, 4), 1);
     EXPECT_EQ(display.m_digiStyle, 4U + 8 + 16);
+    EXPECT_EQ(display.ModifyDigiStyle(1, 4), 1) << "as it is already";
+    EXPECT_EQ(display.m_digiStyle, 4U + 8 + 16);
 }
 
 TEST_F(DigiStaticStyle, GoesIntoTheCharacters)
@@ -267,6 +269,8 @@ TEST_F(DigiStaticStyle, ButtonRectSetsAndClearsItsBit)
     EXPECT_TRUE(display.m_modified);
     Update();
     EXPECT_FALSE(display.m_modified);
+    display.SetButtonRect(&rect);
+    EXPECT_EQ(display.m_digiStyle, 20U + 32);
     EXPECT_TRUE(Invalidates([&] { display.SetButtonRect(nullptr); }));
     EXPECT_EQ(display.m_digiStyle, 20U);
     EXPECT_TRUE(display.m_modified);
@@ -366,10 +370,13 @@ TEST_F(DigiStaticRepaint, OfAControlWithoutAWindowTouchesNoOtherWindow)
     tests::PumpPosted();
     ::ValidateRect(parent.m_hWnd, nullptr);
     display.SetText(L"8");
+    EXPECT_FALSE(::GetUpdateRect(parent.m_hWnd, nullptr, FALSE));
+    tests::MessageRecorder recorder({WM_PAINT, WM_ERASEBKGND});
+    recorder.Watch(parent.m_hWnd, "parent");
     display.SetTransparent(true);
     display.SetDrawImmediately(true);
     display.SetColorScheme(ColorSchemeRed);
-    EXPECT_FALSE(::GetUpdateRect(parent.m_hWnd, nullptr, FALSE));
+    EXPECT_TRUE(recorder.Matches({}));
     display.SetTransparent(false);
     Open();
     tests::Canvas canvas(Width, Height);

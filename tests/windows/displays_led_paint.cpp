@@ -205,6 +205,16 @@ TEST_F(LedTextPaint, ShorterTextOfACopyShowsInTheOldWidth)
     ExpectAbout(Columns(LIT), {4, 44});
 }
 
+TEST_F(LedTextPaint, LongerTextOfACopyShowsInTheOldLength)
+{
+    display.SetText(L"1");
+    display.SetTextAlign(64);
+    CLedTextAnzeiger copy(display);
+    copy.SetText(L"888");
+    Draw(display, CRect(0, 0, Width, Height));
+    ExpectAbout(Columns(LIT), {4, 44});
+}
+
 TEST_F(LedTextPaint, LeavesNoHandlesBehind)
 {
     display.SetText(L"12.5 mV");
