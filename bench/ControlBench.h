@@ -16,6 +16,7 @@ bool PaintingAPageOfText();
 bool PaintingPagesOfOtherKinds();
 bool SortingAList();
 bool ExportingAList();
+bool PaintingSegmentCharacters();
 
 template <class Work> double Nanoseconds(Work && work)
 {

@@ -39,6 +39,7 @@ struct Measure
 constexpr Measure measures[] = {
     {"layout", bench::LayoutArithmetic},
     {"list-search", bench::SearchingRows},
+    {"segments", bench::PaintingSegments},
 };
 } // namespace
 

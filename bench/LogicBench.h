@@ -8,6 +8,7 @@ namespace bench
 {
 bool LayoutArithmetic();
 bool SearchingRows();
+bool PaintingSegments();
 
 /// Runs the benchmarks registered since the last call; the best time of each in nanoseconds.
 std::map<std::string, double> RunRegistered();

@@ -83,7 +83,7 @@ start_display() {
 # programs get one virtual desktop of that size with captions and frames.
 prepare_prefix() {
     export WINEPREFIX=$1 WINEDEBUG=-all WINEDLLOVERRIDES="mscoree,mshtml,winedbg.exe=" WINEARCH=win64
-    if [ ! -f "$WINEPREFIX/prepared" ]; then
+    if [ ! -f "$WINEPREFIX/prepared-with-fonts" ]; then
         say "preparing Wine (about 20 s)"
         rm -rf "$WINEPREFIX"
         mkdir -p "$WINEPREFIX"
@@ -91,11 +91,11 @@ prepare_prefix() {
         wineserver -w
         local font
         mkdir -p "$WINEPREFIX/drive_c/windows/Fonts"
-        for font in tahoma.ttf tahomabd.ttf marlett.ttf; do
+        for font in tahoma.ttf tahomabd.ttf marlett.ttf sserife.fon; do
             [ -e "$WINEPREFIX/drive_c/windows/Fonts/$font" ] || [ ! -e "/usr/share/wine/fonts/$font" ] ||
                 cp "/usr/share/wine/fonts/$font" "$WINEPREFIX/drive_c/windows/Fonts/"
         done
-        touch "$WINEPREFIX/prepared"
+        touch "$WINEPREFIX/prepared-with-fonts"
     fi
     # The desktop is chosen when the first program starts, so the server is ended once the registry says which.
     local desktop='HKCU\Software\Wine\Explorer'
@@ -111,6 +111,17 @@ prepare_prefix() {
     wine_started=1
     # The first window brings the desktop process, which would hold the output of the program that it is started for.
     wine rundll32 user32.dll,GetDesktopWindow </dev/null >/dev/null 2>&1
+}
+
+# Gives the prefix the dialog font that Windows has. Wine would take Tahoma, whose wider letters need more room than the
+# dialogs have. The font of messages, which Wine takes from the former, stays Tahoma.
+use_windows_dialog_font() {
+    local tahoma='f5ffffff000000000000000000000000900100000000000100000000' # 11 pixels, weight 400
+    tahoma+='5400610068006f006d0061000000'
+    while [ ${#tahoma} -lt 184 ]; do tahoma+=00; done
+    wine reg add 'HKCU\Control Panel\Desktop\WindowMetrics' /v MessageFont /t REG_BINARY /d "$tahoma" /f >/dev/null 2>&1
+    wine reg add 'HKLM\Software\Microsoft\Windows NT\CurrentVersion\FontSubstitutes' /v 'MS Shell Dlg' \
+        /d 'MS Sans Serif' /f >/dev/null 2>&1
 }
 
 # Ends what this run started, and nothing else.

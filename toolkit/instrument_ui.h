@@ -9,6 +9,8 @@
 
 #include "clipboard/Clipboard.h"
 
+#include "colours/Farbtabellen.h"
+
 #include "layout/Edges.h"
 #include "layout/DialogResizer.h"
 
@@ -19,3 +21,8 @@
 
 #include "windows/FensterManager.h"
 #include "windows/MenueManager.h"
+
+#include "segments/ColorScheme.h"
+#include "segments/DigiStyle.h"
+#include "segments/DigiStatic.h"
+#include "segments/LedTextAnzeiger.h"

@@ -2,6 +2,9 @@
 
 #include <afxdlgs.h>
 
+#include "dialogs/FolderDialog.h"
+#include "logic/Texts.h"
+
 namespace workbench
 {
 
@@ -18,8 +21,8 @@ std::vector<std::filesystem::path> ChooseFiles(CWnd & owner)
     std::vector<std::filesystem::path> files;
     std::vector<wchar_t> names(c_namesLength, L'\0');
     CFileDialog dialog(TRUE, L"wav", nullptr, OFN_ALLOWMULTISELECT | OFN_FILEMUSTEXIST | OFN_HIDEREADONLY,
-                       L"WAV recordings (*.wav;*.wave)|*.wav;*.wave|All files (*.*)|*.*||", &owner);
-    dialog.GetOFN().lpstrTitle = L"Open Recordings";
+                       Text(L"WAV recordings (*.wav;*.wave)|*.wav;*.wave|All files (*.*)|*.*||"), &owner);
+    dialog.GetOFN().lpstrTitle = Text(L"Open Recordings");
     dialog.GetOFN().lpstrFile = names.data();
     dialog.GetOFN().nMaxFile = c_namesLength;
     if (dialog.DoModal() == IDOK)
@@ -32,9 +35,10 @@ std::vector<std::filesystem::path> ChooseFiles(CWnd & owner)
     return files;
 }
 
-std::optional<std::filesystem::path> ChooseFolder(CWnd & owner)
+std::optional<std::filesystem::path> ChooseFolder(CWnd & owner, wchar_t const * title)
 {
-    CFolderPickerDialog dialog(nullptr, 0, &owner);
+    CFolderDialog dialog(owner.m_hWnd);
+    dialog.SetTitleMessage(title);
     if (dialog.DoModal() != IDOK)
     {
         return std::nullopt;

@@ -12,7 +12,7 @@ namespace workbench
 /// Lets the user choose WAV files; empty if the choice was given up.
 std::vector<std::filesystem::path> ChooseFiles(CWnd & owner);
 
-/// Lets the user choose a folder; empty if the choice was given up.
-std::optional<std::filesystem::path> ChooseFolder(CWnd & owner);
+/// Lets the user choose a folder; empty if the choice was given up. title: says what for.
+std::optional<std::filesystem::path> ChooseFolder(CWnd & owner, wchar_t const * title);
 
 } // namespace workbench

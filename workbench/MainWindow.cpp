@@ -1,13 +1,12 @@
-// The main window's life, layout and commands; what it does with recordings is in MainWindowRecordings.cpp.
+// The main window's life, layout and commands; what it does with recordings is in MainWindowRecordings.cpp, with
+// dialogs and menus in MainWindowDialogs.cpp.
 
 #include "MainWindow.h"
 
 #include <shellapi.h>
 
 #include <algorithm>
-#include <array>
 
-#include "FileDialogs.h"
 #include "frame/RegisteredMessages.h"
 #include "resource.h"
 
@@ -22,8 +21,6 @@ constexpr UINT c_messageRecordingsReady = WM_APP + 1;
 // Lengths in dialog units.
 constexpr int c_margin = 7;
 constexpr int c_spacing = 5;
-constexpr int c_buttonWidth = 60;
-constexpr int c_buttonHeight = 15;
 constexpr int c_leastListHeight = 100;
 constexpr int c_leastWaveformHeight = 125;
 
@@ -47,10 +44,18 @@ BEGIN_MESSAGE_MAP(CMainWindow, CWnd)
     ON_WM_ACTIVATE()
     ON_WM_SETFOCUS()
     ON_WM_DROPFILES()
+    ON_WM_INITMENUPOPUP()
     ON_COMMAND(ID_OPEN_FILES, &CMainWindow::OnOpenFiles)
     ON_COMMAND(ID_OPEN_FOLDER, &CMainWindow::OnOpenFolder)
     ON_COMMAND(ID_RELOAD, &CMainWindow::OnReload)
     ON_COMMAND(ID_CLOSE_WORKBENCH, &CMainWindow::OnCloseCommand)
+    ON_COMMAND(ID_SHOW_SETTINGS, &CMainWindow::OnShowSettings)
+    ON_COMMAND(ID_CHOOSE_LANGUAGE, &CMainWindow::OnChooseLanguage)
+    ON_COMMAND(ID_EXPORT_SETTINGS, &CMainWindow::OnExportSettings)
+    ON_COMMAND(ID_IMPORT_SETTINGS, &CMainWindow::OnImportSettings)
+    ON_COMMAND(ID_PRINT_PREVIEW, &CMainWindow::OnPrintPreview)
+    ON_COMMAND(ID_CLOSE_DIALOGS, &CMainWindow::OnCloseDialogs)
+    ON_COMMAND_RANGE(ID_DIALOG_FIRST, ID_DIALOG_LAST, &CMainWindow::OnDialogChosen)
     ON_COMMAND(ID_READ_AGAIN, &CMainWindow::OnReadAgain)
     ON_COMMAND(ID_SHOW_DETAILS, &CMainWindow::OnShowDetails)
     ON_COMMAND(ID_SET_REFERENCE, &CMainWindow::OnSetReference)
@@ -64,7 +69,7 @@ BEGIN_MESSAGE_MAP(CMainWindow, CWnd)
     ON_MESSAGE(c_messageRecordingsReady, &CMainWindow::OnRecordingsReady)
 END_MESSAGE_MAP()
 
-CMainWindow::CMainWindow() : m_memory(c_title, CFensterManager::window_main) {}
+CMainWindow::CMainWindow() : m_memory(c_title, CFensterManager::window_main), m_settings(workbench::ReadSettings()) {}
 
 bool CMainWindow::CreateMainWindow()
 {
@@ -73,10 +78,12 @@ bool CMainWindow::CreateMainWindow()
     auto const windowClass =
         AfxRegisterWndClass(0, ::LoadCursorW(nullptr, IDC_ARROW), reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1),
                             ::LoadIconW(instance, MAKEINTRESOURCEW(IDI_WORKBENCH)));
-    if (!CreateEx(0, windowClass, c_title, WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, CRect(0, 0, 100, 100), nullptr, 0))
+    auto const menu = ::LoadMenuW(instance, MAKEINTRESOURCEW(IDR_MAIN_MENU));
+    if (!CreateEx(0, windowClass, c_title, WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, 0, 0, 100, 100, nullptr, menu))
     {
         return false;
     }
+    PrepareDialogs();
     Arrange();
 
     CRect work;
@@ -105,6 +112,7 @@ int CMainWindow::OnCreate(LPCREATESTRUCT create)
                                         ::GetSystemMetrics(SM_CXSMICON), ::GetSystemMetrics(SM_CYSMICON), LR_SHARED)),
         FALSE);
     DragAcceptFiles();
+    m_waveform.m_onCursor = [this] { ShowReading(); };
     // The commands of the list's menu are the window's, which has them for the keyboard, too.
     m_list.m_onContextCommand = [this](int command, int row, int) {
         m_list.ChooseLine(row);
@@ -119,23 +127,9 @@ int CMainWindow::OnCreate(LPCREATESTRUCT create)
 
 bool CMainWindow::CreateChildren()
 {
-    struct Button
-    {
-        CButton & button;
-        wchar_t const * text;
-        UINT id;
-    };
-    constexpr DWORD buttonStyle = WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_PUSHBUTTON;
-    auto created =
-        m_list.CreateList(*this, IDC_RECORDINGS, m_metrics) && m_waveform.CreateView(*this, IDC_WAVEFORM, m_metrics);
-    for (auto const & [button, text, id] : std::array<Button, 4>{{{m_openFiles, L"&Open files...", ID_OPEN_FILES},
-                                                                  {m_openFolder, L"Open &folder...", ID_OPEN_FOLDER},
-                                                                  {m_reload, L"&Reload", ID_RELOAD},
-                                                                  {m_close, L"&Close", ID_CLOSE_WORKBENCH}}})
-    {
-        created = created && button.Create(text, buttonStyle, CRect(), this, id);
-        button.SetFont(&m_metrics.Font());
-    }
+    auto created = m_list.CreateList(*this, IDC_RECORDINGS, m_metrics) &&
+                   m_waveform.CreateView(*this, IDC_WAVEFORM, m_metrics) &&
+                   m_panel.CreatePanel(*this, IDC_MEASURE_PANEL, m_metrics, m_settings.spectrogramScale);
     created = created && m_statusLine.Create(L"", WS_CHILD | WS_VISIBLE | SS_LEFT | SS_NOPREFIX | SS_ENDELLIPSIS,
                                              CRect(), this, IDC_STATUS_LINE);
     m_statusLine.SetFont(&m_metrics.Font());
@@ -147,20 +141,20 @@ void CMainWindow::Arrange()
 {
     auto const marginX = m_metrics.X(c_margin);
     auto const marginY = m_metrics.Y(c_margin);
-    auto const spacingX = m_metrics.X(c_spacing);
     auto const spacingY = m_metrics.Y(c_spacing);
-    CSize const button(m_metrics.X(c_buttonWidth), m_metrics.Y(c_buttonHeight));
-    CSize const list(m_list.LeastWidth(), m_metrics.Y(c_leastListHeight));
+    CSize const list(std::max(m_list.LeastWidth(), CMeasurePanel::LeastWidth(m_metrics)),
+                     m_metrics.Y(c_leastListHeight));
+    auto const panelHeight = CMeasurePanel::Height(m_metrics);
     auto const waveformHeight = m_metrics.Y(c_leastWaveformHeight);
 
     CRect window(0, 0, 2 * marginX + list.cx,
-                 2 * marginY + list.cy + spacingY + waveformHeight + spacingY + button.cy + spacingY +
+                 2 * marginY + list.cy + spacingY + waveformHeight + spacingY + panelHeight + spacingY +
                      m_metrics.LineHeight());
     auto const right = window.right - marginX;
     auto const waveformTop = marginY + list.cy + spacingY;
-    auto const buttonTop = waveformTop + waveformHeight + spacingY;
-    auto const statusTop = buttonTop + button.cy + spacingY;
-    ::AdjustWindowRectEx(&window, GetStyle(), FALSE, GetExStyle());
+    auto const panelTop = waveformTop + waveformHeight + spacingY;
+    auto const statusTop = panelTop + panelHeight + spacingY;
+    ::AdjustWindowRectEx(&window, GetStyle(), TRUE, GetExStyle());
     SetWindowPos(nullptr, 0, 0, window.Width(), window.Height(), SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 
     m_resizer = std::make_unique<CDialogResizer>(*this, CString());
@@ -168,34 +162,11 @@ void CMainWindow::Arrange()
     m_resizer->PositionChild(&m_list, CRect(0, 0, 10000, c_listShare), &rect);
     rect = CRect(marginX, waveformTop, right, waveformTop + waveformHeight);
     m_resizer->PositionChild(&m_waveform, CRect(0, c_listShare, 10000, 10000), &rect);
-    rect = CRect(CPoint(marginX, buttonTop), button);
-    for (auto * const child : {&m_openFiles, &m_openFolder, &m_reload})
-    {
-        m_resizer->PositionChild(child, CEdges::BOTTOM_LEFT(), &rect);
-        rect.OffsetRect(button.cx + spacingX, 0);
-    }
-    rect = CRect(CPoint(right - button.cx, buttonTop), button);
-    m_resizer->PositionChild(&m_close, CEdges::BOTTOM_RIGHT(), &rect);
+    rect = CRect(marginX, panelTop, right, panelTop + panelHeight);
+    m_resizer->PositionChild(&m_panel, CEdges::BOTTOM_LEFT_RIGHT(), &rect);
     rect = CRect(CPoint(marginX, statusTop), CSize(right - marginX, m_metrics.LineHeight()));
     m_resizer->PositionChild(&m_statusLine, CEdges::BOTTOM_LEFT_RIGHT(), &rect);
     m_resizer->OnSize();
-}
-
-void CMainWindow::OnOpenFiles()
-{
-    auto files = workbench::ChooseFiles(*this);
-    if (!files.empty())
-    {
-        ShowTargets(std::move(files));
-    }
-}
-
-void CMainWindow::OnOpenFolder()
-{
-    if (auto const folder = workbench::ChooseFolder(*this))
-    {
-        ShowTargets({*folder});
-    }
 }
 
 void CMainWindow::OnDropFiles(HDROP drop)
@@ -221,20 +192,10 @@ BOOL CMainWindow::PreTranslateMessage(MSG * message)
     }
     if (message->message == WM_KEYDOWN && message->wParam == VK_RETURN)
     {
-        auto * const focus = GetFocus();
-        if (focus == &m_list)
+        if (GetFocus() == &m_list)
         {
             ReadAgain(m_list.ChosenLine());
             return TRUE;
-        }
-        for (auto * const button : {&m_openFiles, &m_openFolder, &m_reload, &m_close})
-        {
-            if (focus == button)
-            {
-                PostMessage(WM_COMMAND, MAKEWPARAM(button->GetDlgCtrlID(), BN_CLICKED),
-                            reinterpret_cast<LPARAM>(button->m_hWnd));
-                return TRUE;
-            }
         }
     }
     return CWnd::PreTranslateMessage(message) || IsDialogMessage(message);
@@ -294,7 +255,7 @@ void CMainWindow::OnCloseCommand()
 
 void CMainWindow::OnClose()
 {
-    CloseDetails();
+    CloseDialogs();
     RememberPlace();
     DestroyWindow();
 }

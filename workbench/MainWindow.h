@@ -2,16 +2,21 @@
 
 #include <afxwin.h>
 
+#include <array>
 #include <filesystem>
 #include <map>
 #include <memory>
 #include <optional>
 #include <vector>
 
-#include "DetailsWindow.h"
+#include "DetailsDialog.h"
+#include "MeasurePanel.h"
 #include "RecordingList.h"
+#include "PreviewDialog.h"
 #include "ScreenMetrics.h"
+#include "SettingsDialog.h"
 #include "WaveformView.h"
+#include "WindowMenu.h"
 #include "layout/DialogResizer.h"
 #include "logic/AnalysisQueue.h"
 #include "windows/FensterManager.h"
@@ -35,6 +40,9 @@ public:
     /// Chooses a recording by its place in the list. Gives false for one that does not exist.
     bool ChooseRecording(int index);
 
+    /// Moves the cursor to a part of the chosen recording, in percent.
+    void MoveCursorToPart(int percent);
+
     /// The place of the first recording that cannot be shown, or is damaged; -1 if there is none.
     int FirstDamagedRecording() const;
 
@@ -44,7 +52,19 @@ public:
     /// Opens the details of a recording, or shows them in the open window. Gives false for one that does not exist or
     /// is being read.
     bool ShowDetails(int index);
-    void CloseDetails();
+    CDetailsDialog & Details() { return m_details; }
+
+    /// Opens the settings, or brings them to the front.
+    bool ShowSettings();
+    CSettingsDialog & SettingsDialog() { return m_settingsDialog; }
+
+    /// Opens the print preview of the chosen recording. False if it cannot be opened.
+    bool ShowPreview();
+
+    /// Makes it the language of the windows that open from now on, and stores it.
+    void ChooseLanguage(unsigned short languageId);
+
+    void CloseDialogs();
 
     BOOL PreTranslateMessage(MSG * message) override;
 
@@ -56,6 +76,7 @@ private:
     afx_msg void OnClose();
     afx_msg void OnDestroy();
     afx_msg void OnEndSession(BOOL ending);
+    afx_msg void OnInitMenuPopup(CMenu * menu, UINT index, BOOL systemMenu);
     afx_msg void OnSize(UINT type, int width, int height);
     afx_msg void OnGetMinMaxInfo(MINMAXINFO * info);
     afx_msg void OnActivate(UINT state, CWnd * other, BOOL minimized);
@@ -65,6 +86,13 @@ private:
     afx_msg void OnOpenFolder();
     afx_msg void OnReload();
     afx_msg void OnCloseCommand();
+    afx_msg void OnShowSettings();
+    afx_msg void OnChooseLanguage();
+    afx_msg void OnExportSettings();
+    afx_msg void OnImportSettings();
+    afx_msg void OnPrintPreview();
+    afx_msg void OnCloseDialogs();
+    afx_msg void OnDialogChosen(UINT id);
     afx_msg void OnItemChanged(NMHDR * header, LRESULT * result);
     afx_msg void OnReadAgain();
     afx_msg void OnShowDetails();
@@ -79,8 +107,15 @@ private:
 
     bool CreateChildren();
     void Arrange();
+    void PrepareDialogs();
+    std::array<CWorkbenchDialog *, 3> Dialogs();
+    void FollowSettings(workbench::Settings const & settings);
+    void TakeSettings(workbench::Settings const & settings);
+    void DrawPage(CDC & dc, CRect const & page);
+    CDetailsDialog::Actions DetailsActions();
     void RememberPlace();
     void ShowChosen();
+    void ShowReading();
     void ReadAgain(int index);
     void KeepNotes();
     std::wstring ComparisonText() const;
@@ -90,12 +125,14 @@ private:
     CFensterManager m_memory;
     CRecordingList m_list;
     CWaveformView m_waveform;
-    CButton m_openFiles;
-    CButton m_openFolder;
-    CButton m_reload;
-    CButton m_close;
+    CMeasurePanel m_panel;
     CStatic m_statusLine;
-    CDetailsWindow m_details;
+    CWindowMenu m_windowMenu;
+    CDetailsDialog m_details;
+    int m_detailsIndex = -1; ///< the recording whose details are shown
+    CSettingsDialog m_settingsDialog;
+    CPreviewDialog m_preview;
+    workbench::Settings m_settings;
     std::unique_ptr<CDialogResizer> m_resizer;
     HACCEL m_accelerators = nullptr;
     HWND m_lastFocus = nullptr;

@@ -3,11 +3,16 @@
 #include "MainWindow.h"
 
 #include <algorithm>
+#include <limits>
 
 #include "frame/CoreLibrary.h"
+#include "logic/CursorReading.h"
 #include "logic/RecordingDetails.h"
 #include "logic/RecordingFiles.h"
 #include "logic/TextFormat.h"
+#include "logic/Texts.h"
+
+using workbench::Text;
 
 /// Keeps what the user said about the recordings shown, for when they are shown again.
 void CMainWindow::KeepNotes()
@@ -24,6 +29,7 @@ void CMainWindow::ShowTargets(std::vector<std::filesystem::path> targets)
     KeepNotes();
     m_targets = std::move(targets);
     m_queue->Clear();
+    m_detailsIndex = -1;
     m_files = workbench::FindRecordings(m_targets);
     m_analyses.assign(m_files.size(), nullptr);
     m_unread = static_cast<int>(m_files.size());
@@ -39,7 +45,6 @@ void CMainWindow::ShowTargets(std::vector<std::filesystem::path> targets)
         m_queue->Add(i, m_files[i]);
     }
     m_list.ChooseLine(0);
-    m_reload.EnableWindow(!m_targets.empty());
     ShowChosen();
     UpdateStatusLine();
 }
@@ -52,6 +57,16 @@ bool CMainWindow::ChooseRecording(int index)
     }
     m_list.ChooseLine(index);
     return true;
+}
+
+void CMainWindow::MoveCursorToPart(int percent)
+{
+    auto const chosen = m_list.ChosenLine();
+    if (chosen >= 0 && chosen < RecordingCount() && m_analyses[static_cast<std::size_t>(chosen)])
+    {
+        m_waveform.MoveCursor(m_analyses[static_cast<std::size_t>(chosen)]->info.frames / 100 *
+                              static_cast<unsigned>(percent));
+    }
 }
 
 int CMainWindow::FirstDamagedRecording() const
@@ -94,16 +109,16 @@ void CMainWindow::ShowChosen()
     {
         if (m_targets.empty())
         {
-            m_waveform.ShowText(L"No recordings", L"Open WAV files or a folder to see them here.");
+            m_waveform.ShowText(Text(L"No recordings"), Text(L"Open WAV files or a folder to see them here."));
         }
         else
         {
-            m_waveform.ShowText(L"No recordings", L"There are no WAV files in this folder.");
+            m_waveform.ShowText(Text(L"No recordings"), Text(L"There are no WAV files in this folder."));
         }
     }
     else if (chosen < 0 || chosen >= RecordingCount())
     {
-        m_waveform.ShowText(L"No recording chosen", L"Choose a recording in the list to see its waveform.");
+        m_waveform.ShowText(Text(L"No recording chosen"), Text(L"Choose a recording in the list to see its waveform."));
     }
     else
     {
@@ -115,9 +130,26 @@ void CMainWindow::ShowChosen()
         }
         else
         {
-            m_waveform.ShowText(std::move(name), L"reading...");
+            m_waveform.ShowText(std::move(name), Text(L"reading..."));
         }
     }
+}
+
+/// Shows the waveform's cursor on the displays.
+void CMainWindow::ShowReading()
+{
+    auto const chosen = m_list.ChosenLine();
+    auto const cursor = m_waveform.Cursor();
+    if (!cursor || chosen < 0 || chosen >= RecordingCount() || !m_analyses[static_cast<std::size_t>(chosen)])
+    {
+        m_panel.ShowReading(workbench::PositionReading(0, 0),
+                            workbench::LevelReading(-std::numeric_limits<double>::infinity()));
+        return;
+    }
+    auto const & analysis = *m_analyses[static_cast<std::size_t>(chosen)];
+    m_panel.ShowReading(
+        workbench::PositionReading(*cursor, analysis.info.sampleRate),
+        workbench::LevelReading(workbench::LevelAround(analysis.waveform, analysis.info.sampleRate, *cursor)));
 }
 
 /// What the chosen recording's levels are against the reference's; empty where there is nothing to compare.
@@ -128,7 +160,8 @@ std::wstring CMainWindow::ComparisonText() const
     {
         return {};
     }
-    auto text = L".  Reference: " + m_files[static_cast<std::size_t>(reference)].filename().wstring();
+    auto text = std::wstring(L".  ") + Text(L"Reference") + L": " +
+                m_files[static_cast<std::size_t>(reference)].filename().wstring();
     auto const chosen = m_list.ChosenLine();
     auto const & analysis = m_analyses[static_cast<std::size_t>(reference)];
     if (chosen < 0 || chosen >= RecordingCount() || chosen == reference || !analysis || analysis->problem)
@@ -138,7 +171,8 @@ std::wstring CMainWindow::ComparisonText() const
     auto const & other = m_analyses[static_cast<std::size_t>(chosen)];
     if (other && !other->problem)
     {
-        text += L"; against it, " + m_files[static_cast<std::size_t>(chosen)].filename().wstring() + L" has peak " +
+        text += std::wstring(L"; ") + Text(L"against it,") + L' ' +
+                m_files[static_cast<std::size_t>(chosen)].filename().wstring() + L' ' + Text(L"has peak") + L' ' +
                 workbench::FormatDifference(other->levels.peak, analysis->levels.peak) + L", RMS " +
                 workbench::FormatDifference(other->levels.rms, analysis->levels.rms);
     }
@@ -147,15 +181,15 @@ std::wstring CMainWindow::ComparisonText() const
 
 void CMainWindow::UpdateStatusLine()
 {
-    auto text = workbench::FormatCount(m_files.size(), L"recording", L"recordings");
+    auto text = workbench::FormatCount(m_files.size(), Text(L"recording"), Text(L"recordings"));
     if (m_unread > 0)
     {
-        text += L", " + std::to_wstring(m_unread) + L" being read";
+        text += L", " + std::to_wstring(m_unread) + L' ' + Text(L"being read");
     }
     auto const unreadable = std::ranges::count_if(m_analyses, [](auto const & a) { return a && a->problem; });
     if (unreadable > 0)
     {
-        text += L", " + std::to_wstring(unreadable) + L" cannot be shown";
+        text += L", " + std::to_wstring(unreadable) + L' ' + Text(L"cannot be shown");
     }
     std::size_t checked = 0;
     std::uint64_t milliseconds = 0;
@@ -172,10 +206,13 @@ void CMainWindow::UpdateStatusLine()
     }
     if (checked > 0)
     {
-        text += L", " + std::to_wstring(checked) + L" marked (" + workbench::FormatMilliseconds(milliseconds) + L")";
+        text += L", " + std::to_wstring(checked) + L' ' + Text(L"marked") + L" (" +
+                workbench::FormatMilliseconds(milliseconds) + L')';
     }
     auto const comparison = ComparisonText();
-    text += comparison.empty() ? L".  Levels refer to a full-scale sine: 0 dBFS peak, -3.0 dBFS RMS" : comparison;
+    text += comparison.empty()
+                ? std::wstring(L".  ") + Text(L"Levels refer to a full-scale sine: 0 dBFS peak, -3.0 dBFS RMS")
+                : comparison;
     text += L'.';
     // Set anew, the text would flicker.
     CString present;
@@ -240,16 +277,8 @@ bool CMainWindow::ShowDetails(int index)
     {
         date = UserDateTimeText(CTime(*analysis.file.lastWrite), dtf_date_time).GetString();
     }
-    return m_details.Show(*this, m_metrics,
-                          workbench::DescribeRecording(m_files[static_cast<std::size_t>(index)], analysis, date));
-}
-
-void CMainWindow::CloseDetails()
-{
-    if (m_details.GetSafeHwnd() != nullptr)
-    {
-        m_details.SendMessage(WM_CLOSE);
-    }
+    m_detailsIndex = index;
+    return m_details.Show(workbench::DescribeRecording(m_files[static_cast<std::size_t>(index)], analysis, date));
 }
 
 void CMainWindow::OnShowDetails()

@@ -8,10 +8,14 @@
 
 #include "frame/CoreLibrary.h"
 #include "frame/RegisteredMessages.h"
+#include "logic/Texts.h"
 #include "resource.h"
 
 namespace
 {
+
+using workbench::Text;
+using workbench::Translatable;
 
 struct ColumnDesign
 {
@@ -23,18 +27,18 @@ struct ColumnDesign
 // The date's least text is made when the columns are, as the user writes dates.
 constexpr ColumnDesign c_columns[CRecordingList::column_count] = {
     {L"", LVCFMT_LEFT, L""},
-    {L"Name", LVCFMT_LEFT, L"Measurement 1"},
-    {L"Ref.", LVCFMT_CENTER, L""},
-    {L"Waveform", LVCFMT_LEFT, L"mmmmmmm"},
-    {L"Duration", LVCFMT_RIGHT, L"10:00.000"},
-    {L"Channels", LVCFMT_RIGHT, L"2"},
-    {L"Rate (Hz)", LVCFMT_RIGHT, L"192000"},
-    {L"Peak (dBFS)", LVCFMT_CENTER, L"mmmmmmm"},
-    {L"RMS (dBFS)", LVCFMT_RIGHT, L"-100.0"},
-    {L"Date", LVCFMT_LEFT, L""},
-    {L"Rating", LVCFMT_LEFT, L"Not rated mm"},
-    {L"Comment", LVCFMT_LEFT, L"mmmmmmm"},
-    {L"Status", LVCFMT_LEFT, L"mmm cut off,"},
+    {Translatable(L"Name"), LVCFMT_LEFT, L"Measurement 1"},
+    {Translatable(L"Ref."), LVCFMT_CENTER, L""},
+    {Translatable(L"Waveform"), LVCFMT_LEFT, L"mmmmmmm"},
+    {Translatable(L"Duration"), LVCFMT_RIGHT, L"10:00.000"},
+    {Translatable(L"Channels"), LVCFMT_RIGHT, L"2"},
+    {Translatable(L"Rate (Hz)"), LVCFMT_RIGHT, L"192000"},
+    {Translatable(L"Peak (dBFS)"), LVCFMT_CENTER, L"mmmmmmm"},
+    {Translatable(L"RMS (dBFS)"), LVCFMT_RIGHT, L"-100.0"},
+    {Translatable(L"Date"), LVCFMT_LEFT, L""},
+    {Translatable(L"Rating"), LVCFMT_LEFT, L"Not rated mm"},
+    {Translatable(L"Comment"), LVCFMT_LEFT, L"mmmmmmm"},
+    {Translatable(L"Status"), LVCFMT_LEFT, L"mmm cut off,"},
 };
 
 // The flexible columns in the order in which they get what is left over, and how far they grow before the next one gets
@@ -54,7 +58,8 @@ constexpr Growth c_growth[] = {{CRecordingList::column_overview, 2},
 constexpr int c_textRoom = 16;
 constexpr int c_checkWidth = 30; // of a header's check box with its room
 
-constexpr wchar_t const * c_ratings[] = {L"Not rated", L"Good", L"Usable", L"Rejected"};
+constexpr wchar_t const * c_ratings[] = {Translatable(L"Not rated"), Translatable(L"Good"), Translatable(L"Usable"),
+                                         Translatable(L"Rejected")};
 
 } // namespace
 
@@ -82,13 +87,13 @@ bool CRecordingList::CreateList(CWnd & parent, UINT id, workbench::ScreenMetrics
     }
     SetFullRowSelect();
     SetFont(&metrics.Font(), FALSE);
-    SetEmptyListText(L"No recordings. Open files or a folder.");
+    SetEmptyListText(Text(L"No recordings. Open files or a folder."));
     SetHeaderAutoCheckbox(true);
     EnableDragAndDrop();
     m_onRowsSwapped = [this](int, int) { ForgetOrder(); };
     for (int i = 0; i < static_cast<int>(std::size(c_ratings)); ++i)
     {
-        GlobalComboStringsInsert(i, c_ratings[i]);
+        GlobalComboStringsInsert(i, Text(c_ratings[i]));
     }
     CreateImages();
     CreateColumns();
@@ -101,8 +106,9 @@ void CRecordingList::CreateColumns()
     for (int i = 0; i < column_count; ++i)
     {
         auto const & design = c_columns[i];
+        auto const * const title = Text(design.title);
         auto & least = m_least[static_cast<std::size_t>(i)];
-        least = std::max(WidthOf(design.title), WidthOf(design.leastText));
+        least = std::max(WidthOf(title), WidthOf(design.leastText));
         if (i == column_check)
         {
             least = c_checkWidth;
@@ -112,7 +118,7 @@ void CRecordingList::CreateColumns()
             least =
                 WidthOf(UserDateTimeText(CTime(2000, 12, 28, 22, 58, 48), dtf_date_time_without_seconds).GetString());
         }
-        AddColumn(design.title, design.format, least);
+        AddColumn(title, design.format, least);
     }
     m_needs = m_least;
     m_leastWidth = std::accumulate(m_least.begin(), m_least.end(), 0) + ::GetSystemMetrics(SM_CXVSCROLL) +
@@ -136,14 +142,14 @@ void CRecordingList::CreateImages()
 void CRecordingList::CreateMenu()
 {
     auto & menu = PopUpMenu();
-    menu.AppendMenu(MF_STRING, ID_SHOW_DETAILS, L"&Details...\tAlt+Enter");
-    menu.AppendMenu(MF_STRING, ID_SET_REFERENCE, L"Set as &reference\tCtrl+R");
-    menu.AppendMenu(MF_STRING, ID_READ_AGAIN, L"Read &again\tCtrl+F5");
+    menu.AppendMenu(MF_STRING, ID_SHOW_DETAILS, Text(L"&Details...\tAlt+Enter"));
+    menu.AppendMenu(MF_STRING, ID_SET_REFERENCE, Text(L"Set as &reference\tCtrl+R"));
+    menu.AppendMenu(MF_STRING, ID_READ_AGAIN, Text(L"Read &again\tCtrl+F5"));
     menu.AppendMenu(MF_SEPARATOR);
-    menu.AppendMenu(MF_STRING, ID_MARK_ALL, L"&Mark all\tCtrl+A");
-    menu.AppendMenu(MF_STRING, ID_MARK_NONE, L"Mark &none\tCtrl+Shift+A");
+    menu.AppendMenu(MF_STRING, ID_MARK_ALL, Text(L"&Mark all\tCtrl+A"));
+    menu.AppendMenu(MF_STRING, ID_MARK_NONE, Text(L"Mark &none\tCtrl+Shift+A"));
     menu.AppendMenu(MF_SEPARATOR);
-    menu.AppendMenu(MF_STRING, ID_RELOAD, L"Re&load everything\tF5");
+    menu.AppendMenu(MF_STRING, ID_RELOAD, Text(L"Re&load everything\tF5"));
     menu.SetDefaultItem(ID_SHOW_DETAILS);
 }
 

@@ -8,11 +8,12 @@
 #include "frame/CoreLibrary.h"
 #include "logic/RecordingDetails.h"
 #include "logic/TextFormat.h"
+#include "logic/Texts.h"
 
 namespace
 {
 
-constexpr wchar_t c_readingText[] = L"reading...";
+constexpr auto c_readingText = workbench::Translatable(L"reading...");
 
 // Places in the image list.
 constexpr int c_imageOk = 0;
@@ -92,7 +93,7 @@ void CRecordingList::PrepareRow(int row, std::filesystem::path const & file, Not
     SetComboBoxGlobalStrings(row, column_rating, notes.rating, 0);
     SetItemText(row, column_comment, notes.comment.c_str());
     SetEdit(row, column_comment, true);
-    SetItemText(row, column_status, c_readingText);
+    SetItemText(row, column_status, workbench::Text(c_readingText));
     SetItemImage(row, column_status, -1);
     SortValuesLast(row, true);
     Require(column_name, WidthOf(name));

@@ -1,11 +1,11 @@
 #include "Walk.h"
 
+#include <cwctype>
 #include <fstream>
-#include <functional>
-#include <string>
 #include <system_error>
 
 #include "MainWindow.h"
+#include "resource.h"
 
 namespace
 {
@@ -14,6 +14,7 @@ constexpr ULONGLONG c_stepLimit = 10'000; // milliseconds that the script has fo
 constexpr ULONGLONG c_readLimit = 60'000; // milliseconds that reading the recordings may take
 constexpr DWORD c_pollInterval = 20;      // milliseconds
 constexpr int c_mostChecked = 3;
+constexpr int c_cursorPercent = 25;
 constexpr ULONGLONG c_settleTime = 300; // milliseconds for painting to reach the screen
 
 /// Handles messages until the condition holds. False after the time limit, or when the program is told to quit.
@@ -108,9 +109,9 @@ bool CWalk::Step(char const * picture)
            PumpUntil([this] { return IsDone(); }, c_stepLimit);
 }
 
-/// Opens the menu of a line and takes the step while it is open. The menu has a message loop of its own, in which
-/// timers run; one of them takes the step and closes the menu at its end.
-bool CWalk::StepInMenu(char const * picture, int line)
+/// Takes the step while `enter` runs, which has a message loop of its own, as menus and modal dialogs have. In that
+/// loop timers run; one of them takes the step and calls `leave`, which is to end the loop.
+bool CWalk::StepInside(char const * picture, std::function<void()> const & enter, std::function<void()> const & leave)
 {
     enum class Phase
     {
@@ -119,37 +120,142 @@ bool CWalk::StepInMenu(char const * picture, int line)
         failed,
         done
     };
-    static CWalk * walk;
-    static char const * name;
-    static Phase phase;
-    static ULONGLONG end;
-    walk = this;
-    name = picture;
-    phase = Phase::opening;
-    end = ::GetTickCount64() + c_settleTime;
+    struct Visit
+    {
+        CWalk & walk;
+        char const * picture;
+        std::function<void()> const & leave;
+        Phase phase;
+        ULONGLONG end;
+    };
+    static Visit * visit;
+    Visit present{*this, picture, leave, Phase::opening, ::GetTickCount64() + c_settleTime};
+    visit = &present;
 
-    auto const timer = ::SetTimer(nullptr, 0, c_pollInterval, [](HWND, UINT, UINT_PTR, DWORD) {
-        auto const late = ::GetTickCount64() >= end;
-        if (phase == Phase::opening && late)
+    auto const timer = ::SetTimer(nullptr, 0, c_pollInterval, [](HWND, UINT, UINT_PTR timerId, DWORD) {
+        auto const late = ::GetTickCount64() >= visit->end;
+        if (visit->phase == Phase::opening && late)
         {
-            phase = walk->WriteReady(name) ? Phase::waiting : Phase::failed;
-            end = ::GetTickCount64() + c_stepLimit;
+            visit->phase = visit->walk.WriteReady(visit->picture) ? Phase::waiting : Phase::failed;
+            visit->end = ::GetTickCount64() + c_stepLimit;
         }
-        else if (phase == Phase::waiting && (late || walk->IsDone()))
+        else if (visit->phase == Phase::waiting && (late || visit->walk.IsDone()))
         {
-            phase = late ? Phase::failed : Phase::done;
+            visit->phase = late ? Phase::failed : Phase::done;
         }
-        if (phase == Phase::failed || phase == Phase::done)
+        if (visit->phase == Phase::failed || visit->phase == Phase::done)
         {
-            walk->m_window.List().SendMessage(WM_CANCELMODE);
+            ::KillTimer(nullptr, timerId);
+            visit->leave();
         }
     });
-    auto & list = m_window.List();
-    auto point = list.CellCentre(line, CRecordingList::column_overview);
-    list.ClientToScreen(&point);
-    list.SendMessage(WM_CONTEXTMENU, reinterpret_cast<WPARAM>(list.m_hWnd), MAKELPARAM(point.x, point.y));
+    enter();
     ::KillTimer(nullptr, timer);
-    return phase == Phase::done;
+    visit = nullptr;
+    return present.phase == Phase::done;
+}
+
+/// Opens a window's context menu at a point of its client area, and takes the step in it.
+bool CWalk::StepInMenu(char const * picture, CWnd & window, CPoint point)
+{
+    window.ClientToScreen(&point);
+    return StepInside(
+        picture,
+        [&window, point] {
+            window.SendMessage(WM_CONTEXTMENU, reinterpret_cast<WPARAM>(window.m_hWnd), MAKELPARAM(point.x, point.y));
+        },
+        [&window] { window.SendMessage(WM_CANCELMODE); });
+}
+
+/// Opens a menu of the main window's bar as its mnemonic does, and takes the step in it.
+bool CWalk::StepInMainMenu(char const * picture, int position)
+{
+    CString text;
+    m_window.GetMenu()->GetMenuString(static_cast<UINT>(position), text, MF_BYPOSITION);
+    auto const key = text[text.Find(L'&') + 1];
+    m_window.SetActiveWindow();
+    return StepInside(
+        picture,
+        [this, key] { m_window.SendMessage(WM_SYSCOMMAND, SC_KEYMENU, static_cast<LPARAM>(std::towlower(key))); },
+        [this] { m_window.SendMessage(WM_CANCELMODE); });
+}
+
+/// Opens a modal dialog by a command of the main window, and takes the step in it.
+bool CWalk::StepInDialog(char const * picture, UINT command, std::function<void(CWnd &)> const & leave)
+{
+    return StepInside(
+        picture, [this, command] { m_window.SendMessage(WM_COMMAND, command); },
+        [this, &leave] {
+            auto * const dialog = CWnd::GetActiveWindow();
+            if (dialog != nullptr && dialog != &m_window)
+            {
+                leave(*dialog);
+            }
+        });
+}
+
+/// Shows every dialog once; the suffix tells the pictures of one language from those of another.
+bool CWalk::GoThroughDialogs(std::string const & suffix)
+{
+    auto const name = [&suffix](char const * picture) { return picture + suffix; };
+    auto const cancel = [](CWnd & dialog) { dialog.PostMessage(WM_COMMAND, IDCANCEL); };
+    if (!m_window.ShowDetails(0) || !Step(name("workbench-details").c_str()) ||
+        !StepInMenu(name("workbench-details-menu").c_str(), m_window.Details(), CPoint(180, 60)))
+    {
+        return false;
+    }
+    if (!m_window.ShowSettings() || !Step(name("workbench-settings").c_str()))
+    {
+        return false;
+    }
+    CRect place;
+    m_window.SettingsDialog().GetWindowRect(&place);
+    m_window.SettingsDialog().SetWindowPos(nullptr, 0, 0, place.Width() * 3 / 2, place.Height() * 5 / 4,
+                                           SWP_NOMOVE | SWP_NOZORDER);
+    if (!Step(name("workbench-settings-large").c_str()))
+    {
+        return false;
+    }
+    m_window.SettingsDialog().SetWindowPos(nullptr, 0, 0, place.Width(), place.Height(), SWP_NOMOVE | SWP_NOZORDER);
+    auto const windowMenu = static_cast<int>(m_window.GetMenu()->GetMenuItemCount()) - 1;
+    if (!StepInMainMenu(name("workbench-window-menu").c_str(), windowMenu))
+    {
+        return false;
+    }
+    // By now the menu's picture has given the dialogs, which are not active, time to fade.
+    auto & settings = m_window.SettingsDialog();
+    BYTE alpha = 0;
+    if (!::GetLayeredWindowAttributes(settings.m_hWnd, nullptr, &alpha, nullptr) ||
+        alpha != workbench::Settings().InactiveAlpha())
+    {
+        return false;
+    }
+    m_window.CloseDialogs();
+    if (!m_window.ShowPreview() || !Step(name("workbench-preview").c_str()))
+    {
+        return false;
+    }
+    m_window.CloseDialogs();
+    // With the last dialog its item and the separator above it go.
+    if (m_window.GetMenu()->GetSubMenu(windowMenu)->GetMenuItemCount() != 1)
+    {
+        return false;
+    }
+    return StepInDialog(name("workbench-language").c_str(), ID_CHOOSE_LANGUAGE, cancel) &&
+           StepInDialog(name("workbench-folder").c_str(), ID_OPEN_FOLDER, cancel);
+}
+
+/// Chooses German in the language chooser, as a user would.
+bool CWalk::ChangeLanguage()
+{
+    return StepInDialog("workbench-language-chosen", ID_CHOOSE_LANGUAGE, [](CWnd & dialog) {
+        auto * const list = CWnd::FromHandle(::FindWindowExW(dialog.m_hWnd, nullptr, L"ComboBox", nullptr));
+        if (list != nullptr)
+        {
+            list->SendMessage(CB_SELECTSTRING, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(L"Deutsch"));
+        }
+        dialog.PostMessage(WM_COMMAND, IDOK);
+    });
 }
 
 void CWalk::Click(int line, int column)
@@ -196,21 +302,27 @@ bool CWalk::Run()
     {
         return false;
     }
-    if (m_window.ChooseRecording(m_window.RecordingCount() / 2) && !Step("workbench-chosen"))
+    if (m_window.ChooseRecording(m_window.RecordingCount() / 2))
     {
-        return false;
+        m_window.MoveCursorToPart(c_cursorPercent);
+        if (!Step("workbench-chosen"))
+        {
+            return false;
+        }
     }
     if (m_window.ChooseRecording(m_window.FirstDamagedRecording()) && !Step("workbench-damaged"))
     {
         return false;
     }
     if (m_window.RecordingCount() > 0 &&
-        !(CheckSome() && Step("workbench-checked") && StepInMenu("workbench-menu", m_window.RecordingCount() / 3) &&
-          m_window.ShowDetails(0) && Step("workbench-details")))
+        !(CheckSome() && Step("workbench-checked") &&
+          StepInMenu("workbench-menu", m_window.List(),
+                     m_window.List().CellCentre(m_window.RecordingCount() / 3, CRecordingList::column_overview)) &&
+          StepInMainMenu("workbench-main-menu", 1) && GoThroughDialogs("") && ChangeLanguage() &&
+          GoThroughDialogs("-german")))
     {
         return false;
     }
-    m_window.CloseDetails();
     CRect work;
     ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
     if (!Resize(work.left, work.top, work.Width(), work.Height()) || !Step("workbench-large"))

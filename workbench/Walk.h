@@ -1,6 +1,10 @@
 #pragma once
 
+#include <afxwin.h>
+
 #include <filesystem>
+#include <functional>
+#include <string>
 
 class CMainWindow;
 
@@ -15,8 +19,8 @@ public:
     /// The folder is made if it is missing; markers that an earlier walk left in it are removed.
     CWalk(CMainWindow & window, std::filesystem::path folder);
 
-    /// Goes through recordings, marks, menu, details and sizes. False if a marker could not be written, a wait timed
-    /// out or the window ended.
+    /// Goes through recordings, marks, menus, dialogs in two languages and sizes. False if a marker could not be
+    /// written, a wait timed out or the window ended.
     bool Run();
 
     /// Shows the window as it is after a restart, in one step. False as with Run.
@@ -25,7 +29,12 @@ public:
 private:
     bool Step(char const * picture);
     bool CheckSome();
-    bool StepInMenu(char const * picture, int line);
+    bool StepInside(char const * picture, std::function<void()> const & enter, std::function<void()> const & leave);
+    bool StepInMenu(char const * picture, CWnd & window, CPoint point);
+    bool StepInMainMenu(char const * picture, int position);
+    bool StepInDialog(char const * picture, UINT command, std::function<void(CWnd &)> const & leave);
+    bool GoThroughDialogs(std::string const & suffix);
+    bool ChangeLanguage();
     void Click(int line, int column);
     bool WriteReady(char const * picture);
     bool IsDone() const;

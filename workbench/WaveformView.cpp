@@ -4,19 +4,26 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 
+#include "colours/Farbtabellen.h"
 #include "logic/Axis.h"
 #include "logic/TextFormat.h"
+#include "logic/Texts.h"
 
 namespace
 {
 
-constexpr COLORREF c_plotColour = RGB(249, 250, 252);
+using workbench::Text;
+
+// Scope colours by their index. Lanes beyond the last colour begin again with the first.
+constexpr int c_laneColours[] = {7, 5, 3, 8, 19, 4};
+constexpr int c_clippedColour = 2;
+constexpr int c_cursorColour = 31;
+constexpr int c_groundColour = 24;
+
 constexpr COLORREF c_frameColour = RGB(190, 198, 207);
-constexpr COLORREF c_gridColour = RGB(226, 230, 236);
-constexpr COLORREF c_centreColour = RGB(150, 160, 172);
-constexpr COLORREF c_waveColour = RGB(33, 102, 172);
-constexpr COLORREF c_clippedColour = RGB(200, 48, 40);
+
 constexpr COLORREF c_labelColour = RGB(88, 98, 110);
 constexpr COLORREF c_problemColour = RGB(168, 40, 32);
 
@@ -41,22 +48,35 @@ BEGIN_MESSAGE_MAP(CWaveformView, CWnd)
     ON_WM_PAINT()
     ON_WM_ERASEBKGND()
     ON_MESSAGE(WM_PRINTCLIENT, &CWaveformView::OnPrintClient)
+    ON_WM_LBUTTONDOWN()
+    ON_WM_MOUSEMOVE()
+    ON_WM_LBUTTONUP()
+    ON_WM_KEYDOWN()
+    ON_WM_GETDLGCODE()
+    ON_WM_SETFOCUS()
+    ON_WM_KILLFOCUS()
 END_MESSAGE_MAP()
 
 bool CWaveformView::CreateView(CWnd & parent, UINT id, workbench::ScreenMetrics & metrics)
 {
     m_metrics = &metrics;
     auto const windowClass = AfxRegisterWndClass(CS_HREDRAW | CS_VREDRAW, ::LoadCursorW(nullptr, IDC_ARROW));
-    return Create(windowClass, L"Waveform", WS_CHILD | WS_VISIBLE | WS_BORDER, CRect(), &parent, id) != FALSE;
+    return Create(windowClass, L"Waveform", WS_CHILD | WS_VISIBLE | WS_BORDER | WS_TABSTOP, CRect(), &parent, id) !=
+           FALSE;
 }
 
 void CWaveformView::ShowRecording(std::wstring name, std::shared_ptr<workbench::RecordingAnalysis const> analysis)
 {
     m_title = std::move(name);
-    m_text = analysis->problem ? L"Cannot be shown: " + analysis->StatusText() + L"." : std::wstring();
+    m_text = analysis->problem ? Text(L"Cannot be shown") + (L": " + analysis->StatusText() + L'.') : std::wstring();
     m_analysis = std::move(analysis);
     m_columns.clear();
+    m_cursor = 0;
     Invalidate(FALSE);
+    if (m_onCursor)
+    {
+        m_onCursor();
+    }
 }
 
 void CWaveformView::ShowText(std::wstring title, std::wstring text)
@@ -65,7 +85,12 @@ void CWaveformView::ShowText(std::wstring title, std::wstring text)
     m_text = std::move(text);
     m_analysis.reset();
     m_columns.clear();
+    m_cursor = 0;
     Invalidate(FALSE);
+    if (m_onCursor)
+    {
+        m_onCursor();
+    }
 }
 
 BOOL CWaveformView::OnEraseBkgnd(CDC *)
@@ -119,6 +144,7 @@ void CWaveformView::Draw(CDC & dc, CRect const & client)
     {
         return;
     }
+    m_plot = m_printing ? m_plot : plot;
     DrawTimeAxis(dc, plot);
     for (int i = 0; i < lanes; ++i)
     {
@@ -129,6 +155,151 @@ void CWaveformView::Draw(CDC & dc, CRect const & client)
         lane.halfHeight = std::max((lane.rect.Height() - 1) / 2 - m_metrics->Y(2), 1);
         DrawLane(dc, lane, static_cast<std::size_t>(i));
     }
+    if (!m_printing)
+    {
+        DrawCursor(dc, plot);
+    }
+}
+
+void CWaveformView::Print(CDC & dc, CRect const & rect)
+{
+    m_printing = true;
+    auto columns = std::move(m_columns);
+    m_columns.clear();
+    Draw(dc, rect);
+    m_columns = std::move(columns);
+    m_printing = false;
+}
+
+/// A scope colour, or what stands for it on paper.
+COLORREF CWaveformView::Colour(int scopeIndex) const
+{
+    return m_printing ? Farbtabellen::DruckFarbe(scopeIndex) : Farbtabellen::ScopeFarbe(scopeIndex);
+}
+
+/// The colours around the waveform: like a scope on the screen, light on paper.
+CWaveformView::SurroundingColours CWaveformView::Surroundings() const
+{
+    if (m_printing)
+    {
+        return {RGB(255, 255, 255), RGB(226, 230, 236), RGB(150, 160, 172), c_labelColour};
+    }
+    return {Farbtabellen::ScopeFarbe(c_groundColour), RGB(26, 58, 110), RGB(66, 98, 146), RGB(176, 196, 224)};
+}
+
+void CWaveformView::DrawCursor(CDC & dc, CRect const & plot)
+{
+    auto const width = plot.Width() - 2;
+    auto const x =
+        plot.left + 1 +
+        static_cast<int>(static_cast<double>(m_cursor) / static_cast<double>(m_analysis->info.frames) * width);
+    dc.FillSolidRect(x, plot.top, GetFocus() == this ? 2 : 1, plot.Height(), Colour(c_cursorColour));
+}
+
+std::optional<std::uint64_t> CWaveformView::Cursor() const
+{
+    return ShowsRecording() ? std::optional(m_cursor) : std::nullopt;
+}
+
+void CWaveformView::MoveCursor(std::uint64_t frame)
+{
+    if (!ShowsRecording())
+    {
+        return;
+    }
+    auto const cursor = std::min(frame, m_analysis->info.frames - 1);
+    if (cursor != m_cursor)
+    {
+        m_cursor = cursor;
+        Invalidate(FALSE);
+        if (m_onCursor)
+        {
+            m_onCursor();
+        }
+    }
+}
+
+/// Moves the cursor to what lies at a place of the client area.
+void CWaveformView::MoveCursorTo(int x)
+{
+    auto const width = m_plot.Width() - 2;
+    if (ShowsRecording() && width > 0)
+    {
+        auto const part = std::clamp(static_cast<double>(x - m_plot.left - 1) / width, 0.0, 1.0);
+        MoveCursor(static_cast<std::uint64_t>(part * static_cast<double>(m_analysis->info.frames)));
+    }
+}
+
+void CWaveformView::OnLButtonDown(UINT flags, CPoint point)
+{
+    CWnd::OnLButtonDown(flags, point);
+    SetFocus();
+    SetCapture();
+    MoveCursorTo(point.x);
+}
+
+void CWaveformView::OnMouseMove(UINT flags, CPoint point)
+{
+    CWnd::OnMouseMove(flags, point);
+    if (GetCapture() == this)
+    {
+        MoveCursorTo(point.x);
+    }
+}
+
+void CWaveformView::OnLButtonUp(UINT flags, CPoint point)
+{
+    CWnd::OnLButtonUp(flags, point);
+    if (GetCapture() == this)
+    {
+        ::ReleaseCapture();
+    }
+}
+
+UINT CWaveformView::OnGetDlgCode()
+{
+    return DLGC_WANTARROWS;
+}
+
+void CWaveformView::OnKeyDown(UINT key, UINT repeat, UINT flags)
+{
+    if (ShowsRecording() && m_plot.Width() > 2)
+    {
+        // A key moves by what one pixel shows, at least by one frame.
+        auto const last = m_analysis->info.frames - 1;
+        auto const step =
+            std::max<std::uint64_t>(m_analysis->info.frames / static_cast<unsigned>(m_plot.Width() - 2), 1);
+        switch (key)
+        {
+        case VK_LEFT:
+            MoveCursor(m_cursor - std::min(m_cursor, step));
+            return;
+        case VK_RIGHT:
+            MoveCursor(m_cursor + std::min(last - m_cursor, step));
+            return;
+        case VK_HOME:
+            MoveCursor(0);
+            return;
+        case VK_END:
+            MoveCursor(last);
+            return;
+        default:
+            break;
+        }
+    }
+    CWnd::OnKeyDown(key, repeat, flags);
+}
+
+void CWaveformView::OnSetFocus(CWnd * other)
+{
+    CWnd::OnSetFocus(other);
+    Invalidate(FALSE);
+}
+
+void CWaveformView::OnKillFocus(CWnd * other)
+{
+    CWnd::OnKillFocus(other);
+    Invalidate(FALSE);
 }
 
 void CWaveformView::DrawMessage(CDC & dc, CRect const & client)
@@ -163,7 +334,8 @@ int CWaveformView::DrawHeading(CDC & dc, CRect const & area)
     if (m_analysis->info.IsCutOff() || m_analysis->invalidSamples > 0)
     {
         dc.SetTextColor(c_problemColour);
-        DrawText(dc, L"This file is damaged: " + m_analysis->StatusText() + L".", rect, DT_LEFT | c_oneLine);
+        DrawText(dc, Text(L"This file is damaged") + (L": " + m_analysis->StatusText() + L'.'), rect,
+                 DT_LEFT | c_oneLine);
         rect.top += line + m_metrics->Y(1);
     }
     return rect.top + m_metrics->Y(3);
@@ -172,13 +344,14 @@ int CWaveformView::DrawHeading(CDC & dc, CRect const & area)
 std::wstring CWaveformView::Details() const
 {
     auto const & info = m_analysis->info;
-    auto const coding = info.coding == workbench::SampleCoding::Float ? L"-bit float" : L"-bit";
+    auto const coding = info.coding == workbench::SampleCoding::Float ? Text(L"-bit float") : Text(L"-bit");
     auto details = workbench::FormatSampleRate(info.sampleRate) + L"  \u00B7  " + std::to_wstring(info.bitsPerSample) +
-                   coding + L"  \u00B7  " + workbench::FormatCount(info.channels, L"channel", L"channels") +
+                   coding + L"  \u00B7  " + workbench::FormatCount(info.channels, Text(L"channel"), Text(L"channels")) +
                    L"  \u00B7  " + workbench::FormatDuration(info.frames, info.sampleRate);
     if (info.channels > m_analysis->waveform.Lanes())
     {
-        details += L"  \u00B7  the first " + std::to_wstring(m_analysis->waveform.Lanes()) + L" are shown";
+        details += std::wstring(L"  \u00B7  ") + Text(L"the first") + L' ' +
+                   std::to_wstring(m_analysis->waveform.Lanes()) + L' ' + Text(L"are shown");
     }
     return details;
 }
@@ -190,7 +363,7 @@ std::wstring CWaveformView::LaneName(std::size_t index) const
     case 1:
         return {};
     case 2:
-        return index == 0 ? L"Left" : L"Right";
+        return index == 0 ? Text(L"Left") : Text(L"Right");
     default:
         return std::to_wstring(index + 1);
     }
@@ -209,7 +382,7 @@ std::vector<workbench::MinMax> const & CWaveformView::Columns(std::size_t lane, 
 
 void CWaveformView::DrawLane(CDC & dc, Lane const & lane, std::size_t index)
 {
-    dc.FillSolidRect(lane.rect, c_plotColour);
+    dc.FillSolidRect(lane.rect, Surroundings().ground);
     DrawLevelGrid(dc, lane);
 
     CRect inside = lane.rect;
@@ -217,15 +390,17 @@ void CWaveformView::DrawLane(CDC & dc, Lane const & lane, std::size_t index)
     auto const seconds = static_cast<double>(m_analysis->info.frames) / m_analysis->info.sampleRate;
     for (auto const & tick : workbench::TimeTicks(seconds, inside.Width(), m_metrics->X(44)))
     {
-        dc.FillSolidRect(inside.left + tick.position, inside.top, 1, inside.Height(), c_gridColour);
+        dc.FillSolidRect(inside.left + tick.position, inside.top, 1, inside.Height(), Surroundings().grid);
     }
-    dc.FillSolidRect(inside.left, lane.centre, inside.Width(), 1, c_centreColour);
+    dc.FillSolidRect(inside.left, lane.centre, inside.Width(), 1, Surroundings().centre);
 
     // Each column reaches over to the one before it, so that steep slopes stay one line.
     auto const y = [&](float amplitude) {
         auto const limited = std::clamp(amplitude, -1.0F, 1.0F);
         return lane.centre - static_cast<int>(std::lround(limited * static_cast<float>(lane.halfHeight)));
     };
+    auto const waveColour = Colour(c_laneColours[index % std::size(c_laneColours)]);
+    auto const clippedColour = Colour(c_clippedColour);
     auto const & columns = Columns(index, inside.Width());
     auto previousTop = y(columns.front().greatest);
     auto previousBottom = y(columns.front().least);
@@ -237,7 +412,7 @@ void CWaveformView::DrawLane(CDC & dc, Lane const & lane, std::size_t index)
         auto const from = std::min(top, previousBottom);
         auto const to = std::max(bottom, previousTop);
         auto const clipped = column.greatest > 1.0F || column.least < -1.0F;
-        dc.FillSolidRect(inside.left + i, from, 1, to - from + 1, clipped ? c_clippedColour : c_waveColour);
+        dc.FillSolidRect(inside.left + i, from, 1, to - from + 1, clipped ? clippedColour : waveColour);
         previousTop = top;
         previousBottom = bottom;
     }
@@ -252,9 +427,9 @@ void CWaveformView::DrawLane(CDC & dc, Lane const & lane, std::size_t index)
         auto ground = label;
         ground.InflateRect(m_metrics->X(2), 1);
         ground.left = lane.rect.left + 1;
-        dc.FillSolidRect(ground, c_plotColour);
+        dc.FillSolidRect(ground, Surroundings().ground);
         dc.SetBkMode(TRANSPARENT);
-        dc.SetTextColor(c_labelColour);
+        dc.SetTextColor(Surroundings().label);
         DrawText(dc, name, label, DT_LEFT | c_label);
     }
 }
@@ -263,7 +438,7 @@ void CWaveformView::DrawLevelGrid(CDC & dc, Lane const & lane)
 {
     auto const line = m_metrics->LineHeight();
     auto const draw = [&](int y, std::wstring const & label, bool withLabel) {
-        dc.FillSolidRect(lane.rect.left, y, lane.rect.Width(), 1, c_gridColour);
+        dc.FillSolidRect(lane.rect.left, y, lane.rect.Width(), 1, Surroundings().grid);
         if (withLabel)
         {
             auto const size = TextSize(dc, label);

@@ -2,7 +2,10 @@
 
 #include <afxwin.h>
 
+#include <cstdint>
+#include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -23,6 +26,17 @@ public:
     /// Shows a text in place of a recording: a title and a line below it, both may be empty.
     void ShowText(std::wstring title, std::wstring text);
 
+    /// Moves the cursor to a frame; behind the end, to the last one. Nothing without a recording.
+    void MoveCursor(std::uint64_t frame);
+    /// The frame at which the cursor stands; none without a recording.
+    std::optional<std::uint64_t> Cursor() const;
+    /// Called when the cursor has moved, or there is another recording.
+    std::function<void()> m_onCursor;
+
+    /// Draws what the view shows into a rectangle of any device context, in colours for white paper and without the
+    /// cursor.
+    void Print(CDC & dc, CRect const & rect);
+
 protected:
     DECLARE_MESSAGE_MAP()
 
@@ -30,6 +44,13 @@ private:
     afx_msg void OnPaint();
     afx_msg BOOL OnEraseBkgnd(CDC * dc);
     afx_msg LRESULT OnPrintClient(WPARAM dc, LPARAM flags);
+    afx_msg void OnLButtonDown(UINT flags, CPoint point);
+    afx_msg void OnMouseMove(UINT flags, CPoint point);
+    afx_msg void OnLButtonUp(UINT flags, CPoint point);
+    afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
+    afx_msg UINT OnGetDlgCode();
+    afx_msg void OnSetFocus(CWnd * other);
+    afx_msg void OnKillFocus(CWnd * other);
 
     struct Lane
     {
@@ -39,6 +60,20 @@ private:
     };
 
     void Draw(CDC & dc, CRect const & client);
+    void DrawCursor(CDC & dc, CRect const & plot);
+    void MoveCursorTo(int x);
+    bool ShowsRecording() const { return m_analysis && !m_analysis->problem && m_analysis->info.frames > 0; }
+    COLORREF Colour(int scopeIndex) const;
+
+    struct SurroundingColours
+    {
+        COLORREF ground;
+        COLORREF grid;
+        COLORREF centre;
+        COLORREF label; ///< inside a lane
+    };
+    SurroundingColours Surroundings() const;
+
     void DrawMessage(CDC & dc, CRect const & client);
     int DrawHeading(CDC & dc, CRect const & area);
     void DrawLane(CDC & dc, Lane const & lane, std::size_t index);
@@ -53,4 +88,7 @@ private:
     std::wstring m_text;
     std::shared_ptr<workbench::RecordingAnalysis const> m_analysis;
     std::vector<std::vector<workbench::MinMax>> m_columns; ///< of each lane, for the width drawn last
+    std::uint64_t m_cursor = 0;                            ///< a frame
+    CRect m_plot;                                          ///< where the lanes were drawn last
+    bool m_printing = false;
 };

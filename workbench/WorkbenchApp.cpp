@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "MainWindow.h"
+#include "Settings.h"
 #include "Walk.h"
 #include "frame/PreferenceStore.h"
 
@@ -61,6 +62,13 @@ BOOL CWorkbenchApp::InitInstance()
     m_preferences = std::make_unique<RegistryPreferenceStore>(CString(c_company), CString(c_application));
     CVeskBase::SetPreferenceVesk(m_preferences.get());
 
+    m_graphics = std::make_unique<workbench::GraphicsScope>();
+    workbench::UseLanguage(workbench::ReadLanguage());
+    std::vector<std::filesystem::path> targets(m_commandLine.targets.begin(), m_commandLine.targets.end());
+    if (targets.empty())
+    {
+        targets = workbench::ReadSettings().startFolders;
+    }
     m_mainWindow = std::make_unique<CMainWindow>();
     m_pMainWnd = m_mainWindow.get();
     if (!m_mainWindow->CreateMainWindow())
@@ -70,7 +78,7 @@ BOOL CWorkbenchApp::InitInstance()
     }
     m_mainWindow->ShowWindow(m_nCmdShow);
     m_mainWindow->UpdateWindow();
-    m_mainWindow->ShowTargets({m_commandLine.targets.begin(), m_commandLine.targets.end()});
+    m_mainWindow->ShowTargets(std::move(targets));
     if (m_commandLine.mode != workbench::RunMode::Interactive)
     {
         PostThreadMessage(c_messageStartWalk, 0, 0);
@@ -96,6 +104,7 @@ int CWorkbenchApp::ExitInstance()
 {
     m_mainWindow.reset();
     m_pMainWnd = nullptr;
+    m_graphics.reset();
     CVeskBase::SetPreferenceVesk(nullptr);
     auto const result = CWinApp::ExitInstance();
     return m_exitCode != 0 ? m_exitCode : result;

@@ -4,6 +4,7 @@
 
 #include <memory>
 
+#include "Graphics.h"
 #include "RegistryPreferenceStore.h"
 #include "logic/CommandLine.h"
 
@@ -23,6 +24,7 @@ private:
     afx_msg void OnStartWalk(WPARAM, LPARAM);
 
     workbench::CommandLine m_commandLine;
+    std::unique_ptr<workbench::GraphicsScope> m_graphics;
     std::unique_ptr<RegistryPreferenceStore> m_preferences;
     std::unique_ptr<CMainWindow> m_mainWindow;
     int m_exitCode = 0;

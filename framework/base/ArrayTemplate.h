@@ -183,7 +183,7 @@ private:
             {
                 INT_PTR const at = backwards ? count - 1 - i : i;
                 ::new (static_cast<void *>(target + at)) TYPE(std::move(source[at]));
-                source[at].~TYPE();
+                source[at].TYPE::~TYPE();
             }
         }
     }
@@ -192,7 +192,7 @@ private:
         if constexpr (!std::is_trivially_destructible_v<TYPE>)
         {
             for (INT_PTR i = first; i < end; ++i)
-                m_data[i].~TYPE();
+                m_data[i].TYPE::~TYPE();
         }
     }
     void Discard()

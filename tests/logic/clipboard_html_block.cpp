@@ -142,6 +142,7 @@ TEST(HtmlBlock, TheBlockHasTwoBytesACharacterAndSomeMore)
     EXPECT_EQ(HtmlBlock::SizeOf(L"abc"), 406U);
     EXPECT_EQ(HtmlBlock::SizeOf(L"\u20AC"), 402U);
     EXPECT_EQ(HtmlBlock::SizeOf(L"\U0001F600"), 404U) << "a character of two units";
+    EXPECT_EQ(HtmlBlock::SizeOf(L"\uFFFF\U00010000\U0010FFFF"), 400U + 2 + 4 + 4);
     EXPECT_EQ(HtmlBlock::SizeOf(std::wstring_view(L"ab\0c", 4)), 404U) << "text ends at its terminator";
     EXPECT_EQ(HtmlBlock::Build(L"abc").size(), 406U);
 }
@@ -217,6 +218,7 @@ TEST(Utf8, CharactersTakeOneToFourBytes)
     EXPECT_EQ(encode(L"\u0080\u07FF"), "\xC2\x80\xDF\xBF");
     EXPECT_EQ(encode(L"\u0800\uFFFF"), "\xE0\xA0\x80\xEF\xBF\xBF");
     EXPECT_EQ(encode(L"\U00010000\U0010FFFF"), "\xF0\x90\x80\x80\xF4\x8F\xBF\xBF");
+    EXPECT_EQ(encode(L"\U0001F5A9"), "\xF0\x9F\x96\xA9");
 }
 
 TEST(Utf8, APairIsOneCharacterAndHalfOfOneIsReplaced)

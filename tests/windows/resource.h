@@ -39,3 +39,5 @@
 #define IDC_CHOICE 1002
 #define IDC_CLOSE_UP 1016
 #define IDC_HOSTS_OWN 2210
+
+#define IDS_READING 2061

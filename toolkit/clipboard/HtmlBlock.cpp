@@ -96,11 +96,11 @@ void FillField(std::span<char> block, std::string_view label, std::string_view t
     std::string_view const text(block.data(), block.size());
     std::size_t const field = text.find(label);
     std::size_t const offset = text.find(tag);
-    if (field == std::string_view::npos || offset == std::string_view::npos ||
-        field + label.size() + field_digits > text.size())
+    // Every tag stands behind the fields, so that a field whose tag is there is whole.
+    if (field == std::string_view::npos || offset == std::string_view::npos)
         return;
     char digits[24];
-    std::snprintf(digits, sizeof(digits), "%08llu", static_cast<unsigned long long>(offset + behindTag));
+    std::snprintf(digits, sizeof(digits), "%08llu", static_cast<unsigned long long>(offset) + behindTag);
     std::copy_n(digits, field_digits, block.begin() + static_cast<std::ptrdiff_t>(field + label.size()));
 }
 } // namespace
@@ -124,9 +124,7 @@ std::size_t HtmlBlock::Build(std::wstring_view html, std::span<char> memory)
 
     std::span<char> const room = memory.first(memory.size() - 1);
     std::size_t length = 0;
-    auto const append = [&](std::string_view text) {
-        length += text.copy(room.data() + length, room.size() - length);
-    };
+    auto const append = [&](std::string_view text) { length += text.copy(room.data() + length, room.size() - length); };
     append(isDocument ? header_around_document : header_around_fragment);
     length += Utf8::Encode(html, room.subspan(length));
     append(isDocument ? trailer_around_document : trailer_around_fragment);

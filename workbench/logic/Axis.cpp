@@ -55,6 +55,34 @@ std::wstring TimeLabel(double seconds, int decimals, bool asMinutes)
     return text;
 }
 
+/// The smallest of 1, 2, 5, 10, ... of at least so much.
+double DecimalStepOfAtLeast(double least)
+{
+    auto const unit = std::pow(10.0, std::floor(std::log10(least)));
+    for (auto const factor : {1.0, 2.0, 5.0})
+    {
+        if (factor * unit >= least)
+        {
+            return factor * unit;
+        }
+    }
+    return 10.0 * unit;
+}
+
+std::wstring FrequencyLabel(double hertz)
+{
+    wchar_t text[64];
+    if (hertz >= 1000.0)
+    {
+        std::swprintf(text, std::size(text), L"%.10g kHz", hertz / 1000.0);
+    }
+    else
+    {
+        std::swprintf(text, std::size(text), L"%.10g Hz", hertz);
+    }
+    return text;
+}
+
 } // namespace
 
 std::vector<TimeTick> TimeTicks(double seconds, int width, int leastDistance)
@@ -72,6 +100,23 @@ std::vector<TimeTick> TimeTicks(double seconds, int width, int leastDistance)
         auto const time = i * step.seconds;
         ticks.push_back(
             {static_cast<int>(std::lround(time / seconds * width)), TimeLabel(time, step.decimals, asMinutes)});
+    }
+    return ticks;
+}
+
+std::vector<FrequencyTick> FrequencyTicks(double highest, int height, int leastDistance)
+{
+    std::vector<FrequencyTick> ticks;
+    if (!(highest > 0.0) || height <= 0 || leastDistance <= 0)
+    {
+        return ticks;
+    }
+    auto const step = DecimalStepOfAtLeast(highest * leastDistance / height);
+    auto const count = static_cast<int>(std::floor(highest / step + 1e-9));
+    for (int i = 0; i <= count; ++i)
+    {
+        auto const hertz = i * step;
+        ticks.push_back({static_cast<int>(std::lround(hertz / highest * height)), FrequencyLabel(hertz)});
     }
     return ticks;
 }

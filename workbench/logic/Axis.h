@@ -34,4 +34,18 @@ struct LevelLine
 /// and each 6 dB below it down to -24 dBFS, as long as they are `leastDistance` pixels apart and off the centre line.
 std::vector<LevelLine> LevelLines(int halfHeight, int leastDistance);
 
+/// A line of the frequency axis: pixels above its lower end, and its label.
+struct FrequencyTick
+{
+    int position;
+    std::wstring label;
+
+    bool operator==(FrequencyTick const &) const = default;
+};
+
+/// The ticks of a frequency axis of `height` pixels from 0 up to `highest` hertz. Steps are 1, 2 or 5 of a decimal
+/// unit, and neighbours at least `leastDistance` pixels apart. From 1000 Hz on labels are in kHz. Empty if one of the
+/// arguments is not above 0.
+std::vector<FrequencyTick> FrequencyTicks(double highest, int height, int leastDistance);
+
 } // namespace workbench

@@ -1,6 +1,7 @@
 #include "logic/RecordingAnalysis.h"
 
 #include "logic/TextFormat.h"
+#include "logic/Texts.h"
 
 #include <algorithm>
 #include <utility>
@@ -23,13 +24,13 @@ std::wstring RecordingAnalysis::StatusText() const
     }
     if (info.IsCutOff())
     {
-        return L"cut off, should be " + FormatDuration(info.announcedFrames, info.sampleRate);
+        return std::wstring(Text(L"cut off, should be")) + L' ' + FormatDuration(info.announcedFrames, info.sampleRate);
     }
     if (invalidSamples > 0)
     {
-        return L"has invalid samples";
+        return Text(L"has invalid samples");
     }
-    return L"OK";
+    return Text(L"OK");
 }
 
 RecordingAnalyser::RecordingAnalyser(std::unique_ptr<ByteSource> source)

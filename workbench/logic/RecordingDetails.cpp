@@ -1,43 +1,45 @@
 #include "logic/RecordingDetails.h"
 
 #include "logic/TextFormat.h"
+#include "logic/Texts.h"
 
 namespace workbench
 {
 
 std::wstring FormatCoding(RecordingInfo const & info)
 {
-    return std::to_wstring(info.bitsPerSample) + (info.coding == SampleCoding::Float ? L"-bit float" : L"-bit PCM");
+    return std::to_wstring(info.bitsPerSample) +
+           (info.coding == SampleCoding::Float ? Text(L"-bit float") : Text(L"-bit PCM"));
 }
 
 std::vector<DetailLine> DescribeRecording(std::filesystem::path const & path, RecordingAnalysis const & analysis,
                                           std::wstring const & date)
 {
     std::vector<DetailLine> lines;
-    lines.push_back({L"File", path.filename().wstring()});
-    lines.push_back({L"Folder", path.parent_path().wstring()});
+    lines.push_back({Text(L"File"), path.filename().wstring()});
+    lines.push_back({Text(L"Folder"), path.parent_path().wstring()});
     if (analysis.file.size)
     {
         auto const bytes = *analysis.file.size;
-        lines.push_back({L"Size", FormatThousands(bytes) + (bytes == 1 ? L" byte" : L" bytes")});
+        lines.push_back({Text(L"Size"), FormatThousands(bytes) + L' ' + (bytes == 1 ? Text(L"byte") : Text(L"bytes"))});
     }
     if (!date.empty())
     {
-        lines.push_back({L"Date", date});
+        lines.push_back({Text(L"Date"), date});
     }
     if (!analysis.problem)
     {
         auto const & info = analysis.info;
-        lines.push_back({L"Format", FormatCoding(info)});
-        lines.push_back({L"Channels", std::to_wstring(info.channels)});
-        lines.push_back({L"Sample rate", FormatSampleRate(info.sampleRate)});
-        lines.push_back({L"Duration", FormatDuration(info.frames, info.sampleRate) + L" (" +
-                                          FormatThousands(info.frames) +
-                                          (info.frames == 1 ? L" sample)" : L" samples)")});
-        lines.push_back({L"Peak level", FormatLevel(analysis.levels.peak) + L" dBFS"});
-        lines.push_back({L"RMS level", FormatLevel(analysis.levels.rms) + L" dBFS"});
+        lines.push_back({Text(L"Format"), FormatCoding(info)});
+        lines.push_back({Text(L"Channels"), std::to_wstring(info.channels)});
+        lines.push_back({Text(L"Sample rate"), FormatSampleRate(info.sampleRate)});
+        lines.push_back({Text(L"Duration"), FormatDuration(info.frames, info.sampleRate) + L" (" +
+                                                FormatThousands(info.frames) + L' ' +
+                                                (info.frames == 1 ? Text(L"sample") : Text(L"samples")) + L')'});
+        lines.push_back({Text(L"Peak level"), FormatLevel(analysis.levels.peak) + L" dBFS"});
+        lines.push_back({Text(L"RMS level"), FormatLevel(analysis.levels.rms) + L" dBFS"});
     }
-    lines.push_back({L"Status", analysis.StatusText()});
+    lines.push_back({Text(L"Status"), analysis.StatusText()});
     return lines;
 }
 

@@ -1,5 +1,7 @@
 #include "logic/WavReader.h"
 
+#include "logic/Texts.h"
+
 #include <algorithm>
 #include <array>
 #include <bit>
@@ -223,31 +225,33 @@ std::wstring ReadProblem::Text() const
     switch (fault)
     {
     case ReadFault::CannotBeOpened:
-        return L"cannot be opened";
+        return workbench::Text(L"cannot be opened");
     case ReadFault::NotWav:
-        return L"not a WAV file";
+        return workbench::Text(L"not a WAV file");
     case ReadFault::BigEndian:
-        return L"big-endian WAV (RIFX)";
+        return workbench::Text(L"big-endian WAV (RIFX)");
     case ReadFault::SixtyFourBit:
-        return L"64-bit WAV (RF64)";
+        return workbench::Text(L"64-bit WAV (RF64)");
     case ReadFault::CutOff:
-        return L"cut off before the first sample";
+        return workbench::Text(L"cut off before the first sample");
     case ReadFault::DamagedHeader:
-        return L"damaged header";
+        return workbench::Text(L"damaged header");
     case ReadFault::Empty:
-        return L"empty, no samples";
+        return workbench::Text(L"empty, no samples");
     case ReadFault::UnknownFormat:
         break;
     }
     wchar_t text[64];
     if (formatTag == c_tagPcm || formatTag == c_tagFloat)
     {
-        std::swprintf(text, std::size(text), L"unknown format (%u-bit %ls)", static_cast<unsigned>(bitsPerSample),
-                      formatTag == c_tagPcm ? L"PCM" : L"float");
+        std::swprintf(text, std::size(text), workbench::Text(L"unknown format (%u-bit %ls)"),
+                      static_cast<unsigned>(bitsPerSample),
+                      formatTag == c_tagPcm ? workbench::Text(L"PCM") : workbench::Text(L"float"));
     }
     else
     {
-        std::swprintf(text, std::size(text), L"unknown format (tag 0x%04X)", static_cast<unsigned>(formatTag));
+        std::swprintf(text, std::size(text), workbench::Text(L"unknown format (tag 0x%04X)"),
+                      static_cast<unsigned>(formatTag));
     }
     return text;
 }

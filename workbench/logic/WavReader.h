@@ -33,7 +33,7 @@ struct ReadProblem
     std::uint16_t formatTag = 0;     ///< with `UnknownFormat`: the format tag of the header
     std::uint16_t bitsPerSample = 0; ///< with `UnknownFormat`: the sample width of the header
 
-    /// The reason in English, without a full stop.
+    /// The reason in the present language, without a full stop.
     std::wstring Text() const;
 };
 

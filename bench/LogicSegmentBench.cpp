@@ -1,0 +1,96 @@
+// A line of segment characters painted on a surface that does nothing: with the curves kept from the paint before, and
+// with every curve fitted anew.
+
+#include "segments/DigiPaint.h"
+#include "LogicBench.h"
+#include "Measure.h"
+
+#include <benchmark/benchmark.h>
+
+#include <cstdio>
+#include <vector>
+
+namespace
+{
+using namespace DigiStatic;
+
+constexpr wchar_t text[] = L"12.5:ABC-XYZ0";
+constexpr double height = 80;
+constexpr double width = 400;
+
+class NothingPainter : public CDigiCurvePainter
+{
+public:
+    void Select(bool lit) override { benchmark::DoNotOptimize(lit); }
+    void BeginOutline() override {}
+    void MoveTo(CDevicePoint point) override { benchmark::DoNotOptimize(point); }
+    void LineTo(CDevicePoint point) override { benchmark::DoNotOptimize(point); }
+    void CurveTo(CDevicePoint first, CDevicePoint second, CDevicePoint end) override
+    {
+        benchmark::DoNotOptimize(first);
+        benchmark::DoNotOptimize(second);
+        benchmark::DoNotOptimize(end);
+    }
+    void EndOutline() override {}
+    void StrokeAndFill() override {}
+    void MergeIntoRegion() override {}
+};
+
+struct Line
+{
+    std::vector<CDigiCharOwner> characters;
+    std::int32_t total = 0;
+
+    Line()
+    {
+        for (wchar_t const * code = text; *code != 0; ++code)
+        {
+            characters.emplace_back(CreateDigiChar(*code, DigiStyleRounded | DigiStyleAlways14));
+            total += characters.back()->GetWidth();
+        }
+    }
+    void Paint(CBezierFitCache & cache) const
+    {
+        NothingPainter painter;
+        double const scale = width / total;
+        double left = 0;
+        for (CDigiCharOwner const & character : characters)
+        {
+            double const right = left + scale * character->GetWidth();
+            double const rect[] = {left, 0, right, height};
+            PaintCurves(*character, rect, painter, cache);
+            left = right;
+        }
+    }
+};
+
+void PaintWithKeptCurves(benchmark::State & state)
+{
+    Line const line;
+    CBezierFitCache cache;
+    for (auto _ : state)
+        line.Paint(cache);
+}
+
+void PaintWithoutKeptCurves(benchmark::State & state)
+{
+    Line const line;
+    for (auto _ : state)
+    {
+        CBezierFitCache cache;
+        line.Paint(cache);
+    }
+}
+} // namespace
+
+bool bench::PaintingSegments()
+{
+    benchmark::RegisterBenchmark("kept", PaintWithKeptCurves)->MinTime(0.1)->Repetitions(5);
+    benchmark::RegisterBenchmark("anew", PaintWithoutKeptCurves)->MinTime(0.1)->Repetitions(5);
+    std::map<std::string, double> times = RunRegistered();
+    char name[160];
+    std::snprintf(name, sizeof name,
+                  "outlines of a rounded line with kept curves (%.0f paints a second) beside fitting anew (%.0f)",
+                  1e9 / times["kept"], 1e9 / times["anew"]);
+    return Report(name, times["kept"], times["anew"], 0.05);
+}

@@ -1,0 +1,186 @@
+// Painting a line of segment characters beside the same calls with their points worked out before, so that what is more
+// than 1 is the toolkit's own share.
+
+#include "segments/DigiPaint.h"
+#include "ControlBench.h"
+#include "Measure.h"
+
+#include <array>
+#include <cstdio>
+#include <string>
+#include <vector>
+
+namespace
+{
+using namespace DigiStatic;
+using bench::Nanoseconds;
+
+constexpr wchar_t text[] = L"123456ABCXYZ";
+constexpr int width = 400;
+constexpr int height = 80;
+constexpr int rounds = 200;
+
+struct Tools
+{
+    CPen offPen{PS_SOLID, 1, RGB(0, 60, 0)};
+    CPen onPen{PS_SOLID, 1, RGB(0, 200, 0)};
+    CBrush offBrush{RGB(0, 80, 0)};
+    CBrush onBrush{RGB(0, 255, 0)};
+};
+
+/// Keeps the calls of a paint, and makes them again on a device context.
+class Recording : public CDigiCurvePainter
+{
+public:
+    void Select(bool lit) override { m_calls.push_back({lit ? Kind::selectOn : Kind::selectOff, {}}); }
+    void BeginOutline() override { m_calls.push_back({Kind::begin, {}}); }
+    void MoveTo(CDevicePoint point) override { m_calls.push_back({Kind::move, {ToPoint(point)}}); }
+    void LineTo(CDevicePoint point) override { m_calls.push_back({Kind::line, {ToPoint(point)}}); }
+    void CurveTo(CDevicePoint first, CDevicePoint second, CDevicePoint end) override
+    {
+        m_calls.push_back({Kind::curve, {ToPoint(first), ToPoint(second), ToPoint(end)}});
+    }
+    void EndOutline() override { m_calls.push_back({Kind::end, {}}); }
+    void StrokeAndFill() override { m_calls.push_back({Kind::paint, {}}); }
+    void MergeIntoRegion() override {}
+
+    void Play(CDC & dc, Tools & tools) const
+    {
+        for (Call const & call : m_calls)
+        {
+            switch (call.kind)
+            {
+            case Kind::selectOff:
+            case Kind::selectOn:
+                dc.SelectObject(call.kind == Kind::selectOn ? &tools.onBrush : &tools.offBrush);
+                dc.SelectObject(call.kind == Kind::selectOn ? &tools.onPen : &tools.offPen);
+                break;
+            case Kind::begin:
+                dc.BeginPath();
+                break;
+            case Kind::move:
+                dc.MoveTo(call.points[0]);
+                break;
+            case Kind::line:
+                dc.LineTo(call.points[0]);
+                break;
+            case Kind::curve:
+                dc.PolyBezierTo(call.points.data(), static_cast<int>(call.points.size()));
+                break;
+            case Kind::end:
+                dc.EndPath();
+                break;
+            case Kind::paint:
+                dc.StrokeAndFillPath();
+                break;
+            }
+        }
+    }
+
+private:
+    enum class Kind
+    {
+        selectOff,
+        selectOn,
+        begin,
+        move,
+        line,
+        curve,
+        end,
+        paint
+    };
+    struct Call
+    {
+        Kind kind;
+        std::array<POINT, 3> points;
+    };
+    static POINT ToPoint(CDevicePoint const & point) { return {point.x, point.y}; }
+
+    std::vector<Call> m_calls;
+};
+
+class Line
+{
+public:
+    explicit Line(unsigned long style)
+    {
+        for (wchar_t const * code = text; *code != 0; ++code)
+        {
+            m_characters.emplace_back(CreateDigiChar(*code, style));
+            m_total += m_characters.back()->GetWidth();
+        }
+    }
+    /// Calls draw(character, rect) for each character of the line that begins at left.
+    template <class Draw> void ForEach(double left, Draw const & draw) const
+    {
+        double const scale = static_cast<double>(width) / m_total;
+        for (CDigiCharOwner const & character : m_characters)
+        {
+            double const right = left + scale * character->GetWidth();
+            double const rect[] = {left, 0, right, height};
+            draw(*character, rect);
+            left = right;
+        }
+    }
+
+private:
+    std::vector<CDigiCharOwner> m_characters;
+    int m_total = 0;
+};
+
+bool PaintLine(char const * form, unsigned long style)
+{
+    CDC dc;
+    dc.CreateCompatibleDC(nullptr);
+    CClientDC screen(nullptr);
+    CBitmap bitmap;
+    bitmap.CreateCompatibleBitmap(&screen, width, height);
+    dc.SelectObject(&bitmap);
+    Tools tools;
+    int const state = dc.SaveDC();
+
+    Line const line(style);
+    Recording recording;
+    CBezierFitCache cache;
+    line.ForEach(0, [&](CDigiChar const & character, const double(&rect)[4]) {
+        PaintCurves(character, rect, recording, cache);
+    });
+    auto const paintAt = [&](double left) {
+        line.ForEach(left, [&](CDigiChar const & character, const double(&rect)[4]) {
+            character.DrawGdi(&dc, rect, &tools.offPen, &tools.onPen, &tools.offBrush, &tools.onBrush, nullptr);
+        });
+        ::GdiFlush();
+    };
+
+    std::vector<double> kept;
+    std::vector<double> anew;
+    std::vector<double> plain;
+    for (int round = 0; round < rounds; ++round)
+    {
+        kept.push_back(Nanoseconds([&] { paintAt(0); }));
+        // A place that is another one for the kept curves, and the same pixels.
+        anew.push_back(Nanoseconds([&] { paintAt((round + 1) * 1e-9); }));
+        plain.push_back(Nanoseconds([&] {
+            recording.Play(dc, tools);
+            ::GdiFlush();
+        }));
+    }
+    dc.RestoreDC(state);
+
+    double const ours = bench::Median(kept);
+    double const reference = bench::Median(plain);
+    char name[160];
+    std::snprintf(name, sizeof name,
+                  "painting 12 %s characters at 400 x 80 (%.0f paints a second, %.0f at a new place) beside GDI alone",
+                  form, 1e9 / ours, 1e9 / bench::Median(anew));
+    return bench::Report(name, ours, reference, 1.10);
+}
+} // namespace
+
+bool bench::PaintingSegmentCharacters()
+{
+    bool met = PaintLine("sharp 7- and 14-segment", 0);
+    met = PaintLine("sharp 14-segment", DigiStyleAlways14) && met;
+    met = PaintLine("rounded 7- and 14-segment", DigiStyleRounded) && met;
+    return PaintLine("rounded 14-segment", DigiStyleRounded | DigiStyleAlways14) && met;
+}

@@ -1,0 +1,352 @@
+// The workbench's spectrogram view in a real window, on a picture and in a metafile.
+
+#include <afxcmn.h>
+#include <afxwin.h>
+
+#include "SpectrogramView.h"
+
+#include "../logic/workbench_WavBuilder.h"
+#include "Bitmap.h"
+#include "GdiHandleCount.h"
+#include "Pump.h"
+#include "ScopedWindow.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <fstream>
+#include <numbers>
+
+namespace
+{
+constexpr UINT view_id = 7;
+constexpr COLORREF outside = RGB(1, 2, 3);
+
+/// Colours of which each can be told from the others, and from everything else on the view.
+std::array<unsigned long, CSpectrogramView::c_colours> TestColours()
+{
+    std::array<unsigned long, CSpectrogramView::c_colours> colours{};
+    for (unsigned long i = 0; i < colours.size(); ++i)
+        colours[i] = RGB(255, i * 7, 77);
+    colours.back() = outside;
+    return colours;
+}
+
+int EntryOf(COLORREF colour)
+{
+    auto const colours = TestColours();
+    for (std::size_t i = 0; i < workbench::c_scaleEntries; ++i)
+        if (colours[i] == colour)
+            return static_cast<int>(i);
+    return -1;
+}
+
+/// Silence, and in its second half a sine of a quarter of the rate.
+std::filesystem::path WriteRecording(std::size_t frames, char const * name = "half_sine.wav")
+{
+    std::vector<std::int16_t> samples(frames);
+    for (std::size_t i = frames / 2; i < frames; ++i)
+        samples[i] = static_cast<std::int16_t>(32767 * std::sin(std::numbers::pi / 2 * static_cast<double>(i) + 0.7));
+    auto const file = wav::File().Chunk("fmt ", wav::Format(1, 1, 48000, 2, 16)).Chunk("data", wav::Samples16(samples));
+    auto const path = std::filesystem::temp_directory_path() / (std::to_string(::GetCurrentProcessId()) + "_" + name);
+    std::ofstream stream(path, std::ios::binary);
+    stream.write(reinterpret_cast<char const *>(file.Content().data()),
+                 static_cast<std::streamsize>(file.Content().size()));
+    return path;
+}
+
+class SpectrogramView : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        auto const colours = TestColours();
+        view.SetColours(colours.data());
+        ASSERT_TRUE(view.CreateView(parent, view_id, metrics));
+        view.MoveWindow(0, 0, 500, 300);
+    }
+    void TearDown() override
+    {
+        parent.DestroyWindow();
+        std::error_code error;
+        std::filesystem::remove(path, error);
+    }
+
+    void ShowAndWait(std::size_t frames)
+    {
+        path = WriteRecording(frames);
+        view.ShowRecording(L"Half a sine", path);
+        ASSERT_TRUE(tests::PumpUntil([&] { return !view.IsComputing(); }, std::chrono::seconds(30)));
+    }
+
+    /// Where the spectrogram itself is: the largest block of its colours, left of the legend.
+    CRect Plot(tests::Canvas const & canvas)
+    {
+        CRect plot = canvas.BoundsOf([](COLORREF colour) { return EntryOf(colour) == 0; });
+        int right = plot.left;
+        while (right < canvas.Width() && EntryOf(canvas.Pixel(right, plot.bottom - 1)) >= 0)
+            ++right;
+        plot.right = right;
+        return plot;
+    }
+
+    CWnd & Progress() { return *view.GetWindow(GW_CHILD); }
+
+    workbench::ScreenMetrics metrics;
+    tests::ScopedWindow parent{CRect(50, 50, 600, 400)};
+    CSpectrogramView view;
+    std::filesystem::path path;
+};
+} // namespace
+
+TEST_F(SpectrogramView, ShowsTimeToTheRightAndFrequencyUpwards)
+{
+    ShowAndWait(96000);
+    tests::Canvas canvas(500, 300);
+    CRect client;
+    view.GetClientRect(&client);
+    canvas.PrintClient(view);
+    CRect const plot = Plot(canvas);
+    ASSERT_GT(plot.Width(), 250);
+    ASSERT_GT(plot.Height(), 150);
+    // A full-scale sine at half the axis' height, from the middle on.
+    auto const highest = [&](int x) {
+        int entry = -1;
+        for (int y = plot.CenterPoint().y - 3; y <= plot.CenterPoint().y + 3; ++y)
+            entry = std::max(entry, EntryOf(canvas.Pixel(x, y)));
+        return entry;
+    };
+    EXPECT_EQ(highest(plot.left + plot.Width() * 3 / 4), 31);
+    EXPECT_EQ(highest(plot.right - 20), 31);
+    EXPECT_EQ(highest(plot.left + plot.Width() / 4), 0);
+    EXPECT_LT(EntryOf(canvas.Pixel(plot.left + plot.Width() * 3 / 4, plot.top + 20)), 8);
+    EXPECT_LT(EntryOf(canvas.Pixel(plot.left + plot.Width() * 3 / 4, plot.bottom - 20)), 8);
+}
+
+TEST_F(SpectrogramView, TheFrameHasTheColourOutsideTheScale)
+{
+    ShowAndWait(48000);
+    tests::Canvas canvas(500, 300);
+    canvas.PrintClient(view);
+    CRect frame = Plot(canvas);
+    frame.InflateRect(1, 1);
+    EXPECT_EQ(canvas.Pixel(frame.left, frame.top), outside);
+    EXPECT_EQ(canvas.Pixel(frame.right - 1, frame.bottom - 1), outside);
+    EXPECT_EQ(canvas.Pixel(frame.left, frame.CenterPoint().y), outside);
+    EXPECT_NE(canvas.Pixel(frame.left + 1, frame.top + 1), outside);
+}
+
+TEST_F(SpectrogramView, TheLegendHasAllColoursInOrder)
+{
+    ShowAndWait(48000);
+    tests::Canvas canvas(500, 300);
+    canvas.PrintClient(view);
+    CRect const plot = Plot(canvas);
+    // The first colour to the right of the plot.
+    int x = plot.right + 2;
+    while (x < 500 && EntryOf(canvas.Pixel(x, plot.CenterPoint().y)) < 0)
+        ++x;
+    ASSERT_LT(x, 500);
+    int expected = 31;
+    for (int y = plot.top; y < plot.bottom; ++y)
+    {
+        int const entry = EntryOf(canvas.Pixel(x + 1, y));
+        ASSERT_TRUE(entry == expected || entry == expected - 1) << y << ": " << entry << " after " << expected;
+        expected = entry;
+    }
+    EXPECT_EQ(expected, 0);
+}
+
+TEST_F(SpectrogramView, OtherColoursShowAtOnce)
+{
+    ShowAndWait(48000);
+    std::array<unsigned long, CSpectrogramView::c_colours> colours{};
+    colours.fill(RGB(0, 200, 100));
+    view.SetColours(colours.data());
+    view.SetColours(nullptr);
+    EXPECT_TRUE(view.GetUpdateRect(nullptr));
+    tests::Canvas canvas(500, 300);
+    canvas.PrintClient(view);
+    EXPECT_GT(canvas.Count(RGB(0, 200, 100)), 250 * 150);
+    EXPECT_EQ(canvas.Count(outside), 0);
+}
+
+TEST_F(SpectrogramView, PaintsOnTheScreenWhatItPrints)
+{
+    ShowAndWait(48000);
+    view.UpdateWindow();
+    tests::Canvas printed(400, 200);
+    printed.PrintClient(view);
+    tests::Canvas shown(400, 200);
+    ASSERT_TRUE(tests::PumpUntil([&] {
+        shown.CopyFromScreen(view);
+        return static_cast<bool>(tests::SamePixels(printed, shown));
+    })) << tests::SamePixels(printed, shown).message();
+}
+
+TEST_F(SpectrogramView, AProgressBarShowsWhileItIsComputed)
+{
+    path = WriteRecording(12'000'000);
+    view.ShowRecording(L"Long", path);
+    EXPECT_TRUE(view.IsComputing());
+    EXPECT_TRUE(Progress().IsWindowVisible());
+    auto & bar = static_cast<CProgressCtrl &>(Progress());
+    int lower = -1;
+    int upper = -1;
+    bar.GetRange(lower, upper);
+    EXPECT_EQ(lower, 0);
+    EXPECT_EQ(upper, 1000);
+    int greatest = 0;
+    bool alive = false;
+    ASSERT_TRUE(tests::PumpUntil(
+        [&] {
+            int const position = bar.GetPos();
+            EXPECT_GE(position, greatest);
+            greatest = position;
+            alive = alive || (position > 0 && position < 1000);
+            return !view.IsComputing();
+        },
+        std::chrono::seconds(60)));
+    EXPECT_TRUE(alive) << "messages are handled meanwhile";
+    EXPECT_FALSE(Progress().IsWindowVisible());
+}
+
+TEST_F(SpectrogramView, TheProgressBarStaysInTheMiddle)
+{
+    path = WriteRecording(12'000'000);
+    view.ShowRecording(L"Long", path);
+    for (CSize const size : {CSize(500, 300), CSize(300, 200), CSize(60, 100)})
+    {
+        view.MoveWindow(0, 0, size.cx, size.cy);
+        CRect bar;
+        Progress().GetWindowRect(&bar);
+        view.ScreenToClient(&bar);
+        CRect client;
+        view.GetClientRect(&client);
+        EXPECT_LE(std::abs(bar.CenterPoint().x - client.CenterPoint().x), 1);
+        EXPECT_GE(bar.left, 0);
+        EXPECT_LE(bar.right, client.right);
+    }
+    view.ShowText(L"", L"");
+}
+
+TEST_F(SpectrogramView, AnotherRecordingTakesThePlaceOfTheOneBeingComputed)
+{
+    auto const longPath = WriteRecording(12'000'000, "long.wav");
+    view.ShowRecording(L"Long", longPath);
+    ShowAndWait(48000);
+    tests::Canvas canvas(500, 300);
+    canvas.PrintClient(view);
+    EXPECT_GT(Plot(canvas).Width(), 250);
+
+    view.ShowRecording(L"Long", longPath);
+    view.ShowText(L"Nothing", L"is chosen");
+    EXPECT_FALSE(view.IsComputing());
+    tests::PumpFor(std::chrono::milliseconds(100));
+    canvas.Fill(0);
+    canvas.PrintClient(view);
+    EXPECT_EQ(canvas.Count(outside), 0) << "no spectrogram comes later";
+    std::filesystem::remove(longPath);
+}
+
+TEST_F(SpectrogramView, AFileThatCannotBeReadIsToldInItsPlace)
+{
+    view.ShowRecording(L"Missing", "missing.wav");
+    ASSERT_TRUE(tests::PumpUntil([&] { return !view.IsComputing(); }));
+    tests::Canvas canvas(500, 300);
+    canvas.PrintClient(view);
+    EXPECT_EQ(canvas.Count(outside), 0);
+    EXPECT_FALSE(canvas.BoundsOf(RGB(168, 40, 32)).IsRectEmpty()) << "text in the colour of problems";
+}
+
+TEST_F(SpectrogramView, AViewThatEndsWhileItComputesWaitsForNothing)
+{
+    path = WriteRecording(12'000'000);
+    view.ShowRecording(L"Long", path);
+    view.DestroyWindow();
+    EXPECT_FALSE(view.IsComputing());
+    tests::PumpPosted();
+}
+
+TEST_F(SpectrogramView, DrawsIntoAnyRectangleOfAPicture)
+{
+    ShowAndWait(48000);
+    tests::Canvas whole(420, 260, RGB(9, 9, 9));
+    view.Draw(whole.Dc(), CRect(20, 10, 420, 250));
+    EXPECT_EQ(whole.Count(RGB(9, 9, 9)), 420 * 260 - 400 * 240) << "nothing outside";
+    EXPECT_FALSE(Plot(whole).IsRectEmpty());
+    tests::Canvas tiny(30, 20);
+    view.Draw(tiny.Dc(), CRect(0, 0, 30, 20));
+    view.Draw(tiny.Dc(), CRect(5, 5, 5, 5));
+    EXPECT_EQ(tiny.Count(outside), 0) << "no room for a spectrogram";
+}
+
+TEST_F(SpectrogramView, DrawsIntoAMetafile)
+{
+    ShowAndWait(96000);
+    CClientDC screen(&view);
+    CMetaFileDC metafileDc;
+    ASSERT_TRUE(metafileDc.CreateEnhanced(&screen, nullptr, nullptr, nullptr));
+    metafileDc.SetAttribDC(screen.m_hDC);
+    view.Draw(metafileDc, CRect(0, 0, 500, 300));
+    metafileDc.ReleaseAttribDC();
+    HENHMETAFILE const metafile = metafileDc.CloseEnhanced();
+    ASSERT_NE(metafile, nullptr);
+
+    tests::Canvas drawn(500, 300);
+    view.Draw(drawn.Dc(), CRect(0, 0, 500, 300));
+    tests::Canvas played(500, 300);
+    ENHMETAHEADER header{};
+    ::GetEnhMetaFileHeader(metafile, sizeof(header), &header);
+    RECT const bounds{header.rclBounds.left, header.rclBounds.top, header.rclBounds.right + 1,
+                      header.rclBounds.bottom + 1};
+    EXPECT_TRUE(::PlayEnhMetaFile(played.Dc().m_hDC, metafile, &bounds));
+    ::DeleteEnhMetaFile(metafile);
+    // Playing scales by thousandths, which may move an edge by a pixel or two.
+    CRect const plot = Plot(drawn);
+    CRect const playedPlot = Plot(played);
+    ASSERT_GT(plot.Width(), 250);
+    EXPECT_NEAR(playedPlot.left, plot.left, 2);
+    EXPECT_NEAR(playedPlot.right, plot.right, 2);
+    EXPECT_NEAR(playedPlot.bottom, plot.bottom, 2);
+    CRect const loud(plot.left + plot.Width() * 3 / 4, plot.CenterPoint().y - 4, plot.right - 10,
+                     plot.CenterPoint().y + 4);
+    EXPECT_GE(played.Count(TestColours()[31], loud), loud.Width());
+    CRect const silent(plot.left + 4, plot.top + 4, plot.CenterPoint().x - 10, plot.bottom - 4);
+    EXPECT_EQ(played.Count(TestColours()[0], silent), silent.Width() * silent.Height());
+}
+
+TEST_F(SpectrogramView, ScalesWithTheMappingMode)
+{
+    ShowAndWait(96000);
+    tests::Canvas once(400, 240);
+    view.Draw(once.Dc(), CRect(0, 0, 400, 240));
+    tests::Canvas twice(800, 480);
+    int const saved = twice.Dc().SaveDC();
+    twice.Dc().SetMapMode(MM_ANISOTROPIC);
+    twice.Dc().SetWindowExt(400, 240);
+    twice.Dc().SetViewportExt(800, 480);
+    view.Draw(twice.Dc(), CRect(0, 0, 400, 240));
+    twice.Dc().RestoreDC(saved);
+    CRect const small = Plot(once);
+    CRect const large = Plot(twice);
+    EXPECT_NEAR(large.left, 2 * small.left, 12);
+    EXPECT_NEAR(large.Width(), 2 * small.Width(), 24);
+    EXPECT_NEAR(large.Height(), 2 * small.Height(), 4);
+}
+
+TEST_F(SpectrogramView, DrawingLeavesNoHandleAndTheContextAsItWas)
+{
+    ShowAndWait(48000);
+    tests::Canvas canvas(500, 300);
+    canvas.Dc().SetStretchBltMode(BLACKONWHITE);
+    HGDIOBJ const font = ::GetCurrentObject(canvas.Dc().m_hDC, OBJ_FONT);
+    EXPECT_EQ(tests::GdiGrowth([&] { view.Draw(canvas.Dc(), CRect(0, 0, 500, 300)); }), 0);
+    EXPECT_EQ(::GetCurrentObject(canvas.Dc().m_hDC, OBJ_FONT), font);
+    EXPECT_EQ(canvas.Dc().GetStretchBltMode(), BLACKONWHITE);
+    EXPECT_EQ(tests::GdiGrowth([&] {
+                  view.Invalidate();
+                  view.UpdateWindow();
+              }),
+              0);
+}

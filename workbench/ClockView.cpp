@@ -1,0 +1,97 @@
+#include "ClockView.h"
+
+#include <afxcontrolbarutil.h>
+
+#include "Graphics.h"
+
+namespace
+{
+
+constexpr UINT_PTR c_timer = 1;
+constexpr UINT c_period = 250; // milliseconds, so that a second never shows late
+constexpr COLORREF c_onColour = RGB(90, 230, 120);
+constexpr COLORREF c_offColour = RGB(24, 52, 34);
+constexpr COLORREF c_ground = RGB(14, 26, 20);
+constexpr int c_margin = 4; // pixels
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(CClockView, CWnd)
+    ON_WM_PAINT()
+    ON_WM_ERASEBKGND()
+    ON_MESSAGE(WM_PRINTCLIENT, &CClockView::OnPrintClient)
+    ON_WM_TIMER()
+    ON_WM_LBUTTONDOWN()
+END_MESSAGE_MAP()
+
+bool CClockView::CreateView(CWnd & parent, UINT id)
+{
+    auto const windowClass = AfxRegisterWndClass(CS_HREDRAW | CS_VREDRAW, ::LoadCursorW(nullptr, IDC_ARROW));
+    if (!Create(windowClass, L"Clock", WS_CHILD | WS_VISIBLE | WS_BORDER, CRect(), &parent, id))
+    {
+        return false;
+    }
+    m_text.SetColors(c_onColour, c_offColour, c_ground);
+    ShowTime();
+    SetTimer(c_timer, c_period, nullptr);
+    return true;
+}
+
+void CClockView::ShowTime()
+{
+    auto const text = CTime::GetCurrentTime().Format(L"%H:%M:%S");
+    if (text != m_shown)
+    {
+        m_shown = text;
+        m_text.SetText(text);
+        Invalidate(FALSE);
+    }
+}
+
+void CClockView::OnTimer(UINT_PTR)
+{
+    ShowTime();
+}
+
+void CClockView::OnLButtonDown(UINT flags, CPoint point)
+{
+    CWnd::OnLButtonDown(flags, point);
+    m_fourteen = !m_fourteen;
+    m_text.Always14Sement(m_fourteen);
+    // Characters that are built keep the style that they were built with.
+    m_shown.Empty();
+    m_text.SetText(m_shown);
+    ShowTime();
+}
+
+BOOL CClockView::OnEraseBkgnd(CDC *)
+{
+    return TRUE;
+}
+
+void CClockView::OnPaint()
+{
+    CPaintDC paint(this);
+    CRect client;
+    GetClientRect(&client);
+    CMemDC buffer(paint, client);
+    Draw(buffer.GetDC(), client);
+}
+
+LRESULT CClockView::OnPrintClient(WPARAM dc, LPARAM)
+{
+    CRect client;
+    GetClientRect(&client);
+    Draw(*CDC::FromHandle(reinterpret_cast<HDC>(dc)), client);
+    return 0;
+}
+
+void CClockView::Draw(CDC & dc, CRect const & client)
+{
+    dc.FillSolidRect(client, c_ground);
+    Gdiplus::Graphics graphics(dc.m_hDC);
+    graphics.SetSmoothingMode(Gdiplus::SmoothingModeAntiAlias);
+    auto rect = client;
+    rect.DeflateRect(c_margin, c_margin);
+    m_text.DrawTextW(graphics, rect);
+}

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <functional>
+#include <vector>
+
+#include "WorkbenchDialog.h"
+#include "logic/RecordingDetails.h"
+
+/// Everything about one recording, line by line; the texts can be selected and copied. A menu goes to the next one.
+class CDetailsDialog : public CWorkbenchDialog
+{
+public:
+    CDetailsDialog();
+
+    /// Shows the lines, in the dialog that is open or in a new one.
+    bool Show(std::vector<workbench::DetailLine> lines);
+
+    /// What the menu's entries do; an empty one greys its entry.
+    struct Actions
+    {
+        std::function<void()> previous;
+        std::function<void()> next;
+        std::function<void()> showInList;
+        std::function<void()> setReference;
+    };
+    /// Asked for each time the menu opens or one of its keys is pressed.
+    std::function<Actions()> m_actions;
+
+    BOOL OnInitDialog() override;
+    BOOL PreTranslateMessage(MSG * message) override;
+
+protected:
+    DECLARE_MESSAGE_MAP()
+
+private:
+    afx_msg void OnContextMenu(CWnd * window, CPoint point);
+
+    void Fill();
+
+    std::vector<workbench::DetailLine> m_lines;
+    CFont m_boldFont;
+};

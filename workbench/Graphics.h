@@ -1,0 +1,41 @@
+#pragma once
+// The anti-aliased drawing library.
+
+#include <afxwin.h>
+
+#include <algorithm>
+#include <objidl.h>
+
+// The library's headers count on min and max, which the platform's headers leave out here.
+namespace Gdiplus
+{
+using std::max;
+using std::min;
+} // namespace Gdiplus
+
+#include <gdiplus.h>
+
+namespace workbench
+{
+
+/// Keeps the drawing library started. Whatever uses it must end before.
+class GraphicsScope
+{
+public:
+    GraphicsScope() { Gdiplus::GdiplusStartup(&m_token, &m_input, nullptr); }
+    GraphicsScope(GraphicsScope const &) = delete;
+    GraphicsScope & operator=(GraphicsScope const &) = delete;
+    ~GraphicsScope()
+    {
+        if (m_token != 0)
+        {
+            Gdiplus::GdiplusShutdown(m_token);
+        }
+    }
+
+private:
+    Gdiplus::GdiplusStartupInput m_input;
+    ULONG_PTR m_token = 0;
+};
+
+} // namespace workbench

@@ -1,0 +1,209 @@
+// The main window's dialogs and menus.
+
+#include "MainWindow.h"
+
+#include <algorithm>
+
+#include "FileDialogs.h"
+#include "SettingsFile.h"
+#include "dialogs/SprachauswahlDlg.h"
+#include "logic/Texts.h"
+#include "resource.h"
+
+using workbench::Text;
+
+std::array<CWorkbenchDialog *, 3> CMainWindow::Dialogs()
+{
+    return {&m_details, &m_settingsDialog, &m_preview};
+}
+
+void CMainWindow::PrepareDialogs()
+{
+    m_windowMenu.SetMenu(Text(L"&Window"));
+    for (auto * const dialog : Dialogs())
+    {
+        dialog->Follow(m_settings);
+        dialog->m_onOpened = [this](CWorkbenchDialog & which, bool open) {
+            if (open)
+            {
+                m_windowMenu.Add(which, which.GetDialogTitle());
+            }
+            else
+            {
+                m_windowMenu.Remove(which);
+            }
+        };
+    }
+    m_settingsDialog.m_onAccepted = [this](workbench::Settings settings) {
+        settings.spectrogramScale = m_settings.spectrogramScale; // which the dialog doesn't have
+        TakeSettings(settings);
+    };
+    m_panel.m_onScale = [this](unsigned int scale) {
+        auto settings = m_settings;
+        settings.spectrogramScale = scale;
+        TakeSettings(settings);
+    };
+    m_details.m_actions = [this] { return DetailsActions(); };
+}
+
+/// Lets the windows follow the settings.
+void CMainWindow::FollowSettings(workbench::Settings const & settings)
+{
+    m_settings = settings;
+    for (auto * const dialog : Dialogs())
+    {
+        dialog->Follow(settings);
+    }
+    m_panel.ChooseScale(settings.spectrogramScale);
+}
+
+void CMainWindow::TakeSettings(workbench::Settings const & settings)
+{
+    FollowSettings(settings);
+    if (!workbench::StoreSettings(settings))
+    {
+        AfxMessageBox(Text(L"The settings could not be stored."), MB_ICONEXCLAMATION);
+    }
+}
+
+/// What can be done from the details that are shown now. The list may have other recordings by then.
+CDetailsDialog::Actions CMainWindow::DetailsActions()
+{
+    CDetailsDialog::Actions actions;
+    auto const index = m_detailsIndex;
+    auto const readable = [this](int i) {
+        return i >= 0 && i < RecordingCount() && m_analyses[static_cast<std::size_t>(i)] != nullptr;
+    };
+    if (readable(index - 1))
+    {
+        actions.previous = [this, index] { ShowDetails(index - 1); };
+    }
+    if (readable(index + 1))
+    {
+        actions.next = [this, index] { ShowDetails(index + 1); };
+    }
+    if (readable(index))
+    {
+        actions.showInList = [this, index] {
+            m_list.ChooseLine(index);
+            SetActiveWindow();
+        };
+        if (!m_analyses[static_cast<std::size_t>(index)]->problem)
+        {
+            actions.setReference = [this, index] { m_list.SetReference(index); };
+        }
+    }
+    return actions;
+}
+
+bool CMainWindow::ShowSettings()
+{
+    return m_settingsDialog.OpenWith(m_settings);
+}
+
+void CMainWindow::OnShowSettings()
+{
+    ShowSettings();
+}
+
+void CMainWindow::ChooseLanguage(unsigned short languageId)
+{
+    workbench::UseLanguage(languageId);
+    if (!workbench::StoreLanguage(languageId))
+    {
+        AfxMessageBox(Text(L"The settings could not be stored."), MB_ICONEXCLAMATION);
+    }
+}
+
+void CMainWindow::OnChooseLanguage()
+{
+    CSprachauswahlDlg dialog(workbench::ReadLanguage(), this);
+    if (dialog.DoModal() == IDOK && dialog.SpracheGeaendert())
+    {
+        ChooseLanguage(dialog.SprachId());
+    }
+}
+
+void CMainWindow::OnExportSettings()
+{
+    workbench::ExportSettings(*this);
+}
+
+void CMainWindow::OnImportSettings()
+{
+    auto const result = workbench::ImportSettings(*this);
+    if (result == workbench::SettingsFileResult::Done || result == workbench::SettingsFileResult::Incomplete)
+    {
+        FollowSettings(workbench::ReadSettings());
+        workbench::UseLanguage(workbench::ReadLanguage());
+    }
+}
+
+/// Shows the page of the chosen recording as it would be on paper.
+void CMainWindow::OnPrintPreview()
+{
+    ShowPreview();
+}
+
+bool CMainWindow::ShowPreview()
+{
+    return m_preview.Show([this](CDC & dc, CRect const & page) { DrawPage(dc, page); });
+}
+
+/// The page: the waveform and below it the spectrogram.
+void CMainWindow::DrawPage(CDC & dc, CRect const & page)
+{
+    auto const gap = m_metrics.Y(6);
+    auto upper = page;
+    upper.bottom = page.top + (page.Height() - gap) / 2;
+    m_waveform.Print(dc, upper);
+}
+
+void CMainWindow::CloseDialogs()
+{
+    m_windowMenu.CloseAll();
+}
+
+void CMainWindow::OnCloseDialogs()
+{
+    CloseDialogs();
+}
+
+void CMainWindow::OnDialogChosen(UINT id)
+{
+    m_windowMenu.Activate(id);
+}
+
+void CMainWindow::OnOpenFiles()
+{
+    auto files = workbench::ChooseFiles(*this);
+    if (!files.empty())
+    {
+        ShowTargets(std::move(files));
+    }
+}
+
+void CMainWindow::OnOpenFolder()
+{
+    if (auto const folder = workbench::ChooseFolder(*this, Text(L"Choose a folder with recordings:")))
+    {
+        ShowTargets({*folder});
+    }
+}
+
+void CMainWindow::OnInitMenuPopup(CMenu * menu, UINT index, BOOL systemMenu)
+{
+    CWnd::OnInitMenuPopup(menu, index, systemMenu);
+    auto const enable = [menu](UINT id, bool enabled) {
+        menu->EnableMenuItem(id, MF_BYCOMMAND | (enabled ? MF_ENABLED : MF_GRAYED));
+    };
+    auto const chosen = m_list.ChosenLine();
+    auto const read = chosen >= 0 && chosen < RecordingCount() && m_analyses[static_cast<std::size_t>(chosen)];
+    enable(ID_RELOAD, !m_targets.empty());
+    enable(ID_SHOW_DETAILS, read);
+    enable(ID_READ_AGAIN, read);
+    enable(ID_SET_REFERENCE, read && !m_analyses[static_cast<std::size_t>(chosen)]->problem);
+    enable(ID_MARK_ALL, RecordingCount() > 0);
+    enable(ID_MARK_NONE, RecordingCount() > 0);
+    enable(ID_CLOSE_DIALOGS, std::ranges::any_of(Dialogs(), [](auto const * dialog) { return dialog->IsOpen(); }));
+}

@@ -1,0 +1,131 @@
+#include "MeasurePanel.h"
+
+#include <array>
+
+#include "colours/Farbtabellen.h"
+#include "logic/Texts.h"
+#include "resource.h"
+
+using workbench::Text;
+
+namespace
+{
+
+constexpr unsigned int c_scales = 9;
+
+// Lengths in dialog units.
+constexpr int c_height = 20;
+constexpr int c_positionLabelWidth = 34;
+constexpr int c_positionWidth = 84;
+constexpr int c_levelLabelWidth = 50;
+constexpr int c_levelWidth = 52;
+constexpr int c_scaleLabelWidth = 76;
+constexpr int c_scaleWidth = 84;
+constexpr int c_clockWidth = 90;
+constexpr int c_gap = 8;
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(CMeasurePanel, CWnd)
+    ON_WM_SIZE()
+    ON_CBN_SELCHANGE(IDC_SCALE, &CMeasurePanel::OnScaleChosen)
+END_MESSAGE_MAP()
+
+int CMeasurePanel::Height(workbench::ScreenMetrics const & metrics)
+{
+    return metrics.Y(c_height);
+}
+
+int CMeasurePanel::LeastWidth(workbench::ScreenMetrics const & metrics)
+{
+    return metrics.X(c_positionLabelWidth + c_positionWidth + c_levelLabelWidth + c_levelWidth + 2 * c_gap +
+                     c_scaleLabelWidth + c_scaleWidth + c_gap + c_clockWidth);
+}
+
+bool CMeasurePanel::CreatePanel(CWnd & parent, UINT id, workbench::ScreenMetrics & metrics, unsigned int scale)
+{
+    m_metrics = &metrics;
+    auto const windowClass =
+        AfxRegisterWndClass(0, ::LoadCursorW(nullptr, IDC_ARROW), reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1));
+    if (!CreateEx(WS_EX_CONTROLPARENT, windowClass, L"Displays", WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN, CRect(),
+                  &parent, id))
+    {
+        return false;
+    }
+    constexpr DWORD labelStyle = WS_CHILD | WS_VISIBLE | SS_CENTERIMAGE;
+    auto created =
+        m_positionLabel.Create(Text(L"Position"), labelStyle, CRect(), this) &&
+        m_levelLabel.Create(Text(L"Level (dBFS)"), labelStyle, CRect(), this) &&
+        m_scaleLabel.Create(Text(L"S&pectrogram colours:"), labelStyle, CRect(), this) &&
+        m_scale.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWNLIST, CRect(), this, IDC_SCALE) &&
+        m_clock.CreateView(*this, IDC_CLOCK);
+    for (auto * const display : {&m_position, &m_level})
+    {
+        created = created && display->Create(L"", WS_CHILD | WS_VISIBLE | WS_BORDER, CRect(), this);
+        display->SetColorScheme(ColorSchemeLcd);
+        display->ModifyDigiStyle(0, DigiStyleKeepAspect | DigiStyleRounded);
+    }
+    for (auto * const window : std::array<CWnd *, 4>{&m_positionLabel, &m_levelLabel, &m_scaleLabel, &m_scale})
+    {
+        window->SetFont(&metrics.Font());
+    }
+    for (unsigned int i = 0; created && i < c_scales; ++i)
+    {
+        m_scale.AddString(Farbtabellen::SpektrogrammFarbtabellenName(i));
+    }
+    ChooseScale(scale);
+    return created;
+}
+
+void CMeasurePanel::OnSize(UINT type, int width, int height)
+{
+    CWnd::OnSize(type, width, height);
+    if (m_metrics == nullptr || m_clock.GetSafeHwnd() == nullptr)
+    {
+        return;
+    }
+    auto const gap = m_metrics->X(c_gap);
+    auto left = 0;
+    auto const place = [&](CWnd & window, int unitsWide, int space) {
+        auto const right = left + m_metrics->X(unitsWide);
+        window.MoveWindow(left, 0, right - left, height);
+        left = right + space;
+    };
+    place(m_positionLabel, c_positionLabelWidth, 0);
+    place(m_position, c_positionWidth, gap);
+    place(m_levelLabel, c_levelLabelWidth, 0);
+    place(m_level, c_levelWidth, gap);
+    place(m_scaleLabel, c_scaleLabelWidth, 0);
+    // A drop-down list's own height is its font's; the rest of what it is given is the height of its list.
+    CRect box;
+    m_scale.GetWindowRect(&box);
+    auto const top = (height - box.Height()) / 2;
+    m_scale.MoveWindow(left, top, m_metrics->X(c_scaleWidth), box.Height() + m_metrics->Y(c_height) * 8);
+    auto const clock = m_metrics->X(c_clockWidth);
+    m_clock.MoveWindow(width - clock, 0, clock, height);
+}
+
+void CMeasurePanel::ShowReading(std::wstring const & position, std::wstring const & level)
+{
+    m_position.SetText(position.c_str());
+    m_level.SetText(level.c_str());
+}
+
+unsigned int CMeasurePanel::Scale() const
+{
+    auto const chosen = m_scale.GetCurSel();
+    return chosen == CB_ERR ? 0 : static_cast<unsigned int>(chosen);
+}
+
+void CMeasurePanel::ChooseScale(unsigned int scale)
+{
+    m_scale.SetCurSel(static_cast<int>(scale < c_scales ? scale : 0));
+}
+
+void CMeasurePanel::OnScaleChosen()
+{
+    if (m_onScale)
+    {
+        m_onScale(Scale());
+    }
+}

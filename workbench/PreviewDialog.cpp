@@ -1,0 +1,114 @@
+#include "PreviewDialog.h"
+
+#include <afxcontrolbarutil.h>
+
+#include <algorithm>
+
+#include "logic/Texts.h"
+#include "resource.h"
+
+using workbench::Text;
+
+namespace
+{
+
+// A4 in landscape, in millimetres.
+constexpr int c_paperWidth = 297;
+constexpr int c_paperHeight = 210;
+constexpr int c_paperMargin = 12;
+
+constexpr int c_deskMargin = 10; // pixels around the paper
+constexpr int c_shadow = 3;      // pixels
+constexpr COLORREF c_paperColour = RGB(255, 255, 255);
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(CPageView, CWnd)
+    ON_WM_PAINT()
+    ON_WM_ERASEBKGND()
+    ON_MESSAGE(WM_PRINTCLIENT, &CPageView::OnPrintClient)
+END_MESSAGE_MAP()
+
+bool CPageView::CreateView(CWnd & parent, UINT id, CRect const & place)
+{
+    auto const windowClass = AfxRegisterWndClass(CS_HREDRAW | CS_VREDRAW, ::LoadCursorW(nullptr, IDC_ARROW));
+    return Create(windowClass, L"Page", WS_CHILD | WS_VISIBLE | WS_BORDER, place, &parent, id) != FALSE;
+}
+
+BOOL CPageView::OnEraseBkgnd(CDC *)
+{
+    return TRUE;
+}
+
+void CPageView::OnPaint()
+{
+    CPaintDC paint(this);
+    CRect client;
+    GetClientRect(&client);
+    CMemDC buffer(paint, client);
+    Draw(buffer.GetDC(), client);
+}
+
+LRESULT CPageView::OnPrintClient(WPARAM dc, LPARAM)
+{
+    CRect client;
+    GetClientRect(&client);
+    Draw(*CDC::FromHandle(reinterpret_cast<HDC>(dc)), client);
+    return 0;
+}
+
+void CPageView::Draw(CDC & dc, CRect const & client)
+{
+    dc.FillSolidRect(client, ::GetSysColor(COLOR_APPWORKSPACE));
+    auto desk = client;
+    desk.DeflateRect(c_deskMargin, c_deskMargin);
+    auto const width = std::min(desk.Width(), ::MulDiv(desk.Height(), c_paperWidth, c_paperHeight));
+    auto const height = ::MulDiv(width, c_paperHeight, c_paperWidth);
+    if (width <= 0 || height <= 0)
+    {
+        return;
+    }
+    CRect paper(CPoint(desk.left + (desk.Width() - width) / 2, desk.top + (desk.Height() - height) / 2),
+                CSize(width, height));
+    dc.FillSolidRect(paper + CPoint(c_shadow, c_shadow), ::GetSysColor(COLOR_3DDKSHADOW));
+    dc.FillSolidRect(paper, c_paperColour);
+    auto const margin = ::MulDiv(width, c_paperMargin, c_paperWidth);
+    paper.DeflateRect(margin, margin);
+    if (m_painter && !paper.IsRectEmpty())
+    {
+        auto const saved = dc.SaveDC();
+        dc.IntersectClipRect(paper);
+        m_painter(dc, paper);
+        dc.RestoreDC(saved);
+    }
+}
+
+CPreviewDialog::CPreviewDialog() : CWorkbenchDialog(IDD_PREVIEW, L"Print Preview") {}
+
+bool CPreviewDialog::Show(PagePainter painter)
+{
+    m_page.m_painter = std::move(painter);
+    Update();
+    return Open(Text(L"Print Preview"));
+}
+
+void CPreviewDialog::Update()
+{
+    if (m_page.GetSafeHwnd() != nullptr)
+    {
+        m_page.Invalidate(FALSE);
+    }
+}
+
+BOOL CPreviewDialog::OnInitDialog()
+{
+    CWorkbenchDialog::OnInitDialog();
+    CRect place;
+    ClientCoordinates(IDC_PAGE_FRAME, place);
+    GetDlgItem(IDC_PAGE_FRAME)->DestroyWindow();
+    m_page.CreateView(*this, IDC_PAGE, place);
+    D3dLayoutChild(IDC_PAGE, CEdges::TOP_LEFT_BOTTOM_RIGHT(), nullptr);
+    D3dLayoutChild(IDCANCEL, CEdges::BOTTOM_RIGHT(), nullptr);
+    D3dLayoutComplete(CDialogResizer::RESIZE_BOTH);
+    return TRUE;
+}

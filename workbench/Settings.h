@@ -1,0 +1,44 @@
+#pragma once
+
+#include <filesystem>
+#include <vector>
+
+namespace workbench
+{
+
+/// What the user has set. Kept in the application's registry key.
+struct Settings
+{
+    /// The limits of the opacity in percent.
+    static constexpr int least_opacity = 20;
+    static constexpr int most_opacity = 100;
+
+    bool fadeIn = true;                              ///< dialogs fade in when they open
+    bool dragByBackground = true;                    ///< dialogs can be moved by their background
+    int inactiveOpacity = 50;                        ///< of dialogs that are not active, in percent
+    unsigned int spectrogramScale = 1;               ///< the number of a colour scale
+    std::vector<std::filesystem::path> startFolders; ///< opened when the program starts without others
+
+    /// The alpha of a dialog that is not active: 0 to 255.
+    unsigned char InactiveAlpha() const;
+};
+
+/// Reads the settings; what is missing or out of its limits is as in a new object.
+Settings ReadSettings();
+
+/// Stores the settings. False if that failed.
+bool StoreSettings(Settings const & settings);
+
+/// The number that stands for the language of the user's system.
+constexpr unsigned short c_usersDefaultLanguage = 1024;
+
+/// The number of the display language last chosen; the user's default at first.
+unsigned short ReadLanguage();
+
+/// Stores the display language. False if that failed.
+bool StoreLanguage(unsigned short languageId);
+
+/// Makes it the language of the windows that open from now on: of the workbench's texts and of all resources.
+void UseLanguage(unsigned short languageId);
+
+} // namespace workbench

@@ -1,0 +1,418 @@
+#include "SpectrogramView.h"
+
+#include <afxcontrolbarutil.h>
+
+#include <algorithm>
+#include <cmath>
+
+#include "logic/Axis.h"
+#include "logic/TextFormat.h"
+
+namespace
+{
+
+constexpr COLORREF c_tickColour = RGB(190, 198, 207);
+constexpr COLORREF c_labelColour = RGB(88, 98, 110);
+constexpr COLORREF c_problemColour = RGB(168, 40, 32);
+constexpr COLORREF c_greyOutside = RGB(160, 160, 164);
+
+constexpr UINT c_messageComputed = WM_APP + 1;
+constexpr UINT_PTR c_progressTimer = 1;
+constexpr UINT c_progressPeriod = 50; // milliseconds
+constexpr UINT c_progressId = 1;
+
+/// The most points of a picture on a side, whatever the device.
+constexpr int c_longestSide = 4096;
+
+/// Levels with a label in the legend are so many entries apart.
+constexpr int c_entriesPerLabel = 8;
+
+constexpr UINT c_oneLine = DT_SINGLELINE | DT_END_ELLIPSIS;
+constexpr UINT c_label = DT_SINGLELINE | DT_NOCLIP;
+
+CSize TextSize(CDC & dc, std::wstring const & text)
+{
+    return dc.GetTextExtent(text.c_str(), static_cast<int>(text.size()));
+}
+
+void DrawText(CDC & dc, std::wstring const & text, CRect rect, UINT format)
+{
+    dc.DrawText(text.c_str(), static_cast<int>(text.size()), &rect, format | DT_NOPREFIX);
+}
+
+/// Text on what is there already; filling a rectangle makes the background opaque again.
+void DrawLabel(CDC & dc, std::wstring const & text, CPoint position)
+{
+    dc.SetBkMode(TRANSPARENT);
+    dc.SetTextColor(c_labelColour);
+    DrawText(dc, text, CRect(position, TextSize(dc, text)), DT_LEFT | c_label);
+}
+
+std::wstring LegendLabel(int entry)
+{
+    return std::to_wstring(std::lround(workbench::c_lowestScaleLevel + entry * workbench::c_decibelsPerEntry));
+}
+
+/// How a picture is stretched, with its way back.
+class StretchModeScope
+{
+public:
+    StretchModeScope(CDC & dc, int mode) : m_dc(dc), m_former(dc.SetStretchBltMode(mode)) {}
+    StretchModeScope(StretchModeScope const &) = delete;
+    StretchModeScope & operator=(StretchModeScope const &) = delete;
+    ~StretchModeScope() { m_dc.SetStretchBltMode(m_former); }
+
+private:
+    CDC & m_dc;
+    int m_former;
+};
+
+/// A bitmap's header with its colour table.
+struct BitmapHeader
+{
+    BITMAPINFOHEADER header;
+    RGBQUAD colours[CSpectrogramView::c_colours];
+};
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(CSpectrogramView, CWnd)
+    ON_WM_PAINT()
+    ON_WM_ERASEBKGND()
+    ON_WM_SIZE()
+    ON_WM_TIMER()
+    ON_WM_DESTROY()
+    ON_MESSAGE(WM_PRINTCLIENT, &CSpectrogramView::OnPrintClient)
+    ON_MESSAGE(c_messageComputed, &CSpectrogramView::OnComputed)
+END_MESSAGE_MAP()
+
+CSpectrogramView::CSpectrogramView()
+{
+    for (int i = 0; i < workbench::c_scaleEntries; ++i)
+    {
+        auto const grey = static_cast<BYTE>(i * 255 / (workbench::c_scaleEntries - 1));
+        m_colours[static_cast<std::size_t>(i)] = RGB(grey, grey, grey);
+    }
+    m_colours.back() = c_greyOutside;
+}
+
+bool CSpectrogramView::CreateView(CWnd & parent, UINT id, workbench::ScreenMetrics & metrics)
+{
+    m_metrics = &metrics;
+    auto const windowClass = AfxRegisterWndClass(CS_HREDRAW | CS_VREDRAW, ::LoadCursorW(nullptr, IDC_ARROW));
+    auto const style = WS_CHILD | WS_VISIBLE | WS_BORDER | WS_CLIPCHILDREN;
+    if (!Create(windowClass, L"Spectrogram", style, CRect(), &parent, id) ||
+        !m_progress.Create(WS_CHILD | PBS_SMOOTH, CRect(), this, c_progressId))
+    {
+        return false;
+    }
+    m_progress.SetRange32(0, workbench::SpectrogramJob::c_wholeProgress);
+    return true;
+}
+
+void CSpectrogramView::EndJob()
+{
+    if (m_job)
+    {
+        KillTimer(c_progressTimer);
+        m_progress.ShowWindow(SW_HIDE);
+        m_job.reset();
+    }
+}
+
+void CSpectrogramView::ShowRecording(std::wstring name, std::filesystem::path const & path)
+{
+    ShowText(std::move(name), L"The spectrogram is being computed.");
+    m_progress.SetPos(0);
+    PlaceProgress();
+    m_progress.ShowWindow(SW_SHOWNA);
+    SetTimer(c_progressTimer, c_progressPeriod, nullptr);
+    m_job = std::make_unique<workbench::SpectrogramJob>(
+        path, [window = GetSafeHwnd()] { ::PostMessageW(window, c_messageComputed, 0, 0); });
+}
+
+void CSpectrogramView::ShowText(std::wstring title, std::wstring text)
+{
+    EndJob();
+    m_title = std::move(title);
+    m_text = std::move(text);
+    m_result.reset();
+    m_picture.clear();
+    Invalidate(FALSE);
+}
+
+void CSpectrogramView::SetColours(unsigned long const * scale)
+{
+    if (scale == nullptr)
+    {
+        return;
+    }
+    std::copy_n(scale, c_colours, m_colours.begin());
+    if (GetSafeHwnd() != nullptr)
+    {
+        Invalidate(FALSE);
+    }
+}
+
+LRESULT CSpectrogramView::OnComputed(WPARAM, LPARAM)
+{
+    // A message of a former job finds none or one that is not done.
+    auto result = m_job ? m_job->GetResult() : nullptr;
+    if (!result)
+    {
+        return 0;
+    }
+    EndJob();
+    m_text = result->problem ? L"Cannot be shown: " + result->problem->Text() + L"." : std::wstring();
+    m_result = std::move(result);
+    Invalidate(FALSE);
+    return 0;
+}
+
+void CSpectrogramView::OnTimer(UINT_PTR timer)
+{
+    if (timer == c_progressTimer && m_job)
+    {
+        m_progress.SetPos(m_job->Progress());
+    }
+    CWnd::OnTimer(timer);
+}
+
+void CSpectrogramView::OnDestroy()
+{
+    EndJob();
+    CWnd::OnDestroy();
+}
+
+void CSpectrogramView::OnSize(UINT type, int width, int height)
+{
+    CWnd::OnSize(type, width, height);
+    PlaceProgress();
+}
+
+BOOL CSpectrogramView::OnEraseBkgnd(CDC *)
+{
+    return TRUE;
+}
+
+void CSpectrogramView::OnPaint()
+{
+    CPaintDC paint(this);
+    CRect client;
+    GetClientRect(&client);
+    CMemDC buffer(paint, client);
+    Draw(buffer.GetDC(), client);
+}
+
+LRESULT CSpectrogramView::OnPrintClient(WPARAM dc, LPARAM)
+{
+    CRect client;
+    GetClientRect(&client);
+    Draw(*CDC::FromHandle(reinterpret_cast<HDC>(dc)), client);
+    return 0;
+}
+
+int CSpectrogramView::MessageTop(CRect const & rect) const
+{
+    return std::max<int>(rect.top + m_metrics->Y(8), rect.CenterPoint().y - 2 * m_metrics->LineHeight());
+}
+
+void CSpectrogramView::PlaceProgress()
+{
+    if (m_metrics == nullptr || m_progress.GetSafeHwnd() == nullptr)
+    {
+        return;
+    }
+    CRect client;
+    GetClientRect(&client);
+    auto const width = std::min<int>(m_metrics->X(120), client.Width() - m_metrics->X(20));
+    auto const top = MessageTop(client) + 2 * m_metrics->LineHeight() + m_metrics->Y(10);
+    m_progress.MoveWindow(client.CenterPoint().x - width / 2, top, std::max(width, 0), m_metrics->Y(6));
+}
+
+void CSpectrogramView::Draw(CDC & dc, CRect const & rect)
+{
+    dc.FillSolidRect(rect, ::GetSysColor(COLOR_WINDOW));
+    if (m_metrics == nullptr || rect.IsRectEmpty())
+    {
+        return;
+    }
+    dc.SetBkMode(TRANSPARENT);
+    workbench::SelectScope const font(dc, m_metrics->Font());
+    if (!m_result || m_result->problem)
+    {
+        DrawMessage(dc, rect);
+        return;
+    }
+    auto area = rect;
+    area.DeflateRect(m_metrics->X(6), m_metrics->Y(5));
+    area.top = DrawHeading(dc, area);
+
+    // Half a line more above, where the uppermost label of an axis may reach.
+    auto const line = m_metrics->LineHeight();
+    auto plot = area;
+    plot.top += line / 2;
+    plot.bottom -= line + m_metrics->Y(4);
+    plot.left += FrequencyLabelWidth(dc, plot.Height() - 2) + m_metrics->X(4);
+    plot.right -= TextSize(dc, L"-96 dB").cx + m_metrics->X(14);
+    if (plot.Width() < m_metrics->X(20) || plot.Height() < 2 * line)
+    {
+        return;
+    }
+    DrawPicture(dc, plot);
+    DrawTimeAxis(dc, plot);
+    DrawFrequencyAxis(dc, plot);
+    auto const legendLeft = plot.right + m_metrics->X(6);
+    DrawLegend(dc, CRect(legendLeft, plot.top, legendLeft + m_metrics->X(6), plot.bottom));
+}
+
+void CSpectrogramView::DrawMessage(CDC & dc, CRect const & rect)
+{
+    auto area = rect;
+    area.DeflateRect(m_metrics->X(10), m_metrics->Y(8));
+    area.top = MessageTop(rect);
+    {
+        workbench::SelectScope const bold(dc, m_metrics->BoldFont());
+        dc.SetTextColor(::GetSysColor(COLOR_WINDOWTEXT));
+        DrawText(dc, m_title, area, DT_CENTER | c_oneLine);
+    }
+    area.top += m_metrics->LineHeight() + m_metrics->Y(5);
+    dc.SetTextColor(m_result ? c_problemColour : c_labelColour);
+    DrawText(dc, m_text, area, DT_CENTER | DT_WORDBREAK);
+}
+
+int CSpectrogramView::DrawHeading(CDC & dc, CRect const & area)
+{
+    auto const line = m_metrics->LineHeight();
+    auto rect = area;
+    {
+        workbench::SelectScope const bold(dc, m_metrics->BoldFont());
+        dc.SetTextColor(::GetSysColor(COLOR_WINDOWTEXT));
+        DrawText(dc, m_title, rect, DT_LEFT | c_oneLine);
+    }
+    rect.top += line + m_metrics->Y(1);
+    dc.SetTextColor(c_labelColour);
+    DrawText(dc, Details(), rect, DT_LEFT | c_oneLine);
+    return rect.top + line + m_metrics->Y(2);
+}
+
+std::wstring CSpectrogramView::Details() const
+{
+    auto const & info = m_result->info;
+    auto details = workbench::FormatSampleRate(info.sampleRate) + L"  \u00B7  " +
+                   workbench::FormatDuration(info.frames, info.sampleRate);
+    if (info.channels > 1)
+    {
+        auto const shown = std::min<std::size_t>(info.channels, workbench::SpectrogramBuilder::c_maximumChannels);
+        details += L"  \u00B7  the loudest of " + workbench::FormatCount(shown, L"channel", L"channels");
+    }
+    return details;
+}
+
+void CSpectrogramView::DrawPicture(CDC & dc, CRect const & rect)
+{
+    dc.FillSolidRect(rect, m_colours.back());
+    auto inside = rect;
+    inside.DeflateRect(1, 1);
+
+    // As many points as the device has for it.
+    CSize size = inside.Size();
+    dc.LPtoDP(&size);
+    size.cx = std::clamp<int>(std::abs(size.cx), 1, c_longestSide);
+    size.cy = std::clamp<int>(std::abs(size.cy), 1, c_longestSide);
+    if (m_picture.empty() || size != m_pictureSize)
+    {
+        m_picture = m_result->spectrogram.Picture(static_cast<std::size_t>(size.cx), static_cast<std::size_t>(size.cy));
+        m_pictureSize = size;
+    }
+    if (m_picture.empty())
+    {
+        return;
+    }
+
+    // A bitmap's lines go upwards and take whole 32-bit words.
+    auto const width = static_cast<std::size_t>(size.cx);
+    auto const height = static_cast<std::size_t>(size.cy);
+    auto const pitch = (width + 3) / 4 * 4;
+    std::vector<std::uint8_t> bits(pitch * height);
+    for (std::size_t y = 0; y < height; ++y)
+    {
+        std::copy_n(m_picture.begin() + static_cast<std::ptrdiff_t>(y * width), width,
+                    bits.begin() + static_cast<std::ptrdiff_t>((height - 1 - y) * pitch));
+    }
+    BitmapHeader bitmap{};
+    bitmap.header.biSize = sizeof(bitmap.header);
+    bitmap.header.biWidth = size.cx;
+    bitmap.header.biHeight = size.cy;
+    bitmap.header.biPlanes = 1;
+    bitmap.header.biBitCount = 8;
+    bitmap.header.biCompression = BI_RGB;
+    bitmap.header.biSizeImage = static_cast<DWORD>(bits.size());
+    bitmap.header.biClrUsed = static_cast<DWORD>(c_colours);
+    for (std::size_t i = 0; i < c_colours; ++i)
+    {
+        auto const colour = m_colours[i];
+        bitmap.colours[i] = {GetBValue(colour), GetGValue(colour), GetRValue(colour), 0};
+    }
+    StretchModeScope const mode(dc, COLORONCOLOR);
+    ::StretchDIBits(dc.GetSafeHdc(), inside.left, inside.top, inside.Width(), inside.Height(), 0, 0, size.cx, size.cy,
+                    bits.data(), reinterpret_cast<BITMAPINFO const *>(&bitmap), DIB_RGB_COLORS, SRCCOPY);
+}
+
+void CSpectrogramView::DrawTimeAxis(CDC & dc, CRect const & plot)
+{
+    auto const & info = m_result->info;
+    auto const seconds = static_cast<double>(info.frames) / info.sampleRate;
+    auto const tickHeight = m_metrics->Y(2);
+    for (auto const & tick : workbench::TimeTicks(seconds, plot.Width() - 2, m_metrics->X(44)))
+    {
+        auto const x = plot.left + 1 + tick.position;
+        dc.FillSolidRect(x, plot.bottom, 1, tickHeight, c_tickColour);
+        auto const width = TextSize(dc, tick.label).cx;
+        auto const left = std::clamp<int>(x - width / 2, plot.left, std::max<int>(plot.right - width, plot.left));
+        DrawLabel(dc, tick.label, CPoint(left, plot.bottom + tickHeight + 1));
+    }
+}
+
+int CSpectrogramView::FrequencyLabelWidth(CDC & dc, int height) const
+{
+    int width = 0;
+    for (auto const & tick : workbench::FrequencyTicks(m_result->info.sampleRate / 2.0, height, m_metrics->Y(16)))
+    {
+        width = std::max<int>(width, TextSize(dc, tick.label).cx);
+    }
+    return width;
+}
+
+void CSpectrogramView::DrawFrequencyAxis(CDC & dc, CRect const & plot)
+{
+    auto const tickWidth = m_metrics->X(2);
+    auto const height = plot.Height() - 2;
+    for (auto const & tick : workbench::FrequencyTicks(m_result->info.sampleRate / 2.0, height, m_metrics->Y(16)))
+    {
+        auto const y = plot.bottom - 1 - tick.position;
+        dc.FillSolidRect(plot.left - tickWidth, y, tickWidth, 1, c_tickColour);
+        auto const size = TextSize(dc, tick.label);
+        auto const top = std::min<int>(y - size.cy / 2, plot.bottom - size.cy);
+        DrawLabel(dc, tick.label, CPoint(plot.left - tickWidth - m_metrics->X(1) - size.cx, top));
+    }
+}
+
+void CSpectrogramView::DrawLegend(CDC & dc, CRect const & bar)
+{
+    dc.FillSolidRect(bar, m_colours.back());
+    auto const inside = CRect(bar.left + 1, bar.top + 1, bar.right - 1, bar.bottom - 1);
+    auto const y = [&](int entry) { return inside.bottom - entry * inside.Height() / workbench::c_scaleEntries; };
+    for (int i = 0; i < workbench::c_scaleEntries; ++i)
+    {
+        dc.FillSolidRect(CRect(inside.left, y(i + 1), inside.right, y(i)), m_colours[static_cast<std::size_t>(i)]);
+    }
+    for (int i = 0; i <= workbench::c_scaleEntries; i += c_entriesPerLabel)
+    {
+        auto const label = LegendLabel(i) + (i == workbench::c_scaleEntries ? L" dB" : L"");
+        auto const size = TextSize(dc, label);
+        auto const top = std::min<int>(y(i) - size.cy / 2, bar.bottom - size.cy);
+        dc.FillSolidRect(bar.right, y(i), m_metrics->X(1), 1, c_tickColour);
+        DrawLabel(dc, label, CPoint(bar.right + m_metrics->X(2), top));
+    }
+}

@@ -1,0 +1,66 @@
+#include "WorkbenchDialog.h"
+
+BEGIN_MESSAGE_MAP(CWorkbenchDialog, CDialog3d)
+    ON_WM_DESTROY()
+END_MESSAGE_MAP()
+
+CWorkbenchDialog::CWorkbenchDialog(UINT templateId, wchar_t const * name) : CDialog3d(NO_DLL, templateId, nullptr)
+{
+    SetGenuineTitle(name);
+}
+
+bool CWorkbenchDialog::Open(CString const & title)
+{
+    // Before the first opening the title would become the name, too.
+    CString const name = GetGenuineTitle();
+    SetDialogTitle(title);
+    SetGenuineTitle(name);
+    auto const opened = !IsOpen();
+    if (opened)
+    {
+        // Activation would make a dialog opaque that is transparent while inactive, and so end its fading in.
+        DurchsichtigkeitBeiInaktiv(255);
+    }
+    if (DisplayDialog() == 0)
+    {
+        return false;
+    }
+    ShowWindow(SW_SHOW);
+    SetActiveWindow();
+    DurchsichtigkeitBeiInaktiv(m_alphaWhileInactive);
+    if (opened && m_onOpened)
+    {
+        m_onOpened(*this, true);
+    }
+    return true;
+}
+
+void CWorkbenchDialog::Follow(workbench::Settings const & settings)
+{
+    m_fadeInOnCreate = settings.fadeIn;
+    SetGrabAndMove(settings.dragByBackground);
+    m_alphaWhileInactive = settings.InactiveAlpha();
+    if (IsOpen())
+    {
+        DurchsichtigkeitBeiInaktiv(m_alphaWhileInactive);
+    }
+}
+
+void CWorkbenchDialog::OnOK()
+{
+    OnCancel();
+}
+
+void CWorkbenchDialog::OnCancel()
+{
+    DestroyWindow();
+}
+
+void CWorkbenchDialog::OnDestroy()
+{
+    if (m_onOpened)
+    {
+        m_onOpened(*this, false);
+    }
+    CDialog3d::OnDestroy();
+}
