@@ -237,12 +237,27 @@ TEST_F(ListDrag, TheCursorRefusesWhereNothingCanBeDropped)
     EXPECT_EQ(m_swaps, Swaps{});
 }
 
+TEST_F(ListDrag, AWindowThatCoversTheListIsOutside)
+{
+    CRect row;
+    ASSERT_TRUE(m_list.GetItemRect(3, &row, LVIR_BOUNDS));
+    m_list.MapWindowPoints(&m_host.parent, &row);
+    ASSERT_TRUE(m_button.SetWindowPos(&CWnd::wndTop, row.left, row.top, row.Width(), row.Height(), 0));
+    Begin(5);
+    MoveOver(4);
+    MoveOver(3);
+    EXPECT_EQ(Marked(), Rows{});
+    EXPECT_TRUE(Shows(IDC_NO));
+    Drop();
+    EXPECT_EQ(m_swaps, Swaps{});
+}
+
 TEST_F(ListDrag, ANewDragBeginsWithTheArrow)
 {
     Begin(5);
     MoveTo(Aside());
+    EXPECT_TRUE(Shows(IDC_NO));
     Drop();
-    ASSERT_TRUE(Shows(IDC_NO));
     ::SetCursor(::LoadCursorW(nullptr, IDC_ARROW));
     Notify(Beginning(3));
     CPoint outside = Aside();
@@ -371,6 +386,25 @@ TEST_F(ListDrag, CutsATextOfMoreThan255Characters)
     EXPECT_EQ(cut, tooLong.substr(0, static_cast<std::size_t>(cut.GetLength())).c_str());
 }
 
+TEST_F(ListDrag, ATextThatTheParentGivesIsAskedForAfterTheSwapAsWell)
+{
+    std::wstring given = L"before";
+    m_host.parent.onNotify = [&given](NMHDR const & header) {
+        if (header.code != LVN_GETDISPINFOW)
+            return;
+        auto & item = const_cast<NMLVDISPINFOW &>(reinterpret_cast<NMLVDISPINFOW const &>(header)).item;
+        if ((item.mask & LVIF_TEXT) != 0)
+            item.pszText = given.data();
+    };
+    m_list.CListCtrl::SetItemText(2, 0, LPSTR_TEXTCALLBACKW);
+    ASSERT_EQ(m_list.GetItemText(2, 0), L"before");
+    Drag(5, 2);
+    given = L"after";
+    EXPECT_EQ(m_list.GetItemText(5, 0), L"after");
+    EXPECT_EQ(m_list.GetItemText(2, 0), L"r5");
+    m_host.parent.onNotify = nullptr;
+}
+
 TEST_F(ListDrag, GoesOnAfterTheDropWithTheRowDraggedFirst)
 {
     Drag(5, 2);
@@ -396,6 +430,11 @@ TEST_F(ListDrag, BeforeTheFirstDragNothingIsMarkedOrSwapped)
     EXPECT_EQ(Marked(), Rows{});
     ClickCell(3, 1);
     EXPECT_EQ(m_swaps, Swaps{});
+    // And the capture is left to whoever has it.
+    m_list.SetCapture();
+    m_list.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(Middle(3, 1).x, Middle(3, 1).y));
+    EXPECT_TRUE(Captured());
+    ::ReleaseCapture();
 }
 
 TEST_F(ListDrag, InAScrolledListTheRowsSeenAreMeant)
@@ -452,17 +491,35 @@ TEST_F(ListDrag, RepaintsBothRowsAfterTheDrop)
 {
     Begin(5);
     MoveOver(2);
-    m_list.UpdateWindow();
-    m_list.TakeUpdateRect();
-    CRect update;
-    m_list.m_onRowsSwapped = [&](int, int) { m_list.GetUpdateRect(&update); };
-    CRect second;
-    CRect fifth;
-    ASSERT_TRUE(m_list.GetItemRect(2, &second, LVIR_BOUNDS));
-    ASSERT_TRUE(m_list.GetItemRect(5, &fifth, LVIR_BOUNDS));
+    tests::MessageRecorder repaints({LVM_SETITEMW, LVM_REDRAWITEMS});
+    repaints.Watch(m_list.m_hWnd, "list");
     Drop();
-    EXPECT_LE(update.top, second.top);
-    EXPECT_GE(update.bottom, fifth.bottom);
+    auto const & all = repaints.Received();
+    std::vector<int> rows;
+    for (auto const & received : all)
+        rows.push_back(received.message == LVM_SETITEMW ? -1 : static_cast<int>(received.wParam));
+    // The mark, the columns of both rows, and both rows; a move after that may mark a row again.
+    std::vector<int> expected(1 + 2 * list_input::columns, -1);
+    expected.front() = 2;
+    expected.insert(expected.end(), {2, 5});
+    ASSERT_GE(rows.size(), expected.size());
+    rows.resize(expected.size());
+    EXPECT_EQ(rows, expected);
+}
+
+TEST_F(ListDrag, MouseMessagesGoOnToTheNativeList)
+{
+    // The native list tells of a click at the release, and finds the beginning of a drag in the moves.
+    tests::MessageRecorder recorder({WM_NOTIFY});
+    recorder.Watch(m_host.parent.m_hWnd, "parent");
+    ClickCell(4, 1);
+    auto const clicks = [&recorder] {
+        auto const & all = recorder.Received();
+        return std::count_if(all.begin(), all.end(), [](auto const & received) { return received.code == NM_CLICK; });
+    };
+    EXPECT_EQ(clicks(), 1);
+    Begin(5);
+    EXPECT_TRUE(Captured());
 }
 
 // --- Ends that the list does not choose ---
@@ -652,11 +709,15 @@ TEST_F(ListDrag, ThePictureIsHiddenWhileRowsAreRepainted)
     };
     EXPECT_EQ(send(WM_MOUSEMOVE, Middle(3, 1)),
               (std::vector<std::string>{move(Middle(3, 1)), "hide", "marks 3", "show"}));
+    // The repaint is done while the picture is away.
+    EXPECT_EQ(m_list.TakeUpdateRect(), CRect());
+    EXPECT_EQ(send(WM_MOUSEMOVE, Middle(3, 2)), (std::vector<std::string>{move(Middle(3, 2)), "hide", "show"}));
     EXPECT_EQ(send(WM_MOUSEMOVE, Middle(2, 1)),
               (std::vector<std::string>{move(Middle(2, 1)), "hide", "marks -1", "marks 2", "show"}));
     CPoint outside = Aside();
     ::ScreenToClient(m_list.m_hWnd, &outside);
     EXPECT_EQ(send(WM_MOUSEMOVE, outside), (std::vector<std::string>{move(outside), "hide", "marks -1", "show"}));
+    EXPECT_EQ(m_list.TakeUpdateRect(), CRect());
     EXPECT_EQ(send(WM_MOUSEMOVE, outside), (std::vector<std::string>{move(outside), "hide", "show"}));
     EXPECT_EQ(send(WM_MOUSEMOVE, Middle(3, 1)),
               (std::vector<std::string>{move(Middle(3, 1)), "hide", "marks 3", "show"}));
