@@ -446,7 +446,12 @@ TEST(MemorySettingsTree, AKeyIsDeletedOnlyWithoutSubkeys)
     ASSERT_TRUE(write_registry_tree(tree, list));
     tree.DeleteKey(u"A");
     EXPECT_TRUE(registry_key_exists(tree, u"A\\B"));
+    SettingsTree::key_t const root = tree.Open({}, SettingsTree::access_t::read);
+    SettingsTree::key_t const below = tree.CreateSubkey(root, u"A\\B");
+    ASSERT_TRUE(tree.SetValue(below, Value(u"v", type_sz, {})));
+    ASSERT_EQ(tree.Count(below).values, 1U);
     tree.DeleteKey(u"A\\B");
+    EXPECT_EQ(tree.Count(below).values, 0U) << "an open key does not keep it";
     EXPECT_FALSE(registry_key_exists(tree, u"A\\B"));
     tree.DeleteKey(u"a\\");
     EXPECT_FALSE(registry_key_exists(tree, u"A"));
