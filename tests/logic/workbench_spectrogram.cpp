@@ -600,6 +600,19 @@ TEST(SpectrogramAnalyser, ReadsARecordingInStepsAndTellsItsProgress)
     EXPECT_EQ(PeakRow(spectrogram, 100), 32u);
 }
 
+TEST(SpectrogramAnalyser, AStepTakesAsManySamplesWhateverTheChannels)
+{
+    std::vector<std::int16_t> const samples(200'000);
+    auto const file = wav::File().Chunk("fmt ", wav::Format(1, 2, 8000, 4, 16)).Chunk("data", wav::Samples16(samples));
+    SpectrogramAnalyser analyser(wav::Source(file.Content()));
+    int steps = 0;
+    while (analyser.Step())
+    {
+        ++steps;
+    }
+    EXPECT_EQ(steps, 7); // 200,000 samples of which a step takes 32,768
+}
+
 TEST(SpectrogramAnalyser, GivesTheProblemOfAFileThatCannotBeRead)
 {
     SpectrogramAnalyser none(std::unique_ptr<ByteSource>{});
