@@ -602,7 +602,12 @@ TEST(SpectrogramAnalyser, ReadsARecordingInStepsAndTellsItsProgress)
 
 TEST(SpectrogramAnalyser, AStepTakesAsManySamplesWhateverTheChannels)
 {
-    std::vector<std::int16_t> const samples(200'000);
+    std::vector<std::int16_t> samples(200'000);
+    for (std::size_t frame = 90'000; frame < 100'000; ++frame)
+    {
+        samples[2 * frame + 1] =
+            static_cast<std::int16_t>(32767 * std::sin(2 * c_pi * 1000.0 * static_cast<double>(frame) / 8000));
+    }
     auto const file = wav::File().Chunk("fmt ", wav::Format(1, 2, 8000, 4, 16)).Chunk("data", wav::Samples16(samples));
     SpectrogramAnalyser analyser(wav::Source(file.Content()));
     int steps = 0;
@@ -611,6 +616,10 @@ TEST(SpectrogramAnalyser, AStepTakesAsManySamplesWhateverTheChannels)
         ++steps;
     }
     EXPECT_EQ(steps, 7); // 200,000 samples of which a step takes 32,768
+    auto const spectrogram = analyser.Take();
+    EXPECT_EQ(HighestEntry(spectrogram, spectrogram.ColumnOfFrame(89'000)), 0);
+    EXPECT_EQ(spectrogram.Entry(spectrogram.ColumnOfFrame(91'000), 32), 31);
+    EXPECT_EQ(spectrogram.Entry(spectrogram.ColumnOfFrame(99'000), 32), 31);
 }
 
 TEST(SpectrogramAnalyser, GivesTheProblemOfAFileThatCannotBeRead)
