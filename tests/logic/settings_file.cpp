@@ -446,16 +446,50 @@ TEST(MemorySettingsTree, AKeyIsDeletedOnlyWithoutSubkeys)
     ASSERT_TRUE(write_registry_tree(tree, list));
     tree.DeleteKey(u"A");
     EXPECT_TRUE(registry_key_exists(tree, u"A\\B"));
+    SettingsTree::key_t const root = tree.Open({}, SettingsTree::access_t::read);
+    SettingsTree::key_t const below = tree.CreateSubkey(root, u"A\\B");
+    ASSERT_TRUE(tree.SetValue(below, Value(u"v", type_sz, {})));
+    ASSERT_EQ(tree.Count(below).values, 1U);
     tree.DeleteKey(u"A\\B");
+    EXPECT_EQ(tree.Count(below).values, 0U) << "an open key does not keep it";
     EXPECT_FALSE(registry_key_exists(tree, u"A\\B"));
     tree.DeleteKey(u"a\\");
     EXPECT_FALSE(registry_key_exists(tree, u"A"));
-    tree.DeleteKey(u"missing");
+    tree.DeleteKey(u"missing\\below");
+    EXPECT_FALSE(registry_key_exists(tree, u"missing"));
     list = {Value(u"v", type_sz, {})};
     ASSERT_TRUE(write_registry_tree(tree, list));
     tree.DeleteKey(u"");
     ASSERT_TRUE(read_registry_tree(tree, list));
     EXPECT_TRUE(list.empty()) << "the root is there again, without its values";
+}
+
+TEST(MemorySettingsTree, AnEmptiedKeyTakesTheSameValuesAgain)
+{
+    MemorySettingsTree tree;
+    SettingsTree::key_t const root = tree.Open({}, SettingsTree::access_t::read);
+    SettingsTree::key_t const deep = tree.CreateSubkey(root, u"A\\B\\C");
+    ASSERT_TRUE(tree.SetValue(deep, Value(u"v", type_sz, {})));
+    for (int round = 0; round < 2; ++round)
+    {
+        ASSERT_TRUE(tree.SetValue(root, Value(u"v", type_sz, {1})));
+        ASSERT_TRUE(tree.SetValue(root, Value(u"w", type_sz, {2})));
+        ASSERT_EQ(tree.Count(root).values, 2U);
+        if (round == 0)
+            tree.EmptyKey(root);
+        else
+            tree.DeleteKey(u"");
+        EXPECT_EQ(tree.Count(root).values, 0U);
+        EXPECT_EQ(tree.Count(root).subkeys, 0U);
+        EXPECT_EQ(tree.Count(deep).values, 0U) << "also keys far below are gone";
+        ASSERT_TRUE(tree.SetValue(root, Value(u"w", type_dword, {3})));
+        registry_entry entry;
+        ASSERT_EQ(tree.Count(root).values, 1U);
+        ASSERT_TRUE(tree.DescribeValue(root, 0, entry));
+        EXPECT_EQ(entry.name, u"w");
+        EXPECT_EQ(entry.value_type, type_dword);
+        tree.EmptyKey(root);
+    }
 }
 
 TEST(MemorySettingsTree, AnOpenKeyThatIsDeletedGivesNothing)

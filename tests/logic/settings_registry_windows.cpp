@@ -47,9 +47,8 @@ protected:
 };
 } // namespace
 
-INSTANTIATE_TEST_SUITE_P(Registry, SettingsProtocol, testing::Values([] {
-                             return std::unique_ptr<TreeHost>(std::make_unique<RegistryHost>());
-                         }));
+INSTANTIATE_TEST_SUITE_P(Registry, SettingsProtocol,
+                         testing::Values([] { return std::unique_ptr<TreeHost>(std::make_unique<RegistryHost>()); }));
 
 TEST_F(SettingsRegistry, ValuesAreTheRegistrysOwn)
 {
@@ -67,6 +66,43 @@ TEST_F(SettingsRegistry, ValuesAreTheRegistrysOwn)
     ASSERT_EQ(::RegGetValueW(HKEY_CURRENT_USER, key.c_str(), L"text", RRF_RT_REG_SZ, nullptr, text, &size),
               ERROR_SUCCESS);
     EXPECT_STREQ(text, L"hi");
+}
+
+TEST_F(SettingsRegistry, KeysOutliveTheSystemsRun)
+{
+    registry_entry_list list{Begin(u"A"), End()};
+    ASSERT_TRUE(write_registry_tree(tree, list));
+    // A key that lasts can't stand below one that doesn't.
+    HKEY key = nullptr;
+    std::wstring const path = RegistryHost::Path() + L"\\A\\Lasting";
+    EXPECT_EQ(::RegCreateKeyExW(HKEY_CURRENT_USER, path.c_str(), 0, nullptr, REG_OPTION_NON_VOLATILE, KEY_READ, nullptr,
+                                &key, nullptr),
+              ERROR_SUCCESS);
+    ::RegCloseKey(key);
+}
+
+TEST_F(SettingsRegistry, AValueThatHasGrownSinceItWasDescribedIsNotRead)
+{
+    registry_entry_list list{Begin(u"A"), Value(u"v", type_binary, {}), End()};
+    ASSERT_TRUE(write_registry_tree(tree, list));
+    std::wstring const path = RegistryHost::Path() + L"\\A";
+    SettingsTree::key_t const key = tree.Open(u"A", SettingsTree::access_t::read);
+    for (DWORD const size : {4U, 8U})
+    {
+        registry_entry entry;
+        ASSERT_TRUE(tree.DescribeValue(key, 0, entry));
+        EXPECT_EQ(entry.name, u"v");
+        EXPECT_EQ(entry.value_type, type_binary);
+        EXPECT_EQ(entry.data.size(), size - 4);
+        ::RegSetKeyValueW(HKEY_CURRENT_USER, path.c_str(), L"v", REG_BINARY, "12345678", size);
+        EXPECT_FALSE(tree.ReadValue(key, 0, entry)) << size;
+    }
+    registry_entry entry;
+    ASSERT_TRUE(tree.DescribeValue(key, 0, entry));
+    ::RegSetKeyValueW(HKEY_CURRENT_USER, path.c_str(), L"v", REG_BINARY, "12", 2);
+    EXPECT_TRUE(tree.ReadValue(key, 0, entry));
+    EXPECT_EQ(entry.data, (Bytes{'1', '2'}));
+    tree.Close(key);
 }
 
 TEST_F(SettingsRegistry, AValueOfTheRootIsRefusedByTheSystem)
@@ -96,8 +132,8 @@ TEST_F(SettingsRegistry, TheRootItselfIsDeletedAndMadeAnew)
 {
     HKEY const former = RegistryHost::ApplicationKey();
     ASSERT_TRUE(delete_registry_tree(tree, u""));
-    EXPECT_NE(::RegQueryInfoKeyW(former, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
-                                 nullptr, nullptr),
+    EXPECT_NE(::RegQueryInfoKeyW(former, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
+                                 nullptr, nullptr, nullptr),
               ERROR_SUCCESS)
         << "the key that was there is gone";
     ::RegCloseKey(former);

@@ -523,6 +523,56 @@ TEST(Spectrogram, APictureOfFewColumnsAndRowsHasPointsOfTheirSize)
     }
 }
 
+TEST(Spectrogram, APointOfAPictureIsTheHighestOfThoseThatFallOnIt)
+{
+    // Whole windows, so that columns and frames share their edges.
+    constexpr std::uint64_t frames = 32 * 90;
+    std::mt19937 random(11);
+    auto const spectrogram = Build(
+        {[&](std::uint64_t) { return std::pow(static_cast<double>(random()) / 4294967296.0, 20); }}, 3200, frames);
+    ASSERT_EQ(spectrogram.Columns(), 90u);
+    ASSERT_EQ(spectrogram.Rows(), 33u);
+    // Points per place, both ends within; a place has one at least.
+    auto const range = [](std::size_t at, std::size_t places, std::size_t points) {
+        auto const part = static_cast<double>(points) / static_cast<double>(places);
+        auto const first = static_cast<std::size_t>(std::floor(static_cast<double>(at) * part + 1e-9));
+        auto const end = static_cast<std::size_t>(std::floor(static_cast<double>(at + 1) * part + 1e-9));
+        return std::pair(first, end > first ? end - 1 : first);
+    };
+    for (std::size_t const width : {1u, 2u, 9u, 30u, 90u, 180u})
+    {
+        for (std::size_t const height : {1u, 2u, 5u, 16u, 33u, 50u})
+        {
+            auto const picture = spectrogram.Picture(width, height);
+            for (std::size_t x = 0; x < width; ++x)
+            {
+                for (std::size_t y = 0; y < height; ++y)
+                {
+                    auto const [firstColumn, lastColumn] = range(x, width, 90);
+                    auto const [firstRow, lastRow] = range(height - 1 - y, height, 33);
+                    int highest = 0;
+                    for (auto column = firstColumn; column <= lastColumn; ++column)
+                    {
+                        for (auto row = firstRow; row <= lastRow; ++row)
+                        {
+                            highest = std::max(highest, spectrogram.Entry(column, row));
+                        }
+                    }
+                    ASSERT_EQ(picture[y * width + x], highest) << width << " x " << height << ": " << x << ", " << y;
+                }
+            }
+        }
+    }
+}
+
+TEST(Spectrogram, OutsideThereIsTheLowestEntry)
+{
+    auto const spectrogram = Build({[](std::uint64_t) { return 1.0; }}, 48000, 5000);
+    EXPECT_EQ(spectrogram.Entry(1, 0), 31);
+    EXPECT_EQ(spectrogram.Entry(0, spectrogram.Rows()), 0);
+    EXPECT_EQ(spectrogram.Entry(spectrogram.Columns(), 0), 0);
+}
+
 TEST(SpectrogramAnalyser, ReadsARecordingInStepsAndTellsItsProgress)
 {
     std::vector<std::int16_t> samples(100'000);
@@ -548,6 +598,28 @@ TEST(SpectrogramAnalyser, ReadsARecordingInStepsAndTellsItsProgress)
     auto const spectrogram = analyser.Take();
     EXPECT_EQ(spectrogram.Frames(), 100'000u);
     EXPECT_EQ(PeakRow(spectrogram, 100), 32u);
+}
+
+TEST(SpectrogramAnalyser, AStepTakesAsManySamplesWhateverTheChannels)
+{
+    std::vector<std::int16_t> samples(200'000);
+    for (std::size_t frame = 90'000; frame < 100'000; ++frame)
+    {
+        samples[2 * frame + 1] =
+            static_cast<std::int16_t>(32767 * std::sin(2 * c_pi * 1000.0 * static_cast<double>(frame) / 8000));
+    }
+    auto const file = wav::File().Chunk("fmt ", wav::Format(1, 2, 8000, 4, 16)).Chunk("data", wav::Samples16(samples));
+    SpectrogramAnalyser analyser(wav::Source(file.Content()));
+    int steps = 0;
+    while (analyser.Step())
+    {
+        ++steps;
+    }
+    EXPECT_EQ(steps, 7); // 200,000 samples of which a step takes 32,768
+    auto const spectrogram = analyser.Take();
+    EXPECT_EQ(HighestEntry(spectrogram, spectrogram.ColumnOfFrame(89'000)), 0);
+    EXPECT_EQ(spectrogram.Entry(spectrogram.ColumnOfFrame(91'000), 32), 31);
+    EXPECT_EQ(spectrogram.Entry(spectrogram.ColumnOfFrame(99'000), 32), 31);
 }
 
 TEST(SpectrogramAnalyser, GivesTheProblemOfAFileThatCannotBeRead)

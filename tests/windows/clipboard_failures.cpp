@@ -195,6 +195,28 @@ TEST_F(ClipboardFailures, AClipboardThatCannotBeEmptiedStaysOpen)
     EXPECT_EQ(g_calls.close, 0);
 }
 
+TEST_F(ClipboardFailures, SuccessClosesTheClipboardOnce)
+{
+    Patch("CloseClipboard", &CountClose);
+    CString text;
+    EXPECT_TRUE(Clipboard::StringToClipboard(L"a"));
+    EXPECT_EQ(g_calls.close, 1);
+    EXPECT_TRUE(Clipboard::StringFromClipboard(text));
+    EXPECT_EQ(g_calls.close, 2);
+    EXPECT_TRUE(Clipboard::StringToClipboard(L""));
+    EXPECT_EQ(g_calls.close, 3);
+    EXPECT_FALSE(Clipboard::StringFromClipboard(text));
+    EXPECT_EQ(g_calls.close, 4);
+    EXPECT_TRUE(Clipboard::HtmlToClipboard(L"a", L"a"));
+    EXPECT_EQ(g_calls.close, 5);
+    EXPECT_TRUE(Clipboard::HtmlToClipboard(L"", L"a"));
+    EXPECT_EQ(g_calls.close, 6);
+    EXPECT_TRUE(Clipboard::WmfToClipboard(SomeMetafile()));
+    EXPECT_EQ(g_calls.close, 7);
+    EXPECT_TRUE(Clipboard::DataToClipboard(L"InstrumentUiTests.Data", "a", 1));
+    EXPECT_EQ(g_calls.close, 8);
+}
+
 TEST_F(ClipboardFailures, ReadingEmptiesNothing)
 {
     PutNarrow("abc");

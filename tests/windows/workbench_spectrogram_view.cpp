@@ -41,12 +41,12 @@ int EntryOf(COLORREF colour)
     return -1;
 }
 
-/// Silence, and in its second half a sine of a quarter of the rate.
+/// Silence, and in its second half a sine of an eighth of the rate, which is a quarter of the axis.
 std::filesystem::path WriteRecording(std::size_t frames, char const * name = "half_sine.wav")
 {
     std::vector<std::int16_t> samples(frames);
     for (std::size_t i = frames / 2; i < frames; ++i)
-        samples[i] = static_cast<std::int16_t>(32767 * std::sin(std::numbers::pi / 2 * static_cast<double>(i) + 0.7));
+        samples[i] = static_cast<std::int16_t>(32767 * std::sin(std::numbers::pi / 4 * static_cast<double>(i)));
     auto const file = wav::File().Chunk("fmt ", wav::Format(1, 1, 48000, 2, 16)).Chunk("data", wav::Samples16(samples));
     auto const path = std::filesystem::temp_directory_path() / (std::to_string(::GetCurrentProcessId()) + "_" + name);
     std::ofstream stream(path, std::ios::binary);
@@ -109,10 +109,11 @@ TEST_F(SpectrogramView, ShowsTimeToTheRightAndFrequencyUpwards)
     CRect const plot = Plot(canvas);
     ASSERT_GT(plot.Width(), 250);
     ASSERT_GT(plot.Height(), 150);
-    // A full-scale sine at half the axis' height, from the middle on.
+    // A full-scale sine at a quarter of the axis' height, from the middle on.
+    int const line = plot.bottom - plot.Height() / 4;
     auto const highest = [&](int x) {
         int entry = -1;
-        for (int y = plot.CenterPoint().y - 3; y <= plot.CenterPoint().y + 3; ++y)
+        for (int y = line - 3; y <= line + 3; ++y)
             entry = std::max(entry, EntryOf(canvas.Pixel(x, y)));
         return entry;
     };
@@ -120,7 +121,8 @@ TEST_F(SpectrogramView, ShowsTimeToTheRightAndFrequencyUpwards)
     EXPECT_EQ(highest(plot.right - 20), 31);
     EXPECT_EQ(highest(plot.left + plot.Width() / 4), 0);
     EXPECT_LT(EntryOf(canvas.Pixel(plot.left + plot.Width() * 3 / 4, plot.top + 20)), 8);
-    EXPECT_LT(EntryOf(canvas.Pixel(plot.left + plot.Width() * 3 / 4, plot.bottom - 20)), 8);
+    EXPECT_LT(EntryOf(canvas.Pixel(plot.left + plot.Width() * 3 / 4, plot.bottom - 3)), 8);
+    EXPECT_LT(EntryOf(canvas.Pixel(plot.left + plot.Width() * 3 / 4, plot.top + plot.Height() / 4)), 8);
 }
 
 TEST_F(SpectrogramView, TheFrameHasTheColourOutsideTheScale)
@@ -160,6 +162,8 @@ TEST_F(SpectrogramView, TheLegendHasAllColoursInOrder)
 TEST_F(SpectrogramView, OtherColoursShowAtOnce)
 {
     ShowAndWait(48000);
+    view.UpdateWindow();
+    ASSERT_FALSE(view.GetUpdateRect(nullptr));
     std::array<unsigned long, CSpectrogramView::c_colours> colours{};
     colours.fill(RGB(0, 200, 100));
     view.SetColours(colours.data());
@@ -186,7 +190,7 @@ TEST_F(SpectrogramView, PaintsOnTheScreenWhatItPrints)
 
 TEST_F(SpectrogramView, AProgressBarShowsWhileItIsComputed)
 {
-    path = WriteRecording(12'000'000);
+    path = WriteRecording(24'000'000);
     view.ShowRecording(L"Long", path);
     EXPECT_TRUE(view.IsComputing());
     EXPECT_TRUE(Progress().IsWindowVisible());
@@ -209,6 +213,9 @@ TEST_F(SpectrogramView, AProgressBarShowsWhileItIsComputed)
         std::chrono::seconds(60)));
     EXPECT_TRUE(alive) << "messages are handled meanwhile";
     EXPECT_FALSE(Progress().IsWindowVisible());
+    view.ShowRecording(L"Long", path);
+    EXPECT_EQ(bar.GetPos(), 0) << "it begins anew";
+    view.ShowText(L"", L"");
 }
 
 TEST_F(SpectrogramView, TheProgressBarStaysInTheMiddle)
@@ -279,6 +286,34 @@ TEST_F(SpectrogramView, DrawsIntoAnyRectangleOfAPicture)
     view.Draw(tiny.Dc(), CRect(0, 0, 30, 20));
     view.Draw(tiny.Dc(), CRect(5, 5, 5, 5));
     EXPECT_EQ(tiny.Count(outside), 0) << "no room for a spectrogram";
+    tests::Canvas low(300, 70);
+    view.Draw(low.Dc(), CRect(0, 0, 300, 70));
+    EXPECT_EQ(low.Count(outside), 0) << "room for the heading alone";
+}
+
+TEST_F(SpectrogramView, EachSizeHasAPictureOfItsOwn)
+{
+    ShowAndWait(48000);
+    tests::Canvas first(400, 240);
+    view.Draw(first.Dc(), CRect(0, 0, 400, 240));
+    ShowAndWait(48000);
+    tests::Canvas other(500, 300);
+    view.Draw(other.Dc(), CRect(0, 0, 500, 300));
+    tests::Canvas again(400, 240);
+    view.Draw(again.Dc(), CRect(0, 0, 400, 240));
+    EXPECT_TRUE(tests::SamePixels(first, again));
+}
+
+TEST_F(SpectrogramView, AnotherRecordingHasAPictureOfItsOwn)
+{
+    ShowAndWait(48000);
+    tests::Canvas loud(400, 240);
+    view.Draw(loud.Dc(), CRect(0, 0, 400, 240));
+    ASSERT_GT(loud.Count(TestColours()[31], Plot(loud)), 100);
+    ShowAndWait(10);
+    tests::Canvas quiet(400, 240);
+    view.Draw(quiet.Dc(), CRect(0, 0, 400, 240));
+    EXPECT_EQ(quiet.Count(TestColours()[31], Plot(quiet)), 0);
 }
 
 TEST_F(SpectrogramView, DrawsIntoAMetafile)
@@ -309,8 +344,8 @@ TEST_F(SpectrogramView, DrawsIntoAMetafile)
     EXPECT_NEAR(playedPlot.left, plot.left, 2);
     EXPECT_NEAR(playedPlot.right, plot.right, 2);
     EXPECT_NEAR(playedPlot.bottom, plot.bottom, 2);
-    CRect const loud(plot.left + plot.Width() * 3 / 4, plot.CenterPoint().y - 4, plot.right - 10,
-                     plot.CenterPoint().y + 4);
+    int const line = plot.bottom - plot.Height() / 4;
+    CRect const loud(plot.left + plot.Width() * 3 / 4, line - 4, plot.right - 10, line + 4);
     EXPECT_GE(played.Count(TestColours()[31], loud), loud.Width());
     CRect const silent(plot.left + 4, plot.top + 4, plot.CenterPoint().x - 10, plot.bottom - 4);
     EXPECT_EQ(played.Count(TestColours()[0], silent), silent.Width() * silent.Height());
@@ -333,6 +368,13 @@ TEST_F(SpectrogramView, ScalesWithTheMappingMode)
     EXPECT_NEAR(large.left, 2 * small.left, 12);
     EXPECT_NEAR(large.Width(), 2 * small.Width(), 24);
     EXPECT_NEAR(large.Height(), 2 * small.Height(), 4);
+    // It has the device's points, not those of the logical units.
+    int differentNeighbours = 0;
+    int const left = (large.left + 3) / 2 * 2;
+    for (int x = left; x + 1 < large.right - 2; x += 2)
+        for (int y = large.top + 4; y < large.bottom - 4; ++y)
+            differentNeighbours += twice.Pixel(x, y) != twice.Pixel(x + 1, y) ? 1 : 0;
+    EXPECT_GT(differentNeighbours, 20);
 }
 
 TEST_F(SpectrogramView, DrawingLeavesNoHandleAndTheContextAsItWas)

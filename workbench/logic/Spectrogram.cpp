@@ -238,9 +238,9 @@ void SpectrogramBuilder::FinishColumn()
 {
     for (std::size_t row = 0; row < m_result.m_rows; ++row)
     {
-        auto const part = m_power[row] / m_fullScalePower;
-        m_result.m_entries[m_column * m_result.m_rows + row] =
-            static_cast<std::uint8_t>(part > 0.0F ? ScaleEntry(10.0 * std::log10(part)) : 0);
+        // Silence is minus infinity, which falls on the lowest entry.
+        auto const level = 10.0 * std::log10(m_power[row] / m_fullScalePower);
+        m_result.m_entries[m_column * m_result.m_rows + row] = static_cast<std::uint8_t>(ScaleEntry(level));
         m_power[row] = 0.0F;
     }
 }
