@@ -118,6 +118,7 @@ private:
     afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
     afx_msg void OnContextMenu(CWnd * window, CPoint point);
     afx_msg BOOL OnTitleClick(NMHDR * header, LRESULT * result);
+    afx_msg void OnPaint();
     afx_msg void OnMouseMove(UINT flags, CPoint point);
     afx_msg void OnLButtonUp(UINT flags, CPoint point);
 

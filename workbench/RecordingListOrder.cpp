@@ -161,6 +161,22 @@ BOOL CRecordingList::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, L
 // After its first drag the list would go on marking and swapping rows with every click. Here a drag ends with its drop:
 // without one, mouse messages go past the list's dragging.
 
+/// Frames the row on which a drag would drop; cells show no mark of their own.
+void CRecordingList::OnPaint()
+{
+    CXListCtrl::OnPaint();
+    auto const target = m_draggingRow ? GetNextItem(-1, LVNI_DROPHILITED) : -1;
+    CRect row;
+    if (target >= 0 && GetItemRect(target, &row, LVIR_BOUNDS))
+    {
+        CClientDC dc(this);
+        CBrush brush(::GetSysColor(COLOR_HIGHLIGHT));
+        dc.FrameRect(&row, &brush);
+        row.DeflateRect(1, 1);
+        dc.FrameRect(&row, &brush);
+    }
+}
+
 void CRecordingList::OnMouseMove(UINT flags, CPoint point)
 {
     if (m_draggingRow)

@@ -255,6 +255,30 @@ TEST_F(RecordingListTest, AfterADragClicksOnlySelect)
     EXPECT_TRUE(tests::PumpUntil([this] { return m_list.PlaceOf(4) == 1 && m_list.PlaceOf(1) == 4; }));
 }
 
+TEST_F(RecordingListTest, TheRowUnderADragIsFramedUntilTheDrop)
+{
+    auto const frameShows = [this](int line) {
+        CRect row;
+        m_list.GetItemRect(m_list.PlaceOf(line), &row, LVIR_BOUNDS);
+        CClientDC dc(&m_list);
+        auto const colour = ::GetSysColor(COLOR_HIGHLIGHT);
+        return dc.GetPixel(row.left + 1, row.CenterPoint().y) == colour &&
+               dc.GetPixel(row.CenterPoint().x, row.bottom - 1) == colour;
+    };
+    auto const dragTo = [this](int line) {
+        tests::MoveMouse(ScreenPoint(line) + CPoint(1, 0));
+        tests::MoveMouse(ScreenPoint(line));
+    };
+    tests::MoveMouse(ScreenPoint(0));
+    tests::Press();
+    dragTo(1);
+    EXPECT_TRUE(tests::PumpUntil([&] { return frameShows(1); }));
+    dragTo(3);
+    EXPECT_TRUE(tests::PumpUntil([&] { return frameShows(3) && !frameShows(1); }));
+    tests::Release();
+    EXPECT_TRUE(tests::PumpUntil([&] { return m_list.PlaceOf(0) == 3 && !frameShows(0) && !frameShows(4); }));
+}
+
 TEST_F(RecordingListTest, CtrlCCopiesTheSelectedLinesInTheirOrderAsTextAndHtml)
 {
     m_list.SortLines(CRecordingList::column_name, true);
