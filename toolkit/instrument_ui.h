@@ -21,6 +21,10 @@
 
 #include "windows/FensterManager.h"
 #include "windows/MenueManager.h"
+#include "windows/RegistrySettingsTree.h"
+#include "windows/SettingsFile.h"
+
+#include "list/XListCtrl.h"
 
 #include "segments/ColorScheme.h"
 #include "segments/DigiStyle.h"
