@@ -1,7 +1,5 @@
 #include "ClockView.h"
 
-#include <afxcontrolbarutil.h>
-
 #include "Graphics.h"
 
 namespace
@@ -16,18 +14,14 @@ constexpr int c_margin = 4; // pixels
 
 } // namespace
 
-BEGIN_MESSAGE_MAP(CClockView, CWnd)
-    ON_WM_PAINT()
-    ON_WM_ERASEBKGND()
-    ON_MESSAGE(WM_PRINTCLIENT, &CClockView::OnPrintClient)
+BEGIN_MESSAGE_MAP(CClockView, CBufferedView)
     ON_WM_TIMER()
     ON_WM_LBUTTONDOWN()
 END_MESSAGE_MAP()
 
 bool CClockView::CreateView(CWnd & parent, UINT id)
 {
-    auto const windowClass = AfxRegisterWndClass(CS_HREDRAW | CS_VREDRAW, ::LoadCursorW(nullptr, IDC_ARROW));
-    if (!Create(windowClass, L"Clock", WS_CHILD | WS_VISIBLE | WS_BORDER, CRect(), &parent, id))
+    if (!CreateBuffered(L"Clock", 0, CRect(), parent, id))
     {
         return false;
     }
@@ -55,35 +49,13 @@ void CClockView::OnTimer(UINT_PTR)
 
 void CClockView::OnLButtonDown(UINT flags, CPoint point)
 {
-    CWnd::OnLButtonDown(flags, point);
+    CBufferedView::OnLButtonDown(flags, point);
     m_fourteen = !m_fourteen;
     m_text.Always14Sement(m_fourteen);
     // Characters that are built keep the style that they were built with.
     m_shown.Empty();
     m_text.SetText(m_shown);
     ShowTime();
-}
-
-BOOL CClockView::OnEraseBkgnd(CDC *)
-{
-    return TRUE;
-}
-
-void CClockView::OnPaint()
-{
-    CPaintDC paint(this);
-    CRect client;
-    GetClientRect(&client);
-    CMemDC buffer(paint, client);
-    Draw(buffer.GetDC(), client);
-}
-
-LRESULT CClockView::OnPrintClient(WPARAM dc, LPARAM)
-{
-    CRect client;
-    GetClientRect(&client);
-    Draw(*CDC::FromHandle(reinterpret_cast<HDC>(dc)), client);
-    return 0;
 }
 
 void CClockView::Draw(CDC & dc, CRect const & client)

@@ -1,11 +1,10 @@
 #pragma once
 
-#include <afxwin.h>
-
+#include "BufferedView.h"
 #include "segments/LedTextAnzeiger.h"
 
 /// The time of day in segments. A click changes between digits of seven and of fourteen segments.
-class CClockView : public CWnd
+class CClockView : public CBufferedView
 {
 public:
     /// Creates the view, which goes on by itself.
@@ -15,14 +14,11 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    afx_msg void OnPaint();
-    afx_msg BOOL OnEraseBkgnd(CDC * dc);
-    afx_msg LRESULT OnPrintClient(WPARAM dc, LPARAM flags);
     afx_msg void OnTimer(UINT_PTR id);
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
 
     void ShowTime();
-    void Draw(CDC & dc, CRect const & client);
+    void Draw(CDC & dc, CRect const & client) override;
 
     CLedTextAnzeiger m_text;
     CString m_shown;

@@ -1,7 +1,5 @@
 #include "PreviewDialog.h"
 
-#include <afxcontrolbarutil.h>
-
 #include <algorithm>
 
 #include "logic/Texts.h"
@@ -23,38 +21,9 @@ constexpr COLORREF c_paperColour = RGB(255, 255, 255);
 
 } // namespace
 
-BEGIN_MESSAGE_MAP(CPageView, CWnd)
-    ON_WM_PAINT()
-    ON_WM_ERASEBKGND()
-    ON_MESSAGE(WM_PRINTCLIENT, &CPageView::OnPrintClient)
-END_MESSAGE_MAP()
-
 bool CPageView::CreateView(CWnd & parent, UINT id, CRect const & place)
 {
-    auto const windowClass = AfxRegisterWndClass(CS_HREDRAW | CS_VREDRAW, ::LoadCursorW(nullptr, IDC_ARROW));
-    return Create(windowClass, L"Page", WS_CHILD | WS_VISIBLE | WS_BORDER, place, &parent, id) != FALSE;
-}
-
-BOOL CPageView::OnEraseBkgnd(CDC *)
-{
-    return TRUE;
-}
-
-void CPageView::OnPaint()
-{
-    CPaintDC paint(this);
-    CRect client;
-    GetClientRect(&client);
-    CMemDC buffer(paint, client);
-    Draw(buffer.GetDC(), client);
-}
-
-LRESULT CPageView::OnPrintClient(WPARAM dc, LPARAM)
-{
-    CRect client;
-    GetClientRect(&client);
-    Draw(*CDC::FromHandle(reinterpret_cast<HDC>(dc)), client);
-    return 0;
+    return CreateBuffered(L"Page", 0, place, parent, id);
 }
 
 void CPageView::Draw(CDC & dc, CRect const & client)

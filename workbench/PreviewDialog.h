@@ -4,13 +4,14 @@
 
 #include <functional>
 
+#include "BufferedView.h"
 #include "WorkbenchDialog.h"
 
 /// Draws a page into a rectangle of a device context.
 using PagePainter = std::function<void(CDC &, CRect const &)>;
 
 /// A sheet of paper in landscape, as large as the window allows.
-class CPageView : public CWnd
+class CPageView : public CBufferedView
 {
 public:
     bool CreateView(CWnd & parent, UINT id, CRect const & place);
@@ -18,15 +19,8 @@ public:
     /// What is drawn inside the sheet's margins.
     PagePainter m_painter;
 
-protected:
-    DECLARE_MESSAGE_MAP()
-
 private:
-    afx_msg void OnPaint();
-    afx_msg BOOL OnEraseBkgnd(CDC * dc);
-    afx_msg LRESULT OnPrintClient(WPARAM dc, LPARAM flags);
-
-    void Draw(CDC & dc, CRect const & client);
+    void Draw(CDC & dc, CRect const & client) override;
 };
 
 /// Shows how a page looks on paper.

@@ -1,23 +1,25 @@
 #include "SpectrogramView.h"
 
-#include <afxcontrolbarutil.h>
-
 #include <algorithm>
 #include <cmath>
 
-#include "PlotMargins.h"
+#include "PlotParts.h"
 #include "logic/Axis.h"
 #include "logic/TextFormat.h"
 #include "logic/Texts.h"
 
+using workbench::c_plotFrameColour;
+using workbench::c_plotLabelColour;
+using workbench::c_plotProblemColour;
+using workbench::c_textOneLine;
+using workbench::DrawPlotLabel;
+using workbench::DrawPlotText;
 using workbench::Text;
+using workbench::TextSize;
 
 namespace
 {
 
-constexpr COLORREF c_tickColour = RGB(190, 198, 207);
-constexpr COLORREF c_labelColour = RGB(88, 98, 110);
-constexpr COLORREF c_problemColour = RGB(168, 40, 32);
 constexpr COLORREF c_greyOutside = RGB(160, 160, 164);
 
 constexpr UINT c_messageComputed = WM_APP + 1;
@@ -30,27 +32,6 @@ constexpr int c_longestSide = 4096;
 
 /// Levels with a label in the legend are so many entries apart.
 constexpr int c_entriesPerLabel = 8;
-
-constexpr UINT c_oneLine = DT_SINGLELINE | DT_END_ELLIPSIS;
-constexpr UINT c_label = DT_SINGLELINE | DT_NOCLIP;
-
-CSize TextSize(CDC & dc, std::wstring const & text)
-{
-    return dc.GetTextExtent(text.c_str(), static_cast<int>(text.size()));
-}
-
-void DrawText(CDC & dc, std::wstring const & text, CRect rect, UINT format)
-{
-    dc.DrawText(text.c_str(), static_cast<int>(text.size()), &rect, format | DT_NOPREFIX);
-}
-
-/// Text on what is there already; filling a rectangle makes the background opaque again.
-void DrawLabel(CDC & dc, std::wstring const & text, CPoint position)
-{
-    dc.SetBkMode(TRANSPARENT);
-    dc.SetTextColor(c_labelColour);
-    DrawText(dc, text, CRect(position, TextSize(dc, text)), DT_LEFT | c_label);
-}
 
 std::wstring LegendLabel(int entry)
 {
@@ -80,13 +61,10 @@ struct BitmapHeader
 
 } // namespace
 
-BEGIN_MESSAGE_MAP(CSpectrogramView, CWnd)
-    ON_WM_PAINT()
-    ON_WM_ERASEBKGND()
+BEGIN_MESSAGE_MAP(CSpectrogramView, CBufferedView)
     ON_WM_SIZE()
     ON_WM_TIMER()
     ON_WM_DESTROY()
-    ON_MESSAGE(WM_PRINTCLIENT, &CSpectrogramView::OnPrintClient)
     ON_MESSAGE(c_messageComputed, &CSpectrogramView::OnComputed)
 END_MESSAGE_MAP()
 
@@ -103,9 +81,7 @@ CSpectrogramView::CSpectrogramView()
 bool CSpectrogramView::CreateView(CWnd & parent, UINT id, workbench::ScreenMetrics & metrics)
 {
     m_metrics = &metrics;
-    auto const windowClass = AfxRegisterWndClass(CS_HREDRAW | CS_VREDRAW, ::LoadCursorW(nullptr, IDC_ARROW));
-    auto const style = WS_CHILD | WS_VISIBLE | WS_BORDER | WS_CLIPCHILDREN;
-    if (!Create(windowClass, L"Spectrogram", style, CRect(), &parent, id) ||
+    if (!CreateBuffered(L"Spectrogram", WS_CLIPCHILDREN, CRect(), parent, id) ||
         !m_progress.Create(WS_CHILD | PBS_SMOOTH, CRect(), this, c_progressId))
     {
         return false;
@@ -179,41 +155,19 @@ void CSpectrogramView::OnTimer(UINT_PTR timer)
     {
         m_progress.SetPos(m_job->Progress());
     }
-    CWnd::OnTimer(timer);
+    CBufferedView::OnTimer(timer);
 }
 
 void CSpectrogramView::OnDestroy()
 {
     EndJob();
-    CWnd::OnDestroy();
+    CBufferedView::OnDestroy();
 }
 
 void CSpectrogramView::OnSize(UINT type, int width, int height)
 {
-    CWnd::OnSize(type, width, height);
+    CBufferedView::OnSize(type, width, height);
     PlaceProgress();
-}
-
-BOOL CSpectrogramView::OnEraseBkgnd(CDC *)
-{
-    return TRUE;
-}
-
-void CSpectrogramView::OnPaint()
-{
-    CPaintDC paint(this);
-    CRect client;
-    GetClientRect(&client);
-    CMemDC buffer(paint, client);
-    Draw(buffer.GetDC(), client);
-}
-
-LRESULT CSpectrogramView::OnPrintClient(WPARAM dc, LPARAM)
-{
-    CRect client;
-    GetClientRect(&client);
-    Draw(*CDC::FromHandle(reinterpret_cast<HDC>(dc)), client);
-    return 0;
 }
 
 int CSpectrogramView::MessageTop(CRect const & rect) const
@@ -265,7 +219,8 @@ void CSpectrogramView::Draw(CDC & dc, CRect const & rect)
         return;
     }
     DrawPicture(dc, plot);
-    DrawTimeAxis(dc, plot);
+    auto const & info = m_result->info;
+    workbench::DrawTimeAxis(dc, plot, static_cast<double>(info.frames) / info.sampleRate, *m_metrics);
     DrawFrequencyAxis(dc, plot);
     auto const legendLeft = plot.right + m_metrics->X(6);
     DrawLegend(dc, CRect(legendLeft, plot.top, legendLeft + m_metrics->X(6), plot.bottom));
@@ -279,11 +234,11 @@ void CSpectrogramView::DrawMessage(CDC & dc, CRect const & rect)
     {
         workbench::SelectScope const bold(dc, m_metrics->BoldFont());
         dc.SetTextColor(::GetSysColor(COLOR_WINDOWTEXT));
-        DrawText(dc, m_title, area, DT_CENTER | c_oneLine);
+        DrawPlotText(dc, m_title, area, DT_CENTER | c_textOneLine);
     }
     area.top += m_metrics->LineHeight() + m_metrics->Y(5);
-    dc.SetTextColor(m_result ? c_problemColour : c_labelColour);
-    DrawText(dc, m_text, area, DT_CENTER | DT_WORDBREAK);
+    dc.SetTextColor(m_result ? c_plotProblemColour : c_plotLabelColour);
+    DrawPlotText(dc, m_text, area, DT_CENTER | DT_WORDBREAK);
 }
 
 int CSpectrogramView::DrawHeading(CDC & dc, CRect const & area)
@@ -293,11 +248,11 @@ int CSpectrogramView::DrawHeading(CDC & dc, CRect const & area)
     {
         workbench::SelectScope const bold(dc, m_metrics->BoldFont());
         dc.SetTextColor(::GetSysColor(COLOR_WINDOWTEXT));
-        DrawText(dc, m_title, rect, DT_LEFT | c_oneLine);
+        DrawPlotText(dc, m_title, rect, DT_LEFT | c_textOneLine);
     }
     rect.top += line + m_metrics->Y(1);
-    dc.SetTextColor(c_labelColour);
-    DrawText(dc, Details(), rect, DT_LEFT | c_oneLine);
+    dc.SetTextColor(c_plotLabelColour);
+    DrawPlotText(dc, Details(), rect, DT_LEFT | c_textOneLine);
     return rect.top + line + m_metrics->Y(2);
 }
 
@@ -365,21 +320,6 @@ void CSpectrogramView::DrawPicture(CDC & dc, CRect const & rect)
                     bits.data(), reinterpret_cast<BITMAPINFO const *>(&bitmap), DIB_RGB_COLORS, SRCCOPY);
 }
 
-void CSpectrogramView::DrawTimeAxis(CDC & dc, CRect const & plot)
-{
-    auto const & info = m_result->info;
-    auto const seconds = static_cast<double>(info.frames) / info.sampleRate;
-    auto const tickHeight = m_metrics->Y(2);
-    for (auto const & tick : workbench::TimeTicks(seconds, plot.Width() - 2, m_metrics->X(44)))
-    {
-        auto const x = plot.left + 1 + tick.position;
-        dc.FillSolidRect(x, plot.bottom, 1, tickHeight, c_tickColour);
-        auto const width = TextSize(dc, tick.label).cx;
-        auto const left = std::clamp<int>(x - width / 2, plot.left, std::max<int>(plot.right - width, plot.left));
-        DrawLabel(dc, tick.label, CPoint(left, plot.bottom + tickHeight + 1));
-    }
-}
-
 void CSpectrogramView::DrawFrequencyAxis(CDC & dc, CRect const & plot)
 {
     auto const tickWidth = m_metrics->X(2);
@@ -387,10 +327,10 @@ void CSpectrogramView::DrawFrequencyAxis(CDC & dc, CRect const & plot)
     for (auto const & tick : workbench::FrequencyTicks(m_result->info.sampleRate / 2.0, height, m_metrics->Y(16)))
     {
         auto const y = plot.bottom - 1 - tick.position;
-        dc.FillSolidRect(plot.left - tickWidth, y, tickWidth, 1, c_tickColour);
+        dc.FillSolidRect(plot.left - tickWidth, y, tickWidth, 1, c_plotFrameColour);
         auto const size = TextSize(dc, tick.label);
         auto const top = std::min<int>(y - size.cy / 2, plot.bottom - size.cy);
-        DrawLabel(dc, tick.label, CPoint(plot.left - tickWidth - m_metrics->X(1) - size.cx, top));
+        DrawPlotLabel(dc, tick.label, CPoint(plot.left - tickWidth - m_metrics->X(1) - size.cx, top));
     }
 }
 
@@ -408,7 +348,7 @@ void CSpectrogramView::DrawLegend(CDC & dc, CRect const & bar)
         auto const label = LegendLabel(i) + (i == workbench::c_scaleEntries ? L" dB" : L"");
         auto const size = TextSize(dc, label);
         auto const top = std::min<int>(y(i) - size.cy / 2, bar.bottom - size.cy);
-        dc.FillSolidRect(bar.right, y(i), m_metrics->X(1), 1, c_tickColour);
-        DrawLabel(dc, label, CPoint(bar.right + m_metrics->X(2), top));
+        dc.FillSolidRect(bar.right, y(i), m_metrics->X(1), 1, c_plotFrameColour);
+        DrawPlotLabel(dc, label, CPoint(bar.right + m_metrics->X(2), top));
     }
 }

@@ -10,13 +10,14 @@
 #include <string>
 #include <vector>
 
+#include "BufferedView.h"
 #include "ScreenMetrics.h"
 #include "logic/SpectrogramJob.h"
 
 /// Shows the spectrogram of one recording: a heading, the spectrogram with a time and a frequency axis, and a legend of
 /// its colours. While it is computed, on a thread of its own, a progress bar shows instead; where there is nothing to
 /// see, a text says why.
-class CSpectrogramView : public CWnd
+class CSpectrogramView : public CBufferedView
 {
 public:
     /// Entries of a colour table: the scale from the lowest level to the highest, and the colour outside it.
@@ -44,15 +45,12 @@ public:
     /// Draws what the view shows into a rectangle, in logical units, of any device context: a metafile's or a
     /// printer's, too. In the place of a progress bar there is a text alone. Lengths and fonts are the screen's; scale
     /// them by the mapping mode.
-    void Draw(CDC & dc, CRect const & rect);
+    void Draw(CDC & dc, CRect const & rect) override;
 
 protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    afx_msg void OnPaint();
-    afx_msg BOOL OnEraseBkgnd(CDC * dc);
-    afx_msg LRESULT OnPrintClient(WPARAM dc, LPARAM flags);
     afx_msg void OnSize(UINT type, int width, int height);
     afx_msg void OnTimer(UINT_PTR timer);
     afx_msg void OnDestroy();
@@ -64,7 +62,6 @@ private:
     void DrawMessage(CDC & dc, CRect const & rect);
     int DrawHeading(CDC & dc, CRect const & area);
     void DrawPicture(CDC & dc, CRect const & rect);
-    void DrawTimeAxis(CDC & dc, CRect const & plot);
     void DrawFrequencyAxis(CDC & dc, CRect const & plot);
     void DrawLegend(CDC & dc, CRect const & bar);
     std::wstring Details() const;

@@ -1,12 +1,10 @@
 #include "WaveformView.h"
 
-#include <afxcontrolbarutil.h>
-
 #include <algorithm>
 #include <cmath>
 #include <iterator>
 
-#include "PlotMargins.h"
+#include "PlotParts.h"
 #include "colours/Farbtabellen.h"
 #include "logic/Axis.h"
 #include "logic/TextFormat.h"
@@ -15,7 +13,14 @@
 namespace
 {
 
+using workbench::c_plotFrameColour;
+using workbench::c_plotLabelColour;
+using workbench::c_plotProblemColour;
+using workbench::c_textLabel;
+using workbench::c_textOneLine;
+using workbench::DrawPlotText;
 using workbench::Text;
+using workbench::TextSize;
 
 // Scope colours by their index. Lanes beyond the last colour begin again with the first.
 constexpr int c_laneColours[] = {7, 5, 3, 8, 19, 4};
@@ -23,32 +28,11 @@ constexpr int c_clippedColour = 2;
 constexpr int c_cursorColour = 31;
 constexpr int c_groundColour = 24;
 
-constexpr COLORREF c_frameColour = RGB(190, 198, 207);
-
-constexpr COLORREF c_labelColour = RGB(88, 98, 110);
-constexpr COLORREF c_problemColour = RGB(168, 40, 32);
-
-CSize TextSize(CDC & dc, std::wstring const & text)
-{
-    return dc.GetTextExtent(text.c_str(), static_cast<int>(text.size()));
-}
-
-void DrawText(CDC & dc, std::wstring const & text, CRect rect, UINT format)
-{
-    dc.DrawText(text.c_str(), static_cast<int>(text.size()), &rect, format | DT_NOPREFIX);
-}
-
 constexpr int c_leastLaneHeight = 3; // pixels
-
-constexpr UINT c_oneLine = DT_SINGLELINE | DT_END_ELLIPSIS;
-constexpr UINT c_label = DT_SINGLELINE | DT_NOCLIP;
 
 } // namespace
 
-BEGIN_MESSAGE_MAP(CWaveformView, CWnd)
-    ON_WM_PAINT()
-    ON_WM_ERASEBKGND()
-    ON_MESSAGE(WM_PRINTCLIENT, &CWaveformView::OnPrintClient)
+BEGIN_MESSAGE_MAP(CWaveformView, CBufferedView)
     ON_WM_LBUTTONDOWN()
     ON_WM_MOUSEMOVE()
     ON_WM_LBUTTONUP()
@@ -61,9 +45,7 @@ END_MESSAGE_MAP()
 bool CWaveformView::CreateView(CWnd & parent, UINT id, workbench::ScreenMetrics & metrics)
 {
     m_metrics = &metrics;
-    auto const windowClass = AfxRegisterWndClass(CS_HREDRAW | CS_VREDRAW, ::LoadCursorW(nullptr, IDC_ARROW));
-    return Create(windowClass, L"Waveform", WS_CHILD | WS_VISIBLE | WS_BORDER | WS_TABSTOP, CRect(), &parent, id) !=
-           FALSE;
+    return CreateBuffered(L"Waveform", WS_TABSTOP, CRect(), parent, id);
 }
 
 void CWaveformView::ShowRecording(std::wstring name, std::shared_ptr<workbench::RecordingAnalysis const> analysis)
@@ -92,28 +74,6 @@ void CWaveformView::ShowText(std::wstring title, std::wstring text)
     {
         m_onCursor();
     }
-}
-
-BOOL CWaveformView::OnEraseBkgnd(CDC *)
-{
-    return TRUE;
-}
-
-void CWaveformView::OnPaint()
-{
-    CPaintDC paint(this);
-    CRect client;
-    GetClientRect(&client);
-    CMemDC buffer(paint, client);
-    Draw(buffer.GetDC(), client);
-}
-
-LRESULT CWaveformView::OnPrintClient(WPARAM dc, LPARAM)
-{
-    CRect client;
-    GetClientRect(&client);
-    Draw(*CDC::FromHandle(reinterpret_cast<HDC>(dc)), client);
-    return 0;
 }
 
 void CWaveformView::Draw(CDC & dc, CRect const & client)
@@ -148,7 +108,8 @@ void CWaveformView::Draw(CDC & dc, CRect const & client)
         return;
     }
     m_plot = m_printing ? m_plot : plot;
-    DrawTimeAxis(dc, plot);
+    auto const & info = m_analysis->info;
+    workbench::DrawTimeAxis(dc, plot, static_cast<double>(info.frames) / info.sampleRate, *m_metrics);
     for (int i = 0; i < lanes; ++i)
     {
         Lane lane;
@@ -185,7 +146,7 @@ CWaveformView::SurroundingColours CWaveformView::Surroundings() const
 {
     if (m_printing)
     {
-        return {RGB(255, 255, 255), RGB(226, 230, 236), RGB(150, 160, 172), c_labelColour};
+        return {RGB(255, 255, 255), RGB(226, 230, 236), RGB(150, 160, 172), c_plotLabelColour};
     }
     return {Farbtabellen::ScopeFarbe(c_groundColour), RGB(26, 58, 110), RGB(66, 98, 146), RGB(176, 196, 224)};
 }
@@ -235,7 +196,7 @@ void CWaveformView::MoveCursorTo(int x)
 
 void CWaveformView::OnLButtonDown(UINT flags, CPoint point)
 {
-    CWnd::OnLButtonDown(flags, point);
+    CBufferedView::OnLButtonDown(flags, point);
     SetFocus();
     SetCapture();
     MoveCursorTo(point.x);
@@ -243,7 +204,7 @@ void CWaveformView::OnLButtonDown(UINT flags, CPoint point)
 
 void CWaveformView::OnMouseMove(UINT flags, CPoint point)
 {
-    CWnd::OnMouseMove(flags, point);
+    CBufferedView::OnMouseMove(flags, point);
     if (GetCapture() == this)
     {
         MoveCursorTo(point.x);
@@ -252,7 +213,7 @@ void CWaveformView::OnMouseMove(UINT flags, CPoint point)
 
 void CWaveformView::OnLButtonUp(UINT flags, CPoint point)
 {
-    CWnd::OnLButtonUp(flags, point);
+    CBufferedView::OnLButtonUp(flags, point);
     if (GetCapture() == this)
     {
         ::ReleaseCapture();
@@ -290,18 +251,18 @@ void CWaveformView::OnKeyDown(UINT key, UINT repeat, UINT flags)
             break;
         }
     }
-    CWnd::OnKeyDown(key, repeat, flags);
+    CBufferedView::OnKeyDown(key, repeat, flags);
 }
 
 void CWaveformView::OnSetFocus(CWnd * other)
 {
-    CWnd::OnSetFocus(other);
+    CBufferedView::OnSetFocus(other);
     Invalidate(FALSE);
 }
 
 void CWaveformView::OnKillFocus(CWnd * other)
 {
-    CWnd::OnKillFocus(other);
+    CBufferedView::OnKillFocus(other);
     Invalidate(FALSE);
 }
 
@@ -314,11 +275,11 @@ void CWaveformView::DrawMessage(CDC & dc, CRect const & client)
     {
         workbench::SelectScope const bold(dc, m_metrics->BoldFont());
         dc.SetTextColor(::GetSysColor(COLOR_WINDOWTEXT));
-        DrawText(dc, m_title, area, DT_CENTER | c_oneLine);
+        DrawPlotText(dc, m_title, area, DT_CENTER | c_textOneLine);
     }
     area.top += line + m_metrics->Y(5);
-    dc.SetTextColor(m_analysis ? c_problemColour : c_labelColour);
-    DrawText(dc, m_text, area, DT_CENTER | DT_WORDBREAK);
+    dc.SetTextColor(m_analysis ? c_plotProblemColour : c_plotLabelColour);
+    DrawPlotText(dc, m_text, area, DT_CENTER | DT_WORDBREAK);
 }
 
 int CWaveformView::DrawHeading(CDC & dc, CRect const & area)
@@ -328,17 +289,17 @@ int CWaveformView::DrawHeading(CDC & dc, CRect const & area)
     {
         workbench::SelectScope const bold(dc, m_metrics->BoldFont());
         dc.SetTextColor(::GetSysColor(COLOR_WINDOWTEXT));
-        DrawText(dc, m_title, rect, DT_LEFT | c_oneLine);
+        DrawPlotText(dc, m_title, rect, DT_LEFT | c_textOneLine);
     }
     rect.top += line + m_metrics->Y(1);
-    dc.SetTextColor(c_labelColour);
-    DrawText(dc, Details(), rect, DT_LEFT | c_oneLine);
+    dc.SetTextColor(c_plotLabelColour);
+    DrawPlotText(dc, Details(), rect, DT_LEFT | c_textOneLine);
     rect.top += line + m_metrics->Y(1);
     if (m_analysis->info.IsCutOff() || m_analysis->invalidSamples > 0)
     {
-        dc.SetTextColor(c_problemColour);
-        DrawText(dc, Text(L"This file is damaged") + (L": " + m_analysis->StatusText() + L'.'), rect,
-                 DT_LEFT | c_oneLine);
+        dc.SetTextColor(c_plotProblemColour);
+        DrawPlotText(dc, Text(L"This file is damaged") + (L": " + m_analysis->StatusText() + L'.'), rect,
+                     DT_LEFT | c_textOneLine);
         rect.top += line + m_metrics->Y(1);
     }
     return rect.top + m_metrics->Y(3);
@@ -419,7 +380,7 @@ void CWaveformView::DrawLane(CDC & dc, Lane const & lane, std::size_t index)
         previousTop = top;
         previousBottom = bottom;
     }
-    dc.Draw3dRect(lane.rect, c_frameColour, c_frameColour);
+    dc.Draw3dRect(lane.rect, c_plotFrameColour, c_plotFrameColour);
 
     auto const name = LaneName(index);
     if (!name.empty() && lane.rect.Height() >= m_metrics->LineHeight() + m_metrics->Y(4))
@@ -433,7 +394,7 @@ void CWaveformView::DrawLane(CDC & dc, Lane const & lane, std::size_t index)
         dc.FillSolidRect(ground, Surroundings().ground);
         dc.SetBkMode(TRANSPARENT);
         dc.SetTextColor(Surroundings().label);
-        DrawText(dc, name, label, DT_LEFT | c_label);
+        DrawPlotText(dc, name, label, DT_LEFT | c_textLabel);
     }
 }
 
@@ -447,8 +408,8 @@ void CWaveformView::DrawLevelGrid(CDC & dc, Lane const & lane)
             auto const size = TextSize(dc, label);
             CRect const rect(0, y - line / 2, lane.rect.left - m_metrics->X(2), y - line / 2 + size.cy);
             dc.SetBkMode(TRANSPARENT);
-            dc.SetTextColor(c_labelColour);
-            DrawText(dc, label, rect, DT_RIGHT | c_label);
+            dc.SetTextColor(c_plotLabelColour);
+            DrawPlotText(dc, label, rect, DT_RIGHT | c_textLabel);
         }
     };
     for (auto const & level : workbench::LevelLines(lane.halfHeight, line + m_metrics->Y(1)))
@@ -460,23 +421,5 @@ void CWaveformView::DrawLevelGrid(CDC & dc, Lane const & lane)
     if (lane.halfHeight >= line)
     {
         draw(lane.centre, L"-\u221E", true);
-    }
-}
-
-void CWaveformView::DrawTimeAxis(CDC & dc, CRect const & plot)
-{
-    auto const seconds = static_cast<double>(m_analysis->info.frames) / m_analysis->info.sampleRate;
-    auto const tickHeight = m_metrics->Y(2);
-    CRect client;
-    GetClientRect(&client);
-    dc.SetTextColor(c_labelColour);
-    for (auto const & tick : workbench::TimeTicks(seconds, plot.Width() - 2, m_metrics->X(44)))
-    {
-        auto const x = plot.left + 1 + tick.position;
-        dc.FillSolidRect(x, plot.bottom, 1, tickHeight, c_frameColour);
-        auto const size = TextSize(dc, tick.label);
-        auto const left = std::clamp<int>(x - size.cx / 2, plot.left, std::max<int>(plot.right - size.cx, plot.left));
-        dc.SetBkMode(TRANSPARENT);
-        DrawText(dc, tick.label, CRect(CPoint(left, plot.bottom + tickHeight + 1), size), DT_LEFT | c_label);
     }
 }

@@ -9,12 +9,13 @@
 #include <string>
 #include <vector>
 
+#include "BufferedView.h"
 #include "ScreenMetrics.h"
 #include "logic/RecordingAnalysis.h"
 
 /// Shows one recording: a heading, a lane for each channel with its waveform on a level grid, and a time axis; or, in
 /// its middle, a text that says why there is nothing to see.
-class CWaveformView : public CWnd
+class CWaveformView : public CBufferedView
 {
 public:
     /// Creates the view. The metrics are the caller's and must outlive the window.
@@ -41,9 +42,6 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    afx_msg void OnPaint();
-    afx_msg BOOL OnEraseBkgnd(CDC * dc);
-    afx_msg LRESULT OnPrintClient(WPARAM dc, LPARAM flags);
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
     afx_msg void OnMouseMove(UINT flags, CPoint point);
     afx_msg void OnLButtonUp(UINT flags, CPoint point);
@@ -59,7 +57,7 @@ private:
         int halfHeight; ///< pixels from the centre line to full scale
     };
 
-    void Draw(CDC & dc, CRect const & client);
+    void Draw(CDC & dc, CRect const & client) override;
     void DrawCursor(CDC & dc, CRect const & plot);
     void MoveCursorTo(int x);
     bool ShowsRecording() const { return m_analysis && !m_analysis->problem && m_analysis->info.frames > 0; }
@@ -78,7 +76,6 @@ private:
     int DrawHeading(CDC & dc, CRect const & area);
     void DrawLane(CDC & dc, Lane const & lane, std::size_t index);
     void DrawLevelGrid(CDC & dc, Lane const & lane);
-    void DrawTimeAxis(CDC & dc, CRect const & plot);
     std::wstring Details() const;
     std::wstring LaneName(std::size_t index) const;
     std::vector<workbench::MinMax> const & Columns(std::size_t lane, int width);

@@ -1,0 +1,48 @@
+#pragma once
+// What the plots over time have in common.
+
+#include <string>
+
+#include "ScreenMetrics.h"
+
+namespace workbench
+{
+
+/// The room beside a plot over time, in pixels. It is the same for all of them, so that one point in time stands at one
+/// place.
+struct PlotMargins
+{
+    int left;  ///< for the labels of levels and frequencies
+    int right; ///< for a legend
+
+    /// dc: with the font of the labels selected.
+    PlotMargins(CDC & dc, ScreenMetrics const & metrics)
+        : left(dc.GetTextExtent(L"20 kHz").cx + metrics.X(4)),
+          right(dc.GetTextExtent(L"-96 dB").cx + metrics.X(14))
+    {
+    }
+};
+
+/// Formats of texts: a line that ends in dots where it is cut, and a short one that is never cut.
+constexpr UINT c_textOneLine = DT_SINGLELINE | DT_END_ELLIPSIS;
+constexpr UINT c_textLabel = DT_SINGLELINE | DT_NOCLIP;
+
+/// The frames of plots, and the marks on their axes.
+constexpr COLORREF c_plotFrameColour = RGB(190, 198, 207);
+/// Labels, and texts of less weight.
+constexpr COLORREF c_plotLabelColour = RGB(88, 98, 110);
+/// Texts that say what is wrong.
+constexpr COLORREF c_plotProblemColour = RGB(168, 40, 32);
+
+CSize TextSize(CDC & dc, std::wstring const & text);
+
+/// Draws a text as it is, in the colour that is set.
+void DrawPlotText(CDC & dc, std::wstring const & text, CRect rect, UINT format);
+
+/// Draws a label on what is there already, in the colour of labels.
+void DrawPlotLabel(CDC & dc, std::wstring const & text, CPoint position);
+
+/// Draws the axis below a plot of so many seconds.
+void DrawTimeAxis(CDC & dc, CRect const & plot, double seconds, ScreenMetrics const & metrics);
+
+} // namespace workbench
