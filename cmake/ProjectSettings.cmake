@@ -17,7 +17,8 @@ endif()
 # Linked by every target of ours: warnings, character set, Windows version.
 add_library(project_settings INTERFACE)
 if(MSVC)
-    target_compile_options(project_settings INTERFACE /W4 /WX /utf-8 /permissive-)
+    # Exported classes have members of the standard library: module and host share one runtime (4251, 4275).
+    target_compile_options(project_settings INTERFACE /W4 /WX /wd4251 /wd4275 /utf-8 /permissive-)
 else()
     target_compile_options(project_settings INTERFACE -Wall -Wextra -Werror)
 endif()
