@@ -1,0 +1,117 @@
+// What the user sets in the workbench: stored and read back, also from a store that somebody has spoiled.
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "Settings.h"
+#include "TestApp.h"
+#include "logic/Texts.h"
+
+using workbench::ReadSettings;
+using workbench::Settings;
+using workbench::StoreSettings;
+
+namespace
+{
+/// Lets the application keep its settings in a file of the test's own.
+class WorkbenchSettings : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        std::filesystem::remove(m_file);
+        tests::App().m_pszProfileName = m_name.c_str();
+    }
+    void TearDown() override
+    {
+        tests::App().m_pszProfileName = m_former;
+        std::filesystem::remove(m_file);
+    }
+
+    void Write(wchar_t const * entry, wchar_t const * value)
+    {
+        ASSERT_TRUE(tests::App().WriteProfileString(L"Settings", entry, value));
+    }
+
+private:
+    std::filesystem::path const m_file = std::filesystem::temp_directory_path() / "workbench_settings_test.ini";
+    std::wstring const m_name = m_file.wstring();
+    LPCTSTR const m_former = tests::App().m_pszProfileName;
+};
+} // namespace
+
+TEST_F(WorkbenchSettings, AreThoseOfANewObjectAtFirst)
+{
+    auto const settings = ReadSettings();
+    EXPECT_TRUE(settings.fadeIn);
+    EXPECT_TRUE(settings.dragByBackground);
+    EXPECT_EQ(settings.inactiveOpacity, 50);
+    EXPECT_EQ(settings.spectrogramScale, 1u);
+    EXPECT_TRUE(settings.startFolders.empty());
+    EXPECT_EQ(workbench::ReadLanguage(), workbench::c_usersDefaultLanguage);
+}
+
+TEST_F(WorkbenchSettings, ComeBackAsTheyWereStored)
+{
+    Settings settings;
+    settings.fadeIn = false;
+    settings.dragByBackground = false;
+    settings.inactiveOpacity = 75;
+    settings.spectrogramScale = 8;
+    settings.startFolders = {L"C:\\recordings", L"D:\\with blanks and ; signs"};
+    ASSERT_TRUE(StoreSettings(settings));
+    ASSERT_TRUE(workbench::StoreLanguage(1031));
+    auto const read = ReadSettings();
+    EXPECT_FALSE(read.fadeIn);
+    EXPECT_FALSE(read.dragByBackground);
+    EXPECT_EQ(read.inactiveOpacity, 75);
+    EXPECT_EQ(read.spectrogramScale, 8u);
+    EXPECT_EQ(read.startFolders, settings.startFolders);
+    EXPECT_EQ(workbench::ReadLanguage(), 1031);
+}
+
+TEST_F(WorkbenchSettings, AnOpacityOutOfItsLimitsIsNotTaken)
+{
+    for (auto const * const value : {L"19", L"101", L"-5", L"0"})
+    {
+        Write(L"InactiveOpacity", value);
+        EXPECT_EQ(ReadSettings().inactiveOpacity, 50) << value;
+    }
+    Write(L"InactiveOpacity", L"20");
+    EXPECT_EQ(ReadSettings().inactiveOpacity, 20);
+    Write(L"InactiveOpacity", L"100");
+    EXPECT_EQ(ReadSettings().inactiveOpacity, 100);
+}
+
+TEST_F(WorkbenchSettings, EmptyFoldersAreLeftOut)
+{
+    Write(L"StartFolders", L"||C:\\a||C:\\b|");
+    EXPECT_EQ(ReadSettings().startFolders, (std::vector<std::filesystem::path>{L"C:\\a", L"C:\\b"}));
+    Write(L"StartFolders", L"|");
+    EXPECT_TRUE(ReadSettings().startFolders.empty());
+}
+
+TEST_F(WorkbenchSettings, TheOpacityBecomesAnAlpha)
+{
+    Settings settings;
+    settings.inactiveOpacity = 100;
+    EXPECT_EQ(settings.InactiveAlpha(), 255);
+    settings.inactiveOpacity = 50;
+    EXPECT_EQ(settings.InactiveAlpha(), 128);
+    settings.inactiveOpacity = 20;
+    EXPECT_EQ(settings.InactiveAlpha(), 51);
+}
+
+TEST_F(WorkbenchSettings, ALanguageChangesTextsAndResources)
+{
+    auto const locale = ::GetThreadLocale();
+    workbench::UseLanguage(1031);
+    EXPECT_STREQ(workbench::Text(L"Settings"), L"Einstellungen");
+    EXPECT_EQ(LANGIDFROMLCID(::GetThreadLocale()), 1031);
+    workbench::UseLanguage(1033);
+    EXPECT_STREQ(workbench::Text(L"Settings"), L"Settings");
+    EXPECT_EQ(LANGIDFROMLCID(::GetThreadLocale()), 1033);
+    ::SetThreadLocale(locale);
+    ::SetThreadUILanguage(0);
+}
