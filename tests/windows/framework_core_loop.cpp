@@ -170,6 +170,7 @@ public:
     int m_kicks = 0;
     int m_wantedKicks = 2;
     bool m_quit = false;
+    std::vector<LPARAM> m_counts; ///< that came with the kicks
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
@@ -177,7 +178,7 @@ protected:
         constexpr UINT kickIdle = 0x036A;
         if (message == kickIdle)
         {
-            EXPECT_EQ(lParam, m_kicks);
+            m_counts.push_back(lParam);
             if (++m_kicks < m_wantedKicks)
                 return TRUE;
             if (m_quit)
@@ -191,6 +192,18 @@ protected:
 };
 
 TEST(CoreModal, LoopKicksWhileIdleAndGivesItsResult)
+{
+    Modal window;
+    ASSERT_TRUE(window.CreateEx(0, AfxRegisterWndClass(0), L"", WS_POPUP, CRect(0, 0, 50, 50), nullptr, 0));
+    // Out of sight the window gets no input, with which the kicks would be counted anew.
+    EXPECT_EQ(window.RunModalLoop(), 42);
+    EXPECT_EQ(window.m_counts, (std::vector<LPARAM>{0, 1}));
+    EXPECT_FALSE(window.IsWindowVisible());
+    EXPECT_FALSE(window.ContinueModal());
+    window.DestroyWindow();
+}
+
+TEST(CoreModal, LoopShowsTheWindowOnceItIsIdle)
 {
     Modal window;
     ASSERT_TRUE(window.CreateEx(0, AfxRegisterWndClass(0), L"", WS_POPUP, CRect(0, 0, 50, 50), nullptr, 0));
@@ -373,8 +386,8 @@ protected:
 IMPLEMENT_DYNCREATE(LoopThread, CWinThread)
 
 BEGIN_MESSAGE_MAP(LoopThread, CWinThread)
-ON_THREAD_MESSAGE(WM_APP, &LoopThread::OnAdd)
-ON_REGISTERED_THREAD_MESSAGE(registeredThreadMessage, &LoopThread::OnEnd)
+    ON_THREAD_MESSAGE(WM_APP, &LoopThread::OnAdd)
+    ON_REGISTERED_THREAD_MESSAGE(registeredThreadMessage, &LoopThread::OnEnd)
 END_MESSAGE_MAP()
 
 TEST(CoreThreads, LoopThreadHandlesPostedThreadMessages)
