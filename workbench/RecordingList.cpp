@@ -57,6 +57,7 @@ constexpr Growth c_growth[] = {{CRecordingList::column_overview, 2},
 // The room that cell and header keep left and right of a text, a divider and the rounding of text widths.
 constexpr int c_textRoom = 16;
 constexpr int c_checkWidth = 30; // of a header's check box with its room
+constexpr int c_arrowRoom = 20;  // of the arrow beside a title
 
 constexpr wchar_t const * c_ratings[] = {Translatable(L"Not rated"), Translatable(L"Good"), Translatable(L"Usable"),
                                          Translatable(L"Rejected")};
@@ -122,7 +123,7 @@ void CRecordingList::CreateColumns()
         AddColumn(title, design.format, least);
     }
     m_needs = m_least;
-    m_leastWidth = std::accumulate(m_least.begin(), m_least.end(), 0) + ::GetSystemMetrics(SM_CXVSCROLL) +
+    m_leastWidth = std::accumulate(m_least.begin(), m_least.end(), 0) + c_arrowRoom + ::GetSystemMetrics(SM_CXVSCROLL) +
                    2 * ::GetSystemMetrics(SM_CXBORDER);
     SetHeaderCheckedState(column_check, XHC_UNCHECKED);
 }
@@ -179,6 +180,11 @@ void CRecordingList::FitColumns()
     auto widths = m_needs;
     widths[column_name] = m_least[column_name];
     widths[column_status] = m_least[column_status];
+    if (m_sortedColumn >= 0)
+    {
+        auto & width = widths[static_cast<std::size_t>(m_sortedColumn)];
+        width = std::max(width, WidthOf(Text(c_columns[m_sortedColumn].title)) + c_arrowRoom);
+    }
     auto rest = std::max(client.Width() - std::accumulate(widths.begin(), widths.end(), 0), 0);
     auto const give = [&](Column column, int wanted) {
         auto const more = std::clamp(wanted - widths[column], 0, rest);

@@ -67,6 +67,7 @@ void CRecordingList::ForgetOrder()
 {
     m_sortedColumn = -1;
     SortByColumn(-1, true, true, nullptr);
+    FitColumns();
     ShowHeaderCheck();
 }
 
@@ -79,6 +80,7 @@ void CRecordingList::SortLines(Column column, bool ascending)
     m_sortedColumn = column;
     m_ascending = ascending;
     SortByColumn(column, ascending, true, HasOwnOrder(column) ? &CompareInList : nullptr);
+    FitColumns();
     // It goes with the marks of the other columns.
     ShowHeaderCheck();
     auto const chosen = PlaceOf(ChosenLine());
