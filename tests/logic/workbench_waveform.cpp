@@ -203,6 +203,34 @@ TEST(TimeTicks, UseMinutesFromOneMinuteOn)
     EXPECT_EQ(Labels(TimeTicks(7200.0, 300, 100)), (std::vector<std::wstring>{L"0:00", L"60:00", L"120:00"}));
 }
 
+TEST(TimeTicks, HaveEachOfTheirSteps)
+{
+    // Three steps fill the axis; the tick behind the first one shows the step.
+    struct
+    {
+        double step;
+        wchar_t const * label;
+    } const cases[] = {{1.0, L"1 s"},      {2.0, L"2 s"},       {5.0, L"5 s"},       {10.0, L"10 s"},
+                       {20.0, L"0:20"},    {30.0, L"0:30"},     {60.0, L"1:00"},     {120.0, L"2:00"},
+                       {300.0, L"5:00"},   {600.0, L"10:00"},   {1200.0, L"20:00"},  {1800.0, L"30:00"},
+                       {3600.0, L"60:00"}, {7200.0, L"120:00"}, {18000.0, L"300:00"}};
+    for (auto const & [step, label] : cases)
+    {
+        auto const ticks = TimeTicks(3 * step, 300, 100);
+        ASSERT_EQ(ticks.size(), 4u) << step;
+        EXPECT_EQ(ticks[1], (TimeTick{100, label})) << step;
+        EXPECT_EQ(ticks[3].position, 300) << step;
+    }
+    // A step that is a little too short is not taken.
+    EXPECT_EQ(TimeTicks(3 * 1810.0, 300, 100)[1].label, L"60:00");
+    EXPECT_EQ(TimeTicks(3 * 3700.0, 300, 100)[1].label, L"120:00");
+}
+
+TEST(TimeTicks, NeedNoMoreThanOnePixel)
+{
+    EXPECT_EQ(TimeTicks(1.0, 1, 1).size(), 2u);
+}
+
 TEST(TimeTicks, UseDecimalsForShortRecordings)
 {
     EXPECT_EQ(Labels(TimeTicks(0.0021, 300, 100)), (std::vector<std::wstring>{L"0.000 s", L"0.001 s", L"0.002 s"}));
@@ -229,6 +257,16 @@ TEST(TimeTicks, AreNoneWithoutRoomOrTime)
     EXPECT_TRUE(TimeTicks(1.0, 0, 10).empty());
     EXPECT_TRUE(TimeTicks(1.0, 100, 0).empty());
     EXPECT_TRUE(TimeTicks(-1.0, 100, 10).empty());
+}
+
+TEST(LevelLines, GoDownToTwentyFourDecibels)
+{
+    auto const lines = LevelLines(10000, 1);
+    ASSERT_EQ(lines.size(), 5u);
+    EXPECT_EQ(lines[3].label, L"-18");
+    EXPECT_NEAR(lines[3].amplitude, 0.125893, 1e-6);
+    EXPECT_EQ(lines[4].label, L"-24");
+    EXPECT_NEAR(lines[4].amplitude, 0.063096, 1e-6);
 }
 
 TEST(LevelLines, StandSixDecibelsApartWhileThereIsRoom)
