@@ -2,6 +2,7 @@
 
 #include "frame/InternalMessages.h"
 #include "frame/ToolkitResources.h"
+#include "list/XListCtrlHold.h"
 #include "list/XListInput.h"
 #include "resources/resource_ids.h"
 
@@ -226,7 +227,8 @@ int CXListCtrl::GetHeaderCheckedState(int col) const
 
 void CXListCtrl::SetHeaderRemoveAllMarks()
 {
-    for (int col = 0; col < m_columnCount; ++col)
+    Watch const watch(*this);
+    for (int col = 0; watch.IsAlive() && col < m_columnCount; ++col)
         SetHeaderCheckedState(col, XHC_NONE);
 }
 

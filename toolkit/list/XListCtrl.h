@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <map>
+#include <memory>
 #include <span>
 #include <string>
 #include <utility>
@@ -304,7 +305,8 @@ public:
 protected:
     virtual BOOL OnToolTipText(UINT id, NMHDR * header, LRESULT * result);
     void PreSubclassWindow() override;
-    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+    /// All that reaches the native list comes through here.
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT * result) override;
 
     /// Row and column at a client point; (-1, -1) off any cell.
@@ -358,22 +360,45 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    class HeldRow;
+    class Pin;
+    class Watch;
+
     /// The row object in the native item; null where there is none.
     XLISTCTRLROW * RowOf(int row) const;
     /// The cell if row and column are in range and the row reaches that far, else null.
     XLISTCTRLDATA * ValidCell(int row, int col) const;
-    /// Inserts the item together with a row object; the native result. A failed insertion takes no row.
+    /// A row object with cells for the list's columns.
+    XLISTCTRLROW * TakeRow();
+    /// Inserts the item together with a row object; where it landed, or the negative native result, or -1 if the host
+    /// has deleted it at once. A failed insertion takes no row.
     int InsertWithRow(LVITEMW item, COLORREF text, COLORREF background, int image, void const * ptr, long long data);
     /// The number of rows; 0 without a window.
     int RowCount() const;
-    /// Notes the object of a row, so that asking for the same row again needs no message.
     void RememberRow(int row, XLISTCTRLROW * object) const;
     void ForgetRow() const;
+    /// The row that a row object hangs from; -1 if there is none.
+    int PlaceOf(XLISTCTRLROW const * object) const;
+    /// After the host has changed rows within an operation on rows: every native item has a row object of its own again,
+    /// and what hangs from none is back in the pool. spares: objects in use that such items take before new ones.
+    void PutRowsInOrder(std::span<XLISTCTRLROW * const> spares = {});
+    /// Gives back what hangs from no native item; the places of items that share another one's row object.
+    std::vector<int> GiveBackUnshownRows();
     /// Sets the native text alone; false if that fails.
     bool ShowText(int row, int col, wchar_t const * text);
+    /// Shows the text and then calls change(cell), unless the row has ended meanwhile. False without that cell, or if
+    /// the native list refuses the text.
+    template <class Change> bool ChangeText(int row, int col, wchar_t const * text, Change && change);
+    bool ShowFloat(int row, int col, float value, wchar_t const * text);
+    /// Repaints the row's cell where the row is now.
+    void Repaint(HeldRow & held, int col);
+    /// Gives the columns the fitted widths of the work array, the preferred one the first width before.
+    void SetNativeWidths(int preferred, int firstWidth);
     void SelectComboEntry(int row, int col, XLISTCTRLDATA & cell, std::pair<int const, wchar_t const *> const * entry);
     /// The cells of a row as far as the list's columns reach; none for a row without.
     std::span<XLISTCTRLDATA> CellsOf(int row) const;
+    /// What a press does to a check cell: its state, its mark of a change, its picture, and the notification.
+    void ChangeCheckByUser(int row, int col, int state);
     /// Recomputes the state of a column's header from its cells, where the header follows them.
     void UpdateHeaderFromCells(int col);
     void PostToParent(unsigned int message, WPARAM wParam, LPARAM lParam) const;
@@ -404,8 +429,11 @@ private:
     void begin_drag(NMHDR * header, LRESULT * result);
     /// Swaps the two rows.
     void drop_on_list();
+    /// What trading the contents of two rows comes to; false if the host moved rows meanwhile or ended the list.
+    bool SwapRows(std::vector<dd_list_Item> & upper, std::vector<dd_list_Item> & lower, int a, int b);
     /// As many columns as there are places.
     void save_row(std::vector<dd_list_Item> & saved, int row);
+    /// Stops where the host changes rows.
     void restore_row(std::vector<dd_list_Item> & saved, int row);
     /// Makes the picture that follows the pointer from an area of the client context.
     void MakeDragImage(CDC & client, CRect const & cell);
@@ -477,10 +505,19 @@ private:
     CImageList m_dragImage;
     CMenu m_popupMenu;
 
+    /// The row asked for last. Known only as long as the native list has been given no message that moves rows or changes
+    /// their parameter words; while one is under way, nothing is remembered.
     mutable int m_knownRow = -1;
     mutable XLISTCTRLROW * m_knownRowObject = nullptr;
-    /// Native operations under way that move rows or change their parameter words.
-    int m_rowChanges = 0;
+    int m_rowChangesUnderWay = 0;
+    /// Counts those messages.
+    unsigned long long m_rowChanges = 0;
+    /// Ends with the list, for whoever must know.
+    std::shared_ptr<void const> m_life = std::make_shared<char>();
+    /// Row objects that operations under way keep in use.
+    std::vector<XLISTCTRLROW const *> m_pinned;
+    /// Two rows are about to trade their objects and share one for a moment.
+    bool m_swapsRows = false;
 
     /// What stays the same while the window paints itself once, so that it is asked for once a row or column instead of
     /// once a cell.

@@ -2,12 +2,39 @@
 
 #include "list/XListCtrl.h"
 
+#include "list/XListCtrlHold.h"
 #include "list/XListInput.h"
 #include "list/XListSearch.h"
 
 #include <algorithm>
 #include <cstdint>
 #include <iterator>
+
+namespace
+{
+/// Whether the native list inserts, deletes or moves rows at that message, or changes their parameter words.
+bool ChangesRows(UINT message, LPARAM lParam)
+{
+    switch (message)
+    {
+    case LVM_INSERTITEMA:
+    case LVM_INSERTITEMW:
+    case LVM_DELETEITEM:
+    case LVM_DELETEALLITEMS:
+    case LVM_SORTITEMS:
+    case LVM_SORTITEMSEX:
+    case LVM_SETITEMCOUNT:
+    case WM_DESTROY:
+    case WM_NCDESTROY:
+        return true;
+    case LVM_SETITEMA:
+    case LVM_SETITEMW:
+        return lParam != 0 && (reinterpret_cast<LVITEMW const *>(lParam)->mask & LVIF_PARAM) != 0;
+    default:
+        return false;
+    }
+}
+} // namespace
 
 // Access
 
@@ -25,16 +52,27 @@ XLISTCTRLROW * CXListCtrl::RowOf(int row) const
     LVITEMW item{};
     item.mask = LVIF_PARAM;
     item.iItem = row;
-    if (!CListCtrl::GetItem(&item))
+    // Asked of the native procedure itself: nobody else knows an answer.
+    if (const_cast<CXListCtrl *>(this)->DefWindowProc(LVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&item)) == FALSE)
         return nullptr;
     auto * const object = reinterpret_cast<XLISTCTRLROW *>(item.lParam);
     RememberRow(row, object);
     return object;
 }
 
+int CXListCtrl::PlaceOf(XLISTCTRLROW const * object) const
+{
+    if (object == nullptr || m_hWnd == nullptr)
+        return -1;
+    LVFINDINFOW wanted{};
+    wanted.flags = LVFI_PARAM;
+    wanted.lParam = reinterpret_cast<LPARAM>(object);
+    return FindItem(&wanted);
+}
+
 void CXListCtrl::RememberRow(int row, XLISTCTRLROW * object) const
 {
-    if (m_rowChanges != 0)
+    if (m_rowChangesUnderWay != 0)
         return;
     m_knownRow = row;
     m_knownRowObject = object;
@@ -46,36 +84,28 @@ void CXListCtrl::ForgetRow() const
     m_knownRowObject = nullptr;
 }
 
-LRESULT CXListCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+LRESULT CXListCtrl::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
-    switch (message)
-    {
-    case LVM_INSERTITEMA:
-    case LVM_INSERTITEMW:
-    case LVM_SETITEMA:
-    case LVM_SETITEMW:
-    case LVM_DELETEITEM:
-    case LVM_DELETEALLITEMS:
-    case LVM_SORTITEMS:
-    case LVM_SORTITEMSEX:
-    case LVM_SETITEMCOUNT:
-    case WM_DESTROY:
-        break;
-    default:
-        return CListCtrl::WindowProc(message, wParam, lParam);
-    }
+    if (!ChangesRows(message, lParam))
+        return CListCtrl::DefWindowProc(message, wParam, lParam);
 
     struct RowChange
     {
-        explicit RowChange(CXListCtrl & list) : m_list(list)
+        explicit RowChange(CXListCtrl & changed) : list(changed), watch(changed)
         {
-            ++m_list.m_rowChanges;
-            m_list.ForgetRow();
+            list.ForgetRow();
+            ++list.m_rowChanges;
+            ++list.m_rowChangesUnderWay;
         }
-        ~RowChange() { --m_list.m_rowChanges; }
-        CXListCtrl & m_list;
+        ~RowChange()
+        {
+            if (watch.IsThere())
+                --list.m_rowChangesUnderWay;
+        }
+        CXListCtrl & list;
+        Watch watch;
     } const change(*this);
-    return CListCtrl::WindowProc(message, wParam, lParam);
+    return CListCtrl::DefWindowProc(message, wParam, lParam);
 }
 
 bool CXListCtrl::IsValidItem(int row, int col) const

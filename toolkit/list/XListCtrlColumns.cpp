@@ -4,6 +4,8 @@
 
 #include <cstddef>
 
+#include "list/XListCtrlHold.h"
+
 namespace
 {
 // What the available width leaves free of the window's.
@@ -14,20 +16,25 @@ int CXListCtrl::AddColumn(wchar_t const * title, int format, int width)
 {
     if (!::IsWindow(m_hWnd))
         return -1;
-    m_columnCount = GetColumnCount() + 1;
+    int const col = GetColumnCount();
+    m_columnCount = col + 1;
+    Watch const watch(*this);
     // Past the end, so that it lands last.
     CListCtrl::InsertColumn(m_columnCount, title, format, width, -1);
     // A list that has not been shown yet may have made its header only now.
-    SubclassHeaderControl();
-    return m_columnCount - 1;
+    if (watch.IsAlive())
+        SubclassHeaderControl();
+    return col;
 }
 
 int CXListCtrl::InsertColumn(int col, wchar_t const * title, int format, int width, int subItem)
 {
     if (!::IsWindow(m_header.m_hWnd))
         return -1;
+    Watch const watch(*this);
     int const landed = CListCtrl::InsertColumn(col, title, format, width, subItem);
-    m_columnCount = GetColumnCount();
+    if (watch.IsAlive())
+        m_columnCount = GetColumnCount();
     return landed - 1;
 }
 
@@ -40,17 +47,24 @@ void CXListCtrl::DeleteAllColumns()
 {
     if (m_columnCount == 0 || !::IsWindow(m_hWnd))
         return;
+    Watch const watch(*this);
     DeleteAllItems();
-    for (int col = GetColumnCount() - 1; col >= 0; --col)
+    if (!watch.IsAlive())
+        return;
+    for (int col = GetColumnCount() - 1; col >= 0 && watch.IsAlive(); --col)
         DeleteColumn(col);
-    m_columnCount = 0;
+    if (watch.IsAlive())
+        m_columnCount = 0;
 }
 
 int CXListCtrl::SetColumnWidth(int col, int width)
 {
     if (!::IsWindow(m_hWnd))
         return FALSE;
-    CListCtrl::SetColumnWidth(col, width);
+    Watch const watch(*this);
+    BOOL const set = CListCtrl::SetColumnWidth(col, width);
+    if (!watch.IsAlive())
+        return set;
     return CListCtrl::SetColumnWidth(col, GetColumnWidth(col) + 2 * m_header.GetSpacing());
 }
 
@@ -81,12 +95,26 @@ void CXListCtrl::AutosizeColumnWidth(int col)
         CListCtrl::SetColumnWidth(preferred, m_columnWidths[static_cast<std::size_t>(preferred)]);
         break;
     case ColumnFit::all:
-        if (preferred >= 0)
-            CListCtrl::SetColumnWidth(preferred, minimum + 1);
-        ShowWindow(SW_HIDE);
-        for (int i = 0; i < count; ++i)
-            CListCtrl::SetColumnWidth(i, m_columnWidths[static_cast<std::size_t>(i)]);
-        ShowWindow(SW_SHOW);
+        SetNativeWidths(preferred, minimum + 1);
         break;
     }
+}
+
+void CXListCtrl::SetNativeWidths(int preferred, int firstWidth)
+{
+    // The host hears of each width and may fit the columns anew.
+    std::vector<int> const widths = m_columnWidths;
+    Watch const watch(*this);
+    if (preferred >= 0)
+        CListCtrl::SetColumnWidth(preferred, firstWidth);
+    if (watch.IsAlive())
+        ShowWindow(SW_HIDE);
+    int col = 0;
+    for (int const width : widths)
+    {
+        if (watch.IsAlive())
+            CListCtrl::SetColumnWidth(col++, width);
+    }
+    if (watch.IsAlive())
+        ShowWindow(SW_SHOW);
 }

@@ -6,6 +6,8 @@
 #include <string_view>
 #include <utility>
 
+#include "list/XListCtrlHold.h"
+
 namespace
 {
 // The cursors of a drag, by the numbers of the system's resources.
@@ -65,8 +67,11 @@ BOOL CXListCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESU
     auto * const header = reinterpret_cast<NMHDR *>(lParam);
     bool const begins = m_dragEnabled && message == WM_NOTIFY && header->code == LVN_BEGINDRAG;
     LRESULT unused = 0;
+    Watch const watch(*this);
     if (begins)
         begin_drag(header, result != nullptr ? result : &unused);
+    if (!watch.IsAlive())
+        return TRUE;
     BOOL const handled = CListCtrl::OnChildNotify(message, wParam, lParam, result);
     return begins ? handled | TRUE : handled;
 }
@@ -115,15 +120,15 @@ void CXListCtrl::EndDragImage()
 
 void CXListCtrl::SetDropMark(int row, bool on)
 {
-    HWND const self = m_hWnd;
+    Watch const watch(*this);
     SetItemState(row, on ? LVIS_DROPHILITED : 0, LVIS_DROPHILITED);
-    // The parent hears of the change and may have ended the list.
-    if (::IsWindow(self))
+    if (watch.IsAlive())
         RedrawItems(row, row);
 }
 
 bool CXListCtrl::FollowDrag(CPoint point)
 {
+    Watch const watch(*this);
     HWND const self = m_hWnd;
     CPoint screen = point;
     ClientToScreen(&screen);
@@ -134,11 +139,11 @@ bool CXListCtrl::FollowDrag(CPoint point)
     int const former = std::exchange(m_dropTarget, target);
     if (former != -1 && former != target)
         SetDropMark(former, false);
-    if (target != -1 && ::IsWindow(self))
+    if (target != -1 && watch.IsAlive())
         SetDropMark(target, true);
-    if (::IsWindow(self) && (inside || former != -1))
+    if (watch.IsAlive() && (inside || former != -1))
         UpdateWindow();
-    if (!::IsWindow(self))
+    if (!watch.IsAlive())
         return false;
     long long const cursor = target != -1 ? arrow_cursor : refusing_cursor;
     if (m_dragCursor != cursor)
@@ -161,16 +166,19 @@ void CXListCtrl::OnLButtonUp(UINT flags, CPoint point)
 {
     if (m_dragEnabled && m_dragSource >= 0)
     {
-        HWND const self = m_hWnd;
+        Watch const watch(*this);
         ::ReleaseCapture();
-        EndDragImage();
-        if (m_dropTarget != -1)
+        if (watch.IsAlive())
+            EndDragImage();
+        if (watch.IsAlive() && m_dropTarget != -1)
             SetDropMark(m_dropTarget, false);
+        if (!watch.IsAlive())
+            return;
         CPoint screen = point;
-        ::ClientToScreen(self, &screen);
-        if (::WindowFromPoint(screen) == self && m_dropTarget != m_dragSource)
+        ClientToScreen(&screen);
+        if (::WindowFromPoint(screen) == m_hWnd && m_dropTarget != m_dragSource)
             drop_on_list();
-        if (!::IsWindow(self))
+        if (!watch.IsAlive())
             return;
     }
     CListCtrl::OnLButtonUp(flags, point);
@@ -187,24 +195,54 @@ void CXListCtrl::drop_on_list()
     auto const columns = static_cast<std::size_t>(m_columnCount);
     std::vector<dd_list_Item> upper(columns);
     std::vector<dd_list_Item> lower(columns);
-    HWND const self = m_hWnd;
-    save_row(upper, a);
-    save_row(lower, b);
-    restore_row(upper, b);
-    restore_row(lower, a);
-    if (!::IsWindow(self))
+    if (!SwapRows(upper, lower, a, b))
         return;
     RedrawItems(a, a);
     RedrawItems(b, b);
-    if (m_onRowsSwapped)
-        m_onRowsSwapped(a, b);
+    auto const swapped = m_onRowsSwapped;
+    if (swapped)
+        swapped(a, b);
+}
+
+bool CXListCtrl::SwapRows(std::vector<dd_list_Item> & upper, std::vector<dd_list_Item> & lower, int a, int b)
+{
+    Watch const watch(*this);
+    unsigned long long const changes = m_rowChanges;
+    XLISTCTRLROW * const objects[] = {RowOf(a), RowOf(b)};
+    {
+        Pin const pinUpper(*this, objects[0]);
+        Pin const pinLower(*this, objects[1]);
+        save_row(upper, a);
+        if (watch.IsAlive())
+            save_row(lower, b);
+        if (!watch.IsAlive() || m_rowChanges != changes)
+            return false;
+        m_swapsRows = true;
+        restore_row(upper, b);
+        if (watch.IsAlive() && m_rowChanges == changes + 1)
+            restore_row(lower, a);
+        if (!watch.IsAlive())
+            return false;
+        m_swapsRows = false;
+        if (m_rowChanges == changes + 2)
+            return true;
+        PutRowsInOrder(objects);
+        if (!watch.IsAlive())
+            return false;
+    }
+    PutRowsInOrder();
+    return false;
 }
 
 void CXListCtrl::save_row(std::vector<dd_list_Item> & saved, int row)
 {
+    Watch const watch(*this);
     int col = 0;
     for (dd_list_Item & cell : saved)
     {
+        // A text may be one that the host is asked for.
+        if (!watch.IsAlive())
+            return;
         cell.item.mask = col == 0 ? first_cell_mask : other_cell_mask;
         cell.item.stateMask = col == 0 ? ~0U : 0U;
         cell.item.iItem = row;
@@ -225,7 +263,10 @@ void CXListCtrl::restore_row(std::vector<dd_list_Item> & saved, int row)
     if (saved.empty())
         return;
     auto const * const object = reinterpret_cast<XLISTCTRLROW const *>(saved.front().item.lParam);
-    for (std::size_t col = 0; col < saved.size(); ++col)
+    Watch const watch(*this);
+    // The first cell takes the row's object along, which is a change.
+    unsigned long long const changes = m_rowChanges + 1;
+    for (std::size_t col = 0; col < saved.size() && watch.IsAlive() && (col == 0 || m_rowChanges == changes); ++col)
     {
         if (object != nullptr && col < object->capacity())
             object->cells()[col].properties |= XLP_MODIFIED;

@@ -3,6 +3,7 @@
 #include "list/XListCtrl.h"
 
 #include "frame/RegisteredMessages.h"
+#include "list/XListCtrlHold.h"
 #include "list/XListInput.h"
 
 namespace
@@ -70,11 +71,12 @@ void CXListCtrl::PostToParent(unsigned int message, WPARAM wParam, LPARAM lParam
 
 void CXListCtrl::OnItemStateChange(int row, int col, unsigned int message)
 {
-    HWND const self = m_hWnd;
-    if (m_onStateChange)
-        m_onStateChange(row, col);
-    // The callback may have ended the list.
-    if (::IsWindow(self))
+    Watch const watch(*this);
+    // A copy: it may replace itself.
+    auto const changed = m_onStateChange;
+    if (changed)
+        changed(row, col);
+    if (watch.IsAlive())
         PostToParent(message, Word(row), static_cast<LPARAM>(Word(col)));
 }
 
@@ -97,69 +99,67 @@ void CXListCtrl::OnLButtonDown(UINT, CPoint point)
         return;
     }
     // Rows that were inserted past this class, or before the column was, have no cell here.
-    XLISTCTRLDATA * cell = ValidCell(row, col);
+    HeldRow held(*this, row);
+    XLISTCTRLDATA const * cell = held.Cell(col);
     if (cell != nullptr && DecidePress(*cell) == CellPress::ignored)
         return;
 
-    // A callback may end the list or take the row away.
-    HWND const self = m_hWnd;
-    if (cell != nullptr && m_onCellClick)
+    auto const clicked = m_onCellClick;
+    if (cell != nullptr && clicked)
     {
-        m_onCellClick(row, col);
-        if (!::IsWindow(self))
+        clicked(row, col);
+        // The press goes on to the row that was pressed, if it's still in the list.
+        cell = held.Row() >= 0 ? held.Cell(col) : nullptr;
+        if (!held.IsListAlive())
             return;
-        cell = ValidCell(row, col);
     }
     switch (cell != nullptr ? DecideAdmittedPress(*cell) : CellPress::select_only)
     {
     case CellPress::open_combo:
         Default();
-        DrawComboBoxControl(row, col);
+        if (int const place = held.Row(); place >= 0)
+            DrawComboBoxControl(place, col);
         return;
     case CellPress::open_edit:
         Default();
-        DrawEditControl(row, col);
+        if (int const place = held.Row(); place >= 0)
+            DrawEditControl(place, col);
         return;
     case CellPress::follow_link:
         Default();
-        if (::IsWindow(self))
-            OnItemStateChange(row, col, WM_XLISTCTRL_LINK_CLICKED);
+        if (int const place = held.Row(); place >= 0)
+            OnItemStateChange(place, col, WM_XLISTCTRL_LINK_CLICKED);
         return;
     case CellPress::flip_check:
-        cell->checkedState = cell->checkedState == XLC_CHECKED ? XLC_UNCHECKED : XLC_CHECKED;
-        cell->properties |= XLP_MODIFIED;
         m_listModified = true;
-        UpdateSubItem(row, col);
-        OnItemStateChange(row, col, WM_XLISTCTRL_CHECKBOX_CLICKED);
-        if (::IsWindow(self))
+        ChangeCheckByUser(held.Row(), col, cell->checkedState == XLC_CHECKED ? XLC_UNCHECKED : XLC_CHECKED);
+        if (held.IsListAlive())
             UpdateHeaderFromCells(col);
         break;
-    case CellPress::switch_radio_on: {
-        int const formerRow = GetActiveRadioItem(col);
-        if (XLISTCTRLDATA * const former = ValidCell(formerRow, col))
+    case CellPress::switch_radio_on:
+        ChangeCheckByUser(GetActiveRadioItem(col), col, XLC_RADIO_OFF);
+        if (int const place = held.Row(); place >= 0)
         {
-            former->checkedState = XLC_RADIO_OFF;
-            former->properties |= XLP_MODIFIED;
-            UpdateSubItem(formerRow, col);
-            OnItemStateChange(formerRow, col, WM_XLISTCTRL_CHECKBOX_CLICKED);
-            if (!::IsWindow(self))
-                return;
+            m_listModified = true;
+            ChangeCheckByUser(place, col, XLC_RADIO_ON);
         }
-        cell = ValidCell(row, col);
-        if (cell == nullptr)
-            break;
-        cell->checkedState = XLC_RADIO_ON;
-        cell->properties |= XLP_MODIFIED;
-        m_listModified = true;
-        UpdateSubItem(row, col);
-        OnItemStateChange(row, col, WM_XLISTCTRL_CHECKBOX_CLICKED);
         break;
-    }
     default:
         break;
     }
-    if (::IsWindow(self))
+    if (held.IsListAlive())
         Default();
+}
+
+void CXListCtrl::ChangeCheckByUser(int row, int col, int state)
+{
+    XLISTCTRLDATA * const cell = row >= 0 ? ValidCell(row, col) : nullptr;
+    if (cell == nullptr)
+        return;
+    cell->checkedState = state;
+    cell->properties |= XLP_MODIFIED;
+    UpdateSubItem(row, col);
+    OnItemStateChange(row, col, WM_XLISTCTRL_CHECKBOX_CLICKED);
 }
 
 void CXListCtrl::OnLButtonDblClk(UINT flags, CPoint point)
@@ -170,10 +170,11 @@ void CXListCtrl::OnLButtonDblClk(UINT flags, CPoint point)
         auto const [row, col] = place;
         if (IsCell(place))
         {
-            HWND const self = m_hWnd;
-            if (m_onDoubleClick)
-                m_onDoubleClick(row, col);
-            if (!::IsWindow(self))
+            Watch const watch(*this);
+            auto const clicked = m_onDoubleClick;
+            if (clicked)
+                clicked(row, col);
+            if (!watch.IsAlive())
                 return;
             PostToParent(WM_XLISTCTRL_ITEM_DBLCLICKED, Word(row), static_cast<LPARAM>(Word(col)));
         }
@@ -191,9 +192,11 @@ void CXListCtrl::OnRButtonDown(UINT, CPoint point)
 
 void CXListCtrl::OnNcLButtonDown(UINT hitTest, CPoint point)
 {
+    Watch const watch(*this);
     if (m_edit != nullptr)
         OnXEditKillFocus(0, 0);
-    CListCtrl::OnNcLButtonDown(hitTest, point);
+    if (watch.IsAlive())
+        CListCtrl::OnNcLButtonDown(hitTest, point);
 }
 
 BOOL CXListCtrl::OnClick(NMHDR *, LRESULT * result)
@@ -214,22 +217,20 @@ void CXListCtrl::OnHeaderColumnClick(int col)
     HeaderPress const press = DecideHeaderPress(GetHeaderCheckedState(col), m_headerAutoCheckbox);
     if (press.changesCells)
     {
-        HWND const self = m_hWnd;
+        Watch const watch(*this);
         SetHeaderCheckedState(col, press.headerState);
-        m_header.UpdateWindow();
-        for (int row = 0; row < GetItemCount(); ++row)
+        if (watch.IsAlive())
+            m_header.UpdateWindow();
+        for (int row = 0; watch.IsAlive() && row < GetItemCount(); ++row)
         {
-            XLISTCTRLDATA * const cell = ValidCell(row, col);
+            XLISTCTRLDATA const * const cell = ValidCell(row, col);
             if (cell == nullptr || cell->checkedState == XLC_NONE || cell->checkedState == press.cellState)
                 continue;
-            cell->checkedState = press.cellState;
-            cell->properties |= XLP_MODIFIED;
             m_listModified = true;
-            UpdateSubItem(row, col);
-            OnItemStateChange(row, col, WM_XLISTCTRL_CHECKBOX_CLICKED);
-            if (!::IsWindow(self))
-                return;
+            ChangeCheckByUser(row, col, press.cellState);
         }
+        if (!watch.IsAlive())
+            return;
     }
     PostToParent(WM_XLISTCTRL_COLUMNCLICK, Word(press.cellState), static_cast<LPARAM>(Word(col)));
 }
@@ -245,10 +246,10 @@ void CXListCtrl::OnKeyDown(UINT key, UINT repeat, UINT flags)
         CListCtrl::OnKeyDown(key, repeat, flags);
         return;
     }
-    HWND const self = m_hWnd;
+    Watch const watch(*this);
     int const before = GetCurSel(-1);
     CListCtrl::OnKeyDown(key, repeat, flags);
-    if (before < 0 || !::IsWindow(self))
+    if (before < 0 || !watch.IsAlive())
         return;
     SetCurSel(RowAfterNavigationKey(before, GetItemCount(), down, [this](int row) { return GetEnabled(row); }), true);
 }
@@ -276,10 +277,16 @@ void CXListCtrl::OnContextMenu(CWnd * window, CPoint point)
     }
     if (m_popupMenu.GetSafeHmenu() == nullptr)
         return;
-    HWND const self = m_hWnd;
+    // The list lives on while the menu is open.
+    HeldRow held(*this, place.first);
+    bool const followed = held.Row() >= 0;
     int const command = m_popupMenu.TrackPopupMenuEx(TPM_RETURNCMD | TPM_RIGHTBUTTON, point.x, point.y, this, nullptr);
-    if (command != 0 && ::IsWindow(self) && m_onContextCommand)
-        m_onContextCommand(command, place.first, place.second);
+    if (command == 0 || !held.IsListAlive())
+        return;
+    int const row = followed ? held.Row() : place.first;
+    auto const chosen = m_onContextCommand;
+    if (row >= 0 && chosen)
+        chosen(command, row, place.second);
 }
 
 // --- Editors and timers ---
@@ -310,8 +317,11 @@ LRESULT CXListCtrl::OnXEditKillFocus(WPARAM, LPARAM)
 LRESULT CXListCtrl::OnXEditEscape(WPARAM, LPARAM)
 {
     // The cell that was edited last gets its former text back even if its edit is gone, which is meant.
-    CListCtrl::SetItemText(m_editRow, m_editCol, m_savedText);
-    UpdateSubItem(m_editRow, m_editCol);
+    HeldRow held(*this, m_editRow);
+    int const col = m_editCol;
+    CListCtrl::SetItemText(m_editRow, col, m_savedText);
+    if (held.IsListAlive())
+        Repaint(held, col);
     return 0;
 }
 

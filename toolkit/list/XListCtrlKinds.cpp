@@ -7,6 +7,8 @@
 #include <cwchar>
 #include <utility>
 
+#include "list/XListCtrlHold.h"
+
 namespace
 {
 constexpr COLORREF default_color = static_cast<COLORREF>(-1);
@@ -14,10 +16,8 @@ constexpr COLORREF link_color = 0xFF0000;
 constexpr COLORREF unlinked_color = 0;
 constexpr wchar_t const * default_float_format = L"%5.2f";
 
-// For the one user-interface thread.
+// With the end mark. Each number has a buffer of its own: the host hears of a text and may set another number then.
 constexpr std::size_t number_length = 50;
-wchar_t g_intText[number_length];
-wchar_t g_floatText[number_length];
 
 wchar_t const * OrEmpty(wchar_t const * text)
 {
@@ -32,68 +32,76 @@ bool CXListCtrl::ShowText(int row, int col, wchar_t const * text)
     return CListCtrl::SetItemText(row, col, text) != FALSE;
 }
 
+template <class Change> bool CXListCtrl::ChangeText(int row, int col, wchar_t const * text, Change && change)
+{
+    HeldRow held(*this, row);
+    if (held.Cell(col) == nullptr || !ShowText(row, col, text))
+        return false;
+    if (XLISTCTRLDATA * const cell = held.Cell(col))
+    {
+        change(*cell);
+        Repaint(held, col);
+    }
+    return true;
+}
+
+void CXListCtrl::Repaint(HeldRow & held, int col)
+{
+    if (!m_batchInsert)
+        UpdateSubItem(held.Row(), col);
+}
+
 bool CXListCtrl::SetItemText(int row, int col, wchar_t const * text)
 {
-    XLISTCTRLDATA * const cell = ValidCell(row, col);
-    if (cell == nullptr || !ShowText(row, col, text))
-        return false;
-    cell->valueType = XLV_TEXT;
-    UpdateSubItem(row, col);
-    return true;
+    return ChangeText(row, col, text, [](XLISTCTRLDATA & cell) { cell.valueType = XLV_TEXT; });
 }
 
 bool CXListCtrl::SetItemText(int row, int col, wchar_t const * text, COLORREF textColor, COLORREF background)
 {
-    XLISTCTRLDATA * const cell = ValidCell(row, col);
-    if (cell == nullptr)
+    HeldRow held(*this, row);
+    if (held.Cell(col) == nullptr)
         return false;
     bool const shown = text == nullptr || ShowText(row, col, text);
-    cell->textColor = textColor != default_color ? textColor : m_colorWindowText;
-    cell->backgroundColor = background != default_color ? background : m_colorWindow;
-    UpdateSubItem(row, col);
+    if (XLISTCTRLDATA * const cell = held.Cell(col))
+    {
+        cell->textColor = textColor != default_color ? textColor : m_colorWindowText;
+        cell->backgroundColor = background != default_color ? background : m_colorWindow;
+        Repaint(held, col);
+    }
     return shown;
 }
 
 bool CXListCtrl::SetItemText(int row, int col, int value)
 {
-    XLISTCTRLDATA * const cell = ValidCell(row, col);
-    if (cell == nullptr)
-        return false;
-    _snwprintf_s(g_intText, number_length, _TRUNCATE, L"%d", value);
-    if (!ShowText(row, col, g_intText))
-        return false;
-    cell->intValue = value;
-    cell->valueType = XLV_INT;
-    UpdateSubItem(row, col);
-    return true;
+    wchar_t text[number_length];
+    _snwprintf_s(text, number_length, _TRUNCATE, L"%d", value);
+    return ChangeText(row, col, text, [value](XLISTCTRLDATA & cell) {
+        cell.intValue = value;
+        cell.valueType = XLV_INT;
+    });
 }
 
 bool CXListCtrl::SetItemText(int row, int col, float value, wchar_t const * format)
 {
-    XLISTCTRLDATA * const cell = ValidCell(row, col);
-    if (cell == nullptr)
-        return false;
-    _snwprintf_s(g_floatText, number_length, _TRUNCATE, format != nullptr ? format : default_float_format,
+    wchar_t text[number_length];
+    _snwprintf_s(text, number_length, _TRUNCATE, format != nullptr ? format : default_float_format,
                  static_cast<double>(value));
-    if (!ShowText(row, col, g_floatText))
-        return false;
-    cell->floatValue = value;
-    cell->valueType = XLV_FLOAT;
-    UpdateSubItem(row, col);
-    return true;
+    return ShowFloat(row, col, value, text);
 }
 
 bool CXListCtrl::SetItemFloatVal(int row, int col, float value, wchar_t const * text)
 {
     if (text == nullptr || *text == L'\0')
         return SetItemText(row, col, value, nullptr);
-    XLISTCTRLDATA * const cell = ValidCell(row, col);
-    if (cell == nullptr || !ShowText(row, col, text))
-        return false;
-    cell->floatValue = value;
-    cell->valueType = XLV_FLOAT;
-    UpdateSubItem(row, col);
-    return true;
+    return ShowFloat(row, col, value, text);
+}
+
+bool CXListCtrl::ShowFloat(int row, int col, float value, wchar_t const * text)
+{
+    return ChangeText(row, col, text, [value](XLISTCTRLDATA & cell) {
+        cell.floatValue = value;
+        cell.valueType = XLV_FLOAT;
+    });
 }
 
 bool CXListCtrl::SetItemDatetime(int row, int col, CTime time)
@@ -115,25 +123,30 @@ int CXListCtrl::SetItem(LVITEMW const * item)
     LVITEMW native = *item;
     // The native word belongs to the row's object.
     native.mask &= ~static_cast<UINT>(LVIF_PARAM);
+    HeldRow held(*this, native.iItem);
+    int const image = native.iImage;
+    int const col = native.iSubItem;
     if (!CListCtrl::SetItem(&native))
         return FALSE;
-    XLISTCTRLDATA * const cell = ValidCell(item->iItem, item->iSubItem);
+    XLISTCTRLDATA * const cell = held.Cell(col);
     if (cell == nullptr)
         return FALSE;
-    cell->imageIndex = item->iImage;
-    UpdateSubItem(item->iItem, item->iSubItem);
+    cell->imageIndex = image;
+    Repaint(held, col);
     return TRUE;
 }
 
 bool CXListCtrl::SetItemImage(int row, int col, int image)
 {
-    XLISTCTRLDATA * const cell = ValidCell(row, col);
+    HeldRow held(*this, row);
+    XLISTCTRLDATA * const cell = held.Cell(col);
     if (cell == nullptr)
         return false;
     cell->imageIndex = image;
     if (col == 0)
         CListCtrl::SetItem(row, 0, LVIF_IMAGE, nullptr, image, 0, 0, 0);
-    UpdateSubItem(row, col);
+    if (held.IsListAlive())
+        Repaint(held, col);
     return true;
 }
 
@@ -282,8 +295,12 @@ void CXListCtrl::SelectComboEntry(int row, int col, XLISTCTRLDATA & cell,
                                   std::pair<int const, wchar_t const *> const * entry)
 {
     cell.comboCurrentId = entry != nullptr ? entry->first : cell.comboDefaultId;
-    ShowText(row, col, entry != nullptr ? OrEmpty(entry->second) : L"");
-    UpdateSubItem(row, col);
+    HeldRow held(*this, row);
+    // A copy: the texts are the host's, and it may take them away when it hears of this one.
+    CString const text(entry != nullptr ? OrEmpty(entry->second) : L"");
+    ShowText(row, col, text);
+    if (held.IsListAlive())
+        Repaint(held, col);
 }
 
 bool CXListCtrl::SetComboStyle(int row, int col, bool sorted, int visibleItems)

@@ -4,6 +4,10 @@
 
 #include <algorithm>
 #include <limits>
+#include <unordered_set>
+#include <utility>
+
+#include "list/XListCtrlHold.h"
 
 namespace
 {
@@ -46,9 +50,7 @@ int CXListCtrl::InsertWithRow(LVITEMW item, COLORREF text, COLORREF background, 
 {
     if (m_hWnd == nullptr)
         return -1;
-    XLISTCTRLROW * const row = m_rowPool.Take();
-    // Also a list without columns keeps its rows' words.
-    row->Prepare(static_cast<unsigned int>(std::max(m_columnCount, 1)));
+    XLISTCTRLROW * const row = TakeRow();
     XLISTCTRLDATA & cell = *row->cells();
     cell.textColor = text;
     cell.backgroundColor = background;
@@ -58,28 +60,123 @@ int CXListCtrl::InsertWithRow(LVITEMW item, COLORREF text, COLORREF background, 
 
     item.mask |= LVIF_PARAM;
     item.lParam = reinterpret_cast<LPARAM>(row);
-    int const index = CListCtrl::InsertItem(&item);
-    if (index < 0)
-        m_rowPool.GiveBack(row);
-    else
-        RememberRow(index, row);
-    return index;
+    Watch const watch(*this);
+    unsigned long long const changes = m_rowChanges;
+    unsigned long long const use = row->use();
+    int index = -1;
+    {
+        Pin const pin(*this, row);
+        index = CListCtrl::InsertItem(&item);
+    }
+    if (!watch.IsAlive())
+        return -1;
+    // The insertion itself is the only change, as always but for a host that changes rows when it hears of it.
+    if (m_rowChanges == changes + 1)
+    {
+        if (index < 0)
+            m_rowPool.GiveBack(row);
+        else
+            RememberRow(index, row);
+        return index;
+    }
+    PutRowsInOrder();
+    return watch.IsAlive() && row->use() == use ? PlaceOf(row) : -1;
+}
+
+XLISTCTRLROW * CXListCtrl::TakeRow()
+{
+    XLISTCTRLROW * const row = m_rowPool.Take();
+    // Also a list without columns keeps its rows' words.
+    row->Prepare(static_cast<unsigned int>(std::max(m_columnCount, 1)));
+    return row;
 }
 
 int CXListCtrl::DeleteItem(int row)
 {
     if (row < 0 || row >= RowCount())
         return FALSE;
-    if (XLISTCTRLROW const * const given = RowOf(row))
+    Watch const watch(*this);
+    unsigned long long const changes = m_rowChanges;
+    XLISTCTRLROW const * const given = RowOf(row);
+    LRESULT const id = DefWindowProc(LVM_MAPINDEXTOID, static_cast<WPARAM>(row), 0);
+    SetNativeParam(row, nullptr);
+    if (!watch.IsAlive())
+        return FALSE;
+    // The host may have heard of it and have moved rows.
+    int const place = m_rowChanges == changes + 1 ? row : static_cast<int>(MapIDToIndex(static_cast<UINT>(id)));
+    BOOL const deleted = CListCtrl::DeleteItem(place);
+    if (!watch.IsAlive())
+        return deleted;
+    if (m_rowChanges == changes + 2)
         m_rowPool.GiveBack(given);
-    CListCtrl::SetItemData(row, 0);
-    return CListCtrl::DeleteItem(row);
+    else
+        PutRowsInOrder();
+    return deleted;
 }
 
 int CXListCtrl::DeleteAllItems()
 {
-    m_rowPool.GiveBackAll();
-    return m_hWnd != nullptr ? CListCtrl::DeleteAllItems() : FALSE;
+    if (m_hWnd == nullptr)
+    {
+        m_rowPool.GiveBackAll();
+        return FALSE;
+    }
+    Watch const watch(*this);
+    // Rows stay in use until no native item shows them any more: the host hears of each one that goes.
+    BOOL const deleted = CListCtrl::DeleteAllItems();
+    if (!watch.IsAlive())
+        return deleted;
+    if (RowCount() == 0 && m_pinned.empty())
+        m_rowPool.GiveBackAll();
+    else
+        PutRowsInOrder();
+    return deleted;
+}
+
+void CXListCtrl::PutRowsInOrder(std::span<XLISTCTRLROW * const> spares)
+{
+    // The host hears of each repair. One that goes on moving rows for ever is left alone after a while.
+    constexpr int most_tries = 8;
+
+    Watch const watch(*this);
+    for (int tries = 0; tries < most_tries; ++tries)
+    {
+        unsigned long long changes = m_rowChanges;
+        std::vector<int> const sharing = GiveBackUnshownRows();
+        if (m_swapsRows)
+            return;
+        for (int const row : sharing)
+        {
+            auto const spare = std::find_if(spares.begin(), spares.end(),
+                                            [this](XLISTCTRLROW const * object) { return PlaceOf(object) < 0; });
+            XLISTCTRLROW * const object = spare != spares.end() ? *spare : TakeRow();
+            Pin const pin(*this, object);
+            SetNativeParam(row, object);
+            if (!watch.IsAlive())
+                return;
+            if (m_rowChanges != ++changes)
+                break;
+        }
+        if (m_rowChanges == changes)
+            return;
+    }
+}
+
+std::vector<int> CXListCtrl::GiveBackUnshownRows()
+{
+    std::unordered_set<XLISTCTRLROW const *> kept(m_pinned.begin(), m_pinned.end());
+    std::unordered_set<XLISTCTRLROW const *> shown;
+    std::vector<int> sharing;
+    int const rows = RowCount();
+    for (int row = 0; row < rows; ++row)
+    {
+        XLISTCTRLROW const * const object = RowOf(row);
+        if (object != nullptr && !shown.insert(object).second)
+            sharing.push_back(row);
+    }
+    kept.merge(shown);
+    m_rowPool.GiveBackUnless([&kept](XLISTCTRLROW const & row) { return kept.contains(&row); });
+    return sharing;
 }
 
 void CXListCtrl::SetBatchInsertMode(bool on)
@@ -96,8 +193,10 @@ void CXListCtrl::EnableAll(bool enable)
         SetEnabled(row, enable);
     if (m_hWnd == nullptr)
         return;
+    Watch const watch(*this);
     EnableWindow(enable);
-    Invalidate();
+    if (watch.IsAlive())
+        Invalidate();
 }
 
 void CXListCtrl::DisableAll(bool disable)
@@ -131,9 +230,9 @@ bool CXListCtrl::SetCurSel(int row, bool ensureVisible)
     }
     if (m_hWnd == nullptr)
         return false;
-    bool const set =
-        SetItemState(row, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED) != FALSE;
-    if (ensureVisible)
+    Watch const watch(*this);
+    bool const set = SetItemState(row, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED) != FALSE;
+    if (ensureVisible && watch.IsAlive())
         EnsureVisible(row, FALSE);
     return set;
 }
@@ -152,8 +251,8 @@ void CXListCtrl::UpdateSubItem(int row, int col)
     if (m_batchInsert || row < 0 || col < -1 || col >= m_columnCount || row >= RowCount())
         return;
     CRect rect;
-    bool const known = col >= 0 ? GetSubItemRect(row, col, LVIR_BOUNDS, rect)
-                                : GetItemRect(row, &rect, LVIR_BOUNDS) != FALSE;
+    bool const known =
+        col >= 0 ? GetSubItemRect(row, col, LVIR_BOUNDS, rect) : GetItemRect(row, &rect, LVIR_BOUNDS) != FALSE;
     if (!known)
         return;
     rect.InflateRect(repaint_margin, repaint_margin);

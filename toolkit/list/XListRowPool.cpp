@@ -5,6 +5,7 @@
 
 void XLISTCTRLROW::Prepare(unsigned int columns)
 {
+    ++m_use;
     if (columns > m_capacity)
     {
         m_cells = std::make_unique<XLISTCTRLDATA[]>(columns);

@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <memory>
+#include <utility>
 
 #include "list/XListCtrlData.h"
 
@@ -19,11 +20,15 @@ public:
     /// The place in the list that a sort under way has found for the row; without a meaning at other times.
     int sortPlace() const { return m_sortPlace; }
     void SetSortPlace(int place) { m_sortPlace = place; }
+    /// Counts the rows that this object has been: whoever holds it over a call that can run the host's code sees by
+    /// another number that it was given back and taken anew.
+    unsigned long long use() const { return m_use; }
 
 private:
     std::unique_ptr<XLISTCTRLDATA[]> m_cells;
     unsigned int m_capacity = 0;
     int m_sortPlace = 0;
+    unsigned long long m_use = 0;
 };
 
 /// Owns every row that a list ever had, until the list ends. Rows in use stand first, in no particular order; behind
@@ -42,6 +47,15 @@ public:
     bool GiveBack(XLISTCTRLROW const * row);
     /// Every row is given back.
     void GiveBackAll() { m_used = 0; }
+    /// Every row is given back for which keeps(XLISTCTRLROW const &) is false.
+    template <class Keeps> void GiveBackUnless(Keeps && keeps)
+    {
+        for (std::size_t slot = m_used; slot-- > 0;)
+        {
+            if (!keeps(std::as_const(*m_slots[slot])))
+                GiveBack(m_slots[slot].get());
+        }
+    }
 
     std::size_t capacity() const { return m_capacity; }
     std::size_t used() const { return m_used; }
