@@ -39,6 +39,9 @@ public:
     CXListCtrl & operator=(CXListCtrl const &) = delete;
     ~CXListCtrl() override;
 
+    // What the list calls back is called through a copy, so that it may replace itself: what it must remember from one
+    // call to the next stands outside of it.
+
     /// A left click on an enabled cell, before the cell acts: row, column.
     std::function<void(int, int)> m_onCellClick;
     /// The user changed a cell: row, column.

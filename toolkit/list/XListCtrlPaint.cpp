@@ -147,7 +147,9 @@ void CXListCtrl::OnCustomDraw(NMHDR * header, LRESULT * result)
     }
     else if ((cell.properties & XLP_CUSTOMDRAW) != 0)
     {
-        cell.customDraw(row, col, dc, rect);
+        // A copy: it may replace itself.
+        auto const painter = cell.customDraw;
+        painter(row, col, dc, rect);
         // The host's code may have changed anything.
         if (m_paint != nullptr)
             *m_paint = {};

@@ -1,0 +1,357 @@
+// Hosts that change rows and callables, or end the list, from within what the list tells them.
+
+#include "ListTestHost.h"
+#include "Pump.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <functional>
+#include <map>
+#include <memory>
+#include <utility>
+#include <vector>
+
+namespace
+{
+using tests::PostedRows;
+
+class HostileList : public testing::Test
+{
+protected:
+    void SetUp() override { m_host.Fill(3, 4); }
+
+    /// Calls the action once, at the first notification of that code.
+    void Once(UINT code, std::function<void()> action)
+    {
+        m_host.parent.onNotify = [this, code, action = std::move(action), done = false](NMHDR const & header) mutable {
+            if (done || header.code != code || header.hwndFrom != m_list.m_hWnd)
+                return;
+            done = true;
+            ++m_heard;
+            auto const called = action;
+            called();
+        };
+    }
+    void Press(int row, int col)
+    {
+        CRect cell;
+        ASSERT_TRUE(m_list.GetSubItemRect(row, col, LVIR_BOUNDS, cell));
+        LPARAM const place = MAKELPARAM(cell.left + 5, cell.CenterPoint().y);
+        // The native list waits for the end within the press.
+        m_list.PostMessage(WM_LBUTTONUP, 0, place);
+        m_list.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, place);
+    }
+    /// Every item has a row object of its own.
+    void ExpectOwnRows()
+    {
+        std::vector<LPARAM> seen;
+        for (int row = 0; row < m_list.GetItemCount(); ++row)
+        {
+            LPARAM const object = m_list.Param(row);
+            EXPECT_NE(object, 0) << row;
+            EXPECT_EQ(std::count(seen.begin(), seen.end(), object), 0) << "row " << row << " shares its object";
+            seen.push_back(object);
+        }
+    }
+
+    tests::ListHost m_host;
+    tests::TestList & m_list = m_host.list;
+    int m_heard = 0;
+};
+
+TEST_F(HostileList, TextWhoseRowIsReplacedWhileItIsSetLeavesTheNewRowAlone)
+{
+    // The new row takes the object of the deleted one.
+    Once(LVN_ITEMCHANGED, [this] {
+        m_list.DeleteAllItems();
+        m_list.AddItem(L"new", nullptr, 5);
+        m_list.SetItemText(0, 0, 42);
+        m_list.SetItemValueType(0, 0, XLV_DATETIME);
+    });
+    m_list.SetItemText(0, 0, L"text");
+    ASSERT_EQ(m_heard, 1);
+    EXPECT_EQ(m_list.GetItemValueType(0, 0), XLV_DATETIME);
+    EXPECT_EQ(m_list.GetItemText(0, 0), L"42");
+}
+
+TEST_F(HostileList, NumberWhoseRowIsDeletedWhileItIsSetIsForgotten)
+{
+    Once(LVN_ITEMCHANGED, [this] { m_list.DeleteItem(0); });
+    m_list.SetItemText(0, 0, 7);
+    ASSERT_EQ(m_heard, 1);
+    EXPECT_EQ(m_list.GetItemCount(), 3);
+    EXPECT_EQ(m_list.GetItemValueType(0, 0), XLV_TEXT);
+    EXPECT_EQ(m_list.GetItemText(0, 0), L"r1");
+}
+
+TEST_F(HostileList, ValueFollowsItsRowWhenTheHostInsertsAboveIt)
+{
+    Once(LVN_ITEMCHANGED, [this] { m_list.InsertItem(0, L"above", nullptr, 0); });
+    EXPECT_TRUE(m_list.SetItemFloatVal(2, 0, 1.5F, L"shown"));
+    ASSERT_EQ(m_heard, 1);
+    EXPECT_EQ(m_list.GetItemValueType(2, 0), XLV_TEXT);
+    EXPECT_EQ(m_list.GetItemValueType(3, 0), XLV_FLOAT);
+    EXPECT_EQ(m_list.GetItemText(3, 0), L"shown");
+}
+
+TEST_F(HostileList, NumberSetWithinAnotherNumbersNotificationSpoilsNeither)
+{
+    Once(LVN_ITEMCHANGING, [this] { m_list.SetItemText(1, 0, 222); });
+    m_list.SetItemText(0, 0, 111);
+    ASSERT_EQ(m_heard, 1);
+    EXPECT_EQ(m_list.GetItemText(0, 0), L"111");
+    EXPECT_EQ(m_list.GetItemText(1, 0), L"222");
+}
+
+TEST_F(HostileList, ComboTextThatTheHostTakesAwayMeanwhileIsShown)
+{
+    auto texts = std::make_unique<std::map<int, CString>>();
+    (*texts)[3] = L"a text long enough to have a buffer of its own on the heap";
+    Once(LVN_ITEMCHANGING, [&] { texts.reset(); });
+    EXPECT_TRUE(m_list.SetComboBox(0, 0, texts.get(), 3, -1));
+    ASSERT_EQ(m_heard, 1);
+    EXPECT_EQ(m_list.GetItemText(0, 0), L"a text long enough to have a buffer of its own on the heap");
+}
+
+TEST_F(HostileList, RowDeletedAsItIsInsertedLeavesNoGhost)
+{
+    m_list.DeleteAllItems();
+    Once(LVN_INSERTITEM, [this] { m_list.DeleteItem(0); });
+    EXPECT_EQ(m_list.AddItem(L"ghost", nullptr, 77), -1);
+    ASSERT_EQ(m_heard, 1);
+    EXPECT_EQ(m_list.GetItemCount(), 0);
+    EXPECT_FALSE(m_list.IsValidItem(0, 0));
+    EXPECT_EQ(m_list.GetRowData(0), nullptr);
+    EXPECT_EQ(m_list.GetItemData64(0), 0);
+    m_list.AddItem(L"next", nullptr, 1);
+    m_list.AddItem(L"after", nullptr, 2);
+    ExpectOwnRows();
+}
+
+TEST_F(HostileList, RowInsertedAboveANewOneMovesTheIndexReturned)
+{
+    Once(LVN_INSERTITEM, [this] { m_list.InsertItem(0, L"above", nullptr, 1); });
+    int const row = m_list.InsertItem(2, L"mine", nullptr, 2);
+    ASSERT_EQ(m_heard, 1);
+    EXPECT_EQ(row, 3);
+    EXPECT_EQ(m_list.GetItemData64(row), 2);
+    EXPECT_EQ(m_list.GetItemText(row, 0), L"mine");
+    EXPECT_EQ(m_list.GetItemData64(0), 1);
+    EXPECT_EQ(m_list.GetItemText(0, 0), L"above");
+    EXPECT_EQ(m_list.GetItemData64(2), 0);
+    ExpectOwnRows();
+}
+
+TEST_F(HostileList, RowsInsertedWhileTheListIsClearedKeepTheirCells)
+{
+    Once(LVN_DELETEITEM, [this] { m_list.AddItem(L"stays", nullptr, 9); });
+    m_list.DeleteAllItems();
+    ASSERT_EQ(m_heard, 1);
+    for (int i = 0; i < 3; ++i)
+        m_list.AddItem(L"later", nullptr, 100 + i);
+    ExpectOwnRows();
+}
+
+TEST_F(HostileList, RowInsertedAboveTheOneThatIsDeletedStays)
+{
+    m_list.SetItemData(1, 11);
+    Once(LVN_ITEMCHANGING, [this] { m_list.InsertItem(0, L"above", nullptr, 5); });
+    m_list.DeleteItem(1);
+    // Not every native list tells of a changed parameter word; where it does, the right row goes.
+    EXPECT_EQ(m_list.FindDataItem(11), -1);
+    EXPECT_EQ(m_list.GetItemCount(), 3 + m_heard);
+    EXPECT_EQ(m_list.FindDataItem(5), m_heard - 1);
+    ExpectOwnRows();
+}
+
+TEST_F(HostileList, CallablesThatReplaceThemselvesLiveUntilTheyReturn)
+{
+    // Each callable holds the token; it is gone where the callable is destroyed while it runs.
+    auto token = std::make_shared<int>(1);
+    std::weak_ptr<int> const held = token;
+    bool livedOn = false;
+    m_list.SetCheckbox(0, 1, XLC_UNCHECKED);
+    m_list.m_onCellClick = [this, token, &held, &livedOn](int, int) {
+        auto & livedOnHere = livedOn;
+        auto const & heldHere = held;
+        m_list.m_onCellClick = nullptr;
+        livedOnHere = !heldHere.expired();
+    };
+    token.reset();
+    Press(0, 1);
+    EXPECT_TRUE(livedOn) << "m_onCellClick";
+
+    token = std::make_shared<int>(2);
+    std::weak_ptr<int> const second = token;
+    livedOn = false;
+    m_list.m_onStateChange = [this, token, &second, &livedOn](int, int) {
+        auto & livedOnHere = livedOn;
+        auto const & heldHere = second;
+        m_list.m_onStateChange = nullptr;
+        livedOnHere = !heldHere.expired();
+    };
+    token.reset();
+    Press(0, 1);
+    EXPECT_TRUE(livedOn) << "m_onStateChange";
+
+    token = std::make_shared<int>(3);
+    std::weak_ptr<int> const third = token;
+    livedOn = false;
+    m_list.m_onDoubleClick = [this, token, &third, &livedOn](int, int) {
+        auto & livedOnHere = livedOn;
+        auto const & heldHere = third;
+        m_list.m_onDoubleClick = nullptr;
+        livedOnHere = !heldHere.expired();
+    };
+    token.reset();
+    CRect cell;
+    ASSERT_TRUE(m_list.GetSubItemRect(0, 2, LVIR_BOUNDS, cell));
+    m_list.SendMessage(WM_LBUTTONDBLCLK, 0, MAKELPARAM(cell.left + 5, cell.CenterPoint().y));
+    EXPECT_TRUE(livedOn) << "m_onDoubleClick";
+}
+
+TEST_F(HostileList, PressFlipsTheRowThatWasPressedWhereverItWent)
+{
+    m_list.SetCheckbox(1, 1, XLC_UNCHECKED);
+    m_list.SetCheckbox(2, 1, XLC_UNCHECKED);
+    m_list.SetItemData(1, 11);
+    m_list.m_onCellClick = [this](int, int) { m_list.InsertItem(0, L"above", nullptr, 0); };
+    m_host.TakePosted();
+    Press(1, 1);
+    EXPECT_EQ(m_list.FindDataItem(11), 2);
+    EXPECT_EQ(m_list.GetCheckbox(2, 1), XLC_CHECKED);
+    EXPECT_EQ(m_list.GetCheckbox(1, 1), XLC_NONE);
+    EXPECT_EQ(m_list.GetCheckbox(3, 1), XLC_UNCHECKED);
+    EXPECT_EQ(m_host.TakePosted(), (PostedRows{{WM_XLISTCTRL_CHECKBOX_CLICKED, 2, 1}}));
+}
+
+TEST_F(HostileList, PressOnARowThatGoesAwayFlipsNoOther)
+{
+    m_list.SetCheckbox(1, 1, XLC_UNCHECKED);
+    m_list.SetCheckbox(2, 1, XLC_UNCHECKED);
+    m_list.m_onCellClick = [this](int row, int) { m_list.DeleteItem(row); };
+    Press(1, 1);
+    EXPECT_EQ(m_list.GetItemCount(), 3);
+    EXPECT_EQ(m_list.GetCheckbox(1, 1), XLC_UNCHECKED);
+    EXPECT_EQ(m_host.TakePosted(), PostedRows{});
+}
+
+TEST_F(HostileList, RadioPressStandsARowDeletedByTheFirstNotification)
+{
+    for (int row = 0; row < 4; ++row)
+        m_list.SetRadioButton(row, 1, row == 3 ? XLC_RADIO_ON : XLC_RADIO_OFF);
+    m_list.SetItemData(1, 11);
+    int calls = 0;
+    m_list.m_onStateChange = [this, &calls](int, int) {
+        if (++calls == 1)
+            m_list.DeleteItem(0);
+    };
+    Press(1, 1);
+    int const row = m_list.FindDataItem(11);
+    ASSERT_EQ(row, 0);
+    EXPECT_TRUE(m_list.GetItemRadioOn(row, 1));
+    EXPECT_EQ(m_list.GetActiveRadioItem(1), 0);
+}
+
+TEST_F(HostileList, RowsChangedWithinASwapKeepObjectsOfTheirOwn)
+{
+    for (int row = 0; row < 4; ++row)
+        m_list.SetItemData(row, row + 1);
+    m_list.EnableDragAndDrop();
+    NMLISTVIEW drag{};
+    drag.hdr.hwndFrom = m_list.m_hWnd;
+    drag.hdr.code = LVN_BEGINDRAG;
+    drag.iItem = 3;
+    CRect first;
+    ASSERT_TRUE(m_list.GetSubItemRect(0, 0, LVIR_BOUNDS, first));
+    LRESULT result = 0;
+    m_list.OnChildNotify(WM_NOTIFY, tests::TestList::id, reinterpret_cast<LPARAM>(&drag), &result);
+    LPARAM const place = MAKELPARAM(first.left + 5, first.CenterPoint().y);
+    m_list.SendMessage(WM_MOUSEMOVE, MK_LBUTTON, place);
+    // From here on each change of an item brings a change of rows, as long as there are some.
+    m_host.parent.onNotify = [this, inside = false](NMHDR const & header) mutable {
+        if (inside || header.code != LVN_ITEMCHANGED)
+            return;
+        inside = true;
+        m_list.DeleteItem(1);
+        m_list.InsertItem(0, L"above", nullptr, 50);
+        inside = false;
+    };
+    m_list.SendMessage(WM_LBUTTONUP, 0, place);
+    m_host.parent.onNotify = nullptr;
+    for (int i = 0; i < 6; ++i)
+        m_list.AddItem(L"later", nullptr, 100 + i);
+    ExpectOwnRows();
+}
+
+/// A list on the heap, which its host deletes.
+class DeletedList : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        ASSERT_TRUE(m_list->Create(tests::TestList::default_style, CRect(0, 0, 360, 200), &m_parent, 7));
+        m_list->AddColumns(3);
+        m_list->AddRows(4);
+        m_list->UpdateWindow();
+        tests::PumpPosted();
+    }
+    void TearDown() override { EXPECT_EQ(m_list, nullptr) << "the host was not called"; }
+
+    std::function<void(int, int)> Deletes()
+    {
+        return [this](int, int) { m_list.reset(); };
+    }
+    void Press(UINT message, int row, int col)
+    {
+        CRect cell;
+        ASSERT_TRUE(m_list->GetSubItemRect(row, col, LVIR_BOUNDS, cell));
+        HWND const window = m_list->m_hWnd;
+        ::SendMessageW(window, message, MK_LBUTTON, MAKELPARAM(cell.left + 5, cell.CenterPoint().y));
+        tests::PumpPosted();
+    }
+
+    tests::ListParent m_parent;
+    std::unique_ptr<tests::TestList> m_list = std::make_unique<tests::TestList>();
+};
+
+TEST_F(DeletedList, AtACellClick)
+{
+    m_list->SetCheckbox(1, 1, XLC_UNCHECKED);
+    m_list->m_onCellClick = Deletes();
+    Press(WM_LBUTTONDOWN, 1, 1);
+}
+
+TEST_F(DeletedList, AtAFlippedCheckBox)
+{
+    m_list->SetHeaderAutoCheckbox(true);
+    m_list->SetCheckbox(1, 1, XLC_UNCHECKED);
+    m_list->m_onStateChange = Deletes();
+    Press(WM_LBUTTONDOWN, 1, 1);
+}
+
+TEST_F(DeletedList, AtTheFirstOfTwoRadioButtons)
+{
+    m_list->SetRadioButton(0, 1, XLC_RADIO_ON);
+    m_list->SetRadioButton(1, 1, XLC_RADIO_OFF);
+    m_list->m_onStateChange = Deletes();
+    Press(WM_LBUTTONDOWN, 1, 1);
+}
+
+TEST_F(DeletedList, AtADoubleClick)
+{
+    m_list->m_onDoubleClick = Deletes();
+    Press(WM_LBUTTONDBLCLK, 1, 1);
+}
+
+TEST_F(DeletedList, AtAHeaderClick)
+{
+    m_list->SetHeaderAutoCheckbox(true);
+    for (int row = 0; row < 4; ++row)
+        m_list->SetCheckbox(row, 1, XLC_UNCHECKED);
+    m_list->SetHeaderCheckedState(1, XHC_UNCHECKED);
+    m_list->m_onStateChange = Deletes();
+    m_list->OnHeaderColumnClick(1);
+}
+} // namespace
