@@ -2,6 +2,8 @@
 
 #include "list/XListCtrl.h"
 
+#include "list/XListRowWatch.h"
+
 #include <algorithm>
 #include <string_view>
 #include <utility>
@@ -187,17 +189,22 @@ void CXListCtrl::drop_on_list()
     auto const columns = static_cast<std::size_t>(m_columnCount);
     std::vector<dd_list_Item> upper(columns);
     std::vector<dd_list_Item> lower(columns);
-    HWND const self = m_hWnd;
     save_row(upper, a);
     save_row(lower, b);
+    RowWatch const watch(*this);
     restore_row(upper, b);
-    restore_row(lower, a);
-    if (!::IsWindow(self))
+    if (watch.IsThere())
+        restore_row(lower, a);
+    if (!watch.IsThere())
         return;
+    // Only both together leave each item with a row of its own.
+    if (watch.Changes() != 2 * columns)
+        m_rowsInStep = false;
     RedrawItems(a, a);
     RedrawItems(b, b);
-    if (m_onRowsSwapped)
-        m_onRowsSwapped(a, b);
+    // A copy: it may replace itself, or end the list.
+    if (auto const swapped = m_onRowsSwapped)
+        swapped(a, b);
 }
 
 void CXListCtrl::save_row(std::vector<dd_list_Item> & saved, int row)
@@ -225,11 +232,15 @@ void CXListCtrl::restore_row(std::vector<dd_list_Item> & saved, int row)
     if (saved.empty())
         return;
     auto const * const object = reinterpret_cast<XLISTCTRLROW const *>(saved.front().item.lParam);
-    for (std::size_t col = 0; col < saved.size(); ++col)
+    RowWatch const watch(*this);
+    for (std::size_t col = 0; col < saved.size() && watch.IsThere(); ++col)
     {
         if (object != nullptr && col < object->capacity())
             object->cells()[col].properties |= XLP_MODIFIED;
         saved[col].item.iItem = row;
+        m_ownRowChange = true;
         ::SendMessageW(m_hWnd, LVM_SETITEMW, 0, reinterpret_cast<LPARAM>(&saved[col].item));
+        if (watch.IsThere())
+            m_ownRowChange = false;
     }
 }

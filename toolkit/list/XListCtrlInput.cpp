@@ -4,6 +4,7 @@
 
 #include "frame/RegisteredMessages.h"
 #include "list/XListInput.h"
+#include "list/XListRowWatch.h"
 
 namespace
 {
@@ -214,10 +215,15 @@ void CXListCtrl::OnHeaderColumnClick(int col)
     HeaderPress const press = DecideHeaderPress(GetHeaderCheckedState(col), m_headerAutoCheckbox);
     if (press.changesCells)
     {
-        HWND const self = m_hWnd;
+        RowWatch const watch(*this);
         SetHeaderCheckedState(col, press.headerState);
+        if (!watch.IsThere())
+            return;
         m_header.UpdateWindow();
-        for (int row = 0; row < GetItemCount(); ++row)
+        if (!watch.IsThere())
+            return;
+        int rows = RowCount();
+        for (int row = 0; row < rows; ++row)
         {
             XLISTCTRLDATA * const cell = ValidCell(row, col);
             if (cell == nullptr || cell->checkedState == XLC_NONE || cell->checkedState == press.cellState)
@@ -227,8 +233,9 @@ void CXListCtrl::OnHeaderColumnClick(int col)
             m_listModified = true;
             UpdateSubItem(row, col);
             OnItemStateChange(row, col, WM_XLISTCTRL_CHECKBOX_CLICKED);
-            if (!::IsWindow(self))
+            if (!watch.IsThere())
                 return;
+            rows = RowCount();
         }
     }
     PostToParent(WM_XLISTCTRL_COLUMNCLICK, Word(press.cellState), static_cast<LPARAM>(Word(col)));

@@ -2,6 +2,8 @@
 
 #include "list/XListCtrl.h"
 
+#include "list/XListRowWatch.h"
+
 #include <algorithm>
 #include <limits>
 
@@ -68,18 +70,42 @@ int CXListCtrl::InsertWithRow(LVITEMW item, COLORREF text, COLORREF background, 
 
 int CXListCtrl::DeleteItem(int row)
 {
-    if (row < 0 || row >= RowCount())
+    LVITEMW item{};
+    item.mask = LVIF_PARAM;
+    item.iItem = row;
+    if (row < 0 || m_hWnd == nullptr || !AskNative(LVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&item)))
         return FALSE;
-    if (XLISTCTRLROW const * const given = RowOf(row))
-        m_rowPool.GiveBack(given);
-    CListCtrl::SetItemData(row, 0);
-    return CListCtrl::DeleteItem(row);
+    RowWatch const watch(*this);
+    if (auto const * const given = reinterpret_cast<XLISTCTRLROW const *>(item.lParam))
+    {
+        if (RowsAreKnown() || m_rowPool.Owns(given))
+            m_rowPool.GiveBack(given);
+        bool const changed = SetNativeParam(row, nullptr);
+        // The parent hears of that and may have changed the rows, so that another one stands there.
+        if (!watch.IsThere() || (changed && watch.Changes() != 1 && NativeParam(row) != nullptr))
+            return FALSE;
+    }
+    m_ownRowChange = true;
+    BOOL const deleted = CListCtrl::DeleteItem(row);
+    if (watch.IsThere())
+        m_ownRowChange = false;
+    return deleted;
 }
 
 int CXListCtrl::DeleteAllItems()
 {
     m_rowPool.GiveBackAll();
-    return m_hWnd != nullptr ? CListCtrl::DeleteAllItems() : FALSE;
+    if (m_hWnd == nullptr)
+        return FALSE;
+    RowWatch const watch(*this);
+    m_ownRowChange = true;
+    BOOL const deleted = CListCtrl::DeleteAllItems();
+    if (!watch.IsThere())
+        return deleted;
+    m_ownRowChange = false;
+    if (RowCount() == 0 && m_rowPool.used() == 0)
+        m_rowsInStep = true;
+    return deleted;
 }
 
 void CXListCtrl::SetBatchInsertMode(bool on)
@@ -91,13 +117,20 @@ void CXListCtrl::SetBatchInsertMode(bool on)
 
 void CXListCtrl::EnableAll(bool enable)
 {
-    int const rows = RowCount();
-    for (int row = 0; row < rows; ++row)
-        SetEnabled(row, enable);
+    VisitRows([this, enable](XLISTCTRLROW const & row) {
+        int const columns = std::min(m_columnCount, static_cast<int>(row.capacity()));
+        for (int col = 0; col < columns; ++col)
+        {
+            unsigned int & properties = row.cells()[col].properties;
+            properties = enable ? properties | XLP_ENABLED : properties & ~XLP_ENABLED;
+        }
+    });
     if (m_hWnd == nullptr)
         return;
+    RowWatch const watch(*this);
     EnableWindow(enable);
-    Invalidate();
+    if (watch.IsThere())
+        Invalidate();
 }
 
 void CXListCtrl::DisableAll(bool disable)

@@ -33,23 +33,18 @@ XLISTCTRLROW * CXListRowPool::Take()
     std::unique_ptr<XLISTCTRLROW> & slot = m_slots[m_used];
     if (slot == nullptr)
         slot = std::make_unique<XLISTCTRLROW>();
-    ++m_used;
+    slot->m_slot = m_used++;
     return slot.get();
 }
 
 bool CXListRowPool::GiveBack(XLISTCTRLROW const * row)
 {
-    std::unique_ptr<XLISTCTRLROW> * const begin = m_slots.get();
-    std::unique_ptr<XLISTCTRLROW> * const end = begin + m_used;
-    if (m_used != 0 && (end - 1)->get() == row)
-    {
-        --m_used;
-        return true;
-    }
-    auto * const found = std::find_if(begin, end, [row](auto const & slot) { return slot.get() == row; });
-    if (found == end)
+    if (row == nullptr || row->m_slot >= m_used || m_slots[row->m_slot].get() != row)
         return false;
-    --m_used;
-    std::swap(*found, *(end - 1));
+    std::unique_ptr<XLISTCTRLROW> & given = m_slots[row->m_slot];
+    std::unique_ptr<XLISTCTRLROW> & last = m_slots[--m_used];
+    std::swap(given, last);
+    given->m_slot = static_cast<std::size_t>(&given - m_slots.get());
+    last->m_slot = m_used;
     return true;
 }

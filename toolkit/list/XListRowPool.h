@@ -1,8 +1,10 @@
 #pragma once
 // The rows of a list, and the store that recycles them.
 
+#include <algorithm>
 #include <cstddef>
 #include <memory>
+#include <span>
 
 #include "list/XListCtrlData.h"
 
@@ -16,14 +18,25 @@ public:
     unsigned int capacity() const { return m_capacity; }
     /// Makes room for that many columns and gives all records up to the capacity their values of a recycled cell.
     void Prepare(unsigned int columns);
-    /// The place in the list that a sort under way has found for the row; without a meaning at other times.
-    int sortPlace() const { return m_sortPlace; }
-    void SetSortPlace(int place) { m_sortPlace = place; }
+    /// What a sort under way goes by: the rank first, then the value. Without a meaning at other times.
+    struct SortMark
+    {
+        long long value = 0;
+        /// Where the text shown begins, among the texts of the sort.
+        std::size_t text = 0;
+        int rank = 0;
+    };
+    SortMark const & sortMark() const { return m_sortMark; }
+    void SetSortMark(SortMark const & mark) { m_sortMark = mark; }
 
 private:
+    friend class CXListRowPool;
+
     std::unique_ptr<XLISTCTRLDATA[]> m_cells;
     unsigned int m_capacity = 0;
-    int m_sortPlace = 0;
+    SortMark m_sortMark;
+    /// The place in its pool.
+    std::size_t m_slot = 0;
 };
 
 /// Owns every row that a list ever had, until the list ends. Rows in use stand first, in no particular order; behind
@@ -42,6 +55,20 @@ public:
     bool GiveBack(XLISTCTRLROW const * row);
     /// Every row is given back.
     void GiveBackAll() { m_used = 0; }
+
+    using Slots = std::span<std::unique_ptr<XLISTCTRLROW> const>;
+    /// The rows in use, in no particular order.
+    Slots InUse() const { return {m_slots.get(), m_used}; }
+    /// Every slot: behind the rows in use the finished ones, then nulls.
+    Slots All() const { return {m_slots.get(), m_capacity}; }
+    /// Whether that is a row in use, without looking at what is behind the pointer.
+    bool Owns(XLISTCTRLROW const * row) const
+    {
+        Slots const rows = InUse();
+        return std::any_of(rows.begin(), rows.end(), [row](auto const & slot) { return slot.get() == row; });
+    }
+    /// Whether that is the row taken last, without looking at what is behind the pointer.
+    bool IsNewest(XLISTCTRLROW const * row) const { return m_used != 0 && m_slots[m_used - 1].get() == row; }
 
     std::size_t capacity() const { return m_capacity; }
     std::size_t used() const { return m_used; }
