@@ -16,7 +16,8 @@ constexpr Measure measures[] = {
     {"layout", bench::LayoutOf1000Children},    {"list-fill", bench::FillingAList},
     {"list-refill", bench::RefillingAList},     {"list-memory", bench::MemoryOfARow},
     {"list-paint", bench::PaintingAPageOfText}, {"list-kinds", bench::PaintingPagesOfOtherKinds},
-    {"list-sort", bench::SortingAList},         {"list-export", bench::ExportingAList},
+    {"list-sort", bench::SortingAList},         {"list-search", bench::SearchingAList},
+    {"list-delete", bench::DeletingRows},       {"list-export", bench::ExportingAList},
     {"segments", bench::PaintingSegmentCharacters},
 };
 } // namespace

@@ -15,6 +15,8 @@ bool MemoryOfARow();
 bool PaintingAPageOfText();
 bool PaintingPagesOfOtherKinds();
 bool SortingAList();
+bool SearchingAList();
+bool DeletingRows();
 bool ExportingAList();
 bool PaintingSegmentCharacters();
 

@@ -1,4 +1,5 @@
-// Sorting a report list beside the cheapest sort of a native one, and exporting it as text.
+// Sorting a report list beside the cheapest sort of a native one; searching and deleting its rows beside the same of a
+// native one; exporting it as text.
 
 #include <afxcmn.h>
 #include "clipboard/Clipboard.h"
@@ -6,6 +7,7 @@
 #include "ControlBench.h"
 #include "Measure.h"
 
+#include <iterator>
 #include <string>
 #include <vector>
 
@@ -13,8 +15,6 @@ namespace
 {
 using bench::Nanoseconds;
 
-constexpr int row_count = 100000;
-constexpr int rounds = 5;
 constexpr DWORD list_style = WS_CHILD | LVS_REPORT | LVS_SHOWSELALWAYS;
 CRect const list_place(0, 0, 700, 500);
 
@@ -45,12 +45,12 @@ enum column
     column_count
 };
 
-void Fill(CXListCtrl & list, int round)
+void Fill(CXListCtrl & list, int rowCount, int round)
 {
     list.SetRedraw(FALSE);
     list.SetBatchInsertMode(true);
     list.DeleteAllItems();
-    for (int row = 0; row < row_count; ++row)
+    for (int row = 0; row < rowCount; ++row)
     {
         int const key = Key(row, round);
         list.AddItem((L"recording " + std::to_wstring(key)).c_str(), nullptr, row);
@@ -61,12 +61,16 @@ void Fill(CXListCtrl & list, int round)
     list.SetRedraw(TRUE);
 }
 
-void Fill(CListCtrl & list, int round)
+void Fill(CListCtrl & list, int rowCount, int round)
 {
     list.SetRedraw(FALSE);
     list.DeleteAllItems();
-    for (int row = 0; row < row_count; ++row)
+    for (int row = 0; row < rowCount; ++row)
+    {
         list.InsertItem(LVIF_TEXT | LVIF_PARAM, row, L"recording", 0, 0, 0, Key(row, round));
+        for (int col = 1; col < column_count; ++col)
+            list.SetItemText(row, col, L"shown");
+    }
     list.SetRedraw(TRUE);
 }
 
@@ -91,7 +95,7 @@ struct Lists
     CListCtrl native;
 };
 
-bool IsSorted(CXListCtrl & list, int col)
+bool IsSorted(CXListCtrl & list, int rowCount, int col)
 {
     for (int row = 1; row < list.GetItemCount(); ++row)
     {
@@ -101,41 +105,171 @@ bool IsSorted(CXListCtrl & list, int col)
         if (!right)
             return false;
     }
-    return list.GetItemCount() == row_count;
+    return list.GetItemCount() == rowCount;
 }
 
-bool SortBy(column col, char const * name, double goal)
+/// 20000 as "20,000".
+std::string Number(int number)
+{
+    std::string const digits = std::to_string(number);
+    return number < 1000 ? digits : digits.substr(0, digits.size() - 3) + "," + digits.substr(digits.size() - 3);
+}
+
+/// Fewer rounds where each takes long.
+int RoundsFor(int rowCount)
+{
+    return rowCount <= 1000 ? 41 : rowCount <= 20000 ? 11 : 5;
+}
+
+/// Reads a column's texts, as whoever sorts a native list by them has to.
+void ReadTexts(CListCtrl const & list, int rowCount)
+{
+    wchar_t text[64];
+    for (int row = 0; row < rowCount; ++row)
+        list.GetItemText(row, 1, text, static_cast<int>(std::size(text)));
+}
+
+bool SortBy(column col, int rowCount)
 {
     Lists lists;
     std::vector<double> ours;
     std::vector<double> reference;
-    for (int round = 0; round < rounds; ++round)
+    std::vector<double> oursInOrder;
+    std::vector<double> referenceInOrder;
+    for (int round = 0; round < RoundsFor(rowCount); ++round)
     {
-        Fill(lists.own, round);
-        Fill(lists.native, round);
-        reference.push_back(Nanoseconds([&] { lists.native.SortItems(&CompareParams, 0); }));
-        ours.push_back(Nanoseconds([&] { lists.own.SortByColumn(col, true, false, nullptr); }));
+        Fill(lists.own, rowCount, round);
+        Fill(lists.native, rowCount, round);
+        auto const sortOwn = [&] { lists.own.SortByColumn(col, true, false, nullptr); };
+        auto const sortNative = [&] { lists.native.SortItems(&CompareParams, 0); };
+        reference.push_back(Nanoseconds(sortNative));
+        ours.push_back(Nanoseconds(sortOwn));
+        referenceInOrder.push_back(Nanoseconds([&] {
+            if (col == column_text)
+                ReadTexts(lists.native, rowCount);
+            sortNative();
+        }));
+        oursInOrder.push_back(Nanoseconds(sortOwn));
     }
-    return bench::Report(name, bench::Median(ours) / row_count, bench::Median(reference) / row_count, goal) &&
-           IsSorted(lists.own, col);
+    std::string const what = "sorting " + Number(rowCount) + " rows by " + (col == column_text ? "text" : "number");
+    bool const scattered =
+        bench::Report(what + " beside the native sort by a number, a row", bench::Median(ours) / rowCount,
+                      bench::Median(reference) / rowCount, col == column_text ? 2.0 : 1.5);
+    bool const inOrder =
+        bench::Report(what + ", in order already, beside the same" +
+                          (col == column_text ? " and reading the texts, a row" : ", a row"),
+                      bench::Median(oursInOrder) / rowCount, bench::Median(referenceInOrder) / rowCount, 2.0);
+    return IsSorted(lists.own, rowCount, col) && scattered && inOrder;
+}
+
+int FindParam(CListCtrl const & list, LPARAM param)
+{
+    LVFINDINFOW find{};
+    find.flags = LVFI_PARAM;
+    find.lParam = param;
+    return list.FindItem(&find);
+}
+
+bool SearchIn(int rowCount)
+{
+    Lists lists;
+    Fill(lists.own, rowCount, 0);
+    Fill(lists.native, rowCount, 0);
+    for (int row = 0; row < rowCount; ++row)
+        lists.native.SetItemData(row, static_cast<DWORD_PTR>(row));
+    struct Place
+    {
+        char const * name;
+        int row;
+    } const places[] = {{"first", 0}, {"middle", rowCount / 2}, {"last", rowCount - 1}, {"missing", -1}};
+    bool allMet = true;
+    for (auto const & [name, row] : places)
+    {
+        // The first row takes so little time that many searches are measured at once.
+        int const calls = row == 0 ? 1000 : 1;
+        bool right = true;
+        std::vector<double> ours;
+        std::vector<double> reference;
+        for (int round = 0; round < 31; ++round)
+        {
+            ours.push_back(Nanoseconds([&] {
+                for (int i = 0; i < calls; ++i)
+                    right = lists.own.FindDataItem(row >= 0 ? row : rowCount + 7) == row && right;
+            }));
+            reference.push_back(Nanoseconds([&] {
+                for (int i = 0; i < calls; ++i)
+                    right = FindParam(lists.native, row >= 0 ? row : rowCount + 7) == row && right;
+            }));
+        }
+        allMet = bench::Report("finding the " + std::string(name) + " of " + Number(rowCount) +
+                                   " rows beside the native search by parameter",
+                               bench::Median(ours) / calls, bench::Median(reference) / calls, 1.2) &&
+                 right && allMet;
+    }
+    return allMet;
+}
+
+/// The rows of a sorted list, one by one.
+bool DeleteRows(int rowCount, bool fromTop)
+{
+    Lists lists;
+    std::vector<double> ours;
+    std::vector<double> reference;
+    auto const deleteAll = [rowCount, fromTop](auto & list) {
+        for (int left = rowCount; left > 0; --left)
+            list.DeleteItem(fromTop ? 0 : left - 1);
+    };
+    for (int round = 0; round < 7; ++round)
+    {
+        Fill(lists.own, rowCount, round);
+        Fill(lists.native, rowCount, round);
+        lists.own.SortByColumn(column_number, true, false, nullptr);
+        lists.native.SortItems(&CompareParams, 0);
+        lists.own.SetRedraw(FALSE);
+        lists.native.SetRedraw(FALSE);
+        ours.push_back(Nanoseconds([&] { deleteAll(lists.own); }));
+        reference.push_back(Nanoseconds([&] { deleteAll(lists.native); }));
+    }
+    return bench::Report("deleting " + Number(rowCount) + " rows of a sorted list from the " +
+                             (fromTop ? "top" : "bottom") + " beside the native list, a row",
+                         bench::Median(ours) / rowCount, bench::Median(reference) / rowCount, 1.1);
 }
 } // namespace
 
 bool bench::SortingAList()
 {
-    bool const numbers = SortBy(column_number, "sorting 100,000 rows by number beside the native sort, a row", 1.5);
-    bool const texts = SortBy(column_text, "sorting 100,000 rows by text beside the native sort, a row", 2.5);
-    return numbers && texts;
+    bool allMet = true;
+    for (int const rowCount : {1000, 20000, 100000})
+    {
+        allMet = SortBy(column_number, rowCount) && allMet;
+        allMet = SortBy(column_text, rowCount) && allMet;
+    }
+    return allMet;
+}
+
+bool bench::SearchingAList()
+{
+    bool const some = SearchIn(20000);
+    bool const many = SearchIn(100000);
+    return some && many;
+}
+
+bool bench::DeletingRows()
+{
+    bool const top = DeleteRows(20000, true);
+    bool const bottom = DeleteRows(20000, false);
+    return top && bottom;
 }
 
 bool bench::ExportingAList()
 {
+    constexpr int row_count = 100000;
     Lists lists;
-    Fill(lists.own, 0);
+    Fill(lists.own, row_count, 0);
     bool done = true;
     std::vector<double> ours;
     std::vector<double> reference;
-    for (int round = 0; round < rounds; ++round)
+    for (int round = 0; round < 5; ++round)
     {
         ours.push_back(Nanoseconds([&] { done = lists.own.ExportToClipboard(true, 0, -1, 0, -1) && done; }));
         // The texts of one column, read one by one.

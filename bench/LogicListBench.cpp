@@ -41,20 +41,18 @@ Rows const & TheRows()
     return rows;
 }
 
-void SearchByFindRow(benchmark::State & state)
+void SearchByFindTopmostRow(benchmark::State & state)
 {
-    std::vector<XLISTCTRLROW *> const & parameters = TheRows().parameters;
+    Rows const & rows = TheRows();
     long long data = lastData;
     for (auto _ : state)
     {
         benchmark::DoNotOptimize(data);
-        int const found = FindRow(
-            rowCount,
-            [&](int row) {
-                XLISTCTRLROW const * const object = parameters[static_cast<std::size_t>(row)];
-                return object != nullptr ? object->cells() : nullptr;
-            },
-            [data](XLISTCTRLDATA const & cell) { return cell.itemData64 == data; });
+        int const found = FindTopmostRow(
+            rows.pool.InUse(), true, [] { return rowCount; },
+            FirstCellOf([data](XLISTCTRLDATA const & cell) { return cell.itemData64 == data; }),
+            [](XLISTCTRLROW const & row) { return static_cast<int>(row.cells()->itemData64); },
+            [&rows](int row) { return rows.parameters[static_cast<std::size_t>(row)]; });
         if (found != lastData)
             state.SkipWithError("not found");
         benchmark::DoNotOptimize(found);
@@ -84,7 +82,7 @@ void SearchByPlainLoop(benchmark::State & state)
 
 bool bench::SearchingRows()
 {
-    benchmark::RegisterBenchmark("search", SearchByFindRow)->MinTime(0.05)->Repetitions(20);
+    benchmark::RegisterBenchmark("search", SearchByFindTopmostRow)->MinTime(0.05)->Repetitions(20);
     benchmark::RegisterBenchmark("plain", SearchByPlainLoop)->MinTime(0.05)->Repetitions(20);
     std::map<std::string, double> times = RunRegistered();
     char name[120];

@@ -377,22 +377,21 @@ public:
     }
     int GetActiveRadioItem(int column)
     {
-        for (int row = 0; row < ItemCount(); ++row)
-            if (GetItemCheckedState(row, column) == XLC_RADIO_ON)
-                return row;
-        return -1;
+        return Find([column](XLISTCTRLROW const & row) {
+            return static_cast<unsigned>(column) < row.capacity() && row.cells()[column].checkedState == XLC_RADIO_ON;
+        });
     }
     int FindDataItem(long long data)
     {
-        return Find([data](XLISTCTRLDATA const & cell) { return cell.itemData64 == data; });
+        return Find(FirstCellOf([data](XLISTCTRLDATA const & cell) { return cell.itemData64 == data; }));
     }
     int FindDataItemPtr(void const * ptr)
     {
-        return Find([ptr](XLISTCTRLDATA const & cell) { return cell.itemDataPtr == ptr; });
+        return Find(FirstCellOf([ptr](XLISTCTRLDATA const & cell) { return cell.itemDataPtr == ptr; }));
     }
     int FindDataItemClavis(int const * key)
     {
-        return Find([key](XLISTCTRLDATA const & cell) { return HasClavis(cell, key); });
+        return Find(FirstCellOf([key](XLISTCTRLDATA const & cell) { return HasClavis(cell, key); }));
     }
     /// Every row object in an item is one of the pool's, in use, and in no other item.
     bool IsSound(std::size_t used) const
@@ -438,8 +437,15 @@ private:
     }
     template <class Matches> int Find(Matches && matches)
     {
-        return FindRow(
-            ItemCount(), [this](int row) { return FirstCell(row); }, matches);
+        auto const placeOf = [this](XLISTCTRLROW const & row) {
+            for (int place = 0; place < ItemCount(); ++place)
+                if (At(place).parameter == &row)
+                    return place;
+            return -1;
+        };
+        return FindTopmostRow(
+            m_pool.InUse(), true, [this] { return ItemCount(); }, matches, placeOf,
+            [this](int place) { return At(place).parameter; });
     }
     void ShowCombo(int row, int column, XLISTCTRLDATA & cell, int id)
     {

@@ -1,5 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstdint>
+#include <numeric>
+#include <random>
 #include <set>
 #include <vector>
 
@@ -199,23 +203,220 @@ TEST(ListRowPool, AllRowsGivenBackAreTakenAgainWithTheirCells)
     EXPECT_EQ(pool.capacity(), capacity);
 }
 
-TEST(ListSearch, FindsTheFirstRowFromTheTop)
+/// The definition: which row is taken next, by slots that are swapped and searched from the start.
+struct PlainPool
 {
-    XLISTCTRLDATA cells[4];
-    cells[1].itemData64 = 7;
-    cells[3].itemData64 = 7;
-    auto const at = [&](int row) { return &cells[row]; };
-    EXPECT_EQ(FindRow(4, at, [](XLISTCTRLDATA const & cell) { return cell.itemData64 == 7; }), 1);
-    EXPECT_EQ(FindRow(4, at, [](XLISTCTRLDATA const & cell) { return cell.itemData64 == 8; }), -1);
-    EXPECT_EQ(FindRow(0, at, [](XLISTCTRLDATA const &) { return true; }), -1);
+    std::vector<int> slots;
+    std::size_t used = 0;
+
+    int Take()
+    {
+        if (used == slots.size())
+            slots.push_back(static_cast<int>(slots.size()));
+        return slots[used++];
+    }
+    bool GiveBack(int row)
+    {
+        if (used == 0)
+            return false;
+        --used;
+        if (slots[used] == row)
+            return true;
+        for (std::size_t i = 0; i < used; ++i)
+        {
+            if (slots[i] == row)
+            {
+                std::swap(slots[i], slots[used]);
+                return true;
+            }
+        }
+        ++used;
+        return false;
+    }
+};
+
+TEST(ListRowPool, RecyclesRowsInTheOrderOfTheDefinition)
+{
+    std::mt19937 random(4);
+    CXListRowPool pool(2);
+    PlainPool plain;
+    std::vector<XLISTCTRLROW *> rows;
+    for (int step = 0; step < 20000; ++step)
+    {
+        // Fills and empties in turns.
+        if (random() % 100 < (step / 500 % 2 == 0 ? 70 : 35))
+        {
+            XLISTCTRLROW * const row = pool.Take();
+            auto const number = static_cast<std::size_t>(plain.Take());
+            if (number == rows.size())
+                rows.push_back(row);
+            ASSERT_LT(number, rows.size()) << "step " << step;
+            ASSERT_EQ(row, rows[number]) << "step " << step;
+        }
+        else if (!rows.empty())
+        {
+            auto const number = random() % rows.size();
+            ASSERT_EQ(pool.GiveBack(rows[number]), plain.GiveBack(static_cast<int>(number))) << "step " << step;
+        }
+        if (random() % 2000 == 0)
+        {
+            pool.GiveBackAll();
+            plain.used = 0;
+        }
+        ASSERT_EQ(pool.used(), plain.used);
+        std::size_t slot = 0;
+        for (auto const & row : pool.InUse())
+            ASSERT_EQ(row.get(), rows[static_cast<std::size_t>(plain.slots[slot++])]);
+        ASSERT_EQ(slot, plain.used);
+    }
+}
+
+TEST(ListRowPool, TellsItsRowsInUseByTheirAddressAlone)
+{
+    CXListRowPool pool(2);
+    std::vector<XLISTCTRLROW *> const rows = TakeRows(pool, 3);
+    auto const * const alien = reinterpret_cast<XLISTCTRLROW const *>(static_cast<std::uintptr_t>(1));
+    EXPECT_TRUE(pool.Owns(rows[0]));
+    EXPECT_TRUE(pool.Owns(rows[2]));
+    EXPECT_TRUE(pool.IsNewest(rows[2]));
+    EXPECT_FALSE(pool.IsNewest(rows[0]));
+    EXPECT_FALSE(pool.Owns(alien));
+    EXPECT_FALSE(pool.IsNewest(alien));
+    EXPECT_FALSE(pool.Owns(nullptr));
+    pool.GiveBack(rows[2]);
+    EXPECT_FALSE(pool.Owns(rows[2]));
+    EXPECT_FALSE(pool.IsNewest(rows[2]));
+    EXPECT_TRUE(pool.IsNewest(rows[1]));
+    EXPECT_EQ(pool.All().size(), pool.capacity());
+}
+
+// --- Searches ---
+
+/// A list of rows from a pool, which counts the questions it is asked.
+class SearchedRows
+{
+public:
+    /// The rows by their words, from the top; their places in the pool are the other way round.
+    explicit SearchedRows(std::vector<long long> const & words) : m_places(words.size())
+    {
+        for (std::size_t i = words.size(); i-- > 0;)
+        {
+            m_places[i] = m_pool.Take();
+            m_places[i]->Prepare(1);
+            m_places[i]->cells()->itemData64 = words[i];
+        }
+    }
+    int Find(long long word, bool areRows = true)
+    {
+        m_placesAsked = 0;
+        m_rowsAsked = 0;
+        return FindTopmostRow(
+            m_pool.InUse(), areRows, [this] { return static_cast<int>(m_places.size()); },
+            FirstCellOf([word](XLISTCTRLDATA const & cell) { return cell.itemData64 == word; }),
+            [this](XLISTCTRLROW const & row) {
+                ++m_placesAsked;
+                auto const found = std::find(m_places.begin(), m_places.end(), &row);
+                return found != m_places.end() ? static_cast<int>(found - m_places.begin()) : -1;
+            },
+            [this](int place) {
+                ++m_rowsAsked;
+                return m_places[static_cast<std::size_t>(place)];
+            });
+    }
+    std::vector<XLISTCTRLROW *> & Places() { return m_places; }
+    int PlacesAsked() const { return m_placesAsked; }
+    int RowsAsked() const { return m_rowsAsked; }
+    CXListRowPool & Pool() { return m_pool; }
+
+private:
+    CXListRowPool m_pool{4};
+    std::vector<XLISTCTRLROW *> m_places;
+    int m_placesAsked = 0;
+    int m_rowsAsked = 0;
+};
+
+TEST(ListSearch, AsksForTheOneRowThatFitsAndForNothingIfNoneDoes)
+{
+    SearchedRows rows({5, 6, 7, 8});
+    EXPECT_EQ(rows.Find(7), 2);
+    EXPECT_EQ(rows.PlacesAsked(), 1);
+    EXPECT_EQ(rows.RowsAsked(), 0);
+    EXPECT_EQ(rows.Find(9), -1);
+    EXPECT_EQ(rows.PlacesAsked() + rows.RowsAsked(), 0);
+    SearchedRows none({});
+    EXPECT_EQ(none.Find(0), -1);
+}
+
+TEST(ListSearch, TheTopmostOfFewRowsIsFound)
+{
+    SearchedRows rows({5, 7, 6, 7, 7});
+    EXPECT_EQ(rows.Find(7), 1);
+    std::swap(rows.Places()[1], rows.Places()[2]);
+    EXPECT_EQ(rows.Find(7), 2);
+    EXPECT_LE(rows.PlacesAsked(), 3);
+}
+
+TEST(ListSearch, TheTopmostOfManyRowsIsFoundByOneWalkAtMost)
+{
+    for (bool const areRows : {true, false})
+    {
+        std::vector<long long> words(100, 3);
+        for (std::size_t i = 40; i < words.size(); ++i)
+            words[i] = 7;
+        SearchedRows rows(words);
+        EXPECT_EQ(rows.Find(7, areRows), 40);
+        EXPECT_EQ(rows.PlacesAsked(), 0);
+        // The first one twice, since they are many.
+        EXPECT_EQ(rows.RowsAsked(), areRows ? 42 : 41);
+        EXPECT_EQ(rows.Find(3, areRows), 0);
+        EXPECT_EQ(rows.RowsAsked(), 1);
+    }
+}
+
+TEST(ListSearch, TheFirstOfManyRowsTakesOneQuestion)
+{
+    std::vector<long long> words(many_rows);
+    std::iota(words.begin(), words.end(), 10);
+    SearchedRows rows(words);
+    EXPECT_EQ(rows.Find(10), 0);
+    EXPECT_EQ(rows.RowsAsked() + rows.PlacesAsked(), 1);
+    EXPECT_EQ(rows.Find(9), -1);
+    EXPECT_EQ(rows.RowsAsked() + rows.PlacesAsked(), 1);
+    EXPECT_EQ(rows.Find(30), 20);
+    EXPECT_EQ(rows.RowsAsked() + rows.PlacesAsked(), 2);
+    rows.Places()[0] = nullptr;
+    EXPECT_EQ(rows.Find(30), 20);
+}
+
+TEST(ListSearch, RowsThatAreInNoItemAreNotFound)
+{
+    for (std::size_t const count : {std::size_t{3}, most_rows_placed, most_rows_placed + 20})
+    {
+        SearchedRows rows(std::vector<long long>(count, 7));
+        std::vector<XLISTCTRLROW *> & places = rows.Places();
+        XLISTCTRLROW * const last = places.back();
+        std::fill(places.begin(), places.end(), nullptr);
+        EXPECT_EQ(rows.Find(7, false), -1) << count;
+        places.back() = last;
+        EXPECT_EQ(rows.Find(7, false), static_cast<int>(count) - 1) << count;
+        EXPECT_EQ(rows.Find(7, true), static_cast<int>(count) - 1) << count;
+    }
+}
+
+TEST(ListSearch, WhatMayBeNoRowIsNotLookedInto)
+{
+    SearchedRows rows(std::vector<long long>(most_rows_placed + 5, 7));
+    rows.Places()[0] = reinterpret_cast<XLISTCTRLROW *>(static_cast<std::uintptr_t>(16));
+    EXPECT_EQ(rows.Find(7, false), 1);
 }
 
 TEST(ListSearch, RowsWithoutCellsNeverMatch)
 {
-    XLISTCTRLDATA const cell;
-    auto const at = [&](int row) { return row == 2 ? &cell : nullptr; };
-    EXPECT_EQ(FindRow(3, at, [](XLISTCTRLDATA const &) { return true; }), 2);
-    EXPECT_EQ(FindRow(2, at, [](XLISTCTRLDATA const &) { return true; }), -1);
+    SearchedRows rows({7, 7});
+    XLISTCTRLROW * const bare = rows.Pool().Take();
+    rows.Places().insert(rows.Places().begin(), bare);
+    EXPECT_EQ(rows.Find(7), 1);
+    EXPECT_EQ(rows.Find(0), -1);
 }
 
 TEST(ListSearch, AClavisIsTheFirstSixNumbers)

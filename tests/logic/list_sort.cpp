@@ -213,7 +213,7 @@ int ExpectedComparison(XLISTCTRLDATA const & a, XLISTCTRLDATA const & b, int d, 
     case 2:
         return d * sign(static_cast<double>(a.floatValue) - b.floatValue);
     case 3:
-        return d * sign(static_cast<double>(a.timeValue.GetTime() - b.timeValue.GetTime()));
+        return d * sign(static_cast<double>(a.timeValue.GetTime()) - static_cast<double>(b.timeValue.GetTime()));
     default:
         return 0;
     }
@@ -322,5 +322,197 @@ TEST(ListSortOrder, OfContradictoryComparisonsHasEveryRowOnce)
             EXPECT_LE(calls, length * (1 + static_cast<int>(std::ceil(std::log2(length)))));
         }
     }
+}
+
+/// So many comparisons does the order of these keys take.
+int ComparisonsFor(std::vector<int> const & keys)
+{
+    int calls = 0;
+    SortedOrder(static_cast<int>(keys.size()), [&](int a, int b) {
+        ++calls;
+        return keys[static_cast<std::size_t>(a)] - keys[static_cast<std::size_t>(b)];
+    });
+    return calls;
+}
+
+TEST(ListSortOrder, TakesOneLookAtRowsThatAreInOrderOrInTheOppositeOne)
+{
+    std::vector<int> keys(1000);
+    std::iota(keys.begin(), keys.end(), 0);
+    EXPECT_EQ(ComparisonsFor(keys), 999);
+    std::vector<int> const opposite(keys.rbegin(), keys.rend());
+    EXPECT_EQ(ComparisonsFor(opposite), 999);
+    EXPECT_EQ(OrderOf(opposite), opposite);
+    EXPECT_EQ(ComparisonsFor(std::vector<int>(1000, 7)), 999);
+    // Two rows at the end of ordered ones.
+    keys.insert(keys.end(), {500, 3});
+    EXPECT_LT(ComparisonsFor(keys), 3 * 1000);
+}
+
+TEST(ListSortOrder, FallingRunsWithEqualRowsKeepTheirOrder)
+{
+    EXPECT_EQ(OrderOf({3, 2, 2, 1}), (std::vector<int>{3, 1, 2, 0}));
+    EXPECT_EQ(OrderOf({2, 2, 1, 1}), (std::vector<int>{2, 3, 0, 1}));
+    EXPECT_EQ(OrderOf({5, 5, 5}), (std::vector<int>{0, 1, 2}));
+    EXPECT_EQ(OrderOf({4, 3, 3, 3, 2}), (std::vector<int>{4, 1, 2, 3, 0}));
+}
+
+TEST(ListSortOrder, IsRightForRunsOfEveryShape)
+{
+    std::mt19937 random(9);
+    for (int round = 0; round < 2000; ++round)
+    {
+        std::vector<int> keys;
+        int const runs = 1 + static_cast<int>(random() % 6);
+        for (int run = 0; run < runs; ++run)
+        {
+            int key = static_cast<int>(random() % 30);
+            int const step = static_cast<int>(random() % 5) - 2;
+            for (int i = static_cast<int>(random() % 12); i >= 0; --i, key += step)
+                keys.push_back(key);
+        }
+        std::vector<int> expected(keys.size());
+        std::iota(expected.begin(), expected.end(), 0);
+        std::stable_sort(expected.begin(), expected.end(), [&keys](int a, int b) {
+            return keys[static_cast<std::size_t>(a)] < keys[static_cast<std::size_t>(b)];
+        });
+        ASSERT_EQ(OrderOf(keys), expected) << "round " << round;
+    }
+}
+
+// --- Rows with marks ---
+
+/// Rows of one column with these cells and texts.
+class MarkedRows
+{
+public:
+    void Add(XLISTCTRLDATA const & cell, std::wstring const & text = {})
+    {
+        XLISTCTRLROW * const row = m_pool.Take();
+        row->Prepare(1);
+        row->cells()[0] = cell;
+        m_rows.push_back(row);
+        m_texts.push_back(text);
+    }
+    /// A row that is younger than the column.
+    void AddWithoutCell()
+    {
+        m_rows.push_back(m_pool.Take());
+        m_texts.emplace_back();
+    }
+    /// How the marks compare each pair must be how the cells and texts do.
+    void Check(bool ascending)
+    {
+        CListRowOrder order(0, ascending);
+        for (XLISTCTRLROW * const row : m_rows)
+            order.Add(*row);
+        m_textsAsked = order.NeedsTexts();
+        if (m_textsAsked)
+        {
+            for (std::size_t i = 0; i < m_rows.size(); ++i)
+                order.AddText(*m_rows[i], m_texts[i]);
+            order.EndTexts();
+        }
+        for (std::size_t a = 0; a < m_rows.size(); ++a)
+        {
+            for (std::size_t b = 0; b < m_rows.size(); ++b)
+            {
+                if (a == b)
+                    continue;
+                int const expected = m_rows[a]->cells() == nullptr || m_rows[b]->cells() == nullptr
+                                         ? 0
+                                         : ExpectedComparison(*m_rows[a]->cells(), *m_rows[b]->cells(),
+                                                              ascending ? 1 : -1, m_texts[a].compare(m_texts[b]));
+                ASSERT_EQ(order.Compare(*m_rows[a], *m_rows[b]), expected)
+                    << a << " with " << b << (ascending ? " ascending" : " descending");
+            }
+        }
+    }
+    bool TextsAsked() const { return m_textsAsked; }
+
+private:
+    CXListRowPool m_pool{16};
+    std::vector<XLISTCTRLROW *> m_rows;
+    std::vector<std::wstring> m_texts;
+    bool m_textsAsked = false;
+};
+
+TEST(ListSortMarks, CompareAsTheCellsDoForEveryKindOfColumn)
+{
+    std::mt19937 random(33);
+    auto const below = [&random](unsigned end) { return static_cast<int>(random() % end); };
+    float const infinity = std::numeric_limits<float>::infinity();
+    float const floats[] = {-infinity, -1.5F, -0.0F, 0.0F, 1e-30F, 0.5F, infinity, nan_value};
+    int const ints[] = {std::numeric_limits<int>::min(), -1, 0, 1, std::numeric_limits<int>::max()};
+    __time64_t const times[] = {std::numeric_limits<__time64_t>::min(), -1, 0, 5'000'000'000,
+                                std::numeric_limits<__time64_t>::max()};
+    std::wstring const ends[] = {L"", L"a", L"ab", L"abcdefgh", L"abcdefgi", L"B", L"\u00e4", L"\ud7ff", L"\uffff"};
+    for (int round = 0; round < 3000; ++round)
+    {
+        // One kind alone, or one of several for each row.
+        int const only = below(8) - 2;
+        bool const withNaN = below(4) == 0;
+        std::wstring const common(static_cast<std::size_t>(below(8)), L'x');
+        MarkedRows rows;
+        for (int i = below(8); i >= 0; --i)
+        {
+            int const kind = only >= 0 ? only : below(6);
+            XLISTCTRLDATA cell;
+            if (kind == 5)
+                cell.MakeProgress();
+            cell.valueType = static_cast<unsigned int>(kind == 5 ? below(5) : kind);
+            if (below(6) == 0)
+                cell.properties |= XLP_SORT_LAST;
+            if (below(6) == 0)
+                cell.properties |= XLP_SORT_FIRST;
+            cell.intValue = ints[below(5)];
+            cell.floatValue = floats[below(withNaN ? 8 : 7)];
+            cell.timeValue = CTime(times[below(5)]);
+            cell.progressValue = below(3);
+            if (below(40) == 0)
+                rows.AddWithoutCell();
+            rows.Add(cell, common + ends[below(9)]);
+        }
+        rows.Check(true);
+        rows.Check(false);
+        if (testing::Test::HasFatalFailure())
+            FAIL() << "round " << round;
+    }
+}
+
+TEST(ListSortMarks, TextsAreAskedForWhereTheyDecide)
+{
+    MarkedRows numbers;
+    numbers.Add(IntCell(1));
+    numbers.Add(IntCell(2));
+    numbers.Check(true);
+    EXPECT_FALSE(numbers.TextsAsked());
+    MarkedRows one;
+    one.Add(TextCell(), L"a");
+    one.Add(TextCell(XLP_ENABLED | XLP_SORT_LAST), L"b");
+    one.Check(true);
+    EXPECT_FALSE(one.TextsAsked());
+    one.Add(IntCell(1), L"c");
+    one.Check(true);
+    EXPECT_TRUE(one.TextsAsked());
+}
+
+TEST(ListSortMarks, ATextGivenTwiceForARowCountsOnce)
+{
+    CXListRowPool pool(2);
+    XLISTCTRLROW * const a = pool.Take();
+    XLISTCTRLROW * const b = pool.Take();
+    CListRowOrder order(0, true);
+    for (XLISTCTRLROW * const row : {a, b})
+    {
+        row->Prepare(1);
+        order.Add(*row);
+    }
+    order.AddText(*a, L"xxb");
+    order.AddText(*b, L"xxa");
+    order.AddText(*a, L"xx");
+    order.EndTexts();
+    EXPECT_GT(order.Compare(*a, *b), 0);
+    EXPECT_LT(order.Compare(*b, *a), 0);
 }
 } // namespace

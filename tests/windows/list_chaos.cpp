@@ -107,18 +107,22 @@ private:
     {
         if (m_list == nullptr || header.hwndFrom != m_list->m_hWnd)
             return;
-        // The native control itself does not stand the loss of its items or of its window everywhere.
+        // The native control itself does not stand the loss of its items everywhere: not while it tells of rows that
+        // go, nor of states, which a deletion changes first.
         switch (header.code)
         {
         case LVN_INSERTITEM:
-        case LVN_ITEMCHANGED:
             React(Harm::rows);
             break;
-        case LVN_DELETEALLITEMS:
-        case LVN_DELETEITEM:
+        case LVN_ITEMCHANGED:
+            React((reinterpret_cast<NMLISTVIEW const &>(header).uChanged & LVIF_STATE) != 0 ? Harm::insertions
+                                                                                            : Harm::rows);
+            break;
         case LVN_ITEMCHANGING:
             React(Harm::insertions);
             break;
+        case LVN_DELETEALLITEMS:
+        case LVN_DELETEITEM:
         case HDN_ITEMCHANGINGW:
         case HDN_ITEMCHANGEDW:
         case NM_SETFOCUS:

@@ -487,6 +487,27 @@ TEST_F(ListDrag, TheCallbackMayEndTheList)
     EXPECT_EQ(m_list.m_hWnd, nullptr);
 }
 
+TEST_F(ListDrag, TheCallbackMayReplaceItself)
+{
+    // What it keeps is still there after it has taken itself away.
+    std::vector<int> const kept = {1, 2, 3};
+    int sum = 0;
+    m_list.m_onRowsSwapped = [this, kept, &sum](int first, int second) {
+        m_list.m_onRowsSwapped = nullptr;
+        sum = kept[0] + kept[1] + kept[2] + first + second;
+    };
+    Drag(5, 2);
+    EXPECT_EQ(sum, 6 + 7);
+}
+
+TEST_F(ListDrag, RowsAreFoundAfterTheDrop)
+{
+    Drag(5, 2);
+    EXPECT_EQ(m_list.FindDataItem(5LL), 2);
+    EXPECT_EQ(m_list.FindDataItem(2LL), 5);
+    EXPECT_EQ(m_list.CountCheckedItems(0, -1), 8u);
+}
+
 TEST_F(ListDrag, RepaintsBothRowsAfterTheDrop)
 {
     Begin(5);

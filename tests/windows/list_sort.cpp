@@ -5,9 +5,12 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <functional>
+#include <iterator>
 #include <random>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace
@@ -284,17 +287,174 @@ TEST_F(ListSort, AContradictoryComparisonLosesNoRow)
         EXPECT_EQ(rows[static_cast<std::size_t>(i)], i);
 }
 
-TEST_F(ListSort, AComparisonThatDeletesRowsLeavesTheRestAsItIs)
+int comparisons = 0;
+
+TEST_F(ListSort, AComparisonThatDeletesARowEndsTheSort)
 {
     FillNumbers({4, 3, 2, 1});
+    comparisons = 0;
     m_list.SortByColumn(1, true, false, [](long long, long long, long long list) {
-        auto * const control = reinterpret_cast<CXListCtrl *>(static_cast<LONG_PTR>(list));
-        if (control->GetItemCount() > 2)
-            control->DeleteItem(0);
+        ++comparisons;
+        reinterpret_cast<CXListCtrl *>(static_cast<LONG_PTR>(list))->DeleteItem(0);
         return 1;
     });
-    EXPECT_EQ(m_list.Texts(1), (Strings{L"2", L"1"}));
-    EXPECT_EQ(Order(), (std::vector<int>{2, 3}));
+    EXPECT_EQ(comparisons, 1);
+    EXPECT_EQ(m_list.Texts(1), (Strings{L"3", L"2", L"1"}));
+    EXPECT_EQ(Order(), (std::vector<int>{1, 2, 3}));
+}
+
+TEST_F(ListSort, AComparisonThatInsertsARowEndsTheSort)
+{
+    FillNumbers({4, 3, 2});
+    comparisons = 0;
+    m_list.SortByColumn(1, true, false, [](long long, long long, long long list) {
+        ++comparisons;
+        reinterpret_cast<CXListCtrl *>(static_cast<LONG_PTR>(list))->InsertItem(0, L"new", nullptr, 9);
+        return 1;
+    });
+    EXPECT_EQ(comparisons, 1);
+    EXPECT_EQ(Order(), (std::vector<int>{9, 0, 1, 2}));
+}
+
+TEST_F(ListSort, AComparisonThatSortsLeavesThatOrder)
+{
+    FillNumbers({2, 3, 1});
+    comparisons = 0;
+    m_list.SortByColumn(1, true, false, [](long long, long long, long long list) {
+        ++comparisons;
+        reinterpret_cast<CXListCtrl *>(static_cast<LONG_PTR>(list))->SortByColumn(1, false, false, nullptr);
+        return 1;
+    });
+    EXPECT_EQ(comparisons, 1);
+    EXPECT_EQ(m_list.Texts(1), (Strings{L"3", L"2", L"1"}));
+}
+
+/// A list whose memory shows any write after its end. One at a time.
+class RememberedList : public TestList
+{
+public:
+    ~RememberedList() override
+    {
+        if (m_hWnd != nullptr)
+            DestroyWindow();
+    }
+    static void * operator new(std::size_t size) { return size <= sizeof(s_memory) ? s_memory : nullptr; }
+    static void operator delete(void *) { std::fill(std::begin(s_memory), std::end(s_memory), ended); }
+    /// True if the object has ended and nothing wrote to it since.
+    static bool EndedUntouched()
+    {
+        return std::all_of(std::begin(s_memory), std::end(s_memory), [](unsigned char byte) { return byte == ended; });
+    }
+
+private:
+    static constexpr unsigned char ended = 0xDD;
+    alignas(std::max_align_t) static inline unsigned char s_memory[0x4000] = {};
+};
+
+/// Such a list with rows "2", "1", "0" in its two columns.
+RememberedList * MakeRememberedList(CWnd & parent)
+{
+    auto * const list = new RememberedList;
+    EXPECT_TRUE(list->Create(TestList::default_style, CRect(0, 0, 100, 100), &parent, 8));
+    list->AddColumns(2);
+    for (int number = 2; number >= 0; --number)
+        list->SetItemText(list->AddItem(std::to_wstring(number).c_str(), nullptr, number), 1, number);
+    return list;
+}
+
+TEST_F(ListSort, AComparisonMayDeleteTheListObject)
+{
+    RememberedList * const list = MakeRememberedList(m_host.parent);
+    comparisons = 0;
+    list->SortByColumn(1, true, true, [](long long, long long, long long sorted) {
+        ++comparisons;
+        delete static_cast<RememberedList *>(reinterpret_cast<CXListCtrl *>(static_cast<LONG_PTR>(sorted)));
+        return 1;
+    });
+    EXPECT_EQ(comparisons, 1);
+    EXPECT_TRUE(RememberedList::EndedUntouched());
+}
+
+/// A parent that knows the texts of rows which have none of their own.
+class TextParent : public tests::ListParent
+{
+public:
+    std::function<std::wstring(int row)> m_textOf;
+
+protected:
+    BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT * result) override
+    {
+        auto & info = *reinterpret_cast<NMLVDISPINFOW *>(lParam);
+        if (info.hdr.code == LVN_GETDISPINFOW && (info.item.mask & LVIF_TEXT) != 0 && m_textOf)
+        {
+            // The callback may end the list.
+            auto const textOf = m_textOf;
+            m_text = textOf(info.item.iItem);
+            info.item.pszText = m_text.data();
+        }
+        return ListParent::OnNotify(wParam, lParam, result);
+    }
+
+private:
+    std::wstring m_text;
+};
+
+class ListSortAskingTheParent : public testing::Test
+{
+protected:
+    ListSortAskingTheParent()
+    {
+        m_list = new RememberedList;
+        EXPECT_TRUE(m_list->Create(TestList::default_style, CRect(0, 0, 100, 100), &m_parent, 8));
+        m_list->SetRedraw(FALSE);
+        m_list->AddColumns(2);
+        for (int row = 0; row < 4; ++row)
+            m_list->AddItem(LPSTR_TEXTCALLBACKW, nullptr, row);
+    }
+    ~ListSortAskingTheParent() override
+    {
+        m_parent.m_textOf = nullptr;
+        delete m_list;
+    }
+    std::vector<int> Order() const
+    {
+        std::vector<int> order;
+        for (int row = 0; row < m_list->GetItemCount(); ++row)
+            order.push_back(m_list->GetItemData(row));
+        return order;
+    }
+
+    TextParent m_parent;
+    RememberedList * m_list = nullptr;
+};
+
+TEST_F(ListSortAskingTheParent, SortsByTheTextsThatItGives)
+{
+    m_parent.m_textOf = [this](int row) { return std::wstring(1, L"dbca"[m_list->GetItemData(row)]); };
+    m_list->SortByColumn(0, true, false, nullptr);
+    EXPECT_EQ(Order(), (std::vector<int>{3, 1, 2, 0}));
+}
+
+TEST_F(ListSortAskingTheParent, AParentThatDeletesARowEndsTheSort)
+{
+    m_parent.m_textOf = [this](int row) {
+        if (row == 1 && m_list->GetItemCount() == 4)
+            m_list->DeleteItem(0);
+        return std::wstring(1, L"dbca"[row]);
+    };
+    m_list->SortByColumn(0, true, false, nullptr);
+    EXPECT_EQ(Order(), (std::vector<int>{1, 2, 3}));
+}
+
+TEST_F(ListSortAskingTheParent, AParentMayDeleteTheListObject)
+{
+    m_parent.m_textOf = [this](int) {
+        delete std::exchange(m_list, nullptr);
+        return std::wstring();
+    };
+    m_list->SortByColumn(0, true, true, nullptr);
+    EXPECT_EQ(m_list, nullptr);
+    EXPECT_TRUE(RememberedList::EndedUntouched());
 }
 
 TEST_F(ListSort, AComparisonThatEndsTheListEndsTheSort)
@@ -469,5 +629,75 @@ TEST_F(ListSort, RepaintsTheList)
     m_list.SortByColumn(1, true, false, nullptr);
     CRect const first = m_list.TakeUpdateRect();
     EXPECT_FALSE(first.IsRectEmpty());
+}
+
+TEST_F(ListSort, RowsInOrderAlreadyGetTheMarkAndStay)
+{
+    FillNumbers({1, 2, 2, 3});
+    m_list.SortByColumn(1, true, true, nullptr);
+    EXPECT_EQ(Marks(), (std::vector<int>{0, 5, 0}));
+    EXPECT_EQ(Order(), (std::vector<int>{0, 1, 2, 3}));
+    m_list.SetHeaderRemoveAllMarks();
+    m_list.SortByColumn(1, false, true, [](long long a, long long b, long long) { return static_cast<int>(a - b); });
+    EXPECT_EQ(Marks(), (std::vector<int>{0, 6, 0}));
+    EXPECT_EQ(Order(), (std::vector<int>{0, 1, 2, 3}));
+}
+
+TEST_F(ListSort, AParameterWordThatIsNoRowIsLeftAlone)
+{
+    FillNumbers({3, 1, 2});
+    m_list.SetRedraw(FALSE);
+    constexpr LPARAM alien = 16;
+    m_list.CListCtrl::InsertItem(LVIF_TEXT | LVIF_PARAM, 3, L"alien", 0, 0, 0, alien);
+    m_list.SortByColumn(1, true, false, nullptr);
+    m_list.SortByColumn(0, true, false, nullptr);
+    m_list.SortByColumn(1, true, false, [](long long a, long long b, long long) { return static_cast<int>(b - a); });
+    int aliens = 0;
+    for (int row = m_list.GetItemCount() - 1; row >= 0; --row)
+    {
+        if (m_list.Param(row) != alien)
+            continue;
+        ++aliens;
+        m_list.CListCtrl::SetItemData(row, 0);
+    }
+    EXPECT_EQ(aliens, 1);
+    EXPECT_EQ(m_list.GetItemCount(), 4);
+    for (long long number = 0; number < 3; ++number)
+        EXPECT_GE(m_list.FindDataItem(number), 0) << number;
+}
+
+/// Counts what reaches the native list.
+class CountingList : public TestList
+{
+public:
+    int m_asked = 0;
+
+protected:
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        ++m_asked;
+        return TestList::DefWindowProc(message, wParam, lParam);
+    }
+};
+
+TEST_F(ListSort, AsksTheNativeListForTextsAlone)
+{
+    CountingList list;
+    ASSERT_TRUE(list.Create(TestList::default_style, CRect(0, 0, 100, 100), &m_host.parent, 8));
+    tests::WindowCloser const closer(list);
+    list.SetRedraw(FALSE);
+    list.AddColumns(2);
+    constexpr int rows = 500;
+    for (int row = 0; row < rows; ++row)
+        list.SetItemText(list.AddItem(std::to_wstring(row * 7 % rows).c_str(), nullptr, row), 1, row * 11 % rows);
+    list.m_asked = 0;
+    list.SortByColumn(1, true, false, nullptr);
+    EXPECT_LT(list.m_asked, 10);
+    list.m_asked = 0;
+    list.SortByColumn(0, true, false, nullptr);
+    EXPECT_LT(list.m_asked, rows + 10);
+    EXPECT_GE(list.m_asked, rows);
+    EXPECT_EQ(list.GetItemText(1, 0), L"1");
+    EXPECT_EQ(list.GetItemText(2, 0), L"10");
 }
 } // namespace

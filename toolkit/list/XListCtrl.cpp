@@ -60,6 +60,10 @@ void CXListCtrl::PreSubclassWindow()
 {
     CListCtrl::PreSubclassWindow();
     ForgetRow();
+    m_rowsInStep = GetItemCount() == 0;
+    // Left from rows that a host inserted into a former window while it ended.
+    if (m_rowsInStep)
+        m_rowPool.GiveBackAll();
     SetExtendedStyle(GetExtendedStyle() | LVS_EX_FULLROWSELECT);
     if (m_itemToolTips)
     {
@@ -102,6 +106,7 @@ void CXListCtrl::OnDestroy()
 {
     EndDragImage();
     m_rowPool.GiveBackAll();
+    m_rowsInStep = false;
     m_headerSubclassed = false;
     CListCtrl::OnDestroy();
 }
@@ -236,14 +241,13 @@ void CXListCtrl::UpdateHeaderFromCells(int col)
 {
     if (!m_headerAutoCheckbox || !HeaderFollowsCells(GetHeaderCheckedState(col)))
         return;
-    int const rows = GetItemCount();
+    auto const rows = static_cast<unsigned long long>(RowCount());
     unsigned long long counts[XLC_CROSSED + 1] = {};
-    for (int row = 0; row < rows; ++row)
-    {
-        XLISTCTRLDATA const * const cell = ValidCell(row, col);
-        if (cell != nullptr && cell->checkedState >= XLC_UNCHECKED && cell->checkedState <= XLC_CROSSED)
-            ++counts[cell->checkedState];
-    }
-    SetHeaderCheckedState(col, HeaderStateOfCells(static_cast<unsigned long long>(rows), counts[XLC_UNCHECKED],
-                                                  counts[XLC_CHECKED], counts[XLC_CROSSED]));
+    VisitRows([index = static_cast<unsigned int>(col), &counts](XLISTCTRLROW const & row) {
+        int const state = index < row.capacity() ? row.cells()[index].checkedState : XLC_NONE;
+        if (state >= XLC_UNCHECKED && state <= XLC_CROSSED)
+            ++counts[state];
+    });
+    SetHeaderCheckedState(
+        col, HeaderStateOfCells(rows, counts[XLC_UNCHECKED], counts[XLC_CHECKED], counts[XLC_CROSSED]));
 }

@@ -21,6 +21,7 @@ namespace XListCtrl
 class CXCombo;
 class CXEdit;
 } // namespace XListCtrl
+class CListRowOrder;
 
 /// A report list whose every cell is a small typed object: text, number, date, check box, radio button, in-place edit,
 /// combo box, hyperlink, progress bar or custom-drawn area.
@@ -446,13 +447,40 @@ private:
     /// Moves picture, mark and cursor to the pointer; false if the list ended meanwhile.
     bool FollowDrag(CPoint point);
 
-    /// The row objects from the top; null for rows without.
-    std::vector<XLISTCTRLROW *> AllRows() const;
-    /// The order of the rows by the cells of the sorted column, as their present indices.
-    std::vector<int> DefaultOrder(std::vector<XLISTCTRLROW *> const & rows) const;
-    /// Has the native list put its rows, which are those given, in that order. Rows without an object get one for the
-    /// time of the sort, in rows, too.
-    void ApplyOrder(std::vector<int> const & order, std::vector<XLISTCTRLROW *> & rows);
+    /// Whether the rows in use are those that hang from the native items, each from one. Not while the native list
+    /// changes its items, nor after it was told to past this class.
+    bool RowsAreKnown() const { return m_rowsInStep && m_rowChangesUnderWay == 0; }
+    /// Follows what a native message does to that; own: an operation of this class sent it and keeps the books.
+    void NoteRowChange(UINT message, LPARAM lParam, bool own);
+    /// A message to the native list itself, that only asks.
+    LRESULT AskNative(UINT message, WPARAM wParam, LPARAM lParam) const;
+    /// The item's parameter word as it is; null without an item.
+    XLISTCTRLROW * NativeParam(int row) const;
+    /// The row objects from the top; null for items without one of this list's own.
+    std::vector<XLISTCTRLROW *> RowsFromTop() const;
+    /// Calls visit(XLISTCTRLROW &) for each item's row object, in no particular order. visit runs no code of the host's.
+    template <class Visit> void VisitRows(Visit && visit) const
+    {
+        if (RowsAreKnown())
+        {
+            for (auto const & row : m_rowPool.InUse())
+                visit(*row);
+            return;
+        }
+        for (XLISTCTRLROW * const row : RowsFromTop())
+        {
+            if (row != nullptr)
+                visit(*row);
+        }
+    }
+    /// The topmost row whose object satisfies matches(XLISTCTRLROW const &); -1 if there is none.
+    template <class Matches> int FindTopmost(Matches && matches) const;
+    void SortByCells(int col, bool ascending);
+    /// Tells the order the texts of its column; false if the host changed the rows meanwhile.
+    bool AddTexts(CListRowOrder & order, int col);
+    void SortByHost(int (*compare)(long long, long long, long long));
+    /// Has the native list put its rows in that order.
+    void ApplyOrder(std::vector<int> const & order);
     /// Gives the native item that parameter word.
     bool SetNativeParam(int row, XLISTCTRLROW const * object);
     std::wstring HeaderTitle(int col) const;
@@ -519,8 +547,15 @@ private:
     std::shared_ptr<void const> m_life = std::make_shared<char>();
     /// Row objects that operations under way keep in use.
     std::vector<XLISTCTRLROW const *> m_pinned;
-    /// Two rows are about to trade their objects and share one for a moment.
-    bool m_swapsRows = false;
+    /// The next change is an operation of this class, which keeps the books itself.
+    bool m_ownRowChange = false;
+    /// Whether the rows in use are those that hang from the native items, each from one.
+    bool m_rowsInStep = true;
+    /// Stand in for missing row objects during a sort. Kept, since a parent may refuse that an item loses its own.
+    std::vector<std::unique_ptr<XLISTCTRLROW>> m_standIns;
+    std::size_t m_standInsInUse = 0;
+    /// Trades of two rows under way: for a moment both share one object.
+    int m_rowSwaps = 0;
 
     /// What stays the same while the window paints itself once, so that it is asked for once a row or column instead of
     /// once a cell.

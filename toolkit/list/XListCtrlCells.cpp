@@ -8,7 +8,9 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <functional>
 #include <iterator>
+#include <utility>
 
 namespace
 {
@@ -89,6 +91,7 @@ LRESULT CXListCtrl::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     if (!ChangesRows(message, lParam))
         return CListCtrl::DefWindowProc(message, wParam, lParam);
 
+    NoteRowChange(message, lParam, std::exchange(m_ownRowChange, false));
     struct RowChange
     {
         explicit RowChange(CXListCtrl & changed) : list(changed), watch(changed)
@@ -106,6 +109,91 @@ LRESULT CXListCtrl::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
         Watch watch;
     } const change(*this);
     return CListCtrl::DefWindowProc(message, wParam, lParam);
+}
+
+void CXListCtrl::NoteRowChange(UINT message, LPARAM lParam, bool own)
+{
+    if (own)
+        return;
+    switch (message)
+    {
+    case LVM_INSERTITEMA:
+    case LVM_INSERTITEMW:
+    case LVM_SETITEMA:
+    case LVM_SETITEMW: {
+        auto const * const item = reinterpret_cast<LVITEMW const *>(lParam);
+        if (item == nullptr || item->iSubItem != 0)
+            return;
+        // A new item takes the newest row, or none.
+        auto const * const row =
+            (item->mask & LVIF_PARAM) != 0 ? reinterpret_cast<XLISTCTRLROW const *>(item->lParam) : nullptr;
+        bool const inserts = message == LVM_INSERTITEMA || message == LVM_INSERTITEMW;
+        if (!m_rowPool.IsNewest(row) && (row != nullptr || !inserts))
+            m_rowsInStep = false;
+        return;
+    }
+    case LVM_DELETEITEM:
+    case LVM_DELETEALLITEMS:
+        m_rowsInStep = false;
+        return;
+    default:
+        return;
+    }
+}
+
+LRESULT CXListCtrl::AskNative(UINT message, WPARAM wParam, LPARAM lParam) const
+{
+    return const_cast<CXListCtrl *>(this)->DefWindowProc(message, wParam, lParam);
+}
+
+XLISTCTRLROW * CXListCtrl::NativeParam(int row) const
+{
+    LVITEMW item{};
+    item.mask = LVIF_PARAM;
+    item.iItem = row;
+    AskNative(LVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&item));
+    return reinterpret_cast<XLISTCTRLROW *>(item.lParam);
+}
+
+std::vector<XLISTCTRLROW *> CXListCtrl::RowsFromTop() const
+{
+    std::vector<XLISTCTRLROW *> rows(static_cast<std::size_t>(RowCount()));
+    int place = 0;
+    for (XLISTCTRLROW *& row : rows)
+        row = NativeParam(place++);
+    if (RowsAreKnown())
+        return rows;
+    // Whatever else hangs from an item is not to be touched.
+    std::vector<XLISTCTRLROW const *> own;
+    for (auto const & row : m_rowPool.All())
+    {
+        if (row != nullptr)
+            own.push_back(row.get());
+    }
+    std::sort(own.begin(), own.end(), std::less<>());
+    for (XLISTCTRLROW *& row : rows)
+    {
+        if (!std::binary_search(own.begin(), own.end(), row, std::less<>()))
+            row = nullptr;
+    }
+    return rows;
+}
+
+template <class Matches> int CXListCtrl::FindTopmost(Matches && matches) const
+{
+    if (m_hWnd == nullptr)
+        return -1;
+    // While items change, a row given back may still hang from one.
+    bool const known = RowsAreKnown();
+    CXListRowPool::Slots const rows = known ? m_rowPool.InUse() : m_rowPool.All();
+    auto const placeOf = [this](XLISTCTRLROW const & row) {
+        LVFINDINFOW find{};
+        find.flags = LVFI_PARAM;
+        find.lParam = reinterpret_cast<LPARAM>(&row);
+        return FindItem(&find);
+    };
+    return FindTopmostRow(
+        rows, known, [this] { return RowCount(); }, matches, placeOf, [this](int row) { return NativeParam(row); });
 }
 
 bool CXListCtrl::IsValidItem(int row, int col) const
@@ -247,9 +335,7 @@ bool CXListCtrl::GetItemClavis(int row, int * key) const
 
 int CXListCtrl::FindDataItem(long long data) const
 {
-    return FindRow(
-        RowCount(), [this](int row) { return GetRowData(row); },
-        [data](XLISTCTRLDATA const & cell) { return cell.itemData64 == data; });
+    return FindTopmost(FirstCellOf([data](XLISTCTRLDATA const & cell) { return cell.itemData64 == data; }));
 }
 
 int CXListCtrl::FindDataItem(int data) const
@@ -264,18 +350,14 @@ int CXListCtrl::FindDataItem(unsigned long data) const
 
 int CXListCtrl::FindDataItemPtr(void const * ptr) const
 {
-    return FindRow(
-        RowCount(), [this](int row) { return GetRowData(row); },
-        [ptr](XLISTCTRLDATA const & cell) { return cell.itemDataPtr == ptr; });
+    return FindTopmost(FirstCellOf([ptr](XLISTCTRLDATA const & cell) { return cell.itemDataPtr == ptr; }));
 }
 
 int CXListCtrl::FindDataItemClavis(int const * key) const
 {
     if (key == nullptr)
         return -1;
-    return FindRow(
-        RowCount(), [this](int row) { return GetRowData(row); },
-        [key](XLISTCTRLDATA const & cell) { return HasClavis(cell, key); });
+    return FindTopmost(FirstCellOf([key](XLISTCTRLDATA const & cell) { return HasClavis(cell, key); }));
 }
 
 long long CXListCtrl::GetSelectedItemData(long long fallback) const
@@ -468,20 +550,21 @@ bool CXListCtrl::GetItemRadioOn(int row, int col) const
 
 int CXListCtrl::GetActiveRadioItem(int col) const
 {
-    return FindRow(
-        RowCount(), [this, col](int row) { return ValidCell(row, col); },
-        [](XLISTCTRLDATA const & cell) { return cell.checkedState == XLC_RADIO_ON; });
+    if (col < 0 || col >= m_columnCount)
+        return -1;
+    return FindTopmost([index = static_cast<unsigned int>(col)](XLISTCTRLROW const & row) {
+        return index < row.capacity() && row.cells()[index].checkedState == XLC_RADIO_ON;
+    });
 }
 
 unsigned long long CXListCtrl::CountCheckedItems(int col, int state) const
 {
     unsigned long long count = 0;
-    int const rows = RowCount();
-    for (int row = 0; row < rows; ++row)
-    {
-        XLISTCTRLDATA const * const cell = ValidCell(row, col);
-        if (cell != nullptr && CountsAsChecked(cell->checkedState, state))
+    if (col < 0 || col >= m_columnCount)
+        return count;
+    VisitRows([index = static_cast<unsigned int>(col), state, &count](XLISTCTRLROW const & row) {
+        if (index < row.capacity() && CountsAsChecked(row.cells()[index].checkedState, state))
             ++count;
-    }
+    });
     return count;
 }

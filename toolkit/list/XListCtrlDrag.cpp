@@ -217,13 +217,14 @@ bool CXListCtrl::SwapRows(std::vector<dd_list_Item> & upper, std::vector<dd_list
             save_row(lower, b);
         if (!watch.IsAlive() || m_rowChanges != changes)
             return false;
-        m_swapsRows = true;
+        ++m_rowSwaps;
         restore_row(upper, b);
         if (watch.IsAlive() && m_rowChanges == changes + 1)
             restore_row(lower, a);
+        if (watch.IsThere())
+            --m_rowSwaps;
         if (!watch.IsAlive())
             return false;
-        m_swapsRows = false;
         if (m_rowChanges == changes + 2)
             return true;
         PutRowsInOrder(objects);
@@ -271,6 +272,9 @@ void CXListCtrl::restore_row(std::vector<dd_list_Item> & saved, int row)
         if (object != nullptr && col < object->capacity())
             object->cells()[col].properties |= XLP_MODIFIED;
         saved[col].item.iItem = row;
+        m_ownRowChange = col == 0;
         ::SendMessageW(m_hWnd, LVM_SETITEMW, 0, reinterpret_cast<LPARAM>(&saved[col].item));
+        if (watch.IsThere())
+            m_ownRowChange = false;
     }
 }

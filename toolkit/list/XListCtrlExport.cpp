@@ -5,6 +5,7 @@
 #include "clipboard/Clipboard.h"
 #include "frame/CoreLibrary.h"
 #include "list/XListExport.h"
+#include "list/XListCtrlHold.h"
 
 #include <locale.h>
 #include <wchar.h>
@@ -82,6 +83,7 @@ bool CXListCtrl::ExportToClipboard(bool withHeader, int firstRow, int lastRow, i
     auto const dateText = [](CTime const & time) {
         return std::wstring(UserDateTimeText(time, dtf_date_time).GetString());
     };
+    Watch const watch(*this);
     for (int row = firstRow; row <= lastRow; ++row)
     {
         if (GetRowData(row) == nullptr)
@@ -92,6 +94,9 @@ bool CXListCtrl::ExportToClipboard(bool withHeader, int firstRow, int lastRow, i
             // A column younger than the row has its text alone.
             XLISTCTRLDATA const * const cell = ValidCell(row, col);
             block.AddField(cell != nullptr ? ExportedCell(*cell, decimalSign, dateText, shownText) : shownText());
+            // The parent may have been asked for the text.
+            if (!watch.IsAlive())
+                return false;
         }
         block.EndLine();
     }

@@ -10,7 +10,13 @@
 class CXListCtrl::Watch
 {
 public:
-    explicit Watch(CXListCtrl const & list) : m_list(list), m_life(list.m_life), m_window(list.m_hWnd) {}
+    explicit Watch(CXListCtrl const & list)
+        : m_list(list),
+          m_life(list.m_life),
+          m_window(list.m_hWnd),
+          m_changes(list.m_rowChanges)
+    {
+    }
     Watch(Watch const &) = delete;
     Watch & operator=(Watch const &) = delete;
 
@@ -18,11 +24,16 @@ public:
     bool IsThere() const { return !m_life.expired(); }
     /// False also for a list that had no window to begin with.
     bool IsAlive() const { return m_window != nullptr && IsThere() && m_list.m_hWnd == m_window; }
+    /// How many messages since then may have changed rows; only of a list that is there.
+    unsigned long long Changes() const { return m_list.m_rowChanges - m_changes; }
+    /// The list is there, and so are its rows, at their places.
+    bool IsUnchanged() const { return IsAlive() && Changes() == 0; }
 
 private:
     CXListCtrl const & m_list;
     std::weak_ptr<void const> m_life;
     HWND m_window;
+    unsigned long long m_changes;
 };
 
 /// Keeps a row object in use that does not hang from a native item yet, or for a moment does not any more.

@@ -221,13 +221,15 @@ void CXListCtrl::OnHeaderColumnClick(int col)
         SetHeaderCheckedState(col, press.headerState);
         if (watch.IsAlive())
             m_header.UpdateWindow();
-        for (int row = 0; watch.IsAlive() && row < GetItemCount(); ++row)
+        int rows = watch.IsAlive() ? RowCount() : 0;
+        for (int row = 0; row < rows; ++row)
         {
             XLISTCTRLDATA const * const cell = ValidCell(row, col);
             if (cell == nullptr || cell->checkedState == XLC_NONE || cell->checkedState == press.cellState)
                 continue;
             m_listModified = true;
             ChangeCheckByUser(row, col, press.cellState);
+            rows = watch.IsAlive() ? RowCount() : 0;
         }
         if (!watch.IsAlive())
             return;

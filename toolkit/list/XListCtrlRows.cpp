@@ -93,24 +93,34 @@ XLISTCTRLROW * CXListCtrl::TakeRow()
 
 int CXListCtrl::DeleteItem(int row)
 {
-    if (row < 0 || row >= RowCount())
+    LVITEMW item{};
+    item.mask = LVIF_PARAM;
+    item.iItem = row;
+    if (row < 0 || m_hWnd == nullptr || !AskNative(LVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&item)))
         return FALSE;
     Watch const watch(*this);
-    unsigned long long const changes = m_rowChanges;
-    XLISTCTRLROW const * const given = RowOf(row);
-    LRESULT const id = DefWindowProc(LVM_MAPINDEXTOID, static_cast<WPARAM>(row), 0);
-    SetNativeParam(row, nullptr);
+    unsigned long long expected = m_rowChanges;
+    auto const * const given = reinterpret_cast<XLISTCTRLROW const *>(item.lParam);
+    bool const own = given != nullptr && (RowsAreKnown() || m_rowPool.Owns(given));
+    LRESULT const id = AskNative(LVM_MAPINDEXTOID, static_cast<WPARAM>(row), 0);
+    if (given != nullptr)
+    {
+        SetNativeParam(row, nullptr);
+        ++expected;
+    }
     if (!watch.IsAlive())
         return FALSE;
     // The host may have heard of it and have moved rows.
-    int const place = m_rowChanges == changes + 1 ? row : static_cast<int>(MapIDToIndex(static_cast<UINT>(id)));
+    int const place = m_rowChanges == expected ? row : static_cast<int>(MapIDToIndex(static_cast<UINT>(id)));
+    m_ownRowChange = true;
     BOOL const deleted = CListCtrl::DeleteItem(place);
     if (!watch.IsAlive())
         return deleted;
-    if (m_rowChanges == changes + 2)
-        m_rowPool.GiveBack(given);
-    else
+    m_ownRowChange = false;
+    if (m_rowChanges != expected + 1)
         PutRowsInOrder();
+    else if (own)
+        m_rowPool.GiveBack(given);
     return deleted;
 }
 
@@ -123,13 +133,18 @@ int CXListCtrl::DeleteAllItems()
     }
     Watch const watch(*this);
     // Rows stay in use until no native item shows them any more: the host hears of each one that goes.
+    m_ownRowChange = true;
     BOOL const deleted = CListCtrl::DeleteAllItems();
     if (!watch.IsAlive())
         return deleted;
-    if (RowCount() == 0 && m_pinned.empty())
-        m_rowPool.GiveBackAll();
-    else
+    m_ownRowChange = false;
+    if (RowCount() != 0 || !m_pinned.empty())
+    {
         PutRowsInOrder();
+        return deleted;
+    }
+    m_rowPool.GiveBackAll();
+    m_rowsInStep = true;
     return deleted;
 }
 
@@ -143,7 +158,7 @@ void CXListCtrl::PutRowsInOrder(std::span<XLISTCTRLROW * const> spares)
     {
         unsigned long long changes = m_rowChanges;
         std::vector<int> const sharing = GiveBackUnshownRows();
-        if (m_swapsRows)
+        if (m_rowSwaps != 0)
             return;
         for (int const row : sharing)
         {
@@ -164,7 +179,6 @@ void CXListCtrl::PutRowsInOrder(std::span<XLISTCTRLROW * const> spares)
 
 std::vector<int> CXListCtrl::GiveBackUnshownRows()
 {
-    std::unordered_set<XLISTCTRLROW const *> kept(m_pinned.begin(), m_pinned.end());
     std::unordered_set<XLISTCTRLROW const *> shown;
     std::vector<int> sharing;
     int const rows = RowCount();
@@ -174,8 +188,13 @@ std::vector<int> CXListCtrl::GiveBackUnshownRows()
         if (object != nullptr && !shown.insert(object).second)
             sharing.push_back(row);
     }
-    kept.merge(shown);
-    m_rowPool.GiveBackUnless([&kept](XLISTCTRLROW const & row) { return kept.contains(&row); });
+    std::size_t inUse = 0;
+    m_rowPool.KeepOnly([&](XLISTCTRLROW const & row) {
+        bool const isShown = shown.contains(&row);
+        inUse += isShown ? 1 : 0;
+        return isShown || std::find(m_pinned.begin(), m_pinned.end(), &row) != m_pinned.end();
+    });
+    m_rowsInStep = sharing.empty() && inUse == shown.size();
     return sharing;
 }
 
@@ -188,9 +207,14 @@ void CXListCtrl::SetBatchInsertMode(bool on)
 
 void CXListCtrl::EnableAll(bool enable)
 {
-    int const rows = RowCount();
-    for (int row = 0; row < rows; ++row)
-        SetEnabled(row, enable);
+    VisitRows([this, enable](XLISTCTRLROW const & row) {
+        int const columns = std::min(m_columnCount, static_cast<int>(row.capacity()));
+        for (int col = 0; col < columns; ++col)
+        {
+            unsigned int & properties = row.cells()[col].properties;
+            properties = enable ? properties | XLP_ENABLED : properties & ~XLP_ENABLED;
+        }
+    });
     if (m_hWnd == nullptr)
         return;
     Watch const watch(*this);

@@ -1,77 +1,55 @@
-// CXListCtrl: sorting. The order is found first, from the rows as they stand; then the native list moves its items once,
-// by the places found. Its own sort by index is not used: some systems ask for rows by index while items are moving.
+// CXListCtrl: sorting. By cells the native list sorts its row objects, which are marked before with what they are
+// sorted by. For a host's comparison, which is given indices, the order is found first, from rows that stand still;
+// then the native list moves its items once. Its own sort by index is not used: some systems ask for rows by index
+// while items are moving.
 
 #include "list/XListCtrl.h"
 
+#include "list/XListCtrlHold.h"
 #include "list/XListSort.h"
 
 #include <algorithm>
 #include <cwchar>
+#include <functional>
+#include <utility>
 
 namespace
 {
-/// The texts that a column shows, each read when it is first compared.
-class ColumnTexts
+constexpr std::size_t first_text_size = 256;
+
+/// What the native sort hands to its comparison.
+struct CellSort
 {
-public:
-    ColumnTexts(CListCtrl const & list, int col, std::size_t rows)
-        : m_list(list),
-          m_col(col),
-          m_begins(rows, unread),
-          m_buffer(first_size)
-    {
-    }
-
-    /// As CString compares.
-    int Compare(int a, int b)
-    {
-        std::size_t const first = BeginOf(a);
-        std::size_t const second = BeginOf(b);
-        return std::wcscmp(&m_texts[first], &m_texts[second]);
-    }
-
-private:
-    static constexpr std::size_t unread = static_cast<std::size_t>(-1);
-    static constexpr std::size_t first_size = 256;
-
-    std::size_t BeginOf(int row)
-    {
-        std::size_t & begin = m_begins[static_cast<std::size_t>(row)];
-        if (begin == unread)
-        {
-            std::size_t const length = Read(row);
-            begin = m_texts.size();
-            m_texts.insert(m_texts.end(), m_buffer.begin(), m_buffer.begin() + static_cast<std::ptrdiff_t>(length));
-            m_texts.push_back(L'\0');
-        }
-        return begin;
-    }
-
-    /// Reads the text into the buffer; its length.
-    std::size_t Read(int row)
-    {
-        for (;;)
-        {
-            int const size = static_cast<int>(m_buffer.size());
-            m_buffer[0] = L'\0';
-            int const length = m_list.GetItemText(row, m_col, m_buffer.data(), size);
-            if (length < size - 1)
-                return length > 0 ? static_cast<std::size_t>(length) : 0;
-            m_buffer.resize(2 * m_buffer.size());
-        }
-    }
-
-    CListCtrl const & m_list;
-    int m_col;
-    std::vector<std::size_t> m_begins;
-    std::vector<wchar_t> m_buffer;
-    std::vector<wchar_t> m_texts;
+    CListRowOrder const & order;
+    /// Sorted: what may be looked at, if that isn't everything.
+    std::vector<XLISTCTRLROW *> own;
 };
+
+int CALLBACK CompareKnown(LPARAM first, LPARAM second, LPARAM sort)
+{
+    // An item without a row has no cell, and equals every other one.
+    if (first == 0 || second == 0)
+        return 0;
+    return reinterpret_cast<CellSort const *>(sort)->order.Compare(*reinterpret_cast<XLISTCTRLROW const *>(first),
+                                                                   *reinterpret_cast<XLISTCTRLROW const *>(second));
+}
+
+int CALLBACK CompareOwn(LPARAM first, LPARAM second, LPARAM sort)
+{
+    auto const & own = reinterpret_cast<CellSort const *>(sort)->own;
+    auto const isOwn = [&own](LPARAM row) {
+        return std::binary_search(own.begin(), own.end(), reinterpret_cast<XLISTCTRLROW *>(row), std::less<>());
+    };
+    return isOwn(first) && isOwn(second) ? CompareKnown(first, second, sort) : 0;
+}
 
 int CALLBACK ComparePlaces(LPARAM first, LPARAM second, LPARAM)
 {
-    return reinterpret_cast<XLISTCTRLROW const *>(first)->sortPlace() -
-           reinterpret_cast<XLISTCTRLROW const *>(second)->sortPlace();
+    if (first == 0 || second == 0)
+        return 0;
+    long long const a = reinterpret_cast<XLISTCTRLROW const *>(first)->sortMark().value;
+    long long const b = reinterpret_cast<XLISTCTRLROW const *>(second)->sortMark().value;
+    return static_cast<int>(a - b);
 }
 } // namespace
 
@@ -83,77 +61,150 @@ void CXListCtrl::SortByColumn(int col, bool ascending, bool setMark, int (*compa
         return;
     m_sortColumn = col;
     m_sortAscending = ascending;
-    HWND const self = m_hWnd;
-    if (compare == nullptr)
-    {
-        std::vector<XLISTCTRLROW *> rows = AllRows();
-        std::vector<int> const order = DefaultOrder(rows);
-        ApplyOrder(order, rows);
-    }
-    else
-    {
-        auto const list = static_cast<long long>(reinterpret_cast<LONG_PTR>(this));
-        std::vector<int> const order =
-            SortedOrder(RowCount(), [compare, list](int a, int b) { return compare(a, b, list); });
-        std::vector<XLISTCTRLROW *> rows = AllRows();
-        ApplyOrder(order, rows);
-    }
-    if (!setMark || !::IsWindow(self))
+    Watch const watch(*this);
+    if (m_hWnd != nullptr && compare == nullptr)
+        SortByCells(col, ascending);
+    else if (m_hWnd != nullptr)
+        SortByHost(compare);
+    if (!setMark || !watch.IsAlive())
         return;
     SetHeaderRemoveAllMarks();
-    SetHeaderCheckedState(col, ascending ? XHC_SORT_ASCENDING : XHC_SORT_DESCENDING);
+    if (watch.IsAlive())
+        SetHeaderCheckedState(col, ascending ? XHC_SORT_ASCENDING : XHC_SORT_DESCENDING);
 }
 
-std::vector<XLISTCTRLROW *> CXListCtrl::AllRows() const
+void CXListCtrl::SortByCells(int col, bool ascending)
 {
-    std::vector<XLISTCTRLROW *> rows(static_cast<std::size_t>(RowCount()));
-    int row = 0;
-    for (XLISTCTRLROW *& object : rows)
-        object = RowOf(row++);
-    return rows;
-}
-
-std::vector<int> CXListCtrl::DefaultOrder(std::vector<XLISTCTRLROW *> const & rows) const
-{
-    auto const col = static_cast<unsigned int>(m_sortColumn);
-    std::vector<ListSortKey> keys;
-    keys.reserve(rows.size());
-    for (XLISTCTRLROW const * const row : rows)
-        keys.emplace_back(row != nullptr && col < row->capacity() ? row->cells() + col : nullptr);
-    ColumnTexts texts(*this, m_sortColumn, rows.size());
-    return SortedOrder(static_cast<int>(rows.size()), [&, ascending = m_sortAscending](int a, int b) {
-        return CompareRows(keys[static_cast<std::size_t>(a)], keys[static_cast<std::size_t>(b)], ascending,
-                           [&texts, a, b] { return texts.Compare(a, b); });
+    CListRowOrder order(static_cast<unsigned int>(col), ascending);
+    CellSort sort{order, {}};
+    bool const known = RowsAreKnown();
+    VisitRows([known, &order, &sort](XLISTCTRLROW & row) {
+        order.Add(row);
+        if (!known)
+            sort.own.push_back(&row);
     });
+    std::sort(sort.own.begin(), sort.own.end(), std::less<>());
+    if (order.NeedsTexts())
+    {
+        if (!AddTexts(order, col))
+            return;
+        order.EndTexts();
+    }
+    SortItems(known ? &CompareKnown : &CompareOwn, reinterpret_cast<DWORD_PTR>(&sort));
 }
 
-void CXListCtrl::ApplyOrder(std::vector<int> const & order, std::vector<XLISTCTRLROW *> & rows)
+bool CXListCtrl::AddTexts(CListRowOrder & order, int col)
 {
-    // What was asked of the host for the order may have changed the list, against the rules.
-    if (rows.size() != order.size() || rows.size() != static_cast<std::size_t>(RowCount()) || rows.empty())
-        return;
-    // Only through its row object can a native item be told its place; those without get one for this time.
-    auto const strays = static_cast<std::size_t>(std::count(rows.begin(), rows.end(), nullptr));
-    std::vector<XLISTCTRLROW> substitutes(strays);
-    std::vector<int> strayRows;
-    for (std::size_t i = 0; i < rows.size(); ++i)
+    Watch const watch(*this);
+    std::vector<XLISTCTRLROW *> rows;
+    if (!RowsAreKnown())
+        rows = RowsFromTop();
+    int const count = RowCount();
+    std::vector<wchar_t> buffer(first_text_size);
+    for (int row = 0; row < count; ++row)
+    {
+        LVITEMW item{};
+        std::size_t length = 0;
+        for (;;)
+        {
+            item.mask = LVIF_TEXT | LVIF_PARAM;
+            item.iItem = row;
+            item.iSubItem = col;
+            item.pszText = buffer.data();
+            item.cchTextMax = static_cast<int>(buffer.size());
+            // Not every native list gives it with the text of another column than the first.
+            item.lParam = -1;
+            buffer[0] = L'\0';
+            AskNative(LVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&item));
+            // The parent may have been asked for the text.
+            if (!watch.IsUnchanged())
+                return false;
+            // The native list may give its own text instead of a copy.
+            if (item.pszText == nullptr || item.pszText == LPSTR_TEXTCALLBACKW)
+                item.pszText = const_cast<wchar_t *>(L"");
+            length = std::wcslen(item.pszText);
+            if (item.pszText != buffer.data() || length < buffer.size() - 1)
+                break;
+            buffer.resize(2 * buffer.size());
+        }
+        XLISTCTRLROW * object = item.lParam != -1 ? reinterpret_cast<XLISTCTRLROW *>(item.lParam) : NativeParam(row);
+        if (!rows.empty())
+            object = rows[static_cast<std::size_t>(row)];
+        if (object != nullptr)
+            order.AddText(*object, {item.pszText, length});
+    }
+    return true;
+}
+
+void CXListCtrl::SortByHost(int (*compare)(long long, long long, long long))
+{
+    Watch const watch(*this);
+    auto const list = static_cast<long long>(reinterpret_cast<LONG_PTR>(this));
+    std::vector<int> const order = SortedOrder(RowCount(), [compare, list, &watch](int a, int b) {
+        // A comparison that changes the list, against the rules, is not asked again.
+        return watch.IsUnchanged() ? compare(a, b, list) : 0;
+    });
+    if (watch.IsUnchanged() && !std::is_sorted(order.begin(), order.end()))
+        ApplyOrder(order);
+}
+
+void CXListCtrl::ApplyOrder(std::vector<int> const & order)
+{
+    Watch const watch(*this);
+    std::vector<XLISTCTRLROW *> rows = RowsFromTop();
+    // Only through a row object of its own can a native item be told its place; those without get one for this time.
+    std::vector<std::pair<XLISTCTRLROW *, XLISTCTRLROW *>> replaced;
+    bool complete = true;
+    for (std::size_t i = 0; i < rows.size() && watch.Changes() == replaced.size(); ++i)
     {
         if (rows[i] != nullptr)
             continue;
-        rows[i] = &substitutes[strayRows.size()];
-        strayRows.push_back(static_cast<int>(i));
-        SetNativeParam(strayRows.back(), rows[i]);
+        if (m_standInsInUse == m_standIns.size())
+            m_standIns.push_back(std::make_unique<XLISTCTRLROW>());
+        rows[i] = m_standIns[m_standInsInUse++].get();
+        replaced.emplace_back(rows[i], NativeParam(static_cast<int>(i)));
+        complete = SetNativeParam(static_cast<int>(i), rows[i]) && complete;
+        if (!watch.IsThere())
+            return;
     }
-    int place = 0;
-    for (int const row : order)
-        rows[static_cast<std::size_t>(row)]->SetSortPlace(place++);
-
-    bool const sorted = SortItems(&ComparePlaces, 0) != FALSE;
-    for (std::size_t i = 0; i < strays; ++i)
-        SetNativeParam(sorted ? substitutes[i].sortPlace() : strayRows[i], nullptr);
+    // The host has heard of each one, and the sort itself is a change.
+    unsigned long long expected = replaced.size();
+    if (watch.IsAlive() && complete && watch.Changes() == expected)
+    {
+        ++expected;
+        long long place = 0;
+        for (int const row : order)
+        {
+            XLISTCTRLROW::SortMark mark;
+            mark.value = place++;
+            rows[static_cast<std::size_t>(row)]->SetSortMark(mark);
+        }
+        SortItems(&ComparePlaces, 0);
+    }
+    for (auto const & [standIn, former] : replaced)
+    {
+        LVFINDINFOW find{};
+        find.flags = LVFI_PARAM;
+        find.lParam = reinterpret_cast<LPARAM>(standIn);
+        int const row = watch.IsAlive() ? FindItem(&find) : -1;
+        if (row < 0)
+            continue;
+        SetNativeParam(row, former);
+        ++expected;
+    }
+    // What the host hears of meanwhile may sort as well, with others.
+    if (watch.IsThere())
+        m_standInsInUse -= replaced.size();
+    if (watch.IsAlive() && watch.Changes() != expected)
+        PutRowsInOrder();
 }
 
 bool CXListCtrl::SetNativeParam(int row, XLISTCTRLROW const * object)
 {
-    return CListCtrl::SetItemData(row, reinterpret_cast<DWORD_PTR>(object)) != FALSE;
+    Watch const watch(*this);
+    m_ownRowChange = true;
+    bool const set = CListCtrl::SetItemData(row, reinterpret_cast<DWORD_PTR>(object)) != FALSE;
+    if (watch.IsAlive())
+        m_ownRowChange = false;
+    return set;
 }

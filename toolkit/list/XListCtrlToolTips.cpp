@@ -40,15 +40,11 @@ CString CXListCtrl::GetItemToolTipText(int row, int col)
 
 void CXListCtrl::DeleteAllToolTips()
 {
-    for (int row = 0; row < GetItemCount(); ++row)
-    {
-        XLISTCTRLROW const * const object = RowOf(row);
-        if (object == nullptr)
-            continue;
-        int const columns = std::min(m_columnCount, static_cast<int>(object->capacity()));
+    VisitRows([this](XLISTCTRLROW const & row) {
+        int const columns = std::min(m_columnCount, static_cast<int>(row.capacity()));
         for (int col = 0; col < columns; ++col)
-            object->cells()[col].toolTipText.Empty();
-    }
+            row.cells()[col].toolTipText.Empty();
+    });
 }
 
 INT_PTR CXListCtrl::OnToolHitTest(CPoint point, TOOLINFO * info) const

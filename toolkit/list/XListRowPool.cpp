@@ -34,23 +34,21 @@ XLISTCTRLROW * CXListRowPool::Take()
     std::unique_ptr<XLISTCTRLROW> & slot = m_slots[m_used];
     if (slot == nullptr)
         slot = std::make_unique<XLISTCTRLROW>();
-    ++m_used;
+    slot->m_slot = m_used++;
     return slot.get();
 }
 
 bool CXListRowPool::GiveBack(XLISTCTRLROW const * row)
 {
-    std::unique_ptr<XLISTCTRLROW> * const begin = m_slots.get();
-    std::unique_ptr<XLISTCTRLROW> * const end = begin + m_used;
-    if (m_used != 0 && (end - 1)->get() == row)
-    {
-        --m_used;
-        return true;
-    }
-    auto * const found = std::find_if(begin, end, [row](auto const & slot) { return slot.get() == row; });
-    if (found == end)
+    if (row == nullptr || row->m_slot >= m_used || m_slots[row->m_slot].get() != row)
         return false;
-    --m_used;
-    std::swap(*found, *(end - 1));
+    Swap(row->m_slot, --m_used);
     return true;
+}
+
+void CXListRowPool::Swap(std::size_t a, std::size_t b)
+{
+    std::swap(m_slots[a], m_slots[b]);
+    m_slots[a]->m_slot = a;
+    m_slots[b]->m_slot = b;
 }

@@ -1,8 +1,10 @@
 #pragma once
 // The rows of a list, and the store that recycles them.
 
+#include <algorithm>
 #include <cstddef>
 #include <memory>
+#include <span>
 #include <utility>
 
 #include "list/XListCtrlData.h"
@@ -17,17 +19,28 @@ public:
     unsigned int capacity() const { return m_capacity; }
     /// Makes room for that many columns and gives all records up to the capacity their values of a recycled cell.
     void Prepare(unsigned int columns);
-    /// The place in the list that a sort under way has found for the row; without a meaning at other times.
-    int sortPlace() const { return m_sortPlace; }
-    void SetSortPlace(int place) { m_sortPlace = place; }
+    /// What a sort under way goes by: the rank first, then the value. Without a meaning at other times.
+    struct SortMark
+    {
+        long long value = 0;
+        /// Where the text shown begins, among the texts of the sort.
+        std::size_t text = 0;
+        int rank = 0;
+    };
+    SortMark const & sortMark() const { return m_sortMark; }
+    void SetSortMark(SortMark const & mark) { m_sortMark = mark; }
     /// Counts the rows that this object has been: whoever holds it over a call that can run the host's code sees by
     /// another number that it was given back and taken anew.
     unsigned long long use() const { return m_use; }
 
 private:
+    friend class CXListRowPool;
+
     std::unique_ptr<XLISTCTRLDATA[]> m_cells;
     unsigned int m_capacity = 0;
-    int m_sortPlace = 0;
+    SortMark m_sortMark;
+    /// The place in its pool.
+    std::size_t m_slot = 0;
     unsigned long long m_use = 0;
 };
 
@@ -47,20 +60,38 @@ public:
     bool GiveBack(XLISTCTRLROW const * row);
     /// Every row is given back.
     void GiveBackAll() { m_used = 0; }
-    /// Every row is given back for which keeps(XLISTCTRLROW const &) is false.
-    template <class Keeps> void GiveBackUnless(Keeps && keeps)
+    /// In use are from now on the rows, given back before or not, for which keeps(XLISTCTRLROW const &) is true.
+    template <class Keeps> void KeepOnly(Keeps && keeps)
     {
-        for (std::size_t slot = m_used; slot-- > 0;)
+        m_used = 0;
+        for (std::size_t slot = 0; slot < m_capacity && m_slots[slot] != nullptr; ++slot)
         {
-            if (!keeps(std::as_const(*m_slots[slot])))
-                GiveBack(m_slots[slot].get());
+            if (keeps(std::as_const(*m_slots[slot])))
+                Swap(slot, m_used++);
         }
     }
+
+    using Slots = std::span<std::unique_ptr<XLISTCTRLROW> const>;
+    /// The rows in use, in no particular order.
+    Slots InUse() const { return {m_slots.get(), m_used}; }
+    /// Every slot: behind the rows in use the finished ones, then nulls.
+    Slots All() const { return {m_slots.get(), m_capacity}; }
+    /// Whether that is a row in use, without looking at what is behind the pointer.
+    bool Owns(XLISTCTRLROW const * row) const
+    {
+        Slots const rows = InUse();
+        return std::any_of(rows.begin(), rows.end(), [row](auto const & slot) { return slot.get() == row; });
+    }
+    /// Whether that is the row taken last, without looking at what is behind the pointer.
+    bool IsNewest(XLISTCTRLROW const * row) const { return m_used != 0 && m_slots[m_used - 1].get() == row; }
 
     std::size_t capacity() const { return m_capacity; }
     std::size_t used() const { return m_used; }
 
 private:
+    /// Both slots hold rows.
+    void Swap(std::size_t a, std::size_t b);
+
     std::size_t m_capacity;
     std::size_t m_used = 0;
     std::unique_ptr<std::unique_ptr<XLISTCTRLROW>[]> m_slots;
