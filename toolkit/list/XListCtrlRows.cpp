@@ -164,8 +164,7 @@ bool CXListCtrl::SetCurSel(int row, bool ensureVisible)
     }
     if (m_hWnd == nullptr)
         return false;
-    bool const set =
-        SetItemState(row, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED) != FALSE;
+    bool const set = SetItemState(row, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED) != FALSE;
     if (ensureVisible)
         EnsureVisible(row, FALSE);
     return set;
@@ -185,8 +184,8 @@ void CXListCtrl::UpdateSubItem(int row, int col)
     if (m_batchInsert || row < 0 || col < -1 || col >= m_columnCount || row >= RowCount())
         return;
     CRect rect;
-    bool const known = col >= 0 ? GetSubItemRect(row, col, LVIR_BOUNDS, rect)
-                                : GetItemRect(row, &rect, LVIR_BOUNDS) != FALSE;
+    bool const known =
+        col >= 0 ? GetSubItemRect(row, col, LVIR_BOUNDS, rect) : GetItemRect(row, &rect, LVIR_BOUNDS) != FALSE;
     if (!known)
         return;
     rect.InflateRect(repaint_margin, repaint_margin);

@@ -1,7 +1,7 @@
-// CXListCtrl: sorting. By cells the native list sorts its row objects, which are marked before with what they are sorted
-// by. For a host's comparison, which is given indices, the order is found first, from rows that stand still; then the
-// native list moves its items once. Its own sort by index is not used: some systems ask for rows by index while items are
-// moving.
+// CXListCtrl: sorting. By cells the native list sorts its row objects, which are marked before with what they are
+// sorted by. For a host's comparison, which is given indices, the order is found first, from rows that stand still;
+// then the native list moves its items once. Its own sort by index is not used: some systems ask for rows by index
+// while items are moving.
 
 #include "list/XListCtrl.h"
 

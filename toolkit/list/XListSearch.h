@@ -34,8 +34,8 @@ inline void FetchAhead(CXListRowPool::Slots rows, std::size_t i)
 }
 
 /// The place of the topmost row that satisfies matches(XLISTCTRLROW const &); -1 if there is none. The native list is
-/// asked little: placeOf(XLISTCTRLROW const &) gives a row's place, -1 for one that is not in the list, and is asked a few
-/// times at most; else rowAt(int place), which may give null, is asked once a place, of which there are rowCount().
+/// asked little: placeOf(XLISTCTRLROW const &) gives a row's place, -1 for one that is not in the list, and is asked a
+/// few times at most; else rowAt(int place), which may give null, is asked once a place, of which there are rowCount().
 /// areRows: whatever rowAt gives is one of those rows, so that it can be looked into.
 template <class RowCount, class Matches, class PlaceOf, class RowAt>
 int FindTopmostRow(CXListRowPool::Slots rows, bool areRows, RowCount && rowCount, Matches && matches,
