@@ -203,8 +203,13 @@ bool CXListCtrl::SetNativeParam(int row, XLISTCTRLROW const * object)
 {
     Watch const watch(*this);
     m_ownRowChange = true;
-    bool const set = CListCtrl::SetItemData(row, reinterpret_cast<DWORD_PTR>(object)) != FALSE;
-    if (watch.IsAlive())
+    LVITEMW item{};
+    item.mask = LVIF_PARAM;
+    item.iItem = row;
+    item.lParam = reinterpret_cast<LPARAM>(object);
+    // Straight to where the native list hears of it: rows are deleted by the thousand.
+    bool const set = CXListCtrl::DefWindowProc(LVM_SETITEMW, 0, reinterpret_cast<LPARAM>(&item)) != FALSE;
+    if (watch.IsThere())
         m_ownRowChange = false;
     return set;
 }

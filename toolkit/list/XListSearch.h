@@ -6,6 +6,10 @@
 #include <functional>
 #include <vector>
 
+#if defined(_M_X64) || defined(__x86_64__)
+#include <xmmintrin.h>
+#endif
+
 #include "list/XListRowPool.h"
 
 /// So many rows that match are asked for their places one by one; if there are more, the list is walked.
@@ -13,9 +17,25 @@ constexpr std::size_t most_rows_placed = 16;
 /// From so many rows on it is worth a question whether the first row matches, before all are looked at.
 constexpr std::size_t many_rows = 64;
 
+/// Has the memory of the rows that come soon behind the i-th one brought in: rows lie far apart.
+inline void FetchAhead(CXListRowPool::Slots rows, std::size_t i)
+{
+#if defined(_M_X64) || defined(__x86_64__)
+    constexpr std::size_t cells_ahead = 12;
+    constexpr std::size_t rows_ahead = 2 * cells_ahead;
+    if (i + rows_ahead >= rows.size() || rows[i + cells_ahead] == nullptr)
+        return;
+    _mm_prefetch(reinterpret_cast<char const *>(rows[i + rows_ahead].get()), _MM_HINT_T0);
+    _mm_prefetch(reinterpret_cast<char const *>(rows[i + cells_ahead]->cells()), _MM_HINT_T0);
+#else
+    static_cast<void>(rows);
+    static_cast<void>(i);
+#endif
+}
+
 /// The place of the topmost row that satisfies matches(XLISTCTRLROW const &); -1 if there is none. The native list is
-/// asked little: placeOf(XLISTCTRLROW const &) gives a row's place, -1 for one that is not in the list, and is asked a few
-/// times at most; else rowAt(int place), which may give null, is asked once a place, of which there are rowCount().
+/// asked little: placeOf(XLISTCTRLROW const &) gives a row's place, -1 for one that is not in the list, and is asked a
+/// few times at most; else rowAt(int place), which may give null, is asked once a place, of which there are rowCount().
 /// areRows: whatever rowAt gives is one of those rows, so that it can be looked into.
 template <class RowCount, class Matches, class PlaceOf, class RowAt>
 int FindTopmostRow(CXListRowPool::Slots rows, bool areRows, RowCount && rowCount, Matches && matches,
@@ -28,8 +48,10 @@ int FindTopmostRow(CXListRowPool::Slots rows, bool areRows, RowCount && rowCount
             return 0;
     }
     std::vector<XLISTCTRLROW const *> found;
-    for (auto const & row : rows)
+    for (std::size_t i = 0; i < rows.size(); ++i)
     {
+        FetchAhead(rows, i);
+        auto const & row = rows[i];
         if (row == nullptr || !matches(*row))
             continue;
         found.push_back(row.get());
