@@ -53,6 +53,7 @@ CXListCtrl::~CXListCtrl()
     // While the header's object is still there, which the window would miss otherwise.
     if (m_hWnd != nullptr)
         DestroyWindow();
+    EndPaints();
 }
 
 void CXListCtrl::PreSubclassWindow()

@@ -48,6 +48,7 @@ void CXListCtrl::ForgetRow() const
 
 LRESULT CXListCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
+    HeedMessage(message);
     switch (message)
     {
     case LVM_INSERTITEMA:
@@ -61,6 +62,12 @@ LRESULT CXListCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     case LVM_SETITEMCOUNT:
     case WM_DESTROY:
         break;
+    case WM_NOTIFY:
+    case LVM_INSERTCOLUMNA:
+    case LVM_INSERTCOLUMNW:
+    case LVM_DELETECOLUMN:
+    case LVM_SETCOLUMNORDERARRAY:
+        return ColumnMessage(message, wParam, lParam);
     default:
         return CListCtrl::WindowProc(message, wParam, lParam);
     }
