@@ -131,6 +131,8 @@ protected:
                 SetNativeWidth(AnyColumn(), Random(0, 120));
             return "four widths";
         case 6:
+            // A first column that stands behind others is painted ahead of the second one, over those between them.
+            SetOrder(NaturalOrder());
             m_list.Scroll({Random(-200, 200), 0});
             return "scrolled sideways to " + std::to_string(m_list.GetScrollPos(SB_HORZ));
         case 7:
@@ -194,7 +196,8 @@ protected:
         tests::PumpPosted();
         for (int step = 1; step <= steps; ++step)
         {
-            ASSERT_TRUE(tests::MoveMouse({from.x + by * step / steps, from.y}));
+            ASSERT_TRUE(tests::MoveMouse({from.x + by * step / steps, from.y}))
+                << "column " << col << ", step " << step << " of a drag by " << by << " from " << from.x;
             EXPECT_TRUE(IsAsPaintedAnew()) << "column " << col << ", step " << step << " of a drag by " << by;
         }
         tests::Release();
@@ -276,7 +279,7 @@ TEST_F(ListPaintChanges, ByDraggingDividers)
 {
     Fill(13);
     ASSERT_TRUE(tests::BringToFront(m_parent));
-    for (int const by : {40, -50, 120, -30, -200, 15, 60, -25})
+    for (int const by : {40, -50, 120, -30, -70, 15, 60, -25})
         DragDivider(by % 3 == 0 ? 1 : 0, by);
     m_list.fits = true;
     for (int const by : {40, -50, 90, -80, 25, -25})
