@@ -196,7 +196,8 @@ protected:
         tests::PumpPosted();
         for (int step = 1; step <= steps; ++step)
         {
-            ASSERT_TRUE(tests::MoveMouse({from.x + by * step / steps, from.y}))
+            int const x = std::max(static_cast<int>(from.x) + by * step / steps, 2);
+            ASSERT_TRUE(tests::MoveMouse({x, from.y}))
                 << "column " << col << ", step " << step << " of a drag by " << by << " from " << from.x;
             EXPECT_TRUE(IsAsPaintedAnew()) << "column " << col << ", step " << step << " of a drag by " << by;
         }

@@ -80,17 +80,23 @@ private:
 class ClipScope
 {
 public:
-    ClipScope(CDC & dc, CRect const & rect) : m_dc(dc), m_saved(dc.SaveDC())
+    ClipScope(CDC & dc, CRect const & rect) : m_dc(dc.GetSafeHdc()), m_former(::CreateRectRgn(0, 0, 0, 0))
     {
+        m_clipped = ::GetClipRgn(m_dc, m_former) == 1;
         dc.IntersectClipRect(rect.IsRectEmpty() ? CRect(0, 0, 0, 0) : rect);
     }
-    ~ClipScope() { m_dc.RestoreDC(m_saved); }
+    ~ClipScope()
+    {
+        ::SelectClipRgn(m_dc, m_clipped ? m_former : nullptr);
+        ::DeleteObject(m_former);
+    }
     ClipScope(ClipScope const &) = delete;
     ClipScope & operator=(ClipScope const &) = delete;
 
 private:
-    CDC & m_dc;
-    int m_saved;
+    HDC m_dc;
+    HRGN m_former;
+    bool m_clipped = false;
 };
 
 /// Gives an image list another background colour for the length of a scope.
