@@ -1,5 +1,5 @@
-// Painting a page of a report list: text cells beside a native list that shows the same, other kinds beside a native list
-// whose owner draws each cell with the same calls by hand.
+// Painting a page of a report list: text cells beside a native list that shows the same, other kinds beside a native
+// list whose owner draws each cell with the same calls by hand.
 
 #include <afxcmn.h>
 #include "list/XListCtrl.h"
@@ -143,7 +143,8 @@ bool PaintAndReport(Page & page, char const * name, double goal)
 
 /// A page of cells that change(list, row, column) has made of text cells, beside the same drawn by hand. Images, where
 /// there are some, are given to both lists, so that their rows have the same height.
-template <class Change> bool PageOf(char const * name, Change && change, HandDrawing draw, CImageList * images = nullptr)
+template <class Change>
+bool PageOf(char const * name, Change && change, HandDrawing draw, CImageList * images = nullptr)
 {
     Page page(std::move(draw));
     if (images != nullptr)

@@ -163,10 +163,7 @@ protected:
         std::iota(order.begin(), order.end(), 0);
         return order;
     }
-    void SetOrder(std::vector<int> order)
-    {
-        m_list.SetColumnOrderArray(static_cast<int>(order.size()), order.data());
-    }
+    void SetOrder(std::vector<int> order) { m_list.SetColumnOrderArray(static_cast<int>(order.size()), order.data()); }
     std::string Reorder()
     {
         std::vector<int> order = NaturalOrder();

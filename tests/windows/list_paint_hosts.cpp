@@ -31,8 +31,8 @@ public:
     static void operator delete(void * memory, std::size_t size) { ::VirtualFree(memory, size, MEM_DECOMMIT); }
 };
 
-/// A native list that sends one cell's notification with each paint and then returns. The system's own list goes on with
-/// the rows that it has counted before, and ends the program if they are gone.
+/// A native list that sends one cell's notification with each paint and then returns. The system's own list goes on
+/// with the rows that it has counted before, and ends the program if they are gone.
 class OneCellNative
 {
 public:
@@ -81,10 +81,7 @@ private:
 class ListPaintHosts : public testing::Test
 {
 protected:
-    void SetUp() override
-    {
-        Open();
-    }
+    void SetUp() override { Open(); }
     void Open(wchar_t const * className = WC_LISTVIEWW)
     {
         HWND const window = ::CreateWindowExW(0, className, nullptr, tests::TestList::default_style, 0, 0, 360, 200,

@@ -297,8 +297,8 @@ void CXListCtrl::OnCustomDraw(NMHDR * header, LRESULT * result)
     *result = CDRF_SKIPDEFAULT;
 }
 
-// A first column that stands behind others is painted where they stand, up to the second column. Its own place would keep
-// whatever was there before.
+// A first column that stands behind others is painted where they stand, up to the second column. Its own place would
+// keep whatever was there before.
 void CXListCtrl::FillMovedFirstColumn(CDC & dc, CRect const & row)
 {
     PaintMemory & memory = m_paint->memory;
