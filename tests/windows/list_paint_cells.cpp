@@ -508,6 +508,16 @@ TEST_F(ListPaintCells, NothingIsDrawnIntoNothing)
     CRect rect = cell;
     list.DrawProgress(0, 1, nullptr, 0, 0, rect, cells);
     list.DrawProgress(0, 1, dc, 0, 0, rect, nullptr);
+    for (int state = XLC_UNCHECKED; state <= XLC_RADIO_OFF; ++state)
+        for (auto const draw : {&tests::TestList::DrawCheckboxBox, &tests::TestList::DrawRadioBox})
+        {
+            CRect box(cell.TopLeft(), CSize(BoxSize, BoxSize));
+            (list.*draw)(box, state, true, nullptr);
+            CRect noWidth(cell.left, cell.top, cell.left, cell.top + BoxSize);
+            (list.*draw)(noWidth, state, true, dc);
+            CRect noHeight(cell.left, cell.top, cell.left + BoxSize, cell.top);
+            (list.*draw)(noHeight, state, false, dc);
+        }
     EXPECT_TRUE(canvas.BoundsOfOther(Untouched).IsRectEmpty());
 }
 
@@ -519,9 +529,51 @@ TEST_F(ListPaintCells, ColumnZeroEndsWhereTheNextColumnBegins)
     EXPECT_EQ(canvas.BoundsOfOther(Untouched), CRect(0, next.top, next.left, next.bottom));
 }
 
-TEST_F(ListPaintCells, NoKindLeavesItsCellHoweverNarrow)
+TEST_F(ListPaintCells, AMarkKeepsItsSizeAndPlaceInACellThatIsSmaller)
 {
-    constexpr int all_kinds = 7;
+    SetWidth(1, 5);
+    list.SetCheckbox(0, 1, XLC_CHECKED);
+    CRect cell = Cell(0, 1);
+    list.SetItemText(0, 1, L"Text");
+    Paint(0, 1);
+    EXPECT_EQ(canvas.BoundsOf(CheckFrame), CRect(CPoint(cell.left + 9, cell.top + 3), CSize(BoxSize, BoxSize)));
+    EXPECT_EQ(canvas.Count(CheckMark), 21);
+    list.SetItemText(0, 1, L"");
+    Paint(0, 1);
+    EXPECT_EQ(canvas.BoundsOf(CheckFrame), CRect(CPoint(cell.left + 2 - 7, cell.top + 3), CSize(BoxSize, BoxSize)));
+
+    CRect low(cell.left, cell.top, cell.left + 40, cell.top + 8);
+    canvas.Fill(Untouched);
+    list.DrawCheckbox(0, 1, &canvas.Dc(), 0, 0xFFFFFF, low, list.GetRowData(0));
+    EXPECT_EQ(canvas.BoundsOf(CheckFrame), CRect(CPoint(cell.left + 20 - 7, cell.top), CSize(BoxSize, BoxSize)));
+}
+
+TEST_F(ListPaintCells, AComboArrowKeepsItsPlaceInACellThatIsSmaller)
+{
+    list.SetComboBox(0, 1, std::map<int, wchar_t const *>{{1, L""}}, 1, 1);
+    SetWidth(1, 5);
+    CRect const cell = Cell(0, 1);
+    Paint(0, 1);
+    // The arrow starts 3 pixels into its box, which ends the padding ahead of the cell's right edge.
+    CRect const painted = canvas.BoundsOfOther(Untouched);
+    EXPECT_LE(painted.left, cell.right - Padding - BoxSize + 4);
+    EXPECT_GE(painted.left, cell.right - Padding - BoxSize + 2);
+}
+
+TEST_F(ListPaintCells, AnImageStandsInTheMiddleOfACellThatIsLower)
+{
+    list.SetItemImage(0, 1, 0);
+    CRect const cell = Cell(0, 1);
+    canvas.Fill(Untouched);
+    list.DrawImage(0, 1, &canvas.Dc(), 0, 0xFFFFFF, CRect(cell.left, cell.top + 10, cell.right, cell.top + 20),
+                   list.GetRowData(0));
+    EXPECT_EQ(canvas.BoundsOf(Red), CRect(cell.left + Spacing, cell.top + 15 - (ImageHeight >> 1),
+                                          cell.left + Spacing + ImageWidth, cell.top + 25 - (ImageHeight >> 1)));
+}
+
+TEST_F(ListPaintCells, TextsAndBarsStayInTheirCellHoweverNarrow)
+{
+    constexpr int all_kinds = 2;
     for (int width : {1, 2, 3, 5, 8, 12, 14, 18, 23, 30, 60})
     {
         SetWidth(1, width);
@@ -533,24 +585,8 @@ TEST_F(ListPaintCells, NoKindLeavesItsCellHoweverNarrow)
             switch (kind)
             {
             case 0:
-                list.SetCheckbox(0, 1, XLC_CHECKED);
-                break;
-            case 1:
-                list.SetCheckbox(0, 1, XLC_CROSSED);
-                list.SetItemText(0, 1, L"");
-                break;
-            case 2:
-                list.SetRadioButton(0, 1, XLC_RADIO_ON);
-                break;
-            case 3:
-                list.SetComboBox(0, 1, std::map<int, wchar_t const *>{{1, L"Text"}}, 1, 1);
-                break;
-            case 4:
                 list.SetProgress(0, 1, true, L"%d of 100");
                 list.UpdateProgress(0, 1, 40, 40);
-                break;
-            case 5:
-                list.SetItemImage(0, 1, 0);
                 break;
             default:
                 list.SetBold(0, 1, true);

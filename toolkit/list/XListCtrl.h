@@ -309,6 +309,7 @@ public:
 protected:
     virtual BOOL OnToolTipText(UINT id, NMHDR * header, LRESULT * result);
     void PreSubclassWindow() override;
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     /// All that reaches the native list comes through here.
     LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT * result) override;
@@ -409,6 +410,13 @@ private:
     /// How the drawing of most kinds begins: turns the colours into drawing colours, fills the cell and lays the wash on.
     void FillCell(int row, int col, CDC & dc, COLORREF & text, COLORREF & background, CRect const & rect,
                   XLISTCTRLDATA const & cell);
+    /// Handles a message that may change columns: all is painted anew if it does.
+    LRESULT ColumnMessage(UINT message, WPARAM wParam, LPARAM lParam);
+    void FillMovedFirstColumn(CDC & dc, CRect const & row);
+    /// Whether the row stands above the first one that shows.
+    bool IsAboveTop(int row);
+    /// Forgets what the paint under way remembers if a message that arrives could change it.
+    void HeedMessage(UINT message);
     /// DrawText format of a column's texts.
     UINT TextFormat(int col) const;
     UINT AskTextFormat(int col) const;
@@ -559,26 +567,8 @@ private:
 
     /// What stays the same while the window paints itself once, so that it is asked for once a row or column instead of
     /// once a cell.
-    struct PaintMemory
-    {
-        struct Column
-        {
-            int left;
-            int right;
-            bool edgesKnown = false;
-            UINT format;
-            bool formatKnown = false;
-        };
-        std::vector<Column> columns;
-        int row = -1;
-        int top;
-        int bottom;
-        int stateRow = -1;
-        bool selected;
-        bool focusKnown = false;
-        bool focused;
-    };
+    struct PaintMemory;
     class PaintScope;
     /// Null outside of a paint. Not owned.
-    mutable PaintMemory * m_paint = nullptr;
+    mutable PaintScope * m_paint = nullptr;
 };

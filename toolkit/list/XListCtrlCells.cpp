@@ -86,6 +86,22 @@ void CXListCtrl::ForgetRow() const
     m_knownRowObject = nullptr;
 }
 
+LRESULT CXListCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    HeedMessage(message);
+    switch (message)
+    {
+    case WM_NOTIFY:
+    case LVM_INSERTCOLUMNA:
+    case LVM_INSERTCOLUMNW:
+    case LVM_DELETECOLUMN:
+    case LVM_SETCOLUMNORDERARRAY:
+        return ColumnMessage(message, wParam, lParam);
+    default:
+        return CListCtrl::WindowProc(message, wParam, lParam);
+    }
+}
+
 LRESULT CXListCtrl::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
     if (!ChangesRows(message, lParam))

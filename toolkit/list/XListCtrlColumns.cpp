@@ -10,7 +10,31 @@ namespace
 {
 // What the available width leaves free of the window's.
 constexpr int border_width = 4;
+
+/// Whether a notification tells of another width, place or alignment of a column.
+bool TellsOfColumns(NMHDR const & notification)
+{
+    if (notification.code != HDN_ITEMCHANGEDW && notification.code != HDN_ITEMCHANGEDA)
+        return false;
+    // Both forms have the mask at the same place.
+    HDITEMW const * const item = reinterpret_cast<NMHEADERW const &>(notification).pitem;
+    return item == nullptr || (item->mask & (HDI_WIDTH | HDI_ORDER | HDI_FORMAT)) != 0;
+}
 } // namespace
+
+// The native list moves the picture of the columns behind a changed one and has only the rest painted. That goes wrong
+// where another change comes in between, as when a scroll bar goes and the host fits the columns to the new size, and
+// where something reaches out of its cell.
+LRESULT CXListCtrl::ColumnMessage(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    bool const changes = message != WM_NOTIFY || TellsOfColumns(*reinterpret_cast<NMHDR const *>(lParam));
+    HWND const window = m_hWnd;
+    LRESULT const result = CListCtrl::WindowProc(message, wParam, lParam);
+    // The host may have ended the list meanwhile.
+    if (changes)
+        ::InvalidateRect(window, nullptr, TRUE);
+    return result;
+}
 
 int CXListCtrl::AddColumn(wchar_t const * title, int format, int width)
 {

@@ -4,6 +4,7 @@
 
 #include "frame/GdiplusModule.h"
 #include "list/CheckMarks.h"
+#include "list/XListCtrlHold.h"
 
 namespace
 {
@@ -37,6 +38,39 @@ void PaintWash(CDC & dc, CRect const & cell, COLORREF color)
     graphics.FillRectangle(&brush, fill);
 }
 
+/// What a trough leaves free of its cell, and nothing else fills, since rows are not erased.
+void FillMargin(CDC & dc, CRect const & cell, COLORREF color)
+{
+    dc.FillSolidRect(CRect(cell.left, cell.top, cell.left + 1, cell.bottom), color);
+    dc.FillSolidRect(CRect(cell.left, cell.bottom - 1, cell.right, cell.bottom), color);
+}
+
+/// Fills a cell that the native list is about to draw, since rows are not erased. The context's colours stay.
+void FillNativeCell(CListCtrl & list, HDC target, int row, int col, CRect rect, COLORREF color)
+{
+    // Of a column that the list has not counted.
+    if (rect.IsRectEmpty() && col > 0)
+        list.GetSubItemRect(row, col, LVIR_BOUNDS, rect);
+    CDC & dc = *CDC::FromHandle(target);
+    COLORREF const former = dc.GetBkColor();
+    dc.FillSolidRect(rect, color);
+    dc.SetBkColor(former);
+}
+
+/// The place of the first column in the list's client area if another column stands ahead of it, else empty.
+CRect MovedFirstColumn(CListCtrl & list, CHeaderCtrl const & header)
+{
+    HDITEMW item = {};
+    item.mask = HDI_ORDER;
+    CRect place(0, 0, 0, 0);
+    if (header.GetSafeHwnd() != nullptr && header.GetItem(0, &item) && item.iOrder != 0 &&
+        header.GetItemRect(0, &place))
+    {
+        header.MapWindowPoints(&list, place);
+    }
+    return place;
+}
+
 /// Gives a device context its state back at the end of a scope.
 class StateScope
 {
@@ -52,20 +86,97 @@ private:
 };
 } // namespace
 
-/// Remembers for the length of one paint, which may run within another.
+struct CXListCtrl::PaintMemory
+{
+    struct Column
+    {
+        int left;
+        int right;
+        bool edgesKnown = false;
+        UINT format;
+        bool formatKnown = false;
+    };
+    std::vector<Column> columns;
+    int row = -1;
+    int top;
+    int bottom;
+    int topRow = -1;
+    /// Left and right of the first column's place if another column stands ahead of it.
+    int movedLeft = 0;
+    int movedRight = 0;
+    bool movedKnown = false;
+    int stateRow = -1;
+    bool selected;
+    bool focusKnown = false;
+    bool focused;
+
+    Column const * Find(int col) const
+    {
+        auto const index = static_cast<std::size_t>(col);
+        return index < columns.size() ? &columns[index] : nullptr;
+    }
+    Column & ColumnAt(int col)
+    {
+        auto const index = static_cast<std::size_t>(col);
+        if (columns.size() <= index)
+            columns.resize(index + 1);
+        return columns[index];
+    }
+};
+
+/// Remembers for the length of one paint, which may run within another. The list may end before the paint does.
 class CXListCtrl::PaintScope
 {
 public:
-    explicit PaintScope(CXListCtrl & list) : m_list(list), m_outer(list.m_paint) { m_list.m_paint = &m_memory; }
-    ~PaintScope() { m_list.m_paint = m_outer; }
+    explicit PaintScope(CXListCtrl & list) : m_watch(list), m_list(list), m_outer(list.m_paint) { list.m_paint = this; }
+    ~PaintScope()
+    {
+        if (m_watch.IsThere())
+            m_list.m_paint = m_outer;
+    }
     PaintScope(PaintScope const &) = delete;
     PaintScope & operator=(PaintScope const &) = delete;
 
+    bool ListIsGone() const { return !m_watch.IsThere(); }
+    /// Of this paint and those that it runs within.
+    void ForgetAll();
+
+    PaintMemory memory;
+
 private:
+    Watch m_watch;
     CXListCtrl & m_list;
-    PaintMemory * m_outer;
-    PaintMemory m_memory;
+    PaintScope * m_outer;
 };
+
+void CXListCtrl::PaintScope::ForgetAll()
+{
+    for (PaintScope * scope = this; scope != nullptr; scope = scope->m_outer)
+        scope->memory = {};
+}
+
+// Host code can run at any point of a paint, with the notifications and in painters of its own. Whatever it changes
+// comes here; what painting asks the list for does not change anything.
+void CXListCtrl::HeedMessage(UINT message)
+{
+    if (m_paint == nullptr)
+        return;
+    switch (message)
+    {
+    case LVM_GETITEMTEXTW:
+    case LVM_GETITEMSTATE:
+    case LVM_GETSUBITEMRECT:
+    case LVM_GETITEMCOUNT:
+    case LVM_GETTOPINDEX:
+    case LVM_GETHEADER:
+    case LVM_GETIMAGELIST:
+    case LVM_GETEXTENDEDLISTVIEWSTYLE:
+        break;
+    default:
+        m_paint->ForgetAll();
+        break;
+    }
+}
 
 void CXListCtrl::GetColors()
 {
@@ -112,8 +223,20 @@ void CXListCtrl::OnCustomDraw(NMHDR * header, LRESULT * result)
     int const row = static_cast<int>(draw.nmcd.dwItemSpec);
     int const col = draw.iSubItem;
     auto const * const rowData = reinterpret_cast<XLISTCTRLROW const *>(draw.nmcd.lItemlParam);
-    if (rowData == nullptr || col < 0 || static_cast<unsigned int>(col) >= rowData->capacity())
+    // What stands above the top row is erased, so a native list that shows a strip of the row there must not paint it.
+    if (IsAboveTop(row))
+    {
+        *result = CDRF_SKIPDEFAULT;
         return;
+    }
+    if (col == 0 && m_paint != nullptr)
+        FillMovedFirstColumn(*CDC::FromHandle(draw.nmcd.hdc), PaintedRect(row, col));
+    if (rowData == nullptr || col < 0 || static_cast<unsigned int>(col) >= rowData->capacity())
+    {
+        if (m_paint != nullptr)
+            FillNativeCell(*this, draw.nmcd.hdc, row, col, PaintedRect(row, col), m_colorWindow);
+        return;
+    }
     XLISTCTRLDATA * const cells = rowData->cells();
     XLISTCTRLDATA const & cell = cells[col];
 
@@ -133,6 +256,8 @@ void CXListCtrl::OnCustomDraw(NMHDR * header, LRESULT * result)
 
     if ((cell.properties & XLP_PROGRESS) != 0)
     {
+        if (m_paint != nullptr)
+            FillMargin(*dc, rect, m_colorWindow);
         rect.left += DrawImage(row, col, dc, text, background, rect, cells);
         DrawProgress(row, col, dc, text, background, rect, cells);
     }
@@ -147,12 +272,11 @@ void CXListCtrl::OnCustomDraw(NMHDR * header, LRESULT * result)
     }
     else if ((cell.properties & XLP_CUSTOMDRAW) != 0)
     {
-        // A copy: it may replace itself.
+        // The host's code may change or end anything, the painter itself and this list included.
+        *result = CDRF_SKIPDEFAULT;
         auto const painter = cell.customDraw;
         painter(row, col, dc, rect);
-        // The host's code may have changed anything.
-        if (m_paint != nullptr)
-            *m_paint = {};
+        return;
     }
     else
     {
@@ -160,6 +284,25 @@ void CXListCtrl::OnCustomDraw(NMHDR * header, LRESULT * result)
         DrawTextW(row, col, dc, text, background, rect, cells);
     }
     *result = CDRF_SKIPDEFAULT;
+}
+
+// A first column that stands behind others is painted where they stand, up to the second column. Its own place would
+// keep whatever was there before.
+void CXListCtrl::FillMovedFirstColumn(CDC & dc, CRect const & row)
+{
+    PaintMemory & memory = m_paint->memory;
+    if (!memory.movedKnown)
+    {
+        CRect const place = MovedFirstColumn(*this, m_header);
+        memory.movedLeft = place.left;
+        memory.movedRight = place.right;
+        memory.movedKnown = true;
+    }
+    if (memory.movedLeft >= memory.movedRight)
+        return;
+    COLORREF const former = dc.GetBkColor();
+    dc.FillSolidRect(CRect(memory.movedLeft, row.top, memory.movedRight, row.bottom), m_colorWindow);
+    dc.SetBkColor(former);
 }
 
 void CXListCtrl::GetDrawColors(int row, int col, COLORREF & text, COLORREF & background)
@@ -191,76 +334,76 @@ void CXListCtrl::FillCell(int row, int col, CDC & dc, COLORREF & text, COLORREF 
 
 UINT CXListCtrl::TextFormat(int col) const
 {
+    UINT const ellipsis = m_ellipsis ? DT_END_ELLIPSIS : 0;
     if (m_paint == nullptr || col < 0)
-        return AskTextFormat(col);
-    auto const index = static_cast<std::size_t>(col);
-    if (m_paint->columns.size() <= index)
-        m_paint->columns.resize(index + 1);
-    PaintMemory::Column & column = m_paint->columns[index];
-    if (!column.formatKnown)
-    {
-        column.format = AskTextFormat(col);
-        column.formatKnown = true;
-    }
-    return column.format;
+        return AskTextFormat(col) | ellipsis;
+    if (PaintMemory::Column const * const known = m_paint->memory.Find(col); known != nullptr && known->formatKnown)
+        return known->format | ellipsis;
+    UINT const format = AskTextFormat(col);
+    PaintMemory::Column & column = m_paint->memory.ColumnAt(col);
+    column.format = format;
+    column.formatKnown = true;
+    return format | ellipsis;
 }
 
 // Within one paint all cells of a row share its top and bottom, and all cells of a column its left and right.
 CRect CXListCtrl::PaintedRect(int row, int col)
 {
     CRect rect(0, 0, 0, 0);
-    if (m_paint == nullptr)
+    if (m_paint != nullptr && m_paint->memory.row == row)
     {
-        GetSubItemRect(row, col, LVIR_BOUNDS, rect);
-        return rect;
+        PaintMemory::Column const * const known = m_paint->memory.Find(col);
+        if (known != nullptr && known->edgesKnown)
+            return CRect(known->left, m_paint->memory.top, known->right, m_paint->memory.bottom);
     }
-    auto const index = static_cast<std::size_t>(col);
-    if (m_paint->columns.size() <= index)
-        m_paint->columns.resize(index + 1);
-    PaintMemory::Column & column = m_paint->columns[index];
-    if (m_paint->row == row && column.edgesKnown)
-        return CRect(column.left, m_paint->top, column.right, m_paint->bottom);
-    if (!GetSubItemRect(row, col, LVIR_BOUNDS, rect))
+    if (!GetSubItemRect(row, col, LVIR_BOUNDS, rect) || m_paint == nullptr)
         return rect;
-    m_paint->row = row;
-    m_paint->top = rect.top;
-    m_paint->bottom = rect.bottom;
+    m_paint->memory.row = row;
+    m_paint->memory.top = rect.top;
+    m_paint->memory.bottom = rect.bottom;
+    PaintMemory::Column & column = m_paint->memory.ColumnAt(col);
     column.left = rect.left;
     column.right = rect.right;
     column.edgesKnown = true;
     return rect;
 }
 
+bool CXListCtrl::IsAboveTop(int row)
+{
+    if (m_paint == nullptr)
+        return false;
+    if (m_paint->memory.topRow < 0)
+        m_paint->memory.topRow = GetTopIndex();
+    return row < m_paint->memory.topRow;
+}
+
 bool CXListCtrl::IsSelected(int row)
 {
     if (m_paint == nullptr)
         return GetItemState(row, LVIS_SELECTED) != 0;
-    if (m_paint->stateRow != row)
+    if (m_paint->memory.stateRow != row)
     {
-        m_paint->selected = GetItemState(row, LVIS_SELECTED) != 0;
-        m_paint->stateRow = row;
+        m_paint->memory.selected = GetItemState(row, LVIS_SELECTED) != 0;
+        m_paint->memory.stateRow = row;
     }
-    return m_paint->selected;
+    return m_paint->memory.selected;
 }
 
 bool CXListCtrl::HasFocus()
 {
     if (m_paint == nullptr)
         return ::GetFocus() == m_hWnd;
-    if (!m_paint->focusKnown)
+    if (!m_paint->memory.focusKnown)
     {
-        m_paint->focused = ::GetFocus() == m_hWnd;
-        m_paint->focusKnown = true;
+        m_paint->memory.focused = ::GetFocus() == m_hWnd;
+        m_paint->memory.focusKnown = true;
     }
-    return m_paint->focused;
+    return m_paint->memory.focused;
 }
 
 UINT CXListCtrl::AskTextFormat(int col) const
 {
-    UINT format = DT_NOPREFIX | DT_SINGLELINE | DT_VCENTER;
-    if (m_ellipsis)
-        format |= DT_END_ELLIPSIS;
-
+    UINT const format = DT_NOPREFIX | DT_SINGLELINE | DT_VCENTER;
     HDITEMW item = {};
     item.mask = HDI_FORMAT;
     if (m_header.GetSafeHwnd() == nullptr || !m_header.GetItem(col, &item))
@@ -310,8 +453,10 @@ void CXListCtrl::OnPaint()
     {
         PaintScope const paint(*this);
         Default();
+        if (paint.ListIsGone())
+            return;
     }
-    if (GetItemCount() > 0 || m_emptyListText.IsEmpty())
+    if (m_hWnd == nullptr || GetItemCount() > 0 || m_emptyListText.IsEmpty())
         return;
 
     CClientDC dc(this);

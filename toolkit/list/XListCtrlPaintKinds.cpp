@@ -1,7 +1,6 @@
 #include "list/XListCtrl.h"
 
 #include <algorithm>
-#include <optional>
 #include <string>
 
 #include "frame/GdiplusModule.h"
@@ -81,34 +80,23 @@ private:
 class ClipScope
 {
 public:
-    ClipScope(CDC & dc, CRect const & rect) : m_dc(dc), m_saved(dc.SaveDC())
+    ClipScope(CDC & dc, CRect const & rect) : m_dc(dc.GetSafeHdc()), m_former(::CreateRectRgn(0, 0, 0, 0))
     {
+        m_clipped = ::GetClipRgn(m_dc, m_former) == 1;
         dc.IntersectClipRect(rect.IsRectEmpty() ? CRect(0, 0, 0, 0) : rect);
     }
-    ~ClipScope() { m_dc.RestoreDC(m_saved); }
+    ~ClipScope()
+    {
+        ::SelectClipRgn(m_dc, m_clipped ? m_former : nullptr);
+        ::DeleteObject(m_former);
+    }
     ClipScope(ClipScope const &) = delete;
     ClipScope & operator=(ClipScope const &) = delete;
 
 private:
-    CDC & m_dc;
-    int m_saved;
-};
-
-/// Keeps a figure that is larger than its cell from leaving it, for the length of a scope.
-class CellClip
-{
-public:
-    CellClip(CDC & dc, CRect const & cell, CRect const & figure)
-    {
-        if (figure.left < cell.left || figure.top < cell.top || figure.right > cell.right ||
-            figure.bottom > cell.bottom)
-        {
-            m_clip.emplace(dc, cell);
-        }
-    }
-
-private:
-    std::optional<ClipScope> m_clip;
+    HDC m_dc;
+    HRGN m_former;
+    bool m_clipped = false;
 };
 
 /// Gives an image list another background colour for the length of a scope.
@@ -197,7 +185,6 @@ int CXListCtrl::DrawImage(int row, int col, CDC * dc, COLORREF text, COLORREF ba
 
     XLISTCTRLDATA const & cell = cells[col];
     FillCell(row, col, *dc, text, background, rect, cell);
-    CRect const whole = rect;
     int const spacing = m_header.GetSpacing();
     rect.left += spacing;
 
@@ -207,7 +194,6 @@ int CXListCtrl::DrawImage(int row, int col, CDC * dc, COLORREF text, COLORREF ba
     // A size of 0 would stand for that of the whole image.
     if (drawn.cx > 0 && drawn.cy > 0)
     {
-        CellClip const clip(*dc, whole, CRect(position, drawn));
         ImageBackgroundScope const imageBackground(*images, background);
         images->DrawIndirect(dc, cell.imageIndex, position, drawn, CPoint(0, 0));
     }
@@ -250,13 +236,10 @@ void CXListCtrl::DrawCheckbox(int row, int col, CDC * dc, COLORREF text, COLORRE
         box.MoveToX(rect.left + rect.Width() / 2 - check_marks::box_size / 2 - 1);
 
     bool const enabled = (cell.properties & XLP_ENABLED) != 0;
-    {
-        CellClip const clip(*dc, rect, box);
-        if (cell.checkedState >= XLC_UNCHECKED && cell.checkedState <= XLC_CROSSED)
-            DrawCheckboxBox(box, cell.checkedState, enabled, dc);
-        else if (cell.checkedState == XLC_RADIO_ON || cell.checkedState == XLC_RADIO_OFF)
-            DrawRadioBox(box, cell.checkedState, enabled, dc);
-    }
+    if (cell.checkedState >= XLC_UNCHECKED && cell.checkedState <= XLC_CROSSED)
+        DrawCheckboxBox(box, cell.checkedState, enabled, dc);
+    else if (cell.checkedState == XLC_RADIO_ON || cell.checkedState == XLC_RADIO_OFF)
+        DrawRadioBox(box, cell.checkedState, enabled, dc);
 
     if (cellText.IsEmpty())
         return;
@@ -268,6 +251,8 @@ void CXListCtrl::DrawCheckbox(int row, int col, CDC * dc, COLORREF text, COLORRE
 
 void CXListCtrl::DrawCheckboxBox(CRect & box, int state, bool enabled, CDC * dc)
 {
+    if (box.IsRectEmpty() || dc == nullptr)
+        return;
     check_marks::DrawFrame(*dc, box, enabled ? m_colorCheckFrame : m_colorDisabled);
     if (state == XLC_CHECKED)
         check_marks::DrawTick(*dc, box, enabled ? m_colorCheckMark : m_colorDisabled);
@@ -280,7 +265,7 @@ void CXListCtrl::DrawRadioBox(CRect & box, int state, bool enabled, CDC * dc)
 {
     constexpr float line_width = 1.0f;
 
-    if (!StartGdiplus())
+    if (box.IsRectEmpty() || dc == nullptr || !StartGdiplus())
         return;
     CRect ring = box;
     ring.DeflateRect(1, 1);
@@ -328,9 +313,7 @@ void CXListCtrl::DrawComboBox(int row, int col, CDC * dc, COLORREF text, COLORRE
     {
         room.DeflateRect(m_cellPadding, 0);
         room.right -= arrow_size;
-        CRect const arrow(CPoint(room.right, rect.top + TopOffset(rect, arrow_height)), CSize(arrow_size, arrow_size));
-        CellClip const clip(*dc, rect, arrow);
-        PaintArrow(*dc, arrow.TopLeft());
+        PaintArrow(*dc, CPoint(room.right, rect.top + TopOffset(rect, arrow_height)));
     }
 
     CellText const cellText(*this, row, col);
