@@ -265,6 +265,25 @@ TEST_F(LayoutResizer, ScaledRepositionDropsTheDirectionThatHasGrown)
     EXPECT_RECT(platform.PlaceOf(child), 10, 24, 110, 94);
 }
 
+TEST_F(LayoutResizer, ScaledRepositionInACollapsedPaneTakesTheAmountsAsTheyAre)
+{
+    CWnd & dialog = platform.AddDialog(design_outer);
+    CWnd & child = platform.AddChild(dialog, child_place);
+    CDialogResizer resizer(dialog, L"");
+    resizer.PositionChild(&child, CEdges::TOP_LEFT(), nullptr);
+    CSize const offset(3, 4);
+    CSize const growth(20, 30);
+
+    Resize(dialog, 0, 600);
+    resizer.RepositionChild(&child, &offset, &growth, true);
+    resizer.OnSize();
+    EXPECT_RECT(platform.PlaceOf(child), 13, 20, 133, 60) << "not scaled across, dropped in height as ever";
+    Resize(dialog, 401, 0);
+    resizer.RepositionChild(&child, &offset, &growth, true);
+    resizer.OnSize();
+    EXPECT_RECT(platform.PlaceOf(child), 13, 24, 133, 94);
+}
+
 TEST_F(LayoutResizer, ScaledRepositionMultipliesByTheWholeQuotient)
 {
     CWnd & dialog = platform.AddDialog(design_outer);

@@ -33,6 +33,12 @@ void Grow(CRect & rect, CSize growth)
     rect.bottom = wrapping::Sum(rect.bottom, growth.cy);
 }
 
+// 1 for a pane that is collapsed to nothing.
+int Quotient(int design, int present)
+{
+    return present != 0 ? design / present : 1;
+}
+
 // The product stays in 32 bits: beyond 214,748 pixels of growth a whole fraction wraps around, and that is meant.
 int Placed(int edge, int fraction, int growth)
 {
@@ -159,8 +165,8 @@ void CDialogResizer::RepositionChild(CWnd const * child, CSize const * offset, C
         CSize const designSize = SizeOf(m_designRect);
         CSize const presentSize = SizeOf(present);
         // Whole quotients are meant: a dialog larger than its design size drops the amounts.
-        int const factorX = designSize.cx / presentSize.cx;
-        int const factorY = designSize.cy / presentSize.cy;
+        int const factorX = Quotient(designSize.cx, presentSize.cx);
+        int const factorY = Quotient(designSize.cy, presentSize.cy);
         shift = CSize(wrapping::Product(shift.cx, factorX), wrapping::Product(shift.cy, factorY));
         added = CSize(wrapping::Product(added.cx, factorX), wrapping::Product(added.cy, factorY));
     }
