@@ -6,6 +6,7 @@
 #include <map>
 
 #include "frame/Export.h"
+#include "frame/LifeWatch.h"
 #include "layout/Edges.h"
 
 class CWnd;
@@ -87,4 +88,5 @@ private:
     CRect m_currentRect;
     CString m_storageKey;
     CWnd & m_dialog;
+    LifeSign m_life;
 };
