@@ -36,6 +36,11 @@ if(INSTRUMENT_UI_SANITIZE)
     add_link_options(${sanitizer_options})
 endif()
 
+if(INSTRUMENT_UI_TRAPS)
+    # There is no run-time library for reports. A null object may be asked for its handle, as MFC allows.
+    add_compile_options(-fsanitize=undefined -fno-sanitize=null,vptr -fsanitize-undefined-trap-on-error)
+endif()
+
 if(MINGW)
     # The compiler's run-time libraries stand beside the programs, so that the folder can be copied as it is.
     foreach(name libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)

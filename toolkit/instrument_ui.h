@@ -14,6 +14,7 @@
 #include "layout/Edges.h"
 #include "layout/DialogResizer.h"
 
+#include "dialogs/KeyGroups.h"
 #include "dialogs/PopupConfig.h"
 #include "dialogs/Dialog3d.h"
 #include "dialogs/FolderDialog.h"
@@ -22,6 +23,7 @@
 #include "windows/FensterManager.h"
 #include "windows/MenueManager.h"
 #include "windows/RegistrySettingsTree.h"
+#include "windows/MemorySettingsTree.h"
 #include "windows/SettingsFile.h"
 
 #include "list/XListCtrl.h"

@@ -9,8 +9,8 @@
 
 namespace framework
 {
-/// Elements side by side that grow as needed. New elements are value-initialised. An index outside throws
-/// CInvalidArgException.
+/// Elements side by side that grow as needed; their bytes are then moved, so no element may hold an address of its own.
+/// New elements are value-initialised. An index outside throws CInvalidArgException.
 template <class TYPE, class ARG_TYPE> class ArrayStorage : public CObject
 {
 public:
@@ -164,28 +164,15 @@ protected:
 
 private:
     static constexpr INT_PTR MinimumGrowth = 4;
-    static constexpr bool MovesByCopy = std::is_trivially_copyable_v<TYPE> || !std::is_move_constructible_v<TYPE>;
 
-    // Moves elements to places that hold none, which may overlap with their old ones.
+    // Moves the bytes of elements to places that hold none, which may overlap with their old ones. No constructor or
+    // assignment runs.
     static void Relocate(TYPE * target, TYPE * source, INT_PTR count)
     {
         if (count <= 0)
             return;
-        if constexpr (MovesByCopy)
-        {
-            std::memmove(static_cast<void *>(target), static_cast<void const *>(source),
-                         static_cast<size_t>(count) * sizeof(TYPE));
-        }
-        else
-        {
-            bool const backwards = target > source;
-            for (INT_PTR i = 0; i < count; ++i)
-            {
-                INT_PTR const at = backwards ? count - 1 - i : i;
-                ::new (static_cast<void *>(target + at)) TYPE(std::move(source[at]));
-                source[at].TYPE::~TYPE();
-            }
-        }
+        std::memmove(static_cast<void *>(target), static_cast<void const *>(source),
+                     static_cast<size_t>(count) * sizeof(TYPE));
     }
     void Destroy(INT_PTR first, INT_PTR end)
     {

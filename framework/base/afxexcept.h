@@ -108,6 +108,15 @@ public:
     CString m_strFileName;
 };
 
+/// What new asks when memory has run out: non-zero lets it try again, 0 makes it throw std::bad_alloc.
+using _PNH = int(AFX_CDECL *)(size_t);
+/// The handler of the process, null for none. At first it is AfxNewHandler.
+FRAMEWORK_API _PNH AFXAPI AfxGetNewHandler();
+/// Sets it and gives the former one.
+FRAMEWORK_API _PNH AFXAPI AfxSetNewHandler(_PNH pfnNewHandler);
+/// Throws the memory exception. nSize: 0, since new does not tell the size.
+FRAMEWORK_API int AFX_CDECL AfxNewHandler(size_t nSize);
+
 [[noreturn]] FRAMEWORK_API void AFXAPI AfxThrowMemoryException();
 [[noreturn]] FRAMEWORK_API void AFXAPI AfxThrowNotSupportedException();
 [[noreturn]] FRAMEWORK_API void AFXAPI AfxThrowResourceException();

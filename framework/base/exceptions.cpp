@@ -2,8 +2,10 @@
 
 #include "afx.h"
 
+#include <atomic>
 #include <cerrno>
 #include <cstdio>
+#include <new>
 
 IMPLEMENT_DYNAMIC(CException, CObject)
 IMPLEMENT_DYNAMIC(CSimpleException, CException)
@@ -16,6 +18,18 @@ IMPLEMENT_DYNAMIC(CFileException, CException)
 
 namespace
 {
+constinit std::atomic<_PNH> s_newHandler = AfxNewHandler;
+
+/// Installed as the handler of the C++ library, which all modules of the process share.
+void AskNewHandler()
+{
+    _PNH const handler = s_newHandler;
+    if (handler == nullptr || handler(0) == 0)
+        throw std::bad_alloc();
+}
+
+[[maybe_unused]] std::new_handler const s_formerHandler = std::set_new_handler(AskNewHandler);
+
 void CopyMessage(LPTSTR target, UINT size, LPCTSTR message)
 {
     if (target == nullptr || size == 0)
@@ -296,6 +310,21 @@ BOOL CFileException::GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnH
 BOOL CFileException::GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnHelpContext)
 {
     return CException::GetErrorMessage(lpszError, nMaxError, pnHelpContext);
+}
+
+_PNH AFXAPI AfxGetNewHandler()
+{
+    return s_newHandler;
+}
+
+_PNH AFXAPI AfxSetNewHandler(_PNH pfnNewHandler)
+{
+    return s_newHandler.exchange(pfnNewHandler);
+}
+
+int AFX_CDECL AfxNewHandler([[maybe_unused]] size_t nSize)
+{
+    AfxThrowMemoryException();
 }
 
 void AFXAPI AfxThrowMemoryException()

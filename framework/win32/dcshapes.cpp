@@ -178,7 +178,7 @@ BOOL CDC::PolyDraw(POINT const * lpPoints, BYTE const * lpTypes, int nCount)
     return drawn;
 }
 
-BOOL CDC::Polyline(LPPOINT lpPoints, int nCount)
+BOOL CDC::Polyline(POINT const * lpPoints, int nCount)
 {
     return ::Polyline(m_hDC, lpPoints, nCount);
 }
@@ -237,12 +237,12 @@ BOOL CDC::Pie(LPCRECT lpRect, POINT ptStart, POINT ptEnd)
     return Pie(lpRect->left, lpRect->top, lpRect->right, lpRect->bottom, ptStart.x, ptStart.y, ptEnd.x, ptEnd.y);
 }
 
-BOOL CDC::Polygon(LPPOINT lpPoints, int nCount)
+BOOL CDC::Polygon(POINT const * lpPoints, int nCount)
 {
     return ::Polygon(m_hDC, lpPoints, nCount);
 }
 
-BOOL CDC::PolyPolygon(LPPOINT lpPoints, LPINT lpPolyCounts, int nCount)
+BOOL CDC::PolyPolygon(POINT const * lpPoints, INT const * lpPolyCounts, int nCount)
 {
     return ::PolyPolygon(m_hDC, lpPoints, lpPolyCounts, nCount);
 }

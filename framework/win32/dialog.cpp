@@ -110,7 +110,8 @@ INT_PTR CALLBACK DialogProcedure(HWND window, UINT message, WPARAM, LPARAM)
         exception->ReportError();
         exception->Delete();
     }
-    dialog->EndDialog(-1);
+    if (CWnd::FromHandlePermanent(window) == dialog)
+        dialog->EndDialog(-1);
     return FALSE;
 }
 
@@ -124,13 +125,18 @@ bool DialogAccess::CreateWindowOf(CDialog & dialog, LPCDLGTEMPLATE dialogTemplat
                    (head.style & WS_CHILD) == 0;
 
     AfxHookWindowCreate(&dialog);
-    state.creating = true;
+    bool alive = true;
+    state.creation = &alive;
     HWND const window = ::CreateDialogIndirect(instance, dialogTemplate, parent, DialogProcedure);
-    state.creating = false;
-    if (!AfxUnhookWindowCreate())
+    bool const hooked = AfxUnhookWindowCreate();
+    if (!alive)
+        return false; // a dialog that deletes itself with its window has lost that in OnInitDialog
+    state.creation = nullptr;
+    if (!hooked)
         dialog.PostNcDestroy(); // the window has never come into being, so nothing else says that it is gone
 
-    if (window == nullptr)
+    // A window that was destroyed in OnInitDialog is given like any other.
+    if (window == nullptr || !::IsWindow(window))
         return false;
     if (state.ended) // EndDialog from OnInitDialog
     {
@@ -267,7 +273,7 @@ INT_PTR CDialog::DoModal()
 void CDialog::EndDialog(int nResult)
 {
     ASSERT(::IsWindow(m_hWnd));
-    if (m_state.modal || m_state.creating || CWnd::ContinueModal())
+    if (m_state.modal || m_state.creation != nullptr || CWnd::ContinueModal())
         EndModalLoop(nResult);
     ::EndDialog(m_hWnd, nResult);
 }
@@ -333,7 +339,8 @@ BOOL CDialog::OnInitDialog()
     if (!filled || !UpdateData(FALSE))
     {
         TRACE("CDialog: the controls could not be filled\n");
-        EndDialog(-1);
+        if (m_hWnd != nullptr)
+            EndDialog(-1);
         return FALSE;
     }
     return TRUE;
@@ -359,9 +366,10 @@ LRESULT CDialog::HandleInitDialog(WPARAM, LPARAM)
 {
     CRect before;
     GetWindowRect(&before);
+    HWND const window = m_hWnd;
     LRESULT const result = Default(); // calls OnInitDialog through the dialog procedure
-    if (m_hWnd == nullptr)
-        return result;
+    if (CWnd::FromHandlePermanent(window) != this)
+        return result; // window and perhaps object are gone
     CRect after;
     GetWindowRect(&after);
     if (m_state.centre && !m_state.ended && before.TopLeft() == after.TopLeft() && !IsWindowVisible())

@@ -10,21 +10,16 @@ IMPLEMENT_DYNCREATE(CImageList, CObject)
 
 namespace framework
 {
-struct ImageListAccess
-{
-    static HIMAGELIST & Handle(CImageList & list) { return list.m_hImageList; }
-};
-
 CImageList * MakeTemporaryImageList(void * handle)
 {
     CImageList * const list = new CImageList;
-    ImageListAccess::Handle(*list) = static_cast<HIMAGELIST>(handle);
+    list->m_hImageList = static_cast<HIMAGELIST>(handle);
     return list;
 }
 
 void ReleaseTemporaryImageList(CImageList * list)
 {
-    ImageListAccess::Handle(*list) = nullptr;
+    list->m_hImageList = nullptr;
 }
 } // namespace framework
 

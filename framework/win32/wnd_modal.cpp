@@ -42,6 +42,10 @@ int CWnd::RunModalLoop(DWORD dwFlags)
         ShowWindow(SW_SHOWNORMAL);
         UpdateWindow();
     };
+    auto const finish = [this] {
+        m_nFlags &= ~static_cast<UINT>(framework::WndModalLoop | framework::WndContinueModal);
+        return m_nModalResult;
+    };
     bool idle = true;
     LONG idleCount = 0;
     for (;;)
@@ -54,9 +58,13 @@ int CWnd::RunModalLoop(DWORD dwFlags)
                 show();
             if ((dwFlags & MLF_NOIDLEMSG) == 0 && parent != nullptr && idleCount == 0)
                 ::SendMessage(parent, WM_ENTERIDLE, MSGF_DIALOGBOX, reinterpret_cast<LPARAM>(m_hWnd));
+            if (!ContinueModal())
+                break; // the window was destroyed by one of them
             if ((dwFlags & MLF_NOKICKIDLE) != 0 || SendMessage(WM_KICKIDLE, MSGF_DIALOGBOX, idleCount++) == 0)
                 idle = false;
         }
+        if (!ContinueModal())
+            return finish();
         do
         {
             if (!AfxPumpMessage())
@@ -68,10 +76,7 @@ int CWnd::RunModalLoop(DWORD dwFlags)
             if (showWhenIdle && (message.message == systemTimerMessage || message.message == WM_SYSKEYDOWN))
                 show();
             if (!ContinueModal())
-            {
-                m_nFlags &= ~static_cast<UINT>(framework::WndModalLoop | framework::WndContinueModal);
-                return m_nModalResult;
-            }
+                return finish();
             if (AfxIsIdleMessage(&message))
             {
                 idle = true;

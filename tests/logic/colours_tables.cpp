@@ -234,6 +234,54 @@ TEST(NearestScopeColour, IsFoundByThreeChannelsIfTheFourthByteIsSet)
         EXPECT_EQ(ScopeFarbIndex(ScopePalette[index] | 0x01000000), index);
 }
 
+TEST(NearestScopeColour, DecidesNearTiesByStrictSinglePrecision)
+{
+    // Where a fused multiplication and addition, or double precision, would choose another one.
+    struct NearTie
+    {
+        COLORREF colour;
+        unsigned int index;
+    };
+    constexpr NearTie near_ties[] = {
+        {0x00142C, 9},  {0x01476E, 9},  {0x01A81C, 11}, {0x01B85C, 12}, {0x020C3B, 0},  {0x025258, 25},
+        {0x031725, 0},  {0x03296C, 9},  {0x03A42B, 23}, {0x044A67, 9},  {0x046E3B, 11}, {0x048773, 12},
+        {0x053700, 9},  {0x05A03A, 11}, {0x061A1E, 0},  {0x064276, 25}, {0x074D60, 9},  {0x08DCBB, 21},
+    };
+    for (NearTie const & each : near_ties)
+        EXPECT_EQ(ScopeFarbIndex(each.colour), each.index) << std::hex << each.colour;
+}
+
+TEST(NearestScopeColour, IsTheOneOfSinglePrecisionRoundedAtEachStep)
+{
+    // Stored at each step, so that no option of the compiler keeps more precision.
+    auto const product = [](float weight, int difference) {
+        float volatile const result = weight * static_cast<float>(difference * difference);
+        return float{result};
+    };
+    auto const distance = [&](COLORREF a, COLORREF b) {
+        float const red = product(0.3f, GetRValue(a) - GetRValue(b));
+        float const green = product(0.59f, GetGValue(a) - GetGValue(b));
+        float const blue = product(0.11f, GetBValue(a) - GetBValue(b));
+        float volatile const twoColours = red + green;
+        float volatile const sum = twoColours + blue;
+        return float{sum};
+    };
+    constexpr int step = 7;
+    for (int red = 0; red < 256; red += step)
+        for (int green = 0; green < 256; green += step)
+            for (int blue = 0; blue < 256; blue += step)
+            {
+                COLORREF const colour = RGB(red, green, blue);
+                unsigned int nearest = 0;
+                for (unsigned int index = 1; index < 32; ++index)
+                {
+                    if (distance(colour, ScopePalette[nearest]) > distance(colour, ScopePalette[index]))
+                        nearest = index;
+                }
+                ASSERT_EQ(ScopeFarbIndex(colour), nearest) << std::hex << colour;
+            }
+}
+
 TEST(NearestScopeColour, WeighsRedGreenAndBlue)
 {
     // The distances are 0.3 dr2 + 0.59 dg2 + 0.11 db2, here in hundredths.

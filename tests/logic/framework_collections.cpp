@@ -22,17 +22,26 @@ struct Key
     bool operator==(Key const &) const = default;
 };
 
-// Counts living objects.
+// Counts living objects, and all that were made.
 struct Counted
 {
-    Counted() { ++living; }
-    Counted(Counted const & other) : value(other.value) { ++living; }
+    Counted() : Counted(0) {}
+    Counted(Counted const & other) : Counted(other.value) {}
     Counted & operator=(Counted const &) = default;
     ~Counted() { --living; }
-    int value = 0;
+    int value;
     static int living;
+    static int made;
+
+private:
+    explicit Counted(int number) : value(number)
+    {
+        ++living;
+        ++made;
+    }
 };
 int Counted::living = 0;
+int Counted::made = 0;
 } // namespace
 
 template <> UINT AFXAPI HashKey<Key const &>(Key const & key)
@@ -196,6 +205,23 @@ TEST(FrameworkArray, ElementsAreMadeAndDestroyedOnce)
         array.SetSize(3);
     }
     EXPECT_EQ(0, Counted::living);
+}
+
+TEST(FrameworkArray, GrowingMovesTheBytesOfItsElements)
+{
+    CArray<Counted> array;
+    array.SetSize(3);
+    array[2].value = 7;
+    int const made = Counted::made;
+    array.SetSize(100);
+    EXPECT_EQ(Counted::made, made + 97) << "only the new ones";
+    array.InsertAt(1, Counted());
+    EXPECT_EQ(Counted::made, made + 97 + 3) << "the argument, its copy and the new one";
+    array.RemoveAt(0);
+    array.FreeExtra();
+    EXPECT_EQ(Counted::made, made + 97 + 3);
+    EXPECT_EQ(7, array[2].value);
+    EXPECT_EQ(array.GetSize(), Counted::living);
 }
 
 TEST(FrameworkArray, FreeExtraKeepsElements)

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <memory>
 #include <random>
 
 #include "layout_ResizerTest.h"
@@ -263,6 +264,56 @@ TEST_F(LayoutResizer, ScaledRepositionDropsTheDirectionThatHasGrown)
     resizer.RepositionChild(&child, &offset, &growth, true);
     resizer.OnSize();
     EXPECT_RECT(platform.PlaceOf(child), 10, 24, 110, 94);
+}
+
+TEST_F(LayoutResizer, ScaledRepositionInACollapsedPaneTakesTheAmountsAsTheyAre)
+{
+    CWnd & dialog = platform.AddDialog(design_outer);
+    CWnd & child = platform.AddChild(dialog, child_place);
+    CDialogResizer resizer(dialog, L"");
+    resizer.PositionChild(&child, CEdges::TOP_LEFT(), nullptr);
+    CSize const offset(3, 4);
+    CSize const growth(20, 30);
+
+    Resize(dialog, 0, 600);
+    resizer.RepositionChild(&child, &offset, &growth, true);
+    resizer.OnSize();
+    EXPECT_RECT(platform.PlaceOf(child), 13, 20, 133, 60) << "not scaled across, dropped in height as ever";
+    Resize(dialog, 401, 0);
+    resizer.RepositionChild(&child, &offset, &growth, true);
+    resizer.OnSize();
+    EXPECT_RECT(platform.PlaceOf(child), 13, 24, 133, 94);
+}
+
+TEST_F(LayoutResizer, AChildOrTheResizerMayEndWhileAChildIsMoved)
+{
+    CWnd & dialog = platform.AddDialog(design_outer);
+    CWnd * children[4];
+    for (CWnd *& child : children)
+        child = &platform.AddChild(dialog, child_place);
+    auto resizer = std::make_unique<CDialogResizer>(dialog, L"");
+    for (CWnd * const child : children)
+        resizer->PositionChild(child, CEdges::BOTTOM_RIGHT(), nullptr);
+
+    int moved = 0;
+    platform.onMove = [&](CWnd & child) {
+        ++moved;
+        if (&child == children[0] || &child == children[2])
+            platform.Destroy(child);
+    };
+    Resize(dialog, 450, 340);
+    resizer->OnSize();
+    EXPECT_EQ(moved, 4);
+    EXPECT_RECT(platform.PlaceOf(*children[1]), 60, 60, 160, 100);
+    EXPECT_RECT(platform.PlaceOf(*children[3]), 60, 60, 160, 100);
+
+    moved = 0;
+    platform.onMove = [&](CWnd &) {
+        ++moved;
+        resizer.reset();
+    };
+    resizer->OnSize();
+    EXPECT_EQ(moved, 1);
 }
 
 TEST_F(LayoutResizer, ScaledRepositionMultipliesByTheWholeQuotient)

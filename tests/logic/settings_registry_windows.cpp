@@ -50,6 +50,18 @@ protected:
 INSTANTIATE_TEST_SUITE_P(Registry, SettingsProtocol,
                          testing::Values([] { return std::unique_ptr<TreeHost>(std::make_unique<RegistryHost>()); }));
 
+TEST_F(SettingsRegistry, WithoutAWayToTheApplicationsKeyNothingCanBeOpened)
+{
+    RegistrySettingsTree nowhere(nullptr);
+    registry_entry_list list;
+    EXPECT_FALSE(read_registry_tree(nowhere, list));
+    list = {Begin(u"A"), End()};
+    EXPECT_FALSE(write_registry_tree(nowhere, list));
+    EXPECT_FALSE(delete_registry_tree(nowhere, u"A"));
+    EXPECT_FALSE(registry_key_exists(nowhere, u""));
+    nowhere.DeleteKey(u"A");
+}
+
 TEST_F(SettingsRegistry, ValuesAreTheRegistrysOwn)
 {
     registry_entry_list list{Begin(u"A"), Value(u"number", type_dword, {0x78, 0x56, 0x34, 0x12}),

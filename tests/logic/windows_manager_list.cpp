@@ -294,3 +294,77 @@ TEST_F(WindowManagerList, TouchFreezeSkipsWhatHasNoSystemMenu)
     CFensterManager::ActivateTouchFreeze(false);
     EXPECT_TRUE(platform.calls.empty());
 }
+
+TEST_F(WindowManagerList, AWindowMayEndOrComeWhileTheFreezeIsToldToIt)
+{
+    for (char const * const moment : {"EnableMenuItem", "SetStyle", "Redraw"})
+    {
+        platform.Reset();
+        std::vector<std::unique_ptr<ListedManager>> frames;
+        std::unique_ptr<ListedManager> late;
+        for (int count = 0; count < 4; ++count)
+            frames.push_back(std::make_unique<ListedManager>(L"Frame", CFensterManager::window_mdi_child));
+        for (std::unique_ptr<ListedManager> const & frame : frames)
+        {
+            FakeWindow & window = Bound(*frame, "frame");
+            window.onChange = [&](std::string const & change) {
+                if (change != moment || late != nullptr)
+                    return;
+                frames.clear();
+                late = std::make_unique<ListedManager>(L"Late", CFensterManager::window_mdi_child);
+            };
+        }
+        CFensterManager::ActivateTouchFreeze(true);
+        EXPECT_EQ(ListedManager::Count(), 1U) << moment;
+        int told = 0;
+        for (std::string const & call : platform.calls)
+            told += call.starts_with(moment) ? 1 : 0;
+        EXPECT_EQ(told, 1) << moment << ": the other frames have ended";
+    }
+}
+
+TEST_F(WindowManagerList, AWindowThatEndsAtTheFirstEntryIsLeftAlone)
+{
+    ListedManager manager(L"Frame", CFensterManager::window_mdi_child);
+    FakeWindow & window = Bound(manager, "frame");
+    window.onChange = [&](std::string const &) { window.alive = false; };
+    CFensterManager::ActivateTouchFreeze(true);
+    EXPECT_EQ(platform.calls, (Calls{"EnableMenuItem frame f000 3"}));
+}
+
+TEST_F(WindowManagerList, AManagerMayEndWhileAllPositionsAreSaved)
+{
+    /// A store whose writing runs the host's code.
+    class EndingStore final : public CResourceVesk
+    {
+    public:
+        EndingStore() { CVeskBase::SetPreferenceVesk(this); }
+        ~EndingStore() override { CVeskBase::SetPreferenceVesk(nullptr); }
+        CVeskEntry * CreateEntry(wchar_t const *, int) override { return nullptr; }
+        lookup::result LookupSetBool(wchar_t const *, bool, std::size_t) override { return {}; }
+        lookup::result LookupSetInt(wchar_t const *, int, std::size_t index) override
+        {
+            // At the last value that a manager writes.
+            if (index == 3 && ++m_fours == 2 && m_onWritten)
+                m_onWritten();
+            return {};
+        }
+        bool LookupGetBool(wchar_t const *, std::size_t, bool fallback) override { return fallback; }
+        int LookupGetInt(wchar_t const *, std::size_t, int fallback) override { return fallback; }
+        int Delete(wchar_t const *) override { return 0; }
+
+        std::function<void()> m_onWritten;
+        int m_fours = 0;
+    };
+    EndingStore store;
+    ListedManager main(L"Main", CFensterManager::window_main);
+    std::vector<std::unique_ptr<ListedManager>> others;
+    for (int count = 0; count < 4; ++count)
+        others.push_back(std::make_unique<ListedManager>(L"Other", CFensterManager::window_dialog));
+    Bound(main, "window");
+    for (std::unique_ptr<ListedManager> const & other : others)
+        Bound(*other, "window");
+    store.m_onWritten = [&others] { others.clear(); };
+    main.SaveAllPositions();
+    EXPECT_EQ(ListedManager::Count(), 1U);
+}

@@ -198,6 +198,48 @@ TEST_F(Dialog3dLifecycle, ADialogWithoutAStoreIsCreatedHidden)
     EXPECT_FALSE(dialog.OpenInitially());
 }
 
+TEST_F(Dialog3dLifecycle, TheUnseenOpeningLeavesTheFocusWhereItIs)
+{
+    class FocusCounter : public CEdit
+    {
+    public:
+        int m_lost = 0;
+
+    protected:
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            m_lost += message == WM_KILLFOCUS ? 1 : 0;
+            return CEdit::WindowProc(message, wParam, lParam);
+        }
+    };
+    tests::ScopedWindow window;
+    FocusCounter edit;
+    ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE, CRect(10, 10, 100, 30), window, 7));
+    ASSERT_TRUE(tests::BringToFront(window));
+    edit.SetFocus();
+    edit.m_lost = 0;
+    for (bool const chosenByTheDialog : {false, true})
+    {
+        TestDialog dialog;
+        dialog.m_onInit = [&] {
+            if (chosenByTheDialog)
+                dialog.GetDlgItem(IDC_NAME)->SetFocus();
+        };
+        dialog.OpenInitially();
+        EXPECT_EQ(dialog.m_inits, 1);
+        EXPECT_EQ(::GetFocus(), edit.m_hWnd);
+        EXPECT_EQ(::GetActiveWindow(), window.m_hWnd);
+        EXPECT_EQ(edit.m_lost, 0) << (chosenByTheDialog ? "the dialog chose its focus" : "the system chose the focus");
+
+        ASSERT_NE(dialog.DisplayDialog(), 0);
+        EXPECT_EQ(::GetFocus(), dialog.Item(IDC_NAME)) << "opened for real, it has it";
+        dialog.DestroyWindow();
+        ASSERT_TRUE(tests::BringToFront(window));
+        edit.SetFocus();
+        edit.m_lost = 0;
+    }
+}
+
 TEST_F(Dialog3dLifecycle, TheResultOfOnInitDialogIsTheFrameworks)
 {
     TestDialog dialog;

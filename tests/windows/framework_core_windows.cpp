@@ -356,6 +356,8 @@ TEST_F(CoreRelations, PlacesInTheZOrderAreObjects)
     m_panel.SetWindowPos(&CWnd::wndBottom, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
     EXPECT_EQ(m_top.GetTopWindow(), &other);
     EXPECT_EQ(other.GetNextWindow(), &m_panel);
+    EXPECT_EQ(::GetNextWindow(other.m_hWnd, GW_HWNDNEXT), m_panel.m_hWnd);
+    EXPECT_EQ(::GetNextWindow(m_panel.m_hWnd, GW_HWNDPREV), other.m_hWnd);
     other.DestroyWindow();
 }
 

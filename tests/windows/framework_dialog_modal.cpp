@@ -3,6 +3,7 @@
 #include <afxwin.h>
 
 #include "DialogTemplate.h"
+#include "GuardedHeap.h"
 #include "Input.h"
 #include "Pump.h"
 #include "ScopedWindow.h"
@@ -26,6 +27,7 @@ public:
     int m_inits = 0;
     bool m_endAtOnce = false;
     bool m_throwAtStart = false;
+    bool m_destroyAtStart = false;
     bool m_focusOnApply = false;
 
 protected:
@@ -43,6 +45,8 @@ protected:
             AfxThrowUserException();
         if (m_endAtOnce)
             EndDialog(77);
+        if (m_destroyAtStart)
+            DestroyWindow();
         if (m_focusOnApply)
         {
             GetDlgItem(IDC_APPLY)->SetFocus();
@@ -354,6 +358,86 @@ TEST(ModalDialog, DestroyedWhileItRunsEndsTheLoop)
     later.Add([&] { dialog.DestroyWindow(); }, Shown(dialog));
     EXPECT_EQ(dialog.DoModal(), -1);
     EXPECT_TRUE(parent.IsWindowEnabled());
+}
+
+TEST(ModalDialog, DestroyedDuringInitialisationEndsAtOnce)
+{
+    tests::ScopedWindow parent;
+    CSimpleDialog dialog(parent);
+    dialog.m_destroyAtStart = true;
+    bool waited = false;
+    tests::LaterActions later;
+    later.Add([&] { waited = true; });
+    EXPECT_EQ(dialog.DoModal(), -1);
+    EXPECT_FALSE(waited) << "a message had to come first";
+    EXPECT_TRUE(parent.IsWindowEnabled());
+    EXPECT_EQ(dialog.GetSafeHwnd(), nullptr);
+
+    dialog.m_destroyAtStart = false;
+    tests::LaterActions end;
+    end.Add([&] { dialog.EndDialog(5); }, Shown(dialog));
+    EXPECT_EQ(dialog.DoModal(), 5) << "it can be shown again";
+}
+
+TEST(ModalDialog, DestroyedByItsOwnerWhileIdleEndsAtOnce)
+{
+    class IdleOwner : public tests::ScopedWindow
+    {
+    public:
+        CDialog * m_dialog = nullptr;
+        bool m_destroyed = false;
+
+    protected:
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            if (message == WM_ENTERIDLE && m_dialog->GetSafeHwnd() != nullptr)
+            {
+                m_dialog->DestroyWindow();
+                m_destroyed = true;
+            }
+            return ScopedWindow::WindowProc(message, wParam, lParam);
+        }
+    };
+    IdleOwner parent;
+    CSimpleDialog dialog(parent);
+    parent.m_dialog = &dialog;
+    bool waited = false;
+    tests::LaterActions later;
+    later.Add([&] { waited = true; }, [&] { return parent.m_destroyed; });
+    EXPECT_EQ(dialog.DoModal(), -1);
+    EXPECT_TRUE(parent.m_destroyed);
+    EXPECT_FALSE(waited) << "a message had to come first";
+    EXPECT_TRUE(parent.IsWindowEnabled());
+}
+
+TEST(ModelessDialog, MayDestroyItsWindowAndItselfDuringInitialisation)
+{
+    class SelfDeleting : public CDialog
+    {
+    public:
+        int * m_deleted = nullptr;
+
+    protected:
+        BOOL OnInitDialog() override
+        {
+            CDialog::OnInitDialog();
+            DestroyWindow();
+            return TRUE;
+        }
+        void PostNcDestroy() override
+        {
+            ++*m_deleted;
+            delete this;
+        }
+    };
+    tests::ScopedWindow parent;
+    int deleted = 0;
+    tests::GuardedHeap heap;
+    auto * const dialog = new SelfDeleting;
+    dialog->m_deleted = &deleted;
+    EXPECT_FALSE(dialog->Create(IDD_SIMPLE, parent));
+    EXPECT_EQ(deleted, 1);
+    EXPECT_EQ(heap.Check(), 0u);
 }
 
 TEST(ModalDialog, EndModalLoopGivesTheResult)

@@ -28,6 +28,27 @@ TEST(FrameworkGdiDrawing, SolidRectangleFillsAndSetsTheBackgroundColour)
     EXPECT_EQ(canvas.BoundsOf(Blue), CRect(10, 11, 12, 14));
 }
 
+TEST(FrameworkGdiDrawing, PointsOfLinesAndPolygonsMayBeConstant)
+{
+    tests::Canvas canvas(20, 20);
+    CPen pen(PS_SOLID, 1, Red);
+    CPen * const formerPen = canvas.Dc().SelectObject(&pen);
+    CBrush brush(Blue);
+    CBrush * const formerBrush = canvas.Dc().SelectObject(&brush);
+    POINT const line[] = {{1, 1}, {5, 1}, {5, 4}};
+    EXPECT_TRUE(canvas.Dc().Polyline(line, 3));
+    EXPECT_EQ(canvas.BoundsOf(Red), CRect(1, 1, 6, 4));
+    POINT const square[] = {{8, 8}, {12, 8}, {12, 12}, {8, 12}};
+    EXPECT_TRUE(canvas.Dc().Polygon(square, 4));
+    EXPECT_EQ(canvas.BoundsOf(Blue), CRect(9, 9, 12, 12));
+    POINT const squares[] = {{14, 1}, {18, 1}, {18, 5}, {14, 5}, {14, 14}, {18, 14}, {18, 18}, {14, 18}};
+    INT const counts[] = {4, 4};
+    EXPECT_TRUE(canvas.Dc().PolyPolygon(squares, counts, 2));
+    EXPECT_EQ(canvas.BoundsOf(Blue), CRect(9, 2, 18, 18));
+    canvas.Dc().SelectObject(formerPen);
+    canvas.Dc().SelectObject(formerBrush);
+}
+
 TEST(FrameworkGdiDrawing, RaisedRectangleGivesTheCornersToTheLowerRight)
 {
     tests::Canvas canvas(20, 20);

@@ -53,6 +53,15 @@ protected:
     CImageList m_list;
 };
 
+TEST(FrameworkImageListHandles, TheHandleIsAPublicMember)
+{
+    CImageList list;
+    EXPECT_EQ(list.m_hImageList, nullptr);
+    ASSERT_TRUE(list.Create(4, 4, ILC_COLOR32, 1, 1));
+    EXPECT_NE(list.m_hImageList, nullptr);
+    EXPECT_EQ(list.m_hImageList, list.GetSafeHandle());
+}
+
 TEST(FrameworkImageListHandles, NewListHasNoHandle)
 {
     CImageList list;

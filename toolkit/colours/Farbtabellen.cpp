@@ -1,5 +1,7 @@
 #include "colours/Farbtabellen.h"
 
+#include <bit>
+#include <cstdint>
 #include <iterator>
 
 namespace Farbtabellen
@@ -76,19 +78,47 @@ bool IsScopeIndex(int index)
     return index >= 0 && index < SCOPE_COLOURS;
 }
 
-float Square(int value)
+// Distances are those of single precision, worked out in whole numbers: what a compiler or a processor does with
+// floating point (fused or reordered operations, wider registers) would decide near ties in other ways. The unit is
+// 2 to the power of -27, of which the weights are multiples.
+using distance_t = std::uint64_t;
+
+constexpr int unit_bits = 27;
+constexpr int mantissa_bits = 24;
+
+/// What single precision makes of a value: 24 bits, halves go to the even neighbour.
+constexpr distance_t Rounded(distance_t value)
 {
-    return static_cast<float>(value * value);
+    int const excess = std::bit_width(value) - mantissa_bits;
+    if (excess <= 0)
+        return value;
+    distance_t const half = distance_t{1} << (excess - 1);
+    distance_t const cut = value & (2 * half - 1);
+    distance_t const kept = value >> excess;
+    bool const up = cut > half || (cut == half && (kept & 1) != 0);
+    return (kept + (up ? 1 : 0)) << excess;
 }
 
-// How different two colours look; single precision, so that ties are the same everywhere.
-float Distance(COLORREF a, COLORREF b)
+/// A weight in units; exact, since all three are of single precision and at least 1/16.
+constexpr distance_t Units(float weight)
 {
-    constexpr float redWeight = 0.3f;
-    constexpr float greenWeight = 0.59f;
-    constexpr float blueWeight = 0.11f;
-    return redWeight * Square(GetRValue(a) - GetRValue(b)) + greenWeight * Square(GetGValue(a) - GetGValue(b)) +
-           blueWeight * Square(GetBValue(a) - GetBValue(b));
+    return static_cast<distance_t>(weight * static_cast<float>(1 << unit_bits));
+}
+
+distance_t Weighted(distance_t weight, int difference)
+{
+    return Rounded(weight * static_cast<distance_t>(difference * difference));
+}
+
+/// How different two colours look.
+distance_t Distance(COLORREF a, COLORREF b)
+{
+    constexpr distance_t redWeight = Units(0.3f);
+    constexpr distance_t greenWeight = Units(0.59f);
+    constexpr distance_t blueWeight = Units(0.11f);
+    distance_t const redAndGreen = Rounded(Weighted(redWeight, GetRValue(a) - GetRValue(b)) +
+                                           Weighted(greenWeight, GetGValue(a) - GetGValue(b)));
+    return Rounded(redAndGreen + Weighted(blueWeight, GetBValue(a) - GetBValue(b)));
 }
 } // namespace
 
@@ -105,10 +135,10 @@ unsigned int ScopeFarbIndex(COLORREF colour)
             return index;
     }
     unsigned int nearest = 0;
-    float least = Distance(colour, ScopePalette[nearest]);
+    distance_t least = Distance(colour, ScopePalette[nearest]);
     for (unsigned int index = 1; index < SCOPE_COLOURS; ++index)
     {
-        float const distance = Distance(colour, ScopePalette[index]);
+        distance_t const distance = Distance(colour, ScopePalette[index]);
         if (least > distance)
         {
             least = distance;

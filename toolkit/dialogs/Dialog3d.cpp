@@ -37,6 +37,7 @@ constexpr COLORREF unused_colour_key = 255;
 constexpr LONG pane_child_style_mask = 0x7B3BFFFF;
 
 constexpr UINT_PTR hidden_opening = 1;
+constexpr wchar_t hidden_property[] = L"InstrumentUiKeptHidden";
 
 UINT IconId(CDialog3d::icon_t icon)
 {
@@ -69,9 +70,41 @@ LRESULT CALLBACK KeepHidden(HWND window, UINT message, WPARAM wParam, LPARAM lPa
             position->flags = (position->flags & ~SWP_SHOWWINDOW) | SWP_NOACTIVATE | SWP_NOZORDER;
     }
     if (message == WM_NCDESTROY)
+    {
+        ::RemovePropW(window, hidden_property);
         ::RemoveWindowSubclass(window, KeepHidden, hidden_opening);
+    }
     return ::DefSubclassProc(window, message, wParam, lParam);
 }
+
+/// For its life, no window that is kept hidden, and no control in one, gets the focus or becomes active: the window that
+/// has the focus is not even told. Both the system and the dialog may want to give it.
+class CFocusKeeper
+{
+public:
+    CFocusKeeper() : m_hook(::SetWindowsHookExW(WH_CBT, Refuse, nullptr, ::GetCurrentThreadId())) {}
+    ~CFocusKeeper()
+    {
+        if (m_hook != nullptr)
+            ::UnhookWindowsHookEx(m_hook);
+    }
+    CFocusKeeper(CFocusKeeper const &) = delete;
+    CFocusKeeper & operator=(CFocusKeeper const &) = delete;
+
+private:
+    static LRESULT CALLBACK Refuse(int code, WPARAM wParam, LPARAM lParam)
+    {
+        if (code == HCBT_ACTIVATE || code == HCBT_SETFOCUS)
+        {
+            HWND const top = ::GetAncestor(reinterpret_cast<HWND>(wParam), GA_ROOT);
+            if (top != nullptr && ::GetPropW(top, hidden_property) != nullptr)
+                return 1;
+        }
+        return ::CallNextHookEx(nullptr, code, wParam, lParam);
+    }
+
+    HHOOK m_hook;
+};
 
 /// Ends the framework's own layout of the window, where the framework has one: it would work against the resizer.
 template <class Window> void EndDynamicLayout(Window & window)
@@ -133,22 +166,43 @@ bool CDialog3d::OpenInitially()
     if (m_initialised)
         return m_fenster.OpenInitially();
 
+    // The object may end with its window.
+    LifeWatch const life(m_life);
     unsigned int const showMode = m_fenster.WhatsMyStyle();
     m_fenster.SetShowMode(SW_HIDE);
     m_keepHidden = true;
-    DisplayDialog();
-    bool const open = m_fenster.OpenInitially();
-    DestroyWindow();
-    m_keepHidden = false;
-    m_fenster.SetShowMode(showMode);
+    bool open = false;
+    {
+        CFocusKeeper const focus;
+        DisplayDialog();
+        if (!life.Over())
+        {
+            open = m_fenster.OpenInitially();
+            DestroyWindow();
+        }
+    }
+    if (!life.Over())
+    {
+        m_keepHidden = false;
+        m_fenster.SetShowMode(showMode);
+    }
     return open;
+}
+
+// Anything that sends a message may run the host's code, which may destroy the window or delete the object.
+bool CDialog3d::Serves(HWND window) const
+{
+    return FromHandlePermanent(window) == this;
 }
 
 void CDialog3d::PreSubclassWindow()
 {
     CDialogEx::PreSubclassWindow();
     if (m_keepHidden)
+    {
+        ::SetPropW(m_hWnd, hidden_property, m_hWnd);
         ::SetWindowSubclass(m_hWnd, KeepHidden, hidden_opening, 0);
+    }
     if (m_fadeInOnCreate)
     {
         DurchsichtigkeitSetzen(0);
@@ -174,7 +228,10 @@ int CDialog3d::OnCreate(LPCREATESTRUCT createStruct)
 BOOL CDialog3d::OnInitDialog()
 {
     CResourceModuleScope const scope(m_module.hModule);
+    HWND const window = m_hWnd;
     BOOL const result = CDialogEx::OnInitDialog();
+    if (!Serves(window))
+        return result;
 
     // Again: a window system may drop a layered style that was set while the window was being created.
     if (m_fadeInOnCreate && m_fade.Alpha() != CDialogFade::opaque)
@@ -183,6 +240,8 @@ BOOL CDialog3d::OnInitDialog()
     if (m_hIcon == nullptr)
         SelectIcon(ICON_STANDARD);
     SendMessage(WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(m_hIcon));
+    if (!Serves(window))
+        return result;
 
     bool const resizing = m_paneChild || (GetStyle() & WS_THICKFRAME) != 0;
     m_resizeDims = resizing ? CDialogResizer::RESIZE_BOTH : CDialogResizer::RESIZE_NONE;
@@ -200,20 +259,33 @@ BOOL CDialog3d::OnInitDialog()
         {
             CString caption;
             GetWindowText(caption);
+            if (!Serves(window))
+                return result;
             m_fenster.WhoAmI(caption);
         }
         if (m_dialogTitle.IsEmpty())
             m_dialogTitle = m_fenster.WhoAmI();
     }
     if (!m_dialogTitle.IsEmpty())
-        SetWindowText(m_dialogTitle);
+    {
+        CString const title = m_dialogTitle; // a handler may set another one
+        SetWindowText(title);
+        if (!Serves(window))
+            return result;
+    }
 
     if (!m_paneChild)
     {
         m_fenster.PreferedPosition(this);
         m_fenster.ReadMyPosition(this);
+        if (!Serves(window))
+            return result;
         if (resizing)
+        {
             m_sizeGrip.Create(this);
+            if (!Serves(window))
+                return result;
+        }
     }
     m_initialised = true;
     return result;
@@ -246,10 +318,11 @@ void CDialog3d::SaveDialogPosition()
 
 void CDialog3d::SetDialogTitle(CString const & title)
 {
-    SetGenuineTitle(title);
-    m_dialogTitle = title;
+    CString const shown = title; // a handler may set another one
+    SetGenuineTitle(shown);
+    m_dialogTitle = shown;
     if (IsOpen())
-        SetWindowText(m_dialogTitle);
+        SetWindowText(shown);
 }
 
 CString const & CDialog3d::GetDialogTitle() const
@@ -324,13 +397,16 @@ void CDialog3d::OnTimer(UINT_PTR id)
         KillTimer(fade_timer);
         return;
     }
+    HWND const window = m_hWnd;
     DurchsichtigkeitSetzen(*alpha);
-    CDialogEx::OnTimer(id);
+    if (Serves(window))
+        CDialogEx::OnTimer(id);
 }
 
 // It is meant that activation does not end a fade: its next tick goes on from opaque.
 void CDialog3d::OnActivate(UINT state, CWnd * other, BOOL minimized)
 {
+    HWND const window = m_hWnd;
     if (m_inactiveAlpha < CDialogFade::opaque)
     {
         if (state == WA_INACTIVE)
@@ -338,7 +414,8 @@ void CDialog3d::OnActivate(UINT state, CWnd * other, BOOL minimized)
         else
             DurchsichtigkeitSetzen(CDialogFade::opaque);
     }
-    CDialogEx::OnActivate(state, other, minimized);
+    if (Serves(window))
+        CDialogEx::OnActivate(state, other, minimized);
 }
 
 void CDialog3d::SetPaneChildMode(bool paneChild)

@@ -8,6 +8,7 @@
 #include "dialogs/DialogFade.h"
 #include "dialogs/PopupConfig.h"
 #include "frame/Export.h"
+#include "frame/LifeWatch.h"
 #include "layout/DialogResizer.h"
 #include "windows/FensterManager.h"
 
@@ -198,6 +199,7 @@ protected:
 
 private:
     void KeepPlace(LPRECT proposed) const;
+    bool Serves(HWND window) const;
 
     AFX_EXTENSION_MODULE m_module;
     unsigned int m_dialogId;
@@ -215,4 +217,5 @@ private:
     CDialogFade m_fade;
     bool m_initialised; // the genuine title is fixed
     bool m_keepHidden;  // the window is only made for OpenInitially
+    LifeSign m_life;
 };

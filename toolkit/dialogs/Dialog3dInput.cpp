@@ -89,6 +89,7 @@ void CDialog3d::SetGrabAndMove(bool enable)
 
 void CDialog3d::OnLButtonDown(UINT flags, CPoint point)
 {
+    HWND const window = m_hWnd;
     if (m_drag.StartsWith(flags, g_touchFreeze))
     {
         CPoint mouse = point;
@@ -99,11 +100,13 @@ void CDialog3d::OnLButtonDown(UINT flags, CPoint point)
         m_drag.Start(mouse, placement.rcNormalPosition);
         SetCapture();
     }
-    CDialogEx::OnLButtonDown(flags, point);
+    if (Serves(window))
+        CDialogEx::OnLButtonDown(flags, point);
 }
 
 void CDialog3d::OnMouseMove(UINT flags, CPoint point)
 {
+    HWND const window = m_hWnd;
     if (m_drag.Runs())
     {
         CPoint mouse = point;
@@ -111,14 +114,17 @@ void CDialog3d::OnMouseMove(UINT flags, CPoint point)
         CPoint const corner = m_drag.MoveTo(mouse);
         SetWindowPos(nullptr, corner.x, corner.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
     }
-    CDialogEx::OnMouseMove(flags, point);
+    if (Serves(window))
+        CDialogEx::OnMouseMove(flags, point);
 }
 
 void CDialog3d::OnLButtonUp(UINT flags, CPoint point)
 {
+    HWND const window = m_hWnd;
     if (m_drag.End())
         ::ReleaseCapture();
-    CDialogEx::OnLButtonUp(flags, point);
+    if (Serves(window))
+        CDialogEx::OnLButtonUp(flags, point);
 }
 
 void CDialog3d::SetTouchFreeze(bool freeze)

@@ -22,10 +22,11 @@ BOOL CDialog3d::CSizeGrip::Create(CWnd * dialog)
     m_size = CSize(::GetSystemMetrics(SM_CXVSCROLL), ::GetSystemMetrics(SM_CYHSCROLL));
     BOOL const result =
         CScrollBar::Create(WS_CHILD | WS_CLIPSIBLINGS | SBS_SIZEGRIP, CRect(CPoint(0, 0), m_size), dialog, 0);
-    if (result)
+    if (result && m_hWnd != nullptr)
     {
+        HWND const grip = m_hWnd;
         Place();
-        ShowWindow(SW_SHOW);
+        ::ShowWindow(grip, SW_SHOW);
     }
     return result;
 }
@@ -37,10 +38,12 @@ void CDialog3d::CSizeGrip::Place()
     CWnd * const parent = GetParent();
     CRect client;
     parent->GetClientRect(&client);
+    BOOL const usable = !parent->IsZoomed();
+    HWND const grip = m_hWnd;
     // Behind the controls.
     SetWindowPos(&wndBottom, client.right - m_size.cx, client.bottom - m_size.cy, 0, 0,
                  SWP_NOSIZE | SWP_NOACTIVATE | SWP_NOOWNERZORDER);
-    EnableWindow(!parent->IsZoomed());
+    ::EnableWindow(grip, usable);
 }
 
 // A border that doesn't size, which is meant.
@@ -90,8 +93,10 @@ void CDialog3d::D3dLayoutComplete(CDialogResizer::resize_dims_t dims)
         return;
     }
     m_resizeDims = dims;
+    HWND const window = m_hWnd;
     FensterpositionLaden();
-    D3dLayoutTouch();
+    if (Serves(window))
+        D3dLayoutTouch();
 }
 
 void CDialog3d::ClientCoordinates(int id, CRect & rect)
@@ -116,12 +121,16 @@ void CDialog3d::OnGetMinMaxInfo(MINMAXINFO * info)
 
 void CDialog3d::OnSize(UINT type, int cx, int cy)
 {
+    HWND const window = m_hWnd;
     CDialogEx::OnSize(type, cx, cy);
     if (m_resizeDims == CDialogResizer::RESIZE_NONE)
         return;
     m_resizer->OnSize();
+    if (!Serves(window))
+        return;
     m_sizeGrip.Place();
-    Invalidate(TRUE);
+    if (Serves(window))
+        Invalidate(TRUE);
 }
 
 // A move lays out as well, which keeps the rectangle that the resizer has seen last up to date.

@@ -4,7 +4,9 @@
 #include <afx.h>
 #include <atltypes.h>
 
-class CDialogDrag
+#include "frame/Export.h"
+
+class INSTRUMENT_UI_API CDialogDrag
 {
 public:
     /// Whether a press may start a drag at all; off at first.

@@ -4,9 +4,11 @@
 #include <cstdint>
 #include <optional>
 
+#include "frame/Export.h"
+
 /// The alpha of one window, 0 (not to be seen) to 255 (opaque), and the fade that changes it. A fade goes from the
 /// present alpha to its target in equal steps, one a tick.
-class CDialogFade
+class INSTRUMENT_UI_API CDialogFade
 {
 public:
     static constexpr int opaque = 255;

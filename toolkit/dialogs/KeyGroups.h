@@ -1,6 +1,8 @@
 #pragma once
 // Groups of keys that a window leaves to others. A mask is a set of the bits below.
 
+#include "frame/Export.h"
+
 namespace KeyGroups
 {
 /// F2 to F12. F1 is in no group, which is meant: help stays with the window.
@@ -22,5 +24,5 @@ constexpr unsigned int normal_keys = function_keys | digits | letters | navigati
 
 /// Whether a window with that mask leaves the key to others. virtualKey: a VK_ value; the mask's other bits are
 /// ignored.
-bool LeavesToOthers(unsigned int mask, unsigned int virtualKey);
+INSTRUMENT_UI_API bool LeavesToOthers(unsigned int mask, unsigned int virtualKey);
 } // namespace KeyGroups

@@ -33,6 +33,23 @@ void Grow(CRect & rect, CSize growth)
     rect.bottom = wrapping::Sum(rect.bottom, growth.cy);
 }
 
+/// The child behind this one. Where a handler has ended the latter, the one that is now behind the child before it.
+HWND Behind(HWND dialog, HWND child, HWND & former)
+{
+    LayoutPlatform & platform = LayoutPlatform::Instance();
+    HWND const next = platform.NextWindow(child);
+    if (next == nullptr && !platform.IsWindow(child))
+        return former != nullptr ? platform.NextWindow(former) : platform.FirstChild(dialog);
+    former = child;
+    return next;
+}
+
+// 1 for a pane that is collapsed to nothing.
+int Quotient(int design, int present)
+{
+    return present != 0 ? design / present : 1;
+}
+
 // The product stays in 32 bits: beyond 214,748 pixels of growth a whole fraction wraps around, and that is meant.
 int Placed(int edge, int fraction, int growth)
 {
@@ -159,8 +176,8 @@ void CDialogResizer::RepositionChild(CWnd const * child, CSize const * offset, C
         CSize const designSize = SizeOf(m_designRect);
         CSize const presentSize = SizeOf(present);
         // Whole quotients are meant: a dialog larger than its design size drops the amounts.
-        int const factorX = designSize.cx / presentSize.cx;
-        int const factorY = designSize.cy / presentSize.cy;
+        int const factorX = Quotient(designSize.cx, presentSize.cx);
+        int const factorY = Quotient(designSize.cy, presentSize.cy);
         shift = CSize(wrapping::Product(shift.cx, factorX), wrapping::Product(shift.cy, factorY));
         added = CSize(wrapping::Product(added.cx, factorX), wrapping::Product(added.cy, factorY));
     }
@@ -205,7 +222,9 @@ void CDialogResizer::OnSize()
     // Windows made one after the other mostly have ascending handles, so the record behind the last one found is tried
     // before the tree is searched.
     auto guess = m_children.begin();
-    for (HWND child = platform.FirstChild(dialog); child != nullptr; child = platform.NextWindow(child))
+    LifeWatch const life(m_life);
+    HWND former = nullptr; // the child before this one
+    for (HWND child = platform.FirstChild(dialog); child != nullptr; child = Behind(dialog, child, former))
     {
         auto const found = guess != m_children.end() && guess->first == child ? guess : m_children.find(child);
         if (found == m_children.end())
@@ -213,6 +232,8 @@ void CDialogResizer::OnSize()
         CRect const place = Placed(found->second, growth);
         CSize const size = SizeOf(place);
         platform.MoveWindow(child, place.left, place.top, size.cx, size.cy);
+        if (life.Over())
+            return; // a handler of the child's has ended the dialog
         platform.Invalidate(child);
         guess = std::next(found);
     }

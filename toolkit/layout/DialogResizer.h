@@ -6,6 +6,7 @@
 #include <map>
 
 #include "frame/Export.h"
+#include "frame/LifeWatch.h"
 #include "layout/Edges.h"
 
 class CWnd;
@@ -58,7 +59,8 @@ public:
     /// nothing. The child must not be null.
     ///
     /// scale: the amounts are first multiplied by the whole quotient of design size and present size. It is meant that
-    /// this is 1 at the design size and 0 in a direction in which the dialog is larger.
+    /// this is 1 at the design size and 0 in a direction in which the dialog is larger. Where the dialog has no size at
+    /// all the amounts are taken as they are.
     void RepositionChild(CWnd const * child, CSize const * offset, CSize const * growth, bool scale);
     void RepositionChild(int id, CSize const * offset, CSize const * growth, bool scale);
 
@@ -86,4 +88,5 @@ private:
     CRect m_currentRect;
     CString m_storageKey;
     CWnd & m_dialog;
+    LifeSign m_life;
 };

@@ -34,6 +34,13 @@ private:
     CDC & m_dc;
     Object * m_former;
 };
+
+/// Whether the object still has the window. Anything that sends a message may run the host's code, which may have
+/// destroyed the window or deleted the object.
+bool Serves(CWnd const * object, HWND window)
+{
+    return CWnd::FromHandlePermanent(window) == object;
+}
 } // namespace
 
 IMPLEMENT_DYNAMIC(CDigiStatic, CStatic)
@@ -174,10 +181,15 @@ void CDigiStatic::SetDrawImmediately(bool immediately)
 
 void CDigiStatic::DoInvalidate()
 {
-    if (GetSafeHwnd() == nullptr)
+    HWND const window = GetSafeHwnd();
+    if (window == nullptr)
         return;
     if (m_transparent)
+    {
         SetWindowRgn(nullptr, TRUE);
+        if (!Serves(this, window))
+            return;
+    }
     if (m_drawImmediately)
         RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_NOERASE | RDW_UPDATENOW);
     else
@@ -189,7 +201,15 @@ void CDigiStatic::BuildString()
     if (!m_modified)
         return;
     if (m_text == WINDOW_TEXT_WANTED)
-        GetWindowText(m_text);
+    {
+        // Asking sends messages, which may set another text meanwhile.
+        HWND const window = m_hWnd;
+        CString text;
+        GetWindowText(text);
+        if (!Serves(this, window))
+            return;
+        m_text = text;
+    }
     m_text.MakeUpper();
     DigiStatic::BuildLine(m_text, m_digiStyle, m_chars);
     m_modified = false;
@@ -197,9 +217,12 @@ void CDigiStatic::BuildString()
 
 void CDigiStatic::OnPaint()
 {
+    HWND const window = m_hWnd;
     CRect client;
     GetClientRect(client);
-    CPaintDC dc(this);
+    CPaintDC dc(this); // sends messages as well
+    if (!Serves(this, window))
+        return;
     dc.SetBkColor(m_backColor);
     if ((m_digiStyle & DigiStyleButtonRect) != 0)
     {
@@ -210,6 +233,8 @@ void CDigiStatic::OnPaint()
     CDC & buffer = memory.GetDC();
     buffer.FillSolidRect(client, m_backColor);
     BuildString();
+    if (!Serves(this, window))
+        return;
 
     DigiStatic::CLinePlace const place =
         DigiStatic::PlaceLine(client.Size(), DigiStatic::LineWidth(m_chars), (m_digiStyle & DigiStyleKeepAspect) != 0);

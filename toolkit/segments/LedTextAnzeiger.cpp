@@ -75,23 +75,26 @@ void CLedTextAnzeiger::BuildString(CString const & text)
     if (text == m_text)
         return;
     FreeCharArray();
-    m_text = text;
-    m_charCount = static_cast<unsigned int>(text.GetLength());
+    // Empty until all is built: memory may fail at any character.
+    m_text.Empty();
+    m_charCount = 0;
     m_textWidth = 0;
-    if (m_charCount == 0)
-        return;
-    if (m_charCount > m_capacity)
+    auto const length = static_cast<unsigned int>(text.GetLength());
+    if (length > m_capacity)
     {
-        m_capacity += m_charCount;
-        m_chars = std::make_shared<DigiStatic::CDigiCharArray>(m_capacity);
+        m_chars = std::make_shared<DigiStatic::CDigiCharArray>(m_capacity + length);
+        m_capacity += length;
     }
-    for (unsigned int i = 0; i < m_charCount; ++i)
+    unsigned int width = 0;
+    for (unsigned int i = 0; i < length; ++i)
     {
         DigiStatic::CDigiCharOwner & character = m_chars->entries[i];
         character.reset(DigiStatic::CreateDigiChar(text[static_cast<int>(i)], m_flags));
-        m_textWidth += static_cast<unsigned int>(character->GetWidth()) + m_extraSpacing;
+        width += static_cast<unsigned int>(character->GetWidth()) + m_extraSpacing;
     }
-    m_textWidth -= m_extraSpacing;
+    m_text = text;
+    m_charCount = length;
+    m_textWidth = length != 0 ? width - m_extraSpacing : 0;
 }
 
 void CLedTextAnzeiger::FreeCharArray()

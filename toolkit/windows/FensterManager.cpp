@@ -239,8 +239,12 @@ void CFensterManager::SaveMyPosition(bool closing) const
 
 void CFensterManager::SaveAllPositions() const
 {
-    for (CFensterManager * const manager : m_managerListe)
+    // Of a copy, as everywhere where the host's code may run and end managers.
+    std::set<CFensterManager *> const managers = m_managerListe;
+    for (CFensterManager * const manager : managers)
     {
+        if (!m_managerListe.contains(manager))
+            continue;
         manager->CalcMyPosition(manager->m_wnd);
         manager->SaveMyPosition(false);
     }
@@ -422,30 +426,44 @@ void CFensterManager::CloseAllViews()
     }
 }
 
+// Menus and styles of a window don't change without messages to it, and whoever gets them may end managers and windows.
 void CFensterManager::ActivateTouchFreeze(bool freeze)
 {
-    WindowPlatform & platform = WindowPlatform::Instance();
-    unsigned int const state = freeze ? menu_greyed_and_disabled : menu_enabled;
-    for (CFensterManager const * const manager : m_managerListe)
+    std::set<CFensterManager *> const managers = m_managerListe;
+    for (CFensterManager * const manager : managers)
     {
-        if (manager->m_wnd == nullptr || !platform.IsWindow(*manager->m_wnd))
-            continue;
-        CWnd & window = *manager->m_wnd;
-        HMENU const menu = platform.SystemMenu(window);
-        if (menu == nullptr)
-            continue;
-        for (unsigned int const command :
-             {command_size, command_move, command_minimise, command_maximise, command_close, command_restore})
-            platform.EnableMenuItem(menu, command, state);
-
-        if (manager->m_type == window_mdi_child)
-        {
-            DWORD const style = platform.Style(window);
-            platform.SetStyle(window, freeze ? style & ~style_minimise_and_maximise_box
-                                             : style | style_minimise_and_maximise_box);
-            platform.Redraw(window, redraw_frame_without_children);
-        }
+        if (HasWindow(manager))
+            Freeze(*manager, freeze);
     }
+}
+
+bool CFensterManager::HasWindow(CFensterManager * manager)
+{
+    return m_managerListe.contains(manager) && manager->m_wnd != nullptr &&
+           WindowPlatform::Instance().IsWindow(*manager->m_wnd);
+}
+
+void CFensterManager::Freeze(CFensterManager & manager, bool freeze)
+{
+    WindowPlatform & platform = WindowPlatform::Instance();
+    HMENU const menu = platform.SystemMenu(*manager.m_wnd);
+    if (menu == nullptr)
+        return;
+    unsigned int const state = freeze ? menu_greyed_and_disabled : menu_enabled;
+    for (unsigned int const command :
+         {command_size, command_move, command_minimise, command_maximise, command_close, command_restore})
+    {
+        platform.EnableMenuItem(menu, command, state);
+        if (!HasWindow(&manager))
+            return;
+    }
+    if (manager.m_type != window_mdi_child)
+        return;
+    DWORD const style = platform.Style(*manager.m_wnd);
+    platform.SetStyle(*manager.m_wnd, freeze ? style & ~style_minimise_and_maximise_box
+                                             : style | style_minimise_and_maximise_box);
+    if (HasWindow(&manager))
+        platform.Redraw(*manager.m_wnd, redraw_frame_without_children);
 }
 
 std::set<CFensterManager *>::const_iterator CFensterManager::FindeMich(CFensterManager * manager) const

@@ -124,6 +124,8 @@ private:
     void init();
     void SetMyPosition(CWnd * window);
     void MoveOntoScreen(CRect const & read);
+    static bool HasWindow(CFensterManager * manager);
+    static void Freeze(CFensterManager & manager, bool freeze);
 
     CString m_name;
     window_t m_type;

@@ -12,7 +12,7 @@ namespace registry_settings
 /// character, letters from a to z are the same in either case, a subkey's name may be a path with backslashes, a key's
 /// name has 1 to 255 units and a value's 16383 at most. Values keep the order in which they were first set; subkeys are
 /// in the order of their names.
-class MemorySettingsTree final : public SettingsTree
+class INSTRUMENT_UI_API MemorySettingsTree final : public SettingsTree
 {
 public:
     enum class rights_t

@@ -14,7 +14,8 @@ class INSTRUMENT_UI_API RegistrySettingsTree final : public SettingsTree
 {
 public:
     /// applicationKey: opens the application's key, or makes it; it is asked anew each time and its key closed by this
-    /// object. Usually CWinApp::GetAppRegistryKey. Where it gives null, nothing can be opened.
+    /// object. Usually CWinApp::GetAppRegistryKey. Where it gives null or is empty, nothing can be
+    /// opened.
     explicit RegistrySettingsTree(std::function<HKEY()> applicationKey);
 
     key_t Open(std::u16string const & subkey, access_t access) override;

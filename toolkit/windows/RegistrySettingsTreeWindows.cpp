@@ -45,7 +45,7 @@ bool IsText(DWORD type)
 class ApplicationKey
 {
 public:
-    explicit ApplicationKey(std::function<HKEY()> const & open) : m_key(open()) {}
+    explicit ApplicationKey(std::function<HKEY()> const & open) : m_key(open ? open() : nullptr) {}
     ~ApplicationKey()
     {
         if (m_key != nullptr)

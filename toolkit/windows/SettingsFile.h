@@ -30,16 +30,16 @@ INSTRUMENT_UI_API settings_file_names settings_files(std::filesystem::path const
 
 /// Writes version and records; of a name the first units up to the low 16 bits of its length. False at the first failed
 /// write.
-bool write_settings(std::ostream & stream, registry_entry_list const & list);
+INSTRUMENT_UI_API bool write_settings(std::ostream & stream, registry_entry_list const & list);
 
 /// Fills the list with the records; it is emptied before. False if the version is not 1, white space before it being
 /// skipped, or if reading fails otherwise than by the end. A last record that is cut is left out, which is meant. The
 /// lengths in a damaged file take no memory that its bytes don't need.
-bool read_settings(std::istream & stream, registry_entry_list & list);
+INSTRUMENT_UI_API bool read_settings(std::istream & stream, registry_entry_list & list);
 
 /// The same with a file; an earlier file is overwritten. False also if the file can't be opened.
-bool write_settings_file(std::filesystem::path const & file, registry_entry_list const & list);
-bool read_settings_file(std::filesystem::path const & file, registry_entry_list & list);
+INSTRUMENT_UI_API bool write_settings_file(std::filesystem::path const & file, registry_entry_list const & list);
+INSTRUMENT_UI_API bool read_settings_file(std::filesystem::path const & file, registry_entry_list & list);
 
 /// Writes the whole tree to the saved file. False if the tree can't be read, and no file is then touched; or if the file
 /// can't be written in full.

@@ -99,19 +99,19 @@ public:
 
 /// Fills the list from the whole tree; it is emptied before. False if any part of the tree can't be read, which a value
 /// of type 0 never can. The list then holds what was read until then.
-bool read_registry_tree(SettingsTree & tree, registry_entry_list & list);
+INSTRUMENT_UI_API bool read_registry_tree(SettingsTree & tree, registry_entry_list & list);
 
 /// Replaces the whole tree by the list, which is used up from its front. False if the tree can't be deleted or a record
 /// be carried out; the tree then holds what was written until then and the list begins with that record. It is meant
 /// that a key's end at the root ends it all successfully, and that missing ends are none at the end of the list. It is
 /// also meant that the root is opened for reading alone and stays open: where a tree refuses values through such a key,
 /// a list with values of the root fails.
-bool write_registry_tree(SettingsTree & tree, registry_entry_list & list);
+INSTRUMENT_UI_API bool write_registry_tree(SettingsTree & tree, registry_entry_list & list);
 
 /// Deletes a key below the root with all that lies beneath it. False if it can't be opened for that; what then fails is
 /// not told.
-bool delete_registry_tree(SettingsTree & tree, std::u16string const & subkey);
+INSTRUMENT_UI_API bool delete_registry_tree(SettingsTree & tree, std::u16string const & subkey);
 
 /// Whether a key below the root can be opened for reading.
-bool registry_key_exists(SettingsTree & tree, std::u16string const & subkey);
+INSTRUMENT_UI_API bool registry_key_exists(SettingsTree & tree, std::u16string const & subkey);
 } // namespace registry_settings

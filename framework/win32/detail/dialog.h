@@ -11,6 +11,15 @@ struct DialogAccess;
 /// What a dialog knows of its template and of its modal life.
 struct DialogState
 {
+    DialogState() = default;
+    DialogState(DialogState const &) = delete;
+    DialogState & operator=(DialogState const &) = delete;
+    ~DialogState()
+    {
+        if (creation != nullptr)
+            *creation = false;
+    }
+
     CString templateName;                      // empty where the template has an identifier or is in memory
     UINT templateId = 0;                       // resource identifier, 0 = none
     LPCDLGTEMPLATE memoryTemplate = nullptr;   // InitModalIndirect; the caller keeps it
@@ -20,7 +29,7 @@ struct DialogState
     UINT helpId = 0;
     INT_PTR result = -1;
     bool modal = false;
-    bool creating = false;
+    bool * creation = nullptr;                 // while the window is created; becomes false if the object ends therein
     bool ended = false;
     bool centre = false;                       // the template leaves the position open
 };

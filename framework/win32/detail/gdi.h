@@ -164,7 +164,7 @@ public:
     BOOL ArcTo(int x1, int y1, int x2, int y2, int x3, int y3, int x4, int y4);
     BOOL ArcTo(LPCRECT lpRect, POINT ptStart, POINT ptEnd);
     BOOL PolyDraw(POINT const * lpPoints, BYTE const * lpTypes, int nCount);
-    BOOL Polyline(LPPOINT lpPoints, int nCount);
+    BOOL Polyline(POINT const * lpPoints, int nCount);
     BOOL PolylineTo(POINT const * lpPoints, int nCount);
     BOOL PolyPolyline(POINT const * lpPoints, DWORD const * lpPolyPoints, int nCount);
     BOOL PolyBezier(POINT const * lpPoints, int nCount);
@@ -175,8 +175,8 @@ public:
     BOOL Ellipse(LPCRECT lpRect);
     BOOL Pie(int x1, int y1, int x2, int y2, int x3, int y3, int x4, int y4);
     BOOL Pie(LPCRECT lpRect, POINT ptStart, POINT ptEnd);
-    BOOL Polygon(LPPOINT lpPoints, int nCount);
-    BOOL PolyPolygon(LPPOINT lpPoints, LPINT lpPolyCounts, int nCount);
+    BOOL Polygon(POINT const * lpPoints, int nCount);
+    BOOL PolyPolygon(POINT const * lpPoints, INT const * lpPolyCounts, int nCount);
     BOOL Rectangle(int x1, int y1, int x2, int y2);
     BOOL Rectangle(LPCRECT lpRect);
     BOOL RoundRect(int x1, int y1, int x2, int y2, int x3, int y3);

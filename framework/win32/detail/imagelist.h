@@ -15,11 +15,6 @@ class CBitmap;
 class CDC;
 class CWnd;
 
-namespace framework
-{
-struct ImageListAccess;
-}
-
 class FRAMEWORK_API CImageList : public CObject
 {
     DECLARE_DYNCREATE(CImageList)
@@ -76,8 +71,6 @@ public:
     BOOL SetDragCursorImage(int nDrag, CPoint ptHotSpot);
     static CImageList * PASCAL GetDragImage(LPPOINT lpPoint, LPPOINT lpPointHotSpot);
 
-private:
-    friend struct framework::ImageListAccess;
-
+    /// The attached image list, or null.
     HIMAGELIST m_hImageList;
 };

@@ -11,6 +11,12 @@
 #undef SubclassWindow
 #undef CopyRgn
 
+/// What the SDK's macro of that name does.
+inline HWND GetNextWindow(HWND hWnd, UINT wCmd)
+{
+    return ::GetWindow(hWnd, wCmd);
+}
+
 class CBitmap;
 class CDataExchange;
 class CDC;

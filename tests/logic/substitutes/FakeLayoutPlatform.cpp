@@ -24,6 +24,7 @@ FakeLayoutPlatform & FakeLayoutPlatform::Current()
 
 void FakeLayoutPlatform::Reset()
 {
+    onMove = nullptr;
     recording = true;
     calls.clear();
     assertions.clear();
@@ -180,6 +181,8 @@ void FakeLayoutPlatform::MoveWindow(HWND window, int left, int top, int width, i
         Log("MoveWindow " + std::to_string(found->number) + Numbers(left, top, width, height));
     found->outer = CRect(left, top, left + width, top + height);
     found->outer.OffsetRect(found->parent->outer.left + frame_width, found->parent->outer.top + caption_height);
+    if (onMove)
+        onMove(ObjectOf(*found));
 }
 
 void FakeLayoutPlatform::MoveDialog(CWnd & dialog, int left, int top, int width, int height)

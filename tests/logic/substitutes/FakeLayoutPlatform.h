@@ -3,6 +3,7 @@
 // them.
 
 #include <deque>
+#include <functional>
 #include <map>
 #include <string>
 #include <vector>
@@ -46,6 +47,8 @@ public:
     void Invalidate(HWND window) override;
     void ReportAssertion(wchar_t const * expression, wchar_t const * source, unsigned int line) override;
 
+    /// Called when a window has been moved, as a real one is sent messages.
+    std::function<void(CWnd &)> onMove;
     bool recording = true;
     std::vector<std::string> calls;
     struct Assertion

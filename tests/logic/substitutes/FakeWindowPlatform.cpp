@@ -49,6 +49,12 @@ void FakeWindowPlatform::End(FakeWindow & window)
         window.onDestroy();
 }
 
+void FakeWindowPlatform::Tell(FakeWindow const & window, char const * change)
+{
+    if (window.onChange)
+        window.onChange(change);
+}
+
 CRect FakeWindowPlatform::WorkArea()
 {
     ++workAreaReads;
@@ -127,6 +133,7 @@ void FakeWindowPlatform::EnableMenuItem(HMENU menu, unsigned int command, unsign
 {
     FakeWindow const & window = *reinterpret_cast<FakeWindow const *>(menu);
     calls.push_back("EnableMenuItem " + window.name + " " + Hexadecimal(command) + " " + std::to_string(state));
+    Tell(window, "EnableMenuItem");
 }
 
 DWORD FakeWindowPlatform::Style(CWnd const & window)
@@ -139,9 +146,11 @@ void FakeWindowPlatform::SetStyle(CWnd & window, DWORD style)
 {
     calls.push_back("SetStyle " + WindowOf(window).name + " " + Hexadecimal(style));
     WindowOf(window).style = style;
+    Tell(WindowOf(window), "SetStyle");
 }
 
 void FakeWindowPlatform::Redraw(CWnd & window, unsigned int flags)
 {
     calls.push_back("Redraw " + WindowOf(window).name + " " + Hexadecimal(flags));
+    Tell(WindowOf(window), "Redraw");
 }

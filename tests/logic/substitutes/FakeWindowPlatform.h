@@ -22,6 +22,8 @@ struct FakeWindow
     DWORD style = 0;
     /// Called when the window is destroyed, by whatever way.
     std::function<void()> onDestroy;
+    /// Called with "EnableMenuItem", "SetStyle" or "Redraw" when that is done to it, as a real window is sent messages.
+    std::function<void(std::string const &)> onChange;
 
     /// The window object that stands for it.
     CWnd * Object() { return reinterpret_cast<CWnd *>(this); }
@@ -62,6 +64,7 @@ public:
 
 private:
     static void End(FakeWindow & window);
+    static void Tell(FakeWindow const & window, char const * change);
 
     std::deque<FakeWindow> m_windows;
 };

@@ -1,0 +1,368 @@
+// Written by make_public_functions.py. Uses what the public headers declare, so that a function that the module
+// does not export keeps this program from being linked.
+
+// clang-format off
+#include "instrument_ui.h"
+
+#include "clipboard/Clipboard.h"
+#include "colours/Farbtabellen.h"
+#include "dialogs/Dialog3d.h"
+#include "dialogs/DialogDrag.h"
+#include "dialogs/DialogFade.h"
+#include "dialogs/FolderDialog.h"
+#include "dialogs/KeyGroups.h"
+#include "dialogs/PopupConfig.h"
+#include "dialogs/SprachauswahlDlg.h"
+#include "frame/CoreLibrary.h"
+#include "frame/Export.h"
+#include "frame/PreferenceStore.h"
+#include "frame/RegisteredMessages.h"
+#include "layout/DialogResizer.h"
+#include "layout/Edges.h"
+#include "segments/ColorScheme.h"
+#include "segments/DigiStatic.h"
+#include "segments/DigiStyle.h"
+#include "segments/LedTextAnzeiger.h"
+#include "windows/FensterManager.h"
+#include "windows/MemorySettingsTree.h"
+#include "windows/MenueManager.h"
+#include "windows/RegistrySettingsTree.h"
+#include "windows/SettingsFile.h"
+#include "windows/SettingsTree.h"
+
+#include <utility>
+
+using namespace registry_settings;
+
+namespace
+{
+/// Keeps the compiler from leaving it out.
+template <typename T> void Use(T used)
+{
+    [[maybe_unused]] static T volatile place;
+    place = used;
+}
+
+void UseAll()
+{
+    // clipboard/Clipboard.h
+    Use(+[](CString const & a0) -> bool { return Clipboard::StringToClipboard(std::forward<CString const &>(a0)); });
+    Use(+[](wchar_t const * a0, wchar_t const * a1) -> bool { return Clipboard::HtmlToClipboard(std::forward<wchar_t const *>(a0), std::forward<wchar_t const *>(a1)); });
+    Use(+[](HENHMETAFILE__ * const a0) -> bool { return Clipboard::WmfToClipboard(std::forward<HENHMETAFILE__ * const>(a0)); });
+    Use(+[](wchar_t const * a0, void * a1) -> bool { return Clipboard::HandleToClipboard(std::forward<wchar_t const *>(a0), std::forward<void *>(a1)); });
+    Use(+[](wchar_t const * a0, char const * a1, unsigned int a2) -> bool { return Clipboard::DataToClipboard(std::forward<wchar_t const *>(a0), std::forward<char const *>(a1), std::forward<unsigned int>(a2)); });
+    Use(+[](CString & a0) -> bool { return Clipboard::StringFromClipboard(std::forward<CString &>(a0)); });
+
+    // colours/Farbtabellen.h
+    Use(&Farbtabellen::ScopePalette);
+    Use(&Farbtabellen::FarbenGreyLdRGB);
+    Use(&Farbtabellen::FarbenStandardRGB);
+    Use(&Farbtabellen::FarbenGoldRGB);
+    Use(&Farbtabellen::FarbenOceanRGB);
+    Use(&Farbtabellen::FarbenEarthRGB);
+    Use(&Farbtabellen::FarbenTemperaturRGB);
+    Use(&Farbtabellen::FarbenGreyDlRGB);
+    Use(&Farbtabellen::FarbenSommerRGB);
+    Use(&Farbtabellen::FarbenRegenbogenRGB);
+    Use(+[](int a0) -> COLORREF { return Farbtabellen::ScopeFarbe(std::forward<int>(a0)); });
+    Use(+[](COLORREF a0) -> unsigned int { return Farbtabellen::ScopeFarbIndex(std::forward<COLORREF>(a0)); });
+    Use(+[]() -> CPalette * { return Farbtabellen::ScopeFarbenPalette(); });
+    Use(+[](int a0) -> int { return Farbtabellen::SelvaneFarbIndex(std::forward<int>(a0)); });
+    Use(+[](int a0) -> COLORREF { return Farbtabellen::SelvaneFarbe(std::forward<int>(a0)); });
+    Use(+[]() -> CPalette * { return Farbtabellen::SelvaneFarbenPalette(); });
+    Use(+[](int a0) -> COLORREF { return Farbtabellen::DruckFarbe(std::forward<int>(a0)); });
+    Use(+[](COLORREF a0, unsigned int a1) -> DWORD { return Farbtabellen::MakeArgb(std::forward<COLORREF>(a0), std::forward<unsigned int>(a1)); });
+    Use(+[](int a0, unsigned int a1) -> DWORD { return Farbtabellen::ArgbFarbe(std::forward<int>(a0), std::forward<unsigned int>(a1)); });
+    Use(+[](unsigned int a0) -> COLORREF const * { return Farbtabellen::SpektrogrammFarbtabelle(std::forward<unsigned int>(a0)); });
+    Use(+[](int a0) -> COLORREF const * { return Farbtabellen::SpektrogrammFarbtabelleSopeFarbe(std::forward<int>(a0)); });
+    Use(+[](unsigned int a0) -> CString const & { return Farbtabellen::SpektrogrammFarbtabellenName(std::forward<unsigned int>(a0)); });
+
+    // dialogs/Dialog3d.h
+    Use(+[]() { delete new CDialog3d::CSizeGrip(); });
+    Use(+[](CDialog3d::CSizeGrip & object, CWnd * a0) -> BOOL { return object.CDialog3d::CSizeGrip::Create(std::forward<CWnd *>(a0)); });
+    Use(&CDialog3d::NO_DLL);
+    Use(&CDialog3d::g_touchFreeze);
+    Use(+[](AFX_EXTENSION_MODULE a0, unsigned int a1, CWnd * a2) { delete new CDialog3d(std::forward<AFX_EXTENSION_MODULE>(a0), std::forward<unsigned int>(a1), std::forward<CWnd *>(a2)); });
+    Use(+[](CDialog3d & object, UINT a0, int a1, void * a2, AFX_CMDHANDLERINFO * a3) -> BOOL { return object.CDialog3d::OnCmdMsg(std::forward<UINT>(a0), std::forward<int>(a1), std::forward<void *>(a2), std::forward<AFX_CMDHANDLERINFO *>(a3)); });
+    Use(+[](CDialog3d & object) -> void { return object.CDialog3d::PreSubclassWindow(); });
+    Use(+[](CDialog3d & object, MSG * a0) -> BOOL { return object.CDialog3d::PreTranslateMessage(std::forward<MSG *>(a0)); });
+    Use(+[](CDialog3d & object) -> INT_PTR { return object.CDialog3d::DoModal(); });
+    Use(+[](CDialog3d & object) -> BOOL { return object.CDialog3d::OnInitDialog(); });
+    Use(+[](CDialog3d & object) -> int { return object.CDialog3d::DisplayDialog(); });
+    Use(+[](CDialog3d const & object) -> bool { return object.CDialog3d::IsOpen(); });
+    Use(+[](CDialog3d & object) -> bool { return object.CDialog3d::OpenInitially(); });
+    Use(+[](CDialog3d & object) -> void { return object.CDialog3d::FensterpositionLaden(); });
+    Use(+[](CDialog3d & object) -> void { return object.CDialog3d::FensterpositionSpeichern(); });
+    Use(+[](CDialog3d & object, CString const & a0) -> void { return object.CDialog3d::SetDialogTitle(std::forward<CString const &>(a0)); });
+    Use(+[](CDialog3d const & object) -> CString const & { return object.CDialog3d::GetDialogTitle(); });
+    Use(+[](CDialog3d & object, CString const & a0) -> bool { return object.CDialog3d::SetGenuineTitle(std::forward<CString const &>(a0)); });
+    Use(+[](CDialog3d const & object) -> CString const & { return object.CDialog3d::GetGenuineTitle(); });
+    Use(+[](CDialog3d & object, CDialog3d::icon_t a0) -> void { return object.CDialog3d::SelectIcon(std::forward<CDialog3d::icon_t>(a0)); });
+    Use(+[](CDialog3d & object, unsigned long a0) -> void { return object.CDialog3d::Einblenden(std::forward<unsigned long>(a0)); });
+    Use(+[](CDialog3d & object, unsigned long a0) -> void { return object.CDialog3d::Ausblenden(std::forward<unsigned long>(a0)); });
+    Use(+[](CDialog3d & object, int a0, unsigned long a1) -> void { return object.CDialog3d::Ueberblenden(std::forward<int>(a0), std::forward<unsigned long>(a1)); });
+    Use(+[](CDialog3d & object, unsigned char a0) -> void { return object.CDialog3d::DurchsichtigkeitSetzen(std::forward<unsigned char>(a0)); });
+    Use(+[](CDialog3d & object, unsigned char a0) -> void { return object.CDialog3d::DurchsichtigkeitBeiInaktiv(std::forward<unsigned char>(a0)); });
+    Use(+[](CDialog3d & object, bool a0) -> void { return object.CDialog3d::SetGrabAndMove(std::forward<bool>(a0)); });
+    Use(+[](CDialog3d & object, bool a0) -> void { return object.CDialog3d::SetPaneChildMode(std::forward<bool>(a0)); });
+    Use(+[](CDialog3d const & object) -> bool { return object.CDialog3d::GetPaneChildMode(); });
+    Use(+[](bool a0) -> void { return CDialog3d::SetTouchFreeze(std::forward<bool>(a0)); });
+    Use(+[]() -> bool { return CDialog3d::IsInTouchFreeze(); });
+    Use(+[](bool a0) -> void { return CDialog3d::PumpPaintMessages(std::forward<bool>(a0)); });
+    Use(+[](unsigned int a0) -> bool { return CDialog3d::PumpWindowsMessages(std::forward<unsigned int>(a0)); });
+    Use(+[](CDialog3d & object, unsigned int a0) -> void { return object.CDialog3d::DontAbsorbKeys(std::forward<unsigned int>(a0)); });
+    Use(+[](CDialog3d & object) -> void { return object.CDialog3d::DontAbsorbAnyKeys(); });
+    Use(+[](CDialog3d & object) -> void { return object.CDialog3d::DontAbsorbNormalKeys(); });
+    Use(+[](CDialog3d & object, bool a0) -> void { return object.CDialog3d::DontAbsorbControlKeys(std::forward<bool>(a0)); });
+
+    // dialogs/DialogDrag.h
+    Use(+[](CDialogDrag & object, bool a0) -> void { return object.CDialogDrag::Enable(std::forward<bool>(a0)); });
+    Use(+[](CDialogDrag const & object, unsigned int a0, bool a1) -> bool { return object.CDialogDrag::StartsWith(std::forward<unsigned int>(a0), std::forward<bool>(a1)); });
+    Use(+[](CDialogDrag & object, CPoint a0, CRect const & a1) -> void { return object.CDialogDrag::Start(std::forward<CPoint>(a0), std::forward<CRect const &>(a1)); });
+    Use(+[](CDialogDrag const & object) -> bool { return object.CDialogDrag::Runs(); });
+    Use(+[](CDialogDrag & object, CPoint a0) -> CPoint { return object.CDialogDrag::MoveTo(std::forward<CPoint>(a0)); });
+    Use(+[](CDialogDrag & object) -> bool { return object.CDialogDrag::End(); });
+    Use(+[] { delete new CDialogDrag; });
+
+    // dialogs/DialogFade.h
+    Use(+[](CDialogFade const & object) -> std::uint8_t { return object.CDialogFade::Alpha(); });
+    Use(+[](CDialogFade & object, std::uint8_t a0) -> void { return object.CDialogFade::SetAlpha(std::forward<std::uint8_t>(a0)); });
+    Use(+[](CDialogFade & object, int a0, std::int32_t a1) -> bool { return object.CDialogFade::Start(std::forward<int>(a0), std::forward<std::int32_t>(a1)); });
+    Use(+[](CDialogFade & object) -> std::optional<std::uint8_t> { return object.CDialogFade::Tick(); });
+    Use(+[](CDialogFade const & object) -> int { return object.CDialogFade::Target(); });
+    Use(+[](CDialogFade const & object) -> int { return object.CDialogFade::Step(); });
+
+    // dialogs/FolderDialog.h
+    Use(+[](HWND__ * a0) { delete new CFolderDialog(std::forward<HWND__ *>(a0)); });
+    Use(+[](CFolderDialog const & a0) { delete new CFolderDialog(std::forward<CFolderDialog const &>(a0)); });
+    Use(+[](CFolderDialog & object, CFolderDialog const & a0) -> CFolderDialog & { return object.CFolderDialog::operator=(std::forward<CFolderDialog const &>(a0)); });
+    Use(+[](CFolderDialog & object) -> int { return object.CFolderDialog::DoModal(); });
+    Use(+[](CFolderDialog & object) -> CString { return object.CFolderDialog::GetFolder(); });
+    Use(+[](CFolderDialog & object) -> CString { return object.CFolderDialog::GetPathName(); });
+    Use(+[](CFolderDialog & object, wchar_t const * a0) -> void { return object.CFolderDialog::SetInitialDir(std::forward<wchar_t const *>(a0)); });
+    Use(+[](CFolderDialog & object, wchar_t const * a0) -> void { return object.CFolderDialog::SetTitleMessage(std::forward<wchar_t const *>(a0)); });
+    Use(+[](CFolderDialog & object, unsigned int a0) -> void { return object.CFolderDialog::SetBrowseInfoFlags(std::forward<unsigned int>(a0)); });
+    Use(+[](CFolderDialog & object, unsigned int a0) -> void { return object.CFolderDialog::AddBrowseInfoFlags(std::forward<unsigned int>(a0)); });
+
+    // dialogs/KeyGroups.h
+    Use(+[](unsigned int a0, unsigned int a1) -> bool { return KeyGroups::LeavesToOthers(std::forward<unsigned int>(a0), std::forward<unsigned int>(a1)); });
+
+    // dialogs/PopupConfig.h
+    Use(+[](CString const & a0, std::function<void()> const & a1) { delete new CPopupConfigEntry(std::forward<CString const &>(a0), std::forward<std::function<void()> const &>(a1)); });
+    Use(+[](CPopupConfigEntry const & object) -> CString const & { return object.CPopupConfigEntry::Text(); });
+    Use(+[](CPopupConfigEntry const & object) -> std::function<void()> const & { return object.CPopupConfigEntry::Callback(); });
+    Use(+[](CPopupConfigEntry const & object) -> int { return object.CPopupConfigEntry::ID(); });
+    Use(+[](CPopupConfig & object, CPopupConfigEntry a0) -> void { return object.CPopupConfig::Add(std::forward<CPopupConfigEntry>(a0)); });
+    Use(+[](CPopupConfig & object, CString const & a0, std::function<void()> const & a1) -> void { return object.CPopupConfig::Add(std::forward<CString const &>(a0), std::forward<std::function<void()> const &>(a1)); });
+    Use(+[](CPopupConfig & object) -> void { return object.CPopupConfig::AddSeparator(); });
+    Use(+[](CPopupConfig const & object) -> std::size_t { return object.CPopupConfig::size(); });
+    Use(+[](CPopupConfig const & object) -> bool { return object.CPopupConfig::empty(); });
+    Use(+[](CPopupConfig const & object) { return object.CPopupConfig::begin(); });
+    Use(+[](CPopupConfig const & object) { return object.CPopupConfig::end(); });
+    Use(+[](CPopupConfig & object, int a0) -> void { return object.CPopupConfig::NumberAfter(std::forward<int>(a0)); });
+    Use(+[](CPopupConfig const & object, unsigned int a0) -> CPopupConfigEntry const * { return object.CPopupConfig::Find(std::forward<unsigned int>(a0)); });
+    Use(+[] { delete new CPopupConfig; });
+
+    // dialogs/SprachauswahlDlg.h
+    Use(+[](unsigned short a0, CWnd * a1) { delete new CSprachauswahlDlg(std::forward<unsigned short>(a0), std::forward<CWnd *>(a1)); });
+    Use(+[](CSprachauswahlDlg & object) -> INT_PTR { return object.CSprachauswahlDlg::DoModal(); });
+    Use(+[](CSprachauswahlDlg const & object) -> unsigned short { return object.CSprachauswahlDlg::SprachId(); });
+    Use(+[](CSprachauswahlDlg const & object) -> bool { return object.CSprachauswahlDlg::SpracheGeaendert(); });
+
+    // frame/CoreLibrary.h
+    Use(+[](HINSTANCE a0) { delete new CResourceModuleScope(std::forward<HINSTANCE>(a0)); });
+    Use(+[]() { delete new CStepCounter(); });
+    Use(+[](CStepCounter & object, int a0, int a1) -> void { return object.CStepCounter::set_range(std::forward<int>(a0), std::forward<int>(a1)); });
+    Use(+[](CStepCounter & object, bool a0) -> int { return object.CStepCounter::step(std::forward<bool>(a0)); });
+    Use(+[](CStepCounter const & object) -> int { return object.CStepCounter::operator()(); });
+    Use(+[](unsigned long a0) -> CString { return ::SystemErrorText(std::forward<unsigned long>(a0)); });
+    Use(+[](CTime a0, dtf_style_t a1) -> CString { return ::UserDateTimeText(std::forward<CTime>(a0), std::forward<dtf_style_t>(a1)); });
+
+    // frame/PreferenceStore.h
+    Use(+[]() -> CResourceVesk * { return CVeskBase::PreferenceVesk(); });
+    Use(+[](CResourceVesk * a0) -> void { return CVeskBase::SetPreferenceVesk(std::forward<CResourceVesk *>(a0)); });
+    Use(+[] { delete new CVeskBase; });
+
+    // frame/RegisteredMessages.h
+    Use(&WM_IDNAME_MULTISELECT_EVENT);
+    Use(&WM_XEDITBROWSE_COMPLETED);
+    Use(&WM_XLISTCTRL_CHECKBOX_CLICKED);
+    Use(&WM_XLISTCTRL_COLUMNCLICK);
+    Use(&WM_XLISTCTRL_COMBO_SELECTION);
+    Use(&WM_XLISTCTRL_EDIT_END);
+    Use(&WM_XLISTCTRL_ITEM_DBLCLICKED);
+    Use(&WM_XLISTCTRL_LINK_CLICKED);
+    Use(&WM_XTREECTRL_DBLCLK);
+
+    // layout/DialogResizer.h
+    Use(+[](CWnd & a0, CString const & a1) { delete new CDialogResizer(std::forward<CWnd &>(a0), std::forward<CString const &>(a1)); });
+    Use(+[](CDialogResizer & object, CWnd * a0, CEdges const & a1, CRect const * a2) -> void { return object.CDialogResizer::PositionChild(std::forward<CWnd *>(a0), std::forward<CEdges const &>(a1), std::forward<CRect const *>(a2)); });
+    Use(+[](CDialogResizer & object, int a0, CEdges const & a1, CRect const * a2) -> void { return object.CDialogResizer::PositionChild(std::forward<int>(a0), std::forward<CEdges const &>(a1), std::forward<CRect const *>(a2)); });
+    Use(+[](CDialogResizer & object, CWnd * a0, CRect const & a1, CRect const * a2) -> void { return object.CDialogResizer::PositionChild(std::forward<CWnd *>(a0), std::forward<CRect const &>(a1), std::forward<CRect const *>(a2)); });
+    Use(+[](CDialogResizer & object, int a0, CRect const & a1, CRect const * a2) -> void { return object.CDialogResizer::PositionChild(std::forward<int>(a0), std::forward<CRect const &>(a1), std::forward<CRect const *>(a2)); });
+    Use(+[](CDialogResizer & object, CWnd const * a0, CSize const * a1, CSize const * a2, bool a3) -> void { return object.CDialogResizer::RepositionChild(std::forward<CWnd const *>(a0), std::forward<CSize const *>(a1), std::forward<CSize const *>(a2), std::forward<bool>(a3)); });
+    Use(+[](CDialogResizer & object, int a0, CSize const * a1, CSize const * a2, bool a3) -> void { return object.CDialogResizer::RepositionChild(std::forward<int>(a0), std::forward<CSize const *>(a1), std::forward<CSize const *>(a2), std::forward<bool>(a3)); });
+    Use(+[](CDialogResizer & object) -> void { return object.CDialogResizer::OnSize(); });
+    Use(+[](CDialogResizer & object, tagMINMAXINFO * a0, CDialogResizer::resize_dims_t a1) -> void { return object.CDialogResizer::OnGetMinMaxInfo(std::forward<tagMINMAXINFO *>(a0), std::forward<CDialogResizer::resize_dims_t>(a1)); });
+    Use(+[](CDialogResizer & object) -> void { return object.CDialogResizer::RestoreStoredPosition(); });
+
+    // layout/Edges.h
+    Use(+[](CEdges const & a0) { delete new CEdges(std::forward<CEdges const &>(a0)); });
+    Use(+[](CEdges & object, CEdges const & a0) -> CEdges & { return object.CEdges::operator=(std::forward<CEdges const &>(a0)); });
+    Use(+[]() -> CEdges { return CEdges::LEFT(); });
+    Use(+[]() -> CEdges { return CEdges::RIGHT(); });
+    Use(+[]() -> CEdges { return CEdges::TOP(); });
+    Use(+[]() -> CEdges { return CEdges::BOTTOM(); });
+    Use(+[]() -> CEdges { return CEdges::LEFT_HALF(); });
+    Use(+[]() -> CEdges { return CEdges::RIGHT_HALF(); });
+    Use(+[]() -> CEdges { return CEdges::TOP_HALF(); });
+    Use(+[]() -> CEdges { return CEdges::BOTTOM_HALF(); });
+    Use(+[]() -> CEdges { return CEdges::HORI_CENTER(); });
+    Use(+[]() -> CEdges { return CEdges::VERT_CENTER(); });
+    Use(+[]() -> CEdges { return CEdges::TOP_THIRD(); });
+    Use(+[]() -> CEdges { return CEdges::TOP_TWOTHIRD(); });
+    Use(+[]() -> CEdges { return CEdges::BOTTOM_THIRD(); });
+    Use(+[]() -> CEdges { return CEdges::BOTTOM_TWOTHIRD(); });
+    Use(+[]() -> CEdges { return CEdges::LEFT_RIGHT(); });
+    Use(+[]() -> CEdges { return CEdges::TOP_BOTTOM(); });
+    Use(+[]() -> CEdges { return CEdges::TOP_LEFT(); });
+    Use(+[]() -> CEdges { return CEdges::TOP_RIGHT(); });
+    Use(+[]() -> CEdges { return CEdges::BOTTOM_LEFT(); });
+    Use(+[]() -> CEdges { return CEdges::BOTTOM_RIGHT(); });
+    Use(+[]() -> CEdges { return CEdges::TOP_LEFT_RIGHT(); });
+    Use(+[]() -> CEdges { return CEdges::BOTTOM_LEFT_RIGHT(); });
+    Use(+[]() -> CEdges { return CEdges::TOP_LEFT_BOTTOM(); });
+    Use(+[]() -> CEdges { return CEdges::TOP_RIGHT_BOTTOM(); });
+    Use(+[]() -> CEdges { return CEdges::TOP_LEFT_BOTTOM_RIGHT(); });
+    Use(+[]() -> CEdges { return CEdges::TOP_CENTER(); });
+    Use(+[]() -> CEdges { return CEdges::BOTTOM_CENTER(); });
+    Use(+[](CEdges const & object, CEdges const & a0) -> bool { return object.CEdges::operator&(std::forward<CEdges const &>(a0)); });
+    Use(+[](CEdges const & object, CEdges const & a0) -> CEdges { return object.CEdges::operator|(std::forward<CEdges const &>(a0)); });
+
+    // segments/DigiStatic.h
+    Use(+[]() { delete new CDigiStatic(); });
+    Use(+[](CDigiStatic & object, wchar_t const * a0) -> void { return object.CDigiStatic::SetText(std::forward<wchar_t const *>(a0)); });
+    Use(+[](CDigiStatic & object, wchar_t const * a0) -> void { return object.CDigiStatic::Format(std::forward<wchar_t const *>(a0)); });
+    Use(+[](CDigiStatic & object, unsigned int a0) -> void { return object.CDigiStatic::Format(std::forward<unsigned int>(a0)); });
+    Use(+[](CDigiStatic & object, COLORREF a0, COLORREF a1) -> void { return object.CDigiStatic::SetColor(std::forward<COLORREF>(a0), std::forward<COLORREF>(a1)); });
+    Use(+[](CDigiStatic & object, COLORREF a0) -> COLORREF { return object.CDigiStatic::SetBkColor(std::forward<COLORREF>(a0)); });
+    Use(+[](CDigiStatic const & object) -> COLORREF { return object.CDigiStatic::GetOnColor(); });
+    Use(+[](CDigiStatic const & object) -> COLORREF { return object.CDigiStatic::GetOffColor(); });
+    Use(+[](CDigiStatic & object, ColorScheme a0) -> void { return object.CDigiStatic::SetColorScheme(std::forward<ColorScheme>(a0)); });
+    Use(+[](CDigiStatic & object, DWORD a0, DWORD a1) -> int { return object.CDigiStatic::ModifyDigiStyle(std::forward<DWORD>(a0), std::forward<DWORD>(a1)); });
+    Use(+[](CDigiStatic & object, bool a0) -> void { return object.CDigiStatic::SetTransparent(std::forward<bool>(a0)); });
+    Use(+[](CDigiStatic & object, CRect * a0) -> void { return object.CDigiStatic::SetButtonRect(std::forward<CRect *>(a0)); });
+    Use(+[](CDigiStatic & object, bool a0) -> void { return object.CDigiStatic::SetDrawImmediately(std::forward<bool>(a0)); });
+
+    // segments/LedTextAnzeiger.h
+    Use(+[]() { delete new CLedTextAnzeiger(); });
+    Use(+[](CLedTextAnzeiger const & a0) { delete new CLedTextAnzeiger(std::forward<CLedTextAnzeiger const &>(a0)); });
+    Use(+[](CLedTextAnzeiger & object, CLedTextAnzeiger const & a0) -> CLedTextAnzeiger & { return object.CLedTextAnzeiger::operator=(std::forward<CLedTextAnzeiger const &>(a0)); });
+    Use(+[](CLedTextAnzeiger & object, CString const & a0) -> void { return object.CLedTextAnzeiger::SetText(std::forward<CString const &>(a0)); });
+    Use(+[](CLedTextAnzeiger & object, unsigned int a0) -> void { return object.CLedTextAnzeiger::SetTextAlign(std::forward<unsigned int>(a0)); });
+    Use(+[](CLedTextAnzeiger & object, COLORREF a0, COLORREF a1, COLORREF a2) -> void { return object.CLedTextAnzeiger::SetColors(std::forward<COLORREF>(a0), std::forward<COLORREF>(a1), std::forward<COLORREF>(a2)); });
+    Use(+[](CLedTextAnzeiger & object, unsigned int a0) -> void { return object.CLedTextAnzeiger::SetExtraSpacing(std::forward<unsigned int>(a0)); });
+    Use(+[](CLedTextAnzeiger & object, bool a0) -> void { return object.CLedTextAnzeiger::ShowOffSegments(std::forward<bool>(a0)); });
+    Use(+[](CLedTextAnzeiger & object, bool a0) -> void { return object.CLedTextAnzeiger::Always14Sement(std::forward<bool>(a0)); });
+    Use(+[](CLedTextAnzeiger const & object) -> unsigned int { return object.CLedTextAnzeiger::TextWidht(); });
+    Use(+[](CLedTextAnzeiger & object, Gdiplus::Graphics & a0, CRect & a1) -> void { return object.CLedTextAnzeiger::DrawTextW(std::forward<Gdiplus::Graphics &>(a0), std::forward<CRect &>(a1)); });
+
+    // windows/FensterManager.h
+    Use(+[](CFensterManager::window_t a0) { delete new CFensterManager(std::forward<CFensterManager::window_t>(a0)); });
+    Use(+[](CString const & a0, CFensterManager::window_t a1) { delete new CFensterManager(std::forward<CString const &>(a0), std::forward<CFensterManager::window_t>(a1)); });
+    Use(+[](CFensterManager & object, CString const & a0) -> void { return object.CFensterManager::WhoAmI(std::forward<CString const &>(a0)); });
+    Use(+[](CFensterManager const & object) -> CString const & { return object.CFensterManager::WhoAmI(); });
+    Use(+[](CFensterManager const & object) -> int { return object.CFensterManager::WhatsMyType(); });
+    Use(+[](CFensterManager & object, CFensterManager::window_t a0) -> void { return object.CFensterManager::SetMyType(std::forward<CFensterManager::window_t>(a0)); });
+    Use(+[](CFensterManager & object, CRect a0) -> void { return object.CFensterManager::PreferedPosition(std::forward<CRect>(a0)); });
+    Use(+[](CFensterManager & object, int a0, int a1, int a2, int a3) -> void { return object.CFensterManager::PreferedPosition(std::forward<int>(a0), std::forward<int>(a1), std::forward<int>(a2), std::forward<int>(a3)); });
+    Use(+[](CFensterManager & object, CWnd * a0) -> void { return object.CFensterManager::PreferedPosition(std::forward<CWnd *>(a0)); });
+    Use(+[](CFensterManager & object) -> CRect { return object.CFensterManager::WhatsMyPosition(); });
+    Use(+[](CFensterManager & object) -> unsigned int { return object.CFensterManager::WhatsMyStyle(); });
+    Use(+[](CFensterManager & object, unsigned int a0) -> void { return object.CFensterManager::SetShowMode(std::forward<unsigned int>(a0)); });
+    Use(+[]() -> bool { return CFensterManager::NowExit(); });
+    Use(+[](CFensterManager & object, bool a0) -> void { return object.CFensterManager::SetNowExit(std::forward<bool>(a0)); });
+    Use(+[]() -> bool { return CFensterManager::NurEinMonitor(); });
+    Use(+[](bool a0) -> void { return CFensterManager::SetNurEinMonitor(std::forward<bool>(a0)); });
+    Use(+[]() -> bool { return CFensterManager::TabbedViews(); });
+    Use(+[](bool a0) -> void { return CFensterManager::SetTabbedViews(std::forward<bool>(a0)); });
+    Use(+[](CFensterManager & object, CWnd * a0) -> void { return object.CFensterManager::CalcMyPosition(std::forward<CWnd *>(a0)); });
+    Use(+[](CFensterManager const & object, bool a0) -> void { return object.CFensterManager::SaveMyPosition(std::forward<bool>(a0)); });
+    Use(+[](CFensterManager const & object) -> void { return object.CFensterManager::SaveAllPositions(); });
+    Use(+[](CFensterManager & object, CWnd * a0) -> void { return object.CFensterManager::ReadMyPosition(std::forward<CWnd *>(a0)); });
+    Use(+[](CFensterManager & object) -> bool { return object.CFensterManager::EraseMyPosition(); });
+    Use(+[](CFensterManager const & object) -> bool { return object.CFensterManager::OpenInitially(); });
+    Use(+[](CString const & a0) -> bool { return CFensterManager::OpenInitially(std::forward<CString const &>(a0)); });
+    Use(+[](CFensterManager const & object, CString const & a0) -> int { return object.CFensterManager::AlreadyOpen(std::forward<CString const &>(a0)); });
+    Use(+[](CFensterManager & object, CString const & a0) -> void { return object.CFensterManager::ActivateThatWindow(std::forward<CString const &>(a0)); });
+    Use(+[](CFensterManager & object, CString const & a0) -> void { return object.CFensterManager::KillThatWindow(std::forward<CString const &>(a0)); });
+    Use(+[](CFensterManager & object, CString const & a0) -> void { return object.CFensterManager::MinimizeThatWindow(std::forward<CString const &>(a0)); });
+    Use(+[](CFensterManager & object, CString const & a0) -> void { return object.CFensterManager::RestoreThatWindow(std::forward<CString const &>(a0)); });
+    Use(+[](CFensterManager & object, CString const & a0) -> int { return object.CFensterManager::IsIconic(std::forward<CString const &>(a0)); });
+    Use(+[](CFensterManager & object, CString const & a0) -> int { return object.CFensterManager::IsMaximized(std::forward<CString const &>(a0)); });
+    Use(+[](CFensterManager & object) -> void { return object.CFensterManager::CloseAllViews(); });
+    Use(+[](bool a0) -> void { return CFensterManager::ActivateTouchFreeze(std::forward<bool>(a0)); });
+
+    // windows/MemorySettingsTree.h
+    Use(+[](registry_settings::MemorySettingsTree & object, std::u16string const & a0, registry_settings::SettingsTree::access_t a1) -> registry_settings::SettingsTree::key_t { return object.registry_settings::MemorySettingsTree::Open(std::forward<std::u16string const &>(a0), std::forward<registry_settings::SettingsTree::access_t>(a1)); });
+    Use(+[](registry_settings::MemorySettingsTree & object, registry_settings::SettingsTree::key_t a0, std::u16string const & a1) -> registry_settings::SettingsTree::key_t { return object.registry_settings::MemorySettingsTree::OpenSubkey(std::forward<registry_settings::SettingsTree::key_t>(a0), std::forward<std::u16string const &>(a1)); });
+    Use(+[](registry_settings::MemorySettingsTree & object, registry_settings::SettingsTree::key_t a0, std::u16string const & a1) -> registry_settings::SettingsTree::key_t { return object.registry_settings::MemorySettingsTree::CreateSubkey(std::forward<registry_settings::SettingsTree::key_t>(a0), std::forward<std::u16string const &>(a1)); });
+    Use(+[](registry_settings::MemorySettingsTree & object, registry_settings::SettingsTree::key_t a0) -> void { return object.registry_settings::MemorySettingsTree::Close(std::forward<registry_settings::SettingsTree::key_t>(a0)); });
+    Use(+[](registry_settings::MemorySettingsTree & object, registry_settings::SettingsTree::key_t a0) -> registry_settings::SettingsTree::counts_t { return object.registry_settings::MemorySettingsTree::Count(std::forward<registry_settings::SettingsTree::key_t>(a0)); });
+    Use(+[](registry_settings::MemorySettingsTree & object, registry_settings::SettingsTree::key_t a0, std::uint32_t a1, registry_entry & a2) -> bool { return object.registry_settings::MemorySettingsTree::DescribeValue(std::forward<registry_settings::SettingsTree::key_t>(a0), std::forward<std::uint32_t>(a1), std::forward<registry_entry &>(a2)); });
+    Use(+[](registry_settings::MemorySettingsTree & object, registry_settings::SettingsTree::key_t a0, std::uint32_t a1, registry_entry & a2) -> bool { return object.registry_settings::MemorySettingsTree::ReadValue(std::forward<registry_settings::SettingsTree::key_t>(a0), std::forward<std::uint32_t>(a1), std::forward<registry_entry &>(a2)); });
+    Use(+[](registry_settings::MemorySettingsTree & object, registry_settings::SettingsTree::key_t a0, std::uint32_t a1, std::u16string & a2) -> bool { return object.registry_settings::MemorySettingsTree::SubkeyName(std::forward<registry_settings::SettingsTree::key_t>(a0), std::forward<std::uint32_t>(a1), std::forward<std::u16string &>(a2)); });
+    Use(+[](registry_settings::MemorySettingsTree & object, registry_settings::SettingsTree::key_t a0, registry_entry const & a1) -> bool { return object.registry_settings::MemorySettingsTree::SetValue(std::forward<registry_settings::SettingsTree::key_t>(a0), std::forward<registry_entry const &>(a1)); });
+    Use(+[](registry_settings::MemorySettingsTree & object, registry_settings::SettingsTree::key_t a0) -> void { return object.registry_settings::MemorySettingsTree::EmptyKey(std::forward<registry_settings::SettingsTree::key_t>(a0)); });
+    Use(+[](registry_settings::MemorySettingsTree & object, std::u16string const & a0) -> void { return object.registry_settings::MemorySettingsTree::DeleteKey(std::forward<std::u16string const &>(a0)); });
+    Use(+[](registry_settings::MemorySettingsTree const & object) -> std::size_t { return object.registry_settings::MemorySettingsTree::OpenKeyCount(); });
+
+    // windows/MenueManager.h
+    Use(+[]() { delete new CMenueManager(); });
+    Use(+[](CMenueManager & object) -> unsigned int { return object.CMenueManager::GetNewID(); });
+    Use(+[](CMenueManager & object, unsigned int a0) -> void { return object.CMenueManager::SetNewID(std::forward<unsigned int>(a0)); });
+    Use(+[](CMenueManager & object, CMenu & a0, CString const & a1) -> unsigned int { return object.CMenueManager::AppendString(std::forward<CMenu &>(a0), std::forward<CString const &>(a1)); });
+    Use(+[](CMenueManager & object, CMenu & a0) -> bool { return object.CMenueManager::AppendSeparator(std::forward<CMenu &>(a0)); });
+    Use(+[]() -> CMenu * { return CMenueManager::ApplicationMenue(); });
+    Use(+[]() -> void { return CMenueManager::DrawApplicationMenue(); });
+    Use(+[](CMenu const & a0, CString const & a1) -> int { return CMenueManager::FindItem(std::forward<CMenu const &>(a0), std::forward<CString const &>(a1)); });
+    Use(+[](CMenu const & a0, unsigned int a1) -> int { return CMenueManager::FindItem(std::forward<CMenu const &>(a0), std::forward<unsigned int>(a1)); });
+    Use(+[](CMenu const & a0, CString const & a1) -> CMenu * { return CMenueManager::FindSubMenue(std::forward<CMenu const &>(a0), std::forward<CString const &>(a1)); });
+
+    // windows/RegistrySettingsTree.h
+    Use(+[](std::function<HKEY()> a0) { delete new registry_settings::RegistrySettingsTree(std::forward<std::function<HKEY()>>(a0)); });
+    Use(+[](registry_settings::RegistrySettingsTree & object, std::u16string const & a0, registry_settings::SettingsTree::access_t a1) -> registry_settings::SettingsTree::key_t { return object.registry_settings::RegistrySettingsTree::Open(std::forward<std::u16string const &>(a0), std::forward<registry_settings::SettingsTree::access_t>(a1)); });
+    Use(+[](registry_settings::RegistrySettingsTree & object, registry_settings::SettingsTree::key_t a0, std::u16string const & a1) -> registry_settings::SettingsTree::key_t { return object.registry_settings::RegistrySettingsTree::OpenSubkey(std::forward<registry_settings::SettingsTree::key_t>(a0), std::forward<std::u16string const &>(a1)); });
+    Use(+[](registry_settings::RegistrySettingsTree & object, registry_settings::SettingsTree::key_t a0, std::u16string const & a1) -> registry_settings::SettingsTree::key_t { return object.registry_settings::RegistrySettingsTree::CreateSubkey(std::forward<registry_settings::SettingsTree::key_t>(a0), std::forward<std::u16string const &>(a1)); });
+    Use(+[](registry_settings::RegistrySettingsTree & object, registry_settings::SettingsTree::key_t a0) -> void { return object.registry_settings::RegistrySettingsTree::Close(std::forward<registry_settings::SettingsTree::key_t>(a0)); });
+    Use(+[](registry_settings::RegistrySettingsTree & object, registry_settings::SettingsTree::key_t a0) -> registry_settings::SettingsTree::counts_t { return object.registry_settings::RegistrySettingsTree::Count(std::forward<registry_settings::SettingsTree::key_t>(a0)); });
+    Use(+[](registry_settings::RegistrySettingsTree & object, registry_settings::SettingsTree::key_t a0, std::uint32_t a1, registry_entry & a2) -> bool { return object.registry_settings::RegistrySettingsTree::DescribeValue(std::forward<registry_settings::SettingsTree::key_t>(a0), std::forward<std::uint32_t>(a1), std::forward<registry_entry &>(a2)); });
+    Use(+[](registry_settings::RegistrySettingsTree & object, registry_settings::SettingsTree::key_t a0, std::uint32_t a1, registry_entry & a2) -> bool { return object.registry_settings::RegistrySettingsTree::ReadValue(std::forward<registry_settings::SettingsTree::key_t>(a0), std::forward<std::uint32_t>(a1), std::forward<registry_entry &>(a2)); });
+    Use(+[](registry_settings::RegistrySettingsTree & object, registry_settings::SettingsTree::key_t a0, std::uint32_t a1, std::u16string & a2) -> bool { return object.registry_settings::RegistrySettingsTree::SubkeyName(std::forward<registry_settings::SettingsTree::key_t>(a0), std::forward<std::uint32_t>(a1), std::forward<std::u16string &>(a2)); });
+    Use(+[](registry_settings::RegistrySettingsTree & object, registry_settings::SettingsTree::key_t a0, registry_entry const & a1) -> bool { return object.registry_settings::RegistrySettingsTree::SetValue(std::forward<registry_settings::SettingsTree::key_t>(a0), std::forward<registry_entry const &>(a1)); });
+    Use(+[](registry_settings::RegistrySettingsTree & object, registry_settings::SettingsTree::key_t a0) -> void { return object.registry_settings::RegistrySettingsTree::EmptyKey(std::forward<registry_settings::SettingsTree::key_t>(a0)); });
+    Use(+[](registry_settings::RegistrySettingsTree & object, std::u16string const & a0) -> void { return object.registry_settings::RegistrySettingsTree::DeleteKey(std::forward<std::u16string const &>(a0)); });
+
+    // windows/SettingsFile.h
+    Use(+[] { delete new registry_settings::settings_file_names; });
+    Use(+[](std::ostream & a0, registry_entry_list const & a1) -> bool { return registry_settings::write_settings(std::forward<std::ostream &>(a0), std::forward<registry_entry_list const &>(a1)); });
+    Use(+[](std::istream & a0, registry_entry_list & a1) -> bool { return registry_settings::read_settings(std::forward<std::istream &>(a0), std::forward<registry_entry_list &>(a1)); });
+    Use(+[](std::filesystem::path const & a0, registry_entry_list const & a1) -> bool { return registry_settings::write_settings_file(std::forward<std::filesystem::path const &>(a0), std::forward<registry_entry_list const &>(a1)); });
+    Use(+[](std::filesystem::path const & a0, registry_entry_list & a1) -> bool { return registry_settings::read_settings_file(std::forward<std::filesystem::path const &>(a0), std::forward<registry_entry_list &>(a1)); });
+    Use(+[](SettingsTree & a0, settings_file_names const & a1) -> bool { return registry_settings::export_registry_settings(std::forward<SettingsTree &>(a0), std::forward<settings_file_names const &>(a1)); });
+    Use(+[](SettingsTree & a0, settings_file_names const & a1) -> bool { return registry_settings::import_registry_settings(std::forward<SettingsTree &>(a0), std::forward<settings_file_names const &>(a1)); });
+
+    // windows/SettingsTree.h
+    Use(+[](registry_settings::registry_entry const & object, registry_entry const & a0) -> bool { return object.registry_settings::registry_entry::operator==(std::forward<registry_entry const &>(a0)); });
+    Use(+[](SettingsTree & a0, registry_entry_list & a1) -> bool { return registry_settings::read_registry_tree(std::forward<SettingsTree &>(a0), std::forward<registry_entry_list &>(a1)); });
+    Use(+[](SettingsTree & a0, registry_entry_list & a1) -> bool { return registry_settings::write_registry_tree(std::forward<SettingsTree &>(a0), std::forward<registry_entry_list &>(a1)); });
+    Use(+[](SettingsTree & a0, std::u16string const & a1) -> bool { return registry_settings::delete_registry_tree(std::forward<SettingsTree &>(a0), std::forward<std::u16string const &>(a1)); });
+    Use(+[](SettingsTree & a0, std::u16string const & a1) -> bool { return registry_settings::registry_key_exists(std::forward<SettingsTree &>(a0), std::forward<std::u16string const &>(a1)); });
+}
+} // namespace
+
+int main()
+{
+    UseAll();
+    return 0;
+}
