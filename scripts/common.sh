@@ -90,7 +90,9 @@ make_prefix() {
     if [ ! -f "$WINEPREFIX/prepared-with-fonts" ]; then
         rm -rf "$WINEPREFIX"
         if [ -n "$template" ]; then
-            cp -a "$template" "$WINEPREFIX" || fail "the Wine prefix could not be copied"
+            rm -rf "$WINEPREFIX.new"
+            cp -a "$template" "$WINEPREFIX.new" && mv "$WINEPREFIX.new" "$WINEPREFIX" ||
+                fail "the Wine prefix could not be copied"
         else
             say "preparing Wine (about 20 s)"
             mkdir -p "$WINEPREFIX"
