@@ -69,10 +69,13 @@ bool bench::PaintingSegments()
 {
     Line const line;
     CBezierFitCache kept;
+    Rounds rounds;
+    rounds.spread = 0.05; // far from the goal
     Comparison const compared = Compare(Repeating([&] { line.Paint(kept); }), Repeating([&] {
                                             CBezierFitCache cache;
                                             line.Paint(cache);
-                                        }));
+                                        }),
+                                        rounds);
     char name[160];
     std::snprintf(name, sizeof name,
                   "outlines of a rounded line with kept curves (%.0f paints a second) beside fitting anew (%.0f)",
