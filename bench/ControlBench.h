@@ -4,7 +4,7 @@
 
 #include <afxwin.h>
 
-#include <chrono>
+#include "Measure.h"
 
 namespace bench
 {
@@ -19,14 +19,6 @@ bool SearchingAList();
 bool DeletingRows();
 bool ExportingAList();
 bool PaintingSegmentCharacters();
-
-template <class Work> double Nanoseconds(Work && work)
-{
-    using Clock = std::chrono::steady_clock;
-    auto const began = Clock::now();
-    work();
-    return std::chrono::duration<double, std::nano>(Clock::now() - began).count();
-}
 
 inline void PumpAll()
 {

@@ -178,6 +178,42 @@ bool bench::RefillingAList()
            timeMet;
 }
 
+namespace
+{
+/// The bytes in use in all heaps of the process, with what the heaps themselves need for each block.
+unsigned long long BytesInUse()
+{
+    std::vector<HANDLE> heaps(::GetProcessHeaps(0, nullptr) + 8);
+    heaps.resize(::GetProcessHeaps(static_cast<DWORD>(heaps.size()), heaps.data()));
+    unsigned long long bytes = 0;
+    for (HANDLE const heap : heaps)
+    {
+        ::HeapLock(heap);
+        PROCESS_HEAP_ENTRY entry{};
+        while (::HeapWalk(heap, &entry))
+            if ((entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) != 0)
+                bytes += entry.cbData + entry.cbOverhead;
+        ::HeapUnlock(heap);
+    }
+    return bytes;
+}
+
+/// What the rows of a filled list of that class take, a row.
+template <class List> unsigned long long BytesOfARow(CWnd & parent)
+{
+    List list;
+    CreateWithColumns(list, parent);
+    AddColumns(list);
+    PumpAll();
+    unsigned long long const before = BytesInUse();
+    Fill(list);
+    unsigned long long const after = BytesInUse();
+    list.DestroyWindow();
+    PumpAll();
+    return (after - before) / row_count;
+}
+} // namespace
+
 bool bench::MemoryOfARow()
 {
     XLISTCTRLDATA const cell;
@@ -191,6 +227,22 @@ bool bench::MemoryOfARow()
         sizeof(cell.progressShowText) + sizeof(cell.customDraw);
     unsigned long long const row = sizeof(XLISTCTRLROW *) + sizeof(XLISTCTRLROW) + column_count * sizeof(XLISTCTRLDATA);
     // A tenth more than the bare fields for gaps, the row object and its slot.
-    return ReportCount("bytes of a row of 8 cells beside its bare fields", row, column_count * fields,
-                       column_count * fields * 11 / 10);
+    unsigned long long const most = column_count * fields * 11 / 10;
+    bool const met =
+        ReportCount("bytes of a row object of 8 cells beside its bare fields", row, column_count * fields, most);
+
+    Parent parent;
+    CellTexts();
+    unsigned long long const native = BytesOfARow<CListCtrl>(parent);
+    unsigned long long const ours = BytesOfARow<CXListCtrl>(parent);
+    if (native < column_count * sizeof(wchar_t))
+    {
+        std::printf("the heaps' bytes cannot be counted\n");
+        return false;
+    }
+    // The list is a native one with a row object for each row; an eighth more than the bare fields for what is told
+    // above and for the heap's own bytes.
+    return ReportCount("bytes of a row of 8 text cells in use beside the native list's row", ours, native,
+                       native + column_count * fields * 9 / 8) &&
+           met;
 }

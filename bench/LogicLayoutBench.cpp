@@ -78,39 +78,19 @@ void SetSize(int round)
     table.windows[0].rect = CRect(0, 0, designSize.cx + round % 500, designSize.cy + round % 300);
 }
 
-void LayoutByResizer(benchmark::State & state)
-{
-    table.windows[0].rect = CRect(CPoint(0, 0), designSize);
-    CDialogResizer resizer(*TableOfWindows::Object(0), CString());
-    SetUp(resizer);
-    int round = 0;
-    for (auto _ : state)
-    {
-        SetSize(++round);
-        resizer.OnSize();
-        benchmark::ClobberMemory();
-    }
-}
-
 /// The same formulas over an array, with the results written where the resizer's window system writes them.
-void LayoutByPlainLoop(benchmark::State & state)
+void LayOutByPlainLoop()
 {
-    int round = 0;
-    for (auto _ : state)
+    int const dx = table.windows[0].rect.Width() - designSize.cx;
+    int const dy = table.windows[0].rect.Height() - designSize.cy;
+    for (std::size_t i = 0; i < plainChildren.size(); ++i)
     {
-        SetSize(++round);
-        int const dx = table.windows[0].rect.Width() - designSize.cx;
-        int const dy = table.windows[0].rect.Height() - designSize.cy;
-        for (std::size_t i = 0; i < plainChildren.size(); ++i)
-        {
-            PlainChild const & child = plainChildren[i];
-            table.windows[i + 1].rect = CRect(child.design.left + child.fractions.left * dx / 10000,
-                                              child.design.top + child.fractions.top * dy / 10000,
-                                              child.design.right + child.fractions.right * dx / 10000,
-                                              child.design.bottom + child.fractions.bottom * dy / 10000);
-            table.windows[i + 1].valid = false;
-        }
-        benchmark::ClobberMemory();
+        PlainChild const & child = plainChildren[i];
+        table.windows[i + 1].rect = CRect(child.design.left + child.fractions.left * dx / 10000,
+                                          child.design.top + child.fractions.top * dy / 10000,
+                                          child.design.right + child.fractions.right * dx / 10000,
+                                          child.design.bottom + child.fractions.bottom * dy / 10000);
+        table.windows[i + 1].valid = false;
     }
 }
 } // namespace
@@ -122,10 +102,20 @@ LayoutPlatform & LayoutPlatform::Instance()
 
 bool bench::LayoutArithmetic()
 {
-    // The resizer first: it fills the array that the plain loop goes over.
-    benchmark::RegisterBenchmark("resizer", LayoutByResizer)->Repetitions(5);
-    benchmark::RegisterBenchmark("plain", LayoutByPlainLoop)->Repetitions(5);
-    std::map<std::string, double> times = RunRegistered();
-    return ReportTime("layout arithmetic beside a plain loop, a child", times["resizer"] / childCount,
-                      times["plain"] / childCount, 20);
+    table.windows[0].rect = CRect(CPoint(0, 0), designSize);
+    CDialogResizer resizer(*TableOfWindows::Object(0), CString());
+    SetUp(resizer);
+    int round = 0;
+    Comparison const compared = Compare(Repeating([&resizer, round]() mutable {
+                                            SetSize(++round);
+                                            resizer.OnSize();
+                                            benchmark::ClobberMemory();
+                                        }),
+                                        Repeating([round]() mutable {
+                                            SetSize(++round);
+                                            LayOutByPlainLoop();
+                                            benchmark::ClobberMemory();
+                                        }));
+    return ReportTime("layout arithmetic beside a plain loop, a child", compared.ours / childCount,
+                      compared.reference / childCount, 20);
 }

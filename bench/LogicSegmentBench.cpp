@@ -63,34 +63,22 @@ struct Line
         }
     }
 };
-
-void PaintWithKeptCurves(benchmark::State & state)
-{
-    Line const line;
-    CBezierFitCache cache;
-    for (auto _ : state)
-        line.Paint(cache);
-}
-
-void PaintWithoutKeptCurves(benchmark::State & state)
-{
-    Line const line;
-    for (auto _ : state)
-    {
-        CBezierFitCache cache;
-        line.Paint(cache);
-    }
-}
 } // namespace
 
 bool bench::PaintingSegments()
 {
-    benchmark::RegisterBenchmark("kept", PaintWithKeptCurves)->MinTime(0.1)->Repetitions(5);
-    benchmark::RegisterBenchmark("anew", PaintWithoutKeptCurves)->MinTime(0.1)->Repetitions(5);
-    std::map<std::string, double> times = RunRegistered();
+    Line const line;
+    CBezierFitCache kept;
+    Rounds rounds;
+    rounds.spread = 0.05; // far from the goal
+    Comparison const compared = Compare(Repeating([&] { line.Paint(kept); }), Repeating([&] {
+                                            CBezierFitCache cache;
+                                            line.Paint(cache);
+                                        }),
+                                        rounds);
     char name[160];
     std::snprintf(name, sizeof name,
                   "outlines of a rounded line with kept curves (%.0f paints a second) beside fitting anew (%.0f)",
-                  1e9 / times["kept"], 1e9 / times["anew"]);
-    return Report(name, times["kept"], times["anew"], 0.05);
+                  1e9 / compared.ours, 1e9 / compared.reference);
+    return Report(name, compared, 1, 0.05);
 }

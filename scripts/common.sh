@@ -59,58 +59,82 @@ build_preset() {
         cmake --build "$build/$preset" --target "$target" -j "$jobs") || exit 1
 }
 
-xvfb_pid=
-wine_started=
+xvfb_pids=()
+started_prefixes=()
 
 # start_display WIDTHxHEIGHT: starts a virtual display of our own and points DISPLAY to it.
 start_display() {
-    local size=$1 number
-    Xvfb -displayfd 9 -screen 0 "${size}x24" -nolisten tcp -noreset 9>"$build/display-number.$$" >"$build/xvfb.log" 2>&1 &
-    xvfb_pid=$!
+    local size=$1 number log="$build/xvfb-${#xvfb_pids[@]}.log"
+    Xvfb -displayfd 9 -screen 0 "${size}x24" -nolisten tcp -noreset 9>"$build/display-number.$$" >"$log" 2>&1 &
+    local pid=$!
+    xvfb_pids+=("$pid")
     local waited
-    for waited in $(seq 100); do
+    for waited in $(seq 600); do
         number=$(cat "$build/display-number.$$" 2>/dev/null)
         [ -z "$number" ] || break
-        kill -0 "$xvfb_pid" 2>/dev/null || fail "Xvfb did not start: $(cat "$build/xvfb.log")"
+        kill -0 "$pid" 2>/dev/null || fail "Xvfb did not start: $(cat "$log")"
         sleep 0.1
     done
     rm -f "$build/display-number.$$"
-    [ -n "$number" ] || fail "Xvfb gave no display number within 10 s"
+    [ -n "$number" ] || fail "Xvfb gave no display number within 60 s"
     export DISPLAY=":$number"
 }
 
-# prepare_prefix FOLDER [WIDTHxHEIGHT]: makes the Wine prefix if it is missing and keeps its server up. With a size,
-# programs get one virtual desktop of that size with captions and frames.
-prepare_prefix() {
+# make_prefix FOLDER [WIDTHxHEIGHT [TEMPLATE]]: makes the Wine prefix if it is missing, as a copy of the template if
+# one is given, and leaves its server ended. With a size, programs get one virtual desktop of that size with captions
+# and frames.
+make_prefix() {
     export WINEPREFIX=$1 WINEDEBUG=-all WINEDLLOVERRIDES="mscoree,mshtml,winedbg.exe=" WINEARCH=win64
+    local size=${2:-} template=${3:-}
+    wineserver -k 2>/dev/null
     if [ ! -f "$WINEPREFIX/prepared-with-fonts" ]; then
-        say "preparing Wine (about 20 s)"
         rm -rf "$WINEPREFIX"
-        mkdir -p "$WINEPREFIX"
-        wine wineboot -i >"$build/wineboot.log" 2>&1 || fail "Wine could not be prepared: $(tail -n 5 "$build/wineboot.log")"
-        wineserver -w
-        local font
-        mkdir -p "$WINEPREFIX/drive_c/windows/Fonts"
-        for font in tahoma.ttf tahomabd.ttf marlett.ttf sserife.fon; do
-            [ -e "$WINEPREFIX/drive_c/windows/Fonts/$font" ] || [ ! -e "/usr/share/wine/fonts/$font" ] ||
-                cp "/usr/share/wine/fonts/$font" "$WINEPREFIX/drive_c/windows/Fonts/"
-        done
-        touch "$WINEPREFIX/prepared-with-fonts"
+        if [ -n "$template" ]; then
+            rm -rf "$WINEPREFIX.new"
+            cp -a "$template" "$WINEPREFIX.new" && mv "$WINEPREFIX.new" "$WINEPREFIX" ||
+                fail "the Wine prefix could not be copied"
+        else
+            say "preparing Wine (about 20 s)"
+            mkdir -p "$WINEPREFIX"
+            wine wineboot -i >"$build/wineboot.log" 2>&1 ||
+                fail "Wine could not be prepared: $(tail -n 5 "$build/wineboot.log")"
+            wineserver -w
+            local font
+            mkdir -p "$WINEPREFIX/drive_c/windows/Fonts"
+            for font in tahoma.ttf tahomabd.ttf marlett.ttf sserife.fon; do
+                [ -e "$WINEPREFIX/drive_c/windows/Fonts/$font" ] || [ ! -e "/usr/share/wine/fonts/$font" ] ||
+                    cp "/usr/share/wine/fonts/$font" "$WINEPREFIX/drive_c/windows/Fonts/"
+            done
+            touch "$WINEPREFIX/prepared-with-fonts"
+        fi
     fi
     # The desktop is chosen when the first program starts, so the server is ended once the registry says which.
+    [ "$(cat "$WINEPREFIX/prepared-for-desktop" 2>/dev/null)" != "desktop $size" ] || return 0
     local desktop='HKCU\Software\Wine\Explorer'
-    if [ -n "${2:-}" ]; then
+    if [ -n "$size" ]; then
         wine reg add "$desktop" /v Desktop /d Default /f >/dev/null 2>&1
-        wine reg add "$desktop\Desktops" /v Default /d "$2" /f >/dev/null 2>&1
+        wine reg add "$desktop\Desktops" /v Default /d "$size" /f >/dev/null 2>&1
     else
         wine reg delete "$desktop" /v Desktop /f >/dev/null 2>&1
     fi
     wineserver -k
     wineserver -w
+    echo "desktop $size" >"$WINEPREFIX/prepared-for-desktop"
+}
+
+# start_prefix FOLDER: keeps the server of a prefix made before up and opens its desktop on the current display.
+start_prefix() {
+    export WINEPREFIX=$1
+    started_prefixes+=("$WINEPREFIX")
     wineserver -p
-    wine_started=1
     # The first window brings the desktop process, which would hold the output of the program that it is started for.
     wine rundll32 user32.dll,GetDesktopWindow </dev/null >/dev/null 2>&1
+}
+
+# prepare_prefix FOLDER [WIDTHxHEIGHT]: makes the prefix if it is missing and starts it.
+prepare_prefix() {
+    make_prefix "$@"
+    start_prefix "$1"
 }
 
 # Gives the prefix the dialog font that Windows has. Wine would take Tahoma, whose wider letters need more room than the
@@ -126,10 +150,17 @@ use_windows_dialog_font() {
 
 # Ends what this run started, and nothing else.
 end_all() {
-    [ -z "$wine_started" ] || { wineserver -k 2>/dev/null; wineserver -w 2>/dev/null; }
-    wine_started=
-    [ -z "$xvfb_pid" ] || { kill "$xvfb_pid" 2>/dev/null; wait "$xvfb_pid" 2>/dev/null; }
-    xvfb_pid=
+    local each
+    for each in "${started_prefixes[@]}"; do
+        WINEPREFIX=$each wineserver -k 2>/dev/null
+        WINEPREFIX=$each wineserver -w 2>/dev/null
+    done
+    started_prefixes=()
+    for each in "${xvfb_pids[@]}"; do
+        kill "$each" 2>/dev/null
+        wait "$each" 2>/dev/null
+    done
+    xvfb_pids=()
 }
 trap end_all EXIT
 trap 'exit 130' INT

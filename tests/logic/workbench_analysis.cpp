@@ -161,7 +161,7 @@ public:
     bool WaitFor(int count)
     {
         std::unique_lock lock(m_mutex);
-        return m_changed.wait_for(lock, std::chrono::seconds(30), [&] { return m_count >= count; });
+        return m_changed.wait_for(lock, std::chrono::minutes(2), [&] { return m_count >= count; });
     }
 
 private:

@@ -54,7 +54,7 @@ protected:
     bool WaitForNotification()
     {
         std::unique_lock lock(m_mutex);
-        return m_changed.wait_for(lock, std::chrono::seconds(30), [&] { return m_notified > 0; });
+        return m_changed.wait_for(lock, std::chrono::minutes(2), [&] { return m_notified > 0; });
     }
 
     int m_notified = 0;

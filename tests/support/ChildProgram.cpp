@@ -9,7 +9,7 @@ namespace
 constexpr wchar_t name_variable[] = L"TEST_CHILD_NAME";
 constexpr wchar_t argument_variable[] = L"TEST_CHILD_ARGUMENT";
 constexpr int unknown_child_exit_code = 98;
-constexpr DWORD time_limit = 60000; // ms
+constexpr DWORD time_limit = 300000; // ms; only a hang reaches it
 constexpr UINT killed_exit_code = 99;
 
 std::wstring Variable(wchar_t const * name)

@@ -29,7 +29,7 @@ public:
     ChildProgram & operator=(ChildProgram const &) = delete;
 
     bool Started() const { return m_process != nullptr; }
-    /// False if it still runs after 60 s.
+    /// False if it still runs after 5 minutes, which only a hang reaches.
     bool WaitForEnd();
     void Kill();
     DWORD ExitCode() const;

@@ -2,6 +2,7 @@
 
 #include "Pump.h"
 
+#include <optional>
 #include <vector>
 
 namespace tests
@@ -9,6 +10,9 @@ namespace tests
 namespace
 {
 constexpr ULONGLONG RestOfCursor = 30; // ms
+
+/// Where the mouse was moved last.
+std::optional<CPoint> g_moved;
 constexpr int AbsoluteRange = 65536; // SendInput's coordinates span the screen with 0 to 65535
 
 void Send(std::vector<INPUT> input)
@@ -68,6 +72,20 @@ LONG Absolute(int position, int extent)
     // The middle of the pixel, so that rounding on the other side finds it again.
     return (position * AbsoluteRange + AbsoluteRange / 2) / extent;
 }
+
+INPUT MoveTo(CPoint screen, DWORD flags = 0, DWORD data = 0)
+{
+    INPUT input = MouseInput(flags | MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, data);
+    input.mi.dx = Absolute(screen.x, ::GetSystemMetrics(SM_CXSCREEN));
+    input.mi.dy = Absolute(screen.y, ::GetSystemMetrics(SM_CYSCREEN));
+    return input;
+}
+
+/// A button or wheel event that carries its place: a late report of where the cursor was before may have taken it back.
+INPUT AtMovedPlace(DWORD flags, DWORD data = 0)
+{
+    return g_moved ? MoveTo(*g_moved, flags, data) : MouseInput(flags, data);
+}
 } // namespace
 
 bool BringToFront(HWND window)
@@ -98,6 +116,12 @@ CPoint Centre(HWND window)
     return rect.CenterPoint();
 }
 
+void InjectMove(CPoint screen)
+{
+    g_moved = screen;
+    Send({MoveTo(screen)});
+}
+
 bool MoveMouse(CPoint screen)
 {
     auto const there = [screen]
@@ -105,10 +129,7 @@ bool MoveMouse(CPoint screen)
         POINT now;
         return ::GetCursorPos(&now) && now.x == screen.x && now.y == screen.y;
     };
-    INPUT move = MouseInput(MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE);
-    move.mi.dx = Absolute(screen.x, ::GetSystemMetrics(SM_CXSCREEN));
-    move.mi.dy = Absolute(screen.y, ::GetSystemMetrics(SM_CYSCREEN));
-    Send({move});
+    InjectMove(screen);
     // A late report of the position before may put the cursor back, so it must have rested for a while.
     ULONGLONG arrived = 0;
     return PumpUntil(
@@ -118,7 +139,7 @@ bool MoveMouse(CPoint screen)
             if (!there())
             {
                 if (arrived != 0)
-                    Send({move});
+                    InjectMove(screen);
                 arrived = 0;
                 return false;
             }
@@ -130,12 +151,12 @@ bool MoveMouse(CPoint screen)
 
 void Press(Button button)
 {
-    Send({MouseInput(FlagsOf(button).down)});
+    Send({AtMovedPlace(FlagsOf(button).down)});
 }
 
 void Release(Button button)
 {
-    Send({MouseInput(FlagsOf(button).up)});
+    Send({AtMovedPlace(FlagsOf(button).up)});
 }
 
 void Click(CPoint screen, Button button)
@@ -149,7 +170,7 @@ void DoubleClick(CPoint screen, Button button)
 {
     MoveMouse(screen);
     auto const [down, up] = FlagsOf(button);
-    Send({MouseInput(down), MouseInput(up), MouseInput(down), MouseInput(up)});
+    Send({AtMovedPlace(down), AtMovedPlace(up), AtMovedPlace(down), AtMovedPlace(up)});
 }
 
 void Drag(CPoint from, CPoint to, int steps, Button button)
@@ -165,7 +186,7 @@ void Drag(CPoint from, CPoint to, int steps, Button button)
 void Wheel(CPoint screen, int notches)
 {
     MoveMouse(screen);
-    Send({MouseInput(MOUSEEVENTF_WHEEL, static_cast<DWORD>(notches * WHEEL_DELTA))});
+    Send({AtMovedPlace(MOUSEEVENTF_WHEEL, static_cast<DWORD>(notches * WHEEL_DELTA))});
 }
 
 void KeyDown(WORD virtualKey)

@@ -25,8 +25,10 @@ CPoint ClientPoint(HWND window, CPoint client);
 /// The centre of the window's rectangle in screen coordinates.
 CPoint Centre(HWND window);
 
-/// Moves the cursor and waits until the system reports it there; false if it doesn't within 5 s.
+/// Moves the cursor and waits until the system reports it there; false if it doesn't within the limit of a hang.
 bool MoveMouse(CPoint screen);
+/// Without pumping: for the inside of the system's own loop, which waits for the message itself.
+void InjectMove(CPoint screen);
 
 enum class Button
 {
@@ -34,6 +36,7 @@ enum class Button
     Right,
     Middle
 };
+/// Press and Release happen where the mouse was moved to last.
 void Press(Button button = Button::Left);
 void Release(Button button = Button::Left);
 /// Moves there, presses and releases.

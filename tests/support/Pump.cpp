@@ -13,8 +13,7 @@ std::map<UINT_PTR, LaterActions *> & Timers()
     return timers;
 }
 
-constexpr UINT StepInterval = 10;         // milliseconds
-constexpr ULONGLONG ReadyLimit = 5000;    // milliseconds
+constexpr UINT StepInterval = 10; // milliseconds
 
 bool PumpOne()
 {
@@ -112,7 +111,7 @@ void LaterActions::Step()
         ULONGLONG const now = ::GetTickCount64();
         if (m_waitingSince == 0)
             m_waitingSince = now;
-        if (now - m_waitingSince < ReadyLimit)
+        if (now - m_waitingSince < static_cast<ULONGLONG>(hang_limit.count()))
             return;
         m_failed = true;
     }

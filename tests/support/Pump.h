@@ -1,7 +1,7 @@
 #pragma once
 // Message pumping with a time limit, for tests that wait for something to happen.
 //
-//     ASSERT_TRUE(tests::PumpUntil([&] { return dialog.m_clicks == 1; }));   // 5 s at most, else false
+//     ASSERT_TRUE(tests::PumpUntil([&] { return dialog.m_clicks == 1; }));   // false only after hang_limit
 //     tests::PumpPosted();                                                   // what is queued now, nothing later
 //     tests::PumpFor(std::chrono::milliseconds(50));                         // only where nothing must happen
 //
@@ -17,12 +17,15 @@ namespace tests
 {
 using namespace std::chrono_literals;
 
+/// What only a hang reaches, on a machine with much other work too.
+inline constexpr std::chrono::milliseconds hang_limit = 120s;
+
 /// Dispatches what is queued at the moment of the call, at most limit messages.
 void PumpPosted(int limit = 1000);
 
 /// Dispatches messages until the predicate holds; false if it doesn't within the time limit. The predicate is asked
 /// after each message and at least every 10 ms. Idle work of the application runs when the queue becomes empty.
-bool PumpUntil(std::function<bool()> const & predicate, std::chrono::milliseconds limit = 5s);
+bool PumpUntil(std::function<bool()> const & predicate, std::chrono::milliseconds limit = hang_limit);
 
 /// Dispatches messages for the whole time. For checks that something does not happen.
 void PumpFor(std::chrono::milliseconds time);
@@ -37,7 +40,7 @@ public:
     LaterActions(LaterActions const &) = delete;
     LaterActions & operator=(LaterActions const &) = delete;
 
-    /// Adds an action. It is tried again every 10 ms until ready holds (if given); after 5 s it is given up, `Failed`
+    /// Adds an action. It is tried again every 10 ms until ready holds (if given); after hang_limit it is given up, `Failed`
     /// tells, and the remaining actions run so that a modal loop can still end.
     void Add(std::function<void()> action, std::function<bool()> ready = {});
     bool Failed() const { return m_failed; }

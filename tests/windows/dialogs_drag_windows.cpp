@@ -13,20 +13,6 @@ namespace
 {
 CPoint const client_point(220, 60); // no control there
 
-/// Without pumping: for the inside of the system's own loop, which waits for the message itself.
-void InjectMouse(CPoint screen)
-{
-    constexpr int range = 65536;
-    int const width = ::GetSystemMetrics(SM_CXSCREEN);
-    int const height = ::GetSystemMetrics(SM_CYSCREEN);
-    INPUT input{};
-    input.type = INPUT_MOUSE;
-    input.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE;
-    input.mi.dx = (screen.x * range + range / 2) / width;
-    input.mi.dy = (screen.y * range + range / 2) / height;
-    ::SendInput(1, &input, sizeof(input));
-}
-
 class Dialog3dDrag : public DialogTest
 {
 protected:
@@ -162,7 +148,7 @@ TEST_F(Dialog3dDrag, TheCaptionStillMovesTheDialog)
     CPoint const end = caption + CPoint(30, 25);
     ASSERT_TRUE(tests::MoveMouse(caption));
     tests::LaterActions later; // runs inside the system's own loop of a move
-    later.Add([&] { InjectMouse(end); }, [&] { return ::GetCapture() == m_dialog.m_hWnd; });
+    later.Add([&] { tests::InjectMove(end); }, [&] { return ::GetCapture() == m_dialog.m_hWnd; });
     later.Add([] { tests::Release(); });
     tests::Press();
     EXPECT_TRUE(PumpToPlace(m_place.TopLeft() + CPoint(30, 25)));
@@ -175,7 +161,7 @@ TEST_F(Dialog3dDrag, WhileFrozenTheCaptionDoesNotMoveTheDialog)
     CPoint const caption(m_place.left + 60, m_place.top + 12);
     ASSERT_TRUE(tests::MoveMouse(caption));
     tests::LaterActions later;
-    later.Add([&] { InjectMouse(caption + CPoint(30, 25)); }, [&] { return ::GetCapture() == m_dialog.m_hWnd; });
+    later.Add([&] { tests::InjectMove(caption + CPoint(30, 25)); }, [&] { return ::GetCapture() == m_dialog.m_hWnd; });
     later.Add([] { tests::Release(); });
     tests::Press();
     EXPECT_TRUE(tests::PumpUntil([&] { return later.Done() && ::GetCapture() == nullptr; }));

@@ -346,7 +346,7 @@ TEST(CoreThreads, WorkerGetsItsParameterAndGivesItsExitCode)
     thread->m_bAutoDelete = FALSE;
     EXPECT_EQ(g_workerResult, 0);
     thread->ResumeThread();
-    ASSERT_EQ(::WaitForSingleObject(thread->m_hThread, 5000), WAIT_OBJECT_0);
+    ASSERT_EQ(::WaitForSingleObject(thread->m_hThread, static_cast<DWORD>(tests::hang_limit.count())), WAIT_OBJECT_0);
     DWORD code = 0;
     ::GetExitCodeThread(thread->m_hThread, &code);
     EXPECT_EQ(code, 5u);
@@ -399,7 +399,7 @@ TEST(CoreThreads, LoopThreadHandlesPostedThreadMessages)
     ASSERT_TRUE(tests::PumpUntil([] { return g_ready.load(); }));
     EXPECT_TRUE(thread->PostThreadMessage(WM_APP, 3, 4));
     EXPECT_TRUE(thread->PostThreadMessage(registeredThreadMessage, 11, 0));
-    ASSERT_EQ(::WaitForSingleObject(thread->m_hThread, 5000), WAIT_OBJECT_0);
+    ASSERT_EQ(::WaitForSingleObject(thread->m_hThread, static_cast<DWORD>(tests::hang_limit.count())), WAIT_OBJECT_0);
     DWORD code = 0;
     ::GetExitCodeThread(thread->m_hThread, &code);
     EXPECT_EQ(code, 111u);

@@ -53,10 +53,10 @@ inline void DoubleClick(CPoint screen)
     Inject(screen, {MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP, MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP});
 }
 
-/// Keeps the cursor at a place until the predicate holds; false if it doesn't within 8 s.
+/// Keeps the cursor at a place until the predicate holds; false if it doesn't within 60 s.
 inline bool HoverUntil(CPoint screen, std::function<bool()> const & predicate)
 {
-    for (int attempt = 0; attempt < 4; ++attempt)
+    for (int attempt = 0; attempt < 30; ++attempt)
     {
         // A pixel apart, so that each attempt is a move.
         if (tests::MoveMouse({screen.x + attempt % 2, screen.y}) &&

@@ -30,7 +30,7 @@ public:
     Signal(Signal const &) = delete;
     Signal & operator=(Signal const &) = delete;
     void Give() { ::SetEvent(m_event); }
-    bool Await() { return ::WaitForSingleObject(m_event, 60000) == WAIT_OBJECT_0; }
+    bool Await() { return ::WaitForSingleObject(m_event, 300000) == WAIT_OBJECT_0; }
     bool Given() { return ::WaitForSingleObject(m_event, 0) == WAIT_OBJECT_0; }
 
 private:
@@ -330,7 +330,7 @@ CHILD_PROGRAM(WritesAndWaits)
     store.CreateEntry(L"Entry", 0)->SetInt(-5, 2);
     Signal written(SignalName(argument, L"written"));
     written.Give();
-    ::Sleep(60000);
+    ::Sleep(300000);
     return 0;
 }
 
@@ -375,7 +375,7 @@ TEST_F(SuiteRegistryStore, TwoProgramsWriteAtOnce)
     EXPECT_EQ(store.LookupGetInt(L"Child", 0, 0), 0) << "read before, so that a kept value would show";
     tests::ChildProgram child("WritesAllTheTime", m_subkey);
     ASSERT_TRUE(child.Started());
-    ULONGLONG const limit = ::GetTickCount64() + 60000;
+    ULONGLONG const limit = ::GetTickCount64() + 300000;
     while (store.LookupGetInt(L"Child", 0, 0) == 0 && ::GetTickCount64() < limit)
         ::Sleep(5);
 

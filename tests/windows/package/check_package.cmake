@@ -15,4 +15,4 @@ run(${CMAKE_COMMAND} -G Ninja -S ${HOST} -B ${WORK}/host -DCMAKE_TOOLCHAIN_FILE=
     -Dinstrument_ui_DIR=${WORK}/installed/lib/cmake/instrument_ui)
 run(${CMAKE_COMMAND} --build ${WORK}/host)
 file(COPY ${WORK}/host/host.exe DESTINATION ${WORK}/installed/bin)
-run(wine ${WORK}/installed/bin/host.exe)
+run(${RUN} ${WORK}/installed/bin/host.exe)
