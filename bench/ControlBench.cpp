@@ -17,7 +17,7 @@ constexpr Measure measures[] = {
     {"list-refill", bench::RefillingAList},     {"list-memory", bench::MemoryOfARow},
     {"list-paint", bench::PaintingAPageOfText}, {"list-kinds", bench::PaintingPagesOfOtherKinds},
     {"list-sort", bench::SortingAList},         {"list-export", bench::ExportingAList},
-    {"segments", bench::PaintingSegmentCharacters},
+    {"segments", bench::PaintingSegmentCharacters}, {"workbench", bench::OpeningRecordings},
 };
 } // namespace
 

@@ -17,6 +17,7 @@ bool PaintingPagesOfOtherKinds();
 bool SortingAList();
 bool ExportingAList();
 bool PaintingSegmentCharacters();
+bool OpeningRecordings();
 
 template <class Work> double Nanoseconds(Work && work)
 {

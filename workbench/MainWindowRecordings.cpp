@@ -388,8 +388,11 @@ void CMainWindow::UpdateStatusLine()
     }
     if (!m_missing.empty())
     {
-        text += L", " + workbench::FormatCount(m_missing.size(), Text(L"folder not found:"), Text(L"folders not found:")) +
-                L' ' + m_missing.front().wstring() + (m_missing.size() > 1 ? L", ..." : L"");
+        text += L", " + workbench::FormatCount(m_missing.size(), Text(L"folder not found:"), Text(L"folders not found:"));
+        for (auto const & folder : m_missing)
+        {
+            text += (&folder == &m_missing.front() ? L" " : L", ") + folder.wstring();
+        }
     }
     auto const comparison = ComparisonText();
     text += comparison.empty()
