@@ -67,6 +67,7 @@ BEGIN_MESSAGE_MAP(CMainWindow, CWnd)
     ON_COMMAND(ID_MARK_ALL, &CMainWindow::OnMarkAll)
     ON_COMMAND(ID_MARK_NONE, &CMainWindow::OnMarkNone)
     ON_WM_TIMER()
+    ON_MESSAGE(message_raise_dialogs, &CMainWindow::OnRaiseDialogs)
     ON_MESSAGE(message_recordings_ready, &CMainWindow::OnRecordingsReady)
 END_MESSAGE_MAP()
 
@@ -226,6 +227,31 @@ void CMainWindow::OnActivate(UINT state, CWnd * other, BOOL minimized)
         auto const * const focus = GetFocus();
         m_lastFocus = focus != nullptr && IsChild(focus) ? focus->m_hWnd : nullptr;
     }
+    else
+    {
+        PostMessage(message_raise_dialogs);
+    }
+}
+
+/// Puts the dialogs above the window again, in their order. Windows never lets them fall behind their owner, other
+/// systems do when it is activated.
+LRESULT CMainWindow::OnRaiseDialogs(WPARAM, LPARAM)
+{
+    auto const dialogs = Dialogs();
+    std::vector<HWND> below;
+    for (auto window = ::GetWindow(m_hWnd, GW_HWNDNEXT); window != nullptr; window = ::GetWindow(window, GW_HWNDNEXT))
+    {
+        if (std::ranges::any_of(dialogs, [window](auto const * dialog) { return dialog->GetSafeHwnd() == window; }))
+        {
+            below.push_back(window);
+        }
+    }
+    for (auto i = below.size(); i > 0; --i)
+    {
+        ::SetWindowPos(below[i - 1], HWND_TOP, 0, 0, 0, 0,
+                       SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_NOOWNERZORDER);
+    }
+    return 0;
 }
 
 void CMainWindow::OnSetFocus(CWnd *)

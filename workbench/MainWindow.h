@@ -89,6 +89,8 @@ protected:
 private:
     /// From the searching and the reading thread: there is something to fetch.
     static constexpr UINT message_recordings_ready = WM_APP + 1;
+    /// To the window itself, once it is active.
+    static constexpr UINT message_raise_dialogs = WM_APP + 2;
 
     afx_msg int OnCreate(LPCREATESTRUCT create);
     afx_msg void OnClose();
@@ -123,6 +125,7 @@ private:
     afx_msg void OnMarkNone();
     afx_msg void OnTimer(UINT_PTR id);
     afx_msg LRESULT OnRecordingsReady(WPARAM, LPARAM);
+    afx_msg LRESULT OnRaiseDialogs(WPARAM, LPARAM);
 
     /// A file in the list.
     struct Recording

@@ -275,9 +275,13 @@ void CMainWindow::ShowText(wchar_t const * title, wchar_t const * text)
     m_preview.Update();
 }
 
-/// Says in the views why there is nothing in the list.
+/// Says in list and views why there is nothing in the list.
 void CMainWindow::ShowEmpty()
 {
+    m_list.SetEmptyListText(IsBusy()            ? Text(L"Recordings are being looked for.")
+                            : m_missing.empty() ? Text(L"No recordings. Open files or a folder.")
+                                                : Text(L"Folder not found"));
+    m_list.Invalidate();
     if (IsBusy())
     {
         ShowText(Text(L"No recordings yet"), Text(L"Recordings are being looked for."));

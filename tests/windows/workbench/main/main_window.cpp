@@ -215,8 +215,10 @@ TEST_F(WorkbenchMainWindow, KeepsItsDialogsAboveItself)
         }
         return false;
     };
-    EXPECT_TRUE(isAbove(m_window->Details().m_hWnd, m_window->m_hWnd));
-    EXPECT_TRUE(isAbove(m_window->Preview().m_hWnd, m_window->m_hWnd));
+    EXPECT_TRUE(tests::PumpUntil([&] { return isAbove(m_window->Details().m_hWnd, m_window->m_hWnd); }));
+    EXPECT_TRUE(isAbove(m_window->SettingsDialog().m_hWnd, m_window->Preview().m_hWnd));
+    EXPECT_TRUE(isAbove(m_window->Preview().m_hWnd, m_window->Details().m_hWnd));
+    EXPECT_EQ(::GetForegroundWindow(), m_window->m_hWnd);
 }
 
 TEST_F(WorkbenchMainWindow, OpensNoDetailsOfAFileThatHasTakenAnothersPlace)
