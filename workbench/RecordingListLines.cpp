@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "RecordingOverview.h"
+#include "SelectionColours.h"
 #include "frame/CoreLibrary.h"
 #include "logic/RecordingDetails.h"
 #include "logic/TextFormat.h"
@@ -126,7 +127,8 @@ void CRecordingList::PrepareRow(int row, std::filesystem::path const & file, Not
     SetRowColors(row, ::GetSysColor(COLOR_WINDOWTEXT), ::GetSysColor(COLOR_WINDOW));
     SetCheckbox(row, column_check, notes.checked ? XLC_CHECKED : XLC_UNCHECKED);
     SetItemText(row, column_name, name.c_str());
-    SetHyperlink(row, column_name, true, true);
+    SetHyperlink(row, column_name, true, false);
+    SetItemColors(row, column_name, workbench::LinkColour(), ::GetSysColor(COLOR_WINDOW), XLISTCTRLDATA::no_gradient);
     SetItemToolTipText(row, column_name, file.c_str());
     SetRadioButton(row, column_reference, notes.reference ? XLC_RADIO_ON : XLC_RADIO_OFF);
     SetComboBoxGlobalStrings(row, column_rating, notes.rating, 0);
@@ -235,7 +237,7 @@ void CRecordingList::MarkValue(int row, Column column)
 void CRecordingList::ShowProblem(int row, workbench::RecordingAnalysis const & analysis)
 {
     SetCheckbox(row, column_check, XLC_NONE);
-    SetHyperlink(row, column_name, false, true);
+    SetHyperlink(row, column_name, false, false);
     SetBold(row, column_name, false);
     SetItemProperty(row, column_name, XLP_UNDERLINE, false);
     SetRadioButton(row, column_reference, XLC_NONE);

@@ -40,4 +40,10 @@ RowColours LightRowColours(COLORREF systemColour)
     return {RGB(0, 0, 0), background};
 }
 
+COLORREF LinkColour()
+{
+    constexpr double dark = 0.18;
+    return Luminance(::GetSysColor(COLOR_WINDOW)) < dark ? RGB(130, 185, 255) : RGB(0, 0, 255);
+}
+
 } // namespace workbench

@@ -16,4 +16,7 @@ struct RowColours
 /// and combo cells need to be told apart on it. Their own colours are made for a white one.
 RowColours LightRowColours(COLORREF systemColour);
 
+/// The colour of links on the system's window colour: blue, and a light blue where windows are dark.
+COLORREF LinkColour();
+
 } // namespace workbench
