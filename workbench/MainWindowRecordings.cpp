@@ -22,7 +22,7 @@ namespace
 constexpr UINT_PTR c_workTimer = 1;
 constexpr UINT c_workInterval = 10; // milliseconds
 // What one turn of work may take, so that the window answers in between.
-constexpr std::chrono::milliseconds c_workSlice(20);
+constexpr std::chrono::milliseconds c_workSlice(12);
 
 using Clock = std::chrono::steady_clock;
 
