@@ -72,7 +72,10 @@ BEGIN_MESSAGE_MAP(CMainWindow, CWnd)
 END_MESSAGE_MAP()
 
 CMainWindow::CMainWindow()
-    : m_memory(c_title, CFensterManager::window_main), m_details(*this), m_settingsDialog(*this), m_preview(*this),
+    : m_memory(c_title, CFensterManager::window_main),
+      m_details(*this),
+      m_settingsDialog(*this),
+      m_preview(*this),
       m_settings(workbench::ReadSettings())
 {
 }
@@ -144,9 +147,9 @@ int CMainWindow::OnCreate(LPCREATESTRUCT create)
 bool CMainWindow::CreateChildren()
 {
     auto const created = m_list.CreateList(*this, IDC_RECORDINGS, m_metrics) &&
-                   m_waveform.CreateView(*this, IDC_WAVEFORM, m_metrics) &&
-                   m_spectrogram.CreateView(*this, IDC_SPECTROGRAM, m_metrics) &&
-                   m_panel.CreatePanel(*this, IDC_MEASURE_PANEL, m_metrics, m_settings.spectrogramScale);
+                         m_waveform.CreateView(*this, IDC_WAVEFORM, m_metrics) &&
+                         m_spectrogram.CreateView(*this, IDC_SPECTROGRAM, m_metrics) &&
+                         m_panel.CreatePanel(*this, IDC_MEASURE_PANEL, m_metrics, m_settings.spectrogramScale);
     return created && m_status.CreateStrip(*this, IDC_STATUS_LINE, m_metrics);
 }
 

@@ -182,15 +182,15 @@ private:
     HWND m_lastFocus = nullptr;
 
     std::vector<std::filesystem::path> m_targets;
-    std::vector<std::filesystem::path> m_missing; ///< those of the targets that do not exist
-    std::vector<std::filesystem::path> m_found;   ///< the files to list
-    std::size_t m_listed = 0;                     ///< how many of them have been
-    std::vector<Recording> m_recordings;          ///< the lines of the list
-    std::filesystem::path m_chooseFile;           ///< to be chosen once it is listed
-    int m_chooseLine = -1;                        ///< its line then
+    std::vector<std::filesystem::path> m_missing;             ///< those of the targets that do not exist
+    std::vector<std::filesystem::path> m_found;               ///< the files to list
+    std::size_t m_listed = 0;                                 ///< how many of them have been
+    std::vector<Recording> m_recordings;                      ///< the lines of the list
+    std::filesystem::path m_chooseFile;                       ///< to be chosen once it is listed
+    int m_chooseLine = -1;                                    ///< its line then
     std::deque<workbench::AnalysisQueue::Finished> m_results; ///< not shown yet
-    std::size_t m_queued = 0; ///< recordings whose result is not shown yet
-    unsigned m_generation = 0; ///< changes whenever other recordings are shown
+    std::size_t m_queued = 0;                                 ///< recordings whose result is not shown yet
+    unsigned m_generation = 0;                                ///< changes whenever other recordings are shown
     /// What the user has said of recordings shown since the start, by file.
     std::unordered_map<std::wstring, CRecordingList::Notes> m_notes;
     std::unique_ptr<workbench::RecordingSearch> m_search;

@@ -296,8 +296,8 @@ void CMainWindow::ShowEmpty()
     }
     else
     {
-        auto const text = std::wstring(Text(L"This folder does not exist or cannot be read:")) + L' ' +
-                          m_missing.front().wstring();
+        auto const text =
+            std::wstring(Text(L"This folder does not exist or cannot be read:")) + L' ' + m_missing.front().wstring();
         ShowText(Text(L"Folder not found"), text.c_str());
     }
 }
@@ -392,7 +392,8 @@ void CMainWindow::UpdateStatusLine()
     }
     if (!m_missing.empty())
     {
-        text += L", " + workbench::FormatCount(m_missing.size(), Text(L"folder not found:"), Text(L"folders not found:"));
+        text +=
+            L", " + workbench::FormatCount(m_missing.size(), Text(L"folder not found:"), Text(L"folders not found:"));
         for (auto const & folder : m_missing)
         {
             text += (&folder == &m_missing.front() ? L" " : L", ") + folder.wstring();

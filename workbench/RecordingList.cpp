@@ -475,7 +475,8 @@ LRESULT CRecordingList::OnTellOpen(WPARAM line, LPARAM generation)
 BOOL CRecordingList::OnEndTrack(UINT, NMHDR * header, LRESULT * result)
 {
     auto const & track = *reinterpret_cast<NMHEADERW *>(header);
-    if (track.iItem >= 0 && track.iItem < column_count && track.pitem != nullptr && (track.pitem->mask & HDI_WIDTH) != 0)
+    if (track.iItem >= 0 && track.iItem < column_count && track.pitem != nullptr &&
+        (track.pitem->mask & HDI_WIDTH) != 0)
     {
         m_userWidths[track.iItem] = track.pitem->cxy;
         Tell(changed_widths);

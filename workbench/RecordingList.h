@@ -24,8 +24,8 @@ class CRecordingOverview;
 ///
 /// The user can sort the lines by a click on a column's title, and swap two by dragging. A line is known by its number,
 /// which is its file's place in what ShowFiles was given and stays whatever row the line moves to. What the base class
-/// offers and what it posts to the parent go by rows; the host is told by m_onChanged and m_onOpen instead, once the list
-/// is at rest.
+/// offers and what it posts to the parent go by rows; the host is told by m_onChanged and m_onOpen instead, once the
+/// list is at rest.
 class CRecordingList : public CXListCtrl
 {
 public:
@@ -80,7 +80,8 @@ public:
         CRecordingList & m_list;
     };
 
-    /// Called with Change bits when something has changed by the user or the program, once for all that happened before.
+    /// Called with Change bits when something has changed by the user or the program, once for all that happened
+    /// before.
     std::function<void(unsigned changes)> m_onChanged;
 
     /// Called when the user wants to see a line's recording in detail.
@@ -224,10 +225,10 @@ private:
     std::array<int, column_count> m_needs{}; ///< the width that shows its longest text
     std::map<int, int> m_userWidths;
     bool m_fitting = false;
-    int m_fittedWidth = -1;   ///< of the client area, for which the columns have their widths
-    int m_batches = 0;        ///< that exist
-    bool m_wasClean = false;  ///< nothing was waiting to be painted when the outermost batch began
-    bool m_touched = false;   ///< the batch has changed what can be seen
+    int m_fittedWidth = -1;            ///< of the client area, for which the columns have their widths
+    int m_batches = 0;                 ///< that exist
+    bool m_wasClean = false;           ///< nothing was waiting to be painted when the outermost batch began
+    bool m_touched = false;            ///< the batch has changed what can be seen
     mutable std::vector<int> m_places; ///< of each line, the row where it was seen last
     int m_sortedColumn = -1;
     bool m_ascending = true;
