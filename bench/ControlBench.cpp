@@ -13,12 +13,18 @@ struct Measure
     bool (*run)();
 };
 constexpr Measure measures[] = {
-    {"layout", bench::LayoutOf1000Children},    {"list-fill", bench::FillingAList},
-    {"list-refill", bench::RefillingAList},     {"list-memory", bench::MemoryOfARow},
-    {"list-paint", bench::PaintingAPageOfText}, {"list-kinds", bench::PaintingPagesOfOtherKinds},
-    {"list-sort", bench::SortingAList},         {"list-search", bench::SearchingAList},
-    {"list-delete", bench::DeletingRows},       {"list-export", bench::ExportingAList},
+    {"layout", bench::LayoutOf1000Children},
+    {"list-fill", bench::FillingAList},
+    {"list-refill", bench::RefillingAList},
+    {"list-memory", bench::MemoryOfARow},
+    {"list-paint", bench::PaintingAPageOfText},
+    {"list-kinds", bench::PaintingPagesOfOtherKinds},
+    {"list-sort", bench::SortingAList},
+    {"list-search", bench::SearchingAList},
+    {"list-delete", bench::DeletingRows},
+    {"list-export", bench::ExportingAList},
     {"segments", bench::PaintingSegmentCharacters},
+    {"workbench", bench::OpeningRecordings},
 };
 } // namespace
 

@@ -19,6 +19,7 @@ bool SearchingAList();
 bool DeletingRows();
 bool ExportingAList();
 bool PaintingSegmentCharacters();
+bool OpeningRecordings();
 
 inline void PumpAll()
 {

@@ -21,7 +21,7 @@ BEGIN_MESSAGE_MAP(CDetailsDialog, CWorkbenchDialog)
     ON_WM_CONTEXTMENU()
 END_MESSAGE_MAP()
 
-CDetailsDialog::CDetailsDialog() : CWorkbenchDialog(IDD_DETAILS, L"Recording Details") {}
+CDetailsDialog::CDetailsDialog(CWnd & owner) : CWorkbenchDialog(IDD_DETAILS, L"Recording Details", owner) {}
 
 bool CDetailsDialog::Show(std::vector<workbench::DetailLine> lines)
 {

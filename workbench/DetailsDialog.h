@@ -10,7 +10,7 @@
 class CDetailsDialog : public CWorkbenchDialog
 {
 public:
-    CDetailsDialog();
+    explicit CDetailsDialog(CWnd & owner);
 
     /// Shows the lines, in the dialog that is open or in a new one.
     bool Show(std::vector<workbench::DetailLine> lines);

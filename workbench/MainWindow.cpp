@@ -8,16 +8,12 @@
 #include <algorithm>
 
 #include "colours/Farbtabellen.h"
-#include "frame/RegisteredMessages.h"
 #include "resource.h"
 
 namespace
 {
 
 constexpr wchar_t c_title[] = L"Instrument Workbench";
-
-// From the reading thread: there are recordings to fetch.
-constexpr UINT c_messageRecordingsReady = WM_APP + 1;
 
 // Lengths in dialog units.
 constexpr int c_margin = 7;
@@ -63,20 +59,26 @@ BEGIN_MESSAGE_MAP(CMainWindow, CWnd)
     ON_COMMAND(ID_COPY_SPECTROGRAM, &CMainWindow::OnCopySpectrogram)
     ON_COMMAND(ID_CLOSE_DIALOGS, &CMainWindow::OnCloseDialogs)
     ON_COMMAND_RANGE(ID_DIALOG_FIRST, ID_DIALOG_LAST, &CMainWindow::OnDialogChosen)
+    ON_COMMAND(ID_FIT_COLUMNS, &CMainWindow::OnFitColumns)
+    ON_COMMAND(IDCANCEL, &CMainWindow::OnCancelReading)
     ON_COMMAND(ID_READ_AGAIN, &CMainWindow::OnReadAgain)
     ON_COMMAND(ID_SHOW_DETAILS, &CMainWindow::OnShowDetails)
     ON_COMMAND(ID_SET_REFERENCE, &CMainWindow::OnSetReference)
     ON_COMMAND(ID_MARK_ALL, &CMainWindow::OnMarkAll)
     ON_COMMAND(ID_MARK_NONE, &CMainWindow::OnMarkNone)
-    ON_NOTIFY(LVN_ITEMCHANGED, IDC_RECORDINGS, &CMainWindow::OnItemChanged)
-    ON_REGISTERED_MESSAGE(WM_XLISTCTRL_CHECKBOX_CLICKED, &CMainWindow::OnListCheckClicked)
-    ON_REGISTERED_MESSAGE(WM_XLISTCTRL_LINK_CLICKED, &CMainWindow::OnListLinkClicked)
-    ON_REGISTERED_MESSAGE(WM_XLISTCTRL_ITEM_DBLCLICKED, &CMainWindow::OnListDoubleClicked)
-    ON_REGISTERED_MESSAGE(WM_XLISTCTRL_COLUMNCLICK, &CMainWindow::OnListColumnClicked)
-    ON_MESSAGE(c_messageRecordingsReady, &CMainWindow::OnRecordingsReady)
+    ON_WM_TIMER()
+    ON_MESSAGE(message_raise_dialogs, &CMainWindow::OnRaiseDialogs)
+    ON_MESSAGE(message_recordings_ready, &CMainWindow::OnRecordingsReady)
 END_MESSAGE_MAP()
 
-CMainWindow::CMainWindow() : m_memory(c_title, CFensterManager::window_main), m_settings(workbench::ReadSettings()) {}
+CMainWindow::CMainWindow()
+    : m_memory(c_title, CFensterManager::window_main),
+      m_details(*this),
+      m_settingsDialog(*this),
+      m_preview(*this),
+      m_settings(workbench::ReadSettings())
+{
+}
 
 bool CMainWindow::CreateMainWindow()
 {
@@ -122,27 +124,33 @@ int CMainWindow::OnCreate(LPCREATESTRUCT create)
     m_spectrogram.SetColours(Farbtabellen::SpektrogrammFarbtabelle(m_settings.spectrogramScale));
     m_waveform.m_onCursor = [this] { ShowReading(); };
     // The commands of the list's menu are the window's, which has them for the keyboard, too.
-    m_list.m_onContextCommand = [this](int command, int row, int) {
-        m_list.ChooseLine(m_list.LineAt(row));
-        SendMessage(WM_COMMAND, static_cast<WPARAM>(command));
+    m_list.m_onContextCommand = [this](int command, int, int) {
+        // Rows may have moved while the menu was open.
+        auto const line = m_list.MenuLine();
+        if (line >= 0)
+        {
+            m_list.ChooseLine(line);
+            SendMessage(WM_COMMAND, static_cast<WPARAM>(command));
+        }
     };
+    m_list.m_onChanged = [this](unsigned changes) { OnListChanged(changes); };
+    m_list.m_onOpen = [this](int line) { ShowDetails(line); };
+    m_list.SetUserWidths(workbench::ReadColumnWidths(m_metrics.AverageWidth()));
+    m_status.m_onCancel = [this] { CancelReading(); };
     auto const window = m_hWnd;
     m_queue = std::make_unique<workbench::AnalysisQueue>(
-        [window] { ::PostMessageW(window, c_messageRecordingsReady, 0, 0); });
+        [window] { ::PostMessageW(window, message_recordings_ready, 0, 0); });
     ShowTargets({});
     return 0;
 }
 
 bool CMainWindow::CreateChildren()
 {
-    auto created = m_list.CreateList(*this, IDC_RECORDINGS, m_metrics) &&
-                   m_waveform.CreateView(*this, IDC_WAVEFORM, m_metrics) &&
-                   m_spectrogram.CreateView(*this, IDC_SPECTROGRAM, m_metrics) &&
-                   m_panel.CreatePanel(*this, IDC_MEASURE_PANEL, m_metrics, m_settings.spectrogramScale);
-    created = created && m_statusLine.Create(L"", WS_CHILD | WS_VISIBLE | SS_LEFT | SS_NOPREFIX | SS_ENDELLIPSIS,
-                                             CRect(), this, IDC_STATUS_LINE);
-    m_statusLine.SetFont(&m_metrics.Font());
-    return created;
+    auto const created = m_list.CreateList(*this, IDC_RECORDINGS, m_metrics) &&
+                         m_waveform.CreateView(*this, IDC_WAVEFORM, m_metrics) &&
+                         m_spectrogram.CreateView(*this, IDC_SPECTROGRAM, m_metrics) &&
+                         m_panel.CreatePanel(*this, IDC_MEASURE_PANEL, m_metrics, m_settings.spectrogramScale);
+    return created && m_status.CreateStrip(*this, IDC_STATUS_LINE, m_metrics);
 }
 
 /// Gives the window its least size, which is the design size, and the children their places and edges.
@@ -159,7 +167,7 @@ void CMainWindow::Arrange()
 
     CRect window(0, 0, 2 * marginX + list.cx,
                  2 * marginY + list.cy + spacingY + waveformHeight + spacingY + spectrogramHeight + spacingY +
-                     panelHeight + spacingY + m_metrics.LineHeight());
+                     panelHeight + spacingY + CStatusStrip::Height(m_metrics));
     auto const right = window.right - marginX;
     auto const waveformTop = marginY + list.cy + spacingY;
     auto const spectrogramTop = waveformTop + waveformHeight + spacingY;
@@ -177,8 +185,8 @@ void CMainWindow::Arrange()
     m_resizer->PositionChild(&m_spectrogram, CRect(0, c_waveformEnd, 10000, 10000), &rect);
     rect = CRect(marginX, panelTop, right, panelTop + panelHeight);
     m_resizer->PositionChild(&m_panel, CEdges::BOTTOM_LEFT_RIGHT(), &rect);
-    rect = CRect(CPoint(marginX, statusTop), CSize(right - marginX, m_metrics.LineHeight()));
-    m_resizer->PositionChild(&m_statusLine, CEdges::BOTTOM_LEFT_RIGHT(), &rect);
+    rect = CRect(CPoint(marginX, statusTop), CSize(right - marginX, CStatusStrip::Height(m_metrics)));
+    m_resizer->PositionChild(&m_status, CEdges::BOTTOM_LEFT_RIGHT(), &rect);
     m_resizer->OnSize();
 }
 
@@ -222,6 +230,31 @@ void CMainWindow::OnActivate(UINT state, CWnd * other, BOOL minimized)
         auto const * const focus = GetFocus();
         m_lastFocus = focus != nullptr && IsChild(focus) ? focus->m_hWnd : nullptr;
     }
+    else
+    {
+        PostMessage(message_raise_dialogs);
+    }
+}
+
+/// Puts the dialogs above the window again, in their order. Windows never lets them fall behind their owner, other
+/// systems do when it is activated.
+LRESULT CMainWindow::OnRaiseDialogs(WPARAM, LPARAM)
+{
+    auto const dialogs = Dialogs();
+    std::vector<HWND> below;
+    for (auto window = ::GetWindow(m_hWnd, GW_HWNDNEXT); window != nullptr; window = ::GetWindow(window, GW_HWNDNEXT))
+    {
+        if (std::ranges::any_of(dialogs, [window](auto const * dialog) { return dialog->GetSafeHwnd() == window; }))
+        {
+            below.push_back(window);
+        }
+    }
+    for (auto i = below.size(); i > 0; --i)
+    {
+        ::SetWindowPos(below[i - 1], HWND_TOP, 0, 0, 0, 0,
+                       SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_NOOWNERZORDER);
+    }
+    return 0;
 }
 
 void CMainWindow::OnSetFocus(CWnd *)
@@ -284,6 +317,7 @@ void CMainWindow::OnEndSession(BOOL ending)
 
 void CMainWindow::OnDestroy()
 {
+    m_search.reset();
     m_queue.reset();
     CWnd::OnDestroy();
 }

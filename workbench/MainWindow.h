@@ -3,10 +3,12 @@
 #include <afxwin.h>
 
 #include <array>
+#include <deque>
 #include <filesystem>
-#include <map>
 #include <memory>
 #include <optional>
+#include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "DetailsDialog.h"
@@ -16,10 +18,12 @@
 #include "ScreenMetrics.h"
 #include "SettingsDialog.h"
 #include "SpectrogramView.h"
+#include "StatusStrip.h"
 #include "WaveformView.h"
 #include "WindowMenu.h"
 #include "layout/DialogResizer.h"
 #include "logic/AnalysisQueue.h"
+#include "logic/RecordingSearch.h"
 #include "windows/FensterManager.h"
 
 /// The workbench's main window: the list of recordings, the waveform of the chosen one, and the commands.
@@ -31,12 +35,18 @@ public:
     /// Creates the window at the place where it stood last.
     bool CreateMainWindow();
 
-    /// Shows the recordings that folders and files stand for, in place of the present ones.
+    /// Shows the recordings that folders and files stand for, in place of the present ones. They are looked for, listed
+    /// and read a little at a time, while the window goes on handling messages.
     void ShowTargets(std::vector<std::filesystem::path> targets);
 
-    /// The number of recordings, and of those that are still being read.
-    int RecordingCount() const { return static_cast<int>(m_files.size()); }
-    int UnreadCount() const { return m_unread; }
+    /// Whether recordings are still being looked for, listed or read.
+    bool IsBusy() const { return m_search || m_listed < m_found.size() || m_queued > 0; }
+
+    /// Gives up looking for recordings, listing and reading them; what is there stays.
+    void CancelReading();
+
+    /// The number of recordings listed so far.
+    int RecordingCount() const { return static_cast<int>(m_recordings.size()); }
 
     /// Chooses a recording by its place in the list. Gives false for one that does not exist.
     bool ChooseRecording(int index);
@@ -51,9 +61,10 @@ public:
     CRecordingList & List() { return m_list; }
 
     /// Opens the details of a recording, or shows them in the open window. Gives false for one that does not exist or
-    /// is being read.
+    /// is not read.
     bool ShowDetails(int index);
     CDetailsDialog & Details() { return m_details; }
+    CPreviewDialog & Preview() { return m_preview; }
 
     /// Opens the settings, or brings them to the front.
     bool ShowSettings();
@@ -76,6 +87,11 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    /// From the searching and the reading thread: there is something to fetch.
+    static constexpr UINT message_recordings_ready = WM_APP + 1;
+    /// To the window itself, once it is active.
+    static constexpr UINT message_raise_dialogs = WM_APP + 2;
+
     afx_msg int OnCreate(LPCREATESTRUCT create);
     afx_msg void OnClose();
     afx_msg void OnDestroy();
@@ -100,17 +116,24 @@ private:
     afx_msg void OnCopySpectrogram();
     afx_msg void OnCloseDialogs();
     afx_msg void OnDialogChosen(UINT id);
-    afx_msg void OnItemChanged(NMHDR * header, LRESULT * result);
+    afx_msg void OnFitColumns();
+    afx_msg void OnCancelReading();
     afx_msg void OnReadAgain();
     afx_msg void OnShowDetails();
     afx_msg void OnSetReference();
     afx_msg void OnMarkAll();
     afx_msg void OnMarkNone();
-    afx_msg LRESULT OnListCheckClicked(WPARAM row, LPARAM column);
-    afx_msg LRESULT OnListLinkClicked(WPARAM row, LPARAM column);
-    afx_msg LRESULT OnListDoubleClicked(WPARAM row, LPARAM column);
-    afx_msg LRESULT OnListColumnClicked(WPARAM state, LPARAM column);
+    afx_msg void OnTimer(UINT_PTR id);
     afx_msg LRESULT OnRecordingsReady(WPARAM, LPARAM);
+    afx_msg LRESULT OnRaiseDialogs(WPARAM, LPARAM);
+
+    /// A file in the list.
+    struct Recording
+    {
+        std::filesystem::path file;
+        std::shared_ptr<workbench::RecordingAnalysis const> analysis; ///< null while it is not read
+        bool queued = false;                                          ///< waits to be read, or is being read
+    };
 
     bool CreateChildren();
     void Arrange();
@@ -121,7 +144,17 @@ private:
     void DrawPage(CDC & dc, CRect const & page);
     CDetailsDialog::Actions DetailsActions();
     void RememberPlace();
+    void OnListChanged(unsigned changes);
+    void Work();
+    void ChooseFirst();
+    void ListNext();
+    void TakeResult(workbench::AnalysisQueue::Finished const & finished);
+    void Queue(int index);
+    Recording const * RecordingAt(int index) const;
+    bool IsReadable(int index) const;
     void ShowChosen();
+    void ShowEmpty();
+    void ShowProgress();
     void ShowText(wchar_t const * title, wchar_t const * text);
     void ShowReading();
     void ReadAgain(int index);
@@ -135,8 +168,9 @@ private:
     CWaveformView m_waveform;
     CSpectrogramView m_spectrogram;
     std::shared_ptr<workbench::RecordingAnalysis const> m_shown; ///< in both views; null for a text
+    std::wstring m_shownText;
     CMeasurePanel m_panel;
-    CStatic m_statusLine;
+    CStatusStrip m_status;
     CWindowMenu m_windowMenu;
     CDetailsDialog m_details;
     int m_detailsIndex = -1; ///< the recording whose details are shown
@@ -148,9 +182,17 @@ private:
     HWND m_lastFocus = nullptr;
 
     std::vector<std::filesystem::path> m_targets;
-    std::vector<std::filesystem::path> m_files;
-    std::vector<std::shared_ptr<workbench::RecordingAnalysis const>> m_analyses; ///< null while being read
-    std::map<std::filesystem::path, CRecordingList::Notes> m_notes; ///< of all recordings shown since the start
-    int m_unread = 0;
+    std::vector<std::filesystem::path> m_missing;             ///< those of the targets that do not exist
+    std::vector<std::filesystem::path> m_found;               ///< the files to list
+    std::size_t m_listed = 0;                                 ///< how many of them have been
+    std::vector<Recording> m_recordings;                      ///< the lines of the list
+    std::filesystem::path m_chooseFile;                       ///< to be chosen once it is listed
+    int m_chooseLine = -1;                                    ///< its line then
+    std::deque<workbench::AnalysisQueue::Finished> m_results; ///< not shown yet
+    std::size_t m_queued = 0;                                 ///< recordings whose result is not shown yet
+    unsigned m_generation = 0;                                ///< changes whenever other recordings are shown
+    /// What the user has said of recordings shown since the start, by file.
+    std::unordered_map<std::wstring, CRecordingList::Notes> m_notes;
+    std::unique_ptr<workbench::RecordingSearch> m_search;
     std::unique_ptr<workbench::AnalysisQueue> m_queue;
 };

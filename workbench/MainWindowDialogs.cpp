@@ -79,27 +79,34 @@ CDetailsDialog::Actions CMainWindow::DetailsActions()
     auto const row = m_list.PlaceOf(index);
     auto const previous = row > 0 ? m_list.LineAt(row - 1) : -1;
     auto const next = row >= 0 ? m_list.LineAt(row + 1) : -1;
-    auto const readable = [this](int i) {
-        return i >= 0 && i < RecordingCount() && m_analyses[static_cast<std::size_t>(i)] != nullptr;
+    auto const read = [this](int i) { return RecordingAt(i) != nullptr && RecordingAt(i)->analysis; };
+    // While a menu offers the actions, other recordings can come.
+    auto const unlessOthersCome = [this, generation = m_generation](std::function<void()> action) {
+        return [this, generation, action = std::move(action)] {
+            if (generation == m_generation)
+            {
+                action();
+            }
+        };
     };
-    if (readable(previous))
+    if (read(previous))
     {
-        actions.previous = [this, previous] { ShowDetails(previous); };
+        actions.previous = unlessOthersCome([this, previous] { ShowDetails(previous); });
     }
-    if (readable(next))
+    if (read(next))
     {
-        actions.next = [this, next] { ShowDetails(next); };
+        actions.next = unlessOthersCome([this, next] { ShowDetails(next); });
     }
-    if (readable(index))
+    if (read(index))
     {
-        actions.showInList = [this, index] {
+        actions.showInList = unlessOthersCome([this, index] {
             m_list.ChooseLine(index);
             SetActiveWindow();
-        };
-        if (!m_analyses[static_cast<std::size_t>(index)]->problem)
-        {
-            actions.setReference = [this, index] { m_list.SetReference(index); };
-        }
+        });
+    }
+    if (IsReadable(index))
+    {
+        actions.setReference = unlessOthersCome([this, index] { m_list.SetReference(index); });
     }
     return actions;
 }
@@ -143,6 +150,7 @@ void CMainWindow::OnImportSettings()
     if (result == workbench::SettingsFileResult::Done || result == workbench::SettingsFileResult::Incomplete)
     {
         FollowSettings(workbench::ReadSettings());
+        m_list.SetUserWidths(workbench::ReadColumnWidths(m_metrics.AverageWidth()));
         workbench::UseLanguage(workbench::ReadLanguage());
     }
 }
@@ -227,15 +235,17 @@ void CMainWindow::OnInitMenuPopup(CMenu * menu, UINT index, BOOL systemMenu)
         menu->EnableMenuItem(id, MF_BYCOMMAND | (enabled ? MF_ENABLED : MF_GRAYED));
     };
     auto const chosen = m_list.ChosenLine();
-    auto const read = chosen >= 0 && chosen < RecordingCount() && m_analyses[static_cast<std::size_t>(chosen)];
+    auto const * const recording = RecordingAt(chosen);
+    auto const read = recording != nullptr && recording->analysis;
     enable(ID_COPY, RecordingCount() > 0);
     enable(ID_COPY_ALL, RecordingCount() > 0);
     enable(ID_COPY_SPECTROGRAM, m_shown && !m_shown->problem && !IsComputing());
     enable(ID_RELOAD, !m_targets.empty());
     enable(ID_SHOW_DETAILS, read);
-    enable(ID_READ_AGAIN, read);
-    enable(ID_SET_REFERENCE, read && !m_analyses[static_cast<std::size_t>(chosen)]->problem);
+    enable(ID_READ_AGAIN, recording != nullptr && !recording->queued);
+    enable(ID_SET_REFERENCE, IsReadable(chosen));
     enable(ID_MARK_ALL, RecordingCount() > 0);
     enable(ID_MARK_NONE, RecordingCount() > 0);
+    enable(ID_FIT_COLUMNS, !m_list.UserWidths().empty());
     enable(ID_CLOSE_DIALOGS, std::ranges::any_of(Dialogs(), [](auto const * dialog) { return dialog->IsOpen(); }));
 }

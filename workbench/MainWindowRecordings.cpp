@@ -3,7 +3,9 @@
 #include "MainWindow.h"
 
 #include <algorithm>
+#include <chrono>
 #include <limits>
+#include <utility>
 
 #include "frame/CoreLibrary.h"
 #include "logic/CursorReading.h"
@@ -14,39 +16,220 @@
 
 using workbench::Text;
 
+namespace
+{
+
+constexpr UINT_PTR c_workTimer = 1;
+constexpr UINT c_workInterval = 10; // milliseconds
+// What one turn of work may take, so that the window answers in between.
+constexpr std::chrono::milliseconds c_workSlice(12);
+
+using Clock = std::chrono::steady_clock;
+
+} // namespace
+
 /// Keeps what the user said about the recordings shown, for when they are shown again.
 void CMainWindow::KeepNotes()
 {
     for (int i = 0; i < RecordingCount(); ++i)
     {
-        auto & notes = m_notes[m_files[static_cast<std::size_t>(i)]];
-        notes = m_list.NotesOf(i);
+        auto const notes = m_list.NotesOf(i);
+        auto const & file = m_recordings[static_cast<std::size_t>(i)].file.native();
+        if (notes != CRecordingList::Notes())
+        {
+            m_notes[file] = notes;
+        }
+        else if (!m_notes.empty())
+        {
+            m_notes.erase(file);
+        }
     }
 }
 
 void CMainWindow::ShowTargets(std::vector<std::filesystem::path> targets)
 {
     KeepNotes();
-    m_targets = std::move(targets);
+    m_search.reset();
     m_queue->Clear();
+    ++m_generation;
+    m_targets = std::move(targets);
+    m_missing.clear();
+    m_found.clear();
+    m_listed = 0;
+    m_results.clear();
+    m_queued = 0;
+    m_recordings.clear();
+    m_chooseFile.clear();
+    m_chooseLine = -1;
     m_detailsIndex = -1;
-    m_files = workbench::FindRecordings(m_targets);
-    m_analyses.assign(m_files.size(), nullptr);
-    m_unread = static_cast<int>(m_files.size());
-    std::vector<CRecordingList::Notes> notes;
-    for (auto const & file : m_files)
+    m_list.RemoveLines();
+    if (!m_targets.empty())
     {
-        auto const known = m_notes.find(file);
-        notes.push_back(known != m_notes.end() ? known->second : CRecordingList::Notes());
+        auto const window = m_hWnd;
+        m_search = std::make_unique<workbench::RecordingSearch>(
+            m_targets, [window] { ::PostMessageW(window, message_recordings_ready, 0, 0); });
     }
-    m_list.ShowFiles(m_files, notes);
-    for (unsigned i = 0; i < m_files.size(); ++i)
-    {
-        m_queue->Add(i, m_files[i]);
-    }
-    m_list.ChooseLine(0);
     ShowChosen();
+    ShowProgress();
     UpdateStatusLine();
+}
+
+void CMainWindow::CancelReading()
+{
+    if (!IsBusy())
+    {
+        return;
+    }
+    m_search.reset();
+    m_listed = m_found.size();
+    // What has been read by now is shown.
+    auto finished = m_queue->TakeFinished();
+    m_queue->Clear();
+    m_results.insert(m_results.end(), finished.begin(), finished.end());
+    for (auto & recording : m_recordings)
+    {
+        recording.queued = false;
+    }
+    for (auto const & result : m_results)
+    {
+        m_recordings[result.id].queued = true;
+    }
+    m_queued = m_results.size();
+    ShowChosen();
+    ShowProgress();
+    UpdateStatusLine();
+    SetTimer(c_workTimer, c_workInterval, nullptr);
+}
+
+void CMainWindow::OnCancelReading()
+{
+    CancelReading();
+}
+
+LRESULT CMainWindow::OnRecordingsReady(WPARAM, LPARAM)
+{
+    if (auto found = m_search ? m_search->Take() : std::nullopt)
+    {
+        m_search.reset();
+        m_found = std::move(found->files);
+        m_missing = std::move(found->missing);
+    }
+    SetTimer(c_workTimer, c_workInterval, nullptr);
+    return 0;
+}
+
+void CMainWindow::OnTimer(UINT_PTR id)
+{
+    if (id == c_workTimer)
+    {
+        Work();
+    }
+    CWnd::OnTimer(id);
+}
+
+/// Lists files and shows results for a little while. The timer, which comes after all other messages, brings the next
+/// turn.
+void CMainWindow::Work()
+{
+    auto const end = Clock::now() + c_workSlice;
+    for (auto & finished : m_queue->TakeFinished())
+    {
+        m_results.push_back(std::move(finished));
+    }
+    {
+        CRecordingList::Batch const batch(m_list);
+        do
+        {
+            if (m_listed < m_found.size())
+            {
+                ListNext();
+            }
+            else if (!m_results.empty())
+            {
+                auto const result = std::move(m_results.front());
+                m_results.pop_front();
+                TakeResult(result);
+            }
+        } while (Clock::now() < end && (m_listed < m_found.size() || !m_results.empty()));
+    }
+    if (m_listed == m_found.size() && m_results.empty())
+    {
+        KillTimer(c_workTimer);
+        m_found.clear();
+        m_listed = 0;
+    }
+    ChooseFirst();
+    ShowChosen();
+    ShowProgress();
+    UpdateStatusLine();
+}
+
+/// Chooses the recording that was chosen before a reload, or else the first one, where the user has chosen none.
+void CMainWindow::ChooseFirst()
+{
+    auto const listing = m_listed < m_found.size();
+    if (m_recordings.empty() || m_list.ChosenLine() >= 0 || (!m_chooseFile.empty() && m_chooseLine < 0 && listing))
+    {
+        return;
+    }
+    m_list.ChooseLine(std::max(m_chooseLine, 0));
+    m_chooseFile.clear();
+}
+
+void CMainWindow::ListNext()
+{
+    auto & file = m_found[m_listed++];
+    auto const known = m_notes.find(file.native());
+    if (file == m_chooseFile)
+    {
+        m_chooseLine = RecordingCount();
+    }
+    m_list.AppendFile(file, known != m_notes.end() ? known->second : CRecordingList::Notes());
+    m_recordings.push_back({std::move(file), nullptr, false});
+    Queue(RecordingCount() - 1);
+}
+
+/// Has a recording read.
+void CMainWindow::Queue(int index)
+{
+    auto & recording = m_recordings[static_cast<std::size_t>(index)];
+    recording.queued = true;
+    ++m_queued;
+    m_queue->Add(static_cast<unsigned>(index), recording.file);
+}
+
+void CMainWindow::TakeResult(workbench::AnalysisQueue::Finished const & finished)
+{
+    if (finished.id >= m_recordings.size() || !m_recordings[finished.id].queued)
+    {
+        return;
+    }
+    auto & recording = m_recordings[finished.id];
+    recording.queued = false;
+    --m_queued;
+    recording.analysis = finished.analysis;
+    m_list.ShowAnalysis(static_cast<int>(finished.id), finished.analysis);
+}
+
+/// The recording of a line; null if there is none.
+CMainWindow::Recording const * CMainWindow::RecordingAt(int index) const
+{
+    return index >= 0 && index < RecordingCount() ? &m_recordings[static_cast<std::size_t>(index)] : nullptr;
+}
+
+/// Whether there is a recording that was read without a problem.
+bool CMainWindow::IsReadable(int index) const
+{
+    auto const * const recording = RecordingAt(index);
+    return recording != nullptr && recording->analysis && !recording->analysis->problem;
+}
+
+/// Shows how far looking, listing and reading are.
+void CMainWindow::ShowProgress()
+{
+    auto const listed = m_recordings.size();
+    auto const total = listed + m_found.size() - m_listed;
+    m_status.ShowProgress(listed - m_queued, IsBusy() ? std::max<std::size_t>(total, 1) : 0);
 }
 
 bool CMainWindow::ChooseRecording(int index)
@@ -61,98 +244,105 @@ bool CMainWindow::ChooseRecording(int index)
 
 void CMainWindow::MoveCursorToPart(int percent)
 {
-    auto const chosen = m_list.ChosenLine();
-    if (chosen >= 0 && chosen < RecordingCount() && m_analyses[static_cast<std::size_t>(chosen)])
+    if (auto const * const chosen = RecordingAt(m_list.ChosenLine()); chosen != nullptr && chosen->analysis)
     {
-        m_waveform.MoveCursor(m_analyses[static_cast<std::size_t>(chosen)]->info.frames / 100 *
-                              static_cast<unsigned>(percent));
+        m_waveform.MoveCursor(chosen->analysis->info.frames / 100 * static_cast<unsigned>(percent));
     }
 }
 
 int CMainWindow::FirstDamagedRecording() const
 {
-    auto const damaged = [](auto const & analysis) {
+    auto const damaged = [](Recording const & recording) {
+        auto const & analysis = recording.analysis;
         return analysis && (analysis->problem || analysis->info.IsCutOff() || analysis->invalidSamples > 0);
     };
-    auto const found = std::ranges::find_if(m_analyses, damaged);
-    return found != m_analyses.end() ? static_cast<int>(found - m_analyses.begin()) : -1;
-}
-
-LRESULT CMainWindow::OnRecordingsReady(WPARAM, LPARAM)
-{
-    auto const chosen = m_list.ChosenLine();
-    for (auto const & [id, analysis] : m_queue->TakeFinished())
-    {
-        if (id >= m_analyses.size())
-        {
-            continue;
-        }
-        if (!m_analyses[id])
-        {
-            --m_unread;
-        }
-        m_analyses[id] = analysis;
-        m_list.ShowAnalysis(static_cast<int>(id), analysis);
-        if (static_cast<int>(id) == chosen)
-        {
-            ShowChosen();
-        }
-    }
-    UpdateStatusLine();
-    return 0;
+    auto const found = std::ranges::find_if(m_recordings, damaged);
+    return found != m_recordings.end() ? static_cast<int>(found - m_recordings.begin()) : -1;
 }
 
 /// Shows a text in both views.
 void CMainWindow::ShowText(wchar_t const * title, wchar_t const * text)
 {
+    auto const shown = std::wstring(title) + L'\n' + text;
+    if (!m_shown && shown == m_shownText)
+    {
+        return;
+    }
+    m_shownText = shown;
     m_shown.reset();
     m_waveform.ShowText(title, text);
     m_spectrogram.ShowText(title, text);
+    m_preview.Update();
+}
+
+/// Says in list and views why there is nothing in the list.
+void CMainWindow::ShowEmpty()
+{
+    m_list.SetEmptyListText(IsBusy()            ? Text(L"Recordings are being looked for.")
+                            : m_missing.empty() ? Text(L"No recordings. Open files or a folder.")
+                                                : Text(L"Folder not found"));
+    m_list.Invalidate();
+    if (IsBusy())
+    {
+        ShowText(Text(L"No recordings yet"), Text(L"Recordings are being looked for."));
+    }
+    else if (m_targets.empty())
+    {
+        ShowText(Text(L"No recordings"), Text(L"Open WAV files or a folder to see them here."));
+    }
+    else if (m_missing.empty())
+    {
+        ShowText(Text(L"No recordings"), Text(L"There are no WAV files in this folder."));
+    }
+    else
+    {
+        auto const text =
+            std::wstring(Text(L"This folder does not exist or cannot be read:")) + L' ' + m_missing.front().wstring();
+        ShowText(Text(L"Folder not found"), text.c_str());
+    }
 }
 
 void CMainWindow::ShowChosen()
 {
-    auto const chosen = m_list.ChosenLine();
-    if (m_files.empty())
+    auto const * const chosen = RecordingAt(m_list.ChosenLine());
+    if (m_recordings.empty())
     {
-        ShowText(Text(L"No recordings"), m_targets.empty() ? Text(L"Open WAV files or a folder to see them here.")
-                                                           : Text(L"There are no WAV files in this folder."));
+        ShowEmpty();
     }
-    else if (chosen < 0 || chosen >= RecordingCount())
+    else if (chosen == nullptr)
     {
         ShowText(Text(L"No recording chosen"), Text(L"Choose a recording in the list to see it here."));
     }
     else
     {
-        auto const index = static_cast<std::size_t>(chosen);
-        auto const name = m_files[index].filename().wstring();
-        auto const & analysis = m_analyses[index];
-        if (!analysis)
+        auto const name = chosen->file.filename().wstring();
+        if (!chosen->analysis)
         {
-            ShowText(name.c_str(), Text(L"reading..."));
+            ShowText(name.c_str(), chosen->queued ? Text(L"reading...") : Text(L"not read yet"));
         }
-        else if (analysis != m_shown)
+        else if (chosen->analysis != m_shown)
         {
-            m_shown = analysis;
-            m_waveform.ShowRecording(name, analysis);
-            m_spectrogram.ShowRecording(name, m_files[index]);
+            m_shown = chosen->analysis;
+            m_shownText.clear();
+            m_waveform.ShowRecording(name, m_shown);
+            m_spectrogram.ShowRecording(name, chosen->file);
+            m_preview.Update();
         }
     }
-    m_preview.Update();
 }
 
 /// Shows the waveform's cursor on the displays.
 void CMainWindow::ShowReading()
 {
-    auto const chosen = m_list.ChosenLine();
+    auto const * const chosen = RecordingAt(m_list.ChosenLine());
     auto const cursor = m_waveform.Cursor();
-    if (!cursor || chosen < 0 || chosen >= RecordingCount() || !m_analyses[static_cast<std::size_t>(chosen)])
+    if (!cursor || chosen == nullptr || !chosen->analysis)
     {
         m_panel.ShowReading(workbench::PositionReading(0, 0),
                             workbench::LevelReading(-std::numeric_limits<double>::infinity()));
         return;
     }
-    auto const & analysis = *m_analyses[static_cast<std::size_t>(chosen)];
+    auto const & analysis = *chosen->analysis;
     m_panel.ShowReading(
         workbench::PositionReading(*cursor, analysis.info.sampleRate),
         workbench::LevelReading(workbench::LevelAround(analysis.waveform, analysis.info.sampleRate, *cursor)));
@@ -161,109 +351,103 @@ void CMainWindow::ShowReading()
 /// What the chosen recording's levels are against the reference's; empty where there is nothing to compare.
 std::wstring CMainWindow::ComparisonText() const
 {
-    auto const reference = m_list.ReferenceLine();
-    if (reference < 0 || reference >= RecordingCount())
+    auto const * const reference = RecordingAt(m_list.ReferenceLine());
+    if (reference == nullptr)
     {
         return {};
     }
-    auto text = std::wstring(L".  ") + Text(L"Reference") + L": " +
-                m_files[static_cast<std::size_t>(reference)].filename().wstring();
-    auto const chosen = m_list.ChosenLine();
-    auto const & analysis = m_analyses[static_cast<std::size_t>(reference)];
-    if (chosen < 0 || chosen >= RecordingCount() || chosen == reference || !analysis || analysis->problem)
+    auto text = std::wstring(L".  ") + Text(L"Reference") + L": " + reference->file.filename().wstring();
+    auto const line = m_list.ChosenLine();
+    if (line != m_list.ReferenceLine() && IsReadable(line) && IsReadable(m_list.ReferenceLine()))
     {
-        return text;
-    }
-    auto const & other = m_analyses[static_cast<std::size_t>(chosen)];
-    if (other && !other->problem)
-    {
-        text += std::wstring(L"; ") + Text(L"against it,") + L' ' +
-                m_files[static_cast<std::size_t>(chosen)].filename().wstring() + L' ' + Text(L"has peak") + L' ' +
-                workbench::FormatDifference(other->levels.peak, analysis->levels.peak) + L", RMS " +
-                workbench::FormatDifference(other->levels.rms, analysis->levels.rms);
+        auto const & chosen = *RecordingAt(line);
+        text += std::wstring(L"; ") + Text(L"against it,") + L' ' + chosen.file.filename().wstring() + L' ' +
+                Text(L"has peak") + L' ' +
+                workbench::FormatDifference(chosen.analysis->levels.peak, reference->analysis->levels.peak) +
+                L", RMS " + workbench::FormatDifference(chosen.analysis->levels.rms, reference->analysis->levels.rms);
     }
     return text;
 }
 
 void CMainWindow::UpdateStatusLine()
 {
-    auto text = workbench::FormatCount(m_files.size(), Text(L"recording"), Text(L"recordings"));
-    if (m_unread > 0)
+    auto const & totals = m_list.Totals();
+    auto text = workbench::FormatCount(m_recordings.size(), Text(L"recording"), Text(L"recordings"));
+    if (m_queued > 0)
     {
-        text += L", " + std::to_wstring(m_unread) + L' ' + Text(L"being read");
+        text += L", " + std::to_wstring(m_queued) + L' ' + Text(L"being read");
     }
-    auto const unreadable = std::ranges::count_if(m_analyses, [](auto const & a) { return a && a->problem; });
-    if (unreadable > 0)
+    if (auto const unread = totals.Unread() - std::min(m_queued, totals.Unread()); unread > 0)
     {
-        text += L", " + std::to_wstring(unreadable) + L' ' + Text(L"cannot be shown");
+        text += L", " + std::to_wstring(unread) + L' ' + Text(L"not read");
     }
-    std::size_t checked = 0;
-    std::uint64_t milliseconds = 0;
-    for (int i = 0; i < RecordingCount(); ++i)
+    if (totals.Unreadable() > 0)
     {
-        if (m_list.IsChecked(i))
+        text += L", " + std::to_wstring(totals.Unreadable()) + L' ' + Text(L"cannot be shown");
+    }
+    if (totals.Checked() > 0)
+    {
+        text += L", " + std::to_wstring(totals.Checked()) + L' ' + Text(L"marked") + L" (" +
+                workbench::FormatMilliseconds(totals.CheckedMilliseconds()) + L')';
+    }
+    if (!m_missing.empty())
+    {
+        text +=
+            L", " + workbench::FormatCount(m_missing.size(), Text(L"folder not found:"), Text(L"folders not found:"));
+        for (auto const & folder : m_missing)
         {
-            ++checked;
-            if (auto const & analysis = m_analyses[static_cast<std::size_t>(i)])
-            {
-                milliseconds += workbench::DurationMilliseconds(analysis->info.frames, analysis->info.sampleRate);
-            }
+            text += (&folder == &m_missing.front() ? L" " : L", ") + folder.wstring();
         }
-    }
-    if (checked > 0)
-    {
-        text += L", " + std::to_wstring(checked) + L' ' + Text(L"marked") + L" (" +
-                workbench::FormatMilliseconds(milliseconds) + L')';
     }
     auto const comparison = ComparisonText();
     text += comparison.empty()
                 ? std::wstring(L".  ") + Text(L"Levels refer to a full-scale sine: 0 dBFS peak, -3.0 dBFS RMS")
                 : comparison;
     text += L'.';
-    // Set anew, the text would flicker.
-    CString present;
-    m_statusLine.GetWindowText(present);
-    if (present != text.c_str())
-    {
-        m_statusLine.SetWindowText(text.c_str());
-    }
+    m_status.ShowText(text);
 }
 
 void CMainWindow::ReadAgain(int index)
 {
-    if (index < 0 || index >= RecordingCount())
+    if (RecordingAt(index) == nullptr || RecordingAt(index)->queued)
     {
         return;
     }
-    auto const i = static_cast<std::size_t>(index);
-    if (!m_analyses[i])
-    {
-        return;
-    }
-    m_analyses[i] = nullptr;
-    ++m_unread;
-    m_list.ShowReading(index, m_files[i]);
-    m_queue->Add(static_cast<unsigned>(index), m_files[i]);
+    auto & recording = m_recordings[static_cast<std::size_t>(index)];
+    recording.analysis = nullptr;
+    m_list.ShowReading(index, recording.file);
+    Queue(index);
     ShowChosen();
+    ShowProgress();
     UpdateStatusLine();
 }
 
 void CMainWindow::OnReload()
 {
-    auto const chosen = m_list.ChosenLine();
+    auto const * const chosen = RecordingAt(m_list.ChosenLine());
+    auto file = chosen != nullptr ? chosen->file : std::filesystem::path();
     ShowTargets(m_targets);
-    ChooseRecording(chosen);
+    m_chooseFile = std::move(file);
 }
 
-void CMainWindow::OnItemChanged(NMHDR * header, LRESULT * result)
+/// Follows the list, once for all that has changed since the last time.
+void CMainWindow::OnListChanged(unsigned changes)
 {
-    auto const & change = *reinterpret_cast<NMLISTVIEW *>(header);
-    if ((change.uChanged & LVIF_STATE) != 0 && ((change.uOldState ^ change.uNewState) & LVIS_SELECTED) != 0)
+    if ((changes & CRecordingList::changed_widths) != 0)
+    {
+        workbench::StoreColumnWidths(m_list.UserWidths(), m_metrics.AverageWidth());
+    }
+    if ((changes & CRecordingList::changed_selection) != 0)
     {
         ShowChosen();
-        UpdateStatusLine();
     }
-    *result = 0;
+    UpdateStatusLine();
+}
+
+void CMainWindow::OnFitColumns()
+{
+    m_list.SetUserWidths({});
+    workbench::StoreColumnWidths({}, m_metrics.AverageWidth());
 }
 
 void CMainWindow::OnReadAgain()
@@ -273,18 +457,18 @@ void CMainWindow::OnReadAgain()
 
 bool CMainWindow::ShowDetails(int index)
 {
-    if (index < 0 || index >= RecordingCount() || !m_analyses[static_cast<std::size_t>(index)])
+    auto const * const recording = RecordingAt(index);
+    if (recording == nullptr || !recording->analysis)
     {
         return false;
     }
-    auto const & analysis = *m_analyses[static_cast<std::size_t>(index)];
     std::wstring date;
-    if (analysis.file.lastWrite)
+    if (auto const & time = recording->analysis->file.lastWrite)
     {
-        date = UserDateTimeText(CTime(*analysis.file.lastWrite), dtf_date_time).GetString();
+        date = UserDateTimeText(CTime(*time), dtf_date_time).GetString();
     }
     m_detailsIndex = index;
-    return m_details.Show(workbench::DescribeRecording(m_files[static_cast<std::size_t>(index)], analysis, date));
+    return m_details.Show(workbench::DescribeRecording(recording->file, *recording->analysis, date));
 }
 
 void CMainWindow::OnShowDetails()
@@ -305,47 +489,4 @@ void CMainWindow::OnMarkAll()
 void CMainWindow::OnMarkNone()
 {
     m_list.CheckAll(false);
-}
-
-LRESULT CMainWindow::OnListCheckClicked(WPARAM, LPARAM column)
-{
-    if (column == CRecordingList::column_reference)
-    {
-        m_list.ShowReference();
-    }
-    m_list.ShowHeaderCheck();
-    UpdateStatusLine();
-    return 0;
-}
-
-LRESULT CMainWindow::OnListLinkClicked(WPARAM row, LPARAM)
-{
-    ShowDetails(m_list.LineAt(static_cast<int>(row)));
-    return 0;
-}
-
-LRESULT CMainWindow::OnListDoubleClicked(WPARAM row, LPARAM column)
-{
-    // Cells that act on a click of their own are left to it.
-    switch (column)
-    {
-    case CRecordingList::column_check:
-    case CRecordingList::column_reference:
-    case CRecordingList::column_rating:
-    case CRecordingList::column_comment:
-        break;
-    default:
-        ShowDetails(m_list.LineAt(static_cast<int>(row)));
-    }
-    return 0;
-}
-
-LRESULT CMainWindow::OnListColumnClicked(WPARAM, LPARAM column)
-{
-    if (column == CRecordingList::column_check)
-    {
-        m_list.ShowHeaderCheck();
-        UpdateStatusLine();
-    }
-    return 0;
 }

@@ -52,7 +52,7 @@ void CPageView::Draw(CDC & dc, CRect const & client)
     }
 }
 
-CPreviewDialog::CPreviewDialog() : CWorkbenchDialog(IDD_PREVIEW, L"Print Preview") {}
+CPreviewDialog::CPreviewDialog(CWnd & owner) : CWorkbenchDialog(IDD_PREVIEW, L"Print Preview", owner) {}
 
 bool CPreviewDialog::Show(PagePainter painter)
 {

@@ -27,7 +27,7 @@ private:
 class CPreviewDialog : public CWorkbenchDialog
 {
 public:
-    CPreviewDialog();
+    explicit CPreviewDialog(CWnd & owner);
 
     /// Opens the preview of a page, or shows it in the open one. The painter is called for each painting.
     bool Show(PagePainter painter);

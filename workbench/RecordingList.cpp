@@ -5,7 +5,9 @@
 
 #include <algorithm>
 #include <numeric>
+#include <utility>
 
+#include "SelectionColours.h"
 #include "frame/CoreLibrary.h"
 #include "frame/RegisteredMessages.h"
 #include "logic/Texts.h"
@@ -59,6 +61,14 @@ constexpr int c_textRoom = 16;
 constexpr int c_checkWidth = 30; // of a header's check box with its room
 constexpr int c_arrowRoom = 20;  // of the arrow beside a title
 
+// To the list itself: tell the host of changes, open a line, place the tool tip that shows.
+constexpr UINT c_messageTellChanges = WM_APP + 1;
+constexpr UINT c_messageTellOpen = WM_APP + 2;
+constexpr UINT c_messagePlaceToolTip = WM_APP + 3;
+
+constexpr UINT c_lastToolId = 0xFFFF;
+constexpr int c_toolTipGap = 2; // pixels
+
 constexpr wchar_t const * c_ratings[] = {Translatable(L"Not rated"), Translatable(L"Good"), Translatable(L"Usable"),
                                          Translatable(L"Rejected")};
 
@@ -76,10 +86,17 @@ BEGIN_MESSAGE_MAP(CRecordingList, CXListCtrl)
     ON_NOTIFY_REFLECT_EX(LVN_COLUMNCLICK, &CRecordingList::OnTitleClick)
     ON_WM_MOUSEMOVE()
     ON_WM_LBUTTONUP()
+    ON_NOTIFY_EX(HDN_ENDTRACKW, 0, &CRecordingList::OnEndTrack)
+    ON_NOTIFY_EX(HDN_ENDTRACKA, 0, &CRecordingList::OnEndTrack)
+    ON_NOTIFY_EX_RANGE(TTN_SHOW, 0, c_lastToolId, &CRecordingList::OnToolTipShow)
+    ON_MESSAGE(c_messageTellChanges, &CRecordingList::OnTellChanges)
+    ON_MESSAGE(c_messageTellOpen, &CRecordingList::OnTellOpen)
+    ON_MESSAGE(c_messagePlaceToolTip, &CRecordingList::OnPlaceToolTip)
 END_MESSAGE_MAP()
 
 bool CRecordingList::CreateList(CWnd & parent, UINT id, workbench::ScreenMetrics & metrics)
 {
+    m_metrics = &metrics;
     EnableItemToolTipps();
     // More than one line can be selected: with LVS_SINGLESEL the arrow keys would not leave a selected line.
     constexpr DWORD style = WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_BORDER | LVS_REPORT | LVS_SHOWSELALWAYS;
@@ -90,9 +107,15 @@ bool CRecordingList::CreateList(CWnd & parent, UINT id, workbench::ScreenMetrics
     SetFullRowSelect();
     SetFont(&metrics.Font(), FALSE);
     SetEmptyListText(Text(L"No recordings. Open files or a folder."));
-    SetHeaderAutoCheckbox(true);
     EnableDragAndDrop();
     m_onRowsSwapped = [this](int, int) { ForgetOrder(); };
+    m_onDoubleClick = [this](int row, int column) {
+        // Cells that act on a click of their own are left to it.
+        if (column != column_check && column != column_reference && column != column_rating && column != column_comment)
+        {
+            TellOpen(LineAt(row));
+        }
+    };
     for (int i = 0; i < static_cast<int>(std::size(c_ratings)); ++i)
     {
         GlobalComboStringsInsert(i, Text(c_ratings[i]));
@@ -170,13 +193,15 @@ void CRecordingList::Require(Column column, int width)
 void CRecordingList::FitColumns()
 {
     // Changing a width can change the scroll bars and so come back here through the size message.
-    if (m_fitting || m_leastWidth == 0)
+    // While the user drags a divider, nothing else moves.
+    if (m_fitting || m_leastWidth == 0 || m_batches > 0 || ::GetCapture() == GetHeaderCtrl()->GetSafeHwnd())
     {
         return;
     }
     m_fitting = true;
     CRect client;
     GetClientRect(&client);
+    m_fittedWidth = client.Width();
     auto widths = m_needs;
     widths[column_name] = m_least[column_name];
     widths[column_status] = m_least[column_status];
@@ -185,8 +210,19 @@ void CRecordingList::FitColumns()
         auto & width = widths[static_cast<std::size_t>(m_sortedColumn)];
         width = std::max(width, WidthOf(Text(c_columns[m_sortedColumn].title)) + c_arrowRoom);
     }
+    for (auto const & [column, width] : m_userWidths)
+    {
+        if (column < column_count)
+        {
+            widths[static_cast<std::size_t>(column)] = width;
+        }
+    }
     auto rest = std::max(client.Width() - std::accumulate(widths.begin(), widths.end(), 0), 0);
     auto const give = [&](Column column, int wanted) {
+        if (m_userWidths.contains(column))
+        {
+            return;
+        }
         auto const more = std::clamp(wanted - widths[column], 0, rest);
         widths[column] += more;
         rest -= more;
@@ -217,14 +253,14 @@ int CRecordingList::ChosenLine() const
 
 void CRecordingList::ChooseLine(int line)
 {
-    auto const row = PlaceOf(line);
     for (auto other = GetSelectedItem(); other >= 0; other = GetSelectedItemAfter(other))
     {
-        if (other != row)
+        if (LineAt(other) != line)
         {
             SetItemState(other, 0, LVIS_SELECTED | LVIS_FOCUSED);
         }
     }
+    auto const row = PlaceOf(line);
     if (row >= 0)
     {
         SetCurSel(row, true);
@@ -237,6 +273,7 @@ void CRecordingList::SetChecked(int row, bool checked)
     auto const wanted = checked ? XLC_CHECKED : XLC_UNCHECKED;
     if ((state == XLC_CHECKED || state == XLC_UNCHECKED) && state != wanted)
     {
+        Touch(row);
         SetCheckbox(row, column_check, wanted);
         SetModified(row, column_check, true);
         OnItemStateChange(row, column_check, WM_XLISTCTRL_CHECKBOX_CLICKED);
@@ -245,7 +282,8 @@ void CRecordingList::SetChecked(int row, bool checked)
 
 void CRecordingList::CheckAll(bool checked)
 {
-    for (int row = 0; row < GetItemCount(); ++row)
+    Batch const batch(*this);
+    for (int row = 0; row < LineCount(); ++row)
     {
         SetChecked(row, checked);
     }
@@ -253,6 +291,7 @@ void CRecordingList::CheckAll(bool checked)
 
 void CRecordingList::ToggleSelected()
 {
+    Batch const batch(*this);
     auto const checked = !IsChecked(ChosenLine());
     for (auto row = GetSelectedItem(); row >= 0; row = GetSelectedItemAfter(row))
     {
@@ -262,9 +301,13 @@ void CRecordingList::ToggleSelected()
 
 void CRecordingList::ShowHeaderCheck()
 {
-    auto const checked = CountCheckedItems(column_check, XLC_CHECKED);
-    auto const unchecked = CountCheckedItems(column_check, XLC_UNCHECKED);
-    auto const state = checked == 0 ? XHC_UNCHECKED : unchecked == 0 ? XHC_CHECKED : XHC_MIXED;
+    if (m_batches > 0)
+    {
+        return;
+    }
+    auto const checked = m_totals.Checked();
+    auto const checkable = m_totals.Lines() - m_totals.Unreadable();
+    auto const state = checked == 0 ? XHC_UNCHECKED : checked == checkable ? XHC_CHECKED : XHC_MIXED;
     if (state != GetHeaderCheckedState(column_check))
     {
         SetHeaderCheckedState(column_check, state);
@@ -284,13 +327,224 @@ void CRecordingList::SetReference(int line)
 
 void CRecordingList::ShowReference()
 {
-    auto const reference = GetActiveRadioItem(column_reference);
-    for (int row = 0; row < GetItemCount(); ++row)
+    if (m_boldLine == m_reference)
     {
-        if (GetBold(row, column_name) != (row == reference))
+        return;
+    }
+    if (m_boldLine >= 0)
+    {
+        SetBold(PlaceOf(m_boldLine), column_name, false);
+    }
+    m_boldLine = m_reference;
+    auto const row = PlaceOf(m_boldLine);
+    if (row >= 0)
+    {
+        SetBold(row, column_name, true);
+        CClientDC dc(this);
+        workbench::SelectScope const font(dc, m_metrics->BoldFont());
+        Require(column_name, dc.GetTextExtent(GetItemText(row, column_name)).cx + c_textRoom);
+        FitColumns();
+    }
+}
+
+void CRecordingList::SetUserWidths(std::map<int, int> const & widths)
+{
+    m_userWidths = widths;
+    FitColumns();
+}
+
+CRecordingList::Batch::Batch(CRecordingList & list) : m_list(list)
+{
+    if (m_list.m_batches++ > 0)
+    {
+        return;
+    }
+    m_list.m_wasClean = m_list.GetUpdateRect(nullptr) == FALSE;
+    m_list.m_touched = false;
+    m_list.SetRedraw(FALSE);
+    m_list.SetBatchInsertMode(true);
+}
+
+CRecordingList::Batch::~Batch()
+{
+    if (--m_list.m_batches > 0)
+    {
+        return;
+    }
+    m_list.SetBatchInsertMode(false);
+    m_list.SetRedraw(TRUE);
+    // Both have everything painted again, which is too much where only lines out of sight have changed.
+    if (m_list.m_wasClean && !m_list.m_touched)
+    {
+        m_list.ValidateRect(nullptr);
+    }
+    m_list.ShowHeaderCheck();
+    m_list.FitColumns();
+}
+
+/// Notes that a batch changes a row.
+void CRecordingList::Touch(int row)
+{
+    if (m_batches > 0 && !m_touched)
+    {
+        auto const top = GetTopIndex();
+        m_touched = row >= top && row <= top + GetCountPerPage();
+    }
+}
+
+/// Takes the change into what is known of the lines. Parents hear of it by m_onChanged and not for each cell.
+void CRecordingList::OnItemStateChange(int row, int column, unsigned int message)
+{
+    auto const line = LineAt(row);
+    if (line < 0 || line >= LineCount())
+    {
+        return;
+    }
+    if (message == WM_XLISTCTRL_LINK_CLICKED)
+    {
+        TellOpen(line);
+        return;
+    }
+    auto & notes = m_notes[static_cast<std::size_t>(line)];
+    switch (column)
+    {
+    case column_check:
+        Touch(row);
+        m_totals.SetChecked(static_cast<std::size_t>(line), GetCheckbox(row, column_check) == XLC_CHECKED);
+        ShowHeaderCheck();
+        break;
+    case column_reference:
+        if (GetItemRadioOn(row, column_reference))
         {
-            SetBold(row, column_name, row == reference);
+            m_reference = line;
         }
+        else if (m_reference == line)
+        {
+            m_reference = -1;
+        }
+        ShowReference();
+        break;
+    case column_rating:
+        notes.rating = std::max(GetComboCurSel(row, column_rating), 0);
+        break;
+    case column_comment:
+        notes.comment = GetItemText(row, column_comment).GetString();
+        break;
+    default:
+        break;
+    }
+    Tell(changed_marks);
+}
+
+/// Has the host told of changes once the present messages are done, all at once.
+void CRecordingList::Tell(unsigned changes)
+{
+    if (m_changes == 0)
+    {
+        PostMessage(c_messageTellChanges);
+    }
+    m_changes |= changes;
+}
+
+LRESULT CRecordingList::OnTellChanges(WPARAM, LPARAM)
+{
+    auto const changes = std::exchange(m_changes, 0U);
+    // A copy, as what it does may replace it.
+    if (auto const onChanged = m_onChanged; onChanged && changes != 0)
+    {
+        onChanged(changes);
+    }
+    return 0;
+}
+
+void CRecordingList::TellOpen(int line)
+{
+    PostMessage(c_messageTellOpen, static_cast<WPARAM>(line), static_cast<LPARAM>(m_generation));
+}
+
+LRESULT CRecordingList::OnTellOpen(WPARAM line, LPARAM generation)
+{
+    // The line may be another file's by now.
+    if (auto const onOpen = m_onOpen; onOpen && static_cast<unsigned>(generation) == m_generation)
+    {
+        onOpen(static_cast<int>(line));
+    }
+    return 0;
+}
+
+BOOL CRecordingList::OnEndTrack(UINT, NMHDR * header, LRESULT * result)
+{
+    auto const & track = *reinterpret_cast<NMHEADERW *>(header);
+    if (track.iItem >= 0 && track.iItem < column_count && track.pitem != nullptr &&
+        (track.pitem->mask & HDI_WIDTH) != 0)
+    {
+        m_userWidths[track.iItem] = track.pitem->cxy;
+        Tell(changed_widths);
+    }
+    *result = 0;
+    return FALSE; // the list itself needs it, too
+}
+
+/// The tool tip tells the file's path, and at the status what is wrong with it. Other cells have none.
+INT_PTR CRecordingList::OnToolHitTest(CPoint point, TOOLINFO * info) const
+{
+    LVHITTESTINFO hit{};
+    hit.pt = point;
+    const_cast<CRecordingList *>(this)->SubItemHitTest(&hit);
+    return hit.iSubItem == column_name || hit.iSubItem == column_status ? CXListCtrl::OnToolHitTest(point, info) : -1;
+}
+
+/// Puts the tool tip into its own line, where it covers no other one.
+void CRecordingList::PlaceToolTip(HWND tip, UINT_PTR tool)
+{
+    auto const row = static_cast<int>((tool - 1) >> 8);
+    auto const column = static_cast<int>((tool - 1) & 0xFF);
+    CRect cell;
+    if (tool == 0 || !::IsWindow(tip) || !GetSubItemRect(row, column, LVIR_BOUNDS, cell))
+    {
+        return;
+    }
+    ClientToScreen(&cell);
+    CRect place;
+    ::GetWindowRect(tip, &place);
+    CRect work;
+    ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
+    auto const toTheRight = cell.right + c_toolTipGap + place.Width() <= work.right;
+    auto const left = toTheRight ? cell.right + c_toolTipGap : cell.left - c_toolTipGap - place.Width();
+    ::SetWindowPos(tip, nullptr, std::max(left, work.left), cell.top + (cell.Height() - place.Height()) / 2, 0, 0,
+                   SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+BOOL CRecordingList::OnToolTipShow(UINT, NMHDR * header, LRESULT * result)
+{
+    PlaceToolTip(header->hwndFrom, header->idFrom);
+    // Not every system keeps to this place and has the size by now.
+    PostMessage(c_messagePlaceToolTip, header->idFrom, reinterpret_cast<LPARAM>(header->hwndFrom));
+    *result = TRUE;
+    return TRUE;
+}
+
+LRESULT CRecordingList::OnPlaceToolTip(WPARAM tool, LPARAM tip)
+{
+    auto const window = reinterpret_cast<HWND>(tip);
+    if (::IsWindowVisible(window))
+    {
+        PlaceToolTip(window, tool);
+    }
+    return 0;
+}
+
+/// Chosen lines have colours on which the cells' marks can be told apart.
+void CRecordingList::GetDrawColors(int row, int column, COLORREF & text, COLORREF & background)
+{
+    COLORREF chosenText = CLR_INVALID;
+    COLORREF chosenBackground = CLR_INVALID;
+    CXListCtrl::GetDrawColors(row, column, chosenText, chosenBackground);
+    if (chosenBackground != CLR_INVALID)
+    {
+        auto const colours = workbench::LightRowColours(chosenBackground);
+        text = colours.text;
+        background = colours.background;
     }
 }
 
@@ -304,7 +558,11 @@ CPoint CRecordingList::CellCentre(int line, Column column)
 void CRecordingList::OnSize(UINT type, int width, int height)
 {
     CXListCtrl::OnSize(type, width, height);
-    FitColumns();
+    // The height alone, as the horizontal scroll bar takes of it, changes no column.
+    if (width != m_fittedWidth)
+    {
+        FitColumns();
+    }
 }
 
 void CRecordingList::OnSetFocus(CWnd * other)
@@ -325,6 +583,10 @@ BOOL CRecordingList::OnItemChanged(NMHDR * header, LRESULT * result)
     if ((change.uChanged & LVIF_STATE) != 0)
     {
         UpdateSubItem(change.iItem, column_check);
+        if (((change.uOldState ^ change.uNewState) & LVIS_SELECTED) != 0)
+        {
+            Tell(changed_selection);
+        }
     }
     *result = 0;
     return FALSE; // the parent hears of it, too
@@ -388,6 +650,9 @@ void CRecordingList::OnContextMenu(CWnd * window, CPoint point)
         int column = 0;
         row = GetPointItem(client, column);
     }
+    // While the menu shows, lines can move and go.
+    m_menuLine = LineAt(row);
+    m_menuGeneration = m_generation;
     auto const readable = GetItemCheckedState(row, column_reference) != XLC_NONE;
     PopUpMenu().EnableMenuItem(ID_SET_REFERENCE, MF_BYCOMMAND | (readable ? MF_ENABLED : MF_GRAYED));
     CXListCtrl::OnContextMenu(window, point);

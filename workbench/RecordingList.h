@@ -5,6 +5,8 @@
 
 #include <array>
 #include <filesystem>
+#include <functional>
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -12,6 +14,7 @@
 #include "ScreenMetrics.h"
 #include "list/XListCtrl.h"
 #include "logic/RecordingAnalysis.h"
+#include "logic/RecordingTotals.h"
 #include "logic/TableText.h"
 
 class CRecordingOverview;
@@ -21,7 +24,8 @@ class CRecordingOverview;
 ///
 /// The user can sort the lines by a click on a column's title, and swap two by dragging. A line is known by its number,
 /// which is its file's place in what ShowFiles was given and stays whatever row the line moves to. What the base class
-/// offers and what it posts to the parent go by rows.
+/// offers and what it posts to the parent go by rows; the host is told by m_onChanged and m_onOpen instead, once the
+/// list is at rest.
 class CRecordingList : public CXListCtrl
 {
 public:
@@ -50,7 +54,38 @@ public:
         bool reference = false;
         int rating = 0; ///< a place in the list of ratings
         std::wstring comment;
+
+        bool operator==(Notes const &) const = default;
     };
+
+    /// What has changed, bits.
+    enum Change : unsigned
+    {
+        changed_selection = 1,
+        changed_marks = 2, ///< check boxes or the reference
+        changed_widths = 4 ///< the user has set a column's width
+    };
+
+    /// While one exists, lines change without being painted. At the end of the outermost one what they need together is
+    /// done once: columns, the header's check box, painting. Without messages handled in between.
+    class Batch
+    {
+    public:
+        explicit Batch(CRecordingList & list);
+        Batch(Batch const &) = delete;
+        Batch & operator=(Batch const &) = delete;
+        ~Batch();
+
+    private:
+        CRecordingList & m_list;
+    };
+
+    /// Called with Change bits when something has changed by the user or the program, once for all that happened
+    /// before.
+    std::function<void(unsigned changes)> m_onChanged;
+
+    /// Called when the user wants to see a line's recording in detail.
+    std::function<void(int line)> m_onOpen;
 
     /// Creates the list with its columns and its context menu, whose commands are those of the workbench. The font is
     /// the metrics' and must outlive the window.
@@ -59,8 +94,19 @@ public:
     /// The width in pixels at which all columns are seen, the flexible ones at their least.
     int LeastWidth() const { return m_leastWidth; }
 
-    /// Replaces all lines by one for each file, which says that it is being read. There are as many notes as files.
+    /// Replaces all lines by one for each file, which is not read yet. There are as many notes as files.
     void ShowFiles(std::vector<std::filesystem::path> const & files, std::vector<Notes> const & notes);
+
+    /// Takes all lines away.
+    void RemoveLines();
+
+    /// Adds a line for a file that is not read yet, behind all others.
+    void AppendFile(std::filesystem::path const & file, Notes const & notes);
+
+    int LineCount() const { return static_cast<int>(m_notes.size()); }
+
+    /// Counts and sums over the lines.
+    workbench::RecordingTotals const & Totals() const { return m_totals; }
 
     /// Fills a line; a file that could not be read gets a disabled one. A line that does not exist is ignored.
     void ShowAnalysis(int line, std::shared_ptr<workbench::RecordingAnalysis const> const & analysis);
@@ -86,26 +132,37 @@ public:
     /// Selects one line alone, which gets the focus and is scrolled into view. Negative: none.
     void ChooseLine(int line);
 
-    /// What the user has said so far about a line's recording.
-    Notes NotesOf(int line);
+    /// The line for which the context menu opened; -1 if it is gone since.
+    int MenuLine() const { return m_menuGeneration == m_generation ? m_menuLine : -1; }
 
-    bool IsChecked(int line) const { return GetCheckbox(PlaceOf(line), column_check) == XLC_CHECKED; }
-    /// Checks or clears all recordings that can be read; the parent hears of each that changes.
+    /// What the user has said so far about a line's recording.
+    Notes NotesOf(int line) const;
+
+    bool IsChecked(int line) const { return line >= 0 && m_totals.IsChecked(static_cast<std::size_t>(line)); }
+    /// Checks or clears all recordings that can be read.
     void CheckAll(bool checked);
     /// Makes the header's check box show what the lines have together, those that could not be read left out.
     void ShowHeaderCheck();
 
     /// The line of the reference recording; -1 if there is none.
-    int ReferenceLine() const { return LineAt(GetActiveRadioItem(column_reference)); }
+    int ReferenceLine() const { return m_reference; }
     /// Makes a line's recording the reference. A line that could not be read is ignored.
     void SetReference(int line);
     /// Shows the reference's name in bold.
     void ShowReference();
 
+    /// The widths that the user has set, by column; these columns keep them. The others share what is left.
+    std::map<int, int> const & UserWidths() const { return m_userWidths; }
+    void SetUserWidths(std::map<int, int> const & widths);
+
     /// The middle of a cell in client pixels.
     CPoint CellCentre(int line, Column column);
 
+    void OnItemStateChange(int row, int column, unsigned int message) override;
+    INT_PTR OnToolHitTest(CPoint point, TOOLINFO * info) const override;
+
 protected:
+    void GetDrawColors(int row, int column, COLORREF & text, COLORREF & background) override;
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT * result) override;
     DECLARE_MESSAGE_MAP()
 
@@ -121,24 +178,38 @@ private:
     afx_msg void OnPaint();
     afx_msg void OnMouseMove(UINT flags, CPoint point);
     afx_msg void OnLButtonUp(UINT flags, CPoint point);
+    afx_msg BOOL OnEndTrack(UINT id, NMHDR * header, LRESULT * result);
+    afx_msg BOOL OnToolTipShow(UINT id, NMHDR * header, LRESULT * result);
+    afx_msg LRESULT OnTellChanges(WPARAM, LPARAM);
+    afx_msg LRESULT OnTellOpen(WPARAM line, LPARAM generation);
+    afx_msg LRESULT OnPlaceToolTip(WPARAM tool, LPARAM tip);
 
     void CreateColumns();
     void CreateImages();
     void CreateMenu();
+    void Tell(unsigned changes);
+    void TellOpen(int line);
+    void PlaceToolTip(HWND tip, UINT_PTR tool);
     // These go by rows.
-    void PrepareRow(int row, std::filesystem::path const & file, Notes const & notes);
+    void PrepareRow(int row, std::filesystem::path const & file, Notes const & notes, wchar_t const * status);
+    void ResetRow(int row);
+    void Touch(int row);
     void ShowProblem(int row, workbench::RecordingAnalysis const & analysis);
     void ShowValues(int row, std::shared_ptr<workbench::RecordingAnalysis const> const & analysis);
     void ShowStatus(int row, workbench::RecordingAnalysis const & analysis);
     void MarkValue(int row, Column column);
     void SortValuesLast(int row, bool last);
     void DrawOverview(int row, CDC & dc, CRect const & rect, CRecordingOverview & overview);
-    Notes NotesAt(int row);
     void SetChecked(int row, bool checked);
     void ToggleSelected();
     void ForgetOrder();
+    struct SortKey
+    {
+        bool last;
+        double value;
+    };
     static int CompareInList(long long a, long long b, long long list);
-    int CompareRows(int a, int b);
+    int CompareRows(int a, int b) const;
     double SortValue(int row);
     std::vector<int> RowsToCopy(bool all) const;
     workbench::TextTable TableOf(std::vector<int> const & rows);
@@ -148,12 +219,28 @@ private:
     void FitColumns();
 
     CImageList m_images;
+    workbench::ScreenMetrics * m_metrics = nullptr;
     int m_leastWidth = 0;
     std::array<int, column_count> m_least{}; ///< the width that a column never goes below
     std::array<int, column_count> m_needs{}; ///< the width that shows its longest text
+    std::map<int, int> m_userWidths;
     bool m_fitting = false;
+    int m_fittedWidth = -1;            ///< of the client area, for which the columns have their widths
+    int m_batches = 0;                 ///< that exist
+    bool m_wasClean = false;           ///< nothing was waiting to be painted when the outermost batch began
+    bool m_touched = false;            ///< the batch has changed what can be seen
     mutable std::vector<int> m_places; ///< of each line, the row where it was seen last
     int m_sortedColumn = -1;
     bool m_ascending = true;
+    std::vector<SortKey> m_sortKeys; ///< of the rows, while they are sorted in an order of the list's own
     bool m_draggingRow = false;
+
+    std::vector<Notes> m_notes; ///< of each line; who is checked and the reference are kept below
+    workbench::RecordingTotals m_totals;
+    int m_reference = -1;
+    int m_boldLine = -1;
+    unsigned m_generation = 0; ///< changes whenever all lines are taken away
+    unsigned m_changes = 0;    ///< to be told
+    int m_menuLine = -1;
+    unsigned m_menuGeneration = 0;
 };

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "RecordingOverview.h"
+#include "SelectionColours.h"
 #include "frame/CoreLibrary.h"
 #include "logic/RecordingDetails.h"
 #include "logic/TextFormat.h"
@@ -14,6 +15,7 @@ namespace
 {
 
 constexpr auto c_readingText = workbench::Translatable(L"reading...");
+constexpr auto c_unreadText = workbench::Translatable(L"not read yet");
 
 // Places in the image list.
 constexpr int c_imageOk = 0;
@@ -40,24 +42,50 @@ std::wstring AtRightEdge(std::wstring text)
 
 void CRecordingList::ShowFiles(std::vector<std::filesystem::path> const & files, std::vector<Notes> const & notes)
 {
-    SetRedraw(FALSE);
-    SetBatchInsertMode(true);
-    DeleteAllItems();
-    m_needs = m_least;
-    ForgetOrder();
+    Batch const batch(*this);
+    RemoveLines();
     for (std::size_t i = 0; i < files.size(); ++i)
     {
-        auto const row = AddItem(L"", nullptr, static_cast<long long>(i));
-        if (row >= 0)
-        {
-            PrepareRow(row, files[i], notes[i]);
-        }
+        AppendFile(files[i], notes[i]);
     }
-    ShowHeaderCheck();
-    ShowReference();
-    SetRedraw(TRUE);
-    SetBatchInsertMode(false);
-    FitColumns();
+}
+
+void CRecordingList::RemoveLines()
+{
+    CancelToolTips();
+    Batch const batch(*this);
+    m_touched = true;
+    ++m_generation;
+    m_notes.clear();
+    m_places.clear();
+    m_totals.Clear();
+    m_reference = -1;
+    m_boldLine = -1;
+    m_needs = m_least;
+    DeleteAllItems();
+    ForgetOrder();
+    Tell(changed_selection | changed_marks);
+}
+
+void CRecordingList::AppendFile(std::filesystem::path const & file, Notes const & notes)
+{
+    Batch const batch(*this);
+    auto const line = LineCount();
+    auto const row = AddItem(L"", nullptr, line);
+    if (row < 0)
+    {
+        return;
+    }
+    Touch(row);
+    m_notes.push_back(notes);
+    m_places.push_back(row);
+    m_totals.Append(notes.checked);
+    PrepareRow(row, file, notes, workbench::Text(c_unreadText));
+    if (notes.reference)
+    {
+        m_reference = line;
+        ShowReference();
+    }
 }
 
 void CRecordingList::ShowReading(int line, std::filesystem::path const & file)
@@ -65,36 +93,48 @@ void CRecordingList::ShowReading(int line, std::filesystem::path const & file)
     auto const row = PlaceOf(line);
     if (row >= 0)
     {
-        PrepareRow(row, file, NotesAt(row));
-        ShowReference();
+        Batch const batch(*this);
+        Touch(row);
+        auto const notes = NotesOf(line);
+        m_totals.SetState(static_cast<std::size_t>(line), workbench::RecordingTotals::State::Unread, 0);
+        ResetRow(row);
+        PrepareRow(row, file, notes, workbench::Text(c_readingText));
+        SetBold(row, column_name, line == m_boldLine);
+        Tell(changed_marks);
     }
 }
 
-/// Makes the cells what they are for a recording that can be read, without its values.
-void CRecordingList::PrepareRow(int row, std::filesystem::path const & file, Notes const & notes)
+/// Takes the values of an earlier reading away.
+void CRecordingList::ResetRow(int row)
 {
-    auto const name = file.filename().wstring();
     SetEnabled(row, true);
     RemoveCustomDraw(row, column_overview);
     DeleteProgress(row, column_peak);
-    SetRowColors(row, ::GetSysColor(COLOR_WINDOWTEXT), ::GetSysColor(COLOR_WINDOW));
     for (int column = column_overview; column < column_rating; ++column)
     {
         SetItemText(row, column, L"");
         SetItemColors(row, column, ::GetSysColor(COLOR_WINDOWTEXT), ::GetSysColor(COLOR_WINDOW),
                       XLISTCTRLDATA::no_gradient);
     }
+    SetItemImage(row, column_status, -1);
+}
 
+/// Makes the cells what they are for a recording that can be read, without its values.
+void CRecordingList::PrepareRow(int row, std::filesystem::path const & file, Notes const & notes,
+                                wchar_t const * status)
+{
+    auto const name = file.filename().wstring();
+    SetRowColors(row, ::GetSysColor(COLOR_WINDOWTEXT), ::GetSysColor(COLOR_WINDOW));
     SetCheckbox(row, column_check, notes.checked ? XLC_CHECKED : XLC_UNCHECKED);
     SetItemText(row, column_name, name.c_str());
-    SetHyperlink(row, column_name, true, true);
+    SetHyperlink(row, column_name, true, false);
+    SetItemColors(row, column_name, workbench::LinkColour(), ::GetSysColor(COLOR_WINDOW), XLISTCTRLDATA::no_gradient);
     SetItemToolTipText(row, column_name, file.c_str());
     SetRadioButton(row, column_reference, notes.reference ? XLC_RADIO_ON : XLC_RADIO_OFF);
     SetComboBoxGlobalStrings(row, column_rating, notes.rating, 0);
     SetItemText(row, column_comment, notes.comment.c_str());
     SetEdit(row, column_comment, true);
-    SetItemText(row, column_status, workbench::Text(c_readingText));
-    SetItemImage(row, column_status, -1);
+    SetItemText(row, column_status, status);
     SortValuesLast(row, true);
     Require(column_name, WidthOf(name));
 }
@@ -106,6 +146,8 @@ void CRecordingList::ShowAnalysis(int line, std::shared_ptr<workbench::Recording
     {
         return;
     }
+    Batch const batch(*this);
+    Touch(row);
     if (analysis->file.lastWrite)
     {
         CTime const time(*analysis->file.lastWrite);
@@ -124,7 +166,15 @@ void CRecordingList::ShowAnalysis(int line, std::shared_ptr<workbench::Recording
     {
         ShowValues(row, analysis);
     }
-    FitColumns();
+    using State = workbench::RecordingTotals::State;
+    m_totals.SetState(static_cast<std::size_t>(line), analysis->problem ? State::Unreadable : State::Readable,
+                      workbench::DurationMilliseconds(analysis->info.frames, analysis->info.sampleRate));
+    if (analysis->problem && m_reference == line)
+    {
+        m_reference = -1;
+        ShowReference();
+    }
+    Tell(changed_marks);
 }
 
 void CRecordingList::ShowStatus(int row, workbench::RecordingAnalysis const & analysis)
@@ -144,8 +194,10 @@ void CRecordingList::ShowValues(int row, std::shared_ptr<workbench::RecordingAna
     SetItemFloatVal(row, column_duration, static_cast<float>(milliseconds) / 1000.0F, duration.c_str());
     Require(column_duration, WidthOf(duration));
     SetItemText(row, column_channels, static_cast<int>(info.channels));
-    SetItemText(row, column_rate, static_cast<int>(info.sampleRate));
-    Require(column_rate, WidthOf(std::to_wstring(info.sampleRate)));
+    // Beyond the largest int, too; a number that size is sorted by well enough as a float.
+    auto const rate = std::to_wstring(info.sampleRate);
+    SetItemFloatVal(row, column_rate, static_cast<float>(info.sampleRate), rate.c_str());
+    Require(column_rate, WidthOf(rate));
 
     // The bar's text is made with a whole number; to show tenths, the finished text is its format.
     auto const peak = workbench::FormatLevel(analysis->levels.peak);
@@ -185,7 +237,7 @@ void CRecordingList::MarkValue(int row, Column column)
 void CRecordingList::ShowProblem(int row, workbench::RecordingAnalysis const & analysis)
 {
     SetCheckbox(row, column_check, XLC_NONE);
-    SetHyperlink(row, column_name, false, true);
+    SetHyperlink(row, column_name, false, false);
     SetBold(row, column_name, false);
     SetItemProperty(row, column_name, XLP_UNDERLINE, false);
     SetRadioButton(row, column_reference, XLC_NONE);
@@ -195,33 +247,24 @@ void CRecordingList::ShowProblem(int row, workbench::RecordingAnalysis const & a
     SetEnabled(row, false);
     auto const tip = GetItemToolTipText(row, column_name) + L": " + analysis.StatusText().c_str();
     SetItemToolTipText(row, column_name, tip);
-    ShowHeaderCheck();
 }
 
 void CRecordingList::DrawOverview(int row, CDC & dc, CRect const & rect, CRecordingOverview & overview)
 {
+    auto text = ::GetSysColor(COLOR_WINDOWTEXT);
     auto background = ::GetSysColor(COLOR_WINDOW);
-    auto wave = c_barColour;
-    if (GetItemState(row, LVIS_SELECTED) != 0)
+    GetDrawColors(row, column_overview, text, background);
+    overview.Draw(dc, rect, c_barColour, background);
+}
+
+CRecordingList::Notes CRecordingList::NotesOf(int line) const
+{
+    if (line < 0 || line >= LineCount())
     {
-        auto const focused = GetFocus() == this;
-        background = ::GetSysColor(focused ? COLOR_HIGHLIGHT : COLOR_BTNFACE);
-        wave = focused ? ::GetSysColor(COLOR_HIGHLIGHTTEXT) : wave;
+        return {};
     }
-    overview.Draw(dc, rect, wave, background);
-}
-
-CRecordingList::Notes CRecordingList::NotesOf(int line)
-{
-    return NotesAt(PlaceOf(line));
-}
-
-CRecordingList::Notes CRecordingList::NotesAt(int row)
-{
-    Notes notes;
-    notes.checked = GetCheckbox(row, column_check) == XLC_CHECKED;
-    notes.reference = GetItemRadioOn(row, column_reference);
-    notes.rating = std::max(GetComboCurSel(row, column_rating), 0);
-    notes.comment = GetItemText(row, column_comment).GetString();
+    auto notes = m_notes[static_cast<std::size_t>(line)];
+    notes.checked = m_totals.IsChecked(static_cast<std::size_t>(line));
+    notes.reference = line == m_reference;
     return notes;
 }

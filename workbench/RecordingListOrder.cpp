@@ -41,7 +41,7 @@ int CRecordingList::LineAt(int row) const
 
 int CRecordingList::PlaceOf(int line) const
 {
-    if (line < 0 || line >= GetItemCount())
+    if (line < 0 || line >= LineCount())
     {
         return -1;
     }
@@ -49,11 +49,11 @@ int CRecordingList::PlaceOf(int line) const
     if (known >= m_places.size() || LineAt(m_places[known]) != line)
     {
         // Lines have moved since.
-        m_places.assign(static_cast<std::size_t>(GetItemCount()), -1);
-        for (int row = 0; row < GetItemCount(); ++row)
+        m_places.assign(m_notes.size(), -1);
+        for (int row = 0; row < LineCount(); ++row)
         {
             auto const other = LineAt(row);
-            if (other >= 0 && other < GetItemCount())
+            if (other >= 0 && other < LineCount())
             {
                 m_places[static_cast<std::size_t>(other)] = row;
             }
@@ -79,6 +79,15 @@ void CRecordingList::SortLines(Column column, bool ascending)
     }
     m_sortedColumn = column;
     m_ascending = ascending;
+    if (HasOwnOrder(column))
+    {
+        // Asked for once a row, not once a comparison.
+        m_sortKeys.clear();
+        for (int row = 0; row < LineCount(); ++row)
+        {
+            m_sortKeys.push_back({GetItemProperty(row, column, XLP_SORT_LAST), SortValue(row)});
+        }
+    }
     SortByColumn(column, ascending, true, HasOwnOrder(column) ? &CompareInList : nullptr);
     FitColumns();
     // It goes with the marks of the other columns.
@@ -96,17 +105,20 @@ int CRecordingList::CompareInList(long long a, long long b, long long list)
     return static_cast<CRecordingList *>(control)->CompareRows(static_cast<int>(a), static_cast<int>(b));
 }
 
-int CRecordingList::CompareRows(int a, int b)
+int CRecordingList::CompareRows(int a, int b) const
 {
-    auto const lastA = GetItemProperty(a, m_sortedColumn, XLP_SORT_LAST);
-    auto const lastB = GetItemProperty(b, m_sortedColumn, XLP_SORT_LAST);
-    if (lastA || lastB)
+    auto const rows = static_cast<int>(m_sortKeys.size());
+    if (a < 0 || a >= rows || b < 0 || b >= rows)
     {
-        return static_cast<int>(lastA) - static_cast<int>(lastB);
+        return 0;
     }
-    auto const valueA = SortValue(a);
-    auto const valueB = SortValue(b);
-    auto const order = static_cast<int>(valueA > valueB) - static_cast<int>(valueA < valueB);
+    auto const & keyA = m_sortKeys[static_cast<std::size_t>(a)];
+    auto const & keyB = m_sortKeys[static_cast<std::size_t>(b)];
+    if (keyA.last || keyB.last)
+    {
+        return static_cast<int>(keyA.last) - static_cast<int>(keyB.last);
+    }
+    auto const order = static_cast<int>(keyA.value > keyB.value) - static_cast<int>(keyA.value < keyB.value);
     return m_ascending ? order : -order;
 }
 
@@ -147,7 +159,16 @@ BOOL CRecordingList::OnTitleClick(NMHDR * header, LRESULT * result)
     {
         SortLines(static_cast<Column>(column), column != m_sortedColumn || !m_ascending);
     }
-    return OnColumnClick(header, result);
+    if (column != column_check)
+    {
+        return OnColumnClick(header, result);
+    }
+    // The header drives its cells here alone; to follow each of them it would count them all each time.
+    Batch const batch(*this);
+    SetHeaderAutoCheckbox(true);
+    auto const handled = OnColumnClick(header, result);
+    SetHeaderAutoCheckbox(false);
+    return handled;
 }
 
 BOOL CRecordingList::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT * result)

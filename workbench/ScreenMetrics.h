@@ -22,6 +22,9 @@ public:
     int X(int dialogUnits) const { return ::MulDiv(dialogUnits, m_averageWidth, 4); }
     int Y(int dialogUnits) const { return ::MulDiv(dialogUnits, m_height, 8); }
 
+    /// The average width of a letter.
+    int AverageWidth() const { return m_averageWidth; }
+
     /// The height of a line of text.
     int LineHeight() const { return m_height; }
 

@@ -2,6 +2,7 @@
 
 #include <afxwin.h>
 
+#include <sstream>
 #include <string>
 
 #include "logic/Texts.h"
@@ -19,6 +20,7 @@ constexpr wchar_t c_inactiveOpacity[] = L"InactiveOpacity";
 constexpr wchar_t c_spectrogramScale[] = L"SpectrogramScale";
 constexpr wchar_t c_startFolders[] = L"StartFolders";
 constexpr wchar_t c_language[] = L"Language";
+constexpr wchar_t c_columnWidths[] = L"ColumnWidths"; // the average width of a letter, then column:width
 constexpr wchar_t c_separator = L'|'; // no name of a folder has it
 
 std::vector<std::filesystem::path> Split(std::wstring const & text)
@@ -73,6 +75,38 @@ bool StoreSettings(Settings const & settings)
            app.WriteProfileInt(c_section, c_inactiveOpacity, settings.inactiveOpacity) &&
            app.WriteProfileInt(c_section, c_spectrogramScale, static_cast<int>(settings.spectrogramScale)) &&
            app.WriteProfileString(c_section, c_startFolders, folders.c_str());
+}
+
+std::map<int, int> ReadColumnWidths(int averageWidth)
+{
+    constexpr int greatest = 10'000; // pixels
+    std::map<int, int> widths;
+    std::wistringstream stream(AfxGetApp()->GetProfileString(c_section, c_columnWidths).GetString());
+    auto storedFor = 0;
+    if (!(stream >> storedFor) || storedFor <= 0)
+    {
+        return widths;
+    }
+    auto column = 0;
+    auto width = 0;
+    for (wchar_t colon = 0; stream >> column >> colon >> width && colon == L':';)
+    {
+        if (column >= 0 && width >= 0 && width <= greatest)
+        {
+            widths[column] = ::MulDiv(width, averageWidth, storedFor);
+        }
+    }
+    return widths;
+}
+
+bool StoreColumnWidths(std::map<int, int> const & widths, int averageWidth)
+{
+    auto text = std::to_wstring(averageWidth);
+    for (auto const & [column, width] : widths)
+    {
+        text += L' ' + std::to_wstring(column) + L':' + std::to_wstring(width);
+    }
+    return AfxGetApp()->WriteProfileString(c_section, c_columnWidths, text.c_str()) != FALSE;
 }
 
 unsigned short ReadLanguage()

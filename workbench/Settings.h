@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <map>
 #include <vector>
 
 namespace workbench
@@ -28,6 +29,13 @@ Settings ReadSettings();
 
 /// Stores the settings. False if that failed.
 bool StoreSettings(Settings const & settings);
+
+/// The column widths that the user has set, by column, in pixels. Those of a font with another average width of its
+/// letters come back scaled.
+std::map<int, int> ReadColumnWidths(int averageWidth);
+
+/// Stores the column widths. False if that failed.
+bool StoreColumnWidths(std::map<int, int> const & widths, int averageWidth);
 
 /// The number that stands for the language of the user's system.
 constexpr unsigned short c_usersDefaultLanguage = 1024;

@@ -23,7 +23,7 @@ BEGIN_MESSAGE_MAP(CSettingsDialog, CWorkbenchDialog)
     ON_LBN_SELCHANGE(IDC_START_FOLDERS, &CSettingsDialog::OnFolderChosen)
 END_MESSAGE_MAP()
 
-CSettingsDialog::CSettingsDialog() : CWorkbenchDialog(IDD_SETTINGS, L"Settings") {}
+CSettingsDialog::CSettingsDialog(CWnd & owner) : CWorkbenchDialog(IDD_SETTINGS, L"Settings", owner) {}
 
 bool CSettingsDialog::OpenWith(Settings const & settings)
 {

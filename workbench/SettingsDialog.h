@@ -8,7 +8,7 @@
 class CSettingsDialog : public CWorkbenchDialog
 {
 public:
-    CSettingsDialog();
+    explicit CSettingsDialog(CWnd & owner);
 
     /// Opens the dialog with these settings; if it is open, it is brought to the front and keeps what it shows.
     bool OpenWith(workbench::Settings const & settings);

@@ -67,7 +67,7 @@ CWalk::CWalk(CMainWindow & window, std::filesystem::path folder) : m_window(wind
 
 bool CWalk::WaitForRecordings()
 {
-    return PumpUntil([this] { return m_window.UnreadCount() == 0 && !m_window.IsComputing(); }, c_readLimit);
+    return PumpUntil([this] { return !m_window.IsBusy() && !m_window.IsComputing(); }, c_readLimit);
 }
 
 bool CWalk::Resize(int left, int top, int width, int height)

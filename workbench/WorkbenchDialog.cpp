@@ -4,9 +4,16 @@ BEGIN_MESSAGE_MAP(CWorkbenchDialog, CDialog3d)
     ON_WM_DESTROY()
 END_MESSAGE_MAP()
 
-CWorkbenchDialog::CWorkbenchDialog(UINT templateId, wchar_t const * name) : CDialog3d(NO_DLL, templateId, nullptr)
+CWorkbenchDialog::CWorkbenchDialog(UINT templateId, wchar_t const * name, CWnd & owner)
+    : CDialog3d(NO_DLL, templateId, &owner), m_template(templateId), m_owner(owner)
 {
     SetGenuineTitle(name);
+}
+
+/// Opens with its owner, which the base class gives to modal dialogs alone.
+int CWorkbenchDialog::DisplayDialog()
+{
+    return IsOpen() ? 1 : Create(m_template, &m_owner);
 }
 
 bool CWorkbenchDialog::Open(CString const & title)

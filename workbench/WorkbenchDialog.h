@@ -9,8 +9,10 @@
 class CWorkbenchDialog : public CDialog3d
 {
 public:
-    /// name: under which the dialog's place is stored.
-    CWorkbenchDialog(UINT templateId, wchar_t const * name);
+    /// The dialog stays above its owner. name: under which the dialog's place is stored.
+    CWorkbenchDialog(UINT templateId, wchar_t const * name, CWnd & owner);
+
+    int DisplayDialog() override;
 
     /// Opens the dialog with that title, or brings it to the front. False without its template.
     bool Open(CString const & title);
@@ -30,5 +32,7 @@ protected:
 private:
     afx_msg void OnDestroy();
 
+    UINT m_template;
+    CWnd & m_owner;
     unsigned char m_alphaWhileInactive = 255;
 };

@@ -20,6 +20,9 @@
 #define IDC_SPECTROGRAM 1005
 #define IDC_SCALE 1006
 #define IDC_CLOCK 1007
+#define IDC_STATUS_TEXT 1008
+#define IDC_READING_PROGRESS 1009
+#define IDC_CANCEL_READING 1010
 
 // The settings.
 #define IDC_START_GROUP 1101
@@ -59,6 +62,7 @@
 #define ID_COPY_SPECTROGRAM 40016
 #define ID_EXPORT_SETTINGS 40017
 #define ID_IMPORT_SETTINGS 40018
+#define ID_FIT_COLUMNS 40019
 
 // The items of open dialogs in the window menu.
 #define ID_DIALOG_FIRST 41000

@@ -4,6 +4,7 @@
 #include "logic/CommandLine.h"
 #include "logic/RecordingAnalysis.h"
 #include "logic/RecordingFiles.h"
+#include "logic/RecordingSearch.h"
 #include "workbench_WavBuilder.h"
 
 #include <gtest/gtest.h>
@@ -164,6 +165,12 @@ public:
         return m_changed.wait_for(lock, std::chrono::minutes(2), [&] { return m_count >= count; });
     }
 
+    int Count()
+    {
+        std::scoped_lock const lock(m_mutex);
+        return m_count;
+    }
+
 private:
     std::mutex m_mutex;
     std::condition_variable m_changed;
@@ -171,12 +178,16 @@ private:
 };
 
 /// The next results, whatever was notified of before; none after the time limit.
-std::vector<AnalysisQueue::Finished> WaitForResults(AnalysisQueue & queue, Notifications & notifications)
+std::vector<AnalysisQueue::Finished> WaitForResults(AnalysisQueue & queue, Notifications & notifications,
+                                                    std::size_t count = 1)
 {
     std::vector<AnalysisQueue::Finished> finished;
-    for (int notified = 1; finished.empty() && notifications.WaitFor(notified); ++notified)
+    for (int notified = 1; finished.size() < count && notifications.WaitFor(notified); ++notified)
     {
-        finished = queue.TakeFinished();
+        for (auto & one : queue.TakeFinished())
+        {
+            finished.push_back(std::move(one));
+        }
     }
     return finished;
 }
@@ -190,8 +201,7 @@ TEST(AnalysisQueue, GivesEveryRecordingInOrderWithItsId)
     queue.Add(7, good);
     queue.Add(3, folder.Path() / "missing.wav");
     queue.Add(9, good);
-    ASSERT_TRUE(notifications.WaitFor(3));
-    auto const finished = queue.TakeFinished();
+    auto const finished = WaitForResults(queue, notifications, 3);
     ASSERT_EQ(finished.size(), 3u);
     EXPECT_EQ(finished[0].id, 7u);
     EXPECT_EQ(finished[0].analysis->info.frames, 1000u);
@@ -199,6 +209,27 @@ TEST(AnalysisQueue, GivesEveryRecordingInOrderWithItsId)
     EXPECT_EQ(finished[1].analysis->StatusText(), L"cannot be opened");
     EXPECT_EQ(finished[2].id, 9u);
     EXPECT_TRUE(queue.TakeFinished().empty());
+}
+
+TEST(AnalysisQueue, TellsOnceOfResultsThatNobodyHasTaken)
+{
+    TemporaryFolder const folder;
+    auto const good = folder.Write("good.wav", Stereo(10).Content());
+    Notifications notifications;
+    AnalysisQueue queue([&] { notifications(); });
+    for (auto const round : {1, 2})
+    {
+        for (unsigned id = 0; id < 20; ++id)
+        {
+            queue.Add(id, good);
+        }
+        while (!queue.IsIdle())
+        {
+            std::this_thread::yield();
+        }
+        EXPECT_EQ(notifications.Count(), round);
+        EXPECT_EQ(queue.TakeFinished().size(), 20U);
+    }
 }
 
 TEST(AnalysisQueue, ForgetsEverythingWhenCleared)
@@ -264,7 +295,7 @@ TEST(RecordingFiles, ReplaceAFolderByItsWavFilesInOrder)
     folder.Write("wav");
     folder.Write("below/d.wav");
     fs::create_directories(folder.Path() / "folder.wav");
-    EXPECT_EQ(FindRecordings(std::vector{folder.Path()}),
+    EXPECT_EQ(FindRecordings(std::vector{folder.Path()}).files,
               (std::vector{folder.Path() / "A.WAV", folder.Path() / "b.wav", folder.Path() / "c.Wave"}));
 }
 
@@ -274,21 +305,72 @@ TEST(RecordingFiles, KeepSingleFilesWhateverTheyAre)
     auto const text = folder.Write("notes.txt");
     auto const wave = folder.Write("b.wav");
     auto const missing = folder.Path() / "missing.wav";
-    EXPECT_EQ(FindRecordings(std::vector{text, missing, wave}), (std::vector{text, missing, wave}));
+    EXPECT_EQ(FindRecordings(std::vector{text, missing, wave}).files, (std::vector{text, missing, wave}));
 }
 
 TEST(RecordingFiles, ComeOnce)
 {
     TemporaryFolder const folder;
     auto const wave = folder.Write("b.wav");
-    EXPECT_EQ(FindRecordings(std::vector{wave, folder.Path(), wave}), std::vector{wave});
+    EXPECT_EQ(FindRecordings(std::vector{wave, folder.Path(), wave}).files, std::vector{wave});
+}
+
+TEST(RecordingFiles, TellWhichFoldersAreMissing)
+{
+    TemporaryFolder const folder;
+    auto const wave = folder.Write("b.wav");
+    auto const gone = folder.Path() / "gone";
+    auto const goneFile = folder.Path() / "gone.wav";
+    auto const found = FindRecordings(std::vector{gone, folder.Path(), goneFile});
+    EXPECT_EQ(found.files, (std::vector{wave, goneFile}));
+    EXPECT_EQ(found.missing, std::vector{gone});
+}
+
+TEST(RecordingFiles, AreGivenUpWhenAskedTo)
+{
+    TemporaryFolder const folder;
+    for (int i = 0; i < 20; ++i)
+    {
+        folder.Write("file" + std::to_string(i) + ".wav");
+    }
+    auto asked = 0;
+    EXPECT_TRUE(FindRecordings(std::vector{folder.Path()}, [&] { return ++asked > 3; }).files.empty());
+    EXPECT_LT(asked, 10);
+}
+
+TEST(RecordingSearch, GivesOnceWhatItFound)
+{
+    TemporaryFolder const folder;
+    auto const wave = folder.Write("b.wav");
+    auto const gone = folder.Path() / "gone";
+    Notifications notifications;
+    RecordingSearch search({folder.Path(), gone}, [&] { notifications(); });
+    ASSERT_TRUE(notifications.WaitFor(1));
+    auto const found = search.Take();
+    ASSERT_TRUE(found);
+    EXPECT_EQ(found->files, std::vector{wave});
+    EXPECT_EQ(found->missing, std::vector{gone});
+    EXPECT_FALSE(search.Take());
+}
+
+TEST(RecordingSearch, EndsWhenGivenUp)
+{
+    TemporaryFolder const folder;
+    for (int i = 0; i < 200; ++i)
+    {
+        folder.Write("file" + std::to_string(i) + ".wav");
+    }
+    for (int round = 0; round < 20; ++round)
+    {
+        RecordingSearch const search({folder.Path()}, [] {});
+    }
 }
 
 TEST(RecordingFiles, AreNoneForNothing)
 {
     TemporaryFolder const folder;
-    EXPECT_TRUE(FindRecordings({}).empty());
-    EXPECT_TRUE(FindRecordings(std::vector{folder.Path()}).empty());
+    EXPECT_TRUE(FindRecordings({}).files.empty());
+    EXPECT_TRUE(FindRecordings(std::vector{folder.Path()}).files.empty());
 }
 
 CommandLine Parse(std::vector<std::wstring> const & arguments)

@@ -327,7 +327,8 @@ protected:
 
     // Painting. cells is the row's first cell; nothing is drawn into an empty rectangle or without cells or context.
     void GetColors();
-    void GetDrawColors(int row, int col, COLORREF & text, COLORREF & background);
+    /// Turns a cell's colours into those that it is drawn with. A derived class may choose others for selected rows.
+    virtual void GetDrawColors(int row, int col, COLORREF & text, COLORREF & background);
     /// The width used.
     int DrawImage(int row, int col, CDC * dc, COLORREF text, COLORREF background, CRect rect, XLISTCTRLDATA * cells);
     void DrawTextW(int row, int col, CDC * dc, COLORREF text, COLORREF background, CRect & rect,

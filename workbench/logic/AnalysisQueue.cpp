@@ -41,6 +41,12 @@ std::vector<AnalysisQueue::Finished> AnalysisQueue::TakeFinished()
     return std::exchange(m_finished, {});
 }
 
+bool AnalysisQueue::IsIdle()
+{
+    std::scoped_lock const lock(m_mutex);
+    return m_jobs.empty() && !m_reading;
+}
+
 void AnalysisQueue::Run()
 {
     std::unique_lock lock(m_mutex);
@@ -53,6 +59,7 @@ void AnalysisQueue::Run()
         }
         auto const job = std::move(m_jobs.front());
         m_jobs.pop_front();
+        m_reading = true;
         auto const generation = m_generation.load();
         lock.unlock();
 
@@ -74,11 +81,16 @@ void AnalysisQueue::Run()
         lock.lock();
         if (!m_stop && m_generation == generation)
         {
+            auto const first = m_finished.empty();
             m_finished.push_back({job.id, std::move(result)});
-            lock.unlock();
-            m_notify();
-            lock.lock();
+            if (first)
+            {
+                lock.unlock();
+                m_notify();
+                lock.lock();
+            }
         }
+        m_reading = false;
     }
 }
 

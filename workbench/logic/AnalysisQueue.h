@@ -27,7 +27,8 @@ public:
         std::shared_ptr<RecordingAnalysis const> analysis;
     };
 
-    /// Starts the thread. `notify` is called after each recording that becomes ready and must not call the queue.
+    /// Starts the thread. `notify` is called when a recording becomes ready while none waits to be taken, and must not
+    /// call the queue.
     explicit AnalysisQueue(std::function<void()> notify);
 
     /// Gives up what is not read yet and waits for the thread's end.
@@ -45,6 +46,9 @@ public:
     /// What has become ready since the last call, in the order in which it was added.
     std::vector<Finished> TakeFinished();
 
+    /// Whether everything that was added is ready, or given up.
+    bool IsIdle();
+
 private:
     struct Job
     {
@@ -59,6 +63,7 @@ private:
     std::condition_variable m_wake;
     std::deque<Job> m_jobs;
     std::vector<Finished> m_finished;
+    bool m_reading = false;
     std::atomic<unsigned> m_generation = 0;
     std::atomic<bool> m_stop = false;
     std::thread m_thread;

@@ -72,7 +72,15 @@ double DecimalStepOfAtLeast(double least)
 std::wstring FrequencyLabel(double hertz)
 {
     wchar_t text[64];
-    if (hertz >= 1000.0)
+    if (hertz >= 1e9)
+    {
+        std::swprintf(text, std::size(text), L"%.10g GHz", hertz / 1e9);
+    }
+    else if (hertz >= 1e6)
+    {
+        std::swprintf(text, std::size(text), L"%.10g MHz", hertz / 1e6);
+    }
+    else if (hertz >= 1000.0)
     {
         std::swprintf(text, std::size(text), L"%.10g kHz", hertz / 1000.0);
     }

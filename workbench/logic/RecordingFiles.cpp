@@ -1,9 +1,10 @@
 #include "logic/RecordingFiles.h"
 
 #include <algorithm>
-#include <set>
 #include <string>
 #include <system_error>
+#include <unordered_set>
+#include <utility>
 
 namespace workbench
 {
@@ -27,24 +28,37 @@ NativeText LowerCase(NativeText text)
     return text;
 }
 
-std::vector<std::filesystem::path> RecordingsInFolder(std::filesystem::path const & folder)
+/// The folder's recordings by name. False if it cannot be read.
+bool RecordingsInFolder(std::filesystem::path const & folder, std::function<bool()> const & giveUp,
+                        std::vector<std::filesystem::path> & files)
 {
-    std::vector<std::filesystem::path> files;
+    struct Named
+    {
+        NativeText key;
+        std::filesystem::path path;
+    };
+    std::vector<Named> found;
     std::error_code error;
     for (std::filesystem::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error))
     {
+        if (giveUp && giveUp())
+        {
+            return true;
+        }
         std::error_code ignored;
         if (HasRecordingExtension(entry->path()) && !entry->is_directory(ignored))
         {
-            files.push_back(entry->path());
+            found.push_back({LowerCase(entry->path().filename().native()), entry->path()});
         }
     }
-    std::ranges::sort(files, [](std::filesystem::path const & a, std::filesystem::path const & b) {
-        auto const lowerA = LowerCase(a.filename().native());
-        auto const lowerB = LowerCase(b.filename().native());
-        return lowerA != lowerB ? lowerA < lowerB : a < b;
+    std::ranges::sort(found, [](Named const & a, Named const & b) {
+        return a.key != b.key ? a.key < b.key : a.path.native() < b.path.native();
     });
-    return files;
+    for (auto & named : found)
+    {
+        files.push_back(std::move(named.path));
+    }
+    return !error || !found.empty();
 }
 
 } // namespace
@@ -55,26 +69,40 @@ bool HasRecordingExtension(std::filesystem::path const & path)
     return extension == ".wav" || extension == ".wave";
 }
 
-std::vector<std::filesystem::path> FindRecordings(std::span<std::filesystem::path const> targets)
+FoundRecordings FindRecordings(std::span<std::filesystem::path const> targets, std::function<bool()> const & giveUp)
 {
-    std::vector<std::filesystem::path> result;
-    std::set<std::filesystem::path> seen;
-    auto const add = [&](std::filesystem::path const & path) {
-        if (seen.insert(path).second)
-        {
-            result.push_back(path);
-        }
-    };
+    FoundRecordings result;
+    std::unordered_set<NativeText> seen;
     for (auto const & target : targets)
     {
         std::error_code error;
-        if (std::filesystem::is_directory(target, error))
+        std::vector<std::filesystem::path> files;
+        auto const kind = std::filesystem::status(target, error).type();
+        if (kind == std::filesystem::file_type::directory)
         {
-            std::ranges::for_each(RecordingsInFolder(target), add);
+            if (!RecordingsInFolder(target, giveUp, files))
+            {
+                result.missing.push_back(target);
+            }
+        }
+        else if (kind == std::filesystem::file_type::not_found && !HasRecordingExtension(target))
+        {
+            result.missing.push_back(target);
         }
         else
         {
-            add(target);
+            files.push_back(target);
+        }
+        for (auto & file : files)
+        {
+            if (seen.insert(file.native()).second)
+            {
+                result.files.push_back(std::move(file));
+            }
+        }
+        if (giveUp && giveUp())
+        {
+            return {};
         }
     }
     return result;

@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 #include <cstring>
 #include <filesystem>
 #include <memory>
@@ -316,5 +317,87 @@ TEST_F(RecordingListTest, WithoutASelectionOrAskedForAllItCopiesAll)
     m_list.ShowFiles({}, {});
     EXPECT_FALSE(m_list.CopyToClipboard(true));
     EXPECT_EQ(lines(), 6);
+}
+
+TEST_F(RecordingListTest, TheReferencesNameFitsInBold)
+{
+    m_list.ShowFiles({L"C:\\a name of many words, in bold.wav"}, {{}});
+    m_list.ShowAnalysis(0, AnalysisOf(recordings[0]));
+    m_list.SetReference(0);
+    m_list.ShowReference();
+    CClientDC dc(&m_list);
+    workbench::SelectScope const font(dc, m_metrics.BoldFont());
+    auto const needed = dc.GetTextExtent(m_list.GetItemText(0, CRecordingList::column_name)).cx;
+    EXPECT_GE(m_list.GetColumnWidth(CRecordingList::column_name), needed + 2 * m_list.GetCellPadding());
+}
+
+TEST_F(RecordingListTest, ARateBeyondTheLargestIntShowsAsItself)
+{
+    auto analysis = std::make_shared<RecordingAnalysis>(*AnalysisOf(recordings[0]));
+    analysis->info.sampleRate = 4'294'967'295;
+    m_list.ShowAnalysis(1, analysis);
+    EXPECT_EQ(m_list.GetItemText(1, CRecordingList::column_rate).Trim(), L"4294967295");
+    // It is the greatest of all.
+    m_list.SortLines(CRecordingList::column_rate, false);
+    EXPECT_EQ(m_list.LineAt(0), 1);
+}
+
+double Luminance(COLORREF colour)
+{
+    auto const linear = [](int component) {
+        auto const part = component / 255.0;
+        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(GetRValue(colour)) + 0.7152 * linear(GetGValue(colour)) +
+           0.0722 * linear(GetBValue(colour));
+}
+
+TEST_F(RecordingListTest, MarksCanBeToldApartInAChosenLine)
+{
+    constexpr COLORREF frame = RGB(51, 102, 153); // of check boxes and radio buttons
+    constexpr double least_contrast = 3.0;        // of figures
+    m_list.ChooseLine(0);
+    CRect cell;
+    m_list.GetItemRect(0, &cell, LVIR_BOUNDS);
+    CClientDC dc(&m_list);
+    auto const background = [&] { return dc.GetPixel(cell.left + 4, cell.top + 3); };
+    EXPECT_TRUE(tests::PumpUntil([&] { return background() != ::GetSysColor(COLOR_WINDOW); }));
+    EXPECT_GE((Luminance(background()) + 0.05) / (Luminance(frame) + 0.05), least_contrast);
+}
+
+HWND VisibleToolTip()
+{
+    HWND found = nullptr;
+    ::EnumThreadWindows(
+        ::GetCurrentThreadId(),
+        [](HWND window, LPARAM result) -> BOOL {
+            wchar_t name[32] = L"";
+            ::GetClassNameW(window, name, static_cast<int>(std::size(name)));
+            if (::IsWindowVisible(window) && std::wstring(name) == TOOLTIPS_CLASSW)
+            {
+                *reinterpret_cast<HWND *>(result) = window;
+            }
+            return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&found));
+    return found;
+}
+
+TEST_F(RecordingListTest, ThePathShowsInItsLineAndGoesWithIt)
+{
+    auto const point = tests::ClientPoint(m_list.m_hWnd, m_list.CellCentre(1, CRecordingList::column_name));
+    ASSERT_TRUE(tests::MoveMouse(point));
+    ASSERT_TRUE(tests::MoveMouse(point + CPoint(2, 1)));
+    ASSERT_TRUE(tests::PumpUntil([] { return VisibleToolTip() != nullptr; }));
+    CRect row;
+    m_list.GetItemRect(1, &row, LVIR_BOUNDS);
+    m_list.ClientToScreen(&row);
+    EXPECT_TRUE(tests::PumpUntil([&] {
+        CRect tip;
+        ::GetWindowRect(VisibleToolTip(), &tip);
+        return tip.bottom <= row.bottom + 4 && tip.top >= row.top - 4;
+    }));
+    Show();
+    EXPECT_TRUE(tests::PumpUntil([] { return VisibleToolTip() == nullptr; }));
 }
 } // namespace

@@ -1,0 +1,162 @@
+// The workbench's list of recordings with thousands of files, beside a native list that is given the same texts.
+
+#include <afxcmn.h>
+#include "ControlBench.h"
+#include "Measure.h"
+#include "RecordingList.h"
+
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace
+{
+using bench::Nanoseconds;
+using bench::PumpAll;
+using workbench::RecordingAnalysis;
+
+constexpr int usual_count = 5000;
+constexpr int small_count = 500;
+constexpr int large_count = 20000;
+constexpr int rounds = 3;
+constexpr DWORD list_style = WS_CHILD | WS_VISIBLE | LVS_REPORT | LVS_SHOWSELALWAYS;
+CRect const window_place(0, 0, 1240, 500);
+CRect const list_place(0, 0, 1200, 260);
+
+// Our cells have kinds, colours and tool tips besides their texts.
+constexpr double listing_goal = 3.0;
+constexpr double results_goal = 1.25;
+constexpr double marking_goal = 1.0;
+constexpr double growth_goal = 1.25;
+
+std::vector<std::filesystem::path> Files(int count)
+{
+    std::vector<std::filesystem::path> files;
+    for (int i = 0; i < count; ++i)
+        files.push_back(std::filesystem::path(L"C:\\recordings") / (L"recording " + std::to_wstring(i) + L".wav"));
+    return files;
+}
+
+std::shared_ptr<RecordingAnalysis const> Analysis()
+{
+    auto analysis = std::make_shared<RecordingAnalysis>();
+    analysis->file.lastWrite = 1'700'000'000;
+    analysis->info.channels = 1;
+    analysis->info.sampleRate = 48000;
+    analysis->info.frames = 48000;
+    analysis->info.announcedFrames = 48000;
+    analysis->levels = {-6.0, -9.0};
+    return analysis;
+}
+
+/// What each step over all files takes, in nanoseconds a file.
+struct Costs
+{
+    double listing;
+    double results;
+    double marking;
+
+    double All() const { return listing + results + marking; }
+};
+
+Costs OfOurs(CWnd & parent, int count)
+{
+    workbench::ScreenMetrics metrics;
+    CRecordingList list;
+    list.CreateList(parent, 7, metrics);
+    list.SetWindowPos(nullptr, 0, 0, list_place.Width(), list_place.Height(), SWP_NOZORDER);
+    auto const files = Files(count);
+    auto const analysis = Analysis();
+    std::vector<CRecordingList::Notes> const notes(files.size());
+    auto const perFile = [count](std::function<void()> const & work) {
+        auto const time = Nanoseconds([&] {
+            work();
+            PumpAll();
+        });
+        return time / count;
+    };
+    Costs costs{};
+    costs.listing = perFile([&] { list.ShowFiles(files, notes); });
+    costs.results = perFile([&] {
+        CRecordingList::Batch const batch(list);
+        for (int line = 0; line < count; ++line)
+            list.ShowAnalysis(line, analysis);
+    });
+    costs.marking = perFile([&] { list.CheckAll(true); });
+    list.DestroyWindow();
+    PumpAll();
+    return costs;
+}
+
+Costs OfNative(CWnd & parent, int count)
+{
+    CListCtrl list;
+    list.Create(list_style | WS_BORDER, list_place, &parent, 8);
+    list.SetExtendedStyle(LVS_EX_FULLROWSELECT | LVS_EX_CHECKBOXES);
+    for (int i = 0; i < CRecordingList::column_count; ++i)
+        list.InsertColumn(i, L"column", LVCFMT_LEFT, 80);
+    auto const files = Files(count);
+    auto const perFile = [count, &list](std::function<void(int)> const & work) {
+        auto const time = Nanoseconds([&] {
+            list.SetRedraw(FALSE);
+            for (int row = 0; row < count; ++row)
+                work(row);
+            list.SetRedraw(TRUE);
+            PumpAll();
+        });
+        return time / count;
+    };
+    Costs costs{};
+    costs.listing = perFile([&](int row) {
+        list.InsertItem(row, L"");
+        list.SetItemText(row, CRecordingList::column_name, files[static_cast<std::size_t>(row)].filename().c_str());
+        list.SetItemText(row, CRecordingList::column_rating, L"Not rated");
+        list.SetItemText(row, CRecordingList::column_comment, L"");
+        list.SetItemText(row, CRecordingList::column_status, L"not read yet");
+    });
+    costs.results = perFile([&](int row) {
+        static wchar_t const * const texts[] = {L"0:01.000", L"1", L"48000", L"-6.0", L"-9.0", L"11/14/2023 10:13 PM"};
+        for (int i = 0; i < static_cast<int>(std::size(texts)); ++i)
+            list.SetItemText(row, CRecordingList::column_duration + i, texts[i]);
+        list.SetItemText(row, CRecordingList::column_status, L"OK");
+        // Both make room for their longest texts.
+        for (auto const * const text : texts)
+            list.GetStringWidth(text);
+    });
+    costs.marking = perFile([&](int row) { list.SetCheck(row, TRUE); });
+    list.DestroyWindow();
+    PumpAll();
+    return costs;
+}
+} // namespace
+
+bool bench::OpeningRecordings()
+{
+    CWnd parent;
+    parent.CreateEx(0, AfxRegisterWndClass(0), L"", WS_OVERLAPPEDWINDOW | WS_VISIBLE, window_place, nullptr, 0);
+    std::vector<double> listing, results, marking, nativeListing, nativeResults, nativeMarking, small, large;
+    for (int round = 0; round < rounds; ++round)
+    {
+        auto const ours = OfOurs(parent, usual_count);
+        auto const native = OfNative(parent, usual_count);
+        listing.push_back(ours.listing);
+        results.push_back(ours.results);
+        marking.push_back(ours.marking);
+        nativeListing.push_back(native.listing);
+        nativeResults.push_back(native.results);
+        nativeMarking.push_back(native.marking);
+        large.push_back(OfOurs(parent, large_count).All());
+        // As much work as the large one, so that both are as steady.
+        double sum = 0.0;
+        for (int i = 0; i < large_count / small_count / 4; ++i)
+            sum += OfOurs(parent, small_count).All();
+        small.push_back(sum / (large_count / small_count / 4));
+    }
+    parent.DestroyWindow();
+    bool met = Report("workbench: list a file, 5,000", Median(listing), Median(nativeListing), listing_goal);
+    met = Report("workbench: show a file's values, 5,000", Median(results), Median(nativeResults), results_goal) && met;
+    met = Report("workbench: mark a file, 5,000", Median(marking), Median(nativeMarking), marking_goal) && met;
+    return Report("workbench: a file among 20,000 by one among 500", Median(large), Median(small), growth_goal) && met;
+}

@@ -1,0 +1,180 @@
+// The workbench's list with many recordings: what happens once a line costs the same however many lines there are.
+
+#include "Pump.h"
+#include "RecordingList.h"
+#include "ScopedWindow.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace
+{
+using workbench::RecordingAnalysis;
+
+constexpr int list_id = 7;
+constexpr UINT first_list_message = LVM_FIRST;
+constexpr UINT last_list_message = LVM_FIRST + 0xFF;
+
+/// A list that counts the messages of list views that it is sent.
+class CountingList : public CRecordingList
+{
+public:
+    long Count(std::function<void()> const & work)
+    {
+        m_messages = 0;
+        work();
+        return m_messages;
+    }
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        m_messages += message >= first_list_message && message <= last_list_message ? 1 : 0;
+        return CRecordingList::WindowProc(message, wParam, lParam);
+    }
+
+private:
+    long m_messages = 0;
+};
+
+std::shared_ptr<RecordingAnalysis const> Analysis(bool readable)
+{
+    auto analysis = std::make_shared<RecordingAnalysis>();
+    if (!readable)
+    {
+        analysis->problem = workbench::ReadProblem{workbench::ReadFault::NotWav};
+        return analysis;
+    }
+    analysis->info.channels = 1;
+    analysis->info.sampleRate = 1000;
+    analysis->info.frames = 1500;
+    analysis->info.announcedFrames = 1500;
+    analysis->levels = {-6.0, -9.0};
+    return analysis;
+}
+
+class LargeRecordingList : public testing::Test
+{
+protected:
+    void Fill(CountingList & list, int lines)
+    {
+        ASSERT_TRUE(list.CreateList(m_parent, list_id, m_metrics));
+        list.SetWindowPos(nullptr, 0, 0, 1160, 260, SWP_NOZORDER);
+        std::vector<std::filesystem::path> files;
+        for (int i = 0; i < lines; ++i)
+        {
+            files.push_back(std::filesystem::path(L"C:\\recordings") / (L"recording " + std::to_wstring(i) + L".wav"));
+        }
+        list.ShowFiles(files, std::vector<CRecordingList::Notes>(files.size()));
+        tests::PumpPosted(100000);
+    }
+
+    /// The messages that the list is sent for each of its lines, with few lines and with many.
+    using Work = std::function<void(CountingList &, int lines)>;
+    std::pair<double, double> PerLine(Work const & work)
+    {
+        auto const messages = [&](int lines) {
+            CountingList list;
+            Fill(list, lines);
+            auto const count = list.Count([&] { work(list, lines); });
+            list.DestroyWindow();
+            return static_cast<double>(count) / lines;
+        };
+        return {messages(few), messages(many)};
+    }
+
+    static constexpr int few = 100;
+    static constexpr int many = 1000;
+
+    workbench::ScreenMetrics m_metrics;
+    tests::ScopedWindow m_parent{CRect(20, 20, 1220, 400)};
+};
+
+// A pass over all lines for each line would make it ten times as many.
+#define EXPECT_SAME_PER_LINE(work)                                                                                     \
+    do                                                                                                                 \
+    {                                                                                                                  \
+        auto const [atFew, atMany] = PerLine(work);                                                                    \
+        EXPECT_LE(atMany, 1.5 * atFew);                                                                                \
+    } while (false)
+
+TEST_F(LargeRecordingList, ListingAFileCostsTheSameAmongMany)
+{
+    EXPECT_SAME_PER_LINE([](CountingList & list, int lines) {
+        std::vector<std::filesystem::path> const files(static_cast<std::size_t>(lines), L"C:\\other.wav");
+        list.ShowFiles(files, std::vector<CRecordingList::Notes>(files.size()));
+    });
+}
+
+TEST_F(LargeRecordingList, AResultCostsTheSameAmongMany)
+{
+    EXPECT_SAME_PER_LINE([](CountingList & list, int lines) {
+        for (int line = 0; line < lines; ++line)
+        {
+            list.ShowAnalysis(line, Analysis(line % 3 != 0));
+        }
+    });
+}
+
+TEST_F(LargeRecordingList, MarkingAllCostsTheSameForEachOfMany)
+{
+    EXPECT_SAME_PER_LINE([](CountingList & list, int) { list.CheckAll(true); });
+}
+
+TEST_F(LargeRecordingList, TogglingTheSelectedCostsTheSameForEachOfMany)
+{
+    EXPECT_SAME_PER_LINE([](CountingList & list, int) {
+        list.SetItemState(-1, LVIS_SELECTED, LVIS_SELECTED);
+        list.SendMessage(WM_KEYDOWN, VK_SPACE);
+    });
+}
+
+TEST_F(LargeRecordingList, SortingByAnOwnOrderAsksEachLineAFewTimes)
+{
+    EXPECT_SAME_PER_LINE([](CountingList & list, int) { list.SortLines(CRecordingList::column_rating, false); });
+}
+
+TEST_F(LargeRecordingList, MovingTheReferenceAsksNoLineForItsName)
+{
+    CountingList list;
+    Fill(list, many);
+    list.SetReference(3);
+    auto const count = list.Count([&] { list.ShowReference(); });
+    EXPECT_LT(count, 50);
+    list.DestroyWindow();
+}
+
+TEST_F(LargeRecordingList, AGestureOverAllLinesIsToldOnce)
+{
+    CountingList list;
+    Fill(list, few);
+    auto told = 0;
+    list.m_onChanged = [&told](unsigned) { ++told; };
+    list.CheckAll(true);
+    tests::PumpPosted(100000);
+    EXPECT_EQ(told, 1);
+    EXPECT_EQ(list.Totals().Checked(), static_cast<std::size_t>(few));
+    EXPECT_EQ(list.GetHeaderCheckedState(CRecordingList::column_check), XHC_CHECKED);
+
+    // As a click on the title.
+    NMLISTVIEW click{};
+    click.hdr.hwndFrom = list.m_hWnd;
+    click.hdr.idFrom = list_id;
+    click.hdr.code = LVN_COLUMNCLICK;
+    click.iItem = -1;
+    click.iSubItem = CRecordingList::column_check;
+    m_parent.SendMessage(WM_NOTIFY, list_id, reinterpret_cast<LPARAM>(&click));
+    tests::PumpPosted(100000);
+    EXPECT_EQ(told, 2);
+    EXPECT_EQ(list.Totals().Checked(), 0U);
+    EXPECT_FALSE(list.IsChecked(0));
+    EXPECT_EQ(list.GetHeaderCheckedState(CRecordingList::column_check), XHC_UNCHECKED);
+    list.DestroyWindow();
+}
+} // namespace

@@ -1,0 +1,272 @@
+// The workbench's main window: opening folders, giving up, dialogs, and what it remembers.
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <cstdint>
+#include <filesystem>
+#include <fstream>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "Graphics.h"
+#include "Input.h"
+#include "MainWindow.h"
+#include "MemoryPreferenceStore.h"
+#include "Pump.h"
+#include "TestApp.h"
+#include "frame/PreferenceStore.h"
+#include "frame/RegisteredMessages.h"
+#include "resource.h"
+
+namespace
+{
+namespace fs = std::filesystem;
+
+constexpr auto read_limit = std::chrono::seconds(60);
+
+/// A mono recording with 16 bits.
+void WriteRecording(fs::path const & path, std::uint32_t rate = 48000, std::uint32_t frames = 480)
+{
+    std::ofstream file(path, std::ios::binary);
+    auto const number = [&file](std::uint64_t value, int bytes) {
+        for (int i = 0; i < bytes; ++i)
+        {
+            file.put(static_cast<char>(value >> (8 * i)));
+        }
+    };
+    file << "RIFF";
+    number(36 + frames * 2, 4);
+    file << "WAVEfmt ";
+    number(16, 4);
+    number(1, 2);
+    number(1, 2);
+    number(rate, 4);
+    number(rate * std::uint64_t(2) & 0xFFFFFFFF, 4);
+    number(2, 2);
+    number(16, 2);
+    file << "data";
+    number(frames * 2, 4);
+    for (std::uint32_t i = 0; i < frames; ++i)
+    {
+        number(i * 50 % 20000, 2);
+    }
+}
+
+class WorkbenchMainWindow : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        fs::remove_all(m_folder);
+        fs::create_directories(m_folder / "recordings");
+        tests::App().m_pszProfileName = m_profile.c_str();
+        CVeskBase::SetPreferenceVesk(&m_store);
+        OpenWindow();
+    }
+    void TearDown() override
+    {
+        CloseWindow();
+        CVeskBase::SetPreferenceVesk(nullptr);
+        tests::App().m_pszProfileName = m_former;
+        fs::remove_all(m_folder);
+    }
+
+    void OpenWindow()
+    {
+        m_window = std::make_unique<CMainWindow>();
+        tests::App().m_pMainWnd = m_window.get();
+        ASSERT_TRUE(m_window->CreateMainWindow());
+        m_window->ShowWindow(SW_SHOW);
+        m_window->UpdateWindow();
+        ASSERT_TRUE(tests::BringToFront(m_window->m_hWnd));
+    }
+    void CloseWindow()
+    {
+        m_window->SendMessage(WM_CLOSE);
+        m_window.reset();
+        tests::App().m_pMainWnd = nullptr;
+    }
+
+    /// The folder with that many recordings.
+    fs::path Folder(int count)
+    {
+        for (int i = 0; i < count; ++i)
+        {
+            auto const number = std::to_string(i);
+            WriteRecording(m_folder / "recordings" / ("r" + std::string(5 - number.size(), '0') + number + ".wav"));
+        }
+        return m_folder / "recordings";
+    }
+    bool WaitUntilRead()
+    {
+        return tests::PumpUntil([this] { return !m_window->IsBusy(); }, read_limit);
+    }
+    std::wstring Status()
+    {
+        CString text;
+        m_window->GetDescendantWindow(IDC_STATUS_TEXT)->GetWindowText(text);
+        return text.GetString();
+    }
+    bool CancelShows() { return m_window->GetDescendantWindow(IDC_CANCEL_READING)->IsWindowVisible() != FALSE; }
+
+    fs::path const m_folder = fs::temp_directory_path() / "workbench_main_window_test";
+    std::wstring const m_profile = (m_folder / "settings.ini").wstring();
+    LPCTSTR const m_former = tests::App().m_pszProfileName;
+    workbench::GraphicsScope m_graphics;
+    MemoryPreferenceStore m_store;
+    std::unique_ptr<CMainWindow> m_window;
+};
+
+TEST_F(WorkbenchMainWindow, ListsAndReadsAFolder)
+{
+    m_window->ShowTargets({Folder(30)});
+    ASSERT_TRUE(WaitUntilRead());
+    EXPECT_EQ(m_window->RecordingCount(), 30);
+    EXPECT_EQ(m_window->List().GetItemCount(), 30);
+    EXPECT_EQ(m_window->List().GetItemText(29, CRecordingList::column_status), L"OK");
+    EXPECT_EQ(m_window->List().ChosenLine(), 0);
+    EXPECT_TRUE(tests::PumpUntil([this] { return Status().starts_with(L"30 recordings.  "); })) << Status().c_str();
+    EXPECT_FALSE(CancelShows());
+}
+
+TEST_F(WorkbenchMainWindow, CanBeToldToStopReading)
+{
+    m_window->ShowTargets({Folder(400)});
+    ASSERT_TRUE(tests::PumpUntil([this] { return m_window->RecordingCount() > 0; }));
+    EXPECT_TRUE(CancelShows());
+    m_window->GetDescendantWindow(IDC_CANCEL_READING)->SendMessage(BM_CLICK);
+    ASSERT_TRUE(tests::PumpUntil([this] { return !m_window->IsBusy(); }));
+    EXPECT_FALSE(CancelShows());
+    EXPECT_EQ(m_window->List().GetItemCount(), m_window->RecordingCount());
+    auto const & totals = m_window->List().Totals();
+    EXPECT_EQ(totals.Lines(), static_cast<std::size_t>(m_window->RecordingCount()));
+    if (totals.Unread() > 0)
+    {
+        EXPECT_NE(Status().find(std::to_wstring(totals.Unread()) + L" not read"), std::wstring::npos);
+        // One that was left out can still be read.
+        auto const left = m_window->RecordingCount() - 1;
+        ASSERT_TRUE(m_window->ChooseRecording(left));
+        m_window->SendMessage(WM_COMMAND, ID_READ_AGAIN);
+        ASSERT_TRUE(WaitUntilRead());
+        EXPECT_EQ(m_window->List().GetItemText(left, CRecordingList::column_status), L"OK");
+    }
+}
+
+TEST_F(WorkbenchMainWindow, StopsReadingWhenOtherRecordingsAreOpened)
+{
+    auto const folder = Folder(200);
+    m_window->ShowTargets({folder});
+    ASSERT_TRUE(tests::PumpUntil([this] { return m_window->RecordingCount() > 0; }));
+    m_window->ShowTargets({folder / "r00007.wav"});
+    ASSERT_TRUE(WaitUntilRead());
+    EXPECT_EQ(m_window->RecordingCount(), 1);
+    EXPECT_EQ(m_window->List().GetItemText(0, CRecordingList::column_name), L"r00007.wav");
+    EXPECT_EQ(m_window->List().GetItemText(0, CRecordingList::column_status), L"OK");
+}
+
+TEST_F(WorkbenchMainWindow, TellsOfAMissingFolder)
+{
+    auto const gone = m_folder / "gone";
+    m_window->ShowTargets({gone});
+    ASSERT_TRUE(WaitUntilRead());
+    EXPECT_TRUE(tests::PumpUntil([&] { return Status().find(gone.wstring()) != std::wstring::npos; }));
+    EXPECT_EQ(m_window->RecordingCount(), 0);
+}
+
+TEST_F(WorkbenchMainWindow, ReloadsWithTheSameChoiceAndMarks)
+{
+    m_window->ShowTargets({Folder(40)});
+    ASSERT_TRUE(WaitUntilRead());
+    ASSERT_TRUE(m_window->ChooseRecording(25));
+    m_window->List().SetReference(12);
+    m_window->SendMessage(WM_COMMAND, ID_MARK_ALL);
+    EXPECT_TRUE(tests::PumpUntil([this] { return Status().find(L"40 marked (0:00.400)") != std::wstring::npos; }));
+    m_window->SendMessage(WM_COMMAND, ID_RELOAD);
+    ASSERT_TRUE(WaitUntilRead());
+    EXPECT_EQ(m_window->List().ChosenLine(), 25);
+    EXPECT_EQ(m_window->List().ReferenceLine(), 12);
+    EXPECT_TRUE(m_window->List().GetBold(12, CRecordingList::column_name));
+    EXPECT_EQ(m_window->List().Totals().Checked(), 40U);
+    EXPECT_EQ(m_window->List().GetHeaderCheckedState(CRecordingList::column_check), XHC_CHECKED);
+}
+
+TEST_F(WorkbenchMainWindow, KeepsItsDialogsAboveItself)
+{
+    m_window->ShowTargets({Folder(3)});
+    ASSERT_TRUE(WaitUntilRead());
+    ASSERT_TRUE(m_window->ShowDetails(0));
+    ASSERT_TRUE(m_window->ShowPreview());
+    ASSERT_TRUE(m_window->ShowSettings());
+    for (CWnd * const dialog : {static_cast<CWnd *>(&m_window->Details()), static_cast<CWnd *>(&m_window->Preview()),
+                                static_cast<CWnd *>(&m_window->SettingsDialog())})
+    {
+        EXPECT_EQ(::GetWindow(dialog->m_hWnd, GW_OWNER), m_window->m_hWnd);
+    }
+    ASSERT_TRUE(tests::BringToFront(m_window->m_hWnd));
+    auto const isAbove = [](HWND upper, HWND lower) {
+        for (auto below = upper; below != nullptr; below = ::GetWindow(below, GW_HWNDNEXT))
+        {
+            if (below == lower)
+            {
+                return true;
+            }
+        }
+        return false;
+    };
+    EXPECT_TRUE(tests::PumpUntil([&] { return isAbove(m_window->Details().m_hWnd, m_window->m_hWnd); }));
+    EXPECT_TRUE(isAbove(m_window->SettingsDialog().m_hWnd, m_window->Preview().m_hWnd));
+    EXPECT_TRUE(isAbove(m_window->Preview().m_hWnd, m_window->Details().m_hWnd));
+    EXPECT_EQ(::GetForegroundWindow(), m_window->m_hWnd);
+}
+
+TEST_F(WorkbenchMainWindow, OpensNoDetailsOfAFileThatHasTakenAnothersPlace)
+{
+    auto const folder = Folder(3);
+    m_window->ShowTargets({folder});
+    ASSERT_TRUE(WaitUntilRead());
+    // The click is told of later; by then the row has another recording.
+    m_window->List().OnItemStateChange(1, CRecordingList::column_name, WM_XLISTCTRL_LINK_CLICKED);
+    m_window->ShowTargets({folder / "r00002.wav", folder / "r00000.wav"});
+    ASSERT_TRUE(WaitUntilRead());
+    tests::PumpPosted();
+    EXPECT_FALSE(m_window->Details().IsOpen());
+    m_window->List().OnItemStateChange(1, CRecordingList::column_name, WM_XLISTCTRL_LINK_CLICKED);
+    EXPECT_TRUE(tests::PumpUntil([this] { return m_window->Details().IsOpen(); }));
+}
+
+TEST_F(WorkbenchMainWindow, RemembersTheWidthOfAColumn)
+{
+    m_window->ShowTargets({Folder(3)});
+    ASSERT_TRUE(WaitUntilRead());
+    auto & list = m_window->List();
+    auto & header = *list.GetHeaderCtrl();
+    CRect title;
+    header.GetItemRect(CRecordingList::column_name, &title);
+    auto const before = list.GetColumnWidth(CRecordingList::column_name);
+    CPoint const divider(title.right - 1, title.CenterPoint().y);
+    tests::Drag(tests::ClientPoint(header.m_hWnd, divider), tests::ClientPoint(header.m_hWnd, divider + CPoint(57, 0)));
+    EXPECT_TRUE(tests::PumpUntil([&] { return list.UserWidths().contains(CRecordingList::column_name); }));
+    tests::PumpPosted();
+    auto const set = list.GetColumnWidth(CRecordingList::column_name);
+    EXPECT_NEAR(set, before + 57, 2);
+    // Results, other files, a reload and another size of the window leave it alone.
+    m_window->SendMessage(WM_COMMAND, ID_RELOAD);
+    ASSERT_TRUE(WaitUntilRead());
+    EXPECT_EQ(list.GetColumnWidth(CRecordingList::column_name), set);
+    CRect place;
+    m_window->GetWindowRect(&place);
+    m_window->SetWindowPos(nullptr, 0, 0, place.Width() + 40, place.Height(), SWP_NOMOVE | SWP_NOZORDER);
+    EXPECT_EQ(list.GetColumnWidth(CRecordingList::column_name), set);
+
+    CloseWindow();
+    OpenWindow();
+    EXPECT_EQ(m_window->List().GetColumnWidth(CRecordingList::column_name), set);
+    m_window->SendMessage(WM_COMMAND, ID_FIT_COLUMNS);
+    EXPECT_NE(m_window->List().GetColumnWidth(CRecordingList::column_name), set);
+    CloseWindow();
+    OpenWindow();
+    EXPECT_TRUE(m_window->List().UserWidths().empty());
+}
+} // namespace

@@ -1,0 +1,126 @@
+#include "StatusStrip.h"
+
+#include <afxcmn.h>
+
+#include <algorithm>
+
+#include "logic/Texts.h"
+#include "resource.h"
+
+using workbench::Text;
+
+namespace
+{
+
+// Lengths in dialog units.
+constexpr int c_height = 13;
+constexpr int c_barWidth = 90;
+constexpr int c_barHeight = 8;
+constexpr int c_buttonWidth = 50;
+constexpr int c_gap = 6;
+
+constexpr int c_barRange = 1000;
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(CStatusStrip, CWnd)
+    ON_WM_SIZE()
+    ON_BN_CLICKED(IDC_CANCEL_READING, &CStatusStrip::OnCancelClicked)
+END_MESSAGE_MAP()
+
+int CStatusStrip::Height(workbench::ScreenMetrics const & metrics)
+{
+    return metrics.Y(c_height);
+}
+
+bool CStatusStrip::CreateStrip(CWnd & parent, UINT id, workbench::ScreenMetrics & metrics)
+{
+    m_metrics = &metrics;
+    auto const windowClass =
+        AfxRegisterWndClass(0, ::LoadCursorW(nullptr, IDC_ARROW), reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1));
+    if (!CreateEx(WS_EX_CONTROLPARENT, windowClass, L"Status", WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN, CRect(),
+                  &parent, id))
+    {
+        return false;
+    }
+    auto const created =
+        m_text.Create(L"", WS_CHILD | WS_VISIBLE | SS_LEFT | SS_NOPREFIX | SS_ENDELLIPSIS | SS_CENTERIMAGE, CRect(),
+                      this, IDC_STATUS_TEXT) &&
+        m_bar.Create(PROGRESS_CLASS, L"", WS_CHILD, CRect(), this, IDC_READING_PROGRESS) &&
+        m_cancel.Create(Text(L"Cancel"), WS_CHILD | WS_TABSTOP, CRect(), this, IDC_CANCEL_READING);
+    if (created)
+    {
+        m_text.SetFont(&metrics.Font());
+        m_cancel.SetFont(&metrics.Font());
+        m_bar.SendMessage(PBM_SETRANGE32, 0, c_barRange);
+    }
+    return created;
+}
+
+void CStatusStrip::ShowText(std::wstring const & text)
+{
+    // Set anew, the text would flicker.
+    if (text != m_shown)
+    {
+        m_shown = text;
+        m_text.SetWindowText(text.c_str());
+    }
+}
+
+void CStatusStrip::ShowProgress(std::size_t done, std::size_t total)
+{
+    auto const shown = ShowsProgress();
+    m_done = std::min(done, total);
+    m_total = total;
+    if (ShowsProgress())
+    {
+        m_bar.SendMessage(PBM_SETPOS, static_cast<WPARAM>(m_done * c_barRange / m_total));
+    }
+    if (shown == ShowsProgress())
+    {
+        return;
+    }
+    Arrange();
+    if (shown && GetFocus() == &m_cancel)
+    {
+        GetParent()->SetFocus();
+    }
+    for (auto * const window : {&m_bar, static_cast<CWnd *>(&m_cancel)})
+    {
+        window->ShowWindow(ShowsProgress() ? SW_SHOWNA : SW_HIDE);
+    }
+}
+
+void CStatusStrip::Arrange()
+{
+    if (m_metrics == nullptr || m_cancel.GetSafeHwnd() == nullptr)
+    {
+        return;
+    }
+    CRect client;
+    GetClientRect(&client);
+    auto const gap = m_metrics->X(c_gap);
+    auto const button = client.right - m_metrics->X(c_buttonWidth);
+    auto const bar = button - gap - m_metrics->X(c_barWidth);
+    auto const barHeight = m_metrics->Y(c_barHeight);
+    m_cancel.MoveWindow(button, 0, client.right - button, client.bottom);
+    m_bar.MoveWindow(bar, (client.bottom - barHeight) / 2, button - gap - bar, barHeight);
+    auto const textEnd = static_cast<int>(ShowsProgress() ? bar - gap : client.right);
+    m_text.MoveWindow(0, 0, std::max(textEnd, 0), client.bottom);
+    RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+}
+
+void CStatusStrip::OnSize(UINT type, int width, int height)
+{
+    CWnd::OnSize(type, width, height);
+    Arrange();
+}
+
+void CStatusStrip::OnCancelClicked()
+{
+    // A copy, as what it does may replace it.
+    if (auto const onCancel = m_onCancel)
+    {
+        onCancel();
+    }
+}
