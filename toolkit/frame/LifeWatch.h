@@ -6,27 +6,9 @@
 //     if (life.Over())
 //         return;
 //
-// For one thread. A watch is a local variable.
+// For one thread.
 
-class LifeSign;
-
-class LifeWatch
-{
-public:
-    explicit LifeWatch(LifeSign & sign);
-    ~LifeWatch();
-    LifeWatch(LifeWatch const &) = delete;
-    LifeWatch & operator=(LifeWatch const &) = delete;
-
-    /// The object that was watched is gone.
-    bool Over() const { return m_sign == nullptr; }
-
-private:
-    friend class LifeSign;
-
-    LifeSign * m_sign;
-    LifeWatch * m_next;
-};
+#include <memory>
 
 /// Stands for the life of the object that has it. A copy of the object is an object of its own.
 class LifeSign
@@ -35,26 +17,23 @@ public:
     LifeSign() = default;
     LifeSign(LifeSign const &) {}
     LifeSign & operator=(LifeSign const &) { return *this; }
-    ~LifeSign()
-    {
-        for (LifeWatch * watch = m_first; watch != nullptr; watch = watch->m_next)
-            watch->m_sign = nullptr;
-    }
 
 private:
     friend class LifeWatch;
 
-    LifeWatch * m_first = nullptr;
+    std::shared_ptr<void const> m_token = std::make_shared<char>();
 };
 
-inline LifeWatch::LifeWatch(LifeSign & sign) : m_sign(&sign), m_next(sign.m_first)
+class LifeWatch
 {
-    sign.m_first = this;
-}
+public:
+    explicit LifeWatch(LifeSign const & sign) : m_token(sign.m_token) {}
+    LifeWatch(LifeWatch const &) = delete;
+    LifeWatch & operator=(LifeWatch const &) = delete;
 
-// Local variables end in the opposite order, so this watch is the first.
-inline LifeWatch::~LifeWatch()
-{
-    if (m_sign != nullptr)
-        m_sign->m_first = m_next;
-}
+    /// The object that was watched is gone.
+    bool Over() const { return m_token.expired(); }
+
+private:
+    std::weak_ptr<void const> m_token;
+};

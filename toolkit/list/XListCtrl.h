@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "frame/Export.h"
+#include "frame/LifeWatch.h"
 #include "list/XHeaderCtrl.h"
 #include "list/XListColumnFit.h"
 #include "list/XListCtrlData.h"
@@ -153,6 +154,14 @@ public:
     int GlobalComboStringsGetId(CString const & text, int fallback) const;
     wchar_t const * GlobalComboStringsGetText(int id) const;
 
+    // --- The native list's own forms of names that this class has as well ---
+    // A row or column that they insert is the native list's alone: such a row has no cells.
+
+    using CListCtrl::GetItem;
+    using CListCtrl::InsertColumn;
+    using CListCtrl::InsertItem;
+    using CListCtrl::SetItem;
+
     // --- Access to cells ---
 
     bool IsValidItem(int row, int col) const;
@@ -170,6 +179,10 @@ public:
     bool SetItemData(int row, long long data);
     bool SetItemData(int row, int data);
     bool SetItemData(int row, unsigned int data);
+    bool SetItemData(int row, long data);
+    bool SetItemData(int row, unsigned long data);
+    /// All 64 bits as they are.
+    bool SetItemData(int row, unsigned long long data);
     bool SetItemData(int row, int low, int high);
     long long GetItemData64(int row) const;
     /// The low 32 bits.
@@ -187,7 +200,11 @@ public:
     /// The first row from the top; -1 if there is none.
     int FindDataItem(long long data) const;
     int FindDataItem(int data) const;
+    int FindDataItem(unsigned int data) const;
+    int FindDataItem(long data) const;
     int FindDataItem(unsigned long data) const;
+    /// All 64 bits as they are.
+    int FindDataItem(unsigned long long data) const;
     int FindDataItemPtr(void const * ptr) const;
     int FindDataItemClavis(int const * key) const;
     /// The low 32 bits of the selected row's word, with their sign.
@@ -255,6 +272,8 @@ public:
     bool GetListModified() const;
     /// Repaints one cell, or the whole row for column -1. Does nothing in batch mode.
     void UpdateSubItem(int row, int col);
+    /// A cell's rectangle in client coordinates; area is an LVIR_ constant. Column 0 ends where the next column begins.
+    bool GetSubItemRect(int row, int col, int area, CRect & rect) const;
 
     // --- Header ---
 
@@ -316,8 +335,6 @@ protected:
 
     /// Row and column at a client point; (-1, -1) off any cell.
     std::pair<int, int> GetItem(CPoint const & point);
-    /// A cell's rectangle; area is an LVIR_ constant. Column 0 ends where the next column begins.
-    bool GetSubItemRect(int row, int col, int area, CRect & rect) const;
     bool InitializeComboBox(int row, int col, int selectedId, int defaultId);
     void SubclassHeaderControl();
 
@@ -553,7 +570,7 @@ private:
     /// Counts those messages.
     unsigned long long m_rowChanges = 0;
     /// Ends with the list, for whoever must know.
-    std::shared_ptr<void const> m_life = std::make_shared<char>();
+    LifeSign m_life;
     /// Row objects that operations under way keep in use.
     std::vector<XLISTCTRLROW const *> m_pinned;
     /// The next change is an operation of this class, which keeps the books itself.

@@ -276,6 +276,21 @@ bool CXListCtrl::SetItemData(int row, unsigned int data)
     return SetItemData(row, static_cast<long long>(data));
 }
 
+bool CXListCtrl::SetItemData(int row, long data)
+{
+    return SetItemData(row, static_cast<long long>(data));
+}
+
+bool CXListCtrl::SetItemData(int row, unsigned long data)
+{
+    return SetItemData(row, static_cast<long long>(data));
+}
+
+bool CXListCtrl::SetItemData(int row, unsigned long long data)
+{
+    return SetItemData(row, static_cast<long long>(data));
+}
+
 bool CXListCtrl::SetItemData(int row, int low, int high)
 {
     auto const upper = static_cast<std::uint64_t>(static_cast<std::uint32_t>(high)) << 32;
@@ -359,7 +374,22 @@ int CXListCtrl::FindDataItem(int data) const
     return FindDataItem(static_cast<long long>(data));
 }
 
+int CXListCtrl::FindDataItem(unsigned int data) const
+{
+    return FindDataItem(static_cast<long long>(data));
+}
+
+int CXListCtrl::FindDataItem(long data) const
+{
+    return FindDataItem(static_cast<long long>(data));
+}
+
 int CXListCtrl::FindDataItem(unsigned long data) const
+{
+    return FindDataItem(static_cast<long long>(data));
+}
+
+int CXListCtrl::FindDataItem(unsigned long long data) const
 {
     return FindDataItem(static_cast<long long>(data));
 }

@@ -2,8 +2,6 @@
 // What the list holds over calls that can run the host's code. Such code may delete rows and columns, destroy the
 // window or delete the list itself. Both classes live on the stack alone.
 
-#include <memory>
-
 #include "list/XListCtrl.h"
 
 /// Tells whether the list and the window that it had are still there.
@@ -21,7 +19,7 @@ public:
     Watch & operator=(Watch const &) = delete;
 
     /// Whether the list is still there, with or without its window.
-    bool IsThere() const { return !m_life.expired(); }
+    bool IsThere() const { return !m_life.Over(); }
     /// False also for a list that had no window to begin with.
     bool IsAlive() const { return m_window != nullptr && IsThere() && m_list.m_hWnd == m_window; }
     /// How many messages since then may have changed rows; only of a list that is there.
@@ -31,7 +29,7 @@ public:
 
 private:
     CXListCtrl const & m_list;
-    std::weak_ptr<void const> m_life;
+    LifeWatch m_life;
     HWND m_window;
     unsigned long long m_changes;
 };
