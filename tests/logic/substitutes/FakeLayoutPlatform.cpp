@@ -194,8 +194,10 @@ void FakeLayoutPlatform::MoveDialog(CWnd & dialog, int left, int top, int width,
 
 void FakeLayoutPlatform::Invalidate(HWND window)
 {
-    if (recording)
-        Log("Invalidate " + std::to_string(Find(window)->number));
+    // As the system does nothing for a window that has ended.
+    auto const * const found = Find(window);
+    if (recording && found != nullptr)
+        Log("Invalidate " + std::to_string(found->number));
 }
 
 void FakeLayoutPlatform::ReportAssertion(wchar_t const * expression, wchar_t const * source, unsigned int line)
