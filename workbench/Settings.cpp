@@ -21,7 +21,7 @@ constexpr wchar_t c_spectrogramScale[] = L"SpectrogramScale";
 constexpr wchar_t c_startFolders[] = L"StartFolders";
 constexpr wchar_t c_language[] = L"Language";
 constexpr wchar_t c_columnWidths[] = L"ColumnWidths"; // the average width of a letter, then column:width
-constexpr wchar_t c_separator = L'|'; // no name of a folder has it
+constexpr wchar_t c_separator = L'|';                 // no name of a folder has it
 
 std::vector<std::filesystem::path> Split(std::wstring const & text)
 {

@@ -5,7 +5,9 @@ BEGIN_MESSAGE_MAP(CWorkbenchDialog, CDialog3d)
 END_MESSAGE_MAP()
 
 CWorkbenchDialog::CWorkbenchDialog(UINT templateId, wchar_t const * name, CWnd & owner)
-    : CDialog3d(NO_DLL, templateId, &owner), m_template(templateId), m_owner(owner)
+    : CDialog3d(NO_DLL, templateId, &owner),
+      m_template(templateId),
+      m_owner(owner)
 {
     SetGenuineTitle(name);
 }

@@ -243,9 +243,9 @@ TEST(NearestScopeColour, DecidesNearTiesByStrictSinglePrecision)
         unsigned int index;
     };
     constexpr NearTie near_ties[] = {
-        {0x00142C, 9},  {0x01476E, 9},  {0x01A81C, 11}, {0x01B85C, 12}, {0x020C3B, 0},  {0x025258, 25},
-        {0x031725, 0},  {0x03296C, 9},  {0x03A42B, 23}, {0x044A67, 9},  {0x046E3B, 11}, {0x048773, 12},
-        {0x053700, 9},  {0x05A03A, 11}, {0x061A1E, 0},  {0x064276, 25}, {0x074D60, 9},  {0x08DCBB, 21},
+        {0x00142C, 9}, {0x01476E, 9},  {0x01A81C, 11}, {0x01B85C, 12}, {0x020C3B, 0},  {0x025258, 25},
+        {0x031725, 0}, {0x03296C, 9},  {0x03A42B, 23}, {0x044A67, 9},  {0x046E3B, 11}, {0x048773, 12},
+        {0x053700, 9}, {0x05A03A, 11}, {0x061A1E, 0},  {0x064276, 25}, {0x074D60, 9},  {0x08DCBB, 21},
     };
     for (NearTie const & each : near_ties)
         EXPECT_EQ(ScopeFarbIndex(each.colour), each.index) << std::hex << each.colour;

@@ -652,7 +652,8 @@ TEST(FrequencyTicks, StandAtRoundNumbersAndKeepTheirDistance)
                                                                          {400, L"4 kHz"}}));
     EXPECT_EQ(FrequencyTicks(0.5, 100, 40),
               (std::vector<FrequencyTick>{{0, L"0 Hz"}, {40, L"0.2 Hz"}, {80, L"0.4 Hz"}}));
-    EXPECT_EQ(FrequencyTicks(2e9, 200, 90), (std::vector<FrequencyTick>{{0, L"0 Hz"}, {100, L"1 GHz"}, {200, L"2 GHz"}}));
+    EXPECT_EQ(FrequencyTicks(2e9, 200, 90),
+              (std::vector<FrequencyTick>{{0, L"0 Hz"}, {100, L"1 GHz"}, {200, L"2 GHz"}}));
     EXPECT_EQ(FrequencyTicks(2e6, 400, 90),
               (std::vector<FrequencyTick>{
                   {0, L"0 Hz"}, {100, L"500 kHz"}, {200, L"1 MHz"}, {300, L"1.5 MHz"}, {400, L"2 MHz"}}));

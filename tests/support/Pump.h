@@ -40,8 +40,8 @@ public:
     LaterActions(LaterActions const &) = delete;
     LaterActions & operator=(LaterActions const &) = delete;
 
-    /// Adds an action. It is tried again every 10 ms until ready holds (if given); after hang_limit it is given up, `Failed`
-    /// tells, and the remaining actions run so that a modal loop can still end.
+    /// Adds an action. It is tried again every 10 ms until ready holds (if given); after hang_limit it is given up,
+    /// `Failed` tells, and the remaining actions run so that a modal loop can still end.
     void Add(std::function<void()> action, std::function<bool()> ready = {});
     bool Failed() const { return m_failed; }
     bool Done() const;

@@ -202,14 +202,13 @@ TEST_F(SpectrogramView, AProgressBarShowsWhileItIsComputed)
     EXPECT_EQ(upper, 1000);
     int greatest = 0;
     bool alive = false;
-    ASSERT_TRUE(tests::PumpUntil(
-        [&] {
-            int const position = bar.GetPos();
-            EXPECT_GE(position, greatest);
-            greatest = position;
-            alive = alive || (position > 0 && position < 1000);
-            return !view.IsComputing();
-        }));
+    ASSERT_TRUE(tests::PumpUntil([&] {
+        int const position = bar.GetPos();
+        EXPECT_GE(position, greatest);
+        greatest = position;
+        alive = alive || (position > 0 && position < 1000);
+        return !view.IsComputing();
+    }));
     EXPECT_TRUE(alive) << "messages are handled meanwhile";
     EXPECT_FALSE(Progress().IsWindowVisible());
     view.ShowRecording(L"Long", path);

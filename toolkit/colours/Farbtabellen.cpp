@@ -116,8 +116,8 @@ distance_t Distance(COLORREF a, COLORREF b)
     constexpr distance_t redWeight = Units(0.3f);
     constexpr distance_t greenWeight = Units(0.59f);
     constexpr distance_t blueWeight = Units(0.11f);
-    distance_t const redAndGreen = Rounded(Weighted(redWeight, GetRValue(a) - GetRValue(b)) +
-                                           Weighted(greenWeight, GetGValue(a) - GetGValue(b)));
+    distance_t const redAndGreen =
+        Rounded(Weighted(redWeight, GetRValue(a) - GetRValue(b)) + Weighted(greenWeight, GetGValue(a) - GetGValue(b)));
     return Rounded(redAndGreen + Weighted(blueWeight, GetBValue(a) - GetBValue(b)));
 }
 } // namespace

@@ -77,8 +77,8 @@ LRESULT CALLBACK KeepHidden(HWND window, UINT message, WPARAM wParam, LPARAM lPa
     return ::DefSubclassProc(window, message, wParam, lParam);
 }
 
-/// For its life, no window that is kept hidden, and no control in one, gets the focus or becomes active: the window that
-/// has the focus is not even told. Both the system and the dialog may want to give it.
+/// For its life, no window that is kept hidden, and no control in one, gets the focus or becomes active: the window
+/// that has the focus is not even told. Both the system and the dialog may want to give it.
 class CFocusKeeper
 {
 public:

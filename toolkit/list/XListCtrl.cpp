@@ -248,6 +248,6 @@ void CXListCtrl::UpdateHeaderFromCells(int col)
         if (state >= XLC_UNCHECKED && state <= XLC_CROSSED)
             ++counts[state];
     });
-    SetHeaderCheckedState(
-        col, HeaderStateOfCells(rows, counts[XLC_UNCHECKED], counts[XLC_CHECKED], counts[XLC_CROSSED]));
+    SetHeaderCheckedState(col,
+                          HeaderStateOfCells(rows, counts[XLC_UNCHECKED], counts[XLC_CHECKED], counts[XLC_CROSSED]));
 }

@@ -460,8 +460,8 @@ void CFensterManager::Freeze(CFensterManager & manager, bool freeze)
     if (manager.m_type != window_mdi_child)
         return;
     DWORD const style = platform.Style(*manager.m_wnd);
-    platform.SetStyle(*manager.m_wnd, freeze ? style & ~style_minimise_and_maximise_box
-                                             : style | style_minimise_and_maximise_box);
+    platform.SetStyle(*manager.m_wnd,
+                      freeze ? style & ~style_minimise_and_maximise_box : style | style_minimise_and_maximise_box);
     if (HasWindow(&manager))
         platform.Redraw(*manager.m_wnd, redraw_frame_without_children);
 }

@@ -348,8 +348,7 @@ double Luminance(COLORREF colour)
         auto const part = component / 255.0;
         return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
     };
-    return 0.2126 * linear(GetRValue(colour)) + 0.7152 * linear(GetGValue(colour)) +
-           0.0722 * linear(GetBValue(colour));
+    return 0.2126 * linear(GetRValue(colour)) + 0.7152 * linear(GetGValue(colour)) + 0.0722 * linear(GetBValue(colour));
 }
 
 TEST_F(RecordingListTest, MarksCanBeToldApartInAChosenLine)
