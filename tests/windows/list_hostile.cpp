@@ -285,6 +285,43 @@ TEST_F(HostileList, RowsChangedWithinASwapKeepObjectsOfTheirOwn)
     ExpectOwnRows();
 }
 
+/// Gives the native list its messages itself, past the list's own operations.
+class PastTheList : public tests::TestList
+{
+public:
+    void DeleteNatively(int row) { DefWindowProc(LVM_DELETEITEM, static_cast<WPARAM>(row), 0); }
+    /// What stood in the first row when a deletion came by.
+    std::vector<long long> seen;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message == LVM_DELETEITEM)
+            seen.push_back(GetItemData64(0));
+        return TestList::WindowProc(message, wParam, lParam);
+    }
+};
+
+TEST(ListPastItsOperations, NeverAnswersWithARowThatWasThereBefore)
+{
+    tests::ListParent parent;
+    PastTheList list;
+    ASSERT_TRUE(list.Create(tests::TestList::default_style, CRect(0, 0, 360, 200), &parent, 7));
+    tests::WindowCloser const closer(list);
+    list.AddColumns(2);
+    for (int row = 0; row < 4; ++row)
+        list.AddItem(L"row", nullptr, row + 1);
+    EXPECT_EQ(list.GetItemData64(0), 1);
+    list.DeleteNatively(0);
+    EXPECT_EQ(list.GetItemData64(0), 2);
+    list.SendMessage(LVM_DELETEITEM, 0);
+    EXPECT_EQ(list.seen, std::vector<long long>{2});
+    EXPECT_EQ(list.GetItemData64(0), 3);
+    list.DeleteItem(0);
+    EXPECT_EQ(list.seen, (std::vector<long long>{2, 0})) << "its word is cleared before the row goes";
+    EXPECT_EQ(list.GetItemData64(0), 4);
+}
+
 /// A list on the heap, which its host deletes.
 class DeletedList : public testing::Test
 {
