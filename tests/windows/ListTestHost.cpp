@@ -56,6 +56,8 @@ LRESULT ListParent::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
         posted.push_back(Unpacked(message, wParam, lParam));
     if (message == WM_NOTIFY && onNotify)
         onNotify(*reinterpret_cast<NMHDR const *>(lParam));
+    if (message == WM_NOTIFY && refuses && refuses(*reinterpret_cast<NMHDR const *>(lParam)))
+        return TRUE;
     return ScopedWindow::WindowProc(message, wParam, lParam);
 }
 

@@ -48,6 +48,8 @@ public:
     PostedRows posted;
     /// Called with each notification that arrives.
     std::function<void(NMHDR const &)> onNotify;
+    /// A change for which this holds is answered with a refusal.
+    std::function<bool(NMHDR const &)> refuses;
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;

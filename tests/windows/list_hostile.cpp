@@ -254,22 +254,71 @@ TEST_F(HostileList, RadioPressStandsARowDeletedByTheFirstNotification)
     EXPECT_EQ(m_list.GetActiveRadioItem(1), 0);
 }
 
-TEST_F(HostileList, RowsChangedWithinASwapKeepObjectsOfTheirOwn)
+/// Drags the last of four rows onto the first; what the host does meanwhile is the test's.
+class HostileSwap : public HostileList
 {
-    for (int row = 0; row < 4; ++row)
-        m_list.SetItemData(row, row + 1);
-    m_list.EnableDragAndDrop();
-    NMLISTVIEW drag{};
-    drag.hdr.hwndFrom = m_list.m_hWnd;
-    drag.hdr.code = LVN_BEGINDRAG;
-    drag.iItem = 3;
-    CRect first;
-    ASSERT_TRUE(m_list.GetSubItemRect(0, 0, LVIR_BOUNDS, first));
-    LRESULT result = 0;
-    m_list.OnChildNotify(WM_NOTIFY, tests::TestList::id, reinterpret_cast<LPARAM>(&drag), &result);
-    LPARAM const place = MAKELPARAM(first.left + 5, first.CenterPoint().y);
-    m_list.SendMessage(WM_MOUSEMOVE, MK_LBUTTON, place);
-    // From here on each change of an item brings a change of rows, as long as there are some.
+protected:
+    void SetUp() override
+    {
+        HostileList::SetUp();
+        for (int row = 0; row < 4; ++row)
+            m_list.SetItemData(row, row + 1);
+        m_list.EnableDragAndDrop();
+        m_list.m_onRowsSwapped = [this](int, int) { ++m_swaps; };
+    }
+    void PickUp()
+    {
+        NMLISTVIEW drag{};
+        drag.hdr.hwndFrom = m_list.m_hWnd;
+        drag.hdr.code = LVN_BEGINDRAG;
+        drag.iItem = 3;
+        CRect first;
+        ASSERT_TRUE(m_list.GetSubItemRect(0, 0, LVIR_BOUNDS, first));
+        m_place = MAKELPARAM(first.left + 5, first.CenterPoint().y);
+        LRESULT result = 0;
+        m_list.OnChildNotify(WM_NOTIFY, tests::TestList::id, reinterpret_cast<LPARAM>(&drag), &result);
+        m_list.SendMessage(WM_MOUSEMOVE, MK_LBUTTON, m_place);
+    }
+    void Drop()
+    {
+        m_list.SendMessage(WM_LBUTTONUP, 0, m_place);
+        m_host.parent.onNotify = nullptr;
+    }
+    /// The action runs at the first change of a parameter word, and never again.
+    void DropWith(std::function<void()> action)
+    {
+        PickUp();
+        m_host.parent.onNotify = [this, action = std::move(action), done = false](NMHDR const & header) mutable {
+            if (done || header.code != LVN_ITEMCHANGED ||
+                (reinterpret_cast<NMLISTVIEW const &>(header).uChanged & LVIF_PARAM) == 0)
+            {
+                return;
+            }
+            done = true;
+            ++m_heard;
+            action();
+        };
+        Drop();
+        EXPECT_EQ(m_heard, 1);
+        EXPECT_EQ(m_swaps, 0) << "the host has spoilt the swap";
+    }
+    void ExpectSoundRows(unsigned long long count)
+    {
+        ExpectOwnRows();
+        EXPECT_EQ(m_list.GetItemCount(), static_cast<int>(count));
+        EXPECT_EQ(m_list.CountCheckedItems(0, XLC_NONE), count) << "no ghosts";
+        m_list.AddItem(L"later", nullptr, 100);
+        m_list.AddItem(L"last", nullptr, 101);
+        ExpectOwnRows();
+    }
+
+    LPARAM m_place = 0;
+    int m_swaps = 0;
+};
+
+TEST_F(HostileSwap, RowsChangedAllTheTimeKeepObjectsOfTheirOwn)
+{
+    PickUp();
     m_host.parent.onNotify = [this, inside = false](NMHDR const & header) mutable {
         if (inside || header.code != LVN_ITEMCHANGED)
             return;
@@ -278,11 +327,52 @@ TEST_F(HostileList, RowsChangedWithinASwapKeepObjectsOfTheirOwn)
         m_list.InsertItem(0, L"above", nullptr, 50);
         inside = false;
     };
-    m_list.SendMessage(WM_LBUTTONUP, 0, place);
-    m_host.parent.onNotify = nullptr;
+    Drop();
     for (int i = 0; i < 6; ++i)
         m_list.AddItem(L"later", nullptr, 100 + i);
     ExpectOwnRows();
+}
+
+TEST_F(HostileSwap, ARowAppendedMeanwhileLosesNoRow)
+{
+    DropWith([this] { m_list.AddItem(L"appended", nullptr, 9); });
+    for (int data : {1, 2, 3, 4, 9})
+        EXPECT_GE(m_list.FindDataItem(data), 0) << data;
+    ExpectSoundRows(5);
+}
+
+TEST_F(HostileSwap, ARowInsertedAboveMeanwhileLosesNoRow)
+{
+    DropWith([this] { m_list.InsertItem(0, L"above", nullptr, 9); });
+    for (int data : {1, 2, 3, 4, 9})
+        EXPECT_GE(m_list.FindDataItem(data), 0) << data;
+    ExpectSoundRows(5);
+}
+
+TEST_F(HostileSwap, AListEmptiedMeanwhileIsEmpty)
+{
+    DropWith([this] { m_list.DeleteAllItems(); });
+    ExpectSoundRows(0);
+}
+
+TEST_F(HostileSwap, APartThatTheParentRefusesIsNoSwap)
+{
+    for (int refused = 0; refused < 2; ++refused)
+    {
+        PickUp();
+        int part = 0;
+        m_host.parent.refuses = [&part, refused](NMHDR const & header) {
+            return header.code == LVN_ITEMCHANGING &&
+                   (reinterpret_cast<NMLISTVIEW const &>(header).uChanged & LVIF_PARAM) != 0 && part++ == refused;
+        };
+        Drop();
+        m_host.parent.refuses = nullptr;
+        EXPECT_EQ(m_swaps, 0) << refused;
+        for (int data = 1; data <= 4; ++data)
+            EXPECT_GE(m_list.FindDataItem(data), 0) << data << " where part " << refused << " is refused";
+        ExpectOwnRows();
+    }
+    ExpectSoundRows(4);
 }
 
 /// Gives the native list its messages itself, past the list's own operations.

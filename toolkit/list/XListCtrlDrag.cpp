@@ -225,7 +225,8 @@ bool CXListCtrl::SwapRows(std::vector<dd_list_Item> & upper, std::vector<dd_list
             --m_rowSwaps;
         if (!watch.IsAlive())
             return false;
-        if (m_rowChanges == changes + 2)
+        // Neither has the host changed rows meanwhile nor refused a part.
+        if (m_rowChanges == changes + 2 && RowOf(a) == objects[1] && RowOf(b) == objects[0])
             return true;
         PutRowsInOrder(objects);
         if (!watch.IsAlive())
