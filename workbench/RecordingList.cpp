@@ -86,6 +86,8 @@ BEGIN_MESSAGE_MAP(CRecordingList, CXListCtrl)
     ON_NOTIFY_REFLECT_EX(LVN_COLUMNCLICK, &CRecordingList::OnTitleClick)
     ON_WM_MOUSEMOVE()
     ON_WM_LBUTTONUP()
+    ON_NOTIFY_EX(HDN_BEGINTRACKW, 0, &CRecordingList::OnBeginTrack)
+    ON_NOTIFY_EX(HDN_BEGINTRACKA, 0, &CRecordingList::OnBeginTrack)
     ON_NOTIFY_EX(HDN_ENDTRACKW, 0, &CRecordingList::OnEndTrack)
     ON_NOTIFY_EX(HDN_ENDTRACKA, 0, &CRecordingList::OnEndTrack)
     ON_NOTIFY_EX_RANGE(TTN_SHOW, 0, c_lastToolId, &CRecordingList::OnToolTipShow)
@@ -193,8 +195,9 @@ void CRecordingList::Require(Column column, int width)
 void CRecordingList::FitColumns()
 {
     // Changing a width can change the scroll bars and so come back here through the size message.
-    // While the user drags a divider, nothing else moves.
-    if (m_fitting || m_leastWidth == 0 || m_batches > 0 || ::GetCapture() == GetHeaderCtrl()->GetSafeHwnd())
+    // While the user drags a divider, nothing else moves; a title that is being clicked has the mouse, too.
+    auto const dragged = m_tracking && ::GetCapture() == GetHeaderCtrl()->GetSafeHwnd();
+    if (m_fitting || m_leastWidth == 0 || m_batches > 0 || dragged)
     {
         return;
     }
@@ -472,8 +475,16 @@ LRESULT CRecordingList::OnTellOpen(WPARAM line, LPARAM generation)
     return 0;
 }
 
+BOOL CRecordingList::OnBeginTrack(UINT, NMHDR *, LRESULT * result)
+{
+    m_tracking = true;
+    *result = 0;
+    return FALSE; // the list itself needs it, too
+}
+
 BOOL CRecordingList::OnEndTrack(UINT, NMHDR * header, LRESULT * result)
 {
+    m_tracking = false;
     auto const & track = *reinterpret_cast<NMHEADERW *>(header);
     if (track.iItem >= 0 && track.iItem < column_count && track.pitem != nullptr &&
         (track.pitem->mask & HDI_WIDTH) != 0)

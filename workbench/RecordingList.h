@@ -178,6 +178,7 @@ private:
     afx_msg void OnPaint();
     afx_msg void OnMouseMove(UINT flags, CPoint point);
     afx_msg void OnLButtonUp(UINT flags, CPoint point);
+    afx_msg BOOL OnBeginTrack(UINT id, NMHDR * header, LRESULT * result);
     afx_msg BOOL OnEndTrack(UINT id, NMHDR * header, LRESULT * result);
     afx_msg BOOL OnToolTipShow(UINT id, NMHDR * header, LRESULT * result);
     afx_msg LRESULT OnTellChanges(WPARAM, LPARAM);
@@ -225,6 +226,7 @@ private:
     std::array<int, column_count> m_needs{}; ///< the width that shows its longest text
     std::map<int, int> m_userWidths;
     bool m_fitting = false;
+    bool m_tracking = false;           ///< the header's mouse capture, while it lasts, is for a divider
     int m_fittedWidth = -1;            ///< of the client area, for which the columns have their widths
     int m_batches = 0;                 ///< that exist
     bool m_wasClean = false;           ///< nothing was waiting to be painted when the outermost batch began

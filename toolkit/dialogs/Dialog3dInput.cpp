@@ -65,8 +65,12 @@ void CDialog3d::ActivatePopup(CPopupConfig const & config, int x, int y)
 
 BOOL CDialog3d::OnCmdMsg(UINT id, int code, void * extra, AFX_CMDHANDLERINFO * info)
 {
+    LifeWatch const life(m_life);
     if (CDialogEx::OnCmdMsg(id, code, extra, info))
         return TRUE;
+    // The owner was asked as well and may have ended the dialog.
+    if (life.Over())
+        return FALSE;
     if (m_popupConfig == nullptr || code != CN_COMMAND)
         return FALSE;
     CPopupConfigEntry const * const entry = m_popupConfig->Find(id);

@@ -463,8 +463,8 @@ private:
     bool SwapRows(std::vector<dd_list_Item> & upper, std::vector<dd_list_Item> & lower, int a, int b);
     /// As many columns as there are places.
     void save_row(std::vector<dd_list_Item> & saved, int row);
-    /// Stops where the host changes rows.
-    void restore_row(std::vector<dd_list_Item> & saved, int row);
+    /// Stops where the host changes rows. False if the parent refuses it.
+    bool restore_row(std::vector<dd_list_Item> & saved, int row);
     /// Makes the picture that follows the pointer from an area of the client context.
     void MakeDragImage(CDC & client, CRect const & cell);
     /// Takes the picture off the screen; changes nothing without one.

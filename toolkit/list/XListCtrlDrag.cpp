@@ -218,15 +218,17 @@ bool CXListCtrl::SwapRows(std::vector<dd_list_Item> & upper, std::vector<dd_list
         if (!watch.IsAlive() || m_rowChanges != changes)
             return false;
         ++m_rowSwaps;
-        restore_row(upper, b);
-        if (watch.IsAlive() && m_rowChanges == changes + 1)
-            restore_row(lower, a);
+        bool const begun = restore_row(upper, b);
+        bool swapped = begun && watch.IsAlive() && m_rowChanges == changes + 1 && restore_row(lower, a);
+        swapped = swapped && watch.IsAlive() && m_rowChanges == changes + 2;
+        // Refused by the parent halfway: as it was.
+        if (begun && !swapped && watch.IsAlive() && m_rowChanges == changes + 2 && RowOf(b) == objects[0])
+            restore_row(lower, b);
         if (watch.IsThere())
             --m_rowSwaps;
         if (!watch.IsAlive())
             return false;
-        // Neither has the host changed rows meanwhile nor refused a part.
-        if (m_rowChanges == changes + 2 && RowOf(a) == objects[1] && RowOf(b) == objects[0])
+        if (swapped)
             return true;
         PutRowsInOrder(objects);
         if (!watch.IsAlive())
@@ -260,10 +262,10 @@ void CXListCtrl::save_row(std::vector<dd_list_Item> & saved, int row)
     }
 }
 
-void CXListCtrl::restore_row(std::vector<dd_list_Item> & saved, int row)
+bool CXListCtrl::restore_row(std::vector<dd_list_Item> & saved, int row)
 {
     if (saved.empty())
-        return;
+        return false;
     auto const * const object = reinterpret_cast<XLISTCTRLROW const *>(saved.front().item.lParam);
     Watch const watch(*this);
     // The first cell takes the row's object along, which is a change.
@@ -274,8 +276,11 @@ void CXListCtrl::restore_row(std::vector<dd_list_Item> & saved, int row)
             object->cells()[col].properties |= XLP_MODIFIED;
         saved[col].item.iItem = row;
         m_ownRowChange = col == 0;
-        ::SendMessageW(m_hWnd, LVM_SETITEMW, 0, reinterpret_cast<LPARAM>(&saved[col].item));
+        bool const taken = ::SendMessageW(m_hWnd, LVM_SETITEMW, 0, reinterpret_cast<LPARAM>(&saved[col].item)) != FALSE;
         if (watch.IsThere())
             m_ownRowChange = false;
+        if (col == 0 && !taken)
+            return false;
     }
+    return true;
 }

@@ -236,6 +236,19 @@ TEST_F(WorkbenchMainWindow, OpensNoDetailsOfAFileThatHasTakenAnothersPlace)
     EXPECT_TRUE(tests::PumpUntil([this] { return m_window->Details().IsOpen(); }));
 }
 
+TEST_F(WorkbenchMainWindow, ATitleThatIsClickedGetsRoomForItsSortMark)
+{
+    m_window->ShowTargets({Folder(3)});
+    ASSERT_TRUE(WaitUntilRead());
+    auto & list = m_window->List();
+    auto & header = *list.GetHeaderCtrl();
+    CRect title;
+    header.GetItemRect(CRecordingList::column_channels, &title);
+    auto const before = list.GetColumnWidth(CRecordingList::column_channels);
+    tests::Click(tests::ClientPoint(header.m_hWnd, title.CenterPoint()));
+    EXPECT_TRUE(tests::PumpUntil([&] { return list.GetColumnWidth(CRecordingList::column_channels) > before; }));
+}
+
 TEST_F(WorkbenchMainWindow, RemembersTheWidthOfAColumn)
 {
     m_window->ShowTargets({Folder(3)});
