@@ -31,7 +31,7 @@ endif()
 
 set(sanitizer_options)
 if(INSTRUMENT_UI_SANITIZE)
-    set(sanitizer_options -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    set(sanitizer_options -O1 -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
     add_compile_options(${sanitizer_options} -g)
     add_link_options(${sanitizer_options})
 endif()
