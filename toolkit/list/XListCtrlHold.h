@@ -90,5 +90,5 @@ private:
     CXListCtrl & m_list;
     int m_row;
     XLISTCTRLROW * m_object;
-    unsigned long long m_use = 0;
+    unsigned int m_use = 0;
 };

@@ -62,7 +62,7 @@ int CXListCtrl::InsertWithRow(LVITEMW item, COLORREF text, COLORREF background, 
     item.lParam = reinterpret_cast<LPARAM>(row);
     Watch const watch(*this);
     unsigned long long const changes = m_rowChanges;
-    unsigned long long const use = row->use();
+    unsigned int const use = row->use();
     int index = -1;
     {
         Pin const pin(*this, row);

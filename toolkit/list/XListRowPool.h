@@ -31,17 +31,17 @@ public:
     void SetSortMark(SortMark const & mark) { m_sortMark = mark; }
     /// Counts the rows that this object has been: whoever holds it over a call that can run the host's code sees by
     /// another number that it was given back and taken anew.
-    unsigned long long use() const { return m_use; }
+    unsigned int use() const { return m_use; }
 
 private:
     friend class CXListRowPool;
 
     std::unique_ptr<XLISTCTRLDATA[]> m_cells;
     unsigned int m_capacity = 0;
+    unsigned int m_use = 0;
     SortMark m_sortMark;
     /// The place in its pool.
     std::size_t m_slot = 0;
-    unsigned long long m_use = 0;
 };
 
 /// Owns every row that a list ever had, until the list ends. Rows in use stand first, in no particular order; behind
