@@ -202,8 +202,8 @@ private:
     {
         if (static_cast<size_t>(capacity) > static_cast<size_t>(PTRDIFF_MAX) / sizeof(TYPE))
             AfxThrowMemoryException();
-        void * const memory = ::operator new(static_cast<size_t>(capacity) * sizeof(TYPE),
-                                             std::align_val_t(alignof(TYPE)), std::nothrow);
+        void * const memory =
+            ::operator new(static_cast<size_t>(capacity) * sizeof(TYPE), std::align_val_t(alignof(TYPE)), std::nothrow);
         if (memory == nullptr)
             AfxThrowMemoryException();
         TYPE * const data = static_cast<TYPE *>(memory);
@@ -221,8 +221,8 @@ private:
 
 /// An array of plain values. CONST_RESULT is what reading an element of a constant array gives, CONST_DATA what its
 /// elements look like.
-template <class TYPE, class ARG_TYPE, class CONST_RESULT, class CONST_DATA>
-class PlainArray : public ArrayStorage<TYPE, ARG_TYPE>
+template <class TYPE, class ARG_TYPE, class CONST_RESULT, class CONST_DATA> class PlainArray
+    : public ArrayStorage<TYPE, ARG_TYPE>
 {
     using Base = ArrayStorage<TYPE, ARG_TYPE>;
 

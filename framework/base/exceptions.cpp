@@ -78,13 +78,9 @@ LPCTSTR FileMessage(int cause)
 }
 } // namespace
 
-CException::CException() : CException(TRUE)
-{
-}
+CException::CException() : CException(TRUE) {}
 
-CException::CException(BOOL bAutoDelete) : m_bAutoDelete(bAutoDelete)
-{
-}
+CException::CException(BOOL bAutoDelete) : m_bAutoDelete(bAutoDelete) {}
 
 void CException::Delete()
 {
@@ -125,9 +121,7 @@ int CException::ReportError(UINT nType, [[maybe_unused]] UINT nMessageID)
 
 CSimpleException::CSimpleException() = default;
 
-CSimpleException::CSimpleException(BOOL bAutoDelete) : CException(bAutoDelete)
-{
-}
+CSimpleException::CSimpleException(BOOL bAutoDelete) : CException(bAutoDelete) {}
 
 BOOL CSimpleException::GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnHelpContext) const
 {
@@ -161,36 +155,28 @@ BOOL CSimpleException::GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT p
 
 CMemoryException::CMemoryException() = default;
 
-CMemoryException::CMemoryException(BOOL bAutoDelete) : CSimpleException(bAutoDelete)
-{
-}
+CMemoryException::CMemoryException(BOOL bAutoDelete) : CSimpleException(bAutoDelete) {}
 
 CNotSupportedException::CNotSupportedException() = default;
 
-CNotSupportedException::CNotSupportedException(BOOL bAutoDelete) : CSimpleException(bAutoDelete)
-{
-}
+CNotSupportedException::CNotSupportedException(BOOL bAutoDelete) : CSimpleException(bAutoDelete) {}
 
 CResourceException::CResourceException() = default;
 
-CResourceException::CResourceException(BOOL bAutoDelete) : CSimpleException(bAutoDelete)
-{
-}
+CResourceException::CResourceException(BOOL bAutoDelete) : CSimpleException(bAutoDelete) {}
 
 CUserException::CUserException() = default;
 
-CUserException::CUserException(BOOL bAutoDelete) : CSimpleException(bAutoDelete)
-{
-}
+CUserException::CUserException(BOOL bAutoDelete) : CSimpleException(bAutoDelete) {}
 
 CInvalidArgException::CInvalidArgException() = default;
 
-CInvalidArgException::CInvalidArgException(BOOL bAutoDelete) : CSimpleException(bAutoDelete)
-{
-}
+CInvalidArgException::CInvalidArgException(BOOL bAutoDelete) : CSimpleException(bAutoDelete) {}
 
 CFileException::CFileException(int cause, LONG lOsError, LPCTSTR lpszArchiveName)
-    : m_cause(cause), m_lOsError(lOsError), m_strFileName(lpszArchiveName)
+    : m_cause(cause),
+      m_lOsError(lOsError),
+      m_strFileName(lpszArchiveName)
 {
 }
 
@@ -212,11 +198,11 @@ int PASCAL CFileException::OsErrorToException(LONG lOsError)
         return badPath;
     case 4: // too many open files
         return tooManyOpenFiles;
-    case 5:  // access denied
-    case 19: // write protected
-    case 65: // network access denied
-    case 80: // file exists
-    case 82: // cannot make
+    case 5:   // access denied
+    case 19:  // write protected
+    case 65:  // network access denied
+    case 80:  // file exists
+    case 82:  // cannot make
     case 183: // already exists
         return accessDenied;
     case 6:  // invalid handle
@@ -301,8 +287,7 @@ BOOL CFileException::GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnH
     if (pnHelpContext != nullptr)
         *pnHelpContext = 0;
     CString message;
-    message.Format(FileMessage(m_cause),
-                   m_strFileName.IsEmpty() ? _T("an unnamed file") : m_strFileName.GetString());
+    message.Format(FileMessage(m_cause), m_strFileName.IsEmpty() ? _T("an unnamed file") : m_strFileName.GetString());
     CopyMessage(lpszError, nMaxError, message);
     return TRUE;
 }

@@ -54,7 +54,8 @@ class GlobalLockScope
 {
 public:
     explicit GlobalLockScope(HGLOBAL handle)
-        : m_handle(handle), m_pointer(handle != nullptr ? ::GlobalLock(handle) : nullptr)
+        : m_handle(handle),
+          m_pointer(handle != nullptr ? ::GlobalLock(handle) : nullptr)
     {
     }
     ~GlobalLockScope()
@@ -256,8 +257,7 @@ INT_PTR CDialog::DoModal()
         RunModalLoop(flags);
         if (m_hWnd != nullptr)
         {
-            SetWindowPos(nullptr, 0, 0, 0, 0,
-                         SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_NOZORDER);
+            SetWindowPos(nullptr, 0, 0, 0, 0, SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_NOZORDER);
         }
     }
     owner.Enable();

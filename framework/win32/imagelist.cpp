@@ -101,8 +101,7 @@ BOOL CImageList::Create(LPCTSTR lpszBitmapID, int cx, int nGrow, COLORREF crMask
 
 BOOL CImageList::Create(CImageList & imagelist1, int nImage1, CImageList & imagelist2, int nImage2, int dx, int dy)
 {
-    return Attach(
-        ::ImageList_Merge(imagelist1.m_hImageList, nImage1, imagelist2.m_hImageList, nImage2, dx, dy));
+    return Attach(::ImageList_Merge(imagelist1.m_hImageList, nImage1, imagelist2.m_hImageList, nImage2, dx, dy));
 }
 
 BOOL CImageList::Create(CImageList * pImageList)

@@ -536,10 +536,10 @@ TEST(FrameworkMap, PlainKindsAndTyped)
 
 TEST(FrameworkCollections, AreKnownByName)
 {
-    for (LPCSTR const name : {"CByteArray", "CWordArray", "CDWordArray", "CUIntArray", "CPtrArray", "CObArray",
-                              "CStringArray", "CPtrList", "CObList", "CStringList", "CMapWordToPtr", "CMapPtrToWord",
-                              "CMapPtrToPtr", "CMapWordToOb", "CMapStringToPtr", "CMapStringToOb",
-                              "CMapStringToString"})
+    for (LPCSTR const name :
+         {"CByteArray", "CWordArray", "CDWordArray", "CUIntArray", "CPtrArray", "CObArray", "CStringArray", "CPtrList",
+          "CObList", "CStringList", "CMapWordToPtr", "CMapPtrToWord", "CMapPtrToPtr", "CMapWordToOb", "CMapStringToPtr",
+          "CMapStringToOb", "CMapStringToString"})
     {
         CRuntimeClass const * const found = CRuntimeClass::FromName(name);
         ASSERT_NE(nullptr, found) << name;

@@ -38,8 +38,19 @@ INPUT KeyInput(WORD key, bool up)
     input.ki.dwFlags = up ? KEYEVENTF_KEYUP : 0;
     switch (key)
     {
-    case VK_LEFT: case VK_RIGHT: case VK_UP: case VK_DOWN: case VK_HOME: case VK_END: case VK_PRIOR: case VK_NEXT:
-    case VK_INSERT: case VK_DELETE: case VK_RCONTROL: case VK_RMENU: case VK_APPS:
+    case VK_LEFT:
+    case VK_RIGHT:
+    case VK_UP:
+    case VK_DOWN:
+    case VK_HOME:
+    case VK_END:
+    case VK_PRIOR:
+    case VK_NEXT:
+    case VK_INSERT:
+    case VK_DELETE:
+    case VK_RCONTROL:
+    case VK_RMENU:
+    case VK_APPS:
         input.ki.dwFlags |= KEYEVENTF_EXTENDEDKEY;
         break;
     default:
@@ -91,14 +102,12 @@ INPUT AtMovedPlace(DWORD flags, DWORD data = 0)
 bool BringToFront(HWND window)
 {
     ::SetForegroundWindow(window);
-    bool const front = PumpUntil(
-        [window]
-        {
-            if (::GetForegroundWindow() == window)
-                return true;
-            ::SetForegroundWindow(window);
-            return false;
-        });
+    bool const front = PumpUntil([window] {
+        if (::GetForegroundWindow() == window)
+            return true;
+        ::SetForegroundWindow(window);
+        return false;
+    });
     PumpPosted();
     return front;
 }
@@ -124,29 +133,26 @@ void InjectMove(CPoint screen)
 
 bool MoveMouse(CPoint screen)
 {
-    auto const there = [screen]
-    {
+    auto const there = [screen] {
         POINT now;
         return ::GetCursorPos(&now) && now.x == screen.x && now.y == screen.y;
     };
     InjectMove(screen);
     // A late report of the position before may put the cursor back, so it must have rested for a while.
     ULONGLONG arrived = 0;
-    return PumpUntil(
-        [&]
+    return PumpUntil([&] {
+        ULONGLONG const now = ::GetTickCount64();
+        if (!there())
         {
-            ULONGLONG const now = ::GetTickCount64();
-            if (!there())
-            {
-                if (arrived != 0)
-                    InjectMove(screen);
-                arrived = 0;
-                return false;
-            }
-            if (arrived == 0)
-                arrived = now;
-            return now - arrived >= RestOfCursor;
-        });
+            if (arrived != 0)
+                InjectMove(screen);
+            arrived = 0;
+            return false;
+        }
+        if (arrived == 0)
+            arrived = now;
+        return now - arrived >= RestOfCursor;
+    });
 }
 
 void Press(Button button)

@@ -88,8 +88,7 @@ TEST(ModalDialog, OkCommandSavesTheDataAndGivesIdOk)
     tests::LaterActions later;
     CString shown;
     later.Add(
-        [&]
-        {
+        [&] {
             dialog.GetDlgItemText(IDC_TEXT, shown);
             dialog.SetDlgItemText(IDC_TEXT, _T("after"));
             dialog.PostMessage(WM_COMMAND, IDOK);
@@ -107,8 +106,7 @@ TEST(ModalDialog, CancelCommandLeavesTheDataAndGivesIdCancel)
     dialog.m_text = _T("before");
     tests::LaterActions later;
     later.Add(
-        [&]
-        {
+        [&] {
             dialog.SetDlgItemText(IDC_TEXT, _T("after"));
             dialog.PostMessage(WM_COMMAND, IDCANCEL);
         },
@@ -170,8 +168,7 @@ TEST(ModalDialog, TemplateIsFoundByName)
     tests::LaterActions later;
     CString title;
     later.Add(
-        [&]
-        {
+        [&] {
             dialog.GetWindowText(title);
             dialog.EndDialog(IDOK);
         },
@@ -190,8 +187,7 @@ TEST(ModalDialog, TemplateInMemory)
     tests::LaterActions later;
     CString text;
     later.Add(
-        [&]
-        {
+        [&] {
             dialog.GetDlgItemText(9, text);
             dialog.EndDialog(3);
         },
@@ -227,8 +223,7 @@ TEST(ModalDialog, OwnerIsDisabledWhileItRunsAndActiveAfterwards)
     BOOL enabledMeanwhile = TRUE;
     HWND owner = nullptr;
     later.Add(
-        [&]
-        {
+        [&] {
             enabledMeanwhile = parent.IsWindowEnabled();
             owner = ::GetWindow(dialog.m_hWnd, GW_OWNER);
             dialog.EndDialog(IDOK);
@@ -251,8 +246,7 @@ TEST(ModalDialog, ChildAsParentIsReplacedByItsTopLevelWindow)
     HWND owner = nullptr;
     BOOL enabledMeanwhile = TRUE;
     later.Add(
-        [&]
-        {
+        [&] {
             owner = ::GetWindow(dialog.m_hWnd, GW_OWNER);
             enabledMeanwhile = parent.IsWindowEnabled();
             dialog.EndDialog(IDOK);
@@ -273,8 +267,7 @@ TEST(ModalDialog, WithoutParentTheMainWindowOwnsIt)
     tests::LaterActions later;
     HWND owner = nullptr;
     later.Add(
-        [&]
-        {
+        [&] {
             owner = ::GetWindow(dialog.m_hWnd, GW_OWNER);
             dialog.EndDialog(IDOK);
         },
@@ -327,11 +320,9 @@ TEST(ModalDialog, NestedDialogsEndFromTheInside)
     BOOL outerEnabledAfter = FALSE;
     BOOL parentEnabledAfterInner = TRUE;
     later.Add(
-        [&]
-        {
+        [&] {
             later.Add(
-                [&]
-                {
+                [&] {
                     outerEnabledMeanwhile = outer.IsWindowEnabled();
                     inner.EndDialog(11);
                 },
@@ -479,8 +470,7 @@ TEST(ModalDialog, TabMovesTheFocusAndReturnPressesTheFocusedButton)
     ASSERT_TRUE(tests::BringToFront(parent.m_hWnd));
     CSimpleDialog dialog(parent);
     tests::LaterActions later;
-    auto const focusIs = [&](int id)
-    {
+    auto const focusIs = [&](int id) {
         return Shown(dialog)() && ::GetForegroundWindow() == dialog.m_hWnd &&
                ::GetFocus() == ::GetDlgItem(dialog.m_hWnd, id);
     };
@@ -502,8 +492,7 @@ TEST(ModalDialog, TypedTextReachesTheFirstControl)
     later.Add([&] { tests::Type(L"Hz\u00B2"); },
               [&] { return Shown(dialog)() && ::GetFocus() == ::GetDlgItem(dialog.m_hWnd, IDC_TEXT); });
     later.Add([&] { tests::Key(VK_RETURN); },
-              [&]
-              {
+              [&] {
                   CString text;
                   dialog.GetDlgItemText(IDC_TEXT, text);
                   return text.GetLength() == 3;
@@ -521,8 +510,7 @@ TEST(ModalDialog, FocusStaysWhereInitialisationPutIt)
     tests::LaterActions later;
     HWND focus = nullptr;
     later.Add(
-        [&]
-        {
+        [&] {
             focus = ::GetFocus() == ::GetDlgItem(dialog.m_hWnd, IDC_APPLY) ? ::GetFocus() : nullptr;
             dialog.EndDialog(IDOK);
         },
@@ -538,8 +526,7 @@ TEST(ModalDialog, OpenPositionIsCentredOnTheOwner)
     tests::LaterActions later;
     CRect rect;
     later.Add(
-        [&]
-        {
+        [&] {
             dialog.GetWindowRect(&rect);
             dialog.EndDialog(IDOK);
         },

@@ -51,10 +51,7 @@ std::wstring SignalName(std::wstring const & subkey, wchar_t const * name)
 class SuiteRegistryStore : public testing::Test
 {
 protected:
-    void TearDown() override
-    {
-        ::RegDeleteTreeW(HKEY_CURRENT_USER, tests_key);
-    }
+    void TearDown() override { ::RegDeleteTreeW(HKEY_CURRENT_USER, tests_key); }
 
     static std::wstring OwnSubkey()
     {
@@ -361,8 +358,7 @@ CHILD_PROGRAM(WritesAllTheTime)
             return 1;
     }
     // What the parent has written meanwhile is seen here.
-    return store.LookupGetInt(L"Parent", 0, -1) == 1000 &&
-                   store.LookupSetInt(L"Child", count, 1) == lookup::success
+    return store.LookupGetInt(L"Parent", 0, -1) == 1000 && store.LookupSetInt(L"Child", count, 1) == lookup::success
                ? 0
                : 2;
 }

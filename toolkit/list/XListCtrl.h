@@ -30,7 +30,8 @@ class CListRowOrder;
 /// Rows and columns count from 0; lengths are in pixels, colours 0x00BBGGRR. Every operation that writes what the user
 /// can see repaints the cell, unless it says otherwise. A row or column that does not exist gives false, -1, 0, null or
 /// an empty text, and changes nothing. Columns come first, rows after: inserting columns into a filled list leaves its
-/// rows short. The list owns its rows and cells for its own life and recycles them. For the user-interface thread alone.
+/// rows short. The list owns its rows and cells for its own life and recycles them. For the user-interface thread
+/// alone.
 class INSTRUMENT_UI_API CXListCtrl : public CListCtrl
 {
     DECLARE_DYNAMIC(CXListCtrl)
@@ -66,14 +67,14 @@ public:
     void DeleteAllColumns();
     /// Sets the width, or what an auto-size constant gives, plus twice the header's spacing. The last native result.
     virtual int SetColumnWidth(int col, int width);
-    /// Fits all columns to the window, so that no horizontal scroll bar appears. col takes up the difference first, if it
-    /// can; negative: all columns share it.
+    /// Fits all columns to the window, so that no horizontal scroll bar appears. col takes up the difference first, if
+    /// it can; negative: all columns share it.
     void AutosizeColumnWidth(int col);
 
     // --- Rows ---
 
-    /// A negative position means behind the last row. The index of the row, or the negative native result. Only the first
-    /// cell gets the colours. ptr and data are the row's words; ptr is not owned.
+    /// A negative position means behind the last row. The index of the row, or the negative native result. Only the
+    /// first cell gets the colours. ptr and data are the row's words; ptr is not owned.
     int InsertItem(int pos, wchar_t const * text, COLORREF textColor, COLORREF background, void const * ptr,
                    long long data);
     int InsertItem(int pos, wchar_t const * text, void const * ptr, long long data);
@@ -113,8 +114,8 @@ public:
     bool SetItemFloatVal(int row, int col, float value, wchar_t const * text);
     /// Keeps the time only: neither text nor screen change.
     bool SetItemDatetime(int row, int col, CTime time);
-    /// iImage becomes the cell's image, also where the structure doesn't ask for one, which is meant. 1 on success, -1 for
-    /// a negative iItem, else 0.
+    /// iImage becomes the cell's image, also where the structure doesn't ask for one, which is meant. 1 on success, -1
+    /// for a negative iItem, else 0.
     int SetItem(LVITEMW const * item);
     bool SetItemImage(int row, int col, int image);
 
@@ -291,19 +292,19 @@ public:
 
     // --- Order, dragging and export ---
 
-    /// Sorts the rows by a column. compare gets two row indices of the unsorted list and the CXListCtrl as an integer; a
-    /// negative result puts the first row ahead. It must not change the list. Null compares cells by their values or
+    /// Sorts the rows by a column. compare gets two row indices of the unsorted list and the CXListCtrl as an integer;
+    /// a negative result puts the first row ahead. It must not change the list. Null compares cells by their values or
     /// texts. setMark: the column's header shows an arrow, and every other mark goes, check boxes too; with a negative
     /// column that is all that happens. Any other column that does not exist changes nothing.
     void SortByColumn(int col, bool ascending, bool setMark, int (*compare)(long long, long long, long long));
-    /// From now on the user can drag a row onto another one, which swaps the two. There is no way back. It is meant that
-    /// the list goes on marking rows below the pointer after the first drop, and that a later release of the button over
-    /// another row swaps the row last dragged with it.
+    /// From now on the user can drag a row onto another one, which swaps the two. There is no way back. It is meant
+    /// that the list goes on marking rows below the pointer after the first drop, and that a later release of the
+    /// button over another row swaps the row last dragged with it.
     void EnableDragAndDrop();
-    /// Puts a block of cells on the clipboard as text: tabs between columns, CR LF behind each line. Cells with a number
-    /// or date give that, in the system's form; all others the text shown, at most 199 characters of it. A negative last
-    /// row or column, or one past the end, means the last one; one ahead of the first is the first. Rows without cells
-    /// are left out. False for a first row or column past the end, or if the clipboard refuses.
+    /// Puts a block of cells on the clipboard as text: tabs between columns, CR LF behind each line. Cells with a
+    /// number or date give that, in the system's form; all others the text shown, at most 199 characters of it. A
+    /// negative last row or column, or one past the end, means the last one; one ahead of the first is the first. Rows
+    /// without cells are left out. False for a first row or column past the end, or if the clipboard refuses.
     bool ExportToClipboard(bool withHeader, int firstRow, int lastRow, int firstCol, int lastCol);
 
     // --- Mouse, menu and tooltips ---
@@ -348,8 +349,7 @@ protected:
     virtual void GetDrawColors(int row, int col, COLORREF & text, COLORREF & background);
     /// The width used.
     int DrawImage(int row, int col, CDC * dc, COLORREF text, COLORREF background, CRect rect, XLISTCTRLDATA * cells);
-    void DrawTextW(int row, int col, CDC * dc, COLORREF text, COLORREF background, CRect & rect,
-                   XLISTCTRLDATA * cells);
+    void DrawTextW(int row, int col, CDC * dc, COLORREF text, COLORREF background, CRect & rect, XLISTCTRLDATA * cells);
     void DrawCheckbox(int row, int col, CDC * dc, COLORREF text, COLORREF background, CRect & rect,
                       XLISTCTRLDATA * cells);
     void DrawCheckboxBox(CRect & box, int state, bool enabled, CDC * dc);
@@ -402,8 +402,9 @@ private:
     void ForgetRow() const;
     /// The row that a row object hangs from; -1 if there is none.
     int PlaceOf(XLISTCTRLROW const * object) const;
-    /// After the host has changed rows within an operation on rows: every native item has a row object of its own again,
-    /// and what hangs from none is back in the pool. spares: objects in use that such items take before new ones.
+    /// After the host has changed rows within an operation on rows: every native item has a row object of its own
+    /// again, and what hangs from none is back in the pool. spares: objects in use that such items take before new
+    /// ones.
     void PutRowsInOrder(std::span<XLISTCTRLROW * const> spares = {});
     /// Gives back what hangs from no native item; the places of items that share another one's row object.
     std::vector<int> GiveBackUnshownRows();
@@ -425,7 +426,8 @@ private:
     /// Recomputes the state of a column's header from its cells, where the header follows them.
     void UpdateHeaderFromCells(int col);
     void PostToParent(unsigned int message, WPARAM wParam, LPARAM lParam) const;
-    /// How the drawing of most kinds begins: turns the colours into drawing colours, fills the cell and lays the wash on.
+    /// How the drawing of most kinds begins: turns the colours into drawing colours, fills the cell and lays the wash
+    /// on.
     void FillCell(int row, int col, CDC & dc, COLORREF & text, COLORREF & background, CRect const & rect,
                   XLISTCTRLDATA const & cell);
     /// Handles a message that may change columns: all is painted anew if it does.
@@ -484,7 +486,8 @@ private:
     XLISTCTRLROW * NativeParam(int row) const;
     /// The row objects from the top; null for items without one of this list's own.
     std::vector<XLISTCTRLROW *> RowsFromTop() const;
-    /// Calls visit(XLISTCTRLROW &) for each item's row object, in no particular order. visit runs no code of the host's.
+    /// Calls visit(XLISTCTRLROW &) for each item's row object, in no particular order. visit runs no code of the
+    /// host's.
     template <class Visit> void VisitRows(Visit && visit) const
     {
         if (RowsAreKnown())
@@ -562,8 +565,8 @@ private:
     CImageList m_dragImage;
     CMenu m_popupMenu;
 
-    /// The row asked for last. Known only as long as the native list has been given no message that moves rows or changes
-    /// their parameter words; while one is under way, nothing is remembered.
+    /// The row asked for last. Known only as long as the native list has been given no message that moves rows or
+    /// changes their parameter words; while one is under way, nothing is remembered.
     mutable int m_knownRow = -1;
     mutable XLISTCTRLROW * m_knownRowObject = nullptr;
     int m_rowChangesUnderWay = 0;

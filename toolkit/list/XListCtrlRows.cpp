@@ -70,8 +70,8 @@ int CXListCtrl::InsertWithRow(LVITEMW item, COLORREF text, COLORREF background, 
     }
     if (!watch.IsAlive())
         return -1;
-    // The insertion itself is the only change, as always but for a host that changes rows when it hears of it; one that was
-    // refused before it reached the native list is none.
+    // The insertion itself is the only change, as always but for a host that changes rows when it hears of it; one that
+    // was refused before it reached the native list is none.
     if (m_rowChanges == changes + 1 || (index < 0 && m_rowChanges == changes))
     {
         if (index < 0)

@@ -57,7 +57,7 @@ private:
         std::u16string name;
         node_t parent;
         std::vector<Value> values;
-        std::map<std::u16string, std::size_t> valueIndexes; // by folded name
+        std::map<std::u16string, std::size_t> valueIndexes;     // by folded name
         std::vector<std::pair<std::u16string, node_t>> subkeys; // by folded name, in its order
     };
     enum class use_t

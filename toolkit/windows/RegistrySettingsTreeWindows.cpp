@@ -61,7 +61,8 @@ private:
 } // namespace
 
 RegistrySettingsTree::RegistrySettingsTree(std::function<HKEY()> applicationKey)
-    : m_applicationKey(std::move(applicationKey)), m_name(name_room)
+    : m_applicationKey(std::move(applicationKey)),
+      m_name(name_room)
 {
 }
 

@@ -41,8 +41,8 @@ INSTRUMENT_UI_API bool read_settings(std::istream & stream, registry_entry_list 
 INSTRUMENT_UI_API bool write_settings_file(std::filesystem::path const & file, registry_entry_list const & list);
 INSTRUMENT_UI_API bool read_settings_file(std::filesystem::path const & file, registry_entry_list & list);
 
-/// Writes the whole tree to the saved file. False if the tree can't be read, and no file is then touched; or if the file
-/// can't be written in full.
+/// Writes the whole tree to the saved file. False if the tree can't be read, and no file is then touched; or if the
+/// file can't be written in full.
 INSTRUMENT_UI_API bool export_registry_settings(SettingsTree & tree, settings_file_names const & files);
 
 /// Reads the plain file, gives it its restored name and replaces the tree by it. False if the file is missing, no

@@ -1,8 +1,8 @@
 #pragma once
 // A tree of keys and typed values, flattened into a list of records and built again from one.
 //
-// The records are also what a settings file holds (SettingsFile.h). The tree is the registry below the application's key
-// (RegistrySettingsTree.h), or memory where there is no registry (MemorySettingsTree.h). Names are UTF-16.
+// The records are also what a settings file holds (SettingsFile.h). The tree is the registry below the application's
+// key (RegistrySettingsTree.h), or memory where there is no registry (MemorySettingsTree.h). Names are UTF-16.
 
 #include <cstdint>
 #include <deque>
@@ -40,8 +40,8 @@ struct registry_entry
     bool operator==(registry_entry const &) const = default;
 };
 
-/// A tree in order: of each key all its values first, then its subkeys, each between its begin and its end. The root has
-/// neither.
+/// A tree in order: of each key all its values first, then its subkeys, each between its begin and its end. The root
+/// has neither.
 using registry_entry_list = std::deque<registry_entry>;
 
 /// The type of values that can't be exported.
@@ -92,8 +92,8 @@ public:
     virtual bool SetValue(key_t key, registry_entry const & entry) = 0;
     /// Deletes all values and subkeys of a key opened for removal.
     virtual void EmptyKey(key_t key) = 0;
-    /// Deletes a key below the root that has no subkeys. The root itself, the empty name, is there again when it is next
-    /// opened.
+    /// Deletes a key below the root that has no subkeys. The root itself, the empty name, is there again when it is
+    /// next opened.
     virtual void DeleteKey(std::u16string const & subkey) = 0;
 };
 

@@ -20,18 +20,18 @@ struct DialogState
             *creation = false;
     }
 
-    CString templateName;                      // empty where the template has an identifier or is in memory
-    UINT templateId = 0;                       // resource identifier, 0 = none
-    LPCDLGTEMPLATE memoryTemplate = nullptr;   // InitModalIndirect; the caller keeps it
-    HGLOBAL globalTemplate = nullptr;          // InitModalIndirect with a memory handle
-    void * initData = nullptr;                 // in the form of an RT_DLGINIT resource
-    CWnd * parent = nullptr;                   // as given to the constructor
+    CString templateName;                    // empty where the template has an identifier or is in memory
+    UINT templateId = 0;                     // resource identifier, 0 = none
+    LPCDLGTEMPLATE memoryTemplate = nullptr; // InitModalIndirect; the caller keeps it
+    HGLOBAL globalTemplate = nullptr;        // InitModalIndirect with a memory handle
+    void * initData = nullptr;               // in the form of an RT_DLGINIT resource
+    CWnd * parent = nullptr;                 // as given to the constructor
     UINT helpId = 0;
     INT_PTR result = -1;
     bool modal = false;
-    bool * creation = nullptr;                 // while the window is created; becomes false if the object ends therein
+    bool * creation = nullptr; // while the window is created; becomes false if the object ends therein
     bool ended = false;
-    bool centre = false;                       // the template leaves the position open
+    bool centre = false; // the template leaves the position open
 };
 } // namespace framework
 
@@ -70,8 +70,7 @@ public:
     virtual BOOL CreateIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd * pParentWnd = nullptr,
                                 void * lpDialogInit = nullptr);
     virtual BOOL CreateIndirect(HGLOBAL hDialogTemplate, CWnd * pParentWnd = nullptr);
-    BOOL InitModalIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd * pParentWnd = nullptr,
-                           void * lpDialogInit = nullptr);
+    BOOL InitModalIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd * pParentWnd = nullptr, void * lpDialogInit = nullptr);
     BOOL InitModalIndirect(HGLOBAL hDialogTemplate, CWnd * pParentWnd = nullptr);
 
     virtual INT_PTR DoModal();

@@ -205,8 +205,7 @@ public:
                    HBRUSH hBrush = nullptr);
     BOOL DrawState(CPoint pt, CSize size, LPCTSTR lpszText, UINT nFlags, BOOL bPrefixText = TRUE, int nTextLen = 0,
                    CBrush * pBrush = nullptr);
-    BOOL DrawState(CPoint pt, CSize size, DRAWSTATEPROC lpDrawProc, LPARAM lData, UINT nFlags,
-                   HBRUSH hBrush = nullptr);
+    BOOL DrawState(CPoint pt, CSize size, DRAWSTATEPROC lpDrawProc, LPARAM lData, UINT nFlags, HBRUSH hBrush = nullptr);
     BOOL DrawState(CPoint pt, CSize size, DRAWSTATEPROC lpDrawProc, LPARAM lData, UINT nFlags,
                    CBrush * pBrush = nullptr);
     BOOL ScrollDC(int dx, int dy, LPCRECT lpRectScroll, LPCRECT lpRectClip, CRgn * pRgnUpdate, LPRECT lpRectUpdate);
@@ -256,8 +255,7 @@ public:
     CSize GetOutputTextExtent(CString const & str) const;
     CSize GetTabbedTextExtent(LPCTSTR lpszString, int nCount, int nTabPositions, LPINT lpnTabStopPositions) const;
     CSize GetTabbedTextExtent(CString const & str, int nTabPositions, LPINT lpnTabStopPositions) const;
-    CSize GetOutputTabbedTextExtent(LPCTSTR lpszString, int nCount, int nTabPositions,
-                                    LPINT lpnTabStopPositions) const;
+    CSize GetOutputTabbedTextExtent(LPCTSTR lpszString, int nCount, int nTabPositions, LPINT lpnTabStopPositions) const;
     CSize GetOutputTabbedTextExtent(CString const & str, int nTabPositions, LPINT lpnTabStopPositions) const;
     BOOL GetTextExtentExPointI(LPWORD pgiIn, int cgi, int nMaxExtent, LPINT lpnFit, LPINT alpDx, LPSIZE lpSize) const;
     BOOL GetTextExtentPointI(LPWORD pgiIn, int cgi, LPSIZE lpSize) const;
