@@ -1,6 +1,6 @@
 #pragma once
 // What the list holds over calls that can run the host's code. Such code may delete rows and columns, destroy the
-// window or delete the list itself. Both classes live on the stack alone.
+// window or delete the list itself. These classes live on the stack alone.
 
 #include "list/XListCtrl.h"
 
