@@ -54,6 +54,7 @@ CXListCtrl::~CXListCtrl()
     // While the header's object is still there, which the window would miss otherwise.
     if (m_hWnd != nullptr)
         DestroyWindow();
+    EndEditors();
 }
 
 void CXListCtrl::PreSubclassWindow()
@@ -105,6 +106,7 @@ void CXListCtrl::SubclassHeaderControl()
 void CXListCtrl::OnDestroy()
 {
     EndDragImage();
+    EndEditors();
     m_rowPool.GiveBackAll();
     m_rowsInStep = false;
     m_headerSubclassed = false;

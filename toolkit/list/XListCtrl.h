@@ -339,8 +339,13 @@ protected:
     bool InitializeComboBox(int row, int col, int selectedId, int defaultId);
     void SubclassHeaderControl();
 
-    // The editors open with these.
+    // The editors open with these, over a cell that is enabled and can be scrolled into view. Row and column are kept
+    // as numbers: a host that deletes or sorts rows meanwhile has the result in whatever cell stands there then.
+
+    /// Opens the edit field; an open one ends, and its text is lost. Nothing happens over a column narrower than 5
+    /// pixels.
     void DrawEditControl(int row, int col);
+    /// Opens the combo box of a combo cell; an open one ends. Nothing happens over a cell narrower than 20 pixels.
     void DrawComboBoxControl(int row, int col);
 
     // Painting. cells is the row's first cell; nothing is drawn into an empty rectangle or without cells or context.
@@ -426,6 +431,19 @@ private:
     /// Recomputes the state of a column's header from its cells, where the header follows them.
     void UpdateHeaderFromCells(int col);
     void PostToParent(unsigned int message, WPARAM wParam, LPARAM lParam) const;
+    // Editors. An editor that ends tells nothing.
+    void EndEdit();
+    void EndCombo();
+    /// Ends the combo, if there is one, and goes on with the keyboard.
+    void CloseCombo();
+    void EndEditors();
+    void UnlockUpdate();
+    /// What is selected in the open combo; false if nothing is.
+    bool GetComboChoice(CString & text, int & id);
+    /// Gives the combo's choice to its cell and ends the combo.
+    void TakeComboChoice();
+    /// Shows the combo's choice in its cell.
+    void ShowComboChoice();
     /// How the drawing of most kinds begins: turns the colours into drawing colours, fills the cell and lays the wash
     /// on.
     void FillCell(int row, int col, CDC & dc, COLORREF & text, COLORREF & background, CRect const & rect,
@@ -539,6 +557,10 @@ private:
     int m_comboRow = 0;
     int m_comboCol = 0;
     CRect m_comboRect;
+    /// How many combos were opened so far.
+    unsigned int m_comboOpenings = 0;
+    /// The list keeps its window from painting until a timer ends that.
+    bool m_updateLocked = false;
     std::map<int, CString> m_globalComboStrings;
 
     COLORREF m_colorFace;

@@ -8,13 +8,6 @@
 
 namespace
 {
-constexpr UINT_PTR unlock_update_timer = 1;
-constexpr UINT_PTR cancel_combo_timer = 2;
-constexpr UINT_PTR complete_combo_timer = 3;
-constexpr UINT_PTR show_combo_text_timer = 4;
-/// Milliseconds: enough to leave the stack of the combo that asked for the end.
-constexpr UINT combo_delay = 50;
-
 bool IsCell(std::pair<int, int> const & cell)
 {
     return cell.first >= 0 && cell.second >= 0;
@@ -289,59 +282,4 @@ void CXListCtrl::OnContextMenu(CWnd * window, CPoint point)
     auto const chosen = m_onContextCommand;
     if (row >= 0 && chosen)
         chosen(command, row, place.second);
-}
-
-// --- Editors and timers ---
-
-// Cells have no editors of their own: a press on such a cell selects its row, which has happened by now.
-
-void CXListCtrl::DrawEditControl(int, int) {}
-
-void CXListCtrl::DrawComboBoxControl(int, int) {}
-
-LRESULT CXListCtrl::OnComboEscape(WPARAM, LPARAM)
-{
-    SetTimer(cancel_combo_timer, combo_delay, nullptr);
-    return 0;
-}
-
-LRESULT CXListCtrl::OnComboComplete(WPARAM, LPARAM)
-{
-    SetTimer(complete_combo_timer, combo_delay, nullptr);
-    return 0;
-}
-
-LRESULT CXListCtrl::OnXEditKillFocus(WPARAM, LPARAM)
-{
-    return 0;
-}
-
-LRESULT CXListCtrl::OnXEditEscape(WPARAM, LPARAM)
-{
-    // The cell that was edited last gets its former text back even if its edit is gone, which is meant.
-    HeldRow held(*this, m_editRow);
-    int const col = m_editCol;
-    CListCtrl::SetItemText(m_editRow, col, m_savedText);
-    if (held.IsListAlive())
-        Repaint(held, col);
-    return 0;
-}
-
-void CXListCtrl::OnTimer(UINT_PTR id)
-{
-    switch (id)
-    {
-    case unlock_update_timer:
-        KillTimer(id);
-        ::LockWindowUpdate(nullptr);
-        break;
-    case cancel_combo_timer:
-    case complete_combo_timer:
-    case show_combo_text_timer:
-        KillTimer(id);
-        break;
-    default:
-        break;
-    }
-    CListCtrl::OnTimer(id);
 }

@@ -1,0 +1,80 @@
+#pragma once
+// What the tests of the list's in-place editors share.
+
+#include "list_InputTest.h"
+
+#include "frame/InternalMessages.h"
+
+namespace list_editors
+{
+inline constexpr UINT edit_id = 99;
+
+class ListEditorTest : public list_input::ListInputTest
+{
+protected:
+    /// The open edit's window; null if there is none.
+    HWND Edit() const { return ::GetDlgItem(m_list.m_hWnd, edit_id); }
+
+    /// The open combo's window; null if there is none.
+    static HWND Combo()
+    {
+        HWND found = nullptr;
+        ::EnumThreadWindows(
+            ::GetCurrentThreadId(),
+            [](HWND window, LPARAM result) {
+                wchar_t name[32] = {};
+                ::GetClassNameW(window, name, 32);
+                if (CString(name) != L"SuperComboBox")
+                    return TRUE;
+                *reinterpret_cast<HWND *>(result) = window;
+                return FALSE;
+            },
+            reinterpret_cast<LPARAM>(&found));
+        return found;
+    }
+
+    static CString TextOf(HWND window)
+    {
+        wchar_t text[200] = {};
+        ::SendMessageW(window, WM_GETTEXT, 200, reinterpret_cast<LPARAM>(text));
+        return text;
+    }
+    static void SetText(HWND window, wchar_t const * text)
+    {
+        ::SendMessageW(window, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text));
+    }
+
+    /// Opens the edit of that cell by a real click.
+    void OpenEdit(int row, int col)
+    {
+        m_list.SetEdit(row, col, true);
+        ClickForEditor(row, col);
+        ASSERT_NE(Edit(), nullptr);
+        ASSERT_EQ(::GetFocus(), Edit());
+    }
+    /// The release of the button goes to the editor, not to the list.
+    void ClickForEditor(int row, int col)
+    {
+        list_input::Click(Screen(Middle(row, col)));
+        EXPECT_TRUE(tests::PumpUntil([this] { return Edit() != nullptr || Combo() != nullptr; }));
+        tests::PumpPosted();
+    }
+    /// Presses a real key and waits until the edit has ended.
+    void EndEditWith(WORD key)
+    {
+        tests::Key(key);
+        EXPECT_TRUE(tests::PumpUntil([this] { return Edit() == nullptr; }));
+        tests::PumpPosted();
+    }
+
+    /// Makes the cell a combo of the ids 10, 20 and 30 with the texts "ten", "twenty" and "thirty".
+    void MakeCombo(int row, int col, int selected)
+    {
+        m_list.SetComboBox(row, col, true, {{10, L"ten"}, {20, L"twenty"}, {30, L"thirty"}}, selected, selected);
+    }
+    bool PumpUntilComboIsGone()
+    {
+        return tests::PumpUntil([] { return Combo() == nullptr; });
+    }
+};
+} // namespace list_editors

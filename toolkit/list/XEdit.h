@@ -1,0 +1,40 @@
+#pragma once
+// The edit field that lies over a cell of the report list while its text is being changed. Internal to the module.
+
+#include <afxcmn.h>
+
+namespace XListCtrl
+{
+/// Tells the list, by one message at most, that editing has ended: WM_XEDIT_KILL_FOCUS to take the text,
+/// WM_XEDIT_VK_ESCAPE to leave the cell as it was. The list then ends the edit, within that message.
+class CXEdit : public CEdit
+{
+public:
+    /// list: who is told, not owned; null for the parent. text: what is shown at first.
+    CXEdit(CWnd * list, CString const & text) : m_list(list), m_text(text) {}
+    CXEdit(CXEdit const &) = delete;
+    CXEdit & operator=(CXEdit const &) = delete;
+
+    BOOL PreTranslateMessage(MSG * message) override;
+    /// A closing message has gone out: the edit tells nothing any more.
+    bool IsClosing() const { return m_closing != 0; }
+    /// No closing message goes out from now on.
+    void SetClosing() { m_closing = 1; }
+
+protected:
+    afx_msg void OnChar(UINT character, UINT repeat, UINT flags);
+    afx_msg int OnCreate(LPCREATESTRUCT create);
+    afx_msg void OnDestroy();
+    afx_msg void OnKillFocus(CWnd * newWindow);
+    afx_msg void OnPaint();
+    DECLARE_MESSAGE_MAP()
+
+private:
+    /// The object may be gone afterwards.
+    void SendClosing(UINT message);
+
+    CWnd * m_list;
+    CString m_text;
+    unsigned int m_closing = 0;
+};
+} // namespace XListCtrl

@@ -1,0 +1,369 @@
+// CXListCtrl: the edit field and the combo box that lie over a cell while it is being changed.
+
+#include "list/XListCtrl.h"
+
+#include <algorithm>
+#include <memory>
+#include <utility>
+
+#include "frame/RegisteredMessages.h"
+#include "list/XCombo.h"
+#include "list/XEdit.h"
+#include "list/XListCtrlHold.h"
+
+namespace
+{
+constexpr UINT_PTR unlock_update_timer = 1;
+constexpr UINT_PTR cancel_combo_timer = 2;
+constexpr UINT_PTR complete_combo_timer = 3;
+constexpr UINT_PTR show_combo_text_timer = 4;
+/// Milliseconds: enough to leave the stack of the combo that asked for the end.
+constexpr UINT combo_delay = 50;
+/// Milliseconds until the list is painted again after a combo was opened over it.
+constexpr UINT unlock_delay = 50;
+
+constexpr int least_edit_column = 5;
+constexpr int edit_left = 2;
+constexpr int edit_right = 4;
+constexpr UINT edit_id = 99;
+constexpr DWORD edit_style = WS_CHILD | WS_VISIBLE | ES_AUTOHSCROLL;
+
+constexpr int least_combo_width = 20;
+constexpr wchar_t const * combo_class = L"SuperComboBox";
+constexpr DWORD combo_style = WS_POPUP | WS_VISIBLE | CBS_DROPDOWNLIST;
+
+/// The alignment of an edit over a column of that format.
+DWORD EditAlignment(int format)
+{
+    switch (format & LVCFMT_JUSTIFYMASK)
+    {
+    case LVCFMT_LEFT:
+        return ES_LEFT;
+    case LVCFMT_RIGHT:
+        return ES_RIGHT;
+    default:
+        return ES_CENTER;
+    }
+}
+
+/// Ends an editor's window with its object.
+struct EndsWindow
+{
+    void operator()(CWnd * editor) const
+    {
+        if (::IsWindow(editor->m_hWnd))
+            editor->DestroyWindow();
+        delete editor;
+    }
+};
+using EditOwner = std::unique_ptr<XListCtrl::CXEdit, EndsWindow>;
+using ComboOwner = std::unique_ptr<XListCtrl::CXCombo, EndsWindow>;
+} // namespace
+
+// --- Edit ---
+
+void CXListCtrl::DrawEditControl(int row, int col)
+{
+    // The host hears of the scrolling, of the text asked for and of the focus.
+    HeldRow held(*this, row);
+    XLISTCTRLDATA const * const cell = held.Cell(col);
+    if (cell == nullptr || GetColumnWidth(col) < least_edit_column || (cell->properties & XLP_ENABLED) == 0)
+        return;
+    if (!EnsureVisible(row, TRUE) || held.Row() != row)
+        return;
+
+    int edge = 0;
+    for (int i = 0; i < col; ++i)
+        edge += GetColumnWidth(i);
+    CRect area;
+    GetItemRect(row, &area, LVIR_BOUNDS);
+    CRect client;
+    GetClientRect(&client);
+    int const beyond = edge + area.left;
+    if (beyond < 0 || beyond > client.right)
+    {
+        Scroll(CSize(beyond, 0));
+        area.left -= beyond;
+    }
+    if (!held.IsListAlive() || held.Row() != row || held.Cell(col) == nullptr)
+        return;
+    LVCOLUMNW column{};
+    column.mask = LVCF_FMT;
+    GetColumn(col, &column);
+    area.bottom += 1;
+    area.left += edge + edit_left;
+    area.right = std::min(area.left + GetColumnWidth(col) - edit_right, client.right);
+
+    CString const text = GetItemText(row, col);
+    if (!held.IsListAlive())
+        return;
+    EndEdit();
+    if (held.Row() != row || held.Cell(col) == nullptr)
+        return;
+    m_savedText = text;
+    // Not the list's before it is complete: the host may end the list meanwhile.
+    EditOwner edit(new XListCtrl::CXEdit(this, text));
+    bool const created = edit->Create(edit_style | EditAlignment(column.fmt), area, this, edit_id) != FALSE;
+    if (!held.IsListAlive())
+        return;
+    EndEdit();
+    // One that is closing has lost the focus already, when nobody could take its text.
+    if (!held.IsListAlive() || !created || !::IsWindow(edit->m_hWnd) || edit->IsClosing())
+        return;
+    m_edit = edit.release();
+    m_editRow = row;
+    m_editCol = col;
+    m_savedText = text;
+    if (::GetFocus() != m_edit->m_hWnd)
+        m_edit->SetFocus();
+}
+
+void CXListCtrl::EndEdit()
+{
+    EditOwner const edit(std::exchange(m_edit, nullptr));
+    if (edit != nullptr)
+        edit->SetClosing();
+}
+
+LRESULT CXListCtrl::OnXEditKillFocus(WPARAM, LPARAM)
+{
+    if (m_edit == nullptr || !::IsWindow(m_edit->m_hWnd))
+        return 0;
+    // The host hears of each step; what belongs to this edit is kept apart from an edit that it may open meanwhile.
+    Watch const watch(*this);
+    int const row = m_editRow;
+    int const col = m_editCol;
+    CString const before = m_savedText;
+    CString text;
+    m_edit->GetWindowText(text);
+    if (!watch.IsAlive())
+        return 0;
+    EndEdit();
+    if (!watch.IsAlive())
+        return 0;
+    SetItemText(row, col, text);
+    if (!watch.IsAlive() || text == before)
+        return 0;
+    // The cell that stands there now, whichever row that is.
+    XLISTCTRLDATA * const cell = ValidCell(row, col);
+    if (cell == nullptr)
+        return 0;
+    cell->properties |= XLP_MODIFIED;
+    m_listModified = true;
+    UpdateSubItem(row, col);
+    OnItemStateChange(row, col, WM_XLISTCTRL_EDIT_END);
+    return 0;
+}
+
+LRESULT CXListCtrl::OnXEditEscape(WPARAM, LPARAM)
+{
+    Watch const watch(*this);
+    int const row = m_editRow;
+    int const col = m_editCol;
+    CString const before = m_savedText;
+    EndEdit();
+    if (!watch.IsAlive())
+        return 0;
+    // The cell that was edited last gets its former text back even if its edit is gone, which is meant.
+    CListCtrl::SetItemText(row, col, before);
+    if (watch.IsAlive())
+        UpdateSubItem(row, col);
+    return 0;
+}
+
+// --- Combo ---
+
+void CXListCtrl::DrawComboBoxControl(int row, int col)
+{
+    HeldRow held(*this, row);
+    XLISTCTRLDATA const * cell = held.Cell(col);
+    if (!IsValidItem(row, col) || cell == nullptr || (cell->properties & XLP_ENABLED) == 0 ||
+        (cell->properties & XLP_COMBO) == 0 || cell->comboStrings.empty())
+    {
+        return;
+    }
+    CRect place;
+    if (!GetSubItemRect(row, col, LVIR_BOUNDS, place))
+        return;
+    place.top -= 1;
+    m_comboRect = place;
+    if (place.Width() < least_combo_width)
+        return;
+    EndCombo();
+    cell = held.Cell(col);
+    if (cell == nullptr || held.Row() != row)
+        return;
+
+    ClientToScreen(&place);
+    place.left += 1;
+    DWORD const style = combo_style | (cell->comboSorted ? CBS_SORT : 0);
+    // Not the list's before it is complete: it takes the activation, of which the host hears.
+    ComboOwner combo(new XListCtrl::CXCombo(this));
+    bool const created = combo->CreateEx(WS_EX_CONTROLPARENT, combo_class, L"", style, place, this, 0) != FALSE;
+    if (!held.IsListAlive())
+        return;
+    EndCombo();
+    if (!held.IsListAlive())
+        return;
+    cell = held.Cell(col);
+    if (cell == nullptr || held.Row() != row || (created && !::IsWindow(combo->m_hWnd)))
+        return;
+    m_combo = combo.release();
+    ++m_comboOpenings;
+    if (!created)
+        return;
+    m_comboRow = row;
+    m_comboCol = col;
+    m_updateLocked = LockWindowUpdate() != FALSE || m_updateLocked;
+
+    CString current;
+    for (auto const & [id, text] : cell->comboStrings)
+    {
+        if (text == nullptr || *text == L'\0')
+            continue;
+        m_combo->SetItemData(m_combo->AddString(text), id);
+        if (id == cell->comboCurrentId)
+            current = text;
+    }
+    m_combo->SetMaxVisible(cell->comboVisibleItems);
+    int selected = current.IsEmpty() ? 0 : m_combo->FindStringExact(-1, current);
+    if (selected < 0)
+        selected = 0;
+    m_combo->SetCurSel(selected);
+    m_savedText.Empty();
+    m_combo->GetLBText(selected, m_savedText);
+    if (SetTimer(unlock_update_timer, unlock_delay, nullptr) == 0)
+        UnlockUpdate();
+    m_combo->Invalidate();
+    m_combo->RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
+    if (held.IsListAlive() && m_combo != nullptr)
+        m_combo->BringWindowToTop();
+}
+
+void CXListCtrl::EndCombo()
+{
+    ComboOwner const combo(std::exchange(m_combo, nullptr));
+}
+
+void CXListCtrl::CloseCombo()
+{
+    if (m_combo == nullptr)
+        return;
+    Watch const watch(*this);
+    UpdateSubItem(m_comboRow, m_comboCol);
+    HWND const focus = ::GetFocus();
+    bool const focused = focus != nullptr && (focus == m_combo->m_hWnd || ::IsChild(m_combo->m_hWnd, focus));
+    EndCombo();
+    // With the combo's window the focus would leave the list, and the keyboard with it.
+    if (focused && watch.IsAlive())
+        SetFocus();
+}
+
+void CXListCtrl::UnlockUpdate()
+{
+    m_updateLocked = false;
+    ::LockWindowUpdate(nullptr);
+}
+
+bool CXListCtrl::GetComboChoice(CString & text, int & id)
+{
+    int const selected = m_combo->GetCurSel();
+    if (selected < 0)
+        return false;
+    m_combo->GetLBText(selected, text);
+    id = static_cast<int>(m_combo->GetItemData(selected));
+    return true;
+}
+
+void CXListCtrl::TakeComboChoice()
+{
+    if (m_combo == nullptr)
+        return;
+    Watch const watch(*this);
+    int const row = m_comboRow;
+    int const col = m_comboCol;
+    unsigned int const opening = m_comboOpenings;
+    CString text;
+    int id = 0;
+    if (ValidCell(row, col) != nullptr && GetComboChoice(text, id))
+    {
+        CListCtrl::SetItemText(row, col, text);
+        if (!watch.IsAlive())
+            return;
+        UpdateSubItem(row, col);
+        // The cell that stands there now: the host has heard of the text.
+        XLISTCTRLDATA * const cell = ValidCell(row, col);
+        if (cell != nullptr && cell->comboCurrentId != id)
+        {
+            m_listModified = true;
+            cell->comboCurrentId = id;
+            cell->properties |= XLP_MODIFIED;
+            OnItemStateChange(row, col, WM_XLISTCTRL_COMBO_SELECTION);
+        }
+    }
+    // Another one that the host has opened meanwhile stays.
+    if (watch.IsAlive() && m_comboOpenings == opening)
+        CloseCombo();
+}
+
+void CXListCtrl::ShowComboChoice()
+{
+    CString text;
+    int id = 0;
+    if (m_combo == nullptr || ValidCell(m_comboRow, m_comboCol) == nullptr || !GetComboChoice(text, id))
+        return;
+    Watch const watch(*this);
+    int const row = m_comboRow;
+    int const col = m_comboCol;
+    CListCtrl::SetItemText(row, col, text);
+    if (watch.IsAlive())
+        UpdateSubItem(row, col);
+}
+
+LRESULT CXListCtrl::OnComboEscape(WPARAM, LPARAM)
+{
+    SetTimer(cancel_combo_timer, combo_delay, nullptr);
+    return 0;
+}
+
+LRESULT CXListCtrl::OnComboComplete(WPARAM, LPARAM)
+{
+    SetTimer(complete_combo_timer, combo_delay, nullptr);
+    return 0;
+}
+
+void CXListCtrl::EndEditors()
+{
+    if (m_updateLocked)
+        UnlockUpdate();
+    EndEdit();
+    EndCombo();
+}
+
+void CXListCtrl::OnTimer(UINT_PTR id)
+{
+    Watch const watch(*this);
+    switch (id)
+    {
+    case unlock_update_timer:
+        KillTimer(id);
+        UnlockUpdate();
+        break;
+    case cancel_combo_timer:
+        KillTimer(id);
+        CloseCombo();
+        break;
+    case complete_combo_timer:
+        KillTimer(id);
+        TakeComboChoice();
+        break;
+    case show_combo_text_timer:
+        KillTimer(id);
+        ShowComboChoice();
+        break;
+    default:
+        break;
+    }
+    if (watch.IsAlive())
+        CListCtrl::OnTimer(id);
+}
