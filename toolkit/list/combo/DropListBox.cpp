@@ -1,0 +1,279 @@
+#include "list/combo/DropListBox.h"
+
+#include <algorithm>
+
+#include "list/combo/AdvComboBox.h"
+#include "list/combo/ComboMoves.h"
+#include "list/combo/DropScrollBar.h"
+#include "list/combo/WindowWatch.h"
+
+namespace XListCtrl
+{
+namespace
+{
+constexpr int font_height = 20;
+
+class FontSelection
+{
+public:
+    FontSelection(CDC & dc, CFont * font)
+        : m_dc(dc),
+          m_previous(font != nullptr && font->GetSafeHandle() != nullptr ? ::SelectObject(dc, font->GetSafeHandle())
+                                                                         : nullptr)
+    {
+    }
+    ~FontSelection()
+    {
+        if (m_previous != nullptr)
+            ::SelectObject(m_dc, m_previous);
+    }
+    FontSelection(FontSelection const &) = delete;
+    FontSelection & operator=(FontSelection const &) = delete;
+
+private:
+    CDC & m_dc;
+    HGDIOBJ m_previous;
+};
+} // namespace
+
+BEGIN_MESSAGE_MAP(CDropListBox, CListBox)
+    ON_WM_CREATE()
+    ON_WM_MOUSEMOVE()
+    ON_WM_LBUTTONUP()
+    ON_MESSAGE(WM_ADVCOMBO_SET_CAPTURE, &CDropListBox::OnSetCapture)
+    ON_MESSAGE(WM_ADVCOMBO_RELEASE_CAPTURE, &CDropListBox::OnReleaseCapture)
+END_MESSAGE_MAP()
+
+CDropListBox::CDropListBox(CAdvComboBox * combo, CDropScrollBar * scroll)
+    : m_combo(combo),
+      m_font(std::make_unique<CFont>()),
+      m_scroll(scroll)
+{
+    m_font->CreateFont(font_height, 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, DEFAULT_CHARSET, OUT_DEFAULT_PRECIS,
+                       CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, DEFAULT_PITCH | FF_DONTCARE, L"MS Sans Serif");
+}
+
+CDropListBox::~CDropListBox()
+{
+    if (m_hWnd != nullptr)
+        CDropListBox::DestroyWindow();
+}
+
+int CDropListBox::OnCreate(LPCREATESTRUCT create)
+{
+    if (CListBox::OnCreate(create) == -1)
+        return -1;
+    ShowWindow(SW_HIDE);
+    ModifyStyleEx(0, WS_EX_TOOLWINDOW);
+    ShowWindow(SW_SHOW);
+    SetWindowPos(&wndTop, create->x, create->y, create->cx, create->cy, SWP_SHOWWINDOW);
+    SetFont(m_combo->GetComboFont());
+    return 0;
+}
+
+int CDropListBox::GetVisibleRows() const
+{
+    CRect client;
+    GetClientRect(client);
+    return client.Height() / std::max(GetItemHeight(0), 1);
+}
+
+int CDropListBox::GetBottomIndex() const
+{
+    return GetTopIndex() + GetVisibleRows();
+}
+
+combo_item const * CDropListBox::GetItem(int index) const
+{
+    DWORD_PTR const data = GetItemData(index);
+    return data == static_cast<DWORD_PTR>(LB_ERR) ? nullptr : reinterpret_cast<combo_item const *>(data);
+}
+
+bool CDropListBox::IsDisabled(int index) const
+{
+    combo_item const * const item = GetItem(index);
+    return item != nullptr && item->disabled != 0;
+}
+
+int CDropListBox::SetCurSel(int index)
+{
+    if (m_allowDisabled == FALSE)
+    {
+        index = combo_moves::RowToSelect(index, GetCurSel(), [this](int row) {
+            combo_item const * const item = GetItem(row);
+            if (item == nullptr)
+                return combo_moves::RowState::absent;
+            return item->disabled != 0 ? combo_moves::RowState::disabled : combo_moves::RowState::enabled;
+        });
+        if (IsDisabled(index))
+            return index;
+    }
+    int const result = CListBox::SetCurSel(index);
+    if (result != LB_ERR)
+        m_scroll->SetScrollPos(GetTopIndex());
+    return result;
+}
+
+int CDropListBox::SetTopIdx(int index, bool update)
+{
+    m_lastTop = index;
+    int const result = SetTopIndex(index);
+    if (update)
+        m_scroll->SetScrollPos(index);
+    return result;
+}
+
+int CDropListBox::AddListItem(combo_item const & item)
+{
+    auto copy = std::make_unique<combo_item>(item);
+    int const index = AddString(item.text.c_str());
+    if (index >= 0 && SetItemDataPtr(index, copy.get()) != LB_ERR)
+        copy.release();
+    return index;
+}
+
+void CDropListBox::AddListItems(std::list<combo_item> const & items)
+{
+    constexpr int average_bytes = 40;
+    SetRedraw(FALSE);
+    InitStorage(static_cast<int>(items.size()), static_cast<UINT>(items.size() * average_bytes));
+    for (combo_item const & item : items)
+        AddListItem(item);
+    SetRedraw(TRUE);
+}
+
+bool CDropListBox::GetTextSize(wchar_t const * text, int length, CSize & size)
+{
+    CClientDC dc(this);
+    FontSelection const font(dc, m_combo->GetComboFont());
+    if (!::GetTextExtentPoint32W(dc, text, length, &size))
+        return false;
+    if ((m_comboFlags & combo_wide_items) != 0)
+        size.cx += wide_item_extra;
+    return true;
+}
+
+int CDropListBox::GetWidestText(std::list<combo_item> const & items)
+{
+    CClientDC dc(this);
+    FontSelection const font(dc, m_combo->GetComboFont());
+    int const extra = (m_comboFlags & combo_wide_items) != 0 ? wide_item_extra : 0;
+    int widest = 0;
+    for (combo_item const & item : items)
+    {
+        CSize size;
+        if (::GetTextExtentPoint32W(dc, item.text.c_str(), static_cast<int>(item.text.size()), &size))
+            widest = std::max(widest, static_cast<int>(size.cx) + extra);
+    }
+    return widest;
+}
+
+int CDropListBox::RowAt(CPoint point) const
+{
+    return point.y / std::max(GetItemHeight(0), 1) + GetTopIndex();
+}
+
+bool CDropListBox::IsOutside(CPoint point) const
+{
+    CRect client;
+    GetClientRect(client);
+    return !client.PtInRect(point);
+}
+
+void CDropListBox::HandCaptureToParent()
+{
+    WindowWatch const watch(*this, m_life);
+    HWND const parent = ::GetParent(m_hWnd);
+    ::ReleaseCapture();
+    if (watch.IsAlive())
+        ::SendMessage(parent, WM_ADVCOMBO_SET_CAPTURE, 0, 0);
+}
+
+void CDropListBox::OnMouseMove(UINT flags, CPoint point)
+{
+    WindowWatch const watch(*this, m_life);
+    // It is meant that a point outside goes on to find its row.
+    if (IsOutside(point))
+        HandCaptureToParent();
+    if (!watch.IsAlive())
+        return;
+    int const row = RowAt(point);
+    if (GetItem(row) != nullptr && row != GetCurSel() && !IsDisabled(row))
+        SetCurSel(row);
+    if (int const top = GetTopIndex(); top != m_lastTop)
+    {
+        m_lastTop = top;
+        m_scroll->SetScrollPos(top);
+    }
+    CListBox::OnMouseMove(flags, point);
+}
+
+void CDropListBox::OnLButtonUp(UINT, CPoint point)
+{
+    WindowWatch const watch(*this, m_life);
+    // It is meant that the selection is chosen all the same.
+    if (IsOutside(point))
+        HandCaptureToParent();
+    if (!watch.IsAlive() || IsDisabled(RowAt(point)))
+        return;
+    int const selected = GetCurSel();
+    if (IsDisabled(selected))
+        return;
+    HWND const combo = m_combo->m_hWnd;
+    if (selected != LB_ERR)
+        ::PostMessage(combo, WM_ADVCOMBO_SELECTED, static_cast<WPARAM>(selected), 0);
+    ::ReleaseCapture();
+    ::PostMessage(combo, WM_ADVCOMBO_CLOSE_DROP, 0, 0);
+}
+
+LRESULT CDropListBox::OnSetCapture(WPARAM, LPARAM)
+{
+    SetCapture();
+    return 0;
+}
+
+LRESULT CDropListBox::OnReleaseCapture(WPARAM, LPARAM)
+{
+    ::ReleaseCapture();
+    return 0;
+}
+
+LRESULT CDropListBox::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    switch (message)
+    {
+    case WM_LBUTTONDOWN:
+    case WM_LBUTTONDBLCLK:
+    case WM_MOUSEMOVE:
+        if (IsDisabled(RowAt(CPoint(static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))))))
+            return 0;
+        break;
+    case WM_DESTROY:
+        DeleteItems();
+        break;
+    default:
+        break;
+    }
+    return CListBox::DefWindowProc(message, wParam, lParam);
+}
+
+BOOL CDropListBox::DestroyWindow()
+{
+    DeleteItems();
+    return CListBox::DestroyWindow();
+}
+
+void CDropListBox::DeleteItems()
+{
+    if (m_hWnd == nullptr)
+        return;
+    int const count = GetCount();
+    for (int index = 0; index < count; ++index)
+        delete GetItem(index);
+    if (count > 0)
+    {
+        SetRedraw(FALSE);
+        ResetContent();
+    }
+}
+} // namespace XListCtrl

@@ -1,0 +1,77 @@
+#pragma once
+
+#include <afxwin.h>
+
+#include <list>
+#include <memory>
+
+#include "frame/LifeWatch.h"
+#include "list/combo/ComboItems.h"
+
+namespace XListCtrl
+{
+class CAdvComboBox;
+class CDropScrollBar;
+
+/// The list of a drop window. It selects what the pointer is over, and steps over disabled items. Each entry's item
+/// data is a copy of its combo_item, which the list owns. Internal to the module.
+class CDropListBox : public CListBox
+{
+public:
+    /// Neither is owned.
+    CDropListBox(CAdvComboBox * combo, CDropScrollBar * scroll);
+    CDropListBox(CDropListBox const &) = delete;
+    CDropListBox & operator=(CDropListBox const &) = delete;
+    ~CDropListBox() override;
+
+    int GetBottomIndex() const;
+    int GetVisibleRows() const;
+    /// Selects the next item in the direction of the move that is not disabled. The result is that of LB_SETCURSEL, or
+    /// the index of a disabled item, which was then not selected.
+    int SetCurSel(int index);
+    /// update: the scroll bar follows.
+    int SetTopIdx(int index, bool update);
+    /// The new entry's index.
+    int AddListItem(combo_item const & item);
+    /// All items at once, without painting in between.
+    void AddListItems(std::list<combo_item> const & items);
+    /// In pixels, with the extra of the combo's flags; false if it could not be measured.
+    bool GetTextSize(wchar_t const * text, int length, CSize & size);
+    /// The width of the widest item, with the extra; 0 without items.
+    int GetWidestText(std::list<combo_item> const & items);
+    void SetComboFlags(DWORD flags) { m_comboFlags = flags; }
+    /// Null outside the list.
+    combo_item const * GetItem(int index) const;
+    bool IsDisabled(int index) const;
+
+    BOOL DestroyWindow() override;
+
+protected:
+    /// The native list selects whatever is pressed; disabled items are kept from it.
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+    afx_msg int OnCreate(LPCREATESTRUCT create);
+    afx_msg void OnMouseMove(UINT flags, CPoint point);
+    afx_msg void OnLButtonUp(UINT flags, CPoint point);
+    afx_msg LRESULT OnSetCapture(WPARAM, LPARAM);
+    afx_msg LRESULT OnReleaseCapture(WPARAM, LPARAM);
+    DECLARE_MESSAGE_MAP()
+
+    CAdvComboBox * m_combo;
+    /// Made and never selected, which is meant.
+    std::unique_ptr<CFont> m_font;
+    CDropScrollBar * m_scroll;
+    int m_lastTop = 0;
+    DWORD m_comboFlags = 0;
+    /// While it is FALSE, the selection steps over disabled items.
+    BOOL m_allowDisabled = FALSE;
+
+private:
+    int RowAt(CPoint point) const;
+    bool IsOutside(CPoint point) const;
+    void HandCaptureToParent();
+    void DeleteItems();
+
+    LifeSign m_life;
+};
+} // namespace XListCtrl
