@@ -292,6 +292,26 @@ TEST_F(ListSearchWindow, AllRowsAreDisabledWithoutAskingForThem)
 
 // --- A click on a header, whose notifications reach the host ---
 
+TEST_F(ListSearchWindow, ARowFoundOnceIsFoundWhereItHasMovedTo)
+{
+    ASSERT_EQ(m_list.FindDataItem(140), 40);
+    m_list.DeleteItem(3);
+    EXPECT_EQ(m_list.FindDataItem(140), 39);
+    m_list.InsertItem(0, L"new", nullptr, 7);
+    m_list.InsertItem(0, L"new", nullptr, 8);
+    EXPECT_EQ(m_list.FindDataItem(140), 41);
+    for (int row = 0; row < m_list.GetItemCount(); ++row)
+        m_list.SetItemText(row, 1, -row);
+    m_list.SortByColumn(1, true, false, nullptr);
+    EXPECT_EQ(m_list.FindDataItem(140), m_list.GetItemCount() - 1 - 41);
+    EXPECT_EQ(m_list.FindDataItem(8), m_list.GetItemCount() - 1);
+    m_list.DeleteItem(m_list.FindDataItem(140));
+    EXPECT_EQ(m_list.FindDataItem(140), -1);
+    m_list.DeleteAllItems();
+    m_list.InsertItem(0, L"again", nullptr, 140);
+    EXPECT_EQ(m_list.FindDataItem(140), 0);
+}
+
 class ListHeaderWalk : public ListSearchWindow
 {
 protected:

@@ -8,8 +8,6 @@
 //
 // For one thread.
 
-#include <memory>
-
 /// Stands for the life of the object that has it. A copy of the object is an object of its own.
 class LifeSign
 {
@@ -17,23 +15,41 @@ public:
     LifeSign() = default;
     LifeSign(LifeSign const &) {}
     LifeSign & operator=(LifeSign const &) { return *this; }
+    ~LifeSign()
+    {
+        m_token->over = true;
+        m_token->Release();
+    }
 
 private:
     friend class LifeWatch;
 
-    std::shared_ptr<void const> m_token = std::make_shared<char>();
+    /// Lasts as long as anybody watches. A watch is taken for every cell that is written, which is too often for the
+    /// counting of a shared pointer.
+    struct Token
+    {
+        void Release()
+        {
+            if (--holders == 0)
+                delete this;
+        }
+        unsigned int holders = 1;
+        bool over = false;
+    };
+    Token * m_token = new Token;
 };
 
 class LifeWatch
 {
 public:
-    explicit LifeWatch(LifeSign const & sign) : m_token(sign.m_token) {}
+    explicit LifeWatch(LifeSign const & sign) : m_token(sign.m_token) { ++m_token->holders; }
+    ~LifeWatch() { m_token->Release(); }
     LifeWatch(LifeWatch const &) = delete;
     LifeWatch & operator=(LifeWatch const &) = delete;
 
     /// The object that was watched is gone.
-    bool Over() const { return m_token.expired(); }
+    bool Over() const { return m_token->over; }
 
 private:
-    std::weak_ptr<void const> m_token;
+    LifeSign::Token * m_token;
 };

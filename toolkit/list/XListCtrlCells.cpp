@@ -66,10 +66,17 @@ int CXListCtrl::PlaceOf(XLISTCTRLROW const * object) const
 {
     if (object == nullptr || m_hWnd == nullptr)
         return -1;
+    // Each row hangs from one item then, so that one seen at that place is nowhere else.
+    bool const known = RowsAreKnown();
+    if (known && object->lastPlace() >= 0 && NativeParam(object->lastPlace()) == object)
+        return object->lastPlace();
     LVFINDINFOW wanted{};
     wanted.flags = LVFI_PARAM;
     wanted.lParam = reinterpret_cast<LPARAM>(object);
-    return FindItem(&wanted);
+    int const place = FindItem(&wanted);
+    if (known)
+        object->SetLastPlace(place);
+    return place;
 }
 
 void CXListCtrl::RememberRow(int row, XLISTCTRLROW * object) const
@@ -78,6 +85,8 @@ void CXListCtrl::RememberRow(int row, XLISTCTRLROW * object) const
         return;
     m_knownRow = row;
     m_knownRowObject = object;
+    if (object != nullptr && m_rowsInStep)
+        object->SetLastPlace(row);
 }
 
 void CXListCtrl::ForgetRow() const
@@ -202,14 +211,9 @@ template <class Matches> int CXListCtrl::FindTopmost(Matches && matches) const
     // While items change, a row given back may still hang from one.
     bool const known = RowsAreKnown();
     CXListRowPool::Slots const rows = known ? m_rowPool.InUse() : m_rowPool.All();
-    auto const placeOf = [this](XLISTCTRLROW const & row) {
-        LVFINDINFOW find{};
-        find.flags = LVFI_PARAM;
-        find.lParam = reinterpret_cast<LPARAM>(&row);
-        return FindItem(&find);
-    };
     return FindTopmostRow(
-        rows, known, [this] { return RowCount(); }, matches, placeOf, [this](int row) { return NativeParam(row); });
+        rows, known, [this] { return RowCount(); }, matches, [this](XLISTCTRLROW const & row) { return PlaceOf(&row); },
+        [this](int row) { return NativeParam(row); });
 }
 
 bool CXListCtrl::IsValidItem(int row, int col) const

@@ -34,7 +34,7 @@ XLISTCTRLROW * CXListRowPool::Take()
     std::unique_ptr<XLISTCTRLROW> & slot = m_slots[m_used];
     if (slot == nullptr)
         slot = std::make_unique<XLISTCTRLROW>();
-    slot->m_slot = m_used++;
+    slot->m_slot = static_cast<unsigned int>(m_used++);
     return slot.get();
 }
 
@@ -49,6 +49,6 @@ bool CXListRowPool::GiveBack(XLISTCTRLROW const * row)
 void CXListRowPool::Swap(std::size_t a, std::size_t b)
 {
     std::swap(m_slots[a], m_slots[b]);
-    m_slots[a]->m_slot = a;
-    m_slots[b]->m_slot = b;
+    m_slots[a]->m_slot = static_cast<unsigned int>(a);
+    m_slots[b]->m_slot = static_cast<unsigned int>(b);
 }

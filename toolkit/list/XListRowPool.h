@@ -32,6 +32,10 @@ public:
     /// Counts the rows that this object has been: whoever holds it over a call that can run the host's code sees by
     /// another number that it was given back and taken anew.
     unsigned int use() const { return m_use; }
+    /// Where the row was seen last; -1 if nowhere yet. Rows move without telling it: only worth a question whether the
+    /// row is still there.
+    int lastPlace() const { return m_lastPlace; }
+    void SetLastPlace(int place) const { m_lastPlace = place; }
 
 private:
     friend class CXListRowPool;
@@ -39,9 +43,10 @@ private:
     std::unique_ptr<XLISTCTRLDATA[]> m_cells;
     unsigned int m_capacity = 0;
     unsigned int m_use = 0;
-    SortMark m_sortMark;
+    mutable int m_lastPlace = -1;
     /// The place in its pool.
-    std::size_t m_slot = 0;
+    unsigned int m_slot = 0;
+    SortMark m_sortMark;
 };
 
 /// Owns every row that a list ever had, until the list ends. Rows in use stand first, in no particular order; behind
