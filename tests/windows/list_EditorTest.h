@@ -3,11 +3,17 @@
 
 #include "list_InputTest.h"
 
-#include "frame/InternalMessages.h"
+#include <map>
 
 namespace list_editors
 {
 inline constexpr UINT edit_id = 99;
+using Entries = std::map<int, wchar_t const *>;
+
+// What the editors tell the list by.
+inline UINT const edit_ends = ::RegisterWindowMessageW(L"WM_XEDIT_KILL_FOCUS");
+inline UINT const edit_escapes = ::RegisterWindowMessageW(L"WM_XEDIT_VK_ESCAPE");
+inline UINT const combo_completes = ::RegisterWindowMessageW(L"WM_XCOMBOLIST_COMPLETE");
 
 class ListEditorTest : public list_input::ListInputTest
 {
@@ -70,7 +76,8 @@ protected:
     /// Makes the cell a combo of the ids 10, 20 and 30 with the texts "ten", "twenty" and "thirty".
     void MakeCombo(int row, int col, int selected)
     {
-        m_list.SetComboBox(row, col, true, {{10, L"ten"}, {20, L"twenty"}, {30, L"thirty"}}, selected, selected);
+        Entries const entries{{10, L"ten"}, {20, L"twenty"}, {30, L"thirty"}};
+        m_list.SetComboBox(row, col, entries, selected, selected);
     }
     bool PumpUntilComboIsGone()
     {

@@ -10,6 +10,7 @@
 namespace
 {
 using tests::PostedRows;
+using namespace list_editors;
 
 class ListEditCells : public list_editors::ListEditorTest
 {
@@ -64,7 +65,7 @@ TEST_F(ListEditCells, TheEditHasTheMouseFromItsOpeningOn)
     m_list.DrawEditControl(2, 1);
     ASSERT_NE(Edit(), nullptr);
     EXPECT_EQ(::GetCapture(), Edit());
-    m_list.SendMessage(WM_XEDIT_VK_ESCAPE);
+    m_list.SendMessage(edit_escapes);
     EXPECT_EQ(::GetCapture(), nullptr);
 }
 
@@ -150,7 +151,7 @@ TEST_F(ListEditCells, ReturnTakesATypedTextAndTellsOnce)
     std::vector<std::pair<int, int>> heard;
     m_list.m_onStateChange = [&](int row, int col) { heard.emplace_back(row, col); };
     OpenEdit(3, 2);
-    tests::MessageRecorder closing({WM_XEDIT_KILL_FOCUS, WM_XEDIT_VK_ESCAPE});
+    tests::MessageRecorder closing({edit_ends, edit_escapes});
     closing.Watch(m_list.m_hWnd, "list");
     HWND const edit = Edit();
     tests::Type(L"new");
@@ -162,8 +163,8 @@ TEST_F(ListEditCells, ReturnTakesATypedTextAndTellsOnce)
     EXPECT_EQ(m_host.TakePosted(), (PostedRows{{WM_XLISTCTRL_EDIT_END, 3, 2}}));
     EXPECT_EQ(heard, (std::vector<std::pair<int, int>>{{3, 2}}));
     // The focus that it loses by its end is no second end.
-    EXPECT_EQ(closing.Count("list", WM_XEDIT_KILL_FOCUS), 1);
-    EXPECT_EQ(closing.Count("list", WM_XEDIT_VK_ESCAPE), 0);
+    EXPECT_EQ(closing.Count("list", edit_ends), 1);
+    EXPECT_EQ(closing.Count("list", edit_escapes), 0);
 }
 
 TEST_F(ListEditCells, ADifferenceInCaseIsAChange)
@@ -211,7 +212,7 @@ TEST_F(ListEditCells, ANewEditThrowsTheOldOneAway)
     ASSERT_NE(Edit(), nullptr);
     EXPECT_EQ(m_list.GetItemText(1, 1), L"kept");
     SetText(Edit(), L"second");
-    m_list.SendMessage(WM_XEDIT_KILL_FOCUS);
+    m_list.SendMessage(edit_ends);
     EXPECT_EQ(m_list.GetItemText(4, 2), L"second");
     EXPECT_EQ(m_host.TakePosted(), (PostedRows{{WM_XLISTCTRL_EDIT_END, 4, 2}}));
 }
@@ -246,7 +247,7 @@ TEST_F(ListEditCells, TheResultGoesToWhateverRowStandsThereThen)
     m_list.DrawEditControl(1, 1);
     SetText(Edit(), L"moved");
     m_list.DeleteItem(0);
-    m_list.SendMessage(WM_XEDIT_KILL_FOCUS);
+    m_list.SendMessage(edit_ends);
     EXPECT_EQ(m_list.GetItemText(1, 0), L"r2");
     EXPECT_EQ(m_list.GetItemText(1, 1), L"moved");
     EXPECT_EQ(m_host.TakePosted(), (PostedRows{{WM_XLISTCTRL_EDIT_END, 1, 1}}));
@@ -257,13 +258,13 @@ TEST_F(ListEditCells, WithoutItsRowAnEditEndsQuietly)
     m_list.DrawEditControl(list_input::rows - 1, 1);
     SetText(Edit(), L"lost");
     m_list.DeleteAllItems();
-    m_list.SendMessage(WM_XEDIT_KILL_FOCUS);
+    m_list.SendMessage(edit_ends);
     EXPECT_EQ(Edit(), nullptr);
     EXPECT_EQ(m_host.TakePosted(), PostedRows{});
     m_list.AddRows(3);
     m_list.DrawEditControl(0, 1);
     m_list.DeleteAllItems();
-    m_list.SendMessage(WM_XEDIT_VK_ESCAPE);
+    m_list.SendMessage(edit_escapes);
     EXPECT_EQ(Edit(), nullptr);
 }
 
@@ -274,7 +275,7 @@ TEST_F(ListEditCells, SortingWithAnOpenEditIsSafe)
     m_list.DrawEditControl(0, 2);
     SetText(Edit(), L"top");
     m_list.SortByColumn(1, true, false, nullptr);
-    m_list.SendMessage(WM_XEDIT_KILL_FOCUS);
+    m_list.SendMessage(edit_ends);
     EXPECT_EQ(m_list.GetItemText(0, 0), L"r7");
     EXPECT_EQ(m_list.GetItemText(0, 2), L"top");
 }
@@ -289,7 +290,7 @@ TEST_F(ListEditCells, NoEditOutlivesItsList)
     EXPECT_EQ(::GetCapture(), nullptr);
     // The window made anew starts without an editor.
     ASSERT_TRUE(m_list.Create(tests::TestList::default_style, CRect(0, 0, 360, 200), &m_host.parent, 7));
-    m_list.SendMessage(WM_XEDIT_KILL_FOCUS);
+    m_list.SendMessage(edit_ends);
     EXPECT_EQ(Edit(), nullptr);
     EXPECT_EQ(m_host.TakePosted(), PostedRows{});
 }
@@ -337,7 +338,7 @@ TEST_F(ListEditCells, AHostMayTakeTheFocusBackWhileTheEditOpens)
     m_host.parent.onNotify = nullptr;
     EXPECT_EQ(m_list.GetItemText(1, 1), L"kept");
     // Whatever stands there now can be ended.
-    m_list.SendMessage(WM_XEDIT_KILL_FOCUS);
+    m_list.SendMessage(edit_ends);
     EXPECT_EQ(Edit(), nullptr);
     m_list.DrawEditControl(1, 1);
     EXPECT_NE(Edit(), nullptr);
@@ -382,7 +383,7 @@ TEST_F(ListEditCells, ThousandsOfEditsLeaveNothingBehind)
         {
             m_list.DrawEditControl(1, 1);
             ASSERT_NE(Edit(), nullptr);
-            m_list.SendMessage(i % 2 == 0 ? WM_XEDIT_KILL_FOCUS : WM_XEDIT_VK_ESCAPE);
+            m_list.SendMessage(i % 2 == 0 ? edit_ends : edit_escapes);
             ASSERT_EQ(Edit(), nullptr);
         }
     };
