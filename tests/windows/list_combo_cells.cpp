@@ -23,7 +23,10 @@ protected:
         ::LockWindowUpdate(nullptr);
     }
 
-    static int Ask(UINT message, WPARAM wParam = 0) { return static_cast<int>(::SendMessageW(Combo(), message, wParam, 0)); }
+    static int Ask(UINT message, WPARAM wParam = 0)
+    {
+        return static_cast<int>(::SendMessageW(Combo(), message, wParam, 0));
+    }
     static CString Item(int index)
     {
         wchar_t text[100] = {};

@@ -5,8 +5,8 @@
 
 namespace XListCtrl
 {
-/// Tells the list by WM_XCOMBOLIST_VK_ESCAPE and WM_XCOMBOLIST_COMPLETE that choosing has ended. The list ends the combo
-/// some time later, since the combo is still at work then.
+/// Tells the list by WM_XCOMBOLIST_VK_ESCAPE and WM_XCOMBOLIST_COMPLETE that choosing has ended. The list ends the
+/// combo some time later, since the combo is still at work then.
 class CXCombo : public CAdvComboBox
 {
 public:
