@@ -41,3 +41,4 @@
 #define IDC_HOSTS_OWN 2210
 
 #define IDS_READING 2061
+#define IDS_COMBO_LINES 2062
