@@ -82,10 +82,10 @@ TEST_F(ListComboCells, ASortedCellGivesTheSortedStyle)
 TEST_F(ListComboCells, NeverOpensInACellNarrowerThan20Pixels)
 {
     MakeCombo(1, 1, 10);
-    m_list.SetColumnWidth(1, 19);
+    m_list.CListCtrl::SetColumnWidth(1, 19);
     m_list.DrawComboBoxControl(1, 1);
     EXPECT_EQ(Combo(), nullptr);
-    m_list.SetColumnWidth(1, 20);
+    m_list.CListCtrl::SetColumnWidth(1, 20);
     m_list.DrawComboBoxControl(1, 1);
     EXPECT_NE(Combo(), nullptr);
 }

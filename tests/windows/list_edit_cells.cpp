@@ -87,10 +87,10 @@ TEST_F(ListEditCells, FollowsTheColumnsAlignment)
 TEST_F(ListEditCells, AColumnOf4PixelsNeverOpensAnEdit)
 {
     m_list.SetEdit(1, 2, true);
-    m_list.SetColumnWidth(2, 4);
+    m_list.CListCtrl::SetColumnWidth(2, 4);
     m_list.DrawEditControl(1, 2);
     EXPECT_EQ(Edit(), nullptr);
-    m_list.SetColumnWidth(2, 5);
+    m_list.CListCtrl::SetColumnWidth(2, 5);
     m_list.DrawEditControl(1, 2);
     EXPECT_NE(Edit(), nullptr);
 }
@@ -312,7 +312,8 @@ TEST_F(ListEditCells, AHostMayDeleteTheListWhenItHearsOfTheText)
     ASSERT_TRUE(list->Create(tests::TestList::default_style, CRect(100, 100, 300, 200), &m_host.parent, 8));
     list->AddColumns(2);
     list->AddRows(2);
-    list->DrawEditControl(1, 1);
+    // The native list tells of texts of its first column alone.
+    list->DrawEditControl(1, 0);
     HWND const edit = ::GetDlgItem(list->m_hWnd, list_editors::edit_id);
     ASSERT_NE(edit, nullptr);
     SetText(edit, L"typed");
@@ -367,12 +368,13 @@ TEST_F(ListEditCells, IsFramedInItsColour)
     ::RedrawWindow(Edit(), nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
     CRect place;
     ::GetWindowRect(Edit(), &place);
-    HDC const screen = ::GetDC(nullptr);
+    m_list.ScreenToClient(&place);
     CPoint const middle = place.CenterPoint();
-    EXPECT_EQ(::GetPixel(screen, place.left - 1, middle.y), 0x996633U);
-    EXPECT_EQ(::GetPixel(screen, middle.x, place.top - 1), 0x996633U);
-    EXPECT_EQ(::GetPixel(screen, middle.x, place.bottom), 0x996633U);
-    ::ReleaseDC(nullptr, screen);
+    CClientDC dc(&m_list);
+    EXPECT_EQ(dc.GetPixel(place.left - 1, middle.y), 0x996633U);
+    EXPECT_EQ(dc.GetPixel(middle.x, place.top - 1), 0x996633U);
+    EXPECT_EQ(dc.GetPixel(middle.x, place.bottom), 0x996633U);
+    EXPECT_EQ(dc.GetPixel(place.right + 1, middle.y), 0x996633U);
 }
 
 TEST_F(ListEditCells, ThousandsOfEditsLeaveNothingBehind)

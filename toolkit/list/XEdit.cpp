@@ -10,6 +10,12 @@ namespace
 {
 constexpr COLORREF frame_color = 0x996633;
 constexpr int frame_widening = 2;
+
+/// Whether the object is still there: with its window it is, and whoever ends it ends that.
+bool IsStillThere(HWND window, CWnd const * object)
+{
+    return ::IsWindow(window) && CWnd::FromHandlePermanent(window) == object;
+}
 } // namespace
 
 // clang-format off
@@ -69,8 +75,11 @@ void CXEdit::OnDestroy()
 
 void CXEdit::OnKillFocus(CWnd * newWindow)
 {
+    // The host hears of the loss as well.
+    HWND const window = m_hWnd;
     CEdit::OnKillFocus(newWindow);
-    SendClosing(WM_XEDIT_KILL_FOCUS);
+    if (IsStillThere(window, this))
+        SendClosing(WM_XEDIT_KILL_FOCUS);
 }
 
 void CXEdit::OnPaint()
@@ -86,7 +95,7 @@ void CXEdit::OnPaint()
     }
     Default();
     // The list is asked for colours, and is anything its host makes of it.
-    if (!::IsWindow(window) || CWnd::FromHandlePermanent(window) != this)
+    if (!IsStillThere(window, this))
         return;
     GetClientRect(&area);
     area.right += frame_widening;
