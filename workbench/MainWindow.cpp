@@ -32,6 +32,10 @@ constexpr int c_preferredPercent = 93;
 constexpr int c_preferredWidthLimit = 790;
 constexpr int c_preferredHeightLimit = 420;
 
+// How often after its activation the window looks whether its dialogs are above it, and how many milliseconds apart.
+constexpr int c_raises = 8;
+constexpr UINT c_raiseInterval = 40;
+
 } // namespace
 
 BEGIN_MESSAGE_MAP(CMainWindow, CWnd)
@@ -233,11 +237,13 @@ void CMainWindow::OnActivate(UINT state, CWnd * other, BOOL minimized)
     else
     {
         PostMessage(message_raise_dialogs);
+        m_raises = c_raises;
+        SetTimer(raise_timer, c_raiseInterval, nullptr);
     }
 }
 
 /// Puts the dialogs above the window again, in their order. Windows never lets them fall behind their owner, other
-/// systems do when it is activated.
+/// systems do when it is activated: a click raises it a little later, without a message that says so.
 LRESULT CMainWindow::OnRaiseDialogs(WPARAM, LPARAM)
 {
     auto const dialogs = Dialogs();

@@ -7,9 +7,9 @@
 #include <numeric>
 #include <utility>
 
-#include "SelectionColours.h"
 #include "frame/CoreLibrary.h"
 #include "frame/RegisteredMessages.h"
+#include "logic/ReadableColours.h"
 #include "logic/Texts.h"
 #include "resource.h"
 
@@ -452,6 +452,11 @@ void CRecordingList::Tell(unsigned changes)
 LRESULT CRecordingList::OnTellChanges(WPARAM, LPARAM)
 {
     auto const changes = std::exchange(m_changes, 0U);
+    if ((changes & changed_widths) != 0)
+    {
+        // Only now has the header given the column the width that was told at the drag's end.
+        FitColumns();
+    }
     // A copy, as what it does may replace it.
     if (auto const onChanged = m_onChanged; onChanged && changes != 0)
     {
@@ -553,7 +558,7 @@ void CRecordingList::GetDrawColors(int row, int column, COLORREF & text, COLORRE
     CXListCtrl::GetDrawColors(row, column, chosenText, chosenBackground);
     if (chosenBackground != CLR_INVALID)
     {
-        auto const colours = workbench::LightRowColours(chosenBackground);
+        auto const colours = workbench::ChosenRowColours(chosenBackground, ::GetSysColor(COLOR_WINDOW));
         text = colours.text;
         background = colours.background;
     }

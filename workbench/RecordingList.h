@@ -111,7 +111,7 @@ public:
     /// Fills a line; a file that could not be read gets a disabled one. A line that does not exist is ignored.
     void ShowAnalysis(int line, std::shared_ptr<workbench::RecordingAnalysis const> const & analysis);
 
-    /// Says again that a line's file is being read.
+    /// Says again that a line's file is being read. The values that the line has go.
     void ShowReading(int line, std::filesystem::path const & file);
 
     /// The line that stands in a row now, and the row of a line; -1 where there is none.
@@ -121,6 +121,10 @@ public:
     /// Sorts the lines by a column, whose title gets the arrow; lines without a value there come last. The column of
     /// the check boxes sorts nothing.
     void SortLines(Column column, bool ascending);
+
+    /// The column by which the lines are sorted, -1 for none, and how.
+    int SortedColumn() const { return m_sortedColumn; }
+    bool IsAscending() const { return m_ascending; }
 
     /// Copies the selected lines, or all of them, as a table for other programs: as text and as HTML. Without a
     /// selection all lines are copied. False if there are none or the clipboard refuses.

@@ -5,8 +5,8 @@
 #include <algorithm>
 
 #include "RecordingOverview.h"
-#include "SelectionColours.h"
 #include "frame/CoreLibrary.h"
+#include "logic/ReadableColours.h"
 #include "logic/RecordingDetails.h"
 #include "logic/TextFormat.h"
 #include "logic/Texts.h"
@@ -128,7 +128,8 @@ void CRecordingList::PrepareRow(int row, std::filesystem::path const & file, Not
     SetCheckbox(row, column_check, notes.checked ? XLC_CHECKED : XLC_UNCHECKED);
     SetItemText(row, column_name, name.c_str());
     SetHyperlink(row, column_name, true, false);
-    SetItemColors(row, column_name, workbench::LinkColour(), ::GetSysColor(COLOR_WINDOW), XLISTCTRLDATA::no_gradient);
+    SetItemColors(row, column_name, workbench::LinkColourOn(::GetSysColor(COLOR_WINDOW)), ::GetSysColor(COLOR_WINDOW),
+                  XLISTCTRLDATA::no_gradient);
     SetItemToolTipText(row, column_name, file.c_str());
     SetRadioButton(row, column_reference, notes.reference ? XLC_RADIO_ON : XLC_RADIO_OFF);
     SetComboBoxGlobalStrings(row, column_rating, notes.rating, 0);
