@@ -75,8 +75,9 @@ BEGIN_MESSAGE_MAP(CMainWindow, CWnd)
     ON_MESSAGE(message_recordings_ready, &CMainWindow::OnRecordingsReady)
 END_MESSAGE_MAP()
 
-CMainWindow::CMainWindow()
-    : m_memory(c_title, CFensterManager::window_main),
+CMainWindow::CMainWindow(int dotsPerInch)
+    : m_metrics(dotsPerInch),
+      m_memory(c_title, CFensterManager::window_main),
       m_details(*this),
       m_settingsDialog(*this),
       m_preview(*this),
@@ -163,7 +164,13 @@ void CMainWindow::Arrange()
     auto const marginX = m_metrics.X(c_margin);
     auto const marginY = m_metrics.Y(c_margin);
     auto const spacingY = m_metrics.Y(c_spacing);
-    CSize const list(std::max(m_list.LeastWidth(), CMeasurePanel::LeastWidth(m_metrics)),
+    // All columns are in sight where the screen has room for them.
+    CRect work;
+    ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
+    CRect frame;
+    ::AdjustWindowRectEx(&frame, GetStyle(), TRUE, GetExStyle());
+    auto const room = work.Width() - frame.Width() - 2 * marginX;
+    CSize const list(std::max(std::min(m_list.LeastWidth(), room), CMeasurePanel::LeastWidth(m_metrics)),
                      m_metrics.Y(c_leastListHeight));
     auto const panelHeight = CMeasurePanel::Height(m_metrics);
     auto const waveformHeight = m_metrics.Y(c_leastWaveformHeight);

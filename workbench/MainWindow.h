@@ -30,7 +30,8 @@
 class CMainWindow : public CWnd
 {
 public:
-    CMainWindow();
+    /// dotsPerInch: of the screen, where it is not what the system says.
+    explicit CMainWindow(int dotsPerInch = 0);
 
     /// Creates the window at the place where it stood last.
     bool CreateMainWindow();

@@ -29,7 +29,7 @@ constexpr COLORREF c_damagedColour = RGB(255, 226, 160);
 // A bar at 0 would show no text.
 constexpr int c_leastBarPercent = 2;
 
-// The width of a status image and the room left of it.
+// The width of a status image and the room left of it, on a screen of the usual resolution.
 constexpr int c_imageRoom = 26;
 
 /// Text at the right edge can come out a pixel wider than it was measured; the blank keeps its last digit whole.
@@ -71,7 +71,7 @@ void CRecordingList::AppendFile(std::filesystem::path const & file, Notes const 
 {
     Batch const batch(*this);
     auto const line = LineCount();
-    auto const row = AddItem(L"", nullptr, line);
+    auto const row = AddItem(L"", nullptr, line + 1);
     if (row < 0)
     {
         return;
@@ -184,7 +184,7 @@ void CRecordingList::ShowStatus(int row, workbench::RecordingAnalysis const & an
     auto const status = analysis.StatusText();
     SetItemText(row, column_status, status.c_str());
     SetItemImage(row, column_status, analysis.problem ? c_imageUnreadable : damaged ? c_imageDamaged : c_imageOk);
-    Require(column_status, WidthOf(status) + c_imageRoom);
+    Require(column_status, WidthOf(status) + m_metrics->Scaled(c_imageRoom));
 }
 
 void CRecordingList::ShowValues(int row, std::shared_ptr<workbench::RecordingAnalysis const> const & analysis)

@@ -86,9 +86,9 @@ protected:
         fs::remove_all(m_folder);
     }
 
-    void OpenWindow()
+    void OpenWindow(int dotsPerInch = 0)
     {
-        m_window = std::make_unique<CMainWindow>();
+        m_window = std::make_unique<CMainWindow>(dotsPerInch);
         tests::App().m_pMainWnd = m_window.get();
         ASSERT_TRUE(m_window->CreateMainWindow());
         m_window->ShowWindow(SW_SHOW);
@@ -390,6 +390,22 @@ TEST_F(WorkbenchMainWindow, ATitleThatIsClickedGetsRoomForItsSortMark)
     auto const before = list.GetColumnWidth(CRecordingList::column_channels);
     tests::Click(tests::ClientPoint(header.m_hWnd, title.CenterPoint()));
     EXPECT_TRUE(tests::PumpUntil([&] { return list.GetColumnWidth(CRecordingList::column_channels) > before; }));
+}
+
+TEST_F(WorkbenchMainWindow, FitsItsScreenAtAHighResolution)
+{
+    CloseWindow();
+    OpenWindow(144);
+    MINMAXINFO info{};
+    m_window->SendMessage(WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&info));
+    CRect work;
+    ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
+    EXPECT_LE(info.ptMinTrackSize.x, work.Width());
+    EXPECT_LE(info.ptMinTrackSize.y, work.Height());
+    CRect place;
+    m_window->GetWindowRect(&place);
+    EXPECT_LE(place.Width(), work.Width());
+    EXPECT_LE(place.Height(), work.Height());
 }
 
 TEST_F(WorkbenchMainWindow, RemembersTheWidthOfAColumn)
