@@ -23,6 +23,7 @@ constexpr int c_imageDamaged = 1;
 constexpr int c_imageUnreadable = 2;
 
 constexpr COLORREF c_barColour = RGB(33, 102, 172);
+constexpr COLORREF c_emptyBarColour = RGB(224, 224, 224); // of the list, whatever the system's colours are
 constexpr COLORREF c_clippedColour = RGB(200, 48, 40);
 constexpr COLORREF c_damagedColour = RGB(255, 226, 160);
 
@@ -204,7 +205,7 @@ void CRecordingList::ShowValues(int row, std::shared_ptr<workbench::RecordingAna
     auto const peak = workbench::FormatLevel(analysis->levels.peak);
     SetProgress(row, column_peak, true, peak.c_str());
     SetItemFloatVal(row, column_peak, static_cast<float>(analysis->levels.peak), peak.c_str());
-    SetItemColors(row, column_peak, ::GetSysColor(COLOR_WINDOWTEXT),
+    SetItemColors(row, column_peak, workbench::ReadableColour(::GetSysColor(COLOR_WINDOWTEXT), c_emptyBarColour),
                   analysis->levels.peak > 0.0 ? c_clippedColour : c_barColour, XLISTCTRLDATA::no_gradient);
     UpdateProgress(row, column_peak, std::max(workbench::LevelBarPercent(analysis->levels.peak), c_leastBarPercent), 0);
 
@@ -231,7 +232,9 @@ void CRecordingList::ShowValues(int row, std::shared_ptr<workbench::RecordingAna
 
 void CRecordingList::MarkValue(int row, Column column)
 {
-    SetItemColors(row, column, ::GetSysColor(COLOR_WINDOWTEXT), ::GetSysColor(COLOR_WINDOW), c_damagedColour);
+    // On a dark window the wash is dark as well, so that the text is read on all of it.
+    auto const text = ::GetSysColor(COLOR_WINDOWTEXT);
+    SetItemColors(row, column, text, ::GetSysColor(COLOR_WINDOW), workbench::ReadableColour(c_damagedColour, text));
 }
 
 /// Leaves of the line what is known of its file, and makes it one that does not react.
