@@ -32,6 +32,10 @@ constexpr int c_preferredPercent = 93;
 constexpr int c_preferredWidthLimit = 790;
 constexpr int c_preferredHeightLimit = 420;
 
+// How often after its activation the window looks whether its dialogs are above it, and how many milliseconds apart.
+constexpr int c_raises = 8;
+constexpr UINT c_raiseInterval = 40;
+
 } // namespace
 
 BEGIN_MESSAGE_MAP(CMainWindow, CWnd)
@@ -71,8 +75,9 @@ BEGIN_MESSAGE_MAP(CMainWindow, CWnd)
     ON_MESSAGE(message_recordings_ready, &CMainWindow::OnRecordingsReady)
 END_MESSAGE_MAP()
 
-CMainWindow::CMainWindow()
-    : m_memory(c_title, CFensterManager::window_main),
+CMainWindow::CMainWindow(int dotsPerInch)
+    : m_metrics(dotsPerInch),
+      m_memory(c_title, CFensterManager::window_main),
       m_details(*this),
       m_settingsDialog(*this),
       m_preview(*this),
@@ -159,7 +164,13 @@ void CMainWindow::Arrange()
     auto const marginX = m_metrics.X(c_margin);
     auto const marginY = m_metrics.Y(c_margin);
     auto const spacingY = m_metrics.Y(c_spacing);
-    CSize const list(std::max(m_list.LeastWidth(), CMeasurePanel::LeastWidth(m_metrics)),
+    // All columns are in sight where the screen has room for them.
+    CRect work;
+    ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
+    CRect frame;
+    ::AdjustWindowRectEx(&frame, GetStyle(), TRUE, GetExStyle());
+    auto const room = work.Width() - frame.Width() - 2 * marginX;
+    CSize const list(std::max(std::min(m_list.LeastWidth(), room), CMeasurePanel::LeastWidth(m_metrics)),
                      m_metrics.Y(c_leastListHeight));
     auto const panelHeight = CMeasurePanel::Height(m_metrics);
     auto const waveformHeight = m_metrics.Y(c_leastWaveformHeight);
@@ -233,11 +244,13 @@ void CMainWindow::OnActivate(UINT state, CWnd * other, BOOL minimized)
     else
     {
         PostMessage(message_raise_dialogs);
+        m_raises = c_raises;
+        SetTimer(raise_timer, c_raiseInterval, nullptr);
     }
 }
 
 /// Puts the dialogs above the window again, in their order. Windows never lets them fall behind their owner, other
-/// systems do when it is activated.
+/// systems do when it is activated: a click raises it a little later, without a message that says so.
 LRESULT CMainWindow::OnRaiseDialogs(WPARAM, LPARAM)
 {
     auto const dialogs = Dialogs();

@@ -30,7 +30,8 @@
 class CMainWindow : public CWnd
 {
 public:
-    CMainWindow();
+    /// dotsPerInch: of the screen, where it is not what the system says.
+    explicit CMainWindow(int dotsPerInch = 0);
 
     /// Creates the window at the place where it stood last.
     bool CreateMainWindow();
@@ -40,7 +41,7 @@ public:
     void ShowTargets(std::vector<std::filesystem::path> targets);
 
     /// Whether recordings are still being looked for, listed or read.
-    bool IsBusy() const { return m_search || m_listed < m_found.size() || m_queued > 0; }
+    bool IsBusy() const { return m_search || m_listed < m_found.size() || m_toReread > 0 || m_queued > 0; }
 
     /// Gives up looking for recordings, listing and reading them; what is there stays.
     void CancelReading();
@@ -92,6 +93,9 @@ private:
     /// To the window itself, once it is active.
     static constexpr UINT message_raise_dialogs = WM_APP + 2;
 
+    static constexpr UINT_PTR work_timer = 1;
+    static constexpr UINT_PTR raise_timer = 2;
+
     afx_msg int OnCreate(LPCREATESTRUCT create);
     afx_msg void OnClose();
     afx_msg void OnDestroy();
@@ -135,6 +139,13 @@ private:
         bool queued = false;                                          ///< waits to be read, or is being read
     };
 
+    /// An order of the list's lines.
+    struct Order
+    {
+        CRecordingList::Column column;
+        bool ascending;
+    };
+
     bool CreateChildren();
     void Arrange();
     void PrepareDialogs();
@@ -146,6 +157,12 @@ private:
     void RememberPlace();
     void OnListChanged(unsigned changes);
     void Work();
+    void StopWork();
+    void StartSearch();
+    void TakeReload(std::vector<std::filesystem::path> files);
+    void ListAnew(std::vector<std::filesystem::path> files);
+    std::optional<Order> PresentOrder() const;
+    void SortAgain();
     void ChooseFirst();
     void ListNext();
     void TakeResult(workbench::AnalysisQueue::Finished const & finished);
@@ -180,12 +197,19 @@ private:
     std::unique_ptr<CDialogResizer> m_resizer;
     HACCEL m_accelerators = nullptr;
     HWND m_lastFocus = nullptr;
+    int m_raises = 0; ///< how often the dialogs are still to be looked after
 
     std::vector<std::filesystem::path> m_targets;
-    std::vector<std::filesystem::path> m_missing;             ///< those of the targets that do not exist
-    std::vector<std::filesystem::path> m_found;               ///< the files to list
-    std::size_t m_listed = 0;                                 ///< how many of them have been
-    std::vector<Recording> m_recordings;                      ///< the lines of the list
+    std::vector<std::filesystem::path> m_missing; ///< those of the targets that do not exist
+    std::vector<std::filesystem::path> m_found;   ///< the files to list
+    std::size_t m_listed = 0;                     ///< how many of them have been
+    std::vector<Recording> m_recordings;          ///< the lines of the list
+    bool m_reloading = false;                     ///< the search is for the files that are shown
+    std::size_t m_toReread = 0;                   ///< how many of the last lines wait to be queued again
+    bool m_valuesChanged = false;                 ///< since the lines were sorted
+    std::optional<Order> m_order;                 ///< the lines will be sorted so again
+    /// What was known, before a reload, of the files to list.
+    std::unordered_map<std::wstring, std::shared_ptr<workbench::RecordingAnalysis const>> m_known;
     std::filesystem::path m_chooseFile;                       ///< to be chosen once it is listed
     int m_chooseLine = -1;                                    ///< its line then
     std::deque<workbench::AnalysisQueue::Finished> m_results; ///< not shown yet

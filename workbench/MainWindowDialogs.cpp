@@ -175,7 +175,7 @@ void CMainWindow::DrawPage(CDC & dc, CRect const & page)
     auto lower = page;
     lower.top = upper.bottom + gap;
     m_waveform.Print(dc, upper);
-    m_spectrogram.Draw(dc, lower);
+    m_spectrogram.Print(dc, lower);
 }
 
 void CMainWindow::OnCopy()
@@ -193,7 +193,7 @@ void CMainWindow::OnCopySpectrogram()
     CRect client;
     m_spectrogram.GetClientRect(&client);
     workbench::CopyPicture(*this, client.Size(),
-                           [this](CDC & dc, CRect const & rect) { m_spectrogram.Draw(dc, rect); });
+                           [this](CDC & dc, CRect const & rect) { m_spectrogram.Print(dc, rect); });
 }
 
 void CMainWindow::CloseDialogs()

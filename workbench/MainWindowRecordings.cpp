@@ -19,7 +19,6 @@ using workbench::Text;
 namespace
 {
 
-constexpr UINT_PTR c_workTimer = 1;
 constexpr UINT c_workInterval = 10; // milliseconds
 // What one turn of work may take, so that the window answers in between.
 constexpr std::chrono::milliseconds c_workSlice(12);
@@ -46,32 +45,99 @@ void CMainWindow::KeepNotes()
     }
 }
 
-void CMainWindow::ShowTargets(std::vector<std::filesystem::path> targets)
+/// Gives up all that is under way.
+void CMainWindow::StopWork()
 {
-    KeepNotes();
     m_search.reset();
+    m_reloading = false;
     m_queue->Clear();
-    ++m_generation;
-    m_targets = std::move(targets);
-    m_missing.clear();
     m_found.clear();
     m_listed = 0;
+    m_toReread = 0;
+    m_known.clear();
     m_results.clear();
     m_queued = 0;
-    m_recordings.clear();
+    for (auto & recording : m_recordings)
+    {
+        recording.queued = false;
+    }
+}
+
+void CMainWindow::StartSearch()
+{
+    auto const window = m_hWnd;
+    m_search = std::make_unique<workbench::RecordingSearch>(
+        m_targets, [window] { ::PostMessageW(window, message_recordings_ready, 0, 0); });
+}
+
+void CMainWindow::ShowTargets(std::vector<std::filesystem::path> targets)
+{
+    StopWork();
+    m_targets = std::move(targets);
+    m_missing.clear();
+    ListAnew({});
+    m_order.reset();
     m_chooseFile.clear();
-    m_chooseLine = -1;
-    m_detailsIndex = -1;
-    m_list.RemoveLines();
     if (!m_targets.empty())
     {
-        auto const window = m_hWnd;
-        m_search = std::make_unique<workbench::RecordingSearch>(
-            m_targets, [window] { ::PostMessageW(window, message_recordings_ready, 0, 0); });
+        StartSearch();
     }
     ShowChosen();
     ShowProgress();
     UpdateStatusLine();
+}
+
+/// Takes all lines away and has these files listed.
+void CMainWindow::ListAnew(std::vector<std::filesystem::path> files)
+{
+    KeepNotes();
+    ++m_generation;
+    m_recordings.clear();
+    m_found = std::move(files);
+    m_listed = 0;
+    m_chooseLine = -1;
+    m_detailsIndex = -1;
+    m_list.RemoveLines();
+}
+
+/// Goes on with a reload once its files are known. What is shown of them stays until something else is known.
+void CMainWindow::TakeReload(std::vector<std::filesystem::path> files)
+{
+    if (std::ranges::equal(files, m_recordings, {}, {}, &Recording::file))
+    {
+        m_toReread = m_recordings.size();
+        return;
+    }
+    if (auto const * const chosen = RecordingAt(m_list.ChosenLine()))
+    {
+        m_chooseFile = chosen->file;
+    }
+    for (auto & recording : m_recordings)
+    {
+        m_known[recording.file.native()] = std::move(recording.analysis);
+    }
+    m_order = PresentOrder();
+    ListAnew(std::move(files));
+    // The first lines at once, before anything is painted.
+    Work();
+}
+
+std::optional<CMainWindow::Order> CMainWindow::PresentOrder() const
+{
+    auto const column = m_list.SortedColumn();
+    return column < 0 ? m_order : Order{static_cast<CRecordingList::Column>(column), m_list.IsAscending()};
+}
+
+/// Sorts the lines again by what is known now.
+void CMainWindow::SortAgain()
+{
+    m_valuesChanged = false;
+    auto const order = PresentOrder();
+    m_order.reset();
+    if (order)
+    {
+        m_list.SortLines(order->column, order->ascending);
+    }
 }
 
 void CMainWindow::CancelReading()
@@ -81,6 +147,8 @@ void CMainWindow::CancelReading()
         return;
     }
     m_search.reset();
+    m_reloading = false;
+    m_toReread = 0;
     m_listed = m_found.size();
     // What has been read by now is shown.
     auto finished = m_queue->TakeFinished();
@@ -98,7 +166,7 @@ void CMainWindow::CancelReading()
     ShowChosen();
     ShowProgress();
     UpdateStatusLine();
-    SetTimer(c_workTimer, c_workInterval, nullptr);
+    SetTimer(work_timer, c_workInterval, nullptr);
 }
 
 void CMainWindow::OnCancelReading()
@@ -111,18 +179,33 @@ LRESULT CMainWindow::OnRecordingsReady(WPARAM, LPARAM)
     if (auto found = m_search ? m_search->Take() : std::nullopt)
     {
         m_search.reset();
-        m_found = std::move(found->files);
         m_missing = std::move(found->missing);
+        if (std::exchange(m_reloading, false))
+        {
+            TakeReload(std::move(found->files));
+        }
+        else
+        {
+            m_found = std::move(found->files);
+        }
     }
-    SetTimer(c_workTimer, c_workInterval, nullptr);
+    SetTimer(work_timer, c_workInterval, nullptr);
     return 0;
 }
 
 void CMainWindow::OnTimer(UINT_PTR id)
 {
-    if (id == c_workTimer)
+    if (id == work_timer)
     {
         Work();
+    }
+    else if (id == raise_timer)
+    {
+        if (--m_raises <= 0)
+        {
+            KillTimer(raise_timer);
+        }
+        OnRaiseDialogs(0, 0);
     }
     CWnd::OnTimer(id);
 }
@@ -144,21 +227,35 @@ void CMainWindow::Work()
             {
                 ListNext();
             }
+            else if (m_toReread > 0)
+            {
+                auto const index = m_recordings.size() - m_toReread--;
+                if (!m_recordings[index].queued)
+                {
+                    Queue(static_cast<int>(index));
+                }
+            }
             else if (!m_results.empty())
             {
                 auto const result = std::move(m_results.front());
                 m_results.pop_front();
                 TakeResult(result);
             }
-        } while (Clock::now() < end && (m_listed < m_found.size() || !m_results.empty()));
+        } while (Clock::now() < end && (m_listed < m_found.size() || m_toReread > 0 || !m_results.empty()));
     }
-    if (m_listed == m_found.size() && m_results.empty())
+    auto const listed = m_listed == m_found.size() && m_toReread == 0;
+    if (listed && m_results.empty())
     {
-        KillTimer(c_workTimer);
+        KillTimer(work_timer);
         m_found.clear();
         m_listed = 0;
+        m_known.clear();
     }
     ChooseFirst();
+    if ((listed && m_order) || (m_valuesChanged && !IsBusy()))
+    {
+        SortAgain();
+    }
     ShowChosen();
     ShowProgress();
     UpdateStatusLine();
@@ -185,8 +282,15 @@ void CMainWindow::ListNext()
         m_chooseLine = RecordingCount();
     }
     m_list.AppendFile(file, known != m_notes.end() ? known->second : CRecordingList::Notes());
-    m_recordings.push_back({std::move(file), nullptr, false});
-    Queue(RecordingCount() - 1);
+    auto const line = RecordingCount();
+    auto & recording = m_recordings.emplace_back();
+    recording.file = std::move(file);
+    if (auto const before = m_known.find(recording.file.native()); before != m_known.end() && before->second)
+    {
+        recording.analysis = before->second;
+        m_list.ShowAnalysis(line, recording.analysis);
+    }
+    Queue(line);
 }
 
 /// Has a recording read.
@@ -207,8 +311,18 @@ void CMainWindow::TakeResult(workbench::AnalysisQueue::Finished const & finished
     auto & recording = m_recordings[finished.id];
     recording.queued = false;
     --m_queued;
+    if (recording.analysis && *recording.analysis == *finished.analysis)
+    {
+        return;
+    }
+    auto const line = static_cast<int>(finished.id);
+    if (recording.analysis)
+    {
+        m_list.ShowReading(line, recording.file);
+    }
     recording.analysis = finished.analysis;
-    m_list.ShowAnalysis(static_cast<int>(finished.id), finished.analysis);
+    m_valuesChanged = true;
+    m_list.ShowAnalysis(line, recording.analysis);
 }
 
 /// The recording of a line; null if there is none.
@@ -229,7 +343,7 @@ void CMainWindow::ShowProgress()
 {
     auto const listed = m_recordings.size();
     auto const total = listed + m_found.size() - m_listed;
-    m_status.ShowProgress(listed - m_queued, IsBusy() ? std::max<std::size_t>(total, 1) : 0);
+    m_status.ShowProgress(listed - m_queued - m_toReread, IsBusy() ? std::max<std::size_t>(total, 1) : 0);
 }
 
 bool CMainWindow::ChooseRecording(int index)
@@ -309,6 +423,10 @@ void CMainWindow::ShowChosen()
     {
         ShowEmpty();
     }
+    else if (chosen == nullptr && !m_chooseFile.empty() && IsBusy())
+    {
+        // Its line is still to come.
+    }
     else if (chosen == nullptr)
     {
         ShowText(Text(L"No recording chosen"), Text(L"Choose a recording in the list to see it here."));
@@ -373,9 +491,9 @@ void CMainWindow::UpdateStatusLine()
 {
     auto const & totals = m_list.Totals();
     auto text = workbench::FormatCount(m_recordings.size(), Text(L"recording"), Text(L"recordings"));
-    if (m_queued > 0)
+    if (auto const toRead = m_queued + m_toReread; toRead > 0)
     {
-        text += L", " + std::to_wstring(m_queued) + L' ' + Text(L"being read");
+        text += L", " + std::to_wstring(toRead) + L' ' + Text(L"being read");
     }
     if (auto const unread = totals.Unread() - std::min(m_queued, totals.Unread()); unread > 0)
     {
@@ -424,10 +542,16 @@ void CMainWindow::ReadAgain(int index)
 
 void CMainWindow::OnReload()
 {
-    auto const * const chosen = RecordingAt(m_list.ChosenLine());
-    auto file = chosen != nullptr ? chosen->file : std::filesystem::path();
-    ShowTargets(m_targets);
-    m_chooseFile = std::move(file);
+    if (m_targets.empty())
+    {
+        return;
+    }
+    StopWork();
+    StartSearch();
+    m_reloading = true;
+    ShowChosen();
+    ShowProgress();
+    UpdateStatusLine();
 }
 
 /// Follows the list, once for all that has changed since the last time.

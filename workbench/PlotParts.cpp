@@ -14,6 +14,16 @@ constexpr int c_leastTickDistance = 44; // dialog units
 
 } // namespace
 
+PlotColours ScreenPlotColours()
+{
+    return PlotColoursOn(::GetSysColor(COLOR_WINDOW), ::GetSysColor(COLOR_WINDOWTEXT));
+}
+
+PlotColours PaperPlotColours()
+{
+    return PlotColoursOn(RGB(255, 255, 255), RGB(0, 0, 0));
+}
+
 CSize TextSize(CDC & dc, std::wstring const & text)
 {
     return dc.GetTextExtent(text.c_str(), static_cast<int>(text.size()));
@@ -24,23 +34,24 @@ void DrawPlotText(CDC & dc, std::wstring const & text, CRect rect, UINT format)
     dc.DrawText(text.c_str(), static_cast<int>(text.size()), &rect, format | DT_NOPREFIX);
 }
 
-void DrawPlotLabel(CDC & dc, std::wstring const & text, CPoint position)
+void DrawPlotLabel(CDC & dc, std::wstring const & text, CPoint position, PlotColours const & colours)
 {
     dc.SetBkMode(TRANSPARENT); // filling a rectangle has made the background opaque again
-    dc.SetTextColor(c_plotLabelColour);
+    dc.SetTextColor(colours.label);
     DrawPlotText(dc, text, CRect(position, TextSize(dc, text)), DT_LEFT | c_textLabel);
 }
 
-void DrawTimeAxis(CDC & dc, CRect const & plot, double seconds, ScreenMetrics const & metrics)
+void DrawTimeAxis(CDC & dc, CRect const & plot, double seconds, ScreenMetrics const & metrics,
+                  PlotColours const & colours)
 {
     auto const tickHeight = metrics.Y(2);
     for (auto const & tick : TimeTicks(seconds, plot.Width() - 2, metrics.X(c_leastTickDistance)))
     {
         auto const x = plot.left + 1 + tick.position;
-        dc.FillSolidRect(x, plot.bottom, 1, tickHeight, c_plotFrameColour);
+        dc.FillSolidRect(x, plot.bottom, 1, tickHeight, colours.frame);
         auto const width = TextSize(dc, tick.label).cx;
         auto const left = std::clamp<int>(x - width / 2, plot.left, std::max<int>(plot.right - width, plot.left));
-        DrawPlotLabel(dc, tick.label, CPoint(left, plot.bottom + tickHeight + 1));
+        DrawPlotLabel(dc, tick.label, CPoint(left, plot.bottom + tickHeight + 1), colours);
     }
 }
 

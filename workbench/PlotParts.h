@@ -4,6 +4,7 @@
 #include <string>
 
 #include "ScreenMetrics.h"
+#include "logic/ReadableColours.h"
 
 namespace workbench
 {
@@ -27,12 +28,9 @@ struct PlotMargins
 constexpr UINT c_textOneLine = DT_SINGLELINE | DT_END_ELLIPSIS;
 constexpr UINT c_textLabel = DT_SINGLELINE | DT_NOCLIP;
 
-/// The frames of plots, and the marks on their axes.
-constexpr COLORREF c_plotFrameColour = RGB(190, 198, 207);
-/// Labels, and texts of less weight.
-constexpr COLORREF c_plotLabelColour = RGB(88, 98, 110);
-/// Texts that say what is wrong.
-constexpr COLORREF c_plotProblemColour = RGB(168, 40, 32);
+/// The colours of plots in windows, which are the system's, and on paper.
+PlotColours ScreenPlotColours();
+PlotColours PaperPlotColours();
 
 CSize TextSize(CDC & dc, std::wstring const & text);
 
@@ -40,9 +38,10 @@ CSize TextSize(CDC & dc, std::wstring const & text);
 void DrawPlotText(CDC & dc, std::wstring const & text, CRect rect, UINT format);
 
 /// Draws a label on what is there already, in the colour of labels.
-void DrawPlotLabel(CDC & dc, std::wstring const & text, CPoint position);
+void DrawPlotLabel(CDC & dc, std::wstring const & text, CPoint position, PlotColours const & colours);
 
 /// Draws the axis below a plot of so many seconds.
-void DrawTimeAxis(CDC & dc, CRect const & plot, double seconds, ScreenMetrics const & metrics);
+void DrawTimeAxis(CDC & dc, CRect const & plot, double seconds, ScreenMetrics const & metrics,
+                  PlotColours const & colours);
 
 } // namespace workbench

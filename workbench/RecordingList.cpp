@@ -7,9 +7,9 @@
 #include <numeric>
 #include <utility>
 
-#include "SelectionColours.h"
 #include "frame/CoreLibrary.h"
 #include "frame/RegisteredMessages.h"
+#include "logic/ReadableColours.h"
 #include "logic/Texts.h"
 #include "resource.h"
 
@@ -58,6 +58,7 @@ constexpr Growth c_growth[] = {{CRecordingList::column_overview, 2},
 
 // The room that cell and header keep left and right of a text, a divider and the rounding of text widths.
 constexpr int c_textRoom = 16;
+constexpr int c_imageSize = 20;
 constexpr int c_checkWidth = 30; // of a header's check box with its room
 constexpr int c_arrowRoom = 20;  // of the arrow beside a title
 
@@ -65,6 +66,9 @@ constexpr int c_arrowRoom = 20;  // of the arrow beside a title
 constexpr UINT c_messageTellChanges = WM_APP + 1;
 constexpr UINT c_messageTellOpen = WM_APP + 2;
 constexpr UINT c_messagePlaceToolTip = WM_APP + 3;
+
+// From this many selected rows on, the list view is kept from painting each one that a gesture changes.
+constexpr UINT c_manyRows = 50;
 
 constexpr UINT c_lastToolId = 0xFFFF;
 constexpr int c_toolTipGap = 2; // pixels
@@ -85,6 +89,7 @@ BEGIN_MESSAGE_MAP(CRecordingList, CXListCtrl)
     ON_WM_CONTEXTMENU()
     ON_NOTIFY_REFLECT_EX(LVN_COLUMNCLICK, &CRecordingList::OnTitleClick)
     ON_WM_MOUSEMOVE()
+    ON_WM_LBUTTONDOWN()
     ON_WM_LBUTTONUP()
     ON_NOTIFY_EX(HDN_BEGINTRACKW, 0, &CRecordingList::OnBeginTrack)
     ON_NOTIFY_EX(HDN_BEGINTRACKA, 0, &CRecordingList::OnBeginTrack)
@@ -156,7 +161,7 @@ void CRecordingList::CreateColumns()
 /// The images of the states, which also give the lines their height.
 void CRecordingList::CreateImages()
 {
-    constexpr int size = 20;
+    auto const size = m_metrics->Scaled(c_imageSize);
     VERIFY(m_images.Create(size, size, ILC_COLOR32 | ILC_MASK, 3, 0));
     for (auto const id : {IDI_STATUS_OK, IDI_STATUS_DAMAGED, IDI_STATUS_UNREADABLE})
     {
@@ -248,14 +253,26 @@ void CRecordingList::FitColumns()
     m_fitting = false;
 }
 
-int CRecordingList::ChosenLine() const
+int CRecordingList::ChosenRow() const
 {
     auto const focused = GetNextItem(-1, LVNI_SELECTED | LVNI_FOCUSED);
-    return LineAt(focused >= 0 ? focused : GetSelectedItem());
+    return focused >= 0 ? focused : GetSelectedItem();
+}
+
+/// Selects no row, without painting each one.
+void CRecordingList::ClearSelection()
+{
+    Batch const batch(*this);
+    m_touched = true;
+    SetItemState(-1, 0, LVIS_SELECTED | LVIS_FOCUSED);
 }
 
 void CRecordingList::ChooseLine(int line)
 {
+    if (GetSelectedCount() > c_manyRows)
+    {
+        ClearSelection();
+    }
     for (auto other = GetSelectedItem(); other >= 0; other = GetSelectedItemAfter(other))
     {
         if (LineAt(other) != line)
@@ -442,16 +459,36 @@ void CRecordingList::OnItemStateChange(int row, int column, unsigned int message
 /// Has the host told of changes once the present messages are done, all at once.
 void CRecordingList::Tell(unsigned changes)
 {
-    if (m_changes == 0)
+    if (m_changes == 0 && m_repaintLast < m_repaintFirst)
     {
         PostMessage(c_messageTellChanges);
     }
     m_changes |= changes;
 }
 
+/// Has a row's begin painted together with others once the present messages are done: a gesture can change all rows.
+void CRecordingList::RepaintSoon(int row)
+{
+    if (m_repaintLast < m_repaintFirst)
+    {
+        Tell(0);
+        m_repaintFirst = row;
+        m_repaintLast = row;
+    }
+    // A negative one stands for all rows.
+    m_repaintFirst = std::min(m_repaintFirst, row);
+    m_repaintLast = std::max(m_repaintLast, row < 0 ? GetItemCount() - 1 : row);
+}
+
 LRESULT CRecordingList::OnTellChanges(WPARAM, LPARAM)
 {
     auto const changes = std::exchange(m_changes, 0U);
+    RepaintRows(std::exchange(m_repaintFirst, 0), std::exchange(m_repaintLast, -1), false);
+    if ((changes & changed_widths) != 0)
+    {
+        // Only now has the header given the column the width that was told at the drag's end.
+        FitColumns();
+    }
     // A copy, as what it does may replace it.
     if (auto const onChanged = m_onChanged; onChanged && changes != 0)
     {
@@ -553,7 +590,7 @@ void CRecordingList::GetDrawColors(int row, int column, COLORREF & text, COLORRE
     CXListCtrl::GetDrawColors(row, column, chosenText, chosenBackground);
     if (chosenBackground != CLR_INVALID)
     {
-        auto const colours = workbench::LightRowColours(chosenBackground);
+        auto const colours = workbench::ChosenRowColours(chosenBackground, ::GetSysColor(COLOR_WINDOW));
         text = colours.text;
         background = colours.background;
     }
@@ -579,13 +616,13 @@ void CRecordingList::OnSize(UINT type, int width, int height)
 void CRecordingList::OnSetFocus(CWnd * other)
 {
     CXListCtrl::OnSetFocus(other);
-    RepaintSelected();
+    RepaintRows(0, GetItemCount() - 1, true);
 }
 
 void CRecordingList::OnKillFocus(CWnd * other)
 {
     CXListCtrl::OnKillFocus(other);
-    RepaintSelected();
+    RepaintRows(0, GetItemCount() - 1, true);
 }
 
 BOOL CRecordingList::OnItemChanged(NMHDR * header, LRESULT * result)
@@ -593,7 +630,7 @@ BOOL CRecordingList::OnItemChanged(NMHDR * header, LRESULT * result)
     auto const & change = *reinterpret_cast<NMLISTVIEW *>(header);
     if ((change.uChanged & LVIF_STATE) != 0)
     {
-        UpdateSubItem(change.iItem, column_check);
+        RepaintSoon(change.iItem);
         if (((change.uOldState ^ change.uNewState) & LVIS_SELECTED) != 0)
         {
             Tell(changed_selection);
@@ -603,12 +640,22 @@ BOOL CRecordingList::OnItemChanged(NMHDR * header, LRESULT * result)
     return FALSE; // the parent hears of it, too
 }
 
-/// The system's list view leaves the first two pixels of a line out when it repaints a selection.
-void CRecordingList::RepaintSelected()
+/// Has the begin of rows painted, as far as they are in sight: the system's list view leaves the first two pixels of a
+/// line out when it repaints a selection.
+void CRecordingList::RepaintRows(int first, int last, bool selectedOnly)
 {
-    for (auto row = GetSelectedItem(); row >= 0; row = GetSelectedItemAfter(row))
+    if (first > last)
     {
-        UpdateSubItem(row, column_check);
+        return;
+    }
+    auto const top = GetTopIndex();
+    auto const end = std::min(last, top + GetCountPerPage());
+    for (auto row = std::max(first, top); row <= end; ++row)
+    {
+        if (!selectedOnly || GetItemState(row, LVIS_SELECTED) != 0)
+        {
+            UpdateSubItem(row, column_check);
+        }
     }
 }
 
@@ -629,6 +676,21 @@ BOOL CRecordingList::OnEraseBkgnd(CDC * dc)
     return result;
 }
 
+void CRecordingList::OnLButtonDown(UINT flags, CPoint point)
+{
+    // The list view would do the same, row by row.
+    if ((flags & (MK_CONTROL | MK_SHIFT)) == 0 && GetSelectedCount() > c_manyRows)
+    {
+        int column = 0;
+        auto const row = GetPointItem(point, column);
+        if (row >= 0 && GetItemState(row, LVIS_SELECTED) == 0)
+        {
+            ClearSelection();
+        }
+    }
+    CXListCtrl::OnLButtonDown(flags, point);
+}
+
 void CRecordingList::OnKeyDown(UINT key, UINT repeat, UINT flags)
 {
     if (key == VK_SPACE && ::GetKeyState(VK_CONTROL) >= 0 && ::GetKeyState(VK_SHIFT) >= 0)
@@ -639,6 +701,14 @@ void CRecordingList::OnKeyDown(UINT key, UINT repeat, UINT flags)
     if (key == L'C' && ::GetKeyState(VK_CONTROL) < 0 && ::GetKeyState(VK_SHIFT) >= 0 && ::GetKeyState(VK_MENU) >= 0)
     {
         CopyToClipboard(false);
+        return;
+    }
+    auto const selectsRange = ::GetKeyState(VK_SHIFT) < 0 && (key == VK_HOME || key == VK_END);
+    if (selectsRange || GetSelectedCount() > c_manyRows)
+    {
+        Batch const batch(*this);
+        m_touched = true;
+        CXListCtrl::OnKeyDown(key, repeat, flags);
         return;
     }
     CXListCtrl::OnKeyDown(key, repeat, flags);

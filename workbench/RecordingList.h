@@ -9,6 +9,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "ScreenMetrics.h"
@@ -111,7 +112,7 @@ public:
     /// Fills a line; a file that could not be read gets a disabled one. A line that does not exist is ignored.
     void ShowAnalysis(int line, std::shared_ptr<workbench::RecordingAnalysis const> const & analysis);
 
-    /// Says again that a line's file is being read.
+    /// Says again that a line's file is being read. The values that the line has go.
     void ShowReading(int line, std::filesystem::path const & file);
 
     /// The line that stands in a row now, and the row of a line; -1 where there is none.
@@ -122,12 +123,16 @@ public:
     /// the check boxes sorts nothing.
     void SortLines(Column column, bool ascending);
 
+    /// The column by which the lines are sorted, -1 for none, and how.
+    int SortedColumn() const { return m_sortedColumn; }
+    bool IsAscending() const { return m_ascending; }
+
     /// Copies the selected lines, or all of them, as a table for other programs: as text and as HTML. Without a
     /// selection all lines are copied. False if there are none or the clipboard refuses.
     bool CopyToClipboard(bool all);
 
     /// The line that commands go to: the selected one with the focus, else the first selected; -1 for none.
-    int ChosenLine() const;
+    int ChosenLine() const { return LineAt(ChosenRow()); }
 
     /// Selects one line alone, which gets the focus and is scrolled into view. Negative: none.
     void ChooseLine(int line);
@@ -173,6 +178,7 @@ private:
     afx_msg BOOL OnEraseBkgnd(CDC * dc);
     afx_msg BOOL OnItemChanged(NMHDR * header, LRESULT * result);
     afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
+    afx_msg void OnLButtonDown(UINT flags, CPoint point);
     afx_msg void OnContextMenu(CWnd * window, CPoint point);
     afx_msg BOOL OnTitleClick(NMHDR * header, LRESULT * result);
     afx_msg void OnPaint();
@@ -189,6 +195,10 @@ private:
     void CreateImages();
     void CreateMenu();
     void Tell(unsigned changes);
+    int ChosenRow() const;
+    void ClearSelection();
+    void RepaintSoon(int row);
+    void RepaintRows(int first, int last, bool selectedOnly);
     void TellOpen(int line);
     void PlaceToolTip(HWND tip, UINT_PTR tool);
     // These go by rows.
@@ -214,7 +224,7 @@ private:
     double SortValue(int row);
     std::vector<int> RowsToCopy(bool all) const;
     workbench::TextTable TableOf(std::vector<int> const & rows);
-    void RepaintSelected();
+    std::wstring_view TextOf(int row, int column, std::vector<wchar_t> & buffer) const;
     int WidthOf(std::wstring const & text) const;
     void Require(Column column, int width);
     void FitColumns();
@@ -243,6 +253,8 @@ private:
     int m_boldLine = -1;
     unsigned m_generation = 0; ///< changes whenever all lines are taken away
     unsigned m_changes = 0;    ///< to be told
+    int m_repaintFirst = 0;    ///< rows of which the begin is to be painted when changes are told
+    int m_repaintLast = -1;
     int m_menuLine = -1;
     unsigned m_menuGeneration = 0;
 };

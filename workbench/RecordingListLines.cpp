@@ -5,8 +5,8 @@
 #include <algorithm>
 
 #include "RecordingOverview.h"
-#include "SelectionColours.h"
 #include "frame/CoreLibrary.h"
+#include "logic/ReadableColours.h"
 #include "logic/RecordingDetails.h"
 #include "logic/TextFormat.h"
 #include "logic/Texts.h"
@@ -23,13 +23,14 @@ constexpr int c_imageDamaged = 1;
 constexpr int c_imageUnreadable = 2;
 
 constexpr COLORREF c_barColour = RGB(33, 102, 172);
+constexpr COLORREF c_emptyBarColour = RGB(224, 224, 224); // of the list, whatever the system's colours are
 constexpr COLORREF c_clippedColour = RGB(200, 48, 40);
 constexpr COLORREF c_damagedColour = RGB(255, 226, 160);
 
 // A bar at 0 would show no text.
 constexpr int c_leastBarPercent = 2;
 
-// The width of a status image and the room left of it.
+// The width of a status image and the room left of it, on a screen of the usual resolution.
 constexpr int c_imageRoom = 26;
 
 /// Text at the right edge can come out a pixel wider than it was measured; the blank keeps its last digit whole.
@@ -71,7 +72,7 @@ void CRecordingList::AppendFile(std::filesystem::path const & file, Notes const 
 {
     Batch const batch(*this);
     auto const line = LineCount();
-    auto const row = AddItem(L"", nullptr, line);
+    auto const row = AddItem(L"", nullptr, line + 1);
     if (row < 0)
     {
         return;
@@ -128,7 +129,8 @@ void CRecordingList::PrepareRow(int row, std::filesystem::path const & file, Not
     SetCheckbox(row, column_check, notes.checked ? XLC_CHECKED : XLC_UNCHECKED);
     SetItemText(row, column_name, name.c_str());
     SetHyperlink(row, column_name, true, false);
-    SetItemColors(row, column_name, workbench::LinkColour(), ::GetSysColor(COLOR_WINDOW), XLISTCTRLDATA::no_gradient);
+    SetItemColors(row, column_name, workbench::LinkColourOn(::GetSysColor(COLOR_WINDOW)), ::GetSysColor(COLOR_WINDOW),
+                  XLISTCTRLDATA::no_gradient);
     SetItemToolTipText(row, column_name, file.c_str());
     SetRadioButton(row, column_reference, notes.reference ? XLC_RADIO_ON : XLC_RADIO_OFF);
     SetComboBoxGlobalStrings(row, column_rating, notes.rating, 0);
@@ -183,7 +185,7 @@ void CRecordingList::ShowStatus(int row, workbench::RecordingAnalysis const & an
     auto const status = analysis.StatusText();
     SetItemText(row, column_status, status.c_str());
     SetItemImage(row, column_status, analysis.problem ? c_imageUnreadable : damaged ? c_imageDamaged : c_imageOk);
-    Require(column_status, WidthOf(status) + c_imageRoom);
+    Require(column_status, WidthOf(status) + m_metrics->Scaled(c_imageRoom));
 }
 
 void CRecordingList::ShowValues(int row, std::shared_ptr<workbench::RecordingAnalysis const> const & analysis)
@@ -203,7 +205,7 @@ void CRecordingList::ShowValues(int row, std::shared_ptr<workbench::RecordingAna
     auto const peak = workbench::FormatLevel(analysis->levels.peak);
     SetProgress(row, column_peak, true, peak.c_str());
     SetItemFloatVal(row, column_peak, static_cast<float>(analysis->levels.peak), peak.c_str());
-    SetItemColors(row, column_peak, ::GetSysColor(COLOR_WINDOWTEXT),
+    SetItemColors(row, column_peak, workbench::ReadableColour(::GetSysColor(COLOR_WINDOWTEXT), c_emptyBarColour),
                   analysis->levels.peak > 0.0 ? c_clippedColour : c_barColour, XLISTCTRLDATA::no_gradient);
     UpdateProgress(row, column_peak, std::max(workbench::LevelBarPercent(analysis->levels.peak), c_leastBarPercent), 0);
 
@@ -230,7 +232,9 @@ void CRecordingList::ShowValues(int row, std::shared_ptr<workbench::RecordingAna
 
 void CRecordingList::MarkValue(int row, Column column)
 {
-    SetItemColors(row, column, ::GetSysColor(COLOR_WINDOWTEXT), ::GetSysColor(COLOR_WINDOW), c_damagedColour);
+    // On a dark window the wash is dark as well, so that the text is read on all of it.
+    auto const text = ::GetSysColor(COLOR_WINDOWTEXT);
+    SetItemColors(row, column, text, ::GetSysColor(COLOR_WINDOW), workbench::ReadableColour(c_damagedColour, text));
 }
 
 /// Leaves of the line what is known of its file, and makes it one that does not react.

@@ -26,6 +26,8 @@ bool HasOwnOrder(int column)
            column == CRecordingList::column_peak || column == CRecordingList::column_rating;
 }
 
+constexpr std::size_t c_textRoom = 256; // characters
+
 /// Whether a column goes along into a copy.
 bool IsCopied(int column)
 {
@@ -36,7 +38,8 @@ bool IsCopied(int column)
 
 int CRecordingList::LineAt(int row) const
 {
-    return row >= 0 && row < GetItemCount() ? GetItemData(row) : -1;
+    // A row keeps its line's number plus 1; one that does not exist gives 0.
+    return GetItemData(row) - 1;
 }
 
 int CRecordingList::PlaceOf(int line) const
@@ -92,8 +95,7 @@ void CRecordingList::SortLines(Column column, bool ascending)
     FitColumns();
     // It goes with the marks of the other columns.
     ShowHeaderCheck();
-    auto const chosen = PlaceOf(ChosenLine());
-    if (chosen >= 0)
+    if (auto const chosen = ChosenRow(); chosen >= 0)
     {
         EnsureVisible(chosen, FALSE);
     }
@@ -239,6 +241,31 @@ std::vector<int> CRecordingList::RowsToCopy(bool all) const
     return rows;
 }
 
+/// A cell's text without blanks at its ends. It lies in the buffer, which grows where it must.
+std::wstring_view CRecordingList::TextOf(int row, int column, std::vector<wchar_t> & buffer) const
+{
+    LVITEMW item{};
+    item.iSubItem = column;
+    std::size_t length = 0;
+    for (;;)
+    {
+        item.pszText = buffer.data();
+        item.cchTextMax = static_cast<int>(buffer.size());
+        // Asked of the list view itself: there are many of them, and nobody else knows an answer.
+        length = static_cast<std::size_t>(const_cast<CRecordingList *>(this)->DefWindowProc(
+            LVM_GETITEMTEXTW, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item)));
+        if (length + 1 < buffer.size())
+        {
+            break;
+        }
+        buffer.resize(2 * buffer.size());
+    }
+    std::wstring_view text(buffer.data(), length);
+    constexpr auto blanks = L" \t\r\n";
+    auto const first = text.find_first_not_of(blanks);
+    return first == text.npos ? std::wstring_view() : text.substr(first, text.find_last_not_of(blanks) - first + 1);
+}
+
 workbench::TextTable CRecordingList::TableOf(std::vector<int> const & rows)
 {
     workbench::TextTable table;
@@ -258,17 +285,17 @@ workbench::TextTable CRecordingList::TableOf(std::vector<int> const & rows)
         GetColumn(column, &native);
         table.columns.push_back({title, (native.fmt & LVCFMT_JUSTIFYMASK) == LVCFMT_RIGHT});
     }
+    auto const reference = PlaceOf(m_reference);
+    std::vector<wchar_t> buffer(c_textRoom);
+    table.rows.reserve(rows.size());
     for (auto const row : rows)
     {
         auto & texts = table.rows.emplace_back();
+        texts.reserve(columns.size());
         for (auto const column : columns)
         {
-            auto text = GetItemText(row, column);
-            if (column == column_reference && GetItemRadioOn(row, column))
-            {
-                text = L"x";
-            }
-            texts.emplace_back(text.Trim().GetString());
+            auto const marked = column == column_reference && row == reference;
+            texts.emplace_back(marked ? L"x" : TextOf(row, column, buffer));
         }
     }
     return table;

@@ -12,21 +12,27 @@ constexpr int c_alphabetLength = 52;
 
 } // namespace
 
-ScreenMetrics::ScreenMetrics()
+ScreenMetrics::ScreenMetrics(int dotsPerInch)
 {
+    CDC dc;
+    auto const onScreen = dc.CreateCompatibleDC(nullptr) != FALSE;
+    auto const screenResolution = onScreen ? dc.GetDeviceCaps(LOGPIXELSY) : USER_DEFAULT_SCREEN_DPI;
+    m_dotsPerInch = dotsPerInch > 0 ? dotsPerInch : screenResolution;
+
     NONCLIENTMETRICSW metrics{};
     metrics.cbSize = sizeof(metrics);
     if (!::SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof(metrics), &metrics, 0))
     {
         ::GetObjectW(::GetStockObject(DEFAULT_GUI_FONT), sizeof(metrics.lfMessageFont), &metrics.lfMessageFont);
     }
+    auto & height = metrics.lfMessageFont.lfHeight;
+    height = ::MulDiv(height, m_dotsPerInch, screenResolution);
     VERIFY(m_font.CreateFontIndirect(&metrics.lfMessageFont));
     auto bold = metrics.lfMessageFont;
     bold.lfWeight = FW_BOLD;
     VERIFY(m_boldFont.CreateFontIndirect(&bold));
 
-    CDC dc;
-    if (dc.CreateCompatibleDC(nullptr))
+    if (onScreen)
     {
         SelectScope const font(dc, m_font);
         auto const extent = dc.GetTextExtent(c_alphabet, c_alphabetLength);

@@ -11,8 +11,8 @@ namespace workbench
 class ScreenMetrics
 {
 public:
-    /// Takes the system's message font as it is now.
-    ScreenMetrics();
+    /// Takes the system's message font as it is now, for the screen's resolution or for another one in dots an inch.
+    explicit ScreenMetrics(int dotsPerInch = 0);
 
     /// The message font, and the same in bold.
     CFont & Font() { return m_font; }
@@ -21,6 +21,9 @@ public:
     /// Pixels for horizontal and vertical dialog units of the message font.
     int X(int dialogUnits) const { return ::MulDiv(dialogUnits, m_averageWidth, 4); }
     int Y(int dialogUnits) const { return ::MulDiv(dialogUnits, m_height, 8); }
+
+    /// Pixels for so many of a screen of the usual resolution, for what does not scale with texts.
+    int Scaled(int pixels) const { return ::MulDiv(pixels, m_dotsPerInch, USER_DEFAULT_SCREEN_DPI); }
 
     /// The average width of a letter.
     int AverageWidth() const { return m_averageWidth; }
@@ -31,6 +34,7 @@ public:
 private:
     CFont m_font;
     CFont m_boldFont;
+    int m_dotsPerInch = USER_DEFAULT_SCREEN_DPI;
     int m_averageWidth = 6;
     int m_height = 13;
 };

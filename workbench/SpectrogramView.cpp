@@ -8,9 +8,6 @@
 #include "logic/TextFormat.h"
 #include "logic/Texts.h"
 
-using workbench::c_plotFrameColour;
-using workbench::c_plotLabelColour;
-using workbench::c_plotProblemColour;
 using workbench::c_textOneLine;
 using workbench::DrawPlotLabel;
 using workbench::DrawPlotText;
@@ -190,7 +187,8 @@ void CSpectrogramView::PlaceProgress()
 
 void CSpectrogramView::Draw(CDC & dc, CRect const & rect)
 {
-    dc.FillSolidRect(rect, ::GetSysColor(COLOR_WINDOW));
+    m_plotColours = m_printing ? workbench::PaperPlotColours() : workbench::ScreenPlotColours();
+    dc.FillSolidRect(rect, m_plotColours.ground);
     if (m_metrics == nullptr || rect.IsRectEmpty())
     {
         return;
@@ -220,10 +218,17 @@ void CSpectrogramView::Draw(CDC & dc, CRect const & rect)
     }
     DrawPicture(dc, plot);
     auto const & info = m_result->info;
-    workbench::DrawTimeAxis(dc, plot, static_cast<double>(info.frames) / info.sampleRate, *m_metrics);
+    workbench::DrawTimeAxis(dc, plot, static_cast<double>(info.frames) / info.sampleRate, *m_metrics, m_plotColours);
     DrawFrequencyAxis(dc, plot);
     auto const legendLeft = plot.right + m_metrics->X(6);
     DrawLegend(dc, CRect(legendLeft, plot.top, legendLeft + m_metrics->X(6), plot.bottom));
+}
+
+void CSpectrogramView::Print(CDC & dc, CRect const & rect)
+{
+    m_printing = true;
+    Draw(dc, rect);
+    m_printing = false;
 }
 
 void CSpectrogramView::DrawMessage(CDC & dc, CRect const & rect)
@@ -233,11 +238,11 @@ void CSpectrogramView::DrawMessage(CDC & dc, CRect const & rect)
     area.top = MessageTop(rect);
     {
         workbench::SelectScope const bold(dc, m_metrics->BoldFont());
-        dc.SetTextColor(::GetSysColor(COLOR_WINDOWTEXT));
+        dc.SetTextColor(m_plotColours.text);
         DrawPlotText(dc, m_title, area, DT_CENTER | c_textOneLine);
     }
     area.top += m_metrics->LineHeight() + m_metrics->Y(5);
-    dc.SetTextColor(m_result ? c_plotProblemColour : c_plotLabelColour);
+    dc.SetTextColor(m_result ? m_plotColours.problem : m_plotColours.label);
     DrawPlotText(dc, m_text, area, DT_CENTER | DT_WORDBREAK);
 }
 
@@ -247,11 +252,11 @@ int CSpectrogramView::DrawHeading(CDC & dc, CRect const & area)
     auto rect = area;
     {
         workbench::SelectScope const bold(dc, m_metrics->BoldFont());
-        dc.SetTextColor(::GetSysColor(COLOR_WINDOWTEXT));
+        dc.SetTextColor(m_plotColours.text);
         DrawPlotText(dc, m_title, rect, DT_LEFT | c_textOneLine);
     }
     rect.top += line + m_metrics->Y(1);
-    dc.SetTextColor(c_plotLabelColour);
+    dc.SetTextColor(m_plotColours.label);
     DrawPlotText(dc, Details(), rect, DT_LEFT | c_textOneLine);
     return rect.top + line + m_metrics->Y(2);
 }
@@ -327,10 +332,10 @@ void CSpectrogramView::DrawFrequencyAxis(CDC & dc, CRect const & plot)
     for (auto const & tick : workbench::FrequencyTicks(m_result->info.sampleRate / 2.0, height, m_metrics->Y(16)))
     {
         auto const y = plot.bottom - 1 - tick.position;
-        dc.FillSolidRect(plot.left - tickWidth, y, tickWidth, 1, c_plotFrameColour);
+        dc.FillSolidRect(plot.left - tickWidth, y, tickWidth, 1, m_plotColours.frame);
         auto const size = TextSize(dc, tick.label);
         auto const top = std::min<int>(y - size.cy / 2, plot.bottom - size.cy);
-        DrawPlotLabel(dc, tick.label, CPoint(plot.left - tickWidth - m_metrics->X(1) - size.cx, top));
+        DrawPlotLabel(dc, tick.label, CPoint(plot.left - tickWidth - m_metrics->X(1) - size.cx, top), m_plotColours);
     }
 }
 
@@ -348,7 +353,7 @@ void CSpectrogramView::DrawLegend(CDC & dc, CRect const & bar)
         auto const label = LegendLabel(i) + (i == workbench::c_scaleEntries ? L" dB" : L"");
         auto const size = TextSize(dc, label);
         auto const top = std::min<int>(y(i) - size.cy / 2, bar.bottom - size.cy);
-        dc.FillSolidRect(bar.right, y(i), m_metrics->X(1), 1, c_plotFrameColour);
-        DrawPlotLabel(dc, label, CPoint(bar.right + m_metrics->X(2), top));
+        dc.FillSolidRect(bar.right, y(i), m_metrics->X(1), 1, m_plotColours.frame);
+        DrawPlotLabel(dc, label, CPoint(bar.right + m_metrics->X(2), top), m_plotColours);
     }
 }

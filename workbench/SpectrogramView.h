@@ -12,6 +12,7 @@
 
 #include "BufferedView.h"
 #include "ScreenMetrics.h"
+#include "logic/ReadableColours.h"
 #include "logic/SpectrogramJob.h"
 
 /// Shows the spectrogram of one recording: a heading, the spectrogram with a time and a frequency axis, and a legend of
@@ -47,6 +48,9 @@ public:
     /// them by the mapping mode.
     void Draw(CDC & dc, CRect const & rect) override;
 
+    /// The same in colours for white paper.
+    void Print(CDC & dc, CRect const & rect);
+
 protected:
     DECLARE_MESSAGE_MAP()
 
@@ -75,4 +79,6 @@ private:
     std::array<COLORREF, c_colours> m_colours;
     std::vector<std::uint8_t> m_picture; ///< as drawn last
     CSize m_pictureSize;
+    bool m_printing = false;
+    workbench::PlotColours m_plotColours{};
 };

@@ -13,9 +13,6 @@
 namespace
 {
 
-using workbench::c_plotFrameColour;
-using workbench::c_plotLabelColour;
-using workbench::c_plotProblemColour;
 using workbench::c_textLabel;
 using workbench::c_textOneLine;
 using workbench::DrawPlotText;
@@ -78,7 +75,8 @@ void CWaveformView::ShowText(std::wstring title, std::wstring text)
 
 void CWaveformView::Draw(CDC & dc, CRect const & client)
 {
-    dc.FillSolidRect(client, ::GetSysColor(COLOR_WINDOW));
+    m_plotColours = m_printing ? workbench::PaperPlotColours() : workbench::ScreenPlotColours();
+    dc.FillSolidRect(client, m_plotColours.ground);
     if (m_metrics == nullptr || client.IsRectEmpty())
     {
         return;
@@ -109,7 +107,7 @@ void CWaveformView::Draw(CDC & dc, CRect const & client)
     }
     m_plot = m_printing ? m_plot : plot;
     auto const & info = m_analysis->info;
-    workbench::DrawTimeAxis(dc, plot, static_cast<double>(info.frames) / info.sampleRate, *m_metrics);
+    workbench::DrawTimeAxis(dc, plot, static_cast<double>(info.frames) / info.sampleRate, *m_metrics, m_plotColours);
     for (int i = 0; i < lanes; ++i)
     {
         Lane lane;
@@ -146,7 +144,7 @@ CWaveformView::SurroundingColours CWaveformView::Surroundings() const
 {
     if (m_printing)
     {
-        return {RGB(255, 255, 255), RGB(226, 230, 236), RGB(150, 160, 172), c_plotLabelColour};
+        return {RGB(255, 255, 255), RGB(226, 230, 236), RGB(150, 160, 172), m_plotColours.label};
     }
     return {Farbtabellen::ScopeFarbe(c_groundColour), RGB(26, 58, 110), RGB(66, 98, 146), RGB(176, 196, 224)};
 }
@@ -274,11 +272,11 @@ void CWaveformView::DrawMessage(CDC & dc, CRect const & client)
     area.top = std::max<int>(area.top, area.CenterPoint().y - 2 * line);
     {
         workbench::SelectScope const bold(dc, m_metrics->BoldFont());
-        dc.SetTextColor(::GetSysColor(COLOR_WINDOWTEXT));
+        dc.SetTextColor(m_plotColours.text);
         DrawPlotText(dc, m_title, area, DT_CENTER | c_textOneLine);
     }
     area.top += line + m_metrics->Y(5);
-    dc.SetTextColor(m_analysis ? c_plotProblemColour : c_plotLabelColour);
+    dc.SetTextColor(m_analysis ? m_plotColours.problem : m_plotColours.label);
     DrawPlotText(dc, m_text, area, DT_CENTER | DT_WORDBREAK);
 }
 
@@ -288,16 +286,16 @@ int CWaveformView::DrawHeading(CDC & dc, CRect const & area)
     auto rect = area;
     {
         workbench::SelectScope const bold(dc, m_metrics->BoldFont());
-        dc.SetTextColor(::GetSysColor(COLOR_WINDOWTEXT));
+        dc.SetTextColor(m_plotColours.text);
         DrawPlotText(dc, m_title, rect, DT_LEFT | c_textOneLine);
     }
     rect.top += line + m_metrics->Y(1);
-    dc.SetTextColor(c_plotLabelColour);
+    dc.SetTextColor(m_plotColours.label);
     DrawPlotText(dc, Details(), rect, DT_LEFT | c_textOneLine);
     rect.top += line + m_metrics->Y(1);
     if (m_analysis->info.IsCutOff() || m_analysis->invalidSamples > 0)
     {
-        dc.SetTextColor(c_plotProblemColour);
+        dc.SetTextColor(m_plotColours.problem);
         DrawPlotText(dc, Text(L"This file is damaged") + (L": " + m_analysis->StatusText() + L'.'), rect,
                      DT_LEFT | c_textOneLine);
         rect.top += line + m_metrics->Y(1);
@@ -380,7 +378,7 @@ void CWaveformView::DrawLane(CDC & dc, Lane const & lane, std::size_t index)
         previousTop = top;
         previousBottom = bottom;
     }
-    dc.Draw3dRect(lane.rect, c_plotFrameColour, c_plotFrameColour);
+    dc.Draw3dRect(lane.rect, m_plotColours.frame, m_plotColours.frame);
 
     auto const name = LaneName(index);
     if (!name.empty() && lane.rect.Height() >= m_metrics->LineHeight() + m_metrics->Y(4))
@@ -408,7 +406,7 @@ void CWaveformView::DrawLevelGrid(CDC & dc, Lane const & lane)
             auto const size = TextSize(dc, label);
             CRect const rect(0, y - line / 2, lane.rect.left - m_metrics->X(2), y - line / 2 + size.cy);
             dc.SetBkMode(TRANSPARENT);
-            dc.SetTextColor(c_plotLabelColour);
+            dc.SetTextColor(m_plotColours.label);
             DrawPlotText(dc, label, rect, DT_RIGHT | c_textLabel);
         }
     };

@@ -11,6 +11,7 @@
 
 #include "BufferedView.h"
 #include "ScreenMetrics.h"
+#include "logic/ReadableColours.h"
 #include "logic/RecordingAnalysis.h"
 
 /// Shows one recording: a heading, a lane for each channel with its waveform on a level grid, and a time axis; or, in
@@ -88,4 +89,5 @@ private:
     std::uint64_t m_cursor = 0;                            ///< a frame
     CRect m_plot;                                          ///< where the lanes were drawn last
     bool m_printing = false;
+    workbench::PlotColours m_plotColours{};
 };

@@ -14,6 +14,8 @@ struct FileFacts
 {
     std::optional<std::uint64_t> size;    ///< bytes
     std::optional<std::time_t> lastWrite; ///< seconds since 1970, UTC
+
+    bool operator==(FileFacts const &) const = default;
 };
 
 /// Asks the file system. A file that does not exist has neither.

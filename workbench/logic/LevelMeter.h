@@ -16,6 +16,8 @@ struct Levels
 {
     double peak;
     double rms;
+
+    bool operator==(Levels const &) const = default;
 };
 
 /// 20 log10 of an amplitude; minus infinity for 0 and below.

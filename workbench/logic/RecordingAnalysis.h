@@ -28,6 +28,8 @@ struct RecordingAnalysis
     /// What there is to say about the file in English: the problem, "cut off" with the duration announced,
     /// "has invalid samples", or "OK".
     std::wstring StatusText() const;
+
+    bool operator==(RecordingAnalysis const &) const = default;
 };
 
 /// Reads a recording once, from front to end, in steps.

@@ -39,10 +39,27 @@ char32_t NextCharacter(std::wstring_view text, std::size_t & place)
     return c_endOfPlane + ((unit - c_firstLead) << 10) + (trail - c_firstTrail);
 }
 
+/// Whether a character stands for itself in HTML.
+bool IsPlainHtml(wchar_t character)
+{
+    return character >= L' ' && character < static_cast<wchar_t>(c_endOfPrintable) && character != L'&' &&
+           character != L'<' && character != L'>';
+}
+
 void AppendHtml(std::wstring & html, std::wstring_view text)
 {
     for (std::size_t place = 0; place < text.size();)
     {
+        auto const begin = place;
+        while (place < text.size() && IsPlainHtml(text[place]))
+        {
+            ++place;
+        }
+        html += text.substr(begin, place - begin);
+        if (place == text.size())
+        {
+            return;
+        }
         auto const character = NextCharacter(text, place);
         switch (character)
         {
@@ -65,10 +82,6 @@ void AppendHtml(std::wstring & html, std::wstring_view text)
             if (character > c_endOfPrintable)
             {
                 html += L"&#" + std::to_wstring(static_cast<unsigned long>(character)) + L';';
-            }
-            else if (character >= U' ' && character < c_endOfPrintable)
-            {
-                html += static_cast<wchar_t>(character);
             }
         }
     }

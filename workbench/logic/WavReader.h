@@ -35,6 +35,8 @@ struct ReadProblem
 
     /// The reason in the present language, without a full stop.
     std::wstring Text() const;
+
+    bool operator==(ReadProblem const &) const = default;
 };
 
 /// How one sample is stored.
@@ -58,6 +60,8 @@ struct RecordingInfo
 
     /// The file ends before its last announced sample.
     bool IsCutOff() const { return announcedFrames > frames; }
+
+    bool operator==(RecordingInfo const &) const = default;
 };
 
 /// Reads one recording from front to end. It holds no more than one block of bytes in memory, whatever the file's size.

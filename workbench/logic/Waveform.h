@@ -43,6 +43,8 @@ public:
     /// next column's, and at least one.
     std::vector<MinMax> Columns(std::size_t lane, std::size_t width) const;
 
+    bool operator==(Waveform const &) const = default;
+
 private:
     friend class WaveformBuilder;
 

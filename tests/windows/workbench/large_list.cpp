@@ -135,6 +135,55 @@ TEST_F(LargeRecordingList, TogglingTheSelectedCostsTheSameForEachOfMany)
     });
 }
 
+TEST_F(LargeRecordingList, SelectingAllAsksNoLineOutOfSight)
+{
+    CountingList list;
+    Fill(list, many);
+    auto const inSight = list.GetCountPerPage() + 1;
+    // For each line in sight, painting included.
+    auto const most = 60 * inSight;
+    ASSERT_LT(most, many);
+    EXPECT_LT(list.Count([&] {
+        list.SetItemState(-1, LVIS_SELECTED, LVIS_SELECTED);
+        tests::PumpPosted(100000);
+    }),
+              most);
+    EXPECT_EQ(list.GetSelectedCount(), static_cast<UINT>(many));
+    EXPECT_LT(list.Count([&] { list.SendMessage(WM_KILLFOCUS); }), most);
+    EXPECT_LT(list.Count([&] {
+        list.ChooseLine(3);
+        tests::PumpPosted(100000);
+    }),
+              most);
+    EXPECT_EQ(list.GetSelectedCount(), 1U);
+    EXPECT_EQ(list.ChosenLine(), 3);
+    list.DestroyWindow();
+}
+
+TEST_F(LargeRecordingList, KeysSelectUpToTheEndAndOneAgain)
+{
+    CountingList list;
+    Fill(list, many);
+    list.SetFocus();
+    list.ChooseLine(0);
+    BYTE former[256];
+    ::GetKeyboardState(former);
+    BYTE keys[256] = {};
+    keys[VK_SHIFT] = 0x80;
+    ::SetKeyboardState(keys);
+    list.SendMessage(WM_KEYDOWN, VK_END);
+    ::SetKeyboardState(former);
+    EXPECT_EQ(list.GetSelectedCount(), static_cast<UINT>(many));
+    EXPECT_EQ(list.GetNextItem(-1, LVNI_FOCUSED), many - 1);
+    EXPECT_EQ(list.GetTopIndex(), many - list.GetCountPerPage());
+    list.SendMessage(WM_KEYDOWN, VK_HOME);
+    EXPECT_EQ(list.GetSelectedCount(), 1U);
+    EXPECT_EQ(list.ChosenLine(), 0);
+    EXPECT_EQ(list.GetTopIndex(), 0);
+    EXPECT_TRUE(list.GetUpdateRect(nullptr)) << "nothing is painted";
+    list.DestroyWindow();
+}
+
 TEST_F(LargeRecordingList, SortingByAnOwnOrderAsksEachLineAFewTimes)
 {
     EXPECT_SAME_PER_LINE([](CountingList & list, int) { list.SortLines(CRecordingList::column_rating, false); });

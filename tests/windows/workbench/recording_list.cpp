@@ -5,6 +5,7 @@
 #include "Pump.h"
 #include "RecordingList.h"
 #include "ScopedWindow.h"
+#include "logic/ReadableColours.h"
 
 #include <gtest/gtest.h>
 
@@ -331,6 +332,25 @@ TEST_F(RecordingListTest, TheReferencesNameFitsInBold)
     EXPECT_GE(m_list.GetColumnWidth(CRecordingList::column_name), needed + 2 * m_list.GetCellPadding());
 }
 
+TEST_F(RecordingListTest, RowsAndColumnsGrowWithTheResolution)
+{
+    auto const measure = [this](int dotsPerInch) {
+        workbench::ScreenMetrics metrics(dotsPerInch);
+        CRecordingList list;
+        EXPECT_TRUE(list.CreateList(m_parent, list_id + 1, metrics));
+        list.ShowFiles({L"C:\\a.wav"}, {{}});
+        CRect row;
+        list.GetItemRect(0, &row, LVIR_BOUNDS);
+        CSize const size(list.GetColumnWidth(CRecordingList::column_date), row.Height());
+        list.DestroyWindow();
+        return size;
+    };
+    auto const usual = measure(96);
+    auto const high = measure(192);
+    EXPECT_NEAR(high.cy, 2 * usual.cy, 3);
+    EXPECT_GE(high.cx, usual.cx * 3 / 2);
+}
+
 TEST_F(RecordingListTest, ARateBeyondTheLargestIntShowsAsItself)
 {
     auto analysis = std::make_shared<RecordingAnalysis>(*AnalysisOf(recordings[0]));
@@ -340,15 +360,6 @@ TEST_F(RecordingListTest, ARateBeyondTheLargestIntShowsAsItself)
     // It is the greatest of all.
     m_list.SortLines(CRecordingList::column_rate, false);
     EXPECT_EQ(m_list.LineAt(0), 1);
-}
-
-double Luminance(COLORREF colour)
-{
-    auto const linear = [](int component) {
-        auto const part = component / 255.0;
-        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(GetRValue(colour)) + 0.7152 * linear(GetGValue(colour)) + 0.0722 * linear(GetBValue(colour));
 }
 
 TEST_F(RecordingListTest, MarksCanBeToldApartInAChosenLine)
@@ -361,7 +372,16 @@ TEST_F(RecordingListTest, MarksCanBeToldApartInAChosenLine)
     CClientDC dc(&m_list);
     auto const background = [&] { return dc.GetPixel(cell.left + 4, cell.top + 3); };
     EXPECT_TRUE(tests::PumpUntil([&] { return background() != ::GetSysColor(COLOR_WINDOW); }));
-    EXPECT_GE((Luminance(background()) + 0.05) / (Luminance(frame) + 0.05), least_contrast);
+    EXPECT_GE(workbench::ContrastRatio(background(), frame), least_contrast);
+
+    // It is seen, and so are its marks, where the list has no focus.
+    auto const withFocus = background();
+    tests::ScopedWindow other{CRect(600, 500, 800, 600)};
+    ASSERT_TRUE(tests::BringToFront(other.m_hWnd));
+    EXPECT_TRUE(tests::PumpUntil([&] { return background() != withFocus; }));
+    EXPECT_GE(workbench::ContrastRatio(background(), ::GetSysColor(COLOR_WINDOW)), 1.7);
+    EXPECT_GE(workbench::ContrastRatio(background(), RGB(0, 0, 0)), 4.5);
+    EXPECT_GE(workbench::ContrastRatio(background(), frame), least_contrast);
 }
 
 HWND VisibleToolTip()

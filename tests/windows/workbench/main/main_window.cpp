@@ -23,6 +23,7 @@
 namespace
 {
 namespace fs = std::filesystem;
+using namespace std::chrono_literals;
 
 constexpr auto read_limit = std::chrono::seconds(60);
 
@@ -54,6 +55,18 @@ void WriteRecording(fs::path const & path, std::uint32_t rate = 48000, std::uint
     }
 }
 
+bool IsAbove(HWND upper, HWND lower)
+{
+    for (auto below = upper; below != nullptr; below = ::GetWindow(below, GW_HWNDNEXT))
+    {
+        if (below == lower)
+        {
+            return true;
+        }
+    }
+    return false;
+}
+
 class WorkbenchMainWindow : public testing::Test
 {
 protected:
@@ -73,9 +86,9 @@ protected:
         fs::remove_all(m_folder);
     }
 
-    void OpenWindow()
+    void OpenWindow(int dotsPerInch = 0)
     {
-        m_window = std::make_unique<CMainWindow>();
+        m_window = std::make_unique<CMainWindow>(dotsPerInch);
         tests::App().m_pMainWnd = m_window.get();
         ASSERT_TRUE(m_window->CreateMainWindow());
         m_window->ShowWindow(SW_SHOW);
@@ -102,6 +115,21 @@ protected:
     bool WaitUntilRead()
     {
         return tests::PumpUntil([this] { return !m_window->IsBusy(); }, read_limit);
+    }
+    static int Widths(CRecordingList & list)
+    {
+        auto sum = 0;
+        for (int column = 0; column < CRecordingList::column_count; ++column)
+        {
+            sum += list.GetColumnWidth(column);
+        }
+        return sum;
+    }
+    static bool FillsItsWindow(CRecordingList & list)
+    {
+        CRect client;
+        list.GetClientRect(&client);
+        return Widths(list) == client.Width();
     }
     std::wstring Status()
     {
@@ -192,6 +220,94 @@ TEST_F(WorkbenchMainWindow, ReloadsWithTheSameChoiceAndMarks)
     EXPECT_EQ(m_window->List().GetHeaderCheckedState(CRecordingList::column_check), XHC_CHECKED);
 }
 
+TEST_F(WorkbenchMainWindow, ReloadsInTheSameOrder)
+{
+    auto const folder = Folder(20);
+    WriteRecording(folder / "r00007.wav", 48000, 2000);
+    m_window->ShowTargets({folder});
+    ASSERT_TRUE(WaitUntilRead());
+    auto & list = m_window->List();
+    list.SortLines(CRecordingList::column_duration, false);
+    ASSERT_EQ(list.LineAt(0), 7);
+    auto const sorted = [&list] {
+        return list.GetHeaderCheckedState(CRecordingList::column_duration) == XHC_SORT_DESCENDING;
+    };
+    m_window->SendMessage(WM_COMMAND, ID_RELOAD);
+    ASSERT_TRUE(WaitUntilRead());
+    EXPECT_TRUE(sorted());
+    EXPECT_EQ(list.LineAt(0), 7);
+
+    // A file that has changed moves to its place, one that came is put there, one that went leaves.
+    WriteRecording(folder / "r00003.wav", 48000, 3000);
+    WriteRecording(folder / "r00007b.wav", 48000, 1000);
+    fs::remove(folder / "r00000.wav");
+    m_window->SendMessage(WM_COMMAND, ID_RELOAD);
+    ASSERT_TRUE(WaitUntilRead());
+    EXPECT_TRUE(sorted());
+    ASSERT_EQ(list.GetItemCount(), 20);
+    std::vector<std::wstring> first;
+    for (int row = 0; row < 3; ++row)
+    {
+        first.push_back(list.GetItemText(row, CRecordingList::column_name).GetString());
+    }
+    EXPECT_EQ(first, (std::vector<std::wstring>{L"r00003.wav", L"r00007.wav", L"r00007b.wav"}));
+    EXPECT_EQ(list.GetItemText(19, CRecordingList::column_name), L"r00019.wav");
+}
+
+TEST_F(WorkbenchMainWindow, AReloadThatFindsTheSameChangesNothingToBeSeen)
+{
+    m_window->ShowTargets({Folder(40)});
+    ASSERT_TRUE(tests::PumpUntil([this] { return !m_window->IsBusy() && !m_window->IsComputing(); }, read_limit));
+    auto & list = m_window->List();
+    list.SortLines(CRecordingList::column_name, false);
+    ASSERT_TRUE(m_window->ChooseRecording(25));
+    tests::PumpPosted();
+    ASSERT_TRUE(tests::PumpUntil([this] { return !m_window->IsComputing(); }, read_limit));
+    list.EnsureVisible(39, FALSE);
+    auto const top = list.GetTopIndex();
+    m_window->SendMessage(WM_COMMAND, ID_RELOAD);
+    auto same = true;
+    auto const look = [&] {
+        same = same && list.GetItemCount() == 40 && list.ChosenLine() == 25 && list.GetTopIndex() == top &&
+               list.LineAt(0) == 39 && list.GetItemText(0, CRecordingList::column_status) == L"OK" &&
+               !m_window->IsComputing();
+    };
+    look();
+    EXPECT_TRUE(m_window->IsBusy());
+    ASSERT_TRUE(tests::PumpUntil(
+        [&] {
+            look();
+            return !m_window->IsBusy();
+        },
+        read_limit));
+    look();
+    EXPECT_TRUE(same);
+}
+
+TEST_F(WorkbenchMainWindow, AReloadShowsWhatHasBecomeOfFiles)
+{
+    auto const folder = Folder(5);
+    m_window->ShowTargets({folder});
+    ASSERT_TRUE(WaitUntilRead());
+    auto & list = m_window->List();
+    auto const status = [&list](int line) {
+        return std::wstring(list.GetItemText(list.PlaceOf(line), CRecordingList::column_status).GetString());
+    };
+    std::ofstream(folder / "r00002.wav", std::ios::binary) << "no recording";
+    m_window->SendMessage(WM_COMMAND, ID_RELOAD);
+    ASSERT_TRUE(WaitUntilRead());
+    EXPECT_NE(status(2), L"OK");
+    EXPECT_FALSE(list.GetEnabled(2, CRecordingList::column_name));
+    EXPECT_EQ(list.Totals().Unreadable(), 1U);
+    WriteRecording(folder / "r00002.wav", 48000, 2000);
+    m_window->SendMessage(WM_COMMAND, ID_RELOAD);
+    ASSERT_TRUE(WaitUntilRead());
+    EXPECT_EQ(status(2), L"OK");
+    EXPECT_TRUE(list.GetEnabled(2, CRecordingList::column_name));
+    EXPECT_EQ(list.Totals().Unreadable(), 0U);
+    EXPECT_EQ(list.GetItemText(2, CRecordingList::column_duration).Trim(), L"0:00.042");
+}
+
 TEST_F(WorkbenchMainWindow, KeepsItsDialogsAboveItself)
 {
     m_window->ShowTargets({Folder(3)});
@@ -205,20 +321,47 @@ TEST_F(WorkbenchMainWindow, KeepsItsDialogsAboveItself)
         EXPECT_EQ(::GetWindow(dialog->m_hWnd, GW_OWNER), m_window->m_hWnd);
     }
     ASSERT_TRUE(tests::BringToFront(m_window->m_hWnd));
-    auto const isAbove = [](HWND upper, HWND lower) {
-        for (auto below = upper; below != nullptr; below = ::GetWindow(below, GW_HWNDNEXT))
-        {
-            if (below == lower)
-            {
-                return true;
-            }
-        }
-        return false;
-    };
-    EXPECT_TRUE(tests::PumpUntil([&] { return isAbove(m_window->Details().m_hWnd, m_window->m_hWnd); }));
-    EXPECT_TRUE(isAbove(m_window->SettingsDialog().m_hWnd, m_window->Preview().m_hWnd));
-    EXPECT_TRUE(isAbove(m_window->Preview().m_hWnd, m_window->Details().m_hWnd));
+    EXPECT_TRUE(tests::PumpUntil([&] { return IsAbove(m_window->Details().m_hWnd, m_window->m_hWnd); }));
+    EXPECT_TRUE(IsAbove(m_window->SettingsDialog().m_hWnd, m_window->Preview().m_hWnd));
+    EXPECT_TRUE(IsAbove(m_window->Preview().m_hWnd, m_window->Details().m_hWnd));
     EXPECT_EQ(::GetForegroundWindow(), m_window->m_hWnd);
+}
+
+TEST_F(WorkbenchMainWindow, AClickIntoItLeavesItsDialogsAbove)
+{
+    m_window->ShowTargets({Folder(6)});
+    ASSERT_TRUE(WaitUntilRead());
+    auto & list = m_window->List();
+    ASSERT_TRUE(m_window->ShowPreview());
+    ASSERT_TRUE(m_window->ShowDetails(0));
+    CRect place;
+    m_window->GetWindowRect(&place);
+    // Aside, so that the list can be clicked.
+    for (CWnd * const dialog : {static_cast<CWnd *>(&m_window->Details()), static_cast<CWnd *>(&m_window->Preview())})
+    {
+        dialog->SetWindowPos(nullptr, place.left + 20, place.CenterPoint().y, 0, 0,
+                             SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    }
+    ASSERT_TRUE(tests::PumpUntil([&] { return ::GetForegroundWindow() == m_window->Details().m_hWnd; }));
+    for (int row = 1; row < 4; ++row)
+    {
+        auto const cell = list.CellCentre(row, CRecordingList::column_channels);
+        tests::Click(tests::ClientPoint(list.m_hWnd, cell));
+        ASSERT_TRUE(tests::PumpUntil([&] { return list.ChosenLine() == row; }));
+        tests::PumpFor(300ms); // the order must not change any more
+        EXPECT_EQ(::GetForegroundWindow(), m_window->m_hWnd);
+        EXPECT_TRUE(IsAbove(m_window->Details().m_hWnd, m_window->m_hWnd)) << "click " << row;
+        EXPECT_TRUE(IsAbove(m_window->Preview().m_hWnd, m_window->m_hWnd)) << "click " << row;
+    }
+
+    // What comes of a click can raise the window late, when all messages of its activation are done.
+    m_window->Details().SetActiveWindow();
+    tests::PumpPosted();
+    m_window->SetActiveWindow();
+    tests::PumpPosted();
+    m_window->SetWindowPos(nullptr, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_NOOWNERZORDER);
+    EXPECT_TRUE(tests::PumpUntil([this] { return IsAbove(m_window->Details().m_hWnd, m_window->m_hWnd); }, 5s));
+    EXPECT_TRUE(IsAbove(m_window->Preview().m_hWnd, m_window->m_hWnd));
 }
 
 TEST_F(WorkbenchMainWindow, OpensNoDetailsOfAFileThatHasTakenAnothersPlace)
@@ -249,6 +392,22 @@ TEST_F(WorkbenchMainWindow, ATitleThatIsClickedGetsRoomForItsSortMark)
     EXPECT_TRUE(tests::PumpUntil([&] { return list.GetColumnWidth(CRecordingList::column_channels) > before; }));
 }
 
+TEST_F(WorkbenchMainWindow, FitsItsScreenAtAHighResolution)
+{
+    CloseWindow();
+    OpenWindow(144);
+    MINMAXINFO info{};
+    m_window->SendMessage(WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&info));
+    CRect work;
+    ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
+    EXPECT_LE(info.ptMinTrackSize.x, work.Width());
+    EXPECT_LE(info.ptMinTrackSize.y, work.Height());
+    CRect place;
+    m_window->GetWindowRect(&place);
+    EXPECT_LE(place.Width(), work.Width());
+    EXPECT_LE(place.Height(), work.Height());
+}
+
 TEST_F(WorkbenchMainWindow, RemembersTheWidthOfAColumn)
 {
     m_window->ShowTargets({Folder(3)});
@@ -264,6 +423,8 @@ TEST_F(WorkbenchMainWindow, RemembersTheWidthOfAColumn)
     tests::PumpPosted();
     auto const set = list.GetColumnWidth(CRecordingList::column_name);
     EXPECT_NEAR(set, before + 57, 2);
+    // The others share what is left.
+    EXPECT_TRUE(tests::PumpUntil([&] { return FillsItsWindow(list); })) << Widths(list);
     // Results, other files, a reload and another size of the window leave it alone.
     m_window->SendMessage(WM_COMMAND, ID_RELOAD);
     ASSERT_TRUE(WaitUntilRead());
@@ -277,6 +438,7 @@ TEST_F(WorkbenchMainWindow, RemembersTheWidthOfAColumn)
     OpenWindow();
     EXPECT_EQ(m_window->List().GetColumnWidth(CRecordingList::column_name), set);
     m_window->SendMessage(WM_COMMAND, ID_FIT_COLUMNS);
+    EXPECT_TRUE(FillsItsWindow(m_window->List())) << Widths(m_window->List());
     EXPECT_NE(m_window->List().GetColumnWidth(CRecordingList::column_name), set);
     CloseWindow();
     OpenWindow();
