@@ -329,7 +329,7 @@ TEST_F(ComboDropWindow, GripKeepsWithinItsLimits)
     ASSERT_TRUE(Open());
     CRect const before = DropRect();
     CPoint const grip = GripPoint();
-    tests::Drag(grip, grip - CSize(300, 400));
+    tests::Drag(grip, grip - CSize(200, 200));
     ASSERT_TRUE(tests::PumpUntil([&] { return DropRect().Height() < before.Height(); }));
     tests::PumpPosted();
     EXPECT_EQ(DropRect().Width(), ComboRect().Width());
