@@ -114,6 +114,20 @@ public:
     bool IsFocused(int row) const { return GetItemState(row, LVIS_FOCUSED) != 0; }
 };
 
+/// Counts what reaches the native list.
+class CountingList : public TestList
+{
+public:
+    int m_asked = 0;
+
+protected:
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        ++m_asked;
+        return TestList::DefWindowProc(message, wParam, lParam);
+    }
+};
+
 /// A parent with a list made by code.
 class ListHost
 {

@@ -40,7 +40,7 @@ public:
     /// Calls of ours that hold the object: it may not be deleted within.
     int m_held = 0;
     bool m_modal = false;
-    /// Messages being handled after which the window system writes to the window's memory.
+    /// Messages being handled during which Wine does not stand the window's end; see Pins.
     int m_pinned = 0;
     bool m_resizable;
 
@@ -79,6 +79,10 @@ public:
     }
     void Enter(ChaosDialog * dialog) { m_dialogs.push_back(dialog); }
     void Leave(ChaosDialog * dialog) { std::erase(m_dialogs, dialog); }
+
+    /// Wine keeps a device context, with a region and a bitmap, for each that was once in use at the same time, and
+    /// loses the font of a caption whose window ends while it is asked for its text.
+    static constexpr int kept_by_the_system = 200;
 
 protected:
     void Operate() override;
@@ -156,6 +160,13 @@ BOOL ChaosDialog::OnCmdMsg(UINT id, int code, void * extra, AFX_CMDHANDLERINFO *
     return CDialog3d::OnCmdMsg(id, code, extra, info);
 }
 
+/// Whether the window must last until the message is handled. Each of these ends brings a plain program of the window
+/// system's own functions down under Wine, one that has no class of ours and runs well without them:
+/// - Once focus or activation has been handled, the dialog's record is written to, which has ended with the window.
+/// - A button that paints goes on with what it has freed after each message to its parent, for its background, its
+///   colours and its custom drawing; so does an edit field after it has asked for its colours.
+/// - An edit field or combo box writes to its freed memory after a notification.
+/// Everywhere else, from the first message of its creation on, a window may end.
 bool ChaosDialog::Pins(UINT message, WPARAM wParam, LPARAM lParam) const
 {
     switch (message)
