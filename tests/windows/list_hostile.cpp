@@ -1,5 +1,6 @@
 // Hosts that change rows and callables, or end the list, from within what the list tells them.
 
+#include "GuardedHeap.h"
 #include "ListTestHost.h"
 #include "Pump.h"
 
@@ -439,6 +440,7 @@ protected:
         tests::PumpPosted();
     }
 
+    tests::GuardedHeap m_heap; // so that nothing of the deleted list looks as before
     tests::ListParent m_parent;
     std::unique_ptr<tests::TestList> m_list = std::make_unique<tests::TestList>();
 };
