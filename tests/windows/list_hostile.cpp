@@ -440,9 +440,9 @@ protected:
         tests::PumpPosted();
     }
 
-    tests::GuardedHeap m_heap; // so that nothing of the deleted list looks as before
+    tests::GuardedHeap m_heap; // ends the program at a use of the deleted list
     tests::ListParent m_parent;
-    std::unique_ptr<tests::TestList> m_list = std::make_unique<tests::TestList>();
+    std::unique_ptr<tests::GuardedList> m_list = std::make_unique<tests::GuardedList>();
 };
 
 TEST_F(DeletedList, AtACellClick)
