@@ -64,6 +64,9 @@ public:
     }
     int Steps() const { return m_steps; }
 
+    /// GDI objects that the window system may come to hold: fonts of menus and captions.
+    static constexpr int kept_by_the_system = 16;
+
 protected:
     /// One random operation.
     virtual void Operate() = 0;
@@ -127,8 +130,7 @@ template <typename World> void RunAll()
             return;
     }
     tests::PumpPosted();
-    constexpr int kept_by_the_system = 16; // fonts of menus and captions
-    EXPECT_LE(tests::GdiHandleCount(), gdiObjects + kept_by_the_system);
+    EXPECT_LE(tests::GdiHandleCount(), gdiObjects + World::kept_by_the_system);
     testing::Test::RecordProperty("steps", steps);
 }
 } // namespace chaos
