@@ -201,6 +201,23 @@ TEST_F(ListEditCells, LosingTheFocusTakesTheText)
     EXPECT_EQ(m_host.TakePosted(), (PostedRows{{WM_XLISTCTRL_EDIT_END, 1, 1}}));
 }
 
+TEST_F(ListEditCells, TheFirstClickElsewhereIsTheEditsTheSecondTakesTheText)
+{
+    OpenEdit(1, 1);
+    SetText(Edit(), L"typed");
+    ASSERT_EQ(::GetCapture(), Edit());
+    CPoint const elsewhere = Screen(Middle(4, 3));
+    list_input::Click(elsewhere);
+    EXPECT_TRUE(tests::PumpUntil([] { return ::GetCapture() == nullptr; }));
+    tests::PumpPosted();
+    ASSERT_NE(Edit(), nullptr);
+    EXPECT_EQ(m_list.GetSelectedItem(), 1);
+    list_input::Click(elsewhere);
+    EXPECT_TRUE(tests::PumpUntil([this] { return Edit() == nullptr && m_list.GetSelectedItem() == 4; }));
+    EXPECT_EQ(m_list.GetItemText(1, 1), L"typed");
+    EXPECT_EQ(m_host.TakePosted(), (PostedRows{{WM_XLISTCTRL_EDIT_END, 1, 1}}));
+}
+
 TEST_F(ListEditCells, ANewEditThrowsTheOldOneAway)
 {
     m_list.SetItemText(1, 1, L"kept");
