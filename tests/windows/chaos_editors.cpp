@@ -17,6 +17,9 @@ constexpr UINT toggle_drop = WM_USER + 0x65;
 class EditorWorld : public chaos::Chaos
 {
 public:
+    /// Its cache of device contexts, for windows that paint within one another: it grows to that size and stays.
+    static constexpr int kept_by_the_system = 48;
+
     explicit EditorWorld(unsigned int seed) : Chaos(seed)
     {
         m_button.Create(L"b", WS_CHILD | WS_VISIBLE, CRect(5, 210, 60, 230), &m_parent, 32);

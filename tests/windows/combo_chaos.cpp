@@ -2,7 +2,6 @@
 
 #include "chaos_Chaos.h"
 
-#include "list/VisualStyles.h"
 #include "list/combo/AdvComboBox.h"
 #include "list/combo/AdvComboEdit.h"
 #include "list/combo/DropListBox.h"
@@ -12,13 +11,6 @@
 #include <memory>
 #include <string>
 #include <vector>
-
-// The module keeps its own object to itself.
-CVisualStyles & VisualStyles()
-{
-    static CVisualStyles styles;
-    return styles;
-}
 
 namespace
 {
