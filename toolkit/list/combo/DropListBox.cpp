@@ -85,8 +85,12 @@ int CDropListBox::GetBottomIndex() const
 
 combo_item const * CDropListBox::GetItem(int index) const
 {
-    DWORD_PTR const data = GetItemData(index);
-    return data == static_cast<DWORD_PTR>(LB_ERR) ? nullptr : reinterpret_cast<combo_item const *>(data);
+    if (m_hWnd == nullptr)
+        return nullptr;
+    // Straight to the native list: asked for every item when the list ends, and for many in a row of disabled ones.
+    auto & self = const_cast<CDropListBox &>(*this);
+    LRESULT const data = self.CListBox::DefWindowProc(LB_GETITEMDATA, static_cast<WPARAM>(index), 0);
+    return data == LB_ERR ? nullptr : reinterpret_cast<combo_item const *>(data);
 }
 
 bool CDropListBox::IsDisabled(int index) const
@@ -126,10 +130,12 @@ int CDropListBox::SetTopIdx(int index, bool update)
 int CDropListBox::AddListItem(combo_item const & item)
 {
     auto copy = std::make_unique<combo_item>(item);
-    int const index = AddString(item.text.c_str());
-    if (index >= 0 && SetItemDataPtr(index, copy.get()) != LB_ERR)
+    // Straight to the native list, since this is done for every item.
+    LRESULT const index = CListBox::DefWindowProc(LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(item.text.c_str()));
+    auto const data = reinterpret_cast<LPARAM>(copy.get());
+    if (index >= 0 && CListBox::DefWindowProc(LB_SETITEMDATA, static_cast<WPARAM>(index), data) != LB_ERR)
         copy.release();
-    return index;
+    return static_cast<int>(index);
 }
 
 void CDropListBox::AddListItems(std::list<combo_item> const & items)
