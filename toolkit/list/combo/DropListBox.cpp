@@ -34,6 +34,38 @@ private:
     CDC & m_dc;
     HGDIOBJ m_previous;
 };
+
+/// The widths of ASCII characters in the font selected: most of ten thousand texts need not be measured.
+class PlainWidths
+{
+public:
+    explicit PlainWidths(CDC & dc)
+    {
+        TEXTMETRIC metrics = {};
+        m_known = ::GetTextMetrics(dc, &metrics) && ::GetCharWidth32W(dc, 0, count - 1, m_widths);
+        m_overhang = metrics.tmOverhang;
+    }
+
+    /// Whether the text is certainly no wider than that; false if that is not known without measuring it.
+    bool IsAtMost(std::wstring const & text, int width) const
+    {
+        int sum = m_overhang;
+        for (wchar_t const character : text)
+        {
+            if (character >= count)
+                return false;
+            sum += m_widths[character];
+        }
+        return m_known && sum <= width;
+    }
+
+private:
+    static constexpr int count = 128;
+
+    int m_widths[count] = {};
+    int m_overhang = 0;
+    bool m_known = false;
+};
 } // namespace
 
 BEGIN_MESSAGE_MAP(CDropListBox, CListBox)
@@ -164,14 +196,17 @@ int CDropListBox::GetWidestText(std::list<combo_item> const & items)
     CClientDC dc(this);
     FontSelection const font(dc, m_combo->GetComboFont());
     int const extra = (m_comboFlags & combo_wide_items) != 0 ? wide_item_extra : 0;
-    int widest = 0;
+    PlainWidths const widths(dc);
+    int widest = -1;
     for (combo_item const & item : items)
     {
+        if (widths.IsAtMost(item.text, widest))
+            continue;
         CSize size;
         if (::GetTextExtentPoint32W(dc, item.text.c_str(), static_cast<int>(item.text.size()), &size))
-            widest = std::max(widest, static_cast<int>(size.cx) + extra);
+            widest = std::max(widest, static_cast<int>(size.cx));
     }
-    return widest;
+    return widest == -1 ? 0 : widest + extra;
 }
 
 int CDropListBox::RowAt(CPoint point) const
