@@ -134,8 +134,8 @@ testing::AssertionResult SamePixels(Canvas const & a, Canvas const & b)
 {
     if (a.Width() != b.Width() || a.Height() != b.Height())
     {
-        return testing::AssertionFailure() << "sizes differ: " << a.Width() << " x " << a.Height() << " and "
-                                           << b.Width() << " x " << b.Height();
+        return testing::AssertionFailure()
+               << "sizes differ: " << a.Width() << " x " << a.Height() << " and " << b.Width() << " x " << b.Height();
     }
     ::GdiFlush();
     int differing = 0;

@@ -19,9 +19,9 @@
 // numbers, so SetBreak(number) stops a second run in a debugger at that allocation. Fresh memory holds 0xCD, freed
 // memory 0xDD, guards 0xFD: a crash at such an address is a read of what has gone.
 //
-// A fault (a bad address, a trap of the compiler's, a stack that is full) ends the program, with a word of where it was:
-// window systems pass over faults in window procedures. Names of functions: `addr2line -f -e` with the module, its image
-// base added.
+// A fault (a bad address, a trap of the compiler's, a stack that is full) ends the program, with a word of where it
+// was: window systems pass over faults in window procedures. Names of functions: `addr2line -f -e` with the module, its
+// image base added.
 //
 // One object at a time. Blocks from before its life are left as they are; blocks that outlive it stay valid.
 

@@ -144,6 +144,11 @@ protected:
     }
 };
 
+/// The open edit over a cell of the list; null if there is none.
+HWND OpenEditOf(CWnd const & list);
+/// The thread's open combo over a cell of a list; null if there is none.
+HWND OpenCombo();
+
 /// A parent with a list made by code.
 class ListHost
 {

@@ -77,22 +77,8 @@ protected:
         }
     }
 
-    HWND Edit() const { return m_list != nullptr ? ::GetDlgItem(m_list->m_hWnd, edit_id) : nullptr; }
-    static HWND Combo()
-    {
-        HWND found = nullptr;
-        ::EnumThreadWindows(
-            ::GetCurrentThreadId(),
-            [](HWND window, LPARAM result) {
-                wchar_t name[32] = {};
-                ::GetClassNameW(window, name, 32);
-                if (CString(name) == L"SuperComboBox")
-                    *reinterpret_cast<HWND *>(result) = window;
-                return TRUE;
-            },
-            reinterpret_cast<LPARAM>(&found));
-        return found;
-    }
+    HWND Edit() const { return m_list != nullptr ? tests::OpenEditOf(*m_list) : nullptr; }
+    static HWND Combo() { return tests::OpenCombo(); }
 
     void Open()
     {

@@ -331,7 +331,7 @@ TEST_F(ListEditCells, AHostMayDeleteTheListWhenItHearsOfTheText)
     list->AddRows(2);
     // The native list tells of texts of its first column alone.
     list->DrawEditControl(1, 0);
-    HWND const edit = ::GetDlgItem(list->m_hWnd, list_editors::edit_id);
+    HWND const edit = tests::OpenEditOf(*list);
     ASSERT_NE(edit, nullptr);
     SetText(edit, L"typed");
     m_host.parent.onNotify = [&](NMHDR const & header) {
