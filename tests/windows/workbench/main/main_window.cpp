@@ -487,18 +487,14 @@ protected:
     {
         return tests::PumpUntil([this] { return !List().IsEditing(); });
     }
+    /// The list that a combo has dropped; it is a child of the desktop.
     static HWND VisibleDropList()
     {
         HWND found = nullptr;
         ::EnumThreadWindows(
             ::GetCurrentThreadId(),
             [](HWND window, LPARAM result) -> BOOL {
-                wchar_t name[64] = L"";
-                ::GetClassNameW(window, name, static_cast<int>(std::size(name)));
-                DWORD const style = static_cast<DWORD>(::GetWindowLongW(window, GWL_STYLE));
-                if (::IsWindowVisible(window) && (style & WS_POPUP) != 0 &&
-                    ::FindWindowExW(window, nullptr, nullptr, nullptr) != nullptr &&
-                    std::wstring(name) != L"SuperComboBox")
+                if (::IsWindowVisible(window) && (::GetWindowLongW(window, GWL_STYLE) & WS_CHILD) != 0)
                 {
                     *reinterpret_cast<HWND *>(result) = window;
                 }
