@@ -141,6 +141,11 @@ TEST(WorkbenchNotes, AreKeptByPathWhateverItsCase)
     EXPECT_NE(NotesKey(L"C:\\a.wav"), NotesKey(L"C:\\b.wav"));
     EXPECT_NE(NotesKey(L"C:\\a.wav"), NotesKey(L"C:\\\u00E4.wav"));
     EXPECT_EQ(NotesPath(Recording("sub") / ".." / "a.wav"), NotesPath(Recording("a.wav")));
+    EXPECT_EQ(NotesPath(Recording(".") / "a.wav"), NotesPath(Recording("a.wav")));
+    EXPECT_EQ(NotesPath(Recording("a.wav").root_path() / ".." / "a.wav"),
+              NotesPath(Recording("a.wav").root_path() / "a.wav"));
+    EXPECT_EQ(NotesPath(Recording("") / "" / ".hidden.wav"), NotesPath(Recording(".hidden.wav")));
+    EXPECT_EQ(NotesPath(Recording("a.wav").generic_string()), NotesPath(Recording("a.wav")));
     EXPECT_EQ(NotesPath("a.wav"), NotesPath(fs::current_path() / "a.wav"));
 }
 

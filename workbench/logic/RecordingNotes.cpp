@@ -234,6 +234,28 @@ void PutLine(std::string & text, NotedRecording const & recording)
     text += '\n';
 }
 
+/// Whether nothing in an absolute path could be left out. Normalising every path of a long list would take its time.
+bool IsNormal(std::filesystem::path const & path)
+{
+    using Char = std::filesystem::path::value_type;
+    auto const & text = path.native();
+    constexpr auto separator = std::filesystem::path::preferred_separator;
+    for (std::size_t i = 0; i < text.size(); ++i)
+    {
+        if (text[i] == Char('/') && separator != Char('/'))
+        {
+            return false;
+        }
+        // The names of servers begin with two.
+        auto const server = i == 1 && text[i] == separator && separator != Char('/');
+        if (i > 0 && text[i - 1] == separator && !server && (text[i] == separator || text[i] == Char('.')))
+        {
+            return false;
+        }
+    }
+    return true;
+}
+
 /// The path in wide characters, whatever its bytes are.
 std::wstring WideText(std::filesystem::path const & path)
 {
@@ -261,6 +283,10 @@ std::wstring WideText(std::filesystem::path const & path)
 
 std::wstring NotesPath(std::filesystem::path const & recording)
 {
+    if (recording.is_absolute() && IsNormal(recording))
+    {
+        return WideText(recording);
+    }
     std::error_code error;
     auto path = recording.is_absolute() ? recording : std::filesystem::absolute(recording, error);
     if (error)
