@@ -28,6 +28,9 @@
 
 #include "list/XListCtrl.h"
 
+#include "controls/ColorControl.h"
+#include "controls/ColorButton.h"
+
 #include "segments/ColorScheme.h"
 #include "segments/DigiStyle.h"
 #include "segments/DigiStatic.h"
