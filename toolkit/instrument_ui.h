@@ -30,6 +30,8 @@
 
 #include "controls/ColorControl.h"
 #include "controls/ColorButton.h"
+#include "controls/FreeIconButton.h"
+#include "controls/LevelSliderCtrl.h"
 
 #include "segments/ColorScheme.h"
 #include "segments/DigiStyle.h"
