@@ -32,6 +32,8 @@
 #include "controls/ColorButton.h"
 #include "controls/FreeIconButton.h"
 #include "controls/LevelSliderCtrl.h"
+#include "controls/ComboBoxX.h"
+#include "controls/ListBoxX.h"
 
 #include "segments/ColorScheme.h"
 #include "segments/DigiStyle.h"
