@@ -1,5 +1,7 @@
 #include "controls/ColorButton.h"
 
+#include <algorithm>
+
 #include "controls/ButtonLayout.h"
 
 namespace
@@ -110,7 +112,11 @@ void CColorButton::DrawCaption(CDC & dc, CRect const & area, CString const & tex
                                            : look == ButtonLook::Hot    ? m_hotFgColor
                                                                         : m_fgColor);
     if (look == ButtonLook::Disabled)
-        dc.DrawState(origin, extent, text, DSS_DISABLED | DST_PREFIXTEXT, TRUE, 0, static_cast<CBrush *>(nullptr));
+    {
+        // Up to the edge: the grey text is made without smoothing, and may be wider than what was measured.
+        CSize const room(std::max<LONG>(extent.cx, area.right - origin.x), extent.cy);
+        dc.DrawState(origin, room, text, DSS_DISABLED | DST_PREFIXTEXT, TRUE, 0, static_cast<CBrush *>(nullptr));
+    }
     else
         dc.TextOut(origin.x, origin.y, text);
     dc.SetBkMode(mode);

@@ -1,6 +1,7 @@
 #include "controls/ComboBoxX.h"
 
 #include <algorithm>
+#include <vector>
 
 #include "controls/FieldWidths.h"
 #include "controls/ItemRows.h"
@@ -15,6 +16,22 @@ constexpr wchar_t const * blank_text = L"\u2014";
 // From the field's corner, so that the tip's text lies over the field's.
 constexpr int tip_right = 1;
 constexpr int tip_down = 3;
+
+/// The width of the widest of the texts on the window's device context as it comes. A context is held over no message:
+/// it would end with the window.
+int WidestText(HWND window, std::vector<CString> const & texts)
+{
+    HDC const dc = ::GetDC(window);
+    int widest = 0;
+    for (CString const & text : texts)
+    {
+        SIZE extent{};
+        ::GetTextExtentPoint32W(dc, text, text.GetLength(), &extent);
+        widest = std::max(widest, static_cast<int>(extent.cx));
+    }
+    ::ReleaseDC(window, dc);
+    return widest;
+}
 
 /// The combo box by its window alone: the messages may end its object.
 class ComboField : public CompletionField
@@ -123,22 +140,17 @@ void CComboBoxX::Editable(bool editable)
 bool CComboBoxX::FitToWidth()
 {
     HWND const window = m_hWnd;
-    HDC const dc = window != nullptr ? ::GetDC(window) : nullptr;
-    if (dc == nullptr)
-        return false;
-    int widest = 0;
-    int const count = GetCount();
+    int const count = window != nullptr ? GetCount() : 0;
+    std::vector<CString> texts;
     for (int row = 0; row < count && item_rows::Serves(*this, window); ++row)
     {
         CString text;
         GetLBText(row, text);
-        SIZE extent{};
-        ::GetTextExtentPoint32W(dc, text, text.GetLength(), &extent);
-        widest = std::max(widest, static_cast<int>(extent.cx));
+        texts.push_back(text);
     }
-    ::ReleaseDC(window, dc);
     if (!item_rows::Serves(*this, window))
         return false;
+    int const widest = WidestText(window, texts);
     int const width = DropWidth(widest, ::GetSystemMetrics(SM_CXVSCROLL), ::GetSystemMetrics(SM_CXEDGE));
     int const present = GetDroppedWidth();
     if (present >= width || !item_rows::Serves(*this, window))
