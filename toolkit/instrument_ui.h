@@ -28,6 +28,13 @@
 
 #include "list/XListCtrl.h"
 
+#include "controls/ColorControl.h"
+#include "controls/ColorButton.h"
+#include "controls/FreeIconButton.h"
+#include "controls/LevelSliderCtrl.h"
+#include "controls/ComboBoxX.h"
+#include "controls/ListBoxX.h"
+
 #include "segments/ColorScheme.h"
 #include "segments/DigiStyle.h"
 #include "segments/DigiStatic.h"

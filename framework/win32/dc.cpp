@@ -42,7 +42,10 @@ CDC::~CDC()
 
 CDC * PASCAL CDC::FromHandle(HDC hDC)
 {
-    return DcMap().FromHandle(hDC);
+    CDC * const dc = DcMap().FromHandle(hDC);
+    if (dc != nullptr && dc->m_hDC == nullptr) // a temporary object that was detached since
+        dc->m_hDC = dc->m_hAttribDC = hDC;
+    return dc;
 }
 
 void PASCAL CDC::DeleteTempMap()

@@ -95,6 +95,19 @@ TEST(FrameworkGdiContexts, AttachSetsBothHandlesAndDetachClearsThem)
     ::DeleteDC(handle);
 }
 
+TEST(FrameworkGdiContexts, TemporaryObjectThatWasDetachedServesItsHandleAgain)
+{
+    HDC const handle = ::CreateCompatibleDC(nullptr);
+    CDC * const temporary = CDC::FromHandle(handle);
+    EXPECT_EQ(temporary->Detach(), handle);
+    CDC * const again = CDC::FromHandle(handle);
+    EXPECT_EQ(again, temporary);
+    EXPECT_EQ(again->m_hDC, handle);
+    EXPECT_EQ(again->m_hAttribDC, handle);
+    CDC::DeleteTempMap();
+    ::DeleteDC(handle);
+}
+
 TEST(FrameworkGdiContexts, DestructorDeletesTheContext)
 {
     tests::GdiBalance const balance;

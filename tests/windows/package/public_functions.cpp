@@ -6,6 +6,12 @@
 
 #include "clipboard/Clipboard.h"
 #include "colours/Farbtabellen.h"
+#include "controls/ColorButton.h"
+#include "controls/ColorControl.h"
+#include "controls/ComboBoxX.h"
+#include "controls/FreeIconButton.h"
+#include "controls/LevelSliderCtrl.h"
+#include "controls/ListBoxX.h"
 #include "dialogs/Dialog3d.h"
 #include "dialogs/DialogDrag.h"
 #include "dialogs/DialogFade.h"
@@ -76,6 +82,70 @@ void UseAll()
     Use(+[](unsigned int a0) -> COLORREF const * { return Farbtabellen::SpektrogrammFarbtabelle(std::forward<unsigned int>(a0)); });
     Use(+[](int a0) -> COLORREF const * { return Farbtabellen::SpektrogrammFarbtabelleSopeFarbe(std::forward<int>(a0)); });
     Use(+[](unsigned int a0) -> CString const & { return Farbtabellen::SpektrogrammFarbtabellenName(std::forward<unsigned int>(a0)); });
+
+    // controls/ColorButton.h
+    Use(+[]() { delete new CColorButton(); });
+    Use(+[](CColorButton & object) -> void { return object.CColorButton::ResetColors(); });
+    Use(+[](CColorButton & object, HICON a0, HICON a1, int a2) -> void { return object.CColorButton::SetIcons(std::forward<HICON>(a0), std::forward<HICON>(a1), std::forward<int>(a2)); });
+    Use(+[](CColorButton & object, bool a0) -> void { return object.CColorButton::DrawFrame(std::forward<bool>(a0)); });
+    Use(+[](CColorButton & object, bool a0) -> void { return object.CColorButton::DrawFocusFrame(std::forward<bool>(a0)); });
+    Use(+[](CColorButton & object, LPDRAWITEMSTRUCT a0) -> void { return object.CColorButton::DrawItem(std::forward<LPDRAWITEMSTRUCT>(a0)); });
+
+    // controls/ColorControl.h
+    Use(+[]() { delete new CColorControl(); });
+    Use(+[](CColorControl const & a0) { delete new CColorControl(std::forward<CColorControl const &>(a0)); });
+    Use(+[](CColorControl & object, CColorControl const & a0) -> CColorControl & { return object.CColorControl::operator=(std::forward<CColorControl const &>(a0)); });
+    Use(+[](CColorControl const & object, CColorControl::Color_e a0) -> unsigned long { return object.CColorControl::RgbColor(std::forward<CColorControl::Color_e>(a0)); });
+    Use(+[](CColorControl & object, unsigned long a0, unsigned long a1, unsigned long a2, unsigned long a3) -> void { return object.CColorControl::SetColors(std::forward<unsigned long>(a0), std::forward<unsigned long>(a1), std::forward<unsigned long>(a2), std::forward<unsigned long>(a3)); });
+    Use(+[](CColorControl & object, unsigned long a0, unsigned long a1) -> void { return object.CColorControl::SetColors(std::forward<unsigned long>(a0), std::forward<unsigned long>(a1)); });
+    Use(+[](CColorControl & object, CColorControl::Color_e a0, CColorControl::Color_e a1, CColorControl::Color_e a2, CColorControl::Color_e a3) -> void { return object.CColorControl::SetColors(std::forward<CColorControl::Color_e>(a0), std::forward<CColorControl::Color_e>(a1), std::forward<CColorControl::Color_e>(a2), std::forward<CColorControl::Color_e>(a3)); });
+    Use(+[](CColorControl & object, CColorControl::Color_e a0, CColorControl::Color_e a1) -> void { return object.CColorControl::SetColors(std::forward<CColorControl::Color_e>(a0), std::forward<CColorControl::Color_e>(a1)); });
+    Use(+[](CColorControl & object, unsigned long a0) -> void { return object.CColorControl::SetFgColor(std::forward<unsigned long>(a0)); });
+    Use(+[](CColorControl & object, CColorControl::Color_e a0) -> void { return object.CColorControl::SetFgColor(std::forward<CColorControl::Color_e>(a0)); });
+    Use(+[](CColorControl & object, unsigned long a0) -> void { return object.CColorControl::SetBgColor(std::forward<unsigned long>(a0)); });
+    Use(+[](CColorControl & object, CColorControl::Color_e a0) -> void { return object.CColorControl::SetBgColor(std::forward<CColorControl::Color_e>(a0)); });
+    Use(+[](CColorControl & object, unsigned long a0) -> void { return object.CColorControl::SetHotFgColor(std::forward<unsigned long>(a0)); });
+    Use(+[](CColorControl & object, unsigned long a0) -> void { return object.CColorControl::SetHotBgColor(std::forward<unsigned long>(a0)); });
+    Use(+[](CColorControl & object, unsigned long a0, unsigned long a1) -> void { return object.CColorControl::SetDisabledColors(std::forward<unsigned long>(a0), std::forward<unsigned long>(a1)); });
+    Use(+[](CColorControl & object, unsigned long a0) -> void { return object.CColorControl::SetDisabledFgColor(std::forward<unsigned long>(a0)); });
+    Use(+[](CColorControl & object, unsigned long a0) -> void { return object.CColorControl::SetDisabledBgColor(std::forward<unsigned long>(a0)); });
+    Use(+[](CColorControl & object, unsigned int a0) -> void { return object.CColorControl::SetRolloverDelay(std::forward<unsigned int>(a0)); });
+
+    // controls/ComboBoxX.h
+    Use(+[]() { delete new CComboBoxX(); });
+    Use(+[](CComboBoxX & object, wchar_t const * a0, int a1) -> int { return object.CComboBoxX::AddItem(std::forward<wchar_t const *>(a0), std::forward<int>(a1)); });
+    Use(+[](CComboBoxX & object, std::list<CString> const & a0, int a1, bool a2) -> void { return object.CComboBoxX::FillItems(std::forward<std::list<CString> const &>(a0), std::forward<int>(a1), std::forward<bool>(a2)); });
+    Use(+[](CComboBoxX & object, std::map<int, CString> const & a0, bool a1) -> void { return object.CComboBoxX::FillItems(std::forward<std::map<int, CString> const &>(a0), std::forward<bool>(a1)); });
+    Use(+[](CComboBoxX & object, int a0) -> int { return object.CComboBoxX::FindItemData(std::forward<int>(a0)); });
+    Use(+[](CComboBoxX & object, int a0) -> int { return object.CComboBoxX::SelectItemData(std::forward<int>(a0)); });
+    Use(+[](CComboBoxX & object, int a0) -> int { return object.CComboBoxX::GetSelectedItemData(std::forward<int>(a0)); });
+    Use(+[](CComboBoxX & object, bool a0) -> void { return object.CComboBoxX::AutoComplete(std::forward<bool>(a0)); });
+    Use(+[](CComboBoxX & object, bool a0) -> void { return object.CComboBoxX::AutoFit(std::forward<bool>(a0)); });
+    Use(+[](CComboBoxX & object, bool a0) -> void { return object.CComboBoxX::Editable(std::forward<bool>(a0)); });
+    Use(+[](CComboBoxX & object) -> bool { return object.CComboBoxX::FitToWidth(); });
+    Use(+[](CComboBoxX & object) -> void { return object.CComboBoxX::FitToEditWidth(); });
+    Use(+[](CComboBoxX & object, MSG * a0) -> BOOL { return object.CComboBoxX::PreTranslateMessage(std::forward<MSG *>(a0)); });
+
+    // controls/FreeIconButton.h
+    Use(+[]() { delete new CFreeIconButton(); });
+    Use(+[](CFreeIconButton & object, LPDRAWITEMSTRUCT a0) -> void { return object.CFreeIconButton::DrawItem(std::forward<LPDRAWITEMSTRUCT>(a0)); });
+
+    // controls/LevelSliderCtrl.h
+    Use(+[]() { delete new CLevelSliderCtrl(); });
+    Use(+[](CLevelSliderCtrl & object, unsigned long a0) -> void { return object.CLevelSliderCtrl::SetMainColor(std::forward<unsigned long>(a0)); });
+    Use(+[](CLevelSliderCtrl & object, unsigned long a0) -> void { return object.CLevelSliderCtrl::SetSecondColor(std::forward<unsigned long>(a0)); });
+
+    // controls/ListBoxX.h
+    Use(+[]() { delete new CListBoxX(); });
+    Use(+[](CListBoxX & object, wchar_t const * a0, int a1) -> int { return object.CListBoxX::AddItem(std::forward<wchar_t const *>(a0), std::forward<int>(a1)); });
+    Use(+[](CListBoxX & object, std::list<CString> const & a0, int a1, bool a2) -> void { return object.CListBoxX::FillItems(std::forward<std::list<CString> const &>(a0), std::forward<int>(a1), std::forward<bool>(a2)); });
+    Use(+[](CListBoxX & object, std::map<int, CString> const & a0) -> void { return object.CListBoxX::FillItems(std::forward<std::map<int, CString> const &>(a0)); });
+    Use(+[](CListBoxX & object, int a0) -> int { return object.CListBoxX::FindItemData(std::forward<int>(a0)); });
+    Use(+[](CListBoxX & object, int a0) -> int { return object.CListBoxX::SelectItemData(std::forward<int>(a0)); });
+    Use(+[](CListBoxX & object, int a0) -> int { return object.CListBoxX::GetSelectedItemData(std::forward<int>(a0)); });
+    Use(+[](CListBoxX const & object, CPoint a0, int & a1) -> int { return object.CListBoxX::LbxZeileZumPunkt(std::forward<CPoint>(a0), std::forward<int &>(a1)); });
+    Use(+[](CListBoxX const & object, CPoint a0, TOOLINFOW * a1) -> INT_PTR { return object.CListBoxX::OnToolHitTest(std::forward<CPoint>(a0), std::forward<TOOLINFOW *>(a1)); });
+    Use(+[](CListBoxX & object, UINT a0, NMHDR * a1, LRESULT * a2) -> int { return object.CListBoxX::OnToolTipText(std::forward<UINT>(a0), std::forward<NMHDR *>(a1), std::forward<LRESULT *>(a2)); });
 
     // dialogs/Dialog3d.h
     Use(+[]() { delete new CDialog3d::CSizeGrip(); });

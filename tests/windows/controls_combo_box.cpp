@@ -1,0 +1,702 @@
+// The combo box with numbered rows, completion and a tip.
+
+#include "controls/ComboBoxX.h"
+
+#include "controls_ControlTest.h"
+
+#include <afxpriv.h>
+
+#include <algorithm>
+#include <vector>
+
+namespace
+{
+constexpr UINT combo_id = 60;
+constexpr int width = 120;
+
+class OpenCombo : public controls::Watched<CComboBoxX>
+{
+public:
+    using CComboBoxX::GetThisMessageMap;
+    using CComboBoxX::m_autoComplete;
+    using CComboBoxX::m_autoFit;
+    using CComboBoxX::m_completeNow;
+    using CComboBoxX::m_editable;
+    using CComboBoxX::m_toolInfo;
+    using CComboBoxX::m_toolTipWnd;
+    using CComboBoxX::OnDropdown;
+
+    bool TipShown() const { return ::IsWindowVisible(m_toolTipWnd) != FALSE; }
+    CString TipText() const
+    {
+        wchar_t text[200] = L"";
+        TOOLINFOW tool = m_toolInfo;
+        tool.lpszText = text;
+        ::SendMessage(m_toolTipWnd, TTM_GETTEXTW, 200, reinterpret_cast<LPARAM>(&tool));
+        return text;
+    }
+};
+
+/// Notes the notifications of its controls.
+class Parent : public tests::ScopedWindow
+{
+public:
+    Parent() : ScopedWindow(CRect(100, 100, 500, 400), WS_POPUP | WS_VISIBLE) {}
+
+    std::vector<NMHDR> m_notifications;
+    WPARAM m_id = 0;
+    std::function<void()> m_onNotify;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message == WM_NOTIFY && reinterpret_cast<NMHDR *>(lParam)->code == static_cast<UINT>(NM_RETURN))
+        {
+            m_notifications.push_back(*reinterpret_cast<NMHDR *>(lParam));
+            m_id = wParam;
+            if (m_onNotify)
+                m_onNotify();
+            return 0;
+        }
+        return ScopedWindow::WindowProc(message, wParam, lParam);
+    }
+};
+
+class ComboBoxXTest : public testing::Test
+{
+protected:
+    void Open(DWORD style = CBS_DROPDOWNLIST, CFont * font = nullptr)
+    {
+        ASSERT_TRUE(combo.Create(WS_CHILD | WS_VISIBLE | WS_VSCROLL | CBS_AUTOHSCROLL | style,
+                                 CRect(20, 20, 20 + width, 200), &parent, combo_id));
+        if (font != nullptr)
+            combo.SetFont(font);
+        tests::PumpPosted();
+    }
+    CString Text()
+    {
+        CString text;
+        combo.GetWindowText(text);
+        return text;
+    }
+    CString Row(int row)
+    {
+        CString text;
+        combo.GetLBText(row, text);
+        return text;
+    }
+    int Data(int row) { return static_cast<int>(combo.GetItemData(row)); }
+    /// The client area without the button.
+    CRect Field()
+    {
+        CRect field;
+        combo.GetClientRect(field);
+        field.right -= ::GetSystemMetrics(SM_CXHTHUMB) + 2;
+        return field;
+    }
+    /// A text of W's whose width in the control's font, and that of one W more, lie on both sides of the field's.
+    CString TextOfWidth(bool tooWide)
+    {
+        CString text;
+        while (controls::TextWidth(combo, text + L"W") <= Field().Width() - 6)
+            text += L"W";
+        return tooWide ? text + L"W" : text;
+    }
+    /// A click into the edit field and the keys of the text.
+    void Type(wchar_t const * text)
+    {
+        HWND const edit = ::FindWindowExW(combo.m_hWnd, nullptr, L"Edit", nullptr);
+        ASSERT_TRUE(tests::BringToFront(parent.m_hWnd));
+        ::SetFocus(edit);
+        for (wchar_t const * key = text; *key != 0; ++key)
+        {
+            SHORT const virtualKey = ::VkKeyScanW(*key);
+            tests::Key(LOBYTE(virtualKey));
+        }
+    }
+
+    Parent parent;
+    OpenCombo combo;
+    tests::WindowCloser closer{combo};
+};
+
+using ComboBoxX = ComboBoxXTest;
+using ComboBoxXRows = ComboBoxXTest;
+using ComboBoxXWidth = ComboBoxXTest;
+using ComboBoxXTip = ComboBoxXTest;
+using ComboBoxXTyping = ComboBoxXTest;
+using ComboBoxXHostile = ComboBoxXTest;
+} // namespace
+
+TEST_F(ComboBoxX, StartsWithItsDefaults)
+{
+    EXPECT_FALSE(combo.m_editable);
+    EXPECT_FALSE(combo.m_autoComplete);
+    EXPECT_FALSE(combo.m_completeNow);
+    EXPECT_TRUE(combo.m_autoFit);
+    EXPECT_TRUE(combo.IsKindOf(RUNTIME_CLASS(CComboBox)));
+    combo.Editable(true);
+    combo.AutoComplete(true);
+    combo.AutoFit(false);
+    EXPECT_TRUE(combo.m_editable);
+    EXPECT_TRUE(combo.m_autoComplete);
+    EXPECT_FALSE(combo.m_autoFit);
+}
+
+TEST_F(ComboBoxX, HandlesMovesTimersAndItsOwnEditUpdate)
+{
+    AFX_MSGMAP const * const map = OpenCombo::GetThisMessageMap();
+    EXPECT_EQ(map->lpEntries[0].nMessage, static_cast<UINT>(WM_MOUSEMOVE));
+    EXPECT_EQ(map->lpEntries[1].nMessage, static_cast<UINT>(WM_TIMER));
+    EXPECT_EQ(map->lpEntries[2].nMessage, static_cast<UINT>(WM_COMMAND + WM_REFLECT_BASE));
+    EXPECT_EQ(map->lpEntries[2].nCode, static_cast<UINT>(CBN_EDITUPDATE));
+    EXPECT_EQ(map->lpEntries[3].nMessage, 0U);
+}
+
+TEST_F(ComboBoxX, HasItsTipFromTheStart)
+{
+    Open();
+    ASSERT_TRUE(::IsWindow(combo.m_toolTipWnd));
+    wchar_t name[32] = L"";
+    ::GetClassNameW(combo.m_toolTipWnd, name, 32);
+    EXPECT_STREQ(name, L"tooltips_class32");
+    EXPECT_EQ(::GetWindowLongPtrW(combo.m_toolTipWnd, GWL_STYLE) & 0xFF, 3);
+    EXPECT_EQ(::GetWindow(combo.m_toolTipWnd, GW_OWNER), parent.m_hWnd);
+    EXPECT_EQ(::SendMessage(combo.m_toolTipWnd, TTM_GETTOOLCOUNT, 0, 0), 1);
+    EXPECT_EQ(::SendMessage(combo.m_toolTipWnd, TTM_GETMAXTIPWIDTH, 0, 0), 32767);
+    EXPECT_EQ(static_cast<COLORREF>(::SendMessage(combo.m_toolTipWnd, TTM_GETTIPBKCOLOR, 0, 0)),
+              ::GetSysColor(COLOR_HIGHLIGHT));
+    EXPECT_EQ(static_cast<COLORREF>(::SendMessage(combo.m_toolTipWnd, TTM_GETTIPTEXTCOLOR, 0, 0)),
+              ::GetSysColor(COLOR_HIGHLIGHTTEXT));
+    CRect margin;
+    ::SendMessage(combo.m_toolTipWnd, TTM_GETMARGIN, 0, reinterpret_cast<LPARAM>(&margin));
+    EXPECT_EQ(margin, CRect(0, -1, 0, -1));
+    EXPECT_EQ(combo.m_toolInfo.cbSize, sizeof(TOOLINFOW));
+    EXPECT_EQ(combo.m_toolInfo.uFlags, 288U);
+    EXPECT_EQ(combo.m_toolInfo.hwnd, combo.m_hWnd);
+    EXPECT_EQ(combo.m_toolInfo.uId, 0U);
+    EXPECT_FALSE(combo.TipShown());
+}
+
+TEST_F(ComboBoxX, GivesItsFontToTheTipWhenItTakesOverAWindow)
+{
+    CFont font;
+    font.CreatePointFont(140, L"Tahoma");
+    HWND const native = ::CreateWindowExW(0, L"COMBOBOX", L"", WS_CHILD | CBS_DROPDOWNLIST, 0, 0, 100, 100,
+                                          parent.m_hWnd, nullptr, nullptr, nullptr);
+    ::SendMessage(native, WM_SETFONT, reinterpret_cast<WPARAM>(font.GetSafeHandle()), FALSE);
+    ASSERT_TRUE(combo.SubclassWindow(native));
+    // Some platforms' tips keep a copy.
+    LOGFONTW expected{};
+    LOGFONTW given{};
+    font.GetLogFont(&expected);
+    ::GetObjectW(reinterpret_cast<HFONT>(::SendMessage(combo.m_toolTipWnd, WM_GETFONT, 0, 0)), sizeof given, &given);
+    EXPECT_EQ(given.lfHeight, expected.lfHeight);
+    EXPECT_STREQ(given.lfFaceName, expected.lfFaceName);
+}
+
+TEST_F(ComboBoxX, TipEndsWithItsWindow)
+{
+    Open();
+    HWND const tip = combo.m_toolTipWnd;
+    combo.DestroyWindow();
+    EXPECT_FALSE(::IsWindow(tip));
+    Open();
+    HWND const second = combo.m_toolTipWnd;
+    EXPECT_TRUE(::IsWindow(second));
+    EXPECT_EQ(::SendMessage(second, TTM_GETTOOLCOUNT, 0, 0), 1);
+    {
+        OpenCombo inner;
+        ASSERT_TRUE(inner.Create(WS_CHILD | CBS_DROPDOWN, CRect(0, 0, 50, 50), &parent, 61));
+        HWND const innerTip = inner.m_toolTipWnd;
+        EXPECT_TRUE(::IsWindow(innerTip));
+        HWND const left = inner.UnsubclassWindow();
+        EXPECT_TRUE(::IsWindow(innerTip)) << "until the object ends";
+        ::DestroyWindow(left);
+    }
+}
+
+TEST_F(ComboBoxXRows, AreAddedWithTheirNumbers)
+{
+    Open();
+    EXPECT_EQ(combo.AddItem(L"one", 11), 0);
+    EXPECT_EQ(combo.AddItem(L"two", -5), 1);
+    EXPECT_EQ(combo.AddItem(nullptr, 7), 2);
+    EXPECT_EQ(Row(0), L"one");
+    EXPECT_EQ(Data(1), -5);
+    EXPECT_EQ(Row(2), L"");
+}
+
+TEST_F(ComboBoxXRows, KeepTheirNumbersWhereTheControlSorts)
+{
+    Open(CBS_DROPDOWNLIST | CBS_SORT);
+    EXPECT_EQ(combo.AddItem(L"b", 2), 0);
+    EXPECT_EQ(combo.AddItem(L"a", 1), 0);
+    EXPECT_EQ(Data(0), 1);
+    EXPECT_EQ(Data(1), 2);
+}
+
+TEST_F(ComboBoxXRows, OfAListAreNumberedInOrder)
+{
+    Open();
+    combo.FillItems(std::list<CString>{L"b", L"a"}, 10, true);
+    combo.FillItems(std::list<CString>{L"c"}, 20, false);
+    ASSERT_EQ(combo.GetCount(), 3);
+    EXPECT_EQ(Row(0), L"b");
+    EXPECT_EQ(Data(0), 10);
+    EXPECT_EQ(Data(1), 11);
+    EXPECT_EQ(Data(2), 20);
+    combo.FillItems(std::list<CString>{L"d"}, 0x7FFFFFFF, true);
+    ASSERT_EQ(combo.GetCount(), 1);
+    EXPECT_EQ(Data(0), 0x7FFFFFFF);
+}
+
+TEST_F(ComboBoxXRows, OfAMapComeInTheOrderOfTheirKeysAfterTheBlankOne)
+{
+    Open();
+    combo.AddItem(L"old", 1);
+    combo.FillItems(std::map<int, CString>{{5, L"five"}, {2, L"two"}}, true);
+    ASSERT_EQ(combo.GetCount(), 3);
+    EXPECT_EQ(Row(0), L"\u2014");
+    EXPECT_EQ(Data(0), -1);
+    EXPECT_EQ(Row(1), L"two");
+    EXPECT_EQ(Data(1), 2);
+    EXPECT_EQ(Data(2), 5);
+    combo.FillItems(std::map<int, CString>{{5, L"five"}}, false);
+    EXPECT_EQ(combo.GetCount(), 1);
+}
+
+TEST_F(ComboBoxXRows, OfAMapWithTheKeyMinusOneHaveNoBlankOne)
+{
+    Open();
+    combo.FillItems(std::map<int, CString>{{-1, L"none"}, {3, L"three"}}, true);
+    ASSERT_EQ(combo.GetCount(), 2);
+    EXPECT_EQ(Row(0), L"none");
+    EXPECT_EQ(Data(0), -1);
+}
+
+TEST_F(ComboBoxXRows, AreFoundByTheirNumbersFromTheTop)
+{
+    Open();
+    combo.FillItems(std::list<CString>{L"a", L"b"}, 4, true);
+    combo.AddItem(L"c", 5);
+    EXPECT_EQ(combo.FindItemData(5), 1) << "the first of two";
+    EXPECT_EQ(combo.FindItemData(99), -1);
+}
+
+TEST_F(ComboBoxXRows, UnknownNumberKeepsTheSelection)
+{
+    Open();
+    combo.FillItems(std::list<CString>{L"a", L"b"}, 4, true);
+    EXPECT_EQ(combo.SelectItemData(5), 1);
+    EXPECT_EQ(combo.GetCurSel(), 1);
+    EXPECT_EQ(combo.SelectItemData(77), -1);
+    EXPECT_EQ(combo.GetCurSel(), 1);
+    EXPECT_EQ(combo.GetSelectedItemData(0), 5);
+}
+
+TEST_F(ComboBoxXRows, NothingSelectedGivesTheDefault)
+{
+    Open();
+    EXPECT_EQ(combo.GetSelectedItemData(99), 99);
+    combo.AddItem(L"a", 4);
+    EXPECT_EQ(combo.GetSelectedItemData(99), 99);
+}
+
+TEST_F(ComboBoxXRows, OfAControlWithoutAWindowAreNone)
+{
+    EXPECT_LT(combo.AddItem(L"a", 1), 0);
+    combo.FillItems(std::list<CString>{L"a"}, 1, true);
+    combo.FillItems(std::map<int, CString>{{1, L"a"}}, true);
+    EXPECT_EQ(combo.FindItemData(0), -1);
+    EXPECT_EQ(combo.SelectItemData(0), -1);
+    EXPECT_EQ(combo.GetSelectedItemData(12), 12);
+    EXPECT_FALSE(combo.FitToWidth());
+    combo.FitToEditWidth();
+}
+
+TEST_F(ComboBoxXWidth, GrowsToTheLongestEntryInTheSystemsFont)
+{
+    CFont font;
+    font.CreatePointFont(200, L"Tahoma");
+    Open(CBS_DROPDOWNLIST, &font);
+    CString const text(L'm', 40);
+    combo.AddItem(L"short", 1);
+    combo.AddItem(text, 2);
+    CClientDC dc(&combo);
+    int const expected =
+        dc.GetTextExtent(text).cx + ::GetSystemMetrics(SM_CXVSCROLL) + 2 * ::GetSystemMetrics(SM_CXEDGE);
+    EXPECT_TRUE(combo.FitToWidth());
+    EXPECT_EQ(combo.GetDroppedWidth(), expected);
+    EXPECT_FALSE(combo.FitToWidth()) << "nothing changed";
+    combo.ResetContent();
+    combo.AddItem(L"short", 1);
+    EXPECT_FALSE(combo.FitToWidth()) << "it never gets narrower";
+    EXPECT_EQ(combo.GetDroppedWidth(), expected);
+}
+
+TEST_F(ComboBoxXWidth, BecomesTheControlsOwn)
+{
+    Open();
+    combo.SetDroppedWidth(700);
+    combo.FitToEditWidth();
+    EXPECT_EQ(combo.GetDroppedWidth(), width);
+}
+
+TEST_F(ComboBoxXWidth, IsFittedWhenTheDropDownOpensIfWanted)
+{
+    Open();
+    combo.AddItem(CString(L'm', 60), 1);
+    int const before = combo.GetDroppedWidth();
+    combo.AutoFit(false);
+    combo.ShowDropDown(TRUE);
+    combo.ShowDropDown(FALSE);
+    EXPECT_EQ(combo.GetDroppedWidth(), before);
+    combo.AutoFit(true);
+    combo.ShowDropDown(TRUE);
+    EXPECT_GT(combo.GetDroppedWidth(), before + 100);
+    combo.ShowDropDown(FALSE);
+}
+
+TEST_F(ComboBoxXTip, LiesOverATextThatIsTooWide)
+{
+    Open();
+    CString const text = TextOfWidth(true);
+    combo.AddItem(text, 1);
+    combo.SetCurSel(0);
+    ::SetFocus(parent.m_hWnd);
+    tests::MessageRecorder recorder({TTM_TRACKPOSITION, TTM_TRACKACTIVATE});
+    recorder.Watch(combo.m_toolTipWnd, "tip");
+    CRect field = Field();
+    ASSERT_TRUE(tests::MoveMouse(tests::ClientPoint(combo.m_hWnd, field.CenterPoint())));
+    ASSERT_TRUE(tests::PumpUntil([this] { return combo.TipShown(); }));
+    combo.ClientToScreen(field);
+    ASSERT_GE(recorder.Received().size(), 2U);
+    EXPECT_EQ(recorder.Received()[0].message, static_cast<UINT>(TTM_TRACKPOSITION));
+    EXPECT_EQ(recorder.Received()[0].lParam, MAKELPARAM(field.left + 1, field.top + 3));
+    EXPECT_EQ(recorder.Received()[1].wParam, static_cast<WPARAM>(TRUE));
+    EXPECT_EQ(combo.TipText(), text);
+    EXPECT_EQ(static_cast<COLORREF>(::SendMessage(combo.m_toolTipWnd, TTM_GETTIPBKCOLOR, 0, 0)),
+              ::GetSysColor(COLOR_WINDOW));
+    EXPECT_EQ(static_cast<COLORREF>(::SendMessage(combo.m_toolTipWnd, TTM_GETTIPTEXTCOLOR, 0, 0)),
+              ::GetSysColor(COLOR_WINDOWTEXT));
+
+    ASSERT_TRUE(tests::MoveMouse(tests::ClientPoint(parent.m_hWnd, {300, 250})));
+    EXPECT_TRUE(tests::PumpUntil([this] { return !combo.TipShown(); }));
+    EXPECT_FALSE(combo.KillTimer(1)) << "the timer is gone";
+}
+
+TEST_F(ComboBoxXTip, HasTheColorsOfASelectionWhileTheControlHasTheFocus)
+{
+    Open();
+    combo.AddItem(TextOfWidth(true), 1);
+    combo.SetCurSel(0);
+    ASSERT_TRUE(tests::BringToFront(parent.m_hWnd));
+    combo.SetFocus();
+    ASSERT_TRUE(tests::MoveMouse(tests::ClientPoint(combo.m_hWnd, Field().CenterPoint())));
+    ASSERT_TRUE(tests::PumpUntil([this] { return combo.TipShown(); }));
+    EXPECT_EQ(static_cast<COLORREF>(::SendMessage(combo.m_toolTipWnd, TTM_GETTIPBKCOLOR, 0, 0)),
+              ::GetSysColor(COLOR_HIGHLIGHT));
+    EXPECT_EQ(static_cast<COLORREF>(::SendMessage(combo.m_toolTipWnd, TTM_GETTIPTEXTCOLOR, 0, 0)),
+              ::GetSysColor(COLOR_HIGHLIGHTTEXT));
+    tests::MoveMouse(tests::ClientPoint(parent.m_hWnd, {300, 250}));
+    EXPECT_TRUE(tests::PumpUntil([this] { return !combo.TipShown(); }));
+}
+
+TEST_F(ComboBoxXTip, TextExactlySixPixelsNarrowerShowsNone)
+{
+    Open();
+    CString const text = L"Text of some width";
+    combo.AddItem(text, 1);
+    combo.SetCurSel(0);
+    // The control's width is made to fit the text: field = text + 6, then one less.
+    int const spare = Field().Width() - 6 - controls::TextWidth(combo, text);
+    CRect rect;
+    combo.GetWindowRect(rect);
+    combo.SetWindowPos(nullptr, 0, 0, rect.Width() - spare, rect.Height(), SWP_NOMOVE | SWP_NOZORDER);
+    ASSERT_EQ(Field().Width() - 6, controls::TextWidth(combo, text));
+    tests::MoveMouse(tests::ClientPoint(parent.m_hWnd, {300, 250}));
+    tests::PumpPosted();
+    combo.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(5, 5));
+    EXPECT_FALSE(combo.TipShown());
+    combo.SetWindowPos(nullptr, 0, 0, rect.Width() - spare - 1, rect.Height(), SWP_NOMOVE | SWP_NOZORDER);
+    combo.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(5, 5));
+    EXPECT_TRUE(combo.TipShown());
+    combo.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(Field().right + 1, 5));
+    EXPECT_FALSE(combo.TipShown()) << "over the button";
+}
+
+TEST_F(ComboBoxXTip, IsMeasuredInTheControlsFont)
+{
+    CFont font;
+    font.CreatePointFont(240, L"Tahoma");
+    Open();
+    combo.AddItem(L"Text of some", 1);
+    combo.SetCurSel(0);
+    combo.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(5, 5));
+    EXPECT_FALSE(combo.TipShown());
+    combo.SetFont(&font);
+    combo.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(5, 5));
+    EXPECT_TRUE(combo.TipShown());
+}
+
+TEST_F(ComboBoxXTip, TimerGoesOnWhileThePointerIsInTheField)
+{
+    Open();
+    ASSERT_TRUE(tests::BringToFront(parent.m_hWnd));
+    combo.AddItem(TextOfWidth(true), 1);
+    combo.SetCurSel(0);
+    ASSERT_TRUE(tests::MoveMouse(tests::ClientPoint(combo.m_hWnd, Field().CenterPoint())));
+    ASSERT_TRUE(tests::PumpUntil([this] { return combo.TipShown(); }));
+    combo.SendMessage(WM_TIMER, 1);
+    EXPECT_TRUE(combo.TipShown());
+    EXPECT_TRUE(combo.KillTimer(1));
+    combo.SetTimer(9, 100000, nullptr);
+    tests::MoveMouse(tests::ClientPoint(parent.m_hWnd, {300, 250}));
+    combo.SendMessage(WM_TIMER, 9);
+    EXPECT_FALSE(combo.TipShown()) << "any timer looks for the pointer";
+    EXPECT_FALSE(combo.KillTimer(9)) << "and is ended";
+}
+
+TEST_F(ComboBoxXTip, AndTimerEndWithTheControl)
+{
+    Open();
+    combo.AddItem(TextOfWidth(true), 1);
+    combo.SetCurSel(0);
+    combo.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(5, 5));
+    ASSERT_TRUE(combo.TipShown());
+    HWND const tip = combo.m_toolTipWnd;
+    HWND const window = combo.m_hWnd;
+    combo.DestroyWindow();
+    EXPECT_FALSE(::IsWindow(tip));
+    EXPECT_FALSE(::KillTimer(window, 1));
+}
+
+TEST_F(ComboBoxXTyping, TwoLettersTakeTheFirstRowAndBackspaceRemovesItsTail)
+{
+    Open(CBS_DROPDOWN);
+    combo.AutoComplete(true);
+    combo.FillItems(std::list<CString>{L"zero", L"Amplitude", L"ampere"}, 0, true);
+    Type(L"am");
+    ASSERT_TRUE(tests::PumpUntil([this] { return Text() == L"Amplitude" && combo.GetEditSel() == MAKELONG(2, 9); }))
+        << Text().GetString() << combo.GetEditSel();
+    Type(L"\b");
+    ASSERT_TRUE(tests::PumpUntil([this] { return Text().GetLength() == 2; }));
+    EXPECT_EQ(Text().Left(1).MakeUpper(), L"A");
+    EXPECT_FALSE(combo.m_completeNow);
+    tests::PumpPosted();
+    EXPECT_EQ(Text().GetLength(), 2) << "not completed again";
+}
+
+TEST_F(ComboBoxXTyping, CompletionMakesTheRowTheCurrentOne)
+{
+    // Typed by the user, the text takes the choice back on some platforms once the row is taken.
+    Open(CBS_DROPDOWN);
+    combo.AutoComplete(true);
+    combo.FillItems(std::list<CString>{L"zero", L"Amplitude", L"ampere"}, 0, true);
+    MSG key{combo.m_hWnd, WM_KEYDOWN, 'M', 0, 0, {}};
+    combo.PreTranslateMessage(&key);
+    combo.SetWindowText(L"am");
+    combo.SetEditSel(2, 2);
+    parent.SendMessage(WM_COMMAND, MAKEWPARAM(combo_id, CBN_EDITUPDATE), reinterpret_cast<LPARAM>(combo.m_hWnd));
+    EXPECT_EQ(combo.GetCurSel(), 1);
+    EXPECT_EQ(Text(), L"Amplitude");
+}
+
+TEST_F(ComboBoxXTyping, NextLetterGoesOnAndAWrongOneStands)
+{
+    Open(CBS_DROPDOWN);
+    combo.AutoComplete(true);
+    combo.FillItems(std::list<CString>{L"ampere", L"amplitude"}, 0, true);
+    Type(L"ampl");
+    ASSERT_TRUE(tests::PumpUntil([this] { return Text() == L"amplitude" && combo.GetEditSel() == MAKELONG(4, 9); }));
+    Type(L"x");
+    ASSERT_TRUE(tests::PumpUntil([this] { return Text() == L"amplx"; }));
+    EXPECT_EQ(combo.GetEditSel(), static_cast<DWORD>(MAKELONG(5, 5)));
+}
+
+TEST_F(ComboBoxXTyping, LetterWithinTheTextKeepsTheCaretThere)
+{
+    Open(CBS_DROPDOWN);
+    combo.AutoComplete(true);
+    combo.FillItems(std::list<CString>{L"ampere"}, 0, true);
+    combo.SetWindowText(L"ap");
+    HWND const edit = ::FindWindowExW(combo.m_hWnd, nullptr, L"Edit", nullptr);
+    ASSERT_TRUE(tests::BringToFront(parent.m_hWnd));
+    ::SetFocus(edit);
+    combo.SetEditSel(1, 1);
+    tests::Key('M');
+    ASSERT_TRUE(tests::PumpUntil([this] { return Text() == L"ampere"; }));
+    EXPECT_EQ(combo.GetEditSel(), static_cast<DWORD>(MAKELONG(2, 2)));
+}
+
+TEST_F(ComboBoxXTyping, WithoutCompletionTextStaysAsTyped)
+{
+    Open(CBS_DROPDOWN);
+    combo.FillItems(std::list<CString>{L"ampere"}, 0, true);
+    Type(L"am");
+    ASSERT_TRUE(tests::PumpUntil([this] { return Text() == L"am"; }));
+    EXPECT_FALSE(combo.m_completeNow);
+}
+
+TEST_F(ComboBoxXTyping, KeysDecideWhetherToComplete)
+{
+    Open(CBS_DROPDOWN);
+    combo.AutoComplete(true);
+    MSG key{combo.m_hWnd, WM_KEYDOWN, 'A', 0, 0, {}};
+    EXPECT_FALSE(combo.PreTranslateMessage(&key));
+    EXPECT_TRUE(combo.m_completeNow);
+    key.wParam = VK_DELETE;
+    combo.PreTranslateMessage(&key);
+    EXPECT_FALSE(combo.m_completeNow);
+    key.wParam = VK_LEFT;
+    combo.PreTranslateMessage(&key);
+    EXPECT_TRUE(combo.m_completeNow);
+    key.wParam = VK_BACK;
+    combo.PreTranslateMessage(&key);
+    EXPECT_FALSE(combo.m_completeNow);
+    key.message = WM_KEYUP;
+    key.wParam = 'A';
+    combo.PreTranslateMessage(&key);
+    EXPECT_FALSE(combo.m_completeNow) << "only when a key goes down";
+}
+
+TEST_F(ComboBoxXTyping, ReturnIsReportedToTheParentIfWanted)
+{
+    Open(CBS_DROPDOWN);
+    Type(L"\r");
+    tests::PumpFor(std::chrono::milliseconds(50));
+    EXPECT_TRUE(parent.m_notifications.empty());
+    combo.Editable(true);
+    Type(L"\r");
+    ASSERT_TRUE(tests::PumpUntil([this] { return !parent.m_notifications.empty(); }));
+    EXPECT_EQ(parent.m_notifications[0].hwndFrom, combo.m_hWnd);
+    EXPECT_EQ(parent.m_notifications[0].idFrom, combo_id);
+    EXPECT_EQ(static_cast<int>(parent.m_notifications[0].code), -4);
+    EXPECT_EQ(parent.m_id, combo_id);
+    MSG key{combo.m_hWnd, WM_KEYDOWN, VK_RETURN, 0, 0, {}};
+    EXPECT_EQ(combo.PreTranslateMessage(&key), 1) << "and goes nowhere else";
+}
+
+TEST_F(ComboBoxXTyping, ReturnGoesToTheOwnerRatherThanTheParent)
+{
+    Open(CBS_DROPDOWN);
+    combo.Editable(true);
+    Parent owner;
+    combo.SetOwner(&owner);
+    MSG key{combo.m_hWnd, WM_KEYDOWN, VK_RETURN, 0, 0, {}};
+    EXPECT_EQ(combo.PreTranslateMessage(&key), 1);
+    EXPECT_EQ(owner.m_notifications.size(), 1U);
+    EXPECT_TRUE(parent.m_notifications.empty());
+}
+
+TEST_F(ComboBoxXTyping, ReturnDoesNotCountAsAKeyThatCompletes)
+{
+    Open(CBS_DROPDOWN);
+    combo.Editable(true);
+    combo.AutoComplete(true);
+    MSG key{combo.m_hWnd, WM_KEYDOWN, VK_RETURN, 0, 0, {}};
+    combo.PreTranslateMessage(&key);
+    EXPECT_FALSE(combo.m_completeNow);
+}
+
+TEST_F(ComboBoxXHostile, EndsWithinAnyOfItsMessagesWithoutHarm)
+{
+    std::list<CString> const texts{L"some text that is far too wide for the field of the control", L"b"};
+    std::map<int, CString> const items{{1, texts.front()}, {2, L"b"}};
+    using Action = std::function<void(OpenCombo &)>;
+    std::vector<std::pair<UINT, Action>> const cases = {
+        {CB_ADDSTRING, [](OpenCombo & one) { one.AddItem(L"x", 1); }},
+        {CB_SETITEMDATA, [&](OpenCombo & one) { one.FillItems(texts, 1, true); }},
+        {CB_RESETCONTENT, [&](OpenCombo & one) { one.FillItems(texts, 1, true); }},
+        {CB_RESETCONTENT, [&](OpenCombo & one) { one.FillItems(items, true); }},
+        {CB_ADDSTRING, [&](OpenCombo & one) { one.FillItems(items, true); }},
+        {CB_GETITEMDATA, [](OpenCombo & one) { one.FindItemData(7); }},
+        {CB_GETCOUNT, [](OpenCombo & one) { one.SelectItemData(1); }},
+        {CB_SETCURSEL, [](OpenCombo & one) { one.SelectItemData(1); }},
+        {CB_GETCURSEL, [](OpenCombo & one) { one.GetSelectedItemData(1); }},
+        {CB_GETCOUNT, [](OpenCombo & one) { one.FitToWidth(); }},
+        {CB_GETDROPPEDWIDTH, [](OpenCombo & one) { one.FitToWidth(); }},
+        {CB_SETDROPPEDWIDTH, [](OpenCombo & one) { one.FitToWidth(); }},
+        {WM_GETTEXT, [](OpenCombo & one) { one.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(5, 5)); }},
+        {WM_GETFONT, [](OpenCombo & one) { one.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(5, 5)); }},
+        {WM_TIMER, [](OpenCombo & one) { one.SendMessage(WM_TIMER, 1); }},
+        {CB_GETEDITSEL,
+         [this](OpenCombo & one) {
+             one.m_autoComplete = one.m_completeNow = true;
+             parent.SendMessage(WM_COMMAND, MAKEWPARAM(62, CBN_EDITUPDATE), reinterpret_cast<LPARAM>(one.m_hWnd));
+         }},
+        {CB_GETCOUNT,
+         [this](OpenCombo & one) {
+             parent.SendMessage(WM_COMMAND, MAKEWPARAM(62, CBN_DROPDOWN), reinterpret_cast<LPARAM>(one.m_hWnd));
+         }},
+    };
+    int number = 0;
+    for (auto const & [message, act] : cases)
+    {
+        SCOPED_TRACE(number++);
+        auto * const doomed = new OpenCombo;
+        ASSERT_TRUE(doomed->Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWNLIST, CRect(0, 0, 90, 100), &parent, 62));
+        doomed->FillItems(texts, 1, true);
+        doomed->SetCurSel(0);
+        HWND const tip = doomed->m_toolTipWnd;
+        bool ended = false;
+        doomed->On(message, [&ended, doomed] {
+            ended = true;
+            delete doomed;
+        });
+        act(*doomed);
+        EXPECT_TRUE(ended);
+        if (!ended)
+            delete doomed;
+        EXPECT_FALSE(::IsWindow(tip));
+    }
+}
+
+TEST_F(ComboBoxXHostile, EndsWhenReturnIsReportedWithoutHarm)
+{
+    auto * const doomed = new OpenCombo;
+    ASSERT_TRUE(doomed->Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWN, CRect(0, 0, 90, 100), &parent, 62));
+    doomed->Editable(true);
+    doomed->AutoComplete(true);
+    parent.m_onNotify = [doomed] { delete doomed; };
+    MSG key{doomed->m_hWnd, WM_KEYDOWN, VK_RETURN, 0, 0, {}};
+    EXPECT_EQ(doomed->PreTranslateMessage(&key), 1);
+}
+
+TEST_F(ComboBoxXHostile, ListsThatTheHostChangesMeanwhileAreReadAsTheyWere)
+{
+    Open();
+    std::list<CString> texts{L"a", L"b", L"c"};
+    combo.On(CB_ADDSTRING, [&texts] { texts.clear(); });
+    combo.FillItems(texts, 1, true);
+    EXPECT_EQ(combo.GetCount(), 2) << "the first message was the host's";
+    std::map<int, CString> items{{1, L"a"}, {2, L"b"}, {3, L"c"}};
+    combo.On(CB_RESETCONTENT, [&items] { items.clear(); });
+    combo.FillItems(items, false);
+    EXPECT_EQ(combo.GetCount(), 2 + 3);
+}
+
+TEST_F(ComboBoxXHostile, OpeningsLeaveNoWindowBehind)
+{
+    auto const windows = [] {
+        int count = 0;
+        ::EnumThreadWindows(
+            ::GetCurrentThreadId(),
+            [](HWND, LPARAM counter) {
+                ++*reinterpret_cast<int *>(counter);
+                return TRUE;
+            },
+            reinterpret_cast<LPARAM>(&count));
+        return count;
+    };
+    int const before = windows();
+    for (int i = 0; i < 500; ++i)
+    {
+        OpenCombo one;
+        ASSERT_TRUE(one.Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWNLIST, CRect(0, 0, 60, 100), &parent, 63));
+        if (i % 2 == 0)
+            one.DestroyWindow();
+    }
+    EXPECT_EQ(windows(), before);
+}

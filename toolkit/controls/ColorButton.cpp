@@ -1,0 +1,151 @@
+#include "controls/ColorButton.h"
+
+#include <algorithm>
+
+#include "controls/ButtonLayout.h"
+
+namespace
+{
+constexpr int default_icon_size = 32;
+} // namespace
+
+BEGIN_MESSAGE_MAP(CColorButton, CButton)
+    ON_WM_MOUSEMOVE()
+    ON_WM_TIMER()
+END_MESSAGE_MAP()
+
+CColorButton::CColorButton()
+    : m_drawFrame(true),
+      m_drawFocusFrame(false),
+      m_icon(nullptr),
+      m_disabledIcon(nullptr),
+      m_iconSize(default_icon_size)
+{
+}
+
+CColorButton::~CColorButton() = default;
+
+void CColorButton::ResetColors()
+{
+    SetColors(ButtonText, ButtonFace, ButtonText, ButtonFace);
+    // The numbers as they stand are the colours.
+    SetDisabledColors(DarkGrey, ButtonFace);
+}
+
+void CColorButton::SetIcons(HICON icon, HICON disabledIcon, int size)
+{
+    m_disabledIcon = disabledIcon;
+    m_iconSize = size;
+    if (m_hWnd != nullptr)
+        SetIcon(icon);
+}
+
+void CColorButton::DrawFrame(bool draw)
+{
+    m_drawFrame = draw;
+}
+
+void CColorButton::DrawFocusFrame(bool draw)
+{
+    m_drawFocusFrame = draw;
+}
+
+void CColorButton::PreSubclassWindow()
+{
+    LifeWatch const life(m_lifeSign);
+    CButton::PreSubclassWindow();
+    if (life.Over())
+        return;
+    m_hot = false; // a former window's timer is gone
+    ModifyStyle(0, BS_OWNERDRAW);
+}
+
+void CColorButton::DrawItem(LPDRAWITEMSTRUCT item)
+{
+    CDC * const dc = item != nullptr ? CDC::FromHandle(item->hDC) : nullptr;
+    if (dc == nullptr)
+        return;
+    CRect area(item->rcItem);
+    bool const pressed = (item->itemState & ODS_SELECTED) != 0;
+    ButtonLook const look = LookOfButton((item->itemState & ODS_DISABLED) != 0, m_hot);
+
+    if (m_drawFrame)
+        dc->DrawFrameControl(area, DFC_BUTTON, DFCS_BUTTONPUSH | (pressed ? DFCS_PUSHED : 0));
+    if (m_drawFocusFrame && m_hot)
+    {
+        CPen * const former = dc->SelectObject(m_hotPen);
+        dc->Rectangle(area);
+        dc->SelectObject(former);
+    }
+    area.DeflateRect(::GetSystemMetrics(SM_CXEDGE), ::GetSystemMetrics(SM_CYEDGE));
+    COLORREF const background = look == ButtonLook::Disabled ? m_disabledBgColor
+                                : look == ButtonLook::Hot    ? m_hotBgColor
+                                                             : m_bgColor;
+    if (ButtonIsFilled(m_drawFrame, background, m_colorTable[ButtonFace]))
+        dc->FillSolidRect(area, background);
+
+    // The messages below may run the host's code.
+    HDC const context = item->hDC;
+    LifeWatch const life(m_lifeSign);
+    HICON const icon = GetIcon();
+    if (life.Over())
+        return;
+    m_icon = icon;
+    if (m_icon != nullptr)
+    {
+        bool const other = look == ButtonLook::Disabled && m_disabledIcon != nullptr;
+        CDC::FromHandle(context)->DrawIcon(ButtonIconOrigin(area, m_iconSize), other ? m_disabledIcon : m_icon);
+    }
+    CString text;
+    GetWindowText(text);
+    if (life.Over() || text.IsEmpty())
+        return;
+    DrawCaption(*CDC::FromHandle(context), area, text, look, pressed);
+}
+
+void CColorButton::DrawCaption(CDC & dc, CRect const & area, CString const & text, ButtonLook look, bool pressed)
+{
+    CSize const extent = dc.GetTextExtent(text);
+    CPoint const origin = ButtonCaptionOrigin(area, extent, pressed);
+    int const mode = dc.SetBkMode(TRANSPARENT);
+    COLORREF const color = dc.SetTextColor(look == ButtonLook::Disabled ? m_disabledFgColor
+                                           : look == ButtonLook::Hot    ? m_hotFgColor
+                                                                        : m_fgColor);
+    if (look == ButtonLook::Disabled)
+    {
+        // Up to the edge: the grey text is made without smoothing, and may be wider than what was measured.
+        CSize const room(std::max<LONG>(extent.cx, area.right - origin.x), extent.cy);
+        dc.DrawState(origin, room, text, DSS_DISABLED | DST_PREFIXTEXT, TRUE, 0, static_cast<CBrush *>(nullptr));
+    }
+    else
+        dc.TextOut(origin.x, origin.y, text);
+    dc.SetBkMode(mode);
+    dc.SetTextColor(color);
+}
+
+void CColorButton::OnMouseMove(UINT flags, CPoint point)
+{
+    if (!m_hot)
+    {
+        m_hot = true;
+        Invalidate();
+        SetTimer(m_timerId, m_rolloverDelay, nullptr);
+    }
+    CButton::OnMouseMove(flags, point);
+}
+
+void CColorButton::OnTimer(UINT_PTR id)
+{
+    DWORD const position = ::GetMessagePos();
+    CPoint point(static_cast<short>(LOWORD(position)), static_cast<short>(HIWORD(position)));
+    ScreenToClient(&point);
+    CRect area;
+    GetClientRect(area);
+    if (!area.PtInRect(point))
+    {
+        m_hot = false;
+        KillTimer(m_timerId);
+        Invalidate();
+    }
+    CButton::OnTimer(id);
+}

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <afxwin.h>
+
+#include "frame/Export.h"
+
+/// A button without a look of its own that shows one icon of the module at its top left corner, pressed, disabled or
+/// not. For the user-interface thread alone.
+class INSTRUMENT_UI_API CFreeIconButton : public CButton
+{
+    DECLARE_DYNAMIC(CFreeIconButton)
+
+public:
+    CFreeIconButton();
+    CFreeIconButton(CFreeIconButton const &) = delete;
+    CFreeIconButton & operator=(CFreeIconButton const &) = delete;
+    ~CFreeIconButton() override;
+
+    void DrawItem(LPDRAWITEMSTRUCT item) override;
+
+protected:
+    void PreSubclassWindow() override;
+    DECLARE_MESSAGE_MAP()
+
+    /// Shared by the system; null where it could not be loaded.
+    HICON m_icon;
+};

@@ -1,0 +1,113 @@
+#pragma once
+// What the extended combo box and list box have in common: rows with a number each. Internal to the module.
+//
+// Every message to a control may run its host's code, which may end the window or delete the object. The functions go
+// by the window then: an object that has lost it is not touched again.
+
+#include <afxwin.h>
+
+#include <list>
+#include <map>
+
+namespace item_rows
+{
+/// Whether the object still has the window.
+inline bool Serves(CWnd const & object, HWND window)
+{
+    return CWnd::FromHandlePermanent(window) == &object;
+}
+
+/// The row, or a negative number where none was added.
+template <typename Control> int Add(Control & control, wchar_t const * text, int data)
+{
+    HWND const window = control.m_hWnd;
+    if (window == nullptr)
+        return -1;
+    int const row = control.AddString(text != nullptr ? text : L"");
+    if (row >= 0 && Serves(control, window))
+        control.SetItemData(row, static_cast<DWORD_PTR>(data));
+    return row;
+}
+
+template <typename Control>
+void Fill(Control & control, std::list<CString> const & items, int firstData, bool clearFirst)
+{
+    HWND const window = control.m_hWnd;
+    if (window == nullptr)
+        return;
+    std::list<CString> const kept(items);
+    if (clearFirst)
+        control.ResetContent();
+    auto data = static_cast<unsigned int>(firstData);
+    for (CString const & text : kept)
+    {
+        if (!Serves(control, window))
+            return;
+        Add(control, text, static_cast<int>(data++));
+    }
+}
+
+/// blankText: of the row with the value -1 that comes first where the items have none of that key; null for none.
+template <typename Control>
+void Fill(Control & control, std::map<int, CString> const & items, wchar_t const * blankText)
+{
+    constexpr int blank_value = -1;
+    HWND const window = control.m_hWnd;
+    if (window == nullptr)
+        return;
+    std::map<int, CString> const kept(items);
+    control.ResetContent();
+    if (blankText != nullptr && !kept.contains(blank_value) && Serves(control, window))
+        Add(control, blankText, blank_value);
+    for (auto const & [data, text] : kept)
+    {
+        if (!Serves(control, window))
+            return;
+        Add(control, text, data);
+    }
+}
+
+template <typename Control> int Find(Control & control, int data)
+{
+    HWND const window = control.m_hWnd;
+    int const count = window != nullptr ? control.GetCount() : 0;
+    for (int row = 0; row < count && Serves(control, window); ++row)
+    {
+        if (static_cast<int>(control.GetItemData(row)) == data)
+            return row;
+    }
+    return -1;
+}
+
+template <typename Control> int Select(Control & control, int data)
+{
+    HWND const window = control.m_hWnd;
+    int const row = Find(control, data);
+    if (row >= 0 && Serves(control, window))
+        control.SetCurSel(row);
+    return row;
+}
+
+template <typename Control> int Selected(Control & control, int defaultData)
+{
+    HWND const window = control.m_hWnd;
+    int const row = window != nullptr ? control.GetCurSel() : -1;
+    return row >= 0 && Serves(control, window) ? static_cast<int>(control.GetItemData(row)) : defaultData;
+}
+
+/// The width of a text in the window's font, or in the system's where it has none.
+inline int TextWidth(HWND window, CString const & text)
+{
+    auto const font = reinterpret_cast<HFONT>(::SendMessage(window, WM_GETFONT, 0, 0));
+    HDC const dc = ::GetDC(window);
+    if (dc == nullptr)
+        return 0;
+    HGDIOBJ const former = font != nullptr ? ::SelectObject(dc, font) : nullptr;
+    SIZE extent{};
+    ::GetTextExtentPoint32W(dc, text, text.GetLength(), &extent);
+    if (former != nullptr)
+        ::SelectObject(dc, former);
+    ::ReleaseDC(window, dc);
+    return extent.cx;
+}
+} // namespace item_rows

@@ -1,0 +1,172 @@
+#include "controls/LevelSliderCtrl.h"
+
+#include "controls/LumaPlatform.h"
+#include "controls/SliderLayout.h"
+
+namespace
+{
+constexpr COLORREF standard_main_color = 0xC8B4B4;
+constexpr int lighter = 500;
+constexpr int darker = -333;
+constexpr int main_part = 0;
+constexpr int second_part = 1;
+
+void SetVertexColor(TRIVERTEX & vertex, COLORREF color)
+{
+    vertex.Red = GradientChannel(GetRValue(color));
+    vertex.Green = GradientChannel(GetGValue(color));
+    vertex.Blue = GradientChannel(GetBValue(color));
+}
+
+void Recreate(CBrush & brush, COLORREF color)
+{
+    brush.DeleteObject();
+    brush.CreateSolidBrush(color);
+}
+} // namespace
+
+IMPLEMENT_DYNAMIC(CLevelSliderCtrl, CSliderCtrl)
+
+BEGIN_MESSAGE_MAP(CLevelSliderCtrl, CSliderCtrl)
+    ON_NOTIFY_REFLECT(NM_CUSTOMDRAW, &CLevelSliderCtrl::OnReflectedCustomDraw)
+END_MESSAGE_MAP()
+
+CLevelSliderCtrl::CLevelSliderCtrl() : m_vertices{}, m_gradientRects{}
+{
+    InitStandardColors();
+}
+
+CLevelSliderCtrl::~CLevelSliderCtrl() = default;
+
+void CLevelSliderCtrl::SetMainColor(unsigned long color)
+{
+    m_mainColor = color;
+    m_mainLight = AdjustLuma(color, lighter);
+    m_mainDark = AdjustLuma(color, darker);
+    Recreate(m_mainBrush, m_mainColor);
+    Recreate(m_mainLightBrush, m_mainLight);
+    SetVertexColor(m_vertices[0], m_mainLight);
+    SetVertexColor(m_vertices[1], m_mainDark);
+}
+
+void CLevelSliderCtrl::SetSecondColor(unsigned long color)
+{
+    m_secondColor = color;
+    m_secondLight = AdjustLuma(color, lighter);
+    m_secondDark = AdjustLuma(color, darker);
+    Recreate(m_secondBrush, m_secondColor);
+    SetVertexColor(m_vertices[2], m_secondLight);
+    SetVertexColor(m_vertices[3], m_secondDark);
+}
+
+void CLevelSliderCtrl::InitStandardColors()
+{
+    SetMainColor(standard_main_color);
+    SetSecondColor(::GetSysColor(COLOR_BTNFACE));
+    for (TRIVERTEX & vertex : m_vertices)
+        vertex.Alpha = 0;
+    m_gradientRects[main_part] = {0, 1};
+    m_gradientRects[second_part] = {2, 3};
+}
+
+bool CLevelSliderCtrl::IsVertical() const
+{
+    return m_hWnd != nullptr && (GetStyle() & TBS_VERT) != 0;
+}
+
+void CLevelSliderCtrl::DrawChannel(CDC * dc, CRect & rect)
+{
+    bool const vertical = IsVertical();
+    rect = ThickSliderChannel(rect, vertical);
+    int least = 0;
+    int greatest = 1;
+    int position = 0;
+    if (m_hWnd != nullptr)
+    {
+        // The questions are messages, within which the host may end the object.
+        LifeWatch const life(m_lifeSign);
+        HWND const window = m_hWnd;
+        HDC const context = dc->m_hDC;
+        least = static_cast<int>(::SendMessage(window, TBM_GETRANGEMIN, 0, 0));
+        greatest = static_cast<int>(::SendMessage(window, TBM_GETRANGEMAX, 0, 0));
+        position = static_cast<int>(::SendMessage(window, TBM_GETPOS, 0, 0));
+        dc = CDC::FromHandle(context);
+        if (life.Over())
+        {
+            dc->Detach();
+            return;
+        }
+    }
+    SliderParts const parts = PartsOfSlider(rect, vertical, SliderFraction(least, greatest, position));
+    DrawPart(*dc, parts.main, vertical, main_part, m_mainBrush, m_mainDark, m_mainLight);
+    DrawPart(*dc, parts.second, vertical, second_part, m_secondBrush, m_secondDark, m_secondLight);
+    dc->Detach();
+}
+
+void CLevelSliderCtrl::DrawPart(CDC & dc, CRect const & part, bool vertical, int index, CBrush & brush, COLORREF dark,
+                                COLORREF light)
+{
+    CBrush * const former = dc.SelectObject(&brush);
+    GRADIENT_RECT & corners = m_gradientRects[index];
+    m_vertices[corners.UpperLeft].x = part.left;
+    m_vertices[corners.UpperLeft].y = part.top;
+    m_vertices[corners.LowerRight].x = part.right;
+    m_vertices[corners.LowerRight].y = part.bottom;
+    dc.GradientFill(m_vertices, 4, &corners, 1, vertical ? GRADIENT_FILL_RECT_H : GRADIENT_FILL_RECT_V);
+    if (!part.IsRectEmpty()) // there is nothing around no part
+        dc.Draw3dRect(part, dark, light);
+    dc.SelectObject(former);
+}
+
+void CLevelSliderCtrl::DrawThumb(CDC * dc, CRect & rect, bool selected)
+{
+    int const saved = dc->SaveDC();
+    rect = SlimSliderThumb(rect, IsVertical());
+    CPen pen(PS_SOLID, 1, m_mainDark);
+    dc->SelectObject(&pen);
+    dc->SelectObject(selected ? &m_mainLightBrush : &m_mainBrush);
+    if (selected)
+    {
+        dc->SetBkColor(m_mainColor);
+        dc->SetTextColor(m_mainLight);
+    }
+    dc->RoundRect(rect, CPoint(2, 2));
+    dc->RestoreDC(saved);
+    pen.DeleteObject();
+    dc->Detach();
+}
+
+void CLevelSliderCtrl::OnReflectedCustomDraw(NMHDR * header, LRESULT * result)
+{
+    auto const & draw = *reinterpret_cast<NMCUSTOMDRAW const *>(header);
+    CRect rect(draw.rc);
+    switch (draw.dwDrawStage)
+    {
+    case CDDS_PREPAINT:
+        *result = CDRF_NOTIFYITEMDRAW | CDRF_NOTIFYPOSTPAINT;
+        break;
+    case CDDS_ITEMPREPAINT: {
+        *result = CDRF_SKIPDEFAULT;
+        CDC * const dc = CDC::FromHandle(draw.hdc);
+        if (dc == nullptr)
+            break;
+        if (draw.dwItemSpec == TBCD_THUMB)
+            DrawThumb(dc, rect, draw.uItemState != 0);
+        else if (draw.dwItemSpec == TBCD_CHANNEL)
+            DrawChannel(dc, rect);
+        break;
+    }
+    case CDDS_POSTPAINT:
+    case CDDS_ITEMPOSTPAINT:
+        *result = CDRF_SKIPDEFAULT;
+        break;
+    case CDDS_PREERASE:
+    case CDDS_POSTERASE:
+    case CDDS_ITEMPREERASE:
+    case CDDS_ITEMPOSTERASE:
+        *result = CDRF_DODEFAULT;
+        break;
+    default:
+        break;
+    }
+}
