@@ -28,6 +28,12 @@
 
 #include "list/XListCtrl.h"
 
+#include "controls/IdNameMultiselectCtrl.h"
+#include "controls/IdNameMultiselectDlg.h"
+#include "controls/IdNameMultiselectListCtlr.h"
+#include "controls/XEditBrowseCtrl.h"
+#include "controls/XTreeCtrl.h"
+
 #include "segments/ColorScheme.h"
 #include "segments/DigiStyle.h"
 #include "segments/DigiStatic.h"
