@@ -34,6 +34,11 @@
 #include "controls/LevelSliderCtrl.h"
 #include "controls/ComboBoxX.h"
 #include "controls/ListBoxX.h"
+#include "controls/IdNameMultiselectCtrl.h"
+#include "controls/IdNameMultiselectDlg.h"
+#include "controls/IdNameMultiselectListCtlr.h"
+#include "controls/XEditBrowseCtrl.h"
+#include "controls/XTreeCtrl.h"
 
 #include "segments/ColorScheme.h"
 #include "segments/DigiStyle.h"
