@@ -241,6 +241,33 @@ TEST_F(ListComboCells, ANewComboThrowsTheOldOneAway)
     EXPECT_EQ(m_list.GetItemText(1, 1), L"ten");
 }
 
+TEST_F(ListComboCells, WhatAnOldComboHasToldDoesNotCloseANewOne)
+{
+    MakeCombo(4, 2, 20);
+    OpenCombo(2, 1, 10);
+    // The old one loses the focus to the list and tells of it.
+    ClickForEditor(4, 2);
+    ASSERT_TRUE(
+        tests::PumpUntil([this] { return Combo() != nullptr && ::GetFocus() == Combo() && Ask(CB_GETCURSEL) == 1; }));
+    m_list.DrawComboBoxControl(2, 1);
+    HWND const combo = Combo();
+    tests::PumpFor(std::chrono::milliseconds(150));
+    EXPECT_EQ(Combo(), combo);
+    EXPECT_EQ(Ask(CB_GETCURSEL), 0);
+}
+
+TEST_F(ListComboCells, ComboAfterComboOpensByOneClickEach)
+{
+    MakeCombo(4, 2, 20);
+    OpenCombo(2, 1, 10);
+    HWND const first = Combo();
+    list_input::Click(Screen(Middle(4, 2)));
+    ASSERT_TRUE(tests::PumpUntil([first] { return Combo() != nullptr && Combo() != first; }));
+    tests::PumpFor(std::chrono::milliseconds(150));
+    ASSERT_NE(Combo(), nullptr);
+    EXPECT_EQ(Ask(CB_GETCURSEL), 1);
+}
+
 TEST_F(ListComboCells, TheFourthTimerShowsTheChoiceWithoutClosing)
 {
     OpenCombo(2, 1, 10);

@@ -323,6 +323,28 @@ TEST_F(ListEditCells, AHostMayEndTheListWhenItHearsOfTheEnd)
     EXPECT_EQ(::GetCapture(), nullptr);
 }
 
+TEST_F(ListEditCells, AHostMayDeleteTheListWhenAPressEndsTheEdit)
+{
+    for (UINT const press : {WM_LBUTTONDOWN, WM_RBUTTONDOWN})
+    {
+        auto list = std::make_unique<tests::TestList>();
+        ASSERT_TRUE(list->Create(tests::TestList::default_style, CRect(100, 100, 300, 200), &m_host.parent, 8));
+        list->SetFullRowSelect();
+        list->AddColumns(2);
+        list->AddRows(3);
+        list->DrawEditControl(1, 1);
+        HWND const edit = tests::OpenEditOf(*list);
+        ASSERT_NE(edit, nullptr);
+        SetText(edit, L"typed");
+        list->m_onStateChange = [&](int, int) { list.reset(); };
+        CRect cell;
+        ASSERT_TRUE(list->GetSubItemRect(2, 1, LVIR_BOUNDS, cell));
+        list->SendMessage(press, 0, MAKELPARAM(cell.left + 5, cell.top + 5));
+        EXPECT_EQ(list, nullptr) << press;
+        EXPECT_FALSE(::IsWindow(edit));
+    }
+}
+
 TEST_F(ListEditCells, AHostMayDeleteTheListWhenItHearsOfTheText)
 {
     auto list = std::make_unique<tests::TestList>();

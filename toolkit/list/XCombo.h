@@ -17,6 +17,8 @@ public:
 
     void OnComboCancel() override;
     void OnComboComplete() override;
+    /// The list is told nothing any more.
+    void SetClosing() { m_list = nullptr; }
 
 protected:
     afx_msg void OnKillFocus(CWnd * newWindow);

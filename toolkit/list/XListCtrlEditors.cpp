@@ -243,6 +243,15 @@ void CXListCtrl::DrawComboBoxControl(int row, int col)
 void CXListCtrl::EndCombo()
 {
     ComboOwner const combo(std::exchange(m_combo, nullptr));
+    if (combo == nullptr)
+        return;
+    // Neither what it has told nor the loss of the focus by its end is meant for a combo that opens after it.
+    combo->SetClosing();
+    if (m_hWnd != nullptr)
+    {
+        KillTimer(cancel_combo_timer);
+        KillTimer(complete_combo_timer);
+    }
 }
 
 void CXListCtrl::CloseCombo()

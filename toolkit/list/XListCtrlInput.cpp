@@ -77,9 +77,18 @@ void CXListCtrl::OnItemStateChange(int row, int col, unsigned int message)
 
 void CXListCtrl::OnLButtonDown(UINT, CPoint point)
 {
+    // The host hears of the end of an edit. Not from within the native list's press, which does not stand the end of
+    // the list.
+    auto const pass = [this] {
+        Watch const watch(*this);
+        if (m_edit != nullptr)
+            SetFocus();
+        if (watch.IsAlive())
+            Default();
+    };
     if (GetDisplayStyle() != LVS_REPORT)
     {
-        Default();
+        pass();
         return;
     }
     auto const place = GetItem(point);
@@ -88,7 +97,7 @@ void CXListCtrl::OnLButtonDown(UINT, CPoint point)
     {
         if (m_combo != nullptr)
             OnComboEscape(0, 0);
-        Default();
+        pass();
         return;
     }
     // Rows that were inserted past this class, or before the column was, have no cell here.
@@ -109,17 +118,17 @@ void CXListCtrl::OnLButtonDown(UINT, CPoint point)
     switch (cell != nullptr ? DecideAdmittedPress(*cell) : CellPress::select_only)
     {
     case CellPress::open_combo:
-        Default();
+        pass();
         if (int const place = held.Row(); place >= 0)
             DrawComboBoxControl(place, col);
         return;
     case CellPress::open_edit:
-        Default();
+        pass();
         if (int const place = held.Row(); place >= 0)
             DrawEditControl(place, col);
         return;
     case CellPress::follow_link:
-        Default();
+        pass();
         if (int const place = held.Row(); place >= 0)
             OnItemStateChange(place, col, WM_XLISTCTRL_LINK_CLICKED);
         return;
@@ -141,7 +150,7 @@ void CXListCtrl::OnLButtonDown(UINT, CPoint point)
         break;
     }
     if (held.IsListAlive())
-        Default();
+        pass();
 }
 
 void CXListCtrl::ChangeCheckByUser(int row, int col, int state)
@@ -179,7 +188,12 @@ void CXListCtrl::OnLButtonDblClk(UINT flags, CPoint point)
 
 void CXListCtrl::OnRButtonDown(UINT, CPoint point)
 {
-    if (IsCell(GetItem(point)))
+    if (!IsCell(GetItem(point)))
+        return;
+    Watch const watch(*this);
+    if (m_edit != nullptr)
+        SetFocus();
+    if (watch.IsAlive())
         Default();
 }
 
