@@ -24,6 +24,7 @@ constexpr Measure measures[] = {
     {"list-delete", bench::DeletingRows},
     {"list-export", bench::ExportingAList},
     {"segments", bench::PaintingSegmentCharacters},
+    {"combo", bench::OpeningACombo},
     {"workbench", bench::OpeningRecordings},
 };
 } // namespace

@@ -20,6 +20,7 @@ bool DeletingRows();
 bool ExportingAList();
 bool PaintingSegmentCharacters();
 bool OpeningRecordings();
+bool OpeningACombo();
 
 inline void PumpAll()
 {

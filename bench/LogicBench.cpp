@@ -40,6 +40,7 @@ constexpr Measure measures[] = {
     {"layout", bench::LayoutArithmetic},
     {"list-search", bench::SearchingRows},
     {"segments", bench::PaintingSegments},
+    {"combo", bench::TypingIntoACombo},
 };
 } // namespace
 

@@ -68,10 +68,13 @@ BEGIN_MESSAGE_MAP(CMainWindow, CWnd)
     ON_COMMAND(ID_READ_AGAIN, &CMainWindow::OnReadAgain)
     ON_COMMAND(ID_SHOW_DETAILS, &CMainWindow::OnShowDetails)
     ON_COMMAND(ID_SET_REFERENCE, &CMainWindow::OnSetReference)
+    ON_COMMAND(ID_EDIT_COMMENT, &CMainWindow::OnEditComment)
+    ON_COMMAND(ID_CHOOSE_RATING, &CMainWindow::OnChooseRating)
     ON_COMMAND(ID_MARK_ALL, &CMainWindow::OnMarkAll)
     ON_COMMAND(ID_MARK_NONE, &CMainWindow::OnMarkNone)
     ON_WM_TIMER()
     ON_MESSAGE(message_raise_dialogs, &CMainWindow::OnRaiseDialogs)
+    ON_MESSAGE(message_notes_turned, &CMainWindow::OnNotesTurned)
     ON_MESSAGE(message_recordings_ready, &CMainWindow::OnRecordingsReady)
 END_MESSAGE_MAP()
 
@@ -145,6 +148,8 @@ int CMainWindow::OnCreate(LPCREATESTRUCT create)
     auto const window = m_hWnd;
     m_queue = std::make_unique<workbench::AnalysisQueue>(
         [window] { ::PostMessageW(window, message_recordings_ready, 0, 0); });
+    m_notes = std::make_unique<workbench::NotesStore>(workbench::NotesFile(),
+                                                      [window] { ::PostMessageW(window, message_notes_turned, 0, 0); });
     ShowTargets({});
     return 0;
 }
@@ -218,7 +223,7 @@ void CMainWindow::OnDropFiles(HDROP drop)
 
 BOOL CMainWindow::PreTranslateMessage(MSG * message)
 {
-    if (m_accelerators != nullptr && ::TranslateAcceleratorW(m_hWnd, m_accelerators, message))
+    if (m_accelerators != nullptr && !IsForEditor(*message) && ::TranslateAcceleratorW(m_hWnd, m_accelerators, message))
     {
         return TRUE;
     }
@@ -231,6 +236,14 @@ BOOL CMainWindow::PreTranslateMessage(MSG * message)
         }
     }
     return CWnd::PreTranslateMessage(message) || IsDialogMessage(message);
+}
+
+/// Whether it is a key that belongs to the comment that is being edited.
+bool CMainWindow::IsForEditor(MSG const & message) const
+{
+    auto const editor = m_list.CommentEditor();
+    return editor != nullptr && message.hwnd == editor && message.message == WM_KEYDOWN &&
+           (message.wParam == VK_F2 || (message.wParam >= L'A' && message.wParam <= L'Z'));
 }
 
 void CMainWindow::OnActivate(UINT state, CWnd * other, BOOL minimized)
@@ -315,6 +328,7 @@ void CMainWindow::OnCloseCommand()
 void CMainWindow::OnClose()
 {
     CloseDialogs();
+    KeepNotes();
     RememberPlace();
     DestroyWindow();
 }
@@ -323,6 +337,8 @@ void CMainWindow::OnEndSession(BOOL ending)
 {
     if (ending)
     {
+        KeepNotes();
+        m_notes->Flush();
         RememberPlace();
     }
     CWnd::OnEndSession(ending);
@@ -332,5 +348,6 @@ void CMainWindow::OnDestroy()
 {
     m_search.reset();
     m_queue.reset();
+    m_notes.reset();
     CWnd::OnDestroy();
 }

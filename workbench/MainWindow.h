@@ -23,6 +23,7 @@
 #include "WindowMenu.h"
 #include "layout/DialogResizer.h"
 #include "logic/AnalysisQueue.h"
+#include "logic/NotesStore.h"
 #include "logic/RecordingSearch.h"
 #include "windows/FensterManager.h"
 
@@ -92,6 +93,8 @@ private:
     static constexpr UINT message_recordings_ready = WM_APP + 1;
     /// To the window itself, once it is active.
     static constexpr UINT message_raise_dialogs = WM_APP + 2;
+    /// From the thread that stores notes: that has begun to fail or to succeed.
+    static constexpr UINT message_notes_turned = WM_APP + 3;
 
     static constexpr UINT_PTR work_timer = 1;
     static constexpr UINT_PTR raise_timer = 2;
@@ -125,11 +128,14 @@ private:
     afx_msg void OnReadAgain();
     afx_msg void OnShowDetails();
     afx_msg void OnSetReference();
+    afx_msg void OnEditComment();
+    afx_msg void OnChooseRating();
     afx_msg void OnMarkAll();
     afx_msg void OnMarkNone();
     afx_msg void OnTimer(UINT_PTR id);
     afx_msg LRESULT OnRecordingsReady(WPARAM, LPARAM);
     afx_msg LRESULT OnRaiseDialogs(WPARAM, LPARAM);
+    afx_msg LRESULT OnNotesTurned(WPARAM, LPARAM);
 
     /// A file in the list.
     struct Recording
@@ -175,7 +181,9 @@ private:
     void ShowText(wchar_t const * title, wchar_t const * text);
     void ShowReading();
     void ReadAgain(int index);
+    void StoreNotes();
     void KeepNotes();
+    bool IsForEditor(MSG const & message) const;
     std::wstring ComparisonText() const;
     void UpdateStatusLine();
 
@@ -215,8 +223,7 @@ private:
     std::deque<workbench::AnalysisQueue::Finished> m_results; ///< not shown yet
     std::size_t m_queued = 0;                                 ///< recordings whose result is not shown yet
     unsigned m_generation = 0;                                ///< changes whenever other recordings are shown
-    /// What the user has said of recordings shown since the start, by file.
-    std::unordered_map<std::wstring, CRecordingList::Notes> m_notes;
+    std::unique_ptr<workbench::NotesStore> m_notes;
     std::unique_ptr<workbench::RecordingSearch> m_search;
     std::unique_ptr<workbench::AnalysisQueue> m_queue;
 };

@@ -180,6 +180,11 @@ void CMainWindow::DrawPage(CDC & dc, CRect const & page)
 
 void CMainWindow::OnCopy()
 {
+    if (auto const editor = m_list.CommentEditor(); editor != nullptr)
+    {
+        ::SendMessageW(editor, WM_COPY, 0, 0);
+        return;
+    }
     m_list.CopyToClipboard(false);
 }
 
@@ -244,6 +249,8 @@ void CMainWindow::OnInitMenuPopup(CMenu * menu, UINT index, BOOL systemMenu)
     enable(ID_SHOW_DETAILS, read);
     enable(ID_READ_AGAIN, recording != nullptr && !recording->queued);
     enable(ID_SET_REFERENCE, IsReadable(chosen));
+    enable(ID_EDIT_COMMENT, IsReadable(chosen));
+    enable(ID_CHOOSE_RATING, IsReadable(chosen));
     enable(ID_MARK_ALL, RecordingCount() > 0);
     enable(ID_MARK_NONE, RecordingCount() > 0);
     enable(ID_FIT_COLUMNS, !m_list.UserWidths().empty());

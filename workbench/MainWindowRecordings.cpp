@@ -19,7 +19,8 @@ using workbench::Text;
 namespace
 {
 
-constexpr UINT c_workInterval = 10; // milliseconds
+constexpr UINT c_workInterval = 10;  // milliseconds
+constexpr UINT c_editInterval = 100; // milliseconds, between looks whether an editor is still open
 // What one turn of work may take, so that the window answers in between.
 constexpr std::chrono::milliseconds c_workSlice(12);
 
@@ -27,22 +28,29 @@ using Clock = std::chrono::steady_clock;
 
 } // namespace
 
-/// Keeps what the user said about the recordings shown, for when they are shown again.
-void CMainWindow::KeepNotes()
+/// Has what the user has said since the last time stored.
+void CMainWindow::StoreNotes()
 {
-    for (int i = 0; i < RecordingCount(); ++i)
+    for (auto const line : m_list.TakeNotedLines())
     {
-        auto const notes = m_list.NotesOf(i);
-        auto const & file = m_recordings[static_cast<std::size_t>(i)].file.native();
-        if (notes != CRecordingList::Notes())
+        if (auto const * const recording = RecordingAt(line))
         {
-            m_notes[file] = notes;
-        }
-        else if (!m_notes.empty())
-        {
-            m_notes.erase(file);
+            m_notes->Set(recording->file, m_list.NotesOf(line));
         }
     }
+}
+
+/// Closes editors and has what the user said stored, before the lines go.
+void CMainWindow::KeepNotes()
+{
+    m_list.EndEditing();
+    StoreNotes();
+}
+
+LRESULT CMainWindow::OnNotesTurned(WPARAM, LPARAM)
+{
+    UpdateStatusLine();
+    return 0;
 }
 
 /// Gives up all that is under way.
@@ -254,7 +262,15 @@ void CMainWindow::Work()
     ChooseFirst();
     if ((listed && m_order) || (m_valuesChanged && !IsBusy()))
     {
-        SortAgain();
+        // Lines stay where they are while the user is at work on one.
+        if (m_list.IsEditing())
+        {
+            SetTimer(work_timer, IsBusy() ? c_workInterval : c_editInterval, nullptr);
+        }
+        else
+        {
+            SortAgain();
+        }
     }
     ShowChosen();
     ShowProgress();
@@ -276,12 +292,11 @@ void CMainWindow::ChooseFirst()
 void CMainWindow::ListNext()
 {
     auto & file = m_found[m_listed++];
-    auto const known = m_notes.find(file.native());
     if (file == m_chooseFile)
     {
         m_chooseLine = RecordingCount();
     }
-    m_list.AppendFile(file, known != m_notes.end() ? known->second : CRecordingList::Notes());
+    m_list.AppendFile(file, m_notes->Of(file));
     auto const line = RecordingCount();
     auto & recording = m_recordings.emplace_back();
     recording.file = std::move(file);
@@ -508,6 +523,10 @@ void CMainWindow::UpdateStatusLine()
         text += L", " + std::to_wstring(totals.Checked()) + L' ' + Text(L"marked") + L" (" +
                 workbench::FormatMilliseconds(totals.CheckedMilliseconds()) + L')';
     }
+    if (m_notes && m_notes->HasFailed())
+    {
+        text += std::wstring(L", ") + Text(L"marks and comments cannot be stored");
+    }
     if (!m_missing.empty())
     {
         text +=
@@ -546,6 +565,8 @@ void CMainWindow::OnReload()
     {
         return;
     }
+    KeepNotes();
+    m_notes->Refresh();
     StopWork();
     StartSearch();
     m_reloading = true;
@@ -557,6 +578,7 @@ void CMainWindow::OnReload()
 /// Follows the list, once for all that has changed since the last time.
 void CMainWindow::OnListChanged(unsigned changes)
 {
+    StoreNotes();
     if ((changes & CRecordingList::changed_widths) != 0)
     {
         workbench::StoreColumnWidths(m_list.UserWidths(), m_metrics.AverageWidth());
@@ -603,6 +625,16 @@ void CMainWindow::OnShowDetails()
 void CMainWindow::OnSetReference()
 {
     m_list.SetReference(m_list.ChosenLine());
+}
+
+void CMainWindow::OnEditComment()
+{
+    m_list.EditComment(m_list.ChosenLine());
+}
+
+void CMainWindow::OnChooseRating()
+{
+    m_list.ChooseRating(m_list.ChosenLine());
 }
 
 void CMainWindow::OnMarkAll()

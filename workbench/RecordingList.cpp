@@ -70,6 +70,13 @@ constexpr UINT c_messagePlaceToolTip = WM_APP + 3;
 // From this many selected rows on, the list view is kept from painting each one that a gesture changes.
 constexpr UINT c_manyRows = 50;
 
+// The base class's: the id of its edit, the class of its combo's window, and the timer that closes that without a
+// choice.
+constexpr int c_editId = 99;
+constexpr wchar_t c_comboClass[] = L"SuperComboBox";
+constexpr UINT_PTR c_cancelComboTimer = 2;
+constexpr int c_editRoom = 2; // pixels of an edit below its text
+
 constexpr UINT c_lastToolId = 0xFFFF;
 constexpr int c_toolTipGap = 2; // pixels
 
@@ -90,6 +97,7 @@ BEGIN_MESSAGE_MAP(CRecordingList, CXListCtrl)
     ON_NOTIFY_REFLECT_EX(LVN_COLUMNCLICK, &CRecordingList::OnTitleClick)
     ON_WM_MOUSEMOVE()
     ON_WM_LBUTTONDOWN()
+    ON_WM_MOUSEWHEEL()
     ON_WM_LBUTTONUP()
     ON_NOTIFY_EX(HDN_BEGINTRACKW, 0, &CRecordingList::OnBeginTrack)
     ON_NOTIFY_EX(HDN_BEGINTRACKA, 0, &CRecordingList::OnBeginTrack)
@@ -176,6 +184,8 @@ void CRecordingList::CreateMenu()
     auto & menu = PopUpMenu();
     menu.AppendMenu(MF_STRING, ID_SHOW_DETAILS, Text(L"&Details...\tAlt+Enter"));
     menu.AppendMenu(MF_STRING, ID_SET_REFERENCE, Text(L"Set as &reference\tCtrl+R"));
+    menu.AppendMenu(MF_STRING, ID_EDIT_COMMENT, Text(L"Edit &comment\tF2"));
+    menu.AppendMenu(MF_STRING, ID_CHOOSE_RATING, Text(L"Ra&te...\tF4"));
     menu.AppendMenu(MF_STRING, ID_READ_AGAIN, Text(L"Read &again\tCtrl+F5"));
     menu.AppendMenu(MF_SEPARATOR);
     menu.AppendMenu(MF_STRING, ID_MARK_ALL, Text(L"&Mark all\tCtrl+A"));
@@ -200,9 +210,10 @@ void CRecordingList::Require(Column column, int width)
 void CRecordingList::FitColumns()
 {
     // Changing a width can change the scroll bars and so come back here through the size message.
+    // Nor does anything below an open editor.
     // While the user drags a divider, nothing else moves; a title that is being clicked has the mouse, too.
     auto const dragged = m_tracking && ::GetCapture() == GetHeaderCtrl()->GetSafeHwnd();
-    if (m_fitting || m_leastWidth == 0 || m_batches > 0 || dragged)
+    if (m_fitting || m_leastWidth == 0 || m_batches > 0 || dragged || IsEditing())
     {
         return;
     }
@@ -430,7 +441,9 @@ void CRecordingList::OnItemStateChange(int row, int column, unsigned int message
     {
     case column_check:
         Touch(row);
-        m_totals.SetChecked(static_cast<std::size_t>(line), GetCheckbox(row, column_check) == XLC_CHECKED);
+        notes.checked = GetCheckbox(row, column_check) == XLC_CHECKED;
+        m_totals.SetChecked(static_cast<std::size_t>(line), notes.checked);
+        m_noted.push_back(line);
         ShowHeaderCheck();
         break;
     case column_reference:
@@ -442,18 +455,157 @@ void CRecordingList::OnItemStateChange(int row, int column, unsigned int message
         {
             m_reference = -1;
         }
+        NoteReference();
         ShowReference();
         break;
     case column_rating:
         notes.rating = std::max(GetComboCurSel(row, column_rating), 0);
+        m_noted.push_back(line);
         break;
     case column_comment:
         notes.comment = GetItemText(row, column_comment).GetString();
+        m_noted.push_back(line);
         break;
     default:
         break;
     }
     Tell(changed_marks);
+}
+
+/// Takes over into the notes which line is the reference, from all that were one in a list of their own.
+void CRecordingList::NoteReference()
+{
+    for (int line = 0; line < LineCount(); ++line)
+    {
+        auto & notes = m_notes[static_cast<std::size_t>(line)];
+        if (notes.reference != (line == m_reference))
+        {
+            notes.reference = line == m_reference;
+            m_noted.push_back(line);
+        }
+    }
+}
+
+std::vector<int> CRecordingList::TakeNotedLines()
+{
+    auto lines = std::exchange(m_noted, {});
+    std::ranges::sort(lines);
+    auto const again = std::ranges::unique(lines);
+    lines.erase(again.begin(), again.end());
+    return lines;
+}
+
+// The editors of the base class keep a row's number, whatever happens to the rows: before lines are sorted or go, and
+// before the edited one becomes one that does not react, they are closed.
+
+HWND CRecordingList::CommentEditor() const
+{
+    return m_hWnd != nullptr ? ::GetDlgItem(m_hWnd, c_editId) : nullptr;
+}
+
+HWND CRecordingList::RatingCombo() const
+{
+    return m_ratingCombo != nullptr && ::IsWindow(m_ratingCombo) ? m_ratingCombo : nullptr;
+}
+
+void CRecordingList::EndEditing()
+{
+    if (CommentEditor() != nullptr)
+    {
+        // It takes its text when it loses the focus.
+        SetFocus();
+        OnXEditKillFocus(0, 0);
+    }
+    if (RatingCombo() != nullptr)
+    {
+        OnTimer(c_cancelComboTimer);
+        m_ratingCombo = nullptr;
+    }
+}
+
+void CRecordingList::EditComment(int line)
+{
+    auto const row = PlaceOf(line);
+    auto const * const cell = row >= 0 ? GetRowItemDataDirect(row, column_comment) : nullptr;
+    if (cell == nullptr || (cell->properties & XLP_EDIT) == 0)
+    {
+        return;
+    }
+    EndEditing();
+    DrawEditControl(row, column_comment);
+    PlaceEditors(line);
+}
+
+void CRecordingList::ChooseRating(int line)
+{
+    auto const row = PlaceOf(line);
+    if (row >= 0)
+    {
+        EndEditing();
+        EnsureVisible(row, FALSE);
+        DrawComboBoxControl(row, column_rating);
+        PlaceEditors(line);
+    }
+}
+
+/// Makes an editor that has just been opened one that the user can go on with.
+void CRecordingList::PlaceEditors(int line)
+{
+    if (auto * const edit = CommentEditor(); edit != nullptr)
+    {
+        m_editedLine = line;
+        // The first click elsewhere goes there.
+        if (::GetCapture() == edit)
+        {
+            ::ReleaseCapture();
+        }
+        // Its text stands at its top; it is to stand where the line's other texts do.
+        CRect place;
+        ::GetWindowRect(edit, &place);
+        ScreenToClient(&place);
+        CClientDC dc(this);
+        workbench::SelectScope const font(dc, m_metrics->Font());
+        auto const height = dc.GetTextExtent(L"Mg").cy;
+        if (height + c_editRoom < place.Height())
+        {
+            ::SetWindowPos(edit, nullptr, place.left, place.top + (place.Height() - height) / 2, place.Width(),
+                           height + c_editRoom, SWP_NOZORDER | SWP_NOACTIVATE);
+        }
+    }
+    struct Search
+    {
+        HWND list;
+        HWND found;
+    };
+    Search search{m_hWnd, nullptr};
+    ::EnumThreadWindows(
+        ::GetCurrentThreadId(),
+        [](HWND window, LPARAM parameter) -> BOOL {
+            auto & result = *reinterpret_cast<Search *>(parameter);
+            wchar_t name[32] = L"";
+            ::GetClassNameW(window, name, static_cast<int>(std::size(name)));
+            if (std::wstring_view(name) == c_comboClass &&
+                ::GetWindow(window, GW_OWNER) == ::GetAncestor(result.list, GA_ROOT))
+            {
+                result.found = window;
+            }
+            return result.found == nullptr;
+        },
+        reinterpret_cast<LPARAM>(&search));
+    if (search.found != nullptr && search.found != m_ratingCombo)
+    {
+        m_editedLine = line;
+        // The list of ratings is what it was opened for; this key shows it.
+        ::PostMessageW(search.found, WM_KEYDOWN, VK_F4, 1);
+    }
+    m_ratingCombo = search.found;
+}
+
+BOOL CRecordingList::OnMouseWheel(UINT flags, short delta, CPoint point)
+{
+    // An editor would stay where it is, over another line.
+    EndEditing();
+    return CXListCtrl::OnMouseWheel(flags, delta, point);
 }
 
 /// Has the host told of changes once the present messages are done, all at once.
@@ -484,11 +636,8 @@ LRESULT CRecordingList::OnTellChanges(WPARAM, LPARAM)
 {
     auto const changes = std::exchange(m_changes, 0U);
     RepaintRows(std::exchange(m_repaintFirst, 0), std::exchange(m_repaintLast, -1), false);
-    if ((changes & changed_widths) != 0)
-    {
-        // Only now has the header given the column the width that was told at the drag's end.
-        FitColumns();
-    }
+    // Only now has the header given a column the width that was told at the drag's end, and is a closed editor gone.
+    FitColumns();
     // A copy, as what it does may replace it.
     if (auto const onChanged = m_onChanged; onChanged && changes != 0)
     {
@@ -617,6 +766,7 @@ void CRecordingList::OnSetFocus(CWnd * other)
 {
     CXListCtrl::OnSetFocus(other);
     RepaintRows(0, GetItemCount() - 1, true);
+    Tell(0);
 }
 
 void CRecordingList::OnKillFocus(CWnd * other)
@@ -688,7 +838,16 @@ void CRecordingList::OnLButtonDown(UINT flags, CPoint point)
             ClearSelection();
         }
     }
+    int column = 0;
+    auto const line = LineAt(GetPointItem(point, column));
+    auto const generation = m_generation;
+    // One that stays open would lose its text to the next one.
+    EndEditing();
     CXListCtrl::OnLButtonDown(flags, point);
+    if (generation == m_generation)
+    {
+        PlaceEditors(line);
+    }
 }
 
 void CRecordingList::OnKeyDown(UINT key, UINT repeat, UINT flags)
@@ -735,6 +894,9 @@ void CRecordingList::OnContextMenu(CWnd * window, CPoint point)
     m_menuLine = LineAt(row);
     m_menuGeneration = m_generation;
     auto const readable = GetItemCheckedState(row, column_reference) != XLC_NONE;
-    PopUpMenu().EnableMenuItem(ID_SET_REFERENCE, MF_BYCOMMAND | (readable ? MF_ENABLED : MF_GRAYED));
+    for (auto const id : {ID_SET_REFERENCE, ID_EDIT_COMMENT, ID_CHOOSE_RATING})
+    {
+        PopUpMenu().EnableMenuItem(static_cast<UINT>(id), MF_BYCOMMAND | (readable ? MF_ENABLED : MF_GRAYED));
+    }
     CXListCtrl::OnContextMenu(window, point);
 }

@@ -15,6 +15,7 @@
 #include "ScreenMetrics.h"
 #include "list/XListCtrl.h"
 #include "logic/RecordingAnalysis.h"
+#include "logic/RecordingNotes.h"
 #include "logic/RecordingTotals.h"
 #include "logic/TableText.h"
 
@@ -48,22 +49,13 @@ public:
         column_count
     };
 
-    /// What the user says about a recording.
-    struct Notes
-    {
-        bool checked = false;
-        bool reference = false;
-        int rating = 0; ///< a place in the list of ratings
-        std::wstring comment;
-
-        bool operator==(Notes const &) const = default;
-    };
+    using Notes = workbench::RecordingNotes;
 
     /// What has changed, bits.
     enum Change : unsigned
     {
         changed_selection = 1,
-        changed_marks = 2, ///< check boxes or the reference
+        changed_marks = 2, ///< what the user says, or what is known, of recordings
         changed_widths = 4 ///< the user has set a column's width
     };
 
@@ -140,8 +132,23 @@ public:
     /// The line for which the context menu opened; -1 if it is gone since.
     int MenuLine() const { return m_menuGeneration == m_generation ? m_menuLine : -1; }
 
-    /// What the user has said so far about a line's recording.
+    /// What the user has said so far about a line's recording, one that cannot be read included.
     Notes NotesOf(int line) const;
+    /// The lines about which the user has said something since the last call, each once.
+    std::vector<int> TakeNotedLines();
+
+    /// Opens the editor of a line's comment or the choice of its rating, as a click there does. Nothing happens where a
+    /// recording has none.
+    void EditComment(int line);
+    void ChooseRating(int line);
+    /// Whether one of them is open.
+    bool IsEditing() const { return CommentEditor() != nullptr || RatingCombo() != nullptr; }
+    /// The editor of a comment, while it is open; else null.
+    HWND CommentEditor() const;
+    /// The window in which a rating is chosen, while it is open; else null.
+    HWND RatingCombo() const;
+    /// Closes them. A comment is taken as it stands; the rating stays what it was.
+    void EndEditing();
 
     bool IsChecked(int line) const { return line >= 0 && m_totals.IsChecked(static_cast<std::size_t>(line)); }
     /// Checks or clears all recordings that can be read.
@@ -179,6 +186,7 @@ private:
     afx_msg BOOL OnItemChanged(NMHDR * header, LRESULT * result);
     afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
+    afx_msg BOOL OnMouseWheel(UINT flags, short delta, CPoint point);
     afx_msg void OnContextMenu(CWnd * window, CPoint point);
     afx_msg BOOL OnTitleClick(NMHDR * header, LRESULT * result);
     afx_msg void OnPaint();
@@ -192,6 +200,8 @@ private:
     afx_msg LRESULT OnPlaceToolTip(WPARAM tool, LPARAM tip);
 
     void CreateColumns();
+    void PlaceEditors(int line);
+    void NoteReference();
     void CreateImages();
     void CreateMenu();
     void Tell(unsigned changes);
@@ -247,7 +257,10 @@ private:
     std::vector<SortKey> m_sortKeys; ///< of the rows, while they are sorted in an order of the list's own
     bool m_draggingRow = false;
 
-    std::vector<Notes> m_notes; ///< of each line; who is checked and the reference are kept below
+    std::vector<Notes> m_notes; ///< of each line
+    std::vector<int> m_noted;   ///< lines whose notes the user has changed
+    int m_editedLine = -1;      ///< that the editor was opened for last
+    HWND m_ratingCombo = nullptr;
     workbench::RecordingTotals m_totals;
     int m_reference = -1;
     int m_boldLine = -1;

@@ -54,10 +54,12 @@ void CRecordingList::ShowFiles(std::vector<std::filesystem::path> const & files,
 void CRecordingList::RemoveLines()
 {
     CancelToolTips();
+    EndEditing();
     Batch const batch(*this);
     m_touched = true;
     ++m_generation;
     m_notes.clear();
+    m_noted.clear();
     m_places.clear();
     m_totals.Clear();
     m_reference = -1;
@@ -81,8 +83,11 @@ void CRecordingList::AppendFile(std::filesystem::path const & file, Notes const 
     m_notes.push_back(notes);
     m_places.push_back(row);
     m_totals.Append(notes.checked);
-    PrepareRow(row, file, notes, workbench::Text(c_unreadText));
-    if (notes.reference)
+    // Two folders that are shown together can have one each: the first one counts.
+    auto shown = notes;
+    shown.reference = notes.reference && m_reference < 0;
+    PrepareRow(row, file, shown, workbench::Text(c_unreadText));
+    if (shown.reference)
     {
         m_reference = line;
         ShowReference();
@@ -96,10 +101,18 @@ void CRecordingList::ShowReading(int line, std::filesystem::path const & file)
     {
         Batch const batch(*this);
         Touch(row);
-        auto const notes = NotesOf(line);
+        auto notes = NotesOf(line);
         m_totals.SetState(static_cast<std::size_t>(line), workbench::RecordingTotals::State::Unread, 0);
+        // A recording that could not be read may be one again.
+        m_totals.SetChecked(static_cast<std::size_t>(line), notes.checked);
+        if (notes.reference && m_reference < 0)
+        {
+            m_reference = line;
+        }
+        notes.reference = line == m_reference;
         ResetRow(row);
         PrepareRow(row, file, notes, workbench::Text(c_readingText));
+        ShowReference();
         SetBold(row, column_name, line == m_boldLine);
         Tell(changed_marks);
     }
@@ -240,6 +253,10 @@ void CRecordingList::MarkValue(int row, Column column)
 /// Leaves of the line what is known of its file, and makes it one that does not react.
 void CRecordingList::ShowProblem(int row, workbench::RecordingAnalysis const & analysis)
 {
+    if (IsEditing() && LineAt(row) == m_editedLine)
+    {
+        EndEditing();
+    }
     SetCheckbox(row, column_check, XLC_NONE);
     SetHyperlink(row, column_name, false, false);
     SetBold(row, column_name, false);
@@ -267,8 +284,5 @@ CRecordingList::Notes CRecordingList::NotesOf(int line) const
     {
         return {};
     }
-    auto notes = m_notes[static_cast<std::size_t>(line)];
-    notes.checked = m_totals.IsChecked(static_cast<std::size_t>(line));
-    notes.reference = line == m_reference;
-    return notes;
+    return m_notes[static_cast<std::size_t>(line)];
 }

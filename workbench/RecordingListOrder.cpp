@@ -80,6 +80,7 @@ void CRecordingList::SortLines(Column column, bool ascending)
     {
         return;
     }
+    EndEditing();
     m_sortedColumn = column;
     m_ascending = ascending;
     if (HasOwnOrder(column))

@@ -1,6 +1,7 @@
 #include "Settings.h"
 
 #include <afxwin.h>
+#include <shlobj.h>
 
 #include <sstream>
 #include <string>
@@ -21,7 +22,10 @@ constexpr wchar_t c_spectrogramScale[] = L"SpectrogramScale";
 constexpr wchar_t c_startFolders[] = L"StartFolders";
 constexpr wchar_t c_language[] = L"Language";
 constexpr wchar_t c_columnWidths[] = L"ColumnWidths"; // the average width of a letter, then column:width
-constexpr wchar_t c_separator = L'|';                 // no name of a folder has it
+constexpr wchar_t c_company[] = L"Instrument Suite";
+constexpr wchar_t c_program[] = L"Instrument Workbench";
+constexpr wchar_t c_notesName[] = L"Notes.txt";
+constexpr wchar_t c_separator = L'|'; // no name of a folder has it
 
 std::vector<std::filesystem::path> Split(std::wstring const & text)
 {
@@ -107,6 +111,20 @@ bool StoreColumnWidths(std::map<int, int> const & widths, int averageWidth)
         text += L' ' + std::to_wstring(column) + L':' + std::to_wstring(width);
     }
     return AfxGetApp()->WriteProfileString(c_section, c_columnWidths, text.c_str()) != FALSE;
+}
+
+std::filesystem::path NotesFile()
+{
+    auto const & app = *AfxGetApp();
+    std::filesystem::path const profile(
+        app.m_pszRegistryKey == nullptr && app.m_pszProfileName != nullptr ? app.m_pszProfileName : L"");
+    if (profile.is_absolute())
+    {
+        return profile.parent_path() / c_notesName;
+    }
+    wchar_t folder[MAX_PATH] = L"";
+    ::SHGetFolderPathW(nullptr, CSIDL_APPDATA | CSIDL_FLAG_CREATE, nullptr, SHGFP_TYPE_CURRENT, folder);
+    return std::filesystem::path(folder) / c_company / c_program / c_notesName;
 }
 
 unsigned short ReadLanguage()

@@ -37,6 +37,10 @@ std::map<int, int> ReadColumnWidths(int averageWidth);
 /// Stores the column widths. False if that failed.
 bool StoreColumnWidths(std::map<int, int> const & widths, int averageWidth);
 
+/// The file that keeps what the user says about recordings: beside the settings where these are in a file, else in the
+/// folder that the user's account has for the data of programs.
+std::filesystem::path NotesFile();
+
 /// The number that stands for the language of the user's system.
 constexpr unsigned short c_usersDefaultLanguage = 1024;
 

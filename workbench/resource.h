@@ -63,6 +63,8 @@
 #define ID_EXPORT_SETTINGS 40017
 #define ID_IMPORT_SETTINGS 40018
 #define ID_FIT_COLUMNS 40019
+#define ID_EDIT_COMMENT 40020
+#define ID_CHOOSE_RATING 40021
 
 // The items of open dialogs in the window menu.
 #define ID_DIALOG_FIRST 41000

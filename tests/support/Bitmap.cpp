@@ -54,6 +54,11 @@ COLORREF Canvas::Pixel(int x, int y) const
     if (x < 0 || y < 0 || x >= m_width || y >= m_height)
         return CLR_INVALID;
     ::GdiFlush();
+    return PixelAt(x, y);
+}
+
+COLORREF Canvas::PixelAt(int x, int y) const
+{
     return FromPixel(m_bits[static_cast<size_t>(y) * m_width + x] & ColourBits);
 }
 
@@ -70,23 +75,27 @@ int Canvas::Count(COLORREF colour) const
 
 int Canvas::Count(COLORREF colour, CRect const & rect) const
 {
+    CRect inside;
+    inside.IntersectRect(rect, CRect(0, 0, m_width, m_height));
+    ::GdiFlush();
     int count = 0;
-    for (int y = rect.top; y < rect.bottom; ++y)
+    for (int y = inside.top; y < inside.bottom; ++y)
     {
-        for (int x = rect.left; x < rect.right; ++x)
-            count += Pixel(x, y) == colour ? 1 : 0;
+        for (int x = inside.left; x < inside.right; ++x)
+            count += PixelAt(x, y) == colour ? 1 : 0;
     }
     return count;
 }
 
 CRect Canvas::BoundsOf(std::function<bool(COLORREF)> const & predicate) const
 {
+    ::GdiFlush();
     CRect bounds(m_width, m_height, 0, 0);
     for (int y = 0; y < m_height; ++y)
     {
         for (int x = 0; x < m_width; ++x)
         {
-            if (!predicate(Pixel(x, y)))
+            if (!predicate(PixelAt(x, y)))
                 continue;
             bounds.left = std::min<LONG>(bounds.left, x);
             bounds.top = std::min<LONG>(bounds.top, y);
@@ -125,16 +134,17 @@ testing::AssertionResult SamePixels(Canvas const & a, Canvas const & b)
 {
     if (a.Width() != b.Width() || a.Height() != b.Height())
     {
-        return testing::AssertionFailure() << "sizes differ: " << a.Width() << " x " << a.Height() << " and "
-                                           << b.Width() << " x " << b.Height();
+        return testing::AssertionFailure()
+               << "sizes differ: " << a.Width() << " x " << a.Height() << " and " << b.Width() << " x " << b.Height();
     }
+    ::GdiFlush();
     int differing = 0;
     CPoint first(0, 0);
     for (int y = 0; y < a.Height(); ++y)
     {
         for (int x = 0; x < a.Width(); ++x)
         {
-            if (a.Pixel(x, y) == b.Pixel(x, y))
+            if (a.PixelAt(x, y) == b.PixelAt(x, y))
                 continue;
             if (differing++ == 0)
                 first = CPoint(x, y);

@@ -49,6 +49,11 @@ public:
     void CopyFromScreen(HWND window);
 
 private:
+    friend testing::AssertionResult SamePixels(Canvas const & a, Canvas const & b);
+
+    /// Of a pixel within, once GDI has been flushed, which costs more than a pixel.
+    COLORREF PixelAt(int x, int y) const;
+
     CDC m_dc;
     HBITMAP m_bitmap = nullptr;
     HGDIOBJ m_previous = nullptr;

@@ -319,6 +319,29 @@ void PatchImports(HMODULE module)
     }
 }
 
+/// A window system may pass over a fault in a window procedure that it has called, and the test would go on as if
+/// nothing had happened.
+LONG CALLBACK EndOnFault(EXCEPTION_POINTERS * fault)
+{
+    DWORD const code = fault->ExceptionRecord->ExceptionCode;
+    if (code != EXCEPTION_ACCESS_VIOLATION && code != EXCEPTION_ILLEGAL_INSTRUCTION &&
+        code != EXCEPTION_STACK_OVERFLOW && code != STATUS_HEAP_CORRUPTION)
+        return EXCEPTION_CONTINUE_SEARCH;
+    auto const at = reinterpret_cast<std::size_t>(fault->ExceptionRecord->ExceptionAddress);
+    HMODULE module = nullptr;
+    ::GetModuleHandleExA(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+                         reinterpret_cast<char const *>(at), &module);
+    char name[MAX_PATH] = "no module";
+    ::GetModuleFileNameA(module, name, MAX_PATH);
+    char text[MAX_PATH + 100];
+    int const length = ::wsprintfA(text, "guarded heap: exception %lx at %Ix of %s\n", code,
+                                   at - reinterpret_cast<std::size_t>(module), name);
+    DWORD written = 0;
+    ::WriteFile(::GetStdHandle(STD_ERROR_HANDLE), text, static_cast<DWORD>(length), &written, nullptr);
+    ::TerminateProcess(::GetCurrentProcess(), GuardedHeap::exit_code_of_a_fault);
+    return EXCEPTION_CONTINUE_SEARCH;
+}
+
 /// Once for the process, and for good: a guarded block may be freed at any later time.
 void Install()
 {
@@ -344,7 +367,7 @@ void Install()
 }
 } // namespace
 
-GuardedHeap::GuardedHeap(std::size_t quarantine)
+GuardedHeap::GuardedHeap(std::size_t quarantine) : m_faults(::AddVectoredExceptionHandler(1, EndOnFault))
 {
     Install();
     Lock const lock;
@@ -357,6 +380,7 @@ GuardedHeap::GuardedHeap(std::size_t quarantine)
 
 GuardedHeap::~GuardedHeap()
 {
+    ::RemoveVectoredExceptionHandler(m_faults);
     Check();
     {
         Lock const lock;

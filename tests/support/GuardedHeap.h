@@ -19,6 +19,10 @@
 // numbers, so SetBreak(number) stops a second run in a debugger at that allocation. Fresh memory holds 0xCD, freed
 // memory 0xDD, guards 0xFD: a crash at such an address is a read of what has gone.
 //
+// A fault (a bad address, a trap of the compiler's, a stack that is full) ends the program, with a word of where it
+// was: window systems pass over faults in window procedures. Names of functions: `addr2line -f -e` with the module, its
+// image base added.
+//
 // One object at a time. Blocks from before its life are left as they are; blocks that outlive it stay valid.
 
 #include <windows.h>
@@ -75,5 +79,11 @@ public:
     static bool Owns(void const * block);
     /// The allocation of this number stops in the debugger.
     static void SetBreak(unsigned long long number);
+
+    /// That of a program that was ended because of a fault.
+    static constexpr UINT exit_code_of_a_fault = 77;
+
+private:
+    void * m_faults;
 };
 } // namespace tests

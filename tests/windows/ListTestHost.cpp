@@ -112,6 +112,29 @@ CRect TestList::TakeUpdateRect()
     return rect;
 }
 
+HWND OpenEditOf(CWnd const & list)
+{
+    constexpr int edit_id = 99;
+    return ::GetDlgItem(list.m_hWnd, edit_id);
+}
+
+HWND OpenCombo()
+{
+    HWND found = nullptr;
+    ::EnumThreadWindows(
+        ::GetCurrentThreadId(),
+        [](HWND window, LPARAM result) {
+            wchar_t name[32] = {};
+            ::GetClassNameW(window, name, static_cast<int>(std::size(name)));
+            if (CString(name) != L"SuperComboBox")
+                return TRUE;
+            *reinterpret_cast<HWND *>(result) = window;
+            return FALSE;
+        },
+        reinterpret_cast<LPARAM>(&found));
+    return found;
+}
+
 ListHost::ListHost(DWORD style, CRect const & place, bool itemToolTips)
 {
     if (itemToolTips)

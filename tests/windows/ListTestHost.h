@@ -20,6 +20,7 @@
 
 #include <functional>
 #include <iosfwd>
+#include <new>
 #include <vector>
 
 namespace tests
@@ -113,6 +114,40 @@ public:
     bool IsSelected(int row) const { return GetItemState(row, LVIS_SELECTED) != 0; }
     bool IsFocused(int row) const { return GetItemState(row, LVIS_FOCUSED) != 0; }
 };
+
+/// A list in memory of its own, any use of which after its end stops the program.
+class GuardedList : public tests::TestList
+{
+public:
+    static void * operator new(std::size_t size)
+    {
+        void * const memory = ::VirtualAlloc(nullptr, size, MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE);
+        if (memory == nullptr)
+            throw std::bad_alloc();
+        return memory;
+    }
+    // The addresses are never used again.
+    static void operator delete(void * memory, std::size_t size) { ::VirtualFree(memory, size, MEM_DECOMMIT); }
+};
+
+/// Counts what reaches the native list.
+class CountingList : public TestList
+{
+public:
+    int m_asked = 0;
+
+protected:
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        ++m_asked;
+        return TestList::DefWindowProc(message, wParam, lParam);
+    }
+};
+
+/// The open edit over a cell of the list; null if there is none.
+HWND OpenEditOf(CWnd const & list);
+/// The thread's open combo over a cell of a list; null if there is none.
+HWND OpenCombo();
 
 /// A parent with a list made by code.
 class ListHost

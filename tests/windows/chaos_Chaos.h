@@ -64,6 +64,9 @@ public:
     }
     int Steps() const { return m_steps; }
 
+    /// GDI objects that the window system may come to hold: fonts of menus and captions.
+    static constexpr int kept_by_the_system = 16;
+
 protected:
     /// One random operation.
     virtual void Operate() = 0;
@@ -100,9 +103,8 @@ inline int ThreadWindows()
     return count;
 }
 
-/// Runs the worlds of all seeds, each made anew, on a guarded heap; windows and GDI objects must be what they were, but
-/// for those that the system keeps: fonts of menus and captions.
-template <typename World> void RunAll(int keptBySystem = 16)
+/// Runs the worlds of all seeds, each made anew, on a guarded heap; windows and GDI objects must be what they were.
+template <typename World> void RunAll()
 {
     {
         tests::GuardedHeap heap;
@@ -128,7 +130,7 @@ template <typename World> void RunAll(int keptBySystem = 16)
             return;
     }
     tests::PumpPosted();
-    EXPECT_LE(tests::GdiHandleCount(), gdiObjects + keptBySystem);
+    EXPECT_LE(tests::GdiHandleCount(), gdiObjects + World::kept_by_the_system);
     testing::Test::RecordProperty("steps", steps);
 }
 } // namespace chaos

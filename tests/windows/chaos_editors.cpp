@@ -17,6 +17,9 @@ constexpr UINT toggle_drop = WM_USER + 0x65;
 class EditorWorld : public chaos::Chaos
 {
 public:
+    /// Its cache of device contexts, for windows that paint within one another: it grows to that size and stays.
+    static constexpr int kept_by_the_system = 48;
+
     explicit EditorWorld(unsigned int seed) : Chaos(seed)
     {
         m_button.Create(L"b", WS_CHILD | WS_VISIBLE, CRect(5, 210, 60, 230), &m_parent, 32);
@@ -74,22 +77,8 @@ protected:
         }
     }
 
-    HWND Edit() const { return m_list != nullptr ? ::GetDlgItem(m_list->m_hWnd, edit_id) : nullptr; }
-    static HWND Combo()
-    {
-        HWND found = nullptr;
-        ::EnumThreadWindows(
-            ::GetCurrentThreadId(),
-            [](HWND window, LPARAM result) {
-                wchar_t name[32] = {};
-                ::GetClassNameW(window, name, 32);
-                if (CString(name) == L"SuperComboBox")
-                    *reinterpret_cast<HWND *>(result) = window;
-                return TRUE;
-            },
-            reinterpret_cast<LPARAM>(&found));
-        return found;
-    }
+    HWND Edit() const { return m_list != nullptr ? tests::OpenEditOf(*m_list) : nullptr; }
+    static HWND Combo() { return tests::OpenCombo(); }
 
     void Open()
     {

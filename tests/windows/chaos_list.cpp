@@ -418,27 +418,30 @@ void RunChaos(unsigned seed)
     EXPECT_GT(heap.Allocations(), 0u);
 }
 
-// Two suites, since each runs in a process of its own.
+// A suite a seed, since each suite runs in a process of its own and beside others.
 
-class ChaosList : public testing::TestWithParam<unsigned>
+TEST(ChaosListOne, BreaksNothingIn10000Steps)
 {
-};
-
-TEST_P(ChaosList, BreaksNothingIn10000Steps)
-{
-    RunChaos(GetParam());
+    RunChaos(1);
 }
 
-INSTANTIATE_TEST_SUITE_P(Seeds, ChaosList, testing::Values(1u, 2u, 3u));
-
-class ChaosListMore : public testing::TestWithParam<unsigned>
+TEST(ChaosListTwo, BreaksNothingIn10000Steps)
 {
-};
-
-TEST_P(ChaosListMore, BreaksNothingIn10000Steps)
-{
-    RunChaos(GetParam());
+    RunChaos(2);
 }
 
-INSTANTIATE_TEST_SUITE_P(Seeds, ChaosListMore, testing::Values(4u, 5u));
+TEST(ChaosListThree, BreaksNothingIn10000Steps)
+{
+    RunChaos(3);
+}
+
+TEST(ChaosListFour, BreaksNothingIn10000Steps)
+{
+    RunChaos(4);
+}
+
+TEST(ChaosListFive, BreaksNothingIn10000Steps)
+{
+    RunChaos(5);
+}
 } // namespace

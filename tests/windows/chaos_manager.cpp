@@ -103,6 +103,7 @@ ManagedWindow::ManagedWindow(ManagerWorld & world, CString const & name, CFenste
 {
     m_world.Enter(this);
     ++m_held;
+    m_manager.CalcMyPosition(this); // a manager that is found by its name must be bound
     bool const child = type == CFensterManager::window_mdi_child;
     CreateEx(0, AfxRegisterWndClass(0), name, (child ? WS_CHILD : WS_POPUP) | WS_VISIBLE | WS_OVERLAPPEDWINDOW,
              CRect(20, 30, 220, 160), holder, 0);

@@ -143,6 +143,31 @@ TEST_F(ComboDropWindow, IsAsWideAsItsWidestText)
     EXPECT_EQ(DropRect().Width(), size.cx + 14 + scroll + 8);
 }
 
+TEST_F(ComboDropWindow, WidestTextIsThatOfAllTexts)
+{
+    std::vector<std::wstring> texts = {L"",          L"short",        std::wstring(20, L'i'),
+                                       L"WWWWWWWWW", L"AVAVAVAVA To", L"\u00E4\u00F6\u00FC\u4E2D"};
+    for (int i = 0; i < 200; ++i)
+        texts.push_back(L"channel " + std::to_wstring(i * 7919 % 1000003));
+    MakeCombo(CBS_DROPDOWNLIST, {L"one"});
+    ASSERT_TRUE(Open());
+    for (std::size_t first = 0; first < texts.size(); first += 5)
+    {
+        std::list<XListCtrl::combo_item> items;
+        int widest = 0;
+        for (std::size_t i = first; i < texts.size(); ++i)
+        {
+            items.emplace_back();
+            items.back().text = texts[i];
+            CSize size;
+            ASSERT_TRUE(List().GetTextSize(texts[i].c_str(), static_cast<int>(texts[i].size()), size));
+            widest = std::max(widest, static_cast<int>(size.cx));
+        }
+        EXPECT_EQ(List().GetWidestText(items), widest);
+    }
+    EXPECT_EQ(List().GetWidestText({}), 0);
+}
+
 TEST_F(ComboDropWindow, PointerSelectsTheRowUnderIt)
 {
     MakeCombo();

@@ -10,6 +10,7 @@ namespace
 {
 enum class Deed
 {
+    // The first three end the combo's window.
     delete_combo,
     destroy_combo,
     destroy_parent,
@@ -199,8 +200,12 @@ TEST(ComboHostile, EndsAtAnyMoment)
         for (std::string const & moment : scene.moments)
         {
             bool everDone = false;
+            // The system's edit field does not stand its own end while it tells of a change.
+            bool const editChanges = moment == "EDITUPDATE" || moment == "EDITCHANGE";
             for (Deed const deed : deeds)
             {
+                if (editChanges && deed <= Deed::destroy_parent)
+                    continue;
                 SCOPED_TRACE(testing::Message() << scene.name << ", " << moment << ", deed " << static_cast<int>(deed));
                 HostileParent host(scene, moment, deed);
                 host.Run(scene);

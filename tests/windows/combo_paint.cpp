@@ -89,6 +89,21 @@ TEST_F(ComboPaint, FocusHighlightsTheTextOfAClosedList)
     EXPECT_EQ(Shot()->Count(Color(COLOR_HIGHLIGHT)), 0);
 }
 
+TEST_F(ComboPaint, OpeningAndClosingByCallRepaintsTheText)
+{
+    MakeCombo();
+    m_combo->SetCurSel(1);
+    for (bool const open : {true, false})
+    {
+        m_combo->UpdateWindow();
+        ASSERT_FALSE(m_combo->GetUpdateRect(nullptr));
+        m_combo->ShowDropDown(open);
+        CRect rect;
+        EXPECT_TRUE(m_combo->GetUpdateRect(rect));
+        EXPECT_EQ(rect.left, 0) << open;
+    }
+}
+
 TEST_F(ComboPaint, DisabledComboIsGrey)
 {
     MakeCombo();

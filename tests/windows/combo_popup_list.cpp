@@ -98,9 +98,12 @@ TEST_F(ComboPopupList, TheScrollBarMovesTheList)
 
 TEST_F(ComboPopupList, TheThirdLossOfTheFocusIsAnEscape)
 {
+    // One that has not been shown has lost none yet.
+    XListCtrl::CXComboList popup(&m_parent);
+    ASSERT_TRUE(popup.CreateAt(CRect(0, 0, 50, 50)));
     for (int loss = 1; loss <= 4; ++loss)
     {
-        ::SendMessageW(m_popup.m_hWnd, WM_KILLFOCUS, 0, 0);
+        ::SendMessageW(popup.m_hWnd, WM_KILLFOCUS, 0, 0);
         EXPECT_EQ(Count(WM_XCOMBOLIST_VK_ESCAPE), loss < 3 ? 0 : 1) << loss;
     }
 }

@@ -213,18 +213,3 @@ TEST_F(ComboTyping, TextSetWithoutTheFocusIsNotCompleted)
     EXPECT_FALSE(m_combo->GetDroppedState());
     EXPECT_EQ(m_parent.TakeHeard(), (Heard{"EDITUPDATE", "EDITCHANGE"}));
 }
-
-TEST_F(ComboTyping, AComboDestroyedWhileItCompletesLeavesTheOthersWorking)
-{
-    MakeTyping(XListCtrl::combo_auto_append, fruit);
-    m_parent.m_onNotification = [this](UINT code) {
-        if (code == CBN_EDITUPDATE && Text() == L"apple")
-            m_combo->DestroyWindow();
-    };
-    tests::Type(L"a");
-    ASSERT_TRUE(tests::PumpUntil([this] { return m_combo->m_hWnd == nullptr; }));
-    m_parent.m_onNotification = nullptr;
-    m_combo.reset();
-    MakeTyping(XListCtrl::combo_auto_append, fruit);
-    EXPECT_TRUE(TypeUntil(L"a", [this] { return Text() == L"apple"; }));
-}

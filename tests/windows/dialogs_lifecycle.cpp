@@ -72,6 +72,8 @@ int ThreadWindows()
 }
 
 using Dialog3dLifecycle = DialogTest;
+/// A suite, and so a process, of its own: it takes long.
+using Dialog3dOpenings = DialogTest;
 
 } // namespace
 
@@ -248,7 +250,7 @@ TEST_F(Dialog3dLifecycle, TheResultOfOnInitDialogIsTheFrameworks)
     EXPECT_EQ(::GetFocus(), dialog.Item(IDC_NAME)) << "the system chose the focus";
 }
 
-TEST_F(Dialog3dLifecycle, FiveHundredOpeningsLeaveNothing)
+TEST_F(Dialog3dOpenings, FiveHundredObjectsLeaveNothing)
 {
     auto const once = [](UINT id) {
         TestDialog dialog(id);
@@ -279,7 +281,7 @@ TEST_F(Dialog3dLifecycle, FiveHundredOpeningsLeaveNothing)
     EXPECT_EQ(ManagerCount::Now(), managers);
 }
 
-TEST_F(Dialog3dLifecycle, OneObjectOpensFiveHundredTimes)
+TEST_F(Dialog3dOpenings, OneObjectOpensFiveHundredTimes)
 {
     size_t const managers = ManagerCount::Now();
     {

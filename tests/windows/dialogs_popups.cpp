@@ -7,9 +7,11 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "GdiHandleCount.h"
+#include "GuardedHeap.h"
 #include "dialogs_Dialog3dTest.h"
 
 using namespace dialog_tests;
@@ -266,6 +268,32 @@ TEST_F(Dialog3dPopups, ACallbackMayCloseAndEndTheDialog)
     dialog->ActivatePopup(config, 200, 200);
     EXPECT_TRUE(dialog->OnCmdMsg(1018, CN_COMMAND, nullptr, nullptr));
     EXPECT_EQ(dialog, nullptr);
+}
+
+TEST_F(Dialog3dPopups, AnOwnerThatLeavesACommandAloneMayEndTheDialog)
+{
+    class Owner : public tests::ScopedWindow
+    {
+    public:
+        std::function<void()> m_onCommand;
+
+        BOOL OnCmdMsg(UINT, int, void *, AFX_CMDHANDLERINFO *) override
+        {
+            if (auto const onCommand = std::exchange(m_onCommand, nullptr))
+                onCommand();
+            return FALSE;
+        }
+    };
+    constexpr UINT command_of_the_frame = 0x8001;
+    Owner owner;
+    tests::App().m_pMainWnd = &owner;
+    tests::GuardedHeap const heap; // nothing that a deleted dialog held looks as before
+    auto dialog = std::make_unique<TestDialog>();
+    ASSERT_NE(dialog->DisplayDialog(), 0);
+    owner.m_onCommand = [&] { dialog.reset(); };
+    EXPECT_FALSE(dialog->OnCmdMsg(command_of_the_frame, CN_COMMAND, nullptr, nullptr));
+    EXPECT_EQ(dialog, nullptr);
+    tests::App().m_pMainWnd = nullptr;
 }
 
 TEST_F(Dialog3dPopups, AnEmptyPopupChoosesNothing)

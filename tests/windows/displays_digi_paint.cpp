@@ -18,6 +18,7 @@ using tests::DISPLAY_SOFT_ON;
 
 using DigiStaticPaint = tests::DisplayTest;
 using DigiStaticHandles = tests::DisplayTest;
+using DigiStaticStyleHandles = tests::DisplayTest;
 using DigiStaticGolden = tests::DisplayTest;
 } // namespace
 
@@ -141,7 +142,7 @@ TEST_F(DigiStaticHandles, StayAsManyOverTwentyThousandPaints)
     EXPECT_EQ(tests::GdiGrowth([this] { Paint(); }, 20000, 3), 0);
 }
 
-TEST_F(DigiStaticHandles, StayAsManyInEveryStyle)
+TEST_F(DigiStaticStyleHandles, StayAsManyInEveryStyle)
 {
     Open(L"", 300, 40);
     CRect button(0, 0, 10, 10);

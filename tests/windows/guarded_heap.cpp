@@ -1,5 +1,6 @@
 // The heap that the tests with a hostile host run on: it notices what it is there for, in every module.
 
+#include "ChildProgram.h"
 #include "GuardedHeap.h"
 
 #include <gtest/gtest.h>
@@ -119,6 +120,31 @@ TEST(GuardedHeap, CoversTheFrameworkAndTheModule)
     }
     EXPECT_GT(heap.Allocations(), before) << "an object of the module";
     EXPECT_EQ(heap.Check(), 0u);
+}
+
+LRESULT CALLBACK Faulting(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message == WM_USER)
+        *reinterpret_cast<int volatile *>(wParam) = 1;
+    return ::DefWindowProcW(window, message, wParam, lParam);
+}
+
+CHILD_PROGRAM(FaultsInAWindowProcedure)
+{
+    GuardedHeap const heap;
+    HWND const window = ::CreateWindowW(L"STATIC", L"", WS_POPUP, 0, 0, 10, 10, nullptr, nullptr, nullptr, nullptr);
+    ::SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&Faulting));
+    ::SendMessageW(window, WM_USER, 8, 0);
+    ::DestroyWindow(window);
+    return 0;
+}
+
+TEST(GuardedHeap, AFaultInAWindowProcedureEndsTheProgram)
+{
+    tests::ChildProgram child("FaultsInAWindowProcedure");
+    ASSERT_TRUE(child.WaitForEnd());
+    EXPECT_EQ(child.ExitCode(), GuardedHeap::exit_code_of_a_fault);
+    EXPECT_NE(child.ErrorText().find("exception c0000005"), std::string::npos);
 }
 
 TEST(GuardedHeap, CountsWhatLives)

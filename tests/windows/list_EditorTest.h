@@ -7,7 +7,6 @@
 
 namespace list_editors
 {
-inline constexpr UINT edit_id = 99;
 using Entries = std::map<int, wchar_t const *>;
 
 // What the editors tell the list by.
@@ -18,26 +17,8 @@ inline UINT const combo_completes = ::RegisterWindowMessageW(L"WM_XCOMBOLIST_COM
 class ListEditorTest : public list_input::ListInputTest
 {
 protected:
-    /// The open edit's window; null if there is none.
-    HWND Edit() const { return ::GetDlgItem(m_list.m_hWnd, edit_id); }
-
-    /// The open combo's window; null if there is none.
-    static HWND Combo()
-    {
-        HWND found = nullptr;
-        ::EnumThreadWindows(
-            ::GetCurrentThreadId(),
-            [](HWND window, LPARAM result) {
-                wchar_t name[32] = {};
-                ::GetClassNameW(window, name, 32);
-                if (CString(name) != L"SuperComboBox")
-                    return TRUE;
-                *reinterpret_cast<HWND *>(result) = window;
-                return FALSE;
-            },
-            reinterpret_cast<LPARAM>(&found));
-        return found;
-    }
+    HWND Edit() const { return tests::OpenEditOf(m_list); }
+    static HWND Combo() { return tests::OpenCombo(); }
 
     static CString TextOf(HWND window)
     {

@@ -323,7 +323,11 @@ TEST_F(ListComboCells, AHostMayOpenAnotherComboWhenItHearsOfTheChoice)
     EXPECT_EQ(m_list.GetItemText(1, 1), L"twenty");
 }
 
-TEST_F(ListComboCells, ThousandsOfCombosLeaveNothingBehind)
+class ListComboOpenings : public ListComboCells
+{
+};
+
+TEST_F(ListComboOpenings, ThousandsOfCombosLeaveNothingBehind)
 {
     MakeCombo(1, 1, 10);
     auto const openAndEnd = [this](int times) {

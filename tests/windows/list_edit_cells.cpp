@@ -201,6 +201,23 @@ TEST_F(ListEditCells, LosingTheFocusTakesTheText)
     EXPECT_EQ(m_host.TakePosted(), (PostedRows{{WM_XLISTCTRL_EDIT_END, 1, 1}}));
 }
 
+TEST_F(ListEditCells, TheFirstClickElsewhereIsTheEditsTheSecondTakesTheText)
+{
+    OpenEdit(1, 1);
+    SetText(Edit(), L"typed");
+    ASSERT_EQ(::GetCapture(), Edit());
+    CPoint const elsewhere = Screen(Middle(4, 3));
+    list_input::Click(elsewhere);
+    EXPECT_TRUE(tests::PumpUntil([] { return ::GetCapture() == nullptr; }));
+    tests::PumpPosted();
+    ASSERT_NE(Edit(), nullptr);
+    EXPECT_EQ(m_list.GetSelectedItem(), 1);
+    list_input::Click(elsewhere);
+    EXPECT_TRUE(tests::PumpUntil([this] { return Edit() == nullptr && m_list.GetSelectedItem() == 4; }));
+    EXPECT_EQ(m_list.GetItemText(1, 1), L"typed");
+    EXPECT_EQ(m_host.TakePosted(), (PostedRows{{WM_XLISTCTRL_EDIT_END, 1, 1}}));
+}
+
 TEST_F(ListEditCells, ANewEditThrowsTheOldOneAway)
 {
     m_list.SetItemText(1, 1, L"kept");
@@ -314,7 +331,7 @@ TEST_F(ListEditCells, AHostMayDeleteTheListWhenItHearsOfTheText)
     list->AddRows(2);
     // The native list tells of texts of its first column alone.
     list->DrawEditControl(1, 0);
-    HWND const edit = ::GetDlgItem(list->m_hWnd, list_editors::edit_id);
+    HWND const edit = tests::OpenEditOf(*list);
     ASSERT_NE(edit, nullptr);
     SetText(edit, L"typed");
     m_host.parent.onNotify = [&](NMHDR const & header) {

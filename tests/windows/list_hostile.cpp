@@ -1,5 +1,6 @@
 // Hosts that change rows and callables, or end the list, from within what the list tells them.
 
+#include "GuardedHeap.h"
 #include "ListTestHost.h"
 #include "Pump.h"
 
@@ -439,8 +440,9 @@ protected:
         tests::PumpPosted();
     }
 
+    tests::GuardedHeap m_heap; // ends the program at a use of the deleted list
     tests::ListParent m_parent;
-    std::unique_ptr<tests::TestList> m_list = std::make_unique<tests::TestList>();
+    std::unique_ptr<tests::GuardedList> m_list = std::make_unique<tests::GuardedList>();
 };
 
 TEST_F(DeletedList, AtACellClick)

@@ -240,6 +240,8 @@ TEST_F(ListClicks, EditAndComboCellsGetTheirRowSelected)
     m_list.SetEdit(2, 1, true);
     list_input::Click(Screen(Middle(2, 1)));
     EXPECT_TRUE(tests::PumpUntil([this] { return m_list.GetSelectedItem() == 2; }));
+    tests::Key(VK_ESCAPE);
+    EXPECT_TRUE(tests::PumpUntil([this] { return ::GetFocus() == m_list.m_hWnd; }));
     m_list.SetComboBox(4, 1, std::map<int, wchar_t const *>{{1, L"one"}, {2, L"two"}}, 1, 1);
     list_input::Click(Screen(Middle(4, 1)));
     EXPECT_TRUE(tests::PumpUntil([this] { return m_list.GetSelectedItem() == 4; }));

@@ -1,6 +1,7 @@
 // Hosts that change or end the list while it paints.
 
 #include "Bitmap.h"
+#include "GuardedHeap.h"
 #include "ListTestHost.h"
 #include "Pump.h"
 
@@ -8,28 +9,12 @@
 
 #include <functional>
 #include <memory>
-#include <new>
 #include <string>
 
 namespace
 {
 constexpr int columns = 3;
 constexpr int rows = 6;
-
-/// A list in memory of its own, any use of which after its end stops the program.
-class GuardedList : public tests::TestList
-{
-public:
-    static void * operator new(std::size_t size)
-    {
-        void * const memory = ::VirtualAlloc(nullptr, size, MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE);
-        if (memory == nullptr)
-            throw std::bad_alloc();
-        return memory;
-    }
-    // The addresses are never used again.
-    static void operator delete(void * memory, std::size_t size) { ::VirtualFree(memory, size, MEM_DECOMMIT); }
-};
 
 /// A native list that sends one cell's notification with each paint and then returns. The system's own list goes on
 /// with the rows that it has counted before, and ends the program if they are gone.
@@ -125,8 +110,9 @@ protected:
         EXPECT_TRUE(m_ran);
     }
 
+    tests::GuardedHeap m_heap; // whose end of the program on a fault is what counts
     tests::ListParent m_parent;
-    std::unique_ptr<GuardedList> m_list = std::make_unique<GuardedList>();
+    std::unique_ptr<tests::GuardedList> m_list = std::make_unique<tests::GuardedList>();
     bool m_ran = false;
     std::pair<int, int> m_seen{-1, -1};
 };

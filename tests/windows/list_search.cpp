@@ -11,21 +11,8 @@
 
 namespace
 {
+using tests::CountingList;
 using tests::TestList;
-
-/// Counts what reaches the native list.
-class CountingList : public TestList
-{
-public:
-    int m_asked = 0;
-
-protected:
-    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
-    {
-        ++m_asked;
-        return TestList::DefWindowProc(message, wParam, lParam);
-    }
-};
 
 class Parent : public tests::ListParent
 {

@@ -15,6 +15,7 @@
 
 namespace
 {
+using tests::CountingList;
 using tests::TestList;
 using Strings = std::vector<CString>;
 
@@ -665,20 +666,6 @@ TEST_F(ListSort, AParameterWordThatIsNoRowIsLeftAlone)
     for (long long number = 0; number < 3; ++number)
         EXPECT_GE(m_list.FindDataItem(number), 0) << number;
 }
-
-/// Counts what reaches the native list.
-class CountingList : public TestList
-{
-public:
-    int m_asked = 0;
-
-protected:
-    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
-    {
-        ++m_asked;
-        return TestList::DefWindowProc(message, wParam, lParam);
-    }
-};
 
 TEST_F(ListSort, AsksTheNativeListForTextsAlone)
 {

@@ -97,19 +97,22 @@ void CXEdit::OnPaint()
     // The list is asked for colours, and is anything its host makes of it.
     if (!IsStillThere(window, this))
         return;
-    GetClientRect(&area);
-    area.right += frame_widening;
-    area.InflateRect(1, 1, 0, 1);
-    CDC * const dc = GetDC();
+    // Around the edit, so that it is the parent that is painted on.
+    CWnd * const parent = GetParent();
+    CDC * const dc = parent != nullptr ? parent->GetDC() : nullptr;
     if (dc == nullptr)
         return;
+    GetClientRect(&area);
+    MapWindowPoints(parent, &area);
+    area.right += frame_widening;
+    area.InflateRect(1, 1, 0, 1);
     CPen pen(PS_SOLID, 1, frame_color);
     CPen * const formerPen = dc->SelectObject(&pen);
     CGdiObject * const formerBrush = dc->SelectStockObject(HOLLOW_BRUSH);
     dc->Rectangle(&area);
     dc->SelectObject(static_cast<CBrush *>(formerBrush));
     dc->SelectObject(formerPen);
-    ReleaseDC(dc);
+    parent->ReleaseDC(dc);
 }
 
 void CXEdit::SendClosing(UINT message)

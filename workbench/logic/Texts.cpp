@@ -48,6 +48,7 @@ constexpr Entry c_entries[] = {
     {L"being read", L"werden gelesen"},
     {L"cannot be shown", L"nicht darstellbar"},
     {L"marked", L"markiert"},
+    {L"marks and comments cannot be stored", L"Markierungen und Kommentare lassen sich nicht speichern"},
     {L"Levels refer to a full-scale sine: 0 dBFS peak, -3.0 dBFS RMS",
      L"Pegel beziehen sich auf einen voll ausgesteuerten Sinus: 0 dBFS Spitze, -3.0 dBFS RMS"},
     // Opening.
@@ -75,6 +76,8 @@ constexpr Entry c_entries[] = {
     {L"No recordings. Open files or a folder.", L"Keine Aufnahmen. Öffnen Sie Dateien oder einen Ordner."},
     {L"&Details...\tAlt+Enter", L"&Einzelheiten...\tAlt+Enter"},
     {L"Set as &reference\tCtrl+R", L"Als &Bezug setzen\tStrg+R"},
+    {L"Edit &comment\tF2", L"K&ommentar bearbeiten\tF2"},
+    {L"Ra&te...\tF4", L"Be&werten...\tF4"},
     {L"Read &again\tCtrl+F5", L"Er&neut lesen\tStrg+F5"},
     {L"&Mark all\tCtrl+A", L"Alle &markieren\tStrg+A"},
     {L"Mark &none\tCtrl+Shift+A", L"&Keine markieren\tStrg+Umschalt+A"},

@@ -137,9 +137,9 @@ int CAdvComboBox::OnCreate(LPCREATESTRUCT create)
 
 void CAdvComboBox::OnChildActivate()
 {
-    MakeFont();
     Watch const watch(*this);
-    if (m_createdByCode)
+    MakeFont();
+    if (watch.IsAlive() && m_createdByCode)
         MakeEdit();
     if (watch.IsAlive())
         CWnd::OnChildActivate();
@@ -415,8 +415,10 @@ void CAdvComboBox::SetWindowText(LPCTSTR text)
 void CAdvComboBox::ShowText(std::wstring const & text)
 {
     std::wstring const shown = text; // the caller's may change meanwhile
+    Watch const watch(*this);
     CWnd::SetWindowText(shown.c_str());
-    SetWindowText(shown.c_str());
+    if (watch.IsAlive())
+        SetWindowText(shown.c_str());
 }
 
 int CAdvComboBox::SetEditSel(int start, int end)

@@ -31,10 +31,13 @@ void CAdvComboBox::ShowDropDown(bool show)
 {
     if (show == (m_drop != nullptr))
         return;
+    Watch const watch(*this);
     if (show)
         OnToggleDrop(0, 0);
     else
         OnCloseDrop(0, 0);
+    if (watch.IsAlive())
+        Invalidate();
 }
 
 LRESULT CAdvComboBox::OnToggleDrop(WPARAM, LPARAM)

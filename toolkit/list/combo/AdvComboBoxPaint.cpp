@@ -64,19 +64,24 @@ private:
 
 void CAdvComboBox::OnPaint()
 {
-    CPaintDC dc(this);
+    Watch const watch(*this);
     Items().TakeSelectedText();
     if (m_firstPaint && HasEdit())
     {
-        Watch const watch(*this);
+        // Before the painting begins: the parent hears of the text and may end the window.
         m_firstPaint = false;
         m_edit->SetWindowText(m_text.c_str());
         if (!watch.IsAlive())
             return;
         if (HasEdit())
             m_edit->EnableWindow(IsWindowEnabled());
+        if (!watch.IsAlive())
+            return;
     }
 
+    CPaintDC dc(this); // the window erases its background, which is a message too
+    if (!watch.IsAlive())
+        return;
     bool const enabled = IsWindowEnabled() != FALSE;
     CRect client;
     GetClientRect(client);

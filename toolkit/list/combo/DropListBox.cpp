@@ -34,6 +34,38 @@ private:
     CDC & m_dc;
     HGDIOBJ m_previous;
 };
+
+/// The widths of ASCII characters in the font selected: most of ten thousand texts need not be measured.
+class PlainWidths
+{
+public:
+    explicit PlainWidths(CDC & dc)
+    {
+        TEXTMETRIC metrics = {};
+        m_known = ::GetTextMetrics(dc, &metrics) && ::GetCharWidth32W(dc, 0, count - 1, m_widths);
+        m_overhang = metrics.tmOverhang;
+    }
+
+    /// Whether the text is certainly no wider than that; false if that is not known without measuring it.
+    bool IsAtMost(std::wstring const & text, int width) const
+    {
+        int sum = m_overhang;
+        for (wchar_t const character : text)
+        {
+            if (character >= count)
+                return false;
+            sum += m_widths[character];
+        }
+        return m_known && sum <= width;
+    }
+
+private:
+    static constexpr int count = 128;
+
+    int m_widths[count] = {};
+    int m_overhang = 0;
+    bool m_known = false;
+};
 } // namespace
 
 BEGIN_MESSAGE_MAP(CDropListBox, CListBox)
@@ -85,8 +117,12 @@ int CDropListBox::GetBottomIndex() const
 
 combo_item const * CDropListBox::GetItem(int index) const
 {
-    DWORD_PTR const data = GetItemData(index);
-    return data == static_cast<DWORD_PTR>(LB_ERR) ? nullptr : reinterpret_cast<combo_item const *>(data);
+    if (m_hWnd == nullptr)
+        return nullptr;
+    // Straight to the native list: asked for every item when the list ends, and for many in a row of disabled ones.
+    auto & self = const_cast<CDropListBox &>(*this);
+    LRESULT const data = self.CListBox::DefWindowProc(LB_GETITEMDATA, static_cast<WPARAM>(index), 0);
+    return data == LB_ERR ? nullptr : reinterpret_cast<combo_item const *>(data);
 }
 
 bool CDropListBox::IsDisabled(int index) const
@@ -126,10 +162,12 @@ int CDropListBox::SetTopIdx(int index, bool update)
 int CDropListBox::AddListItem(combo_item const & item)
 {
     auto copy = std::make_unique<combo_item>(item);
-    int const index = AddString(item.text.c_str());
-    if (index >= 0 && SetItemDataPtr(index, copy.get()) != LB_ERR)
+    // Straight to the native list, since this is done for every item.
+    LRESULT const index = CListBox::DefWindowProc(LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(item.text.c_str()));
+    auto const data = reinterpret_cast<LPARAM>(copy.get());
+    if (index >= 0 && CListBox::DefWindowProc(LB_SETITEMDATA, static_cast<WPARAM>(index), data) != LB_ERR)
         copy.release();
-    return index;
+    return static_cast<int>(index);
 }
 
 void CDropListBox::AddListItems(std::list<combo_item> const & items)
@@ -158,14 +196,17 @@ int CDropListBox::GetWidestText(std::list<combo_item> const & items)
     CClientDC dc(this);
     FontSelection const font(dc, m_combo->GetComboFont());
     int const extra = (m_comboFlags & combo_wide_items) != 0 ? wide_item_extra : 0;
-    int widest = 0;
+    PlainWidths const widths(dc);
+    int widest = -1;
     for (combo_item const & item : items)
     {
+        if (widths.IsAtMost(item.text, widest))
+            continue;
         CSize size;
         if (::GetTextExtentPoint32W(dc, item.text.c_str(), static_cast<int>(item.text.size()), &size))
-            widest = std::max(widest, static_cast<int>(size.cx) + extra);
+            widest = std::max(widest, static_cast<int>(size.cx));
     }
-    return widest;
+    return widest == -1 ? 0 : widest + extra;
 }
 
 int CDropListBox::RowAt(CPoint point) const

@@ -15,9 +15,11 @@
 #include "MainWindow.h"
 #include "MemoryPreferenceStore.h"
 #include "Pump.h"
+#include "Settings.h"
 #include "TestApp.h"
 #include "frame/PreferenceStore.h"
 #include "frame/RegisteredMessages.h"
+#include "logic/NotesStore.h"
 #include "resource.h"
 
 namespace
@@ -443,5 +445,282 @@ TEST_F(WorkbenchMainWindow, RemembersTheWidthOfAColumn)
     CloseWindow();
     OpenWindow();
     EXPECT_TRUE(m_window->List().UserWidths().empty());
+}
+
+/// What the user says about recordings, in the list's editors.
+class WorkbenchRecordingNotes : public WorkbenchMainWindow
+{
+protected:
+    CRecordingList & List() { return m_window->List(); }
+    void Show(int count)
+    {
+        m_window->ShowTargets({Folder(count)});
+        ASSERT_TRUE(WaitUntilRead());
+        tests::PumpPosted();
+    }
+    void Restart(int count)
+    {
+        CloseWindow();
+        OpenWindow();
+        Show(count);
+    }
+    void ClickCell(int line, CRecordingList::Column column)
+    {
+        tests::Click(tests::ClientPoint(List().m_hWnd, List().CellCentre(line, column)));
+    }
+    void OpenComment(int line)
+    {
+        ClickCell(line, CRecordingList::column_comment);
+        ASSERT_TRUE(tests::PumpUntil([this] { return List().CommentEditor() != nullptr; }));
+        tests::PumpPosted();
+    }
+    void TypeComment(std::wstring const & text)
+    {
+        tests::Type(text);
+        ASSERT_TRUE(tests::PumpUntil([&] {
+            CString shown;
+            CWnd::FromHandle(List().CommentEditor())->GetWindowText(shown);
+            return shown == text.c_str();
+        }));
+    }
+    bool WaitUntilClosed()
+    {
+        return tests::PumpUntil([this] { return !List().IsEditing(); });
+    }
+    /// The list that a combo has dropped; it is a child of the desktop.
+    static HWND VisibleDropList()
+    {
+        HWND found = nullptr;
+        ::EnumThreadWindows(
+            ::GetCurrentThreadId(),
+            [](HWND window, LPARAM result) -> BOOL {
+                if (::IsWindowVisible(window) && (::GetWindowLongW(window, GWL_STYLE) & WS_CHILD) != 0)
+                {
+                    *reinterpret_cast<HWND *>(result) = window;
+                }
+                return TRUE;
+            },
+            reinterpret_cast<LPARAM>(&found));
+        return found;
+    }
+    CString Cell(int line, CRecordingList::Column column) { return List().GetItemText(List().PlaceOf(line), column); }
+    std::wstring StoredComment(fs::path const & file) const
+    {
+        return workbench::NotesStore(workbench::NotesFile()).Of(file).comment;
+    }
+    fs::path File(int line) const { return m_folder / "recordings" / ("r0000" + std::to_string(line) + ".wav"); }
+};
+
+TEST_F(WorkbenchRecordingNotes, ACommentIsTypedStoredAndShownAgain)
+{
+    Show(5);
+    OpenComment(2);
+    TypeComment(L"Brummen \u00FCber 50 Hz");
+    tests::Key(VK_RETURN);
+    ASSERT_TRUE(WaitUntilClosed());
+    EXPECT_EQ(List().NotesOf(2).comment, L"Brummen \u00FCber 50 Hz");
+    EXPECT_TRUE(tests::PumpUntil([this] { return StoredComment(File(2)) == L"Brummen \u00FCber 50 Hz"; }));
+    m_window->SendMessage(WM_COMMAND, ID_RELOAD);
+    ASSERT_TRUE(WaitUntilRead());
+    EXPECT_EQ(Cell(2, CRecordingList::column_comment), L"Brummen \u00FCber 50 Hz");
+    // And where the files are others, so that the lines are listed anew.
+    fs::remove(File(0));
+    m_window->SendMessage(WM_COMMAND, ID_RELOAD);
+    ASSERT_TRUE(WaitUntilRead());
+    ASSERT_EQ(List().LineCount(), 4);
+    EXPECT_EQ(Cell(1, CRecordingList::column_comment), L"Brummen \u00FCber 50 Hz");
+    EXPECT_EQ(Cell(2, CRecordingList::column_comment), L"");
+    Restart(5);
+    EXPECT_EQ(Cell(2, CRecordingList::column_comment), L"Brummen \u00FCber 50 Hz");
+    EXPECT_EQ(List().NotesOf(2).comment, L"Brummen \u00FCber 50 Hz");
+}
+
+TEST_F(WorkbenchRecordingNotes, ARatingIsChosenInTheDropDownAndStored)
+{
+    Show(5);
+    ClickCell(1, CRecordingList::column_rating);
+    ASSERT_TRUE(tests::PumpUntil([] { return VisibleDropList() != nullptr; }));
+    tests::Key(VK_DOWN);
+    tests::Key(VK_DOWN);
+    tests::Key(VK_RETURN);
+    ASSERT_TRUE(tests::PumpUntil([this] { return List().NotesOf(1).rating == 2; }));
+    ASSERT_TRUE(WaitUntilClosed());
+    EXPECT_EQ(Cell(1, CRecordingList::column_rating), L"Usable");
+    Restart(5);
+    EXPECT_EQ(Cell(1, CRecordingList::column_rating), L"Usable");
+    EXPECT_EQ(List().GetComboCurSel(1, CRecordingList::column_rating), 2);
+    // By the keyboard alone.
+    ASSERT_TRUE(m_window->ChooseRecording(3));
+    tests::Key(VK_F4);
+    ASSERT_TRUE(tests::PumpUntil([] { return VisibleDropList() != nullptr; }));
+    tests::Key(VK_DOWN);
+    tests::Key(VK_RETURN);
+    EXPECT_TRUE(tests::PumpUntil([this] { return List().NotesOf(3).rating == 1; }));
+}
+
+TEST_F(WorkbenchRecordingNotes, MarksAndTheReferenceLastToo)
+{
+    Show(5);
+    ClickCell(0, CRecordingList::column_check);
+    ASSERT_TRUE(tests::PumpUntil([this] { return List().IsChecked(0); }));
+    ClickCell(4, CRecordingList::column_reference);
+    ASSERT_TRUE(tests::PumpUntil([this] { return List().ReferenceLine() == 4; }));
+    ClickCell(3, CRecordingList::column_reference);
+    ASSERT_TRUE(tests::PumpUntil([this] { return List().ReferenceLine() == 3; }));
+    Restart(5);
+    EXPECT_TRUE(List().IsChecked(0));
+    EXPECT_FALSE(List().IsChecked(1));
+    EXPECT_EQ(List().ReferenceLine(), 3);
+    EXPECT_FALSE(List().NotesOf(4).reference);
+    EXPECT_TRUE(List().GetBold(3, CRecordingList::column_name));
+    EXPECT_EQ(List().GetHeaderCheckedState(CRecordingList::column_check), XHC_MIXED);
+}
+
+TEST_F(WorkbenchRecordingNotes, WhatWasSaidOfAFileOutlastsItsDamage)
+{
+    Show(3);
+    List().SetReference(1);
+    List().EditComment(1);
+    TypeComment(L"kept");
+    tests::Key(VK_RETURN);
+    ASSERT_TRUE(WaitUntilClosed());
+    ClickCell(1, CRecordingList::column_check);
+    ASSERT_TRUE(tests::PumpUntil([this] { return List().IsChecked(1); }));
+    std::ofstream(File(1), std::ios::binary) << "no recording";
+    m_window->SendMessage(WM_COMMAND, ID_RELOAD);
+    ASSERT_TRUE(WaitUntilRead());
+    EXPECT_EQ(List().ReferenceLine(), -1);
+    EXPECT_FALSE(List().IsChecked(1));
+    WriteRecording(File(1));
+    m_window->SendMessage(WM_COMMAND, ID_RELOAD);
+    ASSERT_TRUE(WaitUntilRead());
+    EXPECT_EQ(List().ReferenceLine(), 1);
+    EXPECT_TRUE(List().IsChecked(1));
+    EXPECT_EQ(Cell(1, CRecordingList::column_comment), L"kept");
+    EXPECT_TRUE(List().GetBold(1, CRecordingList::column_name));
+}
+
+TEST_F(WorkbenchRecordingNotes, F2EditsTheChosenLinesComment)
+{
+    Show(5);
+    ASSERT_TRUE(m_window->ChooseRecording(3));
+    tests::Key(VK_F2);
+    ASSERT_TRUE(tests::PumpUntil([this] { return List().CommentEditor() != nullptr; }));
+    TypeComment(L"one");
+    // Letters with Ctrl are the editor's, not commands.
+    tests::Key(L'A', {VK_CONTROL});
+    TypeComment(L"two");
+    EXPECT_EQ(List().Totals().Checked(), 0U);
+    tests::Key(VK_F2);
+    tests::Key(VK_RETURN);
+    ASSERT_TRUE(WaitUntilClosed());
+    EXPECT_EQ(List().NotesOf(3).comment, L"two");
+    EXPECT_EQ(::GetFocus(), List().m_hWnd);
+    // Escape takes nothing.
+    tests::Key(VK_F2);
+    ASSERT_TRUE(tests::PumpUntil([this] { return List().CommentEditor() != nullptr; }));
+    TypeComment(L"three");
+    tests::Key(VK_ESCAPE);
+    ASSERT_TRUE(WaitUntilClosed());
+    EXPECT_EQ(List().NotesOf(3).comment, L"two");
+    EXPECT_EQ(Cell(3, CRecordingList::column_comment), L"two");
+}
+
+TEST_F(WorkbenchRecordingNotes, TheFirstClickElsewhereTakesTheComment)
+{
+    Show(5);
+    OpenComment(1);
+    TypeComment(L"one");
+    OpenComment(3);
+    EXPECT_EQ(List().NotesOf(1).comment, L"one");
+    TypeComment(L"three");
+    ClickCell(0, CRecordingList::column_check);
+    ASSERT_TRUE(tests::PumpUntil([this] { return List().IsChecked(0); }));
+    EXPECT_FALSE(List().IsEditing());
+    EXPECT_EQ(List().NotesOf(3).comment, L"three");
+}
+
+TEST_F(WorkbenchRecordingNotes, ACommentStaysWithItsRecordingWhenLinesAreSorted)
+{
+    Show(5);
+    OpenComment(1);
+    TypeComment(L"of r1");
+    List().SortLines(CRecordingList::column_name, false);
+    EXPECT_FALSE(List().IsEditing());
+    EXPECT_EQ(List().NotesOf(1).comment, L"of r1");
+    EXPECT_EQ(List().NotesOf(3).comment, L"");
+    EXPECT_EQ(Cell(1, CRecordingList::column_comment), L"of r1");
+    List().ChooseRating(0);
+    ASSERT_TRUE(tests::PumpUntil([] { return VisibleDropList() != nullptr; }));
+    List().SortLines(CRecordingList::column_name, true);
+    EXPECT_FALSE(List().IsEditing());
+    tests::PumpFor(200ms); // what the combo would still do comes after 50 ms
+    for (int line = 0; line < 5; ++line)
+    {
+        EXPECT_EQ(List().NotesOf(line).rating, 0);
+        EXPECT_EQ(Cell(line, CRecordingList::column_rating), L"Not rated");
+    }
+}
+
+TEST_F(WorkbenchRecordingNotes, AReloadAndOtherFilesTakeTheCommentFirst)
+{
+    Show(5);
+    OpenComment(4);
+    TypeComment(L"before F5");
+    fs::remove(File(0));
+    tests::Key(VK_F5);
+    ASSERT_TRUE(tests::PumpUntil([this] { return List().LineCount() == 4; }, read_limit));
+    ASSERT_TRUE(WaitUntilRead());
+    EXPECT_FALSE(List().IsEditing());
+    EXPECT_EQ(Cell(3, CRecordingList::column_comment), L"before F5");
+    OpenComment(0);
+    TypeComment(L"before others");
+    m_window->ShowTargets({File(4)});
+    ASSERT_TRUE(WaitUntilRead());
+    EXPECT_EQ(StoredComment(File(1)), L"");
+    CloseWindow();
+    EXPECT_EQ(StoredComment(File(1)), L"before others");
+    EXPECT_EQ(StoredComment(File(4)), L"before F5");
+    OpenWindow();
+}
+
+TEST_F(WorkbenchRecordingNotes, AnOpenEditorIsTakenAtTheEnd)
+{
+    Show(3);
+    OpenComment(0);
+    TypeComment(L"the last word");
+    CloseWindow();
+    EXPECT_EQ(StoredComment(File(0)), L"the last word");
+    OpenWindow();
+}
+
+TEST_F(WorkbenchRecordingNotes, LinesAreNotSortedUnderAnEditorByResults)
+{
+    Show(5);
+    List().SortLines(CRecordingList::column_duration, false);
+    WriteRecording(File(3), 48000, 3000);
+    OpenComment(3);
+    auto const place = List().PlaceOf(3);
+    TypeComment(L"long");
+    // The file is read again in the background.
+    m_window->PostMessage(WM_COMMAND, ID_READ_AGAIN);
+    ASSERT_TRUE(tests::PumpUntil([this] { return Cell(3, CRecordingList::column_duration).Trim() == L"0:00.063"; }));
+    ASSERT_TRUE(WaitUntilRead());
+    EXPECT_TRUE(List().IsEditing());
+    EXPECT_EQ(List().PlaceOf(3), place);
+    tests::Key(VK_RETURN);
+    ASSERT_TRUE(tests::PumpUntil([this] { return List().PlaceOf(3) == 0; }));
+    EXPECT_EQ(List().NotesOf(3).comment, L"long");
+}
+
+TEST_F(WorkbenchRecordingNotes, SaysThatNotesCannotBeStored)
+{
+    // A folder stands where the file should be.
+    fs::create_directories(workbench::NotesFile() / "in the way");
+    Show(2);
+    m_window->SendMessage(WM_COMMAND, ID_MARK_ALL);
+    EXPECT_TRUE(tests::PumpUntil([this] { return Status().find(L"cannot be stored") != std::wstring::npos; }));
+    fs::remove_all(workbench::NotesFile());
+    EXPECT_TRUE(tests::PumpUntil([this] { return Status().find(L"cannot be stored") == std::wstring::npos; }));
 }
 } // namespace

@@ -1,0 +1,170 @@
+#include "logic/SafeFile.h"
+
+#include <chrono>
+#include <cstdio>
+#include <fstream>
+#include <iterator>
+#include <memory>
+#include <system_error>
+#include <thread>
+
+#ifdef _WIN32
+#include <io.h>
+#include <windows.h>
+#else
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+#endif
+
+namespace workbench
+{
+
+namespace
+{
+
+constexpr std::chrono::milliseconds c_retryInterval(10);
+constexpr int c_lockTries = 300;
+constexpr std::size_t c_mostContents = 256 << 20; // bytes of a file that is read
+constexpr int c_moveTries = 50;                   // a scanner or a backup may hold the file for a moment
+
+/// Does something again until it succeeds.
+template <typename Operation> bool Retry(int tries, Operation operation)
+{
+    while (!operation())
+    {
+        if (--tries <= 0)
+        {
+            return false;
+        }
+        std::this_thread::sleep_for(c_retryInterval);
+    }
+    return true;
+}
+
+std::FILE * OpenForWriting(std::filesystem::path const & file)
+{
+#ifdef _WIN32
+    return ::_wfopen(file.c_str(), L"wb");
+#else
+    return std::fopen(file.c_str(), "wb");
+#endif
+}
+
+/// Has the system bring the file to the disk.
+bool Commit(std::FILE * file)
+{
+#ifdef _WIN32
+    return std::fflush(file) == 0 && ::_commit(::_fileno(file)) == 0;
+#else
+    return std::fflush(file) == 0 && ::fsync(::fileno(file)) == 0;
+#endif
+}
+
+} // namespace
+
+std::optional<std::string> ReadWholeFile(std::filesystem::path const & file)
+{
+    std::error_code error;
+    auto const status = std::filesystem::status(file, error);
+    if (status.type() == std::filesystem::file_type::not_found)
+    {
+        return std::string();
+    }
+    std::ifstream stream(file, std::ios::binary);
+    if (!std::filesystem::is_regular_file(status) || !stream)
+    {
+        return std::nullopt;
+    }
+    std::string contents;
+    std::string block(1 << 16, '\0');
+    do
+    {
+        stream.read(block.data(), static_cast<std::streamsize>(block.size()));
+        contents.append(block, 0, static_cast<std::size_t>(stream.gcount()));
+    } while (stream && contents.size() <= c_mostContents);
+    return stream.bad() || contents.size() > c_mostContents ? std::nullopt : std::optional(std::move(contents));
+}
+
+bool ReplaceWholeFile(std::filesystem::path const & file, std::string_view contents)
+{
+    auto draft = file;
+    draft += ".new";
+    auto const stream = OpenForWriting(draft);
+    if (stream == nullptr)
+    {
+        return false;
+    }
+    auto const written = std::fwrite(contents.data(), 1, contents.size(), stream) == contents.size() && Commit(stream);
+    std::error_code error;
+    if (std::fclose(stream) != 0 || !written)
+    {
+        std::filesystem::remove(draft, error);
+        return false;
+    }
+    auto const moved = Retry(c_moveTries, [&] {
+        std::filesystem::rename(draft, file, error);
+        return !error || error == std::errc::is_a_directory;
+    });
+    if (!moved || error)
+    {
+        std::error_code ignored;
+        std::filesystem::remove(draft, ignored);
+        return false;
+    }
+    return true;
+}
+
+#ifdef _WIN32
+
+FileLock::FileLock(std::filesystem::path const & file) : m_handle(INVALID_HANDLE_VALUE)
+{
+    Retry(c_lockTries, [&] {
+        m_handle = ::CreateFileW(file.c_str(), GENERIC_WRITE, 0, nullptr, OPEN_ALWAYS,
+                                 FILE_ATTRIBUTE_NORMAL | FILE_FLAG_DELETE_ON_CLOSE, nullptr);
+        auto const error = m_handle == INVALID_HANDLE_VALUE ? ::GetLastError() : ERROR_SUCCESS;
+        return error != ERROR_SHARING_VIOLATION && error != ERROR_ACCESS_DENIED;
+    });
+}
+
+FileLock::~FileLock()
+{
+    if (IsHeld())
+    {
+        ::CloseHandle(m_handle);
+    }
+}
+
+bool FileLock::IsHeld() const
+{
+    return m_handle != INVALID_HANDLE_VALUE;
+}
+
+#else
+
+FileLock::FileLock(std::filesystem::path const & file)
+    : m_handle(::open(file.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600))
+{
+    if (m_handle >= 0 && !Retry(c_lockTries, [this] { return ::flock(m_handle, LOCK_EX | LOCK_NB) == 0; }))
+    {
+        ::close(m_handle);
+        m_handle = -1;
+    }
+}
+
+FileLock::~FileLock()
+{
+    if (IsHeld())
+    {
+        ::close(m_handle);
+    }
+}
+
+bool FileLock::IsHeld() const
+{
+    return m_handle >= 0;
+}
+
+#endif
+
+} // namespace workbench
