@@ -105,7 +105,7 @@ inline int ThreadWindows()
 
 /// Runs the worlds of all seeds, each made anew, on a guarded heap; windows and GDI objects must be what they were, but
 /// for those that the system keeps: fonts of menus and captions.
-template <typename World> void RunAll(int keptBySystem = World::kept_by_the_system)
+template <typename World> void RunAll()
 {
     {
         tests::GuardedHeap heap;
@@ -131,7 +131,7 @@ template <typename World> void RunAll(int keptBySystem = World::kept_by_the_syst
             return;
     }
     tests::PumpPosted();
-    EXPECT_LE(tests::GdiHandleCount(), gdiObjects + keptBySystem);
+    EXPECT_LE(tests::GdiHandleCount(), gdiObjects + World::kept_by_the_system);
     testing::Test::RecordProperty("steps", steps);
 }
 } // namespace chaos

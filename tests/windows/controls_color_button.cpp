@@ -390,6 +390,37 @@ TEST_F(ColorButtonPaint, AmpersandUnderlinesOnlyWhileDisabled)
     EXPECT_GT(twoSigns, underlined) << "but no sign";
 }
 
+TEST_F(ColorButtonPaint, DisabledCaptionIsNotCut)
+{
+    constexpr wchar_t const * text = L"Reset, disabled";
+    constexpr int wide = 260;
+    Open(text);
+    button.SetDisabledBgColor(0);
+    button.DrawFrame(false);
+    for (int size = 9; size < 25; ++size)
+    {
+        CFont font;
+        font.CreateFont(-size, 0, 0, 0, FW_NORMAL, FALSE, FALSE, 0, DEFAULT_CHARSET, 0, 0, CLEARTYPE_QUALITY, 0,
+                        L"Tahoma");
+        tests::Canvas own(wide, height, 0);
+        tests::Canvas expected(wide, height, 0);
+        own.Dc().SelectObject(&font);
+        expected.Dc().SelectObject(&font);
+        DRAWITEMSTRUCT item{};
+        item.itemState = ODS_DISABLED;
+        item.hDC = own.Dc();
+        item.rcItem = CRect(0, 0, wide, height);
+        button.DrawItem(&item);
+        CSize const extent = own.Dc().GetTextExtent(text);
+        CPoint const origin(wide / 2 - extent.cx / 2, height / 2 - extent.cy / 2);
+        expected.Dc().DrawState(origin, CSize(wide, extent.cy), text, DSS_DISABLED, TRUE, 0,
+                                static_cast<CBrush *>(nullptr));
+        EXPECT_TRUE(tests::SamePixels(own, expected)) << "font of " << size << " pixels";
+        own.Dc().SelectStockObject(SYSTEM_FONT);
+        expected.Dc().SelectStockObject(SYSTEM_FONT);
+    }
+}
+
 TEST_F(ColorButtonPaint, RestoresModeAndColorOfTheContext)
 {
     Open(L"text");
