@@ -1,7 +1,6 @@
 #include "controls/XEditBrowseCtrl.h"
 
 #include <afxdlgs.h>
-#include <FileStatus.h>
 
 #include <clocale>
 #include <cwchar>
