@@ -34,7 +34,8 @@ protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
         World & world = m_world; // this object may end
-        if (message == WM_NCDESTROY || message == WM_DESTROY || message == WM_NCCREATE || !world.Lives(this))
+        // Whoever ends an object while the window of a member of it is being made is beyond help.
+        if (message == WM_PARENTNOTIFY || message == WM_NCDESTROY || message == WM_DESTROY || message == WM_NCCREATE || !world.Lives(this))
             return Base::WindowProc(message, wParam, lParam);
         world.Disturb();
         if (!world.Lives(this) || this->m_hWnd == nullptr)

@@ -128,8 +128,10 @@ void CXEditBrowseCtrl::PrepareFileOpenBrowser(CString const & filter, wchar_t co
     m_filter = filter;
     Store(m_defaultExtension, defaultExtension);
     Store(m_initialDirectory, initialDirectory);
+    LifeWatch const life(m_life);
     EnableBrowseButton();
-    SetBrowseButtonImage(LoadSmallToolkitIcon(TOOLKIT_ICON_BROWSE), TRUE);
+    if (!life.Over())
+        SetBrowseButtonImage(LoadSmallToolkitIcon(TOOLKIT_ICON_BROWSE), TRUE);
 }
 
 void CXEditBrowseCtrl::PrepareFileSaveAsBrowser(CString const & filter, wchar_t const * defaultExtension,
@@ -141,8 +143,10 @@ void CXEditBrowseCtrl::PrepareFileSaveAsBrowser(CString const & filter, wchar_t 
         Store(m_defaultExtension, defaultExtension);
     if (initialDirectory != nullptr)
         Store(m_initialDirectory, initialDirectory);
+    LifeWatch const life(m_life);
     EnableBrowseButton();
-    SetBrowseButtonImage(LoadSmallToolkitIcon(TOOLKIT_ICON_BROWSE), TRUE);
+    if (!life.Over())
+        SetBrowseButtonImage(LoadSmallToolkitIcon(TOOLKIT_ICON_BROWSE), TRUE);
 }
 
 void CXEditBrowseCtrl::PrepareIdNameBrowser()
