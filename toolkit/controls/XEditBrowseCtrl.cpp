@@ -248,6 +248,11 @@ void CXEditBrowseCtrl::UpdateSelectionText()
 {
     if (m_hWnd == nullptr)
         return;
+    LifeWatch const life(m_life);
+    // Asks the field for its font, which the host hears of.
+    TextMeasure const measure(*this);
+    if (life.Over() || m_hWnd == nullptr)
+        return;
     CIdNameMultiselectCtrl const & control = m_dialog.m_control;
     CString text(nothing_selected);
     if (!m_selection.empty() && !control.TheMap().empty())
@@ -258,13 +263,11 @@ void CXEditBrowseCtrl::UpdateSelectionText()
         {
             CRect rect;
             GetWindowRect(&rect);
-            TextMeasure const measure(*this);
             text = id_name::JoinedNames(
                 m_selection, [&](int id) { return control.GetName(id); },
                 [&](CString const & part) { return measure.Width(part); }, rect.Width());
         }
     }
-    LifeWatch const life(m_life);
     CString present;
     GetWindowText(present);
     if (!life.Over() && m_hWnd != nullptr && present != text)
