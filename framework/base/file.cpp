@@ -1,5 +1,4 @@
 #include "afx.h"
-#include "FileStatus.h"
 
 #if defined(_WIN32)
 

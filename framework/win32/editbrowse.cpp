@@ -31,7 +31,8 @@ class LabelContext
 {
 public:
     explicit LabelContext(HDC dc)
-        : m_dc(dc), m_font(::SelectObject(dc, ::GetStockObject(DEFAULT_GUI_FONT))),
+        : m_dc(dc),
+          m_font(::SelectObject(dc, ::GetStockObject(DEFAULT_GUI_FONT))),
           m_mode(::SetBkMode(dc, TRANSPARENT))
     {
     }
@@ -50,9 +51,7 @@ private:
 };
 } // namespace
 
-CMFCEditBrowseCtrl::CMFCEditBrowseCtrl() : m_imageSize(0, 0)
-{
-}
+CMFCEditBrowseCtrl::CMFCEditBrowseCtrl() : m_imageSize(0, 0) {}
 
 CMFCEditBrowseCtrl::~CMFCEditBrowseCtrl()
 {
@@ -139,8 +138,8 @@ void CMFCEditBrowseCtrl::SetBrowseButtonImage(HBITMAP hBitmap, BOOL bAutoDestroy
 void CMFCEditBrowseCtrl::SetBrowseButtonImage(UINT uiBmpResId)
 {
     LPCTSTR const name = MAKEINTRESOURCE(uiBmpResId);
-    SetBrowseButtonImage(static_cast<HBITMAP>(::LoadImage(AfxFindResourceHandle(name, RT_BITMAP), name, IMAGE_BITMAP, 0,
-                                                          0, LR_CREATEDIBSECTION)));
+    SetBrowseButtonImage(static_cast<HBITMAP>(
+        ::LoadImage(AfxFindResourceHandle(name, RT_BITMAP), name, IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION)));
 }
 
 void CMFCEditBrowseCtrl::OnBrowse()
@@ -176,9 +175,7 @@ void CMFCEditBrowseCtrl::OnBrowse()
     OnAfterUpdate();
 }
 
-void CMFCEditBrowseCtrl::OnAfterUpdate()
-{
-}
+void CMFCEditBrowseCtrl::OnAfterUpdate() {}
 
 BOOL CMFCEditBrowseCtrl::OnIllegalFileName(CString &)
 {
@@ -188,8 +185,7 @@ BOOL CMFCEditBrowseCtrl::OnIllegalFileName(CString &)
 void CMFCEditBrowseCtrl::OnChangeLayout()
 {
     if (GetSafeHwnd() != nullptr)
-        SetWindowPos(nullptr, 0, 0, 0, 0,
-                     SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
+        SetWindowPos(nullptr, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
 }
 
 int CMFCEditBrowseCtrl::ButtonWidth() const
@@ -261,7 +257,8 @@ void CMFCEditBrowseCtrl::OnDrawBrowseButton(CDC * pDC, CRect rect, BOOL bIsButto
 {
     HDC const dc = pDC->GetSafeHdc();
     bool const enabled = IsWindowEnabled() != FALSE;
-    ::FillRect(dc, &rect, ::GetSysColorBrush(bIsButtonHot && enabled && !bIsButtonPressed ? COLOR_3DLIGHT : COLOR_BTNFACE));
+    ::FillRect(dc, &rect,
+               ::GetSysColorBrush(bIsButtonHot && enabled && !bIsButtonPressed ? COLOR_3DLIGHT : COLOR_BTNFACE));
     CRect edge = rect;
     ::DrawEdge(dc, &edge, bIsButtonPressed ? BDR_SUNKENOUTER : BDR_RAISEDINNER, BF_RECT);
     if (bIsButtonPressed)

@@ -225,7 +225,12 @@ TEST(JoinedNames, NoMoreNamesAreLookedAtThanFit)
         ids.insert(id);
     int asked = 0;
     id_name::JoinedNames(
-        ids, [&](int) { ++asked; return CString(L"name"); }, Width, 300);
+        ids,
+        [&](int) {
+            ++asked;
+            return CString(L"name");
+        },
+        Width, 300);
     EXPECT_LE(asked, 10);
 }
 

@@ -474,8 +474,8 @@ struct Model
             place = std::find_if(parent.children.begin(), parent.children.end(),
                                  [&](auto const & child) { return child->sortKey > sortKey; });
         }
-        auto const entered = parent.children.insert(
-            place, std::make_unique<Node>(Node{type, id, sortKey, nullptr, &parent, {}}));
+        auto const entered =
+            parent.children.insert(place, std::make_unique<Node>(Node{type, id, sortKey, nullptr, &parent, {}}));
         all.push_back(entered->get());
         return entered->get();
     }
@@ -547,8 +547,8 @@ TEST_F(TreeControl, ARandomWalkAgreesWithAModel)
             int const type = static_cast<int>(pick(4)) - 1;
             int const id = static_cast<int>(pick(21)) - 1;
             auto const & siblings = node->parent->children;
-            auto const place = std::find_if(siblings.begin(), siblings.end(),
-                                            [&](auto const & each) { return each.get() == node; });
+            auto const place =
+                std::find_if(siblings.begin(), siblings.end(), [&](auto const & each) { return each.get() == node; });
             Model::Node const * const expected =
                 Model::Find(siblings, static_cast<std::size_t>(place - siblings.begin()), type, id);
             ASSERT_EQ(m_tree->FindItem(type, id, nullptr, node->item, false),

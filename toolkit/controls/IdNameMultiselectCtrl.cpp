@@ -413,9 +413,9 @@ void CIdNameMultiselectCtrl::OnSize(UINT type, int cx, int cy)
         CWnd * window;
         CRect const & place;
     };
-    for (Part const & part : {Part{&m_list, places.list}, Part{&m_selectAll, places.selectAll},
-                              Part{&m_selectNone, places.selectNone}, Part{&m_cancel, places.cancel},
-                              Part{&m_ok, places.ok}})
+    for (Part const & part :
+         {Part{&m_list, places.list}, Part{&m_selectAll, places.selectAll}, Part{&m_selectNone, places.selectNone},
+          Part{&m_cancel, places.cancel}, Part{&m_ok, places.ok}})
     {
         if (!mayGoOn())
             return;
@@ -455,9 +455,9 @@ void CIdNameMultiselectCtrl::EndParts()
 {
     LifeWatch const life(m_life);
     m_controlsCreated = false;
-    for (CWnd * const part : {static_cast<CWnd *>(&m_toolTip), static_cast<CWnd *>(&m_list),
-                              static_cast<CWnd *>(&m_selectAll), static_cast<CWnd *>(&m_selectNone),
-                              static_cast<CWnd *>(&m_cancel), static_cast<CWnd *>(&m_ok)})
+    for (CWnd * const part :
+         {static_cast<CWnd *>(&m_toolTip), static_cast<CWnd *>(&m_list), static_cast<CWnd *>(&m_selectAll),
+          static_cast<CWnd *>(&m_selectNone), static_cast<CWnd *>(&m_cancel), static_cast<CWnd *>(&m_ok)})
     {
         if (part->m_hWnd != nullptr)
             part->DestroyWindow();

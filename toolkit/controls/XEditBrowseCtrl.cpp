@@ -1,7 +1,6 @@
 #include "controls/XEditBrowseCtrl.h"
 
 #include <afxdlgs.h>
-#include <FileStatus.h>
 
 #include <clocale>
 #include <cwchar>
@@ -129,8 +128,10 @@ void CXEditBrowseCtrl::PrepareFileOpenBrowser(CString const & filter, wchar_t co
     m_filter = filter;
     Store(m_defaultExtension, defaultExtension);
     Store(m_initialDirectory, initialDirectory);
+    LifeWatch const life(m_life);
     EnableBrowseButton();
-    SetBrowseButtonImage(LoadSmallToolkitIcon(TOOLKIT_ICON_BROWSE), TRUE);
+    if (!life.Over())
+        SetBrowseButtonImage(LoadSmallToolkitIcon(TOOLKIT_ICON_BROWSE), TRUE);
 }
 
 void CXEditBrowseCtrl::PrepareFileSaveAsBrowser(CString const & filter, wchar_t const * defaultExtension,
@@ -142,8 +143,10 @@ void CXEditBrowseCtrl::PrepareFileSaveAsBrowser(CString const & filter, wchar_t 
         Store(m_defaultExtension, defaultExtension);
     if (initialDirectory != nullptr)
         Store(m_initialDirectory, initialDirectory);
+    LifeWatch const life(m_life);
     EnableBrowseButton();
-    SetBrowseButtonImage(LoadSmallToolkitIcon(TOOLKIT_ICON_BROWSE), TRUE);
+    if (!life.Over())
+        SetBrowseButtonImage(LoadSmallToolkitIcon(TOOLKIT_ICON_BROWSE), TRUE);
 }
 
 void CXEditBrowseCtrl::PrepareIdNameBrowser()
@@ -245,6 +248,11 @@ void CXEditBrowseCtrl::UpdateSelectionText()
 {
     if (m_hWnd == nullptr)
         return;
+    LifeWatch const life(m_life);
+    // Asks the field for its font, which the host hears of.
+    TextMeasure const measure(*this);
+    if (life.Over() || m_hWnd == nullptr)
+        return;
     CIdNameMultiselectCtrl const & control = m_dialog.m_control;
     CString text(nothing_selected);
     if (!m_selection.empty() && !control.TheMap().empty())
@@ -255,13 +263,11 @@ void CXEditBrowseCtrl::UpdateSelectionText()
         {
             CRect rect;
             GetWindowRect(&rect);
-            TextMeasure const measure(*this);
             text = id_name::JoinedNames(
                 m_selection, [&](int id) { return control.GetName(id); },
                 [&](CString const & part) { return measure.Width(part); }, rect.Width());
         }
     }
-    LifeWatch const life(m_life);
     CString present;
     GetWindowText(present);
     if (!life.Over() && m_hWnd != nullptr && present != text)

@@ -13,8 +13,8 @@
 
 /// An edit field with a button at its right end. The button asks for a file, whose path then stands in the field, or
 /// opens an id-name multiselect below the field, whose chosen names then stand there. Choose one with a Prepare
-/// operation. Once the user has chosen, WM_XEDITBROWSE_COMPLETED is posted to the parent, or else to the owner, with the
-/// notify tag as its wParam. For the user-interface thread alone.
+/// operation. Once the user has chosen, WM_XEDITBROWSE_COMPLETED is posted to the parent, or else to the owner, with
+/// the notify tag as its wParam. For the user-interface thread alone.
 ///
 /// Texts that are kept in 260 characters (default extension, default file name, initial directory) must not be longer.
 class INSTRUMENT_UI_API CXEditBrowseCtrl : public CMFCEditBrowseCtrl

@@ -45,10 +45,7 @@ void CopyClavis(int const * from, int count, XTreeItemData & to)
 class CXTreeCtrl::Watch
 {
 public:
-    explicit Watch(CXTreeCtrl const & tree)
-        : m_tree(tree),
-          m_outer(tree.m_watches),
-          m_life(tree.m_life)
+    explicit Watch(CXTreeCtrl const & tree) : m_tree(tree), m_outer(tree.m_watches), m_life(tree.m_life)
     {
         tree.m_watches = this;
     }
@@ -135,7 +132,8 @@ public:
     {
         if (steps.empty())
             return;
-        auto const gone = std::find_if(steps.begin(), steps.end(), [item](Step const & step) { return step.item == item; });
+        auto const gone =
+            std::find_if(steps.begin(), steps.end(), [item](Step const & step) { return step.item == item; });
         steps.erase(gone, steps.end());
         if (!steps.empty() && m_tree.IsSameOrBelow(steps.front().item, item))
             steps.clear();
@@ -153,7 +151,9 @@ public:
 class CXTreeCtrl::Insertion : public Watch
 {
 public:
-    Insertion(CXTreeCtrl const & tree, TVINSERTSTRUCTW const & description) : Watch(tree), m_description(&description) {}
+    Insertion(CXTreeCtrl const & tree, TVINSERTSTRUCTW const & description) : Watch(tree), m_description(&description)
+    {
+    }
 
     void Inserted(LPARAM description, HTREEITEM result)
     {
@@ -222,9 +222,7 @@ BEGIN_MESSAGE_MAP(CXTreeCtrl, CTreeCtrl)
     ON_WM_LBUTTONDBLCLK()
 END_MESSAGE_MAP()
 
-CXTreeCtrl::CXTreeCtrl() : m_keyFlags(0)
-{
-}
+CXTreeCtrl::CXTreeCtrl() : m_keyFlags(0) {}
 
 CXTreeCtrl::~CXTreeCtrl()
 {

@@ -62,9 +62,9 @@ public:
     void SetItemClavis(HTREEITEM item, int const * clavis);
     void SetItemClavis8(HTREEITEM item, int const * clavis);
 
-    // Search. Keys are read as eight integers. exact: all must be equal, -1 being a value like any other, and only a null
-    // key fits all; otherwise -1 fits all, in each place of the key too. A search ends without a hit if the host deletes
-    // what it stands on.
+    // Search. Keys are read as eight integers. exact: all must be equal, -1 being a value like any other, and only a
+    // null key fits all; otherwise -1 fits all, in each place of the key too. A search ends without a hit if the host
+    // deletes what it stands on.
     /// The label must equal the text as well, if there is one.
     bool ItemDataMatch(HTREEITEM item, int type, int id, int const * clavis, wchar_t const * text, bool exact) const;
     bool ItemDataMatchBest(HTREEITEM item, int type, int id, int const * clavis) const;
@@ -120,8 +120,7 @@ protected:
     /// An insertion position by sort key: TVI_FIRST, TVI_LAST or an item.
     HTREEITEM FindSortPosition(HTREEITEM parent, int sortKey);
     void ExpandTreeR(HTREEITEM item, int level, int depth);
-    HTREEITEM FindItemRecursion(HTREEITEM item, int type, int id, int const * clavis, wchar_t const * text,
-                                bool exact);
+    HTREEITEM FindItemRecursion(HTREEITEM item, int type, int id, int const * clavis, wchar_t const * text, bool exact);
 
     LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     /// Sends WM_XTREECTRL_DBLCLK to the parent.

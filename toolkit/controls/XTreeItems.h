@@ -34,8 +34,8 @@ namespace xtree
 {
 using Records = std::list<XTreeItemData *>;
 
-/// A record with all defaults, but in a used one the sort key of before. It comes from the stock if that has one, and is
-/// in use afterwards.
+/// A record with all defaults, but in a used one the sort key of before. It comes from the stock if that has one, and
+/// is in use afterwards.
 INSTRUMENT_UI_API XTreeItemData * TakeRecord(Records & inUse, Records & stock);
 /// Moves the record behind the end of the stock; one that is not in use stays where it is. Looks through all in use.
 INSTRUMENT_UI_API void ReturnRecord(Records & inUse, Records & stock, XTreeItemData const * record);
@@ -68,9 +68,8 @@ template <class Item> struct Position
 
 /// Tree: Item, First(parent), Next(item), Record(item). A null parent stands for `root`, the first item of the top
 /// level: it is its children that are looked at then, which is meant.
-template <class Tree>
-Position<typename Tree::Item> FindSortPosition(Tree & tree, typename Tree::Item parent, typename Tree::Item root,
-                                               int sortKey)
+template <class Tree> Position<typename Tree::Item> FindSortPosition(Tree & tree, typename Tree::Item parent,
+                                                                     typename Tree::Item root, int sortKey)
 {
     using Item = typename Tree::Item;
     using Found = Position<Item>;

@@ -1,0 +1,443 @@
+// The id-name multiselect: control, list and dialog.
+
+#include "controls_MultiselectTest.h"
+
+#include "GdiHandleCount.h"
+#include "Input.h"
+#include "Pump.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <random>
+
+namespace
+{
+using Ids = std::set<int>;
+using Map = std::map<int, CString>;
+using Texts = std::vector<CString>;
+using Numbers = std::vector<int>;
+using Events = std::vector<tests::MultiselectParent::Event>;
+
+constexpr int select_all = 32803;
+constexpr int select_none = 32804;
+constexpr int cancel = 32805;
+constexpr int ok = 32806;
+
+Map const letters{{1, L"d"}, {2, L"b"}, {3, L"c"}, {4, L"a"}};
+
+class Multiselect : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        m_control = std::make_unique<tests::TestMultiselect>();
+        // As a dialog template makes it; styles of one that is created before it has a window don't last here.
+        HWND const plain = ::CreateWindowExW(0, L"BUTTON", L"", WS_CHILD | WS_VISIBLE, 10, 10, 202, 140,
+                                             m_parent.m_hWnd, reinterpret_cast<HMENU>(5), nullptr, nullptr);
+        ASSERT_TRUE(m_control->SubclassWindow(plain));
+    }
+    void Show(Map const & map, Ids const & selection)
+    {
+        m_control->SetTheMap(map);
+        m_control->SetSelection(selection);
+        m_control->RedrawWindow();
+        if (m_control->m_controlsCreated)
+            m_control->RefreshContent();
+    }
+    tests::MultiselectParts Parts() const { return tests::MultiselectParts(m_control->m_hWnd); }
+    Events TakeEvents()
+    {
+        tests::PumpPosted();
+        return std::exchange(m_parent.events, {});
+    }
+
+    tests::MultiselectParent m_parent;
+    std::unique_ptr<tests::TestMultiselect> m_control;
+};
+
+/// The dialog, with what is done in it given as actions.
+class MultiselectDialog : public testing::Test
+{
+protected:
+    INT_PTR Run(CIdNameMultiselectDlg & dialog, std::function<void(tests::MultiselectParts const &)> action)
+    {
+        tests::LaterActions later;
+        later.Add([&] { action(tests::MultiselectParts(dialog.m_control.m_hWnd)); },
+                  [&] {
+                      return dialog.m_hWnd != nullptr && dialog.IsWindowVisible() &&
+                             dialog.m_control.m_hWnd != nullptr &&
+                             tests::MultiselectParts(dialog.m_control.m_hWnd).Part(ok) != nullptr;
+                  });
+        INT_PTR const result = dialog.DoModal();
+        EXPECT_FALSE(later.Failed());
+        return result;
+    }
+    tests::ScopedWindow m_owner;
+};
+} // namespace
+
+TEST_F(Multiselect, HasTheDefaultsAndHandlersOfItsKind)
+{
+    tests::TestMultiselect fresh;
+    EXPECT_TRUE(fresh.IsKindOf(RUNTIME_CLASS(CButton)));
+    EXPECT_STREQ(fresh.GetRuntimeClass()->m_lpszClassName, "CIdNameMultiselectCtrl");
+    EXPECT_STREQ(RUNTIME_CLASS(CIdNameMultiselectListCtlr)->m_lpszClassName, "CIdNameMultiselectListCtlr");
+    EXPECT_STREQ(RUNTIME_CLASS(CIdNameMultiselectDlg)->m_lpszClassName, "CIdNameMultiselectDlg");
+    EXPECT_TRUE(fresh.TheMap().empty());
+    EXPECT_TRUE(fresh.TheSelection().empty());
+    EXPECT_FALSE(fresh.SelectionRetrieved());
+    EXPECT_FALSE(fresh.m_okCancel);
+    EXPECT_TRUE(fresh.m_grouped);
+    EXPECT_FALSE(fresh.m_sorted);
+    EXPECT_FALSE(fresh.m_showIds);
+    EXPECT_TRUE(fresh.m_emptyMapMessage.IsEmpty());
+    EXPECT_FALSE(fresh.m_controlsCreated);
+
+    AFX_MSGMAP_ENTRY const * entry = tests::TestMultiselect::GetThisMessageMap()->lpEntries;
+    EXPECT_EQ((entry++)->nMessage, static_cast<UINT>(WM_SIZE));
+    EXPECT_EQ((entry++)->nMessage, static_cast<UINT>(WM_DESTROY));
+    for (UINT const id : {32803u, 32804u, 32805u, 32806u})
+    {
+        EXPECT_EQ(entry->nMessage, static_cast<UINT>(WM_COMMAND));
+        EXPECT_EQ((entry++)->nID, id);
+    }
+    EXPECT_EQ((entry++)->nMessage, 32802u);
+    EXPECT_EQ(entry->nMessage, 0u);
+}
+
+TEST_F(Multiselect, IsAnOwnerDrawnButtonWithAStaticEdge)
+{
+    EXPECT_EQ(m_control->GetStyle() & BS_TYPEMASK, static_cast<DWORD>(BS_OWNERDRAW));
+    EXPECT_NE(m_control->GetExStyle() & WS_EX_STATICEDGE, 0u);
+}
+
+TEST_F(Multiselect, MakesItsPartsAtTheFirstPaintOrSize)
+{
+    HWND const plain =
+        ::CreateWindowExW(0, L"BUTTON", L"", WS_CHILD, 0, 160, 120, 90, m_parent.m_hWnd, nullptr, nullptr, nullptr);
+    tests::TestMultiselect bound;
+    bound.SubclassWindow(plain);
+    EXPECT_FALSE(bound.m_controlsCreated) << "neither painted nor sized";
+    bound.MoveWindow(0, 160, 130, 90);
+    EXPECT_TRUE(bound.m_controlsCreated);
+    bound.DestroyWindow();
+    bound.SubclassWindow(::CreateWindowExW(0, L"BUTTON", L"", WS_CHILD | WS_VISIBLE, 0, 160, 120, 90, m_parent.m_hWnd,
+                                           nullptr, nullptr, nullptr));
+    EXPECT_FALSE(bound.m_controlsCreated);
+    bound.RedrawWindow();
+    EXPECT_TRUE(bound.m_controlsCreated);
+    bound.DestroyWindow();
+    m_control->RedrawWindow();
+    EXPECT_TRUE(m_control->m_controlsCreated);
+    EXPECT_EQ(m_control->m_list.GetStyle() & 0x50004003u, 0x50004003u);
+    EXPECT_EQ(m_control->m_list.GetExtendedStyle() & 0x144u, 0x144u);
+    EXPECT_EQ(m_control->m_list.GetDlgCtrlID(), 32802);
+    HWND const button = Parts().Part(select_all);
+    EXPECT_EQ(::GetWindowLongW(button, GWL_STYLE) & 0x50000040, 0x50000040);
+    EXPECT_NE(::SendMessageW(button, BM_GETIMAGE, IMAGE_ICON, 0), 0);
+    wchar_t text[30] = {};
+    ::GetWindowTextW(button, text, 30);
+    EXPECT_STREQ(text, L"Alle w\u00e4hlen");
+    ::GetWindowTextW(Parts().Part(select_none), text, 30);
+    EXPECT_STREQ(text, L"Alle abw\u00e4hlen");
+    EXPECT_FALSE(::GetWindowLongW(Parts().Part(ok), GWL_STYLE) & WS_VISIBLE);
+    EXPECT_FALSE(::GetWindowLongW(Parts().Part(cancel), GWL_STYLE) & WS_VISIBLE);
+    EXPECT_EQ(m_control->m_toolTip.GetToolCount(), 4);
+}
+
+TEST_F(Multiselect, SizesItsPartsOnePixelWithinTheClientArea)
+{
+    m_control->MoveWindow(0, 0, 122, 92); // 120 by 90 within the static edge
+    CRect client;
+    m_control->GetClientRect(&client);
+    ASSERT_EQ(client.Size(), CSize(120, 90)) << client.Width() << " by " << client.Height();
+    EXPECT_EQ(Parts().Place(32802), CRect(1, 1, 119, 67));
+    EXPECT_EQ(Parts().Place(select_all), CRect(1, 68, 59, 89));
+    EXPECT_EQ(Parts().Place(select_none), CRect(59, 68, 119, 89));
+    m_control->EnableOkCancel();
+    m_control->MoveWindow(0, 0, 123, 92);
+    EXPECT_EQ(Parts().Place(select_all), CRect(1, 68, 39, 89));
+    EXPECT_EQ(Parts().Place(select_none), CRect(39, 68, 82, 89));
+    EXPECT_EQ(Parts().Place(cancel), CRect(82, 68, 101, 89));
+    EXPECT_EQ(Parts().Place(ok), CRect(101, 68, 120, 89));
+    EXPECT_TRUE(::IsWindowVisible(Parts().Part(ok)));
+}
+
+TEST_F(Multiselect, AnEmptyMapShowsOneRowWhoseTickIsNoSelection)
+{
+    Show({}, {7});
+    ASSERT_EQ(Parts().Rows(), 1);
+    EXPECT_EQ(Parts().Id(0), -1);
+    EXPECT_EQ(Parts().Text(0), L"(keine Eintr\u00e4ge)");
+    TakeEvents();
+    Parts().PressAt(Parts().RowRect(0, LVIR_LABEL).CenterPoint());
+    EXPECT_TRUE(Parts().IsTicked(0));
+    EXPECT_EQ(TakeEvents(), (Events{{6, -1}}));
+    m_control->RetrieveSelection();
+    EXPECT_TRUE(m_control->TheSelection().empty());
+    m_control->SetEmptyMapMessage(L"nothing");
+    m_control->RefreshContent();
+    EXPECT_EQ(Parts().Texts(), (Texts{L"nothing"}));
+}
+
+TEST_F(Multiselect, AllRowsTickedAndOkGiveAllIdsAndMinusOne)
+{
+    m_control->EnableOkCancel();
+    Show(letters, {1});
+    for (int row = 0; row < 4; ++row)
+        Parts().Tick(row, true);
+    Parts().Command(ok);
+    EXPECT_EQ(m_control->TheSelection(), (Ids{-1, 1, 2, 3, 4}));
+    EXPECT_TRUE(m_control->SelectionRetrieved());
+    EXPECT_EQ(TakeEvents(), (Events{{1, 0}}));
+    Parts().Tick(1, false);
+    int const unticked = Parts().Id(1);
+    Parts().Command(ok);
+    Ids expected{1, 2, 3, 4};
+    expected.erase(unticked);
+    EXPECT_EQ(m_control->TheSelection(), expected);
+}
+
+TEST_F(Multiselect, CancelTellsAndLeavesTheSelection)
+{
+    m_control->EnableOkCancel();
+    Show(letters, {1});
+    Parts().Tick(3, true);
+    Parts().Command(cancel);
+    EXPECT_EQ(TakeEvents(), (Events{{2, 0}}));
+    EXPECT_EQ(m_control->TheSelection(), (Ids{1}));
+    EXPECT_FALSE(m_control->SelectionRetrieved());
+}
+
+TEST_F(Multiselect, SelectionOfAllTicksAllRowsInMapOrder)
+{
+    Show(letters, {3});
+    EXPECT_EQ(Parts().Texts(), (Texts{L"c", L"d", L"b", L"a"})) << "grouped";
+    m_control->SetSelectionAll();
+    EXPECT_EQ(m_control->TheSelection(), (Ids{-1}));
+    m_control->RefreshContent();
+    EXPECT_EQ(Parts().Texts(), (Texts{L"d", L"b", L"c", L"a"}));
+    EXPECT_EQ(Parts().Ticked(), (Numbers{1, 2, 3, 4}));
+    m_control->SetSelectionNone();
+    EXPECT_TRUE(m_control->TheSelection().empty());
+    EXPECT_EQ(Parts().Ticked().size(), 4u) << "setters don't touch the list";
+    m_control->RefreshSelection();
+    EXPECT_TRUE(Parts().Ticked().empty());
+}
+
+TEST_F(Multiselect, GroupsAreSortedEachForItself)
+{
+    m_control->SortAlphabetically(true);
+    Show(letters, {1, 3});
+    EXPECT_EQ(Parts().Texts(), (Texts{L"c", L"d", L"a", L"b"}));
+    m_control->ShowGroupedSelection(false);
+    m_control->RefreshContent();
+    EXPECT_EQ(Parts().Texts(), (Texts{L"a", L"b", L"c", L"d"}));
+    EXPECT_EQ(Parts().Ticked(), (Numbers{3, 1}));
+    m_control->ItemEintragen(9, L"bb", 0);
+    EXPECT_EQ(Parts().Texts(), (Texts{L"a", L"b", L"bb", L"c", L"d"}));
+}
+
+TEST_F(Multiselect, ShownIdsKeepTheOrderOfIds)
+{
+    m_control->ShowIds(true);
+    m_control->SortAlphabetically(true);
+    Show(letters, {});
+    EXPECT_EQ(Parts().Texts(), (Texts{L"1: d", L"2: b", L"3: c", L"4: a"}));
+}
+
+TEST_F(Multiselect, AddedItemsKeepTheNameThatIsThere)
+{
+    m_control->AddItem(3, L"three");
+    m_control->AddItem(3, L"drei");
+    EXPECT_EQ(m_control->GetName(3), L"three");
+    EXPECT_EQ(m_control->GetName(4), L"");
+    EXPECT_EQ(&m_control->GetName(4), &m_control->GetName(5)) << "one empty text for all";
+    m_control->ResetTheMap();
+    EXPECT_TRUE(m_control->TheMap().empty());
+    m_control->SetSelection(8);
+    EXPECT_EQ(m_control->TheSelection(), (Ids{8}));
+}
+
+TEST_F(Multiselect, TheButtonsForAllAndNoneActOnTheSelectionAtOnce)
+{
+    Show(letters, {2});
+    Parts().Command(select_all);
+    EXPECT_EQ(m_control->TheSelection(), (Ids{-1, 1, 2, 3, 4}));
+    EXPECT_EQ(Parts().Ticked().size(), 4u);
+    EXPECT_FALSE(m_control->SelectionRetrieved());
+    Parts().Command(select_none);
+    EXPECT_TRUE(m_control->TheSelection().empty());
+    EXPECT_TRUE(Parts().Ticked().empty());
+    EXPECT_TRUE(TakeEvents().empty());
+}
+
+TEST_F(Multiselect, APressOnTheTextTicksAndOneBesideAllRowsDoesNothing)
+{
+    Show(letters, {});
+    TakeEvents();
+    Parts().PressAt(Parts().RowRect(1, LVIR_LABEL).CenterPoint());
+    EXPECT_EQ(Parts().Ticked(), (Numbers{2}));
+    EXPECT_EQ(TakeEvents(), (Events{{6, 2}}));
+    Parts().PressAt(Parts().RowRect(1, LVIR_LABEL).CenterPoint());
+    EXPECT_TRUE(Parts().Ticked().empty());
+    EXPECT_EQ(TakeEvents(), (Events{{6, 2}}));
+    CRect const last = Parts().RowRect(3, LVIR_BOUNDS);
+    Parts().PressAt(CPoint(last.left + 5, last.bottom + 10));
+    EXPECT_TRUE(TakeEvents().empty());
+    EXPECT_TRUE(Parts().Ticked().empty());
+}
+
+TEST_F(Multiselect, AClickOnTheCheckBoxTicksOnce)
+{
+    Show(letters, {});
+    tests::BringToFront(m_parent.m_hWnd);
+    TakeEvents();
+    CRect const row = Parts().RowRect(2, LVIR_BOUNDS);
+    CRect const label = Parts().RowRect(2, LVIR_LABEL);
+    CPoint const box(row.left + (label.left - row.left) / 2, row.CenterPoint().y);
+    tests::Click(tests::ClientPoint(Parts().Part(32802), box));
+    ASSERT_TRUE(tests::PumpUntil([&] { return !m_parent.events.empty(); }));
+    EXPECT_EQ(Parts().Ticked(), (Numbers{3}));
+    EXPECT_EQ(TakeEvents(), (Events{{6, 3}}));
+}
+
+TEST_F(Multiselect, DataOutlivesTheWindowAndTheControlCanBeShownAgain)
+{
+    Show(letters, {2});
+    for (int i = 0; i < 3; ++i)
+    {
+        m_control->DestroyWindow();
+        EXPECT_FALSE(m_control->m_controlsCreated);
+        EXPECT_EQ(m_control->m_toolTip.m_hWnd, nullptr);
+        m_control->RefreshContent();
+        m_control->RetrieveSelection();
+        EXPECT_EQ(m_control->TheSelection(), (Ids{2})) << "nothing to read";
+        ASSERT_TRUE(m_control->Create(L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 200, 150), m_parent, 5));
+        m_control->RedrawWindow();
+        EXPECT_EQ(Parts().Ticked(), (Numbers{2}));
+    }
+}
+
+TEST_F(Multiselect, TenThousandIdsAreReadBackExactly)
+{
+    std::mt19937 random(3);
+    Map map;
+    while (map.size() < 10000)
+    {
+        int const id = static_cast<int>(random() % 1000000);
+        map[id].Format(L"name %d", static_cast<int>(random() % 100));
+    }
+    Ids selection;
+    for (auto const & item : map)
+    {
+        if (random() % 2 == 0)
+            selection.insert(item.first);
+    }
+    m_control->SortAlphabetically(true);
+    Show(map, selection);
+    m_control->SetSelectionNone();
+    m_control->RetrieveSelection();
+    EXPECT_EQ(m_control->TheSelection(), selection);
+    Parts().Command(select_all);
+    m_control->RetrieveSelection();
+    EXPECT_EQ(m_control->TheSelection().size(), map.size() + 1);
+}
+
+TEST_F(Multiselect, LeavesNoGdiObjectsAndNoWindows)
+{
+    auto const open = [&] {
+        tests::TestMultiselect control;
+        control.EnableOkCancel();
+        control.SetTheMap(letters);
+        control.Create(L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 200, 150), m_parent, 9);
+        control.RedrawWindow();
+        control.RedrawWindow();
+    };
+    EXPECT_EQ(tests::GdiGrowth(open, 30, 3), 0);
+}
+
+TEST_F(MultiselectDialog, OpensWhereItIsToldWithOkAndCancel)
+{
+    CIdNameMultiselectDlg dialog(&m_owner);
+    EXPECT_TRUE(dialog.m_placement.IsRectNull());
+    dialog.m_placement = CRect(150, 160, 400, 400);
+    dialog.m_control.SetTheMap(letters);
+    HINSTANCE const resources = AfxGetResourceHandle();
+    EXPECT_EQ(Run(dialog,
+                  [&](tests::MultiselectParts const & parts) {
+                      CRect rect;
+                      dialog.GetWindowRect(&rect);
+                      EXPECT_EQ(rect, CRect(150, 160, 400, 400));
+                      CRect client;
+                      dialog.GetClientRect(&client);
+                      CRect control;
+                      dialog.m_control.GetWindowRect(&control);
+                      dialog.ScreenToClient(&control);
+                      EXPECT_EQ(control, client);
+                      EXPECT_TRUE(::IsWindowVisible(parts.Part(ok)));
+                      EXPECT_NE(AfxGetResourceHandle(), resources);
+                      parts.Command(cancel);
+                  }),
+              IDCANCEL);
+    EXPECT_EQ(AfxGetResourceHandle(), resources);
+}
+
+TEST_F(MultiselectDialog, OkReadsTheTicksAndASecondReadIsSkipped)
+{
+    CIdNameMultiselectDlg dialog(&m_owner);
+    dialog.m_placement = CRect(150, 160, 400, 400);
+    dialog.m_control.SetTheMap(letters);
+    EXPECT_EQ(Run(dialog,
+                  [&](tests::MultiselectParts const & parts) {
+                      parts.Tick(0, true);
+                      parts.Command(ok);
+                      parts.Tick(1, true); // behind the first read
+                  }),
+              IDOK);
+    EXPECT_EQ(dialog.m_control.TheSelection(), (Ids{1}));
+    // And once more, with the Return key instead of the button.
+    EXPECT_EQ(Run(dialog,
+                  [&](tests::MultiselectParts const & parts) {
+                      EXPECT_EQ(parts.Ticked(), (Numbers{1}));
+                      parts.Tick(1, true);
+                      dialog.PostMessage(WM_COMMAND, IDOK);
+                  }),
+              IDOK);
+    EXPECT_EQ(dialog.m_control.TheSelection(), (Ids{1, 2}));
+}
+
+TEST_F(MultiselectDialog, BelowALeastSizeTheControlStaysAsItIs)
+{
+    CIdNameMultiselectDlg dialog(&m_owner);
+    dialog.m_placement = CRect(150, 160, 400, 400);
+    Run(dialog, [&](tests::MultiselectParts const &) {
+        auto const sizeOf = [](CWnd & window) {
+            CRect rect;
+            window.GetWindowRect(&rect);
+            return rect.Size();
+        };
+        CRect frame(0, 0, 0, 0);
+        ::AdjustWindowRectEx(&frame, dialog.GetStyle(), FALSE, dialog.GetExStyle());
+        auto const setClient = [&](int width, int height) {
+            dialog.SetWindowPos(nullptr, 0, 0, width + frame.Width(), height + frame.Height(),
+                                SWP_NOMOVE | SWP_NOZORDER);
+            CRect client;
+            dialog.GetClientRect(&client);
+            return client.Size();
+        };
+        CSize const before = sizeOf(dialog.m_control);
+        CSize const narrow = setClient(99, 200);
+        if (narrow.cx < 100)
+        {
+            EXPECT_EQ(sizeOf(dialog.m_control), before);
+        }
+        CSize const low = setClient(200, 69);
+        EXPECT_EQ(low, CSize(200, 69));
+        EXPECT_EQ(sizeOf(dialog.m_control), narrow.cx < 100 ? before : CSize(narrow));
+        EXPECT_EQ(setClient(200, 70), CSize(200, 70));
+        EXPECT_EQ(sizeOf(dialog.m_control), CSize(200, 70));
+        dialog.PostMessage(WM_COMMAND, IDCANCEL);
+    });
+}
