@@ -176,8 +176,19 @@ BOOL CRecordingList::OnTitleClick(NMHDR * header, LRESULT * result)
 
 BOOL CRecordingList::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT * result)
 {
+    bool const begins = message == WM_NOTIFY && reinterpret_cast<NMHDR *>(lParam)->code == LVN_BEGINDRAG;
+    if (begins && IsEditing())
+    {
+        // A press beside an editor ends it and drags nothing: the rows would change places under it.
+        EndEditing();
+        if (result != nullptr)
+        {
+            *result = 0;
+        }
+        return TRUE;
+    }
     auto const handled = CXListCtrl::OnChildNotify(message, wParam, lParam, result);
-    if (message == WM_NOTIFY && reinterpret_cast<NMHDR *>(lParam)->code == LVN_BEGINDRAG)
+    if (begins)
     {
         m_draggingRow = true;
     }

@@ -257,8 +257,14 @@ TEST_F(ComboDropWindow, CaptureWandersWithThePointer)
     ASSERT_TRUE(Open());
     HWND const drop = m_combo->GetDropWnd()->m_hWnd;
     auto const captureAt = [](CPoint point, HWND expected) {
-        tests::MoveMouse(point);
-        return tests::PumpUntil([&] { return ::GetCapture() == expected; });
+        // A pixel apart, so that each attempt is a move.
+        for (int attempt = 0; attempt < 30; ++attempt)
+        {
+            tests::MoveMouse(CPoint(point.x + attempt % 2, point.y));
+            if (tests::PumpUntil([&] { return ::GetCapture() == expected; }, std::chrono::milliseconds(2000)))
+                return true;
+        }
+        return false;
     };
     CRect const rect = DropRect();
     EXPECT_TRUE(captureAt(RowPoint(2), List().m_hWnd));

@@ -161,12 +161,16 @@ int CDropListBox::SetTopIdx(int index, bool update)
 
 int CDropListBox::AddListItem(combo_item const & item)
 {
-    auto copy = std::make_unique<combo_item>(item);
+    m_copies.push_back(std::make_unique<combo_item>(item));
+    return AddEntry(*m_copies.back());
+}
+
+int CDropListBox::AddEntry(combo_item const & item)
+{
     // Straight to the native list, since this is done for every item.
     LRESULT const index = CListBox::DefWindowProc(LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(item.text.c_str()));
-    auto const data = reinterpret_cast<LPARAM>(copy.get());
-    if (index >= 0 && CListBox::DefWindowProc(LB_SETITEMDATA, static_cast<WPARAM>(index), data) != LB_ERR)
-        copy.release();
+    if (index >= 0)
+        CListBox::DefWindowProc(LB_SETITEMDATA, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&item));
     return static_cast<int>(index);
 }
 
@@ -176,7 +180,7 @@ void CDropListBox::AddListItems(std::list<combo_item> const & items)
     SetRedraw(FALSE);
     InitStorage(static_cast<int>(items.size()), static_cast<UINT>(items.size() * average_bytes));
     for (combo_item const & item : items)
-        AddListItem(item);
+        AddEntry(item);
     SetRedraw(TRUE);
 }
 
@@ -306,15 +310,11 @@ BOOL CDropListBox::DestroyWindow()
 
 void CDropListBox::DeleteItems()
 {
-    if (m_hWnd == nullptr)
-        return;
-    int const count = GetCount();
-    for (int index = 0; index < count; ++index)
-        delete GetItem(index);
-    if (count > 0)
+    if (m_hWnd != nullptr && GetCount() > 0)
     {
         SetRedraw(FALSE);
         ResetContent();
     }
+    m_copies.clear();
 }
 } // namespace XListCtrl

@@ -4,6 +4,7 @@
 
 #include <list>
 #include <memory>
+#include <vector>
 
 #include "frame/LifeWatch.h"
 #include "list/combo/ComboItems.h"
@@ -14,7 +15,7 @@ class CAdvComboBox;
 class CDropScrollBar;
 
 /// The list of a drop window. It selects what the pointer is over, and steps over disabled items. Each entry's item
-/// data is a copy of its combo_item, which the list owns. Internal to the module.
+/// data is its combo_item: the drop window's own, or a copy that the list owns. Internal to the module.
 class CDropListBox : public CListBox
 {
 public:
@@ -31,9 +32,9 @@ public:
     int SetCurSel(int index);
     /// update: the scroll bar follows.
     int SetTopIdx(int index, bool update);
-    /// The new entry's index.
+    /// The new entry's index. The entry has a copy of the item.
     int AddListItem(combo_item const & item);
-    /// All items at once, without painting in between.
+    /// All items at once, without painting in between. They are not copied and must last as long as the list's window.
     void AddListItems(std::list<combo_item> const & items);
     /// In pixels, with the extra of the combo's flags; false if it could not be measured.
     bool GetTextSize(wchar_t const * text, int length, CSize & size);
@@ -67,11 +68,14 @@ protected:
     BOOL m_allowDisabled = FALSE;
 
 private:
+    /// The entry's data is the item itself.
+    int AddEntry(combo_item const & item);
     int RowAt(CPoint point) const;
     bool IsOutside(CPoint point) const;
     void HandCaptureToParent();
     void DeleteItems();
 
+    std::vector<std::unique_ptr<combo_item>> m_copies;
     LifeSign m_life;
 };
 } // namespace XListCtrl
