@@ -270,5 +270,4 @@ FRAMEWORK_API void AFXAPI AfxFormatString2(CString & rString, UINT nIDS, LPCTSTR
 FRAMEWORK_API BOOL AFXAPI AfxExtractSubString(CString & rString, LPCTSTR lpszFullString, int iSubString,
                                               TCHAR chSep = '\n');
 
-#include "FileStatus.h"
 #include "afxexcept.h"

@@ -3,6 +3,7 @@
 
 #include <afxwin.h>
 
+#include "FileStatus.h"
 #include <commdlg.h>
 
 class FRAMEWORK_API CCommonDialog : public CDialog
