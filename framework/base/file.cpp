@@ -1,4 +1,5 @@
 #include "afx.h"
+#include "FileStatus.h"
 
 #if defined(_WIN32)
 
