@@ -1,5 +1,5 @@
 #pragma once
-// What is known of a file without opening it. Included by afx.h.
+// What is known of a file without opening it. Included by afxdlgs.h.
 
 #if defined(_WIN32)
 
