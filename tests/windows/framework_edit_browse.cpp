@@ -5,6 +5,7 @@
 #include "Pump.h"
 #include "ScopedWindow.h"
 
+#include <afxdlgs.h>
 #include <afxeditbrowsectrl.h>
 
 #include <gtest/gtest.h>
