@@ -94,10 +94,10 @@ private:
     HWND DialogWindow() const;
 
     OPENFILENAME m_openFile;
-    CString m_filter;         // with null characters between its parts
+    CString m_filter; // with null characters between its parts
     CString m_defaultExtension;
     CString m_templateName;
-    LPTSTR m_buffer;          // receives the names
+    LPTSTR m_buffer; // receives the names
     TCHAR m_fileTitle[MAX_PATH];
     BOOL m_open;
     BOOL m_pickFolders = FALSE;

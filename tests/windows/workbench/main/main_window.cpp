@@ -558,6 +558,27 @@ TEST_F(WorkbenchRecordingNotes, ARatingIsChosenInTheDropDownAndStored)
     EXPECT_TRUE(tests::PumpUntil([this] { return List().NotesOf(3).rating == 1; }));
 }
 
+TEST_F(WorkbenchRecordingNotes, NoRowIsDraggedUnderAnOpenRating)
+{
+    Show(5);
+    ClickCell(1, CRecordingList::column_rating);
+    ASSERT_TRUE(tests::PumpUntil([] { return VisibleDropList() != nullptr; }));
+    // As the native list tells it when a press beside the editor becomes a drag.
+    NMLISTVIEW drag{};
+    drag.hdr = {List().m_hWnd, static_cast<UINT_PTR>(List().GetDlgCtrlID()), LVN_BEGINDRAG};
+    drag.iItem = 1;
+    List().GetParent()->SendMessage(WM_NOTIFY, drag.hdr.idFrom, reinterpret_cast<LPARAM>(&drag));
+    EXPECT_FALSE(List().IsEditing());
+    CPoint const below = List().CellCentre(3, CRecordingList::column_comment);
+    List().SendMessage(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(below.x, below.y));
+    List().SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(below.x, below.y));
+    for (int line = 0; line < 5; ++line)
+    {
+        EXPECT_EQ(List().PlaceOf(line), line);
+    }
+    EXPECT_EQ(List().NotesOf(1).rating, 0);
+}
+
 TEST_F(WorkbenchRecordingNotes, MarksAndTheReferenceLastToo)
 {
     Show(5);
