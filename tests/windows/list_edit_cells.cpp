@@ -323,6 +323,42 @@ TEST_F(ListEditCells, AHostMayEndTheListWhenItHearsOfTheEnd)
     EXPECT_EQ(::GetCapture(), nullptr);
 }
 
+/// Ends with its list when it hears that an edit has ended.
+class EndingDialog : public tests::ListDialog
+{
+public:
+    int m_ends = 0;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message == WM_XLISTCTRL_EDIT_END)
+        {
+            ++m_ends;
+            DestroyWindow();
+            return 0;
+        }
+        return ListDialog::WindowProc(message, wParam, lParam);
+    }
+};
+
+TEST_F(ListEditCells, AHostMayDestroyTheDialogWhenItHearsOfTheEnd)
+{
+    EndingDialog dialog;
+    ASSERT_TRUE(dialog.Open());
+    dialog.list.AddColumns(2);
+    dialog.list.AddRows(2);
+    dialog.list.DrawEditControl(1, 1);
+    HWND const edit = tests::OpenEditOf(dialog.list);
+    ASSERT_NE(edit, nullptr);
+    SetText(edit, L"typed");
+    ::PostMessageW(edit, WM_KEYDOWN, VK_RETURN, 0);
+    EXPECT_TRUE(tests::PumpUntil([&] { return dialog.m_hWnd == nullptr; }));
+    EXPECT_EQ(dialog.m_ends, 1);
+    EXPECT_FALSE(::IsWindow(edit));
+    EXPECT_EQ(::GetCapture(), nullptr);
+}
+
 TEST_F(ListEditCells, AHostMayDeleteTheListWhenAPressEndsTheEdit)
 {
     for (UINT const press : {WM_LBUTTONDOWN, WM_RBUTTONDOWN})
