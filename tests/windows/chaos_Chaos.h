@@ -15,6 +15,7 @@
 #include "Pump.h"
 #include "ScopedWindow.h"
 #include "TestApp.h"
+#include "ThreadWindows.h"
 
 namespace chaos
 {
@@ -90,19 +91,6 @@ private:
     char const * m_last = "";
 };
 
-inline int ThreadWindows()
-{
-    int count = 0;
-    ::EnumThreadWindows(
-        ::GetCurrentThreadId(),
-        [](HWND, LPARAM counter) {
-            ++*reinterpret_cast<int *>(counter);
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&count));
-    return count;
-}
-
 /// Runs the worlds of all seeds, each made anew, on a guarded heap; windows and GDI objects must be what they were, but
 /// for those that the system keeps: fonts of menus and captions.
 template <typename World> void RunAll()
@@ -112,7 +100,7 @@ template <typename World> void RunAll()
         World(99).Run(100, heap); // what is made once and stays
     }
     tests::PumpPosted();
-    int const windows = ThreadWindows();
+    int const windows = tests::ThreadWindows();
     int const gdiObjects = tests::GdiHandleCount();
     int steps = 0;
     for (unsigned int const seed : seeds)
@@ -126,7 +114,7 @@ template <typename World> void RunAll()
         }
         tests::PumpPosted();
         EXPECT_EQ(heap.Check(), 0u);
-        EXPECT_EQ(ThreadWindows(), windows);
+        EXPECT_EQ(tests::ThreadWindows(), windows);
         if (testing::Test::HasFailure())
             return;
     }

@@ -77,7 +77,7 @@ protected:
                 EXPECT_EQ(combo->m_edit, nullptr);
             }
         }
-        EXPECT_LE(chaos::ThreadWindows(), 1 + static_cast<int>(m_combos.size()) + s_others);
+        EXPECT_LE(tests::ThreadWindows(), 1 + static_cast<int>(m_combos.size()) + s_others);
     }
 
 private:

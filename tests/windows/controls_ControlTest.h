@@ -6,6 +6,7 @@
 #include "MessageRecorder.h"
 #include "Pump.h"
 #include "ScopedWindow.h"
+#include "ThreadWindows.h"
 
 #include <gtest/gtest.h>
 

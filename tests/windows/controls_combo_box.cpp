@@ -679,18 +679,7 @@ TEST_F(ComboBoxXHostile, ListsThatTheHostChangesMeanwhileAreReadAsTheyWere)
 
 TEST_F(ComboBoxXHostile, OpeningsLeaveNoWindowBehind)
 {
-    auto const windows = [] {
-        int count = 0;
-        ::EnumThreadWindows(
-            ::GetCurrentThreadId(),
-            [](HWND, LPARAM counter) {
-                ++*reinterpret_cast<int *>(counter);
-                return TRUE;
-            },
-            reinterpret_cast<LPARAM>(&count));
-        return count;
-    };
-    int const before = windows();
+    int const before = tests::ThreadWindows();
     for (int i = 0; i < 500; ++i)
     {
         OpenCombo one;
@@ -698,5 +687,5 @@ TEST_F(ComboBoxXHostile, OpeningsLeaveNoWindowBehind)
         if (i % 2 == 0)
             one.DestroyWindow();
     }
-    EXPECT_EQ(windows(), before);
+    EXPECT_EQ(tests::ThreadWindows(), before);
 }

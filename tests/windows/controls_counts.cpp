@@ -9,6 +9,7 @@
 #include "GdiHandleCount.h"
 #include "Pump.h"
 #include "ScopedWindow.h"
+#include "ThreadWindows.h"
 
 #include <gtest/gtest.h>
 
@@ -16,19 +17,6 @@ namespace
 {
 constexpr int openings = 500;
 constexpr int repaints = 5000;
-
-int ThreadWindows()
-{
-    int count = 0;
-    ::EnumThreadWindows(
-        ::GetCurrentThreadId(),
-        [](HWND, LPARAM counter) {
-            ++*reinterpret_cast<int *>(counter);
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&count));
-    return count;
-}
 
 BOOL Create(CColorButton & button, CWnd * parent)
 {
@@ -71,10 +59,10 @@ template <typename Control> void OpenOften()
         tests::PumpPosted();
     };
     open(20);
-    int const windows = ThreadWindows();
+    int const windows = tests::ThreadWindows();
     int const objects = tests::GdiHandleCount();
     open(openings);
-    EXPECT_EQ(ThreadWindows(), windows);
+    EXPECT_EQ(tests::ThreadWindows(), windows);
     constexpr int kept_by_the_system = 4; // fonts
     EXPECT_LE(tests::GdiHandleCount(), objects + kept_by_the_system);
 }

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "GdiHandleCount.h"
+#include "ThreadWindows.h"
 #include "dialogs_Dialog3dTest.h"
 
 using namespace dialog_tests;
@@ -57,19 +58,6 @@ class ManagerCount : public CFensterManager
 public:
     static size_t Now() { return m_managerListe.size(); }
 };
-
-int ThreadWindows()
-{
-    int count = 0;
-    ::EnumThreadWindows(
-        ::GetCurrentThreadId(),
-        [](HWND, LPARAM number) -> BOOL {
-            ++*reinterpret_cast<int *>(number);
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&count));
-    return count;
-}
 
 using Dialog3dLifecycle = DialogTest;
 /// A suite, and so a process, of its own: it takes long.
@@ -268,7 +256,7 @@ TEST_F(Dialog3dOpenings, FiveHundredObjectsLeaveNothing)
     once(IDD_FIXED);
     tests::PumpPosted();
     int const handles = tests::GdiHandleCount();
-    int const windows = ThreadWindows();
+    int const windows = tests::ThreadWindows();
     size_t const managers = ManagerCount::Now();
     for (int opening = 0; opening < 250; ++opening)
     {
@@ -277,7 +265,7 @@ TEST_F(Dialog3dOpenings, FiveHundredObjectsLeaveNothing)
     }
     tests::PumpPosted();
     EXPECT_EQ(tests::GdiHandleCount(), handles);
-    EXPECT_EQ(ThreadWindows(), windows);
+    EXPECT_EQ(tests::ThreadWindows(), windows);
     EXPECT_EQ(ManagerCount::Now(), managers);
 }
 
@@ -295,7 +283,7 @@ TEST_F(Dialog3dOpenings, OneObjectOpensFiveHundredTimes)
         dialog.DestroyWindow();
         tests::PumpPosted();
         int const handles = tests::GdiHandleCount();
-        int const windows = ThreadWindows();
+        int const windows = tests::ThreadWindows();
         for (int opening = 0; opening < 500; ++opening)
         {
             ASSERT_NE(dialog.DisplayDialog(), 0);
@@ -305,7 +293,7 @@ TEST_F(Dialog3dOpenings, OneObjectOpensFiveHundredTimes)
         }
         tests::PumpPosted();
         EXPECT_EQ(tests::GdiHandleCount(), handles);
-        EXPECT_EQ(ThreadWindows(), windows);
+        EXPECT_EQ(tests::ThreadWindows(), windows);
         EXPECT_EQ(dialog.m_inits, 501);
     }
     EXPECT_EQ(ManagerCount::Now(), managers);

@@ -67,7 +67,7 @@ void CXListCtrl::DrawEditControl(int row, int col)
     // The host hears of the scrolling, of the text asked for and of the focus.
     HeldRow held(*this, row);
     XLISTCTRLDATA const * const cell = held.Cell(col);
-    if (cell == nullptr || GetColumnWidth(col) < least_edit_column || (cell->properties & XLP_ENABLED) == 0)
+    if (cell == nullptr || (cell->properties & XLP_ENABLED) == 0 || GetColumnWidth(col) < least_edit_column)
         return;
     if (!EnsureVisible(row, TRUE) || held.Row() != row)
         return;
