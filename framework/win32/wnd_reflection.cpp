@@ -35,8 +35,10 @@ BOOL CWnd::OnCommand(WPARAM wParam, LPARAM lParam)
             return FALSE;
         EnabledTest test;
         test.m_nID = id;
+        HWND const window = m_hWnd;
         OnCmdMsg(id, static_cast<int>(CN_UPDATE_COMMAND_UI), &test, nullptr);
-        if (!test.m_enabled)
+        // Who was asked may have ended this window.
+        if (!test.m_enabled || (window != nullptr && FromHandlePermanent(window) != this))
             return TRUE;
         return OnCmdMsg(id, CN_COMMAND, nullptr, nullptr);
     }

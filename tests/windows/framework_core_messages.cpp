@@ -342,6 +342,36 @@ TEST_F(CoreMessages, UpdateHandlerMayPassTheItemOn)
     EXPECT_FALSE(target.OnCmdMsg(idBaseOnly, static_cast<int>(CN_UPDATE_COMMAND_UI), &ui, nullptr));
 }
 
+namespace
+{
+/// Ends its window when asked whether the command may run.
+class EndsWhenAsked : public tests::ScopedWindow
+{
+public:
+    EndsWhenAsked() : ScopedWindow(CRect(0, 0, 100, 100), WS_OVERLAPPED) {}
+
+    int m_commands = 0;
+
+protected:
+    BOOL OnCmdMsg(UINT id, int code, void * extra, AFX_CMDHANDLERINFO * info) override
+    {
+        if (code == static_cast<int>(CN_UPDATE_COMMAND_UI))
+            DestroyWindow();
+        else
+            ++m_commands;
+        return CWnd::OnCmdMsg(id, code, extra, info);
+    }
+};
+} // namespace
+
+TEST(CoreCommands, AWindowThatEndsWhenAskedGetsNoCommand)
+{
+    EndsWhenAsked window;
+    ::SendMessage(window.m_hWnd, WM_COMMAND, idPlain, 0);
+    EXPECT_EQ(window.m_hWnd, nullptr);
+    EXPECT_EQ(window.m_commands, 0);
+}
+
 // Menu and window items
 
 TEST(CoreCmdUi, MenuItemIsDisabledCheckedAndRenamed)
