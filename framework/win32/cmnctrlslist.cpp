@@ -158,7 +158,8 @@ BOOL CListCtrl::SetItem(int nItem, int nSubItem, UINT nMask, LPCTSTR lpszItem, i
 
 BOOL CListCtrl::GetCheck(int nItem) const
 {
-    return GetItemState(nItem, LVIS_STATEIMAGEMASK) >> StateImageShift >= CheckedImage;
+    UINT const image = GetItemState(nItem, LVIS_STATEIMAGEMASK) >> StateImageShift;
+    return image >= CheckedImage ? static_cast<BOOL>(image - UncheckedImage) : FALSE;
 }
 
 BOOL CListCtrl::SetCheck(int nItem, BOOL fCheck)

@@ -151,12 +151,12 @@ std::vector<IconFrame> ReadIconGroup(HMODULE module, int id, WORD language)
     return frames;
 }
 
-DialogTemplate ParseDialogTemplate(Bytes const & bytes)
+StoredDialog ParseDialogTemplate(Bytes const & bytes)
 {
     constexpr WORD EXTENDED_VERSION = 1;
     constexpr WORD EXTENDED_SIGNATURE = 0xFFFF;
 
-    DialogTemplate result;
+    StoredDialog result;
     Cursor cursor(bytes);
     EXPECT_EQ(cursor.Take<WORD>(), EXTENDED_VERSION);
     EXPECT_EQ(cursor.Take<WORD>(), EXTENDED_SIGNATURE);

@@ -47,7 +47,7 @@ struct DialogItem
     std::wstring text;
 };
 
-struct DialogTemplate
+struct StoredDialog
 {
     DWORD style = 0;
     DWORD exStyle = 0;
@@ -59,7 +59,7 @@ struct DialogTemplate
 };
 
 /// An extended dialog template. Fails the test if the bytes are no such template or end early.
-DialogTemplate ParseDialogTemplate(Bytes const & bytes);
+StoredDialog ParseDialogTemplate(Bytes const & bytes);
 
 /// Makes a language the calling thread's for the search of resources, and restores the former one.
 class ScopedLanguage

@@ -164,3 +164,13 @@ TEST_F(FreeIconButton, LeavesNoGdiObjectBehind)
               }),
               0);
 }
+
+TEST_F(FreeIconButton, PaintsItsIconOverItselfWithoutATrace)
+{
+    Draw(canvas, 0);
+    tests::Canvas again(edge, edge, behind);
+    Draw(again, 0);
+    Draw(again, ODS_SELECTED);
+    Draw(again, ODS_DISABLED);
+    EXPECT_TRUE(tests::SamePixels(canvas, again)) << "a frame that is half clear darkens each time";
+}

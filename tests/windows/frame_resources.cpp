@@ -281,7 +281,7 @@ TEST(ModuleDialogs, AreTwo)
 TEST(ModuleDialogs, MultiselectIsOneButton)
 {
     EXPECT_EQ(tests::ResourceLanguages(Module(), RT_DIALOG, MAKEINTRESOURCEW(130)), std::set<WORD>{GERMAN});
-    tests::DialogTemplate const dialog =
+    tests::StoredDialog const dialog =
         tests::ParseDialogTemplate(tests::ReadResource(Module(), RT_DIALOG, MAKEINTRESOURCEW(130), GERMAN));
     EXPECT_EQ(dialog.style, static_cast<DWORD>(WS_POPUP | WS_THICKFRAME | WS_SYSMENU | DS_SETFONT | DS_FIXEDSYS));
     EXPECT_EQ(dialog.exStyle, static_cast<DWORD>(WS_EX_TOOLWINDOW));
@@ -311,7 +311,7 @@ TEST(ModuleDialogs, LanguageChooserHasTheSamePlacesInBothLanguages)
     };
     for (LanguageDialogTexts const & texts : expected)
     {
-        tests::DialogTemplate const dialog =
+        tests::StoredDialog const dialog =
             tests::ParseDialogTemplate(tests::ReadResource(Module(), RT_DIALOG, MAKEINTRESOURCEW(340), texts.language));
         EXPECT_EQ(dialog.width, 149);
         EXPECT_EQ(dialog.height, 94);

@@ -173,6 +173,15 @@ TEST_F(ListViewTest, CheckBoxesKeepTheirState)
     EXPECT_FALSE(m_list.GetCheck(1));
 }
 
+TEST_F(ListViewTest, AHostsOwnStateImageIsToldFromAMark)
+{
+    m_list.SetExtendedStyle(LVS_EX_CHECKBOXES);
+    EXPECT_TRUE(m_list.SetCheck(0));
+    EXPECT_EQ(m_list.GetCheck(0), 1);
+    EXPECT_TRUE(m_list.SetItemState(0, INDEXTOSTATEIMAGEMASK(3), LVIS_STATEIMAGEMASK));
+    EXPECT_EQ(m_list.GetCheck(0), 2);
+}
+
 TEST_F(ListViewTest, SortItemsComparesItemData)
 {
     EXPECT_TRUE(m_list.SortItems(ByData, 1));
