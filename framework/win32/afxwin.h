@@ -25,4 +25,10 @@
 
 #include "detail/stdctrls.h"
 
+#include "detail/frame.h"
+
+#include "detail/view.h"
+
+#include "detail/document.h"
+
 #include "afxmsg_.h"
