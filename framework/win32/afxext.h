@@ -5,4 +5,5 @@
 
 #include "detail/bitmapbutton.h"
 #include "detail/createcontext.h"
+#include "detail/formview.h"
 #include "detail/splitter.h"

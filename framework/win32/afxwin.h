@@ -29,6 +29,8 @@
 
 #include "detail/view.h"
 
+#include "detail/scrollview.h"
+
 #include "detail/document.h"
 
 #include "afxmsg_.h"

@@ -53,6 +53,14 @@ WNDCLASS FrameClass()
     return description;
 }
 
+/// Not every window that fails while it is created is told of its end.
+void LeaveIdleTime(CFrameWnd & frame)
+{
+    CPtrList & frames = framework::CurrentThreadState().topLevelFrames;
+    if (POSITION const at = frames.Find(&frame))
+        frames.RemoveAt(at);
+}
+
 /// The difference of two coordinates, one of which may stand for "as the system likes".
 int Extent(LONG from, LONG to)
 {
@@ -82,7 +90,10 @@ CFrameWnd::CFrameWnd()
 {
 }
 
-CFrameWnd::~CFrameWnd() = default;
+CFrameWnd::~CFrameWnd()
+{
+    LeaveIdleTime(*this);
+}
 
 BOOL CFrameWnd::IsFrameWnd() const
 {
@@ -417,9 +428,7 @@ void CFrameWnd::OnDestroy()
     // Another menu in the frame's place belongs to who made it, and must not end with the window.
     if (m_defaultMenu != nullptr && ::GetMenu(m_hWnd) != m_defaultMenu)
         ::SetMenu(m_hWnd, m_defaultMenu);
-    CPtrList & frames = framework::CurrentThreadState().topLevelFrames;
-    if (POSITION const at = frames.Find(this))
-        frames.RemoveAt(at);
+    LeaveIdleTime(*this);
     CWnd::OnDestroy();
 }
 
