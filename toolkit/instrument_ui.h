@@ -22,6 +22,8 @@
 
 #include "windows/FensterManager.h"
 #include "windows/MenueManager.h"
+#include "windows/StandaloneFrameUser.h"
+#include "windows/StandaloneFrameWnd.h"
 #include "windows/RegistrySettingsTree.h"
 #include "windows/MemorySettingsTree.h"
 #include "windows/SettingsFile.h"

@@ -1,6 +1,9 @@
 #pragma once
-// Extensions: button with pictures.
+// Extensions: button with pictures, splitters, and what is passed along while frames are created.
 
 #include <afxwin.h>
 
 #include "detail/bitmapbutton.h"
+#include "detail/createcontext.h"
+#include "detail/formview.h"
+#include "detail/splitter.h"

@@ -25,4 +25,12 @@
 
 #include "detail/stdctrls.h"
 
+#include "detail/frame.h"
+
+#include "detail/view.h"
+
+#include "detail/scrollview.h"
+
+#include "detail/document.h"
+
 #include "afxmsg_.h"

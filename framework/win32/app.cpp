@@ -1,5 +1,6 @@
 // CWinApp: the application's start, end and message boxes.
 
+#include "detail/AppDocuments.h"
 #include "detail/ThreadState.h"
 #include "detail/WndAccess.h"
 
@@ -11,6 +12,9 @@
 IMPLEMENT_DYNAMIC(CWinApp, CWinThread)
 
 BEGIN_MESSAGE_MAP(CWinApp, CWinThread)
+    ON_COMMAND(ID_APP_EXIT, &CWinApp::HandleExit)
+    ON_UPDATE_COMMAND_UI(ID_FILE_MRU_FILE1, &CWinApp::UpdateRecentFiles)
+    ON_COMMAND_EX_RANGE(ID_FILE_MRU_FILE1, ID_FILE_MRU_FILE16, &CWinApp::OpenRecentFile)
 END_MESSAGE_MAP()
 
 namespace framework
@@ -73,8 +77,10 @@ CWinApp::CWinApp(LPCTSTR lpszAppName)
       m_pszHelpFilePath(nullptr),
       m_pszProfileName(nullptr),
       m_pszAppID(nullptr),
+      m_bHelpMode(FALSE),
       m_nWaitCursorCount(0),
-      m_hcurWaitCursorRestore(nullptr)
+      m_hcurWaitCursorRestore(nullptr),
+      m_documents(nullptr)
 {
     m_hThread = nullptr;
     m_nThreadID = ::GetCurrentThreadId();
@@ -90,6 +96,7 @@ CWinApp::CWinApp(LPCTSTR lpszAppName)
 
 CWinApp::~CWinApp()
 {
+    delete m_documents;
     AFX_MODULE_STATE * const module = AfxGetModuleState();
     if (module->m_lpszCurrentAppName == m_pszAppName)
         module->m_lpszCurrentAppName = nullptr;
@@ -139,6 +146,7 @@ int CWinApp::Run()
 
 int CWinApp::ExitInstance()
 {
+    SaveStandardSettings();
     return CWinThread::ExitInstance();
 }
 

@@ -6,6 +6,8 @@
 
 #include <process.h>
 
+#include <vector>
+
 IMPLEMENT_DYNAMIC(CWinThread, CCmdTarget)
 
 BEGIN_MESSAGE_MAP(CWinThread, CCmdTarget)
@@ -13,6 +15,27 @@ END_MESSAGE_MAP()
 
 namespace framework
 {
+namespace
+{
+/// Idle time of the thread's frames beside the main one.
+void UpdateFramesBeside(CWnd const * main)
+{
+    std::vector<HWND> windows;
+    CPtrList const & frames = CurrentThreadState().topLevelFrames;
+    for (POSITION at = frames.GetHeadPosition(); at != nullptr;)
+        windows.push_back(static_cast<CWnd const *>(frames.GetNext(at))->m_hWnd);
+    for (HWND const window : windows)
+    {
+        CWnd * const frame = CWnd::FromHandlePermanent(window);
+        if (frame == nullptr || frame == main || !frame->IsWindowVisible())
+            continue;
+        AfxCallWndProc(frame, window, WM_IDLEUPDATECMDUI, TRUE, 0);
+        if (CWnd::FromHandlePermanent(window) == frame)
+            frame->SendMessageToDescendants(WM_IDLEUPDATECMDUI, TRUE, 0, TRUE, TRUE);
+    }
+}
+} // namespace
+
 struct ThreadAccess
 {
     static const AFX_MSGMAP * Map(CWinThread const & thread) { return thread.GetMessageMap(); }
@@ -253,6 +276,7 @@ BOOL CWinThread::OnIdle(LONG lCount)
             if (main->m_hWnd != nullptr)
                 main->SendMessageToDescendants(WM_IDLEUPDATECMDUI, TRUE, 0, TRUE, TRUE);
         }
+        framework::UpdateFramesBeside(main);
     }
     else
     {

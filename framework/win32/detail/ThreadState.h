@@ -51,6 +51,7 @@ struct ThreadState
     CWnd * creating = nullptr; // gets the next window
     HHOOK creationHook = nullptr;
     HWND lockedOut = nullptr;  // its controls' notifications are ignored while its data are exchanged
+    CPtrList topLevelFrames;   // that take part in idle time
     HMENU menuInUse = nullptr; // the last that a window of the thread was told of
     wchar_t className[96]{};   // what AfxRegisterWndClass gave last
 

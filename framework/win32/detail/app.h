@@ -5,6 +5,7 @@
 #include "cmdtarget.h"
 
 class CCommandLineInfo;
+class CDocTemplate;
 class CDocument;
 
 typedef UINT(AFX_CDECL * AFX_THREADPROC)(LPVOID);
@@ -12,6 +13,7 @@ typedef UINT(AFX_CDECL * AFX_THREADPROC)(LPVOID);
 namespace framework
 {
 struct AppAccess;
+struct AppDocuments;
 struct ThreadAccess;
 } // namespace framework
 
@@ -59,6 +61,8 @@ private:
     DECLARE_MESSAGE_MAP()
 };
 
+#define _AFX_MRU_COUNT 4 // files used last that a menu shows by default
+
 class FRAMEWORK_API CWinApp : public CWinThread
 {
     DECLARE_DYNAMIC(CWinApp)
@@ -76,6 +80,7 @@ public:
     LPCTSTR m_pszHelpFilePath;
     LPCTSTR m_pszProfileName; // the application's key below the company's, or the name of the .INI file
     LPCTSTR m_pszAppID;
+    BOOL m_bHelpMode;
 
     HCURSOR LoadCursor(LPCTSTR lpszResourceName) const;
     HCURSOR LoadCursor(UINT nIDResource) const;
@@ -97,8 +102,28 @@ public:
     LONG DelRegTree(HKEY hParentKey, const CString & strKeyName);
 
     void ParseCommandLine(CCommandLineInfo & rCmdInfo);
+    /// Does what the command line asks for. FALSE: the program is done.
+    BOOL ProcessShellCommand(CCommandLineInfo & rCmdInfo);
     void SetAppID(LPCTSTR lpcszAppID);
     void HideApplication();
+
+    /// The template is the application's from then on.
+    void AddDocTemplate(CDocTemplate * pTemplate);
+    POSITION GetFirstDocTemplatePosition() const;
+    CDocTemplate * GetNextDocTemplate(POSITION & pos) const;
+    void CloseAllDocuments(BOOL bEndSession);
+    virtual BOOL SaveAllModified();
+    virtual CDocument * OpenDocumentFile(LPCTSTR lpszFileName, BOOL bAddToMRU = TRUE);
+    virtual void AddToRecentFileList(LPCTSTR lpszPathName);
+    virtual BOOL Register();
+    virtual BOOL Unregister();
+    virtual void WinHelp(DWORD_PTR dwData, UINT nCmd = HELP_CONTEXT);
+
+    afx_msg void OnHelp();
+    afx_msg void OnHelpIndex();
+    afx_msg void OnHelpFinder();
+    afx_msg void OnHelpUsing();
+    afx_msg void OnContextHelp();
 
     BOOL InitInstance() override;
     int Run() override;
@@ -113,14 +138,25 @@ public:
 protected:
     void SetRegistryKey(LPCTSTR lpszRegistryKey);
     void SetRegistryKey(UINT nIDRegistryKey);
+    /// Reads the list of files used last, which ExitInstance writes.
+    void LoadStdProfileSettings(UINT nMaxMRU = _AFX_MRU_COUNT);
+
+    afx_msg void OnFileNew();
+    afx_msg void OnFileOpen();
 
 private:
     friend struct framework::AppAccess;
 
     void SetCurrentHandles();
+    framework::AppDocuments & Documents();
+    void SaveStandardSettings();
+    void HandleExit();
+    void UpdateRecentFiles(CCmdUI * pCmdUI);
+    BOOL OpenRecentFile(UINT nID);
 
     int m_nWaitCursorCount;
     HCURSOR m_hcurWaitCursorRestore;
+    framework::AppDocuments * m_documents; // null as long as there are none
 
     DECLARE_MESSAGE_MAP()
 };

@@ -35,6 +35,8 @@
 #include "windows/RegistrySettingsTree.h"
 #include "windows/SettingsFile.h"
 #include "windows/SettingsTree.h"
+#include "windows/StandaloneFrameUser.h"
+#include "windows/StandaloneFrameWnd.h"
 
 #include <utility>
 
@@ -428,6 +430,35 @@ void UseAll()
     Use(+[](SettingsTree & a0, registry_entry_list & a1) -> bool { return registry_settings::write_registry_tree(std::forward<SettingsTree &>(a0), std::forward<registry_entry_list &>(a1)); });
     Use(+[](SettingsTree & a0, std::u16string const & a1) -> bool { return registry_settings::delete_registry_tree(std::forward<SettingsTree &>(a0), std::forward<std::u16string const &>(a1)); });
     Use(+[](SettingsTree & a0, std::u16string const & a1) -> bool { return registry_settings::registry_key_exists(std::forward<SettingsTree &>(a0), std::forward<std::u16string const &>(a1)); });
+
+    // windows/StandaloneFrameUser.h
+    Use(+[](CStandaloneFrameUser & object, CStandaloneFrameUser const & a0) -> CStandaloneFrameUser & { return object.CStandaloneFrameUser::operator=(std::forward<CStandaloneFrameUser const &>(a0)); });
+    Use(+[](CStandaloneFrameUser & object) -> void { return object.CStandaloneFrameUser::BeiFrameAbleben(); });
+    Use(+[](CStandaloneFrameUser & object, int a0, int a1) -> void { return object.CStandaloneFrameUser::MenueKommando(std::forward<int>(a0), std::forward<int>(a1)); });
+    Use(+[](CStandaloneFrameUser & object, int a0, unsigned long a1, void const * a2, wchar_t const * a3) -> void { return object.CStandaloneFrameUser::FrameEreignis(std::forward<int>(a0), std::forward<unsigned long>(a1), std::forward<void const *>(a2), std::forward<wchar_t const *>(a3)); });
+    Use(+[](CStandaloneFrameUser & object, unsigned int a0, CPoint a1, int a2) -> void { return object.CStandaloneFrameUser::MausLDoppelKlick(std::forward<unsigned int>(a0), std::forward<CPoint>(a1), std::forward<int>(a2)); });
+    Use(+[](CStandaloneFrameUser & object, unsigned int a0, CPoint a1, int a2) -> void { return object.CStandaloneFrameUser::MausRDoppelKlick(std::forward<unsigned int>(a0), std::forward<CPoint>(a1), std::forward<int>(a2)); });
+    Use(+[](CStandaloneFrameUser const & object) -> bool { return object.CStandaloneFrameUser::FrameLebt(); });
+
+    // windows/StandaloneFrameWnd.h
+    Use(+[]() { delete new CStandaloneFrameWnd(); });
+    Use(+[](CStandaloneFrameWnd & object, CString const & a0, CRuntimeClass * a1, unsigned long a2) -> bool { return object.CStandaloneFrameWnd::Erzeugen(std::forward<CString const &>(a0), std::forward<CRuntimeClass *>(a1), std::forward<unsigned long>(a2)); });
+    Use(+[](CStandaloneFrameWnd & object, CString const & a0, unsigned long long a1, unsigned long long a2, CRuntimeClass ** a3) -> bool { return object.CStandaloneFrameWnd::SplitFrameErzeugen(std::forward<CString const &>(a0), std::forward<unsigned long long>(a1), std::forward<unsigned long long>(a2), std::forward<CRuntimeClass **>(a3)); });
+    Use(+[](CStandaloneFrameWnd & object, CStandaloneFrameUser * a0) -> void { return object.CStandaloneFrameWnd::BitteUmNachricht(std::forward<CStandaloneFrameUser *>(a0)); });
+    Use(+[](CStandaloneFrameWnd & object, int a0, int a1) -> CView * { return object.CStandaloneFrameWnd::GetSplitPane(std::forward<int>(a0), std::forward<int>(a1)); });
+    Use(+[](CStandaloneFrameWnd & object, int a0, int a1) -> void { return object.CStandaloneFrameWnd::MenueKommando(std::forward<int>(a0), std::forward<int>(a1)); });
+    Use(+[](CStandaloneFrameWnd & object) -> void { return object.CStandaloneFrameWnd::FensterWeg(); });
+    Use(+[](CStandaloneFrameWnd & object) -> CFensterManager * { return object.CStandaloneFrameWnd::FensterManager(); });
+    Use(+[](CStandaloneFrameWnd const & object) -> CFensterManager const * { return object.CStandaloneFrameWnd::FensterManager(); });
+    Use(+[](CStandaloneFrameWnd & object) -> void { return object.CStandaloneFrameWnd::FensterpositionLaden(); });
+    Use(+[](CStandaloneFrameWnd & object) -> void { return object.CStandaloneFrameWnd::FensterpositionSpeichern(); });
+    Use(+[](CStandaloneFrameWnd const & object) -> bool { return object.CStandaloneFrameWnd::OpenInitially(); });
+    Use(+[](CStandaloneFrameWnd & object, bool a0) -> void { return object.CStandaloneFrameWnd::EnableCloseButton(std::forward<bool>(a0)); });
+    Use(+[]() -> bool { return CStandaloneFrameWnd::IsInTouchFreeze(); });
+    Use(+[](bool a0) -> void { return CStandaloneFrameWnd::SetTouchFreeze(std::forward<bool>(a0)); });
+    Use(+[](CStandaloneFrameWnd & object, CREATESTRUCT & a0) -> BOOL { return object.CStandaloneFrameWnd::PreCreateWindow(std::forward<CREATESTRUCT &>(a0)); });
+    Use(+[](CStandaloneFrameWnd & object, int a0) -> void { return object.CStandaloneFrameWnd::ActivateFrame(std::forward<int>(a0)); });
+    Use(+[](CStandaloneFrameWnd & object) -> int { return object.CStandaloneFrameWnd::IsReadOnly(); });
 }
 } // namespace
 

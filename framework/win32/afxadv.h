@@ -1,0 +1,40 @@
+#pragma once
+// The list of the files that were used last.
+
+#include <afxwin.h>
+
+#define AFX_ABBREV_FILENAME_LEN 30
+
+/// The files used last, the latest first, kept with the program's settings and shown in a menu.
+class FRAMEWORK_API CRecentFileList
+{
+public:
+    CRecentFileList(UINT nStart, LPCTSTR lpszSection, LPCTSTR lpszEntryFormat, int nSize,
+                    int nMaxDispLen = AFX_ABBREV_FILENAME_LEN);
+    virtual ~CRecentFileList();
+    CRecentFileList(const CRecentFileList &) = delete;
+    CRecentFileList & operator=(const CRecentFileList &) = delete;
+
+    int GetSize() const;
+    /// Throws CInvalidArgException for an index outside.
+    CString & operator[](int nindex);
+
+    virtual void Add(LPCTSTR lpszPathName);
+    virtual void Add(LPCTSTR lpszPathName, LPCTSTR lpszAppID);
+    virtual void Remove(int nIndex);
+    /// The name as a menu shows it: without the folder if it is the given one, else shortened in its middle. FALSE if
+    /// there is no file of that index.
+    virtual BOOL GetDisplayName(CString & strName, int nIndex, LPCTSTR lpszCurDir, int nCurDir,
+                                BOOL bAtLeastName = TRUE) const;
+    virtual void UpdateMenu(CCmdUI * pCmdUI);
+    virtual void ReadList();
+    virtual void WriteList();
+
+private:
+    UINT m_start; // counts the menu's items from here
+    CString m_section;
+    CString m_entryFormat;
+    int m_maxDisplay;
+    CString m_originalText; // of the menu's first item, while there are no files
+    CArray<CString> m_names;
+};

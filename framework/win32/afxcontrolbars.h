@@ -1,0 +1,6 @@
+#pragma once
+// The extended frames.
+
+#include <afxframewndex.h>
+#include <afxmdichildwndex.h>
+#include <afxmdiframewndex.h>

@@ -1,0 +1,26 @@
+#pragma once
+// The main frame of an application with one document, as the control bars know it.
+
+#include <afxext.h>
+#include <afxwin.h>
+
+class FRAMEWORK_API CFrameWndEx : public CFrameWnd
+{
+    DECLARE_DYNCREATE(CFrameWndEx)
+
+public:
+    CFrameWndEx();
+    ~CFrameWndEx() override;
+
+    BOOL LoadFrame(UINT nIDResource, DWORD dwDefaultStyle = WS_OVERLAPPEDWINDOW | FWS_ADDTOTITLE,
+                   CWnd * pParentWnd = nullptr, CCreateContext * pContext = nullptr) override;
+    /// What LoadFrame was given.
+    UINT GetDefaultResId() const;
+    BOOL OnCmdMsg(UINT nID, int nCode, void * pExtra, AFX_CMDHANDLERINFO * pHandlerInfo) override;
+    BOOL PreTranslateMessage(MSG * pMsg) override;
+    void OnUpdateFrameTitle(BOOL bAddToTitle) override;
+    void RecalcLayout(BOOL bNotify = TRUE) override;
+
+private:
+    UINT m_resource;
+};

@@ -1,0 +1,24 @@
+#pragma once
+// The main frame of an application with child frames, as the control bars know it.
+
+#include <afxext.h>
+#include <afxwin.h>
+
+class FRAMEWORK_API CMDIFrameWndEx : public CMDIFrameWnd
+{
+    DECLARE_DYNCREATE(CMDIFrameWndEx)
+
+public:
+    CMDIFrameWndEx();
+    ~CMDIFrameWndEx() override;
+
+    BOOL LoadFrame(UINT nIDResource, DWORD dwDefaultStyle = WS_OVERLAPPEDWINDOW | FWS_ADDTOTITLE,
+                   CWnd * pParentWnd = nullptr, CCreateContext * pContext = nullptr) override;
+    /// What LoadFrame was given.
+    UINT GetDefaultResId() const;
+    BOOL OnCmdMsg(UINT nID, int nCode, void * pExtra, AFX_CMDHANDLERINFO * pHandlerInfo) override;
+    void RecalcLayout(BOOL bNotify = TRUE) override;
+
+private:
+    UINT m_resource;
+};

@@ -1,0 +1,23 @@
+#pragma once
+// What an application knows of documents. Inside framework.dll only.
+
+#include "../afxadv.h"
+
+#include <memory>
+#include <vector>
+
+namespace framework
+{
+struct AppDocuments
+{
+    ~AppDocuments();
+
+    CPtrList m_templates; // owned
+    std::unique_ptr<CRecentFileList> m_recent;
+    UINT m_previewPages = 0;
+    bool m_settingsLoaded = false;
+};
+
+/// Lets the user choose one of some kinds of documents. -1 if he chooses none.
+int ChooseKind(std::vector<CString> const & names);
+} // namespace framework

@@ -1,0 +1,8 @@
+#pragma once
+// Sizes of a splitter's parts. Inside framework.dll only.
+
+namespace framework
+{
+inline constexpr int splitterGap = 7;    // of a bar between panes, and a box beside a scroll bar
+inline constexpr int splitterBorder = 2; // around all of them
+} // namespace framework

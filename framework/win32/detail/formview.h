@@ -1,0 +1,91 @@
+#pragma once
+// Views that are a dialog template or an edit field. Included by afxext.h.
+
+#include <afxwin.h>
+
+class CArchive;
+
+/// A view with the controls of a dialog template, which must be a child without a border.
+class FRAMEWORK_API CFormView : public CScrollView
+{
+    DECLARE_DYNAMIC(CFormView)
+
+public:
+    ~CFormView() override;
+
+    BOOL IsInitDlgCompleted() const;
+    void OnInitialUpdate() override;
+    BOOL PreTranslateMessage(MSG * pMsg) override;
+
+protected:
+    explicit CFormView(LPCTSTR lpszTemplateName);
+    explicit CFormView(UINT nIDTemplate);
+
+    BOOL Create(LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle, const RECT & rect, CWnd * pParentWnd,
+                UINT nID, CCreateContext * pContext = nullptr) override;
+    void OnDraw(CDC * pDC) override;
+    void OnActivateView(BOOL bActivate, CView * pActivateView, CView * pDeactiveView) override;
+    void OnActivateFrame(UINT nState, CFrameWnd * pFrameWnd) override;
+
+    afx_msg int OnCreate(LPCREATESTRUCT lpcs);
+    afx_msg void OnSetFocus(CWnd * pOldWnd);
+
+private:
+    LRESULT HandleInitDialog(WPARAM wParam, LPARAM lParam);
+    bool SaveFocus();
+
+    CString m_templateName; // empty where the template has an identifier
+    UINT m_templateId;
+    CCreateContext * m_context; // while it is created
+    HWND m_focus;               // of the controls, while another view is active
+    bool m_initialized;
+
+    DECLARE_MESSAGE_MAP()
+};
+
+/// A view that is an edit field of many lines.
+class FRAMEWORK_API CEditView : public CCtrlView
+{
+    DECLARE_DYNCREATE(CEditView)
+
+public:
+    CEditView();
+    ~CEditView() override;
+
+    static const DWORD dwStyleDefault;
+
+    CEdit & GetEditCtrl() const;
+    UINT GetBufferLength() const;
+    /// The text until UnlockBuffer; not to be changed.
+    LPCTSTR LockBuffer() const;
+    void UnlockBuffer() const;
+    void GetSelectedText(CString & strResult) const;
+    void SetTabStops(int nTabStops);
+    /// Selects the next or previous place of the text. FALSE if there is none.
+    BOOL FindText(LPCTSTR lpszFind, BOOL bNext = TRUE, BOOL bCase = TRUE);
+
+    BOOL PreCreateWindow(CREATESTRUCT & cs) override;
+
+protected:
+    virtual void OnFindNext(LPCTSTR lpszFind, BOOL bNext, BOOL bCase);
+    virtual void OnReplaceSel(LPCTSTR lpszFind, BOOL bNext, BOOL bCase, LPCTSTR lpszReplace);
+    virtual void OnReplaceAll(LPCTSTR lpszFind, LPCTSTR lpszReplace, BOOL bCase);
+    virtual void OnTextNotFound(LPCTSTR lpszFind);
+
+    afx_msg int OnCreate(LPCREATESTRUCT lpcs);
+
+private:
+    bool SameAsSelected(LPCTSTR text, BOOL matchCase) const;
+    BOOL HandleChange();
+    void UpdateNeedsSelection(CCmdUI * pCmdUI);
+    void UpdateNeedsText(CCmdUI * pCmdUI);
+    void UpdateNeedsClipboard(CCmdUI * pCmdUI);
+    void UpdateNeedsUndo(CCmdUI * pCmdUI);
+    BOOL HandleEditCommand(UINT nID);
+
+    mutable CEdit m_edit; // speaks to the view's window, and isn't attached to it
+    int m_tabStops;
+    mutable CString m_locked; // what LockBuffer gave
+
+    DECLARE_MESSAGE_MAP()
+};
