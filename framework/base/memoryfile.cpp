@@ -212,7 +212,9 @@ void CMemFile::GrowFile(SIZE_T dwNewLen)
         return;
     if (m_nGrowBytes == 0)
         AfxThrowMemoryException();
-    SIZE_T const steps = (dwNewLen - m_nBufferSize - 1) / m_nGrowBytes + 1;
+    // Large files grow by an eighth, or growing would copy them all the time.
+    SIZE_T const needed = (dwNewLen - m_nBufferSize - 1) / m_nGrowBytes + 1;
+    SIZE_T const steps = std::max(needed, m_nBufferSize / m_nGrowBytes / 8);
     if (steps > (SIZE_MAX / 2 - m_nBufferSize) / m_nGrowBytes)
         AfxThrowMemoryException();
     SIZE_T const size = m_nBufferSize + steps * m_nGrowBytes;

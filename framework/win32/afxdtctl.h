@@ -159,3 +159,13 @@ FRAMEWORK_API void AFXAPI DDX_DateTimeCtrl(CDataExchange * pDX, int nIDC, COleDa
 FRAMEWORK_API void AFXAPI DDX_DateTimeCtrl(CDataExchange * pDX, int nIDC, CString & value);
 FRAMEWORK_API void AFXAPI DDX_MonthCalCtrl(CDataExchange * pDX, int nIDC, CTime & value);
 FRAMEWORK_API void AFXAPI DDX_MonthCalCtrl(CDataExchange * pDX, int nIDC, COleDateTime & value);
+
+// Behind the exchange of the control: the limits that its user can't leave. Null: none.
+FRAMEWORK_API void AFXAPI DDV_MinMaxDateTime(CDataExchange * pDX, CTime & refValue, CTime const * refMinRange,
+                                             CTime const * refMaxRange);
+FRAMEWORK_API void AFXAPI DDV_MinMaxDateTime(CDataExchange * pDX, COleDateTime & refValue,
+                                             COleDateTime const * refMinRange, COleDateTime const * refMaxRange);
+FRAMEWORK_API void AFXAPI DDV_MinMaxMonth(CDataExchange * pDX, CTime & refValue, CTime const * refMinRange,
+                                          CTime const * refMaxRange);
+FRAMEWORK_API void AFXAPI DDV_MinMaxMonth(CDataExchange * pDX, COleDateTime & refValue,
+                                          COleDateTime const * refMinRange, COleDateTime const * refMaxRange);

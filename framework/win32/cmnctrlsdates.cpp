@@ -3,6 +3,7 @@
 #include <afxdtctl.h>
 
 #include "detail/ControlSupport.h"
+#include "detail/DataExchange.h"
 
 IMPLEMENT_DYNAMIC(CMonthCalCtrl, CWnd)
 IMPLEMENT_DYNAMIC(CDateTimeCtrl, CWnd)
@@ -490,4 +491,37 @@ void AFXAPI DDX_MonthCalCtrl(CDataExchange * pDX, int nIDC, CTime & value)
 void AFXAPI DDX_MonthCalCtrl(CDataExchange * pDX, int nIDC, COleDateTime & value)
 {
     ExchangeTime<CMonthCalCtrl>(pDX, nIDC, value);
+}
+
+namespace
+{
+template <class Control, class Time> void LimitLast(CDataExchange * exchange, Time const * low, Time const * high)
+{
+    ASSERT(low == nullptr || high == nullptr || *low <= *high);
+    HWND const control = framework::DataExchangeAccess::LastControl(*exchange);
+    if (!exchange->m_bSaveAndValidate && control != nullptr)
+        static_cast<Control *>(CWnd::FromHandle(control))->SetRange(low, high);
+}
+} // namespace
+
+void AFXAPI DDV_MinMaxDateTime(CDataExchange * pDX, CTime &, CTime const * refMinRange, CTime const * refMaxRange)
+{
+    LimitLast<CDateTimeCtrl>(pDX, refMinRange, refMaxRange);
+}
+
+void AFXAPI DDV_MinMaxDateTime(CDataExchange * pDX, COleDateTime &, COleDateTime const * refMinRange,
+                               COleDateTime const * refMaxRange)
+{
+    LimitLast<CDateTimeCtrl>(pDX, refMinRange, refMaxRange);
+}
+
+void AFXAPI DDV_MinMaxMonth(CDataExchange * pDX, CTime &, CTime const * refMinRange, CTime const * refMaxRange)
+{
+    LimitLast<CMonthCalCtrl>(pDX, refMinRange, refMaxRange);
+}
+
+void AFXAPI DDV_MinMaxMonth(CDataExchange * pDX, COleDateTime &, COleDateTime const * refMinRange,
+                            COleDateTime const * refMaxRange)
+{
+    LimitLast<CMonthCalCtrl>(pDX, refMinRange, refMaxRange);
 }

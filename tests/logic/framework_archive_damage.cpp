@@ -19,6 +19,13 @@ namespace
 {
 using Bytes = std::vector<BYTE>;
 
+// Can be created by its name, but not stored.
+class CCreated : public CObject
+{
+    DECLARE_DYNCREATE(CCreated)
+};
+IMPLEMENT_DYNCREATE(CCreated, CObject)
+
 // The values that lengths, counts and tags become something else at.
 void PutMagic(Bytes & bytes, std::mt19937 & random)
 {
@@ -168,6 +175,7 @@ TEST(FrameworkArchiveDamage, ClassThatCannotBeStoredIsBad)
     // Its schema is the one that says so.
     EXPECT_EQ(CauseOfObject(NewObject("CPtrArray", 0xFFFF)), CArchiveException::badClass);
     EXPECT_EQ(CauseOfObject(NewObject("CObject", 0xFFFF)), CArchiveException::badClass);
+    EXPECT_EQ(CauseOfObject(NewObject("CCreated", 0xFFFF)), CArchiveException::badClass);
 }
 
 TEST(FrameworkArchiveDamage, ClassNameBeyondAnyIsBad)

@@ -505,6 +505,17 @@ TEST(FrameworkMemFile, GrowsInSteps)
     EXPECT_EQ(Rest(file), "");
 }
 
+TEST(FrameworkMemFile, LargeFileIsNotCopiedAtEachStep)
+{
+    CWatchedMemFile file(16);
+    std::string const part(16, 'x');
+    for (int i = 0; i < 100'000; ++i)
+        file.Write(part.data(), 16);
+    EXPECT_EQ(file.GetLength(), 1'600'000U);
+    EXPECT_LT(file.m_growths, 200);
+    EXPECT_LT(file.m_nBufferSize, 2'000'000U);
+}
+
 TEST(FrameworkMemFile, GapIsFilledWithZeros)
 {
     CMemFile file;

@@ -137,6 +137,19 @@ TEST_F(WizardDateTime, IsExchangedWithADialog)
     EXPECT_FALSE(text.IsEmpty());
 }
 
+TEST_F(WizardDateTime, LimitsAreSetByTheExchange)
+{
+    Create();
+    CDataExchange show(&m_parent, FALSE);
+    CTime time(2010, 11, 12, 13, 14, 15);
+    CTime const low(2010, 1, 1, 0, 0, 0);
+    DDX_DateTimeCtrl(&show, control_id, time);
+    DDV_MinMaxDateTime(&show, time, &low, nullptr);
+    CTime lowAgain;
+    EXPECT_EQ(m_control.GetRange(&lowAgain, nullptr), static_cast<DWORD>(GDTR_MIN));
+    EXPECT_EQ(lowAgain.GetYear(), 2010);
+}
+
 TEST_F(WizardMonthCalendar, SelectsADay)
 {
     Create();

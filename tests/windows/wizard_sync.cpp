@@ -6,7 +6,8 @@
 
 #include <gtest/gtest.h>
 
-#include <atomic>
+#include <cmath>
+#include <cstring>
 #include <string>
 #include <thread>
 
