@@ -6,6 +6,8 @@
 #include "FileStatus.h"
 #include <commdlg.h>
 
+#include "detail/propertysheet.h"
+
 class FRAMEWORK_API CCommonDialog : public CDialog
 {
     DECLARE_DYNAMIC(CCommonDialog)
