@@ -18,30 +18,15 @@ INT_PTR CALLBACK PageProcedure(HWND window, UINT message, WPARAM wParam, LPARAM 
     return DialogProcedure(window, message, wParam, lParam);
 }
 
-/// What a native page keeps in place of the header's own lParam.
-struct Ticket
-{
-    std::shared_ptr<PageLink> link;
-    LPARAM parameter;
-    LPFNPSPCALLBACK callback; // the host's, or null
-};
-
 UINT CALLBACK PageCallback(HWND window, UINT message, LPPROPSHEETPAGE page)
 {
-    auto * const ticket = reinterpret_cast<Ticket *>(page->lParam);
+    auto * const ticket = reinterpret_cast<PageTicket *>(page->lParam);
     UINT result = 1;
     if (ticket->callback != nullptr)
     {
         page->lParam = ticket->parameter;
         result = ticket->callback(window, message, page);
         page->lParam = reinterpret_cast<LPARAM>(ticket);
-    }
-    if (message == PSPCB_RELEASE)
-    {
-        delete ticket;
-        page->lParam = 0;
-        page->dwFlags &= ~static_cast<DWORD>(PSP_USECALLBACK);
-        return result;
     }
     CPropertyPage * const object = ticket->link->page;
     if (message == PSPCB_CREATE && object != nullptr && object->m_hWnd == nullptr)
@@ -70,23 +55,18 @@ bool PropertySheetAccess::HasTemplate(CPropertyPage & page)
     return ::FindResource(psp.hInstance, psp.pszTemplate, RT_DIALOG) != nullptr;
 }
 
-HPROPSHEETPAGE PropertySheetAccess::MakeNative(CPropertyPage & page)
+PROPSHEETPAGE PropertySheetAccess::NativeHeader(CPropertyPage & page, PageTicket & ticket)
 {
-    if (!HasTemplate(page))
-        return nullptr;
     PageState & state = page.m_pageState;
     if (state.link == nullptr)
         state.link = std::make_shared<PageLink>(PageLink{&page});
     PROPSHEETPAGE header = page.m_psp;
     bool const called = (header.dwFlags & PSP_USECALLBACK) != 0;
-    auto * const ticket = new Ticket{state.link, header.lParam, called ? header.pfnCallback : nullptr};
+    ticket = {state.link, header.lParam, called ? header.pfnCallback : nullptr};
     header.dwFlags |= PSP_USECALLBACK;
     header.pfnCallback = PageCallback;
-    header.lParam = reinterpret_cast<LPARAM>(ticket);
-    HPROPSHEETPAGE const native = ::CreatePropertySheetPage(&header);
-    if (native == nullptr)
-        delete ticket;
-    return native;
+    header.lParam = reinterpret_cast<LPARAM>(&ticket);
+    return header;
 }
 
 void PropertySheetAccess::Forget(CPropertyPage & page)

@@ -16,21 +16,24 @@ namespace framework
 {
 namespace
 {
-constexpr DWORD default_style =
-    DS_MODALFRAME | DS_3DLOOK | DS_CONTEXTHELP | DS_SETFONT | WS_POPUP | WS_VISIBLE | WS_CAPTION;
+constexpr DWORD default_style = DS_MODALFRAME | DS_3DLOOK | DS_CONTEXTHELP | WS_POPUP | WS_VISIBLE | WS_CAPTION;
 
 /// The sheet that the thread is making, for the native callback, which is given nothing that tells.
 thread_local CPropertySheet * being_made = nullptr;
 
-/// The styles of a template, old form or extended.
+/// Gives a template, of the old form or extended, those styles. Whether it has a font is not for them to say.
 void SetStyles(void * dialogTemplate, DWORD style, DWORD exStyle)
 {
     auto * const words = static_cast<WORD *>(dialogTemplate);
     bool const extended = words[0] == 1 && words[1] == 0xFFFF;
     constexpr int behind_help_id = 4; // words
-    auto * const place = extended ? words + behind_help_id : words;
-    std::memcpy(extended ? place + 2 : place, &style, sizeof style);
-    std::memcpy(extended ? place : place + 2, &exStyle, sizeof exStyle);
+    WORD * const stylePlace = extended ? words + behind_help_id + 2 : words;
+    WORD * const exStylePlace = extended ? words + behind_help_id : words + 2;
+    DWORD former = 0;
+    std::memcpy(&former, stylePlace, sizeof former);
+    style = (style & ~static_cast<DWORD>(DS_SETFONT)) | (former & DS_SETFONT);
+    std::memcpy(stylePlace, &style, sizeof style);
+    std::memcpy(exStylePlace, &exStyle, sizeof exStyle);
 }
 
 int CALLBACK SheetCallback(HWND window, UINT message, LPARAM lParam)
@@ -181,12 +184,12 @@ bool CPropertySheet::CreateSheet(HWND parent)
             return false;
         }
     }
+    auto const window = std::make_shared<SheetWindow>(*this);
     std::vector<HPROPSHEETPAGE> natives;
     for (SheetPage & each : m_sheetState.pages)
     {
-        framework::PageState & page = PropertySheetAccess::State(*each.page);
-        page.shown = false;
-        each.native = PropertySheetAccess::MakeNative(*each.page);
+        PropertySheetAccess::State(*each.page).shown = false;
+        each.native = window->MakePage(*each.page);
         if (each.native == nullptr)
         {
             for (HPROPSHEETPAGE const native : natives)
@@ -205,7 +208,6 @@ bool CPropertySheet::CreateSheet(HWND parent)
     if (header.hInstance == nullptr)
         header.hInstance = AfxGetInstanceHandle();
 
-    auto const window = std::make_shared<SheetWindow>(*this);
     m_sheetState.window = window;
     m_sheetState.button = IDCANCEL;
     CPropertySheet * const outer = std::exchange(framework::being_made, this);
@@ -358,7 +360,7 @@ void CPropertySheet::AddPage(CPropertyPage * pPage)
     HPROPSHEETPAGE native = nullptr;
     if (window != nullptr && window->Handle() != nullptr)
     {
-        native = PropertySheetAccess::MakeNative(*pPage);
+        native = window->MakePage(*pPage);
         if (native == nullptr)
         {
             TRACE("CPropertySheet: a page has no template\n");

@@ -66,6 +66,18 @@ bool SheetWindow::PutOffEnd()
     return true;
 }
 
+HPROPSHEETPAGE SheetWindow::MakePage(CPropertyPage & page)
+{
+    if (!PropertySheetAccess::HasTemplate(page))
+        return nullptr;
+    auto ticket = std::make_unique<PageTicket>();
+    PROPSHEETPAGE const header = PropertySheetAccess::NativeHeader(page, *ticket);
+    HPROPSHEETPAGE const native = ::CreatePropertySheetPage(&header);
+    if (native != nullptr)
+        m_tickets.push_back(std::move(ticket));
+    return native;
+}
+
 void SheetWindow::AddPage(HPROPSHEETPAGE page)
 {
     m_changes.push_back({PSM_ADDPAGE, page});
@@ -108,7 +120,10 @@ void SheetWindow::CatchUp()
     }
     m_catchingUp = false;
     if (m_condemned && !m_creating && !m_ending && m_handle != nullptr)
+    {
+        m_ending = true; // the messages of its end come here, too
         ::DestroyWindow(m_handle);
+    }
 }
 
 // The native sheet only gives up its active page when OK, Cancel or Finish has done its work; a modal loop ends by that.

@@ -5,6 +5,14 @@
 
 namespace framework
 {
+/// What a native page has in place of its header's own lParam, as long as the window that shows it.
+struct PageTicket
+{
+    std::shared_ptr<PageLink> link;
+    LPARAM parameter;         // the header's own
+    LPFNPSPCALLBACK callback; // the host's, or null
+};
+
 /// Keeps the native window whole while its own code runs: the system's property sheet stands neither its end nor a change
 /// of its pages from within the notifications that it sends. What is asked for meanwhile is done once that code has
 /// returned. It lasts as long as the window, so longer than an object that is deleted in a notification.
@@ -28,6 +36,8 @@ public:
     bool PutOffEnd();
     bool IsCondemned() const { return m_condemned; }
 
+    /// Null if the page has no template.
+    HPROPSHEETPAGE MakePage(CPropertyPage & page);
     void AddPage(HPROPSHEETPAGE page);
     void RemovePage(HPROPSHEETPAGE page);
 
@@ -48,6 +58,7 @@ private:
     HWND m_handle = nullptr;
     CPropertySheet * m_object;
     std::vector<Change> m_changes;
+    std::vector<std::unique_ptr<PageTicket>> m_tickets;
     int m_depth = 0; // calls of the native procedure that have not returned
     bool m_creating = false;
     bool m_condemned = false;
@@ -61,8 +72,8 @@ struct PropertySheetAccess
     static SheetState & State(CPropertySheet & sheet) { return sheet.m_sheetState; }
     /// Takes the page out of its sheet, if it is in one.
     static void Forget(CPropertyPage & page);
-    /// Null if there is no template.
-    static HPROPSHEETPAGE MakeNative(CPropertyPage & page);
     static bool HasTemplate(CPropertyPage & page);
+    /// The header for the system, which calls the page by the ticket that this fills.
+    static PROPSHEETPAGE NativeHeader(CPropertyPage & page, PageTicket & ticket);
 };
 } // namespace framework
