@@ -1,7 +1,7 @@
 #include "detail/DialogAccess.h"
 #include "detail/SheetWindow.h"
 
-#include <cstring>
+#include <utility>
 
 using framework::PageLink;
 using framework::PropertySheetAccess;
@@ -208,9 +208,8 @@ BOOL CPropertyPage::OnQueryCancel()
 BOOL CPropertyPage::OnSetActive()
 {
     // OnInitDialog has just filled a new window's controls.
-    if (m_pageState.shown)
+    if (std::exchange(m_pageState.shown, true))
         UpdateData(FALSE);
-    m_pageState.shown = true;
     return TRUE;
 }
 

@@ -101,6 +101,8 @@ CPropertySheet::~CPropertySheet()
             else
                 Detach();
         }
+        else
+            window->End();
     }
     if (m_hWnd != nullptr)
         CWnd::DestroyWindow();
@@ -285,8 +287,12 @@ BOOL CPropertySheet::ContinueModal()
 BOOL CPropertySheet::DestroyWindow()
 {
     auto const window = m_sheetState.window;
-    if (m_hWnd != nullptr && window != nullptr && window->PutOffEnd())
-        return TRUE;
+    if (m_hWnd != nullptr && window != nullptr)
+    {
+        if (window->PutOffEnd())
+            return TRUE;
+        window->End();
+    }
     return CWnd::DestroyWindow();
 }
 

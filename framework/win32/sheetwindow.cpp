@@ -7,6 +7,15 @@ namespace framework
 namespace
 {
 constexpr UINT_PTR watcher = 1;
+
+/// Whether the native sheet looks at its pages, which it has from its initialisation to its end.
+bool ConcernsPages(UINT message)
+{
+    constexpr UINT first = PSM_SETCURSEL;
+    constexpr UINT last = PSM_RECALCPAGESIZES;
+    return (message >= first && message <= last) || message == WM_COMMAND || message == WM_NOTIFY ||
+           message == WM_CLOSE || message == WM_SYSCOMMAND;
+}
 } // namespace
 
 void SheetWindow::Watch(HWND window, std::shared_ptr<SheetWindow> const & self)
@@ -37,17 +46,27 @@ LRESULT SheetWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam)
     {
         // Its owner's end, or a host that asked the system itself. Native code that runs must still find its data,
         // which it would free now; they are lost then.
-        m_ending = true;
+        End();
         if (m_depth > 0)
             return 0;
     }
+    if (message == WM_INITDIALOG && !m_ending)
+        m_native = true;
+    if (!m_native && ConcernsPages(message))
+        return 0;
     if (message == WM_WINDOWPOSCHANGING && m_condemned)
         reinterpret_cast<WINDOWPOS *>(lParam)->flags &= ~SWP_SHOWWINDOW;
     ++m_depth;
     LRESULT const result = ::DefSubclassProc(window, message, wParam, lParam);
     --m_depth;
+    if (message == WM_INITDIALOG)
+        m_ready = true;
     CloseIfOver(message, wParam);
-    CatchUp();
+    // The tab control that notifies still runs: it stands neither its end nor another number of tabs.
+    if (message != WM_NOTIFY)
+        CatchUp();
+    else if (m_depth == 0 && m_handle != nullptr && (m_condemned || !m_changes.empty()))
+        ::PostMessage(m_handle, WM_NULL, 0, 0);
     return result;
 }
 
@@ -57,9 +76,19 @@ void SheetWindow::SetCreating(bool creating)
     CatchUp();
 }
 
+void SheetWindow::End()
+{
+    m_ending = true;
+    m_native = false;
+}
+
 bool SheetWindow::PutOffEnd()
 {
-    if (m_handle == nullptr || m_ending || (m_depth == 0 && !m_creating))
+    if (m_handle == nullptr)
+        return false;
+    if (m_ending)
+        return true;
+    if (m_depth == 0 && !m_creating)
         return false;
     m_condemned = true;
     ::ShowWindow(m_handle, SW_HIDE);
@@ -112,7 +141,7 @@ void SheetWindow::CatchUp()
     if (m_depth > 0 || m_handle == nullptr || m_catchingUp)
         return;
     m_catchingUp = true;
-    while (!m_changes.empty() && !m_ending && !m_condemned && m_handle != nullptr)
+    while (m_ready && !m_changes.empty() && !m_ending && !m_condemned && m_handle != nullptr)
     {
         Change const next = m_changes.front();
         m_changes.erase(m_changes.begin());
@@ -121,18 +150,19 @@ void SheetWindow::CatchUp()
     m_catchingUp = false;
     if (m_condemned && !m_creating && !m_ending && m_handle != nullptr)
     {
-        m_ending = true; // the messages of its end come here, too
+        End();
         ::DestroyWindow(m_handle);
     }
 }
 
-// The native sheet only gives up its active page when OK, Cancel or Finish has done its work; a modal loop ends by that.
+// The native sheet only gives up its active page when OK, Cancel or Finish has done its work; a modal loop ends by
+// that.
 void SheetWindow::CloseIfOver(UINT message, WPARAM wParam)
 {
     if (m_depth > 0 || m_object == nullptr || m_handle == nullptr || m_ending || m_condemned)
         return;
-    bool const button = message == WM_COMMAND && (LOWORD(wParam) == IDOK || LOWORD(wParam) == IDCANCEL ||
-                                                  LOWORD(wParam) == ID_WIZFINISH);
+    bool const button = message == WM_COMMAND &&
+                        (LOWORD(wParam) == IDOK || LOWORD(wParam) == IDCANCEL || LOWORD(wParam) == ID_WIZFINISH);
     if (!button && message != PSM_PRESSBUTTON)
         return;
     SheetState const & state = PropertySheetAccess::State(*m_object);

@@ -52,9 +52,10 @@ inline CRect PlaceOf(HWND window)
 template <class Base> class Noting : public Base
 {
 public:
-    template <class... Arguments>
-    Noting(Notes & notes, std::string name, Arguments &&... arguments)
-        : Base(std::forward<Arguments>(arguments)...), m_name(std::move(name)), m_notes(notes)
+    template <class... Arguments> Noting(Notes & notes, std::string name, Arguments &&... arguments)
+        : Base(std::forward<Arguments>(arguments)...),
+          m_name(std::move(name)),
+          m_notes(notes)
     {
     }
 

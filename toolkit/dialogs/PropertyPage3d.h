@@ -7,8 +7,8 @@
 #include "frame/Export.h"
 #include "layout/DialogResizer.h"
 
-/// A page of a CPropertySheet3d: a template from the right module, and controls that follow the page's size. It never has
-/// a Help button. For the user-interface thread alone.
+/// A page of a CPropertySheet3d: a template from the right module, and controls that follow the page's size. It never
+/// has a Help button. For the user-interface thread alone.
 ///
 /// A derived class's OnInitDialog calls this one's first, then D3dLayoutChild for each control that moves, then
 /// D3dLayoutComplete. The size at the first opening is the design size for the life of the object.
@@ -34,8 +34,8 @@ public:
 protected:
     CPropertyPage3d();
 
-    /// Tells how a control follows the page's size; the arguments are those of CDialogResizer::PositionChild. Only after
-    /// OnInitDialog of this class.
+    /// Tells how a control follows the page's size; the arguments are those of CDialogResizer::PositionChild. Only
+    /// after OnInitDialog of this class.
     void D3dLayoutChild(int id, CEdges const & edges, CRect const * designRect);
     void D3dLayoutChild(int id, CRect const & fractions, CRect const * designRect);
     void D3dLayoutChild(CWnd * child, CEdges const & edges, CRect const * designRect);

@@ -12,8 +12,8 @@
 
 class CTabCtrl;
 
-/// A tabbed sheet that does not block its program: OK, Cancel and Apply stay, everything follows the sheet's size, and the
-/// sheet remembers its place under its title. Pages are added with AddPage and stay the caller's. For the
+/// A tabbed sheet that does not block its program: OK, Cancel and Apply stay, everything follows the sheet's size, and
+/// the sheet remembers its place under its title. Pages are added with AddPage and stay the caller's. For the
 /// user-interface thread alone.
 ///
 /// The object may be opened and closed as often as wanted; closing stores the position. The size at the first opening
@@ -23,8 +23,8 @@ class INSTRUMENT_UI_API CPropertySheet3d : public CMFCPropertySheet
     DECLARE_DYNAMIC(CPropertySheet3d)
 
 public:
-    /// title: the caption, also the name under which the position is stored; where it is empty, the window's text at the
-    /// opening is. parent: may be null. selectPage: index of the page that shows first.
+    /// title: the caption, also the name under which the position is stored; where it is empty, the window's text at
+    /// the opening is. parent: may be null. selectPage: index of the page that shows first.
     CPropertySheet3d(wchar_t const * title, CWnd * parent, unsigned int selectPage);
     CPropertySheet3d(CPropertySheet3d const &) = delete;
     CPropertySheet3d & operator=(CPropertySheet3d const &) = delete;

@@ -13,9 +13,9 @@ struct PageTicket
     LPFNPSPCALLBACK callback; // the host's, or null
 };
 
-/// Keeps the native window whole while its own code runs: the system's property sheet stands neither its end nor a change
-/// of its pages from within the notifications that it sends. What is asked for meanwhile is done once that code has
-/// returned. It lasts as long as the window, so longer than an object that is deleted in a notification.
+/// Keeps the native window whole while its own code runs: the system's property sheet stands neither its end nor a
+/// change of its pages from within the notifications that it sends. What is asked for meanwhile is done once that code
+/// has returned. It lasts as long as the window, so longer than an object that is deleted in a notification.
 class SheetWindow
 {
 public:
@@ -32,9 +32,10 @@ public:
 
     /// The native function that makes the window runs, or has returned.
     void SetCreating(bool creating);
-    /// Whether the window's end has to wait. Hides the window and ends it later, if so.
+    /// Whether the window's end has to wait, or is under way already. Hides the window and ends it later, if so.
     bool PutOffEnd();
-    bool IsCondemned() const { return m_condemned; }
+    /// The window is about to be destroyed; from now on its native code is not asked about pages any more.
+    void End();
 
     /// Null if the page has no template.
     HPROPSHEETPAGE MakePage(CPropertyPage & page);
@@ -61,6 +62,8 @@ private:
     std::vector<std::unique_ptr<PageTicket>> m_tickets;
     int m_depth = 0; // calls of the native procedure that have not returned
     bool m_creating = false;
+    bool m_native = false; // the native sheet has its data
+    bool m_ready = false;  // and its pages
     bool m_condemned = false;
     bool m_ending = false;
     bool m_catchingUp = false;
