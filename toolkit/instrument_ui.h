@@ -17,6 +17,8 @@
 #include "dialogs/KeyGroups.h"
 #include "dialogs/PopupConfig.h"
 #include "dialogs/Dialog3d.h"
+#include "dialogs/PropertyPage3d.h"
+#include "dialogs/PropertySheet3d.h"
 #include "dialogs/FolderDialog.h"
 #include "dialogs/SprachauswahlDlg.h"
 

@@ -7,6 +7,8 @@
 
 #include <commdlg.h>
 
+#include "detail/propertysheet.h"
+
 class FRAMEWORK_API CCommonDialog : public CDialog
 {
     DECLARE_DYNAMIC(CCommonDialog)

@@ -146,6 +146,32 @@ bool DialogAccess::CreateWindowOf(CDialog & dialog, LPCDLGTEMPLATE dialogTemplat
     }
     return true;
 }
+
+bool DialogAccess::RouteBeyond(CWnd & dialog, UINT nID, int nCode, void * pExtra, AFX_CMDHANDLERINFO * pHandlerInfo)
+{
+    // Commands and their updates go on to the window that owns the dialog and to the thread; notifications of the
+    // dialog's own controls, whose identifiers are below the range of commands, stay here.
+    constexpr UINT FirstCommand = 0x8000;
+    constexpr UINT FirstSystemCommand = 0xF000;
+    bool const command = nCode == CN_COMMAND || static_cast<UINT>(nCode) == CN_UPDATE_COMMAND_UI;
+    if (!command || nID < FirstCommand || nID >= FirstSystemCommand)
+        return false;
+    CWnd * const owner = dialog.GetParent();
+    if (owner != nullptr && owner->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo))
+        return true;
+    CWinThread * const thread = AfxGetThread();
+    return thread != nullptr && thread->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
+}
+
+void DialogAccess::SetTemplate(CDialog & dialog, LPCTSTR name)
+{
+    SetTemplateName(dialog.m_state, name);
+}
+
+LPCTSTR DialogAccess::TemplateName(CDialog const & dialog)
+{
+    return framework::TemplateName(dialog.m_state);
+}
 } // namespace framework
 
 using framework::DialogAccess;
@@ -402,16 +428,5 @@ BOOL CDialog::OnCmdMsg(UINT nID, int nCode, void * pExtra, AFX_CMDHANDLERINFO * 
 {
     if (CWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo))
         return TRUE;
-    // Commands and their updates go on to the window that owns the dialog and to the thread; notifications of the
-    // dialog's own controls, whose identifiers are below the range of commands, stay here.
-    constexpr UINT FirstCommand = 0x8000;
-    constexpr UINT FirstSystemCommand = 0xF000;
-    bool const command = nCode == CN_COMMAND || static_cast<UINT>(nCode) == CN_UPDATE_COMMAND_UI;
-    if (!command || nID < FirstCommand || nID >= FirstSystemCommand)
-        return FALSE;
-    CWnd * const owner = GetParent();
-    if (owner != nullptr && owner->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo))
-        return TRUE;
-    CWinThread * const thread = AfxGetThread();
-    return thread != nullptr && thread->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
+    return DialogAccess::RouteBeyond(*this, nID, nCode, pExtra, pHandlerInfo);
 }

@@ -353,9 +353,13 @@ BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT * pResul
         if (reinterpret_cast<NMHDR *>(lParam)->hwndFrom == nullptr || !OnNotify(wParam, lParam, &result))
             return FALSE;
         return answer();
-    case WM_ACTIVATE:
+    case WM_ACTIVATE: {
+        HWND const window = m_hWnd;
         HandleActivate(wParam, lParam);
+        if (FromHandlePermanent(window) != this)
+            return answer(); // a handler has ended the window or the object
         break;
+    }
     case WM_SETCURSOR:
         if (HandleSetCursor(lParam))
         {

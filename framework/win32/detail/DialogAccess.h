@@ -15,6 +15,10 @@ struct DialogAccess
     /// Makes the dialog's window from the template; parent may be null. False if there is none, or if the dialog was
     /// ended while it was initialised; its result is in the state then.
     static bool CreateWindowOf(CDialog & dialog, LPCDLGTEMPLATE dialogTemplate, HWND parent, HINSTANCE instance);
+    /// A dialog's command that no handler of its own has taken.
+    static bool RouteBeyond(CWnd & dialog, UINT nID, int nCode, void * pExtra, AFX_CMDHANDLERINFO * pHandlerInfo);
+    static void SetTemplate(CDialog & dialog, LPCTSTR name);
+    static LPCTSTR TemplateName(CDialog const & dialog);
     static bool CreateModeless(CDialog & dialog, LPCDLGTEMPLATE dialogTemplate, CWnd * parent, HINSTANCE instance);
 };
 } // namespace framework

@@ -18,6 +18,8 @@
 #include "dialogs/FolderDialog.h"
 #include "dialogs/KeyGroups.h"
 #include "dialogs/PopupConfig.h"
+#include "dialogs/PropertyPage3d.h"
+#include "dialogs/PropertySheet3d.h"
 #include "dialogs/SprachauswahlDlg.h"
 #include "frame/CoreLibrary.h"
 #include "frame/Export.h"
@@ -234,6 +236,23 @@ void UseAll()
     Use(+[](CPopupConfig & object, int a0) -> void { return object.CPopupConfig::NumberAfter(std::forward<int>(a0)); });
     Use(+[](CPopupConfig const & object, unsigned int a0) -> CPopupConfigEntry const * { return object.CPopupConfig::Find(std::forward<unsigned int>(a0)); });
     Use(+[] { delete new CPopupConfig; });
+
+    // dialogs/PropertyPage3d.h
+    Use(+[](AFX_EXTENSION_MODULE a0, unsigned int a1, unsigned int a2) { delete new CPropertyPage3d(std::forward<AFX_EXTENSION_MODULE>(a0), std::forward<unsigned int>(a1), std::forward<unsigned int>(a2)); });
+    Use(+[](AFX_EXTENSION_MODULE a0, unsigned int a1, CString const & a2) { delete new CPropertyPage3d(std::forward<AFX_EXTENSION_MODULE>(a0), std::forward<unsigned int>(a1), std::forward<CString const &>(a2)); });
+    Use(+[](CPropertyPage3d & object, CString const & a0) -> void { return object.CPropertyPage3d::SetTitle(std::forward<CString const &>(a0)); });
+    Use(+[](CPropertyPage3d & object) -> BOOL { return object.CPropertyPage3d::OnInitDialog(); });
+
+    // dialogs/PropertySheet3d.h
+    Use(+[](wchar_t const * a0, CWnd * a1, unsigned int a2) { delete new CPropertySheet3d(std::forward<wchar_t const *>(a0), std::forward<CWnd *>(a1), std::forward<unsigned int>(a2)); });
+    Use(+[](unsigned int a0, CWnd * a1, unsigned int a2) -> std::unique_ptr<CPropertySheet3d> { return CPropertySheet3d::FromCaption(std::forward<unsigned int>(a0), std::forward<CWnd *>(a1), std::forward<unsigned int>(a2)); });
+    Use(+[](CPropertySheet3d & object) -> int { return object.CPropertySheet3d::Display(); });
+    Use(+[](CPropertySheet3d & object, CWnd * a0) -> int { return object.CPropertySheet3d::DisplayDialog(std::forward<CWnd *>(a0)); });
+    Use(+[](CPropertySheet3d const & object) -> bool { return object.CPropertySheet3d::IsOpen(); });
+    Use(+[](CPropertySheet3d & object) -> void { return object.CPropertySheet3d::CloseDialog(); });
+    Use(+[](CPropertySheet3d & object, CString const & a0) -> void { return object.CPropertySheet3d::SetDialogTitle(std::forward<CString const &>(a0)); });
+    Use(+[](CPropertySheet3d & object, bool a0) -> void { return object.CPropertySheet3d::SetResizable(std::forward<bool>(a0)); });
+    Use(+[](CPropertySheet3d & object) -> BOOL { return object.CPropertySheet3d::OnInitDialog(); });
 
     // dialogs/SprachauswahlDlg.h
     Use(+[](unsigned short a0, CWnd * a1) { delete new CSprachauswahlDlg(std::forward<unsigned short>(a0), std::forward<CWnd *>(a1)); });
