@@ -119,14 +119,14 @@ void CFolderTree::SetHasChildren(HTREEITEM folder, bool has)
     SetItem(&item);
 }
 
-HTREEITEM CFolderTree::AddFolder(std::filesystem::path const & folder, HTREEITEM parent, HTREEITEM after)
+/// sortKey: -1 where the place is given.
+HTREEITEM CFolderTree::AddFolder(std::filesystem::path const & folder, HTREEITEM parent, HTREEITEM after, int sortKey)
 {
-    // Beside recordings that are there already, its sort key puts it ahead of them.
-    auto const key = parent != TVI_ROOT ? static_cast<int>(key_folder) : -1;
     auto const item = InsertTreeItem(LabelOf(folder).c_str(), c_imageFolder, c_imageFolder, parent, type_folder,
-                                     Remember(folder), after, key);
+                                     Remember(folder), after, sortKey);
     if (item != nullptr)
     {
+        GetItemData(item)->sortKey = key_folder;
         m_folders.try_emplace(workbench::PathKey(folder), item);
         Note(item, unread);
         SetHasChildren(item, true);
@@ -134,11 +134,10 @@ HTREEITEM CFolderTree::AddFolder(std::filesystem::path const & folder, HTREEITEM
     return item;
 }
 
-void CFolderTree::AddRecording(std::filesystem::path const & file, HTREEITEM parent)
+void CFolderTree::AddRecording(std::filesystem::path const & file, HTREEITEM parent, HTREEITEM after, int sortKey)
 {
-    // They come in their order, of which a search for the place would know no more.
     auto const item = InsertTreeItem(file.filename().c_str(), c_imageRecording, c_imageRecording, parent,
-                                     type_recording, Remember(file), TVI_LAST, -1);
+                                     type_recording, Remember(file), after, sortKey);
     if (item != nullptr)
     {
         GetItemData(item)->sortKey = key_recording;
@@ -152,7 +151,7 @@ void CFolderTree::AddPlaces(std::vector<std::filesystem::path> const & folders)
     {
         if (FolderItem(folder) == nullptr)
         {
-            AddFolder(folder, TVI_ROOT, TVI_LAST);
+            AddFolder(folder, TVI_ROOT, TVI_LAST, -1);
         }
     }
 }
@@ -172,7 +171,7 @@ void CFolderTree::ShowOpened(std::vector<std::filesystem::path> const & folders)
         auto item = FolderItem(folder);
         if (item == nullptr)
         {
-            item = AddFolder(folder, TVI_ROOT, TVI_FIRST);
+            item = AddFolder(folder, TVI_ROOT, TVI_FIRST, -1);
         }
         if (item == nullptr)
         {
@@ -232,77 +231,90 @@ void CFolderTree::ReadNext()
     m_readFolder = std::move(m_waiting.front());
     m_waiting.pop_front();
     auto const window = m_hWnd;
-    m_reading = std::make_unique<workbench::FolderReading>(
-        m_readFolder, [window] { ::PostMessageW(window, message_folder_read, 0, 0); });
+    auto const before = m_contents.find(workbench::PathKey(m_readFolder));
+    m_reading =
+        std::make_unique<workbench::FolderReading>(m_readFolder, before != m_contents.end() ? before->second : nullptr,
+                                                   [window] { ::PostMessageW(window, message_folder_read, 0, 0); });
 }
 
 LRESULT CFolderTree::OnFolderRead(WPARAM, LPARAM)
 {
-    auto contents = m_reading ? m_reading->Take() : std::nullopt;
-    if (!contents)
+    auto result = m_reading ? m_reading->Take() : std::nullopt;
+    if (!result)
     {
         return 0; // of a reading that was given up
     }
     m_reading.reset();
-    auto const folder = FolderItem(m_readFolder);
-    if (folder != nullptr)
+    if (FolderItem(m_readFolder) != nullptr)
     {
-        StartEntering(folder, std::move(*contents));
+        m_contents.insert_or_assign(workbench::PathKey(m_readFolder), std::move(result->contents));
+        m_entering = Entering{m_readFolder, std::move(result->steps)};
+        SetTimer(enter_timer, c_enterInterval, nullptr);
+        EnterSome();
     }
     ReadNext();
     return 0;
 }
 
-/// Enters what a folder contains in place of what was known of it; nothing is touched where that is the same.
-void CFolderTree::StartEntering(HTREEITEM folder, workbench::FolderContents contents)
+/// Takes an item away with all that is known of it and of what is below it.
+void CFolderTree::Remove(HTREEITEM item)
 {
-    workbench::FolderContents present;
-    for (auto item = GetChildItem(folder); item != nullptr; item = GetNextSiblingItem(item))
-    {
-        auto & paths = GetItemType(item) == type_folder ? present.folders : present.recordings;
-        if (GetItemType(item) != type_note)
-        {
-            paths.push_back(PathOf(item));
-        }
-    }
-    if (present == contents && !(contents.folders.empty() && contents.recordings.empty()))
-    {
-        Note(folder, known);
-        return;
-    }
-    RemoveContents(folder);
-    m_entering = Entering{m_readFolder, std::move(contents)};
-    SetTimer(enter_timer, c_enterInterval, nullptr);
-    EnterSome();
-}
-
-/// Takes away what is in a folder, but for the note that it is being read.
-void CFolderTree::RemoveContents(HTREEITEM folder)
-{
-    auto const forget = [](auto & items, std::wstring const & key, HTREEITEM item) {
-        if (auto const found = items.find(key); found != items.end() && found->second == item)
+    auto const forget = [](auto & items, std::wstring const & key, HTREEITEM gone) {
+        if (auto const found = items.find(key); found != items.end() && found->second == gone)
         {
             items.erase(found);
         }
     };
-    std::list<HTREEITEM> below;
-    CollectAllItems(below, folder);
-    below.pop_front();
-    for (auto const item : below)
+    std::list<HTREEITEM> all;
+    CollectAllItems(all, item);
+    for (auto const each : all)
     {
-        forget(GetItemType(item) == type_folder ? m_folders : m_recordings, workbench::PathKey(PathOf(item)), item);
-    }
-    SetRedraw(FALSE);
-    for (auto item = GetChildItem(folder); item != nullptr;)
-    {
-        auto const next = GetNextSiblingItem(item);
-        if (GetItemType(item) != type_note)
+        auto const key = workbench::PathKey(PathOf(each));
+        if (GetItemType(each) == type_folder)
         {
-            DeleteTreeItem(item);
+            forget(m_folders, key, each);
+            m_contents.erase(key);
         }
-        item = next;
+        else
+        {
+            forget(m_recordings, key, each);
+        }
     }
-    SetRedraw(TRUE);
+    DeleteTreeItem(item);
+}
+
+/// Follows one change of a folder's contents.
+void CFolderTree::Take(workbench::FolderStep const & step, HTREEITEM folder)
+{
+    auto const & items = step.isFolder ? m_folders : m_recordings;
+    auto const itemOf = [&](std::filesystem::path const & path) -> HTREEITEM {
+        auto const found = items.find(workbench::PathKey(path));
+        if (path.empty() || (found != items.end() && GetParentItem(found->second) == folder))
+        {
+            return path.empty() ? nullptr : found->second;
+        }
+        // A folder can be in the tree twice, as a place of its own, too.
+        return FindChildItem(step.isFolder ? type_folder : type_recording, -1, nullptr, path.filename().c_str(), folder,
+                             false);
+    };
+    if (step.kind == workbench::FolderStep::Kind::remove)
+    {
+        if (auto const item = itemOf(step.path))
+        {
+            Remove(item);
+        }
+        return;
+    }
+    // Behind the one that is ahead of it; the first one by its sort key, which puts recordings behind all folders.
+    auto const previous = itemOf(step.previous);
+    if (step.isFolder)
+    {
+        AddFolder(step.path, folder, previous != nullptr ? previous : TVI_FIRST, -1);
+    }
+    else
+    {
+        AddRecording(step.path, folder, previous, previous != nullptr ? -1 : static_cast<int>(key_folder));
+    }
 }
 
 void CFolderTree::OnTimer(UINT_PTR id)
@@ -326,26 +338,21 @@ void CFolderTree::EnterSome()
         return;
     }
     auto const end = Clock::now() + c_enterSlice;
-    auto const & contents = m_entering->contents;
-    auto const count = contents.folders.size() + contents.recordings.size();
-    SetRedraw(FALSE);
-    do
+    auto & entering = *m_entering;
+    auto const count = entering.steps.size();
+    if (count > 0)
     {
-        for (int i = 0; i < c_itemsAtOnce && m_entering->done < count; ++i)
+        SetRedraw(FALSE);
+        do
         {
-            auto const place = m_entering->done++;
-            if (place < contents.folders.size())
+            for (int i = 0; i < c_itemsAtOnce && entering.done < count; ++i)
             {
-                AddFolder(contents.folders[place], folder, TVI_LAST);
+                Take(entering.steps[entering.done++], folder);
             }
-            else
-            {
-                AddRecording(contents.recordings[place - contents.folders.size()], folder);
-            }
-        }
-    } while (m_entering->done < count && Clock::now() < end);
-    SetRedraw(TRUE);
-    if (m_entering->done == count)
+        } while (entering.done < count && Clock::now() < end);
+        SetRedraw(TRUE);
+    }
+    if (entering.done == count)
     {
         m_entering.reset();
         KillTimer(enter_timer);

@@ -93,21 +93,21 @@ private:
     struct Entering
     {
         std::filesystem::path folder;
-        workbench::FolderContents contents;
+        std::vector<workbench::FolderStep> steps;
         std::size_t done = 0;
     };
 
-    HTREEITEM AddFolder(std::filesystem::path const & folder, HTREEITEM parent, HTREEITEM after);
-    void AddRecording(std::filesystem::path const & file, HTREEITEM parent);
+    HTREEITEM AddFolder(std::filesystem::path const & folder, HTREEITEM parent, HTREEITEM after, int sortKey);
+    void AddRecording(std::filesystem::path const & file, HTREEITEM parent, HTREEITEM after, int sortKey);
+    void Take(workbench::FolderStep const & step, HTREEITEM folder);
+    void Remove(HTREEITEM item);
     int Remember(std::filesystem::path const & path);
     Knowledge KnowledgeOf(HTREEITEM folder) const;
     void Note(HTREEITEM folder, Knowledge knowledge);
     void Read(HTREEITEM folder);
     void ReadNext();
-    void StartEntering(HTREEITEM folder, workbench::FolderContents contents);
     void EnterSome();
     void FinishEntering(HTREEITEM folder);
-    void RemoveContents(HTREEITEM folder);
     void Choose(HTREEITEM item);
     void SetHasChildren(HTREEITEM folder, bool has);
 
@@ -115,6 +115,8 @@ private:
     std::vector<std::filesystem::path> m_paths; ///< by the id of their records
     std::unordered_map<std::wstring, HTREEITEM> m_folders;
     std::unordered_map<std::wstring, HTREEITEM> m_recordings;
+    /// What is known of folders, by their key.
+    std::unordered_map<std::wstring, std::shared_ptr<workbench::FolderContents const>> m_contents;
     std::vector<std::filesystem::path> m_opened;
     std::filesystem::path m_wanted;              ///< a recording to select once it is there
     std::deque<std::filesystem::path> m_waiting; ///< folders to be read

@@ -160,10 +160,30 @@ TEST_F(WorkbenchFolderContents, AreFoldersAndRecordingsByName)
 TEST_F(WorkbenchFolderContents, AreReadOnAThread)
 {
     std::atomic<int> told = 0;
-    FolderReading reading(m_folder, [&told] { ++told; });
+    auto const before = std::make_shared<FolderContents>();
+    before->recordings = {m_folder / "b.wav", m_folder / "old.wav"};
+    FolderReading reading(m_folder, before, [&told] { ++told; });
     while (told == 0)
         std::this_thread::yield();
     EXPECT_EQ(told, 1);
-    EXPECT_EQ(reading.Take(), ContentsOf(m_folder));
+    auto const result = reading.Take();
+    ASSERT_TRUE(result);
+    EXPECT_EQ(*result->contents, ContentsOf(m_folder));
+    EXPECT_EQ(result->steps, StepsBetween(*before, *result->contents));
     EXPECT_FALSE(reading.Take());
+}
+
+TEST(WorkbenchFolderSteps, LeadFromOneToTheOther)
+{
+    using Kind = FolderStep::Kind;
+    FolderContents const before{{"a", "c"}, {"1.wav", "3.wav", "4.wav"}};
+    FolderContents const after{{"b", "c"}, {"0.wav", "1.wav", "2.wav", "4.wav", "5.wav"}};
+    EXPECT_EQ(StepsBetween(before, after), (std::vector<FolderStep>{{Kind::remove, true, "a", ""},
+                                                                    {Kind::add, true, "b", ""},
+                                                                    {Kind::remove, false, "3.wav", ""},
+                                                                    {Kind::add, false, "0.wav", ""},
+                                                                    {Kind::add, false, "2.wav", "1.wav"},
+                                                                    {Kind::add, false, "5.wav", "4.wav"}}));
+    EXPECT_TRUE(StepsBetween(before, before).empty());
+    EXPECT_EQ(StepsBetween({}, {{}, {"1.wav"}}), (std::vector<FolderStep>{{Kind::add, false, "1.wav", ""}}));
 }
