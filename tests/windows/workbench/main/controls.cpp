@@ -132,11 +132,16 @@ TEST_F(WorkbenchControls, ColoursOfTheWaveformCountAtOnceAndAfterARestart)
     EXPECT_TRUE(m_window->SettingsDialog().IsOpen());
     EXPECT_FALSE(::IsWindowEnabled(apply));
     ChooseColour(IDC_COLOUR_FIRST, trace);
-    tests::Key(VK_RETURN); // presses the button that has the focus
-    auto const settings = m_window->SettingsDialog().m_hWnd;
-    ASSERT_TRUE(tests::PumpUntil([&] { return ::GetActiveWindow() != settings; }));
-    tests::Key(VK_ESCAPE);
-    ASSERT_TRUE(tests::PumpUntil([&] { return IsSettingsActive(); }));
+    {
+        // Return presses the button that has the focus.
+        std::vector<HWND> const known{m_window->SettingsDialog().m_hWnd, m_window->m_hWnd, nullptr};
+        tests::LaterActions later;
+        later.Add([] { tests::Key(VK_ESCAPE); },
+                  [known] { return OtherPopup(known) != nullptr && ::GetDlgItem(OtherPopup(known), red_field); });
+        tests::Key(VK_RETURN);
+        ASSERT_TRUE(tests::PumpUntil([&] { return later.Done() && IsSettingsActive(); }));
+        ASSERT_FALSE(later.Failed());
+    }
     m_window->SettingsDialog().SendMessage(WM_COMMAND, IDOK);
     EXPECT_FALSE(m_window->SettingsDialog().IsOpen());
     ASSERT_TRUE(tests::BringToFront(m_window->m_hWnd));
@@ -311,23 +316,17 @@ TEST_F(WorkbenchControls, ColumnsAreChosenInADropDownOfTheSettings)
     EXPECT_EQ(TextOf(field), L"(all)");
     field.SetFocus();
     std::vector<HWND> const known{m_window->SettingsDialog().m_hWnd, m_window->m_hWnd, nullptr};
+    auto const list = [&] { return ::GetDlgItem(::GetDlgItem(OtherPopup(known), 1016), 32802); };
     tests::LaterActions later;
     later.Add(
         [&] {
-            auto const list = ::GetDlgItem(::GetDlgItem(OtherPopup(known), 1016), 32802);
             RECT row{LVIR_LABEL, 0, 0, 0}; // "Channels", the fourth one
-            ::SendMessageW(list, LVM_GETITEMRECT, 3, reinterpret_cast<LPARAM>(&row));
-            POINT point{row.left + 6, (row.top + row.bottom) / 2};
-            ::ClientToScreen(list, &point);
-            tests::Click(CPoint(point));
+            ::SendMessageW(list(), LVM_GETITEMRECT, 3, reinterpret_cast<LPARAM>(&row));
+            tests::Click(tests::ClientPoint(list(), CPoint(row.left + 6, (row.top + row.bottom) / 2)));
         },
-        [&] { return OtherPopup(known) != nullptr && ::GetDlgItem(::GetDlgItem(OtherPopup(known), 1016), 32802); });
-    later.Add([&] { tests::Key(VK_RETURN); },
-              [&] {
-                  auto const list = ::GetDlgItem(::GetDlgItem(OtherPopup(known), 1016), 32802);
-                  return list != nullptr &&
-                         (::SendMessageW(list, LVM_GETITEMSTATE, 3, LVIS_STATEIMAGEMASK) >> 12) - 1 == 0;
-              });
+        [&] { return ::SendMessageW(list(), LVM_GETITEMCOUNT, 0, 0) == 11 && ::IsWindowVisible(list()); });
+    later.Add([] { tests::Key(VK_RETURN); },
+              [&] { return ::SendMessageW(list(), LVM_GETITEMSTATE, 3, LVIS_STATEIMAGEMASK) >> 12 == 1; });
     tests::Key(VK_F4);
     ASSERT_TRUE(tests::PumpUntil([&] { return later.Done() && IsSettingsActive(); }));
     ASSERT_FALSE(later.Failed());
