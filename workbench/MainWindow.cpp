@@ -18,6 +18,8 @@ constexpr wchar_t c_title[] = L"Instrument Workbench";
 // Lengths in dialog units.
 constexpr int c_margin = 7;
 constexpr int c_spacing = 5;
+constexpr int c_paneGap = 4; // beside the folders
+constexpr int c_leastBesideFolders = 220;
 constexpr int c_leastListHeight = 90;
 constexpr int c_leastWaveformHeight = 96;
 constexpr int c_leastSpectrogramHeight = 96;
@@ -31,6 +33,9 @@ constexpr int c_waveformEnd = 6000;
 constexpr int c_preferredPercent = 93;
 constexpr int c_preferredWidthLimit = 790;
 constexpr int c_preferredHeightLimit = 420;
+
+// The width of the folders at first, in average letters.
+constexpr int c_paneLetters = 30;
 
 // How often after its activation the window looks whether its dialogs are above it, and how many milliseconds apart.
 constexpr int c_raises = 8;
@@ -48,6 +53,11 @@ BEGIN_MESSAGE_MAP(CMainWindow, CWnd)
     ON_WM_ACTIVATE()
     ON_WM_SETFOCUS()
     ON_WM_DROPFILES()
+    ON_WM_SETCURSOR()
+    ON_WM_LBUTTONDOWN()
+    ON_WM_MOUSEMOVE()
+    ON_WM_LBUTTONUP()
+    ON_WM_CAPTURECHANGED()
     ON_WM_INITMENUPOPUP()
     ON_COMMAND(ID_OPEN_FILES, &CMainWindow::OnOpenFiles)
     ON_COMMAND(ID_OPEN_FOLDER, &CMainWindow::OnOpenFolder)
@@ -61,6 +71,10 @@ BEGIN_MESSAGE_MAP(CMainWindow, CWnd)
     ON_COMMAND(ID_COPY, &CMainWindow::OnCopy)
     ON_COMMAND(ID_COPY_ALL, &CMainWindow::OnCopyAll)
     ON_COMMAND(ID_COPY_SPECTROGRAM, &CMainWindow::OnCopySpectrogram)
+    ON_COMMAND(ID_SHOW_FOLDERS, &CMainWindow::OnShowFolders)
+    ON_COMMAND(ID_CHOOSE_COLUMNS, &CMainWindow::OnChooseColumns)
+    ON_COMMAND(ID_EXPORT_LIST, &CMainWindow::OnExportList)
+    ON_COMMAND_RANGE(ID_AMPLIFY, ID_AMPLIFY_FIT, &CMainWindow::OnAmplify)
     ON_COMMAND(ID_CLOSE_DIALOGS, &CMainWindow::OnCloseDialogs)
     ON_COMMAND_RANGE(ID_DIALOG_FIRST, ID_DIALOG_LAST, &CMainWindow::OnDialogChosen)
     ON_COMMAND(ID_FIT_COLUMNS, &CMainWindow::OnFitColumns)
@@ -107,8 +121,8 @@ bool CMainWindow::CreateMainWindow()
     ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
     CRect least;
     GetWindowRect(&least);
-    auto const width =
-        std::max(std::min(work.Width() * c_preferredPercent / 100, m_metrics.X(c_preferredWidthLimit)), least.Width());
+    auto const limit = m_metrics.X(c_preferredWidthLimit) + static_cast<int>(m_paneShift.cx);
+    auto const width = std::max(std::min(work.Width() * c_preferredPercent / 100, limit), least.Width());
     auto const height = std::max(
         std::min(work.Height() * c_preferredPercent / 100, m_metrics.Y(c_preferredHeightLimit)), least.Height());
     auto const left = std::max((work.Width() - width) / 2, 0);
@@ -130,7 +144,19 @@ int CMainWindow::OnCreate(LPCREATESTRUCT create)
         FALSE);
     DragAcceptFiles();
     m_spectrogram.SetColours(Farbtabellen::SpektrogrammFarbtabelle(m_settings.spectrogramScale));
-    m_waveform.m_onCursor = [this] { ShowReading(); };
+    Waveform().SetColours(m_settings.waveform);
+    Waveform().SetAmplification(m_settings.amplification);
+    Waveform().m_onCursor = [this] { ShowReading(); };
+    m_waveformPanel.m_onAmplified = [this](int decibels) {
+        m_settings.amplification = decibels;
+        workbench::StoreAmplification(decibels);
+        m_preview.Update();
+    };
+    m_tree.m_onFolder = [this](std::filesystem::path const & folder) { OpenFolder(folder); };
+    m_tree.m_onRecording = [this](std::filesystem::path const & file) { ChooseFile(file); };
+    m_tree.m_onDetails = [this](std::filesystem::path const & file) { ShowDetails(LineOf(file)); };
+    m_list.m_onColumns = [this](CPoint screen) { ChooseColumns(screen); };
+    m_list.SetHiddenColumns(m_settings.hiddenColumns);
     // The commands of the list's menu are the window's, which has them for the keyboard, too.
     m_list.m_onContextCommand = [this](int command, int, int) {
         // Rows may have moved while the menu was open.
@@ -156,8 +182,9 @@ int CMainWindow::OnCreate(LPCREATESTRUCT create)
 
 bool CMainWindow::CreateChildren()
 {
-    auto const created = m_list.CreateList(*this, IDC_RECORDINGS, m_metrics) &&
-                         m_waveform.CreateView(*this, IDC_WAVEFORM, m_metrics) &&
+    auto const created = m_tree.CreateTree(*this, IDC_FOLDERS, m_metrics) &&
+                         m_list.CreateList(*this, IDC_RECORDINGS, m_metrics) &&
+                         m_waveformPanel.CreatePanel(*this, IDC_WAVEFORM_PANEL, m_metrics) &&
                          m_spectrogram.CreateView(*this, IDC_SPECTROGRAM, m_metrics) &&
                          m_panel.CreatePanel(*this, IDC_MEASURE_PANEL, m_metrics, m_settings.spectrogramScale);
     return created && m_status.CreateStrip(*this, IDC_STATUS_LINE, m_metrics);
@@ -196,14 +223,156 @@ void CMainWindow::Arrange()
     CRect rect(CPoint(marginX, marginY), list);
     m_resizer->PositionChild(&m_list, CRect(0, 0, 10000, c_listEnd), &rect);
     rect = CRect(marginX, waveformTop, right, waveformTop + waveformHeight);
-    m_resizer->PositionChild(&m_waveform, CRect(0, c_listEnd, 10000, c_waveformEnd), &rect);
+    m_resizer->PositionChild(&m_waveformPanel, CRect(0, c_listEnd, 10000, c_waveformEnd), &rect);
     rect = CRect(marginX, spectrogramTop, right, spectrogramTop + spectrogramHeight);
     m_resizer->PositionChild(&m_spectrogram, CRect(0, c_waveformEnd, 10000, 10000), &rect);
     rect = CRect(marginX, panelTop, right, panelTop + panelHeight);
     m_resizer->PositionChild(&m_panel, CEdges::BOTTOM_LEFT_RIGHT(), &rect);
     rect = CRect(CPoint(marginX, statusTop), CSize(right - marginX, CStatusStrip::Height(m_metrics)));
     m_resizer->PositionChild(&m_status, CEdges::BOTTOM_LEFT_RIGHT(), &rect);
+    // Without the folders; what they take is taken from the others' design.
+    rect = CRect(marginX, marginY, marginX, spectrogramTop + spectrogramHeight);
+    m_resizer->PositionChild(&m_tree, CEdges::TOP_LEFT_BOTTOM(), &rect);
+    m_paneShift = CSize(0, 0);
+    m_folderPane = m_settings.folderPane.value_or(HasRoomForFolders());
+    PlaceFolders();
+}
+
+/// Whether the screen has room for the folders beside all columns of the list.
+bool CMainWindow::HasRoomForFolders() const
+{
+    CRect work;
+    ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
+    auto const room = work.Width() * c_preferredPercent / 100 - 2 * m_metrics.X(c_margin) - m_metrics.X(c_paneGap);
+    return room >= m_list.LeastWidth() + FolderPaneWidth();
+}
+
+/// In pixels.
+int CMainWindow::FolderPaneWidth() const
+{
+    auto const letters = m_settings.folderPaneWidth > 0 ? m_settings.folderPaneWidth : c_paneLetters;
+    return letters * m_metrics.AverageWidth();
+}
+
+/// Gives the folders their place beside the rest, or takes it back.
+void CMainWindow::PlaceFolders()
+{
+    CRect client;
+    GetClientRect(&client);
+    auto const most = client.Width() - m_metrics.X(c_leastBesideFolders);
+    auto const width = m_folderPane ? std::max(std::min(FolderPaneWidth(), most), 0) : 0;
+    auto const shift = CSize(m_folderPane ? width + m_metrics.X(c_paneGap) : 0, width);
+    CSize const offset(shift.cx - m_paneShift.cx, 0);
+    CSize const narrower(-offset.cx, 0);
+    for (auto * const window : std::array<CWnd *, 3>{&m_list, &m_waveformPanel, &m_spectrogram})
+    {
+        m_resizer->RepositionChild(window, &offset, &narrower, false);
+    }
+    CSize const wider(shift.cy - m_paneShift.cy, 0);
+    m_resizer->RepositionChild(&m_tree, nullptr, &wider, false);
+    m_paneShift = shift;
+    m_tree.ShowWindow(m_folderPane ? SW_SHOWNA : SW_HIDE);
     m_resizer->OnSize();
+}
+
+void CMainWindow::ShowFolders(bool show)
+{
+    if (show == m_folderPane)
+    {
+        return;
+    }
+    auto const * const focus = GetFocus();
+    if (!show && focus == &m_tree)
+    {
+        m_list.SetFocus();
+    }
+    m_folderPane = show;
+    m_settings.folderPane = show;
+    KeepSettings();
+    PlaceFolders();
+    FillFolders();
+}
+
+void CMainWindow::OnShowFolders()
+{
+    ShowFolders(!m_folderPane);
+    if (m_folderPane)
+    {
+        m_tree.SetFocus();
+    }
+}
+
+/// Between folders and the rest; empty without folders.
+CRect CMainWindow::Divider()
+{
+    CRect tree;
+    m_tree.GetWindowRect(&tree);
+    ScreenToClient(&tree);
+    auto const width = m_folderPane ? m_metrics.X(c_paneGap) : 0;
+    return CRect(tree.right, tree.top, tree.right + width, tree.bottom);
+}
+
+void CMainWindow::MoveDivider(int x)
+{
+    auto const letters = (x - m_metrics.X(c_margin)) / std::max(m_metrics.AverageWidth(), 1);
+    auto const width = std::clamp(letters, workbench::Settings::least_pane_width, workbench::Settings::most_pane_width);
+    if (width != m_settings.folderPaneWidth)
+    {
+        m_settings.folderPaneWidth = width;
+        PlaceFolders();
+        UpdateWindow();
+    }
+}
+
+BOOL CMainWindow::OnSetCursor(CWnd * window, UINT hit, UINT message)
+{
+    CPoint mouse;
+    ::GetCursorPos(&mouse);
+    ScreenToClient(&mouse);
+    if (window == this && hit == HTCLIENT && Divider().PtInRect(mouse))
+    {
+        ::SetCursor(::LoadCursorW(nullptr, IDC_SIZEWE));
+        return TRUE;
+    }
+    return CWnd::OnSetCursor(window, hit, message);
+}
+
+void CMainWindow::OnLButtonDown(UINT flags, CPoint point)
+{
+    if (auto const divider = Divider(); divider.PtInRect(point))
+    {
+        m_dividerGrip = point.x - divider.left;
+        SetCapture();
+    }
+    CWnd::OnLButtonDown(flags, point);
+}
+
+void CMainWindow::OnMouseMove(UINT flags, CPoint point)
+{
+    if (m_dividerGrip >= 0 && GetCapture() == this)
+    {
+        MoveDivider(point.x - m_dividerGrip);
+    }
+    CWnd::OnMouseMove(flags, point);
+}
+
+void CMainWindow::OnLButtonUp(UINT flags, CPoint point)
+{
+    if (m_dividerGrip >= 0 && GetCapture() == this)
+    {
+        ::ReleaseCapture();
+    }
+    CWnd::OnLButtonUp(flags, point);
+}
+
+void CMainWindow::OnCaptureChanged(CWnd * window)
+{
+    if (m_dividerGrip >= 0)
+    {
+        m_dividerGrip = -1;
+        KeepSettings();
+    }
+    CWnd::OnCaptureChanged(window);
 }
 
 void CMainWindow::OnDropFiles(HDROP drop)
@@ -219,6 +388,7 @@ void CMainWindow::OnDropFiles(HDROP drop)
     ::DragFinish(drop);
     SetForegroundWindow();
     ShowTargets(std::move(files));
+    m_rememberFolders = true;
 }
 
 BOOL CMainWindow::PreTranslateMessage(MSG * message)
@@ -232,6 +402,11 @@ BOOL CMainWindow::PreTranslateMessage(MSG * message)
         if (GetFocus() == &m_list)
         {
             ReadAgain(m_list.ChosenLine());
+            return TRUE;
+        }
+        if (GetFocus() == &m_tree)
+        {
+            m_tree.ChooseSelected();
             return TRUE;
         }
     }
@@ -346,6 +521,7 @@ void CMainWindow::OnEndSession(BOOL ending)
 
 void CMainWindow::OnDestroy()
 {
+    m_tree.Stop();
     m_search.reset();
     m_queue.reset();
     m_notes.reset();

@@ -12,15 +12,17 @@
 #include <vector>
 
 #include "DetailsDialog.h"
+#include "FolderTree.h"
 #include "MeasurePanel.h"
-#include "RecordingList.h"
 #include "PreviewDialog.h"
+#include "RecordingList.h"
 #include "ScreenMetrics.h"
 #include "SettingsDialog.h"
 #include "SpectrogramView.h"
 #include "StatusStrip.h"
-#include "WaveformView.h"
+#include "WaveformPanel.h"
 #include "WindowMenu.h"
+#include "frame/LifeWatch.h"
 #include "layout/DialogResizer.h"
 #include "logic/AnalysisQueue.h"
 #include "logic/NotesStore.h"
@@ -61,6 +63,18 @@ public:
 
     /// The list, for what a walk does in place of a user.
     CRecordingList & List() { return m_list; }
+
+    /// The tree of folders, the waveform, and what is set, for what a walk or a test looks at.
+    CFolderTree & Folders() { return m_tree; }
+    CWaveformView & Waveform() { return m_waveformPanel.View(); }
+    workbench::Settings const & Settings() const { return m_settings; }
+
+    /// Whether the tree of folders shows, and its showing by the program, which is remembered as the user's is.
+    bool ShowsFolders() const { return m_folderPane; }
+    void ShowFolders(bool show);
+
+    /// Lets the user choose the list's columns at a place of the screen.
+    void ChooseColumns(CPoint screen);
 
     /// Opens the details of a recording, or shows them in the open window. Gives false for one that does not exist or
     /// is not read.
@@ -109,6 +123,15 @@ private:
     afx_msg void OnActivate(UINT state, CWnd * other, BOOL minimized);
     afx_msg void OnSetFocus(CWnd * previous);
     afx_msg void OnDropFiles(HDROP drop);
+    afx_msg BOOL OnSetCursor(CWnd * window, UINT hit, UINT message);
+    afx_msg void OnLButtonDown(UINT flags, CPoint point);
+    afx_msg void OnMouseMove(UINT flags, CPoint point);
+    afx_msg void OnLButtonUp(UINT flags, CPoint point);
+    afx_msg void OnCaptureChanged(CWnd * window);
+    afx_msg void OnShowFolders();
+    afx_msg void OnChooseColumns();
+    afx_msg void OnExportList();
+    afx_msg void OnAmplify(UINT id);
     afx_msg void OnOpenFiles();
     afx_msg void OnOpenFolder();
     afx_msg void OnReload();
@@ -161,6 +184,17 @@ private:
     void DrawPage(CDC & dc, CRect const & page);
     CDetailsDialog::Actions DetailsActions();
     void RememberPlace();
+    bool HasRoomForFolders() const;
+    int FolderPaneWidth() const;
+    void PlaceFolders();
+    CRect Divider();
+    void MoveDivider(int x);
+    void KeepSettings();
+    void OpenFolder(std::filesystem::path const & folder);
+    void ChooseFile(std::filesystem::path const & file);
+    int LineOf(std::filesystem::path const & file) const;
+    void FillFolders();
+    void ShowInFolders();
     void OnListChanged(unsigned changes);
     void Work();
     void StopWork();
@@ -190,7 +224,8 @@ private:
     workbench::ScreenMetrics m_metrics;
     CFensterManager m_memory;
     CRecordingList m_list;
-    CWaveformView m_waveform;
+    CFolderTree m_tree;
+    CWaveformPanel m_waveformPanel;
     CSpectrogramView m_spectrogram;
     std::shared_ptr<workbench::RecordingAnalysis const> m_shown; ///< in both views; null for a text
     std::wstring m_shownText;
@@ -203,19 +238,24 @@ private:
     CPreviewDialog m_preview;
     workbench::Settings m_settings;
     std::unique_ptr<CDialogResizer> m_resizer;
+    bool m_folderPane = false;       ///< the folders show
+    CSize m_paneShift = CSize(0, 0); ///< what they take of the rest's width, and their own
+    int m_dividerGrip = -1;          ///< while the user moves their edge: how far from it
     HACCEL m_accelerators = nullptr;
     HWND m_lastFocus = nullptr;
     int m_raises = 0; ///< how often the dialogs are still to be looked after
 
     std::vector<std::filesystem::path> m_targets;
-    std::vector<std::filesystem::path> m_missing; ///< those of the targets that do not exist
-    std::vector<std::filesystem::path> m_found;   ///< the files to list
-    std::size_t m_listed = 0;                     ///< how many of them have been
-    std::vector<Recording> m_recordings;          ///< the lines of the list
-    bool m_reloading = false;                     ///< the search is for the files that are shown
-    std::size_t m_toReread = 0;                   ///< how many of the last lines wait to be queued again
-    bool m_valuesChanged = false;                 ///< since the lines were sorted
-    std::optional<Order> m_order;                 ///< the lines will be sorted so again
+    std::vector<std::filesystem::path> m_openedFolders; ///< those of the targets that are folders
+    bool m_rememberFolders = false;                     ///< as opened by the user
+    std::vector<std::filesystem::path> m_missing;       ///< those of the targets that do not exist
+    std::vector<std::filesystem::path> m_found;         ///< the files to list
+    std::size_t m_listed = 0;                           ///< how many of them have been
+    std::vector<Recording> m_recordings;                ///< the lines of the list
+    bool m_reloading = false;                           ///< the search is for the files that are shown
+    std::size_t m_toReread = 0;                         ///< how many of the last lines wait to be queued again
+    bool m_valuesChanged = false;                       ///< since the lines were sorted
+    std::optional<Order> m_order;                       ///< the lines will be sorted so again
     /// What was known, before a reload, of the files to list.
     std::unordered_map<std::wstring, std::shared_ptr<workbench::RecordingAnalysis const>> m_known;
     std::filesystem::path m_chooseFile;                       ///< to be chosen once it is listed
@@ -226,4 +266,5 @@ private:
     std::unique_ptr<workbench::NotesStore> m_notes;
     std::unique_ptr<workbench::RecordingSearch> m_search;
     std::unique_ptr<workbench::AnalysisQueue> m_queue;
+    LifeSign m_life;
 };

@@ -4,15 +4,31 @@
 
 #include <algorithm>
 
+#include "ExportDialog.h"
 #include "FileDialogs.h"
+#include "OpenFolderDialog.h"
 #include "PictureCopy.h"
+#include "RecordingColumns.h"
 #include "SettingsFile.h"
 #include "colours/Farbtabellen.h"
+#include "controls/IdNameMultiselectDlg.h"
 #include "dialogs/SprachauswahlDlg.h"
+#include "logic/Amplification.h"
+#include "logic/SafeFile.h"
+#include "logic/TableText.h"
 #include "logic/Texts.h"
 #include "resource.h"
 
 using workbench::Text;
+
+namespace
+{
+
+// The size of the choice of columns, in dialog units.
+constexpr int c_columnsWidth = 90;
+constexpr int c_columnsHeight = 128;
+
+} // namespace
 
 std::array<CWorkbenchDialog *, 3> CMainWindow::Dialogs()
 {
@@ -36,10 +52,8 @@ void CMainWindow::PrepareDialogs()
             }
         };
     }
-    m_settingsDialog.m_onAccepted = [this](workbench::Settings settings) {
-        settings.spectrogramScale = m_settings.spectrogramScale; // which the dialog doesn't have
-        TakeSettings(settings);
-    };
+    m_settingsDialog.m_current = [this] { return m_settings; };
+    m_settingsDialog.m_onAccepted = [this](workbench::Settings const & settings) { TakeSettings(settings); };
     m_panel.m_onScale = [this](unsigned int scale) {
         auto settings = m_settings;
         settings.spectrogramScale = scale;
@@ -58,15 +72,100 @@ void CMainWindow::FollowSettings(workbench::Settings const & settings)
     }
     m_panel.ChooseScale(settings.spectrogramScale);
     m_spectrogram.SetColours(Farbtabellen::SpektrogrammFarbtabelle(settings.spectrogramScale));
+    Waveform().SetColours(settings.waveform);
+    Waveform().SetAmplification(settings.amplification);
+    if (settings.hiddenColumns != m_list.HiddenColumns())
+    {
+        m_list.SetHiddenColumns(settings.hiddenColumns);
+    }
+    m_tree.AddPlaces(settings.startFolders);
     m_preview.Update();
 }
 
 void CMainWindow::TakeSettings(workbench::Settings const & settings)
 {
     FollowSettings(settings);
-    if (!workbench::StoreSettings(settings))
+    KeepSettings();
+}
+
+void CMainWindow::KeepSettings()
+{
+    if (!workbench::StoreSettings(m_settings))
     {
         AfxMessageBox(Text(L"The settings could not be stored."), MB_ICONEXCLAMATION);
+    }
+}
+
+void CMainWindow::OnChooseColumns()
+{
+    CRect titles;
+    m_list.GetHeaderCtrl()->GetWindowRect(&titles);
+    ChooseColumns(CPoint(titles.left, titles.bottom));
+}
+
+void CMainWindow::ChooseColumns(CPoint screen)
+{
+    m_list.EndEditing();
+    CIdNameMultiselectDlg dialog(this);
+    dialog.m_control.SetTheMap(workbench::ColumnNames());
+    dialog.m_control.SetSelection(workbench::ShownColumns(m_settings.hiddenColumns));
+    dialog.m_control.ShowGroupedSelection(false);
+    CRect work;
+    ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
+    CSize const size(m_metrics.X(c_columnsWidth), m_metrics.Y(c_columnsHeight));
+    CPoint const corner(std::clamp<int>(screen.x, work.left, std::max<int>(work.right - size.cx, work.left)),
+                        std::clamp<int>(screen.y, work.top, std::max<int>(work.bottom - size.cy, work.top)));
+    dialog.m_placement = CRect(corner, size);
+    LifeWatch const life(m_life);
+    if (dialog.DoModal() != IDOK || life.Over() || m_hWnd == nullptr)
+    {
+        return;
+    }
+    auto settings = m_settings;
+    settings.hiddenColumns = workbench::HiddenColumns(dialog.m_control.TheSelection());
+    TakeSettings(settings);
+}
+
+/// Writes what the user wants of the list into a file.
+void CMainWindow::OnExportList()
+{
+    m_list.EndEditing();
+    CExportDialog dialog(m_settings, *this);
+    LifeWatch const life(m_life);
+    if (dialog.DoModal() != IDOK || life.Over() || m_hWnd == nullptr)
+    {
+        return;
+    }
+    m_settings.exportFile = dialog.File();
+    m_settings.exportHidden = dialog.HiddenColumns();
+    m_settings.exportLines = static_cast<int>(dialog.Lines());
+    KeepSettings();
+    auto const table = m_list.Table(dialog.Lines(), dialog.HiddenColumns());
+    if (!workbench::ReplaceWholeFile(dialog.File(), workbench::TableFile(table, dialog.File())))
+    {
+        AfxMessageBox(Text(L"This file could not be written:") + (L"\n\n" + CString(dialog.File().c_str())),
+                      MB_ICONEXCLAMATION);
+    }
+}
+
+void CMainWindow::OnAmplify(UINT id)
+{
+    auto & view = Waveform();
+    auto const present = view.Amplification();
+    switch (id)
+    {
+    case ID_AMPLIFY:
+        view.SetAmplification(std::min(present + workbench::c_amplificationStep, workbench::c_mostAmplification));
+        break;
+    case ID_REDUCE:
+        view.SetAmplification(present - workbench::c_amplificationStep);
+        break;
+    case ID_AMPLIFY_FIT:
+        view.FitAmplification();
+        break;
+    default:
+        view.SetAmplification(0);
+        break;
     }
 }
 
@@ -174,7 +273,7 @@ void CMainWindow::DrawPage(CDC & dc, CRect const & page)
     upper.bottom = page.top + (page.Height() - gap) / 2;
     auto lower = page;
     lower.top = upper.bottom + gap;
-    m_waveform.Print(dc, upper);
+    Waveform().Print(dc, upper);
     m_spectrogram.Print(dc, lower);
 }
 
@@ -227,9 +326,12 @@ void CMainWindow::OnOpenFiles()
 
 void CMainWindow::OnOpenFolder()
 {
-    if (auto const folder = workbench::ChooseFolder(*this, Text(L"Choose a folder with recordings:")))
+    COpenFolderDialog dialog(m_settings, *this);
+    LifeWatch const life(m_life);
+    if (dialog.DoModal() == IDOK && !life.Over() && m_hWnd != nullptr)
     {
-        ShowTargets({*folder});
+        ShowTargets({dialog.Folder()});
+        m_rememberFolders = true;
     }
 }
 
@@ -249,8 +351,15 @@ void CMainWindow::OnInitMenuPopup(CMenu * menu, UINT index, BOOL systemMenu)
     enable(ID_SHOW_DETAILS, read);
     enable(ID_READ_AGAIN, recording != nullptr && !recording->queued);
     enable(ID_SET_REFERENCE, IsReadable(chosen));
-    enable(ID_EDIT_COMMENT, IsReadable(chosen));
-    enable(ID_CHOOSE_RATING, IsReadable(chosen));
+    enable(ID_EDIT_COMMENT, IsReadable(chosen) && !m_list.IsHidden(CRecordingList::column_comment));
+    enable(ID_CHOOSE_RATING, IsReadable(chosen) && !m_list.IsHidden(CRecordingList::column_rating));
+    enable(ID_EXPORT_LIST, RecordingCount() > 0);
+    menu->CheckMenuItem(ID_SHOW_FOLDERS, MF_BYCOMMAND | (m_folderPane ? MF_CHECKED : MF_UNCHECKED));
+    auto const amplification = Waveform().Amplification();
+    enable(ID_AMPLIFY, Waveform().ShowsRecording() && amplification < workbench::c_mostAmplification);
+    enable(ID_REDUCE, Waveform().ShowsRecording() && amplification > 0);
+    enable(ID_AMPLIFY_NONE, amplification > 0);
+    enable(ID_AMPLIFY_FIT, Waveform().ShowsRecording());
     enable(ID_MARK_ALL, RecordingCount() > 0);
     enable(ID_MARK_NONE, RecordingCount() > 0);
     enable(ID_FIT_COLUMNS, !m_list.UserWidths().empty());

@@ -11,6 +11,7 @@
 #include "logic/CursorReading.h"
 #include "logic/RecordingDetails.h"
 #include "logic/RecordingFiles.h"
+#include "logic/StoredLists.h"
 #include "logic/TextFormat.h"
 #include "logic/Texts.h"
 
@@ -82,6 +83,8 @@ void CMainWindow::ShowTargets(std::vector<std::filesystem::path> targets)
 {
     StopWork();
     m_targets = std::move(targets);
+    m_openedFolders.clear();
+    m_rememberFolders = false;
     m_missing.clear();
     ListAnew({});
     m_order.reset();
@@ -93,6 +96,56 @@ void CMainWindow::ShowTargets(std::vector<std::filesystem::path> targets)
     ShowChosen();
     ShowProgress();
     UpdateStatusLine();
+}
+
+/// Fills the tree of folders, if it shows.
+void CMainWindow::FillFolders()
+{
+    if (!m_folderPane)
+    {
+        return;
+    }
+    m_tree.AddPlaces(m_settings.startFolders);
+    m_tree.AddPlaces(m_settings.recentFolders);
+    m_tree.ShowOpened(m_openedFolders);
+    ShowInFolders();
+}
+
+/// Selects the chosen recording in the tree of folders, unless the user is at work there.
+void CMainWindow::ShowInFolders()
+{
+    auto const * const chosen = RecordingAt(m_list.ChosenLine());
+    if (m_folderPane && chosen != nullptr && GetFocus() != &m_tree)
+    {
+        m_tree.SelectRecording(chosen->file);
+    }
+}
+
+/// Shows a folder of the tree.
+void CMainWindow::OpenFolder(std::filesystem::path const & folder)
+{
+    if (m_targets.size() != 1 || !workbench::IsSameFolder(m_targets.front(), folder))
+    {
+        ShowTargets({folder});
+    }
+}
+
+int CMainWindow::LineOf(std::filesystem::path const & file) const
+{
+    auto const found = std::ranges::find(m_recordings, file, &Recording::file);
+    return found != m_recordings.end() ? static_cast<int>(found - m_recordings.begin()) : -1;
+}
+
+/// Chooses a recording of the tree in the list; one that is not there, once its folder is listed.
+void CMainWindow::ChooseFile(std::filesystem::path const & file)
+{
+    if (auto const line = LineOf(file); line >= 0)
+    {
+        m_list.ChooseLine(line);
+        return;
+    }
+    ShowTargets({file.parent_path()});
+    m_chooseFile = file;
 }
 
 /// Takes all lines away and has these files listed.
@@ -188,6 +241,16 @@ LRESULT CMainWindow::OnRecordingsReady(WPARAM, LPARAM)
     {
         m_search.reset();
         m_missing = std::move(found->missing);
+        m_openedFolders = std::move(found->folders);
+        if (std::exchange(m_rememberFolders, false) && !m_openedFolders.empty())
+        {
+            for (auto const & folder : m_openedFolders)
+            {
+                workbench::PutFirst(m_settings.recentFolders, folder);
+            }
+            KeepSettings();
+        }
+        FillFolders();
         if (std::exchange(m_reloading, false))
         {
             TakeReload(std::move(found->files));
@@ -375,7 +438,7 @@ void CMainWindow::MoveCursorToPart(int percent)
 {
     if (auto const * const chosen = RecordingAt(m_list.ChosenLine()); chosen != nullptr && chosen->analysis)
     {
-        m_waveform.MoveCursor(chosen->analysis->info.frames / 100 * static_cast<unsigned>(percent));
+        Waveform().MoveCursor(chosen->analysis->info.frames / 100 * static_cast<unsigned>(percent));
     }
 }
 
@@ -399,7 +462,7 @@ void CMainWindow::ShowText(wchar_t const * title, wchar_t const * text)
     }
     m_shownText = shown;
     m_shown.reset();
-    m_waveform.ShowText(title, text);
+    Waveform().ShowText(title, text);
     m_spectrogram.ShowText(title, text);
     m_preview.Update();
 }
@@ -457,7 +520,7 @@ void CMainWindow::ShowChosen()
         {
             m_shown = chosen->analysis;
             m_shownText.clear();
-            m_waveform.ShowRecording(name, m_shown);
+            Waveform().ShowRecording(name, m_shown);
             m_spectrogram.ShowRecording(name, chosen->file);
             m_preview.Update();
         }
@@ -468,7 +531,7 @@ void CMainWindow::ShowChosen()
 void CMainWindow::ShowReading()
 {
     auto const * const chosen = RecordingAt(m_list.ChosenLine());
-    auto const cursor = m_waveform.Cursor();
+    auto const cursor = Waveform().Cursor();
     if (!cursor || chosen == nullptr || !chosen->analysis)
     {
         m_panel.ShowReading(workbench::PositionReading(0, 0),
@@ -586,6 +649,7 @@ void CMainWindow::OnListChanged(unsigned changes)
     if ((changes & CRecordingList::changed_selection) != 0)
     {
         ShowChosen();
+        ShowInFolders();
     }
     UpdateStatusLine();
 }

@@ -71,7 +71,7 @@ bool CMeasurePanel::CreatePanel(CWnd & parent, UINT id, workbench::ScreenMetrics
     }
     for (unsigned int i = 0; created && i < c_scales; ++i)
     {
-        m_scale.AddString(Farbtabellen::SpektrogrammFarbtabellenName(i));
+        m_scale.AddItem(Farbtabellen::SpektrogrammFarbtabellenName(i), static_cast<int>(i));
     }
     ChooseScale(scale);
     return created;
@@ -113,15 +113,14 @@ void CMeasurePanel::ShowReading(std::wstring const & position, std::wstring cons
     m_level.SetText(level.c_str());
 }
 
-unsigned int CMeasurePanel::Scale() const
+unsigned int CMeasurePanel::Scale()
 {
-    auto const chosen = m_scale.GetCurSel();
-    return chosen == CB_ERR ? 0 : static_cast<unsigned int>(chosen);
+    return static_cast<unsigned int>(m_scale.GetSelectedItemData(0));
 }
 
 void CMeasurePanel::ChooseScale(unsigned int scale)
 {
-    m_scale.SetCurSel(static_cast<int>(scale < c_scales ? scale : 0));
+    m_scale.SelectItemData(static_cast<int>(scale < c_scales ? scale : 0));
 }
 
 void CMeasurePanel::OnScaleChosen()

@@ -7,6 +7,7 @@
 
 #include "ClockView.h"
 #include "ScreenMetrics.h"
+#include "controls/ComboBoxX.h"
 #include "segments/DigiStatic.h"
 
 /// The row of displays: the position in the recording and the level there, the choice of the spectrogram's colours, and
@@ -25,7 +26,7 @@ public:
     void ShowReading(std::wstring const & position, std::wstring const & level);
 
     /// The spectrogram scale that is chosen, and its choice by the program.
-    unsigned int Scale() const;
+    unsigned int Scale();
     void ChooseScale(unsigned int scale);
 
     /// Called when the user has chosen another spectrogram scale.
@@ -44,6 +45,6 @@ private:
     CStatic m_scaleLabel;
     CDigiStatic m_position;
     CDigiStatic m_level;
-    CComboBox m_scale;
+    CComboBoxX m_scale;
     CClockView m_clock;
 };

@@ -101,6 +101,8 @@ BEGIN_MESSAGE_MAP(CRecordingList, CXListCtrl)
     ON_WM_LBUTTONUP()
     ON_NOTIFY_EX(HDN_BEGINTRACKW, 0, &CRecordingList::OnBeginTrack)
     ON_NOTIFY_EX(HDN_BEGINTRACKA, 0, &CRecordingList::OnBeginTrack)
+    ON_NOTIFY_EX(HDN_DIVIDERDBLCLICKW, 0, &CRecordingList::OnDividerDoubleClick)
+    ON_NOTIFY_EX(HDN_DIVIDERDBLCLICKA, 0, &CRecordingList::OnDividerDoubleClick)
     ON_NOTIFY_EX(HDN_ENDTRACKW, 0, &CRecordingList::OnEndTrack)
     ON_NOTIFY_EX(HDN_ENDTRACKA, 0, &CRecordingList::OnEndTrack)
     ON_NOTIFY_EX_RANGE(TTN_SHOW, 0, c_lastToolId, &CRecordingList::OnToolTipShow)
@@ -139,6 +141,16 @@ bool CRecordingList::CreateList(CWnd & parent, UINT id, workbench::ScreenMetrics
     CreateColumns();
     CreateMenu();
     return true;
+}
+
+wchar_t const * CRecordingList::Title(int column)
+{
+    return column >= 0 && column < column_count ? Text(c_columns[column].title) : L"";
+}
+
+bool CRecordingList::CanBeHidden(int column)
+{
+    return column > column_name && column < column_count;
 }
 
 void CRecordingList::CreateColumns()
@@ -236,9 +248,13 @@ void CRecordingList::FitColumns()
             widths[static_cast<std::size_t>(column)] = width;
         }
     }
+    for (auto const column : m_hidden)
+    {
+        widths[static_cast<std::size_t>(column)] = 0;
+    }
     auto rest = std::max(client.Width() - std::accumulate(widths.begin(), widths.end(), 0), 0);
     auto const give = [&](Column column, int wanted) {
-        if (m_userWidths.contains(column))
+        if (m_userWidths.contains(column) || IsHidden(column))
         {
             return;
         }
@@ -381,6 +397,14 @@ void CRecordingList::ShowReference()
 void CRecordingList::SetUserWidths(std::map<int, int> const & widths)
 {
     m_userWidths = widths;
+    FitColumns();
+}
+
+void CRecordingList::SetHiddenColumns(std::set<int> const & columns)
+{
+    EndEditing();
+    m_hidden = columns;
+    std::erase_if(m_hidden, [](int column) { return !CanBeHidden(column); });
     FitColumns();
 }
 
@@ -527,11 +551,12 @@ void CRecordingList::EditComment(int line)
 {
     auto const row = PlaceOf(line);
     auto const * const cell = row >= 0 ? GetRowItemDataDirect(row, column_comment) : nullptr;
-    if (cell == nullptr || (cell->properties & XLP_EDIT) == 0)
+    if (cell == nullptr || (cell->properties & XLP_EDIT) == 0 || IsHidden(column_comment))
     {
         return;
     }
     EndEditing();
+    ShowColumn(row, column_comment);
     DrawEditControl(row, column_comment);
     PlaceEditors(line);
 }
@@ -539,12 +564,30 @@ void CRecordingList::EditComment(int line)
 void CRecordingList::ChooseRating(int line)
 {
     auto const row = PlaceOf(line);
-    if (row >= 0)
+    if (row >= 0 && !IsHidden(column_rating))
     {
         EndEditing();
-        EnsureVisible(row, FALSE);
+        ShowColumn(row, column_rating);
         DrawComboBoxControl(row, column_rating);
         PlaceEditors(line);
+    }
+}
+
+/// Scrolls a cell into view, with as much of it as there is room for.
+void CRecordingList::ShowColumn(int row, Column column)
+{
+    EnsureVisible(row, FALSE);
+    CRect client;
+    GetClientRect(&client);
+    CRect cell;
+    if (GetSubItemRect(row, column, LVIR_BOUNDS, cell))
+    {
+        auto const beyond = std::max(cell.right - client.right, 0L);
+        auto const shift = cell.left < 0 ? cell.left : std::min(beyond, cell.left);
+        if (shift != 0)
+        {
+            Scroll(CSize(static_cast<int>(shift), 0));
+        }
     }
 }
 
@@ -661,11 +704,25 @@ LRESULT CRecordingList::OnTellOpen(WPARAM line, LPARAM generation)
     return 0;
 }
 
-BOOL CRecordingList::OnBeginTrack(UINT, NMHDR *, LRESULT * result)
+BOOL CRecordingList::OnBeginTrack(UINT, NMHDR * header, LRESULT * result)
 {
+    if (IsHidden(reinterpret_cast<NMHEADERW *>(header)->iItem))
+    {
+        *result = TRUE; // stays hidden
+        return TRUE;
+    }
+    // Nothing would take an editor along.
+    EndEditing();
     m_tracking = true;
     *result = 0;
     return FALSE; // the list itself needs it, too
+}
+
+BOOL CRecordingList::OnDividerDoubleClick(UINT, NMHDR * header, LRESULT * result)
+{
+    EndEditing();
+    *result = 0;
+    return IsHidden(reinterpret_cast<NMHEADERW *>(header)->iItem);
 }
 
 BOOL CRecordingList::OnEndTrack(UINT, NMHDR * header, LRESULT * result)
@@ -875,6 +932,16 @@ void CRecordingList::OnKeyDown(UINT key, UINT repeat, UINT flags)
 
 void CRecordingList::OnContextMenu(CWnd * window, CPoint point)
 {
+    CRect titles;
+    GetHeaderCtrl()->GetWindowRect(&titles);
+    if (window == GetHeaderCtrl() || titles.PtInRect(point))
+    {
+        if (auto const onColumns = m_onColumns)
+        {
+            onColumns(point);
+        }
+        return;
+    }
     auto row = PlaceOf(ChosenLine());
     if (point == CPoint(-1, -1) && row >= 0)
     {
@@ -894,9 +961,11 @@ void CRecordingList::OnContextMenu(CWnd * window, CPoint point)
     m_menuLine = LineAt(row);
     m_menuGeneration = m_generation;
     auto const readable = GetItemCheckedState(row, column_reference) != XLC_NONE;
-    for (auto const id : {ID_SET_REFERENCE, ID_EDIT_COMMENT, ID_CHOOSE_RATING})
-    {
-        PopUpMenu().EnableMenuItem(static_cast<UINT>(id), MF_BYCOMMAND | (readable ? MF_ENABLED : MF_GRAYED));
-    }
+    auto const enable = [this](UINT id, bool enabled) {
+        PopUpMenu().EnableMenuItem(id, MF_BYCOMMAND | (enabled ? MF_ENABLED : MF_GRAYED));
+    };
+    enable(ID_SET_REFERENCE, readable);
+    enable(ID_EDIT_COMMENT, readable && !IsHidden(column_comment));
+    enable(ID_CHOOSE_RATING, readable && !IsHidden(column_rating));
     CXListCtrl::OnContextMenu(window, point);
 }

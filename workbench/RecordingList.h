@@ -8,6 +8,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -79,6 +80,13 @@ public:
 
     /// Called when the user wants to see a line's recording in detail.
     std::function<void(int line)> m_onOpen;
+
+    /// Called when the user wants to choose the columns at a place of the screen.
+    std::function<void(CPoint screen)> m_onColumns;
+
+    /// A column's title in the present language, and whether the user can hide it.
+    static wchar_t const * Title(int column);
+    static bool CanBeHidden(int column);
 
     /// Creates the list with its columns and its context menu, whose commands are those of the workbench. The font is
     /// the metrics' and must outlive the window.
@@ -167,6 +175,21 @@ public:
     std::map<int, int> const & UserWidths() const { return m_userWidths; }
     void SetUserWidths(std::map<int, int> const & widths);
 
+    /// The columns that don't show. Neither do they go into copies.
+    std::set<int> const & HiddenColumns() const { return m_hidden; }
+    void SetHiddenColumns(std::set<int> const & columns);
+    bool IsHidden(int column) const { return m_hidden.contains(column); }
+
+    /// Recordings that a table can be of.
+    enum class Lines
+    {
+        all,
+        selected, ///< all where none is
+        marked
+    };
+    /// The recordings in their order as a table, without those columns, without check boxes and pictures.
+    workbench::TextTable Table(Lines lines, std::set<int> const & without);
+
     /// The middle of a cell in client pixels.
     CPoint CellCentre(int line, Column column);
 
@@ -193,6 +216,7 @@ private:
     afx_msg void OnMouseMove(UINT flags, CPoint point);
     afx_msg void OnLButtonUp(UINT flags, CPoint point);
     afx_msg BOOL OnBeginTrack(UINT id, NMHDR * header, LRESULT * result);
+    afx_msg BOOL OnDividerDoubleClick(UINT id, NMHDR * header, LRESULT * result);
     afx_msg BOOL OnEndTrack(UINT id, NMHDR * header, LRESULT * result);
     afx_msg BOOL OnToolTipShow(UINT id, NMHDR * header, LRESULT * result);
     afx_msg LRESULT OnTellChanges(WPARAM, LPARAM);
@@ -232,8 +256,10 @@ private:
     static int CompareInList(long long a, long long b, long long list);
     int CompareRows(int a, int b) const;
     double SortValue(int row);
-    std::vector<int> RowsToCopy(bool all) const;
-    workbench::TextTable TableOf(std::vector<int> const & rows);
+    std::vector<int> RowsOf(Lines lines) const;
+    workbench::TextTable TableOf(std::vector<int> const & rows, std::set<int> const & without);
+    std::vector<double> RanksOfTexts(int column) const;
+    void ShowColumn(int row, Column column);
     std::wstring_view TextOf(int row, int column, std::vector<wchar_t> & buffer) const;
     int WidthOf(std::wstring const & text) const;
     void Require(Column column, int width);
@@ -245,6 +271,7 @@ private:
     std::array<int, column_count> m_least{}; ///< the width that a column never goes below
     std::array<int, column_count> m_needs{}; ///< the width that shows its longest text
     std::map<int, int> m_userWidths;
+    std::set<int> m_hidden;
     bool m_fitting = false;
     bool m_tracking = false;           ///< the header's mouse capture, while it lasts, is for a divider
     int m_fittedWidth = -1;            ///< of the client area, for which the columns have their widths

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <iterator>
 #include <numeric>
+#include <string>
 #include <utility>
 
 #include "clipboard/Clipboard.h"
@@ -18,12 +19,18 @@ constexpr CRecordingList::Column c_valueColumns[] = {
     CRecordingList::column_channels,  CRecordingList::column_rate,     CRecordingList::column_peak,
     CRecordingList::column_rms,       CRecordingList::column_date,     CRecordingList::column_rating};
 
+/// Whether lines are compared as words, for which the case of letters does not count.
+bool HasWords(int column)
+{
+    return column == CRecordingList::column_name || column == CRecordingList::column_comment;
+}
+
 /// Whether lines are compared by a number that is not their cell's own: the bar of a peak has but whole percents, and
 /// check, picture and choice have none.
 bool HasOwnOrder(int column)
 {
     return column == CRecordingList::column_reference || column == CRecordingList::column_overview ||
-           column == CRecordingList::column_peak || column == CRecordingList::column_rating;
+           column == CRecordingList::column_peak || column == CRecordingList::column_rating || HasWords(column);
 }
 
 constexpr std::size_t c_textRoom = 256; // characters
@@ -87,9 +94,11 @@ void CRecordingList::SortLines(Column column, bool ascending)
     {
         // Asked for once a row, not once a comparison.
         m_sortKeys.clear();
+        auto const ranks = HasWords(column) ? RanksOfTexts(column) : std::vector<double>();
         for (int row = 0; row < LineCount(); ++row)
         {
-            m_sortKeys.push_back({GetItemProperty(row, column, XLP_SORT_LAST), SortValue(row)});
+            auto const value = ranks.empty() ? SortValue(row) : ranks[static_cast<std::size_t>(row)];
+            m_sortKeys.push_back({GetItemProperty(row, column, XLP_SORT_LAST), value});
         }
     }
     SortByColumn(column, ascending, true, HasOwnOrder(column) ? &CompareInList : nullptr);
@@ -100,6 +109,40 @@ void CRecordingList::SortLines(Column column, bool ascending)
     {
         EnsureVisible(chosen, FALSE);
     }
+}
+
+/// The places that the texts of a column have among each other as the user's language orders them; the same for texts
+/// that differ in the case of letters alone.
+std::vector<double> CRecordingList::RanksOfTexts(int column) const
+{
+    auto const count = static_cast<std::size_t>(LineCount());
+    std::vector<std::string> keys(count);
+    std::vector<wchar_t> buffer(c_textRoom);
+    constexpr DWORD flags = LCMAP_SORTKEY | NORM_IGNORECASE;
+    for (std::size_t row = 0; row < count; ++row)
+    {
+        auto const text = TextOf(static_cast<int>(row), column, buffer);
+        auto const length = static_cast<int>(text.size());
+        if (length == 0)
+        {
+            continue;
+        }
+        auto & key = keys[row];
+        auto const size = ::LCMapStringW(LOCALE_USER_DEFAULT, flags, text.data(), length, nullptr, 0);
+        key.resize(static_cast<std::size_t>(std::max(size, 0)));
+        ::LCMapStringW(LOCALE_USER_DEFAULT, flags, text.data(), length, reinterpret_cast<wchar_t *>(key.data()), size);
+    }
+    std::vector<std::size_t> order(count);
+    std::iota(order.begin(), order.end(), std::size_t(0));
+    std::ranges::sort(order, {}, [&keys](std::size_t row) -> std::string const & { return keys[row]; });
+    std::vector<double> ranks(count);
+    auto rank = 0.0;
+    for (std::size_t i = 1; i < count; ++i)
+    {
+        rank += keys[order[i]] != keys[order[i - 1]] ? 1.0 : 0.0;
+        ranks[order[i]] = rank;
+    }
+    return ranks;
 }
 
 int CRecordingList::CompareInList(long long a, long long b, long long list)
@@ -238,17 +281,27 @@ void CRecordingList::OnLButtonUp(UINT flags, CPoint point)
     }
 }
 
-std::vector<int> CRecordingList::RowsToCopy(bool all) const
+std::vector<int> CRecordingList::RowsOf(Lines lines) const
 {
     std::vector<int> rows;
-    for (auto row = all ? -1 : GetSelectedItem(); row >= 0; row = GetSelectedItemAfter(row))
+    if (lines == Lines::selected)
     {
-        rows.push_back(row);
+        for (auto row = GetSelectedItem(); row >= 0; row = GetSelectedItemAfter(row))
+        {
+            rows.push_back(row);
+        }
     }
-    if (rows.empty())
+    if (lines == Lines::all || (lines == Lines::selected && rows.empty()))
     {
         rows.resize(static_cast<std::size_t>(GetItemCount()));
         std::iota(rows.begin(), rows.end(), 0);
+    }
+    for (int row = 0; lines == Lines::marked && row < GetItemCount(); ++row)
+    {
+        if (IsChecked(LineAt(row)))
+        {
+            rows.push_back(row);
+        }
     }
     return rows;
 }
@@ -278,13 +331,19 @@ std::wstring_view CRecordingList::TextOf(int row, int column, std::vector<wchar_
     return first == text.npos ? std::wstring_view() : text.substr(first, text.find_last_not_of(blanks) - first + 1);
 }
 
-workbench::TextTable CRecordingList::TableOf(std::vector<int> const & rows)
+workbench::TextTable CRecordingList::Table(Lines lines, std::set<int> const & without)
+{
+    EndEditing();
+    return TableOf(RowsOf(lines), without);
+}
+
+workbench::TextTable CRecordingList::TableOf(std::vector<int> const & rows, std::set<int> const & without)
 {
     workbench::TextTable table;
     std::vector<int> columns;
     for (int column = 0; column < column_count; ++column)
     {
-        if (!IsCopied(column))
+        if (!IsCopied(column) || without.contains(column))
         {
             continue;
         }
@@ -315,11 +374,11 @@ workbench::TextTable CRecordingList::TableOf(std::vector<int> const & rows)
 
 bool CRecordingList::CopyToClipboard(bool all)
 {
-    auto const rows = RowsToCopy(all);
+    auto const rows = RowsOf(all ? Lines::all : Lines::selected);
     if (rows.empty())
     {
         return false;
     }
-    auto const table = TableOf(rows);
+    auto const table = TableOf(rows, m_hidden);
     return Clipboard::HtmlToClipboard(workbench::HtmlTable(table).c_str(), workbench::PlainTable(table).c_str());
 }

@@ -6,6 +6,8 @@
 #include <sstream>
 #include <string>
 
+#include "logic/Amplification.h"
+#include "logic/StoredLists.h"
 #include "logic/Texts.h"
 
 namespace workbench
@@ -25,21 +27,42 @@ constexpr wchar_t c_columnWidths[] = L"ColumnWidths"; // the average width of a 
 constexpr wchar_t c_company[] = L"Instrument Suite";
 constexpr wchar_t c_program[] = L"Instrument Workbench";
 constexpr wchar_t c_notesName[] = L"Notes.txt";
-constexpr wchar_t c_separator = L'|'; // no name of a folder has it
+constexpr wchar_t c_recentFolders[] = L"RecentFolders";
+constexpr wchar_t c_traceColour[] = L"TraceColour";
+constexpr wchar_t c_backgroundColour[] = L"BackgroundColour";
+constexpr wchar_t c_gridColour[] = L"GridColour";
+constexpr wchar_t c_cursorColour[] = L"CursorColour";
+constexpr wchar_t c_amplification[] = L"Amplification";
+constexpr wchar_t c_hiddenColumns[] = L"HiddenColumns";
+constexpr wchar_t c_folderPane[] = L"FolderPane"; // 0: hidden, 1: shown, else not said
+constexpr wchar_t c_folderPaneWidth[] = L"FolderPaneWidth";
+constexpr wchar_t c_exportFile[] = L"ExportFile";
+constexpr wchar_t c_exportHidden[] = L"ExportHidden";
+constexpr wchar_t c_exportLines[] = L"ExportLines";
 
-std::vector<std::filesystem::path> Split(std::wstring const & text)
+constexpr int c_mostColumns = 100; // more than any list of the workbench has
+constexpr int c_lineChoices = 3;
+
+std::wstring ReadText(wchar_t const * entry)
 {
-    std::vector<std::filesystem::path> parts;
-    for (std::size_t begin = 0; begin < text.size();)
-    {
-        auto const end = std::min(text.find(c_separator, begin), text.size());
-        if (end > begin)
-        {
-            parts.emplace_back(text.substr(begin, end - begin));
-        }
-        begin = end + 1;
-    }
-    return parts;
+    return AfxGetApp()->GetProfileString(c_section, entry).GetString();
+}
+
+bool WriteText(wchar_t const * entry, std::wstring const & text)
+{
+    return AfxGetApp()->WriteProfileString(c_section, entry, text.c_str()) != FALSE;
+}
+
+/// The number, or what else it is to be where it is out of its limits.
+int ReadNumber(wchar_t const * entry, int least, int most, int otherwise)
+{
+    auto const number = static_cast<int>(AfxGetApp()->GetProfileInt(c_section, entry, otherwise));
+    return number >= least && number <= most ? number : otherwise;
+}
+
+void ReadColour(wchar_t const * entry, COLORREF & colour)
+{
+    colour = ColourOf(ReadText(entry)).value_or(colour);
 }
 
 } // namespace
@@ -55,30 +78,59 @@ Settings ReadSettings()
     Settings settings;
     settings.fadeIn = app.GetProfileInt(c_section, c_fadeIn, settings.fadeIn) != 0;
     settings.dragByBackground = app.GetProfileInt(c_section, c_dragByBackground, settings.dragByBackground) != 0;
-    auto const opacity = static_cast<int>(app.GetProfileInt(c_section, c_inactiveOpacity, settings.inactiveOpacity));
-    if (opacity >= Settings::least_opacity && opacity <= Settings::most_opacity)
-    {
-        settings.inactiveOpacity = opacity;
-    }
+    settings.inactiveOpacity =
+        ReadNumber(c_inactiveOpacity, Settings::least_opacity, Settings::most_opacity, settings.inactiveOpacity);
     settings.spectrogramScale =
         app.GetProfileInt(c_section, c_spectrogramScale, static_cast<int>(settings.spectrogramScale));
-    settings.startFolders = Split(app.GetProfileString(c_section, c_startFolders).GetString());
+    settings.startFolders = FoldersOf(ReadText(c_startFolders));
+    settings.recentFolders = FoldersOf(ReadText(c_recentFolders));
+    if (settings.recentFolders.size() > c_mostRecentFolders)
+    {
+        settings.recentFolders.resize(c_mostRecentFolders);
+    }
+    ReadColour(c_traceColour, settings.waveform.trace);
+    ReadColour(c_backgroundColour, settings.waveform.background);
+    ReadColour(c_gridColour, settings.waveform.grid);
+    ReadColour(c_cursorColour, settings.waveform.cursor);
+    settings.amplification =
+        CheckedAmplification(static_cast<int>(app.GetProfileInt(c_section, c_amplification, settings.amplification)));
+    settings.hiddenColumns = NumbersOf(ReadText(c_hiddenColumns), c_mostColumns);
+    if (auto const shown = ReadNumber(c_folderPane, 0, 1, -1); shown >= 0)
+    {
+        settings.folderPane = shown != 0;
+    }
+    settings.folderPaneWidth = ReadNumber(c_folderPaneWidth, Settings::least_pane_width, Settings::most_pane_width, 0);
+    settings.exportFile = ReadText(c_exportFile);
+    settings.exportHidden = NumbersOf(ReadText(c_exportHidden), c_mostColumns);
+    settings.exportLines = ReadNumber(c_exportLines, 0, c_lineChoices - 1, 0);
     return settings;
 }
 
 bool StoreSettings(Settings const & settings)
 {
     auto & app = *AfxGetApp();
-    std::wstring folders;
-    for (auto const & folder : settings.startFolders)
-    {
-        folders += (folders.empty() ? L"" : std::wstring(1, c_separator)) + folder.wstring();
-    }
     return app.WriteProfileInt(c_section, c_fadeIn, settings.fadeIn) &&
            app.WriteProfileInt(c_section, c_dragByBackground, settings.dragByBackground) &&
            app.WriteProfileInt(c_section, c_inactiveOpacity, settings.inactiveOpacity) &&
            app.WriteProfileInt(c_section, c_spectrogramScale, static_cast<int>(settings.spectrogramScale)) &&
-           app.WriteProfileString(c_section, c_startFolders, folders.c_str());
+           WriteText(c_startFolders, FolderText(settings.startFolders)) &&
+           WriteText(c_recentFolders, FolderText(settings.recentFolders)) &&
+           WriteText(c_traceColour, ColourText(settings.waveform.trace)) &&
+           WriteText(c_backgroundColour, ColourText(settings.waveform.background)) &&
+           WriteText(c_gridColour, ColourText(settings.waveform.grid)) &&
+           WriteText(c_cursorColour, ColourText(settings.waveform.cursor)) &&
+           StoreAmplification(settings.amplification) &&
+           WriteText(c_hiddenColumns, NumberText(settings.hiddenColumns)) &&
+           app.WriteProfileInt(c_section, c_folderPane, settings.folderPane ? *settings.folderPane : -1) &&
+           app.WriteProfileInt(c_section, c_folderPaneWidth, settings.folderPaneWidth) &&
+           WriteText(c_exportFile, settings.exportFile.wstring()) &&
+           WriteText(c_exportHidden, NumberText(settings.exportHidden)) &&
+           app.WriteProfileInt(c_section, c_exportLines, settings.exportLines);
+}
+
+bool StoreAmplification(int decibels)
+{
+    return AfxGetApp()->WriteProfileInt(c_section, c_amplification, decibels) != FALSE;
 }
 
 std::map<int, int> ReadColumnWidths(int averageWidth)

@@ -2,7 +2,11 @@
 
 #include <filesystem>
 #include <map>
+#include <optional>
+#include <set>
 #include <vector>
+
+#include "logic/WaveformColours.h"
 
 namespace workbench
 {
@@ -14,11 +18,24 @@ struct Settings
     static constexpr int least_opacity = 20;
     static constexpr int most_opacity = 100;
 
-    bool fadeIn = true;                              ///< dialogs fade in when they open
-    bool dragByBackground = true;                    ///< dialogs can be moved by their background
-    int inactiveOpacity = 50;                        ///< of dialogs that are not active, in percent
-    unsigned int spectrogramScale = 1;               ///< the number of a colour scale
-    std::vector<std::filesystem::path> startFolders; ///< opened when the program starts without others
+    bool fadeIn = true;                               ///< dialogs fade in when they open
+    bool dragByBackground = true;                     ///< dialogs can be moved by their background
+    int inactiveOpacity = 50;                         ///< of dialogs that are not active, in percent
+    unsigned int spectrogramScale = 1;                ///< the number of a colour scale
+    std::vector<std::filesystem::path> startFolders;  ///< opened when the program starts without others
+    std::vector<std::filesystem::path> recentFolders; ///< that the user has opened, the last one first
+    WaveformColours waveform;
+    int amplification = 0;            ///< of the waveform, in decibels
+    std::set<int> hiddenColumns;      ///< of the list, by their number
+    std::optional<bool> folderPane;   ///< whether the folders show; where there is room if the user has not said it
+    int folderPaneWidth = 0;          ///< in average widths of a letter; 0: as it comes
+    std::filesystem::path exportFile; ///< that the list was exported to last
+    std::set<int> exportHidden;       ///< columns that are not exported
+    int exportLines = 0;              ///< a number of CExportDialog's
+
+    /// The limits of the width of the folders.
+    static constexpr int least_pane_width = 10;
+    static constexpr int most_pane_width = 200;
 
     /// The alpha of a dialog that is not active: 0 to 255.
     unsigned char InactiveAlpha() const;
@@ -29,6 +46,9 @@ Settings ReadSettings();
 
 /// Stores the settings. False if that failed.
 bool StoreSettings(Settings const & settings);
+
+/// Stores the amplification alone, which changes often. False if that failed.
+bool StoreAmplification(int decibels);
 
 /// The column widths that the user has set, by column, in pixels. Those of a font with another average width of its
 /// letters come back scaled.

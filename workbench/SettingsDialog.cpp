@@ -1,8 +1,5 @@
 #include "SettingsDialog.h"
 
-#include <algorithm>
-
-#include "dialogs/FolderDialog.h"
 #include "logic/Texts.h"
 #include "resource.h"
 
@@ -12,18 +9,23 @@ using workbench::Text;
 namespace
 {
 
-constexpr int c_opacities[] = {25, 50, 75, 100}; // percent
-constexpr int c_textRoom = 8;                    // pixels beside a folder in the list
+// Lengths in dialog units.
+constexpr int c_marginX = 7;
+constexpr int c_marginY = 5;
+constexpr int c_gap = 4;
 
 } // namespace
 
 BEGIN_MESSAGE_MAP(CSettingsDialog, CWorkbenchDialog)
-    ON_BN_CLICKED(IDC_ADD_FOLDER, &CSettingsDialog::OnAddFolder)
-    ON_BN_CLICKED(IDC_REMOVE_FOLDER, &CSettingsDialog::OnRemoveFolder)
-    ON_LBN_SELCHANGE(IDC_START_FOLDERS, &CSettingsDialog::OnFolderChosen)
+    ON_BN_CLICKED(IDC_APPLY, &CSettingsDialog::OnApply)
 END_MESSAGE_MAP()
 
 CSettingsDialog::CSettingsDialog(CWnd & owner) : CWorkbenchDialog(IDD_SETTINGS, L"Settings", owner) {}
+
+std::array<CSettingsGroup *, 4> CSettingsDialog::Groups()
+{
+    return {&m_start, &m_waveform, &m_list, &m_dialogs};
+}
 
 bool CSettingsDialog::OpenWith(Settings const & settings)
 {
@@ -38,138 +40,85 @@ bool CSettingsDialog::OpenWith(Settings const & settings)
 BOOL CSettingsDialog::OnInitDialog()
 {
     CWorkbenchDialog::OnInitDialog();
-    FillFolders();
-    for (auto const id : {IDC_START_GROUP, IDC_START_FOLDERS})
+    PlaceGroups();
+    D3dLayoutChild(IDD_SETTINGS_START, CEdges::TOP_LEFT_BOTTOM_RIGHT(), nullptr);
+    for (auto const id : {IDD_SETTINGS_WAVEFORM, IDD_SETTINGS_LIST, IDD_SETTINGS_DIALOGS})
     {
-        D3dLayoutChild(id, CEdges::TOP_LEFT_BOTTOM_RIGHT(), nullptr);
+        D3dLayoutChild(id, CEdges::BOTTOM_LEFT_RIGHT(), nullptr);
     }
-    D3dLayoutChild(IDC_START_NOTE, CEdges::TOP_LEFT_RIGHT(), nullptr);
-    for (auto const id : {IDC_ADD_FOLDER, IDC_REMOVE_FOLDER})
-    {
-        D3dLayoutChild(id, CEdges::TOP_RIGHT(), nullptr);
-    }
-    D3dLayoutChild(IDC_DIALOG_GROUP, CEdges::BOTTOM_LEFT_RIGHT(), nullptr);
-    for (auto const id : {IDC_FADE_IN, IDC_DRAG_BACKGROUND, IDC_OPACITY_NOTE, IDC_OPACITY})
-    {
-        D3dLayoutChild(id, CEdges::BOTTOM_LEFT(), nullptr);
-    }
-    for (auto const id : {IDOK, IDCANCEL})
+    for (auto const id : {IDOK, IDCANCEL, IDC_APPLY})
     {
         D3dLayoutChild(id, CEdges::BOTTOM_RIGHT(), nullptr);
     }
     D3dLayoutComplete(CDialogResizer::RESIZE_BOTH);
-    return TRUE;
+    EnableApply(false);
+    GotoDlgCtrl(GetNextDlgTabItem(nullptr));
+    return FALSE;
 }
 
-void CSettingsDialog::DoDataExchange(CDataExchange * exchange)
+/// Puts the groups below one another, in front of the buttons for the tab key.
+void CSettingsDialog::PlaceGroups()
 {
-    CWorkbenchDialog::DoDataExchange(exchange);
-    DDX_Control(exchange, IDC_START_FOLDERS, m_folders);
-    if (!exchange->m_bSaveAndValidate)
+    CRect margins(c_marginX, c_marginY, c_marginX, c_marginY + c_gap);
+    MapDialogRect(&margins);
+    CPoint corner = margins.TopLeft();
+    HWND before = HWND_TOP;
+    for (auto * const group : Groups())
     {
-        m_fadeIn = m_settings.fadeIn;
-        m_dragByBackground = m_settings.dragByBackground;
-        auto & box = *static_cast<CComboBox *>(GetDlgItem(IDC_OPACITY));
-        for (auto const opacity : c_opacities)
+        if (!group->CreateGroup(*this))
         {
-            CString text;
-            text.Format(L"%d", opacity);
-            box.AddString(text);
+            continue;
+        }
+        CRect place;
+        group->GetWindowRect(&place);
+        ::SetWindowPos(group->m_hWnd, before, corner.x, corner.y, 0, 0, SWP_NOSIZE | SWP_NOACTIVATE);
+        group->Show(m_settings);
+        group->m_onChanged = [this] { EnableApply(true); };
+        group->ShowWindow(SW_SHOWNA);
+        corner.y += place.Height() + margins.bottom - margins.top;
+        before = group->m_hWnd;
+    }
+}
+
+bool CSettingsDialog::Apply()
+{
+    auto settings = m_current ? m_current() : m_settings;
+    for (auto * const group : Groups())
+    {
+        if (!group->Take(settings))
+        {
+            return false;
         }
     }
-    DDX_Check(exchange, IDC_FADE_IN, m_fadeIn);
-    DDX_Check(exchange, IDC_DRAG_BACKGROUND, m_dragByBackground);
-    auto opacity = exchange->m_bSaveAndValidate ? 0 : m_settings.inactiveOpacity;
-    DDX_CBInt(exchange, IDC_OPACITY, opacity);
-    if (exchange->m_bSaveAndValidate)
+    m_settings = settings;
+    EnableApply(false);
+    // A copy, as what it does may replace it.
+    if (auto const onAccepted = m_onAccepted)
     {
-        exchange->PrepareCtrl(IDC_OPACITY);
-        if (opacity < Settings::least_opacity || opacity > Settings::most_opacity)
-        {
-            AfxMessageBox(Text(L"The opacity must be between 20 and 100 percent."), MB_ICONEXCLAMATION);
-            exchange->Fail();
-        }
-        m_settings.inactiveOpacity = opacity;
-        m_settings.fadeIn = m_fadeIn != FALSE;
-        m_settings.dragByBackground = m_dragByBackground != FALSE;
+        onAccepted(settings);
     }
+    return true;
+}
+
+void CSettingsDialog::EnableApply(bool enabled)
+{
+    auto & button = *GetDlgItem(IDC_APPLY);
+    if (!enabled && GetFocus() == &button)
+    {
+        GotoDlgCtrl(GetDlgItem(IDOK));
+    }
+    button.EnableWindow(enabled);
+}
+
+void CSettingsDialog::OnApply()
+{
+    Apply();
 }
 
 void CSettingsDialog::OnOK()
 {
-    if (!UpdateData())
+    if (Apply())
     {
-        return;
+        CWorkbenchDialog::OnOK();
     }
-    m_settings.startFolders.clear();
-    for (int i = 0; i < m_folders.GetCount(); ++i)
-    {
-        CString folder;
-        m_folders.GetText(i, folder);
-        m_settings.startFolders.emplace_back(folder.GetString());
-    }
-    if (m_onAccepted)
-    {
-        m_onAccepted(m_settings);
-    }
-    CWorkbenchDialog::OnOK();
-}
-
-void CSettingsDialog::FillFolders()
-{
-    for (auto const & folder : m_settings.startFolders)
-    {
-        AddFolder(folder.wstring().c_str());
-    }
-    ShowRemovable();
-}
-
-void CSettingsDialog::AddFolder(CString const & folder)
-{
-    m_folders.AddString(folder);
-    CClientDC dc(&m_folders);
-    auto * const font = dc.SelectObject(m_folders.GetFont());
-    auto const width = dc.GetTextExtent(folder).cx + c_textRoom;
-    dc.SelectObject(font);
-    m_folders.SetHorizontalExtent(std::max(m_folders.GetHorizontalExtent(), static_cast<int>(width)));
-}
-
-void CSettingsDialog::OnAddFolder()
-{
-    CFolderDialog dialog(m_hWnd);
-    dialog.SetTitleMessage(Text(L"Choose a folder that is opened at the start:"));
-    if (dialog.DoModal() == IDOK && m_folders.FindStringExact(-1, dialog.GetPathName()) == LB_ERR)
-    {
-        AddFolder(dialog.GetPathName());
-        m_folders.SetCurSel(m_folders.GetCount() - 1);
-        ShowRemovable();
-    }
-}
-
-void CSettingsDialog::OnRemoveFolder()
-{
-    auto const chosen = m_folders.GetCurSel();
-    if (chosen == LB_ERR)
-    {
-        return;
-    }
-    m_folders.DeleteString(static_cast<UINT>(chosen));
-    m_folders.SetCurSel(std::min(chosen, m_folders.GetCount() - 1));
-    ShowRemovable();
-}
-
-void CSettingsDialog::OnFolderChosen()
-{
-    ShowRemovable();
-}
-
-void CSettingsDialog::ShowRemovable()
-{
-    auto & button = *GetDlgItem(IDC_REMOVE_FOLDER);
-    auto const removable = m_folders.GetCurSel() != LB_ERR;
-    if (!removable && GetFocus() == &button)
-    {
-        NextDlgCtrl();
-    }
-    button.EnableWindow(removable);
 }

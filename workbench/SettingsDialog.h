@@ -1,10 +1,15 @@
 #pragma once
 
+#include <array>
 #include <functional>
 
+#include "DialogsGroup.h"
+#include "ListGroup.h"
+#include "StartGroup.h"
+#include "WaveformGroup.h"
 #include "WorkbenchDialog.h"
 
-/// Lets the user change the settings. OK hands them over and closes the dialog.
+/// Lets the user change the settings. Apply hands them over, OK also closes the dialog.
 class CSettingsDialog : public CWorkbenchDialog
 {
 public:
@@ -13,28 +18,30 @@ public:
     /// Opens the dialog with these settings; if it is open, it is brought to the front and keeps what it shows.
     bool OpenWith(workbench::Settings const & settings);
 
-    /// Called with what OK hands over.
+    /// Gives the settings as they are when the dialog's are put into them; without it those of the opening count.
+    std::function<workbench::Settings()> m_current;
+
+    /// Called with what OK and Apply hand over.
     std::function<void(workbench::Settings const &)> m_onAccepted;
 
     BOOL OnInitDialog() override;
 
 protected:
-    void DoDataExchange(CDataExchange * exchange) override;
     void OnOK() override;
 
     DECLARE_MESSAGE_MAP()
 
 private:
-    afx_msg void OnAddFolder();
-    afx_msg void OnRemoveFolder();
-    afx_msg void OnFolderChosen();
+    afx_msg void OnApply();
 
-    void FillFolders();
-    void AddFolder(CString const & folder);
-    void ShowRemovable();
+    std::array<CSettingsGroup *, 4> Groups();
+    void PlaceGroups();
+    bool Apply();
+    void EnableApply(bool enabled);
 
     workbench::Settings m_settings;
-    CListBox m_folders;
-    BOOL m_fadeIn = FALSE;
-    BOOL m_dragByBackground = FALSE;
+    CStartGroup m_start;
+    CWaveformGroup m_waveform;
+    CListGroup m_list;
+    CDialogsGroup m_dialogs;
 };

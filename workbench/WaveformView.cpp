@@ -6,6 +6,7 @@
 
 #include "PlotParts.h"
 #include "colours/Farbtabellen.h"
+#include "logic/Amplification.h"
 #include "logic/Axis.h"
 #include "logic/TextFormat.h"
 #include "logic/Texts.h"
@@ -13,19 +14,26 @@
 namespace
 {
 
+using workbench::c_amplificationStep;
+using workbench::c_mostAmplification;
 using workbench::c_textLabel;
 using workbench::c_textOneLine;
 using workbench::DrawPlotText;
 using workbench::Text;
 using workbench::TextSize;
 
-// Scope colours by their index. Lanes beyond the last colour begin again with the first.
+// Colours on paper: of scope colours by their index. Lanes beyond the last colour begin again with the first.
 constexpr int c_laneColours[] = {7, 5, 3, 8, 19, 4};
 constexpr int c_clippedColour = 2;
-constexpr int c_cursorColour = 31;
-constexpr int c_groundColour = 24;
 
 constexpr int c_leastLaneHeight = 3; // pixels
+
+// Lengths in dialog units.
+constexpr int c_marginX = 6;
+constexpr int c_marginY = 5;
+constexpr int c_lineGap = 1;
+constexpr int c_headingGap = 3;
+constexpr int c_axisGap = 4;
 
 } // namespace
 
@@ -34,6 +42,8 @@ BEGIN_MESSAGE_MAP(CWaveformView, CBufferedView)
     ON_WM_MOUSEMOVE()
     ON_WM_LBUTTONUP()
     ON_WM_KEYDOWN()
+    ON_WM_MOUSEWHEEL()
+    ON_WM_SIZE()
     ON_WM_GETDLGCODE()
     ON_WM_SETFOCUS()
     ON_WM_KILLFOCUS()
@@ -53,6 +63,7 @@ void CWaveformView::ShowRecording(std::wstring name, std::shared_ptr<workbench::
     m_columns.clear();
     m_cursor = 0;
     Invalidate(FALSE);
+    Placed();
     if (m_onCursor)
     {
         m_onCursor();
@@ -67,6 +78,7 @@ void CWaveformView::ShowText(std::wstring title, std::wstring text)
     m_columns.clear();
     m_cursor = 0;
     Invalidate(FALSE);
+    Placed();
     if (m_onCursor)
     {
         m_onCursor();
@@ -89,15 +101,9 @@ void CWaveformView::Draw(CDC & dc, CRect const & client)
         return;
     }
     auto area = client;
-    area.DeflateRect(m_metrics->X(6), m_metrics->Y(5));
-    area.top = DrawHeading(dc, area);
-
-    auto const line = m_metrics->LineHeight();
-    auto plot = area;
-    workbench::PlotMargins const margins(dc, *m_metrics);
-    plot.left += margins.left;
-    plot.right -= margins.right;
-    plot.bottom -= line + m_metrics->Y(4);
+    area.DeflateRect(m_metrics->X(c_marginX), m_metrics->Y(c_marginY));
+    DrawHeading(dc, area);
+    auto const plot = PlotIn(dc, client);
     auto const lanes = static_cast<int>(m_analysis->waveform.Lanes());
     auto const gap = lanes > 1 ? m_metrics->Y(lanes > 8 ? 1 : 4) : 0;
     auto const pitch = static_cast<double>(plot.Height() + gap) / std::max(lanes, 1);
@@ -133,20 +139,96 @@ void CWaveformView::Print(CDC & dc, CRect const & rect)
     m_printing = false;
 }
 
-/// A scope colour, or what stands for it on paper.
-COLORREF CWaveformView::Colour(int scopeIndex) const
+/// The plot in a view of that size, below the heading. dc: with the font of the labels selected.
+CRect CWaveformView::PlotIn(CDC & dc, CRect const & client) const
 {
-    return m_printing ? Farbtabellen::DruckFarbe(scopeIndex) : Farbtabellen::ScopeFarbe(scopeIndex);
+    workbench::PlotMargins const margins(dc, *m_metrics);
+    auto plot = client;
+    plot.DeflateRect(m_metrics->X(c_marginX), m_metrics->Y(c_marginY));
+    plot.top += HeadingHeight();
+    plot.left += margins.left;
+    plot.right -= margins.right - (m_printing ? 0 : m_rightRoom);
+    plot.bottom -= m_metrics->LineHeight() + m_metrics->Y(c_axisGap);
+    return plot;
 }
 
-/// The colours around the waveform: like a scope on the screen, light on paper.
+CRect CWaveformView::PlotPlace()
+{
+    CRect client;
+    GetClientRect(&client);
+    CClientDC dc(this);
+    workbench::SelectScope const font(dc, m_metrics->Font());
+    return PlotIn(dc, client);
+}
+
+void CWaveformView::SetRightRoom(int pixels)
+{
+    m_rightRoom = pixels;
+    Invalidate(FALSE);
+}
+
+void CWaveformView::Placed()
+{
+    if (m_onPlaced)
+    {
+        m_onPlaced();
+    }
+}
+
+void CWaveformView::OnSize(UINT type, int width, int height)
+{
+    CBufferedView::OnSize(type, width, height);
+    Placed();
+}
+
+void CWaveformView::SetColours(workbench::WaveformColours const & colours)
+{
+    if (colours != m_colours)
+    {
+        m_colours = colours;
+        Invalidate(FALSE);
+    }
+}
+
+void CWaveformView::SetAmplification(int decibels)
+{
+    auto const amplification = workbench::CheckedAmplification(decibels);
+    if (amplification == m_amplification)
+    {
+        return;
+    }
+    m_amplification = amplification;
+    Invalidate(FALSE);
+    if (m_onAmplified)
+    {
+        m_onAmplified();
+    }
+}
+
+void CWaveformView::FitAmplification()
+{
+    if (ShowsRecording())
+    {
+        SetAmplification(workbench::FittingAmplification(m_analysis->levels.peak));
+    }
+}
+
+/// The colour of a channel, or what stands for it on paper.
+COLORREF CWaveformView::Trace(std::size_t channel) const
+{
+    return m_printing ? Farbtabellen::DruckFarbe(c_laneColours[channel % std::size(c_laneColours)])
+                      : workbench::TraceColour(m_colours, channel);
+}
+
+/// The colours around the waveform: the chosen ones on the screen, light on paper.
 CWaveformView::SurroundingColours CWaveformView::Surroundings() const
 {
     if (m_printing)
     {
         return {RGB(255, 255, 255), RGB(226, 230, 236), RGB(150, 160, 172), m_plotColours.label};
     }
-    return {Farbtabellen::ScopeFarbe(c_groundColour), RGB(26, 58, 110), RGB(66, 98, 146), RGB(176, 196, 224)};
+    return {m_colours.background, m_colours.grid, workbench::CentreColour(m_colours),
+            workbench::LabelColour(m_colours)};
 }
 
 void CWaveformView::DrawCursor(CDC & dc, CRect const & plot)
@@ -155,7 +237,7 @@ void CWaveformView::DrawCursor(CDC & dc, CRect const & plot)
     auto const x =
         plot.left + 1 +
         static_cast<int>(static_cast<double>(m_cursor) / static_cast<double>(m_analysis->info.frames) * width);
-    dc.FillSolidRect(x, plot.top, GetFocus() == this ? 2 : 1, plot.Height(), Colour(c_cursorColour));
+    dc.FillSolidRect(x, plot.top, GetFocus() == this ? 2 : 1, plot.Height(), m_colours.cursor);
 }
 
 std::optional<std::uint64_t> CWaveformView::Cursor() const
@@ -239,6 +321,12 @@ void CWaveformView::OnKeyDown(UINT key, UINT repeat, UINT flags)
         case VK_RIGHT:
             MoveCursor(m_cursor + std::min(last - m_cursor, step));
             return;
+        case VK_UP:
+            SetAmplification(std::min(m_amplification + c_amplificationStep, c_mostAmplification));
+            return;
+        case VK_DOWN:
+            SetAmplification(m_amplification - c_amplificationStep);
+            return;
         case VK_HOME:
             MoveCursor(0);
             return;
@@ -250,6 +338,17 @@ void CWaveformView::OnKeyDown(UINT key, UINT repeat, UINT flags)
         }
     }
     CBufferedView::OnKeyDown(key, repeat, flags);
+}
+
+BOOL CWaveformView::OnMouseWheel(UINT flags, short delta, CPoint point)
+{
+    if (!ShowsRecording())
+    {
+        return CBufferedView::OnMouseWheel(flags, delta, point);
+    }
+    auto const step = delta > 0 ? c_amplificationStep : -c_amplificationStep;
+    SetAmplification(std::clamp(m_amplification + step, 0, c_mostAmplification));
+    return TRUE;
 }
 
 void CWaveformView::OnSetFocus(CWnd * other)
@@ -280,27 +379,36 @@ void CWaveformView::DrawMessage(CDC & dc, CRect const & client)
     DrawPlotText(dc, m_text, area, DT_CENTER | DT_WORDBREAK);
 }
 
-int CWaveformView::DrawHeading(CDC & dc, CRect const & area)
+bool CWaveformView::IsDamaged() const
 {
-    auto const line = m_metrics->LineHeight();
+    return m_analysis && (m_analysis->info.IsCutOff() || m_analysis->invalidSamples > 0);
+}
+
+int CWaveformView::HeadingHeight() const
+{
+    auto const lines = IsDamaged() ? 3 : 2;
+    return lines * (m_metrics->LineHeight() + m_metrics->Y(c_lineGap)) + m_metrics->Y(c_headingGap);
+}
+
+void CWaveformView::DrawHeading(CDC & dc, CRect const & area)
+{
+    auto const pitch = m_metrics->LineHeight() + m_metrics->Y(c_lineGap);
     auto rect = area;
     {
         workbench::SelectScope const bold(dc, m_metrics->BoldFont());
         dc.SetTextColor(m_plotColours.text);
         DrawPlotText(dc, m_title, rect, DT_LEFT | c_textOneLine);
     }
-    rect.top += line + m_metrics->Y(1);
+    rect.top += pitch;
     dc.SetTextColor(m_plotColours.label);
     DrawPlotText(dc, Details(), rect, DT_LEFT | c_textOneLine);
-    rect.top += line + m_metrics->Y(1);
-    if (m_analysis->info.IsCutOff() || m_analysis->invalidSamples > 0)
+    if (IsDamaged())
     {
+        rect.top += pitch;
         dc.SetTextColor(m_plotColours.problem);
         DrawPlotText(dc, Text(L"This file is damaged") + (L": " + m_analysis->StatusText() + L'.'), rect,
                      DT_LEFT | c_textOneLine);
-        rect.top += line + m_metrics->Y(1);
     }
-    return rect.top + m_metrics->Y(3);
 }
 
 std::wstring CWaveformView::Details() const
@@ -357,12 +465,14 @@ void CWaveformView::DrawLane(CDC & dc, Lane const & lane, std::size_t index)
     dc.FillSolidRect(inside.left, lane.centre, inside.Width(), 1, Surroundings().centre);
 
     // Each column reaches over to the one before it, so that steep slopes stay one line.
+    auto const factor = static_cast<float>(workbench::AmplificationFactor(m_amplification));
     auto const y = [&](float amplitude) {
-        auto const limited = std::clamp(amplitude, -1.0F, 1.0F);
+        auto const limited = std::clamp(amplitude * factor, -1.0F, 1.0F);
         return lane.centre - static_cast<int>(std::lround(limited * static_cast<float>(lane.halfHeight)));
     };
-    auto const waveColour = Colour(c_laneColours[index % std::size(c_laneColours)]);
-    auto const clippedColour = Colour(c_clippedColour);
+    auto const waveColour = Trace(index);
+    auto const clippedColour =
+        m_printing ? Farbtabellen::DruckFarbe(c_clippedColour) : workbench::ClippedColour(m_colours);
     auto const & columns = Columns(index, inside.Width());
     auto previousTop = y(columns.front().greatest);
     auto previousBottom = y(columns.front().least);
@@ -410,7 +520,7 @@ void CWaveformView::DrawLevelGrid(CDC & dc, Lane const & lane)
             DrawPlotText(dc, label, rect, DT_RIGHT | c_textLabel);
         }
     };
-    for (auto const & level : workbench::LevelLines(lane.halfHeight, line + m_metrics->Y(1)))
+    for (auto const & level : workbench::LevelLines(lane.halfHeight, line + m_metrics->Y(1), m_amplification))
     {
         auto const height = static_cast<int>(std::lround(level.amplitude * lane.halfHeight));
         draw(lane.centre - height, level.label, true);

@@ -13,6 +13,7 @@
 #include "ScreenMetrics.h"
 #include "logic/ReadableColours.h"
 #include "logic/RecordingAnalysis.h"
+#include "logic/WaveformColours.h"
 
 /// Shows one recording: a heading, a lane for each channel with its waveform on a level grid, and a time axis; or, in
 /// its middle, a text that says why there is nothing to see.
@@ -35,6 +36,27 @@ public:
     /// Called when the cursor has moved, or there is another recording.
     std::function<void()> m_onCursor;
 
+    void SetColours(workbench::WaveformColours const & colours);
+
+    /// How much larger than it is the waveform is drawn, in decibels; what is no step of CheckedAmplification counts
+    /// as none.
+    int Amplification() const { return m_amplification; }
+    void SetAmplification(int decibels);
+    /// Makes the waveform as large as its peak allows. Nothing without a recording.
+    void FitAmplification();
+    /// Called when the amplification has changed.
+    std::function<void()> m_onAmplified;
+
+    /// Whether there is a waveform to be seen.
+    bool ShowsRecording() const { return m_analysis && !m_analysis->problem && m_analysis->info.frames > 0; }
+
+    /// So much of the room right of the plot is not the view's own but lies beside it.
+    void SetRightRoom(int pixels);
+    /// Where the plot lies in the view.
+    CRect PlotPlace();
+    /// Called when the plot can have moved.
+    std::function<void()> m_onPlaced;
+
     /// Draws what the view shows into a rectangle of any device context, in colours for white paper and without the
     /// cursor.
     void Print(CDC & dc, CRect const & rect);
@@ -47,6 +69,8 @@ private:
     afx_msg void OnMouseMove(UINT flags, CPoint point);
     afx_msg void OnLButtonUp(UINT flags, CPoint point);
     afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
+    afx_msg BOOL OnMouseWheel(UINT flags, short delta, CPoint point);
+    afx_msg void OnSize(UINT type, int width, int height);
     afx_msg UINT OnGetDlgCode();
     afx_msg void OnSetFocus(CWnd * other);
     afx_msg void OnKillFocus(CWnd * other);
@@ -61,8 +85,11 @@ private:
     void Draw(CDC & dc, CRect const & client) override;
     void DrawCursor(CDC & dc, CRect const & plot);
     void MoveCursorTo(int x);
-    bool ShowsRecording() const { return m_analysis && !m_analysis->problem && m_analysis->info.frames > 0; }
-    COLORREF Colour(int scopeIndex) const;
+    void Placed();
+    CRect PlotIn(CDC & dc, CRect const & client) const;
+    int HeadingHeight() const;
+    bool IsDamaged() const;
+    COLORREF Trace(std::size_t channel) const;
 
     struct SurroundingColours
     {
@@ -74,7 +101,7 @@ private:
     SurroundingColours Surroundings() const;
 
     void DrawMessage(CDC & dc, CRect const & client);
-    int DrawHeading(CDC & dc, CRect const & area);
+    void DrawHeading(CDC & dc, CRect const & area);
     void DrawLane(CDC & dc, Lane const & lane, std::size_t index);
     void DrawLevelGrid(CDC & dc, Lane const & lane);
     std::wstring Details() const;
@@ -90,4 +117,7 @@ private:
     CRect m_plot;                                          ///< where the lanes were drawn last
     bool m_printing = false;
     workbench::PlotColours m_plotColours{};
+    workbench::WaveformColours m_colours;
+    int m_amplification = 0; ///< decibels
+    int m_rightRoom = 0;
 };

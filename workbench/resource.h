@@ -7,10 +7,23 @@
 #define IDI_STATUS_DAMAGED 4
 #define IDI_STATUS_UNREADABLE 5
 #define IDR_MAIN_MENU 6
+#define IDI_FOLDER 7
+#define IDI_RECORDING 8
 
 #define IDD_SETTINGS 101
 #define IDD_DETAILS 102
 #define IDD_PREVIEW 103
+#define IDD_OPEN_FOLDER 104
+#define IDD_EXPORT_LIST 105
+// The groups of the settings; these are also their control ids.
+#define IDD_SETTINGS_START 111
+#define IDD_SETTINGS_WAVEFORM 112
+#define IDD_SETTINGS_LIST 113
+#define IDD_SETTINGS_DIALOGS 114
+
+#ifndef IDC_STATIC
+#define IDC_STATIC -1
+#endif
 
 // The main window.
 #define IDC_RECORDINGS 1001
@@ -23,6 +36,10 @@
 #define IDC_STATUS_TEXT 1008
 #define IDC_READING_PROGRESS 1009
 #define IDC_CANCEL_READING 1010
+#define IDC_FOLDERS 1011
+#define IDC_AMPLIFICATION 1012
+#define IDC_FIT_AMPLIFICATION 1013
+#define IDC_WAVEFORM_PANEL 1014
 
 // The settings.
 #define IDC_START_GROUP 1101
@@ -35,6 +52,15 @@
 #define IDC_DRAG_BACKGROUND 1108
 #define IDC_OPACITY_NOTE 1109
 #define IDC_OPACITY 1110
+#define IDC_NEW_FOLDER_NOTE 1111
+#define IDC_NEW_FOLDER 1112
+#define IDC_WAVEFORM_GROUP 1113
+#define IDC_STANDARD_COLOURS 1114
+#define IDC_LIST_GROUP 1115
+#define IDC_COLUMNS 1116
+#define IDC_APPLY 1117
+#define IDC_COLOUR_FIRST 1121 // trace, background, grid, cursor
+#define IDC_COLOUR_LAST 1124
 
 // The details: a label and a text for each line.
 #define IDC_DETAIL_LABEL_FIRST 1201
@@ -43,6 +69,15 @@
 // The print preview.
 #define IDC_PAGE_FRAME 1301
 #define IDC_PAGE 1302
+
+// Opening a folder and exporting the list.
+#define IDC_FOLDER_NOTE 1401
+#define IDC_FOLDER 1402
+#define IDC_BROWSE 1403
+#define IDC_EXPORT_FILE 1411
+#define IDC_FORMAT_NOTE 1412
+#define IDC_EXPORT_COLUMNS 1413
+#define IDC_EXPORT_LINES 1414
 
 #define ID_OPEN_FILES 40001
 #define ID_OPEN_FOLDER 40002
@@ -65,6 +100,13 @@
 #define ID_FIT_COLUMNS 40019
 #define ID_EDIT_COMMENT 40020
 #define ID_CHOOSE_RATING 40021
+#define ID_SHOW_FOLDERS 40022
+#define ID_CHOOSE_COLUMNS 40023
+#define ID_EXPORT_LIST 40024
+#define ID_AMPLIFY 40025
+#define ID_REDUCE 40026
+#define ID_AMPLIFY_NONE 40027
+#define ID_AMPLIFY_FIT 40028
 
 // The items of open dialogs in the window menu.
 #define ID_DIALOG_FIRST 41000

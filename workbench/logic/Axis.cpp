@@ -129,7 +129,7 @@ std::vector<FrequencyTick> FrequencyTicks(double highest, int height, int leastD
     return ticks;
 }
 
-std::vector<LevelLine> LevelLines(int halfHeight, int leastDistance)
+std::vector<LevelLine> LevelLines(int halfHeight, int leastDistance, int amplification)
 {
     std::vector<LevelLine> lines;
     for (auto const decibels : {0, -6, -12, -18, -24})
@@ -140,7 +140,7 @@ std::vector<LevelLine> LevelLines(int halfHeight, int leastDistance)
         {
             break;
         }
-        lines.push_back({amplitude, std::to_wstring(decibels)});
+        lines.push_back({amplitude, std::to_wstring(decibels - amplification)});
     }
     return lines;
 }

@@ -32,7 +32,8 @@ struct LevelLine
 
 /// The level lines of one half of a lane that is `halfHeight` pixels from the centre line to full scale: full scale
 /// and each 6 dB below it down to -24 dBFS, as long as they are `leastDistance` pixels apart and off the centre line.
-std::vector<LevelLine> LevelLines(int halfHeight, int leastDistance);
+/// Where the lane is amplified, by so many decibels, the lines stay and stand for lower levels.
+std::vector<LevelLine> LevelLines(int halfHeight, int leastDistance, int amplification = 0);
 
 /// A line of the frequency axis: pixels above its lower end, and its label.
 struct FrequencyTick

@@ -64,10 +64,15 @@ COLORREF MixedColour(COLORREF from, COLORREF to, double part)
                mix(GetBValue(from), GetBValue(to)));
 }
 
-COLORREF ReadableColour(COLORREF colour, COLORREF ground)
+COLORREF FarthestColour(COLORREF ground)
 {
-    auto const farthest = ContrastRatio(ground, c_black) > ContrastRatio(ground, c_white) ? c_black : c_white;
-    auto const fits = [ground](COLORREF mixed) { return ContrastRatio(mixed, ground) >= c_textContrast; };
+    return ContrastRatio(ground, c_black) > ContrastRatio(ground, c_white) ? c_black : c_white;
+}
+
+COLORREF ReadableColour(COLORREF colour, COLORREF ground, double contrast)
+{
+    auto const farthest = FarthestColour(ground);
+    auto const fits = [=](COLORREF mixed) { return ContrastRatio(mixed, ground) >= contrast; };
     return FirstOnTheWay(colour, farthest, fits).value_or(farthest);
 }
 

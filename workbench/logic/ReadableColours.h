@@ -17,9 +17,12 @@ constexpr double c_textContrast = 4.5;
 /// A colour on the way from one to another one; part: of the latter, up to 1.
 COLORREF MixedColour(COLORREF from, COLORREF to, double part);
 
+/// Black or white, whichever is farther from the ground.
+COLORREF FarthestColour(COLORREF ground);
+
 /// The colour if it can be read on the ground; else the nearest one on the way to black or white, whichever is farther
-/// from the ground.
-COLORREF ReadableColour(COLORREF colour, COLORREF ground);
+/// from the ground. What is no text needs less contrast.
+COLORREF ReadableColour(COLORREF colour, COLORREF ground, double contrast = c_textContrast);
 
 /// The colours of a plot around what it shows.
 struct PlotColours

@@ -32,12 +32,6 @@ NativeText LowerCase(NativeText text)
 bool RecordingsInFolder(std::filesystem::path const & folder, std::function<bool()> const & giveUp,
                         std::vector<std::filesystem::path> & files)
 {
-    struct Named
-    {
-        NativeText key;
-        std::filesystem::path path;
-    };
-    std::vector<Named> found;
     std::error_code error;
     for (std::filesystem::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error))
     {
@@ -48,20 +42,34 @@ bool RecordingsInFolder(std::filesystem::path const & folder, std::function<bool
         std::error_code ignored;
         if (HasRecordingExtension(entry->path()) && !entry->is_directory(ignored))
         {
-            found.push_back({LowerCase(entry->path().filename().native()), entry->path()});
+            files.push_back(entry->path());
         }
     }
-    std::ranges::sort(found, [](Named const & a, Named const & b) {
-        return a.key != b.key ? a.key < b.key : a.path.native() < b.path.native();
-    });
-    for (auto & named : found)
-    {
-        files.push_back(std::move(named.path));
-    }
-    return !error || !found.empty();
+    SortByName(files);
+    return !error || !files.empty();
 }
 
 } // namespace
+
+void SortByName(std::vector<std::filesystem::path> & paths)
+{
+    struct Named
+    {
+        NativeText key;
+        std::filesystem::path path;
+    };
+    std::vector<Named> named;
+    named.reserve(paths.size());
+    for (auto & path : paths)
+    {
+        auto key = LowerCase(path.filename().native());
+        named.push_back({std::move(key), std::move(path)});
+    }
+    std::ranges::sort(named, [](Named const & a, Named const & b) {
+        return a.key != b.key ? a.key < b.key : a.path.native() < b.path.native();
+    });
+    std::ranges::transform(named, paths.begin(), [](Named & each) { return std::move(each.path); });
+}
 
 bool HasRecordingExtension(std::filesystem::path const & path)
 {
@@ -80,10 +88,8 @@ FoundRecordings FindRecordings(std::span<std::filesystem::path const> targets, s
         auto const kind = std::filesystem::status(target, error).type();
         if (kind == std::filesystem::file_type::directory)
         {
-            if (!RecordingsInFolder(target, giveUp, files))
-            {
-                result.missing.push_back(target);
-            }
+            auto const read = RecordingsInFolder(target, giveUp, files);
+            (read ? result.folders : result.missing).push_back(target);
         }
         else if (kind == std::filesystem::file_type::not_found && !HasRecordingExtension(target))
         {

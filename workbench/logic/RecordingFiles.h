@@ -13,6 +13,7 @@ namespace workbench
 struct FoundRecordings
 {
     std::vector<std::filesystem::path> files;
+    std::vector<std::filesystem::path> folders; ///< those of the targets that are folders and could be read
     std::vector<std::filesystem::path> missing; ///< folders that do not exist or cannot be read
 };
 
@@ -21,6 +22,9 @@ struct FoundRecordings
 /// comes twice is taken once. giveUp, if given, is asked for each file; once it says so, what was found so far is lost.
 FoundRecordings FindRecordings(std::span<std::filesystem::path const> targets,
                                std::function<bool()> const & giveUp = {});
+
+/// Sorts paths by their last name, whatever the case of its letters.
+void SortByName(std::vector<std::filesystem::path> & paths);
 
 /// The file's extension is .wav or .wave, in any case.
 bool HasRecordingExtension(std::filesystem::path const & path);

@@ -14,7 +14,7 @@ RecordingSearch::RecordingSearch(std::vector<std::filesystem::path> targets, std
           }
           catch (std::exception const &)
           {
-              m_found = {{}, targets};
+              m_found = {{}, {}, targets};
           }
           if (!m_stop)
           {

@@ -16,6 +16,8 @@ constexpr char32_t c_endOfPlane = 0x10000;
 constexpr char32_t c_endOfCharacters = 0x110000;
 constexpr char32_t c_endOfPrintable = 0x7F; // of ASCII
 
+constexpr char c_utf8Mark[] = "\xEF\xBB\xBF";
+
 constexpr wchar_t c_rowEnd[] = L"\r\n";
 
 /// The character that begins at the place, which moves behind it; 0 for one that is none.
@@ -37,6 +39,33 @@ char32_t NextCharacter(std::wstring_view text, std::size_t & place)
     }
     ++place;
     return c_endOfPlane + ((unit - c_firstLead) << 10) + (trail - c_firstTrail);
+}
+
+void AppendUtf8(std::string & text, char32_t character)
+{
+    constexpr char32_t following = 0x80;
+    constexpr char32_t bits = 0x3F;
+    if (character < 0x80)
+    {
+        text += static_cast<char>(character);
+        return;
+    }
+    if (character < 0x800)
+    {
+        text += static_cast<char>(0xC0 | character >> 6);
+    }
+    else if (character < c_endOfPlane)
+    {
+        text += static_cast<char>(0xE0 | character >> 12);
+        text += static_cast<char>(following | (character >> 6 & bits));
+    }
+    else
+    {
+        text += static_cast<char>(0xF0 | character >> 18);
+        text += static_cast<char>(following | (character >> 12 & bits));
+        text += static_cast<char>(following | (character >> 6 & bits));
+    }
+    text += static_cast<char>(following | (character & bits));
 }
 
 /// Whether a character stands for itself in HTML.
@@ -150,6 +179,32 @@ std::wstring HtmlTable(TextTable const & table)
         html += L"</tr>\r\n";
     }
     return html + L"</table>";
+}
+
+std::string TableFile(TextTable const & table, std::filesystem::path const & file)
+{
+    auto extension = file.extension().wstring();
+    for (auto & character : extension)
+    {
+        character = character >= L'A' && character <= L'Z' ? static_cast<wchar_t>(character | 0x20) : character;
+    }
+    if (extension == L".html" || extension == L".htm")
+    {
+        std::string page = "<!DOCTYPE html>\r\n<html><head><meta charset=\"utf-8\"></head><body>\r\n";
+        for (auto const character : HtmlTable(table))
+        {
+            page += static_cast<char>(character); // plain ASCII
+        }
+        return page + "\r\n</body></html>\r\n";
+    }
+    auto const wide = PlainTable(table);
+    std::string text = c_utf8Mark;
+    for (std::size_t place = 0; place < wide.size();)
+    {
+        auto const character = NextCharacter(wide, place);
+        AppendUtf8(text, character != 0 ? character : U'?');
+    }
+    return text;
 }
 
 } // namespace workbench

@@ -1,6 +1,7 @@
 #pragma once
 // A table of texts as it goes to other programs.
 
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -26,5 +27,9 @@ std::wstring PlainTable(TextTable const & table);
 /// The table as an HTML fragment in plain ASCII: other characters are numeric references. Line breaks within a text are
 /// kept; control characters and halves of surrogate pairs are left out.
 std::wstring HtmlTable(TextTable const & table);
+
+/// What a file with the table contains: a web page where its name ends in .html or .htm, else lines in UTF-8 with its
+/// mark. Halves of surrogate pairs come out as question marks.
+std::string TableFile(TextTable const & table, std::filesystem::path const & file);
 
 } // namespace workbench

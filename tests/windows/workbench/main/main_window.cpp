@@ -1,61 +1,18 @@
 // The workbench's main window: opening folders, giving up, dialogs, and what it remembers.
 
-#include <gtest/gtest.h>
+#include "MainWindowTest.h"
 
-#include <chrono>
-#include <cstdint>
-#include <filesystem>
-#include <fstream>
-#include <memory>
-#include <string>
 #include <vector>
 
-#include "Graphics.h"
-#include "Input.h"
-#include "MainWindow.h"
-#include "MemoryPreferenceStore.h"
-#include "Pump.h"
-#include "Settings.h"
-#include "TestApp.h"
-#include "frame/PreferenceStore.h"
 #include "frame/RegisteredMessages.h"
 #include "logic/NotesStore.h"
-#include "resource.h"
 
 namespace
 {
 namespace fs = std::filesystem;
 using namespace std::chrono_literals;
-
-constexpr auto read_limit = std::chrono::seconds(60);
-
-/// A mono recording with 16 bits.
-void WriteRecording(fs::path const & path, std::uint32_t rate = 48000, std::uint32_t frames = 480)
-{
-    std::ofstream file(path, std::ios::binary);
-    auto const number = [&file](std::uint64_t value, int bytes) {
-        for (int i = 0; i < bytes; ++i)
-        {
-            file.put(static_cast<char>(value >> (8 * i)));
-        }
-    };
-    file << "RIFF";
-    number(36 + frames * 2, 4);
-    file << "WAVEfmt ";
-    number(16, 4);
-    number(1, 2);
-    number(1, 2);
-    number(rate, 4);
-    number(rate * std::uint64_t(2) & 0xFFFFFFFF, 4);
-    number(2, 2);
-    number(16, 2);
-    file << "data";
-    number(frames * 2, 4);
-    for (std::uint32_t i = 0; i < frames; ++i)
-    {
-        number(i * 50 % 20000, 2);
-    }
-}
+using tests::read_limit;
+using tests::WriteRecording;
 
 bool IsAbove(HWND upper, HWND lower)
 {
@@ -69,84 +26,8 @@ bool IsAbove(HWND upper, HWND lower)
     return false;
 }
 
-class WorkbenchMainWindow : public testing::Test
+class WorkbenchMainWindow : public tests::MainWindowTest
 {
-protected:
-    void SetUp() override
-    {
-        fs::remove_all(m_folder);
-        fs::create_directories(m_folder / "recordings");
-        tests::App().m_pszProfileName = m_profile.c_str();
-        CVeskBase::SetPreferenceVesk(&m_store);
-        OpenWindow();
-    }
-    void TearDown() override
-    {
-        CloseWindow();
-        CVeskBase::SetPreferenceVesk(nullptr);
-        tests::App().m_pszProfileName = m_former;
-        fs::remove_all(m_folder);
-    }
-
-    void OpenWindow(int dotsPerInch = 0)
-    {
-        m_window = std::make_unique<CMainWindow>(dotsPerInch);
-        tests::App().m_pMainWnd = m_window.get();
-        ASSERT_TRUE(m_window->CreateMainWindow());
-        m_window->ShowWindow(SW_SHOW);
-        m_window->UpdateWindow();
-        ASSERT_TRUE(tests::BringToFront(m_window->m_hWnd));
-    }
-    void CloseWindow()
-    {
-        m_window->SendMessage(WM_CLOSE);
-        m_window.reset();
-        tests::App().m_pMainWnd = nullptr;
-    }
-
-    /// The folder with that many recordings.
-    fs::path Folder(int count)
-    {
-        for (int i = 0; i < count; ++i)
-        {
-            auto const number = std::to_string(i);
-            WriteRecording(m_folder / "recordings" / ("r" + std::string(5 - number.size(), '0') + number + ".wav"));
-        }
-        return m_folder / "recordings";
-    }
-    bool WaitUntilRead()
-    {
-        return tests::PumpUntil([this] { return !m_window->IsBusy(); }, read_limit);
-    }
-    static int Widths(CRecordingList & list)
-    {
-        auto sum = 0;
-        for (int column = 0; column < CRecordingList::column_count; ++column)
-        {
-            sum += list.GetColumnWidth(column);
-        }
-        return sum;
-    }
-    static bool FillsItsWindow(CRecordingList & list)
-    {
-        CRect client;
-        list.GetClientRect(&client);
-        return Widths(list) == client.Width();
-    }
-    std::wstring Status()
-    {
-        CString text;
-        m_window->GetDescendantWindow(IDC_STATUS_TEXT)->GetWindowText(text);
-        return text.GetString();
-    }
-    bool CancelShows() { return m_window->GetDescendantWindow(IDC_CANCEL_READING)->IsWindowVisible() != FALSE; }
-
-    fs::path const m_folder = fs::temp_directory_path() / "workbench_main_window_test";
-    std::wstring const m_profile = (m_folder / "settings.ini").wstring();
-    LPCTSTR const m_former = tests::App().m_pszProfileName;
-    workbench::GraphicsScope m_graphics;
-    MemoryPreferenceStore m_store;
-    std::unique_ptr<CMainWindow> m_window;
 };
 
 TEST_F(WorkbenchMainWindow, ListsAndReadsAFolder)

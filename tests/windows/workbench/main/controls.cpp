@@ -1,0 +1,571 @@
+// The small controls of the workbench: what they do to its windows, what of it is remembered, and that they can be
+// closed at any time.
+
+#include "MainWindowTest.h"
+
+#include <algorithm>
+#include <fstream>
+#include <functional>
+#include <iterator>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "GuardedHeap.h"
+#include "controls/ComboBoxX.h"
+#include "controls/XEditBrowseCtrl.h"
+
+namespace
+{
+namespace fs = std::filesystem;
+using namespace std::chrono_literals;
+using workbench::WaveformColours;
+
+// Of the system's choice of colours.
+constexpr int red_field = 706;
+constexpr int green_field = 707;
+constexpr int blue_field = 708;
+
+/// The visible popup of the thread that was activated last, but for these windows; null if there is none.
+HWND OtherPopup(std::vector<HWND> const & known)
+{
+    auto const active = ::GetActiveWindow();
+    return std::ranges::find(known, active) == known.end() ? active : nullptr;
+}
+
+void Command(HWND dialog, int id)
+{
+    ::PostMessageW(dialog, WM_COMMAND, static_cast<WPARAM>(id), reinterpret_cast<LPARAM>(::GetDlgItem(dialog, id)));
+}
+
+class WorkbenchControls : public tests::MainWindowTest
+{
+protected:
+    CRecordingList & List() { return m_window->List(); }
+    CFolderTree & Tree() { return m_window->Folders(); }
+    CWaveformView & Waveform() { return m_window->Waveform(); }
+    void Show(int count)
+    {
+        m_window->ShowTargets({Folder(count)});
+        ASSERT_TRUE(WaitUntilRead());
+        tests::PumpPosted();
+    }
+    void Restart(int count)
+    {
+        CloseWindow();
+        OpenWindow();
+        Show(count);
+    }
+    CWnd & Group(int id) { return *m_window->SettingsDialog().GetDlgItem(id); }
+    CWnd & Part(int id) { return *m_window->GetDescendantWindow(id); }
+    bool IsSettingsActive() { return ::GetActiveWindow() == m_window->SettingsDialog().m_hWnd; }
+    void OpenSettings()
+    {
+        ASSERT_TRUE(m_window->ShowSettings());
+        ASSERT_TRUE(tests::PumpUntil([this] { return IsSettingsActive(); }));
+    }
+    /// A pixel of the plot's background.
+    COLORREF Ground()
+    {
+        Waveform().UpdateWindow();
+        auto const plot = Waveform().PlotPlace();
+        CClientDC dc(&Waveform());
+        return dc.GetPixel(plot.left + 4, plot.top + 3);
+    }
+    bool ShowsColour(COLORREF colour)
+    {
+        Waveform().UpdateWindow();
+        auto const plot = Waveform().PlotPlace();
+        CClientDC dc(&Waveform());
+        for (auto y = plot.top; y < plot.bottom; ++y)
+        {
+            if (dc.GetPixel(plot.CenterPoint().x, y) == colour)
+            {
+                return true;
+            }
+        }
+        return false;
+    }
+    static std::wstring TextOf(CWnd const & window)
+    {
+        CString text;
+        window.GetWindowText(text);
+        return text.GetString();
+    }
+    /// Presses a button of the settings and gives the colour in what that opens.
+    void ChooseColour(int button, COLORREF colour)
+    {
+        auto const settings = m_window->SettingsDialog().m_hWnd;
+        std::vector<HWND> const known{settings, m_window->m_hWnd, nullptr};
+        tests::LaterActions later;
+        auto const isOpen = [=] { return OtherPopup(known) != nullptr && ::GetDlgItem(OtherPopup(known), red_field); };
+        later.Add(
+            [=] {
+                auto const dialog = OtherPopup(known);
+                ::SetDlgItemInt(dialog, red_field, GetRValue(colour), FALSE);
+                ::SetDlgItemInt(dialog, green_field, GetGValue(colour), FALSE);
+                ::SetDlgItemInt(dialog, blue_field, GetBValue(colour), FALSE);
+                Command(dialog, IDOK);
+            },
+            isOpen);
+        tests::Click(tests::Centre(Group(IDD_SETTINGS_WAVEFORM).GetDlgItem(button)->m_hWnd));
+        ASSERT_TRUE(tests::PumpUntil([&] { return later.Done() && IsSettingsActive(); }));
+        ASSERT_FALSE(later.Failed());
+    }
+};
+
+TEST_F(WorkbenchControls, ColoursOfTheWaveformCountAtOnceAndAfterARestart)
+{
+    constexpr auto background = RGB(20, 90, 40);
+    constexpr auto trace = RGB(250, 220, 10);
+    Show(2);
+    EXPECT_EQ(Ground(), WaveformColours().background);
+    OpenSettings();
+    HWND const apply = m_window->SettingsDialog().GetDlgItem(IDC_APPLY)->m_hWnd;
+    EXPECT_FALSE(::IsWindowEnabled(apply));
+    ChooseColour(IDC_COLOUR_FIRST + 1, background);
+    EXPECT_TRUE(::IsWindowEnabled(apply));
+    EXPECT_EQ(TextOf(*Group(IDD_SETTINGS_WAVEFORM).GetDlgItem(IDC_COLOUR_FIRST + 1)), L"#145A28");
+    EXPECT_EQ(Ground(), WaveformColours().background); // not applied yet
+    tests::Click(tests::Centre(apply));
+    ASSERT_TRUE(tests::PumpUntil([&] { return m_window->Settings().waveform.background == background; }));
+    EXPECT_TRUE(m_window->SettingsDialog().IsOpen());
+    EXPECT_FALSE(::IsWindowEnabled(apply));
+    ChooseColour(IDC_COLOUR_FIRST, trace);
+    {
+        // Return presses the button that has the focus.
+        std::vector<HWND> const known{m_window->SettingsDialog().m_hWnd, m_window->m_hWnd, nullptr};
+        tests::LaterActions later;
+        later.Add([] { tests::Key(VK_ESCAPE); },
+                  [known] { return OtherPopup(known) != nullptr && ::GetDlgItem(OtherPopup(known), red_field); });
+        tests::Key(VK_RETURN);
+        ASSERT_TRUE(tests::PumpUntil([&] { return later.Done() && IsSettingsActive(); }));
+        ASSERT_FALSE(later.Failed());
+    }
+    m_window->SettingsDialog().SendMessage(WM_COMMAND, IDOK);
+    EXPECT_FALSE(m_window->SettingsDialog().IsOpen());
+    ASSERT_TRUE(tests::BringToFront(m_window->m_hWnd));
+    EXPECT_EQ(Ground(), background);
+    EXPECT_TRUE(ShowsColour(trace));
+    Restart(2);
+    EXPECT_EQ(Ground(), background);
+    EXPECT_TRUE(ShowsColour(trace));
+    OpenSettings();
+    tests::Click(tests::Centre(Group(IDD_SETTINGS_WAVEFORM).GetDlgItem(IDC_STANDARD_COLOURS)->m_hWnd));
+    ASSERT_TRUE(tests::PumpUntil([&] { return m_window->SettingsDialog().GetDlgItem(IDC_APPLY)->IsWindowEnabled(); }));
+    m_window->SettingsDialog().SendMessage(WM_COMMAND, IDOK);
+    EXPECT_EQ(m_window->Settings().waveform, WaveformColours());
+    EXPECT_EQ(Ground(), WaveformColours().background);
+}
+
+TEST_F(WorkbenchControls, TheSliderAndThePlotAreInStep)
+{
+    Show(2);
+    auto & slider = Part(IDC_AMPLIFICATION);
+    auto const position = [&slider] { return static_cast<int>(slider.SendMessage(TBM_GETPOS)); };
+    ASSERT_TRUE(slider.IsWindowVisible());
+    EXPECT_EQ(Waveform().Amplification(), 0);
+    EXPECT_EQ(position(), 8);
+    slider.SetFocus();
+    tests::Key(VK_UP);
+    EXPECT_TRUE(tests::PumpUntil([this] { return Waveform().Amplification() == 6; }));
+    tests::Key(VK_HOME);
+    EXPECT_TRUE(tests::PumpUntil([this] { return Waveform().Amplification() == 48; }));
+    // By the keys of the plot, and by commands.
+    Waveform().SetFocus();
+    tests::Key(VK_DOWN);
+    EXPECT_TRUE(tests::PumpUntil([&] { return position() == 1; }));
+    EXPECT_EQ(Waveform().Amplification(), 42);
+    tests::Key(L'0', {VK_CONTROL});
+    EXPECT_TRUE(tests::PumpUntil([&] { return position() == 8; }));
+    tests::Key(VK_OEM_PLUS, {VK_CONTROL});
+    EXPECT_TRUE(tests::PumpUntil([&] { return position() == 7; }));
+    Restart(2);
+    EXPECT_EQ(Waveform().Amplification(), 6);
+    EXPECT_EQ(Part(IDC_AMPLIFICATION).SendMessage(TBM_GETPOS), 7);
+}
+
+TEST_F(WorkbenchControls, TheButtonAboveTheSliderFitsTheWaveform)
+{
+    Show(2); // with a peak of -4.3 dB
+    Waveform().SetAmplification(24);
+    tests::Click(tests::Centre(Part(IDC_FIT_AMPLIFICATION).m_hWnd));
+    EXPECT_TRUE(tests::PumpUntil([this] { return Waveform().Amplification() == 0; }));
+    // Without a recording there is nothing to amplify.
+    m_window->ShowTargets({});
+    ASSERT_TRUE(tests::PumpUntil([this] { return !Part(IDC_AMPLIFICATION).IsWindowVisible(); }));
+    EXPECT_FALSE(Part(IDC_FIT_AMPLIFICATION).IsWindowVisible());
+}
+
+TEST_F(WorkbenchControls, TheTreeOpensFoldersAndChoosesRecordings)
+{
+    Show(3);
+    auto const folder = m_folder / "recordings";
+    fs::create_directories(folder / "inner");
+    tests::WriteRecording(folder / "inner" / "deep.wav");
+    ASSERT_FALSE(m_window->ShowsFolders());
+    tests::Key(L'T', {VK_CONTROL});
+    ASSERT_TRUE(tests::PumpUntil([this] { return m_window->ShowsFolders() && Tree().IsWindowVisible(); }));
+    EXPECT_EQ(CWnd::GetFocus(), &Tree());
+    auto const filled = [&](fs::path const & which, int count) {
+        auto const item = Tree().FolderItem(which);
+        auto children = 0;
+        for (auto child = item != nullptr ? Tree().GetChildItem(item) : nullptr; child != nullptr;
+             child = Tree().GetNextSiblingItem(child))
+        {
+            ++children;
+        }
+        return !Tree().IsBusy() && children == count;
+    };
+    ASSERT_TRUE(tests::PumpUntil([&] { return filled(folder, 4); }));
+    auto const item = Tree().FolderItem(folder);
+    auto const first = Tree().GetChildItem(item);
+    EXPECT_EQ(Tree().PathOf(first), folder / "inner"); // folders come first
+    auto const click = [this](HTREEITEM which) {
+        Tree().EnsureVisible(which);
+        CRect place;
+        ASSERT_TRUE(Tree().GetItemRect(which, &place, TRUE));
+        tests::Click(tests::ClientPoint(Tree().m_hWnd, place.CenterPoint()));
+    };
+    // A recording is chosen in the list, and the arrow keys go on from there.
+    click(Tree().GetNextSiblingItem(first));
+    ASSERT_TRUE(tests::PumpUntil([this] { return List().ChosenLine() == 0; }));
+    tests::Key(VK_DOWN);
+    EXPECT_TRUE(tests::PumpUntil([this] { return List().ChosenLine() == 1; }));
+    // The other way round.
+    List().SetFocus();
+    m_window->ChooseRecording(2);
+    EXPECT_TRUE(tests::PumpUntil([&] { return Tree().PathOf(Tree().GetSelectedItem()) == folder / "r00002.wav"; }));
+    // A folder is opened.
+    click(first);
+    ASSERT_TRUE(tests::PumpUntil([this] { return m_window->RecordingCount() == 1; }));
+    ASSERT_TRUE(WaitUntilRead());
+    EXPECT_EQ(List().GetItemText(0, CRecordingList::column_name), L"deep.wav");
+    ASSERT_TRUE(tests::PumpUntil([&] { return filled(folder / "inner", 1); }));
+    EXPECT_NE(Tree().GetItemState(first, TVIS_BOLD) & TVIS_BOLD, 0U);
+    EXPECT_EQ(Tree().GetItemState(item, TVIS_BOLD) & TVIS_BOLD, 0U);
+    // A recording of another folder opens that and is chosen there; by the keyboard only with Return.
+    Tree().SelectItem(Tree().GetChildItem(first));
+    Tree().SetFocus();
+    tests::Key(VK_DOWN);
+    tests::Key(VK_DOWN);
+    ASSERT_TRUE(tests::PumpUntil([&] { return Tree().PathOf(Tree().GetSelectedItem()) == folder / "r00001.wav"; }));
+    EXPECT_EQ(m_window->RecordingCount(), 1);
+    tests::Key(VK_RETURN);
+    ASSERT_TRUE(tests::PumpUntil([this] { return m_window->RecordingCount() == 3; }));
+    ASSERT_TRUE(WaitUntilRead());
+    EXPECT_TRUE(tests::PumpUntil([this] { return List().ChosenLine() == 1; }));
+}
+
+TEST_F(WorkbenchControls, TheTreeFollowsAReloadAndIsRemembered)
+{
+    Show(40);
+    m_window->ShowFolders(true);
+    auto const folder = m_folder / "recordings";
+    auto const names = [&] {
+        std::vector<std::wstring> found;
+        for (auto item = Tree().GetChildItem(Tree().FolderItem(folder)); item != nullptr;
+             item = Tree().GetNextSiblingItem(item))
+        {
+            found.push_back(Tree().GetItemText(item).GetString());
+        }
+        return found;
+    };
+    ASSERT_TRUE(tests::PumpUntil([&] { return !Tree().IsBusy() && names().size() == 40; }));
+    fs::remove(folder / "r00000.wav");
+    fs::remove(folder / "r00007.wav");
+    tests::WriteRecording(folder / "a.wav");
+    tests::WriteRecording(folder / "r00020b.wav");
+    fs::create_directories(folder / "z");
+    m_window->SendMessage(WM_COMMAND, ID_RELOAD);
+    ASSERT_TRUE(tests::PumpUntil([&] { return !Tree().IsBusy() && names().front() == L"z"; }));
+    auto const shown = names();
+    ASSERT_EQ(shown.size(), 41U);
+    EXPECT_EQ(shown[1], L"a.wav");
+    EXPECT_EQ(shown[2], L"r00001.wav");
+    EXPECT_TRUE(std::is_sorted(shown.begin() + 1, shown.end()));
+    // The pane and its width last.
+    CRect before;
+    Tree().GetWindowRect(&before);
+    CPoint const edge(before.right + 2, before.CenterPoint().y);
+    tests::Drag(edge, edge + CPoint(60, 0));
+    CRect after;
+    ASSERT_TRUE(tests::PumpUntil([&] {
+        Tree().GetWindowRect(&after);
+        return after.Width() > before.Width() + 40;
+    }));
+    tests::PumpPosted();
+    Tree().GetWindowRect(&after);
+    Restart(40);
+    EXPECT_TRUE(m_window->ShowsFolders());
+    Tree().GetWindowRect(&before);
+    EXPECT_EQ(before.Width(), after.Width());
+    m_window->ShowFolders(false);
+    Restart(1);
+    EXPECT_FALSE(m_window->ShowsFolders());
+    CRect list;
+    List().GetWindowRect(&list);
+    EXPECT_LT(list.left, after.left + 10);
+}
+
+TEST_F(WorkbenchControls, ColumnsAreChosenInADropDownOfTheSettings)
+{
+    Show(2);
+    OpenSettings();
+    auto & field = *Group(IDD_SETTINGS_LIST).GetDlgItem(IDC_COLUMNS);
+    EXPECT_EQ(TextOf(field), L"(all)");
+    field.SetFocus();
+    std::vector<HWND> const known{m_window->SettingsDialog().m_hWnd, m_window->m_hWnd, nullptr};
+    auto const list = [&] { return ::GetDlgItem(::GetDlgItem(OtherPopup(known), 1016), 32802); };
+    tests::LaterActions later;
+    later.Add(
+        [&] {
+            RECT row{LVIR_LABEL, 0, 0, 0}; // "Channels", the fourth one
+            ::SendMessageW(list(), LVM_GETITEMRECT, 3, reinterpret_cast<LPARAM>(&row));
+            tests::Click(tests::ClientPoint(list(), CPoint(row.left + 6, (row.top + row.bottom) / 2)));
+        },
+        [&] { return ::SendMessageW(list(), LVM_GETITEMCOUNT, 0, 0) == 11 && ::IsWindowVisible(list()); });
+    later.Add([] { tests::Key(VK_RETURN); },
+              [&] { return ::SendMessageW(list(), LVM_GETITEMSTATE, 3, LVIS_STATEIMAGEMASK) >> 12 == 1; });
+    tests::Key(VK_F4);
+    ASSERT_TRUE(tests::PumpUntil([&] { return later.Done() && IsSettingsActive(); }));
+    ASSERT_FALSE(later.Failed());
+    ASSERT_TRUE(tests::PumpUntil(
+        [this] { return m_window->SettingsDialog().GetDlgItem(IDC_APPLY)->IsWindowEnabled() != FALSE; }));
+    EXPECT_GT(List().GetColumnWidth(CRecordingList::column_channels), 0);
+    m_window->SettingsDialog().SendMessage(WM_COMMAND, IDOK);
+    EXPECT_EQ(List().GetColumnWidth(CRecordingList::column_channels), 0);
+    EXPECT_GT(List().GetColumnWidth(CRecordingList::column_rate), 0);
+    EXPECT_TRUE(FillsItsWindow(List()));
+    Restart(2);
+    EXPECT_EQ(List().GetColumnWidth(CRecordingList::column_channels), 0);
+    // What does not show is not sorted, edited nor copied.
+    auto const table = List().Table(CRecordingList::Lines::all, List().HiddenColumns());
+    EXPECT_FALSE(std::ranges::any_of(table.columns, [](auto const & column) { return column.title == L"Channels"; }));
+    List().SetHiddenColumns({CRecordingList::column_comment, CRecordingList::column_rating});
+    List().EditComment(0);
+    List().ChooseRating(0);
+    EXPECT_FALSE(List().IsEditing());
+}
+
+TEST_F(WorkbenchControls, ColumnsAreChosenAtTheTitles)
+{
+    Show(2);
+    auto & header = *List().GetHeaderCtrl();
+    CRect title;
+    header.GetItemRect(CRecordingList::column_date, &title);
+    std::vector<HWND> const known{m_window->m_hWnd, nullptr};
+    tests::LaterActions later;
+    later.Add(
+        [&] {
+            // "select none", then OK.
+            auto const control = ::GetDlgItem(OtherPopup(known), 1016);
+            ::SendMessageW(::GetDlgItem(control, 32804), BM_CLICK, 0, 0);
+            ::PostMessageW(::GetDlgItem(control, 32806), BM_CLICK, 0, 0);
+        },
+        [&] { return OtherPopup(known) != nullptr && ::GetDlgItem(::GetDlgItem(OtherPopup(known), 1016), 32806); });
+    tests::Click(tests::ClientPoint(header.m_hWnd, title.CenterPoint()), tests::Button::Right);
+    ASSERT_TRUE(tests::PumpUntil([&] { return later.Done() && OtherPopup(known) == nullptr; }));
+    ASSERT_FALSE(later.Failed());
+    ASSERT_TRUE(tests::PumpUntil([this] { return !m_window->Settings().hiddenColumns.empty(); }));
+    EXPECT_EQ(List().GetColumnWidth(CRecordingList::column_status), 0);
+    EXPECT_GT(List().GetColumnWidth(CRecordingList::column_name), 0);
+    EXPECT_GT(List().GetColumnWidth(CRecordingList::column_check), 0);
+}
+
+TEST_F(WorkbenchControls, AFolderIsOpenedByTheBeginningOfItsName)
+{
+    auto const folder = Folder(3);
+    std::vector<HWND> const known{m_window->m_hWnd, nullptr};
+    auto const isOpen = [&] { return OtherPopup(known) != nullptr && ::GetDlgItem(OtherPopup(known), IDC_FOLDER); };
+    {
+        tests::LaterActions later;
+        later.Add(
+            [&] {
+                ::SetDlgItemTextW(OtherPopup(known), IDC_FOLDER, (L"\"" + folder.wstring() + L"\" ").c_str());
+                tests::Key(VK_RETURN);
+            },
+            isOpen);
+        m_window->SendMessage(WM_COMMAND, ID_OPEN_FOLDER);
+        ASSERT_FALSE(later.Failed());
+    }
+    ASSERT_TRUE(WaitUntilRead());
+    EXPECT_EQ(m_window->RecordingCount(), 3);
+    ASSERT_EQ(m_window->Settings().recentFolders.size(), 1U);
+    CloseWindow();
+    OpenWindow();
+    tests::LaterActions later;
+    later.Add(
+        [&] {
+            tests::Key(VK_DELETE); // the last folder stands there, chosen
+            tests::Type(folder.wstring().substr(0, folder.wstring().size() - 4));
+        },
+        isOpen);
+    later.Add([] { tests::Key(VK_RETURN); },
+              [&] {
+                  return ::GetDlgItem(OtherPopup(known), IDC_FOLDER) != nullptr &&
+                         TextOf(*CWnd::FromHandle(::GetDlgItem(OtherPopup(known), IDC_FOLDER))) == folder.wstring();
+              });
+    tests::Key(L'O', {VK_CONTROL, VK_SHIFT});
+    ASSERT_TRUE(tests::PumpUntil([&] { return later.Done() && m_window->RecordingCount() == 3; }));
+    EXPECT_FALSE(later.Failed());
+}
+
+TEST_F(WorkbenchControls, AFolderThatIsNoneIsNotOpened)
+{
+    std::vector<HWND> const known{m_window->m_hWnd, nullptr};
+    auto const isOpen = [&] { return OtherPopup(known) != nullptr && ::GetDlgItem(OtherPopup(known), IDC_FOLDER); };
+    tests::LaterActions later;
+    later.Add(
+        [&] {
+            ::SetDlgItemTextW(OtherPopup(known), IDC_FOLDER, (m_folder / "gone").c_str());
+            Command(OtherPopup(known), IDOK);
+        },
+        isOpen);
+    later.Add([&] { Command(OtherPopup(known), IDCANCEL); }, isOpen);
+    m_window->SendMessage(WM_COMMAND, ID_OPEN_FOLDER);
+    EXPECT_EQ(tests::App().TakeMessages().size(), 1U);
+    EXPECT_EQ(m_window->RecordingCount(), 0);
+    EXPECT_TRUE(m_window->Settings().recentFolders.empty());
+}
+
+TEST_F(WorkbenchControls, TheListIsExportedIntoAFile)
+{
+    Show(3);
+    auto const file = m_folder / "list.txt";
+    std::vector<HWND> const known{m_window->m_hWnd, nullptr};
+    auto const isOpen = [&] {
+        return OtherPopup(known) != nullptr && ::GetDlgItem(OtherPopup(known), IDC_EXPORT_FILE);
+    };
+    auto const exportTo = [&](fs::path const & to, int lines) {
+        tests::LaterActions later;
+        later.Add(
+            [&] {
+                ::SetDlgItemTextW(OtherPopup(known), IDC_EXPORT_FILE, to.c_str());
+                ::SendMessageW(::GetDlgItem(OtherPopup(known), IDC_EXPORT_LINES), CB_SETCURSEL,
+                               static_cast<WPARAM>(lines), 0);
+                Command(OtherPopup(known), IDOK);
+            },
+            isOpen);
+        m_window->SendMessage(WM_COMMAND, ID_EXPORT_LIST);
+        EXPECT_FALSE(later.Failed());
+    };
+    auto const contents = [](fs::path const & of) {
+        std::ifstream stream(of, std::ios::binary);
+        return std::string(std::istreambuf_iterator<char>(stream), {});
+    };
+    exportTo(m_folder / "list", 0); // the extension comes by itself
+    auto const all = contents(file);
+    EXPECT_TRUE(all.starts_with("\xEF\xBB\xBFName\t"));
+    EXPECT_EQ(std::ranges::count(all, '\n'), 4);
+    EXPECT_EQ(m_window->Settings().exportFile, file);
+    // A file that is there is replaced only where the user says so.
+    ASSERT_TRUE(m_window->ChooseRecording(1));
+    tests::App().Answer(IDYES);
+    exportTo(file, 1);
+    EXPECT_EQ(tests::App().TakeMessages().size(), 1U);
+    auto const chosen = contents(file);
+    EXPECT_EQ(std::ranges::count(chosen, '\n'), 2);
+    EXPECT_NE(chosen.find("r00001.wav"), std::string::npos);
+    exportTo(m_folder / "list.html", 0);
+    EXPECT_TRUE(contents(m_folder / "list.html").starts_with("<!DOCTYPE html>"));
+    exportTo(m_folder / "gone" / "list.txt", 0);
+    EXPECT_EQ(tests::App().TakeMessages().size(), 1U);
+}
+
+TEST_F(WorkbenchControls, StartFoldersAreAddedAndRemoved)
+{
+    auto const folder = Folder(1);
+    OpenSettings();
+    auto & group = Group(IDD_SETTINGS_START);
+    auto const count = [&] { return group.SendDlgItemMessage(IDC_START_FOLDERS, LB_GETCOUNT); };
+    HWND const remove = group.GetDlgItem(IDC_REMOVE_FOLDER)->m_hWnd;
+    EXPECT_FALSE(::IsWindowEnabled(remove));
+    auto & field = *group.GetDlgItem(IDC_NEW_FOLDER);
+    field.SetFocus();
+    tests::Type(folder.wstring());
+    ASSERT_TRUE(tests::PumpUntil([&] { return TextOf(field) == folder.wstring(); }));
+    tests::Click(tests::Centre(group.GetDlgItem(IDC_ADD_FOLDER)->m_hWnd));
+    ASSERT_TRUE(tests::PumpUntil([&] { return count() == 1; }));
+    EXPECT_EQ(TextOf(field), L"");
+    EXPECT_TRUE(::IsWindowEnabled(remove));
+    field.SetWindowText((m_folder / "gone").c_str());
+    group.SendMessage(WM_COMMAND, IDC_ADD_FOLDER);
+    EXPECT_EQ(tests::App().TakeMessages().size(), 1U);
+    EXPECT_EQ(count(), 1);
+    m_window->SettingsDialog().SendMessage(WM_COMMAND, IDC_APPLY);
+    EXPECT_EQ(m_window->Settings().startFolders, std::vector<fs::path>{folder});
+    tests::Click(tests::Centre(remove));
+    ASSERT_TRUE(tests::PumpUntil([&] { return count() == 0; }));
+    m_window->SettingsDialog().SendMessage(WM_COMMAND, IDOK);
+    EXPECT_TRUE(m_window->Settings().startFolders.empty());
+}
+
+/// Whatever is open when the window is closed goes with it.
+class WorkbenchClosing : public WorkbenchControls
+{
+protected:
+    /// Opens something by the action, which may return only once it is closed; then closes the main window.
+    void CloseWhileOpen(std::function<void()> const & open, std::vector<HWND> known)
+    {
+        tests::GuardedHeap heap;
+        known.push_back(nullptr);
+        tests::LaterActions later;
+        auto const window = m_window->m_hWnd;
+        later.Add([=] { ::SendMessageW(window, WM_CLOSE, 0, 0); }, [known] { return OtherPopup(known) != nullptr; });
+        open();
+        ASSERT_TRUE(tests::PumpUntil([&] { return later.Done() && !::IsWindow(window); }));
+        EXPECT_FALSE(later.Failed());
+        tests::PumpPosted();
+        EXPECT_EQ(heap.Check(), 0U);
+        // The window's end has told the thread to quit.
+        MSG message;
+        ::PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE);
+        OpenWindow();
+    }
+};
+
+TEST_F(WorkbenchClosing, OfTheChoiceOfAColour)
+{
+    Show(1);
+    OpenSettings();
+    auto & button = *Group(IDD_SETTINGS_WAVEFORM).GetDlgItem(IDC_COLOUR_FIRST);
+    CloseWhileOpen([&] { button.SendMessage(BM_CLICK); }, {m_window->SettingsDialog().m_hWnd, m_window->m_hWnd});
+}
+
+TEST_F(WorkbenchClosing, OfTheDropDownOfColumns)
+{
+    Show(1);
+    OpenSettings();
+    auto & field = *static_cast<CXEditBrowseCtrl *>(Group(IDD_SETTINGS_LIST).GetDlgItem(IDC_COLUMNS));
+    CloseWhileOpen([&] { field.OnBrowse(); }, {m_window->SettingsDialog().m_hWnd, m_window->m_hWnd});
+}
+
+TEST_F(WorkbenchClosing, OfTheColumnsAtTheTitles)
+{
+    Show(1);
+    CloseWhileOpen([&] { m_window->SendMessage(WM_COMMAND, ID_CHOOSE_COLUMNS); }, {m_window->m_hWnd});
+}
+
+TEST_F(WorkbenchClosing, OfTheDialogForAFolder)
+{
+    CloseWhileOpen([&] { m_window->SendMessage(WM_COMMAND, ID_OPEN_FOLDER); }, {m_window->m_hWnd});
+}
+
+TEST_F(WorkbenchClosing, OfTheExport)
+{
+    Show(1);
+    CloseWhileOpen([&] { m_window->SendMessage(WM_COMMAND, ID_EXPORT_LIST); }, {m_window->m_hWnd});
+}
+
+TEST_F(WorkbenchClosing, OfATreeThatIsBeingFilled)
+{
+    m_window->ShowFolders(true);
+    auto const folder = Folder(300);
+    m_window->ShowTargets({folder});
+    ASSERT_TRUE(tests::PumpUntil([this] { return Tree().IsBusy(); }));
+    CloseWindow();
+    OpenWindow();
+    EXPECT_TRUE(m_window->ShowsFolders());
+}
+} // namespace

@@ -1,0 +1,83 @@
+#include "DialogsGroup.h"
+
+#include <cwchar>
+
+#include "logic/Texts.h"
+#include "resource.h"
+
+using workbench::Settings;
+using workbench::Text;
+
+namespace
+{
+
+constexpr int c_opacities[] = {25, 50, 75, 100}; // percent
+
+/// The number that a text is, -1 if it is none.
+int NumberOf(CString const & text)
+{
+    wchar_t * end = nullptr;
+    auto const number = std::wcstol(text, &end, 10);
+    return end != text.GetString() && *end == L'\0' && number >= 0 && number <= 1000 ? static_cast<int>(number) : -1;
+}
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(CDialogsGroup, CSettingsGroup)
+    ON_BN_CLICKED(IDC_FADE_IN, &CDialogsGroup::OnChange)
+    ON_BN_CLICKED(IDC_DRAG_BACKGROUND, &CDialogsGroup::OnChange)
+    ON_CBN_SELCHANGE(IDC_OPACITY, &CDialogsGroup::OnChange)
+    ON_CBN_EDITCHANGE(IDC_OPACITY, &CDialogsGroup::OnChange)
+END_MESSAGE_MAP()
+
+CDialogsGroup::CDialogsGroup() : CSettingsGroup(IDD_SETTINGS_DIALOGS) {}
+
+void CDialogsGroup::DoDataExchange(CDataExchange * exchange)
+{
+    CSettingsGroup::DoDataExchange(exchange);
+    DDX_Control(exchange, IDC_OPACITY, m_opacity);
+}
+
+BOOL CDialogsGroup::OnInitDialog()
+{
+    CSettingsGroup::OnInitDialog();
+    for (auto const opacity : c_opacities)
+    {
+        m_opacity.AddItem(std::to_wstring(opacity).c_str(), opacity);
+    }
+    Follow(IDC_DIALOG_GROUP, CEdges::TOP_LEFT_RIGHT());
+    return FALSE;
+}
+
+void CDialogsGroup::Show(Settings const & settings)
+{
+    CheckDlgButton(IDC_FADE_IN, settings.fadeIn ? BST_CHECKED : BST_UNCHECKED);
+    CheckDlgButton(IDC_DRAG_BACKGROUND, settings.dragByBackground ? BST_CHECKED : BST_UNCHECKED);
+    if (m_opacity.SelectItemData(settings.inactiveOpacity) < 0)
+    {
+        m_opacity.SetWindowText(std::to_wstring(settings.inactiveOpacity).c_str());
+    }
+}
+
+bool CDialogsGroup::Take(Settings & settings)
+{
+    CString text;
+    m_opacity.GetWindowText(text);
+    auto const opacity = NumberOf(text.Trim());
+    if (opacity < Settings::least_opacity || opacity > Settings::most_opacity)
+    {
+        AfxMessageBox(Text(L"The opacity must be between 20 and 100 percent."), MB_ICONEXCLAMATION);
+        m_opacity.SetFocus();
+        m_opacity.SetEditSel(0, -1);
+        return false;
+    }
+    settings.inactiveOpacity = opacity;
+    settings.fadeIn = IsDlgButtonChecked(IDC_FADE_IN) == BST_CHECKED;
+    settings.dragByBackground = IsDlgButtonChecked(IDC_DRAG_BACKGROUND) == BST_CHECKED;
+    return true;
+}
+
+void CDialogsGroup::OnChange()
+{
+    Changed();
+}

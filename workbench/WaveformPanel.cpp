@@ -1,0 +1,186 @@
+#include "WaveformPanel.h"
+
+#include <algorithm>
+#include <string>
+
+#include "PlotParts.h"
+#include "logic/Amplification.h"
+#include "logic/Texts.h"
+#include "resource.h"
+
+using workbench::Text;
+
+namespace
+{
+
+constexpr int c_steps = workbench::c_mostAmplification / workbench::c_amplificationStep;
+constexpr COLORREF c_levelColour = RGB(33, 102, 172);
+constexpr int c_iconSize = 32; // pixels, as the system draws icons
+
+// Lengths in dialog units.
+constexpr int c_viewMargin = 6; // of the plot in the view
+constexpr int c_gap = 3;
+constexpr int c_sliderWidth = 18;
+constexpr int c_leastSliderHeight = 30;
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(CWaveformPanel, CWnd)
+    ON_WM_SIZE()
+    ON_WM_ERASEBKGND()
+    ON_WM_CTLCOLOR()
+    ON_WM_VSCROLL()
+    ON_BN_CLICKED(IDC_FIT_AMPLIFICATION, &CWaveformPanel::OnFit)
+END_MESSAGE_MAP()
+
+void CWaveformPanel::CFitButton::DrawItem(LPDRAWITEMSTRUCT item)
+{
+    CRect const place(item->rcItem);
+    ::FillRect(item->hDC, &place, ::GetSysColorBrush(COLOR_WINDOW));
+    CFreeIconButton::DrawItem(item);
+    if ((item->itemState & ODS_FOCUS) != 0)
+    {
+        ::SetTextColor(item->hDC, ::GetSysColor(COLOR_WINDOWTEXT));
+        ::SetBkColor(item->hDC, ::GetSysColor(COLOR_WINDOW));
+        ::DrawFocusRect(item->hDC, &place);
+    }
+}
+
+bool CWaveformPanel::CreatePanel(CWnd & parent, UINT id, workbench::ScreenMetrics & metrics)
+{
+    m_metrics = &metrics;
+    auto const windowClass = AfxRegisterWndClass(0, ::LoadCursorW(nullptr, IDC_ARROW));
+    constexpr DWORD sliderStyle = WS_CHILD | WS_TABSTOP | TBS_VERT | TBS_BOTH | TBS_NOTICKS;
+    if (!CreateEx(WS_EX_CONTROLPARENT, windowClass, L"Waveform", WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN | WS_BORDER,
+                  CRect(), &parent, id) ||
+        !m_view.CreateView(*this, IDC_WAVEFORM, metrics) ||
+        !m_slider.Create(sliderStyle, CRect(), this, IDC_AMPLIFICATION) ||
+        !m_fit.Create(Text(L"Fit waveform to its peak"), WS_CHILD | WS_TABSTOP, CRect(), this, IDC_FIT_AMPLIFICATION) ||
+        !m_value.Create(L"", WS_CHILD | SS_CENTER | SS_NOPREFIX, CRect(), this) || !m_tips.Create(this))
+    {
+        return false;
+    }
+    m_view.ModifyStyle(WS_BORDER, 0, SWP_FRAMECHANGED);
+    m_value.SetFont(&metrics.Font());
+    m_slider.SetWindowText(Text(L"Amplification"));
+    m_slider.SetMainColor(c_levelColour);
+    // The position counts from the top, where the amplification is greatest.
+    m_slider.SetRange(0, c_steps);
+    m_slider.SetLineSize(1);
+    m_slider.SetPageSize(2);
+    m_tips.AddTool(&m_slider, Text(L"Amplification of the waveform"));
+    m_tips.AddTool(&m_fit, Text(L"Fit waveform to its peak"));
+    m_tips.Activate(TRUE);
+    m_view.m_onPlaced = [this] { Arrange(); };
+    m_view.m_onAmplified = [this] {
+        ShowAmplification();
+        if (m_onAmplified)
+        {
+            m_onAmplified(m_view.Amplification());
+        }
+    };
+    ShowAmplification();
+    return true;
+}
+
+BOOL CWaveformPanel::PreTranslateMessage(MSG * message)
+{
+    if (m_tips.GetSafeHwnd() != nullptr)
+    {
+        m_tips.RelayEvent(message);
+    }
+    return CWnd::PreTranslateMessage(message);
+}
+
+void CWaveformPanel::OnSize(UINT type, int width, int height)
+{
+    CWnd::OnSize(type, width, height);
+    if (m_value.GetSafeHwnd() == nullptr)
+    {
+        return;
+    }
+    auto margin = 0;
+    {
+        CClientDC dc(this);
+        workbench::SelectScope const font(dc, m_metrics->Font());
+        margin = workbench::PlotMargins(dc, *m_metrics).right;
+    }
+    // The slider stands in what the view would leave free right of its plot.
+    auto const room = margin + m_metrics->X(c_viewMargin - c_gap);
+    m_view.SetRightRoom(room);
+    m_view.MoveWindow(0, 0, std::max(width - room, 0), height);
+    Arrange();
+}
+
+/// Puts the controls beside the plot, where there is one.
+void CWaveformPanel::Arrange()
+{
+    if (m_value.GetSafeHwnd() == nullptr)
+    {
+        return;
+    }
+    CRect client;
+    GetClientRect(&client);
+    CRect view;
+    m_view.GetWindowRect(&view);
+    ScreenToClient(&view);
+    auto plot = m_view.PlotPlace();
+    plot.OffsetRect(view.TopLeft());
+    auto const width = m_metrics->X(c_sliderWidth);
+    auto const centre = (view.right + client.right) / 2;
+    auto const line = m_metrics->LineHeight();
+    m_slider.MoveWindow(centre - width / 2, plot.top, width, std::max<int>(plot.Height(), 0));
+    m_value.MoveWindow(view.right, plot.bottom + m_metrics->Y(1), client.right - view.right, line);
+    m_fit.MoveWindow(centre - c_iconSize / 2, std::max<int>((plot.top - c_iconSize) / 2, 0), c_iconSize, c_iconSize);
+    auto const shows = m_view.ShowsRecording();
+    auto const fits = shows && plot.Height() >= m_metrics->Y(c_leastSliderHeight);
+    auto const show = [this](CWnd & window, bool visible) {
+        if (!visible && GetFocus() == &window)
+        {
+            m_view.SetFocus();
+        }
+        window.ShowWindow(visible ? SW_SHOWNA : SW_HIDE);
+    };
+    show(m_slider, fits);
+    show(m_value, fits);
+    show(m_fit, shows);
+}
+
+void CWaveformPanel::ShowAmplification()
+{
+    auto const amplification = m_view.Amplification();
+    m_slider.SetPos(c_steps - amplification / workbench::c_amplificationStep);
+    m_slider.Invalidate();
+    auto const sign = amplification > 0 ? L"+" : L"";
+    m_value.SetWindowText((sign + std::to_wstring(amplification) + L" dB").c_str());
+}
+
+BOOL CWaveformPanel::OnEraseBkgnd(CDC * dc)
+{
+    CRect client;
+    GetClientRect(&client);
+    dc->FillSolidRect(client, ::GetSysColor(COLOR_WINDOW));
+    return TRUE;
+}
+
+HBRUSH CWaveformPanel::OnCtlColor(CDC * dc, CWnd *, UINT)
+{
+    auto const colours = workbench::ScreenPlotColours();
+    dc->SetTextColor(colours.label);
+    dc->SetBkColor(colours.ground);
+    return ::GetSysColorBrush(COLOR_WINDOW);
+}
+
+void CWaveformPanel::OnVScroll(UINT code, UINT position, CScrollBar * bar)
+{
+    CWnd::OnVScroll(code, position, bar);
+    if (bar != nullptr && bar->m_hWnd == m_slider.m_hWnd)
+    {
+        m_view.SetAmplification((c_steps - m_slider.GetPos()) * workbench::c_amplificationStep);
+    }
+}
+
+void CWaveformPanel::OnFit()
+{
+    m_view.FitAmplification();
+}

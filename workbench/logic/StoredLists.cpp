@@ -1,0 +1,127 @@
+#include "logic/StoredLists.h"
+
+#include <algorithm>
+#include <cwctype>
+
+namespace workbench
+{
+
+namespace
+{
+
+constexpr wchar_t c_folderSeparator = L'|'; // no name of a folder has it
+constexpr wchar_t c_numberSeparator = L' ';
+constexpr std::size_t c_longestNumber = 6;
+
+/// The parts between separators, without empty ones.
+std::vector<std::wstring_view> Split(std::wstring_view text, wchar_t separator)
+{
+    std::vector<std::wstring_view> parts;
+    for (std::size_t begin = 0; begin < text.size();)
+    {
+        auto const end = std::min(text.find(separator, begin), text.size());
+        if (end > begin)
+        {
+            parts.push_back(text.substr(begin, end - begin));
+        }
+        begin = end + 1;
+    }
+    return parts;
+}
+
+std::wstring LowerCase(std::wstring text)
+{
+    for (auto & character : text)
+    {
+        character = static_cast<wchar_t>(std::towlower(static_cast<std::wint_t>(character)));
+    }
+    return text;
+}
+
+} // namespace
+
+std::vector<std::filesystem::path> FoldersOf(std::wstring_view text)
+{
+    std::vector<std::filesystem::path> folders;
+    for (auto const part : Split(text, c_folderSeparator))
+    {
+        folders.emplace_back(std::wstring(part));
+    }
+    return folders;
+}
+
+std::wstring FolderText(std::vector<std::filesystem::path> const & folders)
+{
+    std::wstring text;
+    for (auto const & folder : folders)
+    {
+        text += (text.empty() ? L"" : std::wstring(1, c_folderSeparator)) + folder.wstring();
+    }
+    return text;
+}
+
+std::wstring PathKey(std::filesystem::path const & path)
+{
+    auto key = LowerCase(path.wstring());
+    std::ranges::replace(key, L'/', L'\\');
+    while (key.size() > 1 && key.back() == L'\\')
+    {
+        key.pop_back();
+    }
+    return key;
+}
+
+void PutFirst(std::vector<std::filesystem::path> & folders, std::filesystem::path const & folder)
+{
+    auto const first = folder; // it may be one of them
+    std::erase_if(folders, [&first](auto const & other) { return IsSameFolder(other, first); });
+    folders.insert(folders.begin(), first);
+    if (folders.size() > c_mostRecentFolders)
+    {
+        folders.resize(c_mostRecentFolders);
+    }
+}
+
+bool IsSameFolder(std::filesystem::path const & a, std::filesystem::path const & b)
+{
+    return PathKey(a) == PathKey(b);
+}
+
+bool IsInFolder(std::filesystem::path const & path, std::filesystem::path const & folder)
+{
+    auto const inner = PathKey(path);
+    auto const outer = PathKey(folder);
+    return inner.starts_with(outer) &&
+           (inner.size() == outer.size() || inner[outer.size()] == L'\\' || outer.ends_with(L'\\'));
+}
+
+std::set<int> NumbersOf(std::wstring_view text, int end)
+{
+    std::set<int> numbers;
+    for (auto const part : Split(text, c_numberSeparator))
+    {
+        auto const isDigit = [](wchar_t character) { return character >= L'0' && character <= L'9'; };
+        if (part.size() > c_longestNumber || !std::ranges::all_of(part, isDigit))
+        {
+            continue;
+        }
+        auto const number = std::stoi(std::wstring(part));
+        if (number < end)
+        {
+            numbers.insert(number);
+        }
+    }
+    return numbers;
+}
+
+std::wstring NumberText(std::set<int> const & numbers)
+{
+    std::wstring text;
+    for (auto const number : numbers)
+    {
+        text += (text.empty() ? L"" : std::wstring(1, c_numberSeparator)) + std::to_wstring(number);
+    }
+    return text;
+}
+
+} // namespace workbench

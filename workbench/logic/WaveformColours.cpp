@@ -1,0 +1,85 @@
+#include "logic/WaveformColours.h"
+
+#include <cwchar>
+#include <iterator>
+
+#include "logic/ReadableColours.h"
+
+namespace workbench
+{
+
+namespace
+{
+
+// Of the channels behind the first one.
+constexpr COLORREF c_traces[] = {RGB(0xFF, 0x96, 0x00), RGB(0x00, 0xFF, 0x00), RGB(0xFF, 0x32, 0xDC),
+                                 RGB(0x00, 0xFF, 0xD5), RGB(0xFF, 0xFF, 0x00)};
+constexpr COLORREF c_clipped = RGB(0xFF, 0x00, 0x00);
+constexpr COLORREF c_label = RGB(0xB0, 0xC4, 0xE0);
+
+constexpr double c_traceContrast = 3.0;
+constexpr double c_labelInCentre = 0.3;
+
+constexpr std::size_t c_digits = 6;
+
+int DigitOf(wchar_t character)
+{
+    if (character >= L'0' && character <= L'9')
+    {
+        return character - L'0';
+    }
+    auto const letter = character | 0x20;
+    return letter >= L'a' && letter <= L'f' ? static_cast<int>(letter - L'a') + 10 : -1;
+}
+
+} // namespace
+
+COLORREF TraceColour(WaveformColours const & colours, std::size_t channel)
+{
+    auto const place = channel % (std::size(c_traces) + 1);
+    return place == 0 ? colours.trace : ReadableColour(c_traces[place - 1], colours.background, c_traceContrast);
+}
+
+COLORREF ClippedColour(WaveformColours const & colours)
+{
+    return ReadableColour(c_clipped, colours.background, c_traceContrast);
+}
+
+COLORREF LabelColour(WaveformColours const & colours)
+{
+    return ReadableColour(c_label, colours.background);
+}
+
+COLORREF CentreColour(WaveformColours const & colours)
+{
+    return MixedColour(colours.grid, LabelColour(colours), c_labelInCentre);
+}
+
+std::wstring ColourText(COLORREF colour)
+{
+    wchar_t text[16];
+    std::swprintf(text, std::size(text), L"#%02X%02X%02X", static_cast<unsigned>(GetRValue(colour)),
+                  static_cast<unsigned>(GetGValue(colour)), static_cast<unsigned>(GetBValue(colour)));
+    return text;
+}
+
+std::optional<COLORREF> ColourOf(std::wstring_view text)
+{
+    if (text.size() != c_digits + 1 || text.front() != L'#')
+    {
+        return std::nullopt;
+    }
+    int value = 0;
+    for (auto const character : text.substr(1))
+    {
+        auto const digit = DigitOf(character);
+        if (digit < 0)
+        {
+            return std::nullopt;
+        }
+        value = value * 16 + digit;
+    }
+    return RGB(value >> 16 & 0xFF, value >> 8 & 0xFF, value & 0xFF);
+}
+
+} // namespace workbench
