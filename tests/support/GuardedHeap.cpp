@@ -319,6 +319,41 @@ void PatchImports(HMODULE module)
     }
 }
 
+/// How many callers are shown.
+constexpr int deepest_shown = 40;
+
+void WritePlace(char const * format, DWORD what, std::size_t at)
+{
+    HMODULE module = nullptr;
+    ::GetModuleHandleExA(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+                         reinterpret_cast<char const *>(at), &module);
+    char name[MAX_PATH] = "no module";
+    ::GetModuleFileNameA(module, name, MAX_PATH);
+    char text[MAX_PATH + 100];
+    int const length = ::wsprintfA(text, format, what, at - reinterpret_cast<std::size_t>(module), name);
+    DWORD written = 0;
+    ::WriteFile(::GetStdHandle(STD_ERROR_HANDLE), text, static_cast<DWORD>(length), &written, nullptr);
+}
+
+/// From a function to its caller; false at the end.
+bool Unwind(CONTEXT & frame)
+{
+    DWORD64 base = 0;
+    RUNTIME_FUNCTION * const function = ::RtlLookupFunctionEntry(frame.Rip, &base, nullptr);
+    if (function == nullptr)
+    {
+        if (frame.Rsp == 0 || frame.Rip == 0)
+            return false;
+        frame.Rip = *reinterpret_cast<DWORD64 const *>(frame.Rsp); // it has no frame
+        frame.Rsp += sizeof(DWORD64);
+        return true;
+    }
+    void * handler = nullptr;
+    DWORD64 establisher = 0;
+    ::RtlVirtualUnwind(UNW_FLAG_NHANDLER, base, frame.Rip, function, &frame, &handler, &establisher, nullptr);
+    return true;
+}
+
 /// A window system may pass over a fault in a window procedure that it has called, and the test would go on as if
 /// nothing had happened.
 LONG CALLBACK EndOnFault(EXCEPTION_POINTERS * fault)
@@ -327,17 +362,11 @@ LONG CALLBACK EndOnFault(EXCEPTION_POINTERS * fault)
     if (code != EXCEPTION_ACCESS_VIOLATION && code != EXCEPTION_ILLEGAL_INSTRUCTION &&
         code != EXCEPTION_STACK_OVERFLOW && code != STATUS_HEAP_CORRUPTION)
         return EXCEPTION_CONTINUE_SEARCH;
-    auto const at = reinterpret_cast<std::size_t>(fault->ExceptionRecord->ExceptionAddress);
-    HMODULE module = nullptr;
-    ::GetModuleHandleExA(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
-                         reinterpret_cast<char const *>(at), &module);
-    char name[MAX_PATH] = "no module";
-    ::GetModuleFileNameA(module, name, MAX_PATH);
-    char text[MAX_PATH + 100];
-    int const length = ::wsprintfA(text, "guarded heap: exception %lx at %Ix of %s\n", code,
-                                   at - reinterpret_cast<std::size_t>(module), name);
-    DWORD written = 0;
-    ::WriteFile(::GetStdHandle(STD_ERROR_HANDLE), text, static_cast<DWORD>(length), &written, nullptr);
+    WritePlace("guarded heap: exception %lx at %Ix of %s\n", code,
+               reinterpret_cast<std::size_t>(fault->ExceptionRecord->ExceptionAddress));
+    CONTEXT frame = *fault->ContextRecord;
+    for (int depth = 0; depth < deepest_shown && Unwind(frame) && frame.Rip != 0; ++depth)
+        WritePlace("    %lu called from %Ix of %s\n", static_cast<DWORD>(depth), frame.Rip);
     ::TerminateProcess(::GetCurrentProcess(), GuardedHeap::exit_code_of_a_fault);
     return EXCEPTION_CONTINUE_SEARCH;
 }

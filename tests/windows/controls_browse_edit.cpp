@@ -1,8 +1,10 @@
 // The browse edit: files by the system's dialog, and the multiselect as a drop-down.
 
+#include "controls_ControlTest.h"
 #include "controls_MultiselectTest.h"
 
 #include "GdiHandleCount.h"
+#include "GuardedHeap.h"
 #include "Input.h"
 #include "Pump.h"
 #include "controls/XEditBrowseCtrl.h"
@@ -471,6 +473,39 @@ TEST_F(BrowseEditTest, NullTextsCountAsEmpty)
     EXPECT_STREQ(m_edit->m_defaultExtension, L"");
     m_edit->SetDefaultFilename(L"name.txt");
     EXPECT_STREQ(m_edit->m_defaultFilename, L"name.txt");
+}
+
+TEST_F(BrowseEditTest, TheFieldMayEndWhileItsButtonIsLaidOut)
+{
+    using Field = controls::Watched<CXEditBrowseCtrl>;
+    for (auto const prepare :
+         {+[](Field & field) { field.PrepareFileOpenBrowser(L"", L"", L""); },
+          +[](Field & field) { field.PrepareFileSaveAsBrowser(L"", L"", L""); },
+          +[](Field & field) { field.PrepareIdNameBrowser(); }, +[](Field & field) { field.PrepareLongIdNameBrowser(); }})
+    {
+        tests::GuardedHeap heap;
+        auto field = std::make_unique<Field>();
+        ASSERT_TRUE(field->Create(WS_CHILD | WS_VISIBLE | WS_BORDER, CRect(10, 50, 210, 74), m_parent, 6));
+        field->On(WM_NCCALCSIZE, [&] { field.reset(); });
+        prepare(*field);
+        EXPECT_EQ(field, nullptr);
+    }
+}
+
+TEST_F(BrowseEditTest, TheFieldMayEndWhileItsTextIsWorkedOut)
+{
+    for (UINT const question : {WM_GETFONT, WM_GETTEXT, WM_GETTEXTLENGTH, WM_SETTEXT})
+    {
+        SCOPED_TRACE(testing::Message() << "message " << question);
+        tests::GuardedHeap heap;
+        auto field = std::make_unique<controls::Watched<CXEditBrowseCtrl>>();
+        ASSERT_TRUE(field->Create(WS_CHILD | WS_VISIBLE | WS_BORDER, CRect(10, 50, 210, 74), m_parent, 6));
+        field->AddItem(1, L"A");
+        field->SetSelection(1);
+        field->On(question, [&] { field.reset(); });
+        field->UpdateSelectionText();
+        EXPECT_EQ(field, nullptr);
+    }
 }
 
 TEST_F(BrowseEditTest, WithoutAWindowNothingHappens)

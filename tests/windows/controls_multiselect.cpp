@@ -3,8 +3,10 @@
 #include "controls_MultiselectTest.h"
 
 #include "GdiHandleCount.h"
+#include "GuardedHeap.h"
 #include "Input.h"
 #include "Pump.h"
+#include "controls_ControlTest.h"
 
 #include <gtest/gtest.h>
 
@@ -301,6 +303,24 @@ TEST_F(Multiselect, AClickOnTheCheckBoxTicksOnce)
     ASSERT_TRUE(tests::PumpUntil([&] { return !m_parent.events.empty(); }));
     EXPECT_EQ(Parts().Ticked(), (Numbers{3}));
     EXPECT_EQ(TakeEvents(), (Events{{6, 3}}));
+}
+
+TEST_F(Multiselect, TheListMayEndInWhateverAPressAsksIt)
+{
+    for (UINT const question : {LVM_HITTEST, LVM_GETITEMW, LVM_GETITEMSTATE, LVM_SETITEMSTATE})
+    {
+        SCOPED_TRACE(testing::Message() << "question " << question - LVM_FIRST);
+        tests::GuardedHeap heap;
+        auto list = std::make_unique<controls::Watched<CIdNameMultiselectListCtlr>>();
+        ASSERT_TRUE(list->Create(WS_CHILD | WS_VISIBLE | LVS_LIST, CRect(0, 0, 200, 100), m_parent, 9));
+        list->InsertItem(LVIF_TEXT | LVIF_PARAM, 0, L"some text", 0, 0, 0, 1);
+        CRect label;
+        list->GetItemRect(0, &label, LVIR_LABEL);
+        list->On(question, [&] { list.reset(); });
+        ::SendMessageW(list->m_hWnd, WM_LBUTTONDOWN, MK_LBUTTON,
+                       MAKELPARAM(label.CenterPoint().x, label.CenterPoint().y));
+        EXPECT_EQ(list, nullptr);
+    }
 }
 
 TEST_F(Multiselect, DataOutlivesTheWindowAndTheControlCanBeShownAgain)

@@ -28,9 +28,17 @@ void CIdNameMultiselectListCtlr::OnLButtonDown(UINT flags, CPoint point)
     HWND const window = m_hWnd;
     UINT hitFlags = 0;
     int const row = HitTest(point, &hitFlags);
+    if (!IsStillThere(window, this))
+        return;
     LPARAM const id = row >= 0 ? static_cast<LPARAM>(GetItemData(row)) : 0;
+    if (!IsStillThere(window, this))
+        return;
     if (row >= 0 && (hitFlags & LVHT_ONITEMLABEL) != 0)
-        SetCheck(row, GetCheck(row) == 0);
+    {
+        bool const ticked = GetCheck(row) != 0;
+        if (IsStillThere(window, this))
+            SetCheck(row, !ticked);
+    }
     else
         CListCtrl::OnLButtonDown(flags, point);
     if (row < 0 || !IsStillThere(window, this))
