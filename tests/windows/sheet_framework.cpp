@@ -793,6 +793,54 @@ TEST_F(PropertySheetEnds, APageLeavesInANotification)
     }
 }
 
+TEST_F(PropertySheetEnds, AfterAClickOnATab)
+{
+    for (std::string const moment : {"1 kill", "2 init", "2 set"})
+    {
+        SCOPED_TRACE(moment);
+        Sheet sheet(L"Ends");
+        AddAll(sheet);
+        ASSERT_TRUE(sheet.Create());
+        for (Page * const page : {&m_one, &m_two})
+        {
+            page->m_act = [&, page](std::string const & what) {
+                if (page->m_name + " " + what == moment)
+                    sheet.DestroyWindow();
+            };
+        }
+        ASSERT_TRUE(tests::BringToFront(sheet));
+        CRect tab;
+        sheet.GetTabControl()->GetItemRect(1, &tab);
+        tests::Click(tests::ClientPoint(sheet.GetTabControl()->m_hWnd, tab.CenterPoint()));
+        EXPECT_TRUE(tests::PumpUntil([&] { return sheet.m_hWnd == nullptr; }));
+        EXPECT_EQ(m_one.m_hWnd, nullptr);
+        m_one.m_act = m_two.m_act = {};
+        for (CPropertyPage * page : {&m_one, &m_two, &m_three})
+            sheet.RemovePage(page);
+    }
+}
+
+TEST_F(PropertySheetEnds, APageLeavesAfterAClickOnItsTab)
+{
+    Sheet sheet(L"Ends");
+    AddAll(sheet);
+    ASSERT_TRUE(sheet.Create());
+    m_two.m_act = [&](std::string const & what) {
+        if (what == "set")
+            sheet.RemovePage(&m_two);
+    };
+    ASSERT_TRUE(tests::BringToFront(sheet));
+    CRect tab;
+    sheet.GetTabControl()->GetItemRect(1, &tab);
+    tests::Click(tests::ClientPoint(sheet.GetTabControl()->m_hWnd, tab.CenterPoint()));
+    EXPECT_TRUE(tests::PumpUntil([&] { return sheet.GetTabControl()->GetItemCount() == 2; }));
+    EXPECT_EQ(sheet.GetPageCount(), 2);
+    EXPECT_EQ(m_two.m_hWnd, nullptr);
+    EXPECT_NE(sheet.GetActivePage(), nullptr);
+    m_two.m_act = {};
+    sheet.DestroyWindow();
+}
+
 TEST_F(PropertySheetEnds, WithItsOwner)
 {
     Sheet sheet(L"Ends");
