@@ -1,5 +1,7 @@
 #include "detail/SheetWindow.h"
 
+#include "detail/ThreadState.h"
+
 #include <algorithm>
 
 namespace framework
@@ -61,6 +63,9 @@ LRESULT SheetWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam)
     --m_depth;
     if (message == WM_INITDIALOG)
         m_ready = true;
+    // A page whose window could not be made must not get another one.
+    if (m_depth == 0 && DYNAMIC_DOWNCAST(CPropertyPage, CurrentThreadState().creating) != nullptr)
+        AfxUnhookWindowCreate();
     CloseIfOver(message, wParam);
     // The tab control that notifies still runs: it stands neither its end nor another number of tabs.
     if (message != WM_NOTIFY)

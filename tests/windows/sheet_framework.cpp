@@ -30,7 +30,32 @@ using PropertySheetModal = SheetTest;
 using PropertySheetWizard = SheetTest;
 using PropertySheetEnds = SheetTest;
 
-constexpr DWORD default_style = static_cast<DWORD>(-1);
+/// Notes whether a native control is destroyed, or loses an item, while its own code runs.
+struct OwnCode
+{
+    int depth = 0;
+    bool disturbed = false;
+
+    void Watch(HWND window) { ::SetWindowSubclass(window, Procedure, 1, reinterpret_cast<DWORD_PTR>(this)); }
+
+    static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
+                                      DWORD_PTR data)
+    {
+        auto & self = *reinterpret_cast<OwnCode *>(data);
+        if ((message == WM_DESTROY || message == TCM_DELETEITEM) && self.depth > 0)
+            self.disturbed = true;
+        if (message == WM_NCDESTROY)
+        {
+            ::RemoveWindowSubclass(window, Procedure, id);
+            return ::DefSubclassProc(window, message, wParam, lParam);
+        }
+        bool const click = message == WM_LBUTTONDOWN || message == WM_LBUTTONUP;
+        self.depth += click;
+        LRESULT const result = ::DefSubclassProc(window, message, wParam, lParam);
+        self.depth -= click;
+        return result;
+    }
+};
 } // namespace
 
 // --- Modeless sheets ---
@@ -791,6 +816,60 @@ TEST_F(PropertySheetEnds, APageLeavesInANotification)
         for (CPropertyPage * page : {&m_one, &m_three})
             sheet.RemovePage(page);
     }
+}
+
+TEST_F(PropertySheetEnds, AfterAClickOnATab)
+{
+    for (std::string const moment : {"1 kill", "2 init", "2 set"})
+    {
+        SCOPED_TRACE(moment);
+        Sheet sheet(L"Ends");
+        AddAll(sheet);
+        ASSERT_TRUE(sheet.Create());
+        for (Page * const page : {&m_one, &m_two})
+        {
+            page->m_act = [&, page](std::string const & what) {
+                if (page->m_name + " " + what == moment)
+                    sheet.DestroyWindow();
+            };
+        }
+        OwnCode tabs;
+        tabs.Watch(sheet.GetTabControl()->m_hWnd);
+        ASSERT_TRUE(tests::BringToFront(sheet));
+        CRect tab;
+        sheet.GetTabControl()->GetItemRect(1, &tab);
+        tests::Click(tests::ClientPoint(sheet.GetTabControl()->m_hWnd, tab.CenterPoint()));
+        EXPECT_TRUE(tests::PumpUntil([&] { return sheet.m_hWnd == nullptr; }));
+        EXPECT_FALSE(tabs.disturbed);
+        EXPECT_EQ(m_one.m_hWnd, nullptr);
+        m_one.m_act = m_two.m_act = {};
+        for (CPropertyPage * page : {&m_one, &m_two, &m_three})
+            sheet.RemovePage(page);
+    }
+}
+
+TEST_F(PropertySheetEnds, APageLeavesAfterAClickOnItsTab)
+{
+    Sheet sheet(L"Ends");
+    AddAll(sheet);
+    ASSERT_TRUE(sheet.Create());
+    m_two.m_act = [&](std::string const & what) {
+        if (what == "set")
+            sheet.RemovePage(&m_two);
+    };
+    OwnCode tabs;
+    tabs.Watch(sheet.GetTabControl()->m_hWnd);
+    ASSERT_TRUE(tests::BringToFront(sheet));
+    CRect tab;
+    sheet.GetTabControl()->GetItemRect(1, &tab);
+    tests::Click(tests::ClientPoint(sheet.GetTabControl()->m_hWnd, tab.CenterPoint()));
+    EXPECT_TRUE(tests::PumpUntil([&] { return sheet.GetTabControl()->GetItemCount() == 2; }));
+    EXPECT_FALSE(tabs.disturbed);
+    EXPECT_EQ(sheet.GetPageCount(), 2);
+    EXPECT_EQ(m_two.m_hWnd, nullptr);
+    EXPECT_NE(sheet.GetActivePage(), nullptr);
+    m_two.m_act = {};
+    sheet.DestroyWindow();
 }
 
 TEST_F(PropertySheetEnds, WithItsOwner)

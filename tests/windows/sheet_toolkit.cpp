@@ -254,6 +254,17 @@ TEST_F(PropertySheet3d, APageAnswersForItsLeastSize)
     EXPECT_EQ(CPoint(info.ptMaxTrackSize), CPoint(5000, 5000));
 }
 
+TEST_F(PropertySheet3d, LayoutBeforeTheOpeningDoesNothing)
+{
+    Sheet3d sheet;
+    AddAll(sheet);
+    sheet.D3dLayoutChild(ok_button, CEdges::BOTTOM_RIGHT(), nullptr);
+    sheet.D3dLayoutComplete();
+    m_one.D3dLayoutChild(IDC_PAGE_TEXT, CEdges::TOP_LEFT(), nullptr);
+    m_one.D3dLayoutComplete();
+    EXPECT_NE(sheet.DisplayDialog(nullptr), 0);
+}
+
 TEST_F(PropertySheet3d, TitlesOfPages)
 {
     Page3d named(m_notes, "n", CDialog3d::NO_DLL, IDD_PAGE_ONE, CString(L"Named"));

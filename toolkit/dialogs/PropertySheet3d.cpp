@@ -263,27 +263,32 @@ void CPropertySheet3d::OnDestroy()
 
 void CPropertySheet3d::D3dLayoutChild(int id, CEdges const & edges, CRect const * designRect)
 {
-    m_resizer->PositionChild(id, edges, designRect);
+    if (m_resizer != nullptr)
+        m_resizer->PositionChild(id, edges, designRect);
 }
 
 void CPropertySheet3d::D3dLayoutChild(int id, CRect const & fractions, CRect const * designRect)
 {
-    m_resizer->PositionChild(id, fractions, designRect);
+    if (m_resizer != nullptr)
+        m_resizer->PositionChild(id, fractions, designRect);
 }
 
 void CPropertySheet3d::D3dLayoutChild(CWnd * child, CEdges const & edges, CRect const * designRect)
 {
-    m_resizer->PositionChild(child, edges, designRect);
+    if (m_resizer != nullptr)
+        m_resizer->PositionChild(child, edges, designRect);
 }
 
 void CPropertySheet3d::D3dLayoutChild(CWnd * child, CRect const & fractions, CRect const * designRect)
 {
-    m_resizer->PositionChild(child, fractions, designRect);
+    if (m_resizer != nullptr)
+        m_resizer->PositionChild(child, fractions, designRect);
 }
 
 void CPropertySheet3d::D3dLayoutComplete()
 {
-    m_resizer->OnSize();
+    if (m_resizer != nullptr)
+        m_resizer->OnSize();
 }
 
 void CPropertySheet3d::ClientCoordinates(int id, CRect & rect)
