@@ -264,6 +264,7 @@ bool CWalk::ChangeLanguage()
 void CWalk::Click(int line, int column)
 {
     auto & list = m_window.List();
+    list.EnsureVisible(list.PlaceOf(line), FALSE);
     auto const point = list.CellCentre(line, static_cast<CRecordingList::Column>(column));
     auto const where = MAKELPARAM(point.x, point.y);
     list.PostMessage(WM_LBUTTONDOWN, MK_LBUTTON, where);
