@@ -288,7 +288,7 @@ void CMainWindow::ShowFolders(bool show)
     }
     m_folderPane = show;
     m_settings.folderPane = show;
-    KeepSettings();
+    workbench::StoreFolderPane(m_settings);
     PlaceFolders();
     FillFolders();
 }
@@ -370,7 +370,7 @@ void CMainWindow::OnCaptureChanged(CWnd * window)
     if (m_dividerGrip >= 0)
     {
         m_dividerGrip = -1;
-        KeepSettings();
+        workbench::StoreFolderPane(m_settings);
     }
     CWnd::OnCaptureChanged(window);
 }

@@ -121,11 +121,17 @@ bool StoreSettings(Settings const & settings)
            WriteText(c_cursorColour, ColourText(settings.waveform.cursor)) &&
            StoreAmplification(settings.amplification) &&
            WriteText(c_hiddenColumns, NumberText(settings.hiddenColumns)) &&
-           app.WriteProfileInt(c_section, c_folderPane, settings.folderPane ? *settings.folderPane : -1) &&
-           app.WriteProfileInt(c_section, c_folderPaneWidth, settings.folderPaneWidth) &&
+           StoreFolderPane(settings) &&
            WriteText(c_exportFile, settings.exportFile.wstring()) &&
            WriteText(c_exportHidden, NumberText(settings.exportHidden)) &&
            app.WriteProfileInt(c_section, c_exportLines, settings.exportLines);
+}
+
+bool StoreFolderPane(Settings const & settings)
+{
+    auto & app = *AfxGetApp();
+    return app.WriteProfileInt(c_section, c_folderPane, settings.folderPane ? *settings.folderPane : -1) &&
+           app.WriteProfileInt(c_section, c_folderPaneWidth, settings.folderPaneWidth);
 }
 
 bool StoreAmplification(int decibels)

@@ -47,6 +47,9 @@ Settings ReadSettings();
 /// Stores the settings. False if that failed.
 bool StoreSettings(Settings const & settings);
 
+/// Stores alone whether the folders show and how wide. False if that failed.
+bool StoreFolderPane(Settings const & settings);
+
 /// Stores the amplification alone, which changes often. False if that failed.
 bool StoreAmplification(int decibels);
 

@@ -1,6 +1,9 @@
 #include "SettingsGroup.h"
 
+#include <uxtheme.h>
+
 #include "BrowseKey.h"
+#include "logic/ReadableColours.h"
 
 BEGIN_MESSAGE_MAP(CSettingsGroup, CDialog)
     ON_WM_SIZE()
@@ -24,6 +27,18 @@ BOOL CSettingsGroup::OnInitDialog()
 {
     CDialog::OnInitDialog();
     m_layout = std::make_unique<CDialogResizer>(*this, CString());
+    // Titles of groups have the visual style's colour, which is made for a light ground.
+    if (workbench::ContrastRatio(::GetSysColor(COLOR_BTNFACE), RGB(0, 0, 0)) < workbench::c_textContrast)
+    {
+        for (auto * child = GetWindow(GW_CHILD); child != nullptr; child = child->GetNextWindow())
+        {
+            if ((child->SendMessage(WM_GETDLGCODE) & DLGC_STATIC) != 0 &&
+                (child->GetStyle() & BS_TYPEMASK) == BS_GROUPBOX)
+            {
+                ::SetWindowTheme(child->m_hWnd, L"", L"");
+            }
+        }
+    }
     return FALSE; // the focus is the whole dialog's affair
 }
 

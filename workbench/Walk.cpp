@@ -67,7 +67,8 @@ CWalk::CWalk(CMainWindow & window, std::filesystem::path folder) : m_window(wind
 
 bool CWalk::WaitForRecordings()
 {
-    return PumpUntil([this] { return !m_window.IsBusy() && !m_window.IsComputing(); }, c_readLimit);
+    return PumpUntil([this] { return !m_window.IsBusy() && !m_window.IsComputing() && !m_window.Folders().IsBusy(); },
+                     c_readLimit);
 }
 
 bool CWalk::Resize(int left, int top, int width, int height)
@@ -242,7 +243,9 @@ bool CWalk::GoThroughDialogs(std::string const & suffix)
         return false;
     }
     return StepInDialog(name("workbench-language").c_str(), ID_CHOOSE_LANGUAGE, cancel) &&
-           StepInDialog(name("workbench-folder").c_str(), ID_OPEN_FOLDER, cancel);
+           StepInDialog(name("workbench-folder").c_str(), ID_OPEN_FOLDER, cancel) &&
+           StepInDialog(name("workbench-columns").c_str(), ID_CHOOSE_COLUMNS, cancel) &&
+           StepInDialog(name("workbench-export").c_str(), ID_EXPORT_LIST, cancel);
 }
 
 /// Chooses German in the language chooser, as a user would.
@@ -261,6 +264,7 @@ bool CWalk::ChangeLanguage()
 void CWalk::Click(int line, int column)
 {
     auto & list = m_window.List();
+    list.EnsureVisible(list.PlaceOf(line), FALSE);
     auto const point = list.CellCentre(line, static_cast<CRecordingList::Column>(column));
     auto const where = MAKELPARAM(point.x, point.y);
     list.PostMessage(WM_LBUTTONDOWN, MK_LBUTTON, where);
@@ -334,6 +338,7 @@ bool CWalk::Run()
     {
         return false;
     }
+    m_window.ShowFolders(true);
     if (m_window.ChooseRecording(m_window.RecordingCount() / 2))
     {
         m_window.MoveCursorToPart(c_cursorPercent);

@@ -3,6 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <optional>
+#include <set>
+#include <string>
 
 #include "Settings.h"
 #include "TestApp.h"
@@ -60,6 +63,15 @@ TEST_F(WorkbenchSettings, ComeBackAsTheyWereStored)
     settings.inactiveOpacity = 75;
     settings.spectrogramScale = 8;
     settings.startFolders = {L"C:\\recordings", L"D:\\with blanks and ; signs"};
+    settings.recentFolders = {L"D:\\last", L"C:\\before"};
+    settings.waveform = {RGB(1, 2, 3), RGB(4, 5, 6), RGB(7, 8, 9), RGB(250, 251, 252)};
+    settings.amplification = 18;
+    settings.hiddenColumns = {3, 11};
+    settings.folderPane = false;
+    settings.folderPaneWidth = 44;
+    settings.exportFile = L"C:\\lists\\list of today.html";
+    settings.exportHidden = {5};
+    settings.exportLines = 2;
     ASSERT_TRUE(StoreSettings(settings));
     ASSERT_TRUE(workbench::StoreLanguage(1031));
     auto const read = ReadSettings();
@@ -68,6 +80,15 @@ TEST_F(WorkbenchSettings, ComeBackAsTheyWereStored)
     EXPECT_EQ(read.inactiveOpacity, 75);
     EXPECT_EQ(read.spectrogramScale, 8u);
     EXPECT_EQ(read.startFolders, settings.startFolders);
+    EXPECT_EQ(read.recentFolders, settings.recentFolders);
+    EXPECT_EQ(read.waveform, settings.waveform);
+    EXPECT_EQ(read.amplification, 18);
+    EXPECT_EQ(read.hiddenColumns, settings.hiddenColumns);
+    EXPECT_EQ(read.folderPane, std::optional(false));
+    EXPECT_EQ(read.folderPaneWidth, 44);
+    EXPECT_EQ(read.exportFile, settings.exportFile);
+    EXPECT_EQ(read.exportHidden, settings.exportHidden);
+    EXPECT_EQ(read.exportLines, 2);
     EXPECT_EQ(workbench::ReadLanguage(), 1031);
 }
 
@@ -82,6 +103,42 @@ TEST_F(WorkbenchSettings, AnOpacityOutOfItsLimitsIsNotTaken)
     EXPECT_EQ(ReadSettings().inactiveOpacity, 20);
     Write(L"InactiveOpacity", L"100");
     EXPECT_EQ(ReadSettings().inactiveOpacity, 100);
+}
+
+TEST_F(WorkbenchSettings, BadValuesAreAsInANewObject)
+{
+    Settings const usual;
+    for (auto const * const entry : {L"TraceColour", L"BackgroundColour", L"GridColour", L"CursorColour"})
+    {
+        Write(entry, L"blue");
+        EXPECT_EQ(ReadSettings().waveform, usual.waveform) << entry;
+    }
+    Write(L"CursorColour", L"#102030");
+    EXPECT_EQ(ReadSettings().waveform.cursor, RGB(0x10, 0x20, 0x30)); // each for itself
+    EXPECT_EQ(ReadSettings().waveform.trace, usual.waveform.trace);
+    for (auto const * const value : {L"7", L"-6", L"60", L"99999999", L"x"})
+    {
+        Write(L"Amplification", value);
+        EXPECT_EQ(ReadSettings().amplification, 0) << value;
+    }
+    Write(L"HiddenColumns", L"3 x -1 999999 7");
+    EXPECT_EQ(ReadSettings().hiddenColumns, (std::set<int>{3, 7}));
+    Write(L"FolderPane", L"7");
+    EXPECT_FALSE(ReadSettings().folderPane);
+    for (auto const * const value : {L"-5", L"3", L"100000"})
+    {
+        Write(L"FolderPaneWidth", value);
+        EXPECT_EQ(ReadSettings().folderPaneWidth, 0) << value;
+    }
+    Write(L"ExportLines", L"3");
+    EXPECT_EQ(ReadSettings().exportLines, 0);
+    std::wstring many;
+    for (int i = 0; i < 50; ++i)
+    {
+        many += L"|C:\\f" + std::to_wstring(i);
+    }
+    Write(L"RecentFolders", many.c_str());
+    EXPECT_EQ(ReadSettings().recentFolders.size(), 10U);
 }
 
 TEST_F(WorkbenchSettings, EmptyFoldersAreLeftOut)
