@@ -138,6 +138,29 @@ TEST_F(TreeRecords, ARefillAllocatesNothing)
     EXPECT_EQ(m_stock.size(), 5000u);
 }
 
+TEST_F(TreeRecords, AHundredThousandAreFilledFoundAndPutBackAndARefillAllocatesNothing)
+{
+    constexpr int count = 100000;
+    auto const fill = [&] {
+        for (int i = 0; i < count; ++i)
+            Take()->id = i;
+    };
+    fill();
+    int hits = 0;
+    for (XTreeItemData const * const record : m_inUse)
+        hits += MatchesBest(record, -1, count - 1, nullptr);
+    EXPECT_EQ(hits, 1);
+    // Back at once: the list's nodes go over as they are, whatever their number.
+    xtree::Records::const_iterator const first = m_inUse.begin();
+    std::size_t const before = tests::AllocationsSoFar().count;
+    xtree::ReturnAllRecords(m_inUse, m_stock);
+    EXPECT_EQ(xtree::Records::const_iterator(m_stock.begin()), first);
+    fill();
+    EXPECT_EQ(tests::AllocationsSoFar().count, before);
+    EXPECT_EQ(m_inUse.size(), static_cast<std::size_t>(count));
+    EXPECT_TRUE(m_stock.empty());
+}
+
 TEST(TreeMatch, BestTakesMinusOneForAnythingAndExactForAValue)
 {
     XTreeItemData typed;

@@ -40,10 +40,13 @@ public:
 
     /// Double clicks that reached the native tree.
     int doubleClicksOfTheBase = 0;
+    /// Messages that reached it at all.
+    int messagesOfTheBase = 0;
 
 protected:
     LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
+        ++messagesOfTheBase;
         doubleClicksOfTheBase += message == WM_LBUTTONDBLCLK;
         return CXTreeCtrl::DefWindowProc(message, wParam, lParam);
     }

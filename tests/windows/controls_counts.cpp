@@ -5,6 +5,8 @@
 #include "controls/FreeIconButton.h"
 #include "controls/LevelSliderCtrl.h"
 #include "controls/ListBoxX.h"
+#include "controls/XEditBrowseCtrl.h"
+#include "controls/XTreeCtrl.h"
 
 #include "GdiHandleCount.h"
 #include "Pump.h"
@@ -12,6 +14,8 @@
 #include "ThreadWindows.h"
 
 #include <gtest/gtest.h>
+
+#include <functional>
 
 namespace
 {
@@ -42,6 +46,78 @@ BOOL Create(CListBoxX & list, CWnd * parent)
     BOOL const created = list.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 80, 100), parent, 5);
     list.AddItem(L"text", 1);
     return created;
+}
+
+BOOL Create(CXTreeCtrl & tree, CWnd * parent)
+{
+    BOOL const created = tree.Create(WS_CHILD | WS_VISIBLE | TVS_HASBUTTONS, CRect(0, 0, 120, 100), parent, 5);
+    HTREEITEM const item = tree.InsertTreeItem(L"a text that is much too wide for the tree", nullptr, TVI_LAST, -1);
+    tree.InsertTreeItem(L"below", item, TVI_LAST, 1);
+    tree.ExpandTree(-1);
+    return created;
+}
+BOOL Create(CIdNameMultiselectCtrl & control, CWnd * parent)
+{
+    control.EnableOkCancel();
+    control.AddItem(1, L"one");
+    control.AddItem(2, L"two");
+    BOOL const created = control.Create(L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 200, 150), parent, 5);
+    control.RedrawWindow();
+    return created;
+}
+BOOL Create(CXEditBrowseCtrl & field, CWnd * parent)
+{
+    BOOL const created = field.Create(WS_CHILD | WS_VISIBLE | WS_BORDER, CRect(0, 0, 120, 24), parent, 5);
+    field.PrepareFileOpenBrowser(L"", L"", L"");
+    field.AddItem(1, L"one");
+    field.SetSelection(1);
+    field.PrepareIdNameBrowser();
+    field.SendMessage(WM_NCMOUSEMOVE, HTBORDER, MAKELPARAM(215, 112));
+    return created;
+}
+
+/// Cancelled as soon as it is up.
+class BriefDialog : public CIdNameMultiselectDlg
+{
+public:
+    BriefDialog()
+    {
+        m_placement = CRect(120, 120, 320, 300);
+        m_control.AddItem(1, L"one");
+    }
+
+protected:
+    BOOL OnInitDialog() override
+    {
+        CIdNameMultiselectDlg::OnInitDialog();
+        PostMessage(WM_COMMAND, IDCANCEL);
+        return TRUE;
+    }
+};
+
+/// A field whose drop-down is cancelled as soon as it is up.
+class BriefField : public CXEditBrowseCtrl
+{
+public:
+    bool IsOpen() const { return m_dialog.m_hWnd != nullptr && m_dialog.IsWindowVisible(); }
+    void Close() { m_dialog.EndDialog(IDCANCEL); }
+};
+
+/// Does it a few times, then `times` times more, and compares windows and GDI objects.
+void LeavesNothing(int times, std::function<void()> const & open)
+{
+    auto const repeat = [&](int count) {
+        for (int i = 0; i < count; ++i)
+            open();
+        tests::PumpPosted();
+    };
+    repeat(10);
+    int const windows = tests::ThreadWindows();
+    int const objects = tests::GdiHandleCount();
+    repeat(times);
+    EXPECT_EQ(tests::ThreadWindows(), windows);
+    constexpr int kept_by_the_system = 4; // fonts
+    EXPECT_LE(tests::GdiHandleCount(), objects + kept_by_the_system);
 }
 
 template <typename Control> void OpenOften()
@@ -100,4 +176,45 @@ TEST(ControlCounts, RepaintsLeaveNothingBehind)
     RepaintOften<CLevelSliderCtrl>();
     RepaintOften<CComboBoxX>();
     RepaintOften<CListBoxX>();
+}
+
+TEST(ControlCountsOfTrees, OpeningsLeaveNothingBehind)
+{
+    OpenOften<CXTreeCtrl>();
+}
+
+TEST(ControlCountsOfFields, OpeningsAndRepaintsLeaveNothingBehind)
+{
+    OpenOften<CXEditBrowseCtrl>();
+    RepaintOften<CXEditBrowseCtrl>();
+}
+
+TEST(ControlCountsOfMultiselects, OpeningsLeaveNothingBehind)
+{
+    OpenOften<CIdNameMultiselectCtrl>();
+}
+
+TEST(ControlCountsOfPaintedMultiselects, RepaintsLeaveNothingBehind)
+{
+    RepaintOften<CIdNameMultiselectCtrl>();
+}
+
+TEST(ControlCountsOfDialogs, OpeningsLeaveNothingBehind)
+{
+    LeavesNothing(openings, [] { EXPECT_EQ(BriefDialog().DoModal(), IDCANCEL); });
+}
+
+TEST(ControlCountsOfDropDowns, OpeningsLeaveNothingBehind)
+{
+    tests::ScopedWindow parent(CRect(100, 100, 400, 300), WS_POPUP | WS_VISIBLE);
+    BriefField field;
+    tests::WindowCloser const closer(field);
+    ASSERT_TRUE(Create(field, parent));
+    constexpr int drop_downs = 150; // each waits for a timer
+    LeavesNothing(drop_downs, [&] {
+        tests::LaterActions later;
+        later.Add([&] { field.Close(); }, [&] { return field.IsOpen(); });
+        field.OnBrowse();
+        EXPECT_FALSE(later.Failed());
+    });
 }

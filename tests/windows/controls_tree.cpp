@@ -4,6 +4,7 @@
 
 #include "GdiHandleCount.h"
 #include "Input.h"
+#include "MessageRecorder.h"
 #include "Pump.h"
 
 #include <gtest/gtest.h>
@@ -40,11 +41,6 @@ protected:
         return rect.CenterPoint();
     }
     bool IsExpanded(HTREEITEM item) { return m_tree->GetItemState(item, TVIS_EXPANDED) != 0; }
-    BOOL Translate(UINT message, WPARAM key)
-    {
-        MSG text{m_tree->m_hWnd, message, key, 0, 0, {}};
-        return m_tree->PreTranslateMessage(&text);
-    }
     HTREEITEM Find(int type, int id, wchar_t const * text, HTREEITEM start, bool exact = false)
     {
         return m_tree->FindItem(type, id, nullptr, text, start, exact);
@@ -323,15 +319,97 @@ TEST_F(TreeControl, TheNamedKeySetsAreTheseBits)
     EXPECT_EQ(m_tree->m_keyFlags, 2u);
 }
 
-TEST_F(TreeControl, OnlyKeyStrokesOfItsClassesPassUntranslated)
+namespace
 {
-    // A tip takes note of every message that is translated.
-    m_tree->EnableToolTips();
-    m_tree->DontAbsorbKeys(4);
-    EXPECT_FALSE(Translate(WM_KEYDOWN, 'A'));
-    EXPECT_FALSE(Translate(WM_KEYUP, 'A'));
-    EXPECT_FALSE(Translate(WM_KEYDOWN, VK_F5));
-    EXPECT_FALSE(Translate(WM_CHAR, 'A'));
+/// Has a tip wherever the mouse is.
+class TippedTree : public tests::TestTree
+{
+public:
+    INT_PTR OnToolHitTest(CPoint, TOOLINFO * info) const override
+    {
+        info->hwnd = m_hWnd;
+        info->uId = 1;
+        GetClientRect(&info->rect);
+        info->lpszText = const_cast<wchar_t *>(L"tip");
+        return 1;
+    }
+};
+
+std::set<HWND> ToolTipWindows()
+{
+    std::set<HWND> found;
+    ::EnumThreadWindows(
+        ::GetCurrentThreadId(),
+        [](HWND window, LPARAM result) -> BOOL {
+            wchar_t name[32] = {};
+            ::GetClassNameW(window, name, 32);
+            if (CString(name) == TOOLTIPS_CLASS)
+                reinterpret_cast<std::set<HWND> *>(result)->insert(window);
+            return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&found));
+    return found;
+}
+
+/// Moves the mouse over the tree, which makes the window of the tip; gives that.
+HWND Tip(TippedTree & tree)
+{
+    std::set<HWND> const before = ToolTipWindows();
+    tree.EnableToolTips();
+    CRect screen;
+    tree.GetWindowRect(&screen);
+    MSG move{tree.m_hWnd, WM_MOUSEMOVE, 0, MAKELPARAM(20, 20), 0, screen.CenterPoint()};
+    tree.PreTranslateMessage(&move);
+    std::set<HWND> after = ToolTipWindows();
+    std::erase_if(after, [&](HWND window) { return before.contains(window); });
+    return after.size() == 1 ? *after.begin() : nullptr;
+}
+} // namespace
+
+TEST_F(TreeControl, KeyStrokesOfItsClassesAreNotTranslatedAndOthersEndTheTip)
+{
+    TippedTree tree;
+    tests::WindowCloser const closer(tree);
+    ASSERT_TRUE(tree.Create(style | TVS_NOTOOLTIPS, CRect(0, 0, 300, 250), m_parent, 8));
+    HWND const tip = Tip(tree);
+    ASSERT_NE(tip, nullptr);
+    tests::MessageRecorder recorder({TTM_ACTIVATE});
+    recorder.Watch(tip, "tip");
+    // A translated key stroke switches the tip off.
+    auto const isTranslated = [&](UINT message, WPARAM key) {
+        recorder.Clear();
+        MSG stroke{tree.m_hWnd, message, key, 0, 0, {}};
+        EXPECT_FALSE(tree.PreTranslateMessage(&stroke));
+        return recorder.Count("tip", TTM_ACTIVATE) != 0;
+    };
+    EXPECT_TRUE(isTranslated(WM_KEYDOWN, 'A')) << "no class at first";
+    tree.DontAbsorbKeys(4);
+    EXPECT_FALSE(isTranslated(WM_KEYDOWN, 'A'));
+    EXPECT_TRUE(isTranslated(WM_KEYDOWN, VK_F5));
+    EXPECT_TRUE(isTranslated(WM_SYSKEYDOWN, 'A')) << "of no other message";
+    tree.DontAbsorbControlKeys(true);
+    EXPECT_FALSE(isTranslated(WM_KEYDOWN, VK_SPACE));
+    EXPECT_FALSE(isTranslated(WM_KEYDOWN, VK_UP));
+    EXPECT_TRUE(isTranslated(WM_KEYDOWN, 'A'));
+    tree.DontAbsorbAnyKeys();
+    EXPECT_FALSE(isTranslated(WM_KEYDOWN, VK_F1));
+    tree.EnableToolTips(FALSE);
+}
+
+TEST_F(TreeControl, NoTipIsLeftOfATreeThatEnds)
+{
+    for (bool const windowAlone : {true, false})
+    {
+        auto tree = std::make_unique<TippedTree>();
+        ASSERT_TRUE(tree->Create(style | TVS_NOTOOLTIPS, CRect(0, 0, 300, 250), m_parent, 8));
+        HWND const tip = Tip(*tree);
+        ASSERT_NE(tip, nullptr);
+        if (windowAlone)
+            tree->DestroyWindow();
+        else
+            tree.reset();
+        EXPECT_FALSE(::IsWindow(tip));
+    }
 }
 
 TEST_F(FilledTree, ADoubleClickIsReportedWithFlagsAndItemAndOpensTheItem)
@@ -563,15 +641,42 @@ TEST_F(TreeControl, ARandomWalkAgreesWithAModel)
 
 TEST_F(TreeControl, FiveThousandItemsAreFilledSearchedAndResetAndARefillTakesNoNewRecord)
 {
+    // Some native trees look through all items for each that they are asked about.
     constexpr int count = 5000;
+    m_tree->ShowWindow(SW_HIDE);
     m_tree->SetRedraw(FALSE);
-    for (int i = 0; i < count; ++i)
-        m_tree->Add(L"item", nullptr, 1, i);
-    EXPECT_EQ(m_tree->GetItemId(m_tree->FindItem(1, count - 1, nullptr, TVI_ROOT, true)), count - 1);
-    m_tree->ResetContent();
-    for (int i = 0; i < count; ++i)
-        m_tree->Add(L"item", nullptr, 1, i);
-    EXPECT_EQ(m_tree->m_itemsInUse.size(), static_cast<std::size_t>(count));
-    EXPECT_TRUE(m_tree->m_itemStock.empty());
-    m_tree->SetRedraw(TRUE);
+    std::set<CXTreeCtrl::ItemData const *> records;
+    for (int fill = 0; fill < 2; ++fill)
+    {
+        for (int i = 0; i < count; ++i)
+            records.insert(m_tree->GetItemData(m_tree->Add(L"item", nullptr, 1, i)));
+        EXPECT_EQ(m_tree->m_itemsInUse.size(), static_cast<std::size_t>(count));
+        EXPECT_TRUE(m_tree->m_itemStock.empty());
+        EXPECT_EQ(records.size(), static_cast<std::size_t>(count)) << "a refill takes those of before";
+        EXPECT_EQ(m_tree->GetItemId(m_tree->FindItem(1, count - 1, nullptr, TVI_ROOT, true)), count - 1);
+
+        m_tree->messagesOfTheBase = 0;
+        m_tree->ResetContent();
+        EXPECT_LT(m_tree->messagesOfTheBase, 20) << "nothing an item";
+        EXPECT_TRUE(m_tree->m_itemsInUse.empty());
+        EXPECT_EQ(m_tree->m_itemStock.size(), static_cast<std::size_t>(count));
+    }
+}
+
+TEST_F(TreeControl, ADeletedItemIsOneMessageForItselfAndOneForEachBelow)
+{
+    HTREEITEM const parent = m_tree->Add(L"parent");
+    for (int i = 0; i < 500; ++i)
+        m_tree->Add(L"child", parent);
+    HTREEITEM const other = m_tree->Add(L"other");
+    m_tree->ShowWindow(SW_HIDE);
+    auto const messagesOf = [&](HTREEITEM item) {
+        tests::MessageRecorder recorder({TVM_DELETEITEM});
+        recorder.Watch(m_tree->m_hWnd, "tree");
+        m_tree->DeleteTreeItem(item);
+        return recorder.Count("tree", TVM_DELETEITEM);
+    };
+    EXPECT_EQ(messagesOf(other), 1);
+    EXPECT_EQ(messagesOf(parent), 501);
+    EXPECT_EQ(m_tree->m_itemStock.size(), 502u);
 }

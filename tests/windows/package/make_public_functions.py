@@ -174,7 +174,7 @@ def main():
         "// does not export keeps this program from being linked.\n\n"
         "// clang-format off\n"
         '#include "instrument_ui.h"\n\n' + includes + "\n\n#include <utility>\n\n"
-        "using namespace registry_settings;\n\nnamespace\n{\n"
+        "using namespace registry_settings;\nusing namespace xtree;\n\nnamespace\n{\n"
         "/// Keeps the compiler from leaving it out.\n"
         "template <typename T> void Use(T used)\n{\n    [[maybe_unused]] static T volatile place;\n    place = used;\n}\n\n"
         "void UseAll()\n{\n" + shown("\n".join(out)).lstrip("\n") + "\n}\n} // namespace\n\n"

@@ -10,8 +10,14 @@
 #include "controls/ColorControl.h"
 #include "controls/ComboBoxX.h"
 #include "controls/FreeIconButton.h"
+#include "controls/IdNameMultiselectCtrl.h"
+#include "controls/IdNameMultiselectDlg.h"
+#include "controls/IdNameMultiselectListCtlr.h"
 #include "controls/LevelSliderCtrl.h"
 #include "controls/ListBoxX.h"
+#include "controls/XEditBrowseCtrl.h"
+#include "controls/XTreeCtrl.h"
+#include "controls/XTreeItems.h"
 #include "dialogs/Dialog3d.h"
 #include "dialogs/DialogDrag.h"
 #include "dialogs/DialogFade.h"
@@ -43,6 +49,7 @@
 #include <utility>
 
 using namespace registry_settings;
+using namespace xtree;
 
 namespace
 {
@@ -134,6 +141,37 @@ void UseAll()
     Use(+[]() { delete new CFreeIconButton(); });
     Use(+[](CFreeIconButton & object, LPDRAWITEMSTRUCT a0) -> void { return object.CFreeIconButton::DrawItem(std::forward<LPDRAWITEMSTRUCT>(a0)); });
 
+    // controls/IdNameMultiselectCtrl.h
+    Use(+[]() { delete new CIdNameMultiselectCtrl(); });
+    Use(+[](CIdNameMultiselectCtrl & object, std::map<int, CString> const & a0) -> void { return object.CIdNameMultiselectCtrl::SetTheMap(std::forward<std::map<int, CString> const &>(a0)); });
+    Use(+[](CIdNameMultiselectCtrl & object, int a0, CString const & a1) -> void { return object.CIdNameMultiselectCtrl::AddItem(std::forward<int>(a0), std::forward<CString const &>(a1)); });
+    Use(+[](CIdNameMultiselectCtrl & object) -> void { return object.CIdNameMultiselectCtrl::ResetTheMap(); });
+    Use(+[](CIdNameMultiselectCtrl const & object) -> std::map<int, CString> const & { return object.CIdNameMultiselectCtrl::TheMap(); });
+    Use(+[](CIdNameMultiselectCtrl const & object, int a0) -> CString const & { return object.CIdNameMultiselectCtrl::GetName(std::forward<int>(a0)); });
+    Use(+[](CIdNameMultiselectCtrl & object, std::set<int> const & a0) -> void { return object.CIdNameMultiselectCtrl::SetSelection(std::forward<std::set<int> const &>(a0)); });
+    Use(+[](CIdNameMultiselectCtrl & object, int a0) -> void { return object.CIdNameMultiselectCtrl::SetSelection(std::forward<int>(a0)); });
+    Use(+[](CIdNameMultiselectCtrl & object) -> void { return object.CIdNameMultiselectCtrl::SetSelectionAll(); });
+    Use(+[](CIdNameMultiselectCtrl & object) -> void { return object.CIdNameMultiselectCtrl::SetSelectionNone(); });
+    Use(+[](CIdNameMultiselectCtrl const & object) -> std::set<int> const & { return object.CIdNameMultiselectCtrl::TheSelection(); });
+    Use(+[](CIdNameMultiselectCtrl & object, bool a0) -> void { return object.CIdNameMultiselectCtrl::ShowIds(std::forward<bool>(a0)); });
+    Use(+[](CIdNameMultiselectCtrl & object, bool a0) -> void { return object.CIdNameMultiselectCtrl::ShowGroupedSelection(std::forward<bool>(a0)); });
+    Use(+[](CIdNameMultiselectCtrl & object, bool a0) -> void { return object.CIdNameMultiselectCtrl::SortAlphabetically(std::forward<bool>(a0)); });
+    Use(+[](CIdNameMultiselectCtrl & object) -> void { return object.CIdNameMultiselectCtrl::EnableOkCancel(); });
+    Use(+[](CIdNameMultiselectCtrl & object, CString const & a0) -> void { return object.CIdNameMultiselectCtrl::SetEmptyMapMessage(std::forward<CString const &>(a0)); });
+    Use(+[](CIdNameMultiselectCtrl & object) -> void { return object.CIdNameMultiselectCtrl::RefreshContent(); });
+    Use(+[](CIdNameMultiselectCtrl & object) -> void { return object.CIdNameMultiselectCtrl::RefreshSelection(); });
+    Use(+[](CIdNameMultiselectCtrl & object) -> void { return object.CIdNameMultiselectCtrl::RetrieveSelection(); });
+    Use(+[](CIdNameMultiselectCtrl const & object) -> bool { return object.CIdNameMultiselectCtrl::SelectionRetrieved(); });
+    Use(+[](CIdNameMultiselectCtrl & object, MSG * a0) -> BOOL { return object.CIdNameMultiselectCtrl::PreTranslateMessage(std::forward<MSG *>(a0)); });
+    Use(+[](CIdNameMultiselectCtrl & object, LPDRAWITEMSTRUCT a0) -> void { return object.CIdNameMultiselectCtrl::DrawItem(std::forward<LPDRAWITEMSTRUCT>(a0)); });
+
+    // controls/IdNameMultiselectDlg.h
+    Use(+[](CWnd * a0) { delete new CIdNameMultiselectDlg(std::forward<CWnd *>(a0)); });
+    Use(+[](CIdNameMultiselectDlg & object) -> INT_PTR { return object.CIdNameMultiselectDlg::DoModal(); });
+
+    // controls/IdNameMultiselectListCtlr.h
+    Use(+[] { delete new CIdNameMultiselectListCtlr; });
+
     // controls/LevelSliderCtrl.h
     Use(+[]() { delete new CLevelSliderCtrl(); });
     Use(+[](CLevelSliderCtrl & object, unsigned long a0) -> void { return object.CLevelSliderCtrl::SetMainColor(std::forward<unsigned long>(a0)); });
@@ -150,6 +188,78 @@ void UseAll()
     Use(+[](CListBoxX const & object, CPoint a0, int & a1) -> int { return object.CListBoxX::LbxZeileZumPunkt(std::forward<CPoint>(a0), std::forward<int &>(a1)); });
     Use(+[](CListBoxX const & object, CPoint a0, TOOLINFOW * a1) -> INT_PTR { return object.CListBoxX::OnToolHitTest(std::forward<CPoint>(a0), std::forward<TOOLINFOW *>(a1)); });
     Use(+[](CListBoxX & object, UINT a0, NMHDR * a1, LRESULT * a2) -> int { return object.CListBoxX::OnToolTipText(std::forward<UINT>(a0), std::forward<NMHDR *>(a1), std::forward<LRESULT *>(a2)); });
+
+    // controls/XEditBrowseCtrl.h
+    Use(+[]() { delete new CXEditBrowseCtrl(); });
+    Use(+[](CXEditBrowseCtrl & object, CString const & a0, wchar_t const * a1, wchar_t const * a2) -> void { return object.CXEditBrowseCtrl::PrepareFileOpenBrowser(std::forward<CString const &>(a0), std::forward<wchar_t const *>(a1), std::forward<wchar_t const *>(a2)); });
+    Use(+[](CXEditBrowseCtrl & object, CString const & a0, wchar_t const * a1, wchar_t const * a2) -> void { return object.CXEditBrowseCtrl::PrepareFileSaveAsBrowser(std::forward<CString const &>(a0), std::forward<wchar_t const *>(a1), std::forward<wchar_t const *>(a2)); });
+    Use(+[](CXEditBrowseCtrl & object) -> void { return object.CXEditBrowseCtrl::PrepareIdNameBrowser(); });
+    Use(+[](CXEditBrowseCtrl & object) -> void { return object.CXEditBrowseCtrl::PrepareLongIdNameBrowser(); });
+    Use(+[](CXEditBrowseCtrl & object, wchar_t const * a0) -> void { return object.CXEditBrowseCtrl::SetDefaultFilename(std::forward<wchar_t const *>(a0)); });
+    Use(+[](CXEditBrowseCtrl & object, CString const & a0) -> void { return object.CXEditBrowseCtrl::SetDlgTitle(std::forward<CString const &>(a0)); });
+    Use(+[](CXEditBrowseCtrl & object, unsigned long a0) -> void { return object.CXEditBrowseCtrl::SetAdditionalFileFlags(std::forward<unsigned long>(a0)); });
+    Use(+[](CXEditBrowseCtrl & object, unsigned int a0) -> void { return object.CXEditBrowseCtrl::SetNotifyTag(std::forward<unsigned int>(a0)); });
+    Use(+[](CXEditBrowseCtrl & object) -> void { return object.CXEditBrowseCtrl::BrowseNow(); });
+    Use(+[](CXEditBrowseCtrl & object) -> void { return object.CXEditBrowseCtrl::ResetTheMap(); });
+    Use(+[](CXEditBrowseCtrl & object, int a0, CString const & a1) -> void { return object.CXEditBrowseCtrl::AddItem(std::forward<int>(a0), std::forward<CString const &>(a1)); });
+    Use(+[](CXEditBrowseCtrl & object, std::map<int, CString> const & a0) -> void { return object.CXEditBrowseCtrl::SetTheMap(std::forward<std::map<int, CString> const &>(a0)); });
+    Use(+[](CXEditBrowseCtrl & object, std::set<int> const & a0) -> void { return object.CXEditBrowseCtrl::SetSelection(std::forward<std::set<int> const &>(a0)); });
+    Use(+[](CXEditBrowseCtrl & object, int a0) -> void { return object.CXEditBrowseCtrl::SetSelection(std::forward<int>(a0)); });
+    Use(+[](CXEditBrowseCtrl & object) -> void { return object.CXEditBrowseCtrl::SetSelectionAll(); });
+    Use(+[](CXEditBrowseCtrl & object) -> void { return object.CXEditBrowseCtrl::SetSelectionNone(); });
+    Use(+[](CXEditBrowseCtrl const & object) -> std::set<int> const & { return object.CXEditBrowseCtrl::TheSelection(); });
+    Use(+[](CXEditBrowseCtrl const & object) -> bool { return object.CXEditBrowseCtrl::SelectionChanged(); });
+    Use(+[](CXEditBrowseCtrl & object) -> void { return object.CXEditBrowseCtrl::SelectionAcknowledged(); });
+    Use(+[](CXEditBrowseCtrl & object) -> void { return object.CXEditBrowseCtrl::UpdateSelectionText(); });
+    Use(+[](CXEditBrowseCtrl & object) -> void { return object.CXEditBrowseCtrl::OnBrowse(); });
+
+    // controls/XTreeCtrl.h
+    Use(+[]() { delete new CXTreeCtrl(); });
+    Use(+[](CXTreeCtrl & object, wchar_t const * a0, HTREEITEM a1, HTREEITEM a2, int a3) -> HTREEITEM { return object.CXTreeCtrl::InsertTreeItem(std::forward<wchar_t const *>(a0), std::forward<HTREEITEM>(a1), std::forward<HTREEITEM>(a2), std::forward<int>(a3)); });
+    Use(+[](CXTreeCtrl & object, wchar_t const * a0, int a1, int a2, HTREEITEM a3, HTREEITEM a4, int a5) -> HTREEITEM { return object.CXTreeCtrl::InsertTreeItem(std::forward<wchar_t const *>(a0), std::forward<int>(a1), std::forward<int>(a2), std::forward<HTREEITEM>(a3), std::forward<HTREEITEM>(a4), std::forward<int>(a5)); });
+    Use(+[](CXTreeCtrl & object, wchar_t const * a0, int a1, int a2, HTREEITEM a3, int a4, int a5, HTREEITEM a6, int a7) -> HTREEITEM { return object.CXTreeCtrl::InsertTreeItem(std::forward<wchar_t const *>(a0), std::forward<int>(a1), std::forward<int>(a2), std::forward<HTREEITEM>(a3), std::forward<int>(a4), std::forward<int>(a5), std::forward<HTREEITEM>(a6), std::forward<int>(a7)); });
+    Use(+[](CXTreeCtrl & object, HTREEITEM a0) -> CXTreeCtrl::ItemData * { return object.CXTreeCtrl::GetItemData(std::forward<HTREEITEM>(a0)); });
+    Use(+[](CXTreeCtrl const & object, HTREEITEM a0) -> CXTreeCtrl::ItemData const * { return object.CXTreeCtrl::GetItemData(std::forward<HTREEITEM>(a0)); });
+    Use(+[](CXTreeCtrl & object) -> CXTreeCtrl::ItemData * { return object.CXTreeCtrl::GetSelectedItemData(); });
+    Use(+[](CXTreeCtrl const & object, HTREEITEM a0) -> int { return object.CXTreeCtrl::GetItemType(std::forward<HTREEITEM>(a0)); });
+    Use(+[](CXTreeCtrl const & object, HTREEITEM a0) -> int { return object.CXTreeCtrl::GetItemId(std::forward<HTREEITEM>(a0)); });
+    Use(+[](CXTreeCtrl & object, HTREEITEM a0) -> int * { return object.CXTreeCtrl::GetItemClavis(std::forward<HTREEITEM>(a0)); });
+    Use(+[](CXTreeCtrl & object, HTREEITEM a0, int & a1, int & a2) -> int * { return object.CXTreeCtrl::GetItemClavis(std::forward<HTREEITEM>(a0), std::forward<int &>(a1), std::forward<int &>(a2)); });
+    Use(+[](CXTreeCtrl const & object, HTREEITEM a0) -> void * { return object.CXTreeCtrl::GetItemDataPtr(std::forward<HTREEITEM>(a0)); });
+    Use(+[](CXTreeCtrl & object, HTREEITEM a0, void * a1) -> void { return object.CXTreeCtrl::SetItemDataPtr(std::forward<HTREEITEM>(a0), std::forward<void *>(a1)); });
+    Use(+[](CXTreeCtrl & object, HTREEITEM a0, int a1, int a2, int const * a3) -> void { return object.CXTreeCtrl::SetItemData(std::forward<HTREEITEM>(a0), std::forward<int>(a1), std::forward<int>(a2), std::forward<int const *>(a3)); });
+    Use(+[](CXTreeCtrl & object, HTREEITEM a0, int a1, int a2, int const * a3, int a4, int a5) -> void { return object.CXTreeCtrl::SetItemData(std::forward<HTREEITEM>(a0), std::forward<int>(a1), std::forward<int>(a2), std::forward<int const *>(a3), std::forward<int>(a4), std::forward<int>(a5)); });
+    Use(+[](CXTreeCtrl & object, HTREEITEM a0, int a1, int a2, int const * a3) -> void { return object.CXTreeCtrl::SetItemData8(std::forward<HTREEITEM>(a0), std::forward<int>(a1), std::forward<int>(a2), std::forward<int const *>(a3)); });
+    Use(+[](CXTreeCtrl & object, HTREEITEM a0, int const * a1) -> void { return object.CXTreeCtrl::SetItemClavis(std::forward<HTREEITEM>(a0), std::forward<int const *>(a1)); });
+    Use(+[](CXTreeCtrl & object, HTREEITEM a0, int const * a1) -> void { return object.CXTreeCtrl::SetItemClavis8(std::forward<HTREEITEM>(a0), std::forward<int const *>(a1)); });
+    Use(+[](CXTreeCtrl const & object, HTREEITEM a0, int a1, int a2, int const * a3, wchar_t const * a4, bool a5) -> bool { return object.CXTreeCtrl::ItemDataMatch(std::forward<HTREEITEM>(a0), std::forward<int>(a1), std::forward<int>(a2), std::forward<int const *>(a3), std::forward<wchar_t const *>(a4), std::forward<bool>(a5)); });
+    Use(+[](CXTreeCtrl const & object, HTREEITEM a0, int a1, int a2, int const * a3) -> bool { return object.CXTreeCtrl::ItemDataMatchBest(std::forward<HTREEITEM>(a0), std::forward<int>(a1), std::forward<int>(a2), std::forward<int const *>(a3)); });
+    Use(+[](CXTreeCtrl const & object, HTREEITEM a0, int a1, int a2, int const * a3) -> bool { return object.CXTreeCtrl::ItemDataMatchExact(std::forward<HTREEITEM>(a0), std::forward<int>(a1), std::forward<int>(a2), std::forward<int const *>(a3)); });
+    Use(+[](CXTreeCtrl & object, int a0, int a1, int const * a2, HTREEITEM a3, bool a4) -> HTREEITEM { return object.CXTreeCtrl::FindItem(std::forward<int>(a0), std::forward<int>(a1), std::forward<int const *>(a2), std::forward<HTREEITEM>(a3), std::forward<bool>(a4)); });
+    Use(+[](CXTreeCtrl & object, int a0, int a1, int const * a2, wchar_t const * a3, HTREEITEM a4, bool a5) -> HTREEITEM { return object.CXTreeCtrl::FindItem(std::forward<int>(a0), std::forward<int>(a1), std::forward<int const *>(a2), std::forward<wchar_t const *>(a3), std::forward<HTREEITEM>(a4), std::forward<bool>(a5)); });
+    Use(+[](CXTreeCtrl & object, int a0, int a1, int const * a2, wchar_t const * a3, HTREEITEM a4, bool a5) -> HTREEITEM { return object.CXTreeCtrl::FindChildItem(std::forward<int>(a0), std::forward<int>(a1), std::forward<int const *>(a2), std::forward<wchar_t const *>(a3), std::forward<HTREEITEM>(a4), std::forward<bool>(a5)); });
+    Use(+[](CXTreeCtrl & object, std::list<HTREEITEM> & a0, int a1, int a2, int const * a3, HTREEITEM a4, bool a5) -> unsigned int { return object.CXTreeCtrl::FindAllItems(std::forward<std::list<HTREEITEM> &>(a0), std::forward<int>(a1), std::forward<int>(a2), std::forward<int const *>(a3), std::forward<HTREEITEM>(a4), std::forward<bool>(a5)); });
+    Use(+[](CXTreeCtrl & object, std::list<HTREEITEM> & a0, HTREEITEM a1) -> unsigned int { return object.CXTreeCtrl::CollectAllItems(std::forward<std::list<HTREEITEM> &>(a0), std::forward<HTREEITEM>(a1)); });
+    Use(+[](CXTreeCtrl & object, HTREEITEM a0) -> void { return object.CXTreeCtrl::DeleteTreeItem(std::forward<HTREEITEM>(a0)); });
+    Use(+[](CXTreeCtrl & object, HTREEITEM a0) -> void { return object.CXTreeCtrl::DeleteAllSubItems(std::forward<HTREEITEM>(a0)); });
+    Use(+[](CXTreeCtrl & object) -> void { return object.CXTreeCtrl::ResetContent(); });
+    Use(+[](CXTreeCtrl & object, int a0) -> void { return object.CXTreeCtrl::ExpandTree(std::forward<int>(a0)); });
+    Use(+[](CXTreeCtrl & object, unsigned int a0) -> void { return object.CXTreeCtrl::DontAbsorbKeys(std::forward<unsigned int>(a0)); });
+    Use(+[](CXTreeCtrl & object) -> void { return object.CXTreeCtrl::DontAbsorbAnyKeys(); });
+    Use(+[](CXTreeCtrl & object) -> void { return object.CXTreeCtrl::DontAbsorbNormalKeys(); });
+    Use(+[](CXTreeCtrl & object, bool a0) -> void { return object.CXTreeCtrl::DontAbsorbControlKeys(std::forward<bool>(a0)); });
+    Use(+[](CXTreeCtrl & object) -> void { return object.CXTreeCtrl::DontHandleDoubleclick(); });
+    Use(+[](CXTreeCtrl & object, MSG * a0) -> BOOL { return object.CXTreeCtrl::PreTranslateMessage(std::forward<MSG *>(a0)); });
+
+    // controls/XTreeItems.h
+    Use(+[] { delete new XTreeItemData; });
+    Use(+[](Records & a0, Records & a1) -> XTreeItemData * { return xtree::TakeRecord(std::forward<Records &>(a0), std::forward<Records &>(a1)); });
+    Use(+[](Records & a0, Records & a1, XTreeItemData const * a2) -> void { return xtree::ReturnRecord(std::forward<Records &>(a0), std::forward<Records &>(a1), std::forward<XTreeItemData const *>(a2)); });
+    Use(+[](Records & a0, Records & a1) -> void { return xtree::ReturnAllRecords(std::forward<Records &>(a0), std::forward<Records &>(a1)); });
+    Use(+[](Records & a0) -> void { return xtree::FreeRecords(std::forward<Records &>(a0)); });
+    Use(+[](XTreeItemData const * a0, int a1, int a2, int const * a3) -> bool { return xtree::MatchesBest(std::forward<XTreeItemData const *>(a0), std::forward<int>(a1), std::forward<int>(a2), std::forward<int const *>(a3)); });
+    Use(+[](XTreeItemData const * a0, int a1, int a2, int const * a3) -> bool { return xtree::MatchesExactly(std::forward<XTreeItemData const *>(a0), std::forward<int>(a1), std::forward<int>(a2), std::forward<int const *>(a3)); });
+    Use(+[](unsigned int a0, unsigned int a1) -> bool { return xtree::PassesKey(std::forward<unsigned int>(a0), std::forward<unsigned int>(a1)); });
 
     // dialogs/Dialog3d.h
     Use(+[]() { delete new CDialog3d::CSizeGrip(); });
