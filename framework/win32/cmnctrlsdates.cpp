@@ -429,7 +429,10 @@ BOOL CDateTimeCtrl::SetTime(CTime const * pTimeNew)
 
 BOOL CDateTimeCtrl::SetTime(LPSYSTEMTIME pTimeNew)
 {
-    return framework::Send<BOOL>(m_hWnd, DTM_SETSYSTEMTIME, pTimeNew == nullptr ? GDT_NONE : GDT_VALID, pTimeNew);
+    // Not every system takes none without a time beside it.
+    SYSTEMTIME none{};
+    bool const given = pTimeNew != nullptr;
+    return framework::Send<BOOL>(m_hWnd, DTM_SETSYSTEMTIME, given ? GDT_VALID : GDT_NONE, given ? pTimeNew : &none);
 }
 
 BOOL CDateTimeCtrl::GetDateTimePickerInfo(LPDATETIMEPICKERINFO pDateTimePickerInfo) const

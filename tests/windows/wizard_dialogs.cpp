@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstring>
 #include <string>
 #include <vector>
 
@@ -271,6 +273,8 @@ TEST(WizardTaskDialog, TellsTheRadioButtonChosen)
     dialog.m_clicks = {IDOK};
     EXPECT_EQ(dialog.DoModal(nullptr), IDOK);
     EXPECT_EQ(dialog.GetSelectedRadioButtonID(), 202);
+    EXPECT_EQ(std::count(dialog.m_heard.begin(), dialog.m_heard.end(), "radio 202"), 1)
+        << testing::PrintToString(dialog.m_heard);
 }
 
 TEST(WizardTaskDialog, KeepsItsCheckBox)
