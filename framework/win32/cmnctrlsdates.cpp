@@ -144,7 +144,8 @@ BOOL CMonthCalCtrl::SizeMinReq(BOOL bRepaint)
     if (!GetMinReqRect(&rect))
         return FALSE;
     UINT const repaint = bRepaint ? 0 : SWP_NOREDRAW;
-    return SetWindowPos(nullptr, 0, 0, rect.Width(), rect.Height(), SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | repaint);
+    return SetWindowPos(nullptr, 0, 0, rect.Width(), rect.Height(),
+                        SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | repaint);
 }
 
 LPRECT CMonthCalCtrl::SizeRectToMin(LPRECT lpRect)

@@ -43,12 +43,12 @@ LOGFONT Courier()
 class CTestTaskDialog : public CTaskDialog
 {
 public:
-    using CTaskDialog::CTaskDialog;
     using CTaskDialog::ClickCommandControl;
     using CTaskDialog::ClickRadioButton;
+    using CTaskDialog::CTaskDialog;
 
     std::vector<std::string> m_heard;
-    std::vector<int> m_clicks;  // commands, in the dialog
+    std::vector<int> m_clicks; // commands, in the dialog
     std::vector<int> m_radios;
     int m_refused = 0;
 
@@ -259,8 +259,7 @@ TEST(WizardTaskDialog, EndsWithTheCommandClicked)
     dialog.m_clicks = {101, 102};
     EXPECT_EQ(dialog.DoModal(nullptr), 102);
     EXPECT_EQ(dialog.GetSelectedCommandControlID(), 102);
-    EXPECT_EQ(dialog.m_heard,
-              (std::vector<std::string>{"init", "create", "click 101", "click 102", "destroy"}));
+    EXPECT_EQ(dialog.m_heard, (std::vector<std::string>{"init", "create", "click 101", "click 102", "destroy"}));
 }
 
 TEST(WizardTaskDialog, TellsTheRadioButtonChosen)
