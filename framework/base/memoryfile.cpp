@@ -8,9 +8,7 @@
 
 IMPLEMENT_DYNAMIC(CMemFile, CFile)
 
-CMemFile::CMemFile(UINT nGrowBytes) : m_nGrowBytes(nGrowBytes)
-{
-}
+CMemFile::CMemFile(UINT nGrowBytes) : m_nGrowBytes(nGrowBytes) {}
 
 CMemFile::CMemFile(BYTE * lpBuffer, UINT nBufferSize, UINT nGrowBytes) : m_nGrowBytes(nGrowBytes)
 {
@@ -98,9 +96,7 @@ void CMemFile::FillGap()
         std::memset(m_lpBuffer + m_nFileSize, 0, m_nPosition - m_nFileSize);
 }
 
-void CMemFile::Flush()
-{
-}
+void CMemFile::Flush() {}
 
 ULONGLONG CMemFile::Seek(LONGLONG lOff, UINT nFrom)
 {

@@ -125,7 +125,7 @@ public:
     {
         framework::Send(m_hWnd, DTM_SETMCFONT, hFont, static_cast<LPARAM>(bRedraw));
     }
-    /// Null while it isn't open.
+    /// Some systems have one only while it is open; else null.
     CMonthCalCtrl * GetMonthCalCtrl() const
     {
         return framework::SendForWindow<CMonthCalCtrl>(m_hWnd, DTM_GETMONTHCAL);

@@ -144,7 +144,8 @@ BOOL CMonthCalCtrl::SizeMinReq(BOOL bRepaint)
     if (!GetMinReqRect(&rect))
         return FALSE;
     UINT const repaint = bRepaint ? 0 : SWP_NOREDRAW;
-    return SetWindowPos(nullptr, 0, 0, rect.Width(), rect.Height(), SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | repaint);
+    return SetWindowPos(nullptr, 0, 0, rect.Width(), rect.Height(),
+                        SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | repaint);
 }
 
 LPRECT CMonthCalCtrl::SizeRectToMin(LPRECT lpRect)
@@ -429,7 +430,10 @@ BOOL CDateTimeCtrl::SetTime(CTime const * pTimeNew)
 
 BOOL CDateTimeCtrl::SetTime(LPSYSTEMTIME pTimeNew)
 {
-    return framework::Send<BOOL>(m_hWnd, DTM_SETSYSTEMTIME, pTimeNew == nullptr ? GDT_NONE : GDT_VALID, pTimeNew);
+    // Not every system takes none without a time beside it.
+    SYSTEMTIME none{};
+    bool const given = pTimeNew != nullptr;
+    return framework::Send<BOOL>(m_hWnd, DTM_SETSYSTEMTIME, given ? GDT_VALID : GDT_NONE, given ? pTimeNew : &none);
 }
 
 BOOL CDateTimeCtrl::GetDateTimePickerInfo(LPDATETIMEPICKERINFO pDateTimePickerInfo) const

@@ -23,9 +23,9 @@ struct CommonButton
     int flag;
     int id;
 };
-constexpr CommonButton common_buttons[] = {{TDCBF_OK_BUTTON, IDOK},         {TDCBF_YES_BUTTON, IDYES},
-                                           {TDCBF_NO_BUTTON, IDNO},         {TDCBF_CANCEL_BUTTON, IDCANCEL},
-                                           {TDCBF_RETRY_BUTTON, IDRETRY},   {TDCBF_CLOSE_BUTTON, IDCLOSE}};
+constexpr CommonButton common_buttons[] = {{TDCBF_OK_BUTTON, IDOK},       {TDCBF_YES_BUTTON, IDYES},
+                                           {TDCBF_NO_BUTTON, IDNO},       {TDCBF_CANCEL_BUTTON, IDCANCEL},
+                                           {TDCBF_RETRY_BUTTON, IDRETRY}, {TDCBF_CLOSE_BUTTON, IDCLOSE}};
 
 LPCWSTR UnlessEmpty(CString const & text)
 {
@@ -80,6 +80,7 @@ INT_PTR CTaskDialog::DoModal(HWND hParent)
     config.lpCallbackData = reinterpret_cast<LONG_PTR>(this);
     int button = 0;
     int radio = 0;
+    m_selectedRadio = 0;
     WINBOOL verified = FALSE;
     HRESULT const result = show(&config, &button, &radio, &verified);
     m_window = nullptr;
@@ -88,7 +89,9 @@ INT_PTR CTaskDialog::DoModal(HWND hParent)
     if (FAILED(result))
         AfxThrowInvalidArgException();
     m_selectedButton = button;
-    m_selectedRadio = radio;
+    // What was heard last counts: a choice made by the program is not in what every system returns.
+    if (m_selectedRadio == 0)
+        m_selectedRadio = radio;
     m_verified = verified;
     return button;
 }
@@ -195,8 +198,7 @@ HRESULT CTaskDialog::Notice(HWND window, UINT message, WPARAM wParam, LPARAM lPa
         return OnTimer(static_cast<long>(wParam));
     case TDN_HELP:
         return OnHelp();
-    case TDN_DESTROYED:
-    {
+    case TDN_DESTROYED: {
         HRESULT const result = OnDestroy();
         m_window = nullptr;
         return result;

@@ -115,7 +115,6 @@ TEST_F(WizardDateTime, KnowsTheLookOfItsCalendar)
     Create();
     m_control.SetMonthCalColor(MCSC_TITLEBK, RGB(1, 2, 3));
     EXPECT_EQ(m_control.GetMonthCalColor(MCSC_TITLEBK), RGB(1, 2, 3));
-    EXPECT_EQ(m_control.GetMonthCalCtrl(), nullptr);
 }
 
 TEST_F(WizardDateTime, IsExchangedWithADialog)
@@ -240,8 +239,11 @@ TEST_F(WizardMonthCalendar, ShowsMonths)
     EXPECT_EQ(m_control.GetColor(MCSC_TEXT), RGB(1, 2, 3));
     MCHITTESTINFO hit{};
     hit.cbSize = sizeof(hit);
-    hit.pt = {10000, 10000};
-    EXPECT_EQ(m_control.HitTest(&hit), static_cast<DWORD>(MCHT_NOWHERE));
+    CRect rect;
+    m_control.GetClientRect(&rect);
+    hit.pt = rect.CenterPoint();
+    EXPECT_EQ(m_control.HitTest(&hit), hit.uHit);
+    EXPECT_NE(hit.uHit, static_cast<UINT>(MCHT_NOWHERE));
 }
 
 TEST_F(WizardMonthCalendar, IsExchangedWithADialog)

@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstring>
 #include <string>
 #include <vector>
 
@@ -41,12 +43,12 @@ LOGFONT Courier()
 class CTestTaskDialog : public CTaskDialog
 {
 public:
-    using CTaskDialog::CTaskDialog;
     using CTaskDialog::ClickCommandControl;
     using CTaskDialog::ClickRadioButton;
+    using CTaskDialog::CTaskDialog;
 
     std::vector<std::string> m_heard;
-    std::vector<int> m_clicks;  // commands, in the dialog
+    std::vector<int> m_clicks; // commands, in the dialog
     std::vector<int> m_radios;
     int m_refused = 0;
 
@@ -257,8 +259,7 @@ TEST(WizardTaskDialog, EndsWithTheCommandClicked)
     dialog.m_clicks = {101, 102};
     EXPECT_EQ(dialog.DoModal(nullptr), 102);
     EXPECT_EQ(dialog.GetSelectedCommandControlID(), 102);
-    EXPECT_EQ(dialog.m_heard,
-              (std::vector<std::string>{"init", "create", "click 101", "click 102", "destroy"}));
+    EXPECT_EQ(dialog.m_heard, (std::vector<std::string>{"init", "create", "click 101", "click 102", "destroy"}));
 }
 
 TEST(WizardTaskDialog, TellsTheRadioButtonChosen)
@@ -271,6 +272,8 @@ TEST(WizardTaskDialog, TellsTheRadioButtonChosen)
     dialog.m_clicks = {IDOK};
     EXPECT_EQ(dialog.DoModal(nullptr), IDOK);
     EXPECT_EQ(dialog.GetSelectedRadioButtonID(), 202);
+    EXPECT_EQ(std::count(dialog.m_heard.begin(), dialog.m_heard.end(), "radio 202"), 1)
+        << testing::PrintToString(dialog.m_heard);
 }
 
 TEST(WizardTaskDialog, KeepsItsCheckBox)
