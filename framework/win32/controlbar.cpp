@@ -94,8 +94,6 @@ BOOL CControlBar::PreCreateWindow(CREATESTRUCT & cs)
     if (!CWnd::PreCreateWindow(cs))
         return FALSE;
     cs.style |= WS_CLIPSIBLINGS;
-    // A program may give a plain bar its bar styles with the window's.
-    m_style |= static_cast<DWORD>(cs.style) & CBRS_ALL & ~static_cast<DWORD>(CBRS_GRIPPER);
     return TRUE;
 }
 
@@ -141,8 +139,9 @@ void CControlBar::SetBarStyle(DWORD dwStyle)
         EnableToolTips((dwStyle & CBRS_TOOLTIPS) != 0);
     if ((changed & (CBRS_BORDER_ANY | CBRS_BORDER_3D | CBRS_GRIPPER | CBRS_ORIENT_ANY)) != 0)
     {
+        HWND const window = m_hWnd; // the object may end with what the window is told
         SetWindowPos(nullptr, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
-        Invalidate();
+        ::InvalidateRect(window, nullptr, TRUE);
     }
 }
 
@@ -427,8 +426,8 @@ void CControlBar::OnSize(UINT nType, int cx, int cy)
         if ((m_style & CBRS_BORDER_BOTTOM) != 0)
             InvalidateRect(CRect(0, size.cy - border.cy, size.cx, size.cy));
     };
-    if (m_sizeShown == CSize(cx, cy))
-        return;
+    if (m_sizeShown == CSize(0, 0) || m_sizeShown == CSize(cx, cy))
+        return; // nothing is painted yet, or nothing elsewhere
     invalidate(m_sizeShown);
     invalidate(CSize(cx, cy));
 }

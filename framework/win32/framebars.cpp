@@ -177,6 +177,8 @@ void CFrameWnd::DockControlBar(CControlBar * pBar, UINT nDockBarID, LPCRECT)
     WindowGuard const guard(this);
     WindowGuard const bar(pBar);
     pBar->SetBarStyle((pBar->GetBarStyle() & ~static_cast<DWORD>(CBRS_ALIGN_ANY)) | side);
+    if (!guard.Alive() || !bar.Alive())
+        return;
     // The layout takes the bars in the order of the windows; a status bar keeps its place at the edge.
     CWnd * after = nullptr;
     std::vector<CControlBar *> bars;
@@ -216,10 +218,11 @@ void CFrameWnd::LoadBarState(LPCTSTR lpszProfileName)
     CWinApp * const app = AfxGetApp();
     if (app == nullptr)
         return;
+    WindowGuard const guard(this);
     constexpr int mostBars = AFX_IDW_CONTROLBAR_LAST - AFX_IDW_CONTROLBAR_FIRST + 1;
     int const count =
         std::min<int>(static_cast<int>(app->GetProfileInt(SummarySection(lpszProfileName), countEntry, 0)), mostBars);
-    for (int number = 0; number < count; ++number)
+    for (int number = 0; number < count && guard.Alive(); ++number)
     {
         CString const section = BarSection(lpszProfileName, number);
         CControlBar * const bar = GetControlBar(app->GetProfileInt(section, idEntry, 0));
@@ -230,5 +233,6 @@ void CFrameWnd::LoadBarState(LPCTSTR lpszProfileName)
         if ((bar->m_dockStyle & m_dockStyle & side) == side && side != 0 && (side & (side - 1)) == 0)
             bar->SetBarStyle((bar->GetBarStyle() & ~static_cast<DWORD>(CBRS_ALIGN_ANY)) | side);
     }
-    RecalcLayout();
+    if (guard.Alive())
+        RecalcLayout();
 }

@@ -70,22 +70,34 @@ private:
     HGDIOBJ m_previous;
 };
 
-/// A pane of the bar as its update handlers see it.
+/// A pane of the bar as its update handlers see it. A handler may end the bar.
 class PaneState : public CCmdUI
 {
 public:
+    explicit PaneState(CStatusBar & bar) : m_guard(&bar) { m_pOther = &bar; }
+
     void Enable(BOOL bOn) override
     {
         framework::CmdUiAccess::SetEnableChanged(*this, TRUE);
         Change(SBPS_DISABLED, bOn ? 0 : SBPS_DISABLED);
     }
     void SetCheck(int nCheck) override { Change(SBPS_POPOUT, nCheck != 0 ? SBPS_POPOUT : 0); }
-    void SetText(LPCTSTR lpszText) override { Bar().SetPaneText(Index(), lpszText); }
+    void SetText(LPCTSTR lpszText) override
+    {
+        if (m_guard.Alive())
+            Bar().SetPaneText(static_cast<int>(m_nIndex), lpszText);
+    }
 
 private:
     CStatusBar & Bar() const { return *static_cast<CStatusBar *>(m_pOther); }
-    int Index() const { return static_cast<int>(m_nIndex); }
-    void Change(UINT remove, UINT add) { Bar().SetPaneStyle(Index(), (Bar().GetPaneStyle(Index()) & ~remove) | add); }
+    void Change(UINT remove, UINT add)
+    {
+        auto const index = static_cast<int>(m_nIndex);
+        if (m_guard.Alive() && index < Bar().GetCount())
+            Bar().SetPaneStyle(index, (Bar().GetPaneStyle(index) & ~remove) | add);
+    }
+
+    WindowGuard m_guard;
 };
 } // namespace
 
@@ -322,8 +334,7 @@ void CStatusBar::OnUpdateCmdUI(CFrameWnd * pTarget, BOOL bDisableIfNoHndler)
 {
     WindowGuard const guard(this);
     WindowGuard const target(pTarget);
-    PaneState state;
-    state.m_pOther = this;
+    PaneState state(*this);
     constexpr auto reflected = MAKELONG(0xFFFF, WM_COMMAND + WM_REFLECT_BASE);
     for (state.m_nIndex = 0; guard.Alive() && target.Alive(); ++state.m_nIndex)
     {

@@ -183,36 +183,36 @@ CSize PresentExtent(HWND bar)
     return size;
 }
 
-/// A button of the bar as its update handlers see it.
+/// A button of the bar as its update handlers see it. A handler may end the bar.
 class ToolBarState : public CCmdUI
 {
 public:
+    explicit ToolBarState(CToolBar & bar) : m_guard(&bar) { m_pOther = &bar; }
+
     void Enable(BOOL bOn) override
     {
         framework::CmdUiAccess::SetEnableChanged(*this, TRUE);
-        UINT style = Bar().GetButtonStyle(static_cast<int>(m_nIndex)) & ~static_cast<UINT>(TBBS_DISABLED);
-        if (!bOn)
-        {
-            // A button that is disabled while it is pressed would stay pressed.
-            style &= ~static_cast<UINT>(TBBS_PRESSED);
-            style |= TBBS_DISABLED;
-        }
-        Bar().SetButtonStyle(static_cast<int>(m_nIndex), style);
+        // A button that is disabled while it is pressed would stay pressed.
+        Change(bOn ? TBBS_DISABLED : TBBS_PRESSED, bOn ? 0 : TBBS_DISABLED);
     }
     void SetCheck(int nCheck) override
     {
-        UINT style =
-            Bar().GetButtonStyle(static_cast<int>(m_nIndex)) & ~static_cast<UINT>(TBBS_CHECKED | TBBS_INDETERMINATE);
-        if (nCheck == 1)
-            style |= TBBS_CHECKED;
-        else if (nCheck == 2)
-            style |= TBBS_INDETERMINATE;
-        Bar().SetButtonStyle(static_cast<int>(m_nIndex), style | static_cast<UINT>(TBBS_CHECKBOX));
+        LONG const check = nCheck == 1 ? TBBS_CHECKED : nCheck == 2 ? TBBS_INDETERMINATE : 0;
+        Change(TBBS_CHECKED | TBBS_INDETERMINATE, check | TBBS_CHECKBOX);
     }
     void SetText(LPCTSTR) override {} // a handler's text is the menu item's
 
 private:
-    CToolBar & Bar() const { return *static_cast<CToolBar *>(m_pOther); }
+    void Change(LONG remove, LONG add)
+    {
+        if (!m_guard.Alive())
+            return;
+        auto const index = static_cast<int>(m_nIndex);
+        auto & bar = *static_cast<CToolBar *>(m_pOther);
+        bar.SetButtonStyle(index, (bar.GetButtonStyle(index) & ~static_cast<UINT>(remove)) | static_cast<UINT>(add));
+    }
+
+    WindowGuard m_guard;
 };
 } // namespace
 
@@ -630,8 +630,7 @@ void CToolBar::OnUpdateCmdUI(CFrameWnd * pTarget, BOOL bDisableIfNoHndler)
 {
     WindowGuard const guard(this);
     WindowGuard const target(pTarget);
-    ToolBarState state;
-    state.m_pOther = this;
+    ToolBarState state(*this);
     constexpr auto reflected = MAKELONG(0xFFFF, WM_COMMAND + WM_REFLECT_BASE);
     // Handlers may take buttons out and put others in.
     for (state.m_nIndex = 0; guard.Alive() && target.Alive(); ++state.m_nIndex)

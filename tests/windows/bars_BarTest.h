@@ -92,7 +92,10 @@ protected:
         if (found == m_updates.end())
             state->ContinueRouting();
         else
-            found->second(state);
+        {
+            auto const update = found->second; // it may end the frame
+            update(state);
+        }
     }
     afx_msg void OnDropDown(NMHDR * header, LRESULT * result)
     {

@@ -204,7 +204,8 @@ TEST_F(BarLayout, BarThatDeletesItselfGoesWithItsWindow)
     bool gone = false;
     auto * const bar = new PlainBar(gone);
     bar->m_bAutoDelete = TRUE;
-    ASSERT_TRUE(bar->Create(nullptr, L"", WS_CHILD | WS_VISIBLE | CBRS_TOP, CRect(0, 0, 0, 0), m_frame, 0xE830));
+    bar->SetBarStyle(CBRS_TOP);
+    ASSERT_TRUE(bar->Create(nullptr, L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 0, 0), m_frame, 0xE830));
     m_frame->AddClient();
     Show();
     EXPECT_EQ(m_frame->Place(*bar).Height(), 30);

@@ -210,12 +210,12 @@ TEST_F(ToolBars, DynamicBarWrapsAtItsLengthPreferringSeparators)
     CToolBar & bar = m_frame->m_tools;
     CSize const one = bar.CalcDynamicLayout(-1, LM_HORZ | LM_HORZDOCK);
     EXPECT_EQ(bar.GetButtonStyle(2) & TBBS_WRAPPED, 0u);
-    // Room for three buttons: the separator after the second ends the first row.
-    CSize const wrapped = bar.CalcDynamicLayout(3 * 23 + 10, LM_HORZ);
+    // Room for two buttons: a separator ends each row.
+    CSize const wrapped = bar.CalcDynamicLayout(2 * 23 + 10, LM_HORZ);
     EXPECT_LT(wrapped.cx, one.cx);
     EXPECT_GT(wrapped.cy, 3 * 22 - 1);
     EXPECT_EQ(bar.GetButtonStyle(2) & TBBS_WRAPPED, 0u); // that was only a question
-    bar.CalcDynamicLayout(3 * 23 + 10, LM_HORZ | LM_COMMIT);
+    bar.CalcDynamicLayout(2 * 23 + 10, LM_HORZ | LM_COMMIT);
     EXPECT_NE(bar.GetButtonStyle(2) & TBBS_WRAPPED, 0u);
     EXPECT_NE(bar.GetButtonStyle(5) & TBBS_WRAPPED, 0u);
     CRect a;
@@ -225,7 +225,7 @@ TEST_F(ToolBars, DynamicBarWrapsAtItsLengthPreferringSeparators)
     EXPECT_EQ(c.left, a.left);
     EXPECT_GE(c.top, a.bottom);
     // Its last width is found again, and docked it's one row.
-    EXPECT_EQ(bar.CalcDynamicLayout(-1, LM_HORZ | LM_MRUWIDTH), bar.CalcDynamicLayout(3 * 23 + 10, LM_HORZ));
+    EXPECT_EQ(bar.CalcDynamicLayout(-1, LM_HORZ | LM_MRUWIDTH), bar.CalcDynamicLayout(2 * 23 + 10, LM_HORZ));
     Show();
     EXPECT_EQ(bar.GetButtonStyle(2) & TBBS_WRAPPED, 0u);
 }
