@@ -80,7 +80,11 @@ BOOL CmdUiAccess::DoUpdate(CCmdUI & ui, CCmdTarget * target, BOOL disableIfNoHan
     if (ui.m_nID == 0 || LOWORD(ui.m_nID) == 0xFFFF)
         return TRUE;
     ui.m_bEnableChanged = FALSE;
+    CWnd * const window = DYNAMIC_DOWNCAST(CWnd, target);
+    HWND const handle = SafeHandle(window);
     BOOL const handled = target->OnCmdMsg(ui.m_nID, static_cast<int>(CN_UPDATE_COMMAND_UI), &ui, nullptr);
+    if (handle != nullptr && CWnd::FromHandlePermanent(handle) != window)
+        return handled; // the handler has ended the target
     if (!handled)
         ASSERT(!ui.m_bEnableChanged);
     if (disableIfNoHandler && !ui.m_bEnableChanged)

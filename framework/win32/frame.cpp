@@ -31,6 +31,17 @@ BEGIN_MESSAGE_MAP(CFrameWnd, CWnd)
     ON_WM_DROPFILES()
     ON_MESSAGE(WM_SETMESSAGESTRING, &CFrameWnd::HandleSetMessageString)
     ON_MESSAGE(WM_IDLEUPDATECMDUI, &CFrameWnd::HandleIdleUpdate)
+    ON_NOTIFY_EX_RANGE(TTN_NEEDTEXT, 0, 0xFFFF, &CFrameWnd::HandleToolTipText)
+    ON_UPDATE_COMMAND_UI(ID_VIEW_TOOLBAR, &CFrameWnd::OnUpdateControlBarMenu)
+    ON_UPDATE_COMMAND_UI(ID_VIEW_STATUS_BAR, &CFrameWnd::OnUpdateControlBarMenu)
+    ON_UPDATE_COMMAND_UI(ID_VIEW_REBAR, &CFrameWnd::OnUpdateControlBarMenu)
+    ON_COMMAND_EX(ID_VIEW_TOOLBAR, &CFrameWnd::OnBarCheck)
+    ON_COMMAND_EX(ID_VIEW_STATUS_BAR, &CFrameWnd::OnBarCheck)
+    ON_COMMAND_EX(ID_VIEW_REBAR, &CFrameWnd::OnBarCheck)
+    ON_UPDATE_COMMAND_UI(ID_INDICATOR_CAPS, &CFrameWnd::UpdateKeyIndicator)
+    ON_UPDATE_COMMAND_UI(ID_INDICATOR_NUM, &CFrameWnd::UpdateKeyIndicator)
+    ON_UPDATE_COMMAND_UI(ID_INDICATOR_SCRL, &CFrameWnd::UpdateKeyIndicator)
+    ON_UPDATE_COMMAND_UI(ID_INDICATOR_KANA, &CFrameWnd::UpdateKeyIndicator)
 END_MESSAGE_MAP()
 // clang-format on
 
@@ -86,7 +97,9 @@ CFrameWnd::CFrameWnd()
       m_modalDepth(0),
       m_modalByDisabling(false),
       m_border(0, 0, 0, 0),
-      m_inLayout(false)
+      m_inLayout(false),
+      m_layoutPending(false),
+      m_dockStyle(0)
 {
 }
 

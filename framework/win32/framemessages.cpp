@@ -155,8 +155,11 @@ void CFrameWnd::OnEnterIdle(UINT nWhy, CWnd * pWho)
 
 LRESULT CFrameWnd::HandleIdleUpdate(WPARAM, LPARAM)
 {
+    WindowGuard const guard(this);
     if (m_messageTracking != m_messageShown)
         SetMessageText(m_messageTracking);
+    if (guard.Alive() && m_layoutPending)
+        RecalcLayout();
     return 0;
 }
 
@@ -266,6 +269,7 @@ void CFrameWnd::RecalcLayout(BOOL)
     if (m_inLayout)
         return;
     m_inLayout = true;
+    m_layoutPending = false;
     WindowGuard const guard(this);
     if ((GetStyle() & FWS_SNAPTOBARS) != 0)
     {

@@ -3,6 +3,7 @@
 
 #include "wnd.h"
 
+class CControlBar;
 class CDocument;
 class CMDIChildWnd;
 class CMDIFrameWnd;
@@ -57,6 +58,21 @@ public:
     void SetMessageText(LPCTSTR lpszText);
     void SetMessageText(UINT nID);
     BOOL IsTracking() const;
+
+    /// The frame's bar of that identifier, also in a bar of bands.
+    CControlBar * GetControlBar(UINT nID);
+    /// bDelay: at the next idle time, together with what else is shown or hidden.
+    void ShowControlBar(CControlBar * pBar, BOOL bShow, BOOL bDelay);
+    /// The sides that bars may be docked at.
+    void EnableDocking(DWORD dwDockStyle);
+    /// Moves a bar to the side of the identifier (AFX_IDW_DOCKBAR_...), or to the one of its style, after the bars that are
+    /// there.
+    void DockControlBar(CControlBar * pBar, UINT nDockBarID = 0, LPCRECT lpRect = nullptr);
+    /// Keeps in the application's profile which bars are visible and at which side, and brings that back.
+    void SaveBarState(LPCTSTR lpszProfileName) const;
+    void LoadBarState(LPCTSTR lpszProfileName);
+    afx_msg BOOL OnBarCheck(UINT nID);
+    afx_msg void OnUpdateControlBarMenu(CCmdUI * pCmdUI);
 
     virtual void RecalcLayout(BOOL bNotify = TRUE);
     enum BorderCmd
@@ -123,6 +139,9 @@ private:
     LRESULT HandleSetMessageString(WPARAM wParam, LPARAM lParam);
     LRESULT HandleIdleUpdate(WPARAM wParam, LPARAM lParam);
     LRESULT HandlePopMessageString(WPARAM wParam, LPARAM lParam);
+    BOOL HandleToolTipText(UINT nID, NMHDR * pNMHDR, LRESULT * pResult);
+    void UpdateKeyIndicator(CCmdUI * pCmdUI);
+    void LayOutSoon();
 
     CString m_title;
     CView * m_activeView;
@@ -137,6 +156,8 @@ private:
     CArray<HWND> m_disabled; // what the modal state has disabled
     CRect m_border;          // kept free around bars and view
     bool m_inLayout;
+    bool m_layoutPending; // for the next idle time
+    DWORD m_dockStyle;    // the sides that bars may be docked at
 
     DECLARE_MESSAGE_MAP()
 };
