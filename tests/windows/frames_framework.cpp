@@ -171,7 +171,7 @@ TEST_F(Frames, MessageTextsHaveOneLine)
     CString text;
     m_main->GetMessageString(ID_TEST_ROUTED, text);
     EXPECT_EQ(text, L"What it does");
-    m_main->GetMessageString(1, text);
+    m_main->GetMessageString(0x7000, text); // of which there is none
     EXPECT_EQ(text, L"");
     CStatic bar;
     ASSERT_TRUE(bar.Create(L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 10, 10), m_main, AFX_IDW_STATUS_BAR));
