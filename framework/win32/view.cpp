@@ -71,8 +71,11 @@ int CView::OnCreate(LPCREATESTRUCT lpcs)
     if (CWnd::OnCreate(lpcs) == -1)
         return -1;
     auto const * const context = static_cast<CCreateContext const *>(lpcs->lpCreateParams);
-    if (context != nullptr && context->m_pCurrentDoc != nullptr)
-        context->m_pCurrentDoc->AddView(this);
+    if (context == nullptr || context->m_pCurrentDoc == nullptr)
+        return 0;
+    if (!framework::IsDocument(context->m_pCurrentDoc))
+        return -1; // closed while the frame was created
+    context->m_pCurrentDoc->AddView(this);
     return 0;
 }
 
