@@ -31,6 +31,7 @@ CExportDialog::CExportDialog(workbench::Settings const & settings, CWnd & owner)
       m_hidden(settings.exportHidden),
       m_lines(static_cast<CRecordingList::Lines>(settings.exportLines))
 {
+    SetDialogTitle(Text(L"Export List"));
     SetGenuineTitle(L"Export List");
     m_fadeInOnCreate = settings.fadeIn;
     SetGrabAndMove(settings.dragByBackground);

@@ -17,6 +17,7 @@ COpenFolderDialog::COpenFolderDialog(workbench::Settings const & settings, CWnd 
     : CDialog3d(NO_DLL, IDD_OPEN_FOLDER, &owner),
       m_recent(settings.recentFolders)
 {
+    SetDialogTitle(Text(L"Open Folder"));
     SetGenuineTitle(L"Open Folder");
     m_fadeInOnCreate = settings.fadeIn;
     SetGrabAndMove(settings.dragByBackground);

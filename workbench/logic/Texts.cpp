@@ -55,6 +55,7 @@ constexpr Entry c_entries[] = {
     {L"WAV recordings (*.wav;*.wave)|*.wav;*.wave|All files (*.*)|*.*||",
      L"WAV-Aufnahmen (*.wav;*.wave)|*.wav;*.wave|Alle Dateien (*.*)|*.*||"},
     {L"Open Recordings", L"Aufnahmen öffnen"},
+    {L"Open Folder", L"Ordner öffnen"},
     {L"Type the name of a folder, or choose one.", L"Geben Sie den Namen eines Ordners ein, oder wählen Sie einen."},
     {L"There is no folder of this name.", L"Einen Ordner mit diesem Namen gibt es nicht."},
     {L"Choose a folder with recordings:", L"Wählen Sie einen Ordner mit Aufnahmen:"},
