@@ -79,6 +79,15 @@ protected:
 };
 } // namespace
 
+TEST(MultiselectWithoutAWindow, ReadsAnEmptySelectionBackFromAnEmptyMap)
+{
+    CIdNameMultiselectCtrl control;
+    control.SetSelection(3);
+    control.RetrieveSelection();
+    EXPECT_TRUE(control.SelectionRetrieved());
+    EXPECT_TRUE(control.TheSelection().empty());
+}
+
 TEST_F(Multiselect, HasTheDefaultsAndHandlersOfItsKind)
 {
     tests::TestMultiselect fresh;

@@ -232,6 +232,8 @@ void CIdNameMultiselectCtrl::RefreshSelection()
 void CIdNameMultiselectCtrl::RetrieveSelection()
 {
     m_selectionRetrieved = true;
+    if (m_theMap.empty())
+        m_theSelection.clear();
     Rows const rows(*this);
     if (!rows.IsThere())
         return;

@@ -58,7 +58,8 @@ public:
     void RefreshContent();
     /// Ticks what is selected.
     void RefreshSelection();
-    /// Takes the ticks for the selection, with -1 as well if all rows are ticked. Without a list the selection stays.
+    /// Takes the ticks for the selection, with -1 as well if all rows are ticked. Of an empty map nothing is selected;
+    /// otherwise the selection stays while there is no list.
     void RetrieveSelection();
     /// The ticks have been read since they were set last.
     bool SelectionRetrieved() const;

@@ -80,14 +80,14 @@ BEGIN_MESSAGE_MAP(CXEditBrowseCtrl, CMFCEditBrowseCtrl)
 END_MESSAGE_MAP()
 
 CXEditBrowseCtrl::CXEditBrowseCtrl()
-    : m_fileMustExist(true),
-      m_multiSelect(false),
-      m_overwritePrompt(true),
-      m_openDialog(TRUE),
+    : m_openDialog(TRUE),
       m_defaultExtension{},
       m_defaultFilename{},
       m_initialDirectory{},
       m_fileFlags(0),
+      m_fileMustExist(true),
+      m_multiSelect(false),
+      m_overwritePrompt(true),
       m_additionalFileFlags(0),
       m_pathList(10),
       m_idNameMode(false),

@@ -68,13 +68,6 @@ public:
     /// Asks for a file or opens the drop-down and returns when that is closed. Nothing while one is open.
     void OnBrowse() override;
 
-    /// A file to open must exist; of several, those that don't are left out.
-    bool m_fileMustExist;
-    /// Several files at once.
-    bool m_multiSelect;
-    /// Asks before a file to save is overwritten.
-    bool m_overwritePrompt;
-
 protected:
     void NotifyParent(unsigned int tag, long value);
     void ShowIdNameBrowser();
@@ -97,6 +90,16 @@ protected:
     CString m_dlgTitle;
     /// Of the last dialog.
     unsigned int m_fileFlags;
+
+public:
+    /// A file to open must exist; of several, those that don't are left out.
+    bool m_fileMustExist;
+    /// Several files at once.
+    bool m_multiSelect;
+    /// Asks before a file to save is overwritten.
+    bool m_overwritePrompt;
+
+protected:
     unsigned int m_additionalFileFlags;
     /// Files of the last multiple choice.
     CStringList m_pathList;
