@@ -126,10 +126,7 @@ public:
         framework::Send(m_hWnd, DTM_SETMCFONT, hFont, static_cast<LPARAM>(bRedraw));
     }
     /// Some systems have one only while it is open; else null.
-    CMonthCalCtrl * GetMonthCalCtrl() const
-    {
-        return framework::SendForWindow<CMonthCalCtrl>(m_hWnd, DTM_GETMONTHCAL);
-    }
+    CMonthCalCtrl * GetMonthCalCtrl() const { return framework::SendForWindow<CMonthCalCtrl>(m_hWnd, DTM_GETMONTHCAL); }
 
     DWORD GetRange(COleDateTime * pMinRange, COleDateTime * pMaxRange) const;
     DWORD GetRange(CTime * pMinRange, CTime * pMaxRange) const;

@@ -80,7 +80,6 @@ INT_PTR CTaskDialog::DoModal(HWND hParent)
     config.lpCallbackData = reinterpret_cast<LONG_PTR>(this);
     int button = 0;
     int radio = 0;
-    m_selectedRadio = 0;
     WINBOOL verified = FALSE;
     HRESULT const result = show(&config, &button, &radio, &verified);
     m_window = nullptr;
@@ -89,9 +88,7 @@ INT_PTR CTaskDialog::DoModal(HWND hParent)
     if (FAILED(result))
         AfxThrowInvalidArgException();
     m_selectedButton = button;
-    // What was heard last counts: a choice made by the program is not in what every system returns.
-    if (m_selectedRadio == 0)
-        m_selectedRadio = radio;
+    m_selectedRadio = radio;
     m_verified = verified;
     return button;
 }
