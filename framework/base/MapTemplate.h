@@ -99,6 +99,14 @@ public:
             AllocateBuckets();
     }
 
+    /// Called before elements are loaded, so that an empty map of the usual size is made for them all.
+    void PrepareToLoad(DWORD_PTR count)
+    {
+        constexpr DWORD_PTR most = 1U << 24;
+        if (m_count == 0 && m_hashSize == DefaultHashSize && count > DefaultHashSize)
+            InitHashTable(static_cast<UINT>(count < most ? count : most) | 1U, FALSE);
+    }
+
     void AssertValid() const override
     {
         CObject::AssertValid();

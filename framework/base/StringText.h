@@ -9,6 +9,9 @@ namespace framework
 {
 std::wstring ToWide(char const * source, int length);
 std::string ToNarrow(wchar_t const * source, int length);
+/// Pairs of surrogates where a wide character holds more than 16 bits. Halves of pairs stay as they are.
+std::u16string ToUtf16(wchar_t const * source, int length);
+std::wstring FromUtf16(std::u16string_view source);
 
 /// Appends all characters, nulls among them.
 template <class Char> void AppendText(ATL::CSimpleStringT<Char> & target, std::basic_string<Char> const & text)

@@ -61,6 +61,7 @@ using HRESULT = LONG;
 using SCODE = LONG;
 using FLOAT = float;
 using DOUBLE = double;
+using DATE = double;
 using ATOM = WORD;
 using COLORREF = DWORD;
 using LCID = DWORD;

@@ -1,5 +1,8 @@
 #pragma once
-// The window-free part of the framework: CObject, run-time classes, diagnostics, exceptions, strings and times.
+// The window-free part of the framework: CObject, run-time classes, diagnostics, exceptions, strings, times, files and
+// archives.
+
+#define __AFX_H__
 
 #include "afxver_.h"
 
@@ -11,6 +14,7 @@
 
 #include <new>
 
+class CArchive;
 class CObject;
 class CDumpContext;
 class CException;
@@ -118,6 +122,11 @@ struct FRAMEWORK_API CRuntimeClass
     static CRuntimeClass * PASCAL FromName(LPCWSTR lpszClassName);
     static CObject * PASCAL CreateObject(LPCSTR lpszClassName);
     static CObject * PASCAL CreateObject(LPCWSTR lpszClassName);
+
+    /// Schema and name. A name of more than 255 characters is not supported.
+    void Store(CArchive & ar) const;
+    /// Null for a class that isn't there.
+    static CRuntimeClass * PASCAL Load(CArchive & ar, UINT * pwSchemaNum);
 };
 
 /// Keeps a class in the list of all classes for as long as its module is loaded.
@@ -159,6 +168,8 @@ public:
     virtual CRuntimeClass * GetRuntimeClass() const;
     BOOL IsKindOf(CRuntimeClass const * pClass) const;
     BOOL IsSerializable() const;
+    /// Stores the object in the archive or loads it from there, as ar.IsStoring says.
+    virtual void Serialize(CArchive & ar);
     virtual void AssertValid() const;
     virtual void Dump(CDumpContext & dc) const;
 
@@ -207,6 +218,26 @@ private:
         return new class_name;                                                                                         \
     }                                                                                                                  \
     IMPLEMENT_RUNTIMECLASS(class_name, base_class_name, 0xFFFF, &class_name::CreateObject)
+
+// A class whose objects archives create by themselves. A schema with VERSIONABLE_SCHEMA accepts others: Serialize asks for
+// the archive's by GetObjectSchema.
+#define VERSIONABLE_SCHEMA (0x80000000U)
+
+#define DECLARE_SERIAL(class_name)                                                                                     \
+    DECLARE_DYNCREATE(class_name)                                                                                      \
+    friend CArchive & AFXAPI operator>>(CArchive & ar, class_name *& pOb);
+
+#define IMPLEMENT_SERIAL(class_name, base_class_name, wSchema)                                                         \
+    CObject * PASCAL class_name::CreateObject()                                                                        \
+    {                                                                                                                  \
+        return new class_name;                                                                                         \
+    }                                                                                                                  \
+    IMPLEMENT_RUNTIMECLASS(class_name, base_class_name, wSchema, &class_name::CreateObject)                            \
+    CArchive & AFXAPI operator>>(CArchive & ar, class_name *& pOb)                                                     \
+    {                                                                                                                  \
+        pOb = static_cast<class_name *>(ar.ReadObject(RUNTIME_CLASS(class_name)));                                     \
+        return ar;                                                                                                     \
+    }
 
 #define DYNAMIC_DOWNCAST(class_name, object)                                                                           \
     (static_cast<class_name *>(::AfxDynamicDownCast(RUNTIME_CLASS(class_name), object)))
@@ -270,4 +301,4 @@ FRAMEWORK_API void AFXAPI AfxFormatString2(CString & rString, UINT nIDS, LPCTSTR
 FRAMEWORK_API BOOL AFXAPI AfxExtractSubString(CString & rString, LPCTSTR lpszFullString, int iSubString,
                                               TCHAR chSep = '\n');
 
-#include "afxexcept.h"
+#include "ArchiveClass.h"

@@ -108,6 +108,32 @@ public:
     CString m_strFileName;
 };
 
+class FRAMEWORK_API CArchiveException : public CException
+{
+    DECLARE_DYNAMIC(CArchiveException)
+public:
+    enum
+    {
+        none,
+        genericException,
+        readOnly,
+        endOfFile,
+        writeOnly,
+        badIndex,
+        badClass,
+        badSchema,
+        bufferFull
+    };
+
+    explicit CArchiveException(int cause = CArchiveException::none, LPCTSTR lpszArchiveName = nullptr);
+
+    BOOL GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnHelpContext = nullptr) const override;
+    BOOL GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnHelpContext = nullptr) override;
+
+    int m_cause;
+    CString m_strFileName;
+};
+
 /// What new asks when memory has run out: non-zero lets it try again, 0 makes it throw std::bad_alloc.
 using _PNH = int(AFX_CDECL *)(size_t);
 /// The handler of the process, null for none. At first it is AfxNewHandler.
@@ -124,6 +150,7 @@ FRAMEWORK_API int AFX_CDECL AfxNewHandler(size_t nSize);
 [[noreturn]] FRAMEWORK_API void AFXAPI AfxThrowInvalidArgException();
 [[noreturn]] FRAMEWORK_API void AFXAPI AfxThrowFileException(int cause, LONG lOsError = -1,
                                                              LPCTSTR lpszFileName = nullptr);
+[[noreturn]] FRAMEWORK_API void AFXAPI AfxThrowArchiveException(int cause, LPCTSTR lpszArchiveName = nullptr);
 
 namespace framework
 {

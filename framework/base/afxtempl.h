@@ -1,6 +1,8 @@
 #pragma once
 // The collection templates, and the functions on elements that programs specialise for their own types.
 
+#define __AFXTEMPL_H__
+
 #include "afxcoll.h"
 
 template <class TYPE> void AFXAPI CopyElements(TYPE * pDest, TYPE const * pSrc, INT_PTR nCount)
@@ -12,6 +14,39 @@ template <class TYPE> void AFXAPI CopyElements(TYPE * pDest, TYPE const * pSrc, 
 template <class TYPE> void AFXAPI DumpElements(CDumpContext &, TYPE const *, INT_PTR)
 {
     // Elements of unknown type have no text.
+}
+
+/// Stores or loads the bytes of elements as they are in memory. Elements that hold pointers need a specialisation.
+template <class TYPE> void AFXAPI SerializeElements(CArchive & ar, TYPE * pElements, INT_PTR nCount)
+{
+    if (ar.IsStoring())
+        framework::WriteBytes(ar, pElements, static_cast<size_t>(nCount) * sizeof(TYPE));
+    else
+        framework::ReadBytes(ar, static_cast<void *>(pElements), static_cast<size_t>(nCount) * sizeof(TYPE));
+}
+
+namespace framework
+{
+template <class Text> void SerializeTexts(CArchive & ar, Text * elements, INT_PTR count)
+{
+    for (INT_PTR i = 0; i < count; ++i)
+    {
+        if (ar.IsStoring())
+            ar << elements[i];
+        else
+            ar >> elements[i];
+    }
+}
+} // namespace framework
+
+template <> inline void AFXAPI SerializeElements<CStringA>(CArchive & ar, CStringA * pElements, INT_PTR nCount)
+{
+    framework::SerializeTexts(ar, pElements, nCount);
+}
+
+template <> inline void AFXAPI SerializeElements<CStringW>(CArchive & ar, CStringW * pElements, INT_PTR nCount)
+{
+    framework::SerializeTexts(ar, pElements, nCount);
 }
 
 template <class TYPE, class ARG_TYPE> BOOL AFXAPI CompareElements(TYPE const * pElement1, ARG_TYPE const * pElement2)
@@ -64,6 +99,17 @@ public:
     using Base::InsertAt;
     void InsertAt(INT_PTR nStartIndex, CArray * pNewArray) { this->InsertFrom(nStartIndex, pNewArray); }
 
+    /// The number of elements, and all of them by one call of SerializeElements.
+    void Serialize(CArchive & ar) override
+    {
+        Base::Serialize(ar);
+        if (ar.IsStoring())
+            ar.WriteCount(static_cast<DWORD_PTR>(this->GetSize()));
+        else
+            this->SetSize(static_cast<INT_PTR>(framework::ReadElementCount(ar, sizeof(TYPE))));
+        SerializeElements<TYPE>(ar, this->Data(), this->GetSize());
+    }
+
     void Dump(CDumpContext & dc) const override
     {
         Base::Dump(dc);
@@ -89,6 +135,25 @@ public:
         return this->FindWhere(startAfter, [&](TYPE const & value) { return CompareElements(&value, &wanted); });
     }
 
+    /// The number of elements, and each by a call of SerializeElements. Loading adds to what is there.
+    void Serialize(CArchive & ar) override
+    {
+        Base::Serialize(ar);
+        if (ar.IsStoring())
+        {
+            ar.WriteCount(static_cast<DWORD_PTR>(this->GetCount()));
+            for (POSITION pos = this->GetHeadPosition(); pos != nullptr;)
+                SerializeElements<TYPE>(ar, &this->GetNext(pos), 1);
+            return;
+        }
+        for (DWORD_PTR left = framework::ReadElementCount(ar, sizeof(TYPE)); left != 0; --left)
+        {
+            TYPE element = TYPE();
+            SerializeElements<TYPE>(ar, &element, 1);
+            this->AddTail(element);
+        }
+    }
+
     void Dump(CDumpContext & dc) const override
     {
         Base::Dump(dc);
@@ -104,7 +169,58 @@ class CMap : public framework::MapStorage<KEY, ARG_KEY, VALUE, ARG_VALUE, framew
 {
 public:
     explicit CMap(INT_PTR = 10) {}
+
+    /// The number of pairs, and of each key and value by a call of SerializeElements. Loading adds to what is there.
+    void Serialize(CArchive & ar) override
+    {
+        CObject::Serialize(ar);
+        if (ar.IsStoring())
+        {
+            ar.WriteCount(static_cast<DWORD_PTR>(this->GetCount()));
+            for (auto * pair = this->PGetFirstAssoc(); pair != nullptr; pair = this->PGetNextAssoc(pair))
+            {
+                SerializeElements<KEY>(ar, const_cast<KEY *>(&pair->key), 1);
+                SerializeElements<VALUE>(ar, &pair->value, 1);
+            }
+            return;
+        }
+        DWORD_PTR left = framework::ReadElementCount(ar, sizeof(KEY) + sizeof(VALUE));
+        for (this->PrepareToLoad(left); left != 0; --left)
+        {
+            KEY key = KEY();
+            VALUE value = VALUE();
+            SerializeElements<KEY>(ar, &key, 1);
+            SerializeElements<VALUE>(ar, &value, 1);
+            this->SetAt(key, value);
+        }
+    }
 };
+
+namespace framework
+{
+/// Whether an object that an archive gave is what the typed collection holds. Where the class is not known, or has no
+/// run-time class, any object is.
+template <class TYPE> bool IsOfKind(CObject const * object)
+{
+    if constexpr (requires { std::remove_pointer_t<TYPE>::GetThisClass(); })
+        return object == nullptr || object->IsKindOf(std::remove_pointer_t<TYPE>::GetThisClass());
+    else
+        return true;
+}
+
+template <class TYPE> bool IsOfKind(void const *)
+{
+    return true;
+}
+
+[[noreturn]] inline void ThrowBadClass(CArchive & ar)
+{
+    AfxThrowArchiveException(CArchiveException::badClass, ar.GetFile()->GetFilePath());
+}
+} // namespace framework
+
+// The typed collections of objects, when loaded, take no object of another class: the archive ends with badClass then, and
+// the collection is empty.
 
 template <class BASE_CLASS, class TYPE> class CTypedPtrArray : public BASE_CLASS
 {
@@ -123,6 +239,18 @@ public:
     void InsertAt(INT_PTR nStartIndex, CTypedPtrArray * pNewArray) { BASE_CLASS::InsertAt(nStartIndex, pNewArray); }
     TYPE operator[](INT_PTR nIndex) const { return (TYPE)BASE_CLASS::GetAt(nIndex); }
     TYPE & operator[](INT_PTR nIndex) { return (TYPE &)BASE_CLASS::ElementAt(nIndex); }
+
+    void Serialize(CArchive & ar) override
+    {
+        BASE_CLASS::Serialize(ar);
+        for (INT_PTR i = 0; ar.IsLoading() && i < BASE_CLASS::GetSize(); ++i)
+        {
+            if (framework::IsOfKind<TYPE>(BASE_CLASS::GetAt(i)))
+                continue;
+            BASE_CLASS::RemoveAll();
+            framework::ThrowBadClass(ar);
+        }
+    }
 };
 
 template <class BASE_CLASS, class TYPE> class CTypedPtrList : public BASE_CLASS
@@ -147,6 +275,18 @@ public:
     TYPE & GetAt(POSITION position) { return (TYPE &)BASE_CLASS::GetAt(position); }
     TYPE GetAt(POSITION position) const { return (TYPE)BASE_CLASS::GetAt(position); }
     void SetAt(POSITION pos, TYPE newElement) { BASE_CLASS::SetAt(pos, newElement); }
+
+    void Serialize(CArchive & ar) override
+    {
+        BASE_CLASS::Serialize(ar);
+        for (POSITION pos = ar.IsLoading() ? BASE_CLASS::GetHeadPosition() : nullptr; pos != nullptr;)
+        {
+            if (framework::IsOfKind<TYPE>(BASE_CLASS::GetNext(pos)))
+                continue;
+            BASE_CLASS::RemoveAll();
+            framework::ThrowBadClass(ar);
+        }
+    }
 };
 
 template <class BASE_CLASS, class KEY, class VALUE> class CTypedPtrMap : public BASE_CLASS
@@ -172,5 +312,23 @@ public:
         BASE_CLASS::GetNextAssoc(rNextPosition, key, value);
         rKey = (KEY)key;
         rValue = (VALUE)value;
+    }
+
+    void Serialize(CArchive & ar) override
+    {
+        BASE_CLASS::Serialize(ar);
+        if constexpr (std::is_same_v<typename BASE_CLASS::BASE_VALUE, CObject *>)
+        {
+            typename BASE_CLASS::BASE_KEY key{};
+            CObject * value = nullptr;
+            for (POSITION pos = ar.IsLoading() ? BASE_CLASS::GetStartPosition() : nullptr; pos != nullptr;)
+            {
+                BASE_CLASS::GetNextAssoc(pos, key, value);
+                if (framework::IsOfKind<VALUE>(value))
+                    continue;
+                BASE_CLASS::RemoveAll();
+                framework::ThrowBadClass(ar);
+            }
+        }
     }
 };

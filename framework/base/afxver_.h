@@ -1,6 +1,28 @@
 #pragma once
 // The framework's calling and storage macros.
 
+#if defined(_WIN32)
+
+#if !defined(_UNICODE) || !defined(UNICODE)
+#error The framework is built for Unicode: define UNICODE and _UNICODE.
+// The compiler would go on and report what follows from it.
+#include "framework needs UNICODE and _UNICODE"
+#endif
+
+// The headers name types of Windows Vista. A program for older systems still decides itself what it calls.
+#if defined(_WIN32_WINNT) && _WIN32_WINNT < 0x0600
+#undef _WIN32_WINNT
+#define _WIN32_WINNT 0x0600
+#undef WINVER
+#define WINVER 0x0600
+#undef NTDDI_VERSION
+#define NTDDI_VERSION 0x06000000
+#undef _WIN32_IE
+#define _WIN32_IE 0x0700
+#endif
+
+#endif
+
 #include "FrameworkExport.h"
 #include "WinTypes.h"
 
@@ -16,6 +38,8 @@
 #define AFX_COMDAT
 #define AFX_EXT_CLASS
 #define AFX_IMPORT_DATA
+#define BASED_CODE
+#define _MFC_VER 0x0E00
 
 #if defined(_WIN32)
 #undef AFX_EXT_CLASS

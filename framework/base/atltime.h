@@ -5,6 +5,8 @@
 
 #include <ctime>
 
+class CArchive;
+
 namespace ATL
 {
 class FRAMEWORK_API CTimeSpan
@@ -51,6 +53,9 @@ public:
 #if defined(_WIN32)
     CString Format(UINT nID) const;
 #endif
+
+    /// Eight bytes in the archive.
+    CArchive & Serialize64(CArchive & ar);
 
 private:
     __time64_t m_seconds;
@@ -116,6 +121,9 @@ public:
     CString Format(UINT nFormatID) const;
     CString FormatGmt(UINT nFormatID) const;
 #endif
+
+    /// Eight bytes in the archive.
+    CArchive & Serialize64(CArchive & ar);
 
 private:
     __time64_t m_time;

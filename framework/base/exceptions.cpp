@@ -15,6 +15,7 @@ IMPLEMENT_DYNAMIC(CResourceException, CSimpleException)
 IMPLEMENT_DYNAMIC(CUserException, CSimpleException)
 IMPLEMENT_DYNAMIC(CInvalidArgException, CSimpleException)
 IMPLEMENT_DYNAMIC(CFileException, CException)
+IMPLEMENT_DYNAMIC(CArchiveException, CException)
 
 namespace
 {
@@ -72,6 +73,31 @@ LPCTSTR FileMessage(int cause)
         return _T("Disk full while accessing %s.");
     case CFileException::endOfFile:
         return _T("An attempt was made to access %s past its end.");
+    default:
+        return _T("An unspecified error occurred while accessing %s.");
+    }
+}
+
+LPCTSTR ArchiveMessage(int cause)
+{
+    switch (cause)
+    {
+    case CArchiveException::none:
+        return _T("No error occurred.");
+    case CArchiveException::readOnly:
+        return _T("An attempt was made to write to the reading %s.");
+    case CArchiveException::endOfFile:
+        return _T("An attempt was made to access %s past its end.");
+    case CArchiveException::writeOnly:
+        return _T("An attempt was made to read from the writing %s.");
+    case CArchiveException::badIndex:
+        return _T("%s has a bad format.");
+    case CArchiveException::badClass:
+        return _T("%s contained an unexpected object.");
+    case CArchiveException::badSchema:
+        return _T("%s contains an incorrect schema.");
+    case CArchiveException::bufferFull:
+        return _T("The buffer of %s is full.");
     default:
         return _T("An unspecified error occurred while accessing %s.");
     }
@@ -247,6 +273,7 @@ int PASCAL CFileException::ErrnoToException(int nErrno)
     case EPERM:
     case EACCES:
     case EEXIST:
+    case EISDIR:
     case EROFS:
         return accessDenied;
     case EBADF:
@@ -297,6 +324,28 @@ BOOL CFileException::GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnH
     return CException::GetErrorMessage(lpszError, nMaxError, pnHelpContext);
 }
 
+CArchiveException::CArchiveException(int cause, LPCTSTR lpszArchiveName)
+    : m_cause(cause),
+      m_strFileName(lpszArchiveName)
+{
+}
+
+BOOL CArchiveException::GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnHelpContext) const
+{
+    if (pnHelpContext != nullptr)
+        *pnHelpContext = 0;
+    CString message;
+    message.Format(ArchiveMessage(m_cause),
+                   m_strFileName.IsEmpty() ? _T("an unnamed file") : m_strFileName.GetString());
+    CopyMessage(lpszError, nMaxError, message);
+    return TRUE;
+}
+
+BOOL CArchiveException::GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnHelpContext)
+{
+    return CException::GetErrorMessage(lpszError, nMaxError, pnHelpContext);
+}
+
 _PNH AFXAPI AfxGetNewHandler()
 {
     return s_newHandler;
@@ -342,6 +391,11 @@ void AFXAPI AfxThrowInvalidArgException()
 void AFXAPI AfxThrowFileException(int cause, LONG lOsError, LPCTSTR lpszFileName)
 {
     throw new CFileException(cause, lOsError, lpszFileName);
+}
+
+void AFXAPI AfxThrowArchiveException(int cause, LPCTSTR lpszArchiveName)
+{
+    throw new CArchiveException(cause, lpszArchiveName);
 }
 
 namespace ATL

@@ -58,6 +58,10 @@ BOOL CObject::IsSerializable() const
     return GetRuntimeClass()->m_wSchema != 0xFFFF;
 }
 
+void CObject::Serialize(CArchive &)
+{
+}
+
 void CObject::AssertValid() const
 {
 }

@@ -122,6 +122,48 @@ std::string ToNarrow(wchar_t const * source, int length)
 }
 #endif
 
+std::u16string ToUtf16(wchar_t const * source, int length)
+{
+    std::u16string units;
+    units.reserve(static_cast<size_t>(length > 0 ? length : 0));
+    for (int i = 0; i < length; ++i)
+    {
+        auto const value = static_cast<char32_t>(source[i]);
+        if (value > 0x10FFFF)
+        {
+            units += u'\xFFFD';
+        }
+        else if (value > 0xFFFF)
+        {
+            units += static_cast<char16_t>(0xD800 + ((value - 0x10000) >> 10));
+            units += static_cast<char16_t>(0xDC00 + ((value - 0x10000) & 0x3FF));
+        }
+        else
+        {
+            units += static_cast<char16_t>(value);
+        }
+    }
+    return units;
+}
+
+std::wstring FromUtf16(std::u16string_view source)
+{
+    std::wstring wide;
+    wide.reserve(source.size());
+    for (size_t i = 0; i < source.size(); ++i)
+    {
+        char32_t value = source[i];
+        char32_t const next = i + 1 < source.size() ? source[i + 1] : 0;
+        if (sizeof(wchar_t) > sizeof(char16_t) && value >= 0xD800 && value < 0xDC00 && next >= 0xDC00 && next < 0xE000)
+        {
+            value = 0x10000 + ((value - 0xD800) << 10) + (next - 0xDC00);
+            ++i;
+        }
+        wide += static_cast<wchar_t>(value);
+    }
+    return wide;
+}
+
 void AppendConverted(ATL::CSimpleStringT<wchar_t> & target, char const * source, int length)
 {
     AppendText(target, ToWide(source, length));

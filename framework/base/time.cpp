@@ -2,6 +2,8 @@
 
 #include "afx.h"
 
+#include "TimeText.h"
+
 #include <cwchar>
 #include <iterator>
 
@@ -85,12 +87,19 @@ void IsoWeek(std::tm const & parts, int & year, int & week)
 CString FormatSimple(wchar_t directive, bool plain, std::tm const & parts)
 {
 #if defined(_WIN32)
+    // The library knows no year before 1900. With those that come here, no directive shows it.
+    std::tm known = parts;
+    known.tm_year = known.tm_year < 0 ? 0 : known.tm_year;
     wchar_t const format[] = {L'%', plain ? L'#' : directive, plain ? directive : L'\0', L'\0'};
 #else
     wchar_t const format[] = {L'%', directive, L'\0'};
 #endif
     wchar_t room[256] = {};
+#if defined(_WIN32)
+    size_t const length = std::wcsftime(room, std::size(room), format, &known);
+#else
     size_t const length = std::wcsftime(room, std::size(room), format, &parts);
+#endif
     CString text(room, static_cast<int>(length));
 #if !defined(_WIN32)
     if (plain && std::wcschr(L"dHIjmMSUwWyY", directive) != nullptr)
@@ -149,6 +158,13 @@ CString FormatDirective(wchar_t directive, bool plain, std::tm const & parts)
         text.Format(L"%02d", week);
         return text;
     default:
+        if (parts.tm_year < 0 && (directive == 'Y' || directive == 'y'))
+        {
+            text.Format(directive == 'Y' ? L"%d" : L"%02d", (parts.tm_year + 1900) % (directive == 'Y' ? 10000 : 100));
+            return text;
+        }
+        if (parts.tm_year < 0 && (directive == 'c' || directive == 'x'))
+            return FormatParts(directive == 'c' ? L"%m/%d/%Y %H:%M:%S" : L"%m/%d/%Y", parts);
         if (directive == 0 || std::wcschr(L"aAbBcdHIjmMpSUwWxXyYzZ", directive) == nullptr)
             AfxThrowInvalidArgException();
         return FormatSimple(directive, plain, parts);
@@ -192,6 +208,14 @@ CString LoadFormat(UINT id)
 }
 #endif
 } // namespace
+
+namespace framework
+{
+CString FormatTimeParts(LPCTSTR format, std::tm const & parts)
+{
+    return FormatParts(format, parts);
+}
+} // namespace framework
 
 namespace ATL
 {

@@ -1,8 +1,11 @@
 #pragma once
 // The common controls.
 
+#define __AFXCMN_H__
+
 #include <afxwin.h>
 
+#include "detail/animatectrl.h"
 #include "detail/barctrls.h"
 #include "detail/extctrls.h"
 #include "detail/headerctrl.h"

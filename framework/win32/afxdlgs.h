@@ -1,9 +1,10 @@
 #pragma once
 // The system's own dialogs.
 
+#define __AFXDLGS_H__
+
 #include <afxwin.h>
 
-#include "FileStatus.h"
 #include <commdlg.h>
 
 class FRAMEWORK_API CCommonDialog : public CDialog
@@ -113,3 +114,5 @@ public:
                                  DWORD dwSize = 0);
     ~CFolderPickerDialog() override;
 };
+
+#include "detail/printdialogs.h"

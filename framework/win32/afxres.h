@@ -1,6 +1,12 @@
 #pragma once
 // Identifiers of the framework's commands, windows and strings. Usable in resource scripts.
 
+#if defined(RC_INVOKED)
+#include <winresrc.h>
+#endif
+
+#include "detail/StandardIds.h"
+
 #define ID_FILE_NEW 0xE100
 #define ID_FILE_OPEN 0xE101
 #define ID_FILE_CLOSE 0xE102

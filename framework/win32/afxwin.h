@@ -1,6 +1,8 @@
 #pragma once
 // Windows, menus, device contexts, dialogs, controls, threads and the application.
 
+#define __AFXWIN_H__
+
 #include <afx.h>
 #include <afxcoll.h>
 #include <afxtempl.h>

@@ -1,0 +1,3 @@
+// Built without UNICODE: must stop with one clear message.
+
+#include <afxwin.h>
