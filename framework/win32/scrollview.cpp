@@ -182,7 +182,14 @@ void CScrollView::UpdateBars()
         if (!guard.Alive())
             return;
         place = needed ? std::clamp<LONG>(place, 0, std::max(total - page, 0)) : 0;
-        EnableScrollBarCtrl(bar, needed);
+        // A bar of the window's own comes and goes; a shared one is enabled and disabled.
+        CScrollBar * const control = GetScrollBarCtrl(bar);
+        if (!needed)
+            SetScrollPos(bar, 0, FALSE);
+        if (control != nullptr)
+            control->EnableWindow(needed);
+        else if (guard.Alive())
+            ::ShowScrollBar(m_hWnd, bar, needed);
         if (!needed || !guard.Alive())
             return;
         SCROLLINFO info{};
