@@ -7,7 +7,8 @@ namespace
 /// Whether a file can be opened for that access; creates it for writing.
 bool CanOpen(LPCTSTR path, DWORD access, DWORD disposition)
 {
-    HANDLE const file = ::CreateFile(path, access, FILE_SHARE_READ, nullptr, disposition, FILE_ATTRIBUTE_NORMAL, nullptr);
+    HANDLE const file =
+        ::CreateFile(path, access, FILE_SHARE_READ, nullptr, disposition, FILE_ATTRIBUTE_NORMAL, nullptr);
     if (file == INVALID_HANDLE_VALUE)
         return false;
     ::CloseHandle(file);

@@ -271,7 +271,8 @@ void CScrollView::ScrollToPosition(POINT pt)
         ::SetMapMode(dc, saved);
         ::ReleaseDC(nullptr, dc);
     }
-    MoveTo(CPoint(std::clamp<LONG>(pt.x, 0, GetScrollLimit(SB_HORZ)), std::clamp<LONG>(pt.y, 0, GetScrollLimit(SB_VERT))));
+    MoveTo(
+        CPoint(std::clamp<LONG>(pt.x, 0, GetScrollLimit(SB_HORZ)), std::clamp<LONG>(pt.y, 0, GetScrollLimit(SB_VERT))));
 }
 
 void CScrollView::OnHScroll(UINT nSBCode, UINT nPos, CScrollBar * pScrollBar)
@@ -328,7 +329,7 @@ BOOL CScrollView::OnScroll(UINT nScrollCode, UINT nPos, BOOL bDoScroll)
             SCROLLINFO info{};
             info.cbSize = sizeof info;
             return GetScrollInfo(bar, &info, SIF_TRACKPOS) && info.nTrackPos != 0 ? info.nTrackPos
-                                                                                 : static_cast<int>(nPos);
+                                                                                  : static_cast<int>(nPos);
         }
         default:
             return at;
@@ -408,9 +409,9 @@ void CScrollView::ResizeParentToFit(BOOL bShrinkOnly)
     CRect inner;
     GetClientRect(&inner);
     // All that is around the view's client area stays.
-    CSize const around(outer.Width() - inner.Width() - ((GetStyle() & WS_VSCROLL) != 0 ? ::GetSystemMetrics(SM_CXVSCROLL) : 0),
-                       outer.Height() - inner.Height() -
-                           ((GetStyle() & WS_HSCROLL) != 0 ? ::GetSystemMetrics(SM_CYHSCROLL) : 0));
+    CSize const around(
+        outer.Width() - inner.Width() - ((GetStyle() & WS_VSCROLL) != 0 ? ::GetSystemMetrics(SM_CXVSCROLL) : 0),
+        outer.Height() - inner.Height() - ((GetStyle() & WS_HSCROLL) != 0 ? ::GetSystemMetrics(SM_CYHSCROLL) : 0));
     CSize wanted = m_total + around;
     if (bShrinkOnly)
     {

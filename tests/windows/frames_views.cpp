@@ -69,8 +69,8 @@ protected:
         CCreateContext context;
         context.m_pNewViewClass = RUNTIME_CLASS(View);
         auto * const frame = new CMDIChildWndEx;
-        if (!frame->Create(nullptr, L"View", WS_CHILD | WS_VISIBLE | WS_OVERLAPPEDWINDOW, CRect(0, 0, 400, 300), nullptr,
-                           &context))
+        if (!frame->Create(nullptr, L"View", WS_CHILD | WS_VISIBLE | WS_OVERLAPPEDWINDOW, CRect(0, 0, 400, 300),
+                           nullptr, &context))
             return nullptr;
         frame->InitialUpdateFrame(nullptr, TRUE);
         return static_cast<View *>(frame->GetActiveView());
