@@ -119,7 +119,8 @@ public:
         Text(L"New");
         m_words.push_back(8);
         Text(L"MS Shell Dlg");
-        Item(WS_TABSTOP | WS_BORDER | WS_VSCROLL | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT, 7, 7, 110, 76, kindListId, listBoxAtom, L"");
+        Item(WS_TABSTOP | WS_BORDER | WS_VSCROLL | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT, 7, 7, 110, 76, kindListId,
+             listBoxAtom, L"");
         Item(WS_TABSTOP | BS_DEFPUSHBUTTON, 123, 7, 50, 14, IDOK, buttonAtom, L"OK");
         Item(WS_TABSTOP | BS_PUSHBUTTON, 123, 24, 50, 14, IDCANCEL, buttonAtom, L"Cancel");
     }
@@ -338,7 +339,8 @@ void CWinApp::LoadStdProfileSettings(UINT nMaxMRU)
     framework::AppDocuments & documents = Documents();
     if (nMaxMRU != 0)
     {
-        documents.m_recent = std::make_unique<CRecentFileList>(0, recentSection, recentEntry, static_cast<int>(nMaxMRU));
+        documents.m_recent =
+            std::make_unique<CRecentFileList>(0, recentSection, recentEntry, static_cast<int>(nMaxMRU));
         documents.m_recent->ReadList();
     }
     documents.m_previewPages = GetProfileInt(settingsSection, previewEntry, 0);

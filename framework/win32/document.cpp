@@ -19,6 +19,56 @@ BEGIN_MESSAGE_MAP(CDocument, CCmdTarget)
     ON_COMMAND(ID_FILE_SAVE_AS, &CDocument::HandleSaveAs)
 END_MESSAGE_MAP()
 
+namespace
+{
+/// All documents of the process, of all threads.
+class DocumentSet
+{
+public:
+    void Insert(CDocument const * document)
+    {
+        Lock const lock(m_lock);
+        m_documents.insert(document);
+    }
+    void Erase(CDocument const * document)
+    {
+        Lock const lock(m_lock);
+        m_documents.erase(document);
+    }
+    bool Contains(CDocument const * document)
+    {
+        Lock const lock(m_lock);
+        return m_documents.contains(document);
+    }
+
+private:
+    class Lock
+    {
+    public:
+        explicit Lock(SRWLOCK & lock) : m_lock(lock) { ::AcquireSRWLockExclusive(&m_lock); }
+        ~Lock() { ::ReleaseSRWLockExclusive(&m_lock); }
+        Lock(Lock const &) = delete;
+        Lock & operator=(Lock const &) = delete;
+
+    private:
+        SRWLOCK & m_lock;
+    };
+    SRWLOCK m_lock = SRWLOCK_INIT;
+    std::unordered_set<CDocument const *> m_documents;
+};
+
+DocumentSet & Documents()
+{
+    static DocumentSet & documents = *new DocumentSet; // there may be documents of static life
+    return documents;
+}
+} // namespace
+
+bool framework::IsDocument(CDocument const * document)
+{
+    return Documents().Contains(document);
+}
+
 DocumentWatch::DocumentWatch(CDocument * document) : m_document(document)
 {
     if (document != nullptr)
@@ -45,16 +95,19 @@ CString framework::FullPath(LPCTSTR name)
     DWORD const length = ::GetFullPathName(name, 0, nullptr, nullptr);
     if (length == 0)
         return name;
-    DWORD const written =
-        ::GetFullPathName(name, length, path.GetBuffer(static_cast<int>(length)), nullptr);
+    DWORD const written = ::GetFullPathName(name, length, path.GetBuffer(static_cast<int>(length)), nullptr);
     path.ReleaseBuffer(static_cast<int>(written < length ? written : 0));
     return path.IsEmpty() ? CString(name) : path;
 }
 
-CDocument::CDocument() : m_template(nullptr), m_modified(FALSE), m_autoDelete(true), m_watches(nullptr) {}
+CDocument::CDocument() : m_template(nullptr), m_modified(FALSE), m_autoDelete(true), m_watches(nullptr)
+{
+    Documents().Insert(this);
+}
 
 CDocument::~CDocument()
 {
+    Documents().Erase(this);
     for (DocumentWatch * watch = m_watches; watch != nullptr;)
     {
         watch->m_document = nullptr;
@@ -280,8 +333,8 @@ BOOL CDocument::SaveModified()
 BOOL CDocument::DoFileSave()
 {
     DWORD const attributes = m_path.IsEmpty() ? INVALID_FILE_ATTRIBUTES : ::GetFileAttributes(m_path);
-    bool const ask = attributes == INVALID_FILE_ATTRIBUTES ? m_path.IsEmpty()
-                                                           : (attributes & FILE_ATTRIBUTE_READONLY) != 0;
+    bool const ask =
+        attributes == INVALID_FILE_ATTRIBUTES ? m_path.IsEmpty() : (attributes & FILE_ATTRIBUTE_READONLY) != 0;
     CString const path = m_path;
     return DoSave(ask ? nullptr : path.GetString());
 }

@@ -21,10 +21,7 @@ CMDIChildWnd::CMDIChildWnd() : m_sharedMenu(nullptr), m_pseudoInactive(false) {}
 
 BOOL CMDIChildWnd::PreCreateWindow(CREATESTRUCT & cs)
 {
-    if (!CFrameWnd::PreCreateWindow(cs))
-        return FALSE;
-    cs.dwExStyle &= ~static_cast<DWORD>(WS_EX_CLIENTEDGE); // the client area makes its children without
-    return TRUE;
+    return CFrameWnd::PreCreateWindow(cs);
 }
 
 BOOL CMDIChildWnd::Create(LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle, const RECT & rect,
@@ -138,7 +135,15 @@ int CMDIChildWnd::OnCreate(LPCREATESTRUCT lpCreateStruct)
 
 LRESULT CMDIChildWnd::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
-    return ::DefMDIChildProc(m_hWnd, message, wParam, lParam);
+    LRESULT const result = ::DefMDIChildProc(m_hWnd, message, wParam, lParam);
+    if (message == WM_NCCREATE && result != 0)
+    {
+        // The client area's way of creation has no place for extended styles.
+        CREATESTRUCT cs = *reinterpret_cast<CREATESTRUCT const *>(lParam);
+        if (PreCreateWindow(cs))
+            ::SetWindowLong(m_hWnd, GWL_EXSTYLE, static_cast<LONG>(cs.dwExStyle));
+    }
+    return result;
 }
 
 CMDIFrameWnd * CMDIChildWnd::GetMDIFrame()

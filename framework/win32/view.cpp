@@ -71,8 +71,11 @@ int CView::OnCreate(LPCREATESTRUCT lpcs)
     if (CWnd::OnCreate(lpcs) == -1)
         return -1;
     auto const * const context = static_cast<CCreateContext const *>(lpcs->lpCreateParams);
-    if (context != nullptr && context->m_pCurrentDoc != nullptr)
-        context->m_pCurrentDoc->AddView(this);
+    if (context == nullptr || context->m_pCurrentDoc == nullptr)
+        return 0;
+    if (!framework::IsDocument(context->m_pCurrentDoc))
+        return -1; // closed while the frame was created
+    context->m_pCurrentDoc->AddView(this);
     return 0;
 }
 
@@ -259,7 +262,8 @@ BOOL CCtrlView::PreCreateWindow(CREATESTRUCT & cs)
     cs.lpszClass = m_strClass;
     // The style that a view gets by default is taken as "the control's own"; a border stays as asked for.
     if ((static_cast<DWORD>(cs.style) | WS_BORDER) == AFX_WS_DEFAULT_VIEW)
-        cs.style = static_cast<LONG>(m_dwDefaultStyle & (static_cast<DWORD>(cs.style) | ~static_cast<DWORD>(WS_BORDER)));
+        cs.style =
+            static_cast<LONG>(m_dwDefaultStyle & (static_cast<DWORD>(cs.style) | ~static_cast<DWORD>(WS_BORDER)));
     return CView::PreCreateWindow(cs);
 }
 

@@ -82,7 +82,8 @@ TEST_F(Frames, MenuItemsFollowTheirHandlers)
     ASSERT_NE(New(), nullptr);
     HMENU const bar = ::GetMenu(m_main->m_hWnd);
     int test = 0;
-    while (test < ::GetMenuItemCount(bar) && ::GetMenuState(::GetSubMenu(bar, test), ID_TEST_LOST, MF_BYCOMMAND) == 0xFFFFFFFF)
+    while (test < ::GetMenuItemCount(bar) &&
+           ::GetMenuState(::GetSubMenu(bar, test), ID_TEST_LOST, MF_BYCOMMAND) == 0xFFFFFFFF)
         ++test;
     HMENU const menu = ::GetSubMenu(bar, test);
     ASSERT_NE(menu, nullptr);
@@ -171,7 +172,7 @@ TEST_F(Frames, MessageTextsHaveOneLine)
     CString text;
     m_main->GetMessageString(ID_TEST_ROUTED, text);
     EXPECT_EQ(text, L"What it does");
-    m_main->GetMessageString(1, text);
+    m_main->GetMessageString(0x7000, text); // of which there is none
     EXPECT_EQ(text, L"");
     CStatic bar;
     ASSERT_TRUE(bar.Create(L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 10, 10), m_main, AFX_IDW_STATUS_BAR));
@@ -305,7 +306,8 @@ TEST_F(Frames, AFrameOfOneDocumentIsReused)
     while (::PeekMessage(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE))
     {
     }
-    CSingleDocTemplate single(IDR_SINGLE, RUNTIME_CLASS(TestDocument), RUNTIME_CLASS(CFrameWnd), RUNTIME_CLASS(TestView));
+    CSingleDocTemplate single(IDR_SINGLE, RUNTIME_CLASS(TestDocument), RUNTIME_CLASS(CFrameWnd),
+                              RUNTIME_CLASS(TestView));
     CDocument * const document = single.OpenDocumentFile(nullptr);
     ASSERT_NE(document, nullptr);
     auto * const frame = static_cast<CFrameWnd *>(tests::App().m_pMainWnd);

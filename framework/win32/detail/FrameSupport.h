@@ -38,6 +38,8 @@ private:
     DocumentWatch * m_next = nullptr;
 };
 
+/// Whether there is a document at that address. What creates frames passes one along, through the program's code.
+bool IsDocument(CDocument const * document);
 /// The class of frames and views that name none.
 LPCTSTR FrameClassName();
 /// The program's string, or the framework's own where the program has none.
