@@ -5,7 +5,8 @@ include(CMakePackageConfigHelpers)
 set(installed instrument_ui suite)
 if(INSTRUMENT_UI_OWN_FRAMEWORK)
     list(APPEND installed framework framework_main)
-    install(DIRECTORY framework/base framework/win32 DESTINATION include/framework FILES_MATCHING PATTERN "*.h")
+    install(DIRECTORY framework/base framework/win32 DESTINATION include/framework
+        FILES_MATCHING PATTERN "*.h" PATTERN "afx*.rc")
     install(FILES ${COMPILER_RUNTIME} DESTINATION bin)
 endif()
 install(TARGETS ${installed} EXPORT instrument_ui_targets

@@ -119,8 +119,9 @@ public:
     CArchive & operator>>(wchar_t & ch);
     CArchive & operator>>(bool & b);
 
-    /// Wide text: the bytes FF FE FF, then the length and two bytes for each unit of UTF-16. Narrow text: the length and
-    /// the characters. The length is a byte below 255; else 255 and two bytes below 0xFFFE; else two of 0xFFFF and four.
+    /// Wide text: the bytes FF FE FF, then the length and two bytes for each unit of UTF-16. Narrow text: the length
+    /// and the characters. The length is a byte below 255; else 255 and two bytes below 0xFFFE; else two of 0xFFFF and
+    /// four.
     template <class BaseType, class StringTraits>
     CArchive & operator<<(ATL::CStringT<BaseType, StringTraits> const & str)
     {

@@ -9,16 +9,16 @@
 #include "framework needs UNICODE and _UNICODE"
 #endif
 
-// The headers name types of Windows Vista. A program for older systems still decides itself what it calls.
-#if defined(_WIN32_WINNT) && _WIN32_WINNT < 0x0600
+// The headers name types of Windows 7. A program for older systems still decides itself what it calls.
+#if defined(_WIN32_WINNT) && _WIN32_WINNT < 0x0601
 #undef _WIN32_WINNT
-#define _WIN32_WINNT 0x0600
+#define _WIN32_WINNT 0x0601
 #undef WINVER
-#define WINVER 0x0600
+#define WINVER 0x0601
 #undef NTDDI_VERSION
-#define NTDDI_VERSION 0x06000000
+#define NTDDI_VERSION 0x06010000
 #undef _WIN32_IE
-#define _WIN32_IE 0x0700
+#define _WIN32_IE 0x0800
 #endif
 
 #endif

@@ -17,10 +17,10 @@
 
 static_assert(std::endian::native == std::endian::little, "archives hold the least byte first");
 
-// Each object is stored with a tag of two bytes: 0 for null, 0xFFFF for an object of a class that follows with its schema
-// and name, 0x8000 and a class's number for one of a class that came before, or the number of an object that came before.
-// Classes and objects are numbered together from 1. From 0x7FFF on, 0x7FFF stands in place of the tag and four bytes
-// follow, with the highest bit set for a class.
+// Each object is stored with a tag of two bytes: 0 for null, 0xFFFF for an object of a class that follows with its
+// schema and name, 0x8000 and a class's number for one of a class that came before, or the number of an object that
+// came before. Classes and objects are numbered together from 1. From 0x7FFF on, 0x7FFF stands in place of the tag and
+// four bytes follow, with the highest bit set for a class.
 namespace
 {
 constexpr WORD null_tag = 0;

@@ -82,8 +82,8 @@ private:
     void CheckRange() noexcept;
 };
 
-/// Days since 1899-12-30, with the time of the day as their fraction, which counts forwards before that day, too: -1.25 is
-/// six o'clock on 1899-12-29. What asks for a part of a moment that isn't valid is given -1.
+/// Days since 1899-12-30, with the time of the day as their fraction, which counts forwards before that day, too: -1.25
+/// is six o'clock on 1899-12-29. What asks for a part of a moment that isn't valid is given -1.
 class FRAMEWORK_API COleDateTime
 {
 public:
@@ -119,13 +119,22 @@ public:
     COleDateTime & operator=(FILETIME const & filetimeSrc) noexcept { return Assign(COleDateTime(filetimeSrc)); }
 #if defined(_WIN32)
     COleDateTime(VARIANT const & varSrc) noexcept;
-    COleDateTime & operator=(VARIANT const & varSrc) noexcept { return Assign(COleDateTime(varSrc)); }
+    COleDateTime & operator=(VARIANT const & varSrc) noexcept
+    {
+        return Assign(COleDateTime(varSrc));
+    }
     COleDateTime & operator=(UDATE const & uDate) noexcept;
     bool GetAsUDATE(UDATE & uDate) const noexcept;
 #endif
 
-    void SetStatus(DateTimeStatus status) noexcept { m_status = status; }
-    DateTimeStatus GetStatus() const noexcept { return m_status; }
+    void SetStatus(DateTimeStatus status) noexcept
+    {
+        m_status = status;
+    }
+    DateTimeStatus GetStatus() const noexcept
+    {
+        return m_status;
+    }
     bool GetAsSystemTime(SYSTEMTIME & sysTime) const noexcept;
     int GetYear() const noexcept;
     int GetMonth() const noexcept;
@@ -138,7 +147,10 @@ public:
     /// 1 is the first of January.
     int GetDayOfYear() const noexcept;
 
-    operator DATE() const noexcept { return m_dt; }
+    operator DATE() const noexcept
+    {
+        return m_dt;
+    }
     bool operator==(COleDateTime const & date) const noexcept;
     bool operator!=(COleDateTime const & date) const noexcept;
     bool operator<(COleDateTime const & date) const noexcept;
@@ -147,14 +159,26 @@ public:
     bool operator>=(COleDateTime const & date) const noexcept;
     COleDateTime operator+(COleDateTimeSpan dateSpan) const noexcept;
     COleDateTime operator-(COleDateTimeSpan dateSpan) const noexcept;
-    COleDateTime & operator+=(COleDateTimeSpan dateSpan) noexcept { return Assign(*this + dateSpan); }
-    COleDateTime & operator-=(COleDateTimeSpan dateSpan) noexcept { return Assign(*this - dateSpan); }
+    COleDateTime & operator+=(COleDateTimeSpan dateSpan) noexcept
+    {
+        return Assign(*this + dateSpan);
+    }
+    COleDateTime & operator-=(COleDateTimeSpan dateSpan) noexcept
+    {
+        return Assign(*this - dateSpan);
+    }
     COleDateTimeSpan operator-(COleDateTime const & date) const noexcept;
 
     /// 0 when the parts are a moment, else 1, and the status is invalid.
     int SetDateTime(int nYear, int nMonth, int nDay, int nHour, int nMin, int nSec) noexcept;
-    int SetDate(int nYear, int nMonth, int nDay) noexcept { return SetDateTime(nYear, nMonth, nDay, 0, 0, 0); }
-    int SetTime(int nHour, int nMin, int nSec) noexcept { return SetDateTime(1899, 12, 30, nHour, nMin, nSec); }
+    int SetDate(int nYear, int nMonth, int nDay) noexcept
+    {
+        return SetDateTime(nYear, nMonth, nDay, 0, 0, 0);
+    }
+    int SetTime(int nHour, int nMin, int nSec) noexcept
+    {
+        return SetDateTime(1899, 12, 30, nHour, nMin, nSec);
+    }
 
     /// By the directives of strftime. Empty when null.
     CString Format(LPCTSTR lpszFormat) const;

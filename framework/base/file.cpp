@@ -115,6 +115,9 @@ void CFile::Abort()
 
 CFile * CFile::Duplicate() const
 {
+    // The null handle means something else to the system.
+    if (m_hFile == hFileNull)
+        AfxThrowFileException(CFileException::invalidFile, -1, m_strFileName);
     auto copy = std::make_unique<CFile>();
     copy->m_hFile = files::Duplicate(m_hFile, m_strFileName);
     copy->m_bCloseOnDelete = TRUE;

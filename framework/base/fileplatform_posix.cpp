@@ -85,7 +85,7 @@ HANDLE Open(LPCTSTR path, UINT flags, LONG & error)
     if ((flags & CFile::osWriteThrough) != 0)
         mode |= O_SYNC;
     int const descriptor = ::open(Narrow(path).c_str(), mode, 0666);
-    struct stat data{};
+    struct stat data = {};
     if (descriptor >= 0 && ::fstat(descriptor, &data) == 0 && S_ISDIR(data.st_mode))
     {
         ::close(descriptor);
@@ -165,7 +165,7 @@ ULONGLONG Seek(HANDLE file, LONGLONG offset, UINT from, LPCTSTR path)
 
 ULONGLONG Length(HANDLE file, LPCTSTR path)
 {
-    struct stat data{};
+    struct stat data = {};
     if (::fstat(DescriptorOf(file), &data) != 0)
         ThrowError(path);
     return static_cast<ULONGLONG>(data.st_size);
@@ -180,7 +180,7 @@ void SetLength(HANDLE file, ULONGLONG length, LPCTSTR path)
 
 void Lock(HANDLE file, ULONGLONG position, ULONGLONG count, bool lock, LPCTSTR path)
 {
-    struct flock range{};
+    struct flock range = {};
     int const mode = ::fcntl(DescriptorOf(file), F_GETFL);
     bool const reads_only = mode >= 0 && (mode & O_ACCMODE) == O_RDONLY;
     range.l_type = static_cast<short>(!lock ? F_UNLCK : reads_only ? F_RDLCK : F_WRLCK);
@@ -201,7 +201,7 @@ void Lock(HANDLE file, ULONGLONG position, ULONGLONG count, bool lock, LPCTSTR p
 
 bool Status(LPCTSTR path, CFileStatus & status)
 {
-    struct stat data{};
+    struct stat data = {};
     if (::stat(Narrow(path).c_str(), &data) != 0)
         return false;
     Fill(status, data);
@@ -210,7 +210,7 @@ bool Status(LPCTSTR path, CFileStatus & status)
 
 bool Status(HANDLE file, CFileStatus & status)
 {
-    struct stat data{};
+    struct stat data = {};
     if (::fstat(DescriptorOf(file), &data) != 0)
         return false;
     Fill(status, data);
@@ -220,7 +220,7 @@ bool Status(HANDLE file, CFileStatus & status)
 void SetStatus(LPCTSTR path, CFileStatus const & status)
 {
     std::string const name = Narrow(path);
-    struct stat data{};
+    struct stat data = {};
     if (::stat(name.c_str(), &data) != 0)
         ThrowError(path);
     timespec const times[] = {TimeFor(status.m_atime), TimeFor(status.m_mtime)};
@@ -236,7 +236,7 @@ void SetStatus(LPCTSTR path, CFileStatus const & status)
 void Rename(LPCTSTR from, LPCTSTR to)
 {
     std::string const target = Narrow(to);
-    struct stat data{};
+    struct stat data = {};
     // The system would replace a file that is there.
     if (::lstat(target.c_str(), &data) == 0)
         CFileException::ThrowErrno(EEXIST, from);
@@ -247,7 +247,7 @@ void Rename(LPCTSTR from, LPCTSTR to)
 void Remove(LPCTSTR path)
 {
     std::string const name = Narrow(path);
-    struct stat data{};
+    struct stat data = {};
     if (::lstat(name.c_str(), &data) != 0)
         ThrowError(path);
     if (S_ISDIR(data.st_mode) || (data.st_mode & S_IWUSR) == 0)
@@ -335,8 +335,7 @@ bool ReadText(FILE * stream, LPTSTR text, UINT room, bool wide)
             }
             bytes += static_cast<char>(next);
         }
-        std::wstring const character =
-            wide ? FromUtf16(units) : ToWide(bytes.data(), static_cast<int>(bytes.size()));
+        std::wstring const character = wide ? FromUtf16(units) : ToWide(bytes.data(), static_cast<int>(bytes.size()));
         text[length++] = character.empty() ? L'\xFFFD' : character[0];
         if (text[length - 1] == L'\n')
             break;

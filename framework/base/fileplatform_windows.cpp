@@ -233,9 +233,9 @@ void SetStatus(LPCTSTR path, CFileStatus const & status)
                                          OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
         if (file == INVALID_HANDLE_VALUE)
             ThrowLastError(path);
-        BOOL const set = ::SetFileTime(file, status.m_ctime != none ? &made : nullptr,
-                                       status.m_atime != none ? &read : nullptr,
-                                       status.m_mtime != none ? &written : nullptr);
+        BOOL const set =
+            ::SetFileTime(file, status.m_ctime != none ? &made : nullptr, status.m_atime != none ? &read : nullptr,
+                          status.m_mtime != none ? &written : nullptr);
         DWORD const error = ::GetLastError();
         ::CloseHandle(file);
         if (!set)
@@ -275,8 +275,8 @@ FILE * OpenStream(HANDLE file, UINT flags, LONG & error)
     bool const binary = (flags & CFile::typeBinary) != 0;
     bool const wide = !binary && (flags & CFile::typeUnicode) != 0;
     mode += binary || wide ? L'b' : L't';
-    int const descriptor = ::_open_osfhandle(reinterpret_cast<intptr_t>(file),
-                                             (writes ? 0 : _O_RDONLY) | (binary || wide ? 0 : _O_TEXT));
+    int const descriptor =
+        ::_open_osfhandle(reinterpret_cast<intptr_t>(file), (writes ? 0 : _O_RDONLY) | (binary || wide ? 0 : _O_TEXT));
     FILE * const stream = descriptor == -1 ? nullptr : ::_wfdopen(descriptor, mode.c_str());
     if (stream == nullptr)
         error = static_cast<LONG>(_doserrno);

@@ -8,9 +8,7 @@
 
 IMPLEMENT_DYNAMIC(CMemFile, CFile)
 
-CMemFile::CMemFile(UINT nGrowBytes) : m_nGrowBytes(nGrowBytes)
-{
-}
+CMemFile::CMemFile(UINT nGrowBytes) : m_nGrowBytes(nGrowBytes) {}
 
 CMemFile::CMemFile(BYTE * lpBuffer, UINT nBufferSize, UINT nGrowBytes) : m_nGrowBytes(nGrowBytes)
 {
@@ -98,9 +96,7 @@ void CMemFile::FillGap()
         std::memset(m_lpBuffer + m_nFileSize, 0, m_nPosition - m_nFileSize);
 }
 
-void CMemFile::Flush()
-{
-}
+void CMemFile::Flush() {}
 
 ULONGLONG CMemFile::Seek(LONGLONG lOff, UINT nFrom)
 {
@@ -212,7 +208,9 @@ void CMemFile::GrowFile(SIZE_T dwNewLen)
         return;
     if (m_nGrowBytes == 0)
         AfxThrowMemoryException();
-    SIZE_T const steps = (dwNewLen - m_nBufferSize - 1) / m_nGrowBytes + 1;
+    // Large files grow by an eighth, or growing would copy them all the time.
+    SIZE_T const needed = (dwNewLen - m_nBufferSize - 1) / m_nGrowBytes + 1;
+    SIZE_T const steps = std::max(needed, m_nBufferSize / m_nGrowBytes / 8);
     if (steps > (SIZE_MAX / 2 - m_nBufferSize) / m_nGrowBytes)
         AfxThrowMemoryException();
     SIZE_T const size = m_nBufferSize + steps * m_nGrowBytes;

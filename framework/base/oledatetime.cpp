@@ -282,8 +282,8 @@ COleDateTime::COleDateTime(SYSTEMTIME const & systimeSrc) noexcept
 
 COleDateTime::COleDateTime(WORD wDosDate, WORD wDosTime) noexcept
 {
-    SetDateTime((wDosDate >> 9) + 1980, (wDosDate >> 5) & 0x0F, wDosDate & 0x1F, wDosTime >> 11,
-                (wDosTime >> 5) & 0x3F, (wDosTime & 0x1F) * 2);
+    SetDateTime((wDosDate >> 9) + 1980, (wDosDate >> 5) & 0x0F, wDosDate & 0x1F, wDosTime >> 11, (wDosTime >> 5) & 0x3F,
+                (wDosTime & 0x1F) * 2);
 }
 
 COleDateTime::COleDateTime(FILETIME const & filetimeSrc) noexcept
@@ -508,8 +508,8 @@ CString COleDateTime::Format(DWORD dwFlags, LCID lcid) const
 
 bool COleDateTime::ParseDateTime(LPCTSTR lpszDate, DWORD dwFlags, LCID lcid) noexcept
 {
-    HRESULT const result = ::VarDateFromStr(const_cast<LPOLESTR>(lpszDate != nullptr ? lpszDate : _T("")), lcid,
-                                            dwFlags, &m_dt);
+    HRESULT const result =
+        ::VarDateFromStr(const_cast<LPOLESTR>(lpszDate != nullptr ? lpszDate : _T("")), lcid, dwFlags, &m_dt);
     m_status = SUCCEEDED(result) ? valid : invalid;
     if (FAILED(result))
         m_dt = result == DISP_E_TYPEMISMATCH ? 0 : -1;

@@ -21,11 +21,11 @@ Limits LimitsOfThread()
 {
     Limits limits;
 #if defined(_WIN32)
-    // The whole stack is one allocation of address space, of which the upper part is in use.
+    // The whole stack is one allocation of address space, of which the upper part, up to its end, is in use.
     MEMORY_BASIC_INFORMATION stack{};
-    ::VirtualQuery(&limits, &stack, sizeof(stack));
+    ::VirtualQuery(&stack, &stack, sizeof(stack));
     auto const low = reinterpret_cast<std::uintptr_t>(stack.AllocationBase);
-    auto const high = reinterpret_cast<std::uintptr_t>(reinterpret_cast<NT_TIB *>(::NtCurrentTeb())->StackBase);
+    auto const high = reinterpret_cast<std::uintptr_t>(stack.BaseAddress) + stack.RegionSize;
     limits = {low, high - low};
 #else
     pthread_attr_t attributes;

@@ -10,9 +10,7 @@ IMPLEMENT_DYNAMIC(CStdioFile, CFile)
 
 CStdioFile::CStdioFile() = default;
 
-CStdioFile::CStdioFile(CAtlTransactionManager * pTM) : CFile(pTM)
-{
-}
+CStdioFile::CStdioFile(CAtlTransactionManager * pTM) : CFile(pTM) {}
 
 CStdioFile::CStdioFile(FILE * pOpenStream) : m_pStream(pOpenStream)
 {
@@ -21,9 +19,7 @@ CStdioFile::CStdioFile(FILE * pOpenStream) : m_pStream(pOpenStream)
     m_hFile = files::HandleOf(pOpenStream);
 }
 
-CStdioFile::CStdioFile(LPCTSTR lpszFileName, UINT nOpenFlags) : CStdioFile(lpszFileName, nOpenFlags, nullptr)
-{
-}
+CStdioFile::CStdioFile(LPCTSTR lpszFileName, UINT nOpenFlags) : CStdioFile(lpszFileName, nOpenFlags, nullptr) {}
 
 CStdioFile::CStdioFile(LPCTSTR lpszFileName, UINT nOpenFlags, CAtlTransactionManager * pTM) : CFile(pTM)
 {

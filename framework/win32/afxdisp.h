@@ -14,9 +14,7 @@ FRAMEWORK_API void AFXAPI AfxOleTerm(BOOL bJustRevoke = FALSE);
 namespace framework
 {
 /// Windows here hold no controls of other programs, so there is nothing to prepare.
-inline void EnableControlContainer()
-{
-}
+inline void EnableControlContainer() {}
 } // namespace framework
 
 #define AfxEnableControlContainer ::framework::EnableControlContainer

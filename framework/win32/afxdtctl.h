@@ -125,11 +125,8 @@ public:
     {
         framework::Send(m_hWnd, DTM_SETMCFONT, hFont, static_cast<LPARAM>(bRedraw));
     }
-    /// Null while it isn't open.
-    CMonthCalCtrl * GetMonthCalCtrl() const
-    {
-        return framework::SendForWindow<CMonthCalCtrl>(m_hWnd, DTM_GETMONTHCAL);
-    }
+    /// Some systems have one only while it is open; else null.
+    CMonthCalCtrl * GetMonthCalCtrl() const { return framework::SendForWindow<CMonthCalCtrl>(m_hWnd, DTM_GETMONTHCAL); }
 
     DWORD GetRange(COleDateTime * pMinRange, COleDateTime * pMaxRange) const;
     DWORD GetRange(CTime * pMinRange, CTime * pMaxRange) const;
@@ -159,3 +156,13 @@ FRAMEWORK_API void AFXAPI DDX_DateTimeCtrl(CDataExchange * pDX, int nIDC, COleDa
 FRAMEWORK_API void AFXAPI DDX_DateTimeCtrl(CDataExchange * pDX, int nIDC, CString & value);
 FRAMEWORK_API void AFXAPI DDX_MonthCalCtrl(CDataExchange * pDX, int nIDC, CTime & value);
 FRAMEWORK_API void AFXAPI DDX_MonthCalCtrl(CDataExchange * pDX, int nIDC, COleDateTime & value);
+
+// Behind the exchange of the control: the limits that its user can't leave. Null: none.
+FRAMEWORK_API void AFXAPI DDV_MinMaxDateTime(CDataExchange * pDX, CTime & refValue, CTime const * refMinRange,
+                                             CTime const * refMaxRange);
+FRAMEWORK_API void AFXAPI DDV_MinMaxDateTime(CDataExchange * pDX, COleDateTime & refValue,
+                                             COleDateTime const * refMinRange, COleDateTime const * refMaxRange);
+FRAMEWORK_API void AFXAPI DDV_MinMaxMonth(CDataExchange * pDX, CTime & refValue, CTime const * refMinRange,
+                                          CTime const * refMaxRange);
+FRAMEWORK_API void AFXAPI DDV_MinMaxMonth(CDataExchange * pDX, COleDateTime & refValue,
+                                          COleDateTime const * refMinRange, COleDateTime const * refMaxRange);

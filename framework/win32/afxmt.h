@@ -29,8 +29,8 @@ private:
     CString m_name;
 };
 
-/// Its creation throws CResourceException where the system has no more of them, or has the name for something else; that of
-/// an event and a mutex does, too.
+/// Its creation throws CResourceException where the system has no more of them, or has the name for something else;
+/// that of an event and a mutex does, too.
 class FRAMEWORK_API CSemaphore : public CSyncObject
 {
     DECLARE_DYNAMIC(CSemaphore)

@@ -9,8 +9,8 @@
 
 #include <vector>
 
-/// The system's task dialog, which common controls of version 6 have. What is set while it is up shows at once, but for the
-/// lists of controls. An unknown control throws CInvalidArgException.
+/// The system's task dialog, which common controls of version 6 have. What is set while it is up shows at once, but for
+/// the lists of controls. An unknown control throws CInvalidArgException.
 class FRAMEWORK_API CTaskDialog : public CObject
 {
     DECLARE_DYNAMIC(CTaskDialog)
@@ -33,8 +33,8 @@ public:
                               int nCommonButtons = TDCBF_YES_BUTTON | TDCBF_NO_BUTTON,
                               int nTaskDialogOptions = TDF_ENABLE_HYPERLINKS | TDF_USE_COMMAND_LINKS,
                               CString const & strFooter = _T(""));
-    /// The identifier of the button that ended it. Throws CNotSupportedException where the system has no task dialogs, and
-    /// CInvalidArgException for what it refuses.
+    /// The identifier of the button that ended it. Throws CNotSupportedException where the system has no task dialogs,
+    /// and CInvalidArgException for what it refuses.
     INT_PTR DoModal(HWND hParent = ::GetActiveWindow());
 
     void SetWindowTitle(CString & strWindowTitle);

@@ -3,6 +3,7 @@
 #include <afxdtctl.h>
 
 #include "detail/ControlSupport.h"
+#include "detail/DataExchange.h"
 
 IMPLEMENT_DYNAMIC(CMonthCalCtrl, CWnd)
 IMPLEMENT_DYNAMIC(CDateTimeCtrl, CWnd)
@@ -143,7 +144,8 @@ BOOL CMonthCalCtrl::SizeMinReq(BOOL bRepaint)
     if (!GetMinReqRect(&rect))
         return FALSE;
     UINT const repaint = bRepaint ? 0 : SWP_NOREDRAW;
-    return SetWindowPos(nullptr, 0, 0, rect.Width(), rect.Height(), SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | repaint);
+    return SetWindowPos(nullptr, 0, 0, rect.Width(), rect.Height(),
+                        SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | repaint);
 }
 
 LPRECT CMonthCalCtrl::SizeRectToMin(LPRECT lpRect)
@@ -428,7 +430,10 @@ BOOL CDateTimeCtrl::SetTime(CTime const * pTimeNew)
 
 BOOL CDateTimeCtrl::SetTime(LPSYSTEMTIME pTimeNew)
 {
-    return framework::Send<BOOL>(m_hWnd, DTM_SETSYSTEMTIME, pTimeNew == nullptr ? GDT_NONE : GDT_VALID, pTimeNew);
+    // Not every system takes none without a time beside it.
+    SYSTEMTIME none{};
+    bool const given = pTimeNew != nullptr;
+    return framework::Send<BOOL>(m_hWnd, DTM_SETSYSTEMTIME, given ? GDT_VALID : GDT_NONE, given ? pTimeNew : &none);
 }
 
 BOOL CDateTimeCtrl::GetDateTimePickerInfo(LPDATETIMEPICKERINFO pDateTimePickerInfo) const
@@ -490,4 +495,37 @@ void AFXAPI DDX_MonthCalCtrl(CDataExchange * pDX, int nIDC, CTime & value)
 void AFXAPI DDX_MonthCalCtrl(CDataExchange * pDX, int nIDC, COleDateTime & value)
 {
     ExchangeTime<CMonthCalCtrl>(pDX, nIDC, value);
+}
+
+namespace
+{
+template <class Control, class Time> void LimitLast(CDataExchange * exchange, Time const * low, Time const * high)
+{
+    ASSERT(low == nullptr || high == nullptr || *low <= *high);
+    HWND const control = framework::DataExchangeAccess::LastControl(*exchange);
+    if (!exchange->m_bSaveAndValidate && control != nullptr)
+        static_cast<Control *>(CWnd::FromHandle(control))->SetRange(low, high);
+}
+} // namespace
+
+void AFXAPI DDV_MinMaxDateTime(CDataExchange * pDX, CTime &, CTime const * refMinRange, CTime const * refMaxRange)
+{
+    LimitLast<CDateTimeCtrl>(pDX, refMinRange, refMaxRange);
+}
+
+void AFXAPI DDV_MinMaxDateTime(CDataExchange * pDX, COleDateTime &, COleDateTime const * refMinRange,
+                               COleDateTime const * refMaxRange)
+{
+    LimitLast<CDateTimeCtrl>(pDX, refMinRange, refMaxRange);
+}
+
+void AFXAPI DDV_MinMaxMonth(CDataExchange * pDX, CTime &, CTime const * refMinRange, CTime const * refMaxRange)
+{
+    LimitLast<CMonthCalCtrl>(pDX, refMinRange, refMaxRange);
+}
+
+void AFXAPI DDV_MinMaxMonth(CDataExchange * pDX, COleDateTime &, COleDateTime const * refMinRange,
+                            COleDateTime const * refMaxRange)
+{
+    LimitLast<CMonthCalCtrl>(pDX, refMinRange, refMaxRange);
 }

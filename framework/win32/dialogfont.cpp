@@ -34,7 +34,9 @@ CFontDialog::CFontDialog(CHARFORMAT const & charformat, DWORD dwFlags, CDC * pdc
         m_font.lfHeight = -::MulDiv(charformat.yHeight, ::GetDeviceCaps(screen, LOGPIXELSY), twips_per_inch);
         ::ReleaseDC(nullptr, screen);
     }
-    auto const has = [&](DWORD part, DWORD effect) { return (mask & part) != 0 && (charformat.dwEffects & effect) != 0; };
+    auto const has = [&](DWORD part, DWORD effect) {
+        return (mask & part) != 0 && (charformat.dwEffects & effect) != 0;
+    };
     m_font.lfWeight = has(CFM_BOLD, CFE_BOLD) ? FW_BOLD : FW_NORMAL;
     m_font.lfItalic = has(CFM_ITALIC, CFE_ITALIC);
     m_font.lfUnderline = has(CFM_UNDERLINE, CFE_UNDERLINE);

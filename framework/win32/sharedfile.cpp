@@ -4,9 +4,7 @@
 
 IMPLEMENT_DYNAMIC(CSharedFile, CMemFile)
 
-CSharedFile::CSharedFile(UINT nAllocFlags, UINT nGrowBytes) : CMemFile(nGrowBytes), m_allocFlags(nAllocFlags)
-{
-}
+CSharedFile::CSharedFile(UINT nAllocFlags, UINT nGrowBytes) : CMemFile(nGrowBytes), m_allocFlags(nAllocFlags) {}
 
 CSharedFile::~CSharedFile()
 {

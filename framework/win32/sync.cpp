@@ -10,9 +10,7 @@ IMPLEMENT_DYNAMIC(CMutex, CSyncObject)
 IMPLEMENT_DYNAMIC(CEvent, CSyncObject)
 IMPLEMENT_DYNAMIC(CCriticalSection, CSyncObject)
 
-CSyncObject::CSyncObject(LPCTSTR pstrName) : m_name(pstrName)
-{
-}
+CSyncObject::CSyncObject(LPCTSTR pstrName) : m_name(pstrName) {}
 
 CSyncObject::~CSyncObject()
 {
@@ -207,8 +205,9 @@ BOOL CMultiLock::Unlock()
 BOOL CMultiLock::Unlock(LONG lCount, LPLONG lPrevCount)
 {
     // Of these only semaphores have a count.
-    return UnlockEach([=](CSyncObject & object)
-                      { return object.IsKindOf(RUNTIME_CLASS(CSemaphore)) && object.Unlock(lCount, lPrevCount); });
+    return UnlockEach([=](CSyncObject & object) {
+        return object.IsKindOf(RUNTIME_CLASS(CSemaphore)) && object.Unlock(lCount, lPrevCount);
+    });
 }
 
 BOOL CMultiLock::IsLocked(DWORD dwItem)

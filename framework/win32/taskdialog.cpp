@@ -23,9 +23,9 @@ struct CommonButton
     int flag;
     int id;
 };
-constexpr CommonButton common_buttons[] = {{TDCBF_OK_BUTTON, IDOK},         {TDCBF_YES_BUTTON, IDYES},
-                                           {TDCBF_NO_BUTTON, IDNO},         {TDCBF_CANCEL_BUTTON, IDCANCEL},
-                                           {TDCBF_RETRY_BUTTON, IDRETRY},   {TDCBF_CLOSE_BUTTON, IDCLOSE}};
+constexpr CommonButton common_buttons[] = {{TDCBF_OK_BUTTON, IDOK},       {TDCBF_YES_BUTTON, IDYES},
+                                           {TDCBF_NO_BUTTON, IDNO},       {TDCBF_CANCEL_BUTTON, IDCANCEL},
+                                           {TDCBF_RETRY_BUTTON, IDRETRY}, {TDCBF_CLOSE_BUTTON, IDCLOSE}};
 
 LPCWSTR UnlessEmpty(CString const & text)
 {
@@ -195,8 +195,7 @@ HRESULT CTaskDialog::Notice(HWND window, UINT message, WPARAM wParam, LPARAM lPa
         return OnTimer(static_cast<long>(wParam));
     case TDN_HELP:
         return OnHelp();
-    case TDN_DESTROYED:
-    {
+    case TDN_DESTROYED: {
         HRESULT const result = OnDestroy();
         m_window = nullptr;
         return result;

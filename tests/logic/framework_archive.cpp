@@ -77,8 +77,8 @@ template <class Statement> int CauseOf(Statement statement)
 Bytes ClassBytes(char const * name, WORD schema)
 {
     std::string const text(name);
-    Bytes bytes = {0xFF, 0xFF, static_cast<BYTE>(schema), static_cast<BYTE>(schema >> 8),
-                   static_cast<BYTE>(text.size()), 0};
+    Bytes bytes = {
+        0xFF, 0xFF, static_cast<BYTE>(schema), static_cast<BYTE>(schema >> 8), static_cast<BYTE>(text.size()), 0};
     for (char const ch : text)
         bytes.push_back(static_cast<BYTE>(ch));
     return bytes;
@@ -216,13 +216,13 @@ template <> void AFXAPI SerializeElements<Bit>(CArchive & ar, Bit * pElements, I
 
 TEST_F(FrameworkArchive, NumbersHaveFixedWidths)
 {
-    Bytes const expected = {0x12, 0x34, 0x12, 0xFE, 0xFF, 0x78, 0x56, 0x34, 0x12, 0xFF, 0xFF, 0xFF, 0xFF,
-                            0x88, 0x77, 0x66, 0x55, 0x44, 0x33, 0x22, 0x11, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF,
-                            0xFF, 0x00, 0x00, 0x20, 0x40, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x04, 0xC0, 'c',
-                            0xAC, 0x20, 0x01, 0x00};
+    Bytes const expected = {0x12, 0x34, 0x12, 0xFE, 0xFF, 0x78, 0x56, 0x34, 0x12, 0xFF, 0xFF, 0xFF,
+                            0xFF, 0x88, 0x77, 0x66, 0x55, 0x44, 0x33, 0x22, 0x11, 0xFF, 0xFF, 0xFF,
+                            0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0x00, 0x00, 0x20, 0x40, 0x00, 0x00, 0x00,
+                            0x00, 0x00, 0x00, 0x04, 0xC0, 'c',  0xAC, 0x20, 0x01, 0x00};
     Bytes const bytes = Stored([](CArchive & ar) {
-        ar << static_cast<BYTE>(0x12) << static_cast<WORD>(0x1234) << static_cast<short>(-2) << 0x12345678 << 0xFFFFFFFFU
-           << large << -1LL << 2.5F << -2.5 << 'c' << L'\x20AC' << true << false;
+        ar << static_cast<BYTE>(0x12) << static_cast<WORD>(0x1234) << static_cast<short>(-2) << 0x12345678
+           << 0xFFFFFFFFU << large << -1LL << 2.5F << -2.5 << 'c' << L'\x20AC' << true << false;
     });
     EXPECT_EQ(bytes, expected);
 
@@ -274,8 +274,9 @@ TEST_F(FrameworkArchive, TextHasItsLengthInFront)
     EXPECT_EQ(Stored([](CArchive & ar) { ar << CStringA("ab") << CStringA(); }), (Bytes({2, 'a', 'b', 0})));
     EXPECT_EQ(Stored([](CArchive & ar) { ar << CString(L"a\x20AC") << CString(); }),
               (Bytes({0xFF, 0xFE, 0xFF, 2, 'a', 0, 0xAC, 0x20, 0xFF, 0xFE, 0xFF, 0})));
-    auto const head = [](Bytes const & bytes, size_t count)
-    { return Bytes(bytes.begin(), bytes.begin() + static_cast<ptrdiff_t>(count)); };
+    auto const head = [](Bytes const & bytes, size_t count) {
+        return Bytes(bytes.begin(), bytes.begin() + static_cast<ptrdiff_t>(count));
+    };
     auto const narrow = [&](int length) { return Stored([&](CArchive & ar) { ar << CStringA('x', length); }); };
     EXPECT_EQ(head(narrow(254), 2), (Bytes({254, 'x'})));
     EXPECT_EQ(head(narrow(255), 4), (Bytes({255, 255, 0, 'x'})));
@@ -329,9 +330,9 @@ TEST_F(FrameworkArchive, PlacesAndTimesAreNumbers)
     Bytes const bytes = Stored([](CArchive & ar) {
         ar << CSize(1, 2) << CPoint(3, -1) << CRect(1, 2, 3, 4) << CTime(0x0102030405) << CTimeSpan(-1);
     });
-    EXPECT_EQ(bytes, (Bytes({1, 0, 0, 0, 2, 0, 0, 0, 3, 0, 0, 0, 0xFF, 0xFF, 0xFF, 0xFF, 1,    0,    0,    0,
-                            2, 0, 0, 0, 3, 0, 0, 0, 4, 0, 0, 0, 5,    4,    3,    2,    1,    0,    0,    0,
-                            0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF})));
+    EXPECT_EQ(bytes, (Bytes({1, 0, 0, 0, 2, 0, 0, 0, 3,    0,    0,    0,    0xFF, 0xFF, 0xFF, 0xFF,
+                             1, 0, 0, 0, 2, 0, 0, 0, 3,    0,    0,    0,    4,    0,    0,    0,
+                             5, 4, 3, 2, 1, 0, 0, 0, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF})));
     CSize size;
     CPoint point;
     CRect rect;
@@ -352,8 +353,7 @@ TEST_F(FrameworkArchive, CountsTakeTwoBytesOrMore)
     EXPECT_EQ(count(0xFFFE), (Bytes({0xFE, 0xFF})));
     EXPECT_EQ(count(0xFFFF), (Bytes({0xFF, 0xFF, 0xFF, 0xFF, 0, 0})));
     EXPECT_EQ(count(0xFFFFFFFE), (Bytes({0xFF, 0xFF, 0xFE, 0xFF, 0xFF, 0xFF})));
-    EXPECT_EQ(count(0xFFFFFFFF),
-              (Bytes({0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0, 0, 0, 0})));
+    EXPECT_EQ(count(0xFFFFFFFF), (Bytes({0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0, 0, 0, 0})));
     for (DWORD_PTR const number : {DWORD_PTR{0}, DWORD_PTR{0xFFFE}, DWORD_PTR{0xFFFF}, DWORD_PTR{0xFFFFFFFE},
                                    DWORD_PTR{0xFFFFFFFF}, DWORD_PTR{0x100000000}})
         Loaded(count(number), [&](CArchive & ar) { EXPECT_EQ(ar.ReadCount(), number); });
@@ -546,9 +546,8 @@ TEST_F(FrameworkArchiveObjects, AreStoredWithTheirClassOnce)
     CLeaf first(1);
     first.m_text = L"a";
     CLeaf second(2);
-    Bytes const bytes = Stored([&](CArchive & ar) {
-        ar << &first << static_cast<CObject *>(nullptr) << &second << &first << &second;
-    });
+    Bytes const bytes =
+        Stored([&](CArchive & ar) { ar << &first << static_cast<CObject *>(nullptr) << &second << &first << &second; });
     // Class 1, objects 2 and 3.
     EXPECT_EQ(bytes, ClassBytes("CLeaf", 1) + LeafBytes(1, "a") + Bytes({0, 0}) + Bytes({1, 0x80}) + LeafBytes(2, "") +
                          Bytes({2, 0}) + Bytes({3, 0}));
@@ -948,8 +947,8 @@ TEST_F(FrameworkArchiveCollections, OfAHundredThousandComeBack)
         int paired = 0;
         bool const same = bytesAgain[i] == static_cast<BYTE>(i) && wordsAgain[i] == static_cast<WORD>(i) &&
                           dwordsAgain[i] == static_cast<DWORD>(i) && stringsAgain[i] == text &&
-                          stringListAgain.GetNext(textPos) == text && mapAgain.Lookup(text, mapped) &&
-                          mapped == text && doublesAgain[i] == i && numbersAgain.GetNext(numberPos) == i &&
+                          stringListAgain.GetNext(textPos) == text && mapAgain.Lookup(text, mapped) && mapped == text &&
+                          doublesAgain[i] == i && numbersAgain.GetNext(numberPos) == i &&
                           pairsAgain.Lookup(i, paired) && paired == -i;
         wrong += same ? 0 : 1;
     }

@@ -19,12 +19,19 @@ namespace
 {
 using Bytes = std::vector<BYTE>;
 
+// Can be created by its name, but not stored.
+class CCreated : public CObject
+{
+    DECLARE_DYNCREATE(CCreated)
+};
+IMPLEMENT_DYNCREATE(CCreated, CObject)
+
 // The values that lengths, counts and tags become something else at.
 void PutMagic(Bytes & bytes, std::mt19937 & random)
 {
-    static constexpr BYTE magic[][4] = {
-        {0xFF, 0xFF, 0xFF, 0xFF}, {0xFF, 0xFF, 0xFF, 0x7F}, {0xFF, 0x7F, 0x00, 0x00}, {0xFF, 0xFE, 0xFF, 0xFF},
-        {0x00, 0x80, 0x01, 0x80}, {0xFF, 0x7F, 0x01, 0x00}, {0x00, 0x00, 0x00, 0x80}, {0x01, 0x00, 0x02, 0x00}};
+    static constexpr BYTE magic[][4] = {{0xFF, 0xFF, 0xFF, 0xFF}, {0xFF, 0xFF, 0xFF, 0x7F}, {0xFF, 0x7F, 0x00, 0x00},
+                                        {0xFF, 0xFE, 0xFF, 0xFF}, {0x00, 0x80, 0x01, 0x80}, {0xFF, 0x7F, 0x01, 0x00},
+                                        {0x00, 0x00, 0x00, 0x80}, {0x01, 0x00, 0x02, 0x00}};
     size_t const at = random() % bytes.size();
     BYTE const * const chosen = magic[random() % std::size(magic)];
     size_t const count = std::min<size_t>(1 + random() % 4, bytes.size() - at);
@@ -55,8 +62,7 @@ void Mutate(Bytes & bytes, std::mt19937 & random)
     case 4:
         bytes.insert(place, count, static_cast<BYTE>(random()));
         break;
-    case 5:
-    {
+    case 5: {
         Bytes const piece(place, place + static_cast<ptrdiff_t>(count));
         size_t const target = random() % bytes.size();
         bytes.insert(bytes.begin() + static_cast<ptrdiff_t>(target), piece.begin(), piece.end());
@@ -168,6 +174,7 @@ TEST(FrameworkArchiveDamage, ClassThatCannotBeStoredIsBad)
     // Its schema is the one that says so.
     EXPECT_EQ(CauseOfObject(NewObject("CPtrArray", 0xFFFF)), CArchiveException::badClass);
     EXPECT_EQ(CauseOfObject(NewObject("CObject", 0xFFFF)), CArchiveException::badClass);
+    EXPECT_EQ(CauseOfObject(NewObject("CCreated", 0xFFFF)), CArchiveException::badClass);
 }
 
 TEST(FrameworkArchiveDamage, ClassNameBeyondAnyIsBad)
@@ -185,11 +192,11 @@ TEST(FrameworkArchiveDamage, OtherSchemaIsBadUnlessVersionable)
 
 TEST(FrameworkArchiveDamage, ObjectOfAnotherClassThanAskedForIsBad)
 {
-    EXPECT_EQ(CauseOfObject(NewObject("CByteArray", 0) + Bytes{0, 0}, RUNTIME_CLASS(CLeaf)), CArchiveException::badClass);
+    EXPECT_EQ(CauseOfObject(NewObject("CByteArray", 0) + Bytes{0, 0}, RUNTIME_CLASS(CLeaf)),
+              CArchiveException::badClass);
     // By reference, too.
     Bytes const two = NewObject("CByteArray", 0) + Bytes{0, 0, 2, 0};
-    auto const load = [](CArchive & ar)
-    {
+    auto const load = [](CArchive & ar) {
         CObject * first = nullptr;
         ar >> first;
         std::unique_ptr<CObject> const owner(first);
@@ -228,8 +235,7 @@ TEST(FrameworkArchiveDamage, ClassIsNoObjectAndObjectIsNoClass)
 {
     // Class 1, object 2.
     Bytes const leaf = NewObject("CLeaf", 1) + Bytes{5, 0, 0, 0, 0};
-    auto const twice = [](CArchive & ar)
-    {
+    auto const twice = [](CArchive & ar) {
         ar.ReadObject(nullptr);
         ar.ReadObject(nullptr);
     };
@@ -251,8 +257,9 @@ TEST(FrameworkArchiveDamage, LengthsBeyondTheArchiveAllocateNothing)
     for (Bytes const & count : {billions, huge})
     {
         Bytes const bytes = count + Bytes(100, 0);
-        auto const ends = [&](CObject && collection)
-        { return CauseOf(bytes, [&](CArchive & ar) { collection.Serialize(ar); }) == CArchiveException::endOfFile; };
+        auto const ends = [&](CObject && collection) {
+            return CauseOf(bytes, [&](CArchive & ar) { collection.Serialize(ar); }) == CArchiveException::endOfFile;
+        };
         EXPECT_TRUE(ends(CByteArray()));
         EXPECT_TRUE(ends(CWordArray()));
         EXPECT_TRUE(ends(CDWordArray()));

@@ -172,6 +172,7 @@ TEST(FrameworkFile, ReadOnlyFileTakesNothing)
     folder.Put("a.bin", "abc");
     CFile file(folder / "a.bin", CFile::modeRead);
     EXPECT_GE(CauseOf([&] { file.Write("x", 1); }), CFileException::genericException);
+    file.Close();
     EXPECT_EQ(folder.Contents("a.bin"), "abc");
 }
 
@@ -413,7 +414,8 @@ TEST(FrameworkStdioFile, BinaryTextIsUtf16)
 TEST(FrameworkStdioFile, SeeksAndTellsItsLength)
 {
     Folder const folder;
-    CStdioFile file(folder / "a.bin", CFile::modeCreate | CFile::modeReadWrite | CFile::typeBinary);
+    UINT const flags = CFile::modeCreate | CFile::modeReadWrite | CFile::shareDenyNone | CFile::typeBinary;
+    CStdioFile file(folder / "a.bin", flags);
     file.Write("0123456789", 10);
     EXPECT_EQ(file.GetLength(), 10U);
     EXPECT_EQ(file.GetPosition(), 10U);
@@ -503,6 +505,17 @@ TEST(FrameworkMemFile, GrowsInSteps)
     file.SeekToBegin();
     EXPECT_EQ(Rest(file), "0123456789" + large);
     EXPECT_EQ(Rest(file), "");
+}
+
+TEST(FrameworkMemFile, LargeFileIsNotCopiedAtEachStep)
+{
+    CWatchedMemFile file(16);
+    std::string const part(16, 'x');
+    for (int i = 0; i < 100'000; ++i)
+        file.Write(part.data(), 16);
+    EXPECT_EQ(file.GetLength(), 1'600'000U);
+    EXPECT_LT(file.m_growths, 200);
+    EXPECT_LT(file.m_nBufferSize, 2'000'000U);
 }
 
 TEST(FrameworkMemFile, GapIsFilledWithZeros)

@@ -115,7 +115,6 @@ TEST_F(WizardDateTime, KnowsTheLookOfItsCalendar)
     Create();
     m_control.SetMonthCalColor(MCSC_TITLEBK, RGB(1, 2, 3));
     EXPECT_EQ(m_control.GetMonthCalColor(MCSC_TITLEBK), RGB(1, 2, 3));
-    EXPECT_EQ(m_control.GetMonthCalCtrl(), nullptr);
 }
 
 TEST_F(WizardDateTime, IsExchangedWithADialog)
@@ -135,6 +134,19 @@ TEST_F(WizardDateTime, IsExchangedWithADialog)
     CString text;
     DDX_DateTimeCtrl(&save, control_id, text);
     EXPECT_FALSE(text.IsEmpty());
+}
+
+TEST_F(WizardDateTime, LimitsAreSetByTheExchange)
+{
+    Create();
+    CDataExchange show(&m_parent, FALSE);
+    CTime time(2010, 11, 12, 13, 14, 15);
+    CTime const low(2010, 1, 1, 0, 0, 0);
+    DDX_DateTimeCtrl(&show, control_id, time);
+    DDV_MinMaxDateTime(&show, time, &low, nullptr);
+    CTime lowAgain;
+    EXPECT_EQ(m_control.GetRange(&lowAgain, nullptr), static_cast<DWORD>(GDTR_MIN));
+    EXPECT_EQ(lowAgain.GetYear(), 2010);
 }
 
 TEST_F(WizardMonthCalendar, SelectsADay)
@@ -227,8 +239,11 @@ TEST_F(WizardMonthCalendar, ShowsMonths)
     EXPECT_EQ(m_control.GetColor(MCSC_TEXT), RGB(1, 2, 3));
     MCHITTESTINFO hit{};
     hit.cbSize = sizeof(hit);
-    hit.pt = {10000, 10000};
-    EXPECT_EQ(m_control.HitTest(&hit), static_cast<DWORD>(MCHT_NOWHERE));
+    CRect rect;
+    m_control.GetClientRect(&rect);
+    hit.pt = rect.CenterPoint();
+    EXPECT_EQ(m_control.HitTest(&hit), hit.uHit);
+    EXPECT_NE(hit.uHit, static_cast<UINT>(MCHT_NOWHERE));
 }
 
 TEST_F(WizardMonthCalendar, IsExchangedWithADialog)

@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstring>
 #include <string>
 #include <vector>
 
@@ -41,21 +43,20 @@ LOGFONT Courier()
 class CTestTaskDialog : public CTaskDialog
 {
 public:
-    using CTaskDialog::CTaskDialog;
     using CTaskDialog::ClickCommandControl;
     using CTaskDialog::ClickRadioButton;
+    using CTaskDialog::CTaskDialog;
 
     std::vector<std::string> m_heard;
-    std::vector<int> m_clicks;  // commands, in the dialog
-    std::vector<int> m_radios;
+    std::vector<int> m_clicks; // commands, in the dialog
     int m_refused = 0;
+
+    bool Heard(char const * what) const { return std::find(m_heard.begin(), m_heard.end(), what) != m_heard.end(); }
 
     HRESULT OnInit() override { return Hear("init"); }
     HRESULT OnCreate() override
     {
         Hear("create");
-        for (int const id : m_radios)
-            ClickRadioButton(id);
         for (int const id : m_clicks)
             ClickCommandControl(id);
         return S_OK;
@@ -257,8 +258,7 @@ TEST(WizardTaskDialog, EndsWithTheCommandClicked)
     dialog.m_clicks = {101, 102};
     EXPECT_EQ(dialog.DoModal(nullptr), 102);
     EXPECT_EQ(dialog.GetSelectedCommandControlID(), 102);
-    EXPECT_EQ(dialog.m_heard,
-              (std::vector<std::string>{"init", "create", "click 101", "click 102", "destroy"}));
+    EXPECT_EQ(dialog.m_heard, (std::vector<std::string>{"init", "create", "click 101", "click 102", "destroy"}));
 }
 
 TEST(WizardTaskDialog, TellsTheRadioButtonChosen)
@@ -267,9 +267,14 @@ TEST(WizardTaskDialog, TellsTheRadioButtonChosen)
     dialog.AddRadioButton(201, _T("first"));
     dialog.AddRadioButton(202, _T("second"));
     dialog.SetDefaultRadioButton(201);
-    dialog.m_radios = {202};
-    dialog.m_clicks = {IDOK};
+    tests::LaterActions actions;
+    // The system may choose the default only after the dialog's creation.
+    actions.Add([&] { dialog.ClickRadioButton(202); },
+                [&] { return dialog.Heard("create") && dialog.Heard("radio 201"); });
+    actions.Add([&] { dialog.ClickCommandControl(IDOK); });
     EXPECT_EQ(dialog.DoModal(nullptr), IDOK);
+    EXPECT_FALSE(actions.Failed());
+    EXPECT_TRUE(dialog.Heard("radio 202"));
     EXPECT_EQ(dialog.GetSelectedRadioButtonID(), 202);
 }
 

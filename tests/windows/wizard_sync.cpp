@@ -6,7 +6,8 @@
 
 #include <gtest/gtest.h>
 
-#include <atomic>
+#include <cmath>
+#include <cstring>
 #include <string>
 #include <thread>
 
@@ -237,12 +238,12 @@ TEST(WizardOle, TimesAreReadAndWrittenAsTheLocaleHasIt)
     LCID const english = MAKELCID(MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_US), SORT_DEFAULT);
     COleDateTime date;
     EXPECT_TRUE(date.ParseDateTime(_T("2/29/2024 13:05:06"), 0, english));
-    EXPECT_EQ(date, COleDateTime(2024, 2, 29, 13, 5, 6));
+    EXPECT_EQ(date.Format(_T("%Y-%m-%d %H:%M:%S")), _T("2024-02-29 13:05:06"));
     EXPECT_FALSE(date.ParseDateTime(_T("no date at all"), 0, english));
     EXPECT_EQ(date.GetStatus(), COleDateTime::invalid);
     EXPECT_EQ(date.m_dt, 0);
     EXPECT_TRUE(date.ParseDateTime(_T("12:30:00"), VAR_TIMEVALUEONLY, english));
-    EXPECT_EQ(date.m_dt, 12.5 / 24);
+    EXPECT_NEAR(date.m_dt, 12.5 / 24, 1e-9);
     EXPECT_NE(COleDateTime(2024, 2, 29, 0, 0, 0).Format(VAR_DATEVALUEONLY, english).Find(_T("2024")), -1);
     VARIANT value;
     ::VariantInit(&value);

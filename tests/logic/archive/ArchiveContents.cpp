@@ -86,10 +86,10 @@ void Contents::Serialize(CArchive & ar)
         ar << m_byte << m_word << m_double << m_bool << m_wide << m_narrow << m_time << m_rect;
     else
         ar >> m_byte >> m_word >> m_double >> m_bool >> m_wide >> m_narrow >> m_time >> m_rect;
-    CObject * const collections[] = {
-        &m_objects,    &m_bytes,          &m_words,   &m_dwords, &m_strings, &m_objectList, &m_stringList, &m_wordToOb,
-        &m_stringToOb, &m_stringToString, &m_doubles, &m_texts,  &m_numbers, &m_names,      &m_branches,   &m_leafList,
-        &m_leafMap};
+    CObject * const collections[] = {&m_objects,    &m_bytes,      &m_words,    &m_dwords,     &m_strings,
+                                     &m_objectList, &m_stringList, &m_wordToOb, &m_stringToOb, &m_stringToString,
+                                     &m_doubles,    &m_texts,      &m_numbers,  &m_names,      &m_branches,
+                                     &m_leafList,   &m_leafMap};
     for (CObject * const collection : collections)
         collection->Serialize(ar);
 }
