@@ -119,7 +119,8 @@ public:
         Text(L"New");
         m_words.push_back(8);
         Text(L"MS Shell Dlg");
-        Item(WS_TABSTOP | WS_BORDER | WS_VSCROLL | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT, 7, 7, 110, 76, kindListId, listBoxAtom, L"");
+        Item(WS_TABSTOP | WS_BORDER | WS_VSCROLL | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT, 7, 7, 110, 76, kindListId,
+             listBoxAtom, L"");
         Item(WS_TABSTOP | BS_DEFPUSHBUTTON, 123, 7, 50, 14, IDOK, buttonAtom, L"OK");
         Item(WS_TABSTOP | BS_PUSHBUTTON, 123, 24, 50, 14, IDCANCEL, buttonAtom, L"Cancel");
     }
@@ -338,7 +339,8 @@ void CWinApp::LoadStdProfileSettings(UINT nMaxMRU)
     framework::AppDocuments & documents = Documents();
     if (nMaxMRU != 0)
     {
-        documents.m_recent = std::make_unique<CRecentFileList>(0, recentSection, recentEntry, static_cast<int>(nMaxMRU));
+        documents.m_recent =
+            std::make_unique<CRecentFileList>(0, recentSection, recentEntry, static_cast<int>(nMaxMRU));
         documents.m_recent->ReadList();
     }
     documents.m_previewPages = GetProfileInt(settingsSection, previewEntry, 0);
@@ -425,6 +427,92 @@ BOOL CWinApp::ProcessShellCommand(CCommandLineInfo & rCmdInfo)
         return TRUE;
     default:
         return TRUE;
+    }
+}
+
+void CWinApp::EnableShellOpen() {}
+
+namespace
+{
+constexpr wchar_t classesKey[] = L"Software\\Classes\\";
+
+void SetClassValue(CString const & key, CString const & value)
+{
+    ::RegSetKeyValue(HKEY_CURRENT_USER, classesKey + key, nullptr, REG_SZ, value.GetString(),
+                     static_cast<DWORD>((value.GetLength() + 1) * static_cast<int>(sizeof(wchar_t))));
+}
+
+CString ClassValue(CString const & key)
+{
+    wchar_t value[MAX_PATH] = {};
+    DWORD size = sizeof value;
+    bool const there = ::RegGetValue(HKEY_CURRENT_USER, classesKey + key, nullptr, RRF_RT_REG_SZ, nullptr, value,
+                                     &size) == ERROR_SUCCESS;
+    return there ? CString(value) : CString();
+}
+
+/// What the registry needs of a template: the type's name and its file extensions. False if it has none.
+bool TypeOf(CDocTemplate const & docTemplate, CString & type, CString & extensions)
+{
+    return docTemplate.GetDocString(type, CDocTemplate::regFileTypeId) && !type.IsEmpty() &&
+           docTemplate.GetDocString(extensions, CDocTemplate::filterExt) && !extensions.IsEmpty();
+}
+} // namespace
+
+void CWinApp::RegisterShellFileTypes(BOOL bCompat)
+{
+    wchar_t program[MAX_PATH] = {};
+    ::GetModuleFileName(m_hInstance, program, MAX_PATH);
+    CString const quoted = CString(L"\"") + program + L"\"";
+    int index = 0;
+    for (POSITION at = GetFirstDocTemplatePosition(); at != nullptr; ++index)
+    {
+        CDocTemplate const & docTemplate = *GetNextDocTemplate(at);
+        CString type;
+        CString extensions;
+        if (!TypeOf(docTemplate, type, extensions))
+            continue;
+        CString name;
+        if (!docTemplate.GetDocString(name, CDocTemplate::regFileTypeName) || name.IsEmpty())
+            name = type;
+        CString icon;
+        icon.Format(L"%s,%d", program, index);
+        SetClassValue(type, name);
+        SetClassValue(type + L"\\DefaultIcon", icon);
+        SetClassValue(type + L"\\shell\\open\\command", quoted + L" \"%1\"");
+        if (bCompat)
+        {
+            SetClassValue(type + L"\\shell\\print\\command", quoted + L" /p \"%1\"");
+            SetClassValue(type + L"\\shell\\printto\\command", quoted + L" /pt \"%1\" \"%2\" \"%3\" \"%4\"");
+        }
+        int start = 0;
+        for (CString extension = extensions.Tokenize(L";", start); start >= 0;
+             extension = extensions.Tokenize(L";", start))
+        {
+            // An extension that belongs to another program stays there.
+            CString const present = ClassValue(extension);
+            if (present.IsEmpty() || present == type)
+                SetClassValue(extension, type);
+        }
+    }
+}
+
+void CWinApp::UnregisterShellFileTypes()
+{
+    for (POSITION at = GetFirstDocTemplatePosition(); at != nullptr;)
+    {
+        CString type;
+        CString extensions;
+        if (!TypeOf(*GetNextDocTemplate(at), type, extensions))
+            continue;
+        ::RegDeleteTree(HKEY_CURRENT_USER, classesKey + type);
+        int start = 0;
+        for (CString extension = extensions.Tokenize(L";", start); start >= 0;
+             extension = extensions.Tokenize(L";", start))
+        {
+            if (ClassValue(extension) == type)
+                ::RegDeleteTree(HKEY_CURRENT_USER, classesKey + extension);
+        }
     }
 }
 

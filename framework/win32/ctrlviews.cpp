@@ -75,8 +75,8 @@ namespace
 constexpr int defaultTabStops = 8 * 4; // in dialog units: eight characters
 } // namespace
 
-const DWORD CEditView::dwStyleDefault = AFX_WS_DEFAULT_VIEW | WS_HSCROLL | WS_VSCROLL | ES_AUTOHSCROLL |
-                                        ES_AUTOVSCROLL | ES_MULTILINE | ES_NOHIDESEL;
+const DWORD CEditView::dwStyleDefault =
+    AFX_WS_DEFAULT_VIEW | WS_HSCROLL | WS_VSCROLL | ES_AUTOHSCROLL | ES_AUTOVSCROLL | ES_MULTILINE | ES_NOHIDESEL;
 
 CEditView::CEditView() : CCtrlView(L"EDIT", dwStyleDefault), m_tabStops(defaultTabStops) {}
 

@@ -95,8 +95,7 @@ CString framework::FullPath(LPCTSTR name)
     DWORD const length = ::GetFullPathName(name, 0, nullptr, nullptr);
     if (length == 0)
         return name;
-    DWORD const written =
-        ::GetFullPathName(name, length, path.GetBuffer(static_cast<int>(length)), nullptr);
+    DWORD const written = ::GetFullPathName(name, length, path.GetBuffer(static_cast<int>(length)), nullptr);
     path.ReleaseBuffer(static_cast<int>(written < length ? written : 0));
     return path.IsEmpty() ? CString(name) : path;
 }
@@ -334,8 +333,8 @@ BOOL CDocument::SaveModified()
 BOOL CDocument::DoFileSave()
 {
     DWORD const attributes = m_path.IsEmpty() ? INVALID_FILE_ATTRIBUTES : ::GetFileAttributes(m_path);
-    bool const ask = attributes == INVALID_FILE_ATTRIBUTES ? m_path.IsEmpty()
-                                                           : (attributes & FILE_ATTRIBUTE_READONLY) != 0;
+    bool const ask =
+        attributes == INVALID_FILE_ATTRIBUTES ? m_path.IsEmpty() : (attributes & FILE_ATTRIBUTE_READONLY) != 0;
     CString const path = m_path;
     return DoSave(ask ? nullptr : path.GetString());
 }

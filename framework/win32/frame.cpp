@@ -137,9 +137,8 @@ BOOL CFrameWnd::Create(LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwSt
         }
     }
     m_title = lpszWindowName;
-    if (!CreateEx(dwExStyle, lpszClassName, lpszWindowName, dwStyle, rect.left, rect.top,
-                  Extent(rect.left, rect.right), Extent(rect.top, rect.bottom), framework::SafeHandle(pParentWnd), menu,
-                  pContext))
+    if (!CreateEx(dwExStyle, lpszClassName, lpszWindowName, dwStyle, rect.left, rect.top, Extent(rect.left, rect.right),
+                  Extent(rect.top, rect.bottom), framework::SafeHandle(pParentWnd), menu, pContext))
     {
         if (menu != nullptr && ::IsMenu(menu))
             ::DestroyMenu(menu);

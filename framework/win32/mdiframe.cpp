@@ -62,10 +62,9 @@ BOOL CMDIFrameWnd::CreateClient(LPCREATESTRUCT lpCreateStruct, CMenu * pWindowMe
         style |= bars;
         ModifyStyle(WS_HSCROLL | WS_VSCROLL, 0, SWP_NOREDRAW | SWP_FRAMECHANGED);
     }
-    m_hWndMDIClient =
-        ::CreateWindowEx(WS_EX_CLIENTEDGE, L"mdiclient", nullptr, style, 0, 0, 0, 0, m_hWnd,
-                         reinterpret_cast<HMENU>(static_cast<UINT_PTR>(AFX_IDW_PANE_FIRST)), AfxGetInstanceHandle(),
-                         &client);
+    m_hWndMDIClient = ::CreateWindowEx(WS_EX_CLIENTEDGE, L"mdiclient", nullptr, style, 0, 0, 0, 0, m_hWnd,
+                                       reinterpret_cast<HMENU>(static_cast<UINT_PTR>(AFX_IDW_PANE_FIRST)),
+                                       AfxGetInstanceHandle(), &client);
     if (m_hWndMDIClient == nullptr)
         return FALSE;
     ::BringWindowToTop(m_hWndMDIClient);
@@ -178,10 +177,9 @@ void CMDIFrameWnd::MDIPrev()
 
 CMenu * CMDIFrameWnd::MDISetMenu(CMenu * pFrameMenu, CMenu * pWindowMenu)
 {
-    return CMenu::FromHandle(reinterpret_cast<HMENU>(
-        ::SendMessage(m_hWndMDIClient, WM_MDISETMENU,
-                      reinterpret_cast<WPARAM>(pFrameMenu != nullptr ? pFrameMenu->m_hMenu : nullptr),
-                      reinterpret_cast<LPARAM>(pWindowMenu != nullptr ? pWindowMenu->m_hMenu : nullptr))));
+    return CMenu::FromHandle(reinterpret_cast<HMENU>(::SendMessage(
+        m_hWndMDIClient, WM_MDISETMENU, reinterpret_cast<WPARAM>(pFrameMenu != nullptr ? pFrameMenu->m_hMenu : nullptr),
+        reinterpret_cast<LPARAM>(pWindowMenu != nullptr ? pWindowMenu->m_hMenu : nullptr))));
 }
 
 HMENU CMDIFrameWnd::GetWindowMenuPopup(HMENU hMenuBar)

@@ -182,7 +182,14 @@ void CScrollView::UpdateBars()
         if (!guard.Alive())
             return;
         place = needed ? std::clamp<LONG>(place, 0, std::max(total - page, 0)) : 0;
-        EnableScrollBarCtrl(bar, needed);
+        // A bar of the window's own comes and goes; a shared one is enabled and disabled.
+        CScrollBar * const control = GetScrollBarCtrl(bar);
+        if (!needed)
+            SetScrollPos(bar, 0, FALSE);
+        if (control != nullptr)
+            control->EnableWindow(needed);
+        else if (guard.Alive())
+            ::ShowScrollBar(m_hWnd, bar, needed);
         if (!needed || !guard.Alive())
             return;
         SCROLLINFO info{};
@@ -264,7 +271,8 @@ void CScrollView::ScrollToPosition(POINT pt)
         ::SetMapMode(dc, saved);
         ::ReleaseDC(nullptr, dc);
     }
-    MoveTo(CPoint(std::clamp<LONG>(pt.x, 0, GetScrollLimit(SB_HORZ)), std::clamp<LONG>(pt.y, 0, GetScrollLimit(SB_VERT))));
+    MoveTo(
+        CPoint(std::clamp<LONG>(pt.x, 0, GetScrollLimit(SB_HORZ)), std::clamp<LONG>(pt.y, 0, GetScrollLimit(SB_VERT))));
 }
 
 void CScrollView::OnHScroll(UINT nSBCode, UINT nPos, CScrollBar * pScrollBar)
@@ -321,7 +329,7 @@ BOOL CScrollView::OnScroll(UINT nScrollCode, UINT nPos, BOOL bDoScroll)
             SCROLLINFO info{};
             info.cbSize = sizeof info;
             return GetScrollInfo(bar, &info, SIF_TRACKPOS) && info.nTrackPos != 0 ? info.nTrackPos
-                                                                                 : static_cast<int>(nPos);
+                                                                                  : static_cast<int>(nPos);
         }
         default:
             return at;
@@ -401,9 +409,9 @@ void CScrollView::ResizeParentToFit(BOOL bShrinkOnly)
     CRect inner;
     GetClientRect(&inner);
     // All that is around the view's client area stays.
-    CSize const around(outer.Width() - inner.Width() - ((GetStyle() & WS_VSCROLL) != 0 ? ::GetSystemMetrics(SM_CXVSCROLL) : 0),
-                       outer.Height() - inner.Height() -
-                           ((GetStyle() & WS_HSCROLL) != 0 ? ::GetSystemMetrics(SM_CYHSCROLL) : 0));
+    CSize const around(
+        outer.Width() - inner.Width() - ((GetStyle() & WS_VSCROLL) != 0 ? ::GetSystemMetrics(SM_CXVSCROLL) : 0),
+        outer.Height() - inner.Height() - ((GetStyle() & WS_HSCROLL) != 0 ? ::GetSystemMetrics(SM_CYHSCROLL) : 0));
     CSize wanted = m_total + around;
     if (bShrinkOnly)
     {

@@ -125,16 +125,17 @@ BOOL CSplitterWnd::OnNcCreate(LPCREATESTRUCT lpcs)
 
 BOOL CSplitterWnd::CreateScrollBarCtrl(DWORD dwStyle, UINT nID)
 {
-    HWND const bar = ::CreateWindow(L"SCROLLBAR", nullptr, dwStyle | WS_VISIBLE | WS_CHILD, 0, 0, 1, 1, m_hWnd,
-                                    reinterpret_cast<HMENU>(static_cast<UINT_PTR>(nID)), AfxGetInstanceHandle(),
-                                    nullptr);
+    HWND const bar =
+        ::CreateWindow(L"SCROLLBAR", nullptr, dwStyle | WS_VISIBLE | WS_CHILD, 0, 0, 1, 1, m_hWnd,
+                       reinterpret_cast<HMENU>(static_cast<UINT_PTR>(nID)), AfxGetInstanceHandle(), nullptr);
     return bar != nullptr;
 }
 
 BOOL CSplitterWnd::CreateView(int row, int col, CRuntimeClass * pViewClass, SIZE sizeInit, CCreateContext * pContext)
 {
     ASSERT(pViewClass != nullptr && pViewClass->IsDerivedFrom(RUNTIME_CLASS(CWnd)));
-    if (pViewClass == nullptr || row < 0 || row >= m_rows || col < 0 || col >= m_columns || GetPane(row, col) != nullptr)
+    if (pViewClass == nullptr || row < 0 || row >= m_rows || col < 0 || col >= m_columns ||
+        GetPane(row, col) != nullptr)
         return FALSE;
     m_columnLines[static_cast<size_t>(col)].ideal = sizeInit.cx;
     m_rowLines[static_cast<size_t>(row)].ideal = sizeInit.cy;

@@ -140,8 +140,7 @@ void CSplitterWnd::OnInvertTracker(const CRect & rect)
     HDC const dc = ::GetDCEx(m_hWnd, nullptr, DCX_CACHE | DCX_LOCKWINDOWUPDATE);
     if (dc == nullptr)
         return;
-    HGDIOBJ const brush =
-        ::SelectObject(dc, static_cast<HBRUSH>(CDC::GetHalftoneBrush()->GetSafeHandle()));
+    HGDIOBJ const brush = ::SelectObject(dc, static_cast<HBRUSH>(CDC::GetHalftoneBrush()->GetSafeHandle()));
     ::PatBlt(dc, rect.left, rect.top, rect.Width(), rect.Height(), PATINVERT);
     ::SelectObject(dc, brush);
     ::ReleaseDC(m_hWnd, dc);
@@ -412,7 +411,8 @@ void CSplitterWnd::ScrollPanes(bool rows, UINT code, UINT position, CScrollBar &
         CWnd * const pane = rows ? GetPane(line, other) : GetPane(other, line);
         if (pane == nullptr)
             continue;
-        pane->SendMessage(rows ? WM_VSCROLL : WM_HSCROLL, MAKEWPARAM(code, position), reinterpret_cast<LPARAM>(control));
+        pane->SendMessage(rows ? WM_VSCROLL : WM_HSCROLL, MAKEWPARAM(code, position),
+                          reinterpret_cast<LPARAM>(control));
         if (!guard.Alive() || !::IsWindow(control))
             return;
         if (other + 1 < across)

@@ -353,5 +353,9 @@ IMPLEMENT_DYNCREATE(ChaoticChild, CMDIChildWndEx)
 
 TEST(ChaosFrames, SurvivesUsersViewsAndDocumentsThatDoTheirWorst)
 {
+    // With the focus in a window that stays, so does the window that the system makes for the input method.
+    tests::ScopedWindow keeper;
+    keeper.SetFocus();
+    tests::PumpPosted();
     chaos::RunAll<World>();
 }

@@ -137,8 +137,8 @@ private:
     {
         CRuntimeClass made = *RUNTIME_CLASS(TestView);
         made.m_lpszClassName = "NumberedView";
-        made.m_pfnCreateObject = [](){ return static_cast<CObject *>(new NumberedView); };
-        made.m_pfnGetBaseClass = [](){ return RUNTIME_CLASS(TestView); };
+        made.m_pfnCreateObject = []() { return static_cast<CObject *>(new NumberedView); };
+        made.m_pfnGetBaseClass = []() { return RUNTIME_CLASS(TestView); };
         return made;
     }
 };

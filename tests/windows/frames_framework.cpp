@@ -82,7 +82,8 @@ TEST_F(Frames, MenuItemsFollowTheirHandlers)
     ASSERT_NE(New(), nullptr);
     HMENU const bar = ::GetMenu(m_main->m_hWnd);
     int test = 0;
-    while (test < ::GetMenuItemCount(bar) && ::GetMenuState(::GetSubMenu(bar, test), ID_TEST_LOST, MF_BYCOMMAND) == 0xFFFFFFFF)
+    while (test < ::GetMenuItemCount(bar) &&
+           ::GetMenuState(::GetSubMenu(bar, test), ID_TEST_LOST, MF_BYCOMMAND) == 0xFFFFFFFF)
         ++test;
     HMENU const menu = ::GetSubMenu(bar, test);
     ASSERT_NE(menu, nullptr);
@@ -305,7 +306,8 @@ TEST_F(Frames, AFrameOfOneDocumentIsReused)
     while (::PeekMessage(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE))
     {
     }
-    CSingleDocTemplate single(IDR_SINGLE, RUNTIME_CLASS(TestDocument), RUNTIME_CLASS(CFrameWnd), RUNTIME_CLASS(TestView));
+    CSingleDocTemplate single(IDR_SINGLE, RUNTIME_CLASS(TestDocument), RUNTIME_CLASS(CFrameWnd),
+                              RUNTIME_CLASS(TestView));
     CDocument * const document = single.OpenDocumentFile(nullptr);
     ASSERT_NE(document, nullptr);
     auto * const frame = static_cast<CFrameWnd *>(tests::App().m_pMainWnd);

@@ -104,14 +104,14 @@ TEST_F(StandaloneFrames, AreChildrenOfTheMainFrameWithOneView)
 
 TEST_F(StandaloneFrames, HaveAProvisionalNameUntilTheirWindowIsThere)
 {
-    std::unique_ptr<CStandaloneFrameWnd> const frame(static_cast<CStandaloneFrameWnd *>(
-        RUNTIME_CLASS(CStandaloneFrameWnd)->CreateObject()));
+    std::unique_ptr<CStandaloneFrameWnd> const frame(
+        static_cast<CStandaloneFrameWnd *>(RUNTIME_CLASS(CStandaloneFrameWnd)->CreateObject()));
     ASSERT_NE(frame, nullptr);
     EXPECT_EQ(frame->FensterManager()->WhoAmI(), L"in Vorbereitung");
     EXPECT_FALSE(frame->OpenInitially());
     EXPECT_EQ(frame->GetSplitPane(0, 0), nullptr);
-    frame->FensterWeg();           // nothing without a window
-    frame->MenueKommando(1, 2);    // nor without a user
+    frame->FensterWeg();        // nothing without a window
+    frame->MenueKommando(1, 2); // nor without a user
     EXPECT_TRUE(frame->IsKindOf(RUNTIME_CLASS(CMDIChildWndEx)));
 }
 

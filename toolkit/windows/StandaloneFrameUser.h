@@ -34,8 +34,8 @@ public:
     virtual void MenueKommando(int first, int second);
     /// For the host's own use; the toolkit doesn't call it. Does nothing by default.
     virtual void FrameEreignis(int event, unsigned long number, void const * data, wchar_t const * text);
-    /// A double click on the frame itself, with the message's flags and its point in the client area; the third argument
-    /// is -1. Does nothing by default.
+    /// A double click on the frame itself, with the message's flags and its point in the client area; the third
+    /// argument is -1. Does nothing by default.
     virtual void MausLDoppelKlick(unsigned int flags, CPoint point, int index);
     virtual void MausRDoppelKlick(unsigned int flags, CPoint point, int index);
 

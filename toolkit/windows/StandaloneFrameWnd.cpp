@@ -74,8 +74,8 @@ bool CStandaloneFrameWnd::Erzeugen(CString const & title, CRuntimeClass * viewCl
     return ShowFirstTime();
 }
 
-bool CStandaloneFrameWnd::SplitFrameErzeugen(CString const & title, unsigned long long rows,
-                                             unsigned long long columns, CRuntimeClass ** viewClasses)
+bool CStandaloneFrameWnd::SplitFrameErzeugen(CString const & title, unsigned long long rows, unsigned long long columns,
+                                             CRuntimeClass ** viewClasses)
 {
     m_split = true;
     m_rows = rows;
@@ -88,7 +88,8 @@ bool CStandaloneFrameWnd::SplitFrameErzeugen(CString const & title, unsigned lon
     delete[] m_paneClasses;
     m_paneClasses = classes;
     // The grid comes into being in OnCreateClient.
-    if (!CMDIChildWnd::Create(nullptr, title, WS_CHILD | WS_VISIBLE | WS_OVERLAPPEDWINDOW, rectDefault, nullptr, nullptr))
+    if (!CMDIChildWnd::Create(nullptr, title, WS_CHILD | WS_VISIBLE | WS_OVERLAPPEDWINDOW, rectDefault, nullptr,
+                              nullptr))
         return false;
     return ShowFirstTime();
 }

@@ -27,13 +27,13 @@ public:
     /// Creates the window with one view of that class, in that window style, and shows it. False if it failed; a window
     /// whose view could not be made stays, without one.
     bool Erzeugen(CString const & title, CRuntimeClass * viewClass, unsigned long style);
-    /// Creates the window with a grid of at most 16 rows and columns. viewClasses has one class a cell, row by row, and is
-    /// copied. False if it failed; the frame is gone then.
+    /// Creates the window with a grid of at most 16 rows and columns. viewClasses has one class a cell, row by row, and
+    /// is copied. False if it failed; the frame is gone then.
     bool SplitFrameErzeugen(CString const & title, unsigned long long rows, unsigned long long columns,
                             CRuntimeClass ** viewClasses);
 
-    /// Subscribes the user, which is told of this frame from now on and counts as having a frame at once. The pointer is
-    /// kept and not owned; it must not be null.
+    /// Subscribes the user, which is told of this frame from now on and counts as having a frame at once. The pointer
+    /// is kept and not owned; it must not be null.
     void BitteUmNachricht(CStandaloneFrameUser * user);
     /// The view in that cell; null outside the grid, in a frame without one, and for a pane that is no view.
     CView * GetSplitPane(int row, int column);

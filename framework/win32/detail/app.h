@@ -115,6 +115,12 @@ public:
     virtual BOOL SaveAllModified();
     virtual CDocument * OpenDocumentFile(LPCTSTR lpszFileName, BOOL bAddToMRU = TRUE);
     virtual void AddToRecentFileList(LPCTSTR lpszPathName);
+    /// Files that the shell opens come on the command line; conversations with a running program (DDE) are not offered,
+    /// so there is nothing to prepare.
+    void EnableShellOpen();
+    /// Makes the program the one that opens its templates' files, for the present user. bCompat: for printing, too.
+    void RegisterShellFileTypes(BOOL bCompat = FALSE);
+    void UnregisterShellFileTypes();
     virtual BOOL Register();
     virtual BOOL Unregister();
     virtual void WinHelp(DWORD_PTR dwData, UINT nCmd = HELP_CONTEXT);

@@ -13,6 +13,6 @@ struct CCreateContext
     CRuntimeClass * m_pNewViewClass = nullptr;
     CDocument * m_pCurrentDoc = nullptr;
     CDocTemplate * m_pNewDocTemplate = nullptr;
-    CView * m_pLastView = nullptr;        // the view that the new one is modelled after
+    CView * m_pLastView = nullptr;         // the view that the new one is modelled after
     CFrameWnd * m_pCurrentFrame = nullptr; // the frame that the new one is modelled after
 };
