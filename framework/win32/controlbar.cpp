@@ -59,6 +59,7 @@ CControlBar::CControlBar()
       m_borders(6, 1, 6, 1),
       m_sizeShown(0, 0),
       m_count(0),
+      m_alive(nullptr),
       m_delay(Delay::None),
       m_flyBy(-1),
       m_flyByWaiting(false)
@@ -67,6 +68,8 @@ CControlBar::CControlBar()
 
 CControlBar::~CControlBar()
 {
+    if (m_alive != nullptr)
+        *m_alive = false;
     DestroyWindow();
 }
 
@@ -95,6 +98,18 @@ BOOL CControlBar::PreCreateWindow(CREATESTRUCT & cs)
         return FALSE;
     cs.style |= WS_CLIPSIBLINGS;
     return TRUE;
+}
+
+bool CControlBar::CreateNative(LPCTSTR className, DWORD style, CWnd * parent, UINT id)
+{
+    bool alive = true;
+    m_alive = &alive;
+    SetOwner(parent);
+    BOOL const created = CWnd::Create(className, nullptr, style, CRect(0, 0, 0, 0), parent, id);
+    if (!alive)
+        return false;
+    m_alive = nullptr;
+    return created && m_hWnd != nullptr;
 }
 
 DWORD CControlBar::TakeStyles(DWORD dwStyle, UINT nID)
@@ -417,7 +432,10 @@ void CControlBar::DoPaint(CDC * pDC)
 
 void CControlBar::OnSize(UINT nType, int cx, int cy)
 {
+    WindowGuard const guard(this);
     CWnd::OnSize(nType, cx, cy);
+    if (!guard.Alive())
+        return;
     // The borders at the far sides, where they were and where they are; all else stays as it is painted.
     CSize const border = BorderSize();
     auto const invalidate = [this, border](CSize size) {

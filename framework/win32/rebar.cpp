@@ -35,9 +35,8 @@ BOOL CReBar::Create(CWnd * pParentWnd, DWORD dwCtrlStyle, DWORD dwStyle, UINT nI
 {
     ASSERT(pParentWnd != nullptr && (dwStyle & WS_CHILD) != 0);
     DWORD const style = TakeStyles(dwStyle, nID) | dwCtrlStyle | RBS_VARHEIGHT;
-    SetOwner(pParentWnd);
     framework::LoadControlClasses(ICC_COOL_CLASSES);
-    return CWnd::Create(REBARCLASSNAME, nullptr, style, CRect(0, 0, 0, 0), pParentWnd, nID);
+    return CreateNative(REBARCLASSNAME, style, pParentWnd, nID);
 }
 
 CReBarCtrl & CReBar::GetReBarCtrl() const

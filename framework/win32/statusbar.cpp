@@ -123,9 +123,8 @@ BOOL CStatusBar::CreateEx(CWnd * pParentWnd, DWORD dwCtrlStyle, DWORD dwStyle, U
     DWORD style = TakeStyles(dwStyle, nID) | dwCtrlStyle;
     if ((pParentWnd->GetStyle() & WS_THICKFRAME) != 0)
         style |= SBARS_SIZEGRIP;
-    SetOwner(pParentWnd);
     framework::LoadControlClasses(ICC_BAR_CLASSES);
-    return CWnd::Create(STATUSCLASSNAME, nullptr, style, CRect(0, 0, 0, 0), pParentWnd, nID);
+    return CreateNative(STATUSCLASSNAME, style, pParentWnd, nID);
 }
 
 CStatusBarCtrl & CStatusBar::GetStatusBarCtrl() const
@@ -164,9 +163,12 @@ BOOL CStatusBar::SetIndicators(const UINT * lpIDArray, int nIDCount)
         return FALSE;
     m_panes.Copy(panes);
     m_count = nIDCount;
+    // What the control is given it may paint at once, and a window that is painted may be ended.
+    WindowGuard const guard(this);
     UpdateParts();
-    UpdateTexts();
-    return TRUE;
+    if (guard.Alive())
+        UpdateTexts();
+    return guard.Alive();
 }
 
 void CStatusBar::UpdateParts()
@@ -223,13 +225,14 @@ void CStatusBar::ShowText(int index)
     Pane & pane = m_panes[index];
     pane.stale = false;
     bool const shown = (pane.style & (SBPS_DISABLED | SBPS_OWNERDRAW)) == 0;
-    LPCTSTR const text = shown ? pane.text.GetString() : L"";
-    Send(m_hWnd, SB_SETTEXT, static_cast<UINT>(index) | (pane.style & nativeStyles), text);
+    CString const text = shown ? pane.text : CString();
+    Send(m_hWnd, SB_SETTEXT, static_cast<UINT>(index) | (pane.style & nativeStyles), text.GetString());
 }
 
 void CStatusBar::UpdateTexts()
 {
-    for (int at = 0; at < static_cast<int>(m_panes.GetSize()); ++at)
+    WindowGuard const guard(this);
+    for (int at = 0; guard.Alive() && at < static_cast<int>(m_panes.GetSize()); ++at)
     {
         if (m_panes[at].stale)
             ShowText(at);
@@ -269,9 +272,11 @@ void CStatusBar::SetPaneStyle(int nIndex, UINT nStyle)
         return;
     bool const layout = ((pane.style ^ nStyle) & SBPS_STRETCH) != 0;
     pane.style = nStyle;
+    WindowGuard const guard(this);
     if (layout)
         UpdateParts();
-    ShowText(nIndex);
+    if (guard.Alive() && nIndex < m_panes.GetSize())
+        ShowText(nIndex);
 }
 
 void CStatusBar::GetPaneInfo(int nIndex, UINT & nID, UINT & nStyle, int & cxWidth) const
@@ -288,8 +293,9 @@ void CStatusBar::SetPaneInfo(int nIndex, UINT nID, UINT nStyle, int cxWidth)
     pane.id = nID;
     bool const layout = pane.width != cxWidth;
     pane.width = cxWidth;
+    WindowGuard const guard(this);
     SetPaneStyle(nIndex, nStyle);
-    if (layout)
+    if (layout && guard.Alive())
         UpdateParts();
 }
 
@@ -354,7 +360,7 @@ void CStatusBar::OnUpdateCmdUI(CFrameWnd * pTarget, BOOL bDisableIfNoHndler)
     if (!guard.Alive())
         return;
     UpdateTexts();
-    if (target.Alive())
+    if (guard.Alive() && target.Alive())
         UpdateDialogControls(pTarget, bDisableIfNoHndler);
 }
 
@@ -383,14 +389,18 @@ void CStatusBar::OnNcPaint()
 
 void CStatusBar::OnPaint()
 {
+    WindowGuard const guard(this);
     UpdateTexts();
-    Default();
+    if (guard.Alive())
+        Default();
 }
 
 void CStatusBar::OnSize(UINT nType, int cx, int cy)
 {
+    WindowGuard const guard(this);
     CWnd::OnSize(nType, cx, cy);
-    UpdateParts();
+    if (guard.Alive())
+        UpdateParts();
 }
 
 LRESULT CStatusBar::HandleSetText(WPARAM, LPARAM lParam)
@@ -421,8 +431,10 @@ LRESULT CStatusBar::HandleGetTextLength(WPARAM, LPARAM)
 LRESULT CStatusBar::HandleSetFont(WPARAM, LPARAM)
 {
     // Panes are as wide as their texts in the font that they were made with; the program gives them other widths.
+    WindowGuard const guard(this);
     LRESULT const result = Default();
-    UpdateParts();
+    if (guard.Alive())
+        UpdateParts();
     return result;
 }
 

@@ -244,9 +244,8 @@ BOOL CToolBar::CreateEx(CWnd * pParentWnd, DWORD dwCtrlStyle, DWORD dwStyle, CRe
     ASSERT(pParentWnd != nullptr && (dwStyle & WS_CHILD) != 0);
     SetBorders(rcBorders);
     DWORD const style = TakeStyles(dwStyle, nID) | dwCtrlStyle;
-    SetOwner(pParentWnd);
     framework::LoadControlClasses(ICC_BAR_CLASSES);
-    if (!CWnd::Create(TOOLBARCLASSNAME, nullptr, style, CRect(0, 0, 0, 0), pParentWnd, nID))
+    if (!CreateNative(TOOLBARCLASSNAME, style, pParentWnd, nID))
         return FALSE;
     Send(m_hWnd, TB_BUTTONSTRUCTSIZE, sizeof(TBBUTTON));
     SetSizes(m_sizeButton, m_sizeImage);

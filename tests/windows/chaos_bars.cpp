@@ -5,6 +5,7 @@
 
 #include <afxcmn.h>
 #include <afxext.h>
+#include <afxpriv.h>
 
 #include <vector>
 
@@ -43,9 +44,8 @@ public:
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
-        // The control's own messages are questions, in the middle of the bar's work.
-        bool const quiet = message >= WM_USER || message == WM_NCDESTROY || message == WM_NCCREATE ||
-                           message == WM_CREATE || message == WM_GETFONT;
+        // What the framework asks of a bar. Native controls don't survive their end within messages of their own.
+        bool const quiet = message != WM_SIZEPARENT && message != WM_IDLEUPDATECMDUI && message != WM_SETTEXT;
         HWND const window = this->m_hWnd;
         if (!quiet)
             DisturbTheWorld();
@@ -227,9 +227,11 @@ private:
             auto * const bar = new Chaotic<CReBar>;
             if (!bar->Create(m_frame, RBS_BANDBORDERS, style, id))
                 break;
-            CEdit edit;
-            edit.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 50, 20), m_frame, 5);
-            bar->AddBar(CWnd::FromHandle(edit.Detach()));
+            HWND const window = bar->m_hWnd;
+            HWND const edit = ::CreateWindow(L"EDIT", L"", WS_CHILD | WS_VISIBLE, 0, 0, 50, 20, m_frame->m_hWnd,
+                                             reinterpret_cast<HMENU>(5), nullptr, nullptr);
+            if (::IsWindow(window) && ::IsWindow(edit))
+                bar->AddBar(CWnd::FromHandle(edit));
             break;
         }
         }

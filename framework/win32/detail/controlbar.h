@@ -115,6 +115,8 @@ private:
 
     /// Puts the contents so as the mode wants it, before the bar is asked for its size in that mode.
     virtual void Arrange(DWORD mode);
+    /// Makes the window of a native control. False if the bar has been ended meanwhile, perhaps with its object.
+    bool CreateNative(LPCTSTR className, DWORD style, CWnd * parent, UINT id);
     DWORD TakeStyles(DWORD dwStyle, UINT nID);
     bool IsHorizontal() const { return (m_style & CBRS_ORIENT_HORZ) != 0; }
     bool IsToBeVisible() const;
@@ -138,6 +140,7 @@ private:
     CRect m_borders;   // the space around its contents, beside the borders that are drawn
     CSize m_sizeShown; // the client area's, as it was painted
     int m_count;
+    bool * m_alive;      // while its window is made: whether the object is there
     Delay m_delay;       // what the next layout is to do
     INT_PTR m_flyBy;     // whose message the frame shows, or -1
     bool m_flyByWaiting; // for the mouse to rest
