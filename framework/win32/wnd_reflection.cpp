@@ -35,9 +35,10 @@ BOOL CWnd::OnCommand(WPARAM wParam, LPARAM lParam)
             return FALSE;
         EnabledTest test;
         test.m_nID = id;
+        HWND const handle = m_hWnd;
         OnCmdMsg(id, static_cast<int>(CN_UPDATE_COMMAND_UI), &test, nullptr);
-        if (!test.m_enabled)
-            return TRUE;
+        if (!test.m_enabled || FromHandlePermanent(handle) != this)
+            return TRUE; // not to be done, or the handler has ended the window
         return OnCmdMsg(id, CN_COMMAND, nullptr, nullptr);
     }
     if (framework::CurrentThreadState().lockedOut == m_hWnd || ReflectLastMsg(control))
