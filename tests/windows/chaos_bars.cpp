@@ -13,6 +13,7 @@ namespace
 {
 class World;
 World * g_world = nullptr;
+int g_insideControls = 0; // a native control notifies, and wouldn't survive its end
 
 void DisturbTheWorld();
 
@@ -42,6 +43,13 @@ public:
     }
 
 protected:
+    BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT * pResult) override
+    {
+        ++g_insideControls;
+        BOOL const taken = Base::OnChildNotify(message, wParam, lParam, pResult);
+        --g_insideControls;
+        return taken;
+    }
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
         // What the framework asks of a bar. Native controls don't survive their end within messages of their own.
@@ -244,7 +252,7 @@ private:
 
 void DisturbTheWorld()
 {
-    if (g_world != nullptr && !g_world->Ending())
+    if (g_world != nullptr && !g_world->Ending() && g_insideControls == 0)
         g_world->Disturb();
 }
 
