@@ -2,6 +2,8 @@
 
 #include "bars_BarTest.h"
 
+#include "GuardedHeap.h"
+
 namespace
 {
 using Ids = std::vector<UINT>;
@@ -297,6 +299,18 @@ TEST_F(ToolBars, FrameDestroyedInAnUpdateEndsTheUpdate)
     m_frame->m_updates[ID_TOOL_B] = [&](CCmdUI *) { ::DestroyWindow(window); };
     tests::App().OnIdle(0);
     EXPECT_FALSE(::IsWindow(window));
+}
+
+TEST(ToolBarEnds, CommandWhoseUpdateEndsTheFrameIsNotCarriedOut)
+{
+    tests::GuardedHeap heap; // a fault ends the program
+    auto * const frame = new bars::BarFrame;
+    ASSERT_TRUE(frame->CreateFrame(CRect(60, 60, 260, 260)));
+    HWND const window = frame->m_hWnd;
+    frame->m_updates[ID_TOOL_A] = [window](CCmdUI *) { ::DestroyWindow(window); };
+    ::SendMessage(window, WM_COMMAND, ID_TOOL_A, 0);
+    EXPECT_FALSE(::IsWindow(window));
+    EXPECT_EQ(heap.Check(), 0u);
 }
 
 TEST_F(ToolBars, TipIsTheSecondLineOfTheCommandsString)
