@@ -51,7 +51,7 @@ void CStartGroup::Show(workbench::Settings const & settings)
         folders.emplace_back(folder.wstring().c_str());
     }
     m_folders.FillItems(folders, 0, true);
-    m_newFolder.SetWindowText(L"");
+    m_newFolder.SetWindowText(CString());
     EnableButtons();
 }
 
@@ -92,7 +92,7 @@ void CStartGroup::OnAddFolder()
     }
     auto const present = m_folders.FindStringExact(-1, folder);
     m_folders.SetCurSel(present != LB_ERR ? present : m_folders.AddItem(folder, m_folders.GetCount()));
-    m_newFolder.SetWindowText(L"");
+    m_newFolder.SetWindowText(CString());
     m_newFolder.SetFocus();
     EnableButtons();
     Changed();
