@@ -120,8 +120,7 @@ bool StoreSettings(Settings const & settings)
            WriteText(c_gridColour, ColourText(settings.waveform.grid)) &&
            WriteText(c_cursorColour, ColourText(settings.waveform.cursor)) &&
            StoreAmplification(settings.amplification) &&
-           WriteText(c_hiddenColumns, NumberText(settings.hiddenColumns)) &&
-           StoreFolderPane(settings) &&
+           WriteText(c_hiddenColumns, NumberText(settings.hiddenColumns)) && StoreFolderPane(settings) &&
            WriteText(c_exportFile, settings.exportFile.wstring()) &&
            WriteText(c_exportHidden, NumberText(settings.exportHidden)) &&
            app.WriteProfileInt(c_section, c_exportLines, settings.exportLines);

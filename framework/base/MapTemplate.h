@@ -219,8 +219,8 @@ struct StringKeys
 
 template <class KEY, class VALUE> using PlainMap = MapStorage<KEY, KEY, VALUE, VALUE, PlainKeys<KEY>>;
 
-template <class VALUE, class ARG_VALUE>
-class StringMap : public MapStorage<CString, LPCTSTR, VALUE, ARG_VALUE, StringKeys>
+template <class VALUE, class ARG_VALUE> class StringMap
+    : public MapStorage<CString, LPCTSTR, VALUE, ARG_VALUE, StringKeys>
 {
 public:
     UINT HashKey(LPCTSTR key) const { return StringKeys::Hash(key); }

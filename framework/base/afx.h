@@ -50,8 +50,7 @@ template <class... Arguments> void Trace(wchar_t const * format, Arguments const
     TraceText(text.GetString());
 }
 
-template <class Char, class... Arguments>
-void Trace(DWORD, UINT, Char const * format, Arguments const &... arguments)
+template <class Char, class... Arguments> void Trace(DWORD, UINT, Char const * format, Arguments const &... arguments)
 {
     Trace(format, arguments...);
 }
@@ -141,7 +140,7 @@ private:
     CRuntimeClass const * m_class;
 };
 
-FRAMEWORK_API void AFXAPI AfxDoForAllClasses(void (AFX_CDECL * pfn)(CRuntimeClass const * pClass, void * pContext),
+FRAMEWORK_API void AFXAPI AfxDoForAllClasses(void(AFX_CDECL * pfn)(CRuntimeClass const * pClass, void * pContext),
                                              void * pContext);
 FRAMEWORK_API CObject * AFX_CDECL AfxDynamicDownCast(CRuntimeClass * pClass, CObject * pObject);
 FRAMEWORK_API CObject * AFX_CDECL AfxStaticDownCast(CRuntimeClass * pClass, CObject * pObject);
@@ -197,8 +196,8 @@ private:
     {                                                                                                                  \
         return RUNTIME_CLASS(base_class_name);                                                                         \
     }                                                                                                                  \
-    constinit const CRuntimeClass class_name::class##class_name = {                                                    \
-        #class_name, sizeof(class class_name), wSchema, pfnNew, &class_name::_GetBaseClass, nullptr};                  \
+    constinit const CRuntimeClass class_name::class##class_name = {#class_name, sizeof(class class_name),   wSchema,   \
+                                                                   pfnNew,      &class_name::_GetBaseClass, nullptr};  \
     CRuntimeClass * PASCAL class_name::GetThisClass()                                                                  \
     {                                                                                                                  \
         return const_cast<CRuntimeClass *>(&class_name::class##class_name);                                            \
@@ -219,8 +218,8 @@ private:
     }                                                                                                                  \
     IMPLEMENT_RUNTIMECLASS(class_name, base_class_name, 0xFFFF, &class_name::CreateObject)
 
-// A class whose objects archives create by themselves. A schema with VERSIONABLE_SCHEMA accepts others: Serialize asks for
-// the archive's by GetObjectSchema.
+// A class whose objects archives create by themselves. A schema with VERSIONABLE_SCHEMA accepts others: Serialize asks
+// for the archive's by GetObjectSchema.
 #define VERSIONABLE_SCHEMA (0x80000000U)
 
 #define DECLARE_SERIAL(class_name)                                                                                     \

@@ -1,6 +1,6 @@
 #pragma once
-// The collections of fixed element types. An archive holds the number of the elements, then each; loading replaces what an
-// array has and adds to lists and maps.
+// The collections of fixed element types. An archive holds the number of the elements, then each; loading replaces what
+// an array has and adds to lists and maps.
 
 #define __AFXCOLL_H__
 

@@ -78,8 +78,7 @@ template <class KEY, class ARG_KEY> struct TemplateKeys
 };
 } // namespace framework
 
-template <class TYPE, class ARG_TYPE = TYPE const &>
-class CArray : public framework::ArrayStorage<TYPE, ARG_TYPE>
+template <class TYPE, class ARG_TYPE = TYPE const &> class CArray : public framework::ArrayStorage<TYPE, ARG_TYPE>
 {
     using Base = framework::ArrayStorage<TYPE, ARG_TYPE>;
 
@@ -164,8 +163,8 @@ public:
     }
 };
 
-template <class KEY, class ARG_KEY = KEY const &, class VALUE = KEY, class ARG_VALUE = VALUE const &>
-class CMap : public framework::MapStorage<KEY, ARG_KEY, VALUE, ARG_VALUE, framework::TemplateKeys<KEY, ARG_KEY>>
+template <class KEY, class ARG_KEY = KEY const &, class VALUE = KEY, class ARG_VALUE = VALUE const &> class CMap
+    : public framework::MapStorage<KEY, ARG_KEY, VALUE, ARG_VALUE, framework::TemplateKeys<KEY, ARG_KEY>>
 {
 public:
     explicit CMap(INT_PTR = 10) {}
@@ -219,8 +218,8 @@ template <class TYPE> bool IsOfKind(void const *)
 }
 } // namespace framework
 
-// The typed collections of objects, when loaded, take no object of another class: the archive ends with badClass then, and
-// the collection is empty.
+// The typed collections of objects, when loaded, take no object of another class: the archive ends with badClass then,
+// and the collection is empty.
 
 template <class BASE_CLASS, class TYPE> class CTypedPtrArray : public BASE_CLASS
 {

@@ -104,45 +104,25 @@ IMPLEMENT_DYNAMIC(CMapStringToPtr, CObject)
 IMPLEMENT_SERIAL_COLLECTION(CMapStringToOb)
 IMPLEMENT_SERIAL_COLLECTION(CMapStringToString)
 
-CPtrList::CPtrList(INT_PTR)
-{
-}
+CPtrList::CPtrList(INT_PTR) {}
 
-CObList::CObList(INT_PTR)
-{
-}
+CObList::CObList(INT_PTR) {}
 
-CStringList::CStringList(INT_PTR)
-{
-}
+CStringList::CStringList(INT_PTR) {}
 
-CMapWordToPtr::CMapWordToPtr(INT_PTR)
-{
-}
+CMapWordToPtr::CMapWordToPtr(INT_PTR) {}
 
-CMapPtrToWord::CMapPtrToWord(INT_PTR)
-{
-}
+CMapPtrToWord::CMapPtrToWord(INT_PTR) {}
 
-CMapPtrToPtr::CMapPtrToPtr(INT_PTR)
-{
-}
+CMapPtrToPtr::CMapPtrToPtr(INT_PTR) {}
 
-CMapWordToOb::CMapWordToOb(INT_PTR)
-{
-}
+CMapWordToOb::CMapWordToOb(INT_PTR) {}
 
-CMapStringToPtr::CMapStringToPtr(INT_PTR)
-{
-}
+CMapStringToPtr::CMapStringToPtr(INT_PTR) {}
 
-CMapStringToOb::CMapStringToOb(INT_PTR)
-{
-}
+CMapStringToOb::CMapStringToOb(INT_PTR) {}
 
-CMapStringToString::CMapStringToString(INT_PTR)
-{
-}
+CMapStringToString::CMapStringToString(INT_PTR) {}
 
 void CByteArray::Serialize(CArchive & ar)
 {

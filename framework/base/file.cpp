@@ -33,21 +33,13 @@ void Tell(CFileException * error, int cause, LONG osError, LPCTSTR path)
 }
 } // namespace
 
-CFile::CFile() : m_hFile(hFileNull)
-{
-}
+CFile::CFile() : m_hFile(hFileNull) {}
 
-CFile::CFile(CAtlTransactionManager * pTM) : m_hFile(hFileNull), m_pTM(pTM)
-{
-}
+CFile::CFile(CAtlTransactionManager * pTM) : m_hFile(hFileNull), m_pTM(pTM) {}
 
-CFile::CFile(HANDLE hFile) : m_hFile(hFile)
-{
-}
+CFile::CFile(HANDLE hFile) : m_hFile(hFile) {}
 
-CFile::CFile(LPCTSTR lpszFileName, UINT nOpenFlags) : CFile(lpszFileName, nOpenFlags, nullptr)
-{
-}
+CFile::CFile(LPCTSTR lpszFileName, UINT nOpenFlags) : CFile(lpszFileName, nOpenFlags, nullptr) {}
 
 CFile::CFile(LPCTSTR lpszFileName, UINT nOpenFlags, CAtlTransactionManager * pTM) : m_hFile(hFileNull), m_pTM(pTM)
 {

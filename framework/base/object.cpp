@@ -58,13 +58,9 @@ BOOL CObject::IsSerializable() const
     return GetRuntimeClass()->m_wSchema != 0xFFFF;
 }
 
-void CObject::Serialize(CArchive &)
-{
-}
+void CObject::Serialize(CArchive &) {}
 
-void CObject::AssertValid() const
-{
-}
+void CObject::AssertValid() const {}
 
 void CObject::Dump(CDumpContext & dc) const
 {
@@ -91,9 +87,7 @@ void PASCAL CObject::operator delete(void * p)
     std::free(p);
 }
 
-void PASCAL CObject::operator delete(void *, void *)
-{
-}
+void PASCAL CObject::operator delete(void *, void *) {}
 
 void PASCAL CObject::operator delete(void * p, LPCSTR, int)
 {
@@ -170,7 +164,7 @@ AFX_CLASSINIT::~AFX_CLASSINIT()
     }
 }
 
-void AFXAPI AfxDoForAllClasses(void (AFX_CDECL * pfn)(CRuntimeClass const * pClass, void * pContext), void * pContext)
+void AFXAPI AfxDoForAllClasses(void(AFX_CDECL * pfn)(CRuntimeClass const * pClass, void * pContext), void * pContext)
 {
     // The function may load a module or look up a class, so it is called without the lock.
     std::vector<CRuntimeClass const *> classes;

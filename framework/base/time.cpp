@@ -279,9 +279,7 @@ CTime::CTime(WORD wDosDate, WORD wDosTime, int nDST)
 }
 
 CTime::CTime(SYSTEMTIME const & st, int nDST)
-    : m_time(st.wYear < 1900
-                 ? 0
-                 : FromLocal(st.wYear, st.wMonth, st.wDay, st.wHour, st.wMinute, st.wSecond, nDST))
+    : m_time(st.wYear < 1900 ? 0 : FromLocal(st.wYear, st.wMonth, st.wDay, st.wHour, st.wMinute, st.wSecond, nDST))
 {
 }
 

@@ -38,9 +38,7 @@ BOOL CHeaderCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, RECT const & rect, CW
                                       pParentWnd, nID);
 }
 
-void CHeaderCtrl::DrawItem(LPDRAWITEMSTRUCT)
-{
-}
+void CHeaderCtrl::DrawItem(LPDRAWITEMSTRUCT) {}
 
 BOOL CHeaderCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT * pResult)
 {
@@ -61,8 +59,7 @@ CListCtrl::~CListCtrl()
 
 BOOL CListCtrl::Create(DWORD dwStyle, RECT const & rect, CWnd * pParentWnd, UINT nID)
 {
-    return framework::CreateControl(*this, ICC_LISTVIEW_CLASSES, WC_LISTVIEW, nullptr, dwStyle, rect, pParentWnd,
-                                    nID);
+    return framework::CreateControl(*this, ICC_LISTVIEW_CLASSES, WC_LISTVIEW, nullptr, dwStyle, rect, pParentWnd, nID);
 }
 
 BOOL CListCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, RECT const & rect, CWnd * pParentWnd, UINT nID)
@@ -123,8 +120,7 @@ CString CListCtrl::GetEmptyText() const
 
 CSize CListCtrl::ApproximateViewRect(CSize sz, int iCount) const
 {
-    return framework::SizeOf(
-        framework::Send<DWORD>(m_hWnd, LVM_APPROXIMATEVIEWRECT, iCount, MAKELPARAM(sz.cx, sz.cy)));
+    return framework::SizeOf(framework::Send<DWORD>(m_hWnd, LVM_APPROXIMATEVIEWRECT, iCount, MAKELPARAM(sz.cx, sz.cy)));
 }
 
 UINT CListCtrl::GetNumberOfWorkAreas() const
@@ -134,14 +130,14 @@ UINT CListCtrl::GetNumberOfWorkAreas() const
     return count;
 }
 
-BOOL CListCtrl::SetItem(int nItem, int nSubItem, UINT nMask, LPCTSTR lpszItem, int nImage, UINT nState,
-                        UINT nStateMask, LPARAM lParam)
+BOOL CListCtrl::SetItem(int nItem, int nSubItem, UINT nMask, LPCTSTR lpszItem, int nImage, UINT nState, UINT nStateMask,
+                        LPARAM lParam)
 {
     return SetItem(nItem, nSubItem, nMask, lpszItem, nImage, nState, nStateMask, lParam, 0);
 }
 
-BOOL CListCtrl::SetItem(int nItem, int nSubItem, UINT nMask, LPCTSTR lpszItem, int nImage, UINT nState,
-                        UINT nStateMask, LPARAM lParam, int nIndent)
+BOOL CListCtrl::SetItem(int nItem, int nSubItem, UINT nMask, LPCTSTR lpszItem, int nImage, UINT nState, UINT nStateMask,
+                        LPARAM lParam, int nIndent)
 {
     LVITEM item{};
     item.mask = nMask;
@@ -185,9 +181,8 @@ BOOL CListCtrl::SetItemIndexState(PLVITEMINDEX pItemIndex, DWORD dwState, DWORD 
 
 CString CListCtrl::GetItemText(int nItem, int nSubItem) const
 {
-    return framework::CollectText([this, nItem, nSubItem](LPTSTR buffer, int size) {
-        return GetItemText(nItem, nSubItem, buffer, size) > 0;
-    });
+    return framework::CollectText(
+        [this, nItem, nSubItem](LPTSTR buffer, int size) { return GetItemText(nItem, nSubItem, buffer, size) > 0; });
 }
 
 int CListCtrl::GetItemText(int nItem, int nSubItem, LPTSTR lpszText, int nLen) const
@@ -333,9 +328,7 @@ BOOL CListCtrl::GetGroupRect(int iGroupId, LPRECT lpRect, int iCoords) const
     return framework::Send<BOOL>(m_hWnd, LVM_GETGROUPRECT, iGroupId, lpRect);
 }
 
-void CListCtrl::DrawItem(LPDRAWITEMSTRUCT)
-{
-}
+void CListCtrl::DrawItem(LPDRAWITEMSTRUCT) {}
 
 BOOL CListCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT * pResult)
 {

@@ -200,7 +200,8 @@ StoredDialog ParseDialogTemplate(Bytes const & bytes)
 
 // Windows searches by the thread's interface language, older systems and Wine by the thread's locale.
 ScopedLanguage::ScopedLanguage(WORD language)
-    : m_formerLocale(GetThreadLocale()), m_formerLanguage(GetThreadUILanguage())
+    : m_formerLocale(GetThreadLocale()),
+      m_formerLanguage(GetThreadUILanguage())
 {
     SetThreadLocale(MAKELCID(language, SORT_DEFAULT));
     SetThreadUILanguage(language);

@@ -478,10 +478,10 @@ TEST_F(BrowseEditTest, NullTextsCountAsEmpty)
 TEST_F(BrowseEditTest, TheFieldMayEndWhileItsButtonIsLaidOut)
 {
     using Field = controls::Watched<CXEditBrowseCtrl>;
-    for (auto const prepare :
-         {+[](Field & field) { field.PrepareFileOpenBrowser(L"", L"", L""); },
-          +[](Field & field) { field.PrepareFileSaveAsBrowser(L"", L"", L""); },
-          +[](Field & field) { field.PrepareIdNameBrowser(); }, +[](Field & field) { field.PrepareLongIdNameBrowser(); }})
+    for (auto const prepare : {+[](Field & field) { field.PrepareFileOpenBrowser(L"", L"", L""); },
+                               +[](Field & field) { field.PrepareFileSaveAsBrowser(L"", L"", L""); },
+                               +[](Field & field) { field.PrepareIdNameBrowser(); },
+                               +[](Field & field) { field.PrepareLongIdNameBrowser(); }})
     {
         tests::GuardedHeap heap;
         auto field = std::make_unique<Field>();

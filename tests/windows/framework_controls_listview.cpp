@@ -59,8 +59,7 @@ int CALLBACK ByData(LPARAM first, LPARAM second, LPARAM direction)
 int CALLBACK ByText(LPARAM first, LPARAM second, LPARAM list)
 {
     auto const & control = *reinterpret_cast<CListCtrl const *>(list);
-    return control.GetItemText(static_cast<int>(first), 1)
-        .Compare(control.GetItemText(static_cast<int>(second), 1));
+    return control.GetItemText(static_cast<int>(first), 1).Compare(control.GetItemText(static_cast<int>(second), 1));
 }
 
 class ListViewTest : public testing::Test

@@ -65,8 +65,8 @@ public:
     void ShowControlBar(CControlBar * pBar, BOOL bShow, BOOL bDelay);
     /// The sides that bars may be docked at.
     void EnableDocking(DWORD dwDockStyle);
-    /// Moves a bar to the side of the identifier (AFX_IDW_DOCKBAR_...), or to the one of its style, after the bars that are
-    /// there.
+    /// Moves a bar to the side of the identifier (AFX_IDW_DOCKBAR_...), or to the one of its style, after the bars that
+    /// are there.
     void DockControlBar(CControlBar * pBar, UINT nDockBarID = 0, LPCRECT lpRect = nullptr);
     /// Keeps in the application's profile which bars are visible and at which side, and brings that back.
     void SaveBarState(LPCTSTR lpszProfileName) const;
