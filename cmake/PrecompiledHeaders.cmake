@@ -1,0 +1,32 @@
+# Headers that nearly every source reads, compiled once. Every header still includes what it needs: the installed ones
+# are compiled alone without this, and so is everything where INSTRUMENT_UI_PRECOMPILE is off (the preset windows-traps).
+option(INSTRUMENT_UI_PRECOMPILE "Compile common headers once (gcc and clang)" ON)
+
+set(common_headers <afxcmn.h> <afxdlgs.h> <algorithm> <array> <functional> <map> <memory> <optional> <string> <vector>)
+
+# gcc no longer knows then that a warning's place is in a system header, and warns falsely of strings' bytes.
+set(precompiled_options -Wno-array-bounds -Wno-stringop-overflow -Wno-stringop-overread -Wno-restrict)
+
+# precompile(target): for sources of the module and its programs. precompile(target TESTS): with GoogleTest besides.
+# The first target of a kind compiles the headers and the others of that kind share them.
+function(precompile target)
+    if(NOT INSTRUMENT_UI_PRECOMPILE OR NOT WIN32 OR MSVC)
+        return()
+    endif()
+    set(kind "${ARGV1}")
+    set(owner precompiled_headers${kind})
+    if(NOT TARGET ${owner})
+        set(source "${PROJECT_BINARY_DIR}/${owner}.cpp")
+        file(CONFIGURE OUTPUT "${source}" CONTENT "// Nothing but the precompiled headers.\n")
+        add_library(${owner} OBJECT "${source}")
+        target_link_libraries(${owner} PRIVATE framework project_settings)
+        set(headers ${common_headers})
+        if(kind STREQUAL "TESTS")
+            target_link_libraries(${owner} PRIVATE gtest)
+            list(APPEND headers <gtest/gtest.h>)
+        endif()
+        target_precompile_headers(${owner} PRIVATE ${headers})
+    endif()
+    target_precompile_headers(${target} REUSE_FROM ${owner})
+    target_compile_options(${target} PRIVATE ${precompiled_options})
+endfunction()
