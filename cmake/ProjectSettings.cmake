@@ -10,8 +10,9 @@ set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/lib")
 
 find_program(CCACHE ccache)
 if(CCACHE)
-    # What makes ccache keep objects that were compiled with precompiled headers.
-    set(CMAKE_CXX_COMPILER_LAUNCHER "${CMAKE_COMMAND}" -E env CCACHE_SLOPPINESS=pch_defines,time_macros "${CCACHE}")
+    # What makes ccache keep objects that were compiled with precompiled headers, which it reads only once then.
+    set(CMAKE_CXX_COMPILER_LAUNCHER "${CMAKE_COMMAND}" -E env CCACHE_SLOPPINESS=pch_defines,time_macros
+        CCACHE_INODECACHE=1 "${CCACHE}")
     set(CMAKE_C_COMPILER_LAUNCHER "${CCACHE}")
 endif()
 
