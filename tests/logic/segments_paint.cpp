@@ -212,10 +212,10 @@ TEST(SegmentCurves, EmptyAndNegativeRectanglesAreCellsToo)
 
 TEST(SegmentCurves, CoordinatesOutOfRangeBecomeTheLeastNumber)
 {
-    std::string const far = std::to_string(least);
+    std::string const number = std::to_string(least);
     EXPECT_EQ(Trace(*Make(L'.', DigiStyleHideOff), {0, 0, infinity, no_number}),
-              "off off on begin M " + far + " " + far + " L " + far + " " + far + " L " + far + " " + far + " L " +
-                  far + " " + far + " end paint region");
+              "off off on begin M " + number + " " + number + " L " + number + " " + number + " L " + number + " " +
+                  number + " L " + number + " " + number + " end paint region");
     EXPECT_EQ(CountOf(Trace(*Make(L'A', DigiStyleRounded), {0, 0, infinity, infinity}), "C"), 26);
     EXPECT_EQ(CountOf(Trace(*Make(L'A', DigiStyleRounded), {no_number, 0, 49, 83}), "C"), 26);
 }
