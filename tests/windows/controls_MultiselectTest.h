@@ -1,9 +1,12 @@
 #pragma once
 // A multiselect whose protected members a test may use, its parent, and the dialog.
 
+#include "Pump.h"
 #include "ScopedWindow.h"
 #include "controls/IdNameMultiselectDlg.h"
 #include "frame/RegisteredMessages.h"
+
+#include <gtest/gtest.h>
 
 #include <functional>
 #include <vector>
@@ -98,6 +101,22 @@ private:
 
     HWND m_control;
 };
+
+/// Opens the dialog by `open` and has the action done once it is up.
+inline void DoInDialog(CIdNameMultiselectDlg & dialog, std::function<void()> const & open,
+                       std::function<void(MultiselectParts const &)> const & action)
+{
+    constexpr int last_part_id = 32806;
+    auto const parts = [&dialog] { return MultiselectParts(dialog.m_control.m_hWnd); };
+    LaterActions later;
+    later.Add([&] { action(parts()); },
+              [&] {
+                  return dialog.m_hWnd != nullptr && dialog.IsWindowVisible() && dialog.m_control.m_hWnd != nullptr &&
+                         parts().Part(last_part_id) != nullptr;
+              });
+    open();
+    EXPECT_FALSE(later.Failed());
+}
 
 class TestMultiselect : public CIdNameMultiselectCtrl
 {

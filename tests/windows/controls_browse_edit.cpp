@@ -150,20 +150,12 @@ protected:
     /// Presses the button and has the action done once the drop-down is up.
     void BrowseNames(std::function<void(tests::MultiselectParts const &)> action)
     {
-        tests::LaterActions later;
-        later.Add(
-            [&] {
-                CIdNameMultiselectDlg & dialog = m_edit->m_dialog;
-                dialog.GetWindowRect(&m_dropDown);
-                action(tests::MultiselectParts(dialog.m_control.m_hWnd));
-            },
-            [&] {
-                CIdNameMultiselectDlg & dialog = m_edit->m_dialog;
-                return dialog.m_hWnd != nullptr && dialog.IsWindowVisible() &&
-                       tests::MultiselectParts(dialog.m_control.m_hWnd).Part(32806) != nullptr;
+        tests::DoInDialog(
+            m_edit->m_dialog, [this] { m_edit->OnBrowse(); },
+            [&](tests::MultiselectParts const & parts) {
+                m_edit->m_dialog.GetWindowRect(&m_dropDown);
+                action(parts);
             });
-        m_edit->OnBrowse();
-        EXPECT_FALSE(later.Failed());
         tests::PumpPosted();
     }
     /// Has the name typed into the file dialog and confirmed.

@@ -79,13 +79,8 @@ protected:
         combo.GetWindowText(text);
         return text;
     }
-    CString Row(int row)
-    {
-        CString text;
-        combo.GetLBText(row, text);
-        return text;
-    }
-    int Data(int row) { return static_cast<int>(combo.GetItemData(row)); }
+    CString Row(int row) const { return controls::RowText(combo, row); }
+    int Data(int row) const { return controls::RowData(combo, row); }
     /// The client area without the button.
     CRect Field()
     {
@@ -219,36 +214,19 @@ TEST_F(ComboBoxX, TipEndsWithItsWindow)
 TEST_F(ComboBoxXRows, AreAddedWithTheirNumbers)
 {
     Open();
-    EXPECT_EQ(combo.AddItem(L"one", 11), 0);
-    EXPECT_EQ(combo.AddItem(L"two", -5), 1);
-    EXPECT_EQ(combo.AddItem(nullptr, 7), 2);
-    EXPECT_EQ(Row(0), L"one");
-    EXPECT_EQ(Data(1), -5);
-    EXPECT_EQ(Row(2), L"");
+    controls::ExpectRowsAreAddedWithTheirNumbers(combo);
 }
 
 TEST_F(ComboBoxXRows, KeepTheirNumbersWhereTheControlSorts)
 {
     Open(CBS_DROPDOWNLIST | CBS_SORT);
-    EXPECT_EQ(combo.AddItem(L"b", 2), 0);
-    EXPECT_EQ(combo.AddItem(L"a", 1), 0);
-    EXPECT_EQ(Data(0), 1);
-    EXPECT_EQ(Data(1), 2);
+    controls::ExpectSortedRowsKeepTheirNumbers(combo);
 }
 
 TEST_F(ComboBoxXRows, OfAListAreNumberedInOrder)
 {
     Open();
-    combo.FillItems(std::list<CString>{L"b", L"a"}, 10, true);
-    combo.FillItems(std::list<CString>{L"c"}, 20, false);
-    ASSERT_EQ(combo.GetCount(), 3);
-    EXPECT_EQ(Row(0), L"b");
-    EXPECT_EQ(Data(0), 10);
-    EXPECT_EQ(Data(1), 11);
-    EXPECT_EQ(Data(2), 20);
-    combo.FillItems(std::list<CString>{L"d"}, 0x7FFFFFFF, true);
-    ASSERT_EQ(combo.GetCount(), 1);
-    EXPECT_EQ(Data(0), 0x7FFFFFFF);
+    controls::ExpectRowsOfAListAreNumberedInOrder(combo);
 }
 
 TEST_F(ComboBoxXRows, OfAMapComeInTheOrderOfTheirKeysAfterTheBlankOne)
@@ -278,39 +256,19 @@ TEST_F(ComboBoxXRows, OfAMapWithTheKeyMinusOneHaveNoBlankOne)
 TEST_F(ComboBoxXRows, AreFoundByTheirNumbersFromTheTop)
 {
     Open();
-    combo.FillItems(std::list<CString>{L"a", L"b"}, 4, true);
-    combo.AddItem(L"c", 5);
-    EXPECT_EQ(combo.FindItemData(5), 1) << "the first of two";
-    EXPECT_EQ(combo.FindItemData(99), -1);
+    controls::ExpectRowsAreFoundByTheirNumbersFromTheTop(combo);
 }
 
 TEST_F(ComboBoxXRows, UnknownNumberKeepsTheSelection)
 {
     Open();
-    combo.FillItems(std::list<CString>{L"a", L"b"}, 4, true);
-    EXPECT_EQ(combo.SelectItemData(5), 1);
-    EXPECT_EQ(combo.GetCurSel(), 1);
-    EXPECT_EQ(combo.SelectItemData(77), -1);
-    EXPECT_EQ(combo.GetCurSel(), 1);
-    EXPECT_EQ(combo.GetSelectedItemData(0), 5);
-}
-
-TEST_F(ComboBoxXRows, NothingSelectedGivesTheDefault)
-{
-    Open();
-    EXPECT_EQ(combo.GetSelectedItemData(99), 99);
-    combo.AddItem(L"a", 4);
-    EXPECT_EQ(combo.GetSelectedItemData(99), 99);
+    controls::ExpectAnUnknownNumberKeepsTheSelection(combo);
 }
 
 TEST_F(ComboBoxXRows, OfAControlWithoutAWindowAreNone)
 {
-    EXPECT_LT(combo.AddItem(L"a", 1), 0);
-    combo.FillItems(std::list<CString>{L"a"}, 1, true);
+    controls::ExpectABoxWithoutAWindowHasNoRows(combo);
     combo.FillItems(std::map<int, CString>{{1, L"a"}}, true);
-    EXPECT_EQ(combo.FindItemData(0), -1);
-    EXPECT_EQ(combo.SelectItemData(0), -1);
-    EXPECT_EQ(combo.GetSelectedItemData(12), 12);
     EXPECT_FALSE(combo.FitToWidth());
     combo.FitToEditWidth();
 }
@@ -640,15 +598,7 @@ TEST_F(ComboBoxXHostile, EndsWithinAnyOfItsMessagesWithoutHarm)
         doomed->FillItems(texts, 1, true);
         doomed->SetCurSel(0);
         HWND const tip = doomed->m_toolTipWnd;
-        bool ended = false;
-        doomed->On(message, [&ended, doomed] {
-            ended = true;
-            delete doomed;
-        });
-        act(*doomed);
-        EXPECT_TRUE(ended);
-        if (!ended)
-            delete doomed;
+        controls::ExpectItMayEndIn<CComboBoxX>(message, doomed, [&act, doomed] { act(*doomed); });
         EXPECT_FALSE(::IsWindow(tip));
     }
 }

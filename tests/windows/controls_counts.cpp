@@ -9,18 +9,90 @@
 #include "controls/XTreeCtrl.h"
 
 #include "GdiHandleCount.h"
+#include "ImportPatch.h"
 #include "Pump.h"
 #include "ScopedWindow.h"
 #include "ThreadWindows.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
+#include <vector>
 
 namespace
 {
 constexpr int openings = 500;
 constexpr int repaints = 5000;
+
+/// The timers that toolkit and framework have set and not killed, of windows that are there.
+class Timers
+{
+public:
+    static int Count()
+    {
+        std::erase_if(s_timers,
+                      [](Timer const & timer) { return timer.window != nullptr && !::IsWindow(timer.window); });
+        return static_cast<int>(s_timers.size());
+    }
+
+private:
+    struct Timer
+    {
+        HWND window;
+        UINT_PTR id;
+        bool operator==(Timer const &) const = default;
+    };
+    static UINT_PTR WINAPI Set(HWND window, UINT_PTR id, UINT period, TIMERPROC procedure)
+    {
+        UINT_PTR const result = ::SetTimer(window, id, period, procedure);
+        Timer const timer{window, window != nullptr ? id : result};
+        if (std::find(s_timers.begin(), s_timers.end(), timer) == s_timers.end())
+            s_timers.push_back(timer);
+        return result;
+    }
+    static BOOL WINAPI Kill(HWND window, UINT_PTR id)
+    {
+        std::erase(s_timers, Timer{window, id});
+        return ::KillTimer(window, id);
+    }
+
+    static inline std::vector<Timer> s_timers;
+    tests::ImportPatch m_patches[4] = {{L"instrument_ui.dll", "SetTimer", &Set},
+                                       {L"framework.dll", "SetTimer", &Set},
+                                       {L"instrument_ui.dll", "KillTimer", &Kill},
+                                       {L"framework.dll", "KillTimer", &Kill}};
+};
+
+/// What must be after a test as it was before.
+struct Counts
+{
+    int gdiObjects = tests::GdiHandleCount();
+    int windows = 0;
+    int timers = Timers::Count();
+
+    /// parent: its children count, and theirs.
+    explicit Counts(HWND parent = nullptr) : windows(tests::ThreadWindows())
+    {
+        if (parent != nullptr)
+            ::EnumChildWindows(parent, &Add, reinterpret_cast<LPARAM>(&windows));
+    }
+
+private:
+    static BOOL CALLBACK Add(HWND, LPARAM counter)
+    {
+        ++*reinterpret_cast<int *>(counter);
+        return TRUE;
+    }
+};
+
+void ExpectNothingMore(Counts const & before, Counts const & after)
+{
+    constexpr int kept_by_the_system = 4; // fonts
+    EXPECT_LE(after.gdiObjects, before.gdiObjects + kept_by_the_system);
+    EXPECT_EQ(after.windows, before.windows);
+    EXPECT_EQ(after.timers, before.timers);
+}
 
 BOOL Create(CColorButton & button, CWnd * parent)
 {
@@ -48,6 +120,12 @@ BOOL Create(CListBoxX & list, CWnd * parent)
     return created;
 }
 
+BOOL Create(CIdNameMultiselectListCtlr & list, CWnd * parent)
+{
+    BOOL const created = list.Create(WS_CHILD | WS_VISIBLE | LVS_LIST, CRect(0, 0, 120, 100), parent, 5);
+    list.InsertItem(0, L"text");
+    return created;
+}
 BOOL Create(CXTreeCtrl & tree, CWnd * parent)
 {
     BOOL const created = tree.Create(WS_CHILD | WS_VISIBLE | TVS_HASBUTTONS, CRect(0, 0, 120, 100), parent, 5);
@@ -99,64 +177,65 @@ protected:
 class BriefField : public CXEditBrowseCtrl
 {
 public:
-    bool IsOpen() const { return m_dialog.m_hWnd != nullptr && m_dialog.IsWindowVisible(); }
-    void Close() { m_dialog.EndDialog(IDCANCEL); }
+    void Browse()
+    {
+        PostMessage(close_message);
+        OnBrowse();
+    }
+    int m_closed = 0;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message != close_message)
+            return CXEditBrowseCtrl::WindowProc(message, wParam, lParam);
+        if (m_dialog.m_hWnd == nullptr || !m_dialog.IsWindowVisible())
+            return PostMessage(close_message); // once more
+        ++m_closed;
+        m_dialog.EndDialog(IDCANCEL);
+        return 0;
+    }
+
+private:
+    static constexpr UINT close_message = WM_APP + 1;
 };
 
-/// Does it a few times, then `times` times more, and compares windows and GDI objects.
-void LeavesNothing(int times, std::function<void()> const & open)
+/// Does it a few times, then `times` times more, and compares what is there before and after the latter.
+void LeavesNothing(int times, HWND parent, std::function<void(int)> const & action)
 {
     auto const repeat = [&](int count) {
         for (int i = 0; i < count; ++i)
-            open();
+            action(i);
         tests::PumpPosted();
     };
-    repeat(10);
-    int const windows = tests::ThreadWindows();
-    int const objects = tests::GdiHandleCount();
+    Timers const timers;
+    repeat(20);
+    Counts const before(parent);
     repeat(times);
-    EXPECT_EQ(tests::ThreadWindows(), windows);
-    constexpr int kept_by_the_system = 4; // fonts
-    EXPECT_LE(tests::GdiHandleCount(), objects + kept_by_the_system);
+    ExpectNothingMore(before, Counts(parent));
 }
 
 template <typename Control> void OpenOften()
 {
     tests::ScopedWindow parent(CRect(100, 100, 400, 300), WS_POPUP | WS_VISIBLE);
-    auto const open = [&parent](int times) {
-        for (int i = 0; i < times; ++i)
-        {
-            Control control;
-            ASSERT_TRUE(Create(control, parent));
-            control.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(5, 5)); // a tip or a timer
-            if (i % 2 == 0)
-                control.DestroyWindow();
-        }
-        tests::PumpPosted();
-    };
-    open(20);
-    int const windows = tests::ThreadWindows();
-    int const objects = tests::GdiHandleCount();
-    open(openings);
-    EXPECT_EQ(tests::ThreadWindows(), windows);
-    constexpr int kept_by_the_system = 4; // fonts
-    EXPECT_LE(tests::GdiHandleCount(), objects + kept_by_the_system);
+    LeavesNothing(openings, parent.m_hWnd, [&](int i) {
+        Control control;
+        ASSERT_TRUE(Create(control, parent));
+        control.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(5, 5)); // a tip or a timer
+        if (i % 2 == 0)
+            control.DestroyWindow();
+    });
 }
 
 template <typename Control> void RepaintOften()
 {
+    constexpr UINT all_of_it = RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_UPDATENOW | RDW_ALLCHILDREN;
     tests::ScopedWindow parent(CRect(100, 100, 400, 300), WS_POPUP | WS_VISIBLE);
     Control control;
     tests::WindowCloser const closer(control);
     ASSERT_TRUE(Create(control, parent));
     tests::PumpPosted();
-    EXPECT_EQ(tests::GdiGrowth(
-                  [&control] {
-                      for (int i = 0; i < repaints / 2; ++i)
-                          control.RedrawWindow();
-                  },
-                  2),
-              0);
+    LeavesNothing(repaints, parent.m_hWnd, [&](int) { control.RedrawWindow(nullptr, nullptr, all_of_it); });
 }
 } // namespace
 
@@ -178,9 +257,16 @@ TEST(ControlCounts, RepaintsLeaveNothingBehind)
     RepaintOften<CListBoxX>();
 }
 
-TEST(ControlCountsOfTrees, OpeningsLeaveNothingBehind)
+TEST(ControlCountsOfTrees, OpeningsAndRepaintsLeaveNothingBehind)
 {
     OpenOften<CXTreeCtrl>();
+    RepaintOften<CXTreeCtrl>();
+}
+
+TEST(ControlCountsOfLists, OpeningsAndRepaintsLeaveNothingBehind)
+{
+    OpenOften<CIdNameMultiselectListCtlr>();
+    RepaintOften<CIdNameMultiselectListCtlr>();
 }
 
 TEST(ControlCountsOfFields, OpeningsAndRepaintsLeaveNothingBehind)
@@ -201,7 +287,7 @@ TEST(ControlCountsOfPaintedMultiselects, RepaintsLeaveNothingBehind)
 
 TEST(ControlCountsOfDialogs, OpeningsLeaveNothingBehind)
 {
-    LeavesNothing(openings, [] { EXPECT_EQ(BriefDialog().DoModal(), IDCANCEL); });
+    LeavesNothing(openings, nullptr, [](int) { EXPECT_EQ(BriefDialog().DoModal(), IDCANCEL); });
 }
 
 TEST(ControlCountsOfDropDowns, OpeningsLeaveNothingBehind)
@@ -210,11 +296,6 @@ TEST(ControlCountsOfDropDowns, OpeningsLeaveNothingBehind)
     BriefField field;
     tests::WindowCloser const closer(field);
     ASSERT_TRUE(Create(field, parent));
-    constexpr int drop_downs = 150; // each waits for a timer
-    LeavesNothing(drop_downs, [&] {
-        tests::LaterActions later;
-        later.Add([&] { field.Close(); }, [&] { return field.IsOpen(); });
-        field.OnBrowse();
-        EXPECT_FALSE(later.Failed());
-    });
+    LeavesNothing(openings, parent.m_hWnd, [&](int) { field.Browse(); });
+    EXPECT_GE(field.m_closed, openings);
 }

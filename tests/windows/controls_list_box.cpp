@@ -29,13 +29,8 @@ protected:
                                 CRect(20, 20, 20 + width, 20 + height), parent, list_id));
         tests::PumpPosted();
     }
-    CString Row(int row)
-    {
-        CString text;
-        list.GetText(row, text);
-        return text;
-    }
-    int Data(int row) { return static_cast<int>(list.GetItemData(row)); }
+    CString Row(int row) const { return controls::RowText(list, row); }
+    int Data(int row) const { return controls::RowData(list, row); }
     CRect RowRect(int row)
     {
         CRect rect;
@@ -95,24 +90,19 @@ TEST_F(ListBoxX, HandlesTheQuestionsOfTipsInBothKindsOfText)
 TEST_F(ListBoxXRows, AreAddedWithTheirNumbers)
 {
     Open();
-    EXPECT_EQ(list.AddItem(L"one", 11), 0);
-    EXPECT_EQ(list.AddItem(L"two", -5), 1);
-    EXPECT_EQ(list.AddItem(nullptr, 7), 2);
-    EXPECT_EQ(Row(0), L"one");
-    EXPECT_EQ(Data(1), -5);
-    EXPECT_EQ(Row(2), L"");
+    controls::ExpectRowsAreAddedWithTheirNumbers(list);
+}
+
+TEST_F(ListBoxXRows, KeepTheirNumbersWhereTheControlSorts)
+{
+    Open(LBS_SORT);
+    controls::ExpectSortedRowsKeepTheirNumbers(list);
 }
 
 TEST_F(ListBoxXRows, OfAListAreNumberedInOrder)
 {
     Open();
-    list.FillItems(std::list<CString>{L"b", L"a"}, 10, true);
-    list.FillItems(std::list<CString>{L"c"}, 20, false);
-    ASSERT_EQ(list.GetCount(), 3);
-    EXPECT_EQ(Row(0), L"b");
-    EXPECT_EQ(Data(0), 10);
-    EXPECT_EQ(Data(1), 11);
-    EXPECT_EQ(Data(2), 20);
+    controls::ExpectRowsOfAListAreNumberedInOrder(list);
 }
 
 TEST_F(ListBoxXRows, OfAMapReplaceTheOthersInTheOrderOfTheirKeys)
@@ -129,31 +119,19 @@ TEST_F(ListBoxXRows, OfAMapReplaceTheOthersInTheOrderOfTheirKeys)
 TEST_F(ListBoxXRows, AreFoundByTheirNumbersFromTheTop)
 {
     Open();
-    list.FillItems(std::list<CString>{L"a", L"b"}, 4, true);
-    list.AddItem(L"c", 5);
-    EXPECT_EQ(list.FindItemData(5), 1);
-    EXPECT_EQ(list.FindItemData(99), -1);
+    controls::ExpectRowsAreFoundByTheirNumbersFromTheTop(list);
 }
 
 TEST_F(ListBoxXRows, UnknownNumberKeepsTheSelection)
 {
     Open();
-    list.FillItems(std::list<CString>{L"a", L"b"}, 4, true);
-    EXPECT_EQ(list.GetSelectedItemData(99), 99);
-    EXPECT_EQ(list.SelectItemData(5), 1);
-    EXPECT_EQ(list.SelectItemData(77), -1);
-    EXPECT_EQ(list.GetCurSel(), 1);
-    EXPECT_EQ(list.GetSelectedItemData(0), 5);
+    controls::ExpectAnUnknownNumberKeepsTheSelection(list);
 }
 
 TEST_F(ListBoxXRows, OfAControlWithoutAWindowAreNone)
 {
-    EXPECT_LT(list.AddItem(L"a", 1), 0);
-    list.FillItems(std::list<CString>{L"a"}, 1, true);
+    controls::ExpectABoxWithoutAWindowHasNoRows(list);
     list.FillItems(std::map<int, CString>{{1, L"a"}});
-    EXPECT_EQ(list.FindItemData(0), -1);
-    EXPECT_EQ(list.SelectItemData(0), -1);
-    EXPECT_EQ(list.GetSelectedItemData(12), 12);
     int outside = 7;
     EXPECT_EQ(list.LbxZeileZumPunkt(CPoint(1, 1), outside), -1);
     EXPECT_EQ(outside, 1);
@@ -330,14 +308,6 @@ TEST_F(ListBoxXHostile, EndsWithinAnyOfItsMessagesWithoutHarm)
         auto * const doomed = new OpenList;
         ASSERT_TRUE(doomed->Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 90, 100), parent, 62));
         doomed->FillItems(texts, 1, true);
-        bool ended = false;
-        doomed->On(message, [&ended, doomed] {
-            ended = true;
-            delete doomed;
-        });
-        act(*doomed);
-        EXPECT_TRUE(ended);
-        if (!ended)
-            delete doomed;
+        controls::ExpectItMayEndIn<CListBoxX>(message, doomed, [&act, doomed] { act(*doomed); });
     }
 }

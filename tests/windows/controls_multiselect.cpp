@@ -64,15 +64,9 @@ class MultiselectDialog : public testing::Test
 protected:
     INT_PTR Run(CIdNameMultiselectDlg & dialog, std::function<void(tests::MultiselectParts const &)> action)
     {
-        tests::LaterActions later;
-        later.Add([&] { action(tests::MultiselectParts(dialog.m_control.m_hWnd)); },
-                  [&] {
-                      return dialog.m_hWnd != nullptr && dialog.IsWindowVisible() &&
-                             dialog.m_control.m_hWnd != nullptr &&
-                             tests::MultiselectParts(dialog.m_control.m_hWnd).Part(ok) != nullptr;
-                  });
-        INT_PTR const result = dialog.DoModal();
-        EXPECT_FALSE(later.Failed());
+        INT_PTR result = 0;
+        tests::DoInDialog(
+            dialog, [&] { result = dialog.DoModal(); }, action);
         return result;
     }
     tests::ScopedWindow m_owner;
@@ -330,6 +324,38 @@ TEST_F(Multiselect, TheListMayEndInWhateverAPressAsksIt)
                        MAKELPARAM(label.CenterPoint().x, label.CenterPoint().y));
         EXPECT_EQ(list, nullptr);
     }
+}
+
+TEST_F(Multiselect, AListThatIsBeingMadeHasNoRowsYet)
+{
+    // Told of the windows that the list makes for itself.
+    class Curious : public CIdNameMultiselectCtrl
+    {
+    public:
+        int m_told = 0;
+
+    protected:
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            if (message == WM_PARENTNOTIFY && LOWORD(wParam) == WM_CREATE && m_list.m_hWnd != nullptr)
+            {
+                ++m_told;
+                RetrieveSelection();
+                RefreshContent();
+            }
+            return CIdNameMultiselectCtrl::WindowProc(message, wParam, lParam);
+        }
+    };
+    Curious control;
+    tests::WindowCloser const closer(control);
+    control.SetTheMap(letters);
+    control.SetSelection(3);
+    ASSERT_TRUE(control.Create(L"", WS_CHILD | WS_VISIBLE, CRect(10, 10, 200, 150), &m_parent, 6));
+    control.RedrawWindow();
+    EXPECT_GT(control.m_told, 0);
+    EXPECT_EQ(control.TheSelection(), (Ids{3}));
+    EXPECT_EQ(tests::MultiselectParts(control.m_hWnd).Rows(), 4);
+    EXPECT_EQ(tests::MultiselectParts(control.m_hWnd).Ticked(), (Numbers{3}));
 }
 
 TEST_F(Multiselect, DataOutlivesTheWindowAndTheControlCanBeShownAgain)

@@ -23,14 +23,14 @@ constexpr DWORD hidden_button = WS_CHILD | BS_ICON;
 CString const no_name;
 } // namespace
 
-/// The list's rows, as long as the control and its list are there; nothing else any more afterwards. Lives on the stack
-/// alone.
+/// The list's rows, as long as the control and its list are there; nothing else any more afterwards. A list that is
+/// being made is not there yet: it stands no rows. Lives on the stack alone.
 class CIdNameMultiselectCtrl::Rows : public id_name::Rows
 {
 public:
     explicit Rows(CIdNameMultiselectCtrl & control)
         : m_control(control),
-          m_list(control.m_list.m_hWnd),
+          m_list(control.m_creating ? nullptr : control.m_list.m_hWnd),
           m_life(control.m_life)
     {
     }
@@ -367,17 +367,19 @@ void CIdNameMultiselectCtrl::CreateControls(CRect & rect)
         m_emptyMapMessage.LoadString(TOOLKIT_STRING_NO_ITEMS);
     id_name::Places const places = id_name::PlacesIn(rect, m_okCancel);
     bool const okCancel = m_okCancel;
-    Parts parts(*this);
-    parts.MakeList(places.list);
-    parts.MakeButton(m_selectAll, L"Alle w\u00e4hlen", true, places.selectAll, select_all_id, TOOLKIT_ICON_SELECT_ALL,
-                     m_icons[0]);
-    parts.MakeButton(m_selectNone, L"Alle abw\u00e4hlen", true, places.selectNone, select_none_id,
-                     TOOLKIT_ICON_SELECT_NONE, m_icons[1]);
-    parts.MakeButton(m_cancel, L"Abbruch", okCancel, places.cancel, cancel_id, TOOLKIT_ICON_CANCEL, m_icons[2]);
-    parts.MakeButton(m_ok, L"OK", okCancel, places.ok, ok_id, TOOLKIT_ICON_OK, m_icons[3]);
-    parts.MakeToolTip();
-    if (!parts.MayGoOn())
-        return;
+    {
+        Parts parts(*this);
+        parts.MakeList(places.list);
+        parts.MakeButton(m_selectAll, L"Alle w\u00e4hlen", true, places.selectAll, select_all_id,
+                         TOOLKIT_ICON_SELECT_ALL, m_icons[0]);
+        parts.MakeButton(m_selectNone, L"Alle abw\u00e4hlen", true, places.selectNone, select_none_id,
+                         TOOLKIT_ICON_SELECT_NONE, m_icons[1]);
+        parts.MakeButton(m_cancel, L"Abbruch", okCancel, places.cancel, cancel_id, TOOLKIT_ICON_CANCEL, m_icons[2]);
+        parts.MakeButton(m_ok, L"OK", okCancel, places.ok, ok_id, TOOLKIT_ICON_OK, m_icons[3]);
+        parts.MakeToolTip();
+        if (!parts.MayGoOn())
+            return;
+    }
     m_controlsCreated = true;
     RefreshContent();
 }
