@@ -268,6 +268,11 @@ void CRecordingList::FitColumns()
     {
         give(growth.column, growth.limit * m_least[growth.column]);
     }
+    if (std::accumulate(widths.begin(), widths.end(), 0) > client.Width() && !m_userWidths.contains(column_name))
+    {
+        // The list scrolls sideways anyway, so names that begin alike need not be cut short for the last columns.
+        widths[column_name] = std::max(widths[column_name], std::min(m_needs[column_name], client.Width() / 3));
+    }
     for (int column = 0; column < column_count; ++column)
     {
         auto const width = widths[static_cast<std::size_t>(column)];

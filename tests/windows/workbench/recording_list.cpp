@@ -332,6 +332,72 @@ TEST_F(RecordingListTest, TheReferencesNameFitsInBold)
     EXPECT_GE(m_list.GetColumnWidth(CRecordingList::column_name), needed + 2 * m_list.GetCellPadding());
 }
 
+TEST_F(RecordingListTest, NamesSortWithoutRegardToCase)
+{
+    m_list.ShowFiles({L"C:\\B.wav", L"C:\\a.wav", L"C:\\C.wav", L"C:\\b2.wav"}, std::vector<CRecordingList::Notes>(4));
+    m_list.SortLines(CRecordingList::column_name, true);
+    EXPECT_EQ(Order(), (Lines{1, 0, 3, 2}));
+}
+
+TEST_F(RecordingListTest, NamesHaveMoreRoomWhereTheListScrollsSidewaysAnyway)
+{
+    CString const name = L"a name of many words that begin alike 0001.wav";
+    m_list.ShowFiles({std::filesystem::path(L"C:\\") / name.GetString()}, {{}});
+    m_list.ShowAnalysis(0, AnalysisOf(recordings[0]));
+    auto const total = [this] {
+        int sum = 0;
+        for (int column = 0; column < CRecordingList::column_count; ++column)
+            sum += m_list.GetColumnWidth(column);
+        return sum;
+    };
+    constexpr int narrow = 700;
+    m_list.SetWindowPos(nullptr, 0, 0, narrow, 260, SWP_NOZORDER | SWP_NOMOVE);
+    ASSERT_GT(total(), narrow);
+    EXPECT_GE(m_list.GetColumnWidth(CRecordingList::column_name), narrow / 4);
+    // In view beside the names are still other columns, and a user's width stays.
+    EXPECT_LE(m_list.GetColumnWidth(CRecordingList::column_name), narrow / 2);
+    m_list.SetUserWidths({{CRecordingList::column_name, 60}});
+    m_list.SetWindowPos(nullptr, 0, 0, narrow - 1, 260, SWP_NOZORDER | SWP_NOMOVE);
+    EXPECT_EQ(m_list.GetColumnWidth(CRecordingList::column_name), 60);
+}
+
+TEST_F(RecordingListTest, ADraggedDividerTakesTheCommentThatIsBeingTyped)
+{
+    m_list.EditComment(0);
+    ASSERT_NE(m_list.CommentEditor(), nullptr);
+    ::SetWindowTextW(m_list.CommentEditor(), L"typed");
+    CHeaderCtrl * const header = m_list.GetHeaderCtrl();
+    CRect item;
+    ASSERT_TRUE(header->GetItemRect(CRecordingList::column_duration, &item));
+    CPoint const divider(item.right - 1, item.CenterPoint().y);
+    tests::Drag(tests::ClientPoint(header->m_hWnd, divider),
+                tests::ClientPoint(header->m_hWnd, divider + CPoint(15, 0)));
+    EXPECT_TRUE(tests::PumpUntil([this] { return m_list.CommentEditor() == nullptr; }));
+    EXPECT_EQ(m_list.GetItemText(m_list.PlaceOf(0), CRecordingList::column_comment), L"typed");
+}
+
+TEST_F(RecordingListTest, AnEditorScrollsItsColumnIn)
+{
+    m_list.SetWindowPos(nullptr, 0, 0, 400, 260, SWP_NOZORDER | SWP_NOMOVE);
+    CRect client;
+    m_list.GetClientRect(&client);
+    auto const isInView = [&](CRecordingList::Column column) {
+        CRect cell;
+        m_list.GetSubItemRect(0, column, LVIR_BOUNDS, cell);
+        return cell.left >= 0 && cell.right <= client.right;
+    };
+    ASSERT_FALSE(isInView(CRecordingList::column_comment));
+    m_list.EditComment(0);
+    EXPECT_NE(m_list.CommentEditor(), nullptr);
+    EXPECT_TRUE(isInView(CRecordingList::column_comment));
+    m_list.EndEditing();
+    m_list.Scroll(CSize(-2000, 0));
+    ASSERT_FALSE(isInView(CRecordingList::column_rating));
+    m_list.ChooseRating(0);
+    EXPECT_NE(m_list.RatingCombo(), nullptr);
+    EXPECT_TRUE(isInView(CRecordingList::column_rating));
+}
+
 TEST_F(RecordingListTest, RowsAndColumnsGrowWithTheResolution)
 {
     auto const measure = [this](int dotsPerInch) {
