@@ -358,6 +358,34 @@ TEST_F(Multiselect, AListThatIsBeingMadeHasNoRowsYet)
     EXPECT_EQ(tests::MultiselectParts(control.m_hWnd).Ticked(), (Numbers{3}));
 }
 
+TEST_F(Multiselect, PartsThatEndAreNotMadeAgain)
+{
+    class Sized : public CIdNameMultiselectCtrl
+    {
+    public:
+        int m_ended = 0;
+        int m_madeAgain = 0;
+
+    protected:
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            if (message == WM_PARENTNOTIFY && LOWORD(wParam) == WM_DESTROY)
+            {
+                ++m_ended;
+                SetWindowPos(nullptr, 0, 0, 100 + m_ended, 100, SWP_NOZORDER);
+            }
+            m_madeAgain += message == WM_PARENTNOTIFY && LOWORD(wParam) == WM_CREATE && m_ended > 0;
+            return CIdNameMultiselectCtrl::WindowProc(message, wParam, lParam);
+        }
+    };
+    Sized control;
+    ASSERT_TRUE(control.Create(L"", WS_CHILD | WS_VISIBLE, CRect(10, 10, 200, 150), &m_parent, 6));
+    control.RedrawWindow();
+    control.DestroyWindow();
+    EXPECT_GE(control.m_ended, 5);
+    EXPECT_EQ(control.m_madeAgain, 0);
+}
+
 TEST_F(Multiselect, DataOutlivesTheWindowAndTheControlCanBeShownAgain)
 {
     Show(letters, {2});

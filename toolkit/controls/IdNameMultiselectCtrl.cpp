@@ -354,6 +354,7 @@ private:
 void CIdNameMultiselectCtrl::PreSubclassWindow()
 {
     CButton::PreSubclassWindow();
+    m_creating = false;
     ModifyStyle(0, BS_OWNERDRAW);
     ModifyStyleEx(0, WS_EX_STATICEDGE);
 }
@@ -450,6 +451,7 @@ BOOL CIdNameMultiselectCtrl::PreTranslateMessage(MSG * message)
 void CIdNameMultiselectCtrl::OnDestroy()
 {
     LifeWatch const life(m_life);
+    m_creating = true; // none any more: the parent that hears of the end may size or paint the control
     EndParts();
     if (!life.Over())
         CButton::OnDestroy();
