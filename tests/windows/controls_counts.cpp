@@ -257,15 +257,23 @@ TEST(ControlCounts, RepaintsLeaveNothingBehind)
     RepaintOften<CListBoxX>();
 }
 
-TEST(ControlCountsOfTrees, OpeningsAndRepaintsLeaveNothingBehind)
+TEST(ControlCountsOfTrees, OpeningsLeaveNothingBehind)
 {
     OpenOften<CXTreeCtrl>();
+}
+
+TEST(ControlCountsOfPaintedTrees, RepaintsLeaveNothingBehind)
+{
     RepaintOften<CXTreeCtrl>();
 }
 
-TEST(ControlCountsOfLists, OpeningsAndRepaintsLeaveNothingBehind)
+TEST(ControlCountsOfLists, OpeningsLeaveNothingBehind)
 {
     OpenOften<CIdNameMultiselectListCtlr>();
+}
+
+TEST(ControlCountsOfPaintedLists, RepaintsLeaveNothingBehind)
+{
     RepaintOften<CIdNameMultiselectListCtlr>();
 }
 
