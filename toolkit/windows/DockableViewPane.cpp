@@ -24,7 +24,7 @@ static_assert(view_style == 0x50800000);
 constexpr UINT size_flags = SWP_NOZORDER | SWP_NOACTIVATE;
 
 /// Whether the view still has its window in the pane. It is not looked into, since it may have been deleted.
-bool IsChild(CWnd const & pane, CView const * view)
+bool HoldsView(CWnd const & pane, CView const * view)
 {
     for (HWND child = ::GetWindow(pane.m_hWnd, GW_CHILD); child != nullptr; child = ::GetWindow(child, GW_HWNDNEXT))
     {
@@ -112,6 +112,6 @@ void CDockableViewPane::OnSize(UINT nType, int cx, int cy)
 {
     WindowHold const hold(*this);
     CBasePane::OnSize(nType, cx, cy);
-    if (!hold.Lost() && m_view != nullptr && IsChild(*this, m_view))
+    if (!hold.Lost() && m_view != nullptr && HoldsView(*this, m_view))
         m_view->SetWindowPos(nullptr, 0, 0, cx, cy, size_flags);
 }

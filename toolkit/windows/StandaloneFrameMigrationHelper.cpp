@@ -7,6 +7,8 @@
 
 namespace
 {
+constexpr UINT initial_update = 0x0364; // MFC's WM_INITIALUPDATE
+
 CWnd * MainWindow()
 {
     CWinThread * const thread = AfxGetThread();
@@ -37,7 +39,7 @@ CView * CStandaloneFrameMigrationHelper::CreatePane(wchar_t const * name, int & 
     CView * const connected = taken->View();
     WindowHold const paneHold(*taken);
     HWND const viewWindow = connected == view ? view->m_hWnd : nullptr;
-    taken->SendMessageToDescendants(WM_INITIALUPDATE, 0, 0, TRUE, FALSE);
+    taken->SendMessageToDescendants(initial_update, 0, 0, TRUE, FALSE);
     if (mainHold.Lost())
         return nullptr;
     // In this order, since the second deletes what the first reads.
