@@ -166,6 +166,8 @@ public:
     std::map<UINT, DockPane> const & Panes() const { return m_panes; }
     std::vector<Frame> const & Frames() const { return m_frames; }
     Frame const * FindFrame(UINT frame) const;
+    /// The place that a pane has now; null if it has none.
+    DockNode const * GroupOf(UINT pane) const;
     DockNode const & Root() const { return m_root; }
     /// Those in the strip of a side, in their order.
     std::vector<UINT> Folded(DockSide side) const;

@@ -381,12 +381,16 @@ std::vector<UINT> DockLayout::Folded(DockSide side) const
     return folded;
 }
 
-std::vector<UINT> DockLayout::Together(UINT pane) const
+DockNode const * DockLayout::GroupOf(UINT pane) const
 {
     DockPane const * const known = Find(pane);
-    DockNode const * const group = known != nullptr && known->place != DockPlace::None
-                                       ? GroupWith(pane, known->place == DockPlace::Floating)
-                                       : nullptr;
+    return known != nullptr && known->place != DockPlace::None ? GroupWith(pane, known->place == DockPlace::Floating)
+                                                               : nullptr;
+}
+
+std::vector<UINT> DockLayout::Together(UINT pane) const
+{
+    DockNode const * const group = GroupOf(pane);
     return group != nullptr ? group->panes : std::vector<UINT>{};
 }
 

@@ -3,6 +3,8 @@
 
 #include "afxpane.h"
 
+#include <vector>
+
 class FRAMEWORK_API CMFCAutoHideBar : public CPane
 {
     DECLARE_DYNCREATE(CMFCAutoHideBar)
@@ -20,6 +22,9 @@ public:
     BOOL OnShowControlBarMenu(CPoint point) override;
 
 protected:
+    void PostNcDestroy() override;
+
+    afx_msg void OnDestroy();
     afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
     afx_msg void OnMouseMove(UINT nFlags, CPoint point);
     afx_msg void OnPaint();
@@ -30,7 +35,9 @@ private:
     friend struct framework::PaneAccess;
 
     framework::DockHost * m_host;
-    UINT m_pointed; // the pane whose name the mouse is over, or 0
+    UINT m_pointed;            // the pane whose name the mouse is over, or 0
+    std::vector<UINT> m_shown; // as it is painted
+    UINT m_shownSlid;
 
     DECLARE_MESSAGE_MAP()
 };

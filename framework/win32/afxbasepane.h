@@ -101,6 +101,7 @@ protected:
     afx_msg void OnSize(UINT nType, int cx, int cy);
 
 private:
+    friend class CDockablePane;
     friend class framework::DockHost;
     friend struct framework::PaneAccess;
 

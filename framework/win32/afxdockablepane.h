@@ -87,6 +87,8 @@ protected:
     afx_msg void OnNcPaint();
 
 private:
+    friend class CBaseTabbedPane;
+    friend class CTabbedPane;
     friend class framework::DockHost;
     friend struct framework::PaneAccess;
 
@@ -96,6 +98,8 @@ private:
     UINT m_dockId;                // by which the layout knows it
     CRuntimeClass * m_tabbedPaneClass;
     CSize m_defaultSize;
+    bool m_captionShown; // as the place wants it
+    bool m_active;       // as the caption was painted
 
     DECLARE_MESSAGE_MAP()
 };

@@ -5,6 +5,8 @@
 
 #include <afxcoll.h>
 
+class CFrameImpl;
+
 /// One for each frame with docking, which owns it. Panes belong to the program.
 class FRAMEWORK_API CDockingManager : public CObject
 {
@@ -26,7 +28,6 @@ public:
     virtual CBasePane * FindPaneByID(UINT uBarID, BOOL bSearchMiniFrames = FALSE);
     void GetPaneList(CObList & lstBars, BOOL bIncludeAutohide = FALSE, CRuntimeClass * pRTCFilter = nullptr,
                      BOOL bIncludeTabs = FALSE);
-    const CObList & GetMiniFrames() const;
 
     BOOL EnableDocking(DWORD dwStyle);
     BOOL EnableAutoHidePanes(DWORD dwStyle);
@@ -57,8 +58,9 @@ public:
     static AFX_DOCK_TYPE GetDockingMode();
 
 private:
+    friend class CFrameImpl;
     friend class framework::DockHost;
     friend struct framework::PaneAccess;
 
-    framework::DockHost * m_host;
+    framework::DockHost * m_host; // null until Create
 };

@@ -24,7 +24,7 @@ public:
     void SetBorders(LPCRECT lpRect);
     void CalcInsideRect(CRect & rect, BOOL bHorz) const;
 
-    static BOOL m_bHandleMinSize; // users can't make panes smaller than their least size
+    /// Where there is room, the pane gets no smaller; by default what its caption takes.
     virtual void GetMinSize(CSize & size) const;
     void SetMinSize(const CSize & size);
 

@@ -24,6 +24,9 @@ private:
     friend class framework::DockHost;
     friend struct framework::PaneAccess;
 
+    void PostNcDestroy() override;
+
+    afx_msg void OnDestroy();
     afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
     afx_msg void OnPaint();
     afx_msg BOOL OnSetCursor(CWnd * pWnd, UINT nHitTest, UINT message);

@@ -34,7 +34,6 @@ public:
 protected:
     void PostNcDestroy() override;
     BOOL OnCmdMsg(UINT nID, int nCode, void * pExtra, AFX_CMDHANDLERINFO * pHandlerInfo) override;
-    BOOL PreTranslateMessage(MSG * pMsg) override;
 
     afx_msg void OnClose();
     afx_msg void OnDestroy();

@@ -3,6 +3,8 @@
 
 #include "afxbasetabbedpane.h"
 
+#include <vector>
+
 /// Made and ended by the frame as panes get together and leave each other.
 class FRAMEWORK_API CTabbedPane : public CBaseTabbedPane
 {
@@ -27,6 +29,9 @@ protected:
 private:
     friend class framework::DockHost;
     friend struct framework::PaneAccess;
+
+    std::vector<UINT> m_shownTabs; // as they are painted
+    UINT m_shownFront;
 
     DECLARE_MESSAGE_MAP()
 };
