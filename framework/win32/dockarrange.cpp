@@ -10,11 +10,7 @@
 
 namespace framework
 {
-struct FrameAccess
-{
-    static CRect Border(CFrameWnd const & frame) { return frame.m_border; }
-    static void LayOutSoon(CFrameWnd & frame) { frame.LayOutSoon(); }
-};
+UINT const arrangeMessage = ::RegisterWindowMessage(L"FrameworkArrangePanes");
 
 namespace
 {
@@ -39,10 +35,8 @@ bool Shows(HWND window)
 
 void DockHost::ArrangeSoon()
 {
-    if (m_ending || m_frame.m_hWnd == nullptr)
-        return;
-    FrameAccess::LayOutSoon(m_frame);
-    m_frame.PostMessage(WM_NULL); // idle time comes after a message
+    if (!m_ending && m_frame.m_hWnd != nullptr)
+        m_frame.PostMessage(arrangeMessage);
 }
 
 void DockHost::Lock(bool lock)
