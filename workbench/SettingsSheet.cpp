@@ -56,6 +56,9 @@ BOOL CSettingsSheet::OnInitDialog()
 {
     auto const result = CPropertySheet3d::OnInitDialog();
     SetWindowText(Text(L"Settings"));
+    // The system has them in its own language.
+    SetDlgItemText(IDCANCEL, Text(L"Cancel"));
+    SetDlgItemText(ID_APPLY_NOW, Text(L"&Apply"));
     StretchTabs();
     return result;
 }

@@ -14,6 +14,78 @@ namespace
 
 constexpr std::size_t c_gridWidth = 2;
 
+/// A frame whose cells keep their shares of its size, at first the same.
+class CGridFrame : public CStandaloneFrameWnd
+{
+public:
+    void Share()
+    {
+        if (auto * const grid = Grid())
+        {
+            CRect room;
+            grid->GetClientRect(&room);
+            m_set = CSize(static_cast<int>(room.Width() * m_shareX), static_cast<int>(room.Height() * m_shareY));
+            grid->SetColumnInfo(0, m_set.cx, 0);
+            grid->SetRowInfo(0, m_set.cy, 0);
+            grid->RecalcLayout();
+        }
+    }
+
+protected:
+    DECLARE_MESSAGE_MAP()
+
+private:
+    CSplitterWnd * Grid() const
+    {
+        auto * const cell = const_cast<CGridFrame *>(this)->GetSplitPane(0, 0);
+        return cell != nullptr ? DYNAMIC_DOWNCAST(CSplitterWnd, cell->GetParent()) : nullptr;
+    }
+
+    /// Takes the shares over that the user has given to the cells.
+    void NoteShares()
+    {
+        auto * const grid = Grid();
+        if (grid == nullptr || m_set == CSize(0, 0))
+        {
+            return;
+        }
+        CRect room;
+        grid->GetClientRect(&room);
+        auto width = 0;
+        auto height = 0;
+        auto least = 0;
+        grid->GetColumnInfo(0, width, least);
+        grid->GetRowInfo(0, height, least);
+        if (CSize(width, height) != m_set && width > 0 && height > 0 && !room.IsRectEmpty())
+        {
+            m_shareX = static_cast<double>(width) / room.Width();
+            m_shareY = static_cast<double>(height) / room.Height();
+        }
+    }
+
+    afx_msg void OnSize(UINT type, int width, int height)
+    {
+        auto const sized = type != SIZE_MINIMIZED && !IsIconic();
+        if (sized)
+        {
+            NoteShares();
+        }
+        CStandaloneFrameWnd::OnSize(type, width, height);
+        if (sized && m_set != CSize(0, 0))
+        {
+            Share();
+        }
+    }
+
+    double m_shareX = 0.5;
+    double m_shareY = 0.5;
+    CSize m_set = CSize(0, 0); ///< the first cell's size as it was shared out
+};
+
+BEGIN_MESSAGE_MAP(CGridFrame, CStandaloneFrameWnd)
+    ON_WM_SIZE()
+END_MESSAGE_MAP()
+
 /// The frame's client area in the main window.
 CRect AreaOf(CStandaloneFrameWnd & frame)
 {
@@ -70,10 +142,11 @@ CStandaloneFrameWnd * CWaveformFrame::CreateGrid()
 {
     std::array<CRuntimeClass *, c_gridWidth * c_gridWidth> classes;
     classes.fill(RUNTIME_CLASS(CWaveformPanelView));
-    auto * const frame = new CStandaloneFrameWnd;
+    auto * const frame = new CGridFrame;
     frame->BitteUmNachricht(this);
     if (frame->SplitFrameErzeugen(m_name, c_gridWidth, c_gridWidth, classes.data()))
     {
+        frame->Share();
         return frame;
     }
     CStandaloneFrameUser::BeiFrameAbleben(); // nobody else says that it is not there

@@ -59,7 +59,7 @@ void CWindowMenu::Remove(CWnd & window)
         menu->DeleteMenu(static_cast<UINT>(CMenueManager::FindItem(*menu, found->id)), MF_BYPOSITION);
         if (m_items.size() == 1) // with the last one, the separator above it
         {
-            menu->DeleteMenu(menu->GetMenuItemCount() - 1, MF_BYPOSITION);
+            menu->DeleteMenu(static_cast<UINT>(CMenueManager::FindItem(*menu, 0u)), MF_BYPOSITION);
         }
         CMenueManager::DrawApplicationMenue();
     }

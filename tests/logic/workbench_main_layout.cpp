@@ -67,14 +67,14 @@ TEST(WorkbenchMainLayout, FoldersAndFramesTakeTheirWidthFromTheRest)
     needs.folderWidth = 150;
     needs.framesWidth = 400;
     auto const layout = LayOutMain(needs);
-    EXPECT_EQ(layout.frames, CRect(610, 8, 1010, 496));
-    EXPECT_EQ(layout.framesDivider, CRect(606, 8, 610, 496));
+    EXPECT_EQ(layout.frames, CRect(610, 8, 1010, 450));
+    EXPECT_EQ(layout.framesDivider, CRect(606, 8, 610, 450));
     EXPECT_EQ(layout.folders, CRect(10, 8, 160, 450));
     EXPECT_EQ(layout.folderDivider, CRect(160, 8, 164, 450));
     EXPECT_EQ(layout.list.left, 164);
     EXPECT_EQ(layout.list.right, 606);
     EXPECT_EQ(layout.panel.left, 10);
-    EXPECT_EQ(layout.panel.right, 606);
+    EXPECT_EQ(layout.panel.right, 1010);
     EXPECT_EQ(layout.status.right, 1010);
 }
 

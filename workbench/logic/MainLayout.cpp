@@ -40,16 +40,17 @@ MainLayout LayOutMain(MainLayoutNeeds const & needs)
     auto const panelTop = spectrogramBottom + needs.spacing;
     auto const panelBottom = panelTop + needs.panelHeight;
     auto const statusTop = panelBottom + needs.spacing;
+    layout.panel = CRect(left, panelTop, edge, panelBottom);
     layout.status = CRect(left, statusTop, edge, statusTop + needs.statusHeight);
 
     if (needs.framesWidth > 0)
     {
         auto const most = right - left - needs.dividerGap - needs.leastBeside;
-        layout.frames = CRect(right - std::clamp(needs.framesWidth, 0, std::max(most, 0)), listTop, right, panelBottom);
+        layout.frames = CRect(right - std::clamp(needs.framesWidth, 0, std::max(most, 0)), listTop, right,
+                              spectrogramBottom);
         right = std::max<int>(layout.frames.left - needs.dividerGap, left);
-        layout.framesDivider = CRect(right, listTop, layout.frames.left, panelBottom);
+        layout.framesDivider = CRect(right, listTop, layout.frames.left, spectrogramBottom);
     }
-    layout.panel = CRect(left, panelTop, right, panelBottom);
     if (needs.folderWidth > 0)
     {
         auto const most = right - left - needs.dividerGap - needs.leastBeside;

@@ -27,6 +27,7 @@ constexpr Entry c_entries[] = {
     {L"Open WAV files or a folder to see them here.",
      L"Öffnen Sie WAV-Dateien oder einen Ordner, um sie hier zu sehen."},
     {L"There are no WAV files in this folder.", L"In diesem Ordner sind keine WAV-Dateien."},
+    {L"&Apply", L"Ü&bernehmen"},
     {L"Comparison", L"Vergleich"},
     {L"No recording", L"Keine Aufnahme"},
     {L"No recording chosen", L"Keine Aufnahme gewählt"},

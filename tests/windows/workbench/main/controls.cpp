@@ -269,6 +269,8 @@ TEST_F(WorkbenchControls, TheSettingsAreInTheLanguageThatWasChosen)
     OpenSettings();
     EXPECT_EQ(TextOf(Sheet()), L"Einstellungen");
     EXPECT_EQ(tab(dialogs_page), L"Dialoge");
+    EXPECT_EQ(TextOf(SheetButton(IDCANCEL)), L"Abbrechen");
+    EXPECT_EQ(TextOf(SheetButton(ID_APPLY_NOW)), L"\u00DC&bernehmen");
     CRect again;
     Sheet().GetWindowRect(&again);
     EXPECT_EQ(again, place); // the place is the same in all languages

@@ -15,7 +15,6 @@
 namespace
 {
 namespace fs = std::filesystem;
-using namespace std::chrono_literals;
 
 std::wstring TextOf(CWnd const & window)
 {
@@ -122,8 +121,11 @@ TEST_F(WorkbenchFrames, FourAreComparedInAGrid)
     EXPECT_GT(places[1].left, places[0].right - 1);
     EXPECT_GT(places[2].top, places[0].bottom - 1);
     // The cells share the room.
-    EXPECT_NEAR(places[0].Width(), places[1].Width(), 8);
-    EXPECT_NEAR(places[0].Height(), places[2].Height(), 8);
+    EXPECT_NEAR(places[0].Width(), places[1].Width(), 12);
+    EXPECT_NEAR(places[0].Height(), places[2].Height(), 12);
+    Only().Frame()->SetWindowPos(nullptr, 0, 0, 400, 500, SWP_NOMOVE | SWP_NOZORDER);
+    EXPECT_NEAR(PlaceOf(*Only().Cell(0)).Width(), PlaceOf(*Only().Cell(1)).Width(), 12);
+    EXPECT_NEAR(PlaceOf(*Only().Cell(0)).Height(), PlaceOf(*Only().Cell(2)).Height(), 12);
     // F6 goes round the cells.
     Waveform(0).SetFocus();
     tests::Key(VK_F6);
@@ -247,13 +249,15 @@ TEST_F(WorkbenchFrames, TheFocusStaysWhereItWas)
     ASSERT_TRUE(m_window->ShowSettings());
     EXPECT_TRUE(tests::PumpUntil([this] { return CWnd::GetActiveWindow() == &m_window->SettingsSheet(); }));
     m_window->SettingsSheet().CloseDialog();
+    ASSERT_TRUE(tests::PumpUntil([this] { return !m_window->SettingsSheet().IsOpen(); }));
+    ASSERT_TRUE(tests::BringToFront(m_window->m_hWnd));
     // The frame's plot has had it since the frame opened.
     EXPECT_TRUE(tests::PumpUntil([this] { return CWnd::GetFocus() == &Waveform(); }));
     auto const cursor = Waveform().Cursor();
     tests::Key(VK_RIGHT);
     EXPECT_TRUE(tests::PumpUntil([&] { return Waveform().Cursor() != cursor; }));
     // A click into the list has it there, and a change of windows leaves it.
-    tests::Click(tests::ClientPoint(List().m_hWnd, List().CellCentre(2, CRecordingList::column_name) + CPoint(30, 0)));
+    tests::Click(tests::ClientPoint(List().m_hWnd, List().CellCentre(2, CRecordingList::column_duration)));
     ASSERT_TRUE(tests::PumpUntil([this] { return CWnd::GetFocus() == &List() && List().ChosenLine() == 2; }));
     ASSERT_TRUE(m_window->ShowDetails(2));
     ASSERT_TRUE(tests::PumpUntil([this] { return CWnd::GetActiveWindow() == &m_window->Details(); }));
