@@ -1,9 +1,17 @@
 #include "SettingsGroup.h"
 
+#include <uxtheme.h>
+
 #include "BrowseKey.h"
 #include "dialogs/Dialog3d.h"
+#include "logic/ReadableColours.h"
 
 CSettingsGroup::CSettingsGroup(UINT templateId) : CPropertyPage3d(CDialog3d::NO_DLL, templateId, 0U) {}
+
+bool CSettingsGroup::HasDarkGround()
+{
+    return workbench::ContrastRatio(::GetSysColor(COLOR_BTNFACE), RGB(0, 0, 0)) < workbench::c_textContrast;
+}
 
 BOOL CSettingsGroup::OnInitDialog()
 {
@@ -31,6 +39,10 @@ BOOL CSettingsGroup::OnSetActive()
 {
     if (!m_filled)
     {
+        if (HasDarkGround())
+        {
+            ::EnableThemeDialogTexture(m_hWnd, ETDT_DISABLE);
+        }
         Show(m_current());
         D3dLayoutComplete();
         m_filled = true;

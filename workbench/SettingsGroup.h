@@ -12,6 +12,9 @@ class CSettingsGroup : public CPropertyPage3d
 public:
     explicit CSettingsGroup(UINT templateId);
 
+    /// Whether the system's dialogs are dark. Visual styles are made for light ones.
+    static bool HasDarkGround();
+
     /// Shows these settings.
     virtual void Show(workbench::Settings const & settings) = 0;
     /// Puts what the user has chosen into the settings. False if that is no choice; the user has been told then, and

@@ -1,5 +1,7 @@
 #include "SettingsSheet.h"
 
+#include <uxtheme.h>
+
 #include "logic/Texts.h"
 
 using workbench::Settings;
@@ -59,6 +61,11 @@ BOOL CSettingsSheet::OnInitDialog()
     // The system has them in its own language.
     SetDlgItemText(IDCANCEL, Text(L"Cancel"));
     SetDlgItemText(ID_APPLY_NOW, Text(L"&Apply"));
+    // Visual styles are made for a light ground.
+    if (CSettingsGroup::HasDarkGround())
+    {
+        ::SetWindowTheme(GetTabControl()->m_hWnd, L"", L"");
+    }
     StretchTabs();
     return result;
 }
