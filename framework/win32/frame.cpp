@@ -2,6 +2,7 @@
 
 #include "afxpriv.h"
 #include "detail/FrameSupport.h"
+#include "detail/MenuMode.h"
 #include "detail/ThreadState.h"
 #include "detail/WndAccess.h"
 
@@ -87,9 +88,9 @@ LPCTSTR framework::FrameClassName()
 
 CFrameWnd::CFrameWnd()
     : m_bAutoMenuEnable(TRUE),
+      m_hAccelTable(nullptr),
       m_activeView(nullptr),
       m_defaultMenu(nullptr),
-      m_accelerators(nullptr),
       m_number(0),
       m_messageTracking(0),
       m_messageShown(0),
@@ -187,14 +188,14 @@ BOOL CFrameWnd::LoadFrame(UINT nIDResource, DWORD dwDefaultStyle, CWnd * pParent
 
 BOOL CFrameWnd::LoadAccelTable(LPCTSTR lpszResourceName)
 {
-    ASSERT(m_accelerators == nullptr);
-    m_accelerators = ::LoadAccelerators(AfxFindResourceHandle(lpszResourceName, RT_ACCELERATOR), lpszResourceName);
-    return m_accelerators != nullptr;
+    ASSERT(m_hAccelTable == nullptr);
+    m_hAccelTable = ::LoadAccelerators(AfxFindResourceHandle(lpszResourceName, RT_ACCELERATOR), lpszResourceName);
+    return m_hAccelTable != nullptr;
 }
 
 HACCEL CFrameWnd::GetDefaultAccelerator()
 {
-    return m_accelerators;
+    return m_hAccelTable;
 }
 
 int CFrameWnd::OnCreate(LPCREATESTRUCT lpCreateStruct)
@@ -356,6 +357,8 @@ void CFrameWnd::OnSetFocus(CWnd * pOldWnd)
 void CFrameWnd::OnActivate(UINT nState, CWnd * pWndOther, BOOL bMinimized)
 {
     WindowGuard const guard(this);
+    if (nState == WA_INACTIVE)
+        framework::EndMenuMode();
     CWnd::OnActivate(nState, pWndOther, bMinimized);
     if (!guard.Alive())
         return;

@@ -2,6 +2,7 @@
 
 #include "afxpriv.h"
 #include "detail/FrameSupport.h"
+#include "detail/MenuMode.h"
 #include "detail/ThreadState.h"
 #include "detail/WndAccess.h"
 
@@ -261,6 +262,8 @@ void CFrameWnd::UpdateFrameTitleForDocument(LPCTSTR lpszDocName)
 
 void CFrameWnd::OnUpdateFrameMenu(HMENU hMenuAlt)
 {
+    if (framework::ShowMenuInBar(m_hWnd, hMenuAlt))
+        return;
     ::SetMenu(m_hWnd, hMenuAlt != nullptr ? hMenuAlt : m_defaultMenu);
 }
 

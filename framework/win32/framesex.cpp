@@ -1,19 +1,42 @@
 // The extended frames.
 
 #include "afxcontrolbars.h"
+#include "afxpriv.h"
+#include "detail/DockHost.h"
+#include "detail/FrameSupport.h"
+
+using framework::DockHost;
+using framework::WindowGuard;
 
 IMPLEMENT_DYNCREATE(CMDIFrameWndEx, CMDIFrameWnd)
 IMPLEMENT_DYNCREATE(CMDIChildWndEx, CMDIChildWnd)
 IMPLEMENT_DYNCREATE(CFrameWndEx, CFrameWnd)
 
-CMDIFrameWndEx::CMDIFrameWndEx() : m_resource(0) {}
+// clang-format off
+BEGIN_MESSAGE_MAP(CMDIFrameWndEx, CMDIFrameWnd)
+    ON_WM_CLOSE()
+    ON_WM_DESTROY()
+    ON_MESSAGE(WM_IDLEUPDATECMDUI, &CMDIFrameWndEx::HandleIdleUpdate)
+    ON_MESSAGE(WM_SETTINGCHANGE, &CMDIFrameWndEx::HandleSettingChange)
+END_MESSAGE_MAP()
+// clang-format on
+
+CMDIFrameWndEx::CMDIFrameWndEx() : m_resource(0)
+{
+    m_impl.m_frame = this;
+}
 
 CMDIFrameWndEx::~CMDIFrameWndEx() = default;
 
 BOOL CMDIFrameWndEx::LoadFrame(UINT nIDResource, DWORD dwDefaultStyle, CWnd * pParentWnd, CCreateContext * pContext)
 {
     m_resource = nIDResource;
-    return CMDIFrameWnd::LoadFrame(nIDResource, dwDefaultStyle, pParentWnd, pContext);
+    if (!CMDIFrameWnd::LoadFrame(nIDResource, dwDefaultStyle, pParentWnd, pContext))
+        return FALSE;
+    WindowGuard const guard(this);
+    if (auto * const app = DYNAMIC_DOWNCAST(CWinAppEx, AfxGetApp()))
+        app->LoadState(nullptr, &m_impl);
+    return guard.Alive();
 }
 
 UINT CMDIFrameWndEx::GetDefaultResId() const
@@ -21,14 +44,145 @@ UINT CMDIFrameWndEx::GetDefaultResId() const
     return m_resource;
 }
 
+void CMDIFrameWndEx::OnClose()
+{
+    WindowGuard const guard(this);
+    if (auto * const app = DYNAMIC_DOWNCAST(CWinAppEx, AfxGetApp()); app != nullptr && app->m_pMainWnd == this)
+        app->OnClosingMainFrame(&m_impl);
+    if (guard.Alive())
+        CMDIFrameWnd::OnClose();
+}
+
+void CMDIFrameWndEx::OnDestroy()
+{
+    if (DockHost * const host = m_impl.Host())
+        host->FrameEnds();
+    CMDIFrameWnd::OnDestroy();
+}
+
+LRESULT CMDIFrameWndEx::HandleIdleUpdate(WPARAM, LPARAM)
+{
+    WindowGuard const guard(this);
+    LRESULT const result = Default();
+    if (guard.Alive() && m_impl.Host() != nullptr)
+        m_impl.Host()->RepaintCaptions();
+    return result;
+}
+
+LRESULT CMDIFrameWndEx::HandleSettingChange(WPARAM, LPARAM)
+{
+    WindowGuard const guard(this);
+    LRESULT const result = Default();
+    if (guard.Alive() && m_impl.Host() != nullptr)
+    {
+        m_impl.Host()->MeasureAgain();
+        m_impl.Host()->Arrange();
+    }
+    return result;
+}
+
+BOOL CMDIFrameWndEx::EnableDocking(DWORD dwDockStyle)
+{
+    CMDIFrameWnd::EnableDocking(dwDockStyle);
+    return m_impl.Manager().Create(this) && m_impl.Manager().EnableDocking(dwDockStyle);
+}
+
+BOOL CMDIFrameWndEx::EnableAutoHidePanes(DWORD dwDockStyle)
+{
+    return m_impl.Manager().Create(this) && m_impl.Manager().EnableAutoHidePanes(dwDockStyle);
+}
+
+void CMDIFrameWndEx::EnableLoadDockState(BOOL bEnable)
+{
+    m_impl.m_loadDockState = bEnable != FALSE;
+}
+
+BOOL CMDIFrameWndEx::AddPane(CBasePane * pControlBar, BOOL bTail)
+{
+    return m_impl.Manager().Create(this) && m_impl.Manager().AddPane(pControlBar, bTail);
+}
+
+BOOL CMDIFrameWndEx::InsertPane(CBasePane * pControlBar, CBasePane * pTarget, BOOL bAfter)
+{
+    return m_impl.Manager().Create(this) && m_impl.Manager().InsertPane(pControlBar, pTarget, bAfter);
+}
+
+void CMDIFrameWndEx::RemovePaneFromDockManager(CBasePane * pControlBar, BOOL bDestroy, BOOL bAdjustLayout,
+                                               BOOL bAutoHide, CBasePane * pBarReplacement)
+{
+    m_impl.Manager().RemovePaneFromDockManager(pControlBar, bDestroy, bAdjustLayout, bAutoHide, pBarReplacement);
+}
+
+void CMDIFrameWndEx::DockPane(CBasePane * pBar, UINT nDockBarID, LPCRECT lpRect)
+{
+    if (m_impl.Manager().Create(this))
+        m_impl.Manager().DockPane(pBar, nDockBarID, lpRect);
+}
+
+BOOL CMDIFrameWndEx::DockPaneLeftOf(CPane * pBar, CPane * pLeftOf)
+{
+    return m_impl.Manager().Create(this) && m_impl.Manager().DockPaneLeftOf(pBar, pLeftOf);
+}
+
+void CMDIFrameWndEx::ShowPane(CBasePane * pBar, BOOL bShow, BOOL bDelay, BOOL bActivate)
+{
+    ASSERT(pBar != nullptr);
+    pBar->ShowPane(bShow, bDelay, bActivate);
+}
+
+CBasePane * CMDIFrameWndEx::GetPane(UINT nID)
+{
+    return m_impl.Manager().Create(this) ? m_impl.Manager().FindPaneByID(nID, TRUE) : nullptr;
+}
+
+CBasePane * CMDIFrameWndEx::PaneFromPoint(CPoint point, int nSensitivity, bool bExactBar,
+                                          CRuntimeClass * pRTCBarType) const
+{
+    return m_impl.m_dockingManager.PaneFromPoint(point, nSensitivity, bExactBar, pRTCBarType);
+}
+
+void CMDIFrameWndEx::AdjustDockingLayout(HDWP hdwp)
+{
+    m_impl.Manager().AdjustDockingLayout(hdwp);
+}
+
+BOOL CMDIFrameWndEx::OnCloseDockingPane(CDockablePane *)
+{
+    return TRUE;
+}
+
+BOOL CMDIFrameWndEx::OnCloseMiniFrame(CPaneFrameWnd *)
+{
+    return TRUE;
+}
+
+BOOL CMDIFrameWndEx::OnShowPanes(BOOL bShow)
+{
+    return m_impl.Manager().ShowPanes(bShow);
+}
+
 BOOL CMDIFrameWndEx::OnCmdMsg(UINT nID, int nCode, void * pExtra, AFX_CMDHANDLERINFO * pHandlerInfo)
 {
     return CMDIFrameWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
 }
 
+BOOL CMDIFrameWndEx::PreTranslateMessage(MSG * pMsg)
+{
+    // Ctrl+Tab goes from pane to pane.
+    if (pMsg->message == WM_KEYDOWN && pMsg->wParam == VK_TAB && ::GetKeyState(VK_CONTROL) < 0 &&
+        ::GetKeyState(VK_MENU) >= 0 && m_impl.Host() != nullptr && m_impl.Host()->Cycle(::GetKeyState(VK_SHIFT) < 0))
+        return TRUE;
+    return CMDIFrameWnd::PreTranslateMessage(pMsg);
+}
+
 void CMDIFrameWndEx::RecalcLayout(BOOL bNotify)
 {
-    CMDIFrameWnd::RecalcLayout(bNotify);
+    // Without docking, bars and client area are a plain frame's.
+    DockHost * const host = m_impl.Host();
+    if (host == nullptr || (GetStyle() & FWS_SNAPTOBARS) != 0)
+        CMDIFrameWnd::RecalcLayout(bNotify);
+    else
+        host->Arrange();
 }
 
 CMDIChildWndEx::CMDIChildWndEx() = default;
@@ -86,19 +240,153 @@ void CMDIChildWndEx::ActivateTopLevelFrame()
         top->ActivateFrame();
 }
 
-CFrameWndEx::CFrameWndEx() : m_resource(0) {}
+// clang-format off
+BEGIN_MESSAGE_MAP(CFrameWndEx, CFrameWnd)
+    ON_WM_CLOSE()
+    ON_WM_DESTROY()
+    ON_MESSAGE(WM_IDLEUPDATECMDUI, &CFrameWndEx::HandleIdleUpdate)
+    ON_MESSAGE(WM_SETTINGCHANGE, &CFrameWndEx::HandleSettingChange)
+END_MESSAGE_MAP()
+// clang-format on
+
+CFrameWndEx::CFrameWndEx() : m_resource(0)
+{
+    m_impl.m_frame = this;
+}
 
 CFrameWndEx::~CFrameWndEx() = default;
 
 BOOL CFrameWndEx::LoadFrame(UINT nIDResource, DWORD dwDefaultStyle, CWnd * pParentWnd, CCreateContext * pContext)
 {
     m_resource = nIDResource;
-    return CFrameWnd::LoadFrame(nIDResource, dwDefaultStyle, pParentWnd, pContext);
+    if (!CFrameWnd::LoadFrame(nIDResource, dwDefaultStyle, pParentWnd, pContext))
+        return FALSE;
+    WindowGuard const guard(this);
+    if (auto * const app = DYNAMIC_DOWNCAST(CWinAppEx, AfxGetApp()))
+        app->LoadState(nullptr, &m_impl);
+    return guard.Alive();
 }
 
 UINT CFrameWndEx::GetDefaultResId() const
 {
     return m_resource;
+}
+
+void CFrameWndEx::OnClose()
+{
+    WindowGuard const guard(this);
+    if (auto * const app = DYNAMIC_DOWNCAST(CWinAppEx, AfxGetApp()); app != nullptr && app->m_pMainWnd == this)
+        app->OnClosingMainFrame(&m_impl);
+    if (guard.Alive())
+        CFrameWnd::OnClose();
+}
+
+void CFrameWndEx::OnDestroy()
+{
+    if (DockHost * const host = m_impl.Host())
+        host->FrameEnds();
+    CFrameWnd::OnDestroy();
+}
+
+LRESULT CFrameWndEx::HandleIdleUpdate(WPARAM, LPARAM)
+{
+    WindowGuard const guard(this);
+    LRESULT const result = Default();
+    if (guard.Alive() && m_impl.Host() != nullptr)
+        m_impl.Host()->RepaintCaptions();
+    return result;
+}
+
+LRESULT CFrameWndEx::HandleSettingChange(WPARAM, LPARAM)
+{
+    WindowGuard const guard(this);
+    LRESULT const result = Default();
+    if (guard.Alive() && m_impl.Host() != nullptr)
+    {
+        m_impl.Host()->MeasureAgain();
+        m_impl.Host()->Arrange();
+    }
+    return result;
+}
+
+BOOL CFrameWndEx::EnableDocking(DWORD dwDockStyle)
+{
+    CFrameWnd::EnableDocking(dwDockStyle);
+    return m_impl.Manager().Create(this) && m_impl.Manager().EnableDocking(dwDockStyle);
+}
+
+BOOL CFrameWndEx::EnableAutoHidePanes(DWORD dwDockStyle)
+{
+    return m_impl.Manager().Create(this) && m_impl.Manager().EnableAutoHidePanes(dwDockStyle);
+}
+
+void CFrameWndEx::EnableLoadDockState(BOOL bEnable)
+{
+    m_impl.m_loadDockState = bEnable != FALSE;
+}
+
+BOOL CFrameWndEx::AddPane(CBasePane * pControlBar, BOOL bTail)
+{
+    return m_impl.Manager().Create(this) && m_impl.Manager().AddPane(pControlBar, bTail);
+}
+
+BOOL CFrameWndEx::InsertPane(CBasePane * pControlBar, CBasePane * pTarget, BOOL bAfter)
+{
+    return m_impl.Manager().Create(this) && m_impl.Manager().InsertPane(pControlBar, pTarget, bAfter);
+}
+
+void CFrameWndEx::RemovePaneFromDockManager(CBasePane * pControlBar, BOOL bDestroy, BOOL bAdjustLayout, BOOL bAutoHide,
+                                            CBasePane * pBarReplacement)
+{
+    m_impl.Manager().RemovePaneFromDockManager(pControlBar, bDestroy, bAdjustLayout, bAutoHide, pBarReplacement);
+}
+
+void CFrameWndEx::DockPane(CBasePane * pBar, UINT nDockBarID, LPCRECT lpRect)
+{
+    if (m_impl.Manager().Create(this))
+        m_impl.Manager().DockPane(pBar, nDockBarID, lpRect);
+}
+
+BOOL CFrameWndEx::DockPaneLeftOf(CPane * pBar, CPane * pLeftOf)
+{
+    return m_impl.Manager().Create(this) && m_impl.Manager().DockPaneLeftOf(pBar, pLeftOf);
+}
+
+void CFrameWndEx::ShowPane(CBasePane * pBar, BOOL bShow, BOOL bDelay, BOOL bActivate)
+{
+    ASSERT(pBar != nullptr);
+    pBar->ShowPane(bShow, bDelay, bActivate);
+}
+
+CBasePane * CFrameWndEx::GetPane(UINT nID)
+{
+    return m_impl.Manager().Create(this) ? m_impl.Manager().FindPaneByID(nID, TRUE) : nullptr;
+}
+
+CBasePane * CFrameWndEx::PaneFromPoint(CPoint point, int nSensitivity, bool bExactBar,
+                                       CRuntimeClass * pRTCBarType) const
+{
+    return m_impl.m_dockingManager.PaneFromPoint(point, nSensitivity, bExactBar, pRTCBarType);
+}
+
+void CFrameWndEx::AdjustDockingLayout(HDWP hdwp)
+{
+    m_impl.Manager().AdjustDockingLayout(hdwp);
+}
+
+BOOL CFrameWndEx::OnCloseDockingPane(CDockablePane *)
+{
+    return TRUE;
+}
+
+BOOL CFrameWndEx::OnCloseMiniFrame(CPaneFrameWnd *)
+{
+    return TRUE;
+}
+
+BOOL CFrameWndEx::OnShowPanes(BOOL bShow)
+{
+    return m_impl.Manager().ShowPanes(bShow);
 }
 
 BOOL CFrameWndEx::OnCmdMsg(UINT nID, int nCode, void * pExtra, AFX_CMDHANDLERINFO * pHandlerInfo)
@@ -108,7 +396,21 @@ BOOL CFrameWndEx::OnCmdMsg(UINT nID, int nCode, void * pExtra, AFX_CMDHANDLERINF
 
 BOOL CFrameWndEx::PreTranslateMessage(MSG * pMsg)
 {
+    // Ctrl+Tab goes from pane to pane.
+    if (pMsg->message == WM_KEYDOWN && pMsg->wParam == VK_TAB && ::GetKeyState(VK_CONTROL) < 0 &&
+        ::GetKeyState(VK_MENU) >= 0 && m_impl.Host() != nullptr && m_impl.Host()->Cycle(::GetKeyState(VK_SHIFT) < 0))
+        return TRUE;
     return CFrameWnd::PreTranslateMessage(pMsg);
+}
+
+void CFrameWndEx::RecalcLayout(BOOL bNotify)
+{
+    // Without docking, bars and client area are a plain frame's.
+    DockHost * const host = m_impl.Host();
+    if (host == nullptr || (GetStyle() & FWS_SNAPTOBARS) != 0)
+        CFrameWnd::RecalcLayout(bNotify);
+    else
+        host->Arrange();
 }
 
 void CFrameWndEx::OnUpdateFrameTitle(BOOL bAddToTitle)
@@ -116,7 +418,7 @@ void CFrameWndEx::OnUpdateFrameTitle(BOOL bAddToTitle)
     CFrameWnd::OnUpdateFrameTitle(bAddToTitle);
 }
 
-void CFrameWndEx::RecalcLayout(BOOL bNotify)
+CDockingManager * CFrameWndEx::GetDockingManager()
 {
-    CFrameWnd::RecalcLayout(bNotify);
+    return m_impl.Manager().Create(this) ? &m_impl.Manager() : nullptr;
 }

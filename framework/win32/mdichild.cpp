@@ -2,6 +2,7 @@
 
 #include "afxpriv.h"
 #include "detail/FrameSupport.h"
+#include "detail/MenuMode.h"
 #include "detail/WndAccess.h"
 
 using framework::WindowGuard;
@@ -105,8 +106,8 @@ BOOL CMDIChildWnd::LoadFrame(UINT nIDResource, DWORD dwDefaultStyle, CWnd * pPar
     {
         if (m_sharedMenu == nullptr)
             m_sharedMenu = pContext->m_pNewDocTemplate->m_sharedMenu;
-        if (m_accelerators == nullptr)
-            m_accelerators = pContext->m_pNewDocTemplate->m_sharedAccelerators;
+        if (m_hAccelTable == nullptr)
+            m_hAccelTable = pContext->m_pNewDocTemplate->m_sharedAccelerators;
     }
     CString strings;
     CString title;
@@ -119,12 +120,12 @@ BOOL CMDIChildWnd::LoadFrame(UINT nIDResource, DWORD dwDefaultStyle, CWnd * pPar
 void CMDIChildWnd::SetHandles(HMENU hMenu, HACCEL hAccel)
 {
     m_sharedMenu = hMenu;
-    m_accelerators = hAccel;
+    m_hAccelTable = hAccel;
 }
 
 HACCEL CMDIChildWnd::GetDefaultAccelerator()
 {
-    return m_accelerators;
+    return m_hAccelTable;
 }
 
 int CMDIChildWnd::OnCreate(LPCREATESTRUCT lpCreateStruct)
@@ -326,6 +327,15 @@ void CMDIChildWnd::UpdateMenu(BOOL bActivate, CWnd * pActivateWnd, HMENU hNewMen
 void CMDIChildWnd::SetMenuOfFrame(HMENU hMenu)
 {
     CMDIFrameWnd * const frame = GetMDIFrame();
+    if (framework::MenuMode::BarOf(frame->m_hWnd) != nullptr)
+    {
+        // The bar has the menu; the client area has the one that lists its windows.
+        HMENU const shown = hMenu != nullptr ? hMenu : framework::MenuOfBar(frame->m_hWnd);
+        ::SendMessage(frame->m_hWndMDIClient, WM_MDISETMENU, 0,
+                      reinterpret_cast<LPARAM>(frame->GetWindowMenuPopup(shown)));
+        framework::ShowMenuInBar(frame->m_hWnd, hMenu);
+        return;
+    }
     if (hMenu == nullptr)
         hMenu = frame->m_defaultMenu;
     if (hMenu != nullptr && hMenu != ::GetMenu(frame->m_hWnd))

@@ -2,6 +2,7 @@
 
 #include "afxpriv.h"
 #include "detail/FrameSupport.h"
+#include "detail/MenuMode.h"
 #include "detail/WndAccess.h"
 
 using framework::WindowGuard;
@@ -228,7 +229,7 @@ void CMDIFrameWnd::OnUpdateFrameMenu(HMENU hMenuAlt)
 {
     if (CMDIChildWnd * const child = MDIGetActive())
         child->UpdateMenu(TRUE, child, hMenuAlt);
-    else
+    else if (!framework::ShowMenuInBar(m_hWnd, hMenuAlt))
         ::SendMessage(m_hWndMDIClient, WM_MDISETMENU,
                       reinterpret_cast<WPARAM>(hMenuAlt != nullptr ? hMenuAlt : m_defaultMenu), 0);
 }

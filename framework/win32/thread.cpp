@@ -1,6 +1,7 @@
 // CWinThread: threads with a message loop, and worker threads.
 
 #include "afxpriv.h"
+#include "detail/MenuMode.h"
 #include "detail/ThreadState.h"
 #include "detail/WndAccess.h"
 
@@ -229,6 +230,8 @@ BOOL AFXAPI AfxPreTranslateMessage(MSG * pMsg)
 
 BOOL CWinThread::PreTranslateMessage(MSG * pMsg)
 {
+    if (framework::MenuMode::Current().PreTranslate(*pMsg))
+        return TRUE;
     if (pMsg->hwnd == nullptr && framework::ThreadAccess::DispatchThreadMessage(*this, *pMsg))
         return TRUE;
     CWnd * const main = AfxGetMainWnd();

@@ -7,6 +7,7 @@
 #include "frame/ToolkitModule.h"
 #include "resource_ids.h"
 #include "windows/FrameGrid.h"
+#include "windows/WindowHold.h"
 
 IMPLEMENT_DYNCREATE(CStandaloneFrameWnd, CMDIChildWndEx)
 
@@ -26,19 +27,6 @@ namespace
 constexpr wchar_t name_before_window[] = L"in Vorbereitung";
 constexpr int no_index = -1;
 constexpr int first_pane_size = 100;
-
-/// Whether an object still has its window; an object that has lost it may be deleted.
-class WindowHold
-{
-public:
-    explicit WindowHold(CWnd const & window) : m_window(&window), m_handle(window.m_hWnd) {}
-    bool Lost() const { return CWnd::FromHandlePermanent(m_handle) != m_window; }
-    HWND Handle() const { return m_handle; }
-
-private:
-    CWnd const * m_window;
-    HWND m_handle;
-};
 } // namespace
 
 CStandaloneFrameWnd::CStandaloneFrameWnd()

@@ -33,6 +33,7 @@ public:
 
     static const CRect rectDefault; // size and place are left to the system
     BOOL m_bAutoMenuEnable;         // menu items without a handler are greyed
+    HACCEL m_hAccelTable;           // who replaces it ends the former one
 
     virtual BOOL Create(LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle = WS_OVERLAPPEDWINDOW,
                         const RECT & rect = rectDefault, CWnd * pParentWnd = nullptr, LPCTSTR lpszMenuName = nullptr,
@@ -146,7 +147,6 @@ private:
     CString m_title;
     CView * m_activeView;
     HMENU m_defaultMenu; // the one that the frame was loaded with
-    HACCEL m_accelerators;
     int m_number;           // among the frames of one document, from 1; 0 if there is only one
     UINT m_messageTracking; // what shall be shown as a message, and what is
     UINT m_messageShown;

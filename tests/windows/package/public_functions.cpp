@@ -37,12 +37,15 @@
 #include "segments/DigiStatic.h"
 #include "segments/DigiStyle.h"
 #include "segments/LedTextAnzeiger.h"
+#include "windows/DockableViewPane.h"
 #include "windows/FensterManager.h"
+#include "windows/MainFrmInterface.h"
 #include "windows/MemorySettingsTree.h"
 #include "windows/MenueManager.h"
 #include "windows/RegistrySettingsTree.h"
 #include "windows/SettingsFile.h"
 #include "windows/SettingsTree.h"
+#include "windows/StandaloneFrameMigrationHelper.h"
 #include "windows/StandaloneFrameUser.h"
 #include "windows/StandaloneFrameWnd.h"
 
@@ -468,6 +471,12 @@ void UseAll()
     Use(+[](CLedTextAnzeiger const & object) -> unsigned int { return object.CLedTextAnzeiger::TextWidht(); });
     Use(+[](CLedTextAnzeiger & object, Gdiplus::Graphics & a0, CRect & a1) -> void { return object.CLedTextAnzeiger::DrawTextW(std::forward<Gdiplus::Graphics &>(a0), std::forward<CRect &>(a1)); });
 
+    // windows/DockableViewPane.h
+    Use(+[]() { delete new CDockableViewPane(); });
+    Use(+[](CDockableViewPane & object, CView & a0, wchar_t const * a1) -> bool { return object.CDockableViewPane::Connect(std::forward<CView &>(a0), std::forward<wchar_t const *>(a1)); });
+    Use(+[](CDockableViewPane & object) -> CView * { return object.CDockableViewPane::View(); });
+    Use(+[](CDockableViewPane & object, CRect a0) -> bool { return object.CDockableViewPane::Float(std::forward<CRect>(a0)); });
+
     // windows/FensterManager.h
     Use(+[](CFensterManager::window_t a0) { delete new CFensterManager(std::forward<CFensterManager::window_t>(a0)); });
     Use(+[](CString const & a0, CFensterManager::window_t a1) { delete new CFensterManager(std::forward<CString const &>(a0), std::forward<CFensterManager::window_t>(a1)); });
@@ -503,6 +512,22 @@ void UseAll()
     Use(+[](CFensterManager & object, CString const & a0) -> int { return object.CFensterManager::IsMaximized(std::forward<CString const &>(a0)); });
     Use(+[](CFensterManager & object) -> void { return object.CFensterManager::CloseAllViews(); });
     Use(+[](bool a0) -> void { return CFensterManager::ActivateTouchFreeze(std::forward<bool>(a0)); });
+
+    // windows/MainFrmInterface.h
+    Use(&CMainFrmInterface::id_base);
+    Use(&CMainFrmInterface::max_panes);
+    Use(&CMainFrmInterface::reg_workspace_settings);
+    Use(&CMainFrmInterface::reg_entry_basepanes);
+    Use(&CMainFrmInterface::reg_entry_panes);
+    Use(+[](CMDIFrameWndEx * a0) { delete new CMainFrmInterface(std::forward<CMDIFrameWndEx *>(a0)); });
+    Use(+[](CMainFrmInterface & object, CDockableViewPane *& a0, int a1) -> int { return object.CMainFrmInterface::register_pane(std::forward<CDockableViewPane *&>(a0), std::forward<int>(a1)); });
+    Use(+[](CMainFrmInterface const & object) -> unsigned int { return object.CMainFrmInterface::base_id(); });
+    Use(+[](CMainFrmInterface & object, unsigned int a0) -> void { return object.CMainFrmInterface::base_id(std::forward<unsigned int>(a0)); });
+    Use(+[](CMainFrmInterface & object) -> std::map<unsigned int, CDockableViewPane *> & { return object.CMainFrmInterface::panes(); });
+    Use(+[](CMainFrmInterface & object, unsigned int a0, wchar_t const * a1, std::function<void()> a2, unsigned short a3, unsigned char a4) -> int { return object.CMainFrmInterface::register_menu(std::forward<unsigned int>(a0), std::forward<wchar_t const *>(a1), std::forward<std::function<void()>>(a2), std::forward<unsigned short>(a3), std::forward<unsigned char>(a4)); });
+    Use(+[](CMainFrmInterface & object, int a0) -> bool { return object.CMainFrmInterface::release_menu(std::forward<int>(a0)); });
+    Use(+[](CMainFrmInterface const & object) -> bool { return object.CMainFrmInterface::export_registry_settings(); });
+    Use(+[](CMainFrmInterface & object) -> bool { return object.CMainFrmInterface::import_registry_settings(); });
 
     // windows/MemorySettingsTree.h
     Use(+[](registry_settings::MemorySettingsTree & object, std::u16string const & a0, registry_settings::SettingsTree::access_t a1) -> registry_settings::SettingsTree::key_t { return object.registry_settings::MemorySettingsTree::Open(std::forward<std::u16string const &>(a0), std::forward<registry_settings::SettingsTree::access_t>(a1)); });
@@ -559,6 +584,11 @@ void UseAll()
     Use(+[](SettingsTree & a0, registry_entry_list & a1) -> bool { return registry_settings::write_registry_tree(std::forward<SettingsTree &>(a0), std::forward<registry_entry_list &>(a1)); });
     Use(+[](SettingsTree & a0, std::u16string const & a1) -> bool { return registry_settings::delete_registry_tree(std::forward<SettingsTree &>(a0), std::forward<std::u16string const &>(a1)); });
     Use(+[](SettingsTree & a0, std::u16string const & a1) -> bool { return registry_settings::registry_key_exists(std::forward<SettingsTree &>(a0), std::forward<std::u16string const &>(a1)); });
+
+    // windows/StandaloneFrameMigrationHelper.h
+    Use(+[](CString const & a0) -> CRect { return CStandaloneFrameMigrationHelper::VeskPosition(std::forward<CString const &>(a0)); });
+    Use(+[](CStandaloneFrameWnd * a0, CDockablePane * a1) -> void { return CStandaloneFrameMigrationHelper::BringWindowToTop(std::forward<CStandaloneFrameWnd *>(a0), std::forward<CDockablePane *>(a1)); });
+    Use(+[] { delete new CStandaloneFrameMigrationHelper; });
 
     // windows/StandaloneFrameUser.h
     Use(+[](CStandaloneFrameUser & object, CStandaloneFrameUser const & a0) -> CStandaloneFrameUser & { return object.CStandaloneFrameUser::operator=(std::forward<CStandaloneFrameUser const &>(a0)); });
