@@ -12,6 +12,7 @@ END_MESSAGE_MAP()
 BOOL CHostView::PreCreateWindow(CREATESTRUCT & create)
 {
     create.style |= WS_CLIPCHILDREN;
+    create.style &= ~WS_BORDER; // what it hosts has an edge of its own, or none
     create.dwExStyle |= WS_EX_CONTROLPARENT;
     return CView::PreCreateWindow(create);
 }
@@ -19,9 +20,16 @@ BOOL CHostView::PreCreateWindow(CREATESTRUCT & create)
 void CHostView::OnSize(UINT type, int width, int height)
 {
     CView::OnSize(type, width, height);
+    Fill();
+}
+
+void CHostView::Fill()
+{
+    CRect client;
+    GetClientRect(&client);
     if (auto * const child = GetWindow(GW_CHILD))
     {
-        child->MoveWindow(0, 0, width, height);
+        child->MoveWindow(client);
     }
 }
 
@@ -41,11 +49,18 @@ BOOL CHostView::OnEraseBkgnd(CDC * dc)
 /// In the main window itself there are several views, of which none is the active one.
 int CHostView::OnMouseActivate(CWnd * top, UINT hit, UINT message)
 {
-    return GetParentFrame() == AfxGetMainWnd() ? CWnd::OnMouseActivate(top, hit, message)
+    return IsInMainWindow() ? CWnd::OnMouseActivate(top, hit, message)
                                                : CView::OnMouseActivate(top, hit, message);
 }
 
-/// In a frame, goes from one control to the next; in the main window that goes through all parts.
+/// Whether it lies in the main window itself, and not in a frame or a pane that floats.
+bool CHostView::IsInMainWindow() const
+{
+    auto * const main = AfxGetMainWnd();
+    return main != nullptr && GetParentFrame() == main && main->IsChild(this);
+}
+
+/// Goes from one control to the next; in the main window that goes through all parts.
 BOOL CHostView::PreTranslateMessage(MSG * message)
 {
     if (CView::PreTranslateMessage(message))
@@ -53,5 +68,5 @@ BOOL CHostView::PreTranslateMessage(MSG * message)
         return TRUE;
     }
     auto const goesOn = message->message == WM_KEYDOWN && message->wParam == VK_TAB && ::GetKeyState(VK_CONTROL) >= 0;
-    return goesOn && GetParentFrame() != AfxGetMainWnd() && IsDialogMessage(message);
+    return goesOn && !IsInMainWindow() && IsDialogMessage(message);
 }

@@ -9,6 +9,9 @@ class CHostView : public CView
     DECLARE_DYNCREATE(CHostView)
 
 public:
+    /// Gives the child the view's size, as every change of the size does.
+    void Fill();
+
     BOOL PreCreateWindow(CREATESTRUCT & create) override;
     BOOL PreTranslateMessage(MSG * message) override;
 
@@ -22,4 +25,6 @@ private:
     afx_msg void OnSetFocus(CWnd * previous);
     afx_msg BOOL OnEraseBkgnd(CDC * dc);
     afx_msg int OnMouseActivate(CWnd * top, UINT hit, UINT message);
+
+    bool IsInMainWindow() const;
 };

@@ -8,7 +8,11 @@
 #include <algorithm>
 
 #include "colours/Farbtabellen.h"
+#include "logic/Texts.h"
 #include "resource.h"
+#include "windows/StandaloneFrameMigrationHelper.h"
+
+using workbench::Text;
 
 namespace
 {
@@ -61,6 +65,8 @@ BEGIN_MESSAGE_MAP(CMainWindow, CMDIFrameWndEx)
     ON_COMMAND(ID_COPY_ALL, &CMainWindow::OnCopyAll)
     ON_COMMAND(ID_COPY_SPECTROGRAM, &CMainWindow::OnCopySpectrogram)
     ON_COMMAND(ID_SHOW_FOLDERS, &CMainWindow::OnShowFolders)
+    ON_COMMAND(ID_RESET_LAYOUT, &CMainWindow::OnResetLayout)
+    ON_COMMAND_RANGE(ID_DYNAMIC_FIRST, ID_DYNAMIC_LAST, &CMainWindow::OnDynamicCommand)
     ON_COMMAND(ID_CHOOSE_COLUMNS, &CMainWindow::OnChooseColumns)
     ON_COMMAND(ID_EXPORT_LIST, &CMainWindow::OnExportList)
     ON_COMMAND_RANGE(ID_AMPLIFY, ID_AMPLIFY_FIT, &CMainWindow::OnAmplify)
@@ -86,12 +92,15 @@ BEGIN_MESSAGE_MAP(CMainWindow, CMDIFrameWndEx)
 END_MESSAGE_MAP()
 
 CMainWindow::CMainWindow(int dotsPerInch)
-    : m_metrics(dotsPerInch),
+    : CMainFrmInterface(this),
+      m_metrics(dotsPerInch),
       m_memory(c_title, CFensterManager::window_main),
       m_details(*this),
       m_preview(*this),
       m_settings(workbench::ReadSettings())
 {
+    base_id(id_base);
+    menu_range(ID_DYNAMIC_FIRST, ID_DYNAMIC_LAST + 1);
 }
 
 CMainWindow::~CMainWindow()
@@ -114,17 +123,23 @@ BOOL CMainWindow::PreCreateWindow(CREATESTRUCT & create)
 bool CMainWindow::CreateMainWindow()
 {
     m_memory.SetNowExit(false);
-    if (!LoadFrame(IDR_MAIN_FRAME, WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN))
+    if (auto * const app = DYNAMIC_DOWNCAST(CWinAppEx, AfxGetApp()))
+    {
+        app->EnableLoadWindowPlacement(FALSE); // that is the window manager's
+    }
+    if (!LoadFrame(IDR_MAIN_FRAME, WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN) || !CreateParts())
     {
         return false;
     }
+    PrepareContents();
     PrepareDialogs();
     PrepareFrames();
+    PreparePaneMenu();
     Arrange();
 
     CRect work;
     ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
-    auto const folders = m_folderPane ? FolderPaneWidth() + m_metrics.X(c_dividerGap) : 0;
+    auto const folders = m_settings.folderPane.value_or(HasRoomForFolders()) ? FolderPaneWidth() + m_metrics.X(c_dividerGap) : 0;
     auto const limit = m_metrics.X(c_preferredWidthLimit) + folders;
     auto const width = std::max<int>(std::min(work.Width() * c_preferredPercent / 100, limit), m_leastSize.cx);
     auto const height = std::max<int>(
@@ -133,6 +148,8 @@ bool CMainWindow::CreateMainWindow()
     auto const top = std::max((work.Height() - height) / 3, 0);
     m_memory.PreferedPosition(left, top, left + width, top + height);
     m_memory.ReadMyPosition(this);
+    DockByDefault(m_isPlaced);
+    release_orphan_panes();
     m_frames.Restore();
     return true;
 }
@@ -140,20 +157,40 @@ bool CMainWindow::CreateMainWindow()
 /// The room for frames. Their items in the window menu are the window's own affair.
 BOOL CMainWindow::OnCreateClient(LPCREATESTRUCT create, CCreateContext *)
 {
-    return CreateClient(create, nullptr);
+    if (!CreateClient(create, nullptr))
+    {
+        return FALSE;
+    }
+    // What the panes stand around is the list.
+    ::SetWindowLongPtrW(m_hWndMDIClient, GWLP_ID, IDC_FRAMES_AREA);
+    return TRUE;
 }
 
 int CMainWindow::OnCreate(LPCREATESTRUCT create)
 {
-    if (CMDIFrameWndEx::OnCreate(create) == -1 || !CreateChildren())
+    if (CMDIFrameWndEx::OnCreate(create) == -1 || !EnableDocking(CBRS_ALIGN_ANY) ||
+        !EnableAutoHidePanes(CBRS_ALIGN_ANY))
     {
         return -1;
+    }
+    // Panes that the workspace knows come back at their places.
+    assign_panes();
+    for (auto const & [id, pane] : panes())
+    {
+        pane->Create(L"", this, CRect(0, 0, 200, 100), TRUE, id,
+                     WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | WS_CLIPCHILDREN | CBRS_BOTTOM | CBRS_FLOAT_MULTI);
     }
     SetIcon(
         static_cast<HICON>(::LoadImageW(AfxGetInstanceHandle(), MAKEINTRESOURCEW(IDI_WORKBENCH), IMAGE_ICON,
                                         ::GetSystemMetrics(SM_CXSMICON), ::GetSystemMetrics(SM_CYSMICON), LR_SHARED)),
         FALSE);
     DragAcceptFiles();
+    return 0;
+}
+
+/// Lets the parts do what the window is for.
+void CMainWindow::PrepareContents()
+{
     m_spectrogram.SetColours(Farbtabellen::SpektrogrammFarbtabelle(m_settings.spectrogramScale));
     Waveform().SetColours(m_settings.waveform);
     Waveform().SetAmplification(m_settings.amplification);
@@ -188,19 +225,67 @@ int CMainWindow::OnCreate(LPCREATESTRUCT create)
     m_notes = std::make_unique<workbench::NotesStore>(workbench::NotesFile(),
                                                       [window] { ::PostMessageW(window, message_notes_turned, 0, 0); });
     ShowTargets({});
-    return 0;
 }
 
-bool CMainWindow::CreateChildren()
+/// The names under which the parts were known as windows of their own, and their titles.
+wchar_t const * CMainWindow::NameOf(Part part)
 {
-    auto const created = m_tree.CreateTree(*this, IDC_FOLDERS, m_metrics) &&
-                         m_list.CreateList(*this, IDC_RECORDINGS, m_metrics) &&
-                         m_waveformPanel.CreatePanel(*this, IDC_WAVEFORM_PANEL, m_metrics) &&
-                         m_spectrogram.CreateView(*this, IDC_SPECTROGRAM, m_metrics) &&
-                         m_panel.CreatePanel(*this, IDC_MEASURE_PANEL, m_metrics, m_settings.spectrogramScale) &&
-                         m_folderDivider.CreateDivider(*this, IDC_FOLDER_DIVIDER) &&
-                         m_framesDivider.CreateDivider(*this, IDC_FRAMES_DIVIDER);
-    return created && m_status.CreateStrip(*this, IDC_STATUS_LINE, m_metrics);
+    switch (part)
+    {
+    case part_folders:
+        return L"Folders";
+    case part_waveform:
+        return L"Waveform";
+    case part_spectrogram:
+        return L"Spectrogram";
+    default:
+        return L"Measures";
+    }
+}
+
+/// Makes the pane of a part with a view for it. Null if that failed.
+CHostView * CMainWindow::CreatePart(Part part)
+{
+    auto const wasOpen = CFensterManager::OpenInitially(NameOf(part));
+    auto id = static_cast<int>(id_base) + part;
+    auto const known = panes().find(static_cast<unsigned>(id));
+    auto const restored = known != panes().end() && ::IsWindow(known->second->m_hWnd);
+    auto * const view = CStandaloneFrameMigrationHelper::CreatePane<CHostView>(NameOf(part), id, m_panes[part]);
+    if (view == nullptr)
+    {
+        return nullptr;
+    }
+    m_panes[part]->SetWindowText(Text(NameOf(part)));
+    m_panes[part]->ModifyStyleEx(0, WS_EX_CONTROLPARENT);
+    m_isPlaced[part] = restored || wasOpen;
+    return view;
+}
+
+bool CMainWindow::CreateParts()
+{
+    std::array<CHostView *, part_count> views{};
+    for (auto part = 0; part < part_count; ++part)
+    {
+        views[static_cast<std::size_t>(part)] = CreatePart(static_cast<Part>(part));
+        if (views[static_cast<std::size_t>(part)] == nullptr)
+        {
+            return false;
+        }
+    }
+    auto * const list = new CHostView; // ends with its window
+    auto const created = list->Create(nullptr, nullptr, WS_CHILD | WS_VISIBLE, CRect(), this, AFX_IDW_PANE_FIRST) &&
+           m_list.CreateList(*list, IDC_RECORDINGS, m_metrics) &&
+           m_tree.CreateTree(*views[part_folders], IDC_FOLDERS, m_metrics) &&
+           m_waveformPanel.CreatePanel(*views[part_waveform], IDC_WAVEFORM_PANEL, m_metrics) &&
+           m_spectrogram.CreateView(*views[part_spectrogram], IDC_SPECTROGRAM, m_metrics) &&
+           m_panel.CreatePanel(*views[part_measures], IDC_MEASURE_PANEL, m_metrics, m_settings.spectrogramScale) &&
+           m_framesDivider.CreateDivider(*this, IDC_FRAMES_DIVIDER) &&
+           m_status.CreateStrip(*this, IDC_STATUS_LINE, m_metrics);
+    for (auto * const view : views)
+    {
+        view->Fill(); // panes that have come back have their size already
+    }
+    return created;
 }
 
 workbench::MainLayoutNeeds CMainWindow::LayoutNeeds() const
@@ -219,12 +304,12 @@ workbench::MainLayoutNeeds CMainWindow::LayoutNeeds() const
     needs.spectrogramHeight = m_metrics.Y(c_leastSpectrogramHeight);
     needs.panelHeight = CMeasurePanel::Height(m_metrics);
     needs.statusHeight = CStatusStrip::Height(m_metrics);
-    needs.folderWidth = m_folderPane ? FolderPaneWidth() : 0;
+    needs.captionHeight = ::GetSystemMetrics(SM_CYSMCAPTION);
     needs.framesWidth = m_frames.AnyOpen() ? ::MulDiv(client.Width(), m_settings.frameShare, 100) : 0;
     return needs;
 }
 
-/// Gives the window its least size, and the parts their places.
+/// Gives the window its least size.
 void CMainWindow::Arrange()
 {
     // All columns are in sight where the screen has room for them.
@@ -237,46 +322,96 @@ void CMainWindow::Arrange()
     CRect window(CPoint(0, 0), workbench::LeastMainArea(LayoutNeeds(), list));
     ::AdjustWindowRectEx(&window, GetStyle(), TRUE, GetExStyle());
     m_leastSize = window.Size();
-    m_folderPane = m_settings.folderPane.value_or(HasRoomForFolders());
     SetWindowPos(nullptr, 0, 0, window.Width(), window.Height(), SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     RecalcLayout();
 }
 
-/// Gives all parts their places.
-void CMainWindow::RecalcLayout(BOOL)
+/// The panes and the list have what status and frames leave.
+void CMainWindow::RecalcLayout(BOOL notify)
 {
     if (m_status.GetSafeHwnd() == nullptr || IsIconic())
     {
         return;
     }
     auto const layout = workbench::LayOutMain(LayoutNeeds());
-    struct Part
+    auto border = layout.border;
+    NegotiateBorderSpace(borderSet, &border);
+    CMDIFrameWndEx::RecalcLayout(notify);
+    struct Place
     {
         HWND window;
-        CRect place;
+        CRect rect;
     };
-    std::array<Part, 9> const parts{{{m_tree.m_hWnd, layout.folders},
-                                     {m_folderDivider.m_hWnd, layout.folderDivider},
-                                     {m_list.m_hWnd, layout.list},
-                                     {m_waveformPanel.m_hWnd, layout.waveform},
-                                     {m_spectrogram.m_hWnd, layout.spectrogram},
-                                     {m_panel.m_hWnd, layout.panel},
-                                     {m_status.m_hWnd, layout.status},
-                                     {m_framesDivider.m_hWnd, layout.framesDivider},
-                                     {m_hWndMDIClient, layout.frames}}};
-    auto moved = ::BeginDeferWindowPos(static_cast<int>(parts.size()));
-    for (auto const & [window, place] : parts)
+    std::array<Place, 3> const places{{{m_status.m_hWnd, layout.status},
+                                       {m_framesDivider.m_hWnd, layout.framesDivider},
+                                       {m_hWndMDIClient, layout.frames}}};
+    auto moved = ::BeginDeferWindowPos(static_cast<int>(places.size()));
+    for (auto const & [window, rect] : places)
     {
-        auto const show = place.IsRectEmpty() ? SWP_HIDEWINDOW : SWP_SHOWWINDOW;
+        auto const show = rect.IsRectEmpty() ? SWP_HIDEWINDOW : SWP_SHOWWINDOW;
         if (moved != nullptr)
         {
-            moved = ::DeferWindowPos(moved, window, nullptr, place.left, place.top, place.Width(), place.Height(),
+            moved = ::DeferWindowPos(moved, window, nullptr, rect.left, rect.top, rect.Width(), rect.Height(),
                                      SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS | show);
         }
     }
     if (moved != nullptr)
     {
         ::EndDeferWindowPos(moved);
+    }
+}
+
+void CMainWindow::ResetLayout()
+{
+    DockByDefault({});
+}
+
+/// Docks the panes as at the first start, but for those others.
+void CMainWindow::DockByDefault(std::array<bool, part_count> const & others)
+{
+    auto needs = LayoutNeeds();
+    needs.client.cx -= needs.framesWidth;
+    auto const sizes = workbench::DefaultPanes(needs);
+    auto const dock = [&](Part part, DWORD side, int extent, bool show = true) {
+        if (!others[part])
+        {
+            m_panes[part]->DockToFrameWindow(side, CRect(0, 0, extent, extent));
+            m_panes[part]->ShowPane(show, FALSE, FALSE);
+        }
+    };
+    // Each one stands between the list and those before it.
+    dock(part_measures, CBRS_ALIGN_BOTTOM, sizes.measures);
+    dock(part_folders, CBRS_ALIGN_LEFT, FolderPaneWidth(), m_settings.folderPane.value_or(HasRoomForFolders()));
+    dock(part_spectrogram, CBRS_ALIGN_BOTTOM, sizes.spectrogram);
+    dock(part_waveform, CBRS_ALIGN_BOTTOM, sizes.waveform);
+    FillFolders();
+}
+
+void CMainWindow::OnResetLayout()
+{
+    ResetLayout();
+}
+
+void CMainWindow::ShowPane(Part part, bool show)
+{
+    if (part == part_folders)
+    {
+        ShowFolders(show);
+        return;
+    }
+    if (!show && m_panes[part]->IsChild(GetFocus()))
+    {
+        m_list.SetFocus();
+    }
+    m_panes[part]->ShowPane(show, FALSE, show);
+}
+
+/// Keeps where the panes are.
+void CMainWindow::KeepWorkspace()
+{
+    if (auto * const app = DYNAMIC_DOWNCAST(CWinAppEx, AfxGetApp()); app != nullptr && m_panes[part_folders] != nullptr)
+    {
+        app->SaveState(this);
     }
 }
 
@@ -298,40 +433,26 @@ int CMainWindow::FolderPaneWidth() const
 
 void CMainWindow::ShowFolders(bool show)
 {
-    if (show == m_folderPane)
+    if (show == ShowsFolders())
     {
         return;
     }
-    auto const * const focus = GetFocus();
-    if (!show && focus == &m_tree)
+    if (!show && GetFocus() == &m_tree)
     {
         m_list.SetFocus();
     }
-    m_folderPane = show;
     m_settings.folderPane = show;
     workbench::StoreFolderPane(m_settings);
-    RecalcLayout();
+    m_panes[part_folders]->ShowPane(show, FALSE, FALSE);
     FillFolders();
 }
 
 void CMainWindow::OnShowFolders()
 {
-    ShowFolders(!m_folderPane);
-    if (m_folderPane)
+    ShowFolders(!ShowsFolders());
+    if (ShowsFolders())
     {
         m_tree.SetFocus();
-    }
-}
-
-void CMainWindow::MoveFolderDivider(int x)
-{
-    auto const letters = (x - m_metrics.X(c_margin)) / std::max(m_metrics.AverageWidth(), 1);
-    auto const width = std::clamp(letters, workbench::Settings::least_pane_width, workbench::Settings::most_pane_width);
-    if (width != m_settings.folderPaneWidth)
-    {
-        m_settings.folderPaneWidth = width;
-        RecalcLayout();
-        UpdateWindow();
     }
 }
 
@@ -424,15 +545,14 @@ void CMainWindow::OnActivate(UINT state, CWnd * other, BOOL minimized)
     }
 }
 
-/// Puts the dialogs above the window again, in their order. Windows never lets them fall behind their owner, other
+/// Puts dialogs and floating panes above the window again, in their order. Windows never lets them fall behind their owner, other
 /// systems do when it is activated: a click raises it a little later, without a message that says so.
 LRESULT CMainWindow::OnRaiseDialogs(WPARAM, LPARAM)
 {
-    auto const dialogs = OwnedWindows();
     std::vector<HWND> below;
     for (auto window = ::GetWindow(m_hWnd, GW_HWNDNEXT); window != nullptr; window = ::GetWindow(window, GW_HWNDNEXT))
     {
-        if (std::ranges::any_of(dialogs, [window](auto const * dialog) { return dialog->GetSafeHwnd() == window; }))
+        if (::GetWindow(window, GW_OWNER) == m_hWnd && ::IsWindowVisible(window))
         {
             below.push_back(window);
         }
@@ -480,6 +600,7 @@ void CMainWindow::OnClose()
     CloseOwnedWindows();
     KeepNotes();
     RememberPlace();
+    KeepWorkspace();
     DestroyWindow();
 }
 
@@ -491,6 +612,7 @@ void CMainWindow::OnEndSession(BOOL ending)
         m_notes->Flush();
         RememberPlace();
         m_memory.SaveAllPositions();
+        KeepWorkspace();
     }
     CMDIFrameWndEx::OnEndSession(ending);
 }

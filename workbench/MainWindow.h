@@ -14,6 +14,7 @@
 
 #include "DetailsDialog.h"
 #include "Divider.h"
+#include "HostView.h"
 #include "FolderTree.h"
 #include "MeasurePanel.h"
 #include "PreviewDialog.h"
@@ -31,10 +32,11 @@
 #include "logic/NotesStore.h"
 #include "logic/RecordingSearch.h"
 #include "windows/FensterManager.h"
+#include "windows/MainFrmInterface.h"
 
 /// The workbench's main window: the list of recordings, the waveform of the chosen one, the frames with other waveforms,
 /// and the commands. The object is its owner's, and lasts longer than the window.
-class CMainWindow : public CMDIFrameWndEx
+class CMainWindow : public CMDIFrameWndEx, public CMainFrmInterface
 {
 public:
     /// dotsPerInch: of the screen, where it is not what the system says.
@@ -75,8 +77,25 @@ public:
     workbench::Settings const & Settings() const { return m_settings; }
 
     /// Whether the tree of folders shows, and its showing by the program, which is remembered as the user's is.
-    bool ShowsFolders() const { return m_folderPane; }
+    bool ShowsFolders() const { return ShowsPane(part_folders); }
     void ShowFolders(bool show);
+
+    /// The parts that are panes around the list, which the user can move, put into tabs, let float and hide.
+    enum Part
+    {
+        part_folders,
+        part_waveform,
+        part_spectrogram,
+        part_measures,
+        part_count
+    };
+    /// The pane of a part.
+    CDockableViewPane & Pane(Part part) { return *m_panes[part]; }
+    bool ShowsPane(Part part) const { return m_panes[part] != nullptr && m_panes[part]->IsVisible(); }
+    void ShowPane(Part part, bool show);
+    using CMDIFrameWndEx::ShowPane;
+    /// Puts all panes back to where they are at the first start.
+    void ResetLayout();
 
     /// Lets the user choose the list's columns at a place of the screen.
     void ChooseColumns(CPoint screen);
@@ -143,6 +162,8 @@ private:
     afx_msg void OnSetFocus(CWnd * previous);
     afx_msg void OnDropFiles(HDROP drop);
     afx_msg void OnShowFolders();
+    afx_msg void OnResetLayout();
+    afx_msg void OnDynamicCommand(UINT id);
     afx_msg void OnChooseColumns();
     afx_msg void OnExportList();
     afx_msg void OnAmplify(UINT id);
@@ -193,7 +214,13 @@ private:
         bool ascending;
     };
 
-    bool CreateChildren();
+    bool CreateParts();
+    CHostView * CreatePart(Part part);
+    void PrepareContents();
+    void PreparePaneMenu();
+    static wchar_t const * NameOf(Part part);
+    void DockByDefault(std::array<bool, part_count> const & others);
+    void KeepWorkspace();
     workbench::MainLayoutNeeds LayoutNeeds() const;
     void Arrange();
     void PrepareDialogs();
@@ -211,7 +238,6 @@ private:
     void RememberPlace();
     bool HasRoomForFolders() const;
     int FolderPaneWidth() const;
-    void MoveFolderDivider(int x);
     void MoveFramesDivider(int x);
     void KeepSettings();
     void OpenFolder(std::filesystem::path const & folder);
@@ -263,8 +289,10 @@ private:
     workbench::Settings m_settings;
     CWaveformFrames m_frames;
     CSize m_leastSize = CSize(0, 0); ///< of the window
-    bool m_folderPane = false;       ///< the folders show
-    CDivider m_folderDivider;
+    std::array<CDockableViewPane *, part_count> m_panes{}; ///< null until they are made
+    static constexpr unsigned window_menu = 1;             ///< as dynamic commands know it
+    std::array<UINT, part_count> m_paneCommands{};         ///< that show and hide the panes
+    std::array<bool, part_count> m_isPlaced{};             ///< the pane had a place when it was made
     CDivider m_framesDivider;
     HWND m_lastFocus = nullptr;
     int m_raises = 0; ///< how often the dialogs are still to be looked after

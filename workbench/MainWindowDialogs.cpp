@@ -84,10 +84,38 @@ void CMainWindow::PrepareFrames()
         EnterInMenu(*frame.Frame(), frame.Title(), open);
         PostMessage(message_frames_changed);
     };
-    m_folderDivider.m_onMoved = [this](int x) { MoveFolderDivider(x); };
-    m_folderDivider.m_onReleased = [this] { workbench::StoreFolderPane(m_settings); };
     m_framesDivider.m_onMoved = [this](int x) { MoveFramesDivider(x); };
     m_framesDivider.m_onReleased = [this] { workbench::StoreFrameShare(m_settings.frameShare); };
+}
+
+/// Gives each pane an item of the window menu and a key, by which it is shown and hidden.
+void CMainWindow::PreparePaneMenu()
+{
+    auto * const bar = GetMenu();
+    auto * const menu = bar != nullptr ? CMenueManager::FindSubMenue(*bar, Text(L"&Window")) : nullptr;
+    if (menu == nullptr)
+    {
+        return;
+    }
+    UINT place = 0;
+    for (auto index = 0; index < part_count; ++index)
+    {
+        auto const part = static_cast<Part>(index);
+        CString text;
+        text.Format(L"%s\t%s%d", Text(NameOf(part)), Text(L"Ctrl+"), index + 1);
+        auto const id = register_menu(window_menu, text, [this, part] { ShowPane(part, !ShowsPane(part)); },
+                                      static_cast<unsigned short>(L'1' + index), FVIRTKEY | FCONTROL | FNOINVERT);
+        if (id >= 0)
+        {
+            m_paneCommands[index] = static_cast<UINT>(id);
+            menu->InsertMenu(place++, MF_BYPOSITION | MF_STRING, static_cast<UINT_PTR>(id), text);
+        }
+    }
+}
+
+void CMainWindow::OnDynamicCommand(UINT id)
+{
+    menu(id);
 }
 
 LRESULT CMainWindow::OnFrameRead(WPARAM, LPARAM)
@@ -421,7 +449,7 @@ void CMainWindow::OnInitMenuPopup(CMenu * menu, UINT index, BOOL systemMenu)
     enable(ID_EDIT_COMMENT, IsReadable(chosen) && !m_list.IsHidden(CRecordingList::column_comment));
     enable(ID_CHOOSE_RATING, IsReadable(chosen) && !m_list.IsHidden(CRecordingList::column_rating));
     enable(ID_EXPORT_LIST, RecordingCount() > 0);
-    menu->CheckMenuItem(ID_SHOW_FOLDERS, MF_BYCOMMAND | (m_folderPane ? MF_CHECKED : MF_UNCHECKED));
+    menu->CheckMenuItem(ID_SHOW_FOLDERS, MF_BYCOMMAND | (ShowsFolders() ? MF_CHECKED : MF_UNCHECKED));
     auto const amplification = Waveform().Amplification();
     enable(ID_AMPLIFY, Waveform().ShowsRecording() && amplification < workbench::c_mostAmplification);
     enable(ID_REDUCE, Waveform().ShowsRecording() && amplification > 0);
@@ -430,5 +458,10 @@ void CMainWindow::OnInitMenuPopup(CMenu * menu, UINT index, BOOL systemMenu)
     enable(ID_MARK_ALL, RecordingCount() > 0);
     enable(ID_MARK_NONE, RecordingCount() > 0);
     enable(ID_FIT_COLUMNS, !m_list.UserWidths().empty());
+    for (auto part = 0; part < part_count; ++part)
+    {
+        menu->CheckMenuItem(m_paneCommands[part],
+                            MF_BYCOMMAND | (ShowsPane(static_cast<Part>(part)) ? MF_CHECKED : MF_UNCHECKED));
+    }
     enable(ID_CLOSE_DIALOGS, m_frames.AnyOpen() || std::ranges::any_of(OwnedWindows(), [](auto const * window) { return window->GetSafeHwnd() != nullptr; }));
 }

@@ -101,7 +101,7 @@ void CMainWindow::ShowTargets(std::vector<std::filesystem::path> targets)
 /// Fills the tree of folders, if it shows.
 void CMainWindow::FillFolders()
 {
-    if (!m_folderPane)
+    if (!ShowsFolders())
     {
         return;
     }
@@ -115,7 +115,7 @@ void CMainWindow::FillFolders()
 void CMainWindow::ShowInFolders()
 {
     auto const * const chosen = RecordingAt(m_list.ChosenLine());
-    if (m_folderPane && chosen != nullptr && GetFocus() != &m_tree)
+    if (ShowsFolders() && chosen != nullptr && GetFocus() != &m_tree)
     {
         m_tree.SelectRecording(chosen->file);
     }

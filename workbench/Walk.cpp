@@ -237,6 +237,20 @@ bool CWalk::GoThroughFrames(std::string const & suffix)
     return tiled && !m_window.Frames().AnyOpen();
 }
 
+/// Shows panes in tabs and afloat, and puts them back.
+bool CWalk::GoThroughPanes(std::string const & suffix)
+{
+    CRect window;
+    m_window.GetWindowRect(&window);
+    auto & waveform = m_window.Pane(CMainWindow::part_waveform);
+    auto & measures = m_window.Pane(CMainWindow::part_measures);
+    waveform.FloatPane(CRect(CPoint(window.right - 520, window.top + 120), CSize(460, 300)));
+    measures.AttachToTabWnd(&m_window.Pane(CMainWindow::part_spectrogram), DM_SHOW, FALSE);
+    auto const shown = Step(("workbench-panes" + suffix).c_str());
+    m_window.ResetLayout();
+    return shown && waveform.IsDocked() && !measures.IsTabbed();
+}
+
 /// Shows every dialog once; the suffix tells the pictures of one language from those of another.
 bool CWalk::GoThroughDialogs(std::string const & suffix)
 {
@@ -275,7 +289,8 @@ bool CWalk::GoThroughDialogs(std::string const & suffix)
     {
         return false;
     }
-    return GoThroughFrames(suffix) && StepInDialog(name("workbench-language").c_str(), ID_CHOOSE_LANGUAGE, cancel) &&
+    return GoThroughFrames(suffix) && GoThroughPanes(suffix) &&
+           StepInDialog(name("workbench-language").c_str(), ID_CHOOSE_LANGUAGE, cancel) &&
            StepInDialog(name("workbench-folder").c_str(), ID_OPEN_FOLDER, cancel) &&
            StepInDialog(name("workbench-columns").c_str(), ID_CHOOSE_COLUMNS, cancel) &&
            StepInDialog(name("workbench-export").c_str(), ID_EXPORT_LIST, cancel);

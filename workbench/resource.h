@@ -38,7 +38,7 @@
 #define IDC_AMPLIFICATION 1012
 #define IDC_FIT_AMPLIFICATION 1013
 #define IDC_WAVEFORM_PANEL 1014
-#define IDC_FOLDER_DIVIDER 1015
+#define IDC_FRAMES_AREA 1015
 #define IDC_FRAMES_DIVIDER 1016
 
 // The settings.
@@ -104,7 +104,12 @@
 #define ID_AMPLIFY_FIT 40028
 #define ID_SHOW_IN_FRAME 40029
 #define ID_COMPARE_FOUR 40030
+#define ID_RESET_LAYOUT 40031
 
 // The items of open dialogs in the window menu.
 #define ID_DIALOG_FIRST 41000
 #define ID_DIALOG_LAST 41099
+
+// Commands that are made while the program runs.
+#define ID_DYNAMIC_FIRST 41200
+#define ID_DYNAMIC_LAST 41299

@@ -8,10 +8,12 @@ namespace workbench
 namespace
 {
 
-// Where the parts of the growth end that go to the list and to the waveform, in 1/10; the spectrogram gets the rest.
-constexpr int c_listEnd = 3;
-constexpr int c_waveformEnd = 6;
+// The parts of the growth that go to waveform and spectrogram, in 1/10; the list gets the rest.
+constexpr int c_waveformPart = 3;
+constexpr int c_spectrogramPart = 4;
 constexpr int c_whole = 10;
+
+constexpr int c_panes = 3; // below the list
 
 } // namespace
 
@@ -19,50 +21,40 @@ CSize LeastMainArea(MainLayoutNeeds const & needs, int listWidth)
 {
     return CSize(2 * needs.marginX + listWidth,
                  2 * needs.marginY + needs.listHeight + needs.waveformHeight + needs.spectrogramHeight +
-                     needs.panelHeight + needs.statusHeight + 4 * needs.spacing);
+                     needs.panelHeight + c_panes * (needs.captionHeight + needs.dividerGap) + needs.spacing +
+                     needs.statusHeight);
 }
 
 MainLayout LayOutMain(MainLayoutNeeds const & needs)
 {
     MainLayout layout;
-    auto const growth = std::max<int>(needs.client.cy - LeastMainArea(needs, 0).cy, 0);
-    auto left = needs.marginX;
-    auto const edge = std::max<int>(needs.client.cx - needs.marginX, left);
-    auto right = edge;
-    auto const listTop = needs.marginY;
-    auto const listBottom = listTop + needs.listHeight + growth * c_listEnd / c_whole;
-    auto const waveformTop = listBottom + needs.spacing;
-    auto const waveformBottom =
-        waveformTop + needs.waveformHeight + growth * c_waveformEnd / c_whole - growth * c_listEnd / c_whole;
-    auto const spectrogramTop = waveformBottom + needs.spacing;
-    auto const spectrogramBottom =
-        spectrogramTop + needs.spectrogramHeight + growth - growth * c_waveformEnd / c_whole;
-    auto const panelTop = spectrogramBottom + needs.spacing;
-    auto const panelBottom = panelTop + needs.panelHeight;
-    auto const statusTop = panelBottom + needs.spacing;
-    layout.panel = CRect(left, panelTop, edge, panelBottom);
-    layout.status = CRect(left, statusTop, edge, statusTop + needs.statusHeight);
-
-    if (needs.framesWidth > 0)
+    auto const left = needs.marginX;
+    auto const right = std::max<int>(needs.client.cx - needs.marginX, left);
+    auto const statusBottom = std::max<int>(needs.client.cy - needs.marginY, 0);
+    auto const statusTop = std::max(statusBottom - needs.statusHeight, 0);
+    auto const top = needs.marginY;
+    auto const bottom = std::max(statusTop - needs.spacing, top);
+    layout.status = CRect(left, statusTop, right, statusBottom);
+    layout.border = CRect(left, top, needs.client.cx - right, needs.client.cy - bottom);
+    auto const most = right - left - needs.dividerGap - needs.leastBeside;
+    auto const width = std::min(needs.framesWidth, std::max(most, 0));
+    if (width > 0)
     {
-        auto const most = right - left - needs.dividerGap - needs.leastBeside;
-        layout.frames = CRect(right - std::clamp(needs.framesWidth, 0, std::max(most, 0)), listTop, right,
-                              spectrogramBottom);
-        right = std::max<int>(layout.frames.left - needs.dividerGap, left);
-        layout.framesDivider = CRect(right, listTop, layout.frames.left, spectrogramBottom);
+        layout.frames = CRect(right - width, top, right, bottom);
+        layout.framesDivider = CRect(layout.frames.left - needs.dividerGap, top, layout.frames.left, bottom);
+        layout.border.right += width + needs.dividerGap;
     }
-    if (needs.folderWidth > 0)
-    {
-        auto const most = right - left - needs.dividerGap - needs.leastBeside;
-        layout.folders =
-            CRect(left, listTop, left + std::clamp(needs.folderWidth, 0, std::max(most, 0)), spectrogramBottom);
-        left = std::min<int>(layout.folders.right + needs.dividerGap, right);
-        layout.folderDivider = CRect(layout.folders.right, listTop, left, spectrogramBottom);
-    }
-    layout.list = CRect(left, listTop, right, listBottom);
-    layout.waveform = CRect(left, waveformTop, right, waveformBottom);
-    layout.spectrogram = CRect(left, spectrogramTop, right, spectrogramBottom);
     return layout;
+}
+
+PaneHeights DefaultPanes(MainLayoutNeeds const & needs)
+{
+    auto const growth = std::max<int>(needs.client.cy - LeastMainArea(needs, 0).cy, 0);
+    PaneHeights heights;
+    heights.waveform = needs.waveformHeight + needs.captionHeight + growth * c_waveformPart / c_whole;
+    heights.spectrogram = needs.spectrogramHeight + needs.captionHeight + growth * c_spectrogramPart / c_whole;
+    heights.measures = needs.panelHeight + needs.captionHeight;
+    return heights;
 }
 
 } // namespace workbench

@@ -408,7 +408,9 @@ TEST_F(WorkbenchControls, TheTreeFollowsAReloadAndIsRemembered)
     // The pane and its width last.
     CRect before;
     Tree().GetWindowRect(&before);
-    CPoint const edge(before.right + 2, before.CenterPoint().y);
+    CRect pane;
+    m_window->Pane(CMainWindow::part_folders).GetWindowRect(&pane);
+    CPoint const edge(pane.right + 2, before.CenterPoint().y);
     tests::Drag(edge, edge + CPoint(60, 0));
     CRect after;
     ASSERT_TRUE(tests::PumpUntil([&] {
