@@ -63,6 +63,7 @@ private:
     friend class CWinAppEx;
     friend class framework::DockHost;
 
+    LRESULT HandleArrange(WPARAM wParam, LPARAM lParam);
     LRESULT HandleIdleUpdate(WPARAM wParam, LPARAM lParam);
     LRESULT HandleSettingChange(WPARAM wParam, LPARAM lParam);
 

@@ -10,11 +10,7 @@
 
 namespace framework
 {
-struct FrameAccess
-{
-    static CRect Border(CFrameWnd const & frame) { return frame.m_border; }
-    static void LayOutSoon(CFrameWnd & frame) { frame.LayOutSoon(); }
-};
+UINT const arrangeMessage = ::RegisterWindowMessage(L"FrameworkArrangePanes");
 
 namespace
 {
@@ -39,10 +35,8 @@ bool Shows(HWND window)
 
 void DockHost::ArrangeSoon()
 {
-    if (m_ending || m_frame.m_hWnd == nullptr)
-        return;
-    FrameAccess::LayOutSoon(m_frame);
-    m_frame.PostMessage(WM_NULL); // idle time comes after a message
+    if (!m_ending && m_frame.m_hWnd != nullptr)
+        m_frame.PostMessage(arrangeMessage);
 }
 
 void DockHost::Lock(bool lock)
@@ -638,8 +632,9 @@ bool DockHost::PlaceSlid()
     WindowGuard const guard(pane);
     CRect rect(m_space);
     CSize const least = LeastSize(*pane, m_sizes);
-    int const width = std::min(rect.Width(), std::max<int>(known->size.cx, least.cx));
-    int const height = std::min(rect.Height(), std::max<int>(known->size.cy, least.cy));
+    // As it was docked, but not over more than half of the others: it may have been docked at another side.
+    int const width = std::min(rect.Width(), std::max<int>(std::min<int>(known->size.cx, rect.Width() / 2), least.cx));
+    int const height = std::min(rect.Height(), std::max<int>(std::min<int>(known->size.cy, rect.Height() / 2), least.cy));
     switch (known->foldSide)
     {
     case DockSide::Left:

@@ -114,15 +114,15 @@ void DockDrag::Cancel()
 LRESULT CALLBACK DockDrag::OnKey(int code, WPARAM wParam, LPARAM lParam)
 {
     constexpr LPARAM released = LPARAM{1} << 31;
-    if (code < 0 || withKeys == nullptr)
+    if (code != HC_ACTION || withKeys == nullptr)
         return ::CallNextHookEx(nullptr, code, wParam, lParam);
     if (wParam == VK_ESCAPE)
     {
-        if (code == HC_ACTION && (lParam & released) == 0)
+        if ((lParam & released) == 0)
             ::PostMessage(withKeys->m_hWnd, cancelMessage, 0, 0);
         return 1;
     }
-    if (wParam == VK_CONTROL && code == HC_ACTION)
+    if (wParam == VK_CONTROL)
         ::PostMessage(withKeys->m_hWnd, WM_MOUSEMOVE, 0, 0); // it changes where the drag ends
     return ::CallNextHookEx(nullptr, code, wParam, lParam);
 }

@@ -18,6 +18,7 @@ BEGIN_MESSAGE_MAP(CMDIFrameWndEx, CMDIFrameWnd)
     ON_WM_DESTROY()
     ON_MESSAGE(WM_IDLEUPDATECMDUI, &CMDIFrameWndEx::HandleIdleUpdate)
     ON_MESSAGE(WM_SETTINGCHANGE, &CMDIFrameWndEx::HandleSettingChange)
+    ON_REGISTERED_MESSAGE(framework::arrangeMessage, &CMDIFrameWndEx::HandleArrange)
 END_MESSAGE_MAP()
 // clang-format on
 
@@ -60,10 +61,16 @@ void CMDIFrameWndEx::OnDestroy()
     CMDIFrameWnd::OnDestroy();
 }
 
-LRESULT CMDIFrameWndEx::HandleIdleUpdate(WPARAM, LPARAM)
+LRESULT CMDIFrameWndEx::HandleArrange(WPARAM, LPARAM)
+{
+    RecalcLayout();
+    return 0;
+}
+
+LRESULT CMDIFrameWndEx::HandleIdleUpdate(WPARAM wParam, LPARAM lParam)
 {
     WindowGuard const guard(this);
-    LRESULT const result = Default();
+    LRESULT const result = framework::FrameAccess::IdleUpdate(*this, wParam, lParam);
     if (guard.Alive() && m_impl.Host() != nullptr)
         m_impl.Host()->RepaintCaptions();
     return result;
@@ -246,6 +253,7 @@ BEGIN_MESSAGE_MAP(CFrameWndEx, CFrameWnd)
     ON_WM_DESTROY()
     ON_MESSAGE(WM_IDLEUPDATECMDUI, &CFrameWndEx::HandleIdleUpdate)
     ON_MESSAGE(WM_SETTINGCHANGE, &CFrameWndEx::HandleSettingChange)
+    ON_REGISTERED_MESSAGE(framework::arrangeMessage, &CFrameWndEx::HandleArrange)
 END_MESSAGE_MAP()
 // clang-format on
 
@@ -288,10 +296,16 @@ void CFrameWndEx::OnDestroy()
     CFrameWnd::OnDestroy();
 }
 
-LRESULT CFrameWndEx::HandleIdleUpdate(WPARAM, LPARAM)
+LRESULT CFrameWndEx::HandleArrange(WPARAM, LPARAM)
+{
+    RecalcLayout();
+    return 0;
+}
+
+LRESULT CFrameWndEx::HandleIdleUpdate(WPARAM wParam, LPARAM lParam)
 {
     WindowGuard const guard(this);
-    LRESULT const result = Default();
+    LRESULT const result = framework::FrameAccess::IdleUpdate(*this, wParam, lParam);
     if (guard.Alive() && m_impl.Host() != nullptr)
         m_impl.Host()->RepaintCaptions();
     return result;

@@ -40,7 +40,10 @@ public:
     void OnAfterChangeParent(CWnd *) override
     {
         if (m_onParent)
-            std::function<void()>(m_onParent)();
+        {
+            auto const action = m_onParent; // it may end the pane
+            action();
+        }
     }
 
 protected:
@@ -48,7 +51,10 @@ protected:
     {
         CDockablePane::OnSize(type, cx, cy);
         if (m_onSize)
-            std::function<void()>(m_onSize)();
+        {
+            auto const action = m_onSize;
+            action();
+        }
     }
     afx_msg void OnPaint()
     {

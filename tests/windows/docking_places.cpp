@@ -292,6 +292,7 @@ TEST_F(DockPlaces, AFoldedPaneThatIsActivatedSlidesOut)
     ShowFrame();
     Pane & pane = Docked(CBRS_ALIGN_LEFT, 180);
     pane.SetAutoHideMode(TRUE, CBRS_ALIGN_BOTTOM);
+    ASSERT_TRUE(tests::MoveMouse(CPoint(100, 100)));
     pane.ShowPane(TRUE, FALSE, TRUE);
     EXPECT_TRUE(pane.IsPaneVisible());
     EXPECT_EQ(::GetFocus(), pane.m_hWnd);

@@ -19,6 +19,7 @@ namespace framework
 {
 class DockDrag;
 
+extern UINT const arrangeMessage; // to a frame: its panes are laid out anew
 constexpr UINT_PTR slideWatchTimer = 2; // of a strip, while a pane of it is shown
 
 /// Sizes that follow from the system's fonts and their resolution.
@@ -125,7 +126,7 @@ public:
 
     // Arranging
     void Arrange();
-    /// At the next idle time.
+    /// As soon as the messages that run are over.
     void ArrangeSoon();
     void ArrangeFrame(UINT frame);
     void Lock(bool lock);
@@ -208,6 +209,15 @@ private:
     bool m_again = false;
     bool m_ending = false;
     std::shared_ptr<bool> m_alive;
+};
+
+struct FrameAccess
+{
+    static CRect Border(CFrameWnd const & frame) { return frame.m_border; }
+    static LRESULT IdleUpdate(CFrameWnd & frame, WPARAM wParam, LPARAM lParam)
+    {
+        return frame.HandleIdleUpdate(wParam, lParam);
+    }
 };
 
 struct PaneAccess
