@@ -57,6 +57,8 @@ private:
     void Choose(int index, bool byKeys);
     bool OpenSubMenu(int index, bool byKeys);
     bool IsUpdated(CMFCToolBarButton const & button) const override;
+    void Relayout() override;
+    void Measure(CDC & dc);
     void UpdateInserted(CFrameWnd * target);
     void CloseBeyond();
     bool IsScrolled() const { return m_visible < GetCount(); }
@@ -68,6 +70,7 @@ private:
 
     int m_offset;  // the first item that is shown, where there is no room for all
     int m_visible; // how many are
+    std::vector<int> m_heights; // of the items; empty until they are measured
     int m_shortcutWidth;
     int m_textWidth;
     int m_waiting; // the item whose menu opens soon, or -1

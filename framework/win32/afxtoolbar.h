@@ -147,6 +147,7 @@ protected:
     afx_msg void OnLButtonDblClk(UINT nFlags, CPoint point);
     afx_msg void OnMouseMove(UINT nFlags, CPoint point);
     afx_msg void OnMouseLeave();
+    afx_msg void OnTimer(UINT_PTR nIDEvent);
     afx_msg void OnCaptureChanged(CWnd * pWnd);
     afx_msg void OnCancelMode();
     afx_msg int OnMouseActivate(CWnd * pDesktopWnd, UINT nHitTest, UINT message);
@@ -184,9 +185,12 @@ private:
     virtual bool IsUpdated(CMFCToolBarButton const & button) const;
     void SendCommand(CMFCToolBarButton & button);
     void ReleasePress();
-    void Relayout();
+    /// The buttons are to be laid out anew, at the latest when somebody asks where they are.
+    virtual void Relayout();
+    void EnsureLayout() const;
     CString LabelOf(UINT id) const;
     void ShowMessageOf(int index);
+    void WatchMouse();
     LRESULT HandleIdleUpdate(WPARAM wParam, LPARAM lParam);
     LRESULT HandleGetFont(WPARAM wParam, LPARAM lParam);
     BOOL HandleToolTipText(UINT id, NMHDR * header, LRESULT * result);
@@ -201,7 +205,7 @@ private:
     int m_height;
     int m_hot;     // the button that is highlighted, or -1
     int m_pressed; // the one that the mouse is held down on, or -1
-    bool m_tracksLeave;
+    bool m_stale;  // the buttons are where they were, and not where they belong
     UINT m_resource;
     CString m_tip; // what the tool tip shows
 

@@ -8,6 +8,8 @@
 #include "detail/BarLooks.h"
 #include "detail/FrameSupport.h"
 
+#include <utility>
+
 namespace
 {
 constexpr wchar_t barProperty[] = L"FrameworkMenuBar";
@@ -240,7 +242,17 @@ bool framework::MenuMode::PreTranslate(MSG const & message)
         End();
     bool const on = Leaf() != nullptr || m_byKeys;
     if (message.message >= WM_KEYFIRST && message.message <= WM_KEYLAST)
-        return on ? HandleKey(message) : HandleAlt(message);
+    {
+        bool const up = message.message == WM_KEYUP || message.message == WM_SYSKEYUP;
+        bool const down = message.message == WM_KEYDOWN || message.message == WM_SYSKEYDOWN;
+        // Nobody is to hear that a key went up that he hasn't heard going down; the system would open its menu for Alt.
+        if (up && message.wParam == std::exchange(m_taken, 0))
+            return true;
+        bool const taken = on ? HandleKey(message) : HandleAlt(message);
+        if (down && taken)
+            m_taken = message.wParam;
+        return taken;
+    }
     if ((message.message >= WM_MOUSEFIRST && message.message <= WM_MOUSELAST) ||
         (message.message >= WM_NCMOUSEMOVE && message.message <= WM_NCXBUTTONDBLCLK))
         return HandleMouse(message);
@@ -322,7 +334,7 @@ bool framework::MenuMode::HandleKey(MSG const & message)
     case WM_SYSCHAR:
         return HandleCharacter(static_cast<wchar_t>(message.wParam));
     default:
-        return true; // nobody is to hear that a key went up that he hasn't heard going down
+        return true;
     }
     auto const key = static_cast<UINT>(message.wParam);
     if (key == VK_F10 || (key == VK_MENU && (message.lParam & wasDown) == 0))

@@ -7,6 +7,7 @@
 #include "detail/MenuMode.h"
 
 #include <algorithm>
+#include <numeric>
 
 using framework::MenuMode;
 using framework::Scaled;
@@ -195,15 +196,21 @@ CRect CMFCPopupMenuBar::StripRect(bool upper) const
     return rect;
 }
 
-CSize CMFCPopupMenuBar::Arrange(CDC & dc, int, bool, bool place)
+void CMFCPopupMenuBar::Relayout()
+{
+    m_heights.clear();
+    CMFCToolBar::Relayout();
+}
+
+/// Texts are measured once, as long as the items stay the same.
+void CMFCPopupMenuBar::Measure(CDC & dc)
 {
     m_textWidth = 0;
     m_shortcutWidth = 0;
-    std::vector<int> heights;
-    int total = 0;
-    for (int at = 0; at < GetCount(); ++at)
+    m_heights.clear();
+    for (POSITION at = m_buttons.GetHeadPosition(); at != nullptr;)
     {
-        CMFCToolBarButton & button = *GetButton(at);
+        CMFCToolBarButton & button = *static_cast<CMFCToolBarButton *>(m_buttons.GetNext(at));
         int height = 0;
         if (button.IsHidden())
             height = 0;
@@ -219,9 +226,16 @@ CSize CMFCPopupMenuBar::Arrange(CDC & dc, int, bool, bool place)
             if (tab >= 0)
                 m_shortcutWidth = std::max<int>(m_shortcutWidth, framework::LabelExtent(dc, text.Mid(tab + 1)).cx);
         }
-        heights.push_back(height);
-        total += height;
+        m_heights.push_back(height);
     }
+}
+
+CSize CMFCPopupMenuBar::Arrange(CDC & dc, int, bool, bool place)
+{
+    auto const count = static_cast<size_t>(GetCount());
+    if (m_heights.size() != count)
+        Measure(dc);
+    int const total = std::accumulate(m_heights.begin(), m_heights.end(), 0);
     CSize size(TextColumn() + m_textWidth + Scaled(rightMargin), total);
     if (m_shortcutWidth > 0)
         size.cx += Scaled(shortcutGap) + m_shortcutWidth;
@@ -229,28 +243,32 @@ CSize CMFCPopupMenuBar::Arrange(CDC & dc, int, bool, bool place)
         return size;
     CRect client;
     GetClientRect(&client);
-    int const count = GetCount();
     bool const scrolls = total > client.Height();
     int const room = scrolls ? client.Height() - 2 * StripHeight() : client.Height();
-    // As many as there is room for, the end not further up than need be.
-    int last = count;
-    int highest = count;
-    for (int height = 0; highest > 0 && height + heights[static_cast<size_t>(highest - 1)] <= room; --highest)
-        height += heights[static_cast<size_t>(highest - 1)];
-    m_offset = scrolls ? std::clamp(m_offset, 0, highest) : 0;
+    // The first item that is shown is no further down than the last needs it.
+    size_t highest = count;
+    for (int height = 0; highest > 0 && height + m_heights[highest - 1] <= room; --highest)
+        height += m_heights[highest - 1];
+    m_offset = scrolls ? std::clamp(m_offset, 0, static_cast<int>(highest)) : 0;
     int y = client.top + (scrolls ? StripHeight() : 0);
     int const bottom = y + room;
-    for (int at = 0; at < count; ++at)
+    size_t index = 0;
+    bool full = false;
+    m_visible = 0;
+    for (POSITION at = m_buttons.GetHeadPosition(); at != nullptr; ++index)
     {
-        int const height = heights[static_cast<size_t>(at)];
-        bool const shown = at >= m_offset && at < last && y + height <= bottom;
-        if (at >= m_offset && !shown)
-            last = std::min(last, at);
-        GetButton(at)->SetRect(shown ? CRect(client.left, y, client.right, y + height) : CRect(0, 0, 0, 0));
-        if (shown)
-            y += height;
+        auto * const button = static_cast<CMFCToolBarButton *>(m_buttons.GetNext(at));
+        int const height = m_heights[index];
+        full = full || (scrolls && y + height > bottom);
+        if (index < static_cast<size_t>(m_offset) || full)
+        {
+            button->SetRect(CRect(0, 0, 0, 0));
+            continue;
+        }
+        button->SetRect(CRect(client.left, y, client.right, y + height));
+        y += height;
+        ++m_visible;
     }
-    m_visible = scrolls ? last - m_offset : count;
     return size;
 }
 
@@ -274,10 +292,14 @@ void CMFCPopupMenuBar::SetOffset(int iOffset)
 
 void CMFCPopupMenuBar::EnsureVisible(int index)
 {
+    EnsureLayout();
     if (index < 0 || !IsScrolled())
         return;
     if (index < m_offset)
         SetOffset(index);
+    else if (index >= m_offset + m_visible)
+        SetOffset(index - m_visible + 1);
+    // Lower items may be higher ones.
     while (index >= m_offset + m_visible && m_offset + m_visible < GetCount())
         SetOffset(m_offset + 1);
 }
@@ -450,14 +472,7 @@ void CMFCPopupMenuBar::OnMouseMove(UINT, CPoint point)
     // A menu that opens below the mouse is no movement.
     if (screen == std::exchange(m_cursor, screen))
         return;
-    if (!m_tracksLeave)
-    {
-        TRACKMOUSEEVENT track{};
-        track.cbSize = sizeof track;
-        track.dwFlags = TME_LEAVE;
-        track.hwndTrack = m_hWnd;
-        m_tracksLeave = ::TrackMouseEvent(&track) != FALSE;
-    }
+    WatchMouse();
     if (IsScrolled() && (StripRect(true).PtInRect(point) || StripRect(false).PtInRect(point)))
     {
         SetTimer(scrollTimer, scrollTime, nullptr);
@@ -474,7 +489,6 @@ void CMFCPopupMenuBar::OnMouseMove(UINT, CPoint point)
 
 void CMFCPopupMenuBar::OnMouseLeave()
 {
-    m_tracksLeave = false;
     // An item stays highlighted while its menu is open.
     int open = -1;
     GetDroppedDownMenu(&open);

@@ -28,6 +28,7 @@ BEGIN_MESSAGE_MAP(CMFCToolBar, CMFCBaseToolBar)
     ON_WM_LBUTTONDBLCLK()
     ON_WM_MOUSEMOVE()
     ON_WM_MOUSELEAVE()
+    ON_WM_TIMER()
     ON_WM_CAPTURECHANGED()
     ON_WM_CANCELMODE()
     ON_WM_MOUSEACTIVATE()
@@ -145,7 +146,7 @@ CMFCToolBar::CMFCToolBar()
       m_height(0),
       m_hot(-1),
       m_pressed(-1),
-      m_tracksLeave(false),
+      m_stale(false),
       m_resource(0)
 {
 }
@@ -435,12 +436,14 @@ UINT CMFCToolBar::GetItemID(int nIndex) const
 
 void CMFCToolBar::GetItemRect(int nIndex, LPRECT lpRect) const
 {
+    EnsureLayout();
     CMFCToolBarButton const * const button = GetButton(nIndex);
     *lpRect = button != nullptr && !button->IsHidden() ? button->Rect() : CRect(0, 0, 0, 0);
 }
 
 void CMFCToolBar::GetInvalidateItemRect(int nIndex, LPRECT lpRect) const
 {
+    EnsureLayout();
     CMFCToolBarButton const * const button = GetButton(nIndex);
     *lpRect = button != nullptr ? button->GetInvalidateRect() : CRect(0, 0, 0, 0);
 }
@@ -709,11 +712,19 @@ void CMFCToolBar::Relayout()
 {
     if (m_hWnd == nullptr)
         return;
-    AdjustLayout();
+    m_stale = true;
+    Invalidate();
+}
+
+void CMFCToolBar::EnsureLayout() const
+{
+    if (m_stale && m_hWnd != nullptr)
+        const_cast<CMFCToolBar *>(this)->AdjustLayout();
 }
 
 void CMFCToolBar::AdjustLayout()
 {
+    m_stale = false;
     bool const horizontal = IsHorizontal() != FALSE;
     CRect const inside = Inside();
     ArrangeNow(horizontal ? inside.Width() : asLongAsThereIs, horizontal, true);
@@ -901,6 +912,7 @@ void CMFCToolBar::OnFillBackground(CDC * pDC)
 
 void CMFCToolBar::DoPaint(CDC * pDC)
 {
+    EnsureLayout();
     CRect clip;
     pDC->GetClipBox(&clip);
     // Drawn aside, so that nothing flickers.
@@ -952,7 +964,7 @@ void CMFCToolBar::DrawSeparator(CDC * pDC, const CRect & rect, BOOL bHorz)
 CMFCToolBarButton * CMFCToolBar::InvalidateButton(int nIndex)
 {
     CMFCToolBarButton * const button = GetButton(nIndex);
-    if (button != nullptr && m_hWnd != nullptr)
+    if (button != nullptr && m_hWnd != nullptr && !m_stale)
     {
         CRect const rect = button->GetInvalidateRect();
         InvalidateRect(&rect, FALSE);

@@ -14,8 +14,15 @@
 using framework::MenuMode;
 using framework::WindowGuard;
 
+namespace
+{
+constexpr UINT_PTR watchTimer = 0xE010;
+constexpr UINT watchTime = 100;
+} // namespace
+
 int CMFCToolBar::HitTest(CPoint point)
 {
+    EnsureLayout();
     int index = 0;
     for (POSITION at = m_buttons.GetHeadPosition(); at != nullptr; ++index)
     {
@@ -245,14 +252,7 @@ void CMFCToolBar::OnMouseMove(UINT nFlags, CPoint point)
         }
         return;
     }
-    if (!m_tracksLeave)
-    {
-        TRACKMOUSEEVENT track{};
-        track.cbSize = sizeof track;
-        track.dwFlags = TME_LEAVE;
-        track.hwndTrack = m_hWnd;
-        m_tracksLeave = ::TrackMouseEvent(&track) != FALSE;
-    }
+    WatchMouse();
     MenuMode & mode = MenuMode::Current();
     WindowGuard const guard(this);
     if (mode.IsOn(*this))
@@ -272,9 +272,34 @@ void CMFCToolBar::OnMouseMove(UINT nFlags, CPoint point)
         CMFCBaseToolBar::OnMouseMove(nFlags, point);
 }
 
+/// Notices that the mouse has gone. A late report of its position may come after the system's message that says so.
+void CMFCToolBar::WatchMouse()
+{
+    TRACKMOUSEEVENT track{};
+    track.cbSize = sizeof track;
+    track.dwFlags = TME_LEAVE;
+    track.hwndTrack = m_hWnd;
+    ::TrackMouseEvent(&track);
+    SetTimer(watchTimer, watchTime, nullptr);
+}
+
+void CMFCToolBar::OnTimer(UINT_PTR nIDEvent)
+{
+    if (nIDEvent != watchTimer)
+    {
+        CMFCBaseToolBar::OnTimer(nIDEvent);
+        return;
+    }
+    CPoint cursor;
+    ::GetCursorPos(&cursor);
+    if (GetCapture() == this || ::WindowFromPoint(cursor) == m_hWnd)
+        return;
+    KillTimer(watchTimer);
+    SendMessage(WM_MOUSELEAVE);
+}
+
 void CMFCToolBar::OnMouseLeave()
 {
-    m_tracksLeave = false;
     if (m_pressed < 0 && !MenuMode::Current().IsOn(*this))
         Highlight(-1);
 }

@@ -124,6 +124,7 @@ TEST_F(MfcStatusBars, PanesHaveToolTips)
     EXPECT_EQ(Bar().OnToolHitTest(Pane(2).CenterPoint(), &tool), 2);
     EXPECT_EQ(Bar().OnToolHitTest(Pane(1).CenterPoint(), &tool), -1);
     NMTTDISPINFO asked{};
+    asked.hdr.hwndFrom = m_window;
     asked.hdr.idFrom = 2;
     asked.hdr.code = static_cast<UINT>(TTN_NEEDTEXT);
     Bar().SendMessage(WM_NOTIFY, 2, reinterpret_cast<LPARAM>(&asked));

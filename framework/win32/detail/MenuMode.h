@@ -57,6 +57,7 @@ private:
     HWND m_leaf = nullptr;
     HWND m_bar = nullptr; // led by keys, or with an open menu
     bool m_byKeys = false;
+    WPARAM m_taken = 0;      // the key that went down last without anybody hearing of it
     bool m_altAlone = false; // Alt is down, and nothing else has happened since
 };
 
