@@ -45,8 +45,7 @@ BOOL CDialogsGroup::OnInitDialog()
     {
         m_opacity.AddItem(std::to_wstring(opacity).c_str(), opacity);
     }
-    Follow(IDC_DIALOG_GROUP, CEdges::TOP_LEFT_RIGHT());
-    return FALSE;
+    return TRUE;
 }
 
 void CDialogsGroup::Show(Settings const & settings)
@@ -67,8 +66,11 @@ bool CDialogsGroup::Take(Settings & settings)
     if (opacity < Settings::least_opacity || opacity > Settings::most_opacity)
     {
         AfxMessageBox(Text(L"The opacity must be between 20 and 100 percent."), MB_ICONEXCLAMATION);
-        m_opacity.SetFocus();
-        m_opacity.SetEditSel(0, -1);
+        if (m_opacity.m_hWnd != nullptr) // the sheet can be closed meanwhile
+        {
+            m_opacity.SetFocus();
+            m_opacity.SetEditSel(0, -1);
+        }
         return false;
     }
     settings.inactiveOpacity = opacity;

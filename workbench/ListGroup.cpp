@@ -22,11 +22,8 @@ BOOL CListGroup::OnInitDialog()
     m_columns.SetTheMap(workbench::ColumnNames());
     m_columns.PrepareIdNameBrowser();
     m_columns.SetNotifyTag(IDC_COLUMNS);
-    for (auto const id : {IDC_LIST_GROUP, IDC_COLUMNS})
-    {
-        Follow(id, CEdges::TOP_LEFT_RIGHT());
-    }
-    return FALSE;
+    Follow(IDC_COLUMNS, CEdges::TOP_LEFT_RIGHT());
+    return TRUE;
 }
 
 void CListGroup::Show(workbench::Settings const & settings)

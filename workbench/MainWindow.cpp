@@ -8,7 +8,11 @@
 #include <algorithm>
 
 #include "colours/Farbtabellen.h"
+#include "logic/Texts.h"
 #include "resource.h"
+#include "windows/StandaloneFrameMigrationHelper.h"
+
+using workbench::Text;
 
 namespace
 {
@@ -18,16 +22,11 @@ constexpr wchar_t c_title[] = L"Instrument Workbench";
 // Lengths in dialog units.
 constexpr int c_margin = 7;
 constexpr int c_spacing = 5;
-constexpr int c_paneGap = 4; // beside the folders
-constexpr int c_leastBesideFolders = 220;
+constexpr int c_dividerGap = 4; // beside folders and frames
+constexpr int c_leastBeside = 220;
 constexpr int c_leastListHeight = 90;
 constexpr int c_leastWaveformHeight = 96;
 constexpr int c_leastSpectrogramHeight = 96;
-
-// Where the parts of the window's growth end that go to the list and to the waveform, in 1/10000; the spectrogram gets
-// the rest.
-constexpr int c_listEnd = 3000;
-constexpr int c_waveformEnd = 6000;
 
 // The first start's size as a part of the work area, in percent, and its limits in dialog units.
 constexpr int c_preferredPercent = 93;
@@ -43,21 +42,15 @@ constexpr UINT c_raiseInterval = 40;
 
 } // namespace
 
-BEGIN_MESSAGE_MAP(CMainWindow, CWnd)
+BEGIN_MESSAGE_MAP(CMainWindow, CMDIFrameWndEx)
     ON_WM_CREATE()
     ON_WM_CLOSE()
     ON_WM_DESTROY()
     ON_WM_ENDSESSION()
-    ON_WM_SIZE()
     ON_WM_GETMINMAXINFO()
     ON_WM_ACTIVATE()
     ON_WM_SETFOCUS()
     ON_WM_DROPFILES()
-    ON_WM_SETCURSOR()
-    ON_WM_LBUTTONDOWN()
-    ON_WM_MOUSEMOVE()
-    ON_WM_LBUTTONUP()
-    ON_WM_CAPTURECHANGED()
     ON_WM_INITMENUPOPUP()
     ON_COMMAND(ID_OPEN_FILES, &CMainWindow::OnOpenFiles)
     ON_COMMAND(ID_OPEN_FOLDER, &CMainWindow::OnOpenFolder)
@@ -72,6 +65,8 @@ BEGIN_MESSAGE_MAP(CMainWindow, CWnd)
     ON_COMMAND(ID_COPY_ALL, &CMainWindow::OnCopyAll)
     ON_COMMAND(ID_COPY_SPECTROGRAM, &CMainWindow::OnCopySpectrogram)
     ON_COMMAND(ID_SHOW_FOLDERS, &CMainWindow::OnShowFolders)
+    ON_COMMAND(ID_RESET_LAYOUT, &CMainWindow::OnResetLayout)
+    ON_COMMAND_RANGE(ID_DYNAMIC_FIRST, ID_DYNAMIC_LAST, &CMainWindow::OnDynamicCommand)
     ON_COMMAND(ID_CHOOSE_COLUMNS, &CMainWindow::OnChooseColumns)
     ON_COMMAND(ID_EXPORT_LIST, &CMainWindow::OnExportList)
     ON_COMMAND_RANGE(ID_AMPLIFY, ID_AMPLIFY_FIT, &CMainWindow::OnAmplify)
@@ -81,6 +76,8 @@ BEGIN_MESSAGE_MAP(CMainWindow, CWnd)
     ON_COMMAND(IDCANCEL, &CMainWindow::OnCancelReading)
     ON_COMMAND(ID_READ_AGAIN, &CMainWindow::OnReadAgain)
     ON_COMMAND(ID_SHOW_DETAILS, &CMainWindow::OnShowDetails)
+    ON_COMMAND(ID_SHOW_IN_FRAME, &CMainWindow::OnShowInFrame)
+    ON_COMMAND(ID_COMPARE_FOUR, &CMainWindow::OnCompareFour)
     ON_COMMAND(ID_SET_REFERENCE, &CMainWindow::OnSetReference)
     ON_COMMAND(ID_EDIT_COMMENT, &CMainWindow::OnEditComment)
     ON_COMMAND(ID_CHOOSE_RATING, &CMainWindow::OnChooseRating)
@@ -89,60 +86,111 @@ BEGIN_MESSAGE_MAP(CMainWindow, CWnd)
     ON_WM_TIMER()
     ON_MESSAGE(message_raise_dialogs, &CMainWindow::OnRaiseDialogs)
     ON_MESSAGE(message_notes_turned, &CMainWindow::OnNotesTurned)
+    ON_MESSAGE(message_frame_read, &CMainWindow::OnFrameRead)
+    ON_MESSAGE(message_frames_changed, &CMainWindow::OnFramesChanged)
     ON_MESSAGE(message_recordings_ready, &CMainWindow::OnRecordingsReady)
 END_MESSAGE_MAP()
 
 CMainWindow::CMainWindow(int dotsPerInch)
-    : m_metrics(dotsPerInch),
+    : CMainFrmInterface(this),
+      m_metrics(dotsPerInch),
       m_memory(c_title, CFensterManager::window_main),
       m_details(*this),
-      m_settingsDialog(*this),
       m_preview(*this),
       m_settings(workbench::ReadSettings())
 {
+    base_id(id_base);
+    menu_range(ID_DYNAMIC_FIRST, ID_DYNAMIC_LAST + 1);
+}
+
+CMainWindow::~CMainWindow()
+{
+    // Here, where the handlers of this class still run and what they use lives.
+    if (m_hWnd != nullptr)
+    {
+        DestroyWindow();
+    }
+}
+
+BOOL CMainWindow::PreCreateWindow(CREATESTRUCT & create)
+{
+    create.lpszClass =
+        AfxRegisterWndClass(0, ::LoadCursorW(nullptr, IDC_ARROW), reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1),
+                            ::LoadIconW(AfxGetInstanceHandle(), MAKEINTRESOURCEW(IDI_WORKBENCH)));
+    return CMDIFrameWndEx::PreCreateWindow(create);
 }
 
 bool CMainWindow::CreateMainWindow()
 {
-    auto const instance = AfxGetInstanceHandle();
-    m_accelerators = ::LoadAcceleratorsW(instance, MAKEINTRESOURCEW(IDR_ACCELERATORS));
-    auto const windowClass =
-        AfxRegisterWndClass(0, ::LoadCursorW(nullptr, IDC_ARROW), reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1),
-                            ::LoadIconW(instance, MAKEINTRESOURCEW(IDI_WORKBENCH)));
-    auto const menu = ::LoadMenuW(instance, MAKEINTRESOURCEW(IDR_MAIN_MENU));
-    if (!CreateEx(0, windowClass, c_title, WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, 0, 0, 100, 100, nullptr, menu))
+    m_memory.SetNowExit(false);
+    if (auto * const app = DYNAMIC_DOWNCAST(CWinAppEx, AfxGetApp()))
+    {
+        app->EnableLoadWindowPlacement(FALSE); // that is the window manager's
+    }
+    if (!LoadFrame(IDR_MAIN_FRAME, WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN) || !CreateParts())
     {
         return false;
     }
+    PrepareContents();
     PrepareDialogs();
+    PrepareFrames();
+    PreparePaneMenu();
     Arrange();
 
     CRect work;
     ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
-    CRect least;
-    GetWindowRect(&least);
-    auto const limit = m_metrics.X(c_preferredWidthLimit) + static_cast<int>(m_paneShift.cx);
-    auto const width = std::max(std::min(work.Width() * c_preferredPercent / 100, limit), least.Width());
-    auto const height = std::max(
-        std::min(work.Height() * c_preferredPercent / 100, m_metrics.Y(c_preferredHeightLimit)), least.Height());
+    auto const folders = m_settings.folderPane.value_or(HasRoomForFolders()) ? FolderPaneWidth() + m_metrics.X(c_dividerGap) : 0;
+    auto const limit = m_metrics.X(c_preferredWidthLimit) + folders;
+    auto const width = std::max<int>(std::min(work.Width() * c_preferredPercent / 100, limit), m_leastSize.cx);
+    auto const height = std::max<int>(
+        std::min(work.Height() * c_preferredPercent / 100, m_metrics.Y(c_preferredHeightLimit)), m_leastSize.cy);
     auto const left = std::max((work.Width() - width) / 2, 0);
     auto const top = std::max((work.Height() - height) / 3, 0);
     m_memory.PreferedPosition(left, top, left + width, top + height);
     m_memory.ReadMyPosition(this);
+    DockByDefault(m_isPlaced);
+    release_orphan_panes();
+    m_frames.Restore();
     return true;
+}
+
+/// The room for frames. Their items in the window menu are the window's own affair.
+BOOL CMainWindow::OnCreateClient(LPCREATESTRUCT create, CCreateContext *)
+{
+    if (!CreateClient(create, nullptr))
+    {
+        return FALSE;
+    }
+    // What the panes stand around is the list.
+    ::SetWindowLongPtrW(m_hWndMDIClient, GWLP_ID, IDC_FRAMES_AREA);
+    return TRUE;
 }
 
 int CMainWindow::OnCreate(LPCREATESTRUCT create)
 {
-    if (CWnd::OnCreate(create) == -1 || !CreateChildren())
+    if (CMDIFrameWndEx::OnCreate(create) == -1 || !EnableDocking(CBRS_ALIGN_ANY) ||
+        !EnableAutoHidePanes(CBRS_ALIGN_ANY))
     {
         return -1;
+    }
+    // Panes that the workspace knows come back at their places.
+    assign_panes();
+    for (auto const & [id, pane] : panes())
+    {
+        pane->Create(L"", this, CRect(0, 0, 200, 100), TRUE, id,
+                     WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | WS_CLIPCHILDREN | CBRS_BOTTOM | CBRS_FLOAT_MULTI);
     }
     SetIcon(
         static_cast<HICON>(::LoadImageW(AfxGetInstanceHandle(), MAKEINTRESOURCEW(IDI_WORKBENCH), IMAGE_ICON,
                                         ::GetSystemMetrics(SM_CXSMICON), ::GetSystemMetrics(SM_CYSMICON), LR_SHARED)),
         FALSE);
     DragAcceptFiles();
+    return 0;
+}
+
+/// Lets the parts do what the window is for.
+void CMainWindow::PrepareContents()
+{
     m_spectrogram.SetColours(Farbtabellen::SpektrogrammFarbtabelle(m_settings.spectrogramScale));
     Waveform().SetColours(m_settings.waveform);
     Waveform().SetAmplification(m_settings.amplification);
@@ -177,65 +225,194 @@ int CMainWindow::OnCreate(LPCREATESTRUCT create)
     m_notes = std::make_unique<workbench::NotesStore>(workbench::NotesFile(),
                                                       [window] { ::PostMessageW(window, message_notes_turned, 0, 0); });
     ShowTargets({});
-    return 0;
 }
 
-bool CMainWindow::CreateChildren()
+/// The names under which the parts were known as windows of their own, and their titles.
+wchar_t const * CMainWindow::NameOf(Part part)
 {
-    auto const created = m_tree.CreateTree(*this, IDC_FOLDERS, m_metrics) &&
-                         m_list.CreateList(*this, IDC_RECORDINGS, m_metrics) &&
-                         m_waveformPanel.CreatePanel(*this, IDC_WAVEFORM_PANEL, m_metrics) &&
-                         m_spectrogram.CreateView(*this, IDC_SPECTROGRAM, m_metrics) &&
-                         m_panel.CreatePanel(*this, IDC_MEASURE_PANEL, m_metrics, m_settings.spectrogramScale);
-    return created && m_status.CreateStrip(*this, IDC_STATUS_LINE, m_metrics);
+    switch (part)
+    {
+    case part_folders:
+        return L"Folders";
+    case part_waveform:
+        return L"Waveform";
+    case part_spectrogram:
+        return L"Spectrogram";
+    default:
+        return L"Measures";
+    }
 }
 
-/// Gives the window its least size, which is the design size, and the children their places and edges.
+/// Makes the pane of a part with a view for it. Null if that failed.
+CHostView * CMainWindow::CreatePart(Part part)
+{
+    auto const wasOpen = CFensterManager::OpenInitially(NameOf(part));
+    auto id = static_cast<int>(id_base) + part;
+    auto const known = panes().find(static_cast<unsigned>(id));
+    auto const restored = known != panes().end() && ::IsWindow(known->second->m_hWnd);
+    auto * const view = CStandaloneFrameMigrationHelper::CreatePane<CHostView>(NameOf(part), id, m_panes[part]);
+    if (view == nullptr)
+    {
+        return nullptr;
+    }
+    m_panes[part]->SetWindowText(Text(NameOf(part)));
+    m_panes[part]->ModifyStyleEx(0, WS_EX_CONTROLPARENT);
+    m_isPlaced[part] = restored || wasOpen;
+    return view;
+}
+
+bool CMainWindow::CreateParts()
+{
+    std::array<CHostView *, part_count> views{};
+    for (auto part = 0; part < part_count; ++part)
+    {
+        views[static_cast<std::size_t>(part)] = CreatePart(static_cast<Part>(part));
+        if (views[static_cast<std::size_t>(part)] == nullptr)
+        {
+            return false;
+        }
+    }
+    auto * const list = new CHostView; // ends with its window
+    auto const created = list->Create(nullptr, nullptr, WS_CHILD | WS_VISIBLE, CRect(), this, AFX_IDW_PANE_FIRST) &&
+           m_list.CreateList(*list, IDC_RECORDINGS, m_metrics) &&
+           m_tree.CreateTree(*views[part_folders], IDC_FOLDERS, m_metrics) &&
+           m_waveformPanel.CreatePanel(*views[part_waveform], IDC_WAVEFORM_PANEL, m_metrics) &&
+           m_spectrogram.CreateView(*views[part_spectrogram], IDC_SPECTROGRAM, m_metrics) &&
+           m_panel.CreatePanel(*views[part_measures], IDC_MEASURE_PANEL, m_metrics, m_settings.spectrogramScale) &&
+           m_framesDivider.CreateDivider(*this, IDC_FRAMES_DIVIDER) &&
+           m_status.CreateStrip(*this, IDC_STATUS_LINE, m_metrics);
+    for (auto * const view : views)
+    {
+        view->Fill(); // panes that have come back have their size already
+    }
+    return created;
+}
+
+workbench::MainLayoutNeeds CMainWindow::LayoutNeeds() const
+{
+    CRect client;
+    GetClientRect(&client);
+    workbench::MainLayoutNeeds needs;
+    needs.client = client.Size();
+    needs.marginX = m_metrics.X(c_margin);
+    needs.marginY = m_metrics.Y(c_margin);
+    needs.spacing = m_metrics.Y(c_spacing);
+    needs.dividerGap = m_metrics.X(c_dividerGap);
+    needs.leastBeside = m_metrics.X(c_leastBeside);
+    needs.listHeight = m_metrics.Y(c_leastListHeight);
+    needs.waveformHeight = m_metrics.Y(c_leastWaveformHeight);
+    needs.spectrogramHeight = m_metrics.Y(c_leastSpectrogramHeight);
+    needs.panelHeight = CMeasurePanel::Height(m_metrics);
+    needs.statusHeight = CStatusStrip::Height(m_metrics);
+    needs.captionHeight = ::GetSystemMetrics(SM_CYSMCAPTION);
+    needs.framesWidth = m_frames.AnyOpen() ? ::MulDiv(client.Width(), m_settings.frameShare, 100) : 0;
+    return needs;
+}
+
+/// Gives the window its least size.
 void CMainWindow::Arrange()
 {
-    auto const marginX = m_metrics.X(c_margin);
-    auto const marginY = m_metrics.Y(c_margin);
-    auto const spacingY = m_metrics.Y(c_spacing);
     // All columns are in sight where the screen has room for them.
     CRect work;
     ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
     CRect frame;
     ::AdjustWindowRectEx(&frame, GetStyle(), TRUE, GetExStyle());
-    auto const room = work.Width() - frame.Width() - 2 * marginX;
-    CSize const list(std::max(std::min(m_list.LeastWidth(), room), CMeasurePanel::LeastWidth(m_metrics)),
-                     m_metrics.Y(c_leastListHeight));
-    auto const panelHeight = CMeasurePanel::Height(m_metrics);
-    auto const waveformHeight = m_metrics.Y(c_leastWaveformHeight);
-    auto const spectrogramHeight = m_metrics.Y(c_leastSpectrogramHeight);
-
-    CRect window(0, 0, 2 * marginX + list.cx,
-                 2 * marginY + list.cy + spacingY + waveformHeight + spacingY + spectrogramHeight + spacingY +
-                     panelHeight + spacingY + CStatusStrip::Height(m_metrics));
-    auto const right = window.right - marginX;
-    auto const waveformTop = marginY + list.cy + spacingY;
-    auto const spectrogramTop = waveformTop + waveformHeight + spacingY;
-    auto const panelTop = spectrogramTop + spectrogramHeight + spacingY;
-    auto const statusTop = panelTop + panelHeight + spacingY;
+    auto const room = work.Width() - frame.Width() - 2 * m_metrics.X(c_margin);
+    auto const list = std::max(std::min(m_list.LeastWidth(), room), CMeasurePanel::LeastWidth(m_metrics));
+    CRect window(CPoint(0, 0), workbench::LeastMainArea(LayoutNeeds(), list));
     ::AdjustWindowRectEx(&window, GetStyle(), TRUE, GetExStyle());
+    m_leastSize = window.Size();
     SetWindowPos(nullptr, 0, 0, window.Width(), window.Height(), SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    RecalcLayout();
+}
 
-    m_resizer = std::make_unique<CDialogResizer>(*this, CString());
-    CRect rect(CPoint(marginX, marginY), list);
-    m_resizer->PositionChild(&m_list, CRect(0, 0, 10000, c_listEnd), &rect);
-    rect = CRect(marginX, waveformTop, right, waveformTop + waveformHeight);
-    m_resizer->PositionChild(&m_waveformPanel, CRect(0, c_listEnd, 10000, c_waveformEnd), &rect);
-    rect = CRect(marginX, spectrogramTop, right, spectrogramTop + spectrogramHeight);
-    m_resizer->PositionChild(&m_spectrogram, CRect(0, c_waveformEnd, 10000, 10000), &rect);
-    rect = CRect(marginX, panelTop, right, panelTop + panelHeight);
-    m_resizer->PositionChild(&m_panel, CEdges::BOTTOM_LEFT_RIGHT(), &rect);
-    rect = CRect(CPoint(marginX, statusTop), CSize(right - marginX, CStatusStrip::Height(m_metrics)));
-    m_resizer->PositionChild(&m_status, CEdges::BOTTOM_LEFT_RIGHT(), &rect);
-    // Without the folders; what they take is taken from the others' design.
-    rect = CRect(marginX, marginY, marginX, spectrogramTop + spectrogramHeight);
-    m_resizer->PositionChild(&m_tree, CEdges::TOP_LEFT_BOTTOM(), &rect);
-    m_paneShift = CSize(0, 0);
-    m_folderPane = m_settings.folderPane.value_or(HasRoomForFolders());
-    PlaceFolders();
+/// The panes and the list have what status and frames leave.
+void CMainWindow::RecalcLayout(BOOL notify)
+{
+    if (m_status.GetSafeHwnd() == nullptr || IsIconic())
+    {
+        return;
+    }
+    auto const layout = workbench::LayOutMain(LayoutNeeds());
+    auto border = layout.border;
+    NegotiateBorderSpace(borderSet, &border);
+    CMDIFrameWndEx::RecalcLayout(notify);
+    struct Place
+    {
+        HWND window;
+        CRect rect;
+    };
+    std::array<Place, 3> const places{{{m_status.m_hWnd, layout.status},
+                                       {m_framesDivider.m_hWnd, layout.framesDivider},
+                                       {m_hWndMDIClient, layout.frames}}};
+    auto moved = ::BeginDeferWindowPos(static_cast<int>(places.size()));
+    for (auto const & [window, rect] : places)
+    {
+        auto const show = rect.IsRectEmpty() ? SWP_HIDEWINDOW : SWP_SHOWWINDOW;
+        if (moved != nullptr)
+        {
+            moved = ::DeferWindowPos(moved, window, nullptr, rect.left, rect.top, rect.Width(), rect.Height(),
+                                     SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS | show);
+        }
+    }
+    if (moved != nullptr)
+    {
+        ::EndDeferWindowPos(moved);
+    }
+}
+
+void CMainWindow::ResetLayout()
+{
+    DockByDefault({});
+}
+
+/// Docks the panes as at the first start, but for those others.
+void CMainWindow::DockByDefault(std::array<bool, part_count> const & others)
+{
+    auto needs = LayoutNeeds();
+    needs.client.cx -= needs.framesWidth;
+    auto const sizes = workbench::DefaultPanes(needs);
+    auto const dock = [&](Part part, DWORD side, int extent, bool show = true) {
+        if (!others[part])
+        {
+            m_panes[part]->DockToFrameWindow(side, CRect(0, 0, extent, extent));
+            m_panes[part]->ShowPane(show, FALSE, FALSE);
+        }
+    };
+    // Each one stands between the list and those before it.
+    dock(part_measures, CBRS_ALIGN_BOTTOM, sizes.measures);
+    dock(part_folders, CBRS_ALIGN_LEFT, FolderPaneWidth(), m_settings.folderPane.value_or(HasRoomForFolders()));
+    dock(part_spectrogram, CBRS_ALIGN_BOTTOM, sizes.spectrogram);
+    dock(part_waveform, CBRS_ALIGN_BOTTOM, sizes.waveform);
+    FillFolders();
+}
+
+void CMainWindow::OnResetLayout()
+{
+    ResetLayout();
+}
+
+void CMainWindow::ShowPane(Part part, bool show)
+{
+    if (part == part_folders)
+    {
+        ShowFolders(show);
+        return;
+    }
+    if (!show && m_panes[part]->IsChild(GetFocus()))
+    {
+        m_list.SetFocus();
+    }
+    m_panes[part]->ShowPane(show, FALSE, show);
+}
+
+/// Keeps where the panes are.
+void CMainWindow::KeepWorkspace()
+{
+    if (auto * const app = DYNAMIC_DOWNCAST(CWinAppEx, AfxGetApp()); app != nullptr && m_panes[part_folders] != nullptr)
+    {
+        app->SaveState(this);
+    }
 }
 
 /// Whether the screen has room for the folders beside all columns of the list.
@@ -243,7 +420,7 @@ bool CMainWindow::HasRoomForFolders() const
 {
     CRect work;
     ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
-    auto const room = work.Width() * c_preferredPercent / 100 - 2 * m_metrics.X(c_margin) - m_metrics.X(c_paneGap);
+    auto const room = work.Width() * c_preferredPercent / 100 - 2 * m_metrics.X(c_margin) - m_metrics.X(c_dividerGap);
     return room >= m_list.LeastWidth() + FolderPaneWidth();
 }
 
@@ -254,125 +431,44 @@ int CMainWindow::FolderPaneWidth() const
     return letters * m_metrics.AverageWidth();
 }
 
-/// Gives the folders their place beside the rest, or takes it back.
-void CMainWindow::PlaceFolders()
-{
-    CRect client;
-    GetClientRect(&client);
-    auto const most = client.Width() - m_metrics.X(c_leastBesideFolders);
-    auto const width = m_folderPane ? std::max(std::min(FolderPaneWidth(), most), 0) : 0;
-    auto const shift = CSize(m_folderPane ? width + m_metrics.X(c_paneGap) : 0, width);
-    CSize const offset(shift.cx - m_paneShift.cx, 0);
-    CSize const narrower(-offset.cx, 0);
-    for (auto * const window : std::array<CWnd *, 3>{&m_list, &m_waveformPanel, &m_spectrogram})
-    {
-        m_resizer->RepositionChild(window, &offset, &narrower, false);
-    }
-    CSize const wider(shift.cy - m_paneShift.cy, 0);
-    m_resizer->RepositionChild(&m_tree, nullptr, &wider, false);
-    m_paneShift = shift;
-    m_tree.ShowWindow(m_folderPane ? SW_SHOWNA : SW_HIDE);
-    m_resizer->OnSize();
-}
-
 void CMainWindow::ShowFolders(bool show)
 {
-    if (show == m_folderPane)
+    if (show == ShowsFolders())
     {
         return;
     }
-    auto const * const focus = GetFocus();
-    if (!show && focus == &m_tree)
+    if (!show && GetFocus() == &m_tree)
     {
         m_list.SetFocus();
     }
-    m_folderPane = show;
     m_settings.folderPane = show;
     workbench::StoreFolderPane(m_settings);
-    PlaceFolders();
+    m_panes[part_folders]->ShowPane(show, FALSE, FALSE);
     FillFolders();
 }
 
 void CMainWindow::OnShowFolders()
 {
-    ShowFolders(!m_folderPane);
-    if (m_folderPane)
+    ShowFolders(!ShowsFolders());
+    if (ShowsFolders())
     {
         m_tree.SetFocus();
     }
 }
 
-/// Between folders and the rest; empty without folders.
-CRect CMainWindow::Divider()
+void CMainWindow::MoveFramesDivider(int x)
 {
-    CRect tree;
-    m_tree.GetWindowRect(&tree);
-    ScreenToClient(&tree);
-    auto const width = m_folderPane ? m_metrics.X(c_paneGap) : 0;
-    return CRect(tree.right, tree.top, tree.right + width, tree.bottom);
-}
-
-void CMainWindow::MoveDivider(int x)
-{
-    auto const letters = (x - m_metrics.X(c_margin)) / std::max(m_metrics.AverageWidth(), 1);
-    auto const width = std::clamp(letters, workbench::Settings::least_pane_width, workbench::Settings::most_pane_width);
-    if (width != m_settings.folderPaneWidth)
+    CRect client;
+    GetClientRect(&client);
+    auto const width = client.Width() - m_metrics.X(c_margin) - x - m_metrics.X(c_dividerGap);
+    auto const share = std::clamp(::MulDiv(width, 100, std::max(client.Width(), 1)),
+                                  workbench::Settings::least_frame_share, workbench::Settings::most_frame_share);
+    if (share != m_settings.frameShare)
     {
-        m_settings.folderPaneWidth = width;
-        PlaceFolders();
+        m_settings.frameShare = share;
+        RecalcLayout();
         UpdateWindow();
     }
-}
-
-BOOL CMainWindow::OnSetCursor(CWnd * window, UINT hit, UINT message)
-{
-    CPoint mouse;
-    ::GetCursorPos(&mouse);
-    ScreenToClient(&mouse);
-    if (window == this && hit == HTCLIENT && Divider().PtInRect(mouse))
-    {
-        ::SetCursor(::LoadCursorW(nullptr, IDC_SIZEWE));
-        return TRUE;
-    }
-    return CWnd::OnSetCursor(window, hit, message);
-}
-
-void CMainWindow::OnLButtonDown(UINT flags, CPoint point)
-{
-    if (auto const divider = Divider(); divider.PtInRect(point))
-    {
-        m_dividerGrip = point.x - divider.left;
-        SetCapture();
-    }
-    CWnd::OnLButtonDown(flags, point);
-}
-
-void CMainWindow::OnMouseMove(UINT flags, CPoint point)
-{
-    if (m_dividerGrip >= 0 && GetCapture() == this)
-    {
-        MoveDivider(point.x - m_dividerGrip);
-    }
-    CWnd::OnMouseMove(flags, point);
-}
-
-void CMainWindow::OnLButtonUp(UINT flags, CPoint point)
-{
-    if (m_dividerGrip >= 0 && GetCapture() == this)
-    {
-        ::ReleaseCapture();
-    }
-    CWnd::OnLButtonUp(flags, point);
-}
-
-void CMainWindow::OnCaptureChanged(CWnd * window)
-{
-    if (m_dividerGrip >= 0)
-    {
-        m_dividerGrip = -1;
-        workbench::StoreFolderPane(m_settings);
-    }
-    CWnd::OnCaptureChanged(window);
 }
 
 void CMainWindow::OnDropFiles(HDROP drop)
@@ -391,11 +487,22 @@ void CMainWindow::OnDropFiles(HDROP drop)
     m_rememberFolders = true;
 }
 
+/// Whether a window lies in one of the frames.
+bool CMainWindow::IsInFrames(HWND window) const
+{
+    return m_hWndMDIClient != nullptr && ::IsChild(m_hWndMDIClient, window);
+}
+
 BOOL CMainWindow::PreTranslateMessage(MSG * message)
 {
-    if (m_accelerators != nullptr && !IsForEditor(*message) && ::TranslateAcceleratorW(m_hWnd, m_accelerators, message))
+    auto const window = m_hWnd;
+    if (!IsForEditor(*message) && CMDIFrameWndEx::PreTranslateMessage(message))
     {
         return TRUE;
+    }
+    if (m_hWnd != window || IsInFrames(message->hwnd))
+    {
+        return FALSE;
     }
     if (message->message == WM_KEYDOWN && message->wParam == VK_RETURN)
     {
@@ -410,7 +517,7 @@ BOOL CMainWindow::PreTranslateMessage(MSG * message)
             return TRUE;
         }
     }
-    return CWnd::PreTranslateMessage(message) || IsDialogMessage(message);
+    return IsDialogMessage(message);
 }
 
 /// Whether it is a key that belongs to the comment that is being edited.
@@ -423,6 +530,7 @@ bool CMainWindow::IsForEditor(MSG const & message) const
 
 void CMainWindow::OnActivate(UINT state, CWnd * other, BOOL minimized)
 {
+    // Not the frame's own, which gives the focus to the active frame's view wherever it was before.
     CWnd::OnActivate(state, other, minimized);
     if (state == WA_INACTIVE)
     {
@@ -437,15 +545,14 @@ void CMainWindow::OnActivate(UINT state, CWnd * other, BOOL minimized)
     }
 }
 
-/// Puts the dialogs above the window again, in their order. Windows never lets them fall behind their owner, other
+/// Puts dialogs and floating panes above the window again, in their order. Windows never lets them fall behind their owner, other
 /// systems do when it is activated: a click raises it a little later, without a message that says so.
 LRESULT CMainWindow::OnRaiseDialogs(WPARAM, LPARAM)
 {
-    auto const dialogs = Dialogs();
     std::vector<HWND> below;
     for (auto window = ::GetWindow(m_hWnd, GW_HWNDNEXT); window != nullptr; window = ::GetWindow(window, GW_HWNDNEXT))
     {
-        if (std::ranges::any_of(dialogs, [window](auto const * dialog) { return dialog->GetSafeHwnd() == window; }))
+        if (::GetWindow(window, GW_OWNER) == m_hWnd && ::IsWindowVisible(window))
         {
             below.push_back(window);
         }
@@ -470,22 +577,10 @@ void CMainWindow::OnSetFocus(CWnd *)
     }
 }
 
-void CMainWindow::OnSize(UINT type, int width, int height)
-{
-    CWnd::OnSize(type, width, height);
-    if (m_resizer && type != SIZE_MINIMIZED)
-    {
-        m_resizer->OnSize();
-    }
-}
-
 void CMainWindow::OnGetMinMaxInfo(MINMAXINFO * info)
 {
-    CWnd::OnGetMinMaxInfo(info);
-    if (m_resizer)
-    {
-        m_resizer->OnGetMinMaxInfo(info, CDialogResizer::RESIZE_BOTH);
-    }
+    CMDIFrameWndEx::OnGetMinMaxInfo(info);
+    info->ptMinTrackSize = CPoint(m_leastSize.cx, m_leastSize.cy);
 }
 
 void CMainWindow::RememberPlace()
@@ -502,9 +597,10 @@ void CMainWindow::OnCloseCommand()
 
 void CMainWindow::OnClose()
 {
-    CloseDialogs();
+    CloseOwnedWindows();
     KeepNotes();
     RememberPlace();
+    KeepWorkspace();
     DestroyWindow();
 }
 
@@ -515,15 +611,23 @@ void CMainWindow::OnEndSession(BOOL ending)
         KeepNotes();
         m_notes->Flush();
         RememberPlace();
+        m_memory.SaveAllPositions();
+        KeepWorkspace();
     }
-    CWnd::OnEndSession(ending);
+    CMDIFrameWndEx::OnEndSession(ending);
 }
 
 void CMainWindow::OnDestroy()
 {
+    // Frames end after this, and their ends are nobody's business any more.
+    m_frames.m_onOpened = nullptr;
+    m_frames.Stop();
     m_tree.Stop();
     m_search.reset();
     m_queue.reset();
     m_notes.reset();
-    CWnd::OnDestroy();
+    CMDIFrameWndEx::OnDestroy();
 }
+
+/// The object is not the window's.
+void CMainWindow::PostNcDestroy() {}

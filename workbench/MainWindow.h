@@ -1,5 +1,6 @@
 #pragma once
 
+#include <afxcontrolbars.h>
 #include <afxwin.h>
 
 #include <array>
@@ -12,31 +13,37 @@
 #include <vector>
 
 #include "DetailsDialog.h"
+#include "Divider.h"
+#include "HostView.h"
 #include "FolderTree.h"
 #include "MeasurePanel.h"
 #include "PreviewDialog.h"
 #include "RecordingList.h"
 #include "ScreenMetrics.h"
-#include "SettingsDialog.h"
+#include "SettingsSheet.h"
 #include "SpectrogramView.h"
 #include "StatusStrip.h"
+#include "WaveformFrames.h"
 #include "WaveformPanel.h"
 #include "WindowMenu.h"
 #include "frame/LifeWatch.h"
-#include "layout/DialogResizer.h"
 #include "logic/AnalysisQueue.h"
+#include "logic/MainLayout.h"
 #include "logic/NotesStore.h"
 #include "logic/RecordingSearch.h"
 #include "windows/FensterManager.h"
+#include "windows/MainFrmInterface.h"
 
-/// The workbench's main window: the list of recordings, the waveform of the chosen one, and the commands.
-class CMainWindow : public CWnd
+/// The workbench's main window: the list of recordings, the waveform of the chosen one, the frames with other waveforms,
+/// and the commands. The object is its owner's, and lasts longer than the window.
+class CMainWindow : public CMDIFrameWndEx, public CMainFrmInterface
 {
 public:
     /// dotsPerInch: of the screen, where it is not what the system says.
     explicit CMainWindow(int dotsPerInch = 0);
+    ~CMainWindow() override;
 
-    /// Creates the window at the place where it stood last.
+    /// Creates the window at the place where it stood last, with the frames that were open.
     bool CreateMainWindow();
 
     /// Shows the recordings that folders and files stand for, in place of the present ones. They are looked for, listed
@@ -70,11 +77,34 @@ public:
     workbench::Settings const & Settings() const { return m_settings; }
 
     /// Whether the tree of folders shows, and its showing by the program, which is remembered as the user's is.
-    bool ShowsFolders() const { return m_folderPane; }
+    bool ShowsFolders() const { return ShowsPane(part_folders); }
     void ShowFolders(bool show);
+
+    /// The parts that are panes around the list, which the user can move, put into tabs, let float and hide.
+    enum Part
+    {
+        part_folders,
+        part_waveform,
+        part_spectrogram,
+        part_measures,
+        part_count
+    };
+    /// The pane of a part.
+    CDockableViewPane & Pane(Part part) { return *m_panes[part]; }
+    bool ShowsPane(Part part) const { return m_panes[part] != nullptr && m_panes[part]->IsVisible(); }
+    void ShowPane(Part part, bool show);
+    using CMDIFrameWndEx::ShowPane;
+    /// Puts all panes back to where they are at the first start.
+    void ResetLayout();
 
     /// Lets the user choose the list's columns at a place of the screen.
     void ChooseColumns(CPoint screen);
+
+    /// Shows a recording in a frame of its own, or brings that to the front. Gives false for one that does not exist.
+    bool ShowInFrame(int index);
+    /// Shows the first four marked recordings in a frame; the chosen one and those below it, where none are marked.
+    bool CompareFour();
+    CWaveformFrames & Frames() { return m_frames; }
 
     /// Opens the details of a recording, or shows them in the open window. Gives false for one that does not exist or
     /// is not read.
@@ -84,7 +114,7 @@ public:
 
     /// Opens the settings, or brings them to the front.
     bool ShowSettings();
-    CSettingsDialog & SettingsDialog() { return m_settingsDialog; }
+    CSettingsSheet & SettingsSheet() { return m_settingsSheet; }
 
     /// Opens the print preview of the chosen recording. False if it cannot be opened.
     bool ShowPreview();
@@ -97,9 +127,14 @@ public:
 
     void CloseDialogs();
 
+    BOOL PreCreateWindow(CREATESTRUCT & create) override;
     BOOL PreTranslateMessage(MSG * message) override;
+    void RecalcLayout(BOOL notify = TRUE) override;
 
 protected:
+    BOOL OnCreateClient(LPCREATESTRUCT create, CCreateContext * context) override;
+    void PostNcDestroy() override;
+
     DECLARE_MESSAGE_MAP()
 
 private:
@@ -109,6 +144,10 @@ private:
     static constexpr UINT message_raise_dialogs = WM_APP + 2;
     /// From the thread that stores notes: that has begun to fail or to succeed.
     static constexpr UINT message_notes_turned = WM_APP + 3;
+    /// From the thread that reads what frames show: there is something to fetch.
+    static constexpr UINT message_frame_read = WM_APP + 4;
+    /// To the window itself, when frames have opened or closed.
+    static constexpr UINT message_frames_changed = WM_APP + 5;
 
     static constexpr UINT_PTR work_timer = 1;
     static constexpr UINT_PTR raise_timer = 2;
@@ -118,17 +157,13 @@ private:
     afx_msg void OnDestroy();
     afx_msg void OnEndSession(BOOL ending);
     afx_msg void OnInitMenuPopup(CMenu * menu, UINT index, BOOL systemMenu);
-    afx_msg void OnSize(UINT type, int width, int height);
     afx_msg void OnGetMinMaxInfo(MINMAXINFO * info);
     afx_msg void OnActivate(UINT state, CWnd * other, BOOL minimized);
     afx_msg void OnSetFocus(CWnd * previous);
     afx_msg void OnDropFiles(HDROP drop);
-    afx_msg BOOL OnSetCursor(CWnd * window, UINT hit, UINT message);
-    afx_msg void OnLButtonDown(UINT flags, CPoint point);
-    afx_msg void OnMouseMove(UINT flags, CPoint point);
-    afx_msg void OnLButtonUp(UINT flags, CPoint point);
-    afx_msg void OnCaptureChanged(CWnd * window);
     afx_msg void OnShowFolders();
+    afx_msg void OnResetLayout();
+    afx_msg void OnDynamicCommand(UINT id);
     afx_msg void OnChooseColumns();
     afx_msg void OnExportList();
     afx_msg void OnAmplify(UINT id);
@@ -150,6 +185,8 @@ private:
     afx_msg void OnCancelReading();
     afx_msg void OnReadAgain();
     afx_msg void OnShowDetails();
+    afx_msg void OnShowInFrame();
+    afx_msg void OnCompareFour();
     afx_msg void OnSetReference();
     afx_msg void OnEditComment();
     afx_msg void OnChooseRating();
@@ -159,6 +196,8 @@ private:
     afx_msg LRESULT OnRecordingsReady(WPARAM, LPARAM);
     afx_msg LRESULT OnRaiseDialogs(WPARAM, LPARAM);
     afx_msg LRESULT OnNotesTurned(WPARAM, LPARAM);
+    afx_msg LRESULT OnFrameRead(WPARAM, LPARAM);
+    afx_msg LRESULT OnFramesChanged(WPARAM, LPARAM);
 
     /// A file in the list.
     struct Recording
@@ -175,10 +214,23 @@ private:
         bool ascending;
     };
 
-    bool CreateChildren();
+    bool CreateParts();
+    CHostView * CreatePart(Part part);
+    void PrepareContents();
+    void PreparePaneMenu();
+    static wchar_t const * NameOf(Part part);
+    void DockByDefault(std::array<bool, part_count> const & others);
+    void KeepWorkspace();
+    workbench::MainLayoutNeeds LayoutNeeds() const;
     void Arrange();
     void PrepareDialogs();
-    std::array<CWorkbenchDialog *, 3> Dialogs();
+    void PrepareFrames();
+    void CloseOwnedWindows();
+    bool IsInFrames(HWND window) const;
+
+    std::array<CWorkbenchDialog *, 2> Dialogs();
+    std::array<CWnd *, 3> OwnedWindows();
+    void EnterInMenu(CWnd & window, CString const & text, bool open);
     void FollowSettings(workbench::Settings const & settings);
     void TakeSettings(workbench::Settings const & settings);
     void DrawPage(CDC & dc, CRect const & page);
@@ -186,9 +238,7 @@ private:
     void RememberPlace();
     bool HasRoomForFolders() const;
     int FolderPaneWidth() const;
-    void PlaceFolders();
-    CRect Divider();
-    void MoveDivider(int x);
+    void MoveFramesDivider(int x);
     void KeepSettings();
     void OpenFolder(std::filesystem::path const & folder);
     void ChooseFile(std::filesystem::path const & file);
@@ -234,14 +284,16 @@ private:
     CWindowMenu m_windowMenu;
     CDetailsDialog m_details;
     int m_detailsIndex = -1; ///< the recording whose details are shown
-    CSettingsDialog m_settingsDialog;
+    CSettingsSheet m_settingsSheet;
     CPreviewDialog m_preview;
     workbench::Settings m_settings;
-    std::unique_ptr<CDialogResizer> m_resizer;
-    bool m_folderPane = false;       ///< the folders show
-    CSize m_paneShift = CSize(0, 0); ///< what they take of the rest's width, and their own
-    int m_dividerGrip = -1;          ///< while the user moves their edge: how far from it
-    HACCEL m_accelerators = nullptr;
+    CWaveformFrames m_frames;
+    CSize m_leastSize = CSize(0, 0); ///< of the window
+    std::array<CDockableViewPane *, part_count> m_panes{}; ///< null until they are made
+    static constexpr unsigned window_menu = 1;             ///< as dynamic commands know it
+    std::array<UINT, part_count> m_paneCommands{};         ///< that show and hide the panes
+    std::array<bool, part_count> m_isPlaced{};             ///< the pane had a place when it was made
+    CDivider m_framesDivider;
     HWND m_lastFocus = nullptr;
     int m_raises = 0; ///< how often the dialogs are still to be looked after
 

@@ -18,6 +18,7 @@
 #include "logic/TableText.h"
 #include "logic/Texts.h"
 #include "resource.h"
+#include "windows/StandaloneFrameWnd.h"
 
 using workbench::Text;
 
@@ -30,9 +31,28 @@ constexpr int c_columnsHeight = 128;
 
 } // namespace
 
-std::array<CWorkbenchDialog *, 3> CMainWindow::Dialogs()
+std::array<CWorkbenchDialog *, 2> CMainWindow::Dialogs()
 {
-    return {&m_details, &m_settingsDialog, &m_preview};
+    return {&m_details, &m_preview};
+}
+
+/// All that is to lie above the window while it is open.
+std::array<CWnd *, 3> CMainWindow::OwnedWindows()
+{
+    return {&m_details, &m_preview, &m_settingsSheet};
+}
+
+/// Gives a window that has opened its item in the window menu, or takes it out.
+void CMainWindow::EnterInMenu(CWnd & window, CString const & text, bool open)
+{
+    if (open)
+    {
+        m_windowMenu.Add(window, text);
+    }
+    else
+    {
+        m_windowMenu.Remove(window);
+    }
 }
 
 void CMainWindow::PrepareDialogs()
@@ -42,24 +62,79 @@ void CMainWindow::PrepareDialogs()
     {
         dialog->Follow(m_settings);
         dialog->m_onOpened = [this](CWorkbenchDialog & which, bool open) {
-            if (open)
-            {
-                m_windowMenu.Add(which, which.GetDialogTitle());
-            }
-            else
-            {
-                m_windowMenu.Remove(which);
-            }
+            EnterInMenu(which, which.GetDialogTitle(), open);
         };
     }
-    m_settingsDialog.m_current = [this] { return m_settings; };
-    m_settingsDialog.m_onAccepted = [this](workbench::Settings const & settings) { TakeSettings(settings); };
+    m_settingsSheet.m_onOpened = [this](bool open) { EnterInMenu(m_settingsSheet, Text(L"Settings"), open); };
+    m_settingsSheet.m_current = [this] { return m_settings; };
+    m_settingsSheet.m_onAccepted = [this](workbench::Settings const & settings) { TakeSettings(settings); };
     m_panel.m_onScale = [this](unsigned int scale) {
         auto settings = m_settings;
         settings.spectrogramScale = scale;
         TakeSettings(settings);
     };
     m_details.m_actions = [this] { return DetailsActions(); };
+}
+
+void CMainWindow::PrepareFrames()
+{
+    m_frames.SetNotify([window = m_hWnd] { ::PostMessageW(window, message_frame_read, 0, 0); });
+    m_frames.Follow(m_settings);
+    m_frames.m_onOpened = [this](CWaveformFrame & frame, bool open) {
+        EnterInMenu(*frame.Frame(), frame.Title(), open);
+        PostMessage(message_frames_changed);
+    };
+    m_framesDivider.m_onMoved = [this](int x) { MoveFramesDivider(x); };
+    m_framesDivider.m_onReleased = [this] { workbench::StoreFrameShare(m_settings.frameShare); };
+}
+
+/// Gives each pane an item of the window menu and a key, by which it is shown and hidden.
+void CMainWindow::PreparePaneMenu()
+{
+    auto * const bar = GetMenu();
+    auto * const menu = bar != nullptr ? CMenueManager::FindSubMenue(*bar, Text(L"&Window")) : nullptr;
+    if (menu == nullptr)
+    {
+        return;
+    }
+    UINT place = 0;
+    for (auto index = 0; index < part_count; ++index)
+    {
+        auto const part = static_cast<Part>(index);
+        CString text;
+        text.Format(L"%s\t%s%d", Text(NameOf(part)), Text(L"Ctrl+"), index + 1);
+        auto const id = register_menu(window_menu, text, [this, part] { ShowPane(part, !ShowsPane(part)); },
+                                      static_cast<unsigned short>(L'1' + index), FVIRTKEY | FCONTROL | FNOINVERT);
+        if (id >= 0)
+        {
+            m_paneCommands[index] = static_cast<UINT>(id);
+            menu->InsertMenu(place++, MF_BYPOSITION | MF_STRING, static_cast<UINT_PTR>(id), text);
+        }
+    }
+}
+
+void CMainWindow::OnDynamicCommand(UINT id)
+{
+    menu(id);
+}
+
+LRESULT CMainWindow::OnFrameRead(WPARAM, LPARAM)
+{
+    m_frames.TakeResults();
+    return 0;
+}
+
+/// Gives the frames room, or takes it back when the last one has gone.
+LRESULT CMainWindow::OnFramesChanged(WPARAM, LPARAM)
+{
+    auto const focus = ::GetFocus();
+    RecalcLayout();
+    if (!m_frames.AnyOpen() && CWnd::GetActiveWindow() == this &&
+        (focus == nullptr || focus == m_hWnd || focus == m_hWndMDIClient))
+    {
+        m_list.SetFocus();
+    }
+    return 0;
 }
 
 /// Lets the windows follow the settings.
@@ -78,6 +153,7 @@ void CMainWindow::FollowSettings(workbench::Settings const & settings)
     {
         m_list.SetHiddenColumns(settings.hiddenColumns);
     }
+    m_frames.Follow(settings);
     m_tree.AddPlaces(settings.startFolders);
     m_preview.Update();
 }
@@ -212,7 +288,7 @@ CDetailsDialog::Actions CMainWindow::DetailsActions()
 
 bool CMainWindow::ShowSettings()
 {
-    return m_settingsDialog.OpenWith(m_settings);
+    return m_settingsSheet.Open(*this);
 }
 
 void CMainWindow::OnShowSettings()
@@ -300,9 +376,22 @@ void CMainWindow::OnCopySpectrogram()
                            [this](CDC & dc, CRect const & rect) { m_spectrogram.Print(dc, rect); });
 }
 
+/// Closes dialogs and frames, as the user does.
 void CMainWindow::CloseDialogs()
 {
     m_windowMenu.CloseAll();
+}
+
+/// Closes what lies above the window; the frames stay.
+void CMainWindow::CloseOwnedWindows()
+{
+    for (auto * const window : OwnedWindows())
+    {
+        if (window->GetSafeHwnd() != nullptr)
+        {
+            window->SendMessage(WM_COMMAND, IDCANCEL); // not WM_CLOSE, which a dialog only posts on
+        }
+    }
 }
 
 void CMainWindow::OnCloseDialogs()
@@ -337,7 +426,11 @@ void CMainWindow::OnOpenFolder()
 
 void CMainWindow::OnInitMenuPopup(CMenu * menu, UINT index, BOOL systemMenu)
 {
-    CWnd::OnInitMenuPopup(menu, index, systemMenu);
+    CMDIFrameWndEx::OnInitMenuPopup(menu, index, systemMenu);
+    if (systemMenu)
+    {
+        return;
+    }
     auto const enable = [menu](UINT id, bool enabled) {
         menu->EnableMenuItem(id, MF_BYCOMMAND | (enabled ? MF_ENABLED : MF_GRAYED));
     };
@@ -349,12 +442,14 @@ void CMainWindow::OnInitMenuPopup(CMenu * menu, UINT index, BOOL systemMenu)
     enable(ID_COPY_SPECTROGRAM, m_shown && !m_shown->problem && !IsComputing());
     enable(ID_RELOAD, !m_targets.empty());
     enable(ID_SHOW_DETAILS, read);
+    enable(ID_SHOW_IN_FRAME, recording != nullptr && m_frames.HasRoom());
+    enable(ID_COMPARE_FOUR, RecordingCount() > 0 && m_frames.HasRoomToCompare());
     enable(ID_READ_AGAIN, recording != nullptr && !recording->queued);
     enable(ID_SET_REFERENCE, IsReadable(chosen));
     enable(ID_EDIT_COMMENT, IsReadable(chosen) && !m_list.IsHidden(CRecordingList::column_comment));
     enable(ID_CHOOSE_RATING, IsReadable(chosen) && !m_list.IsHidden(CRecordingList::column_rating));
     enable(ID_EXPORT_LIST, RecordingCount() > 0);
-    menu->CheckMenuItem(ID_SHOW_FOLDERS, MF_BYCOMMAND | (m_folderPane ? MF_CHECKED : MF_UNCHECKED));
+    menu->CheckMenuItem(ID_SHOW_FOLDERS, MF_BYCOMMAND | (ShowsFolders() ? MF_CHECKED : MF_UNCHECKED));
     auto const amplification = Waveform().Amplification();
     enable(ID_AMPLIFY, Waveform().ShowsRecording() && amplification < workbench::c_mostAmplification);
     enable(ID_REDUCE, Waveform().ShowsRecording() && amplification > 0);
@@ -363,5 +458,10 @@ void CMainWindow::OnInitMenuPopup(CMenu * menu, UINT index, BOOL systemMenu)
     enable(ID_MARK_ALL, RecordingCount() > 0);
     enable(ID_MARK_NONE, RecordingCount() > 0);
     enable(ID_FIT_COLUMNS, !m_list.UserWidths().empty());
-    enable(ID_CLOSE_DIALOGS, std::ranges::any_of(Dialogs(), [](auto const * dialog) { return dialog->IsOpen(); }));
+    for (auto part = 0; part < part_count; ++part)
+    {
+        menu->CheckMenuItem(m_paneCommands[part],
+                            MF_BYCOMMAND | (ShowsPane(static_cast<Part>(part)) ? MF_CHECKED : MF_UNCHECKED));
+    }
+    enable(ID_CLOSE_DIALOGS, m_frames.AnyOpen() || std::ranges::any_of(OwnedWindows(), [](auto const * window) { return window->GetSafeHwnd() != nullptr; }));
 }

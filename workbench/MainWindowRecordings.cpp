@@ -101,7 +101,7 @@ void CMainWindow::ShowTargets(std::vector<std::filesystem::path> targets)
 /// Fills the tree of folders, if it shows.
 void CMainWindow::FillFolders()
 {
-    if (!m_folderPane)
+    if (!ShowsFolders())
     {
         return;
     }
@@ -115,7 +115,7 @@ void CMainWindow::FillFolders()
 void CMainWindow::ShowInFolders()
 {
     auto const * const chosen = RecordingAt(m_list.ChosenLine());
-    if (m_folderPane && chosen != nullptr && GetFocus() != &m_tree)
+    if (ShowsFolders() && chosen != nullptr && GetFocus() != &m_tree)
     {
         m_tree.SelectRecording(chosen->file);
     }
@@ -617,6 +617,7 @@ void CMainWindow::ReadAgain(int index)
     recording.analysis = nullptr;
     m_list.ShowReading(index, recording.file);
     Queue(index);
+    m_frames.Reload(recording.file);
     ShowChosen();
     ShowProgress();
     UpdateStatusLine();
@@ -633,6 +634,7 @@ void CMainWindow::OnReload()
     StopWork();
     StartSearch();
     m_reloading = true;
+    m_frames.Reload();
     ShowChosen();
     ShowProgress();
     UpdateStatusLine();
@@ -684,6 +686,39 @@ bool CMainWindow::ShowDetails(int index)
 void CMainWindow::OnShowDetails()
 {
     ShowDetails(m_list.ChosenLine());
+}
+
+bool CMainWindow::ShowInFrame(int index)
+{
+    auto const * const recording = RecordingAt(index);
+    return recording != nullptr && m_frames.Open({recording->file, recording->analysis});
+}
+
+void CMainWindow::OnShowInFrame()
+{
+    ShowInFrame(m_list.ChosenLine());
+}
+
+bool CMainWindow::CompareFour()
+{
+    constexpr std::size_t most = 4;
+    auto const anyMarked = m_list.Totals().Checked() > 0;
+    std::vector<CWaveformFrames::Shown> recordings;
+    for (int row = anyMarked ? 0 : std::max(m_list.PlaceOf(m_list.ChosenLine()), 0);
+         row < m_list.LineCount() && recordings.size() < most; ++row)
+    {
+        auto const line = m_list.LineAt(row);
+        if (auto const * const recording = RecordingAt(line); recording != nullptr && (!anyMarked || m_list.IsChecked(line)))
+        {
+            recordings.push_back({recording->file, recording->analysis});
+        }
+    }
+    return m_frames.Compare(std::move(recordings));
+}
+
+void CMainWindow::OnCompareFour()
+{
+    CompareFour();
 }
 
 void CMainWindow::OnSetReference()

@@ -103,6 +103,7 @@ void CMeasurePanel::OnSize(UINT type, int width, int height)
     m_scale.MoveWindow(left, top, m_metrics->X(c_scaleWidth), box.Height() + m_metrics->Y(c_height) * 8);
     auto const clock = m_metrics->X(c_clockWidth);
     m_clock.MoveWindow(width - clock, 0, clock, height);
+    m_clock.ShowWindow(width - clock >= left + m_metrics->X(c_scaleWidth) ? SW_SHOWNA : SW_HIDE);
     // The panel has mostly moved as well; what it takes along of its children may be of other windows.
     RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }

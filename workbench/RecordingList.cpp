@@ -195,6 +195,7 @@ void CRecordingList::CreateMenu()
 {
     auto & menu = PopUpMenu();
     menu.AppendMenu(MF_STRING, ID_SHOW_DETAILS, Text(L"&Details...\tAlt+Enter"));
+    menu.AppendMenu(MF_STRING, ID_SHOW_IN_FRAME, Text(L"In a &window of its own\tCtrl+N"));
     menu.AppendMenu(MF_STRING, ID_SET_REFERENCE, Text(L"Set as &reference\tCtrl+R"));
     menu.AppendMenu(MF_STRING, ID_EDIT_COMMENT, Text(L"Edit &comment\tF2"));
     menu.AppendMenu(MF_STRING, ID_CHOOSE_RATING, Text(L"Ra&te...\tF4"));

@@ -36,10 +36,14 @@ constexpr wchar_t c_amplification[] = L"Amplification";
 constexpr wchar_t c_hiddenColumns[] = L"HiddenColumns";
 constexpr wchar_t c_folderPane[] = L"FolderPane"; // 0: hidden, 1: shown, else not said
 constexpr wchar_t c_folderPaneWidth[] = L"FolderPaneWidth";
+constexpr wchar_t c_frameShare[] = L"FrameShare";
+constexpr wchar_t c_frameSection[] = L"Frames"; // an entry for each frame: its recordings
 constexpr wchar_t c_exportFile[] = L"ExportFile";
 constexpr wchar_t c_exportHidden[] = L"ExportHidden";
 constexpr wchar_t c_exportLines[] = L"ExportLines";
+constexpr wchar_t c_settingsPage[] = L"SettingsPage";
 
+constexpr int c_mostPages = 100; // more than the settings have
 constexpr int c_mostColumns = 100; // more than any list of the workbench has
 constexpr int c_lineChoices = 3;
 
@@ -100,6 +104,8 @@ Settings ReadSettings()
         settings.folderPane = shown != 0;
     }
     settings.folderPaneWidth = ReadNumber(c_folderPaneWidth, Settings::least_pane_width, Settings::most_pane_width, 0);
+    settings.frameShare =
+        ReadNumber(c_frameShare, Settings::least_frame_share, Settings::most_frame_share, settings.frameShare);
     settings.exportFile = ReadText(c_exportFile);
     settings.exportHidden = NumbersOf(ReadText(c_exportHidden), c_mostColumns);
     settings.exportLines = ReadNumber(c_exportLines, 0, c_lineChoices - 1, 0);
@@ -121,7 +127,7 @@ bool StoreSettings(Settings const & settings)
            WriteText(c_cursorColour, ColourText(settings.waveform.cursor)) &&
            StoreAmplification(settings.amplification) &&
            WriteText(c_hiddenColumns, NumberText(settings.hiddenColumns)) && StoreFolderPane(settings) &&
-           WriteText(c_exportFile, settings.exportFile.wstring()) &&
+           StoreFrameShare(settings.frameShare) &&            WriteText(c_exportFile, settings.exportFile.wstring()) &&
            WriteText(c_exportHidden, NumberText(settings.exportHidden)) &&
            app.WriteProfileInt(c_section, c_exportLines, settings.exportLines);
 }
@@ -133,9 +139,34 @@ bool StoreFolderPane(Settings const & settings)
            app.WriteProfileInt(c_section, c_folderPaneWidth, settings.folderPaneWidth);
 }
 
+bool StoreFrameShare(int percent)
+{
+    return AfxGetApp()->WriteProfileInt(c_section, c_frameShare, percent) != FALSE;
+}
+
+std::vector<std::filesystem::path> ReadFrameRecordings(CString const & frame)
+{
+    return FoldersOf(AfxGetApp()->GetProfileString(c_frameSection, frame).GetString());
+}
+
+bool StoreFrameRecordings(CString const & frame, std::vector<std::filesystem::path> const & files)
+{
+    return AfxGetApp()->WriteProfileString(c_frameSection, frame, FolderText(files).c_str()) != FALSE;
+}
+
 bool StoreAmplification(int decibels)
 {
     return AfxGetApp()->WriteProfileInt(c_section, c_amplification, decibels) != FALSE;
+}
+
+int ReadSettingsPage()
+{
+    return ReadNumber(c_settingsPage, 0, c_mostPages, 0);
+}
+
+bool StoreSettingsPage(int page)
+{
+    return AfxGetApp()->WriteProfileInt(c_section, c_settingsPage, page) != FALSE;
 }
 
 std::map<int, int> ReadColumnWidths(int averageWidth)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <afx.h>
+
 #include <filesystem>
 #include <map>
 #include <optional>
@@ -33,9 +35,14 @@ struct Settings
     std::set<int> exportHidden;       ///< columns that are not exported
     int exportLines = 0;              ///< a number of CExportDialog's
 
+    int frameShare = 50;              ///< of the window's width that frames have while any are open, in percent
+
     /// The limits of the width of the folders.
     static constexpr int least_pane_width = 10;
     static constexpr int most_pane_width = 200;
+    /// The limits of the share of frames.
+    static constexpr int least_frame_share = 10;
+    static constexpr int most_frame_share = 90;
 
     /// The alpha of a dialog that is not active: 0 to 255.
     unsigned char InactiveAlpha() const;
@@ -50,8 +57,19 @@ bool StoreSettings(Settings const & settings);
 /// Stores alone whether the folders show and how wide. False if that failed.
 bool StoreFolderPane(Settings const & settings);
 
+/// Stores alone what the share of frames is. False if that failed.
+bool StoreFrameShare(int percent);
+
+/// The recordings of a frame, known by the frame's name. Storing gives false if that failed.
+std::vector<std::filesystem::path> ReadFrameRecordings(CString const & frame);
+bool StoreFrameRecordings(CString const & frame, std::vector<std::filesystem::path> const & files);
+
 /// Stores the amplification alone, which changes often. False if that failed.
 bool StoreAmplification(int decibels);
+
+/// The number of the settings' page that showed last; 0 at first. Storing gives false if that failed.
+int ReadSettingsPage();
+bool StoreSettingsPage(int page);
 
 /// The column widths that the user has set, by column, in pixels. Those of a font with another average width of its
 /// letters come back scaled.

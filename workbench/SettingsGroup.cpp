@@ -3,77 +3,76 @@
 #include <uxtheme.h>
 
 #include "BrowseKey.h"
+#include "dialogs/Dialog3d.h"
 #include "logic/ReadableColours.h"
 
-BEGIN_MESSAGE_MAP(CSettingsGroup, CDialog)
-    ON_WM_SIZE()
-    ON_WM_NCHITTEST()
-END_MESSAGE_MAP()
+CSettingsGroup::CSettingsGroup(UINT templateId) : CPropertyPage3d(CDialog3d::NO_DLL, templateId, 0U) {}
 
-CSettingsGroup::CSettingsGroup(UINT templateId) : m_template(templateId) {}
-
-bool CSettingsGroup::CreateGroup(CWnd & parent)
+bool CSettingsGroup::HasDarkGround()
 {
-    m_layout.reset();
-    if (!Create(m_template, &parent))
-    {
-        return false;
-    }
-    SetDlgCtrlID(static_cast<int>(m_template));
-    return true;
+    return workbench::ContrastRatio(::GetSysColor(COLOR_BTNFACE), RGB(0, 0, 0)) < workbench::c_textContrast;
 }
 
 BOOL CSettingsGroup::OnInitDialog()
 {
-    CDialog::OnInitDialog();
-    m_layout = std::make_unique<CDialogResizer>(*this, CString());
-    // Titles of groups have the visual style's colour, which is made for a light ground.
-    if (workbench::ContrastRatio(::GetSysColor(COLOR_BTNFACE), RGB(0, 0, 0)) < workbench::c_textContrast)
-    {
-        for (auto * child = GetWindow(GW_CHILD); child != nullptr; child = child->GetNextWindow())
-        {
-            if ((child->SendMessage(WM_GETDLGCODE) & DLGC_STATIC) != 0 &&
-                (child->GetStyle() & BS_TYPEMASK) == BS_GROUPBOX)
-            {
-                ::SetWindowTheme(child->m_hWnd, L"", L"");
-            }
-        }
-    }
-    return FALSE; // the focus is the whole dialog's affair
+    m_filled = false;
+    m_changed = false;
+    return CPropertyPage3d::OnInitDialog();
 }
 
 void CSettingsGroup::Follow(int id, CEdges const & edges)
 {
-    m_layout->PositionChild(id, edges, nullptr);
+    D3dLayoutChild(id, edges, nullptr);
 }
 
 void CSettingsGroup::Changed()
 {
-    // A copy, as what it does may replace it.
-    if (auto const onChanged = m_onChanged)
+    // Controls tell also of what the program does to them.
+    if (m_filled)
     {
-        onChanged();
+        m_changed = true;
+        SetModified();
     }
 }
 
-void CSettingsGroup::OnSize(UINT type, int width, int height)
+BOOL CSettingsGroup::OnSetActive()
 {
-    CDialog::OnSize(type, width, height);
-    if (m_layout)
+    if (!m_filled)
     {
-        m_layout->OnSize();
+        if (HasDarkGround())
+        {
+            ::EnableThemeDialogTexture(m_hWnd, ETDT_DISABLE);
+        }
+        Show(m_current());
+        D3dLayoutComplete();
+        m_filled = true;
     }
+    return CPropertyPage3d::OnSetActive();
 }
 
-/// The background is the dialog's, which can be moved by it.
-LRESULT CSettingsGroup::OnNcHitTest(CPoint point)
+BOOL CSettingsGroup::OnKillActive()
 {
-    auto const hit = CDialog::OnNcHitTest(point);
-    return hit == HTCLIENT ? HTTRANSPARENT : hit;
+    workbench::Settings settings;
+    return (!m_changed || Take(settings)) && CPropertyPage3d::OnKillActive();
 }
 
-/// Leaves the keys to the dialog that the group stands in, but for those that press a button of the group's or open its
-/// drop-downs.
+BOOL CSettingsGroup::OnApply()
+{
+    if (!m_changed)
+    {
+        return TRUE;
+    }
+    auto settings = m_current();
+    if (!Take(settings))
+    {
+        return FALSE;
+    }
+    m_changed = false;
+    m_onAccepted(settings);
+    return TRUE;
+}
+
+/// Leaves the keys to the sheet, but for those that press a button of the page's or open its drop-downs.
 BOOL CSettingsGroup::PreTranslateMessage(MSG * message)
 {
     auto * const focus = GetFocus();
@@ -87,15 +86,5 @@ BOOL CSettingsGroup::PreTranslateMessage(MSG * message)
             return TRUE;
         }
     }
-    return workbench::BrowseByKey(*message) || CWnd::PreTranslateMessage(message);
-}
-
-void CSettingsGroup::OnOK()
-{
-    GetParent()->SendMessage(WM_COMMAND, IDOK);
-}
-
-void CSettingsGroup::OnCancel()
-{
-    GetParent()->SendMessage(WM_COMMAND, IDCANCEL);
+    return workbench::BrowseByKey(*message) || CPropertyPage3d::PreTranslateMessage(message);
 }

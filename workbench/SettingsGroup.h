@@ -1,24 +1,19 @@
 #pragma once
 
-#include <afxwin.h>
-
 #include <functional>
-#include <memory>
 
 #include "Settings.h"
-#include "layout/DialogResizer.h"
+#include "dialogs/PropertyPage3d.h"
 
-/// The base of the groups that the settings consist of. Each is a dialog template of its own, and knows nothing of the
-/// others nor of the dialog that it stands in.
-class CSettingsGroup : public CDialog
+/// The base of the groups that the settings consist of. Each is a page with a dialog template of its own, and knows
+/// nothing of the others nor of the sheet that it stands in.
+class CSettingsGroup : public CPropertyPage3d
 {
 public:
     explicit CSettingsGroup(UINT templateId);
-    CSettingsGroup(CSettingsGroup const &) = delete;
-    CSettingsGroup & operator=(CSettingsGroup const &) = delete;
 
-    /// Creates the group as a child of the dialog, unseen. The id is also its control id.
-    bool CreateGroup(CWnd & parent);
+    /// Whether the system's dialogs are dark. Visual styles are made for light ones.
+    static bool HasDarkGround();
 
     /// Shows these settings.
     virtual void Show(workbench::Settings const & settings) = 0;
@@ -26,24 +21,24 @@ public:
     /// the focus is where it can be put right.
     virtual bool Take(workbench::Settings & settings) = 0;
 
-    /// Called when the user has changed something.
-    std::function<void()> m_onChanged;
+    /// Gives the settings as they are.
+    std::function<workbench::Settings()> m_current;
+    /// Called with the settings that hold what the user has changed here.
+    std::function<void(workbench::Settings const &)> m_onAccepted;
 
+    BOOL OnInitDialog() override;
+    BOOL OnSetActive() override;
+    BOOL OnKillActive() override;
+    BOOL OnApply() override;
     BOOL PreTranslateMessage(MSG * message) override;
 
 protected:
-    BOOL OnInitDialog() override;
-    void OnOK() override;
-    void OnCancel() override;
-    /// Lets a control follow the group's size; its id as it is in the template.
+    /// Lets a control follow the page's size; its id as it is in the template.
     void Follow(int id, CEdges const & edges);
+    /// Notes that the user has changed something.
     void Changed();
 
-    afx_msg void OnSize(UINT type, int width, int height);
-    afx_msg LRESULT OnNcHitTest(CPoint point);
-    DECLARE_MESSAGE_MAP()
-
 private:
-    UINT m_template;
-    std::unique_ptr<CDialogResizer> m_layout;
+    bool m_filled = false;  ///< the controls show the settings
+    bool m_changed = false; ///< and the user has changed them since
 };

@@ -31,16 +31,13 @@ BOOL CStartGroup::OnInitDialog()
 {
     CSettingsGroup::OnInitDialog();
     m_newFolder.PrepareFolderBrowser(Text(L"Choose a folder that is opened at the start:"));
-    for (auto const id : {IDC_START_GROUP, IDC_START_FOLDERS})
-    {
-        Follow(id, CEdges::TOP_LEFT_BOTTOM_RIGHT());
-    }
+    Follow(IDC_START_FOLDERS, CEdges::TOP_LEFT_BOTTOM_RIGHT());
     Follow(IDC_START_NOTE, CEdges::TOP_LEFT_RIGHT());
     Follow(IDC_REMOVE_FOLDER, CEdges::TOP_RIGHT());
     Follow(IDC_NEW_FOLDER_NOTE, CEdges::BOTTOM_LEFT());
     Follow(IDC_NEW_FOLDER, CEdges::BOTTOM_LEFT_RIGHT());
     Follow(IDC_ADD_FOLDER, CEdges::BOTTOM_RIGHT());
-    return FALSE;
+    return TRUE;
 }
 
 void CStartGroup::Show(workbench::Settings const & settings)

@@ -195,38 +195,85 @@ bool CWalk::StepInDialog(char const * picture, UINT command, std::function<void(
         });
 }
 
+/// Shows each page of the settings, and the first one in a larger sheet.
+bool CWalk::ShowSettingsPages(std::function<std::string(char const *)> const & name)
+{
+    if (!m_window.ShowSettings())
+    {
+        return false;
+    }
+    auto & sheet = m_window.SettingsSheet();
+    for (auto const * const picture :
+         {"workbench-settings", "workbench-settings-waveform", "workbench-settings-list", "workbench-settings-dialogs"})
+    {
+        if (!Step(name(picture).c_str()))
+        {
+            return false;
+        }
+        sheet.SetActivePage((sheet.GetActiveIndex() + 1) % sheet.GetPageCount());
+    }
+    CRect place;
+    sheet.GetWindowRect(&place);
+    sheet.SetWindowPos(nullptr, 0, 0, place.Width() * 3 / 2, place.Height() * 5 / 4, SWP_NOMOVE | SWP_NOZORDER);
+    auto const shown = Step(name("workbench-settings-large").c_str());
+    sheet.SetWindowPos(nullptr, 0, 0, place.Width(), place.Height(), SWP_NOMOVE | SWP_NOZORDER);
+    return shown;
+}
+
+/// Shows the chosen recording in a frame of its own, and four of them in a grid.
+bool CWalk::GoThroughFrames(std::string const & suffix)
+{
+    auto const name = [&suffix](char const * picture) { return picture + suffix; };
+    auto const windowMenu = static_cast<int>(m_window.GetMenu()->GetMenuItemCount()) - 1;
+    auto const shown = m_window.ShowInFrame(m_window.List().ChosenLine()) && Step(name("workbench-frame").c_str()) &&
+                       m_window.CompareFour() && Step(name("workbench-grid").c_str());
+    if (!shown)
+    {
+        return false;
+    }
+    m_window.SendMessage(WM_COMMAND, ID_WINDOW_TILE_HORZ);
+    auto const tiled = StepInMainMenu(name("workbench-frames-tiled").c_str(), windowMenu);
+    m_window.CloseDialogs();
+    return tiled && !m_window.Frames().AnyOpen();
+}
+
+/// Shows panes in tabs and afloat, and puts them back.
+bool CWalk::GoThroughPanes(std::string const & suffix)
+{
+    CRect window;
+    m_window.GetWindowRect(&window);
+    auto & waveform = m_window.Pane(CMainWindow::part_waveform);
+    auto & measures = m_window.Pane(CMainWindow::part_measures);
+    waveform.FloatPane(CRect(CPoint(window.right - 520, window.top + 120), CSize(460, 300)));
+    measures.AttachToTabWnd(&m_window.Pane(CMainWindow::part_spectrogram), DM_SHOW, FALSE);
+    auto const shown = Step(("workbench-panes" + suffix).c_str());
+    m_window.ResetLayout();
+    return shown && waveform.IsDocked() && !measures.IsTabbed();
+}
+
 /// Shows every dialog once; the suffix tells the pictures of one language from those of another.
 bool CWalk::GoThroughDialogs(std::string const & suffix)
 {
     auto const name = [&suffix](char const * picture) { return picture + suffix; };
     auto const cancel = [](CWnd & dialog) { dialog.PostMessage(WM_COMMAND, IDCANCEL); };
+    auto const windowMenu = static_cast<int>(m_window.GetMenu()->GetMenuItemCount()) - 1;
+    auto const items = m_window.GetMenu()->GetSubMenu(windowMenu)->GetMenuItemCount();
     if (!m_window.ShowDetails(0) || !Step(name("workbench-details").c_str()) ||
         !StepInMenu(name("workbench-details-menu").c_str(), m_window.Details(), CPoint(180, 60)))
     {
         return false;
     }
-    if (!m_window.ShowSettings() || !Step(name("workbench-settings").c_str()))
+    if (!ShowSettingsPages(name))
     {
         return false;
     }
-    CRect place;
-    m_window.SettingsDialog().GetWindowRect(&place);
-    m_window.SettingsDialog().SetWindowPos(nullptr, 0, 0, place.Width() * 3 / 2, place.Height() * 5 / 4,
-                                           SWP_NOMOVE | SWP_NOZORDER);
-    if (!Step(name("workbench-settings-large").c_str()))
-    {
-        return false;
-    }
-    m_window.SettingsDialog().SetWindowPos(nullptr, 0, 0, place.Width(), place.Height(), SWP_NOMOVE | SWP_NOZORDER);
-    auto const windowMenu = static_cast<int>(m_window.GetMenu()->GetMenuItemCount()) - 1;
     if (!StepInMainMenu(name("workbench-window-menu").c_str(), windowMenu))
     {
         return false;
     }
     // By now the menu's picture has given the dialogs, which are not active, time to fade.
-    auto & settings = m_window.SettingsDialog();
     BYTE alpha = 0;
-    if (!::GetLayeredWindowAttributes(settings.m_hWnd, nullptr, &alpha, nullptr) ||
+    if (!::GetLayeredWindowAttributes(m_window.Details().m_hWnd, nullptr, &alpha, nullptr) ||
         alpha != workbench::Settings().InactiveAlpha())
     {
         return false;
@@ -238,11 +285,12 @@ bool CWalk::GoThroughDialogs(std::string const & suffix)
     }
     m_window.CloseDialogs();
     // With the last dialog its item and the separator above it go.
-    if (m_window.GetMenu()->GetSubMenu(windowMenu)->GetMenuItemCount() != 1)
+    if (m_window.GetMenu()->GetSubMenu(windowMenu)->GetMenuItemCount() != items)
     {
         return false;
     }
-    return StepInDialog(name("workbench-language").c_str(), ID_CHOOSE_LANGUAGE, cancel) &&
+    return GoThroughFrames(suffix) && GoThroughPanes(suffix) &&
+           StepInDialog(name("workbench-language").c_str(), ID_CHOOSE_LANGUAGE, cancel) &&
            StepInDialog(name("workbench-folder").c_str(), ID_OPEN_FOLDER, cancel) &&
            StepInDialog(name("workbench-columns").c_str(), ID_CHOOSE_COLUMNS, cancel) &&
            StepInDialog(name("workbench-export").c_str(), ID_EXPORT_LIST, cancel);

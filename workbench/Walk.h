@@ -35,6 +35,9 @@ private:
     bool StepInMenu(char const * picture, CWnd & window, CPoint point);
     bool StepInMainMenu(char const * picture, int position);
     bool StepInDialog(char const * picture, UINT command, std::function<void(CWnd &)> const & leave);
+    bool ShowSettingsPages(std::function<std::string(char const *)> const & name);
+    bool GoThroughPanes(std::string const & suffix);
+    bool GoThroughFrames(std::string const & suffix);
     bool GoThroughDialogs(std::string const & suffix);
     bool ChangeLanguage();
     void Click(int line, int column);

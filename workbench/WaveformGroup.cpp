@@ -22,13 +22,6 @@ void CWaveformGroup::DoDataExchange(CDataExchange * exchange)
     }
 }
 
-BOOL CWaveformGroup::OnInitDialog()
-{
-    CSettingsGroup::OnInitDialog();
-    Follow(IDC_WAVEFORM_GROUP, CEdges::TOP_LEFT_RIGHT());
-    return FALSE;
-}
-
 void CWaveformGroup::Show(workbench::Settings const & settings)
 {
     ShowColours(settings.waveform);

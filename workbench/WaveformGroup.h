@@ -14,8 +14,6 @@ public:
     void Show(workbench::Settings const & settings) override;
     bool Take(workbench::Settings & settings) override;
 
-    BOOL OnInitDialog() override;
-
 protected:
     void DoDataExchange(CDataExchange * exchange) override;
     DECLARE_MESSAGE_MAP()

@@ -73,11 +73,21 @@ bool CWindowMenu::Activate(UINT id)
     {
         return false;
     }
-    if (found->window->IsIconic())
+    auto & window = *found->window;
+    if (window.IsIconic())
     {
-        found->window->ShowWindow(SW_RESTORE);
+        window.ShowWindow(SW_RESTORE);
     }
-    found->window->SetActiveWindow();
+    if (auto * const frame = DYNAMIC_DOWNCAST(CMDIChildWnd, &window))
+    {
+        frame->GetMDIFrame()->SetActiveWindow();
+        frame->MDIActivate();
+        frame->SetFocus();
+    }
+    else
+    {
+        window.SetActiveWindow();
+    }
     return true;
 }
 
@@ -86,7 +96,17 @@ void CWindowMenu::CloseAll()
     auto const items = m_items; // each one that closes takes itself out
     for (auto const & item : items)
     {
-        // Not WM_CLOSE, which a dialog only posts on.
-        item.window->SendMessage(WM_COMMAND, IDCANCEL);
+        if (std::ranges::find(m_items, item.window, &Item::window) == m_items.end())
+        {
+            continue; // it has gone with another one
+        }
+        if (item.window->IsKindOf(RUNTIME_CLASS(CFrameWnd)))
+        {
+            item.window->SendMessage(WM_CLOSE);
+        }
+        else
+        {
+            item.window->SendMessage(WM_COMMAND, IDCANCEL); // not WM_CLOSE, which a dialog only posts on
+        }
     }
 }

@@ -6,8 +6,8 @@
 
 #include "windows/MenueManager.h"
 
-/// The end of the main window's "Window" menu: an item for each dialog that is open, which brings it to the front. The
-/// main window must be the thread's, with its menu.
+/// The end of the main window's "Window" menu: an item for each dialog and frame that is open, which brings it to the
+/// front. The main window must be the thread's, with its menu.
 class CWindowMenu
 {
 public:
@@ -23,7 +23,7 @@ public:
     /// Brings the window of an item to the front. False if no item has the identifier.
     bool Activate(UINT id);
 
-    /// Cancels all dialogs in the menu.
+    /// Cancels all dialogs in the menu and closes all frames.
     void CloseAll();
 
 private:

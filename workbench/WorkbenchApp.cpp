@@ -37,11 +37,15 @@ std::vector<std::wstring> Arguments()
 
 CWorkbenchApp theApp;
 
-BEGIN_MESSAGE_MAP(CWorkbenchApp, CWinApp)
+BEGIN_MESSAGE_MAP(CWorkbenchApp, CWinAppEx)
     ON_THREAD_MESSAGE(c_messageStartWalk, &CWorkbenchApp::OnStartWalk)
 END_MESSAGE_MAP()
 
-CWorkbenchApp::CWorkbenchApp() : CWinApp(c_application) {}
+// A desktop that is not MFC's names the application only so.
+CWorkbenchApp::CWorkbenchApp()
+{
+    m_pszAppName = _wcsdup(c_application);
+}
 
 CWorkbenchApp::~CWorkbenchApp() = default;
 
@@ -49,7 +53,7 @@ BOOL CWorkbenchApp::InitInstance()
 {
     INITCOMMONCONTROLSEX controls{sizeof(controls), ICC_WIN95_CLASSES | ICC_STANDARD_CLASSES};
     ::InitCommonControlsEx(&controls);
-    CWinApp::InitInstance();
+    CWinAppEx::InitInstance();
 
     m_commandLine = workbench::ParseCommandLine(Arguments());
     if (!m_commandLine.error.empty())
@@ -106,6 +110,6 @@ int CWorkbenchApp::ExitInstance()
     m_pMainWnd = nullptr;
     m_graphics.reset();
     CVeskBase::SetPreferenceVesk(nullptr);
-    auto const result = CWinApp::ExitInstance();
+    auto const result = CWinAppEx::ExitInstance();
     return m_exitCode != 0 ? m_exitCode : result;
 }

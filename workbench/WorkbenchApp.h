@@ -1,5 +1,6 @@
 #pragma once
 
+#include <afxcontrolbars.h>
 #include <afxwin.h>
 
 #include <memory>
@@ -11,7 +12,7 @@
 class CMainWindow;
 
 /// The program: sets the preference store up and opens the main window.
-class CWorkbenchApp : public CWinApp
+class CWorkbenchApp : public CWinAppEx
 {
 public:
     CWorkbenchApp();

@@ -2,20 +2,18 @@
 // Ids of the workbench's resources, controls and commands.
 
 #define IDI_WORKBENCH 1
-#define IDR_ACCELERATORS 2
 #define IDI_STATUS_OK 3
 #define IDI_STATUS_DAMAGED 4
 #define IDI_STATUS_UNREADABLE 5
-#define IDR_MAIN_MENU 6
+#define IDR_MAIN_FRAME 6
 #define IDI_FOLDER 7
 #define IDI_RECORDING 8
 
-#define IDD_SETTINGS 101
 #define IDD_DETAILS 102
 #define IDD_PREVIEW 103
 #define IDD_OPEN_FOLDER 104
 #define IDD_EXPORT_LIST 105
-// The groups of the settings; these are also their control ids.
+// The pages of the settings.
 #define IDD_SETTINGS_START 111
 #define IDD_SETTINGS_WAVEFORM 112
 #define IDD_SETTINGS_LIST 113
@@ -40,25 +38,22 @@
 #define IDC_AMPLIFICATION 1012
 #define IDC_FIT_AMPLIFICATION 1013
 #define IDC_WAVEFORM_PANEL 1014
+#define IDC_FRAMES_AREA 1015
+#define IDC_FRAMES_DIVIDER 1016
 
 // The settings.
-#define IDC_START_GROUP 1101
 #define IDC_START_NOTE 1102
 #define IDC_START_FOLDERS 1103
 #define IDC_ADD_FOLDER 1104
 #define IDC_REMOVE_FOLDER 1105
-#define IDC_DIALOG_GROUP 1106
 #define IDC_FADE_IN 1107
 #define IDC_DRAG_BACKGROUND 1108
 #define IDC_OPACITY_NOTE 1109
 #define IDC_OPACITY 1110
 #define IDC_NEW_FOLDER_NOTE 1111
 #define IDC_NEW_FOLDER 1112
-#define IDC_WAVEFORM_GROUP 1113
 #define IDC_STANDARD_COLOURS 1114
-#define IDC_LIST_GROUP 1115
 #define IDC_COLUMNS 1116
-#define IDC_APPLY 1117
 #define IDC_COLOUR_FIRST 1121 // trace, background, grid, cursor
 #define IDC_COLOUR_LAST 1124
 
@@ -107,7 +102,14 @@
 #define ID_REDUCE 40026
 #define ID_AMPLIFY_NONE 40027
 #define ID_AMPLIFY_FIT 40028
+#define ID_SHOW_IN_FRAME 40029
+#define ID_COMPARE_FOUR 40030
+#define ID_RESET_LAYOUT 40031
 
 // The items of open dialogs in the window menu.
 #define ID_DIALOG_FIRST 41000
 #define ID_DIALOG_LAST 41099
+
+// Commands that are made while the program runs.
+#define ID_DYNAMIC_FIRST 41200
+#define ID_DYNAMIC_LAST 41299

@@ -2,8 +2,20 @@
 
 namespace tests
 {
-TestApp::TestApp() : CWinApp(_T("instrument_ui_tests"))
+TestApp::TestApp()
 {
+    m_pszAppName = _tcsdup(_T("instrument_ui_tests"));
+}
+
+BOOL TestApp::LoadState(LPCTSTR lpszSectionName, CFrameImpl * pFrameImpl)
+{
+    return m_keepsWorkspace && CWinAppEx::LoadState(lpszSectionName, pFrameImpl);
+}
+
+void TestApp::OnClosingMainFrame(CFrameImpl * pFrameImpl)
+{
+    if (m_keepsWorkspace)
+        CWinAppEx::OnClosingMainFrame(pFrameImpl);
 }
 
 int TestApp::DoMessageBox(LPCTSTR lpszPrompt, UINT nType, UINT nIDPrompt)

@@ -9,6 +9,7 @@
 // A test that ends with a message box it did not take has failed, as has one that leaves a window on the screen.
 
 #include <afxwin.h>
+#include <afxwinappex.h>
 
 #include <deque>
 #include <string>
@@ -16,7 +17,7 @@
 
 namespace tests
 {
-class TestApp : public CWinApp
+class TestApp : public CWinAppEx
 {
 public:
     struct Message
@@ -27,6 +28,13 @@ public:
     };
 
     TestApp();
+
+    /// Whether main frames load and keep their workspace; not at first.
+    bool m_keepsWorkspace = false;
+
+    using CWinAppEx::LoadState;
+    BOOL LoadState(LPCTSTR lpszSectionName, CFrameImpl * pFrameImpl) override;
+    void OnClosingMainFrame(CFrameImpl * pFrameImpl) override;
 
     int DoMessageBox(LPCTSTR lpszPrompt, UINT nType, UINT nIDPrompt) override;
 

@@ -23,6 +23,7 @@ public:
 
     int count = 0;
     CWindowMenu * menu = nullptr;
+    CWnd * other = nullptr; ///< closed with this one
 
 protected:
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override
@@ -32,6 +33,8 @@ protected:
             ++count;
             if (menu != nullptr)
                 menu->Remove(*this);
+            if (menu != nullptr && other != nullptr)
+                menu->Remove(*other);
         }
         return ScopedWindow::OnCommand(wParam, lParam);
     }
@@ -98,6 +101,16 @@ TEST_F(WindowMenu, WithTheLastItemTheSeparatorGoes)
     EXPECT_EQ(Items(), (Texts{L"&Close all"}));
 }
 
+TEST_F(WindowMenu, OtherSeparatorsStay)
+{
+    Popup().InsertMenu(0, MF_BYPOSITION | MF_STRING, 3, L"&Cascade");
+    Popup().InsertMenu(1, MF_BYPOSITION | MF_SEPARATOR);
+    m_menu.Add(m_first, L"Details");
+    EXPECT_EQ(Items(), (Texts{L"&Cascade", L"", L"&Close all", L"", L"Details"}));
+    m_menu.Remove(m_first);
+    EXPECT_EQ(Items(), (Texts{L"&Cascade", L"", L"&Close all"}));
+}
+
 TEST_F(WindowMenu, AFreeIdentifierIsUsedAgain)
 {
     m_menu.Add(m_first, L"Details");
@@ -137,6 +150,17 @@ TEST_F(WindowMenu, CloseAllCancelsEachOnce)
     EXPECT_EQ(m_first.count, 1);
     EXPECT_EQ(m_second.count, 1);
     EXPECT_EQ(Items(), (Texts{L"&Close all", L"", L"Settings"}));
+}
+
+TEST_F(WindowMenu, CloseAllLeavesOutWhatHasGoneWithAnother)
+{
+    m_menu.Add(m_first, L"Details");
+    m_menu.Add(m_second, L"Settings");
+    m_first.menu = &m_menu;
+    m_first.other = &m_second;
+    m_menu.CloseAll();
+    EXPECT_EQ(m_first.count, 1);
+    EXPECT_EQ(m_second.count, 0);
 }
 
 TEST_F(WindowMenu, WithoutItsMenuNothingHappens)

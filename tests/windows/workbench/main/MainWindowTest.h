@@ -59,7 +59,10 @@ protected:
     {
         std::filesystem::remove_all(m_folder);
         std::filesystem::create_directories(m_folder / "recordings");
-        tests::App().m_pszProfileName = m_profile.c_str();
+        tests::App().m_pszRegistryKey = registry_key;
+        tests::App().m_pszProfileName = L"Settings";
+        tests::App().m_keepsWorkspace = true;
+        ForgetSettings();
         CVeskBase::SetPreferenceVesk(&m_store);
         OpenWindow();
     }
@@ -67,8 +70,17 @@ protected:
     {
         CloseWindow();
         CVeskBase::SetPreferenceVesk(nullptr);
-        tests::App().m_pszProfileName = m_former;
+        ForgetSettings();
+        tests::App().m_keepsWorkspace = false;
+        tests::App().m_pszProfileName = m_formerProfile;
+        tests::App().m_pszRegistryKey = m_formerKey;
         std::filesystem::remove_all(m_folder);
+    }
+
+    static void ForgetSettings()
+    {
+        ::RegDeleteTreeW(HKEY_CURRENT_USER, (std::wstring(L"Software\\") + registry_key).c_str());
+        std::filesystem::remove_all(workbench::NotesFile());
     }
 
     void OpenWindow(int dotsPerInch = 0)
@@ -125,8 +137,9 @@ protected:
     bool CancelShows() { return m_window->GetDescendantWindow(IDC_CANCEL_READING)->IsWindowVisible() != FALSE; }
 
     std::filesystem::path const m_folder = std::filesystem::temp_directory_path() / "workbench_main_window_test";
-    std::wstring const m_profile = (m_folder / "settings.ini").wstring();
-    LPCTSTR const m_former = tests::App().m_pszProfileName;
+    static constexpr wchar_t registry_key[] = L"Workbench Main Window Test";
+    LPCTSTR const m_formerProfile = tests::App().m_pszProfileName;
+    LPCTSTR const m_formerKey = tests::App().m_pszRegistryKey;
     workbench::GraphicsScope m_graphics;
     MemoryPreferenceStore m_store;
     std::unique_ptr<CMainWindow> m_window;

@@ -26,6 +26,12 @@ constexpr int red_field = 706;
 constexpr int green_field = 707;
 constexpr int blue_field = 708;
 
+// The pages of the settings.
+constexpr int start_page = 0;
+constexpr int waveform_page = 1;
+constexpr int list_page = 2;
+constexpr int dialogs_page = 3;
+
 /// The visible popup of the thread that was activated last, but for these windows; null if there is none.
 HWND OtherPopup(std::vector<HWND> const & known)
 {
@@ -56,9 +62,21 @@ protected:
         OpenWindow();
         Show(count);
     }
-    CWnd & Group(int id) { return *m_window->SettingsDialog().GetDlgItem(id); }
+    CSettingsSheet & Sheet() { return m_window->SettingsSheet(); }
+    /// Makes it the page that shows.
+    CWnd & Page(int index)
+    {
+        Sheet().SetActivePage(index);
+        return *Sheet().GetPage(index);
+    }
+    CWnd & SheetButton(int id) { return *Sheet().GetDlgItem(id); }
+    bool CanApply() { return SheetButton(ID_APPLY_NOW).IsWindowEnabled() != FALSE; }
+    bool WaitUntilClosed()
+    {
+        return tests::PumpUntil([this] { return !Sheet().IsOpen(); });
+    }
     CWnd & Part(int id) { return *m_window->GetDescendantWindow(id); }
-    bool IsSettingsActive() { return ::GetActiveWindow() == m_window->SettingsDialog().m_hWnd; }
+    bool IsSettingsActive() { return ::GetActiveWindow() == Sheet().m_hWnd; }
     void OpenSettings()
     {
         ASSERT_TRUE(m_window->ShowSettings());
@@ -95,7 +113,7 @@ protected:
     /// Presses a button of the settings and gives the colour in what that opens.
     void ChooseColour(int button, COLORREF colour)
     {
-        auto const settings = m_window->SettingsDialog().m_hWnd;
+        auto const settings = Sheet().m_hWnd;
         std::vector<HWND> const known{settings, m_window->m_hWnd, nullptr};
         tests::LaterActions later;
         auto const isOpen = [=] { return OtherPopup(known) != nullptr && ::GetDlgItem(OtherPopup(known), red_field); };
@@ -108,7 +126,7 @@ protected:
                 Command(dialog, IDOK);
             },
             isOpen);
-        tests::Click(tests::Centre(Group(IDD_SETTINGS_WAVEFORM).GetDlgItem(button)->m_hWnd));
+        tests::Click(tests::Centre(Page(waveform_page).GetDlgItem(button)->m_hWnd));
         ASSERT_TRUE(tests::PumpUntil([&] { return later.Done() && IsSettingsActive(); }));
         ASSERT_FALSE(later.Failed());
     }
@@ -121,20 +139,20 @@ TEST_F(WorkbenchControls, ColoursOfTheWaveformCountAtOnceAndAfterARestart)
     Show(2);
     EXPECT_EQ(Ground(), WaveformColours().background);
     OpenSettings();
-    HWND const apply = m_window->SettingsDialog().GetDlgItem(IDC_APPLY)->m_hWnd;
+    HWND const apply = SheetButton(ID_APPLY_NOW).m_hWnd;
     EXPECT_FALSE(::IsWindowEnabled(apply));
     ChooseColour(IDC_COLOUR_FIRST + 1, background);
     EXPECT_TRUE(::IsWindowEnabled(apply));
-    EXPECT_EQ(TextOf(*Group(IDD_SETTINGS_WAVEFORM).GetDlgItem(IDC_COLOUR_FIRST + 1)), L"#145A28");
+    EXPECT_EQ(TextOf(*Page(waveform_page).GetDlgItem(IDC_COLOUR_FIRST + 1)), L"#145A28");
     EXPECT_EQ(Ground(), WaveformColours().background); // not applied yet
     tests::Click(tests::Centre(apply));
     ASSERT_TRUE(tests::PumpUntil([&] { return m_window->Settings().waveform.background == background; }));
-    EXPECT_TRUE(m_window->SettingsDialog().IsOpen());
+    EXPECT_TRUE(Sheet().IsOpen());
     EXPECT_FALSE(::IsWindowEnabled(apply));
     ChooseColour(IDC_COLOUR_FIRST, trace);
     {
         // Return presses the button that has the focus.
-        std::vector<HWND> const known{m_window->SettingsDialog().m_hWnd, m_window->m_hWnd, nullptr};
+        std::vector<HWND> const known{Sheet().m_hWnd, m_window->m_hWnd, nullptr};
         tests::LaterActions later;
         later.Add([] { tests::Key(VK_ESCAPE); },
                   [known] { return OtherPopup(known) != nullptr && ::GetDlgItem(OtherPopup(known), red_field); });
@@ -142,8 +160,8 @@ TEST_F(WorkbenchControls, ColoursOfTheWaveformCountAtOnceAndAfterARestart)
         ASSERT_TRUE(tests::PumpUntil([&] { return later.Done() && IsSettingsActive(); }));
         ASSERT_FALSE(later.Failed());
     }
-    m_window->SettingsDialog().SendMessage(WM_COMMAND, IDOK);
-    EXPECT_FALSE(m_window->SettingsDialog().IsOpen());
+    Sheet().SendMessage(WM_COMMAND, IDOK);
+    ASSERT_TRUE(WaitUntilClosed());
     ASSERT_TRUE(tests::BringToFront(m_window->m_hWnd));
     EXPECT_EQ(Ground(), background);
     EXPECT_TRUE(ShowsColour(trace));
@@ -151,11 +169,114 @@ TEST_F(WorkbenchControls, ColoursOfTheWaveformCountAtOnceAndAfterARestart)
     EXPECT_EQ(Ground(), background);
     EXPECT_TRUE(ShowsColour(trace));
     OpenSettings();
-    tests::Click(tests::Centre(Group(IDD_SETTINGS_WAVEFORM).GetDlgItem(IDC_STANDARD_COLOURS)->m_hWnd));
-    ASSERT_TRUE(tests::PumpUntil([&] { return m_window->SettingsDialog().GetDlgItem(IDC_APPLY)->IsWindowEnabled(); }));
-    m_window->SettingsDialog().SendMessage(WM_COMMAND, IDOK);
+    tests::Click(tests::Centre(Page(waveform_page).GetDlgItem(IDC_STANDARD_COLOURS)->m_hWnd));
+    ASSERT_TRUE(tests::PumpUntil([this] { return CanApply(); }));
+    Sheet().SendMessage(WM_COMMAND, IDOK);
+    ASSERT_TRUE(WaitUntilClosed());
     EXPECT_EQ(m_window->Settings().waveform, WaveformColours());
     EXPECT_EQ(Ground(), WaveformColours().background);
+}
+
+TEST_F(WorkbenchControls, TheSettingsComeBackAtTheirPlaceAndPage)
+{
+    Show(1);
+    OpenSettings();
+    EXPECT_EQ(Sheet().GetActiveIndex(), start_page);
+    CRect least;
+    Sheet().GetWindowRect(&least);
+    CRect const place(60, 40, 60 + least.Width() + 90, 40 + least.Height() + 50);
+    auto & folders = *Page(start_page).GetDlgItem(IDC_START_FOLDERS);
+    CRect listBefore;
+    folders.GetWindowRect(&listBefore);
+    Sheet().MoveWindow(place);
+    CRect listAfter;
+    folders.GetWindowRect(&listAfter);
+    EXPECT_EQ(listAfter.Size() - listBefore.Size(), CSize(90, 50));
+    tests::Key(VK_TAB, {VK_CONTROL});
+    ASSERT_TRUE(tests::PumpUntil([this] { return Sheet().GetActiveIndex() == waveform_page; }));
+    // A page that is turned to later fills the same room.
+    tests::Key(VK_TAB, {VK_CONTROL});
+    ASSERT_TRUE(tests::PumpUntil([this] { return Sheet().GetActiveIndex() == list_page; }));
+    tests::PumpPosted();
+    CRect columns;
+    Sheet().GetActivePage()->GetDlgItem(IDC_COLUMNS)->GetWindowRect(&columns);
+    EXPECT_GT(columns.right, place.right - 60);
+    tests::Key(VK_ESCAPE);
+    ASSERT_TRUE(WaitUntilClosed());
+    for (auto const restart : {false, true})
+    {
+        if (restart)
+        {
+            Restart(1);
+        }
+        OpenSettings();
+        EXPECT_EQ(Sheet().GetActiveIndex(), list_page);
+        CRect again;
+        Sheet().GetWindowRect(&again);
+        EXPECT_EQ(again, place);
+        Sheet().CloseDialog();
+        ASSERT_TRUE(WaitUntilClosed());
+    }
+}
+
+TEST_F(WorkbenchControls, APageWhoseChoiceIsNoneIsNotLeft)
+{
+    OpenSettings();
+    auto & page = Page(dialogs_page);
+    EXPECT_FALSE(CanApply());
+    page.GetDlgItem(IDC_OPACITY)->SetFocus();
+    tests::Type(L"9");
+    ASSERT_TRUE(tests::PumpUntil([this] { return CanApply(); }));
+    Sheet().SetActivePage(start_page);
+    EXPECT_EQ(tests::App().TakeMessages().size(), 1U);
+    EXPECT_EQ(Sheet().GetActiveIndex(), dialogs_page);
+    Sheet().SendMessage(WM_COMMAND, IDOK);
+    EXPECT_EQ(tests::App().TakeMessages().size(), 1U);
+    EXPECT_TRUE(Sheet().IsOpen());
+    EXPECT_EQ(m_window->Settings().inactiveOpacity, 50);
+    // What is cancelled is gone, and does not count at the next opening.
+    Sheet().SendMessage(WM_COMMAND, IDCANCEL);
+    ASSERT_TRUE(WaitUntilClosed());
+    EXPECT_EQ(m_window->Settings().inactiveOpacity, 50);
+    OpenSettings();
+    EXPECT_EQ(TextOf(*Sheet().GetActivePage()->GetDlgItem(IDC_OPACITY)), L"50");
+    EXPECT_FALSE(CanApply());
+    Sheet().SetActivePage(start_page);
+    EXPECT_EQ(Sheet().GetActiveIndex(), start_page);
+}
+
+TEST_F(WorkbenchControls, TheSettingsAreInTheLanguageThatWasChosen)
+{
+    Show(1);
+    OpenSettings();
+    auto const tab = [this](int index) {
+        wchar_t text[40] = L"";
+        TCITEM item{};
+        item.mask = TCIF_TEXT;
+        item.pszText = text;
+        item.cchTextMax = static_cast<int>(std::size(text));
+        Sheet().GetTabControl()->GetItem(index, &item);
+        return std::wstring(text);
+    };
+    EXPECT_EQ(TextOf(Sheet()), L"Settings");
+    EXPECT_EQ(tab(dialogs_page), L"Dialogs");
+    CRect const place(70, 50, 700, 500);
+    Sheet().MoveWindow(place);
+    m_window->CloseDialogs();
+    ASSERT_TRUE(WaitUntilClosed());
+    auto const locale = ::GetThreadLocale();
+    workbench::UseLanguage(1031);
+    OpenSettings();
+    EXPECT_EQ(TextOf(Sheet()), L"Einstellungen");
+    EXPECT_EQ(tab(dialogs_page), L"Dialoge");
+    EXPECT_EQ(TextOf(SheetButton(IDCANCEL)), L"Abbrechen");
+    EXPECT_EQ(TextOf(SheetButton(ID_APPLY_NOW)), L"\u00DC&bernehmen");
+    CRect again;
+    Sheet().GetWindowRect(&again);
+    EXPECT_EQ(again, place); // the place is the same in all languages
+    workbench::UseLanguage(1033);
+    ::SetThreadLocale(locale);
+    ::SetThreadUILanguage(0);
 }
 
 TEST_F(WorkbenchControls, TheSliderAndThePlotAreInStep)
@@ -287,7 +408,9 @@ TEST_F(WorkbenchControls, TheTreeFollowsAReloadAndIsRemembered)
     // The pane and its width last.
     CRect before;
     Tree().GetWindowRect(&before);
-    CPoint const edge(before.right + 2, before.CenterPoint().y);
+    CRect pane;
+    m_window->Pane(CMainWindow::part_folders).GetWindowRect(&pane);
+    CPoint const edge(pane.right + 2, before.CenterPoint().y);
     tests::Drag(edge, edge + CPoint(60, 0));
     CRect after;
     ASSERT_TRUE(tests::PumpUntil([&] {
@@ -312,10 +435,10 @@ TEST_F(WorkbenchControls, ColumnsAreChosenInADropDownOfTheSettings)
 {
     Show(2);
     OpenSettings();
-    auto & field = *Group(IDD_SETTINGS_LIST).GetDlgItem(IDC_COLUMNS);
+    auto & field = *Page(list_page).GetDlgItem(IDC_COLUMNS);
     EXPECT_EQ(TextOf(field), L"(all)");
     field.SetFocus();
-    std::vector<HWND> const known{m_window->SettingsDialog().m_hWnd, m_window->m_hWnd, nullptr};
+    std::vector<HWND> const known{Sheet().m_hWnd, m_window->m_hWnd, nullptr};
     auto const list = [&] { return ::GetDlgItem(::GetDlgItem(OtherPopup(known), 1016), 32802); };
     tests::LaterActions later;
     later.Add(
@@ -330,10 +453,10 @@ TEST_F(WorkbenchControls, ColumnsAreChosenInADropDownOfTheSettings)
     tests::Key(VK_F4);
     ASSERT_TRUE(tests::PumpUntil([&] { return later.Done() && IsSettingsActive(); }));
     ASSERT_FALSE(later.Failed());
-    ASSERT_TRUE(tests::PumpUntil(
-        [this] { return m_window->SettingsDialog().GetDlgItem(IDC_APPLY)->IsWindowEnabled() != FALSE; }));
+    ASSERT_TRUE(tests::PumpUntil([this] { return CanApply(); }));
     EXPECT_GT(List().GetColumnWidth(CRecordingList::column_channels), 0);
-    m_window->SettingsDialog().SendMessage(WM_COMMAND, IDOK);
+    Sheet().SendMessage(WM_COMMAND, IDOK);
+    ASSERT_TRUE(WaitUntilClosed());
     EXPECT_EQ(List().GetColumnWidth(CRecordingList::column_channels), 0);
     EXPECT_GT(List().GetColumnWidth(CRecordingList::column_rate), 0);
     EXPECT_TRUE(FillsItsWindow(List()));
@@ -477,27 +600,29 @@ TEST_F(WorkbenchControls, StartFoldersAreAddedAndRemoved)
 {
     auto const folder = Folder(1);
     OpenSettings();
-    auto & group = Group(IDD_SETTINGS_START);
-    auto const count = [&] { return group.SendDlgItemMessage(IDC_START_FOLDERS, LB_GETCOUNT); };
-    HWND const remove = group.GetDlgItem(IDC_REMOVE_FOLDER)->m_hWnd;
+    auto & page = Page(start_page);
+    auto const count = [&] { return page.SendDlgItemMessage(IDC_START_FOLDERS, LB_GETCOUNT); };
+    HWND const remove = page.GetDlgItem(IDC_REMOVE_FOLDER)->m_hWnd;
     EXPECT_FALSE(::IsWindowEnabled(remove));
-    auto & field = *group.GetDlgItem(IDC_NEW_FOLDER);
+    auto & field = *page.GetDlgItem(IDC_NEW_FOLDER);
     field.SetFocus();
     tests::Type(folder.wstring());
     ASSERT_TRUE(tests::PumpUntil([&] { return TextOf(field) == folder.wstring(); }));
-    tests::Click(tests::Centre(group.GetDlgItem(IDC_ADD_FOLDER)->m_hWnd));
+    tests::Click(tests::Centre(page.GetDlgItem(IDC_ADD_FOLDER)->m_hWnd));
     ASSERT_TRUE(tests::PumpUntil([&] { return count() == 1; }));
     EXPECT_EQ(TextOf(field), L"");
     EXPECT_TRUE(::IsWindowEnabled(remove));
     field.SetWindowText((m_folder / "gone").c_str());
-    group.SendMessage(WM_COMMAND, IDC_ADD_FOLDER);
+    page.SendMessage(WM_COMMAND, IDC_ADD_FOLDER);
     EXPECT_EQ(tests::App().TakeMessages().size(), 1U);
     EXPECT_EQ(count(), 1);
-    m_window->SettingsDialog().SendMessage(WM_COMMAND, IDC_APPLY);
+    tests::Click(tests::Centre(SheetButton(ID_APPLY_NOW).m_hWnd));
+    ASSERT_TRUE(tests::PumpUntil([this] { return !m_window->Settings().startFolders.empty(); }));
     EXPECT_EQ(m_window->Settings().startFolders, std::vector<fs::path>{folder});
     tests::Click(tests::Centre(remove));
     ASSERT_TRUE(tests::PumpUntil([&] { return count() == 0; }));
-    m_window->SettingsDialog().SendMessage(WM_COMMAND, IDOK);
+    Sheet().SendMessage(WM_COMMAND, IDOK);
+    ASSERT_TRUE(WaitUntilClosed());
     EXPECT_TRUE(m_window->Settings().startFolders.empty());
 }
 
@@ -529,16 +654,16 @@ TEST_F(WorkbenchClosing, OfTheChoiceOfAColour)
 {
     Show(1);
     OpenSettings();
-    auto & button = *Group(IDD_SETTINGS_WAVEFORM).GetDlgItem(IDC_COLOUR_FIRST);
-    CloseWhileOpen([&] { button.SendMessage(BM_CLICK); }, {m_window->SettingsDialog().m_hWnd, m_window->m_hWnd});
+    auto & button = *Page(waveform_page).GetDlgItem(IDC_COLOUR_FIRST);
+    CloseWhileOpen([&] { button.SendMessage(BM_CLICK); }, {Sheet().m_hWnd, m_window->m_hWnd});
 }
 
 TEST_F(WorkbenchClosing, OfTheDropDownOfColumns)
 {
     Show(1);
     OpenSettings();
-    auto & field = *static_cast<CXEditBrowseCtrl *>(Group(IDD_SETTINGS_LIST).GetDlgItem(IDC_COLUMNS));
-    CloseWhileOpen([&] { field.OnBrowse(); }, {m_window->SettingsDialog().m_hWnd, m_window->m_hWnd});
+    auto & field = *static_cast<CXEditBrowseCtrl *>(Page(list_page).GetDlgItem(IDC_COLUMNS));
+    CloseWhileOpen([&] { field.OnBrowse(); }, {Sheet().m_hWnd, m_window->m_hWnd});
 }
 
 TEST_F(WorkbenchClosing, OfTheColumnsAtTheTitles)

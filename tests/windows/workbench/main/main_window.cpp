@@ -199,13 +199,13 @@ TEST_F(WorkbenchMainWindow, KeepsItsDialogsAboveItself)
     ASSERT_TRUE(m_window->ShowPreview());
     ASSERT_TRUE(m_window->ShowSettings());
     for (CWnd * const dialog : {static_cast<CWnd *>(&m_window->Details()), static_cast<CWnd *>(&m_window->Preview()),
-                                static_cast<CWnd *>(&m_window->SettingsDialog())})
+                                static_cast<CWnd *>(&m_window->SettingsSheet())})
     {
         EXPECT_EQ(::GetWindow(dialog->m_hWnd, GW_OWNER), m_window->m_hWnd);
     }
     ASSERT_TRUE(tests::BringToFront(m_window->m_hWnd));
     EXPECT_TRUE(tests::PumpUntil([&] { return IsAbove(m_window->Details().m_hWnd, m_window->m_hWnd); }));
-    EXPECT_TRUE(IsAbove(m_window->SettingsDialog().m_hWnd, m_window->Preview().m_hWnd));
+    EXPECT_TRUE(IsAbove(m_window->SettingsSheet().m_hWnd, m_window->Preview().m_hWnd));
     EXPECT_TRUE(IsAbove(m_window->Preview().m_hWnd, m_window->Details().m_hWnd));
     EXPECT_EQ(::GetForegroundWindow(), m_window->m_hWnd);
 }

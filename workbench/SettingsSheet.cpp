@@ -1,0 +1,102 @@
+#include "SettingsSheet.h"
+
+#include <uxtheme.h>
+
+#include "logic/Texts.h"
+
+using workbench::Settings;
+using workbench::Text;
+
+BEGIN_MESSAGE_MAP(CSettingsSheet, CPropertySheet3d)
+    ON_WM_DESTROY()
+END_MESSAGE_MAP()
+
+// The title is also the name of the place, which is the same in all languages.
+CSettingsSheet::CSettingsSheet() : CPropertySheet3d(L"Settings", nullptr, 0)
+{
+    SetResizable(true);
+    for (auto * const group : Groups())
+    {
+        group->m_current = [this] { return m_current ? m_current() : Settings(); };
+        group->m_onAccepted = [this](Settings const & settings) {
+            // A copy, as what it does may replace it.
+            if (auto const onAccepted = m_onAccepted)
+            {
+                onAccepted(settings);
+            }
+        };
+        AddPage(group);
+    }
+}
+
+std::array<CSettingsGroup *, 4> CSettingsSheet::Groups()
+{
+    return {&m_start, &m_waveform, &m_list, &m_dialogs};
+}
+
+bool CSettingsSheet::Open(CWnd & owner)
+{
+    auto const opens = !IsOpen();
+    if (opens)
+    {
+        auto const page = workbench::ReadSettingsPage();
+        SetActivePage(page < GetPageCount() ? page : 0);
+    }
+    if (DisplayDialog(&owner) == 0)
+    {
+        return false;
+    }
+    SetActiveWindow();
+    if (opens && m_onOpened)
+    {
+        m_onOpened(true);
+    }
+    return true;
+}
+
+BOOL CSettingsSheet::OnInitDialog()
+{
+    auto const result = CPropertySheet3d::OnInitDialog();
+    SetWindowText(Text(L"Settings"));
+    // The system has them in its own language.
+    SetDlgItemText(IDCANCEL, Text(L"Cancel"));
+    SetDlgItemText(ID_APPLY_NOW, Text(L"&Apply"));
+    // Visual styles are made for a light ground.
+    if (CSettingsGroup::HasDarkGround())
+    {
+        ::SetWindowTheme(GetTabControl()->m_hWnd, L"", L"");
+    }
+    StretchTabs();
+    return result;
+}
+
+/// Lets the frame around the pages follow the sheet's height, too.
+void CSettingsSheet::StretchTabs()
+{
+    MINMAXINFO design{};
+    SendMessage(WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&design));
+    CRect present;
+    GetWindowRect(&present);
+    CRect tabs;
+    GetTabControl()->GetWindowRect(&tabs);
+    ScreenToClient(&tabs);
+    tabs.right -= present.Width() - design.ptMinTrackSize.x; // the height has not grown yet
+    D3dLayoutChild(GetTabControl(), CEdges::TOP_LEFT_BOTTOM_RIGHT(), &tabs);
+    D3dLayoutComplete();
+}
+
+void CSettingsSheet::OnActivatePage(CPropertyPage * page)
+{
+    m_shownPage = GetPageIndex(page);
+    CPropertySheet3d::OnActivatePage(page);
+}
+
+void CSettingsSheet::OnDestroy()
+{
+    workbench::StoreSettingsPage(m_shownPage);
+    if (m_onOpened)
+    {
+        m_onOpened(false);
+    }
+    CPropertySheet3d::OnDestroy();
+}

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <array>
+#include <functional>
+
+#include "DialogsGroup.h"
+#include "ListGroup.h"
+#include "StartGroup.h"
+#include "WaveformGroup.h"
+#include "dialogs/PropertySheet3d.h"
+
+/// Lets the user change the settings, on a page for each group. Apply hands over what was changed, OK also closes the
+/// sheet.
+class CSettingsSheet : public CPropertySheet3d
+{
+public:
+    CSettingsSheet();
+
+    /// Opens the sheet above its owner, at the page that showed last; if it is open, it is brought to the front and
+    /// keeps what it shows.
+    bool Open(CWnd & owner);
+
+    /// Gives the settings as they are, for what the pages show and for what they put theirs into.
+    std::function<workbench::Settings()> m_current;
+
+    /// Called with what OK and Apply hand over, once for each page that was changed.
+    std::function<void(workbench::Settings const &)> m_onAccepted;
+
+    /// Called with true when the sheet has opened and with false when it is about to end.
+    std::function<void(bool)> m_onOpened;
+
+    BOOL OnInitDialog() override;
+    void OnActivatePage(CPropertyPage * page) override;
+
+protected:
+    DECLARE_MESSAGE_MAP()
+
+private:
+    afx_msg void OnDestroy();
+
+    std::array<CSettingsGroup *, 4> Groups();
+    void StretchTabs();
+
+    CStartGroup m_start;
+    CWaveformGroup m_waveform;
+    CListGroup m_list;
+    CDialogsGroup m_dialogs;
+    int m_shownPage = 0;
+};

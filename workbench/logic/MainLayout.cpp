@@ -1,0 +1,60 @@
+#include "logic/MainLayout.h"
+
+#include <algorithm>
+
+namespace workbench
+{
+
+namespace
+{
+
+// The parts of the growth that go to waveform and spectrogram, in 1/10; the list gets the rest.
+constexpr int c_waveformPart = 3;
+constexpr int c_spectrogramPart = 4;
+constexpr int c_whole = 10;
+
+constexpr int c_panes = 3; // below the list
+
+} // namespace
+
+CSize LeastMainArea(MainLayoutNeeds const & needs, int listWidth)
+{
+    return CSize(2 * needs.marginX + listWidth,
+                 2 * needs.marginY + needs.listHeight + needs.waveformHeight + needs.spectrogramHeight +
+                     needs.panelHeight + c_panes * (needs.captionHeight + needs.dividerGap) + needs.spacing +
+                     needs.statusHeight);
+}
+
+MainLayout LayOutMain(MainLayoutNeeds const & needs)
+{
+    MainLayout layout;
+    auto const left = needs.marginX;
+    auto const right = std::max<int>(needs.client.cx - needs.marginX, left);
+    auto const statusBottom = std::max<int>(needs.client.cy - needs.marginY, 0);
+    auto const statusTop = std::max(statusBottom - needs.statusHeight, 0);
+    auto const top = needs.marginY;
+    auto const bottom = std::max(statusTop - needs.spacing, top);
+    layout.status = CRect(left, statusTop, right, statusBottom);
+    layout.border = CRect(left, top, needs.client.cx - right, needs.client.cy - bottom);
+    auto const most = right - left - needs.dividerGap - needs.leastBeside;
+    auto const width = std::min(needs.framesWidth, std::max(most, 0));
+    if (width > 0)
+    {
+        layout.frames = CRect(right - width, top, right, bottom);
+        layout.framesDivider = CRect(layout.frames.left - needs.dividerGap, top, layout.frames.left, bottom);
+        layout.border.right += width + needs.dividerGap;
+    }
+    return layout;
+}
+
+PaneHeights DefaultPanes(MainLayoutNeeds const & needs)
+{
+    auto const growth = std::max<int>(needs.client.cy - LeastMainArea(needs, 0).cy, 0);
+    PaneHeights heights;
+    heights.waveform = needs.waveformHeight + needs.captionHeight + growth * c_waveformPart / c_whole;
+    heights.spectrogram = needs.spectrogramHeight + needs.captionHeight + growth * c_spectrogramPart / c_whole;
+    heights.measures = needs.panelHeight + needs.captionHeight;
+    return heights;
+}
+
+} // namespace workbench
