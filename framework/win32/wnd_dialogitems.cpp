@@ -218,7 +218,7 @@ void CWnd::UpdateDialogControls(CCmdTarget * pTarget, BOOL bDisableIfNoHndler)
         if (CWnd * const control = FromHandlePermanent(child))
         {
             if (control->CWnd::OnCmdMsg(0, static_cast<int>(MAKELONG(0xFFFF, WM_COMMAND + WM_REFLECT_BASE)), &state,
-                                       nullptr))
+                                        nullptr))
                 continue;
         }
         if (!alive() || !children.IsChild(child))

@@ -274,10 +274,7 @@ class ScrolledFrame : public CMDIChildWndEx
 public:
     CSplitterWnd m_splitter;
 
-    ScrolledView & Pane(int row, int column)
-    {
-        return *static_cast<ScrolledView *>(m_splitter.GetPane(row, column));
-    }
+    ScrolledView & Pane(int row, int column) { return *static_cast<ScrolledView *>(m_splitter.GetPane(row, column)); }
 
 protected:
     BOOL OnCreateClient(LPCREATESTRUCT, CCreateContext *) override
@@ -295,8 +292,8 @@ protected:
     {
         FramesTest::SetUp();
         m_frame = new ScrolledFrame;
-        ASSERT_TRUE(m_frame->Create(nullptr, L"Split", WS_CHILD | WS_VISIBLE | WS_OVERLAPPEDWINDOW,
-                                    CRect(0, 0, 500, 400)));
+        ASSERT_TRUE(
+            m_frame->Create(nullptr, L"Split", WS_CHILD | WS_VISIBLE | WS_OVERLAPPEDWINDOW, CRect(0, 0, 500, 400)));
         m_frame->InitialUpdateFrame(nullptr, TRUE);
         ASSERT_TRUE(m_frame->m_splitter.SplitRow(150));
         ASSERT_TRUE(m_frame->m_splitter.SplitColumn(200));
@@ -306,10 +303,7 @@ protected:
             Bar(AFX_IDW_HSCROLL_FIRST + line)->SetScrollRange(0, 100);
         }
     }
-    CScrollBar * Bar(int id)
-    {
-        return static_cast<CScrollBar *>(m_frame->m_splitter.GetDlgItem(id));
-    }
+    CScrollBar * Bar(int id) { return static_cast<CScrollBar *>(m_frame->m_splitter.GetDlgItem(id)); }
 
     ScrolledFrame * m_frame = nullptr;
 };

@@ -313,7 +313,6 @@ TEST_F(StandaloneFrames, RefuseAGridWithoutClasses)
     EXPECT_FALSE(frame->SplitFrameErzeugen(L"Grid", 2, 2, nullptr));
     EXPECT_EQ(frame->m_hWnd, nullptr);
     EXPECT_EQ(frame->GetSplitPane(0, 0), nullptr);
-    EXPECT_FALSE(user.FrameLebt());
     EXPECT_EQ(m_main->MDIGetActive(), nullptr);
     // The object is as good as new.
     CRuntimeClass * classes[] = {RUNTIME_CLASS(TestView)};

@@ -25,8 +25,7 @@ public:
         }
         if (!::IsWindow(m_parent))
             return nullptr;
-        HWND const next =
-            m_passed.empty() ? ::GetTopWindow(m_parent) : ::GetWindow(m_passed.back(), GW_HWNDNEXT);
+        HWND const next = m_passed.empty() ? ::GetTopWindow(m_parent) : ::GetWindow(m_passed.back(), GW_HWNDNEXT);
         if (next != nullptr)
             m_passed.push_back(next);
         return next;
