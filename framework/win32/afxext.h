@@ -5,11 +5,14 @@
 
 #include <afxwin.h>
 
+#include <afxdlgs.h>
+
 #include "detail/bitmapbutton.h"
 #include "detail/controlbar.h"
 #include "detail/createcontext.h"
 #include "detail/dialogbar.h"
 #include "detail/formview.h"
+#include "detail/printinfo.h"
 #include "detail/rebar.h"
 #include "detail/recttracker.h"
 #include "detail/splitter.h"

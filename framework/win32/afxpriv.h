@@ -27,3 +27,5 @@ struct AFX_SIZEPARENTPARAMS
     SIZE sizeTotal; // the extent of the bars
     BOOL bStretch;
 };
+
+#include "detail/previewview.h"

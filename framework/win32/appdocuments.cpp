@@ -41,6 +41,26 @@ LPCTSTR BuiltInText(UINT id)
         return L"Save changes to %1?";
     case AFX_IDP_FAILED_TO_CREATE_DOC:
         return L"Failed to create empty document.";
+    case AFX_IDP_FAILED_TO_START_PRINT:
+        return L"Could not start print job.";
+    case AFX_IDP_COMMAND_FAILURE:
+        return L"Command failed.";
+    case AFX_IDS_PRINTPAGENUM:
+        return L"Page %u";
+    case AFX_IDS_PREVIEWPAGEDESC:
+        return L"Page %u\nPages %u-%u\n";
+    case AFX_IDS_ONEPAGE:
+        return L"&One Page";
+    case AFX_IDS_TWOPAGE:
+        return L"&Two Page";
+    case AFX_IDS_PRINTDEFAULTEXT:
+        return L"prn";
+    case AFX_IDS_PRINTDEFAULT:
+        return L"Output.prn";
+    case AFX_IDS_PRINTFILTER:
+        return L"Printer Files (*.prn)|*.prn|All Files (*.*)|*.*||";
+    case AFX_IDS_PRINTCAPTION:
+        return L"Print to File";
     default:
         return L"";
     }
@@ -199,6 +219,10 @@ AppDocuments::~AppDocuments()
 {
     while (!m_templates.IsEmpty())
         delete static_cast<CDocTemplate *>(m_templates.RemoveHead());
+    if (m_deviceNames != nullptr)
+        ::GlobalFree(m_deviceNames);
+    if (m_deviceMode != nullptr)
+        ::GlobalFree(m_deviceMode);
 }
 } // namespace framework
 
@@ -409,12 +433,14 @@ BOOL CWinApp::ProcessShellCommand(CCommandLineInfo & rCmdInfo)
     case CCommandLineInfo::FilePrint:
     case CCommandLineInfo::FilePrintTo:
         m_nCmdShow = SW_HIDE;
+        Documents().m_printCommand = &rCmdInfo;
         if (OpenDocumentFile(rCmdInfo.m_strFileName, FALSE) != nullptr && m_pMainWnd != nullptr)
         {
             m_pMainWnd->SendMessage(WM_COMMAND, ID_FILE_PRINT_DIRECT);
             if (m_pMainWnd != nullptr)
                 m_pMainWnd->SendMessage(WM_CLOSE);
         }
+        Documents().m_printCommand = nullptr;
         return FALSE; // the program is done
     case CCommandLineInfo::AppRegister:
         Register();

@@ -531,18 +531,16 @@ void CControlBar::PaintNonClient()
 
 // The frame's message for the item below the mouse
 
-INT_PTR CControlBar::HitAtCursor() const
+INT_PTR CControlBar::HitAt(CPoint screen) const
 {
-    CPoint point;
-    ::GetCursorPos(&point);
-    HWND const window = ::WindowFromPoint(point);
+    HWND const window = ::WindowFromPoint(screen);
     if (window == nullptr || (window != m_hWnd && !::IsChild(m_hWnd, window)))
         return -1;
     HWND const top = ::GetAncestor(m_hWnd, GA_ROOT);
     if (!::IsWindowEnabled(top))
         return -1;
-    ::ScreenToClient(m_hWnd, &point);
-    return OnToolHitTest(point, nullptr);
+    ::ScreenToClient(m_hWnd, &screen);
+    return OnToolHitTest(screen, nullptr);
 }
 
 void CControlBar::FollowMouse(MSG const & message)
@@ -550,7 +548,7 @@ void CControlBar::FollowMouse(MSG const & message)
     bool const press = IsMousePress(message.message);
     if ((m_style & CBRS_FLYBY) == 0 || (!press && !IsMouseMove(message.message)))
         return;
-    INT_PTR const hit = HitAtCursor();
+    INT_PTR const hit = HitAt(message.pt); // the system may tell the cursor's place later than its message
     if (hit == m_flyBy)
     {
         if (hit == -1 && m_flyByWaiting)
@@ -589,7 +587,11 @@ void CControlBar::ShowFlyBy(INT_PTR hit)
 void CControlBar::OnTimer(UINT_PTR nIDEvent)
 {
     if (nIDEvent == waitTimer || nIDEvent == checkTimer)
-        ShowFlyBy(HitAtCursor());
+    {
+        CPoint cursor;
+        ::GetCursorPos(&cursor);
+        ShowFlyBy(HitAt(cursor));
+    }
     else
         CWnd::OnTimer(nIDEvent);
 }

@@ -1,6 +1,7 @@
 // Views that are a list, a tree or an edit field.
 
 #include "afxcview.h"
+#include "afxext.h"
 #include "detail/FrameSupport.h"
 #include "detail/WndAccess.h"
 
@@ -78,7 +79,7 @@ constexpr int defaultTabStops = 8 * 4; // in dialog units: eight characters
 const DWORD CEditView::dwStyleDefault =
     AFX_WS_DEFAULT_VIEW | WS_HSCROLL | WS_VSCROLL | ES_AUTOHSCROLL | ES_AUTOVSCROLL | ES_MULTILINE | ES_NOHIDESEL;
 
-CEditView::CEditView() : CCtrlView(L"EDIT", dwStyleDefault), m_tabStops(defaultTabStops) {}
+CEditView::CEditView() : CCtrlView(L"EDIT", dwStyleDefault), m_tabStops(defaultTabStops), m_printerFont(nullptr) {}
 
 CEditView::~CEditView()
 {

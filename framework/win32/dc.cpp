@@ -33,7 +33,7 @@ HGDIOBJ SelectIntoBoth(CDC const & dc, HGDIOBJ object)
 }
 } // namespace
 
-CDC::CDC() : m_hDC(nullptr), m_hAttribDC(nullptr), m_abortProc(nullptr) {}
+CDC::CDC() : m_hDC(nullptr), m_hAttribDC(nullptr), m_abortProc(nullptr), m_printing(false) {}
 
 CDC::~CDC()
 {
@@ -88,6 +88,7 @@ HDC CDC::Detach()
     ReleaseAttribDC();
     m_hDC = nullptr;
     m_abortProc = nullptr;
+    m_printing = false;
     return handle;
 }
 
@@ -116,6 +117,8 @@ void CDC::ReleaseOutputDC()
 
 BOOL CDC::IsPrinting() const
 {
+    if (m_printing)
+        return TRUE;
     HDC const device = m_hAttribDC == nullptr ? m_hDC : m_hAttribDC;
     if (::GetObjectType(device) == OBJ_MEMDC)
         return FALSE;

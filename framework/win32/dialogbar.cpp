@@ -68,9 +68,8 @@ BOOL CDialogBar::Create(CWnd * pParentWnd, LPCTSTR lpszTemplateName, UINT nStyle
     ModifyStyle(0, WS_CLIPSIBLINGS);
     if (!ExecuteDlgInit(lpszTemplateName) || !guard.Alive())
         return FALSE;
-    // The frame's layout gives it its place.
-    UINT const show = (nStyle & WS_VISIBLE) != 0 ? SWP_SHOWWINDOW : 0;
-    SetWindowPos(nullptr, 0, 0, 0, 0, SWP_NOZORDER | SWP_NOACTIVATE | show);
+    // It shows whatever its style says. The frame's layout gives it its place.
+    SetWindowPos(nullptr, 0, 0, 0, 0, SWP_NOZORDER | SWP_NOACTIVATE | SWP_SHOWWINDOW);
     return guard.Alive();
 }
 

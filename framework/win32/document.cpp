@@ -114,8 +114,8 @@ CDocument::~CDocument()
         watch = std::exchange(watch->m_next, nullptr);
     }
     m_watches = nullptr;
-    while (!m_views.IsEmpty())
-        static_cast<CView *>(m_views.RemoveHead())->m_document = nullptr;
+    while (!m_viewList.IsEmpty())
+        static_cast<CView *>(m_viewList.RemoveHead())->m_pDocument = nullptr;
     if (m_template != nullptr)
         m_template->RemoveDocument(this);
 }
@@ -170,27 +170,27 @@ void CDocument::SetModifiedFlag(BOOL bModified)
 
 void CDocument::AddView(CView * pView)
 {
-    ASSERT(pView->m_document == nullptr);
-    if (pView->m_document == this || m_views.Find(pView) != nullptr)
+    ASSERT(pView->m_pDocument == nullptr);
+    if (pView->m_pDocument == this || m_viewList.Find(pView) != nullptr)
         return;
-    m_views.AddTail(pView);
-    pView->m_document = this;
+    m_viewList.AddTail(pView);
+    pView->m_pDocument = this;
     OnChangedViewList();
 }
 
 void CDocument::RemoveView(CView * pView)
 {
-    POSITION const at = m_views.Find(pView);
+    POSITION const at = m_viewList.Find(pView);
     if (at == nullptr)
         return;
-    m_views.RemoveAt(at);
-    pView->m_document = nullptr;
+    m_viewList.RemoveAt(at);
+    pView->m_pDocument = nullptr;
     OnChangedViewList(); // may delete this
 }
 
 void CDocument::OnChangedViewList()
 {
-    if (m_views.IsEmpty() && m_autoDelete)
+    if (m_viewList.IsEmpty() && m_autoDelete)
     {
         OnCloseDocument();
         return;
@@ -200,12 +200,12 @@ void CDocument::OnChangedViewList()
 
 POSITION CDocument::GetFirstViewPosition() const
 {
-    return m_views.GetHeadPosition();
+    return m_viewList.GetHeadPosition();
 }
 
 CView * CDocument::GetNextView(POSITION & rPosition) const
 {
-    return rPosition != nullptr ? static_cast<CView *>(m_views.GetNext(rPosition)) : nullptr;
+    return rPosition != nullptr ? static_cast<CView *>(m_viewList.GetNext(rPosition)) : nullptr;
 }
 
 void CDocument::UpdateAllViews(CView * pSender, LPARAM lHint, CObject * pHint)
@@ -220,7 +220,7 @@ void CDocument::UpdateAllViews(CView * pSender, LPARAM lHint, CObject * pHint)
     for (auto const & [view, guard] : views)
     {
         // One may have ended through another; a view without a window is looked for.
-        if (view != pSender && ((guard.Alive() && view->m_document == this) || m_views.Find(view) != nullptr))
+        if (view != pSender && ((guard.Alive() && view->m_pDocument == this) || m_viewList.Find(view) != nullptr))
             view->OnUpdate(pSender, lHint, pHint);
         if (!watch.Alive())
             return;
@@ -233,9 +233,9 @@ void CDocument::UpdateFrameCounts()
     std::vector<WindowGuard> guards;
     std::vector<CFrameWnd *> frames;
     std::unordered_set<CFrameWnd *> seen;
-    for (POSITION at = m_views.GetHeadPosition(); at != nullptr;)
+    for (POSITION at = m_viewList.GetHeadPosition(); at != nullptr;)
     {
-        auto const * const view = static_cast<CView const *>(m_views.GetNext(at));
+        auto const * const view = static_cast<CView const *>(m_viewList.GetNext(at));
         if (view->m_hWnd == nullptr || !view->IsWindowVisible())
             continue; // of frames that show, alone
         CFrameWnd * const frame = view->GetParentFrame();
@@ -268,9 +268,9 @@ void CDocument::OnCloseDocument()
     DocumentWatch const watch(this);
     bool const autoDelete = m_autoDelete;
     m_autoDelete = false; // not before all is done here
-    while (watch.Alive() && !m_views.IsEmpty())
+    while (watch.Alive() && !m_viewList.IsEmpty())
     {
-        auto * const view = static_cast<CView *>(m_views.GetHead());
+        auto * const view = static_cast<CView *>(m_viewList.GetHead());
         WindowGuard const viewGuard(view);
         CFrameWnd * const frame = view->m_hWnd != nullptr ? view->GetParentFrame() : nullptr;
         if (frame == nullptr)
@@ -283,7 +283,7 @@ void CDocument::OnCloseDocument()
         if (guard.Alive())
             frame->DestroyWindow();
         // A view that has outlived its frame isn't asked again.
-        if (watch.Alive() && viewGuard.Alive() && view->m_document == this && view->GetParentFrame() == frame)
+        if (watch.Alive() && viewGuard.Alive() && view->m_pDocument == this && view->GetParentFrame() == frame)
             RemoveView(view);
     }
     if (!watch.Alive())

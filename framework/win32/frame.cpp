@@ -100,7 +100,8 @@ CFrameWnd::CFrameWnd()
       m_border(0, 0, 0, 0),
       m_inLayout(false),
       m_layoutPending(false),
-      m_dockStyle(0)
+      m_dockStyle(0),
+      m_previewClose(nullptr)
 {
 }
 
@@ -387,6 +388,8 @@ bool CFrameWnd::IsLastFrameOf(CDocument & document) const
 
 void CFrameWnd::OnClose()
 {
+    if (m_previewClose != nullptr && !m_previewClose(this))
+        return;
     WindowGuard const guard(this);
     CDocument * const document = GetActiveDocument();
     framework::DocumentWatch const watch(document);

@@ -236,3 +236,57 @@ void CFrameWnd::LoadBarState(LPCTSTR lpszProfileName)
     if (guard.Alive())
         RecalcLayout();
 }
+
+void CFrameWnd::OnSetPreviewMode(BOOL bPreview, CPrintPreviewState * pState)
+{
+    ASSERT(pState != nullptr);
+    WindowGuard const guard(this);
+    if (bPreview)
+    {
+        m_hiddenByPreview.RemoveAll();
+        std::vector<CControlBar *> bars;
+        CollectBars(m_hWnd, bars);
+        for (CControlBar * const bar : bars)
+        {
+            UINT const place = static_cast<WORD>(bar->GetDlgCtrlID()) - static_cast<UINT>(AFX_IDW_CONTROLBAR_FIRST);
+            bool const stays = place < 32 && (pState->dwStates >> place & 1) != 0;
+            if (stays || bar->GetParent() != this || !bar->IsToBeVisible())
+                continue;
+            m_hiddenByPreview.Add(bar->m_hWnd);
+            ShowControlBar(bar, FALSE, TRUE);
+        }
+        m_previewClose = pState->lpfnCloseProc;
+        pState->hAccelTable = std::exchange(m_accelerators, nullptr);
+        pState->hMenu = ::GetMenu(m_hWnd);
+        if (pState->hMenu != nullptr)
+            ::SetMenu(m_hWnd, nullptr);
+        if (HWND const pane = guard.Alive() ? ::GetDlgItem(m_hWnd, static_cast<int>(pState->nIDMainPane)) : nullptr)
+        {
+            ::ShowWindow(pane, SW_HIDE);
+            ::SetWindowLongPtr(pane, GWLP_ID, AFX_IDW_PANE_SAVE);
+        }
+        return;
+    }
+    m_previewClose = nullptr;
+    if (HWND const pane = ::GetDlgItem(m_hWnd, AFX_IDW_PANE_SAVE))
+    {
+        if (HWND const preview = ::GetDlgItem(m_hWnd, static_cast<int>(pState->nIDMainPane)))
+            ::SetWindowLongPtr(preview, GWLP_ID, AFX_IDW_PANE_SAVE);
+        ::SetWindowLongPtr(pane, GWLP_ID, static_cast<LONG_PTR>(pState->nIDMainPane));
+        ::ShowWindow(pane, SW_SHOW);
+        if (!guard.Alive())
+            return;
+    }
+    if (pState->hMenu != nullptr && ::IsMenu(pState->hMenu))
+        ::SetMenu(m_hWnd, pState->hMenu);
+    if (!guard.Alive())
+        return;
+    m_accelerators = pState->hAccelTable;
+    for (INT_PTR at = 0; at < m_hiddenByPreview.GetSize(); ++at)
+    {
+        auto * const bar = DYNAMIC_DOWNCAST(CControlBar, CWnd::FromHandlePermanent(m_hiddenByPreview[at]));
+        if (bar != nullptr && bar->GetParent() == this)
+            ShowControlBar(bar, TRUE, TRUE);
+    }
+    m_hiddenByPreview.RemoveAll();
+}

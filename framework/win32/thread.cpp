@@ -275,8 +275,9 @@ BOOL CWinThread::OnIdle(LONG lCount)
         CWnd * const main = m_pMainWnd;
         if (main != nullptr && main->m_hWnd != nullptr && main->IsWindowVisible())
         {
-            AfxCallWndProc(main, main->m_hWnd, WM_IDLEUPDATECMDUI, TRUE, 0);
-            if (main->m_hWnd != nullptr)
+            HWND const window = main->m_hWnd;
+            AfxCallWndProc(main, window, WM_IDLEUPDATECMDUI, TRUE, 0);
+            if (CWnd::FromHandlePermanent(window) == main)
                 main->SendMessageToDescendants(WM_IDLEUPDATECMDUI, TRUE, 0, TRUE, TRUE);
         }
         framework::UpdateFramesBeside(main);

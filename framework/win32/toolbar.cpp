@@ -364,8 +364,9 @@ BOOL CToolBar::PutBitmap(HBITMAP bitmap)
 
 void CToolBar::OnSysColorChange()
 {
+    WindowGuard const guard(this);
     CControlBar::OnSysColorChange();
-    if (m_bitmapModule == nullptr)
+    if (!guard.Alive() || m_bitmapModule == nullptr)
         return;
     LPCTSTR const name = m_bitmapId != 0 ? MAKEINTRESOURCE(m_bitmapId) : m_bitmapName.GetString();
     if (HBITMAP const bitmap = ::CreateMappedBitmap(m_bitmapModule, reinterpret_cast<INT_PTR>(name), 0, nullptr, 0))

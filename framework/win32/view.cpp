@@ -1,7 +1,9 @@
 // CView and CCtrlView: windows in a frame that show a document.
 
 #include "afxpriv.h"
+#include "afxext.h"
 #include "detail/FrameSupport.h"
+#include "detail/PrintSupport.h"
 #include "detail/WndAccess.h"
 
 using framework::WindowGuard;
@@ -40,17 +42,17 @@ bool framework::IsTopParentActive(CWnd const & window)
     return top != nullptr && ::GetForegroundWindow() == ::GetLastActivePopup(top->m_hWnd);
 }
 
-CView::CView() : m_document(nullptr) {}
+CView::CView() : m_pDocument(nullptr) {}
 
 CView::~CView()
 {
-    if (m_document != nullptr)
-        m_document->RemoveView(this);
+    if (m_pDocument != nullptr)
+        m_pDocument->RemoveView(this);
 }
 
 CDocument * CView::GetDocument() const
 {
-    return m_document;
+    return m_pDocument;
 }
 
 BOOL CView::PreCreateWindow(CREATESTRUCT & cs)
@@ -120,7 +122,12 @@ void CView::OnPaint()
     OnDraw(&dc);
 }
 
-void CView::OnPrepareDC(CDC *, CPrintInfo *) {}
+void CView::OnPrepareDC(CDC *, CPrintInfo * pInfo)
+{
+    // A view that doesn't know its last page has one.
+    if (pInfo != nullptr)
+        pInfo->m_bContinuePrinting = pInfo->GetMaxPage() != framework::anyPage || pInfo->m_nCurPage == 1;
+}
 
 BOOL CView::IsSelected(const CObject *) const
 {
@@ -167,7 +174,7 @@ BOOL CView::OnCmdMsg(UINT nID, int nCode, void * pExtra, AFX_CMDHANDLERINFO * pH
     WindowGuard const guard(this);
     if (CWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo))
         return TRUE;
-    return guard.Alive() && m_document != nullptr && m_document->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
+    return guard.Alive() && m_pDocument != nullptr && m_pDocument->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
 }
 
 void CView::CalcWindowRect(LPRECT lpClientRect, UINT nAdjustType)

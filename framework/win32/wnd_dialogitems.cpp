@@ -1,6 +1,7 @@
 // CWnd: dialog items and the exchange of data with them.
 
 #include "afxpriv.h"
+#include "detail/ChildWalk.h"
 #include "detail/ThreadState.h"
 #include "detail/WndAccess.h"
 
@@ -198,17 +199,30 @@ BOOL CWnd::UpdateData(BOOL bSaveAndValidate)
 
 void CWnd::UpdateDialogControls(CCmdTarget * pTarget, BOOL bDisableIfNoHndler)
 {
-    for (HWND child = ::GetTopWindow(m_hWnd); child != nullptr; child = ::GetWindow(child, GW_HWNDNEXT))
+    // A handler may end a control, this window or the target's.
+    HWND const window = m_hWnd;
+    CWnd * const targetWindow = DYNAMIC_DOWNCAST(CWnd, pTarget);
+    HWND const targetHandle = framework::SafeHandle(targetWindow);
+    CWnd * const object = FromHandlePermanent(window);
+    CWnd * const targetObject = FromHandlePermanent(targetHandle);
+    auto const alive = [=] {
+        return ::IsWindow(window) && FromHandlePermanent(window) == object &&
+               FromHandlePermanent(targetHandle) == targetObject;
+    };
+    framework::ChildWalk children(window);
+    while (HWND const child = alive() ? children.Next() : nullptr)
     {
         CCmdUI state;
         state.m_nID = static_cast<WORD>(::GetDlgCtrlID(child));
         state.m_pOther = FromHandle(child);
-        if (CWnd * const object = FromHandlePermanent(child))
+        if (CWnd * const control = FromHandlePermanent(child))
         {
-            if (object->CWnd::OnCmdMsg(0, static_cast<int>(MAKELONG(0xFFFF, WM_COMMAND + WM_REFLECT_BASE)), &state,
-                                       nullptr))
+            if (control->CWnd::OnCmdMsg(0, static_cast<int>(MAKELONG(0xFFFF, WM_COMMAND + WM_REFLECT_BASE)), &state,
+                                        nullptr))
                 continue;
         }
+        if (!alive() || !children.IsChild(child))
+            continue;
         if (CWnd::OnCmdMsg(state.m_nID, static_cast<int>(CN_UPDATE_COMMAND_UI), &state, nullptr))
             continue;
         // Only push buttons stand for commands.
@@ -220,6 +234,7 @@ void CWnd::UpdateDialogControls(CCmdTarget * pTarget, BOOL bDisableIfNoHndler)
             auto const style = static_cast<UINT>(::GetWindowLongPtr(child, GWL_STYLE)) & BS_TYPEMASK;
             disable = style == BS_PUSHBUTTON || style == BS_DEFPUSHBUTTON || style == BS_OWNERDRAW;
         }
-        framework::CmdUiAccess::DoUpdate(state, pTarget, disable);
+        if (alive() && children.IsChild(child))
+            framework::CmdUiAccess::DoUpdate(state, pTarget, disable);
     }
 }

@@ -1,6 +1,7 @@
 // CWnd: the handlers of the single messages.
 
 #include "afxpriv.h"
+#include "detail/FrameSupport.h"
 #include "detail/ThreadState.h"
 #include "detail/WndAccess.h"
 
@@ -49,20 +50,25 @@ void CWnd::ForwardToDescendants()
 
 LRESULT CWnd::OnDisplayChange(WPARAM, LPARAM)
 {
+    framework::WindowGuard const guard(this);
     ForwardToDescendants();
-    return Default();
+    return guard.Alive() ? Default() : 0;
 }
 
 void CWnd::OnSysColorChange()
 {
+    framework::WindowGuard const guard(this);
     ForwardToDescendants();
-    Default();
+    if (guard.Alive())
+        Default();
 }
 
 void CWnd::OnSettingChange(UINT, LPCTSTR)
 {
+    framework::WindowGuard const guard(this);
     ForwardToDescendants();
-    Default();
+    if (guard.Alive())
+        Default();
 }
 
 void CWnd::OnWinIniChange(LPCTSTR)

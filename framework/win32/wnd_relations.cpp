@@ -1,6 +1,7 @@
 // CWnd: parents, owners, children, and what is done with all of them.
 
 #include "afxpriv.h"
+#include "detail/ChildWalk.h"
 #include "detail/ThreadState.h"
 #include "detail/WndAccess.h"
 
@@ -51,7 +52,8 @@ CWnd * FindDescendant(HWND window, int id, BOOL onlyPermanent)
 void framework::SendMessageToDescendants(HWND window, UINT message, WPARAM wParam, LPARAM lParam, BOOL deep,
                                          BOOL onlyPermanent)
 {
-    for (HWND child = ::GetTopWindow(window); child != nullptr; child = ::GetWindow(child, GW_HWNDNEXT))
+    ChildWalk children(window);
+    while (HWND const child = children.Next())
     {
         if (!onlyPermanent)
             ::SendMessage(child, message, wParam, lParam);
@@ -308,23 +310,38 @@ void CWnd::CenterWindow(CWnd * pAlternateOwner)
 void CWnd::RepositionBars(UINT nIDFirst, UINT nIDLast, UINT nIDLeftOver, UINT nFlag, LPRECT lpRectParam,
                           LPCRECT lpRectClient, BOOL bStretch)
 {
+    constexpr int mostPasses = 8;
+    HWND const window = m_hWnd;
     bool const query = (nFlag & ~reposNoPosLeftOver) == reposQuery;
     AFX_SIZEPARENTPARAMS layout{};
-    layout.bStretch = bStretch;
-    if (lpRectClient != nullptr)
-        layout.rect = *lpRectClient;
-    else
-        GetClientRect(&layout.rect);
-    if (!query)
-        layout.hDWP = ::BeginDeferWindowPos(8);
     HWND leftOver = nullptr;
-    for (HWND child = ::GetTopWindow(m_hWnd); child != nullptr; child = ::GetWindow(child, GW_HWNDNEXT))
+    // A bar that ends meanwhile leaves its place to the others.
+    bool again = true;
+    for (int pass = 0; again && pass < mostPasses; ++pass)
     {
-        auto const id = static_cast<UINT>(static_cast<WORD>(::GetDlgCtrlID(child)));
-        if (id == nIDLeftOver)
-            leftOver = child;
-        else if (id >= nIDFirst && id <= nIDLast && FromHandlePermanent(child) != nullptr)
-            ::SendMessage(child, WM_SIZEPARENT, 0, reinterpret_cast<LPARAM>(&layout));
+        if (layout.hDWP != nullptr)
+            ::EndDeferWindowPos(layout.hDWP);
+        layout = {};
+        layout.bStretch = bStretch;
+        if (lpRectClient != nullptr)
+            layout.rect = *lpRectClient;
+        else
+            ::GetClientRect(window, &layout.rect);
+        if (!query)
+            layout.hDWP = ::BeginDeferWindowPos(8);
+        leftOver = nullptr;
+        framework::ChildWalk children(window);
+        while (HWND const child = children.Next())
+        {
+            auto const id = static_cast<UINT>(static_cast<WORD>(::GetDlgCtrlID(child)));
+            if (id == nIDLeftOver)
+                leftOver = child;
+            else if (id >= nIDFirst && id <= nIDLast && FromHandlePermanent(child) != nullptr)
+                ::SendMessage(child, WM_SIZEPARENT, 0, reinterpret_cast<LPARAM>(&layout));
+        }
+        again = children.HasLost() && ::IsWindow(window);
+        if (leftOver != nullptr && !children.IsChild(leftOver))
+            leftOver = nullptr;
     }
     if (query)
     {

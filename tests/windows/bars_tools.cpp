@@ -3,6 +3,7 @@
 #include "bars_BarTest.h"
 
 #include "GuardedHeap.h"
+#include "ImportPatch.h"
 
 namespace
 {
@@ -353,6 +354,39 @@ TEST_F(ToolBars, FramesMessageFollowsTheMouse)
     EXPECT_TRUE(tests::PumpUntil([&] { return m_frame->StatusText() == L"Message of C"; }));
     ASSERT_TRUE(tests::MoveMouse(tests::ClientPoint(m_window, {300, 200})));
     EXPECT_TRUE(tests::PumpUntil([&] { return m_frame->StatusText() == L"Ready"; }));
+}
+
+bool g_cursorIsLate = false;
+CPoint g_formerCursor;
+
+BOOL WINAPI LateCursor(POINT * place)
+{
+    if (!g_cursorIsLate)
+        return ::GetCursorPos(place);
+    *place = g_formerCursor;
+    return TRUE;
+}
+
+TEST_F(ToolBars, FramesMessageGoesByTheMousesMessages)
+{
+    m_frame->AddTools(CBRS_TOP | CBRS_FLYBY);
+    m_frame->AddStatusBar();
+    Show();
+    g_formerCursor = tests::ClientPoint(m_window, {300, 200});
+    ASSERT_TRUE(tests::MoveMouse(g_formerCursor));
+    tests::ImportPatch const patch(L"framework.dll", "GetCursorPos", &LateCursor);
+    ASSERT_TRUE(patch.Done());
+    // The message comes while the system still tells the place before, and no other comes after it.
+    g_cursorIsLate = true;
+    CPoint const button = ButtonCentre(m_frame->m_tools, ID_TOOL_A);
+    ASSERT_TRUE(tests::MoveMouse(button));
+    MSG move{};
+    move.hwnd = m_frame->m_tools.m_hWnd;
+    move.message = WM_MOUSEMOVE;
+    move.pt = button;
+    m_frame->m_tools.PreTranslateMessage(&move);
+    g_cursorIsLate = false;
+    EXPECT_TRUE(tests::PumpUntil([&] { return m_frame->StatusText() == L"Message of A"; }));
 }
 
 TEST_F(ToolBars, BarThatGoesTakesItsMessageAway)

@@ -230,3 +230,139 @@ TEST_F(Splitters, ThatFailLeaveNothing)
     EXPECT_EQ(frames::g_views, 0);
     EXPECT_EQ(m_main->MDIGetActive(), nullptr);
 }
+
+namespace
+{
+/// A view that notes how it is scrolled, and moves the bar that it shares.
+class ScrolledView : public TestView
+{
+    DECLARE_DYNCREATE(ScrolledView)
+
+public:
+    std::vector<UINT> m_codes;
+    std::vector<int> m_places; // of the shared bar, before it was moved
+    std::vector<CSize> m_sizes;
+    std::function<void()> m_action;
+
+    BOOL OnScroll(UINT nScrollCode, UINT, BOOL bDoScroll) override
+    {
+        m_codes.push_back(nScrollCode);
+        return Scroll(HIBYTE(nScrollCode) != 0xFF ? SB_VERT : SB_HORZ, bDoScroll);
+    }
+    BOOL OnScrollBy(CSize sizeScroll, BOOL bDoScroll) override
+    {
+        m_sizes.push_back(sizeScroll);
+        return Scroll(sizeScroll.cy != 0 ? SB_VERT : SB_HORZ, bDoScroll);
+    }
+
+private:
+    BOOL Scroll(int bar, BOOL bDoScroll)
+    {
+        CScrollBar * const control = GetScrollBarCtrl(bar);
+        m_places.push_back(control->GetScrollPos());
+        if (bDoScroll)
+            control->SetScrollPos(m_places.back() + 5);
+        if (auto const action = std::exchange(m_action, {}))
+            action();
+        return bDoScroll;
+    }
+};
+IMPLEMENT_DYNCREATE(ScrolledView, TestView)
+
+class ScrolledFrame : public CMDIChildWndEx
+{
+public:
+    CSplitterWnd m_splitter;
+
+    ScrolledView & Pane(int row, int column) { return *static_cast<ScrolledView *>(m_splitter.GetPane(row, column)); }
+
+protected:
+    BOOL OnCreateClient(LPCREATESTRUCT, CCreateContext *) override
+    {
+        CCreateContext context;
+        context.m_pNewViewClass = RUNTIME_CLASS(ScrolledView);
+        return m_splitter.Create(this, 2, 2, CSize(20, 30), &context);
+    }
+};
+
+class ScrolledSplitters : public frames::FramesTest
+{
+protected:
+    void SetUp() override
+    {
+        FramesTest::SetUp();
+        m_frame = new ScrolledFrame;
+        ASSERT_TRUE(
+            m_frame->Create(nullptr, L"Split", WS_CHILD | WS_VISIBLE | WS_OVERLAPPEDWINDOW, CRect(0, 0, 500, 400)));
+        m_frame->InitialUpdateFrame(nullptr, TRUE);
+        ASSERT_TRUE(m_frame->m_splitter.SplitRow(150));
+        ASSERT_TRUE(m_frame->m_splitter.SplitColumn(200));
+        for (int line = 0; line < 2; ++line)
+        {
+            Bar(AFX_IDW_VSCROLL_FIRST + line)->SetScrollRange(0, 100);
+            Bar(AFX_IDW_HSCROLL_FIRST + line)->SetScrollRange(0, 100);
+        }
+    }
+    CScrollBar * Bar(int id) { return static_cast<CScrollBar *>(m_frame->m_splitter.GetDlgItem(id)); }
+
+    ScrolledFrame * m_frame = nullptr;
+};
+} // namespace
+
+TEST_F(ScrolledSplitters, PanesAlongABarScrollTogether)
+{
+    Bar(AFX_IDW_VSCROLL_FIRST + 1)->SetScrollPos(40);
+    UINT const down = MAKEWORD(0xFF, SB_LINEDOWN);
+    EXPECT_TRUE(m_frame->m_splitter.DoScroll(&m_frame->Pane(1, 0), down));
+    EXPECT_EQ(m_frame->Pane(1, 0).m_codes, std::vector<UINT>{down});
+    EXPECT_EQ(m_frame->Pane(1, 1).m_codes, std::vector<UINT>{down});
+    EXPECT_TRUE(m_frame->Pane(0, 0).m_codes.empty());
+    EXPECT_TRUE(m_frame->Pane(0, 1).m_codes.empty());
+    // The second finds the bar where the first found it, and it has been moved once.
+    EXPECT_EQ(m_frame->Pane(1, 0).m_places, std::vector<int>{40});
+    EXPECT_EQ(m_frame->Pane(1, 1).m_places, std::vector<int>{40});
+    EXPECT_EQ(Bar(AFX_IDW_VSCROLL_FIRST + 1)->GetScrollPos(), 45);
+    EXPECT_EQ(Bar(AFX_IDW_VSCROLL_FIRST)->GetScrollPos(), 0);
+}
+
+TEST_F(ScrolledSplitters, BothDirectionsScrollInOneCall)
+{
+    UINT const both = MAKEWORD(SB_LINERIGHT, SB_LINEDOWN);
+    EXPECT_TRUE(m_frame->m_splitter.DoScroll(&m_frame->Pane(0, 1), both));
+    UINT const right = MAKEWORD(SB_LINERIGHT, 0xFF);
+    UINT const down = MAKEWORD(0xFF, SB_LINEDOWN);
+    EXPECT_EQ(m_frame->Pane(0, 1).m_codes, (std::vector<UINT>{right, down}));
+    EXPECT_EQ(m_frame->Pane(1, 1).m_codes, std::vector<UINT>{right});
+    EXPECT_EQ(m_frame->Pane(0, 0).m_codes, std::vector<UINT>{down});
+    EXPECT_TRUE(m_frame->Pane(1, 0).m_codes.empty());
+    EXPECT_FALSE(m_frame->m_splitter.DoScroll(&m_frame->Pane(0, 1), both, FALSE)); // asks only
+    EXPECT_EQ(Bar(AFX_IDW_VSCROLL_FIRST)->GetScrollPos(), 5);
+    EXPECT_EQ(Bar(AFX_IDW_HSCROLL_FIRST + 1)->GetScrollPos(), 5);
+}
+
+TEST_F(ScrolledSplitters, PanesAlongABarScrollByTheSameSize)
+{
+    EXPECT_TRUE(m_frame->m_splitter.DoScrollBy(&m_frame->Pane(0, 0), CSize(3, 0)));
+    EXPECT_EQ(m_frame->Pane(0, 0).m_sizes, std::vector<CSize>{CSize(3, 0)});
+    EXPECT_EQ(m_frame->Pane(1, 0).m_sizes, std::vector<CSize>{CSize(3, 0)});
+    EXPECT_TRUE(m_frame->Pane(0, 1).m_sizes.empty());
+    EXPECT_EQ(Bar(AFX_IDW_HSCROLL_FIRST)->GetScrollPos(), 5);
+    EXPECT_FALSE(m_frame->m_splitter.DoScrollBy(&m_frame->Pane(0, 0), CSize(0, 0)));
+}
+
+TEST_F(ScrolledSplitters, WhatIsNoPaneIsNotScrolled)
+{
+    TestView & pane = m_frame->Pane(0, 0);
+    CSplitterWnd other;
+    EXPECT_FALSE(other.DoScroll(&pane, MAKEWORD(0xFF, SB_LINEDOWN)));
+    EXPECT_FALSE(m_frame->m_splitter.DoScroll(nullptr, MAKEWORD(0xFF, SB_LINEDOWN)));
+    EXPECT_TRUE(m_frame->Pane(0, 0).m_codes.empty());
+}
+
+TEST_F(ScrolledSplitters, ScrolledPaneMayEndTheFrame)
+{
+    HWND const window = m_frame->m_hWnd;
+    m_frame->Pane(0, 0).m_action = [this] { m_frame->DestroyWindow(); };
+    m_frame->m_splitter.DoScroll(&m_frame->Pane(0, 1), MAKEWORD(SB_LINERIGHT, SB_LINEDOWN));
+    EXPECT_FALSE(::IsWindow(window));
+}

@@ -305,6 +305,22 @@ TEST_F(StandaloneFrames, RefuseAGridWithoutCells)
     EXPECT_EQ(m_main->MDIGetActive(), nullptr);
 }
 
+TEST_F(StandaloneFrames, RefuseAGridWithoutClasses)
+{
+    User user;
+    auto * const frame = new CStandaloneFrameWnd;
+    frame->BitteUmNachricht(&user);
+    EXPECT_FALSE(frame->SplitFrameErzeugen(L"Grid", 2, 2, nullptr));
+    EXPECT_EQ(frame->m_hWnd, nullptr);
+    EXPECT_EQ(frame->GetSplitPane(0, 0), nullptr);
+    EXPECT_EQ(m_main->MDIGetActive(), nullptr);
+    // The object is as good as new.
+    CRuntimeClass * classes[] = {RUNTIME_CLASS(TestView)};
+    ASSERT_TRUE(frame->SplitFrameErzeugen(L"Grid", 1, 1, classes));
+    EXPECT_NE(frame->GetSplitPane(0, 0), nullptr);
+    Close(*frame);
+}
+
 TEST_F(StandaloneFrames, StayWhereTheyAreDuringTheTouchFreeze)
 {
     User user;

@@ -69,7 +69,7 @@ bool CStandaloneFrameWnd::SplitFrameErzeugen(CString const & title, unsigned lon
     m_rows = rows;
     m_cols = columns;
     std::optional<std::size_t> const count = frame_grid::CellCount(rows, columns);
-    auto ** const classes = count ? new (std::nothrow) CRuntimeClass *[*count] : nullptr;
+    auto ** const classes = count && viewClasses != nullptr ? new (std::nothrow) CRuntimeClass *[*count] : nullptr;
     if (classes == nullptr)
         return false;
     std::copy_n(viewClasses, *count, classes);

@@ -13,6 +13,7 @@ typedef UINT(AFX_CDECL * AFX_THREADPROC)(LPVOID);
 namespace framework
 {
 struct AppAccess;
+struct DocumentsAccess;
 struct AppDocuments;
 struct ThreadAccess;
 } // namespace framework
@@ -125,11 +126,21 @@ public:
     virtual BOOL Unregister();
     virtual void WinHelp(DWORD_PTR dwData, UINT nCmd = HELP_CONTEXT);
 
+    /// The printer of the system, or the one that the user has chosen. FALSE if there is none. What is given stays the
+    /// application's.
+    BOOL GetPrinterDeviceDefaults(struct tagPDW * pPrintDlg);
+    void SelectPrinter(HANDLE hDevNames, HANDLE hDevMode, BOOL bFreeOld = TRUE);
+    BOOL CreatePrinterDC(CDC & dc);
+
     afx_msg void OnHelp();
     afx_msg void OnHelpIndex();
     afx_msg void OnHelpFinder();
     afx_msg void OnHelpUsing();
     afx_msg void OnContextHelp();
+    // Not in the message map; programs name them in theirs
+    afx_msg void OnFileNew();
+    afx_msg void OnFileOpen();
+    afx_msg void OnFilePrintSetup();
 
     BOOL InitInstance() override;
     int Run() override;
@@ -147,11 +158,9 @@ protected:
     /// Reads the list of files used last, which ExitInstance writes.
     void LoadStdProfileSettings(UINT nMaxMRU = _AFX_MRU_COUNT);
 
-    afx_msg void OnFileNew();
-    afx_msg void OnFileOpen();
-
 private:
     friend struct framework::AppAccess;
+    friend struct framework::DocumentsAccess;
 
     void SetCurrentHandles();
     framework::AppDocuments & Documents();

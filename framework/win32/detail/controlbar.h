@@ -127,7 +127,7 @@ private:
     void CalcNonClient(NCCALCSIZE_PARAMS * params) const;
     void PaintNonClient();
 
-    INT_PTR HitAtCursor() const;
+    INT_PTR HitAt(CPoint screen) const;
     void FollowMouse(MSG const & message);
     void ShowFlyBy(INT_PTR hit);
 

@@ -54,6 +54,9 @@ public:
 
     BOOL OnCmdMsg(UINT nID, int nCode, void * pExtra, AFX_CMDHANDLERINFO * pHandlerInfo) override;
 
+protected:
+    CPtrList m_viewList;
+
 private:
     friend class CDocTemplate;
     friend class CFrameWnd;
@@ -74,7 +77,6 @@ private:
     CString m_title;
     CString m_path;
     CDocTemplate * m_template;
-    CPtrList m_views;
     BOOL m_modified;
     bool m_autoDelete; // with its last view
     framework::DocumentWatch * m_watches;

@@ -61,6 +61,17 @@ public:
     void UnlockBuffer() const;
     void GetSelectedText(CString & strResult) const;
     void SetTabStops(int nTabStops);
+    /// The text with its length.
+    void Serialize(CArchive & ar) override;
+    /// The text alone, which is all of the file.
+    void SerializeRaw(CArchive & ar);
+
+    CFont * GetPrinterFont() const;
+    /// Null: like the one on the screen. The font stays the caller's.
+    void SetPrinterFont(CFont * pFont);
+    /// Prints from one character to another, as much as fits. Gives the first that didn't; the rectangle's lower edge is
+    /// where the text ends.
+    UINT PrintInsideRect(CDC * pDC, RECT & rectLayout, UINT nIndexStart, UINT nIndexStop);
     /// Selects the next or previous place of the text. FALSE if there is none.
     BOOL FindText(LPCTSTR lpszFind, BOOL bNext = TRUE, BOOL bCase = TRUE);
 
@@ -72,9 +83,15 @@ protected:
     virtual void OnReplaceAll(LPCTSTR lpszFind, LPCTSTR lpszReplace, BOOL bCase);
     virtual void OnTextNotFound(LPCTSTR lpszFind);
 
+    BOOL OnPreparePrinting(CPrintInfo * pInfo) override;
+    void OnBeginPrinting(CDC * pDC, CPrintInfo * pInfo) override;
+    void OnPrint(CDC * pDC, CPrintInfo * pInfo) override;
+    void OnEndPrinting(CDC * pDC, CPrintInfo * pInfo) override;
+
     afx_msg int OnCreate(LPCREATESTRUCT lpcs);
 
 private:
+    UINT LayOut(CDC & dc, CString const & text, RECT & layout, UINT start, UINT stop, bool output) const;
     bool SameAsSelected(LPCTSTR text, BOOL matchCase) const;
     BOOL HandleChange();
     void UpdateNeedsSelection(CCmdUI * pCmdUI);
@@ -86,6 +103,10 @@ private:
     mutable CEdit m_edit; // speaks to the view's window, and isn't attached to it
     int m_tabStops;
     mutable CString m_locked; // what LockBuffer gave
+    CFont * m_printerFont;    // the program's
+    CFont m_pageFont;         // while it is printed: like the one on the screen
+    CString m_pageText;       // and what is printed
+    CArray<UINT> m_pageStarts;
 
     DECLARE_MESSAGE_MAP()
 };

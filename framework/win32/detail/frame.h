@@ -8,6 +8,7 @@ class CDocument;
 class CMDIChildWnd;
 class CMDIFrameWnd;
 class CView;
+struct CPrintPreviewState;
 
 // Styles of frames, in the half of the style word that belongs to the window's class
 #define FWS_ADDTOTITLE 0x8000  // the document's name stands in the title
@@ -84,6 +85,9 @@ public:
     };
     virtual BOOL NegotiateBorderSpace(UINT nBorderCmd, LPRECT lpRectBorder);
 
+    /// Makes room for a preview and takes it back: bars, menu and accelerators, and what fills the frame.
+    virtual void OnSetPreviewMode(BOOL bPreview, CPrintPreviewState * pState);
+
     BOOL InModalState() const;
     void BeginModalState() override;
     void EndModalState() override;
@@ -156,8 +160,10 @@ private:
     CArray<HWND> m_disabled; // what the modal state has disabled
     CRect m_border;          // kept free around bars and view
     bool m_inLayout;
-    bool m_layoutPending; // for the next idle time
-    DWORD m_dockStyle;    // the sides that bars may be docked at
+    bool m_layoutPending;                         // for the next idle time
+    DWORD m_dockStyle;                            // the sides that bars may be docked at
+    BOOL(CALLBACK * m_previewClose)(CFrameWnd *); // asked before the frame closes
+    CArray<HWND> m_hiddenByPreview;
 
     DECLARE_MESSAGE_MAP()
 };

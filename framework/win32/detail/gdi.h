@@ -11,6 +11,11 @@
 
 class CWnd;
 
+namespace framework
+{
+struct PrintAccess;
+} // namespace framework
+
 // Output goes to m_hDC; questions are answered by m_hAttribDC. Both are the same context unless they were set apart.
 class FRAMEWORK_API CDC : public CObject
 {
@@ -319,7 +324,10 @@ public:
     BOOL AddMetaFileComment(UINT nDataSize, BYTE const * pCommentData);
 
 private:
+    friend struct framework::PrintAccess;
+
     BOOL(CALLBACK * m_abortProc)(HDC, int);
+    bool m_printing; // for a job or its preview, whatever the device is
 };
 
 class FRAMEWORK_API CClientDC : public CDC

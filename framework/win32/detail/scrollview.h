@@ -42,6 +42,7 @@ protected:
 
 private:
     friend class CFormView;
+    friend class CPreviewView;
 
     void UpdateBars();
     void MoveTo(CPoint position);

@@ -1,8 +1,11 @@
 #pragma once
 // Views: windows in a frame that show a document. Included by afxwin.h, after the frames.
 
+#include <functional>
+
 #include "frame.h"
 
+class CPreviewView;
 class CSplitterWnd;
 struct CPrintInfo;
 
@@ -25,6 +28,12 @@ public:
     virtual void OnPrepareDC(CDC * pDC, CPrintInfo * pInfo = nullptr);
     virtual void OnInitialUpdate();
 
+    /// Asks for the printer and the pages, without a dialog for a preview. For OnPreparePrinting.
+    BOOL DoPreparePrinting(CPrintInfo * pInfo);
+    // Not in the message map; views that print name them in theirs
+    afx_msg void OnFilePrint();
+    afx_msg void OnFilePrintPreview();
+
     BOOL PreCreateWindow(CREATESTRUCT & cs) override;
     BOOL OnCmdMsg(UINT nID, int nCode, void * pExtra, AFX_CMDHANDLERINFO * pHandlerInfo) override;
     CScrollBar * GetScrollBarCtrl(int nBar) const override;
@@ -39,7 +48,17 @@ protected:
     virtual void OnActivateFrame(UINT nState, CFrameWnd * pFrameWnd);
     virtual void OnUpdate(CView * pSender, LPARAM lHint, CObject * pHint);
     virtual void OnDraw(CDC * pDC) = 0;
+    /// Says what is printed. FALSE: nothing.
+    virtual BOOL OnPreparePrinting(CPrintInfo * pInfo);
+    virtual void OnBeginPrinting(CDC * pDC, CPrintInfo * pInfo);
+    /// Prints pInfo->m_nCurPage; what is drawn, unless overridden.
+    virtual void OnPrint(CDC * pDC, CPrintInfo * pInfo);
+    virtual void OnEndPrinting(CDC * pDC, CPrintInfo * pInfo);
+    /// Ends the preview; point is where it was scrolled to.
+    virtual void OnEndPrintPreview(CDC * pDC, CPrintInfo * pInfo, POINT point, CPreviewView * pView);
     void PostNcDestroy() override;
+
+    CDocument * m_pDocument; // null if there is none
 
     afx_msg int OnCreate(LPCREATESTRUCT lpcs);
     afx_msg void OnDestroy();
@@ -50,6 +69,7 @@ private:
     friend class CDocument;
     friend class CFrameWnd;
     friend class CMDIChildWnd;
+    friend class CPreviewView;
     friend class CSplitterWnd;
     friend struct framework::ViewAccess;
 
@@ -58,8 +78,7 @@ private:
     void UpdateNextPane(CCmdUI * pCmdUI);
     BOOL HandleSplit(UINT nID);
     void UpdateSplit(CCmdUI * pCmdUI);
-
-    CDocument * m_document;
+    bool PrintPages(CDC & dc, CPrintInfo & info, std::function<void(UINT)> const & tell);
 
     DECLARE_MESSAGE_MAP()
 };

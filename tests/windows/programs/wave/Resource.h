@@ -1,0 +1,6 @@
+//{{NO_DEPENDENCIES}}
+// Identifiers of the resources in Wave.rc
+//
+#define IDD_ABOUTBOX                    100
+#define IDR_MAINFRAME                   128
+#define IDR_WAVETYPE                    129
