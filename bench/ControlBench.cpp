@@ -26,6 +26,7 @@ constexpr Measure measures[] = {
     {"segments", bench::PaintingSegmentCharacters},
     {"combo", bench::OpeningACombo},
     {"workbench", bench::OpeningRecordings},
+    {"docking", bench::ResizingDockedPanes},
 };
 } // namespace
 

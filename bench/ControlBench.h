@@ -21,6 +21,7 @@ bool ExportingAList();
 bool PaintingSegmentCharacters();
 bool OpeningRecordings();
 bool OpeningACombo();
+bool ResizingDockedPanes();
 
 inline void PumpAll()
 {
