@@ -2,7 +2,7 @@
 # are compiled alone without this, and so is everything where INSTRUMENT_UI_PRECOMPILE is off (the preset windows-traps).
 option(INSTRUMENT_UI_PRECOMPILE "Compile common headers once (gcc and clang)" ON)
 
-set(common_headers <afxcmn.h> <afxdlgs.h> <algorithm> <array> <functional> <map> <memory> <optional> <string> <vector>)
+set(common_headers <afxcmn.h> <afxdlgs.h> <algorithm> <array> <functional> <map> <memory> <optional> <string> <utility> <vector>)
 
 # gcc no longer knows then that a warning's place is in a system header, and warns falsely of strings' bytes.
 set(precompiled_options -Wno-array-bounds -Wno-stringop-overflow -Wno-stringop-overread -Wno-restrict)

@@ -10,9 +10,10 @@ set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/lib")
 
 find_program(CCACHE ccache)
 if(CCACHE)
-    # What makes ccache keep objects that were compiled with precompiled headers, which it reads only once then.
+    # What makes ccache keep objects that were compiled with precompiled headers, which it reads only once then. It must
+    # not preprocess: that would take the former precompiled headers for what is in the new ones.
     set(CMAKE_CXX_COMPILER_LAUNCHER "${CMAKE_COMMAND}" -E env CCACHE_SLOPPINESS=pch_defines,time_macros
-        CCACHE_INODECACHE=1 "${CCACHE}")
+        CCACHE_INODECACHE=1 CCACHE_DEPEND=1 "${CCACHE}")
     set(CMAKE_C_COMPILER_LAUNCHER "${CCACHE}")
 endif()
 
