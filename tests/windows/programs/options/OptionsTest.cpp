@@ -92,6 +92,7 @@ void Script()
     ClickTab(2);
     PROGRAM_WAIT(Sheet().GetActiveIndex() == 2);
     tests::Click(tests::Centre(Sheet().m_pageColours.GetDlgItem(IDC_DARK)->m_hWnd));
+    PROGRAM_WAIT(Sheet().m_pageColours.IsDlgButtonChecked(IDC_DARK) != 0);
     PROGRAM_WAIT(CanApply());
     Sheet().PressButton(PSBTN_APPLYNOW);
     PROGRAM_WAIT(Sheet().m_pageColours.m_nScheme == 1);
