@@ -92,10 +92,11 @@ void Script()
     ClickTab(2);
     PROGRAM_WAIT(Sheet().GetActiveIndex() == 2);
     tests::Click(tests::Centre(Sheet().m_pageColours.GetDlgItem(IDC_DARK)->m_hWnd));
+    PROGRAM_WAIT(Sheet().m_pageColours.IsDlgButtonChecked(IDC_DARK) != 0);
     PROGRAM_WAIT(CanApply());
     Sheet().PressButton(PSBTN_APPLYNOW);
-    PROGRAM_CHECK(Sheet().m_pageColours.m_nScheme == 1);
-    PROGRAM_CHECK(AfxGetApp()->GetProfileString(_T("Options"), _T("Name")) == _T("somebody"));
+    PROGRAM_WAIT(Sheet().m_pageColours.m_nScheme == 1);
+    PROGRAM_WAIT(AfxGetApp()->GetProfileString(_T("Options"), _T("Name")) == _T("somebody"));
 }
 
 ProgramTest const theTest(Prepare, Script);
