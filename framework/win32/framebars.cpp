@@ -256,7 +256,7 @@ void CFrameWnd::OnSetPreviewMode(BOOL bPreview, CPrintPreviewState * pState)
             ShowControlBar(bar, FALSE, TRUE);
         }
         m_previewClose = pState->lpfnCloseProc;
-        pState->hAccelTable = std::exchange(m_accelerators, nullptr);
+        pState->hAccelTable = std::exchange(m_hAccelTable, nullptr);
         pState->hMenu = ::GetMenu(m_hWnd);
         if (pState->hMenu != nullptr)
             ::SetMenu(m_hWnd, nullptr);
@@ -281,7 +281,7 @@ void CFrameWnd::OnSetPreviewMode(BOOL bPreview, CPrintPreviewState * pState)
         ::SetMenu(m_hWnd, pState->hMenu);
     if (!guard.Alive())
         return;
-    m_accelerators = pState->hAccelTable;
+    m_hAccelTable = pState->hAccelTable;
     for (INT_PTR at = 0; at < m_hiddenByPreview.GetSize(); ++at)
     {
         auto * const bar = DYNAMIC_DOWNCAST(CControlBar, CWnd::FromHandlePermanent(m_hiddenByPreview[at]));
