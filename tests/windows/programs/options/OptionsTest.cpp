@@ -59,7 +59,7 @@ void Script()
         told = true;
         ::PostMessage(box, WM_COMMAND, IDOK, 0);
     });
-    ClickTab(1);
+    Sheet().SetActivePage(1);
     PROGRAM_WAIT(told);
     PROGRAM_CHECK(Sheet().GetActiveIndex() == 0);
 
