@@ -281,6 +281,7 @@ bool CMainWindow::CreateParts()
            m_panel.CreatePanel(*views[part_measures], IDC_MEASURE_PANEL, m_metrics, m_settings.spectrogramScale) &&
            m_framesDivider.CreateDivider(*this, IDC_FRAMES_DIVIDER) &&
            m_status.CreateStrip(*this, IDC_STATUS_LINE, m_metrics);
+    m_tree.ShowWindow(SW_SHOWNA);
     for (auto * const view : views)
     {
         view->Fill(); // panes that have come back have their size already

@@ -7,6 +7,7 @@
 #include <fstream>
 #include <functional>
 #include <iterator>
+#include <map>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -82,13 +83,19 @@ protected:
         ASSERT_TRUE(m_window->ShowSettings());
         ASSERT_TRUE(tests::PumpUntil([this] { return IsSettingsActive(); }));
     }
-    /// A pixel of the plot's background.
+    /// The plot's background: the colour at its left that is beside the lines of the grid.
     COLORREF Ground()
     {
         Waveform().UpdateWindow();
         auto const plot = Waveform().PlotPlace();
         CClientDC dc(&Waveform());
-        return dc.GetPixel(plot.left + 4, plot.top + 3);
+        std::map<COLORREF, int> counts;
+        for (auto y = plot.top + 1; y < plot.bottom - 1; ++y)
+        {
+            ++counts[dc.GetPixel(plot.left + 4, y)];
+        }
+        auto const most = std::ranges::max_element(counts, {}, [](auto const & each) { return each.second; });
+        return most != counts.end() ? most->first : CLR_INVALID;
     }
     bool ShowsColour(COLORREF colour)
     {
