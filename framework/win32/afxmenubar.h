@@ -5,8 +5,8 @@
 
 #define AFX_IDW_MENUBAR 0xE806
 
-/// Takes the place of the frame's menu, which it goes on showing: the popups' states are asked of the frame as ever, and
-/// the windows of an MDI frame are listed. A maximised child's buttons stand at its end.
+/// Takes the place of the frame's menu, which it goes on showing: the popups' states are asked of the frame as ever,
+/// and the windows of an MDI frame are listed. A maximised child's buttons stand at its end.
 class FRAMEWORK_API CMFCMenuBar : public CMFCToolBar
 {
     DECLARE_DYNCREATE(CMFCMenuBar)

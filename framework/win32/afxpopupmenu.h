@@ -5,8 +5,8 @@
 
 #include "detail/miniframe.h"
 
-/// A menu in a window of its own. It lives on the heap and ends with its window: once something is chosen, the user goes
-/// elsewhere, or its owner ends. The focus stays where it is.
+/// A menu in a window of its own. It lives on the heap and ends with its window: once something is chosen, the user
+/// goes elsewhere, or its owner ends. The focus stays where it is.
 class FRAMEWORK_API CMFCPopupMenu : public CMiniFrameWnd
 {
     DECLARE_DYNCREATE(CMFCPopupMenu)
@@ -29,9 +29,9 @@ public:
         OUTSIDE
     };
 
-    /// Opens at that point of the screen, or at the cursor for -1, -1. hMenu stays the caller's and has to last while the
-    /// menu is open, or is null for one whose items are inserted. Commands go to pWndParent. FALSE if it has no items or
-    /// its owner ended meanwhile; the object is gone then.
+    /// Opens at that point of the screen, or at the cursor for -1, -1. hMenu stays the caller's and has to last while
+    /// the menu is open, or is null for one whose items are inserted. Commands go to pWndParent. FALSE if it has no
+    /// items or its owner ended meanwhile; the object is gone then.
     virtual BOOL Create(CWnd * pWndParent, int x, int y, HMENU hMenu, BOOL bLocked = FALSE, BOOL bOwnMessage = FALSE);
     static BOOL PASCAL ActivatePopupMenu(CFrameWnd * pTopFrame, CMFCPopupMenu * pPopupMenu);
     void CloseMenu(BOOL bSetFocusToBar = FALSE);

@@ -68,12 +68,12 @@ private:
     int TextColumn() const;
     int ShortcutColumn() const;
 
-    int m_offset;  // the first item that is shown, where there is no room for all
-    int m_visible; // how many are
+    int m_offset;               // the first item that is shown, where there is no room for all
+    int m_visible;              // how many are
     std::vector<int> m_heights; // of the items; empty until they are measured
     int m_shortcutWidth;
     int m_textWidth;
-    int m_waiting; // the item whose menu opens soon, or -1
+    int m_waiting;   // the item whose menu opens soon, or -1
     CPoint m_cursor; // where the mouse was last, on the screen
 
     DECLARE_MESSAGE_MAP()

@@ -15,8 +15,8 @@ namespace framework
 class MenuMode;
 } // namespace framework
 
-/// A bar of buttons. Commands go to its owner, states are asked of the frame in idle time. All bars share their pictures,
-/// which menus show beside the same commands, except those that are loaded locked.
+/// A bar of buttons. Commands go to its owner, states are asked of the frame in idle time. All bars share their
+/// pictures, which menus show beside the same commands, except those that are loaded locked.
 class FRAMEWORK_API CMFCToolBar : public CMFCBaseToolBar
 {
     DECLARE_DYNCREATE(CMFCToolBar)
@@ -72,8 +72,8 @@ public:
     CString GetButtonText(int nIndex) const;
     void GetButtonText(int nIndex, CString & rString) const;
     void SetToolBarBtnText(UINT nBtnIndex, LPCTSTR szText = nullptr, BOOL bShowText = TRUE, BOOL bShowImage = TRUE);
-    /// Texts beside the pictures of all buttons: those of the buttons, or what the command's string says behind its line
-    /// break.
+    /// Texts beside the pictures of all buttons: those of the buttons, or what the command's string says behind its
+    /// line break.
     void EnableTextLabels(BOOL bEnable = TRUE);
     BOOL AreTextLabels() const;
     CMFCToolBarButton * InvalidateButton(int nIndex);

@@ -21,10 +21,10 @@ public:
     CMFCToolBarButton & operator=(CMFCToolBarButton const &) = delete;
     ~CMFCToolBarButton() override;
 
-    UINT m_nID;      // the command
-    UINT m_nStyle;   // TBBS_...
-    BOOL m_bText;    // the text is shown
-    BOOL m_bImage;   // the picture is shown
+    UINT m_nID;    // the command
+    UINT m_nStyle; // TBBS_...
+    BOOL m_bText;  // the text is shown
+    BOOL m_bImage; // the picture is shown
     BOOL m_bUserButton;
     BOOL m_bTextBelow; // the text stands below the picture
     BOOL m_bWholeText;

@@ -5,9 +5,9 @@
 
 #include <vector>
 
-/// A row of pictures of one size. They are drawn in the system's present colours: in pictures of 16 or 256 colours black
-/// and the greys of a button's edges stand for those of a button. Sizes are those of the resource, at 96 dpi; what is
-/// drawn follows the screen.
+/// A row of pictures of one size. They are drawn in the system's present colours: in pictures of 16 or 256 colours
+/// black and the greys of a button's edges stand for those of a button. Sizes are those of the resource, at 96 dpi;
+/// what is drawn follows the screen.
 class FRAMEWORK_API CMFCToolBarImages : public CObject
 {
     DECLARE_DYNCREATE(CMFCToolBarImages)

@@ -75,7 +75,9 @@ wchar_t framework::MnemonicOf(CString const & text)
     return 0;
 }
 
-framework::MeasureDC::MeasureDC() : m_screen(::GetDC(nullptr)), m_previous(::SelectObject(m_screen, MenuFont().m_hObject))
+framework::MeasureDC::MeasureDC()
+    : m_screen(::GetDC(nullptr)),
+      m_previous(::SelectObject(m_screen, MenuFont().m_hObject))
 {
     m_dc.Attach(m_screen);
 }

@@ -56,8 +56,8 @@ public:
             pDC->FillSolidRect(&rect, framework::HotColour());
         int const width = ::GetSystemMetrics(SM_CXSMICON);
         int const height = ::GetSystemMetrics(SM_CYSMICON);
-        ::DrawIconEx(pDC->m_hDC, rect.left + (rect.Width() - width) / 2, rect.top + (rect.Height() - height) / 2, m_icon,
-                     width, height, 0, nullptr, DI_NORMAL);
+        ::DrawIconEx(pDC->m_hDC, rect.left + (rect.Width() - width) / 2, rect.top + (rect.Height() - height) / 2,
+                     m_icon, width, height, 0, nullptr, DI_NORMAL);
     }
 
 private:
@@ -79,8 +79,7 @@ public:
         bool const pressed = (m_nStyle & TBBS_PRESSED) != 0;
         if (pressed || bHighlight)
             pDC->FillSolidRect(&rect, pressed ? framework::PressedColour() : framework::HotColour());
-        COLORREF const colour =
-            ::GetSysColor((m_nStyle & TBBS_DISABLED) != 0 ? COLOR_GRAYTEXT : COLOR_MENUTEXT);
+        COLORREF const colour = ::GetSysColor((m_nStyle & TBBS_DISABLED) != 0 ? COLOR_GRAYTEXT : COLOR_MENUTEXT);
         CPoint const middle = rect.CenterPoint();
         int const size = Scaled(4);
         int const line = Scaled(1);
@@ -90,10 +89,12 @@ public:
             pDC->FillSolidRect(middle.x - size, middle.y + size - 2 * line, 2 * size, 2 * line, colour);
             break;
         case SC_RESTORE:
-            Outline(*pDC, CRect(middle.x - size / 2, middle.y - size, middle.x + size, middle.y + size / 2), line, colour);
+            Outline(*pDC, CRect(middle.x - size / 2, middle.y - size, middle.x + size, middle.y + size / 2), line,
+                    colour);
             pDC->FillSolidRect(middle.x - size, middle.y - size / 2, size + size / 2, size + size / 2,
                                ::GetSysColor(COLOR_BTNFACE));
-            Outline(*pDC, CRect(middle.x - size, middle.y - size / 2, middle.x + size / 2, middle.y + size), line, colour);
+            Outline(*pDC, CRect(middle.x - size, middle.y - size / 2, middle.x + size / 2, middle.y + size), line,
+                    colour);
             break;
         default:
             for (int step = -size; step <= size; ++step)
@@ -122,7 +123,12 @@ bool IsSystemCommand(UINT id)
 } // namespace
 
 CMFCMenuBar::CMFCMenuBar()
-    : m_shown(nullptr), m_default(nullptr), m_defaultId(0), m_maximised(nullptr), m_systemButtons(0), m_systemMenu(false)
+    : m_shown(nullptr),
+      m_default(nullptr),
+      m_defaultId(0),
+      m_maximised(nullptr),
+      m_systemButtons(0),
+      m_systemMenu(false)
 {
 }
 

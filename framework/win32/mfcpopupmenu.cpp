@@ -102,8 +102,8 @@ bool CMFCPopupMenu::Open(CWnd & owner, CPoint point, HMENU menu)
         return false;
     }
     CWnd * const top = m_parentPopup != nullptr ? &owner : owner.GetTopLevelParent();
-    if (!CWnd::CreateEx(WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE, nullptr, nullptr, WS_POPUP | WS_CLIPCHILDREN, point.x, point.y,
-                        0, 0, framework::SafeHandle(top), nullptr))
+    if (!CWnd::CreateEx(WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE, nullptr, nullptr, WS_POPUP | WS_CLIPCHILDREN, point.x,
+                        point.y, 0, 0, framework::SafeHandle(top), nullptr))
         return false;
     WindowGuard const guard(this);
     if (!m_bar.CreateEx(this, 0, WS_CHILD | WS_VISIBLE | CBRS_ALIGN_LEFT, CRect(0, 0, 0, 0), AFX_IDW_PANE_FIRST))
@@ -234,7 +234,8 @@ void CMFCPopupMenu::RecalcLayout(BOOL)
     CRect client;
     GetClientRect(&client);
     client.DeflateRect(Scaled(edge), Scaled(edge));
-    ::MoveWindow(m_bar.m_hWnd, client.left, client.top, std::max(client.Width(), 0), std::max(client.Height(), 0), TRUE);
+    ::MoveWindow(m_bar.m_hWnd, client.left, client.top, std::max(client.Width(), 0), std::max(client.Height(), 0),
+                 TRUE);
 }
 
 void CMFCPopupMenu::OnDestroy()
@@ -242,7 +243,8 @@ void CMFCPopupMenu::OnDestroy()
     MenuMode::Current().PopupEnds(*this);
     bool const last = MenuMode::Current().Leaf() == nullptr;
     auto * const bar = DYNAMIC_DOWNCAST(CMFCToolBar, CWnd::FromHandlePermanent(m_parentBar));
-    auto * const button = DYNAMIC_DOWNCAST(CMFCToolBarMenuButton, bar != nullptr ? bar->GetButton(m_parentIndex) : nullptr);
+    auto * const button =
+        DYNAMIC_DOWNCAST(CMFCToolBarMenuButton, bar != nullptr ? bar->GetButton(m_parentIndex) : nullptr);
     if (button != nullptr && button->m_popup == m_hWnd)
     {
         button->m_popup = nullptr;
@@ -301,7 +303,8 @@ CMFCToolBar * CMFCPopupMenu::GetParentToolBar() const
 CMFCToolBarMenuButton * CMFCPopupMenu::GetParentButton() const
 {
     CMFCToolBar const * const bar = GetParentToolBar();
-    auto * const button = DYNAMIC_DOWNCAST(CMFCToolBarMenuButton, bar != nullptr ? bar->GetButton(m_parentIndex) : nullptr);
+    auto * const button =
+        DYNAMIC_DOWNCAST(CMFCToolBarMenuButton, bar != nullptr ? bar->GetButton(m_parentIndex) : nullptr);
     return button != nullptr && button->m_popup == m_hWnd ? button : nullptr;
 }
 

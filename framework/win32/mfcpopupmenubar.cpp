@@ -62,7 +62,8 @@ CMFCPopupMenuBar::~CMFCPopupMenuBar() = default;
 
 CMFCPopupMenu * CMFCPopupMenuBar::Popup() const
 {
-    return m_hWnd != nullptr ? DYNAMIC_DOWNCAST(CMFCPopupMenu, CWnd::FromHandlePermanent(::GetParent(m_hWnd))) : nullptr;
+    return m_hWnd != nullptr ? DYNAMIC_DOWNCAST(CMFCPopupMenu, CWnd::FromHandlePermanent(::GetParent(m_hWnd)))
+                             : nullptr;
 }
 
 HWND CMFCPopupMenuBar::CommandTarget() const
@@ -221,8 +222,7 @@ void CMFCPopupMenuBar::Measure(CDC & dc)
             height = button.OnCalculateSize(&dc, GetMenuButtonSize(), FALSE).cy;
             CString const & text = button.m_strText;
             int const tab = text.Find(L'\t');
-            m_textWidth =
-                std::max<int>(m_textWidth, framework::LabelExtent(dc, tab >= 0 ? text.Left(tab) : text).cx);
+            m_textWidth = std::max<int>(m_textWidth, framework::LabelExtent(dc, tab >= 0 ? text.Left(tab) : text).cx);
             if (tab >= 0)
                 m_shortcutWidth = std::max<int>(m_shortcutWidth, framework::LabelExtent(dc, text.Mid(tab + 1)).cx);
         }

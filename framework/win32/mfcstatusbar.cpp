@@ -372,8 +372,9 @@ void CMFCStatusBar::Arrange()
     inside.DeflateRect(Scaled(1), Scaled(2));
     int const grip = HasGrip() ? ::GetSystemMetrics(SM_CXVSCROLL) : 0;
     inside.right -= grip;
-    auto const width = [](CMFCStatusBarPaneInfo const & pane)
-    { return std::max(pane.cxText, leastWidth) + 2 * Scaled(paneMargin); };
+    auto const width = [](CMFCStatusBarPaneInfo const & pane) {
+        return std::max(pane.cxText, leastWidth) + 2 * Scaled(paneMargin);
+    };
     int taken = 0;
     int stretching = 0;
     for (CMFCStatusBarPaneInfo const & pane : m_panes)
@@ -500,7 +501,8 @@ void CMFCStatusBar::OnDrawPane(CDC * pDC, CMFCStatusBarPaneInfo * pPane)
                                framework::Between(first, last, (x - rect.left) * 100 / std::max(rect.Width(), 1)));
         if (!pPane->bProgressText)
             return;
-        text.Format(L"%d%%", ::MulDiv(100, static_cast<int>(pPane->nProgressCurr), static_cast<int>(pPane->nProgressTotal)));
+        text.Format(L"%d%%",
+                    ::MulDiv(100, static_cast<int>(pPane->nProgressCurr), static_cast<int>(pPane->nProgressTotal)));
         pDC->SetBkMode(TRANSPARENT);
         // In two halves: on the bar, and on the ground.
         int const saved = pDC->SaveDC();
@@ -520,8 +522,8 @@ void CMFCStatusBar::OnDrawPane(CDC * pDC, CMFCStatusBarPaneInfo * pPane)
     {
         int const width = ::GetSystemMetrics(SM_CXSMICON);
         int const height = ::GetSystemMetrics(SM_CYSMICON);
-        ::DrawIconEx(pDC->m_hDC, rect.left, rect.top + (rect.Height() - height) / 2, pPane->hIcon, width, height, 0, nullptr,
-                     DI_NORMAL);
+        ::DrawIconEx(pDC->m_hDC, rect.left, rect.top + (rect.Height() - height) / 2, pPane->hIcon, width, height, 0,
+                     nullptr, DI_NORMAL);
         rect.left += width + Scaled(paneGap);
     }
     if (text.IsEmpty())

@@ -201,7 +201,8 @@ bool CMFCToolBar::ReadResource(UINT resource, std::vector<UINT> & commands, CSiz
     HINSTANCE const module = AfxFindResourceHandle(name, kind);
     HRSRC const found = ::FindResource(module, name, kind);
     HGLOBAL const loaded = found != nullptr ? ::LoadResource(module, found) : nullptr;
-    auto const * const start = loaded != nullptr ? static_cast<ToolBarResource const *>(::LockResource(loaded)) : nullptr;
+    auto const * const start =
+        loaded != nullptr ? static_cast<ToolBarResource const *>(::LockResource(loaded)) : nullptr;
     DWORD const size = found != nullptr ? ::SizeofResource(module, found) : 0;
     if (start == nullptr || size < sizeof *start || start->version != toolBarVersion ||
         size < sizeof *start + start->count * sizeof(WORD))
@@ -675,7 +676,8 @@ CSize CMFCToolBar::Arrange(CDC & dc, int length, bool horizontal, bool place)
         }
         if (place)
         {
-            button->SetRect(horizontal ? CRect(at, need) : CRect(at, CSize(std::max<LONG>(need.cx, inside.Width()), need.cy)));
+            button->SetRect(horizontal ? CRect(at, need)
+                                       : CRect(at, CSize(std::max<LONG>(need.cx, inside.Width()), need.cy)));
         }
         row = std::max<int>(row, horizontal ? need.cy : need.cx);
         size.cx = std::max<LONG>(size.cx, at.x + need.cx - origin.x);
@@ -781,7 +783,8 @@ int CMFCToolBar::CalcMaxButtonHeight()
     framework::MeasureDC dc;
     int height = 0;
     for (POSITION at = m_buttons.GetHeadPosition(); at != nullptr;)
-        height = std::max<int>(height, SizeOf(dc.Get(), *static_cast<CMFCToolBarButton *>(m_buttons.GetNext(at)), true).cy);
+        height =
+            std::max<int>(height, SizeOf(dc.Get(), *static_cast<CMFCToolBarButton *>(m_buttons.GetNext(at)), true).cy);
     return height;
 }
 
@@ -898,16 +901,6 @@ void CMFCToolBar::OnFillBackground(CDC * pDC)
     CRect client;
     GetClientRect(&client);
     pDC->FillSolidRect(&client, ::GetSysColor(COLOR_BTNFACE));
-    if ((GetPaneStyle() & CBRS_GRIPPER) != 0 && !IsFloating())
-    {
-        CRect grip(client);
-        grip.DeflateRect(Scaled(1), Scaled(1));
-        if (IsHorizontal())
-            grip.right = grip.left + Scaled(3);
-        else
-            grip.bottom = grip.top + Scaled(3);
-        pDC->Draw3dRect(&grip, ::GetSysColor(COLOR_BTNHIGHLIGHT), ::GetSysColor(COLOR_BTNSHADOW));
-    }
 }
 
 void CMFCToolBar::DoPaint(CDC * pDC)

@@ -618,9 +618,7 @@ void CMFCToolBarMenuButton::DrawItem(CDC & dc, CRect const & rect, CMFCToolBarIm
     bool const disabled = (m_nStyle & TBBS_DISABLED) != 0;
     bool const checked = (m_nStyle & TBBS_CHECKED) != 0;
     COLORREF const ground = ::GetSysColor(highlight ? COLOR_HIGHLIGHT : COLOR_MENU);
-    COLORREF const colour = ::GetSysColor(disabled    ? COLOR_GRAYTEXT
-                                          : highlight ? COLOR_HIGHLIGHTTEXT
-                                                      : COLOR_MENUTEXT);
+    COLORREF const colour = ::GetSysColor(disabled ? COLOR_GRAYTEXT : highlight ? COLOR_HIGHLIGHTTEXT : COLOR_MENUTEXT);
     dc.FillSolidRect(&rect, ground);
     CRect mark(rect);
     mark.right = mark.left + column.TextColumn() - Scaled(itemMargin);
@@ -630,8 +628,9 @@ void CMFCToolBarMenuButton::DrawItem(CDC & dc, CRect const & rect, CMFCToolBarIm
         CSize const size = images->GetImageSize(TRUE);
         CPoint const at(mark.left + (mark.Width() - size.cx) / 2, mark.top + (mark.Height() - size.cy) / 2);
         if (checked)
-            FillButton(dc, CRect(at.x - Scaled(2), at.y - Scaled(2), at.x + size.cx + Scaled(2), at.y + size.cy + Scaled(2)),
-                       framework::HotColour());
+            FillButton(
+                dc, CRect(at.x - Scaled(2), at.y - Scaled(2), at.x + size.cx + Scaled(2), at.y + size.cy + Scaled(2)),
+                framework::HotColour());
         images->Draw(&dc, at.x, at.y, m_iImage, FALSE, disabled);
     }
     else if (checked)
@@ -663,5 +662,6 @@ void CMFCToolBarMenuButton::DrawItem(CDC & dc, CRect const & rect, CMFCToolBarIm
     if (previous != nullptr)
         ::SelectObject(dc.m_hDC, previous);
     if (HasMenu())
-        DrawMark(dc, CRect(rect.right - Scaled(arrowWidth), rect.top, rect.right, rect.bottom), Mark::ArrowRight, colour);
+        DrawMark(dc, CRect(rect.right - Scaled(arrowWidth), rect.top, rect.right, rect.bottom), Mark::ArrowRight,
+                 colour);
 }

@@ -14,7 +14,6 @@ namespace
 constexpr SIZE usualSize{16, 15};
 constexpr COLORREF usualTransparent = RGB(192, 192, 192);
 constexpr DWORD opaque = 0xFF000000;
-constexpr int disabledAlpha = 110;
 
 /// Pixels of a bitmap of the system, top row first; freed with the object.
 class Pixels
@@ -87,6 +86,16 @@ DWORD Mapped(DWORD pixel)
 int Channel(DWORD pixel, int shift)
 {
     return static_cast<int>(pixel >> shift & 0xFF);
+}
+
+/// What is dark gets the colour of disabled texts, what is light comes near the ground.
+DWORD Greyed(DWORD pixel)
+{
+    constexpr int mostPercent = 60;
+    int const grey = (Channel(pixel, 16) * 30 + Channel(pixel, 8) * 59 + Channel(pixel, 0) * 11) / 100;
+    COLORREF const colour =
+        framework::Between(::GetSysColor(COLOR_GRAYTEXT), ::GetSysColor(COLOR_BTNFACE), grey * mostPercent / 255);
+    return (pixel & opaque) | (FromColour(colour) & ~opaque);
 }
 
 /// Multiplies the colours with what shows of them.
@@ -166,8 +175,7 @@ int CMFCToolBarImages::AddImage(HBITMAP hbmp, BOOL)
     info.bmiHeader.biBitCount = 32;
     std::vector<DWORD> pixels(static_cast<size_t>(size.cx) * static_cast<size_t>(size.cy));
     HDC const screen = ::GetDC(nullptr);
-    int const rows =
-        ::GetDIBits(screen, hbmp, 0, static_cast<UINT>(size.cy), pixels.data(), &info, DIB_RGB_COLORS);
+    int const rows = ::GetDIBits(screen, hbmp, 0, static_cast<UINT>(size.cy), pixels.data(), &info, DIB_RGB_COLORS);
     ::ReleaseDC(nullptr, screen);
     if (rows == 0)
         return -1;
@@ -251,15 +259,9 @@ std::vector<DWORD> CMFCToolBarImages::Rendered(Image const & image, CSize size, 
     {
         if (image.mapped)
             pixel = Mapped(pixel);
-        int shows = alpha;
         if (disabled)
-        {
-            // Its brightness alone, half shown.
-            int const grey = (Channel(pixel, 16) * 30 + Channel(pixel, 8) * 59 + Channel(pixel, 0) * 11) / 100;
-            pixel = (pixel & opaque) | static_cast<DWORD>(grey) * 0x010101;
-            shows = shows * disabledAlpha / 255;
-        }
-        pixel = Multiplied(pixel, shows);
+            pixel = Greyed(pixel);
+        pixel = Multiplied(pixel, alpha);
     }
     if (size == m_size)
         return source;
@@ -273,8 +275,8 @@ std::vector<DWORD> CMFCToolBarImages::Rendered(Image const & image, CSize size, 
     return result;
 }
 
-BOOL CMFCToolBarImages::Draw(CDC * pDC, int x, int y, int iImageIndex, BOOL, BOOL bDisabled, BOOL, BOOL,
-                             BOOL bInactive, BYTE alphaSrc)
+BOOL CMFCToolBarImages::Draw(CDC * pDC, int x, int y, int iImageIndex, BOOL, BOOL bDisabled, BOOL, BOOL, BOOL bInactive,
+                             BYTE alphaSrc)
 {
     if (iImageIndex < 0 || iImageIndex >= GetCount())
         return FALSE;

@@ -79,8 +79,8 @@ CMFCToolBarMenuButton * CMFCToolBar::GetDroppedDownMenu(int * pIndex) const
     int index = 0;
     for (POSITION at = m_buttons.GetHeadPosition(); at != nullptr; ++index)
     {
-        auto * const button =
-            DYNAMIC_DOWNCAST(CMFCToolBarMenuButton, const_cast<CObject *>(static_cast<CObject const *>(m_buttons.GetNext(at))));
+        auto * const button = DYNAMIC_DOWNCAST(
+            CMFCToolBarMenuButton, const_cast<CObject *>(static_cast<CObject const *>(m_buttons.GetNext(at))));
         if (button == nullptr || !button->IsDroppedDown())
             continue;
         if (pIndex != nullptr)

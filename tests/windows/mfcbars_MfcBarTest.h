@@ -1,6 +1,6 @@
 #pragma once
-// What the tests of the bars that draw themselves share: an MDI frame with a menu bar, a tool bar and a status bar, that
-// notes what it is asked.
+// What the tests of the bars that draw themselves share: an MDI frame with a menu bar, a tool bar and a status bar,
+// that notes what it is asked.
 
 #include <afxwin.h>
 #include <afxcontrolbars.h>

@@ -250,8 +250,7 @@ TEST_F(MfcMenus, TheFrameMayEndWhileAMenuIsOpen)
 TEST_F(MfcMenus, TheFrameMayPutItemsIn)
 {
     m_frame->m_updates[ID_MFC_OTHER] = [](CCmdUI * state) { state->Enable(FALSE); };
-    m_frame->m_onShowPopup = [](CMFCPopupMenu * popup)
-    {
+    m_frame->m_onShowPopup = [](CMFCPopupMenu * popup) {
         if (popup->GetMenuBar()->CommandToIndex(ID_MFC_C) < 0)
             return;
         popup->InsertItem(CMFCToolBarMenuButton(ID_MFC_INNER, nullptr, -1, L"Put in"), 0);
@@ -409,8 +408,8 @@ TEST_F(MfcMenus, AnotherWindowsActivationClosesThem)
 {
     ASSERT_NE(OpenMenu(L"&File"), nullptr);
     CWnd other;
-    ASSERT_TRUE(other.CreateEx(0, AfxRegisterWndClass(0), L"Other", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 500, 400, 200, 100,
-                               nullptr, nullptr));
+    ASSERT_TRUE(other.CreateEx(0, AfxRegisterWndClass(0), L"Other", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 500, 400, 200,
+                               100, nullptr, nullptr));
     ASSERT_TRUE(tests::BringToFront(other.m_hWnd));
     EXPECT_TRUE(tests::PumpUntil([&] { return Closed(); }));
     other.DestroyWindow();
@@ -441,8 +440,7 @@ TEST_F(MfcMenus, NamesWithoutRoomGoToAFurtherRow)
 
 TEST_F(MfcMenus, LeaveNothingBehind)
 {
-    auto const cycle = [this]
-    {
+    auto const cycle = [this] {
         CMFCPopupMenu * const popup = new CMFCPopupMenu;
         CMenu menu;
         menu.LoadMenu(IDR_MFC_MAIN);

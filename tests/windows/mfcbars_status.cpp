@@ -65,8 +65,7 @@ TEST_F(MfcStatusBars, TheBarsTextIsTheFirstPanes)
 
 TEST_F(MfcStatusBars, HandlersGiveTextsAndStates)
 {
-    m_frame->m_updates[ID_MFC_PANE] = [](CCmdUI * state)
-    {
+    m_frame->m_updates[ID_MFC_PANE] = [](CCmdUI * state) {
         state->SetText(L"48 kHz");
         state->Enable();
     };
@@ -134,8 +133,7 @@ TEST_F(MfcStatusBars, PanesHaveToolTips)
 
 TEST_F(MfcStatusBars, AHandlerMayEndTheFrame)
 {
-    m_frame->m_updates[ID_MFC_PANE] = [this](CCmdUI * state)
-    {
+    m_frame->m_updates[ID_MFC_PANE] = [this](CCmdUI * state) {
         ::DestroyWindow(m_window);
         state->SetText(L"late");
     };

@@ -18,7 +18,8 @@ protected:
     {
         CMenu menu;
         ASSERT_TRUE(menu.LoadMenu(IDR_MFC_DROP));
-        CMFCToolBarMenuButton const button(ID_MFC_C, menu.GetSubMenu(0)->m_hMenu, CMFCToolBar::GetDefaultImage(ID_MFC_C));
+        CMFCToolBarMenuButton const button(ID_MFC_C, menu.GetSubMenu(0)->m_hMenu,
+                                           CMFCToolBar::GetDefaultImage(ID_MFC_C));
         EXPECT_EQ(Tools().ReplaceButton(ID_MFC_C, button), 1);
     }
 };
@@ -286,8 +287,7 @@ TEST_F(MfcToolBars, ACommandMayTakeTheButtonsAway)
 TEST_F(MfcToolBars, AnUpdateHandlerMayEndTheFrameOrTakeButtonsAway)
 {
     m_frame->AddTools();
-    m_frame->m_updates[ID_MFC_B] = [this](CCmdUI * state)
-    {
+    m_frame->m_updates[ID_MFC_B] = [this](CCmdUI * state) {
         while (Tools().GetCount() > 1)
             Tools().RemoveButton(1);
         state->Enable(FALSE);
@@ -345,6 +345,16 @@ TEST(MfcToolBarImages, AreDrawnWithTheirTransparency)
     ::GdiFlush();
     EXPECT_EQ(pixels[0] & 0xFFFFFF, 0x0000FFu);  // seen through
     EXPECT_EQ(pixels[15] & 0xFFFFFF, 0x00FF00u); // covered
+    // Disabled, what is black has the colour of disabled texts, on any ground.
+    for (int at = 0; at < 16; ++at)
+        pixels[at] = at < 8 ? 0xFF00FF : 0;
+    ::SelectObject(dc, previous);
+    ASSERT_EQ(images.AddImage(bitmap), 1);
+    ::SelectObject(dc, bitmap);
+    EXPECT_TRUE(images.Draw(&target, 0, 0, 1, FALSE, TRUE));
+    ::GdiFlush();
+    COLORREF const grey = ::GetSysColor(COLOR_GRAYTEXT);
+    EXPECT_EQ(pixels[15] & 0xFFFFFF, static_cast<DWORD>(RGB(GetBValue(grey), GetGValue(grey), GetRValue(grey))));
     target.Detach();
     ::SelectObject(dc, previous);
     ::DeleteDC(dc);
@@ -354,8 +364,7 @@ TEST(MfcToolBarImages, AreDrawnWithTheirTransparency)
 
 TEST_F(MfcToolBars, LeaveNothingBehind)
 {
-    auto const cycle = [this]
-    {
+    auto const cycle = [this] {
         m_frame->AddTools();
         AddDropDown();
         Idle();

@@ -130,8 +130,7 @@ PaneView * PaneTest::Connected(CDockableViewPane *& pane, wchar_t const * title)
 
 std::vector<int> PaneTest::Accelerators() const
 {
-    std::vector<ACCEL> entries(
-        static_cast<size_t>(::CopyAcceleratorTable(m_frame->m_hAccelTable, nullptr, 0)));
+    std::vector<ACCEL> entries(static_cast<size_t>(::CopyAcceleratorTable(m_frame->m_hAccelTable, nullptr, 0)));
     ::CopyAcceleratorTable(m_frame->m_hAccelTable, entries.data(), static_cast<int>(entries.size()));
     std::vector<int> commands;
     for (ACCEL const & entry : entries)

@@ -1,6 +1,6 @@
 #pragma once
-// What the tests of panes share: a main frame with panes and dynamic commands, views, a registry key and a folder of the
-// test's own.
+// What the tests of panes share: a main frame with panes and dynamic commands, views, a registry key and a folder of
+// the test's own.
 
 #include <afxwin.h>
 #include <afxcontrolbars.h>

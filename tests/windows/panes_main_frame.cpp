@@ -15,7 +15,8 @@ using panes::PaneView;
 class MainFrames : public panes::PaneTest
 {
 protected:
-    int Register(unsigned short key = 0, std::function<void()> callback = [] {})
+    int Register(
+        unsigned short key = 0, std::function<void()> callback = [] {})
     {
         return m_frame->register_menu(7, L"Text", std::move(callback), key, FVIRTKEY);
     }
@@ -78,7 +79,9 @@ TEST(MainFrameInterface, StartsWithoutIdentifiers)
     auto const frame = std::make_unique<Interface>();
     EXPECT_EQ(frame->base_id(), 0u);
     EXPECT_TRUE(frame->panes().empty());
-    EXPECT_EQ(frame->register_menu(1, L"a", [] {}, 'A', FVIRTKEY), -1);
+    EXPECT_EQ(frame->register_menu(
+                  1, L"a", [] {}, 'A', FVIRTKEY),
+              -1);
     // Without a frame there are no accelerators; commands work all the same.
     frame->menu_range(5, 6);
     EXPECT_EQ(frame->register_menu(1, nullptr, {}, 'A', FVIRTKEY), 5);
@@ -184,8 +187,10 @@ TEST_F(MainFrames, CommandsHaveTheLowestFreeIdentifiers)
 
 TEST_F(MainFrames, CommandsStandBelowTheirParent)
 {
-    m_frame->register_menu(7, L"a", [] {}, 0, 0);
-    m_frame->register_menu(3, L"b", [] {}, 0, 0);
+    m_frame->register_menu(
+        7, L"a", [] {}, 0, 0);
+    m_frame->register_menu(
+        3, L"b", [] {}, 0, 0);
     ASSERT_EQ(m_frame->menu_elements().size(), 2u);
     auto const found = m_frame->menu_elements().find(3);
     ASSERT_NE(found, m_frame->menu_elements().end());
@@ -260,15 +265,13 @@ TEST_F(MainFrames, ACallbackMayReleaseItsOwnCommandAndRegisterOthers)
     int calls = 0;
     int id = 0;
     std::wstring const kept = L"a text that is too long for a short string";
-    id = Register(VK_F9,
-                  [&calls, &id, kept, this]
-                  {
-                      EXPECT_TRUE(m_frame->release_menu(id));
-                      Register();
-                      m_frame->dismiss_menu_callbacks();
-                      EXPECT_EQ(kept.size(), 42u);
-                      ++calls;
-                  });
+    id = Register(VK_F9, [&calls, &id, kept, this] {
+        EXPECT_TRUE(m_frame->release_menu(id));
+        Register();
+        m_frame->dismiss_menu_callbacks();
+        EXPECT_EQ(kept.size(), 42u);
+        ++calls;
+    });
     m_frame->menu(static_cast<unsigned int>(id));
     EXPECT_EQ(calls, 1);
 }

@@ -193,8 +193,9 @@ TEST_F(ViewPanes, APaneThatHasItsWindowKeepsItsPlace)
     CDockableViewPane * pane = nullptr;
     int const first = m_frame->register_pane(pane, -1);
     // As the workspace restores it.
-    ASSERT_TRUE(pane->Create(L"Restored", m_frame, CRect(0, 0, 200, 100), TRUE, static_cast<UINT>(first),
-                             WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | WS_CLIPCHILDREN | CBRS_BOTTOM | CBRS_FLOAT_MULTI));
+    ASSERT_TRUE(
+        pane->Create(L"Restored", m_frame, CRect(0, 0, 200, 100), TRUE, static_cast<UINT>(first),
+                     WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | WS_CLIPCHILDREN | CBRS_BOTTOM | CBRS_FLOAT_MULTI));
     CWnd const * const parent = pane->GetParent();
     bool const visible = pane->IsPaneVisible() != FALSE;
     StoreFrame(L"Scope", CRect(30, 40, 330, 240), !visible);
@@ -213,7 +214,8 @@ TEST_F(ViewPanes, NoPaneWithoutAMainFrameOfTheKind)
     int id = -1;
     CDockableViewPane * pane = nullptr;
     CWnd other;
-    ASSERT_TRUE(other.CreateEx(0, AfxRegisterWndClass(0), L"Other", WS_OVERLAPPEDWINDOW, 0, 0, 100, 100, nullptr, nullptr));
+    ASSERT_TRUE(
+        other.CreateEx(0, AfxRegisterWndClass(0), L"Other", WS_OVERLAPPEDWINDOW, 0, 0, 100, 100, nullptr, nullptr));
     tests::App().m_pMainWnd = &other;
     EXPECT_EQ(CStandaloneFrameMigrationHelper::CreatePane<PaneView>(L"Scope", id, pane), nullptr);
     EXPECT_EQ(pane, nullptr);
@@ -334,8 +336,7 @@ TEST(ViewPaneCycles, LeaveNothingBehind)
     // 200 frames with a pane each.
     MemoryPreferenceStore store;
     CVeskBase::SetPreferenceVesk(&store);
-    auto const cycle = []
-    {
+    auto const cycle = [] {
         auto * const frame = new panes::PaneFrame;
         ASSERT_TRUE(frame->Create(nullptr, L"Panes", WS_OVERLAPPEDWINDOW, CRect(60, 40, 660, 440)));
         tests::App().m_pMainWnd = frame;

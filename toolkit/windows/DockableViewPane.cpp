@@ -12,8 +12,7 @@ END_MESSAGE_MAP()
 namespace
 {
 CRect const first_place(0, 0, 200, 100);
-constexpr DWORD pane_style =
-    WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | WS_CLIPCHILDREN | CBRS_BOTTOM | CBRS_FLOAT_MULTI;
+constexpr DWORD pane_style = WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | WS_CLIPCHILDREN | CBRS_BOTTOM | CBRS_FLOAT_MULTI;
 static_assert(pane_style == 0x56008240);
 constexpr DWORD tabbed_style = AFX_CBRS_REGULAR_TABS;
 static_assert(tabbed_style == 32);

@@ -18,9 +18,10 @@ public:
     CDockableViewPane & operator=(CDockableViewPane const &) = delete;
     ~CDockableViewPane() override;
 
-    /// Creates the pane's window if the main frame has given the pane out and it has none yet, creates the view's window
-    /// in it and gives the pane that title. A view on the heap is the framework's from here on, as always; its pointer is
-    /// kept and not owned. False if the view's window could not be made; the pane then keeps the view that it had.
+    /// Creates the pane's window if the main frame has given the pane out and it has none yet, creates the view's
+    /// window in it and gives the pane that title. A view on the heap is the framework's from here on, as always; its
+    /// pointer is kept and not owned. False if the view's window could not be made; the pane then keeps the view that
+    /// it had.
     bool Connect(CView & view, wchar_t const * title);
     /// The view, or null as long as there was none. Nothing takes it back: a view that has ended still counts.
     CView * View();

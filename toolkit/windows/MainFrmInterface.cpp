@@ -20,12 +20,10 @@ constexpr int not_found = -1;
 /// The registry below the application's key. Without such a key nothing can be opened.
 registry_settings::RegistrySettingsTree ApplicationTree()
 {
-    return registry_settings::RegistrySettingsTree(
-        []() -> HKEY
-        {
-            CWinApp * const app = AfxGetApp();
-            return app != nullptr && app->m_pszRegistryKey != nullptr ? app->GetAppRegistryKey() : nullptr;
-        });
+    return registry_settings::RegistrySettingsTree([]() -> HKEY {
+        CWinApp * const app = AfxGetApp();
+        return app != nullptr && app->m_pszRegistryKey != nullptr ? app->GetAppRegistryKey() : nullptr;
+    });
 }
 
 /// The workspace's key of a pane.
@@ -82,11 +80,9 @@ int CMainFrmInterface::register_pane(CDockableViewPane *& pane, int id)
 void CMainFrmInterface::assign_panes()
 {
     registry_settings::RegistrySettingsTree tree = ApplicationTree();
-    pane_registry::Assign(m_panes, m_pane_pool, m_base_id,
-                          [&](unsigned int id) {
-                              return registry_settings::registry_key_exists(tree,
-                                                                            WorkspaceKey(reg_entry_basepanes, id));
-                          });
+    pane_registry::Assign(m_panes, m_pane_pool, m_base_id, [&](unsigned int id) {
+        return registry_settings::registry_key_exists(tree, WorkspaceKey(reg_entry_basepanes, id));
+    });
 }
 
 void CMainFrmInterface::release_orphan_panes()

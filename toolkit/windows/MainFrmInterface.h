@@ -15,11 +15,12 @@
 class CMFCPopupMenu;
 
 /// A mix-in for the host's main frame, which derives from a CMDIFrameWndEx and from this class: a pool of dockable view
-/// panes with stable identifiers, dynamic menu commands with callbacks and accelerators, and the export and import of the
-/// application's settings. The toolkit finds it by a cast from the thread's main window. For the user-interface thread.
+/// panes with stable identifiers, dynamic menu commands with callbacks and accelerators, and the export and import of
+/// the application's settings. The toolkit finds it by a cast from the thread's main window. For the user-interface
+/// thread.
 ///
-/// The host sets base_id before it asks for panes and menu_range before it registers commands, calls assign_panes before
-/// the workspace is loaded, and routes commands of its menu range to menu:
+/// The host sets base_id before it asks for panes and menu_range before it registers commands, calls assign_panes
+/// before the workspace is loaded, and routes commands of its menu range to menu:
 ///
 ///     class CMainFrame : public CMDIFrameWndEx, public CMainFrmInterface
 ///     {
@@ -50,8 +51,8 @@ public:
     virtual ~CMainFrmInterface();
 
     /// Gives a pane out and gives its identifier: the one of `id` if that is known and has no view, or else the one of
-    /// the lowest free identifier. -1 if all identifiers are taken; a pane once given out counts for good. `pane` belongs
-    /// to this object.
+    /// the lowest free identifier. -1 if all identifiers are taken; a pane once given out counts for good. `pane`
+    /// belongs to this object.
     virtual int register_pane(CDockableViewPane *& pane, int id);
 
     /// The first identifier of panes; 0 until it is set.
@@ -60,8 +61,8 @@ public:
     /// Identifier to pane.
     std::map<unsigned int, CDockableViewPane *> & panes();
 
-    /// Adds a command below `parent`, which is the host's convention, and gives its identifier; -1 if the menu range has
-    /// none left. key: its accelerator's key or character, or 0; flags: F-numbers of the window system's ACCEL.
+    /// Adds a command below `parent`, which is the host's convention, and gives its identifier; -1 if the menu range
+    /// has none left. key: its accelerator's key or character, or 0; flags: F-numbers of the window system's ACCEL.
     int register_menu(unsigned int parent, wchar_t const * text, std::function<void()> callback, unsigned short key,
                       unsigned char flags);
     /// Removes a command and its accelerator; false if it is unknown. Of a command without an accelerator the table's
@@ -75,8 +76,8 @@ public:
 
 protected:
     /// Reserves panes for all identifiers that the workspace knows, so that it can restore them. They take the pool's
-    /// objects from its start; one that is given out for a gap between them later can share an object with one of these.
-    /// That is meant.
+    /// objects from its start; one that is given out for a gap between them later can share an object with one of
+    /// these. That is meant.
     void assign_panes();
     /// Deletes what the workspace has stored of panes without a view. To be called once all owners have theirs.
     void release_orphan_panes();

@@ -32,8 +32,8 @@ public:
     /// Where a former frame of that name was, in screen pixels; what was stored of it is deleted. Empty if nothing, or
     /// not all, was there to delete.
     static CRect VeskPosition(CString const & name);
-    /// Brings the frame to the front; without one shows the pane, activates it and brings it to the front. Either may be
-    /// null.
+    /// Brings the frame to the front; without one shows the pane, activates it and brings it to the front. Either may
+    /// be null.
     static void BringWindowToTop(CStandaloneFrameWnd * frame, CDockablePane * pane);
 
 private:

@@ -4,8 +4,8 @@
 
 #include <afxwin.h>
 
-/// Whether an object still has the window that it had; an object that has lost it may be deleted. Of an object without a
-/// window nothing can be told: it counts as lost.
+/// Whether an object still has the window that it had; an object that has lost it may be deleted. Of an object without
+/// a window nothing can be told: it counts as lost.
 class WindowHold
 {
 public:

@@ -1,8 +1,8 @@
 #pragma once
 // What keys and the mouse do while menus are open. Inside framework.dll only.
 //
-// The menus of the framework's own windows have no loop of their own and leave the focus where it is: every message that
-// the thread's loop takes out of the queue is offered here first.
+// The menus of the framework's own windows have no loop of their own and leave the focus where it is: every message
+// that the thread's loop takes out of the queue is offered here first.
 
 #include <afxwin.h>
 
