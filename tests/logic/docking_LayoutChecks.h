@@ -138,9 +138,13 @@ inline void CheckLayout(DockLayout const & layout)
     for (auto const & [id, pane] : layout.Panes())
     {
         if (pane.place == DockPlace::Docked || pane.place == DockPlace::Folded)
+        {
             ASSERT_TRUE(layout.HasDockedPlace(id));
+        }
         if (pane.place == DockPlace::Floating)
+        {
             ASSERT_NE(layout.FrameOf(id), 0u);
+        }
         bool inStrip = false;
         for (auto const side : {DockSide::Left, DockSide::Top, DockSide::Right, DockSide::Bottom})
         {

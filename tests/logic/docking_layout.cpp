@@ -303,8 +303,10 @@ TEST(DockLayout, ManyOperationsLeaveASoundLayout)
         for (auto const & frame : std::vector(layout.Frames()))
         {
             if (!layout.ShownIn(frame.id).empty())
+            {
                 ASSERT_NO_FATAL_FAILURE(CheckPlan(layout, layout.Arrange(frame.id, frame.rect), frame.rect, frame.id))
                     << "step " << step;
+            }
         }
         auto const stored = DockLayout::Load(layout.Save());
         ASSERT_TRUE(stored) << "step " << step;
