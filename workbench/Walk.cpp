@@ -6,6 +6,7 @@
 
 #include "MainWindow.h"
 #include "resource.h"
+#include "windows/StandaloneFrameMigrationHelper.h"
 
 namespace
 {
@@ -246,6 +247,7 @@ bool CWalk::GoThroughPanes(std::string const & suffix)
     auto & measures = m_window.Pane(CMainWindow::part_measures);
     waveform.FloatPane(CRect(CPoint(window.right - 520, window.top + 120), CSize(460, 300)));
     measures.AttachToTabWnd(&m_window.Pane(CMainWindow::part_spectrogram), DM_SHOW, FALSE);
+    CStandaloneFrameMigrationHelper::BringWindowToTop(nullptr, &waveform);
     auto const shown = Step(("workbench-panes" + suffix).c_str());
     m_window.ResetLayout();
     return shown && waveform.IsDocked() && !measures.IsTabbed();

@@ -158,6 +158,8 @@ void CWaveformFrame::PlaceFirstTime(CRect const & area)
 {
     m_frame->FensterManager()->PreferedPosition(area);
     m_frame->FensterpositionLaden();
+    // One that had its size before it had its view has given that none.
+    m_frame->RecalcLayout();
 }
 
 void CWaveformFrame::Activate()

@@ -156,6 +156,8 @@ TEST_F(WorkbenchFrames, ComeBackAtTheirPlacesWithTheirRecordings)
     ASSERT_EQ(Frames().Frames().size(), 2U);
     EXPECT_EQ(TextOf(*Only().Frame()), L"r00004.wav");
     EXPECT_EQ(PlaceOf(*Only().Frame()), place);
+    EXPECT_GT(PlaceOf(Waveform()).Width(), 200);
+    EXPECT_GT(PlaceOf(Waveform()).Height(), 150);
     // No list of recordings is there yet.
     ASSERT_TRUE(WaitForFrames());
     EXPECT_TRUE(Waveform().ShowsRecording());
