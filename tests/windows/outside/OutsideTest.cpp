@@ -141,9 +141,7 @@ BEGIN_MESSAGE_MAP(MainFrame, CMDIFrameWndEx)
     ON_COMMAND_RANGE(first_dynamic, last_dynamic, &MainFrame::OnDynamic)
 END_MESSAGE_MAP()
 
-MainFrame::MainFrame() : CMainFrmInterface(this)
-{
-}
+MainFrame::MainFrame() : CMainFrmInterface(this) {}
 
 MainFrame::~MainFrame()
 {
@@ -198,6 +196,7 @@ std::vector<std::string> PlainView::s_made;
 int PlainView::s_live = 0;
 bool PlainView::s_refuse = false;
 std::function<void(PlainView &)> PlainView::s_onCreate;
+std::function<void(PlainView &)> PlainView::s_onUpdate;
 
 PlainView::PlainView()
 {
@@ -214,12 +213,15 @@ void PlainView::Reset()
     s_made.clear();
     s_refuse = false;
     s_onCreate = {};
+    s_onUpdate = {};
 }
 
 void PlainView::OnInitialUpdate()
 {
     ++m_initialUpdates;
     CView::OnInitialUpdate();
+    if (s_onUpdate)
+        s_onUpdate(*this);
 }
 
 int PlainView::OnCreate(LPCREATESTRUCT create)
@@ -296,12 +298,14 @@ void User::MausLDoppelKlick(unsigned int flags, CPoint point, int index)
 {
     Note(L"left " + std::to_wstring(flags) + L" " + std::to_wstring(point.x) + L" " + std::to_wstring(point.y) + L" " +
          std::to_wstring(index));
+    if (m_onClick)
+        m_onClick();
 }
 
 void User::MausRDoppelKlick(unsigned int flags, CPoint point, int index)
 {
-    Note(L"right " + std::to_wstring(flags) + L" " + std::to_wstring(point.x) + L" " + std::to_wstring(point.y) +
-         L" " + std::to_wstring(index));
+    Note(L"right " + std::to_wstring(flags) + L" " + std::to_wstring(point.x) + L" " + std::to_wstring(point.y) + L" " +
+         std::to_wstring(index));
 }
 
 void FrameTest::SetUp()

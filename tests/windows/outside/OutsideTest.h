@@ -134,6 +134,7 @@ public:
     static int s_live;
     static bool s_refuse; // OnCreate fails
     static std::function<void(PlainView &)> s_onCreate;
+    static std::function<void(PlainView &)> s_onUpdate; // called by OnInitialUpdate, as the last
 
 protected:
     PlainView();
@@ -176,12 +177,30 @@ protected:
     void PostNcDestroy() override { delete this; }
 };
 
-class Grid0 : public PlainView { DECLARE_DYNCREATE(Grid0) };
-class Grid1 : public PlainView { DECLARE_DYNCREATE(Grid1) };
-class Grid2 : public PlainView { DECLARE_DYNCREATE(Grid2) };
-class Grid3 : public PlainView { DECLARE_DYNCREATE(Grid3) };
-class Grid4 : public PlainView { DECLARE_DYNCREATE(Grid4) };
-class Grid5 : public PlainView { DECLARE_DYNCREATE(Grid5) };
+class Grid0 : public PlainView
+{
+    DECLARE_DYNCREATE(Grid0)
+};
+class Grid1 : public PlainView
+{
+    DECLARE_DYNCREATE(Grid1)
+};
+class Grid2 : public PlainView
+{
+    DECLARE_DYNCREATE(Grid2)
+};
+class Grid3 : public PlainView
+{
+    DECLARE_DYNCREATE(Grid3)
+};
+class Grid4 : public PlainView
+{
+    DECLARE_DYNCREATE(Grid4)
+};
+class Grid5 : public PlainView
+{
+    DECLARE_DYNCREATE(Grid5)
+};
 
 /// Has no dynamic creation.
 class UncreatableView : public PlainView
@@ -207,6 +226,7 @@ public:
     texts_t * m_log = nullptr; // a log that is shared with others
     bool m_callsBase = true;
     std::function<void()> m_onEnd;
+    std::function<void()> m_onClick;
 
 private:
     void Note(std::wstring const & event);

@@ -60,15 +60,17 @@ public:
 
     User * m_log = nullptr;
     bool m_refuse = false;
+    bool m_refuseClient = false;
     bool * m_gone = nullptr;
     std::vector<WPARAM> m_icons;
 
-    BOOL PreCreateWindow(CREATESTRUCT & cs) override
-    {
-        return !m_refuse && CStandaloneFrameWnd::PreCreateWindow(cs);
-    }
+    BOOL PreCreateWindow(CREATESTRUCT & cs) override { return !m_refuse && CStandaloneFrameWnd::PreCreateWindow(cs); }
 
 protected:
+    BOOL OnCreateClient(LPCREATESTRUCT lpcs, CCreateContext * pContext) override
+    {
+        return !m_refuseClient && CStandaloneFrameWnd::OnCreateClient(lpcs, pContext);
+    }
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
         if (message == WM_SETICON)
@@ -353,6 +355,22 @@ TEST_F(OutsideFrame, WhatWasMaximisedComesBackInItsNormalPlace)
     EXPECT_EQ(RectInParent(frame->m_hWnd), place);
 }
 
+TEST_F(OutsideFrame, UserCountsWhileTheViewIsMade)
+{
+    bool lives = false;
+    PlainView::s_onCreate = [&](PlainView &) { lives = m_user.FrameLebt(); };
+    Open();
+    EXPECT_TRUE(lives);
+}
+
+TEST_F(OutsideFrame, ShowsItselfFirstInTheManagersShowMode)
+{
+    auto * const frame = new CStandaloneFrameWnd;
+    frame->FensterManager()->SetShowMode(SW_SHOWMAXIMIZED);
+    ASSERT_TRUE(frame->Erzeugen(L"Scope", RUNTIME_CLASS(PlainView), usual_style));
+    EXPECT_TRUE(frame->IsZoomed());
+}
+
 // Failed creation
 
 TEST_F(OutsideFrame, ClassWithoutDynamicCreationGivesNull)
@@ -402,12 +420,53 @@ TEST_F(OutsideFrame, WindowThatIsNotMadeGivesFalse)
         delete frame;
 }
 
+TEST_F(OutsideFrame, ClientAreaThatIsRefusedEndsTheCreation)
+{
+    auto * const frame = new LoggingFrame;
+    bool gone = false;
+    frame->m_refuseClient = true;
+    frame->m_gone = &gone;
+    EXPECT_FALSE(frame->Erzeugen(L"Scope", RUNTIME_CLASS(PlainView), usual_style));
+    EXPECT_EQ(::FindWindowExW(m_main->m_hWndMDIClient, nullptr, nullptr, L"Scope"), nullptr);
+    EXPECT_TRUE(m_store.Entries(L"get").empty()); // the base class fails before the place is read
+    EXPECT_EQ(Managers::Find(L"Scope"), nullptr);
+    if (!gone)
+        delete frame;
+}
+
 TEST_F(OutsideFrame, WithoutMainWindowThereIsNoFrame)
 {
     tests::App().m_pMainWnd = nullptr;
     EXPECT_EQ(m_user.Open(L"Scope"), nullptr);
     EXPECT_FALSE(m_user.FrameLebt());
     EXPECT_EQ(PlainView::s_live, 0);
+}
+
+TEST_F(OutsideFrame, ViewThatEndsTheFrameAtItsCreationGivesNull)
+{
+    PlainView::s_onCreate = [](PlainView & view) { ::DestroyWindow(view.GetParentFrame()->m_hWnd); };
+    EXPECT_EQ(m_user.Open(L"Scope"), nullptr);
+    EXPECT_FALSE(m_user.FrameLebt());
+    EXPECT_EQ(Managers::Find(L"Scope"), nullptr);
+}
+
+TEST_F(OutsideFrame, ViewThatEndsTheFrameAtItsFirstUpdateGivesNull)
+{
+    PlainView::s_onUpdate = [](PlainView & view) { ::DestroyWindow(view.GetParentFrame()->m_hWnd); };
+    EXPECT_EQ(m_user.Open(L"Scope"), nullptr);
+    EXPECT_FALSE(m_user.FrameLebt());
+    EXPECT_EQ(m_user.m_events, texts_t{L"end"});
+    EXPECT_EQ(Managers::Find(L"Scope"), nullptr);
+}
+
+TEST_F(OutsideFrame, IconComesAfterTheFirstUpdate)
+{
+    auto * const frame = new LoggingFrame;
+    std::size_t icons = 7;
+    PlainView::s_onUpdate = [&](PlainView &) { icons = frame->m_icons.size(); };
+    ASSERT_TRUE(frame->Erzeugen(L"Scope", RUNTIME_CLASS(PlainView), usual_style));
+    EXPECT_EQ(icons, 0u);
+    EXPECT_EQ(frame->m_icons, std::vector<WPARAM>{ICON_SMALL});
 }
 
 // The end
@@ -444,9 +503,8 @@ TEST_F(OutsideFrame, PlaceIsStoredInTheOrderOfTheFormat)
     frame->MoveWindow(30, 20, 410, 260);
     m_store.m_log.clear();
     Close(frame);
-    texts_t const expected{L"set Scope-IstOffen 0 false",  L"set Scope-Gestalt 0 0",
-                           L"set Scope-Fensterpos 0 20",   L"set Scope-Fensterpos 1 30",
-                           L"set Scope-Fensterpos 2 280",  L"set Scope-Fensterpos 3 440"};
+    texts_t const expected{L"set Scope-IstOffen 0 false", L"set Scope-Gestalt 0 0",      L"set Scope-Fensterpos 0 20",
+                           L"set Scope-Fensterpos 1 30",  L"set Scope-Fensterpos 2 280", L"set Scope-Fensterpos 3 440"};
     texts_t written = m_store.Entries(L"set Scope-");
     ASSERT_EQ(written.size(), 10u);
     EXPECT_EQ(texts_t(written.begin(), written.begin() + 6), expected);
@@ -538,9 +596,12 @@ TEST_F(OutsideFrame, MaximisedFrameIsStoredSo)
     ASSERT_NE(frame, nullptr);
     frame->MDIMaximize();
     ASSERT_TRUE(frame->IsZoomed());
-    Close(frame);
+    frame->FensterpositionSpeichern();
     EXPECT_EQ(m_store.Get(L"Scope-Gestalt"), 1);
     EXPECT_EQ(m_store.Position(L"Scope"), CRect(0, 0, 500, 350));
+    m_store.m_values.clear();
+    EndMain(); // a child frame that is closed by itself may be restored by the system before
+    EXPECT_EQ(m_store.Get(L"Scope-Gestalt"), 1);
 }
 
 TEST_F(OutsideFrame, AsTabsFramesKeepTheStoredPlace)
@@ -665,6 +726,18 @@ TEST_F(OutsideFrame, UserHearsOfTheMouseStillWhileItIsToldOfTheEnd)
     };
     Close(frame);
     EXPECT_EQ(m_user.m_events, (texts_t{L"end", L"left 0 3 4 -1", L"menu 5 6"}));
+}
+
+TEST_F(OutsideFrame, DoubleClickMayEndTheFrame)
+{
+    CStandaloneFrameWnd * const frame = Open();
+    ASSERT_NE(frame, nullptr);
+    HWND const window = frame->m_hWnd;
+    m_user.m_onClick = [&] { ::DestroyWindow(window); };
+    ::SendMessageW(window, WM_LBUTTONDBLCLK, 0, MAKELPARAM(3, 4));
+    EXPECT_FALSE(::IsWindow(window));
+    EXPECT_FALSE(m_user.FrameLebt());
+    EXPECT_EQ(m_user.m_events, (texts_t{L"left 0 3 4 -1", L"end"}));
 }
 
 // Touch freeze
@@ -888,12 +961,37 @@ TEST_F(OutsideGrid, SplitterFillsTheFrameWithCellsOfAHundred)
     EXPECT_EQ(current, 100);
 }
 
-TEST_F(OutsideGrid, EveryViewIsUpdatedOnce)
+TEST_F(OutsideGrid, EveryViewIsUpdatedWhenAllAreThere)
 {
+    std::vector<PlainView *> made;
+    int before[6] = {};
+    PlainView::s_onCreate = [&](PlainView & view) {
+        made.push_back(&view);
+        for (std::size_t cell = 0; cell < made.size() && cell < 6; ++cell)
+            before[cell] = made[cell]->m_initialUpdates;
+    };
     CStandaloneFrameWnd * const frame = Grid();
     ASSERT_NE(frame, nullptr);
     for (int cell = 0; cell < 6; ++cell)
-        EXPECT_EQ(static_cast<PlainView *>(frame->GetSplitPane(cell / 3, cell % 3))->m_initialUpdates, 1);
+        EXPECT_GT(static_cast<PlainView *>(frame->GetSplitPane(cell / 3, cell % 3))->m_initialUpdates, before[cell]);
+}
+
+TEST_F(OutsideGrid, CreationSetsTheUsersFlagAgain)
+{
+    PlainView::s_onCreate = [&](PlainView &) { m_user.CStandaloneFrameUser::BeiFrameAbleben(); };
+    ASSERT_NE(Grid(), nullptr);
+    EXPECT_TRUE(m_user.FrameLebt());
+}
+
+TEST_F(OutsideGrid, EndsInItsOrderToo)
+{
+    CStandaloneFrameWnd * const frame = Grid();
+    ASSERT_NE(frame, nullptr);
+    m_user.m_log = &m_store.m_log;
+    m_store.m_log.clear();
+    frame->SendMessage(WM_CLOSE);
+    EXPECT_GE(m_store.Place(L"end"), 0);
+    EXPECT_GT(m_store.Place(L"set Grid-"), m_store.Place(L"end"));
 }
 
 TEST_F(OutsideGrid, IsAFrameLikeOthers)

@@ -44,7 +44,8 @@ protected:
     }
     int Command(unsigned short key = 0, unsigned char flags = FVIRTKEY)
     {
-        return m_frame.register_menu(parent, L"text", [] {}, key, flags);
+        return m_frame.register_menu(
+            parent, L"text", [] {}, key, flags);
     }
     void SetAccelerators(std::vector<ACCEL> entries)
     {
@@ -100,8 +101,8 @@ protected:
     static void Store(std::wstring const & name)
     {
         HKEY key = nullptr;
-        ASSERT_EQ(::RegCreateKeyExW(HKEY_CURRENT_USER, (Path(name) + L"\\inner").c_str(), 0, nullptr, 0,
-                                    KEY_ALL_ACCESS, nullptr, &key, nullptr),
+        ASSERT_EQ(::RegCreateKeyExW(HKEY_CURRENT_USER, (Path(name) + L"\\inner").c_str(), 0, nullptr, 0, KEY_ALL_ACCESS,
+                                    nullptr, &key, nullptr),
                   ERROR_SUCCESS);
         ::RegCloseKey(key);
     }
@@ -362,6 +363,32 @@ TEST_F(OutsideStoredPanes, OrphanWithoutStateIsNoMatter)
     EXPECT_TRUE(tests::App().Take().empty());
 }
 
+TEST_F(OutsideStoredPanes, OrphanWithSharedObjectIsJudgedByItsView)
+{
+    StorePane(10745);
+    m_main->assign_panes();
+    CDockableViewPane * shared = nullptr;
+    ASSERT_EQ(m_main->register_pane(shared, -1), 10742);
+    ASSERT_EQ(shared, m_main->panes().at(10745));
+    ASSERT_TRUE(shared->Connect(*static_cast<CView *>(RUNTIME_CLASS(PlainView)->CreateObject()), L"x"));
+    EXPECT_EQ(shared->GetDlgCtrlID(), 10742); // the first entry with this object
+    StorePane(10742);
+    m_main->release_orphan_panes();
+    EXPECT_TRUE(Stored(L"BasePane-10742"));
+    EXPECT_TRUE(Stored(L"BasePane-10745"));
+}
+
+TEST_F(OutsideRegistry, WithoutRegistryKeyNothingIsKnown)
+{
+    ASSERT_EQ(tests::App().m_pszRegistryKey, nullptr);
+    m_frame.base_id(base);
+    m_frame.assign_panes();
+    EXPECT_TRUE(m_frame.panes().empty());
+    Register();
+    m_frame.release_orphan_panes();
+    EXPECT_EQ(m_frame.panes().size(), 1u);
+}
+
 // Dynamic commands
 
 TEST_F(OutsideRegistry, WithoutRangeThereAreNoCommands)
@@ -393,9 +420,12 @@ TEST_F(OutsideRegistry, ElementsLeadFromTheParentToTheCommand)
 {
     m_frame.menu_range(100, 110);
     int called = 0;
-    m_frame.register_menu(8, L"eight", [] {}, 0, 0);
-    m_frame.register_menu(7, L"seven", [&] { ++called; }, 0, 0);
-    m_frame.register_menu(8, L"eight again", [] {}, 0, 0);
+    m_frame.register_menu(
+        8, L"eight", [] {}, 0, 0);
+    m_frame.register_menu(
+        7, L"seven", [&] { ++called; }, 0, 0);
+    m_frame.register_menu(
+        8, L"eight again", [] {}, 0, 0);
     auto const & elements = m_frame.menu_elements();
     ASSERT_EQ(elements.size(), 3u);
     EXPECT_EQ(elements.count(8), 2u);
@@ -414,8 +444,10 @@ TEST_F(OutsideRegistry, MenuCallsTheCommand)
 {
     m_frame.menu_range(100, 110);
     std::vector<int> called;
-    m_frame.register_menu(parent, L"a", [&] { called.push_back(1); }, 0, 0);
-    m_frame.register_menu(parent, L"b", [&] { called.push_back(2); }, 0, 0);
+    m_frame.register_menu(
+        parent, L"a", [&] { called.push_back(1); }, 0, 0);
+    m_frame.register_menu(
+        parent, L"b", [&] { called.push_back(2); }, 0, 0);
     m_frame.menu(101);
     m_frame.menu(100);
     m_frame.menu(101);
@@ -443,11 +475,30 @@ TEST_F(OutsideRegistry, CommandMayReleaseItself)
     EXPECT_TRUE(m_frame.menu_elements().empty());
 }
 
+TEST_F(OutsideRegistry, CommandMayDismissAll)
+{
+    m_frame.menu_range(100, 110);
+    auto const big = std::make_shared<std::vector<int>>(1000, 5);
+    int sum = 0;
+    m_frame.register_menu(
+        parent, L"a",
+        [this, &sum, big] {
+            m_frame.dismiss_menu_callbacks();
+            sum = static_cast<int>(big->size());
+        },
+        0, 0);
+    Command();
+    m_frame.menu(100);
+    EXPECT_EQ(sum, 1000);
+    EXPECT_TRUE(m_frame.menu_elements().empty());
+}
+
 TEST_F(OutsideRegistry, ReleasedCommandIsGone)
 {
     m_frame.menu_range(100, 110);
     int called = 0;
-    m_frame.register_menu(parent, L"a", [&] { ++called; }, 0, 0);
+    m_frame.register_menu(
+        parent, L"a", [&] { ++called; }, 0, 0);
     EXPECT_TRUE(m_frame.release_menu(100));
     EXPECT_FALSE(m_frame.release_menu(100));
     EXPECT_TRUE(m_frame.menu_elements().empty());
@@ -565,7 +616,8 @@ TEST_F(OutsideRegistry, DismissedCommandsKeepTheirAccelerators)
     m_frame.menu_range(100, 110);
     m_frame.add_menu_lookup_item(33);
     int called = 0;
-    m_frame.register_menu(parent, L"a", [&] { ++called; }, VK_F5, FVIRTKEY);
+    m_frame.register_menu(
+        parent, L"a", [&] { ++called; }, VK_F5, FVIRTKEY);
     m_frame.dismiss_menu_callbacks();
     EXPECT_TRUE(m_frame.menu_elements().empty());
     EXPECT_EQ(AcceleratorCommands(), std::vector<int>{100});
@@ -579,7 +631,8 @@ TEST_F(OutsideCommands, AcceleratorLeadsToTheCommand)
 {
     m_main->menu_range(100, 110);
     int called = 0;
-    int const id = m_main->register_menu(parent, L"a", [&] { ++called; }, VK_F9, FVIRTKEY);
+    int const id = m_main->register_menu(
+        parent, L"a", [&] { ++called; }, VK_F9, FVIRTKEY);
     m_main->PostMessage(WM_KEYDOWN, VK_F9, 1);
     EXPECT_TRUE(tests::PumpUntil([&] { return called == 1; }, std::chrono::seconds(20)));
     m_main->SendMessage(WM_COMMAND, id);

@@ -193,6 +193,9 @@ TEST_F(OutsidePane, WithoutMainWindowNothingIsCreated)
 {
     CDockableViewPane * const pane = Register();
     tests::App().m_pMainWnd = nullptr;
+    m_main->ShowWindow(SW_HIDE); // without a main window the active one would stand for it
+    ::SetActiveWindow(nullptr);
+    ASSERT_EQ(AfxGetThread()->GetMainWnd(), nullptr);
     EXPECT_FALSE(pane->Connect(*NewView(), L"Levels"));
     EXPECT_EQ(pane->GetSafeHwnd(), nullptr);
 }
@@ -236,6 +239,20 @@ TEST_F(OutsidePane, SecondViewThatRefusesLeavesTheFirst)
     EXPECT_FALSE(pane->Connect(*NewView(), L"Second"));
     EXPECT_EQ(pane->View(), first);
     EXPECT_EQ(TextOf(pane->m_hWnd), L"First");
+}
+
+TEST_F(OutsidePane, SecondViewTakesThePlaceOfTheFirst)
+{
+    CDockableViewPane * const pane = Connected(L"First");
+    CView * const first = pane->View();
+    PlainView * const second = NewView();
+    ASSERT_TRUE(pane->Connect(*second, L"Second"));
+    EXPECT_EQ(pane->View(), second);
+    EXPECT_TRUE(::IsWindow(first->m_hWnd));
+    EXPECT_EQ(TextOf(pane->m_hWnd), L"Second");
+    pane->SendMessage(WM_SIZE, SIZE_RESTORED, MAKELPARAM(300, 200));
+    EXPECT_EQ(RectInParent(second->m_hWnd), CRect(0, 0, 300, 200));
+    EXPECT_NE(RectInParent(first->m_hWnd), CRect(0, 0, 300, 200));
 }
 
 TEST_F(OutsidePane, ConnectSizesTheViewToTheWindowsRightAndBottom)
@@ -361,6 +378,17 @@ TEST_F(OutsidePane, TabFloatsByItself)
     EXPECT_TRUE(first->IsDocked());
 }
 
+TEST_F(OutsidePane, PaneThatMayNotFloatAnswersSo)
+{
+    CDockableViewPane * const pane = Connected();
+    m_main->DockPane(pane, AFX_IDW_DOCKBAR_LEFT);
+    tests::PumpPosted();
+    pane->SetControlBarStyle(AFX_CBRS_RESIZE | AFX_CBRS_CLOSE);
+    ASSERT_FALSE(pane->CanFloat());
+    EXPECT_FALSE(pane->Float(CRect(300, 200, 620, 440)));
+    EXPECT_TRUE(pane->IsDocked());
+}
+
 // What a frame has left
 
 TEST_F(OutsideMigration, NothingStoredGivesAnEmptyRectangle)
@@ -419,6 +447,14 @@ TEST_F(OutsideMigration, StoredPlaceIsMovedOntoTheScreenFirst)
     CRect expected(-450, 40, 60, 290);
     expected.OffsetRect(ClientOrigin());
     EXPECT_EQ(CStandaloneFrameMigrationHelper::VeskPosition(L"Scope"), expected);
+}
+
+TEST_F(OutsideMigration, WithSeveralScreensItIsNotMoved)
+{
+    CFensterManager::SetNurEinMonitor(false);
+    CRect const stored(-500, -40, 10, 290);
+    m_store.PutWindow(L"Scope", true, stored);
+    EXPECT_EQ(CStandaloneFrameMigrationHelper::VeskPosition(L"Scope"), stored + ClientOrigin());
 }
 
 TEST_F(OutsideMigration, WithoutStoreThereIsNothing)
@@ -528,8 +564,9 @@ TEST_F(OutsideMigration, ViewIsUpdatedBeforeTheStoreIsRead)
     int id = -1;
     CDockableViewPane * pane = nullptr;
     bool readAlready = true;
-    PlainView::s_onCreate = [&](PlainView &) { readAlready = !m_store.m_log.empty(); };
+    PlainView::s_onUpdate = [&](PlainView &) { readAlready = !m_store.m_log.empty(); };
     CStandaloneFrameMigrationHelper::CreatePane<PlainView>(L"Scope", id, pane);
+    EXPECT_FALSE(m_store.m_log.empty());
     EXPECT_FALSE(readAlready);
 }
 
@@ -623,6 +660,35 @@ TEST_F(OutsideMigration, ViewThatRefusesLeavesAFreePane)
     EXPECT_EQ(again, pane);
 }
 
+TEST_F(OutsideMigration, ClassWithoutDynamicCreationGivesNull)
+{
+    int id = -1;
+    CDockableViewPane * pane = nullptr;
+    EXPECT_EQ(CStandaloneFrameMigrationHelper::CreatePane<UncreatableView>(L"Scope", id, pane), nullptr);
+    EXPECT_EQ(id, static_cast<int>(base));
+    ASSERT_NE(pane, nullptr);
+    EXPECT_EQ(pane->View(), nullptr);
+    EXPECT_EQ(PlainView::s_live, 0);
+}
+
+TEST_F(OutsideMigration, ViewThatEndsAtItsFirstUpdateIsNotGiven)
+{
+    PlainView::s_onUpdate = [](PlainView & view) { ::DestroyWindow(view.m_hWnd); };
+    int id = -1;
+    CDockableViewPane * pane = nullptr;
+    EXPECT_EQ(CStandaloneFrameMigrationHelper::CreatePane<PlainView>(L"Scope", id, pane), nullptr);
+    EXPECT_EQ(PlainView::s_live, 0);
+}
+
+TEST_F(OutsideMigration, MainFrameMayEndWhileThePaneIsMade)
+{
+    PlainView::s_onUpdate = [this](PlainView &) { EndMain(); };
+    int id = -1;
+    CDockableViewPane * pane = nullptr;
+    EXPECT_EQ(CStandaloneFrameMigrationHelper::CreatePane<PlainView>(L"Scope", id, pane), nullptr);
+    EXPECT_TRUE(m_mainGone);
+}
+
 TEST_F(OutsideMigration, KnownPaneInUseGivesAnotherOne)
 {
     int first = -1;
@@ -668,6 +734,33 @@ TEST_F(OutsideMigration, HiddenPaneIsShown)
     CStandaloneFrameMigrationHelper::BringWindowToTop(nullptr, pane);
     EXPECT_TRUE(pane->IsWindowVisible());
     EXPECT_EQ(FloatingRect(pane), CRect(300, 200, 620, 440));
+}
+
+TEST_F(OutsideMigration, HiddenDockedPaneIsShownInItsPlace)
+{
+    CDockableViewPane * const pane = Connected();
+    m_main->DockPane(pane, AFX_IDW_DOCKBAR_LEFT);
+    tests::PumpPosted();
+    CRect const place = ScreenRect(pane->m_hWnd);
+    pane->ShowPane(FALSE, FALSE, FALSE);
+    ASSERT_FALSE(pane->IsWindowVisible());
+    CStandaloneFrameMigrationHelper::BringWindowToTop(nullptr, pane);
+    EXPECT_TRUE(pane->IsWindowVisible());
+    EXPECT_TRUE(pane->IsDocked());
+    EXPECT_EQ(ScreenRect(pane->m_hWnd), place);
+}
+
+TEST_F(OutsideMigration, TabBehindAnotherComesToTheFront)
+{
+    CDockableViewPane * const first = Connected(L"First");
+    CDockableViewPane * const second = Connected(L"Second");
+    m_main->DockPane(first, AFX_IDW_DOCKBAR_LEFT);
+    second->AttachToTabWnd(first, DM_STANDARD, TRUE);
+    tests::PumpPosted();
+    ASSERT_FALSE(first->IsWindowVisible());
+    CStandaloneFrameMigrationHelper::BringWindowToTop(nullptr, first);
+    EXPECT_TRUE(first->IsWindowVisible());
+    EXPECT_FALSE(second->IsWindowVisible());
 }
 
 TEST_F(OutsideMigration, FloatingPaneComesBeforeOthers)

@@ -110,15 +110,12 @@ public:
 
     BOOL OnInitDialog() override
     {
-        if (m_beforeInit)
-            m_beforeInit();
         BOOL const result = CPropertySheet3d::OnInitDialog();
         if (m_onInit)
             m_onInit();
         return result;
     }
 
-    std::function<void()> m_beforeInit;
     std::function<void()> m_onInit;
     int m_erased = 0;
 
@@ -159,10 +156,7 @@ protected:
         sheet.SetWindowPos(nullptr, 0, 0, rect.Width() + dx, rect.Height() + dy, SWP_NOMOVE | SWP_NOZORDER);
         tests::PumpPosted();
     }
-    static CRect ChildRect(Sheet & sheet, int id)
-    {
-        return RectInParent(::GetDlgItem(sheet.m_hWnd, id));
-    }
+    static CRect ChildRect(Sheet & sheet, int id) { return RectInParent(::GetDlgItem(sheet.m_hWnd, id)); }
     static CRect TabRect(Sheet & sheet) { return RectInParent(sheet.GetTabControl()->m_hWnd); }
     static CRect PageRect(Sheet & sheet) { return RectIn(sheet.GetActivePage()->m_hWnd, sheet.m_hWnd); }
     static std::wstring TabText(Sheet & sheet, int index)
@@ -476,17 +470,21 @@ TEST_F(OutsidePage, SizeHasThePagePaintedWholly)
     Sheet sheet;
     sheet.AddPage(&page);
     ASSERT_NE(sheet.DisplayDialog(m_main.get()), 0);
+    CRect client;
+    page.GetClientRect(&client);
     page.RedrawWindow(nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
     page.ValidateRect(nullptr);
     page.m_erased = 0;
-    CRect client;
-    page.GetClientRect(&client);
+    page.Invalidate(FALSE);
+    page.UpdateWindow();
+    int const byChildren = page.m_erased; // controls ask for their background
+    page.m_erased = 0;
     page.SendMessage(WM_SIZE, SIZE_RESTORED, MAKELPARAM(client.Width(), client.Height()));
     CRect update;
     page.GetUpdateRect(&update);
     EXPECT_EQ(update, client);
     page.UpdateWindow();
-    EXPECT_EQ(page.m_erased, 1);
+    EXPECT_EQ(page.m_erased, byChildren + 1);
     sheet.DestroyWindow();
 }
 
@@ -615,6 +613,47 @@ TEST_F(OutsideSheet, ShowsTheChosenPageFirst)
     sheet.DestroyWindow();
 }
 
+TEST_F(OutsideSheet, MayHaveAnotherParentAtTheNextOpening)
+{
+    Page page;
+    Sheet sheet;
+    sheet.AddPage(&page);
+    tests::ScopedWindow other(CRect(500, 100, 700, 300));
+    ASSERT_NE(sheet.DisplayDialog(m_main.get()), 0);
+    Close(sheet);
+    ASSERT_NE(sheet.DisplayDialog(&other), 0);
+    EXPECT_EQ(::GetWindow(sheet.m_hWnd, GW_OWNER), other.m_hWnd);
+    sheet.DestroyWindow();
+}
+
+TEST_F(OutsideSheet, MayEndWhileItOpens)
+{
+    Page page;
+    Sheet sheet;
+    sheet.AddPage(&page);
+    sheet.m_onInit = [&] { sheet.CloseDialog(); };
+    sheet.DisplayDialog(m_main.get());
+    ASSERT_TRUE(tests::PumpUntil([&] { return !sheet.IsOpen(); }));
+    sheet.m_onInit = {};
+    EXPECT_NE(sheet.DisplayDialog(m_main.get()), 0);
+    EXPECT_TRUE(sheet.IsWindowVisible());
+    sheet.DestroyWindow();
+}
+
+TEST_F(OutsideSheet, PageMayEndItWhileItOpens)
+{
+    Page page;
+    Sheet sheet;
+    sheet.AddPage(&page);
+    page.m_onInit = [&] { sheet.DestroyWindow(); };
+    sheet.DisplayDialog(m_main.get());
+    ASSERT_TRUE(tests::PumpUntil([&] { return !sheet.IsOpen(); }));
+    page.m_onInit = {};
+    EXPECT_NE(sheet.DisplayDialog(m_main.get()), 0);
+    EXPECT_TRUE(sheet.IsWindowVisible());
+    sheet.DestroyWindow();
+}
+
 TEST_F(OutsideSheet, ClosesByAPostedMessage)
 {
     Page page;
@@ -678,8 +717,7 @@ TEST_F(OutsideSheet, PlaceKeepsTheNameOfTheFirstOpening)
 TEST_F(OutsideSheet, CaptionOfTheStringTableNamesThePlace)
 {
     Page page;
-    std::unique_ptr<CPropertySheet3d> const sheet =
-        CPropertySheet3d::FromCaption(IDS_OUTSIDE_CAPTION, m_main.get(), 0);
+    std::unique_ptr<CPropertySheet3d> const sheet = CPropertySheet3d::FromCaption(IDS_OUTSIDE_CAPTION, m_main.get(), 0);
     sheet->AddPage(&page);
     ASSERT_NE(sheet->DisplayDialog(m_main.get()), 0);
     EXPECT_EQ(TextOf(sheet->m_hWnd), L"Sheet from a string");
@@ -688,7 +726,56 @@ TEST_F(OutsideSheet, CaptionOfTheStringTableNamesThePlace)
     EXPECT_TRUE(m_store.Has(L"Sheet_from_a_string-Fensterpos"));
 }
 
+TEST_F(OutsideSheet, EmptyTitleIsTakenFromTheWindow)
+{
+    Page page;
+    Sheet sheet(L"From the window");
+    sheet.AddPage(&page);
+    sheet.SetDialogTitle(L"");
+    ASSERT_NE(sheet.DisplayDialog(m_main.get()), 0);
+    EXPECT_EQ(TextOf(sheet.m_hWnd), L"From the window");
+    EXPECT_NE(Managers::Find(L"From the window"), nullptr);
+    sheet.DestroyWindow();
+}
+
 // Its place
+
+TEST_F(OutsideSheet, EndOfTheParentStoresThePlace)
+{
+    Page page;
+    Sheet sheet;
+    sheet.AddPage(&page);
+    ASSERT_NE(sheet.DisplayDialog(m_main.get()), 0);
+    CRect const place = ScreenRect(sheet.m_hWnd);
+    tests::App().m_pMainWnd = nullptr;
+    m_main->DestroyWindow();
+    EXPECT_FALSE(sheet.IsOpen());
+    EXPECT_EQ(m_store.Position(L"Settings"), place);
+}
+
+TEST_F(OutsideSheet, ResizableSheetComesBackAsLargeAsItWas)
+{
+    Page first;
+    Page second(IDD_OUTSIDE_SECOND);
+    Sheet sheet;
+    sheet.AddPage(&first);
+    sheet.AddPage(&second);
+    sheet.SetResizable(true);
+    ASSERT_NE(sheet.DisplayDialog(m_main.get()), 0);
+    Grow(sheet, 100, 70);
+    CRect const place = ScreenRect(sheet.m_hWnd);
+    CRect const page = PageRect(sheet);
+    CRect const button = ChildRect(sheet, ok_button);
+    Close(sheet);
+    ASSERT_NE(sheet.DisplayDialog(m_main.get()), 0);
+    EXPECT_EQ(ScreenRect(sheet.m_hWnd), place);
+    EXPECT_EQ(PageRect(sheet), page);
+    EXPECT_EQ(ChildRect(sheet, ok_button), button);
+    Select(sheet, 1);
+    tests::PumpPosted();
+    EXPECT_EQ(PageRect(sheet), page);
+    sheet.DestroyWindow();
+}
 
 TEST_F(OutsideSheet, ManagerComesWithTheFirstOpeningAndStays)
 {
@@ -755,10 +842,16 @@ TEST_F(OutsideSheet, ClosingStoresThePlaceAsOpen)
 TEST_F(OutsideSheet, FixedSheetTakesTheStoredPlaceWithItsOwnSize)
 {
     Page page;
+    CSize own;
+    {
+        Sheet sheet(L"Unknown");
+        sheet.AddPage(&page);
+        ASSERT_NE(sheet.DisplayDialog(m_main.get()), 0);
+        own = ScreenRect(sheet.m_hWnd).Size();
+        sheet.DestroyWindow();
+    }
     Sheet sheet;
     sheet.AddPage(&page);
-    CSize own;
-    sheet.m_beforeInit = [&] { own = ScreenRect(sheet.m_hWnd).Size(); };
     m_store.PutWindow(L"Settings", true, CRect(220, 150, 1000, 900));
     ASSERT_NE(sheet.DisplayDialog(m_main.get()), 0);
     EXPECT_EQ(ScreenRect(sheet.m_hWnd), CRect(CPoint(220, 150), own));
@@ -852,10 +945,9 @@ TEST_F(OutsideSheet, LeastSizeIsThatOfTheFirstOpening)
         Sheet sheet;
         sheet.AddPage(&page);
         sheet.SetResizable(resizable);
-        CSize design;
-        sheet.m_beforeInit = [&] { design = ScreenRect(sheet.m_hWnd).Size(); };
+        m_store.m_values.clear();
         ASSERT_NE(sheet.DisplayDialog(m_main.get()), 0);
-        CSize const first = design;
+        CSize const first = ScreenRect(sheet.m_hWnd).Size();
         MINMAXINFO limits = Limits(sheet.m_hWnd);
         EXPECT_EQ(CSize(limits.ptMinTrackSize.x, limits.ptMinTrackSize.y), first) << resizable;
         EXPECT_EQ(limits.ptMaxTrackSize.x, 7777);
@@ -867,6 +959,20 @@ TEST_F(OutsideSheet, LeastSizeIsThatOfTheFirstOpening)
         EXPECT_EQ(CSize(limits.ptMinTrackSize.x, limits.ptMinTrackSize.y), first) << resizable;
         sheet.DestroyWindow();
     }
+}
+
+TEST_F(OutsideSheet, BelowTheLeastSizeItIsLaidOutAsForThat)
+{
+    Page page;
+    Sheet sheet;
+    sheet.AddPage(&page);
+    ASSERT_NE(sheet.DisplayDialog(m_main.get()), 0);
+    CRect const shown = PageRect(sheet);
+    CRect const button = ChildRect(sheet, ok_button);
+    Grow(sheet, -40, -30);
+    EXPECT_EQ(PageRect(sheet), shown);
+    EXPECT_EQ(ChildRect(sheet, ok_button), button);
+    sheet.DestroyWindow();
 }
 
 TEST_F(OutsideSheet, OwnChildrenFollowByAllFourWays)
@@ -910,9 +1016,8 @@ TEST_F(OutsideSheet, SizeHasTheSheetPaintedWholly)
     sheet.GetClientRect(&client);
     sheet.SendMessage(WM_SIZE, SIZE_RESTORED, MAKELPARAM(client.Width(), client.Height()));
     CRect update;
-    sheet.GetUpdateRect(&update);
+    sheet.GetUpdateRect(&update, TRUE); // erases if that was asked for
     EXPECT_EQ(update, client);
-    sheet.UpdateWindow();
     EXPECT_EQ(sheet.m_erased, 1);
     sheet.DestroyWindow();
 }
@@ -933,8 +1038,8 @@ TEST_F(OutsideSheet, SelectingATabPostsOneMessage)
     Select(sheet, 1);
     EXPECT_EQ(recorder.Received().size(), 0u);
     tests::PumpPosted();
-    EXPECT_TRUE(recorder.Matches({{"sheet", new_page, tests::Way::Posted, 0, 0},
-                                  {"sheet", new_page, tests::Way::Sent, 0, 0, {}, {}, true}}));
+    EXPECT_TRUE(recorder.Matches(
+        {{"sheet", new_page, tests::Way::Posted, 0, 0}, {"sheet", new_page, tests::Way::Sent, 0, 0, {}, {}, true}}));
     EXPECT_EQ(sheet.GetActivePage(), &second);
     sheet.DestroyWindow();
 }
@@ -975,8 +1080,8 @@ TEST_F(OutsideSheet, ApplyPostsTheMessage)
     recorder.Watch(sheet.m_hWnd, "sheet");
     sheet.GetDlgItem(apply_button)->SendMessage(BM_CLICK);
     tests::PumpPosted();
-    EXPECT_TRUE(recorder.Matches({{"sheet", new_page, tests::Way::Posted, 0, 0},
-                                  {"sheet", new_page, tests::Way::Sent, 0, 0, {}, {}, true}}));
+    EXPECT_TRUE(recorder.Matches(
+        {{"sheet", new_page, tests::Way::Posted, 0, 0}, {"sheet", new_page, tests::Way::Sent, 0, 0, {}, {}, true}}));
     EXPECT_TRUE(sheet.IsOpen());
     sheet.DestroyWindow();
 }
@@ -996,6 +1101,30 @@ TEST_F(OutsideSheet, OnlyApplyPressedPostsTheMessage)
     tests::PumpPosted();
     EXPECT_TRUE(recorder.Received().empty());
     sheet.SendMessage(WM_COMMAND, MAKEWPARAM(apply_button, 0), reinterpret_cast<LPARAM>(button));
+    tests::PumpPosted();
+    EXPECT_EQ(recorder.Count("sheet", new_page), 1);
+    sheet.DestroyWindow();
+}
+
+TEST_F(OutsideSheet, NotificationOfASelectionPostsTheMessage)
+{
+    Page page;
+    Sheet sheet;
+    sheet.AddPage(&page);
+    ASSERT_NE(sheet.DisplayDialog(m_main.get()), 0);
+    tests::PumpPosted();
+    tests::MessageRecorder recorder({new_page});
+    recorder.Watch(sheet.m_hWnd, "sheet");
+    NMHDR header{sheet.GetTabControl()->m_hWnd, static_cast<UINT_PTR>(sheet.GetTabControl()->GetDlgCtrlID()),
+                 static_cast<UINT>(TCN_SELCHANGING)};
+    sheet.SendMessage(WM_NOTIFY, header.idFrom, reinterpret_cast<LPARAM>(&header));
+    header.code = static_cast<UINT>(NM_CLICK);
+    sheet.SendMessage(WM_NOTIFY, header.idFrom, reinterpret_cast<LPARAM>(&header));
+    tests::PumpPosted();
+    EXPECT_TRUE(recorder.Received().empty());
+    header.code = static_cast<UINT>(-551);
+    sheet.SendMessage(WM_NOTIFY, header.idFrom, reinterpret_cast<LPARAM>(&header));
+    EXPECT_TRUE(recorder.Received().empty());
     tests::PumpPosted();
     EXPECT_EQ(recorder.Count("sheet", new_page), 1);
     sheet.DestroyWindow();
