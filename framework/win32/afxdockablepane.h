@@ -78,8 +78,6 @@ public:
 
 protected:
     afx_msg void OnDestroy();
-    afx_msg BOOL OnEraseBkgnd(CDC * pDC);
-    afx_msg int OnMouseActivate(CWnd * pDesktopWnd, UINT nHitTest, UINT message);
     afx_msg void OnNcCalcSize(BOOL bCalcValidRects, NCCALCSIZE_PARAMS * lpncsp);
     afx_msg LRESULT OnNcHitTest(CPoint point);
     afx_msg void OnNcLButtonDblClk(UINT nHitTest, CPoint point);

@@ -14,8 +14,6 @@ IMPLEMENT_DYNCREATE(CDockablePane, CPane)
 // clang-format off
 BEGIN_MESSAGE_MAP(CDockablePane, CPane)
     ON_WM_DESTROY()
-    ON_WM_ERASEBKGND()
-    ON_WM_MOUSEACTIVATE()
     ON_WM_NCCALCSIZE()
     ON_WM_NCHITTEST()
     ON_WM_NCLBUTTONDBLCLK()
@@ -361,11 +359,6 @@ BOOL CDockablePane::LoadState(LPCTSTR lpszProfileName, int nIndex, UINT uiID)
 
 // Caption
 
-BOOL CDockablePane::OnEraseBkgnd(CDC * pDC)
-{
-    return CPane::OnEraseBkgnd(pDC);
-}
-
 void CDockablePane::OnNcCalcSize(BOOL, NCCALCSIZE_PARAMS * lpncsp)
 {
     RECT & rect = lpncsp->rgrc[0];
@@ -435,11 +428,6 @@ int CDockablePane::HitTest(CPoint point, BOOL bDetectCaption)
             return static_cast<int>(hit);
     }
     return bDetectCaption ? HTCAPTION : HTNOWHERE;
-}
-
-int CDockablePane::OnMouseActivate(CWnd * pDesktopWnd, UINT nHitTest, UINT message)
-{
-    return CPane::OnMouseActivate(pDesktopWnd, nHitTest, message);
 }
 
 void CDockablePane::OnNcLButtonDown(UINT, CPoint point)

@@ -339,7 +339,7 @@ void DockHost::Renumber()
 
 // Placing
 
-void DockHost::Move(HDWP & moving, CWnd & window, CRect const & rect, bool show)
+void DockHost::Move(std::vector<WINDOWPOS> & moves, CWnd & window, CRect const & rect, bool show)
 {
     bool const shows = Shows(window.m_hWnd);
     bool const placed = PlaceOf(window) == rect;
@@ -349,9 +349,26 @@ void DockHost::Move(HDWP & moving, CWnd & window, CRect const & rect, bool show)
                        (shows == show ? 0u
                         : show        ? static_cast<UINT>(SWP_SHOWWINDOW)
                                       : SWP_HIDEWINDOW);
+    moves.push_back(WINDOWPOS{window.m_hWnd, nullptr, rect.left, rect.top, rect.Width(), rect.Height(), flags});
+}
+
+/// All in one pass, in the order of the windows, after what is deferred already.
+void DockHost::MoveAll(CWnd const & parent, std::vector<WINDOWPOS> & moves, HDWP moving)
+{
+    std::map<HWND, int> order;
+    for (HWND child = ::GetWindow(parent.m_hWnd, GW_CHILD); child != nullptr; child = ::GetWindow(child, GW_HWNDNEXT))
+        order.emplace(child, static_cast<int>(order.size()));
+    std::sort(moves.begin(), moves.end(),
+              [&](WINDOWPOS const & one, WINDOWPOS const & other) { return order[one.hwnd] < order[other.hwnd]; });
+    if (moving == nullptr && !moves.empty())
+        moving = ::BeginDeferWindowPos(static_cast<int>(moves.size()));
+    for (WINDOWPOS const & move : moves)
+    {
+        if (moving != nullptr)
+            moving = ::DeferWindowPos(moving, move.hwnd, nullptr, move.x, move.y, move.cx, move.cy, move.flags);
+    }
     if (moving != nullptr)
-        moving =
-            ::DeferWindowPos(moving, window.m_hWnd, nullptr, rect.left, rect.top, rect.Width(), rect.Height(), flags);
+        ::EndDeferWindowPos(moving);
 }
 
 CPaneDivider * DockHost::Divider(UINT frame, size_t index)
@@ -373,7 +390,7 @@ CPaneDivider * DockHost::Divider(UINT frame, size_t index)
     return made && life && guard.Alive() ? divider : nullptr;
 }
 
-bool DockHost::ArrangeWindows(UINT frame, DockPlan const & plan, HDWP & moving)
+bool DockHost::ArrangeWindows(UINT frame, DockPlan const & plan, std::vector<WINDOWPOS> & moves)
 {
     Life const life(*this);
     for (DockPlan::Group const & group : plan.groups)
@@ -381,7 +398,7 @@ bool DockHost::ArrangeWindows(UINT frame, DockPlan const & plan, HDWP & moving)
         CDockablePane * const window = group.panes.size() > 1 ? Tabbed(group.id) : Pane(group.active);
         if (window == nullptr || window->m_hWnd == nullptr)
             return false;
-        Move(moving, *window, group.rect, true);
+        Move(moves, *window, group.rect, true);
     }
     for (size_t at = 0; at < plan.dividers.size(); ++at)
     {
@@ -392,11 +409,11 @@ bool DockHost::ArrangeWindows(UINT frame, DockPlan const & plan, HDWP & moving)
         divider->m_splitId = wanted.split;
         divider->m_index = wanted.index;
         divider->m_horizontal = !wanted.across;
-        Move(moving, *divider, wanted.rect, true);
+        Move(moves, *divider, wanted.rect, true);
     }
     std::vector<CPaneDivider *> const & dividers = m_dividers[frame];
     for (size_t at = plan.dividers.size(); at < dividers.size(); ++at)
-        Move(moving, *dividers[at], CRect(0, 0, 0, 0), false);
+        Move(moves, *dividers[at], CRect(0, 0, 0, 0), false);
     return true;
 }
 
@@ -411,15 +428,14 @@ bool DockHost::ArrangeTabs(CTabbedPane & tabbed, DockPlan::Group const & group)
         rect.bottom = strip.top;
     else
         rect.top = strip.bottom;
-    HDWP moving = ::BeginDeferWindowPos(static_cast<int>(group.panes.size()));
+    std::vector<WINDOWPOS> moves;
     for (UINT const id : group.panes)
     {
         CDockablePane * const pane = Pane(id);
         if (pane != nullptr && pane->m_hWnd != nullptr)
-            Move(moving, *pane, rect, id == group.active);
+            Move(moves, *pane, rect, id == group.active);
     }
-    if (moving != nullptr)
-        ::EndDeferWindowPos(moving);
+    MoveAll(tabbed, moves, nullptr);
     if (!life || m_again)
         return false;
     // Which tabs there are, and which is in front, may be all that has changed.
@@ -435,7 +451,7 @@ bool DockHost::ArrangeTabs(CTabbedPane & tabbed, DockPlan::Group const & group)
     return true;
 }
 
-bool DockHost::PlaceStrips(CRect & space, HDWP & moving)
+bool DockHost::PlaceStrips(CRect & space, std::vector<WINDOWPOS> & moves)
 {
     Life const life(*this);
     for (DockSide const side : {DockSide::Left, DockSide::Top, DockSide::Right, DockSide::Bottom})
@@ -445,7 +461,7 @@ bool DockHost::PlaceStrips(CRect & space, HDWP & moving)
         if (folded.empty())
         {
             if (strip != nullptr)
-                Move(moving, *strip, CRect(0, 0, 0, 0), false);
+                Move(moves, *strip, CRect(0, 0, 0, 0), false);
             continue;
         }
         if (strip == nullptr)
@@ -478,7 +494,7 @@ bool DockHost::PlaceStrips(CRect & space, HDWP & moving)
             rect.top = space.bottom = rect.bottom - thickness;
             break;
         }
-        Move(moving, *strip, rect, true);
+        Move(moves, *strip, rect, true);
         if (strip->m_shown != folded || strip->m_shownSlid != m_slid)
         {
             strip->m_shown = folded;
@@ -520,30 +536,25 @@ bool DockHost::ArrangeMain()
     space.DeflateRect(border);
     space.right = std::max(space.left, space.right);
     space.bottom = std::max(space.top, space.bottom);
-    HDWP moving = bars.hDWP;
-    if (!PlaceStrips(space, moving))
+    std::vector<WINDOWPOS> moves;
+    if (!PlaceStrips(space, moves))
         return false;
     m_space = space;
     DockPlan const plan = m_layout.Arrange(0, space);
     m_plans[0] = plan;
     m_centre = plan.centre.value_or(CRect(0, 0, 0, 0));
-    if (!ArrangeWindows(0, plan, moving))
-    {
-        if (life && moving != nullptr)
-            ::EndDeferWindowPos(moving);
+    if (!ArrangeWindows(0, plan, moves))
         return false;
-    }
-    if (::IsWindow(centre) && moving != nullptr)
+    if (::IsWindow(centre))
     {
         CRect present;
         ::GetWindowRect(centre, &present);
         ::MapWindowPoints(nullptr, m_frame.m_hWnd, reinterpret_cast<POINT *>(&present), 2);
         if (present != m_centre)
-            moving = ::DeferWindowPos(moving, centre, nullptr, m_centre.left, m_centre.top, m_centre.Width(),
-                                      m_centre.Height(), SWP_NOACTIVATE | SWP_NOZORDER);
+            moves.push_back(WINDOWPOS{centre, nullptr, m_centre.left, m_centre.top, m_centre.Width(), m_centre.Height(),
+                                      SWP_NOACTIVATE | SWP_NOZORDER});
     }
-    if (moving != nullptr)
-        ::EndDeferWindowPos(moving);
+    MoveAll(m_frame, moves, bars.hDWP);
     if (!life || m_again)
         return false;
     for (DockPlan::Group const & group : plan.groups)
@@ -587,10 +598,10 @@ bool DockHost::ArrangeFloating(UINT frame)
     Life const life(*this);
     DockPlan const plan = m_layout.Arrange(frame, SpaceOf(frame));
     m_plans[frame] = plan;
-    HDWP moving = ::BeginDeferWindowPos(static_cast<int>(2 * plan.groups.size()) + 2);
-    bool const placed = ArrangeWindows(frame, plan, moving);
-    if (life && moving != nullptr)
-        ::EndDeferWindowPos(moving);
+    std::vector<WINDOWPOS> moves;
+    bool const placed = ArrangeWindows(frame, plan, moves);
+    if (placed && life)
+        MoveAll(*mini, moves, nullptr);
     if (!placed || !life || m_again)
         return false;
     for (DockPlan::Group const & group : plan.groups)
@@ -634,7 +645,8 @@ bool DockHost::PlaceSlid()
     CSize const least = LeastSize(*pane, m_sizes);
     // As it was docked, but not over more than half of the others: it may have been docked at another side.
     int const width = std::min(rect.Width(), std::max<int>(std::min<int>(known->size.cx, rect.Width() / 2), least.cx));
-    int const height = std::min(rect.Height(), std::max<int>(std::min<int>(known->size.cy, rect.Height() / 2), least.cy));
+    int const height =
+        std::min(rect.Height(), std::max<int>(std::min<int>(known->size.cy, rect.Height() / 2), least.cy));
     switch (known->foldSide)
     {
     case DockSide::Left:

@@ -82,6 +82,7 @@ LRESULT CMDIFrameWndEx::HandleSettingChange(WPARAM, LPARAM)
     LRESULT const result = Default();
     if (guard.Alive() && m_impl.Host() != nullptr)
     {
+        framework::RefreshPaneFont();
         m_impl.Host()->MeasureAgain();
         m_impl.Host()->Arrange();
     }
@@ -317,6 +318,7 @@ LRESULT CFrameWndEx::HandleSettingChange(WPARAM, LPARAM)
     LRESULT const result = Default();
     if (guard.Alive() && m_impl.Host() != nullptr)
     {
+        framework::RefreshPaneFont();
         m_impl.Host()->MeasureAgain();
         m_impl.Host()->Arrange();
     }

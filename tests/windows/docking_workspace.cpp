@@ -274,7 +274,9 @@ CHILD_PROGRAM(SavesWorkspaces)
     for (unsigned number = 0;; number = (number + 1) % 64)
     {
         Arrange(program, number);
-        program.App().SaveState(&program.Frame());
+        // So often that the child is mostly killed while it saves.
+        for (int save = 0; save < 40; ++save)
+            program.App().SaveState(&program.Frame());
         ::SetEvent(started);
     }
 }
@@ -295,7 +297,7 @@ TEST_F(Workspace, AKillAtAnyInstantLeavesOneOfTheArrangements)
         }
     }
     std::mt19937 random(5);
-    for (int kill = 0; kill < 12; ++kill)
+    for (int kill = 0; kill < 20; ++kill)
     {
         Forget();
         CString name;

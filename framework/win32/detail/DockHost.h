@@ -19,7 +19,8 @@ namespace framework
 {
 class DockDrag;
 
-extern UINT const arrangeMessage; // to a frame: its panes are laid out anew
+constexpr UINT firstOwnId = 0x10000;    // of panes whose identifier another has
+extern UINT const arrangeMessage;       // to a frame: its panes are laid out anew
 constexpr UINT_PTR slideWatchTimer = 2; // of a strip, while a pane of it is shown
 
 /// Sizes that follow from the system's fonts and their resolution.
@@ -169,14 +170,15 @@ private:
     bool ArrangeFrames();
     bool ArrangeFloating(UINT frame);
     void Renumber();
-    bool ArrangeWindows(UINT frame, DockPlan const & plan, HDWP & moving);
+    bool ArrangeWindows(UINT frame, DockPlan const & plan, std::vector<WINDOWPOS> & moves);
     bool ArrangeTabs(CTabbedPane & tabbed, DockPlan::Group const & group);
-    bool PlaceStrips(CRect & space, HDWP & moving);
+    bool PlaceStrips(CRect & space, std::vector<WINDOWPOS> & moves);
     bool PlaceSlid();
     bool HideRest();
     bool Adopt(CDockablePane & pane, CWnd & parent);
     bool SetCaption(CDockablePane & pane, bool shown);
-    void Move(HDWP & moving, CWnd & window, CRect const & rect, bool show);
+    void Move(std::vector<WINDOWPOS> & moves, CWnd & window, CRect const & rect, bool show);
+    static void MoveAll(CWnd const & parent, std::vector<WINDOWPOS> & moves, HDWP moving);
     CPaneDivider * Divider(UINT frame, size_t index);
     void Notify(DockContent const & content, bool floated, AFX_DOCK_METHOD method);
     std::vector<UINT> PanesOf(DockContent const & content) const;
@@ -244,6 +246,8 @@ std::vector<CRect> TabRects(CTabbedPane const & tabbed, std::vector<CDockablePan
 CSize LeastSize(CDockablePane const & pane, DockSizes const & sizes);
 /// Selects the font of captions and tabs; gives the former one.
 CFont * SelectPaneFont(CDC & dc);
+/// The user has chosen another.
+void RefreshPaneFont();
 DockSide SideOf(DWORD alignment, DockSide otherwise);
 DWORD AlignmentOf(DockSide side);
 } // namespace framework
