@@ -489,6 +489,7 @@ void CMFCPopupMenuBar::OnMouseMove(UINT, CPoint point)
 
 void CMFCPopupMenuBar::OnMouseLeave()
 {
+    m_cursor = CPoint(-1, -1); // if it comes back to the same place, that is a movement
     // An item stays highlighted while its menu is open.
     int open = -1;
     GetDroppedDownMenu(&open);
