@@ -49,8 +49,7 @@ BOOL CHostView::OnEraseBkgnd(CDC * dc)
 /// In the main window itself there are several views, of which none is the active one.
 int CHostView::OnMouseActivate(CWnd * top, UINT hit, UINT message)
 {
-    return IsInMainWindow() ? CWnd::OnMouseActivate(top, hit, message)
-                                               : CView::OnMouseActivate(top, hit, message);
+    return IsInMainWindow() ? CWnd::OnMouseActivate(top, hit, message) : CView::OnMouseActivate(top, hit, message);
 }
 
 /// Whether it lies in the main window itself, and not in a frame or a pane that floats.

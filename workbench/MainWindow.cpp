@@ -139,7 +139,8 @@ bool CMainWindow::CreateMainWindow()
 
     CRect work;
     ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
-    auto const folders = m_settings.folderPane.value_or(HasRoomForFolders()) ? FolderPaneWidth() + m_metrics.X(c_dividerGap) : 0;
+    auto const folders =
+        m_settings.folderPane.value_or(HasRoomForFolders()) ? FolderPaneWidth() + m_metrics.X(c_dividerGap) : 0;
     auto const limit = m_metrics.X(c_preferredWidthLimit) + folders;
     auto const width = std::max<int>(std::min(work.Width() * c_preferredPercent / 100, limit), m_leastSize.cx);
     auto const height = std::max<int>(
@@ -273,14 +274,15 @@ bool CMainWindow::CreateParts()
         }
     }
     auto * const list = new CHostView; // ends with its window
-    auto const created = list->Create(nullptr, nullptr, WS_CHILD | WS_VISIBLE, CRect(), this, AFX_IDW_PANE_FIRST) &&
-           m_list.CreateList(*list, IDC_RECORDINGS, m_metrics) &&
-           m_tree.CreateTree(*views[part_folders], IDC_FOLDERS, m_metrics) &&
-           m_waveformPanel.CreatePanel(*views[part_waveform], IDC_WAVEFORM_PANEL, m_metrics) &&
-           m_spectrogram.CreateView(*views[part_spectrogram], IDC_SPECTROGRAM, m_metrics) &&
-           m_panel.CreatePanel(*views[part_measures], IDC_MEASURE_PANEL, m_metrics, m_settings.spectrogramScale) &&
-           m_framesDivider.CreateDivider(*this, IDC_FRAMES_DIVIDER) &&
-           m_status.CreateStrip(*this, IDC_STATUS_LINE, m_metrics);
+    auto const created =
+        list->Create(nullptr, nullptr, WS_CHILD | WS_VISIBLE, CRect(), this, AFX_IDW_PANE_FIRST) &&
+        m_list.CreateList(*list, IDC_RECORDINGS, m_metrics) &&
+        m_tree.CreateTree(*views[part_folders], IDC_FOLDERS, m_metrics) &&
+        m_waveformPanel.CreatePanel(*views[part_waveform], IDC_WAVEFORM_PANEL, m_metrics) &&
+        m_spectrogram.CreateView(*views[part_spectrogram], IDC_SPECTROGRAM, m_metrics) &&
+        m_panel.CreatePanel(*views[part_measures], IDC_MEASURE_PANEL, m_metrics, m_settings.spectrogramScale) &&
+        m_framesDivider.CreateDivider(*this, IDC_FRAMES_DIVIDER) &&
+        m_status.CreateStrip(*this, IDC_STATUS_LINE, m_metrics);
     m_tree.ShowWindow(SW_SHOWNA);
     for (auto * const view : views)
     {
@@ -546,8 +548,8 @@ void CMainWindow::OnActivate(UINT state, CWnd * other, BOOL minimized)
     }
 }
 
-/// Puts dialogs and floating panes above the window again, in their order. Windows never lets them fall behind their owner, other
-/// systems do when it is activated: a click raises it a little later, without a message that says so.
+/// Puts dialogs and floating panes above the window again, in their order. Windows never lets them fall behind their
+/// owner, other systems do when it is activated: a click raises it a little later, without a message that says so.
 LRESULT CMainWindow::OnRaiseDialogs(WPARAM, LPARAM)
 {
     std::vector<HWND> below;

@@ -34,8 +34,8 @@
 #include "windows/FensterManager.h"
 #include "windows/MainFrmInterface.h"
 
-/// The workbench's main window: the list of recordings, the waveform of the chosen one, the frames with other waveforms,
-/// and the commands. The object is its owner's, and lasts longer than the window.
+/// The workbench's main window: the list of recordings, the waveform of the chosen one, the frames with other
+/// waveforms, and the commands. The object is its owner's, and lasts longer than the window.
 class CMainWindow : public CMDIFrameWndEx, public CMainFrmInterface
 {
 public:
@@ -288,7 +288,7 @@ private:
     CPreviewDialog m_preview;
     workbench::Settings m_settings;
     CWaveformFrames m_frames;
-    CSize m_leastSize = CSize(0, 0); ///< of the window
+    CSize m_leastSize = CSize(0, 0);                       ///< of the window
     std::array<CDockableViewPane *, part_count> m_panes{}; ///< null until they are made
     static constexpr unsigned window_menu = 1;             ///< as dynamic commands know it
     std::array<UINT, part_count> m_paneCommands{};         ///< that show and hide the panes

@@ -103,8 +103,9 @@ void CMainWindow::PreparePaneMenu()
         auto const part = static_cast<Part>(index);
         CString text;
         text.Format(L"%s\t%s%d", Text(NameOf(part)), Text(L"Ctrl+"), index + 1);
-        auto const id = register_menu(window_menu, text, [this, part] { ShowPane(part, !ShowsPane(part)); },
-                                      static_cast<unsigned short>(L'1' + index), FVIRTKEY | FCONTROL | FNOINVERT);
+        auto const id = register_menu(
+            window_menu, text, [this, part] { ShowPane(part, !ShowsPane(part)); },
+            static_cast<unsigned short>(L'1' + index), FVIRTKEY | FCONTROL | FNOINVERT);
         if (id >= 0)
         {
             m_paneCommands[index] = static_cast<UINT>(id);
@@ -463,5 +464,7 @@ void CMainWindow::OnInitMenuPopup(CMenu * menu, UINT index, BOOL systemMenu)
         menu->CheckMenuItem(m_paneCommands[part],
                             MF_BYCOMMAND | (ShowsPane(static_cast<Part>(part)) ? MF_CHECKED : MF_UNCHECKED));
     }
-    enable(ID_CLOSE_DIALOGS, m_frames.AnyOpen() || std::ranges::any_of(OwnedWindows(), [](auto const * window) { return window->GetSafeHwnd() != nullptr; }));
+    enable(ID_CLOSE_DIALOGS, m_frames.AnyOpen() || std::ranges::any_of(OwnedWindows(), [](auto const * window) {
+                                 return window->GetSafeHwnd() != nullptr;
+                             }));
 }

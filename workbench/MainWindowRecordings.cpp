@@ -708,7 +708,8 @@ bool CMainWindow::CompareFour()
          row < m_list.LineCount() && recordings.size() < most; ++row)
     {
         auto const line = m_list.LineAt(row);
-        if (auto const * const recording = RecordingAt(line); recording != nullptr && (!anyMarked || m_list.IsChecked(line)))
+        if (auto const * const recording = RecordingAt(line);
+            recording != nullptr && (!anyMarked || m_list.IsChecked(line)))
         {
             recordings.push_back({recording->file, recording->analysis});
         }

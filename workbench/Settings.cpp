@@ -43,7 +43,7 @@ constexpr wchar_t c_exportHidden[] = L"ExportHidden";
 constexpr wchar_t c_exportLines[] = L"ExportLines";
 constexpr wchar_t c_settingsPage[] = L"SettingsPage";
 
-constexpr int c_mostPages = 100; // more than the settings have
+constexpr int c_mostPages = 100;   // more than the settings have
 constexpr int c_mostColumns = 100; // more than any list of the workbench has
 constexpr int c_lineChoices = 3;
 
@@ -127,7 +127,7 @@ bool StoreSettings(Settings const & settings)
            WriteText(c_cursorColour, ColourText(settings.waveform.cursor)) &&
            StoreAmplification(settings.amplification) &&
            WriteText(c_hiddenColumns, NumberText(settings.hiddenColumns)) && StoreFolderPane(settings) &&
-           StoreFrameShare(settings.frameShare) &&            WriteText(c_exportFile, settings.exportFile.wstring()) &&
+           StoreFrameShare(settings.frameShare) && WriteText(c_exportFile, settings.exportFile.wstring()) &&
            WriteText(c_exportHidden, NumberText(settings.exportHidden)) &&
            app.WriteProfileInt(c_section, c_exportLines, settings.exportLines);
 }

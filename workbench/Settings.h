@@ -35,7 +35,7 @@ struct Settings
     std::set<int> exportHidden;       ///< columns that are not exported
     int exportLines = 0;              ///< a number of CExportDialog's
 
-    int frameShare = 50;              ///< of the window's width that frames have while any are open, in percent
+    int frameShare = 50; ///< of the window's width that frames have while any are open, in percent
 
     /// The limits of the width of the folders.
     static constexpr int least_pane_width = 10;

@@ -210,9 +210,9 @@ CWaveformPanelView * CWaveformFrame::Cell(std::size_t cell) const
     {
         return nullptr;
     }
-    auto * const view =
-        m_cells == 1 ? m_frame->GetDescendantWindow(AFX_IDW_PANE_FIRST, TRUE)
-                     : m_frame->GetSplitPane(static_cast<int>(cell / c_gridWidth), static_cast<int>(cell % c_gridWidth));
+    auto * const view = m_cells == 1 ? m_frame->GetDescendantWindow(AFX_IDW_PANE_FIRST, TRUE)
+                                     : m_frame->GetSplitPane(static_cast<int>(cell / c_gridWidth),
+                                                             static_cast<int>(cell % c_gridWidth));
     return DYNAMIC_DOWNCAST(CWaveformPanelView, view);
 }
 

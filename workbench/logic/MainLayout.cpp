@@ -19,10 +19,10 @@ constexpr int c_panes = 3; // below the list
 
 CSize LeastMainArea(MainLayoutNeeds const & needs, int listWidth)
 {
-    return CSize(2 * needs.marginX + listWidth,
-                 2 * needs.marginY + needs.listHeight + needs.waveformHeight + needs.spectrogramHeight +
-                     needs.panelHeight + c_panes * (needs.captionHeight + needs.dividerGap) + needs.spacing +
-                     needs.statusHeight);
+    return CSize(2 * needs.marginX + listWidth, 2 * needs.marginY + needs.listHeight + needs.waveformHeight +
+                                                    needs.spectrogramHeight + needs.panelHeight +
+                                                    c_panes * (needs.captionHeight + needs.dividerGap) + needs.spacing +
+                                                    needs.statusHeight);
 }
 
 MainLayout LayOutMain(MainLayoutNeeds const & needs)
