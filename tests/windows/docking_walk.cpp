@@ -145,7 +145,6 @@ protected:
 
 TEST_F(DockWalk, TwoThousandOperationsLeaveEveryPaneInItsPlace)
 {
-    ShowFrame();
     for (int count = 0; count < 10; ++count)
     {
         NewPane();
