@@ -13,6 +13,7 @@
 #include "windows/StandaloneFrameMigrationHelper.h"
 
 using workbench::Text;
+using workbench::Translatable;
 
 namespace
 {
@@ -234,13 +235,13 @@ wchar_t const * CMainWindow::NameOf(Part part)
     switch (part)
     {
     case part_folders:
-        return L"Folders";
+        return Translatable(L"Folders");
     case part_waveform:
-        return L"Waveform";
+        return Translatable(L"Waveform");
     case part_spectrogram:
-        return L"Spectrogram";
+        return Translatable(L"Spectrogram");
     default:
-        return L"Measures";
+        return Translatable(L"Measures");
     }
 }
 

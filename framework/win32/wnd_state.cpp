@@ -24,6 +24,18 @@ void ReadText(HWND window, CString & text)
     ::GetWindowText(window, text.GetBufferSetLength(length), length + 1);
     text.ReleaseBuffer();
 }
+
+/// Whether no part of the dialog that the window stands in is hidden or disabled.
+bool CanBeReached(HWND dialog, HWND window)
+{
+    for (HWND part = window; part != dialog && part != nullptr; part = ::GetAncestor(part, GA_PARENT))
+    {
+        auto const style = static_cast<DWORD>(::GetWindowLongPtr(part, GWL_STYLE));
+        if (part != window && (style & (WS_VISIBLE | WS_DISABLED)) != WS_VISIBLE)
+            return false;
+    }
+    return true;
+}
 } // namespace
 
 DWORD CWnd::GetStyle() const
@@ -320,6 +332,14 @@ BOOL CWnd::SendNotifyMessage(UINT message, WPARAM wParam, LPARAM lParam)
 
 BOOL CWnd::IsDialogMessage(LPMSG lpMsg)
 {
+    // Some systems look for a mnemonic's control for ever where they can't come back to the window that has the focus: in
+    // a part of the dialog that has been hidden or disabled under it. From the dialog itself they find all there are.
+    if ((lpMsg->message == WM_CHAR || lpMsg->message == WM_SYSCHAR) && !CanBeReached(m_hWnd, lpMsg->hwnd))
+    {
+        MSG message = *lpMsg;
+        message.hwnd = m_hWnd;
+        return ::IsDialogMessage(m_hWnd, &message);
+    }
     return ::IsDialogMessage(m_hWnd, lpMsg);
 }
 

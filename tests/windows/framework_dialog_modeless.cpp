@@ -314,6 +314,48 @@ TEST(ModelessDialog, MessagesOfAClickInOrder)
     dialog.DestroyWindow();
 }
 
+TEST(ModelessDialog, MnemonicsAreFoundFromAHiddenOrDisabledPart)
+{
+    tests::ScopedWindow parent;
+    tests::DialogTemplate memory(L"Parts");
+    memory.Add(L"Button", L"&Go", 101, CRect(10, 60, 50, 74), WS_TABSTOP);
+    struct : CModeless
+    {
+        int m_clicks = 0;
+        BOOL OnCommand(WPARAM wParam, LPARAM) override
+        {
+            m_clicks += wParam == MAKEWPARAM(101, BN_CLICKED) ? 1 : 0;
+            return TRUE;
+        }
+    } dialog;
+    ASSERT_TRUE(dialog.CreateIndirect(memory.Get(), parent));
+    dialog.ShowWindow(SW_SHOW);
+    CWnd part;
+    ASSERT_TRUE(part.CreateEx(WS_EX_CONTROLPARENT, L"Static", L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 80, 40), &dialog, 102));
+    CEdit edit;
+    ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(0, 0, 60, 20), &part, 103));
+    int found = 0;
+    for (bool const hide : {true, false})
+    {
+        if (hide)
+            part.ModifyStyle(WS_VISIBLE, 0); // the edit may have the focus all the same
+        else
+        {
+            part.ModifyStyle(0, WS_VISIBLE);
+            part.EnableWindow(FALSE);
+        }
+        for (wchar_t const key : {L'g', L'q'})
+        {
+            MSG message{edit.m_hWnd, WM_SYSCHAR, static_cast<WPARAM>(key), 1 << 29, 0, {}};
+            EXPECT_TRUE(dialog.IsDialogMessage(&message));
+            tests::PumpPosted();
+            found += key == L'g' ? 1 : 0;
+            EXPECT_EQ(dialog.m_clicks, found);
+        }
+    }
+    dialog.DestroyWindow();
+}
+
 TEST(ModelessDialog, LeavesNoGdiObjectsBehind)
 {
     tests::ScopedWindow parent;
