@@ -229,7 +229,7 @@ void CMainWindow::PrepareContents()
     ShowTargets({});
 }
 
-/// The names under which the parts were known as windows of their own, and their titles.
+/// The names under which the parts were known as windows of their own.
 wchar_t const * CMainWindow::NameOf(Part part)
 {
     switch (part)
@@ -245,6 +245,21 @@ wchar_t const * CMainWindow::NameOf(Part part)
     }
 }
 
+wchar_t const * CMainWindow::TitleOf(Part part)
+{
+    switch (part)
+    {
+    case part_folders:
+        return Text(L"Folders");
+    case part_waveform:
+        return Text(L"Waveform");
+    case part_spectrogram:
+        return Text(L"Spectrogram");
+    default:
+        return Text(L"Measures");
+    }
+}
+
 /// Makes the pane of a part with a view for it. Null if that failed.
 CHostView * CMainWindow::CreatePart(Part part)
 {
@@ -257,7 +272,7 @@ CHostView * CMainWindow::CreatePart(Part part)
     {
         return nullptr;
     }
-    m_panes[part]->SetWindowText(Text(NameOf(part)));
+    m_panes[part]->SetWindowText(TitleOf(part));
     m_panes[part]->ModifyStyleEx(0, WS_EX_CONTROLPARENT);
     m_isPlaced[part] = restored || wasOpen;
     return view;

@@ -219,6 +219,7 @@ private:
     void PrepareContents();
     void PreparePaneMenu();
     static wchar_t const * NameOf(Part part);
+    static wchar_t const * TitleOf(Part part);
     void DockByDefault(std::array<bool, part_count> const & others);
     void KeepWorkspace();
     workbench::MainLayoutNeeds LayoutNeeds() const;

@@ -102,7 +102,7 @@ void CMainWindow::PreparePaneMenu()
     {
         auto const part = static_cast<Part>(index);
         CString text;
-        text.Format(L"%s\t%s%d", Text(NameOf(part)), Text(L"Ctrl+"), index + 1);
+        text.Format(L"%s\t%s%d", TitleOf(part), Text(L"Ctrl+"), index + 1);
         auto const id = register_menu(
             window_menu, text, [this, part] { ShowPane(part, !ShowsPane(part)); },
             static_cast<unsigned short>(L'1' + index), FVIRTKEY | FCONTROL | FNOINVERT);
