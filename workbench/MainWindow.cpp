@@ -13,7 +13,6 @@
 #include "windows/StandaloneFrameMigrationHelper.h"
 
 using workbench::Text;
-using workbench::Translatable;
 
 namespace
 {
@@ -235,13 +234,13 @@ wchar_t const * CMainWindow::NameOf(Part part)
     switch (part)
     {
     case part_folders:
-        return Translatable(L"Folders");
+        return L"Folders";
     case part_waveform:
-        return Translatable(L"Waveform");
+        return L"Waveform";
     case part_spectrogram:
-        return Translatable(L"Spectrogram");
+        return L"Spectrogram";
     default:
-        return Translatable(L"Measures");
+        return L"Measures";
     }
 }
 

@@ -332,8 +332,9 @@ BOOL CWnd::SendNotifyMessage(UINT message, WPARAM wParam, LPARAM lParam)
 
 BOOL CWnd::IsDialogMessage(LPMSG lpMsg)
 {
-    // Some systems look for a mnemonic's control for ever where they can't come back to the window that has the focus: in
-    // a part of the dialog that has been hidden or disabled under it. From the dialog itself they find all there are.
+    // Some systems look for a mnemonic's control for ever where they can't come back to the window that has the focus:
+    // in a part of the dialog that has been hidden or disabled under it. From the dialog itself they find all there
+    // are.
     if ((lpMsg->message == WM_CHAR || lpMsg->message == WM_SYSCHAR) && !CanBeReached(m_hWnd, lpMsg->hwnd))
     {
         MSG message = *lpMsg;

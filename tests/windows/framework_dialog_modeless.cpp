@@ -331,7 +331,8 @@ TEST(ModelessDialog, MnemonicsAreFoundFromAHiddenOrDisabledPart)
     ASSERT_TRUE(dialog.CreateIndirect(memory.Get(), parent));
     dialog.ShowWindow(SW_SHOW);
     CWnd part;
-    ASSERT_TRUE(part.CreateEx(WS_EX_CONTROLPARENT, L"Static", L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 80, 40), &dialog, 102));
+    ASSERT_TRUE(
+        part.CreateEx(WS_EX_CONTROLPARENT, L"Static", L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 80, 40), &dialog, 102));
     CEdit edit;
     ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(0, 0, 60, 20), &part, 103));
     int found = 0;
@@ -359,17 +360,15 @@ TEST(ModelessDialog, MnemonicsAreFoundFromAHiddenOrDisabledPart)
 TEST(ModelessDialog, LeavesNoGdiObjectsBehind)
 {
     tests::ScopedWindow parent;
-    EXPECT_EQ(tests::GdiGrowth(
-                  [&]
-                  {
-                      CModeless dialog;
-                      ASSERT_TRUE(dialog.Create(IDD_EXCHANGE, parent));
-                      dialog.ShowWindow(SW_SHOW);
-                      dialog.UpdateWindow();
-                      tests::PumpPosted();
-                      dialog.DestroyWindow();
-                      tests::PumpPosted();
-                  }),
+    EXPECT_EQ(tests::GdiGrowth([&] {
+                  CModeless dialog;
+                  ASSERT_TRUE(dialog.Create(IDD_EXCHANGE, parent));
+                  dialog.ShowWindow(SW_SHOW);
+                  dialog.UpdateWindow();
+                  tests::PumpPosted();
+                  dialog.DestroyWindow();
+                  tests::PumpPosted();
+              }),
               0);
 }
 } // namespace
