@@ -25,6 +25,8 @@ constexpr int c_spacing = 5;
 constexpr int c_dividerGap = 4; // beside folders and frames
 constexpr int c_leastBeside = 220;
 constexpr int c_leastListHeight = 90;
+constexpr int c_floatingWidth = 240; // of a pane that is torn off first
+constexpr int c_floatingHeight = 120;
 constexpr int c_leastWaveformHeight = 96;
 constexpr int c_leastSpectrogramHeight = 96;
 
@@ -272,6 +274,13 @@ CHostView * CMainWindow::CreatePart(Part part)
         return nullptr;
     }
     m_panes[part]->SetWindowText(TitleOf(part));
+    if (!restored && !wasOpen)
+    {
+        // Where it floats when it is torn off first.
+        CRect place(CPoint(0, 0), CSize(m_metrics.X(c_floatingWidth), m_metrics.Y(c_floatingHeight)));
+        ClientToScreen(&place);
+        m_panes[part]->Float(place);
+    }
     m_panes[part]->ModifyStyleEx(0, WS_EX_CONTROLPARENT);
     m_isPlaced[part] = restored || wasOpen;
     return view;

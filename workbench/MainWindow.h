@@ -92,6 +92,8 @@ public:
     /// The pane of a part.
     CDockableViewPane & Pane(Part part) { return *m_panes[part]; }
     bool ShowsPane(Part part) const { return m_panes[part] != nullptr && m_panes[part]->IsVisible(); }
+    /// Whether it shows only by its tab, with another pane in front.
+    bool IsBehindTab(Part part) const { return ShowsPane(part) && !m_panes[part]->IsWindowVisible(); }
     void ShowPane(Part part, bool show);
     using CMDIFrameWndEx::ShowPane;
     /// Puts all panes back to where they are at the first start.

@@ -104,7 +104,7 @@ void CMainWindow::PreparePaneMenu()
         CString text;
         text.Format(L"%s\t%s%d", TitleOf(part), Text(L"Ctrl+"), index + 1);
         auto const id = register_menu(
-            window_menu, text, [this, part] { ShowPane(part, !ShowsPane(part)); },
+            window_menu, text, [this, part] { ShowPane(part, !ShowsPane(part) || IsBehindTab(part)); },
             static_cast<unsigned short>(L'1' + index), FVIRTKEY | FCONTROL | FNOINVERT);
         if (id >= 0)
         {

@@ -49,6 +49,21 @@ int CALLBACK SheetCallback(HWND window, UINT message, LPARAM lParam)
     }
     return 0;
 }
+
+/// The native sheet may leave the focus in the page that it has hidden; it goes to the first control of the present
+/// one.
+void LeaveHiddenPage(HWND sheet)
+{
+    HWND const focus = ::GetFocus();
+    if (focus == nullptr || !::IsChild(sheet, focus) || ::IsWindowVisible(focus))
+        return;
+    auto const page = reinterpret_cast<HWND>(::SendMessage(sheet, PSM_GETCURRENTPAGEHWND, 0, 0));
+    HWND first = page != nullptr ? ::GetNextDlgTabItem(page, nullptr, FALSE) : nullptr;
+    if (first == nullptr)
+        first = reinterpret_cast<HWND>(::SendMessage(sheet, PSM_GETTABCONTROL, 0, 0));
+    if (first != nullptr)
+        ::SetFocus(first);
+}
 } // namespace
 } // namespace framework
 
@@ -584,7 +599,11 @@ BOOL CPropertySheet::PreTranslateMessage(MSG * pMsg)
     bool const turnsPages = pMsg->wParam == VK_TAB || pMsg->wParam == VK_PRIOR || pMsg->wParam == VK_NEXT;
     if (pMsg->message == WM_KEYDOWN && turnsPages && ::GetKeyState(VK_CONTROL) < 0 &&
         ::SendMessage(m_hWnd, PSM_ISDIALOGMESSAGE, 0, reinterpret_cast<LPARAM>(pMsg)) != 0)
+    {
+        if (m_hWnd != nullptr)
+            framework::LeaveHiddenPage(m_hWnd);
         return TRUE;
+    }
     return m_hWnd != nullptr && IsDialogMessage(pMsg);
 }
 

@@ -445,6 +445,11 @@ TEST_F(PropertySheets, CtrlTabGoesRound)
     {
         tests::Key(VK_TAB, {VK_CONTROL});
         EXPECT_TRUE(tests::PumpUntil([&] { return sheet.GetActivePage() == page; }));
+        // The focus doesn't stay in what is hidden now.
+        EXPECT_TRUE(::IsWindowVisible(::GetFocus()));
+        EXPECT_TRUE(page->IsChild(CWnd::GetFocus()) || CWnd::GetFocus() == sheet.GetTabControl());
+        if (CWnd * const text = page->GetDlgItem(IDC_PAGE_TEXT))
+            text->SetFocus();
     }
     tests::Key(VK_TAB, {VK_CONTROL, VK_SHIFT});
     EXPECT_TRUE(tests::PumpUntil([&] { return sheet.GetActivePage() == &m_three; }));
