@@ -94,6 +94,20 @@ TEST_F(WorkbenchPanes, AreHiddenAndBroughtBackByMenuAndKeys)
     EXPECT_EQ(PlaceOf(m_window->List()), list);
 }
 
+TEST_F(WorkbenchPanes, OneBehindATabIsBroughtToTheFrontByItsKey)
+{
+    Pane(CMainWindow::part_waveform).AttachToTabWnd(&Pane(CMainWindow::part_spectrogram), DM_SHOW, TRUE);
+    tests::PumpPosted();
+    ASSERT_TRUE(Pane(CMainWindow::part_waveform).IsWindowVisible());
+    ASSERT_FALSE(Pane(CMainWindow::part_spectrogram).IsWindowVisible());
+    tests::Key(L'3', {VK_CONTROL});
+    ASSERT_TRUE(tests::PumpUntil([this] { return Pane(CMainWindow::part_spectrogram).IsWindowVisible() != FALSE; }));
+    EXPECT_TRUE(m_window->ShowsPane(CMainWindow::part_waveform));
+    tests::Key(L'3', {VK_CONTROL});
+    ASSERT_TRUE(tests::PumpUntil([this] { return !m_window->ShowsPane(CMainWindow::part_spectrogram); }));
+    EXPECT_TRUE(Pane(CMainWindow::part_waveform).IsWindowVisible());
+}
+
 TEST_F(WorkbenchPanes, ComeBackAfterARestartAndResetTheWayTheyWere)
 {
     m_window->ShowFolders(true);
@@ -151,6 +165,8 @@ TEST_F(WorkbenchPanes, AreDraggedOutAndBackByTheirCaptions)
     CPoint const caption(docked.left + 60, docked.top + 8);
     tests::Drag(caption, CPoint(docked.left + 300, docked.top - 120));
     ASSERT_TRUE(tests::PumpUntil([this] { return IsFloating(CMainWindow::part_spectrogram); }));
+    EXPECT_GE(Place(CMainWindow::part_spectrogram).Width(), 300);
+    EXPECT_GE(Place(CMainWindow::part_spectrogram).Height(), 150);
     m_window->ResetLayout();
     EXPECT_EQ(Place(CMainWindow::part_spectrogram), docked);
 }
