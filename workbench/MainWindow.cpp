@@ -279,7 +279,7 @@ CHostView * CMainWindow::CreatePart(Part part)
         // Where it floats when it is torn off first.
         CRect place(CPoint(0, 0), CSize(m_metrics.X(c_floatingWidth), m_metrics.Y(c_floatingHeight)));
         ClientToScreen(&place);
-        m_panes[part]->Float(place);
+        m_panes[part]->FloatPane(place, DM_UNKNOWN, false);
     }
     m_panes[part]->ModifyStyleEx(0, WS_EX_CONTROLPARENT);
     m_isPlaced[part] = restored || wasOpen;
