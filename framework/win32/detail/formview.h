@@ -69,8 +69,8 @@ public:
     CFont * GetPrinterFont() const;
     /// Null: like the one on the screen. The font stays the caller's.
     void SetPrinterFont(CFont * pFont);
-    /// Prints from one character to another, as much as fits. Gives the first that didn't; the rectangle's lower edge is
-    /// where the text ends.
+    /// Prints from one character to another, as much as fits. Gives the first that didn't; the rectangle's lower edge
+    /// is where the text ends.
     UINT PrintInsideRect(CDC * pDC, RECT & rectLayout, UINT nIndexStart, UINT nIndexStop);
     /// Selects the next or previous place of the text. FALSE if there is none.
     BOOL FindText(LPCTSTR lpszFind, BOOL bNext = TRUE, BOOL bCase = TRUE);

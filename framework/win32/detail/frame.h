@@ -150,7 +150,7 @@ private:
 
     CString m_title;
     CView * m_activeView;
-    HMENU m_defaultMenu; // the one that the frame was loaded with
+    HMENU m_defaultMenu;    // the one that the frame was loaded with
     int m_number;           // among the frames of one document, from 1; 0 if there is only one
     UINT m_messageTracking; // what shall be shown as a message, and what is
     UINT m_messageShown;
