@@ -13,7 +13,7 @@
 /// Both sides move the same windows between the same two sizes in turns; each side makes each way as often.
 bool bench::LayoutOf1000Children()
 {
-    constexpr int childCount = 1000;
+    constexpr int child_count = 1000;
     CWnd parent;
     if (!parent.CreateEx(0, AfxRegisterWndClass(0), L"layout", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 50, 50, 640, 520,
                          nullptr, nullptr))
@@ -23,7 +23,7 @@ bool bench::LayoutOf1000Children()
     CEdges const edges[] = {CEdges::BOTTOM_RIGHT(), CEdges::TOP_LEFT_BOTTOM_RIGHT(), CEdges::HORI_CENTER(),
                             CEdges::BOTTOM_THIRD(), CEdges::RIGHT_HALF()};
     CDialogResizer resizer(parent, CString());
-    for (int i = 0; i < childCount; ++i)
+    for (int i = 0; i < child_count; ++i)
     {
         children.push_back(std::make_unique<CWnd>());
         int const x = i % 40 * 15;
@@ -89,5 +89,5 @@ bool bench::LayoutOf1000Children()
         name, sizeof name,
         "layout of 1,000 children (%.2f times MoveWindow alone) beside MoveWindow and InvalidateRect, a child",
         withoutInvalidating.ratio);
-    return bench::Report(name, compared, childCount, 1.05);
+    return bench::Report(name, compared, child_count, 1.05);
 }

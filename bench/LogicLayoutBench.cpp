@@ -12,7 +12,7 @@
 
 namespace
 {
-constexpr int childCount = 1000;
+constexpr int child_count = 1000;
 
 /// Windows that are entries of a table: as cheap as a window system can be, so that what is left is the arithmetic.
 class TableOfWindows final : public LayoutPlatform
@@ -23,7 +23,7 @@ public:
         CRect rect;
         bool valid = true;
     };
-    std::vector<Window> windows = std::vector<Window>(childCount + 1);
+    std::vector<Window> windows = std::vector<Window>(child_count + 1);
 
     static HWND Handle(std::size_t index) { return reinterpret_cast<HWND>(static_cast<std::uintptr_t>(index + 1)); }
     static std::size_t Index(HWND window) { return reinterpret_cast<std::uintptr_t>(window) - 1; }
@@ -38,7 +38,7 @@ public:
     HWND FirstChild(HWND) override { return Handle(1); }
     HWND NextWindow(HWND window) override
     {
-        return Index(window) < static_cast<std::size_t>(childCount) ? Handle(Index(window) + 1) : nullptr;
+        return Index(window) < static_cast<std::size_t>(child_count) ? Handle(Index(window) + 1) : nullptr;
     }
     void MoveWindow(HWND window, int left, int top, int width, int height) override
     {
@@ -64,7 +64,7 @@ void SetUp(CDialogResizer & resizer)
 {
     std::mt19937 random(7);
     plainChildren.clear();
-    for (int i = 0; i < childCount; ++i)
+    for (int i = 0; i < child_count; ++i)
     {
         CRect const design(static_cast<int>(random() % 1900), static_cast<int>(random() % 1400), 1950, 1450);
         CRect const fractions(static_cast<int>(random() % 10001), static_cast<int>(random() % 10001), 10000, 10000);
@@ -116,6 +116,6 @@ bool bench::LayoutArithmetic()
                                             LayOutByPlainLoop();
                                             benchmark::ClobberMemory();
                                         }));
-    return ReportTime("layout arithmetic beside a plain loop, a child", compared.ours / childCount,
-                      compared.reference / childCount, 20);
+    return ReportTime("layout arithmetic beside a plain loop, a child", compared.ours / child_count,
+                      compared.reference / child_count, 20);
 }

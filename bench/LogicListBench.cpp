@@ -12,11 +12,11 @@
 
 namespace
 {
-constexpr int rowCount = 100000;
-constexpr unsigned int columnCount = 8;
-constexpr long long lastData = rowCount - 1;
+constexpr int row_count = 100000;
+constexpr unsigned int column_count = 8;
+constexpr long long last_data = row_count - 1;
 // Per row: where the row object is, where its cells are, and the word compared.
-constexpr double bytesOfRow = 2 * sizeof(void *) + sizeof(long long);
+constexpr double bytes_of_row = 2 * sizeof(void *) + sizeof(long long);
 
 /// The parameter words of a native list, and the rows behind them.
 struct Rows
@@ -26,10 +26,10 @@ struct Rows
 
     Rows()
     {
-        for (int i = 0; i < rowCount; ++i)
+        for (int i = 0; i < row_count; ++i)
         {
             parameters.push_back(pool.Take());
-            parameters.back()->Prepare(columnCount);
+            parameters.back()->Prepare(column_count);
             parameters.back()->cells()->itemData64 = i;
         }
     }
@@ -44,16 +44,16 @@ Rows const & TheRows()
 void SearchByFindTopmostRow(benchmark::State & state)
 {
     Rows const & rows = TheRows();
-    long long data = lastData;
+    long long data = last_data;
     for (auto _ : state)
     {
         benchmark::DoNotOptimize(data);
         int const found = FindTopmostRow(
-            rows.pool.InUse(), true, [] { return rowCount; },
+            rows.pool.InUse(), true, [] { return row_count; },
             FirstCellOf([data](XLISTCTRLDATA const & cell) { return cell.itemData64 == data; }),
             [](XLISTCTRLROW const & row) { return static_cast<int>(row.cells()->itemData64); },
             [&rows](int row) { return rows.parameters[static_cast<std::size_t>(row)]; });
-        if (found != lastData)
+        if (found != last_data)
             state.SkipWithError("not found");
         benchmark::DoNotOptimize(found);
     }
@@ -62,18 +62,18 @@ void SearchByFindTopmostRow(benchmark::State & state)
 void SearchByPlainLoop(benchmark::State & state)
 {
     std::vector<XLISTCTRLROW *> const & parameters = TheRows().parameters;
-    long long data = lastData;
+    long long data = last_data;
     for (auto _ : state)
     {
         benchmark::DoNotOptimize(data);
         int found = -1;
-        for (int row = 0; row < rowCount; ++row)
+        for (int row = 0; row < row_count; ++row)
             if (parameters[static_cast<std::size_t>(row)]->cells()[0].itemData64 == data)
             {
                 found = row;
                 break;
             }
-        if (found != lastData)
+        if (found != last_data)
             state.SkipWithError("not found");
         benchmark::DoNotOptimize(found);
     }
@@ -87,6 +87,6 @@ bool bench::SearchingRows()
     std::map<std::string, double> times = RunRegistered();
     char name[120];
     std::snprintf(name, sizeof(name), "search of the last of 100,000 rows beside a plain loop (%.2f GB/s), a row",
-                  bytesOfRow * rowCount / times["search"]);
-    return Report(name, times["search"] / rowCount, times["plain"] / rowCount, 1.10);
+                  bytes_of_row * row_count / times["search"]);
+    return Report(name, times["search"] / row_count, times["plain"] / row_count, 1.10);
 }

@@ -5,12 +5,12 @@
 namespace
 {
 
-constexpr UINT_PTR c_timer = 1;
-constexpr UINT c_period = 250; // milliseconds, so that a second never shows late
-constexpr COLORREF c_onColour = RGB(90, 230, 120);
-constexpr COLORREF c_offColour = RGB(24, 52, 34);
-constexpr COLORREF c_ground = RGB(14, 26, 20);
-constexpr int c_margin = 4; // pixels
+constexpr UINT_PTR timer = 1;
+constexpr UINT period = 250; // milliseconds, so that a second never shows late
+constexpr COLORREF on_colour = RGB(90, 230, 120);
+constexpr COLORREF off_colour = RGB(24, 52, 34);
+constexpr COLORREF ground = RGB(14, 26, 20);
+constexpr int margin = 4; // pixels
 
 } // namespace
 
@@ -25,9 +25,9 @@ bool CClockView::CreateView(CWnd & parent, UINT id)
     {
         return false;
     }
-    m_text.SetColors(c_onColour, c_offColour, c_ground);
+    m_text.SetColors(on_colour, off_colour, ground);
     ShowTime();
-    SetTimer(c_timer, c_period, nullptr);
+    SetTimer(timer, period, nullptr);
     return true;
 }
 
@@ -60,10 +60,10 @@ void CClockView::OnLButtonDown(UINT flags, CPoint point)
 
 void CClockView::Draw(CDC & dc, CRect const & client)
 {
-    dc.FillSolidRect(client, c_ground);
+    dc.FillSolidRect(client, ground);
     Gdiplus::Graphics graphics(dc.m_hDC);
     graphics.SetSmoothingMode(Gdiplus::SmoothingModeAntiAlias);
     auto rect = client;
-    rect.DeflateRect(c_margin, c_margin);
+    rect.DeflateRect(margin, margin);
     m_text.DrawTextW(graphics, rect);
 }

@@ -8,8 +8,8 @@
 namespace
 {
 
-constexpr double c_hotPart = 0.2; // of the caption's colour in a hot button
-constexpr int c_focusInset = 3;   // pixels
+constexpr double hot_part = 0.2; // of the caption's colour in a hot button
+constexpr int focus_inset = 3;   // pixels
 
 } // namespace
 
@@ -17,7 +17,7 @@ void CColourChoice::ShowColour(COLORREF colour)
 {
     m_colour = colour;
     auto const text = workbench::FarthestColour(colour);
-    auto const hot = workbench::MixedColour(colour, text, c_hotPart);
+    auto const hot = workbench::MixedColour(colour, text, hot_part);
     SetColors(text, colour, workbench::FarthestColour(hot), hot);
     SetWindowText(workbench::ColourText(colour).c_str());
     Invalidate();
@@ -53,7 +53,7 @@ void CColourChoice::DrawItem(LPDRAWITEMSTRUCT item)
     if ((item->itemState & ODS_FOCUS) != 0)
     {
         CRect inside(item->rcItem);
-        inside.DeflateRect(c_focusInset, c_focusInset);
+        inside.DeflateRect(focus_inset, focus_inset);
         // Drawn in the opposite of what is there, which needs these two colours.
         ::SetTextColor(item->hDC, RGB(0, 0, 0));
         ::SetBkColor(item->hDC, RGB(255, 255, 255));

@@ -8,7 +8,7 @@ using workbench::Text;
 namespace
 {
 
-constexpr int c_mostLines = 11;
+constexpr int most_lines = 11;
 
 bool IsKeyDown(int key)
 {
@@ -43,7 +43,7 @@ BOOL CDetailsDialog::OnInitDialog()
     m_boldFont.CreateFontIndirect(&font);
     GetDlgItem(IDC_DETAIL_TEXT_FIRST)->SetFont(&m_boldFont);
     Fill();
-    for (int i = 0; i < c_mostLines; ++i)
+    for (int i = 0; i < most_lines; ++i)
     {
         D3dLayoutChild(IDC_DETAIL_TEXT_FIRST + i, CEdges::TOP_LEFT_RIGHT(), nullptr);
     }
@@ -56,7 +56,7 @@ BOOL CDetailsDialog::OnInitDialog()
 
 void CDetailsDialog::Fill()
 {
-    for (int i = 0; i < c_mostLines; ++i)
+    for (int i = 0; i < most_lines; ++i)
     {
         auto & label = *GetDlgItem(IDC_DETAIL_LABEL_FIRST + i);
         auto & text = *GetDlgItem(IDC_DETAIL_TEXT_FIRST + i);

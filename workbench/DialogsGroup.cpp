@@ -11,7 +11,7 @@ using workbench::Text;
 namespace
 {
 
-constexpr int c_opacities[] = {25, 50, 75, 100}; // percent
+constexpr int opacities[] = {25, 50, 75, 100}; // percent
 
 /// The number that a text is, -1 if it is none.
 int NumberOf(CString const & text)
@@ -41,7 +41,7 @@ void CDialogsGroup::DoDataExchange(CDataExchange * exchange)
 BOOL CDialogsGroup::OnInitDialog()
 {
     CSettingsGroup::OnInitDialog();
-    for (auto const opacity : c_opacities)
+    for (auto const opacity : opacities)
     {
         m_opacity.AddItem(std::to_wstring(opacity).c_str(), opacity);
     }

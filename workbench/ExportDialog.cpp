@@ -14,10 +14,10 @@ using workbench::Translatable;
 namespace
 {
 
-constexpr wchar_t c_extension[] = L".txt";
+constexpr wchar_t extension[] = L".txt";
 
-constexpr wchar_t const * c_lineTexts[] = {Translatable(L"All"), Translatable(L"The selected ones"),
-                                           Translatable(L"The marked ones")};
+constexpr wchar_t const * line_texts[] = {Translatable(L"All"), Translatable(L"The selected ones"),
+                                          Translatable(L"The marked ones")};
 
 } // namespace
 
@@ -59,9 +59,9 @@ BOOL CExportDialog::OnInitDialog()
     m_columns.SetSelection(workbench::ShownColumns(m_hidden));
     m_columns.PrepareIdNameBrowser();
     m_columns.SetNotifyTag(IDC_EXPORT_COLUMNS);
-    for (int i = 0; i < static_cast<int>(std::size(c_lineTexts)); ++i)
+    for (int i = 0; i < static_cast<int>(std::size(line_texts)); ++i)
     {
-        m_lineChoice.AddItem(Text(c_lineTexts[i]), i);
+        m_lineChoice.AddItem(Text(line_texts[i]), i);
     }
     m_lineChoice.SelectItemData(static_cast<int>(m_lines));
     for (auto const id : {IDC_EXPORT_FILE, IDC_FORMAT_NOTE, IDC_EXPORT_COLUMNS})
@@ -110,7 +110,7 @@ void CExportDialog::OnOK()
     std::filesystem::path file(typed.GetString());
     if (!file.has_extension() && !typed.IsEmpty())
     {
-        file += c_extension;
+        file += extension;
     }
     if (!file.is_absolute() || !file.has_filename())
     {

@@ -12,19 +12,19 @@ namespace
 {
 
 // Enough for some hundreds of names; a larger choice is refused by the dialog.
-constexpr DWORD c_namesLength = 65536;
+constexpr DWORD names_length = 65536;
 
 } // namespace
 
 std::vector<std::filesystem::path> ChooseFiles(CWnd & owner)
 {
     std::vector<std::filesystem::path> files;
-    std::vector<wchar_t> names(c_namesLength, L'\0');
+    std::vector<wchar_t> names(names_length, L'\0');
     CFileDialog dialog(TRUE, L"wav", nullptr, OFN_ALLOWMULTISELECT | OFN_FILEMUSTEXIST | OFN_HIDEREADONLY,
                        Text(L"WAV recordings (*.wav;*.wave)|*.wav;*.wave|All files (*.*)|*.*||"), &owner);
     dialog.GetOFN().lpstrTitle = Text(L"Open Recordings");
     dialog.GetOFN().lpstrFile = names.data();
-    dialog.GetOFN().nMaxFile = c_namesLength;
+    dialog.GetOFN().nMaxFile = names_length;
     if (dialog.DoModal() == IDOK)
     {
         for (auto position = dialog.GetStartPosition(); position != nullptr;)

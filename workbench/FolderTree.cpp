@@ -13,15 +13,15 @@ using workbench::Text;
 namespace
 {
 
-constexpr int c_imageSize = 16; // on a screen of the usual resolution
-constexpr int c_imageFolder = 0;
-constexpr int c_imageRecording = 1;
+constexpr int image_size = 16; // on a screen of the usual resolution
+constexpr int image_folder = 0;
+constexpr int image_recording = 1;
 
-constexpr UINT c_enterInterval = 10; // milliseconds
+constexpr UINT enter_interval = 10; // milliseconds
 // What one turn of entering items may take, so that the window answers in between.
-constexpr std::chrono::milliseconds c_enterSlice(10);
+constexpr std::chrono::milliseconds enter_slice(10);
 // So many items are entered between two looks at the clock.
-constexpr int c_itemsAtOnce = 16;
+constexpr int items_at_once = 16;
 
 using Clock = std::chrono::steady_clock;
 
@@ -56,7 +56,7 @@ bool CFolderTree::CreateTree(CWnd & parent, UINT id, workbench::ScreenMetrics & 
         return false;
     }
     SetFont(&metrics.Font(), FALSE);
-    auto const size = metrics.Scaled(c_imageSize);
+    auto const size = metrics.Scaled(image_size);
     VERIFY(m_images.Create(size, size, ILC_COLOR32 | ILC_MASK, 2, 0));
     for (auto const icon : {IDI_FOLDER, IDI_RECORDING})
     {
@@ -122,7 +122,7 @@ void CFolderTree::SetHasChildren(HTREEITEM folder, bool has)
 /// sortKey: -1 where the place is given.
 HTREEITEM CFolderTree::AddFolder(std::filesystem::path const & folder, HTREEITEM parent, HTREEITEM after, int sortKey)
 {
-    auto const item = InsertTreeItem(LabelOf(folder).c_str(), c_imageFolder, c_imageFolder, parent, type_folder,
+    auto const item = InsertTreeItem(LabelOf(folder).c_str(), image_folder, image_folder, parent, type_folder,
                                      Remember(folder), after, sortKey);
     if (item != nullptr)
     {
@@ -136,8 +136,8 @@ HTREEITEM CFolderTree::AddFolder(std::filesystem::path const & folder, HTREEITEM
 
 void CFolderTree::AddRecording(std::filesystem::path const & file, HTREEITEM parent, HTREEITEM after, int sortKey)
 {
-    auto const item = InsertTreeItem(file.filename().c_str(), c_imageRecording, c_imageRecording, parent,
-                                     type_recording, Remember(file), after, sortKey);
+    auto const item = InsertTreeItem(file.filename().c_str(), image_recording, image_recording, parent, type_recording,
+                                     Remember(file), after, sortKey);
     if (item != nullptr)
     {
         GetItemData(item)->sortKey = key_recording;
@@ -216,7 +216,7 @@ void CFolderTree::Read(HTREEITEM folder)
     Note(folder, reading);
     if (first && GetChildItem(folder) == nullptr)
     {
-        InsertTreeItem(Text(L"reading..."), c_imageFolder, c_imageFolder, folder, type_note, -1, TVI_LAST, key_note);
+        InsertTreeItem(Text(L"reading..."), image_folder, image_folder, folder, type_note, -1, TVI_LAST, key_note);
     }
     m_waiting.push_back(PathOf(folder));
     ReadNext();
@@ -249,7 +249,7 @@ LRESULT CFolderTree::OnFolderRead(WPARAM, LPARAM)
     {
         m_contents.insert_or_assign(workbench::PathKey(m_readFolder), std::move(result->contents));
         m_entering = Entering{m_readFolder, std::move(result->steps)};
-        SetTimer(enter_timer, c_enterInterval, nullptr);
+        SetTimer(enter_timer, enter_interval, nullptr);
         EnterSome();
     }
     ReadNext();
@@ -337,7 +337,7 @@ void CFolderTree::EnterSome()
         ReadNext();
         return;
     }
-    auto const end = Clock::now() + c_enterSlice;
+    auto const end = Clock::now() + enter_slice;
     auto & entering = *m_entering;
     auto const count = entering.steps.size();
     if (count > 0)
@@ -345,7 +345,7 @@ void CFolderTree::EnterSome()
         SetRedraw(FALSE);
         do
         {
-            for (int i = 0; i < c_itemsAtOnce && entering.done < count; ++i)
+            for (int i = 0; i < items_at_once && entering.done < count; ++i)
             {
                 Take(entering.steps[entering.done++], folder);
             }

@@ -17,30 +17,30 @@ using workbench::Text;
 namespace
 {
 
-constexpr wchar_t c_title[] = L"Instrument Workbench";
+constexpr wchar_t title[] = L"Instrument Workbench";
 
 // Lengths in dialog units.
-constexpr int c_margin = 7;
-constexpr int c_spacing = 5;
-constexpr int c_dividerGap = 4; // beside folders and frames
-constexpr int c_leastBeside = 220;
-constexpr int c_leastListHeight = 90;
-constexpr int c_floatingWidth = 240; // of a pane that is torn off first
-constexpr int c_floatingHeight = 120;
-constexpr int c_leastWaveformHeight = 96;
-constexpr int c_leastSpectrogramHeight = 96;
+constexpr int margin = 7;
+constexpr int panel_spacing = 5;
+constexpr int divider_gap = 4; // beside folders and frames
+constexpr int least_beside = 220;
+constexpr int least_list_height = 90;
+constexpr int floating_width = 240; // of a pane that is torn off first
+constexpr int floating_height = 120;
+constexpr int least_waveform_height = 96;
+constexpr int least_spectrogram_height = 96;
 
 // The first start's size as a part of the work area, in percent, and its limits in dialog units.
-constexpr int c_preferredPercent = 93;
-constexpr int c_preferredWidthLimit = 790;
-constexpr int c_preferredHeightLimit = 420;
+constexpr int preferred_percent = 93;
+constexpr int preferred_width_limit = 790;
+constexpr int preferred_height_limit = 420;
 
 // The width of the folders at first, in average letters.
-constexpr int c_paneLetters = 30;
+constexpr int pane_letters = 30;
 
 // How often after its activation the window looks whether its dialogs are above it, and how many milliseconds apart.
-constexpr int c_raises = 8;
-constexpr UINT c_raiseInterval = 40;
+constexpr int most_raises = 8;
+constexpr UINT raise_interval = 40;
 
 } // namespace
 
@@ -96,7 +96,7 @@ END_MESSAGE_MAP()
 CMainWindow::CMainWindow(int dotsPerInch)
     : CMainFrmInterface(this),
       m_metrics(dotsPerInch),
-      m_memory(c_title, CFensterManager::window_main),
+      m_memory(title, CFensterManager::window_main),
       m_details(*this),
       m_preview(*this),
       m_settings(workbench::ReadSettings())
@@ -142,11 +142,11 @@ bool CMainWindow::CreateMainWindow()
     CRect work;
     ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
     auto const folders =
-        m_settings.folderPane.value_or(HasRoomForFolders()) ? FolderPaneWidth() + m_metrics.X(c_dividerGap) : 0;
-    auto const limit = m_metrics.X(c_preferredWidthLimit) + folders;
-    auto const width = std::max<int>(std::min(work.Width() * c_preferredPercent / 100, limit), m_leastSize.cx);
+        m_settings.folderPane.value_or(HasRoomForFolders()) ? FolderPaneWidth() + m_metrics.X(divider_gap) : 0;
+    auto const limit = m_metrics.X(preferred_width_limit) + folders;
+    auto const width = std::max<int>(std::min(work.Width() * preferred_percent / 100, limit), m_leastSize.cx);
     auto const height = std::max<int>(
-        std::min(work.Height() * c_preferredPercent / 100, m_metrics.Y(c_preferredHeightLimit)), m_leastSize.cy);
+        std::min(work.Height() * preferred_percent / 100, m_metrics.Y(preferred_height_limit)), m_leastSize.cy);
     auto const left = std::max((work.Width() - width) / 2, 0);
     auto const top = std::max((work.Height() - height) / 3, 0);
     m_memory.PreferedPosition(left, top, left + width, top + height);
@@ -277,7 +277,7 @@ CHostView * CMainWindow::CreatePart(Part part)
     if (!restored && !wasOpen)
     {
         // Where it floats when it is torn off first.
-        CRect place(CPoint(0, 0), CSize(m_metrics.X(c_floatingWidth), m_metrics.Y(c_floatingHeight)));
+        CRect place(CPoint(0, 0), CSize(m_metrics.X(floating_width), m_metrics.Y(floating_height)));
         ClientToScreen(&place);
         m_panes[part]->FloatPane(place, DM_UNKNOWN, false);
     }
@@ -321,14 +321,14 @@ workbench::MainLayoutNeeds CMainWindow::LayoutNeeds() const
     GetClientRect(&client);
     workbench::MainLayoutNeeds needs;
     needs.client = client.Size();
-    needs.marginX = m_metrics.X(c_margin);
-    needs.marginY = m_metrics.Y(c_margin);
-    needs.spacing = m_metrics.Y(c_spacing);
-    needs.dividerGap = m_metrics.X(c_dividerGap);
-    needs.leastBeside = m_metrics.X(c_leastBeside);
-    needs.listHeight = m_metrics.Y(c_leastListHeight);
-    needs.waveformHeight = m_metrics.Y(c_leastWaveformHeight);
-    needs.spectrogramHeight = m_metrics.Y(c_leastSpectrogramHeight);
+    needs.marginX = m_metrics.X(margin);
+    needs.marginY = m_metrics.Y(margin);
+    needs.spacing = m_metrics.Y(panel_spacing);
+    needs.dividerGap = m_metrics.X(divider_gap);
+    needs.leastBeside = m_metrics.X(least_beside);
+    needs.listHeight = m_metrics.Y(least_list_height);
+    needs.waveformHeight = m_metrics.Y(least_waveform_height);
+    needs.spectrogramHeight = m_metrics.Y(least_spectrogram_height);
     needs.panelHeight = CMeasurePanel::Height(m_metrics);
     needs.statusHeight = CStatusStrip::Height(m_metrics);
     needs.captionHeight = ::GetSystemMetrics(SM_CYSMCAPTION);
@@ -344,7 +344,7 @@ void CMainWindow::Arrange()
     ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
     CRect frame;
     ::AdjustWindowRectEx(&frame, GetStyle(), TRUE, GetExStyle());
-    auto const room = work.Width() - frame.Width() - 2 * m_metrics.X(c_margin);
+    auto const room = work.Width() - frame.Width() - 2 * m_metrics.X(margin);
     auto const list = std::max(std::min(m_list.LeastWidth(), room), CMeasurePanel::LeastWidth(m_metrics));
     CRect window(CPoint(0, 0), workbench::LeastMainArea(LayoutNeeds(), list));
     ::AdjustWindowRectEx(&window, GetStyle(), TRUE, GetExStyle());
@@ -447,14 +447,14 @@ bool CMainWindow::HasRoomForFolders() const
 {
     CRect work;
     ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
-    auto const room = work.Width() * c_preferredPercent / 100 - 2 * m_metrics.X(c_margin) - m_metrics.X(c_dividerGap);
+    auto const room = work.Width() * preferred_percent / 100 - 2 * m_metrics.X(margin) - m_metrics.X(divider_gap);
     return room >= m_list.LeastWidth() + FolderPaneWidth();
 }
 
 /// In pixels.
 int CMainWindow::FolderPaneWidth() const
 {
-    auto const letters = m_settings.folderPaneWidth > 0 ? m_settings.folderPaneWidth : c_paneLetters;
+    auto const letters = m_settings.folderPaneWidth > 0 ? m_settings.folderPaneWidth : pane_letters;
     return letters * m_metrics.AverageWidth();
 }
 
@@ -487,7 +487,7 @@ void CMainWindow::MoveFramesDivider(int x)
 {
     CRect client;
     GetClientRect(&client);
-    auto const width = client.Width() - m_metrics.X(c_margin) - x - m_metrics.X(c_dividerGap);
+    auto const width = client.Width() - m_metrics.X(margin) - x - m_metrics.X(divider_gap);
     auto const share = std::clamp(::MulDiv(width, 100, std::max(client.Width(), 1)),
                                   workbench::Settings::least_frame_share, workbench::Settings::most_frame_share);
     if (share != m_settings.frameShare)
@@ -567,8 +567,8 @@ void CMainWindow::OnActivate(UINT state, CWnd * other, BOOL minimized)
     else
     {
         PostMessage(message_raise_dialogs);
-        m_raises = c_raises;
-        SetTimer(raise_timer, c_raiseInterval, nullptr);
+        m_raises = most_raises;
+        SetTimer(raise_timer, raise_interval, nullptr);
     }
 }
 

@@ -26,8 +26,8 @@ namespace
 {
 
 // The size of the choice of columns, in dialog units.
-constexpr int c_columnsWidth = 90;
-constexpr int c_columnsHeight = 128;
+constexpr int columns_width = 90;
+constexpr int columns_height = 128;
 
 } // namespace
 
@@ -189,7 +189,7 @@ void CMainWindow::ChooseColumns(CPoint screen)
     dialog.m_control.ShowGroupedSelection(false);
     CRect work;
     ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
-    CSize const size(m_metrics.X(c_columnsWidth), m_metrics.Y(c_columnsHeight));
+    CSize const size(m_metrics.X(columns_width), m_metrics.Y(columns_height));
     CPoint const corner(std::clamp<int>(screen.x, work.left, std::max<int>(work.right - size.cx, work.left)),
                         std::clamp<int>(screen.y, work.top, std::max<int>(work.bottom - size.cy, work.top)));
     dialog.m_placement = CRect(corner, size);
@@ -232,10 +232,10 @@ void CMainWindow::OnAmplify(UINT id)
     switch (id)
     {
     case ID_AMPLIFY:
-        view.SetAmplification(std::min(present + workbench::c_amplificationStep, workbench::c_mostAmplification));
+        view.SetAmplification(std::min(present + workbench::amplification_step, workbench::most_amplification));
         break;
     case ID_REDUCE:
-        view.SetAmplification(present - workbench::c_amplificationStep);
+        view.SetAmplification(present - workbench::amplification_step);
         break;
     case ID_AMPLIFY_FIT:
         view.FitAmplification();
@@ -452,7 +452,7 @@ void CMainWindow::OnInitMenuPopup(CMenu * menu, UINT index, BOOL systemMenu)
     enable(ID_EXPORT_LIST, RecordingCount() > 0);
     menu->CheckMenuItem(ID_SHOW_FOLDERS, MF_BYCOMMAND | (ShowsFolders() ? MF_CHECKED : MF_UNCHECKED));
     auto const amplification = Waveform().Amplification();
-    enable(ID_AMPLIFY, Waveform().ShowsRecording() && amplification < workbench::c_mostAmplification);
+    enable(ID_AMPLIFY, Waveform().ShowsRecording() && amplification < workbench::most_amplification);
     enable(ID_REDUCE, Waveform().ShowsRecording() && amplification > 0);
     enable(ID_AMPLIFY_NONE, amplification > 0);
     enable(ID_AMPLIFY_FIT, Waveform().ShowsRecording());

@@ -20,10 +20,10 @@ using workbench::Text;
 namespace
 {
 
-constexpr UINT c_workInterval = 10;  // milliseconds
-constexpr UINT c_editInterval = 100; // milliseconds, between looks whether an editor is still open
+constexpr UINT work_interval = 10;  // milliseconds
+constexpr UINT edit_interval = 100; // milliseconds, between looks whether an editor is still open
 // What one turn of work may take, so that the window answers in between.
-constexpr std::chrono::milliseconds c_workSlice(12);
+constexpr std::chrono::milliseconds work_slice(12);
 
 using Clock = std::chrono::steady_clock;
 
@@ -227,7 +227,7 @@ void CMainWindow::CancelReading()
     ShowChosen();
     ShowProgress();
     UpdateStatusLine();
-    SetTimer(work_timer, c_workInterval, nullptr);
+    SetTimer(work_timer, work_interval, nullptr);
 }
 
 void CMainWindow::OnCancelReading()
@@ -260,7 +260,7 @@ LRESULT CMainWindow::OnRecordingsReady(WPARAM, LPARAM)
             m_found = std::move(found->files);
         }
     }
-    SetTimer(work_timer, c_workInterval, nullptr);
+    SetTimer(work_timer, work_interval, nullptr);
     return 0;
 }
 
@@ -285,7 +285,7 @@ void CMainWindow::OnTimer(UINT_PTR id)
 /// turn.
 void CMainWindow::Work()
 {
-    auto const end = Clock::now() + c_workSlice;
+    auto const end = Clock::now() + work_slice;
     for (auto & finished : m_queue->TakeFinished())
     {
         m_results.push_back(std::move(finished));
@@ -328,7 +328,7 @@ void CMainWindow::Work()
         // Lines stay where they are while the user is at work on one.
         if (m_list.IsEditing())
         {
-            SetTimer(work_timer, IsBusy() ? c_workInterval : c_editInterval, nullptr);
+            SetTimer(work_timer, IsBusy() ? work_interval : edit_interval, nullptr);
         }
         else
         {

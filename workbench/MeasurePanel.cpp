@@ -11,18 +11,18 @@ using workbench::Text;
 namespace
 {
 
-constexpr unsigned int c_scales = 9;
+constexpr unsigned int scales = 9;
 
 // Lengths in dialog units.
-constexpr int c_height = 20;
-constexpr int c_positionLabelWidth = 34;
-constexpr int c_positionWidth = 84;
-constexpr int c_levelLabelWidth = 50;
-constexpr int c_levelWidth = 52;
-constexpr int c_scaleLabelWidth = 76;
-constexpr int c_scaleWidth = 84;
-constexpr int c_clockWidth = 90;
-constexpr int c_gap = 8;
+constexpr int strip_height = 20;
+constexpr int position_label_width = 34;
+constexpr int position_width = 84;
+constexpr int level_label_width = 50;
+constexpr int level_width = 52;
+constexpr int scale_label_width = 76;
+constexpr int scale_width = 84;
+constexpr int clock_width = 90;
+constexpr int part_gap = 8;
 
 } // namespace
 
@@ -33,13 +33,13 @@ END_MESSAGE_MAP()
 
 int CMeasurePanel::Height(workbench::ScreenMetrics const & metrics)
 {
-    return metrics.Y(c_height);
+    return metrics.Y(strip_height);
 }
 
 int CMeasurePanel::LeastWidth(workbench::ScreenMetrics const & metrics)
 {
-    return metrics.X(c_positionLabelWidth + c_positionWidth + c_levelLabelWidth + c_levelWidth + 2 * c_gap +
-                     c_scaleLabelWidth + c_scaleWidth + c_gap + c_clockWidth);
+    return metrics.X(position_label_width + position_width + level_label_width + level_width + 2 * part_gap +
+                     scale_label_width + scale_width + part_gap + clock_width);
 }
 
 bool CMeasurePanel::CreatePanel(CWnd & parent, UINT id, workbench::ScreenMetrics & metrics, unsigned int scale)
@@ -52,11 +52,11 @@ bool CMeasurePanel::CreatePanel(CWnd & parent, UINT id, workbench::ScreenMetrics
     {
         return false;
     }
-    constexpr DWORD labelStyle = WS_CHILD | WS_VISIBLE | SS_CENTERIMAGE;
+    constexpr DWORD label_style = WS_CHILD | WS_VISIBLE | SS_CENTERIMAGE;
     auto created =
-        m_positionLabel.Create(Text(L"Position"), labelStyle, CRect(), this) &&
-        m_levelLabel.Create(Text(L"Level (dBFS)"), labelStyle, CRect(), this) &&
-        m_scaleLabel.Create(Text(L"S&pectrogram colours:"), labelStyle, CRect(), this) &&
+        m_positionLabel.Create(Text(L"Position"), label_style, CRect(), this) &&
+        m_levelLabel.Create(Text(L"Level (dBFS)"), label_style, CRect(), this) &&
+        m_scaleLabel.Create(Text(L"S&pectrogram colours:"), label_style, CRect(), this) &&
         m_scale.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWNLIST, CRect(), this, IDC_SCALE) &&
         m_clock.CreateView(*this, IDC_CLOCK);
     for (auto * const display : {&m_position, &m_level})
@@ -69,7 +69,7 @@ bool CMeasurePanel::CreatePanel(CWnd & parent, UINT id, workbench::ScreenMetrics
     {
         window->SetFont(&metrics.Font());
     }
-    for (unsigned int i = 0; created && i < c_scales; ++i)
+    for (unsigned int i = 0; created && i < scales; ++i)
     {
         m_scale.AddItem(Farbtabellen::SpektrogrammFarbtabellenName(i), static_cast<int>(i));
     }
@@ -84,26 +84,26 @@ void CMeasurePanel::OnSize(UINT type, int width, int height)
     {
         return;
     }
-    auto const gap = m_metrics->X(c_gap);
+    auto const gap = m_metrics->X(part_gap);
     auto left = 0;
     auto const place = [&](CWnd & window, int unitsWide, int space) {
         auto const right = left + m_metrics->X(unitsWide);
         window.MoveWindow(left, 0, right - left, height);
         left = right + space;
     };
-    place(m_positionLabel, c_positionLabelWidth, 0);
-    place(m_position, c_positionWidth, gap);
-    place(m_levelLabel, c_levelLabelWidth, 0);
-    place(m_level, c_levelWidth, gap);
-    place(m_scaleLabel, c_scaleLabelWidth, 0);
+    place(m_positionLabel, position_label_width, 0);
+    place(m_position, position_width, gap);
+    place(m_levelLabel, level_label_width, 0);
+    place(m_level, level_width, gap);
+    place(m_scaleLabel, scale_label_width, 0);
     // A drop-down list's own height is its font's; the rest of what it is given is the height of its list.
     CRect box;
     m_scale.GetWindowRect(&box);
     auto const top = (height - box.Height()) / 2;
-    m_scale.MoveWindow(left, top, m_metrics->X(c_scaleWidth), box.Height() + m_metrics->Y(c_height) * 8);
-    auto const clock = m_metrics->X(c_clockWidth);
+    m_scale.MoveWindow(left, top, m_metrics->X(scale_width), box.Height() + m_metrics->Y(strip_height) * 8);
+    auto const clock = m_metrics->X(clock_width);
     m_clock.MoveWindow(width - clock, 0, clock, height);
-    m_clock.ShowWindow(width - clock >= left + m_metrics->X(c_scaleWidth) ? SW_SHOWNA : SW_HIDE);
+    m_clock.ShowWindow(width - clock >= left + m_metrics->X(scale_width) ? SW_SHOWNA : SW_HIDE);
     // The panel has mostly moved as well; what it takes along of its children may be of other windows.
     RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
@@ -121,7 +121,7 @@ unsigned int CMeasurePanel::Scale()
 
 void CMeasurePanel::ChooseScale(unsigned int scale)
 {
-    m_scale.SelectItemData(static_cast<int>(scale < c_scales ? scale : 0));
+    m_scale.SelectItemData(static_cast<int>(scale < scales ? scale : 0));
 }
 
 void CMeasurePanel::OnScaleChosen()

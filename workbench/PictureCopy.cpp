@@ -8,8 +8,8 @@ namespace workbench
 namespace
 {
 
-constexpr wchar_t c_description[] = L"Instrument Workbench\0Picture\0";
-constexpr int c_hundredthsPerMillimetre = 100;
+constexpr wchar_t description[] = L"Instrument Workbench\0Picture\0";
+constexpr int hundredths_per_millimetre = 100;
 
 } // namespace
 
@@ -17,12 +17,12 @@ bool CopyPicture(CWnd & window, CSize size, std::function<void(CDC &, CRect cons
 {
     CClientDC screen(&window);
     auto const hundredths = [&screen](int pixels, int millimetres, int resolution) {
-        return ::MulDiv(pixels, screen.GetDeviceCaps(millimetres) * c_hundredthsPerMillimetre,
+        return ::MulDiv(pixels, screen.GetDeviceCaps(millimetres) * hundredths_per_millimetre,
                         screen.GetDeviceCaps(resolution));
     };
     CRect const bounds(0, 0, hundredths(size.cx, HORZSIZE, HORZRES), hundredths(size.cy, VERTSIZE, VERTRES));
     CMetaFileDC picture;
-    if (!picture.CreateEnhanced(&screen, nullptr, &bounds, c_description))
+    if (!picture.CreateEnhanced(&screen, nullptr, &bounds, description))
     {
         return false;
     }

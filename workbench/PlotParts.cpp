@@ -10,7 +10,7 @@ namespace workbench
 namespace
 {
 
-constexpr int c_leastTickDistance = 44; // dialog units
+constexpr int least_tick_distance = 44; // dialog units
 
 } // namespace
 
@@ -38,14 +38,14 @@ void DrawPlotLabel(CDC & dc, std::wstring const & text, CPoint position, PlotCol
 {
     dc.SetBkMode(TRANSPARENT); // filling a rectangle has made the background opaque again
     dc.SetTextColor(colours.label);
-    DrawPlotText(dc, text, CRect(position, TextSize(dc, text)), DT_LEFT | c_textLabel);
+    DrawPlotText(dc, text, CRect(position, TextSize(dc, text)), DT_LEFT | text_label);
 }
 
 void DrawTimeAxis(CDC & dc, CRect const & plot, double seconds, ScreenMetrics const & metrics,
                   PlotColours const & colours)
 {
     auto const tickHeight = metrics.Y(2);
-    for (auto const & tick : TimeTicks(seconds, plot.Width() - 2, metrics.X(c_leastTickDistance)))
+    for (auto const & tick : TimeTicks(seconds, plot.Width() - 2, metrics.X(least_tick_distance)))
     {
         auto const x = plot.left + 1 + tick.position;
         dc.FillSolidRect(x, plot.bottom, 1, tickHeight, colours.frame);

@@ -25,8 +25,8 @@ struct PlotMargins
 };
 
 /// Formats of texts: a line that ends in dots where it is cut, and a short one that is never cut.
-constexpr UINT c_textOneLine = DT_SINGLELINE | DT_END_ELLIPSIS;
-constexpr UINT c_textLabel = DT_SINGLELINE | DT_NOCLIP;
+constexpr UINT text_one_line = DT_SINGLELINE | DT_END_ELLIPSIS;
+constexpr UINT text_label = DT_SINGLELINE | DT_NOCLIP;
 
 /// The colours of plots in windows, which are the system's, and on paper.
 PlotColours ScreenPlotColours();

@@ -11,13 +11,13 @@ namespace
 {
 
 // A4 in landscape, in millimetres.
-constexpr int c_paperWidth = 297;
-constexpr int c_paperHeight = 210;
-constexpr int c_paperMargin = 12;
+constexpr int paper_width = 297;
+constexpr int paper_height = 210;
+constexpr int paper_margin = 12;
 
-constexpr int c_deskMargin = 10; // pixels around the paper
-constexpr int c_shadow = 3;      // pixels
-constexpr COLORREF c_paperColour = RGB(255, 255, 255);
+constexpr int desk_margin = 10; // pixels around the paper
+constexpr int shadow = 3;       // pixels
+constexpr COLORREF paper_colour = RGB(255, 255, 255);
 
 } // namespace
 
@@ -30,18 +30,18 @@ void CPageView::Draw(CDC & dc, CRect const & client)
 {
     dc.FillSolidRect(client, ::GetSysColor(COLOR_APPWORKSPACE));
     auto desk = client;
-    desk.DeflateRect(c_deskMargin, c_deskMargin);
-    auto const width = std::min(desk.Width(), ::MulDiv(desk.Height(), c_paperWidth, c_paperHeight));
-    auto const height = ::MulDiv(width, c_paperHeight, c_paperWidth);
+    desk.DeflateRect(desk_margin, desk_margin);
+    auto const width = std::min(desk.Width(), ::MulDiv(desk.Height(), paper_width, paper_height));
+    auto const height = ::MulDiv(width, paper_height, paper_width);
     if (width <= 0 || height <= 0)
     {
         return;
     }
     CRect paper(CPoint(desk.left + (desk.Width() - width) / 2, desk.top + (desk.Height() - height) / 2),
                 CSize(width, height));
-    dc.FillSolidRect(paper + CPoint(c_shadow, c_shadow), ::GetSysColor(COLOR_3DDKSHADOW));
-    dc.FillSolidRect(paper, c_paperColour);
-    auto const margin = ::MulDiv(width, c_paperMargin, c_paperWidth);
+    dc.FillSolidRect(paper + CPoint(shadow, shadow), ::GetSysColor(COLOR_3DDKSHADOW));
+    dc.FillSolidRect(paper, paper_colour);
+    auto const margin = ::MulDiv(width, paper_margin, paper_width);
     paper.DeflateRect(margin, margin);
     if (m_painter && !paper.IsRectEmpty())
     {

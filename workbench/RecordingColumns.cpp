@@ -8,7 +8,7 @@ namespace workbench
 namespace
 {
 
-constexpr int c_all = -1;
+constexpr int every_column = -1;
 
 } // namespace
 
@@ -42,7 +42,7 @@ std::set<int> ShownColumns(std::set<int> const & hidden)
     }
     if (all)
     {
-        shown.insert(c_all);
+        shown.insert(every_column);
     }
     return shown;
 }
@@ -50,7 +50,7 @@ std::set<int> ShownColumns(std::set<int> const & hidden)
 std::set<int> HiddenColumns(std::set<int> const & ticked)
 {
     std::set<int> hidden;
-    if (ticked.contains(c_all))
+    if (ticked.contains(every_column))
     {
         return hidden;
     }

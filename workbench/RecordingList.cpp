@@ -27,7 +27,7 @@ struct ColumnDesign
 };
 
 // The date's least text is made when the columns are, as the user writes dates.
-constexpr ColumnDesign c_columns[CRecordingList::column_count] = {
+constexpr ColumnDesign column_designs[CRecordingList::column_count] = {
     {L"", LVCFMT_LEFT, L""},
     {Translatable(L"Name"), LVCFMT_LEFT, L"Measurement 1"},
     {Translatable(L"Ref."), LVCFMT_CENTER, L""},
@@ -50,38 +50,38 @@ struct Growth
     CRecordingList::Column column;
     int limit;
 };
-constexpr Growth c_growth[] = {{CRecordingList::column_overview, 2},
-                               {CRecordingList::column_comment, 2},
-                               {CRecordingList::column_peak, 2},
-                               {CRecordingList::column_overview, 3},
-                               {CRecordingList::column_comment, 100}};
+constexpr Growth column_growth[] = {{CRecordingList::column_overview, 2},
+                                    {CRecordingList::column_comment, 2},
+                                    {CRecordingList::column_peak, 2},
+                                    {CRecordingList::column_overview, 3},
+                                    {CRecordingList::column_comment, 100}};
 
 // The room that cell and header keep left and right of a text, a divider and the rounding of text widths.
-constexpr int c_textRoom = 16;
-constexpr int c_imageSize = 20;
-constexpr int c_checkWidth = 30; // of a header's check box with its room
-constexpr int c_arrowRoom = 20;  // of the arrow beside a title
+constexpr int text_room = 16;
+constexpr int image_size = 20;
+constexpr int check_width = 30; // of a header's check box with its room
+constexpr int arrow_room = 20;  // of the arrow beside a title
 
 // To the list itself: tell the host of changes, open a line, place the tool tip that shows.
-constexpr UINT c_messageTellChanges = WM_APP + 1;
-constexpr UINT c_messageTellOpen = WM_APP + 2;
-constexpr UINT c_messagePlaceToolTip = WM_APP + 3;
+constexpr UINT message_tell_changes = WM_APP + 1;
+constexpr UINT message_tell_open = WM_APP + 2;
+constexpr UINT message_place_tool_tip = WM_APP + 3;
 
 // From this many selected rows on, the list view is kept from painting each one that a gesture changes.
-constexpr UINT c_manyRows = 50;
+constexpr UINT many_rows = 50;
 
 // The base class's: the id of its edit, the class of its combo's window, and the timer that closes that without a
 // choice.
-constexpr int c_editId = 99;
-constexpr wchar_t c_comboClass[] = L"SuperComboBox";
-constexpr UINT_PTR c_cancelComboTimer = 2;
-constexpr int c_editRoom = 2; // pixels of an edit below its text
+constexpr int edit_id = 99;
+constexpr wchar_t combo_class[] = L"SuperComboBox";
+constexpr UINT_PTR cancel_combo_timer = 2;
+constexpr int edit_room = 2; // pixels of an edit below its text
 
-constexpr UINT c_lastToolId = 0xFFFF;
-constexpr int c_toolTipGap = 2; // pixels
+constexpr UINT last_tool_id = 0xFFFF;
+constexpr int tool_tip_gap = 2; // pixels
 
-constexpr wchar_t const * c_ratings[] = {Translatable(L"Not rated"), Translatable(L"Good"), Translatable(L"Usable"),
-                                         Translatable(L"Rejected")};
+constexpr wchar_t const * rating_names[] = {Translatable(L"Not rated"), Translatable(L"Good"), Translatable(L"Usable"),
+                                            Translatable(L"Rejected")};
 
 } // namespace
 
@@ -105,10 +105,10 @@ BEGIN_MESSAGE_MAP(CRecordingList, CXListCtrl)
     ON_NOTIFY_EX(HDN_DIVIDERDBLCLICKA, 0, &CRecordingList::OnDividerDoubleClick)
     ON_NOTIFY_EX(HDN_ENDTRACKW, 0, &CRecordingList::OnEndTrack)
     ON_NOTIFY_EX(HDN_ENDTRACKA, 0, &CRecordingList::OnEndTrack)
-    ON_NOTIFY_EX_RANGE(TTN_SHOW, 0, c_lastToolId, &CRecordingList::OnToolTipShow)
-    ON_MESSAGE(c_messageTellChanges, &CRecordingList::OnTellChanges)
-    ON_MESSAGE(c_messageTellOpen, &CRecordingList::OnTellOpen)
-    ON_MESSAGE(c_messagePlaceToolTip, &CRecordingList::OnPlaceToolTip)
+    ON_NOTIFY_EX_RANGE(TTN_SHOW, 0, last_tool_id, &CRecordingList::OnToolTipShow)
+    ON_MESSAGE(message_tell_changes, &CRecordingList::OnTellChanges)
+    ON_MESSAGE(message_tell_open, &CRecordingList::OnTellOpen)
+    ON_MESSAGE(message_place_tool_tip, &CRecordingList::OnPlaceToolTip)
 END_MESSAGE_MAP()
 
 bool CRecordingList::CreateList(CWnd & parent, UINT id, workbench::ScreenMetrics & metrics)
@@ -133,9 +133,9 @@ bool CRecordingList::CreateList(CWnd & parent, UINT id, workbench::ScreenMetrics
             TellOpen(LineAt(row));
         }
     };
-    for (int i = 0; i < static_cast<int>(std::size(c_ratings)); ++i)
+    for (int i = 0; i < static_cast<int>(std::size(rating_names)); ++i)
     {
-        GlobalComboStringsInsert(i, Text(c_ratings[i]));
+        GlobalComboStringsInsert(i, Text(rating_names[i]));
     }
     CreateImages();
     CreateColumns();
@@ -145,7 +145,7 @@ bool CRecordingList::CreateList(CWnd & parent, UINT id, workbench::ScreenMetrics
 
 wchar_t const * CRecordingList::Title(int column)
 {
-    return column >= 0 && column < column_count ? Text(c_columns[column].title) : L"";
+    return column >= 0 && column < column_count ? Text(column_designs[column].title) : L"";
 }
 
 bool CRecordingList::CanBeHidden(int column)
@@ -157,13 +157,13 @@ void CRecordingList::CreateColumns()
 {
     for (int i = 0; i < column_count; ++i)
     {
-        auto const & design = c_columns[i];
+        auto const & design = column_designs[i];
         auto const * const title = Text(design.title);
         auto & least = m_least[static_cast<std::size_t>(i)];
         least = std::max(WidthOf(title), WidthOf(design.leastText));
         if (i == column_check)
         {
-            least = c_checkWidth;
+            least = check_width;
         }
         else if (i == column_date)
         {
@@ -173,7 +173,7 @@ void CRecordingList::CreateColumns()
         AddColumn(title, design.format, least);
     }
     m_needs = m_least;
-    m_leastWidth = std::accumulate(m_least.begin(), m_least.end(), 0) + c_arrowRoom + ::GetSystemMetrics(SM_CXVSCROLL) +
+    m_leastWidth = std::accumulate(m_least.begin(), m_least.end(), 0) + arrow_room + ::GetSystemMetrics(SM_CXVSCROLL) +
                    2 * ::GetSystemMetrics(SM_CXBORDER);
     SetHeaderCheckedState(column_check, XHC_UNCHECKED);
 }
@@ -181,7 +181,7 @@ void CRecordingList::CreateColumns()
 /// The images of the states, which also give the lines their height.
 void CRecordingList::CreateImages()
 {
-    auto const size = m_metrics->Scaled(c_imageSize);
+    auto const size = m_metrics->Scaled(image_size);
     VERIFY(m_images.Create(size, size, ILC_COLOR32 | ILC_MASK, 3, 0));
     for (auto const id : {IDI_STATUS_OK, IDI_STATUS_DAMAGED, IDI_STATUS_UNREADABLE})
     {
@@ -210,7 +210,7 @@ void CRecordingList::CreateMenu()
 
 int CRecordingList::WidthOf(std::wstring const & text) const
 {
-    return GetStringWidth(text.c_str()) + c_textRoom;
+    return GetStringWidth(text.c_str()) + text_room;
 }
 
 void CRecordingList::Require(Column column, int width)
@@ -240,7 +240,7 @@ void CRecordingList::FitColumns()
     if (m_sortedColumn >= 0)
     {
         auto & width = widths[static_cast<std::size_t>(m_sortedColumn)];
-        width = std::max(width, WidthOf(Text(c_columns[m_sortedColumn].title)) + c_arrowRoom);
+        width = std::max(width, WidthOf(Text(column_designs[m_sortedColumn].title)) + arrow_room);
     }
     for (auto const & [column, width] : m_userWidths)
     {
@@ -265,7 +265,7 @@ void CRecordingList::FitColumns()
     };
     give(column_status, m_needs[column_status]);
     give(column_name, m_needs[column_name]);
-    for (auto const & growth : c_growth)
+    for (auto const & growth : column_growth)
     {
         give(growth.column, growth.limit * m_least[growth.column]);
     }
@@ -302,7 +302,7 @@ void CRecordingList::ClearSelection()
 
 void CRecordingList::ChooseLine(int line)
 {
-    if (GetSelectedCount() > c_manyRows)
+    if (GetSelectedCount() > many_rows)
     {
         ClearSelection();
     }
@@ -395,7 +395,7 @@ void CRecordingList::ShowReference()
         SetBold(row, column_name, true);
         CClientDC dc(this);
         workbench::SelectScope const font(dc, m_metrics->BoldFont());
-        Require(column_name, dc.GetTextExtent(GetItemText(row, column_name)).cx + c_textRoom);
+        Require(column_name, dc.GetTextExtent(GetItemText(row, column_name)).cx + text_room);
         FitColumns();
     }
 }
@@ -530,7 +530,7 @@ std::vector<int> CRecordingList::TakeNotedLines()
 
 HWND CRecordingList::CommentEditor() const
 {
-    return m_hWnd != nullptr ? ::GetDlgItem(m_hWnd, c_editId) : nullptr;
+    return m_hWnd != nullptr ? ::GetDlgItem(m_hWnd, edit_id) : nullptr;
 }
 
 HWND CRecordingList::RatingCombo() const
@@ -548,7 +548,7 @@ void CRecordingList::EndEditing()
     }
     if (RatingCombo() != nullptr)
     {
-        OnTimer(c_cancelComboTimer);
+        OnTimer(cancel_combo_timer);
         m_ratingCombo = nullptr;
     }
 }
@@ -615,10 +615,10 @@ void CRecordingList::PlaceEditors(int line)
         CClientDC dc(this);
         workbench::SelectScope const font(dc, m_metrics->Font());
         auto const height = dc.GetTextExtent(L"Mg").cy;
-        if (height + c_editRoom < place.Height())
+        if (height + edit_room < place.Height())
         {
             ::SetWindowPos(edit, nullptr, place.left, place.top + (place.Height() - height) / 2, place.Width(),
-                           height + c_editRoom, SWP_NOZORDER | SWP_NOACTIVATE);
+                           height + edit_room, SWP_NOZORDER | SWP_NOACTIVATE);
         }
     }
     struct Search
@@ -633,7 +633,7 @@ void CRecordingList::PlaceEditors(int line)
             auto & result = *reinterpret_cast<Search *>(parameter);
             wchar_t name[32] = L"";
             ::GetClassNameW(window, name, static_cast<int>(std::size(name)));
-            if (std::wstring_view(name) == c_comboClass &&
+            if (std::wstring_view(name) == combo_class &&
                 ::GetWindow(window, GW_OWNER) == ::GetAncestor(result.list, GA_ROOT))
             {
                 result.found = window;
@@ -662,7 +662,7 @@ void CRecordingList::Tell(unsigned changes)
 {
     if (m_changes == 0 && m_repaintLast < m_repaintFirst)
     {
-        PostMessage(c_messageTellChanges);
+        PostMessage(message_tell_changes);
     }
     m_changes |= changes;
 }
@@ -697,7 +697,7 @@ LRESULT CRecordingList::OnTellChanges(WPARAM, LPARAM)
 
 void CRecordingList::TellOpen(int line)
 {
-    PostMessage(c_messageTellOpen, static_cast<WPARAM>(line), static_cast<LPARAM>(m_generation));
+    PostMessage(message_tell_open, static_cast<WPARAM>(line), static_cast<LPARAM>(m_generation));
 }
 
 LRESULT CRecordingList::OnTellOpen(WPARAM line, LPARAM generation)
@@ -769,8 +769,8 @@ void CRecordingList::PlaceToolTip(HWND tip, UINT_PTR tool)
     ::GetWindowRect(tip, &place);
     CRect work;
     ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
-    auto const toTheRight = cell.right + c_toolTipGap + place.Width() <= work.right;
-    auto const left = toTheRight ? cell.right + c_toolTipGap : cell.left - c_toolTipGap - place.Width();
+    auto const toTheRight = cell.right + tool_tip_gap + place.Width() <= work.right;
+    auto const left = toTheRight ? cell.right + tool_tip_gap : cell.left - tool_tip_gap - place.Width();
     ::SetWindowPos(tip, nullptr, std::max(left, work.left), cell.top + (cell.Height() - place.Height()) / 2, 0, 0,
                    SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
@@ -779,7 +779,7 @@ BOOL CRecordingList::OnToolTipShow(UINT, NMHDR * header, LRESULT * result)
 {
     PlaceToolTip(header->hwndFrom, header->idFrom);
     // Not every system keeps to this place and has the size by now.
-    PostMessage(c_messagePlaceToolTip, header->idFrom, reinterpret_cast<LPARAM>(header->hwndFrom));
+    PostMessage(message_place_tool_tip, header->idFrom, reinterpret_cast<LPARAM>(header->hwndFrom));
     *result = TRUE;
     return TRUE;
 }
@@ -892,7 +892,7 @@ BOOL CRecordingList::OnEraseBkgnd(CDC * dc)
 void CRecordingList::OnLButtonDown(UINT flags, CPoint point)
 {
     // The list view would do the same, row by row.
-    if ((flags & (MK_CONTROL | MK_SHIFT)) == 0 && GetSelectedCount() > c_manyRows)
+    if ((flags & (MK_CONTROL | MK_SHIFT)) == 0 && GetSelectedCount() > many_rows)
     {
         int column = 0;
         auto const row = GetPointItem(point, column);
@@ -926,7 +926,7 @@ void CRecordingList::OnKeyDown(UINT key, UINT repeat, UINT flags)
         return;
     }
     auto const selectsRange = ::GetKeyState(VK_SHIFT) < 0 && (key == VK_HOME || key == VK_END);
-    if (selectsRange || GetSelectedCount() > c_manyRows)
+    if (selectsRange || GetSelectedCount() > many_rows)
     {
         Batch const batch(*this);
         m_touched = true;

@@ -14,24 +14,24 @@
 namespace
 {
 
-constexpr auto c_readingText = workbench::Translatable(L"reading...");
-constexpr auto c_unreadText = workbench::Translatable(L"not read yet");
+constexpr auto reading_text = workbench::Translatable(L"reading...");
+constexpr auto unread_text = workbench::Translatable(L"not read yet");
 
 // Places in the image list.
-constexpr int c_imageOk = 0;
-constexpr int c_imageDamaged = 1;
-constexpr int c_imageUnreadable = 2;
+constexpr int image_ok = 0;
+constexpr int image_damaged = 1;
+constexpr int image_unreadable = 2;
 
-constexpr COLORREF c_barColour = RGB(33, 102, 172);
-constexpr COLORREF c_emptyBarColour = RGB(224, 224, 224); // of the list, whatever the system's colours are
-constexpr COLORREF c_clippedColour = RGB(200, 48, 40);
-constexpr COLORREF c_damagedColour = RGB(255, 226, 160);
+constexpr COLORREF bar_colour = RGB(33, 102, 172);
+constexpr COLORREF empty_bar_colour = RGB(224, 224, 224); // of the list, whatever the system's colours are
+constexpr COLORREF clipped_colour = RGB(200, 48, 40);
+constexpr COLORREF damaged_colour = RGB(255, 226, 160);
 
 // A bar at 0 would show no text.
-constexpr int c_leastBarPercent = 2;
+constexpr int least_bar_percent = 2;
 
 // The width of a status image and the room left of it, on a screen of the usual resolution.
-constexpr int c_imageRoom = 26;
+constexpr int image_room = 26;
 
 /// Text at the right edge can come out a pixel wider than it was measured; the blank keeps its last digit whole.
 std::wstring AtRightEdge(std::wstring text)
@@ -86,7 +86,7 @@ void CRecordingList::AppendFile(std::filesystem::path const & file, Notes const 
     // Two folders that are shown together can have one each: the first one counts.
     auto shown = notes;
     shown.reference = notes.reference && m_reference < 0;
-    PrepareRow(row, file, shown, workbench::Text(c_unreadText));
+    PrepareRow(row, file, shown, workbench::Text(unread_text));
     if (shown.reference)
     {
         m_reference = line;
@@ -111,7 +111,7 @@ void CRecordingList::ShowReading(int line, std::filesystem::path const & file)
         }
         notes.reference = line == m_reference;
         ResetRow(row);
-        PrepareRow(row, file, notes, workbench::Text(c_readingText));
+        PrepareRow(row, file, notes, workbench::Text(reading_text));
         ShowReference();
         SetBold(row, column_name, line == m_boldLine);
         Tell(changed_marks);
@@ -197,8 +197,8 @@ void CRecordingList::ShowStatus(int row, workbench::RecordingAnalysis const & an
     auto const damaged = analysis.info.IsCutOff() || analysis.invalidSamples > 0;
     auto const status = analysis.StatusText();
     SetItemText(row, column_status, status.c_str());
-    SetItemImage(row, column_status, analysis.problem ? c_imageUnreadable : damaged ? c_imageDamaged : c_imageOk);
-    Require(column_status, WidthOf(status) + m_metrics->Scaled(c_imageRoom));
+    SetItemImage(row, column_status, analysis.problem ? image_unreadable : damaged ? image_damaged : image_ok);
+    Require(column_status, WidthOf(status) + m_metrics->Scaled(image_room));
 }
 
 void CRecordingList::ShowValues(int row, std::shared_ptr<workbench::RecordingAnalysis const> const & analysis)
@@ -218,9 +218,9 @@ void CRecordingList::ShowValues(int row, std::shared_ptr<workbench::RecordingAna
     auto const peak = workbench::FormatLevel(analysis->levels.peak);
     SetProgress(row, column_peak, true, peak.c_str());
     SetItemFloatVal(row, column_peak, static_cast<float>(analysis->levels.peak), peak.c_str());
-    SetItemColors(row, column_peak, workbench::ReadableColour(::GetSysColor(COLOR_WINDOWTEXT), c_emptyBarColour),
-                  analysis->levels.peak > 0.0 ? c_clippedColour : c_barColour, XLISTCTRLDATA::no_gradient);
-    UpdateProgress(row, column_peak, std::max(workbench::LevelBarPercent(analysis->levels.peak), c_leastBarPercent), 0);
+    SetItemColors(row, column_peak, workbench::ReadableColour(::GetSysColor(COLOR_WINDOWTEXT), empty_bar_colour),
+                  analysis->levels.peak > 0.0 ? clipped_colour : bar_colour, XLISTCTRLDATA::no_gradient);
+    UpdateProgress(row, column_peak, std::max(workbench::LevelBarPercent(analysis->levels.peak), least_bar_percent), 0);
 
     auto const rms = AtRightEdge(workbench::FormatLevel(analysis->levels.rms));
     SetItemFloatVal(row, column_rms, static_cast<float>(analysis->levels.rms), rms.c_str());
@@ -247,7 +247,7 @@ void CRecordingList::MarkValue(int row, Column column)
 {
     // On a dark window the wash is dark as well, so that the text is read on all of it.
     auto const text = ::GetSysColor(COLOR_WINDOWTEXT);
-    SetItemColors(row, column, text, ::GetSysColor(COLOR_WINDOW), workbench::ReadableColour(c_damagedColour, text));
+    SetItemColors(row, column, text, ::GetSysColor(COLOR_WINDOW), workbench::ReadableColour(damaged_colour, text));
 }
 
 /// Leaves of the line what is known of its file, and makes it one that does not react.
@@ -275,7 +275,7 @@ void CRecordingList::DrawOverview(int row, CDC & dc, CRect const & rect, CRecord
     auto text = ::GetSysColor(COLOR_WINDOWTEXT);
     auto background = ::GetSysColor(COLOR_WINDOW);
     GetDrawColors(row, column_overview, text, background);
-    overview.Draw(dc, rect, c_barColour, background);
+    overview.Draw(dc, rect, bar_colour, background);
 }
 
 CRecordingList::Notes CRecordingList::NotesOf(int line) const

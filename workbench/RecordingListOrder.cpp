@@ -14,7 +14,7 @@ namespace
 {
 
 // The columns whose values are missing while a recording is being read, and if it cannot be.
-constexpr CRecordingList::Column c_valueColumns[] = {
+constexpr CRecordingList::Column value_columns[] = {
     CRecordingList::column_reference, CRecordingList::column_overview, CRecordingList::column_duration,
     CRecordingList::column_channels,  CRecordingList::column_rate,     CRecordingList::column_peak,
     CRecordingList::column_rms,       CRecordingList::column_date,     CRecordingList::column_rating};
@@ -33,7 +33,7 @@ bool HasOwnOrder(int column)
            column == CRecordingList::column_peak || column == CRecordingList::column_rating || HasWords(column);
 }
 
-constexpr std::size_t c_textRoom = 256; // characters
+constexpr std::size_t text_room = 256; // characters
 
 /// Whether a column goes along into a copy.
 bool IsCopied(int column)
@@ -117,7 +117,7 @@ std::vector<double> CRecordingList::RanksOfTexts(int column) const
 {
     auto const count = static_cast<std::size_t>(LineCount());
     std::vector<std::string> keys(count);
-    std::vector<wchar_t> buffer(c_textRoom);
+    std::vector<wchar_t> buffer(text_room);
     constexpr DWORD flags = LCMAP_SORTKEY | NORM_IGNORECASE;
     for (std::size_t row = 0; row < count; ++row)
     {
@@ -187,7 +187,7 @@ double CRecordingList::SortValue(int row)
 
 void CRecordingList::SortValuesLast(int row, bool last)
 {
-    for (auto const column : c_valueColumns)
+    for (auto const column : value_columns)
     {
         // The date is known of a file that cannot be read, too.
         if (last || column != column_date)
@@ -357,7 +357,7 @@ workbench::TextTable CRecordingList::TableOf(std::vector<int> const & rows, std:
         table.columns.push_back({title, (native.fmt & LVCFMT_JUSTIFYMASK) == LVCFMT_RIGHT});
     }
     auto const reference = PlaceOf(m_reference);
-    std::vector<wchar_t> buffer(c_textRoom);
+    std::vector<wchar_t> buffer(text_room);
     table.rows.reserve(rows.size());
     for (auto const row : rows)
     {

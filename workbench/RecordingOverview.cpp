@@ -7,8 +7,8 @@ namespace
 {
 
 // Pixels between the rectangle and the waveform.
-constexpr int c_marginX = 4;
-constexpr int c_marginY = 2;
+constexpr int margin_x = 4;
+constexpr int margin_y = 2;
 
 } // namespace
 
@@ -21,7 +21,7 @@ void CRecordingOverview::Draw(CDC & dc, CRect const & rect, COLORREF wave, COLOR
 {
     dc.FillSolidRect(rect, background);
     auto plot = rect;
-    plot.DeflateRect(c_marginX, c_marginY);
+    plot.DeflateRect(margin_x, margin_y);
     if (plot.Width() <= 0 || plot.Height() <= 0)
     {
         return;

@@ -7,8 +7,8 @@ namespace
 {
 
 // The text over whose width the system, too, takes the average for dialog units.
-constexpr wchar_t c_alphabet[] = L"ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
-constexpr int c_alphabetLength = 52;
+constexpr wchar_t alphabet[] = L"ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
+constexpr int alphabet_length = 52;
 
 } // namespace
 
@@ -35,10 +35,10 @@ ScreenMetrics::ScreenMetrics(int dotsPerInch)
     if (onScreen)
     {
         SelectScope const font(dc, m_font);
-        auto const extent = dc.GetTextExtent(c_alphabet, c_alphabetLength);
+        auto const extent = dc.GetTextExtent(alphabet, alphabet_length);
         TEXTMETRIC text{};
         dc.GetTextMetrics(&text);
-        m_averageWidth = (extent.cx + c_alphabetLength / 2) / c_alphabetLength;
+        m_averageWidth = (extent.cx + alphabet_length / 2) / alphabet_length;
         m_height = text.tmHeight;
     }
 }

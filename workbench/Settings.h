@@ -83,7 +83,7 @@ bool StoreColumnWidths(std::map<int, int> const & widths, int averageWidth);
 std::filesystem::path NotesFile();
 
 /// The number that stands for the language of the user's system.
-constexpr unsigned short c_usersDefaultLanguage = 1024;
+constexpr unsigned short users_default_language = 1024;
 
 /// The number of the display language last chosen; the user's default at first.
 unsigned short ReadLanguage();

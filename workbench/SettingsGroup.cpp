@@ -10,7 +10,7 @@ CSettingsGroup::CSettingsGroup(UINT templateId) : CPropertyPage3d(CDialog3d::NO_
 
 bool CSettingsGroup::HasDarkGround()
 {
-    return workbench::ContrastRatio(::GetSysColor(COLOR_BTNFACE), RGB(0, 0, 0)) < workbench::c_textContrast;
+    return workbench::ContrastRatio(::GetSysColor(COLOR_BTNFACE), RGB(0, 0, 0)) < workbench::text_contrast;
 }
 
 BOOL CSettingsGroup::OnInitDialog()

@@ -8,31 +8,31 @@
 #include "logic/TextFormat.h"
 #include "logic/Texts.h"
 
-using workbench::c_textOneLine;
 using workbench::DrawPlotLabel;
 using workbench::DrawPlotText;
 using workbench::Text;
+using workbench::text_one_line;
 using workbench::TextSize;
 
 namespace
 {
 
-constexpr COLORREF c_greyOutside = RGB(160, 160, 164);
+constexpr COLORREF grey_outside = RGB(160, 160, 164);
 
-constexpr UINT c_messageComputed = WM_APP + 1;
-constexpr UINT_PTR c_progressTimer = 1;
-constexpr UINT c_progressPeriod = 50; // milliseconds
-constexpr UINT c_progressId = 1;
+constexpr UINT message_computed = WM_APP + 1;
+constexpr UINT_PTR progress_timer = 1;
+constexpr UINT progress_period = 50; // milliseconds
+constexpr UINT progress_id = 1;
 
 /// The most points of a picture on a side, whatever the device.
-constexpr int c_longestSide = 4096;
+constexpr int longest_side = 4096;
 
 /// Levels with a label in the legend are so many entries apart.
-constexpr int c_entriesPerLabel = 8;
+constexpr int entries_per_label = 8;
 
 std::wstring LegendLabel(int entry)
 {
-    return std::to_wstring(std::lround(workbench::c_lowestScaleLevel + entry * workbench::c_decibelsPerEntry));
+    return std::to_wstring(std::lround(workbench::lowest_scale_level + entry * workbench::decibels_per_entry));
 }
 
 /// How a picture is stretched, with its way back.
@@ -53,7 +53,7 @@ private:
 struct BitmapHeader
 {
     BITMAPINFOHEADER header;
-    RGBQUAD colours[CSpectrogramView::c_colours];
+    RGBQUAD colours[CSpectrogramView::colour_count];
 };
 
 } // namespace
@@ -62,28 +62,28 @@ BEGIN_MESSAGE_MAP(CSpectrogramView, CBufferedView)
     ON_WM_SIZE()
     ON_WM_TIMER()
     ON_WM_DESTROY()
-    ON_MESSAGE(c_messageComputed, &CSpectrogramView::OnComputed)
+    ON_MESSAGE(message_computed, &CSpectrogramView::OnComputed)
 END_MESSAGE_MAP()
 
 CSpectrogramView::CSpectrogramView()
 {
-    for (int i = 0; i < workbench::c_scaleEntries; ++i)
+    for (int i = 0; i < workbench::scale_entries; ++i)
     {
-        auto const grey = static_cast<BYTE>(i * 255 / (workbench::c_scaleEntries - 1));
+        auto const grey = static_cast<BYTE>(i * 255 / (workbench::scale_entries - 1));
         m_colours[static_cast<std::size_t>(i)] = RGB(grey, grey, grey);
     }
-    m_colours.back() = c_greyOutside;
+    m_colours.back() = grey_outside;
 }
 
 bool CSpectrogramView::CreateView(CWnd & parent, UINT id, workbench::ScreenMetrics & metrics)
 {
     m_metrics = &metrics;
     if (!CreateBuffered(L"Spectrogram", WS_CLIPCHILDREN, CRect(), parent, id) ||
-        !m_progress.Create(WS_CHILD | PBS_SMOOTH, CRect(), this, c_progressId))
+        !m_progress.Create(WS_CHILD | PBS_SMOOTH, CRect(), this, progress_id))
     {
         return false;
     }
-    m_progress.SetRange32(0, workbench::SpectrogramJob::c_wholeProgress);
+    m_progress.SetRange32(0, workbench::SpectrogramJob::whole_progress);
     return true;
 }
 
@@ -91,7 +91,7 @@ void CSpectrogramView::EndJob()
 {
     if (m_job)
     {
-        KillTimer(c_progressTimer);
+        KillTimer(progress_timer);
         m_progress.ShowWindow(SW_HIDE);
         m_job.reset();
     }
@@ -103,9 +103,9 @@ void CSpectrogramView::ShowRecording(std::wstring name, std::filesystem::path co
     m_progress.SetPos(0);
     PlaceProgress();
     m_progress.ShowWindow(SW_SHOWNA);
-    SetTimer(c_progressTimer, c_progressPeriod, nullptr);
+    SetTimer(progress_timer, progress_period, nullptr);
     m_job = std::make_unique<workbench::SpectrogramJob>(
-        path, [window = GetSafeHwnd()] { ::PostMessageW(window, c_messageComputed, 0, 0); });
+        path, [window = GetSafeHwnd()] { ::PostMessageW(window, message_computed, 0, 0); });
 }
 
 void CSpectrogramView::ShowText(std::wstring title, std::wstring text)
@@ -124,7 +124,7 @@ void CSpectrogramView::SetColours(unsigned long const * scale)
     {
         return;
     }
-    std::copy_n(scale, c_colours, m_colours.begin());
+    std::copy_n(scale, colour_count, m_colours.begin());
     if (GetSafeHwnd() != nullptr)
     {
         Invalidate(FALSE);
@@ -148,7 +148,7 @@ LRESULT CSpectrogramView::OnComputed(WPARAM, LPARAM)
 
 void CSpectrogramView::OnTimer(UINT_PTR timer)
 {
-    if (timer == c_progressTimer && m_job)
+    if (timer == progress_timer && m_job)
     {
         m_progress.SetPos(m_job->Progress());
     }
@@ -239,7 +239,7 @@ void CSpectrogramView::DrawMessage(CDC & dc, CRect const & rect)
     {
         workbench::SelectScope const bold(dc, m_metrics->BoldFont());
         dc.SetTextColor(m_plotColours.text);
-        DrawPlotText(dc, m_title, area, DT_CENTER | c_textOneLine);
+        DrawPlotText(dc, m_title, area, DT_CENTER | text_one_line);
     }
     area.top += m_metrics->LineHeight() + m_metrics->Y(5);
     dc.SetTextColor(m_result ? m_plotColours.problem : m_plotColours.label);
@@ -253,11 +253,11 @@ int CSpectrogramView::DrawHeading(CDC & dc, CRect const & area)
     {
         workbench::SelectScope const bold(dc, m_metrics->BoldFont());
         dc.SetTextColor(m_plotColours.text);
-        DrawPlotText(dc, m_title, rect, DT_LEFT | c_textOneLine);
+        DrawPlotText(dc, m_title, rect, DT_LEFT | text_one_line);
     }
     rect.top += line + m_metrics->Y(1);
     dc.SetTextColor(m_plotColours.label);
-    DrawPlotText(dc, Details(), rect, DT_LEFT | c_textOneLine);
+    DrawPlotText(dc, Details(), rect, DT_LEFT | text_one_line);
     return rect.top + line + m_metrics->Y(2);
 }
 
@@ -268,7 +268,7 @@ std::wstring CSpectrogramView::Details() const
                    workbench::FormatDuration(info.frames, info.sampleRate);
     if (info.channels > 1)
     {
-        auto const shown = std::min<std::size_t>(info.channels, workbench::SpectrogramBuilder::c_maximumChannels);
+        auto const shown = std::min<std::size_t>(info.channels, workbench::SpectrogramBuilder::maximum_channels);
         details += std::wstring(L"  \u00B7  ") + Text(L"the loudest of") + L' ' +
                    workbench::FormatCount(shown, Text(L"channel"), Text(L"channels"));
     }
@@ -284,8 +284,8 @@ void CSpectrogramView::DrawPicture(CDC & dc, CRect const & rect)
     // As many points as the device has for it.
     CSize size = inside.Size();
     dc.LPtoDP(&size);
-    size.cx = std::clamp<int>(std::abs(size.cx), 1, c_longestSide);
-    size.cy = std::clamp<int>(std::abs(size.cy), 1, c_longestSide);
+    size.cx = std::clamp<int>(std::abs(size.cx), 1, longest_side);
+    size.cy = std::clamp<int>(std::abs(size.cy), 1, longest_side);
     if (m_picture.empty() || size != m_pictureSize)
     {
         m_picture = m_result->spectrogram.Picture(static_cast<std::size_t>(size.cx), static_cast<std::size_t>(size.cy));
@@ -314,8 +314,8 @@ void CSpectrogramView::DrawPicture(CDC & dc, CRect const & rect)
     bitmap.header.biBitCount = 8;
     bitmap.header.biCompression = BI_RGB;
     bitmap.header.biSizeImage = static_cast<DWORD>(bits.size());
-    bitmap.header.biClrUsed = static_cast<DWORD>(c_colours);
-    for (std::size_t i = 0; i < c_colours; ++i)
+    bitmap.header.biClrUsed = static_cast<DWORD>(colour_count);
+    for (std::size_t i = 0; i < colour_count; ++i)
     {
         auto const colour = m_colours[i];
         bitmap.colours[i] = {GetBValue(colour), GetGValue(colour), GetRValue(colour), 0};
@@ -343,14 +343,14 @@ void CSpectrogramView::DrawLegend(CDC & dc, CRect const & bar)
 {
     dc.FillSolidRect(bar, m_colours.back());
     auto const inside = CRect(bar.left + 1, bar.top + 1, bar.right - 1, bar.bottom - 1);
-    auto const y = [&](int entry) { return inside.bottom - entry * inside.Height() / workbench::c_scaleEntries; };
-    for (int i = 0; i < workbench::c_scaleEntries; ++i)
+    auto const y = [&](int entry) { return inside.bottom - entry * inside.Height() / workbench::scale_entries; };
+    for (int i = 0; i < workbench::scale_entries; ++i)
     {
         dc.FillSolidRect(CRect(inside.left, y(i + 1), inside.right, y(i)), m_colours[static_cast<std::size_t>(i)]);
     }
-    for (int i = 0; i <= workbench::c_scaleEntries; i += c_entriesPerLabel)
+    for (int i = 0; i <= workbench::scale_entries; i += entries_per_label)
     {
-        auto const label = LegendLabel(i) + (i == workbench::c_scaleEntries ? L" dB" : L"");
+        auto const label = LegendLabel(i) + (i == workbench::scale_entries ? L" dB" : L"");
         auto const size = TextSize(dc, label);
         auto const top = std::min<int>(y(i) - size.cy / 2, bar.bottom - size.cy);
         dc.FillSolidRect(bar.right, y(i), m_metrics->X(1), 1, m_plotColours.frame);

@@ -22,7 +22,7 @@ class CSpectrogramView : public CBufferedView
 {
 public:
     /// Entries of a colour table: the scale from the lowest level to the highest, and the colour outside it.
-    static constexpr std::size_t c_colours = workbench::c_scaleEntries + 1;
+    static constexpr std::size_t colour_count = workbench::scale_entries + 1;
 
     /// A view with a scale from black to white.
     CSpectrogramView();
@@ -37,7 +37,7 @@ public:
     /// Shows a text in place of a spectrogram: a title and a line below it, both may be empty.
     void ShowText(std::wstring title, std::wstring text);
 
-    /// Takes over a table of `c_colours` colours, red in the low byte; null is ignored.
+    /// Takes over a table of `colour_count` colours, red in the low byte; null is ignored.
     void SetColours(unsigned long const * scale);
 
     /// Whether a spectrogram is being computed.
@@ -76,7 +76,7 @@ private:
     std::wstring m_text;
     std::unique_ptr<workbench::SpectrogramJob> m_job;
     std::shared_ptr<workbench::SpectrogramJob::Result const> m_result;
-    std::array<COLORREF, c_colours> m_colours;
+    std::array<COLORREF, colour_count> m_colours;
     std::vector<std::uint8_t> m_picture; ///< as drawn last
     CSize m_pictureSize;
     bool m_printing = false;

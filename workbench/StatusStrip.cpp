@@ -13,13 +13,13 @@ namespace
 {
 
 // Lengths in dialog units.
-constexpr int c_height = 13;
-constexpr int c_barWidth = 90;
-constexpr int c_barHeight = 8;
-constexpr int c_buttonWidth = 50;
-constexpr int c_gap = 6;
+constexpr int strip_height = 13;
+constexpr int bar_width = 90;
+constexpr int bar_height = 8;
+constexpr int button_width = 50;
+constexpr int part_gap = 6;
 
-constexpr int c_barRange = 1000;
+constexpr int bar_range = 1000;
 
 } // namespace
 
@@ -30,7 +30,7 @@ END_MESSAGE_MAP()
 
 int CStatusStrip::Height(workbench::ScreenMetrics const & metrics)
 {
-    return metrics.Y(c_height);
+    return metrics.Y(strip_height);
 }
 
 bool CStatusStrip::CreateStrip(CWnd & parent, UINT id, workbench::ScreenMetrics & metrics)
@@ -52,7 +52,7 @@ bool CStatusStrip::CreateStrip(CWnd & parent, UINT id, workbench::ScreenMetrics 
     {
         m_text.SetFont(&metrics.Font());
         m_cancel.SetFont(&metrics.Font());
-        m_bar.SendMessage(PBM_SETRANGE32, 0, c_barRange);
+        m_bar.SendMessage(PBM_SETRANGE32, 0, bar_range);
     }
     return created;
 }
@@ -74,7 +74,7 @@ void CStatusStrip::ShowProgress(std::size_t done, std::size_t total)
     m_total = total;
     if (ShowsProgress())
     {
-        m_bar.SendMessage(PBM_SETPOS, static_cast<WPARAM>(m_done * c_barRange / m_total));
+        m_bar.SendMessage(PBM_SETPOS, static_cast<WPARAM>(m_done * bar_range / m_total));
     }
     if (shown == ShowsProgress())
     {
@@ -99,10 +99,10 @@ void CStatusStrip::Arrange()
     }
     CRect client;
     GetClientRect(&client);
-    auto const gap = m_metrics->X(c_gap);
-    auto const button = client.right - m_metrics->X(c_buttonWidth);
-    auto const bar = button - gap - m_metrics->X(c_barWidth);
-    auto const barHeight = m_metrics->Y(c_barHeight);
+    auto const gap = m_metrics->X(part_gap);
+    auto const button = client.right - m_metrics->X(button_width);
+    auto const bar = button - gap - m_metrics->X(bar_width);
+    auto const barHeight = m_metrics->Y(bar_height);
     m_cancel.MoveWindow(button, 0, client.right - button, client.bottom);
     m_bar.MoveWindow(bar, (client.bottom - barHeight) / 2, button - gap - bar, barHeight);
     auto const textEnd = static_cast<int>(ShowsProgress() ? bar - gap : client.right);

@@ -11,12 +11,12 @@
 namespace
 {
 
-constexpr ULONGLONG c_stepLimit = 10'000; // milliseconds that the script has for a picture
-constexpr ULONGLONG c_readLimit = 60'000; // milliseconds that reading the recordings may take
-constexpr DWORD c_pollInterval = 20;      // milliseconds
-constexpr int c_mostChecked = 3;
-constexpr int c_cursorPercent = 25;
-constexpr ULONGLONG c_settleTime = 300; // milliseconds for painting to reach the screen
+constexpr ULONGLONG step_limit = 10'000; // milliseconds that the script has for a picture
+constexpr ULONGLONG read_limit = 60'000; // milliseconds that reading the recordings may take
+constexpr DWORD poll_interval = 20;      // milliseconds
+constexpr int most_checked = 3;
+constexpr int cursor_percent = 25;
+constexpr ULONGLONG settle_time = 300; // milliseconds for painting to reach the screen
 
 /// Handles messages until the condition holds. False after the time limit, or when the program is told to quit.
 bool PumpUntil(std::function<bool()> const & holds, ULONGLONG limit)
@@ -28,7 +28,7 @@ bool PumpUntil(std::function<bool()> const & holds, ULONGLONG limit)
         {
             return false;
         }
-        ::MsgWaitForMultipleObjects(0, nullptr, FALSE, c_pollInterval, QS_ALLINPUT);
+        ::MsgWaitForMultipleObjects(0, nullptr, FALSE, poll_interval, QS_ALLINPUT);
         MSG message;
         while (::PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE))
         {
@@ -43,8 +43,8 @@ bool PumpUntil(std::function<bool()> const & holds, ULONGLONG limit)
 
 void Settle()
 {
-    auto const end = ::GetTickCount64() + c_settleTime;
-    PumpUntil([end] { return ::GetTickCount64() >= end; }, 2 * c_settleTime);
+    auto const end = ::GetTickCount64() + settle_time;
+    PumpUntil([end] { return ::GetTickCount64() >= end; }, 2 * settle_time);
 }
 
 } // namespace
@@ -69,7 +69,7 @@ CWalk::CWalk(CMainWindow & window, std::filesystem::path folder) : m_window(wind
 bool CWalk::WaitForRecordings()
 {
     return PumpUntil([this] { return !m_window.IsBusy() && !m_window.IsComputing() && !m_window.Folders().IsBusy(); },
-                     c_readLimit);
+                     read_limit);
 }
 
 bool CWalk::Resize(int left, int top, int width, int height)
@@ -108,7 +108,7 @@ bool CWalk::Step(char const * picture)
 {
     Settle();
     return WaitForRecordings() && ::IsWindow(m_window.GetSafeHwnd()) && WriteReady(picture) &&
-           PumpUntil([this] { return IsDone(); }, c_stepLimit);
+           PumpUntil([this] { return IsDone(); }, step_limit);
 }
 
 /// Takes the step while `enter` runs, which has a message loop of its own, as menus and modal dialogs have. In that
@@ -131,15 +131,15 @@ bool CWalk::StepInside(char const * picture, std::function<void()> const & enter
         ULONGLONG end;
     };
     static Visit * visit;
-    Visit present{*this, picture, leave, Phase::opening, ::GetTickCount64() + c_settleTime};
+    Visit present{*this, picture, leave, Phase::opening, ::GetTickCount64() + settle_time};
     visit = &present;
 
-    auto const timer = ::SetTimer(nullptr, 0, c_pollInterval, [](HWND, UINT, UINT_PTR timerId, DWORD) {
+    auto const timer = ::SetTimer(nullptr, 0, poll_interval, [](HWND, UINT, UINT_PTR timerId, DWORD) {
         auto const late = ::GetTickCount64() >= visit->end;
         if (visit->phase == Phase::opening && late)
         {
             visit->phase = visit->walk.WriteReady(visit->picture) ? Phase::waiting : Phase::failed;
-            visit->end = ::GetTickCount64() + c_stepLimit;
+            visit->end = ::GetTickCount64() + step_limit;
         }
         else if (visit->phase == Phase::waiting && (late || visit->walk.IsDone()))
         {
@@ -327,7 +327,7 @@ bool CWalk::CheckSome()
 {
     auto & list = m_window.List();
     auto checked = 0;
-    for (int line = 0; line < m_window.RecordingCount() && checked < c_mostChecked; line += 2)
+    for (int line = 0; line < m_window.RecordingCount() && checked < most_checked; line += 2)
     {
         if (list.GetCheckbox(line, CRecordingList::column_check) == XLC_UNCHECKED)
         {
@@ -391,7 +391,7 @@ bool CWalk::Run()
     m_window.ShowFolders(true);
     if (m_window.ChooseRecording(m_window.RecordingCount() / 2))
     {
-        m_window.MoveCursorToPart(c_cursorPercent);
+        m_window.MoveCursorToPart(cursor_percent);
         if (!Step("workbench-chosen"))
         {
             return false;

@@ -12,7 +12,7 @@ using workbench::Text;
 namespace
 {
 
-constexpr std::size_t c_gridWidth = 2;
+constexpr std::size_t grid_width = 2;
 
 /// A frame whose cells keep their shares of its size, at first the same.
 class CGridFrame : public CStandaloneFrameWnd
@@ -140,11 +140,11 @@ bool CWaveformFrame::Open(std::vector<Shown> recordings, workbench::Settings con
 
 CStandaloneFrameWnd * CWaveformFrame::CreateGrid()
 {
-    std::array<CRuntimeClass *, c_gridWidth * c_gridWidth> classes;
+    std::array<CRuntimeClass *, grid_width * grid_width> classes;
     classes.fill(RUNTIME_CLASS(CWaveformPanelView));
     auto * const frame = new CGridFrame;
     frame->BitteUmNachricht(this);
-    if (frame->SplitFrameErzeugen(m_name, c_gridWidth, c_gridWidth, classes.data()))
+    if (frame->SplitFrameErzeugen(m_name, grid_width, grid_width, classes.data()))
     {
         frame->Share();
         return frame;
@@ -210,9 +210,9 @@ CWaveformPanelView * CWaveformFrame::Cell(std::size_t cell) const
     {
         return nullptr;
     }
-    auto * const view = m_cells == 1 ? m_frame->GetDescendantWindow(AFX_IDW_PANE_FIRST, TRUE)
-                                     : m_frame->GetSplitPane(static_cast<int>(cell / c_gridWidth),
-                                                             static_cast<int>(cell % c_gridWidth));
+    auto * const view =
+        m_cells == 1 ? m_frame->GetDescendantWindow(AFX_IDW_PANE_FIRST, TRUE)
+                     : m_frame->GetSplitPane(static_cast<int>(cell / grid_width), static_cast<int>(cell % grid_width));
     return DYNAMIC_DOWNCAST(CWaveformPanelView, view);
 }
 

@@ -13,15 +13,15 @@ using workbench::Text;
 namespace
 {
 
-constexpr int c_steps = workbench::c_mostAmplification / workbench::c_amplificationStep;
-constexpr COLORREF c_levelColour = RGB(33, 102, 172);
-constexpr int c_iconSize = 32; // pixels, as the system draws icons
+constexpr int steps = workbench::most_amplification / workbench::amplification_step;
+constexpr COLORREF level_colour = RGB(33, 102, 172);
+constexpr int icon_size = 32; // pixels, as the system draws icons
 
 // Lengths in dialog units.
-constexpr int c_viewMargin = 6; // of the plot in the view
-constexpr int c_gap = 3;
-constexpr int c_sliderWidth = 18;
-constexpr int c_leastSliderHeight = 30;
+constexpr int view_margin = 6; // of the plot in the view
+constexpr int part_gap = 3;
+constexpr int slider_width = 18;
+constexpr int least_slider_height = 30;
 
 } // namespace
 
@@ -50,11 +50,11 @@ bool CWaveformPanel::CreatePanel(CWnd & parent, UINT id, workbench::ScreenMetric
 {
     m_metrics = &metrics;
     auto const windowClass = AfxRegisterWndClass(0, ::LoadCursorW(nullptr, IDC_ARROW));
-    constexpr DWORD sliderStyle = WS_CHILD | WS_TABSTOP | TBS_VERT | TBS_BOTH | TBS_NOTICKS;
+    constexpr DWORD slider_style = WS_CHILD | WS_TABSTOP | TBS_VERT | TBS_BOTH | TBS_NOTICKS;
     if (!CreateEx(WS_EX_CONTROLPARENT, windowClass, L"Waveform", WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN | WS_BORDER,
                   CRect(), &parent, id) ||
         !m_view.CreateView(*this, IDC_WAVEFORM, metrics) ||
-        !m_slider.Create(sliderStyle, CRect(), this, IDC_AMPLIFICATION) ||
+        !m_slider.Create(slider_style, CRect(), this, IDC_AMPLIFICATION) ||
         !m_fit.Create(Text(L"Fit waveform to its peak"), WS_CHILD | WS_TABSTOP, CRect(), this, IDC_FIT_AMPLIFICATION) ||
         !m_value.Create(L"", WS_CHILD | SS_CENTER | SS_NOPREFIX, CRect(), this) || !m_tips.Create(this))
     {
@@ -63,9 +63,9 @@ bool CWaveformPanel::CreatePanel(CWnd & parent, UINT id, workbench::ScreenMetric
     m_view.ModifyStyle(WS_BORDER, 0, SWP_FRAMECHANGED);
     m_value.SetFont(&metrics.Font());
     m_slider.SetWindowText(Text(L"Amplification"));
-    m_slider.SetMainColor(c_levelColour);
+    m_slider.SetMainColor(level_colour);
     // The position counts from the top, where the amplification is greatest.
-    m_slider.SetRange(0, c_steps);
+    m_slider.SetRange(0, steps);
     m_slider.SetLineSize(1);
     m_slider.SetPageSize(2);
     m_tips.AddTool(&m_slider, Text(L"Amplification of the waveform"));
@@ -106,7 +106,7 @@ void CWaveformPanel::OnSize(UINT type, int width, int height)
         margin = workbench::PlotMargins(dc, *m_metrics).right;
     }
     // The slider stands in what the view would leave free right of its plot.
-    auto const room = margin + m_metrics->X(c_viewMargin - c_gap);
+    auto const room = margin + m_metrics->X(view_margin - part_gap);
     m_view.SetRightRoom(room);
     m_view.MoveWindow(0, 0, std::max(width - room, 0), height);
     Arrange();
@@ -126,14 +126,14 @@ void CWaveformPanel::Arrange()
     ScreenToClient(&view);
     auto plot = m_view.PlotPlace();
     plot.OffsetRect(view.TopLeft());
-    auto const width = m_metrics->X(c_sliderWidth);
+    auto const width = m_metrics->X(slider_width);
     auto const centre = (view.right + client.right) / 2;
     auto const line = m_metrics->LineHeight();
     m_slider.MoveWindow(centre - width / 2, plot.top, width, std::max<int>(plot.Height(), 0));
     m_value.MoveWindow(view.right, plot.bottom + m_metrics->Y(1), client.right - view.right, line);
-    m_fit.MoveWindow(centre - c_iconSize / 2, std::max<int>((plot.top - c_iconSize) / 2, 0), c_iconSize, c_iconSize);
+    m_fit.MoveWindow(centre - icon_size / 2, std::max<int>((plot.top - icon_size) / 2, 0), icon_size, icon_size);
     auto const shows = m_view.ShowsRecording();
-    auto const fits = shows && plot.Height() >= m_metrics->Y(c_leastSliderHeight);
+    auto const fits = shows && plot.Height() >= m_metrics->Y(least_slider_height);
     auto const show = [this](CWnd & window, bool visible) {
         if (!visible && GetFocus() == &window)
         {
@@ -149,7 +149,7 @@ void CWaveformPanel::Arrange()
 void CWaveformPanel::ShowAmplification()
 {
     auto const amplification = m_view.Amplification();
-    m_slider.SetPos(c_steps - amplification / workbench::c_amplificationStep);
+    m_slider.SetPos(steps - amplification / workbench::amplification_step);
     m_slider.Invalidate();
     auto const sign = amplification > 0 ? L"+" : L"";
     m_value.SetWindowText((sign + std::to_wstring(amplification) + L" dB").c_str());
@@ -176,7 +176,7 @@ void CWaveformPanel::OnVScroll(UINT code, UINT position, CScrollBar * bar)
     CWnd::OnVScroll(code, position, bar);
     if (bar != nullptr && bar->m_hWnd == m_slider.m_hWnd)
     {
-        m_view.SetAmplification((c_steps - m_slider.GetPos()) * workbench::c_amplificationStep);
+        m_view.SetAmplification((steps - m_slider.GetPos()) * workbench::amplification_step);
     }
 }
 

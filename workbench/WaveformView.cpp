@@ -14,26 +14,26 @@
 namespace
 {
 
-using workbench::c_amplificationStep;
-using workbench::c_mostAmplification;
-using workbench::c_textLabel;
-using workbench::c_textOneLine;
+using workbench::amplification_step;
 using workbench::DrawPlotText;
+using workbench::most_amplification;
 using workbench::Text;
+using workbench::text_label;
+using workbench::text_one_line;
 using workbench::TextSize;
 
 // Colours on paper: of scope colours by their index. Lanes beyond the last colour begin again with the first.
-constexpr int c_laneColours[] = {7, 5, 3, 8, 19, 4};
-constexpr int c_clippedColour = 2;
+constexpr int lane_colours[] = {7, 5, 3, 8, 19, 4};
+constexpr int clipped_colour = 2;
 
-constexpr int c_leastLaneHeight = 3; // pixels
+constexpr int least_lane_height = 3; // pixels
 
 // Lengths in dialog units.
-constexpr int c_marginX = 6;
-constexpr int c_marginY = 5;
-constexpr int c_lineGap = 1;
-constexpr int c_headingGap = 3;
-constexpr int c_axisGap = 4;
+constexpr int margin_x = 6;
+constexpr int margin_y = 5;
+constexpr int line_gap = 1;
+constexpr int heading_gap = 3;
+constexpr int axis_gap = 4;
 
 } // namespace
 
@@ -101,13 +101,13 @@ void CWaveformView::Draw(CDC & dc, CRect const & client)
         return;
     }
     auto area = client;
-    area.DeflateRect(m_metrics->X(c_marginX), m_metrics->Y(c_marginY));
+    area.DeflateRect(m_metrics->X(margin_x), m_metrics->Y(margin_y));
     DrawHeading(dc, area);
     auto const plot = PlotIn(dc, client);
     auto const lanes = static_cast<int>(m_analysis->waveform.Lanes());
     auto const gap = lanes > 1 ? m_metrics->Y(lanes > 8 ? 1 : 4) : 0;
     auto const pitch = static_cast<double>(plot.Height() + gap) / std::max(lanes, 1);
-    if (plot.Width() < m_metrics->X(20) || pitch < gap + c_leastLaneHeight)
+    if (plot.Width() < m_metrics->X(20) || pitch < gap + least_lane_height)
     {
         return;
     }
@@ -144,11 +144,11 @@ CRect CWaveformView::PlotIn(CDC & dc, CRect const & client) const
 {
     workbench::PlotMargins const margins(dc, *m_metrics);
     auto plot = client;
-    plot.DeflateRect(m_metrics->X(c_marginX), m_metrics->Y(c_marginY));
+    plot.DeflateRect(m_metrics->X(margin_x), m_metrics->Y(margin_y));
     plot.top += HeadingHeight();
     plot.left += margins.left;
     plot.right -= margins.right - (m_printing ? 0 : m_rightRoom);
-    plot.bottom -= m_metrics->LineHeight() + m_metrics->Y(c_axisGap);
+    plot.bottom -= m_metrics->LineHeight() + m_metrics->Y(axis_gap);
     return plot;
 }
 
@@ -216,7 +216,7 @@ void CWaveformView::FitAmplification()
 /// The colour of a channel, or what stands for it on paper.
 COLORREF CWaveformView::Trace(std::size_t channel) const
 {
-    return m_printing ? Farbtabellen::DruckFarbe(c_laneColours[channel % std::size(c_laneColours)])
+    return m_printing ? Farbtabellen::DruckFarbe(lane_colours[channel % std::size(lane_colours)])
                       : workbench::TraceColour(m_colours, channel);
 }
 
@@ -322,10 +322,10 @@ void CWaveformView::OnKeyDown(UINT key, UINT repeat, UINT flags)
             MoveCursor(m_cursor + std::min(last - m_cursor, step));
             return;
         case VK_UP:
-            SetAmplification(std::min(m_amplification + c_amplificationStep, c_mostAmplification));
+            SetAmplification(std::min(m_amplification + amplification_step, most_amplification));
             return;
         case VK_DOWN:
-            SetAmplification(m_amplification - c_amplificationStep);
+            SetAmplification(m_amplification - amplification_step);
             return;
         case VK_HOME:
             MoveCursor(0);
@@ -346,8 +346,8 @@ BOOL CWaveformView::OnMouseWheel(UINT flags, short delta, CPoint point)
     {
         return CBufferedView::OnMouseWheel(flags, delta, point);
     }
-    auto const step = delta > 0 ? c_amplificationStep : -c_amplificationStep;
-    SetAmplification(std::clamp(m_amplification + step, 0, c_mostAmplification));
+    auto const step = delta > 0 ? amplification_step : -amplification_step;
+    SetAmplification(std::clamp(m_amplification + step, 0, most_amplification));
     return TRUE;
 }
 
@@ -372,7 +372,7 @@ void CWaveformView::DrawMessage(CDC & dc, CRect const & client)
     {
         workbench::SelectScope const bold(dc, m_metrics->BoldFont());
         dc.SetTextColor(m_plotColours.text);
-        DrawPlotText(dc, m_title, area, DT_CENTER | c_textOneLine);
+        DrawPlotText(dc, m_title, area, DT_CENTER | text_one_line);
     }
     area.top += line + m_metrics->Y(5);
     dc.SetTextColor(m_analysis ? m_plotColours.problem : m_plotColours.label);
@@ -387,27 +387,27 @@ bool CWaveformView::IsDamaged() const
 int CWaveformView::HeadingHeight() const
 {
     auto const lines = IsDamaged() ? 3 : 2;
-    return lines * (m_metrics->LineHeight() + m_metrics->Y(c_lineGap)) + m_metrics->Y(c_headingGap);
+    return lines * (m_metrics->LineHeight() + m_metrics->Y(line_gap)) + m_metrics->Y(heading_gap);
 }
 
 void CWaveformView::DrawHeading(CDC & dc, CRect const & area)
 {
-    auto const pitch = m_metrics->LineHeight() + m_metrics->Y(c_lineGap);
+    auto const pitch = m_metrics->LineHeight() + m_metrics->Y(line_gap);
     auto rect = area;
     {
         workbench::SelectScope const bold(dc, m_metrics->BoldFont());
         dc.SetTextColor(m_plotColours.text);
-        DrawPlotText(dc, m_title, rect, DT_LEFT | c_textOneLine);
+        DrawPlotText(dc, m_title, rect, DT_LEFT | text_one_line);
     }
     rect.top += pitch;
     dc.SetTextColor(m_plotColours.label);
-    DrawPlotText(dc, Details(), rect, DT_LEFT | c_textOneLine);
+    DrawPlotText(dc, Details(), rect, DT_LEFT | text_one_line);
     if (IsDamaged())
     {
         rect.top += pitch;
         dc.SetTextColor(m_plotColours.problem);
         DrawPlotText(dc, Text(L"This file is damaged") + (L": " + m_analysis->StatusText() + L'.'), rect,
-                     DT_LEFT | c_textOneLine);
+                     DT_LEFT | text_one_line);
     }
 }
 
@@ -472,7 +472,7 @@ void CWaveformView::DrawLane(CDC & dc, Lane const & lane, std::size_t index)
     };
     auto const waveColour = Trace(index);
     auto const clippedColour =
-        m_printing ? Farbtabellen::DruckFarbe(c_clippedColour) : workbench::ClippedColour(m_colours);
+        m_printing ? Farbtabellen::DruckFarbe(clipped_colour) : workbench::ClippedColour(m_colours);
     auto const & columns = Columns(index, inside.Width());
     auto previousTop = y(columns.front().greatest);
     auto previousBottom = y(columns.front().least);
@@ -502,7 +502,7 @@ void CWaveformView::DrawLane(CDC & dc, Lane const & lane, std::size_t index)
         dc.FillSolidRect(ground, Surroundings().ground);
         dc.SetBkMode(TRANSPARENT);
         dc.SetTextColor(Surroundings().label);
-        DrawPlotText(dc, name, label, DT_LEFT | c_textLabel);
+        DrawPlotText(dc, name, label, DT_LEFT | text_label);
     }
 }
 
@@ -517,7 +517,7 @@ void CWaveformView::DrawLevelGrid(CDC & dc, Lane const & lane)
             CRect const rect(0, y - line / 2, lane.rect.left - m_metrics->X(2), y - line / 2 + size.cy);
             dc.SetBkMode(TRANSPARENT);
             dc.SetTextColor(m_plotColours.label);
-            DrawPlotText(dc, label, rect, DT_RIGHT | c_textLabel);
+            DrawPlotText(dc, label, rect, DT_RIGHT | text_label);
         }
     };
     for (auto const & level : workbench::LevelLines(lane.halfHeight, line + m_metrics->Y(1), m_amplification))

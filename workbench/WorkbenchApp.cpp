@@ -15,10 +15,10 @@
 namespace
 {
 
-constexpr wchar_t c_company[] = L"Instrument Suite";
-constexpr wchar_t c_application[] = L"Instrument Workbench";
+constexpr wchar_t company[] = L"Instrument Suite";
+constexpr wchar_t application_name[] = L"Instrument Workbench";
 
-constexpr UINT c_messageStartWalk = WM_APP + 1;
+constexpr UINT message_start_walk = WM_APP + 1;
 
 std::vector<std::wstring> Arguments()
 {
@@ -38,13 +38,13 @@ std::vector<std::wstring> Arguments()
 CWorkbenchApp theApp;
 
 BEGIN_MESSAGE_MAP(CWorkbenchApp, CWinAppEx)
-    ON_THREAD_MESSAGE(c_messageStartWalk, &CWorkbenchApp::OnStartWalk)
+    ON_THREAD_MESSAGE(message_start_walk, &CWorkbenchApp::OnStartWalk)
 END_MESSAGE_MAP()
 
 // A desktop that is not MFC's names the application only so.
 CWorkbenchApp::CWorkbenchApp()
 {
-    m_pszAppName = _wcsdup(c_application);
+    m_pszAppName = _wcsdup(application_name);
 }
 
 CWorkbenchApp::~CWorkbenchApp() = default;
@@ -62,8 +62,8 @@ BOOL CWorkbenchApp::InitInstance()
         m_exitCode = 2;
         return FALSE;
     }
-    SetRegistryKey(c_company);
-    m_preferences = std::make_unique<RegistryPreferenceStore>(CString(c_company), CString(c_application));
+    SetRegistryKey(company);
+    m_preferences = std::make_unique<RegistryPreferenceStore>(CString(company), CString(application_name));
     CVeskBase::SetPreferenceVesk(m_preferences.get());
 
     m_graphics = std::make_unique<workbench::GraphicsScope>();
@@ -85,7 +85,7 @@ BOOL CWorkbenchApp::InitInstance()
     m_mainWindow->ShowTargets(std::move(targets));
     if (m_commandLine.mode != workbench::RunMode::Interactive)
     {
-        PostThreadMessage(c_messageStartWalk, 0, 0);
+        PostThreadMessage(message_start_walk, 0, 0);
     }
     return TRUE;
 }

@@ -28,9 +28,18 @@ public:
     }
 
 private:
-    afx_msg void OnSize(UINT, int, int) { if (m_layout) m_layout->OnSize(); }
+    afx_msg void OnSize(UINT, int, int)
+    {
+        if (m_layout)
+            m_layout->OnSize();
+    }
     afx_msg void OnCancel() { SendMessage(WM_CLOSE); }
-    afx_msg void OnDestroy() { m_place.CalcMyPosition(this); m_place.SaveMyPosition(true); PostQuitMessage(0); }
+    afx_msg void OnDestroy()
+    {
+        m_place.CalcMyPosition(this);
+        m_place.SaveMyPosition(true);
+        PostQuitMessage(0);
+    }
 
     CButton m_close;
     CDigiStatic m_reading;

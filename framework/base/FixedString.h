@@ -70,7 +70,8 @@ class CFixedStringT : private framework::FixedStringManager<typename StringType:
 public:
     CFixedStringT() noexcept : CFixedStringT(StringType::StrTraits::GetDefaultManager()) {}
     explicit CFixedStringT(IAtlStringMgr * pStringMgr) noexcept
-        : Manager(pStringMgr), StringType(static_cast<Manager *>(this))
+        : Manager(pStringMgr),
+          StringType(static_cast<Manager *>(this))
     {
     }
     CFixedStringT(CFixedStringT const & strSrc) : CFixedStringT() { *this = strSrc; }

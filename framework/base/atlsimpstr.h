@@ -61,10 +61,7 @@ struct CStringData
     }
 
 private:
-    long Refs() const noexcept
-    {
-        return std::atomic_ref(const_cast<long &>(nRefs)).load(std::memory_order_acquire);
-    }
+    long Refs() const noexcept { return std::atomic_ref(const_cast<long &>(nRefs)).load(std::memory_order_acquire); }
 };
 
 template <class BaseType> struct ChTraitsBase;

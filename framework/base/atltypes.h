@@ -19,10 +19,7 @@ public:
     CSize(int initCX, int initCY) noexcept : tagSIZE{initCX, initCY} {}
     CSize(SIZE initSize) noexcept : tagSIZE(initSize) {}
     CSize(POINT initPt) noexcept : tagSIZE{initPt.x, initPt.y} {}
-    CSize(DWORD dwSize) noexcept
-        : tagSIZE{static_cast<short>(LOWORD(dwSize)), static_cast<short>(HIWORD(dwSize))}
-    {
-    }
+    CSize(DWORD dwSize) noexcept : tagSIZE{static_cast<short>(LOWORD(dwSize)), static_cast<short>(HIWORD(dwSize))} {}
 
     BOOL operator==(SIZE size) const noexcept { return cx == size.cx && cy == size.cy; }
     BOOL operator==(CSize const & size) const noexcept { return cx == size.cx && cy == size.cy; }
@@ -55,8 +52,7 @@ public:
     CPoint(int initX, int initY) noexcept : tagPOINT{initX, initY} {}
     CPoint(POINT initPt) noexcept : tagPOINT(initPt) {}
     CPoint(SIZE initSize) noexcept : tagPOINT{initSize.cx, initSize.cy} {}
-    CPoint(LPARAM dwPoint) noexcept
-        : tagPOINT{static_cast<short>(LOWORD(dwPoint)), static_cast<short>(HIWORD(dwPoint))}
+    CPoint(LPARAM dwPoint) noexcept : tagPOINT{static_cast<short>(LOWORD(dwPoint)), static_cast<short>(HIWORD(dwPoint))}
     {
     }
 
@@ -123,10 +119,7 @@ public:
 
     void InflateRect(int x, int y) noexcept { ::InflateRect(this, x, y); }
     void InflateRect(SIZE size) noexcept { ::InflateRect(this, size.cx, size.cy); }
-    void InflateRect(LPCRECT lpRect) noexcept
-    {
-        InflateRect(lpRect->left, lpRect->top, lpRect->right, lpRect->bottom);
-    }
+    void InflateRect(LPCRECT lpRect) noexcept { InflateRect(lpRect->left, lpRect->top, lpRect->right, lpRect->bottom); }
     void InflateRect(int l, int t, int r, int b) noexcept
     {
         left -= l;
@@ -136,10 +129,7 @@ public:
     }
     void DeflateRect(int x, int y) noexcept { ::InflateRect(this, -x, -y); }
     void DeflateRect(SIZE size) noexcept { ::InflateRect(this, -size.cx, -size.cy); }
-    void DeflateRect(LPCRECT lpRect) noexcept
-    {
-        DeflateRect(lpRect->left, lpRect->top, lpRect->right, lpRect->bottom);
-    }
+    void DeflateRect(LPCRECT lpRect) noexcept { DeflateRect(lpRect->left, lpRect->top, lpRect->right, lpRect->bottom); }
     void DeflateRect(int l, int t, int r, int b) noexcept
     {
         left += l;
@@ -195,14 +185,38 @@ public:
     void operator&=(RECT const & rect) noexcept { ::IntersectRect(this, this, &rect); }
     void operator|=(RECT const & rect) noexcept { ::UnionRect(this, this, &rect); }
 
-    CRect operator+(POINT point) const noexcept { return With(*this, [&](CRect & r) { r += point; }); }
-    CRect operator+(SIZE size) const noexcept { return With(*this, [&](CRect & r) { r += size; }); }
-    CRect operator+(LPCRECT lpRect) const noexcept { return With(*this, [&](CRect & r) { r += lpRect; }); }
-    CRect operator-(POINT point) const noexcept { return With(*this, [&](CRect & r) { r -= point; }); }
-    CRect operator-(SIZE size) const noexcept { return With(*this, [&](CRect & r) { r -= size; }); }
-    CRect operator-(LPCRECT lpRect) const noexcept { return With(*this, [&](CRect & r) { r -= lpRect; }); }
-    CRect operator&(RECT const & rect2) const noexcept { return With(*this, [&](CRect & r) { r &= rect2; }); }
-    CRect operator|(RECT const & rect2) const noexcept { return With(*this, [&](CRect & r) { r |= rect2; }); }
+    CRect operator+(POINT point) const noexcept
+    {
+        return With(*this, [&](CRect & r) { r += point; });
+    }
+    CRect operator+(SIZE size) const noexcept
+    {
+        return With(*this, [&](CRect & r) { r += size; });
+    }
+    CRect operator+(LPCRECT lpRect) const noexcept
+    {
+        return With(*this, [&](CRect & r) { r += lpRect; });
+    }
+    CRect operator-(POINT point) const noexcept
+    {
+        return With(*this, [&](CRect & r) { r -= point; });
+    }
+    CRect operator-(SIZE size) const noexcept
+    {
+        return With(*this, [&](CRect & r) { r -= size; });
+    }
+    CRect operator-(LPCRECT lpRect) const noexcept
+    {
+        return With(*this, [&](CRect & r) { r -= lpRect; });
+    }
+    CRect operator&(RECT const & rect2) const noexcept
+    {
+        return With(*this, [&](CRect & r) { r &= rect2; });
+    }
+    CRect operator|(RECT const & rect2) const noexcept
+    {
+        return With(*this, [&](CRect & r) { r |= rect2; });
+    }
 
 private:
     static void Swap(LONG & a, LONG & b) noexcept

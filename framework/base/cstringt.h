@@ -65,7 +65,10 @@ public:
         framework::AppendConverted(*this, pch, nLength);
     }
 #if defined(_WIN32)
-    CSTRING_EXPLICIT CStringT(VARIANT const & varSrc) : CStringT() { framework::AppendVariant(*this, varSrc); }
+    CSTRING_EXPLICIT CStringT(VARIANT const & varSrc) : CStringT()
+    {
+        framework::AppendVariant(*this, varSrc);
+    }
     CStringT(VARIANT const & varSrc, IAtlStringMgr * pStringMgr) : CThisSimpleString(pStringMgr)
     {
         framework::AppendVariant(*this, varSrc);
@@ -94,9 +97,18 @@ public:
         framework::AppendConverted(converted, pszSrc, CSimpleStringT<YCHAR>::StringLength(pszSrc));
         return *this = converted;
     }
-    CStringT & operator=(unsigned char const * pszSrc) { return *this = CStringT(pszSrc); }
-    CStringT & operator=(char ch) { return AssignCharacter(Widen(ch)); }
-    CStringT & operator=(wchar_t ch) { return AssignCharacter(Widen(ch)); }
+    CStringT & operator=(unsigned char const * pszSrc)
+    {
+        return *this = CStringT(pszSrc);
+    }
+    CStringT & operator=(char ch)
+    {
+        return AssignCharacter(Widen(ch));
+    }
+    CStringT & operator=(wchar_t ch)
+    {
+        return AssignCharacter(Widen(ch));
+    }
 
     CStringT & operator+=(CThisSimpleString const & str)
     {
@@ -118,12 +130,24 @@ public:
         framework::AppendConverted(*this, pszSrc, CSimpleStringT<YCHAR>::StringLength(pszSrc));
         return *this;
     }
-    CStringT & operator+=(char ch) { return AppendCharacter(Widen(ch)); }
-    CStringT & operator+=(unsigned char ch) { return AppendCharacter(static_cast<XCHAR>(ch)); }
-    CStringT & operator+=(wchar_t ch) { return AppendCharacter(Widen(ch)); }
+    CStringT & operator+=(char ch)
+    {
+        return AppendCharacter(Widen(ch));
+    }
+    CStringT & operator+=(unsigned char ch)
+    {
+        return AppendCharacter(static_cast<XCHAR>(ch));
+    }
+    CStringT & operator+=(wchar_t ch)
+    {
+        return AppendCharacter(Widen(ch));
+    }
 
 #if defined(_WIN32)
-    CStringT & operator=(VARIANT const & var) { return *this = CStringT(var); }
+    CStringT & operator=(VARIANT const & var)
+    {
+        return *this = CStringT(var);
+    }
     CStringT & operator+=(VARIANT const & var)
     {
         framework::AppendVariant(*this, var);
@@ -135,8 +159,14 @@ public:
     {
         return framework::LoadText(*this, hInstance, nID, &wLanguageID);
     }
-    BOOL LoadString(HINSTANCE hInstance, UINT nID) { return framework::LoadText(*this, hInstance, nID, nullptr); }
-    BOOL LoadString(UINT nID) { return framework::LoadText(*this, nID); }
+    BOOL LoadString(HINSTANCE hInstance, UINT nID)
+    {
+        return framework::LoadText(*this, hInstance, nID, nullptr);
+    }
+    BOOL LoadString(UINT nID)
+    {
+        return framework::LoadText(*this, nID);
+    }
 
     BSTR AllocSysString() const
     {
@@ -150,13 +180,11 @@ public:
         return *pbstr;
     }
 
-    void AnsiToOem()
-    requires std::is_same_v<BaseType, char>
+    void AnsiToOem() requires std::is_same_v<BaseType, char>
     {
         ::CharToOemBuffA(this->GetString(), this->GetBuffer(), static_cast<DWORD>(this->GetLength()));
     }
-    void OemToAnsi()
-    requires std::is_same_v<BaseType, char>
+    void OemToAnsi() requires std::is_same_v<BaseType, char>
     {
         ::OemToCharBuffA(this->GetString(), this->GetBuffer(), static_cast<DWORD>(this->GetLength()));
     }
@@ -215,15 +243,24 @@ public:
         return found;
     }
 
-    int Collate(PCXSTR psz) const noexcept { return framework::CollateText(this->GetString(), psz, false); }
-    int CollateNoCase(PCXSTR psz) const noexcept { return framework::CollateText(this->GetString(), psz, true); }
+    int Collate(PCXSTR psz) const noexcept
+    {
+        return framework::CollateText(this->GetString(), psz, false);
+    }
+    int CollateNoCase(PCXSTR psz) const noexcept
+    {
+        return framework::CollateText(this->GetString(), psz, true);
+    }
     int Compare(PCXSTR psz) const
     {
         if (psz == nullptr)
             AtlThrow(E_INVALIDARG);
         return framework::CompareText(this->GetString(), psz, false);
     }
-    int CompareNoCase(PCXSTR psz) const noexcept { return framework::CompareText(this->GetString(), psz, true); }
+    int CompareNoCase(PCXSTR psz) const noexcept
+    {
+        return framework::CompareText(this->GetString(), psz, true);
+    }
 
     int Delete(int iIndex, int nCount = 1)
     {
@@ -238,7 +275,10 @@ public:
         this->ReleaseBufferSetLength(left);
         return left;
     }
-    int Insert(int iIndex, XCHAR ch) { return InsertText(iIndex, &ch, 1); }
+    int Insert(int iIndex, XCHAR ch)
+    {
+        return InsertText(iIndex, &ch, 1);
+    }
     int Insert(int iIndex, PCXSTR psz)
     {
         CStringT const text(psz == nullptr ? CStringT() : CStringT(psz, CThisSimpleString::StringLength(psz)));
@@ -332,8 +372,14 @@ public:
         return at == View::npos ? -1 : static_cast<int>(at);
     }
 
-    CStringT Left(int nCount) const { return Mid(0, nCount); }
-    CStringT Mid(int iFirst) const { return Mid(iFirst, this->GetLength()); }
+    CStringT Left(int nCount) const
+    {
+        return Mid(0, nCount);
+    }
+    CStringT Mid(int iFirst) const
+    {
+        return Mid(iFirst, this->GetLength());
+    }
     /// Bounds outside the text are moved to its ends.
     CStringT Mid(int iFirst, int nCount) const
     {
@@ -405,9 +451,18 @@ public:
         return *this;
     }
 
-    CStringT & Trim() { return TrimRight().TrimLeft(); }
-    CStringT & Trim(XCHAR chTarget) { return TrimRight(chTarget).TrimLeft(chTarget); }
-    CStringT & Trim(PCXSTR pszTargets) { return TrimRight(pszTargets).TrimLeft(pszTargets); }
+    CStringT & Trim()
+    {
+        return TrimRight().TrimLeft();
+    }
+    CStringT & Trim(XCHAR chTarget)
+    {
+        return TrimRight(chTarget).TrimLeft(chTarget);
+    }
+    CStringT & Trim(PCXSTR pszTargets)
+    {
+        return TrimRight(pszTargets).TrimLeft(pszTargets);
+    }
     CStringT & TrimLeft()
     {
         return TrimLeftWhere([](XCHAR ch) { return framework::IsSpaceCharacter(ch); });
@@ -433,49 +488,163 @@ public:
         return TrimRightWhere([=](XCHAR ch) { return ViewOf(pszTargets).find(ch) != View::npos; });
     }
 
-    friend CStringT operator+(CStringT const & str1, CStringT const & str2) { return Joined(str1, str2); }
-    friend CStringT operator+(CStringT const & str1, PCXSTR psz2) { return Joined(str1, psz2); }
-    friend CStringT operator+(PCXSTR psz1, CStringT const & str2) { return Joined(psz1, str2); }
-    friend CStringT operator+(CStringT const & str1, char ch2) { return Joined(str1, CStringT(ch2)); }
-    friend CStringT operator+(char ch1, CStringT const & str2) { return Joined(CStringT(ch1), str2); }
-    friend CStringT operator+(CStringT const & str1, wchar_t ch2) { return Joined(str1, CStringT(ch2)); }
-    friend CStringT operator+(wchar_t ch1, CStringT const & str2) { return Joined(CStringT(ch1), str2); }
+    friend CStringT operator+(CStringT const & str1, CStringT const & str2)
+    {
+        return Joined(str1, str2);
+    }
+    friend CStringT operator+(CStringT const & str1, PCXSTR psz2)
+    {
+        return Joined(str1, psz2);
+    }
+    friend CStringT operator+(PCXSTR psz1, CStringT const & str2)
+    {
+        return Joined(psz1, str2);
+    }
+    friend CStringT operator+(CStringT const & str1, char ch2)
+    {
+        return Joined(str1, CStringT(ch2));
+    }
+    friend CStringT operator+(char ch1, CStringT const & str2)
+    {
+        return Joined(CStringT(ch1), str2);
+    }
+    friend CStringT operator+(CStringT const & str1, wchar_t ch2)
+    {
+        return Joined(str1, CStringT(ch2));
+    }
+    friend CStringT operator+(wchar_t ch1, CStringT const & str2)
+    {
+        return Joined(CStringT(ch1), str2);
+    }
 
-    friend bool operator==(CStringT const & str1, CStringT const & str2) noexcept { return Order(str1, str2) == 0; }
-    friend bool operator==(CStringT const & str1, PCXSTR psz2) noexcept { return Order(str1, psz2) == 0; }
-    friend bool operator==(CStringT const & str1, PCYSTR psz2) noexcept { return Order(str1, CStringT(psz2)) == 0; }
-    friend bool operator==(CStringT const & str1, XCHAR ch2) noexcept { return OrderCharacter(str1, ch2) == 0; }
-    friend bool operator==(PCXSTR psz1, CStringT const & str2) noexcept { return Order(psz1, str2) == 0; }
-    friend bool operator==(PCYSTR psz1, CStringT const & str2) noexcept { return Order(CStringT(psz1), str2) == 0; }
-    friend bool operator==(XCHAR ch1, CStringT const & str2) noexcept { return OrderCharacter(str2, ch1) == 0; }
-    friend bool operator!=(CStringT const & str1, CStringT const & str2) noexcept { return Order(str1, str2) != 0; }
-    friend bool operator!=(CStringT const & str1, PCXSTR psz2) noexcept { return Order(str1, psz2) != 0; }
-    friend bool operator!=(CStringT const & str1, PCYSTR psz2) noexcept { return Order(str1, CStringT(psz2)) != 0; }
-    friend bool operator!=(CStringT const & str1, XCHAR ch2) noexcept { return OrderCharacter(str1, ch2) != 0; }
-    friend bool operator!=(PCXSTR psz1, CStringT const & str2) noexcept { return Order(psz1, str2) != 0; }
-    friend bool operator!=(PCYSTR psz1, CStringT const & str2) noexcept { return Order(CStringT(psz1), str2) != 0; }
-    friend bool operator!=(XCHAR ch1, CStringT const & str2) noexcept { return OrderCharacter(str2, ch1) != 0; }
-    friend bool operator<(CStringT const & str1, CStringT const & str2) noexcept { return Order(str1, str2) < 0; }
-    friend bool operator<(CStringT const & str1, PCXSTR psz2) noexcept { return Order(str1, psz2) < 0; }
-    friend bool operator<(PCXSTR psz1, CStringT const & str2) noexcept { return Order(psz1, str2) < 0; }
-    friend bool operator>(CStringT const & str1, CStringT const & str2) noexcept { return Order(str1, str2) > 0; }
-    friend bool operator>(CStringT const & str1, PCXSTR psz2) noexcept { return Order(str1, psz2) > 0; }
-    friend bool operator>(PCXSTR psz1, CStringT const & str2) noexcept { return Order(psz1, str2) > 0; }
-    friend bool operator<=(CStringT const & str1, CStringT const & str2) noexcept { return Order(str1, str2) <= 0; }
-    friend bool operator<=(CStringT const & str1, PCXSTR psz2) noexcept { return Order(str1, psz2) <= 0; }
-    friend bool operator<=(PCXSTR psz1, CStringT const & str2) noexcept { return Order(psz1, str2) <= 0; }
-    friend bool operator>=(CStringT const & str1, CStringT const & str2) noexcept { return Order(str1, str2) >= 0; }
-    friend bool operator>=(CStringT const & str1, PCXSTR psz2) noexcept { return Order(str1, psz2) >= 0; }
-    friend bool operator>=(PCXSTR psz1, CStringT const & str2) noexcept { return Order(psz1, str2) >= 0; }
+    friend bool operator==(CStringT const & str1, CStringT const & str2) noexcept
+    {
+        return Order(str1, str2) == 0;
+    }
+    friend bool operator==(CStringT const & str1, PCXSTR psz2) noexcept
+    {
+        return Order(str1, psz2) == 0;
+    }
+    friend bool operator==(CStringT const & str1, PCYSTR psz2) noexcept
+    {
+        return Order(str1, CStringT(psz2)) == 0;
+    }
+    friend bool operator==(CStringT const & str1, XCHAR ch2) noexcept
+    {
+        return OrderCharacter(str1, ch2) == 0;
+    }
+    friend bool operator==(PCXSTR psz1, CStringT const & str2) noexcept
+    {
+        return Order(psz1, str2) == 0;
+    }
+    friend bool operator==(PCYSTR psz1, CStringT const & str2) noexcept
+    {
+        return Order(CStringT(psz1), str2) == 0;
+    }
+    friend bool operator==(XCHAR ch1, CStringT const & str2) noexcept
+    {
+        return OrderCharacter(str2, ch1) == 0;
+    }
+    friend bool operator!=(CStringT const & str1, CStringT const & str2) noexcept
+    {
+        return Order(str1, str2) != 0;
+    }
+    friend bool operator!=(CStringT const & str1, PCXSTR psz2) noexcept
+    {
+        return Order(str1, psz2) != 0;
+    }
+    friend bool operator!=(CStringT const & str1, PCYSTR psz2) noexcept
+    {
+        return Order(str1, CStringT(psz2)) != 0;
+    }
+    friend bool operator!=(CStringT const & str1, XCHAR ch2) noexcept
+    {
+        return OrderCharacter(str1, ch2) != 0;
+    }
+    friend bool operator!=(PCXSTR psz1, CStringT const & str2) noexcept
+    {
+        return Order(psz1, str2) != 0;
+    }
+    friend bool operator!=(PCYSTR psz1, CStringT const & str2) noexcept
+    {
+        return Order(CStringT(psz1), str2) != 0;
+    }
+    friend bool operator!=(XCHAR ch1, CStringT const & str2) noexcept
+    {
+        return OrderCharacter(str2, ch1) != 0;
+    }
+    friend bool operator<(CStringT const & str1, CStringT const & str2) noexcept
+    {
+        return Order(str1, str2) < 0;
+    }
+    friend bool operator<(CStringT const & str1, PCXSTR psz2) noexcept
+    {
+        return Order(str1, psz2) < 0;
+    }
+    friend bool operator<(PCXSTR psz1, CStringT const & str2) noexcept
+    {
+        return Order(psz1, str2) < 0;
+    }
+    friend bool operator>(CStringT const & str1, CStringT const & str2) noexcept
+    {
+        return Order(str1, str2) > 0;
+    }
+    friend bool operator>(CStringT const & str1, PCXSTR psz2) noexcept
+    {
+        return Order(str1, psz2) > 0;
+    }
+    friend bool operator>(PCXSTR psz1, CStringT const & str2) noexcept
+    {
+        return Order(psz1, str2) > 0;
+    }
+    friend bool operator<=(CStringT const & str1, CStringT const & str2) noexcept
+    {
+        return Order(str1, str2) <= 0;
+    }
+    friend bool operator<=(CStringT const & str1, PCXSTR psz2) noexcept
+    {
+        return Order(str1, psz2) <= 0;
+    }
+    friend bool operator<=(PCXSTR psz1, CStringT const & str2) noexcept
+    {
+        return Order(psz1, str2) <= 0;
+    }
+    friend bool operator>=(CStringT const & str1, CStringT const & str2) noexcept
+    {
+        return Order(str1, str2) >= 0;
+    }
+    friend bool operator>=(CStringT const & str1, PCXSTR psz2) noexcept
+    {
+        return Order(str1, psz2) >= 0;
+    }
+    friend bool operator>=(PCXSTR psz1, CStringT const & str2) noexcept
+    {
+        return Order(psz1, str2) >= 0;
+    }
 
 private:
     using View = std::basic_string_view<XCHAR>;
 
-    static View ViewOf(PCXSTR text) noexcept { return text == nullptr ? View() : View(text); }
-    View ThisView() const noexcept { return View(this->GetString(), static_cast<size_t>(this->GetLength())); }
-    static XCHAR Widen(char ch) noexcept { return static_cast<XCHAR>(static_cast<unsigned char>(ch)); }
-    static XCHAR Widen(wchar_t ch) noexcept { return static_cast<XCHAR>(ch); }
-    static int Order(PCXSTR a, PCXSTR b) noexcept { return framework::CompareText(a, b, false); }
+    static View ViewOf(PCXSTR text) noexcept
+    {
+        return text == nullptr ? View() : View(text);
+    }
+    View ThisView() const noexcept
+    {
+        return View(this->GetString(), static_cast<size_t>(this->GetLength()));
+    }
+    static XCHAR Widen(char ch) noexcept
+    {
+        return static_cast<XCHAR>(static_cast<unsigned char>(ch));
+    }
+    static XCHAR Widen(wchar_t ch) noexcept
+    {
+        return static_cast<XCHAR>(ch);
+    }
+    static int Order(PCXSTR a, PCXSTR b) noexcept
+    {
+        return framework::CompareText(a, b, false);
+    }
     static int OrderCharacter(CStringT const & string, XCHAR ch) noexcept
     {
         return string.GetLength() == 1 && string.GetString()[0] == ch ? 0 : 1;

@@ -10,7 +10,7 @@ namespace framework
 {
 namespace
 {
-constexpr int unknownExtent = 100; // of what has never been laid out
+constexpr int unknown_extent = 100; // of what has never been laid out
 
 bool IsAcross(DockSide side)
 {
@@ -518,7 +518,7 @@ bool DockLayout::InsertBeside(DockNode & place, UINT beside, DockSide side, Dock
         if (along)
         {
             TakeArranged(place);
-            node.extent = extent > 0 ? extent : unknownExtent;
+            node.extent = extent > 0 ? extent : unknown_extent;
             place.children.insert(before ? place.children.begin() : place.children.end(), std::move(node));
             return true;
         }
@@ -528,7 +528,7 @@ bool DockLayout::InsertBeside(DockNode & place, UINT beside, DockSide side, Dock
         split.across = across;
         split.id = NewId();
         split.extent = place.extent;
-        node.extent = extent > 0 ? extent : length > 0 ? std::max(1, length / 2) : unknownExtent;
+        node.extent = extent > 0 ? extent : length > 0 ? std::max(1, length / 2) : unknown_extent;
         DockNode former = std::move(place);
         former.extent = length > 0 ? std::max(1, length - node.extent) : node.extent;
         split.children.push_back(std::move(former));

@@ -11,7 +11,7 @@ namespace
 {
 constexpr std::uint32_t mark = 0x4B434F44; // "DOCK"
 constexpr std::uint32_t version = 1;       // stored layouts of another version are passed over
-constexpr std::uint32_t mostPanes = 2000;
+constexpr std::uint32_t most_panes = 2000;
 constexpr int deepest = 1000;
 constexpr std::int32_t largest = 1000000; // of coordinates and extents
 
@@ -150,7 +150,7 @@ struct DockLayoutStore
         node.extent = reader.Extent();
         node.active = reader.Number();
         node.id = layout.NewId();
-        std::uint32_t const panes = reader.Count(mostPanes);
+        std::uint32_t const panes = reader.Count(most_panes);
         for (std::uint32_t at = 0; at < panes && reader.Sound(); ++at)
         {
             UINT const pane = reader.Number();
@@ -158,7 +158,7 @@ struct DockLayoutStore
                 reader.Fail();
             node.panes.push_back(pane);
         }
-        std::uint32_t const children = reader.Count(mostPanes);
+        std::uint32_t const children = reader.Count(most_panes);
         for (std::uint32_t at = 0; at < children && reader.Sound(); ++at)
         {
             node.children.push_back(ReadNode(depth + 1));
@@ -228,18 +228,18 @@ std::vector<std::uint8_t> DockLayout::Save() const
 
 std::optional<DockLayout> DockLayout::Load(std::span<std::uint8_t const> bytes)
 {
-    constexpr size_t sumSize = 4;
-    if (bytes.size() < sumSize)
+    constexpr size_t sum_size = 4;
+    if (bytes.size() < sum_size)
         return std::nullopt;
-    Reader sum(bytes.last(sumSize));
-    bytes = bytes.first(bytes.size() - sumSize);
+    Reader sum(bytes.last(sum_size));
+    bytes = bytes.first(bytes.size() - sum_size);
     if (sum.Number() != CheckSum(bytes))
         return std::nullopt;
     Reader reader(bytes);
     if (reader.Number() != mark || reader.Number() != version)
         return std::nullopt;
     DockLayout layout;
-    std::uint32_t const panes = reader.Count(mostPanes);
+    std::uint32_t const panes = reader.Count(most_panes);
     for (std::uint32_t at = 0; at < panes && reader.Sound(); ++at)
     {
         UINT const id = reader.Number();
@@ -257,14 +257,14 @@ std::optional<DockLayout> DockLayout::Load(std::span<std::uint8_t const> bytes)
     DockLayoutStore store{reader, layout, {}, 0};
     layout.m_root = store.ReadTree(1);
     store.seen.clear();
-    std::uint32_t const frames = reader.Count(mostPanes);
+    std::uint32_t const frames = reader.Count(most_panes);
     for (std::uint32_t at = 0; at < frames && reader.Sound(); ++at)
     {
         CRect const rect = reader.Rect();
         UINT const id = layout.NewId();
         layout.m_frames.push_back(Frame{id, rect, store.ReadTree(0)});
     }
-    std::uint32_t const folded = reader.Count(mostPanes);
+    std::uint32_t const folded = reader.Count(most_panes);
     std::set<UINT> inStrip;
     for (std::uint32_t at = 0; at < folded && reader.Sound(); ++at)
     {

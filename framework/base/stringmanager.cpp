@@ -28,8 +28,7 @@ private:
     {
         constexpr size_t Step = 8;
         size_t const characters = (static_cast<size_t>(length) + 1 + Step - 1) / Step * Step;
-        void * const memory =
-            std::realloc(old, sizeof(ATL::CStringData) + characters * static_cast<size_t>(charSize));
+        void * const memory = std::realloc(old, sizeof(ATL::CStringData) + characters * static_cast<size_t>(charSize));
         if (memory == nullptr)
             return nullptr;
         auto * const data = static_cast<ATL::CStringData *>(memory);

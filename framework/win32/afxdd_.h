@@ -39,8 +39,7 @@ FRAMEWORK_API void AFXAPI DDV_MinMaxUInt(CDataExchange * pDX, UINT value, UINT m
 FRAMEWORK_API void AFXAPI DDV_MinMaxUnsigned(CDataExchange * pDX, unsigned value, unsigned minVal, unsigned maxVal);
 FRAMEWORK_API void AFXAPI DDV_MinMaxDWord(CDataExchange * pDX, DWORD const & value, DWORD minVal, DWORD maxVal);
 FRAMEWORK_API void AFXAPI DDV_MinMaxLongLong(CDataExchange * pDX, LONGLONG value, LONGLONG minVal, LONGLONG maxVal);
-FRAMEWORK_API void AFXAPI DDV_MinMaxULongLong(CDataExchange * pDX, ULONGLONG value, ULONGLONG minVal,
-                                              ULONGLONG maxVal);
+FRAMEWORK_API void AFXAPI DDV_MinMaxULongLong(CDataExchange * pDX, ULONGLONG value, ULONGLONG minVal, ULONGLONG maxVal);
 FRAMEWORK_API void AFXAPI DDV_MinMaxFloat(CDataExchange * pDX, float value, float minVal, float maxVal);
 FRAMEWORK_API void AFXAPI DDV_MinMaxDouble(CDataExchange * pDX, double const & value, double minVal, double maxVal);
 FRAMEWORK_API void AFXAPI DDV_MinMaxSlider(CDataExchange * pDX, DWORD value, DWORD minVal, DWORD maxVal);

@@ -7,7 +7,7 @@
 
 namespace
 {
-constexpr int profileTextSize = 4096;
+constexpr int profile_text_size = 4096;
 
 /// A registry key that is closed at the end.
 class Key
@@ -126,8 +126,8 @@ CString CWinApp::GetProfileString(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPCTST
     LPCTSTR const fallback = lpszDefault != nullptr ? lpszDefault : L"";
     if (m_pszRegistryKey == nullptr)
     {
-        wchar_t text[profileTextSize] = {};
-        ::GetPrivateProfileString(lpszSection, lpszEntry, fallback, text, profileTextSize, m_pszProfileName);
+        wchar_t text[profile_text_size] = {};
+        ::GetPrivateProfileString(lpszSection, lpszEntry, fallback, text, profile_text_size, m_pszProfileName);
         return text;
     }
     Key const section(GetSectionKey(lpszSection));

@@ -11,10 +11,10 @@
 
 namespace
 {
-constexpr wchar_t recentSection[] = L"Recent File List";
-constexpr wchar_t recentEntry[] = L"File%d";
-constexpr wchar_t settingsSection[] = L"Settings";
-constexpr wchar_t previewEntry[] = L"PreviewPages";
+constexpr wchar_t recent_section[] = L"Recent File List";
+constexpr wchar_t recent_entry[] = L"File%d";
+constexpr wchar_t settings_section[] = L"Settings";
+constexpr wchar_t preview_entry[] = L"PreviewPages";
 
 /// What the framework says itself, where the program has no string of its own for it.
 LPCTSTR BuiltInText(UINT id)
@@ -122,9 +122,9 @@ bool PromptFileName(CString & name, UINT titleId, DWORD flags, bool open, CDocTe
 
 namespace
 {
-constexpr WORD kindListId = 100;
-constexpr WORD buttonAtom = 0x0080;
-constexpr WORD listBoxAtom = 0x0083;
+constexpr WORD kind_list_id = 100;
+constexpr WORD button_atom = 0x0080;
+constexpr WORD list_box_atom = 0x0083;
 
 /// A dialog template with a list of kinds and two buttons, as it stands in a resource.
 class KindTemplate
@@ -139,10 +139,10 @@ public:
         Text(L"New");
         m_words.push_back(8);
         Text(L"MS Shell Dlg");
-        Item(WS_TABSTOP | WS_BORDER | WS_VSCROLL | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT, 7, 7, 110, 76, kindListId,
-             listBoxAtom, L"");
-        Item(WS_TABSTOP | BS_DEFPUSHBUTTON, 123, 7, 50, 14, IDOK, buttonAtom, L"OK");
-        Item(WS_TABSTOP | BS_PUSHBUTTON, 123, 24, 50, 14, IDCANCEL, buttonAtom, L"Cancel");
+        Item(WS_TABSTOP | WS_BORDER | WS_VSCROLL | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT, 7, 7, 110, 76, kind_list_id,
+             list_box_atom, L"");
+        Item(WS_TABSTOP | BS_DEFPUSHBUTTON, 123, 7, 50, 14, IDOK, button_atom, L"OK");
+        Item(WS_TABSTOP | BS_PUSHBUTTON, 123, 24, 50, 14, IDCANCEL, button_atom, L"Cancel");
     }
     LPCDLGTEMPLATE Get() const { return reinterpret_cast<LPCDLGTEMPLATE>(m_words.data()); }
 
@@ -185,19 +185,19 @@ protected:
     {
         CDialog::OnInitDialog();
         for (CString const & name : m_names)
-            SendDlgItemMessage(kindListId, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(name.GetString()));
-        SendDlgItemMessage(kindListId, LB_SETCURSEL, 0);
+            SendDlgItemMessage(kind_list_id, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(name.GetString()));
+        SendDlgItemMessage(kind_list_id, LB_SETCURSEL, 0);
         return TRUE;
     }
     void OnOK() override
     {
-        m_chosen = static_cast<int>(SendDlgItemMessage(kindListId, LB_GETCURSEL));
+        m_chosen = static_cast<int>(SendDlgItemMessage(kind_list_id, LB_GETCURSEL));
         if (m_chosen >= 0)
             CDialog::OnOK();
     }
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override
     {
-        if (LOWORD(wParam) != kindListId || HIWORD(wParam) != LBN_DBLCLK)
+        if (LOWORD(wParam) != kind_list_id || HIWORD(wParam) != LBN_DBLCLK)
             return CDialog::OnCommand(wParam, lParam);
         OnOK();
         return TRUE;
@@ -364,10 +364,10 @@ void CWinApp::LoadStdProfileSettings(UINT nMaxMRU)
     if (nMaxMRU != 0)
     {
         documents.m_recent =
-            std::make_unique<CRecentFileList>(0, recentSection, recentEntry, static_cast<int>(nMaxMRU));
+            std::make_unique<CRecentFileList>(0, recent_section, recent_entry, static_cast<int>(nMaxMRU));
         documents.m_recent->ReadList();
     }
-    documents.m_previewPages = GetProfileInt(settingsSection, previewEntry, 0);
+    documents.m_previewPages = GetProfileInt(settings_section, preview_entry, 0);
     documents.m_settingsLoaded = true;
 }
 
@@ -378,7 +378,7 @@ void CWinApp::SaveStandardSettings()
     if (m_documents->m_recent != nullptr)
         m_documents->m_recent->WriteList();
     if (m_documents->m_previewPages != 0)
-        WriteProfileInt(settingsSection, previewEntry, static_cast<int>(m_documents->m_previewPages));
+        WriteProfileInt(settings_section, preview_entry, static_cast<int>(m_documents->m_previewPages));
 }
 
 void CWinApp::AddToRecentFileList(LPCTSTR lpszPathName)
@@ -460,11 +460,11 @@ void CWinApp::EnableShellOpen() {}
 
 namespace
 {
-constexpr wchar_t classesKey[] = L"Software\\Classes\\";
+constexpr wchar_t classes_key[] = L"Software\\Classes\\";
 
 void SetClassValue(CString const & key, CString const & value)
 {
-    ::RegSetKeyValue(HKEY_CURRENT_USER, classesKey + key, nullptr, REG_SZ, value.GetString(),
+    ::RegSetKeyValue(HKEY_CURRENT_USER, classes_key + key, nullptr, REG_SZ, value.GetString(),
                      static_cast<DWORD>((value.GetLength() + 1) * static_cast<int>(sizeof(wchar_t))));
 }
 
@@ -472,7 +472,7 @@ CString ClassValue(CString const & key)
 {
     wchar_t value[MAX_PATH] = {};
     DWORD size = sizeof value;
-    bool const there = ::RegGetValue(HKEY_CURRENT_USER, classesKey + key, nullptr, RRF_RT_REG_SZ, nullptr, value,
+    bool const there = ::RegGetValue(HKEY_CURRENT_USER, classes_key + key, nullptr, RRF_RT_REG_SZ, nullptr, value,
                                      &size) == ERROR_SUCCESS;
     return there ? CString(value) : CString();
 }
@@ -531,13 +531,13 @@ void CWinApp::UnregisterShellFileTypes()
         CString extensions;
         if (!TypeOf(*GetNextDocTemplate(at), type, extensions))
             continue;
-        ::RegDeleteTree(HKEY_CURRENT_USER, classesKey + type);
+        ::RegDeleteTree(HKEY_CURRENT_USER, classes_key + type);
         int start = 0;
         for (CString extension = extensions.Tokenize(L";", start); start >= 0;
              extension = extensions.Tokenize(L";", start))
         {
             if (ClassValue(extension) == type)
-                ::RegDeleteTree(HKEY_CURRENT_USER, classesKey + extension);
+                ::RegDeleteTree(HKEY_CURRENT_USER, classes_key + extension);
         }
     }
 }

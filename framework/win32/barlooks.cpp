@@ -7,7 +7,7 @@
 
 namespace
 {
-constexpr int usualDpi = 96;
+constexpr int usual_dpi = 96;
 
 int ScreenDpi()
 {
@@ -27,7 +27,7 @@ CFont & FontObject()
 
 int framework::Scaled(int pixels)
 {
-    return ::MulDiv(pixels, ScreenDpi(), usualDpi);
+    return ::MulDiv(pixels, ScreenDpi(), usual_dpi);
 }
 
 CSize framework::Scaled(SIZE size)

@@ -26,7 +26,7 @@ END_MESSAGE_MAP()
 
 namespace
 {
-constexpr wchar_t className[] = L"FrameworkPane";
+constexpr wchar_t class_name[] = L"FrameworkPane";
 
 CString PaneSection(LPCTSTR profileName, LPCTSTR kind, UINT id)
 {
@@ -58,10 +58,10 @@ BOOL CBasePane::PreCreateWindow(CREATESTRUCT & cs)
         description.lpfnWndProc = ::DefWindowProc;
         description.hInstance = AfxGetInstanceHandle();
         description.hCursor = ::LoadCursor(nullptr, IDC_ARROW);
-        description.lpszClassName = className;
+        description.lpszClassName = class_name;
         if (!AfxRegisterClass(&description))
             return FALSE;
-        cs.lpszClass = className;
+        cs.lpszClass = class_name;
     }
     return CWnd::PreCreateWindow(cs);
 }
@@ -303,10 +303,10 @@ void CBasePane::ShowPane(BOOL bShow, BOOL bDelay, BOOL)
 
 CSize CBasePane::CalcFixedLayout(BOOL bStretch, BOOL bHorz)
 {
-    constexpr int asLongAsTheFrame = 32767;
+    constexpr int as_long_as_the_frame = 32767;
     CSize size(0, 0);
     if (bStretch)
-        (bHorz ? size.cx : size.cy) = asLongAsTheFrame;
+        (bHorz ? size.cx : size.cy) = as_long_as_the_frame;
     return size;
 }
 

@@ -78,9 +78,7 @@ LONG CTabCtrl::InsertItem(UINT nMask, int nItem, LPCTSTR lpszItem, int nImage, L
     return InsertItem(nItem, &item);
 }
 
-void CTabCtrl::DrawItem(LPDRAWITEMSTRUCT)
-{
-}
+void CTabCtrl::DrawItem(LPDRAWITEMSTRUCT) {}
 
 // CStatusBarCtrl
 
@@ -153,9 +151,7 @@ CString CStatusBarCtrl::GetTipText(int nPane) const
     });
 }
 
-void CStatusBarCtrl::DrawItem(LPDRAWITEMSTRUCT)
-{
-}
+void CStatusBarCtrl::DrawItem(LPDRAWITEMSTRUCT) {}
 
 BOOL CStatusBarCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT * pResult)
 {
@@ -229,8 +225,8 @@ CToolBarCtrl::~CToolBarCtrl()
 
 BOOL CToolBarCtrl::Create(DWORD dwStyle, RECT const & rect, CWnd * pParentWnd, UINT nID)
 {
-    BOOL const created = framework::CreateControl(*this, ICC_BAR_CLASSES, TOOLBARCLASSNAME, nullptr, dwStyle, rect,
-                                                  pParentWnd, nID);
+    BOOL const created =
+        framework::CreateControl(*this, ICC_BAR_CLASSES, TOOLBARCLASSNAME, nullptr, dwStyle, rect, pParentWnd, nID);
     if (created)
         SetButtonStructSize(sizeof(TBBUTTON));
     return created;

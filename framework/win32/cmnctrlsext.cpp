@@ -18,8 +18,7 @@ CComboBoxEx::~CComboBoxEx()
 
 BOOL CComboBoxEx::Create(DWORD dwStyle, RECT const & rect, CWnd * pParentWnd, UINT nID)
 {
-    return framework::CreateControl(*this, ICC_USEREX_CLASSES, WC_COMBOBOXEX, nullptr, dwStyle, rect, pParentWnd,
-                                    nID);
+    return framework::CreateControl(*this, ICC_USEREX_CLASSES, WC_COMBOBOXEX, nullptr, dwStyle, rect, pParentWnd, nID);
 }
 
 BOOL CComboBoxEx::CreateEx(DWORD dwExStyle, DWORD dwStyle, RECT const & rect, CWnd * pParentWnd, UINT nID)
@@ -63,8 +62,8 @@ BOOL CLinkCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, RECT const & rect, CWnd
     return CreateEx(nullptr, dwExStyle, dwStyle, rect, pParentWnd, nID);
 }
 
-BOOL CLinkCtrl::CreateEx(LPCTSTR lpszLinkMarkup, DWORD dwExStyle, DWORD dwStyle, RECT const & rect,
-                         CWnd * pParentWnd, UINT nID)
+BOOL CLinkCtrl::CreateEx(LPCTSTR lpszLinkMarkup, DWORD dwExStyle, DWORD dwStyle, RECT const & rect, CWnd * pParentWnd,
+                         UINT nID)
 {
     return framework::CreateControlEx(*this, ICC_LINK_CLASS, dwExStyle, WC_LINK, lpszLinkMarkup, dwStyle, rect,
                                       pParentWnd, nID);

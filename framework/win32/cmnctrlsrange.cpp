@@ -23,8 +23,7 @@ CProgressCtrl::~CProgressCtrl()
 
 BOOL CProgressCtrl::Create(DWORD dwStyle, RECT const & rect, CWnd * pParentWnd, UINT nID)
 {
-    return framework::CreateControl(*this, ICC_PROGRESS_CLASS, PROGRESS_CLASS, nullptr, dwStyle, rect, pParentWnd,
-                                    nID);
+    return framework::CreateControl(*this, ICC_PROGRESS_CLASS, PROGRESS_CLASS, nullptr, dwStyle, rect, pParentWnd, nID);
 }
 
 BOOL CProgressCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, RECT const & rect, CWnd * pParentWnd, UINT nID)

@@ -44,8 +44,7 @@ CTreeCtrl::~CTreeCtrl()
 
 BOOL CTreeCtrl::Create(DWORD dwStyle, RECT const & rect, CWnd * pParentWnd, UINT nID)
 {
-    return framework::CreateControl(*this, ICC_TREEVIEW_CLASSES, WC_TREEVIEW, nullptr, dwStyle, rect, pParentWnd,
-                                    nID);
+    return framework::CreateControl(*this, ICC_TREEVIEW_CLASSES, WC_TREEVIEW, nullptr, dwStyle, rect, pParentWnd, nID);
 }
 
 BOOL CTreeCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, RECT const & rect, CWnd * pParentWnd, UINT nID)
@@ -185,8 +184,7 @@ BOOL CTreeCtrl::SetCheck(HTREEITEM hItem, BOOL fCheck)
 BOOL CTreeCtrl::GetItemRect(HTREEITEM hItem, LPRECT lpRect, BOOL bTextOnly) const
 {
     // The message takes the item at the start of the rectangle that it fills; the handle is wider than one field.
-    union
-    {
+    union {
         HTREEITEM item;
         RECT rect;
     } exchange{hItem};

@@ -27,13 +27,13 @@ END_MESSAGE_MAP()
 
 namespace
 {
-constexpr wchar_t barClassName[] = L"FrameworkControlBar";
-constexpr int gripperSpace = 7;         // what a gripper takes of the bar's length
-constexpr int gripperWidth = 3;         // and what is painted of it
-constexpr UINT_PTR waitTimer = 0xE000;  // until the mouse rests on an item
-constexpr UINT_PTR checkTimer = 0xE001; // whether it still does
-constexpr UINT waitTime = 300;
-constexpr UINT checkTime = 200;
+constexpr wchar_t bar_class_name[] = L"FrameworkControlBar";
+constexpr int gripper_space = 7;         // what a gripper takes of the bar's length
+constexpr int gripper_width = 3;         // and what is painted of it
+constexpr UINT_PTR wait_timer = 0xE000;  // until the mouse rests on an item
+constexpr UINT_PTR check_timer = 0xE001; // whether it still does
+constexpr UINT wait_time = 300;
+constexpr UINT check_time = 200;
 
 CSize BorderSize()
 {
@@ -89,10 +89,10 @@ BOOL CControlBar::PreCreateWindow(CREATESTRUCT & cs)
         description.hInstance = AfxGetInstanceHandle();
         description.hCursor = ::LoadCursor(nullptr, IDC_ARROW);
         description.hbrBackground = reinterpret_cast<HBRUSH>(static_cast<UINT_PTR>(COLOR_BTNFACE + 1));
-        description.lpszClassName = barClassName;
+        description.lpszClassName = bar_class_name;
         if (!AfxRegisterClass(&description))
             return FALSE;
-        cs.lpszClass = barClassName;
+        cs.lpszClass = bar_class_name;
     }
     if (!CWnd::PreCreateWindow(cs))
         return FALSE;
@@ -210,10 +210,10 @@ CFrameWnd * CControlBar::TargetFrame() const
 
 CSize CControlBar::CalcFixedLayout(BOOL bStretch, BOOL bHorz)
 {
-    constexpr int asLongAsTheFrame = 32767;
+    constexpr int as_long_as_the_frame = 32767;
     CSize size(0, 0);
     if (bStretch)
-        (bHorz ? size.cx : size.cy) = asLongAsTheFrame;
+        (bHorz ? size.cx : size.cy) = as_long_as_the_frame;
     return size;
 }
 
@@ -233,7 +233,7 @@ void CControlBar::CalcInsideRect(CRect & rect, BOOL bHorz) const
         rect.right -= border.cx;
     if ((m_style & CBRS_BORDER_BOTTOM) != 0)
         rect.bottom -= border.cy;
-    int const gripper = (m_style & (CBRS_GRIPPER | CBRS_FLOATING)) == CBRS_GRIPPER ? gripperSpace : 0;
+    int const gripper = (m_style & (CBRS_GRIPPER | CBRS_FLOATING)) == CBRS_GRIPPER ? gripper_space : 0;
     // The space turns with the bar.
     if (bHorz)
     {
@@ -493,12 +493,12 @@ void CControlBar::DrawGripper(CDC * pDC, const CRect & rect)
     if (IsHorizontal())
     {
         bar.DeflateRect(2, 2);
-        bar.right = bar.left + gripperWidth;
+        bar.right = bar.left + gripper_width;
     }
     else
     {
         bar.DeflateRect(2, 2);
-        bar.bottom = bar.top + gripperWidth;
+        bar.bottom = bar.top + gripper_width;
     }
     pDC->Draw3dRect(&bar, ::GetSysColor(COLOR_BTNHIGHLIGHT), ::GetSysColor(COLOR_BTNSHADOW));
 }
@@ -554,7 +554,7 @@ void CControlBar::FollowMouse(MSG const & message)
         if (hit == -1 && m_flyByWaiting)
         {
             m_flyByWaiting = false;
-            KillTimer(waitTimer);
+            KillTimer(wait_timer);
         }
         return;
     }
@@ -562,7 +562,7 @@ void CControlBar::FollowMouse(MSG const & message)
     if (hit == -1 || m_flyBy != -1 || press)
         ShowFlyBy(hit);
     else if (!m_flyByWaiting)
-        m_flyByWaiting = SetTimer(waitTimer, waitTime, nullptr) != 0;
+        m_flyByWaiting = SetTimer(wait_timer, wait_time, nullptr) != 0;
 }
 
 void CControlBar::ShowFlyBy(INT_PTR hit)
@@ -570,15 +570,15 @@ void CControlBar::ShowFlyBy(INT_PTR hit)
     if (m_flyByWaiting)
     {
         m_flyByWaiting = false;
-        KillTimer(waitTimer);
+        KillTimer(wait_timer);
     }
     if (hit == m_flyBy)
         return;
     m_flyBy = hit;
     if (hit == -1)
-        KillTimer(checkTimer);
+        KillTimer(check_timer);
     else
-        SetTimer(checkTimer, checkTime, nullptr);
+        SetTimer(check_timer, check_time, nullptr);
     CFrameWnd * const frame = TargetFrame();
     if (frame != nullptr)
         frame->SendMessage(WM_SETMESSAGESTRING, hit == -1 ? AFX_IDS_IDLEMESSAGE : static_cast<WPARAM>(hit));
@@ -586,7 +586,7 @@ void CControlBar::ShowFlyBy(INT_PTR hit)
 
 void CControlBar::OnTimer(UINT_PTR nIDEvent)
 {
-    if (nIDEvent == waitTimer || nIDEvent == checkTimer)
+    if (nIDEvent == wait_timer || nIDEvent == check_timer)
     {
         CPoint cursor;
         ::GetCursorPos(&cursor);

@@ -73,13 +73,13 @@ CTreeCtrl & CTreeView::GetTreeCtrl() const
 
 namespace
 {
-constexpr int defaultTabStops = 8 * 4; // in dialog units: eight characters
+constexpr int default_tab_stops = 8 * 4; // in dialog units: eight characters
 } // namespace
 
 const DWORD CEditView::dwStyleDefault =
     AFX_WS_DEFAULT_VIEW | WS_HSCROLL | WS_VSCROLL | ES_AUTOHSCROLL | ES_AUTOVSCROLL | ES_MULTILINE | ES_NOHIDESEL;
 
-CEditView::CEditView() : CCtrlView(L"EDIT", dwStyleDefault), m_tabStops(defaultTabStops), m_printerFont(nullptr) {}
+CEditView::CEditView() : CCtrlView(L"EDIT", dwStyleDefault), m_tabStops(default_tab_stops), m_printerFont(nullptr) {}
 
 CEditView::~CEditView()
 {

@@ -8,7 +8,7 @@ using framework::OnBoth;
 
 namespace
 {
-constexpr int himetricPerInch = 2540;
+constexpr int himetric_per_inch = 2540;
 
 // The mapping modes below MM_ISOTROPIC, other than MM_TEXT, map to physical lengths.
 bool IsPhysical(int mapMode)
@@ -53,7 +53,8 @@ COLORREF CDC::GetBkColor() const
 
 COLORREF CDC::SetBkColor(COLORREF crColor)
 {
-    return OnBoth(*this, [=](HDC dc) { return ::SetBkColor(dc, crColor); }, CLR_INVALID);
+    return OnBoth(
+        *this, [=](HDC dc) { return ::SetBkColor(dc, crColor); }, CLR_INVALID);
 }
 
 int CDC::GetBkMode() const
@@ -73,7 +74,8 @@ COLORREF CDC::GetTextColor() const
 
 COLORREF CDC::SetTextColor(COLORREF crColor)
 {
-    return OnBoth(*this, [=](HDC dc) { return ::SetTextColor(dc, crColor); }, CLR_INVALID);
+    return OnBoth(
+        *this, [=](HDC dc) { return ::SetTextColor(dc, crColor); }, CLR_INVALID);
 }
 
 COLORREF CDC::GetDCBrushColor() const
@@ -343,8 +345,8 @@ void CDC::DPtoHIMETRIC(LPSIZE lpSize) const
         ::SetMapMode(m_hAttribDC, mapMode);
         return;
     }
-    lpSize->cx = Scaled(lpSize->cx, himetricPerInch, GetDeviceCaps(LOGPIXELSX));
-    lpSize->cy = Scaled(lpSize->cy, himetricPerInch, GetDeviceCaps(LOGPIXELSY));
+    lpSize->cx = Scaled(lpSize->cx, himetric_per_inch, GetDeviceCaps(LOGPIXELSX));
+    lpSize->cy = Scaled(lpSize->cy, himetric_per_inch, GetDeviceCaps(LOGPIXELSY));
 }
 
 void CDC::HIMETRICtoDP(LPSIZE lpSize) const
@@ -357,8 +359,8 @@ void CDC::HIMETRICtoDP(LPSIZE lpSize) const
         ::SetMapMode(m_hAttribDC, mapMode);
         return;
     }
-    lpSize->cx = Scaled(lpSize->cx, GetDeviceCaps(LOGPIXELSX), himetricPerInch);
-    lpSize->cy = Scaled(lpSize->cy, GetDeviceCaps(LOGPIXELSY), himetricPerInch);
+    lpSize->cx = Scaled(lpSize->cx, GetDeviceCaps(LOGPIXELSX), himetric_per_inch);
+    lpSize->cy = Scaled(lpSize->cy, GetDeviceCaps(LOGPIXELSY), himetric_per_inch);
 }
 
 void CDC::LPtoHIMETRIC(LPSIZE lpSize) const

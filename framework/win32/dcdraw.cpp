@@ -206,8 +206,7 @@ BOOL CDC::DrawState(CPoint pt, CSize size, HICON hIcon, UINT nFlags, CBrush * pB
     return DrawState(pt, size, hIcon, nFlags, BrushOf(pBrush));
 }
 
-BOOL CDC::DrawState(CPoint pt, CSize size, LPCTSTR lpszText, UINT nFlags, BOOL bPrefixText, int nTextLen,
-                    HBRUSH hBrush)
+BOOL CDC::DrawState(CPoint pt, CSize size, LPCTSTR lpszText, UINT nFlags, BOOL bPrefixText, int nTextLen, HBRUSH hBrush)
 {
     return DrawStateText(*this, hBrush, lpszText, nTextLen, bPrefixText, pt, size, nFlags);
 }

@@ -38,8 +38,7 @@ BOOL CDC::ExtTextOut(int x, int y, UINT nOptions, LPCRECT lpRect, CString const 
 CSize CDC::TabbedTextOut(int x, int y, LPCTSTR lpszString, int nCount, int nTabPositions, LPINT lpnTabStopPositions,
                          int nTabOrigin)
 {
-    LONG const size =
-        ::TabbedTextOut(m_hDC, x, y, lpszString, nCount, nTabPositions, lpnTabStopPositions, nTabOrigin);
+    LONG const size = ::TabbedTextOut(m_hDC, x, y, lpszString, nCount, nTabPositions, lpnTabStopPositions, nTabOrigin);
     return UnpackedSize(static_cast<DWORD>(size));
 }
 
@@ -104,8 +103,7 @@ CSize CDC::GetOutputTextExtent(CString const & str) const
 
 CSize CDC::GetTabbedTextExtent(LPCTSTR lpszString, int nCount, int nTabPositions, LPINT lpnTabStopPositions) const
 {
-    return UnpackedSize(
-        ::GetTabbedTextExtent(m_hAttribDC, lpszString, nCount, nTabPositions, lpnTabStopPositions));
+    return UnpackedSize(::GetTabbedTextExtent(m_hAttribDC, lpszString, nCount, nTabPositions, lpnTabStopPositions));
 }
 
 CSize CDC::GetTabbedTextExtent(CString const & str, int nTabPositions, LPINT lpnTabStopPositions) const
@@ -113,8 +111,7 @@ CSize CDC::GetTabbedTextExtent(CString const & str, int nTabPositions, LPINT lpn
     return GetTabbedTextExtent(str, str.GetLength(), nTabPositions, lpnTabStopPositions);
 }
 
-CSize CDC::GetOutputTabbedTextExtent(LPCTSTR lpszString, int nCount, int nTabPositions,
-                                     LPINT lpnTabStopPositions) const
+CSize CDC::GetOutputTabbedTextExtent(LPCTSTR lpszString, int nCount, int nTabPositions, LPINT lpnTabStopPositions) const
 {
     return UnpackedSize(::GetTabbedTextExtent(m_hDC, lpszString, nCount, nTabPositions, lpnTabStopPositions));
 }
@@ -141,7 +138,8 @@ UINT CDC::GetTextAlign() const
 
 UINT CDC::SetTextAlign(UINT nFlags)
 {
-    return OnBoth(*this, [=](HDC dc) { return ::SetTextAlign(dc, nFlags); }, static_cast<UINT>(GDI_ERROR));
+    return OnBoth(
+        *this, [=](HDC dc) { return ::SetTextAlign(dc, nFlags); }, static_cast<UINT>(GDI_ERROR));
 }
 
 int CDC::GetTextFace(int nCount, LPTSTR lpszFacename) const
@@ -185,8 +183,9 @@ int CDC::GetTextCharacterExtra() const
 
 int CDC::SetTextCharacterExtra(int nCharExtra)
 {
-    constexpr int invalidWidth = static_cast<int>(0x80000000);
-    return OnBoth(*this, [=](HDC dc) { return ::SetTextCharacterExtra(dc, nCharExtra); }, invalidWidth);
+    constexpr int invalid_width = static_cast<int>(0x80000000);
+    return OnBoth(
+        *this, [=](HDC dc) { return ::SetTextCharacterExtra(dc, nCharExtra); }, invalid_width);
 }
 
 DWORD CDC::GetCharacterPlacement(LPCTSTR lpString, int nCount, int nMaxExtent, LPGCP_RESULTS lpResults,
@@ -237,7 +236,8 @@ BOOL CDC::GetCharABCWidthsI(UINT giFirst, UINT cgi, LPWORD pgi, LPABC lpabc) con
 
 DWORD CDC::SetMapperFlags(DWORD dwFlag)
 {
-    return OnBoth(*this, [=](HDC dc) { return ::SetMapperFlags(dc, dwFlag); }, static_cast<DWORD>(GDI_ERROR));
+    return OnBoth(
+        *this, [=](HDC dc) { return ::SetMapperFlags(dc, dwFlag); }, static_cast<DWORD>(GDI_ERROR));
 }
 
 CSize CDC::GetAspectRatioFilter() const

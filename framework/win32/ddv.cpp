@@ -10,8 +10,7 @@ namespace framework
 namespace
 {
 /// format: of a T, for the limits in the message.
-template <class T>
-void ValidateInteger(CDataExchange * pDX, T value, T minimum, T maximum, LPCTSTR format)
+template <class T> void ValidateInteger(CDataExchange * pDX, T value, T minimum, T maximum, LPCTSTR format)
 {
     ASSERT(minimum <= maximum);
     if (value >= minimum && value <= maximum)

@@ -9,7 +9,8 @@
 #include <limits>
 
 CDataExchange::CDataExchange(CWnd * pDlgWnd, BOOL bSaveAndValidate)
-    : m_bSaveAndValidate(bSaveAndValidate), m_pDlgWnd(pDlgWnd)
+    : m_bSaveAndValidate(bSaveAndValidate),
+      m_pDlgWnd(pDlgWnd)
 {
     ASSERT(pDlgWnd != nullptr);
 }

@@ -43,8 +43,8 @@ CString SelectedText(HWND control, ListMessages const & messages)
 /// Selects the first item that starts with the text; false if there is none.
 bool SelectStart(HWND control, ListMessages const & messages, CString const & text)
 {
-    return ::SendMessage(control, messages.selectString, FromStart,
-                         reinterpret_cast<LPARAM>(text.GetString())) != NotFound;
+    return ::SendMessage(control, messages.selectString, FromStart, reinterpret_cast<LPARAM>(text.GetString())) !=
+           NotFound;
 }
 
 /// Selects the first item with this text (without regard to case); false if there is none.

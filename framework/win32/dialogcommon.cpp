@@ -13,9 +13,7 @@ UINT const SetColourMessage = ::RegisterWindowMessage(SETRGBSTRING);
 
 IMPLEMENT_DYNAMIC(CCommonDialog, CDialog)
 
-CCommonDialog::CCommonDialog(CWnd * pParentWnd) : CDialog(static_cast<UINT>(0), pParentWnd)
-{
-}
+CCommonDialog::CCommonDialog(CWnd * pParentWnd) : CDialog(static_cast<UINT>(0), pParentWnd) {}
 
 void CCommonDialog::OnOK()
 {
@@ -48,8 +46,7 @@ COLORREF * PASCAL CColorDialog::GetSavedCustomColors()
 {
     constexpr size_t Count = 16;
     static COLORREF colours[Count];
-    static bool const filled = []
-    {
+    static bool const filled = [] {
         for (COLORREF & colour : colours)
             colour = RGB(255, 255, 255);
         return true;

@@ -21,13 +21,9 @@ bool IsOfClass(HWND window, LPCTSTR className)
 
 CDialogEx::CDialogEx() = default;
 
-CDialogEx::CDialogEx(UINT nIDTemplate, CWnd * pParent) : CDialog(nIDTemplate, pParent)
-{
-}
+CDialogEx::CDialogEx(UINT nIDTemplate, CWnd * pParent) : CDialog(nIDTemplate, pParent) {}
 
-CDialogEx::CDialogEx(LPCTSTR lpszTemplateName, CWnd * pParentWnd) : CDialog(lpszTemplateName, pParentWnd)
-{
-}
+CDialogEx::CDialogEx(LPCTSTR lpszTemplateName, CWnd * pParentWnd) : CDialog(lpszTemplateName, pParentWnd) {}
 
 CDialogEx::~CDialogEx()
 {
@@ -82,8 +78,8 @@ BOOL CDialogEx::SetBackgroundImage(UINT uiBmpResId, BackgroundLocation location,
     if (uiBmpResId != 0)
     {
         LPCTSTR const name = MAKEINTRESOURCE(uiBmpResId);
-        bitmap = static_cast<HBITMAP>(::LoadImage(AfxFindResourceHandle(name, RT_BITMAP), name, IMAGE_BITMAP, 0, 0,
-                                                  LR_CREATEDIBSECTION));
+        bitmap = static_cast<HBITMAP>(
+            ::LoadImage(AfxFindResourceHandle(name, RT_BITMAP), name, IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION));
         if (bitmap == nullptr)
             return FALSE;
     }
@@ -141,8 +137,8 @@ HBRUSH CDialogEx::OnCtlColor(CDC * pDC, CWnd * pWnd, UINT nCtlColor)
         if (nCtlColor == CTLCOLOR_DLG && coloured && m_image == nullptr)
             return static_cast<HBRUSH>(m_brush.GetSafeHandle());
         // A read-only edit field asks with the static colour too; it keeps its own background.
-        bool const onBackground = (nCtlColor == CTLCOLOR_STATIC && !IsOfClass(pWnd->GetSafeHwnd(), _T("Edit"))) ||
-                                  nCtlColor == CTLCOLOR_BTN;
+        bool const onBackground =
+            (nCtlColor == CTLCOLOR_STATIC && !IsOfClass(pWnd->GetSafeHwnd(), _T("Edit"))) || nCtlColor == CTLCOLOR_BTN;
         if (onBackground)
         {
             pDC->SetBkMode(TRANSPARENT);

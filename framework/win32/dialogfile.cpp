@@ -58,7 +58,10 @@ IMPLEMENT_DYNAMIC(CFileDialog, CCommonDialog)
 
 CFileDialog::CFileDialog(BOOL bOpenFileDialog, LPCTSTR lpszDefExt, LPCTSTR lpszFileName, DWORD dwFlags,
                          LPCTSTR lpszFilter, CWnd * pParentWnd, DWORD dwSize, BOOL)
-    : CCommonDialog(pParentWnd), m_defaultExtension(lpszDefExt), m_buffer(new TCHAR[MAX_PATH]()), m_fileTitle(),
+    : CCommonDialog(pParentWnd),
+      m_defaultExtension(lpszDefExt),
+      m_buffer(new TCHAR[MAX_PATH]()),
+      m_fileTitle(),
       m_open(bOpenFileDialog)
 {
     std::memset(&m_openFile, 0, sizeof(m_openFile));
@@ -174,8 +177,8 @@ HWND CFileDialog::DialogWindow() const
 CString CFileDialog::AskDialog(UINT message) const
 {
     CString text;
-    LRESULT const length = ::SendMessage(DialogWindow(), message, MAX_PATH,
-                                         reinterpret_cast<LPARAM>(text.GetBuffer(MAX_PATH)));
+    LRESULT const length =
+        ::SendMessage(DialogWindow(), message, MAX_PATH, reinterpret_cast<LPARAM>(text.GetBuffer(MAX_PATH)));
     text.ReleaseBuffer();
     if (length < 0)
         text.Empty();
@@ -305,9 +308,7 @@ BOOL CFileDialog::OnFileNameOK()
     return FALSE;
 }
 
-void CFileDialog::OnLBSelChangedNotify(UINT, UINT, UINT)
-{
-}
+void CFileDialog::OnLBSelChangedNotify(UINT, UINT, UINT) {}
 
 void CFileDialog::OnInitDone()
 {
@@ -316,17 +317,11 @@ void CFileDialog::OnInitDone()
         dialog->CenterWindow();
 }
 
-void CFileDialog::OnFileNameChange()
-{
-}
+void CFileDialog::OnFileNameChange() {}
 
-void CFileDialog::OnFolderChange()
-{
-}
+void CFileDialog::OnFolderChange() {}
 
-void CFileDialog::OnTypeChange()
-{
-}
+void CFileDialog::OnTypeChange() {}
 
 BOOL CFileDialog::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT * pResult)
 {

@@ -29,7 +29,7 @@ int CDockablePane::m_nSlideSteps = 1;
 
 namespace
 {
-constexpr int leastContents = 24; // that a pane shows beside or below its caption, at 96 dpi
+constexpr int least_contents = 24; // that a pane shows beside or below its caption, at 96 dpi
 
 /// A cross, or a pin that stands or lies.
 void DrawButton(CDC & dc, CRect const & button, UINT hit, bool lying, COLORREF colour)
@@ -526,8 +526,8 @@ CSize framework::LeastSize(CDockablePane const & pane, DockSizes const & sizes)
     CSize least(0, 0);
     pane.GetMinSize(least);
     if (least.cx <= 0)
-        least.cx = 2 * sizes.caption + leastContents;
+        least.cx = 2 * sizes.caption + least_contents;
     if (least.cy <= 0)
-        least.cy = sizes.caption + leastContents;
+        least.cy = sizes.caption + least_contents;
     return least;
 }

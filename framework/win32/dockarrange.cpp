@@ -14,9 +14,9 @@ UINT const arrangeMessage = ::RegisterWindowMessage(L"FrameworkArrangePanes");
 
 namespace
 {
-constexpr int mostRounds = 8; // of panes that change the layout while they are placed
-constexpr UINT formerIds = 0x80000000;
-constexpr DWORD miniFrameStyle = WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_THICKFRAME | WS_CLIPCHILDREN;
+constexpr int most_rounds = 8; // of panes that change the layout while they are placed
+constexpr UINT former_ids = 0x80000000;
+constexpr DWORD mini_frame_style = WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_THICKFRAME | WS_CLIPCHILDREN;
 
 /// The rectangle of a child in its parent.
 CRect PlaceOf(CWnd const & window)
@@ -60,7 +60,7 @@ void DockHost::Arrange()
     }
     Life const life(*this);
     m_arranging = true;
-    for (int round = 0; round < mostRounds; ++round)
+    for (int round = 0; round < most_rounds; ++round)
     {
         m_again = false;
         ArrangeOnce();
@@ -121,7 +121,7 @@ bool DockHost::MakeFrames()
         m_frames[wanted.id] = mini;
         LPCTSTR const className = AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursor(nullptr, IDC_ARROW));
         CRect const rect = wanted.rect;
-        if (!mini->CreateEx(WS_EX_TOOLWINDOW, className, L"", miniFrameStyle, rect.left, rect.top, rect.Width(),
+        if (!mini->CreateEx(WS_EX_TOOLWINDOW, className, L"", mini_frame_style, rect.left, rect.top, rect.Width(),
                             rect.Height(), m_frame.m_hWnd, nullptr))
             return false;
         if (!life || m_again)
@@ -171,7 +171,7 @@ bool DockHost::MakeAllGroups()
     std::vector<UINT> frames{0};
     for (auto const & [id, mini] : m_frames)
     {
-        if (id < formerIds)
+        if (id < former_ids)
             frames.push_back(id);
     }
     std::erase_if(m_plans, [&](auto const & entry) { return entry.first != 0 && MiniFrame(entry.first) == nullptr; });
@@ -281,7 +281,7 @@ bool DockHost::EndUnused()
     for (auto const & [id, mini] : m_frames)
     {
         bool const needed =
-            id < formerIds && std::any_of(m_panes.begin(), m_panes.end(), [&, frame = id](auto const & entry) {
+            id < former_ids && std::any_of(m_panes.begin(), m_panes.end(), [&, frame = id](auto const & entry) {
                 return m_layout.FrameOf(entry.first) == frame;
             });
         if (!needed)
@@ -316,7 +316,7 @@ bool DockHost::EndUnused()
 /// Numbers of another layout must not be taken for this one's.
 void DockHost::Renumber()
 {
-    UINT next = formerIds;
+    UINT next = former_ids;
     std::map<UINT, CTabbedPane *> tabbed;
     for (auto const & [group, window] : m_tabbed)
     {
@@ -616,7 +616,7 @@ bool DockHost::ArrangeFloating(UINT frame)
 void DockHost::ArrangeFrame(UINT frame)
 {
     // Its size alone has changed.
-    if (m_ending || m_arranging || m_locked > 0 || frame >= formerIds)
+    if (m_ending || m_arranging || m_locked > 0 || frame >= former_ids)
         return;
     Life const life(*this);
     m_arranging = true;

@@ -11,7 +11,7 @@ namespace framework
 {
 namespace
 {
-constexpr UINT cancelMessage = WM_USER + 1;
+constexpr UINT cancel_message = WM_USER + 1;
 DockDrag * withKeys = nullptr; // of the drag that runs; there is one mouse
 
 CPoint CursorPosition()
@@ -119,7 +119,7 @@ LRESULT CALLBACK DockDrag::OnKey(int code, WPARAM wParam, LPARAM lParam)
     if (wParam == VK_ESCAPE)
     {
         if ((lParam & released) == 0)
-            ::PostMessage(withKeys->m_hWnd, cancelMessage, 0, 0);
+            ::PostMessage(withKeys->m_hWnd, cancel_message, 0, 0);
         return 1;
     }
     if (wParam == VK_CONTROL)
@@ -144,7 +144,7 @@ LRESULT DockDrag::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
         if (reinterpret_cast<HWND>(lParam) != m_hWnd)
             Cancel();
         return 0;
-    case cancelMessage:
+    case cancel_message:
         Cancel();
         return 0;
     case WM_RBUTTONDOWN:

@@ -17,12 +17,12 @@ int CDockingManager::m_nDockSensitivity = 20;
 
 namespace
 {
-constexpr wchar_t layoutEntry[] = L"Layout";
-constexpr wchar_t defaultSection[] = L"Workspace";
+constexpr wchar_t layout_entry[] = L"Layout";
+constexpr wchar_t default_section[] = L"Workspace";
 
 CString Section(LPCTSTR profileName, LPCTSTR below)
 {
-    CString section(profileName != nullptr ? profileName : defaultSection);
+    CString section(profileName != nullptr ? profileName : default_section);
     section += L"\\";
     section += below;
     return section;
@@ -334,7 +334,7 @@ BOOL CDockingManager::SaveState(LPCTSTR lpszProfileName, UINT)
         if (pane != nullptr)
             written = pane->SaveState(lpszProfileName, -1, id) && written;
     }
-    return app->WriteProfileBinary(Section(lpszProfileName, L"DockingManager"), layoutEntry, bytes.data(),
+    return app->WriteProfileBinary(Section(lpszProfileName, L"DockingManager"), layout_entry, bytes.data(),
                                    static_cast<UINT>(bytes.size())) &&
            written;
 }
@@ -346,7 +346,7 @@ BOOL CDockingManager::LoadState(LPCTSTR lpszProfileName, UINT)
         return FALSE;
     BYTE * data = nullptr;
     UINT size = 0;
-    if (!app->GetProfileBinary(Section(lpszProfileName, L"DockingManager"), layoutEntry, &data, &size))
+    if (!app->GetProfileBinary(Section(lpszProfileName, L"DockingManager"), layout_entry, &data, &size))
         return FALSE;
     std::vector<std::uint8_t> const bytes(data, data + size);
     delete[] data;

@@ -10,7 +10,7 @@
 namespace
 {
 constexpr UINT step = 0x10000; // characters that are read at a time
-constexpr int tabCharacters = 8;
+constexpr int tab_characters = 8;
 
 /// What is left of an archive, or so many characters of it, as a text.
 CString ReadText(CArchive & ar, ULONGLONG count)
@@ -93,7 +93,7 @@ UINT CEditView::LayOut(CDC & dc, CString const & text, RECT & layout, UINT start
     TEXTMETRIC metrics{};
     dc.GetTextMetrics(&metrics);
     int const height = std::max<int>(metrics.tmHeight + metrics.tmExternalLeading, 1);
-    int tab = std::max<int>(metrics.tmAveCharWidth * tabCharacters, 1);
+    int tab = std::max<int>(metrics.tmAveCharWidth * tab_characters, 1);
     int const width = std::max<int>(layout.right - layout.left, 1);
     int const last = std::min(static_cast<int>(stop), text.GetLength());
     int at = static_cast<int>(start);
@@ -173,8 +173,8 @@ void CEditView::OnBeginPrinting(CDC * pDC, CPrintInfo * pInfo)
     m_pageStarts.Add(0);
     CFont * const former = pDC->SelectObject(&m_pageFont);
     auto const length = static_cast<UINT>(m_pageText.GetLength());
-    constexpr UINT mostPages = 0xFFFE;
-    for (UINT at = 0; at < length && static_cast<UINT>(m_pageStarts.GetSize()) < mostPages;)
+    constexpr UINT most_pages = 0xFFFE;
+    for (UINT at = 0; at < length && static_cast<UINT>(m_pageStarts.GetSize()) < most_pages;)
     {
         CRect area = PageArea(*pDC);
         UINT const next = LayOut(*pDC, m_pageText, area, at, length, false);

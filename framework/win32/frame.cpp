@@ -50,7 +50,7 @@ const CRect CFrameWnd::rectDefault(CW_USEDEFAULT, CW_USEDEFAULT, 0, 0);
 
 namespace
 {
-constexpr wchar_t frameClassName[] = L"FrameworkFrameOrView";
+constexpr wchar_t frame_class_name[] = L"FrameworkFrameOrView";
 
 WNDCLASS FrameClass()
 {
@@ -61,7 +61,7 @@ WNDCLASS FrameClass()
     description.hIcon = ::LoadIcon(nullptr, IDI_APPLICATION);
     description.hCursor = ::LoadCursor(nullptr, IDC_ARROW);
     description.hbrBackground = reinterpret_cast<HBRUSH>(static_cast<UINT_PTR>(COLOR_WINDOW + 1));
-    description.lpszClassName = frameClassName;
+    description.lpszClassName = frame_class_name;
     return description;
 }
 
@@ -83,7 +83,7 @@ int Extent(LONG from, LONG to)
 LPCTSTR framework::FrameClassName()
 {
     WNDCLASS description = FrameClass();
-    return AfxRegisterClass(&description) ? frameClassName : nullptr;
+    return AfxRegisterClass(&description) ? frame_class_name : nullptr;
 }
 
 CFrameWnd::CFrameWnd()

@@ -37,10 +37,10 @@ CString SummarySection(LPCTSTR profileName)
     return CString(profileName) + L"-Summary";
 }
 
-constexpr wchar_t countEntry[] = L"Bars";
-constexpr wchar_t idEntry[] = L"BarID";
-constexpr wchar_t visibleEntry[] = L"Visible";
-constexpr wchar_t sideEntry[] = L"Side";
+constexpr wchar_t count_entry[] = L"Bars";
+constexpr wchar_t id_entry[] = L"BarID";
+constexpr wchar_t visible_entry[] = L"Visible";
+constexpr wchar_t side_entry[] = L"Side";
 } // namespace
 
 CControlBar * CFrameWnd::GetControlBar(UINT nID)
@@ -206,11 +206,11 @@ void CFrameWnd::SaveBarState(LPCTSTR lpszProfileName) const
     {
         CString const section = BarSection(lpszProfileName, number++);
         app->WriteProfileString(section, nullptr, nullptr);
-        app->WriteProfileInt(section, idEntry, static_cast<WORD>(bar->GetDlgCtrlID()));
-        app->WriteProfileInt(section, visibleEntry, bar->IsToBeVisible());
-        app->WriteProfileInt(section, sideEntry, static_cast<int>(bar->GetBarStyle() & CBRS_ALIGN_ANY));
+        app->WriteProfileInt(section, id_entry, static_cast<WORD>(bar->GetDlgCtrlID()));
+        app->WriteProfileInt(section, visible_entry, bar->IsToBeVisible());
+        app->WriteProfileInt(section, side_entry, static_cast<int>(bar->GetBarStyle() & CBRS_ALIGN_ANY));
     }
-    app->WriteProfileInt(SummarySection(lpszProfileName), countEntry, number);
+    app->WriteProfileInt(SummarySection(lpszProfileName), count_entry, number);
 }
 
 void CFrameWnd::LoadBarState(LPCTSTR lpszProfileName)
@@ -219,17 +219,17 @@ void CFrameWnd::LoadBarState(LPCTSTR lpszProfileName)
     if (app == nullptr)
         return;
     WindowGuard const guard(this);
-    constexpr int mostBars = AFX_IDW_CONTROLBAR_LAST - AFX_IDW_CONTROLBAR_FIRST + 1;
+    constexpr int most_bars = AFX_IDW_CONTROLBAR_LAST - AFX_IDW_CONTROLBAR_FIRST + 1;
     int const count =
-        std::min<int>(static_cast<int>(app->GetProfileInt(SummarySection(lpszProfileName), countEntry, 0)), mostBars);
+        std::min<int>(static_cast<int>(app->GetProfileInt(SummarySection(lpszProfileName), count_entry, 0)), most_bars);
     for (int number = 0; number < count && guard.Alive(); ++number)
     {
         CString const section = BarSection(lpszProfileName, number);
-        CControlBar * const bar = GetControlBar(app->GetProfileInt(section, idEntry, 0));
+        CControlBar * const bar = GetControlBar(app->GetProfileInt(section, id_entry, 0));
         if (bar == nullptr)
             continue;
-        bar->DelayShow(static_cast<BOOL>(app->GetProfileInt(section, visibleEntry, TRUE)));
-        DWORD const side = app->GetProfileInt(section, sideEntry, 0) & CBRS_ALIGN_ANY;
+        bar->DelayShow(static_cast<BOOL>(app->GetProfileInt(section, visible_entry, TRUE)));
+        DWORD const side = app->GetProfileInt(section, side_entry, 0) & CBRS_ALIGN_ANY;
         if ((bar->m_dockStyle & m_dockStyle & side) == side && side != 0 && (side & (side - 1)) == 0)
             bar->SetBarStyle((bar->GetBarStyle() & ~static_cast<DWORD>(CBRS_ALIGN_ANY)) | side);
     }

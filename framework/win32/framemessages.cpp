@@ -13,9 +13,9 @@ using framework::WindowGuard;
 
 namespace
 {
-constexpr UINT firstSystemCommand = 0xF000;
-constexpr UINT lastSystemCommand = 0xF1F0;
-constexpr UINT firstFrameworkId = 0xF000; // items from here on aren't greyed for want of a handler
+constexpr UINT first_system_command = 0xF000;
+constexpr UINT last_system_command = 0xF1F0;
+constexpr UINT first_framework_id = 0xF000; // items from here on aren't greyed for want of a handler
 } // namespace
 
 void framework::ChangeWindowText(HWND window, LPCTSTR text)
@@ -105,7 +105,7 @@ void CFrameWnd::OnInitMenuPopup(CMenu * pPopupMenu, UINT, BOOL bSysMenu)
         else
         {
             state.m_pSubMenu = nullptr;
-            CmdUiAccess::DoUpdate(state, this, m_bAutoMenuEnable && state.m_nID < firstFrameworkId);
+            CmdUiAccess::DoUpdate(state, this, m_bAutoMenuEnable && state.m_nID < first_framework_id);
         }
         if (!guard.Alive() || !::IsMenu(menu))
             return;
@@ -136,8 +136,8 @@ void CFrameWnd::OnMenuSelect(UINT nItemID, UINT nFlags, HMENU)
         m_messageTracking = AFX_IDS_IDLEMESSAGE; // the menu is closed
     else if (nItemID == 0 || (nFlags & (MF_SEPARATOR | MF_POPUP)) != 0)
         m_messageTracking = 0;
-    else if (nItemID >= firstSystemCommand && nItemID < lastSystemCommand)
-        m_messageTracking = ((nItemID - firstSystemCommand) >> 4) + AFX_IDS_SCFIRST;
+    else if (nItemID >= first_system_command && nItemID < last_system_command)
+        m_messageTracking = ((nItemID - first_system_command) >> 4) + AFX_IDS_SCFIRST;
     else if (nItemID >= AFX_IDM_FIRST_MDICHILD)
         m_messageTracking = AFX_IDS_MDICHILD;
     else

@@ -173,10 +173,10 @@ BOOL CFont::CreatePointFont(int nPointSize, LPCTSTR lpszFaceName, CDC * pDC)
 
 BOOL CFont::CreatePointFontIndirect(LOGFONT const * lpLogFont, CDC * pDC)
 {
-    constexpr int decipointsPerInch = 720;
+    constexpr int decipoints_per_inch = 720;
     HDC const dc = pDC == nullptr ? ::GetDC(nullptr) : pDC->m_hAttribDC;
-    POINT size = {0, ::MulDiv(::GetDeviceCaps(dc, LOGPIXELSY), static_cast<int>(lpLogFont->lfHeight),
-                              decipointsPerInch)};
+    POINT size = {
+        0, ::MulDiv(::GetDeviceCaps(dc, LOGPIXELSY), static_cast<int>(lpLogFont->lfHeight), decipoints_per_inch)};
     POINT origin = {0, 0};
     ::DPtoLP(dc, &size, 1);
     ::DPtoLP(dc, &origin, 1);

@@ -260,14 +260,14 @@ BOOL CMDIFrameWnd::OnCmdMsg(UINT nID, int nCode, void * pExtra, AFX_CMDHANDLERIN
 
 BOOL CMDIFrameWnd::OnCommand(WPARAM wParam, LPARAM lParam)
 {
-    constexpr UINT defaultCommands = 0xF000; // the system's and the choice of a child are left to the default
+    constexpr UINT default_commands = 0xF000; // the system's and the choice of a child are left to the default
     WindowGuard const guard(this);
     CMDIChildWnd * const child = MDIGetActive();
     if (child != nullptr && AfxCallWndProc(child, child->m_hWnd, WM_COMMAND, wParam, lParam) != 0)
         return TRUE;
     if (!guard.Alive() || CFrameWnd::OnCommand(wParam, lParam))
         return TRUE;
-    if (lParam == 0 && (LOWORD(wParam) & defaultCommands) == defaultCommands)
+    if (lParam == 0 && (LOWORD(wParam) & default_commands) == default_commands)
     {
         DefWindowProc(WM_COMMAND, wParam, lParam);
         return TRUE;

@@ -188,8 +188,7 @@ UINT CMenu::GetDefaultItem(UINT gmdiFlags, BOOL fByPos)
     return ::GetMenuDefaultItem(m_hMenu, static_cast<UINT>(fByPos), gmdiFlags);
 }
 
-BOOL CMenu::SetMenuItemBitmaps(UINT nPosition, UINT nFlags, CBitmap const * pBmpUnchecked,
-                               CBitmap const * pBmpChecked)
+BOOL CMenu::SetMenuItemBitmaps(UINT nPosition, UINT nFlags, CBitmap const * pBmpUnchecked, CBitmap const * pBmpChecked)
 {
     return ::SetMenuItemBitmaps(m_hMenu, nPosition, nFlags, static_cast<HBITMAP>(HandleOf(pBmpUnchecked)),
                                 static_cast<HBITMAP>(HandleOf(pBmpChecked)));

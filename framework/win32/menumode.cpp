@@ -12,8 +12,8 @@
 
 namespace
 {
-constexpr wchar_t barProperty[] = L"FrameworkMenuBar";
-constexpr LPARAM wasDown = 0x40000000; // the key is repeating
+constexpr wchar_t bar_property[] = L"FrameworkMenuBar";
+constexpr LPARAM was_down = 0x40000000; // the key is repeating
 
 bool IsPress(UINT message)
 {
@@ -56,18 +56,18 @@ void framework::EndMenuMode()
 
 void framework::MenuMode::AttachBar(HWND frame, CMFCMenuBar & bar)
 {
-    ::SetProp(frame, barProperty, bar.m_hWnd);
+    ::SetProp(frame, bar_property, bar.m_hWnd);
 }
 
 void framework::MenuMode::DetachBar(HWND frame, CMFCMenuBar const & bar)
 {
-    if (::GetProp(frame, barProperty) == bar.m_hWnd)
-        ::RemoveProp(frame, barProperty);
+    if (::GetProp(frame, bar_property) == bar.m_hWnd)
+        ::RemoveProp(frame, bar_property);
 }
 
 CMFCMenuBar * framework::MenuMode::BarOf(HWND frame)
 {
-    auto const bar = static_cast<HWND>(frame != nullptr ? ::GetProp(frame, barProperty) : nullptr);
+    auto const bar = static_cast<HWND>(frame != nullptr ? ::GetProp(frame, bar_property) : nullptr);
     return DYNAMIC_DOWNCAST(CMFCMenuBar, CWnd::FromHandlePermanent(bar));
 }
 
@@ -306,7 +306,7 @@ bool framework::MenuMode::HandleAlt(MSG const & message)
         }
         if (message.wParam != VK_MENU || message.message != WM_SYSKEYDOWN)
             m_altAlone = false;
-        else if ((message.lParam & wasDown) == 0)
+        else if ((message.lParam & was_down) == 0)
             m_altAlone = ::GetKeyState(VK_SHIFT) >= 0 && ::GetKeyState(VK_CONTROL) >= 0;
         return false;
     case WM_SYSKEYUP:
@@ -337,7 +337,7 @@ bool framework::MenuMode::HandleKey(MSG const & message)
         return true;
     }
     auto const key = static_cast<UINT>(message.wParam);
-    if (key == VK_F10 || (key == VK_MENU && (message.lParam & wasDown) == 0))
+    if (key == VK_F10 || (key == VK_MENU && (message.lParam & was_down) == 0))
     {
         End();
         return true;

@@ -21,9 +21,9 @@ END_MESSAGE_MAP()
 
 namespace
 {
-constexpr int textMargin = 7; // at the sides of a menu's name
-constexpr int heightBeyondText = 7;
-constexpr int systemButtonSize = 18;
+constexpr int text_margin = 7; // at the sides of a menu's name
+constexpr int height_beyond_text = 7;
+constexpr int system_button_size = 18;
 
 /// The name of a menu.
 class NameButton : public CMFCToolBarMenuButton
@@ -32,7 +32,7 @@ public:
     SIZE OnCalculateSize(CDC * pDC, const CSize & sizeDefault, BOOL bHorz) override
     {
         CSize size = framework::LabelExtent(*pDC, m_strText);
-        size.cx += 2 * Scaled(textMargin);
+        size.cx += 2 * Scaled(text_margin);
         size.cy = sizeDefault.cy;
         if (!bHorz)
             size.cx = std::max(size.cx, sizeDefault.cx);
@@ -72,7 +72,7 @@ public:
 
     SIZE OnCalculateSize(CDC *, const CSize & sizeDefault, BOOL) override
     {
-        return CSize(Scaled(systemButtonSize), sizeDefault.cy);
+        return CSize(Scaled(system_button_size), sizeDefault.cy);
     }
     void OnDraw(CDC * pDC, const CRect & rect, CMFCToolBarImages *, BOOL, BOOL, BOOL bHighlight, BOOL, BOOL) override
     {
@@ -366,7 +366,7 @@ bool CMFCMenuBar::IsUpdated(CMFCToolBarButton const & button) const
 int CMFCMenuBar::GetRowHeight() const
 {
     framework::MeasureDC dc;
-    return std::max<int>(framework::LabelExtent(dc.Get(), L"X").cy + Scaled(heightBeyondText),
+    return std::max<int>(framework::LabelExtent(dc.Get(), L"X").cy + Scaled(height_beyond_text),
                          m_systemMenu ? ::GetSystemMetrics(SM_CYSMICON) + Scaled(2) : 0);
 }
 

@@ -30,7 +30,7 @@ END_MESSAGE_MAP()
 namespace
 {
 constexpr int edge = 3; // around the items, its outermost pixel drawn
-constexpr UINT menuClosed = 0xFFFF;
+constexpr UINT menu_closed = 0xFFFF;
 bool sendsMenuSelect = true;
 
 CRect WorkAreaAt(CPoint point)
@@ -260,7 +260,7 @@ void CMFCPopupMenu::OnDestroy()
     else if (auto * const single = DYNAMIC_DOWNCAST(CFrameWndEx, top))
         single->OnClosePopupMenu(this);
     if (last && m_shown && sendsMenuSelect && ::IsWindow(m_message))
-        ::SendMessage(m_message, WM_MENUSELECT, MAKEWPARAM(0, menuClosed), 0);
+        ::SendMessage(m_message, WM_MENUSELECT, MAKEWPARAM(0, menu_closed), 0);
     if (guard.Alive())
         CMiniFrameWnd::OnDestroy();
 }

@@ -30,14 +30,14 @@ END_MESSAGE_MAP()
 
 namespace
 {
-constexpr int spaceBesideImage = 12;
-constexpr int shortcutGap = 24;
-constexpr int rightMargin = 16; // where the arrow of a menu stands
-constexpr int separatorHeight = 7;
-constexpr int scrollStrip = 12;
-constexpr UINT_PTR waitTimer = 1;   // until an item's menu opens
-constexpr UINT_PTR scrollTimer = 2; // while the mouse is on a strip
-constexpr UINT scrollTime = 60;
+constexpr int space_beside_image = 12;
+constexpr int shortcut_gap = 24;
+constexpr int right_margin = 16; // where the arrow of a menu stands
+constexpr int separator_height = 7;
+constexpr int scroll_strip = 12;
+constexpr UINT_PTR wait_timer = 1;   // until an item's menu opens
+constexpr UINT_PTR scroll_timer = 2; // while the mouse is on a strip
+constexpr UINT scroll_time = 60;
 
 UINT ShowDelay()
 {
@@ -173,17 +173,17 @@ void CMFCPopupMenuBar::UpdateInserted(CFrameWnd * target)
 
 int CMFCPopupMenuBar::TextColumn() const
 {
-    return GetMenuImageSize().cx + Scaled(spaceBesideImage);
+    return GetMenuImageSize().cx + Scaled(space_beside_image);
 }
 
 int CMFCPopupMenuBar::ShortcutColumn() const
 {
-    return TextColumn() + m_textWidth + Scaled(shortcutGap);
+    return TextColumn() + m_textWidth + Scaled(shortcut_gap);
 }
 
 int CMFCPopupMenuBar::StripHeight() const
 {
-    return Scaled(scrollStrip);
+    return Scaled(scroll_strip);
 }
 
 CRect CMFCPopupMenuBar::StripRect(bool upper) const
@@ -216,7 +216,7 @@ void CMFCPopupMenuBar::Measure(CDC & dc)
         if (button.IsHidden())
             height = 0;
         else if ((button.m_nStyle & TBBS_SEPARATOR) != 0)
-            height = Scaled(separatorHeight);
+            height = Scaled(separator_height);
         else
         {
             height = button.OnCalculateSize(&dc, GetMenuButtonSize(), FALSE).cy;
@@ -236,9 +236,9 @@ CSize CMFCPopupMenuBar::Arrange(CDC & dc, int, bool, bool place)
     if (m_heights.size() != count)
         Measure(dc);
     int const total = std::accumulate(m_heights.begin(), m_heights.end(), 0);
-    CSize size(TextColumn() + m_textWidth + Scaled(rightMargin), total);
+    CSize size(TextColumn() + m_textWidth + Scaled(right_margin), total);
     if (m_shortcutWidth > 0)
-        size.cx += Scaled(shortcutGap) + m_shortcutWidth;
+        size.cx += Scaled(shortcut_gap) + m_shortcutWidth;
     if (!place)
         return size;
     CRect client;
@@ -475,7 +475,7 @@ void CMFCPopupMenuBar::OnMouseMove(UINT, CPoint point)
     WatchMouse();
     if (IsScrolled() && (StripRect(true).PtInRect(point) || StripRect(false).PtInRect(point)))
     {
-        SetTimer(scrollTimer, scrollTime, nullptr);
+        SetTimer(scroll_timer, scroll_time, nullptr);
         return;
     }
     int const hit = HitTest(point);
@@ -499,7 +499,7 @@ void CMFCPopupMenuBar::OnMouseLeave()
 void CMFCPopupMenuBar::StartPopupMenuTimer(CMFCToolBarMenuButton * pMenuButton, int nDelayFactor)
 {
     m_waiting = ButtonToIndex(pMenuButton);
-    SetTimer(waitTimer, ShowDelay() * static_cast<UINT>(std::max(nDelayFactor, 1)), nullptr);
+    SetTimer(wait_timer, ShowDelay() * static_cast<UINT>(std::max(nDelayFactor, 1)), nullptr);
 }
 
 void CMFCPopupMenuBar::CloseDelayedSubMenu()
@@ -515,9 +515,9 @@ void CMFCPopupMenuBar::RestoreDelayedSubMenu()
 
 void CMFCPopupMenuBar::OnTimer(UINT_PTR nIDEvent)
 {
-    if (nIDEvent == waitTimer)
+    if (nIDEvent == wait_timer)
     {
-        KillTimer(waitTimer);
+        KillTimer(wait_timer);
         int const waiting = std::exchange(m_waiting, -1);
         if (waiting >= 0 && waiting == m_hot && OpenSubMenu(waiting, false))
             return;
@@ -527,7 +527,7 @@ void CMFCPopupMenuBar::OnTimer(UINT_PTR nIDEvent)
             CloseBeyond();
         return;
     }
-    if (nIDEvent != scrollTimer)
+    if (nIDEvent != scroll_timer)
     {
         CMFCToolBar::OnTimer(nIDEvent);
         return;
@@ -538,7 +538,7 @@ void CMFCPopupMenuBar::OnTimer(UINT_PTR nIDEvent)
     bool const up = IsScrolled() && StripRect(true).PtInRect(cursor);
     bool const down = IsScrolled() && StripRect(false).PtInRect(cursor);
     if (!up && !down)
-        KillTimer(scrollTimer);
+        KillTimer(scroll_timer);
     else
         SetOffset(m_offset + (up ? -1 : 1));
 }

@@ -33,15 +33,15 @@ END_MESSAGE_MAP()
 
 namespace
 {
-constexpr COLORREF notGiven = static_cast<COLORREF>(-1);
-constexpr int paneMargin = 4; // at both sides of a text
-constexpr int paneGap = 2;
-constexpr int heightBeyondText = 8;
-constexpr int leastWidth = 2;
+constexpr COLORREF not_given = static_cast<COLORREF>(-1);
+constexpr int pane_margin = 4; // at both sides of a text
+constexpr int pane_gap = 2;
+constexpr int height_beyond_text = 8;
+constexpr int least_width = 2;
 
 COLORREF Or(COLORREF colour, int systemColour)
 {
-    return colour != notGiven ? colour : ::GetSysColor(systemColour);
+    return colour != not_given ? colour : ::GetSysColor(systemColour);
 }
 
 CString IndicatorText(UINT id)
@@ -343,12 +343,12 @@ BOOL CMFCStatusBar::GetExtendedArea(CRect & rect) const
 
 CSize CMFCStatusBar::CalcFixedLayout(BOOL, BOOL bHorz)
 {
-    constexpr int asLongAsTheFrame = 32767;
+    constexpr int as_long_as_the_frame = 32767;
     framework::MeasureDC dc;
     CRect around(0, 0, 0, 0);
     CalcInsideRect(around, bHorz);
-    int const height = framework::LabelExtent(dc.Get(), L"X").cy + Scaled(heightBeyondText) - around.Height();
-    return CSize(asLongAsTheFrame, height);
+    int const height = framework::LabelExtent(dc.Get(), L"X").cy + Scaled(height_beyond_text) - around.Height();
+    return CSize(as_long_as_the_frame, height);
 }
 
 BOOL CMFCStatusBar::DoesAllowDynInsertBefore() const
@@ -373,7 +373,7 @@ void CMFCStatusBar::Arrange()
     int const grip = HasGrip() ? ::GetSystemMetrics(SM_CXVSCROLL) : 0;
     inside.right -= grip;
     auto const width = [](CMFCStatusBarPaneInfo const & pane) {
-        return std::max(pane.cxText, leastWidth) + 2 * Scaled(paneMargin);
+        return std::max(pane.cxText, least_width) + 2 * Scaled(pane_margin);
     };
     int taken = 0;
     int stretching = 0;
@@ -383,7 +383,7 @@ void CMFCStatusBar::Arrange()
             ++stretching;
         else
             taken += width(pane);
-        taken += Scaled(paneGap);
+        taken += Scaled(pane_gap);
     }
     int rest = std::max<int>(inside.Width() - taken, 0);
     int x = inside.left;
@@ -397,7 +397,7 @@ void CMFCStatusBar::Arrange()
             --stretching;
         }
         pane.rect = CRect(x, inside.top, x + own, inside.bottom);
-        x += own + Scaled(paneGap);
+        x += own + Scaled(pane_gap);
     }
     Invalidate(FALSE);
 }
@@ -477,7 +477,7 @@ void CMFCStatusBar::OnDrawPane(CDC * pDC, CMFCStatusBarPaneInfo * pPane)
     if (rect.IsRectEmpty())
         return;
     COLORREF const face = Or(pPane->clrBackground, COLOR_BTNFACE);
-    if (pPane->clrBackground != notGiven)
+    if (pPane->clrBackground != not_given)
         pDC->FillSolidRect(&rect, face);
     if ((pPane->nStyle & (SBPS_NOBORDERS | SBPS_POPOUT)) != SBPS_NOBORDERS)
     {
@@ -495,7 +495,7 @@ void CMFCStatusBar::OnDrawPane(CDC * pDC, CMFCStatusBarPaneInfo * pPane)
         done.right = done.left + ::MulDiv(rect.Width(), static_cast<int>(pPane->nProgressCurr),
                                           static_cast<int>(pPane->nProgressTotal));
         COLORREF const first = Or(pPane->clrProgressBar, COLOR_HIGHLIGHT);
-        COLORREF const last = pPane->clrProgressBarDest != notGiven ? pPane->clrProgressBarDest : first;
+        COLORREF const last = pPane->clrProgressBarDest != not_given ? pPane->clrProgressBarDest : first;
         for (int x = done.left; x < done.right; ++x)
             pDC->FillSolidRect(x, done.top, 1, done.Height(),
                                framework::Between(first, last, (x - rect.left) * 100 / std::max(rect.Width(), 1)));
@@ -517,14 +517,14 @@ void CMFCStatusBar::OnDrawPane(CDC * pDC, CMFCStatusBarPaneInfo * pPane)
         pDC->RestoreDC(savedAgain);
         return;
     }
-    rect.DeflateRect(Scaled(paneMargin) - 1, 0);
+    rect.DeflateRect(Scaled(pane_margin) - 1, 0);
     if (pPane->hIcon != nullptr)
     {
         int const width = ::GetSystemMetrics(SM_CXSMICON);
         int const height = ::GetSystemMetrics(SM_CYSMICON);
         ::DrawIconEx(pDC->m_hDC, rect.left, rect.top + (rect.Height() - height) / 2, pPane->hIcon, width, height, 0,
                      nullptr, DI_NORMAL);
-        rect.left += width + Scaled(paneGap);
+        rect.left += width + Scaled(pane_gap);
     }
     if (text.IsEmpty())
         return;

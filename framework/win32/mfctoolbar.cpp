@@ -42,13 +42,13 @@ END_MESSAGE_MAP()
 
 namespace
 {
-constexpr SIZE usualButton{23, 22};
-constexpr SIZE usualMenuButton{23, 22};
-constexpr int separatorWidth = 8;
-constexpr int asLongAsThereIs = 32767;
-constexpr UINT_PTR toolBarResource = 241; // RT_TOOLBAR
-constexpr WORD toolBarVersion = 1;
-constexpr SIZE buttonBeyondImage{7, 7};
+constexpr SIZE usual_button{23, 22};
+constexpr SIZE usual_menu_button{23, 22};
+constexpr int separator_width = 8;
+constexpr int as_long_as_there_is = 32767;
+constexpr UINT_PTR tool_bar_resource = 241; // RT_TOOLBAR
+constexpr WORD tool_bar_version = 1;
+constexpr SIZE button_beyond_image{7, 7};
 
 /// The start of a resource that describes a tool bar; the identifiers follow.
 struct ToolBarResource
@@ -64,8 +64,8 @@ struct Shared
 {
     CMFCToolBarImages images;
     std::map<UINT, int> imageOf; // command to picture
-    CSize button{usualButton};
-    CSize menuButton{usualMenuButton};
+    CSize button{usual_button};
+    CSize menuButton{usual_menu_button};
     CSize menuImage{CSize(16, 15)};
     BOOL toolTips = TRUE;
 };
@@ -139,7 +139,7 @@ void CMFCBaseToolBar::OnAfterChangeParent(CWnd * pWndOldParent)
 }
 
 CMFCToolBar::CMFCToolBar()
-    : m_lockedButtonSize(usualButton),
+    : m_lockedButtonSize(usual_button),
       m_locked(false),
       m_labels(false),
       m_viaFrame(true),
@@ -197,14 +197,14 @@ void CMFCToolBar::OnDestroy()
 bool CMFCToolBar::ReadResource(UINT resource, std::vector<UINT> & commands, CSize & image)
 {
     LPCTSTR const name = MAKEINTRESOURCE(resource);
-    LPCTSTR const kind = MAKEINTRESOURCE(toolBarResource);
+    LPCTSTR const kind = MAKEINTRESOURCE(tool_bar_resource);
     HINSTANCE const module = AfxFindResourceHandle(name, kind);
     HRSRC const found = ::FindResource(module, name, kind);
     HGLOBAL const loaded = found != nullptr ? ::LoadResource(module, found) : nullptr;
     auto const * const start =
         loaded != nullptr ? static_cast<ToolBarResource const *>(::LockResource(loaded)) : nullptr;
     DWORD const size = found != nullptr ? ::SizeofResource(module, found) : 0;
-    if (start == nullptr || size < sizeof *start || start->version != toolBarVersion ||
+    if (start == nullptr || size < sizeof *start || start->version != tool_bar_version ||
         size < sizeof *start + start->count * sizeof(WORD))
         return false;
     auto const * const first = reinterpret_cast<WORD const *>(start + 1);
@@ -244,10 +244,10 @@ BOOL CMFCToolBar::LoadToolBar(UINT uiResID, UINT, UINT, BOOL bLocked, UINT, UINT
         return FALSE;
     m_resource = uiResID;
     if (m_locked)
-        m_lockedButtonSize = image + CSize(buttonBeyondImage);
+        m_lockedButtonSize = image + CSize(button_beyond_image);
     else
     {
-        Everything().button = image + CSize(buttonBeyondImage);
+        Everything().button = image + CSize(button_beyond_image);
         MapImages(commands, first);
     }
     if (!SetButtons(commands.data(), static_cast<int>(commands.size()), FALSE))
@@ -653,7 +653,7 @@ CSize CMFCToolBar::SizeOf(CDC & dc, CMFCToolBarButton & button, bool horizontal)
     CSize const size = GetButtonSize();
     if ((button.m_nStyle & TBBS_SEPARATOR) == 0)
         return button.OnCalculateSize(&dc, CSize(size.cx, GetRowHeight()), horizontal);
-    return horizontal ? CSize(Scaled(separatorWidth), GetRowHeight()) : CSize(size.cx, Scaled(separatorWidth));
+    return horizontal ? CSize(Scaled(separator_width), GetRowHeight()) : CSize(size.cx, Scaled(separator_width));
 }
 
 CSize CMFCToolBar::Arrange(CDC & dc, int length, bool horizontal, bool place)
@@ -729,7 +729,7 @@ void CMFCToolBar::AdjustLayout()
     m_stale = false;
     bool const horizontal = IsHorizontal() != FALSE;
     CRect const inside = Inside();
-    ArrangeNow(horizontal ? inside.Width() : asLongAsThereIs, horizontal, true);
+    ArrangeNow(horizontal ? inside.Width() : as_long_as_there_is, horizontal, true);
     if (m_hWnd != nullptr)
         Invalidate();
 }
@@ -751,7 +751,7 @@ int CMFCToolBar::WrapToolBar(int nWidth, int, CDC *, int, int)
 
 CSize CMFCToolBar::CalcSize(BOOL bVertDock)
 {
-    return ArrangeNow(asLongAsThereIs, bVertDock == FALSE, false);
+    return ArrangeNow(as_long_as_there_is, bVertDock == FALSE, false);
 }
 
 CSize CMFCToolBar::CalcFixedLayout(BOOL bStretch, BOOL bHorz)
@@ -759,7 +759,7 @@ CSize CMFCToolBar::CalcFixedLayout(BOOL bStretch, BOOL bHorz)
     // Buttons that the frame is too narrow for go to a further row.
     CRect around(0, 0, 0, 0);
     CalcInsideRect(around, bHorz);
-    int length = asLongAsThereIs;
+    int length = as_long_as_there_is;
     CWnd const * const parent = m_hWnd != nullptr ? GetParent() : nullptr;
     if (parent != nullptr && bHorz)
     {
@@ -774,7 +774,7 @@ CSize CMFCToolBar::CalcFixedLayout(BOOL bStretch, BOOL bHorz)
     (bHorz ? size.cy : size.cx) = std::max<LONG>(bHorz ? size.cy : size.cx, bHorz ? GetRowHeight() : GetColumnWidth());
     size -= around.Size();
     if (bStretch)
-        (bHorz ? size.cx : size.cy) = asLongAsThereIs;
+        (bHorz ? size.cx : size.cy) = as_long_as_there_is;
     return size;
 }
 

@@ -21,11 +21,11 @@ IMPLEMENT_DYNCREATE(CMFCToolBarMenuButton, CMFCToolBarButton)
 
 namespace
 {
-constexpr int labelGap = 4;    // between picture and text
-constexpr int labelMargin = 4; // at the sides of a text
-constexpr int arrowWidth = 12;
-constexpr int itemMargin = 4; // of an item of a menu, at its sides
-constexpr int itemHeightBeyondText = 6;
+constexpr int label_gap = 4;    // between picture and text
+constexpr int label_margin = 4; // at the sides of a text
+constexpr int arrow_width = 12;
+constexpr int item_margin = 4; // of an item of a menu, at its sides
+constexpr int item_height_beyond_text = 6;
 
 CMFCToolBar * BarOf(CWnd * window)
 {
@@ -297,12 +297,12 @@ SIZE CMFCToolBarButton::OnCalculateSize(CDC * pDC, const CSize & sizeDefault, BO
         return sizeDefault; // texts don't stand in columns
     m_sizeText = LabelExtent(*pDC, m_strText);
     CSize size(m_sizeText);
-    size.cx += 2 * Scaled(labelMargin);
+    size.cx += 2 * Scaled(label_margin);
     if (!IsDrawImage())
         return CSize(std::max(size.cx, sizeDefault.cx), sizeDefault.cy);
     if (m_bTextBelow)
         return CSize(std::max(size.cx, sizeDefault.cx), sizeDefault.cy + size.cy);
-    return CSize(sizeDefault.cx + size.cx - Scaled(labelMargin - labelGap), sizeDefault.cy);
+    return CSize(sizeDefault.cx + size.cx - Scaled(label_margin - label_gap), sizeDefault.cy);
 }
 
 void CMFCToolBarButton::OnDraw(CDC * pDC, const CRect & rect, CMFCToolBarImages * pImages, BOOL bHorz, BOOL,
@@ -329,8 +329,8 @@ void CMFCToolBarButton::OnDraw(CDC * pDC, const CRect & rect, CMFCToolBarImages 
         }
         else if (text)
         {
-            at.x = place.left + Scaled(labelMargin);
-            place.left = at.x + size.cx + Scaled(labelGap);
+            at.x = place.left + Scaled(label_margin);
+            place.left = at.x + size.cx + Scaled(label_gap);
         }
         pImages->Draw(pDC, at.x, at.y, m_iImage, bHighlight, disabled && bGrayDisabledButtons);
     }
@@ -551,7 +551,7 @@ BOOL CMFCToolBarMenuButton::OnClick(CWnd * pWnd, BOOL)
 
 int CMFCToolBarMenuButton::ArrowWidth() const
 {
-    return Scaled(arrowWidth);
+    return Scaled(arrow_width);
 }
 
 SIZE CMFCToolBarMenuButton::OnCalculateSize(CDC * pDC, const CSize & sizeDefault, BOOL bHorz)
@@ -607,8 +607,8 @@ CSize CMFCToolBarMenuButton::ItemSize(CDC & dc) const
     CString const text = LabelPart(m_strText);
     CSize size = LabelExtent(dc, text.IsEmpty() ? CString(L" ") : text);
     CSize const image = CMFCToolBar::GetMenuImageSize();
-    size.cy = std::max<LONG>(size.cy, image.cy) + Scaled(itemHeightBeyondText);
-    size.cx += column.TextColumn() + Scaled(3 * itemMargin + arrowWidth);
+    size.cy = std::max<LONG>(size.cy, image.cy) + Scaled(item_height_beyond_text);
+    size.cx += column.TextColumn() + Scaled(3 * item_margin + arrow_width);
     return size;
 }
 
@@ -621,7 +621,7 @@ void CMFCToolBarMenuButton::DrawItem(CDC & dc, CRect const & rect, CMFCToolBarIm
     COLORREF const colour = ::GetSysColor(disabled ? COLOR_GRAYTEXT : highlight ? COLOR_HIGHLIGHTTEXT : COLOR_MENUTEXT);
     dc.FillSolidRect(&rect, ground);
     CRect mark(rect);
-    mark.right = mark.left + column.TextColumn() - Scaled(itemMargin);
+    mark.right = mark.left + column.TextColumn() - Scaled(item_margin);
     bool const image = images != nullptr && IsDrawImage() && m_iImage < images->GetCount();
     if (image)
     {
@@ -649,7 +649,7 @@ void CMFCToolBarMenuButton::DrawItem(CDC & dc, CRect const & rect, CMFCToolBarIm
     }
     CRect text(rect);
     text.left += column.TextColumn();
-    text.right -= Scaled(itemMargin);
+    text.right -= Scaled(item_margin);
     CString const label = LabelPart(m_strText);
     ::DrawText(dc.m_hDC, label, label.GetLength(), &text, DT_SINGLELINE | DT_VCENTER | DT_LEFT);
     CString const shortcut = ShortcutPart(m_strText);
@@ -662,6 +662,6 @@ void CMFCToolBarMenuButton::DrawItem(CDC & dc, CRect const & rect, CMFCToolBarIm
     if (previous != nullptr)
         ::SelectObject(dc.m_hDC, previous);
     if (HasMenu())
-        DrawMark(dc, CRect(rect.right - Scaled(arrowWidth), rect.top, rect.right, rect.bottom), Mark::ArrowRight,
+        DrawMark(dc, CRect(rect.right - Scaled(arrow_width), rect.top, rect.right, rect.bottom), Mark::ArrowRight,
                  colour);
 }

@@ -11,8 +11,8 @@ IMPLEMENT_DYNCREATE(CMFCToolBarImages, CObject)
 
 namespace
 {
-constexpr SIZE usualSize{16, 15};
-constexpr COLORREF usualTransparent = RGB(192, 192, 192);
+constexpr SIZE usual_size{16, 15};
+constexpr COLORREF usual_transparent = RGB(192, 192, 192);
 constexpr DWORD opaque = 0xFF000000;
 
 /// Pixels of a bitmap of the system, top row first; freed with the object.
@@ -91,10 +91,10 @@ int Channel(DWORD pixel, int shift)
 /// What is dark gets the colour of disabled texts, what is light comes near the ground.
 DWORD Greyed(DWORD pixel)
 {
-    constexpr int mostPercent = 60;
+    constexpr int most_percent = 60;
     int const grey = (Channel(pixel, 16) * 30 + Channel(pixel, 8) * 59 + Channel(pixel, 0) * 11) / 100;
     COLORREF const colour =
-        framework::Between(::GetSysColor(COLOR_GRAYTEXT), ::GetSysColor(COLOR_BTNFACE), grey * mostPercent / 255);
+        framework::Between(::GetSysColor(COLOR_GRAYTEXT), ::GetSysColor(COLOR_BTNFACE), grey * most_percent / 255);
     return (pixel & opaque) | (FromColour(colour) & ~opaque);
 }
 
@@ -129,7 +129,7 @@ DWORD Between(std::vector<DWORD> const & pixels, CSize size, int x, int y)
 }
 } // namespace
 
-CMFCToolBarImages::CMFCToolBarImages() : m_size(usualSize), m_transparent(usualTransparent), m_mapColours(TRUE) {}
+CMFCToolBarImages::CMFCToolBarImages() : m_size(usual_size), m_transparent(usual_transparent), m_mapColours(TRUE) {}
 
 CMFCToolBarImages::~CMFCToolBarImages() = default;
 
@@ -158,8 +158,8 @@ BOOL CMFCToolBarImages::LoadStr(LPCTSTR lpszResourceName, HINSTANCE hinstRes, BO
 
 int CMFCToolBarImages::AddImage(HBITMAP hbmp, BOOL)
 {
-    constexpr int noAlpha = 24; // up to this depth, a bitmap has no transparency of its own
-    constexpr int fewColours = 8;
+    constexpr int no_alpha = 24; // up to this depth, a bitmap has no transparency of its own
+    constexpr int few_colours = 8;
     DIBSECTION section{};
     int const known = ::GetObject(hbmp, sizeof section, &section);
     if (known == 0 || section.dsBm.bmWidth < m_size.cx || section.dsBm.bmHeight < m_size.cy || m_size.cx <= 0 ||
@@ -180,7 +180,7 @@ int CMFCToolBarImages::AddImage(HBITMAP hbmp, BOOL)
     if (rows == 0)
         return -1;
     bool const hasAlpha =
-        depth > noAlpha && std::any_of(pixels.begin(), pixels.end(), [](DWORD pixel) { return pixel > 0xFFFFFF; });
+        depth > no_alpha && std::any_of(pixels.begin(), pixels.end(), [](DWORD pixel) { return pixel > 0xFFFFFF; });
     if (!hasAlpha)
     {
         DWORD const left = FromColour(m_transparent);
@@ -191,7 +191,7 @@ int CMFCToolBarImages::AddImage(HBITMAP hbmp, BOOL)
     for (int x = 0; x + m_size.cx <= size.cx; x += m_size.cx)
     {
         Image image;
-        image.mapped = m_mapColours && depth <= fewColours;
+        image.mapped = m_mapColours && depth <= few_colours;
         for (int y = 0; y < m_size.cy; ++y)
         {
             auto const row = pixels.begin() + static_cast<std::ptrdiff_t>(y) * size.cx + x;

@@ -16,8 +16,8 @@ using framework::WindowGuard;
 
 namespace
 {
-constexpr UINT_PTR watchTimer = 0xE010;
-constexpr UINT watchTime = 100;
+constexpr UINT_PTR watch_timer = 0xE010;
+constexpr UINT watch_time = 100;
 } // namespace
 
 int CMFCToolBar::HitTest(CPoint point)
@@ -280,12 +280,12 @@ void CMFCToolBar::WatchMouse()
     track.dwFlags = TME_LEAVE;
     track.hwndTrack = m_hWnd;
     ::TrackMouseEvent(&track);
-    SetTimer(watchTimer, watchTime, nullptr);
+    SetTimer(watch_timer, watch_time, nullptr);
 }
 
 void CMFCToolBar::OnTimer(UINT_PTR nIDEvent)
 {
-    if (nIDEvent != watchTimer)
+    if (nIDEvent != watch_timer)
     {
         CMFCBaseToolBar::OnTimer(nIDEvent);
         return;
@@ -294,7 +294,7 @@ void CMFCToolBar::OnTimer(UINT_PTR nIDEvent)
     ::GetCursorPos(&cursor);
     if (GetCapture() == this || ::WindowFromPoint(cursor) == m_hWnd)
         return;
-    KillTimer(watchTimer);
+    KillTimer(watch_timer);
     SendMessage(WM_MOUSELEAVE);
 }
 

@@ -36,8 +36,8 @@ int CMFCAutoHideBar::m_nShowAHWndDelay = 400;
 
 namespace
 {
-constexpr UINT_PTR showTimer = 1;
-constexpr UINT_PTR watchTimer = framework::slideWatchTimer;
+constexpr UINT_PTR show_timer = 1;
+constexpr UINT_PTR watch_timer = framework::slideWatchTimer;
 } // namespace
 
 CPaneDivider::CPaneDivider() : m_host(nullptr), m_splitId(0), m_index(0), m_floatId(0), m_horizontal(false) {}
@@ -229,24 +229,24 @@ void CMFCAutoHideBar::OnMouseMove(UINT, CPoint point)
     if (pointed == m_pointed)
         return;
     m_pointed = pointed;
-    KillTimer(showTimer);
+    KillTimer(show_timer);
     if (pointed != 0)
-        SetTimer(showTimer, static_cast<UINT>(std::max(1, m_nShowAHWndDelay)), nullptr);
+        SetTimer(show_timer, static_cast<UINT>(std::max(1, m_nShowAHWndDelay)), nullptr);
 }
 
 void CMFCAutoHideBar::OnTimer(UINT_PTR nIDEvent)
 {
-    if (nIDEvent == watchTimer && m_host != nullptr)
+    if (nIDEvent == watch_timer && m_host != nullptr)
     {
         m_host->WatchSlid();
         return;
     }
-    if (nIDEvent != showTimer)
+    if (nIDEvent != show_timer)
     {
         CPane::OnTimer(nIDEvent);
         return;
     }
-    KillTimer(showTimer);
+    KillTimer(show_timer);
     UINT const pointed = std::exchange(m_pointed, 0);
     CPoint point;
     ::GetCursorPos(&point);

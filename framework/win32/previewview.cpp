@@ -43,7 +43,7 @@ namespace
 {
 constexpr int margin = 10; // around and between the pages
 constexpr int shadow = 3;
-constexpr int hundredthsOfMillimetres = 100;
+constexpr int hundredths_of_millimetres = 100;
 
 /// The frame that a preview fills: the main one.
 CFrameWnd * PreviewFrame(CView const & view)
@@ -86,8 +86,8 @@ void CView::OnFilePrintPreview()
     WindowGuard const frameGuard(frame);
     auto * const preview = new CPreviewView;
     CPrintPreviewState & state = preview->m_state;
-    constexpr UINT statusBar = AFX_IDW_STATUS_BAR - AFX_IDW_CONTROLBAR_FIRST;
-    state.dwStates = 1U << statusBar;
+    constexpr UINT status_bar = AFX_IDW_STATUS_BAR - AFX_IDW_CONTROLBAR_FIRST;
+    state.dwStates = 1U << status_bar;
     state.lpfnCloseProc = ClosePreviewFirst;
     state.pViewActiveOld = frame->GetActiveView();
     WindowGuard const oldView(state.pViewActiveOld);
@@ -275,9 +275,9 @@ bool CPreviewView::Record(UINT number, Page & page)
     HDC const device = m_dc->m_hDC;
     CRect const area = framework::PrintableArea(device);
     CRect const frame(0, 0,
-                      ::MulDiv(area.Width(), ::GetDeviceCaps(device, HORZSIZE) * hundredthsOfMillimetres,
+                      ::MulDiv(area.Width(), ::GetDeviceCaps(device, HORZSIZE) * hundredths_of_millimetres,
                                ::GetDeviceCaps(device, HORZRES)),
-                      ::MulDiv(area.Height(), ::GetDeviceCaps(device, VERTSIZE) * hundredthsOfMillimetres,
+                      ::MulDiv(area.Height(), ::GetDeviceCaps(device, VERTSIZE) * hundredths_of_millimetres,
                                ::GetDeviceCaps(device, VERTRES)));
     Recording recording(device, frame);
     if (recording.m_hDC == nullptr)

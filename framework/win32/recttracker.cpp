@@ -20,7 +20,7 @@ struct Sides
     bool bottom;
 };
 
-constexpr Sides sidesOf[] = {
+constexpr Sides sides_of[] = {
     {true, true, false, false},  // top left
     {false, true, true, false},  // top right
     {false, false, true, true},  // bottom right
@@ -32,20 +32,20 @@ constexpr Sides sidesOf[] = {
     {true, true, true, true}     // middle
 };
 
-constexpr int handleCount = CRectTracker::hitLeft + 1;
-constexpr int defaultHandleSize = 4;
+constexpr int handle_count = CRectTracker::hitLeft + 1;
+constexpr int default_handle_size = 4;
 
 /// The handle with these sides mirrored.
 int Mirrored(int handle, bool horizontally, bool vertically)
 {
-    Sides sides = sidesOf[handle];
+    Sides sides = sides_of[handle];
     if (horizontally)
         std::swap(sides.left, sides.right);
     if (vertically)
         std::swap(sides.top, sides.bottom);
-    for (int at = 0; at < handleCount; ++at)
+    for (int at = 0; at < handle_count; ++at)
     {
-        Sides const & other = sidesOf[at];
+        Sides const & other = sides_of[at];
         if (other.left == sides.left && other.top == sides.top && other.right == sides.right &&
             other.bottom == sides.bottom)
             return at;
@@ -80,8 +80,8 @@ CRectTracker::CRectTracker() : CRectTracker(CRect(0, 0, 0, 0), 0) {}
 CRectTracker::CRectTracker(LPCRECT lpSrcRect, UINT nStyle)
     : m_nStyle(nStyle),
       m_rect(lpSrcRect),
-      m_sizeMin(2 * defaultHandleSize, 2 * defaultHandleSize),
-      m_nHandleSize(defaultHandleSize),
+      m_sizeMin(2 * default_handle_size, 2 * default_handle_size),
+      m_nHandleSize(default_handle_size),
       m_allowInvert(false),
       m_erase(false),
       m_rectLast(0, 0, 0, 0),
@@ -110,7 +110,7 @@ CRect CRectTracker::HandleRect(int handle) const
     if ((m_nStyle & (resizeInside | resizeOutside)) == 0)
         outer.InflateRect(m_nHandleSize - 1, m_nHandleSize - 1);
     int const size = HandleSize(nullptr);
-    Sides const & sides = sidesOf[handle];
+    Sides const & sides = sides_of[handle];
     int const x = sides.left ? outer.left : sides.right ? outer.right - size : (outer.left + outer.right - size) / 2;
     int const y = sides.top ? outer.top : sides.bottom ? outer.bottom - size : (outer.top + outer.bottom - size) / 2;
     return CRect(x, y, x + size, y + size);
@@ -141,7 +141,7 @@ UINT CRectTracker::GetHandleMask() const
 int CRectTracker::HitHandle(CPoint point) const
 {
     UINT const mask = GetHandleMask();
-    for (int handle = 0; handle < handleCount; ++handle)
+    for (int handle = 0; handle < handle_count; ++handle)
     {
         if ((mask & (1U << handle)) != 0 && HandleRect(handle).PtInRect(point))
             return handle;
@@ -164,7 +164,7 @@ int CRectTracker::HitTest(CPoint point) const
 
 int CRectTracker::NormalizeHit(int nHandle) const
 {
-    if (nHandle < 0 || nHandle >= handleCount)
+    if (nHandle < 0 || nHandle >= handle_count)
         return nHandle;
     return Mirrored(nHandle, m_rect.Width() < 0, m_rect.Height() < 0);
 }
@@ -217,7 +217,7 @@ void CRectTracker::Draw(CDC * pDC) const
     if ((m_nStyle & (resizeInside | resizeOutside)) != 0)
     {
         UINT const mask = GetHandleMask();
-        for (int handle = 0; handle < handleCount; ++handle)
+        for (int handle = 0; handle < handle_count; ++handle)
         {
             if ((mask & (1U << handle)) != 0)
                 pDC->FillSolidRect(HandleRect(handle), ::GetSysColor(COLOR_WINDOWTEXT));
@@ -245,7 +245,7 @@ BOOL CRectTracker::TrackRubberBand(CWnd * pWnd, CPoint point, BOOL bAllowInvert)
 void CRectTracker::Follow(int handle, CPoint point, CRect const & start, CPoint from)
 {
     CSize const moved = point - from;
-    Sides const & sides = sidesOf[handle];
+    Sides const & sides = sides_of[handle];
     CRect rect(start);
     if (sides.left)
         rect.left += moved.cx;

@@ -25,9 +25,9 @@ const SIZE CScrollView::sizeDefault = {0, 0};
 
 namespace
 {
-constexpr int scaleToFit = -1;
-constexpr int noMode = 0;
-constexpr int linesAWheelStep = 3;
+constexpr int scale_to_fit = -1;
+constexpr int no_mode = 0;
+constexpr int lines_a_wheel_step = 3;
 
 /// A size of logical units in pixels.
 CSize Pixels(HDC dc, SIZE const & size)
@@ -39,7 +39,7 @@ CSize Pixels(HDC dc, SIZE const & size)
 } // namespace
 
 CScrollView::CScrollView()
-    : m_mapMode(noMode),
+    : m_mapMode(no_mode),
       m_totalLogical(0, 0),
       m_total(0, 0),
       m_page(0, 0),
@@ -82,7 +82,7 @@ void CScrollView::SetScrollSizes(int nMapMode, SIZE sizeTotal, const SIZE & size
 
 void CScrollView::SetScaleToFitSize(SIZE sizeTotal)
 {
-    m_mapMode = scaleToFit;
+    m_mapMode = scale_to_fit;
     m_totalLogical = sizeTotal;
     if (m_hWnd == nullptr)
         return;
@@ -100,7 +100,7 @@ void CScrollView::SetScaleToFitSize(SIZE sizeTotal)
 
 CPoint CScrollView::GetDeviceScrollPosition() const
 {
-    if (m_mapMode == scaleToFit)
+    if (m_mapMode == scale_to_fit)
         return CPoint(0, 0);
     return CPoint(GetScrollPos(SB_HORZ), GetScrollPos(SB_VERT));
 }
@@ -216,7 +216,7 @@ void CScrollView::OnSize(UINT nType, int cx, int cy)
     CView::OnSize(nType, cx, cy);
     if (!guard.Alive())
         return;
-    if (m_mapMode == scaleToFit)
+    if (m_mapMode == scale_to_fit)
         SetScaleToFitSize(m_totalLogical);
     else
         UpdateBars();
@@ -226,13 +226,13 @@ void CScrollView::OnPrepareDC(CDC * pDC, CPrintInfo * pInfo)
 {
     switch (m_mapMode)
     {
-    case scaleToFit: {
+    case scale_to_fit: {
         pDC->SetMapMode(MM_ANISOTROPIC);
         pDC->SetWindowExt(m_totalLogical);
         pDC->SetViewportExt(m_total);
         break;
     }
-    case noMode:
+    case no_mode:
         break;
     default:
         pDC->SetMapMode(m_mapMode);
@@ -301,7 +301,7 @@ BOOL CScrollView::OnMouseWheel(UINT nFlags, short zDelta, CPoint)
     CheckScrollBars(horizontal, vertical);
     if (!horizontal && !vertical)
         return FALSE;
-    int const way = -zDelta * linesAWheelStep / WHEEL_DELTA;
+    int const way = -zDelta * lines_a_wheel_step / WHEEL_DELTA;
     return OnScrollBy(vertical ? CSize(0, way * m_line.cy) : CSize(way * m_line.cx, 0));
 }
 
@@ -396,7 +396,7 @@ void CScrollView::CalcWindowRect(LPRECT lpClientRect, UINT nAdjustType)
 
 void CScrollView::ResizeParentToFit(BOOL bShrinkOnly)
 {
-    ASSERT(m_mapMode != noMode);
+    ASSERT(m_mapMode != no_mode);
     CFrameWnd * const frame = GetParentFrame();
     if (frame == nullptr)
         return;

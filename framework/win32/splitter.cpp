@@ -31,9 +31,9 @@ END_MESSAGE_MAP()
 
 namespace
 {
-constexpr wchar_t splitterClassName[] = L"FrameworkSplitter";
-constexpr int maxLines = 16;
-constexpr int maxDynamicLines = 2;
+constexpr wchar_t splitter_class_name[] = L"FrameworkSplitter";
+constexpr int max_lines = 16;
+constexpr int max_dynamic_lines = 2;
 using framework::splitterBorder;
 using framework::splitterGap;
 
@@ -45,8 +45,8 @@ LPCTSTR SplitterClassName()
     description.lpfnWndProc = ::DefWindowProc;
     description.hInstance = AfxGetInstanceHandle();
     description.hCursor = ::LoadCursor(nullptr, IDC_ARROW);
-    description.lpszClassName = splitterClassName;
-    return AfxRegisterClass(&description) ? splitterClassName : nullptr;
+    description.lpszClassName = splitter_class_name;
+    return AfxRegisterClass(&description) ? splitter_class_name : nullptr;
 }
 } // namespace
 
@@ -68,7 +68,8 @@ BOOL CSplitterWnd::Create(CWnd * pParentWnd, int nMaxRows, int nMaxCols, SIZE si
                           DWORD dwStyle, UINT nID)
 {
     ASSERT(pContext != nullptr && (dwStyle & SPLS_DYNAMIC_SPLIT) != 0);
-    if (pContext == nullptr || nMaxRows < 1 || nMaxRows > maxDynamicLines || nMaxCols < 1 || nMaxCols > maxDynamicLines)
+    if (pContext == nullptr || nMaxRows < 1 || nMaxRows > max_dynamic_lines || nMaxCols < 1 ||
+        nMaxCols > max_dynamic_lines)
         return FALSE;
     m_maxRows = nMaxRows;
     m_maxColumns = nMaxCols;
@@ -90,7 +91,7 @@ BOOL CSplitterWnd::Create(CWnd * pParentWnd, int nMaxRows, int nMaxCols, SIZE si
 BOOL CSplitterWnd::CreateStatic(CWnd * pParentWnd, int nRows, int nCols, DWORD dwStyle, UINT nID)
 {
     ASSERT((dwStyle & SPLS_DYNAMIC_SPLIT) == 0);
-    if (nRows < 1 || nRows > maxLines || nCols < 1 || nCols > maxLines)
+    if (nRows < 1 || nRows > max_lines || nCols < 1 || nCols > max_lines)
         return FALSE;
     m_maxRows = m_rows = nRows;
     m_maxColumns = m_columns = nCols;
@@ -210,7 +211,7 @@ void CSplitterWnd::SetColumnInfo(int col, int cxIdeal, int cxMin)
 
 int CSplitterWnd::IdFromRowCol(int row, int col) const
 {
-    return AFX_IDW_PANE_FIRST + row * maxLines + col;
+    return AFX_IDW_PANE_FIRST + row * max_lines + col;
 }
 
 CWnd * CSplitterWnd::GetPane(int row, int col) const
@@ -226,8 +227,8 @@ BOOL CSplitterWnd::IsChildPane(CWnd * pWnd, int * pRow, int * pCol)
     if (pWnd == nullptr || pWnd->m_hWnd == nullptr || ::GetParent(pWnd->m_hWnd) != m_hWnd)
         return FALSE;
     int const id = static_cast<WORD>(pWnd->GetDlgCtrlID());
-    int const row = (id - AFX_IDW_PANE_FIRST) / maxLines;
-    int const column = (id - AFX_IDW_PANE_FIRST) % maxLines;
+    int const row = (id - AFX_IDW_PANE_FIRST) / max_lines;
+    int const column = (id - AFX_IDW_PANE_FIRST) % max_lines;
     bool const inside = id >= AFX_IDW_PANE_FIRST && row < m_rows && column < m_columns;
     if (pRow != nullptr)
         *pRow = inside ? row : -1;

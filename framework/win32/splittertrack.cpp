@@ -14,7 +14,7 @@ namespace
 using framework::splitterBorder;
 using framework::splitterGap;
 
-constexpr int keyStep = 5; // pixels that an arrow key moves a bar; with Ctrl it is one
+constexpr int key_step = 5; // pixels that an arrow key moves a bar; with Ctrl it is one
 
 /// The part of a row or column of panes that a coordinate lies in: a bar behind it, or none.
 int BarAt(std::vector<SplitterLine> const & lines, int count, int start, int place)
@@ -349,7 +349,7 @@ void CSplitterWnd::OnKeyDown(UINT nChar, UINT, UINT)
         Default();
         return;
     }
-    int const step = ::GetKeyState(VK_CONTROL) < 0 ? 1 : keyStep;
+    int const step = ::GetKeyState(VK_CONTROL) < 0 ? 1 : key_step;
     CPoint point = m_tracker + m_grip;
     switch (nChar)
     {

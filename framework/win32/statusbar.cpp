@@ -30,8 +30,8 @@ END_MESSAGE_MAP()
 
 namespace
 {
-constexpr int panePadding = 6; // what a pane is wider than its text
-constexpr UINT nativeStyles = SBPS_NOBORDERS | SBPS_POPOUT | SBPS_OWNERDRAW;
+constexpr int pane_padding = 6; // what a pane is wider than its text
+constexpr UINT native_styles = SBPS_NOBORDERS | SBPS_POPOUT | SBPS_OWNERDRAW;
 
 /// The bar's font, selected into a device context of the screen.
 class BarFont
@@ -195,7 +195,7 @@ void CStatusBar::UpdateParts()
             left -= borders[2];
         }
         else
-            left -= m_panes[at].width + panePadding + borders[2];
+            left -= m_panes[at].width + pane_padding + borders[2];
     }
     left = std::max(left, 0);
     std::vector<int> parts;
@@ -210,7 +210,7 @@ void CStatusBar::UpdateParts()
             x += share;
         }
         else
-            x += m_panes[at].width + panePadding;
+            x += m_panes[at].width + pane_padding;
         parts.push_back(x);
         x += borders[2];
     }
@@ -226,7 +226,7 @@ void CStatusBar::ShowText(int index)
     pane.stale = false;
     bool const shown = (pane.style & (SBPS_DISABLED | SBPS_OWNERDRAW)) == 0;
     CString const text = shown ? pane.text : CString();
-    Send(m_hWnd, SB_SETTEXT, static_cast<UINT>(index) | (pane.style & nativeStyles), text.GetString());
+    Send(m_hWnd, SB_SETTEXT, static_cast<UINT>(index) | (pane.style & native_styles), text.GetString());
 }
 
 void CStatusBar::UpdateTexts()

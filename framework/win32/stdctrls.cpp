@@ -58,9 +58,7 @@ BOOL CStatic::Create(LPCTSTR lpszText, DWORD dwStyle, RECT const & rect, CWnd * 
     return framework::CreateControl(*this, 0, _T("STATIC"), lpszText, dwStyle, rect, pParentWnd, nID);
 }
 
-void CStatic::DrawItem(LPDRAWITEMSTRUCT)
-{
-}
+void CStatic::DrawItem(LPDRAWITEMSTRUCT) {}
 
 BOOL CStatic::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT * pResult)
 {
@@ -174,9 +172,7 @@ BOOL CButton::SetSplitStyle(UINT uSplitStyle)
     return SetSplitInfo(&info);
 }
 
-void CButton::DrawItem(LPDRAWITEMSTRUCT)
-{
-}
+void CButton::DrawItem(LPDRAWITEMSTRUCT) {}
 
 BOOL CButton::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT * pResult)
 {

@@ -214,16 +214,14 @@ BOOL CCheckListBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LR
 {
     switch (message)
     {
-    case WM_DRAWITEM:
-    {
+    case WM_DRAWITEM: {
         auto * const item = reinterpret_cast<LPDRAWITEMSTRUCT>(lParam);
         // An empty list's focus is drawn with no row.
         if (Row const * const row = RowAt(static_cast<int>(item->itemID)))
             DrawRow(item, *row);
         return TRUE;
     }
-    case WM_DELETEITEM:
-    {
+    case WM_DELETEITEM: {
         DELETEITEMSTRUCT item = *reinterpret_cast<LPDELETEITEMSTRUCT>(lParam);
         std::unique_ptr<Row> const row(reinterpret_cast<Row *>(item.itemData));
         if (row != nullptr)
@@ -233,8 +231,7 @@ BOOL CCheckListBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LR
         }
         return TRUE;
     }
-    case WM_COMPAREITEM:
-    {
+    case WM_COMPAREITEM: {
         COMPAREITEMSTRUCT items = *reinterpret_cast<LPCOMPAREITEMSTRUCT>(lParam);
         auto const dataOf = [](ULONG_PTR value) { return value != 0 ? reinterpret_cast<Row *>(value)->data : 0; };
         items.itemData1 = dataOf(items.itemData1);

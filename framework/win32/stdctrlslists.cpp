@@ -53,22 +53,16 @@ int CListBox::SelItemRange(BOOL bSelect, int nFirstItem, int nLastItem)
                    : framework::Send<int>(m_hWnd, LB_SELITEMRANGEEX, nLastItem, nFirstItem);
 }
 
-void CListBox::DrawItem(LPDRAWITEMSTRUCT)
-{
-}
+void CListBox::DrawItem(LPDRAWITEMSTRUCT) {}
 
-void CListBox::MeasureItem(LPMEASUREITEMSTRUCT)
-{
-}
+void CListBox::MeasureItem(LPMEASUREITEMSTRUCT) {}
 
 int CListBox::CompareItem(LPCOMPAREITEMSTRUCT)
 {
     return 0;
 }
 
-void CListBox::DeleteItem(LPDELETEITEMSTRUCT)
-{
-}
+void CListBox::DeleteItem(LPDELETEITEMSTRUCT) {}
 
 int CListBox::VKeyToItem(UINT, UINT)
 {
@@ -141,22 +135,16 @@ void CComboBox::GetLBText(int nIndex, CString & rString) const
     rString.ReleaseBuffer(length);
 }
 
-void CComboBox::DrawItem(LPDRAWITEMSTRUCT)
-{
-}
+void CComboBox::DrawItem(LPDRAWITEMSTRUCT) {}
 
-void CComboBox::MeasureItem(LPMEASUREITEMSTRUCT)
-{
-}
+void CComboBox::MeasureItem(LPMEASUREITEMSTRUCT) {}
 
 int CComboBox::CompareItem(LPCOMPAREITEMSTRUCT)
 {
     return 0;
 }
 
-void CComboBox::DeleteItem(LPDELETEITEMSTRUCT)
-{
-}
+void CComboBox::DeleteItem(LPDELETEITEMSTRUCT) {}
 
 BOOL CComboBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT * pResult)
 {

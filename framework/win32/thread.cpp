@@ -75,11 +75,11 @@ unsigned __stdcall ThreadAccess::Main(void * parameter)
 
 BOOL ThreadAccess::DispatchThreadMessage(CWinThread & thread, MSG const & message)
 {
-    constexpr UINT firstRegistered = 0xC000;
+    constexpr UINT first_registered = 0xC000;
     using Handler = void (CWinThread::*)(WPARAM, LPARAM);
     for (auto map = Map(thread); map->pfnGetBaseMap != nullptr; map = map->pfnGetBaseMap())
     {
-        if (message.message < firstRegistered)
+        if (message.message < first_registered)
         {
             if (auto const entry = FindEntry(map->lpEntries, message.message, 0, 0))
             {
@@ -88,7 +88,7 @@ BOOL ThreadAccess::DispatchThreadMessage(CWinThread & thread, MSG const & messag
             }
             continue;
         }
-        for (auto entry = map->lpEntries; (entry = FindEntry(entry, firstRegistered, 0, 0)) != nullptr; ++entry)
+        for (auto entry = map->lpEntries; (entry = FindEntry(entry, first_registered, 0, 0)) != nullptr; ++entry)
         {
             if (*reinterpret_cast<UINT const *>(entry->nSig) != message.message)
                 continue;
@@ -254,7 +254,7 @@ BOOL AFXAPI AfxIsIdleMessage(MSG * pMsg)
 
 BOOL CWinThread::IsIdleMessage(MSG * pMsg)
 {
-    constexpr UINT systemTimer = 0x0118;
+    constexpr UINT system_timer = 0x0118;
     auto & state = framework::CurrentThreadState();
     if (pMsg->message == WM_MOUSEMOVE || pMsg->message == WM_NCMOUSEMOVE)
     {
@@ -265,7 +265,7 @@ BOOL CWinThread::IsIdleMessage(MSG * pMsg)
         state.lastMouseMessage = pMsg->message;
         return !same;
     }
-    return pMsg->message != WM_PAINT && pMsg->message != systemTimer;
+    return pMsg->message != WM_PAINT && pMsg->message != system_timer;
 }
 
 BOOL CWinThread::OnIdle(LONG lCount)

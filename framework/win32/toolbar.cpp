@@ -27,14 +27,14 @@ END_MESSAGE_MAP()
 
 namespace
 {
-constexpr SIZE defaultButton{23, 22};
-constexpr SIZE defaultImage{16, 15};
-constexpr SIZE buttonBeyondImage{7, 7}; // edges and space around a picture
-constexpr int separatorWidth = 8;
-constexpr int flatSeparatorWidth = 6;
-constexpr int noWrap = 32767;
-constexpr UINT_PTR toolBarResource = 241; // RT_TOOLBAR
-constexpr WORD toolBarVersion = 1;
+constexpr SIZE default_button{23, 22};
+constexpr SIZE default_image{16, 15};
+constexpr SIZE button_beyond_image{7, 7}; // edges and space around a picture
+constexpr int separator_width = 8;
+constexpr int flat_separator_width = 6;
+constexpr int no_wrap = 32767;
+constexpr UINT_PTR tool_bar_resource = 241; // RT_TOOLBAR
+constexpr WORD tool_bar_version = 1;
 
 /// The start of a resource that describes a tool bar; the identifiers follow.
 struct ToolBarResource
@@ -217,12 +217,12 @@ private:
 } // namespace
 
 CToolBar::CToolBar()
-    : m_sizeButton(defaultButton),
-      m_sizeImage(defaultImage),
+    : m_sizeButton(default_button),
+      m_sizeImage(default_image),
       m_bitmap(nullptr),
       m_bitmapModule(nullptr),
       m_bitmapId(0),
-      m_lastWidth(noWrap)
+      m_lastWidth(no_wrap)
 {
 }
 
@@ -286,20 +286,20 @@ void CToolBar::SetHeight(int cyHeight)
 
 BOOL CToolBar::LoadToolBar(LPCTSTR lpszResourceName)
 {
-    auto const kind = MAKEINTRESOURCE(toolBarResource);
+    auto const kind = MAKEINTRESOURCE(tool_bar_resource);
     HINSTANCE const module = AfxFindResourceHandle(lpszResourceName, kind);
     HRSRC const found = ::FindResource(module, lpszResourceName, kind);
     HGLOBAL const loaded = found != nullptr ? ::LoadResource(module, found) : nullptr;
     auto const * const resource =
         loaded != nullptr ? static_cast<ToolBarResource const *>(::LockResource(loaded)) : nullptr;
     DWORD const size = found != nullptr ? ::SizeofResource(module, found) : 0;
-    if (resource == nullptr || size < sizeof *resource || resource->version != toolBarVersion ||
+    if (resource == nullptr || size < sizeof *resource || resource->version != tool_bar_version ||
         size < sizeof *resource + resource->count * sizeof(WORD))
         return FALSE;
     auto const * const commands = reinterpret_cast<WORD const *>(resource + 1);
     std::vector<UINT> const identifiers(commands, commands + resource->count);
     CSize const image(resource->width, resource->height);
-    SetSizes(image + buttonBeyondImage, image);
+    SetSizes(image + button_beyond_image, image);
     return SetButtons(identifiers.data(), resource->count) && LoadBitmap(lpszResourceName);
 }
 
@@ -395,7 +395,7 @@ BOOL CToolBar::SetButtons(const UINT * lpIDArray, int nIDCount)
         }
         else if (lpIDArray[at] == ID_SEPARATOR)
         {
-            button.iBitmap = flat ? flatSeparatorWidth : separatorWidth;
+            button.iBitmap = flat ? flat_separator_width : separator_width;
             button.fsStyle = TBSTYLE_SEP;
             button.fsState = TBSTATE_ENABLED;
         }
@@ -516,13 +516,13 @@ bool CToolBar::WrapWidth(DWORD mode, int length, int & width) const
     if ((m_style & CBRS_SIZE_FIXED) != 0)
         return false;
     bool const dynamic = (m_style & CBRS_SIZE_DYNAMIC) != 0;
-    width = (mode & LM_HORZ) != 0 ? noWrap : 0;
+    width = (mode & LM_HORZ) != 0 ? no_wrap : 0;
     if (!dynamic)
         return true;
     if ((mode & LM_MRUWIDTH) != 0)
         width = m_lastWidth;
     else if ((mode & LM_HORZDOCK) != 0)
-        width = noWrap;
+        width = no_wrap;
     else if ((mode & LM_VERTDOCK) != 0)
         width = 0;
     else if (length != -1)

@@ -33,7 +33,7 @@ END_MESSAGE_MAP()
 
 namespace
 {
-constexpr UINT panesInARow = 16; // how identifiers of panes count
+constexpr UINT panes_in_a_row = 16; // how identifiers of panes count
 } // namespace
 
 bool framework::IsTopParentActive(CWnd const & window)
@@ -206,7 +206,7 @@ CScrollBar * CView::GetScrollBarCtrl(int nBar) const
         return nullptr;
     UINT const pane = id - AFX_IDW_PANE_FIRST;
     UINT const bar =
-        nBar == SB_HORZ ? AFX_IDW_HSCROLL_FIRST + pane % panesInARow : AFX_IDW_VSCROLL_FIRST + pane / panesInARow;
+        nBar == SB_HORZ ? AFX_IDW_HSCROLL_FIRST + pane % panes_in_a_row : AFX_IDW_VSCROLL_FIRST + pane / panes_in_a_row;
     HWND const control = ::GetDlgItem(parent->m_hWnd, static_cast<int>(bar));
     return control != nullptr ? static_cast<CScrollBar *>(CWnd::FromHandle(control)) : nullptr;
 }

@@ -81,10 +81,10 @@ CSize PaperSize(HDC device)
     wchar_t paper[8] = {};
     ::GetLocaleInfoEx(LOCALE_NAME_USER_DEFAULT, LOCALE_IPAPERSIZE, paper, static_cast<int>(std::size(paper)));
     bool const letter = ::_wtoi(paper) == DMPAPER_LETTER;
-    constexpr int tenthsOfMillimetresInAnInch = 254;
+    constexpr int tenths_of_millimetres_in_an_inch = 254;
     CSize const size = letter ? CSize(2159, 2794) : CSize(2100, 2970);
-    return CSize(::MulDiv(size.cx, ::GetDeviceCaps(device, LOGPIXELSX), tenthsOfMillimetresInAnInch),
-                 ::MulDiv(size.cy, ::GetDeviceCaps(device, LOGPIXELSY), tenthsOfMillimetresInAnInch));
+    return CSize(::MulDiv(size.cx, ::GetDeviceCaps(device, LOGPIXELSX), tenths_of_millimetres_in_an_inch),
+                 ::MulDiv(size.cy, ::GetDeviceCaps(device, LOGPIXELSY), tenths_of_millimetres_in_an_inch));
 }
 
 CRect PrintableArea(HDC device)

@@ -12,10 +12,10 @@ IMPLEMENT_DYNAMIC(CWinAppEx, CWinApp)
 
 namespace
 {
-constexpr wchar_t defaultBase[] = L"Workspace";
-constexpr wchar_t placementEntry[] = L"WindowPlacement";
-constexpr int dataVersion = 0x00010001; // major and minor half
-constexpr wchar_t versionEntry[] = L"Version";
+constexpr wchar_t default_base[] = L"Workspace";
+constexpr wchar_t placement_entry[] = L"WindowPlacement";
+constexpr int data_version = 0x00010001; // major and minor half
+constexpr wchar_t version_entry[] = L"Version";
 
 struct Placement
 {
@@ -43,7 +43,7 @@ private:
 };
 } // namespace
 
-CWinAppEx::CWinAppEx(BOOL) : m_registryBase(defaultBase), m_loadPlacement(true) {}
+CWinAppEx::CWinAppEx(BOOL) : m_registryBase(default_base), m_loadPlacement(true) {}
 
 CWinAppEx::~CWinAppEx() = default;
 
@@ -55,7 +55,7 @@ int CWinAppEx::ExitInstance()
 LPCTSTR CWinAppEx::SetRegistryBase(LPCTSTR lpszSectionName)
 {
     m_sectionForNow = m_registryBase;
-    m_registryBase = lpszSectionName != nullptr ? lpszSectionName : defaultBase;
+    m_registryBase = lpszSectionName != nullptr ? lpszSectionName : default_base;
     return m_sectionForNow;
 }
 
@@ -140,17 +140,17 @@ BOOL CWinAppEx::WriteSectionBinary(LPCTSTR lpszSubSection, LPCTSTR lpszEntry, LP
 
 int CWinAppEx::GetDataVersion() const
 {
-    return dataVersion;
+    return data_version;
 }
 
 int CWinAppEx::GetDataVersionMajor() const
 {
-    return dataVersion >> 16;
+    return data_version >> 16;
 }
 
 int CWinAppEx::GetDataVersionMinor() const
 {
-    return dataVersion & 0xFFFF;
+    return data_version & 0xFFFF;
 }
 
 // The workspace
@@ -203,7 +203,7 @@ BOOL CWinAppEx::LoadState(LPCTSTR lpszSectionName, CFrameImpl * pFrameImpl)
     PreLoadState();
     bool loaded = false;
     // Another version's workspace means nothing here.
-    if (GetInt(versionEntry, 0) >> 16 == GetDataVersionMajor())
+    if (GetInt(version_entry, 0) >> 16 == GetDataVersionMajor())
     {
         if (frame != nullptr && guard.Alive() && m_loadPlacement)
             ReloadWindowPlacement(frame);
@@ -243,7 +243,7 @@ BOOL CWinAppEx::SaveState(LPCTSTR lpszSectionName, CFrameImpl * pFrameImpl)
         if (guard.Alive() && pFrameImpl->Host() != nullptr)
             saved = pFrameImpl->Manager().SaveState(GetRegSectionPath()) && saved;
     }
-    saved = WriteInt(versionEntry, GetDataVersion()) && saved;
+    saved = WriteInt(version_entry, GetDataVersion()) && saved;
     SaveCustomState();
     return saved;
 }
@@ -263,14 +263,14 @@ void CWinAppEx::EnableLoadWindowPlacement(BOOL bEnable)
 BOOL CWinAppEx::StoreWindowPlacement(const CRect & rectNormalPosition, int nFlags, int nShowCmd)
 {
     Placement placement{rectNormalPosition, nFlags, nShowCmd};
-    return WriteBinary(placementEntry, reinterpret_cast<BYTE *>(&placement), sizeof placement);
+    return WriteBinary(placement_entry, reinterpret_cast<BYTE *>(&placement), sizeof placement);
 }
 
 BOOL CWinAppEx::LoadWindowPlacement(CRect & rectNormalPosition, int & nFlags, int & nShowCmd)
 {
     BYTE * data = nullptr;
     UINT size = 0;
-    if (!GetBinary(placementEntry, &data, &size))
+    if (!GetBinary(placement_entry, &data, &size))
         return FALSE;
     Placement placement{};
     bool const sound = size == sizeof placement;

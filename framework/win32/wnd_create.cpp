@@ -14,7 +14,7 @@ const CWnd CWnd::wndNoTopMost(HWND_NOTOPMOST);
 
 namespace
 {
-constexpr wchar_t plainClassName[] = L"FrameworkWnd";
+constexpr wchar_t plain_class_name[] = L"FrameworkWnd";
 
 bool IsPlaceInZOrder(CWnd const * window)
 {
@@ -264,10 +264,10 @@ BOOL CWnd::PreCreateWindow(CREATESTRUCT & cs)
     plain.lpfnWndProc = ::DefWindowProc;
     plain.hInstance = AfxGetInstanceHandle();
     plain.hCursor = ::LoadCursor(nullptr, IDC_ARROW);
-    plain.lpszClassName = plainClassName;
+    plain.lpszClassName = plain_class_name;
     if (!AfxRegisterClass(&plain))
         return FALSE;
-    cs.lpszClass = plainClassName;
+    cs.lpszClass = plain_class_name;
     return TRUE;
 }
 

@@ -115,9 +115,9 @@ BOOL CWnd::ExecuteDlgInit(LPCTSTR lpszResourceName)
 BOOL CWnd::ExecuteDlgInit(LPVOID lpResource)
 {
     // Entries of control id, message and data, up to the id 0; the messages are those of 16-bit Windows.
-    constexpr UINT listBoxAddString = 0x401;
-    constexpr UINT comboBoxAddString = 0x403;
-    constexpr UINT comboBoxExAddString = 0x1234;
+    constexpr UINT list_box_add_string = 0x401;
+    constexpr UINT combo_box_add_string = 0x403;
+    constexpr UINT combo_box_ex_add_string = 0x1234;
     bool succeeded = true;
     auto const read16 = [](BYTE const *& at) {
         WORD value = 0;
@@ -135,13 +135,13 @@ BOOL CWnd::ExecuteDlgInit(LPVOID lpResource)
         DWORD length = 0;
         std::memcpy(&length, at, sizeof length);
         at += sizeof length;
-        if (message == comboBoxAddString || message == listBoxAddString)
+        if (message == combo_box_add_string || message == list_box_add_string)
         {
-            UINT const add = message == comboBoxAddString ? CB_ADDSTRING : LB_ADDSTRING;
+            UINT const add = message == combo_box_add_string ? CB_ADDSTRING : LB_ADDSTRING;
             auto const text = reinterpret_cast<LPARAM>(at);
             succeeded = ::SendDlgItemMessageA(m_hWnd, id, add, 0, text) != -1;
         }
-        else if (message == comboBoxExAddString)
+        else if (message == combo_box_ex_add_string)
         {
             COMBOBOXEXITEM item{};
             CString text(reinterpret_cast<char const *>(at));

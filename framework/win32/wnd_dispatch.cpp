@@ -39,7 +39,7 @@ namespace
 {
 using framework::ControlColour;
 
-constexpr UINT firstRegisteredMessage = 0xC000;
+constexpr UINT first_registered_message = 0xC000;
 
 CWnd * Window(WPARAM handle)
 {
@@ -375,7 +375,7 @@ BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT * pResul
     }
     for (auto map = GetMessageMap(); map->pfnGetBaseMap != nullptr; map = map->pfnGetBaseMap())
     {
-        if (message < firstRegisteredMessage)
+        if (message < first_registered_message)
         {
             auto const entry = framework::FindEntry(map->lpEntries, message, 0, 0);
             if (entry == nullptr)
@@ -383,7 +383,7 @@ BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT * pResul
             return DispatchMessageEntry(this, *entry, wParam, lParam, result) ? answer() : FALSE;
         }
         for (auto entry = map->lpEntries;
-             (entry = framework::FindEntry(entry, firstRegisteredMessage, 0, 0)) != nullptr; ++entry)
+             (entry = framework::FindEntry(entry, first_registered_message, 0, 0)) != nullptr; ++entry)
         {
             if (*reinterpret_cast<UINT const *>(entry->nSig) != message)
                 continue;

@@ -7,7 +7,7 @@
 
 namespace
 {
-constexpr UINT maxTouchInputs = 256;
+constexpr UINT max_touch_inputs = 256;
 } // namespace
 
 void CWnd::HandleActivate(WPARAM wParam, LPARAM lParam)
@@ -95,9 +95,9 @@ BOOL CWnd::OnHelpInfo(HELPINFO *)
 LRESULT CWnd::OnTouchMessage(WPARAM wParam, LPARAM lParam)
 {
     UINT const count = LOWORD(wParam);
-    TOUCHINPUT inputs[maxTouchInputs];
+    TOUCHINPUT inputs[max_touch_inputs];
     auto const handle = reinterpret_cast<HTOUCHINPUT>(lParam);
-    if (count == 0 || count > maxTouchInputs ||
+    if (count == 0 || count > max_touch_inputs ||
         !::GetTouchInputInfo(handle, count, inputs, static_cast<int>(sizeof(TOUCHINPUT))))
         return Default();
     if (!OnTouchInputs(count, inputs))

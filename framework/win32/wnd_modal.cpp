@@ -6,7 +6,7 @@
 
 namespace
 {
-constexpr UINT systemTimerMessage = 0x0118; // of carets and menus; undocumented by the system
+constexpr UINT system_timer_message = 0x0118; // of carets and menus; undocumented by the system
 } // namespace
 
 BOOL framework::WalkPreTranslateTree(HWND last, MSG * message)
@@ -73,7 +73,7 @@ int CWnd::RunModalLoop(DWORD dwFlags)
                 m_nFlags &= ~static_cast<UINT>(framework::WndModalLoop | framework::WndContinueModal);
                 return -1;
             }
-            if (showWhenIdle && (message.message == systemTimerMessage || message.message == WM_SYSKEYDOWN))
+            if (showWhenIdle && (message.message == system_timer_message || message.message == WM_SYSKEYDOWN))
                 show();
             if (!ContinueModal())
                 return finish();

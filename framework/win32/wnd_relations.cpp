@@ -310,14 +310,14 @@ void CWnd::CenterWindow(CWnd * pAlternateOwner)
 void CWnd::RepositionBars(UINT nIDFirst, UINT nIDLast, UINT nIDLeftOver, UINT nFlag, LPRECT lpRectParam,
                           LPCRECT lpRectClient, BOOL bStretch)
 {
-    constexpr int mostPasses = 8;
+    constexpr int most_passes = 8;
     HWND const window = m_hWnd;
     bool const query = (nFlag & ~reposNoPosLeftOver) == reposQuery;
     AFX_SIZEPARENTPARAMS layout{};
     HWND leftOver = nullptr;
     // A bar that ends meanwhile leaves its place to the others.
     bool again = true;
-    for (int pass = 0; again && pass < mostPasses; ++pass)
+    for (int pass = 0; again && pass < most_passes; ++pass)
     {
         if (layout.hDWP != nullptr)
             ::EndDeferWindowPos(layout.hDWP);

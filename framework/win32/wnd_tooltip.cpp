@@ -6,7 +6,7 @@
 
 namespace
 {
-constexpr UINT bothFlags = framework::WndToolTips | framework::WndTrackingToolTips;
+constexpr UINT both_flags = framework::WndToolTips | framework::WndTrackingToolTips;
 
 bool IsMove(UINT message)
 {
@@ -136,7 +136,7 @@ BOOL CWnd::SetToolTipFlag(BOOL bEnable, UINT flag)
     if ((m_nFlags & flag) == 0)
         return TRUE;
     m_nFlags &= ~flag;
-    if ((m_nFlags & bothFlags) == 0 && (state.toolTipWindow == this || state.toolTipParent == m_hWnd))
+    if ((m_nFlags & both_flags) == 0 && (state.toolTipWindow == this || state.toolTipParent == m_hWnd))
         DestroyControl(state);
     return TRUE;
 }
@@ -173,7 +173,7 @@ void CWnd::FilterToolTipMessage(MSG * pMsg)
     for (; enabled != nullptr; enabled = ::GetParent(enabled))
     {
         window = FromHandlePermanent(enabled);
-        if (window != nullptr && (window->m_nFlags & bothFlags) != 0)
+        if (window != nullptr && (window->m_nFlags & both_flags) != 0)
             break;
         window = nullptr;
     }

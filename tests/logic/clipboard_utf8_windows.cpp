@@ -16,8 +16,8 @@ namespace
 std::vector<char> ByTheSystem(std::wstring const & text, std::size_t size)
 {
     std::vector<char> buffer(size, 'x');
-    ::WideCharToMultiByte(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), buffer.data(),
-                          static_cast<int>(size), nullptr, nullptr);
+    ::WideCharToMultiByte(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), buffer.data(), static_cast<int>(size),
+                          nullptr, nullptr);
     return buffer;
 }
 

@@ -143,8 +143,7 @@ TEST(FrameworkObject, AllClassesAreVisited)
 {
     int found = 0;
     AfxDoForAllClasses(
-        [](CRuntimeClass const * each, void * context)
-        {
+        [](CRuntimeClass const * each, void * context) {
             if (each == RUNTIME_CLASS(CTestDerived) || each == RUNTIME_CLASS(CTestBase))
                 ++*static_cast<int *>(context);
         },
@@ -294,27 +293,23 @@ TEST(FrameworkException, ThrowLastKeepsTheException)
 {
     bool deleted = false;
     bool outer = false;
-    TRY
-    {
-        TRY
-        {
-            THROW(new CTestException(deleted));
-        }
-        CATCH_ALL(e)
-        {
-            EXPECT_NE(nullptr, e);
-            THROW_LAST();
-        }
-        END_CATCH_ALL
-    }
-    CATCH(CTestException, e)
-    {
-        EXPECT_FALSE(e->m_deleted);
-        outer = true;
-    }
-    END_CATCH
-    EXPECT_TRUE(outer);
-    EXPECT_TRUE(deleted);
+    TRY{TRY{THROW(new CTestException(deleted));
+}
+CATCH_ALL(e)
+{
+    EXPECT_NE(nullptr, e);
+    THROW_LAST();
+}
+END_CATCH_ALL
+}
+CATCH(CTestException, e)
+{
+    EXPECT_FALSE(e->m_deleted);
+    outer = true;
+}
+END_CATCH
+EXPECT_TRUE(outer);
+EXPECT_TRUE(deleted);
 }
 
 TEST(FrameworkException, MessagesFitTheirBuffer)

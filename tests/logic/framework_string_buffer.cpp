@@ -418,15 +418,13 @@ TEST(FrameworkStringBuffer, SharedAcrossThreads)
     std::vector<std::thread> threads;
     for (int t = 0; t < 4; ++t)
     {
-        threads.emplace_back(
-            [&text]
+        threads.emplace_back([&text] {
+            for (int i = 0; i < 2000; ++i)
             {
-                for (int i = 0; i < 2000; ++i)
-                {
-                    CString copy = text;
-                    copy += L"!";
-                }
-            });
+                CString copy = text;
+                copy += L"!";
+            }
+        });
     }
     for (std::thread & thread : threads)
         thread.join();

@@ -92,7 +92,10 @@ TEST(FrameworkString, NarrowTextAboveAsciiIsConverted)
 #if !defined(_WIN32)
 TEST(FrameworkString, InvalidNarrowTextIsReplaced)
 {
-    EXPECT_STREQ(L"a\xFFFD" L"b", CString("a\xFF" "b"));
+    EXPECT_STREQ(L"a\xFFFD"
+                 L"b",
+                 CString("a\xFF"
+                         "b"));
     EXPECT_STREQ(L"\xFFFD", CString("\xC3"));
     EXPECT_STREQ(L"\xFFFD\xFFFD", CString("\xC0\x80"));
     EXPECT_STREQ(L"\xFFFD\xFFFD\xFFFD", CString("\xED\xA0\x80"));

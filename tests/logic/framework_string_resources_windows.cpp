@@ -37,9 +37,8 @@ protected:
     void SetUp() override
     {
         HMODULE own = nullptr;
-        ::GetModuleHandleExW(
-            GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
-            reinterpret_cast<LPCWSTR>(RUNTIME_CLASS(CObject)), &own);
+        ::GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+                             reinterpret_cast<LPCWSTR>(RUNTIME_CLASS(CObject)), &own);
         wchar_t path[MAX_PATH] = {};
         ::GetModuleFileNameW(own, path, MAX_PATH);
         wchar_t folder[MAX_PATH] = {};

@@ -163,7 +163,8 @@ public:
             AddValues(list, values, m_shape.values / 8 + 1);
         while (keys > 0 || hasSubkey.size() > 1)
         {
-            bool const deeper = keys > 0 && hasSubkey.size() <= m_shape.depth && (hasSubkey.size() == 1 || m_random() % 3 != 0);
+            bool const deeper =
+                keys > 0 && hasSubkey.size() <= m_shape.depth && (hasSubkey.size() == 1 || m_random() % 3 != 0);
             if (deeper)
             {
                 --keys;

@@ -116,9 +116,8 @@ inline bool Replay(Key & key, registry_entry_list const & list, std::size_t & at
             std::u16string const name = BeforeNull(entry.name);
             if (name.size() > settings_tests::longest_value_name)
                 return false;
-            auto place = std::find_if(key.values.begin(), key.values.end(), [&](registry_entry const & value) {
-                return Upper(value.name) == Upper(name);
-            });
+            auto place = std::find_if(key.values.begin(), key.values.end(),
+                                      [&](registry_entry const & value) { return Upper(value.name) == Upper(name); });
             if (place == key.values.end())
                 place = key.values.insert(place, settings_tests::Value(name, 0, {}));
             place->value_type = entry.value_type;

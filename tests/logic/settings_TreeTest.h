@@ -24,9 +24,8 @@ public:
     {
         static std::atomic<int> number = 0;
         auto const * const test = testing::UnitTest::GetInstance()->current_test_info();
-        m_path = fs::temp_directory_path() /
-                 ("settings_" + std::to_string(std::random_device()()) + "_" + std::to_string(number++) + "_" +
-                  std::to_string(test->line()));
+        m_path = fs::temp_directory_path() / ("settings_" + std::to_string(std::random_device()()) + "_" +
+                                              std::to_string(number++) + "_" + std::to_string(test->line()));
         fs::create_directories(m_path);
     }
     ~OwnFolder()

@@ -46,7 +46,7 @@ TEST(WorkbenchWaveformColours, TheFirstChannelHasTheChosenColourAndOthersAreSeen
         for (std::size_t channel = 1; channel < 6; ++channel)
             EXPECT_GE(ContrastRatio(TraceColour(colours, channel), background), 3.0) << channel;
         EXPECT_GE(ContrastRatio(ClippedColour(colours), background), 3.0);
-        EXPECT_GE(ContrastRatio(LabelColour(colours), background), c_textContrast);
+        EXPECT_GE(ContrastRatio(LabelColour(colours), background), text_contrast);
     }
     // On the first background all of them are the scope's own.
     EXPECT_EQ(TraceColour({}, 1), RGB(0xFF, 0x96, 0x00));
@@ -106,15 +106,15 @@ TEST(WorkbenchStoredLists, TheLastOpenedFolderIsFirstAndThereOnce)
     std::vector<fs::path> folders;
     for (int i = 0; i < 12; ++i)
         PutFirst(folders, L"C:\\f" + std::to_wstring(i));
-    ASSERT_EQ(folders.size(), c_mostRecentFolders);
+    ASSERT_EQ(folders.size(), most_recent_folders);
     EXPECT_EQ(folders.front(), fs::path(L"C:\\f11"));
     EXPECT_EQ(folders.back(), fs::path(L"C:\\f2"));
     PutFirst(folders, L"c:\\F5\\");
-    ASSERT_EQ(folders.size(), c_mostRecentFolders);
+    ASSERT_EQ(folders.size(), most_recent_folders);
     EXPECT_EQ(folders.front(), fs::path(L"c:\\F5\\"));
     PutFirst(folders, folders.back());
     EXPECT_EQ(folders.front(), fs::path(L"C:\\f2"));
-    EXPECT_EQ(folders.size(), c_mostRecentFolders);
+    EXPECT_EQ(folders.size(), most_recent_folders);
 }
 
 TEST(WorkbenchStoredLists, AFolderContainsItselfAndWhatIsBelow)

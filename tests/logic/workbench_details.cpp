@@ -17,7 +17,7 @@ namespace
 
 using namespace workbench;
 
-constexpr double c_infinity = std::numeric_limits<double>::infinity();
+constexpr double beyond_all = std::numeric_limits<double>::infinity();
 
 TEST(LevelBar, IsEmptyAtItsLowerEndAndFullAtFullScale)
 {
@@ -35,7 +35,7 @@ TEST(LevelBar, RoundsToWholePercent)
 
 TEST(LevelBar, StaysWithinItsEnds)
 {
-    EXPECT_EQ(LevelBarPercent(-c_infinity), 0);
+    EXPECT_EQ(LevelBarPercent(-beyond_all), 0);
     EXPECT_EQ(LevelBarPercent(-100.0), 0);
     EXPECT_EQ(LevelBarPercent(12.0), 100);
 }
@@ -55,9 +55,9 @@ TEST(LevelDifference, HasNoSignAtZero)
 
 TEST(LevelDifference, DoesNotExistWithSilence)
 {
-    EXPECT_EQ(FormatDifference(-c_infinity, -6.0), L"-");
-    EXPECT_EQ(FormatDifference(-6.0, -c_infinity), L"-");
-    EXPECT_EQ(FormatDifference(-c_infinity, -c_infinity), L"-");
+    EXPECT_EQ(FormatDifference(-beyond_all, -6.0), L"-");
+    EXPECT_EQ(FormatDifference(-6.0, -beyond_all), L"-");
+    EXPECT_EQ(FormatDifference(-beyond_all, -beyond_all), L"-");
 }
 
 TEST(Thousands, GetCommasFromFourDigitsOn)

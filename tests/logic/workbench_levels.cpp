@@ -15,7 +15,7 @@ namespace
 
 using namespace workbench;
 
-constexpr double c_infinity = std::numeric_limits<double>::infinity();
+constexpr double beyond_all = std::numeric_limits<double>::infinity();
 
 Levels LevelsOf(std::vector<double> const & samples)
 {
@@ -69,10 +69,10 @@ TEST(LevelMeter, TakesANegativePeak)
 
 TEST(LevelMeter, GivesMinusInfinityForSilenceAndForNothing)
 {
-    EXPECT_EQ(LevelsOf({0.0, 0.0, 0.0}).peak, -c_infinity);
-    EXPECT_EQ(LevelsOf({0.0, 0.0, 0.0}).rms, -c_infinity);
-    EXPECT_EQ(LevelsOf({}).peak, -c_infinity);
-    EXPECT_EQ(LevelsOf({}).rms, -c_infinity);
+    EXPECT_EQ(LevelsOf({0.0, 0.0, 0.0}).peak, -beyond_all);
+    EXPECT_EQ(LevelsOf({0.0, 0.0, 0.0}).rms, -beyond_all);
+    EXPECT_EQ(LevelsOf({}).peak, -beyond_all);
+    EXPECT_EQ(LevelsOf({}).rms, -beyond_all);
 }
 
 TEST(LevelMeter, GivesPositiveLevelsAboveFullScale)
@@ -144,7 +144,7 @@ TEST(TextFormat, NeverShowsANegativeZero)
 
 TEST(TextFormat, ShowsSilenceWithTheInfinitySign)
 {
-    EXPECT_EQ(FormatLevel(-c_infinity), L"-\u221E");
+    EXPECT_EQ(FormatLevel(-beyond_all), L"-\u221E");
 }
 
 TEST(TextFormat, GroupsTheDigitsOfSampleRates)

@@ -20,14 +20,15 @@ namespace
 
 using namespace workbench;
 
-constexpr auto c_pi = std::numbers::pi;
+constexpr auto half_turn = std::numbers::pi;
 
 using Signal = std::function<double(std::uint64_t frame)>;
 
 Signal Sine(double hertz, double rate, double amplitude = 1.0)
 {
-    return
-        [=](std::uint64_t frame) { return amplitude * std::sin(2 * c_pi * hertz * static_cast<double>(frame) / rate); };
+    return [=](std::uint64_t frame) {
+        return amplitude * std::sin(2 * half_turn * hertz * static_cast<double>(frame) / rate);
+    };
 }
 
 double Silence(std::uint64_t)
@@ -94,8 +95,9 @@ std::vector<std::vector<double>> PlainLevels(std::vector<std::vector<double>> co
                     if (frame >= 0 && frame < static_cast<std::ptrdiff_t>(frames))
                     {
                         auto const place = static_cast<double>(i) / size;
-                        sum += channel[static_cast<std::size_t>(frame)] * (0.5 - 0.5 * std::cos(2 * c_pi * place)) *
-                               std::polar(1.0, -2 * c_pi * place * static_cast<double>(row));
+                        sum += channel[static_cast<std::size_t>(frame)] *
+                               (0.5 - 0.5 * std::cos(2 * half_turn * place)) *
+                               std::polar(1.0, -2 * half_turn * place * static_cast<double>(row));
                     }
                 }
                 highest = std::max(highest, std::abs(sum));
@@ -139,7 +141,7 @@ TEST(WorkbenchFft, IsTheSumOfTheDefinition)
             for (std::size_t n = 0; n < size; ++n)
             {
                 sum += std::complex<double>(wasReal[n], wasImaginary[n]) *
-                       std::polar(1.0, -2 * c_pi * static_cast<double>(k * n % size) / static_cast<double>(size));
+                       std::polar(1.0, -2 * half_turn * static_cast<double>(k * n % size) / static_cast<double>(size));
             }
             ASSERT_NEAR(real[k], sum.real(), 2e-5) << size << ": " << k;
             ASSERT_NEAR(imaginary[k], sum.imag(), 2e-5) << size << ": " << k;
@@ -336,7 +338,7 @@ TEST(Spectrogram, AClickInALongRecordingIsNotLost)
         builder.Add(block);
     }
     auto const spectrogram = builder.Finish();
-    ASSERT_EQ(spectrogram.Columns(), Spectrogram::c_maximumColumns);
+    ASSERT_EQ(spectrogram.Columns(), Spectrogram::maximum_columns);
     auto const column = spectrogram.ColumnOfFrame(click);
     EXPECT_EQ(column, click / 512 * 2048 / (frames / 512 + 1));
     EXPECT_GT(spectrogram.Entry(column, 300), 10);
@@ -578,7 +580,8 @@ TEST(SpectrogramAnalyser, ReadsARecordingInStepsAndTellsItsProgress)
     std::vector<std::int16_t> samples(100'000);
     for (std::size_t i = 0; i < samples.size(); ++i)
     {
-        samples[i] = static_cast<std::int16_t>(32767 * std::sin(2 * c_pi * 1000.0 * static_cast<double>(i) / 8000));
+        samples[i] =
+            static_cast<std::int16_t>(32767 * std::sin(2 * half_turn * 1000.0 * static_cast<double>(i) / 8000));
     }
     auto const file = wav::File().Chunk("fmt ", wav::Format(1, 1, 8000, 2, 16)).Chunk("data", wav::Samples16(samples));
     SpectrogramAnalyser analyser(wav::Source(file.Content()));
@@ -606,7 +609,7 @@ TEST(SpectrogramAnalyser, AStepTakesAsManySamplesWhateverTheChannels)
     for (std::size_t frame = 90'000; frame < 100'000; ++frame)
     {
         samples[2 * frame + 1] =
-            static_cast<std::int16_t>(32767 * std::sin(2 * c_pi * 1000.0 * static_cast<double>(frame) / 8000));
+            static_cast<std::int16_t>(32767 * std::sin(2 * half_turn * 1000.0 * static_cast<double>(frame) / 8000));
     }
     auto const file = wav::File().Chunk("fmt ", wav::Format(1, 2, 8000, 4, 16)).Chunk("data", wav::Samples16(samples));
     SpectrogramAnalyser analyser(wav::Source(file.Content()));

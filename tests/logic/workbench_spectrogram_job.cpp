@@ -77,7 +77,7 @@ TEST_F(SpectrogramJobTest, GivesTheSpectrogramOnceItIsDone)
     EXPECT_EQ(result->info.sampleRate, 8000u);
     EXPECT_EQ(result->spectrogram.Frames(), 50'000u);
     EXPECT_GT(result->spectrogram.Entry(50, 0), 10);
-    EXPECT_EQ(job.Progress(), SpectrogramJob::c_wholeProgress);
+    EXPECT_EQ(job.Progress(), SpectrogramJob::whole_progress);
     EXPECT_EQ(m_notified, 1);
 }
 

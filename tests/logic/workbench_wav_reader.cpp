@@ -83,7 +83,7 @@ wav::File Mono16(std::vector<std::int16_t> const & samples)
     return wav::File().Chunk("fmt ", wav::Format(1, 1, 8000, 2, 16)).Chunk("data", wav::Samples16(samples));
 }
 
-constexpr std::size_t c_dataBody = 44; // where the samples begin in a file of Mono16
+constexpr std::size_t data_body = 44; // where the samples begin in a file of Mono16
 
 TEST(WavReader, ReadsEightBitSamplesAsUnsigned)
 {
@@ -300,7 +300,7 @@ TEST(WavReader, TakesADataSizeOfZeroBeforeAnotherChunkAsEmpty)
 
 TEST(WavReader, GivesWhatIsThereOfACutOffRecordingAndSaysSo)
 {
-    auto const content = ReadAll(Mono16({16384, -16384, 1, 2}).Cut(c_dataBody + 5));
+    auto const content = ReadAll(Mono16({16384, -16384, 1, 2}).Cut(data_body + 5));
     EXPECT_EQ(content.samples, (std::vector<double>{0.5, -0.5}));
     EXPECT_TRUE(content.info.IsCutOff());
     EXPECT_EQ(content.info.frames, 2u);
@@ -323,7 +323,7 @@ TEST(WavReader, NoticesAFileThatBecomesShorterWhileItIsRead)
         using OwningSource::OwningSource;
         std::size_t Read(std::uint64_t offset, std::span<std::byte> buffer) override
         {
-            auto const end = std::uint64_t{c_dataBody} + 5;
+            auto const end = std::uint64_t{data_body} + 5;
             auto const rest = offset < end ? end - offset : 0;
             return OwningSource::Read(offset, buffer.first(std::min<std::size_t>(rest, buffer.size())));
         }
@@ -363,7 +363,7 @@ TEST(WavReader, ReadsLongRecordingsInBlocks)
     auto & reader = std::get<WavReader>(opened);
     std::vector<double> read(samples.size());
     EXPECT_EQ(reader.ReadFrames(read), samples.size());
-    EXPECT_EQ(watched.largestRead, WavReader::c_blockBytes);
+    EXPECT_EQ(watched.largestRead, WavReader::block_bytes);
     for (std::size_t i = 0; i < samples.size(); ++i)
     {
         ASSERT_EQ(read[i], samples[i] / 32768.0) << i;
@@ -400,7 +400,7 @@ TEST(WavReader, NamesTheOtherKindsOfWav)
 TEST(WavReader, ReportsAFileThatEndsAnywhereBeforeItsFirstSampleAsCutOff)
 {
     auto const whole = Mono16({1, 2, 3});
-    for (std::size_t size = 4; size < c_dataBody + 2; ++size)
+    for (std::size_t size = 4; size < data_body + 2; ++size)
     {
         EXPECT_EQ(Fault(wav::File(whole).Cut(size)), ReadFault::CutOff) << size;
     }
@@ -414,7 +414,7 @@ TEST(WavReader, ReportsAChunkThatGoesOnBehindTheEndAsCutOff)
 TEST(WavReader, ReportsAPartOfAChunkHeaderAtTheEndAsCutOff)
 {
     auto file = wav::File().Chunk("fmt ", wav::Format(1, 1, 8000, 2, 16)).Chunk("data", wav::Samples16({1}));
-    auto const end = c_dataBody - 8;
+    auto const end = data_body - 8;
     EXPECT_EQ(Fault(file.Cut(end + 3).Patch32(4, static_cast<std::uint32_t>(end + 3 - 8))), ReadFault::CutOff);
 }
 

@@ -135,7 +135,7 @@ TEST(Waveform, GivesLanesToTheFirstChannelsOnly)
     std::vector<double> samples(40, 0.25);
     samples[31] = 0.5;
     auto const waveform = Build(samples, 40);
-    EXPECT_EQ(waveform.Lanes(), WaveformBuilder::c_maximumLanes);
+    EXPECT_EQ(waveform.Lanes(), WaveformBuilder::maximum_lanes);
     EXPECT_EQ(waveform.Frames(), 1u);
     EXPECT_EQ(waveform.Range(31, 0, 1), (MinMax{0.5F, 0.5F}));
     EXPECT_EQ(waveform.Range(32, 0, 1), MinMax{});

@@ -12,7 +12,7 @@ namespace tests
 namespace
 {
 // The layout of the table as 64-bit Windows and Wine have it.
-constexpr size_t TablePointerOffset = 0xF8;   // in the process environment block
+constexpr size_t TablePointerOffset = 0xF8; // in the process environment block
 constexpr size_t EntrySize = 24;
 constexpr size_t EntryCount = 0x4000;
 constexpr size_t TypeOffset = 14;

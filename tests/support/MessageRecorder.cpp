@@ -21,23 +21,62 @@ HHOOK g_retrievedHook;
 
 std::string MessageName(UINT message)
 {
-#define TEST_MESSAGE(name) {name, #name}
-    static std::map<UINT, std::string> const names = {
-        TEST_MESSAGE(WM_CREATE), TEST_MESSAGE(WM_DESTROY), TEST_MESSAGE(WM_MOVE), TEST_MESSAGE(WM_SIZE),
-        TEST_MESSAGE(WM_ACTIVATE), TEST_MESSAGE(WM_SETFOCUS), TEST_MESSAGE(WM_KILLFOCUS), TEST_MESSAGE(WM_ENABLE),
-        TEST_MESSAGE(WM_SETREDRAW), TEST_MESSAGE(WM_SETTEXT), TEST_MESSAGE(WM_GETTEXT), TEST_MESSAGE(WM_PAINT),
-        TEST_MESSAGE(WM_CLOSE), TEST_MESSAGE(WM_ERASEBKGND), TEST_MESSAGE(WM_SHOWWINDOW), TEST_MESSAGE(WM_SETCURSOR),
-        TEST_MESSAGE(WM_MOUSEACTIVATE), TEST_MESSAGE(WM_WINDOWPOSCHANGING), TEST_MESSAGE(WM_WINDOWPOSCHANGED),
-        TEST_MESSAGE(WM_NOTIFY), TEST_MESSAGE(WM_STYLECHANGING), TEST_MESSAGE(WM_STYLECHANGED),
-        TEST_MESSAGE(WM_GETDLGCODE), TEST_MESSAGE(WM_NCDESTROY), TEST_MESSAGE(WM_NCCREATE), TEST_MESSAGE(WM_KEYDOWN),
-        TEST_MESSAGE(WM_KEYUP), TEST_MESSAGE(WM_CHAR), TEST_MESSAGE(WM_SYSKEYDOWN), TEST_MESSAGE(WM_SYSKEYUP),
-        TEST_MESSAGE(WM_INITDIALOG), TEST_MESSAGE(WM_COMMAND), TEST_MESSAGE(WM_SYSCOMMAND), TEST_MESSAGE(WM_TIMER),
-        TEST_MESSAGE(WM_HSCROLL), TEST_MESSAGE(WM_VSCROLL), TEST_MESSAGE(WM_CTLCOLOREDIT),
-        TEST_MESSAGE(WM_CTLCOLORSTATIC), TEST_MESSAGE(WM_MOUSEMOVE), TEST_MESSAGE(WM_LBUTTONDOWN),
-        TEST_MESSAGE(WM_LBUTTONUP), TEST_MESSAGE(WM_LBUTTONDBLCLK), TEST_MESSAGE(WM_RBUTTONDOWN),
-        TEST_MESSAGE(WM_RBUTTONUP), TEST_MESSAGE(WM_MOUSEWHEEL), TEST_MESSAGE(WM_PARENTNOTIFY),
-        TEST_MESSAGE(WM_CAPTURECHANGED), TEST_MESSAGE(WM_MOUSELEAVE), TEST_MESSAGE(WM_CONTEXTMENU),
-        TEST_MESSAGE(WM_DRAWITEM), TEST_MESSAGE(WM_MEASUREITEM), TEST_MESSAGE(WM_CANCELMODE)};
+#define TEST_MESSAGE(name)                                                                                             \
+    {                                                                                                                  \
+        name, #name                                                                                                    \
+    }
+    static std::map<UINT, std::string> const names = {TEST_MESSAGE(WM_CREATE),
+                                                      TEST_MESSAGE(WM_DESTROY),
+                                                      TEST_MESSAGE(WM_MOVE),
+                                                      TEST_MESSAGE(WM_SIZE),
+                                                      TEST_MESSAGE(WM_ACTIVATE),
+                                                      TEST_MESSAGE(WM_SETFOCUS),
+                                                      TEST_MESSAGE(WM_KILLFOCUS),
+                                                      TEST_MESSAGE(WM_ENABLE),
+                                                      TEST_MESSAGE(WM_SETREDRAW),
+                                                      TEST_MESSAGE(WM_SETTEXT),
+                                                      TEST_MESSAGE(WM_GETTEXT),
+                                                      TEST_MESSAGE(WM_PAINT),
+                                                      TEST_MESSAGE(WM_CLOSE),
+                                                      TEST_MESSAGE(WM_ERASEBKGND),
+                                                      TEST_MESSAGE(WM_SHOWWINDOW),
+                                                      TEST_MESSAGE(WM_SETCURSOR),
+                                                      TEST_MESSAGE(WM_MOUSEACTIVATE),
+                                                      TEST_MESSAGE(WM_WINDOWPOSCHANGING),
+                                                      TEST_MESSAGE(WM_WINDOWPOSCHANGED),
+                                                      TEST_MESSAGE(WM_NOTIFY),
+                                                      TEST_MESSAGE(WM_STYLECHANGING),
+                                                      TEST_MESSAGE(WM_STYLECHANGED),
+                                                      TEST_MESSAGE(WM_GETDLGCODE),
+                                                      TEST_MESSAGE(WM_NCDESTROY),
+                                                      TEST_MESSAGE(WM_NCCREATE),
+                                                      TEST_MESSAGE(WM_KEYDOWN),
+                                                      TEST_MESSAGE(WM_KEYUP),
+                                                      TEST_MESSAGE(WM_CHAR),
+                                                      TEST_MESSAGE(WM_SYSKEYDOWN),
+                                                      TEST_MESSAGE(WM_SYSKEYUP),
+                                                      TEST_MESSAGE(WM_INITDIALOG),
+                                                      TEST_MESSAGE(WM_COMMAND),
+                                                      TEST_MESSAGE(WM_SYSCOMMAND),
+                                                      TEST_MESSAGE(WM_TIMER),
+                                                      TEST_MESSAGE(WM_HSCROLL),
+                                                      TEST_MESSAGE(WM_VSCROLL),
+                                                      TEST_MESSAGE(WM_CTLCOLOREDIT),
+                                                      TEST_MESSAGE(WM_CTLCOLORSTATIC),
+                                                      TEST_MESSAGE(WM_MOUSEMOVE),
+                                                      TEST_MESSAGE(WM_LBUTTONDOWN),
+                                                      TEST_MESSAGE(WM_LBUTTONUP),
+                                                      TEST_MESSAGE(WM_LBUTTONDBLCLK),
+                                                      TEST_MESSAGE(WM_RBUTTONDOWN),
+                                                      TEST_MESSAGE(WM_RBUTTONUP),
+                                                      TEST_MESSAGE(WM_MOUSEWHEEL),
+                                                      TEST_MESSAGE(WM_PARENTNOTIFY),
+                                                      TEST_MESSAGE(WM_CAPTURECHANGED),
+                                                      TEST_MESSAGE(WM_MOUSELEAVE),
+                                                      TEST_MESSAGE(WM_CONTEXTMENU),
+                                                      TEST_MESSAGE(WM_DRAWITEM),
+                                                      TEST_MESSAGE(WM_MEASUREITEM),
+                                                      TEST_MESSAGE(WM_CANCELMODE)};
 #undef TEST_MESSAGE
     auto const found = names.find(message);
     if (found != names.end())
@@ -120,8 +159,9 @@ void MessageRecorder::Watch(HWND window, std::string name)
 
 int MessageRecorder::Count(std::string const & window, UINT message) const
 {
-    return static_cast<int>(std::count_if(m_received.begin(), m_received.end(), [&](ReceivedMessage const & received)
-                                          { return received.window == window && received.message == message; }));
+    return static_cast<int>(std::count_if(m_received.begin(), m_received.end(), [&](ReceivedMessage const & received) {
+        return received.window == window && received.message == message;
+    }));
 }
 
 LRESULT CALLBACK MessageRecorder::OnSent(int code, WPARAM wParam, LPARAM lParam)
@@ -193,7 +233,8 @@ testing::AssertionResult MessageRecorder::Matches(std::vector<ExpectedMessage> c
 
     std::ostringstream text;
     text << "messages differ after the first " << furthest << " received\n"
-         << std::left << std::setw(64) << "  expected" << "received\n";
+         << std::left << std::setw(64) << "  expected"
+         << "received\n";
     for (size_t i = 0; i < std::max(receivedCount, expectedCount); ++i)
     {
         text << "  " << std::setw(62) << (i < expectedCount ? Describe(expected[i]) : "")

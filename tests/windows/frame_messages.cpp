@@ -50,7 +50,7 @@ private:
 };
 
 BEGIN_MESSAGE_MAP(CListener, CWnd)
-ON_REGISTERED_MESSAGE(WM_XLISTCTRL_EDIT_END, &CListener::OnEditEnd)
+    ON_REGISTERED_MESSAGE(WM_XLISTCTRL_EDIT_END, &CListener::OnEditEnd)
 END_MESSAGE_MAP()
 } // namespace
 

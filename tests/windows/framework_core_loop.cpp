@@ -117,7 +117,7 @@ TEST(CoreIdle, TemporaryObjectsGoInIdleTimeUnlessLocked)
 
 TEST(CoreIdle, VisibleMainWindowAndItsDescendantsUpdateTheirCommands)
 {
-    constexpr UINT idleUpdate = 0x0363;
+    constexpr UINT idle_update = 0x0363;
     class Updating : public CWnd
     {
     public:
@@ -126,7 +126,7 @@ TEST(CoreIdle, VisibleMainWindowAndItsDescendantsUpdateTheirCommands)
     protected:
         LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
         {
-            m_updates += message == idleUpdate && wParam == TRUE ? 1 : 0;
+            m_updates += message == idle_update && wParam == TRUE ? 1 : 0;
             return CWnd::WindowProc(message, wParam, lParam);
         }
     };
@@ -175,8 +175,8 @@ public:
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
-        constexpr UINT kickIdle = 0x036A;
-        if (message == kickIdle)
+        constexpr UINT kick_idle = 0x036A;
+        if (message == kick_idle)
         {
             m_counts.push_back(lParam);
             if (++m_kicks < m_wantedKicks)

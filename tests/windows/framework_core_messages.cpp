@@ -11,18 +11,18 @@
 
 namespace
 {
-constexpr UINT plainMessage = WM_APP + 1;
+constexpr UINT plain_message = WM_APP + 1;
 UINT const registeredMessage = ::RegisterWindowMessage(L"framework_core_messages.registered");
 UINT const otherRegisteredMessage = ::RegisterWindowMessage(L"framework_core_messages.other");
-constexpr UINT idPlain = 100;
-constexpr UINT idRangeFirst = 110;
-constexpr UINT idRangeLast = 112;
-constexpr UINT idEx = 120;
-constexpr UINT idExRangeFirst = 130;
-constexpr UINT idExRangeLast = 131;
-constexpr UINT idDisabled = 140;
-constexpr UINT idBaseOnly = 150;
-constexpr UINT idNotify = 160;
+constexpr UINT id_plain = 100;
+constexpr UINT id_range_first = 110;
+constexpr UINT id_range_last = 112;
+constexpr UINT id_ex = 120;
+constexpr UINT id_ex_range_first = 130;
+constexpr UINT id_ex_range_last = 131;
+constexpr UINT id_disabled = 140;
+constexpr UINT id_base_only = 150;
+constexpr UINT id_notify = 160;
 
 class Base : public tests::ScopedWindow
 {
@@ -56,10 +56,10 @@ protected:
 };
 
 BEGIN_MESSAGE_MAP(Base, CWnd)
-    ON_COMMAND(idPlain, &Base::OnPlainInBase)
-    ON_COMMAND(idBaseOnly, &Base::OnBaseOnly)
-    ON_UPDATE_COMMAND_UI(idBaseOnly, &Base::OnUpdateBase)
-    ON_MESSAGE(plainMessage, &Base::OnPlainMessage)
+    ON_COMMAND(id_plain, &Base::OnPlainInBase)
+    ON_COMMAND(id_base_only, &Base::OnBaseOnly)
+    ON_UPDATE_COMMAND_UI(id_base_only, &Base::OnUpdateBase)
+    ON_MESSAGE(plain_message, &Base::OnPlainMessage)
 END_MESSAGE_MAP()
 
 class Derived : public Base
@@ -140,15 +140,15 @@ protected:
 };
 
 BEGIN_MESSAGE_MAP(Derived, Base)
-    ON_COMMAND(idPlain, &Derived::OnPlain)
-    ON_COMMAND_RANGE(idRangeFirst, idRangeLast, &Derived::OnRange)
-    ON_COMMAND_EX(idEx, &Derived::OnEx)
-    ON_COMMAND_EX_RANGE(idExRangeFirst, idExRangeLast, &Derived::OnEx)
-    ON_COMMAND(idDisabled, &Derived::OnDisabled)
-    ON_UPDATE_COMMAND_UI(idDisabled, &Derived::OnUpdateDisabled)
+    ON_COMMAND(id_plain, &Derived::OnPlain)
+    ON_COMMAND_RANGE(id_range_first, id_range_last, &Derived::OnRange)
+    ON_COMMAND_EX(id_ex, &Derived::OnEx)
+    ON_COMMAND_EX_RANGE(id_ex_range_first, id_ex_range_last, &Derived::OnEx)
+    ON_COMMAND(id_disabled, &Derived::OnDisabled)
+    ON_UPDATE_COMMAND_UI(id_disabled, &Derived::OnUpdateDisabled)
     ON_REGISTERED_MESSAGE(otherRegisteredMessage, &Derived::OnOtherRegistered)
     ON_REGISTERED_MESSAGE(registeredMessage, &Derived::OnRegistered)
-    ON_NOTIFY(NM_CLICK, idNotify, &Derived::OnNotifyPlain)
+    ON_NOTIFY(NM_CLICK, id_notify, &Derived::OnNotifyPlain)
     ON_WM_SIZE()
     ON_WM_MOVE()
     ON_WM_MOUSEMOVE()
@@ -188,46 +188,46 @@ protected:
 
 TEST_F(CoreMessages, DerivedHandlerComesBeforeThatOfTheBaseClass)
 {
-    Send(WM_COMMAND, idPlain);
+    Send(WM_COMMAND, id_plain);
     EXPECT_EQ(Take(), Calls{"plain 0 0 0"});
 }
 
 TEST_F(CoreMessages, CommandsAreLookedForInTheBaseClass)
 {
-    Send(WM_COMMAND, idBaseOnly);
+    Send(WM_COMMAND, id_base_only);
     EXPECT_EQ(Take(), (Calls{"update in base 150 0 0", "base only 0 0 0"}));
 }
 
 TEST_F(CoreMessages, CommandRangeIncludesItsEndsAndNoMore)
 {
-    for (UINT const id : {idRangeFirst - 1, idRangeFirst, idRangeLast, idRangeLast + 1})
+    for (UINT const id : {id_range_first - 1, id_range_first, id_range_last, id_range_last + 1})
         Send(WM_COMMAND, id);
     EXPECT_EQ(Take(), (Calls{"range 110 0 0", "range 112 0 0"}));
 }
 
 TEST_F(CoreMessages, HandledCommandAnswersOne)
 {
-    EXPECT_EQ(Send(WM_COMMAND, idPlain), 1);
+    EXPECT_EQ(Send(WM_COMMAND, id_plain), 1);
     EXPECT_EQ(Send(WM_COMMAND, 99), 0);
 }
 
 TEST_F(CoreMessages, ExtendedCommandSaysWhetherItIsHandled)
 {
-    EXPECT_EQ(Send(WM_COMMAND, idEx), 1);
+    EXPECT_EQ(Send(WM_COMMAND, id_ex), 1);
     m_window.m_exAnswer = FALSE;
-    EXPECT_EQ(Send(WM_COMMAND, idExRangeLast), 0);
+    EXPECT_EQ(Send(WM_COMMAND, id_ex_range_last), 0);
     EXPECT_EQ(Take(), (Calls{"ex 120 0 0", "ex 131 0 0"}));
 }
 
 TEST_F(CoreMessages, CommandThatItsUpdateHandlerDisablesIsNotCarriedOut)
 {
-    EXPECT_EQ(Send(WM_COMMAND, idDisabled), 1);
+    EXPECT_EQ(Send(WM_COMMAND, id_disabled), 1);
     EXPECT_EQ(Take(), Calls{});
 }
 
 TEST_F(CoreMessages, MessageByNumberGivesTheHandlersAnswer)
 {
-    EXPECT_EQ(Send(plainMessage, 3, 4), 11);
+    EXPECT_EQ(Send(plain_message, 3, 4), 11);
     EXPECT_EQ(Take(), Calls{"message in base 3 4 0"});
 }
 
@@ -241,7 +241,7 @@ TEST_F(CoreMessages, RegisteredMessagesAreToldApart)
 TEST_F(CoreMessages, HandlerInformationIsGivenInsteadOfACall)
 {
     AFX_CMDHANDLERINFO info{};
-    EXPECT_TRUE(m_window.OnCmdMsg(idPlain, CN_COMMAND, nullptr, &info));
+    EXPECT_TRUE(m_window.OnCmdMsg(id_plain, CN_COMMAND, nullptr, &info));
     EXPECT_EQ(info.pTarget, &m_window);
     EXPECT_TRUE(info.pmf != nullptr);
     EXPECT_FALSE(m_window.OnCmdMsg(99, CN_COMMAND, nullptr, &info));
@@ -251,7 +251,7 @@ TEST_F(CoreMessages, HandlerInformationIsGivenInsteadOfACall)
 TEST_F(CoreMessages, NotificationGoesByTheSendersOwnId)
 {
     CWnd sender;
-    ASSERT_TRUE(sender.Create(L"STATIC", L"", WS_CHILD, CRect(0, 0, 5, 5), &m_window, idNotify));
+    ASSERT_TRUE(sender.Create(L"STATIC", L"", WS_CHILD, CRect(0, 0, 5, 5), &m_window, id_notify));
     NMHDR header{sender.m_hWnd, 12345, static_cast<UINT>(NM_CLICK)};
     EXPECT_EQ(Send(WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&header)), 9);
     EXPECT_EQ(Take(), Calls{"notify " + std::to_string(static_cast<UINT>(NM_CLICK)) + " 0 0"});
@@ -336,10 +336,10 @@ TEST_F(CoreMessages, UpdateHandlerMayPassTheItemOn)
     {
     };
     CCmdUI ui;
-    ui.m_nID = idBaseOnly;
-    EXPECT_TRUE(m_window.OnCmdMsg(idBaseOnly, static_cast<int>(CN_UPDATE_COMMAND_UI), &ui, nullptr));
+    ui.m_nID = id_base_only;
+    EXPECT_TRUE(m_window.OnCmdMsg(id_base_only, static_cast<int>(CN_UPDATE_COMMAND_UI), &ui, nullptr));
     Target target;
-    EXPECT_FALSE(target.OnCmdMsg(idBaseOnly, static_cast<int>(CN_UPDATE_COMMAND_UI), &ui, nullptr));
+    EXPECT_FALSE(target.OnCmdMsg(id_base_only, static_cast<int>(CN_UPDATE_COMMAND_UI), &ui, nullptr));
 }
 
 namespace
@@ -367,7 +367,7 @@ protected:
 TEST(CoreCommands, AWindowThatEndsWhenAskedGetsNoCommand)
 {
     EndsWhenAsked window;
-    ::SendMessage(window.m_hWnd, WM_COMMAND, idPlain, 0);
+    ::SendMessage(window.m_hWnd, WM_COMMAND, id_plain, 0);
     EXPECT_EQ(window.m_hWnd, nullptr);
     EXPECT_EQ(window.m_commands, 0);
 }

@@ -14,10 +14,10 @@
 
 namespace
 {
-constexpr UINT idOwn = 9001;    // in one module
-constexpr UINT idShared = 9002; // in all of them
-constexpr UINT idString = 9040; // a block of strings of its own
-constexpr UINT idMissing = 9043;
+constexpr UINT id_own = 9001;    // in one module
+constexpr UINT id_shared = 9002; // in all of them
+constexpr UINT id_string = 9040; // a block of strings of its own
+constexpr UINT id_missing = 9043;
 
 /// A library with nothing but resources: data under two ids, and one string.
 class ResourceLibrary
@@ -35,16 +35,16 @@ public:
         EXPECT_NE(update, nullptr);
         char data[] = "data";
         WORD const language = MAKELANGID(LANG_NEUTRAL, SUBLANG_NEUTRAL);
-        for (UINT const id : {ownId, idShared})
+        for (UINT const id : {ownId, id_shared})
             EXPECT_TRUE(::UpdateResource(update, RT_RCDATA, MAKEINTRESOURCE(id), language, data, sizeof data));
         std::vector<wchar_t> block;
         for (UINT index = 0; index < 16; ++index)
         {
-            std::wstring const string = index == (idString & 15) ? text : L"";
+            std::wstring const string = index == (id_string & 15) ? text : L"";
             block.push_back(static_cast<wchar_t>(string.size()));
             block.insert(block.end(), string.begin(), string.end());
         }
-        EXPECT_TRUE(::UpdateResource(update, RT_STRING, MAKEINTRESOURCE((idString >> 4) + 1), language, block.data(),
+        EXPECT_TRUE(::UpdateResource(update, RT_STRING, MAKEINTRESOURCE((id_string >> 4) + 1), language, block.data(),
                                      static_cast<DWORD>(block.size() * sizeof(wchar_t))));
         EXPECT_TRUE(::EndUpdateResource(update, FALSE));
         m_module = ::LoadLibraryEx(m_path, nullptr, LOAD_LIBRARY_AS_DATAFILE);
@@ -89,47 +89,47 @@ TEST(CoreModules, RecordIsFilledOnce)
 
 TEST(CoreModules, ResourceThatNobodyHasIsTheApplications)
 {
-    EXPECT_EQ(Find(idOwn), AfxGetResourceHandle());
-    EXPECT_EQ(AfxFindStringResourceHandle(idString), nullptr);
+    EXPECT_EQ(Find(id_own), AfxGetResourceHandle());
+    EXPECT_EQ(AfxFindStringResourceHandle(id_string), nullptr);
 }
 
 TEST(CoreModules, ModuleTakesPartWhileItIsHooked)
 {
-    ResourceLibrary const library(idOwn, L"text");
+    ResourceLibrary const library(id_own, L"text");
     auto record = library.Record();
     {
         CDynLinkLibrary const hook(record);
-        EXPECT_EQ(Find(idOwn), library.Module());
-        EXPECT_EQ(AfxFindStringResourceHandle(idString), library.Module());
-        EXPECT_EQ(AfxFindStringResourceHandle(idMissing), nullptr); // in the block, but empty
+        EXPECT_EQ(Find(id_own), library.Module());
+        EXPECT_EQ(AfxFindStringResourceHandle(id_string), library.Module());
+        EXPECT_EQ(AfxFindStringResourceHandle(id_missing), nullptr); // in the block, but empty
         CString text;
-        EXPECT_TRUE(text.LoadString(idString));
+        EXPECT_TRUE(text.LoadString(id_string));
         EXPECT_STREQ(text, L"text");
     }
-    EXPECT_EQ(Find(idOwn), AfxGetResourceHandle());
+    EXPECT_EQ(Find(id_own), AfxGetResourceHandle());
 }
 
 TEST(CoreModules, ApplicationComesFirstThenTheYoungestModuleAndSystemModulesLast)
 {
-    ResourceLibrary const first(idOwn, L"first");
-    ResourceLibrary const second(idOwn + 10, L"second");
-    ResourceLibrary const system(idOwn + 20, L"system");
+    ResourceLibrary const first(id_own, L"first");
+    ResourceLibrary const second(id_own + 10, L"second");
+    ResourceLibrary const system(id_own + 20, L"system");
     auto firstRecord = first.Record();
     auto secondRecord = second.Record();
     auto systemRecord = system.Record();
     CDynLinkLibrary const firstHook(firstRecord);
     auto secondHook = std::make_unique<CDynLinkLibrary>(secondRecord);
     CDynLinkLibrary const systemHook(systemRecord, TRUE);
-    EXPECT_EQ(Find(idShared), second.Module());
-    EXPECT_EQ(Find(idOwn + 20), system.Module());
+    EXPECT_EQ(Find(id_shared), second.Module());
+    EXPECT_EQ(Find(id_own + 20), system.Module());
     secondHook.reset(); // out of the middle of the chain
-    EXPECT_EQ(Find(idShared), first.Module());
-    EXPECT_EQ(Find(idOwn + 20), system.Module());
+    EXPECT_EQ(Find(id_shared), first.Module());
+    EXPECT_EQ(Find(id_own + 20), system.Module());
 
     HINSTANCE const application = AfxGetResourceHandle();
     AfxSetResourceHandle(system.Module());
-    EXPECT_EQ(Find(idShared), system.Module());
-    EXPECT_EQ(AfxFindStringResourceHandle(idString), system.Module());
+    EXPECT_EQ(Find(id_shared), system.Module());
+    EXPECT_EQ(AfxFindStringResourceHandle(id_string), system.Module());
     AfxSetResourceHandle(application);
     CString text;
     EXPECT_TRUE(text.LoadString(IDS_GREETING)); // the program's own string
@@ -137,22 +137,22 @@ TEST(CoreModules, ApplicationComesFirstThenTheYoungestModuleAndSystemModulesLast
 
 TEST(CoreModules, ResourcesMayLieInAModuleOfTheirOwn)
 {
-    ResourceLibrary const language(idOwn, L"language");
+    ResourceLibrary const language(id_own, L"language");
     AFX_EXTENSION_MODULE record{};
     AfxInitExtensionModule(record, ::GetModuleHandle(nullptr));
     record.hResource = language.Module();
     CDynLinkLibrary const hook(record);
-    EXPECT_EQ(Find(idOwn), language.Module());
+    EXPECT_EQ(Find(id_own), language.Module());
 }
 
 TEST(CoreModules, TerminationUnhooksTheModule)
 {
-    ResourceLibrary const library(idOwn, L"text");
+    ResourceLibrary const library(id_own, L"text");
     auto record = library.Record();
     new CDynLinkLibrary(record);
-    ASSERT_EQ(Find(idOwn), library.Module());
+    ASSERT_EQ(Find(id_own), library.Module());
     AfxTermExtensionModule(record);
-    EXPECT_EQ(Find(idOwn), AfxGetResourceHandle());
+    EXPECT_EQ(Find(id_own), AfxGetResourceHandle());
 }
 
 TEST(CoreModules, ModuleStateIsChangedForAScopeAndThread)

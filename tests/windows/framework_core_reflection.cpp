@@ -12,10 +12,10 @@
 namespace
 {
 using Calls = std::vector<std::string>;
-constexpr UINT idControl = 10;
-constexpr UINT noticeTaken = 0x0FFF0001; // only its low word is in the map, as for any notification
-constexpr UINT noticeShared = 0x0FFF0002;
-constexpr UINT noticeParent = 0x0FFF0003;
+constexpr UINT id_control = 10;
+constexpr UINT notice_taken = 0x0FFF0001; // only its low word is in the map, as for any notification
+constexpr UINT notice_shared = 0x0FFF0002;
+constexpr UINT notice_parent = 0x0FFF0003;
 
 class Control : public CWnd
 {
@@ -66,15 +66,15 @@ private:
 };
 
 BEGIN_MESSAGE_MAP(Control, CWnd)
-ON_NOTIFY_REFLECT(noticeTaken, &Control::OnTaken)
-ON_NOTIFY_REFLECT_EX(noticeShared, &Control::OnShared)
-ON_CONTROL_REFLECT(BN_CLICKED, &Control::OnClickedReflected)
-ON_CONTROL_REFLECT_EX(BN_DOUBLECLICKED, &Control::OnDoubleReflected)
-ON_WM_CTLCOLOR_REFLECT()
-ON_WM_DRAWITEM_REFLECT()
-ON_WM_MEASUREITEM_REFLECT()
-ON_WM_COMPAREITEM_REFLECT()
-ON_WM_HSCROLL_REFLECT()
+    ON_NOTIFY_REFLECT(notice_taken, &Control::OnTaken)
+    ON_NOTIFY_REFLECT_EX(notice_shared, &Control::OnShared)
+    ON_CONTROL_REFLECT(BN_CLICKED, &Control::OnClickedReflected)
+    ON_CONTROL_REFLECT_EX(BN_DOUBLECLICKED, &Control::OnDoubleReflected)
+    ON_WM_CTLCOLOR_REFLECT()
+    ON_WM_DRAWITEM_REFLECT()
+    ON_WM_MEASUREITEM_REFLECT()
+    ON_WM_COMPAREITEM_REFLECT()
+    ON_WM_HSCROLL_REFLECT()
 END_MESSAGE_MAP()
 
 class Parent : public tests::ScopedWindow
@@ -107,13 +107,13 @@ private:
 };
 
 BEGIN_MESSAGE_MAP(Parent, CWnd)
-ON_NOTIFY(noticeTaken, idControl, &Parent::OnNotice)
-ON_NOTIFY(noticeShared, idControl, &Parent::OnNotice)
-ON_NOTIFY_RANGE(noticeParent, idControl, idControl + 1, &Parent::OnNoticeRange)
-ON_NOTIFY_EX(noticeParent, idControl + 2, &Parent::OnNoticeEx)
-ON_BN_CLICKED(idControl, &Parent::OnClicked)
-ON_BN_DOUBLECLICKED(idControl, &Parent::OnDouble)
-ON_CONTROL_RANGE(BN_SETFOCUS, idControl, idControl + 1, &Parent::OnControlRange)
+    ON_NOTIFY(notice_taken, id_control, &Parent::OnNotice)
+    ON_NOTIFY(notice_shared, id_control, &Parent::OnNotice)
+    ON_NOTIFY_RANGE(notice_parent, id_control, id_control + 1, &Parent::OnNoticeRange)
+    ON_NOTIFY_EX(notice_parent, id_control + 2, &Parent::OnNoticeEx)
+    ON_BN_CLICKED(id_control, &Parent::OnClicked)
+    ON_BN_DOUBLECLICKED(id_control, &Parent::OnDouble)
+    ON_CONTROL_RANGE(BN_SETFOCUS, id_control, id_control + 1, &Parent::OnControlRange)
 END_MESSAGE_MAP()
 
 class CoreReflection : public testing::Test
@@ -121,18 +121,18 @@ class CoreReflection : public testing::Test
 protected:
     CoreReflection() : m_parent(m_calls), m_control(m_calls)
     {
-        m_control.Create(L"STATIC", L"", WS_CHILD, CRect(0, 0, 10, 10), &m_parent, idControl);
+        m_control.Create(L"STATIC", L"", WS_CHILD, CRect(0, 0, 10, 10), &m_parent, id_control);
     }
     ~CoreReflection() override { m_control.DestroyWindow(); }
 
     LRESULT Notify(UINT code)
     {
-        NMHDR header{m_control.m_hWnd, idControl, code};
-        return m_parent.SendMessage(WM_NOTIFY, idControl, reinterpret_cast<LPARAM>(&header));
+        NMHDR header{m_control.m_hWnd, id_control, code};
+        return m_parent.SendMessage(WM_NOTIFY, id_control, reinterpret_cast<LPARAM>(&header));
     }
     LRESULT Command(UINT code)
     {
-        return m_parent.SendMessage(WM_COMMAND, MAKEWPARAM(idControl, code),
+        return m_parent.SendMessage(WM_COMMAND, MAKEWPARAM(id_control, code),
                                     reinterpret_cast<LPARAM>(m_control.m_hWnd));
     }
     Calls Take() { return std::exchange(m_calls, {}); }
@@ -144,26 +144,26 @@ protected:
 
 TEST_F(CoreReflection, NotificationThatTheControlTakesNeverReachesTheParent)
 {
-    EXPECT_EQ(Notify(noticeTaken), 5);
+    EXPECT_EQ(Notify(notice_taken), 5);
     EXPECT_EQ(Take(), Calls{"control taken"});
 }
 
 TEST_F(CoreReflection, ControlMayLeaveANotificationToTheParent)
 {
     m_control.m_take = FALSE;
-    EXPECT_EQ(Notify(noticeShared), 6);
+    EXPECT_EQ(Notify(notice_shared), 6);
     EXPECT_EQ(Take(), (Calls{"control shared", "parent notice"}));
     m_control.m_take = TRUE;
-    Notify(noticeShared);
+    Notify(notice_shared);
     EXPECT_EQ(Take(), Calls{"control shared"});
 }
 
 TEST_F(CoreReflection, NotificationWithoutReflectionGoesToTheParentsRange)
 {
-    Notify(noticeParent);
+    Notify(notice_parent);
     EXPECT_EQ(Take(), Calls{"parent range 10"});
-    m_control.SetDlgCtrlID(idControl + 2);
-    Notify(noticeParent);
+    m_control.SetDlgCtrlID(id_control + 2);
+    Notify(notice_parent);
     EXPECT_EQ(Take(), Calls{"parent ex 12"});
 }
 
@@ -200,15 +200,15 @@ TEST_F(CoreReflection, OwnerDrawMessagesGoToTheControl)
     draw.CtlType = ODT_STATIC;
     draw.hwndItem = m_control.m_hWnd;
     draw.itemID = 3;
-    EXPECT_EQ(m_parent.SendMessage(WM_DRAWITEM, idControl, reinterpret_cast<LPARAM>(&draw)), TRUE);
+    EXPECT_EQ(m_parent.SendMessage(WM_DRAWITEM, id_control, reinterpret_cast<LPARAM>(&draw)), TRUE);
     MEASUREITEMSTRUCT measure{};
     measure.CtlType = ODT_LISTBOX;
-    measure.CtlID = idControl;
-    EXPECT_EQ(m_parent.SendMessage(WM_MEASUREITEM, idControl, reinterpret_cast<LPARAM>(&measure)), TRUE);
+    measure.CtlID = id_control;
+    EXPECT_EQ(m_parent.SendMessage(WM_MEASUREITEM, id_control, reinterpret_cast<LPARAM>(&measure)), TRUE);
     EXPECT_EQ(measure.itemHeight, 17u);
     COMPAREITEMSTRUCT compare{};
     compare.hwndItem = m_control.m_hWnd;
-    EXPECT_EQ(m_parent.SendMessage(WM_COMPAREITEM, idControl, reinterpret_cast<LPARAM>(&compare)), -1);
+    EXPECT_EQ(m_parent.SendMessage(WM_COMPAREITEM, id_control, reinterpret_cast<LPARAM>(&compare)), -1);
     EXPECT_EQ(Take(), (Calls{"control draw 3", "control measure"}));
 }
 
@@ -231,7 +231,7 @@ TEST_F(CoreReflection, NotificationsAreIgnoredWhileDataAreExchanged)
     protected:
         void DoDataExchange(CDataExchange * pDX) override
         {
-            SendMessage(WM_COMMAND, MAKEWPARAM(idControl, BN_DOUBLECLICKED), reinterpret_cast<LPARAM>(m_sender));
+            SendMessage(WM_COMMAND, MAKEWPARAM(id_control, BN_DOUBLECLICKED), reinterpret_cast<LPARAM>(m_sender));
             if (m_fail)
                 pDX->Fail();
         }

@@ -13,7 +13,7 @@
 
 namespace
 {
-constexpr UINT idButton = 20;
+constexpr UINT id_button = 20;
 
 class Tipping : public tests::ScopedWindow
 {
@@ -55,7 +55,7 @@ protected:
 };
 
 BEGIN_MESSAGE_MAP(Tipping, CWnd)
-ON_NOTIFY_EX(TTN_NEEDTEXT, 0, &Tipping::OnNeedText)
+    ON_NOTIFY_EX(TTN_NEEDTEXT, 0, &Tipping::OnNeedText)
 END_MESSAGE_MAP()
 
 class CoreToolTips : public testing::Test
@@ -64,7 +64,7 @@ protected:
     void SetUp() override
     {
         ASSERT_TRUE(
-            m_button.Create(L"BUTTON", L"b", WS_CHILD | WS_VISIBLE, CRect(20, 20, 120, 60), &m_window, idButton));
+            m_button.Create(L"BUTTON", L"b", WS_CHILD | WS_VISIBLE, CRect(20, 20, 120, 60), &m_window, id_button));
         ASSERT_TRUE(tests::BringToFront(m_window.m_hWnd));
         ASSERT_TRUE(tests::MoveMouse(tests::ClientPoint(m_window.m_hWnd, {5, 150})));
         tests::PumpPosted();
@@ -122,7 +122,7 @@ TEST_F(CoreToolTips, HitTestGivesTheChildsIdAndWindow)
 {
     TOOLINFO info{};
     info.cbSize = sizeof info;
-    EXPECT_EQ(m_window.OnToolHitTest({50, 40}, &info), static_cast<INT_PTR>(idButton));
+    EXPECT_EQ(m_window.OnToolHitTest({50, 40}, &info), static_cast<INT_PTR>(id_button));
     EXPECT_EQ(info.hwnd, m_window.m_hWnd);
     EXPECT_EQ(info.uId, reinterpret_cast<UINT_PTR>(m_button.m_hWnd));
     EXPECT_NE(info.uFlags & TTF_IDISHWND, 0u);

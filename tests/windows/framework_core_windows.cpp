@@ -390,7 +390,7 @@ TEST(CoreWindows, LayeredAttributesAreKept)
 TEST(CoreWindows, BarsTakeTheirPlacesAndTheRestIsLeftOver)
 {
     // What bars are sent by RepositionBars; see the message WM_SIZEPARENT of the framework.
-    constexpr UINT sizeParent = 0x0361;
+    constexpr UINT size_parent = 0x0361;
     struct Layout
     {
         HDWP positions;
@@ -403,7 +403,7 @@ TEST(CoreWindows, BarsTakeTheirPlacesAndTheRestIsLeftOver)
     protected:
         LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
         {
-            if (message == sizeParent)
+            if (message == size_parent)
                 reinterpret_cast<Layout *>(lParam)->rect.top += 25;
             return CWnd::WindowProc(message, wParam, lParam);
         }

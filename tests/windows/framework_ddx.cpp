@@ -93,20 +93,18 @@ TEST_F(DataExchange, NumbersAreShown)
     DWORD dwordValue = 4000000000u;
     float floatValue = 1.5f;
     double doubleValue = -0.000125;
-    EXPECT_TRUE(Load(
-        [&](CDataExchange * pDX)
-        {
-            EXPECT_FALSE(pDX->m_bSaveAndValidate);
-            EXPECT_EQ(pDX->m_pDlgWnd, &m_dialog);
-            DDX_Text(pDX, IDC_BYTE, byteValue);
-            DDX_Text(pDX, IDC_SHORT, shortValue);
-            DDX_Text(pDX, IDC_INT, intValue);
-            DDX_Text(pDX, IDC_UINT, uintValue);
-            DDX_Text(pDX, IDC_LONG, longValue);
-            DDX_Text(pDX, IDC_DWORD, dwordValue);
-            DDX_Text(pDX, IDC_FLOAT, floatValue);
-            DDX_Text(pDX, IDC_DOUBLE, doubleValue);
-        }));
+    EXPECT_TRUE(Load([&](CDataExchange * pDX) {
+        EXPECT_FALSE(pDX->m_bSaveAndValidate);
+        EXPECT_EQ(pDX->m_pDlgWnd, &m_dialog);
+        DDX_Text(pDX, IDC_BYTE, byteValue);
+        DDX_Text(pDX, IDC_SHORT, shortValue);
+        DDX_Text(pDX, IDC_INT, intValue);
+        DDX_Text(pDX, IDC_UINT, uintValue);
+        DDX_Text(pDX, IDC_LONG, longValue);
+        DDX_Text(pDX, IDC_DWORD, dwordValue);
+        DDX_Text(pDX, IDC_FLOAT, floatValue);
+        DDX_Text(pDX, IDC_DOUBLE, doubleValue);
+    }));
     EXPECT_EQ(Text(IDC_BYTE), L"255");
     EXPECT_EQ(Text(IDC_SHORT), L"-32768");
     EXPECT_EQ(Text(IDC_INT), L"-7");
@@ -121,12 +119,10 @@ TEST_F(DataExchange, RealNumbersAreShownWithTheDigitsOfTheirType)
 {
     float floatValue = 1.0f / 3;
     double doubleValue = 1.0 / 3;
-    Load(
-        [&](CDataExchange * pDX)
-        {
-            DDX_Text(pDX, IDC_FLOAT, floatValue);
-            DDX_Text(pDX, IDC_DOUBLE, doubleValue);
-        });
+    Load([&](CDataExchange * pDX) {
+        DDX_Text(pDX, IDC_FLOAT, floatValue);
+        DDX_Text(pDX, IDC_DOUBLE, doubleValue);
+    });
     EXPECT_EQ(Text(IDC_FLOAT), L"0.333333");
     EXPECT_EQ(Text(IDC_DOUBLE), L"0.333333333333333");
 }
@@ -215,12 +211,10 @@ TEST_F(DataExchange, FailureShowsAWarningAndSelectsTheTextOfTheControl)
     m_dialog.GetDlgItem(IDC_TEXT)->SetFocus();
     int value = 0;
     CString never = _T("untouched");
-    EXPECT_FALSE(Save(
-        [&](CDataExchange * pDX)
-        {
-            DDX_Text(pDX, IDC_INT, value);
-            DDX_Text(pDX, IDC_TEXT, never);
-        }));
+    EXPECT_FALSE(Save([&](CDataExchange * pDX) {
+        DDX_Text(pDX, IDC_INT, value);
+        DDX_Text(pDX, IDC_TEXT, never);
+    }));
     auto const messages = tests::App().Take();
     ASSERT_EQ(messages.size(), 1u);
     EXPECT_EQ(messages[0].type, static_cast<UINT>(MB_ICONEXCLAMATION));
@@ -252,20 +246,18 @@ TEST_F(DataExchange, OkKeepsTheDialogOpenUntilTheDataAreGood)
 TEST_F(DataExchange, FailThrowsAUserException)
 {
     bool thrown = false;
-    bool saved = Save(
-        [&](CDataExchange * pDX)
+    bool saved = Save([&](CDataExchange * pDX) {
+        pDX->PrepareCtrl(IDC_CHECK);
+        try
         {
-            pDX->PrepareCtrl(IDC_CHECK);
-            try
-            {
-                pDX->Fail();
-            }
-            catch (CUserException * exception)
-            {
-                thrown = true;
-                exception->Delete();
-            }
-        });
+            pDX->Fail();
+        }
+        catch (CUserException * exception)
+        {
+            thrown = true;
+            exception->Delete();
+        }
+    });
     EXPECT_TRUE(thrown);
     EXPECT_TRUE(saved);
 }
@@ -273,30 +265,26 @@ TEST_F(DataExchange, FailThrowsAUserException)
 TEST_F(DataExchange, MissingControlThrowsNotSupported)
 {
     bool thrown = false;
-    Save(
-        [&](CDataExchange * pDX)
+    Save([&](CDataExchange * pDX) {
+        try
         {
-            try
-            {
-                pDX->PrepareEditCtrl(31000);
-            }
-            catch (CNotSupportedException * exception)
-            {
-                thrown = true;
-                exception->Delete();
-            }
-        });
+            pDX->PrepareEditCtrl(31000);
+        }
+        catch (CNotSupportedException * exception)
+        {
+            thrown = true;
+            exception->Delete();
+        }
+    });
     EXPECT_TRUE(thrown);
 }
 
 TEST_F(DataExchange, PrepareGivesTheControl)
 {
-    Save(
-        [&](CDataExchange * pDX)
-        {
-            EXPECT_EQ(pDX->PrepareCtrl(IDC_CHECK), Item(IDC_CHECK));
-            EXPECT_EQ(pDX->PrepareEditCtrl(IDC_TEXT), Item(IDC_TEXT));
-        });
+    Save([&](CDataExchange * pDX) {
+        EXPECT_EQ(pDX->PrepareCtrl(IDC_CHECK), Item(IDC_CHECK));
+        EXPECT_EQ(pDX->PrepareEditCtrl(IDC_TEXT), Item(IDC_TEXT));
+    });
 }
 
 TEST_F(DataExchange, TextBothWays)
@@ -449,8 +437,7 @@ TEST_F(DataExchange, ScrollBarAndSlider)
     ::SetScrollRange(Item(IDC_SCROLL), SB_CTL, 0, 100, FALSE);
     int scroll = 40;
     int slider = 60;
-    auto const exchange = [&](CDataExchange * pDX)
-    {
+    auto const exchange = [&](CDataExchange * pDX) {
         DDX_Scroll(pDX, IDC_SCROLL, scroll);
         DDX_Slider(pDX, IDC_SLIDER, slider);
     };
@@ -467,8 +454,7 @@ TEST_F(DataExchange, ScrollBarAndSlider)
 TEST_F(DataExchange, SliderRangeComesFromItsValidation)
 {
     int slider = 250;
-    auto const exchange = [&](CDataExchange * pDX)
-    {
+    auto const exchange = [&](CDataExchange * pDX) {
         DDX_Slider(pDX, IDC_SLIDER, slider);
         DDV_MinMaxSlider(pDX, slider, 200, 300);
     };
@@ -544,60 +530,51 @@ TEST_F(DataExchange, ValuesOutsideTheirRangeAreRefused)
          L"Please enter a number between 0.5 and 1.25."},
         {[](CDataExchange * pDX) { DDV_MinMaxDouble(pDX, -1e-9, 0.0, 0.1); },
          L"Please enter a number between 0 and 0.1."},
-        {[](CDataExchange * pDX) { DDV_MaxChars(pDX, _T("12345"), 4); },
-         L"Please enter no more than 4 characters."},
+        {[](CDataExchange * pDX) { DDV_MaxChars(pDX, _T("12345"), 4); }, L"Please enter no more than 4 characters."},
     };
     for (RangeCase const & rangeCase : cases)
     {
-        EXPECT_FALSE(Save(
-            [&](CDataExchange * pDX)
-            {
-                pDX->PrepareEditCtrl(IDC_TEXT);
-                rangeCase.validate(pDX);
-            }));
+        EXPECT_FALSE(Save([&](CDataExchange * pDX) {
+            pDX->PrepareEditCtrl(IDC_TEXT);
+            rangeCase.validate(pDX);
+        }));
         EXPECT_EQ(tests::App().TakeMessages(), Texts{rangeCase.text});
     }
 }
 
 TEST_F(DataExchange, LimitsBelongToTheRange)
 {
-    EXPECT_TRUE(Save(
-        [](CDataExchange * pDX)
-        {
-            DDV_MinMaxByte(pDX, 1, 1, 10);
-            DDV_MinMaxByte(pDX, 10, 1, 10);
-            DDV_MinMaxShort(pDX, -5, -5, 5);
-            DDV_MinMaxInt(pDX, 5, -5, 5);
-            DDV_MinMaxLong(pDX, -5, -5, 5);
-            DDV_MinMaxUInt(pDX, 4294967295u, 1, 4294967295u);
-            DDV_MinMaxDWord(pDX, 3, 1, 3);
-            DDV_MinMaxFloat(pDX, 1.25f, 0.5f, 1.25f);
-            DDV_MinMaxDouble(pDX, 0.1, 0.0, 0.1);
-            DDV_MaxChars(pDX, _T("1234"), 4);
-        }));
+    EXPECT_TRUE(Save([](CDataExchange * pDX) {
+        DDV_MinMaxByte(pDX, 1, 1, 10);
+        DDV_MinMaxByte(pDX, 10, 1, 10);
+        DDV_MinMaxShort(pDX, -5, -5, 5);
+        DDV_MinMaxInt(pDX, 5, -5, 5);
+        DDV_MinMaxLong(pDX, -5, -5, 5);
+        DDV_MinMaxUInt(pDX, 4294967295u, 1, 4294967295u);
+        DDV_MinMaxDWord(pDX, 3, 1, 3);
+        DDV_MinMaxFloat(pDX, 1.25f, 0.5f, 1.25f);
+        DDV_MinMaxDouble(pDX, 0.1, 0.0, 0.1);
+        DDV_MaxChars(pDX, _T("1234"), 4);
+    }));
 }
 
 TEST_F(DataExchange, ValuesOutsideTheirRangeAreShownAllTheSame)
 {
     int value = 99;
-    EXPECT_TRUE(Load(
-        [&](CDataExchange * pDX)
-        {
-            DDX_Text(pDX, IDC_INT, value);
-            DDV_MinMaxInt(pDX, value, 0, 10);
-        }));
+    EXPECT_TRUE(Load([&](CDataExchange * pDX) {
+        DDX_Text(pDX, IDC_INT, value);
+        DDV_MinMaxInt(pDX, value, 0, 10);
+    }));
     EXPECT_EQ(Text(IDC_INT), L"99");
 }
 
 TEST_F(DataExchange, MaxCharsLimitsTheEditField)
 {
     CString text;
-    Load(
-        [&](CDataExchange * pDX)
-        {
-            DDX_Text(pDX, IDC_TEXT, text);
-            DDV_MaxChars(pDX, text, 3);
-        });
+    Load([&](CDataExchange * pDX) {
+        DDX_Text(pDX, IDC_TEXT, text);
+        DDV_MaxChars(pDX, text, 3);
+    });
     for (wchar_t const character : std::wstring(L"abcdef"))
         ::SendMessage(Item(IDC_TEXT), WM_CHAR, character, 0);
     EXPECT_EQ(Text(IDC_TEXT), L"abc");

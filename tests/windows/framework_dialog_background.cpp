@@ -54,10 +54,9 @@ protected:
     }
     HBRUSH AskColour(UINT message, int id, tests::Canvas & canvas)
     {
-        return reinterpret_cast<HBRUSH>(m_dialog.SendMessage(message,
-                                                             reinterpret_cast<WPARAM>(canvas.Dc().GetSafeHdc()),
-                                                             reinterpret_cast<LPARAM>(
-                                                                 ::GetDlgItem(m_dialog.m_hWnd, id))));
+        return reinterpret_cast<HBRUSH>(
+            m_dialog.SendMessage(message, reinterpret_cast<WPARAM>(canvas.Dc().GetSafeHdc()),
+                                 reinterpret_cast<LPARAM>(::GetDlgItem(m_dialog.m_hWnd, id))));
     }
 
     tests::ScopedWindow m_parent;
@@ -185,19 +184,17 @@ TEST_F(DialogBackground, RepaintsAtOnceOnlyWhenAsked)
 
 TEST_F(DialogBackground, LeavesNoGdiObjectsBehind)
 {
-    EXPECT_EQ(tests::GdiGrowth(
-                  [&]
-                  {
-                      CDialogEx dialog;
-                      dialog.SetBackgroundColor(Back);
-                      dialog.SetBackgroundColor(Red);
-                      dialog.SetBackgroundImage(MakeBitmap(4, 4, Red));
-                      ASSERT_TRUE(dialog.Create(IDD_SIMPLE, m_parent));
-                      tests::Canvas canvas(20, 20);
-                      dialog.SendMessage(WM_ERASEBKGND, reinterpret_cast<WPARAM>(canvas.Dc().GetSafeHdc()));
-                      dialog.DestroyWindow();
-                      tests::PumpPosted();
-                  }),
+    EXPECT_EQ(tests::GdiGrowth([&] {
+                  CDialogEx dialog;
+                  dialog.SetBackgroundColor(Back);
+                  dialog.SetBackgroundColor(Red);
+                  dialog.SetBackgroundImage(MakeBitmap(4, 4, Red));
+                  ASSERT_TRUE(dialog.Create(IDD_SIMPLE, m_parent));
+                  tests::Canvas canvas(20, 20);
+                  dialog.SendMessage(WM_ERASEBKGND, reinterpret_cast<WPARAM>(canvas.Dc().GetSafeHdc()));
+                  dialog.DestroyWindow();
+                  tests::PumpPosted();
+              }),
               0);
 }
 } // namespace

@@ -90,8 +90,7 @@ HWND VisibleDialog()
     HWND found = nullptr;
     ::EnumThreadWindows(
         ::GetCurrentThreadId(),
-        [](HWND window, LPARAM result) -> BOOL
-        {
+        [](HWND window, LPARAM result) -> BOOL {
             wchar_t name[16] = {};
             ::GetClassName(window, name, 16);
             if (std::wstring(name) != L"#32770" || !::IsWindowVisible(window))
@@ -110,8 +109,7 @@ TEST(ColourDialog, GivesTheColourItStartedWith)
     tests::LaterActions later;
     BOOL enabledMeanwhile = TRUE;
     later.Add(
-        [&]
-        {
+        [&] {
             enabledMeanwhile = parent.IsWindowEnabled();
             PostCommand(dialog.m_hWnd, IDOK);
         },
@@ -257,8 +255,7 @@ TEST(FolderPicker, GivesTheFolderThatIsTyped)
     CFolderPickerDialog dialog(file.Folder(), 0, parent);
     tests::LaterActions later;
     later.Add(
-        [&]
-        {
+        [&] {
             HWND const edit = ::FindWindowEx(VisibleDialog(), nullptr, L"Edit", nullptr);
             ::SetWindowText(edit, file.Folder());
             PostCommand(VisibleDialog(), IDOK);

@@ -252,8 +252,8 @@ PackedPattern PatternOf(COLORREF upper, COLORREF lower)
     for (int index = 0; index < 64; ++index)
     {
         COLORREF const colour = index < 32 ? lower : upper; // the first row is the bottom one
-        pattern.pixels[index] = static_cast<DWORD>(GetRValue(colour) << 16 | GetGValue(colour) << 8 |
-                                                   GetBValue(colour));
+        pattern.pixels[index] =
+            static_cast<DWORD>(GetRValue(colour) << 16 | GetGValue(colour) << 8 | GetBValue(colour));
     }
     return pattern;
 }

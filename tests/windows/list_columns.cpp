@@ -51,7 +51,8 @@ void SetWidths(TestList & list, std::vector<int> const & widths)
 struct NarrowList
 {
     explicit NarrowList(std::vector<int> const & widths, int windowWidth = 100)
-        : host(TestList::default_style, CRect(0, 0, windowWidth, 120)), list(host.list)
+        : host(TestList::default_style, CRect(0, 0, windowWidth, 120)),
+          list(host.list)
     {
         list.AddColumns(static_cast<int>(widths.size()), 20);
         SetWidths(list, widths);

@@ -71,25 +71,11 @@ TEST(ListLifecycle, MessageMapIsComplete)
             entries.push_back({entry->nMessage, static_cast<WORD>(entry->nCode), entry->nID, entry->nLastID});
     }
     std::vector<MapEntry> const expected = {
-        Reflected(NM_CLICK),
-        Reflected(LVN_COLUMNCLICK),
-        Plain(WM_CREATE),
-        Reflected(NM_CUSTOMDRAW),
-        Plain(WM_DESTROY),
-        Plain(WM_LBUTTONDOWN),
-        Plain(WM_LBUTTONUP),
-        Plain(WM_LBUTTONDBLCLK),
-        Plain(WM_PAINT),
-        Plain(WM_SYSCOLORCHANGE),
-        Plain(WM_ERASEBKGND),
-        Plain(WM_KEYDOWN),
-        Plain(WM_RBUTTONDOWN),
-        Plain(WM_NCLBUTTONDOWN),
-        Plain(WM_MOUSEMOVE),
-        Plain(WM_CONTEXTMENU),
-        Plain(WM_TIMER),
-        ToolTipText(TTN_NEEDTEXTW),
-        ToolTipText(TTN_NEEDTEXTA),
+        Reflected(NM_CLICK),   Reflected(LVN_COLUMNCLICK), Plain(WM_CREATE),           Reflected(NM_CUSTOMDRAW),
+        Plain(WM_DESTROY),     Plain(WM_LBUTTONDOWN),      Plain(WM_LBUTTONUP),        Plain(WM_LBUTTONDBLCLK),
+        Plain(WM_PAINT),       Plain(WM_SYSCOLORCHANGE),   Plain(WM_ERASEBKGND),       Plain(WM_KEYDOWN),
+        Plain(WM_RBUTTONDOWN), Plain(WM_NCLBUTTONDOWN),    Plain(WM_MOUSEMOVE),        Plain(WM_CONTEXTMENU),
+        Plain(WM_TIMER),       ToolTipText(TTN_NEEDTEXTW), ToolTipText(TTN_NEEDTEXTA),
     };
     ASSERT_EQ(entries.size(), expected.size());
     for (std::size_t i = 0; i < expected.size(); ++i)
@@ -194,8 +180,8 @@ TEST(ListLifecycle, ListFromATemplateKeepsItsOtherExtendedStyles)
 {
     // The list's window is made before the object is bound to it.
     tests::ScopedWindow parent;
-    HWND const window = ::CreateWindowExW(0, WC_LISTVIEWW, L"", TestList::default_style, 0, 0, 100, 100,
-                                          parent.m_hWnd, reinterpret_cast<HMENU>(9), nullptr, nullptr);
+    HWND const window = ::CreateWindowExW(0, WC_LISTVIEWW, L"", TestList::default_style, 0, 0, 100, 100, parent.m_hWnd,
+                                          reinterpret_cast<HMENU>(9), nullptr, nullptr);
     ASSERT_NE(window, nullptr);
     ::SendMessageW(window, LVM_SETEXTENDEDLISTVIEWSTYLE, 0, LVS_EX_GRIDLINES);
     TestList list;

@@ -23,9 +23,9 @@ constexpr UINT view_id = 7;
 constexpr COLORREF outside = RGB(1, 2, 3);
 
 /// Colours of which each can be told from the others, and from everything else on the view.
-std::array<unsigned long, CSpectrogramView::c_colours> TestColours()
+std::array<unsigned long, CSpectrogramView::colour_count> TestColours()
 {
-    std::array<unsigned long, CSpectrogramView::c_colours> colours{};
+    std::array<unsigned long, CSpectrogramView::colour_count> colours{};
     for (unsigned long i = 0; i < colours.size(); ++i)
         colours[i] = RGB(255, i * 7, 77);
     colours.back() = outside;
@@ -35,7 +35,7 @@ std::array<unsigned long, CSpectrogramView::c_colours> TestColours()
 int EntryOf(COLORREF colour)
 {
     auto const colours = TestColours();
-    for (std::size_t i = 0; i < workbench::c_scaleEntries; ++i)
+    for (std::size_t i = 0; i < workbench::scale_entries; ++i)
         if (colours[i] == colour)
             return static_cast<int>(i);
     return -1;
@@ -164,7 +164,7 @@ TEST_F(SpectrogramView, OtherColoursShowAtOnce)
     ShowAndWait(48000);
     view.UpdateWindow();
     ASSERT_FALSE(view.GetUpdateRect(nullptr));
-    std::array<unsigned long, CSpectrogramView::c_colours> colours{};
+    std::array<unsigned long, CSpectrogramView::colour_count> colours{};
     colours.fill(RGB(0, 200, 100));
     view.SetColours(colours.data());
     view.SetColours(nullptr);

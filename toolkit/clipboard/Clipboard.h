@@ -16,14 +16,14 @@ namespace Clipboard
 /// Puts the text there as Unicode text. An empty text just empties the clipboard.
 INSTRUMENT_UI_API bool StringToClipboard(CString const & text);
 
-/// Puts HTML there as "HTML Format", and the plain text as Unicode text unless it is null. If html is null or empty, the
-/// clipboard is just emptied and the plain text ignored. Text with "<body>" must have "<html>" and "</html>", too. The
-/// block has two bytes for each character of html; what is longer in UTF-8 is cut, which is meant. True also if only the
-/// setting of the data has failed: for the HTML that is told, for the plain text it is not.
+/// Puts HTML there as "HTML Format", and the plain text as Unicode text unless it is null. If html is null or empty,
+/// the clipboard is just emptied and the plain text ignored. Text with "<body>" must have "<html>" and "</html>", too.
+/// The block has two bytes for each character of html; what is longer in UTF-8 is cut, which is meant. True also if
+/// only the setting of the data has failed: for the HTML that is told, for the plain text it is not.
 INSTRUMENT_UI_API bool HtmlToClipboard(wchar_t const * html, wchar_t const * plainText);
 
-/// Puts an enhanced metafile there. The clipboard becomes its owner; if setting it fails, it is deleted. If the clipboard
-/// can't be opened or emptied, it stays the caller's.
+/// Puts an enhanced metafile there. The clipboard becomes its owner; if setting it fails, it is deleted. If the
+/// clipboard can't be opened or emptied, it stays the caller's.
 INSTRUMENT_UI_API bool WmfToClipboard(HENHMETAFILE__ * const metafile);
 
 /// Puts a handle of global memory there under a registered format of that name. The clipboard becomes its owner; if

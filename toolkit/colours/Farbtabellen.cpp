@@ -62,7 +62,7 @@ constexpr Companions companions[SCOPE_COLOURS] = {
     {28, FarbenStandardRGB},   {29, FarbenStandardRGB},   {30, FarbenStandardRGB},   {0, FarbenGreyLdRGB},
 };
 
-constexpr int secondOrder[SCOPE_COLOURS] = {
+constexpr int second_order[SCOPE_COLOURS] = {
     0,  2,  3,  22, 9,  25, 26, 1,  18, 27, 24, 13, 29, 6,  7, 19,
     14, 11, 23, 12, 21, 4,  30, 20, 5,  17, 10, 28, 16, 15, 8, 31,
 };
@@ -113,12 +113,12 @@ distance_t Weighted(distance_t weight, int difference)
 /// How different two colours look.
 distance_t Distance(COLORREF a, COLORREF b)
 {
-    constexpr distance_t redWeight = Units(0.3f);
-    constexpr distance_t greenWeight = Units(0.59f);
-    constexpr distance_t blueWeight = Units(0.11f);
-    distance_t const redAndGreen =
-        Rounded(Weighted(redWeight, GetRValue(a) - GetRValue(b)) + Weighted(greenWeight, GetGValue(a) - GetGValue(b)));
-    return Rounded(redAndGreen + Weighted(blueWeight, GetBValue(a) - GetBValue(b)));
+    constexpr distance_t red_weight = Units(0.3f);
+    constexpr distance_t green_weight = Units(0.59f);
+    constexpr distance_t blue_weight = Units(0.11f);
+    distance_t const redAndGreen = Rounded(Weighted(red_weight, GetRValue(a) - GetRValue(b)) +
+                                           Weighted(green_weight, GetGValue(a) - GetGValue(b)));
+    return Rounded(redAndGreen + Weighted(blue_weight, GetBValue(a) - GetBValue(b)));
 }
 } // namespace
 
@@ -150,7 +150,7 @@ unsigned int ScopeFarbIndex(COLORREF colour)
 
 int SelvaneFarbIndex(int position)
 {
-    return IsScopeIndex(position) ? secondOrder[position] : position;
+    return IsScopeIndex(position) ? second_order[position] : position;
 }
 
 COLORREF SelvaneFarbe(int position)

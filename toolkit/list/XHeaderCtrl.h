@@ -6,9 +6,9 @@
 
 class CXListCtrl;
 
-/// The header of a CXListCtrl, bound to the list's native header. It paints itself, so that a title can carry a check box,
-/// a mixed mark, a cross or a sort arrow, coded in the header item's image number (the XHC_ states of XListCtrlData.h).
-/// Lengths are in pixels. No setter repaints. The list is not owned.
+/// The header of a CXListCtrl, bound to the list's native header. It paints itself, so that a title can carry a check
+/// box, a mixed mark, a cross or a sort arrow, coded in the header item's image number (the XHC_ states of
+/// XListCtrlData.h). Lengths are in pixels. No setter repaints. The list is not owned.
 class INSTRUMENT_UI_API CXHeaderCtrl : public CHeaderCtrl
 {
     DECLARE_DYNCREATE(CXHeaderCtrl)

@@ -118,8 +118,7 @@ bool Replay(SettingsTree & tree, SettingsTree::key_t root, registry_entry_list &
                 return false;
             list.pop_front();
             break;
-        case entry_key_begin:
-        {
+        case entry_key_begin: {
             SettingsTree::key_t const key = tree.CreateSubkey(current, entry.name);
             if (key == 0)
                 return false;

@@ -8,7 +8,7 @@ namespace workbench
 
 int CheckedAmplification(int decibels)
 {
-    auto const isStep = decibels >= 0 && decibels <= c_mostAmplification && decibels % c_amplificationStep == 0;
+    auto const isStep = decibels >= 0 && decibels <= most_amplification && decibels % amplification_step == 0;
     return isStep ? decibels : 0;
 }
 
@@ -18,9 +18,9 @@ int FittingAmplification(double peakLevel)
     {
         return 0;
     }
-    auto const steps = std::floor(-peakLevel / c_amplificationStep);
-    auto const most = static_cast<double>(c_mostAmplification / c_amplificationStep);
-    return static_cast<int>(std::clamp(steps, 0.0, most)) * c_amplificationStep;
+    auto const steps = std::floor(-peakLevel / amplification_step);
+    auto const most = static_cast<double>(most_amplification / amplification_step);
+    return static_cast<int>(std::clamp(steps, 0.0, most)) * amplification_step;
 }
 
 double AmplificationFactor(int decibels)

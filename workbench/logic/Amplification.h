@@ -5,8 +5,8 @@ namespace workbench
 {
 
 /// In decibels, in steps that double the height.
-constexpr int c_amplificationStep = 6;
-constexpr int c_mostAmplification = 48;
+constexpr int amplification_step = 6;
+constexpr int most_amplification = 48;
 
 /// The value if it is one of the steps, else none: 0.
 int CheckedAmplification(int decibels);

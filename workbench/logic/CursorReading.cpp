@@ -15,8 +15,8 @@ namespace workbench
 namespace
 {
 
-constexpr std::size_t c_levelWidth = 5;
-constexpr std::uint64_t c_millisecondsPerSecond = 1000;
+constexpr std::size_t level_width = 5;
+constexpr std::uint64_t milliseconds_per_second = 1000;
 
 } // namespace
 
@@ -26,7 +26,7 @@ double LevelAround(Waveform const & waveform, std::uint32_t sampleRate, std::uin
     {
         return -std::numeric_limits<double>::infinity();
     }
-    auto const half = static_cast<std::uint64_t>(sampleRate) * c_levelStretch / c_millisecondsPerSecond / 2;
+    auto const half = static_cast<std::uint64_t>(sampleRate) * level_stretch / milliseconds_per_second / 2;
     auto const first = frame - std::min(frame, half);
     auto const end = std::min(frame + half + 1, waveform.Frames());
     auto amplitude = 0.0;
@@ -49,16 +49,16 @@ std::wstring PositionReading(std::uint64_t frame, std::uint32_t sampleRate)
     wchar_t text[40];
     std::swprintf(text, std::size(text), L"%02llu:%02u.%03u", static_cast<unsigned long long>(seconds / 60),
                   static_cast<unsigned>(seconds % 60),
-                  static_cast<unsigned>(frame % sampleRate * c_millisecondsPerSecond / sampleRate));
+                  static_cast<unsigned>(frame % sampleRate * milliseconds_per_second / sampleRate));
     return text;
 }
 
 std::wstring LevelReading(double decibels)
 {
     auto text = std::isfinite(decibels) ? FormatLevel(decibels) : std::wstring(L"--.-");
-    if (text.size() < c_levelWidth)
+    if (text.size() < level_width)
     {
-        text.insert(0, c_levelWidth - text.size(), L' ');
+        text.insert(0, level_width - text.size(), L' ');
     }
     return text;
 }

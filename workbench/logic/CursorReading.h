@@ -10,7 +10,7 @@ namespace workbench
 {
 
 /// The length of the stretch around a point whose level is told, in milliseconds.
-constexpr std::uint32_t c_levelStretch = 10;
+constexpr std::uint32_t level_stretch = 10;
 
 /// The greatest amplitude of all lanes in the stretch around a frame, in dBFS; minus infinity for silence, for a frame
 /// that does not exist and for a rate of 0. The stretch ends where the recording ends, and has at least one frame.

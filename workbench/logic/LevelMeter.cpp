@@ -14,7 +14,7 @@ double AmplitudeToDecibels(double amplitude)
 
 int LevelBarPercent(double decibels)
 {
-    auto const part = 1.0 - std::clamp(decibels, c_levelBarLeast, 0.0) / c_levelBarLeast;
+    auto const part = 1.0 - std::clamp(decibels, level_bar_least, 0.0) / level_bar_least;
     return static_cast<int>(std::lround(part * 100.0));
 }
 

@@ -24,7 +24,7 @@ struct Levels
 double AmplitudeToDecibels(double amplitude);
 
 /// The level at the lower end of a level bar; its upper end is 0 dBFS.
-constexpr double c_levelBarLeast = -60.0;
+constexpr double level_bar_least = -60.0;
 
 /// The part of a level bar that a level fills, in whole percent from 0 to 100.
 int LevelBarPercent(double decibels);

@@ -9,11 +9,11 @@ namespace
 {
 
 // The parts of the growth that go to waveform and spectrogram, in 1/10; the list gets the rest.
-constexpr int c_waveformPart = 3;
-constexpr int c_spectrogramPart = 4;
-constexpr int c_whole = 10;
+constexpr int waveform_part = 3;
+constexpr int spectrogram_part = 4;
+constexpr int whole = 10;
 
-constexpr int c_panes = 3; // below the list
+constexpr int panes = 3; // below the list
 
 } // namespace
 
@@ -21,7 +21,7 @@ CSize LeastMainArea(MainLayoutNeeds const & needs, int listWidth)
 {
     return CSize(2 * needs.marginX + listWidth, 2 * needs.marginY + needs.listHeight + needs.waveformHeight +
                                                     needs.spectrogramHeight + needs.panelHeight +
-                                                    c_panes * (needs.captionHeight + needs.dividerGap) + needs.spacing +
+                                                    panes * (needs.captionHeight + needs.dividerGap) + needs.spacing +
                                                     needs.statusHeight);
 }
 
@@ -51,8 +51,8 @@ PaneHeights DefaultPanes(MainLayoutNeeds const & needs)
 {
     auto const growth = std::max<int>(needs.client.cy - LeastMainArea(needs, 0).cy, 0);
     PaneHeights heights;
-    heights.waveform = needs.waveformHeight + needs.captionHeight + growth * c_waveformPart / c_whole;
-    heights.spectrogram = needs.spectrogramHeight + needs.captionHeight + growth * c_spectrogramPart / c_whole;
+    heights.waveform = needs.waveformHeight + needs.captionHeight + growth * waveform_part / whole;
+    heights.spectrogram = needs.spectrogramHeight + needs.captionHeight + growth * spectrogram_part / whole;
     heights.measures = needs.panelHeight + needs.captionHeight;
     return heights;
 }

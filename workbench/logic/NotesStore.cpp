@@ -13,14 +13,14 @@ namespace workbench
 namespace
 {
 
-constexpr std::chrono::milliseconds c_retryDelay(2000);
-constexpr int c_mostKept = 20; // damaged files
+constexpr std::chrono::milliseconds retry_delay(2000);
+constexpr int most_kept = 20; // damaged files
 
 /// Where a damaged file is kept: a name that is free, or else the last one.
 std::filesystem::path DamagedName(std::filesystem::path const & file)
 {
     std::filesystem::path name;
-    for (int i = 1; i <= c_mostKept; ++i)
+    for (int i = 1; i <= most_kept; ++i)
     {
         name = file.parent_path() / file.stem();
         name += " damaged " + std::to_string(i);
@@ -150,7 +150,7 @@ void NotesStore::Run()
         {
             return;
         }
-        m_wake.wait_for(lock, m_failed ? c_retryDelay : m_delay, urged);
+        m_wake.wait_for(lock, m_failed ? retry_delay : m_delay, urged);
         m_hurry = false;
         m_writing = true;
         auto changes = std::exchange(m_changes, {});

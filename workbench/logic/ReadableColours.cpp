@@ -10,19 +10,19 @@ namespace workbench
 namespace
 {
 
-constexpr COLORREF c_black = RGB(0, 0, 0);
-constexpr COLORREF c_white = RGB(255, 255, 255);
-constexpr COLORREF c_problemColour = RGB(168, 40, 32);
+constexpr COLORREF black_colour = RGB(0, 0, 0);
+constexpr COLORREF white_colour = RGB(255, 255, 255);
+constexpr COLORREF problem_colour = RGB(168, 40, 32);
 
 // The part of the ground in labels and frames.
-constexpr double c_groundInLabels = 0.35;
-constexpr double c_groundInFrames = 0.75;
+constexpr double ground_in_labels = 0.35;
+constexpr double ground_in_frames = 0.75;
 
-constexpr int c_steps = 255; // on the way to black or white
+constexpr int steps = 255; // on the way to black or white
 
 // Of the background of chosen rows.
-constexpr double c_leastRowLuminance = 0.52;
-constexpr double c_leastRowContrast = 1.7;
+constexpr double least_row_luminance = 0.52;
+constexpr double least_row_contrast = 1.7;
 
 double Linear(int component)
 {
@@ -33,9 +33,9 @@ double Linear(int component)
 /// The first colour on the way to another one that fits.
 template <class Fits> std::optional<COLORREF> FirstOnTheWay(COLORREF from, COLORREF to, Fits const & fits)
 {
-    for (int step = 0; step <= c_steps; ++step)
+    for (int step = 0; step <= steps; ++step)
     {
-        if (auto const mixed = MixedColour(from, to, static_cast<double>(step) / c_steps); fits(mixed))
+        if (auto const mixed = MixedColour(from, to, static_cast<double>(step) / steps); fits(mixed))
         {
             return mixed;
         }
@@ -66,7 +66,7 @@ COLORREF MixedColour(COLORREF from, COLORREF to, double part)
 
 COLORREF FarthestColour(COLORREF ground)
 {
-    return ContrastRatio(ground, c_black) > ContrastRatio(ground, c_white) ? c_black : c_white;
+    return ContrastRatio(ground, black_colour) > ContrastRatio(ground, white_colour) ? black_colour : white_colour;
 }
 
 COLORREF ReadableColour(COLORREF colour, COLORREF ground, double contrast)
@@ -78,22 +78,22 @@ COLORREF ReadableColour(COLORREF colour, COLORREF ground, double contrast)
 
 PlotColours PlotColoursOn(COLORREF ground, COLORREF text)
 {
-    return {ground, text, ReadableColour(MixedColour(text, ground, c_groundInLabels), ground),
-            ReadableColour(c_problemColour, ground), MixedColour(text, ground, c_groundInFrames)};
+    return {ground, text, ReadableColour(MixedColour(text, ground, ground_in_labels), ground),
+            ReadableColour(problem_colour, ground), MixedColour(text, ground, ground_in_frames)};
 }
 
 RowColours ChosenRowColours(COLORREF systemColour, COLORREF ground)
 {
     auto const fits = [ground](COLORREF mixed) {
-        return Luminance(mixed) >= c_leastRowLuminance && ContrastRatio(mixed, ground) >= c_leastRowContrast;
+        return Luminance(mixed) >= least_row_luminance && ContrastRatio(mixed, ground) >= least_row_contrast;
     };
-    auto background = Luminance(systemColour) < c_leastRowLuminance ? std::optional<COLORREF>()
-                                                                    : FirstOnTheWay(systemColour, c_black, fits);
+    auto background = Luminance(systemColour) < least_row_luminance ? std::optional<COLORREF>()
+                                                                    : FirstOnTheWay(systemColour, black_colour, fits);
     if (!background)
     {
-        background = FirstOnTheWay(systemColour, c_white, fits);
+        background = FirstOnTheWay(systemColour, white_colour, fits);
     }
-    return {c_black, background.value_or(c_white)};
+    return {black_colour, background.value_or(white_colour)};
 }
 
 COLORREF LinkColourOn(COLORREF ground)

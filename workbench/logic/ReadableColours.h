@@ -9,10 +9,10 @@ namespace workbench
 /// The relative luminance of a colour, from 0 for black to 1 for white.
 double Luminance(COLORREF colour);
 
-/// How far two colours are apart in luminance, from 1 to 21. A text is read well from `c_textContrast` on.
+/// How far two colours are apart in luminance, from 1 to 21. A text is read well from `text_contrast` on.
 double ContrastRatio(COLORREF a, COLORREF b);
 
-constexpr double c_textContrast = 4.5;
+constexpr double text_contrast = 4.5;
 
 /// A colour on the way from one to another one; part: of the latter, up to 1.
 COLORREF MixedColour(COLORREF from, COLORREF to, double part);
@@ -22,7 +22,7 @@ COLORREF FarthestColour(COLORREF ground);
 
 /// The colour if it can be read on the ground; else the nearest one on the way to black or white, whichever is farther
 /// from the ground. What is no text needs less contrast.
-COLORREF ReadableColour(COLORREF colour, COLORREF ground, double contrast = c_textContrast);
+COLORREF ReadableColour(COLORREF colour, COLORREF ground, double contrast = text_contrast);
 
 /// The colours of a plot around what it shows.
 struct PlotColours

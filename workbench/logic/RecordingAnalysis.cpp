@@ -12,7 +12,7 @@ namespace workbench
 namespace
 {
 
-constexpr std::size_t c_samplesPerStep = 32768;
+constexpr std::size_t samples_per_step = 32768;
 
 } // namespace
 
@@ -44,7 +44,7 @@ RecordingAnalyser::RecordingAnalyser(std::unique_ptr<ByteSource> source)
     m_reader.emplace(std::move(std::get<WavReader>(opened)));
     std::size_t const channels = m_reader->Info().channels;
     m_waveform.emplace(channels);
-    m_samples.resize(std::max<std::size_t>(c_samplesPerStep / channels, 1) * channels);
+    m_samples.resize(std::max<std::size_t>(samples_per_step / channels, 1) * channels);
 }
 
 RecordingAnalyser::RecordingAnalyser(std::filesystem::path const & path)

@@ -22,13 +22,13 @@ namespace workbench
 namespace
 {
 
-constexpr std::string_view c_header = "Instrument Workbench notes 1";
-constexpr char c_separator = '\t';
-constexpr int c_mostRating = 1000;
-constexpr std::size_t c_sumLength = 8;
+constexpr std::string_view header = "Instrument Workbench notes 1";
+constexpr char field_separator = '\t';
+constexpr int most_rating = 1000;
+constexpr std::size_t sum_length = 8;
 
 // A byte of a native path that is no UTF-8 stands as this and its value, which no valid text has.
-constexpr char32_t c_strayByte = 0xDC00;
+constexpr char32_t stray_byte = 0xDC00;
 
 /// Code points to UTF-8. Lone surrogates, which file names may have, are coded as any other.
 void PutCodePoint(std::string & text, char32_t code)
@@ -181,7 +181,7 @@ std::uint32_t CheckSum(std::string_view text)
 /// The text up to the next separator, which it is taken from with it.
 std::string_view TakeField(std::string_view & text)
 {
-    auto const end = std::min(text.find(c_separator), text.size());
+    auto const end = std::min(text.find(field_separator), text.size());
     auto const field = text.substr(0, end);
     text.remove_prefix(std::min(end + 1, text.size()));
     return field;
@@ -197,7 +197,7 @@ template <typename Number> std::optional<Number> ReadNumber(std::string_view tex
 std::optional<NotedRecording> ReadLine(std::string_view line)
 {
     auto const sum = TakeField(line);
-    if (sum.size() != c_sumLength || ReadNumber<std::uint32_t>(sum, 16) != CheckSum(line))
+    if (sum.size() != sum_length || ReadNumber<std::uint32_t>(sum, 16) != CheckSum(line))
     {
         return std::nullopt;
     }
@@ -206,7 +206,7 @@ std::optional<NotedRecording> ReadLine(std::string_view line)
     auto const rating = ReadNumber<int>(TakeField(line), 10);
     auto path = Unescaped(TakeField(line));
     auto comment = Unescaped(line);
-    if (!rating || *rating < 0 || *rating > c_mostRating || !path || path->empty() || !comment)
+    if (!rating || *rating < 0 || *rating > most_rating || !path || path->empty() || !comment)
     {
         return std::nullopt;
     }
@@ -216,20 +216,20 @@ std::optional<NotedRecording> ReadLine(std::string_view line)
 void PutLine(std::string & text, NotedRecording const & recording)
 {
     auto const begin = text.size();
-    text.append(c_sumLength, '0');
-    text += c_separator;
+    text.append(sum_length, '0');
+    text += field_separator;
     text += recording.notes.checked ? "m" : "";
     text += recording.notes.reference ? "r" : "";
-    text += c_separator;
+    text += field_separator;
     text += std::to_string(recording.notes.rating);
-    text += c_separator;
+    text += field_separator;
     PutUtf8(text, recording.path);
-    text += c_separator;
+    text += field_separator;
     PutUtf8(text, recording.notes.comment);
-    auto const sum = CheckSum(std::string_view(text).substr(begin + c_sumLength + 1));
-    for (std::size_t i = 0; i < c_sumLength; ++i)
+    auto const sum = CheckSum(std::string_view(text).substr(begin + sum_length + 1));
+    for (std::size_t i = 0; i < sum_length; ++i)
     {
-        text[begin + i] = "0123456789abcdef"[sum >> (4 * (c_sumLength - 1 - i)) & 0xF];
+        text[begin + i] = "0123456789abcdef"[sum >> (4 * (sum_length - 1 - i)) & 0xF];
     }
     text += '\n';
 }
@@ -271,7 +271,7 @@ std::wstring WideText(std::filesystem::path const & path)
         }
         else
         {
-            PutWide(wide, c_strayByte + static_cast<unsigned char>(text.front()));
+            PutWide(wide, stray_byte + static_cast<unsigned char>(text.front()));
             text.remove_prefix(1);
         }
     }
@@ -353,7 +353,7 @@ std::string NotesText(NotesByKey const & notes)
         ordered.push_back(&each);
     }
     std::ranges::sort(ordered, {}, [](auto const * each) -> std::wstring const & { return each->first; });
-    std::string text(c_header);
+    std::string text(header);
     text += '\n';
     for (auto const * const each : ordered)
     {
@@ -378,7 +378,7 @@ NotesReading ReadNotes(std::string_view text)
         {
             line.remove_suffix(1);
         }
-        if (first && line == c_header)
+        if (first && line == header)
         {
             continue;
         }

@@ -23,10 +23,10 @@ namespace workbench
 namespace
 {
 
-constexpr std::chrono::milliseconds c_retryInterval(10);
-constexpr int c_lockTries = 300;
-constexpr std::size_t c_mostContents = 256 << 20; // bytes of a file that is read
-constexpr int c_moveTries = 50;                   // a scanner or a backup may hold the file for a moment
+constexpr std::chrono::milliseconds retry_interval(10);
+constexpr int lock_tries = 300;
+constexpr std::size_t most_contents = 256 << 20; // bytes of a file that is read
+constexpr int move_tries = 50;                   // a scanner or a backup may hold the file for a moment
 
 /// Does something again until it succeeds.
 template <typename Operation> bool Retry(int tries, Operation operation)
@@ -37,7 +37,7 @@ template <typename Operation> bool Retry(int tries, Operation operation)
         {
             return false;
         }
-        std::this_thread::sleep_for(c_retryInterval);
+        std::this_thread::sleep_for(retry_interval);
     }
     return true;
 }
@@ -82,8 +82,8 @@ std::optional<std::string> ReadWholeFile(std::filesystem::path const & file)
     {
         stream.read(block.data(), static_cast<std::streamsize>(block.size()));
         contents.append(block, 0, static_cast<std::size_t>(stream.gcount()));
-    } while (stream && contents.size() <= c_mostContents);
-    return stream.bad() || contents.size() > c_mostContents ? std::nullopt : std::optional(std::move(contents));
+    } while (stream && contents.size() <= most_contents);
+    return stream.bad() || contents.size() > most_contents ? std::nullopt : std::optional(std::move(contents));
 }
 
 bool ReplaceWholeFile(std::filesystem::path const & file, std::string_view contents)
@@ -102,7 +102,7 @@ bool ReplaceWholeFile(std::filesystem::path const & file, std::string_view conte
         std::filesystem::remove(draft, error);
         return false;
     }
-    auto const moved = Retry(c_moveTries, [&] {
+    auto const moved = Retry(move_tries, [&] {
         std::filesystem::rename(draft, file, error);
         return !error || error == std::errc::is_a_directory;
     });
@@ -119,7 +119,7 @@ bool ReplaceWholeFile(std::filesystem::path const & file, std::string_view conte
 
 FileLock::FileLock(std::filesystem::path const & file) : m_handle(INVALID_HANDLE_VALUE)
 {
-    Retry(c_lockTries, [&] {
+    Retry(lock_tries, [&] {
         m_handle = ::CreateFileW(file.c_str(), GENERIC_WRITE, 0, nullptr, OPEN_ALWAYS,
                                  FILE_ATTRIBUTE_NORMAL | FILE_FLAG_DELETE_ON_CLOSE, nullptr);
         auto const error = m_handle == INVALID_HANDLE_VALUE ? ::GetLastError() : ERROR_SUCCESS;
@@ -145,7 +145,7 @@ bool FileLock::IsHeld() const
 FileLock::FileLock(std::filesystem::path const & file)
     : m_handle(::open(file.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600))
 {
-    if (m_handle >= 0 && !Retry(c_lockTries, [this] { return ::flock(m_handle, LOCK_EX | LOCK_NB) == 0; }))
+    if (m_handle >= 0 && !Retry(lock_tries, [this] { return ::flock(m_handle, LOCK_EX | LOCK_NB) == 0; }))
     {
         ::close(m_handle);
         m_handle = -1;

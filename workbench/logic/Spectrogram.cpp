@@ -12,10 +12,10 @@ namespace workbench
 namespace
 {
 
-constexpr std::uint32_t c_windowsPerSecond = 50;
-constexpr std::size_t c_leastWindow = 64;
-constexpr std::size_t c_greatestWindow = 8192;
-constexpr std::size_t c_samplesPerStep = 32768;
+constexpr std::uint32_t windows_per_second = 50;
+constexpr std::size_t least_window = 64;
+constexpr std::size_t greatest_window = 8192;
+constexpr std::size_t samples_per_step = 32768;
 
 /// a * b / c without overflow, for b up to c.
 std::uint64_t Scale(std::uint64_t a, std::uint64_t b, std::uint64_t c)
@@ -35,13 +35,13 @@ std::pair<std::size_t, std::size_t> PointsOf(std::size_t at, std::size_t places,
 
 int ScaleEntry(double decibels)
 {
-    auto const entry = std::floor((decibels - c_lowestScaleLevel) / c_decibelsPerEntry);
-    return static_cast<int>(std::clamp(entry, 0.0, static_cast<double>(c_scaleEntries - 1)));
+    auto const entry = std::floor((decibels - lowest_scale_level) / decibels_per_entry);
+    return static_cast<int>(std::clamp(entry, 0.0, static_cast<double>(scale_entries - 1)));
 }
 
 std::size_t SpectrogramWindow(std::uint32_t sampleRate)
 {
-    return std::clamp(std::bit_ceil(std::size_t{sampleRate} / c_windowsPerSecond), c_leastWindow, c_greatestWindow);
+    return std::clamp(std::bit_ceil(std::size_t{sampleRate} / windows_per_second), least_window, greatest_window);
 }
 
 double Spectrogram::Frequency(std::size_t row) const
@@ -101,7 +101,7 @@ std::vector<std::uint8_t> Spectrogram::Picture(std::size_t width, std::size_t he
 
 SpectrogramBuilder::SpectrogramBuilder(std::size_t channels, std::uint32_t sampleRate, std::uint64_t frames)
     : m_channels(std::max<std::size_t>(channels, 1)),
-      m_lanes(std::min(m_channels, c_maximumChannels)),
+      m_lanes(std::min(m_channels, maximum_channels)),
       m_fft(SpectrogramWindow(sampleRate))
 {
     if (sampleRate == 0 || frames == 0)
@@ -114,7 +114,7 @@ SpectrogramBuilder::SpectrogramBuilder(std::size_t channels, std::uint32_t sampl
     m_result.m_hop = size / 2;
     m_result.m_windows = (frames - 1) / m_result.m_hop + 1;
     m_result.m_columns =
-        static_cast<std::size_t>(std::min<std::uint64_t>(m_result.m_windows, Spectrogram::c_maximumColumns));
+        static_cast<std::size_t>(std::min<std::uint64_t>(m_result.m_windows, Spectrogram::maximum_columns));
     m_result.m_rows = size / 2 + 1;
     m_result.m_entries.resize(m_result.m_columns * m_result.m_rows);
 
@@ -279,7 +279,7 @@ SpectrogramAnalyser::SpectrogramAnalyser(std::unique_ptr<ByteSource> source)
     m_reader.emplace(std::move(std::get<WavReader>(opened)));
     auto const & info = m_reader->Info();
     m_builder.emplace(info.channels, info.sampleRate, info.frames);
-    m_samples.resize(std::max<std::size_t>(c_samplesPerStep / info.channels, 1) * info.channels);
+    m_samples.resize(std::max<std::size_t>(samples_per_step / info.channels, 1) * info.channels);
 }
 
 SpectrogramAnalyser::SpectrogramAnalyser(std::filesystem::path const & path)

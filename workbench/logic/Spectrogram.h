@@ -20,15 +20,15 @@ namespace workbench
 {
 
 /// The entries of a colour scale, from the lowest level to the highest.
-constexpr int c_scaleEntries = 32;
+constexpr int scale_entries = 32;
 
 /// What one entry spans. The highest entry reaches up to 0 dBFS and beyond.
-constexpr double c_decibelsPerEntry = 3.0;
+constexpr double decibels_per_entry = 3.0;
 
 /// The lower end of the scale; all that is below falls on entry 0.
-constexpr double c_lowestScaleLevel = -c_scaleEntries * c_decibelsPerEntry;
+constexpr double lowest_scale_level = -scale_entries * decibels_per_entry;
 
-/// The entry of a level in dBFS, 0 to `c_scaleEntries - 1`.
+/// The entry of a level in dBFS, 0 to `scale_entries - 1`.
 int ScaleEntry(double decibels);
 
 /// The samples of a window for a rate: a power of two.
@@ -39,7 +39,7 @@ class Spectrogram
 {
 public:
     /// The most columns.
-    static constexpr std::size_t c_maximumColumns = 2048;
+    static constexpr std::size_t maximum_columns = 2048;
 
     /// A spectrogram of nothing.
     Spectrogram() = default;
@@ -90,7 +90,7 @@ class SpectrogramBuilder
 {
 public:
     /// Channels beyond this many are left out.
-    static constexpr std::size_t c_maximumChannels = 32;
+    static constexpr std::size_t maximum_channels = 32;
 
     /// A builder for so many frames of so many channels, at least 1. Without frames or sample rate the result is empty.
     SpectrogramBuilder(std::size_t channels, std::uint32_t sampleRate, std::uint64_t frames);

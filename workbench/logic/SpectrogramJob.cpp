@@ -27,7 +27,7 @@ void SpectrogramJob::Run(std::filesystem::path const & path)
         SpectrogramAnalyser analyser(path);
         while (!m_stop && analyser.Step())
         {
-            m_progress = static_cast<int>(std::lround(analyser.Progress() * c_wholeProgress));
+            m_progress = static_cast<int>(std::lround(analyser.Progress() * whole_progress));
         }
         result->problem = analyser.Problem();
         result->info = analyser.Info();

@@ -40,7 +40,7 @@ public:
     /// The result once it is there; null before.
     std::shared_ptr<Result const> GetResult() const { return m_done ? m_result : nullptr; }
 
-    static constexpr int c_wholeProgress = 1000;
+    static constexpr int whole_progress = 1000;
 
 private:
     void Run(std::filesystem::path const & path);

@@ -9,9 +9,9 @@ namespace workbench
 namespace
 {
 
-constexpr wchar_t c_folderSeparator = L'|'; // no name of a folder has it
-constexpr wchar_t c_numberSeparator = L' ';
-constexpr std::size_t c_longestNumber = 6;
+constexpr wchar_t folder_separator = L'|'; // no name of a folder has it
+constexpr wchar_t number_separator = L' ';
+constexpr std::size_t longest_number = 6;
 
 /// The parts between separators, without empty ones.
 std::vector<std::wstring_view> Split(std::wstring_view text, wchar_t separator)
@@ -43,7 +43,7 @@ std::wstring LowerCase(std::wstring text)
 std::vector<std::filesystem::path> FoldersOf(std::wstring_view text)
 {
     std::vector<std::filesystem::path> folders;
-    for (auto const part : Split(text, c_folderSeparator))
+    for (auto const part : Split(text, folder_separator))
     {
         folders.emplace_back(std::wstring(part));
     }
@@ -55,7 +55,7 @@ std::wstring FolderText(std::vector<std::filesystem::path> const & folders)
     std::wstring text;
     for (auto const & folder : folders)
     {
-        text += (text.empty() ? L"" : std::wstring(1, c_folderSeparator)) + folder.wstring();
+        text += (text.empty() ? L"" : std::wstring(1, folder_separator)) + folder.wstring();
     }
     return text;
 }
@@ -76,9 +76,9 @@ void PutFirst(std::vector<std::filesystem::path> & folders, std::filesystem::pat
     auto const first = folder; // it may be one of them
     std::erase_if(folders, [&first](auto const & other) { return IsSameFolder(other, first); });
     folders.insert(folders.begin(), first);
-    if (folders.size() > c_mostRecentFolders)
+    if (folders.size() > most_recent_folders)
     {
-        folders.resize(c_mostRecentFolders);
+        folders.resize(most_recent_folders);
     }
 }
 
@@ -98,10 +98,10 @@ bool IsInFolder(std::filesystem::path const & path, std::filesystem::path const 
 std::set<int> NumbersOf(std::wstring_view text, int end)
 {
     std::set<int> numbers;
-    for (auto const part : Split(text, c_numberSeparator))
+    for (auto const part : Split(text, number_separator))
     {
         auto const isDigit = [](wchar_t character) { return character >= L'0' && character <= L'9'; };
-        if (part.size() > c_longestNumber || !std::ranges::all_of(part, isDigit))
+        if (part.size() > longest_number || !std::ranges::all_of(part, isDigit))
         {
             continue;
         }
@@ -119,7 +119,7 @@ std::wstring NumberText(std::set<int> const & numbers)
     std::wstring text;
     for (auto const number : numbers)
     {
-        text += (text.empty() ? L"" : std::wstring(1, c_numberSeparator)) + std::to_wstring(number);
+        text += (text.empty() ? L"" : std::wstring(1, number_separator)) + std::to_wstring(number);
     }
     return text;
 }

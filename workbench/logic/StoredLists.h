@@ -15,8 +15,8 @@ std::vector<std::filesystem::path> FoldersOf(std::wstring_view text);
 std::wstring FolderText(std::vector<std::filesystem::path> const & folders);
 
 /// The folders with one put first, where it was before included, whatever the case of its letters; the last ones go
-/// where there are more than `c_mostRecentFolders`.
-constexpr std::size_t c_mostRecentFolders = 10;
+/// where there are more than `most_recent_folders`.
+constexpr std::size_t most_recent_folders = 10;
 void PutFirst(std::vector<std::filesystem::path> & folders, std::filesystem::path const & folder);
 
 /// What paths of one file or folder have in common for a system that doesn't mind the case of letters.

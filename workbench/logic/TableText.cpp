@@ -9,36 +9,36 @@ namespace workbench
 namespace
 {
 
-constexpr char32_t c_firstLead = 0xD800;
-constexpr char32_t c_firstTrail = 0xDC00;
-constexpr char32_t c_endOfSurrogates = 0xE000;
-constexpr char32_t c_endOfPlane = 0x10000;
-constexpr char32_t c_endOfCharacters = 0x110000;
-constexpr char32_t c_endOfPrintable = 0x7F; // of ASCII
+constexpr char32_t first_lead = 0xD800;
+constexpr char32_t first_trail = 0xDC00;
+constexpr char32_t end_of_surrogates = 0xE000;
+constexpr char32_t end_of_plane = 0x10000;
+constexpr char32_t end_of_characters = 0x110000;
+constexpr char32_t end_of_printable = 0x7F; // of ASCII
 
-constexpr char c_utf8Mark[] = "\xEF\xBB\xBF";
+constexpr char utf8_mark[] = "\xEF\xBB\xBF";
 
-constexpr wchar_t c_rowEnd[] = L"\r\n";
+constexpr wchar_t row_end[] = L"\r\n";
 
 /// The character that begins at the place, which moves behind it; 0 for one that is none.
 char32_t NextCharacter(std::wstring_view text, std::size_t & place)
 {
     auto const unit = static_cast<char32_t>(text[place++]);
-    if (unit < c_firstLead || unit >= c_endOfSurrogates)
+    if (unit < first_lead || unit >= end_of_surrogates)
     {
-        return unit < c_endOfCharacters ? unit : 0;
+        return unit < end_of_characters ? unit : 0;
     }
-    if (unit >= c_firstTrail || place == text.size())
+    if (unit >= first_trail || place == text.size())
     {
         return 0;
     }
     auto const trail = static_cast<char32_t>(text[place]);
-    if (trail < c_firstTrail || trail >= c_endOfSurrogates)
+    if (trail < first_trail || trail >= end_of_surrogates)
     {
         return 0;
     }
     ++place;
-    return c_endOfPlane + ((unit - c_firstLead) << 10) + (trail - c_firstTrail);
+    return end_of_plane + ((unit - first_lead) << 10) + (trail - first_trail);
 }
 
 void AppendUtf8(std::string & text, char32_t character)
@@ -54,7 +54,7 @@ void AppendUtf8(std::string & text, char32_t character)
     {
         text += static_cast<char>(0xC0 | character >> 6);
     }
-    else if (character < c_endOfPlane)
+    else if (character < end_of_plane)
     {
         text += static_cast<char>(0xE0 | character >> 12);
         text += static_cast<char>(following | (character >> 6 & bits));
@@ -71,7 +71,7 @@ void AppendUtf8(std::string & text, char32_t character)
 /// Whether a character stands for itself in HTML.
 bool IsPlainHtml(wchar_t character)
 {
-    return character >= L' ' && character < static_cast<wchar_t>(c_endOfPrintable) && character != L'&' &&
+    return character >= L' ' && character < static_cast<wchar_t>(end_of_printable) && character != L'&' &&
            character != L'<' && character != L'>';
 }
 
@@ -108,7 +108,7 @@ void AppendHtml(std::wstring & html, std::wstring_view text)
             html += L' ';
             break;
         default:
-            if (character > c_endOfPrintable)
+            if (character > end_of_printable)
             {
                 html += L"&#" + std::to_wstring(static_cast<unsigned long>(character)) + L';';
             }
@@ -151,7 +151,7 @@ std::wstring PlainTable(TextTable const & table)
             first = false;
             AppendPlain(plain, textOf(cell));
         }
-        plain += c_rowEnd;
+        plain += row_end;
     };
     appendLine(table.columns, [](TextTable::Column const & column) -> std::wstring const & { return column.title; });
     for (auto const & row : table.rows)
@@ -198,7 +198,7 @@ std::string TableFile(TextTable const & table, std::filesystem::path const & fil
         return page + "\r\n</body></html>\r\n";
     }
     auto const wide = PlainTable(table);
-    std::string text = c_utf8Mark;
+    std::string text = utf8_mark;
     for (std::size_t place = 0; place < wide.size();)
     {
         auto const character = NextCharacter(wide, place);

@@ -11,8 +11,8 @@ namespace workbench
 namespace
 {
 
-constexpr unsigned short c_primaryLanguageMask = 0x3FF;
-constexpr unsigned short c_german = 0x07;
+constexpr unsigned short primary_language_mask = 0x3FF;
+constexpr unsigned short german_language = 0x07;
 
 struct Entry
 {
@@ -20,7 +20,7 @@ struct Entry
     wchar_t const * german;
 };
 
-constexpr Entry c_entries[] = {
+constexpr Entry all_entries[] = {
     // The main window.
     {L"&Window", L"Fen&ster"},
     {L"No recordings", L"Keine Aufnahmen"},
@@ -180,7 +180,7 @@ constexpr Entry c_entries[] = {
 std::vector<Entry> const & Catalogue()
 {
     static std::vector<Entry> const catalogue = [] {
-        std::vector<Entry> entries(std::begin(c_entries), std::end(c_entries));
+        std::vector<Entry> entries(std::begin(all_entries), std::end(all_entries));
         std::ranges::sort(entries, {}, [](Entry const & entry) { return std::wstring_view(entry.english); });
         return entries;
     }();
@@ -193,7 +193,7 @@ std::atomic<Language> s_language = Language::English;
 
 Language LanguageOf(unsigned short languageId)
 {
-    return (languageId & c_primaryLanguageMask) == c_german ? Language::German : Language::English;
+    return (languageId & primary_language_mask) == german_language ? Language::German : Language::English;
 }
 
 void SetLanguage(Language language)

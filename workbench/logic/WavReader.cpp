@@ -16,22 +16,22 @@ namespace workbench
 namespace
 {
 
-constexpr std::uint16_t c_tagPcm = 0x0001;
-constexpr std::uint16_t c_tagFloat = 0x0003;
-constexpr std::uint16_t c_tagExtensible = 0xFFFE;
+constexpr std::uint16_t tag_pcm = 0x0001;
+constexpr std::uint16_t tag_float = 0x0003;
+constexpr std::uint16_t tag_extensible = 0xFFFE;
 
-constexpr std::size_t c_riffHeaderBytes = 12;
-constexpr std::size_t c_chunkHeaderBytes = 8;
-constexpr std::size_t c_formatBytes = 16;
-constexpr std::size_t c_extensibleFormatBytes = 40;
-constexpr std::size_t c_subFormatOffset = 24;
-constexpr std::uint32_t c_unknownSize = 0xFFFFFFFF;
+constexpr std::size_t riff_header_bytes = 12;
+constexpr std::size_t chunk_header_bytes = 8;
+constexpr std::size_t format_bytes = 16;
+constexpr std::size_t extensible_format_bytes = 40;
+constexpr std::size_t sub_format_offset = 24;
+constexpr std::uint32_t unknown_size = 0xFFFFFFFF;
 
 // A file with more chunks than this before its samples is none that a recorder wrote.
-constexpr int c_maximumChunks = 10000;
+constexpr int maximum_chunks = 10000;
 
 // Bytes 2 to 15 of the sub-format identifier when its first two are a plain format tag.
-constexpr std::array<std::uint8_t, 14> c_subFormatTail = {0x00, 0x00, 0x00, 0x00, 0x10, 0x00, 0x80,
+constexpr std::array<std::uint8_t, 14> sub_format_tail = {0x00, 0x00, 0x00, 0x00, 0x10, 0x00, 0x80,
                                                           0x00, 0x00, 0xAA, 0x00, 0x38, 0x9B, 0x71};
 
 std::uint16_t LittleEndian16(std::byte const * p)
@@ -66,7 +66,7 @@ struct Format
 /// Reads the format chunk; empty if it is too short for what it says it is.
 std::optional<Format> ParseFormat(std::span<std::byte const> chunk)
 {
-    if (chunk.size() < c_formatBytes)
+    if (chunk.size() < format_bytes)
     {
         return std::nullopt;
     }
@@ -76,14 +76,14 @@ std::optional<Format> ParseFormat(std::span<std::byte const> chunk)
     format.sampleRate = LittleEndian32(&chunk[4]);
     format.frameBytes = LittleEndian16(&chunk[12]);
     format.bitsPerSample = LittleEndian16(&chunk[14]);
-    if (format.tag == c_tagExtensible)
+    if (format.tag == tag_extensible)
     {
-        if (chunk.size() < c_extensibleFormatBytes)
+        if (chunk.size() < extensible_format_bytes)
         {
             return std::nullopt;
         }
-        auto const * const subFormat = &chunk[c_subFormatOffset];
-        if (std::memcmp(subFormat + 2, c_subFormatTail.data(), c_subFormatTail.size()) == 0)
+        auto const * const subFormat = &chunk[sub_format_offset];
+        if (std::memcmp(subFormat + 2, sub_format_tail.data(), sub_format_tail.size()) == 0)
         {
             format.tag = LittleEndian16(subFormat);
         }
@@ -93,7 +93,7 @@ std::optional<Format> ParseFormat(std::span<std::byte const> chunk)
 
 std::variant<RecordingInfo, ReadProblem> CheckFormat(Format const & format)
 {
-    if (format.tag != c_tagPcm && format.tag != c_tagFloat)
+    if (format.tag != tag_pcm && format.tag != tag_float)
     {
         return ReadProblem{ReadFault::UnknownFormat, format.tag, format.bitsPerSample};
     }
@@ -108,7 +108,7 @@ std::variant<RecordingInfo, ReadProblem> CheckFormat(Format const & format)
     info.bitsPerSample = format.bitsPerSample;
     info.bytesPerSample = static_cast<std::uint16_t>(format.frameBytes / format.channels);
     auto const containerBits = 8u * info.bytesPerSample;
-    if (format.tag == c_tagFloat)
+    if (format.tag == tag_float)
     {
         if (format.bitsPerSample != 32 && format.bitsPerSample != 64)
         {
@@ -169,25 +169,25 @@ Chunks FindChunks(ByteSource & source, std::uint32_t riffSize)
 {
     Chunks found;
     auto const fileSize = source.Size();
-    std::uint64_t offset = c_riffHeaderBytes;
-    for (int i = 0; i < c_maximumChunks && !(found.dataOffset && (found.format || found.formatTooShort)); ++i)
+    std::uint64_t offset = riff_header_bytes;
+    for (int i = 0; i < maximum_chunks && !(found.dataOffset && (found.format || found.formatTooShort)); ++i)
     {
-        std::array<std::byte, c_chunkHeaderBytes> header;
+        std::array<std::byte, chunk_header_bytes> header;
         auto const headerBytes = source.Read(offset, header);
         if (headerBytes < header.size())
         {
             // A file that its own header calls complete has just no more chunks.
-            found.ranOut = headerBytes > 0 || riffSize + std::uint64_t{c_chunkHeaderBytes} > fileSize;
+            found.ranOut = headerBytes > 0 || riffSize + std::uint64_t{chunk_header_bytes} > fileSize;
             break;
         }
         auto const size = LittleEndian32(&header[4]);
-        auto const body = offset + c_chunkHeaderBytes;
+        auto const body = offset + chunk_header_bytes;
         auto const rest = fileSize - std::min(body, fileSize);
         if (HasId(header.data(), "data") && !found.dataOffset)
         {
             // Recorders that cannot go back to their header leave one of these sizes.
-            auto const openEnded = size == c_unknownSize ||
-                                   (size == 0 && (riffSize == c_unknownSize || riffSize + c_chunkHeaderBytes <= body));
+            auto const openEnded = size == unknown_size ||
+                                   (size == 0 && (riffSize == unknown_size || riffSize + chunk_header_bytes <= body));
             found.dataOffset = body;
             found.announcedBytes = openEnded ? rest : size;
             if (openEnded)
@@ -197,7 +197,7 @@ Chunks FindChunks(ByteSource & source, std::uint32_t riffSize)
         }
         else if (HasId(header.data(), "fmt ") && !found.format)
         {
-            std::array<std::byte, c_extensibleFormatBytes> bytes;
+            std::array<std::byte, extensible_format_bytes> bytes;
             auto const wanted = std::min<std::size_t>(size, bytes.size());
             auto const got = source.Read(body, std::span(bytes).first(wanted));
             if (got < wanted)
@@ -242,11 +242,11 @@ std::wstring ReadProblem::Text() const
         break;
     }
     wchar_t text[64];
-    if (formatTag == c_tagPcm || formatTag == c_tagFloat)
+    if (formatTag == tag_pcm || formatTag == tag_float)
     {
         std::swprintf(text, std::size(text), workbench::Text(L"unknown format (%u-bit %ls)"),
                       static_cast<unsigned>(bitsPerSample),
-                      formatTag == c_tagPcm ? workbench::Text(L"PCM") : workbench::Text(L"float"));
+                      formatTag == tag_pcm ? workbench::Text(L"PCM") : workbench::Text(L"float"));
     }
     else
     {
@@ -266,7 +266,7 @@ std::variant<WavReader, ReadProblem> WavReader::Open(std::unique_ptr<ByteSource>
     {
         return ReadProblem{ReadFault::Empty};
     }
-    std::array<std::byte, c_riffHeaderBytes> header{};
+    std::array<std::byte, riff_header_bytes> header{};
     auto const headerBytes = source->Read(0, header);
     if (headerBytes < 4 || !HasId(header.data(), "RIFF"))
     {
@@ -323,7 +323,7 @@ std::size_t WavReader::ReadFrames(std::span<double> samples)
     std::size_t const channels = m_info.channels;
     std::size_t const frameBytes = channels * m_info.bytesPerSample;
     auto const wanted = static_cast<std::size_t>(std::min<std::uint64_t>(samples.size() / channels, m_framesLeft));
-    auto const framesPerBlock = std::max<std::size_t>(c_blockBytes / frameBytes, 1);
+    auto const framesPerBlock = std::max<std::size_t>(block_bytes / frameBytes, 1);
     std::size_t done = 0;
     while (done < wanted)
     {
@@ -333,7 +333,7 @@ std::size_t WavReader::ReadFrames(std::span<double> samples)
         for (std::size_t i = 0; i < gotFrames * channels; ++i)
         {
             auto value = DecodeSample(&m_block[i * m_info.bytesPerSample], m_info);
-            if (!(std::abs(value) <= c_sampleLimit))
+            if (!(std::abs(value) <= sample_limit))
             {
                 value = 0.0;
                 ++m_invalidSamples;

@@ -75,7 +75,7 @@ public:
     RecordingInfo const & Info() const { return m_info; }
 
     /// Reads the next frames into `samples`, channels interleaved, full scale at 1.0. Gives the number of whole frames;
-    /// 0 at the end, or if not even one frame fits. A sample that is no number or further than `c_sampleLimit` from
+    /// 0 at the end, or if not even one frame fits. A sample that is no number or further than `sample_limit` from
     /// zero is read as 0 and counted.
     std::size_t ReadFrames(std::span<double> samples);
 
@@ -83,10 +83,10 @@ public:
     std::uint64_t InvalidSamples() const { return m_invalidSamples; }
 
     /// The largest magnitude of a float sample that is taken for a measurement: 120 dB above full scale.
-    static constexpr double c_sampleLimit = 1e6;
+    static constexpr double sample_limit = 1e6;
 
     /// The number of bytes read from the source at once, except that one frame is read even if it is longer.
-    static constexpr std::size_t c_blockBytes = 65536;
+    static constexpr std::size_t block_bytes = 65536;
 
 private:
     WavReader(std::unique_ptr<ByteSource> source, RecordingInfo const & info, std::uint64_t dataOffset);

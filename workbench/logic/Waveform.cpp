@@ -74,13 +74,13 @@ std::vector<MinMax> Waveform::Columns(std::size_t lane, std::size_t width) const
 
 WaveformBuilder::WaveformBuilder(std::size_t channels)
     : m_channels(std::max<std::size_t>(channels, 1)),
-      m_buckets(std::min(m_channels, c_maximumLanes))
+      m_buckets(std::min(m_channels, maximum_lanes))
 {
 }
 
 void WaveformBuilder::StartBucket()
 {
-    if (m_buckets[0].size() == c_maximumBuckets)
+    if (m_buckets[0].size() == maximum_buckets)
     {
         for (auto & lane : m_buckets)
         {

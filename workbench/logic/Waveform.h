@@ -26,7 +26,7 @@ public:
     /// An overview of no lanes.
     Waveform() = default;
 
-    /// The number of lanes: one for each channel, up to `WaveformBuilder::c_maximumLanes`.
+    /// The number of lanes: one for each channel, up to `WaveformBuilder::maximum_lanes`.
     std::size_t Lanes() const { return m_lanes.size(); }
 
     /// The number of frames.
@@ -61,10 +61,10 @@ class WaveformBuilder
 {
 public:
     /// Channels beyond this many get no lane.
-    static constexpr std::size_t c_maximumLanes = 32;
+    static constexpr std::size_t maximum_lanes = 32;
 
     /// The most buckets of a lane; even.
-    static constexpr std::size_t c_maximumBuckets = 32768;
+    static constexpr std::size_t maximum_buckets = 32768;
 
     /// A builder for frames of so many channels, at least 1.
     explicit WaveformBuilder(std::size_t channels);

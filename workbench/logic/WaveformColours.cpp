@@ -12,15 +12,15 @@ namespace
 {
 
 // Of the channels behind the first one.
-constexpr COLORREF c_traces[] = {RGB(0xFF, 0x96, 0x00), RGB(0x00, 0xFF, 0x00), RGB(0xFF, 0x32, 0xDC),
-                                 RGB(0x00, 0xFF, 0xD5), RGB(0xFF, 0xFF, 0x00)};
-constexpr COLORREF c_clipped = RGB(0xFF, 0x00, 0x00);
-constexpr COLORREF c_label = RGB(0xB0, 0xC4, 0xE0);
+constexpr COLORREF traces[] = {RGB(0xFF, 0x96, 0x00), RGB(0x00, 0xFF, 0x00), RGB(0xFF, 0x32, 0xDC),
+                               RGB(0x00, 0xFF, 0xD5), RGB(0xFF, 0xFF, 0x00)};
+constexpr COLORREF clipped = RGB(0xFF, 0x00, 0x00);
+constexpr COLORREF label = RGB(0xB0, 0xC4, 0xE0);
 
-constexpr double c_traceContrast = 3.0;
-constexpr double c_labelInCentre = 0.3;
+constexpr double trace_contrast = 3.0;
+constexpr double label_in_centre = 0.3;
 
-constexpr std::size_t c_digits = 6;
+constexpr std::size_t digits = 6;
 
 int DigitOf(wchar_t character)
 {
@@ -36,23 +36,23 @@ int DigitOf(wchar_t character)
 
 COLORREF TraceColour(WaveformColours const & colours, std::size_t channel)
 {
-    auto const place = channel % (std::size(c_traces) + 1);
-    return place == 0 ? colours.trace : ReadableColour(c_traces[place - 1], colours.background, c_traceContrast);
+    auto const place = channel % (std::size(traces) + 1);
+    return place == 0 ? colours.trace : ReadableColour(traces[place - 1], colours.background, trace_contrast);
 }
 
 COLORREF ClippedColour(WaveformColours const & colours)
 {
-    return ReadableColour(c_clipped, colours.background, c_traceContrast);
+    return ReadableColour(clipped, colours.background, trace_contrast);
 }
 
 COLORREF LabelColour(WaveformColours const & colours)
 {
-    return ReadableColour(c_label, colours.background);
+    return ReadableColour(label, colours.background);
 }
 
 COLORREF CentreColour(WaveformColours const & colours)
 {
-    return MixedColour(colours.grid, LabelColour(colours), c_labelInCentre);
+    return MixedColour(colours.grid, LabelColour(colours), label_in_centre);
 }
 
 std::wstring ColourText(COLORREF colour)
@@ -65,7 +65,7 @@ std::wstring ColourText(COLORREF colour)
 
 std::optional<COLORREF> ColourOf(std::wstring_view text)
 {
-    if (text.size() != c_digits + 1 || text.front() != L'#')
+    if (text.size() != digits + 1 || text.front() != L'#')
     {
         return std::nullopt;
     }

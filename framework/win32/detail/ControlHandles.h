@@ -24,8 +24,7 @@ template <class... Arguments> CImageList * SendForImages(HWND window, UINT messa
     return CImageList::FromHandle(Send<HIMAGELIST>(window, message, arguments...));
 }
 /// Sends the message; the window that it answers, as an object of the window class that it is known to have.
-template <class Window, class... Arguments>
-Window * SendForWindow(HWND window, UINT message, Arguments... arguments)
+template <class Window, class... Arguments> Window * SendForWindow(HWND window, UINT message, Arguments... arguments)
 {
     return static_cast<Window *>(CWnd::FromHandle(Send<HWND>(window, message, arguments...)));
 }

@@ -27,8 +27,7 @@ template <class Result = LRESULT, class First = WPARAM, class Second = LPARAM>
 Result Send(HWND window, UINT message, First first = {}, Second second = {})
 {
     ASSERT(::IsWindow(window));
-    LRESULT const result =
-        ::SendMessage(window, message, MessageValue<WPARAM>(first), MessageValue<LPARAM>(second));
+    LRESULT const result = ::SendMessage(window, message, MessageValue<WPARAM>(first), MessageValue<LPARAM>(second));
     if constexpr (!std::is_void_v<Result>)
         return MessageValue<Result>(result);
 }

@@ -17,7 +17,8 @@ public:
     /// make: gives a new object attached to the handle. release: clears the object's handle, so that its destructor
     /// leaves the handle alone.
     HandleMap(std::function<T *(void *)> make, std::function<void(T *)> release)
-        : m_make(std::move(make)), m_release(std::move(release))
+        : m_make(std::move(make)),
+          m_release(std::move(release))
     {
     }
     HandleMap(HandleMap const &) = delete;

@@ -46,10 +46,7 @@ public:
     int GetRowCount() const { return framework::Send<int>(m_hWnd, TCM_GETROWCOUNT); }
     int SetMinTabWidth(int cx) { return framework::Send<int>(m_hWnd, TCM_SETMINTABWIDTH, 0, cx); }
     CToolTipCtrl * GetToolTips() const { return framework::SendForWindow<CToolTipCtrl>(m_hWnd, TCM_GETTOOLTIPS); }
-    void SetToolTips(CToolTipCtrl * pWndTip)
-    {
-        framework::Send(m_hWnd, TCM_SETTOOLTIPS, framework::HandleOf(pWndTip));
-    }
+    void SetToolTips(CToolTipCtrl * pWndTip) { framework::Send(m_hWnd, TCM_SETTOOLTIPS, framework::HandleOf(pWndTip)); }
     DWORD GetExtendedStyle() { return framework::Send<DWORD>(m_hWnd, TCM_GETEXTENDEDSTYLE); }
     DWORD SetExtendedStyle(DWORD dwNewStyle, DWORD dwExMask = 0)
     {

@@ -54,8 +54,8 @@ public:
     virtual BOOL Create(DWORD dwStyle, RECT const & rect, CWnd * pParentWnd, UINT nID);
     virtual BOOL Create(LPCTSTR lpszLinkMarkup, DWORD dwStyle, RECT const & rect, CWnd * pParentWnd, UINT nID);
     virtual BOOL CreateEx(DWORD dwExStyle, DWORD dwStyle, RECT const & rect, CWnd * pParentWnd, UINT nID);
-    virtual BOOL CreateEx(LPCTSTR lpszLinkMarkup, DWORD dwExStyle, DWORD dwStyle, RECT const & rect,
-                          CWnd * pParentWnd, UINT nID);
+    virtual BOOL CreateEx(LPCTSTR lpszLinkMarkup, DWORD dwExStyle, DWORD dwStyle, RECT const & rect, CWnd * pParentWnd,
+                          UINT nID);
 
     int GetIdealHeight() const { return framework::Send<int>(m_hWnd, LM_GETIDEALHEIGHT); }
     int GetIdealSize(int cxMaxWidth, SIZE * pSize) const

@@ -35,10 +35,7 @@ public:
     {
         return framework::Send<BOOL>(m_hWnd, HDM_GETITEMDROPDOWNRECT, iItem, lpRect);
     }
-    BOOL GetOverflowRect(LPRECT lpRect) const
-    {
-        return framework::Send<BOOL>(m_hWnd, HDM_GETOVERFLOWRECT, 0, lpRect);
-    }
+    BOOL GetOverflowRect(LPRECT lpRect) const { return framework::Send<BOOL>(m_hWnd, HDM_GETOVERFLOWRECT, 0, lpRect); }
     BOOL GetOrderArray(LPINT piArray, int iCount)
     {
         return framework::Send<BOOL>(m_hWnd, HDM_GETORDERARRAY, iCount, piArray);
@@ -63,10 +60,7 @@ public:
     BOOL Layout(HDLAYOUT * pHeaderLayout) { return framework::Send<BOOL>(m_hWnd, HDM_LAYOUT, 0, pHeaderLayout); }
     int HitTest(LPHDHITTESTINFO phdhti) { return framework::Send<int>(m_hWnd, HDM_HITTEST, 0, phdhti); }
     /// The object is temporary.
-    CImageList * CreateDragImage(int nIndex)
-    {
-        return framework::SendForImages(m_hWnd, HDM_CREATEDRAGIMAGE, nIndex);
-    }
+    CImageList * CreateDragImage(int nIndex) { return framework::SendForImages(m_hWnd, HDM_CREATEDRAGIMAGE, nIndex); }
     BOOL ClearFilter(int nColumn) { return framework::Send<BOOL>(m_hWnd, HDM_CLEARFILTER, nColumn); }
     BOOL ClearAllFilters() { return framework::Send<BOOL>(m_hWnd, HDM_CLEARFILTER, -1); }
     BOOL EditFilter(int nColumn, BOOL bDiscardChanges)

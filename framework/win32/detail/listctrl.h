@@ -84,10 +84,7 @@ public:
     {
         framework::Send(m_hWnd, LVM_GETWORKAREAS, nWorkAreas, pRect);
     }
-    void SetWorkAreas(int nWorkAreas, LPRECT lpRect)
-    {
-        framework::Send(m_hWnd, LVM_SETWORKAREAS, nWorkAreas, lpRect);
-    }
+    void SetWorkAreas(int nWorkAreas, LPRECT lpRect) { framework::Send(m_hWnd, LVM_SETWORKAREAS, nWorkAreas, lpRect); }
 
     // Items.
     int GetItemCount() const { return framework::Send<int>(m_hWnd, LVM_GETITEMCOUNT); }

@@ -61,10 +61,7 @@ public:
     int GetTextLen(int nIndex) const { return framework::Send<int>(m_hWnd, LB_GETTEXTLEN, nIndex); }
     void SetColumnWidth(int cxWidth) { framework::Send(m_hWnd, LB_SETCOLUMNWIDTH, cxWidth); }
     void SetTabStops() { framework::Send(m_hWnd, LB_SETTABSTOPS); }
-    BOOL SetTabStops(int const & cxEachStop)
-    {
-        return framework::Send<BOOL>(m_hWnd, LB_SETTABSTOPS, 1, &cxEachStop);
-    }
+    BOOL SetTabStops(int const & cxEachStop) { return framework::Send<BOOL>(m_hWnd, LB_SETTABSTOPS, 1, &cxEachStop); }
     BOOL SetTabStops(int nTabStops, LPINT rgTabStops)
     {
         return framework::Send<BOOL>(m_hWnd, LB_SETTABSTOPS, nTabStops, rgTabStops);

@@ -14,10 +14,7 @@ public:
     virtual BOOL Create(DWORD dwStyle, RECT const & rect, CWnd * pParentWnd, UINT nID);
     virtual BOOL CreateEx(DWORD dwExStyle, DWORD dwStyle, RECT const & rect, CWnd * pParentWnd, UINT nID);
 
-    void SetRange(short nLower, short nUpper)
-    {
-        framework::Send(m_hWnd, PBM_SETRANGE, 0, MAKELPARAM(nLower, nUpper));
-    }
+    void SetRange(short nLower, short nUpper) { framework::Send(m_hWnd, PBM_SETRANGE, 0, MAKELPARAM(nLower, nUpper)); }
     void SetRange32(int nLower, int nUpper) { framework::Send(m_hWnd, PBM_SETRANGE32, nLower, nUpper); }
     void GetRange(int & nLower, int & nUpper);
     int GetPos() { return framework::Send<int>(m_hWnd, PBM_GETPOS); }
@@ -81,10 +78,7 @@ public:
         return framework::SendForWindow<CWnd>(m_hWnd, TBM_SETBUDDY, fLocation, framework::HandleOf(pWndBuddy));
     }
     CToolTipCtrl * GetToolTips() const { return framework::SendForWindow<CToolTipCtrl>(m_hWnd, TBM_GETTOOLTIPS); }
-    void SetToolTips(CToolTipCtrl * pWndTip)
-    {
-        framework::Send(m_hWnd, TBM_SETTOOLTIPS, framework::HandleOf(pWndTip));
-    }
+    void SetToolTips(CToolTipCtrl * pWndTip) { framework::Send(m_hWnd, TBM_SETTOOLTIPS, framework::HandleOf(pWndTip)); }
     int SetTipSide(int nLocation) { return framework::Send<int>(m_hWnd, TBM_SETTIPSIDE, nLocation); }
 
     void ClearSel(BOOL bRedraw = FALSE) { framework::Send(m_hWnd, TBM_CLEARSEL, bRedraw); }
@@ -117,10 +111,7 @@ public:
     int GetPos() const { return framework::Send<int>(m_hWnd, UDM_GETPOS); }
     int SetPos32(int nPos) { return framework::Send<int>(m_hWnd, UDM_SETPOS32, 0, nPos); }
     int GetPos32(LPBOOL lpbError = nullptr) const { return framework::Send<int>(m_hWnd, UDM_GETPOS32, 0, lpbError); }
-    void SetRange(short nLower, short nUpper)
-    {
-        framework::Send(m_hWnd, UDM_SETRANGE, 0, MAKELPARAM(nUpper, nLower));
-    }
+    void SetRange(short nLower, short nUpper) { framework::Send(m_hWnd, UDM_SETRANGE, 0, MAKELPARAM(nUpper, nLower)); }
     void SetRange32(int nLower, int nUpper) { framework::Send(m_hWnd, UDM_SETRANGE32, nLower, nUpper); }
     /// The low word is the upper limit, the high word the lower one.
     DWORD GetRange() const { return framework::Send<DWORD>(m_hWnd, UDM_GETRANGE); }

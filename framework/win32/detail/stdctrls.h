@@ -18,17 +18,11 @@ public:
     virtual BOOL Create(LPCTSTR lpszText, DWORD dwStyle, RECT const & rect, CWnd * pParentWnd, UINT nID = 0xffff);
 
     HBITMAP GetBitmap() const { return framework::Send<HBITMAP>(m_hWnd, STM_GETIMAGE, IMAGE_BITMAP); }
-    HBITMAP SetBitmap(HBITMAP hBitmap)
-    {
-        return framework::Send<HBITMAP>(m_hWnd, STM_SETIMAGE, IMAGE_BITMAP, hBitmap);
-    }
+    HBITMAP SetBitmap(HBITMAP hBitmap) { return framework::Send<HBITMAP>(m_hWnd, STM_SETIMAGE, IMAGE_BITMAP, hBitmap); }
     HICON GetIcon() const { return framework::Send<HICON>(m_hWnd, STM_GETICON); }
     HICON SetIcon(HICON hIcon) { return framework::Send<HICON>(m_hWnd, STM_SETICON, hIcon); }
     HCURSOR GetCursor() { return framework::Send<HCURSOR>(m_hWnd, STM_GETIMAGE, IMAGE_CURSOR); }
-    HCURSOR SetCursor(HCURSOR hCursor)
-    {
-        return framework::Send<HCURSOR>(m_hWnd, STM_SETIMAGE, IMAGE_CURSOR, hCursor);
-    }
+    HCURSOR SetCursor(HCURSOR hCursor) { return framework::Send<HCURSOR>(m_hWnd, STM_SETIMAGE, IMAGE_CURSOR, hCursor); }
     HENHMETAFILE GetEnhMetaFile() const
     {
         return framework::Send<HENHMETAFILE>(m_hWnd, STM_GETIMAGE, IMAGE_ENHMETAFILE);
@@ -62,15 +56,9 @@ public:
     HICON GetIcon() const { return framework::Send<HICON>(m_hWnd, BM_GETIMAGE, IMAGE_ICON); }
     HICON SetIcon(HICON hIcon) { return framework::Send<HICON>(m_hWnd, BM_SETIMAGE, IMAGE_ICON, hIcon); }
     HBITMAP GetBitmap() const { return framework::Send<HBITMAP>(m_hWnd, BM_GETIMAGE, IMAGE_BITMAP); }
-    HBITMAP SetBitmap(HBITMAP hBitmap)
-    {
-        return framework::Send<HBITMAP>(m_hWnd, BM_SETIMAGE, IMAGE_BITMAP, hBitmap);
-    }
+    HBITMAP SetBitmap(HBITMAP hBitmap) { return framework::Send<HBITMAP>(m_hWnd, BM_SETIMAGE, IMAGE_BITMAP, hBitmap); }
     HCURSOR GetCursor() { return framework::Send<HCURSOR>(m_hWnd, BM_GETIMAGE, IMAGE_CURSOR); }
-    HCURSOR SetCursor(HCURSOR hCursor)
-    {
-        return framework::Send<HCURSOR>(m_hWnd, BM_SETIMAGE, IMAGE_CURSOR, hCursor);
-    }
+    HCURSOR SetCursor(HCURSOR hCursor) { return framework::Send<HCURSOR>(m_hWnd, BM_SETIMAGE, IMAGE_CURSOR, hCursor); }
 
     BOOL GetIdealSize(SIZE * psize) { return framework::Send<BOOL>(m_hWnd, BCM_GETIDEALSIZE, 0, psize); }
     BOOL GetImageList(PBUTTON_IMAGELIST pbuttonImagelist)
@@ -87,10 +75,7 @@ public:
     BOOL GetNote(LPTSTR lpszNote, UINT * pcchNote) const;
     UINT GetNoteLength() const { return framework::Send<UINT>(m_hWnd, BCM_GETNOTELENGTH); }
     BOOL SetNote(LPCTSTR lpszNote) { return framework::Send<BOOL>(m_hWnd, BCM_SETNOTE, 0, lpszNote); }
-    BOOL SetDropDownState(BOOL fDropDown)
-    {
-        return framework::Send<BOOL>(m_hWnd, BCM_SETDROPDOWNSTATE, fDropDown);
-    }
+    BOOL SetDropDownState(BOOL fDropDown) { return framework::Send<BOOL>(m_hWnd, BCM_SETDROPDOWNSTATE, fDropDown); }
     BOOL SetElevationRequired(BOOL fElevationRequired)
     {
         return framework::Send<BOOL>(m_hWnd, BCM_SETSHIELD, 0, fElevationRequired);
@@ -99,10 +84,7 @@ public:
     {
         return framework::Send<BOOL>(m_hWnd, BCM_GETSPLITINFO, 0, pInfo);
     }
-    BOOL SetSplitInfo(PBUTTON_SPLITINFO pInfo)
-    {
-        return framework::Send<BOOL>(m_hWnd, BCM_SETSPLITINFO, 0, pInfo);
-    }
+    BOOL SetSplitInfo(PBUTTON_SPLITINFO pInfo) { return framework::Send<BOOL>(m_hWnd, BCM_SETSPLITINFO, 0, pInfo); }
     TCHAR GetSplitGlyph() const;
     BOOL SetSplitGlyph(TCHAR chGlyph);
     CImageList * GetSplitImageList() const;
@@ -149,10 +131,7 @@ public:
     UINT GetLimitText() const { return framework::Send<UINT>(m_hWnd, EM_GETLIMITTEXT); }
     void LimitText(int nChars = 0) { framework::Send(m_hWnd, EM_LIMITTEXT, nChars); }
     CPoint PosFromChar(UINT nChar) const;
-    int CharFromPos(CPoint pt) const
-    {
-        return framework::Send<int>(m_hWnd, EM_CHARFROMPOS, 0, MAKELPARAM(pt.x, pt.y));
-    }
+    int CharFromPos(CPoint pt) const { return framework::Send<int>(m_hWnd, EM_CHARFROMPOS, 0, MAKELPARAM(pt.x, pt.y)); }
     /// The text is not terminated: the result is its length.
     int GetLine(int nIndex, LPTSTR lpszBuffer) const
     {
@@ -175,10 +154,7 @@ public:
         framework::Send(m_hWnd, EM_REPLACESEL, bCanUndo, lpszNewText);
     }
     void SetTabStops() { framework::Send(m_hWnd, EM_SETTABSTOPS); }
-    BOOL SetTabStops(int const & cxEachStop)
-    {
-        return framework::Send<BOOL>(m_hWnd, EM_SETTABSTOPS, 1, &cxEachStop);
-    }
+    BOOL SetTabStops(int const & cxEachStop) { return framework::Send<BOOL>(m_hWnd, EM_SETTABSTOPS, 1, &cxEachStop); }
     BOOL SetTabStops(int nTabStops, LPINT rgTabStops)
     {
         return framework::Send<BOOL>(m_hWnd, EM_SETTABSTOPS, nTabStops, rgTabStops);
@@ -219,19 +195,13 @@ public:
 
     int GetScrollPos() const { return ::GetScrollPos(m_hWnd, SB_CTL); }
     int SetScrollPos(int nPos, BOOL bRedraw = TRUE) { return ::SetScrollPos(m_hWnd, SB_CTL, nPos, bRedraw); }
-    void GetScrollRange(LPINT lpMinPos, LPINT lpMaxPos) const
-    {
-        ::GetScrollRange(m_hWnd, SB_CTL, lpMinPos, lpMaxPos);
-    }
+    void GetScrollRange(LPINT lpMinPos, LPINT lpMaxPos) const { ::GetScrollRange(m_hWnd, SB_CTL, lpMinPos, lpMaxPos); }
     void SetScrollRange(int nMinPos, int nMaxPos, BOOL bRedraw = TRUE)
     {
         ::SetScrollRange(m_hWnd, SB_CTL, nMinPos, nMaxPos, bRedraw);
     }
     void ShowScrollBar(BOOL bShow = TRUE) { ::ShowScrollBar(m_hWnd, SB_CTL, bShow); }
-    BOOL EnableScrollBar(UINT nArrowFlags = ESB_ENABLE_BOTH)
-    {
-        return ::EnableScrollBar(m_hWnd, SB_CTL, nArrowFlags);
-    }
+    BOOL EnableScrollBar(UINT nArrowFlags = ESB_ENABLE_BOTH) { return ::EnableScrollBar(m_hWnd, SB_CTL, nArrowFlags); }
     BOOL SetScrollInfo(LPSCROLLINFO lpScrollInfo, BOOL bRedraw = TRUE);
     BOOL GetScrollInfo(LPSCROLLINFO lpScrollInfo, UINT nMask = SIF_ALL);
     int GetScrollLimit();

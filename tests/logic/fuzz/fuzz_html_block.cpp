@@ -42,8 +42,7 @@ void CheckBlock(std::wstring const & html)
     Require(reading.has_value());
     std::vector<char> utf8(html.size() * Utf8::longest_character);
     utf8.resize(Utf8::Encode(html.substr(0, html.find(L'\0')), utf8));
-    Require(reading->fragment ==
-            "<!--StartFragment -->\r\n" + std::string(utf8.begin(), utf8.end()) + "\r\n");
+    Require(reading->fragment == "<!--StartFragment -->\r\n" + std::string(utf8.begin(), utf8.end()) + "\r\n");
     Require(reading->html.size() >= 7 && reading->html.substr(reading->html.size() - 7) == "</html>");
 }
 } // namespace

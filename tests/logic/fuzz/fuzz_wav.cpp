@@ -47,7 +47,7 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const * data, std::size_t siz
         auto const read = std::span<double const>(samples).first(count * info.channels);
         for (auto const sample : read)
         {
-            Require(std::abs(sample) <= WavReader::c_sampleLimit);
+            Require(std::abs(sample) <= WavReader::sample_limit);
         }
         meter.Add(read);
         builder.Add(read);

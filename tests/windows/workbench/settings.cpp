@@ -52,7 +52,7 @@ TEST_F(WorkbenchSettings, AreThoseOfANewObjectAtFirst)
     EXPECT_EQ(settings.inactiveOpacity, 50);
     EXPECT_EQ(settings.spectrogramScale, 1u);
     EXPECT_TRUE(settings.startFolders.empty());
-    EXPECT_EQ(workbench::ReadLanguage(), workbench::c_usersDefaultLanguage);
+    EXPECT_EQ(workbench::ReadLanguage(), workbench::users_default_language);
 }
 
 TEST_F(WorkbenchSettings, ComeBackAsTheyWereStored)

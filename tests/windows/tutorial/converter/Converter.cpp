@@ -32,8 +32,8 @@ protected:
             return;
         }
         // The dialog is shown when its loop is idle for the first time.
-        constexpr int mostTicks = 500;
-        if (!IsWindowVisible() && ++m_ticks < mostTicks)
+        constexpr int most_ticks = 500;
+        if (!IsWindowVisible() && ++m_ticks < most_ticks)
             return;
         KillTimer(SelfTestTimer);
         CString version;
@@ -187,8 +187,7 @@ CConverterApp theApp;
 
 LRESULT CConverterDialog::OnSelfTest(WPARAM, LPARAM)
 {
-    auto const convert = [this](LPCTSTR input)
-    {
+    auto const convert = [this](LPCTSTR input) {
         SetDlgItemText(IDC_INPUT, input);
         GetDlgItem(IDC_CONVERT)->SendMessage(BM_CLICK);
         CString text;

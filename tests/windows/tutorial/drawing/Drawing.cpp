@@ -218,14 +218,12 @@ COLORREF CDrawingWindow::PixelAt(int x, int y)
 
 LRESULT CDrawingWindow::OnSelfTest(WPARAM, LPARAM)
 {
-    auto const drawLine = [this](CPoint from, CPoint to)
-    {
+    auto const drawLine = [this](CPoint from, CPoint to) {
         SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(from.x, from.y));
         SendMessage(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM((from.x + to.x) / 2, (from.y + to.y) / 2));
         SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(to.x, to.y));
     };
-    auto const title = [this]
-    {
+    auto const title = [this] {
         CString text;
         GetWindowText(text);
         return text;

@@ -33,9 +33,7 @@ CString CSquare::Name() const
 BEGIN_MESSAGE_MAP(CSizeDialog, CDialog)
 END_MESSAGE_MAP()
 
-CSizeDialog::CSizeDialog(CWnd * parent) : CDialog(IDD_SHAPES_SIZE, parent)
-{
-}
+CSizeDialog::CSizeDialog(CWnd * parent) : CDialog(IDD_SHAPES_SIZE, parent) {}
 
 void CSizeDialog::DoDataExchange(CDataExchange * pDX)
 {
