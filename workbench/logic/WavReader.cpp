@@ -313,9 +313,17 @@ std::variant<WavReader, ReadProblem> WavReader::Open(std::unique_ptr<ByteSource>
 WavReader::WavReader(std::unique_ptr<ByteSource> source, RecordingInfo const & info, std::uint64_t dataOffset)
     : m_source(std::move(source)),
       m_info(info),
+      m_dataOffset(dataOffset),
       m_position(dataOffset),
       m_framesLeft(info.frames)
 {
+}
+
+void WavReader::Seek(std::uint64_t frame)
+{
+    std::uint64_t const first = std::min(frame, m_info.frames);
+    m_position = m_dataOffset + first * m_info.channels * m_info.bytesPerSample;
+    m_framesLeft = m_info.frames - first;
 }
 
 std::size_t WavReader::ReadFrames(std::span<double> samples)

@@ -79,6 +79,9 @@ public:
     /// zero is read as 0 and counted.
     std::size_t ReadFrames(std::span<double> samples);
 
+    /// Goes on with that frame, or with the end if there are fewer. What lies there is read from the source again.
+    void Seek(std::uint64_t frame);
+
     /// The number of samples read so far that were no usable numbers.
     std::uint64_t InvalidSamples() const { return m_invalidSamples; }
 
@@ -93,6 +96,7 @@ private:
 
     std::unique_ptr<ByteSource> m_source;
     RecordingInfo m_info;
+    std::uint64_t m_dataOffset;
     std::uint64_t m_position;
     std::uint64_t m_framesLeft;
     std::uint64_t m_invalidSamples = 0;
