@@ -198,6 +198,9 @@ void CMainWindow::PrepareContents()
     Waveform().SetColours(m_settings.waveform);
     Waveform().SetAmplification(m_settings.amplification);
     Waveform().m_onCursor = [this] { ShowReading(); };
+    Waveform().m_onMarks = [this] { m_spectrogram.SetMarks(Waveform().Marks()); };
+    m_spectrogram.m_onMarks = [this] { Waveform().SetMarks(m_spectrogram.Marks()); };
+    m_spectrogram.m_onComputed = [this] { m_spectrogram.SetMarks(Waveform().Marks()); };
     m_waveformPanel.m_onAmplified = [this](int decibels) {
         m_settings.amplification = decibels;
         workbench::StoreAmplification(decibels);

@@ -520,7 +520,7 @@ void CMainWindow::ShowChosen()
         {
             m_shown = chosen->analysis;
             m_shownText.clear();
-            Waveform().ShowRecording(name, m_shown);
+            Waveform().ShowRecording(name, m_shown, chosen->file);
             m_spectrogram.ShowRecording(name, chosen->file);
             m_preview.Update();
         }

@@ -188,7 +188,7 @@ std::vector<FrequencyTick> FrequencyTicks(FrequencyScale scale, double highest, 
 std::vector<TimeTick> TimeTicks(double first, double end, int width, int leastDistance)
 {
     std::vector<TimeTick> ticks;
-    if (!(end > first) || !(first >= 0.0) || width <= 0 || leastDistance <= 0)
+    if (!(end > first) || !(first >= 0.0) || !std::isfinite(end) || width <= 0 || leastDistance <= 0)
     {
         return ticks;
     }

@@ -138,6 +138,7 @@ constexpr Entry all_entries[] = {
     {L"Loudness", L"Lautheit"},
     {L"Strongest frequency", L"Stärkste Frequenz"},
     {L"Harmonic distortion", L"Klirrfaktor"},
+    {L"selected", L"ausgewählt"},
     {L"&Previous recording\tCtrl+Page Up", L"&Vorige Aufnahme\tStrg+Bild auf"},
     {L"&Next recording\tCtrl+Page Down", L"&Nächste Aufnahme\tStrg+Bild ab"},
     {L"Show in the &list", L"In der &Liste zeigen"},
