@@ -6,13 +6,13 @@
 
 #include "ExportDialog.h"
 #include "FileDialogs.h"
+#include "LanguageDialog.h"
 #include "OpenFolderDialog.h"
 #include "PictureCopy.h"
 #include "RecordingColumns.h"
 #include "SettingsFile.h"
 #include "colours/Farbtabellen.h"
 #include "controls/IdNameMultiselectDlg.h"
-#include "dialogs/SprachauswahlDlg.h"
 #include "logic/Amplification.h"
 #include "logic/SafeFile.h"
 #include "logic/TableText.h"
@@ -308,7 +308,7 @@ void CMainWindow::ChooseLanguage(unsigned short languageId)
 
 void CMainWindow::OnChooseLanguage()
 {
-    CSprachauswahlDlg dialog(workbench::ReadLanguage(), this);
+    CLanguageDialog dialog(workbench::ReadLanguage(), *this);
     if (dialog.DoModal() == IDOK && dialog.SpracheGeaendert())
     {
         ChooseLanguage(dialog.SprachId());
