@@ -46,7 +46,7 @@ constexpr Entry all_entries[] = {
     {L"This folder does not exist or cannot be read:", L"Diesen Ordner gibt es nicht, oder er ist nicht lesbar:"},
     {L"folder not found:", L"Ordner nicht gefunden:"},
     {L"folders not found:", L"Ordner nicht gefunden:"},
-    {L"Cancel", L"Abbrechen"},
+    {L"Cancel", L"Abbruch"},
     {L"Reference", L"Bezug"},
     {L"against it,", L"dagegen hat"},
     {L"has peak", L"Spitze"},
