@@ -520,8 +520,7 @@ std::vector<int> CRecordingList::TakeNotedLines()
 {
     auto lines = std::exchange(m_noted, {});
     std::ranges::sort(lines);
-    auto const again = std::ranges::unique(lines);
-    lines.erase(again.begin(), again.end());
+    lines.erase(std::unique(lines.begin(), lines.end()), lines.end());
     return lines;
 }
 

@@ -129,6 +129,7 @@ TEST_F(ToolkitResources, AnotherLanguageServesWhereOneIsNotStored)
     tests::ScopedLanguage const spanish(SPANISH);
     CString const colour = LoadToolkitString(102);
     EXPECT_TRUE(colour == L"Red" || colour == L"Rot") << "the colours' names are not stored in Spanish";
+    EXPECT_STREQ(LoadToolkitString(14), L"(keine Eintr\u00E4ge)") << "of this block others are";
 }
 
 TEST_F(ToolkitResources, HostFindsTextsAndIconsThroughTheChain)

@@ -22,12 +22,16 @@ public:
     /// What a sort under way goes by: the rank first, then the value. Without a meaning at other times.
     struct SortMark
     {
+        /// A number by which rows of one rank compare.
         long long value = 0;
         /// Where the text shown begins, among the texts of the sort.
         std::size_t text = 0;
+        /// Decides first.
         int rank = 0;
     };
+    /// The mark of the sort under way.
     SortMark const & sortMark() const { return m_sortMark; }
+    /// Sets the mark of the sort under way.
     void SetSortMark(SortMark const & mark) { m_sortMark = mark; }
     /// Counts the rows that this object has been: whoever holds it over a call that can run the host's code sees by
     /// another number that it was given back and taken anew.
@@ -35,6 +39,7 @@ public:
     /// Where the row was seen last; -1 if nowhere yet. Rows move without telling it: only worth a question whether the
     /// row is still there.
     int lastPlace() const { return m_lastPlace; }
+    /// Notes where the row was seen.
     void SetLastPlace(int place) const { m_lastPlace = place; }
 
 private:
@@ -76,6 +81,7 @@ public:
         }
     }
 
+    /// Rows as the pool holds them; valid until it changes.
     using Slots = std::span<std::unique_ptr<XLISTCTRLROW> const>;
     /// The rows in use, in no particular order.
     Slots InUse() const { return {m_slots.get(), m_used}; }
@@ -90,7 +96,9 @@ public:
     /// Whether that is the row taken last, without looking at what is behind the pointer.
     bool IsNewest(XLISTCTRLROW const * row) const { return m_used != 0 && m_slots[m_used - 1].get() == row; }
 
+    /// Rows that the pool holds, in use or not.
     std::size_t capacity() const { return m_capacity; }
+    /// Rows in use.
     std::size_t used() const { return m_used; }
 
 private:

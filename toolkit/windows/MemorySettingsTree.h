@@ -15,6 +15,7 @@ namespace registry_settings
 class INSTRUMENT_UI_API MemorySettingsTree final : public SettingsTree
 {
 public:
+    /// Whether the tree minds how a key was opened.
     enum class rights_t
     {
         /// A value can be set through any open key.
@@ -23,6 +24,7 @@ public:
         checked
     };
 
+    /// An empty tree.
     explicit MemorySettingsTree(rights_t rights = rights_t::unchecked);
 
     key_t Open(std::u16string const & subkey, access_t access) override;

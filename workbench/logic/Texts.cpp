@@ -45,7 +45,7 @@ constexpr Entry all_entries[] = {
      L"Esta carpeta no existe o no se puede leer:"},
     {L"folder not found:", L"Ordner nicht gefunden:", L"carpeta no encontrada:"},
     {L"folders not found:", L"Ordner nicht gefunden:", L"carpetas no encontradas:"},
-    {L"Cancel", L"Abbrechen", L"Cancelar"},
+    {L"Cancel", L"Abbruch", L"Cancelar"},
     {L"Reference", L"Bezug", L"Referencia"},
     {L"against it,", L"dagegen hat", L"respecto a ella,"},
     {L"has peak", L"Spitze", L"tiene un pico de"},
