@@ -195,6 +195,8 @@ int CMainWindow::OnCreate(LPCREATESTRUCT create)
 void CMainWindow::PrepareContents()
 {
     m_spectrogram.SetColours(Farbtabellen::SpektrogrammFarbtabelle(m_settings.spectrogramScale));
+    m_spectrogram.SetSettings(m_settings.spectrogram);
+    m_spectrogram.SetScale(m_settings.frequencyScale);
     Waveform().SetColours(m_settings.waveform);
     Waveform().SetAmplification(m_settings.amplification);
     Waveform().m_onCursor = [this] { ShowReading(); };

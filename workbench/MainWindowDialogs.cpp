@@ -148,6 +148,8 @@ void CMainWindow::FollowSettings(workbench::Settings const & settings)
     }
     m_panel.ChooseScale(settings.spectrogramScale);
     m_spectrogram.SetColours(Farbtabellen::SpektrogrammFarbtabelle(settings.spectrogramScale));
+    m_spectrogram.SetSettings(settings.spectrogram);
+    m_spectrogram.SetScale(settings.frequencyScale);
     Waveform().SetColours(settings.waveform);
     Waveform().SetAmplification(settings.amplification);
     if (settings.hiddenColumns != m_list.HiddenColumns())

@@ -37,9 +37,9 @@ CSettingsSheet::CSettingsSheet() : CPropertySheet3d(L"Settings", nullptr, 0)
     }
 }
 
-std::array<CSettingsGroup *, 4> CSettingsSheet::Groups()
+std::array<CSettingsGroup *, 5> CSettingsSheet::Groups()
 {
-    return {&m_start, &m_waveform, &m_list, &m_dialogs};
+    return {&m_start, &m_waveform, &m_spectrogram, &m_list, &m_dialogs};
 }
 
 bool CSettingsSheet::Open(CWnd & owner)

@@ -18,6 +18,7 @@
 #define IDD_SETTINGS_WAVEFORM 112
 #define IDD_SETTINGS_LIST 113
 #define IDD_SETTINGS_DIALOGS 114
+#define IDD_SETTINGS_SPECTROGRAM 115
 
 #ifndef IDC_STATIC
 #define IDC_STATIC -1
@@ -56,6 +57,9 @@
 #define IDC_COLUMNS 1116
 #define IDC_COLOUR_FIRST 1121 // trace, background, grid, cursor
 #define IDC_COLOUR_LAST 1124
+#define IDC_SPECTROGRAM_WINDOW 1131
+#define IDC_SPECTROGRAM_OVERLAP 1132
+#define IDC_FREQUENCY_SCALE 1133
 
 // The details: a label and a text for each line.
 #define IDC_DETAIL_LABEL_FIRST 1201
