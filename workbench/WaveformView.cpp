@@ -338,7 +338,8 @@ void CWaveformView::DrawStrip(CDC & dc, CRect const & plot)
     for (std::size_t i = 0; i < all.size(); ++i)
     {
         auto const top = y(all[i].greatest);
-        dc.FillSolidRect(inside.left + static_cast<int>(i), top, 1, std::max(y(all[i].least) - top, 0) + 1, Trace(0));
+        dc.FillSolidRect(inside.left + static_cast<int>(i), top, 1, std::max<int>(y(all[i].least) - top, 0) + 1,
+                         Trace(0));
     }
     dc.Draw3dRect(m_strip, m_plotColours.frame, m_plotColours.frame);
 }
