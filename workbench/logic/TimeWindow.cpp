@@ -48,8 +48,8 @@ void TimeWindow::Scroll(double part)
     auto const length = static_cast<double>(m_shown.Length());
     if (std::isfinite(part))
     {
-        // At least one frame, so that a short window can be moved at all.
-        double const step = part == 0.0 ? 0.0 : std::copysign(std::max(std::abs(part * length), 1.0), part);
+        // Whole frames, so that there is a way back, and at least one, so that a short window can be moved at all.
+        double const step = part == 0.0 ? 0.0 : std::copysign(std::max(std::round(std::abs(part * length)), 1.0), part);
         Place(static_cast<double>(m_shown.first) + step, length);
     }
 }

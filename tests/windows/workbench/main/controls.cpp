@@ -32,8 +32,9 @@ constexpr int blue_field = 708;
 // The pages of the settings.
 constexpr int start_page = 0;
 constexpr int waveform_page = 1;
-constexpr int list_page = 2;
-constexpr int dialogs_page = 3;
+constexpr int spectrogram_page = 2;
+constexpr int list_page = 3;
+constexpr int dialogs_page = 4;
 
 /// The visible popup of the thread that was activated last, but for these windows; null if there is none.
 HWND OtherPopup(std::vector<HWND> const & known)
@@ -203,6 +204,8 @@ TEST_F(WorkbenchControls, TheSettingsComeBackAtTheirPlaceAndPage)
     EXPECT_EQ(listAfter.Size() - listBefore.Size(), CSize(90, 50));
     tests::Key(VK_TAB, {VK_CONTROL});
     ASSERT_TRUE(tests::PumpUntil([this] { return Sheet().GetActiveIndex() == waveform_page; }));
+    tests::Key(VK_TAB, {VK_CONTROL});
+    ASSERT_TRUE(tests::PumpUntil([this] { return Sheet().GetActiveIndex() == spectrogram_page; }));
     // A page that is turned to later fills the same room.
     tests::Key(VK_TAB, {VK_CONTROL});
     ASSERT_TRUE(tests::PumpUntil([this] { return Sheet().GetActiveIndex() == list_page; }));
