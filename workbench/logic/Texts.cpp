@@ -174,6 +174,8 @@ constexpr Entry all_entries[] = {
     {L"This is no settings file, or it cannot be read:",
      L"Dies ist keine Einstellungsdatei, oder sie ist nicht lesbar:"},
     {L"The settings could not be stored.", L"Die Einstellungen ließen sich nicht speichern."},
+    // Panes.
+    {L"Recordings", L"Aufnahmen"},
 };
 
 /// The entries in the order of their English texts.
