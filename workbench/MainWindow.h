@@ -17,6 +17,7 @@
 #include "HostView.h"
 #include "FolderTree.h"
 #include "MeasurePanel.h"
+#include "Playing.h"
 #include "PreviewDialog.h"
 #include "RecordingList.h"
 #include "ScreenMetrics.h"
@@ -185,6 +186,9 @@ private:
     afx_msg void OnCopy();
     afx_msg void OnCopyAll();
     afx_msg void OnCopySpectrogram();
+    afx_msg void OnPlay();
+    afx_msg void OnStopPlaying();
+    afx_msg void OnLoopPlaying();
     afx_msg void OnCloseDialogs();
     afx_msg void OnDialogChosen(UINT id);
     afx_msg void OnFitColumns();
@@ -292,6 +296,7 @@ private:
     CFolderTree m_tree;
     CWaveformPanel m_waveformPanel;
     CSpectrogramView m_spectrogram;
+    CPlaying m_playing;
     std::shared_ptr<workbench::RecordingAnalysis const> m_shown; ///< in both views; null for a text
     std::wstring m_shownText;
     CMeasurePanel m_panel;

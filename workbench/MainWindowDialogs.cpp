@@ -301,6 +301,36 @@ CWaveformView & CMainWindow::WaveformInUse()
     return Waveform();
 }
 
+/// Plays what is selected, or all from the cursor on; pauses what is playing, and goes on with it.
+void CMainWindow::OnPlay()
+{
+    if (m_playing.IsPlaying())
+    {
+        m_playing.Pause(!m_playing.IsPaused());
+        return;
+    }
+    auto const * const chosen = RecordingAt(m_list.ChosenLine());
+    if (chosen == nullptr || !Waveform().ShowsRecording())
+    {
+        return;
+    }
+    auto const & marks = Waveform().Marks();
+    auto const file = chosen->file;
+    auto const stretch =
+        marks.HasSelection() ? marks.Selection() : workbench::FrameRange{marks.cursor, marks.window.Frames()};
+    m_playing.Play(*this, file, stretch);
+}
+
+void CMainWindow::OnStopPlaying()
+{
+    m_playing.Stop();
+}
+
+void CMainWindow::OnLoopPlaying()
+{
+    m_playing.SetLoop(!m_playing.Loops());
+}
+
 void CMainWindow::OnAmplify(UINT id)
 {
     auto & view = WaveformInUse();
@@ -552,6 +582,9 @@ void CMainWindow::OnInitMenuPopup(CMenu * menu, UINT index, BOOL systemMenu)
     enable(ID_COPY, RecordingCount() > 0);
     enable(ID_COPY_ALL, RecordingCount() > 0);
     enable(ID_COPY_SPECTROGRAM, m_shown && !m_shown->problem && !IsComputing());
+    enable(ID_PLAY, m_playing.IsPlaying() || Waveform().ShowsRecording());
+    enable(ID_STOP_PLAYING, m_playing.IsPlaying());
+    menu->CheckMenuItem(ID_LOOP_PLAYING, MF_BYCOMMAND | (m_playing.Loops() ? MF_CHECKED : MF_UNCHECKED));
     enable(ID_RELOAD, !m_targets.empty());
     enable(ID_SHOW_DETAILS, read);
     enable(ID_SHOW_IN_FRAME, recording != nullptr && m_frames.HasRoom());
