@@ -9,6 +9,7 @@ namespace bench
 bool LayoutArithmetic();
 bool SearchingRows();
 bool PaintingSegments();
+bool LookingAtAnHour();
 bool TypingIntoACombo();
 
 /// Runs the benchmarks registered since the last call; the best time of each in nanoseconds.
