@@ -17,6 +17,7 @@
 #include "HostView.h"
 #include "FolderTree.h"
 #include "MeasurePanel.h"
+#include "PictureCopy.h"
 #include "Playing.h"
 #include "PreviewDialog.h"
 #include "RecordingList.h"
@@ -185,7 +186,10 @@ private:
     afx_msg void OnPrintPreview();
     afx_msg void OnCopy();
     afx_msg void OnCopyAll();
+    afx_msg void OnCopyWaveform();
     afx_msg void OnCopySpectrogram();
+    afx_msg void OnSaveWaveform();
+    afx_msg void OnSaveSpectrogram();
     afx_msg void OnPlay();
     afx_msg void OnStopPlaying();
     afx_msg void OnLoopPlaying();
@@ -250,6 +254,8 @@ private:
     std::array<CWorkbenchDialog *, 2> Dialogs();
     std::array<CWnd *, 3> OwnedWindows();
     void EnterInMenu(CWnd & window, CString const & text, bool open);
+    CSize PictureSize(CWnd & view) const;
+    void SavePictureOf(CWnd & view, workbench::Drawing const & draw);
     void FollowSettings(workbench::Settings const & settings);
     void TakeSettings(workbench::Settings const & settings);
     void DrawPage(CDC & dc, CRect const & page);

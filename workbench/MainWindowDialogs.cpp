@@ -30,6 +30,10 @@ namespace
 constexpr int columns_width = 90;
 constexpr int columns_height = 128;
 
+// The least size of a picture, in dialog units.
+constexpr int least_picture_width = 240;
+constexpr int least_picture_height = 100;
+
 void SetItemText(HMENU menu, UINT item, bool byPosition, CString text)
 {
     MENUITEMINFOW info{};
@@ -510,12 +514,48 @@ void CMainWindow::OnCopyAll()
     m_list.CopyToClipboard(true);
 }
 
+void CMainWindow::OnCopyWaveform()
+{
+    workbench::CopyPicture(*this, PictureSize(Waveform()),
+                           [this](CDC & dc, CRect const & rect) { Waveform().Print(dc, rect); });
+}
+
 void CMainWindow::OnCopySpectrogram()
 {
-    CRect client;
-    m_spectrogram.GetClientRect(&client);
-    workbench::CopyPicture(*this, client.Size(),
+    workbench::CopyPicture(*this, PictureSize(m_spectrogram),
                            [this](CDC & dc, CRect const & rect) { m_spectrogram.Print(dc, rect); });
+}
+
+void CMainWindow::OnSaveWaveform()
+{
+    SavePictureOf(Waveform(), [this](CDC & dc, CRect const & rect) { Waveform().Print(dc, rect); });
+}
+
+void CMainWindow::OnSaveSpectrogram()
+{
+    SavePictureOf(m_spectrogram, [this](CDC & dc, CRect const & rect) { m_spectrogram.Print(dc, rect); });
+}
+
+/// The size of a picture of a view: the view's, but for one that is hidden or has next to no room.
+CSize CMainWindow::PictureSize(CWnd & view) const
+{
+    CRect client;
+    view.GetClientRect(&client);
+    return CSize(std::max<int>(client.Width(), m_metrics.X(least_picture_width)),
+                 std::max<int>(client.Height(), m_metrics.Y(least_picture_height)));
+}
+
+/// Lets the user save what a view shows, under the recording's name.
+void CMainWindow::SavePictureOf(CWnd & view, workbench::Drawing const & draw)
+{
+    auto const * const chosen = RecordingAt(m_list.ChosenLine());
+    auto const file =
+        workbench::ChoosePictureFile(*this, chosen != nullptr ? chosen->file.stem().wstring() : std::wstring());
+    if (file && !workbench::SavePicture(*this, PictureSize(view), draw, *file))
+    {
+        AfxMessageBox(Text(L"This file could not be written:") + (L"\n\n" + CString(file->c_str())),
+                      MB_ICONEXCLAMATION);
+    }
 }
 
 /// Closes dialogs and frames, as the user does.
@@ -582,6 +622,9 @@ void CMainWindow::OnInitMenuPopup(CMenu * menu, UINT index, BOOL systemMenu)
     enable(ID_COPY, RecordingCount() > 0);
     enable(ID_COPY_ALL, RecordingCount() > 0);
     enable(ID_COPY_SPECTROGRAM, m_shown && !m_shown->problem && !IsComputing());
+    enable(ID_SAVE_SPECTROGRAM, m_shown && !m_shown->problem && !IsComputing());
+    enable(ID_COPY_WAVEFORM, Waveform().ShowsRecording());
+    enable(ID_SAVE_WAVEFORM, Waveform().ShowsRecording());
     enable(ID_PLAY, m_playing.IsPlaying() || Waveform().ShowsRecording());
     enable(ID_STOP_PLAYING, m_playing.IsPlaying());
     menu->CheckMenuItem(ID_LOOP_PLAYING, MF_BYCOMMAND | (m_playing.Loops() ? MF_CHECKED : MF_UNCHECKED));

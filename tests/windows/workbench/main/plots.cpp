@@ -3,6 +3,8 @@
 #include <afxcmn.h>
 #include <afxwin.h>
 
+#include "Graphics.h"
+#include "PictureCopy.h"
 #include "Playing.h"
 #include "SpectrogramView.h"
 #include "WaveformView.h"
@@ -540,4 +542,56 @@ TEST_F(WaveformPlot, PlayingEndsWithItsObject)
     int const before = moves;
     tests::PumpPosted();
     EXPECT_EQ(moves, before);
+}
+
+TEST_F(WaveformPlot, IsSavedAsAPicture)
+{
+    std::filesystem::path const file = path.wstring() + L".png";
+    auto const draw = [this](CDC & dc, CRect const & rect) { view.Print(dc, rect); };
+    ASSERT_TRUE(workbench::SavePicture(parent, CSize(400, 200), draw, file));
+    workbench::GraphicsScope const graphics;
+    {
+        Gdiplus::Bitmap picture(file.c_str());
+        ASSERT_EQ(picture.GetLastStatus(), Gdiplus::Ok);
+        EXPECT_EQ(picture.GetWidth(), 400U);
+        EXPECT_EQ(picture.GetHeight(), 200U);
+        Gdiplus::Color corner;
+        picture.GetPixel(0, 0, &corner);
+        EXPECT_EQ(corner.ToCOLORREF(), RGB(255, 255, 255)) << "white paper";
+        int other = 0;
+        for (INT x = 0; x < 400; ++x)
+        {
+            Gdiplus::Color pixel;
+            picture.GetPixel(x, 120, &pixel);
+            other += pixel.ToCOLORREF() != RGB(255, 255, 255) ? 1 : 0;
+        }
+        EXPECT_GT(other, 10);
+    }
+    // Where it can't be written, what was there stays.
+    EXPECT_FALSE(workbench::SavePicture(parent, CSize(0, 0), draw, file));
+    EXPECT_TRUE(std::filesystem::exists(file));
+    EXPECT_FALSE(workbench::SavePicture(parent, CSize(40, 20), draw, L"Z:\\no such folder\\picture.png"));
+    std::error_code error;
+    std::filesystem::remove(file, error);
+}
+
+TEST_F(WaveformPlot, IsCopiedAsAMetafileAndAsABitmap)
+{
+    ASSERT_TRUE(workbench::CopyPicture(parent, CSize(300, 150),
+                                       [this](CDC & dc, CRect const & rect) { view.Print(dc, rect); }));
+    EXPECT_TRUE(::IsClipboardFormatAvailable(CF_ENHMETAFILE));
+    ASSERT_TRUE(::IsClipboardFormatAvailable(CF_DIB));
+    ASSERT_TRUE(::OpenClipboard(parent.m_hWnd));
+    HANDLE const memory = ::GetClipboardData(CF_DIB);
+    auto const * const header =
+        static_cast<BITMAPINFOHEADER const *>(memory != nullptr ? ::GlobalLock(memory) : nullptr);
+    if (header != nullptr)
+    {
+        EXPECT_EQ(header->biWidth, 300);
+        EXPECT_EQ(header->biHeight, 150);
+        ::GlobalUnlock(memory);
+    }
+    EXPECT_NE(header, nullptr);
+    ::EmptyClipboard();
+    ::CloseClipboard();
 }
