@@ -3,6 +3,7 @@
 // and on it the list's operations, put together from the toolkit's row pool, cell record, column fit and decisions.
 
 #include "ListReferenceModel.h"
+#include "list/CellKind.h"
 #include "list/XListColumnFit.h"
 #include "list/XListInput.h"
 #include "list/XListRowPool.h"

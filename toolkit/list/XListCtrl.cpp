@@ -6,11 +6,11 @@
 #include "list/XListInput.h"
 #include "resources/resource_ids.h"
 
+#include <memory>
 #include <utility>
 
 namespace
 {
-constexpr std::size_t first_pool_capacity = 16;
 constexpr UINT last_tool_id = 0xFFFF;
 } // namespace
 
@@ -44,7 +44,13 @@ BEGIN_MESSAGE_MAP(CXListCtrl, CListCtrl)
 END_MESSAGE_MAP()
 // clang-format on
 
-CXListCtrl::CXListCtrl() : m_rowPool(first_pool_capacity)
+CXListCtrl::CXListCtrl()
+    : m_sort(std::make_unique<SortState>()),
+      m_rows(std::make_unique<RowState>()),
+      m_fit(std::make_unique<FitState>()),
+      m_editors(std::make_unique<EditorState>()),
+      m_paint(std::make_unique<PaintState>()),
+      m_drag(std::make_unique<DragState>())
 {
     GetColors();
 }
@@ -60,11 +66,11 @@ CXListCtrl::~CXListCtrl()
 void CXListCtrl::PreSubclassWindow()
 {
     CListCtrl::PreSubclassWindow();
-    ForgetRow();
-    m_rowsInStep = GetItemCount() == 0;
+    m_rows->memory.Forget();
+    m_rows->memory.SetInStep(GetItemCount() == 0);
     // Left from rows that a host inserted into a former window while it ended.
-    if (m_rowsInStep)
-        m_rowPool.GiveBackAll();
+    if (m_rows->memory.IsInStep())
+        m_rows->pool.GiveBackAll();
     SetExtendedStyle(GetExtendedStyle() | LVS_EX_FULLROWSELECT);
     if (m_itemToolTips)
     {
@@ -107,8 +113,8 @@ void CXListCtrl::OnDestroy()
 {
     EndDragImage();
     EndEditors();
-    m_rowPool.GiveBackAll();
-    m_rowsInStep = false;
+    m_rows->pool.GiveBackAll();
+    m_rows->memory.LoseStep();
     m_headerSubclassed = false;
     CListCtrl::OnDestroy();
 }

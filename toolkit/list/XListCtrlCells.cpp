@@ -49,8 +49,9 @@ XLISTCTRLROW * CXListCtrl::RowOf(int row) const
 {
     if (row < 0 || m_hWnd == nullptr)
         return nullptr;
-    if (row == m_knownRow)
-        return m_knownRowObject;
+    RowMemory & memory = m_rows->memory;
+    if (memory.Knows(row))
+        return memory.Object();
     LVITEMW item{};
     item.mask = LVIF_PARAM;
     item.iItem = row;
@@ -58,7 +59,7 @@ XLISTCTRLROW * CXListCtrl::RowOf(int row) const
     if (const_cast<CXListCtrl *>(this)->DefWindowProc(LVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&item)) == FALSE)
         return nullptr;
     auto * const object = reinterpret_cast<XLISTCTRLROW *>(item.lParam);
-    RememberRow(row, object);
+    memory.Remember(row, object);
     return object;
 }
 
@@ -79,20 +80,9 @@ int CXListCtrl::PlaceOf(XLISTCTRLROW const * object) const
     return place;
 }
 
-void CXListCtrl::RememberRow(int row, XLISTCTRLROW * object) const
+bool CXListCtrl::RowsAreKnown() const
 {
-    if (m_rowChangesUnderWay != 0)
-        return;
-    m_knownRow = row;
-    m_knownRowObject = object;
-    if (object != nullptr && m_rowsInStep)
-        object->SetLastPlace(row);
-}
-
-void CXListCtrl::ForgetRow() const
-{
-    m_knownRow = -1;
-    m_knownRowObject = nullptr;
+    return m_rows->memory.AreRowsKnown();
 }
 
 LRESULT CXListCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
@@ -116,19 +106,14 @@ LRESULT CXListCtrl::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     if (!ChangesRows(message, lParam))
         return CListCtrl::DefWindowProc(message, wParam, lParam);
 
-    NoteRowChange(message, lParam, std::exchange(m_ownRowChange, false));
+    NoteRowChange(message, lParam, std::exchange(m_rows->ownChange, false));
     struct RowChange
     {
-        explicit RowChange(CXListCtrl & changed) : list(changed), watch(changed)
-        {
-            list.ForgetRow();
-            ++list.m_rowChanges;
-            ++list.m_rowChangesUnderWay;
-        }
+        explicit RowChange(CXListCtrl & changed) : list(changed), watch(changed) { list.m_rows->memory.BeginChange(); }
         ~RowChange()
         {
             if (watch.IsThere())
-                --list.m_rowChangesUnderWay;
+                list.m_rows->memory.EndChange();
         }
         CXListCtrl & list;
         Watch watch;
@@ -153,13 +138,13 @@ void CXListCtrl::NoteRowChange(UINT message, LPARAM lParam, bool own)
         auto const * const row =
             (item->mask & LVIF_PARAM) != 0 ? reinterpret_cast<XLISTCTRLROW const *>(item->lParam) : nullptr;
         bool const inserts = message == LVM_INSERTITEMA || message == LVM_INSERTITEMW;
-        if (!m_rowPool.IsNewest(row) && (row != nullptr || !inserts))
-            m_rowsInStep = false;
+        if (!m_rows->pool.IsNewest(row) && (row != nullptr || !inserts))
+            m_rows->memory.LoseStep();
         return;
     }
     case LVM_DELETEITEM:
     case LVM_DELETEALLITEMS:
-        m_rowsInStep = false;
+        m_rows->memory.LoseStep();
         return;
     default:
         return;
@@ -190,7 +175,7 @@ std::vector<XLISTCTRLROW *> CXListCtrl::RowsFromTop() const
         return rows;
     // Whatever else hangs from an item is not to be touched.
     std::vector<XLISTCTRLROW const *> own;
-    for (auto const & row : m_rowPool.All())
+    for (auto const & row : m_rows->pool.All())
     {
         if (row != nullptr)
             own.push_back(row.get());
@@ -210,7 +195,7 @@ template <class Matches> int CXListCtrl::FindTopmost(Matches && matches) const
         return -1;
     // While items change, a row given back may still hang from one.
     bool const known = RowsAreKnown();
-    CXListRowPool::Slots const rows = known ? m_rowPool.InUse() : m_rowPool.All();
+    CXListRowPool::Slots const rows = known ? m_rows->pool.InUse() : m_rows->pool.All();
     return FindTopmostRow(
         rows, known, [this] { return RowCount(); }, matches, [this](XLISTCTRLROW const & row) { return PlaceOf(&row); },
         [this](int row) { return NativeParam(row); });
@@ -220,7 +205,7 @@ bool CXListCtrl::IsValidItem(int row, int col) const
 {
     if (row < 0 || col < 0 || col >= m_columnCount || m_hWnd == nullptr)
         return false;
-    return row == m_knownRow || row < GetItemCount();
+    return m_rows->memory.Knows(row) || row < GetItemCount();
 }
 
 XLISTCTRLDATA * CXListCtrl::ValidCell(int row, int col) const

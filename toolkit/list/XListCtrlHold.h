@@ -2,35 +2,28 @@
 // What the list holds over calls that can run the host's code. Such code may delete rows and columns, destroy the
 // window or delete the list itself. These classes live on the stack alone.
 
+#include "frame/WindowAlive.h"
 #include "list/XListCtrl.h"
+#include "list/XListCtrlState.h"
 
-/// Tells whether the list and the window that it had are still there.
-class CXListCtrl::Watch
+/// Tells whether the list, the window that it had and its rows are still there.
+class CXListCtrl::Watch : public WindowAlive
 {
 public:
     explicit Watch(CXListCtrl const & list)
-        : m_list(list),
-          m_life(list.m_life),
-          m_window(list.m_hWnd),
-          m_changes(list.m_rowChanges)
+        : WindowAlive(list, list.m_rows->life),
+          m_list(list),
+          m_changes(list.m_rows->memory.Changes())
     {
     }
-    Watch(Watch const &) = delete;
-    Watch & operator=(Watch const &) = delete;
 
-    /// Whether the list is still there, with or without its window.
-    bool IsThere() const { return !m_life.Over(); }
-    /// False also for a list that had no window to begin with.
-    bool IsAlive() const { return m_window != nullptr && IsThere() && m_list.m_hWnd == m_window; }
     /// How many messages since then may have changed rows; only of a list that is there.
-    unsigned long long Changes() const { return m_list.m_rowChanges - m_changes; }
+    unsigned long long Changes() const { return m_list.m_rows->memory.Changes() - m_changes; }
     /// The list is there, and so are its rows, at their places.
     bool IsUnchanged() const { return IsAlive() && Changes() == 0; }
 
 private:
     CXListCtrl const & m_list;
-    LifeWatch m_life;
-    HWND m_window;
     unsigned long long m_changes;
 };
 
@@ -38,11 +31,14 @@ private:
 class CXListCtrl::Pin
 {
 public:
-    Pin(CXListCtrl & list, XLISTCTRLROW const * row) : m_watch(list), m_list(list) { list.m_pinned.push_back(row); }
+    Pin(CXListCtrl & list, XLISTCTRLROW const * row) : m_watch(list), m_list(list)
+    {
+        list.m_rows->pinned.push_back(row);
+    }
     ~Pin()
     {
         if (m_watch.IsThere())
-            m_list.m_pinned.pop_back();
+            m_list.m_rows->pinned.pop_back();
     }
     Pin(Pin const &) = delete;
     Pin & operator=(Pin const &) = delete;

@@ -7,6 +7,7 @@
 #include <cwchar>
 #include <utility>
 
+#include "list/CellText.h"
 #include "list/XListCtrlHold.h"
 
 namespace
@@ -64,8 +65,8 @@ bool CXListCtrl::SetItemText(int row, int col, wchar_t const * text, COLORREF te
     bool const shown = text == nullptr || ShowText(row, col, text);
     if (XLISTCTRLDATA * const cell = held.Cell(col))
     {
-        cell->textColor = textColor != default_color ? textColor : m_colorWindowText;
-        cell->backgroundColor = background != default_color ? background : m_colorWindow;
+        cell->textColor = textColor != default_color ? textColor : m_paint->palette.windowText;
+        cell->backgroundColor = background != default_color ? background : m_paint->palette.window;
         Repaint(held, col);
     }
     return shown;
@@ -190,7 +191,7 @@ bool CXListCtrl::SetProgress(int row, int col, bool showText, wchar_t const * fo
     cell->progressDisplayValue = 0;
     cell->progressShowText = showText;
     cell->progressFormat = OrEmpty(format);
-    cell->backgroundColor = m_colorSelection;
+    cell->backgroundColor = m_paint->palette.selection;
     UpdateSubItem(row, col);
     return true;
 }
@@ -239,6 +240,23 @@ void CXListCtrl::RemoveCustomDraw(int row, int col)
         return;
     cell->properties &= ~XLP_CUSTOMDRAW;
     cell->customDraw = nullptr;
+}
+
+bool CXListCtrl::SetCellKind(int row, int col, std::shared_ptr<CXListCellKind> kind)
+{
+    if (ValidCell(row, col) == nullptr)
+        return false;
+    Watch const watch(*this);
+    m_rows->hadKinds = true;
+    RowOf(row)->SetKind(static_cast<unsigned int>(col), std::move(kind));
+    if (watch.IsAlive())
+        UpdateSubItem(row, col);
+    return true;
+}
+
+std::shared_ptr<CXListCellKind> CXListCtrl::GetCellKind(int row, int col) const
+{
+    return m_rows->hadKinds && ValidCell(row, col) != nullptr ? RowOf(row)->Kind(static_cast<unsigned int>(col)) : nullptr;
 }
 
 // Combo cells
@@ -344,7 +362,7 @@ int CXListCtrl::GetComboCurSel(int row, int col) const
 
 CString CXListCtrl::GetComboText(int row, int col)
 {
-    return IsValidItem(row, col) ? GetItemText(row, col) : CString();
+    return IsValidItem(row, col) ? CString(ReadCellText(row, col).Characters()) : CString();
 }
 
 // The shared table

@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <iterator>
 
+#include "list/XListCtrlState.h"
+
 namespace
 {
 /// Texts of this length or more don't fit the tooltip structure's own buffer.
