@@ -3,7 +3,6 @@
 #include "frame/InternalMessages.h"
 #include "frame/ToolkitResources.h"
 #include "list/XListCtrlHold.h"
-#include "list/XListInput.h"
 #include "resources/resource_ids.h"
 
 #include <memory>
@@ -46,7 +45,7 @@ END_MESSAGE_MAP()
 
 CXListCtrl::CXListCtrl()
     : m_sort(std::make_unique<SortState>()),
-      m_rows(std::make_unique<RowState>()),
+      m_rows(std::make_unique<RowState>(*this)),
       m_fit(std::make_unique<FitState>()),
       m_editors(std::make_unique<EditorState>()),
       m_paint(std::make_unique<PaintState>()),
@@ -66,11 +65,11 @@ CXListCtrl::~CXListCtrl()
 void CXListCtrl::PreSubclassWindow()
 {
     CListCtrl::PreSubclassWindow();
-    m_rows->memory.Forget();
-    m_rows->memory.SetInStep(GetItemCount() == 0);
+    m_rows->model.memory.Forget();
+    m_rows->model.memory.SetInStep(GetItemCount() == 0);
     // Left from rows that a host inserted into a former window while it ended.
-    if (m_rows->memory.IsInStep())
-        m_rows->pool.GiveBackAll();
+    if (m_rows->model.memory.IsInStep())
+        m_rows->model.pool.GiveBackAll();
     SetExtendedStyle(GetExtendedStyle() | LVS_EX_FULLROWSELECT);
     if (m_itemToolTips)
     {
@@ -113,8 +112,8 @@ void CXListCtrl::OnDestroy()
 {
     EndDragImage();
     EndEditors();
-    m_rows->pool.GiveBackAll();
-    m_rows->memory.LoseStep();
+    m_rows->model.pool.GiveBackAll();
+    m_rows->model.memory.LoseStep();
     m_headerSubclassed = false;
     CListCtrl::OnDestroy();
 }
@@ -243,19 +242,4 @@ void CXListCtrl::SetHeaderRemoveAllMarks()
     Watch const watch(*this);
     for (int col = 0; watch.IsAlive() && col < m_columnCount; ++col)
         SetHeaderCheckedState(col, XHC_NONE);
-}
-
-void CXListCtrl::UpdateHeaderFromCells(int col)
-{
-    if (!m_headerAutoCheckbox || !HeaderFollowsCells(GetHeaderCheckedState(col)))
-        return;
-    auto const rows = static_cast<unsigned long long>(RowCount());
-    unsigned long long counts[XLC_CROSSED + 1] = {};
-    VisitRows([index = static_cast<unsigned int>(col), &counts](XLISTCTRLROW const & row) {
-        int const state = index < row.capacity() ? row.cells()[index].checkedState : XLC_NONE;
-        if (state >= XLC_UNCHECKED && state <= XLC_CROSSED)
-            ++counts[state];
-    });
-    SetHeaderCheckedState(col,
-                          HeaderStateOfCells(rows, counts[XLC_UNCHECKED], counts[XLC_CHECKED], counts[XLC_CROSSED]));
 }

@@ -157,8 +157,8 @@ public:
     wchar_t const * GlobalComboStringsGetText(int id) const;
 
     // --- The native list's own forms of names that this class has as well ---
-    // A row that they insert is the native list's alone, and has no cells. Columns that the native list is told to insert
-    // or delete past this class are counted, and cells move as texts do: the first column takes none with it.
+    // A row that they insert is the native list's alone, and has no cells. Columns that the native list is told to
+    // insert or delete past this class are counted, and cells move as texts do: the first column takes none with it.
 
     using CListCtrl::GetItem;
     using CListCtrl::InsertColumn;
@@ -415,21 +415,10 @@ private:
     std::vector<int> GiveBackUnshownRows();
     /// Sets the native text alone; false if that fails.
     bool ShowText(int row, int col, wchar_t const * text);
-    /// Shows the text and then calls change(cell), unless the row has ended meanwhile. False without that cell, or if
-    /// the native list refuses the text.
-    template <class Change> bool ChangeText(int row, int col, wchar_t const * text, Change && change);
-    bool ShowFloat(int row, int col, float value, wchar_t const * text);
     /// Repaints the row's cell where the row is now.
     void Repaint(HeldRow & held, int col);
     /// Gives the columns the fitted widths of the work array, the preferred one the first width before.
     void SetNativeWidths(int preferred, int firstWidth);
-    void SelectComboEntry(int row, int col, XLISTCTRLDATA & cell, std::pair<int const, wchar_t const *> const * entry);
-    /// The cells of a row as far as the list's columns reach; none for a row without.
-    std::span<XLISTCTRLDATA> CellsOf(int row) const;
-    /// What a press does to a check cell: its state, its mark of a change, its picture, and the notification.
-    void ChangeCheckByUser(int row, int col, int state);
-    /// The same but for the list's own mark.
-    void ShowCheckByUser(int row, int col, int state);
     /// Gives the cell of a host's own kind what a press or a key made of it.
     void ChangeByKind(int row, int col, CXListCellKind::Change const & change);
     /// Offers a press or a key to the host's kind of a cell; whether it took it. The list may be gone then.
@@ -438,8 +427,6 @@ private:
     /// The text that the cell shows, up to that length.
     CellText ReadCellText(int row, int col) const;
     CellText ReadCellText(int row, int col, int limit) const;
-    /// Recomputes the state of a column's header from its cells, where the header follows them.
-    void UpdateHeaderFromCells(int col);
     void PostToParent(unsigned int message, WPARAM wParam, LPARAM lParam) const;
     // Editors. An editor that ends tells nothing.
     void EndEdit();
@@ -510,8 +497,6 @@ private:
     /// Calls visit(XLISTCTRLROW &) for each item's row object, in no particular order. visit runs no code of the
     /// host's.
     template <class Visit> void VisitRows(Visit && visit) const;
-    /// The topmost row whose object satisfies matches(XLISTCTRLROW const &); -1 if there is none.
-    template <class Matches> int FindTopmost(Matches && matches) const;
     void SortByCells(int col, bool ascending);
     /// Tells the order the texts of its column; false if the host changed the rows meanwhile.
     bool AddTexts(CListRowOrder & order, int col);
@@ -523,6 +508,7 @@ private:
     std::wstring HeaderTitle(int col) const;
 
     // What the sources of the list keep for themselves (XListCtrlState.h).
+    class Items;
     struct DragState;
     struct EditorState;
     struct FitState;

@@ -203,7 +203,7 @@ void CXListCtrl::drop_on_list()
 bool CXListCtrl::SwapRows(std::vector<dd_list_Item> & upper, std::vector<dd_list_Item> & lower, int a, int b)
 {
     Watch const watch(*this);
-    unsigned long long const changes = m_rows->memory.Changes();
+    unsigned long long const changes = m_rows->model.memory.Changes();
     XLISTCTRLROW * const objects[] = {RowOf(a), RowOf(b)};
     {
         Pin const pinUpper(*this, objects[0]);
@@ -211,14 +211,16 @@ bool CXListCtrl::SwapRows(std::vector<dd_list_Item> & upper, std::vector<dd_list
         save_row(upper, a);
         if (watch.IsAlive())
             save_row(lower, b);
-        if (!watch.IsAlive() || m_rows->memory.Changes() != changes)
+        if (!watch.IsAlive() || m_rows->model.memory.Changes() != changes)
             return false;
         ++m_drag->rowSwaps;
         bool const begun = restore_row(upper, b);
-        bool swapped = begun && watch.IsAlive() && m_rows->memory.Changes() == changes + 1 && restore_row(lower, a);
-        swapped = swapped && watch.IsAlive() && m_rows->memory.Changes() == changes + 2;
+        bool swapped =
+            begun && watch.IsAlive() && m_rows->model.memory.Changes() == changes + 1 && restore_row(lower, a);
+        swapped = swapped && watch.IsAlive() && m_rows->model.memory.Changes() == changes + 2;
         // Refused by the parent halfway: as it was.
-        if (begun && !swapped && watch.IsAlive() && m_rows->memory.Changes() == changes + 2 && RowOf(b) == objects[0])
+        if (begun && !swapped && watch.IsAlive() && m_rows->model.memory.Changes() == changes + 2 &&
+            RowOf(b) == objects[0])
             restore_row(lower, b);
         if (watch.IsThere())
             --m_drag->rowSwaps;
@@ -265,9 +267,9 @@ bool CXListCtrl::restore_row(std::vector<dd_list_Item> & saved, int row)
     auto const * const object = reinterpret_cast<XLISTCTRLROW const *>(saved.front().item.lParam);
     Watch const watch(*this);
     // The first cell takes the row's object along, which is a change.
-    unsigned long long const changes = m_rows->memory.Changes() + 1;
+    unsigned long long const changes = m_rows->model.memory.Changes() + 1;
     for (std::size_t col = 0;
-         col < saved.size() && watch.IsAlive() && (col == 0 || m_rows->memory.Changes() == changes); ++col)
+         col < saved.size() && watch.IsAlive() && (col == 0 || m_rows->model.memory.Changes() == changes); ++col)
     {
         if (object != nullptr && col < object->capacity())
             object->cells()[col].properties |= XLP_MODIFIED;

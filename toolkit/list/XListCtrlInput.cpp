@@ -130,14 +130,10 @@ void CXListCtrl::OnLButtonDown(UINT, CPoint point)
             OnItemStateChange(place, col, WM_XLISTCTRL_LINK_CLICKED);
         return;
     case CellPress::flip_check:
-        ChangeCheckByUser(held.Row(), col, cell->checkedState == XLC_CHECKED ? XLC_UNCHECKED : XLC_CHECKED);
-        if (held.IsListAlive())
-            UpdateHeaderFromCells(col);
+        m_rows->model.FlipCheck(held, col);
         break;
     case CellPress::switch_radio_on:
-        ShowCheckByUser(GetActiveRadioItem(col), col, XLC_RADIO_OFF);
-        if (int const place = held.Row(); place >= 0)
-            ChangeCheckByUser(place, col, XLC_RADIO_ON);
+        m_rows->model.SwitchRadioOn(held, col);
         break;
     case CellPress::ignored:
     case CellPress::select_only:
@@ -145,23 +141,6 @@ void CXListCtrl::OnLButtonDown(UINT, CPoint point)
     }
     if (held.IsListAlive())
         pass();
-}
-
-void CXListCtrl::ChangeCheckByUser(int row, int col, int state)
-{
-    m_listModified = true;
-    ShowCheckByUser(row, col, state);
-}
-
-void CXListCtrl::ShowCheckByUser(int row, int col, int state)
-{
-    XLISTCTRLDATA * const cell = row >= 0 ? ValidCell(row, col) : nullptr;
-    if (cell == nullptr)
-        return;
-    cell->checkedState = state;
-    cell->properties |= XLP_MODIFIED;
-    UpdateSubItem(row, col);
-    OnItemStateChange(row, col, WM_XLISTCTRL_CHECKBOX_CLICKED);
 }
 
 // --- Kinds of the host's own ---
@@ -277,26 +256,10 @@ BOOL CXListCtrl::OnColumnClick(NMHDR * header, LRESULT * result)
 
 void CXListCtrl::OnHeaderColumnClick(int col)
 {
-    HeaderPress const press = DecideHeaderPress(GetHeaderCheckedState(col), m_headerAutoCheckbox);
-    if (press.changesCells)
-    {
-        Watch const watch(*this);
-        SetHeaderCheckedState(col, press.headerState);
-        if (watch.IsAlive())
-            m_header.UpdateWindow();
-        int rows = watch.IsAlive() ? RowCount() : 0;
-        for (int row = 0; row < rows; ++row)
-        {
-            XLISTCTRLDATA const * const cell = ValidCell(row, col);
-            if (cell == nullptr || cell->checkedState == XLC_NONE || cell->checkedState == press.cellState)
-                continue;
-            ChangeCheckByUser(row, col, press.cellState);
-            rows = watch.IsAlive() ? RowCount() : 0;
-        }
-        if (!watch.IsAlive())
-            return;
-    }
-    PostToParent(WM_XLISTCTRL_COLUMNCLICK, Word(press.cellState), static_cast<LPARAM>(Word(col)));
+    Watch const watch(*this);
+    int const reported = m_rows->model.PressHeader(col);
+    if (watch.IsAlive())
+        PostToParent(WM_XLISTCTRL_COLUMNCLICK, Word(reported), static_cast<LPARAM>(Word(col)));
 }
 
 // --- Keyboard ---

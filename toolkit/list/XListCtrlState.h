@@ -2,16 +2,13 @@
 // What the list's sources keep in it and no host needs to see.
 
 #include <cstddef>
-#include <map>
 #include <memory>
 #include <vector>
 
-#include "frame/LifeWatch.h"
 #include "list/CellPainters.h"
-#include "list/RowMemory.h"
+#include "list/ListModel.h"
 #include "list/XListColumnFit.h"
 #include "list/XListCtrl.h"
-#include "list/XListRowPool.h"
 
 namespace XListCtrl
 {
@@ -19,12 +16,37 @@ class CXCombo;
 class CXEdit;
 } // namespace XListCtrl
 
+/// The native list as the model of its rows sees it.
+class CXListCtrl::Items final : public ListItems
+{
+public:
+    explicit Items(CXListCtrl & list) : m_list(list) {}
+    void const * Identity() const override { return m_list.m_hWnd; }
+    int RowCount() const override { return m_list.RowCount(); }
+    int ColumnCount() const override { return m_list.m_columnCount; }
+    bool ObjectAt(int row, XLISTCTRLROW *& object) const override;
+    int FindObject(XLISTCTRLROW const & object) const override;
+    std::vector<XLISTCTRLROW *> ObjectsFromTop() const override { return m_list.RowsFromTop(); }
+    void MarkModified() override { m_list.m_listModified = true; }
+    bool HeadersFollow() const override { return m_list.m_headerAutoCheckbox; }
+    int HeaderState(int col) const override { return m_list.GetHeaderCheckedState(col); }
+    bool Repaints() const override { return !m_list.m_batchInsert; }
+    bool SetHeaderState(int col, int state) override { return m_list.SetHeaderCheckedState(col, state); }
+    void UpdateHeader() override { m_list.m_header.UpdateWindow(); }
+    bool ShowText(int row, int col, wchar_t const * text) override { return m_list.ShowText(row, col, text); }
+    void Repaint(int row, int col) override { m_list.UpdateSubItem(row, col); }
+    void TellOfCheck(int row, int col) override;
+
+private:
+    CXListCtrl & m_list;
+};
+
 struct CXListCtrl::RowState
 {
-    static constexpr std::size_t first_pool_capacity = 16;
+    explicit RowState(CXListCtrl & list) : items(list), model(items) {}
 
-    CXListRowPool pool{first_pool_capacity};
-    RowMemory memory;
+    Items items;
+    ListModel model;
     /// Row objects that operations under way keep in use.
     std::vector<XLISTCTRLROW const *> pinned;
     /// The next change is an operation of this class, which keeps the books itself.
@@ -33,8 +55,6 @@ struct CXListCtrl::RowState
     bool ownColumnChange = false;
     /// Some cell has had a kind of the host's own: only then rows are asked for them.
     bool hadKinds = false;
-    /// Ends with the list, for whoever must know.
-    LifeSign life;
 };
 
 /// What AutosizeColumnWidth works with.
@@ -95,15 +115,5 @@ struct CXListCtrl::PaintState
 
 template <class Visit> void CXListCtrl::VisitRows(Visit && visit) const
 {
-    if (RowsAreKnown())
-    {
-        for (auto const & row : m_rows->pool.InUse())
-            visit(*row);
-        return;
-    }
-    for (XLISTCTRLROW * const row : RowsFromTop())
-    {
-        if (row != nullptr)
-            visit(*row);
-    }
+    m_rows->model.VisitRows(visit);
 }
