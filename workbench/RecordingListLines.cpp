@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "RecordingOverview.h"
+#include "StarRating.h"
 #include "frame/CoreLibrary.h"
 #include "logic/ReadableColours.h"
 #include "logic/RecordingDetails.h"
@@ -147,6 +148,7 @@ void CRecordingList::PrepareRow(int row, std::filesystem::path const & file, Not
     SetItemToolTipText(row, column_name, file.c_str());
     SetRadioButton(row, column_reference, notes.reference ? XLC_RADIO_ON : XLC_RADIO_OFF);
     SetComboBoxGlobalStrings(row, column_rating, notes.rating, 0);
+    SetCellKind(row, column_rating, CStarRating::Shared());
     SetItemText(row, column_comment, notes.comment.c_str());
     SetEdit(row, column_comment, true);
     SetItemText(row, column_status, status);
@@ -262,6 +264,7 @@ void CRecordingList::ShowProblem(int row, workbench::RecordingAnalysis const & a
     SetBold(row, column_name, false);
     SetItemProperty(row, column_name, XLP_UNDERLINE, false);
     SetRadioButton(row, column_reference, XLC_NONE);
+    SetCellKind(row, column_rating, nullptr);
     SetComboBox(row, column_rating, std::map<int, wchar_t const *>(), 0, 0);
     SetItemText(row, column_rating, L"");
     SetEdit(row, column_comment, false);
