@@ -142,7 +142,7 @@ BEGIN_MESSAGE_MAP(CBrowserWindow, CWnd)
     ON_NOTIFY(TVN_ENDLABELEDIT, TreeId, &CBrowserWindow::OnEndLabelEdit)
     ON_NOTIFY(LVN_COLUMNCLICK, ListId, &CBrowserWindow::OnColumnClick)
     ON_REGISTERED_MESSAGE(FilterMessage, &CBrowserWindow::OnFilterChanged)
-    ON_MESSAGE(CSelfTest::Message, &CBrowserWindow::OnSelfTest)
+    ON_MESSAGE(CSelfTest::message, &CBrowserWindow::OnSelfTest)
 END_MESSAGE_MAP()
 
 int CBrowserWindow::OnCreate(LPCREATESTRUCT lpCreateStruct)
@@ -323,7 +323,7 @@ public:
         m_window.ShowWindow(m_nCmdShow);
         m_window.UpdateWindow();
         if (CSelfTest::IsWanted())
-            m_window.PostMessage(CSelfTest::Message);
+            m_window.PostMessage(CSelfTest::message);
         return TRUE;
     }
 
