@@ -1,6 +1,6 @@
 // The segment display as a control: what its setters do to its text, its style and its window.
 
-#include "displays_DigiStaticTest.h"
+#include "segments_DigiStaticTest.h"
 
 #include "DialogTemplate.h"
 #include "MessageRecorder.h"

@@ -1,6 +1,6 @@
 // Windows that take the shape of their segments, and the corner that is left out of painting.
 
-#include "displays_DigiStaticTest.h"
+#include "segments_DigiStaticTest.h"
 
 #include "GdiHandleCount.h"
 #include "ImportPatch.h"

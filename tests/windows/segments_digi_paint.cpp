@@ -1,6 +1,6 @@
 // What the segment display paints: place, scale, colours.
 
-#include "displays_DigiStaticTest.h"
+#include "segments_DigiStaticTest.h"
 
 #include "GdiHandleCount.h"
 #include "GoldenImage.h"
