@@ -11,8 +11,6 @@ using workbench::Text;
 namespace
 {
 
-constexpr unsigned int scales = 9;
-
 // Lengths in dialog units.
 constexpr int strip_height = 20;
 constexpr int position_label_width = 34;
@@ -69,7 +67,7 @@ bool CMeasurePanel::CreatePanel(CWnd & parent, UINT id, workbench::ScreenMetrics
     {
         window->SetFont(&metrics.Font());
     }
-    for (unsigned int i = 0; created && i < scales; ++i)
+    for (unsigned int i = 0; created && i < Farbtabellen::spectrogram_scales; ++i)
     {
         m_scale.AddItem(Farbtabellen::SpektrogrammFarbtabellenName(i), static_cast<int>(i));
     }
@@ -121,7 +119,7 @@ unsigned int CMeasurePanel::Scale()
 
 void CMeasurePanel::ChooseScale(unsigned int scale)
 {
-    m_scale.SelectItemData(static_cast<int>(scale < scales ? scale : 0));
+    m_scale.SelectItemData(static_cast<int>(scale < Farbtabellen::spectrogram_scales ? scale : 0));
 }
 
 void CMeasurePanel::OnScaleChosen()

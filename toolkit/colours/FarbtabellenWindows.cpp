@@ -16,14 +16,15 @@ namespace Farbtabellen
 namespace
 {
 constexpr WORD palette_version = 0x300;
-constexpr unsigned int scales = TOOLKIT_STRING_SPECTROGRAM_SCALE_LAST - TOOLKIT_STRING_SPECTROGRAM_SCALE_FIRST + 1;
+static_assert(TOOLKIT_STRING_SCOPE_COLOUR_LAST - TOOLKIT_STRING_SCOPE_COLOUR_FIRST + 1 == SCOPE_COLOURS);
+static_assert(TOOLKIT_STRING_SPECTROGRAM_SCALE_LAST - TOOLKIT_STRING_SPECTROGRAM_SCALE_FIRST + 1 == spectrogram_scales);
 
 CPalette scopePalette;
 bool scopePaletteBuilt = false;
 CPalette selvanePalette;
 bool selvanePaletteBuilt = false;
 // The last one is for an unknown scale.
-CString scaleNames[scales + 1];
+CString scaleNames[spectrogram_scales + 1];
 bool scaleNamesLoaded = false;
 
 void MakePalette(CPalette & palette, COLORREF (*colourAt)(int))
@@ -80,10 +81,10 @@ CString const & SpektrogrammFarbtabellenName(unsigned int index)
     {
         scaleNamesLoaded = true;
         CToolkitResourceExchange const exchange;
-        for (unsigned int scale = 0; scale < scales; ++scale)
+        for (unsigned int scale = 0; scale < spectrogram_scales; ++scale)
             scaleNames[scale].LoadString(TOOLKIT_STRING_SPECTROGRAM_SCALE_FIRST + scale);
-        scaleNames[scales].LoadString(TOOLKIT_STRING_SPECTROGRAM_SCALE_UNKNOWN);
+        scaleNames[spectrogram_scales].LoadString(TOOLKIT_STRING_SPECTROGRAM_SCALE_UNKNOWN);
     }
-    return scaleNames[index < scales ? index : scales];
+    return scaleNames[index < spectrogram_scales ? index : spectrogram_scales];
 }
 } // namespace Farbtabellen
