@@ -10,7 +10,7 @@
 #include "OpenFolderDialog.h"
 #include "PictureCopy.h"
 #include "RecordingColumns.h"
-#include "SettingsFile.h"
+#include "SettingsExchange.h"
 #include "WaveformPanelView.h"
 #include "colours/Farbtabellen.h"
 #include "controls/IdNameMultiselectDlg.h"
@@ -467,7 +467,7 @@ void CMainWindow::OnExportSettings()
 void CMainWindow::OnImportSettings()
 {
     auto const result = workbench::ImportSettings(*this);
-    if (result == workbench::SettingsFileResult::Done || result == workbench::SettingsFileResult::Incomplete)
+    if (result == workbench::SettingsFileResult::done || result == workbench::SettingsFileResult::incomplete)
     {
         FollowSettings(workbench::ReadSettings());
         m_list.SetUserWidths(workbench::ReadColumnWidths(m_metrics.AverageWidth()));

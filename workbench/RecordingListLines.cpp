@@ -103,7 +103,7 @@ void CRecordingList::ShowReading(int line, std::filesystem::path const & file)
         Batch const batch(*this);
         Touch(row);
         auto notes = NotesOf(line);
-        m_totals.SetState(static_cast<std::size_t>(line), workbench::RecordingTotals::State::Unread, 0);
+        m_totals.SetState(static_cast<std::size_t>(line), workbench::RecordingTotals::State::unread, 0);
         // A recording that could not be read may be one again.
         m_totals.SetChecked(static_cast<std::size_t>(line), notes.checked);
         if (notes.reference && m_reference < 0)
@@ -184,7 +184,7 @@ void CRecordingList::ShowAnalysis(int line, std::shared_ptr<workbench::Recording
         ShowValues(row, analysis);
     }
     using State = workbench::RecordingTotals::State;
-    m_totals.SetState(static_cast<std::size_t>(line), analysis->problem ? State::Unreadable : State::Readable,
+    m_totals.SetState(static_cast<std::size_t>(line), analysis->problem ? State::unreadable : State::readable,
                       workbench::DurationMilliseconds(analysis->info.frames, analysis->info.sampleRate));
     if (analysis->problem && m_reference == line)
     {

@@ -741,7 +741,7 @@ void CWaveformView::DrawHeading(CDC & dc, CRect const & area)
 std::wstring CWaveformView::Details() const
 {
     auto const & info = m_analysis->info;
-    auto const coding = info.coding == workbench::SampleCoding::Float ? Text(L"-bit float") : Text(L"-bit");
+    auto const coding = info.coding == workbench::SampleCoding::floating_point ? Text(L"-bit float") : Text(L"-bit");
     auto details = workbench::FormatSampleRate(info.sampleRate) + L"  \u00B7  " + std::to_wstring(info.bitsPerSample) +
                    coding + L"  \u00B7  " + workbench::FormatCount(info.channels, Text(L"channel"), Text(L"channels")) +
                    L"  \u00B7  " + workbench::FormatDuration(info.frames, info.sampleRate);

@@ -330,7 +330,7 @@ TEST(WorkbenchTexts, ALanguageIsTheSameInEveryCountry)
 TEST(WorkbenchTexts, FaultsAndDetailsAreTold)
 {
     LanguageScope const german(Language::German);
-    ReadProblem problem{ReadFault::UnknownFormat};
+    ReadProblem problem{ReadFault::unknown_format};
     problem.formatTag = 0x55;
     EXPECT_EQ(problem.Text(), L"unbekanntes Format (Kennung 0x0055)");
     problem.formatTag = 1;
@@ -338,7 +338,7 @@ TEST(WorkbenchTexts, FaultsAndDetailsAreTold)
     EXPECT_EQ(problem.Text(), L"unbekanntes Format (12 Bit PCM)");
 
     RecordingAnalysis analysis;
-    analysis.problem = ReadProblem{ReadFault::NotWav};
+    analysis.problem = ReadProblem{ReadFault::not_wav};
     auto const lines = DescribeRecording("a.wav", analysis, L"");
     EXPECT_EQ(lines.front().label, L"Datei");
     EXPECT_EQ(lines.back(), (DetailLine{L"Zustand", L"keine WAV-Datei"}));

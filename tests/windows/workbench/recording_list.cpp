@@ -44,7 +44,7 @@ std::shared_ptr<RecordingAnalysis const> AnalysisOf(Recording const & recording)
     auto analysis = std::make_shared<RecordingAnalysis>();
     if (recording.milliseconds == 0)
     {
-        analysis->problem = workbench::ReadProblem{workbench::ReadFault::CannotBeOpened};
+        analysis->problem = workbench::ReadProblem{workbench::ReadFault::cannot_be_opened};
         return analysis;
     }
     analysis->info.channels = 1;
