@@ -156,6 +156,7 @@ public:
             else if (!SortRun(run))
                 return false;
         }
+        m_access.Progress().Expect(1, 1000, 1000);
         return true;
     }
 
