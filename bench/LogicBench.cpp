@@ -41,6 +41,7 @@ constexpr Measure measures[] = {
     {"list-search", bench::SearchingRows},
     {"segments", bench::PaintingSegments},
     {"combo", bench::TypingIntoACombo},
+    {"table", bench::OrderingATable},
 };
 } // namespace
 

@@ -10,6 +10,7 @@ bool LayoutArithmetic();
 bool SearchingRows();
 bool PaintingSegments();
 bool TypingIntoACombo();
+bool OrderingATable();
 
 /// Runs the benchmarks registered since the last call; the best time of each in nanoseconds.
 std::map<std::string, double> RunRegistered();

@@ -168,6 +168,35 @@ TEST(TableOrder, ManyRowsOfEveryKindAreAsAStableSortPutsThem)
     EXPECT_EQ(rows.capacity(), rows.size());
 }
 
+TEST(TableOrder, NumbersThatDifferInTheirLastBitAreInOrderWithinGroups)
+{
+    auto const source = std::make_shared<Source>();
+    for (int i = 0; i < 4000; ++i)
+        source->rows.push_back(
+            {0, {Whole(i % 7), Number(1 + std::ldexp((i * 37) % 1000, -52)), Text(i % 2 == 0 ? L"a" : L"b")}});
+    TableProgress progress;
+    TableAccess access(source, progress);
+    std::vector<TableSortColumn> const columns = {{0, false}, {1, true}, {2, true}};
+    TableRows rows;
+    for (TableRow row = 0; row < source->rows.size(); ++row)
+        rows.push_back(row);
+    ASSERT_TRUE(SortTableRows(access, columns, rows));
+    for (std::size_t i = 1; i < rows.size(); ++i)
+    {
+        std::vector<TableValue> const & first = source->rows[rows[i - 1]].cells;
+        std::vector<TableValue> const & second = source->rows[rows[i]].cells;
+        ASSERT_LE(first[0].Whole(), second[0].Whole()) << i;
+        if (first[0].Whole() != second[0].Whole())
+            continue;
+        ASSERT_GE(first[1].Number(), second[1].Number()) << i;
+        if (first[1].Number() != second[1].Number())
+            continue;
+        ASSERT_GE(first[2].Text(), second[2].Text()) << i;
+        if (first[2].Text() == second[2].Text())
+            ASSERT_LT(rows[i - 1], rows[i]) << i;
+    }
+}
+
 TEST(TableOrder, AStoppedSortKeepsAllRows)
 {
     auto const source = std::make_shared<Source>();
