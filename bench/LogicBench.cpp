@@ -42,6 +42,7 @@ constexpr Measure measures[] = {
     {"segments", bench::PaintingSegments},
     {"combo", bench::TypingIntoACombo},
     {"recording", bench::LookingAtAnHour},
+    {"table", bench::OrderingATable},
 };
 } // namespace
 

@@ -11,6 +11,7 @@ bool SearchingRows();
 bool PaintingSegments();
 bool LookingAtAnHour();
 bool TypingIntoACombo();
+bool OrderingATable();
 
 /// Runs the benchmarks registered since the last call; the best time of each in nanoseconds.
 std::map<std::string, double> RunRegistered();
