@@ -80,13 +80,15 @@ public:
     bool ShowsFolders() const { return ShowsPane(part_folders); }
     void ShowFolders(bool show);
 
-    /// The parts that are panes around the list, which the user can move, put into tabs, let float and hide.
+    /// The parts, which are panes that the user can move, put into tabs, let float and hide. Their order is that of
+    /// their identifiers, which are stored.
     enum Part
     {
         part_folders,
         part_waveform,
         part_spectrogram,
         part_measures,
+        part_list,
         part_count
     };
     /// The pane of a part.
@@ -124,7 +126,7 @@ public:
     /// Whether the spectrogram of the chosen recording is still being computed.
     bool IsComputing() const { return m_spectrogram.IsComputing(); }
 
-    /// Makes it the language of the windows that open from now on, and stores it.
+    /// Makes it the language of this window and of those that open from now on, and stores it.
     void ChooseLanguage(unsigned short languageId);
 
     void CloseDialogs();
@@ -165,6 +167,8 @@ private:
     afx_msg void OnDropFiles(HDROP drop);
     afx_msg void OnShowFolders();
     afx_msg void OnResetLayout();
+    afx_msg void OnNextPart();
+    afx_msg void OnPreviousPart();
     afx_msg void OnDynamicCommand(UINT id);
     afx_msg void OnChooseColumns();
     afx_msg void OnExportList();
@@ -217,9 +221,17 @@ private:
     };
 
     bool CreateParts();
+    std::vector<CWnd *> FocusStops();
+    void GoToNext(bool back);
+    void FocusList();
+    void BringListInSight();
     CHostView * CreatePart(Part part);
     void PrepareContents();
     void PreparePaneMenu();
+    CString PaneCommandText(Part part) const;
+    void ShowTexts();
+    CWaveformView & WaveformInUse();
+    void KeepOnScreen();
     static wchar_t const * NameOf(Part part);
     static wchar_t const * TitleOf(Part part);
     void DockByDefault(std::array<bool, part_count> const & others);

@@ -729,11 +729,13 @@ void CMainWindow::OnSetReference()
 
 void CMainWindow::OnEditComment()
 {
+    BringListInSight();
     m_list.EditComment(m_list.ChosenLine());
 }
 
 void CMainWindow::OnChooseRating()
 {
+    BringListInSight();
     m_list.ChooseRating(m_list.ChosenLine());
 }
 

@@ -109,6 +109,8 @@
 #define ID_SHOW_IN_FRAME 40029
 #define ID_COMPARE_FOUR 40030
 #define ID_RESET_LAYOUT 40031
+#define ID_NEXT_PART 40032
+#define ID_PREVIOUS_PART 40033
 
 // The items of open dialogs in the window menu.
 #define ID_DIALOG_FIRST 41000

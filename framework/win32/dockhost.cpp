@@ -122,6 +122,8 @@ void DockHost::MeasureAgain()
     m_layout.metrics.divider = ::MulDiv(CPaneDivider::GetDefaultWidth(), m_sizes.gap, 4);
     m_layout.metrics.tabs = m_sizes.tabs;
     m_layout.metrics.centre = CSize(2 * m_sizes.caption, 2 * m_sizes.caption);
+    for (auto const & [id, pane] : m_panes)
+        m_layout.SetMinSize(id, LeastSize(*pane, m_sizes));
 }
 
 void DockHost::FrameEnds()
@@ -721,6 +723,12 @@ void DockHost::TitleChanged(CDockablePane & pane)
         Strip(known->foldSide)->Invalidate();
     if (CPaneFrameWnd * const mini = MiniFrame(m_layout.FrameOf(pane.m_dockId)))
         ChangeWindowText(mini->m_hWnd, mini->GetCaptionText());
+}
+
+void DockHost::LeastSizeChanged(CDockablePane & pane)
+{
+    m_layout.SetMinSize(pane.m_dockId, LeastSize(pane, m_sizes));
+    Arrange();
 }
 
 void DockHost::RepaintCaptions()

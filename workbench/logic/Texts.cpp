@@ -203,6 +203,7 @@ constexpr Entry all_entries[] = {
      L"Este no es un archivo de configuración o no se puede leer:"},
     {L"The settings could not be stored.", L"Die Einstellungen ließen sich nicht speichern.",
      L"No se pudo guardar la configuración."},
+    {L"Recordings", L"Aufnahmen", L"Grabaciones"},
     {L"Choose Display Language", L"Anzeigesprache wählen", L"Elegir idioma"},
     {L"Choose the language of the workbench:", L"Wählen Sie die Sprache der Workbench:",
      L"Elija el idioma de la aplicación:"},
