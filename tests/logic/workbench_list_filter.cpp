@@ -92,3 +92,16 @@ TEST(NaturalTextOrder, NumbersByTheirValue)
     EXPECT_EQ(NaturalText(L"000"), NaturalText(L"0"));
     EXPECT_EQ(NaturalText(L"name"), L"name");
 }
+
+TEST(FileNames, HaveNoSignsOfPathsAndPatterns)
+{
+    for (auto const * const name : {L"a.wav", L"a b", L".a", L"\u00E4"})
+    {
+        EXPECT_TRUE(IsFileName(name));
+    }
+    for (auto const * const name :
+         {L"", L".", L"..", L"a.", L"a ", L"a/b", L"a\\b", L"C:a", L"a*", L"a?", L"\"", L"a\nb"})
+    {
+        EXPECT_FALSE(IsFileName(name));
+    }
+}

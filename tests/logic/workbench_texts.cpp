@@ -133,6 +133,8 @@ std::string Shortcut(std::string const & text)
                                          {"Umschalt", "Shift"},
                                          {"Mayús", "Shift"},
                                          {"Entrar", "Enter"},
+                                         {"Entf", "Del"},
+                                         {"Supr", "Del"},
                                          {"Bild auf", "Page Up"},
                                          {"Bild ab", "Page Down"},
                                          {"Re Pág", "Page Up"},

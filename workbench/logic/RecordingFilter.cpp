@@ -119,4 +119,12 @@ std::wstring NaturalText(std::wstring_view text)
     return natural;
 }
 
+bool IsFileName(std::wstring_view name)
+{
+    return !name.empty() && name.back() != L' ' && name.back() != L'.' && std::ranges::none_of(name, [](wchar_t c) {
+        return static_cast<unsigned long>(c) < L' ' ||
+               std::wstring_view(L"\\/:*?\"<>|").find(c) != std::wstring_view::npos;
+    });
+}
+
 } // namespace workbench

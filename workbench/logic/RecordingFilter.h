@@ -53,6 +53,7 @@ public:
 
     explicit FilterMatch(RecordingFilter filter);
     bool operator()(Facts const & facts) const;
+    RecordingFilter const & Filter() const { return m_filter; }
 
 private:
     RecordingFilter m_filter;
@@ -62,5 +63,8 @@ private:
 /// A text whose plain order is the natural one: each number is led by how many digits it has, so that "2" comes before
 /// "10". Zeros that lead a number don't count.
 std::wstring NaturalText(std::wstring_view text);
+
+/// Whether a file can have that name.
+bool IsFileName(std::wstring_view name);
 
 } // namespace workbench
