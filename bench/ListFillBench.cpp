@@ -2,6 +2,7 @@
 
 #include <afxcmn.h>
 #include "list/XListCtrl.h"
+#include "list/XListRowPool.h"
 #include "ControlBench.h"
 #include "Measure.h"
 #include "ModuleAllocations.h"

@@ -9,7 +9,9 @@ namespace bench
 bool LayoutArithmetic();
 bool SearchingRows();
 bool PaintingSegments();
+bool LookingAtAnHour();
 bool TypingIntoACombo();
+bool OrderingATable();
 
 /// Runs the benchmarks registered since the last call; the best time of each in nanoseconds.
 std::map<std::string, double> RunRegistered();

@@ -67,7 +67,13 @@ BEGIN_MESSAGE_MAP(CMainWindow, CMDIFrameWndEx)
     ON_COMMAND(ID_PRINT_PREVIEW, &CMainWindow::OnPrintPreview)
     ON_COMMAND(ID_COPY, &CMainWindow::OnCopy)
     ON_COMMAND(ID_COPY_ALL, &CMainWindow::OnCopyAll)
+    ON_COMMAND(ID_COPY_WAVEFORM, &CMainWindow::OnCopyWaveform)
+    ON_COMMAND(ID_SAVE_WAVEFORM, &CMainWindow::OnSaveWaveform)
+    ON_COMMAND(ID_SAVE_SPECTROGRAM, &CMainWindow::OnSaveSpectrogram)
     ON_COMMAND(ID_COPY_SPECTROGRAM, &CMainWindow::OnCopySpectrogram)
+    ON_COMMAND(ID_PLAY, &CMainWindow::OnPlay)
+    ON_COMMAND(ID_STOP_PLAYING, &CMainWindow::OnStopPlaying)
+    ON_COMMAND(ID_LOOP_PLAYING, &CMainWindow::OnLoopPlaying)
     ON_COMMAND(ID_SHOW_FOLDERS, &CMainWindow::OnShowFolders)
     ON_COMMAND(ID_RESET_LAYOUT, &CMainWindow::OnResetLayout)
     ON_COMMAND(ID_NEXT_PART, &CMainWindow::OnNextPart)
@@ -231,11 +237,18 @@ void CMainWindow::PrepareContents()
     Waveform().SetAmplification(m_settings.amplification);
     Waveform().m_onCursor = [this] { ShowReading(); };
     Waveform().m_onMarks = [this] { m_spectrogram.SetMarks(Waveform().Marks()); };
+    Waveform().m_onPlay = [this] { OnPlay(); };
+    m_playing.m_onMoved = [this](std::optional<std::uint64_t> frame) {
+        Waveform().ShowPlaying(frame);
+        m_spectrogram.ShowPlaying(frame);
+    };
+    m_playing.SetGain(m_settings.amplification);
     m_spectrogram.m_onMarks = [this] { Waveform().SetMarks(m_spectrogram.Marks()); };
     m_spectrogram.m_onComputed = [this] { m_spectrogram.SetMarks(Waveform().Marks()); };
     m_waveformPanel.m_onAmplified = [this](int decibels) {
         m_settings.amplification = decibels;
         workbench::StoreAmplification(decibels);
+        m_playing.SetGain(decibels);
         m_preview.Update();
     };
     m_tree.m_onFolder = [this](std::filesystem::path const & folder) { OpenFolder(folder); };
@@ -782,6 +795,8 @@ void CMainWindow::OnDestroy()
 {
     // Frames end after this, and their ends are nobody's business any more.
     m_frames.m_onOpened = nullptr;
+    m_playing.m_onMoved = nullptr;
+    m_playing.Stop();
     m_frames.Stop();
     m_tree.Stop();
     m_search.reset();

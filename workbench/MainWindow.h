@@ -17,6 +17,8 @@
 #include "HostView.h"
 #include "FolderTree.h"
 #include "MeasurePanel.h"
+#include "PictureCopy.h"
+#include "Playing.h"
 #include "PreviewDialog.h"
 #include "RecordingList.h"
 #include "ScreenMetrics.h"
@@ -184,7 +186,13 @@ private:
     afx_msg void OnPrintPreview();
     afx_msg void OnCopy();
     afx_msg void OnCopyAll();
+    afx_msg void OnCopyWaveform();
     afx_msg void OnCopySpectrogram();
+    afx_msg void OnSaveWaveform();
+    afx_msg void OnSaveSpectrogram();
+    afx_msg void OnPlay();
+    afx_msg void OnStopPlaying();
+    afx_msg void OnLoopPlaying();
     afx_msg void OnCloseDialogs();
     afx_msg void OnDialogChosen(UINT id);
     afx_msg void OnFitColumns();
@@ -246,6 +254,8 @@ private:
     std::array<CWorkbenchDialog *, 2> Dialogs();
     std::array<CWnd *, 3> OwnedWindows();
     void EnterInMenu(CWnd & window, CString const & text, bool open);
+    CSize PictureSize(CWnd & view) const;
+    void SavePictureOf(CWnd & view, workbench::Drawing const & draw);
     void FollowSettings(workbench::Settings const & settings);
     void TakeSettings(workbench::Settings const & settings);
     void DrawPage(CDC & dc, CRect const & page);
@@ -292,6 +302,7 @@ private:
     CFolderTree m_tree;
     CWaveformPanel m_waveformPanel;
     CSpectrogramView m_spectrogram;
+    CPlaying m_playing;
     std::shared_ptr<workbench::RecordingAnalysis const> m_shown; ///< in both views; null for a text
     std::wstring m_shownText;
     CMeasurePanel m_panel;

@@ -10,7 +10,7 @@
 #include "OpenFolderDialog.h"
 #include "PictureCopy.h"
 #include "RecordingColumns.h"
-#include "SettingsFile.h"
+#include "SettingsExchange.h"
 #include "WaveformPanelView.h"
 #include "colours/Farbtabellen.h"
 #include "controls/IdNameMultiselectDlg.h"
@@ -29,6 +29,10 @@ namespace
 // The size of the choice of columns, in dialog units.
 constexpr int columns_width = 90;
 constexpr int columns_height = 128;
+
+// The least size of a picture, in dialog units.
+constexpr int least_picture_width = 240;
+constexpr int least_picture_height = 100;
 
 void SetItemText(HMENU menu, UINT item, bool byPosition, CString text)
 {
@@ -301,6 +305,36 @@ CWaveformView & CMainWindow::WaveformInUse()
     return Waveform();
 }
 
+/// Plays what is selected, or all from the cursor on; pauses what is playing, and goes on with it.
+void CMainWindow::OnPlay()
+{
+    if (m_playing.IsPlaying())
+    {
+        m_playing.Pause(!m_playing.IsPaused());
+        return;
+    }
+    auto const * const chosen = RecordingAt(m_list.ChosenLine());
+    if (chosen == nullptr || !Waveform().ShowsRecording())
+    {
+        return;
+    }
+    auto const & marks = Waveform().Marks();
+    auto const file = chosen->file;
+    auto const stretch =
+        marks.HasSelection() ? marks.Selection() : workbench::FrameRange{marks.cursor, marks.window.Frames()};
+    m_playing.Play(*this, file, stretch);
+}
+
+void CMainWindow::OnStopPlaying()
+{
+    m_playing.Stop();
+}
+
+void CMainWindow::OnLoopPlaying()
+{
+    m_playing.SetLoop(!m_playing.Loops());
+}
+
 void CMainWindow::OnAmplify(UINT id)
 {
     auto & view = WaveformInUse();
@@ -440,7 +474,7 @@ void CMainWindow::OnExportSettings()
 void CMainWindow::OnImportSettings()
 {
     auto const result = workbench::ImportSettings(*this);
-    if (result == workbench::SettingsFileResult::Done || result == workbench::SettingsFileResult::Incomplete)
+    if (result == workbench::SettingsFileResult::done || result == workbench::SettingsFileResult::incomplete)
     {
         FollowSettings(workbench::ReadSettings());
         m_list.SetUserWidths(workbench::ReadColumnWidths(m_metrics.AverageWidth()));
@@ -487,12 +521,48 @@ void CMainWindow::OnCopyAll()
     m_list.CopyToClipboard(true);
 }
 
+void CMainWindow::OnCopyWaveform()
+{
+    workbench::CopyPicture(*this, PictureSize(Waveform()),
+                           [this](CDC & dc, CRect const & rect) { Waveform().Print(dc, rect); });
+}
+
 void CMainWindow::OnCopySpectrogram()
 {
-    CRect client;
-    m_spectrogram.GetClientRect(&client);
-    workbench::CopyPicture(*this, client.Size(),
+    workbench::CopyPicture(*this, PictureSize(m_spectrogram),
                            [this](CDC & dc, CRect const & rect) { m_spectrogram.Print(dc, rect); });
+}
+
+void CMainWindow::OnSaveWaveform()
+{
+    SavePictureOf(Waveform(), [this](CDC & dc, CRect const & rect) { Waveform().Print(dc, rect); });
+}
+
+void CMainWindow::OnSaveSpectrogram()
+{
+    SavePictureOf(m_spectrogram, [this](CDC & dc, CRect const & rect) { m_spectrogram.Print(dc, rect); });
+}
+
+/// The size of a picture of a view: the view's, but for one that is hidden or has next to no room.
+CSize CMainWindow::PictureSize(CWnd & view) const
+{
+    CRect client;
+    view.GetClientRect(&client);
+    return CSize(std::max<int>(client.Width(), m_metrics.X(least_picture_width)),
+                 std::max<int>(client.Height(), m_metrics.Y(least_picture_height)));
+}
+
+/// Lets the user save what a view shows, under the recording's name.
+void CMainWindow::SavePictureOf(CWnd & view, workbench::Drawing const & draw)
+{
+    auto const * const chosen = RecordingAt(m_list.ChosenLine());
+    auto const file =
+        workbench::ChoosePictureFile(*this, chosen != nullptr ? chosen->file.stem().wstring() : std::wstring());
+    if (file && !workbench::SavePicture(*this, PictureSize(view), draw, *file))
+    {
+        AfxMessageBox(Text(L"This file could not be written:") + (L"\n\n" + CString(file->c_str())),
+                      MB_ICONEXCLAMATION);
+    }
 }
 
 /// Closes dialogs and frames, as the user does.
@@ -559,6 +629,12 @@ void CMainWindow::OnInitMenuPopup(CMenu * menu, UINT index, BOOL systemMenu)
     enable(ID_COPY, RecordingCount() > 0);
     enable(ID_COPY_ALL, RecordingCount() > 0);
     enable(ID_COPY_SPECTROGRAM, m_shown && !m_shown->problem && !IsComputing());
+    enable(ID_SAVE_SPECTROGRAM, m_shown && !m_shown->problem && !IsComputing());
+    enable(ID_COPY_WAVEFORM, Waveform().ShowsRecording());
+    enable(ID_SAVE_WAVEFORM, Waveform().ShowsRecording());
+    enable(ID_PLAY, m_playing.IsPlaying() || Waveform().ShowsRecording());
+    enable(ID_STOP_PLAYING, m_playing.IsPlaying());
+    menu->CheckMenuItem(ID_LOOP_PLAYING, MF_BYCOMMAND | (m_playing.Loops() ? MF_CHECKED : MF_UNCHECKED));
     enable(ID_RELOAD, !m_targets.empty());
     enable(ID_SHOW_DETAILS, read);
     enable(ID_SHOW_IN_FRAME, recording != nullptr && m_frames.HasRoom());

@@ -12,8 +12,6 @@ using workbench::Text;
 namespace
 {
 
-constexpr unsigned int scales = 9;
-
 // Lengths in dialog units.
 constexpr int strip_height = 20;
 constexpr int edge = 2; // above and below
@@ -70,7 +68,7 @@ bool CMeasurePanel::CreatePanel(CWnd & parent, UINT id, workbench::ScreenMetrics
     {
         window->SetFont(&metrics.Font());
     }
-    for (unsigned int i = 0; created && i < scales; ++i)
+    for (unsigned int i = 0; created && i < Farbtabellen::spectrogram_scales; ++i)
     {
         m_scale.AddItem(Farbtabellen::SpektrogrammFarbtabellenName(i), static_cast<int>(i));
     }
@@ -143,7 +141,7 @@ unsigned int CMeasurePanel::Scale()
 
 void CMeasurePanel::ChooseScale(unsigned int scale)
 {
-    m_scale.SelectItemData(static_cast<int>(scale < scales ? scale : 0));
+    m_scale.SelectItemData(static_cast<int>(scale < Farbtabellen::spectrogram_scales ? scale : 0));
 }
 
 void CMeasurePanel::OnScaleChosen()

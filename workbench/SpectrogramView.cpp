@@ -191,6 +191,7 @@ void CSpectrogramView::ShowText(std::wstring title, std::wstring text)
     m_finer.reset();
     m_marks = workbench::TimeMarks();
     m_frequency.reset();
+    m_playing.reset();
     m_picture.clear();
     Invalidate(FALSE);
 }
@@ -426,6 +427,15 @@ void CSpectrogramView::SetMarks(workbench::TimeMarks const & marks)
     }
 }
 
+void CSpectrogramView::ShowPlaying(std::optional<std::uint64_t> frame)
+{
+    if (frame != m_playing)
+    {
+        m_playing = frame;
+        Invalidate(FALSE);
+    }
+}
+
 /// What the user did.
 void CSpectrogramView::ChangeMarks(workbench::TimeMarks const & marks)
 {
@@ -461,6 +471,10 @@ void CSpectrogramView::DrawMarks(CDC & dc, CRect const & plot)
     if (m_marks.HasSelection() || m_marks.cursor > 0)
     {
         vertical(m_marks.cursor);
+    }
+    if (m_playing)
+    {
+        vertical(*m_playing);
     }
     if (m_frequency)
     {

@@ -56,6 +56,8 @@ public:
     workbench::TimeMarks const & Marks() const { return m_marks; }
     /// Takes over what another plot shows; nothing if that is not of as many frames.
     void SetMarks(workbench::TimeMarks const & marks);
+    /// Marks the frame that is heard, or none.
+    void ShowPlaying(std::optional<std::uint64_t> frame);
     /// Called when the user has changed the marks.
     std::function<void()> m_onMarks;
     /// Called when the spectrogram of a recording is there, or what is wrong with it.
@@ -114,8 +116,9 @@ private:
     std::shared_ptr<workbench::SpectrogramJob::Result const> m_result; ///< of all of the recording
     std::shared_ptr<workbench::SpectrogramJob::Result const> m_finer;  ///< of a part of it
     workbench::TimeMarks m_marks;
-    std::optional<double> m_frequency; ///< of the cursor, in hertz
-    CRect m_plot;                      ///< where the picture was drawn last
+    std::optional<std::uint64_t> m_playing; ///< the frame that is heard
+    std::optional<double> m_frequency;      ///< of the cursor, in hertz
+    CRect m_plot;                           ///< where the picture was drawn last
     std::array<COLORREF, colour_count> m_colours;
     std::vector<std::uint8_t> m_picture; ///< as drawn last
     CSize m_pictureSize;

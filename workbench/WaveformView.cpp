@@ -86,6 +86,7 @@ void CWaveformView::ResetMarks()
 {
     m_columns.clear();
     m_drag = Drag::none;
+    m_playing.reset();
     m_marks = workbench::TimeMarks(ShowsRecording() ? m_analysis->info.frames : 0);
     Invalidate(FALSE);
     Placed();
@@ -281,6 +282,14 @@ void CWaveformView::DrawCursor(CDC & dc, CRect const & plot)
         draw(*m_marks.other, 1);
     }
     draw(m_marks.cursor, GetFocus() == this ? 2 : 1);
+    if (m_playing)
+    {
+        auto const x = m_marks.window.XOf(*m_playing, width);
+        if (x >= 0 && x < width)
+        {
+            dc.FillSolidRect(plot.left + 1 + x, plot.top, 2, plot.Height(), workbench::ClippedColour(m_colours));
+        }
+    }
 }
 
 /// Shades what is selected.
@@ -395,6 +404,25 @@ void CWaveformView::ChangeMarks(workbench::TimeMarks const & marks)
     if (onMarks)
     {
         onMarks();
+    }
+}
+
+void CWaveformView::ShowPlaying(std::optional<std::uint64_t> frame)
+{
+    if (frame == m_playing)
+    {
+        return;
+    }
+    auto const shown = m_marks.window.Shown();
+    auto const wasSeen = m_playing && shown.first <= *m_playing && *m_playing < shown.end;
+    m_playing = frame;
+    Invalidate(FALSE);
+    // Whoever has scrolled away meanwhile stays there.
+    if (frame && wasSeen && *frame >= shown.end)
+    {
+        auto marks = m_marks;
+        marks.window.Show({*frame, *frame + shown.Length()});
+        ChangeMarks(marks);
     }
 }
 
@@ -556,6 +584,12 @@ bool CWaveformView::ScrollKey(UINT key)
         }
         marks.other.reset();
         break;
+    case VK_SPACE:
+        if (auto const onPlay = m_onPlay)
+        {
+            onPlay();
+        }
+        return true;
     case VK_PRIOR:
         marks.window.Scroll(-page_step);
         break;
@@ -707,7 +741,7 @@ void CWaveformView::DrawHeading(CDC & dc, CRect const & area)
 std::wstring CWaveformView::Details() const
 {
     auto const & info = m_analysis->info;
-    auto const coding = info.coding == workbench::SampleCoding::Float ? Text(L"-bit float") : Text(L"-bit");
+    auto const coding = info.coding == workbench::SampleCoding::floating_point ? Text(L"-bit float") : Text(L"-bit");
     auto details = workbench::FormatSampleRate(info.sampleRate) + L"  \u00B7  " + std::to_wstring(info.bitsPerSample) +
                    coding + L"  \u00B7  " + workbench::FormatCount(info.channels, Text(L"channel"), Text(L"channels")) +
                    L"  \u00B7  " + workbench::FormatDuration(info.frames, info.sampleRate);

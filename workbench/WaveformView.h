@@ -46,6 +46,10 @@ public:
     workbench::TimeMarks const & Marks() const { return m_marks; }
     /// Takes over what another plot shows; nothing if that is not of as many frames.
     void SetMarks(workbench::TimeMarks const & marks);
+    /// Marks the frame that is heard, or none, and turns to the next part when it gets there.
+    void ShowPlaying(std::optional<std::uint64_t> frame);
+    /// Called with the space bar.
+    std::function<void()> m_onPlay;
     /// Called when the user has changed the marks, or there is another recording.
     std::function<void()> m_onMarks;
 
@@ -141,8 +145,9 @@ private:
     std::vector<std::vector<workbench::MinMax>> m_columns; ///< of each lane, for the stretch and width drawn last
     workbench::FrameRange m_columnsRange;
     workbench::TimeMarks m_marks;
-    CRect m_plot;  ///< where the lanes were drawn last
-    CRect m_strip; ///< where the strip was drawn last; empty without one
+    std::optional<std::uint64_t> m_playing; ///< the frame that is heard
+    CRect m_plot;                           ///< where the lanes were drawn last
+    CRect m_strip;                          ///< where the strip was drawn last; empty without one
     enum class Drag
     {
         none,

@@ -194,9 +194,9 @@ void DockHost::WindowEnds(CWnd const * window)
 
 UINT DockHost::FreeId(UINT wanted) const
 {
-    if (wanted != 0 && wanted < firstOwnId - 1 && !m_panes.contains(wanted))
+    if (wanted != 0 && wanted < first_own_id - 1 && !m_panes.contains(wanted))
         return wanted;
-    UINT id = firstOwnId;
+    UINT id = first_own_id;
     while (m_layout.Find(id) != nullptr)
         ++id;
     return id;
@@ -243,7 +243,7 @@ void DockHost::Leave(CDockablePane & pane, bool destroyed)
         m_slid = 0;
     if (m_drag != nullptr && !m_ending)
         m_drag->PaneEnds(id);
-    if (destroyed && id < firstOwnId)
+    if (destroyed && id < first_own_id)
         m_layout.LeavePane(id);
     else
         m_layout.RemovePane(id);
@@ -584,7 +584,7 @@ void DockHost::SlideOut(UINT id)
     if (!life || Pane(id) != pane || m_slid != id)
         return;
     if (CMFCAutoHideBar * const strip = Strip(known->foldSide))
-        strip->SetTimer(slideWatchTimer, 200, nullptr);
+        strip->SetTimer(slide_watch_timer, 200, nullptr);
     pane->OnSlide(TRUE);
 }
 
@@ -596,7 +596,7 @@ void DockHost::SlideBack()
     for (CMFCAutoHideBar * const strip : m_strips)
     {
         if (strip != nullptr)
-            strip->KillTimer(slideWatchTimer);
+            strip->KillTimer(slide_watch_timer);
     }
     Life const life(*this);
     CDockablePane * const pane = Pane(id);

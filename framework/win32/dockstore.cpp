@@ -16,7 +16,7 @@ std::vector<std::uint8_t> DockHost::Save()
     std::vector<UINT> own;
     for (auto const & [id, pane] : stored.Panes())
     {
-        if (id >= firstOwnId)
+        if (id >= first_own_id)
             own.push_back(id);
     }
     for (UINT const id : own)

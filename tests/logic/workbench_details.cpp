@@ -143,7 +143,7 @@ TEST(RecordingDetails, SayOfAFileThatIsNoneWhatItIsAndWhy)
 {
     RecordingAnalysis analysis;
     analysis.file.size = 1;
-    analysis.problem = ReadProblem{ReadFault::NotWav};
+    analysis.problem = ReadProblem{ReadFault::not_wav};
     std::vector<DetailLine> const expected = {
         {L"File", L"a.wav"}, {L"Folder", L"measured"}, {L"Size", L"1 byte"}, {L"Status", analysis.problem->Text()}};
     EXPECT_EQ(DescribeRecording("measured/a.wav", analysis, L""), expected);
@@ -160,10 +160,10 @@ TEST(RecordingDetails, NameTheCoding)
 {
     RecordingInfo info;
     info.bitsPerSample = 32;
-    info.coding = SampleCoding::Float;
+    info.coding = SampleCoding::floating_point;
     EXPECT_EQ(FormatCoding(info), L"32-bit float");
     info.bitsPerSample = 8;
-    info.coding = SampleCoding::UnsignedInteger;
+    info.coding = SampleCoding::unsigned_integer;
     EXPECT_EQ(FormatCoding(info), L"8-bit PCM");
 }
 

@@ -14,6 +14,8 @@ namespace Farbtabellen
 constexpr int SCOPE_COLOURS = 32;
 /// Entries of a spectrogram scale.
 constexpr int SCALE_COLOURS = 33;
+/// Spectrogram scales.
+constexpr unsigned int spectrogram_scales = 9;
 
 /// The scope colours by their index.
 extern INSTRUMENT_UI_API COLORREF const ScopePalette[SCOPE_COLOURS];

@@ -30,8 +30,8 @@ public:
     ~CXTreeCtrl() override;
 
     /// A null parent is the top level. sortKey -1: at insertAfter (TVI_FIRST, TVI_LAST, TVI_SORT or an item);
-    /// -65533, the value of TVI_SORT: sorted by text; any other: by sort keys, ahead of the first sibling with a greater
-    /// one, whatever insertAfter says. At the top level the place is looked for among the children of the first
+    /// -65533, the value of TVI_SORT: sorted by text; any other: by sort keys, ahead of the first sibling with a
+    /// greater one, whatever insertAfter says. At the top level the place is looked for among the children of the first
     /// top-level item, which is meant: all but TVI_FIRST and TVI_LAST is then the platform's matter. Null if the item
     /// could not be inserted, or the host has deleted it in the meantime. A null text counts as an empty one.
     HTREEITEM InsertTreeItem(wchar_t const * text, HTREEITEM parent, HTREEITEM insertAfter, int sortKey);

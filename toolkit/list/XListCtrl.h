@@ -11,18 +11,14 @@
 #include <vector>
 
 #include "frame/Export.h"
-#include "frame/LifeWatch.h"
 #include "list/XHeaderCtrl.h"
-#include "list/XListColumnFit.h"
+#include "list/XListCellKind.h"
 #include "list/XListCtrlData.h"
-#include "list/XListRowPool.h"
 
-namespace XListCtrl
-{
-class CXCombo;
-class CXEdit;
-} // namespace XListCtrl
+class CellText;
 class CListRowOrder;
+class XLISTCTRLROW;
+struct CellPaint;
 
 /// A report list whose every cell is a small typed object: text, number, date, check box, radio button, in-place edit,
 /// combo box, hyperlink, progress bar or custom-drawn area.
@@ -144,6 +140,11 @@ public:
     void UpdateCustomDraw(int row, int col);
     /// Does not repaint.
     void RemoveCustomDraw(int row, int col);
+    /// Gives the cell a kind of the host's own, beside whatever it is; null takes it away. It stays with the row
+    /// wherever that goes, and ends with it. The record is left alone.
+    bool SetCellKind(int row, int col, std::shared_ptr<CXListCellKind> kind);
+    /// Null for a cell without one.
+    std::shared_ptr<CXListCellKind> GetCellKind(int row, int col) const;
     /// Keeps the pointers, not the texts, which must outlive the cell's use of them. Without entries the cell is plain.
     bool SetComboBox(int row, int col, std::map<int, wchar_t const *> const & strings, int selectedId, int defaultId);
     /// strings may be null; else it must outlive the cell unchanged.
@@ -172,7 +173,8 @@ public:
     wchar_t const * GlobalComboStringsGetText(int id) const;
 
     // --- The native list's own forms of names that this class has as well ---
-    // A row or column that they insert is the native list's alone: such a row has no cells.
+    // A row that they insert is the native list's alone, and has no cells. Columns that the native list is told to
+    // insert or delete past this class are counted, and cells move as texts do: the first column takes none with it.
 
     using CListCtrl::GetItem;
     using CListCtrl::InsertColumn;
@@ -473,8 +475,6 @@ private:
     int InsertWithRow(LVITEMW item, COLORREF text, COLORREF background, int image, void const * ptr, long long data);
     /// The number of rows; 0 without a window.
     int RowCount() const;
-    void RememberRow(int row, XLISTCTRLROW * object) const;
-    void ForgetRow() const;
     /// The row that a row object hangs from; -1 if there is none.
     int PlaceOf(XLISTCTRLROW const * object) const;
     /// After the host has changed rows within an operation on rows: every native item has a row object of its own
@@ -485,21 +485,18 @@ private:
     std::vector<int> GiveBackUnshownRows();
     /// Sets the native text alone; false if that fails.
     bool ShowText(int row, int col, wchar_t const * text);
-    /// Shows the text and then calls change(cell), unless the row has ended meanwhile. False without that cell, or if
-    /// the native list refuses the text.
-    template <class Change> bool ChangeText(int row, int col, wchar_t const * text, Change && change);
-    bool ShowFloat(int row, int col, float value, wchar_t const * text);
     /// Repaints the row's cell where the row is now.
     void Repaint(HeldRow & held, int col);
     /// Gives the columns the fitted widths of the work array, the preferred one the first width before.
     void SetNativeWidths(int preferred, int firstWidth);
-    void SelectComboEntry(int row, int col, XLISTCTRLDATA & cell, std::pair<int const, wchar_t const *> const * entry);
-    /// The cells of a row as far as the list's columns reach; none for a row without.
-    std::span<XLISTCTRLDATA> CellsOf(int row) const;
-    /// What a press does to a check cell: its state, its mark of a change, its picture, and the notification.
-    void ChangeCheckByUser(int row, int col, int state);
-    /// Recomputes the state of a column's header from its cells, where the header follows them.
-    void UpdateHeaderFromCells(int col);
+    /// Gives the cell of a host's own kind what a press or a key made of it.
+    void ChangeByKind(int row, int col, CXListCellKind::Change const & change);
+    /// Offers a press or a key to the host's kind of a cell; whether it took it. The list may be gone then.
+    bool OfferPress(int row, int col, CPoint point);
+    bool OfferKey(UINT key);
+    /// The text that the cell shows, up to that length.
+    CellText ReadCellText(int row, int col) const;
+    CellText ReadCellText(int row, int col, int limit) const;
     void PostToParent(unsigned int message, WPARAM wParam, LPARAM lParam) const;
     // Editors. An editor that ends tells nothing.
     void EndEdit();
@@ -514,12 +511,14 @@ private:
     void TakeComboChoice();
     /// Shows the combo's choice in its cell.
     void ShowComboChoice();
-    /// How the drawing of most kinds begins: turns the colours into drawing colours, fills the cell and lays the wash
-    /// on.
-    void FillCell(int row, int col, CDC & dc, COLORREF & text, COLORREF & background, CRect const & rect,
-                  XLISTCTRLDATA const & cell);
+    /// A cell in the colours that it is drawn with.
+    CellPaint PaintOf(int row, int col, CDC & dc, COLORREF text, COLORREF background, CRect const & rect,
+                      XLISTCTRLDATA const & cell);
     /// Handles a message that may change columns: all is painted anew if it does.
     LRESULT ColumnMessage(UINT message, WPARAM wParam, LPARAM lParam);
+    /// Follows a column that was put in or taken out past this class: the list counts its columns, and cells move as
+    /// texts do.
+    void FollowColumns(UINT message, int col);
     void FillMovedFirstColumn(CDC & dc, CRect const & row);
     /// Whether the row stands above the first one that shows.
     bool IsAboveTop(int row);
@@ -527,25 +526,16 @@ private:
     void HeedMessage(UINT message);
     /// DrawText format of a column's texts.
     UINT TextFormat(int col) const;
-    UINT AskTextFormat(int col) const;
+    UINT AskAlignment(int col) const;
     /// The bounds of a cell that is being painted.
     CRect PaintedRect(int row, int col);
     bool IsSelected(int row);
     bool HasFocus();
 
-    /// One column of a row that is being carried to another place: a native item with the buffer for its text.
-    struct dd_list_Item
-    {
-        static constexpr int text_size = 256;
-        dd_list_Item();
-        dd_list_Item(dd_list_Item const &) = delete;
-        dd_list_Item & operator=(dd_list_Item const &) = delete;
-
-        LVITEMW item;
-        wchar_t text[text_size];
-    };
+    /// One column of a row that is being carried to another place.
+    struct dd_list_Item;
     /// The row dragged and the row below the pointer.
-    std::pair<int, int> indices() const { return {m_dragSource, m_dropTarget}; }
+    std::pair<int, int> indices() const;
     void begin_drag(NMHDR * header, LRESULT * result);
     /// Swaps the two rows.
     void drop_on_list();
@@ -565,7 +555,7 @@ private:
 
     /// Whether the rows in use are those that hang from the native items, each from one. Not while the native list
     /// changes its items, nor after it was told to past this class.
-    bool RowsAreKnown() const { return m_rowsInStep && m_rowChangesUnderWay == 0; }
+    bool RowsAreKnown() const;
     /// Follows what a native message does to that; own: an operation of this class sent it and keeps the books.
     void NoteRowChange(UINT message, LPARAM lParam, bool own);
     /// A message to the native list itself, that only asks.
@@ -576,22 +566,7 @@ private:
     std::vector<XLISTCTRLROW *> RowsFromTop() const;
     /// Calls visit(XLISTCTRLROW &) for each item's row object, in no particular order. visit runs no code of the
     /// host's.
-    template <class Visit> void VisitRows(Visit && visit) const
-    {
-        if (RowsAreKnown())
-        {
-            for (auto const & row : m_rowPool.InUse())
-                visit(*row);
-            return;
-        }
-        for (XLISTCTRLROW * const row : RowsFromTop())
-        {
-            if (row != nullptr)
-                visit(*row);
-        }
-    }
-    /// The topmost row whose object satisfies matches(XLISTCTRLROW const &); -1 if there is none.
-    template <class Matches> int FindTopmost(Matches && matches) const;
+    template <class Visit> void VisitRows(Visit && visit) const;
     void SortByCells(int col, bool ascending);
     /// Tells the order the texts of its column; false if the host changed the rows meanwhile.
     bool AddTexts(CListRowOrder & order, int col);
@@ -601,14 +576,22 @@ private:
     /// Gives the native item that parameter word.
     bool SetNativeParam(int row, XLISTCTRLROW const * object);
     std::wstring HeaderTitle(int col) const;
-    std::wstring ShownText(int row, int col) const;
+
+    // What the sources of the list keep for themselves (XListCtrlState.h).
+    class Items;
+    struct DragState;
+    struct EditorState;
+    struct FitState;
+    struct PaintState;
+    struct RowState;
+    struct SortState;
+    class PaintScope;
 
     CXHeaderCtrl m_header;
     int m_columnCount = 0;
     CString m_emptyListText;
-    int m_sortColumn = -1;
-    bool m_sortAscending = true;
-    CXListRowPool m_rowPool;
+    std::unique_ptr<SortState> m_sort;
+    std::unique_ptr<RowState> m_rows;
     bool m_headerSubclassed = false;
     bool m_ellipsis = true;
     bool m_listModified = false;
@@ -616,72 +599,11 @@ private:
     CString m_defaultToolTipText;
     bool m_batchInsert = false;
     int m_cellPadding = 5;
-    CString m_savedText;
     bool m_headerAutoCheckbox = false;
-    std::vector<int> m_columnWidths;
-    CColumnFitMemory m_widthMemory;
-    XListCtrl::CXEdit * m_edit = nullptr;
-    int m_editRow = 0;
-    int m_editCol = 0;
-    XListCtrl::CXCombo * m_combo = nullptr;
-    int m_comboRow = 0;
-    int m_comboCol = 0;
-    CRect m_comboRect;
-    /// How many combos were opened so far.
-    unsigned int m_comboOpenings = 0;
-    /// The list keeps its window from painting until a timer ends that.
-    bool m_updateLocked = false;
+    std::unique_ptr<FitState> m_fit;
+    std::unique_ptr<EditorState> m_editors;
     std::map<int, CString> m_globalComboStrings;
-
-    COLORREF m_colorFace;
-    COLORREF m_colorEdgeHighlight;
-    COLORREF m_colorEdgeShadow;
-    COLORREF m_colorActiveCaption;
-    COLORREF m_colorInactiveSelection;
-    COLORREF m_colorBarFrame;
-    COLORREF m_colorButtonText;
-    COLORREF m_colorDisabled;
-    COLORREF m_colorSelection;
-    COLORREF m_colorSelectionText;
-    COLORREF m_colorInactiveCaption;
-    COLORREF m_colorInactiveCaptionText;
-    COLORREF m_colorWindow;
-    COLORREF m_colorWindowText;
-    COLORREF m_colorCheckFrame;
-    COLORREF m_colorCheckMark;
-
-    bool m_dragEnabled = false;
-    int m_dragSource = -1;
-    int m_dropTarget = -1;
-    long long m_dragCursor = 32512;
-    CImageList m_dragImage;
+    std::unique_ptr<PaintState> m_paint;
+    std::unique_ptr<DragState> m_drag;
     CMenu m_popupMenu;
-
-    /// The row asked for last. Known only as long as the native list has been given no message that moves rows or
-    /// changes their parameter words; while one is under way, nothing is remembered.
-    mutable int m_knownRow = -1;
-    mutable XLISTCTRLROW * m_knownRowObject = nullptr;
-    int m_rowChangesUnderWay = 0;
-    /// Counts those messages.
-    unsigned long long m_rowChanges = 0;
-    /// Ends with the list, for whoever must know.
-    LifeSign m_life;
-    /// Row objects that operations under way keep in use.
-    std::vector<XLISTCTRLROW const *> m_pinned;
-    /// The next change is an operation of this class, which keeps the books itself.
-    bool m_ownRowChange = false;
-    /// Whether the rows in use are those that hang from the native items, each from one.
-    bool m_rowsInStep = true;
-    /// Stand in for missing row objects during a sort. Kept, since a parent may refuse that an item loses its own.
-    std::vector<std::unique_ptr<XLISTCTRLROW>> m_standIns;
-    std::size_t m_standInsInUse = 0;
-    /// Trades of two rows under way: for a moment both share one object.
-    int m_rowSwaps = 0;
-
-    /// What stays the same while the window paints itself once, so that it is asked for once a row or column instead of
-    /// once a cell.
-    struct PaintMemory;
-    class PaintScope;
-    /// Null outside of a paint. Not owned.
-    mutable PaintScope * m_paint = nullptr;
 };

@@ -6,7 +6,9 @@
 #include <memory>
 #include <span>
 #include <utility>
+#include <vector>
 
+#include "list/XListCellKind.h"
 #include "list/XListCtrlData.h"
 
 /// One row: a record for each column. A row made for fewer columns than the list now has is not extended.
@@ -42,6 +44,24 @@ public:
     /// Notes where the row was seen.
     void SetLastPlace(int place) const { m_lastPlace = place; }
 
+    /// The host's own kind of a cell; null for most, and beyond the row's cells. Kinds end with the row's use.
+    std::shared_ptr<CXListCellKind> const & Kind(unsigned int col) const
+    {
+        static std::shared_ptr<CXListCellKind> const none;
+        return m_kinds != nullptr && col < m_kinds->size() ? (*m_kinds)[col] : none;
+    }
+    bool HasKinds() const { return m_kinds != nullptr; }
+    /// Of a cell that the row has.
+    void SetKind(unsigned int col, std::shared_ptr<CXListCellKind> kind);
+
+    // Columns that come and go move the cells, with their kinds. Row words and keys stay in the first cell.
+
+    /// A new cell at that place; nothing for a row that doesn't reach there.
+    void InsertCell(unsigned int col);
+    /// Takes a cell away; the capacity stays, with a fresh cell at the end. Nothing for the first one: its column may
+    /// go, its cell doesn't.
+    void RemoveCell(unsigned int col);
+
 private:
     friend class CXListRowPool;
 
@@ -52,6 +72,8 @@ private:
     /// The place in its pool.
     unsigned int m_slot = 0;
     SortMark m_sortMark;
+    /// One for each cell up to the last that has one. Null in most rows.
+    std::unique_ptr<std::vector<std::shared_ptr<CXListCellKind>>> m_kinds;
 };
 
 /// Owns every row that a list ever had, until the list ends. Rows in use stand first, in no particular order; behind

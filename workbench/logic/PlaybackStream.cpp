@@ -56,6 +56,7 @@ std::size_t PlaybackStream::Read(std::span<std::int16_t> samples)
             }
             m_position = m_stretch.first;
             m_reader.Seek(m_position);
+            m_passes.push_back(m_read);
         }
         auto const now = static_cast<std::size_t>(std::min<std::uint64_t>(wanted - done, m_stretch.end - m_position));
         m_samples.resize(now * all);
@@ -82,18 +83,20 @@ std::size_t PlaybackStream::Read(std::span<std::int16_t> samples)
         }
         done += got;
         m_position += got;
+        m_read += got;
     }
     return done;
 }
 
-std::uint64_t PlaybackStream::FrameAfter(std::uint64_t framesRead) const
+std::uint64_t PlaybackStream::FrameAfter(std::uint64_t framesHeard)
 {
-    std::uint64_t const length = m_stretch.Length();
-    if (length == 0)
+    while (m_passes.size() > 1 && m_passes[1] <= framesHeard)
     {
-        return m_stretch.first;
+        m_passes.pop_front();
     }
-    return m_stretch.first + (m_loop ? framesRead % length : std::min(framesRead, length - 1));
+    std::uint64_t const offset = framesHeard - std::min(framesHeard, m_passes.front());
+    std::uint64_t const length = m_stretch.Length();
+    return m_stretch.first + std::min(offset, length > 0 ? length - 1 : 0);
 }
 
 } // namespace workbench

@@ -2,6 +2,7 @@
 // The samples of a recording, or of a stretch of it, as an audio device takes them.
 
 #include <cstdint>
+#include <deque>
 #include <filesystem>
 #include <memory>
 #include <optional>
@@ -36,8 +37,9 @@ public:
     /// only at the end, which there is none in a loop.
     std::size_t Read(std::span<std::int16_t> samples);
 
-    /// The frame that is heard when so many frames have been read before: in a loop, within the stretch again.
-    std::uint64_t FrameAfter(std::uint64_t framesRead) const;
+    /// The frame that is heard when so many of all frames read have been heard before. Asked for numbers that grow:
+    /// what lies behind is forgotten.
+    std::uint64_t FrameAfter(std::uint64_t framesHeard);
 
 private:
     PlaybackStream(WavReader reader, FrameRange const & stretch);
@@ -45,6 +47,8 @@ private:
     WavReader m_reader;
     FrameRange m_stretch;
     std::uint64_t m_position;
+    std::uint64_t m_read = 0;              ///< all frames that were read
+    std::deque<std::uint64_t> m_passes{0}; ///< what had been read when each pass through the stretch began
     std::size_t m_channels;
     double m_gain = 1.0;
     bool m_loop = false;

@@ -9,7 +9,7 @@ namespace workbench
 std::wstring FormatCoding(RecordingInfo const & info)
 {
     return std::to_wstring(info.bitsPerSample) +
-           (info.coding == SampleCoding::Float ? Text(L"-bit float") : Text(L"-bit PCM"));
+           (info.coding == SampleCoding::floating_point ? Text(L"-bit float") : Text(L"-bit PCM"));
 }
 
 std::vector<DetailLine> DescribeRecording(std::filesystem::path const & path, RecordingAnalysis const & analysis,

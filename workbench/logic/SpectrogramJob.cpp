@@ -40,7 +40,7 @@ void SpectrogramJob::Run(std::filesystem::path const & path, SpectrogramSettings
     }
     catch (std::exception const &)
     {
-        result->problem = ReadProblem{ReadFault::CannotBeOpened};
+        result->problem = ReadProblem{ReadFault::cannot_be_opened};
         result->spectrogram = Spectrogram();
     }
     if (m_stop)

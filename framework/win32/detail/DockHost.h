@@ -19,9 +19,9 @@ namespace framework
 {
 class DockDrag;
 
-constexpr UINT firstOwnId = 0x10000;    // of panes whose identifier another has
-extern UINT const arrangeMessage;       // to a frame: its panes are laid out anew
-constexpr UINT_PTR slideWatchTimer = 2; // of a strip, while a pane of it is shown
+constexpr UINT first_own_id = 0x10000;    // of panes whose identifier another has
+extern UINT const arrangeMessage;         // to a frame: its panes are laid out anew
+constexpr UINT_PTR slide_watch_timer = 2; // of a strip, while a pane of it is shown
 
 /// Sizes that follow from the system's fonts and their resolution.
 struct DockSizes

@@ -7,6 +7,7 @@
 #include <cstring>
 #include <limits>
 #include <memory>
+#include <numeric>
 #include <utility>
 
 #include "list/table/NaturalOrder.h"
@@ -156,6 +157,7 @@ public:
             else if (!SortRun(run))
                 return false;
         }
+        m_access.Progress().Expect(1, 1000, 1000);
         return true;
     }
 
@@ -178,10 +180,68 @@ private:
         }
         m_present = run;
         m_present.offset = offset;
-        if (!ReadKeys())
+        if (!ReadKeys() || !JoinKeys())
             return false;
         SortKeys(run.begin, run.end);
         return true;
+    }
+
+    /// Where a column has few values, which their keys tell, the next column's keys are joined to them: the rows are
+    /// then put in order by both at once.
+    bool JoinKeys()
+    {
+        m_joined = false;
+        std::size_t const size = m_present.end - m_present.begin;
+        if (m_present.offset != 0 || m_present.column + 1 == m_columns.size() || size <= few_records)
+            return true;
+        m_places.assign(2 * most_values, no_value);
+        m_values.clear();
+        std::size_t at = m_present.begin;
+        while (at != m_present.end)
+        {
+            std::uint64_t const key = m_records[at].Key();
+            std::uint32_t const value = ValueOf(key);
+            if (value == no_value || NextOffset(key) != 0)
+                break;
+            m_records[at++].high = value;
+        }
+        if (at != m_present.end || m_values.size() == 1)
+        {
+            while (at-- != m_present.begin)
+                m_records[at].SetKey(m_values[m_records[at].high]);
+            return true;
+        }
+        std::vector<std::uint32_t> byRank(m_values.size());
+        std::iota(byRank.begin(), byRank.end(), 0U);
+        std::sort(byRank.begin(), byRank.end(),
+                  [this](std::uint32_t a, std::uint32_t b) { return m_values[a] < m_values[b]; });
+        std::vector<std::uint64_t> ranks(m_values.size());
+        int const bits = std::bit_width(m_values.size() - 1);
+        for (std::size_t rank = 0; rank < byRank.size(); ++rank)
+            ranks[byRank[rank]] = static_cast<std::uint64_t>(rank) << (64 - bits);
+        m_joined = true;
+        TableSortColumn const & next = m_columns[m_present.column + 1];
+        for (std::size_t i = m_present.begin; i != m_present.end; ++i)
+        {
+            if (!m_access.Read(m_records[i].row, next.column, m_value))
+                return false;
+            m_records[i].SetKey(ranks[m_records[i].high] | FirstKey(m_value, next.descending) >> bits);
+        }
+        return true;
+    }
+
+    /// The number of a key among those seen; no_value if there are too many.
+    std::uint32_t ValueOf(std::uint64_t key)
+    {
+        std::size_t place = (key * 0x9E3779B97F4A7C15ULL) >> (64 - std::bit_width(2 * most_values - 1));
+        while (m_places[place] != no_value && m_values[m_places[place]] != key)
+            place = (place + 1) % m_places.size();
+        if (m_places[place] == no_value && m_values.size() < most_values)
+        {
+            m_places[place] = static_cast<std::uint32_t>(m_values.size());
+            m_values.push_back(key);
+        }
+        return m_places[place];
     }
 
     /// The keys of the present run.
@@ -288,6 +348,12 @@ private:
         std::size_t const size = end - begin;
         if (size > 1)
         {
+            if (m_joined)
+            {
+                // The next column's keys have lost their last bits.
+                m_runs.push_back({begin, end, m_present.column + 1, 0});
+                return;
+            }
             if (std::size_t const offset = NextOffset(key); offset != 0)
             {
                 m_runs.push_back({begin, end, m_present.column, offset});
@@ -401,6 +467,7 @@ private:
                 for (std::size_t i = begin; i != end; ++i)
                     m_records[i].SetKey(m_records[i].row);
                 m_present = {begin, end, static_cast<std::uint32_t>(m_columns.size() - 1), rest_of_numbers};
+                m_joined = false;
                 SortKeys(begin, end);
                 return;
             }
@@ -410,7 +477,9 @@ private:
 
     static constexpr std::size_t rest_of_numbers = static_cast<std::size_t>(-1);
     static constexpr std::size_t all_alike = static_cast<std::size_t>(-2);
-    static constexpr std::size_t few_records = 512;
+    static constexpr std::size_t few_records = 128;
+    static constexpr std::size_t most_values = 2048;
+    static constexpr std::uint32_t no_value = 0xFFFFFFFF;
     static constexpr std::size_t many_records = 1 << 17;
     static constexpr int most_bits = 11;
     static constexpr int fewer_bits = 8;
@@ -421,6 +490,10 @@ private:
     std::size_t m_count;
     TableValue m_value;
     Run m_present{};
+    // Of a run whose keys are joined.
+    bool m_joined = false;
+    std::vector<std::uint64_t> m_values;
+    std::vector<std::uint32_t> m_places;
     std::vector<Run> m_runs;
     std::vector<std::pair<std::size_t, std::size_t>> m_parts;
     std::size_t m_next[1 << most_bits];

@@ -564,7 +564,7 @@ TEST_F(WorkbenchControls, ColumnsAreChosenAtTheTitles)
             ::PostMessageW(::GetDlgItem(control, 32806), BM_CLICK, 0, 0);
         },
         [&] { return OtherPopup(known) != nullptr && ::GetDlgItem(::GetDlgItem(OtherPopup(known), 1016), 32806); });
-    tests::Click(tests::ClientPoint(header.m_hWnd, title.CenterPoint()), tests::Button::Right);
+    tests::Click(tests::ClientPoint(header.m_hWnd, title.CenterPoint()), tests::Button::right);
     ASSERT_TRUE(tests::PumpUntil([&] { return later.Done() && OtherPopup(known) == nullptr; }));
     ASSERT_FALSE(later.Failed());
     ASSERT_TRUE(tests::PumpUntil([this] { return !m_window->Settings().hiddenColumns.empty(); }));

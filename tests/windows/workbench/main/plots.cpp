@@ -3,6 +3,9 @@
 #include <afxcmn.h>
 #include <afxwin.h>
 
+#include "Graphics.h"
+#include "PictureCopy.h"
+#include "Playing.h"
 #include "SpectrogramView.h"
 #include "WaveformView.h"
 
@@ -443,4 +446,152 @@ TEST_F(SpectrogramPlot, AnEndWhileAPartIsComputed)
     view.SetMarks(marks);
     ASSERT_TRUE(tests::PumpUntil([this] { return view.IsComputing(); }));
     view.DestroyWindow();
+}
+
+namespace
+{
+/// A device that hears a block whenever it is asked for room.
+class QuietDevice : public workbench::AudioDevice
+{
+public:
+    explicit QuietDevice(std::uint64_t & heard) : m_heard(heard) { m_heard = 0; }
+    bool Open(std::uint32_t, std::size_t channels) override
+    {
+        m_channels = channels;
+        return true;
+    }
+    bool HasRoom() const override { return ++m_asked % 2 == 0; }
+    void Write(std::span<std::int16_t const> samples) override { m_heard += samples.size() / m_channels; }
+    bool IsDone() const override { return true; }
+    std::uint64_t FramesHeard() const override { return m_heard; }
+    void Pause(bool) override {}
+
+private:
+    std::uint64_t & m_heard;
+    std::size_t m_channels = 1;
+    mutable int m_asked = 0;
+};
+} // namespace
+
+TEST_F(WaveformPlot, PlayingMovesAMarkThroughIt)
+{
+    std::uint64_t heard = 0;
+    CPlaying playing([&heard] { return std::make_unique<QuietDevice>(heard); });
+    std::vector<std::uint64_t> positions;
+    playing.m_onMoved = [&](std::optional<std::uint64_t> frame) {
+        view.ShowPlaying(frame);
+        if (frame)
+            positions.push_back(*frame);
+    };
+    playing.Play(parent, path, {48000, 144000});
+    EXPECT_TRUE(playing.IsPlaying());
+    ASSERT_TRUE(tests::PumpUntil([&] { return !playing.IsPlaying(); }));
+    ASSERT_GT(positions.size(), 5U);
+    EXPECT_TRUE(std::is_sorted(positions.begin(), positions.end()));
+    EXPECT_LT(positions.back(), 144000U);
+    EXPECT_EQ(heard, 96000U);
+}
+
+TEST_F(WaveformPlot, PlayingTurnsThePageAsLongAsTheUserIsThere)
+{
+    TimeMarks marks(frames);
+    marks.window.Show({0, 100000});
+    view.SetMarks(marks);
+    view.ShowPlaying(99000);
+    view.ShowPlaying(100500);
+    EXPECT_EQ(Shown(), (FrameRange{100500, 200500}));
+    marks.window.Show({300000, 400000});
+    view.SetMarks(marks);
+    view.ShowPlaying(150000);
+    view.ShowPlaying(450000);
+    EXPECT_EQ(Shown(), (FrameRange{300000, 400000})) << "the user has scrolled away";
+    view.ShowPlaying(std::nullopt);
+}
+
+TEST_F(WaveformPlot, TheSpaceBarPlays)
+{
+    int pressed = 0;
+    view.m_onPlay = [&pressed] { ++pressed; };
+    Key(VK_SPACE);
+    EXPECT_EQ(pressed, 1);
+}
+
+TEST_F(WaveformPlot, WithoutADeviceTheUserIsTold)
+{
+    CPlaying playing([] { return std::unique_ptr<workbench::AudioDevice>(); });
+    ::SetTimer(parent.m_hWnd, 99, 10, [](HWND window, UINT, UINT_PTR id, DWORD) {
+        if (HWND const box = ::GetLastActivePopup(window); box != window)
+        {
+            ::KillTimer(window, id);
+            ::PostMessageW(box, WM_COMMAND, IDOK, 0);
+        }
+    });
+    playing.Play(parent, path, {});
+    EXPECT_FALSE(playing.IsPlaying());
+}
+
+TEST_F(WaveformPlot, PlayingEndsWithItsObject)
+{
+    std::uint64_t heard = 0;
+    auto playing = std::make_unique<CPlaying>([&heard] { return std::make_unique<QuietDevice>(heard); });
+    int moves = 0;
+    playing->m_onMoved = [&moves](auto) { ++moves; };
+    playing->Play(parent, path, {});
+    playing->m_onMoved = nullptr;
+    playing.reset();
+    int const before = moves;
+    tests::PumpPosted();
+    EXPECT_EQ(moves, before);
+}
+
+TEST_F(WaveformPlot, IsSavedAsAPicture)
+{
+    std::filesystem::path const file = path.wstring() + L".png";
+    auto const draw = [this](CDC & dc, CRect const & rect) { view.Print(dc, rect); };
+    ASSERT_TRUE(workbench::SavePicture(parent, CSize(400, 200), draw, file));
+    workbench::GraphicsScope const graphics;
+    {
+        Gdiplus::Bitmap picture(file.c_str());
+        ASSERT_EQ(picture.GetLastStatus(), Gdiplus::Ok);
+        EXPECT_EQ(picture.GetWidth(), 400U);
+        EXPECT_EQ(picture.GetHeight(), 200U);
+        Gdiplus::Color corner;
+        picture.GetPixel(0, 0, &corner);
+        EXPECT_EQ(corner.ToCOLORREF(), RGB(255, 255, 255)) << "white paper";
+        int other = 0;
+        for (INT x = 0; x < 400; ++x)
+        {
+            Gdiplus::Color pixel;
+            picture.GetPixel(x, 120, &pixel);
+            other += pixel.ToCOLORREF() != RGB(255, 255, 255) ? 1 : 0;
+        }
+        EXPECT_GT(other, 10);
+    }
+    // Where it can't be written, what was there stays.
+    EXPECT_FALSE(workbench::SavePicture(parent, CSize(0, 0), draw, file));
+    EXPECT_TRUE(std::filesystem::exists(file));
+    EXPECT_FALSE(workbench::SavePicture(parent, CSize(40, 20), draw, L"Z:\\no such folder\\picture.png"));
+    std::error_code error;
+    std::filesystem::remove(file, error);
+}
+
+TEST_F(WaveformPlot, IsCopiedAsAMetafileAndAsABitmap)
+{
+    ASSERT_TRUE(workbench::CopyPicture(parent, CSize(300, 150),
+                                       [this](CDC & dc, CRect const & rect) { view.Print(dc, rect); }));
+    EXPECT_TRUE(::IsClipboardFormatAvailable(CF_ENHMETAFILE));
+    ASSERT_TRUE(::IsClipboardFormatAvailable(CF_DIB));
+    ASSERT_TRUE(::OpenClipboard(parent.m_hWnd));
+    HANDLE const memory = ::GetClipboardData(CF_DIB);
+    auto const * const header =
+        static_cast<BITMAPINFOHEADER const *>(memory != nullptr ? ::GlobalLock(memory) : nullptr);
+    if (header != nullptr)
+    {
+        EXPECT_EQ(header->biWidth, 300);
+        EXPECT_EQ(header->biHeight, 150);
+        ::GlobalUnlock(memory);
+    }
+    EXPECT_NE(header, nullptr);
+    ::EmptyClipboard();
+    ::CloseClipboard();
 }

@@ -1,6 +1,6 @@
 // The segment display as a control: what its setters do to its text, its style and its window.
 
-#include "displays_DigiStaticTest.h"
+#include "segments_DigiStaticTest.h"
 
 #include "DialogTemplate.h"
 #include "MessageRecorder.h"
@@ -13,8 +13,8 @@
 
 namespace
 {
-constexpr UINT MISSING_STRING = 29999;
-constexpr int DISPLAY_ID = 300;
+constexpr UINT missing_string = 29999;
+constexpr int display_id = 300;
 
 class DigiStaticControl : public tests::DisplayTest
 {
@@ -89,11 +89,11 @@ TEST_F(DigiStaticControl, ErasesNothing)
 TEST_F(DigiStaticControl, StandsInForADialogsStatic)
 {
     tests::DialogTemplate layout(L"Display");
-    layout.Add(L"Static", L"volt", DISPLAY_ID, CRect(10, 10, 150, 40), 0);
+    layout.Add(L"Static", L"volt", display_id, CRect(10, 10, 150, 40), 0);
     CDialog dialog;
     ASSERT_TRUE(dialog.CreateIndirect(layout.Get(), parent));
     tests::WindowCloser const dialogCloser(dialog);
-    ASSERT_TRUE(display.SubclassDlgItem(DISPLAY_ID, &dialog));
+    ASSERT_TRUE(display.SubclassDlgItem(display_id, &dialog));
     dialog.ShowWindow(SW_SHOW);
     tests::PumpPosted();
     display.SetText(L"?");
@@ -102,7 +102,7 @@ TEST_F(DigiStaticControl, StandsInForADialogsStatic)
     EXPECT_EQ(display.m_chars.GetSize(), 4);
     tests::Canvas canvas(60, 30);
     canvas.CopyFromScreen(display);
-    EXPECT_EQ(canvas.Pixel(0, 0), tests::DISPLAY_BACK);
+    EXPECT_EQ(canvas.Pixel(0, 0), tests::display_back);
 }
 
 TEST_F(DigiStaticText, OfTheWindowDoesNotShowByItself)
@@ -111,9 +111,9 @@ TEST_F(DigiStaticText, OfTheWindowDoesNotShowByItself)
     Paint();
     EXPECT_EQ(display.m_chars.GetSize(), 50);
     EXPECT_EQ(display.LineWidth(), 2450);
-    tests::Canvas canvas(Width, Height);
+    tests::Canvas canvas(display_width, display_height);
     Show(canvas);
-    EXPECT_EQ(canvas.Count(tests::DISPLAY_BACK), Width * Height);
+    EXPECT_EQ(canvas.Count(tests::display_back), display_width * display_height);
 }
 
 TEST_F(DigiStaticText, IsBuiltInUpperCaseAtTheNextPaint)
@@ -183,12 +183,12 @@ TEST_F(DigiStaticText, EmptyLeavesNoCharactersAndTheBackground)
     display.SetText(L"");
     Update();
     EXPECT_EQ(display.m_chars.GetSize(), 0);
-    tests::Canvas canvas(Width, Height);
+    tests::Canvas canvas(display_width, display_height);
     canvas.CopyFromScreen(display);
-    EXPECT_EQ(canvas.Count(tests::DISPLAY_BACK), Width * Height);
+    EXPECT_EQ(canvas.Count(tests::display_back), display_width * display_height);
     display.ModifyDigiStyle(DigiStyleKeepAspect, 0);
     Show(canvas);
-    EXPECT_EQ(canvas.Count(tests::DISPLAY_BACK), Width * Height);
+    EXPECT_EQ(canvas.Count(tests::display_back), display_width * display_height);
 }
 
 TEST_F(DigiStaticText, OfANullPointerIsEmpty)
@@ -212,7 +212,7 @@ TEST_F(DigiStaticText, IsFormattedByAResource)
     Open();
     display.Format(static_cast<unsigned int>(IDS_READING), 42, L"V");
     EXPECT_EQ(display.m_text, L"42 of V");
-    display.Format(MISSING_STRING, 42);
+    display.Format(missing_string, 42);
     EXPECT_EQ(display.m_text, L"");
 }
 
@@ -340,7 +340,7 @@ TEST_F(DigiStaticRepaint, IsLeftToTheLoopAtFirst)
     EXPECT_TRUE(recorder.Received().empty());
     ASSERT_TRUE(tests::PumpUntil([this] { return !display.NeedsPaint(); }));
     EXPECT_TRUE(
-        recorder.Matches({{"display", WM_PAINT, tests::Way::Posted}, {"display", WM_ERASEBKGND, tests::Way::Sent}}));
+        recorder.Matches({{"display", WM_PAINT, tests::Way::posted}, {"display", WM_ERASEBKGND, tests::Way::sent}}));
     EXPECT_FALSE(display.m_modified);
 }
 
@@ -355,10 +355,10 @@ TEST_F(DigiStaticRepaint, IsDoneBeforeTheSetterReturnsIfWanted)
     display.SetText(L"8");
     EXPECT_FALSE(display.m_modified);
     EXPECT_FALSE(display.NeedsPaint());
-    EXPECT_TRUE(recorder.Matches({{"display", WM_PAINT, tests::Way::Sent}})) << "nor is anything erased";
-    tests::Canvas canvas(Width, Height);
+    EXPECT_TRUE(recorder.Matches({{"display", WM_PAINT, tests::Way::sent}})) << "nor is anything erased";
+    tests::Canvas canvas(display_width, display_height);
     canvas.CopyFromScreen(display);
-    EXPECT_GT(canvas.Count(tests::DISPLAY_ON), 0);
+    EXPECT_GT(canvas.Count(tests::display_on), 0);
 
     display.SetDrawImmediately(false);
     display.SetText(L"7");
@@ -379,7 +379,7 @@ TEST_F(DigiStaticRepaint, OfAControlWithoutAWindowTouchesNoOtherWindow)
     EXPECT_TRUE(recorder.Matches({}));
     display.SetTransparent(false);
     Open();
-    tests::Canvas canvas(Width, Height);
+    tests::Canvas canvas(display_width, display_height);
     Show(canvas);
     EXPECT_GT(canvas.Count(RGB(255, 0, 0)), 0) << "what was set before shows in the window";
 }

@@ -13,15 +13,15 @@ namespace
 using namespace DigiStatic;
 using Line = CArray<CDigiChar>;
 
-constexpr DWORD NO_STYLE = 0;
-constexpr double EXACT = 1e-9;
+constexpr DWORD no_style = 0;
+constexpr double exact = 1e-9;
 
 void ExpectPlace(CLinePlace const & place, double left, double top, double scaleX, double scaleY)
 {
-    EXPECT_NEAR(place.left, left, EXACT);
-    EXPECT_NEAR(place.top, top, EXACT);
-    EXPECT_NEAR(place.scaleX, scaleX, EXACT);
-    EXPECT_NEAR(place.scaleY, scaleY, EXACT);
+    EXPECT_NEAR(place.left, left, exact);
+    EXPECT_NEAR(place.top, top, exact);
+    EXPECT_NEAR(place.scaleX, scaleX, exact);
+    EXPECT_NEAR(place.scaleY, scaleY, exact);
 }
 } // namespace
 
@@ -56,7 +56,7 @@ TEST(DisplayLine, LeavesOutTheLowerLeftCorner)
 TEST(DisplayLine, HasOneCharacterForEachOfTheText)
 {
     Line line;
-    BuildLine(L"1.A", NO_STYLE, line);
+    BuildLine(L"1.A", no_style, line);
     ASSERT_EQ(line.GetSize(), 3);
     EXPECT_EQ(line[0].segmentCount, 7);
     EXPECT_EQ(line[0].mask, 0x24);
@@ -70,7 +70,7 @@ TEST(DisplayLine, HasOneCharacterForEachOfTheText)
 TEST(DisplayLine, HasTheCharactersOutlines)
 {
     Line line;
-    BuildLine(L"88888888888888888888A:", NO_STYLE, line);
+    BuildLine(L"88888888888888888888A:", no_style, line);
     ASSERT_EQ(line.GetSize(), 22);
     for (INT_PTR i = 0; i < line.GetSize(); ++i)
     {
@@ -85,7 +85,7 @@ TEST(DisplayLine, TakesTheStyleOver)
     BuildLine(L"1", DigiStyleAlways14 | DigiStyleHideOff, line);
     EXPECT_EQ(line[0].segmentCount, 14);
     EXPECT_EQ(line[0].hideOff, 1);
-    BuildLine(L"1", NO_STYLE, line);
+    BuildLine(L"1", no_style, line);
     EXPECT_EQ(line[0].segmentCount, 7);
     EXPECT_EQ(line[0].hideOff, 0);
 }
@@ -93,11 +93,11 @@ TEST(DisplayLine, TakesTheStyleOver)
 TEST(DisplayLine, IsReplacedByTheNextText)
 {
     Line line;
-    BuildLine(L"12345", NO_STYLE, line);
-    BuildLine(L"8", NO_STYLE, line);
+    BuildLine(L"12345", no_style, line);
+    BuildLine(L"8", no_style, line);
     ASSERT_EQ(line.GetSize(), 1);
     EXPECT_EQ(line[0].mask, 0x7F);
-    BuildLine(L"", NO_STYLE, line);
+    BuildLine(L"", no_style, line);
     EXPECT_EQ(line.GetSize(), 0);
     EXPECT_EQ(LineWidth(line), 0);
 }
@@ -113,7 +113,7 @@ TEST(DisplayLine, OfDefaultCharactersHasWidthButNoSegments)
 
 TEST(AlignedDisplayLine, IsCentredAtFirst)
 {
-    ExpectPlace(PlaceAlignedLine(CRect(10, 20, 10 + 490, 20 + 83), 49, NO_STYLE), 10 + (490 - 49) / 2.0, 20, 1, 1);
+    ExpectPlace(PlaceAlignedLine(CRect(10, 20, 10 + 490, 20 + 83), 49, no_style), 10 + (490 - 49) / 2.0, 20, 1, 1);
     ExpectPlace(PlaceAlignedLine(CRect(10, 20, 10 + 490, 20 + 83), 49, DigiStyleKeepAspect), 10 + (490 - 49) / 2.0, 20,
                 1, 1);
 }
@@ -132,14 +132,14 @@ TEST(AlignedDisplayLine, RightWinsOverLeft)
 
 TEST(AlignedDisplayLine, IsAlwaysCentredFromTopToBottom)
 {
-    for (DWORD const style : {NO_STYLE, static_cast<DWORD>(LedAlignLeft), static_cast<DWORD>(LedAlignRight)})
+    for (DWORD const style : {no_style, static_cast<DWORD>(LedAlignLeft), static_cast<DWORD>(LedAlignRight)})
         ExpectPlace(PlaceAlignedLine(CRect(5, 7, 5 + 98, 7 + 400), 98, style), 5, 7 + (400 - 83) / 2.0, 1, 1);
 }
 
 TEST(AlignedDisplayLine, TakesTheSmallerScale)
 {
-    EXPECT_NEAR(PlaceAlignedLine(CRect(0, 0, 100, 830), 50, NO_STYLE).scaleX, 2, EXACT);
-    EXPECT_NEAR(PlaceAlignedLine(CRect(0, 0, 100, 830), 50, NO_STYLE).scaleY, 2, EXACT);
-    EXPECT_NEAR(PlaceAlignedLine(CRect(0, 0, 1000, 83), 50, NO_STYLE).scaleX, 1, EXACT);
-    EXPECT_NEAR(PlaceAlignedLine(CRect(0, 0, 100, 166), 50, NO_STYLE).scaleX, 2, EXACT);
+    EXPECT_NEAR(PlaceAlignedLine(CRect(0, 0, 100, 830), 50, no_style).scaleX, 2, exact);
+    EXPECT_NEAR(PlaceAlignedLine(CRect(0, 0, 100, 830), 50, no_style).scaleY, 2, exact);
+    EXPECT_NEAR(PlaceAlignedLine(CRect(0, 0, 1000, 83), 50, no_style).scaleX, 1, exact);
+    EXPECT_NEAR(PlaceAlignedLine(CRect(0, 0, 100, 166), 50, no_style).scaleX, 2, exact);
 }

@@ -1,6 +1,6 @@
 // Windows that take the shape of their segments, and the corner that is left out of painting.
 
-#include "displays_DigiStaticTest.h"
+#include "segments_DigiStaticTest.h"
 
 #include "GdiHandleCount.h"
 #include "ImportPatch.h"
@@ -172,14 +172,14 @@ TEST_F(DigiStaticShape, CornerIsLeftOutOfPainting)
     CRect button(300, 200, 330, 220); // its place is of no account
     display.SetButtonRect(&button);
     Update();
-    tests::Canvas canvas(Width, Height);
+    tests::Canvas canvas(display_width, display_height);
     canvas.CopyFromScreen(display);
-    EXPECT_EQ(canvas.BoundsOf(before), CRect(0, Height - 20, 30, Height));
+    EXPECT_EQ(canvas.BoundsOf(before), CRect(0, display_height - 20, 30, display_height));
     EXPECT_EQ(canvas.Count(before), 30 * 20);
-    EXPECT_EQ(canvas.Count(after), Width * Height - 30 * 20);
+    EXPECT_EQ(canvas.Count(after), display_width * display_height - 30 * 20);
 
     display.SetButtonRect(nullptr);
     Update();
     canvas.CopyFromScreen(display);
-    EXPECT_EQ(canvas.Count(after), Width * Height);
+    EXPECT_EQ(canvas.Count(after), display_width * display_height);
 }

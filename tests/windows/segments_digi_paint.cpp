@@ -1,6 +1,6 @@
 // What the segment display paints: place, scale, colours.
 
-#include "displays_DigiStaticTest.h"
+#include "segments_DigiStaticTest.h"
 
 #include "GdiHandleCount.h"
 #include "GoldenImage.h"
@@ -10,11 +10,11 @@
 
 namespace
 {
-using tests::DISPLAY_BACK;
-using tests::DISPLAY_OFF;
-using tests::DISPLAY_ON;
-using tests::DISPLAY_SOFT_OFF;
-using tests::DISPLAY_SOFT_ON;
+using tests::display_back;
+using tests::display_off;
+using tests::display_on;
+using tests::display_soft_off;
+using tests::display_soft_on;
 
 using DigiStaticPaint = tests::DisplayTest;
 using DigiStaticHandles = tests::DisplayTest;
@@ -27,10 +27,10 @@ TEST_F(DigiStaticPaint, KeepsTheAspectInTheMiddle)
 {
     Open();
     display.SetText(L"8");
-    tests::Canvas canvas(Width, Height);
+    tests::Canvas canvas(display_width, display_height);
     Show(canvas);
     // Scale 1, origin (490 - 49) / 2 = 220.5, rounded half up.
-    EXPECT_EQ(canvas.BoundsOfOther(DISPLAY_BACK), CRect(225, 4, 265 + 1, 78 + 1));
+    EXPECT_EQ(canvas.BoundsOfOther(display_back), CRect(225, 4, 265 + 1, 78 + 1));
 }
 
 TEST_F(DigiStaticPaint, KeepsTheAspectInATallWindow)
@@ -40,7 +40,7 @@ TEST_F(DigiStaticPaint, KeepsTheAspectInATallWindow)
     tests::Canvas canvas(98, 266);
     Show(canvas);
     // Scale 2, origin (266 - 166) / 2 = 50 from the top.
-    EXPECT_EQ(canvas.BoundsOfOther(DISPLAY_BACK), CRect(8, 50 + 8, 88 + 1, 50 + 156 + 1));
+    EXPECT_EQ(canvas.BoundsOfOther(display_back), CRect(8, 50 + 8, 88 + 1, 50 + 156 + 1));
 }
 
 TEST_F(DigiStaticPaint, FillsTheWindowWithoutAspect)
@@ -48,9 +48,9 @@ TEST_F(DigiStaticPaint, FillsTheWindowWithoutAspect)
     Open();
     display.SetText(L"8");
     display.ModifyDigiStyle(DigiStyleKeepAspect, 0);
-    tests::Canvas canvas(Width, Height);
+    tests::Canvas canvas(display_width, display_height);
     Show(canvas);
-    EXPECT_EQ(canvas.BoundsOfOther(DISPLAY_BACK), CRect(40, 4, 440 + 1, 78 + 1));
+    EXPECT_EQ(canvas.BoundsOfOther(display_back), CRect(40, 4, 440 + 1, 78 + 1));
 }
 
 TEST_F(DigiStaticPaint, SetsCharactersSideBySideWithoutAGap)
@@ -60,11 +60,11 @@ TEST_F(DigiStaticPaint, SetsCharactersSideBySideWithoutAGap)
     display.ModifyDigiStyle(DigiStyleSoftPen, DigiStyleHideOff);
     tests::Canvas canvas(49 + 18 + 49, 83);
     Show(canvas);
-    EXPECT_EQ(canvas.BoundsOf(DISPLAY_ON), CRect(4, 4, 49 + 18 + 44 + 1, 78 + 1));
+    EXPECT_EQ(canvas.BoundsOf(display_on), CRect(4, 4, 49 + 18 + 44 + 1, 78 + 1));
     // The colon's squares lie 4 to 13 units right of its cell's edge, which is the first digit's right one.
     tests::Canvas colon(18, 83);
     ::BitBlt(colon.Dc().GetSafeHdc(), 0, 0, 18, 83, canvas.Dc().GetSafeHdc(), 49, 0, SRCCOPY);
-    EXPECT_EQ(colon.BoundsOf(DISPLAY_ON), CRect(4, 23, 13 + 1, 59 + 1));
+    EXPECT_EQ(colon.BoundsOf(display_on), CRect(4, 23, 13 + 1, 59 + 1));
 }
 
 TEST_F(DigiStaticPaint, ColoursLitAndUnlitSegmentsAndTheirSoftEdges)
@@ -73,12 +73,12 @@ TEST_F(DigiStaticPaint, ColoursLitAndUnlitSegmentsAndTheirSoftEdges)
     display.SetText(L"1");
     tests::Canvas canvas(49, 83);
     Show(canvas);
-    EXPECT_EQ(canvas.Pixel(41, 20), DISPLAY_ON) << "inside the upper right segment";
-    EXPECT_EQ(canvas.Pixel(44, 20), DISPLAY_SOFT_ON) << "at its edge";
-    EXPECT_EQ(canvas.Pixel(7, 20), DISPLAY_OFF) << "inside the upper left segment";
-    EXPECT_EQ(canvas.Pixel(4, 20), DISPLAY_SOFT_OFF) << "at its edge";
-    EXPECT_EQ(canvas.Pixel(24, 25), DISPLAY_BACK);
-    EXPECT_EQ(canvas.Pixel(0, 0), DISPLAY_BACK);
+    EXPECT_EQ(canvas.Pixel(41, 20), display_on) << "inside the upper right segment";
+    EXPECT_EQ(canvas.Pixel(44, 20), display_soft_on) << "at its edge";
+    EXPECT_EQ(canvas.Pixel(7, 20), display_off) << "inside the upper left segment";
+    EXPECT_EQ(canvas.Pixel(4, 20), display_soft_off) << "at its edge";
+    EXPECT_EQ(canvas.Pixel(24, 25), display_back);
+    EXPECT_EQ(canvas.Pixel(0, 0), display_back);
 }
 
 TEST_F(DigiStaticPaint, EdgesHaveThePureColoursWithoutSoftPens)
@@ -88,10 +88,10 @@ TEST_F(DigiStaticPaint, EdgesHaveThePureColoursWithoutSoftPens)
     display.ModifyDigiStyle(DigiStyleSoftPen, 0);
     tests::Canvas canvas(49, 83);
     Show(canvas);
-    EXPECT_EQ(canvas.Pixel(44, 20), DISPLAY_ON);
-    EXPECT_EQ(canvas.Pixel(4, 20), DISPLAY_OFF);
-    EXPECT_EQ(canvas.Count(DISPLAY_SOFT_ON) + canvas.Count(DISPLAY_SOFT_OFF), 0);
-    EXPECT_EQ(canvas.Count(DISPLAY_ON) + canvas.Count(DISPLAY_OFF) + canvas.Count(DISPLAY_BACK), 49 * 83);
+    EXPECT_EQ(canvas.Pixel(44, 20), display_on);
+    EXPECT_EQ(canvas.Pixel(4, 20), display_off);
+    EXPECT_EQ(canvas.Count(display_soft_on) + canvas.Count(display_soft_off), 0);
+    EXPECT_EQ(canvas.Count(display_on) + canvas.Count(display_off) + canvas.Count(display_back), 49 * 83);
 }
 
 TEST_F(DigiStaticPaint, LeavesUnlitSegmentsOutIfHidden)
@@ -101,8 +101,8 @@ TEST_F(DigiStaticPaint, LeavesUnlitSegmentsOutIfHidden)
     display.ModifyDigiStyle(0, DigiStyleHideOff);
     tests::Canvas canvas(49, 83);
     Show(canvas);
-    EXPECT_GT(canvas.Count(DISPLAY_ON), 0);
-    EXPECT_EQ(canvas.Count(DISPLAY_OFF) + canvas.Count(DISPLAY_SOFT_OFF), 0);
+    EXPECT_GT(canvas.Count(display_on), 0);
+    EXPECT_EQ(canvas.Count(display_off) + canvas.Count(display_soft_off), 0);
 }
 
 TEST_F(DigiStaticPaint, TakesNewColours)

@@ -12,12 +12,12 @@
 
 namespace tests
 {
-inline constexpr COLORREF DISPLAY_BACK = 0x501E00;
-inline constexpr COLORREF DISPLAY_OFF = 0x005000;
-inline constexpr COLORREF DISPLAY_ON = 0x00FF00;
+inline constexpr COLORREF display_back = 0x501E00;
+inline constexpr COLORREF display_off = 0x005000;
+inline constexpr COLORREF display_on = 0x00FF00;
 // Three quarters of the above and a quarter of the background.
-inline constexpr COLORREF DISPLAY_SOFT_OFF = 0x144300;
-inline constexpr COLORREF DISPLAY_SOFT_ON = 0x14C600;
+inline constexpr COLORREF display_soft_off = 0x144300;
+inline constexpr COLORREF display_soft_on = 0x14C600;
 
 /// The control with its inside open.
 class OpenDisplay : public CDigiStatic
@@ -48,23 +48,23 @@ public:
     /// The characters of the line were made anew since the last call.
     bool WasRebuilt()
     {
-        bool const rebuilt = m_chars.GetSize() == 0 || m_chars[0].segmentCount != Mark;
+        bool const rebuilt = m_chars.GetSize() == 0 || m_chars[0].segmentCount != mark;
         if (m_chars.GetSize() > 0)
-            m_chars[0].segmentCount = Mark;
+            m_chars[0].segmentCount = mark;
         return rebuilt;
     }
 
 private:
-    static constexpr int Mark = 0;
+    static constexpr int mark = 0;
 };
 
 class DisplayTest : public testing::Test
 {
 protected:
-    static constexpr int Width = 490;
-    static constexpr int Height = 83;
+    static constexpr int display_width = 490;
+    static constexpr int display_height = 83;
 
-    void Open(wchar_t const * text = L"", int width = Width, int height = Height, DWORD style = 0)
+    void Open(wchar_t const * text = L"", int width = display_width, int height = display_height, DWORD style = 0)
     {
         ASSERT_TRUE(display.Create(text, WS_CHILD | WS_VISIBLE | style, CRect(0, 0, width, height), parent, 7));
         PumpPosted();

@@ -17,9 +17,9 @@
 
 namespace
 {
-constexpr WORD GERMAN = 1031;
-constexpr WORD ENGLISH = 1033;
-constexpr int LIST_ID = 1044;
+constexpr WORD german = 1031;
+constexpr WORD english = 1033;
+constexpr int list_id = 1044;
 
 std::vector<LANGID> g_threadLanguages;
 
@@ -46,7 +46,7 @@ protected:
     }
 
     static bool IsOpen(CWnd & dialog) { return dialog.GetSafeHwnd() != nullptr && dialog.IsWindowVisible(); }
-    static HWND List(CWnd & dialog) { return GetDlgItem(dialog, LIST_ID); }
+    static HWND List(CWnd & dialog) { return GetDlgItem(dialog, list_id); }
     static int Selected(CWnd & dialog) { return static_cast<int>(SendMessageW(List(dialog), CB_GETCURSEL, 0, 0)); }
 
     /// Runs the dialog. inside: called once it has opened; it has to see to its end.
@@ -70,17 +70,17 @@ private:
 class WithDanish : public CSprachauswahlDlg
 {
 public:
-    static constexpr unsigned short DANISH = 1030;
+    static constexpr unsigned short danish = 1030;
 
     BOOL m_systemSetsFocus = FALSE;
 
-    explicit WithDanish(CWnd * parent) : CSprachauswahlDlg(ENGLISH, parent) {}
+    explicit WithDanish(CWnd * parent) : CSprachauswahlDlg(english, parent) {}
 
 protected:
     BOOL OnInitDialog() override
     {
         m_systemSetsFocus = CSprachauswahlDlg::OnInitDialog();
-        SpracheAufnehmen(L"Dansk", DANISH);
+        SpracheAufnehmen(L"Dansk", danish);
         return m_systemSetsFocus;
     }
 };
@@ -104,11 +104,11 @@ TEST_F(LanguageChooser, ListsTheLanguagesWithTheirIds)
         {L"Polski", 1045},
         {L"\u0420\u0443\u0441\u0441\u043A\u0438\u0439 (Russian)", 1049},
     };
-    for (WORD const language : {GERMAN, ENGLISH})
+    for (WORD const language : {german, english})
     {
         tests::ScopedLanguage const inForce(language);
         tests::ScopedWindow parent;
-        CSprachauswahlDlg dialog(ENGLISH, parent);
+        CSprachauswahlDlg dialog(english, parent);
         std::vector<std::pair<std::wstring, LRESULT>> listed;
         Run(dialog, [&] {
             auto const count = static_cast<WPARAM>(SendMessageW(List(dialog), CB_GETCOUNT, 0, 0));
@@ -132,12 +132,12 @@ TEST_F(LanguageChooser, SpeaksTheLanguageInForce)
         std::wstring title;
         std::wstring cancel;
     };
-    for (Texts const & texts : {Texts{GERMAN, L"Anzeigesprache w\u00E4hlen", L"Abbruch"},
-                                Texts{ENGLISH, L"Choose Display Language", L"Cancel"}})
+    for (Texts const & texts : {Texts{german, L"Anzeigesprache w\u00E4hlen", L"Abbruch"},
+                                Texts{english, L"Choose Display Language", L"Cancel"}})
     {
         tests::ScopedLanguage const inForce(texts.language);
         tests::ScopedWindow parent;
-        CSprachauswahlDlg dialog(ENGLISH, parent);
+        CSprachauswahlDlg dialog(english, parent);
         Run(dialog, [&] {
             EXPECT_EQ(TextOf(dialog), texts.title);
             EXPECT_EQ(TextOf(GetDlgItem(dialog, IDOK)), L"OK");
@@ -157,11 +157,11 @@ TEST_F(LanguageChooser, TextsHaveRoom)
         WORD language;
         bool prompts;
     };
-    for (Measured const & measured : {Measured{GERMAN, false}, Measured{ENGLISH, true}})
+    for (Measured const & measured : {Measured{german, false}, Measured{english, true}})
     {
         tests::ScopedLanguage const inForce(measured.language);
         tests::ScopedWindow parent;
-        CSprachauswahlDlg dialog(ENGLISH, parent);
+        CSprachauswahlDlg dialog(english, parent);
         int texts = 0;
         Run(dialog, [&] {
             CClientDC dc(&dialog);
@@ -173,7 +173,7 @@ TEST_F(LanguageChooser, TextsHaveRoom)
                 CRect room;
                 child->GetClientRect(room);
                 int const id = child->GetDlgCtrlID();
-                bool const isPrompt = id != LIST_ID && id != IDOK && id != IDCANCEL;
+                bool const isPrompt = id != list_id && id != IDOK && id != IDCANCEL;
                 if (isPrompt && !measured.prompts)
                     continue;
                 CRect needed(0, 0, room.Width(), 0);
@@ -192,7 +192,7 @@ TEST_F(LanguageChooser, TextsHaveRoom)
 TEST_F(LanguageChooser, FocusBeginsInTheListAndTabGoesOverTheButtons)
 {
     tests::ScopedWindow parent;
-    CSprachauswahlDlg dialog(ENGLISH, parent);
+    CSprachauswahlDlg dialog(english, parent);
     std::vector<int> order;
     tests::LaterActions later;
     auto const focused = [&](int id) {
@@ -201,7 +201,7 @@ TEST_F(LanguageChooser, FocusBeginsInTheListAndTabGoesOverTheButtons)
         };
     };
     later.Add([&] { ASSERT_TRUE(tests::BringToFront(dialog)); }, [&] { return IsOpen(dialog); });
-    later.Add([&] { order.push_back(LIST_ID), tests::Key(VK_TAB); }, focused(LIST_ID));
+    later.Add([&] { order.push_back(list_id), tests::Key(VK_TAB); }, focused(list_id));
     later.Add([&] { order.push_back(IDOK), tests::Key(VK_TAB); }, focused(IDOK));
     later.Add([&] { order.push_back(IDCANCEL), tests::Key(VK_TAB); }, focused(IDCANCEL));
     later.Add(
@@ -209,10 +209,10 @@ TEST_F(LanguageChooser, FocusBeginsInTheListAndTabGoesOverTheButtons)
             EXPECT_EQ(LOWORD(dialog.GetDefID()), IDOK);
             tests::Key(VK_RETURN);
         },
-        focused(LIST_ID));
+        focused(list_id));
     EXPECT_EQ(dialog.DoModal(), IDOK);
     EXPECT_FALSE(later.Failed());
-    EXPECT_EQ(order, (std::vector<int>{LIST_ID, IDOK, IDCANCEL}));
+    EXPECT_EQ(order, (std::vector<int>{list_id, IDOK, IDCANCEL}));
 }
 
 TEST_F(LanguageChooser, SelectsTheLanguageGiven)
@@ -249,9 +249,9 @@ TEST_F(LanguageChooser, UnknownLanguageSelectsNothingAndOkKeepsIt)
 TEST_F(LanguageChooser, OkOnTheSameLanguageSwitchesNothing)
 {
     tests::ScopedWindow parent;
-    CSprachauswahlDlg dialog(ENGLISH, parent);
+    CSprachauswahlDlg dialog(english, parent);
     EXPECT_EQ(Run(dialog, [&] { Press(dialog, IDOK); }), IDOK);
-    EXPECT_EQ(dialog.SprachId(), ENGLISH);
+    EXPECT_EQ(dialog.SprachId(), english);
     EXPECT_FALSE(dialog.SpracheGeaendert());
     EXPECT_TRUE(g_threadLanguages.empty());
 }
@@ -259,7 +259,7 @@ TEST_F(LanguageChooser, OkOnTheSameLanguageSwitchesNothing)
 TEST_F(LanguageChooser, WindowsLanguageChosenWithTheKeyboardSwitchesTheThread)
 {
     tests::ScopedWindow parent;
-    CSprachauswahlDlg dialog(ENGLISH, parent);
+    CSprachauswahlDlg dialog(english, parent);
     tests::LaterActions later;
     later.Add([&] { ASSERT_TRUE(tests::BringToFront(dialog)); }, [&] { return IsOpen(dialog); });
     later.Add([&] { tests::Key(VK_UP); }, [&] { return ::IsChild(List(dialog), ::GetFocus()); });
@@ -275,7 +275,7 @@ TEST_F(LanguageChooser, WindowsLanguageChosenWithTheKeyboardSwitchesTheThread)
 TEST_F(LanguageChooser, LanguageChosenWithTheMouseSwitchesTheThread)
 {
     tests::ScopedWindow parent;
-    CSprachauswahlDlg dialog(ENGLISH, parent);
+    CSprachauswahlDlg dialog(english, parent);
     tests::LaterActions later;
     COMBOBOXINFO info{};
     info.cbSize = sizeof(info);
@@ -305,14 +305,14 @@ TEST_F(LanguageChooser, LanguageChosenWithTheMouseSwitchesTheThread)
 TEST_F(LanguageChooser, CancelChangesNothing)
 {
     tests::ScopedWindow parent;
-    CSprachauswahlDlg dialog(ENGLISH, parent);
+    CSprachauswahlDlg dialog(english, parent);
     tests::LaterActions later;
     later.Add([&] { ASSERT_TRUE(tests::BringToFront(dialog)); }, [&] { return IsOpen(dialog); });
     later.Add([&] { tests::Key(VK_UP); }, [&] { return ::IsChild(List(dialog), ::GetFocus()); });
     later.Add([&] { tests::Key(VK_ESCAPE); }, [&] { return Selected(dialog) == 1; });
     EXPECT_EQ(dialog.DoModal(), IDCANCEL);
     EXPECT_FALSE(later.Failed());
-    EXPECT_EQ(dialog.SprachId(), ENGLISH);
+    EXPECT_EQ(dialog.SprachId(), english);
     EXPECT_FALSE(dialog.SpracheGeaendert());
     EXPECT_TRUE(g_threadLanguages.empty());
 }
@@ -320,21 +320,21 @@ TEST_F(LanguageChooser, CancelChangesNothing)
 TEST_F(LanguageChooser, NextRunBeginsWithTheLanguageChosen)
 {
     tests::ScopedWindow parent;
-    CSprachauswahlDlg dialog(ENGLISH, parent);
+    CSprachauswahlDlg dialog(english, parent);
     Run(dialog, [&] {
         SendMessageW(List(dialog), CB_SETCURSEL, 1, 0);
         Press(dialog, IDOK);
     });
-    ASSERT_EQ(dialog.SprachId(), GERMAN);
+    ASSERT_EQ(dialog.SprachId(), german);
     ASSERT_TRUE(dialog.SpracheGeaendert());
     Run(dialog, [&] {
         EXPECT_EQ(TextOf(List(dialog)), L"Deutsch");
         EXPECT_FALSE(dialog.SpracheGeaendert()) << "a new run has changed nothing yet";
         Press(dialog, IDOK);
     });
-    EXPECT_EQ(dialog.SprachId(), GERMAN);
+    EXPECT_EQ(dialog.SprachId(), german);
     EXPECT_FALSE(dialog.SpracheGeaendert());
-    EXPECT_EQ(g_threadLanguages, std::vector<LANGID>{GERMAN});
+    EXPECT_EQ(g_threadLanguages, std::vector<LANGID>{german});
 }
 
 TEST_F(LanguageChooser, DerivedChooserAddsLanguages)
@@ -348,15 +348,15 @@ TEST_F(LanguageChooser, DerivedChooserAddsLanguages)
         Press(dialog, IDOK);
     });
     EXPECT_EQ(dialog.m_systemSetsFocus, TRUE);
-    EXPECT_EQ(dialog.SprachId(), WithDanish::DANISH);
-    EXPECT_EQ(g_threadLanguages, std::vector<LANGID>{WithDanish::DANISH});
+    EXPECT_EQ(dialog.SprachId(), WithDanish::danish);
+    EXPECT_EQ(g_threadLanguages, std::vector<LANGID>{WithDanish::danish});
 }
 
 TEST_F(LanguageChooser, ToolkitsModuleIsCurrentWhileItIsOpen)
 {
     HINSTANCE const former = AfxGetResourceHandle();
     tests::ScopedWindow parent;
-    CSprachauswahlDlg dialog(ENGLISH, parent);
+    CSprachauswahlDlg dialog(english, parent);
     Run(dialog, [&] {
         EXPECT_EQ(AfxGetResourceHandle(), GetModuleHandleW(L"instrument_ui.dll"));
         EXPECT_FALSE(parent.IsWindowEnabled());
@@ -368,7 +368,7 @@ TEST_F(LanguageChooser, ToolkitsModuleIsCurrentWhileItIsOpen)
 
 TEST_F(LanguageChooser, HasARunTimeClass)
 {
-    CSprachauswahlDlg dialog(ENGLISH, nullptr);
+    CSprachauswahlDlg dialog(english, nullptr);
     EXPECT_TRUE(dialog.IsKindOf(RUNTIME_CLASS(CSprachauswahlDlg)));
     EXPECT_TRUE(dialog.IsKindOf(RUNTIME_CLASS(CDialogEx)));
     EXPECT_STREQ(dialog.GetRuntimeClass()->m_lpszClassName, "CSprachauswahlDlg");

@@ -1,4 +1,4 @@
-#include "SettingsFile.h"
+#include "SettingsExchange.h"
 
 #include <optional>
 #include <system_error>
@@ -35,7 +35,7 @@ SettingsFileResult ExportSettings(CWnd & owner)
     auto const folder = ChooseFolder(owner, Text(L"Choose the folder for the settings file:"));
     if (!folder)
     {
-        return SettingsFileResult::GivenUp;
+        return SettingsFileResult::given_up;
     }
     auto const files = registry_settings::settings_files(*folder);
     auto tree = ApplicationTree();
@@ -43,10 +43,10 @@ SettingsFileResult ExportSettings(CWnd & owner)
     {
         AfxMessageBox(Message(Text(L"The settings could not be written to this file:"), files.saved),
                       MB_ICONEXCLAMATION);
-        return SettingsFileResult::Failed;
+        return SettingsFileResult::failed;
     }
     AfxMessageBox(Message(Text(L"The settings are in this file now:"), files.saved), MB_ICONINFORMATION);
-    return SettingsFileResult::Done;
+    return SettingsFileResult::done;
 }
 
 SettingsFileResult ImportSettings(CWnd & owner)
@@ -54,7 +54,7 @@ SettingsFileResult ImportSettings(CWnd & owner)
     auto const folder = ChooseFolder(owner, Text(L"Choose the folder that has the settings file:"));
     if (!folder)
     {
-        return SettingsFileResult::GivenUp;
+        return SettingsFileResult::given_up;
     }
     auto const files = registry_settings::settings_files(*folder);
     std::error_code error;
@@ -64,12 +64,12 @@ SettingsFileResult ImportSettings(CWnd & owner)
         if (!std::filesystem::exists(files.saved, error))
         {
             AfxMessageBox(Message(Text(L"This folder has no settings file:"), *folder), MB_ICONEXCLAMATION);
-            return SettingsFileResult::Failed;
+            return SettingsFileResult::failed;
         }
         if (AfxMessageBox(Message(Text(L"Replace all settings by those in this file?"), files.saved),
                           MB_YESNO | MB_ICONQUESTION) != IDYES)
         {
-            return SettingsFileResult::GivenUp;
+            return SettingsFileResult::given_up;
         }
         std::filesystem::rename(files.saved, files.plain, error);
     }
@@ -77,7 +77,7 @@ SettingsFileResult ImportSettings(CWnd & owner)
     if (registry_settings::import_registry_settings(tree, files))
     {
         AfxMessageBox(Text(L"The settings are those of the file now."), MB_ICONINFORMATION);
-        return SettingsFileResult::Done;
+        return SettingsFileResult::done;
     }
     // The file has its new name once it has been read, so then it was the registry that refused.
     auto const read = !std::filesystem::exists(files.plain, error);
@@ -85,7 +85,7 @@ SettingsFileResult ImportSettings(CWnd & owner)
                                : Text(L"This is no settings file, or it cannot be read:"),
                           read ? files.restored : files.plain),
                   MB_ICONEXCLAMATION);
-    return read ? SettingsFileResult::Incomplete : SettingsFileResult::Failed;
+    return read ? SettingsFileResult::incomplete : SettingsFileResult::failed;
 }
 
 } // namespace workbench

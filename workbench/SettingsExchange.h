@@ -10,10 +10,10 @@ namespace workbench
 /// What came of an export or import.
 enum class SettingsFileResult
 {
-    Done,
-    GivenUp,    ///< by the user
-    Failed,     ///< the settings are as they were
-    Incomplete, ///< an import failed in the middle: some of the settings are gone
+    done,
+    given_up,   ///< by the user
+    failed,     ///< the settings are as they were
+    incomplete, ///< an import failed in the middle: some of the settings are gone
 };
 
 /// Lets the user choose a folder and writes all settings to a file there, over an earlier one.
