@@ -91,8 +91,8 @@ private:
     char const * m_last = "";
 };
 
-/// Runs the worlds of the first seeds, each made anew, on a guarded heap; windows and GDI objects must be what they were, but
-/// for those that the system keeps: fonts of menus and captions.
+/// Runs the worlds of the first seeds, each made anew, on a guarded heap; windows and GDI objects must be what they
+/// were, but for those that the system keeps: fonts of menus and captions.
 template <typename World> void RunAll(std::size_t count = std::size(seeds))
 {
     {

@@ -1,5 +1,5 @@
-// A frame with bars that draw themselves, with menus and children, whose every handler may show, hide, fill, resize and
-// end any of them, and the frame.
+// A frame with bars that draw themselves and with menus, whose every handler may show, hide, fill, resize and end any
+// of them, and the frame. It has no children: the system's own code for them does not stand their end within it.
 
 #include "chaos_Chaos.h"
 #include "mfcbars_MfcBarTest.h"
@@ -81,30 +81,6 @@ BEGIN_MESSAGE_MAP(ChaoticFrame, CMDIFrameWndEx)
     ON_UPDATE_COMMAND_UI_RANGE(ID_MFC_A, ID_MFC_PANE, &ChaoticFrame::OnUpdateAny)
 END_MESSAGE_MAP()
 
-/// The system's MDI windows stand no end of the frame or of a child while they activate, size or end one.
-class MdiCall
-{
-public:
-    MdiCall() { ++s_running; }
-    ~MdiCall() { --s_running; }
-    MdiCall(MdiCall const &) = delete;
-    MdiCall & operator=(MdiCall const &) = delete;
-    static bool Running() { return s_running > 0; }
-
-private:
-    inline static int s_running = 0;
-};
-
-class ChaoticChild : public CMDIChildWndEx
-{
-protected:
-    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
-    {
-        MdiCall const call;
-        return CMDIChildWndEx::WindowProc(message, wParam, lParam);
-    }
-};
-
 class World : public chaos::Chaos
 {
 public:
@@ -121,7 +97,6 @@ public:
         {
         }
     }
-    /// From its first message on that says so: the system's MDI client is not to be used then.
     void FrameEnds(ChaoticFrame const * frame)
     {
         if (m_frame == frame)
@@ -139,7 +114,7 @@ protected:
         }
         if (m_frame == nullptr)
             return;
-        switch (Pick(22))
+        switch (Pick(21))
         {
         case 0:
         case 1:
@@ -210,18 +185,12 @@ protected:
             m_frame->SetMessageText(L"text");
             break;
         case 19:
-            Note("child");
-            if (!MdiCall::Running())
-                UseChildren();
-            break;
-        case 20:
-            Note("posted"); // a child's end may be among it
-            if (!MdiCall::Running())
-                tests::PumpPosted();
+            Note("posted");
+            tests::PumpPosted();
             break;
         default:
             Note("destroy the frame");
-            if (OneIn(20) && !MdiCall::Running() && m_frame->MDIGetActive() == nullptr)
+            if (OneIn(20))
                 m_frame->DestroyWindow();
             break;
         }
@@ -396,24 +365,6 @@ private:
             break;
         }
     }
-    void UseChildren()
-    {
-        MdiCall const call;
-        CMDIChildWnd * const active = m_frame->MDIGetActive();
-        if (active == nullptr)
-        {
-            auto * const child = new ChaoticChild;
-            child->Create(nullptr, L"Sheet", WS_CHILD | WS_VISIBLE | WS_OVERLAPPEDWINDOW, CFrameWnd::rectDefault,
-                          m_frame);
-        }
-        else if (OneIn(3))
-            active->DestroyWindow();
-        else if (OneIn(2))
-            m_frame->MDIMaximize(active);
-        else
-            m_frame->MDIRestore(active);
-    }
-
     ChaoticFrame * m_frame = nullptr;
     CMenu m_menu;
     UINT m_next = 0;
