@@ -521,7 +521,14 @@ void CMainWindow::ShowTexts()
         m_panes[part]->SetWindowText(TitleOf(static_cast<Part>(part)));
     }
     m_panel.ShowTexts();
-    m_list.ShowTexts();
+    {
+        CRecordingList::Batch const batch(m_list);
+        m_list.ShowTexts();
+        for (std::size_t line = 0; line < m_recordings.size(); ++line)
+        {
+            m_list.ShowLineTexts(static_cast<int>(line), m_recordings[line].file, m_recordings[line].analysis.get());
+        }
+    }
     m_listPanel.ShowTexts();
     UpdateStatusLine();
     if (!m_shown)

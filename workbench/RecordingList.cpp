@@ -134,7 +134,6 @@ bool CRecordingList::CreateList(CWnd & parent, UINT id, workbench::ScreenMetrics
     }
     SetFullRowSelect();
     SetFont(&metrics.Font(), FALSE);
-    SetEmptyListText(Text(L"No recordings. Open files or a folder."));
     EnableDragAndDrop();
     m_onRowsSwapped = [this](int a, int b) { SwapRows(a, b); };
     m_onDoubleClick = [this](int row, int column) {
@@ -144,14 +143,22 @@ bool CRecordingList::CreateList(CWnd & parent, UINT id, workbench::ScreenMetrics
             TellOpen(LineAt(row));
         }
     };
-    for (int i = 0; i < static_cast<int>(std::size(rating_names)); ++i)
-    {
-        GlobalComboStringsInsert(i, Text(rating_names[i]));
-    }
+    SetFixedTexts();
     CreateImages();
     CreateColumns();
     CreateMenu();
     return true;
+}
+
+/// What is in no line.
+void CRecordingList::SetFixedTexts()
+{
+    GlobalComboStringsReset();
+    for (int i = 0; i < static_cast<int>(std::size(rating_names)); ++i)
+    {
+        GlobalComboStringsInsert(i, Text(rating_names[i]));
+    }
+    SetEmptyListText(Text(L"No recordings. Open files or a folder."));
 }
 
 wchar_t const * CRecordingList::Title(int column)
@@ -210,9 +217,11 @@ void CRecordingList::CreateImages()
     SetImageList(&m_images, LVSIL_SMALL);
 }
 
-/// Shows titles and menu in the present language; cells get theirs when their files are read.
+/// Shows what is in no line in the present language; ShowLineTexts does the rest.
 void CRecordingList::ShowTexts()
 {
+    EndEditing();
+    SetFixedTexts();
     MeasureTitles();
     for (int i = column_name; i < column_count; ++i)
     {

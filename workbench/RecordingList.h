@@ -128,6 +128,9 @@ public:
     /// Fills a line; a file that could not be read gets a disabled one. A line that does not exist is ignored.
     void ShowAnalysis(int line, std::shared_ptr<workbench::RecordingAnalysis const> const & analysis);
 
+    /// Shows what a line says in the present language, after ShowTexts. analysis: null for a file that is not read yet.
+    void ShowLineTexts(int line, std::filesystem::path const & file, workbench::RecordingAnalysis const * analysis);
+
     /// Says again that a line's file is being read. The values that the line has go.
     void ShowReading(int line, std::filesystem::path const & file);
 
@@ -272,6 +275,7 @@ private:
     void PlaceEditors(int line);
     void NoteReference();
     void CreateImages();
+    void SetFixedTexts();
     void CreateMenu();
     void Tell(unsigned changes);
     int ChosenRow() const;

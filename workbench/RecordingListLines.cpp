@@ -291,6 +291,34 @@ void CRecordingList::FillRow(int row, std::shared_ptr<workbench::RecordingAnalys
     }
 }
 
+void CRecordingList::ShowLineTexts(int line, std::filesystem::path const & file,
+                                   workbench::RecordingAnalysis const * analysis)
+{
+    auto const row = PlaceOf(line);
+    if (row < 0)
+    {
+        return;
+    }
+    Batch const batch(*this);
+    Touch(row);
+    if (analysis == nullptr)
+    {
+        SetItemText(row, column_status, workbench::Text(unread_text));
+    }
+    else
+    {
+        ShowStatus(row, *analysis);
+    }
+    if (analysis != nullptr && analysis->problem)
+    {
+        SetItemToolTipText(row, column_name, (file.wstring() + L": " + analysis->StatusText()).c_str());
+    }
+    else
+    {
+        SetComboBoxGlobalStrings(row, column_rating, NotesOf(line).rating, 0);
+    }
+}
+
 void CRecordingList::ShowStatus(int row, workbench::RecordingAnalysis const & analysis)
 {
     auto const damaged = analysis.info.IsCutOff() || analysis.invalidSamples > 0;
