@@ -28,7 +28,7 @@ std::shared_ptr<RecordingAnalysis const> Analysis(int line)
     auto analysis = std::make_shared<RecordingAnalysis>();
     if (line % 7 == 6)
     {
-        analysis->problem = workbench::ReadProblem{workbench::ReadFault::NotWav};
+        analysis->problem = workbench::ReadProblem{workbench::ReadFault::not_wav};
         return analysis;
     }
     analysis->info.channels = 1;

@@ -6,6 +6,7 @@
 #include "RecordingList.h"
 #include "ScopedWindow.h"
 #include "StarRating.h"
+#include "frame/RegisteredMessages.h"
 #include "logic/ReadableColours.h"
 
 #include <gtest/gtest.h>
