@@ -5,6 +5,7 @@
 #include "Pump.h"
 #include "RecordingList.h"
 #include "ScopedWindow.h"
+#include "frame/RegisteredMessages.h"
 #include "logic/ReadableColours.h"
 
 #include <gtest/gtest.h>
