@@ -148,10 +148,8 @@ TEST_F(WorkbenchFinding, ARecordingIsRenamedWithItsNotes)
     List().ChooseLine(1);
     List().SendMessage(WM_KEYDOWN, VK_SPACE);
     tests::PumpPosted();
-    auto const dialog = [this] { return ::GetWindow(m_window->m_hWnd, GW_ENABLEDPOPUP); };
-    auto const field = [&] {
-        return dialog() != nullptr && dialog() != m_window->m_hWnd ? ::GetDlgItem(dialog(), IDC_NEW_NAME) : nullptr;
-    };
+    auto const dialog = [] { return ::FindWindowW(nullptr, L"Rename"); };
+    auto const field = [&] { return dialog() != nullptr ? ::GetDlgItem(dialog(), IDC_NEW_NAME) : nullptr; };
     tests::LaterActions later;
     later.Add(
         [&] {
@@ -177,6 +175,7 @@ TEST_F(WorkbenchFinding, TheSelectedRecordingsGoToTheTrash)
     tests::App().Answer(IDYES);
     List().SendMessage(WM_KEYDOWN, VK_DELETE);
     ASSERT_TRUE(tests::PumpUntil([this] { return !m_window->IsBusy() && List().GetItemCount() == 2; }));
+    EXPECT_EQ(tests::App().TakeMessages(), std::vector<std::wstring>{L"Move these recordings to the trash?"});
     EXPECT_FALSE(fs::exists(m_folder / "recordings" / "r00001.wav"));
     EXPECT_TRUE(fs::exists(m_folder / "recordings" / "r00003.wav"));
     EXPECT_EQ(List().GetItemText(1, CRecordingList::column_name), L"r00003.wav");
