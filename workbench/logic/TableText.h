@@ -33,7 +33,8 @@ std::wstring CsvTable(TextTable const & table);
 std::wstring HtmlTable(TextTable const & table);
 
 /// What a file with the table contains: a web page where its name ends in .html or .htm, comma-separated values where
-/// it ends in .csv, else lines with tabs; the latter in UTF-8 with its mark. Halves of surrogate pairs come out as question marks.
+/// it ends in .csv, else lines with tabs; the latter in UTF-8 with its mark. Halves of surrogate pairs come out as
+/// question marks.
 std::string TableFile(TextTable const & table, std::filesystem::path const & file);
 
 } // namespace workbench
