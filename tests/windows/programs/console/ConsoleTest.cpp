@@ -75,6 +75,12 @@ void Script()
     tests::Key(VK_SPACE);
     PROGRAM_WAIT(Log() == _T("started\nstopped\ntarget 4.2\n"));
 
+    // A tip is the second line of the command's string, the message the first.
+    CRect rect;
+    Tools(AFX_IDW_TOOLBAR).GetItemRect(0, &rect);
+    tests::MoveMouse(tests::ClientPoint(Tools(AFX_IDW_TOOLBAR).m_hWnd, rect.CenterPoint()));
+    PROGRAM_WAIT(Status().GetPaneText(0) == _T("Create a new document"));
+
     // All bars leave their place where they are hidden.
     CRect before;
     ProgramTest::Frame().GetActiveView()->GetWindowRect(&before);
