@@ -83,7 +83,7 @@ TEST(ListColumnFit, APreferredColumnAtTheMinimumGoesOnFromItsOldWidth)
 {
     Fitter fitter;
     // The difference of -14 would take 20 to 6. It is met with 13 given up, which leaves -1; of that no column's share
-    // is a pixel, and the single pixel comes from column 0. The widths then are more than fit, which is meant.
+    // is a pixel, and the single pixel comes from column 0. The widths then are more than fit, as hosts expect.
     EXPECT_EQ(fitter.Fit({20, 50, 50}, 106, 0), Widths({19, 50, 50}));
     EXPECT_EQ(fitter.result, ColumnFit::all);
 }

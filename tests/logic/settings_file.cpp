@@ -312,7 +312,7 @@ TEST(SettingsTree, AReplayLeavesTheRootAloneOpen)
     MemorySettingsTree tree;
     registry_entry_list list{Begin(u"A"), Begin(u"B"), End(), End()};
     ASSERT_TRUE(write_registry_tree(tree, list));
-    EXPECT_EQ(tree.OpenKeyCount(), 1U) << "the root stays open, which is meant";
+    EXPECT_EQ(tree.OpenKeyCount(), 1U) << "the root stays open, as hosts expect";
     list = {Begin(u"A"), Begin(u"B"), Kind(7)};
     ASSERT_FALSE(write_registry_tree(tree, list));
     EXPECT_EQ(tree.OpenKeyCount(), 2U) << "keys below it are closed also on failure";

@@ -29,7 +29,7 @@ inline bool FittingIsRight(std::vector<int> const & before, std::vector<int> con
         alone[place] += available - sum(before);
         if (alone[place] > minimum)
             return after == alone;
-        // It goes on from its old width, which is meant.
+        // It goes on from its old width, as hosts expect.
         room += before[place] - (minimum + 1);
     }
     auto const [least, greatest] = std::minmax_element(after.begin(), after.end());

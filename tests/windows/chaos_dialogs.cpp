@@ -99,7 +99,7 @@ protected:
             EXPECT_EQ(dialog->m_held, 0);
             EXPECT_FALSE(dialog->m_modal);
         }
-        EXPECT_TRUE(m_parent.IsWindowEnabled()) << "left disabled by a modal dialog";
+        EXPECT_TRUE(m_host.IsWindowEnabled()) << "left disabled by a modal dialog";
     }
 
 private:
@@ -114,7 +114,7 @@ private:
     CString Text();
 
     MemoryPreferenceStore m_store;
-    tests::ScopedWindow m_parent;
+    tests::ScopedWindow m_host;
     std::vector<ChaosDialog *> m_dialogs;
     std::size_t m_managers;
     int m_loops = 0;
@@ -248,7 +248,7 @@ bool DialogWorld::MayEnd(ChaosDialog const & dialog) const
 void DialogWorld::Make()
 {
     UINT const id = OneIn(2) ? IDD_CHAOS_SIZABLE : IDD_CHAOS_FIXED;
-    auto * const dialog = new ChaosDialog(*this, id, OneIn(2) ? &m_parent : nullptr);
+    auto * const dialog = new ChaosDialog(*this, id, OneIn(2) ? &m_host : nullptr);
     dialog->m_fadeInOnCreate = OneIn(4);
     dialog->SetGrabAndMove(OneIn(2));
 }

@@ -60,7 +60,7 @@ private:
     CString Text() { return OneIn(4) ? CString(L"?") : CString(static_cast<wchar_t>(L'0' + Pick(60)), Pick(80)); }
     void Change(ChaosDisplay & display);
 
-    tests::ScopedWindow m_parent;
+    tests::ScopedWindow m_host;
     std::vector<ChaosDisplay *> m_displays;
 };
 
@@ -141,7 +141,7 @@ void DisplayWorld::Operate()
     if (m_displays.empty() || (m_displays.size() < most && OneIn(5)))
     {
         Note("make");
-        new ChaosDisplay(*this, &m_parent);
+        new ChaosDisplay(*this, &m_host);
         return;
     }
     ChaosDisplay & display = *m_displays[static_cast<std::size_t>(Pick(static_cast<int>(m_displays.size())))];

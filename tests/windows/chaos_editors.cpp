@@ -22,12 +22,12 @@ public:
 
     explicit EditorWorld(unsigned int seed) : Chaos(seed)
     {
-        m_button.Create(L"b", WS_CHILD | WS_VISIBLE, CRect(5, 210, 60, 230), &m_parent, 32);
-        m_parent.onNotify = [this](NMHDR const & header) { Hear(header); };
+        m_button.Create(L"b", WS_CHILD | WS_VISIBLE, CRect(5, 210, 60, 230), &m_host, 32);
+        m_host.onNotify = [this](NMHDR const & header) { Hear(header); };
     }
     ~EditorWorld() override
     {
-        m_parent.onNotify = nullptr;
+        m_host.onNotify = nullptr;
         m_list.reset();
         m_button.DestroyWindow();
     }
@@ -84,7 +84,7 @@ protected:
     {
         if (m_list == nullptr)
             m_list = std::make_unique<List>(*this);
-        if (!m_list->Create(tests::TestList::default_style, CRect(0, 0, 360, 200), &m_parent, tests::TestList::id))
+        if (!m_list->Create(tests::TestList::default_style, CRect(0, 0, 360, 200), &m_host, tests::TestList::id))
             return;
         m_list->m_onStateChange = [this](int, int) { Disturb(); };
         m_list->AddColumns(3);
@@ -218,7 +218,7 @@ protected:
     }
 
 private:
-    tests::ListParent m_parent;
+    tests::ListParent m_host;
     CButton m_button;
     std::unique_ptr<List> m_list;
 };

@@ -24,11 +24,11 @@ public:
     {
         m_texts[1] = L"one";
         m_texts[2] = L"two, which is long enough for a buffer of its own";
-        m_parent.onNotify = [this](NMHDR const & header) { Hear(header); };
+        m_host.onNotify = [this](NMHDR const & header) { Hear(header); };
     }
     ~ChaosHost()
     {
-        m_parent.onNotify = nullptr;
+        m_host.onNotify = nullptr;
         m_list.reset();
     }
 
@@ -80,7 +80,7 @@ private:
             m_list = std::make_unique<tests::TestList>();
         ++m_lists;
         DWORD const style = tests::TestList::default_style | (Coin() ? LVS_SINGLESEL : 0U);
-        m_list->Create(style, CRect(0, 0, 360, 200), &m_parent, tests::TestList::id);
+        m_list->Create(style, CRect(0, 0, 360, 200), &m_host, tests::TestList::id);
         m_list->AddColumns(1 + Below(4));
         m_list->EnableDragAndDrop();
         m_list->EnableItemToolTipps();
@@ -382,7 +382,7 @@ private:
     }
 
     std::mt19937 m_random;
-    tests::ListParent m_parent;
+    tests::ListParent m_host;
     std::map<int, CString> m_texts;
     std::unique_ptr<tests::TestList> m_list;
     Harm m_harm = Harm::everything;

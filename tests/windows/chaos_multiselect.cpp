@@ -217,7 +217,7 @@ public:
     /// to that size and stays.
     static constexpr int kept_by_the_system = 84;
 
-    explicit ControlWorld(unsigned int seed) : Chaos(seed), m_parent(static_cast<Derived &>(*this)) {}
+    explicit ControlWorld(unsigned int seed) : Chaos(seed), m_host(static_cast<Derived &>(*this)) {}
     ~ControlWorld() override
     {
         while (!m_controls.empty())
@@ -308,11 +308,11 @@ private:
     void MakeWindow(Control & control)
     {
         control.m_isMade = true;
-        static_cast<Derived &>(*this).Create(control, &m_parent);
+        static_cast<Derived &>(*this).Create(control, &m_host);
         control.m_isMade = false;
     }
 
-    Holder<Derived> m_parent;
+    Holder<Derived> m_host;
     std::vector<Control *> m_controls;
     /// Above 0 while controls and what they are made of may be painting.
     int m_painting = 0;

@@ -82,7 +82,7 @@ public:
     /// Its cache of device contexts, for windows that paint within one another: grows to that size and stays.
     static constexpr int kept_by_the_system = 48;
 
-    explicit TreeWorld(unsigned int seed) : Chaos(seed), m_parent(*this) {}
+    explicit TreeWorld(unsigned int seed) : Chaos(seed), m_host(*this) {}
     ~TreeWorld() override
     {
         while (!m_trees.empty())
@@ -148,7 +148,7 @@ private:
     void Insert(ChaosTree & tree, HTREEITEM parent);
     void Search(ChaosTree & tree, HTREEITEM item);
 
-    TreeHolder m_parent;
+    TreeHolder m_host;
     std::vector<ChaosTree *> m_trees;
     bool m_looking = false;
 };
@@ -376,7 +376,7 @@ void TreeWorld::Operate()
     if (m_trees.empty() || (m_trees.size() < most && OneIn(8)))
     {
         Note("make");
-        new ChaosTree(*this, &m_parent);
+        new ChaosTree(*this, &m_host);
         return;
     }
     ChaosTree & tree = *m_trees[static_cast<std::size_t>(Pick(static_cast<int>(m_trees.size())))];

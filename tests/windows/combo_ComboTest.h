@@ -101,12 +101,12 @@ public:
     using CAdvComboBox::m_focused;
     using CAdvComboBox::m_focusNotified;
     using CAdvComboBox::m_font;
+    using CAdvComboBox::m_host;
     using CAdvComboBox::m_hot;
     using CAdvComboBox::m_hotTimer;
     using CAdvComboBox::m_items;
     using CAdvComboBox::m_maxVisible;
     using CAdvComboBox::m_minVisible;
-    using CAdvComboBox::m_parent;
     using CAdvComboBox::m_rcButton;
     using CAdvComboBox::m_rcCombo;
     using CAdvComboBox::m_rcDropSaved;
@@ -143,15 +143,15 @@ protected:
     /// style: CBS_DROPDOWN or CBS_DROPDOWNLIST, and more. The edit field of the former is there at once.
     void MakeCombo(DWORD style = CBS_DROPDOWNLIST, std::vector<std::wstring> const & items = Numbered(10))
     {
-        m_combo = std::make_unique<TestCombo>(&m_parent);
-        ASSERT_TRUE(m_combo->Create(WS_CHILD | WS_VISIBLE | style, place, &m_parent, combo_id));
+        m_combo = std::make_unique<TestCombo>(&m_host);
+        ASSERT_TRUE(m_combo->Create(WS_CHILD | WS_VISIBLE | style, place, &m_host, combo_id));
         for (std::wstring const & item : items)
             m_combo->AddString(item.c_str());
         m_combo->BringWindowToTop();
-        ASSERT_TRUE(tests::BringToFront(m_parent.m_hWnd));
+        ASSERT_TRUE(tests::BringToFront(m_host.m_hWnd));
         m_combo->UpdateWindow();
         tests::PumpPosted();
-        m_parent.m_heard.clear();
+        m_host.m_heard.clear();
     }
     static std::vector<std::wstring> Numbered(int count)
     {
@@ -191,16 +191,15 @@ protected:
     }
     bool WaitHeard(std::string const & what)
     {
-        return tests::PumpUntil([&] {
-            return std::find(m_parent.m_heard.begin(), m_parent.m_heard.end(), what) != m_parent.m_heard.end();
-        });
+        return tests::PumpUntil(
+            [&] { return std::find(m_host.m_heard.begin(), m_host.m_heard.end(), what) != m_host.m_heard.end(); });
     }
     bool Open()
     {
         m_combo->ShowDropDown();
         bool const open = WaitOpen();
         tests::PumpPosted();
-        m_parent.m_heard.clear();
+        m_host.m_heard.clear();
         return open;
     }
     /// A key as the message loop would see it, without the keyboard.
@@ -217,7 +216,7 @@ protected:
         return text.GetString();
     }
 
-    ComboParent m_parent;
+    ComboParent m_host;
     std::unique_ptr<TestCombo> m_combo;
 };
 } // namespace combo_test

@@ -19,7 +19,7 @@ protected:
     void MakeNeighbour()
     {
         ASSERT_TRUE(
-            m_neighbour.Create(L"", WS_CHILD | WS_VISIBLE | BS_PUSHBUTTON, CRect(20, 300, 100, 330), &m_parent, 78));
+            m_neighbour.Create(L"", WS_CHILD | WS_VISIBLE | BS_PUSHBUTTON, CRect(20, 300, 100, 330), &m_host, 78));
         m_neighbour.UpdateWindow();
     }
 
@@ -33,11 +33,11 @@ TEST_F(ComboChoice, MouseOpensAndChooses)
     tests::Click(ComboPoint());
     ASSERT_TRUE(WaitOpen());
     tests::PumpPosted();
-    EXPECT_EQ(m_parent.TakeHeard(), (Heard{"SETFOCUS", "DROPDOWN"}));
+    EXPECT_EQ(m_host.TakeHeard(), (Heard{"SETFOCUS", "DROPDOWN"}));
 
     tests::Click(RowPoint(3));
     ASSERT_TRUE(WaitHeard("complete"));
-    EXPECT_EQ(m_parent.TakeHeard(), (Heard{"SELENDOK", "CLOSEUP", "SELCHANGE", "complete"}));
+    EXPECT_EQ(m_host.TakeHeard(), (Heard{"SELENDOK", "CLOSEUP", "SELCHANGE", "complete"}));
     EXPECT_EQ(m_combo->GetCurSel(), 3);
     EXPECT_FALSE(m_combo->GetDroppedState());
     EXPECT_EQ(::GetCapture(), nullptr);
@@ -50,11 +50,11 @@ TEST_F(ComboChoice, MouseOnTheButtonOpensAComboWithEdit)
     ASSERT_TRUE(WaitOpen());
     tests::PumpPosted();
     // The combo gets the focus first and hands it to its edit field.
-    EXPECT_EQ(m_parent.TakeHeard(), (Heard{"cancel", "SETFOCUS", "DROPDOWN"}));
+    EXPECT_EQ(m_host.TakeHeard(), (Heard{"cancel", "SETFOCUS", "DROPDOWN"}));
 
     tests::Click(RowPoint(2));
     ASSERT_TRUE(WaitHeard("complete"));
-    EXPECT_EQ(m_parent.TakeHeard(), (Heard{"SELENDOK", "CLOSEUP", "SELCHANGE", "complete"}));
+    EXPECT_EQ(m_host.TakeHeard(), (Heard{"SELENDOK", "CLOSEUP", "SELCHANGE", "complete"}));
     EXPECT_EQ(m_combo->GetCurSel(), 2);
     EXPECT_EQ(Text(), L"item 2");
     EXPECT_EQ(::GetFocus(), m_combo->m_edit->m_hWnd);
@@ -78,11 +78,11 @@ TEST_F(ComboChoice, ReturnChooses)
     tests::Key(VK_DOWN);
     ASSERT_TRUE(tests::PumpUntil([this] { return List().GetCurSel() == 3; }));
     EXPECT_EQ(m_combo->GetCurSel(), 1);
-    EXPECT_EQ(m_parent.TakeHeard(), Heard{});
+    EXPECT_EQ(m_host.TakeHeard(), Heard{});
     tests::Key(VK_RETURN);
     ASSERT_TRUE(WaitClosed());
     tests::PumpPosted();
-    EXPECT_EQ(m_parent.TakeHeard(), (Heard{"SELENDOK", "CLOSEUP", "SELCHANGE", "complete"}));
+    EXPECT_EQ(m_host.TakeHeard(), (Heard{"SELENDOK", "CLOSEUP", "SELCHANGE", "complete"}));
     EXPECT_EQ(m_combo->GetCurSel(), 3);
 }
 
@@ -94,7 +94,7 @@ TEST_F(ComboChoice, ReturnWithoutASelectionOnlyCloses)
     tests::Key(VK_RETURN);
     ASSERT_TRUE(WaitClosed());
     tests::PumpPosted();
-    EXPECT_EQ(m_parent.TakeHeard(), (Heard{"SELENDCANCEL", "CLOSEUP"}));
+    EXPECT_EQ(m_host.TakeHeard(), (Heard{"SELENDCANCEL", "CLOSEUP"}));
     EXPECT_EQ(m_combo->GetCurSel(), -1);
 }
 
@@ -108,7 +108,7 @@ TEST_F(ComboChoice, EscapeClosesAndCancels)
     tests::Key(VK_ESCAPE);
     ASSERT_TRUE(WaitClosed());
     tests::PumpPosted();
-    EXPECT_EQ(m_parent.TakeHeard(), (Heard{"SELENDCANCEL", "CLOSEUP"}));
+    EXPECT_EQ(m_host.TakeHeard(), (Heard{"SELENDCANCEL", "CLOSEUP"}));
     EXPECT_EQ(m_combo->GetCurSel(), 1);
 
     // With the drop-down closed the key is the combo's own.
@@ -129,7 +129,7 @@ TEST_F(ComboChoice, PressOutsideClosesAndGoesOnToTheCombo)
     tests::Click(outside);
     ASSERT_TRUE(WaitClosed());
     tests::PumpPosted();
-    EXPECT_EQ(m_parent.TakeHeard(), (Heard{"SELENDCANCEL", "CLOSEUP"}));
+    EXPECT_EQ(m_host.TakeHeard(), (Heard{"SELENDCANCEL", "CLOSEUP"}));
     // The point as the drop window counts it.
     LPARAM const point = MAKELPARAM(outside.x - drop.left, outside.y - drop.top);
     EXPECT_TRUE(recorder.Matches({{"combo", WM_LBUTTONDOWN, tests::Way::sent, MK_LBUTTON, point}}));
@@ -146,7 +146,7 @@ TEST_F(ComboChoice, PressOnTheComboItselfClosesToo)
     ASSERT_TRUE(WaitClosed());
     tests::PumpFor(std::chrono::milliseconds(50));
     EXPECT_FALSE(m_combo->GetDroppedState());
-    EXPECT_EQ(m_parent.TakeHeard(), (Heard{"SELENDCANCEL", "CLOSEUP"}));
+    EXPECT_EQ(m_host.TakeHeard(), (Heard{"SELENDCANCEL", "CLOSEUP"}));
 }
 
 TEST_F(ComboChoice, LosingTheApplicationsActivationCloses)
@@ -157,7 +157,7 @@ TEST_F(ComboChoice, LosingTheApplicationsActivationCloses)
     ASSERT_TRUE(::SetForegroundWindow(::GetDesktopWindow())); // another program's
     ASSERT_TRUE(WaitClosed());
     tests::PumpPosted();
-    Heard const heard = m_parent.TakeHeard();
+    Heard const heard = m_host.TakeHeard();
     EXPECT_EQ(heard, (Heard{"cancel", "SELENDCANCEL", "CLOSEUP"}));
     EXPECT_EQ(::GetCapture(), nullptr);
 }
@@ -186,7 +186,7 @@ TEST_F(ComboChoice, F4AndAltWithAnArrowOpenAndClose)
     MakeCombo();
     m_combo->SetFocus();
     tests::PumpPosted();
-    m_parent.m_heard.clear();
+    m_host.m_heard.clear();
     tests::Key(VK_F4);
     ASSERT_TRUE(WaitOpen());
     tests::Key(VK_F4);
@@ -196,7 +196,7 @@ TEST_F(ComboChoice, F4AndAltWithAnArrowOpenAndClose)
     tests::Key(VK_UP, {VK_MENU});
     ASSERT_TRUE(WaitClosed());
     tests::PumpPosted();
-    EXPECT_EQ(m_parent.TakeHeard(),
+    EXPECT_EQ(m_host.TakeHeard(),
               (Heard{"DROPDOWN", "SELENDCANCEL", "CLOSEUP", "DROPDOWN", "SELENDCANCEL", "CLOSEUP"}));
 }
 
@@ -204,7 +204,7 @@ TEST_F(ComboChoice, CloseWithoutADropWindowCompletes)
 {
     MakeCombo();
     EXPECT_EQ(m_combo->SendMessage(XListCtrl::WM_ADVCOMBO_CLOSE_DROP), 1);
-    EXPECT_EQ(m_parent.TakeHeard(), (Heard{"complete"}));
+    EXPECT_EQ(m_host.TakeHeard(), (Heard{"complete"}));
 }
 
 TEST_F(ComboChoice, ChoiceFromNoOpenListIsNone)
@@ -215,7 +215,7 @@ TEST_F(ComboChoice, ChoiceFromNoOpenListIsNone)
     EXPECT_EQ(m_combo->SendMessage(XListCtrl::WM_ADVCOMBO_SELECTED, 10), 1);
     EXPECT_EQ(m_combo->GetCurSel(), -1);
     EXPECT_TRUE(m_combo->GetDroppedState());
-    EXPECT_EQ(m_parent.TakeHeard(), Heard{});
+    EXPECT_EQ(m_host.TakeHeard(), Heard{});
 }
 
 TEST_F(ComboChoice, SelectionBeyondTheItemsOpensOnTheFirst)
@@ -247,11 +247,11 @@ TEST_F(ComboNeighbour, LeavingTheEditTellsTheParent)
     tests::Click(tests::Centre(m_combo->m_edit->m_hWnd));
     ASSERT_TRUE(WaitHeard("SETFOCUS"));
     tests::PumpPosted();
-    m_parent.m_heard.clear();
+    m_host.m_heard.clear();
     m_combo->SetEditSel(1, 3);
     tests::Click(tests::Centre(m_neighbour.m_hWnd));
     ASSERT_TRUE(WaitHeard("KILLFOCUS"));
-    EXPECT_EQ(m_parent.TakeHeard(), (Heard{"SELENDCANCEL", "KILLFOCUS"}));
+    EXPECT_EQ(m_host.TakeHeard(), (Heard{"SELENDCANCEL", "KILLFOCUS"}));
     EXPECT_FALSE(m_combo->m_focusNotified);
     EXPECT_EQ(m_combo->GetEditSel(), 0u);
 }
@@ -264,7 +264,7 @@ TEST_F(ComboNeighbour, LeavingTheEditOfAnOpenComboOnlyCloses)
     ASSERT_TRUE(Open());
     m_neighbour.SetFocus();
     EXPECT_FALSE(m_combo->GetDroppedState());
-    EXPECT_EQ(m_parent.TakeHeard(), (Heard{"SELENDCANCEL", "CLOSEUP"}));
+    EXPECT_EQ(m_host.TakeHeard(), (Heard{"SELENDCANCEL", "CLOSEUP"}));
 }
 
 TEST_F(ComboNeighbour, LeavingADropDownListCancels)
@@ -274,8 +274,8 @@ TEST_F(ComboNeighbour, LeavingADropDownListCancels)
     m_combo->SetFocus();
     tests::PumpPosted();
     EXPECT_TRUE(m_combo->m_focused);
-    m_parent.m_heard.clear();
+    m_host.m_heard.clear();
     m_neighbour.SetFocus();
-    EXPECT_EQ(m_parent.TakeHeard(), (Heard{"cancel"}));
+    EXPECT_EQ(m_host.TakeHeard(), (Heard{"cancel"}));
     EXPECT_TRUE(m_combo->m_focused);
 }

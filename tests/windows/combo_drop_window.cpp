@@ -26,10 +26,10 @@ protected:
     void PutComboAt(int x, int y)
     {
         CRect parent;
-        m_parent.GetWindowRect(parent);
+        m_host.GetWindowRect(parent);
         CRect const combo = ComboRect();
-        m_parent.SetWindowPos(nullptr, parent.left + x - combo.left, parent.top + y - combo.top, 0, 0,
-                              SWP_NOSIZE | SWP_NOZORDER);
+        m_host.SetWindowPos(nullptr, parent.left + x - combo.left, parent.top + y - combo.top, 0, 0,
+                            SWP_NOSIZE | SWP_NOZORDER);
         ASSERT_EQ(ComboRect().TopLeft(), CPoint(x, y));
     }
     CPoint GripPoint()
@@ -215,7 +215,7 @@ TEST_F(ComboDropWindow, ClickOnADisabledRowDoesNothing)
     EXPECT_TRUE(m_combo->GetDroppedState());
     EXPECT_EQ(List().GetCurSel(), 4);
     EXPECT_EQ(m_combo->m_curSel, -1);
-    EXPECT_EQ(m_parent.TakeHeard(), Heard{});
+    EXPECT_EQ(m_host.TakeHeard(), Heard{});
     tests::Click(RowPoint(6));
     ASSERT_TRUE(WaitClosed());
     EXPECT_EQ(m_combo->GetCurSel(), 6);

@@ -120,23 +120,23 @@ public:
     HostileParent(Scene const & scene, std::string moment, Deed deed)
         : m_moment(std::move(moment)),
           m_deed(deed),
-          m_parent(std::make_unique<ComboParent>()),
-          m_combo(std::make_unique<TestCombo>(m_parent.get()))
+          m_host(std::make_unique<ComboParent>()),
+          m_combo(std::make_unique<TestCombo>(m_host.get()))
     {
-        m_combo->Create(WS_CHILD | WS_VISIBLE | scene.style, CRect(20, 20, 170, 42), m_parent.get(), combo_id);
+        m_combo->Create(WS_CHILD | WS_VISIBLE | scene.style, CRect(20, 20, 170, 42), m_host.get(), combo_id);
         for (int i = 0; i < 6; ++i)
             m_combo->AddString((L"item " + std::to_wstring(i)).c_str());
         m_combo->BringWindowToTop();
         m_combo->ModifyComboFlags(0, scene.flags);
         m_combo->UpdateWindow();
-        m_parent->m_onNotification = [this](UINT code) { Hear(NameOf(code)); };
+        m_host->m_onNotification = [this](UINT code) { Hear(NameOf(code)); };
         m_combo->m_onCall = [this](std::string const & call) { Hear(call); };
     }
     ~HostileParent()
     {
         m_done = true;
         m_combo.reset();
-        m_parent.reset();
+        m_host.reset();
     }
 
     void Run(Scene const & scene)
@@ -168,7 +168,7 @@ private:
             m_combo->DestroyWindow();
             break;
         case Deed::destroy_parent:
-            m_parent->DestroyWindow();
+            m_host->DestroyWindow();
             break;
         case Deed::close_drop:
             m_combo->ShowDropDown(false);
@@ -186,7 +186,7 @@ private:
     Deed m_deed;
     bool m_armed = false;
     bool m_done = false;
-    std::unique_ptr<ComboParent> m_parent;
+    std::unique_ptr<ComboParent> m_host;
     std::unique_ptr<TestCombo> m_combo;
 };
 } // namespace

@@ -13,7 +13,7 @@ protected:
     {
         m_combo->SetFocus();
         tests::PumpPosted();
-        m_parent.m_heard.clear();
+        m_host.m_heard.clear();
     }
 };
 } // namespace
@@ -28,10 +28,10 @@ TEST_F(ComboKeys, DownStepsOverDisabledItems)
     tests::Key(VK_DOWN);
     ASSERT_TRUE(tests::PumpUntil([this] { return m_combo->m_curSel == 3; }));
     EXPECT_EQ(Text(), L"item 3");
-    EXPECT_EQ(m_parent.TakeHeard(), (Heard{"SELENDOK", "SELCHANGE"}));
+    EXPECT_EQ(m_host.TakeHeard(), (Heard{"SELENDOK", "SELCHANGE"}));
     tests::Key(VK_UP);
     ASSERT_TRUE(tests::PumpUntil([this] { return m_combo->m_curSel == 0; }));
-    EXPECT_EQ(m_parent.TakeHeard(), (Heard{"SELENDOK", "SELCHANGE"}));
+    EXPECT_EQ(m_host.TakeHeard(), (Heard{"SELENDOK", "SELCHANGE"}));
 }
 
 TEST_F(ComboKeys, NothingBehindTheLastItem)
@@ -41,7 +41,7 @@ TEST_F(ComboKeys, NothingBehindTheLastItem)
     Focus();
     PostKey(VK_DOWN);
     EXPECT_EQ(m_combo->m_curSel, 2);
-    EXPECT_EQ(m_parent.TakeHeard(), Heard{});
+    EXPECT_EQ(m_host.TakeHeard(), Heard{});
 }
 
 TEST_F(ComboKeys, PagesAreTenItemsDisabledOnesIncluded)
@@ -55,9 +55,9 @@ TEST_F(ComboKeys, PagesAreTenItemsDisabledOnesIncluded)
     PostKey(VK_NEXT);
     PostKey(VK_NEXT);
     EXPECT_EQ(m_combo->m_curSel, 24);
-    EXPECT_EQ(m_parent.TakeHeard().size(), 6u);
+    EXPECT_EQ(m_host.TakeHeard().size(), 6u);
     PostKey(VK_NEXT);
-    EXPECT_EQ(m_parent.TakeHeard(), Heard{});
+    EXPECT_EQ(m_host.TakeHeard(), Heard{});
     PostKey(VK_PRIOR);
     EXPECT_EQ(m_combo->m_curSel, 14);
 }
@@ -82,7 +82,7 @@ TEST_F(ComboKeys, ArrowKeysShowTheTextInTheEdit)
     tests::Key(VK_DOWN);
     ASSERT_TRUE(tests::PumpUntil([this] { return m_combo->m_curSel == 0; }));
     EXPECT_EQ(Text(), L"item 0");
-    EXPECT_EQ(m_parent.TakeHeard(), (Heard{"EDITUPDATE", "EDITCHANGE", "SELENDOK", "SELCHANGE"}));
+    EXPECT_EQ(m_host.TakeHeard(), (Heard{"EDITUPDATE", "EDITCHANGE", "SELENDOK", "SELCHANGE"}));
 }
 
 TEST_F(ComboKeys, ArrowKeysMoveInTheOpenList)
@@ -107,7 +107,7 @@ TEST_F(ComboKeys, ArrowKeysMoveInTheOpenList)
     PostKey(VK_DOWN);
     EXPECT_EQ(List().GetCurSel(), 4);
     EXPECT_EQ(m_combo->m_curSel, -1);
-    EXPECT_EQ(m_parent.TakeHeard(), Heard{});
+    EXPECT_EQ(m_host.TakeHeard(), Heard{});
 }
 
 TEST_F(ComboKeys, PageKeysMoveInTheOpenListAndShowTheText)
@@ -134,14 +134,14 @@ TEST_F(ComboKeys, CharactersOfTheCombo)
     MakeCombo();
     Focus();
     m_combo->SendMessage(WM_CHAR, 27, 1);
-    EXPECT_EQ(m_parent.TakeHeard(), (Heard{"cancel"}));
+    EXPECT_EQ(m_host.TakeHeard(), (Heard{"cancel"}));
     m_combo->SendMessage(WM_CHAR, 13, 1);
-    EXPECT_EQ(m_parent.TakeHeard(), (Heard{"complete"}));
+    EXPECT_EQ(m_host.TakeHeard(), (Heard{"complete"}));
     m_combo->SendMessage(WM_CHAR, 40, 1);
     EXPECT_EQ(m_combo->m_curSel, 0);
-    EXPECT_EQ(m_parent.TakeHeard(), (Heard{"SELENDOK", "SELCHANGE"}));
+    EXPECT_EQ(m_host.TakeHeard(), (Heard{"SELENDOK", "SELCHANGE"}));
     m_combo->SendMessage(WM_CHAR, L'x', 1);
-    EXPECT_EQ(m_parent.TakeHeard(), Heard{});
+    EXPECT_EQ(m_host.TakeHeard(), Heard{});
 }
 
 TEST_F(ComboKeys, ABracketTypedGoesToTheNextItem)
@@ -158,7 +158,7 @@ TEST_F(ComboKeys, ReturnWithAClosedDropDownCompletes)
     Focus();
     tests::Key(VK_RETURN);
     ASSERT_TRUE(WaitHeard("complete"));
-    EXPECT_EQ(m_parent.TakeHeard(), (Heard{"complete"}));
+    EXPECT_EQ(m_host.TakeHeard(), (Heard{"complete"}));
 }
 
 TEST_F(ComboKeys, EscapeWithAClosedDropDownCancelsByKeyAndCharacter)
@@ -166,8 +166,8 @@ TEST_F(ComboKeys, EscapeWithAClosedDropDownCancelsByKeyAndCharacter)
     MakeCombo();
     Focus();
     tests::Key(VK_ESCAPE);
-    ASSERT_TRUE(tests::PumpUntil([this] { return m_parent.m_heard.size() == 2; }));
-    EXPECT_EQ(m_parent.TakeHeard(), (Heard{"cancel", "cancel"}));
+    ASSERT_TRUE(tests::PumpUntil([this] { return m_host.m_heard.size() == 2; }));
+    EXPECT_EQ(m_host.TakeHeard(), (Heard{"cancel", "cancel"}));
 }
 
 TEST_F(ComboKeys, TwoHalfNotchesMoveOnce)

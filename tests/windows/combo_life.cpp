@@ -105,9 +105,9 @@ TEST_F(ComboLife, ConstructorsRegisterTheWindowClass)
 
 TEST_F(ComboLife, LinesOfTheControlsStringAreItems)
 {
-    TestCombo combo(&m_parent);
+    TestCombo combo(&m_host);
     combo.AddString(L"gone");
-    ASSERT_TRUE(combo.Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWNLIST, place, &m_parent, IDS_COMBO_LINES));
+    ASSERT_TRUE(combo.Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWNLIST, place, &m_host, IDS_COMBO_LINES));
     ASSERT_EQ(combo.GetCount(), 2);
     CString text;
     EXPECT_EQ(combo.GetLBText(0, text), 6);
@@ -120,9 +120,9 @@ TEST_F(ComboLife, LinesOfTheControlsStringAreItems)
 
 TEST_F(ComboLife, WithoutAStringTheItemsStay)
 {
-    TestCombo combo(&m_parent);
+    TestCombo combo(&m_host);
     combo.AddString(L"stays");
-    ASSERT_TRUE(combo.Create(WS_CHILD | CBS_DROPDOWNLIST, place, &m_parent, combo_id));
+    ASSERT_TRUE(combo.Create(WS_CHILD | CBS_DROPDOWNLIST, place, &m_host, combo_id));
     EXPECT_EQ(combo.GetCount(), 1);
 }
 
@@ -158,8 +158,8 @@ TEST_F(ComboLife, TakesTheParentsFont)
 
 TEST_F(ComboLife, EditFieldComesWithTheActivationOfTheChild)
 {
-    TestCombo combo(&m_parent);
-    ASSERT_TRUE(combo.Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWN | CBS_AUTOHSCROLL, place, &m_parent, combo_id));
+    TestCombo combo(&m_host);
+    ASSERT_TRUE(combo.Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWN | CBS_AUTOHSCROLL, place, &m_host, combo_id));
     EXPECT_EQ(combo.m_edit, nullptr);
     combo.SetWindowText(L"free");
     combo.BringWindowToTop();
@@ -180,8 +180,8 @@ TEST_F(ComboLife, EditFieldComesWithTheActivationOfTheChild)
 
 TEST_F(ComboLife, EditFieldFillsTheFrameWithoutTheInsideFlag)
 {
-    TestCombo combo(&m_parent);
-    ASSERT_TRUE(combo.Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWN, place, &m_parent, combo_id));
+    TestCombo combo(&m_host);
+    ASSERT_TRUE(combo.Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWN, place, &m_host, combo_id));
     combo.ModifyComboFlags(0, XListCtrl::combo_edit_plain);
     EXPECT_EQ(combo.m_comboFlags, 1u);
     combo.BringWindowToTop();
@@ -199,8 +199,8 @@ TEST_F(ComboLife, OnlyADropDownHasAnEditField)
 {
     for (DWORD const style : {DWORD(CBS_DROPDOWNLIST), DWORD(CBS_SIMPLE), DWORD(0)})
     {
-        TestCombo combo(&m_parent);
-        ASSERT_TRUE(combo.Create(WS_CHILD | WS_VISIBLE | style, place, &m_parent, combo_id));
+        TestCombo combo(&m_host);
+        ASSERT_TRUE(combo.Create(WS_CHILD | WS_VISIBLE | style, place, &m_host, combo_id));
         combo.BringWindowToTop();
         EXPECT_EQ(combo.m_edit, nullptr) << style;
     }
@@ -224,10 +224,10 @@ TEST_F(ComboLife, ControlOfATemplateIsSubclassed)
 
 TEST_F(ComboLife, PopupIsMadeWithTheClassName)
 {
-    TestCombo combo(&m_parent);
+    TestCombo combo(&m_host);
     CRect rect(200, 200, 350, 224);
     ASSERT_TRUE(combo.CreateEx(WS_EX_CONTROLPARENT, L"SuperComboBox", L"", WS_POPUP | WS_VISIBLE | CBS_DROPDOWNLIST,
-                               rect, &m_parent, 0));
+                               rect, &m_host, 0));
     EXPECT_NE(combo.m_font, nullptr);
     EXPECT_EQ(combo.m_edit, nullptr);
     combo.AddString(L"a");
@@ -240,8 +240,8 @@ TEST_F(ComboLife, PopupIsMadeWithTheClassName)
 
 TEST_F(ComboLife, EditAsksForTheForegroundOnceAMomentLater)
 {
-    TestCombo combo(&m_parent);
-    ASSERT_TRUE(combo.Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWN, place, &m_parent, combo_id));
+    TestCombo combo(&m_host);
+    ASSERT_TRUE(combo.Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWN, place, &m_host, combo_id));
     combo.BringWindowToTop();
     ASSERT_NE(combo.m_edit, nullptr);
     tests::MessageRecorder recorder({WM_TIMER});
@@ -253,8 +253,8 @@ TEST_F(ComboLife, EditAsksForTheForegroundOnceAMomentLater)
 
 TEST_F(ComboLife, FirstPaintGivesTheEditTextAndState)
 {
-    TestCombo combo(&m_parent);
-    ASSERT_TRUE(combo.Create(WS_CHILD | WS_VISIBLE | WS_DISABLED | CBS_DROPDOWN, place, &m_parent, combo_id));
+    TestCombo combo(&m_host);
+    ASSERT_TRUE(combo.Create(WS_CHILD | WS_VISIBLE | WS_DISABLED | CBS_DROPDOWN, place, &m_host, combo_id));
     combo.AddString(L"one");
     combo.BringWindowToTop();
     combo.SetCurSel(0);
@@ -287,7 +287,7 @@ TEST_F(ComboLife, DestroyedComboTakesItsDropWindowAlong)
     EXPECT_EQ(WindowCount(), windows);
 
     // The object serves a window again.
-    ASSERT_TRUE(m_combo->Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWN, place, &m_parent, combo_id));
+    ASSERT_TRUE(m_combo->Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWN, place, &m_host, combo_id));
     m_combo->BringWindowToTop();
     EXPECT_NE(m_combo->m_edit, nullptr);
     EXPECT_TRUE(Open());
@@ -302,14 +302,14 @@ TEST_F(ComboLife, DeletedComboTakesItsDropWindowAlong)
     m_combo.reset();
     EXPECT_EQ(::GetCapture(), nullptr);
     EXPECT_EQ(WindowCount(), windows);
-    EXPECT_EQ(m_parent.TakeHeard(), Heard{}); // nobody hears of a half deleted object
+    EXPECT_EQ(m_host.TakeHeard(), Heard{}); // nobody hears of a half deleted object
 }
 
 TEST_F(ComboLife, CombosLeaveNothingBehind)
 {
     auto const cycle = [this](DWORD style) {
-        TestCombo combo(&m_parent);
-        ASSERT_TRUE(combo.Create(WS_CHILD | WS_VISIBLE | style, place, &m_parent, combo_id));
+        TestCombo combo(&m_host);
+        ASSERT_TRUE(combo.Create(WS_CHILD | WS_VISIBLE | style, place, &m_host, combo_id));
         combo.AddString(L"a");
         combo.BringWindowToTop();
         combo.UpdateWindow();

@@ -51,7 +51,7 @@ TEST_F(ComboMessages, SelectionFollowsTheText)
     EXPECT_EQ(Send(CB_SETCURSEL, static_cast<WPARAM>(-1)), -1);
     EXPECT_EQ(m_combo->m_curSel, -1);
     EXPECT_EQ(m_combo->m_text, L"");
-    EXPECT_EQ(m_parent.TakeHeard(), Heard{});
+    EXPECT_EQ(m_host.TakeHeard(), Heard{});
 }
 
 TEST_F(ComboMessages, SelectStringSelectsOrClears)
@@ -72,14 +72,14 @@ TEST_F(ComboMessages, ResetEmptiesEverything)
     MakeCombo(CBS_DROPDOWN);
     m_combo->SetCurSel(2);
     m_combo->SetWindowText(L"free");
-    m_parent.m_heard.clear();
+    m_host.m_heard.clear();
     EXPECT_EQ(Send(CB_RESETCONTENT), 0);
     EXPECT_EQ(Send(CB_GETCOUNT), 0);
     EXPECT_EQ(m_combo->m_curSel, -1);
     EXPECT_EQ(m_combo->m_text, L"");
     EXPECT_EQ(Text(), L"");
     EXPECT_EQ(m_combo->GetWindowTextLength(), 0);
-    EXPECT_EQ(m_parent.TakeHeard(), (Heard{"EDITUPDATE", "EDITCHANGE"}));
+    EXPECT_EQ(m_host.TakeHeard(), (Heard{"EDITUPDATE", "EDITCHANGE"}));
     EXPECT_EQ(Send(CB_SETCURSEL, 4), -1);
     EXPECT_EQ(m_combo->m_curSel, 4); // an empty list takes any
 }
@@ -186,11 +186,11 @@ TEST_F(ComboMessages, EditOperationsNeedAnEdit)
 TEST_F(ComboMessages, DataIsExchanged)
 {
     MakeCombo(CBS_DROPDOWNLIST, {L"a", L"b"});
-    CDataExchange put(&m_parent, FALSE);
+    CDataExchange put(&m_host, FALSE);
     int index = 1;
     XListCtrl::DDX_AdvComboIndex(&put, combo_id, *m_combo, index);
     EXPECT_EQ(m_combo->GetCurSel(), 1);
-    CDataExchange get(&m_parent, TRUE);
+    CDataExchange get(&m_host, TRUE);
     index = 0;
     XListCtrl::DDX_AdvComboIndex(&get, combo_id, *m_combo, index);
     EXPECT_EQ(index, 1);

@@ -24,8 +24,8 @@ protected:
 
     void SetUp() override
     {
-        m_heard.Watch(m_parent.m_hWnd, "parent");
-        ASSERT_TRUE(tests::BringToFront(m_parent.m_hWnd));
+        m_heard.Watch(m_host.m_hWnd, "parent");
+        ASSERT_TRUE(tests::BringToFront(m_host.m_hWnd));
         ASSERT_TRUE(m_popup.CreateAt(CRect(200, 200, 320, 300)));
         for (int i = 0; i < 30; ++i)
             m_popup.List().AddString(std::to_wstring(i).c_str());
@@ -42,8 +42,8 @@ protected:
         return tests::PumpUntil([&] { return Count(message) > before; });
     }
 
-    tests::ScopedWindow m_parent{CRect(100, 100, 500, 500)};
-    XListCtrl::CXComboList m_popup{&m_parent};
+    tests::ScopedWindow m_host{CRect(100, 100, 500, 500)};
+    XListCtrl::CXComboList m_popup{&m_host};
     tests::MessageRecorder m_heard;
 };
 
@@ -99,7 +99,7 @@ TEST_F(ComboPopupList, TheScrollBarMovesTheList)
 TEST_F(ComboPopupList, TheThirdLossOfTheFocusIsAnEscape)
 {
     // One that has not been shown has lost none yet.
-    XListCtrl::CXComboList popup(&m_parent);
+    XListCtrl::CXComboList popup(&m_host);
     ASSERT_TRUE(popup.CreateAt(CRect(0, 0, 50, 50)));
     for (int loss = 1; loss <= 4; ++loss)
     {

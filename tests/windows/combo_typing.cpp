@@ -17,7 +17,7 @@ protected:
         m_combo->SetFocus();
         tests::PumpPosted();
         ASSERT_EQ(::GetFocus(), m_combo->m_edit->m_hWnd);
-        m_parent.m_heard.clear();
+        m_host.m_heard.clear();
     }
     bool TypeUntil(std::wstring const & typed, std::function<bool()> const & predicate)
     {
@@ -54,7 +54,7 @@ TEST_F(ComboTyping, WithoutFlagsTextStaysAsTyped)
     MakeTyping(0, fruit);
     ASSERT_TRUE(TypeUntil(L"a", [this] { return Text() == L"a"; }));
     EXPECT_FALSE(m_combo->GetDroppedState());
-    EXPECT_EQ(m_parent.TakeHeard(), (Heard{"EDITUPDATE", "EDITCHANGE"}));
+    EXPECT_EQ(m_host.TakeHeard(), (Heard{"EDITUPDATE", "EDITCHANGE"}));
     EXPECT_EQ(m_combo->GetCurSel(), -1);
 }
 
@@ -74,9 +74,9 @@ TEST_F(ComboTyping, AppendsTheRestOfTheFirstItem)
     ASSERT_TRUE(TypeUntil(L"a", [this] { return Text() == L"apple"; }));
     EXPECT_EQ(m_combo->GetEditSel(), static_cast<DWORD>(MAKELONG(1, 5)));
     // The change by the appended text is heard as well.
-    EXPECT_EQ(m_parent.TakeHeard(), (Heard{"EDITUPDATE", "EDITCHANGE", "EDITUPDATE", "EDITCHANGE"}));
+    EXPECT_EQ(m_host.TakeHeard(), (Heard{"EDITUPDATE", "EDITCHANGE", "EDITUPDATE", "EDITCHANGE"}));
     ASSERT_TRUE(TypeUntil(L"x", [this] { return Text() == L"ax"; }));
-    EXPECT_EQ(m_parent.TakeHeard(), (Heard{"EDITUPDATE", "EDITCHANGE"}));
+    EXPECT_EQ(m_host.TakeHeard(), (Heard{"EDITUPDATE", "EDITCHANGE"}));
 }
 
 TEST_F(ComboTyping, AppendsWithTheCaseOfTheItems)
@@ -101,9 +101,9 @@ TEST_F(ComboTyping, EmptyTextIsHeardByNobodyWithFlag8)
 {
     MakeTyping(XListCtrl::combo_auto_append, fruit);
     m_combo->m_edit->SetWindowText(L"q");
-    m_parent.m_heard.clear();
+    m_host.m_heard.clear();
     m_combo->m_edit->SetWindowText(L"");
-    EXPECT_EQ(m_parent.TakeHeard(), (Heard{"EDITCHANGE"}));
+    EXPECT_EQ(m_host.TakeHeard(), (Heard{"EDITCHANGE"}));
 }
 
 TEST_F(ComboTyping, RightAtTheEndCompletes)
@@ -140,13 +140,13 @@ TEST_F(ComboTyping, SuggestsWhatSeveralItemsStartWith)
     EXPECT_EQ(List().GetCurSel(), 0);
     EXPECT_EQ(Text(), L"a");
     EXPECT_EQ(m_combo->m_curSel, 0);
-    EXPECT_EQ(m_parent.TakeHeard(), (Heard{"DROPDOWN"}));
+    EXPECT_EQ(m_host.TakeHeard(), (Heard{"DROPDOWN"}));
     EXPECT_EQ(::GetFocus(), m_combo->m_edit->m_hWnd);
 
     // Each character closes the drop-down and opens one anew.
     ASSERT_TRUE(TypeUntil(L"p", [this] { return Text() == L"ap"; }));
     EXPECT_TRUE(m_combo->GetDroppedState());
-    EXPECT_EQ(m_parent.TakeHeard(), (Heard{"SELENDCANCEL", "CLOSEUP", "DROPDOWN"}));
+    EXPECT_EQ(m_host.TakeHeard(), (Heard{"SELENDCANCEL", "CLOSEUP", "DROPDOWN"}));
 }
 
 TEST_F(ComboTyping, DoesNotSuggestTheTypedItself)
@@ -162,31 +162,30 @@ TEST_F(ComboTyping, DoesNotSuggestASingleItem)
     MakeTyping(XListCtrl::combo_auto_suggest, fruit);
     m_combo->m_edit->SetWindowText(L"pea");
     EXPECT_FALSE(m_combo->GetDroppedState());
-    EXPECT_EQ(m_parent.TakeHeard(), (Heard{"EDITUPDATE", "EDITCHANGE"}));
+    EXPECT_EQ(m_host.TakeHeard(), (Heard{"EDITUPDATE", "EDITCHANGE"}));
 }
 
 TEST_F(ComboTyping, SuggestionsEndWithTheText)
 {
     MakeTyping(XListCtrl::combo_auto_suggest, fruit);
     ASSERT_TRUE(TypeUntil(L"a", [this] { return m_combo->GetDroppedState(); }));
-    m_parent.m_heard.clear();
+    m_host.m_heard.clear();
     ASSERT_TRUE(KeyUntil(VK_BACK, [this] { return Text().empty(); }));
     EXPECT_FALSE(m_combo->GetDroppedState());
-    EXPECT_EQ(m_parent.TakeHeard(), (Heard{"SELENDCANCEL", "CLOSEUP", "EDITCHANGE"}));
+    EXPECT_EQ(m_host.TakeHeard(), (Heard{"SELENDCANCEL", "CLOSEUP", "EDITCHANGE"}));
 }
 
 TEST_F(ComboTyping, ASuggestionChosenByMouseIsTheText)
 {
     MakeTyping(XListCtrl::combo_auto_suggest, {L"ab one", L"ab two", L"x"});
     ASSERT_TRUE(TypeUntil(L"ab", [this] { return Text() == L"ab" && m_combo->GetDroppedState(); }));
-    m_parent.m_heard.clear();
+    m_host.m_heard.clear();
     tests::Click(RowPoint(1));
-    ASSERT_TRUE(
-        tests::PumpUntil([this] { return !m_parent.m_heard.empty() && m_parent.m_heard.back() == "complete"; }));
+    ASSERT_TRUE(tests::PumpUntil([this] { return !m_host.m_heard.empty() && m_host.m_heard.back() == "complete"; }));
     tests::PumpPosted();
     // The text that is set is typed text too: its suggestions, none, close the drop-down before the choice is told.
-    EXPECT_EQ(m_parent.TakeHeard(), (Heard{"SELENDCANCEL", "CLOSEUP", "EDITUPDATE", "EDITCHANGE", "SELENDOK",
-                                           "complete", "SELCHANGE", "complete"}));
+    EXPECT_EQ(m_host.TakeHeard(), (Heard{"SELENDCANCEL", "CLOSEUP", "EDITUPDATE", "EDITCHANGE", "SELENDOK", "complete",
+                                         "SELCHANGE", "complete"}));
     EXPECT_EQ(Text(), L"ab two");
     EXPECT_EQ(m_combo->GetCurSel(), 1);
     EXPECT_EQ(m_combo->m_curSel, 1);
@@ -201,7 +200,7 @@ TEST_F(ComboTyping, AppendAndSuggestTogether)
     EXPECT_EQ(Text(), L"apple");
     EXPECT_EQ(m_combo->GetEditSel(), static_cast<DWORD>(MAKELONG(1, 5)));
     EXPECT_EQ(Offered(), (std::vector<std::wstring>{L"apple", L"apple pie", L"apple juice"}));
-    EXPECT_EQ(m_parent.TakeHeard(), (Heard{"EDITUPDATE", "EDITCHANGE", "DROPDOWN"}));
+    EXPECT_EQ(m_host.TakeHeard(), (Heard{"EDITUPDATE", "EDITCHANGE", "DROPDOWN"}));
 }
 
 TEST_F(ComboTyping, TextSetWithoutTheFocusIsNotCompleted)
@@ -211,5 +210,5 @@ TEST_F(ComboTyping, TextSetWithoutTheFocusIsNotCompleted)
     m_combo->SetWindowText(L"a");
     EXPECT_EQ(Text(), L"a");
     EXPECT_FALSE(m_combo->GetDroppedState());
-    EXPECT_EQ(m_parent.TakeHeard(), (Heard{"EDITUPDATE", "EDITCHANGE"}));
+    EXPECT_EQ(m_host.TakeHeard(), (Heard{"EDITUPDATE", "EDITCHANGE"}));
 }

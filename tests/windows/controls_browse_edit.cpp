@@ -125,7 +125,7 @@ protected:
     void SetUp() override
     {
         m_edit = std::make_unique<BrowseEdit>();
-        ASSERT_TRUE(m_edit->Create(WS_CHILD | WS_VISIBLE | WS_BORDER, CRect(10, 10, 210, 34), m_parent, 5));
+        ASSERT_TRUE(m_edit->Create(WS_CHILD | WS_VISIBLE | WS_BORDER, CRect(10, 10, 210, 34), m_host, 5));
         m_edit->SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(::GetStockObject(DEFAULT_GUI_FONT)));
     }
     void PrepareNames()
@@ -177,7 +177,7 @@ protected:
         tests::PumpPosted();
     }
 
-    BrowseParent m_parent;
+    BrowseParent m_host;
     std::unique_ptr<BrowseEdit> m_edit;
     CRect m_dropDown;
     CString m_title;
@@ -302,7 +302,7 @@ TEST_F(BrowseEditTest, AnAcceptedDropDownChangesTheSelectionAndTells)
     EXPECT_EQ(m_edit->TheSelection(), (Ids{2}));
     EXPECT_EQ(m_edit->Text(), L"B");
     EXPECT_TRUE(m_edit->SelectionChanged());
-    EXPECT_EQ(m_parent.completed, (std::vector<std::pair<WPARAM, LPARAM>>{{77, 0}}));
+    EXPECT_EQ(m_host.completed, (std::vector<std::pair<WPARAM, LPARAM>>{{77, 0}}));
     m_edit->SelectionAcknowledged();
     EXPECT_FALSE(m_edit->SelectionChanged());
 }
@@ -314,7 +314,7 @@ TEST_F(BrowseEditTest, AfterACancelledDropDownNothingHasChanged)
         parts.Tick(1, true);
         parts.Command(32806);
     });
-    m_parent.completed.clear();
+    m_host.completed.clear();
     BrowseNames([](tests::MultiselectParts const & parts) {
         parts.Tick(0, true);
         parts.Command(32805);
@@ -322,13 +322,13 @@ TEST_F(BrowseEditTest, AfterACancelledDropDownNothingHasChanged)
     EXPECT_FALSE(m_edit->SelectionChanged()) << "also if it was true before";
     EXPECT_EQ(m_edit->TheSelection(), (Ids{2}));
     EXPECT_EQ(m_edit->Text(), L"B");
-    EXPECT_TRUE(m_parent.completed.empty());
+    EXPECT_TRUE(m_host.completed.empty());
 }
 
 TEST_F(BrowseEditTest, ThePressedButtonOpensTheDropDown)
 {
     PrepareNames();
-    tests::BringToFront(m_parent.m_hWnd);
+    tests::BringToFront(m_host.m_hWnd);
     CRect field;
     m_edit->GetWindowRect(&field);
     tests::LaterActions later;
@@ -376,8 +376,8 @@ TEST_F(BrowseEditTest, TheFieldMayEndWhileItsDropDownIsOpen)
     EXPECT_EQ(m_edit, nullptr);
     EXPECT_FALSE(::IsWindow(dropDown));
     tests::PumpPosted();
-    EXPECT_TRUE(m_parent.completed.empty());
-    EXPECT_TRUE(m_parent.IsWindowEnabled());
+    EXPECT_TRUE(m_host.completed.empty());
+    EXPECT_TRUE(m_host.IsWindowEnabled());
 }
 
 TEST_F(BrowseEditTest, TheWindowOfTheFieldMayEndWhileItsDropDownIsOpen)
@@ -403,7 +403,7 @@ TEST_F(BrowseEditTest, AFileToOpenIsTypedAndConfirmed)
     EXPECT_EQ(m_title, L"Which text");
     EXPECT_EQ(m_edit->Text().CompareNoCase(file.Path()), 0) << CStringA(m_edit->Text()).GetString();
     EXPECT_EQ(m_edit->m_fileFlags, 0x1800u | 0x2000008u);
-    EXPECT_EQ(m_parent.completed, (std::vector<std::pair<WPARAM, LPARAM>>{{5, 0}}));
+    EXPECT_EQ(m_host.completed, (std::vector<std::pair<WPARAM, LPARAM>>{{5, 0}}));
 }
 
 TEST_F(BrowseEditTest, ACancelledFileDialogLeavesTheFieldAndTellsNothing)
@@ -413,7 +413,7 @@ TEST_F(BrowseEditTest, ACancelledFileDialogLeavesTheFieldAndTellsNothing)
     m_edit->SetWindowText(L"as it was");
     BrowseFile(L"browse one.txt", IDCANCEL);
     EXPECT_EQ(m_edit->Text(), L"as it was");
-    EXPECT_TRUE(m_parent.completed.empty());
+    EXPECT_TRUE(m_host.completed.empty());
 }
 
 TEST_F(BrowseEditTest, AFileToSaveNeedNotExist)
@@ -426,7 +426,7 @@ TEST_F(BrowseEditTest, AFileToSaveNeedNotExist)
     BrowseFile(L"browse new");
     EXPECT_EQ(m_edit->Text().CompareNoCase(file.Folder() + L"\\browse new.txt"), 0);
     EXPECT_EQ(m_edit->m_fileFlags, 0x8004u | 0x2u | 0x2000008u);
-    EXPECT_EQ(m_parent.completed.size(), 1u);
+    EXPECT_EQ(m_host.completed.size(), 1u);
 }
 
 TEST_F(BrowseEditTest, OfSeveralFilesThoseThatAreThereAreListed)
@@ -440,7 +440,7 @@ TEST_F(BrowseEditTest, OfSeveralFilesThoseThatAreThereAreListed)
     EXPECT_EQ(m_edit->m_pathList.GetHead().CompareNoCase(one.Path()), 0);
     EXPECT_EQ(m_edit->m_pathList.GetTail().CompareNoCase(two.Path()), 0);
     EXPECT_EQ(m_edit->m_fileFlags, 0x1800u | 0x80200u | 0x2000008u);
-    EXPECT_EQ(m_parent.completed.size(), 1u);
+    EXPECT_EQ(m_host.completed.size(), 1u);
 }
 
 TEST_F(BrowseEditTest, OtherFlagsComeFromTheirSwitches)
@@ -477,7 +477,7 @@ TEST_F(BrowseEditTest, TheFieldMayEndWhileItsButtonIsLaidOut)
     {
         tests::GuardedHeap heap;
         auto field = std::make_unique<Field>();
-        ASSERT_TRUE(field->Create(WS_CHILD | WS_VISIBLE | WS_BORDER, CRect(10, 50, 210, 74), m_parent, 6));
+        ASSERT_TRUE(field->Create(WS_CHILD | WS_VISIBLE | WS_BORDER, CRect(10, 50, 210, 74), m_host, 6));
         field->On(WM_NCCALCSIZE, [&] { field.reset(); });
         prepare(*field);
         EXPECT_EQ(field, nullptr);
@@ -491,7 +491,7 @@ TEST_F(BrowseEditTest, TheFieldMayEndWhileItsTextIsWorkedOut)
         SCOPED_TRACE(testing::Message() << "message " << question);
         tests::GuardedHeap heap;
         auto field = std::make_unique<controls::Watched<CXEditBrowseCtrl>>();
-        ASSERT_TRUE(field->Create(WS_CHILD | WS_VISIBLE | WS_BORDER, CRect(10, 50, 210, 74), m_parent, 6));
+        ASSERT_TRUE(field->Create(WS_CHILD | WS_VISIBLE | WS_BORDER, CRect(10, 50, 210, 74), m_host, 6));
         field->AddItem(1, L"A");
         field->SetSelection(1);
         field->On(question, [&] { field.reset(); });

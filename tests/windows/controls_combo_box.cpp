@@ -67,25 +67,25 @@ class ComboBoxXTest : public testing::Test
 protected:
     void Open(DWORD style = CBS_DROPDOWNLIST, CFont * font = nullptr)
     {
-        ASSERT_TRUE(combo.Create(WS_CHILD | WS_VISIBLE | WS_VSCROLL | CBS_AUTOHSCROLL | style,
-                                 CRect(20, 20, 20 + width, 200), &parent, combo_id));
+        ASSERT_TRUE(m_combo.Create(WS_CHILD | WS_VISIBLE | WS_VSCROLL | CBS_AUTOHSCROLL | style,
+                                   CRect(20, 20, 20 + width, 200), &m_host, combo_id));
         if (font != nullptr)
-            combo.SetFont(font);
+            m_combo.SetFont(font);
         tests::PumpPosted();
     }
     CString Text()
     {
         CString text;
-        combo.GetWindowText(text);
+        m_combo.GetWindowText(text);
         return text;
     }
-    CString Row(int row) const { return controls::RowText(combo, row); }
-    int Data(int row) const { return controls::RowData(combo, row); }
+    CString Row(int row) const { return controls::RowText(m_combo, row); }
+    int Data(int row) const { return controls::RowData(m_combo, row); }
     /// The client area without the button.
     CRect Field()
     {
         CRect field;
-        combo.GetClientRect(field);
+        m_combo.GetClientRect(field);
         field.right -= ::GetSystemMetrics(SM_CXHTHUMB) + 2;
         return field;
     }
@@ -93,15 +93,15 @@ protected:
     CString TextOfWidth(bool tooWide)
     {
         CString text;
-        while (controls::TextWidth(combo, text + L"W") <= Field().Width() - 6)
+        while (controls::TextWidth(m_combo, text + L"W") <= Field().Width() - 6)
             text += L"W";
         return tooWide ? text + L"W" : text;
     }
     /// A click into the edit field and the keys of the text.
     void Type(wchar_t const * text)
     {
-        HWND const edit = ::FindWindowExW(combo.m_hWnd, nullptr, L"Edit", nullptr);
-        ASSERT_TRUE(tests::BringToFront(parent.m_hWnd));
+        HWND const edit = ::FindWindowExW(m_combo.m_hWnd, nullptr, L"Edit", nullptr);
+        ASSERT_TRUE(tests::BringToFront(m_host.m_hWnd));
         ::SetFocus(edit);
         for (wchar_t const * key = text; *key != 0; ++key)
         {
@@ -110,9 +110,9 @@ protected:
         }
     }
 
-    Parent parent;
-    OpenCombo combo;
-    tests::WindowCloser closer{combo};
+    Parent m_host;
+    OpenCombo m_combo;
+    tests::WindowCloser m_closer{m_combo};
 };
 
 using ComboBoxX = ComboBoxXTest;
@@ -125,17 +125,17 @@ using ComboBoxXHostile = ComboBoxXTest;
 
 TEST_F(ComboBoxX, StartsWithItsDefaults)
 {
-    EXPECT_FALSE(combo.m_editable);
-    EXPECT_FALSE(combo.m_autoComplete);
-    EXPECT_FALSE(combo.m_completeNow);
-    EXPECT_TRUE(combo.m_autoFit);
-    EXPECT_TRUE(combo.IsKindOf(RUNTIME_CLASS(CComboBox)));
-    combo.Editable(true);
-    combo.AutoComplete(true);
-    combo.AutoFit(false);
-    EXPECT_TRUE(combo.m_editable);
-    EXPECT_TRUE(combo.m_autoComplete);
-    EXPECT_FALSE(combo.m_autoFit);
+    EXPECT_FALSE(m_combo.m_editable);
+    EXPECT_FALSE(m_combo.m_autoComplete);
+    EXPECT_FALSE(m_combo.m_completeNow);
+    EXPECT_TRUE(m_combo.m_autoFit);
+    EXPECT_TRUE(m_combo.IsKindOf(RUNTIME_CLASS(CComboBox)));
+    m_combo.Editable(true);
+    m_combo.AutoComplete(true);
+    m_combo.AutoFit(false);
+    EXPECT_TRUE(m_combo.m_editable);
+    EXPECT_TRUE(m_combo.m_autoComplete);
+    EXPECT_FALSE(m_combo.m_autoFit);
 }
 
 TEST_F(ComboBoxX, HandlesMovesTimersAndItsOwnEditUpdate)
@@ -151,26 +151,26 @@ TEST_F(ComboBoxX, HandlesMovesTimersAndItsOwnEditUpdate)
 TEST_F(ComboBoxX, HasItsTipFromTheStart)
 {
     Open();
-    ASSERT_TRUE(::IsWindow(combo.m_toolTipWnd));
+    ASSERT_TRUE(::IsWindow(m_combo.m_toolTipWnd));
     wchar_t name[32] = L"";
-    ::GetClassNameW(combo.m_toolTipWnd, name, 32);
+    ::GetClassNameW(m_combo.m_toolTipWnd, name, 32);
     EXPECT_STREQ(name, L"tooltips_class32");
-    EXPECT_EQ(::GetWindowLongPtrW(combo.m_toolTipWnd, GWL_STYLE) & 0xFF, 3);
-    EXPECT_EQ(::GetWindow(combo.m_toolTipWnd, GW_OWNER), parent.m_hWnd);
-    EXPECT_EQ(::SendMessage(combo.m_toolTipWnd, TTM_GETTOOLCOUNT, 0, 0), 1);
-    EXPECT_EQ(::SendMessage(combo.m_toolTipWnd, TTM_GETMAXTIPWIDTH, 0, 0), 32767);
-    EXPECT_EQ(static_cast<COLORREF>(::SendMessage(combo.m_toolTipWnd, TTM_GETTIPBKCOLOR, 0, 0)),
+    EXPECT_EQ(::GetWindowLongPtrW(m_combo.m_toolTipWnd, GWL_STYLE) & 0xFF, 3);
+    EXPECT_EQ(::GetWindow(m_combo.m_toolTipWnd, GW_OWNER), m_host.m_hWnd);
+    EXPECT_EQ(::SendMessage(m_combo.m_toolTipWnd, TTM_GETTOOLCOUNT, 0, 0), 1);
+    EXPECT_EQ(::SendMessage(m_combo.m_toolTipWnd, TTM_GETMAXTIPWIDTH, 0, 0), 32767);
+    EXPECT_EQ(static_cast<COLORREF>(::SendMessage(m_combo.m_toolTipWnd, TTM_GETTIPBKCOLOR, 0, 0)),
               ::GetSysColor(COLOR_HIGHLIGHT));
-    EXPECT_EQ(static_cast<COLORREF>(::SendMessage(combo.m_toolTipWnd, TTM_GETTIPTEXTCOLOR, 0, 0)),
+    EXPECT_EQ(static_cast<COLORREF>(::SendMessage(m_combo.m_toolTipWnd, TTM_GETTIPTEXTCOLOR, 0, 0)),
               ::GetSysColor(COLOR_HIGHLIGHTTEXT));
     CRect margin;
-    ::SendMessage(combo.m_toolTipWnd, TTM_GETMARGIN, 0, reinterpret_cast<LPARAM>(&margin));
+    ::SendMessage(m_combo.m_toolTipWnd, TTM_GETMARGIN, 0, reinterpret_cast<LPARAM>(&margin));
     EXPECT_EQ(margin, CRect(0, -1, 0, -1));
-    EXPECT_EQ(combo.m_toolInfo.cbSize, sizeof(TOOLINFOW));
-    EXPECT_EQ(combo.m_toolInfo.uFlags, 288U);
-    EXPECT_EQ(combo.m_toolInfo.hwnd, combo.m_hWnd);
-    EXPECT_EQ(combo.m_toolInfo.uId, 0U);
-    EXPECT_FALSE(combo.TipShown());
+    EXPECT_EQ(m_combo.m_toolInfo.cbSize, sizeof(TOOLINFOW));
+    EXPECT_EQ(m_combo.m_toolInfo.uFlags, 288U);
+    EXPECT_EQ(m_combo.m_toolInfo.hwnd, m_combo.m_hWnd);
+    EXPECT_EQ(m_combo.m_toolInfo.uId, 0U);
+    EXPECT_FALSE(m_combo.TipShown());
 }
 
 TEST_F(ComboBoxX, GivesItsFontToTheTipWhenItTakesOverAWindow)
@@ -178,14 +178,14 @@ TEST_F(ComboBoxX, GivesItsFontToTheTipWhenItTakesOverAWindow)
     CFont font;
     font.CreatePointFont(140, L"Tahoma");
     HWND const native = ::CreateWindowExW(0, L"COMBOBOX", L"", WS_CHILD | CBS_DROPDOWNLIST, 0, 0, 100, 100,
-                                          parent.m_hWnd, nullptr, nullptr, nullptr);
+                                          m_host.m_hWnd, nullptr, nullptr, nullptr);
     ::SendMessage(native, WM_SETFONT, reinterpret_cast<WPARAM>(font.GetSafeHandle()), FALSE);
-    ASSERT_TRUE(combo.SubclassWindow(native));
+    ASSERT_TRUE(m_combo.SubclassWindow(native));
     // Some platforms' tips keep a copy.
     LOGFONTW expected{};
     LOGFONTW given{};
     font.GetLogFont(&expected);
-    ::GetObjectW(reinterpret_cast<HFONT>(::SendMessage(combo.m_toolTipWnd, WM_GETFONT, 0, 0)), sizeof given, &given);
+    ::GetObjectW(reinterpret_cast<HFONT>(::SendMessage(m_combo.m_toolTipWnd, WM_GETFONT, 0, 0)), sizeof given, &given);
     EXPECT_EQ(given.lfHeight, expected.lfHeight);
     EXPECT_STREQ(given.lfFaceName, expected.lfFaceName);
 }
@@ -193,16 +193,16 @@ TEST_F(ComboBoxX, GivesItsFontToTheTipWhenItTakesOverAWindow)
 TEST_F(ComboBoxX, TipEndsWithItsWindow)
 {
     Open();
-    HWND const tip = combo.m_toolTipWnd;
-    combo.DestroyWindow();
+    HWND const tip = m_combo.m_toolTipWnd;
+    m_combo.DestroyWindow();
     EXPECT_FALSE(::IsWindow(tip));
     Open();
-    HWND const second = combo.m_toolTipWnd;
+    HWND const second = m_combo.m_toolTipWnd;
     EXPECT_TRUE(::IsWindow(second));
     EXPECT_EQ(::SendMessage(second, TTM_GETTOOLCOUNT, 0, 0), 1);
     {
         OpenCombo inner;
-        ASSERT_TRUE(inner.Create(WS_CHILD | CBS_DROPDOWN, CRect(0, 0, 50, 50), &parent, 61));
+        ASSERT_TRUE(inner.Create(WS_CHILD | CBS_DROPDOWN, CRect(0, 0, 50, 50), &m_host, 61));
         HWND const innerTip = inner.m_toolTipWnd;
         EXPECT_TRUE(::IsWindow(innerTip));
         HWND const left = inner.UnsubclassWindow();
@@ -214,41 +214,41 @@ TEST_F(ComboBoxX, TipEndsWithItsWindow)
 TEST_F(ComboBoxXRows, AreAddedWithTheirNumbers)
 {
     Open();
-    controls::ExpectRowsAreAddedWithTheirNumbers(combo);
+    controls::ExpectRowsAreAddedWithTheirNumbers(m_combo);
 }
 
 TEST_F(ComboBoxXRows, KeepTheirNumbersWhereTheControlSorts)
 {
     Open(CBS_DROPDOWNLIST | CBS_SORT);
-    controls::ExpectSortedRowsKeepTheirNumbers(combo);
+    controls::ExpectSortedRowsKeepTheirNumbers(m_combo);
 }
 
 TEST_F(ComboBoxXRows, OfAListAreNumberedInOrder)
 {
     Open();
-    controls::ExpectRowsOfAListAreNumberedInOrder(combo);
+    controls::ExpectRowsOfAListAreNumberedInOrder(m_combo);
 }
 
 TEST_F(ComboBoxXRows, OfAMapComeInTheOrderOfTheirKeysAfterTheBlankOne)
 {
     Open();
-    combo.AddItem(L"old", 1);
-    combo.FillItems(std::map<int, CString>{{5, L"five"}, {2, L"two"}}, true);
-    ASSERT_EQ(combo.GetCount(), 3);
+    m_combo.AddItem(L"old", 1);
+    m_combo.FillItems(std::map<int, CString>{{5, L"five"}, {2, L"two"}}, true);
+    ASSERT_EQ(m_combo.GetCount(), 3);
     EXPECT_EQ(Row(0), L"\u2014");
     EXPECT_EQ(Data(0), -1);
     EXPECT_EQ(Row(1), L"two");
     EXPECT_EQ(Data(1), 2);
     EXPECT_EQ(Data(2), 5);
-    combo.FillItems(std::map<int, CString>{{5, L"five"}}, false);
-    EXPECT_EQ(combo.GetCount(), 1);
+    m_combo.FillItems(std::map<int, CString>{{5, L"five"}}, false);
+    EXPECT_EQ(m_combo.GetCount(), 1);
 }
 
 TEST_F(ComboBoxXRows, OfAMapWithTheKeyMinusOneHaveNoBlankOne)
 {
     Open();
-    combo.FillItems(std::map<int, CString>{{-1, L"none"}, {3, L"three"}}, true);
-    ASSERT_EQ(combo.GetCount(), 2);
+    m_combo.FillItems(std::map<int, CString>{{-1, L"none"}, {3, L"three"}}, true);
+    ASSERT_EQ(m_combo.GetCount(), 2);
     EXPECT_EQ(Row(0), L"none");
     EXPECT_EQ(Data(0), -1);
 }
@@ -256,21 +256,21 @@ TEST_F(ComboBoxXRows, OfAMapWithTheKeyMinusOneHaveNoBlankOne)
 TEST_F(ComboBoxXRows, AreFoundByTheirNumbersFromTheTop)
 {
     Open();
-    controls::ExpectRowsAreFoundByTheirNumbersFromTheTop(combo);
+    controls::ExpectRowsAreFoundByTheirNumbersFromTheTop(m_combo);
 }
 
 TEST_F(ComboBoxXRows, UnknownNumberKeepsTheSelection)
 {
     Open();
-    controls::ExpectAnUnknownNumberKeepsTheSelection(combo);
+    controls::ExpectAnUnknownNumberKeepsTheSelection(m_combo);
 }
 
 TEST_F(ComboBoxXRows, OfAControlWithoutAWindowAreNone)
 {
-    controls::ExpectABoxWithoutAWindowHasNoRows(combo);
-    combo.FillItems(std::map<int, CString>{{1, L"a"}}, true);
-    EXPECT_FALSE(combo.FitToWidth());
-    combo.FitToEditWidth();
+    controls::ExpectABoxWithoutAWindowHasNoRows(m_combo);
+    m_combo.FillItems(std::map<int, CString>{{1, L"a"}}, true);
+    EXPECT_FALSE(m_combo.FitToWidth());
+    m_combo.FitToEditWidth();
 }
 
 TEST_F(ComboBoxXWidth, GrowsToTheLongestEntryInTheSystemsFont)
@@ -279,109 +279,109 @@ TEST_F(ComboBoxXWidth, GrowsToTheLongestEntryInTheSystemsFont)
     font.CreatePointFont(200, L"Tahoma");
     Open(CBS_DROPDOWNLIST, &font);
     CString const text(L'm', 40);
-    combo.AddItem(L"short", 1);
-    combo.AddItem(text, 2);
-    CClientDC dc(&combo);
+    m_combo.AddItem(L"short", 1);
+    m_combo.AddItem(text, 2);
+    CClientDC dc(&m_combo);
     int const expected =
         dc.GetTextExtent(text).cx + ::GetSystemMetrics(SM_CXVSCROLL) + 2 * ::GetSystemMetrics(SM_CXEDGE);
-    EXPECT_TRUE(combo.FitToWidth());
-    EXPECT_EQ(combo.GetDroppedWidth(), expected);
-    EXPECT_FALSE(combo.FitToWidth()) << "nothing changed";
-    combo.ResetContent();
-    combo.AddItem(L"short", 1);
-    EXPECT_FALSE(combo.FitToWidth()) << "it never gets narrower";
-    EXPECT_EQ(combo.GetDroppedWidth(), expected);
+    EXPECT_TRUE(m_combo.FitToWidth());
+    EXPECT_EQ(m_combo.GetDroppedWidth(), expected);
+    EXPECT_FALSE(m_combo.FitToWidth()) << "nothing changed";
+    m_combo.ResetContent();
+    m_combo.AddItem(L"short", 1);
+    EXPECT_FALSE(m_combo.FitToWidth()) << "it never gets narrower";
+    EXPECT_EQ(m_combo.GetDroppedWidth(), expected);
 }
 
 TEST_F(ComboBoxXWidth, BecomesTheControlsOwn)
 {
     Open();
-    combo.SetDroppedWidth(700);
-    combo.FitToEditWidth();
-    EXPECT_EQ(combo.GetDroppedWidth(), width);
+    m_combo.SetDroppedWidth(700);
+    m_combo.FitToEditWidth();
+    EXPECT_EQ(m_combo.GetDroppedWidth(), width);
 }
 
 TEST_F(ComboBoxXWidth, IsFittedWhenTheDropDownOpensIfWanted)
 {
     Open();
-    combo.AddItem(CString(L'm', 60), 1);
-    int const before = combo.GetDroppedWidth();
-    combo.AutoFit(false);
-    combo.ShowDropDown(TRUE);
-    combo.ShowDropDown(FALSE);
-    EXPECT_EQ(combo.GetDroppedWidth(), before);
-    combo.AutoFit(true);
-    combo.ShowDropDown(TRUE);
-    EXPECT_GT(combo.GetDroppedWidth(), before + 100);
-    combo.ShowDropDown(FALSE);
+    m_combo.AddItem(CString(L'm', 60), 1);
+    int const before = m_combo.GetDroppedWidth();
+    m_combo.AutoFit(false);
+    m_combo.ShowDropDown(TRUE);
+    m_combo.ShowDropDown(FALSE);
+    EXPECT_EQ(m_combo.GetDroppedWidth(), before);
+    m_combo.AutoFit(true);
+    m_combo.ShowDropDown(TRUE);
+    EXPECT_GT(m_combo.GetDroppedWidth(), before + 100);
+    m_combo.ShowDropDown(FALSE);
 }
 
 TEST_F(ComboBoxXTip, LiesOverATextThatIsTooWide)
 {
     Open();
     CString const text = TextOfWidth(true);
-    combo.AddItem(text, 1);
-    combo.SetCurSel(0);
-    ::SetFocus(parent.m_hWnd);
+    m_combo.AddItem(text, 1);
+    m_combo.SetCurSel(0);
+    ::SetFocus(m_host.m_hWnd);
     tests::MessageRecorder recorder({TTM_TRACKPOSITION, TTM_TRACKACTIVATE});
-    recorder.Watch(combo.m_toolTipWnd, "tip");
+    recorder.Watch(m_combo.m_toolTipWnd, "tip");
     CRect field = Field();
-    ASSERT_TRUE(tests::MoveMouse(tests::ClientPoint(combo.m_hWnd, field.CenterPoint())));
-    ASSERT_TRUE(tests::PumpUntil([this] { return combo.TipShown(); }));
-    combo.ClientToScreen(field);
+    ASSERT_TRUE(tests::MoveMouse(tests::ClientPoint(m_combo.m_hWnd, field.CenterPoint())));
+    ASSERT_TRUE(tests::PumpUntil([this] { return m_combo.TipShown(); }));
+    m_combo.ClientToScreen(field);
     ASSERT_GE(recorder.Received().size(), 2U);
     EXPECT_EQ(recorder.Received()[0].message, static_cast<UINT>(TTM_TRACKPOSITION));
     EXPECT_EQ(recorder.Received()[0].lParam, MAKELPARAM(field.left + 1, field.top + 3));
     EXPECT_EQ(recorder.Received()[1].wParam, static_cast<WPARAM>(TRUE));
-    EXPECT_EQ(combo.TipText(), text);
-    EXPECT_EQ(static_cast<COLORREF>(::SendMessage(combo.m_toolTipWnd, TTM_GETTIPBKCOLOR, 0, 0)),
+    EXPECT_EQ(m_combo.TipText(), text);
+    EXPECT_EQ(static_cast<COLORREF>(::SendMessage(m_combo.m_toolTipWnd, TTM_GETTIPBKCOLOR, 0, 0)),
               ::GetSysColor(COLOR_WINDOW));
-    EXPECT_EQ(static_cast<COLORREF>(::SendMessage(combo.m_toolTipWnd, TTM_GETTIPTEXTCOLOR, 0, 0)),
+    EXPECT_EQ(static_cast<COLORREF>(::SendMessage(m_combo.m_toolTipWnd, TTM_GETTIPTEXTCOLOR, 0, 0)),
               ::GetSysColor(COLOR_WINDOWTEXT));
 
-    ASSERT_TRUE(tests::MoveMouse(tests::ClientPoint(parent.m_hWnd, {300, 250})));
-    EXPECT_TRUE(tests::PumpUntil([this] { return !combo.TipShown(); }));
-    EXPECT_FALSE(combo.KillTimer(1)) << "the timer is gone";
+    ASSERT_TRUE(tests::MoveMouse(tests::ClientPoint(m_host.m_hWnd, {300, 250})));
+    EXPECT_TRUE(tests::PumpUntil([this] { return !m_combo.TipShown(); }));
+    EXPECT_FALSE(m_combo.KillTimer(1)) << "the timer is gone";
 }
 
 TEST_F(ComboBoxXTip, HasTheColorsOfASelectionWhileTheControlHasTheFocus)
 {
     Open();
-    combo.AddItem(TextOfWidth(true), 1);
-    combo.SetCurSel(0);
-    ASSERT_TRUE(tests::BringToFront(parent.m_hWnd));
-    combo.SetFocus();
-    ASSERT_TRUE(tests::MoveMouse(tests::ClientPoint(combo.m_hWnd, Field().CenterPoint())));
-    ASSERT_TRUE(tests::PumpUntil([this] { return combo.TipShown(); }));
-    EXPECT_EQ(static_cast<COLORREF>(::SendMessage(combo.m_toolTipWnd, TTM_GETTIPBKCOLOR, 0, 0)),
+    m_combo.AddItem(TextOfWidth(true), 1);
+    m_combo.SetCurSel(0);
+    ASSERT_TRUE(tests::BringToFront(m_host.m_hWnd));
+    m_combo.SetFocus();
+    ASSERT_TRUE(tests::MoveMouse(tests::ClientPoint(m_combo.m_hWnd, Field().CenterPoint())));
+    ASSERT_TRUE(tests::PumpUntil([this] { return m_combo.TipShown(); }));
+    EXPECT_EQ(static_cast<COLORREF>(::SendMessage(m_combo.m_toolTipWnd, TTM_GETTIPBKCOLOR, 0, 0)),
               ::GetSysColor(COLOR_HIGHLIGHT));
-    EXPECT_EQ(static_cast<COLORREF>(::SendMessage(combo.m_toolTipWnd, TTM_GETTIPTEXTCOLOR, 0, 0)),
+    EXPECT_EQ(static_cast<COLORREF>(::SendMessage(m_combo.m_toolTipWnd, TTM_GETTIPTEXTCOLOR, 0, 0)),
               ::GetSysColor(COLOR_HIGHLIGHTTEXT));
-    tests::MoveMouse(tests::ClientPoint(parent.m_hWnd, {300, 250}));
-    EXPECT_TRUE(tests::PumpUntil([this] { return !combo.TipShown(); }));
+    tests::MoveMouse(tests::ClientPoint(m_host.m_hWnd, {300, 250}));
+    EXPECT_TRUE(tests::PumpUntil([this] { return !m_combo.TipShown(); }));
 }
 
 TEST_F(ComboBoxXTip, TextExactlySixPixelsNarrowerShowsNone)
 {
     Open();
     CString const text = L"Text of some width";
-    combo.AddItem(text, 1);
-    combo.SetCurSel(0);
+    m_combo.AddItem(text, 1);
+    m_combo.SetCurSel(0);
     // The control's width is made to fit the text: field = text + 6, then one less.
-    int const spare = Field().Width() - 6 - controls::TextWidth(combo, text);
+    int const spare = Field().Width() - 6 - controls::TextWidth(m_combo, text);
     CRect rect;
-    combo.GetWindowRect(rect);
-    combo.SetWindowPos(nullptr, 0, 0, rect.Width() - spare, rect.Height(), SWP_NOMOVE | SWP_NOZORDER);
-    ASSERT_EQ(Field().Width() - 6, controls::TextWidth(combo, text));
-    tests::MoveMouse(tests::ClientPoint(parent.m_hWnd, {300, 250}));
+    m_combo.GetWindowRect(rect);
+    m_combo.SetWindowPos(nullptr, 0, 0, rect.Width() - spare, rect.Height(), SWP_NOMOVE | SWP_NOZORDER);
+    ASSERT_EQ(Field().Width() - 6, controls::TextWidth(m_combo, text));
+    tests::MoveMouse(tests::ClientPoint(m_host.m_hWnd, {300, 250}));
     tests::PumpPosted();
-    combo.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(5, 5));
-    EXPECT_FALSE(combo.TipShown());
-    combo.SetWindowPos(nullptr, 0, 0, rect.Width() - spare - 1, rect.Height(), SWP_NOMOVE | SWP_NOZORDER);
-    combo.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(5, 5));
-    EXPECT_TRUE(combo.TipShown());
-    combo.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(Field().right + 1, 5));
-    EXPECT_FALSE(combo.TipShown()) << "over the button";
+    m_combo.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(5, 5));
+    EXPECT_FALSE(m_combo.TipShown());
+    m_combo.SetWindowPos(nullptr, 0, 0, rect.Width() - spare - 1, rect.Height(), SWP_NOMOVE | SWP_NOZORDER);
+    m_combo.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(5, 5));
+    EXPECT_TRUE(m_combo.TipShown());
+    m_combo.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(Field().right + 1, 5));
+    EXPECT_FALSE(m_combo.TipShown()) << "over the button";
 }
 
 TEST_F(ComboBoxXTip, IsMeasuredInTheControlsFont)
@@ -389,43 +389,43 @@ TEST_F(ComboBoxXTip, IsMeasuredInTheControlsFont)
     CFont font;
     font.CreatePointFont(240, L"Tahoma");
     Open();
-    combo.AddItem(L"Text of some", 1);
-    combo.SetCurSel(0);
-    combo.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(5, 5));
-    EXPECT_FALSE(combo.TipShown());
-    combo.SetFont(&font);
-    combo.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(5, 5));
-    EXPECT_TRUE(combo.TipShown());
+    m_combo.AddItem(L"Text of some", 1);
+    m_combo.SetCurSel(0);
+    m_combo.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(5, 5));
+    EXPECT_FALSE(m_combo.TipShown());
+    m_combo.SetFont(&font);
+    m_combo.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(5, 5));
+    EXPECT_TRUE(m_combo.TipShown());
 }
 
 TEST_F(ComboBoxXTip, TimerGoesOnWhileThePointerIsInTheField)
 {
     Open();
-    ASSERT_TRUE(tests::BringToFront(parent.m_hWnd));
-    combo.AddItem(TextOfWidth(true), 1);
-    combo.SetCurSel(0);
-    ASSERT_TRUE(tests::MoveMouse(tests::ClientPoint(combo.m_hWnd, Field().CenterPoint())));
-    ASSERT_TRUE(tests::PumpUntil([this] { return combo.TipShown(); }));
-    combo.SendMessage(WM_TIMER, 1);
-    EXPECT_TRUE(combo.TipShown());
-    EXPECT_TRUE(combo.KillTimer(1));
-    combo.SetTimer(9, 100000, nullptr);
-    tests::MoveMouse(tests::ClientPoint(parent.m_hWnd, {300, 250}));
-    combo.SendMessage(WM_TIMER, 9);
-    EXPECT_FALSE(combo.TipShown()) << "any timer looks for the pointer";
-    EXPECT_FALSE(combo.KillTimer(9)) << "and is ended";
+    ASSERT_TRUE(tests::BringToFront(m_host.m_hWnd));
+    m_combo.AddItem(TextOfWidth(true), 1);
+    m_combo.SetCurSel(0);
+    ASSERT_TRUE(tests::MoveMouse(tests::ClientPoint(m_combo.m_hWnd, Field().CenterPoint())));
+    ASSERT_TRUE(tests::PumpUntil([this] { return m_combo.TipShown(); }));
+    m_combo.SendMessage(WM_TIMER, 1);
+    EXPECT_TRUE(m_combo.TipShown());
+    EXPECT_TRUE(m_combo.KillTimer(1));
+    m_combo.SetTimer(9, 100000, nullptr);
+    tests::MoveMouse(tests::ClientPoint(m_host.m_hWnd, {300, 250}));
+    m_combo.SendMessage(WM_TIMER, 9);
+    EXPECT_FALSE(m_combo.TipShown()) << "any timer looks for the pointer";
+    EXPECT_FALSE(m_combo.KillTimer(9)) << "and is ended";
 }
 
 TEST_F(ComboBoxXTip, AndTimerEndWithTheControl)
 {
     Open();
-    combo.AddItem(TextOfWidth(true), 1);
-    combo.SetCurSel(0);
-    combo.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(5, 5));
-    ASSERT_TRUE(combo.TipShown());
-    HWND const tip = combo.m_toolTipWnd;
-    HWND const window = combo.m_hWnd;
-    combo.DestroyWindow();
+    m_combo.AddItem(TextOfWidth(true), 1);
+    m_combo.SetCurSel(0);
+    m_combo.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(5, 5));
+    ASSERT_TRUE(m_combo.TipShown());
+    HWND const tip = m_combo.m_toolTipWnd;
+    HWND const window = m_combo.m_hWnd;
+    m_combo.DestroyWindow();
     EXPECT_FALSE(::IsWindow(tip));
     EXPECT_FALSE(::KillTimer(window, 1));
 }
@@ -433,15 +433,15 @@ TEST_F(ComboBoxXTip, AndTimerEndWithTheControl)
 TEST_F(ComboBoxXTyping, TwoLettersTakeTheFirstRowAndBackspaceRemovesItsTail)
 {
     Open(CBS_DROPDOWN);
-    combo.AutoComplete(true);
-    combo.FillItems(std::list<CString>{L"zero", L"Amplitude", L"ampere"}, 0, true);
+    m_combo.AutoComplete(true);
+    m_combo.FillItems(std::list<CString>{L"zero", L"Amplitude", L"ampere"}, 0, true);
     Type(L"am");
-    ASSERT_TRUE(tests::PumpUntil([this] { return Text() == L"Amplitude" && combo.GetEditSel() == MAKELONG(2, 9); }))
-        << Text().GetString() << combo.GetEditSel();
+    ASSERT_TRUE(tests::PumpUntil([this] { return Text() == L"Amplitude" && m_combo.GetEditSel() == MAKELONG(2, 9); }))
+        << Text().GetString() << m_combo.GetEditSel();
     Type(L"\b");
     ASSERT_TRUE(tests::PumpUntil([this] { return Text().GetLength() == 2; }));
     EXPECT_EQ(Text().Left(1).MakeUpper(), L"A");
-    EXPECT_FALSE(combo.m_completeNow);
+    EXPECT_FALSE(m_combo.m_completeNow);
     tests::PumpPosted();
     EXPECT_EQ(Text().GetLength(), 2) << "not completed again";
 }
@@ -450,73 +450,73 @@ TEST_F(ComboBoxXTyping, CompletionMakesTheRowTheCurrentOne)
 {
     // Typed by the user, the text takes the choice back on some platforms once the row is taken.
     Open(CBS_DROPDOWN);
-    combo.AutoComplete(true);
-    combo.FillItems(std::list<CString>{L"zero", L"Amplitude", L"ampere"}, 0, true);
-    MSG key{combo.m_hWnd, WM_KEYDOWN, 'M', 0, 0, {}};
-    combo.PreTranslateMessage(&key);
-    combo.SetWindowText(L"am");
-    combo.SetEditSel(2, 2);
-    parent.SendMessage(WM_COMMAND, MAKEWPARAM(combo_id, CBN_EDITUPDATE), reinterpret_cast<LPARAM>(combo.m_hWnd));
-    EXPECT_EQ(combo.GetCurSel(), 1);
+    m_combo.AutoComplete(true);
+    m_combo.FillItems(std::list<CString>{L"zero", L"Amplitude", L"ampere"}, 0, true);
+    MSG key{m_combo.m_hWnd, WM_KEYDOWN, 'M', 0, 0, {}};
+    m_combo.PreTranslateMessage(&key);
+    m_combo.SetWindowText(L"am");
+    m_combo.SetEditSel(2, 2);
+    m_host.SendMessage(WM_COMMAND, MAKEWPARAM(combo_id, CBN_EDITUPDATE), reinterpret_cast<LPARAM>(m_combo.m_hWnd));
+    EXPECT_EQ(m_combo.GetCurSel(), 1);
     EXPECT_EQ(Text(), L"Amplitude");
 }
 
 TEST_F(ComboBoxXTyping, NextLetterGoesOnAndAWrongOneStands)
 {
     Open(CBS_DROPDOWN);
-    combo.AutoComplete(true);
-    combo.FillItems(std::list<CString>{L"ampere", L"amplitude"}, 0, true);
+    m_combo.AutoComplete(true);
+    m_combo.FillItems(std::list<CString>{L"ampere", L"amplitude"}, 0, true);
     Type(L"ampl");
-    ASSERT_TRUE(tests::PumpUntil([this] { return Text() == L"amplitude" && combo.GetEditSel() == MAKELONG(4, 9); }));
+    ASSERT_TRUE(tests::PumpUntil([this] { return Text() == L"amplitude" && m_combo.GetEditSel() == MAKELONG(4, 9); }));
     Type(L"x");
     ASSERT_TRUE(tests::PumpUntil([this] { return Text() == L"amplx"; }));
-    EXPECT_EQ(combo.GetEditSel(), static_cast<DWORD>(MAKELONG(5, 5)));
+    EXPECT_EQ(m_combo.GetEditSel(), static_cast<DWORD>(MAKELONG(5, 5)));
 }
 
 TEST_F(ComboBoxXTyping, LetterWithinTheTextKeepsTheCaretThere)
 {
     Open(CBS_DROPDOWN);
-    combo.AutoComplete(true);
-    combo.FillItems(std::list<CString>{L"ampere"}, 0, true);
-    combo.SetWindowText(L"ap");
-    HWND const edit = ::FindWindowExW(combo.m_hWnd, nullptr, L"Edit", nullptr);
-    ASSERT_TRUE(tests::BringToFront(parent.m_hWnd));
+    m_combo.AutoComplete(true);
+    m_combo.FillItems(std::list<CString>{L"ampere"}, 0, true);
+    m_combo.SetWindowText(L"ap");
+    HWND const edit = ::FindWindowExW(m_combo.m_hWnd, nullptr, L"Edit", nullptr);
+    ASSERT_TRUE(tests::BringToFront(m_host.m_hWnd));
     ::SetFocus(edit);
-    combo.SetEditSel(1, 1);
+    m_combo.SetEditSel(1, 1);
     tests::Key('M');
     ASSERT_TRUE(tests::PumpUntil([this] { return Text() == L"ampere"; }));
-    EXPECT_EQ(combo.GetEditSel(), static_cast<DWORD>(MAKELONG(2, 2)));
+    EXPECT_EQ(m_combo.GetEditSel(), static_cast<DWORD>(MAKELONG(2, 2)));
 }
 
 TEST_F(ComboBoxXTyping, WithoutCompletionTextStaysAsTyped)
 {
     Open(CBS_DROPDOWN);
-    combo.FillItems(std::list<CString>{L"ampere"}, 0, true);
+    m_combo.FillItems(std::list<CString>{L"ampere"}, 0, true);
     Type(L"am");
     ASSERT_TRUE(tests::PumpUntil([this] { return Text() == L"am"; }));
-    EXPECT_FALSE(combo.m_completeNow);
+    EXPECT_FALSE(m_combo.m_completeNow);
 }
 
 TEST_F(ComboBoxXTyping, KeysDecideWhetherToComplete)
 {
     Open(CBS_DROPDOWN);
-    combo.AutoComplete(true);
-    MSG key{combo.m_hWnd, WM_KEYDOWN, 'A', 0, 0, {}};
-    EXPECT_FALSE(combo.PreTranslateMessage(&key));
-    EXPECT_TRUE(combo.m_completeNow);
+    m_combo.AutoComplete(true);
+    MSG key{m_combo.m_hWnd, WM_KEYDOWN, 'A', 0, 0, {}};
+    EXPECT_FALSE(m_combo.PreTranslateMessage(&key));
+    EXPECT_TRUE(m_combo.m_completeNow);
     key.wParam = VK_DELETE;
-    combo.PreTranslateMessage(&key);
-    EXPECT_FALSE(combo.m_completeNow);
+    m_combo.PreTranslateMessage(&key);
+    EXPECT_FALSE(m_combo.m_completeNow);
     key.wParam = VK_LEFT;
-    combo.PreTranslateMessage(&key);
-    EXPECT_TRUE(combo.m_completeNow);
+    m_combo.PreTranslateMessage(&key);
+    EXPECT_TRUE(m_combo.m_completeNow);
     key.wParam = VK_BACK;
-    combo.PreTranslateMessage(&key);
-    EXPECT_FALSE(combo.m_completeNow);
+    m_combo.PreTranslateMessage(&key);
+    EXPECT_FALSE(m_combo.m_completeNow);
     key.message = WM_KEYUP;
     key.wParam = 'A';
-    combo.PreTranslateMessage(&key);
-    EXPECT_FALSE(combo.m_completeNow) << "only when a key goes down";
+    m_combo.PreTranslateMessage(&key);
+    EXPECT_FALSE(m_combo.m_completeNow) << "only when a key goes down";
 }
 
 TEST_F(ComboBoxXTyping, ReturnIsReportedToTheParentIfWanted)
@@ -524,38 +524,38 @@ TEST_F(ComboBoxXTyping, ReturnIsReportedToTheParentIfWanted)
     Open(CBS_DROPDOWN);
     Type(L"\r");
     tests::PumpFor(std::chrono::milliseconds(50));
-    EXPECT_TRUE(parent.m_notifications.empty());
-    combo.Editable(true);
+    EXPECT_TRUE(m_host.m_notifications.empty());
+    m_combo.Editable(true);
     Type(L"\r");
-    ASSERT_TRUE(tests::PumpUntil([this] { return !parent.m_notifications.empty(); }));
-    EXPECT_EQ(parent.m_notifications[0].hwndFrom, combo.m_hWnd);
-    EXPECT_EQ(parent.m_notifications[0].idFrom, combo_id);
-    EXPECT_EQ(static_cast<int>(parent.m_notifications[0].code), -4);
-    EXPECT_EQ(parent.m_id, combo_id);
-    MSG key{combo.m_hWnd, WM_KEYDOWN, VK_RETURN, 0, 0, {}};
-    EXPECT_EQ(combo.PreTranslateMessage(&key), 1) << "and goes nowhere else";
+    ASSERT_TRUE(tests::PumpUntil([this] { return !m_host.m_notifications.empty(); }));
+    EXPECT_EQ(m_host.m_notifications[0].hwndFrom, m_combo.m_hWnd);
+    EXPECT_EQ(m_host.m_notifications[0].idFrom, combo_id);
+    EXPECT_EQ(static_cast<int>(m_host.m_notifications[0].code), -4);
+    EXPECT_EQ(m_host.m_id, combo_id);
+    MSG key{m_combo.m_hWnd, WM_KEYDOWN, VK_RETURN, 0, 0, {}};
+    EXPECT_EQ(m_combo.PreTranslateMessage(&key), 1) << "and goes nowhere else";
 }
 
 TEST_F(ComboBoxXTyping, ReturnGoesToTheOwnerRatherThanTheParent)
 {
     Open(CBS_DROPDOWN);
-    combo.Editable(true);
+    m_combo.Editable(true);
     Parent owner;
-    combo.SetOwner(&owner);
-    MSG key{combo.m_hWnd, WM_KEYDOWN, VK_RETURN, 0, 0, {}};
-    EXPECT_EQ(combo.PreTranslateMessage(&key), 1);
+    m_combo.SetOwner(&owner);
+    MSG key{m_combo.m_hWnd, WM_KEYDOWN, VK_RETURN, 0, 0, {}};
+    EXPECT_EQ(m_combo.PreTranslateMessage(&key), 1);
     EXPECT_EQ(owner.m_notifications.size(), 1U);
-    EXPECT_TRUE(parent.m_notifications.empty());
+    EXPECT_TRUE(m_host.m_notifications.empty());
 }
 
 TEST_F(ComboBoxXTyping, ReturnDoesNotCountAsAKeyThatCompletes)
 {
     Open(CBS_DROPDOWN);
-    combo.Editable(true);
-    combo.AutoComplete(true);
-    MSG key{combo.m_hWnd, WM_KEYDOWN, VK_RETURN, 0, 0, {}};
-    combo.PreTranslateMessage(&key);
-    EXPECT_FALSE(combo.m_completeNow);
+    m_combo.Editable(true);
+    m_combo.AutoComplete(true);
+    MSG key{m_combo.m_hWnd, WM_KEYDOWN, VK_RETURN, 0, 0, {}};
+    m_combo.PreTranslateMessage(&key);
+    EXPECT_FALSE(m_combo.m_completeNow);
 }
 
 TEST_F(ComboBoxXHostile, EndsWithinAnyOfItsMessagesWithoutHarm)
@@ -582,11 +582,11 @@ TEST_F(ComboBoxXHostile, EndsWithinAnyOfItsMessagesWithoutHarm)
         {CB_GETEDITSEL,
          [this](OpenCombo & one) {
              one.m_autoComplete = one.m_completeNow = true;
-             parent.SendMessage(WM_COMMAND, MAKEWPARAM(62, CBN_EDITUPDATE), reinterpret_cast<LPARAM>(one.m_hWnd));
+             m_host.SendMessage(WM_COMMAND, MAKEWPARAM(62, CBN_EDITUPDATE), reinterpret_cast<LPARAM>(one.m_hWnd));
          }},
         {CB_GETCOUNT,
          [this](OpenCombo & one) {
-             parent.SendMessage(WM_COMMAND, MAKEWPARAM(62, CBN_DROPDOWN), reinterpret_cast<LPARAM>(one.m_hWnd));
+             m_host.SendMessage(WM_COMMAND, MAKEWPARAM(62, CBN_DROPDOWN), reinterpret_cast<LPARAM>(one.m_hWnd));
          }},
     };
     int number = 0;
@@ -594,7 +594,7 @@ TEST_F(ComboBoxXHostile, EndsWithinAnyOfItsMessagesWithoutHarm)
     {
         SCOPED_TRACE(number++);
         auto * const doomed = new OpenCombo;
-        ASSERT_TRUE(doomed->Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWNLIST, CRect(0, 0, 90, 100), &parent, 62));
+        ASSERT_TRUE(doomed->Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWNLIST, CRect(0, 0, 90, 100), &m_host, 62));
         doomed->FillItems(texts, 1, true);
         doomed->SetCurSel(0);
         HWND const tip = doomed->m_toolTipWnd;
@@ -606,10 +606,10 @@ TEST_F(ComboBoxXHostile, EndsWithinAnyOfItsMessagesWithoutHarm)
 TEST_F(ComboBoxXHostile, EndsWhenReturnIsReportedWithoutHarm)
 {
     auto * const doomed = new OpenCombo;
-    ASSERT_TRUE(doomed->Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWN, CRect(0, 0, 90, 100), &parent, 62));
+    ASSERT_TRUE(doomed->Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWN, CRect(0, 0, 90, 100), &m_host, 62));
     doomed->Editable(true);
     doomed->AutoComplete(true);
-    parent.m_onNotify = [doomed] { delete doomed; };
+    m_host.m_onNotify = [doomed] { delete doomed; };
     MSG key{doomed->m_hWnd, WM_KEYDOWN, VK_RETURN, 0, 0, {}};
     EXPECT_EQ(doomed->PreTranslateMessage(&key), 1);
 }
@@ -618,13 +618,13 @@ TEST_F(ComboBoxXHostile, ListsThatTheHostChangesMeanwhileAreReadAsTheyWere)
 {
     Open();
     std::list<CString> texts{L"a", L"b", L"c"};
-    combo.On(CB_ADDSTRING, [&texts] { texts.clear(); });
-    combo.FillItems(texts, 1, true);
-    EXPECT_EQ(combo.GetCount(), 2) << "the first message was the host's";
+    m_combo.On(CB_ADDSTRING, [&texts] { texts.clear(); });
+    m_combo.FillItems(texts, 1, true);
+    EXPECT_EQ(m_combo.GetCount(), 2) << "the first message was the host's";
     std::map<int, CString> items{{1, L"a"}, {2, L"b"}, {3, L"c"}};
-    combo.On(CB_RESETCONTENT, [&items] { items.clear(); });
-    combo.FillItems(items, false);
-    EXPECT_EQ(combo.GetCount(), 2 + 3);
+    m_combo.On(CB_RESETCONTENT, [&items] { items.clear(); });
+    m_combo.FillItems(items, false);
+    EXPECT_EQ(m_combo.GetCount(), 2 + 3);
 }
 
 TEST_F(ComboBoxXHostile, OpeningsLeaveNoWindowBehind)
@@ -633,7 +633,7 @@ TEST_F(ComboBoxXHostile, OpeningsLeaveNoWindowBehind)
     for (int i = 0; i < 500; ++i)
     {
         OpenCombo one;
-        ASSERT_TRUE(one.Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWNLIST, CRect(0, 0, 60, 100), &parent, 63));
+        ASSERT_TRUE(one.Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWNLIST, CRect(0, 0, 60, 100), &m_host, 63));
         if (i % 2 == 0)
             one.DestroyWindow();
     }

@@ -29,7 +29,7 @@ class FreeIconButton : public testing::Test
 protected:
     void Open()
     {
-        ASSERT_TRUE(button.Create(L"", WS_CHILD | WS_VISIBLE, CRect(20, 20, 20 + edge, 20 + edge), parent, 41));
+        ASSERT_TRUE(m_button.Create(L"", WS_CHILD | WS_VISIBLE, CRect(20, 20, 20 + edge, 20 + edge), m_host, 41));
         tests::PumpPosted();
     }
     void Draw(tests::Canvas & canvas, UINT state)
@@ -37,16 +37,16 @@ protected:
         DRAWITEMSTRUCT item{};
         item.CtlType = ODT_BUTTON;
         item.itemState = state;
-        item.hwndItem = button.m_hWnd;
+        item.hwndItem = m_button.m_hWnd;
         item.hDC = canvas.Dc();
         item.rcItem = CRect(0, 0, edge, edge);
-        button.DrawItem(&item);
+        m_button.DrawItem(&item);
     }
 
-    tests::ScopedWindow parent{CRect(100, 100, 400, 300), WS_POPUP | WS_VISIBLE};
-    OpenIconButton button;
-    tests::WindowCloser closer{button};
-    tests::Canvas canvas{edge, edge, behind};
+    tests::ScopedWindow m_host{CRect(100, 100, 400, 300), WS_POPUP | WS_VISIBLE};
+    OpenIconButton m_button;
+    tests::WindowCloser m_closer{m_button};
+    tests::Canvas m_canvas{edge, edge, behind};
 };
 } // namespace
 
@@ -54,7 +54,7 @@ TEST_F(FreeIconButton, IsAButtonWithARunTimeClassAndNoHandler)
 {
     EXPECT_STREQ(RUNTIME_CLASS(CFreeIconButton)->m_lpszClassName, "CFreeIconButton");
     EXPECT_EQ(&CFreeIconButton::classCFreeIconButton, RUNTIME_CLASS(CFreeIconButton));
-    EXPECT_TRUE(button.IsKindOf(RUNTIME_CLASS(CButton)));
+    EXPECT_TRUE(m_button.IsKindOf(RUNTIME_CLASS(CButton)));
     EXPECT_EQ(RUNTIME_CLASS(CFreeIconButton)->m_pfnCreateObject, nullptr);
     EXPECT_EQ(OpenIconButton::GetThisMessageMap()->lpEntries[0].nMessage, 0U);
 }
@@ -72,7 +72,7 @@ TEST_F(FreeIconButton, LoadsItsIconFromTheToolkitAndRestoresTheResourceModule)
 TEST_F(FreeIconButton, AddsItsStyles)
 {
     Open();
-    EXPECT_EQ(button.GetStyle() & 0x808B, 0x808BU);
+    EXPECT_EQ(m_button.GetStyle() & 0x808B, 0x808BU);
 }
 
 TEST_F(FreeIconButton, AddsItsStylesToADialogsButton)
@@ -80,54 +80,54 @@ TEST_F(FreeIconButton, AddsItsStylesToADialogsButton)
     tests::DialogTemplate layout(L"Buttons");
     layout.Add(L"Button", L"caption", 41, CRect(10, 10, 60, 30), BS_PUSHBUTTON);
     CDialog dialog;
-    ASSERT_TRUE(dialog.CreateIndirect(layout.Get(), parent));
+    ASSERT_TRUE(dialog.CreateIndirect(layout.Get(), m_host));
     tests::WindowCloser const dialogCloser(dialog);
-    ASSERT_TRUE(button.SubclassDlgItem(41, &dialog));
-    EXPECT_EQ(button.GetStyle() & 0x808B, 0x808BU);
+    ASSERT_TRUE(m_button.SubclassDlgItem(41, &dialog));
+    EXPECT_EQ(m_button.GetStyle() & 0x808B, 0x808BU);
 }
 
 TEST_F(FreeIconButton, ShowsTheSamePictureInEveryState)
 {
     Open();
-    Draw(canvas, 0);
-    CRect const drawn = canvas.BoundsOfOther(behind);
+    Draw(m_canvas, 0);
+    CRect const drawn = m_canvas.BoundsOfOther(behind);
     EXPECT_FALSE(drawn.IsRectEmpty());
     EXPECT_TRUE(CRect(0, 0, 32, 32).PtInRect(drawn.TopLeft()));
-    EXPECT_EQ(canvas.Count(behind, CRect(32, 0, edge, edge)), 8 * edge) << "no look of its own";
+    EXPECT_EQ(m_canvas.Count(behind, CRect(32, 0, edge, edge)), 8 * edge) << "no look of its own";
     for (UINT const state : {ODS_SELECTED, ODS_DISABLED, ODS_FOCUS, ODS_SELECTED | ODS_FOCUS})
     {
         tests::Canvas other(edge, edge, behind);
         Draw(other, state);
-        EXPECT_TRUE(tests::SamePixels(canvas, other)) << "state " << state;
+        EXPECT_TRUE(tests::SamePixels(m_canvas, other)) << "state " << state;
     }
-    tests::ExpectGolden(canvas, "free_icon_button");
+    tests::ExpectGolden(m_canvas, "free_icon_button");
 }
 
 TEST_F(FreeIconButton, PaintsTransparently)
 {
-    canvas.Dc().SetBkMode(OPAQUE);
-    Draw(canvas, 0);
-    EXPECT_EQ(canvas.Dc().GetBkMode(), TRANSPARENT);
+    m_canvas.Dc().SetBkMode(OPAQUE);
+    Draw(m_canvas, 0);
+    EXPECT_EQ(m_canvas.Dc().GetBkMode(), TRANSPARENT);
 }
 
 TEST_F(FreeIconButton, WithoutContextOrIconDrawsNothing)
 {
-    button.DrawItem(nullptr);
+    m_button.DrawItem(nullptr);
     DRAWITEMSTRUCT item{};
-    button.DrawItem(&item);
-    button.m_icon = nullptr;
-    Draw(canvas, 0);
-    EXPECT_EQ(canvas.Count(behind), edge * edge);
+    m_button.DrawItem(&item);
+    m_button.m_icon = nullptr;
+    Draw(m_canvas, 0);
+    EXPECT_EQ(m_canvas.Count(behind), edge * edge);
 }
 
 TEST_F(FreeIconButton, ClickArrivesAtTheParent)
 {
     Open();
-    ASSERT_TRUE(tests::BringToFront(parent.m_hWnd));
+    ASSERT_TRUE(tests::BringToFront(m_host.m_hWnd));
     tests::Canvas screen(edge, edge);
-    screen.CopyFromScreen(button);
-    Draw(canvas, 0);
-    EXPECT_EQ(screen.Pixel(16, 16), canvas.Pixel(16, 16)) << "as it is on the screen";
+    screen.CopyFromScreen(m_button);
+    Draw(m_canvas, 0);
+    EXPECT_EQ(screen.Pixel(16, 16), m_canvas.Pixel(16, 16)) << "as it is on the screen";
     int clicks = 0;
     struct Watch : CWnd
     {
@@ -141,7 +141,7 @@ TEST_F(FreeIconButton, ClickArrivesAtTheParent)
         }
     } watch(clicks);
     ASSERT_TRUE(
-        watch.CreateEx(0, AfxRegisterWndClass(0), L"", WS_CHILD | WS_VISIBLE, CRect(100, 100, 200, 190), parent, 0));
+        watch.CreateEx(0, AfxRegisterWndClass(0), L"", WS_CHILD | WS_VISIBLE, CRect(100, 100, 200, 190), m_host, 0));
     tests::WindowCloser const watchCloser(watch);
     OpenIconButton inner;
     ASSERT_TRUE(inner.Create(L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, edge, edge), &watch, 42));
@@ -157,7 +157,7 @@ TEST_F(FreeIconButton, LeavesNoGdiObjectBehind)
                   for (int i = 0; i < 100; ++i)
                   {
                       OpenIconButton one;
-                      one.Create(L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, edge, edge), parent, 43);
+                      one.Create(L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, edge, edge), m_host, 43);
                       one.RedrawWindow();
                       one.DestroyWindow();
                   }
@@ -167,10 +167,10 @@ TEST_F(FreeIconButton, LeavesNoGdiObjectBehind)
 
 TEST_F(FreeIconButton, PaintsItsIconOverItselfWithoutATrace)
 {
-    Draw(canvas, 0);
+    Draw(m_canvas, 0);
     tests::Canvas again(edge, edge, behind);
     Draw(again, 0);
     Draw(again, ODS_SELECTED);
     Draw(again, ODS_DISABLED);
-    EXPECT_TRUE(tests::SamePixels(canvas, again)) << "a frame that is half clear darkens each time";
+    EXPECT_TRUE(tests::SamePixels(m_canvas, again)) << "a frame that is half clear darkens each time";
 }

@@ -35,8 +35,8 @@ protected:
     {
         m_control = std::make_unique<tests::TestMultiselect>();
         // As a dialog template makes it; styles of one that is created before it has a window don't last here.
-        HWND const plain = ::CreateWindowExW(0, L"BUTTON", L"", WS_CHILD | WS_VISIBLE, 10, 10, 202, 140,
-                                             m_parent.m_hWnd, reinterpret_cast<HMENU>(5), nullptr, nullptr);
+        HWND const plain = ::CreateWindowExW(0, L"BUTTON", L"", WS_CHILD | WS_VISIBLE, 10, 10, 202, 140, m_host.m_hWnd,
+                                             reinterpret_cast<HMENU>(5), nullptr, nullptr);
         ASSERT_TRUE(m_control->SubclassWindow(plain));
     }
     void Show(Map const & map, Ids const & selection)
@@ -51,10 +51,10 @@ protected:
     Events TakeEvents()
     {
         tests::PumpPosted();
-        return std::exchange(m_parent.events, {});
+        return std::exchange(m_host.events, {});
     }
 
-    tests::MultiselectParent m_parent;
+    tests::MultiselectParent m_host;
     std::unique_ptr<tests::TestMultiselect> m_control;
 };
 
@@ -120,14 +120,14 @@ TEST_F(Multiselect, IsAnOwnerDrawnButtonWithAStaticEdge)
 TEST_F(Multiselect, MakesItsPartsAtTheFirstPaintOrSize)
 {
     HWND const plain =
-        ::CreateWindowExW(0, L"BUTTON", L"", WS_CHILD, 0, 160, 120, 90, m_parent.m_hWnd, nullptr, nullptr, nullptr);
+        ::CreateWindowExW(0, L"BUTTON", L"", WS_CHILD, 0, 160, 120, 90, m_host.m_hWnd, nullptr, nullptr, nullptr);
     tests::TestMultiselect bound;
     bound.SubclassWindow(plain);
     EXPECT_FALSE(bound.m_controlsCreated) << "neither painted nor sized";
     bound.MoveWindow(0, 160, 130, 90);
     EXPECT_TRUE(bound.m_controlsCreated);
     bound.DestroyWindow();
-    bound.SubclassWindow(::CreateWindowExW(0, L"BUTTON", L"", WS_CHILD | WS_VISIBLE, 0, 160, 120, 90, m_parent.m_hWnd,
+    bound.SubclassWindow(::CreateWindowExW(0, L"BUTTON", L"", WS_CHILD | WS_VISIBLE, 0, 160, 120, 90, m_host.m_hWnd,
                                            nullptr, nullptr, nullptr));
     EXPECT_FALSE(bound.m_controlsCreated);
     bound.RedrawWindow();
@@ -297,13 +297,13 @@ TEST_F(Multiselect, APressOnTheTextTicksAndOneBesideAllRowsDoesNothing)
 TEST_F(Multiselect, AClickOnTheCheckBoxTicksOnce)
 {
     Show(letters, {});
-    tests::BringToFront(m_parent.m_hWnd);
+    tests::BringToFront(m_host.m_hWnd);
     TakeEvents();
     CRect const row = Parts().RowRect(2, LVIR_BOUNDS);
     CRect const label = Parts().RowRect(2, LVIR_LABEL);
     CPoint const box(row.left + (label.left - row.left) / 2, row.CenterPoint().y);
     tests::Click(tests::ClientPoint(Parts().Part(32802), box));
-    ASSERT_TRUE(tests::PumpUntil([&] { return !m_parent.events.empty(); }));
+    ASSERT_TRUE(tests::PumpUntil([&] { return !m_host.events.empty(); }));
     EXPECT_EQ(Parts().Ticked(), (Numbers{3}));
     EXPECT_EQ(TakeEvents(), (Events{{6, 3}}));
 }
@@ -315,7 +315,7 @@ TEST_F(Multiselect, TheListMayEndInWhateverAPressAsksIt)
         SCOPED_TRACE(testing::Message() << "question " << question - LVM_FIRST);
         tests::GuardedHeap heap;
         auto list = std::make_unique<controls::Watched<CIdNameMultiselectListCtlr>>();
-        ASSERT_TRUE(list->Create(WS_CHILD | WS_VISIBLE | LVS_LIST, CRect(0, 0, 200, 100), m_parent, 9));
+        ASSERT_TRUE(list->Create(WS_CHILD | WS_VISIBLE | LVS_LIST, CRect(0, 0, 200, 100), m_host, 9));
         list->InsertItem(LVIF_TEXT | LVIF_PARAM, 0, L"some text", 0, 0, 0, 1);
         CRect label;
         list->GetItemRect(0, &label, LVIR_LABEL);
@@ -349,7 +349,7 @@ TEST_F(Multiselect, AListThatIsBeingMadeHasNoRowsYet)
     tests::WindowCloser const closer(control);
     control.SetTheMap(letters);
     control.SetSelection(3);
-    ASSERT_TRUE(control.Create(L"", WS_CHILD | WS_VISIBLE, CRect(10, 10, 200, 150), &m_parent, 6));
+    ASSERT_TRUE(control.Create(L"", WS_CHILD | WS_VISIBLE, CRect(10, 10, 200, 150), &m_host, 6));
     control.RedrawWindow();
     EXPECT_GT(control.m_told, 0);
     EXPECT_EQ(control.TheSelection(), (Ids{3}));
@@ -378,7 +378,7 @@ TEST_F(Multiselect, PartsThatEndAreNotMadeAgain)
         }
     };
     Sized control;
-    ASSERT_TRUE(control.Create(L"", WS_CHILD | WS_VISIBLE, CRect(10, 10, 200, 150), &m_parent, 6));
+    ASSERT_TRUE(control.Create(L"", WS_CHILD | WS_VISIBLE, CRect(10, 10, 200, 150), &m_host, 6));
     control.RedrawWindow();
     control.DestroyWindow();
     EXPECT_GE(control.m_ended, 5);
@@ -395,7 +395,7 @@ TEST_F(Multiselect, DataOutlivesTheWindowAndTheControlCanBeShownAgain)
         EXPECT_EQ(m_control->m_toolTip.m_hWnd, nullptr);
         m_control->RefreshContent();
         EXPECT_EQ(m_control->TheSelection(), (Ids{2}));
-        ASSERT_TRUE(m_control->Create(L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 200, 150), m_parent, 5));
+        ASSERT_TRUE(m_control->Create(L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 200, 150), m_host, 5));
         m_control->RedrawWindow();
         EXPECT_EQ(Parts().Ticked(), (Numbers{2}));
     }
@@ -432,7 +432,7 @@ TEST_F(Multiselect, LeavesNoGdiObjectsAndNoWindows)
         tests::TestMultiselect control;
         control.EnableOkCancel();
         control.SetTheMap(letters);
-        control.Create(L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 200, 150), m_parent, 9);
+        control.Create(L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 200, 150), m_host, 9);
         control.RedrawWindow();
         control.RedrawWindow();
     };

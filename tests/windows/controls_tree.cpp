@@ -27,7 +27,7 @@ protected:
     void SetUp() override
     {
         m_tree = std::make_unique<tests::TestTree>();
-        ASSERT_TRUE(m_tree->Create(style, CRect(0, 0, 300, 250), m_parent, 7));
+        ASSERT_TRUE(m_tree->Create(style, CRect(0, 0, 300, 250), m_host, 7));
     }
     std::vector<int> KeyOf(HTREEITEM item)
     {
@@ -46,7 +46,7 @@ protected:
         return m_tree->FindItem(type, id, nullptr, text, start, exact);
     }
 
-    tests::TreeParent m_parent;
+    tests::TreeParent m_host;
     std::unique_ptr<tests::TestTree> m_tree;
 };
 
@@ -370,7 +370,7 @@ TEST_F(TreeControl, KeyStrokesOfItsClassesAreNotTranslatedAndOthersEndTheTip)
 {
     TippedTree tree;
     tests::WindowCloser const closer(tree);
-    ASSERT_TRUE(tree.Create(style | TVS_NOTOOLTIPS, CRect(0, 0, 300, 250), m_parent, 8));
+    ASSERT_TRUE(tree.Create(style | TVS_NOTOOLTIPS, CRect(0, 0, 300, 250), m_host, 8));
     HWND const tip = Tip(tree);
     ASSERT_NE(tip, nullptr);
     tests::MessageRecorder recorder({TTM_ACTIVATE});
@@ -401,7 +401,7 @@ TEST_F(TreeControl, NoTipIsLeftOfATreeThatEnds)
     for (bool const windowAlone : {true, false})
     {
         auto tree = std::make_unique<TippedTree>();
-        ASSERT_TRUE(tree->Create(style | TVS_NOTOOLTIPS, CRect(0, 0, 300, 250), m_parent, 8));
+        ASSERT_TRUE(tree->Create(style | TVS_NOTOOLTIPS, CRect(0, 0, 300, 250), m_host, 8));
         HWND const tip = Tip(*tree);
         ASSERT_NE(tip, nullptr);
         if (windowAlone)
@@ -414,25 +414,25 @@ TEST_F(TreeControl, NoTipIsLeftOfATreeThatEnds)
 
 TEST_F(FilledTree, ADoubleClickIsReportedWithFlagsAndItemAndOpensTheItem)
 {
-    tests::BringToFront(m_parent.m_hWnd);
+    tests::BringToFront(m_host.m_hWnd);
     tests::DoubleClick(tests::ClientPoint(m_tree->m_hWnd, PlaceOf(b)));
-    ASSERT_TRUE(tests::PumpUntil([&] { return !m_parent.reports.empty() && IsExpanded(b); }));
-    EXPECT_EQ(m_parent.reports, (std::vector<tests::TreeParent::Report>{{MK_LBUTTON, b}}));
+    ASSERT_TRUE(tests::PumpUntil([&] { return !m_host.reports.empty() && IsExpanded(b); }));
+    EXPECT_EQ(m_host.reports, (std::vector<tests::TreeParent::Report>{{MK_LBUTTON, b}}));
 }
 
 TEST_F(FilledTree, WithoutDoubleClickHandlingItIsOnlyReported)
 {
     m_tree->DontHandleDoubleclick();
     m_tree->SendMessage(WM_LBUTTONDBLCLK, MK_LBUTTON | MK_CONTROL, MAKELPARAM(PlaceOf(b).x, PlaceOf(b).y));
-    EXPECT_EQ(m_parent.reports, (std::vector<tests::TreeParent::Report>{{MK_LBUTTON | MK_CONTROL, b}}));
+    EXPECT_EQ(m_host.reports, (std::vector<tests::TreeParent::Report>{{MK_LBUTTON | MK_CONTROL, b}}));
     EXPECT_FALSE(IsExpanded(b));
     m_tree->DontAbsorbAnyKeys();
     m_tree->SendMessage(WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(PlaceOf(b).x, PlaceOf(b).y));
-    EXPECT_EQ(m_parent.reports.size(), 2u);
+    EXPECT_EQ(m_host.reports.size(), 2u);
     EXPECT_FALSE(IsExpanded(b)) << "all keys contain that bit";
     m_tree->DontAbsorbKeys(0);
     m_tree->SendMessage(WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(PlaceOf(b).x, PlaceOf(b).y));
-    EXPECT_EQ(m_parent.reports.size(), 3u);
+    EXPECT_EQ(m_host.reports.size(), 3u);
     EXPECT_TRUE(IsExpanded(b));
 }
 
@@ -443,31 +443,31 @@ TEST_F(FilledTree, ADoubleClickBesideAllItemsOrAtMinusOneGoesToTheBaseAlone)
     EXPECT_EQ(m_tree->doubleClicksOfTheBase, 1);
     m_tree->SendMessage(WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(-1, -1));
     EXPECT_EQ(m_tree->doubleClicksOfTheBase, 2);
-    EXPECT_TRUE(m_parent.reports.empty());
+    EXPECT_TRUE(m_host.reports.empty());
     m_tree->SendMessage(WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(PlaceOf(a).x, PlaceOf(a).y));
     EXPECT_EQ(m_tree->doubleClicksOfTheBase, 2) << "reported only";
-    EXPECT_EQ(m_parent.reports.size(), 1u);
+    EXPECT_EQ(m_host.reports.size(), 1u);
 }
 
 TEST_F(FilledTree, TheParentMayEndTheTreeInItsReport)
 {
-    m_parent.onReport = [&] { m_tree.reset(); };
+    m_host.onReport = [&] { m_tree.reset(); };
     ::SendMessageW(m_tree->m_hWnd, WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(PlaceOf(b).x, PlaceOf(b).y));
     EXPECT_EQ(m_tree, nullptr);
-    EXPECT_EQ(m_parent.reports.size(), 1u);
+    EXPECT_EQ(m_host.reports.size(), 1u);
 }
 
 TEST_F(FilledTree, ADeletionWithinADeletionGivesEachRecordBackOnce)
 {
     bool nested = false;
-    m_parent.onNotify = [&](NMHDR const & header) {
+    m_host.onNotify = [&](NMHDR const & header) {
         if (header.code != TVN_DELETEITEMW || nested)
             return;
         nested = true;
         m_tree->DeleteTreeItem(ab);
     };
     m_tree->DeleteTreeItem(a);
-    m_parent.onNotify = {};
+    m_host.onNotify = {};
     EXPECT_TRUE(nested);
     m_tree->Add(L"new", b);
     EXPECT_EQ(m_tree->Outline(), (Lines{L"b", L".ba", L".new"}));
@@ -480,7 +480,7 @@ TEST_F(FilledTree, ADeletionWithinADeletionGivesEachRecordBackOnce)
 TEST_F(FilledTree, AChildInsertedWhileTheLastOneGoesDoesNotKeepADeletionGoing)
 {
     int inserted = 0;
-    m_parent.onNotify = [&](NMHDR const & header) {
+    m_host.onNotify = [&](NMHDR const & header) {
         auto const & change = reinterpret_cast<NMTREEVIEWW const &>(header);
         if (header.code == TVN_DELETEITEMW && m_tree->GetParentItem(change.itemOld.hItem) == b)
         {
@@ -489,7 +489,7 @@ TEST_F(FilledTree, AChildInsertedWhileTheLastOneGoesDoesNotKeepADeletionGoing)
         }
     };
     m_tree->DeleteAllSubItems(b);
-    m_parent.onNotify = {};
+    m_host.onNotify = {};
     EXPECT_EQ(inserted, 1);
     EXPECT_EQ(m_tree->Outline(), (Lines{L"a", L".aa", L"..aaa", L".ab", L"b", L".placeholder"}));
 }
@@ -497,7 +497,7 @@ TEST_F(FilledTree, AChildInsertedWhileTheLastOneGoesDoesNotKeepADeletionGoing)
 TEST_F(FilledTree, TheParentStillReadsTheRecordsWhileTheTreeEnds)
 {
     std::set<int> seen;
-    m_parent.onNotify = [&](NMHDR const & header) {
+    m_host.onNotify = [&](NMHDR const & header) {
         if (header.code != TVN_DELETEITEMW)
             return;
         auto const & change = reinterpret_cast<NMTREEVIEWW const &>(header);

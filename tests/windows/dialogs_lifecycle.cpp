@@ -174,7 +174,7 @@ TEST_F(Dialog3dLifecycle, TheModelessDialogsOwnerIsTheMainWindow)
     tests::App().m_pMainWnd = &main;
     TestDialog dialog(IDD_FIXED, &parent);
     EXPECT_NE(dialog.DisplayDialog(), 0);
-    EXPECT_EQ(::GetWindow(dialog.m_hWnd, GW_OWNER), main.m_hWnd) << "not the one of the constructor, which is meant";
+    EXPECT_EQ(::GetWindow(dialog.m_hWnd, GW_OWNER), main.m_hWnd) << "not the one of the constructor, as hosts expect";
     dialog.DestroyWindow();
     tests::App().m_pMainWnd = nullptr;
 }

@@ -36,11 +36,11 @@ class ToolTipTest : public testing::Test
 protected:
     void SetUp() override
     {
-        ASSERT_TRUE(m_button.Create(L"x", shown, Place, m_parent, control_id));
-        ASSERT_TRUE(m_tips.Create(&m_parent, TTS_ALWAYSTIP));
+        ASSERT_TRUE(m_button.Create(L"x", shown, Place, m_host, control_id));
+        ASSERT_TRUE(m_tips.Create(&m_host, TTS_ALWAYSTIP));
     }
 
-    RelayingParent m_parent;
+    RelayingParent m_host;
     CButton m_button;
     CToolTipCtrl m_tips;
 };
@@ -59,7 +59,7 @@ TEST_F(ToolTipTest, WindowsAreTools)
     CToolInfo info{};
     ASSERT_TRUE(m_tips.GetToolInfo(info, &m_button));
     EXPECT_EQ(info.uId, reinterpret_cast<UINT_PTR>(m_button.m_hWnd));
-    EXPECT_EQ(info.hwnd, m_parent.m_hWnd);
+    EXPECT_EQ(info.hwnd, m_host.m_hWnd);
     EXPECT_STREQ(info.lpszText, L"Stops it");
     m_tips.DelTool(&m_button);
     EXPECT_EQ(m_tips.GetToolCount(), 0);
@@ -71,17 +71,17 @@ TEST_F(ToolTipTest, WindowsAreTools)
 TEST_F(ToolTipTest, RectanglesAreToolsWithAnId)
 {
     CRect const left(0, 0, 50, 50);
-    ASSERT_TRUE(m_tips.AddTool(&m_parent, L"left part", left, 3));
-    ASSERT_TRUE(m_tips.AddTool(&m_parent, L"right part", CRect(50, 0, 100, 50), 4));
+    ASSERT_TRUE(m_tips.AddTool(&m_host, L"left part", left, 3));
+    ASSERT_TRUE(m_tips.AddTool(&m_host, L"right part", CRect(50, 0, 100, 50), 4));
     CString text;
-    m_tips.GetText(text, &m_parent, 4);
+    m_tips.GetText(text, &m_host, 4);
     EXPECT_EQ(text, L"right part");
     TOOLINFO found{};
-    ASSERT_TRUE(m_tips.HitTest(&m_parent, CPoint(20, 20), &found));
+    ASSERT_TRUE(m_tips.HitTest(&m_host, CPoint(20, 20), &found));
     EXPECT_EQ(found.uId, 3U);
-    m_tips.SetToolRect(&m_parent, 3, CRect(200, 200, 210, 210));
-    EXPECT_FALSE(m_tips.HitTest(&m_parent, CPoint(20, 20), &found));
-    m_tips.DelTool(&m_parent, 3);
+    m_tips.SetToolRect(&m_host, 3, CRect(200, 200, 210, 210));
+    EXPECT_FALSE(m_tips.HitTest(&m_host, CPoint(20, 20), &found));
+    m_tips.DelTool(&m_host, 3);
     EXPECT_EQ(m_tips.GetToolCount(), 1);
 }
 
@@ -119,13 +119,13 @@ TEST_F(ToolTipTest, SettingsRoundTrip)
 
 TEST_F(ToolTipTest, TipShowsWhenTheMouseRestsOnTheTool)
 {
-    EXPECT_EQ(m_tips.GetOwner(), &m_parent);
+    EXPECT_EQ(m_tips.GetOwner(), &m_host);
     EXPECT_NE(m_tips.GetStyle() & TTS_ALWAYSTIP, 0U);
     ASSERT_TRUE(m_tips.AddTool(&m_button, L"tip"));
     m_tips.SetDelayTime(TTDT_INITIAL, 1);
     m_tips.Activate(TRUE);
-    m_parent.m_tips = &m_tips;
-    ASSERT_TRUE(tests::BringToFront(m_parent));
+    m_host.m_tips = &m_tips;
+    ASSERT_TRUE(tests::BringToFront(m_host));
     CPoint const middle = tests::Centre(m_button);
     ASSERT_TRUE(tests::MoveMouse(middle - CSize(3, 3)));
     ASSERT_TRUE(tests::MoveMouse(middle));
@@ -384,7 +384,7 @@ class ToolBarTest : public testing::Test
 protected:
     void SetUp() override
     {
-        ASSERT_TRUE(m_bar.Create(shown | CCS_TOP | TBSTYLE_TOOLTIPS, CRect(), m_parent, control_id));
+        ASSERT_TRUE(m_bar.Create(shown | CCS_TOP | TBSTYLE_TOOLTIPS, CRect(), m_host, control_id));
         TBBUTTON buttons[3]{};
         for (int index = 0; index < 3; ++index)
         {
@@ -397,7 +397,7 @@ protected:
         ASSERT_TRUE(m_bar.AddButtons(3, buttons));
     }
 
-    tests::ScopedWindow m_parent;
+    tests::ScopedWindow m_host;
     CToolBarCtrl m_bar;
 };
 

@@ -65,12 +65,12 @@ class ListBoxTest : public testing::Test
 protected:
     void Create(DWORD style)
     {
-        ASSERT_TRUE(m_list.Create(shown | style, Place, m_parent, control_id));
+        ASSERT_TRUE(m_list.Create(shown | style, Place, m_host, control_id));
         for (LPCTSTR const text : {L"Alpha", L"Beta", L"Gamma", L"Delta"})
             m_list.AddString(text);
     }
 
-    Parent m_parent;
+    Parent m_host;
     CListBox m_list;
 };
 
@@ -163,7 +163,7 @@ TEST_F(ListBoxTest, ParentHearsOfSelectionByTheUser)
     m_list.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, at);
     m_list.SendMessage(WM_LBUTTONUP, 0, at);
     EXPECT_EQ(m_list.GetCurSel(), 2);
-    EXPECT_EQ(m_parent.m_selected, 1);
+    EXPECT_EQ(m_host.m_selected, 1);
 }
 
 TEST(FrameworkControlsLists, OwnerDrawnListBoxMeasuresComparesDrawsAndDeletes)
@@ -334,7 +334,7 @@ class CheckListTest : public testing::Test
 protected:
     void SetUp() override
     {
-        ASSERT_TRUE(m_list.Create(shown | LBS_NOTIFY, Place, m_parent, control_id));
+        ASSERT_TRUE(m_list.Create(shown | LBS_NOTIFY, Place, m_host, control_id));
         for (LPCTSTR const text : {L"left", L"right", L"both"})
             m_list.AddString(text);
     }
@@ -347,7 +347,7 @@ protected:
         m_list.SendMessage(WM_LBUTTONUP, 0, at);
     }
 
-    Parent m_parent;
+    Parent m_host;
     DataDeletingCheckList m_list;
 };
 
@@ -373,10 +373,10 @@ TEST_F(CheckListTest, ClickOnTheBoxTogglesAndTellsTheParent)
 {
     ClickCheck(1);
     EXPECT_EQ(m_list.GetCheck(1), BST_CHECKED);
-    EXPECT_EQ(m_parent.m_checked, 1);
+    EXPECT_EQ(m_host.m_checked, 1);
     ClickCheck(1);
     EXPECT_EQ(m_list.GetCheck(1), BST_UNCHECKED);
-    EXPECT_EQ(m_parent.m_checked, 2);
+    EXPECT_EQ(m_host.m_checked, 2);
     m_list.SetCheckStyle(BS_AUTO3STATE);
     ClickCheck(0);
     ClickCheck(0);
@@ -392,7 +392,7 @@ TEST_F(CheckListTest, DisabledRowsKeepTheirCheck)
     EXPECT_TRUE(m_list.IsEnabled(1));
     ClickCheck(0);
     EXPECT_EQ(m_list.GetCheck(0), BST_UNCHECKED);
-    EXPECT_EQ(m_parent.m_checked, 0);
+    EXPECT_EQ(m_host.m_checked, 0);
     m_list.SetCurSel(1);
     m_list.SendMessage(WM_KEYDOWN, VK_SPACE);
     EXPECT_EQ(m_list.GetCheck(1), BST_CHECKED);

@@ -67,7 +67,7 @@ class ListViewTest : public testing::Test
 protected:
     void SetUp() override
     {
-        ASSERT_TRUE(m_list.Create(shown | LVS_REPORT | LVS_SHOWSELALWAYS, Place, m_parent, control_id));
+        ASSERT_TRUE(m_list.Create(shown | LVS_REPORT | LVS_SHOWSELALWAYS, Place, m_host, control_id));
         EXPECT_EQ(m_list.InsertColumn(0, L"Name", LVCFMT_LEFT, 100), 0);
         EXPECT_EQ(m_list.InsertColumn(1, L"Level", LVCFMT_RIGHT, 60, 1), 1);
         for (int row = 0; row < 3; ++row)
@@ -89,7 +89,7 @@ protected:
     static constexpr LPCTSTR levels[]{L"-3", L"-1", L"-2"};
     static constexpr int data[]{20, 30, 10};
 
-    Parent m_parent;
+    Parent m_host;
     ReflectingList m_list;
 };
 
@@ -293,15 +293,15 @@ TEST_F(ListViewTest, ScrollingShowsTheItem)
 
 TEST_F(ListViewTest, ReflectedNotificationReachesTheListBeforeTheParent)
 {
-    int const before = m_parent.m_changed;
+    int const before = m_host.m_changed;
     m_list.m_changed = 0;
     m_list.SetItemState(0, LVIS_SELECTED, LVIS_SELECTED);
     EXPECT_EQ(m_list.m_changed, 1);
-    EXPECT_EQ(m_parent.m_changed, before);
+    EXPECT_EQ(m_host.m_changed, before);
     m_list.m_keep = false;
     m_list.SetItemState(1, LVIS_SELECTED, LVIS_SELECTED);
     EXPECT_EQ(m_list.m_changed, 2);
-    EXPECT_EQ(m_parent.m_changed, before + 1);
+    EXPECT_EQ(m_host.m_changed, before + 1);
 }
 
 TEST_F(ListViewTest, LabelIsEditedInAnEditControl)
@@ -323,7 +323,7 @@ TEST_F(ListViewTest, LabelIsEditedInAnEditControl)
 TEST_F(ListViewTest, OwnerDrawnRowsReachTheVirtualMember)
 {
     ReflectingList list;
-    ASSERT_TRUE(list.Create(shown | LVS_REPORT | LVS_OWNERDRAWFIXED, Place, m_parent, control_id + 1));
+    ASSERT_TRUE(list.Create(shown | LVS_REPORT | LVS_OWNERDRAWFIXED, Place, m_host, control_id + 1));
     list.InsertColumn(0, L"x", LVCFMT_LEFT, 50);
     list.InsertItem(0, L"a");
     list.InsertItem(1, L"b");
@@ -342,7 +342,7 @@ TEST_F(ListViewTest, ImageListStaysWithItsObject)
     ASSERT_TRUE(images->SetImageCount(2));
     {
         CListCtrl list;
-        ASSERT_TRUE(list.Create(shown | LVS_REPORT, Place, m_parent, control_id + 1));
+        ASSERT_TRUE(list.Create(shown | LVS_REPORT, Place, m_host, control_id + 1));
         EXPECT_EQ(list.SetImageList(images.get(), LVSIL_SMALL), nullptr);
         EXPECT_EQ(list.GetImageList(LVSIL_SMALL), images.get());
         EXPECT_EQ(list.GetImageList(LVSIL_NORMAL), nullptr);
@@ -390,7 +390,7 @@ TEST_F(ListViewTest, ToolTipsAndIdentifiersAreReached)
     CToolTipCtrl * const tips = m_list.GetToolTips();
     ASSERT_NE(tips, nullptr);
     CToolTipCtrl own;
-    ASSERT_TRUE(own.Create(&m_parent));
+    ASSERT_TRUE(own.Create(&m_host));
     EXPECT_EQ(m_list.SetToolTips(&own), tips);
     m_list.SetToolTips(tips);
     UINT const id = m_list.MapIndexToID(2);

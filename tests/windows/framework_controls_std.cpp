@@ -254,12 +254,12 @@ class EditTest : public testing::Test
 protected:
     void SetUp() override
     {
-        ASSERT_TRUE(m_edit.Create(WS_CHILD | WS_VISIBLE | ES_MULTILINE | ES_AUTOVSCROLL, CRect(0, 0, 300, 100),
-                                  m_parent, control_id));
+        ASSERT_TRUE(m_edit.Create(WS_CHILD | WS_VISIBLE | ES_MULTILINE | ES_AUTOVSCROLL, CRect(0, 0, 300, 100), m_host,
+                                  control_id));
         m_edit.SetWindowText(L"first\r\nsecond line\r\nthird");
     }
 
-    tests::ScopedWindow m_parent;
+    tests::ScopedWindow m_host;
     CEdit m_edit;
 };
 

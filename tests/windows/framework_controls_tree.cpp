@@ -51,7 +51,7 @@ class TreeTest : public testing::Test
 protected:
     void SetUp() override
     {
-        ASSERT_TRUE(m_tree.Create(shown, CRect(0, 0, 200, 150), m_parent, control_id));
+        ASSERT_TRUE(m_tree.Create(shown, CRect(0, 0, 200, 150), m_host, control_id));
         m_inputs = m_tree.InsertItem(L"Inputs");
         m_outputs = m_tree.InsertItem(L"Outputs");
         m_left = m_tree.InsertItem(L"Left", m_inputs);
@@ -67,7 +67,7 @@ protected:
         return std::wstring(names);
     }
 
-    Parent m_parent;
+    Parent m_host;
     ReflectingTree m_tree;
     HTREEITEM m_inputs = nullptr;
     HTREEITEM m_outputs = nullptr;
@@ -188,7 +188,7 @@ TEST_F(TreeTest, ReflectedSelectionReachesTheTreeAlone)
     EXPECT_TRUE(m_tree.SelectItem(m_outputs));
     EXPECT_EQ(m_tree.GetSelectedItem(), m_outputs);
     EXPECT_EQ(m_tree.m_changed, 1);
-    EXPECT_EQ(m_parent.m_changed, 0);
+    EXPECT_EQ(m_host.m_changed, 0);
     EXPECT_TRUE(m_tree.SelectDropTarget(m_inputs));
     EXPECT_EQ(m_tree.GetDropHilightItem(), m_inputs);
     m_tree.SelectDropTarget(nullptr);

@@ -119,26 +119,25 @@ END_MESSAGE_MAP()
 class CoreReflection : public testing::Test
 {
 protected:
-    CoreReflection() : m_parent(m_calls), m_control(m_calls)
+    CoreReflection() : m_host(m_calls), m_control(m_calls)
     {
-        m_control.Create(L"STATIC", L"", WS_CHILD, CRect(0, 0, 10, 10), &m_parent, id_control);
+        m_control.Create(L"STATIC", L"", WS_CHILD, CRect(0, 0, 10, 10), &m_host, id_control);
     }
     ~CoreReflection() override { m_control.DestroyWindow(); }
 
     LRESULT Notify(UINT code)
     {
         NMHDR header{m_control.m_hWnd, id_control, code};
-        return m_parent.SendMessage(WM_NOTIFY, id_control, reinterpret_cast<LPARAM>(&header));
+        return m_host.SendMessage(WM_NOTIFY, id_control, reinterpret_cast<LPARAM>(&header));
     }
     LRESULT Command(UINT code)
     {
-        return m_parent.SendMessage(WM_COMMAND, MAKEWPARAM(id_control, code),
-                                    reinterpret_cast<LPARAM>(m_control.m_hWnd));
+        return m_host.SendMessage(WM_COMMAND, MAKEWPARAM(id_control, code), reinterpret_cast<LPARAM>(m_control.m_hWnd));
     }
     Calls Take() { return std::exchange(m_calls, {}); }
 
     Calls m_calls;
-    Parent m_parent;
+    Parent m_host;
     Control m_control;
 };
 
@@ -180,18 +179,18 @@ TEST_F(CoreReflection, CommandNotificationIsReflectedToo)
 
 TEST_F(CoreReflection, ControlChoosesItsColours)
 {
-    HDC const dc = ::GetDC(m_parent.m_hWnd);
+    HDC const dc = ::GetDC(m_host.m_hWnd);
     m_control.m_brush = static_cast<HBRUSH>(::GetStockObject(DKGRAY_BRUSH));
     auto const ask = [&] {
-        return m_parent.SendMessage(WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(dc),
-                                    reinterpret_cast<LPARAM>(m_control.m_hWnd));
+        return m_host.SendMessage(WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(dc),
+                                  reinterpret_cast<LPARAM>(m_control.m_hWnd));
     };
     EXPECT_EQ(ask(), reinterpret_cast<LRESULT>(m_control.m_brush));
     EXPECT_EQ(Take(), Calls{"control colour 6 dc"});
     m_control.m_brush = nullptr; // no choice: the system's
     EXPECT_NE(ask(), 0);
     EXPECT_EQ(Take(), Calls{"control colour 6 dc"});
-    ::ReleaseDC(m_parent.m_hWnd, dc);
+    ::ReleaseDC(m_host.m_hWnd, dc);
 }
 
 TEST_F(CoreReflection, OwnerDrawMessagesGoToTheControl)
@@ -200,21 +199,21 @@ TEST_F(CoreReflection, OwnerDrawMessagesGoToTheControl)
     draw.CtlType = ODT_STATIC;
     draw.hwndItem = m_control.m_hWnd;
     draw.itemID = 3;
-    EXPECT_EQ(m_parent.SendMessage(WM_DRAWITEM, id_control, reinterpret_cast<LPARAM>(&draw)), TRUE);
+    EXPECT_EQ(m_host.SendMessage(WM_DRAWITEM, id_control, reinterpret_cast<LPARAM>(&draw)), TRUE);
     MEASUREITEMSTRUCT measure{};
     measure.CtlType = ODT_LISTBOX;
     measure.CtlID = id_control;
-    EXPECT_EQ(m_parent.SendMessage(WM_MEASUREITEM, id_control, reinterpret_cast<LPARAM>(&measure)), TRUE);
+    EXPECT_EQ(m_host.SendMessage(WM_MEASUREITEM, id_control, reinterpret_cast<LPARAM>(&measure)), TRUE);
     EXPECT_EQ(measure.itemHeight, 17u);
     COMPAREITEMSTRUCT compare{};
     compare.hwndItem = m_control.m_hWnd;
-    EXPECT_EQ(m_parent.SendMessage(WM_COMPAREITEM, id_control, reinterpret_cast<LPARAM>(&compare)), -1);
+    EXPECT_EQ(m_host.SendMessage(WM_COMPAREITEM, id_control, reinterpret_cast<LPARAM>(&compare)), -1);
     EXPECT_EQ(Take(), (Calls{"control draw 3", "control measure"}));
 }
 
 TEST_F(CoreReflection, ScrollMessagesGoToTheControl)
 {
-    m_parent.SendMessage(WM_HSCROLL, MAKEWPARAM(SB_THUMBPOSITION, 9), reinterpret_cast<LPARAM>(m_control.m_hWnd));
+    m_host.SendMessage(WM_HSCROLL, MAKEWPARAM(SB_THUMBPOSITION, 9), reinterpret_cast<LPARAM>(m_control.m_hWnd));
     EXPECT_EQ(Take(), Calls{"control scroll 4 9"});
 }
 

@@ -44,7 +44,7 @@ END_MESSAGE_MAP()
 class DataExchange : public testing::Test
 {
 protected:
-    void SetUp() override { ASSERT_TRUE(m_dialog.Create(IDD_EXCHANGE, m_parent)); }
+    void SetUp() override { ASSERT_TRUE(m_dialog.Create(IDD_EXCHANGE, m_host)); }
     void TearDown() override
     {
         if (m_dialog.m_hWnd != nullptr)
@@ -77,7 +77,7 @@ protected:
         return messages;
     }
 
-    tests::ScopedWindow m_parent;
+    tests::ScopedWindow m_host;
     CExchangeDialog m_dialog;
 };
 

@@ -38,7 +38,7 @@ class DialogBackground : public testing::Test
 protected:
     void SetUp() override
     {
-        ASSERT_TRUE(m_dialog.Create(IDD_SIMPLE, m_parent));
+        ASSERT_TRUE(m_dialog.Create(IDD_SIMPLE, m_host));
         CRect client;
         m_dialog.GetClientRect(&client);
         m_size = client.Size();
@@ -59,7 +59,7 @@ protected:
                                  reinterpret_cast<LPARAM>(::GetDlgItem(m_dialog.m_hWnd, id))));
     }
 
-    tests::ScopedWindow m_parent;
+    tests::ScopedWindow m_host;
     CDialogEx m_dialog;
     CSize m_size;
 };
@@ -189,7 +189,7 @@ TEST_F(DialogBackground, LeavesNoGdiObjectsBehind)
                   dialog.SetBackgroundColor(back);
                   dialog.SetBackgroundColor(red);
                   dialog.SetBackgroundImage(MakeBitmap(4, 4, red));
-                  ASSERT_TRUE(dialog.Create(IDD_SIMPLE, m_parent));
+                  ASSERT_TRUE(dialog.Create(IDD_SIMPLE, m_host));
                   tests::Canvas canvas(20, 20);
                   dialog.SendMessage(WM_ERASEBKGND, reinterpret_cast<WPARAM>(canvas.Dc().GetSafeHdc()));
                   dialog.DestroyWindow();

@@ -32,8 +32,8 @@ class EditBrowse : public testing::Test
 protected:
     void SetUp() override
     {
-        ASSERT_TRUE(m_edit.Create(WS_CHILD | WS_VISIBLE | WS_BORDER, CRect(10, 10, 210, 34), m_parent, 5));
-        tests::BringToFront(m_parent.m_hWnd);
+        ASSERT_TRUE(m_edit.Create(WS_CHILD | WS_VISIBLE | WS_BORDER, CRect(10, 10, 210, 34), m_host, 5));
+        tests::BringToFront(m_host.m_hWnd);
     }
     void TearDown() override { m_edit.DestroyWindow(); }
     int ClientWidth()
@@ -49,7 +49,7 @@ protected:
         return CPoint(rect.right - 8, rect.CenterPoint().y);
     }
 
-    tests::ScopedWindow m_parent;
+    tests::ScopedWindow m_host;
     CountingEdit m_edit;
 };
 } // namespace

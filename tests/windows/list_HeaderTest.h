@@ -34,7 +34,7 @@ class HeaderTest : public testing::Test
 {
 protected:
     explicit HeaderTest(TestHeader & header, DWORD parentStyle = WS_OVERLAPPEDWINDOW)
-        : m_parent(CRect(100, 100, 500, 300), parentStyle),
+        : m_host(CRect(100, 100, 500, 300), parentStyle),
           m_base(header)
     {
     }
@@ -42,7 +42,7 @@ protected:
     void SetUp() override
     {
         ASSERT_TRUE(
-            m_base.Create(WS_CHILD | WS_VISIBLE | HDS_HORZ, CRect(0, 0, header_width, header_height), m_parent, 3));
+            m_base.Create(WS_CHILD | WS_VISIBLE | HDS_HORZ, CRect(0, 0, header_width, header_height), m_host, 3));
     }
     void TearDown() override { m_base.DestroyWindow(); }
 
@@ -86,7 +86,7 @@ protected:
     }
     void Paint(tests::Canvas & canvas) { m_base.PaintHeader(&canvas.Dc()); }
 
-    tests::ScopedWindow m_parent;
+    tests::ScopedWindow m_host;
 
 private:
     TestHeader & m_base;

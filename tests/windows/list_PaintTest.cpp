@@ -43,37 +43,37 @@ void ListPaintTest::SetUp()
     font.lfQuality = NONANTIALIASED_QUALITY;
     wcscpy(font.lfFaceName, L"Tahoma");
     ASSERT_TRUE(m_font.CreateFontIndirect(&font));
-    m_formerFont = canvas.Dc().SelectObject(&m_font);
+    m_formerFont = m_canvas.Dc().SelectObject(&m_font);
 
     ASSERT_TRUE(m_images.Create(image_width, image_height, ILC_COLOR24, 2, 1));
     AddImage(m_images, image_width, image_height, pure_red);
     AddImage(m_images, image_width, image_height, pure_green);
-    list.SetImageList(&m_images, LVSIL_SMALL);
+    m_list.SetImageList(&m_images, LVSIL_SMALL);
 
-    host.Fill(3, 4);
+    m_host.Fill(3, 4);
     for (int col = 0; col < 3; ++col)
-        list.CListCtrl::SetColumnWidth(col, column_width);
+        m_list.CListCtrl::SetColumnWidth(col, column_width);
     for (int row = 0; row < 4; ++row)
-        list.SetItemText(row, 0, L"");
-    list.SetFullRowSelect();
+        m_list.SetItemText(row, 0, L"");
+    m_list.SetFullRowSelect();
     ASSERT_EQ(Cell(0, 1).Size(), CSize(column_width, row_height));
 }
 
 CRect ListPaintTest::Cell(int row, int col)
 {
     CRect rect(0, 0, 0, 0);
-    EXPECT_TRUE(list.GetSubItemRect(row, col, LVIR_BOUNDS, rect));
+    EXPECT_TRUE(m_list.GetSubItemRect(row, col, LVIR_BOUNDS, rect));
     return rect;
 }
 
 NMLVCUSTOMDRAW ListPaintTest::Notification(DWORD stage, int row, int col)
 {
     NMLVCUSTOMDRAW draw = {};
-    draw.nmcd.hdr = {list.m_hWnd, TestList::id, static_cast<UINT>(NM_CUSTOMDRAW)};
+    draw.nmcd.hdr = {m_list.m_hWnd, TestList::id, static_cast<UINT>(NM_CUSTOMDRAW)};
     draw.nmcd.dwDrawStage = stage;
-    draw.nmcd.hdc = canvas.Dc().GetSafeHdc();
+    draw.nmcd.hdc = m_canvas.Dc().GetSafeHdc();
     draw.nmcd.dwItemSpec = static_cast<DWORD_PTR>(row);
-    draw.nmcd.lItemlParam = list.Param(row);
+    draw.nmcd.lItemlParam = m_list.Param(row);
     draw.iSubItem = col;
     return draw;
 }
@@ -82,13 +82,13 @@ LRESULT ListPaintTest::PaintOver(int row, int col)
 {
     NMLVCUSTOMDRAW draw = Notification(CDDS_ITEMPREPAINT | CDDS_SUBITEM, row, col);
     LRESULT result = -1;
-    list.OnCustomDraw(&draw.nmcd.hdr, &result);
+    m_list.OnCustomDraw(&draw.nmcd.hdr, &result);
     return result;
 }
 
 LRESULT ListPaintTest::Paint(int row, int col)
 {
-    canvas.Fill(untouched);
+    m_canvas.Fill(untouched);
     return PaintOver(row, col);
 }
 
@@ -102,13 +102,13 @@ std::unique_ptr<Canvas> ListPaintTest::Copy(CRect const & part)
 
 void ListPaintTest::Select(int row, bool focus)
 {
-    list.SetItemState(-1, 0, LVIS_SELECTED);
-    list.SetItemState(row, LVIS_SELECTED, LVIS_SELECTED);
+    m_list.SetItemState(-1, 0, LVIS_SELECTED);
+    m_list.SetItemState(row, LVIS_SELECTED, LVIS_SELECTED);
     if (focus)
-        list.SetFocus();
+        m_list.SetFocus();
     else
-        host.parent.SetFocus();
-    ASSERT_EQ(::GetFocus() == list.m_hWnd, focus);
+        m_host.parent.SetFocus();
+    ASSERT_EQ(::GetFocus() == m_list.m_hWnd, focus);
 }
 
 CRect ListPaintTest::Bounds(COLORREF colour, CRect const & rect) const
@@ -118,7 +118,7 @@ CRect ListPaintTest::Bounds(COLORREF colour, CRect const & rect) const
     {
         for (int x = rect.left; x < rect.right; ++x)
         {
-            if (canvas.Pixel(x, y) != colour)
+            if (m_canvas.Pixel(x, y) != colour)
                 continue;
             bounds.left = std::min<LONG>(bounds.left, x);
             bounds.top = std::min<LONG>(bounds.top, y);

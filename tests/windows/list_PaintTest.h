@@ -48,7 +48,7 @@ protected:
     void SetUp() override;
 
     CRect Cell(int row, int col);
-    XLISTCTRLDATA & Data(int row, int col) { return *list.GetRowItemDataDirect(row, col); }
+    XLISTCTRLDATA & Data(int row, int col) { return *m_list.GetRowItemDataDirect(row, col); }
     /// What the native list sends for the stage; the item word is that of the row.
     NMLVCUSTOMDRAW Notification(DWORD stage, int row, int col);
     /// Paints one cell on the picture, which is untouched before; what the list answers.
@@ -61,15 +61,15 @@ protected:
     /// The row alone is selected, and the list has the focus or not.
     void Select(int row, bool focus);
 
-    int Count(COLORREF colour, CRect const & rect) const { return canvas.Count(colour, rect); }
+    int Count(COLORREF colour, CRect const & rect) const { return m_canvas.Count(colour, rect); }
     /// The bounds of a colour within a rectangle, relative to it.
     CRect Bounds(COLORREF colour, CRect const & rect) const;
     /// Whether only pixels within the rectangle were painted.
     testing::AssertionResult OnlyWithin(CRect const & rect) const;
 
-    ListHost host;
-    TestList & list = host.list;
-    Canvas canvas;
+    ListHost m_host;
+    TestList & m_list = m_host.list;
+    Canvas m_canvas;
 
 private:
     CImageList m_images;

@@ -22,17 +22,17 @@ protected:
     /// The cell (1, 1) painted by the painters alone, on the same place: how a system smooths shapes may depend on it.
     std::unique_ptr<tests::Canvas> PaintedAlone()
     {
-        canvas.Fill(untouched);
+        m_canvas.Fill(untouched);
         XLISTCTRLDATA const & cell = Data(1, 1);
         CellLook look;
         look.palette = CellPalette::OfSystem();
         look.alignment = m_alignment;
-        look.ellipsis = list.GetEllipsis();
-        look.padding = list.GetCellPadding();
-        look.images = list.GetImageList(LVSIL_SMALL);
-        CellPaint paint{canvas.Dc(), cell, Cell(1, 1), cell.textColor, cell.backgroundColor};
+        look.ellipsis = m_list.GetEllipsis();
+        look.padding = m_list.GetCellPadding();
+        look.images = m_list.GetImageList(LVSIL_SMALL);
+        CellPaint paint{m_canvas.Dc(), cell, Cell(1, 1), cell.textColor, cell.backgroundColor};
         cell_painters::GreyDisabled(cell, look.palette, paint.text, paint.background);
-        CString const shown = list.GetItemText(1, 1);
+        CString const shown = m_list.GetItemText(1, 1);
         CellText const text([&shown](wchar_t * buffer, int room) {
             ::lstrcpynW(buffer, shown, room);
             return static_cast<int>(std::wcslen(buffer));
@@ -58,7 +58,7 @@ protected:
     void Reset()
     {
         Data(1, 1) = XLISTCTRLDATA();
-        list.CListCtrl::SetItemText(1, 1, L"");
+        m_list.CListCtrl::SetItemText(1, 1, L"");
     }
 
     UINT m_alignment = DT_LEFT;
@@ -112,11 +112,11 @@ TEST_F(ListCellPainters, PaintEveryKindAsTheListDoes)
         for (bool const enabled : {true, false})
         {
             Reset();
-            each.make(list);
-            list.SetEnabled(1, 1, enabled);
+            each.make(m_list);
+            m_list.SetEnabled(1, 1, enabled);
             // What a trough leaves free, the list fills during a whole paint alone.
-            canvas.Fill(untouched);
-            cell_painters::FillMargin(canvas.Dc(), Cell(1, 1), ::GetSysColor(COLOR_WINDOW));
+            m_canvas.Fill(untouched);
+            cell_painters::FillMargin(m_canvas.Dc(), Cell(1, 1), ::GetSysColor(COLOR_WINDOW));
             PaintOver(1, 1);
             auto const shown = Copy(Cell(1, 1));
             EXPECT_TRUE(AreEqual(*PaintedAlone(), *shown)) << each.name << (enabled ? "" : ", disabled");
@@ -127,13 +127,13 @@ TEST_F(ListCellPainters, PaintEveryKindAsTheListDoes)
 
 TEST_F(ListCellPainters, FollowTheAlignmentOfTheColumn)
 {
-    list.SetItemText(1, 1, L"w", ink, paper);
+    m_list.SetItemText(1, 1, L"w", ink, paper);
     LVCOLUMNW column{};
     column.mask = LVCF_FMT;
     for (auto const & [format, alignment] : {std::pair{LVCFMT_RIGHT, DT_RIGHT}, std::pair{LVCFMT_CENTER, DT_CENTER}})
     {
         column.fmt = format;
-        list.SetColumn(1, &column);
+        m_list.SetColumn(1, &column);
         m_alignment = static_cast<UINT>(alignment);
         EXPECT_TRUE(AreEqual(*PaintedAlone(), *PaintedByTheList()));
     }
@@ -143,7 +143,7 @@ TEST_F(ListCellPainters, FollowTheAlignmentOfTheColumn)
 
 TEST_F(ListCellPainters, LeaveACellWithAPainterOfItsOwnToTheControl)
 {
-    list.SetCustomDraw(1, 1, [](int, int, CDC *, CRect const &) {});
+    m_list.SetCustomDraw(1, 1, [](int, int, CDC *, CRect const &) {});
     auto const picture = PaintedAlone();
     EXPECT_FALSE(m_painted);
     EXPECT_TRUE(picture->BoundsOfOther(untouched).IsRectEmpty());

@@ -95,7 +95,7 @@ TEST_F(ListHeader, InsertsAndDeletesNatively)
 TEST_F(ListHeader, LaysOutNativelyWithoutWidening)
 {
     CHeaderCtrl native;
-    ASSERT_TRUE(native.Create(WS_CHILD | HDS_HORZ, CRect(0, 0, 50, header_height), m_parent, 9));
+    ASSERT_TRUE(native.Create(WS_CHILD | HDS_HORZ, CRect(0, 0, 50, header_height), m_host, 9));
     auto const layout = [](CHeaderCtrl & header) {
         CRect rect(3, 4, 150, 90);
         WINDOWPOS position = {};
@@ -169,7 +169,7 @@ TEST_F(ListHeaderScreen, PaintsItselfOnTheScreen)
 {
     Add(60, XHC_MIXED);
     Add(60, XHC_SORT_ASCENDING);
-    ASSERT_TRUE(tests::BringToFront(m_parent.m_hWnd));
+    ASSERT_TRUE(tests::BringToFront(m_host.m_hWnd));
     ASSERT_TRUE(tests::MoveMouse({2, 2}));
     m_header.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
     tests::Canvas expected(header_width, header_height);

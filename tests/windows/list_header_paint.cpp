@@ -234,7 +234,7 @@ TEST_F(ListHeaderPaint, TheHeadersFontIsUsed)
     CFont own;
     ASSERT_TRUE(own.CreatePointFont(90, L"Tahoma"));
     FontHeader header;
-    ASSERT_TRUE(header.Create(WS_CHILD | HDS_HORZ, CRect(0, 0, 100, header_height), m_parent, 4));
+    ASSERT_TRUE(header.Create(WS_CHILD | HDS_HORZ, CRect(0, 0, 100, header_height), m_host, 4));
     header.SetFont(&own);
     HDITEM item = {};
     item.mask = HDI_WIDTH;

@@ -419,7 +419,7 @@ class DeletedList : public testing::Test
 protected:
     void SetUp() override
     {
-        ASSERT_TRUE(m_list->Create(tests::TestList::default_style, CRect(0, 0, 360, 200), &m_parent, 7));
+        ASSERT_TRUE(m_list->Create(tests::TestList::default_style, CRect(0, 0, 360, 200), &m_host, 7));
         m_list->AddColumns(3);
         m_list->AddRows(4);
         m_list->UpdateWindow();
@@ -441,7 +441,7 @@ protected:
     }
 
     tests::GuardedHeap m_heap; // ends the program at a use of the deleted list
-    tests::ListParent m_parent;
+    tests::ListParent m_host;
     std::unique_ptr<tests::GuardedList> m_list = std::make_unique<tests::GuardedList>();
 };
 

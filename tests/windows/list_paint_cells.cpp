@@ -15,15 +15,15 @@ protected:
     static constexpr COLORREF paper = RGB(240, 250, 230);
 
     /// Gives the cell a text in a colour that nothing else has.
-    void Write(int row, int col, wchar_t const * text) { list.SetItemText(row, col, text, ink, paper); }
-    void SetWidth(int col, int width) { list.CListCtrl::SetColumnWidth(col, width); }
+    void Write(int row, int col, wchar_t const * text) { m_list.SetItemText(row, col, text, ink, paper); }
+    void SetWidth(int col, int width) { m_list.CListCtrl::SetColumnWidth(col, width); }
 
     Pixels PixelsOf(COLORREF colour, CRect const & rect) const
     {
         Pixels pixels;
         for (int y = rect.top; y < rect.bottom; ++y)
             for (int x = rect.left; x < rect.right; ++x)
-                if (canvas.Pixel(x, y) == colour)
+                if (m_canvas.Pixel(x, y) == colour)
                     pixels.insert({x - rect.left, y - rect.top});
         return pixels;
     }
@@ -46,37 +46,37 @@ TEST_F(ListPaintCells, StagesBeforeTheCellsAskForTheCells)
 {
     LRESULT result = -1;
     NMLVCUSTOMDRAW draw = Notification(CDDS_PREPAINT, 0, 0);
-    list.OnCustomDraw(&draw.nmcd.hdr, &result);
+    m_list.OnCustomDraw(&draw.nmcd.hdr, &result);
     EXPECT_EQ(result, CDRF_NOTIFYSUBITEMDRAW);
     draw = Notification(CDDS_ITEMPREPAINT, 0, 0);
-    list.OnCustomDraw(&draw.nmcd.hdr, &result);
+    m_list.OnCustomDraw(&draw.nmcd.hdr, &result);
     EXPECT_EQ(result, CDRF_NOTIFYSUBITEMDRAW);
     draw = Notification(CDDS_ITEMPOSTPAINT, 0, 0);
-    list.OnCustomDraw(&draw.nmcd.hdr, &result);
+    m_list.OnCustomDraw(&draw.nmcd.hdr, &result);
     EXPECT_EQ(result, CDRF_DODEFAULT);
     EXPECT_EQ(Paint(0, 1), CDRF_SKIPDEFAULT);
 }
 
 TEST_F(ListPaintCells, ARowWithoutCellsIsDrawnByTheNativeList)
 {
-    int const row = list.InsertForeignItem(0, L"x");
+    int const row = m_list.InsertForeignItem(0, L"x");
     EXPECT_EQ(Paint(row, 0), CDRF_DODEFAULT);
-    EXPECT_TRUE(canvas.BoundsOfOther(untouched).IsRectEmpty());
+    EXPECT_TRUE(m_canvas.BoundsOfOther(untouched).IsRectEmpty());
 }
 
 TEST_F(ListPaintCells, AColumnBeyondTheRowsCellsIsDrawnByTheNativeList)
 {
-    list.AddColumns(6);
+    m_list.AddColumns(6);
     EXPECT_EQ(Paint(0, 8), CDRF_DODEFAULT);
-    EXPECT_TRUE(canvas.BoundsOfOther(untouched).IsRectEmpty());
+    EXPECT_TRUE(m_canvas.BoundsOfOther(untouched).IsRectEmpty());
 }
 
 TEST_F(ListPaintCells, TheColoursGoToTheNotification)
 {
-    list.SetItemColors(0, 1, ink, paper, XLISTCTRLDATA::no_gradient);
+    m_list.SetItemColors(0, 1, ink, paper, XLISTCTRLDATA::no_gradient);
     NMLVCUSTOMDRAW draw = Notification(CDDS_ITEMPREPAINT | CDDS_SUBITEM, 0, 1);
     LRESULT result = 0;
-    list.OnCustomDraw(&draw.nmcd.hdr, &result);
+    m_list.OnCustomDraw(&draw.nmcd.hdr, &result);
     EXPECT_EQ(draw.clrText, ink);
     EXPECT_EQ(draw.clrTextBk, paper);
 }
@@ -86,7 +86,7 @@ TEST_F(ListPaintCells, ATextCellIsFilledWhollyAndPadded)
     Write(0, 1, L"XXXXXXXXXXXXXXXXXXXXXX");
     Paint(0, 1);
     CRect const cell = Cell(0, 1);
-    EXPECT_EQ(canvas.BoundsOfOther(untouched), cell);
+    EXPECT_EQ(m_canvas.BoundsOfOther(untouched), cell);
     EXPECT_EQ(Count(untouched, cell), 0);
     CRect const text = Bounds(ink, cell);
     EXPECT_GE(text.left, padding);
@@ -97,9 +97,9 @@ TEST_F(ListPaintCells, ATextCellIsFilledWhollyAndPadded)
 TEST_F(ListPaintCells, PaddingThatLeavesNoRoomShowsNoText)
 {
     Write(0, 1, L"XXXXXXXXXXXX");
-    list.SetCellPadding(200);
+    m_list.SetCellPadding(200);
     Paint(0, 1);
-    EXPECT_EQ(canvas.Count(ink), 0);
+    EXPECT_EQ(m_canvas.Count(ink), 0);
     EXPECT_TRUE(OnlyWithin(Cell(0, 1)));
 }
 
@@ -107,9 +107,9 @@ TEST_F(ListPaintCells, TheDrawOperationLeavesTheCallersRectangleAlone)
 {
     Write(0, 1, L"X");
     CRect rect = Cell(0, 1);
-    list.DrawTextW(0, 1, &canvas.Dc(), ink, paper, rect, list.GetRowData(0));
+    m_list.DrawTextW(0, 1, &m_canvas.Dc(), ink, paper, rect, m_list.GetRowData(0));
     EXPECT_EQ(rect, Cell(0, 1));
-    EXPECT_GT(canvas.Count(ink), 0);
+    EXPECT_GT(m_canvas.Count(ink), 0);
 }
 
 TEST_F(ListPaintCells, TextFollowsTheColumnsAlignment)
@@ -121,7 +121,7 @@ TEST_F(ListPaintCells, TextFollowsTheColumnsAlignment)
     for (auto const & [col, format] : {std::pair(1, HDF_RIGHT), std::pair(2, HDF_CENTER)})
     {
         item.fmt = format | HDF_STRING;
-        ::SendMessageW(list.Header(), HDM_SETITEMW, static_cast<WPARAM>(col), reinterpret_cast<LPARAM>(&item));
+        ::SendMessageW(m_list.Header(), HDM_SETITEMW, static_cast<WPARAM>(col), reinterpret_cast<LPARAM>(&item));
     }
     Paint(0, 0);
     EXPECT_LE(Bounds(ink, Cell(0, 0)).left, padding + 2);
@@ -137,7 +137,7 @@ TEST_F(ListPaintCells, TooLongATextEndsInAnEllipsisIfThatIsOn)
 {
     Write(0, 1, L"XXXXXXXXXXXXXXXXXXXXXX");
     auto const withEllipsis = Painted(0, 1);
-    EXPECT_TRUE(list.SetEllipsis(false));
+    EXPECT_TRUE(m_list.SetEllipsis(false));
     auto const without = Painted(0, 1);
     EXPECT_FALSE(tests::SamePixels(*withEllipsis, *without));
     // The dots stand at the bottom of the line only.
@@ -145,7 +145,7 @@ TEST_F(ListPaintCells, TooLongATextEndsInAnEllipsisIfThatIsOn)
 
     Write(0, 1, L"X");
     auto const shortText = Painted(0, 1);
-    list.SetEllipsis(true);
+    m_list.SetEllipsis(true);
     EXPECT_TRUE(tests::SamePixels(*Painted(0, 1), *shortText));
 }
 
@@ -156,15 +156,15 @@ TEST_F(ListPaintCells, BoldAndUnderlineShow)
     Paint(0, 1);
     int const plainInk = Count(ink, cell);
     CRect const plain = Bounds(ink, cell);
-    list.SetBold(0, 1, true);
+    m_list.SetBold(0, 1, true);
     Paint(0, 1);
     EXPECT_GT(Count(ink, cell), plainInk);
-    list.SetBold(0, 1, false);
-    list.SetItemProperty(0, 1, XLP_UNDERLINE, true);
+    m_list.SetBold(0, 1, false);
+    m_list.SetItemProperty(0, 1, XLP_UNDERLINE, true);
     Paint(0, 1);
     EXPECT_GT(Bounds(ink, cell).bottom, plain.bottom);
     // The font of the device context is as before.
-    list.SetItemProperty(0, 1, XLP_UNDERLINE, false);
+    m_list.SetItemProperty(0, 1, XLP_UNDERLINE, false);
     Paint(0, 1);
     EXPECT_EQ(Count(ink, cell), plainInk);
 }
@@ -176,24 +176,24 @@ TEST_F(ListPaintCells, ATextOfAnyLengthIsDrawn)
     HDITEMW item = {};
     item.mask = HDI_FORMAT;
     item.fmt = HDF_RIGHT | HDF_STRING;
-    ::SendMessageW(list.Header(), HDM_SETITEMW, 1, reinterpret_cast<LPARAM>(&item));
-    list.SetEllipsis(false);
+    ::SendMessageW(m_list.Header(), HDM_SETITEMW, 1, reinterpret_cast<LPARAM>(&item));
+    m_list.SetEllipsis(false);
     Write(0, 1, text);
     Paint(0, 1);
-    EXPECT_GT(canvas.Count(ink), 0);
+    EXPECT_GT(m_canvas.Count(ink), 0);
     EXPECT_TRUE(OnlyWithin(Cell(0, 1)));
 }
 
 TEST_F(ListPaintCells, AnAmpersandIsAnAmpersandInTextAndAMnemonicBesideABox)
 {
-    list.AddColumns(1, 100);
+    m_list.AddColumns(1, 100);
     Write(0, 1, L"&X");
     auto const text = Painted(0, 1);
     Write(0, 1, L"X");
     EXPECT_LT(Painted(0, 1)->Count(ink), text->Count(ink));
     CRect const plain = Bounds(ink, Cell(0, 1));
 
-    list.SetCheckbox(0, 1, XLC_UNCHECKED);
+    m_list.SetCheckbox(0, 1, XLC_UNCHECKED);
     Write(0, 1, L"&X");
     Paint(0, 1);
     CRect const mnemonic = Bounds(ink, Cell(0, 1));
@@ -203,9 +203,9 @@ TEST_F(ListPaintCells, AnAmpersandIsAnAmpersandInTextAndAMnemonicBesideABox)
 
 TEST_F(ListPaintCells, TheBoxStandsNinePixelsInAndTheTextFourBehind)
 {
-    list.SetCheckbox(0, 1, XLC_UNCHECKED);
+    m_list.SetCheckbox(0, 1, XLC_UNCHECKED);
     Write(0, 1, L"XXXXXXXXX");
-    list.SetCellPadding(20);
+    m_list.SetCellPadding(20);
     Paint(0, 1);
     CRect const cell = Cell(0, 1);
     EXPECT_EQ(Bounds(check_frame, cell), CRect(CPoint(9, (row_height - box_size) / 2), CSize(box_size, box_size)));
@@ -217,7 +217,7 @@ TEST_F(ListPaintCells, TheBoxStandsNinePixelsInAndTheTextFourBehind)
 
 TEST_F(ListPaintCells, TheBoxIsCentredWithoutText)
 {
-    list.SetCheckbox(0, 1, XLC_UNCHECKED);
+    m_list.SetCheckbox(0, 1, XLC_UNCHECKED);
     CRect const cell = Cell(0, 1);
     Paint(0, 1);
     CRect box = CentredBox(cell);
@@ -228,8 +228,8 @@ TEST_F(ListPaintCells, TheBoxIsCentredWithoutText)
 
 TEST_F(ListPaintCells, TheFrameIsOnePixelWideAndTheInteriorIsTheCells)
 {
-    list.SetCheckbox(0, 1, XLC_UNCHECKED);
-    list.SetItemColors(0, 1, ink, paper, XLISTCTRLDATA::no_gradient);
+    m_list.SetCheckbox(0, 1, XLC_UNCHECKED);
+    m_list.SetItemColors(0, 1, ink, paper, XLISTCTRLDATA::no_gradient);
     Paint(0, 1);
     CRect box = CentredBox(Cell(0, 1));
     EXPECT_EQ(Count(check_frame, box), 4 * (box_size - 1));
@@ -243,7 +243,7 @@ TEST_F(ListPaintCells, TheTickIsSevenLinesOfThreePixels)
         {9, 3}, {9, 4}, {9, 5}, {8, 4}, {8, 5}, {8, 6}, {7, 5}, {7, 6}, {7, 7}, {6, 6}, {6, 7},
         {6, 8}, {5, 7}, {5, 8}, {5, 9}, {4, 6}, {4, 7}, {4, 8}, {3, 5}, {3, 6}, {3, 7},
     };
-    list.SetCheckbox(0, 1, XLC_CHECKED);
+    m_list.SetCheckbox(0, 1, XLC_CHECKED);
     Paint(0, 1);
     EXPECT_EQ(PixelsOf(check_mark, CentredBox(Cell(0, 1))), expected);
 }
@@ -256,16 +256,16 @@ TEST_F(ListPaintCells, TheCrossIsFourDiagonals)
         for (int x : {3 + i, 4 + i, 9 - i, 10 - i})
             expected.insert({x, 3 + i});
     }
-    list.SetCheckbox(0, 1, XLC_CROSSED);
+    m_list.SetCheckbox(0, 1, XLC_CROSSED);
     Paint(0, 1);
     EXPECT_EQ(PixelsOf(cross_mark, CentredBox(Cell(0, 1))), expected);
 }
 
 TEST_F(ListPaintCells, AnUnknownCheckStateHasTextButNoBox)
 {
-    list.SetCheckbox(0, 1, XLC_CHECKED);
+    m_list.SetCheckbox(0, 1, XLC_CHECKED);
     Write(0, 1, L"XX");
-    list.SetItemCheckedState(0, 1, 5);
+    m_list.SetItemCheckedState(0, 1, 5);
     Paint(0, 1);
     CRect const cell = Cell(0, 1);
     EXPECT_EQ(Count(check_frame, cell), 0);
@@ -276,27 +276,27 @@ TEST_F(ListPaintCells, AnUnknownCheckStateHasTextButNoBox)
 
 TEST_F(ListPaintCells, ACheckCellShowsNoImage)
 {
-    list.SetCheckbox(0, 1, XLC_CHECKED);
+    m_list.SetCheckbox(0, 1, XLC_CHECKED);
     auto const without = Painted(0, 1);
-    list.SetItemImage(0, 1, 0);
+    m_list.SetItemImage(0, 1, 0);
     EXPECT_TRUE(tests::SamePixels(*Painted(0, 1), *without));
 }
 
 TEST_F(ListPaintCells, ARadioButtonOnIsALitBallAndOffIsWhite)
 {
-    list.SetRadioButton(0, 1, XLC_RADIO_OFF);
+    m_list.SetRadioButton(0, 1, XLC_RADIO_OFF);
     Data(0, 1).backgroundColor = paper;
     CRect const cell = Cell(0, 1);
     CRect const box = CentredBox(cell);
     CPoint const middle = box.CenterPoint();
     Paint(0, 1);
-    EXPECT_EQ(canvas.Pixel(middle.x, middle.y), RGB(255, 255, 255));
+    EXPECT_EQ(m_canvas.Pixel(middle.x, middle.y), RGB(255, 255, 255));
     EXPECT_GT(Count(check_frame, box), 0);
 
-    list.SetRadioButton(0, 1, XLC_RADIO_ON);
+    m_list.SetRadioButton(0, 1, XLC_RADIO_ON);
     Paint(0, 1);
-    COLORREF const lit = canvas.Pixel(box.left + 1 + 3, box.top + 1 + 3);
-    COLORREF const dark = canvas.Pixel(box.left + 10, box.top + 9);
+    COLORREF const lit = m_canvas.Pixel(box.left + 1 + 3, box.top + 1 + 3);
+    COLORREF const dark = m_canvas.Pixel(box.left + 10, box.top + 9);
     EXPECT_GT(GetGValue(lit), 230);
     EXPECT_LT(GetGValue(dark), GetGValue(lit) - 30);
     EXPECT_GT(GetGValue(dark), 140);
@@ -304,7 +304,7 @@ TEST_F(ListPaintCells, ARadioButtonOnIsALitBallAndOffIsWhite)
     // Nothing but the background outside of the box without its outermost pixels.
     CRect ring = box;
     ring.DeflateRect(1, 1);
-    CRect painted = canvas.BoundsOf([](COLORREF pixel) { return pixel != paper && pixel != untouched; });
+    CRect painted = m_canvas.BoundsOf([](COLORREF pixel) { return pixel != paper && pixel != untouched; });
     CRect both;
     both.UnionRect(painted, ring);
     EXPECT_GE(both.left, box.left);
@@ -315,7 +315,7 @@ TEST_F(ListPaintCells, ARadioButtonOnIsALitBallAndOffIsWhite)
 
 TEST_F(ListPaintCells, AnImageStandsTheSpacingInAndItsTextRightBehind)
 {
-    list.SetItemImage(0, 1, 0);
+    m_list.SetItemImage(0, 1, 0);
     Write(0, 1, L"XXXXXXXXX");
     Paint(0, 1);
     CRect const cell = Cell(0, 1);
@@ -328,7 +328,7 @@ TEST_F(ListPaintCells, AnImageStandsTheSpacingInAndItsTextRightBehind)
 
 TEST_F(ListPaintCells, AnImageIsCutToANarrowCell)
 {
-    list.SetItemImage(0, 1, 0);
+    m_list.SetItemImage(0, 1, 0);
     SetWidth(1, 15);
     Paint(0, 1);
     CRect const cell = Cell(0, 1);
@@ -338,15 +338,15 @@ TEST_F(ListPaintCells, AnImageIsCutToANarrowCell)
 
     SetWidth(1, spacing);
     Paint(0, 1);
-    EXPECT_EQ(canvas.Count(pure_red), 0);
+    EXPECT_EQ(m_canvas.Count(pure_red), 0);
     EXPECT_TRUE(OnlyWithin(Cell(0, 1)));
 }
 
 TEST_F(ListPaintCells, TheWidthOfAnImageIsThatAndTheSpacing)
 {
     CRect const cell = Cell(0, 1);
-    XLISTCTRLDATA * const cells = list.GetRowData(0);
-    auto const width = [&] { return list.DrawImage(0, 1, &canvas.Dc(), ink, paper, cell, cells); };
+    XLISTCTRLDATA * const cells = m_list.GetRowData(0);
+    auto const width = [&] { return m_list.DrawImage(0, 1, &m_canvas.Dc(), ink, paper, cell, cells); };
     EXPECT_EQ(width(), 0);
     cells[1].imageIndex = 1;
     EXPECT_EQ(width(), image_width + spacing);
@@ -354,15 +354,15 @@ TEST_F(ListPaintCells, TheWidthOfAnImageIsThatAndTheSpacing)
     cells[1].imageIndex = 99;
     EXPECT_EQ(width(), spacing);
     EXPECT_EQ(Count(pure_green, cell), 0);
-    list.SetImageList(nullptr, LVSIL_SMALL);
+    m_list.SetImageList(nullptr, LVSIL_SMALL);
     EXPECT_EQ(width(), 0);
 }
 
 TEST_F(ListPaintCells, AnImageListKeepsItsBackgroundColour)
 {
-    CImageList * const images = list.GetImageList(LVSIL_SMALL);
+    CImageList * const images = m_list.GetImageList(LVSIL_SMALL);
     images->SetBkColor(ink);
-    list.SetItemImage(0, 1, 0);
+    m_list.SetItemImage(0, 1, 0);
     Paint(0, 1);
     EXPECT_EQ(images->GetBkColor(), ink);
     images->SetBkColor(CLR_NONE);
@@ -370,11 +370,11 @@ TEST_F(ListPaintCells, AnImageListKeepsItsBackgroundColour)
 
 TEST_F(ListPaintCells, AComboHasAnArrowAtItsRight)
 {
-    list.SetComboBox(0, 1, std::map<int, wchar_t const *>{{1, L""}}, 1, 1);
+    m_list.SetComboBox(0, 1, std::map<int, wchar_t const *>{{1, L""}}, 1, 1);
     Data(0, 1).backgroundColor = paper;
     Paint(0, 1);
     CRect const cell = Cell(0, 1);
-    CRect arrow = canvas.BoundsOf([](COLORREF pixel) { return pixel != paper && pixel != untouched; });
+    CRect arrow = m_canvas.BoundsOf([](COLORREF pixel) { return pixel != paper && pixel != untouched; });
     arrow.OffsetRect(-cell.TopLeft());
     // Its box begins 5 pixels of padding and 13 of its own left of the edge, and 4 below the top.
     EXPECT_NEAR(arrow.left, column_width - 18 + 3, 1);
@@ -383,13 +383,13 @@ TEST_F(ListPaintCells, AComboHasAnArrowAtItsRight)
     EXPECT_NEAR(arrow.bottom, 4 + 3 + 7, 1);
     // Darker towards its tip.
     int const x = static_cast<int>(cell.left) + column_width - 18 + 3 + 4;
-    EXPECT_GT(GetRValue(canvas.Pixel(x, cell.top + 4 + 3 + 2)), GetRValue(canvas.Pixel(x, cell.top + 4 + 3 + 5)));
+    EXPECT_GT(GetRValue(m_canvas.Pixel(x, cell.top + 4 + 3 + 2)), GetRValue(m_canvas.Pixel(x, cell.top + 4 + 3 + 5)));
 }
 
 TEST_F(ListPaintCells, TheTextOfAComboEndsBeforeTheArrowAndADisabledOneHasNeitherArrowNorPadding)
 {
-    list.SetEllipsis(false);
-    list.SetComboBox(0, 1, std::map<int, wchar_t const *>{{1, L"XXXXXXXXXXXXXXXX"}}, 1, 1);
+    m_list.SetEllipsis(false);
+    m_list.SetComboBox(0, 1, std::map<int, wchar_t const *>{{1, L"XXXXXXXXXXXXXXXX"}}, 1, 1);
     Data(0, 1).textColor = ink;
     CRect const cell = Cell(0, 1);
     Paint(0, 1);
@@ -399,37 +399,37 @@ TEST_F(ListPaintCells, TheTextOfAComboEndsBeforeTheArrowAndADisabledOneHasNeithe
     EXPECT_LE(text.right, column_width - padding - 13);
     EXPECT_GE(text.right, column_width - padding - 13 - 3);
 
-    list.SetEnabled(0, 1, false);
+    m_list.SetEnabled(0, 1, false);
     Paint(0, 1);
     text = Bounds(::GetSysColor(COLOR_GRAYTEXT), cell);
     EXPECT_LT(text.left, padding - 1);
     EXPECT_GE(text.right, column_width - 2);
-    EXPECT_EQ(canvas.BoundsOf([](COLORREF pixel) { return GetGValue(pixel) > GetRValue(pixel) + 20; }),
+    EXPECT_EQ(m_canvas.BoundsOf([](COLORREF pixel) { return GetGValue(pixel) > GetRValue(pixel) + 20; }),
               CRect(0, 0, 0, 0));
 }
 
 TEST_F(ListPaintCells, ACombosTextIsNeitherBoldNorUnderlined)
 {
-    list.SetComboBox(0, 1, std::map<int, wchar_t const *>{{1, L"Xx"}}, 1, 1);
+    m_list.SetComboBox(0, 1, std::map<int, wchar_t const *>{{1, L"Xx"}}, 1, 1);
     auto const plain = Painted(0, 1);
-    list.SetItemProperty(0, 1, XLP_BOLD | XLP_UNDERLINE, true);
+    m_list.SetItemProperty(0, 1, XLP_BOLD | XLP_UNDERLINE, true);
     EXPECT_TRUE(tests::SamePixels(*Painted(0, 1), *plain));
 }
 
 TEST_F(ListPaintCells, AWashFadesOutToTheRight)
 {
     COLORREF const wash = RGB(10, 60, 200);
-    list.SetItemColors(0, 1, 0, RGB(255, 255, 255), wash);
+    m_list.SetItemColors(0, 1, 0, RGB(255, 255, 255), wash);
     Paint(0, 1);
     CRect const cell = Cell(0, 1);
-    CRect const painted = canvas.BoundsOf([](COLORREF pixel) { return pixel != 0xFFFFFF && pixel != untouched; });
+    CRect const painted = m_canvas.BoundsOf([](COLORREF pixel) { return pixel != 0xFFFFFF && pixel != untouched; });
     EXPECT_EQ(painted, CRect(cell.left + 1, cell.top + 2, cell.right - 1, cell.bottom - 2));
     int const y = cell.CenterPoint().y;
-    EXPECT_NEAR(GetRValue(canvas.Pixel(cell.left + 1, y)), 10, 2);
+    EXPECT_NEAR(GetRValue(m_canvas.Pixel(cell.left + 1, y)), 10, 2);
     int former = 0;
     for (int x = cell.left + 1; x < cell.right - 1; ++x)
     {
-        int const red = GetRValue(canvas.Pixel(x, y));
+        int const red = GetRValue(m_canvas.Pixel(x, y));
         EXPECT_GE(red, former) << x;
         former = red;
     }
@@ -437,7 +437,7 @@ TEST_F(ListPaintCells, AWashFadesOutToTheRight)
     EXPECT_LT(former, 255);
     // At 0.3 of 1.05 widths the colour still covers 240 of 255 parts.
     int const bend = cell.left + 1 + static_cast<int>(0.3 * 1.05 * (column_width - 2));
-    EXPECT_NEAR(GetRValue(canvas.Pixel(bend, y)), 10 + 245 * 15 / 255, 5);
+    EXPECT_NEAR(GetRValue(m_canvas.Pixel(bend, y)), 10 + 245 * 15 / 255, 5);
 }
 
 TEST_F(ListPaintCells, ACustomCellIsPaintedByItsOwnAlone)
@@ -445,7 +445,7 @@ TEST_F(ListPaintCells, ACustomCellIsPaintedByItsOwnAlone)
     CRect seen;
     int row = -1;
     int col = -1;
-    list.SetCustomDraw(2, 1, [&](int atRow, int atCol, CDC * dc, CRect const & rect) {
+    m_list.SetCustomDraw(2, 1, [&](int atRow, int atCol, CDC * dc, CRect const & rect) {
         row = atRow;
         col = atCol;
         seen = rect;
@@ -455,21 +455,21 @@ TEST_F(ListPaintCells, ACustomCellIsPaintedByItsOwnAlone)
     EXPECT_EQ(row, 2);
     EXPECT_EQ(col, 1);
     EXPECT_EQ(seen, Cell(2, 1));
-    EXPECT_EQ(canvas.BoundsOfOther(untouched), CRect(CPoint(seen.left + 1, seen.top + 1), CSize(1, 1)));
+    EXPECT_EQ(m_canvas.BoundsOfOther(untouched), CRect(CPoint(seen.left + 1, seen.top + 1), CSize(1, 1)));
 }
 
 TEST_F(ListPaintCells, AnEmptyPainterIsABadFunctionCall)
 {
-    list.SetCustomDraw(0, 1, {});
+    m_list.SetCustomDraw(0, 1, {});
     EXPECT_THROW(Paint(0, 1), std::bad_function_call);
-    list.RemoveCustomDraw(0, 1);
+    m_list.RemoveCustomDraw(0, 1);
     EXPECT_EQ(Paint(0, 1), CDRF_SKIPDEFAULT);
 }
 
 TEST_F(ListPaintCells, KindsAreTriedInOrder)
 {
     // A progress cell with a check state, a combo's bit and a painter is a bar.
-    list.SetProgress(0, 1, false, nullptr);
+    m_list.SetProgress(0, 1, false, nullptr);
     auto const bar = Painted(0, 1);
     XLISTCTRLDATA & cell = Data(0, 1);
     cell.checkedState = XLC_CHECKED;
@@ -490,35 +490,35 @@ TEST_F(ListPaintCells, KindsAreTriedInOrder)
 
 TEST_F(ListPaintCells, NothingIsDrawnIntoNothing)
 {
-    list.SetItemImage(0, 1, 0);
-    XLISTCTRLDATA * const cells = list.GetRowData(0);
-    CDC * const dc = &canvas.Dc();
+    m_list.SetItemImage(0, 1, 0);
+    XLISTCTRLDATA * const cells = m_list.GetRowData(0);
+    CDC * const dc = &m_canvas.Dc();
     CRect const cell = Cell(0, 1);
     CRect const empty(cell.left, cell.top, cell.left, cell.bottom);
-    EXPECT_EQ(list.DrawImage(0, 1, dc, 0, 0, empty, cells), 0);
+    EXPECT_EQ(m_list.DrawImage(0, 1, dc, 0, 0, empty, cells), 0);
     for (auto const draw :
          {&tests::TestList::DrawTextW, &tests::TestList::DrawCheckbox, &tests::TestList::DrawComboBox})
     {
         CRect rect = empty;
-        (list.*draw)(0, 1, dc, 0, 0, rect, cells);
+        (m_list.*draw)(0, 1, dc, 0, 0, rect, cells);
         rect = cell;
-        (list.*draw)(0, 1, nullptr, 0, 0, rect, cells);
-        (list.*draw)(0, 1, dc, 0, 0, rect, nullptr);
+        (m_list.*draw)(0, 1, nullptr, 0, 0, rect, cells);
+        (m_list.*draw)(0, 1, dc, 0, 0, rect, nullptr);
     }
     CRect rect = cell;
-    list.DrawProgress(0, 1, nullptr, 0, 0, rect, cells);
-    list.DrawProgress(0, 1, dc, 0, 0, rect, nullptr);
+    m_list.DrawProgress(0, 1, nullptr, 0, 0, rect, cells);
+    m_list.DrawProgress(0, 1, dc, 0, 0, rect, nullptr);
     for (int state = XLC_UNCHECKED; state <= XLC_RADIO_OFF; ++state)
         for (auto const draw : {&tests::TestList::DrawCheckboxBox, &tests::TestList::DrawRadioBox})
         {
             CRect box(cell.TopLeft(), CSize(box_size, box_size));
-            (list.*draw)(box, state, true, nullptr);
+            (m_list.*draw)(box, state, true, nullptr);
             CRect noWidth(cell.left, cell.top, cell.left, cell.top + box_size);
-            (list.*draw)(noWidth, state, true, dc);
+            (m_list.*draw)(noWidth, state, true, dc);
             CRect noHeight(cell.left, cell.top, cell.left + box_size, cell.top);
-            (list.*draw)(noHeight, state, false, dc);
+            (m_list.*draw)(noHeight, state, false, dc);
         }
-    EXPECT_TRUE(canvas.BoundsOfOther(untouched).IsRectEmpty());
+    EXPECT_TRUE(m_canvas.BoundsOfOther(untouched).IsRectEmpty());
 }
 
 TEST_F(ListPaintCells, ColumnZeroEndsWhereTheNextColumnBegins)
@@ -526,49 +526,51 @@ TEST_F(ListPaintCells, ColumnZeroEndsWhereTheNextColumnBegins)
     Write(0, 0, L"XXXXXXXXXXXXXXXXXXXXXX");
     Paint(0, 0);
     CRect const next = Cell(0, 1);
-    EXPECT_EQ(canvas.BoundsOfOther(untouched), CRect(0, next.top, next.left, next.bottom));
+    EXPECT_EQ(m_canvas.BoundsOfOther(untouched), CRect(0, next.top, next.left, next.bottom));
 }
 
 TEST_F(ListPaintCells, AMarkKeepsItsSizeAndPlaceInACellThatIsSmaller)
 {
     SetWidth(1, 5);
-    list.SetCheckbox(0, 1, XLC_CHECKED);
+    m_list.SetCheckbox(0, 1, XLC_CHECKED);
     CRect cell = Cell(0, 1);
-    list.SetItemText(0, 1, L"Text");
+    m_list.SetItemText(0, 1, L"Text");
     Paint(0, 1);
-    EXPECT_EQ(canvas.BoundsOf(check_frame), CRect(CPoint(cell.left + 9, cell.top + 3), CSize(box_size, box_size)));
-    EXPECT_EQ(canvas.Count(check_mark), 21);
-    list.SetItemText(0, 1, L"");
+    EXPECT_EQ(m_canvas.BoundsOf(check_frame), CRect(CPoint(cell.left + 9, cell.top + 3), CSize(box_size, box_size)));
+    EXPECT_EQ(m_canvas.Count(check_mark), 21);
+    m_list.SetItemText(0, 1, L"");
     Paint(0, 1);
-    EXPECT_EQ(canvas.BoundsOf(check_frame), CRect(CPoint(cell.left + 2 - 7, cell.top + 3), CSize(box_size, box_size)));
+    EXPECT_EQ(m_canvas.BoundsOf(check_frame),
+              CRect(CPoint(cell.left + 2 - 7, cell.top + 3), CSize(box_size, box_size)));
 
     CRect low(cell.left, cell.top, cell.left + 40, cell.top + 8);
-    canvas.Fill(untouched);
-    list.DrawCheckbox(0, 1, &canvas.Dc(), 0, 0xFFFFFF, low, list.GetRowData(0));
-    EXPECT_EQ(canvas.BoundsOf(check_frame), CRect(CPoint(cell.left + 20 - 7, cell.top), CSize(box_size, box_size)));
+    m_canvas.Fill(untouched);
+    m_list.DrawCheckbox(0, 1, &m_canvas.Dc(), 0, 0xFFFFFF, low, m_list.GetRowData(0));
+    EXPECT_EQ(m_canvas.BoundsOf(check_frame), CRect(CPoint(cell.left + 20 - 7, cell.top), CSize(box_size, box_size)));
 }
 
 TEST_F(ListPaintCells, AComboArrowKeepsItsPlaceInACellThatIsSmaller)
 {
-    list.SetComboBox(0, 1, std::map<int, wchar_t const *>{{1, L""}}, 1, 1);
+    m_list.SetComboBox(0, 1, std::map<int, wchar_t const *>{{1, L""}}, 1, 1);
     SetWidth(1, 5);
     CRect const cell = Cell(0, 1);
     Paint(0, 1);
     // The arrow starts 3 pixels into its box, which ends the padding ahead of the cell's right edge.
-    CRect const painted = canvas.BoundsOfOther(untouched);
+    CRect const painted = m_canvas.BoundsOfOther(untouched);
     EXPECT_LE(painted.left, cell.right - padding - box_size + 4);
     EXPECT_GE(painted.left, cell.right - padding - box_size + 2);
 }
 
 TEST_F(ListPaintCells, AnImageStandsInTheMiddleOfACellThatIsLower)
 {
-    list.SetItemImage(0, 1, 0);
+    m_list.SetItemImage(0, 1, 0);
     CRect const cell = Cell(0, 1);
-    canvas.Fill(untouched);
-    list.DrawImage(0, 1, &canvas.Dc(), 0, 0xFFFFFF, CRect(cell.left, cell.top + 10, cell.right, cell.top + 20),
-                   list.GetRowData(0));
-    EXPECT_EQ(canvas.BoundsOf(pure_red), CRect(cell.left + spacing, cell.top + 15 - (image_height >> 1),
-                                               cell.left + spacing + image_width, cell.top + 25 - (image_height >> 1)));
+    m_canvas.Fill(untouched);
+    m_list.DrawImage(0, 1, &m_canvas.Dc(), 0, 0xFFFFFF, CRect(cell.left, cell.top + 10, cell.right, cell.top + 20),
+                     m_list.GetRowData(0));
+    EXPECT_EQ(m_canvas.BoundsOf(pure_red),
+              CRect(cell.left + spacing, cell.top + 15 - (image_height >> 1), cell.left + spacing + image_width,
+                    cell.top + 25 - (image_height >> 1)));
 }
 
 TEST_F(ListPaintCells, TextsAndBarsStayInTheirCellHoweverNarrow)
@@ -581,15 +583,15 @@ TEST_F(ListPaintCells, TextsAndBarsStayInTheirCellHoweverNarrow)
         {
             Data(0, 1) = XLISTCTRLDATA();
             Data(0, 1).gradientColor = kind % 2 == 0 ? 0x804020 : XLISTCTRLDATA::no_gradient;
-            list.SetItemText(0, 1, L"Text");
+            m_list.SetItemText(0, 1, L"Text");
             switch (kind)
             {
             case 0:
-                list.SetProgress(0, 1, true, L"%d of 100");
-                list.UpdateProgress(0, 1, 40, 40);
+                m_list.SetProgress(0, 1, true, L"%d of 100");
+                m_list.UpdateProgress(0, 1, 40, 40);
                 break;
             default:
-                list.SetBold(0, 1, true);
+                m_list.SetBold(0, 1, true);
                 break;
             }
             Paint(0, 1);

@@ -63,7 +63,7 @@ protected:
     void SetUp() override
     {
         ASSERT_TRUE(m_list.Create(tests::TestList::default_style | WS_CLIPCHILDREN,
-                                  CRect(0, 0, list_width, list_height), &m_parent, tests::TestList::id));
+                                  CRect(0, 0, list_width, list_height), &m_host, tests::TestList::id));
         m_list.SetFullRowSelect();
     }
     void TearDown() override { m_list.DestroyWindow(); }
@@ -235,7 +235,7 @@ protected:
         }
     }
 
-    tests::ListParent m_parent{CRect(50, 50, 600, 400)};
+    tests::ListParent m_host{CRect(50, 50, 600, 400)};
     FittingList m_list;
     std::mt19937 m_random{7};
 };
@@ -276,7 +276,7 @@ TEST_F(ListPaintChanges, InAListThatFitsItsColumnsToItsSize)
 TEST_F(ListPaintChanges, ByDraggingDividers)
 {
     Fill(13);
-    ASSERT_TRUE(tests::BringToFront(m_parent));
+    ASSERT_TRUE(tests::BringToFront(m_host));
     for (int const by : {40, -50, 120, -30, -70, 15, 60, -25})
         DragDivider(by % 3 == 0 ? 1 : 0, by);
     m_list.fits = true;
@@ -287,7 +287,7 @@ TEST_F(ListPaintChanges, ByDraggingDividers)
 TEST_F(ListPaintChanges, ByADoubleClickOnADivider)
 {
     Fill(13);
-    ASSERT_TRUE(tests::BringToFront(m_parent));
+    ASSERT_TRUE(tests::BringToFront(m_host));
     for (int col = 0; col < 3; ++col)
     {
         CRect item;

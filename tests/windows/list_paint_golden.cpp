@@ -70,15 +70,15 @@ TEST_P(ListPaintGolden, LooksAsKept)
     tests::Canvas sheet(margin + column_width + right_margin, rows * stripHeight);
     for (int row = 0; row < rows; ++row)
     {
-        GetParam().make(list, row, column);
+        GetParam().make(m_list, row, column);
         CRect part = Cell(row, column);
         part.InflateRect(margin, margin, right_margin, margin);
         if (row == 1)
             Select(row, true);
         if (row == 2)
-            list.SetEnabled(row, column, false);
+            m_list.SetEnabled(row, column, false);
         ASSERT_EQ(Paint(row, column), CDRF_SKIPDEFAULT);
-        ::BitBlt(sheet.Dc().GetSafeHdc(), 0, row * stripHeight, part.Width(), part.Height(), canvas.Dc().GetSafeHdc(),
+        ::BitBlt(sheet.Dc().GetSafeHdc(), 0, row * stripHeight, part.Width(), part.Height(), m_canvas.Dc().GetSafeHdc(),
                  part.left, part.top, SRCCOPY);
     }
     tests::ExpectGolden(sheet, ("list_" + std::string(GetParam().name)).c_str());

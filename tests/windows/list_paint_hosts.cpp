@@ -70,7 +70,7 @@ protected:
     void Open(wchar_t const * className = WC_LISTVIEWW)
     {
         HWND const window = ::CreateWindowExW(0, className, nullptr, tests::TestList::default_style, 0, 0, 360, 200,
-                                              m_parent, reinterpret_cast<HMENU>(7), nullptr, nullptr);
+                                              m_host, reinterpret_cast<HMENU>(7), nullptr, nullptr);
         ASSERT_TRUE(m_list->SubclassWindow(window));
         m_list->AddColumns(columns);
         m_list->AddRows(rows);
@@ -111,7 +111,7 @@ protected:
     }
 
     tests::GuardedHeap m_heap; // whose end of the program on a fault is what counts
-    tests::ListParent m_parent;
+    tests::ListParent m_host;
     std::unique_ptr<tests::GuardedList> m_list = std::make_unique<tests::GuardedList>();
     bool m_ran = false;
     std::pair<int, int> m_seen{-1, -1};
@@ -193,7 +193,7 @@ TEST_F(ListPaintHosts, APainterMayPaintTheListAgain)
 TEST_F(ListPaintHosts, TheParentMayDeleteTheListWhenItIsToldOfACell)
 {
     OpenWithOneCell();
-    m_parent.onNotify = [this](NMHDR const & header) {
+    m_host.onNotify = [this](NMHDR const & header) {
         auto const & draw = reinterpret_cast<NMLVCUSTOMDRAW const &>(header);
         if (header.code != static_cast<UINT>(NM_CUSTOMDRAW) || m_list == nullptr || header.hwndFrom != m_list->m_hWnd ||
             draw.nmcd.dwDrawStage != (CDDS_ITEMPREPAINT | CDDS_SUBITEM))
@@ -210,7 +210,7 @@ TEST_F(ListPaintHosts, ACellIsPaintedWithWhatTheParentHasChangedJustBefore)
 {
     m_list->SetFocus();
     int const width = 33;
-    m_parent.onNotify = [this, width](NMHDR const & header) {
+    m_host.onNotify = [this, width](NMHDR const & header) {
         auto const & draw = reinterpret_cast<NMLVCUSTOMDRAW const &>(header);
         if (m_ran || header.code != static_cast<UINT>(NM_CUSTOMDRAW) || header.hwndFrom != m_list->m_hWnd ||
             draw.nmcd.dwDrawStage != (CDDS_ITEMPREPAINT | CDDS_SUBITEM) || draw.nmcd.dwItemSpec != 2 ||

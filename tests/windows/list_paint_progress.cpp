@@ -21,12 +21,12 @@ protected:
 
     void Make(bool text, wchar_t const * format)
     {
-        list.SetProgress(row, column, text, format);
-        list.SetItemColors(row, column, ink, bar_colour, XLISTCTRLDATA::no_gradient);
+        m_list.SetProgress(row, column, text, format);
+        m_list.SetItemColors(row, column, ink, bar_colour, XLISTCTRLDATA::no_gradient);
     }
     void Show(int value, int displayValue = 0)
     {
-        list.UpdateProgress(row, column, value, displayValue);
+        m_list.UpdateProgress(row, column, value, displayValue);
         Paint(row, column);
     }
     std::unique_ptr<tests::Canvas> Shown(int value, int displayValue = 0)
@@ -37,7 +37,7 @@ protected:
     COLORREF Pixel(int x, int y)
     {
         CRect const cell = Cell(row, column);
-        return canvas.Pixel(cell.left + x, cell.top + y);
+        return m_canvas.Pixel(cell.left + x, cell.top + y);
     }
 
     COLORREF m_frame = 0;
@@ -47,7 +47,7 @@ TEST_F(ListPaintProgress, TheTroughLeavesTheLeftColumnAndTheLowestRow)
 {
     Show(0);
     CRect const cell = Cell(row, column);
-    EXPECT_EQ(canvas.BoundsOfOther(untouched), CRect(cell.left + 1, cell.top, cell.right, cell.bottom - 1));
+    EXPECT_EQ(m_canvas.BoundsOfOther(untouched), CRect(cell.left + 1, cell.top, cell.right, cell.bottom - 1));
     EXPECT_EQ(Bounds(trough, cell), CRect(2, 1, column_width - 1, row_height - 2));
 }
 
@@ -92,16 +92,16 @@ TEST_F(ListPaintProgress, ABarAboveAHundredLeavesTheCell)
 {
     Show(150);
     CRect const cell = Cell(row, column);
-    CRect const bar = canvas.BoundsOf(bar_colour);
+    CRect const bar = m_canvas.BoundsOf(bar_colour);
     EXPECT_EQ(bar, CRect(cell.left + 2, cell.top + 1, cell.left + 2 + 87 - 1, cell.bottom - 2));
     EXPECT_GT(bar.right, cell.right);
-    EXPECT_EQ(canvas.Count(bar_colour), bar.Width() * bar.Height());
+    EXPECT_EQ(m_canvas.Count(bar_colour), bar.Width() * bar.Height());
 }
 
 TEST_F(ListPaintProgress, ABarOfAnyValueReachesToTheEdge)
 {
     Show(INT_MAX);
-    EXPECT_EQ(canvas.BoundsOf(bar_colour).right, canvas.Width());
+    EXPECT_EQ(m_canvas.BoundsOf(bar_colour).right, m_canvas.Width());
 }
 
 TEST_F(ListPaintProgress, TheTextChangesItsColourAtTheBarsEdge)
@@ -134,7 +134,7 @@ TEST_F(ListPaintProgress, NoColumnOfTheTextIsLostAtTheBarsEdge)
 TEST_F(ListPaintProgress, TheTextIsCentred)
 {
     Make(true, L"X");
-    list.UpdateProgress(row, column, 4, 0);
+    m_list.UpdateProgress(row, column, 4, 0);
     Show(4);
     EXPECT_NEAR(Bounds(ink, Cell(row, column)).CenterPoint().x, column_width / 2, 2);
 }
@@ -143,16 +143,16 @@ TEST_F(ListPaintProgress, ABarAtZeroShowsNoText)
 {
     Make(true, nullptr);
     Show(0);
-    EXPECT_EQ(canvas.Count(ink), 0);
+    EXPECT_EQ(m_canvas.Count(ink), 0);
     Show(1);
-    EXPECT_GT(canvas.Count(ink), 0);
+    EXPECT_GT(m_canvas.Count(ink), 0);
 }
 
 TEST_F(ListPaintProgress, WithoutItsFlagThereIsNoText)
 {
     Make(false, L"XX");
     Show(20);
-    EXPECT_EQ(canvas.Count(ink), 0);
+    EXPECT_EQ(m_canvas.Count(ink), 0);
 }
 
 TEST_F(ListPaintProgress, PercentIsTheText)
@@ -179,7 +179,7 @@ TEST_F(ListPaintProgress, AFormatMayGiveATextOfAnyLength)
 {
     Make(true, L"%020000d");
     Show(50, 7);
-    EXPECT_GT(canvas.Count(ink), 0);
+    EXPECT_GT(m_canvas.Count(ink), 0);
     EXPECT_TRUE(OnlyWithin(Cell(row, column)));
 }
 
@@ -189,12 +189,12 @@ TEST_F(ListPaintProgress, TheClipIsAsBefore)
     Show(50);
     CRgn region;
     region.CreateRectRgn(0, 0, 0, 0);
-    EXPECT_EQ(::GetClipRgn(canvas.Dc().GetSafeHdc(), region), 0);
+    EXPECT_EQ(::GetClipRgn(m_canvas.Dc().GetSafeHdc(), region), 0);
 }
 
 TEST_F(ListPaintProgress, AnImageStandsLeftOfTheBar)
 {
-    list.SetItemImage(row, column, 0);
+    m_list.SetItemImage(row, column, 0);
     Show(100);
     CRect const cell = Cell(row, column);
     EXPECT_EQ(Bounds(pure_red, cell).left, spacing);
@@ -214,12 +214,12 @@ TEST_F(ListPaintProgress, SelectionDoesNotShow)
 TEST_F(ListPaintProgress, ADisabledBarHasGreyTextOnTheTrough)
 {
     Make(true, L"XXXXXXXXXXXX");
-    list.SetEnabled(row, column, false);
+    m_list.SetEnabled(row, column, false);
     Show(50);
-    EXPECT_EQ(canvas.Count(ink), 0);
+    EXPECT_EQ(m_canvas.Count(ink), 0);
     CRect rest = Cell(row, column);
     rest.left += 2 + 29 - 1;
     EXPECT_GT(Count(::GetSysColor(COLOR_GRAYTEXT), rest), 10);
-    EXPECT_GT(canvas.Count(bar_colour), 0);
+    EXPECT_GT(m_canvas.Count(bar_colour), 0);
 }
 } // namespace

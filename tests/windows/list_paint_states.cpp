@@ -26,7 +26,7 @@ protected:
     {
         ListPaintTest::SetUp();
         for (int col = 0; col < 3; ++col)
-            list.SetItemText(1, col, L"XX", ink, paper);
+            m_list.SetItemText(1, col, L"XX", ink, paper);
     }
 
     /// Whether the cell, when painted, is of these two colours alone and has both.
@@ -45,10 +45,14 @@ protected:
     {
         return IsOf(1, col, Sys(COLOR_HIGHLIGHTTEXT), Sys(COLOR_HIGHLIGHT));
     }
-    bool Erase() { return list.SendMessage(WM_ERASEBKGND, reinterpret_cast<WPARAM>(canvas.Dc().GetSafeHdc())) != 0; }
+    bool Erase()
+    {
+        return m_list.SendMessage(WM_ERASEBKGND, reinterpret_cast<WPARAM>(m_canvas.Dc().GetSafeHdc())) != 0;
+    }
     void SetFullRow(bool on)
     {
-        ::SendMessageW(list.m_hWnd, LVM_SETEXTENDEDLISTVIEWSTYLE, LVS_EX_FULLROWSELECT, on ? LVS_EX_FULLROWSELECT : 0);
+        ::SendMessageW(m_list.m_hWnd, LVM_SETEXTENDEDLISTVIEWSTYLE, LVS_EX_FULLROWSELECT,
+                       on ? LVS_EX_FULLROWSELECT : 0);
     }
 };
 
@@ -73,8 +77,8 @@ TEST_F(ListPaintStates, WithoutFullRowSelectionOnlyColumnZeroShowsIt)
     EXPECT_TRUE(IsSelected(0));
     EXPECT_TRUE(IsOf(1, 1, ink, paper));
     EXPECT_TRUE(IsOf(1, 2, ink, paper));
-    list.SetCheckbox(1, 0, XLC_CHECKED);
-    list.SetCheckbox(1, 1, XLC_CHECKED);
+    m_list.SetCheckbox(1, 0, XLC_CHECKED);
+    m_list.SetCheckbox(1, 1, XLC_CHECKED);
     Paint(1, 0);
     EXPECT_GT(Count(Sys(COLOR_HIGHLIGHT), Cell(1, 0)), 100);
     EXPECT_GT(Count(check_mark, Cell(1, 0)), 0);
@@ -106,8 +110,8 @@ TEST_F(ListPaintStatesShown, WithoutTheFocusASelectionThatAlwaysShowsIsOnFaceCol
 
 TEST_F(ListPaintStates, MarksStayAsTheyAreInASelectedRow)
 {
-    list.SetItemText(1, 1, L"");
-    list.SetCheckbox(1, 1, XLC_CROSSED);
+    m_list.SetItemText(1, 1, L"");
+    m_list.SetCheckbox(1, 1, XLC_CROSSED);
     Paint(1, 1);
     int const frame = Count(check_frame, Cell(1, 1));
     int const cross = Count(cross_mark, Cell(1, 1));
@@ -119,33 +123,33 @@ TEST_F(ListPaintStates, MarksStayAsTheyAreInASelectedRow)
 
 TEST_F(ListPaintStates, ADisabledCellOnTheWindowsColourIsGreyOnFaceColour)
 {
-    list.SetItemColors(1, 1, ink, Sys(COLOR_WINDOW), XLISTCTRLDATA::no_gradient);
-    list.SetEnabled(1, 1, false);
+    m_list.SetItemColors(1, 1, ink, Sys(COLOR_WINDOW), XLISTCTRLDATA::no_gradient);
+    m_list.SetEnabled(1, 1, false);
     EXPECT_TRUE(IsOf(1, 1, Sys(COLOR_GRAYTEXT), Sys(COLOR_BTNFACE)));
     NMLVCUSTOMDRAW draw = Notification(CDDS_ITEMPREPAINT | CDDS_SUBITEM, 1, 1);
     LRESULT result = 0;
-    list.OnCustomDraw(&draw.nmcd.hdr, &result);
+    m_list.OnCustomDraw(&draw.nmcd.hdr, &result);
     EXPECT_EQ(draw.clrText, Sys(COLOR_GRAYTEXT));
     EXPECT_EQ(draw.clrTextBk, Sys(COLOR_BTNFACE));
 }
 
 TEST_F(ListPaintStates, ADisabledCellKeepsABackgroundOfItsOwn)
 {
-    list.SetEnabled(1, 1, false);
+    m_list.SetEnabled(1, 1, false);
     EXPECT_TRUE(IsOf(1, 1, Sys(COLOR_GRAYTEXT), paper));
 }
 
 TEST_F(ListPaintStates, DisabledMarksAreGrey)
 {
-    list.SetItemText(1, 1, L"");
+    m_list.SetItemText(1, 1, L"");
     for (int const state : {XLC_UNCHECKED, XLC_CHECKED, XLC_CROSSED})
     {
-        list.SetCheckbox(1, 1, state);
-        list.SetEnabled(1, 1, true);
+        m_list.SetCheckbox(1, 1, state);
+        m_list.SetEnabled(1, 1, true);
         Paint(1, 1);
         CRect const cell = Cell(1, 1);
         int const enabled = cell.Width() * cell.Height() - Count(paper, cell);
-        list.SetEnabled(1, 1, false);
+        m_list.SetEnabled(1, 1, false);
         Paint(1, 1);
         EXPECT_EQ(Count(Sys(COLOR_GRAYTEXT), cell), enabled) << state;
         EXPECT_EQ(Count(paper, cell), cell.Width() * cell.Height() - enabled) << state;
@@ -154,11 +158,11 @@ TEST_F(ListPaintStates, DisabledMarksAreGrey)
 
 TEST_F(ListPaintStates, ADisabledRadioButtonDoesNotTellWhetherItIsOn)
 {
-    list.SetRadioButton(1, 1, XLC_RADIO_ON);
-    list.SetEnabled(1, 1, false);
+    m_list.SetRadioButton(1, 1, XLC_RADIO_ON);
+    m_list.SetEnabled(1, 1, false);
     Paint(1, 1);
     auto const on = Copy(Cell(1, 1));
-    list.SetRadioButton(1, 1, XLC_RADIO_OFF);
+    m_list.SetRadioButton(1, 1, XLC_RADIO_OFF);
     Paint(1, 1);
     EXPECT_TRUE(tests::SamePixels(*on, *Copy(Cell(1, 1))));
 }
@@ -167,17 +171,17 @@ TEST_F(ListPaintStates, ALinkIsAnUnderlinedText)
 {
     Paint(1, 1);
     CRect const plain = Bounds(ink, Cell(1, 1));
-    list.SetHyperlink(1, 1, true, false);
+    m_list.SetHyperlink(1, 1, true, false);
     Paint(1, 1);
     EXPECT_GT(Bounds(ink, Cell(1, 1)).bottom, plain.bottom);
-    list.SetHyperlink(1, 1, true, true);
+    m_list.SetHyperlink(1, 1, true, true);
     EXPECT_TRUE(IsOf(1, 1, 0xFF0000, paper));
 }
 
 TEST_F(ListPaintStates, AnImageStandsOnTheDrawingColour)
 {
-    list.SetItemImage(1, 1, 0);
-    list.SetItemText(1, 1, L"");
+    m_list.SetItemImage(1, 1, 0);
+    m_list.SetItemText(1, 1, L"");
     Select(1, true);
     Paint(1, 1);
     CRect const cell = Cell(1, 1);
@@ -186,38 +190,38 @@ TEST_F(ListPaintStates, AnImageStandsOnTheDrawingColour)
 
 TEST_F(ListPaintStates, RowsAreNotErased)
 {
-    canvas.Fill(untouched);
+    m_canvas.Fill(untouched);
     EXPECT_TRUE(Erase());
     CRect const first = Cell(0, 0);
     CRect const last = Cell(3, 2);
     CRect const rows(first.left, first.top, last.right, last.bottom);
     EXPECT_EQ(Count(untouched, rows), rows.Width() * rows.Height());
-    EXPECT_EQ(canvas.Count(untouched), rows.Width() * rows.Height());
-    EXPECT_EQ(canvas.Count(Sys(COLOR_WINDOW)), canvas.Width() * canvas.Height() - rows.Width() * rows.Height());
+    EXPECT_EQ(m_canvas.Count(untouched), rows.Width() * rows.Height());
+    EXPECT_EQ(m_canvas.Count(Sys(COLOR_WINDOW)), m_canvas.Width() * m_canvas.Height() - rows.Width() * rows.Height());
 }
 
 TEST_F(ListPaintStates, ErasingStaysWithinTheClip)
 {
-    canvas.Fill(untouched);
+    m_canvas.Fill(untouched);
     CRect const clip(100, 30, 300, 120);
     CRgn region;
     region.CreateRectRgnIndirect(clip);
-    canvas.Dc().SelectClipRgn(&region);
+    m_canvas.Dc().SelectClipRgn(&region);
     EXPECT_TRUE(Erase());
-    canvas.Dc().SelectClipRgn(nullptr);
+    m_canvas.Dc().SelectClipRgn(nullptr);
     CRect rows(0, Cell(0, 0).top, Cell(3, 2).right, Cell(3, 2).bottom);
     rows.IntersectRect(rows, clip);
-    EXPECT_EQ(canvas.Count(Sys(COLOR_WINDOW)), clip.Width() * clip.Height() - rows.Width() * rows.Height());
+    EXPECT_EQ(m_canvas.Count(Sys(COLOR_WINDOW)), clip.Width() * clip.Height() - rows.Width() * rows.Height());
     EXPECT_TRUE(OnlyWithin(clip));
 }
 
 TEST_F(ListPaintStates, AnEmptyListIsErasedByTheNativeList)
 {
-    list.DeleteAllItems();
-    canvas.Fill(untouched);
+    m_list.DeleteAllItems();
+    m_canvas.Fill(untouched);
     Erase();
-    CRect const below(0, 40, canvas.Width(), canvas.Height());
-    EXPECT_EQ(Count(list.GetBkColor(), below), below.Width() * below.Height());
+    CRect const below(0, 40, m_canvas.Width(), m_canvas.Height());
+    EXPECT_EQ(Count(m_list.GetBkColor(), below), below.Width() * below.Height());
 }
 
 /// What the list shows on the screen, painted anew.
@@ -231,36 +235,36 @@ void Show(tests::TestList & list, tests::Canvas & canvas)
 TEST_F(ListPaintStates, AnEmptyListShowsItsTextBelowTheHeader)
 {
     CRect header;
-    ::SendMessageW(list.Header(), HDM_GETITEMRECT, 0, reinterpret_cast<LPARAM>(&header));
-    list.DeleteAllItems();
-    Show(list, canvas);
-    CRect const below(0, header.bottom, canvas.Width(), canvas.Height());
+    ::SendMessageW(m_list.Header(), HDM_GETITEMRECT, 0, reinterpret_cast<LPARAM>(&header));
+    m_list.DeleteAllItems();
+    Show(m_list, m_canvas);
+    CRect const below(0, header.bottom, m_canvas.Width(), m_canvas.Height());
     EXPECT_EQ(Count(Sys(COLOR_WINDOW), below), below.Width() * below.Height());
 
-    list.SetEmptyListText(L"HHHHHH HHHHHH");
-    Show(list, canvas);
+    m_list.SetEmptyListText(L"HHHHHH HHHHHH");
+    Show(m_list, m_canvas);
     EXPECT_LT(Count(Sys(COLOR_WINDOW), below), below.Width() * below.Height());
-    canvas.Dc().FillSolidRect(header.left, 0, canvas.Width(), header.bottom, Sys(COLOR_WINDOW));
-    CRect const text = canvas.BoundsOfOther(Sys(COLOR_WINDOW));
+    m_canvas.Dc().FillSolidRect(header.left, 0, m_canvas.Width(), header.bottom, Sys(COLOR_WINDOW));
+    CRect const text = m_canvas.BoundsOfOther(Sys(COLOR_WINDOW));
     EXPECT_GE(text.top, header.bottom + 10);
     EXPECT_LE(text.top, header.bottom + 10 + 8);
-    EXPECT_NEAR(text.CenterPoint().x, canvas.Width() / 2, 3);
+    EXPECT_NEAR(text.CenterPoint().x, m_canvas.Width() / 2, 3);
 }
 
 TEST_F(ListPaintStates, AListWithRowsShowsNoEmptyText)
 {
-    Show(list, canvas);
-    tests::Canvas with(canvas.Width(), canvas.Height());
-    list.SetEmptyListText(L"HHHHHH");
-    Show(list, with);
-    EXPECT_TRUE(tests::SamePixels(canvas, with));
+    Show(m_list, m_canvas);
+    tests::Canvas with(m_canvas.Width(), m_canvas.Height());
+    m_list.SetEmptyListText(L"HHHHHH");
+    Show(m_list, with);
+    EXPECT_TRUE(tests::SamePixels(m_canvas, with));
 }
 
 TEST_F(ListPaintStates, TheScreenShowsWhatTheCellsPaint)
 {
-    list.SetItemText(1, 1, L"");
-    list.SetCheckbox(1, 1, XLC_CHECKED);
-    Show(list, canvas);
+    m_list.SetItemText(1, 1, L"");
+    m_list.SetCheckbox(1, 1, XLC_CHECKED);
+    Show(m_list, m_canvas);
     CRect const cell = Cell(1, 1);
     EXPECT_EQ(Count(check_mark, cell), 21);
     EXPECT_EQ(Count(check_frame, cell), 48);
@@ -269,22 +273,22 @@ TEST_F(ListPaintStates, TheScreenShowsWhatTheCellsPaint)
 
 TEST_F(ListPaintStates, AChangedCellAloneIsToBePainted)
 {
-    list.SetProgress(1, 2, true, nullptr);
-    list.SetCheckbox(1, 1, XLC_UNCHECKED);
-    list.UpdateWindow();
+    m_list.SetProgress(1, 2, true, nullptr);
+    m_list.SetCheckbox(1, 1, XLC_UNCHECKED);
+    m_list.UpdateWindow();
     CRect around = Cell(1, 1);
     around.InflateRect(2, 2);
-    list.TakeUpdateRect();
-    list.SetCheckbox(1, 1, XLC_CHECKED);
-    EXPECT_EQ(list.TakeUpdateRect(), around);
-    list.SetEnabled(1, 1, false);
-    EXPECT_EQ(list.TakeUpdateRect(), around);
-    list.SetBold(1, 1, true);
-    EXPECT_EQ(list.TakeUpdateRect(), around);
+    m_list.TakeUpdateRect();
+    m_list.SetCheckbox(1, 1, XLC_CHECKED);
+    EXPECT_EQ(m_list.TakeUpdateRect(), around);
+    m_list.SetEnabled(1, 1, false);
+    EXPECT_EQ(m_list.TakeUpdateRect(), around);
+    m_list.SetBold(1, 1, true);
+    EXPECT_EQ(m_list.TakeUpdateRect(), around);
     around = Cell(1, 2);
     around.InflateRect(2, 2);
-    list.UpdateProgress(1, 2, 30, 30);
-    EXPECT_EQ(list.TakeUpdateRect(), around);
+    m_list.UpdateProgress(1, 2, 30, 30);
+    EXPECT_EQ(m_list.TakeUpdateRect(), around);
 }
 
 TEST_F(ListPaintStates, PaintingTheChangedCellPaintsItAlone)
@@ -296,12 +300,12 @@ TEST_F(ListPaintStates, PaintingTheChangedCellPaintsItAlone)
     };
     for (int row = 0; row < 4; ++row)
         for (int col = 0; col < 3; ++col)
-            list.SetCustomDraw(row, col, note);
-    list.UpdateWindow();
-    list.TakeUpdateRect();
+            m_list.SetCustomDraw(row, col, note);
+    m_list.UpdateWindow();
+    m_list.TakeUpdateRect();
     painted.clear();
-    list.InvalidateRect(Cell(2, 1));
-    list.UpdateWindow();
+    m_list.InvalidateRect(Cell(2, 1));
+    m_list.UpdateWindow();
     EXPECT_EQ(painted, (std::vector<std::pair<int, int>>{{2, 1}}));
 }
 
@@ -311,17 +315,17 @@ TEST_F(ListPaintStates, OnePaintFillsEveryCellWithItsOwnColours)
     for (int row = 0; row < 4; ++row)
         for (int col = 0; col < 3; ++col)
         {
-            list.SetItemText(row, col, L"");
-            list.SetItemColors(row, col, RGB(0, 0, 0), colour(row, col), 0xFFFFFF);
+            m_list.SetItemText(row, col, L"");
+            m_list.SetItemColors(row, col, RGB(0, 0, 0), colour(row, col), 0xFFFFFF);
         }
-    list.SetCurSel(2, false);
-    ::SetFocus(list.m_hWnd);
+    m_list.SetCurSel(2, false);
+    ::SetFocus(m_list.m_hWnd);
     // Twice, with other columns: nothing of one paint may be left for the next.
     for (int const width : {80, 55})
     {
-        static_cast<CListCtrl &>(list).SetColumnWidth(0, width);
-        list.RedrawWindow();
-        CClientDC dc(&list);
+        static_cast<CListCtrl &>(m_list).SetColumnWidth(0, width);
+        m_list.RedrawWindow();
+        CClientDC dc(&m_list);
         for (int row = 0; row < 4; ++row)
             for (int col = 0; col < 3; ++col)
             {
@@ -335,12 +339,12 @@ TEST_F(ListPaintStates, OnePaintFillsEveryCellWithItsOwnColours)
 
 TEST_F(ListPaintStates, AnEmptyPainterIsReportedAndTheProgramGoesOn)
 {
-    list.SetCustomDraw(1, 1, {});
-    list.UpdateWindow();
+    m_list.SetCustomDraw(1, 1, {});
+    m_list.UpdateWindow();
     tests::PumpPosted();
     EXPECT_FALSE(tests::App().TakeMessages().empty());
-    list.RemoveCustomDraw(1, 1);
-    Show(list, canvas);
+    m_list.RemoveCustomDraw(1, 1);
+    Show(m_list, m_canvas);
     EXPECT_GT(Count(paper, Cell(1, 1)), 0);
     EXPECT_TRUE(tests::App().TakeMessages().empty());
 }
@@ -352,10 +356,10 @@ TEST_F(ListPaintStates, NewSystemColoursAreTakenUp)
     COLORREF const other = RGB(1, 120, 60);
     Select(1, true);
     ::SetSysColors(1, &element, &other);
-    list.SendMessage(WM_SYSCOLORCHANGE);
+    m_list.SendMessage(WM_SYSCOLORCHANGE);
     EXPECT_TRUE(IsOf(1, 1, Sys(COLOR_HIGHLIGHTTEXT), other));
     ::SetSysColors(1, &element, &former);
-    list.SendMessage(WM_SYSCOLORCHANGE);
+    m_list.SendMessage(WM_SYSCOLORCHANGE);
     EXPECT_TRUE(IsSelected(1));
 }
 
@@ -373,29 +377,29 @@ TEST_P(ListPaintHandles, PaintingLeavesNone)
     case 0:
         break;
     case 1:
-        list.SetItemProperty(1, 1, XLP_BOLD | XLP_UNDERLINE, true);
+        m_list.SetItemProperty(1, 1, XLP_BOLD | XLP_UNDERLINE, true);
         break;
     case 2:
-        list.SetItemColors(1, 1, ink, paper, RGB(40, 80, 200));
+        m_list.SetItemColors(1, 1, ink, paper, RGB(40, 80, 200));
         break;
     case 3:
-        list.SetCheckbox(1, 1, XLC_CHECKED);
+        m_list.SetCheckbox(1, 1, XLC_CHECKED);
         break;
     case 4:
-        list.SetCheckbox(1, 1, XLC_CROSSED);
+        m_list.SetCheckbox(1, 1, XLC_CROSSED);
         break;
     case 5:
-        list.SetRadioButton(1, 1, XLC_RADIO_ON);
+        m_list.SetRadioButton(1, 1, XLC_RADIO_ON);
         break;
     case 6:
-        list.SetComboBox(1, 1, std::map<int, wchar_t const *>{{1, L"XX"}}, 1, 1);
+        m_list.SetComboBox(1, 1, std::map<int, wchar_t const *>{{1, L"XX"}}, 1, 1);
         break;
     case 7:
-        list.SetProgress(1, 1, true, nullptr);
-        list.UpdateProgress(1, 1, 50, 50);
+        m_list.SetProgress(1, 1, true, nullptr);
+        m_list.UpdateProgress(1, 1, 50, 50);
         break;
     default:
-        list.SetItemImage(1, 1, 0);
+        m_list.SetItemImage(1, 1, 0);
         break;
     }
     EXPECT_EQ(tests::GdiGrowth([&] { PaintOver(1, 1); }, cells, 10), 0);

@@ -43,7 +43,7 @@ protected:
 
     ListSearchWindow()
     {
-        EXPECT_TRUE(m_list.Create(TestList::default_style, CRect(0, 0, 360, 200), &m_parent, TestList::id));
+        EXPECT_TRUE(m_list.Create(TestList::default_style, CRect(0, 0, 360, 200), &m_host, TestList::id));
         m_list.SetRedraw(FALSE);
         m_list.AddColumns(3);
         for (int row = 0; row < rows; ++row)
@@ -51,7 +51,7 @@ protected:
     }
     ~ListSearchWindow() override
     {
-        m_parent.m_onItem = nullptr;
+        m_host.m_onItem = nullptr;
         if (m_list.m_hWnd != nullptr)
             m_list.DestroyWindow();
     }
@@ -74,7 +74,7 @@ protected:
         return m_list.m_asked;
     }
 
-    Parent m_parent;
+    Parent m_host;
     CountingList m_list;
     int m_numbers[rows] = {};
 };
@@ -181,7 +181,7 @@ TEST_F(ListSearchWindow, AnswersTheParentAsTheRowsDoWhileItemsChange)
 {
     int heard = 0;
     int wrong = 0;
-    m_parent.m_onItem = [&](NMLISTVIEW const &) {
+    m_host.m_onItem = [&](NMLISTVIEW const &) {
         ++heard;
         unsigned long long counted = 0;
         for (int row = 0; row < m_list.GetItemCount(); ++row)
@@ -206,7 +206,7 @@ TEST_F(ListSearchWindow, AnswersTheParentAsTheRowsDoWhileItemsChange)
 TEST_F(ListSearchWindow, AParentThatDeletesWhileARowIsDeletedLosesNoOtherRow)
 {
     bool again = true;
-    m_parent.m_onItem = [&](NMLISTVIEW const & change) {
+    m_host.m_onItem = [&](NMLISTVIEW const & change) {
         // The row's parameter word is being cleared.
         if (change.hdr.code != LVN_ITEMCHANGED || !again)
             return;
@@ -214,7 +214,7 @@ TEST_F(ListSearchWindow, AParentThatDeletesWhileARowIsDeletedLosesNoOtherRow)
         m_list.DeleteItem(0);
     };
     m_list.DeleteItem(10);
-    m_parent.m_onItem = nullptr;
+    m_host.m_onItem = nullptr;
     for (int row = 0; row < rows; ++row)
     {
         if (row != 0 && row != 10)
@@ -356,7 +356,7 @@ TEST_F(ListHeaderWalk, TheWindowMayEndWhileAColumnChanges)
 TEST_F(ListHeaderWalk, TheListObjectMayEndWhileAColumnChanges)
 {
     auto * const list = new TestList;
-    ASSERT_TRUE(list->Create(TestList::default_style, CRect(0, 0, 100, 100), &m_parent, 8));
+    ASSERT_TRUE(list->Create(TestList::default_style, CRect(0, 0, 100, 100), &m_host, 8));
     list->AddColumns(2);
     list->AddRows(3);
     for (int row = 0; row < 3; ++row)

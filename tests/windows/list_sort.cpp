@@ -406,7 +406,7 @@ protected:
     ListSortAskingTheParent()
     {
         m_list = new RememberedList;
-        EXPECT_TRUE(m_list->Create(TestList::default_style, CRect(0, 0, 100, 100), &m_parent, 8));
+        EXPECT_TRUE(m_list->Create(TestList::default_style, CRect(0, 0, 100, 100), &m_host, 8));
         m_list->SetRedraw(FALSE);
         m_list->AddColumns(2);
         for (int row = 0; row < 4; ++row)
@@ -414,7 +414,7 @@ protected:
     }
     ~ListSortAskingTheParent() override
     {
-        m_parent.m_textOf = nullptr;
+        m_host.m_textOf = nullptr;
         delete m_list;
     }
     std::vector<int> Order() const
@@ -425,20 +425,20 @@ protected:
         return order;
     }
 
-    TextParent m_parent;
+    TextParent m_host;
     RememberedList * m_list = nullptr;
 };
 
 TEST_F(ListSortAskingTheParent, SortsByTheTextsThatItGives)
 {
-    m_parent.m_textOf = [this](int row) { return std::wstring(1, L"dbca"[m_list->GetItemData(row)]); };
+    m_host.m_textOf = [this](int row) { return std::wstring(1, L"dbca"[m_list->GetItemData(row)]); };
     m_list->SortByColumn(0, true, false, nullptr);
     EXPECT_EQ(Order(), (std::vector<int>{3, 1, 2, 0}));
 }
 
 TEST_F(ListSortAskingTheParent, AParentThatDeletesARowEndsTheSort)
 {
-    m_parent.m_textOf = [this](int row) {
+    m_host.m_textOf = [this](int row) {
         if (row == 1 && m_list->GetItemCount() == 4)
             m_list->DeleteItem(0);
         return std::wstring(1, L"dbca"[row]);
@@ -449,7 +449,7 @@ TEST_F(ListSortAskingTheParent, AParentThatDeletesARowEndsTheSort)
 
 TEST_F(ListSortAskingTheParent, AParentMayDeleteTheListObject)
 {
-    m_parent.m_textOf = [this](int) {
+    m_host.m_textOf = [this](int) {
         delete std::exchange(m_list, nullptr);
         return std::wstring();
     };

@@ -66,22 +66,22 @@ protected:
 
     void Open(wchar_t const * text = L"", int width = display_width, int height = display_height, DWORD style = 0)
     {
-        ASSERT_TRUE(display.Create(text, WS_CHILD | WS_VISIBLE | style, CRect(0, 0, width, height), parent, 7));
+        ASSERT_TRUE(m_display.Create(text, WS_CHILD | WS_VISIBLE | style, CRect(0, 0, width, height), m_host, 7));
         PumpPosted();
     }
     /// Paints all of it, now.
-    void Paint() { display.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW); }
+    void Paint() { m_display.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW); }
     /// Paints what is outstanding, now.
-    void Update() { display.UpdateWindow(); }
+    void Update() { m_display.UpdateWindow(); }
     /// Paints and copies what shows.
     void Show(Canvas & canvas)
     {
         Paint();
-        canvas.CopyFromScreen(display);
+        canvas.CopyFromScreen(m_display);
     }
 
-    ScopedWindow parent{CRect(100, 100, 640, 400), WS_POPUP | WS_VISIBLE};
-    OpenDisplay display;
-    WindowCloser closer{display};
+    ScopedWindow m_host{CRect(100, 100, 640, 400), WS_POPUP | WS_VISIBLE};
+    OpenDisplay m_display;
+    WindowCloser m_closer{m_display};
 };
 } // namespace tests

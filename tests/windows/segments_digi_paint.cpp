@@ -26,7 +26,7 @@ using DigiStaticGolden = tests::DisplayTest;
 TEST_F(DigiStaticPaint, KeepsTheAspectInTheMiddle)
 {
     Open();
-    display.SetText(L"8");
+    m_display.SetText(L"8");
     tests::Canvas canvas(display_width, display_height);
     Show(canvas);
     // Scale 1, origin (490 - 49) / 2 = 220.5, rounded half up.
@@ -36,7 +36,7 @@ TEST_F(DigiStaticPaint, KeepsTheAspectInTheMiddle)
 TEST_F(DigiStaticPaint, KeepsTheAspectInATallWindow)
 {
     Open(L"", 98, 266);
-    display.SetText(L"8");
+    m_display.SetText(L"8");
     tests::Canvas canvas(98, 266);
     Show(canvas);
     // Scale 2, origin (266 - 166) / 2 = 50 from the top.
@@ -46,8 +46,8 @@ TEST_F(DigiStaticPaint, KeepsTheAspectInATallWindow)
 TEST_F(DigiStaticPaint, FillsTheWindowWithoutAspect)
 {
     Open();
-    display.SetText(L"8");
-    display.ModifyDigiStyle(DigiStyleKeepAspect, 0);
+    m_display.SetText(L"8");
+    m_display.ModifyDigiStyle(DigiStyleKeepAspect, 0);
     tests::Canvas canvas(display_width, display_height);
     Show(canvas);
     EXPECT_EQ(canvas.BoundsOfOther(display_back), CRect(40, 4, 440 + 1, 78 + 1));
@@ -56,8 +56,8 @@ TEST_F(DigiStaticPaint, FillsTheWindowWithoutAspect)
 TEST_F(DigiStaticPaint, SetsCharactersSideBySideWithoutAGap)
 {
     Open(L"", 49 + 18 + 49, 83);
-    display.SetText(L"8:8");
-    display.ModifyDigiStyle(DigiStyleSoftPen, DigiStyleHideOff);
+    m_display.SetText(L"8:8");
+    m_display.ModifyDigiStyle(DigiStyleSoftPen, DigiStyleHideOff);
     tests::Canvas canvas(49 + 18 + 49, 83);
     Show(canvas);
     EXPECT_EQ(canvas.BoundsOf(display_on), CRect(4, 4, 49 + 18 + 44 + 1, 78 + 1));
@@ -70,7 +70,7 @@ TEST_F(DigiStaticPaint, SetsCharactersSideBySideWithoutAGap)
 TEST_F(DigiStaticPaint, ColoursLitAndUnlitSegmentsAndTheirSoftEdges)
 {
     Open(L"", 49, 83);
-    display.SetText(L"1");
+    m_display.SetText(L"1");
     tests::Canvas canvas(49, 83);
     Show(canvas);
     EXPECT_EQ(canvas.Pixel(41, 20), display_on) << "inside the upper right segment";
@@ -84,8 +84,8 @@ TEST_F(DigiStaticPaint, ColoursLitAndUnlitSegmentsAndTheirSoftEdges)
 TEST_F(DigiStaticPaint, EdgesHaveThePureColoursWithoutSoftPens)
 {
     Open(L"", 49, 83);
-    display.SetText(L"1");
-    display.ModifyDigiStyle(DigiStyleSoftPen, 0);
+    m_display.SetText(L"1");
+    m_display.ModifyDigiStyle(DigiStyleSoftPen, 0);
     tests::Canvas canvas(49, 83);
     Show(canvas);
     EXPECT_EQ(canvas.Pixel(44, 20), display_on);
@@ -97,8 +97,8 @@ TEST_F(DigiStaticPaint, EdgesHaveThePureColoursWithoutSoftPens)
 TEST_F(DigiStaticPaint, LeavesUnlitSegmentsOutIfHidden)
 {
     Open(L"", 49, 83);
-    display.SetText(L"1");
-    display.ModifyDigiStyle(0, DigiStyleHideOff);
+    m_display.SetText(L"1");
+    m_display.ModifyDigiStyle(0, DigiStyleHideOff);
     tests::Canvas canvas(49, 83);
     Show(canvas);
     EXPECT_GT(canvas.Count(display_on), 0);
@@ -108,10 +108,10 @@ TEST_F(DigiStaticPaint, LeavesUnlitSegmentsOutIfHidden)
 TEST_F(DigiStaticPaint, TakesNewColours)
 {
     Open(L"", 49, 83);
-    display.SetText(L"1");
+    m_display.SetText(L"1");
     Update();
-    display.SetColor(RGB(10, 20, 30), RGB(100, 110, 120));
-    display.SetBkColor(RGB(200, 210, 220));
+    m_display.SetColor(RGB(10, 20, 30), RGB(100, 110, 120));
+    m_display.SetBkColor(RGB(200, 210, 220));
     tests::Canvas canvas(49, 83);
     Show(canvas);
     EXPECT_EQ(canvas.Pixel(41, 20), RGB(100, 110, 120));
@@ -124,21 +124,21 @@ TEST_F(DigiStaticPaint, TakesNewColours)
 TEST_F(DigiStaticPaint, WorksInAWindowWithoutArea)
 {
     Open(L"", 0, 0);
-    display.SetText(L"123");
+    m_display.SetText(L"123");
     Paint();
-    EXPECT_FALSE(display.NeedsPaint());
-    display.MoveWindow(0, 0, 1, 1);
-    display.ModifyDigiStyle(DigiStyleKeepAspect, DigiStyleRounded);
+    EXPECT_FALSE(m_display.NeedsPaint());
+    m_display.MoveWindow(0, 0, 1, 1);
+    m_display.ModifyDigiStyle(DigiStyleKeepAspect, DigiStyleRounded);
     Paint();
-    EXPECT_EQ(display.m_chars.GetSize(), 3);
+    EXPECT_EQ(m_display.m_chars.GetSize(), 3);
 }
 
 TEST_F(DigiStaticHandles, StayAsManyOverTwentyThousandPaints)
 {
     Open(L"", 300, 20);
-    display.SetText(L"0123456789ABCDEFGHIJ.:KLMN-_+*");
+    m_display.SetText(L"0123456789ABCDEFGHIJ.:KLMN-_+*");
     Update();
-    ASSERT_EQ(display.m_chars.GetSize(), 30);
+    ASSERT_EQ(m_display.m_chars.GetSize(), 30);
     EXPECT_EQ(tests::GdiGrowth([this] { Paint(); }, 20000, 3), 0);
 }
 
@@ -150,10 +150,10 @@ TEST_F(DigiStaticStyleHandles, StayAsManyInEveryStyle)
                   [&] {
                       for (DWORD style = 0; style < 32; ++style)
                       {
-                          display.ModifyDigiStyle(31 & ~style, style);
-                          display.SetButtonRect(style % 2 == 0 ? &button : nullptr);
-                          display.SetTransparent(style % 3 == 0);
-                          display.SetText(style % 5 == 0 ? L"" : L"1a.");
+                          m_display.ModifyDigiStyle(31 & ~style, style);
+                          m_display.SetButtonRect(style % 2 == 0 ? &button : nullptr);
+                          m_display.SetTransparent(style % 3 == 0);
+                          m_display.SetText(style % 5 == 0 ? L"" : L"1a.");
                           Paint();
                       }
                   },
@@ -164,7 +164,7 @@ TEST_F(DigiStaticStyleHandles, StayAsManyInEveryStyle)
 TEST_F(DigiStaticGolden, Sharp)
 {
     Open(L"", 400, 50);
-    display.SetText(L"-12.5 mV");
+    m_display.SetText(L"-12.5 mV");
     tests::Canvas canvas(400, 50);
     Show(canvas);
     tests::ExpectGolden(canvas, "display_sharp");
@@ -173,9 +173,9 @@ TEST_F(DigiStaticGolden, Sharp)
 TEST_F(DigiStaticGolden, RoundedAndStretched)
 {
     Open(L"", 400, 60);
-    display.SetText(L"RUN 7");
-    display.SetColorScheme(ColorSchemeAmber);
-    display.ModifyDigiStyle(DigiStyleKeepAspect, DigiStyleRounded | DigiStyleAlways14);
+    m_display.SetText(L"RUN 7");
+    m_display.SetColorScheme(ColorSchemeAmber);
+    m_display.ModifyDigiStyle(DigiStyleKeepAspect, DigiStyleRounded | DigiStyleAlways14);
     tests::Canvas canvas(400, 60);
     Show(canvas);
     tests::ExpectGolden(canvas, "display_rounded");
@@ -184,9 +184,9 @@ TEST_F(DigiStaticGolden, RoundedAndStretched)
 TEST_F(DigiStaticGolden, LcdWithoutUnlitSegments)
 {
     Open(L"", 200, 60);
-    display.SetText(L"12:34");
-    display.SetColorScheme(ColorSchemeLcd);
-    display.ModifyDigiStyle(DigiStyleSoftPen, DigiStyleHideOff);
+    m_display.SetText(L"12:34");
+    m_display.SetColorScheme(ColorSchemeLcd);
+    m_display.ModifyDigiStyle(DigiStyleSoftPen, DigiStyleHideOff);
     tests::Canvas canvas(200, 60);
     Show(canvas);
     tests::ExpectGolden(canvas, "display_lcd");

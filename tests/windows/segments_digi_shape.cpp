@@ -51,7 +51,7 @@ protected:
     {
         CRgn region;
         region.CreateRectRgn(0, 0, 0, 0);
-        if (::GetWindowRgn(display.m_hWnd, region) == ERROR)
+        if (::GetWindowRgn(m_display.m_hWnd, region) == ERROR)
             return std::nullopt;
         CRect bounds;
         region.GetRgnBox(bounds);
@@ -59,7 +59,7 @@ protected:
     }
     void SetShape(CRect const & rect)
     {
-        ASSERT_NE(::SetWindowRgn(display.m_hWnd, ::CreateRectRgnIndirect(rect), FALSE), 0);
+        ASSERT_NE(::SetWindowRgn(m_display.m_hWnd, ::CreateRectRgnIndirect(rect), FALSE), 0);
     }
 };
 } // namespace
@@ -67,27 +67,27 @@ protected:
 TEST_F(DigiStaticShape, TransparencySwitchesTheWindowStyle)
 {
     Open();
-    display.ValidateRect(nullptr);
-    DWORD const before = display.GetExStyle();
+    m_display.ValidateRect(nullptr);
+    DWORD const before = m_display.GetExStyle();
     ASSERT_EQ(before & WS_EX_TRANSPARENT, 0U);
-    display.SetTransparent(true);
-    EXPECT_TRUE(display.m_transparent);
-    EXPECT_EQ(display.GetExStyle(), before | WS_EX_TRANSPARENT);
-    EXPECT_FALSE(display.NeedsPaint());
-    display.SetTransparent(false);
-    EXPECT_FALSE(display.m_transparent);
-    EXPECT_EQ(display.GetExStyle(), before);
-    EXPECT_FALSE(display.NeedsPaint());
+    m_display.SetTransparent(true);
+    EXPECT_TRUE(m_display.m_transparent);
+    EXPECT_EQ(m_display.GetExStyle(), before | WS_EX_TRANSPARENT);
+    EXPECT_FALSE(m_display.NeedsPaint());
+    m_display.SetTransparent(false);
+    EXPECT_FALSE(m_display.m_transparent);
+    EXPECT_EQ(m_display.GetExStyle(), before);
+    EXPECT_FALSE(m_display.NeedsPaint());
 }
 
 TEST_F(DigiStaticShape, OpaqueWindowKeepsWhateverRegionItHas)
 {
     Open();
-    display.SetText(L"8");
+    m_display.SetText(L"8");
     SetShape(CRect(0, 0, 100, 50));
     tests::ImportPatch const patch(L"framework.dll", "SetWindowRgn", &RecordRegion);
     ASSERT_TRUE(patch.Done());
-    display.SetText(L"7");
+    m_display.SetText(L"7");
     Paint();
     EXPECT_TRUE(g_calls.empty());
     EXPECT_EQ(Shape(), CRect(0, 0, 100, 50));
@@ -97,52 +97,52 @@ TEST_F(DigiStaticShape, IsTakenAwayBeforeARepaintIsAskedFor)
 {
     Open();
     SetShape(CRect(0, 0, 100, 50));
-    display.SetTransparent(true);
+    m_display.SetTransparent(true);
     tests::ImportPatch const patch(L"framework.dll", "SetWindowRgn", &RecordRegion);
     ASSERT_TRUE(patch.Done());
-    display.SetText(L"8");
-    EXPECT_EQ(g_calls, (std::vector<RegionCall>{{display.m_hWnd, false, TRUE}}));
+    m_display.SetText(L"8");
+    EXPECT_EQ(g_calls, (std::vector<RegionCall>{{m_display.m_hWnd, false, TRUE}}));
     EXPECT_EQ(Shape(), std::nullopt);
-    EXPECT_TRUE(display.NeedsPaint());
+    EXPECT_TRUE(m_display.NeedsPaint());
 }
 
 TEST_F(DigiStaticShape, OfHiddenSegmentsIsTheFullRectangle)
 {
     Open();
-    display.ModifyDigiStyle(0, DigiStyleHideOff);
-    display.SetText(L"   ");
+    m_display.ModifyDigiStyle(0, DigiStyleHideOff);
+    m_display.SetText(L"   ");
     Update();
-    display.SetTransparent(true);
+    m_display.SetTransparent(true);
     SetShape(CRect(0, 0, 100, 50));
     tests::ImportPatch const patch(L"framework.dll", "SetWindowRgn", &RecordRegion);
     ASSERT_TRUE(patch.Done());
     Paint();
-    EXPECT_EQ(g_calls, (std::vector<RegionCall>{{display.m_hWnd, false, FALSE}}));
+    EXPECT_EQ(g_calls, (std::vector<RegionCall>{{m_display.m_hWnd, false, FALSE}}));
     EXPECT_EQ(Shape(), std::nullopt);
 }
 
 TEST_F(DigiStaticShape, IsWhatTheCharactersGive)
 {
     Open();
-    display.SetTransparent(true);
+    m_display.SetTransparent(true);
     tests::ImportPatch const outline(L"instrument_ui.dll", "PathToRegion", &RegionOfTenPixels);
     ASSERT_TRUE(outline.Done());
     tests::ImportPatch const patch(L"framework.dll", "SetWindowRgn", &RecordRegion);
     ASSERT_TRUE(patch.Done());
-    display.SetText(L"8");
+    m_display.SetText(L"8");
     Update();
-    EXPECT_EQ(g_calls, (std::vector<RegionCall>{{display.m_hWnd, false, TRUE}, {display.m_hWnd, true, FALSE}}));
+    EXPECT_EQ(g_calls, (std::vector<RegionCall>{{m_display.m_hWnd, false, TRUE}, {m_display.m_hWnd, true, FALSE}}));
     EXPECT_EQ(Shape(), CRect(10, 20, 20, 21));
-    EXPECT_FALSE(display.NeedsPaint());
+    EXPECT_FALSE(m_display.NeedsPaint());
 }
 
 TEST_F(DigiStaticShape, BelongsToTheSystemOnceSet)
 {
     Open();
-    display.SetTransparent(true);
+    m_display.SetTransparent(true);
     tests::ImportPatch const outline(L"instrument_ui.dll", "PathToRegion", &RegionOfTenPixels);
     ASSERT_TRUE(outline.Done());
-    display.SetText(L"8");
+    m_display.SetText(L"8");
     Update();
     EXPECT_EQ(tests::GdiGrowth([this] { Paint(); }, 50), 0);
     EXPECT_EQ(Shape(), CRect(10, 20, 20, 21));
@@ -151,8 +151,8 @@ TEST_F(DigiStaticShape, BelongsToTheSystemOnceSet)
 TEST_F(DigiStaticShape, IsDeletedIfTheSystemDoesNotTakeIt)
 {
     Open();
-    display.SetTransparent(true);
-    display.SetText(L"8");
+    m_display.SetTransparent(true);
+    m_display.SetText(L"8");
     Update();
     tests::ImportPatch const outline(L"instrument_ui.dll", "PathToRegion", &RegionOfTenPixels);
     ASSERT_TRUE(outline.Done());
@@ -166,20 +166,20 @@ TEST_F(DigiStaticShape, CornerIsLeftOutOfPainting)
     constexpr COLORREF before = RGB(200, 0, 0);
     constexpr COLORREF after = RGB(0, 0, 200);
     Open();
-    display.SetBkColor(before);
+    m_display.SetBkColor(before);
     Update();
-    display.SetBkColor(after);
+    m_display.SetBkColor(after);
     CRect button(300, 200, 330, 220); // its place is of no account
-    display.SetButtonRect(&button);
+    m_display.SetButtonRect(&button);
     Update();
     tests::Canvas canvas(display_width, display_height);
-    canvas.CopyFromScreen(display);
+    canvas.CopyFromScreen(m_display);
     EXPECT_EQ(canvas.BoundsOf(before), CRect(0, display_height - 20, 30, display_height));
     EXPECT_EQ(canvas.Count(before), 30 * 20);
     EXPECT_EQ(canvas.Count(after), display_width * display_height - 30 * 20);
 
-    display.SetButtonRect(nullptr);
+    m_display.SetButtonRect(nullptr);
     Update();
-    canvas.CopyFromScreen(display);
+    canvas.CopyFromScreen(m_display);
     EXPECT_EQ(canvas.Count(after), display_width * display_height);
 }

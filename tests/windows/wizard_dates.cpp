@@ -18,19 +18,19 @@ class WizardDateTime : public testing::Test
 protected:
     void Create(DWORD style = 0)
     {
-        ASSERT_TRUE(m_control.Create(shown | style, CRect(10, 10, 200, 40), &m_parent, control_id));
+        ASSERT_TRUE(m_control.Create(shown | style, CRect(10, 10, 200, 40), &m_host, control_id));
     }
 
-    tests::ScopedWindow m_parent;
+    tests::ScopedWindow m_host;
     CDateTimeCtrl m_control;
 };
 
 class WizardMonthCalendar : public testing::Test
 {
 protected:
-    void Create(DWORD style = 0) { ASSERT_TRUE(m_control.Create(shown | style, place, &m_parent, control_id)); }
+    void Create(DWORD style = 0) { ASSERT_TRUE(m_control.Create(shown | style, place, &m_host, control_id)); }
 
-    tests::ScopedWindow m_parent;
+    tests::ScopedWindow m_host;
     CMonthCalCtrl m_control;
 };
 } // namespace
@@ -120,8 +120,8 @@ TEST_F(WizardDateTime, KnowsTheLookOfItsCalendar)
 TEST_F(WizardDateTime, IsExchangedWithADialog)
 {
     Create();
-    CDataExchange save(&m_parent, TRUE);
-    CDataExchange show(&m_parent, FALSE);
+    CDataExchange save(&m_host, TRUE);
+    CDataExchange show(&m_host, FALSE);
     CTime time(2010, 11, 12, 13, 14, 15);
     DDX_DateTimeCtrl(&show, control_id, time);
     COleDateTime date;
@@ -139,7 +139,7 @@ TEST_F(WizardDateTime, IsExchangedWithADialog)
 TEST_F(WizardDateTime, LimitsAreSetByTheExchange)
 {
     Create();
-    CDataExchange show(&m_parent, FALSE);
+    CDataExchange show(&m_host, FALSE);
     CTime time(2010, 11, 12, 13, 14, 15);
     CTime const low(2010, 1, 1, 0, 0, 0);
     DDX_DateTimeCtrl(&show, control_id, time);
@@ -217,7 +217,7 @@ TEST_F(WizardMonthCalendar, KnowsTodayAndItsWeek)
 
 TEST_F(WizardMonthCalendar, TakesTheSizeThatItNeeds)
 {
-    ASSERT_TRUE(m_control.Create(shown, CPoint(5, 6), &m_parent, control_id));
+    ASSERT_TRUE(m_control.Create(shown, CPoint(5, 6), &m_host, control_id));
     CRect needed;
     EXPECT_TRUE(m_control.GetMinReqRect(&needed));
     CRect rect;
@@ -249,8 +249,8 @@ TEST_F(WizardMonthCalendar, ShowsMonths)
 TEST_F(WizardMonthCalendar, IsExchangedWithADialog)
 {
     Create();
-    CDataExchange save(&m_parent, TRUE);
-    CDataExchange show(&m_parent, FALSE);
+    CDataExchange save(&m_host, TRUE);
+    CDataExchange show(&m_host, FALSE);
     COleDateTime date(2010, 11, 12, 0, 0, 0);
     DDX_MonthCalCtrl(&show, control_id, date);
     CTime time;

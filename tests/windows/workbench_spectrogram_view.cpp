@@ -61,41 +61,41 @@ protected:
     void SetUp() override
     {
         auto const colours = TestColours();
-        view.SetColours(colours.data());
-        ASSERT_TRUE(view.CreateView(parent, view_id, metrics));
-        view.MoveWindow(0, 0, 500, 300);
+        m_view.SetColours(colours.data());
+        ASSERT_TRUE(m_view.CreateView(m_host, view_id, m_metrics));
+        m_view.MoveWindow(0, 0, 500, 300);
     }
     void TearDown() override
     {
-        parent.DestroyWindow();
+        m_host.DestroyWindow();
         std::error_code error;
-        std::filesystem::remove(path, error);
+        std::filesystem::remove(m_path, error);
     }
 
     void ShowAndWait(std::size_t frames)
     {
-        path = WriteRecording(frames);
-        view.ShowRecording(L"Half a sine", path);
-        ASSERT_TRUE(tests::PumpUntil([&] { return !view.IsComputing(); }));
+        m_path = WriteRecording(frames);
+        m_view.ShowRecording(L"Half a sine", m_path);
+        ASSERT_TRUE(tests::PumpUntil([&] { return !m_view.IsComputing(); }));
     }
 
     /// Where the spectrogram itself is: the largest block of its colours, left of the legend.
     CRect Plot(tests::Canvas const & canvas)
     {
-        CRect plot = canvas.BoundsOf([](COLORREF colour) { return EntryOf(colour) == 0; });
-        int right = plot.left;
-        while (right < canvas.Width() && EntryOf(canvas.Pixel(right, plot.bottom - 1)) >= 0)
+        CRect m_plot = canvas.BoundsOf([](COLORREF colour) { return EntryOf(colour) == 0; });
+        int right = m_plot.left;
+        while (right < canvas.Width() && EntryOf(canvas.Pixel(right, m_plot.bottom - 1)) >= 0)
             ++right;
-        plot.right = right;
-        return plot;
+        m_plot.right = right;
+        return m_plot;
     }
 
-    CWnd & Progress() { return *view.GetWindow(GW_CHILD); }
+    CWnd & Progress() { return *m_view.GetWindow(GW_CHILD); }
 
-    workbench::ScreenMetrics metrics;
-    tests::ScopedWindow parent{CRect(50, 50, 600, 400)};
-    CSpectrogramView view;
-    std::filesystem::path path;
+    workbench::ScreenMetrics m_metrics;
+    tests::ScopedWindow m_host{CRect(50, 50, 600, 400)};
+    CSpectrogramView m_view;
+    std::filesystem::path m_path;
 };
 } // namespace
 
@@ -104,8 +104,8 @@ TEST_F(SpectrogramView, ShowsTimeToTheRightAndFrequencyUpwards)
     ShowAndWait(96000);
     tests::Canvas canvas(500, 300);
     CRect client;
-    view.GetClientRect(&client);
-    canvas.PrintClient(view);
+    m_view.GetClientRect(&client);
+    canvas.PrintClient(m_view);
     CRect const plot = Plot(canvas);
     ASSERT_GT(plot.Width(), 250);
     ASSERT_GT(plot.Height(), 150);
@@ -129,7 +129,7 @@ TEST_F(SpectrogramView, TheFrameHasTheColourOutsideTheScale)
 {
     ShowAndWait(48000);
     tests::Canvas canvas(500, 300);
-    canvas.PrintClient(view);
+    canvas.PrintClient(m_view);
     CRect frame = Plot(canvas);
     frame.InflateRect(1, 1);
     EXPECT_EQ(canvas.Pixel(frame.left, frame.top), outside);
@@ -142,7 +142,7 @@ TEST_F(SpectrogramView, TheLegendHasAllColoursInOrder)
 {
     ShowAndWait(48000);
     tests::Canvas canvas(500, 300);
-    canvas.PrintClient(view);
+    canvas.PrintClient(m_view);
     CRect const plot = Plot(canvas);
     // The first colour to the right of the plot.
     int x = plot.right + 2;
@@ -162,15 +162,15 @@ TEST_F(SpectrogramView, TheLegendHasAllColoursInOrder)
 TEST_F(SpectrogramView, OtherColoursShowAtOnce)
 {
     ShowAndWait(48000);
-    view.UpdateWindow();
-    ASSERT_FALSE(view.GetUpdateRect(nullptr));
+    m_view.UpdateWindow();
+    ASSERT_FALSE(m_view.GetUpdateRect(nullptr));
     std::array<unsigned long, CSpectrogramView::colour_count> colours{};
     colours.fill(RGB(0, 200, 100));
-    view.SetColours(colours.data());
-    view.SetColours(nullptr);
-    EXPECT_TRUE(view.GetUpdateRect(nullptr));
+    m_view.SetColours(colours.data());
+    m_view.SetColours(nullptr);
+    EXPECT_TRUE(m_view.GetUpdateRect(nullptr));
     tests::Canvas canvas(500, 300);
-    canvas.PrintClient(view);
+    canvas.PrintClient(m_view);
     EXPECT_GT(canvas.Count(RGB(0, 200, 100)), 250 * 150);
     EXPECT_EQ(canvas.Count(outside), 0);
 }
@@ -178,21 +178,21 @@ TEST_F(SpectrogramView, OtherColoursShowAtOnce)
 TEST_F(SpectrogramView, PaintsOnTheScreenWhatItPrints)
 {
     ShowAndWait(48000);
-    view.UpdateWindow();
+    m_view.UpdateWindow();
     tests::Canvas printed(400, 200);
-    printed.PrintClient(view);
+    printed.PrintClient(m_view);
     tests::Canvas shown(400, 200);
     ASSERT_TRUE(tests::PumpUntil([&] {
-        shown.CopyFromScreen(view);
+        shown.CopyFromScreen(m_view);
         return static_cast<bool>(tests::SamePixels(printed, shown));
     })) << tests::SamePixels(printed, shown).message();
 }
 
 TEST_F(SpectrogramView, AProgressBarShowsWhileItIsComputed)
 {
-    path = WriteRecording(24'000'000);
-    view.ShowRecording(L"Long", path);
-    EXPECT_TRUE(view.IsComputing());
+    m_path = WriteRecording(24'000'000);
+    m_view.ShowRecording(L"Long", m_path);
+    EXPECT_TRUE(m_view.IsComputing());
     EXPECT_TRUE(Progress().IsWindowVisible());
     auto & bar = static_cast<CProgressCtrl &>(Progress());
     int lower = -1;
@@ -207,69 +207,69 @@ TEST_F(SpectrogramView, AProgressBarShowsWhileItIsComputed)
         EXPECT_GE(position, greatest);
         greatest = position;
         alive = alive || (position > 0 && position < 1000);
-        return !view.IsComputing();
+        return !m_view.IsComputing();
     }));
     EXPECT_TRUE(alive) << "messages are handled meanwhile";
     EXPECT_FALSE(Progress().IsWindowVisible());
-    view.ShowRecording(L"Long", path);
+    m_view.ShowRecording(L"Long", m_path);
     EXPECT_EQ(bar.GetPos(), 0) << "it begins anew";
-    view.ShowText(L"", L"");
+    m_view.ShowText(L"", L"");
 }
 
 TEST_F(SpectrogramView, TheProgressBarStaysInTheMiddle)
 {
-    path = WriteRecording(12'000'000);
-    view.ShowRecording(L"Long", path);
+    m_path = WriteRecording(12'000'000);
+    m_view.ShowRecording(L"Long", m_path);
     for (CSize const size : {CSize(500, 300), CSize(300, 200), CSize(60, 100)})
     {
-        view.MoveWindow(0, 0, size.cx, size.cy);
+        m_view.MoveWindow(0, 0, size.cx, size.cy);
         CRect bar;
         Progress().GetWindowRect(&bar);
-        view.ScreenToClient(&bar);
+        m_view.ScreenToClient(&bar);
         CRect client;
-        view.GetClientRect(&client);
+        m_view.GetClientRect(&client);
         EXPECT_LE(std::abs(bar.CenterPoint().x - client.CenterPoint().x), 1);
         EXPECT_GE(bar.left, 0);
         EXPECT_LE(bar.right, client.right);
     }
-    view.ShowText(L"", L"");
+    m_view.ShowText(L"", L"");
 }
 
 TEST_F(SpectrogramView, AnotherRecordingTakesThePlaceOfTheOneBeingComputed)
 {
     auto const longPath = WriteRecording(12'000'000, "long.wav");
-    view.ShowRecording(L"Long", longPath);
+    m_view.ShowRecording(L"Long", longPath);
     ShowAndWait(48000);
     tests::Canvas canvas(500, 300);
-    canvas.PrintClient(view);
+    canvas.PrintClient(m_view);
     EXPECT_GT(Plot(canvas).Width(), 250);
 
-    view.ShowRecording(L"Long", longPath);
-    view.ShowText(L"Nothing", L"is chosen");
-    EXPECT_FALSE(view.IsComputing());
+    m_view.ShowRecording(L"Long", longPath);
+    m_view.ShowText(L"Nothing", L"is chosen");
+    EXPECT_FALSE(m_view.IsComputing());
     tests::PumpFor(std::chrono::milliseconds(100));
     canvas.Fill(0);
-    canvas.PrintClient(view);
+    canvas.PrintClient(m_view);
     EXPECT_EQ(canvas.Count(outside), 0) << "no spectrogram comes later";
     std::filesystem::remove(longPath);
 }
 
 TEST_F(SpectrogramView, AFileThatCannotBeReadIsToldInItsPlace)
 {
-    view.ShowRecording(L"Missing", "missing.wav");
-    ASSERT_TRUE(tests::PumpUntil([&] { return !view.IsComputing(); }));
+    m_view.ShowRecording(L"Missing", "missing.wav");
+    ASSERT_TRUE(tests::PumpUntil([&] { return !m_view.IsComputing(); }));
     tests::Canvas canvas(500, 300);
-    canvas.PrintClient(view);
+    canvas.PrintClient(m_view);
     EXPECT_EQ(canvas.Count(outside), 0);
     EXPECT_FALSE(canvas.BoundsOf(RGB(168, 40, 32)).IsRectEmpty()) << "text in the colour of problems";
 }
 
 TEST_F(SpectrogramView, AViewThatEndsWhileItComputesWaitsForNothing)
 {
-    path = WriteRecording(12'000'000);
-    view.ShowRecording(L"Long", path);
-    view.DestroyWindow();
-    EXPECT_FALSE(view.IsComputing());
+    m_path = WriteRecording(12'000'000);
+    m_view.ShowRecording(L"Long", m_path);
+    m_view.DestroyWindow();
+    EXPECT_FALSE(m_view.IsComputing());
     tests::PumpPosted();
 }
 
@@ -277,15 +277,15 @@ TEST_F(SpectrogramView, DrawsIntoAnyRectangleOfAPicture)
 {
     ShowAndWait(48000);
     tests::Canvas whole(420, 260, RGB(9, 9, 9));
-    view.Draw(whole.Dc(), CRect(20, 10, 420, 250));
+    m_view.Draw(whole.Dc(), CRect(20, 10, 420, 250));
     EXPECT_EQ(whole.Count(RGB(9, 9, 9)), 420 * 260 - 400 * 240) << "nothing outside";
     EXPECT_FALSE(Plot(whole).IsRectEmpty());
     tests::Canvas tiny(30, 20);
-    view.Draw(tiny.Dc(), CRect(0, 0, 30, 20));
-    view.Draw(tiny.Dc(), CRect(5, 5, 5, 5));
+    m_view.Draw(tiny.Dc(), CRect(0, 0, 30, 20));
+    m_view.Draw(tiny.Dc(), CRect(5, 5, 5, 5));
     EXPECT_EQ(tiny.Count(outside), 0) << "no room for a spectrogram";
     tests::Canvas low(300, 70);
-    view.Draw(low.Dc(), CRect(0, 0, 300, 70));
+    m_view.Draw(low.Dc(), CRect(0, 0, 300, 70));
     EXPECT_EQ(low.Count(outside), 0) << "room for the heading alone";
 }
 
@@ -293,12 +293,12 @@ TEST_F(SpectrogramView, EachSizeHasAPictureOfItsOwn)
 {
     ShowAndWait(48000);
     tests::Canvas first(400, 240);
-    view.Draw(first.Dc(), CRect(0, 0, 400, 240));
+    m_view.Draw(first.Dc(), CRect(0, 0, 400, 240));
     ShowAndWait(48000);
     tests::Canvas other(500, 300);
-    view.Draw(other.Dc(), CRect(0, 0, 500, 300));
+    m_view.Draw(other.Dc(), CRect(0, 0, 500, 300));
     tests::Canvas again(400, 240);
-    view.Draw(again.Dc(), CRect(0, 0, 400, 240));
+    m_view.Draw(again.Dc(), CRect(0, 0, 400, 240));
     EXPECT_TRUE(tests::SamePixels(first, again));
 }
 
@@ -306,28 +306,28 @@ TEST_F(SpectrogramView, AnotherRecordingHasAPictureOfItsOwn)
 {
     ShowAndWait(48000);
     tests::Canvas loud(400, 240);
-    view.Draw(loud.Dc(), CRect(0, 0, 400, 240));
+    m_view.Draw(loud.Dc(), CRect(0, 0, 400, 240));
     ASSERT_GT(loud.Count(TestColours()[31], Plot(loud)), 100);
     ShowAndWait(10);
     tests::Canvas quiet(400, 240);
-    view.Draw(quiet.Dc(), CRect(0, 0, 400, 240));
+    m_view.Draw(quiet.Dc(), CRect(0, 0, 400, 240));
     EXPECT_EQ(quiet.Count(TestColours()[31], Plot(quiet)), 0);
 }
 
 TEST_F(SpectrogramView, DrawsIntoAMetafile)
 {
     ShowAndWait(96000);
-    CClientDC screen(&view);
+    CClientDC screen(&m_view);
     CMetaFileDC metafileDc;
     ASSERT_TRUE(metafileDc.CreateEnhanced(&screen, nullptr, nullptr, nullptr));
     metafileDc.SetAttribDC(screen.m_hDC);
-    view.Draw(metafileDc, CRect(0, 0, 500, 300));
+    m_view.Draw(metafileDc, CRect(0, 0, 500, 300));
     metafileDc.ReleaseAttribDC();
     HENHMETAFILE const metafile = metafileDc.CloseEnhanced();
     ASSERT_NE(metafile, nullptr);
 
     tests::Canvas drawn(500, 300);
-    view.Draw(drawn.Dc(), CRect(0, 0, 500, 300));
+    m_view.Draw(drawn.Dc(), CRect(0, 0, 500, 300));
     tests::Canvas played(500, 300);
     ENHMETAHEADER header{};
     ::GetEnhMetaFileHeader(metafile, sizeof(header), &header);
@@ -353,13 +353,13 @@ TEST_F(SpectrogramView, ScalesWithTheMappingMode)
 {
     ShowAndWait(96000);
     tests::Canvas once(400, 240);
-    view.Draw(once.Dc(), CRect(0, 0, 400, 240));
+    m_view.Draw(once.Dc(), CRect(0, 0, 400, 240));
     tests::Canvas twice(800, 480);
     int const saved = twice.Dc().SaveDC();
     twice.Dc().SetMapMode(MM_ANISOTROPIC);
     twice.Dc().SetWindowExt(400, 240);
     twice.Dc().SetViewportExt(800, 480);
-    view.Draw(twice.Dc(), CRect(0, 0, 400, 240));
+    m_view.Draw(twice.Dc(), CRect(0, 0, 400, 240));
     twice.Dc().RestoreDC(saved);
     CRect const small = Plot(once);
     CRect const large = Plot(twice);
@@ -381,12 +381,12 @@ TEST_F(SpectrogramView, DrawingLeavesNoHandleAndTheContextAsItWas)
     tests::Canvas canvas(500, 300);
     canvas.Dc().SetStretchBltMode(BLACKONWHITE);
     HGDIOBJ const font = ::GetCurrentObject(canvas.Dc().m_hDC, OBJ_FONT);
-    EXPECT_EQ(tests::GdiGrowth([&] { view.Draw(canvas.Dc(), CRect(0, 0, 500, 300)); }), 0);
+    EXPECT_EQ(tests::GdiGrowth([&] { m_view.Draw(canvas.Dc(), CRect(0, 0, 500, 300)); }), 0);
     EXPECT_EQ(::GetCurrentObject(canvas.Dc().m_hDC, OBJ_FONT), font);
     EXPECT_EQ(canvas.Dc().GetStretchBltMode(), BLACKONWHITE);
     EXPECT_EQ(tests::GdiGrowth([&] {
-                  view.Invalidate();
-                  view.UpdateWindow();
+                  m_view.Invalidate();
+                  m_view.UpdateWindow();
               }),
               0);
 }

@@ -3,7 +3,7 @@
 //
 // Each function is a whole transaction: it opens the clipboard, empties it, sets its data and closes it. A failure is
 // told to the user in a message box with the system's text for the error, unless said otherwise; no attempt is
-// repeated. If emptying the opened clipboard fails, it is left open, which is meant. For the user-interface thread.
+// repeated. If emptying the opened clipboard fails, it is left open, as hosts expect. For the user-interface thread.
 
 #include <afx.h>
 
@@ -18,7 +18,7 @@ INSTRUMENT_UI_API bool StringToClipboard(CString const & text);
 
 /// Puts HTML there as "HTML Format", and the plain text as Unicode text unless it is null. If html is null or empty,
 /// the clipboard is just emptied and the plain text ignored. Text with "<body>" must have "<html>" and "</html>", too.
-/// The block has two bytes for each character of html; what is longer in UTF-8 is cut, which is meant. True also if
+/// The block has two bytes for each character of html; what is longer in UTF-8 is cut, as hosts expect. True also if
 /// only the setting of the data has failed: for the HTML that is told, for the plain text it is not.
 INSTRUMENT_UI_API bool HtmlToClipboard(wchar_t const * html, wchar_t const * plainText);
 
@@ -35,7 +35,7 @@ INSTRUMENT_UI_API bool HandleToClipboard(wchar_t const * formatName, void * hand
 INSTRUMENT_UI_API bool DataToClipboard(wchar_t const * formatName, char const * data, unsigned int size);
 
 /// Reads text. False, without a message and with the text untouched, if the clipboard has none. The text in the
-/// system's narrow code page goes before the Unicode text, which is meant: characters outside that code page come as
+/// system's narrow code page goes before the Unicode text, as hosts expect: characters outside that code page come as
 /// the system converts them.
 INSTRUMENT_UI_API bool StringFromClipboard(CString & text);
 } // namespace Clipboard

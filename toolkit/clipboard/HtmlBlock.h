@@ -9,7 +9,7 @@
 namespace HtmlBlock
 {
 /// Bytes of the block for that text: two for each of its UTF-16 units, and 400 for header and trailer. Text with many
-/// characters of three bytes can need more, which is meant: what does not fit is cut.
+/// characters of three bytes can need more, as hosts expect: what does not fit is cut.
 std::size_t SizeOf(std::wstring_view html);
 
 /// Builds the block in the memory given, usually of SizeOf(html) bytes, and gives its length in bytes without the

@@ -21,7 +21,8 @@ public:
     CColorButton & operator=(CColorButton const &) = delete;
     ~CColorButton() override;
 
-    /// The colours of a button. Those of the disabled state become 0x000006 and 0x00000A, almost black, which is meant.
+    /// The colours of a button. Those of the disabled state become 0x000006 and 0x00000A, almost black, as hosts
+    /// expect.
     void ResetColors();
     /// The icons are not owned. Without a disabled icon (null) a disabled button shows the other one; without the other
     /// one it shows none. size: the edge in pixels, by which the icon is centred; it is drawn in the system's icon
@@ -33,7 +34,7 @@ public:
     /// Whether a rectangle in the hot pen is painted while hot.
     void DrawFocusFrame(bool draw);
 
-    /// A caption's '&' underlines the next letter only while the button is disabled, which is meant.
+    /// A caption's '&' underlines the next letter only while the button is disabled, as hosts expect.
     void DrawItem(LPDRAWITEMSTRUCT item) override;
 
 protected:

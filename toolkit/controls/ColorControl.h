@@ -8,7 +8,7 @@
 /// one. Colours are 0x00BBGGRR. No setter repaints.
 ///
 /// The hot pen is green and the hot brushes have the colour of a button's face until SetHotFgColor and SetHotBgColor
-/// change the colours, which is meant. Copies share brushes and pen until one of them changes its own; each is deleted
+/// change the colours, as hosts expect. Copies share brushes and pen until one of them changes its own; each is deleted
 /// with the last object that has it. For the user-interface thread alone.
 class INSTRUMENT_UI_API CColorControl
 {

@@ -28,7 +28,7 @@ protected:
     /// The colours of a new slider.
     void InitStandardColors();
     /// Paints both parts of the channel, about three times as thick as rect, which is changed. Takes the handle from
-    /// the object dc, which is meant: the object is a temporary one.
+    /// the object dc, which is a temporary one.
     void DrawChannel(CDC * dc, CRect & rect);
     /// Paints the thumb, a pixel narrower at both ends than rect, which is changed. Takes the handle from the object
     /// dc, as DrawChannel does.

@@ -32,7 +32,7 @@ public:
     /// A null parent is the top level. sortKey -1: at insertAfter (TVI_FIRST, TVI_LAST, TVI_SORT or an item);
     /// -65533, the value of TVI_SORT: sorted by text; any other: by sort keys, ahead of the first sibling with a
     /// greater one, whatever insertAfter says. At the top level the place is looked for among the children of the first
-    /// top-level item, which is meant: all but TVI_FIRST and TVI_LAST is then the platform's matter. Null if the item
+    /// top-level item, as hosts expect: all but TVI_FIRST and TVI_LAST is then the platform's matter. Null if the item
     /// could not be inserted, or the host has deleted it in the meantime. A null text counts as an empty one.
     HTREEITEM InsertTreeItem(wchar_t const * text, HTREEITEM parent, HTREEITEM insertAfter, int sortKey);
     HTREEITEM InsertTreeItem(wchar_t const * text, int image, int selectedImage, HTREEITEM parent,
@@ -84,10 +84,10 @@ public:
     /// The same, where the label must equal the text as well, if there is one.
     HTREEITEM FindItem(int type, int id, int const * clavis, wchar_t const * text, HTREEITEM start, bool exact);
     /// The first hit among the parent's children alone. TVI_ROOT stands for the first item of the top level, which
-    /// itself is not looked at, as is meant.
+    /// itself is not looked at, as hosts expect.
     HTREEITEM FindChildItem(int type, int id, int const * clavis, wchar_t const * text, HTREEITEM parent, bool exact);
-    /// Appends the hits at start and below it, not at its siblings, as is meant, and gives their number. TVI_ROOT: the
-    /// first item of the top level.
+    /// Appends the hits at start and below it, not at its siblings, as hosts expect, and gives their number. TVI_ROOT:
+    /// the first item of the top level.
     unsigned int FindAllItems(std::list<HTREEITEM> & result, int type, int id, int const * clavis, HTREEITEM start,
                               bool exact);
     /// Appends start and all below it, and gives their number.
@@ -101,7 +101,7 @@ public:
     /// All at once, in little time.
     void ResetContent();
     /// Opens the first item of the top level so many levels deep and closes what lies deeper; -1 opens all. The other
-    /// items of the top level stay as they are, which is meant.
+    /// items of the top level stay as they are, as hosts expect.
     void ExpandTree(int depth);
 
     // Which classes of keys pass the tree on their way to the window procedure without being translated, by bits: 1 F2

@@ -73,7 +73,7 @@ template <class Item> struct Position
 };
 
 /// Tree: Item, First(parent), Next(item), Record(item). A null parent stands for `root`, the first item of the top
-/// level: it is its children that are looked at then, which is meant.
+/// level: it is its children that are looked at then, as hosts expect.
 template <class Tree> Position<typename Tree::Item> FindSortPosition(Tree & tree, typename Tree::Item parent,
                                                                      typename Tree::Item root, int sortKey)
 {

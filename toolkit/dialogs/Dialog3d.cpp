@@ -387,8 +387,8 @@ void CDialog3d::DurchsichtigkeitBeiInaktiv(unsigned char alpha)
         DurchsichtigkeitSetzen(CDialogFade::opaque);
 }
 
-// It is meant that the timer's id is not looked at: a derived class's own timer that gets here is a tick of a fade, and
-// is swallowed while none runs.
+// Hosts expect that the timer's id is not looked at: a derived class's own timer that gets here is a tick of a fade,
+// and is swallowed while none runs.
 void CDialog3d::OnTimer(UINT_PTR id)
 {
     std::optional<std::uint8_t> const alpha = m_fade.Tick();
@@ -403,7 +403,7 @@ void CDialog3d::OnTimer(UINT_PTR id)
         CDialogEx::OnTimer(id);
 }
 
-// It is meant that activation does not end a fade: its next tick goes on from opaque.
+// Hosts expect that activation does not end a fade: its next tick goes on from opaque.
 void CDialog3d::OnActivate(UINT state, CWnd * other, BOOL minimized)
 {
     HWND const window = m_hWnd;

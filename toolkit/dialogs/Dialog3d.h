@@ -111,7 +111,7 @@ public:
     /// Fades out wholly.
     void Ausblenden(unsigned long ms);
     /// Fades from the present alpha to this one, in place of a fade that runs. alpha: brought into 0 to 255. ms: 25 or
-    /// more; less takes one tick. A change of fewer units than ms / 25 does nothing, which is meant.
+    /// more; less takes one tick. A change of fewer units than ms / 25 does nothing, as hosts expect.
     void Ueberblenden(int alpha, unsigned long ms);
     /// Sets the alpha at once.
     void DurchsichtigkeitSetzen(unsigned char alpha);

@@ -46,7 +46,7 @@ void CDialog3d::CSizeGrip::Place()
     ::EnableWindow(grip, usable);
 }
 
-// A border that doesn't size, which is meant.
+// A border that doesn't size, as hosts expect.
 LRESULT CDialog3d::CSizeGrip::OnNcHitTest(CPoint)
 {
     return HTBORDER;

@@ -18,15 +18,15 @@ public:
 
     /// The present alpha.
     std::uint8_t Alpha() const { return m_alpha; }
-    /// Sets the present alpha. A fade that runs goes on from there toward its old target, which is meant.
+    /// Sets the present alpha. A fade that runs goes on from there toward its old target, as hosts expect.
     void SetAlpha(std::uint8_t alpha) { m_alpha = alpha; }
 
     /// Begins a fade from the present alpha, in place of one that runs. alpha is brought into 0 to 255. False if that
     /// is the present alpha: then there is nothing to tick for, and a fade that runs keeps its step toward the new
     /// target. Less time than one tick takes one tick.
     ///
-    /// A change of fewer units than ticks has the step 0, so that it ends at once and leaves the alpha as it is; it is
-    /// meant that the step is not rounded up.
+    /// A change of fewer units than ticks has the step 0, so that it ends at once and leaves the alpha as it is; hosts
+    /// expect that the step is not rounded up.
     bool Start(int alpha, std::int32_t milliseconds);
 
     /// One tick: the alpha to be shown, which the caller hands to SetAlpha; nothing if no fade runs and the ticks may

@@ -5,7 +5,7 @@
 
 namespace KeyGroups
 {
-/// F2 to F12. F1 is in no group, which is meant: help stays with the window.
+/// F2 to F12. F1 is in no group, as hosts expect: help stays with the window.
 constexpr unsigned int function_keys = 1;
 /// The digit row and the number pad's digits.
 constexpr unsigned int digits = 2;

@@ -45,12 +45,12 @@ public:
     /// Asks the sheet to close; it does so when the message has arrived.
     void CloseDialog();
 
-    /// The title for the next opening; an open sheet keeps its caption, which is meant.
+    /// The title for the next opening; an open sheet keeps its caption, as hosts expect.
     void SetDialogTitle(CString const & title);
     /// Whether the user can drag the sheet's frame; not at first. Set it before the display.
     void SetResizable(bool resizable);
 
-    /// A sheet without pages shows a message and throws a std::exception, which is meant.
+    /// A sheet without pages shows a message and throws a std::exception, as hosts expect.
     BOOL OnInitDialog() override;
 
 protected:

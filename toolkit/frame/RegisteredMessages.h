@@ -35,7 +35,7 @@ extern INSTRUMENT_UI_API unsigned int const WM_XLISTCTRL_EDIT_END;
 extern INSTRUMENT_UI_API unsigned int const WM_XLISTCTRL_ITEM_DBLCLICKED;
 
 /// A link or button of a list cell was clicked. wParam row, lParam column. Registered under the name
-/// "WM_XLISTCTRL_PUSHBUTTON", which is meant: hosts register that name.
+/// "WM_XLISTCTRL_PUSHBUTTON": hosts register that name.
 extern INSTRUMENT_UI_API unsigned int const WM_XLISTCTRL_LINK_CLICKED;
 
 /// A tree item was double-clicked; sent to the parent. wParam mouse flags, lParam the item.

@@ -50,7 +50,7 @@ int Quotient(int design, int present)
     return present != 0 ? design / present : 1;
 }
 
-// The product stays in 32 bits: beyond 214,748 pixels of growth a whole fraction wraps around, and that is meant.
+// The product stays in 32 bits: beyond 214,748 pixels of growth a whole fraction wraps around, and hosts expect that.
 int Placed(int edge, int fraction, int growth)
 {
     return wrapping::Sum(edge, wrapping::Product(fraction, growth) / fraction_whole);
@@ -175,7 +175,7 @@ void CDialogResizer::RepositionChild(CWnd const * child, CSize const * offset, C
         platform.GetWindowRect(platform.HandleOf(m_dialog), present);
         CSize const designSize = SizeOf(m_designRect);
         CSize const presentSize = SizeOf(present);
-        // Whole quotients are meant: a dialog larger than its design size drops the amounts.
+        // Hosts expect whole quotients: a dialog larger than its design size drops the amounts.
         int const factorX = Quotient(designSize.cx, presentSize.cx);
         int const factorY = Quotient(designSize.cy, presentSize.cy);
         shift = CSize(wrapping::Product(shift.cx, factorX), wrapping::Product(shift.cy, factorY));

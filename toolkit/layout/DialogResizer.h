@@ -58,7 +58,7 @@ public:
     /// may be null. Moves nothing; the caller calls OnSize. An unregistered child or an id without a control does
     /// nothing. The child must not be null.
     ///
-    /// scale: the amounts are first multiplied by the whole quotient of design size and present size. It is meant that
+    /// scale: the amounts are first multiplied by the whole quotient of design size and present size. Hosts expect that
     /// this is 1 at the design size and 0 in a direction in which the dialog is larger. Where the dialog has no size at
     /// all the amounts are taken as they are.
     void RepositionChild(CWnd const * child, CSize const * offset, CSize const * growth, bool scale);

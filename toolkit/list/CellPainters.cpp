@@ -277,7 +277,7 @@ void PaintRadioBox(CDC & dc, CRect const & box, int state, bool enabled, CellPal
     graphics.SetSmoothingMode(Gdiplus::SmoothingModeAntiAlias);
     Gdiplus::Pen const pen(ToColor(enabled ? palette.checkFrame : palette.disabled), line_width);
     graphics.DrawPath(&pen, &path);
-    // Of a disabled one it is meant that it doesn't show whether it's on.
+    // Of a disabled one hosts expect that it doesn't show whether it's on.
     if (!enabled)
         return;
 
@@ -303,7 +303,7 @@ void PaintCombo(CellPaint const & paint, CellText const & text, UINT format, int
 
     FillCell(paint);
     CRect room = paint.rect;
-    // It is meant that a disabled cell has no padding either.
+    // Hosts expect that a disabled cell has no padding either.
     if (IsEnabled(paint.cell))
     {
         room.DeflateRect(padding, 0);
@@ -337,7 +337,7 @@ void PaintProgress(CellPaint const & paint, CellPalette const & palette)
         return;
     dc.FillSolidRect(trough, trough_color);
     dc.Draw3dRect(trough, RGB(0, 0, 0), palette.barFrame);
-    // It is meant that a bar at 0 shows no text either.
+    // Hosts expect that a bar at 0 shows no text either.
     if (cell.progressValue <= 0)
         return;
 
@@ -345,7 +345,7 @@ void PaintProgress(CellPaint const & paint, CellPalette const & palette)
     bar.DeflateRect(1, 1, 0, 1);
     CRect rest = bar;
     long long const fill = static_cast<long long>(bar.Width()) * cell.progressValue / percent;
-    // Above 100 it is meant to reach past the cell.
+    // Above 100 hosts expect it to reach past the cell.
     bar.right = static_cast<LONG>(std::min(bar.left + fill - 1, farthest));
     rest.left = bar.right;
     if (!bar.IsRectEmpty())

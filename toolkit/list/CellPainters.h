@@ -77,7 +77,7 @@ UINT TextFormat(UINT alignment, bool ellipsis);
 // One a kind. Each paints all of the rectangle, which is not empty; format is that of the text.
 
 void PaintText(CellPaint const & paint, CellText const & text, UINT format, int padding);
-/// Check boxes and radio buttons. The text is always at the left; an ampersand in it marks a mnemonic, which is meant.
+/// Check boxes and radio buttons. The text is always at the left; an ampersand in it marks a mnemonic, as hosts expect.
 void PaintCheck(CellPaint const & paint, CellText const & text, bool ellipsis, CellPalette const & palette);
 void PaintCombo(CellPaint const & paint, CellText const & text, UINT format, int padding);
 /// Paints the trough alone, which leaves a pixel of the cell free at the left and below. text is the caption's colour,

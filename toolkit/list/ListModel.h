@@ -215,7 +215,7 @@ public:
     bool RemoveCustomDraw(int row, int col);
     /// With the entries that the cell has; plain without any.
     bool InitializeCombo(int row, int col, int selectedId, int defaultId);
-    /// entry: null for the default id, with an empty text even where that has one, which is meant.
+    /// entry: null for the default id, with an empty text even where that has one, as hosts expect.
     void SelectComboEntry(int row, int col, XLISTCTRLDATA & cell, std::pair<int const, wchar_t const *> const * entry);
     bool SelectCombo(int row, int col, int id);
 

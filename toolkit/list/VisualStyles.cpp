@@ -112,7 +112,7 @@ int CVisualStyles::IsStyledPaintingOn() const
     }
     wchar_t theme[name_buffer_size] = {};
     wchar_t color[name_buffer_size] = {};
-    // It is meant that only a failure to name the theme goes on.
+    // Hosts expect that only a failure to name the theme goes on.
     if (SUCCEEDED(GetCurrentThemeName(theme, name_buffer_size, color, name_buffer_size, nullptr, 0)))
     {
         return 0;

@@ -20,7 +20,7 @@ public:
     CVisualStyles & operator=(CVisualStyles const &) = delete;
     ~CVisualStyles();
 
-    /// Whether controls paint themselves with the visual style. The answer is found once in the process; it is meant
+    /// Whether controls paint themselves with the visual style. The answer is found once in the process; hosts expect
     /// that an answer found while the application was not themed becomes 1 from the second call on.
     int IsStyledPaintingOn() const;
 

@@ -58,7 +58,7 @@ void CXHeaderCtrl::OnSysColorChange()
     ReadColors();
 }
 
-// It is meant that a double click is nothing but another press, on a divider too.
+// Hosts expect that a double click is nothing but another press, on a divider too.
 void CXHeaderCtrl::OnLButtonDblClk(UINT flags, CPoint point)
 {
     SendMessage(WM_LBUTTONDOWN, flags, MAKELPARAM(point.x, point.y));

@@ -85,7 +85,7 @@ void CXHeaderCtrl::PaintHeader(CDC * dc)
         if ((item.fmt & HDF_OWNERDRAW) != 0)
         {
             DRAWITEMSTRUCT drawItem = {};
-            drawItem.CtlType = ODT_BUTTON; // meant: not the header's own type
+            drawItem.CtlType = ODT_BUTTON; // hosts expect it: not the header's own type
             drawItem.CtlID = GetDlgCtrlID();
             drawItem.itemID = index;
             drawItem.itemAction = ODA_DRAWENTIRE;
@@ -209,7 +209,7 @@ int CXHeaderCtrl::DrawItemImage(CDC * dc, CRect rect, LPHDITEM item, bool right)
         break;
     }
     default:
-        // A negative number shows nothing and, as is meant, keeps the room of a mark.
+        // A negative number shows nothing and, as hosts expect, keeps the room of a mark.
         break;
     }
     return box.Width();

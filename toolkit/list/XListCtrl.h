@@ -56,7 +56,7 @@ public:
 
     /// Adds a column behind the last one; its index.
     int AddColumn(wchar_t const * title, int format, int width);
-    /// One less than the index at which the column landed, which is meant; -1 without a header.
+    /// One less than the index at which the column landed, as hosts expect; -1 without a header.
     int InsertColumn(int col, wchar_t const * title, int format, int width, int subItem);
     /// Columns that cells can stand in.
     int GetColumnCount() const;
@@ -100,7 +100,7 @@ public:
     int GetSelectedItemAfter(int row) const;
     /// Selects and focuses the row; a negative row clears as SetNoSelection does.
     bool SetCurSel(int row, bool ensureVisible);
-    /// Clears the first selected row only; it is meant that others stay.
+    /// Clears the first selected row only; hosts expect that others stay.
     void SetNoSelection();
 
     // --- Text and values ---
@@ -116,7 +116,7 @@ public:
     bool SetItemFloatVal(int row, int col, float value, wchar_t const * text);
     /// Keeps the time only: neither text nor screen change.
     bool SetItemDatetime(int row, int col, CTime time);
-    /// iImage becomes the cell's image, also where the structure doesn't ask for one, which is meant. 1 on success, -1
+    /// iImage becomes the cell's image, also where the structure doesn't ask for one, as hosts expect. 1 on success, -1
     /// for a negative iItem, else 0.
     int SetItem(LVITEMW const * item);
     /// image: of the small image list; -1 for none.
@@ -153,7 +153,7 @@ public:
     bool SetComboBoxGlobalStrings(int row, int col, int selectedId, int defaultId);
     /// Does not repaint.
     bool SetComboStyle(int row, int col, bool sorted, int visibleItems);
-    /// An unknown id selects the default id and empties the text shown, which is meant.
+    /// An unknown id selects the default id and empties the text shown, as hosts expect.
     bool SetComboSelection(int row, int col, int id);
     bool SetComboSelection(int row, int col, CString const & text);
     /// The selected id; -1 if there is none.
@@ -356,7 +356,7 @@ public:
     /// texts. setMark: the column's header shows an arrow, and every other mark goes, check boxes too; with a negative
     /// column that is all that happens. Any other column that does not exist changes nothing.
     void SortByColumn(int col, bool ascending, bool setMark, int (*compare)(long long, long long, long long));
-    /// From now on the user can drag a row onto another one, which swaps the two. There is no way back. It is meant
+    /// From now on the user can drag a row onto another one, which swaps the two. There is no way back. Hosts expect
     /// that the list goes on marking rows below the pointer after the first drop, and that a later release of the
     /// button over another row swaps the row last dragged with it.
     void EnableDragAndDrop();
@@ -380,7 +380,7 @@ public:
     void EnableItemToolTipps();
     /// The tooltip of cells without one.
     void SetDefaultToolTipText(wchar_t const * text);
-    /// It is meant that only the tooltip of column 1 shows, over all cells of the row.
+    /// Hosts expect that only the tooltip of column 1 shows, over all cells of the row.
     bool SetItemToolTipText(int row, int col, wchar_t const * text);
     /// The cell's own tooltip; empty if it has none.
     CString GetItemToolTipText(int row, int col);

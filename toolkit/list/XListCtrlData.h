@@ -139,11 +139,11 @@ public:
     /// Painter of a custom-drawn cell: row, column, device context, the cell's rectangle.
     std::function<void(int, int, CDC *, CRect const &)> customDraw;
 
-    /// Everything as in a new cell, but for toolTipText, progressFormat and progressShowText, which stay. That is
-    /// meant: a recycled row keeps the tooltips and the progress format of the row that it once was.
+    /// Everything as in a new cell, but for toolTipText, progressFormat and progressShowText, which stay, as hosts
+    /// expect: a recycled row keeps the tooltips and the progress format of the row that it once was.
     INSTRUMENT_UI_API void Recycle();
 
-    // Changes of kind. It is meant that some keep the look of the cell and others forget it and enable the cell.
+    // Changes of kind. Hosts expect that some keep the look of the cell and others forget it and enable the cell.
 
     /// Plain: keeps the enabled bit and the high byte, takes any check or radio state away.
     INSTRUMENT_UI_API void MakePlain();

@@ -90,7 +90,7 @@ void CXListCtrl::begin_drag(NMHDR * header, LRESULT * result)
     ClientToScreen(&screen);
     ::ImageList_DragEnter(nullptr, screen.x, screen.y);
     m_drag->target = -1;
-    m_drag->cursor = DragState::arrow_cursor;
+    m_drag->cursor = IDC_ARROW;
     SetCapture();
 }
 
@@ -141,11 +141,11 @@ bool CXListCtrl::FollowDrag(CPoint point)
         UpdateWindow();
     if (!watch.IsAlive())
         return false;
-    long long const cursor = target != -1 ? DragState::arrow_cursor : DragState::refusing_cursor;
+    LPCWSTR const cursor = target != -1 ? IDC_ARROW : IDC_NO;
     if (m_drag->cursor != cursor)
     {
         m_drag->cursor = cursor;
-        ::SetCursor(::LoadCursorW(nullptr, MAKEINTRESOURCEW(cursor)));
+        ::SetCursor(::LoadCursorW(nullptr, cursor));
     }
     ::ImageList_DragShowNolock(TRUE);
     return true;

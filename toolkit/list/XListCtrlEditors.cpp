@@ -164,7 +164,7 @@ LRESULT CXListCtrl::OnXEditEscape(WPARAM, LPARAM)
     EndEdit();
     if (!watch.IsAlive())
         return 0;
-    // The cell that was edited last gets its former text back even if its edit is gone, which is meant.
+    // The cell that was edited last gets its former text back even if its edit is gone, as hosts expect.
     CListCtrl::SetItemText(row, col, before);
     if (watch.IsAlive())
         UpdateSubItem(row, col);

@@ -75,14 +75,11 @@ struct CXListCtrl::SortState
 
 struct CXListCtrl::DragState
 {
-    // The cursors of a drag, by the numbers of the system's resources.
-    static constexpr long long arrow_cursor = 32512;
-    static constexpr long long refusing_cursor = 32648;
-
     bool enabled = false;
     int source = -1;
     int target = -1;
-    long long cursor = arrow_cursor;
+    /// A name of the system's.
+    LPCWSTR cursor = IDC_ARROW;
     CImageList image;
     /// Trades of two rows under way: for a moment both share one object.
     int rowSwaps = 0;

@@ -78,7 +78,7 @@ BOOL CXListCtrl::OnToolTipText(UINT, NMHDR * header, LRESULT * result)
     auto const [row, col] = GetItem(point);
     if (row >= 0 && col >= 0)
     {
-        // It is meant that the column under the pointer does not matter.
+        // Hosts expect that the column under the pointer does not matter.
         XLISTCTRLDATA const * const cell = ValidCell(row, tooltip_column);
         if (cell != nullptr && !cell->toolTipText.IsEmpty())
             text = &cell->toolTipText;

@@ -24,10 +24,10 @@ int HeaderStateOfCells(unsigned long long rows, unsigned long long unchecked, un
 bool HeaderFollowsCells(int headerState);
 
 /// Whether a cell in that state counts when cells in the state searched are counted. A negative state other than
-/// XLC_NONE stands for any check or radio state; XLC_NONE itself counts every cell, which is meant.
+/// XLC_NONE stands for any check or radio state; XLC_NONE itself counts every cell, as hosts expect.
 bool CountsAsChecked(int checkedState, int searched);
 
 /// The row that a list of single selection shows selected after a navigation key. selectedBefore: the row before the
-/// key, not negative. down: Down or Page Down, else Up or Page Up. It is meant that these keys leave any row but the
+/// key, not negative. down: Down or Page Down, else Up or Page Up. Hosts expect that these keys leave any row but the
 /// first selected.
 int RowAfterNavigationKey(int selectedBefore, int rowCount, bool down, std::function<bool(int)> const & isEnabled);

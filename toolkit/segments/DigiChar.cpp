@@ -16,7 +16,7 @@ constexpr std::int32_t fourteen_segment_count = 14;
 constexpr std::int32_t colon_segment_count = 3;
 
 // Blank, digits from 1 on, "-", "_" and the degree sign. "_" lights the middle bar as "-" does, and the degree sign
-// has no upper right segment but a bottom, and a bit without a segment; both are meant.
+// has no upper right segment but a bottom, and a bit without a segment; hosts expect both.
 constexpr std::uint8_t seven_segment_masks[] = {0x00, 0x77, 0x24, 0x5D, 0x6D, 0x2E, 0x6B,
                                                 0x7B, 0x25, 0x7F, 0x6F, 0x08, 0x08, 0xC3};
 

@@ -58,7 +58,7 @@ public:
     static constexpr std::int32_t segment_capacity = 14;
 
     CDigiChar() = default;
-    /// Copies all but the outlines, which stay empty; they arrive through assignment. This is meant.
+    /// Copies all but the outlines, which stay empty; they arrive through assignment. Hosts expect that.
     CDigiChar(CDigiChar const & other);
     /// Copies the outlines of the other's segments; those behind them stay what they were.
     CDigiChar & operator=(CDigiChar const & other);
@@ -76,12 +76,12 @@ public:
     ///
     /// With a region, the outline of every segment painted is merged into it; a region without a handle takes the first
     /// one. The outline is asked for after it has been painted, when the device context has used it up, so that the
-    /// platform has none to give and the region stays as it is; this order is meant.
+    /// platform has none to give and the region stays as it is; hosts expect this order.
     void DrawGdi(CDC * dc, const double rect[4], CPen * offPen, CPen * onPen, CBrush * offBrush, CBrush * onBrush,
                  CRgn * region) const;
 
     /// Paints into rect (left, top, right, bottom in device units) on a graphics object: all outlines as polygons, lit
-    /// segments edged with onPen and filled, unlit ones filled. offPen is never used, which is meant.
+    /// segments edged with onPen and filled, unlit ones filled. offPen is never used, as hosts expect.
     void DrawGdiPlus(Gdiplus::Graphics & graphics, const double rect[4], Gdiplus::Pen & offPen, Gdiplus::Pen & onPen,
                      Gdiplus::Brush & offBrush, Gdiplus::Brush & onBrush) const;
 

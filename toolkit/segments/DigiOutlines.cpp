@@ -25,7 +25,7 @@ constexpr CDigiSegment seven_middle_round = {
     {{8, 41}, {12, 45}, {36, 45}, {40, 41}, {36, 37}, {12, 37}}, {6, 2, 2, 2, 2, 2}, 6};
 
 constexpr CDigiSegment fourteen_centre = {{{20, 13}, {20, 36}, {24, 40}, {28, 36}, {28, 13}}, {6, 2, 2, 2, 2}, 5};
-// The fifth point is meant: curves leave it out, polygons run to it, so that they carry a spike to the left edge.
+// Hosts expect the fifth point: curves leave it out, polygons run to it, so that they carry a spike to the left edge.
 constexpr CDigiSegment fourteen_diagonal = {{{5, 5}, {15, 35}, {20, 37}, {18, 25}, {4, 23}}, {6, 2, 2, 2, 6}, 5};
 constexpr CDigiSegment fourteen_half_bar = {
     {{6, 41}, {14, 45}, {18, 45}, {22, 41}, {18, 37}, {14, 37}}, {6, 2, 2, 2, 2, 2}, 6};

@@ -21,7 +21,7 @@ class Graphics;
 /// Paints a line of segment text into a rectangle of a graphics object, in one scale for both directions. No window: a
 /// view holds it as a member and asks it to paint. Background and smoothing are the caller's business.
 ///
-/// A copy shares the characters with its original, which is meant: a new text of the one shows in the other, in the
+/// A copy shares the characters with its original, as hosts expect: a new text of the one shows in the other, in the
 /// other's old length and width, until a text is too long for the array that they share. The characters are deleted
 /// with the last object that has them. Displays that are to be independent are set up one by one.
 class INSTRUMENT_UI_API CLedTextAnzeiger

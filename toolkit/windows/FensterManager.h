@@ -83,7 +83,7 @@ public:
     /// CalcMyPosition and SaveMyPosition(false) for every manager in the list.
     void SaveAllPositions() const;
     /// Binds the window, which may be null, reads its record and applies it to a live window. The show command stays as
-    /// it is, so a window that was maximised comes back in its normal rectangle; that is meant.
+    /// it is, so a window that was maximised comes back in its normal rectangle; hosts expect that.
     void ReadMyPosition(CWnd * window);
     /// Deletes what is stored of this window; true if all four entries could be deleted.
     bool EraseMyPosition();

@@ -130,7 +130,7 @@ void CMainFrmInterface::add_accelerator(unsigned short key, unsigned char flags,
         return;
     HACCEL & table = m_frame->m_hAccelTable;
     int const count = EntryCount(table);
-    // The block stays, which is meant.
+    // The block stays, as hosts expect.
     ACCEL * const entries = AllocateEntries(count + 1);
     if (entries == nullptr)
         return;

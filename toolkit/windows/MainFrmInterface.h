@@ -68,7 +68,7 @@ public:
     int register_menu(unsigned int parent, wchar_t const * text, std::function<void()> callback, unsigned short key,
                       unsigned char flags);
     /// Removes a command and its accelerator; false if it is unknown. Of a command without an accelerator the table's
-    /// last one goes, which is meant.
+    /// last one goes, as hosts expect.
     bool release_menu(int id);
 
     /// Writes the application's whole registry key to a file, or replaces it by one; see SettingsFile.h. False if it
@@ -80,7 +80,7 @@ public:
 protected:
     /// Reserves panes for all identifiers that the workspace knows, so that it can restore them. They take the pool's
     /// objects from its start; one that is given out for a gap between them later can share an object with one of
-    /// these. That is meant.
+    /// these. Hosts expect that.
     void assign_panes();
     /// Deletes what the workspace has stored of panes without a view. To be called once all owners have theirs.
     void release_orphan_panes();
@@ -98,7 +98,7 @@ protected:
     /// Which of these commands the popup has, as its index in the order of their addition; -1 if none, or without a
     /// popup. The first in that order counts.
     int lookup_item(CMFCPopupMenu * popup) const;
-    /// Forgets all dynamic commands. Their accelerators stay and then lead nowhere, which is meant.
+    /// Forgets all dynamic commands. Their accelerators stay, as hosts expect, and then lead nowhere.
     void dismiss_menu_callbacks();
 
 private:

@@ -37,7 +37,7 @@ void AppendAccelerator(Accelerator * table, int count, unsigned char flags, unsi
 }
 
 /// Takes the command's first accelerator out, the others moving up, and gives the new count: it is one less in any
-/// case, so that without one of the command the last accelerator is lost. That is meant.
+/// case, so that without one of the command the last accelerator is lost. Hosts expect that.
 template <class Accelerator> int RemoveAccelerator(Accelerator * table, int count, int id)
 {
     Accelerator * const end = table + count;

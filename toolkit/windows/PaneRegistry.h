@@ -44,7 +44,7 @@ int Register(panes_t<Pane> & panes, Pane (&pool)[max_panes], unsigned int base, 
 }
 
 /// Reserves panes for the identifiers that have something stored, in their order and from the pool's start whatever the
-/// identifiers are. That a pane given out for a gap later may share its object with one of these is meant.
+/// identifiers are. A pane given out for a gap later may share its object with one of these, as hosts expect.
 /// hasState: takes an identifier and tells whether something is stored of it.
 template <class Pane, class HasState>
 void Assign(panes_t<Pane> & panes, Pane (&pool)[max_panes], unsigned int base, HasState hasState)

@@ -34,6 +34,5 @@ public:
 
 private:
     std::function<HKEY()> m_applicationKey;
-    std::vector<wchar_t> m_name;
 };
 } // namespace registry_settings

@@ -61,8 +61,7 @@ private:
 } // namespace
 
 RegistrySettingsTree::RegistrySettingsTree(std::function<HKEY()> applicationKey)
-    : m_applicationKey(std::move(applicationKey)),
-      m_name(name_room)
+    : m_applicationKey(std::move(applicationKey))
 {
 }
 
@@ -108,12 +107,13 @@ SettingsTree::counts_t RegistrySettingsTree::Count(key_t key)
 
 bool RegistrySettingsTree::DescribeValue(key_t key, std::uint32_t index, registry_entry & entry)
 {
+    wchar_t name[name_room];
     DWORD length = name_room;
     DWORD type = 0;
     DWORD size = 0;
-    if (::RegEnumValueW(HandleOf(key), index, m_name.data(), &length, nullptr, &type, nullptr, &size) != ERROR_SUCCESS)
+    if (::RegEnumValueW(HandleOf(key), index, name, &length, nullptr, &type, nullptr, &size) != ERROR_SUCCESS)
         return false;
-    entry.name.assign(m_name.begin(), m_name.begin() + length);
+    entry.name.assign(name, name + length);
     entry.value_type = type;
     entry.data.resize(size);
     return true;
@@ -121,25 +121,26 @@ bool RegistrySettingsTree::DescribeValue(key_t key, std::uint32_t index, registr
 
 bool RegistrySettingsTree::ReadValue(key_t key, std::uint32_t index, registry_entry & entry)
 {
+    wchar_t name[name_room];
     DWORD length = name_room;
     DWORD size = static_cast<DWORD>(entry.data.size());
     // Without room for data, no data would be asked for.
     BYTE nothing = 0;
     BYTE * const data = entry.data.empty() ? &nothing : entry.data.data();
-    if (::RegEnumValueW(HandleOf(key), index, m_name.data(), &length, nullptr, nullptr, data, &size) != ERROR_SUCCESS)
+    if (::RegEnumValueW(HandleOf(key), index, name, &length, nullptr, nullptr, data, &size) != ERROR_SUCCESS)
         return false;
-    entry.name.assign(m_name.begin(), m_name.begin() + length);
+    entry.name.assign(name, name + length);
     entry.data.resize(size);
     return true;
 }
 
 bool RegistrySettingsTree::SubkeyName(key_t key, std::uint32_t index, std::u16string & name)
 {
+    wchar_t text[name_room];
     DWORD length = name_room;
-    if (::RegEnumKeyExW(HandleOf(key), index, m_name.data(), &length, nullptr, nullptr, nullptr, nullptr) !=
-        ERROR_SUCCESS)
+    if (::RegEnumKeyExW(HandleOf(key), index, text, &length, nullptr, nullptr, nullptr, nullptr) != ERROR_SUCCESS)
         return false;
-    name.assign(m_name.begin(), m_name.begin() + length);
+    name.assign(text, text + length);
     return true;
 }
 

@@ -157,7 +157,7 @@ bool read_settings(std::istream & stream, registry_entry_list & list)
 {
     list.clear();
     char version = 0;
-    // Formatted input, which skips white space, is meant.
+    // Formatted input, which skips white space: hosts expect that.
     if (!(stream >> std::skipws >> version) || version != format_version)
         return false;
     FieldReader reader(stream);
@@ -196,7 +196,7 @@ bool import_registry_settings(SettingsTree & tree, settings_file_names const & f
         return false;
     std::error_code error;
     std::filesystem::rename(files.plain, files.restored, error);
-    // The file has its other name before it is applied, which is meant: an import that fails is not tried again.
+    // The file has its other name before it is applied, as hosts expect: an import that fails is not tried again.
     return !error && write_registry_tree(tree, list);
 }
 } // namespace registry_settings

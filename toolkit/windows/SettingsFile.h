@@ -33,7 +33,7 @@ INSTRUMENT_UI_API settings_file_names settings_files(std::filesystem::path const
 INSTRUMENT_UI_API bool write_settings(std::ostream & stream, registry_entry_list const & list);
 
 /// Fills the list with the records; it is emptied before. False if the version is not 1, white space before it being
-/// skipped, or if reading fails otherwise than by the end. A last record that is cut is left out, which is meant. The
+/// skipped, or if reading fails otherwise than by the end. A last record that is cut is left out, as hosts expect. The
 /// lengths in a damaged file take no memory that its bytes don't need.
 INSTRUMENT_UI_API bool read_settings(std::istream & stream, registry_entry_list & list);
 

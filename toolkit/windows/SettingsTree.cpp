@@ -155,7 +155,7 @@ bool write_registry_tree(SettingsTree & tree, registry_entry_list & list)
 {
     if (!delete_registry_tree(tree, {}))
         return false;
-    // For reading, and never closed: both are meant.
+    // For reading, and never closed: hosts expect both.
     SettingsTree::key_t const root = tree.Open({}, SettingsTree::access_t::read);
     return root != 0 && Replay(tree, root, list);
 }

@@ -109,10 +109,10 @@ public:
 INSTRUMENT_UI_API bool read_registry_tree(SettingsTree & tree, registry_entry_list & list);
 
 /// Replaces the whole tree by the list, which is used up from its front. False if the tree can't be deleted or a record
-/// be carried out; the tree then holds what was written until then and the list begins with that record. It is meant
-/// that a key's end at the root ends it all successfully, and that missing ends are none at the end of the list. It is
-/// also meant that the root is opened for reading alone and stays open: where a tree refuses values through such a key,
-/// a list with values of the root fails.
+/// be carried out; the tree then holds what was written until then and the list begins with that record. Hosts expect
+/// that a key's end at the root ends it all successfully, and that missing ends are none at the end of the list. They
+/// also expect that the root is opened for reading alone and stays open: where a tree refuses values through such a
+/// key, a list with values of the root fails.
 INSTRUMENT_UI_API bool write_registry_tree(SettingsTree & tree, registry_entry_list & list);
 
 /// Deletes a key below the root with all that lies beneath it. False if it can't be opened for that; what then fails is

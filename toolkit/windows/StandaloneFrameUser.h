@@ -30,7 +30,8 @@ public:
     CStandaloneFrameUser & operator=(CStandaloneFrameUser const & other);
     virtual ~CStandaloneFrameUser() = 0;
 
-    /// The frame is about to end; said once. An override calls the base class, or FrameLebt stays true; that is meant.
+    /// The frame is about to end; said once. An override calls the base class, or FrameLebt stays true; hosts expect
+    /// that.
     virtual void BeiFrameAbleben();
     /// A command of the frame's menu; the two numbers are the host's convention. Does nothing by default.
     virtual void MenueKommando(int first, int second);

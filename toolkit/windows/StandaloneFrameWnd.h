@@ -60,7 +60,7 @@ public:
     static void SetTouchFreeze(bool freeze);
 
     BOOL PreCreateWindow(CREATESTRUCT & cs) override;
-    /// The argument is ignored: the frame shows itself in its manager's show mode. That is meant.
+    /// The argument is ignored: the frame shows itself in its manager's show mode. Hosts expect that.
     void ActivateFrame(int nCmdShow = -1) override;
     /// Always 1.
     int IsReadOnly() override;

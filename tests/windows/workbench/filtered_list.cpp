@@ -48,7 +48,7 @@ class FilteredRecordingList : public testing::Test
 protected:
     void SetUp() override
     {
-        ASSERT_TRUE(m_list.CreateList(m_parent, list_id, m_metrics));
+        ASSERT_TRUE(m_list.CreateList(m_host, list_id, m_metrics));
         m_list.SetWindowPos(nullptr, 0, 0, 1160, 260, SWP_NOZORDER);
     }
     void TearDown() override { m_list.DestroyWindow(); }
@@ -91,7 +91,7 @@ protected:
     static void EndGesture() { tests::PumpPosted(100000); }
 
     workbench::ScreenMetrics m_metrics;
-    tests::ScopedWindow m_parent{CRect(20, 20, 1220, 400)};
+    tests::ScopedWindow m_host{CRect(20, 20, 1220, 400)};
     CRecordingList m_list;
 };
 
@@ -316,7 +316,7 @@ TEST_F(FilteredRecordingList, UndoPutsTheOrderBack)
     click.hdr.code = LVN_COLUMNCLICK;
     click.iItem = -1;
     click.iSubItem = CRecordingList::column_rms;
-    m_parent.SendMessage(WM_NOTIFY, list_id, reinterpret_cast<LPARAM>(&click));
+    m_host.SendMessage(WM_NOTIFY, list_id, reinterpret_cast<LPARAM>(&click));
     EndGesture();
     EXPECT_EQ(Rows(), (Lines{5, 4, 3, 2, 1, 0}));
     EXPECT_TRUE(m_list.Undo());

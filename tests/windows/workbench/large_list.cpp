@@ -64,7 +64,7 @@ class LargeRecordingList : public testing::Test
 protected:
     void Fill(CountingList & list, int lines)
     {
-        ASSERT_TRUE(list.CreateList(m_parent, list_id, m_metrics));
+        ASSERT_TRUE(list.CreateList(m_host, list_id, m_metrics));
         list.SetWindowPos(nullptr, 0, 0, 1160, 260, SWP_NOZORDER);
         std::vector<std::filesystem::path> files;
         for (int i = 0; i < lines; ++i)
@@ -93,7 +93,7 @@ protected:
     static constexpr int many = 1000;
 
     workbench::ScreenMetrics m_metrics;
-    tests::ScopedWindow m_parent{CRect(20, 20, 1220, 400)};
+    tests::ScopedWindow m_host{CRect(20, 20, 1220, 400)};
 };
 
 // A pass over all lines for each line would make it ten times as many.
@@ -218,7 +218,7 @@ TEST_F(LargeRecordingList, AGestureOverAllLinesIsToldOnce)
     click.hdr.code = LVN_COLUMNCLICK;
     click.iItem = -1;
     click.iSubItem = CRecordingList::column_check;
-    m_parent.SendMessage(WM_NOTIFY, list_id, reinterpret_cast<LPARAM>(&click));
+    m_host.SendMessage(WM_NOTIFY, list_id, reinterpret_cast<LPARAM>(&click));
     tests::PumpPosted(100000);
     EXPECT_EQ(told, 2);
     EXPECT_EQ(list.Totals().Checked(), 0U);

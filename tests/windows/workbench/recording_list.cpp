@@ -62,10 +62,10 @@ protected:
     void SetUp() override
     {
         ClipboardTest::SetUp();
-        ASSERT_TRUE(m_list.CreateList(m_parent, list_id, m_metrics));
+        ASSERT_TRUE(m_list.CreateList(m_host, list_id, m_metrics));
         m_list.SetWindowPos(nullptr, 0, 0, 1160, 260, SWP_NOZORDER);
         Show();
-        ASSERT_TRUE(tests::BringToFront(m_parent.m_hWnd));
+        ASSERT_TRUE(tests::BringToFront(m_host.m_hWnd));
         m_list.SetFocus();
         m_list.UpdateWindow();
         tests::PumpPosted();
@@ -124,7 +124,7 @@ protected:
     }
 
     workbench::ScreenMetrics m_metrics;
-    tests::ScopedWindow m_parent{CRect(20, 20, 1220, 400)};
+    tests::ScopedWindow m_host{CRect(20, 20, 1220, 400)};
     CRecordingList m_list;
 
 private:
@@ -408,7 +408,7 @@ TEST_F(RecordingListTest, RowsAndColumnsGrowWithTheResolution)
     auto const measure = [this](int dotsPerInch) {
         workbench::ScreenMetrics metrics(dotsPerInch);
         CRecordingList list;
-        EXPECT_TRUE(list.CreateList(m_parent, list_id + 1, metrics));
+        EXPECT_TRUE(list.CreateList(m_host, list_id + 1, metrics));
         list.ShowFiles({L"C:\\a.wav"}, {{}});
         CRect row;
         list.GetItemRect(0, &row, LVIR_BOUNDS);

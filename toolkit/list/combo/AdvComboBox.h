@@ -69,7 +69,7 @@ public:
 
     /// The item whose text the combo shows: free text in the edit field gives -1, whatever was selected.
     int GetCurSel() const;
-    /// It is meant that the edit field keeps its text.
+    /// Hosts expect that the edit field keeps its text.
     int SetCurSel(int index);
 
     /// The edit field's text, or without one the text shown.
@@ -88,7 +88,7 @@ public:
     /// The open drop window or null. Owned by the combo; any message can end it.
     CDropWnd * GetDropWnd() const { return m_drop; }
 
-    /// index -1, height 10 to 50. It is meant that the height is not kept.
+    /// index -1, height 10 to 50. Hosts expect that the height is not kept.
     int SetItemHeight(int index, int height);
     /// ComboFlags; the next drop window follows them.
     void ModifyComboFlags(DWORD remove, DWORD add);

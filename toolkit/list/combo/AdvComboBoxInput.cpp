@@ -19,7 +19,7 @@ constexpr UINT hot_delay = 50; // ms
 
 constexpr UINT escape_character = 27;
 constexpr UINT return_character = 13;
-/// Meant: the code of VK_DOWN, looked for among characters.
+/// Hosts expect it: the code of VK_DOWN, looked for among characters.
 constexpr UINT next_character = 40;
 
 /// A text is being written into the edit field of some combo, whose change is not to be completed again. One for the

@@ -106,7 +106,7 @@ void CAdvComboBox::PaintStyledFrame(CDC & dc, CRect const & client, CRect button
     if (!enabled)
     {
         COLORREF const outline = theme.Color(theme_button, state, fill_color, RGB(255, 255, 255));
-        theme.Color(theme_filled_part, state, fill_color, 255); // asked for and not used, which is meant
+        theme.Color(theme_filled_part, state, fill_color, 255); // asked for and not used, as hosts expect
         CPen pen(PS_SOLID, 1, outline);
         CBrush brush(::GetSysColor(COLOR_BTNFACE));
         ContextStateScope const saved(dc);

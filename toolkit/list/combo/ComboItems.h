@@ -48,7 +48,7 @@ public:
     /// An index of -1 or beyond the count appends. A selection at or behind the index moves on with its item. Gives the
     /// new item's index.
     int Insert(int index, std::wstring text);
-    /// Gives the new count. It is meant that the selection stays a number, whatever item then has it.
+    /// Gives the new count. Hosts expect that the selection stays a number, whatever item then has it.
     int Delete(int index);
     /// Takes all items and the selection away.
     void Reset();
@@ -70,7 +70,7 @@ public:
     /// What the arrow keys select next in a closed combo: the nearest item before or behind the selection that is not
     /// disabled.
     std::optional<int> Neighbour(bool forward) const;
-    /// What the page keys select: ten items on, disabled ones not left out, which is meant.
+    /// What the page keys select: ten items on, disabled ones not left out, as hosts expect.
     std::optional<int> PageNeighbour(bool forward) const;
 
     /// What completes the text typed: the first item that begins with it.

@@ -222,7 +222,7 @@ void CDropListBox::HandCaptureToParent()
 void CDropListBox::OnMouseMove(UINT flags, CPoint point)
 {
     WindowAlive const watch(*this, m_life);
-    // It is meant that a point outside goes on to find its row.
+    // Hosts expect that a point outside goes on to find its row.
     if (IsOutside(point))
         HandCaptureToParent();
     if (!watch.IsAlive())
@@ -241,7 +241,7 @@ void CDropListBox::OnMouseMove(UINT flags, CPoint point)
 void CDropListBox::OnLButtonUp(UINT, CPoint point)
 {
     WindowAlive const watch(*this, m_life);
-    // It is meant that the selection is chosen all the same.
+    // Hosts expect that the selection is chosen all the same.
     if (IsOutside(point))
         HandCaptureToParent();
     if (!watch.IsAlive() || IsDisabled(RowAt(point)))

@@ -59,7 +59,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
     CAdvComboBox * m_combo;
-    /// Made and never selected, which is meant.
+    /// Made and never selected, as hosts expect.
     std::unique_ptr<CFont> m_font;
     CDropScrollBar * m_scroll;
     int m_lastTop = 0;

@@ -70,7 +70,7 @@ GripResult SizeByGrip(GripRequest const & request)
                                 : std::min(static_cast<long long>(request.width), request.maxWidth);
     result.right = static_cast<int>(request.left + width);
     if (request.height < request.arrowHeight)
-        result.bottom = request.top + request.arrowWidth + 1; // the width, which is meant
+        result.bottom = request.top + request.arrowWidth + 1; // the width, as hosts expect
     else if (request.height > request.maxHeight)
         result.bottom = static_cast<int>(request.top + request.maxHeight);
     else

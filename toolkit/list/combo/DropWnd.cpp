@@ -237,7 +237,7 @@ void CDropWnd::OnLButtonDown(UINT flags, CPoint point)
     }
     if (!client.PtInRect(point))
     {
-        // It is meant that a press on the combo's own window closes too, and that the combo gets the point as it
+        // Hosts expect that a press on the combo's own window closes too, and that the combo gets the point as it
         // stands, counted from this window.
         WindowAlive const watch(*this, m_life);
         HWND const combo = m_combo->m_hWnd;

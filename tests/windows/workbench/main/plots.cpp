@@ -56,48 +56,48 @@ protected:
 
     void SetUp() override
     {
-        ASSERT_TRUE(view.CreateView(parent, view_id, metrics));
-        view.MoveWindow(0, 0, view_width, view_height);
-        path = WriteTone(frames, "plot.wav");
-        view.m_onMarks = [this] { ++changes; };
+        ASSERT_TRUE(m_view.CreateView(m_host, view_id, m_metrics));
+        m_view.MoveWindow(0, 0, view_width, view_height);
+        m_path = WriteTone(frames, "plot.wav");
+        m_view.m_onMarks = [this] { ++m_changes; };
     }
     void TearDown() override
     {
-        parent.DestroyWindow();
+        m_host.DestroyWindow();
         std::error_code error;
-        std::filesystem::remove(path, error);
+        std::filesystem::remove(m_path, error);
     }
 
     /// Has the view drawn, so that it knows where its plot is.
     void DrawIt()
     {
-        view.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+        m_view.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
         tests::PumpUntil([] { return true; });
     }
     LPARAM Screen(int x, int y)
     {
         CPoint point(x, y);
-        view.ClientToScreen(&point);
+        m_view.ClientToScreen(&point);
         return MAKELPARAM(point.x, point.y);
     }
     void Wheel(int notches, UINT keys, int x)
     {
-        view.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(keys, notches * WHEEL_DELTA), Screen(x, view_height / 2));
+        m_view.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(keys, notches * WHEEL_DELTA), Screen(x, view_height / 2));
     }
     void Press(int x, UINT keys = MK_LBUTTON)
     {
-        view.SendMessage(WM_LBUTTONDOWN, keys, MAKELPARAM(x, view_height / 2));
+        m_view.SendMessage(WM_LBUTTONDOWN, keys, MAKELPARAM(x, view_height / 2));
     }
-    void Move(int x) { view.SendMessage(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(x, view_height / 2)); }
-    void Release(int x) { view.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(x, view_height / 2)); }
-    void Key(UINT key) { view.SendMessage(WM_KEYDOWN, key, 0); }
-    FrameRange Shown() const { return view.Marks().window.Shown(); }
+    void Move(int x) { m_view.SendMessage(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(x, view_height / 2)); }
+    void Release(int x) { m_view.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(x, view_height / 2)); }
+    void Key(UINT key) { m_view.SendMessage(WM_KEYDOWN, key, 0); }
+    FrameRange Shown() const { return m_view.Marks().window.Shown(); }
 
-    workbench::ScreenMetrics metrics;
-    tests::ScopedWindow parent{CRect(50, 50, 50 + view_width + 20, 50 + view_height + 40)};
-    View view;
-    std::filesystem::path path;
-    int changes = 0;
+    workbench::ScreenMetrics m_metrics;
+    tests::ScopedWindow m_host{CRect(50, 50, 50 + view_width + 20, 50 + view_height + 40)};
+    View m_view;
+    std::filesystem::path m_path;
+    int m_changes = 0;
 };
 
 class WaveformPlot : public PlotTest<CWaveformView>
@@ -106,18 +106,18 @@ protected:
     void SetUp() override
     {
         PlotTest::SetUp();
-        workbench::RecordingAnalyser analyser(path);
+        workbench::RecordingAnalyser analyser(m_path);
         while (analyser.Step())
             continue;
-        analysis = std::make_shared<workbench::RecordingAnalysis const>(analyser.Take());
-        view.ShowRecording(L"Tone", analysis, path);
+        m_analysis = std::make_shared<workbench::RecordingAnalysis const>(analyser.Take());
+        m_view.ShowRecording(L"Tone", m_analysis, m_path);
         DrawIt();
-        plot = view.PlotPlace();
-        changes = 0;
+        m_plot = m_view.PlotPlace();
+        m_changes = 0;
     }
 
-    std::shared_ptr<workbench::RecordingAnalysis const> analysis;
-    CRect plot;
+    std::shared_ptr<workbench::RecordingAnalysis const> m_analysis;
+    CRect m_plot;
 };
 
 class SpectrogramPlot : public PlotTest<CSpectrogramView>
@@ -126,8 +126,8 @@ protected:
     void SetUp() override
     {
         PlotTest::SetUp();
-        view.ShowRecording(L"Tone", path);
-        ASSERT_TRUE(tests::PumpUntil([this] { return !view.IsComputing(); }));
+        m_view.ShowRecording(L"Tone", m_path);
+        ASSERT_TRUE(tests::PumpUntil([this] { return !m_view.IsComputing(); }));
         DrawIt();
     }
 };
@@ -136,110 +136,110 @@ protected:
 TEST_F(WaveformPlot, ShowsAllAtFirst)
 {
     EXPECT_EQ(Shown(), (FrameRange{0, frames}));
-    EXPECT_FALSE(view.Marks().HasSelection());
+    EXPECT_FALSE(m_view.Marks().HasSelection());
 }
 
 TEST_F(WaveformPlot, TheWheelZoomsAtThePointer)
 {
-    int const x = plot.left + plot.Width() / 4;
-    std::uint64_t const held = view.Marks().window.FrameAt(plot.Width() / 4 - 1, plot.Width() - 2);
+    int const x = m_plot.left + m_plot.Width() / 4;
+    std::uint64_t const held = m_view.Marks().window.FrameAt(m_plot.Width() / 4 - 1, m_plot.Width() - 2);
     Wheel(1, 0, x);
     EXPECT_EQ(Shown().Length(), 320000U);
     DrawIt();
-    EXPECT_NEAR(view.Marks().window.XOf(held, plot.Width() - 2), plot.Width() / 4 - 1, 1);
+    EXPECT_NEAR(m_view.Marks().window.XOf(held, m_plot.Width() - 2), m_plot.Width() / 4 - 1, 1);
     Wheel(-1, 0, x);
     EXPECT_EQ(Shown(), (FrameRange{0, frames}));
-    EXPECT_EQ(changes, 2);
+    EXPECT_EQ(m_changes, 2);
 }
 
 TEST_F(WaveformPlot, TheWheelScrollsWithShiftAndAmplifiesWithCtrl)
 {
-    Wheel(2, 0, plot.left + 1);
+    Wheel(2, 0, m_plot.left + 1);
     FrameRange const before = Shown();
-    Wheel(-1, MK_SHIFT, plot.left + 1);
+    Wheel(-1, MK_SHIFT, m_plot.left + 1);
     EXPECT_GT(Shown().first, before.first);
     EXPECT_EQ(Shown().Length(), before.Length());
     FrameRange const scrolled = Shown();
-    Wheel(1, MK_CONTROL, plot.left + 1);
-    EXPECT_GT(view.Amplification(), 0);
+    Wheel(1, MK_CONTROL, m_plot.left + 1);
+    EXPECT_GT(m_view.Amplification(), 0);
     EXPECT_EQ(Shown(), scrolled);
 }
 
 TEST_F(WaveformPlot, AStripShowsThePartAndScrolls)
 {
-    int const top = view.PlotPlace().top;
-    Wheel(4, 0, plot.left + 1);
+    int const top = m_view.PlotPlace().top;
+    Wheel(4, 0, m_plot.left + 1);
     DrawIt();
-    EXPECT_GT(view.PlotPlace().top, top) << "there is a strip above the plot";
+    EXPECT_GT(m_view.PlotPlace().top, top) << "there is a strip above the plot";
     std::uint64_t const length = Shown().Length();
     // A press at the strip's right end brings the end of the recording.
-    CPoint const end(plot.right - 2, view.PlotPlace().top - 8);
-    view.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(end.x, end.y));
+    CPoint const end(m_plot.right - 2, m_view.PlotPlace().top - 8);
+    m_view.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(end.x, end.y));
     EXPECT_EQ(Shown(), (FrameRange{frames - length, frames}));
-    view.SendMessage(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(plot.left, end.y));
+    m_view.SendMessage(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(m_plot.left, end.y));
     EXPECT_EQ(Shown(), (FrameRange{0, length}));
-    view.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(plot.left, end.y));
-    view.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(plot.right, end.y));
+    m_view.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(m_plot.left, end.y));
+    m_view.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(m_plot.right, end.y));
     EXPECT_EQ(Shown(), (FrameRange{0, length})) << "the button is up";
     Key(VK_MULTIPLY);
-    EXPECT_EQ(view.PlotPlace().top, top);
+    EXPECT_EQ(m_view.PlotPlace().top, top);
 }
 
 TEST_F(WaveformPlot, AClickSetsTheCursorAndDraggingSelects)
 {
-    int const middle = (plot.left + plot.right) / 2;
+    int const middle = (m_plot.left + m_plot.right) / 2;
     Press(middle);
     Release(middle);
-    EXPECT_NEAR(static_cast<double>(*view.Cursor()), frames / 2.0, frames / 200.0);
-    EXPECT_FALSE(view.Marks().HasSelection());
-    std::uint64_t const from = *view.Cursor();
+    EXPECT_NEAR(static_cast<double>(*m_view.Cursor()), frames / 2.0, frames / 200.0);
+    EXPECT_FALSE(m_view.Marks().HasSelection());
+    std::uint64_t const from = *m_view.Cursor();
     Press(middle);
     Move(middle + 50);
     Move(middle + 100);
     Release(middle + 100);
-    ASSERT_TRUE(view.Marks().HasSelection());
-    EXPECT_EQ(view.Marks().Selection().first, from);
-    EXPECT_EQ(view.Marks().Selection().end, *view.Cursor());
+    ASSERT_TRUE(m_view.Marks().HasSelection());
+    EXPECT_EQ(m_view.Marks().Selection().first, from);
+    EXPECT_EQ(m_view.Marks().Selection().end, *m_view.Cursor());
     Press(middle - 30);
     Release(middle - 30);
-    EXPECT_FALSE(view.Marks().HasSelection());
+    EXPECT_FALSE(m_view.Marks().HasSelection());
 }
 
 TEST_F(WaveformPlot, ShiftAndAClickExtend)
 {
-    Press(plot.left + 100);
-    Release(plot.left + 100);
-    std::uint64_t const from = *view.Cursor();
-    Press(plot.left + 200, MK_LBUTTON | MK_SHIFT);
-    Release(plot.left + 200);
-    EXPECT_EQ(view.Marks().Selection().first, from);
-    Press(plot.left + 50, MK_LBUTTON | MK_SHIFT);
-    Release(plot.left + 50);
-    EXPECT_EQ(view.Marks().Selection().end, from);
+    Press(m_plot.left + 100);
+    Release(m_plot.left + 100);
+    std::uint64_t const from = *m_view.Cursor();
+    Press(m_plot.left + 200, MK_LBUTTON | MK_SHIFT);
+    Release(m_plot.left + 200);
+    EXPECT_EQ(m_view.Marks().Selection().first, from);
+    Press(m_plot.left + 50, MK_LBUTTON | MK_SHIFT);
+    Release(m_plot.left + 50);
+    EXPECT_EQ(m_view.Marks().Selection().end, from);
 }
 
 TEST_F(WaveformPlot, WhatIsSelectedFillsThePlotByKeyOrDoubleClick)
 {
-    Press(plot.left + 100);
-    Move(plot.left + 200);
-    Release(plot.left + 200);
-    FrameRange const selection = view.Marks().Selection();
+    Press(m_plot.left + 100);
+    Move(m_plot.left + 200);
+    Release(m_plot.left + 200);
+    FrameRange const selection = m_view.Marks().Selection();
     Key(VK_RETURN);
     EXPECT_EQ(Shown(), selection);
     Key(VK_MULTIPLY);
-    EXPECT_TRUE(view.Marks().window.ShowsAll());
+    EXPECT_TRUE(m_view.Marks().window.ShowsAll());
     DrawIt();
-    view.SendMessage(WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(plot.left + 150, plot.bottom - 10));
+    m_view.SendMessage(WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(m_plot.left + 150, m_plot.bottom - 10));
     EXPECT_EQ(Shown(), selection);
     Key(VK_ESCAPE);
-    EXPECT_FALSE(view.Marks().HasSelection());
-    view.SendMessage(WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(plot.left + 150, plot.bottom - 10));
-    EXPECT_TRUE(view.Marks().window.ShowsAll());
+    EXPECT_FALSE(m_view.Marks().HasSelection());
+    m_view.SendMessage(WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(m_plot.left + 150, m_plot.bottom - 10));
+    EXPECT_TRUE(m_view.Marks().window.ShowsAll());
 }
 
 TEST_F(WaveformPlot, KeysZoomAtTheCursorAndScroll)
 {
-    view.MoveCursor(frames / 2);
+    m_view.MoveCursor(frames / 2);
     Key(VK_ADD);
     EXPECT_EQ(Shown(), (FrameRange{80000, 400000}));
     Key(VK_OEM_PLUS);
@@ -258,35 +258,35 @@ TEST_F(WaveformPlot, KeysZoomAtTheCursorAndScroll)
     EXPECT_EQ(Shown().first, 0U);
     for (int i = 0; i < 9; ++i)
         Key(VK_OEM_MINUS);
-    EXPECT_TRUE(view.Marks().window.ShowsAll());
+    EXPECT_TRUE(m_view.Marks().window.ShowsAll());
 }
 
 TEST_F(WaveformPlot, DraggingBeyondTheEdgeScrolls)
 {
-    Wheel(8, 0, plot.left + 1);
+    Wheel(8, 0, m_plot.left + 1);
     DrawIt();
     std::uint64_t const end = Shown().end;
-    Press(plot.left + 20);
-    Move(plot.right + 100);
+    Press(m_plot.left + 20);
+    Move(m_plot.right + 100);
     EXPECT_GT(Shown().end, end);
-    EXPECT_EQ(*view.Cursor(), Shown().end - 1);
-    Release(plot.right + 100);
+    EXPECT_EQ(*m_view.Cursor(), Shown().end - 1);
+    Release(m_plot.right + 100);
 }
 
 TEST_F(WaveformPlot, AnotherRecordingStartsAfresh)
 {
-    Wheel(4, 0, plot.left + 100);
-    Press(plot.left + 100);
-    Move(plot.left + 150);
-    view.ShowText(L"Nothing", L"");
+    Wheel(4, 0, m_plot.left + 100);
+    Press(m_plot.left + 100);
+    Move(m_plot.left + 150);
+    m_view.ShowText(L"Nothing", L"");
     EXPECT_EQ(Shown(), (FrameRange{0, 0}));
-    Move(plot.left + 160);
-    Release(plot.left + 160);
-    Wheel(1, 0, plot.left + 100);
+    Move(m_plot.left + 160);
+    Release(m_plot.left + 160);
+    Wheel(1, 0, m_plot.left + 100);
     Key(VK_ADD);
     Key(VK_RETURN);
-    view.ShowRecording(L"Tone", analysis);
-    EXPECT_EQ(view.Marks(), TimeMarks(frames));
+    m_view.ShowRecording(L"Tone", m_analysis);
+    EXPECT_EQ(m_view.Marks(), TimeMarks(frames));
 }
 
 TEST_F(WaveformPlot, TakesMarksOfTheSameRecordingOnly)
@@ -294,12 +294,12 @@ TEST_F(WaveformPlot, TakesMarksOfTheSameRecordingOnly)
     TimeMarks marks(frames);
     marks.window.Show({1000, 3000});
     marks.cursor = 2000;
-    view.SetMarks(marks);
-    EXPECT_EQ(view.Marks(), marks);
-    EXPECT_EQ(view.Cursor(), 2000U);
-    EXPECT_EQ(changes, 0) << "what comes from outside is not told back";
-    view.SetMarks(TimeMarks(frames - 1));
-    EXPECT_EQ(view.Marks(), marks);
+    m_view.SetMarks(marks);
+    EXPECT_EQ(m_view.Marks(), marks);
+    EXPECT_EQ(m_view.Cursor(), 2000U);
+    EXPECT_EQ(m_changes, 0) << "what comes from outside is not told back";
+    m_view.SetMarks(TimeMarks(frames - 1));
+    EXPECT_EQ(m_view.Marks(), marks);
 }
 
 TEST_F(WaveformPlot, SingleSamplesAreSeen)
@@ -307,10 +307,10 @@ TEST_F(WaveformPlot, SingleSamplesAreSeen)
     // 16 samples of a tone of 1,000 Hz are a third of a period: the plot rises and falls by single steps.
     TimeMarks marks(frames);
     marks.window.Show({frames - 48, frames});
-    view.SetMarks(marks);
+    m_view.SetMarks(marks);
     tests::Canvas canvas(view_width, view_height);
-    canvas.PrintClient(view);
-    CRect const inside = view.PlotPlace();
+    canvas.PrintClient(m_view);
+    CRect const inside = m_view.PlotPlace();
     // One period: the trace is above the centre in the first half and below in the second.
     int const centre = inside.CenterPoint().y;
     COLORREF const trace = workbench::TraceColour({}, 0);
@@ -355,7 +355,7 @@ TEST_F(WaveformPlot, RandomUseStaysInTheRecording)
             Key(keys[random() % std::size(keys)]);
             break;
         }
-        TimeMarks const & marks = view.Marks();
+        TimeMarks const & marks = m_view.Marks();
         ASSERT_LE(marks.window.Shown().end, frames);
         ASSERT_GE(marks.window.Shown().Length(), workbench::TimeWindow::least_frames);
         ASSERT_LT(marks.cursor, frames);
@@ -365,30 +365,30 @@ TEST_F(WaveformPlot, RandomUseStaysInTheRecording)
 
 TEST_F(SpectrogramPlot, TheWheelZoomsAndTheClickReads)
 {
-    EXPECT_EQ(view.Marks(), TimeMarks(frames));
+    EXPECT_EQ(m_view.Marks(), TimeMarks(frames));
     Wheel(1, 0, view_width / 2);
     EXPECT_EQ(Shown().Length(), 320000U);
-    EXPECT_EQ(changes, 1);
-    EXPECT_EQ(view.Reading(), L"");
+    EXPECT_EQ(m_changes, 1);
+    EXPECT_EQ(m_view.Reading(), L"");
     Press(view_width / 2);
     Release(view_width / 2);
-    EXPECT_NE(view.Reading().find(L" Hz, "), std::wstring::npos) << view.Reading();
-    EXPECT_GT(view.Marks().cursor, 0U);
+    EXPECT_NE(m_view.Reading().find(L" Hz, "), std::wstring::npos) << m_view.Reading();
+    EXPECT_GT(m_view.Marks().cursor, 0U);
 }
 
 TEST_F(SpectrogramPlot, ReadsTheTonesLevel)
 {
     TimeMarks marks(frames);
     marks.cursor = frames - 4800;
-    view.SetMarks(marks);
+    m_view.SetMarks(marks);
     // The line that is the loudest reads as 1,000 Hz, on one side or the other.
     std::wstring loudest;
     int best = -1000;
     for (int y = 40; y < view_height - 20; ++y)
     {
-        view.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(view_width - 110, y));
-        view.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(view_width - 110, y));
-        std::wstring const reading = view.Reading();
+        m_view.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(view_width - 110, y));
+        m_view.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(view_width - 110, y));
+        std::wstring const reading = m_view.Reading();
         auto const at = reading.rfind(L", ");
         int const level =
             at == std::wstring::npos || reading[at + 2] == L'<' ? -1000 : std::stoi(reading.substr(at + 2));
@@ -407,73 +407,73 @@ TEST_F(SpectrogramPlot, ReadsTheTonesLevel)
 
 TEST_F(SpectrogramPlot, ANarrowPartIsComputedAnewWhileTheFormerIsSeen)
 {
-    path = WriteTone(4800000, "long.wav");
-    view.ShowRecording(L"Long", path);
-    ASSERT_TRUE(tests::PumpUntil([this] { return !view.IsComputing(); }));
+    m_path = WriteTone(4800000, "long.wav");
+    m_view.ShowRecording(L"Long", m_path);
+    ASSERT_TRUE(tests::PumpUntil([this] { return !m_view.IsComputing(); }));
     TimeMarks marks(4800000);
     marks.window.Show({2400000, 2410000});
-    view.SetMarks(marks);
+    m_view.SetMarks(marks);
     tests::Canvas before(view_width, view_height);
-    before.PrintClient(view);
+    before.PrintClient(m_view);
     // It is started a moment after the last change.
-    ASSERT_TRUE(tests::PumpUntil([this] { return view.IsComputing(); }));
-    ASSERT_TRUE(tests::PumpUntil([this] { return !view.IsComputing(); }));
+    ASSERT_TRUE(tests::PumpUntil([this] { return m_view.IsComputing(); }));
+    ASSERT_TRUE(tests::PumpUntil([this] { return !m_view.IsComputing(); }));
     tests::Canvas after(view_width, view_height);
-    after.PrintClient(view);
+    after.PrintClient(m_view);
     EXPECT_FALSE(tests::SamePixels(before, after));
-    EXPECT_EQ(view.Marks(), marks);
+    EXPECT_EQ(m_view.Marks(), marks);
 }
 
 TEST_F(SpectrogramPlot, OtherSettingsAreComputedAndKeepTheMarks)
 {
     Wheel(2, 0, view_width / 2);
-    TimeMarks const marks = view.Marks();
-    view.SetSettings({4096, 75});
-    EXPECT_TRUE(view.IsComputing());
-    ASSERT_TRUE(tests::PumpUntil([this] { return !view.IsComputing(); }));
-    EXPECT_EQ(view.Marks(), marks);
-    view.SetSettings({4096, 75});
-    EXPECT_FALSE(view.IsComputing());
+    TimeMarks const marks = m_view.Marks();
+    m_view.SetSettings({4096, 75});
+    EXPECT_TRUE(m_view.IsComputing());
+    ASSERT_TRUE(tests::PumpUntil([this] { return !m_view.IsComputing(); }));
+    EXPECT_EQ(m_view.Marks(), marks);
+    m_view.SetSettings({4096, 75});
+    EXPECT_FALSE(m_view.IsComputing());
 }
 
 TEST_F(SpectrogramPlot, OtherSettingsReachThePartShown)
 {
-    path = WriteTone(4800000, "long.wav");
-    view.ShowRecording(L"Long", path);
-    ASSERT_TRUE(tests::PumpUntil([this] { return !view.IsComputing(); }));
+    m_path = WriteTone(4800000, "long.wav");
+    m_view.ShowRecording(L"Long", m_path);
+    ASSERT_TRUE(tests::PumpUntil([this] { return !m_view.IsComputing(); }));
     TimeMarks marks(4800000);
     marks.window.Show({2400000, 2410000});
-    view.SetMarks(marks);
-    view.SetSettings({1024, 50});
+    m_view.SetMarks(marks);
+    m_view.SetSettings({1024, 50});
     // All of it first, and then the part, a moment later.
     for (int job = 0; job < 2; ++job)
     {
-        ASSERT_TRUE(tests::PumpUntil([this] { return view.IsComputing(); })) << job;
-        ASSERT_TRUE(tests::PumpUntil([this] { return !view.IsComputing(); })) << job;
+        ASSERT_TRUE(tests::PumpUntil([this] { return m_view.IsComputing(); })) << job;
+        ASSERT_TRUE(tests::PumpUntil([this] { return !m_view.IsComputing(); })) << job;
     }
 }
 
 TEST_F(SpectrogramPlot, OtherSettingsBeforeTheFirstResultKeepTheProgress)
 {
-    path = WriteTone(4800000, "long.wav");
-    view.ShowRecording(L"Long", path);
-    view.SetSettings({4096, 75});
-    EXPECT_TRUE(view.IsComputing());
-    EXPECT_TRUE(view.GetWindow(GW_CHILD)->IsWindowVisible());
-    ASSERT_TRUE(tests::PumpUntil([this] { return !view.IsComputing(); }));
-    EXPECT_FALSE(view.GetWindow(GW_CHILD)->IsWindowVisible());
+    m_path = WriteTone(4800000, "long.wav");
+    m_view.ShowRecording(L"Long", m_path);
+    m_view.SetSettings({4096, 75});
+    EXPECT_TRUE(m_view.IsComputing());
+    EXPECT_TRUE(m_view.GetWindow(GW_CHILD)->IsWindowVisible());
+    ASSERT_TRUE(tests::PumpUntil([this] { return !m_view.IsComputing(); }));
+    EXPECT_FALSE(m_view.GetWindow(GW_CHILD)->IsWindowVisible());
 }
 
 TEST_F(SpectrogramPlot, AnEndWhileAPartIsComputed)
 {
-    path = WriteTone(4800000, "long.wav");
-    view.ShowRecording(L"Long", path);
-    ASSERT_TRUE(tests::PumpUntil([this] { return !view.IsComputing(); }));
+    m_path = WriteTone(4800000, "long.wav");
+    m_view.ShowRecording(L"Long", m_path);
+    ASSERT_TRUE(tests::PumpUntil([this] { return !m_view.IsComputing(); }));
     TimeMarks marks(4800000);
     marks.window.Show({2400000, 2800000});
-    view.SetMarks(marks);
-    ASSERT_TRUE(tests::PumpUntil([this] { return view.IsComputing(); }));
-    view.DestroyWindow();
+    m_view.SetMarks(marks);
+    ASSERT_TRUE(tests::PumpUntil([this] { return m_view.IsComputing(); }));
+    m_view.DestroyWindow();
 }
 
 namespace
@@ -507,11 +507,11 @@ TEST_F(WaveformPlot, PlayingMovesAMarkThroughIt)
     CPlaying playing([&heard] { return std::make_unique<QuietDevice>(heard); });
     std::vector<std::uint64_t> positions;
     playing.m_onMoved = [&](std::optional<std::uint64_t> frame) {
-        view.ShowPlaying(frame);
+        m_view.ShowPlaying(frame);
         if (frame)
             positions.push_back(*frame);
     };
-    playing.Play(parent, path, {48000, 144000});
+    playing.Play(m_host, m_path, {48000, 144000});
     EXPECT_TRUE(playing.IsPlaying());
     ASSERT_TRUE(tests::PumpUntil([&] { return !playing.IsPlaying(); }));
     ASSERT_GT(positions.size(), 5U);
@@ -524,22 +524,22 @@ TEST_F(WaveformPlot, PlayingTurnsThePageAsLongAsTheUserIsThere)
 {
     TimeMarks marks(frames);
     marks.window.Show({0, 100000});
-    view.SetMarks(marks);
-    view.ShowPlaying(99000);
-    view.ShowPlaying(100500);
+    m_view.SetMarks(marks);
+    m_view.ShowPlaying(99000);
+    m_view.ShowPlaying(100500);
     EXPECT_EQ(Shown(), (FrameRange{100500, 200500}));
     marks.window.Show({300000, 400000});
-    view.SetMarks(marks);
-    view.ShowPlaying(150000);
-    view.ShowPlaying(450000);
+    m_view.SetMarks(marks);
+    m_view.ShowPlaying(150000);
+    m_view.ShowPlaying(450000);
     EXPECT_EQ(Shown(), (FrameRange{300000, 400000})) << "the user has scrolled away";
-    view.ShowPlaying(std::nullopt);
+    m_view.ShowPlaying(std::nullopt);
 }
 
 TEST_F(WaveformPlot, TheSpaceBarPlays)
 {
     int pressed = 0;
-    view.m_onPlay = [&pressed] { ++pressed; };
+    m_view.m_onPlay = [&pressed] { ++pressed; };
     Key(VK_SPACE);
     EXPECT_EQ(pressed, 1);
 }
@@ -547,14 +547,14 @@ TEST_F(WaveformPlot, TheSpaceBarPlays)
 TEST_F(WaveformPlot, WithoutADeviceTheUserIsTold)
 {
     CPlaying playing([] { return std::unique_ptr<workbench::AudioDevice>(); });
-    ::SetTimer(parent.m_hWnd, 99, 10, [](HWND window, UINT, UINT_PTR id, DWORD) {
+    ::SetTimer(m_host.m_hWnd, 99, 10, [](HWND window, UINT, UINT_PTR id, DWORD) {
         if (HWND const box = ::GetLastActivePopup(window); box != window)
         {
             ::KillTimer(window, id);
             ::PostMessageW(box, WM_COMMAND, IDOK, 0);
         }
     });
-    playing.Play(parent, path, {});
+    playing.Play(m_host, m_path, {});
     EXPECT_FALSE(playing.IsPlaying());
 }
 
@@ -564,7 +564,7 @@ TEST_F(WaveformPlot, PlayingEndsWithItsObject)
     auto playing = std::make_unique<CPlaying>([&heard] { return std::make_unique<QuietDevice>(heard); });
     int moves = 0;
     playing->m_onMoved = [&moves](auto) { ++moves; };
-    playing->Play(parent, path, {});
+    playing->Play(m_host, m_path, {});
     playing->m_onMoved = nullptr;
     playing.reset();
     int const before = moves;
@@ -574,9 +574,9 @@ TEST_F(WaveformPlot, PlayingEndsWithItsObject)
 
 TEST_F(WaveformPlot, IsSavedAsAPicture)
 {
-    std::filesystem::path const file = path.wstring() + L".png";
-    auto const draw = [this](CDC & dc, CRect const & rect) { view.Print(dc, rect); };
-    ASSERT_TRUE(workbench::SavePicture(parent, CSize(400, 200), draw, file));
+    std::filesystem::path const file = m_path.wstring() + L".png";
+    auto const draw = [this](CDC & dc, CRect const & rect) { m_view.Print(dc, rect); };
+    ASSERT_TRUE(workbench::SavePicture(m_host, CSize(400, 200), draw, file));
     workbench::GraphicsScope const graphics;
     {
         Gdiplus::Bitmap picture(file.c_str());
@@ -596,20 +596,20 @@ TEST_F(WaveformPlot, IsSavedAsAPicture)
         EXPECT_GT(other, 10);
     }
     // Where it can't be written, what was there stays.
-    EXPECT_FALSE(workbench::SavePicture(parent, CSize(0, 0), draw, file));
+    EXPECT_FALSE(workbench::SavePicture(m_host, CSize(0, 0), draw, file));
     EXPECT_TRUE(std::filesystem::exists(file));
-    EXPECT_FALSE(workbench::SavePicture(parent, CSize(40, 20), draw, L"Z:\\no such folder\\picture.png"));
+    EXPECT_FALSE(workbench::SavePicture(m_host, CSize(40, 20), draw, L"Z:\\no such folder\\picture.png"));
     std::error_code error;
     std::filesystem::remove(file, error);
 }
 
 TEST_F(WaveformPlot, IsCopiedAsAMetafileAndAsABitmap)
 {
-    ASSERT_TRUE(workbench::CopyPicture(parent, CSize(300, 150),
-                                       [this](CDC & dc, CRect const & rect) { view.Print(dc, rect); }));
+    ASSERT_TRUE(workbench::CopyPicture(m_host, CSize(300, 150),
+                                       [this](CDC & dc, CRect const & rect) { m_view.Print(dc, rect); }));
     EXPECT_TRUE(::IsClipboardFormatAvailable(CF_ENHMETAFILE));
     ASSERT_TRUE(::IsClipboardFormatAvailable(CF_DIB));
-    ASSERT_TRUE(::OpenClipboard(parent.m_hWnd));
+    ASSERT_TRUE(::OpenClipboard(m_host.m_hWnd));
     HANDLE const memory = ::GetClipboardData(CF_DIB);
     auto const * const header =
         static_cast<BITMAPINFOHEADER const *>(memory != nullptr ? ::GlobalLock(memory) : nullptr);
