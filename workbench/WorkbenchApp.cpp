@@ -65,6 +65,9 @@ BOOL CWorkbenchApp::InitInstance()
     SetRegistryKey(company);
     m_preferences = std::make_unique<RegistryPreferenceStore>(CString(company), CString(application_name));
     CVeskBase::SetPreferenceVesk(m_preferences.get());
+    // Windows may stand on any screen that there is.
+    CFensterManager::SetNurEinMonitor(false);
+    CFensterManager::KeepWithinReach(true);
 
     m_graphics = std::make_unique<workbench::GraphicsScope>();
     workbench::UseLanguage(workbench::ReadLanguage());

@@ -33,6 +33,7 @@ protected:
         CFensterManager main(CFensterManager::window_main);
         main.SetNowExit(false);
         CFensterManager::SetNurEinMonitor(true);
+        CFensterManager::KeepWithinReach(false);
         CFensterManager::SetTabbedViews(false);
         platform.Reset();
     }

@@ -266,3 +266,76 @@ TEST_F(WindowManagerRead, ExtremeStoredValuesWrapAround)
     Store(INT_MAX, INT_MAX, INT_MAX, INT_MAX);
     EXPECT_EQ(Sides(Read(CFensterManager::window_main).rcNormalPosition), Numbers(1880, 1020, 1880, 1020));
 }
+
+TEST_F(WindowManagerRead, WithinReachIsOnlyBroughtWhatTheHostAsksFor)
+{
+    CFensterManager::SetNurEinMonitor(false);
+    EXPECT_FALSE(CFensterManager::KeepsWithinReach());
+    Store(5000, 100, 5800, 700);
+    EXPECT_EQ(Sides(Read(CFensterManager::window_main).rcNormalPosition), Numbers(5000, 100, 5800, 700));
+    EXPECT_EQ(platform.screenReads, 0);
+    for (std::string const & call : store.calls)
+        EXPECT_EQ(call.find("Bildschirme"), std::string::npos) << call;
+}
+
+TEST_F(WindowManagerRead, WithinReachOfAScreenThatIsGone)
+{
+    CFensterManager::SetNurEinMonitor(false);
+    CFensterManager::KeepWithinReach(true);
+    Store(5000, 100, 5800, 700);
+    for (CFensterManager::window_t const type :
+         {CFensterManager::window_main, CFensterManager::window_view, CFensterManager::window_sizable_dialog})
+    {
+        EXPECT_EQ(Sides(Read(type).rcNormalPosition), Numbers(1120, 100, 1920, 700)) << type;
+    }
+    // The size that it was designed with.
+    EXPECT_EQ(Sides(Read(CFensterManager::window_dialog).rcNormalPosition), Numbers(1420, 100, 1920, 450));
+}
+
+TEST_F(WindowManagerRead, WithinReachComesNoChildWindow)
+{
+    CFensterManager::SetNurEinMonitor(false);
+    CFensterManager::KeepWithinReach(true);
+    Store(5000, 100, 5800, 700);
+    FakeWindow & window = platform.Add("child");
+    window.style = WS_CHILD;
+    CFensterManager manager(L"Name", CFensterManager::window_mdi_child);
+    manager.ReadMyPosition(window.Object());
+    EXPECT_EQ(Sides(window.placement.rcNormalPosition), Numbers(5000, 100, 5800, 700));
+}
+
+TEST_F(WindowManagerRead, WithinReachCountsFromTheWorkArea)
+{
+    CFensterManager::SetNurEinMonitor(false);
+    CFensterManager::KeepWithinReach(true);
+    platform.screens = {{CRect(50, 40, 1920, 1080), 96}};
+    platform.placementOrigin = CPoint(50, 40);
+    Store(0, 0, 800, 600);
+    EXPECT_EQ(Sides(Read(CFensterManager::window_main).rcNormalPosition), Numbers(0, 0, 800, 600));
+    Store(-10, -10, 790, 590);
+    EXPECT_EQ(Sides(Read(CFensterManager::window_main).rcNormalPosition), Numbers(0, 0, 800, 600));
+}
+
+TEST_F(WindowManagerRead, WithinReachTheScreensAndTheirResolutionAreKeptAlong)
+{
+    CFensterManager::SetNurEinMonitor(false);
+    CFensterManager::KeepWithinReach(true);
+    platform.screens = {{CRect(0, 0, 1920, 1080), 96}, {CRect(1920, 0, 3840, 1080), 144}};
+    FakeWindow & window = platform.Add("window");
+    window.placement.rcNormalPosition = {1000, 100, 3800, 900};
+    {
+        CFensterManager manager(L"Name", CFensterManager::window_main);
+        manager.CalcMyPosition(window.Object());
+        manager.SaveMyPosition(false);
+    }
+    EXPECT_EQ((store.values[{L"Name-Bildschirme", 0}]), FingerprintOf(platform.screens));
+    EXPECT_EQ((store.values[{L"Name-Bildschirme", 1}]), 144);
+    // On the same screens it may be larger than one of them.
+    EXPECT_EQ(Sides(Read(CFensterManager::window_main).rcNormalPosition), Numbers(1000, 100, 3800, 900));
+    platform.screens.pop_back();
+    EXPECT_EQ(Sides(Read(CFensterManager::window_main).rcNormalPosition), Numbers(53, 100, 1920, 633))
+        << "from 144 to 96 dots an inch";
+    CFensterManager manager(L"Name", CFensterManager::window_main);
+    manager.EraseMyPosition();
+    EXPECT_EQ(store.values.count({L"Name-Bildschirme", 0}), 0U);
+}

@@ -2,6 +2,7 @@
 
 #include "frame/PreferenceStore.h"
 #include "frame/WrappingArithmetic.h"
+#include "windows/ReachablePlace.h"
 #include "windows/WindowPlatform.h"
 
 IMPLEMENT_DYNAMIC(CFensterManager, CObject)
@@ -18,6 +19,7 @@ constexpr wchar_t suffix_open[] = L"-IstOffen";
 constexpr wchar_t suffix_shape[] = L"-Gestalt";
 constexpr wchar_t suffix_position[] = L"-Fensterpos";
 constexpr wchar_t suffix_extremes[] = L"-FensterposMM";
+constexpr wchar_t suffix_screens[] = L"-Bildschirme";
 
 constexpr int shape_normal = 0;
 constexpr int shape_maximised = 1;
@@ -39,6 +41,9 @@ constexpr unsigned int placement_length = 44;
 constexpr DWORD minimise_and_maximise_box = WS_MINIMIZEBOX | WS_MAXIMIZEBOX;
 constexpr unsigned int redraw_frame_without_children = RDW_INVALIDATE | RDW_NOCHILDREN | RDW_FRAME;
 
+/// See KeepWithinReach.
+bool keeps_within_reach = false;
+
 static_assert(sizeof(WINDOWPLACEMENT) == placement_length);
 
 CString KeyOf(CString const & name, wchar_t const * suffix)
@@ -47,6 +52,12 @@ CString KeyOf(CString const & name, wchar_t const * suffix)
     key.Replace(L' ', L'_');
     key.Replace(L':', L'-');
     return key + suffix;
+}
+
+CRect Shifted(RECT const & rect, CPoint distance)
+{
+    return CRect(wrapping::Sum(rect.left, distance.x), wrapping::Sum(rect.top, distance.y),
+                 wrapping::Sum(rect.right, distance.x), wrapping::Sum(rect.bottom, distance.y));
 }
 } // namespace
 
@@ -163,6 +174,16 @@ void CFensterManager::SetNurEinMonitor(bool onlyOne)
     m_nurEinMonitor = onlyOne;
 }
 
+bool CFensterManager::KeepsWithinReach()
+{
+    return keeps_within_reach;
+}
+
+void CFensterManager::KeepWithinReach(bool keep)
+{
+    keeps_within_reach = keep;
+}
+
 bool CFensterManager::TabbedViews()
 {
     return m_tabbedViews;
@@ -223,6 +244,22 @@ void CFensterManager::SaveMyPosition(bool closing) const
     store->LookupSetInt(extremesKey, m_placement.ptMinPosition.y, 1);
     store->LookupSetInt(extremesKey, m_placement.ptMaxPosition.x, 2);
     store->LookupSetInt(extremesKey, m_placement.ptMaxPosition.y, 3);
+    if (keeps_within_reach)
+        StoreScreens(*store);
+}
+
+void CFensterManager::StoreScreens(CResourceVesk & store) const
+{
+    WindowPlatform & platform = WindowPlatform::Instance();
+    CWnd const * const target = m_type == window_view ? platform.Owner(*m_wnd) : m_wnd;
+    auto const origin = target != nullptr ? platform.PlacementOrigin(*target) : std::nullopt;
+    if (!origin)
+        return;
+    auto const screens = platform.Screens();
+    ScreenArea const * const screen = ScreenOf(Shifted(m_placement.rcNormalPosition, *origin), screens);
+    CString const key = KeyOf(m_name, suffix_screens);
+    store.LookupSetInt(key, FingerprintOf(screens), 0);
+    store.LookupSetInt(key, screen != nullptr ? screen->dpi : 0, 1);
 }
 
 void CFensterManager::SaveAllPositions() const
@@ -286,10 +323,27 @@ void CFensterManager::ReadMyPosition(CWnd * window)
 
     if (m_nurEinMonitor)
         MoveOntoScreen(read);
+    if (keeps_within_reach && m_wnd != nullptr && platform.IsWindow(*m_wnd))
+        BringWithinReach(*store);
     m_placement.flags = m_gestalt == shape_iconic ? WPF_SETMINPOSITION : 0;
 
     if (m_wnd != nullptr && platform.IsWindow(*m_wnd))
         SetMyPosition(window);
+}
+
+void CFensterManager::BringWithinReach(CResourceVesk & store)
+{
+    WindowPlatform & platform = WindowPlatform::Instance();
+    CWnd const * const target = m_type == window_view ? platform.Owner(*m_wnd) : m_wnd;
+    auto const origin = target != nullptr ? platform.PlacementOrigin(*target) : std::nullopt;
+    if (!origin)
+        return;
+    CString const key = KeyOf(m_name, suffix_screens);
+    StoredPlace const stored{Shifted(m_placement.rcNormalPosition, *origin), store.LookupGetInt(key, 0, 0),
+                             store.LookupGetInt(key, 1, 0)};
+    CRect const place = ReachablePlace(stored, platform.Screens(), {platform.CaptionHeight(), m_type != window_dialog});
+    if (place != stored.rect)
+        m_placement.rcNormalPosition = Shifted(place, CPoint(-origin->x, -origin->y));
 }
 
 // Every comparison looks at the rectangle as it was read, never at one that an earlier comparison has shifted.
@@ -332,6 +386,8 @@ bool CFensterManager::EraseMyPosition()
     bool erased = true;
     for (wchar_t const * const suffix : {suffix_open, suffix_shape, suffix_position, suffix_extremes})
         erased = store->Delete(KeyOf(m_name, suffix)) != 0 && erased;
+    if (keeps_within_reach)
+        store->Delete(KeyOf(m_name, suffix_screens));
     return erased;
 }
 

@@ -7,6 +7,7 @@
 
 #include "frame/Export.h"
 
+class CResourceVesk;
 class CWnd;
 
 /// The memory of one named window: where it stands, written to and read from the preference store under keys made from
@@ -70,6 +71,12 @@ public:
     static bool NurEinMonitor();
     /// Sets that, for all windows.
     static void SetNurEinMonitor(bool onlyOne);
+    /// Whether a position that is read is brought to where its caption can be reached and its size fits, if the screens
+    /// are not those that there were when it was stored (ReachablePlace.h). Not at first. Without effect on child
+    /// windows.
+    static bool KeepsWithinReach();
+    /// Sets that, for all windows. The screens are then stored along with each position, under a key of their own.
+    static void KeepWithinReach(bool keep);
     /// Whether views are shown as tabs, so that the positions of views and child frames are not stored.
     static bool TabbedViews();
     /// Sets that, for all windows.
@@ -129,6 +136,8 @@ private:
     void init();
     void SetMyPosition(CWnd * window);
     void MoveOntoScreen(CRect const & read);
+    void BringWithinReach(CResourceVesk & store);
+    void StoreScreens(CResourceVesk & store) const;
     static bool HasWindow(CFensterManager * manager);
     static void Freeze(CFensterManager & manager, bool freeze);
 

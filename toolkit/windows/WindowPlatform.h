@@ -6,6 +6,11 @@
 #include <afx.h>
 #include <atltypes.h>
 
+#include <optional>
+#include <vector>
+
+#include "windows/ReachablePlace.h"
+
 class CWnd;
 
 class WindowPlatform
@@ -17,6 +22,13 @@ public:
 
     /// The work area of the primary screen.
     virtual CRect WorkArea() = 0;
+    /// The screens, the primary one first.
+    virtual std::vector<ScreenArea> Screens() = 0;
+    /// From a window's upper edge down to its caption's lower edge.
+    virtual int CaptionHeight() = 0;
+    /// Where the coordinates of the window's normal rectangle have their origin; null if that is not on the screen, as
+    /// with a child window's.
+    virtual std::optional<CPoint> PlacementOrigin(CWnd const & window) = 0;
 
     /// Whether the window object has a handle and that is alive.
     virtual bool IsWindow(CWnd const & window) = 0;

@@ -9,6 +9,39 @@ void SendHandleToParent(CWnd & window, UINT message)
     ::SendMessageW(window.GetParent()->GetSafeHwnd(), message, reinterpret_cast<WPARAM>(window.m_hWnd), 0);
 }
 
+/// The screen's resolution; that of the whole system where it isn't told for each screen.
+int DpiOf(HMONITOR monitor)
+{
+    using GetDpiForMonitor = HRESULT(WINAPI *)(HMONITOR, int, UINT *, UINT *);
+    static auto const ask = [] {
+        HMODULE const module = ::LoadLibraryExW(L"shcore.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
+        FARPROC const function = module != nullptr ? ::GetProcAddress(module, "GetDpiForMonitor") : nullptr;
+        return reinterpret_cast<GetDpiForMonitor>(reinterpret_cast<void *>(function));
+    }();
+    UINT across = 0;
+    UINT down = 0;
+    constexpr int effective_dpi = 0;
+    if (ask != nullptr && SUCCEEDED(ask(monitor, effective_dpi, &across, &down)) && down != 0)
+        return static_cast<int>(down);
+    HDC const screen = ::GetDC(nullptr);
+    int const dpi = screen != nullptr ? ::GetDeviceCaps(screen, LOGPIXELSY) : 0;
+    ::ReleaseDC(nullptr, screen);
+    return dpi != 0 ? dpi : USER_DEFAULT_SCREEN_DPI;
+}
+
+BOOL CALLBACK AddScreen(HMONITOR monitor, HDC, RECT *, LPARAM target)
+{
+    MONITORINFO info{};
+    info.cbSize = sizeof(info);
+    if (::GetMonitorInfoW(monitor, &info))
+    {
+        auto & screens = *reinterpret_cast<std::vector<ScreenArea> *>(target);
+        bool const primary = (info.dwFlags & MONITORINFOF_PRIMARY) != 0;
+        screens.insert(primary ? screens.begin() : screens.end(), ScreenArea{info.rcWork, DpiOf(monitor)});
+    }
+    return TRUE;
+}
+
 class WindowsWindowPlatform final : public WindowPlatform
 {
 public:
@@ -17,6 +50,21 @@ public:
         CRect area(0, 0, 0, 0);
         ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0);
         return area;
+    }
+
+    std::vector<ScreenArea> Screens() override
+    {
+        std::vector<ScreenArea> screens;
+        ::EnumDisplayMonitors(nullptr, nullptr, &AddScreen, reinterpret_cast<LPARAM>(&screens));
+        return screens;
+    }
+    int CaptionHeight() override { return ::GetSystemMetrics(SM_CYSIZEFRAME) + ::GetSystemMetrics(SM_CYCAPTION); }
+    std::optional<CPoint> PlacementOrigin(CWnd const & window) override
+    {
+        if ((window.GetStyle() & WS_CHILD) != 0)
+            return std::nullopt;
+        // Of all others but tool windows it is the corner of the primary screen's work area.
+        return (window.GetExStyle() & WS_EX_TOOLWINDOW) != 0 ? CPoint(0, 0) : WorkArea().TopLeft();
     }
 
     bool IsWindow(CWnd const & window) override { return ::IsWindow(window.m_hWnd) != FALSE; }

@@ -32,6 +32,10 @@ void FakeWindowPlatform::Reset()
 {
     workArea = CRect(0, 0, 1920, 1080);
     workAreaReads = 0;
+    screens = {{CRect(0, 0, 1920, 1080), 96}};
+    screenReads = 0;
+    captionHeight = 30;
+    placementOrigin = CPoint(0, 0);
     calls.clear();
     m_windows.clear();
 }
@@ -59,6 +63,24 @@ CRect FakeWindowPlatform::WorkArea()
 {
     ++workAreaReads;
     return workArea;
+}
+
+std::vector<ScreenArea> FakeWindowPlatform::Screens()
+{
+    ++screenReads;
+    return screens;
+}
+
+int FakeWindowPlatform::CaptionHeight()
+{
+    return captionHeight;
+}
+
+std::optional<CPoint> FakeWindowPlatform::PlacementOrigin(CWnd const & window)
+{
+    if ((WindowOf(window).style & WS_CHILD) != 0)
+        return std::nullopt;
+    return placementOrigin;
 }
 
 bool FakeWindowPlatform::IsWindow(CWnd const & window)

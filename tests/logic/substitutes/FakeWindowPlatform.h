@@ -40,6 +40,9 @@ public:
     FakeWindow & Add(std::string name);
 
     CRect WorkArea() override;
+    std::vector<ScreenArea> Screens() override;
+    int CaptionHeight() override;
+    std::optional<CPoint> PlacementOrigin(CWnd const & window) override;
     bool IsWindow(CWnd const & window) override;
     bool IsIconic(CWnd const & window) override;
     bool IsZoomed(CWnd const & window) override;
@@ -59,6 +62,10 @@ public:
 
     CRect workArea{0, 0, 1920, 1080};
     int workAreaReads = 0;
+    std::vector<ScreenArea> screens;
+    int screenReads = 0;
+    int captionHeight = 30;
+    CPoint placementOrigin{0, 0};
     /// What changes something, with the window's name: "Show NAME 2", "Destroy NAME", "EnableMenuItem NAME f000 3" ...
     std::vector<std::string> calls;
 

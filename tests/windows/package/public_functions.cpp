@@ -492,6 +492,8 @@ void UseAll()
     Use(+[](CFensterManager & object, unsigned int a0) -> void { return object.CFensterManager::SetShowMode(std::forward<unsigned int>(a0)); });
     Use(+[]() -> bool { return CFensterManager::NowExit(); });
     Use(+[](CFensterManager & object, bool a0) -> void { return object.CFensterManager::SetNowExit(std::forward<bool>(a0)); });
+    Use(+[]() -> bool { return CFensterManager::KeepsWithinReach(); });
+    Use(+[](bool a0) -> void { return CFensterManager::KeepWithinReach(std::forward<bool>(a0)); });
     Use(+[]() -> bool { return CFensterManager::NurEinMonitor(); });
     Use(+[](bool a0) -> void { return CFensterManager::SetNurEinMonitor(std::forward<bool>(a0)); });
     Use(+[]() -> bool { return CFensterManager::TabbedViews(); });
