@@ -35,6 +35,7 @@ class CBenchApp : public CWinApp
 };
 CBenchApp theApp;
 
+// An exception ends it, as it shall. NOLINTNEXTLINE(bugprone-exception-escape)
 int main(int argc, char ** argv)
 {
     if (!AfxWinInit(::GetModuleHandleW(nullptr), nullptr, ::GetCommandLineW(), SW_SHOWNORMAL))

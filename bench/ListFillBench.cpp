@@ -202,7 +202,7 @@ bool bench::RefillingAList()
     list.DestroyWindow();
     native.DestroyWindow();
     // A new list needs a row object and its cells for each row: fewer would mean that the count does not see them.
-    if (firstAllocations < 2 * row_count)
+    if (firstAllocations < 2ULL * row_count)
     {
         std::printf("the module's allocations cannot be counted\n");
         return false;
@@ -253,6 +253,7 @@ template <class List> unsigned long long BytesOfARow(CWnd & parent)
 bool bench::MemoryOfARow()
 {
     XLISTCTRLDATA const cell;
+    // The fields themselves, whatever they lead to. NOLINTBEGIN(bugprone-sizeof-container, bugprone-sizeof-expression)
     unsigned long long const fields =
         sizeof(cell.properties) + sizeof(cell.valueType) + sizeof(cell.imageIndex) + sizeof(cell.toolTipText) +
         sizeof(cell.intValue) + sizeof(cell.floatValue) + sizeof(cell.timeValue) + sizeof(cell.itemData64) +
@@ -262,6 +263,7 @@ bool bench::MemoryOfARow()
         sizeof(cell.progressValue) + sizeof(cell.progressDisplayValue) + sizeof(cell.progressFormat) +
         sizeof(cell.progressShowText) + sizeof(cell.customDraw);
     unsigned long long const row = sizeof(XLISTCTRLROW *) + sizeof(XLISTCTRLROW) + column_count * sizeof(XLISTCTRLDATA);
+    // NOLINTEND(bugprone-sizeof-container, bugprone-sizeof-expression)
     // A tenth more than the bare fields for gaps, the row object and its slot.
     unsigned long long const most = column_count * fields * 11 / 10;
     bool const met =

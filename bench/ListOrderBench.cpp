@@ -191,8 +191,10 @@ bool SearchIn(int rowCount)
         int row;
     } const places[] = {{"first", 0}, {"middle", rowCount / 2}, {"last", rowCount - 1}, {"missing", -1}};
     bool allMet = true;
-    for (auto const & [name, row] : places)
+    for (Place const & place : places)
     {
+        auto const * const name = place.name;
+        int const row = place.row;
         // The first row takes so little time that many searches are measured at once.
         int const calls = row == 0 ? 1000 : 1;
         auto const param = static_cast<LPARAM>(row >= 0 ? native.GetItemData(row) : 7);

@@ -422,7 +422,7 @@ bool bench::PaintingPagesOfOtherKinds()
     CImageList images;
     images.Create(16, 16, ILC_COLOR24, 1, 1);
     CBitmap picture;
-    std::vector<COLORREF> const pixels(16 * 16, RGB(20, 120, 200));
+    std::vector<COLORREF> const pixels(std::size_t{16} * 16, RGB(20, 120, 200));
     picture.CreateBitmap(16, 16, 1, 32, pixels.data());
     images.Add(&picture, RGB(0, 0, 0));
     met = PageOf(

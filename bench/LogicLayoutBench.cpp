@@ -58,7 +58,7 @@ struct PlainChild
 };
 
 std::vector<PlainChild> plainChildren;
-CSize const designSize(2000, 1500);
+CSize const design_size(2000, 1500);
 
 void SetUp(CDialogResizer & resizer)
 {
@@ -75,14 +75,14 @@ void SetUp(CDialogResizer & resizer)
 
 void SetSize(int round)
 {
-    table.windows[0].rect = CRect(0, 0, designSize.cx + round % 500, designSize.cy + round % 300);
+    table.windows[0].rect = CRect(0, 0, design_size.cx + round % 500, design_size.cy + round % 300);
 }
 
 /// The same formulas over an array, with the results written where the resizer's window system writes them.
 void LayOutByPlainLoop()
 {
-    int const dx = table.windows[0].rect.Width() - designSize.cx;
-    int const dy = table.windows[0].rect.Height() - designSize.cy;
+    int const dx = table.windows[0].rect.Width() - design_size.cx;
+    int const dy = table.windows[0].rect.Height() - design_size.cy;
     for (std::size_t i = 0; i < plainChildren.size(); ++i)
     {
         PlainChild const & child = plainChildren[i];
@@ -102,7 +102,7 @@ LayoutPlatform & LayoutPlatform::Instance()
 
 bool bench::LayoutArithmetic()
 {
-    table.windows[0].rect = CRect(CPoint(0, 0), designSize);
+    table.windows[0].rect = CRect(CPoint(0, 0), design_size);
     CDialogResizer resizer(*TableOfWindows::Object(0), CString());
     SetUp(resizer);
     int round = 0;

@@ -149,10 +149,11 @@ bool bench::OpeningRecordings()
         nativeMarking.push_back(native.marking);
         large.push_back(OfOurs(parent, large_count).All());
         // As much work as the large one, so that both are as steady.
+        constexpr int small_lists = large_count / small_count / 4;
         double sum = 0.0;
-        for (int i = 0; i < large_count / small_count / 4; ++i)
+        for (int i = 0; i < small_lists; ++i)
             sum += OfOurs(parent, small_count).All();
-        small.push_back(sum / (large_count / small_count / 4));
+        small.push_back(sum / small_lists);
     }
     parent.DestroyWindow();
     bool met = Report("workbench: list a file, 5,000", Median(listing), Median(nativeListing), listing_goal);

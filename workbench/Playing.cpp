@@ -36,17 +36,17 @@ void CPlaying::Play(CWnd & owner, std::filesystem::path const & file, workbench:
         return;
     }
     auto const start = m_player.Play(file, stretch);
-    if (start == workbench::PlayStart::Playing)
+    if (start == workbench::PlayStart::playing)
     {
         SetTimer(feed_timer, feed_period, nullptr);
     }
     Moved();
-    if (start == workbench::PlayStart::NoDevice)
+    if (start == workbench::PlayStart::no_device)
     {
         owner.MessageBox(workbench::Text(L"There is no audio device to play the recording on."), nullptr,
                          MB_OK | MB_ICONINFORMATION);
     }
-    else if (start == workbench::PlayStart::Unreadable)
+    else if (start == workbench::PlayStart::unreadable)
     {
         owner.MessageBox(workbench::Text(L"The recording cannot be read any more."), nullptr,
                          MB_OK | MB_ICONINFORMATION);

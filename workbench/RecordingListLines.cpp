@@ -36,7 +36,7 @@ constexpr int least_bar_percent = 2;
 constexpr int image_room = 26;
 
 /// Text at the right edge can come out a pixel wider than it was measured; the blank keeps its last digit whole.
-std::wstring AtRightEdge(std::wstring text)
+std::wstring AtRightEdge(std::wstring const & text)
 {
     return text + L' ';
 }

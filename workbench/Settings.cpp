@@ -98,7 +98,7 @@ Settings ReadSettings()
     auto const checked = CheckedSpectrogramSettings(stored, 0);
     settings.spectrogram = {checked.window == stored.window ? stored.window : 0, checked.overlap};
     settings.frequencyScale =
-        ReadNumber(frequency_scale, 0, 1, 0) == 1 ? FrequencyScale::Logarithmic : FrequencyScale::Linear;
+        ReadNumber(frequency_scale, 0, 1, 0) == 1 ? FrequencyScale::logarithmic : FrequencyScale::linear;
     settings.startFolders = FoldersOf(ReadText(start_folders));
     settings.recentFolders = FoldersOf(ReadText(recent_folders));
     if (settings.recentFolders.size() > most_recent_folders)
@@ -141,7 +141,7 @@ bool StoreSettings(Settings const & settings)
            app.WriteProfileInt(section, spectrogram_window, static_cast<int>(settings.spectrogram.window)) &&
            app.WriteProfileInt(section, spectrogram_overlap, settings.spectrogram.overlap) &&
            app.WriteProfileInt(section, frequency_scale,
-                               settings.frequencyScale == FrequencyScale::Logarithmic ? 1 : 0) &&
+                               settings.frequencyScale == FrequencyScale::logarithmic ? 1 : 0) &&
            WriteText(start_folders, FolderText(settings.startFolders)) &&
            WriteText(recent_folders, FolderText(settings.recentFolders)) &&
            WriteText(trace_colour, ColourText(settings.waveform.trace)) &&

@@ -32,7 +32,7 @@ struct Settings
     int inactiveOpacity = 50;          ///< of dialogs that are not active, in percent
     unsigned int spectrogramScale = 1; ///< the number of a colour scale
     SpectrogramSettings spectrogram;
-    FrequencyScale frequencyScale = FrequencyScale::Linear; ///< of the spectrogram
+    FrequencyScale frequencyScale = FrequencyScale::linear; ///< of the spectrogram
     std::vector<std::filesystem::path> startFolders;        ///< opened when the program starts without others
     std::vector<std::filesystem::path> recentFolders;       ///< that the user has opened, the last one first
     std::vector<std::filesystem::path> lastTargets;         ///< that were shown last

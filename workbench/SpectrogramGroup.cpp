@@ -66,14 +66,14 @@ void CSpectrogramGroup::Show(workbench::Settings const & settings)
 {
     m_window.SetCurSel(LineOf(windows, settings.spectrogram.window));
     m_overlap.SetCurSel(LineOf(overlaps, settings.spectrogram.overlap));
-    m_scale.SetCurSel(settings.frequencyScale == workbench::FrequencyScale::Logarithmic ? 1 : 0);
+    m_scale.SetCurSel(settings.frequencyScale == workbench::FrequencyScale::logarithmic ? 1 : 0);
 }
 
 bool CSpectrogramGroup::Take(workbench::Settings & settings)
 {
     settings.spectrogram = {ChosenOf(windows, m_window), ChosenOf(overlaps, m_overlap)};
     settings.frequencyScale =
-        m_scale.GetCurSel() == 1 ? workbench::FrequencyScale::Logarithmic : workbench::FrequencyScale::Linear;
+        m_scale.GetCurSel() == 1 ? workbench::FrequencyScale::logarithmic : workbench::FrequencyScale::linear;
     return true;
 }
 

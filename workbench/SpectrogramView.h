@@ -110,7 +110,7 @@ private:
     std::wstring m_text;
     std::filesystem::path m_file;
     workbench::SpectrogramSettings m_settings;
-    workbench::FrequencyScale m_scale = workbench::FrequencyScale::Linear;
+    workbench::FrequencyScale m_scale = workbench::FrequencyScale::linear;
     std::unique_ptr<workbench::SpectrogramJob> m_job;
     std::optional<workbench::FrameRange> m_jobStretch;
     std::shared_ptr<workbench::SpectrogramJob::Result const> m_result; ///< of all of the recording

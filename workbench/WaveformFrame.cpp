@@ -96,7 +96,7 @@ CRect AreaOf(CStandaloneFrameWnd & frame)
 
 } // namespace
 
-CWaveformFrame::CWaveformFrame(CString name, std::size_t cells) : m_name(std::move(name)), m_cells(cells) {}
+CWaveformFrame::CWaveformFrame(CString const & name, std::size_t cells) : m_name(name), m_cells(cells) {}
 
 CWaveformFrame::~CWaveformFrame()
 {

@@ -26,7 +26,7 @@ public:
     };
 
     /// cells: 1 or 4.
-    CWaveformFrame(CString name, std::size_t cells);
+    CWaveformFrame(CString const & name, std::size_t cells);
     CWaveformFrame(CWaveformFrame const &) = delete;
     CWaveformFrame & operator=(CWaveformFrame const &) = delete;
     ~CWaveformFrame() override;

@@ -331,7 +331,8 @@ void CWaveformView::DrawStrip(CDC & dc, CRect const & plot)
     dc.FillSolidRect(inside.left + left, inside.top, right - left, inside.Height(),
                      workbench::MixedColour(Surroundings().ground, Surroundings().label, selection_strength));
     auto const centre = (inside.top + inside.bottom) / 2;
-    auto const half = static_cast<float>(inside.Height() / 2);
+    int const halfHeight = inside.Height() / 2;
+    auto const half = static_cast<float>(halfHeight);
     auto const y = [&](float amplitude) {
         return centre - static_cast<int>(std::lround(std::clamp(amplitude, -1.0F, 1.0F) * half));
     };

@@ -102,7 +102,9 @@ TEST(HtmlBlock, EachFieldHasEightDigitsAndItsLineEnd)
             if (name != "Version")
             {
                 EXPECT_EQ(digits.size(), 8U) << name;
-                EXPECT_NE(text.find(name + ":" + digits + "\r\n"), std::string::npos) << name;
+                std::string line = name;
+                line.append(":").append(digits).append("\r\n");
+                EXPECT_NE(text.find(line), std::string::npos) << name;
             }
         }
         EXPECT_EQ(std::stoul(reading->fields.at("EndHTML")), text.size()) << "the block's end";

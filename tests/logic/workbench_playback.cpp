@@ -229,7 +229,7 @@ protected:
 
 TEST_F(PlayerTest, PlaysFromTheFirstToTheLastAndEnds)
 {
-    ASSERT_EQ(Play({}), PlayStart::Playing);
+    ASSERT_EQ(Play({}), PlayStart::playing);
     EXPECT_EQ(device.rate, 8000U);
     EXPECT_TRUE(player.IsPlaying());
     EXPECT_EQ(player.Position(), 0U);
@@ -247,7 +247,7 @@ TEST_F(PlayerTest, PlaysFromTheFirstToTheLastAndEnds)
 
 TEST_F(PlayerTest, PausesAndGoesOn)
 {
-    ASSERT_EQ(Play({100, 9000}), PlayStart::Playing);
+    ASSERT_EQ(Play({100, 9000}), PlayStart::playing);
     device.Play(1);
     player.Poll();
     player.Pause(true);
@@ -269,7 +269,7 @@ TEST_F(PlayerTest, PausesAndGoesOn)
 TEST_F(PlayerTest, LoopsUntilItIsStopped)
 {
     player.SetLoop(true);
-    ASSERT_EQ(Play({0, 1000}), PlayStart::Playing);
+    ASSERT_EQ(Play({0, 1000}), PlayStart::playing);
     for (int i = 0; i < 50; ++i)
     {
         device.Play(1);
@@ -286,16 +286,16 @@ TEST_F(PlayerTest, LoopsUntilItIsStopped)
 TEST_F(PlayerTest, WithoutADeviceSaysSo)
 {
     device.there = false;
-    EXPECT_EQ(Play({}), PlayStart::NoDevice);
+    EXPECT_EQ(Play({}), PlayStart::no_device);
     EXPECT_FALSE(player.IsPlaying());
     Player none([] { return std::unique_ptr<AudioDevice>(); });
-    EXPECT_EQ(none.Play(wav::Source(bytes), {}), PlayStart::NoDevice);
+    EXPECT_EQ(none.Play(wav::Source(bytes), {}), PlayStart::no_device);
 }
 
 TEST_F(PlayerTest, AnUnreadableRecordingIsNotPlayedAndTheFormerEnds)
 {
-    ASSERT_EQ(Play({}), PlayStart::Playing);
-    EXPECT_EQ(player.Play(std::filesystem::path("no such recording.wav"), {}), PlayStart::Unreadable);
+    ASSERT_EQ(Play({}), PlayStart::playing);
+    EXPECT_EQ(player.Play(std::filesystem::path("no such recording.wav"), {}), PlayStart::unreadable);
     EXPECT_FALSE(player.IsPlaying());
     player.Poll();
     player.Pause(true);
@@ -305,7 +305,7 @@ TEST_F(PlayerTest, AnUnreadableRecordingIsNotPlayedAndTheFormerEnds)
 TEST_F(PlayerTest, GainCountsFromTheNextBlockOn)
 {
     player.SetGain(2.0);
-    ASSERT_EQ(Play({0, 10}), PlayStart::Playing);
+    ASSERT_EQ(Play({0, 10}), PlayStart::playing);
     device.Play(1);
     EXPECT_EQ(device.heard, (Samples{0, 2, 4, 6, 8, 10, 12, 14, 16, 18}));
 }

@@ -67,7 +67,7 @@ TEST(SpectrogramStretch, ShowsWhatLiesThere)
     EXPECT_EQ(part.Stretch(), (FrameRange{39000 - 256, 43000 + 256}));
     constexpr std::size_t width = 40;
     constexpr std::size_t height = 64;
-    auto const picture = part.Picture(width, height, {39000, 43000}, FrequencyScale::Linear);
+    auto const picture = part.Picture(width, height, {39000, 43000}, FrequencyScale::linear);
     ASSERT_EQ(picture.size(), width * height);
     EXPECT_EQ(LoudestLine(picture, width, height, 3), 500 * height / 4000);
     EXPECT_EQ(LoudestLine(picture, width, height, 20), 2000 * height / 4000);
@@ -81,14 +81,14 @@ TEST(SpectrogramStretch, HasAtItsEndsWhatTheWholeHasThere)
     Spectrogram const whole = Compute(file, {}, std::nullopt);
     Spectrogram const part = Compute(file, {}, FrameRange{39936, 43008});
     constexpr std::size_t width = 24;
-    EXPECT_EQ(part.Picture(width, 32, {39936, 43008}, FrequencyScale::Linear),
-              whole.Picture(width, 32, {39936, 43008}, FrequencyScale::Linear));
+    EXPECT_EQ(part.Picture(width, 32, {39936, 43008}, FrequencyScale::linear),
+              whole.Picture(width, 32, {39936, 43008}, FrequencyScale::linear));
 }
 
 TEST(SpectrogramStretch, WhatWasNotComputedIsOnTheLowestEntry)
 {
     Spectrogram const part = Compute(FileOf(Samples(80000, 0, 0)), {}, FrameRange{40000, 44000});
-    auto const picture = part.Picture(80, 16, {0, 80000}, FrequencyScale::Linear);
+    auto const picture = part.Picture(80, 16, {0, 80000}, FrequencyScale::linear);
     EXPECT_EQ(picture[13 * 80 + 10], 0);
     EXPECT_GT(*std::max_element(picture.begin(), picture.end()), 0);
     EXPECT_EQ(picture.size(), 80U * 16U);
@@ -142,29 +142,29 @@ TEST(SpectrogramSettings, WhatIsNotAllowedIsReplaced)
 
 TEST(FrequencyScale, LogarithmicGivesEachOctaveTheSameHeight)
 {
-    constexpr auto scale = FrequencyScale::Logarithmic;
+    constexpr auto scale = FrequencyScale::logarithmic;
     EXPECT_NEAR(FrequencyAt(scale, 20000, 0.0), 20.0, 1e-9);
     EXPECT_NEAR(FrequencyAt(scale, 20000, 1.0), 20000.0, 1e-6);
     EXPECT_NEAR(FrequencyAt(scale, 20000, 1.0 / 3.0), 200.0, 1e-6);
     for (double const hertz : {25.0, 440.0, 19000.0})
         EXPECT_NEAR(FrequencyAt(scale, 24000, PartOfFrequency(scale, 24000, hertz)), hertz, 1e-6);
     EXPECT_NEAR(FrequencyAt(scale, 50, 0.0), 5.0, 1e-9) << "a low rate has an axis, too";
-    EXPECT_EQ(FrequencyAt(FrequencyScale::Linear, 24000, 0.25), 6000.0);
-    EXPECT_EQ(PartOfFrequency(FrequencyScale::Linear, 24000, 6000.0), 0.25);
+    EXPECT_EQ(FrequencyAt(FrequencyScale::linear, 24000, 0.25), 6000.0);
+    EXPECT_EQ(PartOfFrequency(FrequencyScale::linear, 24000, 6000.0), 0.25);
 }
 
 TEST(FrequencyScale, ThePictureFollowsIt)
 {
     constexpr std::size_t height = 200;
     Spectrogram const spectrogram = Compute(FileOf(Samples(32768, 0, 0)), {2048, 50}, std::nullopt);
-    auto const picture = spectrogram.Picture(8, height, {0, 32768}, FrequencyScale::Logarithmic);
-    double const expected = PartOfFrequency(FrequencyScale::Logarithmic, 4000, 500) * height;
+    auto const picture = spectrogram.Picture(8, height, {0, 32768}, FrequencyScale::logarithmic);
+    double const expected = PartOfFrequency(FrequencyScale::logarithmic, 4000, 500) * height;
     EXPECT_NEAR(static_cast<double>(LoudestLine(picture, 8, height, 4)), expected, 2.0);
 }
 
 TEST(FrequencyTicks, OfALogarithmicScaleAreOneTwoFive)
 {
-    constexpr auto scale = FrequencyScale::Logarithmic;
+    constexpr auto scale = FrequencyScale::logarithmic;
     auto const labels = [](std::vector<FrequencyTick> const & ticks) {
         std::vector<std::wstring> texts;
         for (auto const & tick : ticks)
@@ -180,7 +180,7 @@ TEST(FrequencyTicks, OfALogarithmicScaleAreOneTwoFive)
     EXPECT_EQ(FrequencyTicks(scale, 20000, 300, 20).back().position, 300);
     EXPECT_TRUE(FrequencyTicks(scale, 0, 300, 20).empty());
     EXPECT_TRUE(FrequencyTicks(scale, 20000, 0, 20).empty());
-    EXPECT_EQ(FrequencyTicks(FrequencyScale::Linear, 24000, 240, 40), FrequencyTicks(24000, 240, 40));
+    EXPECT_EQ(FrequencyTicks(FrequencyScale::linear, 24000, 240, 40), FrequencyTicks(24000, 240, 40));
 }
 
 TEST(TimeTicks, OfAStretchStandAtRoundTimes)

@@ -101,7 +101,7 @@ public:
     using CAdvComboBox::m_focused;
     using CAdvComboBox::m_focusNotified;
     using CAdvComboBox::m_font;
-    using CAdvComboBox::m_host;
+    using CAdvComboBox::m_parent;
     using CAdvComboBox::m_hot;
     using CAdvComboBox::m_hotTimer;
     using CAdvComboBox::m_items;

@@ -24,16 +24,16 @@ void AddImage(CImageList & images, int width, int height, COLORREF colour)
 } // namespace
 
 ListPaintTest::ListPaintTest(DWORD style)
-    : host(style, CRect(0, 0, client_width, client_height)),
-      canvas(client_width, client_height, untouched)
+    : m_host(style, CRect(0, 0, client_width, client_height)),
+      m_canvas(client_width, client_height, untouched)
 {
 }
 
 ListPaintTest::~ListPaintTest()
 {
     if (m_formerFont != nullptr)
-        canvas.Dc().SelectObject(m_formerFont);
-    list.DestroyWindow();
+        m_canvas.Dc().SelectObject(m_formerFont);
+    m_list.DestroyWindow();
 }
 
 void ListPaintTest::SetUp()
@@ -95,8 +95,8 @@ LRESULT ListPaintTest::Paint(int row, int col)
 std::unique_ptr<Canvas> ListPaintTest::Copy(CRect const & part)
 {
     auto copy = std::make_unique<Canvas>(part.Width(), part.Height());
-    ::BitBlt(copy->Dc().GetSafeHdc(), 0, 0, part.Width(), part.Height(), canvas.Dc().GetSafeHdc(), part.left, part.top,
-             SRCCOPY);
+    ::BitBlt(copy->Dc().GetSafeHdc(), 0, 0, part.Width(), part.Height(), m_canvas.Dc().GetSafeHdc(), part.left,
+             part.top, SRCCOPY);
     return copy;
 }
 
@@ -134,7 +134,7 @@ CRect ListPaintTest::Bounds(COLORREF colour, CRect const & rect) const
 
 testing::AssertionResult ListPaintTest::OnlyWithin(CRect const & rect) const
 {
-    CRect const painted = canvas.BoundsOfOther(untouched);
+    CRect const painted = m_canvas.BoundsOfOther(untouched);
     CRect outside;
     outside.UnionRect(painted, rect);
     if (painted.IsRectEmpty() || outside == rect)

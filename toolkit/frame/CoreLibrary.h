@@ -26,7 +26,7 @@ class INSTRUMENT_UI_API CStepCounter
 {
 public:
     CStepCounter();
-    ~CStepCounter();
+    ~CStepCounter(); // NOLINT(performance-trivially-destructible): exported
 
     /// From the first number to the one before `end`. Bounds in the wrong order are exchanged. A value within the new
     /// range stays, any other becomes the first. An empty range holds its first number alone.

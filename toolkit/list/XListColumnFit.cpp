@@ -13,7 +13,7 @@ namespace
 std::int64_t Share(std::int64_t difference, int width, std::int64_t sum)
 {
     float const part = static_cast<float>(difference) * static_cast<float>(width) / static_cast<float>(sum);
-    return static_cast<std::int64_t>(part + 0.5f);
+    return static_cast<std::int64_t>(part + 0.5f); // NOLINT(bugprone-incorrect-roundings)
 }
 
 void ShareProportionally(std::vector<int> & widths, std::int64_t sum, int minimum, std::int64_t & difference)

@@ -18,7 +18,8 @@ int menu_registry::Add(menus_t & menus, elements_t & elements, int id, unsigned 
 {
     if (id < 0)
         return refused;
-    auto const [entry, added] = menus.try_emplace(static_cast<unsigned int>(id), std::move(callback), std::move(text));
+    auto const [entry, added] =
+        menus.try_emplace(static_cast<unsigned int>(id), std::pair(std::move(callback), std::move(text)));
     if (!added)
         return refused;
     elements.emplace(parent, entry);

@@ -19,7 +19,8 @@ int FittingAmplification(double peakLevel)
         return 0;
     }
     auto const steps = std::floor(-peakLevel / amplification_step);
-    auto const most = static_cast<double>(most_amplification / amplification_step);
+    constexpr int most_steps = most_amplification / amplification_step;
+    auto const most = static_cast<double>(most_steps);
     return static_cast<int>(std::clamp(steps, 0.0, most)) * amplification_step;
 }
 

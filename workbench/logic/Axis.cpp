@@ -132,7 +132,7 @@ std::vector<FrequencyTick> FrequencyTicks(double highest, int height, int leastD
 
 double FrequencyAt(FrequencyScale scale, double highest, double part)
 {
-    if (scale == FrequencyScale::Linear)
+    if (scale == FrequencyScale::linear)
     {
         return highest * part;
     }
@@ -142,7 +142,7 @@ double FrequencyAt(FrequencyScale scale, double highest, double part)
 
 double PartOfFrequency(FrequencyScale scale, double highest, double hertz)
 {
-    if (scale == FrequencyScale::Linear)
+    if (scale == FrequencyScale::linear)
     {
         return hertz / highest;
     }
@@ -152,7 +152,7 @@ double PartOfFrequency(FrequencyScale scale, double highest, double hertz)
 
 std::vector<FrequencyTick> FrequencyTicks(FrequencyScale scale, double highest, int height, int leastDistance)
 {
-    if (scale == FrequencyScale::Linear)
+    if (scale == FrequencyScale::linear)
     {
         return FrequencyTicks(highest, height, leastDistance);
     }

@@ -38,8 +38,8 @@ std::vector<LevelLine> LevelLines(int halfHeight, int leastDistance, int amplifi
 /// How frequencies are spread over an axis.
 enum class FrequencyScale
 {
-    Linear,      ///< from 0 up
-    Logarithmic, ///< from `lowest_logarithmic_frequency` up, each octave the same height
+    linear,      ///< from 0 up
+    logarithmic, ///< from `lowest_logarithmic_frequency` up, each octave the same height
 };
 
 /// The lower end of a logarithmic axis, in hertz. Where the upper end is below ten times as much, a tenth of that.

@@ -24,12 +24,12 @@ PlayStart Player::Play(std::unique_ptr<ByteSource> source, FrameRange const & st
     auto stream = PlaybackStream::Open(std::move(source), stretch);
     if (!stream)
     {
-        return PlayStart::Unreadable;
+        return PlayStart::unreadable;
     }
     auto device = m_makeDevice();
     if (device == nullptr || !device->Open(stream->SampleRate(), stream->Channels()))
     {
-        return PlayStart::NoDevice;
+        return PlayStart::no_device;
     }
     m_stream = std::move(stream);
     m_device = std::move(device);
@@ -39,7 +39,7 @@ PlayStart Player::Play(std::unique_ptr<ByteSource> source, FrameRange const & st
     m_block.assign(frames * m_stream->Channels(), 0);
     m_ended = false;
     Poll();
-    return PlayStart::Playing;
+    return PlayStart::playing;
 }
 
 void Player::Stop()

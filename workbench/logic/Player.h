@@ -36,9 +36,9 @@ public:
 /// What became of the wish to play.
 enum class PlayStart
 {
-    Playing,
-    NoDevice,
-    Unreadable, ///< the recording cannot be read, or has nothing at that place
+    playing,
+    no_device,
+    unreadable, ///< the recording cannot be read, or has nothing at that place
 };
 
 /// Plays a stretch of a recording. It does something in its calls alone: whoever owns it calls `Poll` often enough,

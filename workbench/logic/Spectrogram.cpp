@@ -92,7 +92,7 @@ std::uint8_t Spectrogram::Highest(std::size_t firstColumn, std::size_t lastColum
 
 std::vector<std::uint8_t> Spectrogram::Picture(std::size_t width, std::size_t height) const
 {
-    return Picture(width, height, Stretch(), FrequencyScale::Linear);
+    return Picture(width, height, Stretch(), FrequencyScale::linear);
 }
 
 std::vector<std::uint8_t> Spectrogram::Picture(std::size_t width, std::size_t height, FrameRange const & stretch,
@@ -105,7 +105,7 @@ std::vector<std::uint8_t> Spectrogram::Picture(std::size_t width, std::size_t he
     std::vector<std::pair<std::size_t, std::size_t>> rows; // of each line of the picture, from the lowest up
     for (std::size_t line = 0; line < height; ++line)
     {
-        if (scale == FrequencyScale::Linear)
+        if (scale == FrequencyScale::linear)
         {
             rows.push_back(PointsOf(line, height, m_rows));
             continue;

@@ -67,7 +67,7 @@ TEST_F(WorkbenchSettings, ComeBackAsTheyWereStored)
     settings.waveform = {RGB(1, 2, 3), RGB(4, 5, 6), RGB(7, 8, 9), RGB(250, 251, 252)};
     settings.amplification = 18;
     settings.spectrogram = {4096, 75};
-    settings.frequencyScale = workbench::FrequencyScale::Logarithmic;
+    settings.frequencyScale = workbench::FrequencyScale::logarithmic;
     settings.hiddenColumns = {3, 11};
     settings.folderPane = false;
     settings.folderPaneWidth = 44;
@@ -86,7 +86,7 @@ TEST_F(WorkbenchSettings, ComeBackAsTheyWereStored)
     EXPECT_EQ(read.waveform, settings.waveform);
     EXPECT_EQ(read.amplification, 18);
     EXPECT_EQ(read.spectrogram, settings.spectrogram);
-    EXPECT_EQ(read.frequencyScale, workbench::FrequencyScale::Logarithmic);
+    EXPECT_EQ(read.frequencyScale, workbench::FrequencyScale::logarithmic);
     EXPECT_EQ(read.hiddenColumns, settings.hiddenColumns);
     EXPECT_EQ(read.folderPane, std::optional(false));
     EXPECT_EQ(read.folderPaneWidth, 44);
@@ -102,7 +102,7 @@ TEST_F(WorkbenchSettings, ASpectrogramThatCannotBeIsAsAtFirst)
     Write(L"SpectrogramOverlap", L"40");
     Write(L"FrequencyScale", L"7");
     EXPECT_EQ(ReadSettings().spectrogram, workbench::SpectrogramSettings());
-    EXPECT_EQ(ReadSettings().frequencyScale, workbench::FrequencyScale::Linear);
+    EXPECT_EQ(ReadSettings().frequencyScale, workbench::FrequencyScale::linear);
     Write(L"SpectrogramWindow", L"4294967295");
     EXPECT_EQ(ReadSettings().spectrogram.window, 0u);
 }
