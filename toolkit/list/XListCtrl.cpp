@@ -49,7 +49,8 @@ CXListCtrl::CXListCtrl()
       m_fit(std::make_unique<FitState>()),
       m_editors(std::make_unique<EditorState>()),
       m_paint(std::make_unique<PaintState>()),
-      m_drag(std::make_unique<DragState>())
+      m_drag(std::make_unique<DragState>()),
+      m_access(std::make_unique<AccessState>())
 {
     GetColors();
 }
@@ -60,6 +61,7 @@ CXListCtrl::~CXListCtrl()
     if (m_hWnd != nullptr)
         DestroyWindow();
     EndEditors();
+    EndAccess();
 }
 
 void CXListCtrl::PreSubclassWindow()
@@ -110,6 +112,7 @@ void CXListCtrl::SubclassHeaderControl()
 
 void CXListCtrl::OnDestroy()
 {
+    EndAccess();
     EndDragImage();
     EndEditors();
     m_rows->model.pool.GiveBackAll();

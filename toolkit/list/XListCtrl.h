@@ -494,6 +494,20 @@ private:
     /// Offers a press or a key to the host's kind of a cell; whether it took it. The list may be gone then.
     bool OfferPress(int row, int col, CPoint point);
     bool OfferKey(UINT key);
+    /// What a left press on an enabled cell does. asInput: it is the mouse's, which the native list gets as well.
+    void PressCell(int row, int col, CPoint point, bool asInput);
+
+    // Accessibility (XListCtrlAccess).
+    /// The list's accessible object as the answer to the question for it; 0 if there is none.
+    LRESULT AnswerGetObject(WPARAM flags);
+    /// Those who keep accessible objects of the list hear from now on that it is gone.
+    void EndAccess();
+    /// While on, changes are told together at its end.
+    void HoldAccessEvents(bool batch, bool redrawOff);
+    // These tell whoever listens of a change. They can run code of a listener's.
+    void TellOfCell(int row, int col);
+    void TellOfOrder();
+    void TellOfItemState(NMLISTVIEW const & change);
     /// The text that the cell shows, up to that length.
     CellText ReadCellText(int row, int col) const;
     CellText ReadCellText(int row, int col, int limit) const;
@@ -558,6 +572,8 @@ private:
     bool RowsAreKnown() const;
     /// Follows what a native message does to that; own: an operation of this class sent it and keeps the books.
     void NoteRowChange(UINT message, LPARAM lParam, bool own);
+    /// Has the native list handle a message that changes rows.
+    LRESULT ChangeRows(UINT message, WPARAM wParam, LPARAM lParam);
     /// A message to the native list itself, that only asks.
     LRESULT AskNative(UINT message, WPARAM wParam, LPARAM lParam) const;
     /// The item's parameter word as it is; null without an item.
@@ -579,6 +595,9 @@ private:
 
     // What the sources of the list keep for themselves (XListCtrlState.h).
     class Items;
+    class AccessRows;
+    class AccessTargetOfList;
+    struct AccessState;
     struct DragState;
     struct EditorState;
     struct FitState;
@@ -606,4 +625,5 @@ private:
     std::unique_ptr<PaintState> m_paint;
     std::unique_ptr<DragState> m_drag;
     CMenu m_popupMenu;
+    std::unique_ptr<AccessState> m_access;
 };

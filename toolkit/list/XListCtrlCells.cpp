@@ -95,6 +95,17 @@ LRESULT CXListCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     case LVM_DELETECOLUMN:
     case LVM_SETCOLUMNORDERARRAY:
         return ColumnMessage(message, wParam, lParam);
+    case WM_GETOBJECT:
+        if (LRESULT const answer = static_cast<LONG>(lParam) == OBJID_CLIENT ? AnswerGetObject(wParam) : 0)
+            return answer;
+        return CListCtrl::WindowProc(message, wParam, lParam);
+    case WM_SETREDRAW: {
+        Watch const watch(*this);
+        LRESULT const result = CListCtrl::WindowProc(message, wParam, lParam);
+        if (watch.IsAlive())
+            HoldAccessEvents(m_batchInsert, wParam == FALSE);
+        return result;
+    }
     default:
         return CListCtrl::WindowProc(message, wParam, lParam);
     }
@@ -106,6 +117,15 @@ LRESULT CXListCtrl::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
         return CListCtrl::DefWindowProc(message, wParam, lParam);
 
     NoteRowChange(message, lParam, std::exchange(m_rows->ownChange, false));
+    Watch const watch(*this);
+    LRESULT const result = ChangeRows(message, wParam, lParam);
+    if (watch.IsAlive() && message != LVM_SETITEMA && message != LVM_SETITEMW)
+        TellOfOrder();
+    return result;
+}
+
+LRESULT CXListCtrl::ChangeRows(UINT message, WPARAM wParam, LPARAM lParam)
+{
     struct RowChange
     {
         explicit RowChange(CXListCtrl & changed) : list(changed), watch(changed)

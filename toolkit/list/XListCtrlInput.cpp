@@ -92,11 +92,25 @@ void CXListCtrl::OnLButtonDown(UINT, CPoint point)
         return;
     }
     // Rows that were inserted past this class, or before the column was, have no cell here.
-    HeldRow held(*this, row);
-    XLISTCTRLDATA const * cell = held.Cell(col);
+    XLISTCTRLDATA const * const cell = ValidCell(row, col);
     if (cell != nullptr && DecidePress(*cell) == CellPress::ignored)
         return;
+    PressCell(row, col, point, true);
+}
 
+void CXListCtrl::PressCell(int row, int col, CPoint point, bool asInput)
+{
+    auto const pass = [this, asInput] {
+        Watch const watch(*this);
+        // The host hears of the end of an edit. Not from within the native list's press, which does not stand the end
+        // of the list.
+        if (m_editors->edit != nullptr)
+            SetFocus();
+        if (asInput && watch.IsAlive())
+            Default();
+    };
+    HeldRow held(*this, row);
+    XLISTCTRLDATA const * cell = held.Cell(col);
     auto const clicked = m_onCellClick;
     if (cell != nullptr && clicked)
     {

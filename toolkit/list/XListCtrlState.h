@@ -5,6 +5,7 @@
 #include <memory>
 #include <vector>
 
+#include "access/AccessObject.h"
 #include "list/CellPainters.h"
 #include "list/ListModel.h"
 #include "list/XListColumnFit.h"
@@ -58,6 +59,16 @@ struct CXListCtrl::RowState
 };
 
 /// What AutosizeColumnWidth works with.
+/// What those who ask for accessible objects get, and what they are told.
+struct CXListCtrl::AccessState
+{
+    /// Shared with the objects, who lose the list through it. Made when first asked for.
+    std::shared_ptr<AccessTarget> target;
+    bool redrawOff = false;
+    /// Something has changed that is told once the batch is over.
+    bool changed = false;
+};
+
 struct CXListCtrl::FitState
 {
     std::vector<int> widths;
