@@ -58,7 +58,6 @@ struct CXListCtrl::RowState
     bool hadKinds = false;
 };
 
-/// What AutosizeColumnWidth works with.
 /// What those who ask for accessible objects get, and what they are told.
 struct CXListCtrl::AccessState
 {
@@ -69,6 +68,7 @@ struct CXListCtrl::AccessState
     bool changed = false;
 };
 
+/// What AutosizeColumnWidth works with.
 struct CXListCtrl::FitState
 {
     std::vector<int> widths;
