@@ -1,106 +1,17 @@
 // The accessible objects of the report list.
 
 #include "ListTestHost.h"
-#include "Pump.h"
+#include "access_AccessTest.h"
 
-#include <gtest/gtest.h>
-#include <oleacc.h>
-
-#include <algorithm>
-#include <tuple>
 #include <vector>
 
-#include "access/AccessElement.h"
+using access_tests::Held;
+using access_tests::Listener;
+using access_tests::Number;
+using access_tests::TakeText;
 
 namespace
 {
-VARIANT Number(long number)
-{
-    VARIANT which{};
-    which.vt = VT_I4;
-    which.lVal = number;
-    return which;
-}
-
-/// A reference that is released at its end.
-template <class Interface> class Held
-{
-public:
-    Held() = default;
-    Held(Held const &) = delete;
-    Held & operator=(Held const &) = delete;
-    ~Held() { Release(); }
-    Interface ** Out() { return &m_object; }
-    Interface * operator->() const { return m_object; }
-    Interface * Get() const { return m_object; }
-    /// The references left.
-    ULONG Release()
-    {
-        Interface * const object = std::exchange(m_object, nullptr);
-        return object != nullptr ? object->Release() : 0;
-    }
-
-private:
-    Interface * m_object = nullptr;
-};
-
-CString TakeText(BSTR text)
-{
-    CString const copy(text != nullptr ? text : L"");
-    ::SysFreeString(text);
-    return copy;
-}
-
-/// What out-of-context listeners hear of a window's client.
-class Listener
-{
-public:
-    using Event = std::pair<DWORD, LONG>;
-
-    explicit Listener(HWND window)
-    {
-        listening = this;
-        m_window = window;
-        m_hook = ::SetWinEventHook(EVENT_OBJECT_CREATE, EVENT_OBJECT_VALUECHANGE, nullptr, &Listener::Hear,
-                                   ::GetCurrentProcessId(), 0, WINEVENT_OUTOFCONTEXT);
-    }
-    ~Listener()
-    {
-        ::UnhookWinEvent(m_hook);
-        listening = nullptr;
-    }
-    Listener(Listener const &) = delete;
-    Listener & operator=(Listener const &) = delete;
-
-    bool Heard(DWORD event, accessible::Element element) const
-    {
-        return std::count(events.begin(), events.end(), Event(event, accessible::NumberOf(element))) > 0;
-    }
-    /// Waits until an event of our own, told last, has arrived.
-    std::vector<Event> Take()
-    {
-        constexpr LONG last = 1000000;
-        ::NotifyWinEvent(EVENT_OBJECT_NAMECHANGE, m_window, OBJID_CLIENT, last);
-        EXPECT_TRUE(tests::PumpUntil([&] { return !events.empty() && events.back().second == last; }));
-        if (!events.empty())
-            events.pop_back();
-        return std::exchange(events, {});
-    }
-
-    std::vector<Event> events;
-
-private:
-    static void CALLBACK Hear(HWINEVENTHOOK, DWORD event, HWND window, LONG object, LONG child, DWORD, DWORD)
-    {
-        if (listening != nullptr && window == listening->m_window && object == OBJID_CLIENT)
-            listening->events.emplace_back(event, child);
-    }
-    static inline Listener * listening = nullptr;
-
-    HWND m_window = nullptr;
-    HWINEVENTHOOK m_hook = nullptr;
-};
-
 class AccessObjects : public testing::Test
 {
 protected:
@@ -116,13 +27,7 @@ protected:
         ::CoUninitialize();
     }
 
-    void Ask(HWND window)
-    {
-        ASSERT_EQ(::AccessibleObjectFromWindow(window, static_cast<DWORD>(OBJID_CLIENT), __uuidof(IAccessible),
-                                               reinterpret_cast<void **>(m_object.Out())),
-                  S_OK);
-    }
-    void SetUp() override { Ask(m_list.m_hWnd); }
+    void SetUp() override { ASSERT_EQ(access_tests::Ask(m_list.m_hWnd, m_object), S_OK); }
     static VARIANT Cell(int row, int col) { return Number(accessible::NumberOf({row, col})); }
     CString Value(int row, int col)
     {
@@ -310,9 +215,7 @@ TEST(AccessObjectEnds, ListMayEndInTheDefaultAction)
         list->SetCheckbox(1, 1, XLC_UNCHECKED);
         list->m_onStateChange = [&](int, int) { delete std::exchange(list, nullptr); };
         Held<IAccessible> object;
-        ASSERT_EQ(::AccessibleObjectFromWindow(list->m_hWnd, static_cast<DWORD>(OBJID_CLIENT), __uuidof(IAccessible),
-                                               reinterpret_cast<void **>(object.Out())),
-                  S_OK);
+        ASSERT_EQ(access_tests::Ask(list->m_hWnd, object), S_OK);
         EXPECT_EQ(object->accDoDefaultAction(Number(accessible::NumberOf({1, 1}))), S_OK);
         EXPECT_EQ(list, nullptr);
         EXPECT_EQ(object->accDoDefaultAction(Number(accessible::NumberOf({1, 1}))), CO_E_OBJNOTCONNECTED);

@@ -31,6 +31,8 @@ enum class Role : long
 {
     none = 0,
     client = 0x0A,
+    grouping = 0x14,
+    column_header = 0x19,
     cell = 0x1D,
     link = 0x1E,
     list = 0x21,
@@ -51,9 +53,12 @@ namespace state
 inline constexpr long unavailable = 0x1;
 inline constexpr long selected = 0x2;
 inline constexpr long focused = 0x4;
+inline constexpr long pressed = 0x8;
 inline constexpr long checked = 0x10;
 inline constexpr long mixed = 0x20;
 inline constexpr long read_only = 0x40;
+inline constexpr long expanded = 0x200;
+inline constexpr long collapsed = 0x400;
 inline constexpr long invisible = 0x8000;
 inline constexpr long offscreen = 0x10000;
 inline constexpr long focusable = 0x100000;
@@ -85,5 +90,7 @@ struct Description
     std::wstring value;
     /// What the default action does, in a word; empty for none.
     std::wstring action;
+    /// Such as "Alt+X"; empty for none.
+    std::wstring shortcut;
 };
 } // namespace accessible

@@ -1,5 +1,6 @@
 #include "access/AccessObject.h"
 
+#include <objbase.h>
 #include <oleacc.h>
 
 #include <atomic>
@@ -10,6 +11,8 @@ using accessible::Element;
 
 static_assert(static_cast<long>(accessible::Role::row) == ROLE_SYSTEM_LISTITEM);
 static_assert(static_cast<long>(accessible::Role::list) == ROLE_SYSTEM_LIST);
+static_assert(static_cast<long>(accessible::Role::grouping) == ROLE_SYSTEM_GROUPING);
+static_assert(static_cast<long>(accessible::Role::column_header) == ROLE_SYSTEM_COLUMNHEADER);
 static_assert(static_cast<long>(accessible::Role::cell) == ROLE_SYSTEM_CELL);
 static_assert(static_cast<long>(accessible::Role::link) == ROLE_SYSTEM_LINK);
 static_assert(static_cast<long>(accessible::Role::graphic) == ROLE_SYSTEM_GRAPHIC);
@@ -24,6 +27,9 @@ static_assert(static_cast<long>(accessible::Role::slider) == ROLE_SYSTEM_SLIDER)
 static_assert(accessible::state::unavailable == STATE_SYSTEM_UNAVAILABLE &&
               accessible::state::selected == STATE_SYSTEM_SELECTED);
 static_assert(accessible::state::focused == STATE_SYSTEM_FOCUSED && accessible::state::checked == STATE_SYSTEM_CHECKED);
+static_assert(accessible::state::pressed == STATE_SYSTEM_PRESSED &&
+              accessible::state::expanded == STATE_SYSTEM_EXPANDED &&
+              accessible::state::collapsed == STATE_SYSTEM_COLLAPSED);
 static_assert(accessible::state::mixed == STATE_SYSTEM_MIXED && accessible::state::read_only == STATE_SYSTEM_READONLY);
 static_assert(accessible::state::offscreen == STATE_SYSTEM_OFFSCREEN &&
               accessible::state::focusable == STATE_SYSTEM_FOCUSABLE);
@@ -83,6 +89,18 @@ std::optional<accessible::Direction> DirectionOf(long number)
     default:
         return {};
     }
+}
+
+/// Whether COM hands this thread's objects to other programs so that they are called by this thread. Makes COM ready
+/// where nobody has; it stays so as long as the thread lives.
+bool ComCallsThisThread()
+{
+    APTTYPE type{};
+    APTTYPEQUALIFIER qualifier{};
+    HRESULT const known = ::CoGetApartmentType(&type, &qualifier);
+    if (known == CO_E_NOTINITIALIZED || (known == S_OK && qualifier == APTTYPEQUALIFIER_IMPLICIT_MTA))
+        return SUCCEEDED(::CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED));
+    return known == S_OK && type != APTTYPE_MTA;
 }
 
 /// Elements one after the other.
@@ -154,7 +172,7 @@ public:
             return E_POINTER;
         *count = 0;
         return Asked([&] {
-            *count = m_target->ChildCount(m_element);
+            *count = m_target->ChildCount(m_element) + static_cast<long>(Windows().size());
             return S_OK;
         });
     }
@@ -166,7 +184,7 @@ public:
         return Asked([&] {
             auto const element = Named(which);
             if (!element)
-                return E_INVALIDARG;
+                return GiveWindow(NamedWindow(which), child);
             *child = Object(*element);
             return S_OK;
         });
@@ -195,7 +213,10 @@ public:
     HRESULT STDMETHODCALLTYPE get_accDescription(VARIANT, BSTR * text) override { return NoText(text); }
     HRESULT STDMETHODCALLTYPE get_accHelp(VARIANT, BSTR * text) override { return NoText(text); }
     HRESULT STDMETHODCALLTYPE get_accHelpTopic(BSTR * file, VARIANT, long *) override { return NoText(file); }
-    HRESULT STDMETHODCALLTYPE get_accKeyboardShortcut(VARIANT, BSTR * text) override { return NoText(text); }
+    HRESULT STDMETHODCALLTYPE get_accKeyboardShortcut(VARIANT which, BSTR * text) override
+    {
+        return Text(which, text, &accessible::Description::shortcut);
+    }
     HRESULT STDMETHODCALLTYPE get_accFocus(VARIANT * focus) override
     {
         if (focus == nullptr)
@@ -247,6 +268,10 @@ public:
             if (!from || !way)
                 return E_INVALIDARG;
             auto const found = m_target->Navigate(*from, *way);
+            auto const windows = from->IsControl() ? Windows() : std::vector<HWND>();
+            bool const first = *way == accessible::Direction::first_child && !found;
+            if (!windows.empty() && (first || *way == accessible::Direction::last_child))
+                return GiveWindow(first ? windows.front() : windows.back(), to);
             return found ? Give(*found, to) : S_FALSE;
         });
     }
@@ -256,6 +281,12 @@ public:
             return E_POINTER;
         hit->vt = VT_EMPTY;
         return Asked([&] {
+            for (HWND const window : Windows())
+            {
+                CRect rect;
+                if (::IsWindowVisible(window) && ::GetWindowRect(window, &rect) && rect.PtInRect(CPoint(x, y)))
+                    return GiveWindow(window, hit);
+            }
             auto const found = m_target->ElementAt(CPoint(x, y));
             return found ? Give(*found, hit) : S_FALSE;
         });
@@ -304,6 +335,34 @@ private:
         if (named.IsControl() || !m_target->Exists(named))
             return {};
         return named;
+    }
+    /// The windows that are children of this element.
+    std::vector<HWND> Windows() const
+    {
+        return m_element.IsControl() && m_target->IsThere() ? m_target->ChildWindows() : std::vector<HWND>();
+    }
+    /// They are numbered behind the control's own elements.
+    HWND NamedWindow(VARIANT const & which) const
+    {
+        auto const windows = Windows();
+        long const place = which.vt == VT_I4 && !windows.empty() ? which.lVal - m_target->ChildCount(m_element) : 0;
+        return place > 0 && place <= static_cast<long>(windows.size()) ? windows[static_cast<std::size_t>(place - 1)]
+                                                                       : nullptr;
+    }
+    static HRESULT GiveWindow(HWND window, IDispatch ** result)
+    {
+        if (window == nullptr)
+            return E_INVALIDARG;
+        return ::AccessibleObjectFromWindow(window, static_cast<DWORD>(OBJID_WINDOW), __uuidof(IDispatch),
+                                            reinterpret_cast<void **>(result));
+    }
+    static HRESULT GiveWindow(HWND window, VARIANT * result)
+    {
+        result->pdispVal = nullptr;
+        HRESULT const answer = GiveWindow(window, &result->pdispVal);
+        if (answer == S_OK)
+            result->vt = VT_DISPATCH;
+        return answer;
     }
     HRESULT Give(Element element, VARIANT * result) const
     {
@@ -464,10 +523,16 @@ bool AccessTarget::Select(Element element, long flags)
     return true;
 }
 
+bool AsksForControl(UINT message, LPARAM lParam)
+{
+    // Only the low half is certain.
+    return message == WM_GETOBJECT && static_cast<LONG>(lParam) == OBJID_CLIENT;
+}
+
 LRESULT AnswerWithObject(std::shared_ptr<AccessTarget> const & target, WPARAM flags)
 {
     IAccessible * object = nullptr;
-    if (FAILED(Guarded([&]() -> HRESULT {
+    if (!ComCallsThisThread() || FAILED(Guarded([&]() -> HRESULT {
             object = new AccessObject(target, {});
             return S_OK;
         })))

@@ -22,6 +22,8 @@ public:
     virtual HWND Window() const = 0;
     virtual bool Exists(accessible::Element) { return true; }
     virtual int ChildCount(accessible::Element) { return 0; }
+    /// Windows that are children as well, behind the elements of the control's own.
+    virtual std::vector<HWND> ChildWindows() { return {}; }
     virtual std::optional<accessible::Element> Navigate(accessible::Element, accessible::Direction) { return {}; }
     /// Screen coordinates, as below.
     virtual std::optional<accessible::Element> ElementAt(CPoint point) = 0;
@@ -36,7 +38,10 @@ public:
     virtual bool Select(accessible::Element, long flags);
 };
 
-/// Answers WM_GETOBJECT with the object of the control itself; 0 if that fails.
+/// Whether a message asks for a control's own object.
+bool AsksForControl(UINT message, LPARAM lParam);
+/// Answers WM_GETOBJECT with the object of the control itself; 0 if that fails, and in a thread whose objects COM would
+/// have called by other threads.
 LRESULT AnswerWithObject(std::shared_ptr<AccessTarget> const & target, WPARAM flags);
 /// Tells whoever listens of an event (EVENT_OBJECT_...). Costs next to nothing while nobody does.
 void TellOfEvent(DWORD event, HWND window, accessible::Element element);
