@@ -50,6 +50,7 @@ public:
     bool HasFocus() const override { return hasFocus; }
     bool IsMultiSelect() const override { return true; }
     int FocusedRow() const override { return 1; }
+    int FocusedCol() const override { return focusedCol; }
     int NextSelected(int after) const override { return after < 1 ? 1 : -1; }
 
     std::vector<XLISTCTRLDATA> cells;
@@ -57,6 +58,7 @@ public:
     int cellsInRow = columns;
     bool enabled = true;
     bool hasFocus = false;
+    int focusedCol = -1;
 };
 
 class AccessibleLists : public testing::Test
@@ -211,4 +213,12 @@ TEST_F(AccessibleLists, TellOfSelectionAndFocus)
     EXPECT_EQ(accessible::Describe(m_list, {1, -1}).name, L"1,0");
     EXPECT_EQ(accessible::Describe(m_list, {1, -1}).role, Role::row);
     EXPECT_EQ(accessible::Describe(m_list, {}).role, Role::list);
+
+    // With a cell cursor the focus is a cell's.
+    m_list.focusedCol = 2;
+    EXPECT_EQ(accessible::Describe(m_list, {1, -1}).states, selectable | focusable | selected);
+    EXPECT_EQ(Cell(1, 2).states & (focusable | focused), focusable | focused);
+    EXPECT_EQ(Cell(1, 1).states & (focusable | focused), focusable);
+    m_list.hasFocus = false;
+    EXPECT_EQ(Cell(1, 2).states & (focusable | focused), focusable);
 }

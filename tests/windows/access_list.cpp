@@ -159,6 +159,29 @@ TEST_F(AccessObjects, TellOfChanges)
     EXPECT_TRUE(listener.Heard(EVENT_OBJECT_REORDER, {}));
 }
 
+TEST_F(AccessObjects, FollowTheCellCursor)
+{
+    m_list.SetItemState(3, LVIS_FOCUSED | LVIS_SELECTED, LVIS_FOCUSED | LVIS_SELECTED);
+    m_list.SetFocus();
+    VARIANT focus{};
+    ASSERT_EQ(m_object->get_accFocus(&focus), S_OK);
+    EXPECT_EQ(access_tests::NameOf(*static_cast<IAccessible *>(focus.pdispVal)), L"r3") << "a row";
+    focus.pdispVal->Release();
+    m_list.EnableCellCursor();
+    Listener listener(m_list.m_hWnd);
+    m_list.SetCellCursor(1, 2);
+    listener.events = listener.Take();
+    EXPECT_TRUE(listener.Heard(EVENT_OBJECT_FOCUS, {1, 2}));
+    EXPECT_FALSE(listener.Heard(EVENT_OBJECT_FOCUS, {1, -1}));
+    EXPECT_NE(States(1, 2) & STATE_SYSTEM_FOCUSED, 0);
+    EXPECT_EQ(States(1, 1) & STATE_SYSTEM_FOCUSED, 0);
+    ASSERT_EQ(m_object->get_accFocus(&focus), S_OK);
+    EXPECT_EQ(access_tests::NameOf(*static_cast<IAccessible *>(focus.pdispVal)), L"c2") << "a cell";
+    focus.pdispVal->Release();
+    EXPECT_EQ(m_object->accSelect(SELFLAG_TAKEFOCUS, Cell(4, 0)), S_OK);
+    EXPECT_EQ(m_list.GetCellCursor(), (std::pair<int, int>(4, 0)));
+}
+
 TEST_F(AccessObjects, TellOfABatchOnce)
 {
     std::vector<Listener::Event> const once = {{EVENT_OBJECT_REORDER, 0}};

@@ -35,7 +35,7 @@ accessible::Description DescribeRow(AccessibleList const & list, int row)
     row_described.states = accessible::state::selectable | accessible::state::focusable | PlaceStates(list, {row, -1});
     if (list.NextSelected(row - 1) == row)
         row_described.states |= accessible::state::selected;
-    if (list.FocusedRow() == row && list.HasFocus())
+    if (list.FocusedRow() == row && list.FocusedCol() < 0 && list.HasFocus())
         row_described.states |= accessible::state::focused;
     if (!list.IsEnabled())
         row_described.states |= accessible::state::unavailable;
@@ -49,6 +49,12 @@ accessible::Description DescribeCell(AccessibleList const & list, int row, int c
     described.name = list.Title(col);
     described.value = list.Text(row, col);
     described.states = PlaceStates(list, {row, col});
+    if (int const cursor = list.FocusedCol(); cursor >= 0)
+    {
+        described.states |= accessible::state::focusable;
+        if (cursor == col && list.FocusedRow() == row && list.HasFocus())
+            described.states |= accessible::state::focused;
+    }
     bool const enabled = list.IsEnabled();
     auto const kindText = list.KindText(row, col);
     // From here on nothing is asked that could run the host's code.

@@ -35,6 +35,8 @@ public:
     virtual bool HasFocus() const = 0;
     virtual bool IsMultiSelect() const = 0;
     virtual int FocusedRow() const = 0;
+    /// The column of the cell cursor; -1 without one.
+    virtual int FocusedCol() const = 0;
     /// -1 behind the last one.
     virtual int NextSelected(int after) const = 0;
 

@@ -2,6 +2,7 @@
 
 #include "frame/InternalMessages.h"
 #include "frame/ToolkitResources.h"
+#include "list/XListCtrlCursor.h"
 #include "list/XListCtrlHold.h"
 #include "resources/resource_ids.h"
 
@@ -50,7 +51,8 @@ CXListCtrl::CXListCtrl()
       m_editors(std::make_unique<EditorState>()),
       m_paint(std::make_unique<PaintState>()),
       m_drag(std::make_unique<DragState>()),
-      m_access(std::make_unique<AccessState>())
+      m_access(std::make_unique<AccessState>()),
+      m_cursor(std::make_unique<CellCursor>(*this))
 {
     GetColors();
 }

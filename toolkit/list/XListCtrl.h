@@ -366,8 +366,20 @@ public:
     /// without cells are left out. False for a first row or column past the end, or if the clipboard refuses.
     bool ExportToClipboard(bool withHeader, int firstRow, int lastRow, int firstCol, int lastCol);
 
-    // --- Mouse, menu and tooltips ---
+    // --- Mouse, keyboard, menu and tooltips ---
 
+    /// From now on the focused row has a cursor on one of its cells. The arrow keys, Home, End and the page keys move
+    /// it, Ctrl+Home and Ctrl+End to the first and last cell of all. Space ticks, F2 or typing edits, Alt+Down opens a
+    /// combo, Enter follows a link; Shift+F10 and the menu key open the menu there, Tab goes on to the next cell that
+    /// can be changed and, behind the last one or with Ctrl, to the next control. Ctrl and Plus of the number pad fit
+    /// the columns to their texts. Off at first; a list without it leaves all of these keys to the native one.
+    void EnableCellCursor(bool enable = true);
+    /// Whether there is a cursor.
+    bool HasCellCursor() const;
+    /// The cursor's row and column; (-1, -1) without one, or without a focused row.
+    std::pair<int, int> GetCellCursor() const;
+    /// Puts the cursor on a cell, focuses and selects its row and scrolls it into view. False without a cursor.
+    bool SetCellCursor(int row, int col);
     /// Calls m_onStateChange and posts the message (row, column) to the parent, else to the owner.
     virtual void OnItemStateChange(int row, int col, unsigned int message);
     /// What a click on a column's header does; the header calls it.
@@ -460,6 +472,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    class CellCursor;
     class HeldRow;
     class Pin;
     class Watch;
@@ -534,6 +547,7 @@ private:
     /// texts do.
     void FollowColumns(UINT message, int col);
     void FillMovedFirstColumn(CDC & dc, CRect const & row);
+    void DrawSubItem(NMLVCUSTOMDRAW & draw, LRESULT * result);
     /// Whether the row stands above the first one that shows.
     bool IsAboveTop(int row);
     /// Forgets what the paint under way remembers if a message that arrives could change it.
@@ -626,4 +640,5 @@ private:
     std::unique_ptr<DragState> m_drag;
     CMenu m_popupMenu;
     std::unique_ptr<AccessState> m_access;
+    std::unique_ptr<CellCursor> m_cursor;
 };

@@ -12,6 +12,7 @@
 #include "access/AccessibleList.h"
 #include "list/CellKind.h"
 #include "list/CellText.h"
+#include "list/XListCtrlCursor.h"
 #include "list/XListCtrlHold.h"
 
 using accessible::Element;
@@ -79,6 +80,7 @@ public:
     bool HasFocus() const override { return List() != nullptr && ::GetFocus() == m_list->m_hWnd; }
     bool IsMultiSelect() const override { return List() != nullptr && (m_list->GetStyle() & LVS_SINGLESEL) == 0; }
     int FocusedRow() const override { return List() != nullptr ? m_list->GetNextItem(-1, LVNI_FOCUSED) : -1; }
+    int FocusedCol() const override { return List() != nullptr ? m_list->m_cursor->Place().second : -1; }
     int NextSelected(int after) const override
     {
         return List() != nullptr ? m_list->GetNextItem(after, LVNI_SELECTED) : -1;
@@ -131,7 +133,7 @@ public:
     Element Focused() override
     {
         int const row = m_rows.FocusedRow();
-        return row >= 0 ? Element{row, -1} : Element{};
+        return row >= 0 ? Element{row, m_rows.FocusedCol()} : Element{};
     }
     std::vector<Element> Selected() override
     {
@@ -162,10 +164,15 @@ bool CXListCtrl::AccessTargetOfList::Act(Element element)
 
 bool CXListCtrl::AccessTargetOfList::Select(Element element, long flags)
 {
-    if (!element.IsRow())
-        return AccessTarget::Select(element, flags);
     CXListCtrl & list = *m_rows.List();
     Watch const watch(list);
+    if (element.IsCell() && flags == SELFLAG_TAKEFOCUS && list.HasCellCursor())
+    {
+        list.SetFocus();
+        return watch.IsAlive() && list.SetCellCursor(element.row, element.col);
+    }
+    if (!element.IsRow())
+        return AccessTarget::Select(element, flags);
     if ((flags & SELFLAG_TAKEFOCUS) != 0)
         list.SetFocus();
     if ((flags & SELFLAG_TAKESELECTION) != 0)
@@ -239,6 +246,8 @@ void CXListCtrl::TellOfItemState(NMLISTVIEW const & change)
     if ((change.uChanged & LVIF_STATE) == 0 || change.iItem < 0)
         return;
     UINT const changed = change.uOldState ^ change.uNewState;
+    if ((changed & LVIS_FOCUSED) != 0)
+        m_cursor->FollowRow(change.iItem);
     if ((changed & (LVIS_SELECTED | LVIS_FOCUSED)) == 0)
         return;
     if (m_batchInsert || m_access->redrawOff)
@@ -251,7 +260,7 @@ void CXListCtrl::TellOfItemState(NMLISTVIEW const & change)
     bool const focused = (changed & change.uNewState & LVIS_FOCUSED) != 0;
     bool const selected = (change.uNewState & LVIS_SELECTED) != 0;
     if (focused)
-        TellOfEvent(EVENT_OBJECT_FOCUS, window, row);
+        TellOfEvent(EVENT_OBJECT_FOCUS, window, {change.iItem, m_cursor->Place().second});
     if ((changed & LVIS_SELECTED) != 0)
         TellOfEvent(selected ? EVENT_OBJECT_SELECTION : EVENT_OBJECT_SELECTIONREMOVE, window, row);
 }

@@ -3,6 +3,7 @@
 #include "list/XListCtrl.h"
 
 #include "frame/RegisteredMessages.h"
+#include "list/XListCtrlCursor.h"
 #include "list/XListCtrlHold.h"
 #include "list/XListSearch.h"
 
@@ -95,8 +96,21 @@ LRESULT CXListCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     case LVM_DELETECOLUMN:
     case LVM_SETCOLUMNORDERARRAY:
         return ColumnMessage(message, wParam, lParam);
+    case WM_GETDLGCODE: {
+        Watch const watch(*this);
+        LRESULT const keys = CListCtrl::WindowProc(message, wParam, lParam);
+        return watch.IsAlive() ? keys | m_cursor->WantedKeys(wParam) : keys;
+    }
+    case WM_SETFOCUS:
+    case WM_KILLFOCUS: {
+        Watch const watch(*this);
+        LRESULT const result = CListCtrl::WindowProc(message, wParam, lParam);
+        if (watch.IsAlive())
+            m_cursor->FollowFocus(message == WM_SETFOCUS);
+        return result;
+    }
     case WM_GETOBJECT:
-        if (LRESULT const answer = static_cast<LONG>(lParam) == OBJID_CLIENT ? AnswerGetObject(wParam) : 0)
+        if (LRESULT const answer = AsksForControl(message, lParam) ? AnswerGetObject(wParam) : 0)
             return answer;
         return CListCtrl::WindowProc(message, wParam, lParam);
     case WM_SETREDRAW: {
@@ -113,6 +127,10 @@ LRESULT CXListCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 
 LRESULT CXListCtrl::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
+    // Keys that the host has not taken.
+    if (m_cursor->IsOn() && (message == WM_CHAR || message == WM_SYSKEYDOWN) &&
+        m_cursor->TakeMessage(message, wParam, lParam))
+        return 0;
     if (!ChangesRows(message, lParam))
         return CListCtrl::DefWindowProc(message, wParam, lParam);
 

@@ -4,6 +4,7 @@
 
 #include "frame/RegisteredMessages.h"
 #include "list/CellKind.h"
+#include "list/XListCtrlCursor.h"
 #include "list/XListCtrlHold.h"
 #include "list/XListInput.h"
 
@@ -95,6 +96,7 @@ void CXListCtrl::OnLButtonDown(UINT, CPoint point)
     XLISTCTRLDATA const * const cell = ValidCell(row, col);
     if (cell != nullptr && DecidePress(*cell) == CellPress::ignored)
         return;
+    m_cursor->PutColumn(col);
     PressCell(row, col, point, true);
 }
 
@@ -280,6 +282,12 @@ void CXListCtrl::OnHeaderColumnClick(int col)
 
 void CXListCtrl::OnKeyDown(UINT key, UINT repeat, UINT flags)
 {
+    if (m_cursor->IsOn())
+    {
+        if (!m_cursor->TakeKey(key) && !OfferKey(key))
+            CListCtrl::OnKeyDown(key, repeat, flags);
+        return;
+    }
     if (OfferKey(key))
         return;
     bool const down = key == VK_DOWN || key == VK_NEXT;
@@ -306,13 +314,15 @@ CMenu & CXListCtrl::PopUpMenu()
 
 void CXListCtrl::OnContextMenu(CWnd * window, CPoint point)
 {
+    // The keyboard's menu has no place of its own.
+    bool const byKey = point == CPoint(-1, -1) && m_cursor->FindMenuPlace(point);
     CPoint inside = point;
     ScreenToClient(&inside);
-    auto const place = GetItem(inside);
+    auto const place = byKey ? m_cursor->Place() : GetItem(inside);
     CRect header(0, 0, 0, 0);
     if (m_header.GetSafeHwnd() != nullptr)
         m_header.GetWindowRect(&header);
-    bool const belowHeader = header.IsRectNull() || point.y >= header.bottom;
+    bool const belowHeader = byKey || header.IsRectNull() || point.y >= header.bottom;
     if (!IsCell(place) || !m_onContextCommand || !belowHeader)
     {
         CListCtrl::OnContextMenu(window, point);
