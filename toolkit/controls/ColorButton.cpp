@@ -1,7 +1,9 @@
 #include "controls/ColorButton.h"
 
 #include <algorithm>
+#include <memory>
 
+#include "access/ControlTarget.h"
 #include "controls/ButtonLayout.h"
 
 namespace
@@ -148,4 +150,11 @@ void CColorButton::OnTimer(UINT_PTR id)
         Invalidate();
     }
     CButton::OnTimer(id);
+}
+
+LRESULT CColorButton::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (AsksForControl(message, lParam))
+        return AnswerWithObject(std::make_shared<ButtonTarget>(*this, m_lifeSign), wParam);
+    return CButton::DefWindowProc(message, wParam, lParam);
 }

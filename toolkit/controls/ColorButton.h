@@ -40,6 +40,7 @@ public:
 protected:
     void PreSubclassWindow() override;
 
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     afx_msg void OnMouseMove(UINT flags, CPoint point);
     afx_msg void OnTimer(UINT_PTR id);
     DECLARE_MESSAGE_MAP()

@@ -1,5 +1,8 @@
 #include "controls/FreeIconButton.h"
 
+#include <memory>
+
+#include "access/ControlTarget.h"
 #include "frame/ToolkitResources.h"
 #include "resources/resource_ids.h"
 
@@ -26,4 +29,11 @@ void CFreeIconButton::DrawItem(LPDRAWITEMSTRUCT item)
     dc->SetBkMode(TRANSPARENT);
     if (m_icon != nullptr)
         dc->DrawIcon(0, 0, m_icon);
+}
+
+LRESULT CFreeIconButton::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (AsksForControl(message, lParam))
+        return AnswerWithObject(std::make_shared<ButtonTarget>(*this, m_life), wParam);
+    return CButton::DefWindowProc(message, wParam, lParam);
 }

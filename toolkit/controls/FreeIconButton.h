@@ -3,6 +3,7 @@
 #include <afxwin.h>
 
 #include "frame/Export.h"
+#include "frame/LifeWatch.h"
 
 /// A button without a look of its own that shows one icon of the module at its top left corner, pressed, disabled or
 /// not. For the user-interface thread alone.
@@ -20,8 +21,12 @@ public:
 
 protected:
     void PreSubclassWindow() override;
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     DECLARE_MESSAGE_MAP()
 
     /// Shared by the system; null where it could not be loaded.
     HICON m_icon;
+
+private:
+    LifeSign m_life;
 };

@@ -1,7 +1,10 @@
 #include "controls/IdNameMultiselectCtrl.h"
 
 #include <iterator>
+#include <memory>
+#include <vector>
 
+#include "access/ControlTarget.h"
 #include "controls/IdNameSelection.h"
 #include "controls/MultiselectMessages.h"
 #include "controls/SmallIcon.h"
@@ -485,4 +488,42 @@ void CIdNameMultiselectCtrl::DestroyIcons()
             ::DestroyIcon(icon);
         icon = nullptr;
     }
+}
+
+// --- What programs that read the screen see ---
+
+namespace
+{
+/// A group of windows.
+class MultiselectAccess final : public ControlTarget
+{
+public:
+    using ControlTarget::ControlTarget;
+
+    std::vector<HWND> ChildWindows() override
+    {
+        std::vector<HWND> windows;
+        for (HWND child = ::GetWindow(Window(), GW_CHILD); child != nullptr; child = ::GetWindow(child, GW_HWNDNEXT))
+        {
+            if (::IsWindowVisible(child))
+                windows.push_back(child);
+        }
+        return windows;
+    }
+
+protected:
+    accessible::Description DescribeSelf() override
+    {
+        auto facts = Facts();
+        facts.focusable = false;
+        return accessible::DescribeControl(accessible::Role::grouping, facts);
+    }
+};
+} // namespace
+
+LRESULT CIdNameMultiselectCtrl::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (AsksForControl(message, lParam))
+        return AnswerWithObject(std::make_shared<MultiselectAccess>(*this, m_life), wParam);
+    return CButton::DefWindowProc(message, wParam, lParam);
 }

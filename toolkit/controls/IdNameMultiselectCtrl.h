@@ -84,6 +84,7 @@ protected:
     /// Posts WM_IDNAME_MULTISELECT_EVENT to the parent, or else to the owner.
     void SendMessageToParent(WPARAM wParam, LPARAM lParam);
 
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     afx_msg void OnSize(UINT type, int cx, int cy);
     afx_msg void OnDestroy();
     afx_msg void OnSelectAll();

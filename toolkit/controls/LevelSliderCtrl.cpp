@@ -1,5 +1,8 @@
 #include "controls/LevelSliderCtrl.h"
 
+#include <memory>
+
+#include "access/ControlTarget.h"
 #include "controls/LumaPlatform.h"
 #include "controls/SliderLayout.h"
 
@@ -169,4 +172,44 @@ void CLevelSliderCtrl::OnReflectedCustomDraw(NMHDR * header, LRESULT * result)
     default:
         break;
     }
+}
+
+// --- What programs that read the screen see ---
+
+class CLevelSliderCtrl::Access final : public ControlTarget
+{
+public:
+    Access(CLevelSliderCtrl & slider, LifeSign const & life) : ControlTarget(slider, life), m_slider(slider) {}
+
+protected:
+    accessible::Description DescribeSelf() override
+    {
+        auto const facts = Facts();
+        HWND const window = Window();
+        auto const least = static_cast<int>(::SendMessageW(window, TBM_GETRANGEMIN, 0, 0));
+        auto const greatest = static_cast<int>(::SendMessageW(window, TBM_GETRANGEMAX, 0, 0));
+        auto const position = static_cast<int>(::SendMessageW(window, TBM_GETPOS, 0, 0));
+        double const fraction = SliderFraction(least, greatest, position);
+        // What is below the thumb is the level of one that stands.
+        return accessible::DescribeSlider(facts, IsThere() && m_slider.IsVertical() ? 1 - fraction : fraction);
+    }
+
+private:
+    CLevelSliderCtrl & m_slider;
+};
+
+LRESULT CLevelSliderCtrl::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (AsksForControl(message, lParam))
+        return AnswerWithObject(std::make_shared<Access>(*this, m_lifeSign), wParam);
+    if (!::IsWinEventHookInstalled(EVENT_OBJECT_VALUECHANGE))
+        return CSliderCtrl::DefWindowProc(message, wParam, lParam);
+    // Straight to the native slider, before and after: not every one tells of its changes.
+    LifeWatch const life(m_lifeSign);
+    HWND const window = m_hWnd;
+    LRESULT const before = CSliderCtrl::DefWindowProc(TBM_GETPOS, 0, 0);
+    LRESULT const result = CSliderCtrl::DefWindowProc(message, wParam, lParam);
+    if (!life.Over() && window != nullptr && m_hWnd == window && CSliderCtrl::DefWindowProc(TBM_GETPOS, 0, 0) != before)
+        TellOfEvent(EVENT_OBJECT_VALUECHANGE, window, {});
+    return result;
 }

@@ -34,6 +34,7 @@ protected:
     /// dc, as DrawChannel does.
     void DrawThumb(CDC * dc, CRect & rect, bool selected);
 
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     afx_msg void OnReflectedCustomDraw(NMHDR * header, LRESULT * result);
     DECLARE_MESSAGE_MAP()
 
@@ -51,6 +52,8 @@ protected:
     GRADIENT_RECT m_gradientRects[2];
 
 private:
+    class Access;
+
     bool IsVertical() const;
     void DrawPart(CDC & dc, CRect const & part, bool vertical, int first, CBrush & brush, COLORREF dark,
                   COLORREF light);

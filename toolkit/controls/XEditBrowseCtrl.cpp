@@ -2,9 +2,12 @@
 
 #include <afxdlgs.h>
 
+#include <algorithm>
 #include <clocale>
 #include <cwchar>
+#include <memory>
 
+#include "access/ControlTarget.h"
 #include "controls/IdNameSelection.h"
 #include "controls/SmallIcon.h"
 #include "frame/RegisteredMessages.h"
@@ -393,4 +396,78 @@ void CXEditBrowseCtrl::OnSize(UINT type, int cx, int cy)
     CMFCEditBrowseCtrl::OnSize(type, cx, cy);
     if (!life.Over() && m_idNameMode)
         UpdateSelectionText();
+}
+
+// --- What programs that read the screen see ---
+
+namespace
+{
+/// The field with its button, which is an item of it.
+class BrowseAccess final : public ControlTarget
+{
+public:
+    BrowseAccess(CXEditBrowseCtrl & field, LifeSign const & life) : ControlTarget(field, life), m_field(field) {}
+
+protected:
+    accessible::ItemRow Items() override
+    {
+        return {IsThere() && m_field.GetMode() != CMFCEditBrowseCtrl::BrowseMode_None ? 1 : 0, true};
+    }
+    accessible::Description DescribeSelf() override
+    {
+        bool const readOnly = (::GetWindowLongPtrW(Window(), GWL_STYLE) & ES_READONLY) != 0;
+        return accessible::DescribeField(Facts(), readOnly);
+    }
+    accessible::Description DescribeItem(int) override
+    {
+        accessible::ControlFacts facts;
+        facts.text = L"Browse";
+        facts.enabled = IsEnabled();
+        auto described = accessible::DescribeButton(facts, false);
+        // The keyboard stays in the field.
+        described.states &= ~accessible::state::focusable;
+        return described;
+    }
+    bool ActItem(int) override
+    {
+        if (!IsThere() || !IsEnabled())
+            return false;
+        m_field.BrowseNow();
+        return true;
+    }
+    CRect SelfRect() override
+    {
+        CRect rect = ControlTarget::SelfRect();
+        rect.right = std::max(rect.right, WindowRight());
+        return rect;
+    }
+    std::optional<CRect> ItemRect(int) override
+    {
+        CRect rect = ControlTarget::SelfRect();
+        rect.left = rect.right;
+        rect.right = std::max(rect.right, WindowRight());
+        return rect;
+    }
+    int ItemAt(CPoint point) override { return ItemRect(0)->PtInRect(point) ? 0 : -1; }
+
+private:
+    /// The button stands between the client area and the window's right edge.
+    LONG WindowRight() const
+    {
+        RECT rect{};
+        ::GetWindowRect(Window(), &rect);
+        POINT corner{rect.right, rect.bottom};
+        ::ScreenToClient(Window(), &corner);
+        return corner.x;
+    }
+
+    CXEditBrowseCtrl & m_field;
+};
+} // namespace
+
+LRESULT CXEditBrowseCtrl::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (AsksForControl(message, lParam))
+        return AnswerWithObject(std::make_shared<BrowseAccess>(*this, m_life), wParam);
+    return CMFCEditBrowseCtrl::DefWindowProc(message, wParam, lParam);
 }

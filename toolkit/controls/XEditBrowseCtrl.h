@@ -86,6 +86,7 @@ protected:
     void ShowIdNameBrowser();
     void PostNcDestroy() override;
 
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     afx_msg void OnSize(UINT type, int cx, int cy);
     afx_msg LRESULT OnInterneNachricht(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()

@@ -35,6 +35,15 @@ BOOL CXEdit::PreTranslateMessage(MSG * message)
         SendClosing(message->wParam == VK_RETURN ? WM_XEDIT_KILL_FOCUS : WM_XEDIT_VK_ESCAPE);
         return TRUE;
     }
+    if (message->message == WM_KEYDOWN && message->wParam == VK_TAB && m_tabsToList && m_list != nullptr)
+    {
+        HWND const list = m_list->m_hWnd;
+        LPARAM const flags = message->lParam;
+        SendClosing(WM_XEDIT_KILL_FOCUS);
+        // By the queue, so that a dialog gets the key where the list has no use for it.
+        ::PostMessageW(list, WM_KEYDOWN, VK_TAB, flags);
+        return TRUE;
+    }
     return CEdit::PreTranslateMessage(message);
 }
 

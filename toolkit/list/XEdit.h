@@ -15,6 +15,8 @@ public:
     CXEdit(CXEdit const &) = delete;
     CXEdit & operator=(CXEdit const &) = delete;
 
+    /// From now on Tab ends the edit and then is the list's.
+    void GiveTabsToList() { m_tabsToList = true; }
     BOOL PreTranslateMessage(MSG * message) override;
     /// A closing message has gone out: the edit tells nothing any more.
     bool IsClosing() const { return m_closing != 0; }
@@ -36,5 +38,6 @@ private:
     CWnd * m_list;
     CString m_text;
     unsigned int m_closing = 0;
+    bool m_tabsToList = false;
 };
 } // namespace XListCtrl

@@ -2,6 +2,9 @@
 
 #include <afxcontrolbarutil.h>
 
+#include <memory>
+
+#include "access/ControlTarget.h"
 #include "list/XListCtrl.h"
 
 IMPLEMENT_DYNCREATE(CXHeaderCtrl, CHeaderCtrl)
@@ -113,4 +116,126 @@ void CXHeaderCtrl::OnLButtonDown(UINT flags, CPoint point)
         }
     }
     CHeaderCtrl::OnLButtonDown(flags, point);
+}
+
+// --- What programs that read the screen see ---
+
+class CXHeaderCtrl::Access final : public ControlTarget
+{
+public:
+    Access(CXHeaderCtrl & header, LifeSign const & life) : ControlTarget(header, life), m_header(header) {}
+
+protected:
+    accessible::ItemRow Items() override { return {IsThere() ? m_header.GetItemCount() : 0, true}; }
+    accessible::Description DescribeSelf() override
+    {
+        auto facts = Facts();
+        facts.focusable = false;
+        return accessible::DescribeControl(accessible::Role::list, facts);
+    }
+    accessible::Description DescribeItem(int col) override
+    {
+        constexpr int longest_title = 260;
+        wchar_t title[longest_title + 1] = {};
+        HDITEMW item{};
+        item.mask = HDI_TEXT | HDI_IMAGE;
+        item.pszText = title;
+        item.cchTextMax = longest_title;
+        bool const known = IsThere() && m_header.GetItem(col, &item);
+        accessible::ItemFacts facts;
+        facts.text = known && item.pszText != nullptr ? item.pszText : L"";
+        facts.enabled = IsEnabled();
+        facts.inSight = IsInSight(ItemRect(col));
+        bool const marked = known && IsThere() && !m_header.m_useImageList;
+        return accessible::DescribeColumn(facts, marked ? MarkOf(item.iImage) : accessible::HeaderMark::none,
+                                          CanBePressed());
+    }
+    std::optional<CRect> ItemRect(int col) override
+    {
+        CRect rect;
+        if (!IsThere() || !m_header.GetItemRect(col, &rect))
+            return {};
+        return rect;
+    }
+    int ItemAt(CPoint point) override
+    {
+        HDHITTESTINFO hit{};
+        hit.pt = point;
+        return static_cast<int>(::SendMessageW(Window(), HDM_HITTEST, 0, reinterpret_cast<LPARAM>(&hit)));
+    }
+    // As a click: the list hears of it from the header itself, or by the native notification.
+    bool ActItem(int col) override
+    {
+        if (!IsThere() || !IsEnabled() || !CanBePressed())
+            return false;
+        if (m_header.m_directColumnClick && m_header.m_list != nullptr)
+        {
+            m_header.m_list->OnHeaderColumnClick(col);
+            return true;
+        }
+        NMHEADERW click{};
+        click.hdr = {Window(), static_cast<UINT_PTR>(::GetDlgCtrlID(Window())), HDN_ITEMCLICKW};
+        click.iItem = col;
+        ::SendMessageW(::GetParent(Window()), WM_NOTIFY, click.hdr.idFrom, reinterpret_cast<LPARAM>(&click));
+        return true;
+    }
+
+private:
+    bool CanBePressed() const
+    {
+        bool const direct = IsThere() && m_header.m_directColumnClick && m_header.m_list != nullptr;
+        return direct || (::GetWindowLongPtrW(Window(), GWL_STYLE) & HDS_BUTTONS) != 0;
+    }
+    static accessible::HeaderMark MarkOf(int image)
+    {
+        switch (image)
+        {
+        case XHC_UNCHECKED:
+            return accessible::HeaderMark::unchecked;
+        case XHC_CHECKED:
+            return accessible::HeaderMark::checked;
+        case XHC_MIXED:
+        case XHC_CROSSED:
+            return accessible::HeaderMark::mixed;
+        case XHC_SORT_ASCENDING:
+            return accessible::HeaderMark::ascending;
+        case XHC_SORT_DESCENDING:
+            return accessible::HeaderMark::descending;
+        default:
+            return accessible::HeaderMark::none;
+        }
+    }
+
+    CXHeaderCtrl & m_header;
+};
+
+LRESULT CXHeaderCtrl::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (AsksForControl(message, lParam))
+        return AnswerWithObject(std::make_shared<Access>(*this, m_life), wParam);
+    HWND const window = m_hWnd;
+    switch (message)
+    {
+    case HDM_INSERTITEMA:
+    case HDM_INSERTITEMW:
+    case HDM_DELETEITEM: {
+        LRESULT const result = CHeaderCtrl::DefWindowProc(message, wParam, lParam);
+        TellOfEvent(EVENT_OBJECT_REORDER, window, {});
+        return result;
+    }
+    case HDM_SETITEMA:
+    case HDM_SETITEMW: {
+        auto const * const item = reinterpret_cast<HDITEMW const *>(lParam);
+        UINT const changed = item != nullptr ? item->mask : 0;
+        LRESULT const result = CHeaderCtrl::DefWindowProc(message, wParam, lParam);
+        accessible::Element const column{static_cast<int>(wParam), -1};
+        if ((changed & HDI_TEXT) != 0)
+            TellOfEvent(EVENT_OBJECT_NAMECHANGE, window, column);
+        if ((changed & HDI_IMAGE) != 0)
+            TellOfEvent(EVENT_OBJECT_STATECHANGE, window, column);
+        return result;
+    }
+    default:
+        return CHeaderCtrl::DefWindowProc(message, wParam, lParam);
+    }
 }

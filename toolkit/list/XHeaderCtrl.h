@@ -3,6 +3,7 @@
 #include <afxcmn.h>
 
 #include "frame/Export.h"
+#include "frame/LifeWatch.h"
 
 class CXListCtrl;
 
@@ -44,6 +45,7 @@ protected:
     /// The title in what is left of the rectangle.
     void DrawItemText(CDC * dc, CRect rect, LPHDITEM item);
 
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     afx_msg BOOL OnEraseBkgnd(CDC * dc);
     afx_msg void OnPaint();
     afx_msg void OnSysColorChange();
@@ -56,6 +58,8 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    class Access;
+
     void ReadColors();
 
     CXListCtrl * m_list = nullptr;
@@ -73,4 +77,5 @@ private:
     COLORREF m_colorShadow;
     COLORREF m_colorFace;
     COLORREF m_colorText;
+    LifeSign m_life;
 };

@@ -2,6 +2,7 @@
 
 #include "frame/InternalMessages.h"
 #include "frame/ToolkitResources.h"
+#include "list/XListCtrlCursor.h"
 #include "list/XListCtrlHold.h"
 #include "resources/resource_ids.h"
 
@@ -49,7 +50,9 @@ CXListCtrl::CXListCtrl()
       m_fit(std::make_unique<FitState>()),
       m_editors(std::make_unique<EditorState>()),
       m_paint(std::make_unique<PaintState>()),
-      m_drag(std::make_unique<DragState>())
+      m_drag(std::make_unique<DragState>()),
+      m_access(std::make_unique<AccessState>()),
+      m_cursor(std::make_unique<CellCursor>(*this))
 {
     GetColors();
 }
@@ -60,6 +63,7 @@ CXListCtrl::~CXListCtrl()
     if (m_hWnd != nullptr)
         DestroyWindow();
     EndEditors();
+    EndAccess();
 }
 
 void CXListCtrl::PreSubclassWindow()
@@ -110,6 +114,7 @@ void CXListCtrl::SubclassHeaderControl()
 
 void CXListCtrl::OnDestroy()
 {
+    EndAccess();
     EndDragImage();
     EndEditors();
     m_rows->model.pool.GiveBackAll();

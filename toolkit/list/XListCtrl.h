@@ -366,8 +366,20 @@ public:
     /// without cells are left out. False for a first row or column past the end, or if the clipboard refuses.
     bool ExportToClipboard(bool withHeader, int firstRow, int lastRow, int firstCol, int lastCol);
 
-    // --- Mouse, menu and tooltips ---
+    // --- Mouse, keyboard, menu and tooltips ---
 
+    /// From now on the focused row has a cursor on one of its cells. The arrow keys, Home, End and the page keys move
+    /// it, Ctrl+Home and Ctrl+End to the first and last cell of all. Space ticks, F2 or typing edits, Alt+Down opens a
+    /// combo, Enter follows a link; Shift+F10 and the menu key open the menu there, Tab goes on to the next cell that
+    /// can be changed and, behind the last one or with Ctrl, to the next control. Ctrl and Plus of the number pad fit
+    /// the columns to their texts. Off at first; a list without it leaves all of these keys to the native one.
+    void EnableCellCursor(bool enable = true);
+    /// Whether there is a cursor.
+    bool HasCellCursor() const;
+    /// The cursor's row and column; (-1, -1) without one, or without a focused row.
+    std::pair<int, int> GetCellCursor() const;
+    /// Puts the cursor on a cell, focuses and selects its row and scrolls it into view. False without a cursor.
+    bool SetCellCursor(int row, int col);
     /// Calls m_onStateChange and posts the message (row, column) to the parent, else to the owner.
     virtual void OnItemStateChange(int row, int col, unsigned int message);
     /// What a click on a column's header does; the header calls it.
@@ -460,6 +472,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    class CellCursor;
     class HeldRow;
     class Pin;
     class Watch;
@@ -494,6 +507,20 @@ private:
     /// Offers a press or a key to the host's kind of a cell; whether it took it. The list may be gone then.
     bool OfferPress(int row, int col, CPoint point);
     bool OfferKey(UINT key);
+    /// What a left press on an enabled cell does. asInput: it is the mouse's, which the native list gets as well.
+    void PressCell(int row, int col, CPoint point, bool asInput);
+
+    // Accessibility (XListCtrlAccess).
+    /// The list's accessible object as the answer to the question for it; 0 if there is none.
+    LRESULT AnswerGetObject(WPARAM flags);
+    /// Those who keep accessible objects of the list hear from now on that it is gone.
+    void EndAccess();
+    /// While on, changes are told together at its end.
+    void HoldAccessEvents(bool batch, bool redrawOff);
+    // These tell whoever listens of a change. They can run code of a listener's.
+    void TellOfCell(int row, int col);
+    void TellOfOrder();
+    void TellOfItemState(NMLISTVIEW const & change);
     /// The text that the cell shows, up to that length.
     CellText ReadCellText(int row, int col) const;
     CellText ReadCellText(int row, int col, int limit) const;
@@ -520,6 +547,7 @@ private:
     /// texts do.
     void FollowColumns(UINT message, int col);
     void FillMovedFirstColumn(CDC & dc, CRect const & row);
+    void DrawSubItem(NMLVCUSTOMDRAW & draw, LRESULT * result);
     /// Whether the row stands above the first one that shows.
     bool IsAboveTop(int row);
     /// Forgets what the paint under way remembers if a message that arrives could change it.
@@ -558,6 +586,8 @@ private:
     bool RowsAreKnown() const;
     /// Follows what a native message does to that; own: an operation of this class sent it and keeps the books.
     void NoteRowChange(UINT message, LPARAM lParam, bool own);
+    /// Has the native list handle a message that changes rows.
+    LRESULT ChangeRows(UINT message, WPARAM wParam, LPARAM lParam);
     /// A message to the native list itself, that only asks.
     LRESULT AskNative(UINT message, WPARAM wParam, LPARAM lParam) const;
     /// The item's parameter word as it is; null without an item.
@@ -579,6 +609,9 @@ private:
 
     // What the sources of the list keep for themselves (XListCtrlState.h).
     class Items;
+    class AccessRows;
+    class AccessTargetOfList;
+    struct AccessState;
     struct DragState;
     struct EditorState;
     struct FitState;
@@ -606,4 +639,6 @@ private:
     std::unique_ptr<PaintState> m_paint;
     std::unique_ptr<DragState> m_drag;
     CMenu m_popupMenu;
+    std::unique_ptr<AccessState> m_access;
+    std::unique_ptr<CellCursor> m_cursor;
 };

@@ -3,6 +3,7 @@
 #include "list/XListCtrl.h"
 
 #include "frame/RegisteredMessages.h"
+#include "list/XListCtrlCursor.h"
 #include "list/XListCtrlHold.h"
 #include "list/XListSearch.h"
 
@@ -95,6 +96,30 @@ LRESULT CXListCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     case LVM_DELETECOLUMN:
     case LVM_SETCOLUMNORDERARRAY:
         return ColumnMessage(message, wParam, lParam);
+    case WM_GETDLGCODE: {
+        Watch const watch(*this);
+        LRESULT const keys = CListCtrl::WindowProc(message, wParam, lParam);
+        return watch.IsAlive() ? keys | m_cursor->WantedKeys(wParam) : keys;
+    }
+    case WM_SETFOCUS:
+    case WM_KILLFOCUS: {
+        Watch const watch(*this);
+        LRESULT const result = CListCtrl::WindowProc(message, wParam, lParam);
+        if (watch.IsAlive())
+            m_cursor->FollowFocus(message == WM_SETFOCUS);
+        return result;
+    }
+    case WM_GETOBJECT:
+        if (LRESULT const answer = AsksForControl(message, lParam) ? AnswerGetObject(wParam) : 0)
+            return answer;
+        return CListCtrl::WindowProc(message, wParam, lParam);
+    case WM_SETREDRAW: {
+        Watch const watch(*this);
+        LRESULT const result = CListCtrl::WindowProc(message, wParam, lParam);
+        if (watch.IsAlive())
+            HoldAccessEvents(m_batchInsert, wParam == FALSE);
+        return result;
+    }
     default:
         return CListCtrl::WindowProc(message, wParam, lParam);
     }
@@ -102,10 +127,23 @@ LRESULT CXListCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 
 LRESULT CXListCtrl::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
+    // Keys that the host has not taken.
+    if (m_cursor->IsOn() && (message == WM_CHAR || message == WM_SYSKEYDOWN) &&
+        m_cursor->TakeMessage(message, wParam, lParam))
+        return 0;
     if (!ChangesRows(message, lParam))
         return CListCtrl::DefWindowProc(message, wParam, lParam);
 
     NoteRowChange(message, lParam, std::exchange(m_rows->ownChange, false));
+    Watch const watch(*this);
+    LRESULT const result = ChangeRows(message, wParam, lParam);
+    if (watch.IsAlive() && message != LVM_SETITEMA && message != LVM_SETITEMW)
+        TellOfOrder();
+    return result;
+}
+
+LRESULT CXListCtrl::ChangeRows(UINT message, WPARAM wParam, LPARAM lParam)
+{
     struct RowChange
     {
         explicit RowChange(CXListCtrl & changed) : list(changed), watch(changed)

@@ -65,6 +65,8 @@ BOOL CXListCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESU
     Watch const watch(*this);
     if (begins)
         begin_drag(header, result != nullptr ? result : &unused);
+    if (message == WM_NOTIFY && header->code == LVN_ITEMCHANGED)
+        TellOfItemState(*reinterpret_cast<NMLISTVIEW const *>(header));
     if (!watch.IsAlive())
         return TRUE;
     BOOL const handled = CListCtrl::OnChildNotify(message, wParam, lParam, result);

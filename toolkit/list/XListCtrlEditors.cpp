@@ -9,6 +9,7 @@
 #include "frame/RegisteredMessages.h"
 #include "list/XCombo.h"
 #include "list/XEdit.h"
+#include "list/XListCtrlCursor.h"
 #include "list/XListCtrlHold.h"
 
 namespace
@@ -110,6 +111,8 @@ void CXListCtrl::DrawEditControl(int row, int col)
     // One that is closing has lost the focus already, when nobody could take its text.
     if (!held.IsListAlive() || !created || !::IsWindow(edit->m_hWnd) || edit->IsClosing())
         return;
+    if (m_cursor->IsOn())
+        edit->GiveTabsToList();
     m_editors->edit = edit.release();
     m_editors->editRow = row;
     m_editors->editCol = col;

@@ -4,6 +4,7 @@
 
 #include "frame/RegisteredMessages.h"
 #include "list/CellKind.h"
+#include "list/XListCtrlCursor.h"
 #include "list/XListCtrlHold.h"
 #include "list/XListInput.h"
 
@@ -92,11 +93,26 @@ void CXListCtrl::OnLButtonDown(UINT, CPoint point)
         return;
     }
     // Rows that were inserted past this class, or before the column was, have no cell here.
-    HeldRow held(*this, row);
-    XLISTCTRLDATA const * cell = held.Cell(col);
+    XLISTCTRLDATA const * const cell = ValidCell(row, col);
     if (cell != nullptr && DecidePress(*cell) == CellPress::ignored)
         return;
+    m_cursor->PutColumn(col);
+    PressCell(row, col, point, true);
+}
 
+void CXListCtrl::PressCell(int row, int col, CPoint point, bool asInput)
+{
+    auto const pass = [this, asInput] {
+        Watch const watch(*this);
+        // The host hears of the end of an edit. Not from within the native list's press, which does not stand the end
+        // of the list.
+        if (m_editors->edit != nullptr)
+            SetFocus();
+        if (asInput && watch.IsAlive())
+            Default();
+    };
+    HeldRow held(*this, row);
+    XLISTCTRLDATA const * cell = held.Cell(col);
     auto const clicked = m_onCellClick;
     if (cell != nullptr && clicked)
     {
@@ -266,6 +282,12 @@ void CXListCtrl::OnHeaderColumnClick(int col)
 
 void CXListCtrl::OnKeyDown(UINT key, UINT repeat, UINT flags)
 {
+    if (m_cursor->IsOn())
+    {
+        if (!m_cursor->TakeKey(key) && !OfferKey(key))
+            CListCtrl::OnKeyDown(key, repeat, flags);
+        return;
+    }
     if (OfferKey(key))
         return;
     bool const down = key == VK_DOWN || key == VK_NEXT;
@@ -292,13 +314,15 @@ CMenu & CXListCtrl::PopUpMenu()
 
 void CXListCtrl::OnContextMenu(CWnd * window, CPoint point)
 {
+    // The keyboard's menu has no place of its own.
+    bool const byKey = point == CPoint(-1, -1) && m_cursor->FindMenuPlace(point);
     CPoint inside = point;
     ScreenToClient(&inside);
-    auto const place = GetItem(inside);
+    auto const place = byKey ? m_cursor->Place() : GetItem(inside);
     CRect header(0, 0, 0, 0);
     if (m_header.GetSafeHwnd() != nullptr)
         m_header.GetWindowRect(&header);
-    bool const belowHeader = header.IsRectNull() || point.y >= header.bottom;
+    bool const belowHeader = byKey || header.IsRectNull() || point.y >= header.bottom;
     if (!IsCell(place) || !m_onContextCommand || !belowHeader)
     {
         CListCtrl::OnContextMenu(window, point);

@@ -6,6 +6,7 @@
 #include "list/CellKind.h"
 #include "list/CellPainters.h"
 #include "list/PaintMemory.h"
+#include "list/XListCtrlCursor.h"
 #include "list/XListCtrlHold.h"
 
 namespace
@@ -120,7 +121,21 @@ void CXListCtrl::OnCustomDraw(NMHDR * header, LRESULT * result)
     default:
         return;
     }
+    if (!m_cursor->IsAt(static_cast<int>(draw.nmcd.dwItemSpec), draw.iSubItem))
+    {
+        DrawSubItem(draw, result);
+        return;
+    }
+    // Painting can run the host's code.
+    Watch const watch(*this);
+    CellCursor::Frame const frame{static_cast<int>(draw.nmcd.dwItemSpec), draw.iSubItem, draw.nmcd.hdc};
+    DrawSubItem(draw, result);
+    if (watch.IsAlive())
+        m_cursor->Paint(frame);
+}
 
+void CXListCtrl::DrawSubItem(NMLVCUSTOMDRAW & draw, LRESULT * result)
+{
     int const row = static_cast<int>(draw.nmcd.dwItemSpec);
     int const col = draw.iSubItem;
     auto const * const rowData = reinterpret_cast<XLISTCTRLROW const *>(draw.nmcd.lItemlParam);

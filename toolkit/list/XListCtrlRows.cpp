@@ -200,8 +200,11 @@ std::vector<int> CXListCtrl::GiveBackUnshownRows()
 void CXListCtrl::SetBatchInsertMode(bool on)
 {
     m_batchInsert = on;
-    if (!on && m_hWnd != nullptr)
+    if (m_hWnd == nullptr)
+        return;
+    if (!on)
         Invalidate();
+    HoldAccessEvents(on, m_access->redrawOff);
 }
 
 void CXListCtrl::EnableAll(bool enable)
@@ -271,6 +274,8 @@ void CXListCtrl::SetNoSelection()
 
 void CXListCtrl::UpdateSubItem(int row, int col)
 {
+    if (m_batchInsert)
+        m_access->changed = true;
     if (m_batchInsert || row < 0 || col < -1 || col >= m_columnCount || row >= RowCount())
         return;
     CRect rect;
@@ -280,6 +285,7 @@ void CXListCtrl::UpdateSubItem(int row, int col)
         return;
     rect.InflateRect(repaint_margin, repaint_margin);
     InvalidateRect(&rect, TRUE);
+    TellOfCell(row, col);
 }
 
 bool CXListCtrl::GetSubItemRect(int row, int col, int area, CRect & rect) const

@@ -5,6 +5,7 @@
 #include <memory>
 #include <vector>
 
+#include "access/AccessObject.h"
 #include "list/CellPainters.h"
 #include "list/ListModel.h"
 #include "list/XListColumnFit.h"
@@ -55,6 +56,16 @@ struct CXListCtrl::RowState
     bool ownColumnChange = false;
     /// Some cell has had a kind of the host's own: only then rows are asked for them.
     bool hadKinds = false;
+};
+
+/// What those who ask for accessible objects get, and what they are told.
+struct CXListCtrl::AccessState
+{
+    /// Shared with the objects, who lose the list through it. Made when first asked for.
+    std::shared_ptr<AccessTarget> target;
+    bool redrawOff = false;
+    /// Something has changed that is told once the batch is over.
+    bool changed = false;
 };
 
 /// What AutosizeColumnWidth works with.

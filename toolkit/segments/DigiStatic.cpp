@@ -2,10 +2,12 @@
 
 #include <afxcontrolbarutil.h>
 
+#include <cstdarg>
+#include <memory>
+
+#include "access/ControlTarget.h"
 #include "segments/DigiColors.h"
 #include "segments/DigiLine.h"
-
-#include <cstdarg>
 
 namespace
 {
@@ -75,7 +77,10 @@ void CDigiStatic::SetText(wchar_t const * text)
         return;
     m_text = given;
     m_modified = true;
+    HWND const window = GetSafeHwnd();
     DoInvalidate();
+    if (window != nullptr)
+        TellOfEvent(EVENT_OBJECT_VALUECHANGE, window, {});
 }
 
 void CDigiStatic::Format(wchar_t const * format, ...)
@@ -264,4 +269,30 @@ void CDigiStatic::OnPaint()
 BOOL CDigiStatic::OnEraseBkgnd(CDC *)
 {
     return FALSE;
+}
+
+// --- What programs that read the screen see ---
+
+class CDigiStatic::Access final : public ControlTarget
+{
+public:
+    Access(CDigiStatic & display, LifeSign const & life) : ControlTarget(display, life), m_display(display) {}
+
+protected:
+    accessible::Description DescribeSelf() override
+    {
+        auto const facts = Facts();
+        std::wstring const shown = IsThere() ? m_display.m_text.GetString() : L"";
+        return accessible::DescribeReadOut(facts, shown == window_text_wanted ? facts.text : shown);
+    }
+
+private:
+    CDigiStatic & m_display;
+};
+
+LRESULT CDigiStatic::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (AsksForControl(message, lParam))
+        return AnswerWithObject(std::make_shared<Access>(*this, m_life), wParam);
+    return CStatic::DefWindowProc(message, wParam, lParam);
 }

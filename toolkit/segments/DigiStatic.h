@@ -4,6 +4,7 @@
 #include <afxwin.h>
 
 #include "frame/Export.h"
+#include "frame/LifeWatch.h"
 #include "segments/ColorScheme.h"
 #include "segments/DigiStyle.h"
 
@@ -65,6 +66,7 @@ protected:
     /// Takes the window's shape away if it is transparent, and repaints: at once or later, as SetDrawImmediately told.
     void DoInvalidate();
 
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     afx_msg void OnPaint();
     /// Erases nothing, since painting covers the client area; 0.
     afx_msg BOOL OnEraseBkgnd(CDC * dc);
@@ -84,4 +86,9 @@ protected:
     bool m_transparent;
     /// Only its size counts.
     CRect m_buttonRect;
+
+private:
+    class Access;
+
+    LifeSign m_life;
 };

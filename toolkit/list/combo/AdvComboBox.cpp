@@ -182,6 +182,10 @@ bool CAdvComboBox::HasEdit() const
 
 void CAdvComboBox::Notify(UINT code)
 {
+    Watch const watch(*this);
+    TellOfNotification(code);
+    if (!watch.IsThere())
+        return;
     if (m_hWnd != nullptr && ::IsWindow(m_parentWindow))
     {
         WPARAM const wParam = MAKEWPARAM(::GetDlgCtrlID(m_hWnd), code);

@@ -108,6 +108,7 @@ protected:
     void PreSubclassWindow() override;
     void PostNcDestroy() override;
 
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     afx_msg int OnCreate(LPCREATESTRUCT create);
     afx_msg void OnPaint();
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
@@ -174,6 +175,7 @@ protected:
     int m_maxVisible = -1;
 
 private:
+    class Access;
     class Watch;
 
     ComboItems Items() const;
@@ -183,6 +185,8 @@ private:
     /// The list of the open drop window or null.
     CDropListBox * DropList() const;
     void Notify(UINT code);
+    /// Tells programs that read the screen of what the parent hears.
+    void TellOfNotification(UINT code) const;
     /// False if the object or its window is gone after the parent has heard.
     bool NotifyAlive(UINT code);
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "access/AccessObject.h"
 #include "frame/GraphicsScopes.h"
 #include "frame/WindowAlive.h"
 #include "list/combo/AdvComboBox.h"
@@ -129,9 +130,17 @@ int CDropListBox::SetCurSel(int index)
         if (IsDisabled(index))
             return index;
     }
+    WindowAlive const watch(*this, m_life);
+    HWND const window = m_hWnd;
     int const result = CListBox::SetCurSel(index);
-    if (result != LB_ERR)
-        m_scroll->SetScrollPos(GetTopIndex());
+    if (result == LB_ERR)
+        return result;
+    m_scroll->SetScrollPos(GetTopIndex());
+    if (watch.IsAlive())
+    {
+        TellOfEvent(EVENT_OBJECT_FOCUS, window, {index, -1});
+        TellOfEvent(EVENT_OBJECT_SELECTION, window, {index, -1});
+    }
     return result;
 }
 
@@ -249,6 +258,11 @@ void CDropListBox::OnLButtonUp(UINT, CPoint point)
     int const selected = GetCurSel();
     if (IsDisabled(selected))
         return;
+    Choose(selected);
+}
+
+void CDropListBox::Choose(int selected)
+{
     HWND const combo = m_combo->m_hWnd;
     if (selected != LB_ERR)
         ::PostMessage(combo, WM_ADVCOMBO_SELECTED, static_cast<WPARAM>(selected), 0);
@@ -270,6 +284,8 @@ LRESULT CDropListBox::OnReleaseCapture(WPARAM, LPARAM)
 
 LRESULT CDropListBox::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
+    if (AsksForControl(message, lParam))
+        return AnswerGetObject(wParam);
     switch (message)
     {
     case WM_LBUTTONDOWN:

@@ -68,9 +68,14 @@ protected:
     BOOL m_allowDisabled = FALSE;
 
 private:
+    class Access;
+
+    LRESULT AnswerGetObject(WPARAM flags);
     /// The entry's data is the item itself.
     int AddEntry(combo_item const & item);
     int RowAt(CPoint point) const;
+    /// Gives the row to the combo, which closes its drop-down then; LB_ERR: that alone.
+    void Choose(int selected);
     bool IsOutside(CPoint point) const;
     void HandCaptureToParent();
     void DeleteItems();
