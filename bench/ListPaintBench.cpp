@@ -23,7 +23,6 @@ constexpr int column_width = 74;
 constexpr int cell_count = row_count * column_count;
 constexpr int list_width = column_count * column_width + 10;
 constexpr int list_height = 900;
-constexpr int rounds = 40;
 constexpr DWORD list_style = WS_CHILD | WS_VISIBLE | LVS_REPORT | LVS_SHOWSELALWAYS;
 
 std::wstring TextOf(int row, int column)
@@ -131,14 +130,10 @@ bool PaintAndReport(Page & page, char const * name, double goal)
         std::printf("%s: the two lists do not show the same page\n", name);
         return false;
     }
-    std::vector<double> ours;
-    std::vector<double> reference;
-    for (int round = 0; round < rounds; ++round)
-    {
-        ours.push_back(Page::Paint(page.m_ours));
-        reference.push_back(Page::Paint(page.m_native));
-    }
-    return bench::Report(name, bench::Median(ours) / cell_count, bench::Median(reference) / cell_count, goal);
+    return bench::Report(
+        name,
+        bench::Compare([&page] { return Page::Paint(page.m_ours); }, [&page] { return Page::Paint(page.m_native); }),
+        cell_count, goal);
 }
 
 /// A page of cells that change(list, row, column) has made of text cells, beside the same drawn by hand. Images, where

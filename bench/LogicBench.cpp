@@ -41,6 +41,7 @@ constexpr Measure measures[] = {
     {"list-search", bench::SearchingRows},
     {"segments", bench::PaintingSegments},
     {"combo", bench::TypingIntoACombo},
+    {"recording", bench::LookingAtAnHour},
     {"table", bench::OrderingATable},
 };
 } // namespace

@@ -9,6 +9,7 @@ namespace bench
 bool LayoutArithmetic();
 bool SearchingRows();
 bool PaintingSegments();
+bool LookingAtAnHour();
 bool TypingIntoACombo();
 bool OrderingATable();
 

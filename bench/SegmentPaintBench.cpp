@@ -35,7 +35,7 @@ struct Tools
 class Recording : public CDigiCurvePainter
 {
 public:
-    void Select(bool lit) override { m_calls.push_back({lit ? Kind::selectOn : Kind::selectOff, {}}); }
+    void Select(bool lit) override { m_calls.push_back({lit ? Kind::select_on : Kind::select_off, {}}); }
     void BeginOutline() override { m_calls.push_back({Kind::begin, {}}); }
     void MoveTo(CDevicePoint point) override { m_calls.push_back({Kind::move, {ToPoint(point)}}); }
     void LineTo(CDevicePoint point) override { m_calls.push_back({Kind::line, {ToPoint(point)}}); }
@@ -53,10 +53,10 @@ public:
         {
             switch (call.kind)
             {
-            case Kind::selectOff:
-            case Kind::selectOn:
-                dc.SelectObject(call.kind == Kind::selectOn ? &tools.onBrush : &tools.offBrush);
-                dc.SelectObject(call.kind == Kind::selectOn ? &tools.onPen : &tools.offPen);
+            case Kind::select_off:
+            case Kind::select_on:
+                dc.SelectObject(call.kind == Kind::select_on ? &tools.onBrush : &tools.offBrush);
+                dc.SelectObject(call.kind == Kind::select_on ? &tools.onPen : &tools.offPen);
                 break;
             case Kind::begin:
                 dc.BeginPath();
@@ -83,8 +83,8 @@ public:
 private:
     enum class Kind
     {
-        selectOff,
-        selectOn,
+        select_off,
+        select_on,
         begin,
         move,
         line,

@@ -13,7 +13,7 @@ function(precompile target)
     if(NOT INSTRUMENT_UI_PRECOMPILE OR NOT WIN32 OR MSVC)
         return()
     endif()
-    set(kind "${ARGV1}")
+    set(kind "${ARGN}") # not ARGV1, which a calling function may have
     set(owner precompiled_headers${kind})
     if(NOT TARGET ${owner})
         set(source "${PROJECT_BINARY_DIR}/${owner}.cpp")

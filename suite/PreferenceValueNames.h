@@ -22,11 +22,15 @@ namespace preference_value_names
 /// The registry's limit for the name of a value, in UTF-16 units.
 constexpr std::size_t max_length = 16383;
 
+/// What a value's name says.
 struct KeyAndIndex
 {
+    /// The preference's key.
     std::u16string key;
+    /// The preference's index.
     std::uint64_t index;
 
+    /// Whether both are equal.
     bool operator==(KeyAndIndex const &) const = default;
 };
 

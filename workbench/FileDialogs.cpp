@@ -35,6 +35,18 @@ std::vector<std::filesystem::path> ChooseFiles(CWnd & owner)
     return files;
 }
 
+std::optional<std::filesystem::path> ChoosePictureFile(CWnd & owner, std::wstring const & name)
+{
+    CFileDialog dialog(FALSE, L"png", name.c_str(), OFN_OVERWRITEPROMPT | OFN_HIDEREADONLY | OFN_PATHMUSTEXIST,
+                       Text(L"Pictures (*.png)|*.png||"), &owner);
+    dialog.GetOFN().lpstrTitle = Text(L"Save Picture");
+    if (dialog.DoModal() != IDOK)
+    {
+        return std::nullopt;
+    }
+    return std::filesystem::path(dialog.GetPathName().GetString());
+}
+
 std::optional<std::filesystem::path> ChooseFolder(CWnd & owner, wchar_t const * title)
 {
     CFolderDialog dialog(owner.m_hWnd);

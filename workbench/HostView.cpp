@@ -35,10 +35,15 @@ void CHostView::Fill()
 
 void CHostView::OnSetFocus(CWnd *)
 {
-    if (auto * const child = GetWindow(GW_CHILD))
+    auto * const child = GetWindow(GW_CHILD);
+    if (child == nullptr)
     {
-        child->SetFocus();
+        return;
     }
+    // What consists of controls has the first one take it.
+    auto const holds = (child->GetExStyle() & WS_EX_CONTROLPARENT) != 0;
+    auto const first = holds ? ::GetNextDlgTabItem(child->m_hWnd, nullptr, FALSE) : nullptr;
+    ::SetFocus(first != nullptr ? first : child->m_hWnd);
 }
 
 BOOL CHostView::OnEraseBkgnd(CDC * dc)

@@ -7,10 +7,12 @@
 
 #include <algorithm>
 
+#include "WaveformPanelView.h"
 #include "colours/Farbtabellen.h"
 #include "logic/Texts.h"
 #include "resource.h"
 #include "windows/StandaloneFrameMigrationHelper.h"
+#include "windows/StandaloneFrameWnd.h"
 
 using workbench::Text;
 
@@ -65,9 +67,17 @@ BEGIN_MESSAGE_MAP(CMainWindow, CMDIFrameWndEx)
     ON_COMMAND(ID_PRINT_PREVIEW, &CMainWindow::OnPrintPreview)
     ON_COMMAND(ID_COPY, &CMainWindow::OnCopy)
     ON_COMMAND(ID_COPY_ALL, &CMainWindow::OnCopyAll)
+    ON_COMMAND(ID_COPY_WAVEFORM, &CMainWindow::OnCopyWaveform)
+    ON_COMMAND(ID_SAVE_WAVEFORM, &CMainWindow::OnSaveWaveform)
+    ON_COMMAND(ID_SAVE_SPECTROGRAM, &CMainWindow::OnSaveSpectrogram)
     ON_COMMAND(ID_COPY_SPECTROGRAM, &CMainWindow::OnCopySpectrogram)
+    ON_COMMAND(ID_PLAY, &CMainWindow::OnPlay)
+    ON_COMMAND(ID_STOP_PLAYING, &CMainWindow::OnStopPlaying)
+    ON_COMMAND(ID_LOOP_PLAYING, &CMainWindow::OnLoopPlaying)
     ON_COMMAND(ID_SHOW_FOLDERS, &CMainWindow::OnShowFolders)
     ON_COMMAND(ID_RESET_LAYOUT, &CMainWindow::OnResetLayout)
+    ON_COMMAND(ID_NEXT_PART, &CMainWindow::OnNextPart)
+    ON_COMMAND(ID_PREVIOUS_PART, &CMainWindow::OnPreviousPart)
     ON_COMMAND_RANGE(ID_DYNAMIC_FIRST, ID_DYNAMIC_LAST, &CMainWindow::OnDynamicCommand)
     ON_COMMAND(ID_CHOOSE_COLUMNS, &CMainWindow::OnChooseColumns)
     ON_COMMAND(ID_EXPORT_LIST, &CMainWindow::OnExportList)
@@ -151,10 +161,36 @@ bool CMainWindow::CreateMainWindow()
     auto const top = std::max((work.Height() - height) / 3, 0);
     m_memory.PreferedPosition(left, top, left + width, top + height);
     m_memory.ReadMyPosition(this);
+    KeepOnScreen();
     DockByDefault(m_isPlaced);
     release_orphan_panes();
     m_frames.Restore();
+    if (CWnd::GetActiveWindow() == this)
+    {
+        FocusList(); // it has become active before the panes had their places
+    }
     return true;
+}
+
+/// A place that was kept when the screen was larger, or its resolution less, may be larger than the screen.
+void CMainWindow::KeepOnScreen()
+{
+    CRect place;
+    GetWindowRect(&place);
+    MONITORINFO screen{};
+    screen.cbSize = sizeof screen;
+    if (IsZoomed() || IsIconic() || !::GetMonitorInfoW(::MonitorFromWindow(m_hWnd, MONITOR_DEFAULTTONEAREST), &screen))
+    {
+        return;
+    }
+    CRect const work(screen.rcWork);
+    CSize const size(std::min(place.Width(), work.Width()), std::min(place.Height(), work.Height()));
+    if (size != place.Size())
+    {
+        SetWindowPos(nullptr, std::clamp(place.left, work.left, work.right - size.cx),
+                     std::clamp(place.top, work.top, work.bottom - size.cy), size.cx, size.cy,
+                     SWP_NOZORDER | SWP_NOACTIVATE);
+    }
 }
 
 /// The room for frames. Their items in the window menu are the window's own affair.
@@ -164,7 +200,7 @@ BOOL CMainWindow::OnCreateClient(LPCREATESTRUCT create, CCreateContext *)
     {
         return FALSE;
     }
-    // What the panes stand around is the list.
+    // It is not what the panes stand around.
     ::SetWindowLongPtrW(m_hWndMDIClient, GWLP_ID, IDC_FRAMES_AREA);
     return TRUE;
 }
@@ -195,12 +231,24 @@ int CMainWindow::OnCreate(LPCREATESTRUCT create)
 void CMainWindow::PrepareContents()
 {
     m_spectrogram.SetColours(Farbtabellen::SpektrogrammFarbtabelle(m_settings.spectrogramScale));
+    m_spectrogram.SetSettings(m_settings.spectrogram);
+    m_spectrogram.SetScale(m_settings.frequencyScale);
     Waveform().SetColours(m_settings.waveform);
     Waveform().SetAmplification(m_settings.amplification);
     Waveform().m_onCursor = [this] { ShowReading(); };
+    Waveform().m_onMarks = [this] { m_spectrogram.SetMarks(Waveform().Marks()); };
+    Waveform().m_onPlay = [this] { OnPlay(); };
+    m_playing.m_onMoved = [this](std::optional<std::uint64_t> frame) {
+        Waveform().ShowPlaying(frame);
+        m_spectrogram.ShowPlaying(frame);
+    };
+    m_playing.SetGain(m_settings.amplification);
+    m_spectrogram.m_onMarks = [this] { Waveform().SetMarks(m_spectrogram.Marks()); };
+    m_spectrogram.m_onComputed = [this] { m_spectrogram.SetMarks(Waveform().Marks()); };
     m_waveformPanel.m_onAmplified = [this](int decibels) {
         m_settings.amplification = decibels;
         workbench::StoreAmplification(decibels);
+        m_playing.SetGain(decibels);
         m_preview.Update();
     };
     m_tree.m_onFolder = [this](std::filesystem::path const & folder) { OpenFolder(folder); };
@@ -241,8 +289,10 @@ wchar_t const * CMainWindow::NameOf(Part part)
         return L"Waveform";
     case part_spectrogram:
         return L"Spectrogram";
-    default:
+    case part_measures:
         return L"Measures";
+    default:
+        return L"Recordings";
     }
 }
 
@@ -256,8 +306,10 @@ wchar_t const * CMainWindow::TitleOf(Part part)
         return Text(L"Waveform");
     case part_spectrogram:
         return Text(L"Spectrogram");
-    default:
+    case part_measures:
         return Text(L"Measures");
+    default:
+        return Text(L"Recordings");
     }
 }
 
@@ -297,10 +349,11 @@ bool CMainWindow::CreateParts()
             return false;
         }
     }
-    auto * const list = new CHostView; // ends with its window
+    // The panes stand around nothing: they share all the room there is.
+    auto * const centre = new CHostView; // ends with its window
     auto const created =
-        list->Create(nullptr, nullptr, WS_CHILD | WS_VISIBLE, CRect(), this, AFX_IDW_PANE_FIRST) &&
-        m_list.CreateList(*list, IDC_RECORDINGS, m_metrics) &&
+        centre->Create(nullptr, nullptr, WS_CHILD, CRect(), this, AFX_IDW_PANE_FIRST) &&
+        m_list.CreateList(*views[part_list], IDC_RECORDINGS, m_metrics) &&
         m_tree.CreateTree(*views[part_folders], IDC_FOLDERS, m_metrics) &&
         m_waveformPanel.CreatePanel(*views[part_waveform], IDC_WAVEFORM_PANEL, m_metrics) &&
         m_spectrogram.CreateView(*views[part_spectrogram], IDC_SPECTROGRAM, m_metrics) &&
@@ -308,6 +361,8 @@ bool CMainWindow::CreateParts()
         m_framesDivider.CreateDivider(*this, IDC_FRAMES_DIVIDER) &&
         m_status.CreateStrip(*this, IDC_STATUS_LINE, m_metrics);
     m_tree.ShowWindow(SW_SHOWNA);
+    // Displays and controls are of one height, also where the pane had another before.
+    m_panes[part_measures]->SetMinSize(CSize(0, workbench::DefaultPanes(LayoutNeeds()).measures));
     for (auto * const view : views)
     {
         view->Fill(); // panes that have come back have their size already
@@ -348,12 +403,12 @@ void CMainWindow::Arrange()
     auto const list = std::max(std::min(m_list.LeastWidth(), room), CMeasurePanel::LeastWidth(m_metrics));
     CRect window(CPoint(0, 0), workbench::LeastMainArea(LayoutNeeds(), list));
     ::AdjustWindowRectEx(&window, GetStyle(), TRUE, GetExStyle());
-    m_leastSize = window.Size();
-    SetWindowPos(nullptr, 0, 0, window.Width(), window.Height(), SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    m_leastSize = CSize(std::min(window.Width(), work.Width()), std::min(window.Height(), work.Height()));
+    SetWindowPos(nullptr, 0, 0, m_leastSize.cx, m_leastSize.cy, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     RecalcLayout();
 }
 
-/// The panes and the list have what status and frames leave.
+/// The panes have what status and frames leave.
 void CMainWindow::RecalcLayout(BOOL notify)
 {
     if (m_status.GetSafeHwnd() == nullptr || IsIconic())
@@ -406,11 +461,12 @@ void CMainWindow::DockByDefault(std::array<bool, part_count> const & others)
             m_panes[part]->ShowPane(show, FALSE, FALSE);
         }
     };
-    // Each one stands between the list and those before it.
+    // Each one stands nearer to the middle than those before it; the list, the last one, has what is left.
     dock(part_measures, CBRS_ALIGN_BOTTOM, sizes.measures);
     dock(part_folders, CBRS_ALIGN_LEFT, FolderPaneWidth(), m_settings.folderPane.value_or(HasRoomForFolders()));
     dock(part_spectrogram, CBRS_ALIGN_BOTTOM, sizes.spectrogram);
     dock(part_waveform, CBRS_ALIGN_BOTTOM, sizes.waveform);
+    dock(part_list, CBRS_ALIGN_TOP, sizes.list);
     FillFolders();
 }
 
@@ -426,11 +482,101 @@ void CMainWindow::ShowPane(Part part, bool show)
         ShowFolders(show);
         return;
     }
-    if (!show && m_panes[part]->IsChild(GetFocus()))
+    auto const leaves = !show && m_panes[part]->IsChild(GetFocus());
+    m_panes[part]->ShowPane(show, FALSE, show);
+    if (leaves)
+    {
+        FocusList();
+    }
+}
+
+/// Gives the list the focus, or another part while the list is hidden.
+void CMainWindow::FocusList()
+{
+    // Also while the window itself is just being shown.
+    auto const shows = [this](CWnd const * window) {
+        while (window != nullptr && window != this && (window->GetStyle() & WS_VISIBLE) != 0)
+        {
+            window = window->GetParent();
+        }
+        return window == this;
+    };
+    if (shows(&m_list))
     {
         m_list.SetFocus();
+        return;
     }
-    m_panes[part]->ShowPane(show, FALSE, show);
+    auto const shown = std::ranges::find_if(
+        m_panes, [&](auto * pane) { return pane != nullptr && pane->View() != nullptr && shows(pane->View()); });
+    if (shown != m_panes.end())
+    {
+        (*shown)->View()->SetFocus();
+    }
+}
+
+/// What the keys go round: the parts that show, and the parts of the active frame.
+std::vector<CWnd *> CMainWindow::FocusStops()
+{
+    std::vector<CWnd *> stops;
+    for (auto const part : {part_list, part_waveform, part_spectrogram, part_measures, part_folders})
+    {
+        if (auto * const view = m_panes[part]->View(); view != nullptr && view->IsWindowVisible())
+        {
+            stops.push_back(view);
+        }
+    }
+    auto const frames = m_frames.Frames();
+    auto const active = std::ranges::find_if(
+        frames, [this](auto const * frame) { return frame->Frame()->m_hWnd == MDIGetActive()->GetSafeHwnd(); });
+    for (std::size_t cell = 0; active != frames.end() && cell < (*active)->Cells(); ++cell)
+    {
+        if (auto * const view = (*active)->Cell(cell); view != nullptr && view->IsWindowVisible())
+        {
+            stops.push_back(view);
+        }
+    }
+    return stops;
+}
+
+void CMainWindow::GoToNext(bool back)
+{
+    auto const stops = FocusStops();
+    if (stops.empty())
+    {
+        return;
+    }
+    auto const focus = ::GetFocus();
+    auto const at = std::ranges::find_if(
+        stops, [focus](auto const * stop) { return stop->m_hWnd == focus || ::IsChild(stop->m_hWnd, focus); });
+    auto const count = stops.size();
+    auto const next = at == stops.end()
+                          ? (back ? count - 1 : 0)
+                          : (static_cast<std::size_t>(at - stops.begin()) + (back ? count - 1 : 1)) % count;
+    auto * const stop = stops[next];
+    if (auto * const frame = DYNAMIC_DOWNCAST(CMDIChildWnd, stop->GetParentFrame()))
+    {
+        frame->SetActiveView(static_cast<CView *>(stop));
+    }
+    stop->SetFocus();
+}
+
+void CMainWindow::OnNextPart()
+{
+    GoToNext(false);
+}
+
+void CMainWindow::OnPreviousPart()
+{
+    GoToNext(true);
+}
+
+/// For what is done in the list.
+void CMainWindow::BringListInSight()
+{
+    if (!m_list.IsWindowVisible())
+    {
+        ShowPane(part_list, true);
+    }
 }
 
 /// Keeps where the panes are.
@@ -466,7 +612,7 @@ void CMainWindow::ShowFolders(bool show)
     }
     if (!show && GetFocus() == &m_tree)
     {
-        m_list.SetFocus();
+        FocusList();
     }
     m_settings.folderPane = show;
     workbench::StoreFolderPane(m_settings);
@@ -594,13 +740,14 @@ LRESULT CMainWindow::OnRaiseDialogs(WPARAM, LPARAM)
 
 void CMainWindow::OnSetFocus(CWnd *)
 {
-    if (m_lastFocus != nullptr && ::IsWindow(m_lastFocus) && ::IsWindowEnabled(m_lastFocus))
+    if (m_lastFocus != nullptr && ::IsWindow(m_lastFocus) && ::IsWindowEnabled(m_lastFocus) &&
+        ::IsWindowVisible(m_lastFocus))
     {
         ::SetFocus(m_lastFocus);
     }
     else
     {
-        m_list.SetFocus();
+        FocusList();
     }
 }
 
@@ -648,6 +795,8 @@ void CMainWindow::OnDestroy()
 {
     // Frames end after this, and their ends are nobody's business any more.
     m_frames.m_onOpened = nullptr;
+    m_playing.m_onMoved = nullptr;
+    m_playing.Stop();
     m_frames.Stop();
     m_tree.Stop();
     m_search.reset();

@@ -17,6 +17,8 @@
 #include "HostView.h"
 #include "FolderTree.h"
 #include "MeasurePanel.h"
+#include "PictureCopy.h"
+#include "Playing.h"
 #include "PreviewDialog.h"
 #include "RecordingList.h"
 #include "ScreenMetrics.h"
@@ -80,13 +82,15 @@ public:
     bool ShowsFolders() const { return ShowsPane(part_folders); }
     void ShowFolders(bool show);
 
-    /// The parts that are panes around the list, which the user can move, put into tabs, let float and hide.
+    /// The parts, which are panes that the user can move, put into tabs, let float and hide. Their order is that of
+    /// their identifiers, which are stored.
     enum Part
     {
         part_folders,
         part_waveform,
         part_spectrogram,
         part_measures,
+        part_list,
         part_count
     };
     /// The pane of a part.
@@ -124,7 +128,7 @@ public:
     /// Whether the spectrogram of the chosen recording is still being computed.
     bool IsComputing() const { return m_spectrogram.IsComputing(); }
 
-    /// Makes it the language of the windows that open from now on, and stores it.
+    /// Makes it the language of this window and of those that open from now on, and stores it.
     void ChooseLanguage(unsigned short languageId);
 
     void CloseDialogs();
@@ -165,6 +169,8 @@ private:
     afx_msg void OnDropFiles(HDROP drop);
     afx_msg void OnShowFolders();
     afx_msg void OnResetLayout();
+    afx_msg void OnNextPart();
+    afx_msg void OnPreviousPart();
     afx_msg void OnDynamicCommand(UINT id);
     afx_msg void OnChooseColumns();
     afx_msg void OnExportList();
@@ -180,7 +186,13 @@ private:
     afx_msg void OnPrintPreview();
     afx_msg void OnCopy();
     afx_msg void OnCopyAll();
+    afx_msg void OnCopyWaveform();
     afx_msg void OnCopySpectrogram();
+    afx_msg void OnSaveWaveform();
+    afx_msg void OnSaveSpectrogram();
+    afx_msg void OnPlay();
+    afx_msg void OnStopPlaying();
+    afx_msg void OnLoopPlaying();
     afx_msg void OnCloseDialogs();
     afx_msg void OnDialogChosen(UINT id);
     afx_msg void OnFitColumns();
@@ -217,9 +229,17 @@ private:
     };
 
     bool CreateParts();
+    std::vector<CWnd *> FocusStops();
+    void GoToNext(bool back);
+    void FocusList();
+    void BringListInSight();
     CHostView * CreatePart(Part part);
     void PrepareContents();
     void PreparePaneMenu();
+    CString PaneCommandText(Part part) const;
+    void ShowTexts();
+    CWaveformView & WaveformInUse();
+    void KeepOnScreen();
     static wchar_t const * NameOf(Part part);
     static wchar_t const * TitleOf(Part part);
     void DockByDefault(std::array<bool, part_count> const & others);
@@ -234,6 +254,8 @@ private:
     std::array<CWorkbenchDialog *, 2> Dialogs();
     std::array<CWnd *, 3> OwnedWindows();
     void EnterInMenu(CWnd & window, CString const & text, bool open);
+    CSize PictureSize(CWnd & view) const;
+    void SavePictureOf(CWnd & view, workbench::Drawing const & draw);
     void FollowSettings(workbench::Settings const & settings);
     void TakeSettings(workbench::Settings const & settings);
     void DrawPage(CDC & dc, CRect const & page);
@@ -280,6 +302,7 @@ private:
     CFolderTree m_tree;
     CWaveformPanel m_waveformPanel;
     CSpectrogramView m_spectrogram;
+    CPlaying m_playing;
     std::shared_ptr<workbench::RecordingAnalysis const> m_shown; ///< in both views; null for a text
     std::wstring m_shownText;
     CMeasurePanel m_panel;

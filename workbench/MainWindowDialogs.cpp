@@ -6,13 +6,14 @@
 
 #include "ExportDialog.h"
 #include "FileDialogs.h"
+#include "LanguageDialog.h"
 #include "OpenFolderDialog.h"
 #include "PictureCopy.h"
 #include "RecordingColumns.h"
-#include "SettingsFile.h"
+#include "SettingsExchange.h"
+#include "WaveformPanelView.h"
 #include "colours/Farbtabellen.h"
 #include "controls/IdNameMultiselectDlg.h"
-#include "dialogs/SprachauswahlDlg.h"
 #include "logic/Amplification.h"
 #include "logic/SafeFile.h"
 #include "logic/TableText.h"
@@ -28,6 +29,63 @@ namespace
 // The size of the choice of columns, in dialog units.
 constexpr int columns_width = 90;
 constexpr int columns_height = 128;
+
+// The least size of a picture, in dialog units.
+constexpr int least_picture_width = 240;
+constexpr int least_picture_height = 100;
+
+void SetItemText(HMENU menu, UINT item, bool byPosition, CString text)
+{
+    MENUITEMINFOW info{};
+    info.cbSize = sizeof info;
+    info.fMask = MIIM_STRING;
+    info.dwTypeData = text.GetBuffer();
+    ::SetMenuItemInfoW(menu, item, byPosition, &info);
+}
+
+/// The first command of a menu; 0 if it has none.
+UINT FirstCommand(CMenu const & menu)
+{
+    for (UINT place = 0; place < menu.GetMenuItemCount(); ++place)
+    {
+        if (auto const id = menu.GetMenuItemID(static_cast<int>(place)); id != 0 && id != static_cast<UINT>(-1))
+        {
+            return id;
+        }
+    }
+    return 0;
+}
+
+/// Gives a menu bar the texts of another one with the same commands. Items that only one of them has stay.
+void TakeTexts(CMenu & bar, CMenu const & from)
+{
+    for (UINT place = 0; place < from.GetMenuItemCount(); ++place)
+    {
+        auto const * const source = from.GetSubMenu(static_cast<int>(place));
+        auto const command = source != nullptr ? FirstCommand(*source) : 0;
+        for (UINT own = 0; command != 0 && own < bar.GetMenuItemCount(); ++own)
+        {
+            auto const * const target = bar.GetSubMenu(static_cast<int>(own));
+            if (target == nullptr || target->GetMenuState(command, MF_BYCOMMAND) == static_cast<UINT>(-1))
+            {
+                continue;
+            }
+            CString text;
+            from.GetMenuString(place, text, MF_BYPOSITION);
+            SetItemText(bar.m_hMenu, own, true, text);
+            for (UINT item = 0; item < source->GetMenuItemCount(); ++item)
+            {
+                auto const id = source->GetMenuItemID(static_cast<int>(item));
+                source->GetMenuString(item, text, MF_BYPOSITION);
+                if (!text.IsEmpty())
+                {
+                    SetItemText(target->m_hMenu, id, false, text);
+                }
+            }
+            break;
+        }
+    }
+}
 
 } // namespace
 
@@ -101,8 +159,7 @@ void CMainWindow::PreparePaneMenu()
     for (auto index = 0; index < part_count; ++index)
     {
         auto const part = static_cast<Part>(index);
-        CString text;
-        text.Format(L"%s\t%s%d", TitleOf(part), Text(L"Ctrl+"), index + 1);
+        auto const text = PaneCommandText(part);
         auto const id = register_menu(
             window_menu, text, [this, part] { ShowPane(part, !ShowsPane(part) || IsBehindTab(part)); },
             static_cast<unsigned short>(L'1' + index), FVIRTKEY | FCONTROL | FNOINVERT);
@@ -112,6 +169,14 @@ void CMainWindow::PreparePaneMenu()
             menu->InsertMenu(place++, MF_BYPOSITION | MF_STRING, static_cast<UINT_PTR>(id), text);
         }
     }
+    menu->InsertMenu(place, MF_BYPOSITION | MF_SEPARATOR);
+}
+
+CString CMainWindow::PaneCommandText(Part part) const
+{
+    CString text;
+    text.Format(L"%s\t%s%d", TitleOf(part), Text(L"Ctrl+"), part + 1);
+    return text;
 }
 
 void CMainWindow::OnDynamicCommand(UINT id)
@@ -133,7 +198,7 @@ LRESULT CMainWindow::OnFramesChanged(WPARAM, LPARAM)
     if (!m_frames.AnyOpen() && CWnd::GetActiveWindow() == this &&
         (focus == nullptr || focus == m_hWnd || focus == m_hWndMDIClient))
     {
-        m_list.SetFocus();
+        FocusList();
     }
     return 0;
 }
@@ -148,6 +213,8 @@ void CMainWindow::FollowSettings(workbench::Settings const & settings)
     }
     m_panel.ChooseScale(settings.spectrogramScale);
     m_spectrogram.SetColours(Farbtabellen::SpektrogrammFarbtabelle(settings.spectrogramScale));
+    m_spectrogram.SetSettings(settings.spectrogram);
+    m_spectrogram.SetScale(settings.frequencyScale);
     Waveform().SetColours(settings.waveform);
     Waveform().SetAmplification(settings.amplification);
     if (settings.hiddenColumns != m_list.HiddenColumns())
@@ -225,9 +292,52 @@ void CMainWindow::OnExportList()
     }
 }
 
+/// That of the frame which has the focus, or else the chosen recording's.
+CWaveformView & CMainWindow::WaveformInUse()
+{
+    for (auto * window = GetFocus(); window != nullptr && window != this; window = window->GetParent())
+    {
+        if (auto * const panel = DYNAMIC_DOWNCAST(CWaveformPanelView, window))
+        {
+            return panel->Waveform();
+        }
+    }
+    return Waveform();
+}
+
+/// Plays what is selected, or all from the cursor on; pauses what is playing, and goes on with it.
+void CMainWindow::OnPlay()
+{
+    if (m_playing.IsPlaying())
+    {
+        m_playing.Pause(!m_playing.IsPaused());
+        return;
+    }
+    auto const * const chosen = RecordingAt(m_list.ChosenLine());
+    if (chosen == nullptr || !Waveform().ShowsRecording())
+    {
+        return;
+    }
+    auto const & marks = Waveform().Marks();
+    auto const file = chosen->file;
+    auto const stretch =
+        marks.HasSelection() ? marks.Selection() : workbench::FrameRange{marks.cursor, marks.window.Frames()};
+    m_playing.Play(*this, file, stretch);
+}
+
+void CMainWindow::OnStopPlaying()
+{
+    m_playing.Stop();
+}
+
+void CMainWindow::OnLoopPlaying()
+{
+    m_playing.SetLoop(!m_playing.Loops());
+}
+
 void CMainWindow::OnAmplify(UINT id)
 {
-    auto & view = Waveform();
+    auto & view = WaveformInUse();
     auto const present = view.Amplification();
     switch (id)
     {
@@ -297,9 +407,43 @@ void CMainWindow::OnShowSettings()
     ShowSettings();
 }
 
+/// Shows what the window says in the present language.
+void CMainWindow::ShowTexts()
+{
+    if (auto * const bar = GetMenu())
+    {
+        CMenu wanted;
+        if (wanted.LoadMenu(IDR_MAIN_FRAME))
+        {
+            TakeTexts(*bar, wanted);
+        }
+        for (auto part = 0; part < part_count; ++part)
+        {
+            if (m_paneCommands[part] != 0)
+            {
+                SetItemText(bar->m_hMenu, m_paneCommands[part], false, PaneCommandText(static_cast<Part>(part)));
+            }
+        }
+        m_windowMenu.SetMenu(Text(L"&Window"));
+        DrawMenuBar();
+    }
+    for (auto part = 0; part < part_count; ++part)
+    {
+        m_panes[part]->SetWindowText(TitleOf(static_cast<Part>(part)));
+    }
+    m_panel.ShowTexts();
+    m_list.ShowTexts();
+    UpdateStatusLine();
+    if (!m_shown)
+    {
+        ShowChosen();
+    }
+}
+
 void CMainWindow::ChooseLanguage(unsigned short languageId)
 {
     workbench::UseLanguage(languageId);
+    ShowTexts();
     if (!workbench::StoreLanguage(languageId))
     {
         AfxMessageBox(Text(L"The settings could not be stored."), MB_ICONEXCLAMATION);
@@ -308,7 +452,7 @@ void CMainWindow::ChooseLanguage(unsigned short languageId)
 
 void CMainWindow::OnChooseLanguage()
 {
-    CSprachauswahlDlg dialog(workbench::ReadLanguage(), this);
+    CLanguageDialog dialog(workbench::ReadLanguage(), *this);
     if (dialog.DoModal() == IDOK && dialog.SpracheGeaendert())
     {
         ChooseLanguage(dialog.SprachId());
@@ -323,11 +467,12 @@ void CMainWindow::OnExportSettings()
 void CMainWindow::OnImportSettings()
 {
     auto const result = workbench::ImportSettings(*this);
-    if (result == workbench::SettingsFileResult::Done || result == workbench::SettingsFileResult::Incomplete)
+    if (result == workbench::SettingsFileResult::done || result == workbench::SettingsFileResult::incomplete)
     {
         FollowSettings(workbench::ReadSettings());
         m_list.SetUserWidths(workbench::ReadColumnWidths(m_metrics.AverageWidth()));
         workbench::UseLanguage(workbench::ReadLanguage());
+        ShowTexts();
     }
 }
 
@@ -369,12 +514,48 @@ void CMainWindow::OnCopyAll()
     m_list.CopyToClipboard(true);
 }
 
+void CMainWindow::OnCopyWaveform()
+{
+    workbench::CopyPicture(*this, PictureSize(Waveform()),
+                           [this](CDC & dc, CRect const & rect) { Waveform().Print(dc, rect); });
+}
+
 void CMainWindow::OnCopySpectrogram()
 {
-    CRect client;
-    m_spectrogram.GetClientRect(&client);
-    workbench::CopyPicture(*this, client.Size(),
+    workbench::CopyPicture(*this, PictureSize(m_spectrogram),
                            [this](CDC & dc, CRect const & rect) { m_spectrogram.Print(dc, rect); });
+}
+
+void CMainWindow::OnSaveWaveform()
+{
+    SavePictureOf(Waveform(), [this](CDC & dc, CRect const & rect) { Waveform().Print(dc, rect); });
+}
+
+void CMainWindow::OnSaveSpectrogram()
+{
+    SavePictureOf(m_spectrogram, [this](CDC & dc, CRect const & rect) { m_spectrogram.Print(dc, rect); });
+}
+
+/// The size of a picture of a view: the view's, but for one that is hidden or has next to no room.
+CSize CMainWindow::PictureSize(CWnd & view) const
+{
+    CRect client;
+    view.GetClientRect(&client);
+    return CSize(std::max<int>(client.Width(), m_metrics.X(least_picture_width)),
+                 std::max<int>(client.Height(), m_metrics.Y(least_picture_height)));
+}
+
+/// Lets the user save what a view shows, under the recording's name.
+void CMainWindow::SavePictureOf(CWnd & view, workbench::Drawing const & draw)
+{
+    auto const * const chosen = RecordingAt(m_list.ChosenLine());
+    auto const file =
+        workbench::ChoosePictureFile(*this, chosen != nullptr ? chosen->file.stem().wstring() : std::wstring());
+    if (file && !workbench::SavePicture(*this, PictureSize(view), draw, *file))
+    {
+        AfxMessageBox(Text(L"This file could not be written:") + (L"\n\n" + CString(file->c_str())),
+                      MB_ICONEXCLAMATION);
+    }
 }
 
 /// Closes dialogs and frames, as the user does.
@@ -441,6 +622,12 @@ void CMainWindow::OnInitMenuPopup(CMenu * menu, UINT index, BOOL systemMenu)
     enable(ID_COPY, RecordingCount() > 0);
     enable(ID_COPY_ALL, RecordingCount() > 0);
     enable(ID_COPY_SPECTROGRAM, m_shown && !m_shown->problem && !IsComputing());
+    enable(ID_SAVE_SPECTROGRAM, m_shown && !m_shown->problem && !IsComputing());
+    enable(ID_COPY_WAVEFORM, Waveform().ShowsRecording());
+    enable(ID_SAVE_WAVEFORM, Waveform().ShowsRecording());
+    enable(ID_PLAY, m_playing.IsPlaying() || Waveform().ShowsRecording());
+    enable(ID_STOP_PLAYING, m_playing.IsPlaying());
+    menu->CheckMenuItem(ID_LOOP_PLAYING, MF_BYCOMMAND | (m_playing.Loops() ? MF_CHECKED : MF_UNCHECKED));
     enable(ID_RELOAD, !m_targets.empty());
     enable(ID_SHOW_DETAILS, read);
     enable(ID_SHOW_IN_FRAME, recording != nullptr && m_frames.HasRoom());
@@ -451,11 +638,12 @@ void CMainWindow::OnInitMenuPopup(CMenu * menu, UINT index, BOOL systemMenu)
     enable(ID_CHOOSE_RATING, IsReadable(chosen) && !m_list.IsHidden(CRecordingList::column_rating));
     enable(ID_EXPORT_LIST, RecordingCount() > 0);
     menu->CheckMenuItem(ID_SHOW_FOLDERS, MF_BYCOMMAND | (ShowsFolders() ? MF_CHECKED : MF_UNCHECKED));
-    auto const amplification = Waveform().Amplification();
-    enable(ID_AMPLIFY, Waveform().ShowsRecording() && amplification < workbench::most_amplification);
-    enable(ID_REDUCE, Waveform().ShowsRecording() && amplification > 0);
+    auto const & waveform = WaveformInUse();
+    auto const amplification = waveform.Amplification();
+    enable(ID_AMPLIFY, waveform.ShowsRecording() && amplification < workbench::most_amplification);
+    enable(ID_REDUCE, waveform.ShowsRecording() && amplification > 0);
     enable(ID_AMPLIFY_NONE, amplification > 0);
-    enable(ID_AMPLIFY_FIT, Waveform().ShowsRecording());
+    enable(ID_AMPLIFY_FIT, waveform.ShowsRecording());
     enable(ID_MARK_ALL, RecordingCount() > 0);
     enable(ID_MARK_NONE, RecordingCount() > 0);
     enable(ID_FIT_COLUMNS, !m_list.UserWidths().empty());

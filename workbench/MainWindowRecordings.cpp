@@ -462,6 +462,7 @@ void CMainWindow::ShowText(wchar_t const * title, wchar_t const * text)
     }
     m_shownText = shown;
     m_shown.reset();
+    m_playing.Stop();
     Waveform().ShowText(title, text);
     m_spectrogram.ShowText(title, text);
     m_preview.Update();
@@ -519,8 +520,9 @@ void CMainWindow::ShowChosen()
         else if (chosen->analysis != m_shown)
         {
             m_shown = chosen->analysis;
+            m_playing.Stop();
             m_shownText.clear();
-            Waveform().ShowRecording(name, m_shown);
+            Waveform().ShowRecording(name, m_shown, chosen->file);
             m_spectrogram.ShowRecording(name, chosen->file);
             m_preview.Update();
         }
@@ -729,11 +731,13 @@ void CMainWindow::OnSetReference()
 
 void CMainWindow::OnEditComment()
 {
+    BringListInSight();
     m_list.EditComment(m_list.ChosenLine());
 }
 
 void CMainWindow::OnChooseRating()
 {
+    BringListInSight();
     m_list.ChooseRating(m_list.ChosenLine());
 }
 

@@ -1,5 +1,6 @@
 #include "MeasurePanel.h"
 
+#include <algorithm>
 #include <array>
 
 #include "colours/Farbtabellen.h"
@@ -11,10 +12,9 @@ using workbench::Text;
 namespace
 {
 
-constexpr unsigned int scales = 9;
-
 // Lengths in dialog units.
 constexpr int strip_height = 20;
+constexpr int edge = 2; // above and below
 constexpr int position_label_width = 34;
 constexpr int position_width = 84;
 constexpr int level_label_width = 50;
@@ -33,7 +33,7 @@ END_MESSAGE_MAP()
 
 int CMeasurePanel::Height(workbench::ScreenMetrics const & metrics)
 {
-    return metrics.Y(strip_height);
+    return metrics.Y(strip_height) + 2 * metrics.Y(edge);
 }
 
 int CMeasurePanel::LeastWidth(workbench::ScreenMetrics const & metrics)
@@ -52,11 +52,10 @@ bool CMeasurePanel::CreatePanel(CWnd & parent, UINT id, workbench::ScreenMetrics
     {
         return false;
     }
-    constexpr DWORD label_style = WS_CHILD | WS_VISIBLE | SS_CENTERIMAGE;
+    constexpr DWORD label_style = WS_CHILD | WS_VISIBLE | SS_CENTERIMAGE | SS_ENDELLIPSIS;
     auto created =
-        m_positionLabel.Create(Text(L"Position"), label_style, CRect(), this) &&
-        m_levelLabel.Create(Text(L"Level (dBFS)"), label_style, CRect(), this) &&
-        m_scaleLabel.Create(Text(L"S&pectrogram colours:"), label_style, CRect(), this) &&
+        m_positionLabel.Create(L"", label_style, CRect(), this) &&
+        m_levelLabel.Create(L"", label_style, CRect(), this) && m_scaleLabel.Create(L"", label_style, CRect(), this) &&
         m_scale.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWNLIST, CRect(), this, IDC_SCALE) &&
         m_clock.CreateView(*this, IDC_CLOCK);
     for (auto * const display : {&m_position, &m_level})
@@ -69,12 +68,20 @@ bool CMeasurePanel::CreatePanel(CWnd & parent, UINT id, workbench::ScreenMetrics
     {
         window->SetFont(&metrics.Font());
     }
-    for (unsigned int i = 0; created && i < scales; ++i)
+    for (unsigned int i = 0; created && i < Farbtabellen::spectrogram_scales; ++i)
     {
         m_scale.AddItem(Farbtabellen::SpektrogrammFarbtabellenName(i), static_cast<int>(i));
     }
     ChooseScale(scale);
+    ShowTexts();
     return created;
+}
+
+void CMeasurePanel::ShowTexts()
+{
+    m_positionLabel.SetWindowText(Text(L"Position"));
+    m_levelLabel.SetWindowText(Text(L"Level (dBFS)"));
+    m_scaleLabel.SetWindowText(Text(L"S&pectrogram colours:"));
 }
 
 void CMeasurePanel::OnSize(UINT type, int width, int height)
@@ -84,26 +91,39 @@ void CMeasurePanel::OnSize(UINT type, int width, int height)
     {
         return;
     }
-    auto const gap = m_metrics->X(part_gap);
-    auto left = 0;
+    // Where there is no room for all, the clock goes first, then the name of the colours; then all get narrower.
+    constexpr int unnamed_width =
+        position_label_width + position_width + part_gap + level_label_width + level_width + part_gap + scale_width;
+    constexpr int named_width = unnamed_width + scale_label_width;
+    auto const named = width >= m_metrics->X(named_width);
+    auto const units = named ? named_width : unnamed_width;
+    auto const room = std::min(width, m_metrics->X(units));
+    auto const at = [&](int unit) { return ::MulDiv(unit, room, units); };
+    auto const top = m_metrics->Y(edge);
+    auto const high = std::max(height - 2 * top, 0);
+    auto left = 0; // in units
     auto const place = [&](CWnd & window, int unitsWide, int space) {
-        auto const right = left + m_metrics->X(unitsWide);
-        window.MoveWindow(left, 0, right - left, height);
-        left = right + space;
+        window.MoveWindow(at(left), top, at(left + unitsWide) - at(left), high);
+        left += unitsWide + space;
     };
     place(m_positionLabel, position_label_width, 0);
-    place(m_position, position_width, gap);
+    place(m_position, position_width, part_gap);
     place(m_levelLabel, level_label_width, 0);
-    place(m_level, level_width, gap);
-    place(m_scaleLabel, scale_label_width, 0);
+    place(m_level, level_width, part_gap);
+    m_scaleLabel.ShowWindow(named ? SW_SHOWNA : SW_HIDE);
+    if (named)
+    {
+        place(m_scaleLabel, scale_label_width, 0);
+    }
     // A drop-down list's own height is its font's; the rest of what it is given is the height of its list.
     CRect box;
     m_scale.GetWindowRect(&box);
-    auto const top = (height - box.Height()) / 2;
-    m_scale.MoveWindow(left, top, m_metrics->X(scale_width), box.Height() + m_metrics->Y(strip_height) * 8);
+    auto const right = at(left + scale_width);
+    m_scale.MoveWindow(at(left), (height - box.Height()) / 2, right - at(left),
+                       box.Height() + m_metrics->Y(strip_height) * 8);
     auto const clock = m_metrics->X(clock_width);
-    m_clock.MoveWindow(width - clock, 0, clock, height);
-    m_clock.ShowWindow(width - clock >= left + m_metrics->X(scale_width) ? SW_SHOWNA : SW_HIDE);
+    m_clock.MoveWindow(width - clock, top, clock, high);
+    m_clock.ShowWindow(width - clock >= right ? SW_SHOWNA : SW_HIDE);
     // The panel has mostly moved as well; what it takes along of its children may be of other windows.
     RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
@@ -121,7 +141,7 @@ unsigned int CMeasurePanel::Scale()
 
 void CMeasurePanel::ChooseScale(unsigned int scale)
 {
-    m_scale.SelectItemData(static_cast<int>(scale < scales ? scale : 0));
+    m_scale.SelectItemData(static_cast<int>(scale < Farbtabellen::spectrogram_scales ? scale : 0));
 }
 
 void CMeasurePanel::OnScaleChosen()

@@ -29,6 +29,9 @@ public:
     unsigned int Scale();
     void ChooseScale(unsigned int scale);
 
+    /// Shows what it says in the present language.
+    void ShowTexts();
+
     /// Called when the user has chosen another spectrogram scale.
     std::function<void(unsigned int scale)> m_onScale;
 

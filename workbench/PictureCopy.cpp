@@ -1,5 +1,12 @@
 #include "PictureCopy.h"
 
+#include <cstdint>
+#include <cstring>
+#include <cwchar>
+#include <system_error>
+#include <vector>
+
+#include "Graphics.h"
 #include "clipboard/Clipboard.h"
 
 namespace workbench
@@ -10,10 +17,104 @@ namespace
 
 constexpr wchar_t description[] = L"Instrument Workbench\0Picture\0";
 constexpr int hundredths_per_millimetre = 100;
+constexpr wchar_t png_type[] = L"image/png";
+
+/// A picture in memory, of 32 bits a pixel.
+class PictureBitmap
+{
+public:
+    PictureBitmap(CWnd & window, CSize size, Drawing const & draw)
+    {
+        CClientDC screen(&window);
+        CDC memory;
+        m_header.bmiHeader.biSize = sizeof(m_header.bmiHeader);
+        m_header.bmiHeader.biWidth = size.cx;
+        m_header.bmiHeader.biHeight = size.cy;
+        m_header.bmiHeader.biPlanes = 1;
+        m_header.bmiHeader.biBitCount = 32;
+        m_header.bmiHeader.biCompression = BI_RGB;
+        if (size.cx <= 0 || size.cy <= 0 || !memory.CreateCompatibleDC(&screen))
+        {
+            return;
+        }
+        HBITMAP const bitmap = ::CreateDIBSection(screen.m_hDC, &m_header, DIB_RGB_COLORS, &m_bits, nullptr, 0);
+        if (bitmap == nullptr || !m_bitmap.Attach(bitmap))
+        {
+            m_bits = nullptr;
+            return;
+        }
+        CBitmap * const former = memory.SelectObject(&m_bitmap);
+        draw(memory, CRect(CPoint(0, 0), size));
+        ::GdiFlush();
+        memory.SelectObject(former);
+    }
+
+    bool IsThere() const { return m_bits != nullptr; }
+    BITMAPINFO const & Header() const { return m_header; }
+    void * Bits() const { return m_bits; }
+    std::size_t Length() const
+    {
+        return sizeof(std::uint32_t) * static_cast<std::size_t>(m_header.bmiHeader.biWidth) *
+               static_cast<std::size_t>(m_header.bmiHeader.biHeight);
+    }
+
+private:
+    CBitmap m_bitmap;
+    BITMAPINFO m_header{};
+    void * m_bits = nullptr;
+};
+
+/// Puts the picture beside what is on the clipboard.
+bool AddBitmap(CWnd & window, PictureBitmap const & picture)
+{
+    if (!picture.IsThere() || !::OpenClipboard(window.m_hWnd))
+    {
+        return false;
+    }
+    std::size_t const header = sizeof(BITMAPINFOHEADER);
+    HGLOBAL const memory = ::GlobalAlloc(GMEM_MOVEABLE, header + picture.Length());
+    bool given = false;
+    if (void * const block = memory != nullptr ? ::GlobalLock(memory) : nullptr)
+    {
+        std::memcpy(block, &picture.Header().bmiHeader, header);
+        std::memcpy(static_cast<char *>(block) + header, picture.Bits(), picture.Length());
+        ::GlobalUnlock(memory);
+        given = ::SetClipboardData(CF_DIB, memory) != nullptr;
+    }
+    if (!given)
+    {
+        ::GlobalFree(memory);
+    }
+    ::CloseClipboard();
+    return given;
+}
+
+/// What writes PNG files; false if the system has nothing for it.
+bool FindPngEncoder(CLSID & found)
+{
+    UINT count = 0;
+    UINT bytes = 0;
+    Gdiplus::GetImageEncodersSize(&count, &bytes);
+    std::vector<char> memory(bytes);
+    auto * const encoders = reinterpret_cast<Gdiplus::ImageCodecInfo *>(memory.data());
+    if (count == 0 || Gdiplus::GetImageEncoders(count, bytes, encoders) != Gdiplus::Ok)
+    {
+        return false;
+    }
+    for (UINT i = 0; i < count; ++i)
+    {
+        if (std::wcscmp(encoders[i].MimeType, png_type) == 0)
+        {
+            found = encoders[i].Clsid;
+            return true;
+        }
+    }
+    return false;
+}
 
 } // namespace
 
-bool CopyPicture(CWnd & window, CSize size, std::function<void(CDC &, CRect const &)> const & draw)
+bool CopyPicture(CWnd & window, CSize size, Drawing const & draw)
 {
     CClientDC screen(&window);
     auto const hundredths = [&screen](int pixels, int millimetres, int resolution) {
@@ -40,7 +141,42 @@ bool CopyPicture(CWnd & window, CSize size, std::function<void(CDC &, CRect cons
     {
         ::DeleteEnhMetaFile(metafile);
     }
+    // Programs that take bitmaps alone get one, too; those that take both prefer what came first.
+    if (copied)
+    {
+        AddBitmap(window, PictureBitmap(window, size, draw));
+    }
     return copied;
+}
+
+bool SavePicture(CWnd & window, CSize size, Drawing const & draw, std::filesystem::path const & file)
+{
+    GraphicsScope const graphics;
+    // Beside the file first, so that a full disk takes nothing away.
+    auto unfinished = file;
+    unfinished += L".new";
+    bool written = false;
+    {
+        PictureBitmap const picture(window, size, draw);
+        CLSID encoder{};
+        if (picture.IsThere() && FindPngEncoder(encoder))
+        {
+            Gdiplus::Bitmap bitmap(&picture.Header(), picture.Bits());
+            written = bitmap.GetLastStatus() == Gdiplus::Ok &&
+                      bitmap.Save(unfinished.c_str(), &encoder, nullptr) == Gdiplus::Ok;
+        }
+    }
+    std::error_code error;
+    if (written)
+    {
+        std::filesystem::rename(unfinished, file, error);
+        written = !error;
+    }
+    if (!written)
+    {
+        std::filesystem::remove(unfinished, error);
+    }
+    return written;
 }
 
 } // namespace workbench

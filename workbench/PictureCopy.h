@@ -2,13 +2,21 @@
 
 #include <afxwin.h>
 
+#include <filesystem>
 #include <functional>
 
 namespace workbench
 {
 
-/// Puts a picture on the clipboard as an enhanced metafile. size: in pixels of the window's screen. False if the
-/// picture cannot be made or the clipboard refuses it, of which the user has then been told.
-bool CopyPicture(CWnd & window, CSize size, std::function<void(CDC &, CRect const &)> const & draw);
+/// Draws a picture into a rectangle of a device context.
+using Drawing = std::function<void(CDC &, CRect const &)>;
+
+/// Puts a picture on the clipboard as an enhanced metafile and as a bitmap. size: in pixels of the window's screen.
+/// False if the picture cannot be made or the clipboard refuses it, of which the user has then been told.
+bool CopyPicture(CWnd & window, CSize size, Drawing const & draw);
+
+/// Writes a picture as a PNG file; a file of that name is replaced. False if it cannot be made or written, and then a
+/// file that was there before is as it was.
+bool SavePicture(CWnd & window, CSize size, Drawing const & draw, std::filesystem::path const & file);
 
 } // namespace workbench

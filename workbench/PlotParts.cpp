@@ -41,11 +41,11 @@ void DrawPlotLabel(CDC & dc, std::wstring const & text, CPoint position, PlotCol
     DrawPlotText(dc, text, CRect(position, TextSize(dc, text)), DT_LEFT | text_label);
 }
 
-void DrawTimeAxis(CDC & dc, CRect const & plot, double seconds, ScreenMetrics const & metrics,
+void DrawTimeAxis(CDC & dc, CRect const & plot, double first, double end, ScreenMetrics const & metrics,
                   PlotColours const & colours)
 {
     auto const tickHeight = metrics.Y(2);
-    for (auto const & tick : TimeTicks(seconds, plot.Width() - 2, metrics.X(least_tick_distance)))
+    for (auto const & tick : TimeTicks(first, end, plot.Width() - 2, metrics.X(least_tick_distance)))
     {
         auto const x = plot.left + 1 + tick.position;
         dc.FillSolidRect(x, plot.bottom, 1, tickHeight, colours.frame);

@@ -40,8 +40,8 @@ void DrawPlotText(CDC & dc, std::wstring const & text, CRect rect, UINT format);
 /// Draws a label on what is there already, in the colour of labels.
 void DrawPlotLabel(CDC & dc, std::wstring const & text, CPoint position, PlotColours const & colours);
 
-/// Draws the axis below a plot of so many seconds.
-void DrawTimeAxis(CDC & dc, CRect const & plot, double seconds, ScreenMetrics const & metrics,
+/// Draws the axis below a plot that shows the seconds from `first` to `end`.
+void DrawTimeAxis(CDC & dc, CRect const & plot, double first, double end, ScreenMetrics const & metrics,
                   PlotColours const & colours);
 
 } // namespace workbench

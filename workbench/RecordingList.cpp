@@ -153,14 +153,13 @@ bool CRecordingList::CanBeHidden(int column)
     return column > column_name && column < column_count;
 }
 
-void CRecordingList::CreateColumns()
+/// The least widths in the present language.
+void CRecordingList::MeasureTitles()
 {
     for (int i = 0; i < column_count; ++i)
     {
-        auto const & design = column_designs[i];
-        auto const * const title = Text(design.title);
         auto & least = m_least[static_cast<std::size_t>(i)];
-        least = std::max(WidthOf(title), WidthOf(design.leastText));
+        least = std::max(WidthOf(Title(i)), WidthOf(column_designs[i].leastText));
         if (i == column_check)
         {
             least = check_width;
@@ -170,11 +169,19 @@ void CRecordingList::CreateColumns()
             least =
                 WidthOf(UserDateTimeText(CTime(2000, 12, 28, 22, 58, 48), dtf_date_time_without_seconds).GetString());
         }
-        AddColumn(title, design.format, least);
     }
-    m_needs = m_least;
     m_leastWidth = std::accumulate(m_least.begin(), m_least.end(), 0) + arrow_room + ::GetSystemMetrics(SM_CXVSCROLL) +
                    2 * ::GetSystemMetrics(SM_CXBORDER);
+}
+
+void CRecordingList::CreateColumns()
+{
+    MeasureTitles();
+    for (int i = 0; i < column_count; ++i)
+    {
+        AddColumn(Title(i), column_designs[i].format, m_least[static_cast<std::size_t>(i)]);
+    }
+    m_needs = m_least;
     SetHeaderCheckedState(column_check, XHC_UNCHECKED);
 }
 
@@ -191,9 +198,30 @@ void CRecordingList::CreateImages()
     SetImageList(&m_images, LVSIL_SMALL);
 }
 
+/// Shows titles and menu in the present language; cells get theirs when their files are read.
+void CRecordingList::ShowTexts()
+{
+    MeasureTitles();
+    for (int i = column_name; i < column_count; ++i)
+    {
+        LVCOLUMN column{};
+        column.mask = LVCF_TEXT;
+        column.pszText = const_cast<wchar_t *>(Title(i));
+        SetColumn(i, &column);
+        auto & needed = m_needs[static_cast<std::size_t>(i)];
+        needed = std::max(needed, m_least[static_cast<std::size_t>(i)]);
+    }
+    CreateMenu();
+    FitColumns();
+}
+
 void CRecordingList::CreateMenu()
 {
     auto & menu = PopUpMenu();
+    while (menu.GetMenuItemCount() > 0)
+    {
+        menu.DeleteMenu(0, MF_BYPOSITION);
+    }
     menu.AppendMenu(MF_STRING, ID_SHOW_DETAILS, Text(L"&Details...\tAlt+Enter"));
     menu.AppendMenu(MF_STRING, ID_SHOW_IN_FRAME, Text(L"In a &window of its own\tCtrl+N"));
     menu.AppendMenu(MF_STRING, ID_SET_REFERENCE, Text(L"Set as &reference\tCtrl+R"));
@@ -520,8 +548,7 @@ std::vector<int> CRecordingList::TakeNotedLines()
 {
     auto lines = std::exchange(m_noted, {});
     std::ranges::sort(lines);
-    auto const again = std::ranges::unique(lines);
-    lines.erase(again.begin(), again.end());
+    lines.erase(std::unique(lines.begin(), lines.end()), lines.end());
     return lines;
 }
 

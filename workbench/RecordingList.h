@@ -86,6 +86,8 @@ public:
 
     /// A column's title in the present language, and whether the user can hide it.
     static wchar_t const * Title(int column);
+
+    void ShowTexts();
     static bool CanBeHidden(int column);
 
     /// Creates the list with its columns and its context menu, whose commands are those of the workbench. The font is
@@ -223,6 +225,7 @@ private:
     afx_msg LRESULT OnTellOpen(WPARAM line, LPARAM generation);
     afx_msg LRESULT OnPlaceToolTip(WPARAM tool, LPARAM tip);
 
+    void MeasureTitles();
     void CreateColumns();
     void PlaceEditors(int line);
     void NoteReference();

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "RecordingOverview.h"
+#include "StarRating.h"
 #include "frame/CoreLibrary.h"
 #include "logic/ReadableColours.h"
 #include "logic/RecordingDetails.h"
@@ -102,7 +103,7 @@ void CRecordingList::ShowReading(int line, std::filesystem::path const & file)
         Batch const batch(*this);
         Touch(row);
         auto notes = NotesOf(line);
-        m_totals.SetState(static_cast<std::size_t>(line), workbench::RecordingTotals::State::Unread, 0);
+        m_totals.SetState(static_cast<std::size_t>(line), workbench::RecordingTotals::State::unread, 0);
         // A recording that could not be read may be one again.
         m_totals.SetChecked(static_cast<std::size_t>(line), notes.checked);
         if (notes.reference && m_reference < 0)
@@ -147,6 +148,7 @@ void CRecordingList::PrepareRow(int row, std::filesystem::path const & file, Not
     SetItemToolTipText(row, column_name, file.c_str());
     SetRadioButton(row, column_reference, notes.reference ? XLC_RADIO_ON : XLC_RADIO_OFF);
     SetComboBoxGlobalStrings(row, column_rating, notes.rating, 0);
+    SetCellKind(row, column_rating, CStarRating::Shared());
     SetItemText(row, column_comment, notes.comment.c_str());
     SetEdit(row, column_comment, true);
     SetItemText(row, column_status, status);
@@ -182,7 +184,7 @@ void CRecordingList::ShowAnalysis(int line, std::shared_ptr<workbench::Recording
         ShowValues(row, analysis);
     }
     using State = workbench::RecordingTotals::State;
-    m_totals.SetState(static_cast<std::size_t>(line), analysis->problem ? State::Unreadable : State::Readable,
+    m_totals.SetState(static_cast<std::size_t>(line), analysis->problem ? State::unreadable : State::readable,
                       workbench::DurationMilliseconds(analysis->info.frames, analysis->info.sampleRate));
     if (analysis->problem && m_reference == line)
     {
@@ -262,6 +264,7 @@ void CRecordingList::ShowProblem(int row, workbench::RecordingAnalysis const & a
     SetBold(row, column_name, false);
     SetItemProperty(row, column_name, XLP_UNDERLINE, false);
     SetRadioButton(row, column_reference, XLC_NONE);
+    SetCellKind(row, column_rating, nullptr);
     SetComboBox(row, column_rating, std::map<int, wchar_t const *>(), 0, 0);
     SetItemText(row, column_rating, L"");
     SetEdit(row, column_comment, false);

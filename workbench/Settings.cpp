@@ -21,6 +21,9 @@ constexpr wchar_t fade_in[] = L"FadeIn";
 constexpr wchar_t drag_by_background[] = L"DragByBackground";
 constexpr wchar_t inactive_opacity[] = L"InactiveOpacity";
 constexpr wchar_t spectrogram_scale[] = L"SpectrogramScale";
+constexpr wchar_t spectrogram_window[] = L"SpectrogramWindow";
+constexpr wchar_t spectrogram_overlap[] = L"SpectrogramOverlap";
+constexpr wchar_t frequency_scale[] = L"FrequencyScale"; // 1: logarithmic
 constexpr wchar_t start_folders[] = L"StartFolders";
 constexpr wchar_t language[] = L"Language";
 constexpr wchar_t column_widths[] = L"ColumnWidths"; // the average width of a letter, then column:width
@@ -86,6 +89,13 @@ Settings ReadSettings()
         ReadNumber(inactive_opacity, Settings::least_opacity, Settings::most_opacity, settings.inactiveOpacity);
     settings.spectrogramScale =
         app.GetProfileInt(section, spectrogram_scale, static_cast<int>(settings.spectrogramScale));
+    SpectrogramSettings const stored{
+        app.GetProfileInt(section, spectrogram_window, 0),
+        static_cast<int>(app.GetProfileInt(section, spectrogram_overlap, settings.spectrogram.overlap))};
+    auto const checked = CheckedSpectrogramSettings(stored, 0);
+    settings.spectrogram = {checked.window == stored.window ? stored.window : 0, checked.overlap};
+    settings.frequencyScale =
+        ReadNumber(frequency_scale, 0, 1, 0) == 1 ? FrequencyScale::Logarithmic : FrequencyScale::Linear;
     settings.startFolders = FoldersOf(ReadText(start_folders));
     settings.recentFolders = FoldersOf(ReadText(recent_folders));
     if (settings.recentFolders.size() > most_recent_folders)
@@ -119,6 +129,10 @@ bool StoreSettings(Settings const & settings)
            app.WriteProfileInt(section, drag_by_background, settings.dragByBackground) &&
            app.WriteProfileInt(section, inactive_opacity, settings.inactiveOpacity) &&
            app.WriteProfileInt(section, spectrogram_scale, static_cast<int>(settings.spectrogramScale)) &&
+           app.WriteProfileInt(section, spectrogram_window, static_cast<int>(settings.spectrogram.window)) &&
+           app.WriteProfileInt(section, spectrogram_overlap, settings.spectrogram.overlap) &&
+           app.WriteProfileInt(section, frequency_scale,
+                               settings.frequencyScale == FrequencyScale::Logarithmic ? 1 : 0) &&
            WriteText(start_folders, FolderText(settings.startFolders)) &&
            WriteText(recent_folders, FolderText(settings.recentFolders)) &&
            WriteText(trace_colour, ColourText(settings.waveform.trace)) &&

@@ -8,6 +8,8 @@
 #include <set>
 #include <vector>
 
+#include "logic/Axis.h"
+#include "logic/Spectrogram.h"
 #include "logic/WaveformColours.h"
 
 namespace workbench
@@ -20,12 +22,14 @@ struct Settings
     static constexpr int least_opacity = 20;
     static constexpr int most_opacity = 100;
 
-    bool fadeIn = true;                               ///< dialogs fade in when they open
-    bool dragByBackground = true;                     ///< dialogs can be moved by their background
-    int inactiveOpacity = 50;                         ///< of dialogs that are not active, in percent
-    unsigned int spectrogramScale = 1;                ///< the number of a colour scale
-    std::vector<std::filesystem::path> startFolders;  ///< opened when the program starts without others
-    std::vector<std::filesystem::path> recentFolders; ///< that the user has opened, the last one first
+    bool fadeIn = true;                ///< dialogs fade in when they open
+    bool dragByBackground = true;      ///< dialogs can be moved by their background
+    int inactiveOpacity = 50;          ///< of dialogs that are not active, in percent
+    unsigned int spectrogramScale = 1; ///< the number of a colour scale
+    SpectrogramSettings spectrogram;
+    FrequencyScale frequencyScale = FrequencyScale::Linear; ///< of the spectrogram
+    std::vector<std::filesystem::path> startFolders;        ///< opened when the program starts without others
+    std::vector<std::filesystem::path> recentFolders;       ///< that the user has opened, the last one first
     WaveformColours waveform;
     int amplification = 0;            ///< of the waveform, in decibels
     std::set<int> hiddenColumns;      ///< of the list, by their number

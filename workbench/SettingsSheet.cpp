@@ -7,6 +7,14 @@
 using workbench::Settings;
 using workbench::Text;
 
+namespace
+{
+
+// No theme has a class of this name. An empty one would be refused by some systems.
+constexpr wchar_t no_theme[] = L" ";
+
+} // namespace
+
 BEGIN_MESSAGE_MAP(CSettingsSheet, CPropertySheet3d)
     ON_WM_DESTROY()
 END_MESSAGE_MAP()
@@ -29,9 +37,9 @@ CSettingsSheet::CSettingsSheet() : CPropertySheet3d(L"Settings", nullptr, 0)
     }
 }
 
-std::array<CSettingsGroup *, 4> CSettingsSheet::Groups()
+std::array<CSettingsGroup *, 5> CSettingsSheet::Groups()
 {
-    return {&m_start, &m_waveform, &m_list, &m_dialogs};
+    return {&m_start, &m_waveform, &m_spectrogram, &m_list, &m_dialogs};
 }
 
 bool CSettingsSheet::Open(CWnd & owner)
@@ -64,7 +72,7 @@ BOOL CSettingsSheet::OnInitDialog()
     // Visual styles are made for a light ground.
     if (CSettingsGroup::HasDarkGround())
     {
-        ::SetWindowTheme(GetTabControl()->m_hWnd, L"", L"");
+        ::SetWindowTheme(GetTabControl()->m_hWnd, no_theme, no_theme);
     }
     StretchTabs();
     return result;

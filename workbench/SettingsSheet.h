@@ -5,6 +5,7 @@
 
 #include "DialogsGroup.h"
 #include "ListGroup.h"
+#include "SpectrogramGroup.h"
 #include "StartGroup.h"
 #include "WaveformGroup.h"
 #include "dialogs/PropertySheet3d.h"
@@ -38,11 +39,12 @@ protected:
 private:
     afx_msg void OnDestroy();
 
-    std::array<CSettingsGroup *, 4> Groups();
+    std::array<CSettingsGroup *, 5> Groups();
     void StretchTabs();
 
     CStartGroup m_start;
     CWaveformGroup m_waveform;
+    CSpectrogramGroup m_spectrogram;
     CListGroup m_list;
     CDialogsGroup m_dialogs;
     int m_shownPage = 0;

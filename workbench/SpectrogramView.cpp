@@ -22,6 +22,8 @@ constexpr COLORREF grey_outside = RGB(160, 160, 164);
 constexpr UINT message_computed = WM_APP + 1;
 constexpr UINT_PTR progress_timer = 1;
 constexpr UINT progress_period = 50; // milliseconds
+constexpr UINT_PTR finer_timer = 2;
+constexpr UINT finer_delay = 150; // milliseconds after the last change of the part shown
 constexpr UINT progress_id = 1;
 
 /// The most points of a picture on a side, whatever the device.
@@ -29,6 +31,9 @@ constexpr int longest_side = 4096;
 
 /// Levels with a label in the legend are so many entries apart.
 constexpr int entries_per_label = 8;
+
+constexpr double zoom_step = 1.5;
+constexpr double scroll_step = 0.1; // of what is shown
 
 std::wstring LegendLabel(int entry)
 {
@@ -63,6 +68,10 @@ BEGIN_MESSAGE_MAP(CSpectrogramView, CBufferedView)
     ON_WM_TIMER()
     ON_WM_DESTROY()
     ON_MESSAGE(message_computed, &CSpectrogramView::OnComputed)
+    ON_WM_LBUTTONDOWN()
+    ON_WM_MOUSEMOVE()
+    ON_WM_LBUTTONUP()
+    ON_WM_MOUSEWHEEL()
 END_MESSAGE_MAP()
 
 CSpectrogramView::CSpectrogramView()
@@ -97,23 +106,92 @@ void CSpectrogramView::EndJob()
     }
 }
 
+/// Computes all of the file, or a stretch of it.
+void CSpectrogramView::StartJob(std::optional<workbench::FrameRange> const & stretch)
+{
+    EndJob();
+    m_jobStretch = stretch;
+    m_job = std::make_unique<workbench::SpectrogramJob>(
+        m_file, [window = GetSafeHwnd()] { ::PostMessageW(window, message_computed, 0, 0); }, m_settings, stretch);
+}
+
+/// What there is for the part shown: the finer one where it reaches.
+workbench::Spectrogram const & CSpectrogramView::Shown() const
+{
+    auto const shown = m_marks.window.Shown();
+    if (m_finer && !m_marks.window.ShowsAll())
+    {
+        auto const stretch = m_finer->spectrogram.Stretch();
+        if (stretch.first <= shown.first && shown.end <= stretch.end)
+        {
+            return m_finer->spectrogram;
+        }
+    }
+    return m_result->spectrogram;
+}
+
+/// Whether a spectrogram of the part shown alone would show more.
+bool CSpectrogramView::NeedsFiner() const
+{
+    if (!m_result || m_result->problem || m_marks.window.ShowsAll())
+    {
+        return false;
+    }
+    auto const & best = Shown();
+    // Half as much again is not worth it.
+    return best.IsCondensed() && best.Frames() > 2 * m_marks.window.Shown().Length();
+}
+
 void CSpectrogramView::ShowRecording(std::wstring name, std::filesystem::path const & path)
 {
     ShowText(std::move(name), Text(L"The spectrogram is being computed."));
+    m_file = path;
+    StartJob(std::nullopt);
     m_progress.SetPos(0);
     PlaceProgress();
     m_progress.ShowWindow(SW_SHOWNA);
     SetTimer(progress_timer, progress_period, nullptr);
-    m_job = std::make_unique<workbench::SpectrogramJob>(
-        path, [window = GetSafeHwnd()] { ::PostMessageW(window, message_computed, 0, 0); });
+}
+
+void CSpectrogramView::SetSettings(workbench::SpectrogramSettings const & settings)
+{
+    if (settings == m_settings)
+    {
+        return;
+    }
+    m_settings = settings;
+    // What is there stays to be seen until the new one is there.
+    if (!m_file.empty() && (m_job || m_result))
+    {
+        StartJob(std::nullopt);
+    }
+}
+
+void CSpectrogramView::SetScale(workbench::FrequencyScale scale)
+{
+    if (scale != m_scale)
+    {
+        m_scale = scale;
+        m_picture.clear();
+        if (GetSafeHwnd() != nullptr)
+        {
+            Invalidate(FALSE);
+        }
+    }
 }
 
 void CSpectrogramView::ShowText(std::wstring title, std::wstring text)
 {
     EndJob();
+    KillTimer(finer_timer);
     m_title = std::move(title);
     m_text = std::move(text);
+    m_file.clear();
     m_result.reset();
+    m_finer.reset();
+    m_marks = workbench::TimeMarks();
+    m_frequency.reset();
+    m_playing.reset();
     m_picture.clear();
     Invalidate(FALSE);
 }
@@ -139,10 +217,27 @@ LRESULT CSpectrogramView::OnComputed(WPARAM, LPARAM)
     {
         return 0;
     }
+    auto const stretch = m_jobStretch;
     EndJob();
-    m_text = result->problem ? Text(L"Cannot be shown") + (L": " + result->problem->Text() + L'.') : std::wstring();
-    m_result = std::move(result);
+    m_picture.clear();
     Invalidate(FALSE);
+    if (stretch)
+    {
+        // A file that is gone by now goes on as it was seen.
+        m_finer = result->problem ? nullptr : std::move(result);
+        return 0;
+    }
+    m_text = result->problem ? Text(L"Cannot be shown") + (L": " + result->problem->Text() + L'.') : std::wstring();
+    m_finer.reset();
+    m_result = std::move(result);
+    if (m_marks.window.Frames() != m_result->spectrogram.Frames())
+    {
+        m_marks = workbench::TimeMarks(m_result->spectrogram.Frames());
+    }
+    if (auto const onComputed = m_onComputed)
+    {
+        onComputed();
+    }
     return 0;
 }
 
@@ -151,6 +246,17 @@ void CSpectrogramView::OnTimer(UINT_PTR timer)
     if (timer == progress_timer && m_job)
     {
         m_progress.SetPos(m_job->Progress());
+    }
+    if (timer == finer_timer)
+    {
+        KillTimer(finer_timer);
+        if (NeedsFiner())
+        {
+            // As much again on both sides, so that a little scrolling shows it, too.
+            auto const shown = m_marks.window.Shown();
+            auto const around = shown.Length() / 2;
+            StartJob(workbench::FrameRange{shown.first - std::min(shown.first, around), shown.end + around});
+        }
     }
     CBufferedView::OnTimer(timer);
 }
@@ -218,7 +324,14 @@ void CSpectrogramView::Draw(CDC & dc, CRect const & rect)
     }
     DrawPicture(dc, plot);
     auto const & info = m_result->info;
-    workbench::DrawTimeAxis(dc, plot, static_cast<double>(info.frames) / info.sampleRate, *m_metrics, m_plotColours);
+    auto const shown = m_marks.window.Shown();
+    workbench::DrawTimeAxis(dc, plot, static_cast<double>(shown.first) / info.sampleRate,
+                            static_cast<double>(shown.end) / info.sampleRate, *m_metrics, m_plotColours);
+    if (!m_printing)
+    {
+        m_plot = plot;
+        DrawMarks(dc, plot);
+    }
     DrawFrequencyAxis(dc, plot);
     auto const legendLeft = plot.right + m_metrics->X(6);
     DrawLegend(dc, CRect(legendLeft, plot.top, legendLeft + m_metrics->X(6), plot.bottom));
@@ -272,7 +385,187 @@ std::wstring CSpectrogramView::Details() const
         details += std::wstring(L"  \u00B7  ") + Text(L"the loudest of") + L' ' +
                    workbench::FormatCount(shown, Text(L"channel"), Text(L"channels"));
     }
+    if (auto const reading = Reading(); !reading.empty() && !m_printing)
+    {
+        details += L"  \u00B7  " + reading;
+    }
     return details;
+}
+
+std::wstring CSpectrogramView::Reading() const
+{
+    if (!m_result || m_result->problem || !m_frequency)
+    {
+        return {};
+    }
+    auto const & shown = Shown();
+    auto const half = m_result->info.sampleRate / 2.0;
+    auto const row = static_cast<std::size_t>(
+        std::lround(std::clamp(*m_frequency / half, 0.0, 1.0) * static_cast<double>(shown.Rows() - 1)));
+    auto const entry = shown.Entry(shown.ColumnOfFrame(m_marks.cursor), row);
+    // An entry stands for all levels that it spans.
+    auto const level = std::lround(workbench::lowest_scale_level + entry * workbench::decibels_per_entry);
+    return workbench::FormatDuration(m_marks.cursor, m_result->info.sampleRate) + L", " +
+           workbench::FormatFrequency(*m_frequency) + L" Hz, " + (entry == 0 ? L"< " : L"") +
+           std::to_wstring(entry == 0 ? std::lround(workbench::lowest_scale_level + workbench::decibels_per_entry)
+                                      : level) +
+           L" dB";
+}
+
+void CSpectrogramView::SetMarks(workbench::TimeMarks const & marks)
+{
+    if (!m_result || m_result->problem || marks.window.Frames() != m_marks.window.Frames() || marks == m_marks)
+    {
+        return;
+    }
+    auto const moved = marks.window != m_marks.window;
+    m_marks = marks;
+    Invalidate(FALSE);
+    if (moved)
+    {
+        SetTimer(finer_timer, finer_delay, nullptr);
+    }
+}
+
+void CSpectrogramView::ShowPlaying(std::optional<std::uint64_t> frame)
+{
+    if (frame != m_playing)
+    {
+        m_playing = frame;
+        Invalidate(FALSE);
+    }
+}
+
+/// What the user did.
+void CSpectrogramView::ChangeMarks(workbench::TimeMarks const & marks)
+{
+    if (marks == m_marks)
+    {
+        return;
+    }
+    auto const onMarks = m_onMarks;
+    SetMarks(marks);
+    if (onMarks)
+    {
+        onMarks();
+    }
+}
+
+/// The cursor as lines through its time and its frequency, and the ends of what is selected: light on dark and dark on
+/// light.
+void CSpectrogramView::DrawMarks(CDC & dc, CRect const & plot)
+{
+    auto inside = plot;
+    inside.DeflateRect(1, 1);
+    auto const vertical = [&](std::uint64_t frame) {
+        auto const x = m_marks.window.XOf(frame, inside.Width());
+        if (x >= 0 && x < inside.Width())
+        {
+            dc.InvertRect(CRect(inside.left + x, inside.top, inside.left + x + 1, inside.bottom));
+        }
+    };
+    if (m_marks.HasSelection())
+    {
+        vertical(*m_marks.other);
+    }
+    if (m_marks.HasSelection() || m_marks.cursor > 0)
+    {
+        vertical(m_marks.cursor);
+    }
+    if (m_playing)
+    {
+        vertical(*m_playing);
+    }
+    if (m_frequency)
+    {
+        auto const part = workbench::PartOfFrequency(m_scale, m_result->info.sampleRate / 2.0, *m_frequency);
+        auto const y = inside.bottom - 1 - static_cast<int>(std::lround(part * (inside.Height() - 1)));
+        if (y >= inside.top && y < inside.bottom)
+        {
+            dc.InvertRect(CRect(inside.left, y, inside.right, y + 1));
+        }
+    }
+}
+
+std::uint64_t CSpectrogramView::FrameAt(int x) const
+{
+    return m_marks.window.FrameAt(x - m_plot.left - 1, m_plot.Width() - 2);
+}
+
+/// Puts the cursor at a place of the picture.
+void CSpectrogramView::PointAt(CPoint point, bool selects)
+{
+    auto const height = m_plot.Height() - 2;
+    if (!m_result || m_result->problem || m_plot.Width() <= 2 || height <= 1)
+    {
+        return;
+    }
+    auto const part = std::clamp(static_cast<double>(m_plot.bottom - 2 - point.y) / (height - 1), 0.0, 1.0);
+    m_frequency = workbench::FrequencyAt(m_scale, m_result->info.sampleRate / 2.0, part);
+    Invalidate(FALSE);
+    auto marks = m_marks;
+    auto const frame = FrameAt(point.x);
+    if (!selects)
+    {
+        marks.other.reset();
+    }
+    else if (frame != marks.cursor)
+    {
+        marks.other = marks.other.value_or(marks.cursor);
+    }
+    marks.cursor = frame;
+    ChangeMarks(marks);
+}
+
+void CSpectrogramView::OnLButtonDown(UINT flags, CPoint point)
+{
+    CBufferedView::OnLButtonDown(flags, point);
+    if (m_plot.PtInRect(point))
+    {
+        SetCapture();
+        PointAt(point, (flags & MK_SHIFT) != 0);
+    }
+}
+
+void CSpectrogramView::OnMouseMove(UINT flags, CPoint point)
+{
+    CBufferedView::OnMouseMove(flags, point);
+    if (GetCapture() == this)
+    {
+        PointAt(point, true);
+    }
+}
+
+void CSpectrogramView::OnLButtonUp(UINT flags, CPoint point)
+{
+    CBufferedView::OnLButtonUp(flags, point);
+    if (GetCapture() == this)
+    {
+        ::ReleaseCapture();
+    }
+}
+
+/// The wheel zooms at the pointer; with Shift it scrolls.
+BOOL CSpectrogramView::OnMouseWheel(UINT flags, short delta, CPoint point)
+{
+    if (!m_result || m_result->problem || m_plot.Width() <= 2)
+    {
+        return CBufferedView::OnMouseWheel(flags, delta, point);
+    }
+    double const notches = static_cast<double>(delta) / WHEEL_DELTA;
+    auto marks = m_marks;
+    if ((flags & MK_SHIFT) != 0)
+    {
+        marks.window.Scroll(-notches * scroll_step);
+    }
+    else
+    {
+        ScreenToClient(&point);
+        auto const part = static_cast<double>(point.x - m_plot.left - 1) / (m_plot.Width() - 2);
+        marks.window.Zoom(std::pow(zoom_step, -notches), part);
+    }
+    ChangeMarks(marks);
+    return TRUE;
 }
 
 void CSpectrogramView::DrawPicture(CDC & dc, CRect const & rect)
@@ -286,10 +579,13 @@ void CSpectrogramView::DrawPicture(CDC & dc, CRect const & rect)
     dc.LPtoDP(&size);
     size.cx = std::clamp<int>(std::abs(size.cx), 1, longest_side);
     size.cy = std::clamp<int>(std::abs(size.cy), 1, longest_side);
-    if (m_picture.empty() || size != m_pictureSize)
+    auto const range = m_marks.window.Shown();
+    if (m_picture.empty() || size != m_pictureSize || range != m_pictureRange)
     {
-        m_picture = m_result->spectrogram.Picture(static_cast<std::size_t>(size.cx), static_cast<std::size_t>(size.cy));
+        m_picture =
+            Shown().Picture(static_cast<std::size_t>(size.cx), static_cast<std::size_t>(size.cy), range, m_scale);
         m_pictureSize = size;
+        m_pictureRange = range;
     }
     if (m_picture.empty())
     {
@@ -329,7 +625,8 @@ void CSpectrogramView::DrawFrequencyAxis(CDC & dc, CRect const & plot)
 {
     auto const tickWidth = m_metrics->X(2);
     auto const height = plot.Height() - 2;
-    for (auto const & tick : workbench::FrequencyTicks(m_result->info.sampleRate / 2.0, height, m_metrics->Y(16)))
+    for (auto const & tick :
+         workbench::FrequencyTicks(m_scale, m_result->info.sampleRate / 2.0, height, m_metrics->Y(16)))
     {
         auto const y = plot.bottom - 1 - tick.position;
         dc.FillSolidRect(plot.left - tickWidth, y, tickWidth, 1, m_plotColours.frame);

@@ -6,7 +6,9 @@
 #include <array>
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -14,10 +16,12 @@
 #include "ScreenMetrics.h"
 #include "logic/ReadableColours.h"
 #include "logic/SpectrogramJob.h"
+#include "logic/TimeMarks.h"
 
 /// Shows the spectrogram of one recording: a heading, the spectrogram with a time and a frequency axis, and a legend of
 /// its colours. While it is computed, on a thread of its own, a progress bar shows instead; where there is nothing to
-/// see, a text says why.
+/// see, a text says why. The wheel zooms and scrolls; what is shown of a part stays until that part has been computed
+/// more finely. A click sets the cursor and reads time, frequency and level there; dragging selects a stretch.
 class CSpectrogramView : public CBufferedView
 {
 public:
@@ -43,6 +47,25 @@ public:
     /// Whether a spectrogram is being computed.
     bool IsComputing() const { return m_job != nullptr; }
 
+    /// How spectrograms are computed from now on; the present one is computed anew and shown until then.
+    void SetSettings(workbench::SpectrogramSettings const & settings);
+    /// How frequencies are spread over the height.
+    void SetScale(workbench::FrequencyScale scale);
+
+    /// The part shown, the cursor and the selection.
+    workbench::TimeMarks const & Marks() const { return m_marks; }
+    /// Takes over what another plot shows; nothing if that is not of as many frames.
+    void SetMarks(workbench::TimeMarks const & marks);
+    /// Marks the frame that is heard, or none.
+    void ShowPlaying(std::optional<std::uint64_t> frame);
+    /// Called when the user has changed the marks.
+    std::function<void()> m_onMarks;
+    /// Called when the spectrogram of a recording is there, or what is wrong with it.
+    std::function<void()> m_onComputed;
+
+    /// What the cursor reads: time, frequency and level; empty without a spectrogram or before the first click.
+    std::wstring Reading() const;
+
     /// Draws what the view shows into a rectangle, in logical units, of any device context: a metafile's or a
     /// printer's, too. In the place of a progress bar there is a text alone. Lengths and fonts are the screen's; scale
     /// them by the mapping mode.
@@ -59,8 +82,19 @@ private:
     afx_msg void OnTimer(UINT_PTR timer);
     afx_msg void OnDestroy();
     afx_msg LRESULT OnComputed(WPARAM, LPARAM);
+    afx_msg void OnLButtonDown(UINT flags, CPoint point);
+    afx_msg void OnMouseMove(UINT flags, CPoint point);
+    afx_msg void OnLButtonUp(UINT flags, CPoint point);
+    afx_msg BOOL OnMouseWheel(UINT flags, short delta, CPoint point);
 
     void EndJob();
+    void StartJob(std::optional<workbench::FrameRange> const & stretch);
+    workbench::Spectrogram const & Shown() const;
+    bool NeedsFiner() const;
+    void ChangeMarks(workbench::TimeMarks const & marks);
+    void DrawMarks(CDC & dc, CRect const & plot);
+    std::uint64_t FrameAt(int x) const;
+    void PointAt(CPoint point, bool selects);
     void PlaceProgress();
     int MessageTop(CRect const & rect) const;
     void DrawMessage(CDC & dc, CRect const & rect);
@@ -74,11 +108,21 @@ private:
     CProgressCtrl m_progress;
     std::wstring m_title;
     std::wstring m_text;
+    std::filesystem::path m_file;
+    workbench::SpectrogramSettings m_settings;
+    workbench::FrequencyScale m_scale = workbench::FrequencyScale::Linear;
     std::unique_ptr<workbench::SpectrogramJob> m_job;
-    std::shared_ptr<workbench::SpectrogramJob::Result const> m_result;
+    std::optional<workbench::FrameRange> m_jobStretch;
+    std::shared_ptr<workbench::SpectrogramJob::Result const> m_result; ///< of all of the recording
+    std::shared_ptr<workbench::SpectrogramJob::Result const> m_finer;  ///< of a part of it
+    workbench::TimeMarks m_marks;
+    std::optional<std::uint64_t> m_playing; ///< the frame that is heard
+    std::optional<double> m_frequency;      ///< of the cursor, in hertz
+    CRect m_plot;                           ///< where the picture was drawn last
     std::array<COLORREF, colour_count> m_colours;
     std::vector<std::uint8_t> m_picture; ///< as drawn last
     CSize m_pictureSize;
+    workbench::FrameRange m_pictureRange;
     bool m_printing = false;
     workbench::PlotColours m_plotColours{};
 };

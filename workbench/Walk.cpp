@@ -5,6 +5,7 @@
 #include <system_error>
 
 #include "MainWindow.h"
+#include "logic/Texts.h"
 #include "resource.h"
 #include "windows/StandaloneFrameMigrationHelper.h"
 
@@ -298,17 +299,31 @@ bool CWalk::GoThroughDialogs(std::string const & suffix)
            StepInDialog(name("workbench-export").c_str(), ID_EXPORT_LIST, cancel);
 }
 
-/// Chooses German in the language chooser, as a user would.
-bool CWalk::ChangeLanguage()
+/// Chooses a language in the language chooser, as a user would.
+bool CWalk::ChangeLanguage(wchar_t const * name)
 {
-    return StepInDialog("workbench-language-chosen", ID_CHOOSE_LANGUAGE, [](CWnd & dialog) {
+    return StepInDialog("workbench-language-chosen", ID_CHOOSE_LANGUAGE, [name](CWnd & dialog) {
         auto * const list = CWnd::FromHandle(::FindWindowExW(dialog.m_hWnd, nullptr, L"ComboBox", nullptr));
         if (list != nullptr)
         {
-            list->SendMessage(CB_SELECTSTRING, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(L"Deutsch"));
+            list->SendMessage(CB_SELECTSTRING, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(name));
         }
         dialog.PostMessage(WM_COMMAND, IDOK);
     });
+}
+
+/// All but English, which was the first; German stays.
+bool CWalk::GoThroughLanguages()
+{
+    for (auto language = workbench::language_count - 1; language > 0; --language)
+    {
+        auto const & facts = workbench::language_facts[language];
+        if (!ChangeLanguage(facts.name) || !GoThroughDialogs('-' + std::to_string(facts.id)))
+        {
+            return false;
+        }
+    }
+    return true;
 }
 
 void CWalk::Click(int line, int column)
@@ -409,8 +424,7 @@ bool CWalk::Run()
         !(CheckSome() && Step("workbench-checked") &&
           StepInMenu("workbench-menu", m_window.List(),
                      m_window.List().CellCentre(m_window.RecordingCount() / 3, CRecordingList::column_overview)) &&
-          StepInMainMenu("workbench-main-menu", 1) && GoThroughDialogs("") && ChangeLanguage() &&
-          GoThroughDialogs("-german")))
+          StepInMainMenu("workbench-main-menu", 1) && GoThroughDialogs("") && GoThroughLanguages()))
     {
         return false;
     }

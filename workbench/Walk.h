@@ -39,7 +39,8 @@ private:
     bool GoThroughPanes(std::string const & suffix);
     bool GoThroughFrames(std::string const & suffix);
     bool GoThroughDialogs(std::string const & suffix);
-    bool ChangeLanguage();
+    bool GoThroughLanguages();
+    bool ChangeLanguage(wchar_t const * name);
     void Click(int line, int column);
     bool WriteReady(char const * picture);
     bool IsDone() const;

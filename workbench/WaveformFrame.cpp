@@ -243,7 +243,7 @@ void CWaveformFrame::ShowCell(std::size_t cell)
     auto const name = recording.file.filename().wstring();
     if (recording.analysis)
     {
-        view->Waveform().ShowRecording(name, recording.analysis);
+        view->Waveform().ShowRecording(name, recording.analysis, recording.file);
     }
     else
     {

@@ -15,7 +15,6 @@ namespace
 
 constexpr int steps = workbench::most_amplification / workbench::amplification_step;
 constexpr COLORREF level_colour = RGB(33, 102, 172);
-constexpr int icon_size = 32; // pixels, as the system draws icons
 
 // Lengths in dialog units.
 constexpr int view_margin = 6; // of the plot in the view
@@ -131,7 +130,9 @@ void CWaveformPanel::Arrange()
     auto const line = m_metrics->LineHeight();
     m_slider.MoveWindow(centre - width / 2, plot.top, width, std::max<int>(plot.Height(), 0));
     m_value.MoveWindow(view.right, plot.bottom + m_metrics->Y(1), client.right - view.right, line);
-    m_fit.MoveWindow(centre - icon_size / 2, std::max<int>((plot.top - icon_size) / 2, 0), icon_size, icon_size);
+    // As large as the system draws icons.
+    CSize const icon(::GetSystemMetrics(SM_CXICON), ::GetSystemMetrics(SM_CYICON));
+    m_fit.MoveWindow(centre - icon.cx / 2, std::max<int>((plot.top - icon.cy) / 2, 0), icon.cx, icon.cy);
     auto const shows = m_view.ShowsRecording();
     auto const fits = shows && plot.Height() >= m_metrics->Y(least_slider_height);
     auto const show = [this](CWnd & window, bool visible) {

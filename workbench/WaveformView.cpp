@@ -34,6 +34,15 @@ constexpr int margin_y = 5;
 constexpr int line_gap = 1;
 constexpr int heading_gap = 3;
 constexpr int axis_gap = 4;
+constexpr int strip_height = 10;
+constexpr int strip_gap = 3;
+
+constexpr UINT message_refined = WM_APP + 1;
+
+constexpr double zoom_step = 1.5;
+constexpr double scroll_step = 0.1; // of what is shown
+constexpr double page_step = 0.9;
+constexpr double selection_strength = 0.35; // of the system's colour of what is selected
 
 } // namespace
 
@@ -41,6 +50,8 @@ BEGIN_MESSAGE_MAP(CWaveformView, CBufferedView)
     ON_WM_LBUTTONDOWN()
     ON_WM_MOUSEMOVE()
     ON_WM_LBUTTONUP()
+    ON_WM_LBUTTONDBLCLK()
+    ON_MESSAGE(message_refined, &CWaveformView::OnRefined)
     ON_WM_KEYDOWN()
     ON_WM_MOUSEWHEEL()
     ON_WM_SIZE()
@@ -55,18 +66,38 @@ bool CWaveformView::CreateView(CWnd & parent, UINT id, workbench::ScreenMetrics 
     return CreateBuffered(L"Waveform", WS_TABSTOP, CRect(), parent, id);
 }
 
-void CWaveformView::ShowRecording(std::wstring name, std::shared_ptr<workbench::RecordingAnalysis const> analysis)
+void CWaveformView::ShowRecording(std::wstring name, std::shared_ptr<workbench::RecordingAnalysis const> analysis,
+                                  std::filesystem::path const & file)
 {
     m_title = std::move(name);
     m_text = analysis->problem ? Text(L"Cannot be shown") + (L": " + analysis->StatusText() + L'.') : std::wstring();
     m_analysis = std::move(analysis);
+    m_detail.reset();
+    if (ShowsRecording())
+    {
+        m_detail = std::make_unique<workbench::WaveformDetail>(
+            m_analysis, file, [window = GetSafeHwnd()] { ::PostMessageW(window, message_refined, 0, 0); });
+    }
+    ResetMarks();
+}
+
+/// Shows all of what there is now.
+void CWaveformView::ResetMarks()
+{
     m_columns.clear();
-    m_cursor = 0;
+    m_drag = Drag::none;
+    m_playing.reset();
+    m_marks = workbench::TimeMarks(ShowsRecording() ? m_analysis->info.frames : 0);
     Invalidate(FALSE);
     Placed();
-    if (m_onCursor)
+    auto const onMarks = m_onMarks;
+    if (auto const onCursor = m_onCursor)
     {
-        m_onCursor();
+        onCursor();
+    }
+    if (onMarks)
+    {
+        onMarks();
     }
 }
 
@@ -74,15 +105,16 @@ void CWaveformView::ShowText(std::wstring title, std::wstring text)
 {
     m_title = std::move(title);
     m_text = std::move(text);
+    m_detail.reset();
     m_analysis.reset();
+    ResetMarks();
+}
+
+LRESULT CWaveformView::OnRefined(WPARAM, LPARAM)
+{
     m_columns.clear();
-    m_cursor = 0;
     Invalidate(FALSE);
-    Placed();
-    if (m_onCursor)
-    {
-        m_onCursor();
-    }
+    return 0;
 }
 
 void CWaveformView::Draw(CDC & dc, CRect const & client)
@@ -95,7 +127,7 @@ void CWaveformView::Draw(CDC & dc, CRect const & client)
     }
     dc.SetBkMode(TRANSPARENT);
     workbench::SelectScope const font(dc, m_metrics->Font());
-    if (!m_analysis || m_analysis->problem)
+    if (!m_analysis || m_analysis->problem || !m_detail)
     {
         DrawMessage(dc, client);
         return;
@@ -112,8 +144,12 @@ void CWaveformView::Draw(CDC & dc, CRect const & client)
         return;
     }
     m_plot = m_printing ? m_plot : plot;
-    auto const & info = m_analysis->info;
-    workbench::DrawTimeAxis(dc, plot, static_cast<double>(info.frames) / info.sampleRate, *m_metrics, m_plotColours);
+    if (!m_printing)
+    {
+        DrawStrip(dc, plot);
+    }
+    workbench::DrawTimeAxis(dc, plot, Seconds(m_marks.window.Shown().first), Seconds(m_marks.window.Shown().end),
+                            *m_metrics, m_plotColours);
     for (int i = 0; i < lanes; ++i)
     {
         Lane lane;
@@ -145,7 +181,7 @@ CRect CWaveformView::PlotIn(CDC & dc, CRect const & client) const
     workbench::PlotMargins const margins(dc, *m_metrics);
     auto plot = client;
     plot.DeflateRect(m_metrics->X(margin_x), m_metrics->Y(margin_y));
-    plot.top += HeadingHeight();
+    plot.top += HeadingHeight() + (m_printing ? 0 : StripHeight());
     plot.left += margins.left;
     plot.right -= margins.right - (m_printing ? 0 : m_rightRoom);
     plot.bottom -= m_metrics->LineHeight() + m_metrics->Y(axis_gap);
@@ -234,15 +270,92 @@ CWaveformView::SurroundingColours CWaveformView::Surroundings() const
 void CWaveformView::DrawCursor(CDC & dc, CRect const & plot)
 {
     auto const width = plot.Width() - 2;
-    auto const x =
-        plot.left + 1 +
-        static_cast<int>(static_cast<double>(m_cursor) / static_cast<double>(m_analysis->info.frames) * width);
-    dc.FillSolidRect(x, plot.top, GetFocus() == this ? 2 : 1, plot.Height(), m_colours.cursor);
+    auto const draw = [&](std::uint64_t frame, int thickness) {
+        auto const x = m_marks.window.XOf(frame, width);
+        if (x >= 0 && x < width)
+        {
+            dc.FillSolidRect(plot.left + 1 + x, plot.top, thickness, plot.Height(), m_colours.cursor);
+        }
+    };
+    if (m_marks.HasSelection())
+    {
+        draw(*m_marks.other, 1);
+    }
+    draw(m_marks.cursor, GetFocus() == this ? 2 : 1);
+    if (m_playing)
+    {
+        auto const x = m_marks.window.XOf(*m_playing, width);
+        if (x >= 0 && x < width)
+        {
+            dc.FillSolidRect(plot.left + 1 + x, plot.top, 2, plot.Height(), workbench::ClippedColour(m_colours));
+        }
+    }
+}
+
+/// Shades what is selected.
+void CWaveformView::DrawSelection(CDC & dc, CRect const & inside)
+{
+    if (m_printing || !m_marks.HasSelection())
+    {
+        return;
+    }
+    auto const [first, end] = m_marks.Selection();
+    auto const left = std::clamp(m_marks.window.XOf(first, inside.Width()), 0, inside.Width());
+    auto const right = std::clamp(m_marks.window.XOf(end, inside.Width()), left, inside.Width());
+    dc.FillSolidRect(inside.left + left, inside.top, right - left, inside.Height(),
+                     workbench::MixedColour(Surroundings().ground, ::GetSysColor(COLOR_HIGHLIGHT), selection_strength));
+}
+
+int CWaveformView::StripHeight() const
+{
+    return ShowsRecording() && !m_marks.window.ShowsAll() ? m_metrics->Y(strip_height) + m_metrics->Y(strip_gap) : 0;
+}
+
+/// Draws the whole recording in a strip above the plot, and marks in it what the plot shows.
+void CWaveformView::DrawStrip(CDC & dc, CRect const & plot)
+{
+    m_strip.SetRectEmpty();
+    auto const height = StripHeight();
+    if (height == 0)
+    {
+        return;
+    }
+    m_strip = CRect(plot.left, plot.top - height, plot.right, plot.top - m_metrics->Y(strip_gap));
+    auto inside = m_strip;
+    inside.DeflateRect(1, 1);
+    dc.FillSolidRect(m_strip, Surroundings().ground);
+    workbench::TimeWindow const whole(m_marks.window.Frames());
+    auto const shown = m_marks.window.Shown();
+    auto const left = std::clamp(whole.XOf(shown.first, inside.Width()), 0, inside.Width() - 1);
+    auto const right = std::clamp(whole.XOf(shown.end, inside.Width()), left + 1, inside.Width());
+    dc.FillSolidRect(inside.left + left, inside.top, right - left, inside.Height(),
+                     workbench::MixedColour(Surroundings().ground, Surroundings().label, selection_strength));
+    auto const centre = (inside.top + inside.bottom) / 2;
+    auto const half = static_cast<float>(inside.Height() / 2);
+    auto const y = [&](float amplitude) {
+        return centre - static_cast<int>(std::lround(std::clamp(amplitude, -1.0F, 1.0F) * half));
+    };
+    std::vector<workbench::MinMax> all(static_cast<std::size_t>(inside.Width()));
+    for (std::size_t lane = 0; lane < m_analysis->waveform.Lanes(); ++lane)
+    {
+        auto const columns = m_analysis->waveform.Columns(lane, all.size());
+        for (std::size_t i = 0; i < all.size(); ++i)
+        {
+            all[i] = {std::min(all[i].least, columns[i].least), std::max(all[i].greatest, columns[i].greatest)};
+        }
+    }
+    for (std::size_t i = 0; i < all.size(); ++i)
+    {
+        auto const top = y(all[i].greatest);
+        dc.FillSolidRect(inside.left + static_cast<int>(i), top, 1, std::max<int>(y(all[i].least) - top, 0) + 1,
+                         Trace(0));
+    }
+    dc.Draw3dRect(m_strip, m_plotColours.frame, m_plotColours.frame);
 }
 
 std::optional<std::uint64_t> CWaveformView::Cursor() const
 {
-    return ShowsRecording() ? std::optional(m_cursor) : std::nullopt;
+    return ShowsRecording() ? std::optional(m_marks.cursor) : std::nullopt;
 }
 
 void CWaveformView::MoveCursor(std::uint64_t frame)
@@ -251,49 +364,184 @@ void CWaveformView::MoveCursor(std::uint64_t frame)
     {
         return;
     }
-    auto const cursor = std::min(frame, m_analysis->info.frames - 1);
-    if (cursor != m_cursor)
+    auto marks = m_marks;
+    marks.cursor = std::min(frame, m_analysis->info.frames - 1);
+    marks.other.reset();
+    marks.window.Reveal(marks.cursor);
+    ChangeMarks(marks);
+}
+
+void CWaveformView::SetMarks(workbench::TimeMarks const & marks)
+{
+    if (!ShowsRecording() || marks.window.Frames() != m_marks.window.Frames() || marks == m_marks)
     {
-        m_cursor = cursor;
-        Invalidate(FALSE);
-        if (m_onCursor)
-        {
-            m_onCursor();
-        }
+        return;
     }
+    auto const placed = marks.window.ShowsAll() != m_marks.window.ShowsAll();
+    auto const moved = marks.cursor != m_marks.cursor;
+    m_marks = marks;
+    Invalidate(FALSE);
+    if (placed)
+    {
+        Placed();
+    }
+    auto const onCursor = m_onCursor;
+    if (moved && onCursor)
+    {
+        onCursor();
+    }
+}
+
+/// What the user did.
+void CWaveformView::ChangeMarks(workbench::TimeMarks const & marks)
+{
+    if (marks == m_marks)
+    {
+        return;
+    }
+    auto const onMarks = m_onMarks;
+    SetMarks(marks);
+    if (onMarks)
+    {
+        onMarks();
+    }
+}
+
+void CWaveformView::ShowPlaying(std::optional<std::uint64_t> frame)
+{
+    if (frame == m_playing)
+    {
+        return;
+    }
+    auto const shown = m_marks.window.Shown();
+    auto const wasSeen = m_playing && shown.first <= *m_playing && *m_playing < shown.end;
+    m_playing = frame;
+    Invalidate(FALSE);
+    // Whoever has scrolled away meanwhile stays there.
+    if (frame && wasSeen && *frame >= shown.end)
+    {
+        auto marks = m_marks;
+        marks.window.Show({*frame, *frame + shown.Length()});
+        ChangeMarks(marks);
+    }
+}
+
+void CWaveformView::ZoomAt(double factor, std::uint64_t frame)
+{
+    auto marks = m_marks;
+    auto const shown = marks.window.Shown();
+    auto const offset = static_cast<double>(std::clamp(frame, shown.first, shown.end) - shown.first);
+    marks.window.Zoom(factor, shown.IsEmpty() ? 0.5 : offset / static_cast<double>(shown.Length()));
+    ChangeMarks(marks);
+}
+
+std::uint64_t CWaveformView::FrameAt(int x) const
+{
+    return m_marks.window.FrameAt(x - m_plot.left - 1, m_plot.Width() - 2);
 }
 
 /// Moves the cursor to what lies at a place of the client area.
 void CWaveformView::MoveCursorTo(int x)
 {
-    auto const width = m_plot.Width() - 2;
-    if (ShowsRecording() && width > 0)
+    if (ShowsRecording() && m_plot.Width() > 2)
     {
-        auto const part = std::clamp(static_cast<double>(x - m_plot.left - 1) / width, 0.0, 1.0);
-        MoveCursor(static_cast<std::uint64_t>(part * static_cast<double>(m_analysis->info.frames)));
+        MoveCursor(FrameAt(x));
     }
+}
+
+/// Brings what lies at a place of the strip into the middle.
+void CWaveformView::ScrollTo(int x)
+{
+    workbench::TimeWindow const whole(m_marks.window.Frames());
+    auto const middle = whole.FrameAt(x - m_strip.left - 1, m_strip.Width() - 2);
+    auto const length = m_marks.window.Shown().Length();
+    auto marks = m_marks;
+    auto const first = std::min(middle - std::min(middle, length / 2), whole.Frames() - length);
+    marks.window.Show({first, first + length});
+    ChangeMarks(marks);
 }
 
 void CWaveformView::OnLButtonDown(UINT flags, CPoint point)
 {
     CBufferedView::OnLButtonDown(flags, point);
     SetFocus();
+    if (!ShowsRecording() || m_plot.Width() <= 2)
+    {
+        return;
+    }
     SetCapture();
-    MoveCursorTo(point.x);
+    if (m_strip.PtInRect(point))
+    {
+        m_drag = Drag::scroll;
+        ScrollTo(point.x);
+        return;
+    }
+    m_drag = Drag::select;
+    if ((flags & MK_SHIFT) == 0)
+    {
+        MoveCursorTo(point.x);
+        return;
+    }
+    auto marks = m_marks;
+    marks.other = marks.other.value_or(marks.cursor);
+    marks.cursor = FrameAt(point.x);
+    ChangeMarks(marks);
+}
+
+/// What is selected fills the plot; without a selection, everything does.
+void CWaveformView::OnLButtonDblClk(UINT flags, CPoint point)
+{
+    CBufferedView::OnLButtonDblClk(flags, point);
+    auto marks = m_marks;
+    auto const frame = FrameAt(point.x);
+    auto const selection = marks.Selection();
+    if (ShowsRecording() && !m_strip.PtInRect(point))
+    {
+        if (selection.first <= frame && frame < selection.end)
+        {
+            marks.window.Show(selection);
+        }
+        else
+        {
+            marks.window.ShowAll();
+        }
+        ChangeMarks(marks);
+    }
 }
 
 void CWaveformView::OnMouseMove(UINT flags, CPoint point)
 {
     CBufferedView::OnMouseMove(flags, point);
-    if (GetCapture() == this)
+    if (GetCapture() != this || !ShowsRecording())
     {
-        MoveCursorTo(point.x);
+        return;
+    }
+    if (m_drag == Drag::scroll)
+    {
+        ScrollTo(point.x);
+    }
+    else if (m_drag == Drag::select && m_plot.Width() > 2)
+    {
+        // Beyond the edges the plot scrolls along.
+        auto marks = m_marks;
+        auto const overshoot = point.x < m_plot.left    ? point.x - m_plot.left
+                               : point.x > m_plot.right ? point.x - m_plot.right
+                                                        : 0;
+        marks.window.Scroll(static_cast<double>(overshoot) / m_plot.Width());
+        auto const frame = marks.window.FrameAt(point.x - m_plot.left - 1, m_plot.Width() - 2);
+        if (frame != marks.cursor)
+        {
+            marks.other = marks.other.value_or(marks.cursor);
+            marks.cursor = frame;
+        }
+        ChangeMarks(marks);
     }
 }
 
 void CWaveformView::OnLButtonUp(UINT flags, CPoint point)
 {
     CBufferedView::OnLButtonUp(flags, point);
+    m_drag = Drag::none;
     if (GetCapture() == this)
     {
         ::ReleaseCapture();
@@ -305,49 +553,128 @@ UINT CWaveformView::OnGetDlgCode()
     return DLGC_WANTARROWS;
 }
 
-void CWaveformView::OnKeyDown(UINT key, UINT repeat, UINT flags)
+/// Keys that zoom and scroll.
+bool CWaveformView::ScrollKey(UINT key)
 {
-    if (ShowsRecording() && m_plot.Width() > 2)
+    auto marks = m_marks;
+    switch (key)
     {
-        // A key moves by what one pixel shows, at least by one frame.
-        auto const last = m_analysis->info.frames - 1;
-        auto const step =
-            std::max<std::uint64_t>(m_analysis->info.frames / static_cast<unsigned>(m_plot.Width() - 2), 1);
-        switch (key)
+    case VK_ADD:
+    case VK_OEM_PLUS:
+        ZoomAt(1.0 / zoom_step, m_marks.cursor);
+        return true;
+    case VK_SUBTRACT:
+    case VK_OEM_MINUS:
+        ZoomAt(zoom_step, m_marks.cursor);
+        return true;
+    case VK_MULTIPLY:
+        marks.window.ShowAll();
+        break;
+    case VK_RETURN:
+        if (!marks.HasSelection())
         {
-        case VK_LEFT:
-            MoveCursor(m_cursor - std::min(m_cursor, step));
-            return;
-        case VK_RIGHT:
-            MoveCursor(m_cursor + std::min(last - m_cursor, step));
-            return;
-        case VK_UP:
-            SetAmplification(std::min(m_amplification + amplification_step, most_amplification));
-            return;
-        case VK_DOWN:
-            SetAmplification(m_amplification - amplification_step);
-            return;
-        case VK_HOME:
-            MoveCursor(0);
-            return;
-        case VK_END:
-            MoveCursor(last);
-            return;
-        default:
-            break;
+            return false;
         }
+        marks.window.Show(marks.Selection());
+        break;
+    case VK_ESCAPE:
+        if (!marks.HasSelection())
+        {
+            return false;
+        }
+        marks.other.reset();
+        break;
+    case VK_SPACE:
+        if (auto const onPlay = m_onPlay)
+        {
+            onPlay();
+        }
+        return true;
+    case VK_PRIOR:
+        marks.window.Scroll(-page_step);
+        break;
+    case VK_NEXT:
+        marks.window.Scroll(page_step);
+        break;
+    default:
+        return false;
     }
-    CBufferedView::OnKeyDown(key, repeat, flags);
+    ChangeMarks(marks);
+    return true;
 }
 
+void CWaveformView::OnKeyDown(UINT key, UINT repeat, UINT flags)
+{
+    if (!ShowsRecording() || m_plot.Width() <= 2)
+    {
+        CBufferedView::OnKeyDown(key, repeat, flags);
+        return;
+    }
+    auto const isDown = [](int other) { return ::GetKeyState(other) < 0; };
+    // A key moves by what one pixel shows, at least by one frame; with Ctrl by a tenth of the plot.
+    auto const last = m_analysis->info.frames - 1;
+    auto const shown = m_marks.window.Shown().Length();
+    auto const pixel = std::max<std::uint64_t>(shown / static_cast<unsigned>(m_plot.Width() - 2), 1);
+    auto const step = isDown(VK_CONTROL) ? std::max<std::uint64_t>(shown / 10, 1) : pixel;
+    auto cursor = m_marks.cursor;
+    switch (key)
+    {
+    case VK_LEFT:
+        cursor -= std::min(cursor, step);
+        break;
+    case VK_RIGHT:
+        cursor += std::min(last - cursor, step);
+        break;
+    case VK_HOME:
+        cursor = 0;
+        break;
+    case VK_END:
+        cursor = last;
+        break;
+    case VK_UP:
+        SetAmplification(std::min(m_amplification + amplification_step, most_amplification));
+        return;
+    case VK_DOWN:
+        SetAmplification(m_amplification - amplification_step);
+        return;
+    default:
+        if (!ScrollKey(key))
+        {
+            CBufferedView::OnKeyDown(key, repeat, flags);
+        }
+        return;
+    }
+    auto marks = m_marks;
+    marks.other = isDown(VK_SHIFT) ? std::optional(marks.other.value_or(marks.cursor)) : std::nullopt;
+    marks.cursor = cursor;
+    marks.window.Reveal(cursor);
+    ChangeMarks(marks);
+}
+
+/// The wheel zooms at the pointer; with Shift it scrolls, with Ctrl it amplifies.
 BOOL CWaveformView::OnMouseWheel(UINT flags, short delta, CPoint point)
 {
     if (!ShowsRecording())
     {
         return CBufferedView::OnMouseWheel(flags, delta, point);
     }
-    auto const step = delta > 0 ? amplification_step : -amplification_step;
-    SetAmplification(std::clamp(m_amplification + step, 0, most_amplification));
+    double const notches = static_cast<double>(delta) / WHEEL_DELTA;
+    if ((flags & MK_CONTROL) != 0)
+    {
+        auto const step = delta > 0 ? amplification_step : -amplification_step;
+        SetAmplification(std::clamp(m_amplification + step, 0, most_amplification));
+    }
+    else if ((flags & MK_SHIFT) != 0)
+    {
+        auto marks = m_marks;
+        marks.window.Scroll(-notches * scroll_step);
+        ChangeMarks(marks);
+    }
+    else
+    {
+        ScreenToClient(&point);
+        ZoomAt(std::pow(zoom_step, -notches), FrameAt(point.x));
+    }
     return TRUE;
 }
 
@@ -414,7 +741,7 @@ void CWaveformView::DrawHeading(CDC & dc, CRect const & area)
 std::wstring CWaveformView::Details() const
 {
     auto const & info = m_analysis->info;
-    auto const coding = info.coding == workbench::SampleCoding::Float ? Text(L"-bit float") : Text(L"-bit");
+    auto const coding = info.coding == workbench::SampleCoding::floating_point ? Text(L"-bit float") : Text(L"-bit");
     auto details = workbench::FormatSampleRate(info.sampleRate) + L"  \u00B7  " + std::to_wstring(info.bitsPerSample) +
                    coding + L"  \u00B7  " + workbench::FormatCount(info.channels, Text(L"channel"), Text(L"channels")) +
                    L"  \u00B7  " + workbench::FormatDuration(info.frames, info.sampleRate);
@@ -422,6 +749,14 @@ std::wstring CWaveformView::Details() const
     {
         details += std::wstring(L"  \u00B7  ") + Text(L"the first") + L' ' +
                    std::to_wstring(m_analysis->waveform.Lanes()) + L' ' + Text(L"are shown");
+    }
+    if (m_marks.HasSelection() && !m_printing)
+    {
+        auto const frames = m_marks.Selection().Length();
+        details += std::wstring(L"  \u00B7  ") + Text(L"selected") + L' ' +
+                   workbench::FormatDuration(frames, info.sampleRate) + L" (" +
+                   workbench::FormatFrequency(static_cast<double>(info.sampleRate) / static_cast<double>(frames)) +
+                   L" Hz)";
     }
     return details;
 }
@@ -441,13 +776,19 @@ std::wstring CWaveformView::LaneName(std::size_t index) const
 
 std::vector<workbench::MinMax> const & CWaveformView::Columns(std::size_t lane, int width)
 {
-    m_columns.resize(m_analysis->waveform.Lanes());
-    auto & columns = m_columns[lane];
-    if (columns.size() != static_cast<std::size_t>(width))
+    auto const range = m_marks.window.Shown();
+    if (m_columns.empty() || m_columns[lane].size() != static_cast<std::size_t>(width) || m_columnsRange != range)
     {
-        columns = m_analysis->waveform.Columns(lane, static_cast<std::size_t>(width));
+        m_columns = m_detail->Columns(range, static_cast<std::size_t>(width));
+        m_columnsRange = range;
     }
-    return columns;
+    return m_columns[lane];
+}
+
+/// The time of a frame.
+double CWaveformView::Seconds(std::uint64_t frame) const
+{
+    return static_cast<double>(frame) / m_analysis->info.sampleRate;
 }
 
 void CWaveformView::DrawLane(CDC & dc, Lane const & lane, std::size_t index)
@@ -457,8 +798,10 @@ void CWaveformView::DrawLane(CDC & dc, Lane const & lane, std::size_t index)
 
     CRect inside = lane.rect;
     inside.DeflateRect(1, 1);
-    auto const seconds = static_cast<double>(m_analysis->info.frames) / m_analysis->info.sampleRate;
-    for (auto const & tick : workbench::TimeTicks(seconds, inside.Width(), m_metrics->X(44)))
+    DrawSelection(dc, inside);
+    auto const shown = m_marks.window.Shown();
+    for (auto const & tick :
+         workbench::TimeTicks(Seconds(shown.first), Seconds(shown.end), inside.Width(), m_metrics->X(44)))
     {
         dc.FillSolidRect(inside.left + tick.position, inside.top, 1, inside.Height(), Surroundings().grid);
     }

@@ -3,6 +3,7 @@
 #include <afxwin.h>
 
 #include <cstdint>
+#include <filesystem>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -13,18 +14,23 @@
 #include "ScreenMetrics.h"
 #include "logic/ReadableColours.h"
 #include "logic/RecordingAnalysis.h"
+#include "logic/TimeMarks.h"
 #include "logic/WaveformColours.h"
+#include "logic/WaveformDetail.h"
 
 /// Shows one recording: a heading, a lane for each channel with its waveform on a level grid, and a time axis; or, in
-/// its middle, a text that says why there is nothing to see.
+/// its middle, a text that says why there is nothing to see. The wheel and the keys zoom and scroll; while a part is
+/// shown, a strip above the lanes shows where it lies in the whole. A click sets the cursor, dragging selects a
+/// stretch.
 class CWaveformView : public CBufferedView
 {
 public:
     /// Creates the view. The metrics are the caller's and must outlive the window.
     bool CreateView(CWnd & parent, UINT id, workbench::ScreenMetrics & metrics);
 
-    /// Shows a recording, or what is wrong with it.
-    void ShowRecording(std::wstring name, std::shared_ptr<workbench::RecordingAnalysis const> analysis);
+    /// Shows a recording, or what is wrong with it. Without its file, narrow stretches are as coarse as the overview.
+    void ShowRecording(std::wstring name, std::shared_ptr<workbench::RecordingAnalysis const> analysis,
+                       std::filesystem::path const & file = {});
 
     /// Shows a text in place of a recording: a title and a line below it, both may be empty.
     void ShowText(std::wstring title, std::wstring text);
@@ -35,6 +41,17 @@ public:
     std::optional<std::uint64_t> Cursor() const;
     /// Called when the cursor has moved, or there is another recording.
     std::function<void()> m_onCursor;
+
+    /// The part shown, the cursor and the selection.
+    workbench::TimeMarks const & Marks() const { return m_marks; }
+    /// Takes over what another plot shows; nothing if that is not of as many frames.
+    void SetMarks(workbench::TimeMarks const & marks);
+    /// Marks the frame that is heard, or none, and turns to the next part when it gets there.
+    void ShowPlaying(std::optional<std::uint64_t> frame);
+    /// Called with the space bar.
+    std::function<void()> m_onPlay;
+    /// Called when the user has changed the marks, or there is another recording.
+    std::function<void()> m_onMarks;
 
     void SetColours(workbench::WaveformColours const & colours);
 
@@ -68,6 +85,8 @@ private:
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
     afx_msg void OnMouseMove(UINT flags, CPoint point);
     afx_msg void OnLButtonUp(UINT flags, CPoint point);
+    afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
+    afx_msg LRESULT OnRefined(WPARAM, LPARAM);
     afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
     afx_msg BOOL OnMouseWheel(UINT flags, short delta, CPoint point);
     afx_msg void OnSize(UINT type, int width, int height);
@@ -84,7 +103,16 @@ private:
 
     void Draw(CDC & dc, CRect const & client) override;
     void DrawCursor(CDC & dc, CRect const & plot);
+    void DrawSelection(CDC & dc, CRect const & inside);
+    void DrawStrip(CDC & dc, CRect const & plot);
+    std::uint64_t FrameAt(int x) const;
     void MoveCursorTo(int x);
+    void ScrollTo(int x);
+    void ChangeMarks(workbench::TimeMarks const & marks);
+    void ResetMarks();
+    void ZoomAt(double factor, std::uint64_t frame);
+    bool ScrollKey(UINT key);
+    int StripHeight() const;
     void Placed();
     CRect PlotIn(CDC & dc, CRect const & client) const;
     int HeadingHeight() const;
@@ -106,15 +134,27 @@ private:
     void DrawLevelGrid(CDC & dc, Lane const & lane);
     std::wstring Details() const;
     std::wstring LaneName(std::size_t index) const;
+    double Seconds(std::uint64_t frame) const;
     std::vector<workbench::MinMax> const & Columns(std::size_t lane, int width);
 
     workbench::ScreenMetrics * m_metrics = nullptr;
     std::wstring m_title;
     std::wstring m_text;
     std::shared_ptr<workbench::RecordingAnalysis const> m_analysis;
-    std::vector<std::vector<workbench::MinMax>> m_columns; ///< of each lane, for the width drawn last
-    std::uint64_t m_cursor = 0;                            ///< a frame
-    CRect m_plot;                                          ///< where the lanes were drawn last
+    std::unique_ptr<workbench::WaveformDetail> m_detail;
+    std::vector<std::vector<workbench::MinMax>> m_columns; ///< of each lane, for the stretch and width drawn last
+    workbench::FrameRange m_columnsRange;
+    workbench::TimeMarks m_marks;
+    std::optional<std::uint64_t> m_playing; ///< the frame that is heard
+    CRect m_plot;                           ///< where the lanes were drawn last
+    CRect m_strip;                          ///< where the strip was drawn last; empty without one
+    enum class Drag
+    {
+        none,
+        select,
+        scroll
+    };
+    Drag m_drag = Drag::none;
     bool m_printing = false;
     workbench::PlotColours m_plotColours{};
     workbench::WaveformColours m_colours;

@@ -83,7 +83,7 @@ BOOL CWorkbenchApp::InitInstance()
     m_mainWindow->ShowWindow(m_nCmdShow);
     m_mainWindow->UpdateWindow();
     m_mainWindow->ShowTargets(std::move(targets));
-    if (m_commandLine.mode != workbench::RunMode::Interactive)
+    if (m_commandLine.mode != workbench::RunMode::interactive)
     {
         PostThreadMessage(message_start_walk, 0, 0);
     }
@@ -93,7 +93,7 @@ BOOL CWorkbenchApp::InitInstance()
 void CWorkbenchApp::OnStartWalk(WPARAM, LPARAM)
 {
     CWalk walk(*m_mainWindow, m_commandLine.walkFolder);
-    auto const restarted = m_commandLine.mode == workbench::RunMode::WalkRestart;
+    auto const restarted = m_commandLine.mode == workbench::RunMode::walk_restart;
     if (!(restarted ? walk.RunAfterRestart() : walk.Run()))
     {
         m_exitCode = 1;

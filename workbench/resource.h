@@ -18,6 +18,7 @@
 #define IDD_SETTINGS_WAVEFORM 112
 #define IDD_SETTINGS_LIST 113
 #define IDD_SETTINGS_DIALOGS 114
+#define IDD_SETTINGS_SPECTROGRAM 115
 
 #ifndef IDC_STATIC
 #define IDC_STATIC -1
@@ -56,6 +57,9 @@
 #define IDC_COLUMNS 1116
 #define IDC_COLOUR_FIRST 1121 // trace, background, grid, cursor
 #define IDC_COLOUR_LAST 1124
+#define IDC_SPECTROGRAM_WINDOW 1131
+#define IDC_SPECTROGRAM_OVERLAP 1132
+#define IDC_FREQUENCY_SCALE 1133
 
 // The details: a label and a text for each line.
 #define IDC_DETAIL_LABEL_FIRST 1201
@@ -105,6 +109,14 @@
 #define ID_SHOW_IN_FRAME 40029
 #define ID_COMPARE_FOUR 40030
 #define ID_RESET_LAYOUT 40031
+#define ID_PLAY 40041
+#define ID_STOP_PLAYING 40042
+#define ID_LOOP_PLAYING 40043
+#define ID_COPY_WAVEFORM 40044
+#define ID_SAVE_WAVEFORM 40045
+#define ID_SAVE_SPECTROGRAM 40046
+#define ID_NEXT_PART 40032
+#define ID_PREVIOUS_PART 40033
 
 // The items of open dialogs in the window menu.
 #define ID_DIALOG_FIRST 41000

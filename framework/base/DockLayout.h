@@ -63,6 +63,7 @@ struct DockNode
     // Worked out anew by each arrangement
     bool shown = false;
     bool hasCentre = false;
+    bool stretched = false; // it has the room of a centre that doesn't show, whatever it wants
     CSize least{0, 0};
     CSize arranged{0, 0};
 };
@@ -72,6 +73,7 @@ struct DockMetrics
     int divider = 4;      // between parts
     int tabs = 20;        // what tabs add to the height of a place
     CSize centre{40, 40}; // the least size of the centre
+    bool centreShown = true; // if not, what is next to the centre has its room
 };
 
 /// Where everything goes in a rectangle.

@@ -86,13 +86,13 @@ bool Prune(DockNode & node, std::vector<UINT> const & panes)
     return !node.children.empty();
 }
 
-/// The sizes that the parts have become their wanted ones.
+/// The sizes that the parts have become their wanted ones, but for what has a size that it doesn't want.
 void TakeArranged(DockNode & split)
 {
     for (DockNode & child : split.children)
     {
         int const length = Along(child.arranged, split.across);
-        if (child.shown && length > 0)
+        if (child.shown && length > 0 && !child.stretched)
             child.extent = length;
     }
 }
@@ -550,8 +550,10 @@ bool DockLayout::InsertBeside(DockNode & place, UINT beside, DockSide side, Dock
             node.extent = extent;
         else
         {
-            node.extent = std::max(1, child.extent / 2);
-            child.extent = std::max(1, child.extent - node.extent);
+            int const length = child.stretched ? Along(child.arranged, place.across) : child.extent;
+            node.extent = std::max(1, length / 2);
+            if (!child.stretched)
+                child.extent = std::max(1, child.extent - node.extent);
         }
         auto const where = place.children.begin() + static_cast<std::ptrdiff_t>(before ? at : at + 1);
         place.children.insert(where, std::move(node));
@@ -781,11 +783,15 @@ void DockLayout::Measure(DockNode & node, bool floating)
     node.least = CSize(0, 0);
     node.shown = false;
     node.hasCentre = false;
+    node.stretched = false;
     if (node.kind == DockNode::Kind::Centre)
     {
-        node.shown = true;
+        node.shown = metrics.centreShown;
         node.hasCentre = true;
-        node.least = metrics.centre;
+        if (node.shown)
+            node.least = metrics.centre;
+        else
+            node.arranged = CSize(0, 0);
         return;
     }
     int shown = 0;
@@ -844,14 +850,14 @@ void DockLayout::Place(DockNode & node, CRect const & rect, DockPlan & plan, boo
     std::vector<size_t> shown;
     std::vector<int> wanted;
     std::vector<int> least;
-    int stretching = -1;
+    int stretching = -1; // where the centre is, or the part before it, or else behind it
     for (size_t at = 0; at < node.children.size(); ++at)
     {
         DockNode const & child = node.children[at];
+        if (child.hasCentre)
+            stretching = std::max(0, static_cast<int>(shown.size()) - (child.shown ? 0 : 1));
         if (!child.shown)
             continue;
-        if (child.hasCentre)
-            stretching = static_cast<int>(shown.size());
         shown.push_back(at);
         wanted.push_back(child.extent);
         least.push_back(Along(child.least, node.across));
@@ -869,7 +875,9 @@ void DockLayout::Place(DockNode & node, CRect const & rect, DockPlan & plan, boo
         CRect part(rect);
         (node.across ? part.left : part.top) = place;
         (node.across ? part.right : part.bottom) = next;
-        Place(node.children[shown[at]], part, plan, floating);
+        DockNode & child = node.children[shown[at]];
+        child.stretched = static_cast<int>(at) == stretching && !metrics.centreShown;
+        Place(child, part, plan, floating);
         if (last)
             break;
         CRect between(rect);
@@ -917,8 +925,10 @@ int DockLayout::MoveDivider(UINT frame, CRect const & rect, UINT split, int inde
     if (offset == 0)
         return 0;
     TakeArranged(*node);
-    before.extent += offset;
-    after->extent -= offset;
+    if (!before.stretched)
+        before.extent += offset;
+    if (!after->stretched)
+        after->extent -= offset;
     Arrange(frame, rect);
     return offset;
 }

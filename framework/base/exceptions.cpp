@@ -129,10 +129,10 @@ BOOL CException::GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnHelpC
 
 int CException::ReportError(UINT nType, [[maybe_unused]] UINT nMessageID)
 {
-    constexpr UINT MaxMessage = 512;
-    TCHAR message[MaxMessage] = {};
+    constexpr UINT max_message = 512;
+    TCHAR message[max_message] = {};
     UINT help = 0;
-    BOOL const known = GetErrorMessage(message, MaxMessage, &help);
+    BOOL const known = GetErrorMessage(message, max_message, &help);
 #if defined(_WIN32)
     if (!known && nMessageID != 0)
         return AfxMessageBox(nMessageID, nType, help);

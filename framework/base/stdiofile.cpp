@@ -181,17 +181,17 @@ LPTSTR CStdioFile::ReadString(LPTSTR lpsz, UINT nMax)
 
 BOOL CStdioFile::ReadString(CString & rString)
 {
-    constexpr UINT Room = 256;
+    constexpr UINT room = 256;
     rString.Empty();
-    TCHAR part[Room];
+    TCHAR part[room];
     bool found = false;
-    while (ReadString(part, Room) != nullptr)
+    while (ReadString(part, room) != nullptr)
     {
         found = true;
         size_t length = _tcslen(part);
         bool const ends = length > 0 && part[length - 1] == _T('\n');
         rString.Append(part, static_cast<int>(ends ? length - 1 : length));
-        if (ends || length + 1 < Room)
+        if (ends || length + 1 < room)
             break;
     }
     return found;

@@ -10,7 +10,7 @@
 #if !defined(_WIN32)
 namespace
 {
-constexpr char32_t Replacement = 0xFFFD;
+constexpr char32_t replacement = 0xFFFD;
 
 bool IsContinuation(char ch)
 {
@@ -25,17 +25,17 @@ char32_t DecodeUtf8(char const * text, int length, int & index)
         return lead;
     int const count = lead >= 0xF0 && lead < 0xF5 ? 3 : lead >= 0xE0 ? 2 : 1;
     if (lead < 0xC2 || lead >= 0xF5 || count > length - index)
-        return Replacement;
+        return replacement;
     char32_t value = lead & (0x3FU >> count);
     for (int i = 0; i < count; ++i)
     {
         if (!IsContinuation(text[index + i]))
-            return Replacement;
+            return replacement;
         value = (value << 6) | (static_cast<unsigned char>(text[index + i]) & 0x3FU);
     }
-    constexpr char32_t Least[] = {0x80, 0x800, 0x10000};
-    if (value < Least[count - 1] || value > 0x10FFFF || (value >= 0xD800 && value < 0xE000))
-        return Replacement;
+    constexpr char32_t least[] = {0x80, 0x800, 0x10000};
+    if (value < least[count - 1] || value > 0x10FFFF || (value >= 0xD800 && value < 0xE000))
+        return replacement;
     index += count;
     return value;
 }
@@ -43,7 +43,7 @@ char32_t DecodeUtf8(char const * text, int length, int & index)
 void EncodeUtf8(std::string & target, char32_t value)
 {
     if (value > 0x10FFFF || (value >= 0xD800 && value < 0xE000))
-        value = Replacement;
+        value = replacement;
     if (value < 0x80)
     {
         target += static_cast<char>(value);

@@ -85,7 +85,7 @@ public:
 
 private:
     using Text = std::basic_string<Char>;
-    static constexpr bool IsWide = std::is_same_v<Char, wchar_t>;
+    static constexpr bool is_wide = std::is_same_v<Char, wchar_t>;
 
     bool Skip(char wanted)
     {
@@ -104,10 +104,10 @@ private:
     }
     int Number()
     {
-        constexpr int Limit = 100'000'000;
+        constexpr int limit = 100'000'000;
         int value = 0;
         for (; *m_at >= '0' && *m_at <= '9'; ++m_at)
-            value = value < Limit ? value * 10 + static_cast<int>(*m_at - '0') : value;
+            value = value < limit ? value * 10 + static_cast<int>(*m_at - '0') : value;
         return value;
     }
     void ReadFlags(Directive & directive)
@@ -221,7 +221,7 @@ private:
             return true;
         if (directive.size == Size::Short)
             return false;
-        return IsWide != other;
+        return is_wide != other;
     }
     static bool Is64(Directive const & directive)
     {
@@ -278,7 +278,7 @@ private:
     }
     void PutCharacter(Directive const & directive, bool wide, int code)
     {
-        if (wide == IsWide)
+        if (wide == is_wide)
         {
             PutPadded(directive, Text(1, static_cast<Char>(code)));
             return;
@@ -324,7 +324,7 @@ private:
     {
         if constexpr (std::is_same_v<Char, Other>)
             return Text(text, static_cast<size_t>(length));
-        else if constexpr (IsWide)
+        else if constexpr (is_wide)
             return framework::ToWide(text, length);
         else
             return framework::ToNarrow(text, length);

@@ -26,8 +26,8 @@ public:
 private:
     ATL::CStringData * Resize(ATL::CStringData * old, int length, int charSize) noexcept
     {
-        constexpr size_t Step = 8;
-        size_t const characters = (static_cast<size_t>(length) + 1 + Step - 1) / Step * Step;
+        constexpr size_t step = 8;
+        size_t const characters = (static_cast<size_t>(length) + 1 + step - 1) / step * step;
         void * const memory = std::realloc(old, sizeof(ATL::CStringData) + characters * static_cast<size_t>(charSize));
         if (memory == nullptr)
             return nullptr;

@@ -29,8 +29,8 @@ namespace
 // The characters of a string in a module's string table, which are not terminated. Empty when there is none.
 std::wstring_view FindString(HINSTANCE module, UINT id, WORD const * language)
 {
-    constexpr UINT StringsPerBlock = 16;
-    LPWSTR const block = MAKEINTRESOURCEW(id / StringsPerBlock + 1);
+    constexpr UINT strings_per_block = 16;
+    LPWSTR const block = MAKEINTRESOURCEW(id / strings_per_block + 1);
     HRSRC const resource = language != nullptr ? ::FindResourceExW(module, RT_STRING, block, *language)
                                                : ::FindResourceW(module, block, RT_STRING);
     if (resource == nullptr)
@@ -40,7 +40,7 @@ std::wstring_view FindString(HINSTANCE module, UINT id, WORD const * language)
     if (at == nullptr)
         return {};
     WORD const * const end = at + ::SizeofResource(module, resource) / sizeof(WORD);
-    for (UINT skip = id % StringsPerBlock; skip > 0 && at < end; --skip)
+    for (UINT skip = id % strings_per_block; skip > 0 && at < end; --skip)
         at += *at + 1;
     if (at >= end || end - at <= *at)
         return {};

@@ -10,15 +10,15 @@
 namespace
 {
 // 3000-12-31 23:59:59, the last moment that has a date.
-constexpr __time64_t LastTime = 32535215999;
+constexpr __time64_t last_time = 32535215999;
 // 1601-01-01 and 1900-01-01, seen from 1970, in seconds.
-constexpr long long FileTimeEpoch = -11644473600LL;
-constexpr long long Year1900 = -2208988800LL;
-constexpr unsigned long long FileTimeUnitsPerSecond = 10'000'000;
+constexpr long long file_time_epoch = -11644473600LL;
+constexpr long long year_1900 = -2208988800LL;
+constexpr unsigned long long file_time_units_per_second = 10'000'000;
 
 bool HasDate(__time64_t time)
 {
-    return time >= 0 && time <= LastTime;
+    return time >= 0 && time <= last_time;
 }
 
 bool ToLocal(__time64_t time, std::tm & parts)
@@ -286,8 +286,8 @@ CTime::CTime(SYSTEMTIME const & st, int nDST)
 CTime::CTime(FILETIME const & ft, int) : m_time(0)
 {
     unsigned long long const units = (static_cast<unsigned long long>(ft.dwHighDateTime) << 32) | ft.dwLowDateTime;
-    long long const seconds = static_cast<long long>(units / FileTimeUnitsPerSecond) + FileTimeEpoch;
-    if (seconds < Year1900)
+    long long const seconds = static_cast<long long>(units / file_time_units_per_second) + file_time_epoch;
+    if (seconds < year_1900)
         return;
     if (!HasDate(seconds))
         AfxThrowInvalidArgException();

@@ -77,12 +77,15 @@ public:
     void UndockPane(BOOL bDelay = FALSE) override;
 
 protected:
+    afx_msg void OnContextMenu(CWnd * pWnd, CPoint point);
     afx_msg void OnDestroy();
     afx_msg void OnNcCalcSize(BOOL bCalcValidRects, NCCALCSIZE_PARAMS * lpncsp);
     afx_msg LRESULT OnNcHitTest(CPoint point);
     afx_msg void OnNcLButtonDblClk(UINT nHitTest, CPoint point);
     afx_msg void OnNcLButtonDown(UINT nHitTest, CPoint point);
     afx_msg void OnNcPaint();
+    afx_msg void OnNcRButtonDown(UINT nHitTest, CPoint point);
+    afx_msg void OnNcRButtonUp(UINT nHitTest, CPoint point);
 
 private:
     friend class CBaseTabbedPane;

@@ -35,7 +35,9 @@ protected:
     void PostNcDestroy() override;
     BOOL OnCmdMsg(UINT nID, int nCode, void * pExtra, AFX_CMDHANDLERINFO * pHandlerInfo) override;
 
+    afx_msg void OnActivate(UINT nState, CWnd * pWndOther, BOOL bMinimized);
     afx_msg void OnClose();
+    afx_msg void OnContextMenu(CWnd * pWnd, CPoint point);
     afx_msg void OnDestroy();
     afx_msg BOOL OnEraseBkgnd(CDC * pDC);
     afx_msg void OnGetMinMaxInfo(MINMAXINFO * lpMMI);

@@ -518,6 +518,9 @@ void CPane::GetMinSize(CSize & size) const
 void CPane::SetMinSize(const CSize & size)
 {
     m_minSize = size;
+    auto * const pane = DYNAMIC_DOWNCAST(CDockablePane, this);
+    if (framework::DockHost * const host = pane != nullptr ? framework::PaneAccess::Host(*pane) : nullptr)
+        host->LeastSizeChanged(*pane);
 }
 
 void CPane::GetPaneName(CString & strName) const
@@ -532,9 +535,10 @@ BOOL CPane::AllowShowOnPaneMenu() const
 
 void CPane::OnPressCloseButton() {}
 
-BOOL CPane::OnShowControlBarMenu(CPoint)
+BOOL CPane::OnShowControlBarMenu(CPoint point)
 {
-    return FALSE;
+    auto * const pane = DYNAMIC_DOWNCAST(CDockablePane, this);
+    return pane != nullptr && framework::ShowPaneMenu(*pane, point);
 }
 
 void CPane::ToggleAutoHide() {}

@@ -14,13 +14,6 @@ struct CmdTargetAccess
 
 namespace
 {
-template <class Result, class... Parameters, class... Arguments>
-Result Call(CCmdTarget * target, AFX_PMSG handler, Arguments... arguments)
-{
-    using Member = Result (CCmdTarget::*)(Parameters...);
-    return (target->*std::bit_cast<Member>(handler))(arguments...);
-}
-
 BOOL DispatchCommand(CCmdTarget * target, const AFX_MSGMAP_ENTRY & entry, UINT id, void * extra,
                      AFX_CMDHANDLERINFO * info)
 {
@@ -30,38 +23,9 @@ BOOL DispatchCommand(CCmdTarget * target, const AFX_MSGMAP_ENTRY & entry, UINT i
         info->pmf = entry.pfn;
         return TRUE;
     }
-    auto * const notification = static_cast<AFX_NOTIFY *>(extra);
-    auto * const ui = static_cast<CCmdUI *>(extra);
-    switch (entry.nSig)
-    {
-    case AfxSigCmd_v:
-        Call<void>(target, entry.pfn);
-        return TRUE;
-    case AfxSigCmd_b:
-        return Call<BOOL>(target, entry.pfn);
-    case AfxSigCmd_RANGE:
-        Call<void, UINT>(target, entry.pfn, id);
-        return TRUE;
-    case AfxSigCmd_EX:
-        return Call<BOOL, UINT>(target, entry.pfn, id);
-    case AfxSigNotify_v:
-        Call<void, NMHDR *, LRESULT *>(target, entry.pfn, notification->pNMHDR, notification->pResult);
-        return TRUE;
-    case AfxSigNotify_b:
-        return Call<BOOL, NMHDR *, LRESULT *>(target, entry.pfn, notification->pNMHDR, notification->pResult);
-    case AfxSigNotify_RANGE:
-        Call<void, UINT, NMHDR *, LRESULT *>(target, entry.pfn, id, notification->pNMHDR, notification->pResult);
-        return TRUE;
-    case AfxSigNotify_EX:
-        return Call<BOOL, UINT, NMHDR *, LRESULT *>(target, entry.pfn, id, notification->pNMHDR, notification->pResult);
-    case AfxSigCmdUI:
-    case AfxSigCmdUI_REFLECT:
-        Call<void, CCmdUI *>(target, entry.pfn, ui);
-        return !CmdUiAccess::TakeContinueRouting(*ui);
-    default:
-        ASSERT(FALSE); // a window message's signature in a command's entry
-        return FALSE;
-    }
+    auto const call = DecodingOf(entry).command;
+    ASSERT(call != nullptr); // a window message's entry
+    return call != nullptr ? call(*target, entry.pfn, id, extra) : FALSE;
 }
 } // namespace
 

@@ -13,9 +13,9 @@ END_MESSAGE_MAP()
 
 namespace
 {
-constexpr int StateImageShift = 12;
-constexpr UINT UncheckedImage = 1;
-constexpr UINT CheckedImage = 2;
+constexpr int state_image_shift = 12;
+constexpr UINT unchecked_image = 1;
+constexpr UINT checked_image = 2;
 } // namespace
 
 // CHeaderCtrl
@@ -154,13 +154,13 @@ BOOL CListCtrl::SetItem(int nItem, int nSubItem, UINT nMask, LPCTSTR lpszItem, i
 
 BOOL CListCtrl::GetCheck(int nItem) const
 {
-    UINT const image = GetItemState(nItem, LVIS_STATEIMAGEMASK) >> StateImageShift;
-    return image >= CheckedImage ? static_cast<BOOL>(image - UncheckedImage) : FALSE;
+    UINT const image = GetItemState(nItem, LVIS_STATEIMAGEMASK) >> state_image_shift;
+    return image >= checked_image ? static_cast<BOOL>(image - unchecked_image) : FALSE;
 }
 
 BOOL CListCtrl::SetCheck(int nItem, BOOL fCheck)
 {
-    return SetItemState(nItem, INDEXTOSTATEIMAGEMASK(fCheck ? CheckedImage : UncheckedImage), LVIS_STATEIMAGEMASK);
+    return SetItemState(nItem, INDEXTOSTATEIMAGEMASK(fCheck ? checked_image : unchecked_image), LVIS_STATEIMAGEMASK);
 }
 
 BOOL CListCtrl::SetItemState(int nItem, UINT nState, UINT nMask)

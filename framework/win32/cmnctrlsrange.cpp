@@ -121,7 +121,7 @@ void CSpinButtonCtrl::GetRange(int & lower, int & upper) const
 namespace
 {
 // The text that TTM_GETTEXT and TTM_GETTOOLINFO can give.
-constexpr size_t TipTextRoom = 32768;
+constexpr size_t tip_text_room = 32768;
 
 // A tool for the messages: a window as a whole, or for an id a rectangle of the window.
 TOOLINFO ToolOf(CWnd const * window, UINT_PTR id)
@@ -147,8 +147,8 @@ TOOLINFO ToolOf(CWnd const * window, UINT_PTR id)
 // A text that the control loads itself, from the string table of the module that has it.
 void SetTextId(TOOLINFO & tool, UINT textId)
 {
-    constexpr UINT StringsInBlock = 16;
-    tool.hinst = AfxFindResourceHandle(MAKEINTRESOURCE(textId / StringsInBlock + 1), RT_STRING);
+    constexpr UINT strings_in_block = 16;
+    tool.hinst = AfxFindResourceHandle(MAKEINTRESOURCE(textId / strings_in_block + 1), RT_STRING);
     tool.lpszText = MAKEINTRESOURCE(textId);
 }
 } // namespace
@@ -205,7 +205,7 @@ void CToolTipCtrl::DelTool(CWnd * pWnd, UINT_PTR nIDTool)
 
 void CToolTipCtrl::GetText(CString & str, CWnd * pWnd, UINT_PTR nIDTool) const
 {
-    std::vector<TCHAR> text(TipTextRoom);
+    std::vector<TCHAR> text(tip_text_room);
     TOOLINFO tool = ToolOf(pWnd, nIDTool);
     tool.lpszText = text.data();
     framework::Send(m_hWnd, TTM_GETTEXT, text.size(), &tool);
@@ -215,7 +215,7 @@ void CToolTipCtrl::GetText(CString & str, CWnd * pWnd, UINT_PTR nIDTool) const
 BOOL CToolTipCtrl::GetToolInfo(CToolInfo & ToolInfo, CWnd * pWnd, UINT_PTR nIDTool) const
 {
     // The message knows no limit for the text.
-    std::vector<TCHAR> text(TipTextRoom);
+    std::vector<TCHAR> text(tip_text_room);
     TOOLINFO tool = ToolOf(pWnd, nIDTool);
     tool.lpszText = text.data();
     BOOL const found = framework::Send<BOOL>(m_hWnd, TTM_GETTOOLINFO, 0, &tool);

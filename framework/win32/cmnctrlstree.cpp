@@ -12,9 +12,9 @@ END_MESSAGE_MAP()
 
 namespace
 {
-constexpr int StateImageShift = 12;
-constexpr UINT UncheckedImage = 1;
-constexpr UINT CheckedImage = 2;
+constexpr int state_image_shift = 12;
+constexpr UINT unchecked_image = 1;
+constexpr UINT checked_image = 2;
 
 TVITEMEX ItemOf(HTREEITEM item, UINT mask)
 {
@@ -173,12 +173,12 @@ BOOL CTreeCtrl::SetItemData(HTREEITEM hItem, DWORD_PTR dwData)
 
 BOOL CTreeCtrl::GetCheck(HTREEITEM hItem) const
 {
-    return GetItemState(hItem, TVIS_STATEIMAGEMASK) >> StateImageShift >= CheckedImage;
+    return GetItemState(hItem, TVIS_STATEIMAGEMASK) >> state_image_shift >= checked_image;
 }
 
 BOOL CTreeCtrl::SetCheck(HTREEITEM hItem, BOOL fCheck)
 {
-    return SetItemState(hItem, INDEXTOSTATEIMAGEMASK(fCheck ? CheckedImage : UncheckedImage), TVIS_STATEIMAGEMASK);
+    return SetItemState(hItem, INDEXTOSTATEIMAGEMASK(fCheck ? checked_image : unchecked_image), TVIS_STATEIMAGEMASK);
 }
 
 BOOL CTreeCtrl::GetItemRect(HTREEITEM hItem, LPRECT lpRect, BOOL bTextOnly) const

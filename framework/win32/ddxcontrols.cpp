@@ -20,20 +20,20 @@ struct ListMessages
     UINT findExact;
 };
 
-constexpr ListMessages ListBox = {LB_GETCURSEL, LB_SETCURSEL,    LB_GETTEXTLEN,
-                                  LB_GETTEXT,   LB_SELECTSTRING, LB_FINDSTRINGEXACT};
-constexpr ListMessages ComboBox = {CB_GETCURSEL, CB_SETCURSEL,    CB_GETLBTEXTLEN,
-                                   CB_GETLBTEXT, CB_SELECTSTRING, CB_FINDSTRINGEXACT};
-constexpr LRESULT NotFound = -1; // LB_ERR, CB_ERR
-constexpr WPARAM FromStart = static_cast<WPARAM>(-1);
+constexpr ListMessages list_box = {LB_GETCURSEL, LB_SETCURSEL,    LB_GETTEXTLEN,
+                                   LB_GETTEXT,   LB_SELECTSTRING, LB_FINDSTRINGEXACT};
+constexpr ListMessages combo_box = {CB_GETCURSEL, CB_SETCURSEL,    CB_GETLBTEXTLEN,
+                                    CB_GETLBTEXT, CB_SELECTSTRING, CB_FINDSTRINGEXACT};
+constexpr LRESULT not_found = -1; // LB_ERR, CB_ERR
+constexpr WPARAM from_start = static_cast<WPARAM>(-1);
 
 CString SelectedText(HWND control, ListMessages const & messages)
 {
     LRESULT const index = ::SendMessage(control, messages.getSelection, 0, 0);
-    if (index == NotFound)
+    if (index == not_found)
         return CString();
     LRESULT const length = ::SendMessage(control, messages.getTextLength, static_cast<WPARAM>(index), 0);
-    if (length == NotFound)
+    if (length == not_found)
         return CString();
     std::vector<TCHAR> text(static_cast<size_t>(length) + 1);
     ::SendMessage(control, messages.getText, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(text.data()));
@@ -43,16 +43,16 @@ CString SelectedText(HWND control, ListMessages const & messages)
 /// Selects the first item that starts with the text; false if there is none.
 bool SelectStart(HWND control, ListMessages const & messages, CString const & text)
 {
-    return ::SendMessage(control, messages.selectString, FromStart, reinterpret_cast<LPARAM>(text.GetString())) !=
-           NotFound;
+    return ::SendMessage(control, messages.selectString, from_start, reinterpret_cast<LPARAM>(text.GetString())) !=
+           not_found;
 }
 
 /// Selects the first item with this text (without regard to case); false if there is none.
 bool SelectExact(HWND control, ListMessages const & messages, CString const & text)
 {
     LRESULT const index =
-        ::SendMessage(control, messages.findExact, FromStart, reinterpret_cast<LPARAM>(text.GetString()));
-    if (index == NotFound)
+        ::SendMessage(control, messages.findExact, from_start, reinterpret_cast<LPARAM>(text.GetString()));
+    if (index == not_found)
         return false;
     ::SendMessage(control, messages.setSelection, static_cast<WPARAM>(index), 0);
     return true;
@@ -119,8 +119,8 @@ void AFXAPI DDX_LBString(CDataExchange * pDX, int nIDC, CString & value)
 {
     HWND const control = pDX->PrepareCtrl(nIDC);
     if (pDX->m_bSaveAndValidate)
-        value = framework::SelectedText(control, framework::ListBox);
-    else if (!framework::SelectStart(control, framework::ListBox, value))
+        value = framework::SelectedText(control, framework::list_box);
+    else if (!framework::SelectStart(control, framework::list_box, value))
         TRACE("DDX_LBString: no item starts with the text\n");
 }
 
@@ -128,14 +128,14 @@ void AFXAPI DDX_LBStringExact(CDataExchange * pDX, int nIDC, CString & value)
 {
     HWND const control = pDX->PrepareCtrl(nIDC);
     if (pDX->m_bSaveAndValidate)
-        value = framework::SelectedText(control, framework::ListBox);
-    else if (!framework::SelectExact(control, framework::ListBox, value))
+        value = framework::SelectedText(control, framework::list_box);
+    else if (!framework::SelectExact(control, framework::list_box, value))
         TRACE("DDX_LBStringExact: no item has the text\n");
 }
 
 void AFXAPI DDX_LBIndex(CDataExchange * pDX, int nIDC, int & index)
 {
-    framework::ExchangeIndex(pDX, nIDC, framework::ListBox, index);
+    framework::ExchangeIndex(pDX, nIDC, framework::list_box, index);
 }
 
 void AFXAPI DDX_CBString(CDataExchange * pDX, int nIDC, CString & value)
@@ -143,7 +143,7 @@ void AFXAPI DDX_CBString(CDataExchange * pDX, int nIDC, CString & value)
     HWND const control = pDX->PrepareCtrl(nIDC);
     if (pDX->m_bSaveAndValidate)
         value = framework::TextOf(control);
-    else if (!framework::SelectStart(control, framework::ComboBox, value))
+    else if (!framework::SelectStart(control, framework::combo_box, value))
         framework::SetTextOf(control, value); // the edit field takes any text
 }
 
@@ -152,13 +152,13 @@ void AFXAPI DDX_CBStringExact(CDataExchange * pDX, int nIDC, CString & value)
     HWND const control = pDX->PrepareCtrl(nIDC);
     if (pDX->m_bSaveAndValidate)
         value = framework::TextOf(control);
-    else if (!framework::SelectExact(control, framework::ComboBox, value))
+    else if (!framework::SelectExact(control, framework::combo_box, value))
         framework::SetTextOf(control, value);
 }
 
 void AFXAPI DDX_CBIndex(CDataExchange * pDX, int nIDC, int & index)
 {
-    framework::ExchangeIndex(pDX, nIDC, framework::ComboBox, index);
+    framework::ExchangeIndex(pDX, nIDC, framework::combo_box, index);
 }
 
 void AFXAPI DDX_Scroll(CDataExchange * pDX, int nIDC, int & value)

@@ -30,12 +30,12 @@ struct ExtendedTemplate
 };
 #pragma pack(pop)
 
-constexpr WORD ExtendedSignature = 0xFFFF;
+constexpr WORD extended_signature = 0xFFFF;
 
 TemplateHead HeadOf(LPCDLGTEMPLATE dialogTemplate)
 {
     auto const & extended = *reinterpret_cast<ExtendedTemplate const *>(dialogTemplate);
-    if (extended.signature == ExtendedSignature)
+    if (extended.signature == extended_signature)
         return {extended.style, extended.x, extended.y};
     return {dialogTemplate->style, dialogTemplate->x, dialogTemplate->y};
 }
@@ -151,10 +151,10 @@ bool DialogAccess::RouteBeyond(CWnd & dialog, UINT nID, int nCode, void * pExtra
 {
     // Commands and their updates go on to the window that owns the dialog and to the thread; notifications of the
     // dialog's own controls, whose identifiers are below the range of commands, stay here.
-    constexpr UINT FirstCommand = 0x8000;
-    constexpr UINT FirstSystemCommand = 0xF000;
+    constexpr UINT first_command = 0x8000;
+    constexpr UINT first_system_command = 0xF000;
     bool const command = nCode == CN_COMMAND || static_cast<UINT>(nCode) == CN_UPDATE_COMMAND_UI;
-    if (!command || nID < FirstCommand || nID >= FirstSystemCommand)
+    if (!command || nID < first_command || nID >= first_system_command)
         return false;
     CWnd * const owner = dialog.GetParent();
     if (owner != nullptr && owner->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo))
@@ -411,8 +411,8 @@ LRESULT CDialog::HandleSetFont(WPARAM wParam, LPARAM)
 
 LRESULT CDialog::OnHelpHitTest(WPARAM, LPARAM)
 {
-    constexpr LRESULT FirstResourceTopic = 0x00020000;
-    return m_state.helpId != 0 ? FirstResourceTopic + m_state.helpId : 0;
+    constexpr LRESULT first_resource_topic = 0x00020000;
+    return m_state.helpId != 0 ? first_resource_topic + m_state.helpId : 0;
 }
 
 BOOL CDialog::PreTranslateMessage(MSG * pMsg)

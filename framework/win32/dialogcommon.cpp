@@ -44,8 +44,8 @@ CColorDialog::CColorDialog(COLORREF clrInit, DWORD dwFlags, CWnd * pParentWnd) :
 
 COLORREF * PASCAL CColorDialog::GetSavedCustomColors()
 {
-    constexpr size_t Count = 16;
-    static COLORREF colours[Count];
+    constexpr size_t count = 16;
+    static COLORREF colours[count];
     static bool const filled = [] {
         for (COLORREF & colour : colours)
             colour = RGB(255, 255, 255);

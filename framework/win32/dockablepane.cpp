@@ -13,12 +13,15 @@ IMPLEMENT_DYNCREATE(CDockablePane, CPane)
 
 // clang-format off
 BEGIN_MESSAGE_MAP(CDockablePane, CPane)
+    ON_WM_CONTEXTMENU()
     ON_WM_DESTROY()
     ON_WM_NCCALCSIZE()
     ON_WM_NCHITTEST()
     ON_WM_NCLBUTTONDBLCLK()
     ON_WM_NCLBUTTONDOWN()
     ON_WM_NCPAINT()
+    ON_WM_NCRBUTTONDOWN()
+    ON_WM_NCRBUTTONUP()
     ON_MESSAGE(WM_SETTEXT, &CDockablePane::HandleSetText)
 END_MESSAGE_MAP()
 // clang-format on
@@ -461,6 +464,23 @@ void CDockablePane::OnNcLButtonDblClk(UINT nHitTest, CPoint point)
     }
     if (m_host != nullptr)
         m_host->Toggle(framework::DockContent(m_host->DraggedWith(*this)));
+}
+
+// The system knows nothing of this caption.
+void CDockablePane::OnNcRButtonDown(UINT, CPoint) {}
+
+void CDockablePane::OnNcRButtonUp(UINT, CPoint point)
+{
+    SendMessage(WM_CONTEXTMENU, reinterpret_cast<WPARAM>(m_hWnd), MAKELPARAM(point.x, point.y));
+}
+
+void CDockablePane::OnContextMenu(CWnd *, CPoint point)
+{
+    // What lies in the pane passes on what it has no menu for.
+    if (HitTest(point, TRUE) == HTNOWHERE)
+        Default();
+    else
+        OnShowControlBarMenu(point);
 }
 
 void CDockablePane::OnPressButtons(UINT nHit)

@@ -72,8 +72,17 @@ void DockHost::Arrange()
     m_arranging = false;
 }
 
+/// What the panes stand around; null if there is nothing.
+HWND DockHost::CentreWindow() const
+{
+    return ::GetDlgItem(m_frame.m_hWnd, AFX_IDW_PANE_FIRST);
+}
+
 bool DockHost::ArrangeOnce()
 {
+    // A client window that is hidden needs no room.
+    HWND const centre = CentreWindow();
+    m_layout.metrics.centreShown = centre == nullptr || Shows(centre);
     return MakeFrames() && MakeAllGroups() && HideRest() && EndUnused() && ArrangeMain() && ArrangeFrames() &&
            PlaceSlid();
 }
@@ -209,8 +218,9 @@ bool DockHost::MakeGroups(UINT frame)
                 tabbed->m_host = this;
                 tabbed->m_group = group.id;
                 tabbed->m_gripper = true;
-                if (!tabbed->CBasePane::CreateEx(0, nullptr, L"", WS_CHILD | WS_CLIPCHILDREN | WS_CLIPSIBLINGS,
-                                                 CRect(0, 0, 0, 0), parent, 0, AFX_DEFAULT_DOCKING_PANE_STYLE))
+                if (!tabbed->CBasePane::CreateEx(WS_EX_CONTROLPARENT, nullptr, L"",
+                                                 WS_CHILD | WS_CLIPCHILDREN | WS_CLIPSIBLINGS, CRect(0, 0, 0, 0),
+                                                 parent, 0, AFX_DEFAULT_DOCKING_PANE_STYLE))
                     return false;
             }
             else if (!Adopt(*tabbed, *parent))
@@ -513,13 +523,11 @@ bool DockHost::ArrangeMain()
     bars.bStretch = TRUE;
     m_frame.GetClientRect(&bars.rect);
     bars.hDWP = ::BeginDeferWindowPos(static_cast<int>(2 * m_panes.size()) + 16);
-    HWND centre = nullptr;
+    HWND const centre = CentreWindow();
     std::vector<HWND> children;
     for (HWND child = ::GetTopWindow(m_frame.m_hWnd); child != nullptr; child = ::GetWindow(child, GW_HWNDNEXT))
     {
-        if (static_cast<WORD>(::GetDlgCtrlID(child)) == AFX_IDW_PANE_FIRST)
-            centre = child;
-        else
+        if (child != centre)
             children.push_back(child);
     }
     for (HWND const child : children)

@@ -122,6 +122,8 @@ void DockHost::MeasureAgain()
     m_layout.metrics.divider = ::MulDiv(CPaneDivider::GetDefaultWidth(), m_sizes.gap, 4);
     m_layout.metrics.tabs = m_sizes.tabs;
     m_layout.metrics.centre = CSize(2 * m_sizes.caption, 2 * m_sizes.caption);
+    for (auto const & [id, pane] : m_panes)
+        m_layout.SetMinSize(id, LeastSize(*pane, m_sizes));
 }
 
 void DockHost::FrameEnds()
@@ -179,9 +181,9 @@ void DockHost::WindowEnds(CWnd const & window)
 
 UINT DockHost::FreeId(UINT wanted) const
 {
-    if (wanted != 0 && wanted < firstOwnId - 1 && !m_panes.contains(wanted))
+    if (wanted != 0 && wanted < first_own_id - 1 && !m_panes.contains(wanted))
         return wanted;
-    UINT id = firstOwnId;
+    UINT id = first_own_id;
     while (m_layout.Find(id) != nullptr)
         ++id;
     return id;
@@ -228,7 +230,7 @@ void DockHost::Leave(CDockablePane & pane, bool destroyed)
         m_slid = 0;
     if (m_drag != nullptr && !m_ending)
         m_drag->PaneEnds(id);
-    if (destroyed && id < firstOwnId)
+    if (destroyed && id < first_own_id)
         m_layout.LeavePane(id);
     else
         m_layout.RemovePane(id);
@@ -568,7 +570,7 @@ void DockHost::SlideOut(UINT id)
     if (!life || Pane(id) != pane || m_slid != id)
         return;
     if (CMFCAutoHideBar * const strip = Strip(known->foldSide))
-        strip->SetTimer(slideWatchTimer, 200, nullptr);
+        strip->SetTimer(slide_watch_timer, 200, nullptr);
     pane->OnSlide(TRUE);
 }
 
@@ -580,7 +582,7 @@ void DockHost::SlideBack()
     for (CMFCAutoHideBar * const strip : m_strips)
     {
         if (strip != nullptr)
-            strip->KillTimer(slideWatchTimer);
+            strip->KillTimer(slide_watch_timer);
     }
     Life const life(*this);
     CDockablePane * const pane = Pane(id);
@@ -721,6 +723,12 @@ void DockHost::TitleChanged(CDockablePane & pane)
         Strip(known->foldSide)->Invalidate();
     if (CPaneFrameWnd * const mini = MiniFrame(m_layout.FrameOf(pane.m_dockId)))
         ChangeWindowText(mini->m_hWnd, mini->GetCaptionText());
+}
+
+void DockHost::LeastSizeChanged(CDockablePane & pane)
+{
+    m_layout.SetMinSize(pane.m_dockId, LeastSize(pane, m_sizes));
+    Arrange();
 }
 
 void DockHost::RepaintCaptions()

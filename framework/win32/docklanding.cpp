@@ -155,9 +155,11 @@ DockLanding DockHost::FindLanding(DockContent const & content, CPoint screen, CP
             }
             break;
         }
-        if (landing.kind == DockLanding::Kind::None && plan.centre && plan.centre->PtInRect(point))
+        // A frame whose centre doesn't show is all centre while no pane is docked.
+        CRect const centre = plan.centre.value_or(*over == 0 && plan.groups.empty() ? space : CRect(0, 0, 0, 0));
+        if (landing.kind == DockLanding::Kind::None && centre.PtInRect(point))
         {
-            auto const inner = NearEdge(*plan.centre, point, 2 * m_sizes.sensitivity);
+            auto const inner = NearEdge(centre, point, 2 * m_sizes.sensitivity);
             if (inner && (enabled & AlignmentOf(*inner)) != 0)
             {
                 landing.kind = DockLanding::Kind::Side;

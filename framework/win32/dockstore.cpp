@@ -16,7 +16,7 @@ std::vector<std::uint8_t> DockHost::Save()
     std::vector<UINT> own;
     for (auto const & [id, pane] : stored.Panes())
     {
-        if (id >= firstOwnId)
+        if (id >= first_own_id)
             own.push_back(id);
     }
     for (UINT const id : own)
@@ -102,16 +102,16 @@ CRect DockHost::OnScreen(CRect rect) const
 {
     if (rect.IsRectEmpty())
         rect = CRect(CPoint(rect.left, rect.top), CSize(300, 200));
-    // The caption has to be within reach.
-    CRect grip(rect.left + m_sizes.caption, rect.top, rect.right - m_sizes.caption, rect.top + m_sizes.caption);
+    CRect const grip(rect.left + m_sizes.caption, rect.top, rect.right - m_sizes.caption, rect.top + m_sizes.caption);
     MONITORINFO info{};
     info.cbSize = sizeof info;
-    if (::MonitorFromRect(&grip, MONITOR_DEFAULTTONULL) != nullptr)
-        return rect;
     if (!::GetMonitorInfo(::MonitorFromRect(&grip, MONITOR_DEFAULTTONEAREST), &info))
         return rect;
+    // The caption has to be within reach, and so have the edges.
     CRect const work(info.rcWork);
     CSize const size(std::min(rect.Width(), work.Width()), std::min(rect.Height(), work.Height()));
+    if (size == rect.Size() && ::MonitorFromRect(&grip, MONITOR_DEFAULTTONULL) != nullptr)
+        return rect;
     CPoint const corner(std::clamp<int>(rect.left, work.left, work.right - size.cx),
                         std::clamp<int>(rect.top, work.top, work.bottom - size.cy));
     return CRect(corner, size);

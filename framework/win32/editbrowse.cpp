@@ -22,9 +22,9 @@ END_MESSAGE_MAP()
 
 namespace
 {
-constexpr int LeastButtonWidth = 20;
-constexpr int RoomBesideContent = 8;
-constexpr TCHAR IllegalCharacters[] = _T("*?<>|\"");
+constexpr int least_button_width = 20;
+constexpr int room_beside_content = 8;
+constexpr TCHAR illegal_characters[] = _T("*?<>|\"");
 
 /// A context of the window with the system's dialog font.
 class LabelContext
@@ -152,7 +152,7 @@ void CMFCEditBrowseCtrl::OnBrowse()
     CString chosen;
     if (m_mode == BrowseMode_File)
     {
-        if (text.FindOneOf(IllegalCharacters) >= 0 && !OnIllegalFileName(text))
+        if (text.FindOneOf(illegal_characters) >= 0 && !OnIllegalFileName(text))
             return;
         CFileDialog dialog(TRUE, m_defaultExtension.IsEmpty() ? nullptr : m_defaultExtension.GetString(), text,
                            m_fileFlags, m_filter.IsEmpty() ? nullptr : m_filter.GetString(), this);
@@ -204,7 +204,7 @@ int CMFCEditBrowseCtrl::ButtonWidth() const
         ::ReleaseDC(m_hWnd, dc);
         content = size.cx;
     }
-    return std::max(LeastButtonWidth, content + RoomBesideContent);
+    return std::max(least_button_width, content + room_beside_content);
 }
 
 CRect CMFCEditBrowseCtrl::ButtonRect() const

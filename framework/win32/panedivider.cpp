@@ -37,7 +37,7 @@ int CMFCAutoHideBar::m_nShowAHWndDelay = 400;
 namespace
 {
 constexpr UINT_PTR show_timer = 1;
-constexpr UINT_PTR watch_timer = framework::slideWatchTimer;
+constexpr UINT_PTR watch_timer = framework::slide_watch_timer;
 } // namespace
 
 CPaneDivider::CPaneDivider() : m_host(nullptr), m_splitId(0), m_index(0), m_floatId(0), m_horizontal(false) {}

@@ -14,7 +14,9 @@ IMPLEMENT_DYNCREATE(CMultiPaneFrameWnd, CPaneFrameWnd)
 
 // clang-format off
 BEGIN_MESSAGE_MAP(CPaneFrameWnd, CWnd)
+    ON_WM_ACTIVATE()
     ON_WM_CLOSE()
+    ON_WM_CONTEXTMENU()
     ON_WM_DESTROY()
     ON_WM_ERASEBKGND()
     ON_WM_GETMINMAXINFO()
@@ -143,10 +145,43 @@ BOOL CPaneFrameWnd::OnCmdMsg(UINT nID, int nCode, void * pExtra, AFX_CMDHANDLERI
     return guard.Alive() && m_host != nullptr && m_host->Frame().OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
 }
 
+void CPaneFrameWnd::OnActivate(UINT nState, CWnd * pWndOther, BOOL bMinimized)
+{
+    WindowGuard const guard(this);
+    CWnd::OnActivate(nState, pWndOther, bMinimized);
+    if (!guard.Alive() || m_host == nullptr)
+        return;
+    // The main frame's caption looks active while one of its floating frames is.
+    HWND const main = m_host->Frame().m_hWnd;
+    HWND const other = pWndOther->GetSafeHwnd();
+    if (nState != WA_INACTIVE || (other != main && ::GetWindow(other, GW_OWNER) != main))
+        ::SendMessage(main, WM_NCACTIVATE, nState != WA_INACTIVE, 0);
+}
+
 void CPaneFrameWnd::OnClose()
 {
     if (m_host != nullptr)
         m_host->CloseFrame(m_floatId);
+}
+
+void CPaneFrameWnd::OnContextMenu(CWnd *, CPoint point)
+{
+    CRect client;
+    GetClientRect(&client);
+    ClientToScreen(&client);
+    if (point.y >= client.top)
+    {
+        Default();
+        return;
+    }
+    for (CDockablePane * const pane : framework::PanesIn(*this, true))
+    {
+        if (pane->IsPaneVisible())
+        {
+            pane->OnShowControlBarMenu(point);
+            return;
+        }
+    }
 }
 
 BOOL CPaneFrameWnd::OnEraseBkgnd(CDC * pDC)

@@ -34,8 +34,8 @@ namespace
 constexpr wchar_t splitter_class_name[] = L"FrameworkSplitter";
 constexpr int max_lines = 16;
 constexpr int max_dynamic_lines = 2;
-using framework::splitterBorder;
-using framework::splitterGap;
+using framework::splitter_border;
+using framework::splitter_gap;
 
 LPCTSTR SplitterClassName()
 {
@@ -289,7 +289,7 @@ void CSplitterWnd::DeleteView(int row, int col)
 /// What is left of a line that is split, or -1 if one of the two would be too small.
 int CSplitterWnd::SplitRest(SplitterLine const & before, SplitterLine const & behind, int size)
 {
-    int const rest = before.current - size - splitterGap;
+    int const rest = before.current - size - splitter_gap;
     return size < before.minimum || rest < behind.minimum ? -1 : rest;
 }
 
@@ -310,7 +310,7 @@ bool CSplitterWnd::Split(bool rows, int before)
     ASSERT((GetStyle() & SPLS_DYNAMIC_SPLIT) != 0);
     if (count >= static_cast<int>(lines.size()))
         return false;
-    before -= splitterBorder;
+    before -= splitter_border;
     int const line = count;
     auto const at = static_cast<size_t>(line);
     int const rest = SplitRest(lines[at - 1], lines[at], before);
@@ -444,7 +444,7 @@ CRect CSplitterWnd::InnerRect() const
 {
     CRect rect;
     GetClientRect(&rect);
-    rect.DeflateRect(splitterBorder, splitterBorder);
+    rect.DeflateRect(splitter_border, splitter_border);
     return rect;
 }
 
@@ -470,7 +470,7 @@ void CSplitterWnd::LayOut(std::vector<SplitterLine> & lines, int count, int size
         line.current = at == count - 1 ? left : std::min(std::max(line.ideal, 0), left);
         if (at == count - 1 && line.current < line.minimum)
             line.current = 0;
-        left = std::max(left - line.current - splitterGap, 0);
+        left = std::max(left - line.current - splitter_gap, 0);
     }
 }
 
@@ -485,11 +485,11 @@ void CSplitterWnd::PlaceScrollBars(bool rows)
     {
         int extent = lines[static_cast<size_t>(line)].current;
         int start = place;
-        place += extent + splitterGap;
+        place += extent + splitter_gap;
         if (line == 0 && count < static_cast<int>(lines.size()))
         {
-            start += splitterGap; // the box that splits
-            extent -= splitterGap;
+            start += splitter_gap; // the box that splits
+            extent -= splitter_gap;
         }
         HWND const bar = ::GetDlgItem(m_hWnd, ScrollBarId(rows, line));
         if (bar == nullptr)
@@ -531,9 +531,9 @@ void CSplitterWnd::RecalcLayout()
             HWND const pane = ::GetDlgItem(m_hWnd, IdFromRowCol(row, column));
             if (pane != nullptr && moved != nullptr)
                 moved = ::DeferWindowPos(moved, pane, nullptr, x, y, width, height, SWP_NOACTIVATE | SWP_NOZORDER);
-            y += height + splitterGap;
+            y += height + splitter_gap;
         }
-        x += width + splitterGap;
+        x += width + splitter_gap;
     }
     if (moved != nullptr)
         ::EndDeferWindowPos(moved);

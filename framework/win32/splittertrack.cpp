@@ -11,8 +11,8 @@ using framework::WindowGuard;
 
 namespace
 {
-using framework::splitterBorder;
-using framework::splitterGap;
+using framework::splitter_border;
+using framework::splitter_gap;
 
 constexpr int key_step = 5; // pixels that an arrow key moves a bar; with Ctrl it is one
 
@@ -22,9 +22,9 @@ int BarAt(std::vector<SplitterLine> const & lines, int count, int start, int pla
     for (int line = 0; line + 1 < count; ++line)
     {
         start += lines[static_cast<size_t>(line)].current;
-        if (place >= start && place < start + splitterGap)
+        if (place >= start && place < start + splitter_gap)
             return line;
-        start += splitterGap;
+        start += splitter_gap;
     }
     return -1;
 }
@@ -38,12 +38,12 @@ CSplitterWnd::Part CSplitterWnd::PartAt(CPoint point) const
     if (!inner.PtInRect(point))
         return part;
     // The boxes lie at the near end of the first scroll bar.
-    if (m_hasVertical && m_rows < m_maxRows && point.x >= area.right && point.y < inner.top + splitterGap)
+    if (m_hasVertical && m_rows < m_maxRows && point.x >= area.right && point.y < inner.top + splitter_gap)
     {
         part.rowBox = true;
         return part;
     }
-    if (m_hasHorizontal && m_columns < m_maxColumns && point.y >= area.bottom && point.x < inner.left + splitterGap)
+    if (m_hasHorizontal && m_columns < m_maxColumns && point.y >= area.bottom && point.x < inner.left + splitter_gap)
     {
         part.columnBox = true;
         return part;
@@ -67,22 +67,22 @@ void CSplitterWnd::OnPaint()
     GetClientRect(&all);
     dc.FillSolidRect(&all, ::GetSysColor(COLOR_BTNFACE));
     if (m_hasVertical && m_rows < m_maxRows)
-        OnDrawSplitter(&dc, splitBox, CRect(area.right, inner.top, inner.right, inner.top + splitterGap));
+        OnDrawSplitter(&dc, splitBox, CRect(area.right, inner.top, inner.right, inner.top + splitter_gap));
     if (m_hasHorizontal && m_columns < m_maxColumns)
-        OnDrawSplitter(&dc, splitBox, CRect(inner.left, area.bottom, inner.left + splitterGap, inner.bottom));
+        OnDrawSplitter(&dc, splitBox, CRect(inner.left, area.bottom, inner.left + splitter_gap, inner.bottom));
     int place = inner.left;
     for (int column = 0; column + 1 < m_columns; ++column)
     {
         place += m_columnLines[static_cast<size_t>(column)].current;
-        OnDrawSplitter(&dc, splitBar, CRect(place, inner.top, place + splitterGap, inner.bottom));
-        place += splitterGap;
+        OnDrawSplitter(&dc, splitBar, CRect(place, inner.top, place + splitter_gap, inner.bottom));
+        place += splitter_gap;
     }
     place = inner.top;
     for (int row = 0; row + 1 < m_rows; ++row)
     {
         place += m_rowLines[static_cast<size_t>(row)].current;
-        OnDrawSplitter(&dc, splitBar, CRect(inner.left, place, inner.right, place + splitterGap));
-        place += splitterGap;
+        OnDrawSplitter(&dc, splitBar, CRect(inner.left, place, inner.right, place + splitter_gap));
+        place += splitter_gap;
     }
     int x = inner.left;
     for (int column = 0; column < m_columns; ++column)
@@ -93,14 +93,14 @@ void CSplitterWnd::OnPaint()
         {
             int const height = m_rowLines[static_cast<size_t>(row)].current;
             CRect edge(x, y, x + width, y + height);
-            edge.InflateRect(splitterBorder, splitterBorder);
+            edge.InflateRect(splitter_border, splitter_border);
             OnDrawSplitter(&dc, splitBorder, edge);
             if (row + 1 < m_rows && column + 1 < m_columns)
                 OnDrawSplitter(&dc, splitIntersection,
-                               CRect(x + width, y + height, x + width + splitterGap, y + height + splitterGap));
-            y += height + splitterGap;
+                               CRect(x + width, y + height, x + width + splitter_gap, y + height + splitter_gap));
+            y += height + splitter_gap;
         }
-        x += width + splitterGap;
+        x += width + splitter_gap;
     }
 }
 
@@ -149,8 +149,8 @@ void CSplitterWnd::OnInvertTracker(const CRect & rect)
 CRect CSplitterWnd::TrackerRect(bool rows) const
 {
     CRect const area = PaneArea();
-    return rows ? CRect(area.left, m_tracker.y, area.right, m_tracker.y + splitterGap)
-                : CRect(m_tracker.x, area.top, m_tracker.x + splitterGap, area.bottom);
+    return rows ? CRect(area.left, m_tracker.y, area.right, m_tracker.y + splitter_gap)
+                : CRect(m_tracker.x, area.top, m_tracker.x + splitter_gap, area.bottom);
 }
 
 void CSplitterWnd::InvertTrackers()
@@ -168,9 +168,9 @@ void CSplitterWnd::StartTracking(Part const & part, CPoint point)
     CRect const inner = InnerRect();
     m_tracker = inner.TopLeft();
     for (int row = 0; row <= part.row; ++row)
-        m_tracker.y += m_rowLines[static_cast<size_t>(row)].current + (row > 0 ? splitterGap : 0);
+        m_tracker.y += m_rowLines[static_cast<size_t>(row)].current + (row > 0 ? splitter_gap : 0);
     for (int column = 0; column <= part.column; ++column)
-        m_tracker.x += m_columnLines[static_cast<size_t>(column)].current + (column > 0 ? splitterGap : 0);
+        m_tracker.x += m_columnLines[static_cast<size_t>(column)].current + (column > 0 ? splitter_gap : 0);
     m_grip = point - m_tracker;
     m_tracked = part;
     m_tracking = true;
@@ -187,8 +187,8 @@ void CSplitterWnd::MoveTracker(CPoint point)
     CRect const area = PaneArea();
     InvertTrackers();
     CPoint const place = point - m_grip;
-    m_tracker.x = std::clamp<LONG>(place.x, area.left, std::max<LONG>(area.right - splitterGap, area.left));
-    m_tracker.y = std::clamp<LONG>(place.y, area.top, std::max<LONG>(area.bottom - splitterGap, area.top));
+    m_tracker.x = std::clamp<LONG>(place.x, area.left, std::max<LONG>(area.right - splitter_gap, area.left));
+    m_tracker.y = std::clamp<LONG>(place.y, area.top, std::max<LONG>(area.bottom - splitter_gap, area.top));
     InvertTrackers();
 }
 
@@ -198,7 +198,7 @@ void CSplitterWnd::Track(bool rows, int line, int place)
     CRect const inner = InnerRect();
     int start = rows ? inner.top : inner.left;
     for (int at = 0; at < line; ++at)
-        start += lines[static_cast<size_t>(at)].current + splitterGap;
+        start += lines[static_cast<size_t>(at)].current + splitter_gap;
     int const size = place - start;
     SplitterLine & before = lines[static_cast<size_t>(line)];
     SplitterLine const & behind = lines[static_cast<size_t>(line) + 1];

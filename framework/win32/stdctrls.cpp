@@ -84,8 +84,8 @@ BOOL CButton::Create(LPCTSTR lpszCaption, DWORD dwStyle, RECT const & rect, CWnd
 
 UINT CButton::GetButtonStyle() const
 {
-    constexpr DWORD KindOfButton = 0x0F;
-    return GetStyle() & KindOfButton;
+    constexpr DWORD kind_of_button = 0x0F;
+    return GetStyle() & kind_of_button;
 }
 
 CString CButton::GetNote() const
@@ -203,13 +203,13 @@ void CEdit::GetSel(int & nStartChar, int & nEndChar) const
 
 void CEdit::SetSel(DWORD dwSelection, BOOL bNoScroll)
 {
-    constexpr int None = 0xFFFF;
+    constexpr int none = 0xFFFF;
     int const first = LOWORD(dwSelection);
     int const end = HIWORD(dwSelection);
-    if (first == None)
+    if (first == none)
         SetSel(-1, -1, bNoScroll);
     else
-        SetSel(first, first == 0 && end == None ? -1 : end, bNoScroll);
+        SetSel(first, first == 0 && end == none ? -1 : end, bNoScroll);
 }
 
 void CEdit::SetSel(int nStartChar, int nEndChar, BOOL bNoScroll)

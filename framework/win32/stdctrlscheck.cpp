@@ -30,8 +30,8 @@ struct CCheckListBox::Row
 
 namespace
 {
-constexpr int CheckMargin = 1;
-constexpr int TextGap = 3;
+constexpr int check_margin = 1;
+constexpr int text_gap = 3;
 } // namespace
 
 CCheckListBox::CCheckListBox() = default;
@@ -135,7 +135,7 @@ CRect CCheckListBox::CheckRect(int index)
     GetItemRect(index, &item);
     CSize const size = CheckSize();
     CRect check = item;
-    check.left += CheckMargin;
+    check.left += check_margin;
     check.right = check.left + size.cx;
     check.top += std::max(0L, (item.Height() - size.cy) / 2);
     check.bottom = check.top + size.cy;
@@ -155,7 +155,7 @@ void CCheckListBox::MeasureItem(LPMEASUREITEMSTRUCT lpMeasureItemStruct)
             dc.SelectObject(previous);
         m_textHeight = metrics.tmHeight;
     }
-    int const check = CheckSize().cy + 2 * CheckMargin;
+    int const check = CheckSize().cy + 2 * check_margin;
     lpMeasureItemStruct->itemHeight = static_cast<UINT>(std::max(m_textHeight, check));
 }
 
@@ -167,9 +167,9 @@ void CCheckListBox::DrawRow(LPDRAWITEMSTRUCT item, Row const & row)
     // The text stands beside the check box, on the side that has the room.
     CRect const whole(item->rcItem);
     if (check.CenterPoint().x <= whole.CenterPoint().x)
-        text.rcItem.left = std::max(text.rcItem.left, check.right + TextGap);
+        text.rcItem.left = std::max(text.rcItem.left, check.right + text_gap);
     else
-        text.rcItem.right = std::min(text.rcItem.right, check.left - TextGap);
+        text.rcItem.right = std::min(text.rcItem.right, check.left - text_gap);
     if (!row.enabled)
         text.itemState |= ODS_DISABLED;
 

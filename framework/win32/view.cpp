@@ -126,7 +126,7 @@ void CView::OnPrepareDC(CDC *, CPrintInfo * pInfo)
 {
     // A view that doesn't know its last page has one.
     if (pInfo != nullptr)
-        pInfo->m_bContinuePrinting = pInfo->GetMaxPage() != framework::anyPage || pInfo->m_nCurPage == 1;
+        pInfo->m_bContinuePrinting = pInfo->GetMaxPage() != framework::any_page || pInfo->m_nCurPage == 1;
 }
 
 BOOL CView::IsSelected(const CObject *) const

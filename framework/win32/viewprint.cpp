@@ -25,7 +25,7 @@ CPrintInfo::CPrintInfo()
       m_dwFlags(0)
 {
     SetMinPage(1);
-    SetMaxPage(framework::anyPage);
+    SetMaxPage(framework::any_page);
 }
 
 CPrintInfo::~CPrintInfo()

@@ -22,6 +22,15 @@ struct Placement
     RECT rect;
     INT32 flags;
     INT32 show;
+    UINT32 sum; // of what is before it
+
+    UINT32 Sum() const
+    {
+        UINT32 total = 2166136261u;
+        for (LONG const value : {rect.left, rect.top, rect.right, rect.bottom, LONG{flags}, LONG{show}})
+            total = (total ^ static_cast<UINT32>(value)) * 16777619u;
+        return total;
+    }
 };
 
 /// The names of a section only for one call.
@@ -262,7 +271,8 @@ void CWinAppEx::EnableLoadWindowPlacement(BOOL bEnable)
 
 BOOL CWinAppEx::StoreWindowPlacement(const CRect & rectNormalPosition, int nFlags, int nShowCmd)
 {
-    Placement placement{rectNormalPosition, nFlags, nShowCmd};
+    Placement placement{rectNormalPosition, nFlags, nShowCmd, 0};
+    placement.sum = placement.Sum();
     return WriteBinary(placement_entry, reinterpret_cast<BYTE *>(&placement), sizeof placement);
 }
 
@@ -273,11 +283,10 @@ BOOL CWinAppEx::LoadWindowPlacement(CRect & rectNormalPosition, int & nFlags, in
     if (!GetBinary(placement_entry, &data, &size))
         return FALSE;
     Placement placement{};
-    bool const sound = size == sizeof placement;
-    if (sound)
+    if (size == sizeof placement)
         std::copy_n(data, sizeof placement, reinterpret_cast<BYTE *>(&placement));
     delete[] data;
-    if (!sound)
+    if (size != sizeof placement || placement.sum != placement.Sum())
         return FALSE;
     rectNormalPosition = placement.rect;
     nFlags = placement.flags;

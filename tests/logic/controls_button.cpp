@@ -8,10 +8,10 @@
 
 TEST(ButtonLook, DisabledGoesBeforeHot)
 {
-    EXPECT_EQ(LookOfButton(false, false), ButtonLook::Normal);
-    EXPECT_EQ(LookOfButton(false, true), ButtonLook::Hot);
-    EXPECT_EQ(LookOfButton(true, false), ButtonLook::Disabled);
-    EXPECT_EQ(LookOfButton(true, true), ButtonLook::Disabled);
+    EXPECT_EQ(LookOfButton(false, false), ButtonLook::normal);
+    EXPECT_EQ(LookOfButton(false, true), ButtonLook::hot);
+    EXPECT_EQ(LookOfButton(true, false), ButtonLook::disabled);
+    EXPECT_EQ(LookOfButton(true, true), ButtonLook::disabled);
 }
 
 TEST(ButtonLook, AreaIsNotFilledInTheFacesColorWithoutAFrame)

@@ -39,6 +39,40 @@ TEST(DockLayout, AnEmptyFrameBelongsToTheCentre)
     EXPECT_TRUE(plan.groups.empty() && plan.dividers.empty());
 }
 
+TEST(DockLayout, TheRoomOfACentreThatDoesNotShowGoesToWhatIsNextToIt)
+{
+    DockLayout layout = WithPanes(3);
+    layout.metrics.centreShown = false;
+    EXPECT_FALSE(layout.Arrange(0, frameRect).centre);
+    layout.DockAtSide(1, DockSide::Left, false, 200);
+    EXPECT_EQ(layout.Arrange(0, frameRect).groups.at(0).rect, frameRect);
+    layout.DockAtSide(2, DockSide::Bottom, false, 150);
+    EXPECT_EQ(RectOf(layout.Arrange(0, frameRect), 2), CRect(200 + layout.metrics.divider, 0, 1000, 700));
+    layout.DockAtSide(3, DockSide::Top, false, 120);
+    for (int const width : {1000, 1400, 900})
+    {
+        CRect const rect(0, 0, width, 700);
+        DockPlan const plan = layout.Arrange(0, rect);
+        EXPECT_FALSE(plan.centre);
+        EXPECT_EQ(plan.dividers.size(), 2u);
+        int const gap = layout.metrics.divider;
+        EXPECT_EQ(RectOf(plan, 1), CRect(0, 0, 200, 700));
+        EXPECT_EQ(RectOf(plan, 3), CRect(200 + gap, 0, width, 700 - 150 - gap)); // before the centre
+        EXPECT_EQ(RectOf(plan, 2), CRect(200 + gap, 700 - 150, width, 700));
+    }
+    // With that one gone, what is behind it.
+    layout.Show(3, false);
+    DockPlan const plan = layout.Arrange(0, frameRect);
+    EXPECT_EQ(RectOf(plan, 2), CRect(200 + layout.metrics.divider, 0, frameRect.right, frameRect.bottom));
+    // And the centre comes back between them.
+    layout.Show(3, true);
+    layout.metrics.centreShown = true;
+    DockPlan const again = layout.Arrange(0, frameRect);
+    ASSERT_TRUE(again.centre);
+    EXPECT_EQ(again.centre->top, 120 + layout.metrics.divider);
+    EXPECT_EQ(again.centre->bottom, frameRect.bottom - 150 - layout.metrics.divider);
+}
+
 TEST(DockLayout, APaneTakesItsSizeAtEachSide)
 {
     for (auto const & [side, wanted] :
@@ -244,8 +278,11 @@ TEST(DockLayout, ManyOperationsLeaveASoundLayout)
     int const steps = 100000;
     for (int step = 0; step < steps; ++step)
     {
-        switch (below(14))
+        switch (below(15))
         {
+        case 14:
+            layout.metrics.centreShown = below(3) != 0;
+            break;
         case 0:
             layout.DockAtSide(content(), side(), below(2) == 0, below(2) * below(300));
             break;
@@ -331,6 +368,47 @@ TEST(DockLayoutStore, DamagedBytesGiveNoLayout)
         auto damaged = bytes;
         damaged[at] ^= 0x11;
         EXPECT_FALSE(DockLayout::Load(damaged)) << "byte " << at;
+    }
+}
+
+// What a program could leave that is ended while it writes, had it written the bytes one after the other.
+TEST(DockLayoutStore, NoMixOfTwoStoredLayoutsIsTaken)
+{
+    DockLayout layout = WithPanes(5);
+    layout.DockAtSide(1, DockSide::Left, false, 300);
+    layout.DockBeside(2, 1, DockSide::Bottom);
+    layout.Float(4, CRect(1, 2, 300, 400));
+    std::vector<std::vector<std::uint8_t>> stored{layout.Save()};
+    layout.Float(4, CRect(60, 70, 310, 400)); // as many bytes
+    stored.push_back(layout.Save());
+    ASSERT_EQ(stored[0].size(), stored[1].size());
+    layout.DockAsTab(3, 2);
+    layout.Fold(1, true);
+    stored.push_back(layout.Save());
+    auto const taken = [&](std::vector<std::uint8_t> const & bytes) {
+        return std::find(stored.begin(), stored.end(), bytes) == stored.end() && DockLayout::Load(bytes).has_value();
+    };
+    constexpr std::ptrdiff_t longest_part = 64;
+    for (auto const & former : stored)
+    {
+        for (auto const & wanted : stored)
+        {
+            auto const size = static_cast<std::ptrdiff_t>(std::min(former.size(), wanted.size()));
+            for (std::ptrdiff_t cut = 0; cut <= size; ++cut)
+            {
+                std::vector<std::uint8_t> bytes(wanted.begin(), wanted.begin() + cut);
+                EXPECT_FALSE(taken(bytes)) << "cut off at " << cut;
+                bytes.resize(wanted.size());
+                EXPECT_FALSE(taken(bytes)) << "zeros from " << cut;
+                bytes.resize(static_cast<size_t>(cut));
+                bytes.insert(bytes.end(), former.begin() + cut, former.end());
+                EXPECT_FALSE(taken(bytes)) << "former bytes from " << cut;
+                bytes = former;
+                std::copy(wanted.begin() + cut, wanted.begin() + std::min(size, cut + longest_part),
+                          bytes.begin() + cut);
+                EXPECT_FALSE(taken(bytes)) << "new bytes at " << cut;
+            }
+        }
     }
 }
 

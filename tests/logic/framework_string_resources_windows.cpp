@@ -7,9 +7,9 @@
 
 namespace
 {
-constexpr UINT FirstId = 1600;
-constexpr WORD English = MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_US);
-constexpr WORD German = MAKELANGID(LANG_GERMAN, SUBLANG_GERMAN);
+constexpr UINT first_id = 1600;
+constexpr WORD english = MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_US);
+constexpr WORD german = MAKELANGID(LANG_GERMAN, SUBLANG_GERMAN);
 
 // The block of the sixteen strings from FirstId on, of which the first and the last are given.
 std::vector<WORD> StringBlock(std::wstring const & first, std::wstring const & last)
@@ -26,7 +26,7 @@ std::vector<WORD> StringBlock(std::wstring const & first, std::wstring const & l
 
 void AddBlock(HANDLE update, WORD language, std::vector<WORD> block)
 {
-    ::UpdateResourceW(update, RT_STRING, MAKEINTRESOURCEW(FirstId / 16 + 1), language, block.data(),
+    ::UpdateResourceW(update, RT_STRING, MAKEINTRESOURCEW(first_id / 16 + 1), language, block.data(),
                       static_cast<DWORD>(block.size() * sizeof(WORD)));
 }
 
@@ -49,8 +49,8 @@ protected:
         ASSERT_TRUE(::CopyFileW(path, file, FALSE));
         HANDLE const update = ::BeginUpdateResourceW(file, FALSE);
         ASSERT_NE(nullptr, update);
-        AddBlock(update, English, StringBlock(L"first %d", L"last"));
-        AddBlock(update, German, StringBlock(L"erster", L"letzter"));
+        AddBlock(update, english, StringBlock(L"first %d", L"last"));
+        AddBlock(update, german, StringBlock(L"erster", L"letzter"));
         ASSERT_TRUE(::EndUpdateResourceW(update, FALSE));
         m_module = ::LoadLibraryExW(file, nullptr, LOAD_LIBRARY_AS_DATAFILE);
         ASSERT_NE(nullptr, m_module);
@@ -70,28 +70,28 @@ protected:
 TEST_F(FrameworkStringResources, LanguageIsChosen)
 {
     CString text;
-    EXPECT_TRUE(text.LoadString(m_module, FirstId, English));
+    EXPECT_TRUE(text.LoadString(m_module, first_id, english));
     EXPECT_STREQ(L"first %d", text);
-    EXPECT_TRUE(text.LoadString(m_module, FirstId + 15, English));
+    EXPECT_TRUE(text.LoadString(m_module, first_id + 15, english));
     EXPECT_STREQ(L"last", text);
-    EXPECT_TRUE(text.LoadString(m_module, FirstId, German));
+    EXPECT_TRUE(text.LoadString(m_module, first_id, german));
     EXPECT_STREQ(L"erster", text);
-    EXPECT_TRUE(text.LoadString(m_module, FirstId + 15));
+    EXPECT_TRUE(text.LoadString(m_module, first_id + 15));
     EXPECT_TRUE(text == L"last" || text == L"letzter");
 }
 
 TEST_F(FrameworkStringResources, NarrowTextIsConverted)
 {
     CStringA text;
-    EXPECT_TRUE(text.LoadString(m_module, FirstId + 15, German));
+    EXPECT_TRUE(text.LoadString(m_module, first_id + 15, german));
     EXPECT_STREQ("letzter", text);
 }
 
 TEST_F(FrameworkStringResources, MissingStringLeavesTheText)
 {
     CString text = L"old";
-    EXPECT_FALSE(text.LoadString(m_module, FirstId + 1, English));
-    EXPECT_FALSE(text.LoadString(m_module, FirstId + 16, English));
-    EXPECT_FALSE(text.LoadString(m_module, FirstId, MAKELANGID(LANG_FRENCH, SUBLANG_FRENCH)));
+    EXPECT_FALSE(text.LoadString(m_module, first_id + 1, english));
+    EXPECT_FALSE(text.LoadString(m_module, first_id + 16, english));
+    EXPECT_FALSE(text.LoadString(m_module, first_id, MAKELANGID(LANG_FRENCH, SUBLANG_FRENCH)));
     EXPECT_STREQ(L"old", text);
 }

@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "list/CellKind.h"
 #include "list/XListInput.h"
 
 namespace

@@ -131,7 +131,7 @@ TEST(RecordingAnalysis, GivesTheProblemOfAFileThatCannotBeRead)
     TemporaryFolder const folder;
     auto const missing = Analyse(RecordingAnalyser(folder.Path() / "missing.wav"));
     ASSERT_TRUE(missing.problem);
-    EXPECT_EQ(missing.problem->fault, ReadFault::CannotBeOpened);
+    EXPECT_EQ(missing.problem->fault, ReadFault::cannot_be_opened);
     EXPECT_EQ(missing.StatusText(), L"cannot be opened");
 
     EXPECT_EQ(Analyse(RecordingAnalyser(folder.Path())).StatusText(), L"cannot be opened");
@@ -381,7 +381,7 @@ CommandLine Parse(std::vector<std::wstring> const & arguments)
 TEST(CommandLine, IsInteractiveWithoutArguments)
 {
     auto const line = Parse({});
-    EXPECT_EQ(line.mode, RunMode::Interactive);
+    EXPECT_EQ(line.mode, RunMode::interactive);
     EXPECT_TRUE(line.targets.empty());
     EXPECT_TRUE(line.error.empty());
 }
@@ -394,10 +394,10 @@ TEST(CommandLine, TakesFoldersAndFiles)
 TEST(CommandLine, TakesAWalkWithItsFolder)
 {
     auto const walk = Parse({L"/Walk", L"out", L"sounds"});
-    EXPECT_EQ(walk.mode, RunMode::Walk);
+    EXPECT_EQ(walk.mode, RunMode::walk);
     EXPECT_EQ(walk.walkFolder, L"out");
     EXPECT_EQ(walk.targets, std::vector<std::wstring>{L"sounds"});
-    EXPECT_EQ(Parse({L"sounds", L"/walk-restart", L"out"}).mode, RunMode::WalkRestart);
+    EXPECT_EQ(Parse({L"sounds", L"/walk-restart", L"out"}).mode, RunMode::walk_restart);
 }
 
 TEST(CommandLine, RefusesAWalkWithoutFolderOrTwoWalks)

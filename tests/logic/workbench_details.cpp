@@ -89,7 +89,34 @@ RecordingAnalysis GoodRecording()
     analysis.info.frames = 68545;
     analysis.info.announcedFrames = 68545;
     analysis.levels = {-6.5, -22.61};
+    analysis.loudness = -23.04;
+    analysis.tone = {997.04, 0.00125};
     return analysis;
+}
+
+TEST(MeasureFormat, WritesEachMeasureAsItsReadersDo)
+{
+    EXPECT_EQ(FormatCrestFactor({0.0, -3.01}), L"3.0");
+    EXPECT_EQ(FormatLoudness(-70.04), L"-70.0");
+    EXPECT_EQ(FormatFrequency(50.04), L"50.0");
+    EXPECT_EQ(FormatFrequency(999.94), L"999.9");
+    EXPECT_EQ(FormatFrequency(999.96), L"1,000");
+    EXPECT_EQ(FormatFrequency(12345.6), L"12,346");
+    EXPECT_EQ(FormatPercent(0.5), L"50.0");
+    EXPECT_EQ(FormatPercent(0.05), L"5.00");
+    EXPECT_EQ(FormatPercent(0.00123), L"0.123");
+    EXPECT_EQ(FormatPercent(0.0000512), L"0.0051");
+    EXPECT_EQ(FormatPercent(1.5), L"150");
+}
+
+TEST(MeasureFormat, ShowsWhatThereIsNotAsADash)
+{
+    EXPECT_EQ(FormatCrestFactor({-beyond_all, -beyond_all}), L"-");
+    EXPECT_EQ(FormatLoudness(std::nullopt), L"-");
+    EXPECT_EQ(FormatFrequency(std::nullopt), L"-");
+    EXPECT_EQ(FormatFrequency(-1.0), L"-");
+    EXPECT_EQ(FormatPercent(std::nullopt), L"-");
+    EXPECT_EQ(FormatPercent(beyond_all), L"-");
 }
 
 TEST(RecordingDetails, SayEverythingAboutARecording)
@@ -104,6 +131,10 @@ TEST(RecordingDetails, SayEverythingAboutARecording)
                                               {L"Duration", L"0:01.428 (68,545 samples)"},
                                               {L"Peak level", L"-6.5 dBFS"},
                                               {L"RMS level", L"-22.6 dBFS"},
+                                              {L"Crest factor", L"16.1 dB"},
+                                              {L"Loudness", L"-23.0 LUFS"},
+                                              {L"Strongest frequency", L"997.0 Hz"},
+                                              {L"Harmonic distortion", L"0.125 %"},
                                               {L"Status", L"OK"}};
     EXPECT_EQ(DescribeRecording("measured/a.wav", GoodRecording(), L"yesterday"), expected);
 }
@@ -112,7 +143,7 @@ TEST(RecordingDetails, SayOfAFileThatIsNoneWhatItIsAndWhy)
 {
     RecordingAnalysis analysis;
     analysis.file.size = 1;
-    analysis.problem = ReadProblem{ReadFault::NotWav};
+    analysis.problem = ReadProblem{ReadFault::not_wav};
     std::vector<DetailLine> const expected = {
         {L"File", L"a.wav"}, {L"Folder", L"measured"}, {L"Size", L"1 byte"}, {L"Status", analysis.problem->Text()}};
     EXPECT_EQ(DescribeRecording("measured/a.wav", analysis, L""), expected);
@@ -129,10 +160,10 @@ TEST(RecordingDetails, NameTheCoding)
 {
     RecordingInfo info;
     info.bitsPerSample = 32;
-    info.coding = SampleCoding::Float;
+    info.coding = SampleCoding::floating_point;
     EXPECT_EQ(FormatCoding(info), L"32-bit float");
     info.bitsPerSample = 8;
-    info.coding = SampleCoding::UnsignedInteger;
+    info.coding = SampleCoding::unsigned_integer;
     EXPECT_EQ(FormatCoding(info), L"8-bit PCM");
 }
 

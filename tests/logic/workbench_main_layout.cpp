@@ -32,9 +32,9 @@ MainLayoutNeeds Needs(int width, int height)
 }
 } // namespace
 
-TEST(WorkbenchMainLayout, TheLeastAreaHoldsListPanesAndStatus)
+TEST(WorkbenchMainLayout, TheLeastAreaHoldsPanesAndStatus)
 {
-    EXPECT_EQ(LeastMainArea(Needs(0, 0), 500), CSize(520, 8 + 100 + 120 + 110 + 40 + 3 * (18 + 4) + 6 + 20 + 8));
+    EXPECT_EQ(LeastMainArea(Needs(0, 0), 500), CSize(520, 8 + 100 + 120 + 110 + 40 + 4 * 18 + 3 * 4 + 6 + 20 + 8));
 }
 
 TEST(WorkbenchMainLayout, ThePanesHaveWhatMarginsAndStatusLeave)
@@ -69,10 +69,12 @@ TEST(WorkbenchMainLayout, ThePanesKeepTheirLeastWidthWhereThereIsAsMuch)
 TEST(WorkbenchMainLayout, GrowthGoesToListWaveformAndSpectrogram)
 {
     auto needs = Needs(520, LeastMainArea(Needs(0, 0), 0).cy);
+    EXPECT_EQ(DefaultPanes(needs).list, 118);
     EXPECT_EQ(DefaultPanes(needs).waveform, 138);
     EXPECT_EQ(DefaultPanes(needs).spectrogram, 128);
     EXPECT_EQ(DefaultPanes(needs).measures, 58);
     needs.client.cy += 100;
+    EXPECT_EQ(DefaultPanes(needs).list, 148);
     EXPECT_EQ(DefaultPanes(needs).waveform, 168);
     EXPECT_EQ(DefaultPanes(needs).spectrogram, 168);
     EXPECT_EQ(DefaultPanes(needs).measures, 58);

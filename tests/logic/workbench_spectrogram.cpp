@@ -629,12 +629,12 @@ TEST(SpectrogramAnalyser, GivesTheProblemOfAFileThatCannotBeRead)
 {
     SpectrogramAnalyser none(std::unique_ptr<ByteSource>{});
     ASSERT_TRUE(none.Problem());
-    EXPECT_EQ(none.Problem()->fault, ReadFault::CannotBeOpened);
+    EXPECT_EQ(none.Problem()->fault, ReadFault::cannot_be_opened);
     EXPECT_FALSE(none.Step());
     EXPECT_EQ(none.Progress(), 1.0);
     EXPECT_EQ(none.Info().frames, 0u);
     EXPECT_EQ(none.Take().Columns(), 0u);
-    EXPECT_EQ(SpectrogramAnalyser(std::filesystem::path("missing.wav")).Problem()->fault, ReadFault::CannotBeOpened);
+    EXPECT_EQ(SpectrogramAnalyser(std::filesystem::path("missing.wav")).Problem()->fault, ReadFault::cannot_be_opened);
 }
 
 TEST(FrequencyTicks, StandAtRoundNumbersAndKeepTheirDistance)

@@ -87,7 +87,7 @@ TEST_F(SpectrogramJobTest, GivesTheProblemOfAFileThatCannotBeRead)
     ASSERT_TRUE(WaitForNotification());
     auto const result = job.GetResult();
     ASSERT_TRUE(result && result->problem);
-    EXPECT_EQ(result->problem->fault, ReadFault::CannotBeOpened);
+    EXPECT_EQ(result->problem->fault, ReadFault::cannot_be_opened);
     EXPECT_EQ(result->spectrogram.Columns(), 0u);
 }
 

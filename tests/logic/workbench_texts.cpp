@@ -1,15 +1,18 @@
-// The workbench's texts in German.
+// The workbench's texts in its languages: those of the sources, and those of its menus and dialogs.
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cctype>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <map>
 #include <regex>
 #include <set>
+#include <sstream>
 #include <string>
+#include <vector>
 
 #include "logic/RecordingAnalysis.h"
 #include "logic/RecordingDetails.h"
@@ -74,15 +77,26 @@ std::set<std::string> TextsOfTheSources()
     return texts;
 }
 
-/// The entries of the catalogue: English and German.
-std::map<std::string, std::string> Entries()
+/// The contents of the literals in a text, in their order.
+std::vector<std::string> Literals(std::string const & text)
 {
-    std::map<std::string, std::string> entries;
+    std::vector<std::string> literals;
+    std::regex const literal(R"re("((?:[^"\\]|\\.)*)")re");
+    for (std::sregex_iterator match(text.begin(), text.end(), literal), end; match != end; ++match)
+        literals.push_back(Unescaped((*match)[1]));
+    return literals;
+}
+
+/// The entries of the catalogue: by the English text, the texts in all languages by their number.
+std::map<std::string, std::vector<std::string>> Entries()
+{
+    std::map<std::string, std::vector<std::string>> entries;
     auto const source = ReadFile(std::filesystem::path(WORKBENCH_SOURCES) / "logic" / "Texts.cpp");
-    std::regex const entry(R"re(\{L"((?:[^"\\]|\\.)*)",\s*L"((?:[^"\\]|\\.)*)"\})re");
+    std::regex const entry(R"re(\{L"(?:[^"\\]|\\.)*"(?:,\s*L"(?:[^"\\]|\\.)*")*\})re");
     for (std::sregex_iterator match(source.begin(), source.end(), entry), end; match != end; ++match)
     {
-        EXPECT_TRUE(entries.emplace(Unescaped((*match)[1]), Unescaped((*match)[2])).second) << "twice: " << (*match)[1];
+        auto const texts = Literals(match->str());
+        EXPECT_TRUE(entries.emplace(texts.front(), texts).second) << "twice: " << texts.front();
     }
     return entries;
 }
@@ -101,40 +115,171 @@ std::size_t Count(std::string const & text, char character)
     return static_cast<std::size_t>(std::count(text.begin(), text.end(), character));
 }
 
+/// What Alt selects a text by, in capitals, or 0. Keys beyond ASCII are no good: not every keyboard has them.
+char AccessKey(std::string const & text)
+{
+    auto const mark = text.find('&');
+    return mark == std::string::npos ? '\0'
+                                     : static_cast<char>(std::toupper(static_cast<unsigned char>(text[mark + 1])));
+}
+
+/// The keys after the tab: how many, and the last one where it has the same name in every language (A, F2).
+std::string Shortcut(std::string const & text)
+{
+    auto const tab = text.find('\t');
+    auto const keys = tab == std::string::npos ? std::string() : text.substr(tab + 1);
+    auto const last = keys.substr(keys.find_last_of('+', std::max<std::size_t>(keys.size(), 2) - 2) + 1);
+    return std::to_string(Count(keys, '+')) + ' ' + (last.size() <= 2 ? last : "a named key");
+}
+
+bool OpensADialog(std::string const & text)
+{
+    return text.substr(0, text.find('\t')).ends_with("...");
+}
+
+/// Both texts fill the same place.
+void ExpectSameForm(std::string const & english, std::string const & text)
+{
+    // A percent sign before a blank is one of a sentence.
+    EXPECT_EQ(Conversions(english), Conversions(text)) << text;
+    EXPECT_EQ(Count(english, '&'), Count(text, '&')) << text;
+    if (Count(english, '&') == 1)
+    {
+        EXPECT_TRUE(std::isalnum(static_cast<unsigned char>(AccessKey(text)))) << text;
+    }
+    EXPECT_EQ(Count(english, '|'), Count(text, '|')) << text;
+    EXPECT_EQ(Shortcut(english), Shortcut(text)) << text;
+    EXPECT_EQ(OpensADialog(english), OpensADialog(text)) << text;
+}
+
+/// The menus and dialogs of the resources in the languages that they are in, in the order of the file.
+std::vector<std::string> ResourcesByLanguage()
+{
+    std::istringstream lines(ReadFile(std::filesystem::path(WORKBENCH_SOURCES) / "workbench.rc"));
+    std::vector<std::string> languages;
+    bool isInside = false;
+    std::regex const start(R"re(^\w+ (?:MENU|DIALOGEX)\b.*)re");
+    for (std::string line; std::getline(lines, line);)
+    {
+        if (line.starts_with("LANGUAGE "))
+            languages.emplace_back();
+        isInside = isInside || std::regex_match(line, start);
+        if (isInside)
+            languages.back() += line + '\n';
+        isInside = isInside && line != "END";
+    }
+    return languages;
+}
+
+/// The lines of resources with their texts taken out.
+std::vector<std::string> Form(std::string const & resources)
+{
+    std::vector<std::string> form;
+    std::istringstream lines(std::regex_replace(resources, std::regex(R"re("[^"]*")re"), "\"\""));
+    for (std::string line; std::getline(lines, line);)
+        form.push_back(line);
+    return form;
+}
+
+/// The texts of each menu, pop-up and dialog, as they stand beside each other on the screen.
+std::vector<std::vector<std::string>> Groups(std::string const & resources)
+{
+    std::vector<std::vector<std::string>> groups;
+    std::vector<std::vector<std::string>> open;
+    std::istringstream lines(resources);
+    for (std::string line; std::getline(lines, line);)
+    {
+        auto const word = line.substr(std::min(line.find_first_not_of(' '), line.size()));
+        if (word == "BEGIN")
+        {
+            open.emplace_back();
+        }
+        else if (word == "END")
+        {
+            groups.push_back(open.back());
+            open.pop_back();
+        }
+        else if (auto const texts = Literals(line); !texts.empty() && !open.empty())
+        {
+            open.back().push_back(texts.front());
+        }
+    }
+    return groups;
+}
+
 } // namespace
 
-TEST(WorkbenchTexts, EveryTextOfTheSourcesHasAGermanOne)
+TEST(WorkbenchTexts, EveryTextOfTheSourcesIsThereInAllLanguages)
 {
     auto const texts = TextsOfTheSources();
     auto const entries = Entries();
     EXPECT_GT(texts.size(), 60u);
     for (auto const & text : texts)
-        EXPECT_EQ(entries.count(text), 1u) << text;
+    {
+        auto const entry = entries.find(text);
+        ASSERT_NE(entry, entries.end()) << text;
+        EXPECT_EQ(entry->second.size(), language_count) << text;
+    }
 }
 
 TEST(WorkbenchTexts, EveryEntryOfTheCatalogueIsUsed)
 {
     auto const texts = TextsOfTheSources();
-    for (auto const & [english, german] : Entries())
+    for (auto const & [english, all] : Entries())
         EXPECT_EQ(texts.count(english), 1u) << english;
 }
 
-TEST(WorkbenchTexts, EveryEntryIsFound)
+TEST(WorkbenchTexts, EveryEntryIsFoundInAllLanguages)
 {
-    LanguageScope const german(Language::German);
-    for (auto const & [english, text] : Entries())
-        EXPECT_EQ(Text(Widen(english).c_str()), Widen(text)) << english;
+    auto const entries = Entries();
+    for (std::size_t language = 0; language < language_count; ++language)
+    {
+        LanguageScope const scope(static_cast<Language>(language));
+        for (auto const & [english, texts] : entries)
+            EXPECT_EQ(Text(Widen(english).c_str()), Widen(texts.at(language))) << english;
+    }
 }
 
-TEST(WorkbenchTexts, TheGermanTextHasTheSameConversionsMnemonicAndKey)
+TEST(WorkbenchTexts, ATextHasTheSameConversionsAccessKeyAndShortcutInAllLanguages)
 {
-    for (auto const & [english, german] : Entries())
+    for (auto const & [english, texts] : Entries())
+        for (auto const & text : texts)
+            ExpectSameForm(english, text);
+}
+
+TEST(WorkbenchTexts, MenusAndDialogsAreThereInAllLanguages)
+{
+    auto const resources = ResourcesByLanguage();
+    ASSERT_EQ(resources.size(), language_count);
+    auto const english = Literals(resources.front());
+    EXPECT_GT(english.size(), 90u);
+    for (auto const & language : resources)
     {
-        // A percent sign before a blank is one of a sentence.
-        EXPECT_EQ(Conversions(english), Conversions(german)) << english;
-        EXPECT_EQ(Count(english, '&'), Count(german, '&')) << english;
-        EXPECT_EQ(Count(english, '\t'), Count(german, '\t')) << english;
-        EXPECT_EQ(Count(english, '|'), Count(german, '|')) << english;
+        auto const form = Form(language);
+        auto const wanted = Form(resources.front());
+        auto const [line, wantedLine] = std::ranges::mismatch(form, wanted);
+        EXPECT_TRUE(line == form.end() && wantedLine == wanted.end())
+            << (line == form.end() ? "the end" : *line) << " instead of "
+            << (wantedLine == wanted.end() ? "the end" : *wantedLine);
+        auto const texts = Literals(language);
+        ASSERT_EQ(texts.size(), english.size());
+        for (std::size_t i = 0; i < texts.size(); ++i)
+            ExpectSameForm(english[i], texts[i]);
+    }
+}
+
+TEST(WorkbenchTexts, AnAccessKeyIsThereOnceInAMenuOrDialog)
+{
+    for (auto const & language : ResourcesByLanguage())
+    {
+        auto const groups = Groups(language);
+        EXPECT_GT(groups.size(), 10u);
+        for (auto const & group : groups)
+        {
+            std::set<char> keys;
+            for (auto const & text : group)
+                EXPECT_TRUE(AccessKey(text) == '\0' || keys.insert(AccessKey(text)).second) << text;
+        }
     }
 }
 
@@ -155,20 +300,28 @@ TEST(WorkbenchTexts, EnglishIsTheFirstLanguageAndComesBack)
     EXPECT_STREQ(Text(L"Settings"), L"Settings");
 }
 
-TEST(WorkbenchTexts, GermanOfEveryCountryIsGerman)
+TEST(WorkbenchTexts, ALanguageIsTheSameInEveryCountry)
 {
-    EXPECT_EQ(LanguageOf(1031), Language::German);
-    EXPECT_EQ(LanguageOf(2055), Language::German); // Switzerland
-    EXPECT_EQ(LanguageOf(3079), Language::German); // Austria
-    EXPECT_EQ(LanguageOf(1033), Language::English);
-    EXPECT_EQ(LanguageOf(2052), Language::English); // Chinese
-    EXPECT_EQ(LanguageOf(1024), Language::English);
+    for (std::size_t language = 0; language < language_count; ++language)
+    {
+        EXPECT_EQ(LanguageOf(language_facts[language].id), static_cast<Language>(language));
+        EXPECT_TRUE(SpeaksLanguage(language_facts[language].id));
+    }
+    EXPECT_EQ(LanguageOf(2055), Language::German);  // Switzerland
+    EXPECT_EQ(LanguageOf(3079), Language::German);  // Austria
+    EXPECT_EQ(LanguageOf(2058), Language::Spanish); // Mexico
+    EXPECT_TRUE(SpeaksLanguage(2058));
+    for (unsigned short const other : {2052, 1024, 0}) // Chinese, the user's default, none
+    {
+        EXPECT_EQ(LanguageOf(other), Language::English);
+        EXPECT_FALSE(SpeaksLanguage(other));
+    }
 }
 
 TEST(WorkbenchTexts, FaultsAndDetailsAreTold)
 {
     LanguageScope const german(Language::German);
-    ReadProblem problem{ReadFault::UnknownFormat};
+    ReadProblem problem{ReadFault::unknown_format};
     problem.formatTag = 0x55;
     EXPECT_EQ(problem.Text(), L"unbekanntes Format (Kennung 0x0055)");
     problem.formatTag = 1;
@@ -176,7 +329,7 @@ TEST(WorkbenchTexts, FaultsAndDetailsAreTold)
     EXPECT_EQ(problem.Text(), L"unbekanntes Format (12 Bit PCM)");
 
     RecordingAnalysis analysis;
-    analysis.problem = ReadProblem{ReadFault::NotWav};
+    analysis.problem = ReadProblem{ReadFault::not_wav};
     auto const lines = DescribeRecording("a.wav", analysis, L"");
     EXPECT_EQ(lines.front().label, L"Datei");
     EXPECT_EQ(lines.back(), (DetailLine{L"Zustand", L"keine WAV-Datei"}));

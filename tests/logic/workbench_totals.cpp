@@ -23,18 +23,18 @@ TEST(RecordingTotals, CountWhatIsCheckedAndUnreadable)
     EXPECT_EQ(totals.Lines(), 3U);
     EXPECT_EQ(totals.Checked(), 2U);
     EXPECT_EQ(totals.CheckedMilliseconds(), 0U);
-    totals.SetState(0, State::Readable, 1500);
-    totals.SetState(1, State::Readable, 20);
+    totals.SetState(0, State::readable, 1500);
+    totals.SetState(1, State::readable, 20);
     EXPECT_EQ(totals.CheckedMilliseconds(), 1500U);
     totals.SetChecked(1, true);
     EXPECT_EQ(totals.CheckedMilliseconds(), 1520U);
-    totals.SetState(2, State::Unreadable, 0);
+    totals.SetState(2, State::unreadable, 0);
     EXPECT_EQ(totals.Unreadable(), 1U);
     EXPECT_EQ(totals.Checked(), 2U);
     totals.SetChecked(2, true);
     EXPECT_FALSE(totals.IsChecked(2));
     EXPECT_EQ(totals.Checked(), 2U);
-    totals.SetState(2, State::Unread, 0);
+    totals.SetState(2, State::unread, 0);
     EXPECT_EQ(totals.Unreadable(), 0U);
     totals.Clear();
     EXPECT_EQ(totals.Lines(), 0U);
@@ -46,18 +46,18 @@ TEST(RecordingTotals, IgnoreLinesThatDoNotExist)
 {
     RecordingTotals totals;
     totals.SetChecked(0, true);
-    totals.SetState(0, State::Unreadable, 5);
+    totals.SetState(0, State::unreadable, 5);
     EXPECT_EQ(totals.Checked(), 0U);
     EXPECT_EQ(totals.Unreadable(), 0U);
     EXPECT_FALSE(totals.IsChecked(7));
-    EXPECT_EQ(totals.StateOf(7), State::Unread);
+    EXPECT_EQ(totals.StateOf(7), State::unread);
 }
 
 TEST(RecordingTotals, AreTheSumsMadeAfresh)
 {
     struct Line
     {
-        State state = State::Unread;
+        State state = State::unread;
         bool checked = false;
         std::uint64_t milliseconds = 0;
     };
@@ -76,13 +76,13 @@ TEST(RecordingTotals, AreTheSumsMadeAfresh)
         {
             auto const checked = random() % 2 == 0;
             totals.SetChecked(which, checked);
-            line.checked = checked && line.state != State::Unreadable;
+            line.checked = checked && line.state != State::unreadable;
         }
         else
         {
             line.state = static_cast<State>(random() % 3);
             line.milliseconds = random() % 100000;
-            line.checked = line.checked && line.state != State::Unreadable;
+            line.checked = line.checked && line.state != State::unreadable;
             totals.SetState(which, line.state, line.milliseconds);
         }
         std::size_t checked = 0;
@@ -91,7 +91,7 @@ TEST(RecordingTotals, AreTheSumsMadeAfresh)
         for (auto const & other : lines)
         {
             checked += other.checked ? 1 : 0;
-            unreadable += other.state == State::Unreadable ? 1 : 0;
+            unreadable += other.state == State::unreadable ? 1 : 0;
             milliseconds += other.checked ? other.milliseconds : 0;
         }
         ASSERT_EQ(totals.Checked(), checked);

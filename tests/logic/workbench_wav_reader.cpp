@@ -94,7 +94,7 @@ TEST(WavReader, ReadsEightBitSamplesAsUnsigned)
     }
     auto const content = ReadAll(wav::File().Chunk("fmt ", wav::Format(1, 1, 11025, 1, 8)).Chunk("data", data));
     EXPECT_EQ(content.samples, (std::vector<double>{-1.0, -0.5, 0.0, 0.5, 127.0 / 128.0}));
-    EXPECT_EQ(content.info.coding, SampleCoding::UnsignedInteger);
+    EXPECT_EQ(content.info.coding, SampleCoding::unsigned_integer);
     EXPECT_EQ(content.info.sampleRate, 11025u);
     EXPECT_EQ(content.info.frames, 5u);
 }
@@ -103,7 +103,7 @@ TEST(WavReader, ReadsSixteenBitSamples)
 {
     auto const content = ReadAll(Mono16({-32768, -16384, -1, 0, 1, 32767}));
     EXPECT_EQ(content.samples, (std::vector<double>{-1.0, -0.5, -1.0 / 32768, 0.0, 1.0 / 32768, 32767.0 / 32768}));
-    EXPECT_EQ(content.info.coding, SampleCoding::SignedInteger);
+    EXPECT_EQ(content.info.coding, SampleCoding::signed_integer);
     EXPECT_EQ(content.info.bitsPerSample, 16u);
 }
 
@@ -140,7 +140,7 @@ TEST(WavReader, ReadsFloatSamplesAboveFullScaleUnchanged)
     }
     auto const content = ReadAll(wav::File().Chunk("fmt ", wav::Format(3, 1, 48000, 4, 32)).Chunk("data", data));
     EXPECT_EQ(content.samples, (std::vector<double>{-1.5, -0.25, 0.0, 1.0, 2.0}));
-    EXPECT_EQ(content.info.coding, SampleCoding::Float);
+    EXPECT_EQ(content.info.coding, SampleCoding::floating_point);
     EXPECT_EQ(content.invalid, 0u);
 }
 
@@ -295,7 +295,7 @@ TEST(WavReader, TakesADataSizeThatWasNeverWrittenUpToTheEndOfTheFile)
 
 TEST(WavReader, TakesADataSizeOfZeroBeforeAnotherChunkAsEmpty)
 {
-    EXPECT_EQ(Fault(Mono16({}).Chunk("LIST", wav::Bytes(10))), ReadFault::Empty);
+    EXPECT_EQ(Fault(Mono16({}).Chunk("LIST", wav::Bytes(10))), ReadFault::empty);
 }
 
 TEST(WavReader, GivesWhatIsThereOfACutOffRecordingAndSaysSo)
@@ -373,28 +373,28 @@ TEST(WavReader, ReadsLongRecordingsInBlocks)
 TEST(WavReader, ReportsASourceThatIsMissing)
 {
     auto const opened = WavReader::Open(nullptr);
-    EXPECT_EQ(std::get<ReadProblem>(opened).fault, ReadFault::CannotBeOpened);
+    EXPECT_EQ(std::get<ReadProblem>(opened).fault, ReadFault::cannot_be_opened);
 }
 
 TEST(WavReader, ReportsAFileWithoutBytesAsEmpty)
 {
-    EXPECT_EQ(Problem({}).fault, ReadFault::Empty);
+    EXPECT_EQ(Problem({}).fault, ReadFault::empty);
 }
 
 TEST(WavReader, ReportsOtherFilesAsNotWav)
 {
-    EXPECT_EQ(Problem(Text("R")).fault, ReadFault::NotWav);
-    EXPECT_EQ(Problem(Text("Hello, this is a letter to somebody.")).fault, ReadFault::NotWav);
+    EXPECT_EQ(Problem(Text("R")).fault, ReadFault::not_wav);
+    EXPECT_EQ(Problem(Text("Hello, this is a letter to somebody.")).fault, ReadFault::not_wav);
     EXPECT_EQ(Problem(Text("RIFF\x04\x01\x01\x01"
                            "AVI LIST and more"))
                   .fault,
-              ReadFault::NotWav);
+              ReadFault::not_wav);
 }
 
 TEST(WavReader, NamesTheOtherKindsOfWav)
 {
-    EXPECT_EQ(Problem(Text("RIFX and so on")).fault, ReadFault::BigEndian);
-    EXPECT_EQ(Problem(Text("RF64 and so on")).fault, ReadFault::SixtyFourBit);
+    EXPECT_EQ(Problem(Text("RIFX and so on")).fault, ReadFault::big_endian);
+    EXPECT_EQ(Problem(Text("RF64 and so on")).fault, ReadFault::sixty_four_bit);
 }
 
 TEST(WavReader, ReportsAFileThatEndsAnywhereBeforeItsFirstSampleAsCutOff)
@@ -402,33 +402,33 @@ TEST(WavReader, ReportsAFileThatEndsAnywhereBeforeItsFirstSampleAsCutOff)
     auto const whole = Mono16({1, 2, 3});
     for (std::size_t size = 4; size < data_body + 2; ++size)
     {
-        EXPECT_EQ(Fault(wav::File(whole).Cut(size)), ReadFault::CutOff) << size;
+        EXPECT_EQ(Fault(wav::File(whole).Cut(size)), ReadFault::cut_off) << size;
     }
 }
 
 TEST(WavReader, ReportsAChunkThatGoesOnBehindTheEndAsCutOff)
 {
-    EXPECT_EQ(Fault(wav::File().Chunk("JUNK", wav::Bytes(8)).LastChunkSize(1000)), ReadFault::CutOff);
+    EXPECT_EQ(Fault(wav::File().Chunk("JUNK", wav::Bytes(8)).LastChunkSize(1000)), ReadFault::cut_off);
 }
 
 TEST(WavReader, ReportsAPartOfAChunkHeaderAtTheEndAsCutOff)
 {
     auto file = wav::File().Chunk("fmt ", wav::Format(1, 1, 8000, 2, 16)).Chunk("data", wav::Samples16({1}));
     auto const end = data_body - 8;
-    EXPECT_EQ(Fault(file.Cut(end + 3).Patch32(4, static_cast<std::uint32_t>(end + 3 - 8))), ReadFault::CutOff);
+    EXPECT_EQ(Fault(file.Cut(end + 3).Patch32(4, static_cast<std::uint32_t>(end + 3 - 8))), ReadFault::cut_off);
 }
 
 TEST(WavReader, ReportsADamagedFormatAlsoInACutOffFile)
 {
     EXPECT_EQ(Fault(wav::File().Chunk("fmt ", wav::Bytes(14)).Chunk("LIST", wav::Bytes(4)).LastChunkSize(1000)),
-              ReadFault::DamagedHeader);
+              ReadFault::damaged_header);
 }
 
 TEST(WavReader, ReportsUnknownFormatsWithTheirTag)
 {
     auto const alaw =
         Problem(wav::File().Chunk("fmt ", wav::Format(6, 1, 8000, 1, 8)).Chunk("data", wav::Bytes(4)).Content());
-    EXPECT_EQ(alaw.fault, ReadFault::UnknownFormat);
+    EXPECT_EQ(alaw.fault, ReadFault::unknown_format);
     EXPECT_EQ(alaw.formatTag, 6u);
     EXPECT_EQ(alaw.Text(), L"unknown format (tag 0x0006)");
 
@@ -442,7 +442,7 @@ TEST(WavReader, ReportsAnExtensibleFormatOfAnotherFamilyAsUnknown)
     auto format = wav::Extensible(1, 1, 48000, 2, 16, 16);
     format.back() = std::byte{0};
     auto const problem = Problem(wav::File().Chunk("fmt ", format).Chunk("data", wav::Bytes(4)).Content());
-    EXPECT_EQ(problem.fault, ReadFault::UnknownFormat);
+    EXPECT_EQ(problem.fault, ReadFault::unknown_format);
     EXPECT_EQ(problem.formatTag, 0xFFFEu);
 }
 
@@ -461,24 +461,24 @@ TEST(WavReader, ReportsHeadersThatContradictThemselvesAsDamaged)
     auto const fault = [](wav::Bytes const & format) {
         return Fault(wav::File().Chunk("fmt ", format).Chunk("data", wav::Bytes(16)));
     };
-    EXPECT_EQ(fault(wav::Format(1, 0, 8000, 2, 16)), ReadFault::DamagedHeader) << "no channels";
-    EXPECT_EQ(fault(wav::Format(1, 1, 0, 2, 16)), ReadFault::DamagedHeader) << "no sample rate";
-    EXPECT_EQ(fault(wav::Format(1, 1, 8000, 0, 16)), ReadFault::DamagedHeader) << "no frame size";
-    EXPECT_EQ(fault(wav::Format(1, 2, 8000, 3, 16)), ReadFault::DamagedHeader) << "frame size no multiple";
-    EXPECT_EQ(fault(wav::Format(1, 1, 8000, 1, 16)), ReadFault::DamagedHeader) << "more bits than bytes";
-    EXPECT_EQ(fault(wav::Format(1, 1, 8000, 2, 0)), ReadFault::DamagedHeader) << "no bits";
-    EXPECT_EQ(fault(wav::Format(3, 1, 8000, 4, 64)), ReadFault::DamagedHeader) << "double in four bytes";
-    EXPECT_EQ(fault(wav::Bytes(14)), ReadFault::DamagedHeader) << "format chunk too short";
+    EXPECT_EQ(fault(wav::Format(1, 0, 8000, 2, 16)), ReadFault::damaged_header) << "no channels";
+    EXPECT_EQ(fault(wav::Format(1, 1, 0, 2, 16)), ReadFault::damaged_header) << "no sample rate";
+    EXPECT_EQ(fault(wav::Format(1, 1, 8000, 0, 16)), ReadFault::damaged_header) << "no frame size";
+    EXPECT_EQ(fault(wav::Format(1, 2, 8000, 3, 16)), ReadFault::damaged_header) << "frame size no multiple";
+    EXPECT_EQ(fault(wav::Format(1, 1, 8000, 1, 16)), ReadFault::damaged_header) << "more bits than bytes";
+    EXPECT_EQ(fault(wav::Format(1, 1, 8000, 2, 0)), ReadFault::damaged_header) << "no bits";
+    EXPECT_EQ(fault(wav::Format(3, 1, 8000, 4, 64)), ReadFault::damaged_header) << "double in four bytes";
+    EXPECT_EQ(fault(wav::Bytes(14)), ReadFault::damaged_header) << "format chunk too short";
     auto extensible = wav::Extensible(1, 1, 8000, 2, 16, 16);
     extensible.resize(24);
-    EXPECT_EQ(fault(extensible), ReadFault::DamagedHeader) << "extensible format chunk too short";
+    EXPECT_EQ(fault(extensible), ReadFault::damaged_header) << "extensible format chunk too short";
 }
 
 TEST(WavReader, ReportsAWholeFileWithoutFormatOrDataAsDamaged)
 {
-    EXPECT_EQ(Fault(wav::File()), ReadFault::DamagedHeader);
-    EXPECT_EQ(Fault(wav::File().Chunk("fmt ", wav::Format(1, 1, 8000, 2, 16))), ReadFault::DamagedHeader);
-    EXPECT_EQ(Fault(wav::File().Chunk("data", wav::Bytes(4))), ReadFault::DamagedHeader);
+    EXPECT_EQ(Fault(wav::File()), ReadFault::damaged_header);
+    EXPECT_EQ(Fault(wav::File().Chunk("fmt ", wav::Format(1, 1, 8000, 2, 16))), ReadFault::damaged_header);
+    EXPECT_EQ(Fault(wav::File().Chunk("data", wav::Bytes(4))), ReadFault::damaged_header);
 }
 
 TEST(WavReader, GivesUpOnAFileOfNothingButChunks)
@@ -489,26 +489,26 @@ TEST(WavReader, GivesUpOnAFileOfNothingButChunks)
         file.Chunk("JUNK", {});
     }
     file.Chunk("fmt ", wav::Format(1, 1, 8000, 2, 16)).Chunk("data", wav::Samples16({1}));
-    EXPECT_EQ(Fault(file), ReadFault::DamagedHeader);
+    EXPECT_EQ(Fault(file), ReadFault::damaged_header);
 }
 
 TEST(WavReader, ReportsAWholeFileWithoutSamplesAsEmpty)
 {
-    EXPECT_EQ(Fault(Mono16({})), ReadFault::Empty);
+    EXPECT_EQ(Fault(Mono16({})), ReadFault::empty);
     EXPECT_EQ(Fault(wav::File().Chunk("fmt ", wav::Format(1, 2, 8000, 4, 16)).Chunk("data", wav::Bytes(3))),
-              ReadFault::Empty);
+              ReadFault::empty);
 }
 
 TEST(WavReader, SaysInEnglishWhatIsWrong)
 {
     auto const text = [](ReadFault fault) { return ReadProblem{fault}.Text(); };
-    EXPECT_EQ(text(ReadFault::CannotBeOpened), L"cannot be opened");
-    EXPECT_EQ(text(ReadFault::NotWav), L"not a WAV file");
-    EXPECT_EQ(text(ReadFault::BigEndian), L"big-endian WAV (RIFX)");
-    EXPECT_EQ(text(ReadFault::SixtyFourBit), L"64-bit WAV (RF64)");
-    EXPECT_EQ(text(ReadFault::CutOff), L"cut off before the first sample");
-    EXPECT_EQ(text(ReadFault::DamagedHeader), L"damaged header");
-    EXPECT_EQ(text(ReadFault::Empty), L"empty, no samples");
+    EXPECT_EQ(text(ReadFault::cannot_be_opened), L"cannot be opened");
+    EXPECT_EQ(text(ReadFault::not_wav), L"not a WAV file");
+    EXPECT_EQ(text(ReadFault::big_endian), L"big-endian WAV (RIFX)");
+    EXPECT_EQ(text(ReadFault::sixty_four_bit), L"64-bit WAV (RF64)");
+    EXPECT_EQ(text(ReadFault::cut_off), L"cut off before the first sample");
+    EXPECT_EQ(text(ReadFault::damaged_header), L"damaged header");
+    EXPECT_EQ(text(ReadFault::empty), L"empty, no samples");
 }
 
 } // namespace

@@ -7,7 +7,7 @@ namespace tests
 {
 namespace
 {
-constexpr std::uint32_t ColourBits = 0x00FFFFFF;
+constexpr std::uint32_t colour_bits = 0x00FFFFFF;
 
 std::uint32_t ToPixel(COLORREF colour)
 {
@@ -59,7 +59,7 @@ COLORREF Canvas::Pixel(int x, int y) const
 
 COLORREF Canvas::PixelAt(int x, int y) const
 {
-    return FromPixel(m_bits[static_cast<size_t>(y) * m_width + x] & ColourBits);
+    return FromPixel(m_bits[static_cast<size_t>(y) * m_width + x] & colour_bits);
 }
 
 void Canvas::Fill(COLORREF colour)

@@ -4,8 +4,8 @@ namespace tests
 {
 namespace
 {
-constexpr size_t CountIndex = 8; // the word with the number of controls in the extended template
-constexpr WORD PointSize = 8;
+constexpr size_t count_index = 8; // the word with the number of controls in the extended template
+constexpr WORD point_size = 8;
 } // namespace
 
 DialogTemplate::DialogTemplate(std::wstring_view title, CRect const & rect, DWORD style, DWORD exStyle,
@@ -22,7 +22,7 @@ DialogTemplate::DialogTemplate(std::wstring_view title, CRect const & rect, DWOR
     PutText(title);
     if (!font.empty())
     {
-        m_words.push_back(PointSize);
+        m_words.push_back(point_size);
         m_words.push_back(FW_NORMAL);
         m_words.push_back(DEFAULT_CHARSET << 8); // not italic, character set
         PutText(font);
@@ -42,7 +42,7 @@ void DialogTemplate::Add(std::wstring_view className, std::wstring_view text, in
     PutText(className);
     PutText(text);
     m_words.push_back(0); // no creation data
-    m_words[CountIndex] = ++m_count;
+    m_words[count_index] = ++m_count;
 }
 
 void DialogTemplate::PutDword(DWORD value)

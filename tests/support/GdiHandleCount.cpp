@@ -12,10 +12,10 @@ namespace tests
 namespace
 {
 // The layout of the table as 64-bit Windows and Wine have it.
-constexpr size_t TablePointerOffset = 0xF8; // in the process environment block
-constexpr size_t EntrySize = 24;
-constexpr size_t EntryCount = 0x4000;
-constexpr size_t TypeOffset = 14;
+constexpr size_t table_pointer_offset = 0xF8; // in the process environment block
+constexpr size_t entry_size = 24;
+constexpr size_t entry_count = 0x4000;
+constexpr size_t type_offset = 14;
 
 std::byte const * ProcessEnvironmentBlock()
 {
@@ -29,13 +29,13 @@ int GdiHandleCount()
 {
     std::byte const * const peb = ProcessEnvironmentBlock();
     std::byte const * table = nullptr;
-    std::memcpy(&table, peb + TablePointerOffset, sizeof(table));
+    std::memcpy(&table, peb + table_pointer_offset, sizeof(table));
     if (table == nullptr)
         return 0;
     int count = 0;
-    for (size_t i = 0; i < EntryCount; ++i)
+    for (size_t i = 0; i < entry_count; ++i)
     {
-        if (table[i * EntrySize + TypeOffset] != std::byte{0})
+        if (table[i * entry_size + type_offset] != std::byte{0})
             ++count;
     }
     return count;

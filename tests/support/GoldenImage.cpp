@@ -12,40 +12,40 @@ namespace tests
 {
 namespace
 {
-constexpr std::size_t BytesPerPixel = 3;
-constexpr std::size_t HeadersSize = sizeof(BITMAPFILEHEADER) + sizeof(BITMAPINFOHEADER);
+constexpr std::size_t bytes_per_pixel = 3;
+constexpr std::size_t headers_size = sizeof(BITMAPFILEHEADER) + sizeof(BITMAPINFOHEADER);
 
 using Bytes = std::vector<char>;
 
 std::size_t RowSize(int width)
 {
-    return (static_cast<std::size_t>(width) * BytesPerPixel + 3) / 4 * 4;
+    return (static_cast<std::size_t>(width) * bytes_per_pixel + 3) / 4 * 4;
 }
 
 /// A 24-bit bitmap file, its lowest row first.
 Bytes ToFile(Canvas const & canvas)
 {
     std::size_t const rowSize = RowSize(canvas.Width());
-    std::size_t const size = HeadersSize + rowSize * static_cast<std::size_t>(canvas.Height());
+    std::size_t const size = headers_size + rowSize * static_cast<std::size_t>(canvas.Height());
 
     BITMAPFILEHEADER file = {};
     file.bfType = 0x4D42;
     file.bfSize = static_cast<DWORD>(size);
-    file.bfOffBits = HeadersSize;
+    file.bfOffBits = headers_size;
     BITMAPINFOHEADER info = {};
     info.biSize = sizeof info;
     info.biWidth = canvas.Width();
     info.biHeight = canvas.Height();
     info.biPlanes = 1;
-    info.biBitCount = 8 * BytesPerPixel;
+    info.biBitCount = 8 * bytes_per_pixel;
 
     Bytes bytes(size, 0);
     std::memcpy(bytes.data(), &file, sizeof file);
     std::memcpy(bytes.data() + sizeof file, &info, sizeof info);
     for (int y = 0; y < canvas.Height(); ++y)
     {
-        char * pixel = bytes.data() + HeadersSize + rowSize * static_cast<std::size_t>(canvas.Height() - 1 - y);
-        for (int x = 0; x < canvas.Width(); ++x, pixel += BytesPerPixel)
+        char * pixel = bytes.data() + headers_size + rowSize * static_cast<std::size_t>(canvas.Height() - 1 - y);
+        for (int x = 0; x < canvas.Width(); ++x, pixel += bytes_per_pixel)
         {
             COLORREF const colour = canvas.Pixel(x, y);
             pixel[0] = static_cast<char>(GetBValue(colour));
@@ -78,7 +78,7 @@ std::string Difference(Bytes const & expected, Bytes const & actual, Canvas cons
 {
     if (expected.empty())
         return "there is no kept picture";
-    if (expected.size() < HeadersSize)
+    if (expected.size() < headers_size)
         return "the kept picture is cut off";
     BITMAPINFOHEADER info = {};
     std::memcpy(&info, expected.data() + sizeof(BITMAPFILEHEADER), sizeof info);
@@ -92,11 +92,11 @@ std::string Difference(Bytes const & expected, Bytes const & actual, Canvas cons
     for (int y = 0; y < canvas.Height(); ++y)
     {
         std::size_t const row =
-            HeadersSize + RowSize(canvas.Width()) * static_cast<std::size_t>(canvas.Height() - 1 - y);
+            headers_size + RowSize(canvas.Width()) * static_cast<std::size_t>(canvas.Height() - 1 - y);
         for (int x = 0; x < canvas.Width(); ++x)
         {
-            std::size_t const pixel = row + static_cast<std::size_t>(x) * BytesPerPixel;
-            if (std::memcmp(&expected[pixel], &actual[pixel], BytesPerPixel) == 0)
+            std::size_t const pixel = row + static_cast<std::size_t>(x) * bytes_per_pixel;
+            if (std::memcmp(&expected[pixel], &actual[pixel], bytes_per_pixel) == 0)
                 continue;
             if (differing++ == 0)
                 first = CPoint(x, y);

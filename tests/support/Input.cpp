@@ -9,11 +9,11 @@ namespace tests
 {
 namespace
 {
-constexpr ULONGLONG RestOfCursor = 30; // ms
+constexpr ULONGLONG rest_of_cursor = 30; // ms
 
 /// Where the mouse was moved last.
 std::optional<CPoint> g_moved;
-constexpr int AbsoluteRange = 65536; // SendInput's coordinates span the screen with 0 to 65535
+constexpr int absolute_range = 65536; // SendInput's coordinates span the screen with 0 to 65535
 
 void Send(std::vector<INPUT> input)
 {
@@ -69,9 +69,9 @@ ButtonFlags FlagsOf(Button button)
 {
     switch (button)
     {
-    case Button::Right:
+    case Button::right:
         return {MOUSEEVENTF_RIGHTDOWN, MOUSEEVENTF_RIGHTUP};
-    case Button::Middle:
+    case Button::middle:
         return {MOUSEEVENTF_MIDDLEDOWN, MOUSEEVENTF_MIDDLEUP};
     default:
         return {MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP};
@@ -81,7 +81,7 @@ ButtonFlags FlagsOf(Button button)
 LONG Absolute(int position, int extent)
 {
     // The middle of the pixel, so that rounding on the other side finds it again.
-    return (position * AbsoluteRange + AbsoluteRange / 2) / extent;
+    return (position * absolute_range + absolute_range / 2) / extent;
 }
 
 INPUT MoveTo(CPoint screen, DWORD flags = 0, DWORD data = 0)
@@ -151,7 +151,7 @@ bool MoveMouse(CPoint screen)
         }
         if (arrived == 0)
             arrived = now;
-        return now - arrived >= RestOfCursor;
+        return now - arrived >= rest_of_cursor;
     });
 }
 

@@ -32,18 +32,18 @@ void InjectMove(CPoint screen);
 
 enum class Button
 {
-    Left,
-    Right,
-    Middle
+    left,
+    right,
+    middle
 };
 /// Press and Release happen where the mouse was moved to last.
-void Press(Button button = Button::Left);
-void Release(Button button = Button::Left);
+void Press(Button button = Button::left);
+void Release(Button button = Button::left);
 /// Moves there, presses and releases.
-void Click(CPoint screen, Button button = Button::Left);
-void DoubleClick(CPoint screen, Button button = Button::Left);
+void Click(CPoint screen, Button button = Button::left);
+void DoubleClick(CPoint screen, Button button = Button::left);
 /// Presses at from, moves in steps to to and releases there. Pumps between the steps.
-void Drag(CPoint from, CPoint to, int steps = 8, Button button = Button::Left);
+void Drag(CPoint from, CPoint to, int steps = 8, Button button = Button::left);
 /// Turns the wheel; notches away from the user are positive.
 void Wheel(CPoint screen, int notches);
 

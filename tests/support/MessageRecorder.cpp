@@ -104,7 +104,7 @@ std::string Describe(ReceivedMessage const & received)
 {
     std::ostringstream text;
     text << received.window << ' ' << MessageName(received.message)
-         << (received.way == Way::Posted ? " posted" : " sent");
+         << (received.way == Way::posted ? " posted" : " sent");
     if (received.code)
         text << " code " << static_cast<int>(*received.code) << " id " << received.id;
     else
@@ -116,7 +116,7 @@ std::string Describe(ExpectedMessage const & expected)
 {
     std::ostringstream text;
     text << expected.window << ' ' << MessageName(expected.message)
-         << (expected.way == Way::Posted ? " posted" : " sent");
+         << (expected.way == Way::posted ? " posted" : " sent");
     if (expected.code)
         text << " code " << static_cast<int>(*expected.code);
     if (expected.id)
@@ -170,7 +170,7 @@ LRESULT CALLBACK MessageRecorder::OnSent(int code, WPARAM wParam, LPARAM lParam)
     {
         auto const & sent = *reinterpret_cast<CWPSTRUCT const *>(lParam);
         for (MessageRecorder * const recorder : Recorders())
-            recorder->Record(sent.hwnd, sent.message, sent.wParam, sent.lParam, Way::Sent);
+            recorder->Record(sent.hwnd, sent.message, sent.wParam, sent.lParam, Way::sent);
     }
     return ::CallNextHookEx(g_sentHook, code, wParam, lParam);
 }
@@ -181,7 +181,7 @@ LRESULT CALLBACK MessageRecorder::OnRetrieved(int code, WPARAM wParam, LPARAM lP
     {
         auto const & retrieved = *reinterpret_cast<MSG const *>(lParam);
         for (MessageRecorder * const recorder : Recorders())
-            recorder->Record(retrieved.hwnd, retrieved.message, retrieved.wParam, retrieved.lParam, Way::Posted);
+            recorder->Record(retrieved.hwnd, retrieved.message, retrieved.wParam, retrieved.lParam, Way::posted);
     }
     return ::CallNextHookEx(g_retrievedHook, code, wParam, lParam);
 }

@@ -7,8 +7,8 @@
 //     ...
 //     EXPECT_TRUE(recorder.Matches({
 //         {"edit", WM_SETFOCUS},
-//         {"dialog", WM_COMMAND, tests::Way::Sent, .code = EN_SETFOCUS},
-//         {"dialog", WM_TIMER, tests::Way::Posted, .optional = true},
+//         {"dialog", WM_COMMAND, tests::Way::sent, .code = EN_SETFOCUS},
+//         {"dialog", WM_TIMER, tests::Way::posted, .optional = true},
 //     }));
 //
 // Sent messages are recorded before the window's procedure runs, posted ones when the loop takes them out of the queue
@@ -27,8 +27,8 @@ namespace tests
 {
 enum class Way
 {
-    Sent,
-    Posted
+    sent,
+    posted
 };
 
 struct ReceivedMessage
@@ -46,7 +46,7 @@ struct ExpectedMessage
 {
     std::string window;
     UINT message = 0;
-    Way way = Way::Sent;
+    Way way = Way::sent;
     std::optional<WPARAM> wParam = {};
     std::optional<LPARAM> lParam = {};
     std::optional<UINT> code = {};

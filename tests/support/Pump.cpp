@@ -13,7 +13,7 @@ std::map<UINT_PTR, LaterActions *> & Timers()
     return timers;
 }
 
-constexpr UINT StepInterval = 10; // milliseconds
+constexpr UINT step_interval = 10; // milliseconds
 
 bool PumpOne()
 {
@@ -74,7 +74,7 @@ void PumpFor(std::chrono::milliseconds time)
 
 LaterActions::LaterActions()
 {
-    m_timer = ::SetTimer(nullptr, 0, StepInterval, OnTimer);
+    m_timer = ::SetTimer(nullptr, 0, step_interval, OnTimer);
     Timers()[m_timer] = this;
 }
 

@@ -8,7 +8,7 @@ namespace tests
 {
 namespace
 {
-constexpr int STRINGS_PER_BLOCK = 16;
+constexpr int strings_per_block = 16;
 
 BOOL CALLBACK AddLanguage(HMODULE, LPCWSTR, LPCWSTR, WORD language, LONG_PTR result)
 {
@@ -111,7 +111,7 @@ std::map<std::pair<WORD, int>, std::wstring> ReadStringTables(HMODULE module)
         {
             Bytes const bytes = ReadResource(module, RT_STRING, MAKEINTRESOURCEW(block), language);
             Cursor cursor(bytes);
-            for (int i = 0; i < STRINGS_PER_BLOCK; ++i)
+            for (int i = 0; i < strings_per_block; ++i)
             {
                 std::wstring text(cursor.Take<WORD>(), L'\0');
                 for (wchar_t & character : text)
@@ -120,7 +120,7 @@ std::map<std::pair<WORD, int>, std::wstring> ReadStringTables(HMODULE module)
                 }
                 if (!text.empty())
                 {
-                    texts[{language, (block - 1) * STRINGS_PER_BLOCK + i}] = text;
+                    texts[{language, (block - 1) * strings_per_block + i}] = text;
                 }
             }
             EXPECT_FALSE(cursor.RanOut()) << "string block " << block << ", language " << language;
@@ -153,13 +153,13 @@ std::vector<IconFrame> ReadIconGroup(HMODULE module, int id, WORD language)
 
 StoredDialog ParseDialogTemplate(Bytes const & bytes)
 {
-    constexpr WORD EXTENDED_VERSION = 1;
-    constexpr WORD EXTENDED_SIGNATURE = 0xFFFF;
+    constexpr WORD extended_version = 1;
+    constexpr WORD extended_signature = 0xFFFF;
 
     StoredDialog result;
     Cursor cursor(bytes);
-    EXPECT_EQ(cursor.Take<WORD>(), EXTENDED_VERSION);
-    EXPECT_EQ(cursor.Take<WORD>(), EXTENDED_SIGNATURE);
+    EXPECT_EQ(cursor.Take<WORD>(), extended_version);
+    EXPECT_EQ(cursor.Take<WORD>(), extended_signature);
     cursor.Take<DWORD>(); // help id
     result.exStyle = cursor.Take<DWORD>();
     result.style = cursor.Take<DWORD>();

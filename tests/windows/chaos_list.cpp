@@ -3,6 +3,7 @@
 #include "GuardedHeap.h"
 #include "ListTestHost.h"
 #include "Pump.h"
+#include "list/XListRowPool.h"
 
 #include <gtest/gtest.h>
 

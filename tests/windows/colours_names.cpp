@@ -23,9 +23,9 @@ namespace
 {
 using namespace Farbtabellen;
 
-constexpr WORD GERMAN = 1031;
-constexpr WORD ENGLISH = 1033;
-constexpr WORD SPANISH = 3082;
+constexpr WORD german_language = 1031;
+constexpr WORD english_language = 1033;
+constexpr WORD spanish_language = 3082;
 
 struct Names : CMFCColorBar
 {
@@ -140,7 +140,7 @@ void ExpectEntries(CPalette & palette, COLORREF (*colourAt)(int))
 CHILD_PROGRAM(NamesOfScopeColours)
 {
     bool const german = argument == L"German";
-    tests::ScopedLanguage const inForce(german ? GERMAN : ENGLISH);
+    tests::ScopedLanguage const inForce(german ? german_language : english_language);
     ScopeFarbenPalette();
     Differences differences;
     CompareScopeNames(german, differences);
@@ -150,7 +150,7 @@ CHILD_PROGRAM(NamesOfScopeColours)
 CHILD_PROGRAM(NamesOfScopeColoursWithTheSecondPalette)
 {
     bool const german = argument == L"German";
-    tests::ScopedLanguage const inForce(german ? GERMAN : ENGLISH);
+    tests::ScopedLanguage const inForce(german ? german_language : english_language);
     SelvaneFarbenPalette();
     Differences differences;
     CompareScopeNames(german, differences);
@@ -160,7 +160,7 @@ CHILD_PROGRAM(NamesOfScopeColoursWithTheSecondPalette)
 CHILD_PROGRAM(NamesOfScales)
 {
     bool const german = argument == L"German";
-    tests::ScopedLanguage const inForce(german ? GERMAN : ENGLISH);
+    tests::ScopedLanguage const inForce(german ? german_language : english_language);
     Differences differences;
     CompareScaleNames(german, differences);
     return differences.Count();
@@ -177,11 +177,11 @@ CHILD_PROGRAM(NamesStayInTheFirstLanguage)
 {
     Differences differences;
     {
-        tests::ScopedLanguage const inForce(ENGLISH);
+        tests::ScopedLanguage const inForce(english_language);
         ScopeFarbenPalette();
         SpektrogrammFarbtabellenName(0);
     }
-    tests::ScopedLanguage const inForce(GERMAN);
+    tests::ScopedLanguage const inForce(german_language);
     ScopeFarbenPalette();
     CompareScopeNames(false, differences);
     CompareScaleNames(false, differences);
@@ -289,8 +289,9 @@ TEST(ColourNames, OfScales)
 
 TEST(ColourNames, OfAnUnknownScaleSayThatThereIsNone)
 {
-    std::pair<WORD, char const *> const texts[] = {
-        {GERMAN, "(nicht definiert)"}, {ENGLISH, "(no entries)"}, {SPANISH, "(n\u00EDngun objetos)"}};
+    std::pair<WORD, char const *> const texts[] = {{german_language, "(nicht definiert)"},
+                                                   {english_language, "(no entries)"},
+                                                   {spanish_language, "(n\u00EDngun objetos)"}};
     for (auto const & [language, text] : texts)
     {
         tests::ChildProgram child("NameOfNoScale", std::to_wstring(language));

@@ -132,7 +132,7 @@ TEST_F(ComboChoice, PressOutsideClosesAndGoesOnToTheCombo)
     EXPECT_EQ(m_parent.TakeHeard(), (Heard{"SELENDCANCEL", "CLOSEUP"}));
     // The point as the drop window counts it.
     LPARAM const point = MAKELPARAM(outside.x - drop.left, outside.y - drop.top);
-    EXPECT_TRUE(recorder.Matches({{"combo", WM_LBUTTONDOWN, tests::Way::Sent, MK_LBUTTON, point}}));
+    EXPECT_TRUE(recorder.Matches({{"combo", WM_LBUTTONDOWN, tests::Way::sent, MK_LBUTTON, point}}));
     EXPECT_EQ(::GetCapture(), nullptr);
     EXPECT_EQ(m_combo->GetCurSel(), -1);
 }

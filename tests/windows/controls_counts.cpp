@@ -12,6 +12,7 @@
 #include "ImportPatch.h"
 #include "Pump.h"
 #include "ScopedWindow.h"
+#include "TestApp.h"
 #include "ThreadWindows.h"
 
 #include <gtest/gtest.h>
@@ -173,12 +174,37 @@ protected:
     }
 };
 
-/// A field whose drop-down is cancelled as soon as it is up.
+/// A field whose drop-down tells whether it is up.
 class BriefField : public CXEditBrowseCtrl
 {
 public:
-    bool IsOpen() const { return m_dialog.m_hWnd != nullptr && m_dialog.IsWindowVisible(); }
+    bool IsOpen() const
+    {
+        return m_dialog.m_hWnd != nullptr && m_dialog.IsWindowVisible() && m_dialog.m_control.IsWindowVisible();
+    }
     void Close() { m_dialog.EndDialog(IDCANCEL); }
+};
+
+/// The main window, in which a drop-down is cancelled as soon as it is up and waits.
+class DropDownOwner : public tests::ScopedWindow
+{
+public:
+    DropDownOwner() : ScopedWindow(CRect(100, 100, 400, 300), WS_POPUP | WS_VISIBLE) { tests::App().m_pMainWnd = this; }
+    ~DropDownOwner() override { tests::App().m_pMainWnd = nullptr; }
+
+    BriefField m_field;
+    int m_opened = 0;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message == WM_ENTERIDLE && m_field.IsOpen())
+        {
+            ++m_opened;
+            m_field.Close();
+        }
+        return ScopedWindow::WindowProc(message, wParam, lParam);
+    }
 };
 
 /// Does it a few times, then `times` times more, and compares what is there before and after the latter.
@@ -281,15 +307,27 @@ TEST(ControlCountsOfDialogs, OpeningsLeaveNothingBehind)
 
 TEST(ControlCountsOfDropDowns, OpeningsLeaveNothingBehind)
 {
+    DropDownOwner owner;
+    tests::WindowCloser const closer(owner.m_field);
+    ASSERT_TRUE(Create(owner.m_field, &owner));
+    int calls = 0;
+    LeavesNothing(openings, owner.m_hWnd, [&](int) {
+        ++calls;
+        owner.m_field.OnBrowse();
+    });
+    EXPECT_EQ(owner.m_opened, calls);
+}
+
+TEST(ControlCountsOfCombos, OpeningsOfTheListLeaveNothingBehind)
+{
     tests::ScopedWindow parent(CRect(100, 100, 400, 300), WS_POPUP | WS_VISIBLE);
-    BriefField field;
-    tests::WindowCloser const closer(field);
-    ASSERT_TRUE(Create(field, parent));
-    constexpr int drop_downs = 150; // each waits for a timer
-    LeavesNothing(drop_downs, parent.m_hWnd, [&](int) {
-        tests::LaterActions later;
-        later.Add([&] { field.Close(); }, [&] { return field.IsOpen(); });
-        field.OnBrowse();
-        EXPECT_FALSE(later.Failed());
+    CComboBoxX combo;
+    tests::WindowCloser const closer(combo);
+    ASSERT_TRUE(Create(combo, &parent));
+    LeavesNothing(openings, parent.m_hWnd, [&](int) {
+        combo.ShowDropDown(TRUE);
+        ASSERT_TRUE(combo.GetDroppedState());
+        combo.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(5, 5)); // its tip
+        combo.ShowDropDown(FALSE);
     });
 }

@@ -205,12 +205,12 @@ TEST_F(Dialog3dFade, AFadeThatRunsGoesOnAfterActivation)
     EXPECT_EQ(m_dialog.m_alphas, (std::vector<int>{235, 215, 195, 235, 215, 195, 175, 155, 135, 115, 95, 95}))
         << "from opaque toward the old target, though the dialog is active";
 
-    std::vector<tests::ExpectedMessage> expected{{"dialog", WM_ACTIVATE, tests::Way::Sent, WA_INACTIVE}};
+    std::vector<tests::ExpectedMessage> expected{{"dialog", WM_ACTIVATE, tests::Way::sent, WA_INACTIVE}};
     for (int tick = 0; tick < 3; ++tick)
-        expected.push_back({"dialog", WM_TIMER, tests::Way::Posted, fade_timer});
-    expected.push_back({"dialog", WM_ACTIVATE, tests::Way::Sent, WA_ACTIVE});
+        expected.push_back({"dialog", WM_TIMER, tests::Way::posted, fade_timer});
+    expected.push_back({"dialog", WM_ACTIVATE, tests::Way::sent, WA_ACTIVE});
     for (int tick = 0; tick < 9; ++tick)
-        expected.push_back({"dialog", WM_TIMER, tests::Way::Posted, fade_timer});
+        expected.push_back({"dialog", WM_TIMER, tests::Way::posted, fade_timer});
     EXPECT_TRUE(recorder.Matches(expected));
 }
 

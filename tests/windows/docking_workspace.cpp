@@ -1,6 +1,7 @@
 // The workspace: what an application keeps of its panes, and gets back.
 
 #include "ChildProgram.h"
+#include "ImportPatch.h"
 #include "docking_DockTest.h"
 
 #include <random>
@@ -265,59 +266,204 @@ TEST_F(Workspace, AFloatingFrameComesBackOntoTheScreen)
     EXPECT_EQ(rect.Size(), CSize(300, 200));
 }
 
-// Saves one arrangement after the other until it is killed.
-CHILD_PROGRAM(SavesWorkspaces)
+TEST_F(Workspace, NoMixOfTwoPlacesOfTheMainFrameIsTaken)
+{
+    Program program;
+    auto & app = program.App();
+    std::vector<BYTE> stored[2];
+    for (int which = 0; which < 2; ++which)
+    {
+        ASSERT_TRUE(app.StoreWindowPlacement(CRect(10 + 90 * which, 20, 700 + 50 * which, 600), 0, SW_SHOWNORMAL));
+        BYTE * data = nullptr;
+        UINT size = 0;
+        ASSERT_TRUE(app.GetBinary(L"WindowPlacement", &data, &size));
+        stored[which].assign(data, data + size);
+        delete[] data;
+    }
+    CRect rect;
+    int flags = 0;
+    int show = 0;
+    EXPECT_TRUE(app.LoadWindowPlacement(rect, flags, show));
+    EXPECT_EQ(rect, CRect(100, 20, 750, 600));
+    for (size_t cut = 0; cut <= stored[0].size(); ++cut)
+    {
+        std::vector<BYTE> bytes(stored[1].begin(), stored[1].begin() + static_cast<std::ptrdiff_t>(cut));
+        bytes.insert(bytes.end(), stored[0].begin() + static_cast<std::ptrdiff_t>(cut), stored[0].end());
+        bool const whole = bytes == stored[0] || bytes == stored[1];
+        app.WriteBinary(L"WindowPlacement", bytes.data(), static_cast<UINT>(bytes.size()));
+        EXPECT_EQ(app.LoadWindowPlacement(rect, flags, show) != FALSE, whole) << "cut at " << cut;
+        if (cut > 0 && cut < bytes.size())
+        {
+            app.WriteBinary(L"WindowPlacement", bytes.data(), static_cast<UINT>(cut));
+            EXPECT_FALSE(app.LoadWindowPlacement(rect, flags, show)) << "only " << cut;
+        }
+    }
+}
+
+/// Programs that are killed while they save, at one of two arrangements.
+class WorkspaceKills : public Workspace
+{
+protected:
+    static constexpr unsigned former = 6;
+    static constexpr unsigned wanted = 43;
+
+    void SetUp() override
+    {
+        Workspace::SetUp();
+        for (unsigned const number : {former, wanted})
+        {
+            Program program;
+            program.AddDefault();
+            Arrange(program, number);
+            (number == former ? m_former : m_wanted) = Places(program);
+        }
+        ASSERT_NE(m_former, m_wanted);
+    }
+    static void Store(unsigned number)
+    {
+        Program program;
+        program.AddDefault();
+        Arrange(program, number);
+        ASSERT_TRUE(program.App().SaveState(&program.Frame()));
+    }
+    /// As the next start finds it; nothing where it finds none.
+    static std::vector<CRect> Stored()
+    {
+        Program program;
+        program.AddDefault();
+        return program.App().LoadState(&program.Frame()) ? Places(program) : std::vector<CRect>{};
+    }
+
+    std::vector<CRect> m_former;
+    std::vector<CRect> m_wanted;
+};
+
+/// The registry's functions for a program that ends itself before one of its changes.
+namespace ending
+{
+constexpr UINT code = 44;
+int changes_before = 0;
+
+void CountChange()
+{
+    if (changes_before-- == 0)
+        ::TerminateProcess(::GetCurrentProcess(), code);
+}
+
+LSTATUS WINAPI CreateKey(HKEY key, LPCWSTR name, DWORD reserved, LPWSTR kind, DWORD options, REGSAM access,
+                         SECURITY_ATTRIBUTES const * security, HKEY * result, DWORD * disposition)
+{
+    HKEY present = nullptr;
+    if (::RegOpenKeyExW(key, name, 0, KEY_READ, &present) == ERROR_SUCCESS)
+        ::RegCloseKey(present); // nothing changes
+    else
+        CountChange();
+    return ::RegCreateKeyExW(key, name, reserved, kind, options, access, const_cast<SECURITY_ATTRIBUTES *>(security),
+                             result, disposition);
+}
+
+LSTATUS WINAPI SetValue(HKEY key, LPCWSTR name, DWORD reserved, DWORD type, BYTE const * data, DWORD size)
+{
+    CountChange();
+    return ::RegSetValueExW(key, name, reserved, type, data, size);
+}
+
+LSTATUS WINAPI DeleteValue(HKEY key, LPCWSTR name)
+{
+    CountChange();
+    return ::RegDeleteValueW(key, name);
+}
+
+LSTATUS WINAPI DeleteTree(HKEY key, LPCWSTR name)
+{
+    CountChange();
+    return ::RegDeleteTreeW(key, name);
+}
+} // namespace ending
+
+CHILD_PROGRAM(EndsBeforeAChangeOfTheRegistry)
 {
     Program program;
     program.AddDefault();
-    HANDLE const started = ::OpenEvent(EVENT_MODIFY_STATE, FALSE, argument.c_str());
-    for (unsigned number = 0;; number = (number + 1) % 64)
+    Arrange(program, 43);
+    ending::changes_before = std::stoi(argument);
+    tests::ImportPatch const creating(L"framework.dll", "RegCreateKeyExW", &ending::CreateKey);
+    tests::ImportPatch const setting(L"framework.dll", "RegSetValueExW", &ending::SetValue);
+    tests::ImportPatch const deletingValue(L"framework.dll", "RegDeleteValueW", &ending::DeleteValue);
+    tests::ImportPatch const deletingTree(L"framework.dll", "RegDeleteTreeW", &ending::DeleteTree);
+    if (!creating.Done() || !setting.Done() || !deletingValue.Done() || !deletingTree.Done())
+        return 1;
+    return program.App().SaveState(&program.Frame()) ? 0 : 2;
+}
+
+TEST_F(WorkspaceKills, BeforeAnyChangeOfTheRegistryLeaveOneOfTheArrangements)
+{
+    int withFormer = 0;
+    for (int change = 0;; ++change)
     {
-        Arrange(program, number);
-        // So often that the child is mostly killed while it saves.
-        for (int save = 0; save < 40; ++save)
-            program.App().SaveState(&program.Frame());
+        Forget();
+        Store(former);
+        tests::ChildProgram child("EndsBeforeAChangeOfTheRegistry", std::to_wstring(change));
+        ASSERT_TRUE(child.WaitForEnd());
+        DWORD const code = child.ExitCode();
+        ASSERT_TRUE(code == ending::code || code == 0) << code;
+        std::vector<CRect> const stored = Stored();
+        ASSERT_TRUE(stored == m_former || stored == m_wanted) << "before change " << change;
+        withFormer += stored == m_former ? 1 : 0;
+        if (code == 0)
+        {
+            EXPECT_EQ(stored, m_wanted);
+            break;
+        }
+    }
+    EXPECT_GT(withFormer, 1);
+}
+
+// Saves two arrangements in turns until it is killed.
+CHILD_PROGRAM(SavesTwoArrangements)
+{
+    Program one;
+    one.AddDefault();
+    Arrange(one, 6);
+    Program two;
+    two.AddDefault();
+    Arrange(two, 43);
+    HANDLE const started = ::OpenEvent(EVENT_MODIFY_STATE, FALSE, argument.c_str());
+    for (;;)
+    {
+        two.App().SaveState(&one.Frame());
+        two.App().SaveState(&two.Frame());
         ::SetEvent(started);
     }
 }
 
-TEST_F(Workspace, AKillAtAnyInstantLeavesOneOfTheArrangements)
+TEST_F(WorkspaceKills, AtAnyInstantLeaveOneOfTheArrangements)
 {
-    std::vector<std::vector<CRect>> arrangements;
-    {
-        Program program;
-        program.AddDefault();
-        for (int turn = 0; turn < 2; ++turn)
-        {
-            for (unsigned number = 0; number < 64; ++number)
-            {
-                Arrange(program, number);
-                arrangements.push_back(Places(program));
-            }
-        }
-    }
+    constexpr int kills = 100;
     std::mt19937 random(5);
-    for (int kill = 0; kill < 20; ++kill)
+    int found[2] = {0, 0};
+    for (int kill = 0; kill < kills; ++kill)
     {
         Forget();
         CString name;
         name.Format(L"docking_workspace_%u_%d", ::GetCurrentProcessId(), kill);
         HANDLE const started = ::CreateEvent(nullptr, TRUE, FALSE, name);
         {
-            tests::ChildProgram child("SavesWorkspaces", name.GetString());
+            tests::ChildProgram child("SavesTwoArrangements", name.GetString());
             ASSERT_TRUE(child.Started());
             ASSERT_EQ(::WaitForSingleObject(started, 300000), WAIT_OBJECT_0);
-            // Anywhere between the saves that follow.
-            for (unsigned wait = random() % 40000; wait > 0; --wait)
+            // Anywhere within the saves that follow.
+            for (unsigned wait = random() % 4000; wait > 0; --wait)
                 ::SwitchToThread();
             child.Kill();
             child.WaitForEnd();
         }
         ::CloseHandle(started);
-        Program program;
-        program.AddDefault();
-        ASSERT_TRUE(program.App().LoadState(&program.Frame())) << "kill " << kill;
-        EXPECT_NE(std::find(arrangements.begin(), arrangements.end(), Places(program)), arrangements.end())
-            << "kill " << kill;
+        std::vector<CRect> const stored = Stored();
+        ASSERT_TRUE(stored == m_former || stored == m_wanted) << "kill " << kill;
+        ++found[stored == m_former ? 0 : 1];
     }
+    // Both come up, or the kills have not been spread over the saves.
+    EXPECT_GT(found[0], 0);
+    EXPECT_GT(found[1], 0);
 }

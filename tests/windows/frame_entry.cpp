@@ -1,11 +1,7 @@
 // The module's entry function, built once more with substitutes for what it calls, so that its failures can be had.
 
-#define g_toolkitModule recordUnderTest
-#define g_toolkitInstance instanceUnderTest
-
-#include "frame/ToolkitModule.h"
-
-#include <afxdllx.h>
+#define ENTRY_SUBSTITUTES_ONLY
+#include "frame_EntrySubstitutes.h"
 
 #include <gtest/gtest.h>
 
@@ -21,9 +17,11 @@ struct Calls
     std::vector<std::string> made;
     AFX_EXTENSION_MODULE const * initialised = nullptr;
     AFX_EXTENSION_MODULE const * hooked = nullptr;
+    LibrarySubstitute * library = nullptr;
     int destroyedLibraries = 0;
 };
 Calls calls;
+} // namespace
 
 BOOL InitialiseSubstitute(AFX_EXTENSION_MODULE & record, HMODULE module)
 {
@@ -36,40 +34,26 @@ BOOL InitialiseSubstitute(AFX_EXTENSION_MODULE & record, HMODULE module)
     return calls.initialisation;
 }
 
-[[maybe_unused]] void TerminateSubstitute(AFX_EXTENSION_MODULE &, BOOL = FALSE)
+void TerminateSubstitute(AFX_EXTENSION_MODULE &, BOOL)
 {
     calls.made.push_back("terminate");
 }
 
-class LibrarySubstitute
+LibrarySubstitute::LibrarySubstitute(AFX_EXTENSION_MODULE & record)
 {
-public:
-    explicit LibrarySubstitute(AFX_EXTENSION_MODULE & record)
+    calls.made.push_back("hook");
+    if (calls.noMemory)
     {
-        calls.made.push_back("hook");
-        if (calls.noMemory)
-        {
-            AfxThrowMemoryException();
-        }
-        calls.hooked = &record;
-        theOnlyOne = this;
+        AfxThrowMemoryException();
     }
-    ~LibrarySubstitute() { ++calls.destroyedLibraries; }
+    calls.hooked = &record;
+    calls.library = this;
+}
 
-    static LibrarySubstitute * theOnlyOne;
-};
-LibrarySubstitute * LibrarySubstitute::theOnlyOne = nullptr;
-} // namespace
-
-#define AfxInitExtensionModule InitialiseSubstitute
-#define AfxTermExtensionModule TerminateSubstitute
-#define CDynLinkLibrary LibrarySubstitute
-#define DllMain EntryUnderTest
-#include "frame/ToolkitModuleWindows.cpp"
-#undef DllMain
-#undef CDynLinkLibrary
-#undef AfxTermExtensionModule
-#undef AfxInitExtensionModule
+LibrarySubstitute::~LibrarySubstitute()
+{
+    ++calls.destroyedLibraries;
+}
 
 namespace
 {
@@ -79,13 +63,13 @@ protected:
     void SetUp() override
     {
         calls = Calls();
-        recordUnderTest = AFX_EXTENSION_MODULE();
-        instanceUnderTest = nullptr;
+        g_recordUnderTest = AFX_EXTENSION_MODULE();
+        g_instanceUnderTest = nullptr;
     }
     void TearDown() override
     {
-        delete LibrarySubstitute::theOnlyOne;
-        LibrarySubstitute::theOnlyOne = nullptr;
+        delete calls.library;
+        calls.library = nullptr;
     }
 
     HINSTANCE const m_instance = reinterpret_cast<HINSTANCE>(UINT_PTR{0x660000});
@@ -98,10 +82,10 @@ TEST_F(ModuleEntry, AttachInitialisesHooksAndStoresTheInstance)
 {
     EXPECT_EQ(EntryUnderTest(m_instance, DLL_PROCESS_ATTACH, nullptr), 1);
     EXPECT_EQ(calls.made, (Steps{"initialise", "hook"}));
-    EXPECT_EQ(calls.initialised, &recordUnderTest);
-    EXPECT_EQ(calls.hooked, &recordUnderTest);
-    EXPECT_EQ(recordUnderTest.hModule, m_instance);
-    EXPECT_EQ(instanceUnderTest, m_instance);
+    EXPECT_EQ(calls.initialised, &g_recordUnderTest);
+    EXPECT_EQ(calls.hooked, &g_recordUnderTest);
+    EXPECT_EQ(g_recordUnderTest.hModule, m_instance);
+    EXPECT_EQ(g_instanceUnderTest, m_instance);
 }
 
 TEST_F(ModuleEntry, FailedInitialisationFailsTheLoad)
@@ -109,7 +93,7 @@ TEST_F(ModuleEntry, FailedInitialisationFailsTheLoad)
     calls.initialisation = FALSE;
     EXPECT_EQ(EntryUnderTest(m_instance, DLL_PROCESS_ATTACH, nullptr), 0);
     EXPECT_EQ(calls.made, Steps{"initialise"});
-    EXPECT_EQ(instanceUnderTest, nullptr);
+    EXPECT_EQ(g_instanceUnderTest, nullptr);
 }
 
 TEST_F(ModuleEntry, LoadsWithoutMemoryForTheHook)
@@ -117,7 +101,7 @@ TEST_F(ModuleEntry, LoadsWithoutMemoryForTheHook)
     calls.noMemory = true;
     EXPECT_EQ(EntryUnderTest(m_instance, DLL_PROCESS_ATTACH, nullptr), 1);
     EXPECT_EQ(calls.made, (Steps{"initialise", "hook"}));
-    EXPECT_EQ(instanceUnderTest, m_instance);
+    EXPECT_EQ(g_instanceUnderTest, m_instance);
 }
 
 TEST_F(ModuleEntry, DoesNothingForAnyOtherReason)
@@ -133,6 +117,6 @@ TEST_F(ModuleEntry, DoesNothingForAnyOtherReason)
     }
     EXPECT_EQ(calls.made, Steps{});
     EXPECT_EQ(calls.destroyedLibraries, 0);
-    EXPECT_EQ(recordUnderTest.hModule, m_instance);
-    EXPECT_EQ(instanceUnderTest, m_instance);
+    EXPECT_EQ(g_recordUnderTest.hModule, m_instance);
+    EXPECT_EQ(g_instanceUnderTest, m_instance);
 }

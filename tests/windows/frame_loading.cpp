@@ -4,13 +4,12 @@
 #include "frame/ToolkitModule.h"
 
 #include "frame/CoreLibrary.h"
+#include "frame/ToolkitResources.h"
 
 #include "ResourceReader.h"
 #include "ScopedWindow.h"
 #include "TestApp.h"
 #include "resource.h"
-
-#include "frame/ToolkitResourcesWindows.cpp"
 
 #include <gtest/gtest.h>
 
@@ -18,10 +17,10 @@ AFX_EXTENSION_MODULE g_toolkitModule = {};
 
 namespace
 {
-constexpr WORD GERMAN = 1031;
-constexpr WORD ENGLISH = 1033;
-constexpr WORD SPANISH = 3082;
-constexpr UINT MISSING_ID = 29999;
+constexpr WORD german_language = 1031;
+constexpr WORD english_language = 1033;
+constexpr WORD spanish_language = 3082;
+constexpr UINT missing_id = 29999;
 
 class ToolkitResources : public testing::Test
 {
@@ -90,11 +89,11 @@ TEST_F(ToolkitResources, IconsLoadAndTheApplicationsModuleIsBack)
 
 TEST_F(ToolkitResources, ApplicationsModuleIsBackAfterAFailingLoad)
 {
-    EXPECT_EQ(LoadToolkitIcon(MISSING_ID), nullptr);
+    EXPECT_EQ(LoadToolkitIcon(missing_id), nullptr);
     EXPECT_EQ(AfxGetResourceHandle(), Application());
-    EXPECT_EQ(LoadToolkitMenu(MISSING_ID), nullptr);
+    EXPECT_EQ(LoadToolkitMenu(missing_id), nullptr);
     EXPECT_EQ(AfxGetResourceHandle(), Application());
-    EXPECT_TRUE(LoadToolkitString(MISSING_ID).IsEmpty());
+    EXPECT_TRUE(LoadToolkitString(missing_id).IsEmpty());
     EXPECT_EQ(AfxGetResourceHandle(), Application());
 }
 
@@ -111,29 +110,30 @@ TEST_F(ToolkitResources, MenuOfTheGenericPopupLoads)
 TEST_F(ToolkitResources, TextsComeInTheThreadsLanguage)
 {
     {
-        tests::ScopedLanguage const german(GERMAN);
+        tests::ScopedLanguage const german(german_language);
         EXPECT_STREQ(LoadToolkitString(9), L"alle w\u00E4hlen");
     }
     {
-        tests::ScopedLanguage const english(ENGLISH);
+        tests::ScopedLanguage const english(english_language);
         EXPECT_STREQ(LoadToolkitString(9), L"select all");
     }
     {
-        tests::ScopedLanguage const spanish(SPANISH);
+        tests::ScopedLanguage const spanish(spanish_language);
         EXPECT_STREQ(LoadToolkitString(9), L"seleccionar todos");
     }
 }
 
 TEST_F(ToolkitResources, AnotherLanguageServesWhereOneIsNotStored)
 {
-    tests::ScopedLanguage const spanish(SPANISH);
+    tests::ScopedLanguage const spanish(spanish_language);
     CString const colour = LoadToolkitString(102);
     EXPECT_TRUE(colour == L"Red" || colour == L"Rot") << "the colours' names are not stored in Spanish";
+    EXPECT_STREQ(LoadToolkitString(14), L"(keine Eintr\u00E4ge)") << "of this block others are";
 }
 
 TEST_F(ToolkitResources, HostFindsTextsAndIconsThroughTheChain)
 {
-    tests::ScopedLanguage const german(GERMAN);
+    tests::ScopedLanguage const german(german_language);
     CString text;
     EXPECT_TRUE(text.LoadString(1));
     EXPECT_STREQ(text, L"Das angegebene Datum ist ung\u00FCltig.");
@@ -161,7 +161,7 @@ TEST_F(ToolkitResources, DialogOfTheNullRecordLiesInTheApplication)
 
 TEST_F(ToolkitResources, DialogOfAModulesRecordLiesInThatModule)
 {
-    tests::ScopedLanguage const german(GERMAN);
+    tests::ScopedLanguage const german(german_language);
     CDialog dialog;
     tests::WindowCloser const closer(dialog);
     {

@@ -10,10 +10,10 @@
 
 namespace
 {
-constexpr WORD GERMAN = 1031;
-constexpr WORD ENGLISH = 1033;
-constexpr WORD ENGLISH_NEUTRAL = 9;
-constexpr WORD SPANISH = 3082;
+constexpr WORD german = 1031;
+constexpr WORD english = 1033;
+constexpr WORD english_neutral = 9;
+constexpr WORD spanish = 3082;
 
 HMODULE Module()
 {
@@ -116,10 +116,10 @@ CRect Place(int left, int top, int width, int height)
     return CRect(left, top, left + width, top + height);
 }
 
-constexpr wchar_t const * BUTTON_CLASS = L"#80";
-constexpr wchar_t const * STATIC_CLASS = L"#82";
-constexpr wchar_t const * COMBO_CLASS = L"#85";
-constexpr DWORD BUTTON_TYPE_BITS = 0xF;
+constexpr wchar_t const * button_class = L"#80";
+constexpr wchar_t const * static_class = L"#82";
+constexpr wchar_t const * combo_class = L"#85";
+constexpr DWORD button_type_bits = 0xF;
 
 struct LanguageDialogTexts
 {
@@ -156,24 +156,24 @@ TEST(ModuleStrings, AreThoseOfTheTableAndNoOthers)
 TEST(ModuleStrings, EnglishId14IsTheGermanText)
 {
     auto const stored = tests::ReadStringTables(Module());
-    ASSERT_EQ(stored.count({GERMAN, 14}), 1U);
-    ASSERT_EQ(stored.count({ENGLISH, 14}), 1U);
-    EXPECT_EQ(stored.at({GERMAN, 14}), L"(keine Eintr\u00E4ge)");
-    EXPECT_EQ(stored.at({ENGLISH, 14}), stored.at({GERMAN, 14}));
+    ASSERT_EQ(stored.count({german, 14}), 1U);
+    ASSERT_EQ(stored.count({english, 14}), 1U);
+    EXPECT_EQ(stored.at({german, 14}), L"(keine Eintr\u00E4ge)");
+    EXPECT_EQ(stored.at({english, 14}), stored.at({german, 14}));
 }
 
 TEST(ModuleStrings, SpanishHasNoId14)
 {
     auto const stored = tests::ReadStringTables(Module());
-    EXPECT_EQ(stored.count({SPANISH, 13}), 1U);
-    EXPECT_EQ(stored.count({SPANISH, 14}), 0U);
+    EXPECT_EQ(stored.count({spanish, 13}), 1U);
+    EXPECT_EQ(stored.count({spanish, 14}), 0U);
 }
 
 TEST(ModuleStrings, LineBreaksAreSingleCharacters)
 {
     auto const stored = tests::ReadStringTables(Module());
-    EXPECT_EQ(stored.at({ENGLISH, 5}), L"Time span is not valid\n(begins after end).");
-    EXPECT_EQ(stored.at({SPANISH, 6}), L"El tiempo indicado est\u00E1 \nen el futuro. \u00BFUtilizar tiempo?");
+    EXPECT_EQ(stored.at({english, 5}), L"Time span is not valid\n(begins after end).");
+    EXPECT_EQ(stored.at({spanish, 6}), L"El tiempo indicado est\u00E1 \nen el futuro. \u00BFUtilizar tiempo?");
 }
 
 TEST(ModuleIcons, AreStoredInGermanOnly)
@@ -182,7 +182,7 @@ TEST(ModuleIcons, AreStoredInGermanOnly)
     EXPECT_EQ(tests::ResourceIds(Module(), RT_GROUP_ICON), ids);
     for (int const id : ids)
     {
-        EXPECT_EQ(tests::ResourceLanguages(Module(), RT_GROUP_ICON, MAKEINTRESOURCEW(id)), std::set<WORD>{GERMAN})
+        EXPECT_EQ(tests::ResourceLanguages(Module(), RT_GROUP_ICON, MAKEINTRESOURCEW(id)), std::set<WORD>{german})
             << id;
     }
 }
@@ -193,7 +193,7 @@ TEST(ModuleIcons, HaveTheFramesOfTheTable)
     for (int const id : {121, 123, 124, 125, 126, 127, 128, 129, 131})
     {
         std::map<Size, std::set<int>> depths;
-        std::vector<tests::IconFrame> const frames = tests::ReadIconGroup(Module(), id, GERMAN);
+        std::vector<tests::IconFrame> const frames = tests::ReadIconGroup(Module(), id, german);
         for (tests::IconFrame const & frame : frames)
         {
             depths[{frame.width, frame.height}].insert(frame.bits);
@@ -211,10 +211,10 @@ TEST(ModuleIcons, PicturesAgreeWithTheirDirectory)
 {
     for (int const id : tests::ResourceIds(Module(), RT_GROUP_ICON))
     {
-        for (tests::IconFrame const & frame : tests::ReadIconGroup(Module(), id, GERMAN))
+        for (tests::IconFrame const & frame : tests::ReadIconGroup(Module(), id, german))
         {
             tests::Bytes const picture =
-                tests::ReadResource(Module(), RT_ICON, MAKEINTRESOURCEW(frame.pictureId), GERMAN);
+                tests::ReadResource(Module(), RT_ICON, MAKEINTRESOURCEW(frame.pictureId), german);
             ASSERT_GE(picture.size(), sizeof(BITMAPINFOHEADER)) << id;
             BITMAPINFOHEADER header;
             std::memcpy(&header, picture.data(), sizeof header);
@@ -231,14 +231,14 @@ TEST(ModuleIcons, EachShowsSomethingOfItsOwn)
     std::size_t count = 0;
     for (int const id : tests::ResourceIds(Module(), RT_GROUP_ICON))
     {
-        for (tests::IconFrame const & frame : tests::ReadIconGroup(Module(), id, GERMAN))
+        for (tests::IconFrame const & frame : tests::ReadIconGroup(Module(), id, german))
         {
             if (frame.bits != 32)
             {
                 continue;
             }
             tests::Bytes const picture =
-                tests::ReadResource(Module(), RT_ICON, MAKEINTRESOURCEW(frame.pictureId), GERMAN);
+                tests::ReadResource(Module(), RT_ICON, MAKEINTRESOURCEW(frame.pictureId), german);
             std::size_t const pixels = static_cast<std::size_t>(frame.width) * frame.height;
             ASSERT_GE(picture.size(), sizeof(BITMAPINFOHEADER) + 4 * pixels) << id;
             std::size_t opaque = 0;
@@ -259,7 +259,7 @@ TEST(ModuleIcons, EachShowsSomethingOfItsOwn)
 TEST(ModuleMenu, HoldsOnePopupWithOneEntry)
 {
     EXPECT_EQ(tests::ResourceIds(Module(), RT_MENU), std::set<int>{120});
-    EXPECT_EQ(tests::ResourceLanguages(Module(), RT_MENU, MAKEINTRESOURCEW(120)), std::set<WORD>{GERMAN});
+    EXPECT_EQ(tests::ResourceLanguages(Module(), RT_MENU, MAKEINTRESOURCEW(120)), std::set<WORD>{german});
     HMENU const menu = LoadMenuW(Module(), MAKEINTRESOURCEW(120));
     ASSERT_NE(menu, nullptr);
     wchar_t text[64] = L"";
@@ -280,9 +280,9 @@ TEST(ModuleDialogs, AreTwo)
 
 TEST(ModuleDialogs, MultiselectIsOneButton)
 {
-    EXPECT_EQ(tests::ResourceLanguages(Module(), RT_DIALOG, MAKEINTRESOURCEW(130)), std::set<WORD>{GERMAN});
+    EXPECT_EQ(tests::ResourceLanguages(Module(), RT_DIALOG, MAKEINTRESOURCEW(130)), std::set<WORD>{german});
     tests::StoredDialog const dialog =
-        tests::ParseDialogTemplate(tests::ReadResource(Module(), RT_DIALOG, MAKEINTRESOURCEW(130), GERMAN));
+        tests::ParseDialogTemplate(tests::ReadResource(Module(), RT_DIALOG, MAKEINTRESOURCEW(130), german));
     EXPECT_EQ(dialog.style, static_cast<DWORD>(WS_POPUP | WS_THICKFRAME | WS_SYSMENU | DS_SETFONT | DS_FIXEDSYS));
     EXPECT_EQ(dialog.exStyle, static_cast<DWORD>(WS_EX_TOOLWINDOW));
     EXPECT_EQ(dialog.width, 81);
@@ -291,21 +291,21 @@ TEST(ModuleDialogs, MultiselectIsOneButton)
     EXPECT_EQ(dialog.face, L"MS Shell Dlg");
     EXPECT_EQ(dialog.pointSize, 8);
     ASSERT_EQ(dialog.items.size(), 1U);
-    ExpectItem(dialog.items[0], BUTTON_CLASS, 1016, Place(0, 0, 81, 55), L"Button1");
+    ExpectItem(dialog.items[0], button_class, 1016, Place(0, 0, 81, 55), L"Button1");
     EXPECT_EQ(dialog.items[0].style, static_cast<DWORD>(WS_CHILD | WS_VISIBLE | WS_TABSTOP));
 }
 
 TEST(ModuleDialogs, LanguageChooserHasTheSamePlacesInBothLanguages)
 {
     EXPECT_EQ(tests::ResourceLanguages(Module(), RT_DIALOG, MAKEINTRESOURCEW(340)),
-              (std::set<WORD>{ENGLISH_NEUTRAL, GERMAN}));
+              (std::set<WORD>{english_neutral, german}));
     LanguageDialogTexts const expected[] = {
-        {GERMAN, L"Anzeigesprache w\u00E4hlen",
+        {german, L"Anzeigesprache w\u00E4hlen",
          L"W\u00E4hlen Sie die Anzeigesprache des Messprogramms f\u00FCr das aktuelle Projekt:",
          L"Hinweis: die Sprache bereits offener Fenster \u00E4ndert sich erst, wenn diese geschlossen und wieder "
          L"ge\u00F6ffnet werden.",
          L"OK", L"Abbruch"},
-        {ENGLISH_NEUTRAL, L"Choose Display Language", L"Choose a display language for the current measurement project:",
+        {english_neutral, L"Choose Display Language", L"Choose a display language for the current measurement project:",
          L"Note: the language of already open windows will change only after they are closed and re-opened.", L"OK",
          L"Cancel"},
     };
@@ -320,15 +320,15 @@ TEST(ModuleDialogs, LanguageChooserHasTheSamePlacesInBothLanguages)
         EXPECT_EQ(dialog.pointSize, 8);
         ASSERT_EQ(dialog.items.size(), 5U);
         int const anonymous = -1;
-        ExpectItem(dialog.items[0], STATIC_CLASS, anonymous, Place(7, 7, 135, 16), texts.prompt);
-        ExpectItem(dialog.items[1], COMBO_CLASS, 1044, Place(7, 25, 135, 178), L"");
-        ExpectItem(dialog.items[2], STATIC_CLASS, anonymous, Place(7, 42, 135, 24), texts.note);
-        ExpectItem(dialog.items[3], BUTTON_CLASS, IDOK, Place(38, 73, 50, 14), texts.ok);
-        ExpectItem(dialog.items[4], BUTTON_CLASS, IDCANCEL, Place(92, 73, 50, 14), texts.cancel);
+        ExpectItem(dialog.items[0], static_class, anonymous, Place(7, 7, 135, 16), texts.prompt);
+        ExpectItem(dialog.items[1], combo_class, 1044, Place(7, 25, 135, 178), L"");
+        ExpectItem(dialog.items[2], static_class, anonymous, Place(7, 42, 135, 24), texts.note);
+        ExpectItem(dialog.items[3], button_class, IDOK, Place(38, 73, 50, 14), texts.ok);
+        ExpectItem(dialog.items[4], button_class, IDCANCEL, Place(92, 73, 50, 14), texts.cancel);
         EXPECT_EQ(dialog.items[1].style & (CBS_DROPDOWNLIST | CBS_SORT), static_cast<DWORD>(CBS_DROPDOWN))
             << "with an edit field, and not sorted";
-        EXPECT_EQ(dialog.items[3].style & BUTTON_TYPE_BITS, static_cast<DWORD>(BS_DEFPUSHBUTTON));
-        EXPECT_EQ(dialog.items[4].style & BUTTON_TYPE_BITS, static_cast<DWORD>(BS_PUSHBUTTON));
+        EXPECT_EQ(dialog.items[3].style & button_type_bits, static_cast<DWORD>(BS_DEFPUSHBUTTON));
+        EXPECT_EQ(dialog.items[4].style & button_type_bits, static_cast<DWORD>(BS_PUSHBUTTON));
     }
 }
 
@@ -336,8 +336,8 @@ TEST(ModuleDialogs, LayoutOfTheLanguageChooserIsOnlyItsVersion)
 {
     EXPECT_EQ(tests::ResourceIds(Module(), L"AFX_DIALOG_LAYOUT"), std::set<int>{340});
     EXPECT_EQ(tests::ResourceLanguages(Module(), L"AFX_DIALOG_LAYOUT", MAKEINTRESOURCEW(340)),
-              (std::set<WORD>{ENGLISH_NEUTRAL, GERMAN}));
-    for (WORD const language : {ENGLISH_NEUTRAL, GERMAN})
+              (std::set<WORD>{english_neutral, german}));
+    for (WORD const language : {english_neutral, german})
     {
         EXPECT_EQ(tests::ReadResource(Module(), L"AFX_DIALOG_LAYOUT", MAKEINTRESOURCEW(340), language),
                   tests::Bytes(sizeof(WORD)));
@@ -378,7 +378,7 @@ TEST(ModuleManifest, IsUnderstoodByTheLoader)
 
 TEST(ModuleVersion, NamesTheFile)
 {
-    tests::Bytes const bytes = tests::ReadResource(Module(), RT_VERSION, MAKEINTRESOURCEW(VS_VERSION_INFO), ENGLISH);
+    tests::Bytes const bytes = tests::ReadResource(Module(), RT_VERSION, MAKEINTRESOURCEW(VS_VERSION_INFO), english);
     ASSERT_FALSE(bytes.empty());
     std::wstring const text(reinterpret_cast<wchar_t const *>(bytes.data()), bytes.size() / sizeof(wchar_t));
     EXPECT_NE(text.find(L"instrument_ui.dll"), std::wstring::npos);

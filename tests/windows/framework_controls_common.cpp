@@ -11,9 +11,9 @@
 
 namespace
 {
-constexpr UINT ControlId = 7;
+constexpr UINT control_id = 7;
 CRect const Place(10, 10, 250, 60);
-constexpr DWORD Shown = WS_CHILD | WS_VISIBLE;
+constexpr DWORD shown = WS_CHILD | WS_VISIBLE;
 
 // Tooltips
 
@@ -36,7 +36,7 @@ class ToolTipTest : public testing::Test
 protected:
     void SetUp() override
     {
-        ASSERT_TRUE(m_button.Create(L"x", Shown, Place, m_parent, ControlId));
+        ASSERT_TRUE(m_button.Create(L"x", shown, Place, m_parent, control_id));
         ASSERT_TRUE(m_tips.Create(&m_parent, TTS_ALWAYSTIP));
     }
 
@@ -156,7 +156,7 @@ TEST(FrameworkControlsCommon, ProgressBarMovesInItsRange)
 {
     tests::ScopedWindow parent;
     CProgressCtrl bar;
-    ASSERT_TRUE(bar.Create(Shown, Place, parent, ControlId));
+    ASSERT_TRUE(bar.Create(shown, Place, parent, control_id));
     bar.SetRange32(-10, 100000);
     int lower = 0;
     int upper = 0;
@@ -185,7 +185,7 @@ TEST(FrameworkControlsCommon, SliderKeepsRangeTicsAndSelection)
 {
     tests::ScopedWindow parent;
     CSliderCtrl slider;
-    ASSERT_TRUE(slider.Create(Shown | TBS_ENABLESELRANGE | TBS_TOOLTIPS, Place, parent, ControlId));
+    ASSERT_TRUE(slider.Create(shown | TBS_ENABLESELRANGE | TBS_TOOLTIPS, Place, parent, control_id));
     slider.SetRange(10, 60);
     int lowest = 0;
     int highest = 0;
@@ -216,7 +216,7 @@ TEST(FrameworkControlsCommon, SliderKeepsRangeTicsAndSelection)
     slider.GetThumbRect(thumb);
     EXPECT_FALSE(thumb.IsRectEmpty());
     CStatic label;
-    ASSERT_TRUE(label.Create(L"min", Shown, Place, parent));
+    ASSERT_TRUE(label.Create(L"min", shown, Place, parent));
     EXPECT_EQ(slider.SetBuddy(&label), nullptr);
     EXPECT_EQ(slider.GetBuddy(), &label);
     EXPECT_EQ(slider.GetBuddy(FALSE), nullptr);
@@ -227,9 +227,9 @@ TEST(FrameworkControlsCommon, SpinButtonMovesItsBuddy)
 {
     tests::ScopedWindow parent;
     CEdit edit;
-    ASSERT_TRUE(edit.Create(Shown, CRect(10, 80, 80, 100), parent, ControlId + 1));
+    ASSERT_TRUE(edit.Create(shown, CRect(10, 80, 80, 100), parent, control_id + 1));
     CSpinButtonCtrl spin;
-    ASSERT_TRUE(spin.Create(Shown | UDS_SETBUDDYINT | UDS_NOTHOUSANDS, Place, parent, ControlId));
+    ASSERT_TRUE(spin.Create(shown | UDS_SETBUDDYINT | UDS_NOTHOUSANDS, Place, parent, control_id));
     EXPECT_EQ(spin.SetBuddy(&edit), nullptr);
     EXPECT_EQ(spin.GetBuddy(), &edit);
     spin.SetRange(-5, 90);
@@ -279,7 +279,7 @@ TEST(FrameworkControlsCommon, TabsAreInsertedAndSelected)
 {
     tests::ScopedWindow parent;
     CTabCtrl tabs;
-    ASSERT_TRUE(tabs.Create(Shown, CRect(0, 0, 300, 150), parent, ControlId));
+    ASSERT_TRUE(tabs.Create(shown, CRect(0, 0, 300, 150), parent, control_id));
     EXPECT_EQ(tabs.InsertItem(0, L"Levels"), 0);
     EXPECT_EQ(tabs.InsertItem(1, L"Spectrum", 2), 1);
     EXPECT_EQ(tabs.InsertItem(TCIF_TEXT | TCIF_PARAM, 2, L"Phase", 0, 66), 2);
@@ -318,7 +318,7 @@ TEST(FrameworkControlsCommon, OwnerDrawnTabsReachTheVirtualMember)
 {
     tests::ScopedWindow parent;
     DrawnTab tabs;
-    ASSERT_TRUE(tabs.Create(Shown | TCS_OWNERDRAWFIXED, CRect(0, 0, 300, 150), parent, ControlId));
+    ASSERT_TRUE(tabs.Create(shown | TCS_OWNERDRAWFIXED, CRect(0, 0, 300, 150), parent, control_id));
     tabs.InsertItem(0, L"a");
     tabs.InsertItem(1, L"b");
     tabs.Invalidate();
@@ -340,7 +340,7 @@ TEST(FrameworkControlsCommon, StatusBarKeepsPartsTextsAndTips)
 {
     tests::ScopedWindow parent;
     DrawnStatusBar bar;
-    ASSERT_TRUE(bar.Create(Shown | CCS_BOTTOM | SBT_TOOLTIPS, CRect(), parent, ControlId));
+    ASSERT_TRUE(bar.Create(shown | CCS_BOTTOM | SBT_TOOLTIPS, CRect(), parent, control_id));
     int edges[]{60, 160, -1};
     ASSERT_TRUE(bar.SetParts(3, edges));
     int read[3]{};
@@ -384,7 +384,7 @@ class ToolBarTest : public testing::Test
 protected:
     void SetUp() override
     {
-        ASSERT_TRUE(m_bar.Create(Shown | CCS_TOP | TBSTYLE_TOOLTIPS, CRect(), m_parent, ControlId));
+        ASSERT_TRUE(m_bar.Create(shown | CCS_TOP | TBSTYLE_TOOLTIPS, CRect(), m_parent, control_id));
         TBBUTTON buttons[3]{};
         for (int index = 0; index < 3; ++index)
         {
@@ -489,9 +489,9 @@ TEST(FrameworkControlsCommon, RebarHoldsBands)
 {
     tests::ScopedWindow parent;
     CReBarCtrl bar;
-    ASSERT_TRUE(bar.Create(Shown | RBS_VARHEIGHT, CRect(0, 0, 300, 40), parent, ControlId));
+    ASSERT_TRUE(bar.Create(shown | RBS_VARHEIGHT, CRect(0, 0, 300, 40), parent, control_id));
     CEdit edit;
-    ASSERT_TRUE(edit.Create(Shown, CRect(0, 0, 50, 20), &bar, 1));
+    ASSERT_TRUE(edit.Create(shown, CRect(0, 0, 50, 20), &bar, 1));
     REBARBANDINFO band{};
     band.cbSize = REBARBANDINFO_V6_SIZE;
     band.fMask = RBBIM_CHILD | RBBIM_CHILDSIZE | RBBIM_SIZE | RBBIM_ID;
@@ -522,7 +522,7 @@ TEST(FrameworkControlsCommon, ExtendedComboBoxKeepsItemsAndParts)
 {
     tests::ScopedWindow parent;
     CComboBoxEx combo;
-    ASSERT_TRUE(combo.Create(Shown | CBS_DROPDOWN, CRect(0, 0, 150, 200), parent, ControlId));
+    ASSERT_TRUE(combo.Create(shown | CBS_DROPDOWN, CRect(0, 0, 150, 200), parent, control_id));
     wchar_t name[]{L"Disk"};
     COMBOBOXEXITEM item{};
     item.mask = CBEIF_TEXT | CBEIF_INDENT | CBEIF_LPARAM;
@@ -554,7 +554,7 @@ TEST(FrameworkControlsCommon, LinkControlKeepsItsLinks)
 {
     tests::ScopedWindow parent;
     CLinkCtrl link;
-    ASSERT_TRUE(link.Create(L"See the <a href=\"guide.html\" id=\"g\">guide</a>.", Shown, Place, parent, ControlId));
+    ASSERT_TRUE(link.Create(L"See the <a href=\"guide.html\" id=\"g\">guide</a>.", shown, Place, parent, control_id));
     CString text;
     ASSERT_TRUE(link.GetItemUrl(0, text));
     EXPECT_EQ(text, L"guide.html");

@@ -11,9 +11,9 @@
 
 namespace
 {
-constexpr UINT ControlId = 7;
+constexpr UINT control_id = 7;
 CRect const Place(10, 10, 210, 160);
-constexpr DWORD Shown = WS_CHILD | WS_VISIBLE;
+constexpr DWORD shown = WS_CHILD | WS_VISIBLE;
 
 // A parent that counts what it is told of.
 class Parent : public tests::ScopedWindow
@@ -28,8 +28,8 @@ protected:
     DECLARE_MESSAGE_MAP()
 };
 BEGIN_MESSAGE_MAP(Parent, tests::ScopedWindow)
-    ON_LBN_SELCHANGE(ControlId, &Parent::OnSelected)
-    ON_CLBN_CHKCHANGE(ControlId, &Parent::OnChecked)
+    ON_LBN_SELCHANGE(control_id, &Parent::OnSelected)
+    ON_CLBN_CHKCHANGE(control_id, &Parent::OnChecked)
 END_MESSAGE_MAP()
 
 // Records the calls that owner-drawn lists make. Rows are numbers, larger ones first.
@@ -65,7 +65,7 @@ class ListBoxTest : public testing::Test
 protected:
     void Create(DWORD style)
     {
-        ASSERT_TRUE(m_list.Create(Shown | style, Place, m_parent, ControlId));
+        ASSERT_TRUE(m_list.Create(shown | style, Place, m_parent, control_id));
         for (LPCTSTR const text : {L"Alpha", L"Beta", L"Gamma", L"Delta"})
             m_list.AddString(text);
     }
@@ -170,7 +170,7 @@ TEST(FrameworkControlsLists, OwnerDrawnListBoxMeasuresComparesDrawsAndDeletes)
 {
     Parent parent;
     OwnerDrawn<CListBox> list;
-    ASSERT_TRUE(list.Create(Shown | LBS_OWNERDRAWFIXED | LBS_SORT, Place, parent, ControlId));
+    ASSERT_TRUE(list.Create(shown | LBS_OWNERDRAWFIXED | LBS_SORT, Place, parent, control_id));
     EXPECT_EQ(list.m_measured, 1);
     EXPECT_EQ(list.GetItemHeight(0), 23);
     list.AddString(AsText(10));
@@ -207,7 +207,7 @@ TEST(FrameworkControlsLists, VirtualKeyAnswerSelectsTheRow)
 {
     Parent parent;
     KeyedListBox list;
-    ASSERT_TRUE(list.Create(Shown | LBS_WANTKEYBOARDINPUT | LBS_NOTIFY, Place, parent, ControlId));
+    ASSERT_TRUE(list.Create(shown | LBS_WANTKEYBOARDINPUT | LBS_NOTIFY, Place, parent, control_id));
     list.AddString(L"a");
     list.AddString(L"b");
     list.AddString(L"c");
@@ -226,7 +226,7 @@ TEST(FrameworkControlsLists, ComboBoxRowsAndTexts)
 {
     tests::ScopedWindow parent;
     CComboBox combo;
-    ASSERT_TRUE(combo.Create(Shown | CBS_DROPDOWNLIST | WS_VSCROLL, Place, parent, ControlId));
+    ASSERT_TRUE(combo.Create(shown | CBS_DROPDOWNLIST | WS_VSCROLL, Place, parent, control_id));
     for (LPCTSTR const text : {L"Hz", L"kHz", L"MHz"})
         combo.AddString(text);
     EXPECT_EQ(combo.InsertString(0, L"mHz"), 0);
@@ -256,7 +256,7 @@ TEST(FrameworkControlsLists, ComboBoxDropsAndMeasures)
 {
     tests::ScopedWindow parent;
     CComboBox combo;
-    ASSERT_TRUE(combo.Create(Shown | CBS_DROPDOWN, Place, parent, ControlId));
+    ASSERT_TRUE(combo.Create(shown | CBS_DROPDOWN, Place, parent, control_id));
     combo.AddString(L"x");
     EXPECT_FALSE(combo.GetDroppedState());
     combo.ShowDropDown();
@@ -287,7 +287,7 @@ TEST(FrameworkControlsLists, ComboBoxEditPartAndCueBanner)
 {
     tests::ScopedWindow parent;
     CComboBox combo;
-    ASSERT_TRUE(combo.Create(Shown | CBS_DROPDOWN, Place, parent, ControlId));
+    ASSERT_TRUE(combo.Create(shown | CBS_DROPDOWN, Place, parent, control_id));
     combo.SetWindowText(L"12345");
     ASSERT_TRUE(combo.SetEditSel(1, 3));
     EXPECT_EQ(combo.GetEditSel(), static_cast<DWORD>(MAKELONG(1, 3)));
@@ -308,7 +308,7 @@ TEST(FrameworkControlsLists, OwnerDrawnComboBoxCallsItsOwnMembers)
 {
     Parent parent;
     OwnerDrawn<CComboBox> combo;
-    ASSERT_TRUE(combo.Create(Shown | CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_SORT, Place, parent, ControlId));
+    ASSERT_TRUE(combo.Create(shown | CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_SORT, Place, parent, control_id));
     EXPECT_GT(combo.m_measured, 0);
     EXPECT_EQ(combo.GetItemHeight(0), 23);
     combo.AddString(AsText(1));
@@ -334,7 +334,7 @@ class CheckListTest : public testing::Test
 protected:
     void SetUp() override
     {
-        ASSERT_TRUE(m_list.Create(Shown | LBS_NOTIFY, Place, m_parent, ControlId));
+        ASSERT_TRUE(m_list.Create(shown | LBS_NOTIFY, Place, m_parent, control_id));
         for (LPCTSTR const text : {L"left", L"right", L"both"})
             m_list.AddString(text);
     }

@@ -13,9 +13,9 @@
 
 namespace
 {
-constexpr UINT ControlId = 7;
+constexpr UINT control_id = 7;
 CRect const Place(0, 0, 320, 200);
-constexpr DWORD Shown = WS_CHILD | WS_VISIBLE;
+constexpr DWORD shown = WS_CHILD | WS_VISIBLE;
 
 class Parent : public tests::ScopedWindow
 {
@@ -27,7 +27,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 };
 BEGIN_MESSAGE_MAP(Parent, tests::ScopedWindow)
-    ON_NOTIFY(LVN_ITEMCHANGED, ControlId, &Parent::OnChanged)
+    ON_NOTIFY(LVN_ITEMCHANGED, control_id, &Parent::OnChanged)
 END_MESSAGE_MAP()
 
 class ReflectingList : public CListCtrl
@@ -67,14 +67,14 @@ class ListViewTest : public testing::Test
 protected:
     void SetUp() override
     {
-        ASSERT_TRUE(m_list.Create(Shown | LVS_REPORT | LVS_SHOWSELALWAYS, Place, m_parent, ControlId));
+        ASSERT_TRUE(m_list.Create(shown | LVS_REPORT | LVS_SHOWSELALWAYS, Place, m_parent, control_id));
         EXPECT_EQ(m_list.InsertColumn(0, L"Name", LVCFMT_LEFT, 100), 0);
         EXPECT_EQ(m_list.InsertColumn(1, L"Level", LVCFMT_RIGHT, 60, 1), 1);
         for (int row = 0; row < 3; ++row)
         {
-            EXPECT_EQ(m_list.InsertItem(row, Names[row]), row);
-            EXPECT_TRUE(m_list.SetItemText(row, 1, Levels[row]));
-            EXPECT_TRUE(m_list.SetItemData(row, static_cast<DWORD_PTR>(Data[row])));
+            EXPECT_EQ(m_list.InsertItem(row, names[row]), row);
+            EXPECT_TRUE(m_list.SetItemText(row, 1, levels[row]));
+            EXPECT_TRUE(m_list.SetItemData(row, static_cast<DWORD_PTR>(data[row])));
         }
     }
     std::wstring Order() const
@@ -85,9 +85,9 @@ protected:
         return std::wstring(order);
     }
 
-    static constexpr LPCTSTR Names[]{L"left", L"right", L"sum"};
-    static constexpr LPCTSTR Levels[]{L"-3", L"-1", L"-2"};
-    static constexpr int Data[]{20, 30, 10};
+    static constexpr LPCTSTR names[]{L"left", L"right", L"sum"};
+    static constexpr LPCTSTR levels[]{L"-3", L"-1", L"-2"};
+    static constexpr int data[]{20, 30, 10};
 
     Parent m_parent;
     ReflectingList m_list;
@@ -323,7 +323,7 @@ TEST_F(ListViewTest, LabelIsEditedInAnEditControl)
 TEST_F(ListViewTest, OwnerDrawnRowsReachTheVirtualMember)
 {
     ReflectingList list;
-    ASSERT_TRUE(list.Create(Shown | LVS_REPORT | LVS_OWNERDRAWFIXED, Place, m_parent, ControlId + 1));
+    ASSERT_TRUE(list.Create(shown | LVS_REPORT | LVS_OWNERDRAWFIXED, Place, m_parent, control_id + 1));
     list.InsertColumn(0, L"x", LVCFMT_LEFT, 50);
     list.InsertItem(0, L"a");
     list.InsertItem(1, L"b");
@@ -342,7 +342,7 @@ TEST_F(ListViewTest, ImageListStaysWithItsObject)
     ASSERT_TRUE(images->SetImageCount(2));
     {
         CListCtrl list;
-        ASSERT_TRUE(list.Create(Shown | LVS_REPORT, Place, m_parent, ControlId + 1));
+        ASSERT_TRUE(list.Create(shown | LVS_REPORT, Place, m_parent, control_id + 1));
         EXPECT_EQ(list.SetImageList(images.get(), LVSIL_SMALL), nullptr);
         EXPECT_EQ(list.GetImageList(LVSIL_SMALL), images.get());
         EXPECT_EQ(list.GetImageList(LVSIL_NORMAL), nullptr);
@@ -421,7 +421,7 @@ TEST(FrameworkControlsListView, VirtualListAsksItsParent)
     };
     Source parent;
     CListCtrl list;
-    ASSERT_TRUE(list.Create(Shown | LVS_REPORT | LVS_OWNERDATA, Place, parent, ControlId));
+    ASSERT_TRUE(list.Create(shown | LVS_REPORT | LVS_OWNERDATA, Place, parent, control_id));
     list.InsertColumn(0, L"x", LVCFMT_LEFT, 80);
     EXPECT_TRUE(list.SetItemCountEx(1000));
     EXPECT_EQ(list.GetItemCount(), 1000);
@@ -431,11 +431,11 @@ TEST(FrameworkControlsListView, VirtualListAsksItsParent)
 TEST(FrameworkControlsListView, SubclassedListViewAnswersThroughItsObject)
 {
     tests::ScopedWindow parent;
-    HWND const plain = ::CreateWindow(WC_LISTVIEW, L"", Shown | LVS_REPORT, 0, 0, 80, 50, parent.m_hWnd,
-                                      reinterpret_cast<HMENU>(static_cast<UINT_PTR>(ControlId)), nullptr, nullptr);
+    HWND const plain = ::CreateWindow(WC_LISTVIEW, L"", shown | LVS_REPORT, 0, 0, 80, 50, parent.m_hWnd,
+                                      reinterpret_cast<HMENU>(static_cast<UINT_PTR>(control_id)), nullptr, nullptr);
     ASSERT_NE(plain, nullptr);
     CListCtrl list;
-    ASSERT_TRUE(list.SubclassDlgItem(ControlId, parent));
+    ASSERT_TRUE(list.SubclassDlgItem(control_id, parent));
     EXPECT_EQ(list.InsertColumn(0, L"x"), 0);
     EXPECT_EQ(list.InsertItem(0, L"a"), 0);
     EXPECT_EQ(list.GetItemText(0, 0), L"a");
@@ -457,7 +457,7 @@ TEST(FrameworkControlsListView, HeaderStandsAlone)
 {
     tests::ScopedWindow parent;
     DrawnHeader header;
-    ASSERT_TRUE(header.Create(Shown | HDS_HORZ | HDS_BUTTONS, CRect(0, 0, 200, 24), parent, ControlId));
+    ASSERT_TRUE(header.Create(shown | HDS_HORZ | HDS_BUTTONS, CRect(0, 0, 200, 24), parent, control_id));
     wchar_t text[]{L"Name"};
     HDITEM item{};
     item.mask = HDI_TEXT | HDI_WIDTH | HDI_FORMAT;
@@ -500,9 +500,9 @@ TEST(FrameworkControlsListView, ExtendedCreationTakesExtendedStyles)
 {
     tests::ScopedWindow parent;
     CListCtrl list;
-    ASSERT_TRUE(list.CreateEx(WS_EX_CLIENTEDGE, Shown | LVS_REPORT, Place, parent, ControlId));
+    ASSERT_TRUE(list.CreateEx(WS_EX_CLIENTEDGE, shown | LVS_REPORT, Place, parent, control_id));
     EXPECT_NE(list.GetExStyle() & WS_EX_CLIENTEDGE, 0U);
-    EXPECT_EQ(list.GetDlgCtrlID(), static_cast<int>(ControlId));
+    EXPECT_EQ(list.GetDlgCtrlID(), static_cast<int>(control_id));
     EXPECT_EQ(list.GetParent(), &parent);
 }
 } // namespace

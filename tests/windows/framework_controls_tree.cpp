@@ -11,8 +11,8 @@
 
 namespace
 {
-constexpr UINT ControlId = 7;
-constexpr DWORD Shown = WS_CHILD | WS_VISIBLE | TVS_HASLINES | TVS_HASBUTTONS | TVS_LINESATROOT;
+constexpr UINT control_id = 7;
+constexpr DWORD shown = WS_CHILD | WS_VISIBLE | TVS_HASLINES | TVS_HASBUTTONS | TVS_LINESATROOT;
 
 class ReflectingTree : public CTreeCtrl
 {
@@ -37,7 +37,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 };
 BEGIN_MESSAGE_MAP(Parent, tests::ScopedWindow)
-    ON_NOTIFY(TVN_SELCHANGED, ControlId, &Parent::OnChanged)
+    ON_NOTIFY(TVN_SELCHANGED, control_id, &Parent::OnChanged)
 END_MESSAGE_MAP()
 
 int CALLBACK Descending(LPARAM first, LPARAM second, LPARAM)
@@ -51,7 +51,7 @@ class TreeTest : public testing::Test
 protected:
     void SetUp() override
     {
-        ASSERT_TRUE(m_tree.Create(Shown, CRect(0, 0, 200, 150), m_parent, ControlId));
+        ASSERT_TRUE(m_tree.Create(shown, CRect(0, 0, 200, 150), m_parent, control_id));
         m_inputs = m_tree.InsertItem(L"Inputs");
         m_outputs = m_tree.InsertItem(L"Outputs");
         m_left = m_tree.InsertItem(L"Left", m_inputs);

@@ -232,13 +232,13 @@ class Throwing : public CWnd
 public:
     enum class Kind
     {
-        None,
-        NotSupported,
-        User,
-        Standard,
-        Other
+        none,
+        not_supported,
+        user,
+        standard,
+        other
     };
-    Kind m_kind = Kind::None;
+    Kind m_kind = Kind::none;
     UINT m_at = WM_APP;
 
 protected:
@@ -248,15 +248,15 @@ protected:
         {
             switch (m_kind)
             {
-            case Kind::NotSupported:
+            case Kind::not_supported:
                 AfxThrowNotSupportedException();
-            case Kind::User:
+            case Kind::user:
                 AfxThrowUserException();
-            case Kind::Standard:
+            case Kind::standard:
                 throw std::runtime_error("broken pipe");
-            case Kind::Other:
+            case Kind::other:
                 throw 1;
-            case Kind::None:
+            case Kind::none:
                 break;
             }
         }
@@ -275,7 +275,7 @@ protected:
     {
         m_window.m_kind = kind;
         EXPECT_EQ(m_window.SendMessage(WM_APP), 0);
-        m_window.m_kind = Throwing::Kind::None;
+        m_window.m_kind = Throwing::Kind::none;
         return tests::App().TakeMessages();
     }
     ~CoreExceptions() override { m_window.DestroyWindow(); }
@@ -286,21 +286,21 @@ protected:
 TEST_F(CoreExceptions, ExceptionInAHandlerIsReportedAndTheProgramGoesOn)
 {
     ASSERT_TRUE(Create());
-    EXPECT_EQ(Raise(Throwing::Kind::NotSupported), Texts{L"An unsupported operation was attempted."});
-    EXPECT_EQ(Raise(Throwing::Kind::Standard), Texts{L"broken pipe"});
-    EXPECT_EQ(Raise(Throwing::Kind::Other).size(), 1u);
+    EXPECT_EQ(Raise(Throwing::Kind::not_supported), Texts{L"An unsupported operation was attempted."});
+    EXPECT_EQ(Raise(Throwing::Kind::standard), Texts{L"broken pipe"});
+    EXPECT_EQ(Raise(Throwing::Kind::other).size(), 1u);
     EXPECT_TRUE(::IsWindow(m_window.m_hWnd));
 }
 
 TEST_F(CoreExceptions, UserExceptionIsSilent)
 {
     ASSERT_TRUE(Create());
-    EXPECT_EQ(Raise(Throwing::Kind::User), Texts{});
+    EXPECT_EQ(Raise(Throwing::Kind::user), Texts{});
 }
 
 TEST_F(CoreExceptions, ExceptionInCreationMakesItFailSilently)
 {
-    m_window.m_kind = Throwing::Kind::NotSupported;
+    m_window.m_kind = Throwing::Kind::not_supported;
     m_window.m_at = WM_CREATE;
     EXPECT_FALSE(Create());
     EXPECT_EQ(tests::App().TakeMessages(), Texts{});
@@ -311,20 +311,20 @@ TEST_F(CoreExceptions, ExceptionInPaintingValidatesTheWindow)
     ASSERT_TRUE(Create());
     m_window.ShowWindow(SW_SHOWNOACTIVATE);
     tests::PumpPosted();
-    m_window.m_kind = Throwing::Kind::Standard;
+    m_window.m_kind = Throwing::Kind::standard;
     m_window.m_at = WM_PAINT;
     m_window.Invalidate();
     m_window.UpdateWindow();
     EXPECT_FALSE(m_window.GetUpdateRect(nullptr));
     EXPECT_EQ(tests::App().TakeMessages(), Texts{});
-    m_window.m_kind = Throwing::Kind::None;
+    m_window.m_kind = Throwing::Kind::none;
 }
 
 TEST_F(CoreExceptions, CurrentMessageIsRestoredAfterAnException)
 {
     ASSERT_TRUE(Create());
     UINT const before = CWnd::GetCurrentMessage()->message;
-    Raise(Throwing::Kind::User);
+    Raise(Throwing::Kind::user);
     EXPECT_EQ(CWnd::GetCurrentMessage()->message, before);
 }
 

@@ -12,9 +12,9 @@
 
 namespace
 {
-constexpr COLORREF Back = RGB(10, 200, 30);
-constexpr COLORREF Red = RGB(255, 0, 0);
-constexpr COLORREF Blue = RGB(0, 0, 255);
+constexpr COLORREF back = RGB(10, 200, 30);
+constexpr COLORREF red = RGB(255, 0, 0);
+constexpr COLORREF blue = RGB(0, 0, 255);
 
 /// A filled bitmap of the size.
 HBITMAP MakeBitmap(int width, int height, COLORREF colour)
@@ -66,10 +66,10 @@ protected:
 
 TEST_F(DialogBackground, ColourFillsTheClientArea)
 {
-    m_dialog.SetBackgroundColor(Back);
+    m_dialog.SetBackgroundColor(back);
     tests::Canvas canvas(m_size.cx, m_size.cy);
     Erase(canvas);
-    EXPECT_EQ(canvas.Count(Back), m_size.cx * m_size.cy);
+    EXPECT_EQ(canvas.Count(back), m_size.cx * m_size.cy);
 }
 
 TEST_F(DialogBackground, WithoutColourTheSystemsStays)
@@ -77,7 +77,7 @@ TEST_F(DialogBackground, WithoutColourTheSystemsStays)
     tests::Canvas canvas(m_size.cx, m_size.cy);
     Erase(canvas);
     EXPECT_EQ(canvas.Pixel(1, 1), ::GetSysColor(COLOR_BTNFACE));
-    m_dialog.SetBackgroundColor(Back);
+    m_dialog.SetBackgroundColor(back);
     m_dialog.SetBackgroundColor(static_cast<COLORREF>(-1));
     Erase(canvas);
     EXPECT_EQ(canvas.Pixel(1, 1), ::GetSysColor(COLOR_BTNFACE));
@@ -85,26 +85,26 @@ TEST_F(DialogBackground, WithoutColourTheSystemsStays)
 
 TEST_F(DialogBackground, StaticControlsAreTransparentOnTheColour)
 {
-    m_dialog.SetBackgroundColor(Back);
+    m_dialog.SetBackgroundColor(back);
     tests::Canvas canvas(10, 10);
     canvas.Dc().SetBkMode(OPAQUE);
     HBRUSH const brush = AskColour(WM_CTLCOLORSTATIC, IDC_APPLY, canvas);
     LOGBRUSH description = {};
     ASSERT_NE(::GetObject(brush, sizeof(description), &description), 0);
-    EXPECT_EQ(description.lbColor, Back);
+    EXPECT_EQ(description.lbColor, back);
     EXPECT_EQ(canvas.Dc().GetBkMode(), TRANSPARENT);
 }
 
 TEST_F(DialogBackground, EditFieldsKeepTheirOwnBackground)
 {
-    m_dialog.SetBackgroundColor(Back);
+    m_dialog.SetBackgroundColor(back);
     tests::Canvas canvas(10, 10);
     for (UINT const message : {WM_CTLCOLOREDIT, WM_CTLCOLORSTATIC}) // the latter comes from a read-only one
     {
         LOGBRUSH description = {};
         HBRUSH const brush = AskColour(message, IDC_TEXT, canvas);
         ASSERT_NE(::GetObject(brush, sizeof(description), &description), 0);
-        EXPECT_NE(description.lbColor, Back);
+        EXPECT_NE(description.lbColor, back);
     }
 }
 
@@ -113,10 +113,10 @@ TEST_F(DialogBackground, PictureIsTiled)
     ASSERT_TRUE(m_dialog.SetBackgroundImage(IDB_BACKGROUND));
     tests::Canvas canvas(m_size.cx, m_size.cy, RGB(1, 2, 3));
     Erase(canvas);
-    EXPECT_EQ(canvas.Pixel(0, 0), Blue);
-    EXPECT_EQ(canvas.Pixel(0, 1), Red);
-    EXPECT_EQ(canvas.Pixel(5, 2), Blue);
-    EXPECT_EQ(canvas.Count(Blue) + canvas.Count(Red), m_size.cx * m_size.cy);
+    EXPECT_EQ(canvas.Pixel(0, 0), blue);
+    EXPECT_EQ(canvas.Pixel(0, 1), red);
+    EXPECT_EQ(canvas.Pixel(5, 2), blue);
+    EXPECT_EQ(canvas.Count(blue) + canvas.Count(red), m_size.cx * m_size.cy);
 }
 
 TEST_F(DialogBackground, PictureInEachCorner)
@@ -134,31 +134,31 @@ TEST_F(DialogBackground, PictureInEachCorner)
         {CDialogEx::BACKGR_BOTTOMLEFT, {0, m_size.cy - height}},
         {CDialogEx::BACKGR_BOTTOMRIGHT, {m_size.cx - width, m_size.cy - height}},
     };
-    m_dialog.SetBackgroundColor(Back);
+    m_dialog.SetBackgroundColor(back);
     for (Corner const & corner : corners)
     {
-        m_dialog.SetBackgroundImage(MakeBitmap(width, height, Red), corner.location);
+        m_dialog.SetBackgroundImage(MakeBitmap(width, height, red), corner.location);
         tests::Canvas canvas(m_size.cx, m_size.cy);
         Erase(canvas);
-        EXPECT_EQ(canvas.BoundsOf(Red), CRect(corner.origin, CSize(width, height)));
-        EXPECT_EQ(canvas.BoundsOfOther(Red), CRect(CPoint(0, 0), m_size));
-        EXPECT_EQ(canvas.Count(Back), m_size.cx * m_size.cy - width * height);
+        EXPECT_EQ(canvas.BoundsOf(red), CRect(corner.origin, CSize(width, height)));
+        EXPECT_EQ(canvas.BoundsOfOther(red), CRect(CPoint(0, 0), m_size));
+        EXPECT_EQ(canvas.Count(back), m_size.cx * m_size.cy - width * height);
     }
 }
 
 TEST_F(DialogBackground, MissingPictureIsRefused)
 {
     EXPECT_FALSE(m_dialog.SetBackgroundImage(30001));
-    m_dialog.SetBackgroundColor(Back);
+    m_dialog.SetBackgroundColor(back);
     tests::Canvas canvas(m_size.cx, m_size.cy);
     Erase(canvas);
-    EXPECT_EQ(canvas.Count(Back), m_size.cx * m_size.cy);
+    EXPECT_EQ(canvas.Count(back), m_size.cx * m_size.cy);
 }
 
 TEST_F(DialogBackground, OwnedPictureGoesWithTheNextOne)
 {
-    HBITMAP const owned = MakeBitmap(4, 4, Red);
-    HBITMAP const kept = MakeBitmap(4, 4, Blue);
+    HBITMAP const owned = MakeBitmap(4, 4, red);
+    HBITMAP const kept = MakeBitmap(4, 4, blue);
     m_dialog.SetBackgroundImage(owned);
     m_dialog.SetBackgroundImage(kept, CDialogEx::BACKGR_TILE, FALSE);
     EXPECT_EQ(::GetObjectType(owned), 0u);
@@ -172,23 +172,23 @@ TEST_F(DialogBackground, RepaintsAtOnceOnlyWhenAsked)
     m_dialog.ShowWindow(SW_SHOW);
     m_dialog.UpdateWindow();
     tests::PumpPosted();
-    m_dialog.SetBackgroundColor(Back, FALSE);
+    m_dialog.SetBackgroundColor(back, FALSE);
     EXPECT_FALSE(m_dialog.GetUpdateRect(nullptr));
     tests::Canvas canvas(m_size.cx, m_size.cy);
     canvas.CopyFromScreen(m_dialog.m_hWnd);
-    EXPECT_NE(canvas.Pixel(1, 1), Back);
-    m_dialog.SetBackgroundColor(Back);
+    EXPECT_NE(canvas.Pixel(1, 1), back);
+    m_dialog.SetBackgroundColor(back);
     canvas.CopyFromScreen(m_dialog.m_hWnd);
-    EXPECT_EQ(canvas.Pixel(1, 1), Back);
+    EXPECT_EQ(canvas.Pixel(1, 1), back);
 }
 
 TEST_F(DialogBackground, LeavesNoGdiObjectsBehind)
 {
     EXPECT_EQ(tests::GdiGrowth([&] {
                   CDialogEx dialog;
-                  dialog.SetBackgroundColor(Back);
-                  dialog.SetBackgroundColor(Red);
-                  dialog.SetBackgroundImage(MakeBitmap(4, 4, Red));
+                  dialog.SetBackgroundColor(back);
+                  dialog.SetBackgroundColor(red);
+                  dialog.SetBackgroundImage(MakeBitmap(4, 4, red));
                   ASSERT_TRUE(dialog.Create(IDD_SIMPLE, m_parent));
                   tests::Canvas canvas(20, 20);
                   dialog.SendMessage(WM_ERASEBKGND, reinterpret_cast<WPARAM>(canvas.Dc().GetSafeHdc()));

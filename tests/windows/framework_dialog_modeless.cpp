@@ -306,7 +306,7 @@ TEST(ModelessDialog, MessagesOfAClickInOrder)
     recorder.Watch(::GetDlgItem(dialog.m_hWnd, IDC_APPLY), "button");
     ::PostMessage(::GetDlgItem(dialog.m_hWnd, IDC_APPLY), BM_CLICK, 0, 0);
     ASSERT_TRUE(tests::PumpUntil([&] { return recorder.Count("dialog", WM_COMMAND) > 0; }));
-    EXPECT_TRUE(recorder.Matches({{.window = "button", .message = BM_CLICK, .way = tests::Way::Posted},
+    EXPECT_TRUE(recorder.Matches({{.window = "button", .message = BM_CLICK, .way = tests::Way::posted},
                                   {.window = "button", .message = WM_LBUTTONDOWN},
                                   {.window = "dialog", .message = WM_COMMAND, .code = EN_KILLFOCUS, .optional = true},
                                   {.window = "button", .message = WM_LBUTTONUP},

@@ -8,8 +8,8 @@
 
 namespace
 {
-constexpr COLORREF Red = RGB(255, 0, 0);
-constexpr COLORREF Blue = RGB(0, 0, 255);
+constexpr COLORREF red = RGB(255, 0, 0);
+constexpr COLORREF blue = RGB(0, 0, 255);
 
 TEST(FrameworkGdiAttributes, DrawingAttributesGiveTheirPreviousValue)
 {
@@ -17,9 +17,9 @@ TEST(FrameworkGdiAttributes, DrawingAttributesGiveTheirPreviousValue)
     CDC & dc = canvas.Dc();
     EXPECT_EQ(dc.SetBkMode(TRANSPARENT), OPAQUE);
     EXPECT_EQ(dc.GetBkMode(), TRANSPARENT);
-    dc.SetBkColor(Red);
-    EXPECT_EQ(dc.SetBkColor(Blue), Red);
-    EXPECT_EQ(dc.GetBkColor(), Blue);
+    dc.SetBkColor(red);
+    EXPECT_EQ(dc.SetBkColor(blue), red);
+    EXPECT_EQ(dc.GetBkColor(), blue);
     EXPECT_EQ(dc.SetROP2(R2_XORPEN), R2_COPYPEN);
     EXPECT_EQ(dc.GetROP2(), R2_XORPEN);
     EXPECT_EQ(dc.SetPolyFillMode(WINDING), ALTERNATE);
@@ -37,7 +37,7 @@ TEST(FrameworkGdiAttributes, DrawingAttributesGiveTheirPreviousValue)
     EXPECT_EQ(dc.SetBrushOrg(3, 4), CPoint(0, 0));
     EXPECT_EQ(dc.SetBrushOrg(CPoint(5, 6)), CPoint(3, 4));
     EXPECT_EQ(dc.GetBrushOrg(), CPoint(5, 6));
-    EXPECT_EQ(dc.GetNearestColor(Red), Red);
+    EXPECT_EQ(dc.GetNearestColor(red), red);
     EXPECT_EQ(dc.SetGraphicsMode(GM_ADVANCED), GM_COMPATIBLE);
     EXPECT_EQ(dc.GetGraphicsMode(), GM_ADVANCED);
     XFORM const shifted = {1, 0, 0, 1, 5, 6};
@@ -137,8 +137,8 @@ TEST(FrameworkGdiAttributes, ClippingNarrowsAndWidens)
     EXPECT_FALSE(dc.PtVisible(CPoint(4, 5)));
     EXPECT_TRUE(dc.RectVisible(CRect(0, 0, 6, 6)));
     EXPECT_FALSE(dc.RectVisible(CRect(0, 0, 5, 5)));
-    dc.FillSolidRect(0, 0, 20, 20, Red);
-    EXPECT_EQ(canvas.Count(Red), 100);
+    dc.FillSolidRect(0, 0, 20, 20, red);
+    EXPECT_EQ(canvas.Count(red), 100);
     EXPECT_EQ(dc.IntersectClipRect(5, 5, 10, 10), SIMPLEREGION);
     EXPECT_EQ(dc.OffsetClipRgn(1, 1), SIMPLEREGION);
     EXPECT_EQ(dc.OffsetClipRgn(CSize(1, 1)), SIMPLEREGION);
@@ -161,7 +161,7 @@ TEST(FrameworkGdiAttributes, LayoutAndBoundsAreKept)
     EXPECT_EQ(dc.GetLayout(), static_cast<DWORD>(LAYOUT_RTL));
     dc.SetLayout(0);
     dc.SetBoundsRect(nullptr, DCB_ENABLE | DCB_RESET);
-    dc.FillSolidRect(3, 4, 5, 6, Red);
+    dc.FillSolidRect(3, 4, 5, 6, red);
     CRect bounds;
     EXPECT_EQ(dc.GetBoundsRect(bounds, DCB_RESET), static_cast<UINT>(DCB_SET));
     EXPECT_TRUE(bounds.PtInRect(CPoint(3, 4)));

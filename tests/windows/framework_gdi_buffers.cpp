@@ -13,9 +13,9 @@
 
 namespace
 {
-constexpr COLORREF Red = RGB(255, 0, 0);
-constexpr COLORREF Blue = RGB(0, 0, 255);
-constexpr COLORREF White = RGB(255, 255, 255);
+constexpr COLORREF red = RGB(255, 0, 0);
+constexpr COLORREF blue = RGB(0, 0, 255);
+constexpr COLORREF white = RGB(255, 255, 255);
 
 TEST(FrameworkGdiMetafiles, DrawingIsRecordedAndPlayed)
 {
@@ -24,14 +24,14 @@ TEST(FrameworkGdiMetafiles, DrawingIsRecordedAndPlayed)
     ASSERT_TRUE(recorder.Create());
     EXPECT_NE(recorder.m_hDC, nullptr);
     EXPECT_EQ(recorder.m_hAttribDC, nullptr);
-    CBrush brush(Red);
-    recorder.FillSolidRect(2, 3, 5, 6, Red);
+    CBrush brush(red);
+    recorder.FillSolidRect(2, 3, 5, 6, red);
     HMETAFILE const file = recorder.Close();
     ASSERT_NE(file, nullptr);
     EXPECT_EQ(recorder.m_hDC, nullptr);
     tests::Canvas canvas(20, 20);
     EXPECT_TRUE(canvas.Dc().PlayMetaFile(file));
-    EXPECT_EQ(canvas.BoundsOf(Red), CRect(2, 3, 7, 9));
+    EXPECT_EQ(canvas.BoundsOf(red), CRect(2, 3, 7, 9));
     ::DeleteMetaFile(file);
 }
 
@@ -39,8 +39,8 @@ TEST(FrameworkGdiMetafiles, PlayedIntoTwoContextsOnlyStateReachesTheAttributes)
 {
     CMetaFileDC recorder;
     ASSERT_TRUE(recorder.Create());
-    recorder.SetTextColor(Blue);
-    recorder.FillSolidRect(0, 0, 5, 5, Red);
+    recorder.SetTextColor(blue);
+    recorder.FillSolidRect(0, 0, 5, 5, red);
     HMETAFILE const file = recorder.Close();
     tests::Canvas output(10, 10);
     tests::Canvas attributes(10, 10);
@@ -48,9 +48,9 @@ TEST(FrameworkGdiMetafiles, PlayedIntoTwoContextsOnlyStateReachesTheAttributes)
     split.SetOutputDC(output.Dc());
     split.SetAttribDC(attributes.Dc());
     EXPECT_TRUE(split.PlayMetaFile(file));
-    EXPECT_EQ(output.Count(Red), 25);
-    EXPECT_EQ(attributes.Count(White), 100);
-    EXPECT_EQ(split.GetTextColor(), Blue);
+    EXPECT_EQ(output.Count(red), 25);
+    EXPECT_EQ(attributes.Count(white), 100);
+    EXPECT_EQ(split.GetTextColor(), blue);
     split.ReleaseOutputDC();
     split.ReleaseAttribDC();
     ::DeleteMetaFile(file);
@@ -65,14 +65,14 @@ static void RecordAndPlayEnhanced()
     EXPECT_EQ(recorder.GetDeviceCaps(LOGPIXELSX), screen.GetDeviceCaps(LOGPIXELSX));
     BYTE const comment[] = {1, 2, 3, 4};
     EXPECT_TRUE(recorder.AddMetaFileComment(sizeof comment, comment));
-    CBrush brush(Red);
+    CBrush brush(red);
     recorder.FillRect(CRect(0, 0, 50, 50), &brush);
     recorder.ReleaseAttribDC();
     HENHMETAFILE const file = recorder.CloseEnhanced();
     ASSERT_NE(file, nullptr);
     tests::Canvas canvas(20, 20);
     EXPECT_TRUE(canvas.Dc().PlayMetaFile(file, CRect(0, 0, 20, 20)));
-    EXPECT_GT(canvas.Count(Red), 300);
+    EXPECT_GT(canvas.Count(red), 300);
     ::DeleteEnhMetaFile(file);
 }
 
@@ -118,12 +118,12 @@ TEST_P(FrameworkMemDC, DrawingIsCopiedBackAtTheEnd)
         EXPECT_EQ(buffer.IsVistaDC(), static_cast<BOOL>(GetParam() && ::IsAppThemed()));
         CDC & dc = buffer.GetDC();
         EXPECT_NE(dc.m_hDC, canvas.Dc().m_hDC);
-        dc.FillSolidRect(10, 10, 20, 20, Blue);
-        dc.FillSolidRect(12, 13, 5, 6, Red); // coordinates are those of the target
-        EXPECT_EQ(canvas.Count(White), 1600);
+        dc.FillSolidRect(10, 10, 20, 20, blue);
+        dc.FillSolidRect(12, 13, 5, 6, red); // coordinates are those of the target
+        EXPECT_EQ(canvas.Count(white), 1600);
     }
-    EXPECT_EQ(canvas.BoundsOfOther(White), CRect(10, 10, 30, 30));
-    EXPECT_EQ(canvas.BoundsOf(Red), CRect(12, 13, 17, 19));
+    EXPECT_EQ(canvas.BoundsOfOther(white), CRect(10, 10, 30, 30));
+    EXPECT_EQ(canvas.BoundsOf(red), CRect(12, 13, 17, 19));
 }
 
 TEST_P(FrameworkMemDC, ClipRegionOfTheTargetHolds)
@@ -132,9 +132,9 @@ TEST_P(FrameworkMemDC, ClipRegionOfTheTargetHolds)
     canvas.Dc().IntersectClipRect(5, 5, 15, 15);
     {
         CMemDC buffer(canvas.Dc(), CRect(0, 0, 40, 40));
-        buffer.GetDC().FillSolidRect(0, 0, 40, 40, Red);
+        buffer.GetDC().FillSolidRect(0, 0, 40, 40, red);
     }
-    EXPECT_EQ(canvas.BoundsOf(Red), CRect(5, 5, 15, 15));
+    EXPECT_EQ(canvas.BoundsOf(red), CRect(5, 5, 15, 15));
 }
 
 TEST_P(FrameworkMemDC, WindowBufferCoversTheClientArea)
@@ -145,9 +145,9 @@ TEST_P(FrameworkMemDC, WindowBufferCoversTheClientArea)
     tests::Canvas canvas(area.Width() + 20, area.Height() + 20);
     {
         CMemDC buffer(canvas.Dc(), &window);
-        buffer.GetDC().FillSolidRect(-50, -50, 1000, 1000, Red);
+        buffer.GetDC().FillSolidRect(-50, -50, 1000, 1000, red);
     }
-    EXPECT_EQ(canvas.BoundsOf(Red), area);
+    EXPECT_EQ(canvas.BoundsOf(red), area);
 }
 
 TEST_P(FrameworkMemDC, EmptyRectangleDrawsOnTheTargetItself)
@@ -158,9 +158,9 @@ TEST_P(FrameworkMemDC, EmptyRectangleDrawsOnTheTargetItself)
         EXPECT_FALSE(buffer.IsMemDC());
         EXPECT_FALSE(buffer.IsVistaDC());
         EXPECT_EQ(&buffer.GetDC(), &canvas.Dc());
-        buffer.GetDC().FillSolidRect(0, 0, 10, 10, Red);
+        buffer.GetDC().FillSolidRect(0, 0, 10, 10, red);
     }
-    EXPECT_EQ(canvas.Count(Red), 100);
+    EXPECT_EQ(canvas.Count(red), 100);
 }
 
 TEST_P(FrameworkMemDC, NoHandleIsLeftBehind)
@@ -168,7 +168,7 @@ TEST_P(FrameworkMemDC, NoHandleIsLeftBehind)
     tests::Canvas canvas(40, 40);
     EXPECT_EQ(tests::GdiGrowth([&] {
                   CMemDC buffer(canvas.Dc(), CRect(0, 0, 40, 40));
-                  buffer.GetDC().FillSolidRect(0, 0, 5, 5, Red);
+                  buffer.GetDC().FillSolidRect(0, 0, 5, 5, red);
               }),
               0);
 }

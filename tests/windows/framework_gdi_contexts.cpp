@@ -11,9 +11,9 @@
 
 namespace
 {
-constexpr COLORREF Red = RGB(255, 0, 0);
-constexpr COLORREF Blue = RGB(0, 0, 255);
-constexpr COLORREF White = RGB(255, 255, 255);
+constexpr COLORREF red = RGB(255, 0, 0);
+constexpr COLORREF blue = RGB(0, 0, 255);
+constexpr COLORREF white = RGB(255, 255, 255);
 
 template <class Action> bool ThrowsResourceException(Action action)
 {
@@ -141,8 +141,8 @@ TEST(FrameworkGdiContexts, SelectObjectGivesTheObjectSelectedBefore)
 {
     tests::Canvas canvas(10, 10);
     CDC & dc = canvas.Dc();
-    CPen pen(PS_SOLID, 1, Red);
-    CBrush brush(Blue);
+    CPen pen(PS_SOLID, 1, red);
+    CBrush brush(blue);
     CFont font;
     font.CreatePointFont(90, L"Tahoma");
     CPen * const firstPen = dc.SelectObject(&pen);
@@ -184,8 +184,8 @@ TEST(FrameworkGdiContexts, SelectedBitmapReceivesTheDrawing)
     ASSERT_TRUE(bitmap.CreateCompatibleBitmap(&screen, 5, 5));
     CBitmap * const previous = memory.SelectObject(&bitmap);
     ASSERT_NE(previous, nullptr);
-    memory.FillSolidRect(0, 0, 5, 5, Red);
-    EXPECT_EQ(memory.GetPixel(4, 4), Red);
+    memory.FillSolidRect(0, 0, 5, 5, red);
+    EXPECT_EQ(memory.GetPixel(4, 4), red);
     EXPECT_EQ(memory.GetPixel(5, 5), CLR_INVALID);
     EXPECT_EQ(memory.SelectObject(previous), &bitmap);
 }
@@ -200,26 +200,26 @@ TEST(FrameworkGdiContexts, StockObjectsAreSelected)
     EXPECT_EQ(previous->m_hObject, ::GetStockObject(BLACK_PEN));
     EXPECT_EQ(dc.GetCurrentPen()->m_hObject, ::GetStockObject(NULL_PEN));
     dc.SelectStockObject(DC_BRUSH);
-    dc.SetDCBrushColor(Blue);
-    EXPECT_EQ(dc.GetDCBrushColor(), Blue);
-    dc.SetDCPenColor(Red);
-    EXPECT_EQ(dc.GetDCPenColor(), Red);
+    dc.SetDCBrushColor(blue);
+    EXPECT_EQ(dc.GetDCBrushColor(), blue);
+    dc.SetDCPenColor(red);
+    EXPECT_EQ(dc.GetDCPenColor(), red);
     dc.PatBlt(0, 0, 10, 10, PATCOPY);
-    EXPECT_EQ(canvas.Count(Blue), 100);
+    EXPECT_EQ(canvas.Count(blue), 100);
 }
 
 TEST(FrameworkGdiContexts, SavedStateIsRestored)
 {
     tests::Canvas canvas(10, 10);
     CDC & dc = canvas.Dc();
-    dc.SetTextColor(Red);
+    dc.SetTextColor(red);
     int const saved = dc.SaveDC();
     EXPECT_GT(saved, 0);
-    CBrush brush(Blue);
-    dc.SetTextColor(Blue);
+    CBrush brush(blue);
+    dc.SetTextColor(blue);
     dc.SelectObject(&brush);
     EXPECT_TRUE(dc.RestoreDC(saved));
-    EXPECT_EQ(dc.GetTextColor(), Red);
+    EXPECT_EQ(dc.GetTextColor(), red);
     EXPECT_NE(dc.GetCurrentBrush(), &brush);
     EXPECT_FALSE(dc.RestoreDC(saved));
 }
@@ -228,13 +228,13 @@ TEST(FrameworkGdiContexts, AttributesGoToBothContextsAndAreReadFromTheAttributeC
 {
     SplitContext split;
     CDC & dc = split.dc;
-    ::SetTextColor(split.attributes.Dc(), Blue);
-    EXPECT_EQ(dc.SetTextColor(Red), Blue);
-    EXPECT_EQ(::GetTextColor(split.output.Dc()), Red);
-    EXPECT_EQ(::GetTextColor(split.attributes.Dc()), Red);
-    ::SetBkColor(split.output.Dc(), Blue);
+    ::SetTextColor(split.attributes.Dc(), blue);
+    EXPECT_EQ(dc.SetTextColor(red), blue);
+    EXPECT_EQ(::GetTextColor(split.output.Dc()), red);
+    EXPECT_EQ(::GetTextColor(split.attributes.Dc()), red);
+    ::SetBkColor(split.output.Dc(), blue);
     EXPECT_EQ(dc.GetBkColor(), ::GetBkColor(split.attributes.Dc()));
-    CBrush brush(Red);
+    CBrush brush(red);
     CBrush * const previous = dc.SelectObject(&brush);
     EXPECT_EQ(::GetCurrentObject(split.output.Dc(), OBJ_BRUSH), brush.m_hObject);
     EXPECT_EQ(::GetCurrentObject(split.attributes.Dc(), OBJ_BRUSH), brush.m_hObject);
@@ -247,10 +247,10 @@ TEST(FrameworkGdiContexts, AttributesGoToBothContextsAndAreReadFromTheAttributeC
 TEST(FrameworkGdiContexts, DrawingGoesToTheOutputContextOnly)
 {
     SplitContext split;
-    split.dc.FillSolidRect(0, 0, 20, 20, Red);
-    EXPECT_EQ(split.output.Count(Red), 400);
-    EXPECT_EQ(split.attributes.Count(White), 400);
-    EXPECT_EQ(split.dc.GetBkColor(), Red);
+    split.dc.FillSolidRect(0, 0, 20, 20, red);
+    EXPECT_EQ(split.output.Count(red), 400);
+    EXPECT_EQ(split.attributes.Count(white), 400);
+    EXPECT_EQ(split.dc.GetBkColor(), red);
 }
 
 TEST(FrameworkGdiContexts, CurrentPositionOfBothContextsMovesTogether)
@@ -271,12 +271,12 @@ TEST(FrameworkGdiContexts, SavedStateOfTwoContextsIsRestoredByTheLastLevel)
 {
     SplitContext split;
     ::SaveDC(split.output.Dc()); // the levels now differ
-    split.dc.SetTextColor(Red);
+    split.dc.SetTextColor(red);
     EXPECT_EQ(split.dc.SaveDC(), -1);
-    split.dc.SetTextColor(Blue);
+    split.dc.SetTextColor(blue);
     EXPECT_TRUE(split.dc.RestoreDC(-1));
-    EXPECT_EQ(::GetTextColor(split.output.Dc()), Red);
-    EXPECT_EQ(::GetTextColor(split.attributes.Dc()), Red);
+    EXPECT_EQ(::GetTextColor(split.output.Dc()), red);
+    EXPECT_EQ(::GetTextColor(split.attributes.Dc()), red);
 }
 
 TEST(FrameworkGdiContexts, ClipPathOfTheOutputReachesTheAttributeContext)

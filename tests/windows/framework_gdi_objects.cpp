@@ -14,10 +14,10 @@
 
 namespace
 {
-constexpr COLORREF Red = RGB(255, 0, 0);
-constexpr COLORREF Blue = RGB(0, 0, 255);
-constexpr COLORREF White = RGB(255, 255, 255);
-constexpr COLORREF Black = RGB(0, 0, 0);
+constexpr COLORREF pure_red = RGB(255, 0, 0);
+constexpr COLORREF pure_blue = RGB(0, 0, 255);
+constexpr COLORREF pure_white = RGB(255, 255, 255);
+constexpr COLORREF pure_black = RGB(0, 0, 0);
 
 template <class Action> bool ThrowsResourceException(Action action)
 {
@@ -51,7 +51,7 @@ TEST(FrameworkGdiObjects, NewObjectHasNoHandle)
 TEST(FrameworkGdiObjects, SafeHandleThroughNullPointerIsNull)
 {
     EXPECT_EQ(SafeHandleThroughNull(nullptr), nullptr);
-    CBrush brush(Red);
+    CBrush brush(pure_red);
     EXPECT_EQ(SafeHandleThroughNull(&brush), brush.m_hObject);
 }
 
@@ -60,7 +60,7 @@ TEST(FrameworkGdiObjects, DestructorDeletesTheObject)
     tests::GdiBalance const balance;
     HGDIOBJ handle = nullptr;
     {
-        CBrush brush(Red);
+        CBrush brush(pure_red);
         handle = brush.m_hObject;
         EXPECT_EQ(::GetObjectType(handle), static_cast<DWORD>(OBJ_BRUSH));
     }
@@ -71,7 +71,7 @@ TEST(FrameworkGdiObjects, DetachedObjectOutlivesIt)
 {
     HGDIOBJ handle = nullptr;
     {
-        CBrush brush(Red);
+        CBrush brush(pure_red);
         handle = brush.Detach();
         EXPECT_EQ(brush.m_hObject, nullptr);
         EXPECT_EQ(brush.Detach(), nullptr);
@@ -82,7 +82,7 @@ TEST(FrameworkGdiObjects, DetachedObjectOutlivesIt)
 
 TEST(FrameworkGdiObjects, AttachedObjectIsTheOneOfItsHandle)
 {
-    HBRUSH const handle = ::CreateSolidBrush(Red);
+    HBRUSH const handle = ::CreateSolidBrush(pure_red);
     CBrush brush;
     EXPECT_TRUE(brush.Attach(handle));
     EXPECT_EQ(CGdiObject::FromHandle(handle), &brush);
@@ -109,8 +109,8 @@ TEST(FrameworkGdiObjects, ObjectsWithOneStockHandleDoNotTouchEachOther)
 
 TEST(FrameworkGdiObjects, ComparisonIsThatOfTheHandles)
 {
-    CBrush const red(Red);
-    CBrush const alsoRed(Red);
+    CBrush const red(pure_red);
+    CBrush const alsoRed(pure_red);
     EXPECT_TRUE(red == red);
     EXPECT_FALSE(red == alsoRed);
     EXPECT_TRUE(red != alsoRed);
@@ -119,10 +119,10 @@ TEST(FrameworkGdiObjects, ComparisonIsThatOfTheHandles)
 TEST(FrameworkGdiObjects, TemporaryObjectHasTheClassOfItsHandle)
 {
     CGdiObject::DeleteTempMap();
-    HPEN const plain = ::CreatePen(PS_DOT, 1, Red);
-    LOGBRUSH const solid = {BS_SOLID, Red, 0};
+    HPEN const plain = ::CreatePen(PS_DOT, 1, pure_red);
+    LOGBRUSH const solid = {BS_SOLID, pure_red, 0};
     HPEN const wide = ::ExtCreatePen(PS_GEOMETRIC, 3, &solid, 0, nullptr);
-    HBRUSH const brush = ::CreateSolidBrush(Red);
+    HBRUSH const brush = ::CreateSolidBrush(pure_red);
     HFONT const font = ::CreateFont(-12, 0, 0, 0, 400, 0, 0, 0, 0, 0, 0, 0, 0, L"Tahoma");
     HBITMAP const bitmap = ::CreateBitmap(2, 2, 1, 1, nullptr);
     HRGN const region = ::CreateRectRgn(0, 0, 1, 1);
@@ -142,7 +142,7 @@ TEST(FrameworkGdiObjects, TemporaryObjectHasTheClassOfItsHandle)
 
 TEST(FrameworkGdiObjects, TemporaryObjectStaysTheSameAndLeavesTheHandleAlone)
 {
-    HBRUSH const handle = ::CreateSolidBrush(Red);
+    HBRUSH const handle = ::CreateSolidBrush(pure_red);
     CBrush * const temporary = CBrush::FromHandle(handle);
     EXPECT_EQ(CBrush::FromHandle(handle), temporary);
     CGdiObject::DeleteTempMap();
@@ -153,7 +153,7 @@ TEST(FrameworkGdiObjects, TemporaryObjectStaysTheSameAndLeavesTheHandleAlone)
 
 TEST(FrameworkGdiObjects, EachThreadHasItsOwnMap)
 {
-    CBrush brush(Red);
+    CBrush brush(pure_red);
     CBrush * elsewhere = nullptr;
     std::thread([&] {
         elsewhere = CBrush::FromHandle(brush);
@@ -166,12 +166,12 @@ TEST(FrameworkGdiObjects, EachThreadHasItsOwnMap)
 
 TEST(FrameworkGdiObjects, PenTellsItsStyleWidthAndColour)
 {
-    CPen pen(PS_DASH, 1, Blue);
+    CPen pen(PS_DASH, 1, pure_blue);
     LOGPEN description = {};
     EXPECT_NE(pen.GetLogPen(&description), 0);
     EXPECT_EQ(description.lopnStyle, static_cast<UINT>(PS_DASH));
     EXPECT_EQ(description.lopnWidth.x, 1);
-    EXPECT_EQ(description.lopnColor, Blue);
+    EXPECT_EQ(description.lopnColor, pure_blue);
 
     CPen same;
     EXPECT_TRUE(same.CreatePenIndirect(&description));
@@ -180,17 +180,17 @@ TEST(FrameworkGdiObjects, PenTellsItsStyleWidthAndColour)
 
 TEST(FrameworkGdiObjects, GeometricPenTellsItsExtendedDescription)
 {
-    LOGBRUSH const brush = {BS_SOLID, Red, 0};
+    LOGBRUSH const brush = {BS_SOLID, pure_red, 0};
     CPen pen(PS_GEOMETRIC | PS_SOLID, 5, &brush);
     EXTLOGPEN description = {};
     EXPECT_NE(pen.GetExtLogPen(&description), 0);
     EXPECT_EQ(description.elpWidth, 5u);
-    EXPECT_EQ(description.elpColor, Red);
+    EXPECT_EQ(description.elpColor, pure_red);
 }
 
 TEST(FrameworkGdiObjects, PenThatCannotBeMadeThrows)
 {
-    LOGBRUSH const brush = {BS_SOLID, Red, 0};
+    LOGBRUSH const brush = {BS_SOLID, pure_red, 0};
     EXPECT_TRUE(ThrowsResourceException([&] { CPen pen(PS_COSMETIC | PS_SOLID, 7, &brush); }));
     CPen pen;
     EXPECT_FALSE(pen.CreatePen(PS_COSMETIC | PS_SOLID, 7, &brush));
@@ -199,15 +199,15 @@ TEST(FrameworkGdiObjects, PenThatCannotBeMadeThrows)
 
 TEST(FrameworkGdiObjects, BrushTellsItsDescription)
 {
-    CBrush solid(Blue);
-    CBrush hatched(HS_CROSS, Red);
+    CBrush solid(pure_blue);
+    CBrush hatched(HS_CROSS, pure_red);
     LOGBRUSH description = {};
     EXPECT_NE(solid.GetLogBrush(&description), 0);
     EXPECT_EQ(description.lbStyle, static_cast<UINT>(BS_SOLID));
-    EXPECT_EQ(description.lbColor, Blue);
+    EXPECT_EQ(description.lbColor, pure_blue);
     EXPECT_NE(hatched.GetLogBrush(&description), 0);
     EXPECT_EQ(description.lbStyle, static_cast<UINT>(BS_HATCHED));
-    EXPECT_EQ(description.lbColor, Red);
+    EXPECT_EQ(description.lbColor, pure_red);
     EXPECT_EQ(description.lbHatch, static_cast<ULONG_PTR>(HS_CROSS));
     CBrush same;
     EXPECT_TRUE(same.CreateBrushIndirect(&description));
@@ -227,10 +227,10 @@ TEST(FrameworkGdiObjects, PatternBrushFillsWithItsBitmap)
     CBitmap pattern;
     ASSERT_TRUE(pattern.CreateBitmap(8, 8, 1, 1, rows));
     CBrush brush(&pattern);
-    tests::Canvas canvas(16, 16, Red);
+    tests::Canvas canvas(16, 16, pure_red);
     canvas.Dc().FillRect(CRect(0, 0, 16, 16), &brush);
-    EXPECT_EQ(canvas.Count(White), 128);
-    EXPECT_EQ(canvas.Count(Black), 128);
+    EXPECT_EQ(canvas.Count(pure_white), 128);
+    EXPECT_EQ(canvas.Count(pure_black), 128);
     EXPECT_NE(canvas.Pixel(0, 0), canvas.Pixel(1, 0));
     EXPECT_EQ(canvas.Pixel(0, 0), canvas.Pixel(1, 1));
 }
@@ -260,7 +260,7 @@ PackedPattern PatternOf(COLORREF upper, COLORREF lower)
 
 TEST(FrameworkGdiObjects, DibPatternBrushFillsFromMemoryAndFromGlobalHandle)
 {
-    PackedPattern const pattern = PatternOf(Red, Blue);
+    PackedPattern const pattern = PatternOf(pure_red, pure_blue);
     HGLOBAL const global = ::GlobalAlloc(GMEM_MOVEABLE, sizeof pattern);
     std::memcpy(::GlobalLock(global), &pattern, sizeof pattern);
     ::GlobalUnlock(global);
@@ -271,10 +271,10 @@ TEST(FrameworkGdiObjects, DibPatternBrushFillsFromMemoryAndFromGlobalHandle)
     ::GlobalFree(global);
     for (CBrush * const brush : {&fromGlobal, &fromMemory})
     {
-        tests::Canvas canvas(8, 8, White);
+        tests::Canvas canvas(8, 8, pure_white);
         canvas.Dc().FillRect(CRect(0, 0, 8, 8), brush);
-        EXPECT_EQ(canvas.Count(Red, CRect(0, 0, 8, 4)), 32);
-        EXPECT_EQ(canvas.Count(Blue, CRect(0, 4, 8, 8)), 32);
+        EXPECT_EQ(canvas.Count(pure_red, CRect(0, 0, 8, 4)), 32);
+        EXPECT_EQ(canvas.Count(pure_blue, CRect(0, 4, 8, 8)), 32);
     }
 }
 

@@ -11,7 +11,7 @@
 
 namespace
 {
-constexpr COLORREF White = RGB(255, 255, 255);
+constexpr COLORREF white = RGB(255, 255, 255);
 
 class FrameworkGdiText : public testing::Test
 {
@@ -52,7 +52,7 @@ TEST_F(FrameworkGdiText, TextStaysWithinItsExtent)
     CString const text(L"Hmm");
     CSize const size = m_dc.GetTextExtent(text);
     EXPECT_TRUE(m_dc.TextOut(10, 20, text));
-    CRect const ink = m_canvas.BoundsOfOther(White);
+    CRect const ink = m_canvas.BoundsOfOther(white);
     EXPECT_FALSE(ink.IsRectEmpty());
     EXPECT_GE(ink.left, 9);
     EXPECT_LE(ink.right, 10 + size.cx + 1);
@@ -66,12 +66,12 @@ TEST_F(FrameworkGdiText, OpaqueTextOutFillsItsRectangle)
     CRect const rect(50, 10, 90, 40);
     CString const text(L"a long text that is cut off");
     EXPECT_TRUE(m_dc.ExtTextOut(52, 12, ETO_OPAQUE | ETO_CLIPPED, rect, text, nullptr));
-    EXPECT_EQ(m_canvas.BoundsOfOther(White), rect);
+    EXPECT_EQ(m_canvas.BoundsOfOther(white), rect);
     int const distances[] = {40, 40};
-    m_canvas.Fill(White);
+    m_canvas.Fill(white);
     m_dc.SetBkMode(TRANSPARENT);
     EXPECT_TRUE(m_dc.ExtTextOut(0, 0, 0, nullptr, L"II", 2, const_cast<int *>(distances)));
-    EXPECT_GT(m_canvas.BoundsOfOther(White).right, 40);
+    EXPECT_GT(m_canvas.BoundsOfOther(white).right, 40);
 }
 
 TEST_F(FrameworkGdiText, DrawTextMeasuresAndAligns)
@@ -81,10 +81,10 @@ TEST_F(FrameworkGdiText, DrawTextMeasuresAndAligns)
     CRect measured(0, 0, 0, 0);
     EXPECT_EQ(m_dc.DrawText(text, measured, DT_CALCRECT | DT_SINGLELINE), size.cy);
     EXPECT_EQ(measured.Size(), size);
-    EXPECT_EQ(m_canvas.Count(White), 300 * 100);
+    EXPECT_EQ(m_canvas.Count(white), 300 * 100);
     CRect rect(0, 0, 300, 100);
     m_dc.DrawText(text, rect, DT_RIGHT | DT_BOTTOM | DT_SINGLELINE);
-    CRect const ink = m_canvas.BoundsOfOther(White);
+    CRect const ink = m_canvas.BoundsOfOther(white);
     EXPECT_GE(ink.left, 300 - size.cx - 1);
     EXPECT_GE(ink.top, 100 - size.cy);
     DRAWTEXTPARAMS parameters = {};
@@ -120,7 +120,7 @@ TEST_F(FrameworkGdiText, TabsWidenTheText)
     EXPECT_EQ(m_dc.GetOutputTabbedTextExtent(text, 1, stops), size);
     EXPECT_EQ(m_dc.GetOutputTabbedTextExtent(text, text.GetLength(), 1, stops), size);
     EXPECT_EQ(m_dc.TabbedTextOut(0, 0, text, 1, stops, 0), size);
-    EXPECT_GT(m_canvas.BoundsOfOther(White).right, 120);
+    EXPECT_GT(m_canvas.BoundsOfOther(white).right, 120);
 }
 
 TEST_F(FrameworkGdiText, FaceIsTold)
@@ -216,7 +216,7 @@ TEST_F(FrameworkGdiText, GrayStringCallsItsOutputFunction)
     CBrush black(RGB(0, 0, 0));
     EXPECT_TRUE(m_dc.GrayString(&black, output, reinterpret_cast<LPARAM>(L"Hello"), 5, 10, 10, 80, 30));
     EXPECT_EQ(s_calls, 1);
-    CRect const ink = m_canvas.BoundsOfOther(White);
+    CRect const ink = m_canvas.BoundsOfOther(white);
     EXPECT_FALSE(ink.IsRectEmpty());
     EXPECT_GE(ink.left, 10);
 }

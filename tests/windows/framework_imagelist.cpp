@@ -12,21 +12,21 @@
 
 namespace
 {
-constexpr COLORREF Red = RGB(255, 0, 0);
-constexpr COLORREF Green = RGB(0, 255, 0);
-constexpr COLORREF Blue = RGB(0, 0, 255);
-constexpr COLORREF White = RGB(255, 255, 255);
-constexpr int Side = 16;
+constexpr COLORREF pure_red = RGB(255, 0, 0);
+constexpr COLORREF pure_green = RGB(0, 255, 0);
+constexpr COLORREF pure_blue = RGB(0, 0, 255);
+constexpr COLORREF pure_white = RGB(255, 255, 255);
+constexpr int side = 16;
 
 // A bitmap of one colour, count pictures wide.
 void MakeBitmap(CBitmap & bitmap, COLORREF colour, int count = 1)
 {
     CClientDC screen(nullptr);
-    bitmap.CreateCompatibleBitmap(&screen, count * Side, Side);
+    bitmap.CreateCompatibleBitmap(&screen, count * side, side);
     CDC memory;
     memory.CreateCompatibleDC(&screen);
     CBitmap * const previous = memory.SelectObject(&bitmap);
-    memory.FillSolidRect(0, 0, count * Side, Side, colour);
+    memory.FillSolidRect(0, 0, count * side, side, colour);
     memory.SelectObject(previous);
 }
 
@@ -35,19 +35,19 @@ class FrameworkImageList : public testing::Test
 protected:
     FrameworkImageList()
     {
-        m_list.Create(Side, Side, ILC_COLOR32 | ILC_MASK, 0, 4);
+        m_list.Create(side, side, ILC_COLOR32 | ILC_MASK, 0, 4);
         CBitmap red;
-        MakeBitmap(red, Red);
+        MakeBitmap(red, pure_red);
         m_list.Add(&red, CLR_NONE);
         CBitmap blue;
-        MakeBitmap(blue, Blue);
+        MakeBitmap(blue, pure_blue);
         m_list.Add(&blue, CLR_NONE);
     }
     COLORREF ColourOf(int image)
     {
-        tests::Canvas canvas(Side, Side, White);
+        tests::Canvas canvas(side, side, pure_white);
         EXPECT_TRUE(m_list.Draw(&canvas.Dc(), image, CPoint(0, 0), ILD_NORMAL));
-        return canvas.Pixel(Side / 2, Side / 2);
+        return canvas.Pixel(side / 2, side / 2);
     }
 
     CImageList m_list;
@@ -68,7 +68,7 @@ TEST(FrameworkImageListHandles, NewListHasNoHandle)
     EXPECT_EQ(list.GetSafeHandle(), nullptr);
     EXPECT_FALSE(list.DeleteImageList());
     EXPECT_FALSE(list.Attach(nullptr));
-    EXPECT_FALSE(list.Create(64999u, 16, 1, Green));
+    EXPECT_FALSE(list.Create(64999u, 16, 1, pure_green));
     EXPECT_FALSE(list.Create(static_cast<CImageList *>(nullptr)));
     EXPECT_EQ(list.GetSafeHandle(), nullptr);
 }
@@ -86,7 +86,7 @@ TEST(FrameworkImageListHandles, SafeHandleThroughNullPointerIsNull)
 
 TEST(FrameworkImageListHandles, AttachedListIsTheOneOfItsHandle)
 {
-    HIMAGELIST const handle = ::ImageList_Create(Side, Side, ILC_COLOR32, 0, 1);
+    HIMAGELIST const handle = ::ImageList_Create(side, side, ILC_COLOR32, 0, 1);
     EXPECT_EQ(CImageList::FromHandlePermanent(handle), nullptr);
     CImageList * const temporary = CImageList::FromHandle(handle);
     ASSERT_NE(temporary, nullptr);
@@ -110,9 +110,9 @@ TEST(FrameworkImageListHandles, DestructorLeavesNoHandleBehind)
 {
     EXPECT_EQ(tests::GdiGrowth([] {
                   CImageList list;
-                  list.Create(Side, Side, ILC_COLOR32 | ILC_MASK, 2, 2);
+                  list.Create(side, side, ILC_COLOR32 | ILC_MASK, 2, 2);
                   CBitmap red;
-                  MakeBitmap(red, Red);
+                  MakeBitmap(red, pure_red);
                   list.Add(&red, CLR_NONE);
                   HICON const icon = list.ExtractIcon(0);
                   ::DestroyIcon(icon);
@@ -124,27 +124,27 @@ TEST(FrameworkImageListHandles, DestructorLeavesNoHandleBehind)
 TEST(FrameworkImageListHandles, ListIsLoadedFromABitmapResource)
 {
     CImageList list;
-    ASSERT_TRUE(list.Create(IDB_BACKGROUND, 2, 0, Green));
+    ASSERT_TRUE(list.Create(IDB_BACKGROUND, 2, 0, pure_green));
     EXPECT_EQ(list.GetImageCount(), 2);
     CImageList byName;
-    EXPECT_TRUE(byName.Create(MAKEINTRESOURCE(IDB_BACKGROUND), 4, 0, Green));
+    EXPECT_TRUE(byName.Create(MAKEINTRESOURCE(IDB_BACKGROUND), 4, 0, pure_green));
     EXPECT_EQ(byName.GetImageCount(), 1);
 }
 
 TEST_F(FrameworkImageList, PicturesAreAddedReplacedAndRemoved)
 {
     EXPECT_EQ(m_list.GetImageCount(), 2);
-    EXPECT_EQ(ColourOf(0), Red);
-    EXPECT_EQ(ColourOf(1), Blue);
+    EXPECT_EQ(ColourOf(0), pure_red);
+    EXPECT_EQ(ColourOf(1), pure_blue);
     CBitmap two;
-    MakeBitmap(two, Green, 2);
+    MakeBitmap(two, pure_green, 2);
     EXPECT_EQ(m_list.Add(&two, static_cast<CBitmap *>(nullptr)), 2);
     EXPECT_EQ(m_list.GetImageCount(), 4);
     EXPECT_EQ(m_list.Add(::LoadIcon(nullptr, IDI_APPLICATION)), 4);
     CBitmap green;
-    MakeBitmap(green, Green);
+    MakeBitmap(green, pure_green);
     EXPECT_TRUE(m_list.Replace(0, &green, nullptr));
-    EXPECT_EQ(ColourOf(0), Green);
+    EXPECT_EQ(ColourOf(0), pure_green);
     EXPECT_EQ(m_list.Replace(1, ::LoadIcon(nullptr, IDI_APPLICATION)), 1);
     EXPECT_EQ(m_list.Replace(99, ::LoadIcon(nullptr, IDI_APPLICATION)), -1);
     EXPECT_TRUE(m_list.Remove(0));
@@ -159,32 +159,32 @@ TEST_F(FrameworkImageList, PicturesAreAddedReplacedAndRemoved)
 TEST_F(FrameworkImageList, MaskColourIsLeftOut)
 {
     CBitmap bitmap;
-    MakeBitmap(bitmap, Green);
-    EXPECT_EQ(m_list.Add(&bitmap, Green), 2);
-    EXPECT_EQ(ColourOf(2), White);
+    MakeBitmap(bitmap, pure_green);
+    EXPECT_EQ(m_list.Add(&bitmap, pure_green), 2);
+    EXPECT_EQ(ColourOf(2), pure_white);
 }
 
 TEST_F(FrameworkImageList, PicturesAreCopied)
 {
     EXPECT_TRUE(m_list.Copy(0, 1));
-    EXPECT_EQ(ColourOf(0), Blue);
+    EXPECT_EQ(ColourOf(0), pure_blue);
     CBitmap green;
-    MakeBitmap(green, Green);
+    MakeBitmap(green, pure_green);
     EXPECT_TRUE(m_list.Replace(1, &green, nullptr));
     EXPECT_TRUE(m_list.Copy(0, &m_list, 1, ILCF_SWAP));
-    EXPECT_EQ(ColourOf(0), Green);
+    EXPECT_EQ(ColourOf(0), pure_green);
     EXPECT_FALSE(m_list.Copy(0, nullptr, 1));
 }
 
 TEST_F(FrameworkImageList, DrawingPlacesTheParts)
 {
-    tests::Canvas canvas(40, 40, White);
+    tests::Canvas canvas(40, 40, pure_white);
     EXPECT_TRUE(m_list.DrawEx(&canvas.Dc(), 0, CPoint(3, 4), CSize(5, 6), CLR_NONE, CLR_NONE, ILD_NORMAL));
-    EXPECT_EQ(canvas.BoundsOf(Red), CRect(3, 4, 8, 10));
-    canvas.Fill(White);
+    EXPECT_EQ(canvas.BoundsOf(pure_red), CRect(3, 4, 8, 10));
+    canvas.Fill(pure_white);
     EXPECT_TRUE(m_list.DrawIndirect(&canvas.Dc(), 1, CPoint(10, 11), CSize(4, 4), CPoint(2, 2)));
-    EXPECT_EQ(canvas.BoundsOf(Blue), CRect(10, 11, 14, 15));
-    canvas.Fill(White);
+    EXPECT_EQ(canvas.BoundsOf(pure_blue), CRect(10, 11, 14, 15));
+    canvas.Fill(pure_white);
     IMAGELISTDRAWPARAMS parameters = {};
     parameters.i = 0;
     parameters.hdcDst = canvas.Dc();
@@ -192,19 +192,19 @@ TEST_F(FrameworkImageList, DrawingPlacesTheParts)
     parameters.rgbFg = CLR_NONE;
     parameters.fStyle = ILD_NORMAL;
     EXPECT_TRUE(m_list.DrawIndirect(&parameters));
-    EXPECT_EQ(canvas.BoundsOf(Red), CRect(0, 0, Side, Side));
+    EXPECT_EQ(canvas.BoundsOf(pure_red), CRect(0, 0, side, side));
     EXPECT_FALSE(m_list.Draw(&canvas.Dc(), 99, CPoint(0, 0), ILD_NORMAL));
 }
 
 TEST_F(FrameworkImageList, BackgroundAndInformation)
 {
     EXPECT_EQ(m_list.GetBkColor(), static_cast<COLORREF>(CLR_NONE));
-    EXPECT_EQ(m_list.SetBkColor(Green), static_cast<COLORREF>(CLR_NONE));
-    EXPECT_EQ(m_list.GetBkColor(), Green);
+    EXPECT_EQ(m_list.SetBkColor(pure_green), static_cast<COLORREF>(CLR_NONE));
+    EXPECT_EQ(m_list.GetBkColor(), pure_green);
     IMAGEINFO info = {};
     EXPECT_TRUE(m_list.GetImageInfo(1, &info));
     EXPECT_NE(info.hbmImage, nullptr);
-    EXPECT_EQ(CRect(info.rcImage).Size(), CSize(Side, Side));
+    EXPECT_EQ(CRect(info.rcImage).Size(), CSize(side, side));
     EXPECT_FALSE(m_list.GetImageInfo(99, &info));
     EXPECT_TRUE(m_list.SetOverlayImage(1, 1));
     EXPECT_FALSE(m_list.SetOverlayImage(1, 99));
@@ -221,7 +221,7 @@ TEST_F(FrameworkImageList, ListsAreDuplicatedAndMerged)
     EXPECT_EQ(merged.GetImageCount(), 1);
     IMAGEINFO info = {};
     merged.GetImageInfo(0, &info);
-    EXPECT_EQ(CRect(info.rcImage).Width(), Side + 4);
+    EXPECT_EQ(CRect(info.rcImage).Width(), side + 4);
 }
 
 TEST_F(FrameworkImageList, DraggedPictureIsKnownUntilTheEnd)

@@ -12,9 +12,9 @@
 
 namespace
 {
-constexpr UINT First = 100;
-constexpr UINT Second = 101;
-constexpr UINT Third = 102;
+constexpr UINT first_item = 100;
+constexpr UINT second_item = 101;
+constexpr UINT third_item = 102;
 
 class FrameworkMenu : public testing::Test
 {
@@ -22,10 +22,10 @@ protected:
     FrameworkMenu()
     {
         m_menu.CreatePopupMenu();
-        m_menu.AppendMenu(MF_STRING, First, L"&First");
-        m_menu.AppendMenu(MF_STRING, Second, L"Second\tCtrl+S");
+        m_menu.AppendMenu(MF_STRING, first_item, L"&First");
+        m_menu.AppendMenu(MF_STRING, second_item, L"Second\tCtrl+S");
         m_menu.AppendMenu(MF_SEPARATOR);
-        m_menu.AppendMenu(MF_STRING | MF_GRAYED, Third, L"Third");
+        m_menu.AppendMenu(MF_STRING | MF_GRAYED, third_item, L"Third");
     }
     CMenu m_menu;
 };
@@ -146,7 +146,7 @@ TEST(FrameworkMenuHandles, MenuIsLoadedFromTheResourceModule)
 TEST_F(FrameworkMenu, ItemsAreCountedAndFound)
 {
     EXPECT_EQ(m_menu.GetMenuItemCount(), 4u);
-    EXPECT_EQ(m_menu.GetMenuItemID(1), Second);
+    EXPECT_EQ(m_menu.GetMenuItemID(1), second_item);
     EXPECT_EQ(m_menu.GetMenuItemID(2), 0u);
     EXPECT_EQ(m_menu.GetMenuItemID(9), static_cast<UINT>(-1));
     EXPECT_EQ(m_menu.GetSubMenu(0), nullptr);
@@ -155,7 +155,7 @@ TEST_F(FrameworkMenu, ItemsAreCountedAndFound)
 TEST_F(FrameworkMenu, TextIsReadIntoABufferAndAString)
 {
     std::array<wchar_t, 4> buffer = {};
-    EXPECT_EQ(m_menu.GetMenuString(First, buffer.data(), 4, MF_BYCOMMAND), 3);
+    EXPECT_EQ(m_menu.GetMenuString(first_item, buffer.data(), 4, MF_BYCOMMAND), 3);
     EXPECT_STREQ(buffer.data(), L"&Fi");
     CString text;
     EXPECT_EQ(m_menu.GetMenuString(1, text, MF_BYPOSITION), 13);
@@ -193,8 +193,8 @@ TEST_F(FrameworkMenu, BitmapsTakeThePlaceOfText)
     ASSERT_TRUE(bitmap.CreateBitmap(8, 8, 1, 1, nullptr));
     EXPECT_TRUE(m_menu.AppendMenu(0, 300, &bitmap));
     EXPECT_TRUE(m_menu.InsertMenu(0, MF_BYPOSITION, 301, &bitmap));
-    EXPECT_TRUE(m_menu.ModifyMenu(First, MF_BYCOMMAND, First, &bitmap));
-    for (UINT const id : {300u, 301u, First})
+    EXPECT_TRUE(m_menu.ModifyMenu(first_item, MF_BYCOMMAND, first_item, &bitmap));
+    for (UINT const id : {300u, 301u, first_item})
     {
         MENUITEMINFO info = {};
         info.cbSize = sizeof info;
@@ -202,29 +202,29 @@ TEST_F(FrameworkMenu, BitmapsTakeThePlaceOfText)
         EXPECT_TRUE(m_menu.GetMenuItemInfo(id, &info));
         EXPECT_EQ(info.hbmpItem, static_cast<HBITMAP>(bitmap)) << id;
     }
-    EXPECT_TRUE(m_menu.SetMenuItemBitmaps(Second, MF_BYCOMMAND, &bitmap, nullptr));
+    EXPECT_TRUE(m_menu.SetMenuItemBitmaps(second_item, MF_BYCOMMAND, &bitmap, nullptr));
     MENUITEMINFO info = {};
     info.cbSize = sizeof info;
     info.fMask = MIIM_CHECKMARKS;
-    m_menu.GetMenuItemInfo(Second, &info);
+    m_menu.GetMenuItemInfo(second_item, &info);
     EXPECT_EQ(info.hbmpUnchecked, static_cast<HBITMAP>(bitmap));
     EXPECT_EQ(info.hbmpChecked, nullptr);
 }
 
 TEST_F(FrameworkMenu, ItemsAreCheckedAndEnabled)
 {
-    EXPECT_EQ(m_menu.CheckMenuItem(First, MF_CHECKED), static_cast<UINT>(MF_UNCHECKED));
-    EXPECT_EQ(m_menu.CheckMenuItem(First, MF_UNCHECKED), static_cast<UINT>(MF_CHECKED));
+    EXPECT_EQ(m_menu.CheckMenuItem(first_item, MF_CHECKED), static_cast<UINT>(MF_UNCHECKED));
+    EXPECT_EQ(m_menu.CheckMenuItem(first_item, MF_UNCHECKED), static_cast<UINT>(MF_CHECKED));
     EXPECT_EQ(m_menu.CheckMenuItem(999, MF_CHECKED), static_cast<UINT>(-1));
-    EXPECT_EQ(m_menu.EnableMenuItem(Third, MF_ENABLED), static_cast<UINT>(MF_GRAYED));
+    EXPECT_EQ(m_menu.EnableMenuItem(third_item, MF_ENABLED), static_cast<UINT>(MF_GRAYED));
     EXPECT_EQ(m_menu.EnableMenuItem(999, MF_ENABLED), static_cast<UINT>(-1));
-    EXPECT_TRUE(m_menu.CheckMenuRadioItem(First, Second, Second, MF_BYCOMMAND));
-    EXPECT_EQ(m_menu.GetMenuState(First, MF_BYCOMMAND) & MF_CHECKED, 0u);
-    EXPECT_NE(m_menu.GetMenuState(Second, MF_BYCOMMAND) & MF_CHECKED, 0u);
+    EXPECT_TRUE(m_menu.CheckMenuRadioItem(first_item, second_item, second_item, MF_BYCOMMAND));
+    EXPECT_EQ(m_menu.GetMenuState(first_item, MF_BYCOMMAND) & MF_CHECKED, 0u);
+    EXPECT_NE(m_menu.GetMenuState(second_item, MF_BYCOMMAND) & MF_CHECKED, 0u);
     EXPECT_EQ(m_menu.GetMenuState(999, MF_BYCOMMAND), static_cast<UINT>(-1));
     EXPECT_EQ(m_menu.GetDefaultItem(0), static_cast<UINT>(-1));
     EXPECT_TRUE(m_menu.SetDefaultItem(1, TRUE));
-    EXPECT_EQ(m_menu.GetDefaultItem(0), Second);
+    EXPECT_EQ(m_menu.GetDefaultItem(0), second_item);
     EXPECT_EQ(m_menu.GetDefaultItem(0, TRUE), 1u);
 }
 
@@ -275,7 +275,7 @@ TEST_F(FrameworkMenu, TrackedMenuReturnsTheChosenCommand)
             window.PostMessage(WM_KEYDOWN, VK_RETURN, 0);
         },
         IsMenuShowing);
-    EXPECT_EQ(m_menu.TrackPopupMenu(TPM_RETURNCMD | TPM_NONOTIFY, 200, 200, &window), static_cast<BOOL>(First));
+    EXPECT_EQ(m_menu.TrackPopupMenu(TPM_RETURNCMD | TPM_NONOTIFY, 200, 200, &window), static_cast<BOOL>(first_item));
     EXPECT_FALSE(actions.Failed());
 }
 

@@ -38,10 +38,10 @@ inline void Inject(CPoint screen, std::initializer_list<DWORD> buttonFlags)
     ::SendInput(static_cast<UINT>(events.size()), events.data(), sizeof(INPUT));
 }
 
-inline void Click(CPoint screen, tests::Button button = tests::Button::Left)
+inline void Click(CPoint screen, tests::Button button = tests::Button::left)
 {
     tests::MoveMouse(screen);
-    if (button == tests::Button::Left)
+    if (button == tests::Button::left)
         Inject(screen, {MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP});
     else
         Inject(screen, {MOUSEEVENTF_RIGHTDOWN, MOUSEEVENTF_RIGHTUP});
@@ -115,16 +115,16 @@ protected:
 
     /// Presses and releases a real mouse button and waits until the list has seen both. Successive clicks are apart, so
     /// that they are no double click.
-    void ClickAt(CPoint client, tests::Button button = tests::Button::Left)
+    void ClickAt(CPoint client, tests::Button button = tests::Button::left)
     {
-        UINT const up = button == tests::Button::Left ? WM_LBUTTONUP : WM_RBUTTONUP;
+        UINT const up = button == tests::Button::left ? WM_LBUTTONUP : WM_RBUTTONUP;
         int const before = m_input.Count("list", up);
         m_shift = -m_shift;
         list_input::Click(Screen(client + CPoint(m_shift, 0)), button);
         EXPECT_TRUE(tests::PumpUntil([&] { return m_input.Count("list", up) > before; }));
         tests::PumpPosted();
     }
-    void ClickCell(int row, int col, tests::Button button = tests::Button::Left) { ClickAt(Middle(row, col), button); }
+    void ClickCell(int row, int col, tests::Button button = tests::Button::left) { ClickAt(Middle(row, col), button); }
 
     void DoubleClickAt(CPoint client)
     {

@@ -6,8 +6,8 @@ namespace tests
 {
 namespace
 {
-constexpr int ClientWidth = 320;
-constexpr int ClientHeight = 160;
+constexpr int client_width = 320;
+constexpr int client_height = 160;
 
 void AddImage(CImageList & images, int width, int height, COLORREF colour)
 {
@@ -24,8 +24,8 @@ void AddImage(CImageList & images, int width, int height, COLORREF colour)
 } // namespace
 
 ListPaintTest::ListPaintTest(DWORD style)
-    : host(style, CRect(0, 0, ClientWidth, ClientHeight)),
-      canvas(ClientWidth, ClientHeight, Untouched)
+    : host(style, CRect(0, 0, client_width, client_height)),
+      canvas(client_width, client_height, untouched)
 {
 }
 
@@ -45,18 +45,18 @@ void ListPaintTest::SetUp()
     ASSERT_TRUE(m_font.CreateFontIndirect(&font));
     m_formerFont = canvas.Dc().SelectObject(&m_font);
 
-    ASSERT_TRUE(m_images.Create(ImageWidth, ImageHeight, ILC_COLOR24, 2, 1));
-    AddImage(m_images, ImageWidth, ImageHeight, Red);
-    AddImage(m_images, ImageWidth, ImageHeight, Green);
+    ASSERT_TRUE(m_images.Create(image_width, image_height, ILC_COLOR24, 2, 1));
+    AddImage(m_images, image_width, image_height, pure_red);
+    AddImage(m_images, image_width, image_height, pure_green);
     list.SetImageList(&m_images, LVSIL_SMALL);
 
     host.Fill(3, 4);
     for (int col = 0; col < 3; ++col)
-        list.CListCtrl::SetColumnWidth(col, ColumnWidth);
+        list.CListCtrl::SetColumnWidth(col, column_width);
     for (int row = 0; row < 4; ++row)
         list.SetItemText(row, 0, L"");
     list.SetFullRowSelect();
-    ASSERT_EQ(Cell(0, 1).Size(), CSize(ColumnWidth, RowHeight));
+    ASSERT_EQ(Cell(0, 1).Size(), CSize(column_width, row_height));
 }
 
 CRect ListPaintTest::Cell(int row, int col)
@@ -88,7 +88,7 @@ LRESULT ListPaintTest::PaintOver(int row, int col)
 
 LRESULT ListPaintTest::Paint(int row, int col)
 {
-    canvas.Fill(Untouched);
+    canvas.Fill(untouched);
     return PaintOver(row, col);
 }
 
@@ -134,7 +134,7 @@ CRect ListPaintTest::Bounds(COLORREF colour, CRect const & rect) const
 
 testing::AssertionResult ListPaintTest::OnlyWithin(CRect const & rect) const
 {
-    CRect const painted = canvas.BoundsOfOther(Untouched);
+    CRect const painted = canvas.BoundsOfOther(untouched);
     CRect outside;
     outside.UnionRect(painted, rect);
     if (painted.IsRectEmpty() || outside == rect)

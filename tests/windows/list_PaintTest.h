@@ -24,25 +24,25 @@ namespace tests
 class ListPaintTest : public testing::Test
 {
 protected:
-    static constexpr COLORREF Untouched = RGB(1, 2, 3);
-    static constexpr COLORREF Red = RGB(255, 0, 0);
-    static constexpr COLORREF Green = RGB(0, 255, 0);
-    static constexpr COLORREF Trough = 0xE0E0E0;
-    static constexpr COLORREF CheckFrame = 0x996633;
-    static constexpr COLORREF CheckMark = 0x339933;
-    static constexpr COLORREF CrossMark = 0x333399;
-    static constexpr int RowHeight = 20;
-    static constexpr int ColumnWidth = 60;
-    static constexpr int ImageWidth = 16;
-    static constexpr int ImageHeight = 19;
+    static constexpr COLORREF untouched = RGB(1, 2, 3);
+    static constexpr COLORREF pure_red = RGB(255, 0, 0);
+    static constexpr COLORREF pure_green = RGB(0, 255, 0);
+    static constexpr COLORREF trough = 0xE0E0E0;
+    static constexpr COLORREF check_frame = 0x996633;
+    static constexpr COLORREF check_mark = 0x339933;
+    static constexpr COLORREF cross_mark = 0x333399;
+    static constexpr int row_height = 20;
+    static constexpr int column_width = 60;
+    static constexpr int image_width = 16;
+    static constexpr int image_height = 19;
     /// The header's room left and right of an item's content.
-    static constexpr int Spacing = 6;
-    static constexpr int Padding = 5;
-    static constexpr int BoxSize = 13;
+    static constexpr int spacing = 6;
+    static constexpr int padding = 5;
+    static constexpr int box_size = 13;
 
-    static constexpr DWORD Style = WS_CHILD | WS_VISIBLE | WS_TABSTOP | LVS_REPORT;
+    static constexpr DWORD list_style = WS_CHILD | WS_VISIBLE | WS_TABSTOP | LVS_REPORT;
 
-    explicit ListPaintTest(DWORD style = Style);
+    explicit ListPaintTest(DWORD style = list_style);
     ~ListPaintTest() override;
 
     void SetUp() override;

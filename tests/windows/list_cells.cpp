@@ -2,6 +2,8 @@
 
 #include "list_CellTest.h"
 
+#include "list/XListRowPool.h"
+
 #include <gtest/gtest.h>
 
 #include <array>

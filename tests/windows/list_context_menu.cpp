@@ -68,7 +68,7 @@ TEST_F(ListContextMenu, RightClickOnACellOpensItAndTheChoiceComesWithTheCell)
             tests::Key(VK_RETURN);
         },
         MenuIsOpen);
-    list_input::Click(Screen(Middle(3, 2)), tests::Button::Right);
+    list_input::Click(Screen(Middle(3, 2)), tests::Button::right);
     EXPECT_TRUE(tests::PumpUntil([this] { return !m_choices.empty(); }));
     EXPECT_FALSE(later.Failed());
     EXPECT_EQ(m_choices, (std::vector<Choice>{{second_command, 3, 2}}));
@@ -120,7 +120,7 @@ TEST_F(ListContextMenu, EmptySpaceHasNoneAndTheRequestGoesToTheParent)
 {
     tests::LaterActions later;
     CloseUnexpected(later);
-    ClickAt(EmptySpace(), tests::Button::Right);
+    ClickAt(EmptySpace(), tests::Button::right);
     int const already = PassedOn();
     AskFor(Screen(EmptySpace()));
     EXPECT_EQ(PassedOn(), already + 1);

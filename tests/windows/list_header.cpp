@@ -140,7 +140,7 @@ TEST_F(ListHeader, ADoubleClickIsSentOnAsAPress)
     m_header.SendMessage(WM_LBUTTONDBLCLK, MK_LBUTTON | MK_CONTROL, MAKELPARAM(20, 7));
     EXPECT_TRUE(recorder.Matches({
         {"header", WM_LBUTTONDBLCLK},
-        {"header", WM_LBUTTONDOWN, tests::Way::Sent, MK_LBUTTON | MK_CONTROL, MAKELPARAM(20, 7)},
+        {"header", WM_LBUTTONDOWN, tests::Way::sent, MK_LBUTTON | MK_CONTROL, MAKELPARAM(20, 7)},
     }));
     m_header.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(20, 7));
 }

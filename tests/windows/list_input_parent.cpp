@@ -17,8 +17,8 @@ TEST_F(ListNotifications, ArePostedInOrder)
     m_list.SetCheckbox(3, 2, XLC_UNCHECKED);
     DoubleClickAt(Middle(3, 2));
     EXPECT_TRUE(recorder.Matches({
-        {"parent", WM_XLISTCTRL_CHECKBOX_CLICKED, tests::Way::Posted, 3, 2},
-        {"parent", WM_XLISTCTRL_ITEM_DBLCLICKED, tests::Way::Posted, 3, 2},
+        {"parent", WM_XLISTCTRL_CHECKBOX_CLICKED, tests::Way::posted, 3, 2},
+        {"parent", WM_XLISTCTRL_ITEM_DBLCLICKED, tests::Way::posted, 3, 2},
     }));
 }
 
@@ -222,7 +222,7 @@ TEST_F(ListNotifications, ReflectedClicksGiveZero)
 
 TEST_F(ListNotifications, RightPressOnACellGoesToTheNativeList)
 {
-    ClickCell(4, 2, tests::Button::Right);
+    ClickCell(4, 2, tests::Button::right);
     EXPECT_EQ(m_list.GetSelectedItem(), 4);
     EXPECT_EQ(::GetFocus(), m_list.m_hWnd);
 }
@@ -230,7 +230,7 @@ TEST_F(ListNotifications, RightPressOnACellGoesToTheNativeList)
 TEST_F(ListNotifications, RightPressOnEmptySpaceIsSwallowed)
 {
     m_list.SetCurSel(2, false);
-    ClickAt(EmptySpace(), tests::Button::Right);
+    ClickAt(EmptySpace(), tests::Button::right);
     EXPECT_EQ(m_list.GetSelectedItem(), 2);
     EXPECT_EQ(::GetFocus(), m_button.m_hWnd);
 }

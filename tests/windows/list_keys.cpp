@@ -101,7 +101,7 @@ TEST_F(ListKeysSingle, ScrollTheirRowIntoView)
     recorder.Watch(m_list.m_hWnd, "list");
     PressKey(VK_NEXT);
     EXPECT_LE(m_list.GetTopIndex(), 3);
-    EXPECT_TRUE(recorder.Matches({{"list", LVM_ENSUREVISIBLE, tests::Way::Sent, 3, FALSE}}));
+    EXPECT_TRUE(recorder.Matches({{"list", LVM_ENSUREVISIBLE, tests::Way::sent, 3, FALSE}}));
     EXPECT_EQ(m_list.GetSelectedItem(), 3);
 }
 

@@ -11,11 +11,11 @@ using Pixels = std::set<std::pair<int, int>>;
 class ListPaintCells : public tests::ListPaintTest
 {
 protected:
-    static constexpr COLORREF Ink = RGB(200, 0, 100);
-    static constexpr COLORREF Paper = RGB(240, 250, 230);
+    static constexpr COLORREF ink = RGB(200, 0, 100);
+    static constexpr COLORREF paper = RGB(240, 250, 230);
 
     /// Gives the cell a text in a colour that nothing else has.
-    void Write(int row, int col, wchar_t const * text) { list.SetItemText(row, col, text, Ink, Paper); }
+    void Write(int row, int col, wchar_t const * text) { list.SetItemText(row, col, text, ink, paper); }
     void SetWidth(int col, int width) { list.CListCtrl::SetColumnWidth(col, width); }
 
     Pixels PixelsOf(COLORREF colour, CRect const & rect) const
@@ -31,8 +31,8 @@ protected:
     /// The box of a check cell without a text, in the middle of the cell.
     static CRect CentredBox(CRect const & cell)
     {
-        CPoint const corner(cell.left + cell.Width() / 2 - 6 - 1, cell.top + (cell.Height() - BoxSize) / 2);
-        return CRect(corner, CSize(BoxSize, BoxSize));
+        CPoint const corner(cell.left + cell.Width() / 2 - 6 - 1, cell.top + (cell.Height() - box_size) / 2);
+        return CRect(corner, CSize(box_size, box_size));
     }
 
     std::unique_ptr<tests::Canvas> Painted(int row, int col)
@@ -61,24 +61,24 @@ TEST_F(ListPaintCells, ARowWithoutCellsIsDrawnByTheNativeList)
 {
     int const row = list.InsertForeignItem(0, L"x");
     EXPECT_EQ(Paint(row, 0), CDRF_DODEFAULT);
-    EXPECT_TRUE(canvas.BoundsOfOther(Untouched).IsRectEmpty());
+    EXPECT_TRUE(canvas.BoundsOfOther(untouched).IsRectEmpty());
 }
 
 TEST_F(ListPaintCells, AColumnBeyondTheRowsCellsIsDrawnByTheNativeList)
 {
     list.AddColumns(6);
     EXPECT_EQ(Paint(0, 8), CDRF_DODEFAULT);
-    EXPECT_TRUE(canvas.BoundsOfOther(Untouched).IsRectEmpty());
+    EXPECT_TRUE(canvas.BoundsOfOther(untouched).IsRectEmpty());
 }
 
 TEST_F(ListPaintCells, TheColoursGoToTheNotification)
 {
-    list.SetItemColors(0, 1, Ink, Paper, XLISTCTRLDATA::no_gradient);
+    list.SetItemColors(0, 1, ink, paper, XLISTCTRLDATA::no_gradient);
     NMLVCUSTOMDRAW draw = Notification(CDDS_ITEMPREPAINT | CDDS_SUBITEM, 0, 1);
     LRESULT result = 0;
     list.OnCustomDraw(&draw.nmcd.hdr, &result);
-    EXPECT_EQ(draw.clrText, Ink);
-    EXPECT_EQ(draw.clrTextBk, Paper);
+    EXPECT_EQ(draw.clrText, ink);
+    EXPECT_EQ(draw.clrTextBk, paper);
 }
 
 TEST_F(ListPaintCells, ATextCellIsFilledWhollyAndPadded)
@@ -86,12 +86,12 @@ TEST_F(ListPaintCells, ATextCellIsFilledWhollyAndPadded)
     Write(0, 1, L"XXXXXXXXXXXXXXXXXXXXXX");
     Paint(0, 1);
     CRect const cell = Cell(0, 1);
-    EXPECT_EQ(canvas.BoundsOfOther(Untouched), cell);
-    EXPECT_EQ(Count(Untouched, cell), 0);
-    CRect const text = Bounds(Ink, cell);
-    EXPECT_GE(text.left, Padding);
-    EXPECT_LE(text.left, Padding + 2);
-    EXPECT_LE(text.right, ColumnWidth - Padding);
+    EXPECT_EQ(canvas.BoundsOfOther(untouched), cell);
+    EXPECT_EQ(Count(untouched, cell), 0);
+    CRect const text = Bounds(ink, cell);
+    EXPECT_GE(text.left, padding);
+    EXPECT_LE(text.left, padding + 2);
+    EXPECT_LE(text.right, column_width - padding);
 }
 
 TEST_F(ListPaintCells, PaddingThatLeavesNoRoomShowsNoText)
@@ -99,7 +99,7 @@ TEST_F(ListPaintCells, PaddingThatLeavesNoRoomShowsNoText)
     Write(0, 1, L"XXXXXXXXXXXX");
     list.SetCellPadding(200);
     Paint(0, 1);
-    EXPECT_EQ(canvas.Count(Ink), 0);
+    EXPECT_EQ(canvas.Count(ink), 0);
     EXPECT_TRUE(OnlyWithin(Cell(0, 1)));
 }
 
@@ -107,9 +107,9 @@ TEST_F(ListPaintCells, TheDrawOperationLeavesTheCallersRectangleAlone)
 {
     Write(0, 1, L"X");
     CRect rect = Cell(0, 1);
-    list.DrawTextW(0, 1, &canvas.Dc(), Ink, Paper, rect, list.GetRowData(0));
+    list.DrawTextW(0, 1, &canvas.Dc(), ink, paper, rect, list.GetRowData(0));
     EXPECT_EQ(rect, Cell(0, 1));
-    EXPECT_GT(canvas.Count(Ink), 0);
+    EXPECT_GT(canvas.Count(ink), 0);
 }
 
 TEST_F(ListPaintCells, TextFollowsTheColumnsAlignment)
@@ -124,13 +124,13 @@ TEST_F(ListPaintCells, TextFollowsTheColumnsAlignment)
         ::SendMessageW(list.Header(), HDM_SETITEMW, static_cast<WPARAM>(col), reinterpret_cast<LPARAM>(&item));
     }
     Paint(0, 0);
-    EXPECT_LE(Bounds(Ink, Cell(0, 0)).left, Padding + 2);
+    EXPECT_LE(Bounds(ink, Cell(0, 0)).left, padding + 2);
     Paint(0, 1);
-    CRect const right = Bounds(Ink, Cell(0, 1));
-    EXPECT_GE(right.right, ColumnWidth - Padding - 2);
-    EXPECT_LE(right.right, ColumnWidth - Padding);
+    CRect const right = Bounds(ink, Cell(0, 1));
+    EXPECT_GE(right.right, column_width - padding - 2);
+    EXPECT_LE(right.right, column_width - padding);
     Paint(0, 2);
-    EXPECT_NEAR(Bounds(Ink, Cell(0, 2)).CenterPoint().x, ColumnWidth / 2, 2);
+    EXPECT_NEAR(Bounds(ink, Cell(0, 2)).CenterPoint().x, column_width / 2, 2);
 }
 
 TEST_F(ListPaintCells, TooLongATextEndsInAnEllipsisIfThatIsOn)
@@ -141,7 +141,7 @@ TEST_F(ListPaintCells, TooLongATextEndsInAnEllipsisIfThatIsOn)
     auto const without = Painted(0, 1);
     EXPECT_FALSE(tests::SamePixels(*withEllipsis, *without));
     // The dots stand at the bottom of the line only.
-    EXPECT_LT(withEllipsis->Count(Ink), without->Count(Ink));
+    EXPECT_LT(withEllipsis->Count(ink), without->Count(ink));
 
     Write(0, 1, L"X");
     auto const shortText = Painted(0, 1);
@@ -154,19 +154,19 @@ TEST_F(ListPaintCells, BoldAndUnderlineShow)
     Write(0, 1, L"IlI");
     CRect const cell = Cell(0, 1);
     Paint(0, 1);
-    int const plainInk = Count(Ink, cell);
-    CRect const plain = Bounds(Ink, cell);
+    int const plainInk = Count(ink, cell);
+    CRect const plain = Bounds(ink, cell);
     list.SetBold(0, 1, true);
     Paint(0, 1);
-    EXPECT_GT(Count(Ink, cell), plainInk);
+    EXPECT_GT(Count(ink, cell), plainInk);
     list.SetBold(0, 1, false);
     list.SetItemProperty(0, 1, XLP_UNDERLINE, true);
     Paint(0, 1);
-    EXPECT_GT(Bounds(Ink, cell).bottom, plain.bottom);
+    EXPECT_GT(Bounds(ink, cell).bottom, plain.bottom);
     // The font of the device context is as before.
     list.SetItemProperty(0, 1, XLP_UNDERLINE, false);
     Paint(0, 1);
-    EXPECT_EQ(Count(Ink, cell), plainInk);
+    EXPECT_EQ(Count(ink, cell), plainInk);
 }
 
 TEST_F(ListPaintCells, ATextOfAnyLengthIsDrawn)
@@ -180,7 +180,7 @@ TEST_F(ListPaintCells, ATextOfAnyLengthIsDrawn)
     list.SetEllipsis(false);
     Write(0, 1, text);
     Paint(0, 1);
-    EXPECT_GT(canvas.Count(Ink), 0);
+    EXPECT_GT(canvas.Count(ink), 0);
     EXPECT_TRUE(OnlyWithin(Cell(0, 1)));
 }
 
@@ -190,13 +190,13 @@ TEST_F(ListPaintCells, AnAmpersandIsAnAmpersandInTextAndAMnemonicBesideABox)
     Write(0, 1, L"&X");
     auto const text = Painted(0, 1);
     Write(0, 1, L"X");
-    EXPECT_LT(Painted(0, 1)->Count(Ink), text->Count(Ink));
-    CRect const plain = Bounds(Ink, Cell(0, 1));
+    EXPECT_LT(Painted(0, 1)->Count(ink), text->Count(ink));
+    CRect const plain = Bounds(ink, Cell(0, 1));
 
     list.SetCheckbox(0, 1, XLC_UNCHECKED);
     Write(0, 1, L"&X");
     Paint(0, 1);
-    CRect const mnemonic = Bounds(Ink, Cell(0, 1));
+    CRect const mnemonic = Bounds(ink, Cell(0, 1));
     EXPECT_LE(mnemonic.Width(), plain.Width() + 2);
     EXPECT_GT(mnemonic.bottom, plain.bottom);
 }
@@ -208,11 +208,11 @@ TEST_F(ListPaintCells, TheBoxStandsNinePixelsInAndTheTextFourBehind)
     list.SetCellPadding(20);
     Paint(0, 1);
     CRect const cell = Cell(0, 1);
-    EXPECT_EQ(Bounds(CheckFrame, cell), CRect(CPoint(9, (RowHeight - BoxSize) / 2), CSize(BoxSize, BoxSize)));
-    CRect const text = Bounds(Ink, cell);
-    EXPECT_GE(text.left, 9 + BoxSize + 4);
-    EXPECT_LE(text.left, 9 + BoxSize + 4 + 2);
-    EXPECT_GT(text.right, ColumnWidth - 15);
+    EXPECT_EQ(Bounds(check_frame, cell), CRect(CPoint(9, (row_height - box_size) / 2), CSize(box_size, box_size)));
+    CRect const text = Bounds(ink, cell);
+    EXPECT_GE(text.left, 9 + box_size + 4);
+    EXPECT_LE(text.left, 9 + box_size + 4 + 2);
+    EXPECT_GT(text.right, column_width - 15);
 }
 
 TEST_F(ListPaintCells, TheBoxIsCentredWithoutText)
@@ -223,18 +223,18 @@ TEST_F(ListPaintCells, TheBoxIsCentredWithoutText)
     CRect box = CentredBox(cell);
     box.OffsetRect(-cell.TopLeft());
     EXPECT_EQ(box.left, 23);
-    EXPECT_EQ(Bounds(CheckFrame, cell), box);
+    EXPECT_EQ(Bounds(check_frame, cell), box);
 }
 
 TEST_F(ListPaintCells, TheFrameIsOnePixelWideAndTheInteriorIsTheCells)
 {
     list.SetCheckbox(0, 1, XLC_UNCHECKED);
-    list.SetItemColors(0, 1, Ink, Paper, XLISTCTRLDATA::no_gradient);
+    list.SetItemColors(0, 1, ink, paper, XLISTCTRLDATA::no_gradient);
     Paint(0, 1);
     CRect box = CentredBox(Cell(0, 1));
-    EXPECT_EQ(Count(CheckFrame, box), 4 * (BoxSize - 1));
+    EXPECT_EQ(Count(check_frame, box), 4 * (box_size - 1));
     box.DeflateRect(1, 1);
-    EXPECT_EQ(Count(Paper, box), box.Width() * box.Height());
+    EXPECT_EQ(Count(paper, box), box.Width() * box.Height());
 }
 
 TEST_F(ListPaintCells, TheTickIsSevenLinesOfThreePixels)
@@ -245,7 +245,7 @@ TEST_F(ListPaintCells, TheTickIsSevenLinesOfThreePixels)
     };
     list.SetCheckbox(0, 1, XLC_CHECKED);
     Paint(0, 1);
-    EXPECT_EQ(PixelsOf(CheckMark, CentredBox(Cell(0, 1))), expected);
+    EXPECT_EQ(PixelsOf(check_mark, CentredBox(Cell(0, 1))), expected);
 }
 
 TEST_F(ListPaintCells, TheCrossIsFourDiagonals)
@@ -258,7 +258,7 @@ TEST_F(ListPaintCells, TheCrossIsFourDiagonals)
     }
     list.SetCheckbox(0, 1, XLC_CROSSED);
     Paint(0, 1);
-    EXPECT_EQ(PixelsOf(CrossMark, CentredBox(Cell(0, 1))), expected);
+    EXPECT_EQ(PixelsOf(cross_mark, CentredBox(Cell(0, 1))), expected);
 }
 
 TEST_F(ListPaintCells, AnUnknownCheckStateHasTextButNoBox)
@@ -268,10 +268,10 @@ TEST_F(ListPaintCells, AnUnknownCheckStateHasTextButNoBox)
     list.SetItemCheckedState(0, 1, 5);
     Paint(0, 1);
     CRect const cell = Cell(0, 1);
-    EXPECT_EQ(Count(CheckFrame, cell), 0);
-    EXPECT_EQ(Count(CheckMark, cell), 0);
-    EXPECT_GT(Count(Ink, cell), 0);
-    EXPECT_EQ(Count(Ink, cell) + Count(Paper, cell), cell.Width() * cell.Height());
+    EXPECT_EQ(Count(check_frame, cell), 0);
+    EXPECT_EQ(Count(check_mark, cell), 0);
+    EXPECT_GT(Count(ink, cell), 0);
+    EXPECT_EQ(Count(ink, cell) + Count(paper, cell), cell.Width() * cell.Height());
 }
 
 TEST_F(ListPaintCells, ACheckCellShowsNoImage)
@@ -285,13 +285,13 @@ TEST_F(ListPaintCells, ACheckCellShowsNoImage)
 TEST_F(ListPaintCells, ARadioButtonOnIsALitBallAndOffIsWhite)
 {
     list.SetRadioButton(0, 1, XLC_RADIO_OFF);
-    Data(0, 1).backgroundColor = Paper;
+    Data(0, 1).backgroundColor = paper;
     CRect const cell = Cell(0, 1);
     CRect const box = CentredBox(cell);
     CPoint const middle = box.CenterPoint();
     Paint(0, 1);
     EXPECT_EQ(canvas.Pixel(middle.x, middle.y), RGB(255, 255, 255));
-    EXPECT_GT(Count(CheckFrame, box), 0);
+    EXPECT_GT(Count(check_frame, box), 0);
 
     list.SetRadioButton(0, 1, XLC_RADIO_ON);
     Paint(0, 1);
@@ -304,7 +304,7 @@ TEST_F(ListPaintCells, ARadioButtonOnIsALitBallAndOffIsWhite)
     // Nothing but the background outside of the box without its outermost pixels.
     CRect ring = box;
     ring.DeflateRect(1, 1);
-    CRect painted = canvas.BoundsOf([](COLORREF pixel) { return pixel != Paper && pixel != Untouched; });
+    CRect painted = canvas.BoundsOf([](COLORREF pixel) { return pixel != paper && pixel != untouched; });
     CRect both;
     both.UnionRect(painted, ring);
     EXPECT_GE(both.left, box.left);
@@ -319,11 +319,11 @@ TEST_F(ListPaintCells, AnImageStandsTheSpacingInAndItsTextRightBehind)
     Write(0, 1, L"XXXXXXXXX");
     Paint(0, 1);
     CRect const cell = Cell(0, 1);
-    EXPECT_EQ(Bounds(Red, cell), CRect(Spacing, 10 - (ImageHeight >> 1), Spacing + ImageWidth, 20));
-    EXPECT_EQ(Count(Red, cell), ImageWidth * ImageHeight);
-    CRect const text = Bounds(Ink, cell);
-    EXPECT_GE(text.left, Spacing + ImageWidth + Padding);
-    EXPECT_LE(text.left, Spacing + ImageWidth + Padding + 2);
+    EXPECT_EQ(Bounds(pure_red, cell), CRect(spacing, 10 - (image_height >> 1), spacing + image_width, 20));
+    EXPECT_EQ(Count(pure_red, cell), image_width * image_height);
+    CRect const text = Bounds(ink, cell);
+    EXPECT_GE(text.left, spacing + image_width + padding);
+    EXPECT_LE(text.left, spacing + image_width + padding + 2);
 }
 
 TEST_F(ListPaintCells, AnImageIsCutToANarrowCell)
@@ -332,13 +332,13 @@ TEST_F(ListPaintCells, AnImageIsCutToANarrowCell)
     SetWidth(1, 15);
     Paint(0, 1);
     CRect const cell = Cell(0, 1);
-    EXPECT_EQ(Bounds(Red, cell).left, Spacing);
-    EXPECT_EQ(Bounds(Red, cell).right, 15);
+    EXPECT_EQ(Bounds(pure_red, cell).left, spacing);
+    EXPECT_EQ(Bounds(pure_red, cell).right, 15);
     EXPECT_TRUE(OnlyWithin(cell));
 
-    SetWidth(1, Spacing);
+    SetWidth(1, spacing);
     Paint(0, 1);
-    EXPECT_EQ(canvas.Count(Red), 0);
+    EXPECT_EQ(canvas.Count(pure_red), 0);
     EXPECT_TRUE(OnlyWithin(Cell(0, 1)));
 }
 
@@ -346,14 +346,14 @@ TEST_F(ListPaintCells, TheWidthOfAnImageIsThatAndTheSpacing)
 {
     CRect const cell = Cell(0, 1);
     XLISTCTRLDATA * const cells = list.GetRowData(0);
-    auto const width = [&] { return list.DrawImage(0, 1, &canvas.Dc(), Ink, Paper, cell, cells); };
+    auto const width = [&] { return list.DrawImage(0, 1, &canvas.Dc(), ink, paper, cell, cells); };
     EXPECT_EQ(width(), 0);
     cells[1].imageIndex = 1;
-    EXPECT_EQ(width(), ImageWidth + Spacing);
-    EXPECT_EQ(Count(Green, cell), ImageWidth * ImageHeight);
+    EXPECT_EQ(width(), image_width + spacing);
+    EXPECT_EQ(Count(pure_green, cell), image_width * image_height);
     cells[1].imageIndex = 99;
-    EXPECT_EQ(width(), Spacing);
-    EXPECT_EQ(Count(Green, cell), 0);
+    EXPECT_EQ(width(), spacing);
+    EXPECT_EQ(Count(pure_green, cell), 0);
     list.SetImageList(nullptr, LVSIL_SMALL);
     EXPECT_EQ(width(), 0);
 }
@@ -361,28 +361,28 @@ TEST_F(ListPaintCells, TheWidthOfAnImageIsThatAndTheSpacing)
 TEST_F(ListPaintCells, AnImageListKeepsItsBackgroundColour)
 {
     CImageList * const images = list.GetImageList(LVSIL_SMALL);
-    images->SetBkColor(Ink);
+    images->SetBkColor(ink);
     list.SetItemImage(0, 1, 0);
     Paint(0, 1);
-    EXPECT_EQ(images->GetBkColor(), Ink);
+    EXPECT_EQ(images->GetBkColor(), ink);
     images->SetBkColor(CLR_NONE);
 }
 
 TEST_F(ListPaintCells, AComboHasAnArrowAtItsRight)
 {
     list.SetComboBox(0, 1, std::map<int, wchar_t const *>{{1, L""}}, 1, 1);
-    Data(0, 1).backgroundColor = Paper;
+    Data(0, 1).backgroundColor = paper;
     Paint(0, 1);
     CRect const cell = Cell(0, 1);
-    CRect arrow = canvas.BoundsOf([](COLORREF pixel) { return pixel != Paper && pixel != Untouched; });
+    CRect arrow = canvas.BoundsOf([](COLORREF pixel) { return pixel != paper && pixel != untouched; });
     arrow.OffsetRect(-cell.TopLeft());
     // Its box begins 5 pixels of padding and 13 of its own left of the edge, and 4 below the top.
-    EXPECT_NEAR(arrow.left, ColumnWidth - 18 + 3, 1);
-    EXPECT_NEAR(arrow.right, ColumnWidth - 18 + 3 + 8, 1);
+    EXPECT_NEAR(arrow.left, column_width - 18 + 3, 1);
+    EXPECT_NEAR(arrow.right, column_width - 18 + 3 + 8, 1);
     EXPECT_NEAR(arrow.top, 4 + 3, 1);
     EXPECT_NEAR(arrow.bottom, 4 + 3 + 7, 1);
     // Darker towards its tip.
-    int const x = static_cast<int>(cell.left) + ColumnWidth - 18 + 3 + 4;
+    int const x = static_cast<int>(cell.left) + column_width - 18 + 3 + 4;
     EXPECT_GT(GetRValue(canvas.Pixel(x, cell.top + 4 + 3 + 2)), GetRValue(canvas.Pixel(x, cell.top + 4 + 3 + 5)));
 }
 
@@ -390,20 +390,20 @@ TEST_F(ListPaintCells, TheTextOfAComboEndsBeforeTheArrowAndADisabledOneHasNeithe
 {
     list.SetEllipsis(false);
     list.SetComboBox(0, 1, std::map<int, wchar_t const *>{{1, L"XXXXXXXXXXXXXXXX"}}, 1, 1);
-    Data(0, 1).textColor = Ink;
+    Data(0, 1).textColor = ink;
     CRect const cell = Cell(0, 1);
     Paint(0, 1);
-    CRect text = Bounds(Ink, cell);
-    EXPECT_GE(text.left, Padding);
-    EXPECT_LE(text.left, Padding + 2);
-    EXPECT_LE(text.right, ColumnWidth - Padding - 13);
-    EXPECT_GE(text.right, ColumnWidth - Padding - 13 - 3);
+    CRect text = Bounds(ink, cell);
+    EXPECT_GE(text.left, padding);
+    EXPECT_LE(text.left, padding + 2);
+    EXPECT_LE(text.right, column_width - padding - 13);
+    EXPECT_GE(text.right, column_width - padding - 13 - 3);
 
     list.SetEnabled(0, 1, false);
     Paint(0, 1);
     text = Bounds(::GetSysColor(COLOR_GRAYTEXT), cell);
-    EXPECT_LT(text.left, Padding - 1);
-    EXPECT_GE(text.right, ColumnWidth - 2);
+    EXPECT_LT(text.left, padding - 1);
+    EXPECT_GE(text.right, column_width - 2);
     EXPECT_EQ(canvas.BoundsOf([](COLORREF pixel) { return GetGValue(pixel) > GetRValue(pixel) + 20; }),
               CRect(0, 0, 0, 0));
 }
@@ -422,7 +422,7 @@ TEST_F(ListPaintCells, AWashFadesOutToTheRight)
     list.SetItemColors(0, 1, 0, RGB(255, 255, 255), wash);
     Paint(0, 1);
     CRect const cell = Cell(0, 1);
-    CRect const painted = canvas.BoundsOf([](COLORREF pixel) { return pixel != 0xFFFFFF && pixel != Untouched; });
+    CRect const painted = canvas.BoundsOf([](COLORREF pixel) { return pixel != 0xFFFFFF && pixel != untouched; });
     EXPECT_EQ(painted, CRect(cell.left + 1, cell.top + 2, cell.right - 1, cell.bottom - 2));
     int const y = cell.CenterPoint().y;
     EXPECT_NEAR(GetRValue(canvas.Pixel(cell.left + 1, y)), 10, 2);
@@ -436,7 +436,7 @@ TEST_F(ListPaintCells, AWashFadesOutToTheRight)
     EXPECT_GT(former, 200);
     EXPECT_LT(former, 255);
     // At 0.3 of 1.05 widths the colour still covers 240 of 255 parts.
-    int const bend = cell.left + 1 + static_cast<int>(0.3 * 1.05 * (ColumnWidth - 2));
+    int const bend = cell.left + 1 + static_cast<int>(0.3 * 1.05 * (column_width - 2));
     EXPECT_NEAR(GetRValue(canvas.Pixel(bend, y)), 10 + 245 * 15 / 255, 5);
 }
 
@@ -449,13 +449,13 @@ TEST_F(ListPaintCells, ACustomCellIsPaintedByItsOwnAlone)
         row = atRow;
         col = atCol;
         seen = rect;
-        dc->SetPixel(rect.left + 1, rect.top + 1, Ink);
+        dc->SetPixel(rect.left + 1, rect.top + 1, ink);
     });
     EXPECT_EQ(Paint(2, 1), CDRF_SKIPDEFAULT);
     EXPECT_EQ(row, 2);
     EXPECT_EQ(col, 1);
     EXPECT_EQ(seen, Cell(2, 1));
-    EXPECT_EQ(canvas.BoundsOfOther(Untouched), CRect(CPoint(seen.left + 1, seen.top + 1), CSize(1, 1)));
+    EXPECT_EQ(canvas.BoundsOfOther(untouched), CRect(CPoint(seen.left + 1, seen.top + 1), CSize(1, 1)));
 }
 
 TEST_F(ListPaintCells, AnEmptyPainterIsABadFunctionCall)
@@ -479,7 +479,7 @@ TEST_F(ListPaintCells, KindsAreTriedInOrder)
     EXPECT_TRUE(tests::SamePixels(*Painted(0, 1), *bar));
     cell.properties &= ~XLP_PROGRESS;
     Paint(0, 1);
-    EXPECT_EQ(Count(CheckMark, Cell(0, 1)), 21);
+    EXPECT_EQ(Count(check_mark, Cell(0, 1)), 21);
     cell.checkedState = XLC_NONE;
     EXPECT_FALSE(tests::SamePixels(*Painted(0, 1), *bar));
     EXPECT_FALSE(custom);
@@ -511,14 +511,14 @@ TEST_F(ListPaintCells, NothingIsDrawnIntoNothing)
     for (int state = XLC_UNCHECKED; state <= XLC_RADIO_OFF; ++state)
         for (auto const draw : {&tests::TestList::DrawCheckboxBox, &tests::TestList::DrawRadioBox})
         {
-            CRect box(cell.TopLeft(), CSize(BoxSize, BoxSize));
+            CRect box(cell.TopLeft(), CSize(box_size, box_size));
             (list.*draw)(box, state, true, nullptr);
-            CRect noWidth(cell.left, cell.top, cell.left, cell.top + BoxSize);
+            CRect noWidth(cell.left, cell.top, cell.left, cell.top + box_size);
             (list.*draw)(noWidth, state, true, dc);
-            CRect noHeight(cell.left, cell.top, cell.left + BoxSize, cell.top);
+            CRect noHeight(cell.left, cell.top, cell.left + box_size, cell.top);
             (list.*draw)(noHeight, state, false, dc);
         }
-    EXPECT_TRUE(canvas.BoundsOfOther(Untouched).IsRectEmpty());
+    EXPECT_TRUE(canvas.BoundsOfOther(untouched).IsRectEmpty());
 }
 
 TEST_F(ListPaintCells, ColumnZeroEndsWhereTheNextColumnBegins)
@@ -526,7 +526,7 @@ TEST_F(ListPaintCells, ColumnZeroEndsWhereTheNextColumnBegins)
     Write(0, 0, L"XXXXXXXXXXXXXXXXXXXXXX");
     Paint(0, 0);
     CRect const next = Cell(0, 1);
-    EXPECT_EQ(canvas.BoundsOfOther(Untouched), CRect(0, next.top, next.left, next.bottom));
+    EXPECT_EQ(canvas.BoundsOfOther(untouched), CRect(0, next.top, next.left, next.bottom));
 }
 
 TEST_F(ListPaintCells, AMarkKeepsItsSizeAndPlaceInACellThatIsSmaller)
@@ -536,16 +536,16 @@ TEST_F(ListPaintCells, AMarkKeepsItsSizeAndPlaceInACellThatIsSmaller)
     CRect cell = Cell(0, 1);
     list.SetItemText(0, 1, L"Text");
     Paint(0, 1);
-    EXPECT_EQ(canvas.BoundsOf(CheckFrame), CRect(CPoint(cell.left + 9, cell.top + 3), CSize(BoxSize, BoxSize)));
-    EXPECT_EQ(canvas.Count(CheckMark), 21);
+    EXPECT_EQ(canvas.BoundsOf(check_frame), CRect(CPoint(cell.left + 9, cell.top + 3), CSize(box_size, box_size)));
+    EXPECT_EQ(canvas.Count(check_mark), 21);
     list.SetItemText(0, 1, L"");
     Paint(0, 1);
-    EXPECT_EQ(canvas.BoundsOf(CheckFrame), CRect(CPoint(cell.left + 2 - 7, cell.top + 3), CSize(BoxSize, BoxSize)));
+    EXPECT_EQ(canvas.BoundsOf(check_frame), CRect(CPoint(cell.left + 2 - 7, cell.top + 3), CSize(box_size, box_size)));
 
     CRect low(cell.left, cell.top, cell.left + 40, cell.top + 8);
-    canvas.Fill(Untouched);
+    canvas.Fill(untouched);
     list.DrawCheckbox(0, 1, &canvas.Dc(), 0, 0xFFFFFF, low, list.GetRowData(0));
-    EXPECT_EQ(canvas.BoundsOf(CheckFrame), CRect(CPoint(cell.left + 20 - 7, cell.top), CSize(BoxSize, BoxSize)));
+    EXPECT_EQ(canvas.BoundsOf(check_frame), CRect(CPoint(cell.left + 20 - 7, cell.top), CSize(box_size, box_size)));
 }
 
 TEST_F(ListPaintCells, AComboArrowKeepsItsPlaceInACellThatIsSmaller)
@@ -555,20 +555,20 @@ TEST_F(ListPaintCells, AComboArrowKeepsItsPlaceInACellThatIsSmaller)
     CRect const cell = Cell(0, 1);
     Paint(0, 1);
     // The arrow starts 3 pixels into its box, which ends the padding ahead of the cell's right edge.
-    CRect const painted = canvas.BoundsOfOther(Untouched);
-    EXPECT_LE(painted.left, cell.right - Padding - BoxSize + 4);
-    EXPECT_GE(painted.left, cell.right - Padding - BoxSize + 2);
+    CRect const painted = canvas.BoundsOfOther(untouched);
+    EXPECT_LE(painted.left, cell.right - padding - box_size + 4);
+    EXPECT_GE(painted.left, cell.right - padding - box_size + 2);
 }
 
 TEST_F(ListPaintCells, AnImageStandsInTheMiddleOfACellThatIsLower)
 {
     list.SetItemImage(0, 1, 0);
     CRect const cell = Cell(0, 1);
-    canvas.Fill(Untouched);
+    canvas.Fill(untouched);
     list.DrawImage(0, 1, &canvas.Dc(), 0, 0xFFFFFF, CRect(cell.left, cell.top + 10, cell.right, cell.top + 20),
                    list.GetRowData(0));
-    EXPECT_EQ(canvas.BoundsOf(Red), CRect(cell.left + Spacing, cell.top + 15 - (ImageHeight >> 1),
-                                          cell.left + Spacing + ImageWidth, cell.top + 25 - (ImageHeight >> 1)));
+    EXPECT_EQ(canvas.BoundsOf(pure_red), CRect(cell.left + spacing, cell.top + 15 - (image_height >> 1),
+                                               cell.left + spacing + image_width, cell.top + 25 - (image_height >> 1)));
 }
 
 TEST_F(ListPaintCells, TextsAndBarsStayInTheirCellHoweverNarrow)

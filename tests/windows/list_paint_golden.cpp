@@ -55,9 +55,9 @@ Kind const kinds[] = {
 class ListPaintGolden : public tests::ListPaintTest, public testing::WithParamInterface<Kind>
 {
 protected:
-    static constexpr int Margin = 2;
-    static constexpr int RightMargin = 36;
-    static constexpr int Column = 1;
+    static constexpr int margin = 2;
+    static constexpr int right_margin = 36;
+    static constexpr int column = 1;
 };
 
 INSTANTIATE_TEST_SUITE_P(Kinds, ListPaintGolden, testing::ValuesIn(kinds),
@@ -66,18 +66,18 @@ INSTANTIATE_TEST_SUITE_P(Kinds, ListPaintGolden, testing::ValuesIn(kinds),
 TEST_P(ListPaintGolden, LooksAsKept)
 {
     constexpr int rows = 3;
-    int const stripHeight = RowHeight + 2 * Margin;
-    tests::Canvas sheet(Margin + ColumnWidth + RightMargin, rows * stripHeight);
+    int const stripHeight = row_height + 2 * margin;
+    tests::Canvas sheet(margin + column_width + right_margin, rows * stripHeight);
     for (int row = 0; row < rows; ++row)
     {
-        GetParam().make(list, row, Column);
-        CRect part = Cell(row, Column);
-        part.InflateRect(Margin, Margin, RightMargin, Margin);
+        GetParam().make(list, row, column);
+        CRect part = Cell(row, column);
+        part.InflateRect(margin, margin, right_margin, margin);
         if (row == 1)
             Select(row, true);
         if (row == 2)
-            list.SetEnabled(row, Column, false);
-        ASSERT_EQ(Paint(row, Column), CDRF_SKIPDEFAULT);
+            list.SetEnabled(row, column, false);
+        ASSERT_EQ(Paint(row, column), CDRF_SKIPDEFAULT);
         ::BitBlt(sheet.Dc().GetSafeHdc(), 0, row * stripHeight, part.Width(), part.Height(), canvas.Dc().GetSafeHdc(),
                  part.left, part.top, SRCCOPY);
     }

@@ -7,10 +7,10 @@ namespace
 class ListPaintProgress : public tests::ListPaintTest
 {
 protected:
-    static constexpr COLORREF Bar = RGB(30, 90, 160);
-    static constexpr COLORREF Ink = RGB(200, 0, 100);
-    static constexpr int Row = 1;
-    static constexpr int Column = 1;
+    static constexpr COLORREF bar_colour = RGB(30, 90, 160);
+    static constexpr COLORREF ink = RGB(200, 0, 100);
+    static constexpr int row = 1;
+    static constexpr int column = 1;
 
     void SetUp() override
     {
@@ -21,22 +21,22 @@ protected:
 
     void Make(bool text, wchar_t const * format)
     {
-        list.SetProgress(Row, Column, text, format);
-        list.SetItemColors(Row, Column, Ink, Bar, XLISTCTRLDATA::no_gradient);
+        list.SetProgress(row, column, text, format);
+        list.SetItemColors(row, column, ink, bar_colour, XLISTCTRLDATA::no_gradient);
     }
     void Show(int value, int displayValue = 0)
     {
-        list.UpdateProgress(Row, Column, value, displayValue);
-        Paint(Row, Column);
+        list.UpdateProgress(row, column, value, displayValue);
+        Paint(row, column);
     }
     std::unique_ptr<tests::Canvas> Shown(int value, int displayValue = 0)
     {
         Show(value, displayValue);
-        return Copy(Cell(Row, Column));
+        return Copy(Cell(row, column));
     }
     COLORREF Pixel(int x, int y)
     {
-        CRect const cell = Cell(Row, Column);
+        CRect const cell = Cell(row, column);
         return canvas.Pixel(cell.left + x, cell.top + y);
     }
 
@@ -46,16 +46,16 @@ protected:
 TEST_F(ListPaintProgress, TheTroughLeavesTheLeftColumnAndTheLowestRow)
 {
     Show(0);
-    CRect const cell = Cell(Row, Column);
-    EXPECT_EQ(canvas.BoundsOfOther(Untouched), CRect(cell.left + 1, cell.top, cell.right, cell.bottom - 1));
-    EXPECT_EQ(Bounds(Trough, cell), CRect(2, 1, ColumnWidth - 1, RowHeight - 2));
+    CRect const cell = Cell(row, column);
+    EXPECT_EQ(canvas.BoundsOfOther(untouched), CRect(cell.left + 1, cell.top, cell.right, cell.bottom - 1));
+    EXPECT_EQ(Bounds(trough, cell), CRect(2, 1, column_width - 1, row_height - 2));
 }
 
 TEST_F(ListPaintProgress, TheTroughsFrameIsBlackAboveAndLeft)
 {
     Show(0);
-    int const right = ColumnWidth - 1;
-    int const bottom = RowHeight - 2;
+    int const right = column_width - 1;
+    int const bottom = row_height - 2;
     for (int x = 1; x < right; ++x)
     {
         EXPECT_EQ(Pixel(x, 0), RGB(0, 0, 0)) << x;
@@ -70,13 +70,13 @@ TEST_F(ListPaintProgress, TheTroughsFrameIsBlackAboveAndLeft)
 
 TEST_F(ListPaintProgress, TheBarIsItsShareLessOnePixel)
 {
-    CRect const cell = Cell(Row, Column);
+    CRect const cell = Cell(row, column);
     // The bar's room is 58 pixels wide and begins at 2.
     for (auto const & [value, fill] : {std::pair(30, 17), std::pair(50, 29), std::pair(99, 57), std::pair(100, 58)})
     {
         Show(value);
-        EXPECT_EQ(Bounds(Bar, cell), CRect(2, 1, 2 + fill - 1, RowHeight - 2)) << value;
-        EXPECT_EQ(Count(Bar, cell), (fill - 1) * (RowHeight - 3)) << value;
+        EXPECT_EQ(Bounds(bar_colour, cell), CRect(2, 1, 2 + fill - 1, row_height - 2)) << value;
+        EXPECT_EQ(Count(bar_colour, cell), (fill - 1) * (row_height - 3)) << value;
     }
 }
 
@@ -91,31 +91,31 @@ TEST_F(ListPaintProgress, ABarTooShortToShowLeavesTheTroughAsItIs)
 TEST_F(ListPaintProgress, ABarAboveAHundredLeavesTheCell)
 {
     Show(150);
-    CRect const cell = Cell(Row, Column);
-    CRect const bar = canvas.BoundsOf(Bar);
+    CRect const cell = Cell(row, column);
+    CRect const bar = canvas.BoundsOf(bar_colour);
     EXPECT_EQ(bar, CRect(cell.left + 2, cell.top + 1, cell.left + 2 + 87 - 1, cell.bottom - 2));
     EXPECT_GT(bar.right, cell.right);
-    EXPECT_EQ(canvas.Count(Bar), bar.Width() * bar.Height());
+    EXPECT_EQ(canvas.Count(bar_colour), bar.Width() * bar.Height());
 }
 
 TEST_F(ListPaintProgress, ABarOfAnyValueReachesToTheEdge)
 {
     Show(INT_MAX);
-    EXPECT_EQ(canvas.BoundsOf(Bar).right, canvas.Width());
+    EXPECT_EQ(canvas.BoundsOf(bar_colour).right, canvas.Width());
 }
 
 TEST_F(ListPaintProgress, TheTextChangesItsColourAtTheBarsEdge)
 {
     Make(true, L"XXXXXXXXXXXX");
     Show(50);
-    CRect const cell = Cell(Row, Column);
+    CRect const cell = Cell(row, column);
     int const edge = 2 + 29 - 1;
     CRect const bar(cell.left + 2, cell.top + 1, cell.left + edge, cell.bottom - 2);
     CRect const rest(cell.left + edge, cell.top + 1, cell.right - 1, cell.bottom - 2);
-    EXPECT_GT(Count(Trough, bar), 0);
-    EXPECT_EQ(Count(Trough, bar) + Count(Bar, bar), bar.Width() * bar.Height());
-    EXPECT_GT(Count(Ink, rest), 0);
-    EXPECT_EQ(Count(Trough, rest) + Count(Ink, rest), rest.Width() * rest.Height());
+    EXPECT_GT(Count(trough, bar), 0);
+    EXPECT_EQ(Count(trough, bar) + Count(bar_colour, bar), bar.Width() * bar.Height());
+    EXPECT_GT(Count(ink, rest), 0);
+    EXPECT_EQ(Count(trough, rest) + Count(ink, rest), rest.Width() * rest.Height());
 }
 
 TEST_F(ListPaintProgress, NoColumnOfTheTextIsLostAtTheBarsEdge)
@@ -123,36 +123,36 @@ TEST_F(ListPaintProgress, NoColumnOfTheTextIsLostAtTheBarsEdge)
     // Underscores join to a line across the cell.
     Make(true, L"____________");
     Show(50);
-    CRect const line = Bounds(Ink, Cell(Row, Column));
+    CRect const line = Bounds(ink, Cell(row, column));
     ASSERT_FALSE(line.IsRectEmpty());
     int const edge = 2 + 29 - 1;
     EXPECT_EQ(line.left, edge);
-    EXPECT_EQ(Pixel(edge - 1, line.top), Trough);
-    EXPECT_EQ(Pixel(edge - 1, line.top - 1), Bar);
+    EXPECT_EQ(Pixel(edge - 1, line.top), trough);
+    EXPECT_EQ(Pixel(edge - 1, line.top - 1), bar_colour);
 }
 
 TEST_F(ListPaintProgress, TheTextIsCentred)
 {
     Make(true, L"X");
-    list.UpdateProgress(Row, Column, 4, 0);
+    list.UpdateProgress(row, column, 4, 0);
     Show(4);
-    EXPECT_NEAR(Bounds(Ink, Cell(Row, Column)).CenterPoint().x, ColumnWidth / 2, 2);
+    EXPECT_NEAR(Bounds(ink, Cell(row, column)).CenterPoint().x, column_width / 2, 2);
 }
 
 TEST_F(ListPaintProgress, ABarAtZeroShowsNoText)
 {
     Make(true, nullptr);
     Show(0);
-    EXPECT_EQ(canvas.Count(Ink), 0);
+    EXPECT_EQ(canvas.Count(ink), 0);
     Show(1);
-    EXPECT_GT(canvas.Count(Ink), 0);
+    EXPECT_GT(canvas.Count(ink), 0);
 }
 
 TEST_F(ListPaintProgress, WithoutItsFlagThereIsNoText)
 {
     Make(false, L"XX");
     Show(20);
-    EXPECT_EQ(canvas.Count(Ink), 0);
+    EXPECT_EQ(canvas.Count(ink), 0);
 }
 
 TEST_F(ListPaintProgress, PercentIsTheText)
@@ -179,8 +179,8 @@ TEST_F(ListPaintProgress, AFormatMayGiveATextOfAnyLength)
 {
     Make(true, L"%020000d");
     Show(50, 7);
-    EXPECT_GT(canvas.Count(Ink), 0);
-    EXPECT_TRUE(OnlyWithin(Cell(Row, Column)));
+    EXPECT_GT(canvas.Count(ink), 0);
+    EXPECT_TRUE(OnlyWithin(Cell(row, column)));
 }
 
 TEST_F(ListPaintProgress, TheClipIsAsBefore)
@@ -194,32 +194,32 @@ TEST_F(ListPaintProgress, TheClipIsAsBefore)
 
 TEST_F(ListPaintProgress, AnImageStandsLeftOfTheBar)
 {
-    list.SetItemImage(Row, Column, 0);
+    list.SetItemImage(row, column, 0);
     Show(100);
-    CRect const cell = Cell(Row, Column);
-    EXPECT_EQ(Bounds(Red, cell).left, Spacing);
-    EXPECT_EQ(Bounds(Red, cell).right, Spacing + ImageWidth);
-    EXPECT_EQ(Pixel(Spacing + ImageWidth + 1, 5), RGB(0, 0, 0));
-    EXPECT_EQ(Pixel(Spacing + ImageWidth + 2, 5), Bar);
+    CRect const cell = Cell(row, column);
+    EXPECT_EQ(Bounds(pure_red, cell).left, spacing);
+    EXPECT_EQ(Bounds(pure_red, cell).right, spacing + image_width);
+    EXPECT_EQ(Pixel(spacing + image_width + 1, 5), RGB(0, 0, 0));
+    EXPECT_EQ(Pixel(spacing + image_width + 2, 5), bar_colour);
 }
 
 TEST_F(ListPaintProgress, SelectionDoesNotShow)
 {
     Make(true, nullptr);
     auto const normal = Shown(50);
-    Select(Row, true);
+    Select(row, true);
     EXPECT_TRUE(tests::SamePixels(*Shown(50), *normal));
 }
 
 TEST_F(ListPaintProgress, ADisabledBarHasGreyTextOnTheTrough)
 {
     Make(true, L"XXXXXXXXXXXX");
-    list.SetEnabled(Row, Column, false);
+    list.SetEnabled(row, column, false);
     Show(50);
-    EXPECT_EQ(canvas.Count(Ink), 0);
-    CRect rest = Cell(Row, Column);
+    EXPECT_EQ(canvas.Count(ink), 0);
+    CRect rest = Cell(row, column);
     rest.left += 2 + 29 - 1;
     EXPECT_GT(Count(::GetSysColor(COLOR_GRAYTEXT), rest), 10);
-    EXPECT_GT(canvas.Count(Bar), 0);
+    EXPECT_GT(canvas.Count(bar_colour), 0);
 }
 } // namespace

@@ -17,16 +17,16 @@ COLORREF Sys(int index)
 class ListPaintStates : public tests::ListPaintTest
 {
 protected:
-    static constexpr COLORREF Ink = RGB(200, 0, 100);
-    static constexpr COLORREF Paper = RGB(240, 250, 230);
+    static constexpr COLORREF ink = RGB(200, 0, 100);
+    static constexpr COLORREF paper = RGB(240, 250, 230);
 
-    explicit ListPaintStates(DWORD style = Style) : ListPaintTest(style) {}
+    explicit ListPaintStates(DWORD style = list_style) : ListPaintTest(style) {}
 
     void SetUp() override
     {
         ListPaintTest::SetUp();
         for (int col = 0; col < 3; ++col)
-            list.SetItemText(1, col, L"XX", Ink, Paper);
+            list.SetItemText(1, col, L"XX", ink, paper);
     }
 
     /// Whether the cell, when painted, is of these two colours alone and has both.
@@ -55,12 +55,12 @@ protected:
 class ListPaintStatesShown : public ListPaintStates
 {
 protected:
-    ListPaintStatesShown() : ListPaintStates(Style | LVS_SHOWSELALWAYS) {}
+    ListPaintStatesShown() : ListPaintStates(list_style | LVS_SHOWSELALWAYS) {}
 };
 
 TEST_F(ListPaintStates, ASelectedRowHasTheHighlightsColours)
 {
-    EXPECT_TRUE(IsOf(1, 1, Ink, Paper));
+    EXPECT_TRUE(IsOf(1, 1, ink, paper));
     Select(1, true);
     for (int col = 0; col < 3; ++col)
         EXPECT_TRUE(IsSelected(col)) << col;
@@ -71,17 +71,17 @@ TEST_F(ListPaintStates, WithoutFullRowSelectionOnlyColumnZeroShowsIt)
     SetFullRow(false);
     Select(1, true);
     EXPECT_TRUE(IsSelected(0));
-    EXPECT_TRUE(IsOf(1, 1, Ink, Paper));
-    EXPECT_TRUE(IsOf(1, 2, Ink, Paper));
+    EXPECT_TRUE(IsOf(1, 1, ink, paper));
+    EXPECT_TRUE(IsOf(1, 2, ink, paper));
     list.SetCheckbox(1, 0, XLC_CHECKED);
     list.SetCheckbox(1, 1, XLC_CHECKED);
     Paint(1, 0);
     EXPECT_GT(Count(Sys(COLOR_HIGHLIGHT), Cell(1, 0)), 100);
-    EXPECT_GT(Count(CheckMark, Cell(1, 0)), 0);
-    EXPECT_EQ(Count(Paper, Cell(1, 0)), 0);
+    EXPECT_GT(Count(check_mark, Cell(1, 0)), 0);
+    EXPECT_EQ(Count(paper, Cell(1, 0)), 0);
     Paint(1, 1);
     EXPECT_EQ(Count(Sys(COLOR_HIGHLIGHT), Cell(1, 1)), 0);
-    EXPECT_GT(Count(Paper, Cell(1, 1)), 100);
+    EXPECT_GT(Count(paper, Cell(1, 1)), 100);
 }
 
 TEST_F(ListPaintStates, WithoutTheFocusARowHasItsOwnColours)
@@ -89,8 +89,8 @@ TEST_F(ListPaintStates, WithoutTheFocusARowHasItsOwnColours)
     Select(1, true);
     EXPECT_TRUE(IsSelected(1));
     Select(1, false);
-    EXPECT_TRUE(IsOf(1, 0, Ink, Paper));
-    EXPECT_TRUE(IsOf(1, 1, Ink, Paper));
+    EXPECT_TRUE(IsOf(1, 0, ink, paper));
+    EXPECT_TRUE(IsOf(1, 1, ink, paper));
 }
 
 TEST_F(ListPaintStatesShown, WithoutTheFocusASelectionThatAlwaysShowsIsOnFaceColour)
@@ -101,7 +101,7 @@ TEST_F(ListPaintStatesShown, WithoutTheFocusASelectionThatAlwaysShowsIsOnFaceCol
     EXPECT_TRUE(IsOf(1, 1, Sys(COLOR_WINDOWTEXT), Sys(COLOR_BTNFACE)));
     SetFullRow(false);
     EXPECT_TRUE(IsOf(1, 0, Sys(COLOR_WINDOWTEXT), Sys(COLOR_BTNFACE)));
-    EXPECT_TRUE(IsOf(1, 1, Ink, Paper));
+    EXPECT_TRUE(IsOf(1, 1, ink, paper));
 }
 
 TEST_F(ListPaintStates, MarksStayAsTheyAreInASelectedRow)
@@ -109,17 +109,17 @@ TEST_F(ListPaintStates, MarksStayAsTheyAreInASelectedRow)
     list.SetItemText(1, 1, L"");
     list.SetCheckbox(1, 1, XLC_CROSSED);
     Paint(1, 1);
-    int const frame = Count(CheckFrame, Cell(1, 1));
-    int const cross = Count(CrossMark, Cell(1, 1));
+    int const frame = Count(check_frame, Cell(1, 1));
+    int const cross = Count(cross_mark, Cell(1, 1));
     Select(1, true);
     Paint(1, 1);
-    EXPECT_EQ(Count(CheckFrame, Cell(1, 1)), frame);
-    EXPECT_EQ(Count(CrossMark, Cell(1, 1)), cross);
+    EXPECT_EQ(Count(check_frame, Cell(1, 1)), frame);
+    EXPECT_EQ(Count(cross_mark, Cell(1, 1)), cross);
 }
 
 TEST_F(ListPaintStates, ADisabledCellOnTheWindowsColourIsGreyOnFaceColour)
 {
-    list.SetItemColors(1, 1, Ink, Sys(COLOR_WINDOW), XLISTCTRLDATA::no_gradient);
+    list.SetItemColors(1, 1, ink, Sys(COLOR_WINDOW), XLISTCTRLDATA::no_gradient);
     list.SetEnabled(1, 1, false);
     EXPECT_TRUE(IsOf(1, 1, Sys(COLOR_GRAYTEXT), Sys(COLOR_BTNFACE)));
     NMLVCUSTOMDRAW draw = Notification(CDDS_ITEMPREPAINT | CDDS_SUBITEM, 1, 1);
@@ -132,7 +132,7 @@ TEST_F(ListPaintStates, ADisabledCellOnTheWindowsColourIsGreyOnFaceColour)
 TEST_F(ListPaintStates, ADisabledCellKeepsABackgroundOfItsOwn)
 {
     list.SetEnabled(1, 1, false);
-    EXPECT_TRUE(IsOf(1, 1, Sys(COLOR_GRAYTEXT), Paper));
+    EXPECT_TRUE(IsOf(1, 1, Sys(COLOR_GRAYTEXT), paper));
 }
 
 TEST_F(ListPaintStates, DisabledMarksAreGrey)
@@ -144,11 +144,11 @@ TEST_F(ListPaintStates, DisabledMarksAreGrey)
         list.SetEnabled(1, 1, true);
         Paint(1, 1);
         CRect const cell = Cell(1, 1);
-        int const enabled = cell.Width() * cell.Height() - Count(Paper, cell);
+        int const enabled = cell.Width() * cell.Height() - Count(paper, cell);
         list.SetEnabled(1, 1, false);
         Paint(1, 1);
         EXPECT_EQ(Count(Sys(COLOR_GRAYTEXT), cell), enabled) << state;
-        EXPECT_EQ(Count(Paper, cell), cell.Width() * cell.Height() - enabled) << state;
+        EXPECT_EQ(Count(paper, cell), cell.Width() * cell.Height() - enabled) << state;
     }
 }
 
@@ -166,12 +166,12 @@ TEST_F(ListPaintStates, ADisabledRadioButtonDoesNotTellWhetherItIsOn)
 TEST_F(ListPaintStates, ALinkIsAnUnderlinedText)
 {
     Paint(1, 1);
-    CRect const plain = Bounds(Ink, Cell(1, 1));
+    CRect const plain = Bounds(ink, Cell(1, 1));
     list.SetHyperlink(1, 1, true, false);
     Paint(1, 1);
-    EXPECT_GT(Bounds(Ink, Cell(1, 1)).bottom, plain.bottom);
+    EXPECT_GT(Bounds(ink, Cell(1, 1)).bottom, plain.bottom);
     list.SetHyperlink(1, 1, true, true);
-    EXPECT_TRUE(IsOf(1, 1, 0xFF0000, Paper));
+    EXPECT_TRUE(IsOf(1, 1, 0xFF0000, paper));
 }
 
 TEST_F(ListPaintStates, AnImageStandsOnTheDrawingColour)
@@ -181,24 +181,24 @@ TEST_F(ListPaintStates, AnImageStandsOnTheDrawingColour)
     Select(1, true);
     Paint(1, 1);
     CRect const cell = Cell(1, 1);
-    EXPECT_EQ(Count(Red, cell) + Count(Sys(COLOR_HIGHLIGHT), cell), cell.Width() * cell.Height());
+    EXPECT_EQ(Count(pure_red, cell) + Count(Sys(COLOR_HIGHLIGHT), cell), cell.Width() * cell.Height());
 }
 
 TEST_F(ListPaintStates, RowsAreNotErased)
 {
-    canvas.Fill(Untouched);
+    canvas.Fill(untouched);
     EXPECT_TRUE(Erase());
     CRect const first = Cell(0, 0);
     CRect const last = Cell(3, 2);
     CRect const rows(first.left, first.top, last.right, last.bottom);
-    EXPECT_EQ(Count(Untouched, rows), rows.Width() * rows.Height());
-    EXPECT_EQ(canvas.Count(Untouched), rows.Width() * rows.Height());
+    EXPECT_EQ(Count(untouched, rows), rows.Width() * rows.Height());
+    EXPECT_EQ(canvas.Count(untouched), rows.Width() * rows.Height());
     EXPECT_EQ(canvas.Count(Sys(COLOR_WINDOW)), canvas.Width() * canvas.Height() - rows.Width() * rows.Height());
 }
 
 TEST_F(ListPaintStates, ErasingStaysWithinTheClip)
 {
-    canvas.Fill(Untouched);
+    canvas.Fill(untouched);
     CRect const clip(100, 30, 300, 120);
     CRgn region;
     region.CreateRectRgnIndirect(clip);
@@ -214,7 +214,7 @@ TEST_F(ListPaintStates, ErasingStaysWithinTheClip)
 TEST_F(ListPaintStates, AnEmptyListIsErasedByTheNativeList)
 {
     list.DeleteAllItems();
-    canvas.Fill(Untouched);
+    canvas.Fill(untouched);
     Erase();
     CRect const below(0, 40, canvas.Width(), canvas.Height());
     EXPECT_EQ(Count(list.GetBkColor(), below), below.Width() * below.Height());
@@ -262,9 +262,9 @@ TEST_F(ListPaintStates, TheScreenShowsWhatTheCellsPaint)
     list.SetCheckbox(1, 1, XLC_CHECKED);
     Show(list, canvas);
     CRect const cell = Cell(1, 1);
-    EXPECT_EQ(Count(CheckMark, cell), 21);
-    EXPECT_EQ(Count(CheckFrame, cell), 48);
-    EXPECT_EQ(Count(Paper, cell) + 21 + 48, cell.Width() * cell.Height());
+    EXPECT_EQ(Count(check_mark, cell), 21);
+    EXPECT_EQ(Count(check_frame, cell), 48);
+    EXPECT_EQ(Count(paper, cell) + 21 + 48, cell.Width() * cell.Height());
 }
 
 TEST_F(ListPaintStates, AChangedCellAloneIsToBePainted)
@@ -341,7 +341,7 @@ TEST_F(ListPaintStates, AnEmptyPainterIsReportedAndTheProgramGoesOn)
     EXPECT_FALSE(tests::App().TakeMessages().empty());
     list.RemoveCustomDraw(1, 1);
     Show(list, canvas);
-    EXPECT_GT(Count(Paper, Cell(1, 1)), 0);
+    EXPECT_GT(Count(paper, Cell(1, 1)), 0);
     EXPECT_TRUE(tests::App().TakeMessages().empty());
 }
 
@@ -376,7 +376,7 @@ TEST_P(ListPaintHandles, PaintingLeavesNone)
         list.SetItemProperty(1, 1, XLP_BOLD | XLP_UNDERLINE, true);
         break;
     case 2:
-        list.SetItemColors(1, 1, Ink, Paper, RGB(40, 80, 200));
+        list.SetItemColors(1, 1, ink, paper, RGB(40, 80, 200));
         break;
     case 3:
         list.SetCheckbox(1, 1, XLC_CHECKED);

@@ -5,6 +5,7 @@
 
 #include "frame/RegisteredMessages.h"
 #include "list/XListCtrl.h"
+#include "list/XListRowPool.h"
 
 #include <gtest/gtest.h>
 

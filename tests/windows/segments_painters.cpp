@@ -360,29 +360,29 @@ void PrintTo(Sheet const & sheet, std::ostream * out)
 class SegmentPaintersGolden : public testing::TestWithParam<Sheet>
 {
 protected:
-    static constexpr double Scale = 0.5;
-    static constexpr int LineLength = 14;
-    static constexpr double LineHeight = 83 * Scale;
+    static constexpr double paint_scale = 0.5;
+    static constexpr int line_length = 14;
+    static constexpr double line_height = 83 * paint_scale;
 
     /// Calls draw(canvas, character, rect) for all characters and compares what it has painted.
     template <class Draw> static void Compare(char const * painter, Draw const & draw)
     {
         std::wstring_view const text = GetParam().text;
-        int const lineCount = (static_cast<int>(text.size()) + LineLength - 1) / LineLength;
-        tests::Canvas canvas(static_cast<int>(LineLength * 49 * Scale) + 1,
-                             static_cast<int>(lineCount * LineHeight) + 1, background);
+        int const lineCount = (static_cast<int>(text.size()) + line_length - 1) / line_length;
+        tests::Canvas canvas(static_cast<int>(line_length * 49 * paint_scale) + 1,
+                             static_cast<int>(lineCount * line_height) + 1, background);
         double x = 0;
         double y = 0;
         for (std::size_t i = 0; i < text.size(); ++i)
         {
-            if (i != 0 && i % LineLength == 0)
+            if (i != 0 && i % line_length == 0)
             {
                 x = 0;
-                y += LineHeight;
+                y += line_height;
             }
             CDigiCharOwner const character = Make(text[i], GetParam().style);
-            double const right = x + character->GetWidth() * Scale;
-            draw(canvas, *character, {x, y, right, y + LineHeight});
+            double const right = x + character->GetWidth() * paint_scale;
+            draw(canvas, *character, {x, y, right, y + line_height});
             x = right;
         }
         tests::ExpectGolden(canvas, (std::string("segments_") + painter + "_" + GetParam().name).c_str());

@@ -72,6 +72,7 @@ constexpr COLORREF const * scales[] = {
     FarbenGreyLdRGB,     FarbenStandardRGB, FarbenGoldRGB,   FarbenOceanRGB,      FarbenEarthRGB,
     FarbenTemperaturRGB, FarbenGreyDlRGB,   FarbenSommerRGB, FarbenRegenbogenRGB,
 };
+static_assert(std::size(scales) == spectrogram_scales);
 
 bool IsScopeIndex(int index)
 {
@@ -178,7 +179,7 @@ DWORD ArgbFarbe(int index, unsigned int alpha)
 
 COLORREF const * SpektrogrammFarbtabelle(unsigned int index)
 {
-    return index < std::size(scales) ? scales[index] : FarbenStandardRGB;
+    return index < spectrogram_scales ? scales[index] : FarbenStandardRGB;
 }
 
 COLORREF const * SpektrogrammFarbtabelleSopeFarbe(int index)

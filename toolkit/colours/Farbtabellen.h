@@ -10,8 +10,12 @@ class CPalette;
 
 namespace Farbtabellen
 {
+/// Colours of a scope.
 constexpr int SCOPE_COLOURS = 32;
+/// Entries of a spectrogram scale.
 constexpr int SCALE_COLOURS = 33;
+/// Spectrogram scales.
+constexpr unsigned int spectrogram_scales = 9;
 
 /// The scope colours by their index.
 extern INSTRUMENT_UI_API COLORREF const ScopePalette[SCOPE_COLOURS];
@@ -19,13 +23,21 @@ extern INSTRUMENT_UI_API COLORREF const ScopePalette[SCOPE_COLOURS];
 /// The spectrogram scales: entries 0 to 31 from the lowest level to the highest, then one more colour outside the scale
 /// for the host's use. Filled when the module is loaded.
 extern INSTRUMENT_UI_API COLORREF FarbenGreyLdRGB[SCALE_COLOURS];
+/// See FarbenGreyLdRGB.
 extern INSTRUMENT_UI_API COLORREF FarbenStandardRGB[SCALE_COLOURS];
+/// See FarbenGreyLdRGB.
 extern INSTRUMENT_UI_API COLORREF FarbenGoldRGB[SCALE_COLOURS];
+/// See FarbenGreyLdRGB.
 extern INSTRUMENT_UI_API COLORREF FarbenOceanRGB[SCALE_COLOURS];
+/// See FarbenGreyLdRGB.
 extern INSTRUMENT_UI_API COLORREF FarbenEarthRGB[SCALE_COLOURS];
+/// See FarbenGreyLdRGB.
 extern INSTRUMENT_UI_API COLORREF FarbenTemperaturRGB[SCALE_COLOURS];
+/// See FarbenGreyLdRGB.
 extern INSTRUMENT_UI_API COLORREF FarbenGreyDlRGB[SCALE_COLOURS];
+/// See FarbenGreyLdRGB.
 extern INSTRUMENT_UI_API COLORREF FarbenSommerRGB[SCALE_COLOURS];
+/// See FarbenGreyLdRGB.
 extern INSTRUMENT_UI_API COLORREF FarbenRegenbogenRGB[SCALE_COLOURS];
 
 /// The scope colour of the index, which must be 0 to 31: it is not checked.

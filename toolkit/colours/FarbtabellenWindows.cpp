@@ -15,22 +15,23 @@ namespace Farbtabellen
 {
 namespace
 {
-constexpr WORD PALETTE_VERSION = 0x300;
-constexpr unsigned int SCALES = TOOLKIT_STRING_SPECTROGRAM_SCALE_LAST - TOOLKIT_STRING_SPECTROGRAM_SCALE_FIRST + 1;
+constexpr WORD palette_version = 0x300;
+static_assert(TOOLKIT_STRING_SCOPE_COLOUR_LAST - TOOLKIT_STRING_SCOPE_COLOUR_FIRST + 1 == SCOPE_COLOURS);
+static_assert(TOOLKIT_STRING_SPECTROGRAM_SCALE_LAST - TOOLKIT_STRING_SPECTROGRAM_SCALE_FIRST + 1 == spectrogram_scales);
 
 CPalette scopePalette;
 bool scopePaletteBuilt = false;
 CPalette selvanePalette;
 bool selvanePaletteBuilt = false;
 // The last one is for an unknown scale.
-CString scaleNames[SCALES + 1];
+CString scaleNames[spectrogram_scales + 1];
 bool scaleNamesLoaded = false;
 
 void MakePalette(CPalette & palette, COLORREF (*colourAt)(int))
 {
     std::vector<std::byte> storage(sizeof(LOGPALETTE) + (SCOPE_COLOURS - 1) * sizeof(PALETTEENTRY));
     auto * const description = reinterpret_cast<LOGPALETTE *>(storage.data());
-    description->palVersion = PALETTE_VERSION;
+    description->palVersion = palette_version;
     description->palNumEntries = SCOPE_COLOURS;
     PALETTEENTRY * const entries = description->palPalEntry;
     for (int i = 0; i < SCOPE_COLOURS; ++i)
@@ -80,10 +81,10 @@ CString const & SpektrogrammFarbtabellenName(unsigned int index)
     {
         scaleNamesLoaded = true;
         CToolkitResourceExchange const exchange;
-        for (unsigned int scale = 0; scale < SCALES; ++scale)
+        for (unsigned int scale = 0; scale < spectrogram_scales; ++scale)
             scaleNames[scale].LoadString(TOOLKIT_STRING_SPECTROGRAM_SCALE_FIRST + scale);
-        scaleNames[SCALES].LoadString(TOOLKIT_STRING_SPECTROGRAM_SCALE_UNKNOWN);
+        scaleNames[spectrogram_scales].LoadString(TOOLKIT_STRING_SPECTROGRAM_SCALE_UNKNOWN);
     }
-    return scaleNames[index < SCALES ? index : SCALES];
+    return scaleNames[index < spectrogram_scales ? index : spectrogram_scales];
 }
 } // namespace Farbtabellen

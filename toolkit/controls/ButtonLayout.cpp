@@ -13,8 +13,8 @@ CPoint CentreOf(CRect const & area)
 ButtonLook LookOfButton(bool disabled, bool hot)
 {
     if (disabled)
-        return ButtonLook::Disabled;
-    return hot ? ButtonLook::Hot : ButtonLook::Normal;
+        return ButtonLook::disabled;
+    return hot ? ButtonLook::hot : ButtonLook::normal;
 }
 
 bool ButtonIsFilled(bool framed, COLORREF background, COLORREF buttonFace)

@@ -7,9 +7,9 @@
 /// How a button looks at the moment, by priority.
 enum class ButtonLook
 {
-    Normal,
-    Hot,
-    Disabled
+    normal,
+    hot,
+    disabled
 };
 
 ButtonLook LookOfButton(bool disabled, bool hot);

@@ -78,8 +78,8 @@ void CColorButton::DrawItem(LPDRAWITEMSTRUCT item)
         dc->SelectObject(former);
     }
     area.DeflateRect(::GetSystemMetrics(SM_CXEDGE), ::GetSystemMetrics(SM_CYEDGE));
-    COLORREF const background = look == ButtonLook::Disabled ? m_disabledBgColor
-                                : look == ButtonLook::Hot    ? m_hotBgColor
+    COLORREF const background = look == ButtonLook::disabled ? m_disabledBgColor
+                                : look == ButtonLook::hot    ? m_hotBgColor
                                                              : m_bgColor;
     if (ButtonIsFilled(m_drawFrame, background, m_colorTable[ButtonFace]))
         dc->FillSolidRect(area, background);
@@ -93,7 +93,7 @@ void CColorButton::DrawItem(LPDRAWITEMSTRUCT item)
     m_icon = icon;
     if (m_icon != nullptr)
     {
-        bool const other = look == ButtonLook::Disabled && m_disabledIcon != nullptr;
+        bool const other = look == ButtonLook::disabled && m_disabledIcon != nullptr;
         CDC::FromHandle(context)->DrawIcon(ButtonIconOrigin(area, m_iconSize), other ? m_disabledIcon : m_icon);
     }
     CString text;
@@ -108,10 +108,10 @@ void CColorButton::DrawCaption(CDC & dc, CRect const & area, CString const & tex
     CSize const extent = dc.GetTextExtent(text);
     CPoint const origin = ButtonCaptionOrigin(area, extent, pressed);
     int const mode = dc.SetBkMode(TRANSPARENT);
-    COLORREF const color = dc.SetTextColor(look == ButtonLook::Disabled ? m_disabledFgColor
-                                           : look == ButtonLook::Hot    ? m_hotFgColor
+    COLORREF const color = dc.SetTextColor(look == ButtonLook::disabled ? m_disabledFgColor
+                                           : look == ButtonLook::hot    ? m_hotFgColor
                                                                         : m_fgColor);
-    if (look == ButtonLook::Disabled)
+    if (look == ButtonLook::disabled)
     {
         // Up to the edge: the grey text is made without smoothing, and may be wider than what was measured.
         CSize const room(std::max<LONG>(extent.cx, area.right - origin.x), extent.cy);

@@ -6,12 +6,13 @@
 #include "frame/Export.h"
 #include "frame/LifeWatch.h"
 
+/// The states that a button is drawn in.
+enum class ButtonLook;
+
 /// An owner-drawn push button with colours of its own, which looks different while the pointer is over it. Created
 /// directly, or put in the place of a dialog's button by subclassing. Icon and caption are both centred: with both, the
 /// text stands over the icon. No setter repaints, unless the button does so for a new icon. For the user-interface
 /// thread alone.
-enum class ButtonLook;
-
 class INSTRUMENT_UI_API CColorButton : public CButton, public CColorControl
 {
 public:

@@ -31,28 +31,38 @@ public:
     };
 
     CColorControl();
+    /// Shares brushes and pen with the other.
     CColorControl(CColorControl const & other);
+    /// Shares brushes and pen with the other.
     CColorControl & operator=(CColorControl const & other);
     virtual ~CColorControl();
 
     /// The colour of the table; black for an index outside of it.
     unsigned long RgbColor(Color_e color) const;
 
+    /// The colours of the normal and of the hot state.
     void SetColors(unsigned long fg, unsigned long bg, unsigned long hotFg, unsigned long hotBg);
     /// The hot colours as well.
     void SetColors(unsigned long fg, unsigned long bg);
+    /// From the table: the colours of the normal and of the hot state.
     void SetColors(Color_e fg, Color_e bg, Color_e hotFg, Color_e hotBg);
+    /// From the table, the hot colours as well.
     void SetColors(Color_e fg, Color_e bg);
+    /// The normal state's colour of texts.
     void SetFgColor(unsigned long color);
     void SetFgColor(Color_e color);
+    /// The normal state's background.
     void SetBgColor(unsigned long color);
     void SetBgColor(Color_e color);
     /// Also makes the hot pen and the brush of this colour. The colour as it is does nothing.
     void SetHotFgColor(unsigned long color);
     /// Also makes the brush of this colour. The colour as it is does nothing.
     void SetHotBgColor(unsigned long color);
+    /// The colours of the disabled state.
     void SetDisabledColors(unsigned long fg, unsigned long bg);
+    /// The disabled state's colour of texts.
     void SetDisabledFgColor(unsigned long color);
+    /// The disabled state's background.
     void SetDisabledBgColor(unsigned long color);
 
     /// The period in which a hot control looks whether the pointer has left; for the next time that it becomes hot.

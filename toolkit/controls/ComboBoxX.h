@@ -55,6 +55,7 @@ protected:
     /// Ends the tip with the window.
     void PostNcDestroy() override;
 
+    /// Before the list opens: fits its width where that is wanted.
     void OnDropdown();
     afx_msg void OnEditupdate();
     afx_msg void OnMouseMove(UINT flags, CPoint point);

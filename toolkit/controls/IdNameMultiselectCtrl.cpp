@@ -16,6 +16,9 @@ constexpr UINT select_none_id = 32804;
 constexpr UINT cancel_id = 32805;
 constexpr UINT ok_id = 32806;
 
+/// The strip of buttons has the same height on every screen.
+constexpr int largest_icon = 16;
+
 constexpr DWORD list_style = WS_CHILD | WS_VISIBLE | LVS_LIST | LVS_NOCOLUMNHEADER;
 constexpr DWORD shown_button = WS_CHILD | WS_VISIBLE | BS_ICON;
 constexpr DWORD hidden_button = WS_CHILD | BS_ICON;
@@ -232,11 +235,12 @@ void CIdNameMultiselectCtrl::RefreshSelection()
 void CIdNameMultiselectCtrl::RetrieveSelection()
 {
     m_selectionRetrieved = true;
-    if (m_theMap.empty())
-        m_theSelection.clear();
     Rows const rows(*this);
     if (!rows.IsThere())
+    {
+        m_theSelection.clear(); // nothing is ticked
         return;
+    }
     std::set<int> ids = id_name::TickedIds(rows, m_theMap.empty());
     if (rows.IsThere())
         m_theSelection.swap(ids);
@@ -324,7 +328,7 @@ public:
         if (!MayGoOn() || !button.Create(text, style, place, &m_control, id) || !MayGoOn())
             return;
         if (icon == nullptr)
-            icon = LoadSmallToolkitIcon(iconId);
+            icon = LoadSmallToolkitIcon(iconId, largest_icon);
         button.SetIcon(icon);
     }
     void MakeToolTip()
@@ -365,7 +369,7 @@ void CIdNameMultiselectCtrl::CreateControls(CRect & rect)
         return;
     CToolkitResourceExchange const exchange;
     if (m_emptyMapMessage.IsEmpty())
-        m_emptyMapMessage.LoadString(TOOLKIT_STRING_NO_ITEMS);
+        m_emptyMapMessage = LoadToolkitString(TOOLKIT_STRING_NO_ITEMS);
     id_name::Places const places = id_name::PlacesIn(rect, m_okCancel);
     bool const okCancel = m_okCancel;
     {

@@ -27,18 +27,24 @@ public:
     CIdNameMultiselectCtrl & operator=(CIdNameMultiselectCtrl const &) = delete;
     ~CIdNameMultiselectCtrl() override;
 
+    /// Replaces the items. Call RefreshContent to show them, here and after each change of them.
     void SetTheMap(std::map<int, CString> const & map);
     /// An id that is there already keeps its name.
     void AddItem(int id, CString const & name);
+    /// Takes all items away.
     void ResetTheMap();
+    /// The items: names by id.
     std::map<int, CString> const & TheMap() const;
     /// An empty text for an unknown id.
     CString const & GetName(int id) const;
 
+    /// The selected ids; -1 among them stands for all items.
     void SetSelection(std::set<int> const & ids);
     /// This id alone.
     void SetSelection(int id);
+    /// Selects all items.
     void SetSelectionAll();
+    /// Selects nothing.
     void SetSelectionNone();
     /// As it was read back last or set; the user's ticks count after RetrieveSelection, and OK does that.
     std::set<int> const & TheSelection() const;
@@ -71,6 +77,7 @@ public:
 protected:
     void PreSubclassWindow() override;
 
+    /// Makes list and buttons in that part of the client area. Does nothing once they are there.
     void CreateControls(CRect & rect);
     /// Enters one row. startIndex: where its group begins.
     void ItemEintragen(int id, wchar_t const * name, int startIndex);

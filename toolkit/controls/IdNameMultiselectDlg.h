@@ -13,6 +13,7 @@ class INSTRUMENT_UI_API CIdNameMultiselectDlg : public CDialogEx
     DECLARE_DYNAMIC(CIdNameMultiselectDlg)
 
 public:
+    /// parent: the owner of the drop-down; may be null.
     explicit CIdNameMultiselectDlg(CWnd * parent = nullptr);
 
     /// The toolkit's module is the current resource module while the dialog is open.

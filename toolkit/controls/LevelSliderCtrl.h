@@ -25,6 +25,7 @@ public:
     void SetSecondColor(unsigned long color);
 
 protected:
+    /// The colours of a new slider.
     void InitStandardColors();
     /// Paints both parts of the channel, about three times as thick as rect, which is changed. Takes the handle from
     /// the object dc, which is meant: the object is a temporary one.

@@ -3,14 +3,19 @@
 
 #include <afxwin.h>
 
+#include <algorithm>
+#include <climits>
+
 #include "frame/ToolkitResources.h"
 
-/// The icon of that id with the system's small icon size. The caller destroys it. Null if there is none.
-inline HICON LoadSmallToolkitIcon(UINT id)
+/// The icon of that id with the system's small icon size, or with `largest` pixels where that is more. The caller
+/// destroys it. Null if there is none.
+inline HICON LoadSmallToolkitIcon(UINT id, int largest = INT_MAX)
 {
     HICON const large = LoadToolkitIcon(id);
     if (large == nullptr)
         return nullptr;
-    return static_cast<HICON>(::CopyImage(large, IMAGE_ICON, ::GetSystemMetrics(SM_CXSMICON),
-                                          ::GetSystemMetrics(SM_CYSMICON), LR_COPYFROMRESOURCE));
+    int const width = std::min(::GetSystemMetrics(SM_CXSMICON), largest);
+    int const height = std::min(::GetSystemMetrics(SM_CYSMICON), largest);
+    return static_cast<HICON>(::CopyImage(large, IMAGE_ICON, width, height, LR_COPYFROMRESOURCE));
 }

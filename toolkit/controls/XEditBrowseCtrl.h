@@ -39,28 +39,39 @@ public:
     /// The same with a drop-down about twice as high.
     void PrepareLongIdNameBrowser();
 
+    /// The file name that the file dialog opens with; null or empty for none.
     void SetDefaultFilename(wchar_t const * name);
+    /// The caption of the file dialog.
     void SetDlgTitle(CString const & title);
     /// Adds OFN_ flags to those of the file dialog; there is no way to remove one.
     void SetAdditionalFileFlags(unsigned long flags);
+    /// The number that the parent is told with WM_XEDITBROWSE_COMPLETED.
     void SetNotifyTag(unsigned int tag);
     /// Opens the browser once the message loop is reached.
     void BrowseNow();
 
     // Items of the multiselect; see CIdNameMultiselectCtrl.
+    /// Takes all items away.
     void ResetTheMap();
+    /// An id that is there already keeps its name.
     void AddItem(int id, CString const & name);
+    /// Replaces the items.
     void SetTheMap(std::map<int, CString> const & map);
 
     // The selection, -1 in it being all items. Call UpdateSelectionText to show it.
+    /// The selected ids.
     void SetSelection(std::set<int> const & ids);
     /// This id alone.
     void SetSelection(int id);
+    /// Selects all items.
     void SetSelectionAll();
+    /// Selects nothing.
     void SetSelectionNone();
+    /// The selected ids.
     std::set<int> const & TheSelection() const;
     /// The last drop-down was accepted, and nobody has acknowledged it.
     bool SelectionChanged() const;
+    /// The change of the selection is known: SelectionChanged is false from now on.
     void SelectionAcknowledged();
     /// Shows the names of the selected items, as many as there is room for.
     void UpdateSelectionText();
@@ -69,7 +80,9 @@ public:
     void OnBrowse() override;
 
 protected:
+    /// Posts WM_XEDITBROWSE_COMPLETED to the parent, else to the owner.
     void NotifyParent(unsigned int tag, long value);
+    /// Opens the drop-down below the field and returns when it is closed.
     void ShowIdNameBrowser();
     void PostNcDestroy() override;
 

@@ -29,11 +29,11 @@ public:
     /// Ends the window, too.
     ~CXTreeCtrl() override;
 
-    // Insertion. A null parent is the top level. sortKey -1: at insertAfter (TVI_FIRST, TVI_LAST, TVI_SORT or an item);
-    // -65533, the value of TVI_SORT: sorted by text; any other: by sort keys, ahead of the first sibling with a greater
-    // one, whatever insertAfter says. At the top level the place is looked for among the children of the first
-    // top-level item, which is meant: all but TVI_FIRST and TVI_LAST is then the platform's matter. Null if the item
-    // could not be inserted, or the host has deleted it in the meantime. A null text counts as an empty one.
+    /// A null parent is the top level. sortKey -1: at insertAfter (TVI_FIRST, TVI_LAST, TVI_SORT or an item);
+    /// -65533, the value of TVI_SORT: sorted by text; any other: by sort keys, ahead of the first sibling with a
+    /// greater one, whatever insertAfter says. At the top level the place is looked for among the children of the first
+    /// top-level item, which is meant: all but TVI_FIRST and TVI_LAST is then the platform's matter. Null if the item
+    /// could not be inserted, or the host has deleted it in the meantime. A null text counts as an empty one.
     HTREEITEM InsertTreeItem(wchar_t const * text, HTREEITEM parent, HTREEITEM insertAfter, int sortKey);
     HTREEITEM InsertTreeItem(wchar_t const * text, int image, int selectedImage, HTREEITEM parent,
                              HTREEITEM insertAfter, int sortKey);
@@ -41,16 +41,22 @@ public:
                              HTREEITEM insertAfter, int sortKey);
 
     // Records.
+    /// The item's record; null without one.
     ItemData * GetItemData(HTREEITEM item);
     ItemData const * GetItemData(HTREEITEM item) const;
     /// Null if nothing is selected.
     ItemData * GetSelectedItemData();
+    /// The record's type; -1 without a record.
     int GetItemType(HTREEITEM item) const;
+    /// The record's id; -1 without a record.
     int GetItemId(HTREEITEM item) const;
     /// The record's own eight integers.
     int * GetItemClavis(HTREEITEM item);
+    /// The same, and the record's type and id.
     int * GetItemClavis(HTREEITEM item, int & type, int & id);
+    /// The record's pointer, which is not owned.
     void * GetItemDataPtr(HTREEITEM item) const;
+    /// Sets the record's pointer, which is not owned.
     void SetItemDataPtr(HTREEITEM item, void * ptr);
     /// With a key its six integers are copied and the last two become -1; null leaves the key.
     void SetItemData(HTREEITEM item, int type, int id, int const * clavis);
@@ -60,6 +66,7 @@ public:
     void SetItemData8(HTREEITEM item, int type, int id, int const * clavis);
     /// Six integers; the last two stay.
     void SetItemClavis(HTREEITEM item, int const * clavis);
+    /// All eight integers of the key.
     void SetItemClavis8(HTREEITEM item, int const * clavis);
 
     // Search. Keys are read as eight integers. exact: all must be equal, -1 being a value like any other, and only a
@@ -67,11 +74,14 @@ public:
     // deletes what it stands on.
     /// The label must equal the text as well, if there is one.
     bool ItemDataMatch(HTREEITEM item, int type, int id, int const * clavis, wchar_t const * text, bool exact) const;
+    /// ItemDataMatch where -1 fits all, without a text.
     bool ItemDataMatchBest(HTREEITEM item, int type, int id, int const * clavis) const;
+    /// ItemDataMatch where all must be equal, without a text.
     bool ItemDataMatchExact(HTREEITEM item, int type, int id, int const * clavis) const;
     /// The first hit at start, its later siblings and below them, each item before its children. TVI_ROOT: the first
     /// item of the top level.
     HTREEITEM FindItem(int type, int id, int const * clavis, HTREEITEM start, bool exact);
+    /// The same, where the label must equal the text as well, if there is one.
     HTREEITEM FindItem(int type, int id, int const * clavis, wchar_t const * text, HTREEITEM start, bool exact);
     /// The first hit among the parent's children alone. TVI_ROOT stands for the first item of the top level, which
     /// itself is not looked at, as is meant.
@@ -86,6 +96,7 @@ public:
     // Structure.
     /// With all below it. Each record is looked for among all in use.
     void DeleteTreeItem(HTREEITEM item);
+    /// All below it; the item itself stays.
     void DeleteAllSubItems(HTREEITEM item);
     /// All at once, in little time.
     void ResetContent();
@@ -98,8 +109,11 @@ public:
     // click is reported only.
     /// Replaces all bits, 64 included.
     void DontAbsorbKeys(unsigned int flags);
+    /// All classes pass.
     void DontAbsorbAnyKeys();
+    /// Function keys, digits, letters and arrows pass.
     void DontAbsorbNormalKeys();
+    /// Function keys and arrows pass, with space that as well.
     void DontAbsorbControlKeys(bool space);
     /// A double click is reported, but opens and closes nothing.
     void DontHandleDoubleclick();
@@ -108,8 +122,11 @@ public:
 
 protected:
     // The base's, which know no records.
+    /// The base's, which knows no records.
     int DeleteAllItems();
+    /// The base's, which knows no records.
     int DeleteItem(HTREEITEM item);
+    /// The base's, which knows no records.
     HTREEITEM InsertItem(wchar_t const * text, HTREEITEM parent, HTREEITEM insertAfter);
     HTREEITEM InsertItem(wchar_t const * text, int image, int selectedImage, HTREEITEM parent, HTREEITEM insertAfter);
 
@@ -119,7 +136,9 @@ protected:
     void AllesInDenVorrat();
     /// An insertion position by sort key: TVI_FIRST, TVI_LAST or an item.
     HTREEITEM FindSortPosition(HTREEITEM parent, int sortKey);
+    /// Opens item and all below it down to depth, where item is at level; closes what lies deeper.
     void ExpandTreeR(HTREEITEM item, int level, int depth);
+    /// The first hit at item and below it.
     HTREEITEM FindItemRecursion(HTREEITEM item, int type, int id, int const * clavis, wchar_t const * text, bool exact);
 
     LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;

@@ -18,23 +18,6 @@ enum KeyClass : unsigned int
     every_key = 255
 };
 
-// Virtual keys.
-constexpr unsigned int key_back = 8;
-constexpr unsigned int key_tab = 9;
-constexpr unsigned int key_clear = 12;
-constexpr unsigned int key_return = 13;
-constexpr unsigned int key_shift = 16;
-constexpr unsigned int key_control = 17;
-constexpr unsigned int key_capital = 20;
-constexpr unsigned int key_space = 32;
-constexpr unsigned int key_prior = 33;
-constexpr unsigned int key_down = 40;
-constexpr unsigned int key_delete = 46;
-constexpr unsigned int key_numpad_0 = 96;
-constexpr unsigned int key_numpad_9 = 105;
-constexpr unsigned int key_f2 = 113;
-constexpr unsigned int key_f12 = 123;
-
 bool IsWithin(unsigned int key, unsigned int first, unsigned int last)
 {
     return key >= first && key <= last;
@@ -42,25 +25,25 @@ bool IsWithin(unsigned int key, unsigned int first, unsigned int last)
 
 unsigned int ClassesOf(unsigned int key)
 {
-    if (IsWithin(key, key_f2, key_f12))
+    if (IsWithin(key, VK_F2, VK_F12))
         return function_keys;
-    if (IsWithin(key, '0', '9') || IsWithin(key, key_numpad_0, key_numpad_9))
+    if (IsWithin(key, '0', '9') || IsWithin(key, VK_NUMPAD0, VK_NUMPAD9))
         return digits;
     if (IsWithin(key, 'A', 'Z'))
         return letters;
-    if (IsWithin(key, key_prior, key_down) || key == key_clear)
+    if (IsWithin(key, VK_PRIOR, VK_DOWN) || key == VK_CLEAR)
         return navigation_keys;
     switch (key)
     {
-    case key_space:
+    case VK_SPACE:
         return control_keys | space;
-    case key_delete:
-    case key_back:
-    case key_tab:
-    case key_return:
-    case key_shift:
-    case key_control:
-    case key_capital:
+    case VK_DELETE:
+    case VK_BACK:
+    case VK_TAB:
+    case VK_RETURN:
+    case VK_SHIFT:
+    case VK_CONTROL:
+    case VK_CAPITAL:
         return control_keys;
     default:
         return 0;

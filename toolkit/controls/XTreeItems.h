@@ -15,12 +15,14 @@
 /// The record of one tree item.
 struct XTreeItemData
 {
+    /// Integers of a key.
     static constexpr int clavis_length = 8;
     /// So many integers of the key are copied by the operations that name no number.
     static constexpr int short_clavis_length = 6;
 
     /// The caller's.
     int type = -1;
+    /// The caller's.
     int id = -1;
     /// The key. -1 in every place if it was never set.
     int clavis[clavis_length] = {-1, -1, -1, -1, -1, -1, -1, -1};
@@ -32,6 +34,7 @@ struct XTreeItemData
 
 namespace xtree
 {
+/// Records in use, or in the stock of the control that owns them.
 using Records = std::list<XTreeItemData *>;
 
 /// A record with all defaults, but in a used one the sort key of before. It comes from the stock if that has one, and
@@ -41,6 +44,7 @@ INSTRUMENT_UI_API XTreeItemData * TakeRecord(Records & inUse, Records & stock);
 INSTRUMENT_UI_API void ReturnRecord(Records & inUse, Records & stock, XTreeItemData const * record);
 /// Moves all at once.
 INSTRUMENT_UI_API void ReturnAllRecords(Records & inUse, Records & stock);
+/// Frees all.
 INSTRUMENT_UI_API void FreeRecords(Records & stock);
 
 /// Whether the record fits, where -1 fits all, in each place of the key too, and so does a key of null. False without
@@ -55,12 +59,14 @@ INSTRUMENT_UI_API bool PassesKey(unsigned int keyFlags, unsigned int key);
 /// Where a new child belongs by its sort key. Children with the same key stay in order of arrival.
 template <class Item> struct Position
 {
+    /// Where among the children.
     enum class Place
     {
         first,
         last,
         behind
     };
+    /// Where the new child goes.
     Place place = Place::last;
     /// With `behind` alone.
     Item item{};
@@ -71,6 +77,7 @@ template <class Item> struct Position
 template <class Tree> Position<typename Tree::Item> FindSortPosition(Tree & tree, typename Tree::Item parent,
                                                                      typename Tree::Item root, int sortKey)
 {
+    /// An item of the tree.
     using Item = typename Tree::Item;
     using Found = Position<Item>;
     if (parent == Item{})
@@ -93,6 +100,7 @@ template <class Tree> Position<typename Tree::Item> FindSortPosition(Tree & tree
 template <class Tree> class Walk
 {
 public:
+    /// An item of the tree.
     using Item = typename Tree::Item;
 
     /// withLaterSiblings: goes on to the siblings behind `start` and all below them.
@@ -106,6 +114,7 @@ public:
     Item Current() const { return m_path.empty() ? Item{} : m_path.back(); }
     /// 0 for start and its siblings.
     int Level() const { return static_cast<int>(m_path.size()) - 1; }
+    /// Goes on to the next item in the order of the display.
     void Advance()
     {
         if (m_path.empty())

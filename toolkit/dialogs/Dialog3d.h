@@ -95,10 +95,12 @@ public:
 
     /// Sets the caption, and until the first opening the genuine title as well.
     void SetDialogTitle(CString const & title);
+    /// The caption.
     CString const & GetDialogTitle() const;
     /// Sets the name under which the position is stored. From the first opening on it is fixed: false, nothing changed.
     /// A dialog without one takes its template's caption when it first opens.
     bool SetGenuineTitle(CString const & title);
+    /// The name under which the position is stored.
     CString const & GetGenuineTitle() const;
 
     /// Chooses the icon, which shows at the next opening; an unknown one gives the standard icon.
@@ -122,10 +124,12 @@ public:
     /// In pane-child mode the dialog is a child in a pane: it remembers no position, has no grip and always follows its
     /// size. Set it before the window is created, and enter ON_WM_CREATE() in the derived class's message map.
     void SetPaneChildMode(bool paneChild);
+    /// Whether the dialog is a child in a pane.
     bool GetPaneChildMode() const;
 
     /// See g_touchFreeze.
     static void SetTouchFreeze(bool freeze);
+    /// See g_touchFreeze.
     static bool IsInTouchFreeze();
 
     /// Dispatches the queued paint messages; before them, with withUserMessage, those of the host's own message
@@ -138,6 +142,7 @@ public:
     /// The key groups (KeyGroups.h) that the dialog leaves to the application's frames and accelerators; 255 alone
     /// stands for every key. At first it leaves the function keys from F2.
     void DontAbsorbKeys(unsigned int mask);
+    /// Leaves every key.
     void DontAbsorbAnyKeys();
     /// Leaves function keys, digits, letters and navigation.
     void DontAbsorbNormalKeys();
@@ -166,12 +171,14 @@ protected:
     void D3dLayoutComplete(CDialogResizer::resize_dims_t dims);
     /// The control's rectangle in the dialog's client coordinates. The control must exist.
     void ClientCoordinates(int id, CRect & rect);
+    /// Enables or greys the system menu's close command, and the button with it.
     void EnableCloseButton(bool enable);
     /// The largest id of the dialog's controls; at least 0.
     int GetMaxID();
 
     /// Exchanges a number with the text of a combo box. Text that is no number leaves the value as it was.
     void DDX_CBInt(CDataExchange * pDX, int id, int & value);
+    /// The same with a floating number.
     void DDX_CBFloat(CDataExchange * pDX, int id, float & value);
 
     /// Shows the menu at that place on the screen and returns when it is closed. The chosen entry's callback runs when

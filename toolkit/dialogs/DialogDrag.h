@@ -6,6 +6,7 @@
 
 #include "frame/Export.h"
 
+/// One window's drag: where the window goes while the mouse moves.
 class INSTRUMENT_UI_API CDialogDrag
 {
 public:
@@ -14,7 +15,9 @@ public:
     /// Whether a press with those mouse flags (MK_ values) starts a drag. frozen: the windows must stay where they are.
     bool StartsWith(unsigned int mouseFlags, bool frozen) const;
 
+    /// Starts a drag with the mouse at that place; window: its rectangle then.
     void Start(CPoint mouse, CRect const & window);
+    /// Whether a drag runs.
     bool Runs() const { return m_runs; }
     /// The window's new left top corner. Only while a drag runs.
     CPoint MoveTo(CPoint mouse);

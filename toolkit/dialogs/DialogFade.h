@@ -11,10 +11,12 @@
 class INSTRUMENT_UI_API CDialogFade
 {
 public:
+    /// The alpha of a window that nothing shines through.
     static constexpr int opaque = 255;
     /// Milliseconds between two ticks.
     static constexpr int tick_period = 25;
 
+    /// The present alpha.
     std::uint8_t Alpha() const { return m_alpha; }
     /// Sets the present alpha. A fade that runs goes on from there toward its old target, which is meant.
     void SetAlpha(std::uint8_t alpha) { m_alpha = alpha; }
@@ -31,7 +33,9 @@ public:
     /// end. So the ticks end one after the target is reached.
     std::optional<std::uint8_t> Tick();
 
+    /// Where the last fade goes.
     int Target() const { return m_target; }
+    /// Alpha a tick; 0 while no fade runs.
     int Step() const { return m_step; }
 
 private:

@@ -9,6 +9,7 @@ namespace KeyGroups
 constexpr unsigned int function_keys = 1;
 /// The digit row and the number pad's digits.
 constexpr unsigned int digits = 2;
+/// A to Z.
 constexpr unsigned int letters = 4;
 /// Delete, Backspace, Tab, Return, Shift, Control, Space, Caps Lock.
 constexpr unsigned int editing = 8;

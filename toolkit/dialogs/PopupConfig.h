@@ -23,7 +23,9 @@ public:
     /// callback: called once the entry is chosen.
     CPopupConfigEntry(CString const & text, std::function<void()> const & callback);
 
+    /// The text; empty for a separator.
     CString const & Text() const;
+    /// What is called once the entry is chosen.
     std::function<void()> const & Callback() const;
     /// The command id that the shown popup gave the entry; -1 before.
     int ID() const;
@@ -46,11 +48,16 @@ public:
     /// Adds at the end.
     void Add(CPopupConfigEntry entry) { m_entries.push_back(std::move(entry)); }
     void Add(CString const & text, std::function<void()> const & callback) { m_entries.emplace_back(text, callback); }
+    /// Adds a line at the end.
     void AddSeparator() { m_entries.emplace_back(CString(), std::function<void()>()); }
 
+    /// The number of entries, lines included.
     std::size_t size() const { return m_entries.size(); }
+    /// Whether there are no entries.
     bool empty() const { return m_entries.empty(); }
+    /// The entries in their order.
     auto begin() const { return m_entries.begin(); }
+    /// Behind the last entry.
     auto end() const { return m_entries.end(); }
 
     /// Gives every entry, separators too, a command id: the numbers that follow `last`.

@@ -48,9 +48,11 @@ public:
     virtual CVeskEntry * CreateEntry(wchar_t const * key, int kind) = 0;
     /// Stores the value, making the key if needed.
     virtual lookup::result LookupSetBool(wchar_t const * key, bool value, std::size_t index) = 0;
+    /// Stores the value, making the key if needed.
     virtual lookup::result LookupSetInt(wchar_t const * key, int value, std::size_t index) = 0;
     /// The stored value, or the fallback where there is none.
     virtual bool LookupGetBool(wchar_t const * key, std::size_t index, bool fallback) = 0;
+    /// The stored value, or the fallback where there is none.
     virtual int LookupGetInt(wchar_t const * key, std::size_t index, int fallback) = 0;
     /// Removes the key with all its indices. Non-zero on success, 0 for a key without a value.
     virtual int Delete(wchar_t const * key) = 0;

@@ -9,7 +9,7 @@ unsigned int const WM_XLISTCTRL_COLUMNCLICK = RegisterWindowMessageW(L"WM_XLISTC
 unsigned int const WM_XLISTCTRL_COMBO_SELECTION = RegisterWindowMessageW(L"WM_XLISTCTRL_COMBO_SELECTION");
 unsigned int const WM_XLISTCTRL_EDIT_END = RegisterWindowMessageW(L"WM_XLISTCTRL_EDIT_END");
 unsigned int const WM_XLISTCTRL_ITEM_DBLCLICKED = RegisterWindowMessageW(L"WM_XLISTCTRL_ITEM_DBLCLICKED");
-// The different name is meant.
+// Not the name of its constant, but the one that hosts register.
 unsigned int const WM_XLISTCTRL_LINK_CLICKED = RegisterWindowMessageW(L"WM_XLISTCTRL_PUSHBUTTON");
 unsigned int const WM_XTREECTRL_DBLCLK = RegisterWindowMessageW(L"WM_XTREECTRL_DBLCLK");
 

@@ -27,5 +27,5 @@ HICON LoadToolkitIcon(UINT id);
 /// The menu of that id, or null. The caller owns it (DestroyMenu, or CMenu::Attach).
 HMENU LoadToolkitMenu(UINT id);
 
-/// The text of that id in the language in force, or an empty string.
+/// The text of that id in the language in force, in another one where that lacks it, or an empty string.
 CString LoadToolkitString(UINT id);

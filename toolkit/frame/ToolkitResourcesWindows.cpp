@@ -30,5 +30,9 @@ CString LoadToolkitString(UINT id)
 {
     CToolkitResourceExchange const exchange;
     CString text;
-    return text.LoadString(id) ? text : CString();
+    if (text.LoadString(id))
+        return text;
+    // The system looks for a block of sixteen texts in the order of languages, and not for each of them.
+    return text.LoadString(g_toolkitModule.hModule, id, MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_US)) ? text
+                                                                                                      : CString();
 }

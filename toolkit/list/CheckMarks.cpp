@@ -1,22 +1,9 @@
 #include "list/CheckMarks.h"
 
+#include "frame/GraphicsScopes.h"
+
 namespace
 {
-/// Selects a pen of its own for the length of a scope.
-class PenScope
-{
-public:
-    PenScope(CDC & dc, COLORREF color) : m_dc(dc), m_pen(PS_SOLID, 1, color), m_former(dc.SelectObject(&m_pen)) {}
-    ~PenScope() { m_dc.SelectObject(m_former); }
-    PenScope(PenScope const &) = delete;
-    PenScope & operator=(PenScope const &) = delete;
-
-private:
-    CDC & m_dc;
-    CPen m_pen;
-    CPen * m_former;
-};
-
 /// The end point itself is not drawn.
 void DrawLine(CDC & dc, int fromX, int fromY, int toX, int toY)
 {

@@ -20,6 +20,7 @@ public:
     void SetList(CXListCtrl * list) { m_list = list; }
     /// A DrawText alignment flag for every title; all bits set: each column's own format.
     void SetAlignment(unsigned int alignment) { m_alignment = alignment; }
+    /// The colour of the titles. Does not repaint.
     void SetTextColor(COLORREF color) { m_textColor = color; }
     /// Item images come from the header's image list instead of the built-in marks.
     void SetUseImageList(bool use) { m_useImageList = use; }
@@ -34,11 +35,13 @@ public:
     virtual void DrawHeaderItem(CDC * dc, CRect rect, LPHDITEM item);
 
 protected:
+    /// Draws background, edges and all items.
     void PaintHeader(CDC * dc);
     /// The mark or image at the left of the rectangle; the width used, 0 if there is none.
     int DrawItemImage(CDC * dc, CRect rect, LPHDITEM item, bool right);
     /// The bitmap at the right of the rectangle; the width used.
     int DrawItemBitmap(CDC * dc, CRect rect, LPHDITEM item, CSize size);
+    /// The title in what is left of the rectangle.
     void DrawItemText(CDC * dc, CRect rect, LPHDITEM item);
 
     afx_msg BOOL OnEraseBkgnd(CDC * dc);

@@ -1,5 +1,6 @@
 #include "list/XHeaderCtrl.h"
 
+#include "frame/GraphicsScopes.h"
 #include "list/CheckMarks.h"
 #include "list/XListCtrlData.h"
 
@@ -13,33 +14,6 @@ constexpr int mixed_inset = 3;
 constexpr COLORREF mixed_color = RGB(90, 192, 90);
 constexpr int arrow_head = 5;
 constexpr int arrow_shaft_inset = 3;
-
-/// Selects an object for as long as it lives.
-class Selection
-{
-public:
-    /// Nothing is selected for a null object.
-    Selection(CDC & dc, HGDIOBJ object)
-        : m_dc(dc),
-          m_previous(object != nullptr ? ::SelectObject(dc.m_hDC, object) : nullptr)
-    {
-    }
-    ~Selection()
-    {
-        if (m_previous != nullptr)
-        {
-            ::SelectObject(m_dc.m_hDC, m_previous);
-        }
-    }
-    Selection(Selection const &) = delete;
-    Selection & operator=(Selection const &) = delete;
-
-    void Change(HGDIOBJ object) { ::SelectObject(m_dc.m_hDC, object); }
-
-private:
-    CDC & m_dc;
-    HGDIOBJ m_previous;
-};
 
 void DrawVerticalLine(CDC & dc, int x, int top, int bottom)
 {
@@ -70,8 +44,7 @@ void DrawArrowOutline(CDC & dc, CRect const & rect, bool down, COLORREF color)
                           {right, head},    {shaftRight, head}, {shaftRight, end}, {shaftLeft, end}};
     POINT pointsUp[] = {{left, head},       {shaftLeft, head}, {shaftLeft, end}, {shaftRight, end},
                         {shaftRight, head}, {right, head},     {middle, tip},    {left, head}};
-    CPen pen(PS_SOLID, 1, color);
-    Selection const selection(dc, pen);
+    PenScope const pen(dc, color);
     dc.Polyline(down ? pointsDown : pointsUp, 8);
 }
 } // namespace
@@ -90,8 +63,8 @@ void CXHeaderCtrl::PaintHeader(CDC * dc)
     CPen highlight(PS_SOLID, 1, m_colorHighlight);
     CPen shadow(PS_SOLID, 1, m_colorShadow);
     CFont * const font = GetFont();
-    Selection const fontSelection(*dc, font != nullptr ? font->GetSafeHandle() : nullptr);
-    Selection pen(*dc, highlight);
+    SelectScope const fontSelection(*dc, font != nullptr ? font->GetSafeHandle() : nullptr);
+    SelectScope pen(*dc, highlight);
     dc->SetBkColor(m_colorFace);
     dc->SetTextColor(m_colorText);
 
@@ -193,9 +166,8 @@ int CXHeaderCtrl::DrawItemImage(CDC * dc, CRect rect, LPHDITEM item, bool right)
         int const width = m_imageWidth < rect.Width() ? m_imageWidth : rect.Width();
         int const height = m_imageHeight < rect.Height() ? m_imageHeight : rect.Height();
         CPoint const position(right ? rect.right - width : rect.left, rect.CenterPoint().y - (m_imageHeight + 1) / 2);
-        COLORREF const background = images->SetBkColor(dc->GetBkColor());
+        ImageBackgroundScope const background(*images, dc->GetBkColor());
         images->DrawIndirect(dc, state, position, CSize(width, height), CPoint(0, 0));
-        images->SetBkColor(background);
         return m_imageWidth;
     }
 
@@ -254,7 +226,7 @@ int CXHeaderCtrl::DrawItemBitmap(CDC * dc, CRect rect, LPHDITEM item, CSize size
     {
         return 0;
     }
-    Selection const selection(memory, item->hbm);
+    SelectScope const selection(memory, item->hbm);
     BOOL const copied =
         dc->BitBlt(rect.right - size.cx, rect.CenterPoint().y - size.cy / 2, size.cx, size.cy, &memory, 0, 0, SRCCOPY);
     return copied ? size.cx : 0;

@@ -9,7 +9,9 @@
 /// the first to give it back.
 struct CColumnFitMemory
 {
+    /// Goes over the columns in turns.
     CStepCounter counter;
+    /// Whether columns grew when a pixel was given or taken last.
     bool lastGrew = true;
 };
 

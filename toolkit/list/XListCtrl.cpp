@@ -3,14 +3,13 @@
 #include "frame/InternalMessages.h"
 #include "frame/ToolkitResources.h"
 #include "list/XListCtrlHold.h"
-#include "list/XListInput.h"
 #include "resources/resource_ids.h"
 
+#include <memory>
 #include <utility>
 
 namespace
 {
-constexpr std::size_t first_pool_capacity = 16;
 constexpr UINT last_tool_id = 0xFFFF;
 } // namespace
 
@@ -44,7 +43,13 @@ BEGIN_MESSAGE_MAP(CXListCtrl, CListCtrl)
 END_MESSAGE_MAP()
 // clang-format on
 
-CXListCtrl::CXListCtrl() : m_rowPool(first_pool_capacity)
+CXListCtrl::CXListCtrl()
+    : m_sort(std::make_unique<SortState>()),
+      m_rows(std::make_unique<RowState>(*this)),
+      m_fit(std::make_unique<FitState>()),
+      m_editors(std::make_unique<EditorState>()),
+      m_paint(std::make_unique<PaintState>()),
+      m_drag(std::make_unique<DragState>())
 {
     GetColors();
 }
@@ -60,11 +65,11 @@ CXListCtrl::~CXListCtrl()
 void CXListCtrl::PreSubclassWindow()
 {
     CListCtrl::PreSubclassWindow();
-    ForgetRow();
-    m_rowsInStep = GetItemCount() == 0;
+    m_rows->model.memory.Forget();
+    m_rows->model.memory.SetInStep(GetItemCount() == 0);
     // Left from rows that a host inserted into a former window while it ended.
-    if (m_rowsInStep)
-        m_rowPool.GiveBackAll();
+    if (m_rows->model.memory.IsInStep())
+        m_rows->model.pool.GiveBackAll();
     SetExtendedStyle(GetExtendedStyle() | LVS_EX_FULLROWSELECT);
     if (m_itemToolTips)
     {
@@ -107,8 +112,8 @@ void CXListCtrl::OnDestroy()
 {
     EndDragImage();
     EndEditors();
-    m_rowPool.GiveBackAll();
-    m_rowsInStep = false;
+    m_rows->model.pool.GiveBackAll();
+    m_rows->model.memory.LoseStep();
     m_headerSubclassed = false;
     CListCtrl::OnDestroy();
 }
@@ -237,19 +242,4 @@ void CXListCtrl::SetHeaderRemoveAllMarks()
     Watch const watch(*this);
     for (int col = 0; watch.IsAlive() && col < m_columnCount; ++col)
         SetHeaderCheckedState(col, XHC_NONE);
-}
-
-void CXListCtrl::UpdateHeaderFromCells(int col)
-{
-    if (!m_headerAutoCheckbox || !HeaderFollowsCells(GetHeaderCheckedState(col)))
-        return;
-    auto const rows = static_cast<unsigned long long>(RowCount());
-    unsigned long long counts[XLC_CROSSED + 1] = {};
-    VisitRows([index = static_cast<unsigned int>(col), &counts](XLISTCTRLROW const & row) {
-        int const state = index < row.capacity() ? row.cells()[index].checkedState : XLC_NONE;
-        if (state >= XLC_UNCHECKED && state <= XLC_CROSSED)
-            ++counts[state];
-    });
-    SetHeaderCheckedState(col,
-                          HeaderStateOfCells(rows, counts[XLC_UNCHECKED], counts[XLC_CHECKED], counts[XLC_CROSSED]));
 }

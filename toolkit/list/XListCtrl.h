@@ -11,18 +11,14 @@
 #include <vector>
 
 #include "frame/Export.h"
-#include "frame/LifeWatch.h"
 #include "list/XHeaderCtrl.h"
-#include "list/XListColumnFit.h"
+#include "list/XListCellKind.h"
 #include "list/XListCtrlData.h"
-#include "list/XListRowPool.h"
 
-namespace XListCtrl
-{
-class CXCombo;
-class CXEdit;
-} // namespace XListCtrl
+class CellText;
 class CListRowOrder;
+class XLISTCTRLROW;
+struct CellPaint;
 
 /// A report list whose every cell is a small typed object: text, number, date, check box, radio button, in-place edit,
 /// combo box, hyperlink, progress bar or custom-drawn area.
@@ -62,6 +58,7 @@ public:
     int AddColumn(wchar_t const * title, int format, int width);
     /// One less than the index at which the column landed, which is meant; -1 without a header.
     int InsertColumn(int col, wchar_t const * title, int format, int width, int subItem);
+    /// Columns that cells can stand in.
     int GetColumnCount() const;
     /// Deletes all rows as well.
     void DeleteAllColumns();
@@ -82,19 +79,24 @@ public:
     int AddItem(wchar_t const * text, void const * ptr, long long data);
     /// lParam becomes the row's pointer word. A negative iItem gives -1.
     int InsertItem(LVITEMW const * item);
+    /// Non-zero on success.
     int DeleteItem(int row);
+    /// Deletes all rows, the columns stay. Non-zero on success.
     int DeleteAllItems();
     /// While on, no operation repaints its cell; the model changes at once all the same. Switching it off repaints all.
     void SetBatchInsertMode(bool on);
     /// Enables every cell and the window itself.
     void EnableAll(bool enable);
+    /// The opposite of EnableAll.
     void DisableAll(bool disable);
 
     // --- Selection ---
 
     /// The next selected row behind that one, -1 for the first; -1 if there is none.
     int GetCurSel(int after) const;
+    /// The first selected row; -1 if there is none.
     int GetSelectedItem() const;
+    /// The same as GetCurSel.
     int GetSelectedItemAfter(int row) const;
     /// Selects and focuses the row; a negative row clears as SetNoSelection does.
     bool SetCurSel(int row, bool ensureVisible);
@@ -117,10 +119,12 @@ public:
     /// iImage becomes the cell's image, also where the structure doesn't ask for one, which is meant. 1 on success, -1
     /// for a negative iItem, else 0.
     int SetItem(LVITEMW const * item);
+    /// image: of the small image list; -1 for none.
     bool SetItemImage(int row, int col, int image);
 
     // --- Kinds of cell ---
 
+    /// A click opens the in-place edit; off: the cell becomes a plain text.
     bool SetEdit(int row, int col, bool on);
     /// setColor: the text becomes blue, or black again.
     bool SetHyperlink(int row, int col, bool on, bool setColor);
@@ -128,11 +132,19 @@ public:
     bool SetProgress(int row, int col, bool showText, wchar_t const * format);
     /// value is in percent, from 0 on, without an upper limit; displayValue is what the cell's own format is given.
     void UpdateProgress(int row, int col, int value, int displayValue);
+    /// The cell becomes a plain text.
     void DeleteProgress(int row, int col);
+    /// painter draws the cell from now on: row, column, device context, the cell's rectangle.
     bool SetCustomDraw(int row, int col, std::function<void(int, int, CDC *, CRect const &)> painter);
+    /// Repaints the cell.
     void UpdateCustomDraw(int row, int col);
     /// Does not repaint.
     void RemoveCustomDraw(int row, int col);
+    /// Gives the cell a kind of the host's own, beside whatever it is; null takes it away. It stays with the row
+    /// wherever that goes, and ends with it. The record is left alone.
+    bool SetCellKind(int row, int col, std::shared_ptr<CXListCellKind> kind);
+    /// Null for a cell without one.
+    std::shared_ptr<CXListCellKind> GetCellKind(int row, int col) const;
     /// Keeps the pointers, not the texts, which must outlive the cell's use of them. Without entries the cell is plain.
     bool SetComboBox(int row, int col, std::map<int, wchar_t const *> const & strings, int selectedId, int defaultId);
     /// strings may be null; else it must outlive the cell unchanged.
@@ -144,19 +156,25 @@ public:
     /// An unknown id selects the default id and empties the text shown, which is meant.
     bool SetComboSelection(int row, int col, int id);
     bool SetComboSelection(int row, int col, CString const & text);
+    /// The selected id; -1 if there is none.
     int GetComboCurSel(int row, int col) const;
+    /// The text shown.
     CString GetComboText(int row, int col);
 
     // --- The list's shared combo strings ---
 
+    /// Empties the table. Cells keep pointers to its texts: fill them anew.
     void GlobalComboStringsReset();
     /// An id that is there keeps its text.
     void GlobalComboStringsInsert(int id, CString const & text);
+    /// The lowest id with that text, or the fallback.
     int GlobalComboStringsGetId(CString const & text, int fallback) const;
+    /// An empty text for an unknown id. Valid until the table is emptied.
     wchar_t const * GlobalComboStringsGetText(int id) const;
 
     // --- The native list's own forms of names that this class has as well ---
-    // A row or column that they insert is the native list's alone: such a row has no cells.
+    // A row that they insert is the native list's alone, and has no cells. Columns that the native list is told to
+    // insert or delete past this class are counted, and cells move as texts do: the first column takes none with it.
 
     using CListCtrl::GetItem;
     using CListCtrl::InsertColumn;
@@ -165,6 +183,7 @@ public:
 
     // --- Access to cells ---
 
+    /// Whether there are such a row and such a column.
     bool IsValidItem(int row, int col) const;
     /// The row's first cell; null if there is no such row, or none with cells.
     XLISTCTRLDATA * GetRowData(int row);
@@ -177,6 +196,7 @@ public:
 
     // --- Row words and keys; none of the writers repaints ---
 
+    /// Sets the row's word; a number of 32 bits keeps its value.
     bool SetItemData(int row, long long data);
     bool SetItemData(int row, int data);
     bool SetItemData(int row, unsigned int data);
@@ -184,19 +204,25 @@ public:
     bool SetItemData(int row, unsigned long data);
     /// All 64 bits as they are.
     bool SetItemData(int row, unsigned long long data);
+    /// The two halves of the word.
     bool SetItemData(int row, int low, int high);
+    /// The whole word.
     long long GetItemData64(int row) const;
     /// The low 32 bits.
     int GetItemData(int row) const;
     /// The high 32 bits.
     int GetItemData2(int row) const;
+    /// Sets the row's pointer, which is not owned.
     bool SetItemDataPtr(int row, void const * ptr);
+    /// The row's pointer.
     void * GetItemDataPtr(int row) const;
     /// Eight numbers.
     bool SetItemIdx8(int row, int const * key);
+    /// Copies the eight numbers to key; false for a null key.
     bool GetItemIdx8(int row, int * key) const;
     /// The first six of the eight.
     bool SetItemClavis(int row, int const * key);
+    /// Copies the first six of the eight to key; false for a null key.
     bool GetItemClavis(int row, int * key) const;
     /// The first row from the top; -1 if there is none.
     int FindDataItem(long long data) const;
@@ -206,14 +232,18 @@ public:
     int FindDataItem(unsigned long data) const;
     /// All 64 bits as they are.
     int FindDataItem(unsigned long long data) const;
+    /// The first row from the top with that pointer; -1 if there is none.
     int FindDataItemPtr(void const * ptr) const;
+    /// The first row from the top with those six numbers; -1 if there is none or key is null.
     int FindDataItemClavis(int const * key) const;
     /// The low 32 bits of the selected row's word, with their sign.
     long long GetSelectedItemData(long long fallback) const;
+    /// The pointer of the selected row; null if none is selected.
     void * GetSelectedItemDataPtr() const;
 
     // --- Properties (the XLP_ bits) ---
 
+    /// Sets or clears all of the bits.
     void SetItemProperty(int row, int col, unsigned int bits, bool on);
     /// True if any of the bits is set.
     bool GetItemProperty(int row, int col, unsigned int bits) const;
@@ -221,18 +251,27 @@ public:
     void SetRowProperty(int row, unsigned int bits, bool on);
     /// Always true.
     bool SetBold(int row, int col, bool bold);
+    /// Whether the text is bold.
     bool GetBold(int row, int col) const;
+    /// Marks the cell as changed by the user, or not.
     void SetModified(int row, int col, bool modified);
+    /// Whether the cell is marked as changed by the user.
     bool GetModified(int row, int col) const;
+    /// Enables or disables the cell.
     bool SetEnabled(int row, int col, bool enabled);
+    /// Enables or disables every cell of the row.
     bool SetEnabled(int row, bool enabled);
+    /// Whether the cell is enabled.
     bool GetEnabled(int row, int col) const;
     /// True as soon as one cell of the row is enabled.
     bool GetEnabled(int row) const;
     /// An XLV_ type; does not repaint.
     void SetItemValueType(int row, int col, unsigned int type);
+    /// An XLV_ type.
     unsigned int GetItemValueType(int row, int col);
+    /// The colours of every cell of the row.
     void SetRowColors(int row, COLORREF text, COLORREF background);
+    /// gradient is the colour of the wash over the cell; XLISTCTRLDATA::no_gradient for none.
     void SetItemColors(int row, int col, COLORREF text, COLORREF background, COLORREF gradient);
     /// Both outputs are 0 where the result is false.
     bool GetItemColors(int row, int col, COLORREF & text, COLORREF & background) const;
@@ -241,13 +280,17 @@ public:
 
     /// XLC_NONE, XLC_UNCHECKED, XLC_CHECKED or XLC_CROSSED; false for any other.
     bool SetCheckbox(int row, int col, int state);
+    /// The same as GetItemCheckedState.
     int GetCheckbox(int row, int col) const;
+    /// An XLC_ state; XLC_NONE if there is no such cell.
     int GetItemCheckedState(int row, int col) const;
     /// Any value; the cell's properties stay.
     void SetItemCheckedState(int row, int col, int state);
     /// XLC_NONE, XLC_RADIO_ON or XLC_RADIO_OFF. On switches the column's present radio row off.
     bool SetRadioButton(int row, int col, int state);
+    /// Whether the cell is a radio button that is on.
     bool GetItemRadioOn(int row, int col) const;
+    /// The row of the column's radio button that is on; -1 if there is none.
     int GetActiveRadioItem(int col) const;
     /// Rows whose cell has that state. XLC_NONE counts every row; another negative state every check or radio cell.
     unsigned long long CountCheckedItems(int col, int state) const;
@@ -256,20 +299,31 @@ public:
 
     /// The LVS_ display type; only LVS_REPORT has the behaviour of cells.
     void SetDisplayStyle(long style);
+    /// The LVS_ display type.
     long GetDisplayStyle();
+    /// A selected row is marked over its whole width. There is no way back.
     void SetFullRowSelect();
+    /// The native list's LVS_EX_TWOCLICKACTIVATE. There is no way back.
     void SetHoverSelection();
+    /// The native list's check boxes; LVS_EX_CHECKBOXES. There is no way back.
     void SetWithCheckboxes();
+    /// Lines between rows and columns. There is no way back.
     void SetWithGridlines();
     /// The former setting. Does not repaint.
     bool SetEllipsis(bool ellipsis);
+    /// Whether texts that are too long end in dots.
     bool GetEllipsis() const;
     /// Room left and right of a cell's text. Does not repaint.
     void SetCellPadding(int padding);
+    /// See SetCellPadding.
     int GetCellPadding() const;
+    /// The text shown in a list without rows; empty for none. Does not repaint.
     void SetEmptyListText(CString const & text);
+    /// The module's own text for a list without rows, in its language. Does not repaint.
     void SetEmptyListTextDefault();
+    /// Marks the whole list as changed by the user, or not.
     void SetListModified(bool modified);
+    /// Whether the list is marked as changed.
     bool GetListModified() const;
     /// Repaints one cell, or the whole row for column -1. Does nothing in batch mode.
     void UpdateSubItem(int row, int col);
@@ -278,14 +332,19 @@ public:
 
     // --- Header ---
 
+    /// A DT_ alignment for every title; all bits set: each column's own format.
     void SetHeaderAlignment(unsigned int alignment);
+    /// The colour of the titles.
     void SetHeaderTextColor(COLORREF color);
+    /// Item images come from the header's image list instead of the built-in marks.
     void SetHeaderUseImageList(bool use);
+    /// The header tells the list itself of clicks on columns, without a notification. There is no way back.
     void SetHeaderDirectColumnClick();
     /// Check boxes in the header follow their column's cells and drive them.
     void SetHeaderAutoCheckbox(bool on);
     /// An XHC_ state; false for any other.
     bool SetHeaderCheckedState(int col, int state);
+    /// An XHC_ state.
     int GetHeaderCheckedState(int col) const;
     /// Takes check boxes away as well as sort arrows.
     void SetHeaderRemoveAllMarks();
@@ -319,14 +378,18 @@ public:
     CMenu & PopUpMenu();
     /// Call it before the window is subclassed or created.
     void EnableItemToolTipps();
+    /// The tooltip of cells without one.
     void SetDefaultToolTipText(wchar_t const * text);
     /// It is meant that only the tooltip of column 1 shows, over all cells of the row.
     bool SetItemToolTipText(int row, int col, wchar_t const * text);
+    /// The cell's own tooltip; empty if it has none.
     CString GetItemToolTipText(int row, int col);
+    /// Empties the tooltips of all cells; the default stays.
     void DeleteAllToolTips();
     INT_PTR OnToolHitTest(CPoint point, TOOLINFO * info) const override;
 
 protected:
+    /// Answers the tooltip's question for its text; FALSE leaves it to others.
     virtual BOOL OnToolTipText(UINT id, NMHDR * header, LRESULT * result);
     void PreSubclassWindow() override;
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -336,7 +399,9 @@ protected:
 
     /// Row and column at a client point; (-1, -1) off any cell.
     std::pair<int, int> GetItem(CPoint const & point);
+    /// What the forms of SetComboBox end with, once the cell has its texts.
     bool InitializeComboBox(int row, int col, int selectedId, int defaultId);
+    /// Has the header of this class's kind take the native one over, once there is one.
     void SubclassHeaderControl();
 
     // The editors open with these, over a cell that is enabled and can be scrolled into view. Row and column are kept
@@ -349,18 +414,25 @@ protected:
     void DrawComboBoxControl(int row, int col);
 
     // Painting. cells is the row's first cell; nothing is drawn into an empty rectangle or without cells or context.
+    /// Reads the system's colours anew.
     void GetColors();
     /// Turns a cell's colours into those that it is drawn with. A derived class may choose others for selected rows.
     virtual void GetDrawColors(int row, int col, COLORREF & text, COLORREF & background);
     /// The width used.
     int DrawImage(int row, int col, CDC * dc, COLORREF text, COLORREF background, CRect rect, XLISTCTRLDATA * cells);
+    /// The text of the cell.
     void DrawTextW(int row, int col, CDC * dc, COLORREF text, COLORREF background, CRect & rect, XLISTCTRLDATA * cells);
+    /// The check box or radio button of the cell, and its text.
     void DrawCheckbox(int row, int col, CDC * dc, COLORREF text, COLORREF background, CRect & rect,
                       XLISTCTRLDATA * cells);
+    /// A check box in that XLC_ state.
     void DrawCheckboxBox(CRect & box, int state, bool enabled, CDC * dc);
+    /// A radio button in that XLC_ state.
     void DrawRadioBox(CRect & box, int state, bool enabled, CDC * dc);
+    /// The text of a combo cell and its button.
     void DrawComboBox(int row, int col, CDC * dc, COLORREF text, COLORREF background, CRect & rect,
                       XLISTCTRLDATA * cells);
+    /// The bar of a progress cell, and its text.
     void DrawProgress(int row, int col, CDC * dc, COLORREF text, COLORREF background, CRect & rect,
                       XLISTCTRLDATA * cells);
 
@@ -403,8 +475,6 @@ private:
     int InsertWithRow(LVITEMW item, COLORREF text, COLORREF background, int image, void const * ptr, long long data);
     /// The number of rows; 0 without a window.
     int RowCount() const;
-    void RememberRow(int row, XLISTCTRLROW * object) const;
-    void ForgetRow() const;
     /// The row that a row object hangs from; -1 if there is none.
     int PlaceOf(XLISTCTRLROW const * object) const;
     /// After the host has changed rows within an operation on rows: every native item has a row object of its own
@@ -415,21 +485,18 @@ private:
     std::vector<int> GiveBackUnshownRows();
     /// Sets the native text alone; false if that fails.
     bool ShowText(int row, int col, wchar_t const * text);
-    /// Shows the text and then calls change(cell), unless the row has ended meanwhile. False without that cell, or if
-    /// the native list refuses the text.
-    template <class Change> bool ChangeText(int row, int col, wchar_t const * text, Change && change);
-    bool ShowFloat(int row, int col, float value, wchar_t const * text);
     /// Repaints the row's cell where the row is now.
     void Repaint(HeldRow & held, int col);
     /// Gives the columns the fitted widths of the work array, the preferred one the first width before.
     void SetNativeWidths(int preferred, int firstWidth);
-    void SelectComboEntry(int row, int col, XLISTCTRLDATA & cell, std::pair<int const, wchar_t const *> const * entry);
-    /// The cells of a row as far as the list's columns reach; none for a row without.
-    std::span<XLISTCTRLDATA> CellsOf(int row) const;
-    /// What a press does to a check cell: its state, its mark of a change, its picture, and the notification.
-    void ChangeCheckByUser(int row, int col, int state);
-    /// Recomputes the state of a column's header from its cells, where the header follows them.
-    void UpdateHeaderFromCells(int col);
+    /// Gives the cell of a host's own kind what a press or a key made of it.
+    void ChangeByKind(int row, int col, CXListCellKind::Change const & change);
+    /// Offers a press or a key to the host's kind of a cell; whether it took it. The list may be gone then.
+    bool OfferPress(int row, int col, CPoint point);
+    bool OfferKey(UINT key);
+    /// The text that the cell shows, up to that length.
+    CellText ReadCellText(int row, int col) const;
+    CellText ReadCellText(int row, int col, int limit) const;
     void PostToParent(unsigned int message, WPARAM wParam, LPARAM lParam) const;
     // Editors. An editor that ends tells nothing.
     void EndEdit();
@@ -444,12 +511,14 @@ private:
     void TakeComboChoice();
     /// Shows the combo's choice in its cell.
     void ShowComboChoice();
-    /// How the drawing of most kinds begins: turns the colours into drawing colours, fills the cell and lays the wash
-    /// on.
-    void FillCell(int row, int col, CDC & dc, COLORREF & text, COLORREF & background, CRect const & rect,
-                  XLISTCTRLDATA const & cell);
+    /// A cell in the colours that it is drawn with.
+    CellPaint PaintOf(int row, int col, CDC & dc, COLORREF text, COLORREF background, CRect const & rect,
+                      XLISTCTRLDATA const & cell);
     /// Handles a message that may change columns: all is painted anew if it does.
     LRESULT ColumnMessage(UINT message, WPARAM wParam, LPARAM lParam);
+    /// Follows a column that was put in or taken out past this class: the list counts its columns, and cells move as
+    /// texts do.
+    void FollowColumns(UINT message, int col);
     void FillMovedFirstColumn(CDC & dc, CRect const & row);
     /// Whether the row stands above the first one that shows.
     bool IsAboveTop(int row);
@@ -457,25 +526,16 @@ private:
     void HeedMessage(UINT message);
     /// DrawText format of a column's texts.
     UINT TextFormat(int col) const;
-    UINT AskTextFormat(int col) const;
+    UINT AskAlignment(int col) const;
     /// The bounds of a cell that is being painted.
     CRect PaintedRect(int row, int col);
     bool IsSelected(int row);
     bool HasFocus();
 
-    /// One column of a row that is being carried to another place: a native item with the buffer for its text.
-    struct dd_list_Item
-    {
-        static constexpr int text_size = 256;
-        dd_list_Item();
-        dd_list_Item(dd_list_Item const &) = delete;
-        dd_list_Item & operator=(dd_list_Item const &) = delete;
-
-        LVITEMW item;
-        wchar_t text[text_size];
-    };
+    /// One column of a row that is being carried to another place.
+    struct dd_list_Item;
     /// The row dragged and the row below the pointer.
-    std::pair<int, int> indices() const { return {m_dragSource, m_dropTarget}; }
+    std::pair<int, int> indices() const;
     void begin_drag(NMHDR * header, LRESULT * result);
     /// Swaps the two rows.
     void drop_on_list();
@@ -495,7 +555,7 @@ private:
 
     /// Whether the rows in use are those that hang from the native items, each from one. Not while the native list
     /// changes its items, nor after it was told to past this class.
-    bool RowsAreKnown() const { return m_rowsInStep && m_rowChangesUnderWay == 0; }
+    bool RowsAreKnown() const;
     /// Follows what a native message does to that; own: an operation of this class sent it and keeps the books.
     void NoteRowChange(UINT message, LPARAM lParam, bool own);
     /// A message to the native list itself, that only asks.
@@ -506,22 +566,7 @@ private:
     std::vector<XLISTCTRLROW *> RowsFromTop() const;
     /// Calls visit(XLISTCTRLROW &) for each item's row object, in no particular order. visit runs no code of the
     /// host's.
-    template <class Visit> void VisitRows(Visit && visit) const
-    {
-        if (RowsAreKnown())
-        {
-            for (auto const & row : m_rowPool.InUse())
-                visit(*row);
-            return;
-        }
-        for (XLISTCTRLROW * const row : RowsFromTop())
-        {
-            if (row != nullptr)
-                visit(*row);
-        }
-    }
-    /// The topmost row whose object satisfies matches(XLISTCTRLROW const &); -1 if there is none.
-    template <class Matches> int FindTopmost(Matches && matches) const;
+    template <class Visit> void VisitRows(Visit && visit) const;
     void SortByCells(int col, bool ascending);
     /// Tells the order the texts of its column; false if the host changed the rows meanwhile.
     bool AddTexts(CListRowOrder & order, int col);
@@ -531,14 +576,22 @@ private:
     /// Gives the native item that parameter word.
     bool SetNativeParam(int row, XLISTCTRLROW const * object);
     std::wstring HeaderTitle(int col) const;
-    std::wstring ShownText(int row, int col) const;
+
+    // What the sources of the list keep for themselves (XListCtrlState.h).
+    class Items;
+    struct DragState;
+    struct EditorState;
+    struct FitState;
+    struct PaintState;
+    struct RowState;
+    struct SortState;
+    class PaintScope;
 
     CXHeaderCtrl m_header;
     int m_columnCount = 0;
     CString m_emptyListText;
-    int m_sortColumn = -1;
-    bool m_sortAscending = true;
-    CXListRowPool m_rowPool;
+    std::unique_ptr<SortState> m_sort;
+    std::unique_ptr<RowState> m_rows;
     bool m_headerSubclassed = false;
     bool m_ellipsis = true;
     bool m_listModified = false;
@@ -546,72 +599,11 @@ private:
     CString m_defaultToolTipText;
     bool m_batchInsert = false;
     int m_cellPadding = 5;
-    CString m_savedText;
     bool m_headerAutoCheckbox = false;
-    std::vector<int> m_columnWidths;
-    CColumnFitMemory m_widthMemory;
-    XListCtrl::CXEdit * m_edit = nullptr;
-    int m_editRow = 0;
-    int m_editCol = 0;
-    XListCtrl::CXCombo * m_combo = nullptr;
-    int m_comboRow = 0;
-    int m_comboCol = 0;
-    CRect m_comboRect;
-    /// How many combos were opened so far.
-    unsigned int m_comboOpenings = 0;
-    /// The list keeps its window from painting until a timer ends that.
-    bool m_updateLocked = false;
+    std::unique_ptr<FitState> m_fit;
+    std::unique_ptr<EditorState> m_editors;
     std::map<int, CString> m_globalComboStrings;
-
-    COLORREF m_colorFace;
-    COLORREF m_colorEdgeHighlight;
-    COLORREF m_colorEdgeShadow;
-    COLORREF m_colorActiveCaption;
-    COLORREF m_colorInactiveSelection;
-    COLORREF m_colorBarFrame;
-    COLORREF m_colorButtonText;
-    COLORREF m_colorDisabled;
-    COLORREF m_colorSelection;
-    COLORREF m_colorSelectionText;
-    COLORREF m_colorInactiveCaption;
-    COLORREF m_colorInactiveCaptionText;
-    COLORREF m_colorWindow;
-    COLORREF m_colorWindowText;
-    COLORREF m_colorCheckFrame;
-    COLORREF m_colorCheckMark;
-
-    bool m_dragEnabled = false;
-    int m_dragSource = -1;
-    int m_dropTarget = -1;
-    long long m_dragCursor = 32512;
-    CImageList m_dragImage;
+    std::unique_ptr<PaintState> m_paint;
+    std::unique_ptr<DragState> m_drag;
     CMenu m_popupMenu;
-
-    /// The row asked for last. Known only as long as the native list has been given no message that moves rows or
-    /// changes their parameter words; while one is under way, nothing is remembered.
-    mutable int m_knownRow = -1;
-    mutable XLISTCTRLROW * m_knownRowObject = nullptr;
-    int m_rowChangesUnderWay = 0;
-    /// Counts those messages.
-    unsigned long long m_rowChanges = 0;
-    /// Ends with the list, for whoever must know.
-    LifeSign m_life;
-    /// Row objects that operations under way keep in use.
-    std::vector<XLISTCTRLROW const *> m_pinned;
-    /// The next change is an operation of this class, which keeps the books itself.
-    bool m_ownRowChange = false;
-    /// Whether the rows in use are those that hang from the native items, each from one.
-    bool m_rowsInStep = true;
-    /// Stand in for missing row objects during a sort. Kept, since a parent may refuse that an item loses its own.
-    std::vector<std::unique_ptr<XLISTCTRLROW>> m_standIns;
-    std::size_t m_standInsInUse = 0;
-    /// Trades of two rows under way: for a moment both share one object.
-    int m_rowSwaps = 0;
-
-    /// What stays the same while the window paints itself once, so that it is asked for once a row or column instead of
-    /// once a cell.
-    struct PaintMemory;
-    class PaintScope;
-    /// Null outside of a paint. Not owned.
-    mutable PaintScope * m_paint = nullptr;
 };

@@ -2,8 +2,8 @@
 
 #include "list/XListCtrl.h"
 
+#include "frame/RegisteredMessages.h"
 #include "list/XListCtrlHold.h"
-#include "list/XListInput.h"
 #include "list/XListSearch.h"
 
 #include <algorithm>
@@ -47,52 +47,41 @@ int CXListCtrl::RowCount() const
 
 XLISTCTRLROW * CXListCtrl::RowOf(int row) const
 {
-    if (row < 0 || m_hWnd == nullptr)
-        return nullptr;
-    if (row == m_knownRow)
-        return m_knownRowObject;
+    return m_rows->model.RowOf(row);
+}
+
+bool CXListCtrl::Items::ObjectAt(int row, XLISTCTRLROW *& object) const
+{
     LVITEMW item{};
     item.mask = LVIF_PARAM;
     item.iItem = row;
     // Asked of the native procedure itself: nobody else knows an answer.
-    if (const_cast<CXListCtrl *>(this)->DefWindowProc(LVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&item)) == FALSE)
-        return nullptr;
-    auto * const object = reinterpret_cast<XLISTCTRLROW *>(item.lParam);
-    RememberRow(row, object);
-    return object;
+    bool const isThere = m_list.AskNative(LVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&item)) != FALSE;
+    object = reinterpret_cast<XLISTCTRLROW *>(item.lParam);
+    return isThere;
+}
+
+int CXListCtrl::Items::FindObject(XLISTCTRLROW const & object) const
+{
+    LVFINDINFOW wanted{};
+    wanted.flags = LVFI_PARAM;
+    wanted.lParam = reinterpret_cast<LPARAM>(&object);
+    return m_list.FindItem(&wanted);
+}
+
+void CXListCtrl::Items::TellOfCheck(int row, int col)
+{
+    m_list.OnItemStateChange(row, col, WM_XLISTCTRL_CHECKBOX_CLICKED);
 }
 
 int CXListCtrl::PlaceOf(XLISTCTRLROW const * object) const
 {
-    if (object == nullptr || m_hWnd == nullptr)
-        return -1;
-    // Each row hangs from one item then, so that one seen at that place is nowhere else.
-    bool const known = RowsAreKnown();
-    if (known && object->lastPlace() >= 0 && NativeParam(object->lastPlace()) == object)
-        return object->lastPlace();
-    LVFINDINFOW wanted{};
-    wanted.flags = LVFI_PARAM;
-    wanted.lParam = reinterpret_cast<LPARAM>(object);
-    int const place = FindItem(&wanted);
-    if (known)
-        object->SetLastPlace(place);
-    return place;
+    return m_rows->model.PlaceOf(object);
 }
 
-void CXListCtrl::RememberRow(int row, XLISTCTRLROW * object) const
+bool CXListCtrl::RowsAreKnown() const
 {
-    if (m_rowChangesUnderWay != 0)
-        return;
-    m_knownRow = row;
-    m_knownRowObject = object;
-    if (object != nullptr && m_rowsInStep)
-        object->SetLastPlace(row);
-}
-
-void CXListCtrl::ForgetRow() const
-{
-    m_knownRow = -1;
-    m_knownRowObject = nullptr;
+    return m_rows->model.memory.AreRowsKnown();
 }
 
 LRESULT CXListCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
@@ -116,19 +105,17 @@ LRESULT CXListCtrl::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     if (!ChangesRows(message, lParam))
         return CListCtrl::DefWindowProc(message, wParam, lParam);
 
-    NoteRowChange(message, lParam, std::exchange(m_ownRowChange, false));
+    NoteRowChange(message, lParam, std::exchange(m_rows->ownChange, false));
     struct RowChange
     {
         explicit RowChange(CXListCtrl & changed) : list(changed), watch(changed)
         {
-            list.ForgetRow();
-            ++list.m_rowChanges;
-            ++list.m_rowChangesUnderWay;
+            list.m_rows->model.memory.BeginChange();
         }
         ~RowChange()
         {
             if (watch.IsThere())
-                --list.m_rowChangesUnderWay;
+                list.m_rows->model.memory.EndChange();
         }
         CXListCtrl & list;
         Watch watch;
@@ -153,13 +140,13 @@ void CXListCtrl::NoteRowChange(UINT message, LPARAM lParam, bool own)
         auto const * const row =
             (item->mask & LVIF_PARAM) != 0 ? reinterpret_cast<XLISTCTRLROW const *>(item->lParam) : nullptr;
         bool const inserts = message == LVM_INSERTITEMA || message == LVM_INSERTITEMW;
-        if (!m_rowPool.IsNewest(row) && (row != nullptr || !inserts))
-            m_rowsInStep = false;
+        if (!m_rows->model.pool.IsNewest(row) && (row != nullptr || !inserts))
+            m_rows->model.memory.LoseStep();
         return;
     }
     case LVM_DELETEITEM:
     case LVM_DELETEALLITEMS:
-        m_rowsInStep = false;
+        m_rows->model.memory.LoseStep();
         return;
     default:
         return;
@@ -190,7 +177,7 @@ std::vector<XLISTCTRLROW *> CXListCtrl::RowsFromTop() const
         return rows;
     // Whatever else hangs from an item is not to be touched.
     std::vector<XLISTCTRLROW const *> own;
-    for (auto const & row : m_rowPool.All())
+    for (auto const & row : m_rows->model.pool.All())
     {
         if (row != nullptr)
             own.push_back(row.get());
@@ -204,43 +191,26 @@ std::vector<XLISTCTRLROW *> CXListCtrl::RowsFromTop() const
     return rows;
 }
 
-template <class Matches> int CXListCtrl::FindTopmost(Matches && matches) const
-{
-    if (m_hWnd == nullptr)
-        return -1;
-    // While items change, a row given back may still hang from one.
-    bool const known = RowsAreKnown();
-    CXListRowPool::Slots const rows = known ? m_rowPool.InUse() : m_rowPool.All();
-    return FindTopmostRow(
-        rows, known, [this] { return RowCount(); }, matches, [this](XLISTCTRLROW const & row) { return PlaceOf(&row); },
-        [this](int row) { return NativeParam(row); });
-}
-
 bool CXListCtrl::IsValidItem(int row, int col) const
 {
     if (row < 0 || col < 0 || col >= m_columnCount || m_hWnd == nullptr)
         return false;
-    return row == m_knownRow || row < GetItemCount();
+    return m_rows->model.memory.Knows(row) || row < GetItemCount();
 }
 
 XLISTCTRLDATA * CXListCtrl::ValidCell(int row, int col) const
 {
-    if (col < 0 || col >= m_columnCount)
-        return nullptr;
-    XLISTCTRLROW const * const object = RowOf(row);
-    return object != nullptr && static_cast<unsigned int>(col) < object->capacity() ? object->cells() + col : nullptr;
+    return m_rows->model.Cell(row, col);
 }
 
 XLISTCTRLDATA * CXListCtrl::GetRowData(int row)
 {
-    XLISTCTRLROW const * const object = RowOf(row);
-    return object != nullptr ? object->cells() : nullptr;
+    return m_rows->model.FirstCell(row);
 }
 
 XLISTCTRLDATA const * CXListCtrl::GetRowData(int row) const
 {
-    XLISTCTRLROW const * const object = RowOf(row);
-    return object != nullptr ? object->cells() : nullptr;
+    return m_rows->model.FirstCell(row);
 }
 
 XLISTCTRLDATA * CXListCtrl::GetRowItemData(int row, int col)
@@ -370,7 +340,8 @@ bool CXListCtrl::GetItemClavis(int row, int * key) const
 
 int CXListCtrl::FindDataItem(long long data) const
 {
-    return FindTopmost(FirstCellOf([data](XLISTCTRLDATA const & cell) { return cell.itemData64 == data; }));
+    return m_rows->model.FindTopmost(
+        FirstCellOf([data](XLISTCTRLDATA const & cell) { return cell.itemData64 == data; }));
 }
 
 int CXListCtrl::FindDataItem(int data) const
@@ -400,14 +371,15 @@ int CXListCtrl::FindDataItem(unsigned long long data) const
 
 int CXListCtrl::FindDataItemPtr(void const * ptr) const
 {
-    return FindTopmost(FirstCellOf([ptr](XLISTCTRLDATA const & cell) { return cell.itemDataPtr == ptr; }));
+    return m_rows->model.FindTopmost(
+        FirstCellOf([ptr](XLISTCTRLDATA const & cell) { return cell.itemDataPtr == ptr; }));
 }
 
 int CXListCtrl::FindDataItemClavis(int const * key) const
 {
     if (key == nullptr)
         return -1;
-    return FindTopmost(FirstCellOf([key](XLISTCTRLDATA const & cell) { return HasClavis(cell, key); }));
+    return m_rows->model.FindTopmost(FirstCellOf([key](XLISTCTRLDATA const & cell) { return HasClavis(cell, key); }));
 }
 
 long long CXListCtrl::GetSelectedItemData(long long fallback) const
@@ -426,23 +398,17 @@ void * CXListCtrl::GetSelectedItemDataPtr() const
 
 void CXListCtrl::SetItemProperty(int row, int col, unsigned int bits, bool on)
 {
-    XLISTCTRLDATA * const cell = ValidCell(row, col);
-    if (cell == nullptr)
-        return;
-    cell->properties = on ? cell->properties | bits : cell->properties & ~bits;
-    UpdateSubItem(row, col);
+    m_rows->model.SetProperty(row, col, bits, on);
 }
 
 bool CXListCtrl::GetItemProperty(int row, int col, unsigned int bits) const
 {
-    XLISTCTRLDATA const * const cell = ValidCell(row, col);
-    return cell != nullptr && (cell->properties & bits) != 0;
+    return m_rows->model.HasProperty(row, col, bits);
 }
 
 void CXListCtrl::SetRowProperty(int row, unsigned int bits, bool on)
 {
-    for (XLISTCTRLDATA & cell : CellsOf(row))
-        cell.properties = on ? cell.properties | bits : cell.properties & ~bits;
+    m_rows->model.SetRowProperty(row, bits, on);
 }
 
 bool CXListCtrl::SetBold(int row, int col, bool bold)
@@ -468,19 +434,12 @@ bool CXListCtrl::GetModified(int row, int col) const
 
 bool CXListCtrl::SetEnabled(int row, int col, bool enabled)
 {
-    if (ValidCell(row, col) == nullptr)
-        return false;
-    SetItemProperty(row, col, XLP_ENABLED, enabled);
-    return true;
+    return m_rows->model.SetProperty(row, col, XLP_ENABLED, enabled);
 }
 
 bool CXListCtrl::SetEnabled(int row, bool enabled)
 {
-    if (GetRowData(row) == nullptr)
-        return false;
-    SetRowProperty(row, XLP_ENABLED, enabled);
-    UpdateSubItem(row, -1);
-    return true;
+    return m_rows->model.SetRowEnabled(row, enabled);
 }
 
 bool CXListCtrl::GetEnabled(int row, int col) const
@@ -490,9 +449,7 @@ bool CXListCtrl::GetEnabled(int row, int col) const
 
 bool CXListCtrl::GetEnabled(int row) const
 {
-    std::span<XLISTCTRLDATA> const cells = CellsOf(row);
-    return std::any_of(cells.begin(), cells.end(),
-                       [](XLISTCTRLDATA const & cell) { return (cell.properties & XLP_ENABLED) != 0; });
+    return m_rows->model.IsRowEnabled(row);
 }
 
 void CXListCtrl::SetItemValueType(int row, int col, unsigned int type)
@@ -509,7 +466,7 @@ unsigned int CXListCtrl::GetItemValueType(int row, int col)
 
 void CXListCtrl::SetRowColors(int row, COLORREF text, COLORREF background)
 {
-    for (XLISTCTRLDATA & cell : CellsOf(row))
+    for (XLISTCTRLDATA & cell : m_rows->model.CellsOf(row))
     {
         cell.textColor = text;
         cell.backgroundColor = background;
@@ -519,13 +476,7 @@ void CXListCtrl::SetRowColors(int row, COLORREF text, COLORREF background)
 
 void CXListCtrl::SetItemColors(int row, int col, COLORREF text, COLORREF background, COLORREF gradient)
 {
-    XLISTCTRLDATA * const cell = ValidCell(row, col);
-    if (cell == nullptr)
-        return;
-    cell->textColor = text;
-    cell->backgroundColor = background;
-    cell->gradientColor = gradient;
-    UpdateSubItem(row, col);
+    m_rows->model.SetColors(row, col, text, background, gradient);
 }
 
 bool CXListCtrl::GetItemColors(int row, int col, COLORREF & text, COLORREF & background) const
@@ -540,25 +491,11 @@ bool CXListCtrl::GetItemColors(int row, int col, COLORREF & text, COLORREF & bac
     return true;
 }
 
-std::span<XLISTCTRLDATA> CXListCtrl::CellsOf(int row) const
-{
-    XLISTCTRLROW const * const object = RowOf(row);
-    if (object == nullptr || m_columnCount <= 0)
-        return {};
-    return {object->cells(), std::min(object->capacity(), static_cast<unsigned int>(m_columnCount))};
-}
-
 // Check states
 
 bool CXListCtrl::SetCheckbox(int row, int col, int state)
 {
-    XLISTCTRLDATA * const cell = ValidCell(row, col);
-    if (cell == nullptr || state < XLC_NONE || state > XLC_CROSSED)
-        return false;
-    cell->MakeCheck(state);
-    UpdateSubItem(row, col);
-    UpdateHeaderFromCells(col);
-    return true;
+    return m_rows->model.SetCheckbox(row, col, state);
 }
 
 int CXListCtrl::GetCheckbox(int row, int col) const
@@ -568,29 +505,17 @@ int CXListCtrl::GetCheckbox(int row, int col) const
 
 int CXListCtrl::GetItemCheckedState(int row, int col) const
 {
-    XLISTCTRLDATA const * const cell = ValidCell(row, col);
-    return cell != nullptr ? cell->checkedState : XLC_NONE;
+    return m_rows->model.CheckedState(row, col);
 }
 
 void CXListCtrl::SetItemCheckedState(int row, int col, int state)
 {
-    XLISTCTRLDATA * const cell = ValidCell(row, col);
-    if (cell == nullptr)
-        return;
-    cell->checkedState = state;
-    UpdateSubItem(row, col);
+    m_rows->model.SetCheckedState(row, col, state);
 }
 
 bool CXListCtrl::SetRadioButton(int row, int col, int state)
 {
-    XLISTCTRLDATA * const cell = ValidCell(row, col);
-    if (cell == nullptr || (state != XLC_NONE && state != XLC_RADIO_ON && state != XLC_RADIO_OFF))
-        return false;
-    if (state == XLC_RADIO_ON)
-        SetItemCheckedState(GetActiveRadioItem(col), col, XLC_RADIO_OFF);
-    cell->MakeCheck(state);
-    UpdateSubItem(row, col);
-    return true;
+    return m_rows->model.SetRadioButton(row, col, state);
 }
 
 bool CXListCtrl::GetItemRadioOn(int row, int col) const
@@ -600,21 +525,10 @@ bool CXListCtrl::GetItemRadioOn(int row, int col) const
 
 int CXListCtrl::GetActiveRadioItem(int col) const
 {
-    if (col < 0 || col >= m_columnCount)
-        return -1;
-    return FindTopmost([index = static_cast<unsigned int>(col)](XLISTCTRLROW const & row) {
-        return index < row.capacity() && row.cells()[index].checkedState == XLC_RADIO_ON;
-    });
+    return m_rows->model.ActiveRadio(col);
 }
 
 unsigned long long CXListCtrl::CountCheckedItems(int col, int state) const
 {
-    unsigned long long count = 0;
-    if (col < 0 || col >= m_columnCount)
-        return count;
-    VisitRows([index = static_cast<unsigned int>(col), state, &count](XLISTCTRLROW const & row) {
-        if (index < row.capacity() && CountsAsChecked(row.cells()[index].checkedState, state))
-            ++count;
-    });
-    return count;
+    return m_rows->model.CountChecked(col, state);
 }

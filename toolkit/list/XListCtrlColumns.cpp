@@ -2,7 +2,9 @@
 
 #include "list/XListCtrl.h"
 
+#include <algorithm>
 #include <cstddef>
+#include <utility>
 
 #include "list/XListCtrlHold.h"
 
@@ -29,11 +31,38 @@ LRESULT CXListCtrl::ColumnMessage(UINT message, WPARAM wParam, LPARAM lParam)
 {
     bool const changes = message != WM_NOTIFY || TellsOfColumns(*reinterpret_cast<NMHDR const *>(lParam));
     HWND const window = m_hWnd;
+    Watch const watch(*this);
+    bool const own = message != WM_NOTIFY && std::exchange(m_rows->ownColumnChange, false);
     LRESULT const result = CListCtrl::WindowProc(message, wParam, lParam);
     // The host may have ended the list meanwhile.
+    if (watch.IsAlive() && !own)
+    {
+        if (message == LVM_DELETECOLUMN && result != FALSE)
+            FollowColumns(message, static_cast<int>(wParam));
+        else if ((message == LVM_INSERTCOLUMNA || message == LVM_INSERTCOLUMNW) && result >= 0)
+            FollowColumns(message, static_cast<int>(result));
+    }
     if (changes)
         ::InvalidateRect(window, nullptr, TRUE);
     return result;
+}
+
+// The native list moves the texts of its items behind a column that comes or goes, but leaves the items' own text,
+// which is that of the first column, where it is.
+void CXListCtrl::FollowColumns(UINT message, int col)
+{
+    SubclassHeaderControl();
+    m_columnCount = GetColumnCount();
+    auto const place = static_cast<unsigned int>(std::max(col, 1));
+    bool const goes = message == LVM_DELETECOLUMN;
+    if (goes && col == 0)
+        return;
+    VisitRows([place, goes](XLISTCTRLROW & row) {
+        if (goes)
+            row.RemoveCell(place);
+        else
+            row.InsertCell(place);
+    });
 }
 
 int CXListCtrl::AddColumn(wchar_t const * title, int format, int width)
@@ -43,6 +72,7 @@ int CXListCtrl::AddColumn(wchar_t const * title, int format, int width)
     int const col = GetColumnCount();
     m_columnCount = col + 1;
     Watch const watch(*this);
+    m_rows->ownColumnChange = true;
     // Past the end, so that it lands last.
     CListCtrl::InsertColumn(m_columnCount, title, format, width, -1);
     // A list that has not been shown yet may have made its header only now.
@@ -56,6 +86,7 @@ int CXListCtrl::InsertColumn(int col, wchar_t const * title, int format, int wid
     if (!::IsWindow(m_header.m_hWnd))
         return -1;
     Watch const watch(*this);
+    m_rows->ownColumnChange = true;
     int const landed = CListCtrl::InsertColumn(col, title, format, width, subItem);
     if (watch.IsAlive())
         m_columnCount = GetColumnCount();
@@ -76,7 +107,10 @@ void CXListCtrl::DeleteAllColumns()
     if (!watch.IsAlive())
         return;
     for (int col = GetColumnCount() - 1; col >= 0 && watch.IsAlive(); --col)
+    {
+        m_rows->ownColumnChange = true;
         DeleteColumn(col);
+    }
     if (watch.IsAlive())
         m_columnCount = 0;
 }
@@ -105,18 +139,18 @@ void CXListCtrl::AutosizeColumnWidth(int col)
     if (GetItemCount() > GetCountPerPage())
         available -= ::GetSystemMetrics(SM_CXVSCROLL);
 
-    m_columnWidths.resize(static_cast<std::size_t>(count));
+    m_fit->widths.resize(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i)
-        m_columnWidths[static_cast<std::size_t>(i)] = GetColumnWidth(i);
+        m_fit->widths[static_cast<std::size_t>(i)] = GetColumnWidth(i);
 
     int const minimum = m_header.GetSpacing();
     int const preferred = col < count ? col : count - 1;
-    switch (FitColumns(m_columnWidths, available, minimum, preferred, m_widthMemory))
+    switch (FitColumns(m_fit->widths, available, minimum, preferred, m_fit->memory))
     {
     case ColumnFit::unchanged:
         break;
     case ColumnFit::preferred_only:
-        CListCtrl::SetColumnWidth(preferred, m_columnWidths[static_cast<std::size_t>(preferred)]);
+        CListCtrl::SetColumnWidth(preferred, m_fit->widths[static_cast<std::size_t>(preferred)]);
         break;
     case ColumnFit::all:
         SetNativeWidths(preferred, minimum + 1);
@@ -127,7 +161,7 @@ void CXListCtrl::AutosizeColumnWidth(int col)
 void CXListCtrl::SetNativeWidths(int preferred, int firstWidth)
 {
     // The host hears of each width and may fit the columns anew.
-    std::vector<int> const widths = m_columnWidths;
+    std::vector<int> const widths = m_fit->widths;
     Watch const watch(*this);
     if (preferred >= 0)
         CListCtrl::SetColumnWidth(preferred, firstWidth);

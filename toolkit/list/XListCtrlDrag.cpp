@@ -5,38 +5,17 @@
 #include <algorithm>
 #include <string_view>
 #include <utility>
+#include <vector>
 
+#include "frame/GraphicsScopes.h"
 #include "list/XListCtrlHold.h"
 
 namespace
 {
-// The cursors of a drag, by the numbers of the system's resources.
-constexpr long long arrow_cursor = 32512;
-constexpr long long refusing_cursor = 32648;
-
 constexpr UINT first_cell_mask = LVIF_TEXT | LVIF_IMAGE | LVIF_PARAM | LVIF_STATE | LVIF_INDENT | LVIF_NORECOMPUTE;
 constexpr UINT other_cell_mask = LVIF_TEXT | LVIF_IMAGE;
 
 constexpr COLORREF drag_mask_colour = RGB(0, 0, 0);
-
-/// The context of a window's client area; null if there is none.
-class ClientContext
-{
-public:
-    explicit ClientContext(CWnd & window) : m_window(window), m_dc(window.GetDC()) {}
-    ClientContext(ClientContext const &) = delete;
-    ClientContext & operator=(ClientContext const &) = delete;
-    ~ClientContext()
-    {
-        if (m_dc != nullptr)
-            m_window.ReleaseDC(m_dc);
-    }
-    CDC * Get() const { return m_dc; }
-
-private:
-    CWnd & m_window;
-    CDC * m_dc;
-};
 
 /// Copies an area of the context into the bitmap.
 bool CopyArea(CDC & source, CRect const & area, CBitmap & bitmap)
@@ -44,12 +23,23 @@ bool CopyArea(CDC & source, CRect const & area, CBitmap & bitmap)
     CDC memory;
     if (!memory.CreateCompatibleDC(&source) || !bitmap.CreateCompatibleBitmap(&source, area.Width(), area.Height()))
         return false;
-    CBitmap * const former = memory.SelectObject(&bitmap);
+    SelectScope const selection(memory, bitmap.GetSafeHandle());
     memory.BitBlt(0, 0, area.Width(), area.Height(), &source, area.left, area.top, SRCCOPY);
-    memory.SelectObject(former);
     return true;
 }
 } // namespace
+
+/// A native item with the buffer for its text.
+struct CXListCtrl::dd_list_Item
+{
+    static constexpr int text_size = 256;
+    dd_list_Item();
+    dd_list_Item(dd_list_Item const &) = delete;
+    dd_list_Item & operator=(dd_list_Item const &) = delete;
+
+    LVITEMW item;
+    wchar_t text[text_size];
+};
 
 CXListCtrl::dd_list_Item::dd_list_Item() : item{}, text{}
 {
@@ -57,15 +47,20 @@ CXListCtrl::dd_list_Item::dd_list_Item() : item{}, text{}
     item.cchTextMax = text_size - 1;
 }
 
+std::pair<int, int> CXListCtrl::indices() const
+{
+    return {m_drag->source, m_drag->target};
+}
+
 void CXListCtrl::EnableDragAndDrop()
 {
-    m_dragEnabled = true;
+    m_drag->enabled = true;
 }
 
 BOOL CXListCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT * result)
 {
     auto * const header = reinterpret_cast<NMHDR *>(lParam);
-    bool const begins = m_dragEnabled && message == WM_NOTIFY && header->code == LVN_BEGINDRAG;
+    bool const begins = m_drag->enabled && message == WM_NOTIFY && header->code == LVN_BEGINDRAG;
     LRESULT unused = 0;
     Watch const watch(*this);
     if (begins)
@@ -80,22 +75,22 @@ void CXListCtrl::begin_drag(NMHDR * header, LRESULT * result)
 {
     *result = 0;
     auto const & notification = *reinterpret_cast<NMLISTVIEW const *>(header);
-    m_dragSource = notification.iItem;
+    m_drag->source = notification.iItem;
     CRect rect(0, 0, 0, 0);
     {
         ClientContext const context(*this);
         if (context.Get() == nullptr)
             return;
-        GetSubItemRect(m_dragSource, 0, LVIR_BOUNDS, rect);
+        GetSubItemRect(m_drag->source, 0, LVIR_BOUNDS, rect);
         MakeDragImage(*context.Get(), rect);
     }
     CPoint const hotSpot = CPoint(notification.ptAction) - rect.TopLeft();
-    ::ImageList_BeginDrag(m_dragImage.GetSafeHandle(), 0, hotSpot.x, hotSpot.y);
+    ::ImageList_BeginDrag(m_drag->image.GetSafeHandle(), 0, hotSpot.x, hotSpot.y);
     CPoint screen = notification.ptAction;
     ClientToScreen(&screen);
     ::ImageList_DragEnter(nullptr, screen.x, screen.y);
-    m_dropTarget = -1;
-    m_dragCursor = arrow_cursor;
+    m_drag->target = -1;
+    m_drag->cursor = DragState::arrow_cursor;
     SetCapture();
 }
 
@@ -104,18 +99,19 @@ void CXListCtrl::MakeDragImage(CDC & client, CRect const & cell)
     // Left from a drag whose end the list did not see.
     EndDragImage();
     CBitmap picture;
-    if (!CopyArea(client, cell, picture) || !m_dragImage.Create(cell.Width(), cell.Height(), 0, 1, 0))
+    if (!CopyArea(client, cell, picture) || !m_drag->image.Create(cell.Width(), cell.Height(), 0, 1, 0))
         return;
-    ::ImageList_AddMasked(m_dragImage.GetSafeHandle(), static_cast<HBITMAP>(picture.GetSafeHandle()), drag_mask_colour);
+    ::ImageList_AddMasked(m_drag->image.GetSafeHandle(), static_cast<HBITMAP>(picture.GetSafeHandle()),
+                          drag_mask_colour);
 }
 
 void CXListCtrl::EndDragImage()
 {
-    if (m_dragImage.GetSafeHandle() == nullptr)
+    if (m_drag->image.GetSafeHandle() == nullptr)
         return;
     ::ImageList_DragLeave(nullptr);
     ::ImageList_EndDrag();
-    m_dragImage.DeleteImageList();
+    m_drag->image.DeleteImageList();
 }
 
 void CXListCtrl::SetDropMark(int row, bool on)
@@ -136,7 +132,7 @@ bool CXListCtrl::FollowDrag(CPoint point)
     ::ImageList_DragShowNolock(FALSE);
     bool const inside = ::WindowFromPoint(screen) == self;
     int const target = inside ? HitTest(point) : -1;
-    int const former = std::exchange(m_dropTarget, target);
+    int const former = std::exchange(m_drag->target, target);
     if (former != -1 && former != target)
         SetDropMark(former, false);
     if (target != -1 && watch.IsAlive())
@@ -145,10 +141,10 @@ bool CXListCtrl::FollowDrag(CPoint point)
         UpdateWindow();
     if (!watch.IsAlive())
         return false;
-    long long const cursor = target != -1 ? arrow_cursor : refusing_cursor;
-    if (m_dragCursor != cursor)
+    long long const cursor = target != -1 ? DragState::arrow_cursor : DragState::refusing_cursor;
+    if (m_drag->cursor != cursor)
     {
-        m_dragCursor = cursor;
+        m_drag->cursor = cursor;
         ::SetCursor(::LoadCursorW(nullptr, MAKEINTRESOURCEW(cursor)));
     }
     ::ImageList_DragShowNolock(TRUE);
@@ -157,26 +153,26 @@ bool CXListCtrl::FollowDrag(CPoint point)
 
 void CXListCtrl::OnMouseMove(UINT flags, CPoint point)
 {
-    if (m_dragEnabled && m_dragSource >= 0 && !FollowDrag(point))
+    if (m_drag->enabled && m_drag->source >= 0 && !FollowDrag(point))
         return;
     CListCtrl::OnMouseMove(flags, point);
 }
 
 void CXListCtrl::OnLButtonUp(UINT flags, CPoint point)
 {
-    if (m_dragEnabled && m_dragSource >= 0)
+    if (m_drag->enabled && m_drag->source >= 0)
     {
         Watch const watch(*this);
         ::ReleaseCapture();
         if (watch.IsAlive())
             EndDragImage();
-        if (watch.IsAlive() && m_dropTarget != -1)
-            SetDropMark(m_dropTarget, false);
+        if (watch.IsAlive() && m_drag->target != -1)
+            SetDropMark(m_drag->target, false);
         if (!watch.IsAlive())
             return;
         CPoint screen = point;
         ClientToScreen(&screen);
-        if (::WindowFromPoint(screen) == m_hWnd && m_dropTarget != m_dragSource)
+        if (::WindowFromPoint(screen) == m_hWnd && m_drag->target != m_drag->source)
             drop_on_list();
         if (!watch.IsAlive())
             return;
@@ -207,7 +203,7 @@ void CXListCtrl::drop_on_list()
 bool CXListCtrl::SwapRows(std::vector<dd_list_Item> & upper, std::vector<dd_list_Item> & lower, int a, int b)
 {
     Watch const watch(*this);
-    unsigned long long const changes = m_rowChanges;
+    unsigned long long const changes = m_rows->model.memory.Changes();
     XLISTCTRLROW * const objects[] = {RowOf(a), RowOf(b)};
     {
         Pin const pinUpper(*this, objects[0]);
@@ -215,17 +211,19 @@ bool CXListCtrl::SwapRows(std::vector<dd_list_Item> & upper, std::vector<dd_list
         save_row(upper, a);
         if (watch.IsAlive())
             save_row(lower, b);
-        if (!watch.IsAlive() || m_rowChanges != changes)
+        if (!watch.IsAlive() || m_rows->model.memory.Changes() != changes)
             return false;
-        ++m_rowSwaps;
+        ++m_drag->rowSwaps;
         bool const begun = restore_row(upper, b);
-        bool swapped = begun && watch.IsAlive() && m_rowChanges == changes + 1 && restore_row(lower, a);
-        swapped = swapped && watch.IsAlive() && m_rowChanges == changes + 2;
+        bool swapped =
+            begun && watch.IsAlive() && m_rows->model.memory.Changes() == changes + 1 && restore_row(lower, a);
+        swapped = swapped && watch.IsAlive() && m_rows->model.memory.Changes() == changes + 2;
         // Refused by the parent halfway: as it was.
-        if (begun && !swapped && watch.IsAlive() && m_rowChanges == changes + 2 && RowOf(b) == objects[0])
+        if (begun && !swapped && watch.IsAlive() && m_rows->model.memory.Changes() == changes + 2 &&
+            RowOf(b) == objects[0])
             restore_row(lower, b);
         if (watch.IsThere())
-            --m_rowSwaps;
+            --m_drag->rowSwaps;
         if (!watch.IsAlive())
             return false;
         if (swapped)
@@ -269,16 +267,17 @@ bool CXListCtrl::restore_row(std::vector<dd_list_Item> & saved, int row)
     auto const * const object = reinterpret_cast<XLISTCTRLROW const *>(saved.front().item.lParam);
     Watch const watch(*this);
     // The first cell takes the row's object along, which is a change.
-    unsigned long long const changes = m_rowChanges + 1;
-    for (std::size_t col = 0; col < saved.size() && watch.IsAlive() && (col == 0 || m_rowChanges == changes); ++col)
+    unsigned long long const changes = m_rows->model.memory.Changes() + 1;
+    for (std::size_t col = 0;
+         col < saved.size() && watch.IsAlive() && (col == 0 || m_rows->model.memory.Changes() == changes); ++col)
     {
         if (object != nullptr && col < object->capacity())
             object->cells()[col].properties |= XLP_MODIFIED;
         saved[col].item.iItem = row;
-        m_ownRowChange = col == 0;
+        m_rows->ownChange = col == 0;
         bool const taken = ::SendMessageW(m_hWnd, LVM_SETITEMW, 0, reinterpret_cast<LPARAM>(&saved[col].item)) != FALSE;
         if (watch.IsThere())
-            m_ownRowChange = false;
+            m_rows->ownChange = false;
         if (col == 0 && !taken)
             return false;
     }

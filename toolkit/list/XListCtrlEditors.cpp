@@ -94,13 +94,13 @@ void CXListCtrl::DrawEditControl(int row, int col)
     area.left += edge + edit_left;
     area.right = std::min(area.left + GetColumnWidth(col) - edit_right, client.right);
 
-    CString const text = GetItemText(row, col);
+    CString const text(ReadCellText(row, col).Characters());
     if (!held.IsListAlive())
         return;
     EndEdit();
     if (held.Row() != row || held.Cell(col) == nullptr)
         return;
-    m_savedText = text;
+    m_editors->savedText = text;
     // Not the list's before it is complete: the host may end the list meanwhile.
     EditOwner edit(new XListCtrl::CXEdit(this, text));
     bool const created = edit->Create(edit_style | EditAlignment(column.fmt), area, this, edit_id) != FALSE;
@@ -110,32 +110,32 @@ void CXListCtrl::DrawEditControl(int row, int col)
     // One that is closing has lost the focus already, when nobody could take its text.
     if (!held.IsListAlive() || !created || !::IsWindow(edit->m_hWnd) || edit->IsClosing())
         return;
-    m_edit = edit.release();
-    m_editRow = row;
-    m_editCol = col;
-    m_savedText = text;
-    if (::GetFocus() != m_edit->m_hWnd)
-        m_edit->SetFocus();
+    m_editors->edit = edit.release();
+    m_editors->editRow = row;
+    m_editors->editCol = col;
+    m_editors->savedText = text;
+    if (::GetFocus() != m_editors->edit->m_hWnd)
+        m_editors->edit->SetFocus();
 }
 
 void CXListCtrl::EndEdit()
 {
-    EditOwner const edit(std::exchange(m_edit, nullptr));
+    EditOwner const edit(std::exchange(m_editors->edit, nullptr));
     if (edit != nullptr)
         edit->SetClosing();
 }
 
 LRESULT CXListCtrl::OnXEditKillFocus(WPARAM, LPARAM)
 {
-    if (m_edit == nullptr || !::IsWindow(m_edit->m_hWnd))
+    if (m_editors->edit == nullptr || !::IsWindow(m_editors->edit->m_hWnd))
         return 0;
     // The host hears of each step; what belongs to this edit is kept apart from an edit that it may open meanwhile.
     Watch const watch(*this);
-    int const row = m_editRow;
-    int const col = m_editCol;
-    CString const before = m_savedText;
+    int const row = m_editors->editRow;
+    int const col = m_editors->editCol;
+    CString const before = m_editors->savedText;
     CString text;
-    m_edit->GetWindowText(text);
+    m_editors->edit->GetWindowText(text);
     if (!watch.IsAlive())
         return 0;
     EndEdit();
@@ -158,9 +158,9 @@ LRESULT CXListCtrl::OnXEditKillFocus(WPARAM, LPARAM)
 LRESULT CXListCtrl::OnXEditEscape(WPARAM, LPARAM)
 {
     Watch const watch(*this);
-    int const row = m_editRow;
-    int const col = m_editCol;
-    CString const before = m_savedText;
+    int const row = m_editors->editRow;
+    int const col = m_editors->editCol;
+    CString const before = m_editors->savedText;
     EndEdit();
     if (!watch.IsAlive())
         return 0;
@@ -186,7 +186,7 @@ void CXListCtrl::DrawComboBoxControl(int row, int col)
     if (!GetSubItemRect(row, col, LVIR_BOUNDS, place))
         return;
     place.top -= 1;
-    m_comboRect = place;
+    m_editors->comboRect = place;
     if (place.Width() < least_combo_width)
         return;
     EndCombo();
@@ -208,41 +208,41 @@ void CXListCtrl::DrawComboBoxControl(int row, int col)
     cell = held.Cell(col);
     if (cell == nullptr || held.Row() != row || (created && !::IsWindow(combo->m_hWnd)))
         return;
-    m_combo = combo.release();
-    ++m_comboOpenings;
+    m_editors->combo = combo.release();
+    ++m_editors->comboOpenings;
     if (!created)
         return;
-    m_comboRow = row;
-    m_comboCol = col;
-    m_updateLocked = LockWindowUpdate() != FALSE || m_updateLocked;
+    m_editors->comboRow = row;
+    m_editors->comboCol = col;
+    m_editors->updateLocked = LockWindowUpdate() != FALSE || m_editors->updateLocked;
 
     CString current;
     for (auto const & [id, text] : cell->comboStrings)
     {
         if (text == nullptr || *text == L'\0')
             continue;
-        m_combo->SetItemData(m_combo->AddString(text), id);
+        m_editors->combo->SetItemData(m_editors->combo->AddString(text), id);
         if (id == cell->comboCurrentId)
             current = text;
     }
-    m_combo->SetMaxVisible(cell->comboVisibleItems);
-    int selected = current.IsEmpty() ? 0 : m_combo->FindStringExact(-1, current);
+    m_editors->combo->SetMaxVisible(cell->comboVisibleItems);
+    int selected = current.IsEmpty() ? 0 : m_editors->combo->FindStringExact(-1, current);
     if (selected < 0)
         selected = 0;
-    m_combo->SetCurSel(selected);
-    m_savedText.Empty();
-    m_combo->GetLBText(selected, m_savedText);
+    m_editors->combo->SetCurSel(selected);
+    m_editors->savedText.Empty();
+    m_editors->combo->GetLBText(selected, m_editors->savedText);
     if (SetTimer(unlock_update_timer, unlock_delay, nullptr) == 0)
         UnlockUpdate();
-    m_combo->Invalidate();
-    m_combo->RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
-    if (held.IsListAlive() && m_combo != nullptr)
-        m_combo->BringWindowToTop();
+    m_editors->combo->Invalidate();
+    m_editors->combo->RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
+    if (held.IsListAlive() && m_editors->combo != nullptr)
+        m_editors->combo->BringWindowToTop();
 }
 
 void CXListCtrl::EndCombo()
 {
-    ComboOwner const combo(std::exchange(m_combo, nullptr));
+    ComboOwner const combo(std::exchange(m_editors->combo, nullptr));
     if (combo == nullptr)
         return;
     // Neither what it has told nor the loss of the focus by its end is meant for a combo that opens after it.
@@ -256,12 +256,13 @@ void CXListCtrl::EndCombo()
 
 void CXListCtrl::CloseCombo()
 {
-    if (m_combo == nullptr)
+    if (m_editors->combo == nullptr)
         return;
     Watch const watch(*this);
-    UpdateSubItem(m_comboRow, m_comboCol);
+    UpdateSubItem(m_editors->comboRow, m_editors->comboCol);
     HWND const focus = ::GetFocus();
-    bool const focused = focus != nullptr && (focus == m_combo->m_hWnd || ::IsChild(m_combo->m_hWnd, focus));
+    bool const focused =
+        focus != nullptr && (focus == m_editors->combo->m_hWnd || ::IsChild(m_editors->combo->m_hWnd, focus));
     EndCombo();
     // With the combo's window the focus would leave the list, and the keyboard with it.
     if (focused && watch.IsAlive())
@@ -270,28 +271,28 @@ void CXListCtrl::CloseCombo()
 
 void CXListCtrl::UnlockUpdate()
 {
-    m_updateLocked = false;
+    m_editors->updateLocked = false;
     ::LockWindowUpdate(nullptr);
 }
 
 bool CXListCtrl::GetComboChoice(CString & text, int & id)
 {
-    int const selected = m_combo->GetCurSel();
+    int const selected = m_editors->combo->GetCurSel();
     if (selected < 0)
         return false;
-    m_combo->GetLBText(selected, text);
-    id = static_cast<int>(m_combo->GetItemData(selected));
+    m_editors->combo->GetLBText(selected, text);
+    id = static_cast<int>(m_editors->combo->GetItemData(selected));
     return true;
 }
 
 void CXListCtrl::TakeComboChoice()
 {
-    if (m_combo == nullptr)
+    if (m_editors->combo == nullptr)
         return;
     Watch const watch(*this);
-    int const row = m_comboRow;
-    int const col = m_comboCol;
-    unsigned int const opening = m_comboOpenings;
+    int const row = m_editors->comboRow;
+    int const col = m_editors->comboCol;
+    unsigned int const opening = m_editors->comboOpenings;
     CString text;
     int id = 0;
     if (ValidCell(row, col) != nullptr && GetComboChoice(text, id))
@@ -311,7 +312,7 @@ void CXListCtrl::TakeComboChoice()
         }
     }
     // Another one that the host has opened meanwhile stays.
-    if (watch.IsAlive() && m_comboOpenings == opening)
+    if (watch.IsAlive() && m_editors->comboOpenings == opening)
         CloseCombo();
 }
 
@@ -319,11 +320,12 @@ void CXListCtrl::ShowComboChoice()
 {
     CString text;
     int id = 0;
-    if (m_combo == nullptr || ValidCell(m_comboRow, m_comboCol) == nullptr || !GetComboChoice(text, id))
+    if (m_editors->combo == nullptr || ValidCell(m_editors->comboRow, m_editors->comboCol) == nullptr ||
+        !GetComboChoice(text, id))
         return;
     Watch const watch(*this);
-    int const row = m_comboRow;
-    int const col = m_comboCol;
+    int const row = m_editors->comboRow;
+    int const col = m_editors->comboCol;
     CListCtrl::SetItemText(row, col, text);
     if (watch.IsAlive())
         UpdateSubItem(row, col);
@@ -343,7 +345,7 @@ LRESULT CXListCtrl::OnComboComplete(WPARAM, LPARAM)
 
 void CXListCtrl::EndEditors()
 {
-    if (m_updateLocked)
+    if (m_editors->updateLocked)
         UnlockUpdate();
     EndEdit();
     EndCombo();

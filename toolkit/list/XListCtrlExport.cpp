@@ -55,13 +55,6 @@ std::wstring CXListCtrl::HeaderTitle(int col) const
     return m_header.GetItem(col, &item) && item.pszText != nullptr ? item.pszText : L"";
 }
 
-std::wstring CXListCtrl::ShownText(int row, int col) const
-{
-    wchar_t text[exported_text_limit + 1] = L"";
-    GetItemText(row, col, text, static_cast<int>(std::size(text)));
-    return text;
-}
-
 bool CXListCtrl::ExportToClipboard(bool withHeader, int firstRow, int lastRow, int firstCol, int lastCol)
 {
     int const rows = RowCount();
@@ -90,10 +83,16 @@ bool CXListCtrl::ExportToClipboard(bool withHeader, int firstRow, int lastRow, i
             continue;
         for (int col = firstCol; col <= lastCol; ++col)
         {
-            auto const shownText = [this, row, col] { return ShownText(row, col); };
+            auto const shownText = [this, row, col] {
+                return std::wstring(ReadCellText(row, col, exported_text_limit).View());
+            };
             // A column younger than the row has its text alone.
             XLISTCTRLDATA const * const cell = ValidCell(row, col);
-            block.AddField(cell != nullptr ? ExportedCell(*cell, decimalSign, dateText, shownText) : shownText());
+            auto const kind = GetCellKind(row, col);
+            if (auto const own = kind != nullptr ? kind->ExportText(*cell) : std::nullopt)
+                block.AddField(std::wstring_view(own->GetString(), static_cast<std::size_t>(own->GetLength())));
+            else
+                block.AddField(cell != nullptr ? ExportedCell(*cell, decimalSign, dateText, shownText) : shownText());
             // The parent may have been asked for the text.
             if (!watch.IsAlive())
                 return false;

@@ -3,6 +3,7 @@
 #include "list/XListCtrl.h"
 
 #include "frame/RegisteredMessages.h"
+#include "list/CellKind.h"
 #include "list/XListCtrlHold.h"
 #include "list/XListInput.h"
 
@@ -17,16 +18,6 @@ bool IsCell(std::pair<int, int> const & cell)
 WPARAM Word(int index)
 {
     return static_cast<WPARAM>(static_cast<LONG_PTR>(index));
-}
-
-/// What a press on a cell that was found enabled means now: its host may have changed it since, but the press is not
-/// swallowed any more.
-CellPress DecideAdmittedPress(XLISTCTRLDATA const & cell)
-{
-    XLISTCTRLDATA enabled;
-    enabled.properties = cell.properties | XLP_ENABLED;
-    enabled.checkedState = cell.checkedState;
-    return DecidePress(enabled);
 }
 } // namespace
 
@@ -81,7 +72,7 @@ void CXListCtrl::OnLButtonDown(UINT, CPoint point)
     // the list.
     auto const pass = [this] {
         Watch const watch(*this);
-        if (m_edit != nullptr)
+        if (m_editors->edit != nullptr)
             SetFocus();
         if (watch.IsAlive())
             Default();
@@ -95,7 +86,7 @@ void CXListCtrl::OnLButtonDown(UINT, CPoint point)
     auto const [row, col] = place;
     if (!IsCell(place))
     {
-        if (m_combo != nullptr)
+        if (m_editors->combo != nullptr)
             OnComboEscape(0, 0);
         pass();
         return;
@@ -115,6 +106,12 @@ void CXListCtrl::OnLButtonDown(UINT, CPoint point)
         if (!held.IsListAlive())
             return;
     }
+    if (cell != nullptr && OfferPress(held.Row(), col, point))
+    {
+        if (held.IsListAlive())
+            pass();
+        return;
+    }
     switch (cell != nullptr ? DecideAdmittedPress(*cell) : CellPress::select_only)
     {
     case CellPress::open_combo:
@@ -133,35 +130,73 @@ void CXListCtrl::OnLButtonDown(UINT, CPoint point)
             OnItemStateChange(place, col, WM_XLISTCTRL_LINK_CLICKED);
         return;
     case CellPress::flip_check:
-        m_listModified = true;
-        ChangeCheckByUser(held.Row(), col, cell->checkedState == XLC_CHECKED ? XLC_UNCHECKED : XLC_CHECKED);
-        if (held.IsListAlive())
-            UpdateHeaderFromCells(col);
+        m_rows->model.FlipCheck(held, col);
         break;
     case CellPress::switch_radio_on:
-        ChangeCheckByUser(GetActiveRadioItem(col), col, XLC_RADIO_OFF);
-        if (int const place = held.Row(); place >= 0)
-        {
-            m_listModified = true;
-            ChangeCheckByUser(place, col, XLC_RADIO_ON);
-        }
+        m_rows->model.SwitchRadioOn(held, col);
         break;
-    default:
+    case CellPress::ignored:
+    case CellPress::select_only:
         break;
     }
     if (held.IsListAlive())
         pass();
 }
 
-void CXListCtrl::ChangeCheckByUser(int row, int col, int state)
+// --- Kinds of the host's own ---
+
+void CXListCtrl::ChangeByKind(int row, int col, CXListCellKind::Change const & change)
 {
-    XLISTCTRLDATA * const cell = row >= 0 ? ValidCell(row, col) : nullptr;
+    HeldRow held(*this, row);
+    if (change.text)
+        ShowText(row, col, *change.text);
+    int const place = held.IsListAlive() ? held.Row() : -1;
+    XLISTCTRLDATA * const cell = place >= 0 ? held.Cell(col) : nullptr;
     if (cell == nullptr)
         return;
-    cell->checkedState = state;
     cell->properties |= XLP_MODIFIED;
-    UpdateSubItem(row, col);
-    OnItemStateChange(row, col, WM_XLISTCTRL_CHECKBOX_CLICKED);
+    m_listModified = true;
+    UpdateSubItem(place, col);
+    OnItemStateChange(place, col, change.message);
+}
+
+bool CXListCtrl::OfferPress(int row, int col, CPoint point)
+{
+    auto const kind = GetCellKind(row, col);
+    CRect rect;
+    if (kind == nullptr || !GetSubItemRect(row, col, LVIR_BOUNDS, rect))
+        return false;
+    Watch const watch(*this);
+    auto const change = kind->Press(*ValidCell(row, col), rect, point);
+    if (!watch.IsUnchanged())
+        return true;
+    if (change)
+        ChangeByKind(row, col, *change);
+    return change.has_value();
+}
+
+bool CXListCtrl::OfferKey(UINT key)
+{
+    int const row = m_rows->hadKinds && m_hWnd != nullptr ? GetNextItem(-1, LVNI_FOCUSED) : -1;
+    XLISTCTRLROW const * const object = RowOf(row);
+    if (object == nullptr || !object->HasKinds())
+        return false;
+    Watch const watch(*this);
+    for (int col = 0; col < m_columnCount; ++col)
+    {
+        auto const kind = GetCellKind(row, col);
+        if (kind == nullptr || !GetEnabled(row, col))
+            continue;
+        auto const change = kind->Key(*ValidCell(row, col), key);
+        if (!watch.IsUnchanged())
+            return true;
+        if (change)
+        {
+            ChangeByKind(row, col, *change);
+            return true;
+        }
+    }
+    return false;
 }
 
 void CXListCtrl::OnLButtonDblClk(UINT flags, CPoint point)
@@ -180,7 +215,7 @@ void CXListCtrl::OnLButtonDblClk(UINT flags, CPoint point)
                 return;
             PostToParent(WM_XLISTCTRL_ITEM_DBLCLICKED, Word(row), static_cast<LPARAM>(Word(col)));
         }
-        else if (m_combo != nullptr)
+        else if (m_editors->combo != nullptr)
             OnComboEscape(0, 0);
     }
     CListCtrl::OnLButtonDblClk(flags, point);
@@ -191,7 +226,7 @@ void CXListCtrl::OnRButtonDown(UINT, CPoint point)
     if (!IsCell(GetItem(point)))
         return;
     Watch const watch(*this);
-    if (m_edit != nullptr)
+    if (m_editors->edit != nullptr)
         SetFocus();
     if (watch.IsAlive())
         Default();
@@ -200,7 +235,7 @@ void CXListCtrl::OnRButtonDown(UINT, CPoint point)
 void CXListCtrl::OnNcLButtonDown(UINT hitTest, CPoint point)
 {
     Watch const watch(*this);
-    if (m_edit != nullptr)
+    if (m_editors->edit != nullptr)
         OnXEditKillFocus(0, 0);
     if (watch.IsAlive())
         CListCtrl::OnNcLButtonDown(hitTest, point);
@@ -221,33 +256,18 @@ BOOL CXListCtrl::OnColumnClick(NMHDR * header, LRESULT * result)
 
 void CXListCtrl::OnHeaderColumnClick(int col)
 {
-    HeaderPress const press = DecideHeaderPress(GetHeaderCheckedState(col), m_headerAutoCheckbox);
-    if (press.changesCells)
-    {
-        Watch const watch(*this);
-        SetHeaderCheckedState(col, press.headerState);
-        if (watch.IsAlive())
-            m_header.UpdateWindow();
-        int rows = watch.IsAlive() ? RowCount() : 0;
-        for (int row = 0; row < rows; ++row)
-        {
-            XLISTCTRLDATA const * const cell = ValidCell(row, col);
-            if (cell == nullptr || cell->checkedState == XLC_NONE || cell->checkedState == press.cellState)
-                continue;
-            m_listModified = true;
-            ChangeCheckByUser(row, col, press.cellState);
-            rows = watch.IsAlive() ? RowCount() : 0;
-        }
-        if (!watch.IsAlive())
-            return;
-    }
-    PostToParent(WM_XLISTCTRL_COLUMNCLICK, Word(press.cellState), static_cast<LPARAM>(Word(col)));
+    Watch const watch(*this);
+    int const reported = m_rows->model.PressHeader(col);
+    if (watch.IsAlive())
+        PostToParent(WM_XLISTCTRL_COLUMNCLICK, Word(reported), static_cast<LPARAM>(Word(col)));
 }
 
 // --- Keyboard ---
 
 void CXListCtrl::OnKeyDown(UINT key, UINT repeat, UINT flags)
 {
+    if (OfferKey(key))
+        return;
     bool const down = key == VK_DOWN || key == VK_NEXT;
     bool const up = key == VK_UP || key == VK_PRIOR;
     if ((GetStyle() & LVS_SINGLESEL) == 0 || (!down && !up))

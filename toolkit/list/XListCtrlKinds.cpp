@@ -7,13 +7,12 @@
 #include <cwchar>
 #include <utility>
 
+#include "list/CellText.h"
 #include "list/XListCtrlHold.h"
 
 namespace
 {
 constexpr COLORREF default_color = static_cast<COLORREF>(-1);
-constexpr COLORREF link_color = 0xFF0000;
-constexpr COLORREF unlinked_color = 0;
 constexpr wchar_t const * default_float_format = L"%5.2f";
 
 // With the end mark. Each number has a buffer of its own: the host hears of a text and may set another number then.
@@ -32,19 +31,6 @@ bool CXListCtrl::ShowText(int row, int col, wchar_t const * text)
     return CListCtrl::SetItemText(row, col, text) != FALSE;
 }
 
-template <class Change> bool CXListCtrl::ChangeText(int row, int col, wchar_t const * text, Change && change)
-{
-    HeldRow held(*this, row);
-    if (held.Cell(col) == nullptr || !ShowText(row, col, text))
-        return false;
-    if (XLISTCTRLDATA * const cell = held.Cell(col))
-    {
-        change(*cell);
-        Repaint(held, col);
-    }
-    return true;
-}
-
 void CXListCtrl::Repaint(HeldRow & held, int col)
 {
     if (!m_batchInsert)
@@ -53,7 +39,7 @@ void CXListCtrl::Repaint(HeldRow & held, int col)
 
 bool CXListCtrl::SetItemText(int row, int col, wchar_t const * text)
 {
-    return ChangeText(row, col, text, [](XLISTCTRLDATA & cell) { cell.valueType = XLV_TEXT; });
+    return m_rows->model.SetText(row, col, text);
 }
 
 bool CXListCtrl::SetItemText(int row, int col, wchar_t const * text, COLORREF textColor, COLORREF background)
@@ -64,8 +50,8 @@ bool CXListCtrl::SetItemText(int row, int col, wchar_t const * text, COLORREF te
     bool const shown = text == nullptr || ShowText(row, col, text);
     if (XLISTCTRLDATA * const cell = held.Cell(col))
     {
-        cell->textColor = textColor != default_color ? textColor : m_colorWindowText;
-        cell->backgroundColor = background != default_color ? background : m_colorWindow;
+        cell->textColor = textColor != default_color ? textColor : m_paint->palette.windowText;
+        cell->backgroundColor = background != default_color ? background : m_paint->palette.window;
         Repaint(held, col);
     }
     return shown;
@@ -75,10 +61,7 @@ bool CXListCtrl::SetItemText(int row, int col, int value)
 {
     wchar_t text[number_length];
     _snwprintf_s(text, number_length, _TRUNCATE, L"%d", value);
-    return ChangeText(row, col, text, [value](XLISTCTRLDATA & cell) {
-        cell.intValue = value;
-        cell.valueType = XLV_INT;
-    });
+    return m_rows->model.SetInteger(row, col, value, text);
 }
 
 bool CXListCtrl::SetItemText(int row, int col, float value, wchar_t const * format)
@@ -86,22 +69,14 @@ bool CXListCtrl::SetItemText(int row, int col, float value, wchar_t const * form
     wchar_t text[number_length];
     _snwprintf_s(text, number_length, _TRUNCATE, format != nullptr ? format : default_float_format,
                  static_cast<double>(value));
-    return ShowFloat(row, col, value, text);
+    return m_rows->model.SetReal(row, col, value, text);
 }
 
 bool CXListCtrl::SetItemFloatVal(int row, int col, float value, wchar_t const * text)
 {
     if (text == nullptr || *text == L'\0')
         return SetItemText(row, col, value, nullptr);
-    return ShowFloat(row, col, value, text);
-}
-
-bool CXListCtrl::ShowFloat(int row, int col, float value, wchar_t const * text)
-{
-    return ChangeText(row, col, text, [value](XLISTCTRLDATA & cell) {
-        cell.floatValue = value;
-        cell.valueType = XLV_FLOAT;
-    });
+    return m_rows->model.SetReal(row, col, value, text);
 }
 
 bool CXListCtrl::SetItemDatetime(int row, int col, CTime time)
@@ -154,77 +129,32 @@ bool CXListCtrl::SetItemImage(int row, int col, int image)
 
 bool CXListCtrl::SetEdit(int row, int col, bool on)
 {
-    XLISTCTRLDATA * const cell = ValidCell(row, col);
-    if (cell == nullptr)
-        return false;
-    if (on)
-        cell->MakeEdit();
-    else
-        cell->MakePlain();
-    UpdateSubItem(row, col);
-    return true;
+    return m_rows->model.SetEdit(row, col, on);
 }
 
 bool CXListCtrl::SetHyperlink(int row, int col, bool on, bool setColor)
 {
-    XLISTCTRLDATA * const cell = ValidCell(row, col);
-    if (cell == nullptr)
-        return false;
-    if (on)
-        cell->MakeLink();
-    else
-        cell->MakePlain();
-    if (setColor)
-        cell->textColor = on ? link_color : unlinked_color;
-    UpdateSubItem(row, col);
-    return true;
+    return m_rows->model.SetHyperlink(row, col, on, setColor);
 }
 
 bool CXListCtrl::SetProgress(int row, int col, bool showText, wchar_t const * format)
 {
-    XLISTCTRLDATA * const cell = ValidCell(row, col);
-    if (cell == nullptr)
-        return false;
-    cell->MakeProgress();
-    cell->progressValue = 0;
-    cell->progressDisplayValue = 0;
-    cell->progressShowText = showText;
-    cell->progressFormat = OrEmpty(format);
-    cell->backgroundColor = m_colorSelection;
-    UpdateSubItem(row, col);
-    return true;
+    return m_rows->model.SetProgress(row, col, showText, format, m_paint->palette.selection);
 }
 
 void CXListCtrl::UpdateProgress(int row, int col, int value, int displayValue)
 {
-    XLISTCTRLDATA * const cell = ValidCell(row, col);
-    if (cell == nullptr)
-        return;
-    cell->progressValue = std::max(value, 0);
-    cell->progressDisplayValue = cell->progressFormat.IsEmpty() ? cell->progressValue : displayValue;
-    UpdateSubItem(row, col);
+    m_rows->model.UpdateProgress(row, col, value, displayValue);
 }
 
 void CXListCtrl::DeleteProgress(int row, int col)
 {
-    XLISTCTRLDATA * const cell = ValidCell(row, col);
-    if (cell == nullptr)
-        return;
-    cell->MakePlain();
-    cell->progressValue = 0;
-    cell->progressDisplayValue = 0;
-    UpdateSubItem(row, col);
+    m_rows->model.DeleteProgress(row, col);
 }
 
 bool CXListCtrl::SetCustomDraw(int row, int col, std::function<void(int, int, CDC *, CRect const &)> painter)
 {
-    XLISTCTRLDATA * const cell = ValidCell(row, col);
-    if (cell == nullptr)
-        return false;
-    cell->properties |= XLP_CUSTOMDRAW;
-    cell->customDraw = std::move(painter);
-    UpdateSubItem(row, col);
-    return true;
+    return m_rows->model.SetCustomDraw(row, col, std::move(painter));
 }
 
 void CXListCtrl::UpdateCustomDraw(int row, int col)
@@ -234,11 +164,25 @@ void CXListCtrl::UpdateCustomDraw(int row, int col)
 
 void CXListCtrl::RemoveCustomDraw(int row, int col)
 {
-    XLISTCTRLDATA * const cell = ValidCell(row, col);
-    if (cell == nullptr)
-        return;
-    cell->properties &= ~XLP_CUSTOMDRAW;
-    cell->customDraw = nullptr;
+    m_rows->model.RemoveCustomDraw(row, col);
+}
+
+bool CXListCtrl::SetCellKind(int row, int col, std::shared_ptr<CXListCellKind> kind)
+{
+    if (ValidCell(row, col) == nullptr)
+        return false;
+    Watch const watch(*this);
+    m_rows->hadKinds = true;
+    RowOf(row)->SetKind(static_cast<unsigned int>(col), std::move(kind));
+    if (watch.IsAlive())
+        UpdateSubItem(row, col);
+    return true;
+}
+
+std::shared_ptr<CXListCellKind> CXListCtrl::GetCellKind(int row, int col) const
+{
+    return m_rows->hadKinds && ValidCell(row, col) != nullptr ? RowOf(row)->Kind(static_cast<unsigned int>(col))
+                                                              : nullptr;
 }
 
 // Combo cells
@@ -274,33 +218,7 @@ bool CXListCtrl::SetComboBoxGlobalStrings(int row, int col, int selectedId, int 
 
 bool CXListCtrl::InitializeComboBox(int row, int col, int selectedId, int defaultId)
 {
-    XLISTCTRLDATA * const cell = ValidCell(row, col);
-    if (cell == nullptr)
-        return false;
-    if (cell->comboStrings.empty())
-    {
-        cell->MakePlain();
-        UpdateSubItem(row, col);
-        return true;
-    }
-    cell->MakeCombo();
-    cell->comboDefaultId = defaultId;
-    auto const entry = cell->comboStrings.find(selectedId);
-    SelectComboEntry(row, col, *cell, entry != cell->comboStrings.end() ? &*entry : nullptr);
-    return true;
-}
-
-// Without an entry the text becomes empty, also where the default id has one, which is meant.
-void CXListCtrl::SelectComboEntry(int row, int col, XLISTCTRLDATA & cell,
-                                  std::pair<int const, wchar_t const *> const * entry)
-{
-    cell.comboCurrentId = entry != nullptr ? entry->first : cell.comboDefaultId;
-    HeldRow held(*this, row);
-    // A copy: the texts are the host's, and it may take them away when it hears of this one.
-    CString const text(entry != nullptr ? OrEmpty(entry->second) : L"");
-    ShowText(row, col, text);
-    if (held.IsListAlive())
-        Repaint(held, col);
+    return m_rows->model.InitializeCombo(row, col, selectedId, defaultId);
 }
 
 bool CXListCtrl::SetComboStyle(int row, int col, bool sorted, int visibleItems)
@@ -315,12 +233,7 @@ bool CXListCtrl::SetComboStyle(int row, int col, bool sorted, int visibleItems)
 
 bool CXListCtrl::SetComboSelection(int row, int col, int id)
 {
-    XLISTCTRLDATA * const cell = ValidCell(row, col);
-    if (cell == nullptr || (cell->properties & XLP_COMBO) == 0)
-        return false;
-    auto const entry = cell->comboStrings.find(id);
-    SelectComboEntry(row, col, *cell, entry != cell->comboStrings.end() ? &*entry : nullptr);
-    return true;
+    return m_rows->model.SelectCombo(row, col, id);
 }
 
 bool CXListCtrl::SetComboSelection(int row, int col, CString const & text)
@@ -332,7 +245,7 @@ bool CXListCtrl::SetComboSelection(int row, int col, CString const & text)
         std::find_if(cell->comboStrings.begin(), cell->comboStrings.end(), [&text](auto const & candidate) {
             return std::wcscmp(OrEmpty(candidate.second), text.GetString()) == 0;
         });
-    SelectComboEntry(row, col, *cell, entry != cell->comboStrings.end() ? &*entry : nullptr);
+    m_rows->model.SelectComboEntry(row, col, *cell, entry != cell->comboStrings.end() ? &*entry : nullptr);
     return true;
 }
 
@@ -344,7 +257,7 @@ int CXListCtrl::GetComboCurSel(int row, int col) const
 
 CString CXListCtrl::GetComboText(int row, int col)
 {
-    return IsValidItem(row, col) ? GetItemText(row, col) : CString();
+    return IsValidItem(row, col) ? CString(ReadCellText(row, col).Characters()) : CString();
 }
 
 // The shared table

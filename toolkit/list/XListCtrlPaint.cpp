@@ -2,49 +2,14 @@
 
 #include <algorithm>
 
-#include "frame/GdiplusModule.h"
-#include "list/CheckMarks.h"
+#include "frame/GraphicsScopes.h"
+#include "list/CellKind.h"
+#include "list/CellPainters.h"
+#include "list/PaintMemory.h"
 #include "list/XListCtrlHold.h"
 
 namespace
 {
-/// The colour stands solid at the left and fades out to the right, not quite to nothing.
-void PaintWash(CDC & dc, CRect const & cell, COLORREF color)
-{
-    constexpr int margin_x = 1;
-    constexpr int margin_y = 2;
-    constexpr float reach = 1.05f;
-    constexpr BYTE nearly_solid = 240;
-    constexpr Gdiplus::REAL positions[] = {0.0f, 0.3f, 1.0f};
-
-    CRect area = cell;
-    area.DeflateRect(margin_x, margin_y);
-    if (area.Width() <= 0 || area.Height() <= 0 || !StartGdiplus())
-        return;
-    Gdiplus::RectF const fill(static_cast<float>(area.left), static_cast<float>(area.top),
-                              static_cast<float>(area.Width()), static_cast<float>(area.Height()));
-    BYTE const red = GetRValue(color);
-    BYTE const green = GetGValue(color);
-    BYTE const blue = GetBValue(color);
-    Gdiplus::Color const colors[] = {Gdiplus::Color(255, red, green, blue),
-                                     Gdiplus::Color(nearly_solid, red, green, blue),
-                                     Gdiplus::Color(0, red, green, blue)};
-
-    Gdiplus::Graphics graphics(dc.GetSafeHdc());
-    graphics.SetSmoothingMode(Gdiplus::SmoothingModeAntiAlias);
-    Gdiplus::LinearGradientBrush brush(Gdiplus::PointF(fill.X, fill.Y),
-                                       Gdiplus::PointF(fill.X + reach * fill.Width, fill.Y), colors[0], colors[2]);
-    brush.SetInterpolationColors(colors, positions, static_cast<INT>(std::size(colors)));
-    graphics.FillRectangle(&brush, fill);
-}
-
-/// What a trough leaves free of its cell, and nothing else fills, since rows are not erased.
-void FillMargin(CDC & dc, CRect const & cell, COLORREF color)
-{
-    dc.FillSolidRect(CRect(cell.left, cell.top, cell.left + 1, cell.bottom), color);
-    dc.FillSolidRect(CRect(cell.left, cell.bottom - 1, cell.right, cell.bottom), color);
-}
-
 /// Fills a cell that the native list is about to draw, since rows are not erased. The context's colours stay.
 void FillNativeCell(CListCtrl & list, HDC target, int row, int col, CRect rect, COLORREF color)
 {
@@ -70,69 +35,20 @@ CRect MovedFirstColumn(CListCtrl & list, CHeaderCtrl const & header)
     }
     return place;
 }
-
-/// Gives a device context its state back at the end of a scope.
-class StateScope
-{
-public:
-    explicit StateScope(CDC & dc) : m_dc(dc), m_saved(dc.SaveDC()) {}
-    ~StateScope() { m_dc.RestoreDC(m_saved); }
-    StateScope(StateScope const &) = delete;
-    StateScope & operator=(StateScope const &) = delete;
-
-private:
-    CDC & m_dc;
-    int m_saved;
-};
 } // namespace
-
-struct CXListCtrl::PaintMemory
-{
-    struct Column
-    {
-        int left;
-        int right;
-        bool edgesKnown = false;
-        UINT format;
-        bool formatKnown = false;
-    };
-    std::vector<Column> columns;
-    int row = -1;
-    int top;
-    int bottom;
-    int topRow = -1;
-    /// Left and right of the first column's place if another column stands ahead of it.
-    int movedLeft = 0;
-    int movedRight = 0;
-    bool movedKnown = false;
-    int stateRow = -1;
-    bool selected;
-    bool focusKnown = false;
-    bool focused;
-
-    Column const * Find(int col) const
-    {
-        auto const index = static_cast<std::size_t>(col);
-        return index < columns.size() ? &columns[index] : nullptr;
-    }
-    Column & ColumnAt(int col)
-    {
-        auto const index = static_cast<std::size_t>(col);
-        if (columns.size() <= index)
-            columns.resize(index + 1);
-        return columns[index];
-    }
-};
 
 /// Remembers for the length of one paint, which may run within another. The list may end before the paint does.
 class CXListCtrl::PaintScope
 {
 public:
-    explicit PaintScope(CXListCtrl & list) : m_watch(list), m_list(list), m_outer(list.m_paint) { list.m_paint = this; }
+    explicit PaintScope(CXListCtrl & list) : m_watch(list), m_list(list), m_outer(list.m_paint->scope)
+    {
+        list.m_paint->scope = this;
+    }
     ~PaintScope()
     {
         if (m_watch.IsThere())
-            m_list.m_paint = m_outer;
+            m_list.m_paint->scope = m_outer;
     }
     PaintScope(PaintScope const &) = delete;
     PaintScope & operator=(PaintScope const &) = delete;
@@ -152,14 +68,14 @@ private:
 void CXListCtrl::PaintScope::ForgetAll()
 {
     for (PaintScope * scope = this; scope != nullptr; scope = scope->m_outer)
-        scope->memory = {};
+        scope->memory.Forget();
 }
 
 // Host code can run at any point of a paint, with the notifications and in painters of its own. Whatever it changes
 // comes here; what painting asks the list for does not change anything.
 void CXListCtrl::HeedMessage(UINT message)
 {
-    if (m_paint == nullptr)
+    if (m_paint->scope == nullptr)
         return;
     switch (message)
     {
@@ -173,29 +89,14 @@ void CXListCtrl::HeedMessage(UINT message)
     case LVM_GETEXTENDEDLISTVIEWSTYLE:
         break;
     default:
-        m_paint->ForgetAll();
+        m_paint->scope->ForgetAll();
         break;
     }
 }
 
 void CXListCtrl::GetColors()
 {
-    m_colorFace = ::GetSysColor(COLOR_BTNFACE);
-    m_colorEdgeHighlight = ::GetSysColor(COLOR_BTNHIGHLIGHT);
-    m_colorEdgeShadow = ::GetSysColor(COLOR_BTNSHADOW);
-    m_colorActiveCaption = ::GetSysColor(COLOR_ACTIVECAPTION);
-    m_colorInactiveSelection = ::GetSysColor(COLOR_BTNFACE);
-    m_colorBarFrame = ::GetSysColor(COLOR_BTNSHADOW);
-    m_colorButtonText = ::GetSysColor(COLOR_BTNTEXT);
-    m_colorDisabled = ::GetSysColor(COLOR_GRAYTEXT);
-    m_colorSelection = ::GetSysColor(COLOR_HIGHLIGHT);
-    m_colorSelectionText = ::GetSysColor(COLOR_HIGHLIGHTTEXT);
-    m_colorInactiveCaption = ::GetSysColor(COLOR_INACTIVECAPTION);
-    m_colorInactiveCaptionText = ::GetSysColor(COLOR_INACTIVECAPTIONTEXT);
-    m_colorWindow = ::GetSysColor(COLOR_WINDOW);
-    m_colorWindowText = ::GetSysColor(COLOR_WINDOWTEXT);
-    m_colorCheckFrame = check_marks::frame_color;
-    m_colorCheckMark = check_marks::tick_color;
+    m_paint->palette = CellPalette::OfSystem();
 }
 
 void CXListCtrl::OnSysColorChange()
@@ -229,12 +130,12 @@ void CXListCtrl::OnCustomDraw(NMHDR * header, LRESULT * result)
         *result = CDRF_SKIPDEFAULT;
         return;
     }
-    if (col == 0 && m_paint != nullptr)
+    if (col == 0 && m_paint->scope != nullptr)
         FillMovedFirstColumn(*CDC::FromHandle(draw.nmcd.hdc), PaintedRect(row, col));
     if (rowData == nullptr || col < 0 || static_cast<unsigned int>(col) >= rowData->capacity())
     {
-        if (m_paint != nullptr)
-            FillNativeCell(*this, draw.nmcd.hdc, row, col, PaintedRect(row, col), m_colorWindow);
+        if (m_paint->scope != nullptr)
+            FillNativeCell(*this, draw.nmcd.hdc, row, col, PaintedRect(row, col), m_paint->palette.window);
         return;
     }
     XLISTCTRLDATA * const cells = rowData->cells();
@@ -242,66 +143,61 @@ void CXListCtrl::OnCustomDraw(NMHDR * header, LRESULT * result)
 
     COLORREF text = cell.textColor;
     COLORREF background = cell.backgroundColor;
-    if ((cell.properties & XLP_ENABLED) == 0)
-    {
-        text = m_colorDisabled;
-        if (background == m_colorWindow)
-            background = m_colorInactiveSelection;
-    }
+    cell_painters::GreyDisabled(cell, m_paint->palette, text, background);
     draw.clrText = text;
     draw.clrTextBk = background;
 
     CDC * const dc = CDC::FromHandle(draw.nmcd.hdc);
     CRect rect = PaintedRect(row, col);
-
-    if ((cell.properties & XLP_PROGRESS) != 0)
+    *result = CDRF_SKIPDEFAULT;
+    if (auto const own = rowData->Kind(static_cast<unsigned int>(col)))
     {
-        if (m_paint != nullptr)
-            FillMargin(*dc, rect, m_colorWindow);
-        rect.left += DrawImage(row, col, dc, text, background, rect, cells);
-        DrawProgress(row, col, dc, text, background, rect, cells);
-    }
-    else if (cell.checkedState >= 0)
-    {
-        DrawCheckbox(row, col, dc, text, background, rect, cells);
-    }
-    else if ((cell.properties & XLP_COMBO) != 0)
-    {
-        rect.left += DrawImage(row, col, dc, text, background, rect, cells);
-        DrawComboBox(row, col, dc, text, background, rect, cells);
-    }
-    else if ((cell.properties & XLP_CUSTOMDRAW) != 0)
-    {
-        // The host's code may change or end anything, the painter itself and this list included.
-        *result = CDRF_SKIPDEFAULT;
-        auto const painter = cell.customDraw;
-        painter(row, col, dc, rect);
+        // The host's code may change or end anything, this list included; the kind is held by the copy.
+        GetDrawColors(row, col, text, background);
+        if (!rect.IsRectEmpty())
+            own->Paint(cell, *dc, rect, text, background);
         return;
     }
-    else
+    switch (PaintedKind(cell))
     {
+    case CellKind::progress:
+        if (m_paint->scope != nullptr)
+            cell_painters::FillMargin(*dc, rect, m_paint->palette.window);
+        rect.left += DrawImage(row, col, dc, text, background, rect, cells);
+        DrawProgress(row, col, dc, text, background, rect, cells);
+        break;
+    case CellKind::check:
+    case CellKind::radio:
+        DrawCheckbox(row, col, dc, text, background, rect, cells);
+        break;
+    case CellKind::combo:
+        rect.left += DrawImage(row, col, dc, text, background, rect, cells);
+        DrawComboBox(row, col, dc, text, background, rect, cells);
+        break;
+    case CellKind::custom: {
+        // The host's code may change or end anything, the painter itself and this list included.
+        auto const painter = cell.customDraw;
+        painter(row, col, dc, rect);
+        break;
+    }
+    case CellKind::text:
+    case CellKind::edit:
+    case CellKind::link:
         rect.left += DrawImage(row, col, dc, text, background, rect, cells);
         DrawTextW(row, col, dc, text, background, rect, cells);
+        break;
     }
-    *result = CDRF_SKIPDEFAULT;
 }
 
 // A first column that stands behind others is painted where they stand, up to the second column. Its own place would
 // keep whatever was there before.
 void CXListCtrl::FillMovedFirstColumn(CDC & dc, CRect const & row)
 {
-    PaintMemory & memory = m_paint->memory;
-    if (!memory.movedKnown)
-    {
-        CRect const place = MovedFirstColumn(*this, m_header);
-        memory.movedLeft = place.left;
-        memory.movedRight = place.right;
-        memory.movedKnown = true;
-    }
-    if (memory.movedLeft >= memory.movedRight)
+    CRect const place = m_paint->scope->memory.MovedFirstColumn([this] { return MovedFirstColumn(*this, m_header); });
+    if (place.left >= place.right)
         return;
     COLORREF const former = dc.GetBkColor();
-    dc.FillSolidRect(CRect(memory.movedLeft, row.top, memory.movedRight, row.bottom), m_colorWindow);
+    dc.FillSolidRect(CRect(place.left, row.top, place.right, row.bottom), m_paint->palette.window);
     dc.SetBkColor(former);
 }
 
@@ -313,109 +209,77 @@ void CXListCtrl::GetDrawColors(int row, int col, COLORREF & text, COLORREF & bac
         return;
     if (HasFocus())
     {
-        text = m_colorSelectionText;
-        background = m_colorSelection;
+        text = m_paint->palette.selectionText;
+        background = m_paint->palette.selection;
     }
     else if ((GetStyle() & LVS_SHOWSELALWAYS) != 0)
     {
-        text = m_colorWindowText;
-        background = m_colorInactiveSelection;
+        text = m_paint->palette.windowText;
+        background = m_paint->palette.inactiveSelection;
     }
 }
 
-void CXListCtrl::FillCell(int row, int col, CDC & dc, COLORREF & text, COLORREF & background, CRect const & rect,
-                          XLISTCTRLDATA const & cell)
+CellPaint CXListCtrl::PaintOf(int row, int col, CDC & dc, COLORREF text, COLORREF background, CRect const & rect,
+                              XLISTCTRLDATA const & cell)
 {
     GetDrawColors(row, col, text, background);
-    dc.FillSolidRect(rect, background);
-    if (cell.gradientColor != XLISTCTRLDATA::no_gradient)
-        PaintWash(dc, rect, cell.gradientColor);
+    return {dc, cell, rect, text, background};
 }
 
 UINT CXListCtrl::TextFormat(int col) const
 {
-    UINT const ellipsis = m_ellipsis ? DT_END_ELLIPSIS : 0;
-    if (m_paint == nullptr || col < 0)
-        return AskTextFormat(col) | ellipsis;
-    if (PaintMemory::Column const * const known = m_paint->memory.Find(col); known != nullptr && known->formatKnown)
-        return known->format | ellipsis;
-    UINT const format = AskTextFormat(col);
-    PaintMemory::Column & column = m_paint->memory.ColumnAt(col);
-    column.format = format;
-    column.formatKnown = true;
-    return format | ellipsis;
+    PaintScope * const paint = col >= 0 ? m_paint->scope : nullptr;
+    auto const ask = [this, col] { return AskAlignment(col); };
+    return cell_painters::TextFormat(paint != nullptr ? paint->memory.Alignment(col, ask) : ask(), m_ellipsis);
 }
 
-// Within one paint all cells of a row share its top and bottom, and all cells of a column its left and right.
 CRect CXListCtrl::PaintedRect(int row, int col)
 {
-    CRect rect(0, 0, 0, 0);
-    if (m_paint != nullptr && m_paint->memory.row == row)
+    PaintScope * const paint = m_paint->scope;
+    if (paint != nullptr)
     {
-        PaintMemory::Column const * const known = m_paint->memory.Find(col);
-        if (known != nullptr && known->edgesKnown)
-            return CRect(known->left, m_paint->memory.top, known->right, m_paint->memory.bottom);
+        if (auto const known = paint->memory.Bounds(row, col))
+            return *known;
     }
-    if (!GetSubItemRect(row, col, LVIR_BOUNDS, rect) || m_paint == nullptr)
-        return rect;
-    m_paint->memory.row = row;
-    m_paint->memory.top = rect.top;
-    m_paint->memory.bottom = rect.bottom;
-    PaintMemory::Column & column = m_paint->memory.ColumnAt(col);
-    column.left = rect.left;
-    column.right = rect.right;
-    column.edgesKnown = true;
+    CRect rect(0, 0, 0, 0);
+    if (GetSubItemRect(row, col, LVIR_BOUNDS, rect) && paint != nullptr)
+        paint->memory.RememberBounds(row, col, rect);
     return rect;
 }
 
 bool CXListCtrl::IsAboveTop(int row)
 {
-    if (m_paint == nullptr)
+    if (m_paint->scope == nullptr)
         return false;
-    if (m_paint->memory.topRow < 0)
-        m_paint->memory.topRow = GetTopIndex();
-    return row < m_paint->memory.topRow;
+    return row < m_paint->scope->memory.TopRow([this] { return GetTopIndex(); });
 }
 
 bool CXListCtrl::IsSelected(int row)
 {
-    if (m_paint == nullptr)
-        return GetItemState(row, LVIS_SELECTED) != 0;
-    if (m_paint->memory.stateRow != row)
-    {
-        m_paint->memory.selected = GetItemState(row, LVIS_SELECTED) != 0;
-        m_paint->memory.stateRow = row;
-    }
-    return m_paint->memory.selected;
+    auto const ask = [this, row] { return GetItemState(row, LVIS_SELECTED) != 0; };
+    return m_paint->scope != nullptr ? m_paint->scope->memory.IsSelected(row, ask) : ask();
 }
 
 bool CXListCtrl::HasFocus()
 {
-    if (m_paint == nullptr)
-        return ::GetFocus() == m_hWnd;
-    if (!m_paint->memory.focusKnown)
-    {
-        m_paint->memory.focused = ::GetFocus() == m_hWnd;
-        m_paint->memory.focusKnown = true;
-    }
-    return m_paint->memory.focused;
+    auto const ask = [this] { return ::GetFocus() == m_hWnd; };
+    return m_paint->scope != nullptr ? m_paint->scope->memory.HasFocus(ask) : ask();
 }
 
-UINT CXListCtrl::AskTextFormat(int col) const
+UINT CXListCtrl::AskAlignment(int col) const
 {
-    UINT const format = DT_NOPREFIX | DT_SINGLELINE | DT_VCENTER;
     HDITEMW item = {};
     item.mask = HDI_FORMAT;
     if (m_header.GetSafeHwnd() == nullptr || !m_header.GetItem(col, &item))
-        return format;
+        return DT_LEFT;
     switch (item.fmt & HDF_JUSTIFYMASK)
     {
     case HDF_CENTER:
-        return format | DT_CENTER;
+        return DT_CENTER;
     case HDF_RIGHT:
-        return format | DT_RIGHT;
+        return DT_RIGHT;
     default:
-        return format;
+        return DT_LEFT;
     }
 }
 
@@ -441,7 +305,7 @@ BOOL CXListCtrl::OnEraseBkgnd(CDC * dc)
     {
         CRect visible;
         if (visible.IntersectRect(strip, clip))
-            dc->FillSolidRect(visible, m_colorWindow);
+            dc->FillSolidRect(visible, m_paint->palette.window);
     }
     return TRUE;
 }
@@ -460,7 +324,7 @@ void CXListCtrl::OnPaint()
         return;
 
     CClientDC dc(this);
-    StateScope const state(dc);
+    ContextStateScope const state(dc);
     CRect rect;
     GetWindowRect(&rect);
     ScreenToClient(&rect);
@@ -472,10 +336,10 @@ void CXListCtrl::OnPaint()
     }
     rect.top += gap_below_header;
 
-    CBrush brush(m_colorWindow);
+    CBrush brush(m_paint->palette.window);
     dc.FillRect(rect, &brush);
-    dc.SetTextColor(m_colorWindowText);
-    dc.SetBkColor(m_colorWindow);
+    dc.SetTextColor(m_paint->palette.windowText);
+    dc.SetBkColor(m_paint->palette.window);
     dc.SelectStockObject(ANSI_VAR_FONT);
     dc.DrawText(m_emptyListText, &rect, DT_CENTER | DT_WORDBREAK | DT_NOCLIP | DT_NOPREFIX);
 }

@@ -29,7 +29,7 @@ int CXListCtrl::InsertItem(int pos, wchar_t const * text, COLORREF textColor, CO
 
 int CXListCtrl::InsertItem(int pos, wchar_t const * text, void const * ptr, long long data)
 {
-    return InsertItem(pos, text, m_colorWindowText, m_colorWindow, ptr, data);
+    return InsertItem(pos, text, m_paint->palette.windowText, m_paint->palette.window, ptr, data);
 }
 
 int CXListCtrl::AddItem(wchar_t const * text, void const * ptr, long long data)
@@ -41,8 +41,8 @@ int CXListCtrl::InsertItem(LVITEMW const * item)
 {
     if (item == nullptr || item->iItem < 0)
         return -1;
-    return InsertWithRow(*item, m_colorWindowText, m_colorWindow, item->iImage, reinterpret_cast<void *>(item->lParam),
-                         0);
+    return InsertWithRow(*item, m_paint->palette.windowText, m_paint->palette.window, item->iImage,
+                         reinterpret_cast<void *>(item->lParam), 0);
 }
 
 int CXListCtrl::InsertWithRow(LVITEMW item, COLORREF text, COLORREF background, int image, void const * ptr,
@@ -61,7 +61,7 @@ int CXListCtrl::InsertWithRow(LVITEMW item, COLORREF text, COLORREF background, 
     item.mask |= LVIF_PARAM;
     item.lParam = reinterpret_cast<LPARAM>(row);
     Watch const watch(*this);
-    unsigned long long const changes = m_rowChanges;
+    unsigned long long const changes = m_rows->model.memory.Changes();
     unsigned int const use = row->use();
     int index = -1;
     {
@@ -72,12 +72,12 @@ int CXListCtrl::InsertWithRow(LVITEMW item, COLORREF text, COLORREF background, 
         return -1;
     // The insertion itself is the only change, as always but for a host that changes rows when it hears of it; one that
     // was refused before it reached the native list is none.
-    if (m_rowChanges == changes + 1 || (index < 0 && m_rowChanges == changes))
+    if (m_rows->model.memory.Changes() == changes + 1 || (index < 0 && m_rows->model.memory.Changes() == changes))
     {
         if (index < 0)
-            m_rowPool.GiveBack(row);
+            m_rows->model.pool.GiveBack(row);
         else
-            RememberRow(index, row);
+            m_rows->model.memory.Remember(index, row);
         return index;
     }
     PutRowsInOrder();
@@ -86,10 +86,7 @@ int CXListCtrl::InsertWithRow(LVITEMW item, COLORREF text, COLORREF background, 
 
 XLISTCTRLROW * CXListCtrl::TakeRow()
 {
-    XLISTCTRLROW * const row = m_rowPool.Take();
-    // Also a list without columns keeps its rows' words.
-    row->Prepare(static_cast<unsigned int>(std::max(m_columnCount, 1)));
-    return row;
+    return m_rows->model.TakeRow();
 }
 
 int CXListCtrl::DeleteItem(int row)
@@ -100,9 +97,9 @@ int CXListCtrl::DeleteItem(int row)
     if (row < 0 || m_hWnd == nullptr || !AskNative(LVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&item)))
         return FALSE;
     Watch const watch(*this);
-    unsigned long long expected = m_rowChanges;
+    unsigned long long expected = m_rows->model.memory.Changes();
     auto const * const given = reinterpret_cast<XLISTCTRLROW const *>(item.lParam);
-    bool const own = given != nullptr && (RowsAreKnown() || m_rowPool.Owns(given));
+    bool const own = given != nullptr && (RowsAreKnown() || m_rows->model.pool.Owns(given));
     LRESULT const id = AskNative(LVM_MAPINDEXTOID, static_cast<WPARAM>(row), 0);
     if (given != nullptr)
     {
@@ -112,16 +109,17 @@ int CXListCtrl::DeleteItem(int row)
     if (!watch.IsAlive())
         return FALSE;
     // The host may have heard of it and have moved rows.
-    int const place = m_rowChanges == expected ? row : static_cast<int>(MapIDToIndex(static_cast<UINT>(id)));
-    m_ownRowChange = true;
+    int const place =
+        m_rows->model.memory.Changes() == expected ? row : static_cast<int>(MapIDToIndex(static_cast<UINT>(id)));
+    m_rows->ownChange = true;
     BOOL const deleted = CListCtrl::DeleteItem(place);
     if (!watch.IsAlive())
         return deleted;
-    m_ownRowChange = false;
-    if (m_rowChanges != expected + 1)
+    m_rows->ownChange = false;
+    if (m_rows->model.memory.Changes() != expected + 1)
         PutRowsInOrder();
     else if (own)
-        m_rowPool.GiveBack(given);
+        m_rows->model.pool.GiveBack(given);
     return deleted;
 }
 
@@ -129,23 +127,23 @@ int CXListCtrl::DeleteAllItems()
 {
     if (m_hWnd == nullptr)
     {
-        m_rowPool.GiveBackAll();
+        m_rows->model.pool.GiveBackAll();
         return FALSE;
     }
     Watch const watch(*this);
     // Rows stay in use until no native item shows them any more: the host hears of each one that goes.
-    m_ownRowChange = true;
+    m_rows->ownChange = true;
     BOOL const deleted = CListCtrl::DeleteAllItems();
     if (!watch.IsAlive())
         return deleted;
-    m_ownRowChange = false;
-    if (RowCount() != 0 || !m_pinned.empty())
+    m_rows->ownChange = false;
+    if (RowCount() != 0 || !m_rows->pinned.empty())
     {
         PutRowsInOrder();
         return deleted;
     }
-    m_rowPool.GiveBackAll();
-    m_rowsInStep = true;
+    m_rows->model.pool.GiveBackAll();
+    m_rows->model.memory.SetInStep(true);
     return deleted;
 }
 
@@ -157,9 +155,9 @@ void CXListCtrl::PutRowsInOrder(std::span<XLISTCTRLROW * const> spares)
     Watch const watch(*this);
     for (int tries = 0; tries < most_tries; ++tries)
     {
-        unsigned long long changes = m_rowChanges;
+        unsigned long long changes = m_rows->model.memory.Changes();
         std::vector<int> const sharing = GiveBackUnshownRows();
-        if (m_rowSwaps != 0)
+        if (m_drag->rowSwaps != 0)
             return;
         for (int const row : sharing)
         {
@@ -170,10 +168,10 @@ void CXListCtrl::PutRowsInOrder(std::span<XLISTCTRLROW * const> spares)
             SetNativeParam(row, object);
             if (!watch.IsAlive())
                 return;
-            if (m_rowChanges != ++changes)
+            if (m_rows->model.memory.Changes() != ++changes)
                 break;
         }
-        if (m_rowChanges == changes)
+        if (m_rows->model.memory.Changes() == changes)
             return;
     }
 }
@@ -190,12 +188,12 @@ std::vector<int> CXListCtrl::GiveBackUnshownRows()
             sharing.push_back(row);
     }
     std::size_t inUse = 0;
-    m_rowPool.KeepOnly([&](XLISTCTRLROW const & row) {
+    m_rows->model.pool.KeepOnly([&](XLISTCTRLROW const & row) {
         bool const isShown = shown.contains(&row);
         inUse += isShown ? 1 : 0;
-        return isShown || std::find(m_pinned.begin(), m_pinned.end(), &row) != m_pinned.end();
+        return isShown || std::find(m_rows->pinned.begin(), m_rows->pinned.end(), &row) != m_rows->pinned.end();
     });
-    m_rowsInStep = sharing.empty() && inUse == shown.size();
+    m_rows->model.memory.SetInStep(sharing.empty() && inUse == shown.size());
     return sharing;
 }
 

@@ -59,8 +59,8 @@ void CXListCtrl::SortByColumn(int col, bool ascending, bool setMark, int (*compa
         SetHeaderRemoveAllMarks();
     if (col < 0 || col >= m_columnCount)
         return;
-    m_sortColumn = col;
-    m_sortAscending = ascending;
+    m_sort->column = col;
+    m_sort->ascending = ascending;
     Watch const watch(*this);
     if (m_hWnd != nullptr && compare == nullptr)
         SortByCells(col, ascending);
@@ -159,9 +159,9 @@ void CXListCtrl::ApplyOrder(std::vector<int> const & order)
     {
         if (rows[i] != nullptr)
             continue;
-        if (m_standInsInUse == m_standIns.size())
-            m_standIns.push_back(std::make_unique<XLISTCTRLROW>());
-        rows[i] = m_standIns[m_standInsInUse++].get();
+        if (m_sort->standInsInUse == m_sort->standIns.size())
+            m_sort->standIns.push_back(std::make_unique<XLISTCTRLROW>());
+        rows[i] = m_sort->standIns[m_sort->standInsInUse++].get();
         replaced.emplace_back(rows[i], NativeParam(static_cast<int>(i)));
         complete = SetNativeParam(static_cast<int>(i), rows[i]) && complete;
         if (!watch.IsThere())
@@ -194,7 +194,7 @@ void CXListCtrl::ApplyOrder(std::vector<int> const & order)
     }
     // What the host hears of meanwhile may sort as well, with others.
     if (watch.IsThere())
-        m_standInsInUse -= replaced.size();
+        m_sort->standInsInUse -= replaced.size();
     if (watch.IsAlive() && watch.Changes() != expected)
         PutRowsInOrder();
 }
@@ -202,7 +202,7 @@ void CXListCtrl::ApplyOrder(std::vector<int> const & order)
 bool CXListCtrl::SetNativeParam(int row, XLISTCTRLROW const * object)
 {
     Watch const watch(*this);
-    m_ownRowChange = true;
+    m_rows->ownChange = true;
     LVITEMW item{};
     item.mask = LVIF_PARAM;
     item.iItem = row;
@@ -210,6 +210,6 @@ bool CXListCtrl::SetNativeParam(int row, XLISTCTRLROW const * object)
     // Straight to where the native list hears of it: rows are deleted by the thousand.
     bool const set = CXListCtrl::DefWindowProc(LVM_SETITEMW, 0, reinterpret_cast<LPARAM>(&item)) != FALSE;
     if (watch.IsThere())
-        m_ownRowChange = false;
+        m_rows->ownChange = false;
     return set;
 }

@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <iterator>
 
+#include "list/XListCtrlState.h"
+
 namespace
 {
 /// Texts of this length or more don't fit the tooltip structure's own buffer.
@@ -40,11 +42,7 @@ CString CXListCtrl::GetItemToolTipText(int row, int col)
 
 void CXListCtrl::DeleteAllToolTips()
 {
-    VisitRows([this](XLISTCTRLROW const & row) {
-        int const columns = std::min(m_columnCount, static_cast<int>(row.capacity()));
-        for (int col = 0; col < columns; ++col)
-            row.cells()[col].toolTipText.Empty();
-    });
+    m_rows->model.DeleteAllToolTips();
 }
 
 INT_PTR CXListCtrl::OnToolHitTest(CPoint point, TOOLINFO * info) const

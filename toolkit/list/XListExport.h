@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "list/CellKind.h"
 #include "list/XListCtrlData.h"
 
 /// Characters of a title or of a text shown that are exported; the rest is cut.
@@ -37,15 +38,19 @@ template <class DateText, class ShownText> std::wstring ExportedCell(XLISTCTRLDA
                                                                      std::wstring_view decimalSign,
                                                                      DateText && dateText, ShownText && shownText)
 {
-    switch (cell.valueType)
+    switch (ExportedValue(cell))
     {
-    case XLV_INT:
+    case CellValue::integer:
         return ExportedNumber(cell.intValue);
-    case XLV_FLOAT:
+    case CellValue::real:
         return ExportedNumber(cell.floatValue, decimalSign);
-    case XLV_DATETIME:
+    case CellValue::time:
         return std::wstring(dateText(cell.timeValue));
-    default:
-        return std::wstring(ExportedText(shownText()));
+    case CellValue::text:
+    case CellValue::percent:
+    case CellValue::own:
+    case CellValue::none:
+        break;
     }
+    return std::wstring(ExportedText(shownText()));
 }

@@ -1,22 +1,5 @@
 #include "list/XListInput.h"
 
-CellPress DecidePress(XLISTCTRLDATA const & cell)
-{
-    if ((cell.properties & XLP_ENABLED) == 0)
-        return CellPress::ignored;
-    if ((cell.properties & XLP_COMBO) != 0)
-        return CellPress::open_combo;
-    if ((cell.properties & XLP_EDIT) != 0)
-        return CellPress::open_edit;
-    if ((cell.properties & XLP_LINK) != 0)
-        return CellPress::follow_link;
-    if (cell.checkedState == XLC_UNCHECKED || cell.checkedState == XLC_CHECKED)
-        return CellPress::flip_check;
-    if (cell.checkedState == XLC_RADIO_OFF)
-        return CellPress::switch_radio_on;
-    return CellPress::select_only;
-}
-
 HeaderPress DecideHeaderPress(int headerState, bool autoCheckbox)
 {
     bool const drives = headerState == XHC_UNCHECKED || headerState == XHC_CHECKED || headerState == XHC_MIXED;

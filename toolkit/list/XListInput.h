@@ -1,25 +1,10 @@
 #pragma once
-// What a mouse press or a key means for a list, as decisions that know no window.
+// What a press on a header or a key means for a list, and how headers follow cells, as decisions that know no window.
+// What a press on a cell means is in CellKind.h.
 
 #include <functional>
 
 #include "list/XListCtrlData.h"
-
-/// What a left press on a cell does.
-enum class CellPress
-{
-    /// Swallowed: the cell is disabled.
-    ignored,
-    open_combo,
-    open_edit,
-    follow_link,
-    flip_check,
-    switch_radio_on,
-    /// The row is selected and nothing else happens.
-    select_only
-};
-
-CellPress DecidePress(XLISTCTRLDATA const & cell);
 
 /// The state that a press on a column's header gives the column's cells and header.
 struct HeaderPress

@@ -6,6 +6,7 @@
 void XLISTCTRLROW::Prepare(unsigned int columns)
 {
     ++m_use;
+    m_kinds.reset();
     if (columns > m_capacity)
     {
         m_cells = std::make_unique<XLISTCTRLDATA[]>(columns);
@@ -14,6 +15,43 @@ void XLISTCTRLROW::Prepare(unsigned int columns)
     }
     for (unsigned int i = 0; i < m_capacity; ++i)
         m_cells[i].Recycle();
+}
+
+void XLISTCTRLROW::SetKind(unsigned int col, std::shared_ptr<CXListCellKind> kind)
+{
+    if (m_kinds == nullptr)
+    {
+        if (kind == nullptr)
+            return;
+        m_kinds = std::make_unique<std::vector<std::shared_ptr<CXListCellKind>>>();
+    }
+    if (m_kinds->size() <= col)
+        m_kinds->resize(col + 1);
+    // The former one ends last: its end may run the host's code.
+    (*m_kinds)[col].swap(kind);
+}
+
+void XLISTCTRLROW::InsertCell(unsigned int col)
+{
+    if (col == 0 || col > m_capacity)
+        return;
+    auto cells = std::make_unique<XLISTCTRLDATA[]>(m_capacity + 1);
+    std::move(m_cells.get(), m_cells.get() + col, cells.get());
+    std::move(m_cells.get() + col, m_cells.get() + m_capacity, cells.get() + col + 1);
+    m_cells = std::move(cells);
+    ++m_capacity;
+    if (m_kinds != nullptr && col < m_kinds->size())
+        m_kinds->insert(m_kinds->begin() + static_cast<std::ptrdiff_t>(col), nullptr);
+}
+
+void XLISTCTRLROW::RemoveCell(unsigned int col)
+{
+    if (col == 0 || col >= m_capacity)
+        return;
+    std::move(m_cells.get() + col + 1, m_cells.get() + m_capacity, m_cells.get() + col);
+    m_cells[m_capacity - 1] = XLISTCTRLDATA();
+    if (m_kinds != nullptr && col < m_kinds->size())
+        m_kinds->erase(m_kinds->begin() + static_cast<std::ptrdiff_t>(col));
 }
 
 CXListRowPool::CXListRowPool(std::size_t capacity)

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstdint>
 #include <cwchar>
+#include <optional>
 #include <type_traits>
 
 namespace
@@ -22,22 +23,31 @@ long long Ordered(float value)
     return bits >= 0 ? bits : bits ^ 0x7FFFFFFF;
 }
 
-/// What CompareValues goes by, as one number.
-long long OrderedValue(XLISTCTRLDATA const & cell)
+/// What CompareValues goes by, as one number; own: what the host's kind says.
+long long OrderedValue(XLISTCTRLDATA const & cell, CellValue value, long long own)
 {
-    if ((cell.properties & XLP_PROGRESS) != 0)
-        return cell.progressValue;
-    switch (cell.valueType)
+    switch (value)
     {
-    case XLV_INT:
+    case CellValue::percent:
+        return cell.progressValue;
+    case CellValue::integer:
         return cell.intValue;
-    case XLV_FLOAT:
+    case CellValue::real:
         return Ordered(cell.floatValue);
-    case XLV_DATETIME:
+    case CellValue::time:
         return cell.timeValue.GetTime();
-    default:
-        return 0;
+    case CellValue::own:
+        return own;
+    case CellValue::text:
+    case CellValue::none:
+        break;
     }
+    return 0;
+}
+
+std::optional<long long> OwnValue(XLISTCTRLDATA const & cell, CXListCellKind const * kind)
+{
+    return kind != nullptr ? kind->SortValue(cell) : std::nullopt;
 }
 
 /// The first characters of a text as one number that is the greater the further behind the text belongs. Shorter texts
@@ -58,14 +68,15 @@ long long OrderedStart(wchar_t const * text)
 }
 } // namespace
 
-ListSortKey::ListSortKey(XLISTCTRLDATA const * cell) : hasCell(cell != nullptr)
+ListSortKey::ListSortKey(XLISTCTRLDATA const * cell, CXListCellKind const * kind) : hasCell(cell != nullptr)
 {
     if (cell == nullptr)
         return;
     sortsFirst = (cell->properties & XLP_SORT_FIRST) != 0;
     sortsLast = (cell->properties & XLP_SORT_LAST) != 0;
-    isProgress = (cell->properties & XLP_PROGRESS) != 0;
-    valueType = cell->valueType;
+    std::optional<long long> const said = OwnValue(*cell, kind);
+    value = said ? CellValue::own : SortedValue(*cell);
+    own = said.value_or(0);
     progressValue = cell->progressValue;
     intValue = cell->intValue;
     floatValue = cell->floatValue;
@@ -74,19 +85,23 @@ ListSortKey::ListSortKey(XLISTCTRLDATA const * cell) : hasCell(cell != nullptr)
 
 int CompareValues(ListSortKey const & a, ListSortKey const & b)
 {
-    if (a.isProgress)
-        return Compare(a.progressValue, b.progressValue);
-    switch (a.valueType)
+    switch (a.value)
     {
-    case XLV_INT:
+    case CellValue::percent:
+        return Compare(a.progressValue, b.progressValue);
+    case CellValue::integer:
         return Compare(a.intValue, b.intValue);
-    case XLV_FLOAT:
+    case CellValue::real:
         return Compare(a.floatValue, b.floatValue);
-    case XLV_DATETIME:
+    case CellValue::time:
         return Compare(a.timeValue, b.timeValue);
-    default:
-        return 0;
+    case CellValue::own:
+        return Compare(a.own, b.own);
+    case CellValue::text:
+    case CellValue::none:
+        break;
     }
+    return 0;
 }
 
 CListRowOrder::CListRowOrder(unsigned int col, bool ascending) : m_col(col), m_ascending(ascending) {}
@@ -105,19 +120,16 @@ void CListRowOrder::Add(XLISTCTRLROW & row)
     }
     else
     {
-        bool const progress = (cell->properties & XLP_PROGRESS) != 0;
+        std::optional<long long> const own = OwnValue(*cell, row.Kind(m_col).get());
+        CellValue const value = own ? CellValue::own : SortedValue(*cell);
         if (m_plainCells++ == 0)
-        {
-            m_progress = progress;
-            m_valueType = cell->valueType;
-        }
+            m_value = value;
         // A NaN equals numbers that differ.
-        if (progress != m_progress || (!progress && cell->valueType != m_valueType) ||
-            (!progress && cell->valueType == XLV_FLOAT && std::isnan(cell->floatValue)))
+        if (value != m_value || (value == CellValue::real && std::isnan(cell->floatValue)))
             m_mixed = true;
-        if (!progress && cell->valueType == XLV_TEXT)
+        if (value == CellValue::text)
             m_textCells = true;
-        mark.value = OrderedValue(*cell);
+        mark.value = OrderedValue(*cell, value, own.value_or(0));
         if (!m_ascending)
             mark.value = ~mark.value;
     }
@@ -165,7 +177,7 @@ void CListRowOrder::EndTexts()
 
 int CListRowOrder::CompareCells(XLISTCTRLROW const & a, XLISTCTRLROW const & b) const
 {
-    return CompareRows(ListSortKey(CellOf(a)), ListSortKey(CellOf(b)), m_ascending, [this, &a, &b] {
+    return CompareRows(KeyOf(a), KeyOf(b), m_ascending, [this, &a, &b] {
         return std::wcscmp(&m_texts[a.sortMark().text], &m_texts[b.sortMark().text]);
     });
 }

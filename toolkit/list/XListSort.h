@@ -8,20 +8,22 @@
 #include <utility>
 #include <vector>
 
+#include "list/CellKind.h"
+#include "list/XListCellKind.h"
 #include "list/XListCtrlData.h"
 #include "list/XListRowPool.h"
 
 /// What a row is sorted by: what its cell in the sorted column holds, apart from the text shown.
 struct ListSortKey
 {
-    /// Null for a row without that cell.
-    explicit ListSortKey(XLISTCTRLDATA const * cell);
+    /// cell: null for a row without that cell. kind: the host's own one of the cell, if it has one.
+    explicit ListSortKey(XLISTCTRLDATA const * cell, CXListCellKind const * kind = nullptr);
 
     bool hasCell;
     bool sortsFirst = false;
     bool sortsLast = false;
-    bool isProgress = false;
-    unsigned int valueType = XLV_TEXT;
+    CellValue value = CellValue::text;
+    long long own = 0;
     int progressValue = 0;
     int intValue = 0;
     float floatValue = 0;
@@ -44,7 +46,7 @@ int CompareRows(ListSortKey const & a, ListSortKey const & b, bool ascending, Co
         return static_cast<int>(a.sortsLast) - static_cast<int>(b.sortsLast);
     if (a.sortsFirst || b.sortsFirst)
         return static_cast<int>(b.sortsFirst) - static_cast<int>(a.sortsFirst);
-    int const order = a.isProgress || a.valueType != XLV_TEXT ? CompareValues(a, b) : compareTexts();
+    int const order = a.value != CellValue::text ? CompareValues(a, b) : compareTexts();
     if (order == 0)
         return 0;
     return (order < 0) == ascending ? -1 : 1;
@@ -86,6 +88,7 @@ private:
     {
         return m_col < row.capacity() ? row.cells() + m_col : nullptr;
     }
+    ListSortKey KeyOf(XLISTCTRLROW const & row) const { return ListSortKey(CellOf(row), row.Kind(m_col).get()); }
     int CompareCells(XLISTCTRLROW const & a, XLISTCTRLROW const & b) const;
     int CompareTexts(XLISTCTRLROW const & a, XLISTCTRLROW const & b) const;
 
@@ -96,8 +99,8 @@ private:
     bool m_textCells = false;
     /// Cells that sort neither first nor last.
     std::size_t m_plainCells = 0;
-    bool m_progress = false;
-    unsigned int m_valueType = XLV_TEXT;
+    /// Of the first of them.
+    CellValue m_value = CellValue::text;
     /// All texts, each with its end; the empty one comes first.
     std::vector<wchar_t> m_texts{L'\0'};
     std::vector<XLISTCTRLROW *> m_rowsWithText;

@@ -17,10 +17,10 @@ constexpr std::int32_t colon_segment_count = 3;
 
 // Blank, digits from 1 on, "-", "_" and the degree sign. "_" lights the middle bar as "-" does, and the degree sign
 // has no upper right segment but a bottom, and a bit without a segment; both are meant.
-constexpr std::uint8_t SevenSegmentMasks[] = {0x00, 0x77, 0x24, 0x5D, 0x6D, 0x2E, 0x6B,
-                                              0x7B, 0x25, 0x7F, 0x6F, 0x08, 0x08, 0xC3};
+constexpr std::uint8_t seven_segment_masks[] = {0x00, 0x77, 0x24, 0x5D, 0x6D, 0x2E, 0x6B,
+                                                0x7B, 0x25, 0x7F, 0x6F, 0x08, 0x08, 0xC3};
 
-constexpr std::uint16_t FourteenSegmentMasks[] = {
+constexpr std::uint16_t fourteen_segment_masks[] = {
     0x0000,                                                                 // blank
     0x3F00, 0x1800, 0x36C0, 0x3CC0, 0x19C0, 0x2DC0, 0x2FC0, 0x3800, 0x3FC0, // 0 to 8
     0x3DC0, 0x00C0,                                                         // 9 -
@@ -32,7 +32,7 @@ constexpr std::uint16_t FourteenSegmentMasks[] = {
     0x241E,                                                                 // anything else
 };
 
-constexpr std::uint8_t ColonDotMasks[] = {0x04, 0x03};
+constexpr std::uint8_t colon_dot_masks[] = {0x04, 0x03};
 
 constexpr std::size_t first_digit_index = 1;
 constexpr std::size_t first_letter_index = 12;
@@ -40,8 +40,8 @@ constexpr std::size_t unknown_index = 50;
 constexpr std::size_t dot_index = 0;
 constexpr std::size_t colon_index = 1;
 
-static_assert(std::size(SevenSegmentMasks) == 14);
-static_assert(std::size(FourteenSegmentMasks) == unknown_index + 1);
+static_assert(std::size(seven_segment_masks) == 14);
+static_assert(std::size(fourteen_segment_masks) == unknown_index + 1);
 
 constexpr wchar_t degree_sign = 0xB0;
 constexpr wchar_t superscript_two = 0xB2;
@@ -93,8 +93,8 @@ template <class Character> CDigiChar * Create(unsigned short mask, unsigned long
 CDigiChar * CreateCommon(std::size_t sevenIndex, std::size_t fourteenIndex, unsigned long style)
 {
     if ((style & DigiStyleAlways14) != 0)
-        return Create<CDigi14Segment>(FourteenSegmentMasks[fourteenIndex], style);
-    return Create<CDigi7Segment>(SevenSegmentMasks[sevenIndex], style);
+        return Create<CDigi14Segment>(fourteen_segment_masks[fourteenIndex], style);
+    return Create<CDigi7Segment>(seven_segment_masks[sevenIndex], style);
 }
 
 bool IsRounded(unsigned long style)
@@ -177,11 +177,11 @@ CDigiChar * CreateDigiChar(wchar_t character, unsigned long style)
     if (isLower || IsWithin(character, L'A', L'Z'))
     {
         std::size_t const letter = OffsetIn(character, isLower ? L'a' : L'A');
-        return Create<CDigi14Segment>(FourteenSegmentMasks[first_letter_index + letter], style);
+        return Create<CDigi14Segment>(fourteen_segment_masks[first_letter_index + letter], style);
     }
     if (character == L'.' || character == L':')
-        return Create<CDigiColonDotChar>(ColonDotMasks[character == L'.' ? dot_index : colon_index], style);
-    return Create<CDigi14Segment>(FourteenSegmentMasks[IndexOfSign(character)], style);
+        return Create<CDigiColonDotChar>(colon_dot_masks[character == L'.' ? dot_index : colon_index], style);
+    return Create<CDigi14Segment>(fourteen_segment_masks[IndexOfSign(character)], style);
 }
 
 void DeleteDigiChar(CDigiChar * character)

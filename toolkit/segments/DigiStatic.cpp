@@ -9,8 +9,8 @@
 
 namespace
 {
-constexpr int INITIAL_CHARACTERS = 50;
-constexpr wchar_t const * WINDOW_TEXT_WANTED = L"?";
+constexpr int initial_characters = 50;
+constexpr wchar_t const * window_text_wanted = L"?";
 
 /// Pen and brush of one kind of segment.
 struct CSegmentTools
@@ -60,7 +60,7 @@ CDigiStatic::CDigiStatic()
       m_transparent(false),
       m_buttonRect(0, 0, 0, 0)
 {
-    m_chars.SetSize(INITIAL_CHARACTERS);
+    m_chars.SetSize(initial_characters);
 }
 
 CDigiStatic::~CDigiStatic()
@@ -200,7 +200,7 @@ void CDigiStatic::BuildString()
 {
     if (!m_modified)
         return;
-    if (m_text == WINDOW_TEXT_WANTED)
+    if (m_text == window_text_wanted)
     {
         // Asking sends messages, which may set another text meanwhile.
         HWND const window = m_hWnd;

@@ -40,7 +40,9 @@ public:
     void SetColor(COLORREF offColor, COLORREF onColor);
     /// The former background.
     COLORREF SetBkColor(COLORREF color);
+    /// The colour of lit segments.
     COLORREF GetOnColor() const;
+    /// The colour of unlit segments.
     COLORREF GetOffColor() const;
     /// Sets all three colours. Unlit segments get the mean of the scheme's own colour for them and its background. A
     /// value that is no scheme gives the green one.

@@ -5,7 +5,7 @@
 
 namespace
 {
-constexpr unsigned int INITIAL_CAPACITY = 20;
+constexpr unsigned int initial_capacity = 20;
 
 void SetBits(DWORD & flags, DWORD bits, bool on)
 {
@@ -19,9 +19,9 @@ CLedTextAnzeiger::CLedTextAnzeiger()
       m_onColor(DigiStatic::default_on_color),
       m_backColor(DigiStatic::default_back_color),
       m_extraSpacing(0),
-      m_chars(std::make_shared<DigiStatic::CDigiCharArray>(INITIAL_CAPACITY)),
+      m_chars(std::make_shared<DigiStatic::CDigiCharArray>(initial_capacity)),
       m_charCount(0),
-      m_capacity(INITIAL_CAPACITY),
+      m_capacity(initial_capacity),
       m_textWidth(0)
 {
 }

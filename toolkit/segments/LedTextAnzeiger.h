@@ -28,7 +28,9 @@ class INSTRUMENT_UI_API CLedTextAnzeiger
 {
 public:
     CLedTextAnzeiger();
+    /// With text, colours and spacing of the other.
     CLedTextAnzeiger(CLedTextAnzeiger const & other);
+    /// Takes text, colours and spacing of the other.
     CLedTextAnzeiger & operator=(CLedTextAnzeiger const & other);
     ~CLedTextAnzeiger();
 

@@ -6,7 +6,7 @@
 
 namespace
 {
-constexpr Gdiplus::REAL PEN_WIDTH = 1.0F;
+constexpr Gdiplus::REAL pen_width = 1.0F;
 
 Gdiplus::Color Opaque(COLORREF color)
 {
@@ -19,8 +19,8 @@ void CLedTextAnzeiger::DrawTextW(Gdiplus::Graphics & graphics, CRect & rect)
     if (m_charCount == 0)
         return;
     DigiStatic::CLinePlace const place = DigiStatic::PlaceAlignedLine(rect, m_textWidth, m_flags);
-    Gdiplus::Pen onPen(Opaque(m_onColor), PEN_WIDTH);
-    Gdiplus::Pen offPen(Opaque(m_offColor), PEN_WIDTH);
+    Gdiplus::Pen onPen(Opaque(m_onColor), pen_width);
+    Gdiplus::Pen offPen(Opaque(m_offColor), pen_width);
     Gdiplus::SolidBrush onBrush(Opaque(m_onColor));
     Gdiplus::SolidBrush offBrush(Opaque(m_offColor));
     double const bottom = place.top + place.scaleY * DigiStatic::cell_height;

@@ -35,21 +35,9 @@ constexpr int visible_from_left = 60;
 constexpr int visible_from_right = 40;
 constexpr int visible_from_bottom = 60;
 
-// Numbers of the window system.
 constexpr unsigned int placement_length = 44;
-constexpr unsigned int placement_sets_minimised_position = 1;
-constexpr unsigned int show_normal = 1;
-constexpr unsigned int show_minimised = 2;
-constexpr unsigned int menu_enabled = 0;
-constexpr unsigned int menu_greyed_and_disabled = 3;
-constexpr DWORD style_minimise_and_maximise_box = 0x30000;
-constexpr unsigned int redraw_frame_without_children = 0x441;
-constexpr unsigned int command_size = 0xF000;
-constexpr unsigned int command_move = 0xF010;
-constexpr unsigned int command_minimise = 0xF020;
-constexpr unsigned int command_maximise = 0xF030;
-constexpr unsigned int command_close = 0xF060;
-constexpr unsigned int command_restore = 0xF120;
+constexpr DWORD minimise_and_maximise_box = WS_MINIMIZEBOX | WS_MAXIMIZEBOX;
+constexpr unsigned int redraw_frame_without_children = RDW_INVALIDATE | RDW_NOCHILDREN | RDW_FRAME;
 
 static_assert(sizeof(WINDOWPLACEMENT) == placement_length);
 
@@ -90,7 +78,7 @@ void CFensterManager::init()
         m_bildschirmGroesse = area.Size();
     }
     m_placement.length = placement_length;
-    m_placement.showCmd = show_normal;
+    m_placement.showCmd = SW_SHOWNORMAL;
     m_managerListe.insert(this);
 }
 
@@ -298,7 +286,7 @@ void CFensterManager::ReadMyPosition(CWnd * window)
 
     if (m_nurEinMonitor)
         MoveOntoScreen(read);
-    m_placement.flags = m_gestalt == shape_iconic ? placement_sets_minimised_position : 0;
+    m_placement.flags = m_gestalt == shape_iconic ? WPF_SETMINPOSITION : 0;
 
     if (m_wnd != nullptr && platform.IsWindow(*m_wnd))
         SetMyPosition(window);
@@ -388,14 +376,14 @@ void CFensterManager::MinimizeThatWindow(CString const & name)
 {
     auto const found = FindeDich(name);
     if (found != m_managerListe.end())
-        WindowPlatform::Instance().Show(*(*found)->m_wnd, show_minimised);
+        WindowPlatform::Instance().Show(*(*found)->m_wnd, SW_SHOWMINIMIZED);
 }
 
 void CFensterManager::RestoreThatWindow(CString const & name)
 {
     auto const found = FindeDich(name);
     if (found != m_managerListe.end())
-        WindowPlatform::Instance().Show(*(*found)->m_wnd, show_normal);
+        WindowPlatform::Instance().Show(*(*found)->m_wnd, SW_SHOWNORMAL);
 }
 
 int CFensterManager::IsIconic(CString const & name)
@@ -449,9 +437,8 @@ void CFensterManager::Freeze(CFensterManager & manager, bool freeze)
     HMENU const menu = platform.SystemMenu(*manager.m_wnd);
     if (menu == nullptr)
         return;
-    unsigned int const state = freeze ? menu_greyed_and_disabled : menu_enabled;
-    for (unsigned int const command :
-         {command_size, command_move, command_minimise, command_maximise, command_close, command_restore})
+    unsigned int const state = freeze ? MF_GRAYED | MF_DISABLED : MF_ENABLED;
+    for (unsigned int const command : {SC_SIZE, SC_MOVE, SC_MINIMIZE, SC_MAXIMIZE, SC_CLOSE, SC_RESTORE})
     {
         platform.EnableMenuItem(menu, command, state);
         if (!HasWindow(&manager))
@@ -460,8 +447,7 @@ void CFensterManager::Freeze(CFensterManager & manager, bool freeze)
     if (manager.m_type != window_mdi_child)
         return;
     DWORD const style = platform.Style(*manager.m_wnd);
-    platform.SetStyle(*manager.m_wnd,
-                      freeze ? style & ~style_minimise_and_maximise_box : style | style_minimise_and_maximise_box);
+    platform.SetStyle(*manager.m_wnd, freeze ? style & ~minimise_and_maximise_box : style | minimise_and_maximise_box);
     if (HasWindow(&manager))
         platform.Redraw(*manager.m_wnd, redraw_frame_without_children);
 }

@@ -46,6 +46,7 @@ public:
     CString const & WhoAmI() const;
     /// The window's type as the number of window_t.
     int WhatsMyType() const;
+    /// Sets the window's type.
     void SetMyType(window_t type);
 
     /// The rectangle used where the store holds none, and the size of a fixed dialog.
@@ -58,6 +59,7 @@ public:
     CRect WhatsMyPosition();
     /// The show command of the record, an SW_ value.
     unsigned int WhatsMyStyle();
+    /// The show command of the record, an SW_ value.
     void SetShowMode(unsigned int showCommand);
 
     /// Whether the application is ending.
@@ -66,9 +68,11 @@ public:
     void SetNowExit(bool exit);
     /// Whether a position that is read is moved onto the primary screen.
     static bool NurEinMonitor();
+    /// Sets that, for all windows.
     static void SetNurEinMonitor(bool onlyOne);
     /// Whether views are shown as tabs, so that the positions of views and child frames are not stored.
     static bool TabbedViews();
+    /// Sets that, for all windows.
     static void SetTabbedViews(bool tabbed);
 
     /// Binds the window and takes its present placement into the record. A null or dead window is bound only.
@@ -96,6 +100,7 @@ public:
     void ActivateThatWindow(CString const & name);
     /// Takes the manager out of the list, then destroys its window.
     void KillThatWindow(CString const & name);
+    /// Minimises the window.
     void MinimizeThatWindow(CString const & name);
     /// Shows the window in its normal place and size.
     void RestoreThatWindow(CString const & name);

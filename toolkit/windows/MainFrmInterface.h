@@ -41,7 +41,9 @@ public:
     static unsigned int const max_panes;
     /// Names of the application's workspace in its registry key.
     static wchar_t const * const reg_workspace_settings;
+    /// The name of what is stored of bars.
     static wchar_t const * const reg_entry_basepanes;
+    /// The name of what is stored of panes.
     static wchar_t const * const reg_entry_panes;
 
     /// frame: the main frame, not owned.
@@ -72,6 +74,7 @@ public:
     /// Writes the application's whole registry key to a file, or replaces it by one; see SettingsFile.h. False if it
     /// failed, or if the application has no registry key.
     bool export_registry_settings() const;
+    /// Replaces the key by the stored file. False if that failed, or if the application has no registry key.
     bool import_registry_settings();
 
 protected:

@@ -39,6 +39,7 @@ INSTRUMENT_UI_API bool read_settings(std::istream & stream, registry_entry_list 
 
 /// The same with a file; an earlier file is overwritten. False also if the file can't be opened.
 INSTRUMENT_UI_API bool write_settings_file(std::filesystem::path const & file, registry_entry_list const & list);
+/// Reads a file as read_settings does. False also if the file can't be opened.
 INSTRUMENT_UI_API bool read_settings_file(std::filesystem::path const & file, registry_entry_list & list);
 
 /// Writes the whole tree to the saved file. False if the tree can't be read, and no file is then touched; or if the

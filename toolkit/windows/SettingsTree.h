@@ -33,10 +33,12 @@ struct registry_entry
     std::vector<std::uint8_t> data;
     /// A value's type, a REG_ number; 0 for other kinds.
     std::uint32_t value_type = 0;
+    /// What the record is.
     entry_kind_t kind = entry_none;
     /// A value's or key's name; empty for a key's end.
     std::u16string name;
 
+    /// Whether all is equal.
     bool operator==(registry_entry const &) const = default;
 };
 
@@ -54,6 +56,7 @@ public:
     /// An open key; 0 is none. Who opens or creates one closes it.
     using key_t = std::uintptr_t;
 
+    /// What a key is opened for.
     enum class access_t
     {
         /// Reading, and what else a key opened for reading allows.
@@ -62,9 +65,12 @@ public:
         remove
     };
 
+    /// What is in a key.
     struct counts_t
     {
+        /// The number of its subkeys.
         std::uint32_t subkeys = 0;
+        /// The number of its values.
         std::uint32_t values = 0;
     };
 
@@ -76,6 +82,7 @@ public:
     virtual key_t OpenSubkey(key_t key, std::u16string const & name) = 0;
     /// Opens a key's subkey for writing and makes it before if need be; 0 on failure.
     virtual key_t CreateSubkey(key_t key, std::u16string const & name) = 0;
+    /// Closes an open key; 0 does nothing.
     virtual void Close(key_t key) = 0;
 
     /// Zeros on failure.

@@ -24,7 +24,9 @@ class INSTRUMENT_UI_API CStandaloneFrameUser
 {
 public:
     CStandaloneFrameUser();
+    /// Takes over whether a frame lives. The frame itself goes on telling the user that made it.
     CStandaloneFrameUser(CStandaloneFrameUser const & other);
+    /// Takes over whether a frame lives.
     CStandaloneFrameUser & operator=(CStandaloneFrameUser const & other);
     virtual ~CStandaloneFrameUser() = 0;
 
@@ -37,6 +39,7 @@ public:
     /// A double click on the frame itself, with the message's flags and its point in the client area; the third
     /// argument is -1. Does nothing by default.
     virtual void MausLDoppelKlick(unsigned int flags, CPoint point, int index);
+    /// The same with the right button.
     virtual void MausRDoppelKlick(unsigned int flags, CPoint point, int index);
 
     /// Whether a frame of this user is alive.

@@ -42,16 +42,21 @@ public:
     /// Brings the main frame's title up to date once a frame has gone. Does nothing without a window.
     void FensterWeg();
 
+    /// The manager of the frame's position.
     CFensterManager * FensterManager();
     CFensterManager const * FensterManager() const;
+    /// Moves the frame to its stored position.
     void FensterpositionLaden();
+    /// Stores the present position.
     void FensterpositionSpeichern();
     /// Whether the frame was open when the application last ended.
     bool OpenInitially() const;
     /// Enables or greys the system menu's close command, and the button with it.
     void EnableCloseButton(bool enable);
 
+    /// Whether no frame of the process can be moved or sized.
     static bool IsInTouchFreeze();
+    /// Sets that.
     static void SetTouchFreeze(bool freeze);
 
     BOOL PreCreateWindow(CREATESTRUCT & cs) override;

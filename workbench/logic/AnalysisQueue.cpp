@@ -74,7 +74,7 @@ void AnalysisQueue::Run()
         }
         catch (std::exception const &)
         {
-            analysis.problem = ReadProblem{ReadFault::CannotBeOpened};
+            analysis.problem = ReadProblem{ReadFault::cannot_be_opened};
         }
         auto result = std::make_shared<RecordingAnalysis const>(std::move(analysis));
 

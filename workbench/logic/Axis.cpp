@@ -1,5 +1,6 @@
 #include "logic/Axis.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cwchar>
@@ -125,6 +126,81 @@ std::vector<FrequencyTick> FrequencyTicks(double highest, int height, int leastD
     {
         auto const hertz = i * step;
         ticks.push_back({static_cast<int>(std::lround(hertz / highest * height)), FrequencyLabel(hertz)});
+    }
+    return ticks;
+}
+
+double FrequencyAt(FrequencyScale scale, double highest, double part)
+{
+    if (scale == FrequencyScale::Linear)
+    {
+        return highest * part;
+    }
+    double const lowest = std::min(lowest_logarithmic_frequency, highest / 10.0);
+    return lowest * std::pow(highest / lowest, part);
+}
+
+double PartOfFrequency(FrequencyScale scale, double highest, double hertz)
+{
+    if (scale == FrequencyScale::Linear)
+    {
+        return hertz / highest;
+    }
+    double const lowest = std::min(lowest_logarithmic_frequency, highest / 10.0);
+    return std::log(hertz / lowest) / std::log(highest / lowest);
+}
+
+std::vector<FrequencyTick> FrequencyTicks(FrequencyScale scale, double highest, int height, int leastDistance)
+{
+    if (scale == FrequencyScale::Linear)
+    {
+        return FrequencyTicks(highest, height, leastDistance);
+    }
+    std::vector<FrequencyTick> ticks;
+    if (!(highest > 0.0) || height <= 0 || leastDistance <= 0)
+    {
+        return ticks;
+    }
+    double const lowest = FrequencyAt(scale, highest, 0.0);
+    // Full decades first, so that they have a label wherever one fits.
+    for (double const factor : {1.0, 2.0, 5.0})
+    {
+        for (double unit = std::pow(10.0, std::floor(std::log10(lowest))); unit <= highest; unit *= 10.0)
+        {
+            double const hertz = factor * unit;
+            if (hertz < lowest * (1.0 - 1e-9) || hertz > highest * (1.0 + 1e-9))
+            {
+                continue;
+            }
+            auto const position = static_cast<int>(std::lround(PartOfFrequency(scale, highest, hertz) * height));
+            bool const fits = std::ranges::none_of(
+                ticks, [&](FrequencyTick const & tick) { return std::abs(tick.position - position) < leastDistance; });
+            if (fits)
+            {
+                ticks.push_back({position, FrequencyLabel(hertz)});
+            }
+        }
+    }
+    std::ranges::sort(ticks, {}, &FrequencyTick::position);
+    return ticks;
+}
+
+std::vector<TimeTick> TimeTicks(double first, double end, int width, int leastDistance)
+{
+    std::vector<TimeTick> ticks;
+    if (!(end > first) || !(first >= 0.0) || !std::isfinite(end) || width <= 0 || leastDistance <= 0)
+    {
+        return ticks;
+    }
+    double const seconds = end - first;
+    auto const step = StepOfAtLeast(seconds * leastDistance / width);
+    auto const asMinutes = end >= 60.0 && step.decimals == 0;
+    auto const begin = static_cast<long long>(std::ceil(first / step.seconds - 1e-9));
+    for (long long i = begin; static_cast<double>(i) * step.seconds <= end + seconds * 1e-9; ++i)
+    {
+        double const time = static_cast<double>(i) * step.seconds;
+        ticks.push_back({static_cast<int>(std::lround((time - first) / seconds * width)),
+                         TimeLabel(time, step.decimals, asMinutes)});
     }
     return ticks;
 }

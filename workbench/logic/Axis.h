@@ -35,6 +35,22 @@ struct LevelLine
 /// Where the lane is amplified, by so many decibels, the lines stay and stand for lower levels.
 std::vector<LevelLine> LevelLines(int halfHeight, int leastDistance, int amplification = 0);
 
+/// How frequencies are spread over an axis.
+enum class FrequencyScale
+{
+    Linear,      ///< from 0 up
+    Logarithmic, ///< from `lowest_logarithmic_frequency` up, each octave the same height
+};
+
+/// The lower end of a logarithmic axis, in hertz. Where the upper end is below ten times as much, a tenth of that.
+constexpr double lowest_logarithmic_frequency = 20.0;
+
+/// The frequency at a part of an axis, 0 to 1 from below, that reaches up to `highest` hertz.
+double FrequencyAt(FrequencyScale scale, double highest, double part);
+
+/// The part of the axis at which a frequency stands; below 0 or above 1 for what lies outside.
+double PartOfFrequency(FrequencyScale scale, double highest, double hertz);
+
 /// A line of the frequency axis: pixels above its lower end, and its label.
 struct FrequencyTick
 {
@@ -48,5 +64,12 @@ struct FrequencyTick
 /// unit, and neighbours at least `leastDistance` pixels apart. From 1000 Hz on labels are in kHz. Empty if one of the
 /// arguments is not above 0.
 std::vector<FrequencyTick> FrequencyTicks(double highest, int height, int leastDistance);
+
+/// The same for any scale: a logarithmic one has its ticks at 1, 2 and 5 of each decade, as far as there is room.
+std::vector<FrequencyTick> FrequencyTicks(FrequencyScale scale, double highest, int height, int leastDistance);
+
+/// The ticks of an axis that shows the seconds from `first` to `end`, as the other TimeTicks does for those from 0 on:
+/// only positions within, and labels with as many decimals as the steps need.
+std::vector<TimeTick> TimeTicks(double first, double end, int width, int leastDistance);
 
 } // namespace workbench

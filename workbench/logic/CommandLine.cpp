@@ -32,7 +32,7 @@ CommandLine ParseCommandLine(std::span<std::wstring const> arguments)
             }
             continue;
         }
-        if (result.mode != RunMode::Interactive)
+        if (result.mode != RunMode::interactive)
         {
             result.error = L"Only one of /walk and /walk-restart can be given, and once.";
         }
@@ -42,7 +42,7 @@ CommandLine ParseCommandLine(std::span<std::wstring const> arguments)
         }
         else
         {
-            result.mode = walk ? RunMode::Walk : RunMode::WalkRestart;
+            result.mode = walk ? RunMode::walk : RunMode::walk_restart;
             result.walkFolder = arguments[++i];
         }
     }

@@ -11,15 +11,15 @@ namespace workbench
 /// How the program runs.
 enum class RunMode
 {
-    Interactive, ///< for a user
-    Walk,        ///< walks through its windows by itself, pausing at each step, and ends
-    WalkRestart, ///< the same with the one step that shows the window back at its stored place
+    interactive,  ///< for a user
+    walk,         ///< walks through its windows by itself, pausing at each step, and ends
+    walk_restart, ///< the same with the one step that shows the window back at its stored place
 };
 
 /// The command line, taken apart.
 struct CommandLine
 {
-    RunMode mode = RunMode::Interactive;
+    RunMode mode = RunMode::interactive;
     std::wstring walkFolder;           ///< where a walk leaves its markers
     std::vector<std::wstring> targets; ///< folders and files to show
     std::wstring error;                ///< not empty: what is wrong with the command line, in English

@@ -8,12 +8,13 @@ namespace workbench
 namespace
 {
 
-// The parts of the growth that go to waveform and spectrogram, in 1/10; the list gets the rest.
+// The parts of the growth, in 1/10.
+constexpr int list_part = 3;
 constexpr int waveform_part = 3;
 constexpr int spectrogram_part = 4;
 constexpr int whole = 10;
 
-constexpr int panes = 3; // below the list
+constexpr int panes = 4; // above each other
 
 } // namespace
 
@@ -21,8 +22,8 @@ CSize LeastMainArea(MainLayoutNeeds const & needs, int listWidth)
 {
     return CSize(2 * needs.marginX + listWidth, 2 * needs.marginY + needs.listHeight + needs.waveformHeight +
                                                     needs.spectrogramHeight + needs.panelHeight +
-                                                    panes * (needs.captionHeight + needs.dividerGap) + needs.spacing +
-                                                    needs.statusHeight);
+                                                    panes * needs.captionHeight + (panes - 1) * needs.dividerGap +
+                                                    needs.spacing + needs.statusHeight);
 }
 
 MainLayout LayOutMain(MainLayoutNeeds const & needs)
@@ -51,6 +52,7 @@ PaneHeights DefaultPanes(MainLayoutNeeds const & needs)
 {
     auto const growth = std::max<int>(needs.client.cy - LeastMainArea(needs, 0).cy, 0);
     PaneHeights heights;
+    heights.list = needs.listHeight + needs.captionHeight + growth * list_part / whole;
     heights.waveform = needs.waveformHeight + needs.captionHeight + growth * waveform_part / whole;
     heights.spectrogram = needs.spectrogramHeight + needs.captionHeight + growth * spectrogram_part / whole;
     heights.measures = needs.panelHeight + needs.captionHeight;

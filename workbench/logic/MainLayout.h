@@ -28,7 +28,7 @@ struct MainLayoutNeeds
 /// The places, in the window's client area. What does not show is empty.
 struct MainLayout
 {
-    CRect border; ///< what is left free around list and panes, at each side
+    CRect border; ///< what is left free around the panes, at each side
     CRect status;
     CRect framesDivider;
     CRect frames;
@@ -37,6 +37,7 @@ struct MainLayout
 /// The heights of panes at first, with their captions.
 struct PaneHeights
 {
+    int list = 0;
     int waveform = 0;
     int spectrogram = 0;
     int measures = 0;

@@ -44,6 +44,8 @@ RecordingAnalyser::RecordingAnalyser(std::unique_ptr<ByteSource> source)
     m_reader.emplace(std::move(std::get<WavReader>(opened)));
     std::size_t const channels = m_reader->Info().channels;
     m_waveform.emplace(channels);
+    m_loudness.emplace(m_reader->Info().sampleRate, channels);
+    m_tone.emplace(m_reader->Info().sampleRate, channels, m_reader->Info().frames);
     m_samples.resize(std::max<std::size_t>(samples_per_step / channels, 1) * channels);
 }
 
@@ -62,6 +64,8 @@ bool RecordingAnalyser::Step()
     auto const frames = m_reader->ReadFrames(m_samples);
     auto const samples = std::span<double const>(m_samples).first(frames * m_reader->Info().channels);
     m_levels.Add(samples);
+    m_loudness->Add(samples);
+    m_tone->Add(samples);
     m_waveform->Add(samples);
     return frames > 0;
 }
@@ -73,6 +77,8 @@ RecordingAnalysis RecordingAnalyser::Take()
         m_analysis.info = m_reader->Info();
         m_analysis.invalidSamples = m_reader->InvalidSamples();
         m_analysis.levels = m_levels.Result();
+        m_analysis.loudness = m_loudness->Result();
+        m_analysis.tone = m_tone->Result();
         m_analysis.waveform = m_waveform->Finish();
     }
     return std::move(m_analysis);

@@ -3,6 +3,8 @@
 
 #include "logic/FileFacts.h"
 #include "logic/LevelMeter.h"
+#include "logic/Loudness.h"
+#include "logic/ToneMeter.h"
 #include "logic/Waveform.h"
 #include "logic/WavReader.h"
 
@@ -22,6 +24,8 @@ struct RecordingAnalysis
     std::optional<ReadProblem> problem;
     RecordingInfo info;
     Levels levels{};
+    std::optional<double> loudness; ///< in LUFS
+    ToneMeasures tone;
     Waveform waveform;
     std::uint64_t invalidSamples = 0;
 
@@ -52,6 +56,8 @@ private:
     std::optional<WavReader> m_reader;
     RecordingAnalysis m_analysis;
     LevelMeter m_levels;
+    std::optional<LoudnessMeter> m_loudness;
+    std::optional<ToneMeter> m_tone;
     std::optional<WaveformBuilder> m_waveform;
     std::vector<double> m_samples;
 };

@@ -9,7 +9,7 @@ namespace workbench
 std::wstring FormatCoding(RecordingInfo const & info)
 {
     return std::to_wstring(info.bitsPerSample) +
-           (info.coding == SampleCoding::Float ? Text(L"-bit float") : Text(L"-bit PCM"));
+           (info.coding == SampleCoding::floating_point ? Text(L"-bit float") : Text(L"-bit PCM"));
 }
 
 std::vector<DetailLine> DescribeRecording(std::filesystem::path const & path, RecordingAnalysis const & analysis,
@@ -38,6 +38,10 @@ std::vector<DetailLine> DescribeRecording(std::filesystem::path const & path, Re
                                                 (info.frames == 1 ? Text(L"sample") : Text(L"samples")) + L')'});
         lines.push_back({Text(L"Peak level"), FormatLevel(analysis.levels.peak) + L" dBFS"});
         lines.push_back({Text(L"RMS level"), FormatLevel(analysis.levels.rms) + L" dBFS"});
+        lines.push_back({Text(L"Crest factor"), FormatCrestFactor(analysis.levels) + L" dB"});
+        lines.push_back({Text(L"Loudness"), FormatLoudness(analysis.loudness) + L" LUFS"});
+        lines.push_back({Text(L"Strongest frequency"), FormatFrequency(analysis.tone.frequency) + L" Hz"});
+        lines.push_back({Text(L"Harmonic distortion"), FormatPercent(analysis.tone.distortion) + L" %"});
     }
     lines.push_back({Text(L"Status"), analysis.StatusText()});
     return lines;

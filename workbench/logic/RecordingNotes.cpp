@@ -28,7 +28,7 @@ constexpr int most_rating = 1000;
 constexpr std::size_t sum_length = 8;
 
 // A byte of a native path that is no UTF-8 stands as this and its value, which no valid text has.
-constexpr char32_t stray_byte = 0xDC00;
+[[maybe_unused]] constexpr char32_t stray_byte = 0xDC00;
 
 /// Code points to UTF-8. Lone surrogates, which file names may have, are coded as any other.
 void PutCodePoint(std::string & text, char32_t code)

@@ -27,13 +27,13 @@ void RecordingTotals::SetState(std::size_t line, State state, std::uint64_t mill
     Count(changed, false);
     changed.state = state;
     changed.milliseconds = milliseconds;
-    changed.checked = changed.checked && state != State::Unreadable;
+    changed.checked = changed.checked && state != State::unreadable;
     Count(changed, true);
 }
 
 void RecordingTotals::SetChecked(std::size_t line, bool checked)
 {
-    if (line >= m_lines.size() || m_lines[line].state == State::Unreadable)
+    if (line >= m_lines.size() || m_lines[line].state == State::unreadable)
     {
         return;
     }
@@ -45,7 +45,7 @@ void RecordingTotals::SetChecked(std::size_t line, bool checked)
 
 RecordingTotals::State RecordingTotals::StateOf(std::size_t line) const
 {
-    return line < m_lines.size() ? m_lines[line].state : State::Unread;
+    return line < m_lines.size() ? m_lines[line].state : State::unread;
 }
 
 /// Takes a line into the counts or out of them.
@@ -54,8 +54,8 @@ void RecordingTotals::Count(Line const & line, bool in)
     auto const add = [in](auto & sum, std::uint64_t amount) {
         sum = static_cast<std::remove_reference_t<decltype(sum)>>(in ? sum + amount : sum - amount);
     };
-    add(m_unread, line.state == State::Unread ? 1 : 0);
-    add(m_unreadable, line.state == State::Unreadable ? 1 : 0);
+    add(m_unread, line.state == State::unread ? 1 : 0);
+    add(m_unreadable, line.state == State::unreadable ? 1 : 0);
     add(m_checked, line.checked ? 1 : 0);
     add(m_checkedMilliseconds, line.checked ? line.milliseconds : 0);
 }

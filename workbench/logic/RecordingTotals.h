@@ -15,9 +15,9 @@ class RecordingTotals
 public:
     enum class State : unsigned char
     {
-        Unread,
-        Readable,
-        Unreadable ///< cannot be checked
+        unread,
+        readable,
+        unreadable ///< cannot be checked
     };
 
     void Clear();
@@ -41,7 +41,7 @@ public:
 private:
     struct Line
     {
-        State state = State::Unread;
+        State state = State::unread;
         bool checked = false;
         std::uint64_t milliseconds = 0;
     };

@@ -15,6 +15,7 @@ namespace
 constexpr std::uint32_t windows_per_second = 50;
 constexpr std::size_t least_window = 64;
 constexpr std::size_t greatest_window = 8192;
+constexpr std::size_t longest_window = 32768; // that can be wished for
 constexpr std::size_t samples_per_step = 32768;
 
 /// a * b / c without overflow, for b up to c.
@@ -44,6 +45,19 @@ std::size_t SpectrogramWindow(std::uint32_t sampleRate)
     return std::clamp(std::bit_ceil(std::size_t{sampleRate} / windows_per_second), least_window, greatest_window);
 }
 
+SpectrogramSettings CheckedSpectrogramSettings(SpectrogramSettings settings, std::uint32_t sampleRate)
+{
+    if (!std::has_single_bit(settings.window) || settings.window < least_window || settings.window > longest_window)
+    {
+        settings.window = SpectrogramWindow(sampleRate);
+    }
+    if (settings.overlap != 0 && settings.overlap != 75 && settings.overlap != 87)
+    {
+        settings.overlap = 50;
+    }
+    return settings;
+}
+
 double Spectrogram::Frequency(std::size_t row) const
 {
     return m_rows > 1 ? m_sampleRate / 2.0 * static_cast<double>(row) / static_cast<double>(m_rows - 1) : 0.0;
@@ -60,7 +74,7 @@ std::size_t Spectrogram::ColumnOfFrame(std::uint64_t frame) const
     {
         return 0;
     }
-    auto const window = std::min(frame / m_hop, m_windows - 1);
+    auto const window = std::min((frame - std::min(frame, m_first)) / m_hop, m_windows - 1);
     return static_cast<std::size_t>(Scale(window, m_columns, m_windows));
 }
 
@@ -78,31 +92,60 @@ std::uint8_t Spectrogram::Highest(std::size_t firstColumn, std::size_t lastColum
 
 std::vector<std::uint8_t> Spectrogram::Picture(std::size_t width, std::size_t height) const
 {
+    return Picture(width, height, Stretch(), FrequencyScale::Linear);
+}
+
+std::vector<std::uint8_t> Spectrogram::Picture(std::size_t width, std::size_t height, FrameRange const & stretch,
+                                               FrequencyScale scale) const
+{
     if (m_columns == 0)
     {
         return {};
+    }
+    std::vector<std::pair<std::size_t, std::size_t>> rows; // of each line of the picture, from the lowest up
+    for (std::size_t line = 0; line < height; ++line)
+    {
+        if (scale == FrequencyScale::Linear)
+        {
+            rows.push_back(PointsOf(line, height, m_rows));
+            continue;
+        }
+        auto const rowAt = [&](std::size_t edge) {
+            double const hertz =
+                FrequencyAt(scale, m_sampleRate / 2.0, static_cast<double>(edge) / static_cast<double>(height));
+            return hertz / (m_sampleRate / 2.0) * static_cast<double>(m_rows - 1);
+        };
+        auto const last = static_cast<double>(m_rows - 1);
+        auto const first = static_cast<std::size_t>(std::clamp(std::round(rowAt(line)), 0.0, last));
+        auto const end = static_cast<std::size_t>(std::clamp(std::round(rowAt(line + 1)), 0.0, last));
+        rows.emplace_back(first, end > first ? end - 1 : first);
     }
     std::vector<std::uint8_t> picture(width * height);
     for (std::size_t x = 0; x < width; ++x)
     {
         // By frames, since the last window may reach beyond the end.
-        auto const firstFrame = Scale(m_frames, x, width);
-        auto const endFrame = std::max(Scale(m_frames, x + 1, width), firstFrame + 1);
+        auto const firstFrame = stretch.first + Scale(stretch.Length(), x, width);
+        auto const endFrame = std::max(stretch.first + Scale(stretch.Length(), x + 1, width), firstFrame + 1);
+        if (endFrame <= m_first || firstFrame >= m_first + m_frames)
+        {
+            continue;
+        }
         auto const firstColumn = ColumnOfFrame(firstFrame);
         auto const lastColumn = ColumnOfFrame(endFrame - 1);
-        for (std::size_t y = 0; y < height; ++y)
+        for (std::size_t line = 0; line < height; ++line)
         {
-            auto const [firstRow, lastRow] = PointsOf(height - 1 - y, height, m_rows);
-            picture[y * width + x] = Highest(firstColumn, lastColumn, firstRow, lastRow);
+            auto const [firstRow, lastRow] = rows[line];
+            picture[(height - 1 - line) * width + x] = Highest(firstColumn, lastColumn, firstRow, lastRow);
         }
     }
     return picture;
 }
 
-SpectrogramBuilder::SpectrogramBuilder(std::size_t channels, std::uint32_t sampleRate, std::uint64_t frames)
+SpectrogramBuilder::SpectrogramBuilder(std::size_t channels, std::uint32_t sampleRate, std::uint64_t frames,
+                                       SpectrogramSettings const & settings, std::uint64_t first)
     : m_channels(std::max<std::size_t>(channels, 1)),
       m_lanes(std::min(m_channels, maximum_channels)),
-      m_fft(SpectrogramWindow(sampleRate))
+      m_fft(CheckedSpectrogramSettings(settings, sampleRate).window)
 {
     if (sampleRate == 0 || frames == 0)
     {
@@ -110,8 +153,11 @@ SpectrogramBuilder::SpectrogramBuilder(std::size_t channels, std::uint32_t sampl
     }
     auto const size = m_fft.Size();
     m_result.m_sampleRate = sampleRate;
+    m_result.m_first = first;
     m_result.m_frames = frames;
-    m_result.m_hop = size / 2;
+    auto const overlap = static_cast<std::size_t>(CheckedSpectrogramSettings(settings, sampleRate).overlap);
+    // 87 stands for seven eighths.
+    m_result.m_hop = overlap == 87 ? size / 8 : size * (100 - overlap) / 100;
     m_result.m_windows = (frames - 1) / m_result.m_hop + 1;
     m_result.m_columns =
         static_cast<std::size_t>(std::min<std::uint64_t>(m_result.m_windows, Spectrogram::maximum_columns));
@@ -128,8 +174,8 @@ SpectrogramBuilder::SpectrogramBuilder(std::size_t channels, std::uint32_t sampl
     }
     m_fullScalePower = static_cast<float>(sum * sum / 4.0);
 
-    // A window's middle half is the stretch that it stands for; what lies before the start is silence.
-    m_filled = size / 4;
+    // A window's middle is the stretch that it stands for; what lies before the start is silence.
+    m_filled = (size - static_cast<std::size_t>(m_result.m_hop)) / 2;
     m_samples.assign(m_lanes, std::vector<float>(size));
     m_framesLeft = frames;
     m_real.resize(size);
@@ -167,13 +213,13 @@ void SpectrogramBuilder::Add(std::span<double const> samples)
 
 void SpectrogramBuilder::TransformWindows()
 {
-    auto const half = m_fft.Size() / 2;
+    auto const hop = static_cast<std::size_t>(m_result.m_hop);
     for (auto & samples : m_samples)
     {
         Take(samples, m_nextWindow);
-        std::copy(samples.begin() + static_cast<std::ptrdiff_t>(half), samples.end(), samples.begin());
+        std::copy(samples.begin() + static_cast<std::ptrdiff_t>(hop), samples.end(), samples.begin());
     }
-    m_filled = half;
+    m_filled = m_fft.Size() - hop;
     ++m_nextWindow;
 }
 
@@ -268,7 +314,8 @@ Spectrogram SpectrogramBuilder::Finish()
     return std::exchange(m_result, {});
 }
 
-SpectrogramAnalyser::SpectrogramAnalyser(std::unique_ptr<ByteSource> source)
+SpectrogramAnalyser::SpectrogramAnalyser(std::unique_ptr<ByteSource> source, SpectrogramSettings const & settings,
+                                         std::optional<FrameRange> const & stretch)
 {
     auto opened = WavReader::Open(std::move(source));
     if (auto const * const problem = std::get_if<ReadProblem>(&opened))
@@ -278,12 +325,22 @@ SpectrogramAnalyser::SpectrogramAnalyser(std::unique_ptr<ByteSource> source)
     }
     m_reader.emplace(std::move(std::get<WavReader>(opened)));
     auto const & info = m_reader->Info();
-    m_builder.emplace(info.channels, info.sampleRate, info.frames);
+    FrameRange read{0, info.frames};
+    if (stretch)
+    {
+        std::uint64_t const around = CheckedSpectrogramSettings(settings, info.sampleRate).window;
+        read.first = std::min(stretch->first - std::min(stretch->first, around), info.frames);
+        read.end = std::clamp(stretch->end + around, read.first, info.frames);
+        m_reader->Seek(read.first);
+    }
+    m_framesWanted = read.Length();
+    m_builder.emplace(info.channels, info.sampleRate, m_framesWanted, settings, read.first);
     m_samples.resize(std::max<std::size_t>(samples_per_step / info.channels, 1) * info.channels);
 }
 
-SpectrogramAnalyser::SpectrogramAnalyser(std::filesystem::path const & path)
-    : SpectrogramAnalyser(std::unique_ptr<ByteSource>(FileByteSource::Open(path)))
+SpectrogramAnalyser::SpectrogramAnalyser(std::filesystem::path const & path, SpectrogramSettings const & settings,
+                                         std::optional<FrameRange> const & stretch)
+    : SpectrogramAnalyser(std::unique_ptr<ByteSource>(FileByteSource::Open(path)), settings, stretch)
 {
 }
 
@@ -293,15 +350,18 @@ bool SpectrogramAnalyser::Step()
     {
         return false;
     }
-    auto const frames = m_reader->ReadFrames(m_samples);
+    std::size_t const channels = m_reader->Info().channels;
+    auto const left = std::min<std::uint64_t>(m_framesWanted - m_framesRead, m_samples.size() / channels);
+    auto const frames = m_reader->ReadFrames(std::span(m_samples).first(static_cast<std::size_t>(left) * channels));
     m_framesRead += frames;
-    m_builder->Add(std::span<double const>(m_samples).first(frames * m_reader->Info().channels));
+    m_builder->Add(std::span<double const>(m_samples).first(frames * channels));
     return frames > 0;
 }
 
 double SpectrogramAnalyser::Progress() const
 {
-    return m_reader ? static_cast<double>(m_framesRead) / static_cast<double>(m_reader->Info().frames) : 1.0;
+    return m_framesWanted > 0 ? std::min(static_cast<double>(m_framesRead) / static_cast<double>(m_framesWanted), 1.0)
+                              : 1.0;
 }
 
 Spectrogram SpectrogramAnalyser::Take()

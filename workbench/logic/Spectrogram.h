@@ -1,11 +1,14 @@
 #pragma once
 // The spectrogram of a recording: the level at each time and frequency, as an entry of a colour scale.
 //
-// Windows of about 20 ms, weighted with a raised cosine, follow one another at half their length. A point shows the
+// Windows, of about 20 ms if nothing else is wanted, weighted with a raised cosine, follow one another at half their
+// length, or closer. A point shows the
 // loudest of the windows and channels that fall on it, so that a short click is not lost in a long recording. Levels
 // are in dBFS of a sine: one of full scale, 1.0 in the samples, has 0 dBFS.
 
+#include "logic/Axis.h"
 #include "logic/Fft.h"
+#include "logic/TimeWindow.h"
 #include "logic/WavReader.h"
 
 #include <cstddef>
@@ -34,6 +37,20 @@ int ScaleEntry(double decibels);
 /// The samples of a window for a rate: a power of two.
 std::size_t SpectrogramWindow(std::uint32_t sampleRate);
 
+/// How a spectrogram is computed.
+struct SpectrogramSettings
+{
+    /// The samples of a window: a power of two from 64 to 32,768, or 0 for SpectrogramWindow. Others count as 0.
+    std::size_t window = 0;
+    /// How much of a window the next one shares with it, in percent: 0, 50, 75 or 87. Others count as 50.
+    int overlap = 50;
+
+    bool operator==(SpectrogramSettings const &) const = default;
+};
+
+/// The settings with everything that is not allowed replaced.
+SpectrogramSettings CheckedSpectrogramSettings(SpectrogramSettings settings, std::uint32_t sampleRate);
+
 /// A finished spectrogram.
 class Spectrogram
 {
@@ -44,14 +61,20 @@ public:
     /// A spectrogram of nothing.
     Spectrogram() = default;
 
-    /// The number of columns, from the start of the recording to its end; 0 for one without samples or sample rate.
+    /// The number of columns, from the start of what was computed to its end; 0 for one without samples or sample rate.
     std::size_t Columns() const { return m_columns; }
 
     /// The number of frequencies in a column, from 0 up to half the sample rate.
     std::size_t Rows() const { return m_rows; }
 
-    /// The frames of the recording.
+    /// The number of frames that were computed.
     std::uint64_t Frames() const { return m_frames; }
+
+    /// The stretch of the recording that was computed.
+    FrameRange Stretch() const { return {m_first, m_first + m_frames}; }
+
+    /// Whether windows share columns, so that less of the recording would show more.
+    bool IsCondensed() const { return m_windows > m_columns; }
 
     std::uint32_t SampleRate() const { return m_sampleRate; }
 
@@ -69,6 +92,10 @@ public:
     /// to show.
     std::vector<std::uint8_t> Picture(std::size_t width, std::size_t height) const;
 
+    /// The same of a stretch of the recording; what of it was not computed is on entry 0.
+    std::vector<std::uint8_t> Picture(std::size_t width, std::size_t height, FrameRange const & stretch,
+                                      FrequencyScale scale) const;
+
 private:
     friend class SpectrogramBuilder;
 
@@ -79,6 +106,7 @@ private:
     std::vector<std::uint8_t> m_entries; ///< column by column
     std::size_t m_columns = 0;
     std::size_t m_rows = 0;
+    std::uint64_t m_first = 0; ///< of the recording's frames
     std::uint64_t m_windows = 0;
     std::uint64_t m_hop = 1; ///< frames from one window to the next
     std::uint64_t m_frames = 0;
@@ -93,7 +121,8 @@ public:
     static constexpr std::size_t maximum_channels = 32;
 
     /// A builder for so many frames of so many channels, at least 1. Without frames or sample rate the result is empty.
-    SpectrogramBuilder(std::size_t channels, std::uint32_t sampleRate, std::uint64_t frames);
+    SpectrogramBuilder(std::size_t channels, std::uint32_t sampleRate, std::uint64_t frames,
+                       SpectrogramSettings const & settings = {}, std::uint64_t first = 0);
 
     /// Adds whole frames, channels interleaved, finite numbers; samples behind the last whole frame or the last frame
     /// announced are left out.
@@ -130,15 +159,18 @@ private:
     std::size_t m_column = 0;
 };
 
-/// Reads a recording once, from front to end, in steps, and gives its spectrogram.
+/// Reads a recording, or a stretch of it, once, from front to end, in steps, and gives its spectrogram.
 class SpectrogramAnalyser
 {
 public:
-    /// Opens the source, which may be null.
-    explicit SpectrogramAnalyser(std::unique_ptr<ByteSource> source);
+    /// Opens the source, which may be null. Without a stretch, all of the recording is read; of one, as much as there
+    /// is, and a window more on each side.
+    explicit SpectrogramAnalyser(std::unique_ptr<ByteSource> source, SpectrogramSettings const & settings = {},
+                                 std::optional<FrameRange> const & stretch = {});
 
     /// Opens a file.
-    explicit SpectrogramAnalyser(std::filesystem::path const & path);
+    explicit SpectrogramAnalyser(std::filesystem::path const & path, SpectrogramSettings const & settings = {},
+                                 std::optional<FrameRange> const & stretch = {});
 
     /// Takes the next samples, some 30,000 at a time. False when everything is read; to be called until then.
     bool Step();
@@ -161,6 +193,7 @@ private:
     std::optional<SpectrogramBuilder> m_builder;
     std::vector<double> m_samples;
     std::uint64_t m_framesRead = 0;
+    std::uint64_t m_framesWanted = 0;
 };
 
 } // namespace workbench

@@ -7,9 +7,10 @@
 namespace workbench
 {
 
-SpectrogramJob::SpectrogramJob(std::filesystem::path const & path, std::function<void()> notify)
+SpectrogramJob::SpectrogramJob(std::filesystem::path const & path, std::function<void()> notify,
+                               SpectrogramSettings const & settings, std::optional<FrameRange> const & stretch)
     : m_notify(std::move(notify)),
-      m_thread([this, path] { Run(path); })
+      m_thread([this, path, settings, stretch] { Run(path, settings, stretch); })
 {
 }
 
@@ -19,12 +20,13 @@ SpectrogramJob::~SpectrogramJob()
     m_thread.join();
 }
 
-void SpectrogramJob::Run(std::filesystem::path const & path)
+void SpectrogramJob::Run(std::filesystem::path const & path, SpectrogramSettings const & settings,
+                         std::optional<FrameRange> const & stretch)
 {
     auto result = std::make_shared<Result>();
     try
     {
-        SpectrogramAnalyser analyser(path);
+        SpectrogramAnalyser analyser(path, settings, stretch);
         while (!m_stop && analyser.Step())
         {
             m_progress = static_cast<int>(std::lround(analyser.Progress() * whole_progress));
@@ -38,7 +40,7 @@ void SpectrogramJob::Run(std::filesystem::path const & path)
     }
     catch (std::exception const &)
     {
-        result->problem = ReadProblem{ReadFault::CannotBeOpened};
+        result->problem = ReadProblem{ReadFault::cannot_be_opened};
         result->spectrogram = Spectrogram();
     }
     if (m_stop)

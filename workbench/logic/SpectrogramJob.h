@@ -26,7 +26,9 @@ public:
     };
 
     /// Starts the thread. `notify` is called once, when the result is there, and must not call the job.
-    SpectrogramJob(std::filesystem::path const & path, std::function<void()> notify);
+    /// Without a stretch, all of the recording is computed.
+    SpectrogramJob(std::filesystem::path const & path, std::function<void()> notify,
+                   SpectrogramSettings const & settings = {}, std::optional<FrameRange> const & stretch = {});
 
     /// Gives the job up, if it is not done, and waits for the thread's end.
     ~SpectrogramJob();
@@ -43,7 +45,8 @@ public:
     static constexpr int whole_progress = 1000;
 
 private:
-    void Run(std::filesystem::path const & path);
+    void Run(std::filesystem::path const & path, SpectrogramSettings const & settings,
+             std::optional<FrameRange> const & stretch);
 
     std::function<void()> m_notify;
     std::atomic<int> m_progress = 0;

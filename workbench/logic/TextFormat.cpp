@@ -1,7 +1,10 @@
 #include "logic/TextFormat.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cwchar>
+
+#include "logic/LevelMeter.h"
 
 namespace workbench
 {
@@ -54,6 +57,39 @@ std::wstring FormatDifference(double decibels, double reference)
         text.insert(text.begin(), L'+');
     }
     return text + L" dB";
+}
+
+std::wstring FormatCrestFactor(Levels const & levels)
+{
+    return std::isfinite(levels.peak) && std::isfinite(levels.rms) ? FormatLevel(levels.peak - levels.rms) : L"-";
+}
+
+std::wstring FormatLoudness(std::optional<double> loudness)
+{
+    return loudness ? FormatLevel(*loudness) : L"-";
+}
+
+std::wstring FormatFrequency(std::optional<double> hertz)
+{
+    if (!hertz || !(*hertz >= 0.0) || *hertz > 1e10)
+    {
+        return L"-";
+    }
+    // What would round up to 1,000.0 has no decimal any more.
+    return *hertz < 999.95 ? FormatLevel(*hertz) : FormatThousands(static_cast<std::uint64_t>(std::llround(*hertz)));
+}
+
+std::wstring FormatPercent(std::optional<double> part)
+{
+    if (!part || !std::isfinite(*part))
+    {
+        return L"-";
+    }
+    double const percent = std::abs(*part) * 100.0;
+    int const before = percent >= 1.0 ? static_cast<int>(std::log10(percent)) + 1 : 0;
+    wchar_t text[64];
+    std::swprintf(text, std::size(text), L"%.*f", percent < 0.1 ? 4 : std::max(3 - before, 0), percent);
+    return text;
 }
 
 std::wstring FormatThousands(std::uint64_t number)

@@ -2,10 +2,13 @@
 // Numbers as the workbench shows them.
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 namespace workbench
 {
+
+struct Levels;
 
 /// A duration as "m:ss.mmm", rounded to the nearest millisecond; hours are shown as minutes. "-" for a rate of 0.
 std::wstring FormatDuration(std::uint64_t frames, std::uint32_t sampleRate);
@@ -18,6 +21,19 @@ std::wstring FormatMilliseconds(std::uint64_t milliseconds);
 
 /// A level in dBFS with one decimal; minus infinity as the sign with the symbol. Never a negative zero.
 std::wstring FormatLevel(double decibels);
+
+/// How far the peak lies above the RMS level, in dB with one decimal; "-" for silence.
+std::wstring FormatCrestFactor(Levels const & levels);
+
+/// A loudness with one decimal; "-" where there is none.
+std::wstring FormatLoudness(std::optional<double> loudness);
+
+/// A frequency in Hz: one decimal below 1,000, none above; "-" where there is none.
+std::wstring FormatFrequency(std::optional<double> hertz);
+
+/// A part of 1 as percent with three significant digits, "0.0512", and never less than a ten-thousandth; "-" where
+/// there is none.
+std::wstring FormatPercent(std::optional<double> part);
 
 /// What one level lies above another, as "+2.1 dB", "-0.4 dB" or "0.0 dB". "-" if one of them is silence.
 std::wstring FormatDifference(double decibels, double reference);

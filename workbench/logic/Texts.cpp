@@ -12,188 +12,254 @@ namespace
 {
 
 constexpr unsigned short primary_language_mask = 0x3FF;
-constexpr unsigned short german_language = 0x07;
 
-struct Entry
-{
-    wchar_t const * english;
-    wchar_t const * german;
-};
+/// A text in all languages, by their numbers.
+using Entry = wchar_t const * [language_count];
 
 constexpr Entry all_entries[] = {
     // The main window.
-    {L"&Window", L"Fen&ster"},
-    {L"No recordings", L"Keine Aufnahmen"},
+    {L"&Window", L"Fen&ster", L"&Ventana"},
+    {L"No recordings", L"Keine Aufnahmen", L"No hay grabaciones"},
     {L"Open WAV files or a folder to see them here.",
-     L"Öffnen Sie WAV-Dateien oder einen Ordner, um sie hier zu sehen."},
-    {L"There are no WAV files in this folder.", L"In diesem Ordner sind keine WAV-Dateien."},
-    {L"&Apply", L"Ü&bernehmen"},
-    {L"Folders", L"Ordner"},
-    {L"Spectrogram", L"Spektrogramm"},
-    {L"Measures", L"Messwerte"},
-    {L"Ctrl+", L"Strg+"},
-    {L"Comparison", L"Vergleich"},
-    {L"No recording", L"Keine Aufnahme"},
-    {L"No recording chosen", L"Keine Aufnahme gewählt"},
-    {L"Choose a recording in the list to see it here.",
-     L"Wählen Sie in der Liste eine Aufnahme, um sie hier zu sehen."},
-    {L"reading...", L"wird gelesen..."},
-    {L"not read yet", L"noch nicht gelesen"},
-    {L"not read", L"nicht gelesen"},
-    {L"No recordings yet", L"Noch keine Aufnahmen"},
-    {L"Recordings are being looked for.", L"Aufnahmen werden gesucht."},
-    {L"Folder not found", L"Ordner nicht gefunden"},
-    {L"This folder does not exist or cannot be read:", L"Diesen Ordner gibt es nicht, oder er ist nicht lesbar:"},
-    {L"folder not found:", L"Ordner nicht gefunden:"},
-    {L"folders not found:", L"Ordner nicht gefunden:"},
-    {L"Cancel", L"Abbrechen"},
-    {L"Reference", L"Bezug"},
-    {L"against it,", L"dagegen hat"},
-    {L"has peak", L"Spitze"},
-    {L"recording", L"Aufnahme"},
-    {L"recordings", L"Aufnahmen"},
-    {L"being read", L"werden gelesen"},
-    {L"cannot be shown", L"nicht darstellbar"},
-    {L"marked", L"markiert"},
-    {L"marks and comments cannot be stored", L"Markierungen und Kommentare lassen sich nicht speichern"},
+     L"Öffnen Sie WAV-Dateien oder einen Ordner, um sie hier zu sehen.",
+     L"Abra archivos WAV o una carpeta para verlos aquí."},
+    {L"There are no WAV files in this folder.", L"In diesem Ordner sind keine WAV-Dateien.",
+     L"En esta carpeta no hay archivos WAV."},
+    {L"&Apply", L"Ü&bernehmen", L"A&plicar"},
+    {L"Folders", L"Ordner", L"Carpetas"},
+    {L"Spectrogram", L"Spektrogramm", L"Espectrograma"},
+    {L"Measures", L"Messwerte", L"Medidas"},
+    {L"Ctrl+", L"Strg+", L"Ctrl+"},
+    {L"Comparison", L"Vergleich", L"Comparación"},
+    {L"No recording", L"Keine Aufnahme", L"Ninguna grabación"},
+    {L"No recording chosen", L"Keine Aufnahme gewählt", L"Ninguna grabación seleccionada"},
+    {L"Choose a recording in the list to see it here.", L"Wählen Sie in der Liste eine Aufnahme, um sie hier zu sehen.",
+     L"Seleccione una grabación en la lista para verla aquí."},
+    {L"reading...", L"wird gelesen...", L"leyendo..."},
+    {L"not read yet", L"noch nicht gelesen", L"aún sin leer"},
+    {L"not read", L"nicht gelesen", L"sin leer"},
+    {L"No recordings yet", L"Noch keine Aufnahmen", L"Aún no hay grabaciones"},
+    {L"Recordings are being looked for.", L"Aufnahmen werden gesucht.", L"Buscando grabaciones."},
+    {L"Folder not found", L"Ordner nicht gefunden", L"Carpeta no encontrada"},
+    {L"This folder does not exist or cannot be read:", L"Diesen Ordner gibt es nicht, oder er ist nicht lesbar:",
+     L"Esta carpeta no existe o no se puede leer:"},
+    {L"folder not found:", L"Ordner nicht gefunden:", L"carpeta no encontrada:"},
+    {L"folders not found:", L"Ordner nicht gefunden:", L"carpetas no encontradas:"},
+    {L"Cancel", L"Abbruch", L"Cancelar"},
+    {L"Reference", L"Bezug", L"Referencia"},
+    {L"against it,", L"dagegen hat", L"respecto a ella,"},
+    {L"has peak", L"Spitze", L"tiene un pico de"},
+    {L"recording", L"Aufnahme", L"grabación"},
+    {L"recordings", L"Aufnahmen", L"grabaciones"},
+    {L"being read", L"werden gelesen", L"en lectura"},
+    {L"cannot be shown", L"nicht darstellbar", L"con error"},
+    {L"marked", L"markiert", L"con marca"},
+    {L"marks and comments cannot be stored", L"Markierungen und Kommentare lassen sich nicht speichern",
+     L"no se pueden guardar las marcas ni los comentarios"},
     {L"Levels refer to a full-scale sine: 0 dBFS peak, -3.0 dBFS RMS",
-     L"Pegel beziehen sich auf einen voll ausgesteuerten Sinus: 0 dBFS Spitze, -3.0 dBFS RMS"},
+     L"Pegel beziehen sich auf einen voll ausgesteuerten Sinus: 0 dBFS Spitze, -3.0 dBFS RMS",
+     L"Los niveles se refieren a una senoidal a fondo de escala: 0 dBFS de pico, -3.0 dBFS RMS"},
     // Opening.
     {L"WAV recordings (*.wav;*.wave)|*.wav;*.wave|All files (*.*)|*.*||",
-     L"WAV-Aufnahmen (*.wav;*.wave)|*.wav;*.wave|Alle Dateien (*.*)|*.*||"},
-    {L"Open Recordings", L"Aufnahmen öffnen"},
-    {L"Open Folder", L"Ordner öffnen"},
-    {L"Type the name of a folder, or choose one.", L"Geben Sie den Namen eines Ordners ein, oder wählen Sie einen."},
-    {L"There is no folder of this name.", L"Einen Ordner mit diesem Namen gibt es nicht."},
-    {L"Choose a folder with recordings:", L"Wählen Sie einen Ordner mit Aufnahmen:"},
+     L"WAV-Aufnahmen (*.wav;*.wave)|*.wav;*.wave|Alle Dateien (*.*)|*.*||",
+     L"Grabaciones WAV (*.wav;*.wave)|*.wav;*.wave|Todos los archivos (*.*)|*.*||"},
+    {L"Open Recordings", L"Aufnahmen öffnen", L"Abrir grabaciones"},
+    {L"Open Folder", L"Ordner öffnen", L"Abrir carpeta"},
+    {L"Type the name of a folder, or choose one.", L"Geben Sie den Namen eines Ordners ein, oder wählen Sie einen.",
+     L"Escriba el nombre de una carpeta o elija una."},
+    {L"There is no folder of this name.", L"Einen Ordner mit diesem Namen gibt es nicht.",
+     L"No existe ninguna carpeta con este nombre."},
+    {L"Choose a folder with recordings:", L"Wählen Sie einen Ordner mit Aufnahmen:",
+     L"Elija una carpeta con grabaciones:"},
     // The list.
-    {L"Name", L"Name"},
-    {L"Ref.", L"Bez."},
-    {L"Waveform", L"Verlauf"},
-    {L"Duration", L"Dauer"},
-    {L"Channels", L"Kanäle"},
-    {L"Rate (Hz)", L"Rate (Hz)"},
-    {L"Peak (dBFS)", L"Spitze (dBFS)"},
-    {L"RMS (dBFS)", L"RMS (dBFS)"},
-    {L"Date", L"Datum"},
-    {L"Rating", L"Bewertung"},
-    {L"Comment", L"Kommentar"},
-    {L"Status", L"Zustand"},
-    {L"Not rated", L"Ohne"},
-    {L"Good", L"Gut"},
-    {L"Usable", L"Brauchbar"},
-    {L"Rejected", L"Verworfen"},
-    {L"No recordings. Open files or a folder.", L"Keine Aufnahmen. Öffnen Sie Dateien oder einen Ordner."},
-    {L"&Details...\tAlt+Enter", L"&Einzelheiten...\tAlt+Enter"},
-    {L"Set as &reference\tCtrl+R", L"Als &Bezug setzen\tStrg+R"},
-    {L"In a &window of its own\tCtrl+N", L"In eigenem &Fenster\tStrg+N"},
-    {L"Edit &comment\tF2", L"K&ommentar bearbeiten\tF2"},
-    {L"Ra&te...\tF4", L"Be&werten...\tF4"},
-    {L"Read &again\tCtrl+F5", L"Er&neut lesen\tStrg+F5"},
-    {L"&Mark all\tCtrl+A", L"Alle &markieren\tStrg+A"},
-    {L"Mark &none\tCtrl+Shift+A", L"&Keine markieren\tStrg+Umschalt+A"},
-    {L"Re&load everything\tF5", L"Alles neu &laden\tF5"},
+    {L"Name", L"Name", L"Nombre"},
+    {L"Ref.", L"Bez.", L"Ref."},
+    {L"Waveform", L"Verlauf", L"Forma de onda"},
+    {L"Duration", L"Dauer", L"Duración"},
+    {L"Channels", L"Kanäle", L"Canales"},
+    {L"Rate (Hz)", L"Rate (Hz)", L"Frec. (Hz)"},
+    {L"Peak (dBFS)", L"Spitze (dBFS)", L"Pico (dBFS)"},
+    {L"RMS (dBFS)", L"RMS (dBFS)", L"RMS (dBFS)"},
+    {L"Date", L"Datum", L"Fecha"},
+    {L"Rating", L"Bewertung", L"Valoración"},
+    {L"Comment", L"Kommentar", L"Comentario"},
+    {L"Status", L"Zustand", L"Estado"},
+    {L"Not rated", L"Ohne", L"Sin valorar"},
+    {L"Good", L"Gut", L"Buena"},
+    {L"Usable", L"Brauchbar", L"Utilizable"},
+    {L"Rejected", L"Verworfen", L"Descartada"},
+    {L"No recordings. Open files or a folder.", L"Keine Aufnahmen. Öffnen Sie Dateien oder einen Ordner.",
+     L"No hay grabaciones. Abra archivos o una carpeta."},
+    {L"&Details...\tAlt+Enter", L"&Einzelheiten...\tAlt+Enter", L"&Detalles...\tAlt+Entrar"},
+    {L"Set as &reference\tCtrl+R", L"Als &Bezug setzen\tStrg+R", L"Usar como &referencia\tCtrl+R"},
+    {L"In a &window of its own\tCtrl+N", L"In eigenem &Fenster\tStrg+N", L"En &ventana propia\tCtrl+N"},
+    {L"Edit &comment\tF2", L"K&ommentar bearbeiten\tF2", L"Editar &comentario\tF2"},
+    {L"Ra&te...\tF4", L"Be&werten...\tF4", L"Va&lorar...\tF4"},
+    {L"Read &again\tCtrl+F5", L"Er&neut lesen\tStrg+F5", L"Leer &otra vez\tCtrl+F5"},
+    {L"&Mark all\tCtrl+A", L"Alle &markieren\tStrg+A", L"&Marcar todas\tCtrl+A"},
+    {L"Mark &none\tCtrl+Shift+A", L"&Keine markieren\tStrg+Umschalt+A", L"Marcar &ninguna\tCtrl+Mayús+A"},
+    {L"Re&load everything\tF5", L"Alles neu &laden\tF5", L"Volver a car&gar todo\tF5"},
     // A recording.
-    {L"Cannot be shown", L"Nicht darstellbar"},
-    {L"This file is damaged", L"Diese Datei ist beschädigt"},
-    {L"-bit float", L" Bit Gleitkomma"},
-    {L"-bit PCM", L" Bit PCM"},
-    {L"-bit", L" Bit"},
-    {L"channel", L"Kanal"},
-    {L"channels", L"Kanäle"},
-    {L"are shown", L"sind zu sehen"},
-    {L"the first", L"die ersten"},
-    {L"Left", L"Links"},
-    {L"Right", L"Rechts"},
-    {L"cut off, should be", L"abgeschnitten, Soll"},
-    {L"has invalid samples", L"hat ungültige Werte"},
-    {L"OK", L"In Ordnung"},
-    {L"cannot be opened", L"lässt sich nicht öffnen"},
-    {L"not a WAV file", L"keine WAV-Datei"},
-    {L"big-endian WAV (RIFX)", L"WAV mit hohem Byte zuerst (RIFX)"},
-    {L"64-bit WAV (RF64)", L"64-Bit-WAV (RF64)"},
-    {L"cut off before the first sample", L"vor dem ersten Wert abgeschnitten"},
-    {L"damaged header", L"beschädigter Kopf"},
-    {L"empty, no samples", L"leer, keine Werte"},
-    {L"unknown format (%u-bit %ls)", L"unbekanntes Format (%u Bit %ls)"},
-    {L"PCM", L"PCM"},
-    {L"float", L"Gleitkomma"},
-    {L"unknown format (tag 0x%04X)", L"unbekanntes Format (Kennung 0x%04X)"},
-    {L"The spectrogram is being computed.", L"Das Spektrogramm wird berechnet."},
-    {L"the loudest of", L"der lauteste von"},
+    {L"Cannot be shown", L"Nicht darstellbar", L"No se puede mostrar"},
+    {L"This file is damaged", L"Diese Datei ist beschädigt", L"Este archivo está dañado"},
+    {L"-bit float", L" Bit Gleitkomma", L" bits, coma flotante"},
+    {L"-bit PCM", L" Bit PCM", L" bits PCM"},
+    {L"-bit", L" Bit", L" bits"},
+    {L"channel", L"Kanal", L"canal"},
+    {L"channels", L"Kanäle", L"canales"},
+    {L"are shown", L"sind zu sehen", L"primeros"},
+    {L"the first", L"die ersten", L"se muestran los"},
+    {L"Left", L"Links", L"Izquierdo"},
+    {L"Right", L"Rechts", L"Derecho"},
+    {L"cut off, should be", L"abgeschnitten, Soll", L"truncada, debería durar"},
+    {L"has invalid samples", L"hat ungültige Werte", L"contiene muestras no válidas"},
+    {L"OK", L"In Ordnung", L"Correcto"},
+    {L"cannot be opened", L"lässt sich nicht öffnen", L"no se puede abrir"},
+    {L"not a WAV file", L"keine WAV-Datei", L"no es un archivo WAV"},
+    {L"big-endian WAV (RIFX)", L"WAV mit hohem Byte zuerst (RIFX)", L"WAV en orden big-endian (RIFX)"},
+    {L"64-bit WAV (RF64)", L"64-Bit-WAV (RF64)", L"WAV de 64 bits (RF64)"},
+    {L"cut off before the first sample", L"vor dem ersten Wert abgeschnitten", L"truncado antes de la primera muestra"},
+    {L"damaged header", L"beschädigter Kopf", L"cabecera dañada"},
+    {L"empty, no samples", L"leer, keine Werte", L"vacío, sin muestras"},
+    {L"unknown format (%u-bit %ls)", L"unbekanntes Format (%u Bit %ls)", L"formato desconocido (%u bits, %ls)"},
+    {L"PCM", L"PCM", L"PCM"},
+    {L"float", L"Gleitkomma", L"coma flotante"},
+    {L"unknown format (tag 0x%04X)", L"unbekanntes Format (Kennung 0x%04X)", L"formato desconocido (etiqueta 0x%04X)"},
+    {L"The spectrogram is being computed.", L"Das Spektrogramm wird berechnet.", L"Calculando el espectrograma."},
+    {L"the loudest of", L"der lauteste von", L"el más intenso de"},
     // Its details.
-    {L"Recording Details", L"Einzelheiten der Aufnahme"},
-    {L"File", L"Datei"},
-    {L"Folder", L"Ordner"},
-    {L"Size", L"Größe"},
-    {L"byte", L"Byte"},
-    {L"bytes", L"Bytes"},
-    {L"Format", L"Format"},
-    {L"Sample rate", L"Abtastrate"},
-    {L"sample", L"Wert"},
-    {L"samples", L"Werte"},
-    {L"Peak level", L"Spitzenpegel"},
-    {L"RMS level", L"Effektivpegel"},
-    {L"&Previous recording\tCtrl+Page Up", L"&Vorige Aufnahme\tStrg+Bild auf"},
-    {L"&Next recording\tCtrl+Page Down", L"&Nächste Aufnahme\tStrg+Bild ab"},
-    {L"Show in the &list", L"In der &Liste zeigen"},
-    {L"Set as &reference", L"Als &Bezug setzen"},
+    {L"Recording Details", L"Einzelheiten der Aufnahme", L"Detalles de la grabación"},
+    {L"File", L"Datei", L"Archivo"},
+    {L"Folder", L"Ordner", L"Carpeta"},
+    {L"Size", L"Größe", L"Tamaño"},
+    {L"byte", L"Byte", L"byte"},
+    {L"bytes", L"Bytes", L"bytes"},
+    {L"Format", L"Format", L"Formato"},
+    {L"Sample rate", L"Abtastrate", L"Muestreo"},
+    {L"sample", L"Wert", L"muestra"},
+    {L"samples", L"Werte", L"muestras"},
+    {L"Peak level", L"Spitzenpegel", L"Nivel de pico"},
+    {L"RMS level", L"Effektivpegel", L"Nivel RMS"},
+    {L"Crest factor", L"Scheitelfaktor", L"Factor de cresta"},
+    {L"Loudness", L"Lautheit", L"Sonoridad"},
+    {L"Strongest frequency", L"Stärkste Frequenz", L"Frecuencia dominante"},
+    {L"Harmonic distortion", L"Klirrfaktor", L"Distorsión armónica"},
+    {L"selected", L"ausgewählt", L"seleccionado"},
+    {L"There is no audio device to play the recording on.",
+     L"Es gibt kein Audiogerät, das die Aufnahme abspielen könnte.",
+     L"No hay ningún dispositivo de audio para reproducir la grabación."},
+    {L"The recording cannot be read any more.", L"Die Aufnahme lässt sich nicht mehr lesen.",
+     L"La grabación ya no se puede leer."},
+    {L"Pictures (*.png)|*.png||", L"Bilder (*.png)|*.png||", L"Imágenes (*.png)|*.png||"},
+    {L"Save Picture", L"Bild speichern", L"Guardar imagen"},
+    {L"By the sample rate", L"Nach der Abtastrate", L"Según la frecuencia de muestreo"},
+    {L"Linear", L"Linear", L"Lineal"},
+    {L"Logarithmic", L"Logarithmisch", L"Logarítmica"},
+    {L"&Previous recording\tCtrl+Page Up", L"&Vorige Aufnahme\tStrg+Bild auf", L"Grabación &anterior\tCtrl+Re Pág"},
+    {L"&Next recording\tCtrl+Page Down", L"&Nächste Aufnahme\tStrg+Bild ab", L"Grabación &siguiente\tCtrl+Av Pág"},
+    {L"Show in the &list", L"In der &Liste zeigen", L"Mostrar en la &lista"},
+    {L"Set as &reference", L"Als &Bezug setzen", L"Usar como &referencia"},
     // The displays.
-    {L"Position", L"Position"},
-    {L"Level (dBFS)", L"Pegel (dBFS)"},
-    {L"S&pectrogram colours:", L"S&pektrogrammfarben:"},
-    {L"Print Preview", L"Druckvorschau"},
-    {L"Fit waveform to its peak", L"Kurve an ihre Spitze anpassen"},
-    {L"Amplification", L"Verstärkung"},
-    {L"Amplification of the waveform", L"Verstärkung der Kurve"},
+    {L"Position", L"Position", L"Posición"},
+    {L"Level (dBFS)", L"Pegel (dBFS)", L"Nivel (dBFS)"},
+    {L"S&pectrogram colours:", L"S&pektrogrammfarben:", L"Colores del es&pectrograma:"},
+    {L"Print Preview", L"Druckvorschau", L"Vista previa de impresión"},
+    {L"Fit waveform to its peak", L"Kurve an ihre Spitze anpassen", L"Ajustar la forma de onda a su pico"},
+    {L"Amplification", L"Verstärkung", L"Amplificación"},
+    {L"Amplification of the waveform", L"Verstärkung der Kurve", L"Amplificación de la forma de onda"},
     // The export of the list.
-    {L"Export List", L"Liste exportieren"},
+    {L"Export List", L"Liste exportieren", L"Exportar lista"},
     {L"Text with tabs (*.txt)|*.txt|Web page (*.html)|*.html|All files (*.*)|*.*||",
-     L"Text mit Tabulatoren (*.txt)|*.txt|Webseite (*.html)|*.html|Alle Dateien (*.*)|*.*||"},
-    {L"All", L"Alle"},
-    {L"The selected ones", L"Die gewählten"},
-    {L"The marked ones", L"Die markierten"},
-    {L"Replace this file?", L"Diese Datei ersetzen?"},
+     L"Text mit Tabulatoren (*.txt)|*.txt|Webseite (*.html)|*.html|Alle Dateien (*.*)|*.*||",
+     L"Texto con tabulaciones (*.txt)|*.txt|Página web (*.html)|*.html|Todos los archivos (*.*)|*.*||"},
+    {L"All", L"Alle", L"Todas"},
+    {L"The selected ones", L"Die gewählten", L"Las seleccionadas"},
+    {L"The marked ones", L"Die markierten", L"Las marcadas"},
+    {L"Replace this file?", L"Diese Datei ersetzen?", L"¿Reemplazar este archivo?"},
     {L"Type the whole path of the file, or choose one.",
-     L"Geben Sie den ganzen Pfad der Datei ein, oder wählen Sie eine."},
-    {L"This file could not be written:", L"Diese Datei ließ sich nicht schreiben:"},
+     L"Geben Sie den ganzen Pfad der Datei ein, oder wählen Sie eine.",
+     L"Escriba la ruta completa del archivo o elija uno."},
+    {L"This file could not be written:", L"Diese Datei ließ sich nicht schreiben:",
+     L"No se pudo escribir este archivo:"},
     // Settings.
-    {L"Settings", L"Einstellungen"},
-    {L"The opacity must be between 20 and 100 percent.", L"Die Deckkraft muss zwischen 20 und 100 Prozent liegen."},
-    {L"Choose a folder that is opened at the start:", L"Wählen Sie einen Ordner, der beim Start geöffnet wird:"},
-    {L"Choose the folder for the settings file:", L"Wählen Sie den Ordner für die Einstellungsdatei:"},
-    {L"Choose the folder that has the settings file:", L"Wählen Sie den Ordner mit der Einstellungsdatei:"},
+    {L"Settings", L"Einstellungen", L"Configuración"},
+    {L"The opacity must be between 20 and 100 percent.", L"Die Deckkraft muss zwischen 20 und 100 Prozent liegen.",
+     L"La opacidad debe estar entre el 20 y el 100 por ciento."},
+    {L"Choose a folder that is opened at the start:", L"Wählen Sie einen Ordner, der beim Start geöffnet wird:",
+     L"Elija una carpeta que se abrirá al inicio:"},
+    {L"Choose the folder for the settings file:", L"Wählen Sie den Ordner für die Einstellungsdatei:",
+     L"Elija la carpeta para el archivo de configuración:"},
+    {L"Choose the folder that has the settings file:", L"Wählen Sie den Ordner mit der Einstellungsdatei:",
+     L"Elija la carpeta que contiene el archivo de configuración:"},
     {L"The settings could not be written to this file:",
-     L"Die Einstellungen ließen sich nicht in diese Datei schreiben:"},
-    {L"The settings are in this file now:", L"Die Einstellungen stehen jetzt in dieser Datei:"},
-    {L"This folder has no settings file:", L"In diesem Ordner ist keine Einstellungsdatei:"},
-    {L"Replace all settings by those in this file?", L"Alle Einstellungen durch die in dieser Datei ersetzen?"},
-    {L"The settings are those of the file now.", L"Es gelten jetzt die Einstellungen der Datei."},
+     L"Die Einstellungen ließen sich nicht in diese Datei schreiben:",
+     L"No se pudo escribir la configuración en este archivo:"},
+    {L"The settings are in this file now:", L"Die Einstellungen stehen jetzt in dieser Datei:",
+     L"La configuración se ha guardado en este archivo:"},
+    {L"This folder has no settings file:", L"In diesem Ordner ist keine Einstellungsdatei:",
+     L"En esta carpeta no hay ningún archivo de configuración:"},
+    {L"Replace all settings by those in this file?", L"Alle Einstellungen durch die in dieser Datei ersetzen?",
+     L"¿Reemplazar toda la configuración por la de este archivo?"},
+    {L"The settings are those of the file now.", L"Es gelten jetzt die Einstellungen der Datei.",
+     L"Se ha aplicado la configuración del archivo."},
     {L"Only a part of the settings could be taken from this file:",
-     L"Nur ein Teil der Einstellungen ließ sich aus dieser Datei übernehmen:"},
+     L"Nur ein Teil der Einstellungen ließ sich aus dieser Datei übernehmen:",
+     L"Solo se pudo tomar una parte de la configuración de este archivo:"},
     {L"This is no settings file, or it cannot be read:",
-     L"Dies ist keine Einstellungsdatei, oder sie ist nicht lesbar:"},
-    {L"The settings could not be stored.", L"Die Einstellungen ließen sich nicht speichern."},
+     L"Dies ist keine Einstellungsdatei, oder sie ist nicht lesbar:",
+     L"Este no es un archivo de configuración o no se puede leer:"},
+    {L"The settings could not be stored.", L"Die Einstellungen ließen sich nicht speichern.",
+     L"No se pudo guardar la configuración."},
+    {L"Recordings", L"Aufnahmen", L"Grabaciones"},
+    {L"Choose Display Language", L"Anzeigesprache wählen", L"Elegir idioma"},
+    {L"Choose the language of the workbench:", L"Wählen Sie die Sprache der Workbench:",
+     L"Elija el idioma de la aplicación:"},
+    {L"Windows that are open already keep their language until they are opened again.",
+     L"Fenster, die schon offen sind, behalten ihre Sprache, bis sie wieder geöffnet werden.",
+     L"Las ventanas ya abiertas conservan su idioma hasta que se vuelvan a abrir."},
+    {L"Choose one of the languages in the list.", L"Wählen Sie eine der Sprachen in der Liste.",
+     L"Elija uno de los idiomas de la lista."},
 };
 
-/// The entries in the order of their English texts.
-std::vector<Entry> const & Catalogue()
+std::wstring_view English(wchar_t const * const * entry)
 {
-    static std::vector<Entry> const catalogue = [] {
-        std::vector<Entry> entries(std::begin(all_entries), std::end(all_entries));
-        std::ranges::sort(entries, {}, [](Entry const & entry) { return std::wstring_view(entry.english); });
+    return entry[static_cast<std::size_t>(Language::English)];
+}
+
+/// The entries in the order of their English texts.
+std::vector<wchar_t const * const *> const & Catalogue()
+{
+    static std::vector<wchar_t const * const *> const catalogue = [] {
+        std::vector<wchar_t const * const *> entries(std::begin(all_entries), std::end(all_entries));
+        std::ranges::sort(entries, {}, English);
         return entries;
     }();
     return catalogue;
+}
+
+/// The language of that number in any country, or null.
+LanguageFacts const * FindLanguage(unsigned short languageId)
+{
+    auto const same = [languageId](LanguageFacts const & facts) {
+        return (facts.id & primary_language_mask) == (languageId & primary_language_mask);
+    };
+    auto const found = std::ranges::find_if(language_facts, same);
+    return found == std::end(language_facts) ? nullptr : found;
 }
 
 std::atomic<Language> s_language = Language::English;
 
 } // namespace
 
+bool SpeaksLanguage(unsigned short languageId)
+{
+    return FindLanguage(languageId) != nullptr;
+}
+
 Language LanguageOf(unsigned short languageId)
 {
-    return (languageId & primary_language_mask) == german_language ? Language::German : Language::English;
+    auto const * const facts = FindLanguage(languageId);
+    return facts != nullptr ? static_cast<Language>(facts - language_facts) : Language::English;
 }
 
 void SetLanguage(Language language)
@@ -203,15 +269,20 @@ void SetLanguage(Language language)
 
 wchar_t const * Text(wchar_t const * english)
 {
-    if (s_language == Language::English)
+    auto const language = s_language.load();
+    if (language == Language::English)
     {
         return english;
     }
     auto const & entries = Catalogue();
     std::wstring_view const wanted(english);
-    auto const found = std::ranges::lower_bound(entries, wanted, {},
-                                                [](Entry const & entry) { return std::wstring_view(entry.english); });
-    return found != entries.end() && found->english == wanted ? found->german : english;
+    auto const found = std::ranges::lower_bound(entries, wanted, {}, English);
+    if (found == entries.end() || English(*found) != wanted)
+    {
+        return english;
+    }
+    auto const * const text = (*found)[static_cast<std::size_t>(language)];
+    return text != nullptr ? text : english;
 }
 
 } // namespace workbench

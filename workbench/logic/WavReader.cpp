@@ -95,12 +95,12 @@ std::variant<RecordingInfo, ReadProblem> CheckFormat(Format const & format)
 {
     if (format.tag != tag_pcm && format.tag != tag_float)
     {
-        return ReadProblem{ReadFault::UnknownFormat, format.tag, format.bitsPerSample};
+        return ReadProblem{ReadFault::unknown_format, format.tag, format.bitsPerSample};
     }
     if (format.channels == 0 || format.sampleRate == 0 || format.frameBytes == 0 ||
         format.frameBytes % format.channels != 0)
     {
-        return ReadProblem{ReadFault::DamagedHeader};
+        return ReadProblem{ReadFault::damaged_header};
     }
     RecordingInfo info;
     info.channels = format.channels;
@@ -112,24 +112,24 @@ std::variant<RecordingInfo, ReadProblem> CheckFormat(Format const & format)
     {
         if (format.bitsPerSample != 32 && format.bitsPerSample != 64)
         {
-            return ReadProblem{ReadFault::UnknownFormat, format.tag, format.bitsPerSample};
+            return ReadProblem{ReadFault::unknown_format, format.tag, format.bitsPerSample};
         }
         if (format.bitsPerSample != containerBits)
         {
-            return ReadProblem{ReadFault::DamagedHeader};
+            return ReadProblem{ReadFault::damaged_header};
         }
-        info.coding = SampleCoding::Float;
+        info.coding = SampleCoding::floating_point;
         return info;
     }
     if (format.bitsPerSample == 0 || format.bitsPerSample > containerBits)
     {
-        return ReadProblem{ReadFault::DamagedHeader};
+        return ReadProblem{ReadFault::damaged_header};
     }
     if (info.bytesPerSample > 4)
     {
-        return ReadProblem{ReadFault::UnknownFormat, format.tag, format.bitsPerSample};
+        return ReadProblem{ReadFault::unknown_format, format.tag, format.bitsPerSample};
     }
-    info.coding = info.bytesPerSample == 1 ? SampleCoding::UnsignedInteger : SampleCoding::SignedInteger;
+    info.coding = info.bytesPerSample == 1 ? SampleCoding::unsigned_integer : SampleCoding::signed_integer;
     return info;
 }
 
@@ -138,12 +138,12 @@ double DecodeSample(std::byte const * p, RecordingInfo const & info)
 {
     switch (info.coding)
     {
-    case SampleCoding::UnsignedInteger:
+    case SampleCoding::unsigned_integer:
         return (std::to_integer<int>(p[0]) - 128) / 128.0;
-    case SampleCoding::Float:
+    case SampleCoding::floating_point:
         return info.bytesPerSample == 4 ? static_cast<double>(std::bit_cast<float>(LittleEndian32(p)))
                                         : std::bit_cast<double>(LittleEndian64(p));
-    case SampleCoding::SignedInteger:
+    case SampleCoding::signed_integer:
         break;
     }
     // Shorter samples go into the upper bits, so that all widths share one full scale.
@@ -224,21 +224,21 @@ std::wstring ReadProblem::Text() const
 {
     switch (fault)
     {
-    case ReadFault::CannotBeOpened:
+    case ReadFault::cannot_be_opened:
         return workbench::Text(L"cannot be opened");
-    case ReadFault::NotWav:
+    case ReadFault::not_wav:
         return workbench::Text(L"not a WAV file");
-    case ReadFault::BigEndian:
+    case ReadFault::big_endian:
         return workbench::Text(L"big-endian WAV (RIFX)");
-    case ReadFault::SixtyFourBit:
+    case ReadFault::sixty_four_bit:
         return workbench::Text(L"64-bit WAV (RF64)");
-    case ReadFault::CutOff:
+    case ReadFault::cut_off:
         return workbench::Text(L"cut off before the first sample");
-    case ReadFault::DamagedHeader:
+    case ReadFault::damaged_header:
         return workbench::Text(L"damaged header");
-    case ReadFault::Empty:
+    case ReadFault::empty:
         return workbench::Text(L"empty, no samples");
-    case ReadFault::UnknownFormat:
+    case ReadFault::unknown_format:
         break;
     }
     wchar_t text[64];
@@ -260,11 +260,11 @@ std::variant<WavReader, ReadProblem> WavReader::Open(std::unique_ptr<ByteSource>
 {
     if (!source)
     {
-        return ReadProblem{ReadFault::CannotBeOpened};
+        return ReadProblem{ReadFault::cannot_be_opened};
     }
     if (source->Size() == 0)
     {
-        return ReadProblem{ReadFault::Empty};
+        return ReadProblem{ReadFault::empty};
     }
     std::array<std::byte, riff_header_bytes> header{};
     auto const headerBytes = source->Read(0, header);
@@ -272,26 +272,26 @@ std::variant<WavReader, ReadProblem> WavReader::Open(std::unique_ptr<ByteSource>
     {
         if (headerBytes >= 4 && HasId(header.data(), "RIFX"))
         {
-            return ReadProblem{ReadFault::BigEndian};
+            return ReadProblem{ReadFault::big_endian};
         }
         if (headerBytes >= 4 && HasId(header.data(), "RF64"))
         {
-            return ReadProblem{ReadFault::SixtyFourBit};
+            return ReadProblem{ReadFault::sixty_four_bit};
         }
-        return ReadProblem{ReadFault::NotWav};
+        return ReadProblem{ReadFault::not_wav};
     }
     if (headerBytes < header.size())
     {
-        return ReadProblem{ReadFault::CutOff};
+        return ReadProblem{ReadFault::cut_off};
     }
     if (!HasId(&header[8], "WAVE"))
     {
-        return ReadProblem{ReadFault::NotWav};
+        return ReadProblem{ReadFault::not_wav};
     }
     auto const chunks = FindChunks(*source, LittleEndian32(&header[4]));
     if (!chunks.format || !chunks.dataOffset)
     {
-        return ReadProblem{chunks.ranOut && !chunks.formatTooShort ? ReadFault::CutOff : ReadFault::DamagedHeader};
+        return ReadProblem{chunks.ranOut && !chunks.formatTooShort ? ReadFault::cut_off : ReadFault::damaged_header};
     }
     auto const checked = CheckFormat(*chunks.format);
     if (auto const * const problem = std::get_if<ReadProblem>(&checked))
@@ -305,7 +305,7 @@ std::variant<WavReader, ReadProblem> WavReader::Open(std::unique_ptr<ByteSource>
     info.frames = std::min(chunks.announcedBytes, present) / frameBytes;
     if (info.frames == 0)
     {
-        return ReadProblem{info.announcedFrames > 0 ? ReadFault::CutOff : ReadFault::Empty};
+        return ReadProblem{info.announcedFrames > 0 ? ReadFault::cut_off : ReadFault::empty};
     }
     return WavReader(std::move(source), info, *chunks.dataOffset);
 }
@@ -313,9 +313,17 @@ std::variant<WavReader, ReadProblem> WavReader::Open(std::unique_ptr<ByteSource>
 WavReader::WavReader(std::unique_ptr<ByteSource> source, RecordingInfo const & info, std::uint64_t dataOffset)
     : m_source(std::move(source)),
       m_info(info),
+      m_dataOffset(dataOffset),
       m_position(dataOffset),
       m_framesLeft(info.frames)
 {
+}
+
+void WavReader::Seek(std::uint64_t frame)
+{
+    std::uint64_t const first = std::min(frame, m_info.frames);
+    m_position = m_dataOffset + first * m_info.channels * m_info.bytesPerSample;
+    m_framesLeft = m_info.frames - first;
 }
 
 std::size_t WavReader::ReadFrames(std::span<double> samples)

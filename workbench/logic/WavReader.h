@@ -16,20 +16,20 @@ namespace workbench
 /// Why a file is not a recording that can be shown.
 enum class ReadFault
 {
-    CannotBeOpened, ///< missing, a folder, or access is refused
-    NotWav,         ///< no RIFF/WAVE file
-    BigEndian,      ///< a RIFX file: WAVE with its numbers the other way round
-    SixtyFourBit,   ///< an RF64 file: WAVE with 64-bit sizes
-    CutOff,         ///< the file ends before its first sample
-    UnknownFormat,  ///< the samples are coded in a way that is not read
-    DamagedHeader,  ///< the fields of the header contradict each other, or a chunk is missing
-    Empty,          ///< there are no bytes or no samples
+    cannot_be_opened, ///< missing, a folder, or access is refused
+    not_wav,          ///< no RIFF/WAVE file
+    big_endian,       ///< a RIFX file: WAVE with its numbers the other way round
+    sixty_four_bit,   ///< an RF64 file: WAVE with 64-bit sizes
+    cut_off,          ///< the file ends before its first sample
+    unknown_format,   ///< the samples are coded in a way that is not read
+    damaged_header,   ///< the fields of the header contradict each other, or a chunk is missing
+    empty,            ///< there are no bytes or no samples
 };
 
 /// A fault and what belongs to it.
 struct ReadProblem
 {
-    ReadFault fault = ReadFault::NotWav;
+    ReadFault fault = ReadFault::not_wav;
     std::uint16_t formatTag = 0;     ///< with `UnknownFormat`: the format tag of the header
     std::uint16_t bitsPerSample = 0; ///< with `UnknownFormat`: the sample width of the header
 
@@ -42,15 +42,15 @@ struct ReadProblem
 /// How one sample is stored.
 enum class SampleCoding
 {
-    UnsignedInteger, ///< 8 bits, 128 is silence
-    SignedInteger,   ///< 16, 24 or 32 bits
-    Float,           ///< 32 or 64 bits
+    unsigned_integer, ///< 8 bits, 128 is silence
+    signed_integer,   ///< 16, 24 or 32 bits
+    floating_point,   ///< 32 or 64 bits
 };
 
 /// What the header says about a recording.
 struct RecordingInfo
 {
-    SampleCoding coding = SampleCoding::SignedInteger;
+    SampleCoding coding = SampleCoding::signed_integer;
     std::uint16_t channels = 0;
     std::uint16_t bitsPerSample = 0;   ///< the bits in use
     std::uint16_t bytesPerSample = 0;  ///< the bytes that one sample takes up
@@ -79,6 +79,9 @@ public:
     /// zero is read as 0 and counted.
     std::size_t ReadFrames(std::span<double> samples);
 
+    /// Goes on with that frame, or with the end if there are fewer. What lies there is read from the source again.
+    void Seek(std::uint64_t frame);
+
     /// The number of samples read so far that were no usable numbers.
     std::uint64_t InvalidSamples() const { return m_invalidSamples; }
 
@@ -93,6 +96,7 @@ private:
 
     std::unique_ptr<ByteSource> m_source;
     RecordingInfo m_info;
+    std::uint64_t m_dataOffset;
     std::uint64_t m_position;
     std::uint64_t m_framesLeft;
     std::uint64_t m_invalidSamples = 0;

@@ -60,11 +60,16 @@ MinMax Waveform::Range(std::size_t lane, std::uint64_t first, std::uint64_t end)
 
 std::vector<MinMax> Waveform::Columns(std::size_t lane, std::size_t width) const
 {
+    return Columns(lane, width, {0, m_frames});
+}
+
+std::vector<MinMax> Waveform::Columns(std::size_t lane, std::size_t width, FrameRange const & range) const
+{
     std::vector<MinMax> columns(width);
     // Whole frames and the remainder apart, so that the product below stays small.
-    auto const whole = width > 0 ? m_frames / width : 0;
-    auto const remainder = width > 0 ? m_frames % width : 0;
-    auto const edge = [&](std::size_t column) { return column * whole + column * remainder / width; };
+    auto const whole = width > 0 ? range.Length() / width : 0;
+    auto const remainder = width > 0 ? range.Length() % width : 0;
+    auto const edge = [&](std::size_t column) { return range.first + column * whole + column * remainder / width; };
     for (std::size_t column = 0; column < width; ++column)
     {
         columns[column] = Range(lane, edge(column), edge(column + 1));
@@ -72,15 +77,16 @@ std::vector<MinMax> Waveform::Columns(std::size_t lane, std::size_t width) const
     return columns;
 }
 
-WaveformBuilder::WaveformBuilder(std::size_t channels)
+WaveformBuilder::WaveformBuilder(std::size_t channels, std::size_t mostBuckets)
     : m_channels(std::max<std::size_t>(channels, 1)),
+      m_mostBuckets(std::max<std::size_t>(mostBuckets / 2 * 2, 2)),
       m_buckets(std::min(m_channels, maximum_lanes))
 {
 }
 
 void WaveformBuilder::StartBucket()
 {
-    if (m_buckets[0].size() == maximum_buckets)
+    if (m_buckets[0].size() == m_mostBuckets)
     {
         for (auto & lane : m_buckets)
         {
@@ -130,7 +136,7 @@ Waveform WaveformBuilder::Finish()
             levels.push_back(Halve(levels.back()));
         }
     }
-    *this = WaveformBuilder(m_channels);
+    *this = WaveformBuilder(m_channels, m_mostBuckets);
     return waveform;
 }
 

@@ -6,6 +6,8 @@
 #include <span>
 #include <vector>
 
+#include "logic/TimeWindow.h"
+
 namespace workbench
 {
 
@@ -43,6 +45,9 @@ public:
     /// next column's, and at least one.
     std::vector<MinMax> Columns(std::size_t lane, std::size_t width) const;
 
+    /// The same of a stretch. Frames beyond the end are not there.
+    std::vector<MinMax> Columns(std::size_t lane, std::size_t width, FrameRange const & range) const;
+
     bool operator==(Waveform const &) const = default;
 
 private:
@@ -63,11 +68,11 @@ public:
     /// Channels beyond this many get no lane.
     static constexpr std::size_t maximum_lanes = 32;
 
-    /// The most buckets of a lane; even.
+    /// The most buckets of a lane that is kept for each recording; even.
     static constexpr std::size_t maximum_buckets = 32768;
 
-    /// A builder for frames of so many channels, at least 1.
-    explicit WaveformBuilder(std::size_t channels);
+    /// A builder for frames of so many channels, at least 1. The most buckets of a lane are even, at least 2.
+    explicit WaveformBuilder(std::size_t channels, std::size_t mostBuckets = maximum_buckets);
 
     /// Adds whole frames, channels interleaved; samples behind the last whole frame are left out.
     void Add(std::span<double const> samples);
@@ -79,6 +84,7 @@ private:
     void StartBucket();
 
     std::size_t m_channels;
+    std::size_t m_mostBuckets;
     std::vector<std::vector<MinMax>> m_buckets;
     std::uint64_t m_frames = 0;
     std::uint64_t m_framesPerBucket = 1;

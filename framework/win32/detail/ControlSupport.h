@@ -21,9 +21,9 @@ void ReleaseImages(HWND control, UINT getMessage, UINT setMessage, int kind);
 /// one while it fills the buffer.
 template <class Read> CString CollectText(Read read)
 {
-    constexpr int LargestText = 1 << 20;
+    constexpr int largest_text = 1 << 20;
     CString text;
-    for (int size = 256; size <= LargestText; size *= 4)
+    for (int size = 256; size <= largest_text; size *= 4)
     {
         TCHAR * const buffer = text.GetBuffer(size);
         buffer[0] = 0;

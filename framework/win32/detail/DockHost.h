@@ -19,9 +19,9 @@ namespace framework
 {
 class DockDrag;
 
-constexpr UINT firstOwnId = 0x10000;    // of panes whose identifier another has
-extern UINT const arrangeMessage;       // to a frame: its panes are laid out anew
-constexpr UINT_PTR slideWatchTimer = 2; // of a strip, while a pane of it is shown
+constexpr UINT first_own_id = 0x10000;    // of panes whose identifier another has
+extern UINT const arrangeMessage;         // to a frame: its panes are laid out anew
+constexpr UINT_PTR slide_watch_timer = 2; // of a strip, while a pane of it is shown
 
 /// Sizes that follow from the system's fonts and their resolution.
 struct DockSizes
@@ -139,6 +139,7 @@ public:
     CRect Centre() const { return m_centre; }
     DockSizes const & Sizes() const { return m_sizes; }
     void TitleChanged(CDockablePane & pane);
+    void LeastSizeChanged(CDockablePane & pane);
     void MeasureAgain();
 
     // Dragging
@@ -183,6 +184,7 @@ private:
     void Notify(DockContent const & content, bool floated, AFX_DOCK_METHOD method);
     std::vector<UINT> PanesOf(DockContent const & content) const;
     CWnd * ParentOf(UINT frame) const;
+    HWND CentreWindow() const;
     UINT FreeId(UINT wanted) const;
     int TabIndexAt(CTabbedPane const & tabbed, CPoint screen, std::vector<UINT> const & moved) const;
     static bool Apply(DockLayout & layout, DockContent const & content, DockLanding const & landing);
@@ -235,6 +237,8 @@ struct PaneAccess
 
 /// Gives the focus to the pane, or to the window in it.
 void FocusPane(CDockablePane & pane);
+/// Offers what can be done with a pane, or with the one in front of tabs. False if there is nothing.
+bool ShowPaneMenu(CDockablePane & pane, CPoint screen);
 /// The place of a button in a caption, in the caption's coordinates; empty if there is none.
 CRect CaptionButton(CDockablePane const & pane, CRect const & caption, UINT hit);
 std::vector<CDockablePane *> PanesIn(CBaseTabbedPane const & tabbed);

@@ -5,7 +5,7 @@
 
 namespace framework
 {
-constexpr UINT anyPage = 0xFFFF; // as the last page: not known
+constexpr UINT any_page = 0xFFFF; // as the last page: not known
 
 struct PrintAccess
 {

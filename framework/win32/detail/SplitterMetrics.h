@@ -3,6 +3,6 @@
 
 namespace framework
 {
-inline constexpr int splitterGap = 7;    // of a bar between panes, and a box beside a scroll bar
-inline constexpr int splitterBorder = 2; // around all of them
+inline constexpr int splitter_gap = 7;    // of a bar between panes, and a box beside a scroll bar
+inline constexpr int splitter_border = 2; // around all of them
 } // namespace framework

@@ -27,14 +27,6 @@ struct WndAccess
     }
 };
 
-/// What the lParam of a WM_CTLCOLOR, made from the message of one kind of control, points to.
-struct ControlColour
-{
-    HWND control;
-    HDC dc;
-    UINT kind; // CTLCOLOR_...
-};
-
 /// The handle of a window that may be missing.
 inline HWND SafeHandle(CWnd const * window)
 {

@@ -34,7 +34,7 @@ struct AFX_MSGMAP_ENTRY
     UINT nCode;    // the control's notification code, or 0
     UINT nID;      // the first control or command id, or 0
     UINT nLastID;  // the last one
-    UINT_PTR nSig; // how the handler is called; for a registered message the address of its number
+    UINT_PTR nSig; // the address of how the handler is called; for a registered message that of its number
     AFX_PMSG pfn;
 };
 

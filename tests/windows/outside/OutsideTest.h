@@ -9,30 +9,16 @@
 
 #include <functional>
 #include <map>
-#include <ostream>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "PrintValues.h"
 #include "frame/PreferenceStore.h"
 #include "windows/FensterManager.h"
 #include "windows/MainFrmInterface.h"
 #include "windows/StandaloneFrameUser.h"
 #include "windows/StandaloneFrameWnd.h"
-
-// What GoogleTest says of these values.
-inline void PrintTo(CRect const & rect, std::ostream * out)
-{
-    *out << "(" << rect.left << ", " << rect.top << ", " << rect.right << ", " << rect.bottom << ")";
-}
-inline void PrintTo(CSize const & size, std::ostream * out)
-{
-    *out << size.cx << " x " << size.cy;
-}
-inline void PrintTo(CPoint const & point, std::ostream * out)
-{
-    *out << "(" << point.x << ", " << point.y << ")";
-}
 
 namespace outside
 {

@@ -666,7 +666,7 @@ TEST_F(OutsideSheet, ClosesByAPostedMessage)
     EXPECT_TRUE(sheet.IsOpen());
     ASSERT_TRUE(tests::PumpUntil([&] { return !sheet.IsOpen(); }));
     ASSERT_FALSE(recorder.Received().empty());
-    EXPECT_EQ(recorder.Received()[0].way, tests::Way::Posted);
+    EXPECT_EQ(recorder.Received()[0].way, tests::Way::posted);
 }
 
 // Title
@@ -1039,7 +1039,7 @@ TEST_F(OutsideSheet, SelectingATabPostsOneMessage)
     EXPECT_EQ(recorder.Received().size(), 0u);
     tests::PumpPosted();
     EXPECT_TRUE(recorder.Matches(
-        {{"sheet", new_page, tests::Way::Posted, 0, 0}, {"sheet", new_page, tests::Way::Sent, 0, 0, {}, {}, true}}));
+        {{"sheet", new_page, tests::Way::posted, 0, 0}, {"sheet", new_page, tests::Way::sent, 0, 0, {}, {}, true}}));
     EXPECT_EQ(sheet.GetActivePage(), &second);
     sheet.DestroyWindow();
 }
@@ -1081,7 +1081,7 @@ TEST_F(OutsideSheet, ApplyPostsTheMessage)
     sheet.GetDlgItem(apply_button)->SendMessage(BM_CLICK);
     tests::PumpPosted();
     EXPECT_TRUE(recorder.Matches(
-        {{"sheet", new_page, tests::Way::Posted, 0, 0}, {"sheet", new_page, tests::Way::Sent, 0, 0, {}, {}, true}}));
+        {{"sheet", new_page, tests::Way::posted, 0, 0}, {"sheet", new_page, tests::Way::sent, 0, 0, {}, {}, true}}));
     EXPECT_TRUE(sheet.IsOpen());
     sheet.DestroyWindow();
 }

@@ -1,11 +1,6 @@
 # Installs the module into a fresh folder, builds the host program against the package there, and runs it beside the
 # installed libraries.
-function(run)
-    execute_process(COMMAND ${ARGN} RESULT_VARIABLE status OUTPUT_VARIABLE output ERROR_VARIABLE output)
-    if(NOT status EQUAL 0)
-        message(FATAL_ERROR "${ARGN}\nended with ${status}\n${output}")
-    endif()
-endfunction()
+include(${CMAKE_CURRENT_LIST_DIR}/run.cmake)
 
 file(REMOVE_RECURSE ${WORK})
 file(MAKE_DIRECTORY ${WORK})

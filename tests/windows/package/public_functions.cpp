@@ -530,6 +530,7 @@ void UseAll()
     Use(+[](CMainFrmInterface & object) -> bool { return object.CMainFrmInterface::import_registry_settings(); });
 
     // windows/MemorySettingsTree.h
+    Use(+[](registry_settings::MemorySettingsTree::rights_t a0) { delete new registry_settings::MemorySettingsTree(std::forward<registry_settings::MemorySettingsTree::rights_t>(a0)); });
     Use(+[](registry_settings::MemorySettingsTree & object, std::u16string const & a0, registry_settings::SettingsTree::access_t a1) -> registry_settings::SettingsTree::key_t { return object.registry_settings::MemorySettingsTree::Open(std::forward<std::u16string const &>(a0), std::forward<registry_settings::SettingsTree::access_t>(a1)); });
     Use(+[](registry_settings::MemorySettingsTree & object, registry_settings::SettingsTree::key_t a0, std::u16string const & a1) -> registry_settings::SettingsTree::key_t { return object.registry_settings::MemorySettingsTree::OpenSubkey(std::forward<registry_settings::SettingsTree::key_t>(a0), std::forward<std::u16string const &>(a1)); });
     Use(+[](registry_settings::MemorySettingsTree & object, registry_settings::SettingsTree::key_t a0, std::u16string const & a1) -> registry_settings::SettingsTree::key_t { return object.registry_settings::MemorySettingsTree::CreateSubkey(std::forward<registry_settings::SettingsTree::key_t>(a0), std::forward<std::u16string const &>(a1)); });

@@ -9,7 +9,7 @@
 class CSelfTest
 {
 public:
-    static constexpr UINT Message = WM_APP + 100; // posted to the main window, which then runs its script
+    static constexpr UINT message = WM_APP + 100; // posted to the main window, which then runs its script
 
     /// Whether the program's command line asks for the script.
     static bool IsWanted() { return ::_tcsstr(::GetCommandLine(), _T("/selftest")) != nullptr; }

@@ -48,7 +48,7 @@ std::shared_ptr<RecordingAnalysis const> Analysis(bool readable)
     auto analysis = std::make_shared<RecordingAnalysis>();
     if (!readable)
     {
-        analysis->problem = workbench::ReadProblem{workbench::ReadFault::NotWav};
+        analysis->problem = workbench::ReadProblem{workbench::ReadFault::not_wav};
         return analysis;
     }
     analysis->info.channels = 1;

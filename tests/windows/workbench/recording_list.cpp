@@ -5,6 +5,7 @@
 #include "Pump.h"
 #include "RecordingList.h"
 #include "ScopedWindow.h"
+#include "StarRating.h"
 #include "logic/ReadableColours.h"
 
 #include <gtest/gtest.h>
@@ -43,7 +44,7 @@ std::shared_ptr<RecordingAnalysis const> AnalysisOf(Recording const & recording)
     auto analysis = std::make_shared<RecordingAnalysis>();
     if (recording.milliseconds == 0)
     {
-        analysis->problem = workbench::ReadProblem{workbench::ReadFault::CannotBeOpened};
+        analysis->problem = workbench::ReadProblem{workbench::ReadFault::cannot_be_opened};
         return analysis;
     }
     analysis->info.channels = 1;
@@ -484,5 +485,104 @@ TEST_F(RecordingListTest, ThePathShowsInItsLineAndGoesWithIt)
     }));
     Show();
     EXPECT_TRUE(tests::PumpUntil([] { return VisibleToolTip() == nullptr; }));
+}
+/// The stars of ratings.
+class RecordingListStars : public RecordingListTest
+{
+protected:
+    CRect Cell(int line)
+    {
+        CRect rect;
+        EXPECT_TRUE(m_list.GetSubItemRect(m_list.PlaceOf(line), CRecordingList::column_rating, LVIR_BOUNDS, rect));
+        return rect;
+    }
+    void PressStar(int line, int star)
+    {
+        CPoint const point = CStarRating::StarRect(Cell(line), star).CenterPoint();
+        LPARAM const place = MAKELPARAM(point.x, point.y);
+        // The native list of some systems waits for the end within the press.
+        m_list.PostMessage(WM_LBUTTONUP, 0, place);
+        m_list.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, place);
+        tests::PumpPosted();
+    }
+    CString Word(int line) { return m_list.GetItemText(m_list.PlaceOf(line), CRecordingList::column_rating); }
+};
+
+TEST_F(RecordingListStars, AllStandInTheirCell)
+{
+    CRect const cell = Cell(0);
+    int right = cell.left;
+    for (int star = 0; star < CStarRating::star_count; ++star)
+    {
+        CRect const place = CStarRating::StarRect(cell, star);
+        EXPECT_GT(place.left, right);
+        EXPECT_GE(place.top, cell.top);
+        EXPECT_LE(place.bottom, cell.bottom);
+        right = place.right;
+    }
+    EXPECT_LT(right + 8, cell.right) << "there is room for a press beside them";
+}
+
+TEST_F(RecordingListStars, APressRatesAndIsNoted)
+{
+    PressStar(0, 1);
+    EXPECT_EQ(m_list.NotesOf(0).rating, 2);
+    EXPECT_EQ(Word(0), L"Usable");
+    EXPECT_EQ(m_list.TakeNotedLines(), std::vector<int>{0});
+    EXPECT_EQ(m_list.RatingCombo(), nullptr);
+    PressStar(0, 2);
+    EXPECT_EQ(m_list.NotesOf(0).rating, 1);
+    EXPECT_EQ(Word(0), L"Good");
+    PressStar(0, 0);
+    EXPECT_EQ(m_list.NotesOf(0).rating, 3);
+    PressStar(0, 0);
+    EXPECT_EQ(m_list.NotesOf(0).rating, 0) << "the same star again takes it away";
+    EXPECT_EQ(Word(0), L"Not rated");
+}
+
+TEST_F(RecordingListStars, ARecordingThatCannotBeReadHasNone)
+{
+    EXPECT_EQ(m_list.GetCellKind(m_list.PlaceOf(unreadable), CRecordingList::column_rating), nullptr);
+    PressStar(unreadable, 1);
+    EXPECT_EQ(m_list.NotesOf(unreadable).rating, 0);
+}
+
+TEST_F(RecordingListStars, TheyGoWithTheirLineWhenTheListIsSorted)
+{
+    PressStar(4, 2);
+    m_list.SortLines(CRecordingList::column_name, false);
+    EXPECT_NE(m_list.GetCellKind(m_list.PlaceOf(4), CRecordingList::column_rating), nullptr);
+    EXPECT_EQ(m_list.GetComboCurSel(m_list.PlaceOf(4), CRecordingList::column_rating), 1);
+}
+
+TEST_F(RecordingListStars, AsManyAreFullAsTheRatingIsGood)
+{
+    CDC & dc = *m_list.GetDC();
+    auto const full = [&](int line) {
+        m_list.ChooseLine(-1);
+        m_list.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+        int count = 0;
+        for (int star = 0; star < CStarRating::star_count; ++star)
+        {
+            CPoint const middle = CStarRating::StarRect(Cell(line), star).CenterPoint();
+            count += dc.GetPixel(middle) == ::GetSysColor(COLOR_WINDOWTEXT) ? 1 : 0;
+        }
+        return count;
+    };
+    EXPECT_EQ(full(0), 0);
+    PressStar(0, 1);
+    EXPECT_EQ(full(0), 2);
+    PressStar(0, 2);
+    EXPECT_EQ(full(0), 3);
+    m_list.ReleaseDC(&dc);
+}
+
+TEST_F(RecordingListStars, StarsAndRatingsAreEachOthers)
+{
+    for (int rating = 0; rating <= 3; ++rating)
+        EXPECT_EQ(CStarRating::RatingOf(CStarRating::StarsOf(rating)), rating);
+    EXPECT_EQ(CStarRating::StarsOf(1), 3);
+    EXPECT_EQ(CStarRating::StarsOf(7), 0);
+    EXPECT_EQ(CStarRating::StarsOf(-1), 0);
 }
 } // namespace

@@ -66,6 +66,8 @@ TEST_F(WorkbenchSettings, ComeBackAsTheyWereStored)
     settings.recentFolders = {L"D:\\last", L"C:\\before"};
     settings.waveform = {RGB(1, 2, 3), RGB(4, 5, 6), RGB(7, 8, 9), RGB(250, 251, 252)};
     settings.amplification = 18;
+    settings.spectrogram = {4096, 75};
+    settings.frequencyScale = workbench::FrequencyScale::Logarithmic;
     settings.hiddenColumns = {3, 11};
     settings.folderPane = false;
     settings.folderPaneWidth = 44;
@@ -83,6 +85,8 @@ TEST_F(WorkbenchSettings, ComeBackAsTheyWereStored)
     EXPECT_EQ(read.recentFolders, settings.recentFolders);
     EXPECT_EQ(read.waveform, settings.waveform);
     EXPECT_EQ(read.amplification, 18);
+    EXPECT_EQ(read.spectrogram, settings.spectrogram);
+    EXPECT_EQ(read.frequencyScale, workbench::FrequencyScale::Logarithmic);
     EXPECT_EQ(read.hiddenColumns, settings.hiddenColumns);
     EXPECT_EQ(read.folderPane, std::optional(false));
     EXPECT_EQ(read.folderPaneWidth, 44);
@@ -90,6 +94,17 @@ TEST_F(WorkbenchSettings, ComeBackAsTheyWereStored)
     EXPECT_EQ(read.exportHidden, settings.exportHidden);
     EXPECT_EQ(read.exportLines, 2);
     EXPECT_EQ(workbench::ReadLanguage(), 1031);
+}
+
+TEST_F(WorkbenchSettings, ASpectrogramThatCannotBeIsAsAtFirst)
+{
+    Write(L"SpectrogramWindow", L"1000");
+    Write(L"SpectrogramOverlap", L"40");
+    Write(L"FrequencyScale", L"7");
+    EXPECT_EQ(ReadSettings().spectrogram, workbench::SpectrogramSettings());
+    EXPECT_EQ(ReadSettings().frequencyScale, workbench::FrequencyScale::Linear);
+    Write(L"SpectrogramWindow", L"4294967295");
+    EXPECT_EQ(ReadSettings().spectrogram.window, 0u);
 }
 
 TEST_F(WorkbenchSettings, AnOpacityOutOfItsLimitsIsNotTaken)

@@ -2,6 +2,7 @@
 
 #include "list/combo/AdvComboBox.h"
 
+#include "frame/GraphicsScopes.h"
 #include "list/VisualStyles.h"
 #include "list/combo/AdvComboBoxWatch.h"
 #include "list/combo/AdvComboEdit.h"
@@ -24,20 +25,6 @@ constexpr int fill_color = 3802;
 // What DrawFrameControl is given for the arrow button.
 constexpr UINT button_up = DFCS_SCROLLDOWN;
 constexpr UINT button_down = DFCS_SCROLLDOWN | DFCS_PUSHED | DFCS_FLAT;
-
-/// Gives a device context its state back.
-class SavedState
-{
-public:
-    explicit SavedState(CDC & dc) : m_dc(dc), m_saved(dc.SaveDC()) {}
-    ~SavedState() { m_dc.RestoreDC(m_saved); }
-    SavedState(SavedState const &) = delete;
-    SavedState & operator=(SavedState const &) = delete;
-
-private:
-    CDC & m_dc;
-    int m_saved;
-};
 
 class Theme
 {
@@ -122,7 +109,7 @@ void CAdvComboBox::PaintStyledFrame(CDC & dc, CRect const & client, CRect button
         theme.Color(theme_filled_part, state, fill_color, 255); // asked for and not used, which is meant
         CPen pen(PS_SOLID, 1, outline);
         CBrush brush(::GetSysColor(COLOR_BTNFACE));
-        SavedState const saved(dc);
+        ContextStateScope const saved(dc);
         dc.SelectObject(&pen);
         dc.SelectObject(&brush);
         dc.Rectangle(client.left + 1, client.top + 1, button.left, client.bottom - 1);
@@ -143,7 +130,7 @@ void CAdvComboBox::PaintPlainFrame(CDC & dc, CRect client, CRect button, bool en
 
 void CAdvComboBox::PaintText(CDC & dc, CRect rect, bool enabled)
 {
-    SavedState const saved(dc);
+    ContextStateScope const saved(dc);
     if (m_font != nullptr)
         dc.SelectObject(m_font.get());
     rect.left -= 2;

@@ -2,10 +2,11 @@
 
 #include <algorithm>
 
+#include "frame/GraphicsScopes.h"
+#include "frame/WindowAlive.h"
 #include "list/combo/AdvComboBox.h"
 #include "list/combo/ComboMoves.h"
 #include "list/combo/DropScrollBar.h"
-#include "list/combo/WindowWatch.h"
 
 namespace XListCtrl
 {
@@ -13,27 +14,11 @@ namespace
 {
 constexpr int font_height = 20;
 
-class FontSelection
+/// Null for no font.
+HGDIOBJ HandleOf(CFont const * font)
 {
-public:
-    FontSelection(CDC & dc, CFont * font)
-        : m_dc(dc),
-          m_previous(font != nullptr && font->GetSafeHandle() != nullptr ? ::SelectObject(dc, font->GetSafeHandle())
-                                                                         : nullptr)
-    {
-    }
-    ~FontSelection()
-    {
-        if (m_previous != nullptr)
-            ::SelectObject(m_dc, m_previous);
-    }
-    FontSelection(FontSelection const &) = delete;
-    FontSelection & operator=(FontSelection const &) = delete;
-
-private:
-    CDC & m_dc;
-    HGDIOBJ m_previous;
-};
+    return font != nullptr ? font->GetSafeHandle() : nullptr;
+}
 
 /// The widths of ASCII characters in the font selected: most of ten thousand texts need not be measured.
 class PlainWidths
@@ -187,7 +172,7 @@ void CDropListBox::AddListItems(std::list<combo_item> const & items)
 bool CDropListBox::GetTextSize(wchar_t const * text, int length, CSize & size)
 {
     CClientDC dc(this);
-    FontSelection const font(dc, m_combo->GetComboFont());
+    SelectScope const font(dc, HandleOf(m_combo->GetComboFont()));
     if (!::GetTextExtentPoint32W(dc, text, length, &size))
         return false;
     if ((m_comboFlags & combo_wide_items) != 0)
@@ -198,7 +183,7 @@ bool CDropListBox::GetTextSize(wchar_t const * text, int length, CSize & size)
 int CDropListBox::GetWidestText(std::list<combo_item> const & items)
 {
     CClientDC dc(this);
-    FontSelection const font(dc, m_combo->GetComboFont());
+    SelectScope const font(dc, HandleOf(m_combo->GetComboFont()));
     int const extra = (m_comboFlags & combo_wide_items) != 0 ? wide_item_extra : 0;
     PlainWidths const widths(dc);
     int widest = -1;
@@ -227,7 +212,7 @@ bool CDropListBox::IsOutside(CPoint point) const
 
 void CDropListBox::HandCaptureToParent()
 {
-    WindowWatch const watch(*this, m_life);
+    WindowAlive const watch(*this, m_life);
     HWND const parent = ::GetParent(m_hWnd);
     ::ReleaseCapture();
     if (watch.IsAlive())
@@ -236,7 +221,7 @@ void CDropListBox::HandCaptureToParent()
 
 void CDropListBox::OnMouseMove(UINT flags, CPoint point)
 {
-    WindowWatch const watch(*this, m_life);
+    WindowAlive const watch(*this, m_life);
     // It is meant that a point outside goes on to find its row.
     if (IsOutside(point))
         HandCaptureToParent();
@@ -255,7 +240,7 @@ void CDropListBox::OnMouseMove(UINT flags, CPoint point)
 
 void CDropListBox::OnLButtonUp(UINT, CPoint point)
 {
-    WindowWatch const watch(*this, m_life);
+    WindowAlive const watch(*this, m_life);
     // It is meant that the selection is chosen all the same.
     if (IsOutside(point))
         HandCaptureToParent();

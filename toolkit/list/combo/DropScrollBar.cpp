@@ -1,9 +1,9 @@
 #include "list/combo/DropScrollBar.h"
 
+#include "frame/WindowAlive.h"
 #include "list/combo/ComboMessages.h"
 #include "list/combo/ComboMoves.h"
 #include "list/combo/DropListBox.h"
-#include "list/combo/WindowWatch.h"
 
 namespace XListCtrl
 {
@@ -52,7 +52,7 @@ bool CDropScrollBar::HandCaptureOver(CPoint point)
     GetClientRect(client);
     if (client.PtInRect(point))
         return true;
-    WindowWatch const watch(*this, m_life);
+    WindowAlive const watch(*this, m_life);
     HWND const parent = ::GetParent(m_hWnd);
     ::ReleaseCapture();
     if (watch.IsAlive())
@@ -65,7 +65,7 @@ void CDropScrollBar::VScroll(UINT code, UINT position)
     SCROLLINFO info = {};
     if (m_list == nullptr || !GetScrollInfo(&info, SIF_ALL))
         return;
-    WindowWatch const watch(*this, m_life);
+    WindowAlive const watch(*this, m_life);
     combo_moves::ScrollState const state = {info.nPos, info.nMin, info.nMax, static_cast<int>(info.nPage)};
     if (std::optional<int> const next =
             combo_moves::PositionAfterScroll(static_cast<int>(code), static_cast<int>(position), state))

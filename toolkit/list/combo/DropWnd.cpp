@@ -1,11 +1,11 @@
 #include "list/combo/DropWnd.h"
 
 #include "list/VisualStyles.h"
+#include "frame/WindowAlive.h"
 #include "list/combo/AdvComboBox.h"
 #include "list/combo/DropListBox.h"
 #include "list/combo/DropPlacement.h"
 #include "list/combo/DropScrollBar.h"
-#include "list/combo/WindowWatch.h"
 
 namespace XListCtrl
 {
@@ -81,7 +81,7 @@ BOOL CDropWnd::DestroyWindow()
 
 int CDropWnd::OnCreate(LPCREATESTRUCT create)
 {
-    WindowWatch const watch(*this, m_life);
+    WindowAlive const watch(*this, m_life);
     if (CWnd::OnCreate(create) == -1)
         return -1;
     ModifyStyleEx(0, WS_EX_TOOLWINDOW);
@@ -109,7 +109,7 @@ int CDropWnd::OnCreate(LPCREATESTRUCT create)
 bool CDropWnd::CreateChildren(CREATESTRUCT const & create)
 {
     CSize const arrow = ArrowSize();
-    WindowWatch const watch(*this, m_life);
+    WindowAlive const watch(*this, m_life);
 
     GetClientRect(m_rcScroll);
     m_rcScroll.left = m_rcScroll.right - arrow.cx;
@@ -134,7 +134,7 @@ CRect CDropWnd::Place(CREATESTRUCT const & create)
     CRect const work = WorkAreaAt(CPoint(create.x, create.y));
     CRect combo;
     m_combo->GetWindowRect(combo);
-    WindowWatch const watch(*this, m_life);
+    WindowAlive const watch(*this, m_life);
 
     DropRequest request;
     request.widestText = m_list->GetWidestText(m_items);
@@ -239,7 +239,7 @@ void CDropWnd::OnLButtonDown(UINT flags, CPoint point)
     {
         // It is meant that a press on the combo's own window closes too, and that the combo gets the point as it
         // stands, counted from this window.
-        WindowWatch const watch(*this, m_life);
+        WindowAlive const watch(*this, m_life);
         HWND const combo = m_combo->m_hWnd;
         ::ReleaseCapture();
         ::PostMessage(combo, WM_ADVCOMBO_CLOSE_DROP, 0, 0);
@@ -257,7 +257,7 @@ void CDropWnd::OnMouseMove(UINT flags, CPoint point)
         ResizeByGrip(point);
         return;
     }
-    WindowWatch const watch(*this, m_life);
+    WindowAlive const watch(*this, m_life);
     HCURSOR const arrow = ::LoadCursorW(nullptr, IDC_ARROW);
     if (m_rcList.PtInRect(point))
     {

@@ -458,6 +458,19 @@ std::vector<TableRow> TableModel::SelectedPositions() const
     return positions;
 }
 
+TableRow TableModel::NextSelected(TableRow from) const
+{
+    std::shared_ptr<TableSource> const source = m_source.lock();
+    if (m_selected.Count() == 0 || !source)
+        return nowhere;
+    TableRow const size = Size();
+    TableRow const count = source->RowCount();
+    for (TableRow position = from; position < size; ++position)
+        if (TableRow const row = RowAt(position); row < count && m_selected.Contains(source->Key(row)))
+            return position;
+    return nowhere;
+}
+
 void TableModel::SetFocus(TableRow position)
 {
     m_focus = KeyAt(position);

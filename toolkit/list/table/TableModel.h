@@ -132,6 +132,8 @@ public:
     std::uint64_t SelectedKeys() const { return m_selected.Count(); }
     /// The selected ones among the rows shown, in their order.
     std::vector<TableRow> SelectedPositions() const;
+    /// The first one selected from there on, or nowhere.
+    TableRow NextSelected(TableRow from) const;
 
     void SetFocus(TableRow position);
     TableRow FocusPosition() const { return PositionOfKey(m_focus); }

@@ -92,6 +92,7 @@ void CXTableCtrl::PreSubclassWindow()
 void CXTableCtrl::OnDestroy()
 {
     m_state->waker->SetWindow(nullptr);
+    m_state->prepared = false;
     StopOrdering();
     CListCtrl::OnDestroy();
 }
@@ -106,6 +107,7 @@ void CXTableCtrl::SetColumns(std::vector<TableColumn> columns, std::wstring cons
     m_state->model.SetLooks(std::move(looks));
     m_state->layout.Reset(m_state->model.Looks().columns);
     LoadColumns();
+    PrepareWindow();
     MakeNativeColumns();
 }
 

@@ -21,8 +21,8 @@ struct TableEffect;
 /// asked for only where they are shown, sorted, filtered or copied. The native list view below it has owner data: it
 /// keeps no rows, and its selection is the table's.
 ///
-/// A row is one of the source's; a position is a row's place as shown. Columns count as the host has given them, wherever
-/// they stand. What is called back is called through a copy, and may end the table.
+/// A row is one of the source's; a position is a row's place as shown. Columns count as the host has given them,
+/// wherever they stand. What is called back is called through a copy, and may end the table.
 class INSTRUMENT_UI_API CXTableCtrl : public CListCtrl
 {
     DECLARE_DYNAMIC(CXTableCtrl)
@@ -137,7 +137,6 @@ protected:
     afx_msg void OnRButtonDown(UINT flags, CPoint point);
     afx_msg void OnKeyDown(UINT character, UINT repeats, UINT flags);
     afx_msg void OnChar(UINT character, UINT repeats, UINT flags);
-    afx_msg void OnHScroll(UINT code, UINT position, CScrollBar * bar);
     afx_msg void OnSize(UINT type, int width, int height);
     afx_msg void OnTimer(UINT_PTR id);
     afx_msg void OnSetFocus(CWnd * former);

@@ -19,7 +19,8 @@ bool HasDifferentTails(TableColumn const & column)
 {
     if (column.align != TableAlign::byKind || !IsNumber(column.kind))
         return false;
-    return column.format.engineering || (column.kind == TableKind::floating && column.format.style != NumberStyle::fixed);
+    return column.format.engineering ||
+           (column.kind == TableKind::floating && column.format.style != NumberStyle::fixed);
 }
 
 UINT AlignmentOf(TableColumn const & column, TableKind kind)
@@ -120,16 +121,14 @@ BOOL CXTableCtrl::OnCustomDraw(NMHDR * header, LRESULT * result)
     CDC & dc = *CDC::FromHandle(draw.nmcd.hdc);
     switch (draw.nmcd.dwDrawStage)
     {
-    case CDDS_PREPAINT:
-    {
+    case CDDS_PREPAINT: {
         // Painted for somebody else, without a paint of the window's own.
         if (m_state->edges.empty())
             PrepareLook();
         TableRow const size = m_state->model.Size();
         auto const top = static_cast<TableRow>(m_state->topPosition);
         if (top < size)
-            MeasureDecimals(dc, top,
-                            std::min(top + static_cast<TableRow>(std::max(GetCountPerPage(), 0)), size - 1));
+            MeasureDecimals(dc, top, std::min(top + static_cast<TableRow>(std::max(GetCountPerPage(), 0)), size - 1));
         *result = CDRF_NOTIFYITEMDRAW;
         break;
     }
@@ -224,9 +223,8 @@ void CXTableCtrl::PaintRowCell(CDC & dc, TableRow row, unsigned int index, CRect
         break;
     case TableKind::progress:
         cell = &state.barCell;
-        cell->progressValue = std::isfinite(state.value.Number())
-                                  ? static_cast<int>(std::clamp(state.value.Number(), 0.0, 100.0))
-                                  : 0;
+        cell->progressValue =
+            std::isfinite(state.value.Number()) ? static_cast<int>(std::clamp(state.value.Number(), 0.0, 100.0)) : 0;
         background = state.look.palette.activeCaption;
         break;
     default:

@@ -46,6 +46,8 @@ struct CXTableCtrl::State
     /// When changed rows were put into their places last.
     unsigned long long placed = 0;
 
+    /// The native list is ready.
+    bool prepared = false;
     std::wstring name;
     TableColumnLayout layout;
     /// The columns that the native list has, from left to right.

@@ -17,9 +17,9 @@ UINT const FilterMessage = ::RegisterWindowMessage(_T("Tutorial.Browser.FilterCh
 
 enum ControlId : UINT
 {
-    TreeId = 1,
-    ListId = 2,
-    FilterId = 3
+    tree_id = 1,
+    list_id = 2,
+    filter_id = 3
 };
 
 struct Planet
@@ -137,12 +137,12 @@ private:
 BEGIN_MESSAGE_MAP(CBrowserWindow, CWnd)
     ON_WM_CREATE()
     ON_WM_SIZE()
-    ON_NOTIFY(TVN_SELCHANGED, TreeId, &CBrowserWindow::OnSelectionChanged)
-    ON_NOTIFY(TVN_BEGINLABELEDIT, TreeId, &CBrowserWindow::OnBeginLabelEdit)
-    ON_NOTIFY(TVN_ENDLABELEDIT, TreeId, &CBrowserWindow::OnEndLabelEdit)
-    ON_NOTIFY(LVN_COLUMNCLICK, ListId, &CBrowserWindow::OnColumnClick)
+    ON_NOTIFY(TVN_SELCHANGED, tree_id, &CBrowserWindow::OnSelectionChanged)
+    ON_NOTIFY(TVN_BEGINLABELEDIT, tree_id, &CBrowserWindow::OnBeginLabelEdit)
+    ON_NOTIFY(TVN_ENDLABELEDIT, tree_id, &CBrowserWindow::OnEndLabelEdit)
+    ON_NOTIFY(LVN_COLUMNCLICK, list_id, &CBrowserWindow::OnColumnClick)
     ON_REGISTERED_MESSAGE(FilterMessage, &CBrowserWindow::OnFilterChanged)
-    ON_MESSAGE(CSelfTest::Message, &CBrowserWindow::OnSelfTest)
+    ON_MESSAGE(CSelfTest::message, &CBrowserWindow::OnSelfTest)
 END_MESSAGE_MAP()
 
 int CBrowserWindow::OnCreate(LPCREATESTRUCT lpCreateStruct)
@@ -151,9 +151,10 @@ int CBrowserWindow::OnCreate(LPCREATESTRUCT lpCreateStruct)
         return -1;
     CRect const empty(0, 0, 0, 0);
     DWORD const child = WS_CHILD | WS_VISIBLE | WS_TABSTOP;
-    if (!m_tree.Create(child | TVS_HASLINES | TVS_HASBUTTONS | TVS_LINESATROOT | TVS_EDITLABELS, empty, this, TreeId) ||
-        !m_list.Create(child | LVS_REPORT | LVS_SHOWSELALWAYS, empty, this, ListId) ||
-        !m_filter.Create(child | WS_BORDER | ES_AUTOHSCROLL, empty, this, FilterId))
+    if (!m_tree.Create(child | TVS_HASLINES | TVS_HASBUTTONS | TVS_LINESATROOT | TVS_EDITLABELS, empty, this,
+                       tree_id) ||
+        !m_list.Create(child | LVS_REPORT | LVS_SHOWSELALWAYS, empty, this, list_id) ||
+        !m_filter.Create(child | WS_BORDER | ES_AUTOHSCROLL, empty, this, filter_id))
     {
         return -1;
     }
@@ -253,7 +254,7 @@ LRESULT CBrowserWindow::OnSelfTest(WPARAM, LPARAM)
     SELFTEST_CHECK(m_list.GetItemCount() == 6);
     SELFTEST_CHECK(m_tree.GetParent() == this);
     SELFTEST_CHECK(CWnd::FromHandle(m_list.m_hWnd) == &m_list);
-    SELFTEST_CHECK(GetDlgItem(TreeId) == &m_tree);
+    SELFTEST_CHECK(GetDlgItem(tree_id) == &m_tree);
 
     CRect client;
     GetClientRect(&client);
@@ -284,15 +285,15 @@ LRESULT CBrowserWindow::OnSelfTest(WPARAM, LPARAM)
     m_tree.SetItemText(gas, _T("Gas"));
 
     NMLISTVIEW click = {};
-    click.hdr = {m_list.m_hWnd, ListId, static_cast<UINT>(LVN_COLUMNCLICK)};
+    click.hdr = {m_list.m_hWnd, list_id, static_cast<UINT>(LVN_COLUMNCLICK)};
     click.iSubItem = 1;
-    SendMessage(WM_NOTIFY, ListId, reinterpret_cast<LPARAM>(&click));
+    SendMessage(WM_NOTIFY, list_id, reinterpret_cast<LPARAM>(&click));
     SELFTEST_CHECK(m_list.m_sortColumn == 1);
     SELFTEST_CHECK(m_columnClicks == 1);
     SELFTEST_CHECK(m_list.GetItemText(0, 0) == _T("Mercury"));
     SELFTEST_CHECK(m_list.GetItemText(5, 0) == _T("Jupiter"));
     click.iSubItem = 0;
-    SendMessage(WM_NOTIFY, ListId, reinterpret_cast<LPARAM>(&click));
+    SendMessage(WM_NOTIFY, list_id, reinterpret_cast<LPARAM>(&click));
     SELFTEST_CHECK(m_list.GetItemText(0, 0) == _T("Earth"));
 
     m_filter.SetWindowText(_T("ar"));
@@ -323,7 +324,7 @@ public:
         m_window.ShowWindow(m_nCmdShow);
         m_window.UpdateWindow();
         if (CSelfTest::IsWanted())
-            m_window.PostMessage(CSelfTest::Message);
+            m_window.PostMessage(CSelfTest::message);
         return TRUE;
     }
 

@@ -20,13 +20,13 @@ protected:
     {
         CDialog::OnInitDialog();
         if (CSelfTest::IsWanted())
-            SetTimer(SelfTestTimer, 10, nullptr); // a dialog shows when its loop is idle for the first time
+            SetTimer(self_test_timer, 10, nullptr); // a dialog shows when its loop is idle for the first time
         return TRUE;
     }
 
     void OnTimer(UINT_PTR nIDEvent)
     {
-        if (nIDEvent != SelfTestTimer)
+        if (nIDEvent != self_test_timer)
         {
             CDialog::OnTimer(nIDEvent);
             return;
@@ -35,7 +35,7 @@ protected:
         constexpr int most_ticks = 500;
         if (!IsWindowVisible() && ++m_ticks < most_ticks)
             return;
-        KillTimer(SelfTestTimer);
+        KillTimer(self_test_timer);
         CString version;
         GetDlgItemText(IDC_VERSION, version);
         SELFTEST_CHECK(version == _T("Version 1"));
@@ -45,7 +45,7 @@ protected:
     }
 
 private:
-    static constexpr UINT_PTR SelfTestTimer = 1;
+    static constexpr UINT_PTR self_test_timer = 1;
     int m_ticks = 0;
 
     DECLARE_MESSAGE_MAP()
@@ -73,7 +73,7 @@ protected:
     LRESULT OnSelfTest(WPARAM wParam, LPARAM lParam);
 
 private:
-    static constexpr double AbsoluteZero = -273.15;
+    static constexpr double absolute_zero = -273.15;
 
     double m_celsius = 20;
     int m_unit = 0; // 0: Fahrenheit, 1: Kelvin
@@ -90,7 +90,7 @@ BEGIN_MESSAGE_MAP(CConverterDialog, CDialog)
     ON_EN_CHANGE(IDC_INPUT, &CConverterDialog::OnChangeInput)
     ON_WM_SYSCOMMAND()
     ON_WM_CTLCOLOR()
-    ON_MESSAGE(CSelfTest::Message, &CConverterDialog::OnSelfTest)
+    ON_MESSAGE(CSelfTest::message, &CConverterDialog::OnSelfTest)
 END_MESSAGE_MAP()
 
 void CConverterDialog::DoDataExchange(CDataExchange * pDX)
@@ -99,7 +99,7 @@ void CConverterDialog::DoDataExchange(CDataExchange * pDX)
     DDX_Control(pDX, IDC_RESULT, m_result);
     DDX_Control(pDX, IDC_UNIT_NOTE, m_note);
     DDX_Text(pDX, IDC_INPUT, m_celsius);
-    DDV_MinMaxDouble(pDX, m_celsius, AbsoluteZero, 1e6);
+    DDV_MinMaxDouble(pDX, m_celsius, absolute_zero, 1e6);
     DDX_Radio(pDX, IDC_TO_FAHRENHEIT, m_unit);
     DDX_Check(pDX, IDC_ROUND, m_round);
 }
@@ -114,7 +114,7 @@ BOOL CConverterDialog::OnInitDialog()
     systemMenu->AppendMenu(MF_STRING, IDM_ABOUT, text);
     OnUnit(IDC_TO_FAHRENHEIT);
     if (CSelfTest::IsWanted())
-        PostMessage(CSelfTest::Message);
+        PostMessage(CSelfTest::message);
     return TRUE;
 }
 
@@ -122,7 +122,7 @@ void CConverterDialog::OnConvert()
 {
     if (!UpdateData(TRUE))
         return;
-    double const value = m_unit == 0 ? m_celsius * 9 / 5 + 32 : m_celsius - AbsoluteZero;
+    double const value = m_unit == 0 ? m_celsius * 9 / 5 + 32 : m_celsius - absolute_zero;
     CString text;
     text.Format(m_round ? _T("%.0f") : _T("%.2f"), value);
     m_result.SetWindowText(text);

@@ -94,7 +94,7 @@ BEGIN_MESSAGE_MAP(CDrawingWindow, CWnd)
     ON_COMMAND(ID_DRAWING_UNDO, &CDrawingWindow::OnUndo)
     ON_COMMAND(ID_DRAWING_CLEAR, &CDrawingWindow::OnClear)
     ON_COMMAND(ID_PROGRAM_EXIT, &CDrawingWindow::OnExit)
-    ON_MESSAGE(CSelfTest::Message, &CDrawingWindow::OnSelfTest)
+    ON_MESSAGE(CSelfTest::message, &CDrawingWindow::OnSelfTest)
 END_MESSAGE_MAP()
 
 BOOL CDrawingWindow::CreateMain()
@@ -284,7 +284,7 @@ public:
         window->ShowWindow(m_nCmdShow);
         window->UpdateWindow();
         if (CSelfTest::IsWanted())
-            window->PostMessage(CSelfTest::Message);
+            window->PostMessage(CSelfTest::message);
         return TRUE;
     }
 

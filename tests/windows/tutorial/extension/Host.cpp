@@ -57,7 +57,7 @@ protected:
         SELFTEST_CHECK(text.LoadString(IDS_SHAPES_ONLY) && text == _T("Only in the extension module"));
         HINSTANCE const module = AfxFindResourceHandle(MAKEINTRESOURCE(IDD_SHAPES_SIZE), RT_DIALOG);
         SELFTEST_CHECK(module != AfxGetResourceHandle());
-        SELFTEST_CHECK(module == ::GetModuleHandle(ModuleFile));
+        SELFTEST_CHECK(module == ::GetModuleHandle(module_file));
         SELFTEST_CHECK(AfxFindResourceHandle(MAKEINTRESOURCE(999), RT_DIALOG) == AfxGetResourceHandle());
 
         CDrivenSizeDialog dialog(this);
@@ -72,13 +72,13 @@ protected:
     }
 
 private:
-    static constexpr LPCTSTR ModuleFile = _T("shapes.dll");
+    static constexpr LPCTSTR module_file = _T("shapes.dll");
 
     DECLARE_MESSAGE_MAP()
 };
 
 BEGIN_MESSAGE_MAP(CHostWindow, CWnd)
-    ON_MESSAGE(CSelfTest::Message, &CHostWindow::OnSelfTest)
+    ON_MESSAGE(CSelfTest::message, &CHostWindow::OnSelfTest)
 END_MESSAGE_MAP()
 
 class CHostApp : public CWinApp
@@ -92,7 +92,7 @@ public:
         m_pMainWnd = &m_window;
         m_window.ShowWindow(m_nCmdShow);
         if (CSelfTest::IsWanted())
-            m_window.PostMessage(CSelfTest::Message);
+            m_window.PostMessage(CSelfTest::message);
         return TRUE;
     }
 

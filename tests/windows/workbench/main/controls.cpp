@@ -12,6 +12,8 @@
 #include <string_view>
 #include <vector>
 
+#include "../../ImportPatch.h"
+#include "Bitmap.h"
 #include "GuardedHeap.h"
 #include "controls/ComboBoxX.h"
 #include "controls/XEditBrowseCtrl.h"
@@ -30,8 +32,9 @@ constexpr int blue_field = 708;
 // The pages of the settings.
 constexpr int start_page = 0;
 constexpr int waveform_page = 1;
-constexpr int list_page = 2;
-constexpr int dialogs_page = 3;
+constexpr int spectrogram_page = 2;
+constexpr int list_page = 3;
+constexpr int dialogs_page = 4;
 
 /// The visible popup of the thread that was activated last, but for these windows; null if there is none.
 HWND OtherPopup(std::vector<HWND> const & known)
@@ -201,6 +204,8 @@ TEST_F(WorkbenchControls, TheSettingsComeBackAtTheirPlaceAndPage)
     EXPECT_EQ(listAfter.Size() - listBefore.Size(), CSize(90, 50));
     tests::Key(VK_TAB, {VK_CONTROL});
     ASSERT_TRUE(tests::PumpUntil([this] { return Sheet().GetActiveIndex() == waveform_page; }));
+    tests::Key(VK_TAB, {VK_CONTROL});
+    ASSERT_TRUE(tests::PumpUntil([this] { return Sheet().GetActiveIndex() == spectrogram_page; }));
     // A page that is turned to later fills the same room.
     tests::Key(VK_TAB, {VK_CONTROL});
     ASSERT_TRUE(tests::PumpUntil([this] { return Sheet().GetActiveIndex() == list_page; }));
@@ -276,7 +281,7 @@ TEST_F(WorkbenchControls, TheSettingsAreInTheLanguageThatWasChosen)
     OpenSettings();
     EXPECT_EQ(TextOf(Sheet()), L"Einstellungen");
     EXPECT_EQ(tab(dialogs_page), L"Dialoge");
-    EXPECT_EQ(TextOf(SheetButton(IDCANCEL)), L"Abbrechen");
+    EXPECT_EQ(TextOf(SheetButton(IDCANCEL)), L"Abbruch");
     EXPECT_EQ(TextOf(SheetButton(ID_APPLY_NOW)), L"\u00DC&bernehmen");
     CRect again;
     Sheet().GetWindowRect(&again);
@@ -284,6 +289,46 @@ TEST_F(WorkbenchControls, TheSettingsAreInTheLanguageThatWasChosen)
     workbench::UseLanguage(1033);
     ::SetThreadLocale(locale);
     ::SetThreadUILanguage(0);
+}
+
+/// The system's colours are light on dark as long as it lives.
+class DarkColours
+{
+public:
+    static constexpr COLORREF face = RGB(45, 45, 48);
+
+    DarkColours()
+    {
+        for (std::size_t i = 0; i < std::size(indices); ++i)
+        {
+            m_former[i] = ::GetSysColor(indices[i]);
+        }
+        ::SetSysColors(static_cast<int>(std::size(indices)), indices, colours);
+    }
+    ~DarkColours() { ::SetSysColors(static_cast<int>(std::size(indices)), indices, m_former); }
+    DarkColours(DarkColours const &) = delete;
+    DarkColours & operator=(DarkColours const &) = delete;
+
+private:
+    static constexpr int indices[] = {COLOR_BTNFACE, COLOR_BTNTEXT, COLOR_WINDOW, COLOR_WINDOWTEXT};
+    static constexpr COLORREF colours[] = {face, RGB(230, 230, 230), RGB(30, 30, 30), RGB(230, 230, 230)};
+    COLORREF m_former[std::size(indices)] = {};
+};
+
+TEST_F(WorkbenchControls, OnADarkGroundTheTabOfThePageIsDark)
+{
+    DarkColours const dark;
+    OpenSettings();
+    auto & tabs = *Sheet().GetTabControl();
+    tests::PumpPosted();
+    tabs.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
+    CRect client;
+    tabs.GetClientRect(&client);
+    CRect chosen;
+    ASSERT_TRUE(tabs.GetItemRect(tabs.GetCurSel(), &chosen));
+    tests::Canvas picture(client.Width(), client.Height());
+    picture.CopyFromScreen(tabs);
+    EXPECT_GT(picture.Count(DarkColours::face, chosen), chosen.Width() * chosen.Height() / 2);
 }
 
 TEST_F(WorkbenchControls, TheSliderAndThePlotAreInStep)
@@ -323,6 +368,31 @@ TEST_F(WorkbenchControls, TheButtonAboveTheSliderFitsTheWaveform)
     m_window->ShowTargets({});
     ASSERT_TRUE(tests::PumpUntil([this] { return !Part(IDC_AMPLIFICATION).IsWindowVisible(); }));
     EXPECT_FALSE(Part(IDC_FIT_AMPLIFICATION).IsWindowVisible());
+}
+
+/// A screen on which icons are half as large again.
+int WINAPI MetricsOfLargeIcons(int which)
+{
+    constexpr int large = 48;
+    return which == SM_CXICON || which == SM_CYICON ? large : ::GetSystemMetrics(which);
+}
+
+TEST_F(WorkbenchControls, TheButtonAboveTheSliderIsAsLargeAsTheSystemDrawsIcons)
+{
+    Show(2);
+    auto const place = [this] {
+        CRect rect;
+        Part(IDC_FIT_AMPLIFICATION).GetWindowRect(&rect);
+        return rect;
+    };
+    EXPECT_EQ(place().Size(), CSize(::GetSystemMetrics(SM_CXICON), ::GetSystemMetrics(SM_CYICON)));
+    tests::ImportPatch const patch(nullptr, "GetSystemMetrics", &MetricsOfLargeIcons);
+    ASSERT_TRUE(patch.Done());
+    auto const & panel = *Part(IDC_FIT_AMPLIFICATION).GetParent();
+    CRect client;
+    panel.GetClientRect(&client);
+    ::SendMessageW(panel.m_hWnd, WM_SIZE, SIZE_RESTORED, MAKELPARAM(client.Width(), client.Height()));
+    EXPECT_EQ(place().Size(), CSize(48, 48));
 }
 
 TEST_F(WorkbenchControls, TheTreeOpensFoldersAndChoosesRecordings)
@@ -494,7 +564,7 @@ TEST_F(WorkbenchControls, ColumnsAreChosenAtTheTitles)
             ::PostMessageW(::GetDlgItem(control, 32806), BM_CLICK, 0, 0);
         },
         [&] { return OtherPopup(known) != nullptr && ::GetDlgItem(::GetDlgItem(OtherPopup(known), 1016), 32806); });
-    tests::Click(tests::ClientPoint(header.m_hWnd, title.CenterPoint()), tests::Button::Right);
+    tests::Click(tests::ClientPoint(header.m_hWnd, title.CenterPoint()), tests::Button::right);
     ASSERT_TRUE(tests::PumpUntil([&] { return later.Done() && OtherPopup(known) == nullptr; }));
     ASSERT_FALSE(later.Failed());
     ASSERT_TRUE(tests::PumpUntil([this] { return !m_window->Settings().hiddenColumns.empty(); }));

@@ -349,6 +349,13 @@ protected:
     {
         tests::Click(tests::ClientPoint(List().m_hWnd, List().CellCentre(line, column)));
     }
+    /// Beside the stars, where the choice of words opens.
+    void ClickRating(int line)
+    {
+        CRect cell;
+        ASSERT_TRUE(List().GetSubItemRect(List().PlaceOf(line), CRecordingList::column_rating, LVIR_BOUNDS, cell));
+        tests::Click(tests::ClientPoint(List().m_hWnd, CPoint(cell.right - 8, cell.CenterPoint().y)));
+    }
     void OpenComment(int line)
     {
         ClickCell(line, CRecordingList::column_comment);
@@ -419,7 +426,7 @@ TEST_F(WorkbenchRecordingNotes, ACommentIsTypedStoredAndShownAgain)
 TEST_F(WorkbenchRecordingNotes, ARatingIsChosenInTheDropDownAndStored)
 {
     Show(5);
-    ClickCell(1, CRecordingList::column_rating);
+    ClickRating(1);
     ASSERT_TRUE(tests::PumpUntil([] { return VisibleDropList() != nullptr; }));
     tests::Key(VK_DOWN);
     tests::Key(VK_DOWN);
@@ -442,7 +449,7 @@ TEST_F(WorkbenchRecordingNotes, ARatingIsChosenInTheDropDownAndStored)
 TEST_F(WorkbenchRecordingNotes, NoRowIsDraggedUnderAnOpenRating)
 {
     Show(5);
-    ClickCell(1, CRecordingList::column_rating);
+    ClickRating(1);
     ASSERT_TRUE(tests::PumpUntil([] { return VisibleDropList() != nullptr; }));
     // As the native list tells it when a press beside the editor becomes a drag.
     NMLISTVIEW drag{};

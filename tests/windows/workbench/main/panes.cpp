@@ -4,11 +4,14 @@
 
 #include <afxcontrolbars.h>
 
+#include <algorithm>
 #include <array>
 #include <functional>
 #include <vector>
 
 #include "GuardedHeap.h"
+#include "WaveformPanelView.h"
+#include "windows/StandaloneFrameWnd.h"
 
 namespace
 {
@@ -169,6 +172,243 @@ TEST_F(WorkbenchPanes, AreDraggedOutAndBackByTheirCaptions)
     EXPECT_GE(Place(CMainWindow::part_spectrogram).Height(), 150);
     m_window->ResetLayout();
     EXPECT_EQ(Place(CMainWindow::part_spectrogram), docked);
+}
+
+TEST_F(WorkbenchPanes, TheListIsOneOfThem)
+{
+    m_window->ShowTargets({Folder(3)});
+    ASSERT_TRUE(WaitUntilRead());
+    EXPECT_EQ(CWnd::GetFocus(), &m_window->List());
+    CString title;
+    Pane(CMainWindow::part_list).GetWindowText(title);
+    EXPECT_EQ(title, L"Recordings");
+    auto const docked = Place(CMainWindow::part_list);
+    auto const waveform = Place(CMainWindow::part_waveform);
+    auto const spectrogram = Place(CMainWindow::part_spectrogram);
+    // Torn off, it leaves its room to what was beside it.
+    ASSERT_TRUE(Pane(CMainWindow::part_list).FloatPane(CRect(200, 150, 900, 450)));
+    EXPECT_TRUE(IsFloating(CMainWindow::part_list));
+    EXPECT_EQ(Place(CMainWindow::part_waveform).top, docked.top);
+    EXPECT_EQ(Place(CMainWindow::part_waveform).bottom, waveform.bottom);
+    EXPECT_EQ(Place(CMainWindow::part_spectrogram), spectrogram);
+    m_window->List().SetFocus();
+    tests::Key(VK_DOWN);
+    ASSERT_TRUE(tests::PumpUntil([this] { return m_window->List().ChosenLine() == 1; }));
+    tests::Key(L'A', {VK_CONTROL});
+    ASSERT_TRUE(tests::PumpUntil([this] { return m_window->List().IsChecked(2); }));
+    // With tabs, hidden, and brought back.
+    Pane(CMainWindow::part_list).AttachToTabWnd(&Pane(CMainWindow::part_waveform), DM_SHOW, FALSE);
+    EXPECT_TRUE(m_window->IsBehindTab(CMainWindow::part_list));
+    tests::Key(L'5', {VK_CONTROL});
+    ASSERT_TRUE(tests::PumpUntil([this] { return m_window->List().IsWindowVisible() != FALSE; }));
+    tests::Key(L'5', {VK_CONTROL});
+    ASSERT_TRUE(tests::PumpUntil([this] { return !m_window->ShowsPane(CMainWindow::part_list); }));
+    auto const * const focus = CWnd::GetFocus();
+    EXPECT_TRUE(focus != nullptr && focus->IsWindowVisible() && m_window->IsChild(focus));
+    // What is done in it brings it back.
+    m_window->SendMessage(WM_COMMAND, ID_EDIT_COMMENT);
+    EXPECT_TRUE(m_window->List().IsWindowVisible());
+    EXPECT_NE(m_window->List().CommentEditor(), nullptr);
+    m_window->List().EndEditing();
+    m_window->ResetLayout();
+    EXPECT_EQ(Place(CMainWindow::part_list), docked);
+    EXPECT_EQ(Place(CMainWindow::part_waveform), waveform);
+}
+
+TEST_F(WorkbenchPanes, TheListTakesWhatGrows)
+{
+    auto const heights = [this] {
+        return std::array{Place(CMainWindow::part_waveform).Height(), Place(CMainWindow::part_spectrogram).Height(),
+                          Place(CMainWindow::part_measures).Height()};
+    };
+    CRect window = PlaceOf(*m_window);
+    auto const list = Place(CMainWindow::part_list).Height();
+    auto const others = heights();
+    m_window->SetWindowPos(nullptr, 0, 0, window.Width(), window.Height() + 60, SWP_NOMOVE | SWP_NOZORDER);
+    EXPECT_EQ(Place(CMainWindow::part_list).Height(), list + 60);
+    EXPECT_EQ(heights(), others);
+}
+
+TEST_F(WorkbenchPanes, ALayoutFromBeforeTheListWasAPaneKeepsThePlacesOfTheOthers)
+{
+    ASSERT_TRUE(Pane(CMainWindow::part_measures).DockToFrameWindow(CBRS_ALIGN_TOP));
+    ASSERT_TRUE(Pane(CMainWindow::part_list).DockToFrameWindow(CBRS_ALIGN_TOP)); // in the middle
+    Pane(CMainWindow::part_spectrogram).AttachToTabWnd(&Pane(CMainWindow::part_waveform), DM_SHOW, TRUE);
+    auto const placed = Places();
+    CloseWindow();
+    CString key;
+    key.Format(L"Software\\%s\\Settings\\Workspace\\BasePane-%u", registry_key,
+               CMainFrmInterface::id_base + CMainWindow::part_list);
+    ASSERT_EQ(::RegDeleteTreeW(HKEY_CURRENT_USER, key), ERROR_SUCCESS);
+    OpenWindow();
+    auto const again = Places();
+    for (std::size_t part = 0; part < again.size(); ++part)
+    {
+        EXPECT_TRUE(again[part] == placed[part] || !m_window->ShowsPane(static_cast<Part>(part))) << part;
+    }
+    EXPECT_TRUE(m_window->ShowsPane(CMainWindow::part_list));
+}
+
+TEST_F(WorkbenchPanes, KeysGoRoundThem)
+{
+    m_window->ShowFolders(true);
+    m_window->ShowTargets({Folder(2)});
+    ASSERT_TRUE(WaitUntilRead());
+    ASSERT_TRUE(m_window->ShowInFrame(1));
+    m_window->List().SetFocus();
+    auto const goesTo = [](CWnd const & window) {
+        return tests::PumpUntil([&] {
+            auto const focus = ::GetFocus();
+            return focus == window.m_hWnd || ::IsChild(window.m_hWnd, focus);
+        });
+    };
+    ASSERT_TRUE(Pane(CMainWindow::part_spectrogram).FloatPane(CRect(200, 150, 700, 450)));
+    m_window->List().SetFocus();
+    std::array<CWnd *, 6> const stops{&Pane(CMainWindow::part_list),        &Pane(CMainWindow::part_waveform),
+                                      &Pane(CMainWindow::part_spectrogram), &Pane(CMainWindow::part_measures),
+                                      &Pane(CMainWindow::part_folders),     m_window->Frames().Frames().at(0)->Frame()};
+    for (std::size_t turn = 1; turn <= stops.size(); ++turn)
+    {
+        tests::Key(VK_F6);
+        ASSERT_TRUE(goesTo(*stops[turn % stops.size()])) << turn;
+    }
+    for (std::size_t turn = stops.size(); turn-- > 0;)
+    {
+        tests::Key(VK_F6, {VK_SHIFT});
+        ASSERT_TRUE(goesTo(*stops[turn])) << turn;
+    }
+    // Tab goes through the docked ones, tabs or not.
+    Pane(CMainWindow::part_spectrogram).AttachToTabWnd(&Pane(CMainWindow::part_measures), DM_SHOW, FALSE);
+    m_window->List().SetFocus();
+    std::vector<HWND> reached;
+    for (int turn = 0; turn < 12; ++turn)
+    {
+        auto const focus = ::GetFocus();
+        tests::Key(VK_TAB);
+        ASSERT_TRUE(tests::PumpUntil([&] { return ::GetFocus() != focus; })) << turn;
+        reached.push_back(::GetFocus());
+    }
+    for (auto const part :
+         {CMainWindow::part_list, CMainWindow::part_waveform, CMainWindow::part_measures, CMainWindow::part_folders})
+    {
+        EXPECT_TRUE(std::ranges::any_of(reached, [&](HWND window) { return ::IsChild(Pane(part).m_hWnd, window); }))
+            << part;
+    }
+}
+
+TEST_F(WorkbenchPanes, TheWaveformThatHasTheFocusIsAmplified)
+{
+    m_window->ShowTargets({Folder(2)});
+    ASSERT_TRUE(WaitUntilRead());
+    ASSERT_TRUE(m_window->ShowInFrame(1));
+    auto & inFrame = m_window->Frames().Frames().at(0)->Cell(0)->Waveform();
+    inFrame.SetFocus();
+    tests::Key(VK_ADD, {VK_CONTROL});
+    ASSERT_TRUE(tests::PumpUntil([&] { return inFrame.Amplification() > 0; }));
+    EXPECT_EQ(m_window->Waveform().Amplification(), 0);
+    m_window->List().SetFocus();
+    auto const kept = inFrame.Amplification();
+    tests::Key(VK_ADD, {VK_CONTROL});
+    ASSERT_TRUE(tests::PumpUntil([&] { return m_window->Waveform().Amplification() > 0; }));
+    EXPECT_EQ(inFrame.Amplification(), kept);
+}
+
+TEST_F(WorkbenchPanes, MeasuresAreWholeBesideFramesAndClearOfTheCaption)
+{
+    auto & panel = *m_window->GetDescendantWindow(IDC_MEASURE_PANEL);
+    auto const check = [&] {
+        CRect const inside = PlaceOf(panel);
+        for (auto * child = panel.GetWindow(GW_CHILD); child != nullptr; child = child->GetWindow(GW_HWNDNEXT))
+        {
+            if (!child->IsWindowVisible())
+            {
+                continue;
+            }
+            auto const place = PlaceOf(*child);
+            EXPECT_GT(place.top, inside.top) << child->GetDlgCtrlID();
+            EXPECT_LE(place.right, inside.right) << child->GetDlgCtrlID();
+            EXPECT_GT(place.Width(), 20) << child->GetDlgCtrlID();
+        }
+    };
+    check();
+    m_window->ShowTargets({Folder(1)});
+    ASSERT_TRUE(WaitUntilRead());
+    auto const wide = PlaceOf(panel).Width();
+    ASSERT_TRUE(m_window->ShowInFrame(0));
+    ASSERT_TRUE(tests::PumpUntil([&] { return PlaceOf(panel).Width() < wide; }));
+    check();
+    panel.GetParent()->MoveWindow(0, 0, wide / 4, 40);
+    check();
+}
+
+TEST_F(WorkbenchPanes, ALayoutOfASmallerResolutionFitsAGreaterOne)
+{
+    m_window->SetWindowPos(nullptr, 0, 0, 1400, 1200, SWP_NOZORDER);
+    ASSERT_TRUE(Pane(CMainWindow::part_waveform).FloatPane(CRect(200, 150, 1900, 1450)));
+    CloseWindow();
+    OpenWindow(144);
+    CRect work;
+    ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
+    auto const onScreen = [&](CWnd const & window) {
+        CRect common;
+        auto const place = PlaceOf(window);
+        return common.IntersectRect(place, work) && common == place;
+    };
+    EXPECT_TRUE(onScreen(*m_window));
+    EXPECT_TRUE(onScreen(*Pane(CMainWindow::part_waveform).GetParent()));
+    for (auto part = 0; part < CMainWindow::part_count; ++part)
+    {
+        EXPECT_TRUE(!m_window->ShowsPane(static_cast<Part>(part)) || onScreen(Pane(static_cast<Part>(part)))) << part;
+    }
+    // A pane's caption is a little higher than the system's small one.
+    EXPECT_GE(PlaceOf(*m_window->GetDescendantWindow(IDC_MEASURE_PANEL)).Height(),
+              CMeasurePanel::Height(workbench::ScreenMetrics(144)) - 4);
+}
+
+TEST_F(WorkbenchPanes, FollowTheLanguageAtOnce)
+{
+    auto const locale = ::GetThreadLocale();
+    auto const item = [this](int menu, UINT place) {
+        CString text;
+        m_window->GetMenu()->GetSubMenu(menu)->GetMenuString(place, text, MF_BYPOSITION);
+        return std::wstring(text.GetString());
+    };
+    auto const name = [this](UINT place) {
+        CString text;
+        m_window->GetMenu()->GetMenuString(place, text, MF_BYPOSITION);
+        return std::wstring(text.GetString());
+    };
+    m_window->ShowTargets({Folder(1)});
+    ASSERT_TRUE(WaitUntilRead());
+    ASSERT_TRUE(m_window->ShowInFrame(0));
+    auto const count = m_window->GetMenu()->GetSubMenu(5)->GetMenuItemCount();
+    m_window->ChooseLanguage(1031);
+    EXPECT_EQ(name(0), L"&Datei");
+    EXPECT_EQ(name(5), L"Fen&ster");
+    EXPECT_EQ(item(0, 2), L"&Neu laden\tF5");
+    EXPECT_EQ(item(5, 0), L"Ordner\tStrg+1");
+    EXPECT_EQ(item(5, 4), L"Aufnahmen\tStrg+5");
+    EXPECT_EQ(m_window->GetMenu()->GetSubMenu(5)->GetMenuItemCount(), count);
+    CString title;
+    Pane(CMainWindow::part_measures).GetWindowText(title);
+    EXPECT_EQ(title, L"Messwerte");
+    wchar_t column[40] = L"";
+    HDITEM header{};
+    header.mask = HDI_TEXT;
+    header.pszText = column;
+    header.cchTextMax = static_cast<int>(std::size(column));
+    m_window->List().GetHeaderCtrl()->GetItem(CRecordingList::column_duration, &header);
+    EXPECT_STREQ(column, L"Dauer");
+    // What opens and closes after that is still entered in the same menu.
+    m_window->Frames().Frames().at(0)->Frame()->SendMessage(WM_CLOSE);
+    EXPECT_EQ(m_window->GetMenu()->GetSubMenu(5)->GetMenuItemCount(), count - 2);
+    m_window->ChooseLanguage(1033);
+    EXPECT_EQ(name(0), L"&File");
+    EXPECT_EQ(item(5, 0), L"Folders\tCtrl+1");
+    EXPECT_EQ(item(5, 5), L""); // a separator
+    EXPECT_EQ(item(5, 6), L"&Reset layout");
+    ::SetThreadLocale(locale);
+    ::SetThreadUILanguage(0);
 }
 
 /// The main window is closed while a pane floats, is dragged, or while the user is in it.

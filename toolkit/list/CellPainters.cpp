@@ -1,0 +1,390 @@
+#include "list/CellPainters.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "frame/GdiplusModule.h"
+#include "frame/GraphicsScopes.h"
+#include "list/CellKind.h"
+#include "list/CheckMarks.h"
+
+namespace
+{
+constexpr COLORREF trough_color = 0xE0E0E0;
+
+/// The colour stands solid at the left and fades out to the right, not quite to nothing.
+void PaintWash(CDC & dc, CRect const & cell, COLORREF color)
+{
+    constexpr int margin_x = 1;
+    constexpr int margin_y = 2;
+    constexpr float reach = 1.05f;
+    constexpr BYTE nearly_solid = 240;
+    constexpr Gdiplus::REAL positions[] = {0.0f, 0.3f, 1.0f};
+
+    CRect area = cell;
+    area.DeflateRect(margin_x, margin_y);
+    if (area.Width() <= 0 || area.Height() <= 0 || !StartGdiplus())
+        return;
+    Gdiplus::RectF const fill(static_cast<float>(area.left), static_cast<float>(area.top),
+                              static_cast<float>(area.Width()), static_cast<float>(area.Height()));
+    BYTE const red = GetRValue(color);
+    BYTE const green = GetGValue(color);
+    BYTE const blue = GetBValue(color);
+    Gdiplus::Color const colors[] = {Gdiplus::Color(255, red, green, blue),
+                                     Gdiplus::Color(nearly_solid, red, green, blue),
+                                     Gdiplus::Color(0, red, green, blue)};
+
+    Gdiplus::Graphics graphics(dc.GetSafeHdc());
+    graphics.SetSmoothingMode(Gdiplus::SmoothingModeAntiAlias);
+    Gdiplus::LinearGradientBrush brush(Gdiplus::PointF(fill.X, fill.Y),
+                                       Gdiplus::PointF(fill.X + reach * fill.Width, fill.Y), colors[0], colors[2]);
+    brush.SetInterpolationColors(colors, positions, static_cast<INT>(std::size(colors)));
+    graphics.FillRectangle(&brush, fill);
+}
+
+void SetTextColors(CellPaint const & paint)
+{
+    paint.dc.SetBkMode(TRANSPARENT);
+    paint.dc.SetTextColor(paint.text);
+    paint.dc.SetBkColor(paint.background);
+}
+
+void DrawCellText(CDC & dc, CellText const & text, CRect rect, UINT format)
+{
+    if (!rect.IsRectEmpty())
+        dc.DrawText(text.Characters(), text.Length(), &rect, format);
+}
+
+bool IsEnabled(XLISTCTRLDATA const & cell)
+{
+    return (cell.properties & XLP_ENABLED) != 0;
+}
+
+Gdiplus::Color ToColor(COLORREF color)
+{
+    return Gdiplus::Color(GetRValue(color), GetGValue(color), GetBValue(color));
+}
+
+/// The size of one image; empty if it can't be told.
+CSize ImageSize(CImageList const & images, int index)
+{
+    IMAGEINFO info = {};
+    return images.GetImageInfo(index, &info) ? CRect(info.rcImage).Size() : CSize(0, 0);
+}
+
+/// How far below a cell's top something of that height starts to stand in its middle.
+int TopOffset(CRect const & cell, int height)
+{
+    return std::max((cell.Height() - height) / 2, 0);
+}
+
+/// The downward arrow of a combo cell, lighter towards its top.
+void PaintArrow(CDC & dc, CPoint box)
+{
+    constexpr float inset = 3.0f;
+    constexpr float half_width = 4.0f;
+    constexpr float height = 7.0f;
+    constexpr float line_width = 0.7f;
+
+    if (!StartGdiplus())
+        return;
+    float const x = static_cast<float>(box.x) + inset;
+    float const y = static_cast<float>(box.y) + inset;
+    Gdiplus::Color const color(180, 51, 153, 51);
+
+    Gdiplus::GraphicsPath path;
+    path.AddLine(x, y, x + half_width, y + height);
+    path.AddLine(x + half_width, y + height, x + 2 * half_width, y);
+    path.AddLine(x + 2 * half_width, y, x, y);
+    path.CloseFigure();
+
+    Gdiplus::Graphics graphics(dc.GetSafeHdc());
+    graphics.SetSmoothingMode(Gdiplus::SmoothingModeAntiAlias);
+    Gdiplus::Pen const pen(color, line_width);
+    graphics.DrawPath(&pen, &path);
+    Gdiplus::LinearGradientBrush const brush(Gdiplus::PointF(x + half_width, y),
+                                             Gdiplus::PointF(x + half_width, y + height),
+                                             Gdiplus::Color(0, 255, 255, 255), color);
+    graphics.FillPath(&brush, &path);
+}
+
+/// The image, if there is one, and the room that it leaves.
+void PaintImageAhead(CellPaint & paint, CellLook const & look)
+{
+    if (look.images != nullptr && paint.cell.imageIndex >= 0 && paint.rect.Width() > 0)
+        paint.rect.left += cell_painters::PaintImage(paint, *look.images, look.spacing);
+}
+} // namespace
+
+CellPalette CellPalette::OfSystem()
+{
+    CellPalette palette;
+    palette.face = ::GetSysColor(COLOR_BTNFACE);
+    palette.edgeHighlight = ::GetSysColor(COLOR_BTNHIGHLIGHT);
+    palette.edgeShadow = ::GetSysColor(COLOR_BTNSHADOW);
+    palette.activeCaption = ::GetSysColor(COLOR_ACTIVECAPTION);
+    palette.inactiveSelection = ::GetSysColor(COLOR_BTNFACE);
+    palette.barFrame = ::GetSysColor(COLOR_BTNSHADOW);
+    palette.buttonText = ::GetSysColor(COLOR_BTNTEXT);
+    palette.disabled = ::GetSysColor(COLOR_GRAYTEXT);
+    palette.selection = ::GetSysColor(COLOR_HIGHLIGHT);
+    palette.selectionText = ::GetSysColor(COLOR_HIGHLIGHTTEXT);
+    palette.inactiveCaption = ::GetSysColor(COLOR_INACTIVECAPTION);
+    palette.inactiveCaptionText = ::GetSysColor(COLOR_INACTIVECAPTIONTEXT);
+    palette.window = ::GetSysColor(COLOR_WINDOW);
+    palette.windowText = ::GetSysColor(COLOR_WINDOWTEXT);
+    palette.checkFrame = check_marks::frame_color;
+    palette.checkMark = check_marks::tick_color;
+    return palette;
+}
+
+namespace cell_painters
+{
+bool PaintCell(CellPaint paint, CellLook const & look, CellText const & text)
+{
+    UINT const format = TextFormat(look.alignment, look.ellipsis);
+    switch (PaintedKind(paint.cell))
+    {
+    case CellKind::progress:
+        FillMargin(paint.dc, paint.rect, look.palette.window);
+        PaintImageAhead(paint, look);
+        PaintProgress(paint, look.palette);
+        return true;
+    case CellKind::check:
+    case CellKind::radio:
+        if (!paint.rect.IsRectEmpty())
+            PaintCheck(paint, text, look.ellipsis, look.palette);
+        return true;
+    case CellKind::combo:
+        PaintImageAhead(paint, look);
+        if (!paint.rect.IsRectEmpty())
+            PaintCombo(paint, text, format, look.padding);
+        return true;
+    case CellKind::custom:
+        return false;
+    case CellKind::text:
+    case CellKind::edit:
+    case CellKind::link:
+        PaintImageAhead(paint, look);
+        if (!paint.rect.IsRectEmpty())
+            PaintText(paint, text, format, look.padding);
+        return true;
+    }
+    return false;
+}
+
+void GreyDisabled(XLISTCTRLDATA const & cell, CellPalette const & palette, COLORREF & text, COLORREF & background)
+{
+    if (IsEnabled(cell))
+        return;
+    text = palette.disabled;
+    if (background == palette.window)
+        background = palette.inactiveSelection;
+}
+
+UINT TextFormat(UINT alignment, bool ellipsis)
+{
+    return DT_NOPREFIX | DT_SINGLELINE | DT_VCENTER | alignment | (ellipsis ? DT_END_ELLIPSIS : 0);
+}
+
+void FillCell(CellPaint const & paint)
+{
+    paint.dc.FillSolidRect(paint.rect, paint.background);
+    if (paint.cell.gradientColor != XLISTCTRLDATA::no_gradient)
+        PaintWash(paint.dc, paint.rect, paint.cell.gradientColor);
+}
+
+int PaintImage(CellPaint const & paint, CImageList & images, int spacing)
+{
+    FillCell(paint);
+    CRect rect = paint.rect;
+    rect.left += spacing;
+
+    CSize const size = ImageSize(images, paint.cell.imageIndex);
+    CPoint const position(rect.left, rect.CenterPoint().y - (size.cy >> 1));
+    CSize const drawn(std::min<LONG>(size.cx, rect.Width()), std::min<LONG>(size.cy, rect.Height()));
+    // A size of 0 would stand for that of the whole image.
+    if (drawn.cx > 0 && drawn.cy > 0)
+    {
+        ImageBackgroundScope const imageBackground(images, paint.background);
+        images.DrawIndirect(&paint.dc, paint.cell.imageIndex, position, drawn, CPoint(0, 0));
+    }
+    return size.cx + spacing;
+}
+
+void PaintText(CellPaint const & paint, CellText const & text, UINT format, int padding)
+{
+    FillCell(paint);
+    if (text.IsEmpty())
+        return;
+    unsigned int const properties = paint.cell.properties;
+    FontFormScope const font(paint.dc, (properties & XLP_BOLD) != 0, (properties & XLP_UNDERLINE) != 0);
+    SetTextColors(paint);
+    CRect room = paint.rect;
+    room.DeflateRect(padding, 0);
+    DrawCellText(paint.dc, text, room, format);
+}
+
+void PaintCheck(CellPaint const & paint, CellText const & text, bool ellipsis, CellPalette const & palette)
+{
+    constexpr int box_left = 9;
+    constexpr int box_gap = 4;
+
+    FillCell(paint);
+    CRect const & rect = paint.rect;
+    CRect box(CPoint(rect.left + box_left, rect.top + TopOffset(rect, check_marks::box_size)),
+              CSize(check_marks::box_size, check_marks::box_size));
+    if (text.IsEmpty())
+        box.MoveToX(rect.left + rect.Width() / 2 - check_marks::box_size / 2 - 1);
+
+    bool const enabled = IsEnabled(paint.cell);
+    int const state = paint.cell.checkedState;
+    if (state >= XLC_UNCHECKED && state <= XLC_CROSSED)
+        PaintCheckBox(paint.dc, box, state, enabled, palette);
+    else if (state == XLC_RADIO_ON || state == XLC_RADIO_OFF)
+        PaintRadioBox(paint.dc, box, state, enabled, palette);
+
+    if (text.IsEmpty())
+        return;
+    SetTextColors(paint);
+    DrawCellText(paint.dc, text, CRect(box.right + box_gap, rect.top, rect.right, rect.bottom),
+                 DT_SINGLELINE | DT_VCENTER | (ellipsis ? DT_END_ELLIPSIS : 0));
+}
+
+void PaintCheckBox(CDC & dc, CRect const & box, int state, bool enabled, CellPalette const & palette)
+{
+    check_marks::DrawFrame(dc, box, enabled ? palette.checkFrame : palette.disabled);
+    if (state == XLC_CHECKED)
+        check_marks::DrawTick(dc, box, enabled ? palette.checkMark : palette.disabled);
+    else if (state == XLC_CROSSED)
+        check_marks::DrawCross(dc, box, check_marks::cross_inset_cell,
+                               enabled ? check_marks::cross_color : palette.disabled);
+}
+
+void PaintRadioBox(CDC & dc, CRect const & box, int state, bool enabled, CellPalette const & palette)
+{
+    constexpr float line_width = 1.0f;
+
+    if (!StartGdiplus())
+        return;
+    CRect ring = box;
+    ring.DeflateRect(1, 1);
+    int const diameter = ring.Width();
+
+    Gdiplus::GraphicsPath path;
+    path.AddEllipse(static_cast<INT>(ring.left), static_cast<INT>(ring.top), diameter, diameter);
+    Gdiplus::Graphics graphics(dc.GetSafeHdc());
+    graphics.SetSmoothingMode(Gdiplus::SmoothingModeAntiAlias);
+    Gdiplus::Pen const pen(ToColor(enabled ? palette.checkFrame : palette.disabled), line_width);
+    graphics.DrawPath(&pen, &path);
+    // Of a disabled one it is meant that it doesn't show whether it's on.
+    if (!enabled)
+        return;
+
+    if (state != XLC_RADIO_ON)
+    {
+        Gdiplus::SolidBrush const white(Gdiplus::Color(255, 255, 255));
+        graphics.FillPath(&white, &path);
+        return;
+    }
+    Gdiplus::PathGradientBrush ball(&path);
+    ball.SetCenterPoint(Gdiplus::Point(ring.left + diameter / 3, ring.top + diameter / 3));
+    ball.SetCenterColor(Gdiplus::Color(150, 255, 150));
+    Gdiplus::Color const surround = ToColor(palette.checkMark);
+    INT count = 1;
+    ball.SetSurroundColors(&surround, &count);
+    graphics.FillPath(&ball, &path);
+}
+
+void PaintCombo(CellPaint const & paint, CellText const & text, UINT format, int padding)
+{
+    constexpr int arrow_size = 13;
+    constexpr int arrow_height = 11;
+
+    FillCell(paint);
+    CRect room = paint.rect;
+    // It is meant that a disabled cell has no padding either.
+    if (IsEnabled(paint.cell))
+    {
+        room.DeflateRect(padding, 0);
+        room.right -= arrow_size;
+        PaintArrow(paint.dc, CPoint(room.right, paint.rect.top + TopOffset(paint.rect, arrow_height)));
+    }
+    if (text.IsEmpty())
+        return;
+    SetTextColors(paint);
+    DrawCellText(paint.dc, text, room, format);
+}
+
+void FillMargin(CDC & dc, CRect const & cell, COLORREF color)
+{
+    dc.FillSolidRect(CRect(cell.left, cell.top, cell.left + 1, cell.bottom), color);
+    dc.FillSolidRect(CRect(cell.left, cell.bottom - 1, cell.right, cell.bottom), color);
+}
+
+void PaintProgress(CellPaint const & paint, CellPalette const & palette)
+{
+    constexpr long long percent = 100;
+    // The end of the device space: nothing beyond it can be seen.
+    constexpr long long farthest = (1 << 27) - 1;
+
+    CDC & dc = paint.dc;
+    XLISTCTRLDATA const & cell = paint.cell;
+    CRect trough = paint.rect;
+    --trough.bottom;
+    ++trough.left;
+    if (trough.IsRectEmpty())
+        return;
+    dc.FillSolidRect(trough, trough_color);
+    dc.Draw3dRect(trough, RGB(0, 0, 0), palette.barFrame);
+    // It is meant that a bar at 0 shows no text either.
+    if (cell.progressValue <= 0)
+        return;
+
+    CRect bar = trough;
+    bar.DeflateRect(1, 1, 0, 1);
+    CRect rest = bar;
+    long long const fill = static_cast<long long>(bar.Width()) * cell.progressValue / percent;
+    // Above 100 it is meant to reach past the cell.
+    bar.right = static_cast<LONG>(std::min(bar.left + fill - 1, farthest));
+    rest.left = bar.right;
+    if (!bar.IsRectEmpty())
+        dc.FillSolidRect(bar, paint.background);
+    CRect room = trough;
+    room.DeflateRect(1, 1);
+    if (!cell.progressShowText || room.IsRectEmpty())
+        return;
+
+    CString caption;
+    if (cell.progressFormat.IsEmpty())
+        caption.Format(L"%d%%", cell.progressValue);
+    else
+        caption.Format(cell.progressFormat, cell.progressDisplayValue);
+    dc.SetBkMode(TRANSPARENT);
+    auto const draw = [&](COLORREF color) {
+        dc.SetTextColor(color);
+        dc.DrawText(caption, &room, DT_CENTER | DT_SINGLELINE | DT_VCENTER);
+    };
+    // A text that keeps its distance from the bar's edge, italics and the like included, needs no clipping.
+    CSize const extent = dc.GetTextExtent(caption);
+    int const textLeft = room.left + (room.Width() - extent.cx) / 2 - extent.cy;
+    int const textRight = textLeft + extent.cx + 2 * extent.cy;
+    if (textLeft >= bar.left && textRight <= bar.right)
+    {
+        draw(trough_color);
+        return;
+    }
+    if (textLeft >= rest.left && textRight <= rest.right)
+    {
+        draw(paint.text);
+        return;
+    }
+    // The text changes its colour exactly at the bar's edge.
+    auto const drawPart = [&](CRect const & part, COLORREF color) {
+        ClipScope const clip(dc, part);
+        draw(color);
+    };
+    drawPart(bar, trough_color);
+    drawPart(rest, paint.text);
+}
+} // namespace cell_painters

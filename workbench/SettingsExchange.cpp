@@ -1,0 +1,91 @@
+#include "SettingsExchange.h"
+
+#include <optional>
+#include <system_error>
+
+#include "FileDialogs.h"
+#include "logic/Texts.h"
+#include "windows/RegistrySettingsTree.h"
+#include "windows/SettingsFile.h"
+
+namespace workbench
+{
+
+namespace
+{
+
+registry_settings::RegistrySettingsTree ApplicationTree()
+{
+    return registry_settings::RegistrySettingsTree([] { return AfxGetApp()->GetAppRegistryKey(); });
+}
+
+/// Puts text and file name below one another.
+CString Message(wchar_t const * text, std::filesystem::path const & file)
+{
+    CString message(text);
+    message += L"\n\n";
+    message += file.wstring().c_str();
+    return message;
+}
+
+} // namespace
+
+SettingsFileResult ExportSettings(CWnd & owner)
+{
+    auto const folder = ChooseFolder(owner, Text(L"Choose the folder for the settings file:"));
+    if (!folder)
+    {
+        return SettingsFileResult::given_up;
+    }
+    auto const files = registry_settings::settings_files(*folder);
+    auto tree = ApplicationTree();
+    if (!registry_settings::export_registry_settings(tree, files))
+    {
+        AfxMessageBox(Message(Text(L"The settings could not be written to this file:"), files.saved),
+                      MB_ICONEXCLAMATION);
+        return SettingsFileResult::failed;
+    }
+    AfxMessageBox(Message(Text(L"The settings are in this file now:"), files.saved), MB_ICONINFORMATION);
+    return SettingsFileResult::done;
+}
+
+SettingsFileResult ImportSettings(CWnd & owner)
+{
+    auto const folder = ChooseFolder(owner, Text(L"Choose the folder that has the settings file:"));
+    if (!folder)
+    {
+        return SettingsFileResult::given_up;
+    }
+    auto const files = registry_settings::settings_files(*folder);
+    std::error_code error;
+    if (!std::filesystem::exists(files.plain, error))
+    {
+        // An export is only taken once somebody says so.
+        if (!std::filesystem::exists(files.saved, error))
+        {
+            AfxMessageBox(Message(Text(L"This folder has no settings file:"), *folder), MB_ICONEXCLAMATION);
+            return SettingsFileResult::failed;
+        }
+        if (AfxMessageBox(Message(Text(L"Replace all settings by those in this file?"), files.saved),
+                          MB_YESNO | MB_ICONQUESTION) != IDYES)
+        {
+            return SettingsFileResult::given_up;
+        }
+        std::filesystem::rename(files.saved, files.plain, error);
+    }
+    auto tree = ApplicationTree();
+    if (registry_settings::import_registry_settings(tree, files))
+    {
+        AfxMessageBox(Text(L"The settings are those of the file now."), MB_ICONINFORMATION);
+        return SettingsFileResult::done;
+    }
+    // The file has its new name once it has been read, so then it was the registry that refused.
+    auto const read = !std::filesystem::exists(files.plain, error);
+    AfxMessageBox(Message(read ? Text(L"Only a part of the settings could be taken from this file:")
+                               : Text(L"This is no settings file, or it cannot be read:"),
+                          read ? files.restored : files.plain),
+                  MB_ICONEXCLAMATION);
+    return read ? SettingsFileResult::incomplete : SettingsFileResult::failed;
+}
+
+} // namespace workbench
