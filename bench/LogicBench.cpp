@@ -37,12 +37,8 @@ struct Measure
     bool (*run)();
 };
 constexpr Measure measures[] = {
-    {"layout", bench::LayoutArithmetic},
-    {"list-search", bench::SearchingRows},
-    {"segments", bench::PaintingSegments},
-    {"combo", bench::TypingIntoACombo},
-    {"recording", bench::LookingAtAnHour},
-    {"table", bench::OrderingATable},
+    {"layout", bench::LayoutArithmetic}, {"list-search", bench::SearchingRows}, {"segments", bench::PaintingSegments},
+    {"combo", bench::TypingIntoACombo},  {"recording", bench::LookingAtAnHour}, {"table", bench::OrderingATable},
 };
 } // namespace
 

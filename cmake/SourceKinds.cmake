@@ -4,7 +4,9 @@
 
 # Of the platform's headers, those that know no window.
 set(windowless_headers afx.h afxcoll.h afxexcept.h afxtempl.h atlcomtime.h atlsimpstr.h atlstr.h atltime.h atltypes.h
-    cstringt.h)
+    cstringt.h
+    # Nor do the processor's.
+    emmintrin.h immintrin.h xmmintrin.h)
 
 # includes_windows(RESULT FILE FOLDER): whether the file includes the window system; FOLDER is where its "..." start.
 function(includes_windows result file folder)

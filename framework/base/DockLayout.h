@@ -70,9 +70,9 @@ struct DockNode
 
 struct DockMetrics
 {
-    int divider = 4;      // between parts
-    int tabs = 20;        // what tabs add to the height of a place
-    CSize centre{40, 40}; // the least size of the centre
+    int divider = 4;         // between parts
+    int tabs = 20;           // what tabs add to the height of a place
+    CSize centre{40, 40};    // the least size of the centre
     bool centreShown = true; // if not, what is next to the centre has its room
 };
 

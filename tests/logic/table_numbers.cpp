@@ -209,7 +209,9 @@ TEST(TableNumbers, WhatIsShownGivesTheValueWhenReadBack)
             ASSERT_TRUE(read) << testing::PrintToString(shown);
             ASSERT_EQ(Show(*read, format, L','), shown) << testing::PrintToString(value);
             if (format.style == NumberStyle::shortest)
+            {
                 ASSERT_EQ(*read, value) << testing::PrintToString(shown);
+            }
         }
     }
 }

@@ -193,7 +193,9 @@ TEST(TableOrder, NumbersThatDifferInTheirLastBitAreInOrderWithinGroups)
             continue;
         ASSERT_GE(first[2].Text(), second[2].Text()) << i;
         if (first[2].Text() == second[2].Text())
+        {
             ASSERT_LT(rows[i - 1], rows[i]) << i;
+        }
     }
 }
 

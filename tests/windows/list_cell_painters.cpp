@@ -22,7 +22,7 @@ protected:
     /// The cell (1, 1) painted by the painters alone, on the same place: how a system smooths shapes may depend on it.
     std::unique_ptr<tests::Canvas> PaintedAlone()
     {
-        canvas.Fill(Untouched);
+        canvas.Fill(untouched);
         XLISTCTRLDATA const & cell = Data(1, 1);
         CellLook look;
         look.palette = CellPalette::OfSystem();
@@ -47,8 +47,8 @@ protected:
     }
     static testing::AssertionResult AreEqual(tests::Canvas const & a, tests::Canvas const & b)
     {
-        for (int y = 0; y < RowHeight; ++y)
-            for (int x = 0; x < ColumnWidth; ++x)
+        for (int y = 0; y < row_height; ++y)
+            for (int x = 0; x < column_width; ++x)
                 if (a.Pixel(x, y) != b.Pixel(x, y))
                     return testing::AssertionFailure()
                            << "at (" << x << ", " << y << "): " << a.Pixel(x, y) << " and " << b.Pixel(x, y);
@@ -115,7 +115,7 @@ TEST_F(ListCellPainters, PaintEveryKindAsTheListDoes)
             each.make(list);
             list.SetEnabled(1, 1, enabled);
             // What a trough leaves free, the list fills during a whole paint alone.
-            canvas.Fill(Untouched);
+            canvas.Fill(untouched);
             cell_painters::FillMargin(canvas.Dc(), Cell(1, 1), ::GetSysColor(COLOR_WINDOW));
             PaintOver(1, 1);
             auto const shown = Copy(Cell(1, 1));
@@ -146,6 +146,6 @@ TEST_F(ListCellPainters, LeaveACellWithAPainterOfItsOwnToTheControl)
     list.SetCustomDraw(1, 1, [](int, int, CDC *, CRect const &) {});
     auto const picture = PaintedAlone();
     EXPECT_FALSE(m_painted);
-    EXPECT_TRUE(picture->BoundsOfOther(Untouched).IsRectEmpty());
+    EXPECT_TRUE(picture->BoundsOfOther(untouched).IsRectEmpty());
 }
 } // namespace

@@ -90,7 +90,7 @@ TEST_F(ListOwnKinds, ItPaintsTheWholeCellWhateverElseTheCellIs)
     Data(1, 1).intValue = 5;
     EXPECT_EQ(Paint(1, 1), CDRF_SKIPDEFAULT);
     EXPECT_EQ(m_kind->painted, std::vector<int>{5});
-    EXPECT_EQ(Count(Counter::colour, Cell(1, 1)), ColumnWidth * RowHeight);
+    EXPECT_EQ(Count(Counter::colour, Cell(1, 1)), column_width * row_height);
     EXPECT_TRUE(OnlyWithin(Cell(1, 1)));
 }
 

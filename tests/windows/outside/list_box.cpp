@@ -212,9 +212,9 @@ TEST_F(OutsideListBox, TipOfARowThatIsNotThere)
     {
         WideTip wide(m_list, row);
         LRESULT result = 5;
-        m_list.OnToolTipText(0, &wide.tip.hdr, &result);
+        EXPECT_EQ(m_list.OnToolTipText(0, &wide.tip.hdr, &result), 1) << row;
+        EXPECT_STREQ(wide.tip.szText, L"") << row;
     }
-    SUCCEED();
 }
 
 TEST_F(OutsideListBox, TipThroughTheMessageMap)
