@@ -57,13 +57,18 @@ public:
     {
         if (row >= count)
             return false;
-        value.SetWhole(m_values[row].load(std::memory_order_relaxed) + column);
+        long long const present = m_values[row].load(std::memory_order_relaxed);
+        // Nobody but the painting asks.
+        m_shown[row] = present;
+        value.SetWhole(present + column);
         return true;
     }
+    bool IsShown(TableRow row) const { return m_shown[row] == m_values[row].load(std::memory_order_relaxed); }
     void Put(TableRow row, long long value) { m_values[row].store(value, std::memory_order_relaxed); }
 
 private:
     std::vector<std::atomic<long long>> m_values = std::vector<std::atomic<long long>>(count);
+    mutable std::vector<long long> m_shown = std::vector<long long>(count);
 };
 
 std::vector<TableColumn> Columns(TableKind kind)
@@ -263,13 +268,9 @@ bool FollowingThreads()
         ::MsgWaitForMultipleObjects(0, nullptr, FALSE, 10, QS_ALLINPUT);
     }
     unsigned long long wrong = 0;
-    for (int row = 0; row < page_rows; ++row)
-    {
-        TableValue value;
-        source->Read(static_cast<TableRow>(row), 0, value);
-        if (table.GetItemText(row, 0) != std::to_wstring(value.Whole()).c_str())
+    for (TableRow row = 0; row < page_rows; ++row)
+        if (!source->IsShown(row))
             ++wrong;
-    }
     std::printf("table: %.0f changes a second told\n", static_cast<double>(told) / elapsed);
     bool met =
         bench::ReportCount("table: repaints in 10 s of 100,000 changes a second",

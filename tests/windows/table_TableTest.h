@@ -244,6 +244,24 @@ protected:
         table->SendMessage(WM_LBUTTONDOWN, MK_LBUTTON | keys, MAKELPARAM(point.x, point.y));
         table->SendMessage(WM_LBUTTONUP, keys, MAKELPARAM(point.x, point.y));
     }
+    /// A real click at a client position. Its events carry it: the display server may report a former one late.
+    void Click(CPoint client, bool right = false)
+    {
+        CPoint const screen = ClientPoint(table->m_hWnd, client);
+        MoveMouse(screen);
+        constexpr int range = 65536; // of absolute positions
+        INPUT events[2] = {};
+        for (int i = 0; i < 2; ++i)
+        {
+            events[i].type = INPUT_MOUSE;
+            events[i].mi.dx = (screen.x * range + range / 2) / ::GetSystemMetrics(SM_CXSCREEN);
+            events[i].mi.dy = (screen.y * range + range / 2) / ::GetSystemMetrics(SM_CYSCREEN);
+            events[i].mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE;
+        }
+        events[0].mi.dwFlags |= right ? MOUSEEVENTF_RIGHTDOWN : MOUSEEVENTF_LEFTDOWN;
+        events[1].mi.dwFlags |= right ? MOUSEEVENTF_RIGHTUP : MOUSEEVENTF_LEFTUP;
+        ::SendInput(2, events, sizeof(INPUT));
+    }
     void PressKey(UINT key) { table->SendMessage(WM_KEYDOWN, key, 1); }
 
     ScopedWindow parent{CRect(100, 100, 520, 380)};

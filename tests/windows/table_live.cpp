@@ -190,7 +190,7 @@ TEST_F(TableLive, FiveThousandOperationsAtRandom)
                 TableRow const row = table->RowAt(position);
                 CRect rect(0, 0, 0, 0);
                 table->GetItemRect(static_cast<int>(position), &rect, LVIR_BOUNDS);
-                tests::Click(tests::ClientPoint(table->m_hWnd, CPoint(20, rect.CenterPoint().y)));
+                Click(CPoint(20, rect.CenterPoint().y));
                 ASSERT_TRUE(tests::PumpUntil([&] { return table->SelectedRows() == Order{row}; })) << step;
                 selected = {source->Key(row)};
             }

@@ -120,6 +120,7 @@ public:
 
 protected:
     void PreSubclassWindow() override;
+    BOOL PreTranslateMessage(MSG * message) override;
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT * result) override;
     /// The header's menu: which columns are shown. screen: where.

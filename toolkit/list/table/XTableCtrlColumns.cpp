@@ -225,6 +225,22 @@ void CXTableCtrl::MoveTableColumn(unsigned int column, unsigned int place)
     StoreColumns();
 }
 
+// A second click on a title is one like the first; on a divider it stays a double click.
+BOOL CXTableCtrl::PreTranslateMessage(MSG * message)
+{
+    CHeaderCtrl * const native = GetHeaderCtrl();
+    if (message->message == WM_LBUTTONDBLCLK && native != nullptr &&
+        (message->hwnd == native->m_hWnd || message->hwnd == m_state->frozenHeader.m_hWnd))
+    {
+        HDHITTESTINFO hit = {};
+        hit.pt = CPoint(message->lParam);
+        ::SendMessageW(message->hwnd, HDM_HITTEST, 0, reinterpret_cast<LPARAM>(&hit));
+        if (hit.flags == HHT_ONHEADER)
+            message->message = WM_LBUTTONDOWN;
+    }
+    return CListCtrl::PreTranslateMessage(message);
+}
+
 BOOL CXTableCtrl::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT * result)
 {
     auto const & header = *reinterpret_cast<NMHDR const *>(lParam);
