@@ -17,7 +17,7 @@ OUTPUT_DIRECTORY = "@PROJECT_BINARY_DIR@/reference"
 INPUT = "@reference_input@"
 USE_MDFILE_AS_MAINPAGE = "@PROJECT_SOURCE_DIR@/docs/guide.md"
 STRIP_FROM_PATH = "@PROJECT_SOURCE_DIR@/toolkit" "@PROJECT_SOURCE_DIR@"
-FILTER_PATTERNS = *.h="awk -f @PROJECT_SOURCE_DIR@/cmake/reference.awk"
+FILTER_PATTERNS = *.h="awk -f @PROJECT_SOURCE_DIR@/cmake/reference.awk" *.md="sed -f @PROJECT_SOURCE_DIR@/cmake/reference_guide.sed"
 GENERATE_LATEX = NO
 HAVE_DOT = NO
 CLASS_GRAPH = TEXT

@@ -50,7 +50,7 @@ BOOL CExportDialog::OnInitDialog()
     CDialog3d::OnInitDialog();
     auto const folder = m_file.parent_path().wstring();
     m_fileField.PrepareFileSaveAsBrowser(
-        Text(L"Text with tabs (*.txt)|*.txt|Web page (*.html)|*.html|All files (*.*)|*.*||"), L"txt",
+        Text(L"Text with tabs (*.txt)|*.txt|CSV (*.csv)|*.csv|Web page (*.html)|*.html|All files (*.*)|*.*||"), L"txt",
         folder.size() < MAX_PATH ? folder.c_str() : L"");
     m_fileField.SetDlgTitle(Text(L"Export List"));
     m_fileField.SetNotifyTag(IDC_EXPORT_FILE);

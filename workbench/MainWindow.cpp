@@ -95,6 +95,12 @@ BEGIN_MESSAGE_MAP(CMainWindow, CMDIFrameWndEx)
     ON_COMMAND(ID_CHOOSE_RATING, &CMainWindow::OnChooseRating)
     ON_COMMAND(ID_MARK_ALL, &CMainWindow::OnMarkAll)
     ON_COMMAND(ID_MARK_NONE, &CMainWindow::OnMarkNone)
+    ON_COMMAND(ID_FIND, &CMainWindow::OnFind)
+    ON_COMMAND(ID_UNDO, &CMainWindow::OnUndo)
+    ON_COMMAND(ID_REDO, &CMainWindow::OnRedo)
+    ON_COMMAND(ID_RENAME, &CMainWindow::OnRename)
+    ON_COMMAND(ID_DELETE_RECORDINGS, &CMainWindow::OnDeleteRecordings)
+    ON_COMMAND(ID_SHOW_FILE, &CMainWindow::OnShowFile)
     ON_WM_TIMER()
     ON_MESSAGE(message_raise_dialogs, &CMainWindow::OnRaiseDialogs)
     ON_MESSAGE(message_notes_turned, &CMainWindow::OnNotesTurned)
@@ -235,15 +241,24 @@ void CMainWindow::PrepareContents()
     m_spectrogram.SetScale(m_settings.frequencyScale);
     Waveform().SetColours(m_settings.waveform);
     Waveform().SetAmplification(m_settings.amplification);
-    Waveform().m_onCursor = [this] { ShowReading(); };
-    Waveform().m_onMarks = [this] { m_spectrogram.SetMarks(Waveform().Marks()); };
+    Waveform().m_onCursor = [this] {
+        ShowReading();
+        NoteView();
+    };
+    Waveform().m_onMarks = [this] {
+        m_spectrogram.SetMarks(Waveform().Marks());
+        NoteView();
+    };
     Waveform().m_onPlay = [this] { OnPlay(); };
     m_playing.m_onMoved = [this](std::optional<std::uint64_t> frame) {
         Waveform().ShowPlaying(frame);
         m_spectrogram.ShowPlaying(frame);
     };
     m_playing.SetGain(m_settings.amplification);
-    m_spectrogram.m_onMarks = [this] { Waveform().SetMarks(m_spectrogram.Marks()); };
+    m_spectrogram.m_onMarks = [this] {
+        Waveform().SetMarks(m_spectrogram.Marks());
+        NoteView();
+    };
     m_spectrogram.m_onComputed = [this] { m_spectrogram.SetMarks(Waveform().Marks()); };
     m_waveformPanel.m_onAmplified = [this](int decibels) {
         m_settings.amplification = decibels;
@@ -262,11 +277,17 @@ void CMainWindow::PrepareContents()
         auto const line = m_list.MenuLine();
         if (line >= 0)
         {
-            m_list.ChooseLine(line);
+            auto const selected = m_list.SelectedLines();
+            if (std::ranges::find(selected, line) == selected.end())
+            {
+                m_list.ChooseLine(line);
+            }
             SendMessage(WM_COMMAND, static_cast<WPARAM>(command));
         }
     };
     m_list.m_onChanged = [this](unsigned changes) { OnListChanged(changes); };
+    m_list.m_onDelete = [this] { OnDeleteRecordings(); };
+    m_listPanel.m_onFiltered = [this] { OnFiltered(); };
     m_list.m_onOpen = [this](int line) { ShowDetails(line); };
     m_list.SetUserWidths(workbench::ReadColumnWidths(m_metrics.AverageWidth()));
     m_status.m_onCancel = [this] { CancelReading(); };
@@ -275,6 +296,7 @@ void CMainWindow::PrepareContents()
         [window] { ::PostMessageW(window, message_recordings_ready, 0, 0); });
     m_notes = std::make_unique<workbench::NotesStore>(workbench::NotesFile(),
                                                       [window] { ::PostMessageW(window, message_notes_turned, 0, 0); });
+    m_views = std::make_unique<workbench::FolderViews>(workbench::ViewsFile());
     ShowTargets({});
 }
 
@@ -353,7 +375,7 @@ bool CMainWindow::CreateParts()
     auto * const centre = new CHostView; // ends with its window
     auto const created =
         centre->Create(nullptr, nullptr, WS_CHILD, CRect(), this, AFX_IDW_PANE_FIRST) &&
-        m_list.CreateList(*views[part_list], IDC_RECORDINGS, m_metrics) &&
+        m_listPanel.CreatePanel(*views[part_list], IDC_LIST_PANEL, IDC_RECORDINGS, m_metrics, m_list) &&
         m_tree.CreateTree(*views[part_folders], IDC_FOLDERS, m_metrics) &&
         m_waveformPanel.CreatePanel(*views[part_waveform], IDC_WAVEFORM_PANEL, m_metrics) &&
         m_spectrogram.CreateView(*views[part_spectrogram], IDC_SPECTROGRAM, m_metrics) &&
@@ -773,6 +795,7 @@ void CMainWindow::OnClose()
 {
     CloseOwnedWindows();
     KeepNotes();
+    KeepView();
     RememberPlace();
     KeepWorkspace();
     DestroyWindow();
@@ -784,6 +807,8 @@ void CMainWindow::OnEndSession(BOOL ending)
     {
         KeepNotes();
         m_notes->Flush();
+        KeepView();
+        m_views->Flush();
         RememberPlace();
         m_memory.SaveAllPositions();
         KeepWorkspace();
@@ -802,6 +827,7 @@ void CMainWindow::OnDestroy()
     m_search.reset();
     m_queue.reset();
     m_notes.reset();
+    m_views.reset();
     CMDIFrameWndEx::OnDestroy();
 }
 

@@ -15,6 +15,7 @@
 #include "DetailsDialog.h"
 #include "Divider.h"
 #include "HostView.h"
+#include "ListPanel.h"
 #include "FolderTree.h"
 #include "MeasurePanel.h"
 #include "PictureCopy.h"
@@ -30,6 +31,7 @@
 #include "WindowMenu.h"
 #include "frame/LifeWatch.h"
 #include "logic/AnalysisQueue.h"
+#include "logic/FolderViews.h"
 #include "logic/MainLayout.h"
 #include "logic/NotesStore.h"
 #include "logic/RecordingSearch.h"
@@ -72,6 +74,9 @@ public:
 
     /// The list, for what a walk does in place of a user.
     CRecordingList & List() { return m_list; }
+
+    /// The list with the strip by which it is filtered.
+    CListPanel & ListPanel() { return m_listPanel; }
 
     /// The tree of folders, the waveform, and what is set, for what a walk or a test looks at.
     CFolderTree & Folders() { return m_tree; }
@@ -157,6 +162,7 @@ private:
 
     static constexpr UINT_PTR work_timer = 1;
     static constexpr UINT_PTR raise_timer = 2;
+    static constexpr UINT_PTR view_timer = 3;
 
     afx_msg int OnCreate(LPCREATESTRUCT create);
     afx_msg void OnClose();
@@ -206,6 +212,12 @@ private:
     afx_msg void OnChooseRating();
     afx_msg void OnMarkAll();
     afx_msg void OnMarkNone();
+    afx_msg void OnFind();
+    afx_msg void OnUndo();
+    afx_msg void OnRedo();
+    afx_msg void OnRename();
+    afx_msg void OnDeleteRecordings();
+    afx_msg void OnShowFile();
     afx_msg void OnTimer(UINT_PTR id);
     afx_msg LRESULT OnRecordingsReady(WPARAM, LPARAM);
     afx_msg LRESULT OnRaiseDialogs(WPARAM, LPARAM);
@@ -271,6 +283,7 @@ private:
     void FillFolders();
     void ShowInFolders();
     void OnListChanged(unsigned changes);
+    void OnFiltered();
     void Work();
     void StopWork();
     void StartSearch();
@@ -291,6 +304,11 @@ private:
     void ShowReading();
     void ReadAgain(int index);
     void StoreNotes();
+    void NoteView();
+    void KeepView();
+    void RestoreView();
+    void RestoreStretch();
+    std::filesystem::path ViewFolder() const;
     void KeepNotes();
     bool IsForEditor(MSG const & message) const;
     std::wstring ComparisonText() const;
@@ -299,6 +317,7 @@ private:
     workbench::ScreenMetrics m_metrics;
     CFensterManager m_memory;
     CRecordingList m_list;
+    CListPanel m_listPanel;
     CFolderTree m_tree;
     CWaveformPanel m_waveformPanel;
     CSpectrogramView m_spectrogram;
@@ -342,6 +361,9 @@ private:
     std::size_t m_queued = 0;                                 ///< recordings whose result is not shown yet
     unsigned m_generation = 0;                                ///< changes whenever other recordings are shown
     std::unique_ptr<workbench::NotesStore> m_notes;
+    std::unique_ptr<workbench::FolderViews> m_views;
+    std::optional<workbench::FolderView> m_wantedView; ///< to be shown once all lines are listed
+    std::optional<workbench::FolderView> m_wantedPart; ///< whose stretch is to be shown with its recording
     std::unique_ptr<workbench::RecordingSearch> m_search;
     std::unique_ptr<workbench::AnalysisQueue> m_queue;
     LifeSign m_life;

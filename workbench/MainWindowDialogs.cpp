@@ -2,6 +2,8 @@
 
 #include "MainWindow.h"
 
+#include <shellapi.h>
+
 #include <algorithm>
 
 #include "ExportDialog.h"
@@ -10,6 +12,7 @@
 #include "OpenFolderDialog.h"
 #include "PictureCopy.h"
 #include "RecordingColumns.h"
+#include "RenameDialog.h"
 #include "SettingsExchange.h"
 #include "WaveformPanelView.h"
 #include "colours/Farbtabellen.h"
@@ -335,6 +338,92 @@ void CMainWindow::OnLoopPlaying()
     m_playing.SetLoop(!m_playing.Loops());
 }
 
+/// Gives the chosen recording's file another name. What is said about it goes along.
+void CMainWindow::OnRename()
+{
+    m_list.EndEditing();
+    auto const line = m_list.ChosenLine();
+    if (RecordingAt(line) == nullptr)
+    {
+        return;
+    }
+    auto const before = RecordingAt(line)->file;
+    CRenameDialog dialog(before, m_settings, *this);
+    LifeWatch const life(m_life);
+    auto const generation = m_generation;
+    if (dialog.DoModal() != IDOK || life.Over() || m_hWnd == nullptr || dialog.File() == before)
+    {
+        return;
+    }
+    StoreNotes();
+    if (!::MoveFileExW(before.c_str(), dialog.File().c_str(), 0))
+    {
+        AfxMessageBox(Text(L"The file could not be renamed.") + (L"\n\n" + CString(dialog.File().c_str())),
+                      MB_ICONEXCLAMATION);
+        return;
+    }
+    auto const notes = m_notes->Of(before);
+    m_notes->Set(before, {});
+    m_notes->Set(dialog.File(), notes);
+    if (generation == m_generation)
+    {
+        m_recordings[static_cast<std::size_t>(line)].file = dialog.File();
+        m_list.Rename(line, dialog.File());
+        m_shown.reset(); // it shows the name
+        ShowChosen();
+        NoteView();
+    }
+    FillFolders();
+}
+
+/// Moves the files of the selected recordings to the trash.
+void CMainWindow::OnDeleteRecordings()
+{
+    m_list.EndEditing();
+    std::wstring files; // each with a zero, and another one at the end
+    for (auto const line : m_list.SelectedLines())
+    {
+        if (auto const * const recording = RecordingAt(line))
+        {
+            files += recording->file.wstring() + L'\0';
+        }
+    }
+    LifeWatch const life(m_life);
+    if (files.empty() ||
+        AfxMessageBox(Text(L"Move these recordings to the trash?"), MB_YESNO | MB_ICONQUESTION) != IDYES ||
+        life.Over() || m_hWnd == nullptr)
+    {
+        return;
+    }
+    SHFILEOPSTRUCTW operation{};
+    operation.hwnd = m_hWnd;
+    operation.wFunc = FO_DELETE;
+    operation.pFrom = files.c_str();
+    operation.fFlags = FOF_ALLOWUNDO | FOF_NOCONFIRMATION | FOF_NOERRORUI | FOF_SILENT;
+    auto const failed = ::SHFileOperationW(&operation) != 0 || operation.fAnyOperationsAborted;
+    if (life.Over() || m_hWnd == nullptr)
+    {
+        return;
+    }
+    if (failed)
+    {
+        AfxMessageBox(Text(L"Some files could not be moved to the trash."), MB_ICONEXCLAMATION);
+    }
+    if (!life.Over() && m_hWnd != nullptr)
+    {
+        OnReload();
+    }
+}
+
+void CMainWindow::OnShowFile()
+{
+    if (auto const * const recording = RecordingAt(m_list.ChosenLine()))
+    {
+        auto const selected = L"/select,\"" + recording->file.wstring() + L'"';
+        ::ShellExecuteW(m_hWnd, nullptr, L"explorer.exe", selected.c_str(), nullptr, SW_SHOWNORMAL);
+    }
+}
+
 void CMainWindow::OnAmplify(UINT id)
 {
     auto & view = WaveformInUse();
@@ -432,7 +521,15 @@ void CMainWindow::ShowTexts()
         m_panes[part]->SetWindowText(TitleOf(static_cast<Part>(part)));
     }
     m_panel.ShowTexts();
-    m_list.ShowTexts();
+    {
+        CRecordingList::Batch const batch(m_list);
+        m_list.ShowTexts();
+        for (std::size_t line = 0; line < m_recordings.size(); ++line)
+        {
+            m_list.ShowLineTexts(static_cast<int>(line), m_recordings[line].file, m_recordings[line].analysis.get());
+        }
+    }
+    m_listPanel.ShowTexts();
     UpdateStatusLine();
     if (!m_shown)
     {
@@ -619,6 +716,8 @@ void CMainWindow::OnInitMenuPopup(CMenu * menu, UINT index, BOOL systemMenu)
     auto const chosen = m_list.ChosenLine();
     auto const * const recording = RecordingAt(chosen);
     auto const read = recording != nullptr && recording->analysis;
+    enable(ID_UNDO, m_list.CanUndo());
+    enable(ID_REDO, m_list.CanRedo());
     enable(ID_COPY, RecordingCount() > 0);
     enable(ID_COPY_ALL, RecordingCount() > 0);
     enable(ID_COPY_SPECTROGRAM, m_shown && !m_shown->problem && !IsComputing());
@@ -633,6 +732,10 @@ void CMainWindow::OnInitMenuPopup(CMenu * menu, UINT index, BOOL systemMenu)
     enable(ID_SHOW_IN_FRAME, recording != nullptr && m_frames.HasRoom());
     enable(ID_COMPARE_FOUR, RecordingCount() > 0 && m_frames.HasRoomToCompare());
     enable(ID_READ_AGAIN, recording != nullptr && !recording->queued);
+    for (auto const id : {ID_RENAME, ID_DELETE_RECORDINGS, ID_SHOW_FILE})
+    {
+        enable(id, recording != nullptr);
+    }
     enable(ID_SET_REFERENCE, IsReadable(chosen));
     enable(ID_EDIT_COMMENT, IsReadable(chosen) && !m_list.IsHidden(CRecordingList::column_comment));
     enable(ID_CHOOSE_RATING, IsReadable(chosen) && !m_list.IsHidden(CRecordingList::column_rating));

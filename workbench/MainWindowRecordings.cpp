@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <iterator>
 #include <limits>
 #include <utility>
 
@@ -21,6 +22,7 @@ namespace
 {
 
 constexpr UINT work_interval = 10;  // milliseconds
+constexpr UINT view_interval = 100; // milliseconds from a change of what is shown until it is kept
 constexpr UINT edit_interval = 100; // milliseconds, between looks whether an editor is still open
 // What one turn of work may take, so that the window answers in between.
 constexpr std::chrono::milliseconds work_slice(12);
@@ -54,6 +56,119 @@ LRESULT CMainWindow::OnNotesTurned(WPARAM, LPARAM)
     return 0;
 }
 
+/// Under what the view of the present recordings is kept; empty without any.
+std::filesystem::path CMainWindow::ViewFolder() const
+{
+    return m_targets.size() == 1 ? m_targets.front() : std::filesystem::path(workbench::FolderText(m_targets));
+}
+
+/// Has the present view kept soon.
+void CMainWindow::NoteView()
+{
+    if (m_views && !m_targets.empty())
+    {
+        SetTimer(view_timer, view_interval, nullptr);
+    }
+}
+
+/// Keeps how the recordings are shown, as soon as they are shown as before.
+void CMainWindow::KeepView()
+{
+    KillTimer(view_timer);
+    if (!m_views || m_targets.empty() || m_recordings.empty() || m_search || m_wantedView || m_listed < m_found.size())
+    {
+        return;
+    }
+    auto const folder = ViewFolder();
+    auto const nameOf = [&](int line) {
+        auto const * const recording = RecordingAt(line);
+        return recording != nullptr ? workbench::NameInFolder(folder, recording->file) : std::wstring();
+    };
+    auto const order = m_list.Order();
+    workbench::FolderView view;
+    view.column = order.column;
+    view.ascending = order.ascending;
+    if (order.column < 0 && !std::ranges::is_sorted(order.lines))
+    {
+        std::ranges::transform(order.lines, std::back_inserter(view.order), nameOf);
+    }
+    auto const chosen = m_list.ChosenLine();
+    view.chosen = nameOf(chosen);
+    if (auto const selected = m_list.SelectedLines(); selected.size() > 1)
+    {
+        std::ranges::transform(selected, std::back_inserter(view.selected), nameOf);
+    }
+    auto const * const recording = RecordingAt(chosen);
+    if (recording != nullptr && m_shown && recording->analysis == m_shown && Waveform().ShowsRecording())
+    {
+        auto const & marks = Waveform().Marks();
+        auto const shown = marks.window.Shown();
+        view.stretch = {marks.window.Frames(), shown.first, shown.end, marks.cursor};
+    }
+    else if (m_wantedPart && m_wantedPart->chosen == view.chosen)
+    {
+        view.stretch = m_wantedPart->stretch; // it is still to be shown
+    }
+    m_views->Set(folder, view);
+}
+
+/// Shows the lines, all of which are listed by now, as they were shown last.
+void CMainWindow::RestoreView()
+{
+    auto const view = *std::exchange(m_wantedView, std::nullopt);
+    auto const folder = ViewFolder();
+    std::unordered_map<std::wstring, int> lines;
+    for (int line = 0; line < RecordingCount(); ++line)
+    {
+        lines.emplace(workbench::NameInFolder(folder, RecordingAt(line)->file), line);
+    }
+    auto const linesOf = [&lines](std::vector<std::wstring> const & names) {
+        std::vector<int> found;
+        for (auto const & name : names)
+        {
+            if (auto const line = lines.find(name); line != lines.end())
+            {
+                found.push_back(line->second);
+            }
+        }
+        return found;
+    };
+    // The user may have sorted meanwhile.
+    if (m_list.SortedColumn() < 0 && view.column > CRecordingList::column_check &&
+        view.column < CRecordingList::column_count)
+    {
+        m_order = Order{static_cast<CRecordingList::Column>(view.column), view.ascending};
+    }
+    else if (m_list.SortedColumn() < 0 && !view.order.empty())
+    {
+        m_list.SetOrder({-1, true, linesOf(view.order)});
+    }
+    auto const selected = linesOf(view.selected);
+    auto const chosen = lines.find(view.chosen);
+    if (selected.size() > 1 && chosen != lines.end() && chosen->second == m_list.ChosenLine())
+    {
+        m_list.SelectLines(selected, chosen->second);
+    }
+}
+
+/// Shows the part of the chosen recording that was shown last.
+void CMainWindow::RestoreStretch()
+{
+    auto const view = std::exchange(m_wantedPart, std::nullopt);
+    auto const * const chosen = RecordingAt(m_list.ChosenLine());
+    if (!view || !view->stretch || chosen == nullptr || !Waveform().ShowsRecording() ||
+        workbench::NameInFolder(ViewFolder(), chosen->file) != view->chosen)
+    {
+        return;
+    }
+    workbench::TimeMarks marks(view->stretch->frames);
+    marks.window.Show({view->stretch->first, view->stretch->end});
+    marks.cursor = std::min(view->stretch->cursor, std::max<std::uint64_t>(view->stretch->frames, 1) - 1);
+    Waveform().SetMarks(marks); // which are no other recording's
+    m_spectrogram.SetMarks(Waveform().Marks());
+    ShowReading();
+}
+
 /// Gives up all that is under way.
 void CMainWindow::StopWork()
 {
@@ -81,8 +196,15 @@ void CMainWindow::StartSearch()
 
 void CMainWindow::ShowTargets(std::vector<std::filesystem::path> targets)
 {
+    KeepView();
     StopWork();
     m_targets = std::move(targets);
+    m_wantedView.reset();
+    m_wantedPart.reset();
+    if (!m_targets.empty())
+    {
+        workbench::StoreLastTargets(m_targets);
+    }
     m_openedFolders.clear();
     m_rememberFolders = false;
     m_missing.clear();
@@ -178,6 +300,8 @@ void CMainWindow::TakeReload(std::vector<std::filesystem::path> files)
         m_known[recording.file.native()] = std::move(recording.analysis);
     }
     m_order = PresentOrder();
+    KeepView();
+    m_wantedView = m_views->Of(ViewFolder());
     ListAnew(std::move(files));
     // The first lines at once, before anything is painted.
     Work();
@@ -258,6 +382,12 @@ LRESULT CMainWindow::OnRecordingsReady(WPARAM, LPARAM)
         else
         {
             m_found = std::move(found->files);
+            m_wantedView = m_views->Of(ViewFolder());
+            m_wantedPart = m_wantedView;
+            if (m_chooseFile.empty() && !m_wantedView->chosen.empty())
+            {
+                m_chooseFile = workbench::FileInFolder(ViewFolder(), m_wantedView->chosen);
+            }
         }
     }
     SetTimer(work_timer, work_interval, nullptr);
@@ -269,6 +399,10 @@ void CMainWindow::OnTimer(UINT_PTR id)
     if (id == work_timer)
     {
         Work();
+    }
+    else if (id == view_timer)
+    {
+        KeepView();
     }
     else if (id == raise_timer)
     {
@@ -323,6 +457,10 @@ void CMainWindow::Work()
         m_known.clear();
     }
     ChooseFirst();
+    if (listed && !m_search && m_wantedView)
+    {
+        RestoreView();
+    }
     if ((listed && m_order) || (m_valuesChanged && !IsBusy()))
     {
         // Lines stay where they are while the user is at work on one.
@@ -524,6 +662,7 @@ void CMainWindow::ShowChosen()
             m_shownText.clear();
             Waveform().ShowRecording(name, m_shown, chosen->file);
             m_spectrogram.ShowRecording(name, chosen->file);
+            RestoreStretch();
             m_preview.Update();
         }
     }
@@ -571,6 +710,10 @@ void CMainWindow::UpdateStatusLine()
 {
     auto const & totals = m_list.Totals();
     auto text = workbench::FormatCount(m_recordings.size(), Text(L"recording"), Text(L"recordings"));
+    if (!m_list.Filter().LetsAllThrough())
+    {
+        text += L", " + std::to_wstring(m_list.ShownCount()) + L' ' + Text(L"shown");
+    }
     if (auto const toRead = m_queued + m_toReread; toRead > 0)
     {
         text += L", " + std::to_wstring(toRead) + L' ' + Text(L"being read");
@@ -649,6 +792,10 @@ void CMainWindow::OnListChanged(unsigned changes)
     if ((changes & CRecordingList::changed_widths) != 0)
     {
         workbench::StoreColumnWidths(m_list.UserWidths(), m_metrics.AverageWidth());
+    }
+    if ((changes & (CRecordingList::changed_selection | CRecordingList::changed_order)) != 0)
+    {
+        NoteView();
     }
     if ((changes & CRecordingList::changed_selection) != 0)
     {
@@ -739,6 +886,30 @@ void CMainWindow::OnChooseRating()
 {
     BringListInSight();
     m_list.ChooseRating(m_list.ChosenLine());
+}
+
+/// Opens the filter of the list.
+void CMainWindow::OnFind()
+{
+    m_list.EndEditing();
+    BringListInSight();
+    m_listPanel.ShowFilter(true);
+}
+
+void CMainWindow::OnFiltered()
+{
+    m_list.SetEmptyListText(Text(L"No recording fits the filter."));
+    UpdateStatusLine();
+}
+
+void CMainWindow::OnUndo()
+{
+    m_list.Undo();
+}
+
+void CMainWindow::OnRedo()
+{
+    m_list.Redo();
 }
 
 void CMainWindow::OnMarkAll()

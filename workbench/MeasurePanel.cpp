@@ -99,8 +99,9 @@ void CMeasurePanel::OnSize(UINT type, int width, int height)
     auto const units = named ? named_width : unnamed_width;
     auto const room = std::min(width, m_metrics->X(units));
     auto const at = [&](int unit) { return ::MulDiv(unit, room, units); };
-    auto const top = m_metrics->Y(edge);
-    auto const high = std::max(height - 2 * top, 0);
+    // Displays that are much higher than their digits look broken.
+    auto const high = std::clamp(height - 2 * m_metrics->Y(edge), 0, m_metrics->Y(2 * strip_height));
+    auto const top = (height - high) / 2;
     auto left = 0; // in units
     auto const place = [&](CWnd & window, int unitsWide, int space) {
         window.MoveWindow(at(left), top, at(left + unitsWide) - at(left), high);

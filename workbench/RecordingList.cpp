@@ -11,6 +11,7 @@
 #include "frame/RegisteredMessages.h"
 #include "logic/ReadableColours.h"
 #include "logic/Texts.h"
+#include "Settings.h"
 #include "resource.h"
 
 namespace
@@ -41,6 +42,10 @@ constexpr ColumnDesign column_designs[CRecordingList::column_count] = {
     {Translatable(L"Rating"), LVCFMT_LEFT, L"Not rated mm"},
     {Translatable(L"Comment"), LVCFMT_LEFT, L"mmmmmmm"},
     {Translatable(L"Status"), LVCFMT_LEFT, L"mmm cut off,"},
+    {Translatable(L"Crest (dB)"), LVCFMT_RIGHT, L"100.0"},
+    {Translatable(L"Loudness (LUFS)"), LVCFMT_RIGHT, L"-100.0"},
+    {Translatable(L"Frequency (Hz)"), LVCFMT_RIGHT, L"192000"},
+    {Translatable(L"Distortion (%)"), LVCFMT_RIGHT, L"0.00100"},
 };
 
 // The flexible columns in the order in which they get what is left over, and how far they grow before the next one gets
@@ -93,6 +98,8 @@ BEGIN_MESSAGE_MAP(CRecordingList, CXListCtrl)
     ON_WM_PAINT()
     ON_NOTIFY_REFLECT_EX(LVN_ITEMCHANGED, &CRecordingList::OnItemChanged)
     ON_WM_KEYDOWN()
+    ON_WM_CHAR()
+    ON_WM_TIMER()
     ON_WM_CONTEXTMENU()
     ON_NOTIFY_REFLECT_EX(LVN_COLUMNCLICK, &CRecordingList::OnTitleClick)
     ON_WM_MOUSEMOVE()
@@ -111,6 +118,10 @@ BEGIN_MESSAGE_MAP(CRecordingList, CXListCtrl)
     ON_MESSAGE(message_place_tool_tip, &CRecordingList::OnPlaceToolTip)
 END_MESSAGE_MAP()
 
+// A stored choice of columns knows which ones it can not have known.
+static_assert(workbench::Settings::first_later_column == CRecordingList::first_measure &&
+              workbench::Settings::columns == CRecordingList::column_count);
+
 bool CRecordingList::CreateList(CWnd & parent, UINT id, workbench::ScreenMetrics & metrics)
 {
     m_metrics = &metrics;
@@ -123,9 +134,8 @@ bool CRecordingList::CreateList(CWnd & parent, UINT id, workbench::ScreenMetrics
     }
     SetFullRowSelect();
     SetFont(&metrics.Font(), FALSE);
-    SetEmptyListText(Text(L"No recordings. Open files or a folder."));
     EnableDragAndDrop();
-    m_onRowsSwapped = [this](int, int) { ForgetOrder(); };
+    m_onRowsSwapped = [this](int a, int b) { SwapRows(a, b); };
     m_onDoubleClick = [this](int row, int column) {
         // Cells that act on a click of their own are left to it.
         if (column != column_check && column != column_reference && column != column_rating && column != column_comment)
@@ -133,14 +143,22 @@ bool CRecordingList::CreateList(CWnd & parent, UINT id, workbench::ScreenMetrics
             TellOpen(LineAt(row));
         }
     };
-    for (int i = 0; i < static_cast<int>(std::size(rating_names)); ++i)
-    {
-        GlobalComboStringsInsert(i, Text(rating_names[i]));
-    }
+    SetFixedTexts();
     CreateImages();
     CreateColumns();
     CreateMenu();
     return true;
+}
+
+/// What is in no line.
+void CRecordingList::SetFixedTexts()
+{
+    GlobalComboStringsReset();
+    for (int i = 0; i < static_cast<int>(std::size(rating_names)); ++i)
+    {
+        GlobalComboStringsInsert(i, Text(rating_names[i]));
+    }
+    SetEmptyListText(Text(L"No recordings. Open files or a folder."));
 }
 
 wchar_t const * CRecordingList::Title(int column)
@@ -170,8 +188,9 @@ void CRecordingList::MeasureTitles()
                 WidthOf(UserDateTimeText(CTime(2000, 12, 28, 22, 58, 48), dtf_date_time_without_seconds).GetString());
         }
     }
-    m_leastWidth = std::accumulate(m_least.begin(), m_least.end(), 0) + arrow_room + ::GetSystemMetrics(SM_CXVSCROLL) +
-                   2 * ::GetSystemMetrics(SM_CXBORDER);
+    // With the columns that show at first.
+    m_leastWidth = std::accumulate(m_least.begin(), m_least.begin() + first_measure, 0) + arrow_room +
+                   ::GetSystemMetrics(SM_CXVSCROLL) + 2 * ::GetSystemMetrics(SM_CXBORDER);
 }
 
 void CRecordingList::CreateColumns()
@@ -198,9 +217,11 @@ void CRecordingList::CreateImages()
     SetImageList(&m_images, LVSIL_SMALL);
 }
 
-/// Shows titles and menu in the present language; cells get theirs when their files are read.
+/// Shows what is in no line in the present language; ShowLineTexts does the rest.
 void CRecordingList::ShowTexts()
 {
+    EndEditing();
+    SetFixedTexts();
     MeasureTitles();
     for (int i = column_name; i < column_count; ++i)
     {
@@ -231,6 +252,10 @@ void CRecordingList::CreateMenu()
     menu.AppendMenu(MF_SEPARATOR);
     menu.AppendMenu(MF_STRING, ID_MARK_ALL, Text(L"&Mark all\tCtrl+A"));
     menu.AppendMenu(MF_STRING, ID_MARK_NONE, Text(L"Mark &none\tCtrl+Shift+A"));
+    menu.AppendMenu(MF_SEPARATOR);
+    menu.AppendMenu(MF_STRING, ID_RENAME, Text(L"R&ename...\tShift+F2"));
+    menu.AppendMenu(MF_STRING, ID_DELETE_RECORDINGS, Text(L"Move to tras&h...\tDel"));
+    menu.AppendMenu(MF_STRING, ID_SHOW_FILE, Text(L"&Show in file manager"));
     menu.AppendMenu(MF_SEPARATOR);
     menu.AppendMenu(MF_STRING, ID_RELOAD, Text(L"Re&load everything\tF5"));
     menu.SetDefaultItem(ID_SHOW_DETAILS);
@@ -328,8 +353,19 @@ void CRecordingList::ClearSelection()
     SetItemState(-1, 0, LVIS_SELECTED | LVIS_FOCUSED);
 }
 
+int CRecordingList::ChosenLine() const
+{
+    if (auto const row = ChosenRow(); row >= 0)
+    {
+        return LineAt(row);
+    }
+    // Its row may be still to come.
+    return !m_wanted.empty() && m_holds ? m_heldFocus : -1;
+}
+
 void CRecordingList::ChooseLine(int line)
 {
+    FinishRows();
     if (GetSelectedCount() > many_rows)
     {
         ClearSelection();
@@ -363,8 +399,9 @@ void CRecordingList::SetChecked(int row, bool checked)
 
 void CRecordingList::CheckAll(bool checked)
 {
+    FinishRows();
     Batch const batch(*this);
-    for (int row = 0; row < LineCount(); ++row)
+    for (int row = 0; row < GetItemCount(); ++row)
     {
         SetChecked(row, checked);
     }
@@ -372,6 +409,7 @@ void CRecordingList::CheckAll(bool checked)
 
 void CRecordingList::ToggleSelected()
 {
+    FinishRows();
     Batch const batch(*this);
     auto const checked = !IsChecked(ChosenLine());
     for (auto row = GetSelectedItem(); row >= 0; row = GetSelectedItemAfter(row))
@@ -386,8 +424,23 @@ void CRecordingList::ShowHeaderCheck()
     {
         return;
     }
-    auto const checked = m_totals.Checked();
-    auto const checkable = m_totals.Lines() - m_totals.Unreadable();
+    auto checked = m_totals.Checked();
+    auto checkable = m_totals.Lines() - m_totals.Unreadable();
+    if (!Filter().LetsAllThrough())
+    {
+        // Of those that show.
+        checked = 0;
+        checkable = 0;
+        for (std::size_t line = 0; line < m_sources.size(); ++line)
+        {
+            auto const & source = m_sources[line];
+            if (source.shown && !(source.analysis && source.analysis->problem))
+            {
+                checked += m_totals.IsChecked(line) ? 1 : 0;
+                ++checkable;
+            }
+        }
+    }
     auto const state = checked == 0 ? XHC_UNCHECKED : checked == checkable ? XHC_CHECKED : XHC_MIXED;
     if (state != GetHeaderCheckedState(column_check))
     {
@@ -414,7 +467,10 @@ void CRecordingList::ShowReference()
     }
     if (m_boldLine >= 0)
     {
-        SetBold(PlaceOf(m_boldLine), column_name, false);
+        if (auto const former = PlaceOf(m_boldLine); former >= 0)
+        {
+            SetBold(former, column_name, false);
+        }
     }
     m_boldLine = m_reference;
     auto const row = PlaceOf(m_boldLine);
@@ -456,6 +512,10 @@ CRecordingList::Batch::Batch(CRecordingList & list) : m_list(list)
 
 CRecordingList::Batch::~Batch()
 {
+    if (m_list.m_batches == 1 && std::exchange(m_list.m_late, false))
+    {
+        m_list.ShowWantedRows();
+    }
     if (--m_list.m_batches > 0)
     {
         return;
@@ -495,6 +555,7 @@ void CRecordingList::OnItemStateChange(int row, int column, unsigned int message
         return;
     }
     auto & notes = m_notes[static_cast<std::size_t>(line)];
+    auto const before = notes;
     switch (column)
     {
     case column_check:
@@ -519,13 +580,21 @@ void CRecordingList::OnItemStateChange(int row, int column, unsigned int message
     case column_rating:
         notes.rating = std::max(GetComboCurSel(row, column_rating), 0);
         m_noted.push_back(line);
+        RateSelected(row, notes.rating);
         break;
-    case column_comment:
+    case column_comment: {
         notes.comment = GetItemText(row, column_comment).GetString();
         m_noted.push_back(line);
+        auto & source = m_sources[static_cast<std::size_t>(line)];
+        source.searched = workbench::SearchedText(source.file, notes.comment);
         break;
+    }
     default:
         break;
+    }
+    if (column != column_reference) // which is noted for all lines
+    {
+        m_history.Note(line, before, notes);
     }
     Tell(changed_marks);
 }
@@ -538,7 +607,9 @@ void CRecordingList::NoteReference()
         auto & notes = m_notes[static_cast<std::size_t>(line)];
         if (notes.reference != (line == m_reference))
         {
+            auto const before = notes;
             notes.reference = line == m_reference;
+            m_history.Note(line, before, notes);
             m_noted.push_back(line);
         }
     }
@@ -575,7 +646,7 @@ void CRecordingList::EndEditing()
     }
     if (RatingCombo() != nullptr)
     {
-        OnTimer(cancel_combo_timer);
+        CXListCtrl::OnTimer(cancel_combo_timer);
         m_ratingCombo = nullptr;
     }
 }
@@ -710,6 +781,7 @@ void CRecordingList::RepaintSoon(int row)
 
 LRESULT CRecordingList::OnTellChanges(WPARAM, LPARAM)
 {
+    m_history.EndStep();
     auto const changes = std::exchange(m_changes, 0U);
     RepaintRows(std::exchange(m_repaintFirst, 0), std::exchange(m_repaintLast, -1), false);
     // Only now has the header given a column the width that was told at the drag's end, and is a closed editor gone.
@@ -874,6 +946,7 @@ BOOL CRecordingList::OnItemChanged(NMHDR * header, LRESULT * result)
         if (((change.uOldState ^ change.uNewState) & LVIS_SELECTED) != 0)
         {
             Tell(changed_selection);
+            m_holds = m_holds && m_filling;
         }
     }
     *result = 0;
@@ -942,9 +1015,17 @@ void CRecordingList::OnLButtonDown(UINT flags, CPoint point)
 
 void CRecordingList::OnKeyDown(UINT key, UINT repeat, UINT flags)
 {
-    if (key == VK_SPACE && ::GetKeyState(VK_CONTROL) >= 0 && ::GetKeyState(VK_SHIFT) >= 0)
+    if (key == VK_SPACE && !IsTyping() && ::GetKeyState(VK_CONTROL) >= 0 && ::GetKeyState(VK_SHIFT) >= 0)
     {
         ToggleSelected();
+        return;
+    }
+    if (key == VK_DELETE)
+    {
+        if (auto const onDelete = m_onDelete; onDelete && GetSelectedCount() > 0)
+        {
+            onDelete();
+        }
         return;
     }
     if (key == L'C' && ::GetKeyState(VK_CONTROL) < 0 && ::GetKeyState(VK_SHIFT) >= 0 && ::GetKeyState(VK_MENU) >= 0)

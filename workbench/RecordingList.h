@@ -15,7 +15,9 @@
 
 #include "ScreenMetrics.h"
 #include "list/XListCtrl.h"
+#include "logic/ListHistory.h"
 #include "logic/RecordingAnalysis.h"
+#include "logic/RecordingFilter.h"
 #include "logic/RecordingNotes.h"
 #include "logic/RecordingTotals.h"
 #include "logic/TableText.h"
@@ -47,8 +49,13 @@ public:
         column_rating,
         column_comment,
         column_status,
+        column_crest, ///< this and the following are hidden at first
+        column_loudness,
+        column_frequency,
+        column_distortion,
         column_count
     };
+    static constexpr int first_measure = column_crest;
 
     using Notes = workbench::RecordingNotes;
 
@@ -56,8 +63,9 @@ public:
     enum Change : unsigned
     {
         changed_selection = 1,
-        changed_marks = 2, ///< what the user says, or what is known, of recordings
-        changed_widths = 4 ///< the user has set a column's width
+        changed_marks = 2,  ///< what the user says, or what is known, of recordings
+        changed_widths = 4, ///< the user has set a column's width
+        changed_order = 8   ///< the user has sorted or moved lines
     };
 
     /// While one exists, lines change without being painted. At the end of the outermost one what they need together is
@@ -80,6 +88,9 @@ public:
 
     /// Called when the user wants to see a line's recording in detail.
     std::function<void(int line)> m_onOpen;
+
+    /// Called when the user wants the selected recordings away.
+    std::function<void()> m_onDelete;
 
     /// Called when the user wants to choose the columns at a place of the screen.
     std::function<void(CPoint screen)> m_onColumns;
@@ -108,14 +119,29 @@ public:
 
     int LineCount() const { return static_cast<int>(m_notes.size()); }
 
+    /// Says that a line's file has another name by now.
+    void Rename(int line, std::filesystem::path const & file);
+
     /// Counts and sums over the lines.
     workbench::RecordingTotals const & Totals() const { return m_totals; }
 
     /// Fills a line; a file that could not be read gets a disabled one. A line that does not exist is ignored.
     void ShowAnalysis(int line, std::shared_ptr<workbench::RecordingAnalysis const> const & analysis);
 
+    /// Shows what a line says in the present language, after ShowTexts. analysis: null for a file that is not read yet.
+    void ShowLineTexts(int line, std::filesystem::path const & file, workbench::RecordingAnalysis const * analysis);
+
     /// Says again that a line's file is being read. The values that the line has go.
     void ShowReading(int line, std::filesystem::path const & file);
+
+    /// Lines that the filter keeps out have no row; they come back to their places, as they are. It is looked at again
+    /// when it is set and when a recording has been read, and not at every mark.
+    void SetFilter(workbench::RecordingFilter const & filter);
+    workbench::RecordingFilter const & Filter() const { return m_match.Filter(); }
+    /// How many lines the filter lets through.
+    int ShownCount() const;
+    /// Rows of many lines come a few at a time. This gives the rest of them one now.
+    void FinishRows();
 
     /// The line that stands in a row now, and the row of a line; -1 where there is none.
     int LineAt(int row) const;
@@ -129,12 +155,29 @@ public:
     int SortedColumn() const { return m_sortedColumn; }
     bool IsAscending() const { return m_ascending; }
 
+    /// All lines in their order, those without a row included.
+    workbench::ListOrder Order() const { return {m_sortedColumn, m_ascending, m_order}; }
+    /// Lines that it doesn't name come last, what is no line is passed over.
+    void SetOrder(workbench::ListOrder const & order);
+
+    /// Takes back what the user did last to marks, ratings, comments, reference or order, or does it again. A gesture
+    /// is one step. False if there is nothing to do.
+    bool Undo();
+    bool Redo();
+    bool CanUndo() const { return m_history.CanUndo(); }
+    bool CanRedo() const { return m_history.CanRedo(); }
+
     /// Copies the selected lines, or all of them, as a table for other programs: as text and as HTML. Without a
     /// selection all lines are copied. False if there are none or the clipboard refuses.
     bool CopyToClipboard(bool all);
 
     /// The line that commands go to: the selected one with the focus, else the first selected; -1 for none.
-    int ChosenLine() const { return LineAt(ChosenRow()); }
+    int ChosenLine() const;
+
+    /// All selected lines, from top to bottom.
+    std::vector<int> SelectedLines() const;
+    /// Selects these lines, and no others; the focus goes to one of them.
+    void SelectLines(std::vector<int> const & lines, int focused);
 
     /// Selects one line alone, which gets the focus and is scrolled into view. Negative: none.
     void ChooseLine(int line);
@@ -210,6 +253,8 @@ private:
     afx_msg BOOL OnEraseBkgnd(CDC * dc);
     afx_msg BOOL OnItemChanged(NMHDR * header, LRESULT * result);
     afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
+    afx_msg void OnChar(UINT character, UINT repeat, UINT flags);
+    afx_msg void OnTimer(UINT_PTR id);
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
     afx_msg BOOL OnMouseWheel(UINT flags, short delta, CPoint point);
     afx_msg void OnContextMenu(CWnd * window, CPoint point);
@@ -230,6 +275,7 @@ private:
     void PlaceEditors(int line);
     void NoteReference();
     void CreateImages();
+    void SetFixedTexts();
     void CreateMenu();
     void Tell(unsigned changes);
     int ChosenRow() const;
@@ -246,22 +292,37 @@ private:
     void ShowValues(int row, std::shared_ptr<workbench::RecordingAnalysis const> const & analysis);
     void ShowStatus(int row, workbench::RecordingAnalysis const & analysis);
     void MarkValue(int row, Column column);
-    void SortValuesLast(int row, bool last);
     void DrawOverview(int row, CDC & dc, CRect const & rect, CRecordingOverview & overview);
     void SetChecked(int row, bool checked);
     void ToggleSelected();
     void ForgetOrder();
+    void SwapRows(int a, int b);
     struct SortKey
     {
         bool last;
         double value;
     };
+    SortKey KeyOf(int line, int column) const;
+    std::vector<int> LinesWithRows() const;
+    void ArrangeRows(std::vector<int> const & rows, int column);
     static int CompareInList(long long a, long long b, long long list);
     int CompareRows(int a, int b) const;
-    double SortValue(int row);
+    bool Passes(int line) const;
+    void Reconsider(int line);
+    void ShowWantedRows();
+    void HoldSelection();
+    void AddRow(int line, int row);
+    void FillRows(ULONGLONG end);
+    void FillRow(int row, std::shared_ptr<workbench::RecordingAnalysis const> const & analysis);
+    void SetNotes(int line, Notes const & notes);
+    void Apply(workbench::ListStep const & step);
+    void RateSelected(int row, int rating);
+    wchar_t const * WaitingText(int line) const;
+    bool IsTyping() const;
     std::vector<int> RowsOf(Lines lines) const;
     workbench::TextTable TableOf(std::vector<int> const & rows, std::set<int> const & without);
     std::vector<double> RanksOfTexts(int column) const;
+    std::wstring SortedText(int line, int column) const;
     void ShowColumn(int row, Column column);
     std::wstring_view TextOf(int row, int column, std::vector<wchar_t> & buffer) const;
     int WidthOf(std::wstring const & text) const;
@@ -274,7 +335,7 @@ private:
     std::array<int, column_count> m_least{}; ///< the width that a column never goes below
     std::array<int, column_count> m_needs{}; ///< the width that shows its longest text
     std::map<int, int> m_userWidths;
-    std::set<int> m_hidden;
+    std::set<int> m_hidden{column_crest, column_loudness, column_frequency, column_distortion};
     bool m_fitting = false;
     bool m_tracking = false;           ///< the header's mouse capture, while it lasts, is for a divider
     int m_fittedWidth = -1;            ///< of the client area, for which the columns have their widths
@@ -284,12 +345,36 @@ private:
     mutable std::vector<int> m_places; ///< of each line, the row where it was seen last
     int m_sortedColumn = -1;
     bool m_ascending = true;
-    std::vector<SortKey> m_sortKeys; ///< of the rows, while they are sorted in an order of the list's own
+    std::vector<int> m_rowPlaces; ///< of each row, where it is to stand while rows are sorted
     bool m_draggingRow = false;
 
+    /// What there is to know of a line beside its notes.
+    struct Source
+    {
+        std::filesystem::path file;
+        std::shared_ptr<workbench::RecordingAnalysis const> analysis; ///< null while it is not read
+        std::wstring searched;                                        ///< what the filter looks for words in
+        bool reading = false;
+        bool shown = true; ///< the filter lets it through
+        bool hasRow = false;
+        bool isHeld = false; ///< selected, whether it has a row or not
+    };
+
     std::vector<Notes> m_notes; ///< of each line
-    std::vector<int> m_noted;   ///< lines whose notes the user has changed
-    int m_editedLine = -1;      ///< that the editor was opened for last
+    std::vector<Source> m_sources;
+    std::vector<int> m_order;  ///< the lines from top to bottom
+    std::vector<int> m_wanted; ///< while rows are missing: the lines that have one at the end
+    std::size_t m_filled = 0;  ///< of them have one
+    workbench::FilterMatch m_match{workbench::RecordingFilter()};
+    bool m_late = false;    ///< the filter lets lines through that have no row yet
+    bool m_holds = false;   ///< the user has selected nothing else since the selection was held
+    bool m_filling = false; ///< what happens to rows is no doing of the user
+    int m_heldFocus = -1;
+    workbench::ListHistory m_history;
+    std::wstring m_typed; ///< by which a line is looked for
+    DWORD m_typedAt = 0;
+    std::vector<int> m_noted; ///< lines whose notes the user has changed
+    int m_editedLine = -1;    ///< that the editor was opened for last
     HWND m_ratingCombo = nullptr;
     workbench::RecordingTotals m_totals;
     int m_reference = -1;

@@ -3,6 +3,7 @@
 #include "RecordingList.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "RecordingOverview.h"
 #include "StarRating.h"
@@ -61,6 +62,13 @@ void CRecordingList::RemoveLines()
     ++m_generation;
     m_notes.clear();
     m_noted.clear();
+    m_sources.clear();
+    m_order.clear();
+    m_wanted.clear();
+    m_late = false;
+    m_holds = false;
+    m_heldFocus = -1;
+    m_history.Clear();
     m_places.clear();
     m_totals.Clear();
     m_reference = -1;
@@ -75,33 +83,82 @@ void CRecordingList::AppendFile(std::filesystem::path const & file, Notes const 
 {
     Batch const batch(*this);
     auto const line = LineCount();
-    auto const row = AddItem(L"", nullptr, line + 1);
+    m_notes.push_back(notes);
+    m_places.push_back(-1);
+    m_order.push_back(line);
+    auto & source = m_sources.emplace_back();
+    source.file = file;
+    source.searched = workbench::SearchedText(file, notes.comment);
+    source.shown = Passes(line);
+    m_totals.Append(notes.checked);
+    // Two folders that are shown together can have one each: the first one counts.
+    auto const isReference = notes.reference && m_reference < 0;
+    if (isReference)
+    {
+        m_reference = line;
+    }
+    if (source.shown && m_wanted.empty())
+    {
+        AddRow(line, -1);
+    }
+    else if (source.shown)
+    {
+        m_wanted.push_back(line);
+    }
+    if (isReference)
+    {
+        ShowReference();
+    }
+}
+
+/// What a line says in place of its state while it has none.
+wchar_t const * CRecordingList::WaitingText(int line) const
+{
+    return workbench::Text(m_sources[static_cast<std::size_t>(line)].reading ? reading_text : unread_text);
+}
+
+/// Gives a line a row, the last one for a negative place.
+void CRecordingList::AddRow(int line, int row)
+{
+    auto & source = m_sources[static_cast<std::size_t>(line)];
+    row = row < 0 ? AddItem(L"", nullptr, line + 1) : InsertItem(row, L"", nullptr, line + 1);
     if (row < 0)
     {
         return;
     }
     Touch(row);
-    m_notes.push_back(notes);
-    m_places.push_back(row);
-    m_totals.Append(notes.checked);
-    // Two folders that are shown together can have one each: the first one counts.
-    auto shown = notes;
-    shown.reference = notes.reference && m_reference < 0;
-    PrepareRow(row, file, shown, workbench::Text(unread_text));
-    if (shown.reference)
+    source.hasRow = true;
+    m_places[static_cast<std::size_t>(line)] = row;
+    auto notes = NotesOf(line);
+    notes.reference = line == m_reference;
+    PrepareRow(row, source.file, notes, WaitingText(line));
+    if (source.analysis)
     {
-        m_reference = line;
-        ShowReference();
+        FillRow(row, source.analysis);
+    }
+    if (line == m_boldLine)
+    {
+        SetBold(row, column_name, true);
+    }
+    if (m_holds && source.isHeld)
+    {
+        auto const state = line == m_heldFocus ? LVIS_SELECTED | LVIS_FOCUSED : LVIS_SELECTED;
+        SetItemState(row, state, state);
     }
 }
 
 void CRecordingList::ShowReading(int line, std::filesystem::path const & file)
 {
-    auto const row = PlaceOf(line);
-    if (row >= 0)
+    if (line < 0 || line >= LineCount())
     {
-        Batch const batch(*this);
-        Touch(row);
+        return;
+    }
+    Batch const batch(*this);
+    auto & source = m_sources[static_cast<std::size_t>(line)];
+    source.analysis = nullptr;
+    source.reading = true;
+    {
+        auto const row = PlaceOf(line);
         auto notes = NotesOf(line);
         m_totals.SetState(static_cast<std::size_t>(line), workbench::RecordingTotals::State::unread, 0);
         // A recording that could not be read may be one again.
@@ -111,11 +168,37 @@ void CRecordingList::ShowReading(int line, std::filesystem::path const & file)
             m_reference = line;
         }
         notes.reference = line == m_reference;
-        ResetRow(row);
-        PrepareRow(row, file, notes, workbench::Text(reading_text));
+        if (row >= 0)
+        {
+            Touch(row);
+            ResetRow(row);
+            PrepareRow(row, file, notes, workbench::Text(reading_text));
+        }
         ShowReference();
-        SetBold(row, column_name, line == m_boldLine);
+        if (row >= 0)
+        {
+            SetBold(row, column_name, line == m_boldLine);
+        }
         Tell(changed_marks);
+    }
+}
+
+void CRecordingList::Rename(int line, std::filesystem::path const & file)
+{
+    if (line < 0 || line >= LineCount())
+    {
+        return;
+    }
+    auto & source = m_sources[static_cast<std::size_t>(line)];
+    source.file = file;
+    source.searched = workbench::SearchedText(file, NotesOf(line).comment);
+    if (auto const row = PlaceOf(line); row >= 0)
+    {
+        auto const name = file.filename().wstring();
+        SetItemText(row, column_name, name.c_str());
+        SetItemToolTipText(row, column_name, file.c_str());
+        Require(column_name, WidthOf(name));
+        FitColumns();
     }
 }
 
@@ -125,8 +208,12 @@ void CRecordingList::ResetRow(int row)
     SetEnabled(row, true);
     RemoveCustomDraw(row, column_overview);
     DeleteProgress(row, column_peak);
-    for (int column = column_overview; column < column_rating; ++column)
+    for (int column = column_overview; column < column_count; ++column)
     {
+        if (column == column_rating || column == column_comment || column == column_status)
+        {
+            continue;
+        }
         SetItemText(row, column, L"");
         SetItemColors(row, column, ::GetSysColor(COLOR_WINDOWTEXT), ::GetSysColor(COLOR_WINDOW),
                       XLISTCTRLDATA::no_gradient);
@@ -152,26 +239,45 @@ void CRecordingList::PrepareRow(int row, std::filesystem::path const & file, Not
     SetItemText(row, column_comment, notes.comment.c_str());
     SetEdit(row, column_comment, true);
     SetItemText(row, column_status, status);
-    SortValuesLast(row, true);
     Require(column_name, WidthOf(name));
 }
 
 void CRecordingList::ShowAnalysis(int line, std::shared_ptr<workbench::RecordingAnalysis const> const & analysis)
 {
-    auto const row = PlaceOf(line);
-    if (row < 0)
+    if (line < 0 || line >= LineCount())
     {
         return;
     }
     Batch const batch(*this);
-    Touch(row);
+    auto & source = m_sources[static_cast<std::size_t>(line)];
+    source.analysis = analysis;
+    source.reading = false;
+    if (auto const row = PlaceOf(line); row >= 0)
+    {
+        Touch(row);
+        FillRow(row, analysis);
+    }
+    using State = workbench::RecordingTotals::State;
+    m_totals.SetState(static_cast<std::size_t>(line), analysis->problem ? State::unreadable : State::readable,
+                      workbench::DurationMilliseconds(analysis->info.frames, analysis->info.sampleRate));
+    if (analysis->problem && m_reference == line)
+    {
+        m_reference = -1;
+        ShowReference();
+    }
+    Reconsider(line);
+    Tell(changed_marks);
+}
+
+/// Shows in a row what is known of its file.
+void CRecordingList::FillRow(int row, std::shared_ptr<workbench::RecordingAnalysis const> const & analysis)
+{
     if (analysis->file.lastWrite)
     {
         CTime const time(*analysis->file.lastWrite);
         auto const text = UserDateTimeText(time, dtf_date_time_without_seconds);
         SetItemText(row, column_date, text);
         SetItemDatetime(row, column_date, time);
-        SetItemProperty(row, column_date, XLP_SORT_LAST, false);
         Require(column_date, WidthOf(text.GetString()));
     }
     ShowStatus(row, *analysis);
@@ -183,15 +289,34 @@ void CRecordingList::ShowAnalysis(int line, std::shared_ptr<workbench::Recording
     {
         ShowValues(row, analysis);
     }
-    using State = workbench::RecordingTotals::State;
-    m_totals.SetState(static_cast<std::size_t>(line), analysis->problem ? State::unreadable : State::readable,
-                      workbench::DurationMilliseconds(analysis->info.frames, analysis->info.sampleRate));
-    if (analysis->problem && m_reference == line)
+}
+
+void CRecordingList::ShowLineTexts(int line, std::filesystem::path const & file,
+                                   workbench::RecordingAnalysis const * analysis)
+{
+    auto const row = PlaceOf(line);
+    if (row < 0)
     {
-        m_reference = -1;
-        ShowReference();
+        return;
     }
-    Tell(changed_marks);
+    Batch const batch(*this);
+    Touch(row);
+    if (analysis == nullptr)
+    {
+        SetItemText(row, column_status, workbench::Text(unread_text));
+    }
+    else
+    {
+        ShowStatus(row, *analysis);
+    }
+    if (analysis != nullptr && analysis->problem)
+    {
+        SetItemToolTipText(row, column_name, (file.wstring() + L": " + analysis->StatusText()).c_str());
+    }
+    else
+    {
+        SetComboBoxGlobalStrings(row, column_rating, NotesOf(line).rating, 0);
+    }
 }
 
 void CRecordingList::ShowStatus(int row, workbench::RecordingAnalysis const & analysis)
@@ -228,7 +353,16 @@ void CRecordingList::ShowValues(int row, std::shared_ptr<workbench::RecordingAna
     SetItemFloatVal(row, column_rms, static_cast<float>(analysis->levels.rms), rms.c_str());
     Require(column_rms, WidthOf(rms));
 
-    SortValuesLast(row, false);
+    std::pair<Column, std::wstring> const measures[] = {
+        {column_crest, workbench::FormatCrestFactor(analysis->levels)},
+        {column_loudness, workbench::FormatLoudness(analysis->loudness)},
+        {column_frequency, workbench::FormatFrequency(analysis->tone.frequency)},
+        {column_distortion, workbench::FormatPercent(analysis->tone.distortion)}};
+    for (auto const & [column, text] : measures)
+    {
+        SetItemText(row, column, AtRightEdge(text).c_str());
+        Require(column, WidthOf(AtRightEdge(text)));
+    }
     // The value that the damage makes doubtful is marked.
     if (info.IsCutOff())
     {

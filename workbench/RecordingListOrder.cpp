@@ -3,34 +3,23 @@
 #include "RecordingList.h"
 
 #include <algorithm>
+#include <cmath>
 #include <iterator>
 #include <numeric>
 #include <string>
 #include <utility>
 
 #include "clipboard/Clipboard.h"
+#include "logic/TextFormat.h"
 
 namespace
 {
 
-// The columns whose values are missing while a recording is being read, and if it cannot be.
-constexpr CRecordingList::Column value_columns[] = {
-    CRecordingList::column_reference, CRecordingList::column_overview, CRecordingList::column_duration,
-    CRecordingList::column_channels,  CRecordingList::column_rate,     CRecordingList::column_peak,
-    CRecordingList::column_rms,       CRecordingList::column_date,     CRecordingList::column_rating};
-
 /// Whether lines are compared as words, for which the case of letters does not count.
 bool HasWords(int column)
 {
-    return column == CRecordingList::column_name || column == CRecordingList::column_comment;
-}
-
-/// Whether lines are compared by a number that is not their cell's own: the bar of a peak has but whole percents, and
-/// check, picture and choice have none.
-bool HasOwnOrder(int column)
-{
-    return column == CRecordingList::column_reference || column == CRecordingList::column_overview ||
-           column == CRecordingList::column_peak || column == CRecordingList::column_rating || HasWords(column);
+    return column == CRecordingList::column_name || column == CRecordingList::column_comment ||
+           column == CRecordingList::column_status;
 }
 
 constexpr std::size_t text_room = 256; // characters
@@ -56,11 +45,15 @@ int CRecordingList::PlaceOf(int line) const
         return -1;
     }
     auto const known = static_cast<std::size_t>(line);
+    if (!m_sources[known].hasRow)
+    {
+        return -1;
+    }
     if (known >= m_places.size() || LineAt(m_places[known]) != line)
     {
         // Lines have moved since.
         m_places.assign(m_notes.size(), -1);
-        for (int row = 0; row < LineCount(); ++row)
+        for (int row = 0; row < GetItemCount(); ++row)
         {
             auto const other = LineAt(row);
             if (other >= 0 && other < LineCount())
@@ -88,20 +81,59 @@ void CRecordingList::SortLines(Column column, bool ascending)
         return;
     }
     EndEditing();
+    FinishRows();
     m_sortedColumn = column;
     m_ascending = ascending;
-    if (HasOwnOrder(column))
+    // Asked for once a line, not once a comparison.
+    auto const ranks = HasWords(column) ? RanksOfTexts(column) : std::vector<double>();
+    std::vector<SortKey> keys;
+    keys.reserve(m_sources.size());
+    for (int line = 0; line < LineCount(); ++line)
     {
-        // Asked for once a row, not once a comparison.
-        m_sortKeys.clear();
-        auto const ranks = HasWords(column) ? RanksOfTexts(column) : std::vector<double>();
-        for (int row = 0; row < LineCount(); ++row)
-        {
-            auto const value = ranks.empty() ? SortValue(row) : ranks[static_cast<std::size_t>(row)];
-            m_sortKeys.push_back({GetItemProperty(row, column, XLP_SORT_LAST), value});
-        }
+        keys.push_back(ranks.empty() ? KeyOf(line, column) : SortKey{false, ranks[static_cast<std::size_t>(line)]});
     }
-    SortByColumn(column, ascending, true, HasOwnOrder(column) ? &CompareInList : nullptr);
+    auto const rows = LinesWithRows();
+    std::ranges::stable_sort(m_order, [&keys, ascending](int a, int b) {
+        auto const & keyA = keys[static_cast<std::size_t>(a)];
+        auto const & keyB = keys[static_cast<std::size_t>(b)];
+        if (keyA.last || keyB.last)
+        {
+            return keyB.last && !keyA.last;
+        }
+        return ascending ? keyA.value < keyB.value : keyB.value < keyA.value;
+    });
+    ArrangeRows(rows, column);
+}
+
+/// The lines that have rows, from top to bottom, as long as rows are as the order says.
+std::vector<int> CRecordingList::LinesWithRows() const
+{
+    std::vector<int> lines;
+    lines.reserve(m_order.size());
+    std::ranges::copy_if(m_order, std::back_inserter(lines),
+                         [this](int line) { return m_sources[static_cast<std::size_t>(line)].hasRow; });
+    return lines;
+}
+
+/// Puts the rows, which are those of these lines, into the lines' order. A column's title gets the arrow; negative:
+/// none.
+void CRecordingList::ArrangeRows(std::vector<int> const & rows, int column)
+{
+    auto const lines = LinesWithRows();
+    std::vector<int> places(m_sources.size(), -1);
+    for (std::size_t i = 0; i < lines.size(); ++i)
+    {
+        places[static_cast<std::size_t>(lines[i])] = static_cast<int>(i);
+    }
+    m_rowPlaces.clear();
+    std::ranges::transform(rows, std::back_inserter(m_rowPlaces),
+                           [&places](int line) { return places[static_cast<std::size_t>(line)]; });
+    SortByColumn(column < 0 ? column_name : column, m_ascending, column >= 0, &CompareInList);
+    if (column < 0)
+    {
+        SortByColumn(-1, true, true, nullptr);
+    }
+    m_places = std::move(places);
     FitColumns();
     // It goes with the marks of the other columns.
     ShowHeaderCheck();
@@ -111,30 +143,81 @@ void CRecordingList::SortLines(Column column, bool ascending)
     }
 }
 
+void CRecordingList::SetOrder(workbench::ListOrder const & order)
+{
+    EndEditing();
+    FinishRows();
+    auto const rows = LinesWithRows();
+    std::vector<bool> isNamed(m_sources.size());
+    std::vector<int> lines;
+    auto const take = [&](int line) {
+        if (line >= 0 && line < LineCount() && !isNamed[static_cast<std::size_t>(line)])
+        {
+            isNamed[static_cast<std::size_t>(line)] = true;
+            lines.push_back(line);
+        }
+    };
+    std::ranges::for_each(order.lines, take);
+    std::ranges::for_each(m_order, take);
+    m_order = std::move(lines);
+    m_sortedColumn = order.column > column_check && order.column < column_count ? order.column : -1;
+    m_ascending = order.ascending;
+    ArrangeRows(rows, m_sortedColumn);
+}
+
+/// The user has had two rows change their places.
+void CRecordingList::SwapRows(int a, int b)
+{
+    auto before = Order();
+    auto const first = std::ranges::find(m_order, LineAt(a));
+    auto const second = std::ranges::find(m_order, LineAt(b));
+    if (first != m_order.end() && second != m_order.end())
+    {
+        std::iter_swap(first, second);
+    }
+    ForgetOrder();
+    m_history.NoteOrder(std::move(before), Order());
+    Tell(changed_order);
+}
+
+/// What a line is known by in a column of words.
+std::wstring CRecordingList::SortedText(int line, int column) const
+{
+    auto const & source = m_sources[static_cast<std::size_t>(line)];
+    switch (column)
+    {
+    case column_name:
+        return workbench::NaturalText(source.file.filename().wstring());
+    case column_comment:
+        return workbench::NaturalText(m_notes[static_cast<std::size_t>(line)].comment);
+    default:
+        return source.analysis ? source.analysis->StatusText() : std::wstring(WaitingText(line));
+    }
+}
+
 /// The places that the texts of a column have among each other as the user's language orders them; the same for texts
 /// that differ in the case of letters alone.
 std::vector<double> CRecordingList::RanksOfTexts(int column) const
 {
-    auto const count = static_cast<std::size_t>(LineCount());
+    auto const count = m_sources.size();
     std::vector<std::string> keys(count);
-    std::vector<wchar_t> buffer(text_room);
     constexpr DWORD flags = LCMAP_SORTKEY | NORM_IGNORECASE;
-    for (std::size_t row = 0; row < count; ++row)
+    for (std::size_t line = 0; line < count; ++line)
     {
-        auto const text = TextOf(static_cast<int>(row), column, buffer);
+        auto const text = SortedText(static_cast<int>(line), column);
         auto const length = static_cast<int>(text.size());
         if (length == 0)
         {
             continue;
         }
-        auto & key = keys[row];
+        auto & key = keys[line];
         auto const size = ::LCMapStringW(LOCALE_USER_DEFAULT, flags, text.data(), length, nullptr, 0);
         key.resize(static_cast<std::size_t>(std::max(size, 0)));
         ::LCMapStringW(LOCALE_USER_DEFAULT, flags, text.data(), length, reinterpret_cast<wchar_t *>(key.data()), size);
     }
     std::vector<std::size_t> order(count);
     std::iota(order.begin(), order.end(), std::size_t(0));
-    std::ranges::sort(order, {}, [&keys](std::size_t row) -> std::string const & { return keys[row]; });
+    std::ranges::sort(order, {}, [&keys](std::size_t line) -> std::string const & { return keys[line]; });
     std::vector<double> ranks(count);
     auto rank = 0.0;
     for (std::size_t i = 1; i < count; ++i)
@@ -153,47 +236,57 @@ int CRecordingList::CompareInList(long long a, long long b, long long list)
 
 int CRecordingList::CompareRows(int a, int b) const
 {
-    auto const rows = static_cast<int>(m_sortKeys.size());
-    if (a < 0 || a >= rows || b < 0 || b >= rows)
-    {
-        return 0;
-    }
-    auto const & keyA = m_sortKeys[static_cast<std::size_t>(a)];
-    auto const & keyB = m_sortKeys[static_cast<std::size_t>(b)];
-    if (keyA.last || keyB.last)
-    {
-        return static_cast<int>(keyA.last) - static_cast<int>(keyB.last);
-    }
-    auto const order = static_cast<int>(keyA.value > keyB.value) - static_cast<int>(keyA.value < keyB.value);
-    return m_ascending ? order : -order;
+    auto const rows = static_cast<int>(m_rowPlaces.size());
+    return a < 0 || a >= rows || b < 0 || b >= rows
+               ? 0
+               : m_rowPlaces[static_cast<std::size_t>(a)] - m_rowPlaces[static_cast<std::size_t>(b)];
 }
 
-/// What a row is sorted by in a column with an order of its own.
-double CRecordingList::SortValue(int row)
+/// What a line is sorted by in a column of values.
+CRecordingList::SortKey CRecordingList::KeyOf(int line, int column) const
 {
-    switch (m_sortedColumn)
+    auto const & source = m_sources[static_cast<std::size_t>(line)];
+    auto const & analysis = source.analysis;
+    if (column == column_date)
+    {
+        // It is known of a file that cannot be read, too.
+        auto const isKnown = analysis && analysis->file.lastWrite;
+        return {!isKnown, isKnown ? static_cast<double>(*analysis->file.lastWrite) : 0.0};
+    }
+    if (!analysis || analysis->problem)
+    {
+        return {true, 0.0};
+    }
+    auto const ofMeasure = [](std::optional<double> const & value) { return SortKey{!value, value.value_or(0.0)}; };
+    switch (column)
     {
     case column_reference:
-        return GetItemRadioOn(row, column_reference) ? 0.0 : 1.0;
+        return {false, line == m_reference ? 0.0 : 1.0};
+    case column_duration:
+        return {false,
+                static_cast<double>(workbench::DurationMilliseconds(analysis->info.frames, analysis->info.sampleRate))};
+    case column_channels:
+        return {false, static_cast<double>(analysis->info.channels)};
+    case column_rate:
+        return {false, static_cast<double>(analysis->info.sampleRate)};
     case column_peak:
-        return GetRowItemDataDirect(row, column_peak)->floatValue;
+        return {false, analysis->levels.peak};
+    case column_rms:
+        return {false, analysis->levels.rms};
     case column_rating:
-        return GetComboCurSel(row, column_rating);
+        return {false, static_cast<double>(m_notes[static_cast<std::size_t>(line)].rating)};
+    case column_crest:
+        return std::isfinite(analysis->levels.rms) ? SortKey{false, analysis->levels.peak - analysis->levels.rms}
+                                                   : SortKey{true, 0.0};
+    case column_loudness:
+        return ofMeasure(analysis->loudness);
+    case column_frequency:
+        return ofMeasure(analysis->tone.frequency);
+    case column_distortion:
+        return ofMeasure(analysis->tone.distortion);
     default:
         // Pictures have the order in which the files were opened.
-        return LineAt(row);
-    }
-}
-
-void CRecordingList::SortValuesLast(int row, bool last)
-{
-    for (auto const column : value_columns)
-    {
-        // The date is known of a file that cannot be read, too.
-        if (last || column != column_date)
-        {
-            SetItemProperty(row, column, XLP_SORT_LAST, last);
-        }
+        return {false, static_cast<double>(line)};
     }
 }
 
@@ -203,13 +296,17 @@ BOOL CRecordingList::OnTitleClick(NMHDR * header, LRESULT * result)
     auto const column = reinterpret_cast<NMLISTVIEW *>(header)->iSubItem;
     if (column >= 0 && column < column_count)
     {
+        auto before = Order();
         SortLines(static_cast<Column>(column), column != m_sortedColumn || !m_ascending);
+        m_history.NoteOrder(std::move(before), Order());
+        Tell(changed_order);
     }
     if (column != column_check)
     {
         return OnColumnClick(header, result);
     }
     // The header drives its cells here alone; to follow each of them it would count them all each time.
+    FinishRows();
     Batch const batch(*this);
     SetHeaderAutoCheckbox(true);
     auto const handled = OnColumnClick(header, result);
@@ -334,6 +431,7 @@ std::wstring_view CRecordingList::TextOf(int row, int column, std::vector<wchar_
 workbench::TextTable CRecordingList::Table(Lines lines, std::set<int> const & without)
 {
     EndEditing();
+    FinishRows();
     return TableOf(RowsOf(lines), without);
 }
 
@@ -374,6 +472,7 @@ workbench::TextTable CRecordingList::TableOf(std::vector<int> const & rows, std:
 
 bool CRecordingList::CopyToClipboard(bool all)
 {
+    FinishRows();
     auto const rows = RowsOf(all ? Lines::all : Lines::selected);
     if (rows.empty())
     {

@@ -30,6 +30,9 @@ constexpr wchar_t column_widths[] = L"ColumnWidths"; // the average width of a l
 constexpr wchar_t company[] = L"Instrument Suite";
 constexpr wchar_t program[] = L"Instrument Workbench";
 constexpr wchar_t notes_name[] = L"Notes.txt";
+constexpr wchar_t views_name[] = L"Views.txt";
+constexpr wchar_t last_targets[] = L"LastTargets";
+constexpr wchar_t known_columns[] = L"KnownColumns"; // how many the list had when its hidden ones were stored
 constexpr wchar_t recent_folders[] = L"RecentFolders";
 constexpr wchar_t trace_colour[] = L"TraceColour";
 constexpr wchar_t background_colour[] = L"BackgroundColour";
@@ -109,6 +112,12 @@ Settings ReadSettings()
     settings.amplification =
         CheckedAmplification(static_cast<int>(app.GetProfileInt(section, amplification_entry, settings.amplification)));
     settings.hiddenColumns = NumbersOf(ReadText(hidden_columns), most_columns);
+    for (auto column = ReadNumber(known_columns, 0, most_columns, Settings::first_later_column);
+         column < Settings::columns; ++column)
+    {
+        settings.hiddenColumns.insert(column);
+    }
+    settings.lastTargets = FoldersOf(ReadText(last_targets));
     if (auto const shown = ReadNumber(folder_pane, 0, 1, -1); shown >= 0)
     {
         settings.folderPane = shown != 0;
@@ -140,7 +149,8 @@ bool StoreSettings(Settings const & settings)
            WriteText(grid_colour, ColourText(settings.waveform.grid)) &&
            WriteText(cursor_colour, ColourText(settings.waveform.cursor)) &&
            StoreAmplification(settings.amplification) &&
-           WriteText(hidden_columns, NumberText(settings.hiddenColumns)) && StoreFolderPane(settings) &&
+           WriteText(hidden_columns, NumberText(settings.hiddenColumns)) &&
+           app.WriteProfileInt(section, known_columns, Settings::columns) && StoreFolderPane(settings) &&
            StoreFrameShare(settings.frameShare) && WriteText(export_file, settings.exportFile.wstring()) &&
            WriteText(export_hidden, NumberText(settings.exportHidden)) &&
            app.WriteProfileInt(section, export_lines, settings.exportLines);
@@ -227,6 +237,16 @@ std::filesystem::path NotesFile()
     wchar_t folder[MAX_PATH] = L"";
     ::SHGetFolderPathW(nullptr, CSIDL_APPDATA | CSIDL_FLAG_CREATE, nullptr, SHGFP_TYPE_CURRENT, folder);
     return std::filesystem::path(folder) / company / program / notes_name;
+}
+
+std::filesystem::path ViewsFile()
+{
+    return NotesFile().parent_path() / views_name;
+}
+
+bool StoreLastTargets(std::vector<std::filesystem::path> const & targets)
+{
+    return WriteText(last_targets, FolderText(targets));
 }
 
 unsigned short ReadLanguage()

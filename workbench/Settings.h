@@ -22,6 +22,11 @@ struct Settings
     static constexpr int least_opacity = 20;
     static constexpr int most_opacity = 100;
 
+    /// The columns that the list has had since a later version. They are hidden at first.
+    static constexpr int first_later_column = 13;
+    static constexpr int columns = 17;
+    inline static std::set<int> const later_columns{13, 14, 15, 16};
+
     bool fadeIn = true;                ///< dialogs fade in when they open
     bool dragByBackground = true;      ///< dialogs can be moved by their background
     int inactiveOpacity = 50;          ///< of dialogs that are not active, in percent
@@ -30,9 +35,10 @@ struct Settings
     FrequencyScale frequencyScale = FrequencyScale::Linear; ///< of the spectrogram
     std::vector<std::filesystem::path> startFolders;        ///< opened when the program starts without others
     std::vector<std::filesystem::path> recentFolders;       ///< that the user has opened, the last one first
+    std::vector<std::filesystem::path> lastTargets;         ///< that were shown last
     WaveformColours waveform;
-    int amplification = 0;            ///< of the waveform, in decibels
-    std::set<int> hiddenColumns;      ///< of the list, by their number
+    int amplification = 0;                       ///< of the waveform, in decibels
+    std::set<int> hiddenColumns = later_columns; ///< of the list, by their number
     std::optional<bool> folderPane;   ///< whether the folders show; where there is room if the user has not said it
     int folderPaneWidth = 0;          ///< in average widths of a letter; 0: as it comes
     std::filesystem::path exportFile; ///< that the list was exported to last
@@ -85,6 +91,12 @@ bool StoreColumnWidths(std::map<int, int> const & widths, int averageWidth);
 /// The file that keeps what the user says about recordings: beside the settings where these are in a file, else in the
 /// folder that the user's account has for the data of programs.
 std::filesystem::path NotesFile();
+
+/// The file that keeps how folders were shown last, beside the former.
+std::filesystem::path ViewsFile();
+
+/// Stores alone what was shown last. False if that failed.
+bool StoreLastTargets(std::vector<std::filesystem::path> const & targets);
 
 /// The number that stands for the language of the user's system.
 constexpr unsigned short users_default_language = 1024;

@@ -71,7 +71,8 @@ BOOL CWorkbenchApp::InitInstance()
     std::vector<std::filesystem::path> targets(m_commandLine.targets.begin(), m_commandLine.targets.end());
     if (targets.empty())
     {
-        targets = workbench::ReadSettings().startFolders;
+        auto const settings = workbench::ReadSettings();
+        targets = settings.startFolders.empty() ? settings.lastTargets : settings.startFolders;
     }
     m_mainWindow = std::make_unique<CMainWindow>();
     m_pMainWnd = m_mainWindow.get();

@@ -13,6 +13,7 @@
 #define IDD_PREVIEW 103
 #define IDD_OPEN_FOLDER 104
 #define IDD_EXPORT_LIST 105
+#define IDD_RENAME 106
 // The pages of the settings.
 #define IDD_SETTINGS_START 111
 #define IDD_SETTINGS_WAVEFORM 112
@@ -41,6 +42,9 @@
 #define IDC_WAVEFORM_PANEL 1014
 #define IDC_FRAMES_AREA 1015
 #define IDC_FRAMES_DIVIDER 1016
+#define IDC_LIST_PANEL 1017
+#define IDC_FILTER_WORDS 1018
+#define IDC_FILTER_KIND 1019
 
 // The settings.
 #define IDC_START_NOTE 1102
@@ -77,6 +81,7 @@
 #define IDC_FORMAT_NOTE 1412
 #define IDC_EXPORT_COLUMNS 1413
 #define IDC_EXPORT_LINES 1414
+#define IDC_NEW_NAME 1415
 
 #define ID_OPEN_FILES 40001
 #define ID_OPEN_FOLDER 40002
@@ -117,6 +122,12 @@
 #define ID_SAVE_SPECTROGRAM 40046
 #define ID_NEXT_PART 40032
 #define ID_PREVIOUS_PART 40033
+#define ID_FIND 40034
+#define ID_UNDO 40035
+#define ID_REDO 40036
+#define ID_RENAME 40037
+#define ID_DELETE_RECORDINGS 40038
+#define ID_SHOW_FILE 40039
 
 // The items of open dialogs in the window menu.
 #define ID_DIALOG_FIRST 41000

@@ -704,7 +704,12 @@ bool DockLayout::FloatBack(DockContent const & content)
     std::vector<UINT> panes;
     if (!Take(content, panes))
         return false;
-    if (std::all_of(panes.begin(), panes.end(), [&](UINT pane) { return HasFloatingPlace(pane); }))
+    // What floated apart is taken together now, as one.
+    bool const together = std::any_of(m_frames.begin(), m_frames.end(), [&](Frame const & frame) {
+        return frame.tree && std::all_of(panes.begin(), panes.end(),
+                                         [&](UINT pane) { return FindGroup(*frame.tree, pane) != nullptr; });
+    });
+    if (together)
     {
         Settle(panes, DockPlace::Floating);
         GroupWith(panes.front(), true)->active = panes.front();

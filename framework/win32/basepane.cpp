@@ -404,8 +404,10 @@ BOOL CBasePane::OnEraseBkgnd(CDC * pDC)
 
 void CBasePane::OnPaint()
 {
-    CPaintDC dc(this);
-    DoPaint(&dc);
+    WindowGuard const guard(this);
+    CPaintDC dc(this); // has the ground erased, which may end the pane
+    if (guard.Alive())
+        DoPaint(&dc);
 }
 
 void CBasePane::OnSize(UINT nType, int cx, int cy)

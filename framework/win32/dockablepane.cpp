@@ -396,9 +396,8 @@ void CDockablePane::DrawCaption(CDC * pDC, CRect rectCaption)
         name.right = std::min(name.right, button.left);
         DrawButton(*pDC, button, hit, IsAutoHideMode() != FALSE, text);
     }
-    CString title;
     CDockablePane const * const front = m_host != nullptr ? m_host->Pane(m_host->FrontOf(*this)) : nullptr;
-    (front != nullptr ? front : this)->GetWindowText(title);
+    CString const title = framework::TitleOf(front != nullptr ? *front : *this);
     name.DeflateRect(rectCaption.Height() / 4, 0);
     if (name.Width() <= 0)
         return;

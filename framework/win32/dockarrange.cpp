@@ -2,6 +2,7 @@
 
 #include "afxcontrolbars.h"
 #include "afxpriv.h"
+#include "detail/ChildWalk.h"
 #include "detail/DockDrag.h"
 #include "detail/DockHost.h"
 #include "detail/FrameSupport.h"
@@ -132,7 +133,11 @@ bool DockHost::MakeFrames()
         CRect const rect = wanted.rect;
         if (!mini->CreateEx(WS_EX_TOOLWINDOW, className, L"", mini_frame_style, rect.left, rect.top, rect.Width(),
                             rect.Height(), m_frame.m_hWnd, nullptr))
+        {
+            if (life)
+                WindowEnds(mini);
             return false;
+        }
         if (!life || m_again)
             return false;
     }
@@ -221,7 +226,11 @@ bool DockHost::MakeGroups(UINT frame)
                 if (!tabbed->CBasePane::CreateEx(WS_EX_CONTROLPARENT, nullptr, L"",
                                                  WS_CHILD | WS_CLIPCHILDREN | WS_CLIPSIBLINGS, CRect(0, 0, 0, 0),
                                                  parent, 0, AFX_DEFAULT_DOCKING_PANE_STYLE))
+                {
+                    if (life)
+                        WindowEnds(tabbed);
                     return false;
+                }
             }
             else if (!Adopt(*tabbed, *parent))
                 return false;
@@ -282,11 +291,12 @@ bool DockHost::EndUnused()
                 used.push_back(group.id);
         }
     }
-    std::vector<CWnd *> unused;
+    std::vector<std::pair<CWnd *, WindowGuard>> unused; // ending one may end another
+    auto const add = [&unused](CWnd * window) { unused.emplace_back(window, WindowGuard(window)); };
     for (auto const & [group, tabbed] : m_tabbed)
     {
         if (std::find(used.begin(), used.end(), group) == used.end())
-            unused.push_back(tabbed);
+            add(tabbed);
     }
     for (auto const & [id, mini] : m_frames)
     {
@@ -295,21 +305,19 @@ bool DockHost::EndUnused()
                 return m_layout.FrameOf(entry.first) == frame;
             });
         if (!needed)
-            unused.push_back(mini);
+            add(mini);
     }
-    for (CWnd * const window : unused)
+    for (auto const & [window, guard] : unused)
     {
-        WindowGuard const guard(window);
         if (!guard.Alive())
             continue;
         // Panes that nobody has placed since must not end with it.
-        for (HWND child = ::GetWindow(window->m_hWnd, GW_CHILD); child != nullptr;)
+        ChildWalk walk(window->m_hWnd);
+        while (HWND const child = walk.Next())
         {
-            HWND const next = ::GetWindow(child, GW_HWNDNEXT);
             auto * const pane = DYNAMIC_DOWNCAST(CDockablePane, CWnd::FromHandlePermanent(child));
             if (pane != nullptr && !pane->IsKindOf(RUNTIME_CLASS(CBaseTabbedPane)) && !Adopt(*pane, m_frame))
                 return false;
-            child = next;
         }
         if (!guard.Alive())
             continue;
@@ -397,6 +405,8 @@ CPaneDivider * DockHost::Divider(UINT frame, size_t index)
     WindowGuard const guard(parent);
     bool const made = divider->CBasePane::CreateEx(0, nullptr, nullptr, WS_CHILD | WS_CLIPSIBLINGS, CRect(0, 0, 0, 0),
                                                    parent, 0) != FALSE;
+    if (!made && life)
+        WindowEnds(divider);
     return made && life && guard.Alive() ? divider : nullptr;
 }
 
@@ -481,9 +491,12 @@ bool DockHost::PlaceStrips(CRect & space, std::vector<WINDOWPOS> & moves)
             made->m_style = AlignmentOf(side);
             strip = made;
             // Its side comes with the style.
-            if (!made->CBasePane::CreateEx(0, nullptr, nullptr, WS_CHILD | WS_CLIPSIBLINGS | AlignmentOf(side),
-                                           CRect(0, 0, 0, 0), &m_frame, 0) ||
-                !life)
+            bool const created =
+                made->CBasePane::CreateEx(0, nullptr, nullptr, WS_CHILD | WS_CLIPSIBLINGS | AlignmentOf(side),
+                                          CRect(0, 0, 0, 0), &m_frame, 0) != FALSE;
+            if (!created && life)
+                WindowEnds(made);
+            if (!created || !life || strip != made)
                 return false;
         }
         CRect rect(space);

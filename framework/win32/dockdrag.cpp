@@ -43,7 +43,6 @@ bool DockDrag::Start(Kind kind, CPoint screen)
     m_moved = false;
     m_landing = DockLanding();
     m_shape = DockLanding::Kind::None;
-    SetCapture();
     withKeys = this;
     m_keys = ::SetWindowsHookEx(WH_KEYBOARD, OnKey, nullptr, ::GetCurrentThreadId());
     return true;
@@ -65,6 +64,7 @@ void DockDrag::StartPanes(DockContent const & content, CPoint screen)
     m_grip = screen - rect.TopLeft();
     m_grip.x = std::max<LONG>(m_grip.x, 0);
     m_grip.y = std::max<LONG>(m_grip.y, 0);
+    SetCapture(); // whoever loses it may end the host
 }
 
 void DockDrag::StartDivider(CPaneDivider & divider, CPoint screen)
@@ -73,6 +73,7 @@ void DockDrag::StartDivider(CPaneDivider & divider, CPoint screen)
         return;
     m_divider = &divider;
     ::SetCursor(::LoadCursor(nullptr, divider.IsHorizontal() ? IDC_SIZENS : IDC_SIZEWE));
+    SetCapture();
 }
 
 void DockDrag::StartButton(CDockablePane & pane, UINT hit)
@@ -81,6 +82,7 @@ void DockDrag::StartButton(CDockablePane & pane, UINT hit)
         return;
     m_button = pane.m_hWnd;
     m_hit = hit;
+    SetCapture();
 }
 
 void DockDrag::PaneEnds(UINT pane)

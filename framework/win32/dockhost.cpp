@@ -37,6 +37,19 @@ CFont * SelectPaneFont(CDC & dc)
     return dc.SelectObject(&PaneFont());
 }
 
+CString TitleOf(CDockablePane const & pane)
+{
+    CString title;
+    // There is no way to ask for the length alone.
+    for (int room = 128;; room *= 2)
+    {
+        int const length = ::InternalGetWindowText(pane.m_hWnd, title.GetBuffer(room), room);
+        title.ReleaseBuffer(length);
+        if (length < room - 1)
+            return title;
+    }
+}
+
 DockSide SideOf(DWORD alignment, DockSide otherwise)
 {
     if ((alignment & CBRS_ALIGN_LEFT) != 0)
@@ -133,13 +146,13 @@ void DockHost::FrameEnds()
     m_ending = true;
     m_drag.reset();
     // The panes that float end with their frames, the others with the main frame; the objects are the program's.
-    std::vector<CPaneFrameWnd *> frames;
-    for (auto const & [id, frame] : m_frames)
-        frames.push_back(frame);
-    for (CPaneFrameWnd * const frame : frames)
+    // One may take others with it, which WindowEnds then takes out.
+    Life const life(*this);
+    while (!m_frames.empty())
     {
-        if (CWnd::FromHandlePermanent(frame->m_hWnd) == frame)
-            frame->DestroyWindow();
+        m_frames.extract(m_frames.begin()).mapped()->DestroyWindow();
+        if (!life)
+            return;
     }
     for (auto const & [id, pane] : m_panes)
         pane->m_host = nullptr;
@@ -162,15 +175,15 @@ void DockHost::FrameEnds()
     std::fill(std::begin(m_strips), std::end(m_strips), nullptr);
 }
 
-void DockHost::WindowEnds(CWnd const & window)
+void DockHost::WindowEnds(CWnd const * window)
 {
-    std::erase_if(m_frames, [&](auto const & entry) { return entry.second == &window; });
-    std::erase_if(m_tabbed, [&](auto const & entry) { return entry.second == &window; });
+    std::erase_if(m_frames, [&](auto const & entry) { return entry.second == window; });
+    std::erase_if(m_tabbed, [&](auto const & entry) { return entry.second == window; });
     for (auto & [frame, dividers] : m_dividers)
-        std::erase_if(dividers, [&](CPaneDivider * divider) { return divider == &window; });
+        std::erase_if(dividers, [&](CPaneDivider * divider) { return divider == window; });
     for (CMFCAutoHideBar *& strip : m_strips)
     {
-        if (strip == &window)
+        if (strip == window)
             strip = nullptr;
     }
     if (m_drag != nullptr && !m_ending)
@@ -216,7 +229,7 @@ void DockHost::Leave(CDockablePane & pane, bool destroyed)
 {
     if (pane.IsKindOf(RUNTIME_CLASS(CBaseTabbedPane)))
     {
-        WindowEnds(pane);
+        WindowEnds(&pane);
         pane.m_host = nullptr;
         return;
     }
@@ -340,10 +353,11 @@ CBasePane * DockHost::FindBar(UINT id) const
 
 bool DockHost::Dock(CDockablePane & pane, DockSide side, bool outer, int extent)
 {
-    if (!Register(pane) || (sides & AlignmentOf(side) & pane.GetEnabledAlignment()) == 0)
+    Life const life(*this);
+    WindowGuard const guard(&pane);
+    if (!Register(pane) || !life || !guard.Alive() || (sides & AlignmentOf(side) & pane.GetEnabledAlignment()) == 0)
         return false;
     UINT const id = pane.m_dockId;
-    Life const life(*this);
     CBasePane * target = nullptr;
     if (!pane.OnBeforeDock(&target, nullptr, DM_SHOW) || !life || Pane(id) != &pane ||
         !m_layout.DockAtSide(id, side, outer, extent))

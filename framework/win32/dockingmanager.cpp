@@ -233,12 +233,13 @@ BOOL CDockingManager::ShowPanes(BOOL bShow)
     DockHost::Life const life(*m_host);
     DockHost & host = *m_host;
     host.Lock(true);
-    for (CDockablePane * const pane : host.Panes())
+    std::vector<UINT> ids;
+    for (CDockablePane const * const pane : host.Panes())
+        ids.push_back(framework::PaneAccess::Id(*pane));
+    for (UINT const id : ids)
     {
-        UINT const id = framework::PaneAccess::Id(*pane);
-        if (host.Pane(id) != pane)
-            continue;
-        pane->ShowPane(bShow, FALSE, FALSE);
+        if (CDockablePane * const pane = host.Pane(id))
+            pane->ShowPane(bShow, FALSE, FALSE);
         if (!life)
             return TRUE;
     }
@@ -328,11 +329,14 @@ BOOL CDockingManager::SaveState(LPCTSTR lpszProfileName, UINT)
     if (!stored)
         return FALSE;
     bool written = true;
+    DockHost::Life const life(*m_host);
     for (auto const & [id, known] : stored->Panes())
     {
         CBasePane * const pane = m_host->FindBar(id);
         if (pane != nullptr)
             written = pane->SaveState(lpszProfileName, -1, id) && written;
+        if (!life)
+            return FALSE;
     }
     return app->WriteProfileBinary(Section(lpszProfileName, L"DockingManager"), layout_entry, bytes.data(),
                                    static_cast<UINT>(bytes.size())) &&

@@ -65,8 +65,7 @@ bool DockHost::Load(std::vector<std::uint8_t> const & bytes, std::function<bool(
     m_slid = 0;
     m_plans.clear();
     m_layout = std::move(*loaded);
-    for (DockLayout::Frame const & frame : std::vector<DockLayout::Frame>(m_layout.Frames()))
-        m_layout.SetFrameRect(frame.id, OnScreen(frame.rect));
+    PutFramesOnScreen();
     // Windows of the former places have numbers of the former layout.
     Life const life(*this);
     Renumber();
@@ -96,6 +95,18 @@ bool DockHost::Load(std::vector<std::uint8_t> const & bytes, std::function<bool(
     if (life)
         m_frame.RecalcLayout();
     return true;
+}
+
+void DockHost::PutFramesOnScreen()
+{
+    for (DockLayout::Frame const & frame : std::vector<DockLayout::Frame>(m_layout.Frames()))
+        m_layout.SetFrameRect(frame.id, OnScreen(frame.rect));
+}
+
+void DockHost::BringOntoScreen()
+{
+    PutFramesOnScreen();
+    Arrange();
 }
 
 CRect DockHost::OnScreen(CRect rect) const

@@ -17,6 +17,7 @@ BEGIN_MESSAGE_MAP(CMDIFrameWndEx, CMDIFrameWnd)
     ON_WM_CLOSE()
     ON_WM_DESTROY()
     ON_MESSAGE(WM_IDLEUPDATECMDUI, &CMDIFrameWndEx::HandleIdleUpdate)
+    ON_MESSAGE(WM_DISPLAYCHANGE, &CMDIFrameWndEx::HandleSettingChange)
     ON_MESSAGE(WM_SETTINGCHANGE, &CMDIFrameWndEx::HandleSettingChange)
     ON_REGISTERED_MESSAGE(framework::arrangeMessage, &CMDIFrameWndEx::HandleArrange)
 END_MESSAGE_MAP()
@@ -56,9 +57,11 @@ void CMDIFrameWndEx::OnClose()
 
 void CMDIFrameWndEx::OnDestroy()
 {
+    WindowGuard const guard(this);
     if (DockHost * const host = m_impl.Host())
         host->FrameEnds();
-    CMDIFrameWnd::OnDestroy();
+    if (guard.Alive())
+        CMDIFrameWnd::OnDestroy();
 }
 
 LRESULT CMDIFrameWndEx::HandleArrange(WPARAM, LPARAM)
@@ -84,7 +87,7 @@ LRESULT CMDIFrameWndEx::HandleSettingChange(WPARAM, LPARAM)
     {
         framework::RefreshPaneFont();
         m_impl.Host()->MeasureAgain();
-        m_impl.Host()->Arrange();
+        m_impl.Host()->BringOntoScreen();
     }
     return result;
 }
@@ -253,6 +256,7 @@ BEGIN_MESSAGE_MAP(CFrameWndEx, CFrameWnd)
     ON_WM_CLOSE()
     ON_WM_DESTROY()
     ON_MESSAGE(WM_IDLEUPDATECMDUI, &CFrameWndEx::HandleIdleUpdate)
+    ON_MESSAGE(WM_DISPLAYCHANGE, &CFrameWndEx::HandleSettingChange)
     ON_MESSAGE(WM_SETTINGCHANGE, &CFrameWndEx::HandleSettingChange)
     ON_REGISTERED_MESSAGE(framework::arrangeMessage, &CFrameWndEx::HandleArrange)
 END_MESSAGE_MAP()
@@ -292,9 +296,11 @@ void CFrameWndEx::OnClose()
 
 void CFrameWndEx::OnDestroy()
 {
+    WindowGuard const guard(this);
     if (DockHost * const host = m_impl.Host())
         host->FrameEnds();
-    CFrameWnd::OnDestroy();
+    if (guard.Alive())
+        CFrameWnd::OnDestroy();
 }
 
 LRESULT CFrameWndEx::HandleArrange(WPARAM, LPARAM)
@@ -320,7 +326,7 @@ LRESULT CFrameWndEx::HandleSettingChange(WPARAM, LPARAM)
     {
         framework::RefreshPaneFont();
         m_impl.Host()->MeasureAgain();
-        m_impl.Host()->Arrange();
+        m_impl.Host()->BringOntoScreen();
     }
     return result;
 }

@@ -353,6 +353,7 @@ bool framework::MenuMode::HandleKey(MSG const & message)
 bool framework::MenuMode::HandleKeyInPopup(CMFCPopupMenu & popup, UINT key)
 {
     CMFCPopupMenuBar & items = popup.m_bar;
+    WindowGuard const guard(&items); // who hears what is highlighted may end the menu
     switch (key)
     {
     case VK_DOWN:
@@ -363,11 +364,13 @@ bool framework::MenuMode::HandleKeyInPopup(CMFCPopupMenu & popup, UINT key)
         return true;
     case VK_HOME:
         items.Highlight(-1);
-        items.Step(1);
+        if (guard.Alive())
+            items.Step(1);
         return true;
     case VK_END:
         items.Highlight(-1);
-        items.Step(-1);
+        if (guard.Alive())
+            items.Step(-1);
         return true;
     case VK_RETURN:
         items.Choose(items.m_hot, true);
@@ -471,8 +474,10 @@ bool framework::MenuMode::HandleCharacter(wchar_t character)
         items.Choose(found, true);
     else if (matches > 1)
     {
+        WindowGuard const guard(&items);
         items.Highlight(found);
-        items.CloseDelayedSubMenu();
+        if (guard.Alive())
+            items.CloseDelayedSubMenu();
     }
     return true;
 }

@@ -194,18 +194,27 @@ void CMFCMenuBar::CreateFromMenu(HMENU hMenu, BOOL bDefaultMenu, BOOL bForceUpda
 
 void CMFCMenuBar::Rebuild()
 {
-    WindowGuard const guard(this);
+    framework::BarGuard const self(*this);
     if (MenuMode::Current().IsOn(*this))
         MenuMode::Current().End();
-    if (m_hWnd != nullptr && !guard.Alive())
+    if (!self.Alive())
         return;
     RemoveAllButtons();
+    if (!self.Alive())
+        return;
     m_systemMenu = false;
     m_systemButtons = 0;
+    HICON icon = nullptr;
+    if (DYNAMIC_DOWNCAST(CMDIChildWnd, CWnd::FromHandlePermanent(m_maximised)) != nullptr)
+    {
+        // Asked for by a message: the child may have ended since, or have had the bar built anew.
+        icon = reinterpret_cast<HICON>(::SendMessage(m_maximised, WM_GETICON, ICON_SMALL, 0));
+        if (!self.Alive() || GetCount() != 0)
+            return;
+    }
     auto * const child = DYNAMIC_DOWNCAST(CMDIChildWnd, CWnd::FromHandlePermanent(m_maximised));
     if (child != nullptr)
     {
-        HICON icon = child->GetIcon(FALSE);
         if (icon == nullptr)
             icon = reinterpret_cast<HICON>(::GetClassLongPtr(m_maximised, GCLP_HICONSM));
         if (icon == nullptr)
@@ -310,9 +319,13 @@ int CMFCMenuBar::GetSystemButtonsCount() const
     return m_systemButtons;
 }
 
+/// The child's buttons are the last ones, as many as the program has left there.
 int CMFCMenuBar::FirstSystemButton() const
 {
-    return GetCount() - m_systemButtons;
+    int first = GetCount();
+    while (first > 0 && dynamic_cast<SystemButton const *>(GetButton(first - 1)) != nullptr)
+        --first;
+    return first;
 }
 
 BOOL CMFCMenuBar::OnSendCommand(const CMFCToolBarButton * pButton)
@@ -327,7 +340,8 @@ BOOL CMFCMenuBar::OnSendCommand(const CMFCToolBarButton * pButton)
 void CMFCMenuBar::OnLButtonDblClk(UINT nFlags, CPoint point)
 {
     // A double click on the icon closes the child, as in a caption.
-    if (m_systemMenu && HitTest(point) == 0 && ::IsWindow(m_maximised))
+    if (m_systemMenu && HitTest(point) == 0 && dynamic_cast<ChildMenuButton const *>(GetButton(0)) != nullptr &&
+        ::IsWindow(m_maximised))
     {
         HWND const child = m_maximised;
         MenuMode::Current().End();
@@ -387,10 +401,10 @@ CSize CMFCMenuBar::CalcFixedLayout(BOOL bStretch, BOOL bHorz)
 
 CSize CMFCMenuBar::Arrange(CDC & dc, int length, bool horizontal, bool place)
 {
-    if (m_systemButtons == 0 || !horizontal)
+    int const first = FirstSystemButton();
+    if (first == GetCount() || !horizontal)
         return CMFCToolBar::Arrange(dc, length, horizontal, place);
     // The child's buttons stand at the end of the first row, out of the others' way.
-    int const first = FirstSystemButton();
     int width = 0;
     for (int at = first; at < GetCount(); ++at)
     {

@@ -240,6 +240,7 @@ void CMFCPopupMenu::RecalcLayout(BOOL)
 
 void CMFCPopupMenu::OnDestroy()
 {
+    WindowGuard const guard(this);
     MenuMode::Current().PopupEnds(*this);
     bool const last = MenuMode::Current().Leaf() == nullptr;
     auto * const bar = DYNAMIC_DOWNCAST(CMFCToolBar, CWnd::FromHandlePermanent(m_parentBar));
@@ -251,14 +252,17 @@ void CMFCPopupMenu::OnDestroy()
         bar->InvalidateButton(m_parentIndex);
         if (last && !MenuMode::Current().IsOn(*bar))
             bar->Highlight(-1);
+        if (!guard.Alive())
+            return;
     }
-    WindowGuard const guard(this);
     CFrameWnd * const frame = m_shown ? TargetFrame() : nullptr;
     CFrameWnd * const top = frame != nullptr ? frame->GetTopLevelFrame() : nullptr;
     if (auto * const mdi = DYNAMIC_DOWNCAST(CMDIFrameWndEx, top))
         mdi->OnClosePopupMenu(this);
     else if (auto * const single = DYNAMIC_DOWNCAST(CFrameWndEx, top))
         single->OnClosePopupMenu(this);
+    if (!guard.Alive())
+        return;
     if (last && m_shown && sendsMenuSelect && ::IsWindow(m_message))
         ::SendMessage(m_message, WM_MENUSELECT, MAKEWPARAM(0, menu_closed), 0);
     if (guard.Alive())
@@ -484,7 +488,10 @@ BOOL CMFCPopupMenu::OnEraseBkgnd(CDC *)
 
 void CMFCPopupMenu::OnPaint()
 {
+    WindowGuard const guard(this);
     CPaintDC dc(this);
+    if (!guard.Alive())
+        return;
     CRect client;
     GetClientRect(&client);
     dc.FillSolidRect(&client, ::GetSysColor(COLOR_MENU));

@@ -86,8 +86,9 @@ INT_PTR CMFCPopupMenuBar::OnToolHitTest(CPoint, TOOLINFO *) const
 
 BOOL CMFCPopupMenuBar::ImportFromMenu(HMENU hMenu, BOOL)
 {
+    framework::BarGuard const self(*this);
     RemoveAllButtons();
-    if (hMenu == nullptr || !::IsMenu(hMenu))
+    if (!self.Alive() || hMenu == nullptr || !::IsMenu(hMenu))
         return FALSE;
     UINT const defaultItem = ::GetMenuDefaultItem(hMenu, TRUE, GMDI_USEDISABLED);
     int const count = ::GetMenuItemCount(hMenu);

@@ -251,7 +251,7 @@ BOOL CMFCToolBar::LoadToolBar(UINT uiResID, UINT, UINT, BOOL bLocked, UINT, UINT
         MapImages(commands, first);
     }
     if (!SetButtons(commands.data(), static_cast<int>(commands.size()), FALSE))
-        return FALSE;
+        return FALSE; // the bar may have ended
     int next = first;
     for (POSITION at = m_buttons.GetHeadPosition(); at != nullptr;)
     {
@@ -287,7 +287,10 @@ BOOL PASCAL CMFCToolBar::AddToolBarForImageCollection(UINT uiResID, UINT uiBmpRe
 
 BOOL CMFCToolBar::SetButtons(const UINT * lpIDArray, int nIDCount, BOOL bRemapImages)
 {
+    framework::BarGuard const self(*this);
     RemoveAllButtons();
+    if (!self.Alive())
+        return FALSE;
     for (int at = 0; lpIDArray != nullptr && at < nIDCount; ++at)
     {
         if (lpIDArray[at] == 0)
@@ -350,28 +353,34 @@ BOOL CMFCToolBar::RemoveButton(int iIndex)
     m_buttons.RemoveAt(at);
     m_hot = -1;
     m_pressed = -1;
-    button->OnChangeParentWnd(nullptr);
-    delete button;
     Relayout();
+    button->OnChangeParentWnd(nullptr); // its menu closes, and whoever hears of that may end the bar
+    delete button;
     return TRUE;
 }
 
 void CMFCToolBar::RemoveAllButtons()
 {
-    m_hot = -1;
-    m_pressed = -1;
+    framework::BarGuard const self(*this);
     while (!m_buttons.IsEmpty())
     {
+        m_hot = -1;
+        m_pressed = -1;
+        Relayout();
         auto * const button = static_cast<CMFCToolBarButton *>(m_buttons.RemoveHead());
-        button->OnChangeParentWnd(nullptr);
+        button->OnChangeParentWnd(nullptr); // its menu closes, and whoever hears of that may end the bar
         delete button;
+        if (!self.Alive())
+            return;
     }
-    Relayout();
+    m_hot = -1;
+    m_pressed = -1;
 }
 
 int CMFCToolBar::ReplaceButton(UINT uiCmd, const CMFCToolBarButton & button, BOOL bAll)
 {
     int replaced = 0;
+    framework::BarGuard const self(*this);
     for (int at = CommandToIndex(uiCmd); at >= 0; at = CommandToIndex(uiCmd, at + 1))
     {
         auto * const copy = DYNAMIC_DOWNCAST(CMFCToolBarButton, button.GetRuntimeClass()->CreateObject());
@@ -382,6 +391,11 @@ int CMFCToolBar::ReplaceButton(UINT uiCmd, const CMFCToolBarButton & button, BOO
         if (copy->GetImage() < 0 && copy->m_bImage)
             copy->SetImage(GetDefaultImage(uiCmd));
         RemoveButton(at);
+        if (!self.Alive())
+        {
+            delete copy;
+            break;
+        }
         Insert(copy, at);
         ++replaced;
         if (!bAll)

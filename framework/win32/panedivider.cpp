@@ -52,7 +52,7 @@ void CPaneDivider::PostNcDestroy()
 void CPaneDivider::OnDestroy()
 {
     if (m_host != nullptr)
-        m_host->WindowEnds(*this);
+        m_host->WindowEnds(this);
     m_host = nullptr;
     CBasePane::OnDestroy();
 }
@@ -122,7 +122,7 @@ void CMFCAutoHideBar::PostNcDestroy()
 void CMFCAutoHideBar::OnDestroy()
 {
     if (m_host != nullptr)
-        m_host->WindowEnds(*this);
+        m_host->WindowEnds(this);
     m_host = nullptr;
     CPane::OnDestroy();
 }
@@ -157,7 +157,10 @@ CSize CMFCAutoHideBar::CalcFixedLayout(BOOL, BOOL)
 
 void CMFCAutoHideBar::OnPaint()
 {
-    CPaintDC dc(this);
+    WindowGuard const guard(this);
+    CPaintDC dc(this); // has the ground erased
+    if (!guard.Alive())
+        return;
     CRect rect;
     GetClientRect(&rect);
     CMemDC buffer(dc, rect);
@@ -187,9 +190,7 @@ void CMFCAutoHideBar::OnPaint()
         canvas.FillSolidRect(&button, ::GetSysColor(shown ? COLOR_HIGHLIGHT : COLOR_BTNFACE));
         canvas.SetBkMode(TRANSPARENT);
         canvas.SetTextColor(::GetSysColor(shown ? COLOR_HIGHLIGHTTEXT : COLOR_BTNTEXT));
-        CString title;
-        if (pane != nullptr)
-            pane->GetWindowText(title);
+        CString const title = pane != nullptr ? framework::TitleOf(*pane) : CString();
         if (across)
         {
             button.DeflateRect(4, 0);
@@ -278,9 +279,7 @@ std::vector<std::pair<UINT, CRect>> framework::StripButtons(CMFCAutoHideBar & st
         CDockablePane const * const pane = host->Pane(id);
         if (pane == nullptr)
             continue;
-        CString title;
-        pane->GetWindowText(title);
-        int const length = dc.GetTextExtent(title).cx + 4 * host->Sizes().gap;
+        int const length = dc.GetTextExtent(TitleOf(*pane)).cx + 4 * host->Sizes().gap;
         CRect button(rect);
         button.DeflateRect(1, 1);
         (across ? button.left : button.top) = place;

@@ -39,7 +39,7 @@ void CPaneFrameWnd::PostNcDestroy()
 void CPaneFrameWnd::OnDestroy()
 {
     if (m_host != nullptr)
-        m_host->WindowEnds(*this);
+        m_host->WindowEnds(this);
     m_host = nullptr;
     CWnd::OnDestroy();
 }
@@ -74,11 +74,9 @@ CString CPaneFrameWnd::GetCaptionText()
     {
         if (!pane->IsPaneVisible())
             continue;
-        CString title;
-        pane->GetWindowText(title);
         if (!text.IsEmpty())
             text += L" - ";
-        text += title;
+        text += framework::TitleOf(*pane);
     }
     return text;
 }

@@ -179,7 +179,10 @@ void CTabbedPane::GetTabArea(CRect & rectTabAreaTop, CRect & rectTabAreaBottom) 
 
 void CTabbedPane::OnPaint()
 {
-    CPaintDC dc(this);
+    WindowGuard const guard(this);
+    CPaintDC dc(this); // has the ground erased
+    if (!guard.Alive())
+        return;
     CRect const strip = framework::TabStripOf(*this);
     std::vector<CDockablePane *> const panes = framework::PanesIn(*this);
     std::vector<CRect> const tabs = framework::TabRects(*this, panes);
@@ -207,8 +210,7 @@ void CTabbedPane::OnPaint()
         else if (at + 1 < panes.size())
             canvas.FillSolidRect(tab.right - 1, tab.top + 3, 1, std::max(0, tab.Height() - 6), line);
         canvas.SetTextColor(::GetSysColor(active ? COLOR_WINDOWTEXT : COLOR_BTNTEXT));
-        CString title;
-        panes[at]->GetWindowText(title);
+        CString const title = framework::TitleOf(*panes[at]);
         tab.DeflateRect(4, 0);
         canvas.DrawText(title, &tab, DT_SINGLELINE | DT_VCENTER | DT_CENTER | DT_END_ELLIPSIS | DT_NOPREFIX);
     }
@@ -282,9 +284,7 @@ std::vector<CRect> framework::TabRects(CTabbedPane const & tabbed, std::vector<C
     CFont * const former = SelectPaneFont(dc);
     for (CDockablePane const * const pane : panes)
     {
-        CString title;
-        pane->GetWindowText(title);
-        int const width = dc.GetTextExtent(title).cx + strip.Height();
+        int const width = dc.GetTextExtent(TitleOf(*pane)).cx + strip.Height();
         widths.push_back(width);
         sum += width;
     }

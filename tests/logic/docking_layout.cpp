@@ -171,6 +171,24 @@ TEST(DockLayout, AFloatingPaneComesBackAndFloatsAgainWhereItWas)
     EXPECT_EQ(layout.FrameOf(2), frame);
 }
 
+TEST(DockLayout, TabsThatFloatedAloneFloatTogether)
+{
+    DockLayout layout = WithPanes(2);
+    layout.DockAtSide(1, DockSide::Left, false, 100);
+    layout.DockAtSide(2, DockSide::Left, false, 100);
+    for (UINT const pane : {1u, 2u})
+    {
+        ASSERT_TRUE(layout.Float(pane, CRect(300, 300, 500, 450)));
+        ASSERT_TRUE(layout.DockBack(pane));
+    }
+    layout.DockAsTab(2, 1);
+    ASSERT_TRUE(layout.FloatBack(DockContent(std::vector<UINT>{2, 1})));
+    EXPECT_EQ(layout.FrameOf(1), layout.FrameOf(2));
+    EXPECT_NE(layout.FrameOf(1), 0u);
+    EXPECT_EQ(layout.FindFrame(layout.FrameOf(1))->rect, CRect(300, 300, 500, 450));
+    EXPECT_EQ(layout.ShownTogether(1).size(), 2u);
+}
+
 TEST(DockLayout, AFloatingFrameDocksWithItsShape)
 {
     DockLayout layout = WithPanes(4);

@@ -47,6 +47,20 @@ TEST(PlainTableText, KeepsEachTextInItsField)
     EXPECT_EQ(PlainTable({{{L"a\tb", false}, {L"c", false}}, {{L"1\r\n2", L"3\n4"}}}), L"a b\tc\r\n1  2\t3 4\r\n");
 }
 
+TEST(CsvTableText, QuotesWhatWouldSeparate)
+{
+    EXPECT_EQ(CsvTable(SmallTable()), L"Name,Peak\r\na.wav,-6.0\r\nb.wav,\r\n");
+    EXPECT_EQ(CsvTable({{{L"a,b", false}, {L"c", false}}, {{L"say \"x\"", L"1\n2"}, {L"\r", L" d "}, {L"e"}}}),
+              L"\"a,b\",c\r\n\"say \"\"x\"\"\",\"1\n2\"\r\n\"\r\", d \r\ne,\r\n");
+}
+
+TEST(CsvTableText, IsWhatAFileOfThatNameHas)
+{
+    auto const mark = std::string("\xEF\xBB\xBF");
+    EXPECT_EQ(TableFile({{{L"a,b", false}}, {{L"\u00E4"}}}, "list.CSV"), mark + "\"a,b\"\r\n\xC3\xA4\r\n");
+    EXPECT_EQ(TableFile({{{L"a,b", false}}, {}}, "list.txt"), mark + "a,b\r\n");
+}
+
 TEST(HtmlTableText, HasTitlesAndAlignment)
 {
     EXPECT_EQ(HtmlTable(SmallTable()), L"<table border=\"1\">\r\n"

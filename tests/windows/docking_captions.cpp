@@ -49,7 +49,7 @@ protected:
                 tests::Key(key);
             },
             [] { return OpenMenu() != nullptr; });
-        tests::Click(caption, tests::Button::Right);
+        tests::Click(caption, tests::Button::right);
         ASSERT_TRUE(tests::PumpUntil([&] { return later.Done() && OpenMenu() == nullptr; }));
         ASSERT_FALSE(later.Failed());
     }
@@ -101,7 +101,7 @@ TEST_F(DockCaptions, APaneMayEndWhileItsMenuIsOpen)
             ::EndMenu();
         },
         [] { return OpenMenu() != nullptr; });
-    tests::Click(caption, tests::Button::Right);
+    tests::Click(caption, tests::Button::right);
     ASSERT_TRUE(tests::PumpUntil([&] { return later.Done() && OpenMenu() == nullptr; }));
     EXPECT_FALSE(later.Failed());
 }

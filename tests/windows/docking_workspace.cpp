@@ -266,6 +266,20 @@ TEST_F(Workspace, AFloatingFrameComesBackOntoTheScreen)
     EXPECT_EQ(rect.Size(), CSize(300, 200));
 }
 
+TEST_F(Workspace, AFloatingFrameFollowsAScreenThatIsGone)
+{
+    Program program;
+    program.AddDefault();
+    program[0].FloatPane(CRect(100, 100, 400, 300));
+    CPaneFrameWnd & mini = *program[0].GetParentMiniFrame();
+    mini.SetWindowPos(nullptr, 9000, 9000, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    program.Frame().SendMessage(WM_DISPLAYCHANGE, 32, MAKELPARAM(1280, 1024));
+    CRect rect;
+    mini.GetWindowRect(&rect);
+    EXPECT_NE(::MonitorFromRect(&rect, MONITOR_DEFAULTTONULL), nullptr);
+    EXPECT_EQ(rect.Size(), CSize(300, 200));
+}
+
 TEST_F(Workspace, NoMixOfTwoPlacesOfTheMainFrameIsTaken)
 {
     Program program;

@@ -161,6 +161,39 @@ std::wstring PlainTable(TextTable const & table)
     return plain;
 }
 
+std::wstring CsvTable(TextTable const & table)
+{
+    std::wstring csv;
+    auto const append = [&csv](std::wstring_view text, bool isFirst) {
+        csv += isFirst ? L"" : L",";
+        if (text.find_first_of(L",\"\r\n") == text.npos)
+        {
+            csv += text;
+            return;
+        }
+        csv += L'"';
+        for (auto const character : text)
+        {
+            csv.append(character == L'"' ? 2 : 1, character);
+        }
+        csv += L'"';
+    };
+    for (std::size_t i = 0; i < table.columns.size(); ++i)
+    {
+        append(table.columns[i].title, i == 0);
+    }
+    csv += row_end;
+    for (auto const & row : table.rows)
+    {
+        for (std::size_t i = 0; i < table.columns.size(); ++i)
+        {
+            append(i < row.size() ? std::wstring_view(row[i]) : std::wstring_view(), i == 0);
+        }
+        csv += row_end;
+    }
+    return csv;
+}
+
 std::wstring HtmlTable(TextTable const & table)
 {
     std::wstring html = L"<table border=\"1\">\r\n<tr>";
@@ -197,7 +230,7 @@ std::string TableFile(TextTable const & table, std::filesystem::path const & fil
         }
         return page + "\r\n</body></html>\r\n";
     }
-    auto const wide = PlainTable(table);
+    auto const wide = extension == L".csv" ? CsvTable(table) : PlainTable(table);
     std::string text = utf8_mark;
     for (std::size_t place = 0; place < wide.size();)
     {

@@ -24,12 +24,17 @@ struct TextTable
 /// a text become blanks.
 std::wstring PlainTable(TextTable const & table);
 
+/// The table as comma-separated values by RFC 4180: texts with commas, quotation marks or line ends stand in quotation
+/// marks.
+std::wstring CsvTable(TextTable const & table);
+
 /// The table as an HTML fragment in plain ASCII: other characters are numeric references. Line breaks within a text are
 /// kept; control characters and halves of surrogate pairs are left out.
 std::wstring HtmlTable(TextTable const & table);
 
-/// What a file with the table contains: a web page where its name ends in .html or .htm, else lines in UTF-8 with its
-/// mark. Halves of surrogate pairs come out as question marks.
+/// What a file with the table contains: a web page where its name ends in .html or .htm, comma-separated values where
+/// it ends in .csv, else lines with tabs; the latter in UTF-8 with its mark. Halves of surrogate pairs come out as
+/// question marks.
 std::string TableFile(TextTable const & table, std::filesystem::path const & file);
 
 } // namespace workbench

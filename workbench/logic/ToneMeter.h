@@ -15,8 +15,8 @@ struct ToneMeasures
 {
     /// The strongest frequency in Hz; nothing for silence and for less than 256 samples.
     std::optional<double> frequency;
-    /// The harmonics' RMS value beside the tone's, 0.01 for 1 %. Nothing where no tone holds more than half of the power,
-    /// and where a tone has no harmonic below half the rate.
+    /// The harmonics' RMS value beside the tone's, 0.01 for 1 %. Nothing where no tone holds more than half of the
+    /// power, and where a tone has no harmonic below half the rate.
     std::optional<double> distortion;
 
     bool operator==(ToneMeasures const &) const = default;

@@ -94,7 +94,8 @@ public:
     /// What moves when its caption is dragged.
     std::vector<UINT> DraggedWith(CDockablePane const & pane) const;
     CMFCAutoHideBar * Strip(DockSide side) const { return m_strips[static_cast<size_t>(side)]; }
-    void WindowEnds(CWnd const & window);
+    /// One of the host's own windows ends, or could not be made: the object may be gone.
+    void WindowEnds(CWnd const * window);
     /// The panes that show as tabs of a place.
     std::vector<CDockablePane *> TabsOf(UINT group) const;
     CTabbedPane * Tabbed(UINT group) const;
@@ -130,6 +131,8 @@ public:
     /// As soon as the messages that run are over.
     void ArrangeSoon();
     void ArrangeFrame(UINT frame);
+    /// Floating frames that no screen has any more come back, as the screens are by now.
+    void BringOntoScreen();
     void Lock(bool lock);
     void RepaintCaptions();
     /// What the frame's panes share, in its coordinates.
@@ -192,6 +195,7 @@ private:
     bool AskToClose(CPaneFrameWnd & mini);
     bool FocusIsFree() const;
     DWORD Enabled(DockContent const & content) const;
+    void PutFramesOnScreen();
     CRect OnScreen(CRect rect) const;
 
     CDockingManager & m_manager;
@@ -252,6 +256,8 @@ CSize LeastSize(CDockablePane const & pane, DockSizes const & sizes);
 CFont * SelectPaneFont(CDC & dc);
 /// The user has chosen another.
 void RefreshPaneFont();
+/// A pane's title, asked for without a message, whose handler might end whoever asks.
+CString TitleOf(CDockablePane const & pane);
 DockSide SideOf(DWORD alignment, DockSide otherwise);
 DWORD AlignmentOf(DockSide side);
 } // namespace framework

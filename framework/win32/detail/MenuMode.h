@@ -6,12 +6,26 @@
 
 #include <afxwin.h>
 
+#include "FrameSupport.h"
+
 class CMFCMenuBar;
 class CMFCPopupMenu;
 class CMFCToolBar;
 
 namespace framework
 {
+/// Whether a bar is still there that may have no window yet; without one nobody ends it.
+class BarGuard
+{
+public:
+    explicit BarGuard(CWnd const & bar) : m_guard(&bar), m_hasWindow(bar.m_hWnd != nullptr) {}
+    bool Alive() const { return !m_hasWindow || m_guard.Alive(); }
+
+private:
+    WindowGuard m_guard;
+    bool m_hasWindow;
+};
+
 class MenuMode
 {
 public:

@@ -6,6 +6,7 @@
 #include "RecordingList.h"
 #include "ScopedWindow.h"
 #include "StarRating.h"
+#include "frame/RegisteredMessages.h"
 #include "logic/ReadableColours.h"
 
 #include <gtest/gtest.h>
@@ -152,7 +153,7 @@ TEST_F(RecordingListTest, EveryColumnButTheCheckBoxesSorts)
     Lines const before = Order();
     m_list.SortLines(CRecordingList::column_check, true);
     EXPECT_EQ(Order(), before);
-    EXPECT_EQ(m_list.GetHeaderCheckedState(CRecordingList::column_status), XHC_SORT_DESCENDING);
+    EXPECT_EQ(m_list.GetHeaderCheckedState(CRecordingList::column_count - 1), XHC_SORT_DESCENDING);
 }
 
 TEST_F(RecordingListTest, LinesWithoutAValueComeLastBothWays)
@@ -181,8 +182,11 @@ TEST_F(RecordingListTest, TheReferenceComesFirstAndRatingsGoByTheirRank)
     m_list.SetReference(3);
     m_list.SortLines(CRecordingList::column_reference, true);
     EXPECT_EQ(m_list.LineAt(0), 3);
-    m_list.SetComboSelection(m_list.PlaceOf(4), CRecordingList::column_rating, 1);
-    m_list.SetComboSelection(m_list.PlaceOf(0), CRecordingList::column_rating, 3);
+    for (auto const & [line, rating] : {std::pair{4, 1}, std::pair{0, 3}})
+    {
+        m_list.SetComboSelection(m_list.PlaceOf(line), CRecordingList::column_rating, rating);
+        m_list.OnItemStateChange(m_list.PlaceOf(line), CRecordingList::column_rating, WM_XLISTCTRL_CHECKBOX_CLICKED);
+    }
     m_list.SortLines(CRecordingList::column_rating, false);
     EXPECT_EQ(m_list.LineAt(0), 0);
     EXPECT_EQ(m_list.LineAt(1), 4);

@@ -81,6 +81,7 @@ protected:
     {
         ::RegDeleteTreeW(HKEY_CURRENT_USER, (std::wstring(L"Software\\") + registry_key).c_str());
         std::filesystem::remove_all(workbench::NotesFile());
+        std::filesystem::remove_all(workbench::ViewsFile());
     }
 
     void OpenWindow(int dotsPerInch = 0)

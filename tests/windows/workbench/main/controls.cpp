@@ -513,7 +513,7 @@ TEST_F(WorkbenchControls, ColumnsAreChosenInADropDownOfTheSettings)
     Show(2);
     OpenSettings();
     auto & field = *Page(list_page).GetDlgItem(IDC_COLUMNS);
-    EXPECT_EQ(TextOf(field), L"(all)");
+    EXPECT_EQ(TextOf(field), L"Ref., Waveform, Duration, Channels, \u2026"); // not all: those of measures are hidden
     field.SetFocus();
     std::vector<HWND> const known{Sheet().m_hWnd, m_window->m_hWnd, nullptr};
     auto const list = [&] { return ::GetDlgItem(::GetDlgItem(OtherPopup(known), 1016), 32802); };
@@ -524,7 +524,7 @@ TEST_F(WorkbenchControls, ColumnsAreChosenInADropDownOfTheSettings)
             ::SendMessageW(list(), LVM_GETITEMRECT, 3, reinterpret_cast<LPARAM>(&row));
             tests::Click(tests::ClientPoint(list(), CPoint(row.left + 6, (row.top + row.bottom) / 2)));
         },
-        [&] { return ::SendMessageW(list(), LVM_GETITEMCOUNT, 0, 0) == 11 && ::IsWindowVisible(list()); });
+        [&] { return ::SendMessageW(list(), LVM_GETITEMCOUNT, 0, 0) == 15 && ::IsWindowVisible(list()); });
     later.Add([] { tests::Key(VK_RETURN); },
               [&] { return ::SendMessageW(list(), LVM_GETITEMSTATE, 3, LVIS_STATEIMAGEMASK) >> 12 == 1; });
     tests::Key(VK_F4);
@@ -567,7 +567,8 @@ TEST_F(WorkbenchControls, ColumnsAreChosenAtTheTitles)
     tests::Click(tests::ClientPoint(header.m_hWnd, title.CenterPoint()), tests::Button::right);
     ASSERT_TRUE(tests::PumpUntil([&] { return later.Done() && OtherPopup(known) == nullptr; }));
     ASSERT_FALSE(later.Failed());
-    ASSERT_TRUE(tests::PumpUntil([this] { return !m_window->Settings().hiddenColumns.empty(); }));
+    ASSERT_TRUE(tests::PumpUntil(
+        [this] { return m_window->Settings().hiddenColumns.contains(CRecordingList::column_status); }));
     EXPECT_EQ(List().GetColumnWidth(CRecordingList::column_status), 0);
     EXPECT_GT(List().GetColumnWidth(CRecordingList::column_name), 0);
     EXPECT_GT(List().GetColumnWidth(CRecordingList::column_check), 0);

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <fstream>
 #include <functional>
 #include <vector>
 
@@ -378,9 +379,16 @@ TEST_F(WorkbenchPanes, FollowTheLanguageAtOnce)
         m_window->GetMenu()->GetMenuString(place, text, MF_BYPOSITION);
         return std::wstring(text.GetString());
     };
-    m_window->ShowTargets({Folder(1)});
+    auto const folder = Folder(1);
+    std::ofstream(folder / "zero.wav") << "no recording";
+    m_window->ShowTargets({folder});
     ASSERT_TRUE(WaitUntilRead());
     ASSERT_TRUE(m_window->ShowInFrame(0));
+    auto const cell = [this](int line, int column) {
+        return std::wstring(m_window->List().GetItemText(m_window->List().PlaceOf(line), column));
+    };
+    auto const problem = cell(1, CRecordingList::column_status);
+    auto const rating = cell(0, CRecordingList::column_rating);
     auto const count = m_window->GetMenu()->GetSubMenu(5)->GetMenuItemCount();
     m_window->ChooseLanguage(1031);
     EXPECT_EQ(name(0), L"&Datei");
@@ -399,10 +407,14 @@ TEST_F(WorkbenchPanes, FollowTheLanguageAtOnce)
     header.cchTextMax = static_cast<int>(std::size(column));
     m_window->List().GetHeaderCtrl()->GetItem(CRecordingList::column_duration, &header);
     EXPECT_STREQ(column, L"Dauer");
+    EXPECT_NE(cell(1, CRecordingList::column_status), problem);
+    EXPECT_NE(cell(0, CRecordingList::column_rating), rating);
     // What opens and closes after that is still entered in the same menu.
     m_window->Frames().Frames().at(0)->Frame()->SendMessage(WM_CLOSE);
     EXPECT_EQ(m_window->GetMenu()->GetSubMenu(5)->GetMenuItemCount(), count - 2);
     m_window->ChooseLanguage(1033);
+    EXPECT_EQ(cell(1, CRecordingList::column_status), problem);
+    EXPECT_EQ(cell(0, CRecordingList::column_rating), rating);
     EXPECT_EQ(name(0), L"&File");
     EXPECT_EQ(item(5, 0), L"Folders\tCtrl+1");
     EXPECT_EQ(item(5, 5), L""); // a separator

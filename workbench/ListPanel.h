@@ -1,0 +1,45 @@
+#pragma once
+
+#include <afxwin.h>
+
+#include <functional>
+
+#include "RecordingList.h"
+#include "ScreenMetrics.h"
+
+/// The list of recordings with the strip above it by which it is filtered, which shows only while it is used.
+class CListPanel : public CWnd
+{
+public:
+    /// Creates the panel and the list in it. List and metrics must outlive the window.
+    bool CreatePanel(CWnd & parent, UINT id, UINT listId, workbench::ScreenMetrics & metrics, CRecordingList & list);
+
+    /// Shows the strip and gives its field the focus, or hides it, which ends the filter.
+    void ShowFilter(bool show);
+    bool ShowsFilter() const { return m_showsFilter; }
+
+    /// Shows what it says in the present language.
+    void ShowTexts();
+
+    /// Called when the list has been filtered otherwise.
+    std::function<void()> m_onFiltered;
+
+    BOOL PreTranslateMessage(MSG * message) override;
+
+protected:
+    DECLARE_MESSAGE_MAP()
+
+private:
+    afx_msg void OnSize(UINT type, int width, int height);
+    afx_msg void OnSetFocus(CWnd * other);
+    afx_msg void OnFilterChange();
+
+    void Arrange();
+
+    workbench::ScreenMetrics * m_metrics = nullptr;
+    CRecordingList * m_list = nullptr;
+    bool m_showsFilter = false;
+    CStatic m_label;
+    CEdit m_words;
+    CComboBox m_kind; ///< what a recording must be beside having the words
+};

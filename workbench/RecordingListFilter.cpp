@@ -1,0 +1,394 @@
+// Which of the list's lines have rows, and what the user did to them being undone.
+
+#include "RecordingList.h"
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+namespace
+{
+
+// So many rows come and go one by one; more of them are made anew, a few at a time.
+constexpr std::size_t few_rows = 200;
+constexpr ULONGLONG fill_slice = 12; // milliseconds
+constexpr UINT fill_interval = 10;   // milliseconds
+constexpr UINT_PTR fill_timer = 40;
+
+constexpr DWORD typing_pause = 1000; // milliseconds after which a word begins anew
+
+workbench::RecordingFilter::State StateOf(workbench::RecordingAnalysis const * analysis)
+{
+    using State = workbench::RecordingFilter::State;
+    if (analysis == nullptr)
+    {
+        return State::any;
+    }
+    if (analysis->problem)
+    {
+        return State::unreadable;
+    }
+    return analysis->info.IsCutOff() || analysis->invalidSamples > 0 ? State::damaged : State::sound;
+}
+
+} // namespace
+
+/// Whether the filter lets a line through.
+bool CRecordingList::Passes(int line) const
+{
+    auto const & source = m_sources[static_cast<std::size_t>(line)];
+    auto const & notes = m_notes[static_cast<std::size_t>(line)];
+    return Filter().LetsAllThrough() ||
+           m_match({source.searched, notes.checked, notes.rating, StateOf(source.analysis.get())});
+}
+
+void CRecordingList::SetFilter(workbench::RecordingFilter const & filter)
+{
+    if (filter == Filter())
+    {
+        return;
+    }
+    EndEditing();
+    CancelToolTips();
+    m_match = workbench::FilterMatch(filter);
+    for (int line = 0; line < LineCount(); ++line)
+    {
+        m_sources[static_cast<std::size_t>(line)].shown = Passes(line);
+    }
+    ShowWantedRows();
+}
+
+int CRecordingList::ShownCount() const
+{
+    return static_cast<int>(std::ranges::count_if(m_sources, &Source::shown));
+}
+
+/// Has a line shown that the filter kept out for what was not known of it.
+void CRecordingList::Reconsider(int line)
+{
+    auto & source = m_sources[static_cast<std::size_t>(line)];
+    if (!source.shown && Passes(line))
+    {
+        source.shown = true;
+        m_late = true;
+    }
+}
+
+/// Keeps what is selected, unless that is still kept.
+void CRecordingList::HoldSelection()
+{
+    if (m_holds)
+    {
+        return;
+    }
+    for (auto & source : m_sources)
+    {
+        source.isHeld = false;
+    }
+    m_heldFocus = ChosenLine();
+    for (auto const line : SelectedLines())
+    {
+        m_sources[static_cast<std::size_t>(line)].isHeld = true;
+    }
+    m_holds = true;
+}
+
+/// Gives rows to the lines that the filter lets through and have none, and takes those of the others.
+void CRecordingList::ShowWantedRows()
+{
+    std::vector<int> wanted;
+    std::vector<int> gone;  // rows
+    std::vector<int> added; // places in `wanted`
+    auto rows = 0;
+    for (auto const line : m_order)
+    {
+        auto const & source = m_sources[static_cast<std::size_t>(line)];
+        if (source.hasRow)
+        {
+            if (!source.shown)
+            {
+                gone.push_back(rows);
+            }
+            ++rows;
+        }
+        if (source.shown)
+        {
+            if (!source.hasRow)
+            {
+                added.push_back(static_cast<int>(wanted.size()));
+            }
+            wanted.push_back(line);
+        }
+    }
+    m_wanted.clear();
+    if (gone.empty() && added.empty())
+    {
+        ShowHeaderCheck();
+        return;
+    }
+    HoldSelection();
+    Batch const batch(*this);
+    m_touched = true;
+    auto const outer = std::exchange(m_filling, true);
+    if (gone.size() + added.size() <= few_rows)
+    {
+        for (auto i = gone.size(); i > 0; --i)
+        {
+            auto const line = LineAt(gone[i - 1]);
+            DeleteItem(gone[i - 1]);
+            m_sources[static_cast<std::size_t>(line)].hasRow = false;
+        }
+        for (auto const place : added)
+        {
+            AddRow(wanted[static_cast<std::size_t>(place)], place);
+        }
+        for (std::size_t i = 0; i < wanted.size(); ++i)
+        {
+            m_places[static_cast<std::size_t>(wanted[i])] = static_cast<int>(i);
+        }
+    }
+    else
+    {
+        for (auto & source : m_sources)
+        {
+            source.hasRow = false;
+        }
+        DeleteAllItems();
+        m_wanted = std::move(wanted);
+        m_filled = 0;
+        FillRows(::GetTickCount64() + fill_slice);
+    }
+    m_filling = outer;
+    if (auto const chosen = ChosenRow(); chosen >= 0)
+    {
+        EnsureVisible(chosen, FALSE);
+    }
+    Tell(changed_selection);
+}
+
+/// Gives lines their rows: those that are in sight, and others until then.
+void CRecordingList::FillRows(ULONGLONG end)
+{
+    Batch const batch(*this);
+    auto const outer = std::exchange(m_filling, true);
+    auto const inSight = static_cast<std::size_t>(GetCountPerPage()) + 1;
+    while (m_filled < m_wanted.size() && (m_filled < inSight || ::GetTickCount64() < end))
+    {
+        AddRow(m_wanted[m_filled++], -1);
+    }
+    m_filling = outer;
+    if (m_filled < m_wanted.size())
+    {
+        SetTimer(fill_timer, fill_interval, nullptr);
+        return;
+    }
+    KillTimer(fill_timer);
+    m_wanted.clear();
+    if (auto const chosen = ChosenRow(); chosen >= 0 && m_holds)
+    {
+        EnsureVisible(chosen, FALSE);
+    }
+}
+
+void CRecordingList::FinishRows()
+{
+    if (!m_wanted.empty())
+    {
+        FillRows(std::numeric_limits<ULONGLONG>::max());
+    }
+}
+
+void CRecordingList::OnTimer(UINT_PTR id)
+{
+    if (id != fill_timer)
+    {
+        CXListCtrl::OnTimer(id);
+    }
+    else if (m_wanted.empty())
+    {
+        KillTimer(fill_timer);
+    }
+    else
+    {
+        FillRows(::GetTickCount64() + fill_slice);
+    }
+}
+
+std::vector<int> CRecordingList::SelectedLines() const
+{
+    std::vector<int> lines;
+    for (auto row = GetNextItem(-1, LVNI_SELECTED); row >= 0; row = GetNextItem(row, LVNI_SELECTED))
+    {
+        lines.push_back(LineAt(row));
+    }
+    return lines;
+}
+
+void CRecordingList::SelectLines(std::vector<int> const & lines, int focused)
+{
+    FinishRows();
+    ClearSelection();
+    Batch const batch(*this);
+    m_touched = true;
+    for (auto const line : lines)
+    {
+        if (auto const row = PlaceOf(line); row >= 0)
+        {
+            SetItemState(row, LVIS_SELECTED, LVIS_SELECTED);
+        }
+    }
+    if (auto const row = PlaceOf(focused); row >= 0)
+    {
+        SetItemState(row, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
+        EnsureVisible(row, FALSE);
+    }
+}
+
+/// Gives the other selected recordings the rating that one of them has been given.
+void CRecordingList::RateSelected(int row, int rating)
+{
+    if (GetSelectedCount() < 2 || GetItemState(row, LVIS_SELECTED) == 0)
+    {
+        return;
+    }
+    Batch const batch(*this);
+    for (auto const line : SelectedLines())
+    {
+        auto const & source = m_sources[static_cast<std::size_t>(line)];
+        auto const before = NotesOf(line);
+        if (PlaceOf(line) != row && before.rating != rating && !(source.analysis && source.analysis->problem))
+        {
+            auto after = before;
+            after.rating = rating;
+            SetNotes(line, after);
+            m_history.Note(line, before, after);
+        }
+    }
+}
+
+/// Takes notes over for a line and shows them.
+void CRecordingList::SetNotes(int line, Notes const & notes)
+{
+    auto const known = static_cast<std::size_t>(line);
+    auto & source = m_sources[known];
+    if (notes.comment != m_notes[known].comment)
+    {
+        source.searched = workbench::SearchedText(source.file, notes.comment);
+    }
+    m_notes[known] = notes;
+    m_noted.push_back(line);
+    auto const readable = !(source.analysis && source.analysis->problem);
+    if (readable)
+    {
+        m_totals.SetChecked(known, notes.checked);
+    }
+    if (notes.reference && readable)
+    {
+        m_reference = line;
+    }
+    else if (m_reference == line)
+    {
+        m_reference = -1;
+    }
+    auto const row = PlaceOf(line);
+    if (row < 0 || !readable)
+    {
+        return;
+    }
+    Touch(row);
+    SetCheckbox(row, column_check, notes.checked ? XLC_CHECKED : XLC_UNCHECKED);
+    SetRadioButton(row, column_reference, notes.reference ? XLC_RADIO_ON : XLC_RADIO_OFF);
+    SetComboBoxGlobalStrings(row, column_rating, notes.rating, 0);
+    SetItemText(row, column_comment, notes.comment.c_str());
+}
+
+void CRecordingList::Apply(workbench::ListStep const & step)
+{
+    {
+        Batch const batch(*this);
+        m_touched = true;
+        // The reference goes from one line before it comes to another.
+        for (auto const isReference : {false, true})
+        {
+            for (auto const & change : step.notes)
+            {
+                if (change.after.reference == isReference && change.line < LineCount())
+                {
+                    SetNotes(change.line, change.after);
+                }
+            }
+        }
+        ShowReference();
+    }
+    if (step.order)
+    {
+        SetOrder(step.order->after);
+    }
+    if (step.notes.size() == 1)
+    {
+        if (auto const row = PlaceOf(step.notes.front().line); row >= 0)
+        {
+            EnsureVisible(row, FALSE);
+        }
+    }
+    Tell(changed_marks | changed_order);
+}
+
+bool CRecordingList::Undo()
+{
+    EndEditing();
+    auto const step = m_history.Undo();
+    if (step)
+    {
+        Apply(*step);
+    }
+    return step.has_value();
+}
+
+bool CRecordingList::Redo()
+{
+    EndEditing();
+    auto const step = m_history.Redo();
+    if (step)
+    {
+        Apply(*step);
+    }
+    return step.has_value();
+}
+
+/// Whether what is typed goes on with a name.
+bool CRecordingList::IsTyping() const
+{
+    return !m_typed.empty() && ::GetTickCount() - m_typedAt <= typing_pause;
+}
+
+/// Looks for the next line whose name begins as the user types. The same letter again goes to the next one.
+void CRecordingList::OnChar(UINT character, UINT, UINT)
+{
+    if (!IsTyping())
+    {
+        m_typed.clear();
+    }
+    // The space bar marks, unless it belongs to a name.
+    if (character < L' ' || (character == L' ' && m_typed.empty()))
+    {
+        return;
+    }
+    m_typedAt = ::GetTickCount();
+    m_typed += workbench::FoldedText(std::wstring(1, static_cast<wchar_t>(character)));
+    FinishRows();
+    auto const lines = LinesWithRows();
+    auto const again = m_typed.find_first_not_of(m_typed.front()) == m_typed.npos && m_typed.size() > 1;
+    auto const wanted = again ? m_typed.substr(0, 1) : m_typed;
+    auto const count = lines.size();
+    auto const chosen = static_cast<std::size_t>(std::max(ChosenRow(), 0));
+    for (std::size_t i = m_typed.size() == 1 || again ? 1 : 0; count > 0 && i <= count; ++i)
+    {
+        auto const line = lines[(chosen + i) % count];
+        if (m_sources[static_cast<std::size_t>(line)].searched.starts_with(wanted))
+        {
+            ChooseLine(line);
+            return;
+        }
+    }
+}

@@ -1,0 +1,113 @@
+#include "logic/ListHistory.h"
+
+#include <utility>
+
+namespace workbench
+{
+
+namespace
+{
+
+/// The step that leads back.
+ListStep Reversed(ListStep step)
+{
+    for (auto & change : step.notes)
+    {
+        std::swap(change.before, change.after);
+    }
+    if (step.order)
+    {
+        std::swap(step.order->before, step.order->after);
+    }
+    return step;
+}
+
+} // namespace
+
+std::size_t ListHistory::SizeOf(ListStep const & step)
+{
+    return step.notes.size() + (step.order ? step.order->before.lines.size() + step.order->after.lines.size() : 0) + 1;
+}
+
+void ListHistory::Note(int line, RecordingNotes const & before, RecordingNotes const & after)
+{
+    auto const [place, isNew] = m_openLines.emplace(line, m_open.notes.size());
+    if (isNew)
+    {
+        m_open.notes.push_back({line, before, after});
+    }
+    else
+    {
+        m_open.notes[place->second].after = after;
+    }
+}
+
+void ListHistory::NoteOrder(ListOrder before, ListOrder after)
+{
+    if (m_open.order)
+    {
+        m_open.order->after = std::move(after);
+    }
+    else
+    {
+        m_open.order = {std::move(before), std::move(after)};
+    }
+}
+
+void ListHistory::EndStep()
+{
+    auto step = std::exchange(m_open, {});
+    m_openLines.clear();
+    std::erase_if(step.notes, [](NotesChange const & change) { return change.before == change.after; });
+    if (step.order && step.order->before == step.order->after)
+    {
+        step.order.reset();
+    }
+    if (step.IsEmpty())
+    {
+        return;
+    }
+    m_undone.clear();
+    m_size += SizeOf(step);
+    m_done.push_back(std::move(step));
+    while (m_done.size() > 1 && (m_done.size() > most_steps || m_size > most_changes))
+    {
+        m_size -= SizeOf(m_done.front());
+        m_done.pop_front();
+    }
+}
+
+void ListHistory::Clear()
+{
+    *this = {};
+}
+
+std::optional<ListStep> ListHistory::Undo()
+{
+    EndStep();
+    if (m_done.empty())
+    {
+        return std::nullopt;
+    }
+    auto step = std::move(m_done.back());
+    m_done.pop_back();
+    m_size -= SizeOf(step);
+    m_undone.push_back(step);
+    return Reversed(std::move(step));
+}
+
+std::optional<ListStep> ListHistory::Redo()
+{
+    EndStep();
+    if (m_undone.empty())
+    {
+        return std::nullopt;
+    }
+    auto step = std::move(m_undone.back());
+    m_undone.pop_back();
+    m_size += SizeOf(step);
+    m_done.push_back(step);
+    return step;
+}
+
+} // namespace workbench
