@@ -172,6 +172,7 @@ private:
     void WishOrder();
     void TakeOrder();
     void SetNativeCount();
+    void ShowProgress();
     void RepaintRows();
 
     // Painting (XTableCtrlPaint.cpp).

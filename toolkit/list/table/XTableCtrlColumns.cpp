@@ -323,13 +323,14 @@ bool CXTableCtrl::OnHeaderNotify(NMHDR const & header, LRESULT * result)
     }
 }
 
-/// While rows are put in order, a bar at the header's lower edge says how far it is.
+/// While rows are put in order or written to a file, a bar at the header's lower edge says how far it is.
 bool CXTableCtrl::DrawHeaderProgress(NMCUSTOMDRAW const & draw, LRESULT * result)
 {
     constexpr int bar_height = 3;
     State const & state = *m_state;
-    if (!state.task)
+    if (!state.task && !state.exporting)
         return false;
+    int const done = state.task ? OrderProgress() : ExportProgress();
     if (draw.dwDrawStage == CDDS_PREPAINT)
     {
         *result = CDRF_NOTIFYPOSTPAINT;
@@ -344,7 +345,7 @@ bool CXTableCtrl::DrawHeaderProgress(NMCUSTOMDRAW const & draw, LRESULT * result
     CPoint origin(0, 0);
     ::MapWindowPoints(m_hWnd, draw.hdr.hwndFrom, &origin, 1);
     bar.left = origin.x;
-    bar.right = origin.x + ::MulDiv(client.Width(), state.task->Progress().Done(), 1000);
+    bar.right = origin.x + ::MulDiv(client.Width(), done, 1000);
     bar.top = bar.bottom - bar_height;
     CDC & dc = *CDC::FromHandle(draw.hdc);
     COLORREF const former = dc.GetBkColor();

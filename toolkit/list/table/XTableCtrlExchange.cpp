@@ -75,6 +75,8 @@ bool CXTableCtrl::ExportRows(std::wstring const & path, TableForm form, bool sel
     if (state.exporting)
         return false;
     state.exporting = std::make_shared<TableExport>();
+    if (m_hWnd != nullptr)
+        SetTimer(table_timers::progress, table_timers::progress_interval, nullptr);
     table_threads::Run([work = state.exporting, waker = state.waker, path, form, looks = state.model.SharedLooks(),
                         columns = state.layout.Shown(), rows = RowsOf(state.model, selectionOnly),
                         source = std::weak_ptr<TableSource const>(state.model.Source())] {

@@ -228,8 +228,13 @@ void CXTableCtrl::OnKeyDown(UINT character, UINT repeats, UINT flags)
         if (control)
             PasteBlock();
         return;
+    case VK_LEFT:
+        SendMessage(WM_HSCROLL, SB_LINELEFT, 0);
+        return;
+    case VK_RIGHT:
+        SendMessage(WM_HSCROLL, SB_LINERIGHT, 0);
+        return;
     default:
-        // Sideways the native list scrolls.
         CListCtrl::OnKeyDown(character, repeats, flags);
         return;
     }

@@ -26,6 +26,7 @@ void CXTableCtrl::OnWoken()
     if (m_state->exporting && m_state->exporting->finished.load(std::memory_order_acquire))
     {
         bool const whole = std::exchange(m_state->exporting, nullptr)->whole.load();
+        ShowProgress();
         auto const callback = m_onExportEnd;
         if (callback)
             callback(whole);
@@ -58,9 +59,8 @@ void CXTableCtrl::OnTimer(UINT_PTR id)
         KillTimer(id);
         Follow(true);
         return;
-    case table_timers::order:
-        if (CHeaderCtrl * const header = GetHeaderCtrl(); header != nullptr)
-            header->Invalidate(FALSE);
+    case table_timers::progress:
+        ShowProgress();
         return;
     default:
         CListCtrl::OnTimer(id);
@@ -168,9 +168,13 @@ void CXTableCtrl::SetNativeCount()
         return;
     // The native list takes so many.
     constexpr TableRow most_rows = 100000000;
-    CListCtrl::SetItemCountEx(static_cast<int>(std::min(m_state->model.Size(), most_rows)),
-                              LVSICF_NOINVALIDATEALL | LVSICF_NOSCROLL);
-    RepaintRows();
+    auto const former = static_cast<TableRow>(std::max(GetItemCount(), 0));
+    TableRow const size = std::min(m_state->model.Size(), most_rows);
+    CListCtrl::SetItemCountEx(static_cast<int>(size), LVSICF_NOINVALIDATEALL | LVSICF_NOSCROLL);
+    // Rows that come or go out of sight are no matter.
+    auto const end = static_cast<TableRow>(std::max(GetTopIndex(), 0) + std::max(GetCountPerPage(), 0)) + 1;
+    if (std::min(former, size) < end)
+        RepaintRows();
 }
 
 void CXTableCtrl::RepaintRows()
@@ -192,13 +196,12 @@ void CXTableCtrl::WishOrder()
     {
         View const before = PresentView();
         TableEffect const effect = state.model.FindOrder();
-        if (m_hWnd != nullptr)
-            KillTimer(table_timers::order);
+        ShowProgress();
         TakeEffect(effect, before);
         return;
     }
     state.task = state.model.BeginOrder();
-    SetTimer(table_timers::order, table_timers::order_interval, nullptr);
+    SetTimer(table_timers::progress, table_timers::progress_interval, nullptr);
     table_threads::Run([task = state.task, waker = state.waker] {
         task->Run();
         waker->Wake();
@@ -210,9 +213,7 @@ void CXTableCtrl::TakeOrder()
     State & state = *m_state;
     View const before = PresentView();
     std::shared_ptr<TableOrderTask> const task = std::exchange(state.task, nullptr);
-    KillTimer(table_timers::order);
-    if (CHeaderCtrl * const header = GetHeaderCtrl(); header != nullptr)
-        header->Invalidate(FALSE);
+    ShowProgress();
     TakeEffect(state.model.TakeOrder(*task), before);
 }
 
@@ -224,9 +225,18 @@ void CXTableCtrl::StopOrdering()
     state.task->Progress().Stop();
     state.task.reset();
     state.orderStopped = true;
+    ShowProgress();
+}
+
+// Until nothing is going on any more.
+void CXTableCtrl::ShowProgress()
+{
     if (m_hWnd == nullptr)
         return;
-    KillTimer(table_timers::order);
+    if (!m_state->task && !m_state->exporting)
+        KillTimer(table_timers::progress);
     if (CHeaderCtrl * const header = GetHeaderCtrl(); header != nullptr)
         header->Invalidate(FALSE);
+    if (m_state->frozenHeader.m_hWnd != nullptr)
+        m_state->frozenHeader.Invalidate(FALSE);
 }

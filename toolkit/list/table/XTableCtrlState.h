@@ -98,9 +98,9 @@ struct CXTableCtrl::State
 namespace table_timers
 {
 constexpr UINT_PTR repaint = 0x7A01;
-constexpr UINT_PTR order = 0x7A02;
+constexpr UINT_PTR progress = 0x7A02;
 constexpr UINT_PTR place = 0x7A03;
-constexpr UINT order_interval = 50;
+constexpr UINT progress_interval = 50;
 constexpr UINT place_interval = 250;
 } // namespace table_timers
 
