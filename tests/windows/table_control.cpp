@@ -134,6 +134,24 @@ TEST_F(TableControl, PressesAndKeysSelect)
     EXPECT_EQ(table->FocusRow(), 0U);
 }
 
+TEST_F(TableControl, ADoubleClickOnAnotherRowSelectsIt)
+{
+    Show({0, 1, 2});
+    TableRow opened = no_table_row;
+    table->m_onDoubleClick = [&opened](TableRow row, unsigned int) { opened = row; };
+    Press(1, 0);
+    CPoint const point = CellPoint(1, 0);
+    table->SendMessage(WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(point.x, point.y));
+    EXPECT_EQ(opened, 1U);
+    opened = no_table_row;
+    table->SortBy({{TableRowsSource::number_column, true}});
+    Press(0, 0);
+    table->SortBy({{TableRowsSource::number_column, false}});
+    table->SendMessage(WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(point.x, point.y));
+    EXPECT_EQ(opened, no_table_row) << "the row that was pressed first has gone from there";
+    EXPECT_EQ(table->SelectedRows(), (Order{1}));
+}
+
 TEST_F(TableControl, RealKeysSelectAsWell)
 {
     Show({0, 1, 2, 3, 4, 5});

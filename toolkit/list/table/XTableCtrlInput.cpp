@@ -118,12 +118,17 @@ void CXTableCtrl::OnRButtonDown(UINT flags, CPoint point)
 
 void CXTableCtrl::OnLButtonDblClk(UINT flags, CPoint point)
 {
-    static_cast<void>(flags);
     TableRow position = 0;
     unsigned int column = 0;
     if (!HitCell(point, position, column))
         return;
     TableRow const row = m_state->model.RowAt(position);
+    // Since the first press another row may have come here, or the selection may have changed.
+    if (!m_state->model.IsSelected(position) || m_state->model.FocusRow() != row)
+    {
+        OnLButtonDown(flags, point);
+        return;
+    }
     TableValue value;
     TableColumn const * const described = m_state->Column(column);
     // The second press on a mark is one like the first.
