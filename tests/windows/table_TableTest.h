@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <memory>
 #include <mutex>
 #include <string>
@@ -156,6 +157,8 @@ public:
 
     /// Each column has its own colour instead of white.
     bool m_columnColours = false;
+    /// Called while a cell is painted.
+    std::function<void()> m_onColours;
     static constexpr COLORREF Colour(unsigned int column) { return RGB(10 + 40 * column, 200, 100); }
 
 protected:
@@ -164,6 +167,9 @@ protected:
         CXTableCtrl::GetCellColors(row, column, text, background);
         if (m_columnColours)
             background = Colour(column);
+        auto const callback = m_onColours;
+        if (callback)
+            callback();
     }
 };
 

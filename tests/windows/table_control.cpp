@@ -236,6 +236,68 @@ TEST_F(TableControl, ACallbackMayEndTheTable)
     EXPECT_EQ(table, nullptr);
 }
 
+TEST_F(TableControl, ChangesDuringAPaintDoNoHarm)
+{
+    Show({1, 2, 3, 4});
+    int calls = 0;
+    table->m_onColours = [this, &calls] {
+        switch (++calls)
+        {
+        case 2:
+            table->HideTableColumn(1, true);
+            break;
+        case 4:
+            table->SortBy({{TableRowsSource::number_column, true}});
+            break;
+        case 6:
+            source->Resize(2);
+            table->UpdateNow();
+            break;
+        case 9:
+            table->SetColumns({Columns()[0]});
+            break;
+        case 11:
+            table->SetSource(nullptr);
+            break;
+        default:
+            break;
+        }
+    };
+    for (int i = 0; i < 12; ++i)
+    {
+        table->Invalidate();
+        table->UpdateWindow();
+    }
+    EXPECT_GE(calls, 11);
+    EXPECT_TRUE(tests::PumpUntil([this] { return table->GetItemCount() == 0; }));
+    EXPECT_EQ(table->GetHeaderCtrl()->GetItemCount(), 1);
+    table->m_onColours = {};
+    table->SetColumns(Columns());
+    Show({5});
+    EXPECT_EQ(table->GetItemText(0, 1), L"5.0");
+}
+
+TEST_F(TableControl, ANativeListBecomesATable)
+{
+    HWND const native = ::CreateWindowExW(0, WC_LISTVIEWW, L"", WS_CHILD | WS_VISIBLE | LVS_REPORT | LVS_OWNERDATA, 0,
+                                          220, 300, 40, parent.m_hWnd, nullptr, nullptr, nullptr);
+    ASSERT_NE(native, nullptr);
+    {
+        tests::TestTable other;
+        ASSERT_TRUE(other.SubclassWindow(native));
+        other.SetColumns(Columns());
+        auto const rows = std::make_shared<TableRowsSource>();
+        rows->Append(L"one", 1);
+        other.SetSource(rows);
+        EXPECT_EQ(other.GetItemText(0, 0), L"one");
+        rows->SetNumber(0, 3);
+        rows->Append(L"two", 2);
+        other.Feed()->RowsAppended(1);
+        EXPECT_TRUE(tests::PumpUntil([&other] { return other.GetItemCount() == 2; }));
+    }
+    EXPECT_FALSE(::IsWindow(native));
+}
+
 TEST_F(TableControl, ManyRowsAreSortedBesideTheWindow)
 {
     auto const many = std::make_shared<tests::ManyRowsSource>();

@@ -117,7 +117,7 @@ void CXTableCtrl::SetSource(std::shared_ptr<TableSource> const & source)
     m_state->feed->Take();
     m_state->model.SetSource(source);
     SetNativeCount();
-    if (m_hWnd != nullptr && RowsShown() != 0)
+    if (m_hWnd != nullptr && RowsShown() != 0 && m_state->painting == 0)
         EnsureVisible(0, FALSE);
     WishOrder();
     RepaintRows();
@@ -214,7 +214,7 @@ bool CXTableCtrl::GoToRow(TableRow row)
     if (position == TableModel::nowhere)
         return false;
     table_input::Go(m_state->model, position, false, false);
-    if (m_hWnd != nullptr)
+    if (m_hWnd != nullptr && m_state->painting == 0)
         EnsureVisible(static_cast<int>(position), FALSE);
     AfterSelection(false);
     return true;
@@ -249,7 +249,7 @@ LRESULT CXTableCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
         if (wParam == 0)
             OnWoken();
         else
-            MakeNativeColumns();
+            FollowNatively();
         return 0;
     }
     LRESULT result = 0;

@@ -125,7 +125,7 @@ protected:
     BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT * result) override;
     /// The header's menu: which columns are shown. screen: where.
     virtual void ShowColumnMenu(CPoint screen);
-    /// Colours of a cell that is about to be painted, but for those of the selection.
+    /// Colours of a cell that is about to be painted, but for those of the selection. Must not end the table.
     virtual void GetCellColors(TableRow row, unsigned int column, COLORREF & text, COLORREF & background);
 
     afx_msg BOOL OnCustomDraw(NMHDR * header, LRESULT * result);
@@ -154,6 +154,9 @@ private:
     // Columns and header (XTableCtrlColumns.cpp).
     void PrepareWindow();
     void MakeNativeColumns();
+    /// What had to wait for the end of a paint or notification.
+    void FollowNatively();
+    bool MustWait();
     void LoadColumns();
     void StoreColumn(unsigned int column);
     void StoreColumns();

@@ -69,6 +69,8 @@ void CXTableCtrl::PrepareWindow()
 void CXTableCtrl::MakeNativeColumns()
 {
     State & state = *m_state;
+    if (MustWait())
+        return;
     state.shown = state.layout.Shown();
     if (!state.prepared)
         return;
@@ -100,6 +102,24 @@ void CXTableCtrl::MakeNativeColumns()
     header.Invalidate(FALSE);
 }
 
+bool CXTableCtrl::MustWait()
+{
+    if (m_state->painting == 0)
+        return false;
+    m_state->nativeWaits = true;
+    return true;
+}
+
+void CXTableCtrl::FollowNatively()
+{
+    if (MustWait())
+        return;
+    m_state->nativeWaits = false;
+    MakeNativeColumns();
+    SetNativeCount();
+    RepaintRows();
+}
+
 void CXTableCtrl::ShowSortMarks()
 {
     State & state = *m_state;
@@ -109,6 +129,9 @@ void CXTableCtrl::ShowSortMarks()
     CHeaderCtrl & header = *GetHeaderCtrl();
     for (std::size_t i = 0; i < state.shown.size(); ++i)
     {
+        // Columns that are about to be made anew.
+        if (state.Column(state.shown[i]) == nullptr)
+            continue;
         HDITEMW item = {};
         item.mask = HDI_FORMAT;
         header.GetItem(static_cast<int>(i), &item);

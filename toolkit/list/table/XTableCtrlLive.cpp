@@ -114,7 +114,8 @@ void CXTableCtrl::Follow(bool now)
         WishOrder();
     if (life.Over() || m_hWnd == nullptr)
         return;
-    UpdateWindow();
+    if (m_state->painting == 0)
+        UpdateWindow();
     if (!life.Over())
         m_state->pace.Painted(static_cast<long long>(::GetTickCount64()));
 }
@@ -125,6 +126,11 @@ void CXTableCtrl::TakeEffect(TableEffect const & effect, View const & before)
         return;
     if (effect.sizeChanged)
         SetNativeCount();
+    if (m_state->painting != 0)
+    {
+        RepaintRows();
+        return;
+    }
     if (before.atEnd && effect.sizeChanged && m_state->model.Size() != 0)
     {
         EnsureVisible(static_cast<int>(m_state->model.Size() - 1), FALSE);
@@ -164,7 +170,7 @@ void CXTableCtrl::TakeEffect(TableEffect const & effect, View const & before)
 
 void CXTableCtrl::SetNativeCount()
 {
-    if (m_hWnd == nullptr)
+    if (m_hWnd == nullptr || MustWait())
         return;
     // The native list takes so many.
     constexpr TableRow most_rows = 100000000;

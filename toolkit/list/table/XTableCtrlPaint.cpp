@@ -109,9 +109,13 @@ void CXTableCtrl::OnPaint()
     LifeWatch const life(m_lifeSign);
     ++m_state->repaints;
     PrepareLook();
+    ++m_state->painting;
     Default();
-    if (!life.Over())
-        m_state->edges.clear();
+    if (life.Over())
+        return;
+    m_state->edges.clear();
+    if (--m_state->painting == 0 && m_state->nativeWaits && m_hWnd != nullptr)
+        PostMessage(Waker::WakeMessage(), 1, 0);
 }
 
 BOOL CXTableCtrl::OnCustomDraw(NMHDR * header, LRESULT * result)

@@ -54,6 +54,9 @@ struct CXTableCtrl::State
     std::vector<unsigned int> shown;
     /// While native columns are made, what the header tells is no wish of the user's.
     int making = 0;
+    /// Paints that are going on. The native list stands no change of its columns and rows meanwhile; they wait.
+    int painting = 0;
+    bool nativeWaits = false;
     CHeaderCtrl frozenHeader;
 
     CellLook look;
