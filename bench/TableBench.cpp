@@ -142,7 +142,6 @@ bool PaintingAPage()
     CXTableCtrl table;
     table.SetColumns(Columns(TableKind::text));
     table.Create(list_style, CRect(0, 0, list_width, list_height), &window, 7);
-    table.SetExtendedStyle(table.GetExtendedStyle() & ~LVS_EX_DOUBLEBUFFER);
     table.SetSource(source);
     CXListCtrl list;
     list.Create(list_style, CRect(list_width, 0, 2 * list_width, list_height), &window, 8);

@@ -53,7 +53,7 @@ void CXTableCtrl::PrepareWindow()
         return;
     state.prepared = true;
     state.waker->SetWindow(m_hWnd);
-    SetExtendedStyle(GetExtendedStyle() | LVS_EX_DOUBLEBUFFER | LVS_EX_FULLROWSELECT | LVS_EX_HEADERDRAGDROP);
+    SetExtendedStyle(GetExtendedStyle() | LVS_EX_FULLROWSELECT | LVS_EX_HEADERDRAGDROP);
     state.frozenHeader.Create(WS_CHILD | WS_CLIPSIBLINGS | HDS_HORZ | HDS_BUTTONS | CCS_NOPARENTALIGN,
                               CRect(0, 0, 0, 0), this, frozen_header_id);
     state.frozenHeader.SetFont(GetFont(), FALSE);

@@ -163,7 +163,7 @@ void CXTableCtrl::TakeEffect(TableEffect const & effect, View const & before)
             GetClientRect(&client);
             rect.left = client.left;
             rect.right = client.right;
-            InvalidateRect(&rect, FALSE);
+            RedrawWindow(&rect, nullptr, RDW_INVALIDATE | RDW_NOCHILDREN);
         }
     }
 }
@@ -185,9 +185,9 @@ void CXTableCtrl::SetNativeCount()
 
 void CXTableCtrl::RepaintRows()
 {
-    if (m_hWnd == nullptr)
-        return;
-    Invalidate(FALSE);
+    // Not the header, which costs more than a page of cells.
+    if (m_hWnd != nullptr)
+        RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_NOCHILDREN);
 }
 
 // Few rows are put in order at once, many beside the window.
