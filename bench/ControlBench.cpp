@@ -27,6 +27,7 @@ constexpr Measure measures[] = {
     {"combo", bench::OpeningACombo},
     {"workbench", bench::OpeningRecordings},
     {"docking", bench::ResizingDockedPanes},
+    {"table", bench::ShowingATable},
 };
 } // namespace
 

@@ -22,6 +22,7 @@ bool PaintingSegmentCharacters();
 bool OpeningRecordings();
 bool OpeningACombo();
 bool ResizingDockedPanes();
+bool ShowingATable();
 
 inline void PumpAll()
 {

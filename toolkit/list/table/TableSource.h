@@ -87,7 +87,7 @@ private:
 /// The host's rows. They are asked for by the window's thread and by threads of the table's own (sorting, filtering and
 /// export of many rows), so that every question must be answered on any thread, also several at a time. The table holds
 /// its source by a weak pointer and locks it for some questions at a time only: the last to let go of it may be one of
-/// the table's threads.
+/// the table's threads. No answer may be an exception.
 class TableSource
 {
 public:

@@ -52,6 +52,13 @@ struct TableLocale
     std::function<std::optional<long long>(std::wstring_view text)> parseTime;
 };
 
+/// How a table shows its values: never changed once it is shared with work on other threads.
+struct TableLooks
+{
+    std::vector<TableColumn> columns;
+    TableLocale locale;
+};
+
 /// The title with the unit, where it stands there: "Peak [V]".
 INSTRUMENT_UI_API std::wstring TitleOf(TableColumn const & column);
 /// The name by which the column is remembered.
