@@ -116,6 +116,8 @@ bool ShowingForTheFirstTime()
         table.Create(list_style, CRect(0, 0, list_width, list_height), &window, 7);
         CListCtrl native;
         native.Create(list_style | LVS_OWNERDATA, CRect(list_width, 0, 2 * list_width, list_height), &window, 8);
+        for (unsigned int column = 0; column < column_count; ++column)
+            native.InsertColumn(static_cast<int>(column), L"column", LVCFMT_LEFT, column_width);
         PumpAll();
         ours.push_back(Nanoseconds([&] {
             table.SetSource(source);
@@ -130,9 +132,8 @@ bool ShowingForTheFirstTime()
         PumpAll();
     }
     constexpr double goal = 50e6;
-    return bench::ReportTime(
-        "table: a million rows of 8 columns shown for the first time, beside an empty owner-data list",
-        bench::Median(ours), bench::Median(reference), goal);
+    return bench::ReportTime("table: a million rows of 8 columns shown for the first time, beside a list without texts",
+                             bench::Median(ours), bench::Median(reference), goal);
 }
 
 bool PaintingAPage()

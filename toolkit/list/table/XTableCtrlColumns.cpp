@@ -155,9 +155,11 @@ void CXTableCtrl::PlaceFrozenHeader()
     CHeaderCtrl & over = state.frozenHeader;
     if (!state.prepared || over.m_hWnd == nullptr)
         return;
+    unsigned int const frozen = state.layout.Frozen();
+    if (frozen == 0 && over.GetItemCount() == 0)
+        return;
     CHeaderCtrl & header = *GetHeaderCtrl();
     ++state.making;
-    unsigned int const frozen = state.layout.Frozen();
     for (int count = over.GetItemCount(); count > static_cast<int>(frozen); --count)
         over.DeleteItem(count - 1);
     int width = 0;

@@ -195,14 +195,14 @@ void CXTableCtrl::WishOrder()
 {
     State & state = *m_state;
     state.orderStopped = false;
-    state.task.reset();
+    if (std::exchange(state.task, nullptr))
+        ShowProgress();
     if (!state.model.NeedsOrder())
         return;
     if (m_hWnd == nullptr || !state.model.OrderTakesLong())
     {
         View const before = PresentView();
         TableEffect const effect = state.model.FindOrder();
-        ShowProgress();
         TakeEffect(effect, before);
         return;
     }
