@@ -62,11 +62,15 @@ public:
 
     // --- Order and choice ---
 
+    /// The first one decides first; none for the source's order.
     void SortBy(std::vector<TableSortColumn> columns);
+    /// What was wished for last, by the host or the user.
     std::vector<TableSortColumn> const & SortColumns() const;
+    /// Shows the rows that fulfil it.
     void SetRowFilter(TableFilter filter);
-    /// Many rows are put in order beside the window: whether that is going on, and how far it is, per mille.
+    /// Whether many rows are being put in order, which is done beside the window.
     bool IsOrdering() const;
+    /// How far that is, per mille.
     int OrderProgress() const;
     /// Leaves the rows as they are. Escape does the same.
     void StopOrdering();
@@ -81,11 +85,13 @@ public:
     TableRow PositionOf(TableRow row) const;
     /// In the order shown.
     std::vector<TableRow> SelectedRows() const;
+    /// Whether it is shown or not.
     bool IsRowSelected(TableRow row) const;
     /// no_table_row if none has it.
     TableRow FocusRow() const;
     /// Selects the row alone, as a click would, and brings it into view. Calls nothing back. False if it is not shown.
     bool GoToRow(TableRow row);
+    /// All rows shown. Calls nothing back.
     void SelectAllRows();
     /// What the cell shows.
     std::wstring ShownText(TableRow row, unsigned int column) const;
@@ -106,9 +112,11 @@ public:
     bool CopyRows(TableForm form, bool selectionOnly, bool titles);
     /// Writes a file in UTF-8 beside the window; false if one is being written already.
     bool ExportRows(std::wstring const & path, TableForm form, bool selectionOnly);
+    /// Whether a file is being written.
     bool IsExporting() const;
     /// Per mille.
     int ExportProgress() const;
+    /// Ends it and takes the file away.
     void StopExport();
     /// Puts what the clipboard has into cells, from the one with the focus on.
     TablePasteReport PasteBlock();

@@ -9,6 +9,7 @@
 #include "list/table/TableColumnLayout.h"
 #include "list/table/TableInput.h"
 #include "list/table/TableModel.h"
+#include "list/table/TablePace.h"
 
 /// Posts to the window from any thread; to none once that is gone.
 class CXTableCtrl::Waker : public TableWaker
