@@ -646,9 +646,14 @@ CSize CMainWindow::PictureSize(CWnd & view) const
 void CMainWindow::SavePictureOf(CWnd & view, workbench::Drawing const & draw)
 {
     auto const * const chosen = RecordingAt(m_list.ChosenLine());
-    auto const file =
-        workbench::ChoosePictureFile(*this, chosen != nullptr ? chosen->file.stem().wstring() : std::wstring());
-    if (file && !workbench::SavePicture(*this, PictureSize(view), draw, *file))
+    auto const name = chosen != nullptr ? chosen->file.stem().wstring() : std::wstring();
+    LifeWatch const life(m_life);
+    auto const file = workbench::ChoosePictureFile(*this, name);
+    if (!file || life.Over() || m_hWnd == nullptr)
+    {
+        return;
+    }
+    if (!workbench::SavePicture(*this, PictureSize(view), draw, *file))
     {
         AfxMessageBox(Text(L"This file could not be written:") + (L"\n\n" + CString(file->c_str())),
                       MB_ICONEXCLAMATION);

@@ -106,11 +106,18 @@ void CSpectrogramView::EndJob()
     }
 }
 
-/// Computes all of the file, or a stretch of it.
+/// Computes all of the file, or a stretch of it. Its progress shows while there is nothing else to see.
 void CSpectrogramView::StartJob(std::optional<workbench::FrameRange> const & stretch)
 {
     EndJob();
     m_jobStretch = stretch;
+    if (!m_result)
+    {
+        m_progress.SetPos(0);
+        PlaceProgress();
+        m_progress.ShowWindow(SW_SHOWNA);
+        SetTimer(progress_timer, progress_period, nullptr);
+    }
     m_job = std::make_unique<workbench::SpectrogramJob>(
         m_file, [window = GetSafeHwnd()] { ::PostMessageW(window, message_computed, 0, 0); }, m_settings, stretch);
 }
@@ -147,10 +154,6 @@ void CSpectrogramView::ShowRecording(std::wstring name, std::filesystem::path co
     ShowText(std::move(name), Text(L"The spectrogram is being computed."));
     m_file = path;
     StartJob(std::nullopt);
-    m_progress.SetPos(0);
-    PlaceProgress();
-    m_progress.ShowWindow(SW_SHOWNA);
-    SetTimer(progress_timer, progress_period, nullptr);
 }
 
 void CSpectrogramView::SetSettings(workbench::SpectrogramSettings const & settings)
@@ -233,6 +236,10 @@ LRESULT CSpectrogramView::OnComputed(WPARAM, LPARAM)
     if (m_marks.window.Frames() != m_result->spectrogram.Frames())
     {
         m_marks = workbench::TimeMarks(m_result->spectrogram.Frames());
+    }
+    if (NeedsFiner())
+    {
+        SetTimer(finer_timer, finer_delay, nullptr);
     }
     if (auto const onComputed = m_onComputed)
     {

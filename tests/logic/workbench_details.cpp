@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <chrono>
 #include <fstream>
 #include <limits>
@@ -137,6 +138,18 @@ TEST(RecordingDetails, SayEverythingAboutARecording)
                                               {L"Harmonic distortion", L"0.125 %"},
                                               {L"Status", L"OK"}};
     EXPECT_EQ(DescribeRecording("measured/a.wav", GoodRecording(), L"yesterday"), expected);
+}
+
+TEST(RecordingDetails, GiveWhatThereIsNotNoUnit)
+{
+    auto analysis = GoodRecording();
+    analysis.levels = {-beyond_all, -beyond_all};
+    analysis.loudness.reset();
+    analysis.tone = {};
+    auto const lines = DescribeRecording("a.wav", analysis, L"");
+    auto const dashes =
+        std::count_if(lines.begin(), lines.end(), [](DetailLine const & line) { return line.text == L"-"; });
+    EXPECT_EQ(dashes, 4);
 }
 
 TEST(RecordingDetails, SayOfAFileThatIsNoneWhatItIsAndWhy)

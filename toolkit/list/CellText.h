@@ -13,7 +13,7 @@ public:
 
     /// ask(wchar_t * buffer, int room): copies the text as far as there is room for it and its end mark; the number of
     /// characters. limit: so many are enough.
-    template <class Ask> explicit CellText(Ask && ask, int limit = whole)
+    template <class Ask> explicit CellText(Ask ask, int limit = whole)
     {
         int room = limit < usual_room ? limit + 1 : usual_room;
         m_short[0] = L'\0';

@@ -6,6 +6,17 @@
 namespace workbench
 {
 
+namespace
+{
+
+/// What there is not has no unit.
+std::wstring WithUnit(std::wstring const & value, wchar_t const * unit)
+{
+    return value == L"-" ? value : value + unit;
+}
+
+} // namespace
+
 std::wstring FormatCoding(RecordingInfo const & info)
 {
     return std::to_wstring(info.bitsPerSample) +
@@ -38,10 +49,10 @@ std::vector<DetailLine> DescribeRecording(std::filesystem::path const & path, Re
                                                 (info.frames == 1 ? Text(L"sample") : Text(L"samples")) + L')'});
         lines.push_back({Text(L"Peak level"), FormatLevel(analysis.levels.peak) + L" dBFS"});
         lines.push_back({Text(L"RMS level"), FormatLevel(analysis.levels.rms) + L" dBFS"});
-        lines.push_back({Text(L"Crest factor"), FormatCrestFactor(analysis.levels) + L" dB"});
-        lines.push_back({Text(L"Loudness"), FormatLoudness(analysis.loudness) + L" LUFS"});
-        lines.push_back({Text(L"Strongest frequency"), FormatFrequency(analysis.tone.frequency) + L" Hz"});
-        lines.push_back({Text(L"Harmonic distortion"), FormatPercent(analysis.tone.distortion) + L" %"});
+        lines.push_back({Text(L"Crest factor"), WithUnit(FormatCrestFactor(analysis.levels), L" dB")});
+        lines.push_back({Text(L"Loudness"), WithUnit(FormatLoudness(analysis.loudness), L" LUFS")});
+        lines.push_back({Text(L"Strongest frequency"), WithUnit(FormatFrequency(analysis.tone.frequency), L" Hz")});
+        lines.push_back({Text(L"Harmonic distortion"), WithUnit(FormatPercent(analysis.tone.distortion), L" %")});
     }
     lines.push_back({Text(L"Status"), analysis.StatusText()});
     return lines;

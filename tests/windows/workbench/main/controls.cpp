@@ -761,6 +761,12 @@ TEST_F(WorkbenchClosing, OfTheExport)
     CloseWhileOpen([&] { m_window->SendMessage(WM_COMMAND, ID_EXPORT_LIST); }, {m_window->m_hWnd});
 }
 
+TEST_F(WorkbenchClosing, OfSavingAPicture)
+{
+    Show(1);
+    CloseWhileOpen([&] { m_window->SendMessage(WM_COMMAND, ID_SAVE_WAVEFORM); }, {m_window->m_hWnd});
+}
+
 TEST_F(WorkbenchClosing, OfATreeThatIsBeingFilled)
 {
     m_window->ShowFolders(true);

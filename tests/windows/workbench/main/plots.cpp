@@ -436,6 +436,34 @@ TEST_F(SpectrogramPlot, OtherSettingsAreComputedAndKeepTheMarks)
     EXPECT_FALSE(view.IsComputing());
 }
 
+TEST_F(SpectrogramPlot, OtherSettingsReachThePartShown)
+{
+    path = WriteTone(4800000, "long.wav");
+    view.ShowRecording(L"Long", path);
+    ASSERT_TRUE(tests::PumpUntil([this] { return !view.IsComputing(); }));
+    TimeMarks marks(4800000);
+    marks.window.Show({2400000, 2410000});
+    view.SetMarks(marks);
+    view.SetSettings({1024, 50});
+    // All of it first, and then the part, a moment later.
+    for (int job = 0; job < 2; ++job)
+    {
+        ASSERT_TRUE(tests::PumpUntil([this] { return view.IsComputing(); })) << job;
+        ASSERT_TRUE(tests::PumpUntil([this] { return !view.IsComputing(); })) << job;
+    }
+}
+
+TEST_F(SpectrogramPlot, OtherSettingsBeforeTheFirstResultKeepTheProgress)
+{
+    path = WriteTone(4800000, "long.wav");
+    view.ShowRecording(L"Long", path);
+    view.SetSettings({4096, 75});
+    EXPECT_TRUE(view.IsComputing());
+    EXPECT_TRUE(view.GetWindow(GW_CHILD)->IsWindowVisible());
+    ASSERT_TRUE(tests::PumpUntil([this] { return !view.IsComputing(); }));
+    EXPECT_FALSE(view.GetWindow(GW_CHILD)->IsWindowVisible());
+}
+
 TEST_F(SpectrogramPlot, AnEndWhileAPartIsComputed)
 {
     path = WriteTone(4800000, "long.wav");
