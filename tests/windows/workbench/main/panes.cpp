@@ -417,8 +417,8 @@ TEST_F(WorkbenchPanes, FollowTheLanguageAtOnce)
     EXPECT_EQ(cell(0, CRecordingList::column_rating), rating);
     EXPECT_EQ(name(0), L"&File");
     EXPECT_EQ(item(5, 0), L"Folders\tCtrl+1");
-    EXPECT_EQ(item(5, 5), L""); // a separator
-    EXPECT_EQ(item(5, 6), L"&Reset layout");
+    EXPECT_EQ(item(5, 6), L""); // a separator
+    EXPECT_EQ(item(5, 7), L"&Reset layout");
     ::SetThreadLocale(locale);
     ::SetThreadUILanguage(0);
 }
