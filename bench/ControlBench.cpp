@@ -28,6 +28,7 @@ constexpr Measure measures[] = {
     {"workbench", bench::OpeningRecordings},
     {"docking", bench::ResizingDockedPanes},
     {"table", bench::ShowingATable},
+    {"frame-measures", bench::MeasuringFrames},
 };
 } // namespace
 

@@ -23,6 +23,7 @@ bool OpeningRecordings();
 bool OpeningACombo();
 bool ResizingDockedPanes();
 bool ShowingATable();
+bool MeasuringFrames();
 
 inline void PumpAll()
 {

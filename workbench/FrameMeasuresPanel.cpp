@@ -274,8 +274,8 @@ workbench::FrameRaster const * CFrameMeasuresPanel::Raster() const
 
 void CFrameMeasuresPanel::ShowCursor(std::uint64_t frame)
 {
-    // A selection of several rows stays while the plots are scrolled or zoomed.
-    if (m_isChoosing || (frame == m_cursor && !m_wantsRow))
+    // A selection of several rows stays while the plots are scrolled or zoomed, and when they follow it.
+    if (frame == m_cursor && !m_wantsRow)
     {
         return;
     }
@@ -318,14 +318,7 @@ void CFrameMeasuresPanel::OnChosen()
     auto const onFrame = m_onFrame;
     if (onFrame)
     {
-        LifeWatch const life(m_life);
-        auto const frame = m_cursor;
-        m_isChoosing = true;
-        onFrame(frame);
-        if (!life.Over())
-        {
-            m_isChoosing = false;
-        }
+        onFrame(m_cursor);
     }
 }
 

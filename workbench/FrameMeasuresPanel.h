@@ -100,7 +100,6 @@ private:
     std::unique_ptr<workbench::FrameMeasuresJob> m_job;
     std::uint64_t m_cursor = 0;
     bool m_wantsRow = false;    ///< the cursor's row is still to be selected
-    bool m_isChoosing = false;  ///< what the user has chosen is being told
     bool m_stopsExport = false; ///< by the user
     LifeSign m_life;
 };

@@ -448,7 +448,7 @@ TEST(WorkbenchFrameMeasuresJob, RowsAreReadWhileOthersCome)
         EXPECT_EQ(rows->Raster().Rows(), 36'000'000u);
     }
     EXPECT_EQ(told.ends, 0) << "given up, it tells nothing";
-    EXPECT_EQ(rows->Size(), told.rows);
+    EXPECT_GE(rows->Size(), told.rows);
     EXPECT_LT(rows->Size(), 36'000'000u);
 }
 
@@ -462,6 +462,7 @@ TEST(WorkbenchFrameMeasuresJob, WhatWasMeasuredStaysWhenReadingFails)
     EXPECT_FALSE(result->problem);
     EXPECT_FALSE(result->whole);
     EXPECT_GT(job.Rows()->Size(), 5000u);
+    EXPECT_EQ(told.rows, job.Rows()->Size()) << "and is told";
 
     Told other;
     FrameMeasuresJob missing("missing.wav", other.Listener());

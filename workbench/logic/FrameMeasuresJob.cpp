@@ -1,5 +1,6 @@
 #include "logic/FrameMeasuresJob.h"
 
+#include <chrono>
 #include <cmath>
 #include <exception>
 #include <utility>
@@ -7,6 +8,16 @@
 
 namespace workbench
 {
+
+namespace
+{
+
+// More often nobody could see it, and whoever is told has something to do each time.
+constexpr std::chrono::milliseconds tell_interval(40);
+
+using Clock = std::chrono::steady_clock;
+
+} // namespace
 
 FrameMeasuresJob::FrameMeasuresJob(OpenBytes open, Listener listener, FrameSettings const & settings)
     : m_listener(std::move(listener)),
@@ -29,6 +40,14 @@ FrameMeasuresJob::~FrameMeasuresJob()
 void FrameMeasuresJob::Run(OpenBytes const & open, FrameSettings const & settings)
 {
     auto result = std::make_shared<Result>();
+    std::size_t told = 0;
+    auto const tell = [&] {
+        if (auto const count = m_rows->Size() - told; count > 0)
+        {
+            told += count;
+            m_listener.appended(count);
+        }
+    };
     try
     {
         FrameAnalyser analyser(open(), settings);
@@ -36,14 +55,16 @@ void FrameMeasuresJob::Run(OpenBytes const & open, FrameSettings const & setting
         result->problem = analyser.Problem();
         result->info = analyser.Info();
         std::vector<FrameMeasures> rows;
+        Clock::time_point lastTold{};
         for (auto goesOn = true; goesOn && !m_stop;)
         {
             rows.clear();
             goesOn = analyser.Step(rows);
-            if (!rows.empty())
+            m_rows->Append(rows);
+            if (auto const now = Clock::now(); now - lastTold >= tell_interval)
             {
-                m_rows->Append(rows);
-                m_listener.appended(rows.size());
+                tell();
+                lastTold = now;
             }
             m_progress = static_cast<int>(std::lround(analyser.Progress() * whole_progress));
         }
@@ -61,6 +82,7 @@ void FrameMeasuresJob::Run(OpenBytes const & open, FrameSettings const & setting
     {
         return;
     }
+    tell();
     m_result = std::move(result);
     m_done = true;
     m_listener.ended();

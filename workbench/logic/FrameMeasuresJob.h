@@ -29,7 +29,7 @@ public:
     /// What the job tells, none of which may call the job.
     struct Listener
     {
-        std::function<void(std::size_t count)> appended; ///< so many rows have come
+        std::function<void(std::size_t count)> appended; ///< so many rows have come; now and then
         std::function<void()> ended;                     ///< once, when the result is there
     };
 

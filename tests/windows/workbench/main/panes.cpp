@@ -34,7 +34,11 @@ protected:
         std::array<CRect, CMainWindow::part_count> places;
         for (auto part = 0; part < CMainWindow::part_count; ++part)
         {
-            places[static_cast<std::size_t>(part)] = Place(static_cast<Part>(part));
+            // One that is hidden is nowhere.
+            if (m_window->ShowsPane(static_cast<Part>(part)))
+            {
+                places[static_cast<std::size_t>(part)] = Place(static_cast<Part>(part));
+            }
         }
         return places;
     }
