@@ -4,6 +4,8 @@
 
 #include <afxcmn.h>
 
+#include <algorithm>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -58,6 +60,52 @@ TEST_F(TableControl, TheNativeListGetsTheTextsAsShown)
     item.cchTextMax = 40;
     table->GetHeaderCtrl()->GetItem(1, &item);
     EXPECT_STREQ(title, L"Number [V]");
+}
+
+TEST_F(TableControl, TheTitlesStayWhenTheRowsAreOthers)
+{
+    Show({1.25, 20});
+    ASSERT_TRUE(tests::BringToFront(parent.m_hWnd));
+    CHeaderCtrl & header = *table->GetHeaderCtrl();
+    CRect place;
+    header.GetClientRect(&place);
+    tests::Canvas before(place.Width(), place.Height());
+    tests::Canvas after(place.Width(), place.Height());
+    table->RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW | RDW_ALLCHILDREN);
+    before.CopyFromScreen(header);
+    COLORREF const ground = ::GetSysColor(COLOR_WINDOW);
+    ASSERT_LT(before.Count(ground), place.Width() * place.Height()) << "there are titles";
+    auto const stay = [&] {
+        tests::PumpPosted();
+        table->UpdateWindow();
+        after.CopyFromScreen(header);
+        return after.Count(ground) == before.Count(ground);
+    };
+    table->SetSource(nullptr);
+    EXPECT_TRUE(stay()) << "without any";
+    Show({3});
+    EXPECT_TRUE(stay()) << "with one";
+}
+
+TEST_F(TableControl, ASelectedRowIsSeenWithoutTheFocus)
+{
+    Show({1.25, 20});
+    ASSERT_TRUE(tests::BringToFront(parent.m_hWnd));
+    parent.SetFocus();
+    ASSERT_TRUE(table->GoToRow(0));
+    table->RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+    CRect client;
+    table->GetClientRect(&client);
+    tests::Canvas picture(client.Width(), client.Height());
+    picture.CopyFromScreen(*table);
+    CRect row;
+    table->GetItemRect(0, &row, LVIR_BOUNDS);
+    COLORREF const shown = picture.Pixel(row.left + 3, row.bottom - 2);
+    COLORREF const ground = ::GetSysColor(COLOR_WINDOW);
+    auto const apart = [&](int shift) {
+        return std::abs(static_cast<int>(shown >> shift & 255) - static_cast<int>(ground >> shift & 255));
+    };
+    EXPECT_GE(std::max({apart(0), apart(8), apart(16)}), 24) << std::hex << shown;
 }
 
 TEST_F(TableControl, ARowCostsNothing)

@@ -40,6 +40,22 @@ UINT AlignmentOf(TableColumn const & column, TableKind kind)
         return DT_RIGHT;
     return kind == TableKind::time ? DT_CENTER : DT_LEFT;
 }
+
+/// The ground of selected rows without the focus: the system's, unless nobody would see it.
+COLORREF InactiveSelection(CellPalette const & palette)
+{
+    constexpr int least_seen = 24;
+    auto const apart = [&palette](int shift) {
+        return std::abs(static_cast<int>(palette.inactiveSelection >> shift & 0xFF) -
+                        static_cast<int>(palette.window >> shift & 0xFF));
+    };
+    if (std::max({apart(0), apart(8), apart(16)}) >= least_seen)
+        return palette.inactiveSelection;
+    auto const mixed = [&palette](int shift) {
+        return (3 * (palette.window >> shift & 0xFF) + (palette.selection >> shift & 0xFF)) / 4 << shift;
+    };
+    return mixed(0) | mixed(8) | mixed(16);
+}
 } // namespace
 
 // Where columns and rows stand, for all cells of one paint.
@@ -247,7 +263,7 @@ void CXTableCtrl::PaintRowCell(CDC & dc, TableRow row, unsigned int index, CRect
         }
         else
         {
-            background = state.look.palette.inactiveSelection;
+            background = InactiveSelection(state.look.palette);
         }
     }
     CellPaint paint{dc, *cell, rect, text, background};
@@ -288,6 +304,16 @@ BOOL CXTableCtrl::OnEraseBkgnd(CDC * dc)
         header->GetItemRect(static_cast<int>(m_state->shown.size()) - 1, &rect);
         header->MapWindowPoints(this, &rect);
         right = rect.right;
+    }
+    if (header != nullptr && header->IsWindowVisible())
+    {
+        // A repaint of the rows alone has the titles stay: what is painted over them would not be mended.
+        CRect titles(0, 0, 0, 0);
+        header->GetWindowRect(&titles);
+        ScreenToClient(&titles);
+        clip.top = std::max(clip.top, titles.bottom);
+        if (clip.IsRectEmpty())
+            return TRUE;
     }
     CRect first(0, 0, 0, 0);
     CRect lowest(0, 0, 0, 0);
