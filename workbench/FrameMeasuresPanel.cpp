@@ -23,8 +23,8 @@ constexpr int strip_height = 17;
 constexpr int field_height = 13;
 constexpr int label_width = 30;
 constexpr int column_width = 74;
-constexpr int words_width = 70;
-constexpr int least_status_width = 130;
+constexpr int words_width = 96;
+constexpr int least_status_width = 120;
 constexpr int export_width = 60;
 constexpr int part_gap = 4;
 constexpr int list_height = 120; // of the columns
@@ -136,7 +136,7 @@ void CFrameMeasuresPanel::ShowColumns()
         column.kind = TableKind::floating;
         column.format = {NumberStyle::fixed, columns[i].digits, false, UnitPlace::header, columns[i].unit};
         // Room for the title with its mark of sorting; the table counts in pixels at 96 to the inch of its screen.
-        auto const title = dc.GetTextExtent(CString(TitleOf(column).c_str())).cx + 4 * m_metrics->AverageWidth();
+        auto const title = dc.GetTextExtent(CString(TitleOf(column).c_str())).cx + 11 * m_metrics->AverageWidth() / 2 + 1;
         auto const number = dc.GetTextExtent(CString(columns[i].widest)).cx + 3 * m_metrics->AverageWidth();
         column.width =
             ::MulDiv(std::max<int>(title, number), USER_DEFAULT_SCREEN_DPI, dc.GetDeviceCaps(LOGPIXELSX)) + 1;

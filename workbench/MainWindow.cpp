@@ -38,7 +38,7 @@ constexpr int preferred_width_limit = 790;
 constexpr int preferred_height_limit = 420;
 
 // The greatest part of the width for the analysis frames at first, in percent.
-constexpr int frame_measures_percent = 50;
+constexpr int frame_measures_percent = 55;
 
 // The width of the folders at first, in average letters.
 constexpr int pane_letters = 30;
