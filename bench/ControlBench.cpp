@@ -27,6 +27,8 @@ constexpr Measure measures[] = {
     {"combo", bench::OpeningACombo},
     {"workbench", bench::OpeningRecordings},
     {"docking", bench::ResizingDockedPanes},
+    {"table", bench::ShowingATable},
+    {"frame-measures", bench::MeasuringFrames},
 };
 } // namespace
 

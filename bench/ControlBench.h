@@ -22,6 +22,8 @@ bool PaintingSegmentCharacters();
 bool OpeningRecordings();
 bool OpeningACombo();
 bool ResizingDockedPanes();
+bool ShowingATable();
+bool MeasuringFrames();
 
 inline void PumpAll()
 {

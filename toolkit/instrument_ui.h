@@ -34,6 +34,7 @@
 #include "windows/SettingsFile.h"
 
 #include "list/XListCtrl.h"
+#include "list/table/XTableCtrl.h"
 
 #include "controls/ColorControl.h"
 #include "controls/ColorButton.h"

@@ -37,6 +37,9 @@ constexpr int preferred_percent = 93;
 constexpr int preferred_width_limit = 790;
 constexpr int preferred_height_limit = 420;
 
+// The greatest part of the width for the analysis frames at first, in percent.
+constexpr int frame_measures_percent = 55;
+
 // The width of the folders at first, in average letters.
 constexpr int pane_letters = 30;
 
@@ -243,8 +246,10 @@ void CMainWindow::PrepareContents()
     Waveform().SetAmplification(m_settings.amplification);
     Waveform().m_onCursor = [this] {
         ShowReading();
+        m_frameMeasures.ShowCursor(Waveform().Marks().cursor);
         NoteView();
     };
+    m_frameMeasures.m_onFrame = [this](std::uint64_t frame) { Waveform().MoveCursor(frame); };
     Waveform().m_onMarks = [this] {
         m_spectrogram.SetMarks(Waveform().Marks());
         NoteView();
@@ -313,6 +318,8 @@ wchar_t const * CMainWindow::NameOf(Part part)
         return L"Spectrogram";
     case part_measures:
         return L"Measures";
+    case part_frame_measures:
+        return L"AnalysisFrames";
     default:
         return L"Recordings";
     }
@@ -330,6 +337,8 @@ wchar_t const * CMainWindow::TitleOf(Part part)
         return Text(L"Spectrogram");
     case part_measures:
         return Text(L"Measures");
+    case part_frame_measures:
+        return Text(L"Analysis Frames");
     default:
         return Text(L"Recordings");
     }
@@ -380,6 +389,7 @@ bool CMainWindow::CreateParts()
         m_waveformPanel.CreatePanel(*views[part_waveform], IDC_WAVEFORM_PANEL, m_metrics) &&
         m_spectrogram.CreateView(*views[part_spectrogram], IDC_SPECTROGRAM, m_metrics) &&
         m_panel.CreatePanel(*views[part_measures], IDC_MEASURE_PANEL, m_metrics, m_settings.spectrogramScale) &&
+        m_frameMeasures.CreatePanel(*views[part_frame_measures], IDC_FRAME_MEASURES, m_metrics) &&
         m_framesDivider.CreateDivider(*this, IDC_FRAMES_DIVIDER) &&
         m_status.CreateStrip(*this, IDC_STATUS_LINE, m_metrics);
     m_tree.ShowWindow(SW_SHOWNA);
@@ -486,6 +496,9 @@ void CMainWindow::DockByDefault(std::array<bool, part_count> const & others)
     // Each one stands nearer to the middle than those before it; the list, the last one, has what is left.
     dock(part_measures, CBRS_ALIGN_BOTTOM, sizes.measures);
     dock(part_folders, CBRS_ALIGN_LEFT, FolderPaneWidth(), m_settings.folderPane.value_or(HasRoomForFolders()));
+    // No more of the width than the plots can spare; it shows when it is asked for.
+    dock(part_frame_measures, CBRS_ALIGN_RIGHT,
+         std::min<int>(m_frameMeasures.WantedWidth(), needs.client.cx * frame_measures_percent / 100), false);
     dock(part_spectrogram, CBRS_ALIGN_BOTTOM, sizes.spectrogram);
     dock(part_waveform, CBRS_ALIGN_BOTTOM, sizes.waveform);
     dock(part_list, CBRS_ALIGN_TOP, sizes.list);
@@ -540,7 +553,8 @@ void CMainWindow::FocusList()
 std::vector<CWnd *> CMainWindow::FocusStops()
 {
     std::vector<CWnd *> stops;
-    for (auto const part : {part_list, part_waveform, part_spectrogram, part_measures, part_folders})
+    for (auto const part :
+         {part_list, part_waveform, part_spectrogram, part_frame_measures, part_measures, part_folders})
     {
         if (auto * const view = m_panes[part]->View(); view != nullptr && view->IsWindowVisible())
         {

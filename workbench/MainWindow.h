@@ -17,6 +17,7 @@
 #include "HostView.h"
 #include "ListPanel.h"
 #include "FolderTree.h"
+#include "FrameMeasuresPanel.h"
 #include "MeasurePanel.h"
 #include "PictureCopy.h"
 #include "Playing.h"
@@ -96,6 +97,7 @@ public:
         part_spectrogram,
         part_measures,
         part_list,
+        part_frame_measures,
         part_count
     };
     /// The pane of a part.
@@ -122,6 +124,7 @@ public:
     bool ShowDetails(int index);
     CDetailsDialog & Details() { return m_details; }
     CPreviewDialog & Preview() { return m_preview; }
+    CFrameMeasuresPanel & FrameMeasures() { return m_frameMeasures; }
 
     /// Opens the settings, or brings them to the front.
     bool ShowSettings();
@@ -325,6 +328,7 @@ private:
     std::shared_ptr<workbench::RecordingAnalysis const> m_shown; ///< in both views; null for a text
     std::wstring m_shownText;
     CMeasurePanel m_panel;
+    CFrameMeasuresPanel m_frameMeasures;
     CStatusStrip m_status;
     CWindowMenu m_windowMenu;
     CDetailsDialog m_details;

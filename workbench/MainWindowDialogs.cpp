@@ -521,6 +521,7 @@ void CMainWindow::ShowTexts()
         m_panes[part]->SetWindowText(TitleOf(static_cast<Part>(part)));
     }
     m_panel.ShowTexts();
+    m_frameMeasures.ShowTexts();
     {
         CRecordingList::Batch const batch(m_list);
         m_list.ShowTexts();
@@ -601,6 +602,10 @@ void CMainWindow::OnCopy()
     if (auto const editor = m_list.CommentEditor(); editor != nullptr)
     {
         ::SendMessageW(editor, WM_COPY, 0, 0);
+        return;
+    }
+    if (m_frameMeasures.CopySelection())
+    {
         return;
     }
     m_list.CopyToClipboard(false);

@@ -603,6 +603,7 @@ void CMainWindow::ShowText(wchar_t const * title, wchar_t const * text)
     m_playing.Stop();
     Waveform().ShowText(title, text);
     m_spectrogram.ShowText(title, text);
+    m_frameMeasures.ShowText(title);
     m_preview.Update();
 }
 
@@ -662,6 +663,7 @@ void CMainWindow::ShowChosen()
             m_shownText.clear();
             Waveform().ShowRecording(name, m_shown, chosen->file);
             m_spectrogram.ShowRecording(name, chosen->file);
+            m_frameMeasures.ShowRecording(name, chosen->file);
             RestoreStretch();
             m_preview.Update();
         }

@@ -69,8 +69,13 @@ CWalk::CWalk(CMainWindow & window, std::filesystem::path folder) : m_window(wind
 
 bool CWalk::WaitForRecordings()
 {
-    return PumpUntil([this] { return !m_window.IsBusy() && !m_window.IsComputing() && !m_window.Folders().IsBusy(); },
-                     read_limit);
+    return PumpUntil(
+        [this] {
+            auto const measures = m_window.ShowsPane(CMainWindow::part_frame_measures);
+            return !m_window.IsBusy() && !m_window.IsComputing() && !m_window.Folders().IsBusy() &&
+                   !(measures && m_window.FrameMeasures().IsFilling());
+        },
+        read_limit);
 }
 
 bool CWalk::Resize(int left, int top, int width, int height)
@@ -242,6 +247,12 @@ bool CWalk::GoThroughFrames(std::string const & suffix)
 /// Shows panes in tabs and afloat, and puts them back.
 bool CWalk::GoThroughPanes(std::string const & suffix)
 {
+    m_window.ShowPane(CMainWindow::part_frame_measures, true);
+    if (!Step(("workbench-analysis-frames" + suffix).c_str()) || m_window.FrameMeasures().Table().RowsShown() == 0)
+    {
+        return false;
+    }
+    m_window.ShowPane(CMainWindow::part_frame_measures, false);
     CRect window;
     m_window.GetWindowRect(&window);
     auto & waveform = m_window.Pane(CMainWindow::part_waveform);

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "list/table/TableFeed.h"
+#include "list/table/TablePace.h"
 
 namespace
 {

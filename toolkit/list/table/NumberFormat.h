@@ -8,6 +8,7 @@
 
 #include "frame/Export.h"
 
+/// What decides how many digits a number has.
 enum class NumberStyle
 {
     /// As few digits as give the same value when read back.
@@ -18,8 +19,10 @@ enum class NumberStyle
     significant
 };
 
+/// Where a unit stands.
 enum class UnitPlace
 {
+    /// The host says it elsewhere.
     nowhere,
     /// In the column's title, in brackets.
     header,
@@ -27,14 +30,18 @@ enum class UnitPlace
     cell
 };
 
+/// How numbers are written.
 struct NumberFormat
 {
+    /// What digits are counted by.
     NumberStyle style = NumberStyle::shortest;
     /// 0 to 20 behind the decimal sign, 1 to 17 altogether; others count as the nearest of these.
     int digits = 3;
     /// The exponent is a multiple of three, written as a prefix of the unit: k, M, G, m, µ, n and so on.
     bool engineering = false;
+    /// Where the unit stands.
     UnitPlace unitPlace = UnitPlace::nowhere;
+    /// "V", "Hz", "dB".
     std::wstring unit;
 };
 

@@ -9,18 +9,9 @@
 
 #include "list/table/CsvText.h"
 #include "list/table/TableAccess.h"
+#include "list/table/TableForms.h"
 #include "list/table/TableModel.h"
 #include "list/table/TableText.h"
-
-enum class TableForm
-{
-    /// As shown, a tab between cells.
-    text,
-    /// Numbers with all their digits and a point, without unit.
-    csv,
-    /// A table as shown, in ASCII with entities.
-    html
-};
 
 /// Writes rows one after the other.
 class TableWriter
@@ -50,41 +41,6 @@ private:
 /// was refused or stopped.
 bool WriteTable(TableWriter & writer, TableAccess & access, std::vector<TableRow> const & rows, bool titles,
                 std::function<bool(std::wstring_view piece)> const & take);
-
-enum class TableRefusal
-{
-    noSuchRow,
-    noSuchColumn,
-    notEditable,
-    /// The text is no value of the column's kind.
-    notReadable,
-    /// By the column's check, which says why.
-    byCheck,
-    bySource
-};
-
-/// A text that was not taken.
-struct TableRefused
-{
-    std::size_t line;
-    std::size_t field;
-    TableRefusal refusal;
-    std::wstring text;
-    /// What the column's check said.
-    std::wstring reason;
-};
-
-struct TablePasteReport
-{
-    bool done = false;
-    std::size_t cells = 0;
-    std::size_t refusedCells = 0;
-    /// The first ones.
-    static constexpr std::size_t most_told = 100;
-    std::vector<TableRefused> refused;
-    /// The rows that have other values now.
-    std::vector<TableRowRange> rows;
-};
 
 /// Puts a block of texts into cells from that position on, in these columns, of which each field of a record takes the
 /// next one. All of them, or nothing if one is refused: then the report says which.

@@ -14,7 +14,9 @@
 /// Some rows one after the other.
 struct TableRowRange
 {
+    /// The first one.
     TableRow first;
+    /// The last one, which belongs to them.
     TableRow last;
 
     friend bool operator==(TableRowRange const &, TableRowRange const &) = default;
@@ -32,6 +34,7 @@ struct TableChanges
     /// In their order, none touching another.
     std::vector<TableRowRange> changed;
 
+    /// Whether nothing has happened.
     bool IsEmpty() const { return !appended && !all && !anyValue && changed.empty(); }
 };
 
@@ -40,6 +43,7 @@ class TableWaker
 {
 public:
     virtual ~TableWaker() = default;
+    /// Somebody has told something.
     virtual void Wake() = 0;
 };
 
@@ -83,30 +87,6 @@ private:
     std::atomic<bool> m_appended{false};
     std::atomic<bool> m_all{false};
     std::atomic<bool> m_overflow{false};
-};
-
-/// Says when the next repaint is due, so that there is at most one in 16 ms. Times in milliseconds of any clock.
-class TablePace
-{
-public:
-    static constexpr long long shortest_interval = 16;
-
-    /// How long to wait until what has changed may be painted; 0 for at once.
-    long long Wait(long long now) const
-    {
-        if (!m_painted || now - m_last >= shortest_interval || now < m_last)
-            return 0;
-        return shortest_interval - (now - m_last);
-    }
-    void Painted(long long now)
-    {
-        m_painted = true;
-        m_last = now;
-    }
-
-private:
-    bool m_painted = false;
-    long long m_last = 0;
 };
 
 /// Sorts ranges and joins those that overlap or touch.

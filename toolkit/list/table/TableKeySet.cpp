@@ -100,12 +100,9 @@ void TableKeySet::Add(std::vector<TableKey> & keys)
         TableKey begin = 0;
         TableKey last = 0;
         auto const take = [&](TableKey from, TableKey to) {
+            // A key that is there, or came twice: whatever begins ahead of the last one ends there, too.
             if (runs != 0 && from <= last)
-            {
-                if (to <= last)
-                    return;
-                from = last + 1;
-            }
+                return;
             count += to - from + 1;
             if (runs != 0 && from == last + 1 && to - begin <= longest)
             {

@@ -208,9 +208,8 @@ TableRow TableModel::PositionOf(TableRow row) const
     return found == m_rows.end() ? nowhere : static_cast<TableRow>(found - m_rows.begin());
 }
 
-bool TableModel::Read(TableRow position, unsigned int column, TableValue & value) const
+bool TableModel::ReadRow(TableRow row, unsigned int column, TableValue & value) const
 {
-    TableRow const row = RowAt(position);
     std::shared_ptr<TableSource> const source = m_source.lock();
     if (row != no_table_row && source && source->Read(row, column, value))
         return true;
@@ -394,10 +393,21 @@ TableRow TableModel::PositionOfKey(std::optional<TableKey> const & key) const
 
 bool TableModel::IsSelected(TableRow position) const
 {
+    return IsRowSelected(RowAt(position));
+}
+
+bool TableModel::IsRowSelected(TableRow row) const
+{
     if (m_selected.Count() == 0)
         return false;
-    std::optional<TableKey> const key = KeyAt(position);
-    return key && m_selected.Contains(*key);
+    std::shared_ptr<TableSource> const source = m_source.lock();
+    return source && row < source->RowCount() && m_selected.Contains(source->Key(row));
+}
+
+TableRow TableModel::FocusRow() const
+{
+    std::shared_ptr<TableSource> const source = m_source.lock();
+    return m_focus && source ? source->RowOfKey(*m_focus) : no_table_row;
 }
 
 void TableModel::Select(TableRow position, bool selected)
@@ -446,6 +456,19 @@ std::vector<TableRow> TableModel::SelectedPositions() const
         if (TableRow const row = RowAt(position); row < count && m_selected.Contains(source->Key(row)))
             positions.push_back(position);
     return positions;
+}
+
+TableRow TableModel::NextSelected(TableRow from) const
+{
+    std::shared_ptr<TableSource> const source = m_source.lock();
+    if (m_selected.Count() == 0 || !source)
+        return nowhere;
+    TableRow const size = Size();
+    TableRow const count = source->RowCount();
+    for (TableRow position = from; position < size; ++position)
+        if (TableRow const row = RowAt(position); row < count && m_selected.Contains(source->Key(row)))
+            return position;
+    return nowhere;
 }
 
 void TableModel::SetFocus(TableRow position)

@@ -103,7 +103,12 @@ public:
     /// Nowhere, if the row is not shown. Looks through all rows where they are sorted or chosen.
     TableRow PositionOf(TableRow row) const;
     /// False, and a blank value, where there is no such cell or the source has nothing to say.
-    bool Read(TableRow position, unsigned int column, TableValue & value) const;
+    bool Read(TableRow position, unsigned int column, TableValue & value) const
+    {
+        return ReadRow(RowAt(position), column, value);
+    }
+    /// The same by the source's row.
+    bool ReadRow(TableRow row, unsigned int column, TableValue & value) const;
     std::wstring Text(TableRow position, unsigned int column) const;
     /// The first position from there on, and on from the first one, whose cell begins with the text.
     TableRow FindTyped(unsigned int column, std::wstring_view text, TableRow from) const;
@@ -127,9 +132,14 @@ public:
     std::uint64_t SelectedKeys() const { return m_selected.Count(); }
     /// The selected ones among the rows shown, in their order.
     std::vector<TableRow> SelectedPositions() const;
+    /// The first one selected from there on, or nowhere.
+    TableRow NextSelected(TableRow from) const;
 
     void SetFocus(TableRow position);
     TableRow FocusPosition() const { return PositionOfKey(m_focus); }
+    /// The source's row with the focus, shown or not; no_table_row if none has it.
+    TableRow FocusRow() const;
+    bool IsRowSelected(TableRow row) const;
     /// Where a selection with the shift key begins.
     void SetAnchor(TableRow position);
     TableRow AnchorPosition() const { return PositionOfKey(m_anchor); }

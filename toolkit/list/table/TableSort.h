@@ -7,16 +7,9 @@
 #include <vector>
 
 #include "list/table/TableAccess.h"
+#include "list/table/TableOrder.h"
 #include "list/table/TableRows.h"
 #include "list/table/TableSource.h"
-
-struct TableSortColumn
-{
-    unsigned int column;
-    bool descending;
-
-    friend bool operator==(TableSortColumn const &, TableSortColumn const &) = default;
-};
 
 /// Puts rows in order by their values in several columns, the first of which decides first. Numbers, times, ticks and
 /// progress come by their value, texts and links behind them in their natural order. In both directions not-a-number

@@ -9,21 +9,30 @@
 
 /// A row as the source counts them, from 0.
 using TableRow = std::uint32_t;
+/// Stands for no row, and is none.
 constexpr TableRow no_table_row = 0xFFFFFFFF;
 
 /// What names a row for as long as there is one, whatever its place among the others.
 using TableKey = std::uint64_t;
 
+/// What a value is.
 enum class TableKind : unsigned char
 {
     /// Nothing is known: an empty cell, which sorts behind all others.
     blank,
+    /// Sorted in natural order: "Ch 2" ahead of "Ch 10".
     text,
+    /// A whole number of 64 bits.
     whole,
+    /// A number with a unit of its own or the column's.
     floating,
+    /// A date with its time.
     time,
+    /// A check box.
     tick,
+    /// A bar.
     progress,
+    /// A text that can be followed.
     link
 };
 
@@ -31,6 +40,7 @@ enum class TableKind : unsigned char
 class TableValue
 {
 public:
+    /// What it is.
     TableKind Kind() const { return m_kind; }
     /// Of a text or link what it shows, of a floating number its own unit, else empty.
     std::wstring const & Text() const { return m_text; }
@@ -41,34 +51,41 @@ public:
     /// an infinity says that the range was exceeded.
     double Number() const { return m_number; }
 
+    /// Makes it nothing.
     void SetBlank() { Set(TableKind::blank, {}); }
+    /// Makes it a text.
     void SetText(std::wstring_view text) { Set(TableKind::text, text); }
+    /// Makes it a whole number.
     void SetWhole(long long value)
     {
         Set(TableKind::whole, {});
         m_whole = value;
     }
-    /// unit: of this cell alone; empty for the column's.
+    /// Makes it a floating number. unit: of this cell alone; empty for the column's.
     void SetNumber(double value, std::wstring_view unit = {})
     {
         Set(TableKind::floating, unit);
         m_number = value;
     }
+    /// Makes it a time, in microseconds since 1970-01-01 00:00.
     void SetTime(long long microseconds)
     {
         Set(TableKind::time, {});
         m_whole = microseconds;
     }
+    /// Makes it a check box.
     void SetTick(bool ticked)
     {
         Set(TableKind::tick, {});
         m_whole = ticked ? 1 : 0;
     }
+    /// Makes it a bar.
     void SetProgress(double percent)
     {
         Set(TableKind::progress, {});
         m_number = percent;
     }
+    /// Makes it a link.
     void SetLink(std::wstring_view text) { Set(TableKind::link, text); }
 
 private:
@@ -87,7 +104,7 @@ private:
 /// The host's rows. They are asked for by the window's thread and by threads of the table's own (sorting, filtering and
 /// export of many rows), so that every question must be answered on any thread, also several at a time. The table holds
 /// its source by a weak pointer and locks it for some questions at a time only: the last to let go of it may be one of
-/// the table's threads.
+/// the table's threads. No answer may be an exception.
 class TableSource
 {
 public:

@@ -12,27 +12,35 @@
 #include "list/table/NumberFormat.h"
 #include "list/table/TableSource.h"
 
+/// Where a text stands in its cell.
 enum class TableAlign
 {
     /// Numbers at their decimal sign, times and ticks in the middle, all else at the left.
     byKind,
+    /// At the left.
     left,
+    /// In the middle.
     centre,
+    /// At the right.
     right
 };
 
 /// A column as the host describes it.
 struct TableColumn
 {
+    /// What the header shows, with the unit where that stands there.
     std::wstring title;
     /// By this name place, width and whether it is hidden are kept; the title where empty.
     std::wstring name;
+    /// How its numbers are written.
     NumberFormat format;
     /// Digits of a time behind the second, 0 to 6.
     int secondDigits = 3;
+    /// Where its texts stand.
     TableAlign align = TableAlign::byKind;
     /// In pixels at 96 to the inch.
     int width = 90;
+    /// Whether the user has to ask for it.
     bool hidden = false;
     /// The user may edit the cells and paste into them.
     bool editable = false;
@@ -45,11 +53,22 @@ struct TableColumn
 /// How values are written where the user lives.
 struct TableLocale
 {
+    /// Between a number's whole part and its fraction.
     wchar_t decimalSign = L'.';
     /// Text of a time in microseconds since 1970 with so many digits behind the second, and the reverse. Without them
     /// times are "2026-03-01 14:05:09.250".
     std::function<std::wstring(long long microseconds, int secondDigits)> showTime;
+    /// Nothing for a text that is no time.
     std::function<std::optional<long long>(std::wstring_view text)> parseTime;
+};
+
+/// How a table shows its values: never changed once it is shared with work on other threads.
+struct TableLooks
+{
+    /// All of them.
+    std::vector<TableColumn> columns;
+    /// How values are written.
+    TableLocale locale;
 };
 
 /// The title with the unit, where it stands there: "Peak [V]".

@@ -1,0 +1,419 @@
+// The analysis frames of the chosen recording: filled while they are measured, and linked to the plots by the cursor.
+
+#include "MainWindowTest.h"
+
+#include <afxcmn.h>
+
+#include <fstream>
+#include <vector>
+
+#include "Bitmap.h"
+#include "GuardedHeap.h"
+#include "clipboard/Clipboard.h"
+
+namespace
+{
+using Rows = std::vector<TableRow>;
+using workbench::FrameTable;
+
+class WorkbenchFrameMeasures : public tests::MainWindowTest
+{
+protected:
+    static constexpr auto part = CMainWindow::part_frame_measures;
+
+    CFrameMeasuresPanel & Panel() { return m_window->FrameMeasures(); }
+    CXTableCtrl & Table() { return Panel().Table(); }
+    CWnd & Control(int id) { return *m_window->GetDescendantWindow(id); }
+    static std::wstring TextOf(CWnd & window)
+    {
+        CString text;
+        window.GetWindowText(text);
+        return text.GetString();
+    }
+
+    /// A silent recording of so many milliseconds, without a byte on the disk.
+    void AddLong(char const * name, std::uint32_t milliseconds)
+    {
+        auto const path = m_folder / "recordings" / name;
+        tests::WriteRecording(path, 48000, 0);
+        auto const bytes = milliseconds * 96;
+        std::fstream file(path, std::ios::in | std::ios::out | std::ios::binary);
+        for (auto const & [place, size] : {std::pair(4, bytes + 36), std::pair(40, bytes)})
+        {
+            file.seekp(place);
+            for (int i = 0; i < 4; ++i)
+                file.put(static_cast<char>(size >> (8 * i)));
+        }
+        file.close();
+        std::filesystem::resize_file(path, 44 + bytes);
+    }
+    void Open(std::filesystem::path const & folder)
+    {
+        m_window->ShowTargets({folder});
+        ASSERT_TRUE(WaitUntilRead());
+    }
+    bool WaitUntilMeasured()
+    {
+        return tests::PumpUntil([this] { return !Panel().IsFilling() && Table().RowsShown() > 0; }, tests::read_limit);
+    }
+    /// Ten rows, of which the first one has the cursor.
+    void ShowShort()
+    {
+        Open(Folder(2));
+        m_window->ShowPane(part, true);
+        ASSERT_TRUE(WaitUntilMeasured());
+        ASSERT_TRUE(tests::PumpUntil([this] { return Table().SelectedRows() == Rows{0}; }));
+    }
+    void Type(wchar_t const * filter) { Control(IDC_FRAME_FILTER).SetWindowText(filter); }
+    CPoint RowCentre(int position)
+    {
+        CRect rect;
+        Table().GetItemRect(position, &rect, LVIR_BOUNDS);
+        CPoint point(rect.left + 30, rect.CenterPoint().y);
+        Table().ClientToScreen(&point);
+        return point;
+    }
+    CPoint TitleCentre(int place)
+    {
+        CRect rect;
+        Table().GetHeaderCtrl()->GetItemRect(place, &rect);
+        CPoint point = rect.CenterPoint();
+        Table().GetHeaderCtrl()->ClientToScreen(&point);
+        return point;
+    }
+    std::wstring Title(int place)
+    {
+        wchar_t text[60] = L"";
+        HDITEM item{};
+        item.mask = HDI_TEXT;
+        item.pszText = text;
+        item.cchTextMax = static_cast<int>(std::size(text));
+        Table().GetHeaderCtrl()->GetItem(place, &item);
+        return text;
+    }
+    std::uint64_t Cursor() { return m_window->Waveform().Marks().cursor; }
+};
+} // namespace
+
+TEST_F(WorkbenchFrameMeasures, AreMeasuredOnceTheyAreSeen)
+{
+    EXPECT_FALSE(m_window->ShowsPane(part)) << "until somebody asks for it";
+    Open(Folder(1));
+    EXPECT_TRUE(Panel().IsFilling());
+    EXPECT_EQ(Table().RowsShown(), 0U);
+    tests::Key(L'6', {VK_CONTROL});
+    ASSERT_TRUE(tests::PumpUntil([this] { return m_window->ShowsPane(part); }));
+    ASSERT_TRUE(WaitUntilMeasured());
+    EXPECT_EQ(Table().RowsShown(), 10U) << "one each millisecond";
+    EXPECT_EQ(Title(1), L"Peak [dBFS]");
+    // A saw tooth up to 19,950 of 32,768.
+    EXPECT_EQ(Table().ShownText(5, FrameTable::column_time), L"0.005");
+    EXPECT_EQ(Table().ShownText(5, FrameTable::column_peak), L"-4.31");
+    EXPECT_EQ(Table().ShownText(5, FrameTable::column_frequency), L"") << "shorter than a window";
+    EXPECT_TRUE(tests::PumpUntil([this] { return TextOf(Control(IDC_FRAME_STATUS)) == L"Frames: 10"; }));
+}
+
+TEST_F(WorkbenchFrameMeasures, RowsAreThereWhileOthersAreMeasured)
+{
+    AddLong("long.wav", 60000);
+    Open(m_folder / "recordings");
+    m_window->ShowPane(part, true);
+    ASSERT_TRUE(tests::PumpUntil([this] { return Table().RowsShown() > 500; }, tests::read_limit));
+    EXPECT_TRUE(Panel().IsFilling());
+    EXPECT_LT(Table().RowsShown(), 60000U);
+    EXPECT_NE(Panel().StatusText().find(L"measuring"), std::wstring::npos);
+    // What is there can be worked with.
+    ASSERT_TRUE(tests::PumpUntil([this] { return Table().SelectedRows() == Rows{0}; }));
+    tests::Click(RowCentre(4));
+    ASSERT_TRUE(tests::PumpUntil([this] { return Cursor() == 4 * 48; }));
+    ASSERT_TRUE(WaitUntilMeasured());
+    ASSERT_TRUE(tests::PumpUntil([this] { return Table().RowsShown() == 60000; }));
+    EXPECT_EQ(Table().SelectedRows(), Rows{4});
+    EXPECT_EQ(Table().ShownText(59999, FrameTable::column_time), L"59.999");
+}
+
+TEST_F(WorkbenchFrameMeasures, ARowThatIsChosenMovesTheCursorOfThePlots)
+{
+    ShowShort();
+    int told = 0;
+    auto const onFrame = Panel().m_onFrame;
+    Panel().m_onFrame = [&](std::uint64_t frame) {
+        ++told;
+        onFrame(frame);
+    };
+    tests::Click(RowCentre(5));
+    ASSERT_TRUE(tests::PumpUntil([this] { return Cursor() == 5 * 48; }));
+    EXPECT_EQ(Table().SelectedRows(), Rows{5});
+    tests::Key(VK_DOWN);
+    ASSERT_TRUE(tests::PumpUntil([this] { return Cursor() == 6 * 48; }));
+    EXPECT_EQ(Table().SelectedRows(), Rows{6});
+    tests::Key(VK_DOWN, {VK_SHIFT});
+    ASSERT_TRUE(tests::PumpUntil([this] { return Cursor() == 7 * 48; }));
+    EXPECT_EQ(Table().SelectedRows(), (Rows{6, 7})) << "and what is selected stays";
+    tests::PumpPosted();
+    EXPECT_EQ(told, 3) << "once a step";
+}
+
+TEST_F(WorkbenchFrameMeasures, TheCursorOfThePlotsChoosesItsRow)
+{
+    ShowShort();
+    int told = 0;
+    Panel().m_onFrame = [&](std::uint64_t) { ++told; };
+    m_window->Waveform().MoveCursor(100);
+    EXPECT_EQ(Table().SelectedRows(), Rows{2}) << "the nearest one";
+    EXPECT_EQ(Cursor(), 100U) << "which leaves the cursor where it is";
+    m_window->Waveform().MoveCursor(479);
+    EXPECT_EQ(Table().SelectedRows(), Rows{9});
+    EXPECT_EQ(told, 0);
+    // Zooming moves no cursor.
+    Table().SelectAllRows();
+    tests::MoveMouse([this] {
+        CRect plot;
+        m_window->Waveform().GetWindowRect(&plot);
+        return plot.CenterPoint();
+    }());
+    m_window->Waveform().SetFocus();
+    tests::Key(VK_ADD);
+    ASSERT_TRUE(tests::PumpUntil([this] { return !m_window->Waveform().Marks().window.ShowsAll(); }));
+    EXPECT_EQ(Table().SelectedRows().size(), 10U);
+}
+
+TEST_F(WorkbenchFrameMeasures, SortingKeepsTheChosenRow)
+{
+    ShowShort();
+    tests::Click(RowCentre(3));
+    ASSERT_TRUE(tests::PumpUntil([this] { return Cursor() == 3 * 48; }));
+    tests::Click(TitleCentre(0));
+    tests::PumpPosted();
+    tests::Click(TitleCentre(0));
+    ASSERT_TRUE(tests::PumpUntil([this] { return Table().RowAt(0) == 9; })) << "the last time first";
+    EXPECT_EQ(Table().SelectedRows(), Rows{3});
+    EXPECT_EQ(Table().FocusRow(), 3U);
+    EXPECT_EQ(Cursor(), 3U * 48);
+    m_window->Waveform().MoveCursor(96);
+    EXPECT_EQ(Table().SelectedRows(), Rows{2});
+    EXPECT_EQ(Table().PositionOf(2), 7U);
+}
+
+TEST_F(WorkbenchFrameMeasures, AFilterChoosesRowsByValue)
+{
+    ShowShort();
+    m_window->Waveform().MoveCursor(96);
+    ASSERT_EQ(Table().SelectedRows(), Rows{2});
+    auto & column = static_cast<CComboBox &>(Control(IDC_FRAME_COLUMN));
+    column.SetCurSel(FrameTable::column_time);
+    Type(L">= 0.004");
+    ASSERT_TRUE(tests::PumpUntil([this] { return Table().RowsShown() == 6; }));
+    ASSERT_TRUE(tests::PumpUntil([this] { return TextOf(Control(IDC_FRAME_STATUS)) == L"Frames: 6 of 10"; }));
+    EXPECT_EQ(Table().RowAt(0), 4U);
+    // The cursor stands where no row is shown.
+    m_window->Waveform().MoveCursor(144);
+    EXPECT_TRUE(Table().SelectedRows().empty());
+    m_window->Waveform().MoveCursor(240);
+    EXPECT_EQ(Table().SelectedRows(), Rows{5});
+    m_window->Waveform().MoveCursor(144);
+    Control(IDC_FRAME_FILTER).SetFocus();
+    tests::Key(VK_ESCAPE);
+    ASSERT_TRUE(tests::PumpUntil([this] { return Table().RowsShown() == 10; }));
+    ASSERT_TRUE(tests::PumpUntil([this] { return Table().SelectedRows() == Rows{3}; })) << "it is shown again";
+}
+
+TEST_F(WorkbenchFrameMeasures, AnotherRecordingReplacesOneThatIsStillMeasured)
+{
+    Folder(1);
+    AddLong("long.wav", 600000);
+    Open(m_folder / "recordings");
+    ASSERT_TRUE(m_window->ChooseRecording(0));
+    m_window->ShowPane(part, true);
+    bool const longFirst = m_window->List().GetItemText(0, CRecordingList::column_name) == L"long.wav";
+    for (int round = 0; round < 3; ++round)
+    {
+        ASSERT_TRUE(m_window->ChooseRecording(longFirst ? 0 : 1));
+        ASSERT_TRUE(tests::PumpUntil([this] { return Table().RowsShown() > 500; }, tests::read_limit));
+        EXPECT_TRUE(Panel().IsFilling());
+        ASSERT_TRUE(m_window->ChooseRecording(longFirst ? 1 : 0));
+        ASSERT_TRUE(WaitUntilMeasured());
+        ASSERT_TRUE(tests::PumpUntil([this] { return Table().RowsShown() == 10; }));
+        EXPECT_EQ(Table().ShownText(5, FrameTable::column_peak), L"-4.31") << round;
+    }
+    // None at all.
+    m_window->ShowTargets({});
+    EXPECT_EQ(Table().RowsShown(), 0U);
+    EXPECT_FALSE(Panel().IsFilling());
+    EXPECT_EQ(Panel().StatusText(), L"No recordings");
+}
+
+TEST_F(WorkbenchFrameMeasures, TheWindowClosesWhileOneIsMeasured)
+{
+    AddLong("long.wav", 600000);
+    Open(m_folder / "recordings");
+    m_window->ShowPane(part, true);
+    ASSERT_TRUE(tests::PumpUntil([this] { return Table().RowsShown() > 500; }, tests::read_limit));
+    ASSERT_TRUE(Panel().IsFilling());
+    {
+        tests::GuardedHeap heap;
+        CloseWindow();
+        tests::PumpPosted();
+        EXPECT_EQ(heap.Check(), 0U);
+    }
+    OpenWindow();
+    EXPECT_TRUE(m_window->ShowsPane(part)) << "as it was";
+}
+
+TEST_F(WorkbenchFrameMeasures, ADamagedFileSaysSo)
+{
+    std::ofstream(m_folder / "recordings" / "zero.wav") << "no recording";
+    Open(m_folder / "recordings");
+    m_window->ShowPane(part, true);
+    ASSERT_TRUE(tests::PumpUntil([this] { return TextOf(Control(IDC_FRAME_STATUS)) == L"not a WAV file"; }));
+    EXPECT_EQ(Table().RowsShown(), 0U);
+    EXPECT_FALSE(Panel().IsFilling());
+    EXPECT_FALSE(Control(IDC_FRAME_EXPORT).IsWindowEnabled());
+}
+
+TEST_F(WorkbenchFrameMeasures, SelectedRowsAreCopiedWithTheirTitles)
+{
+    ShowShort();
+    tests::Click(RowCentre(1));
+    ASSERT_TRUE(tests::PumpUntil([this] { return Table().SelectedRows() == Rows{1}; }));
+    auto const copied = [] {
+        CString text;
+        Clipboard::StringFromClipboard(text);
+        return std::wstring(text.GetString());
+    };
+    Clipboard::StringToClipboard(L"");
+    tests::Key(L'C', {VK_CONTROL});
+    ASSERT_TRUE(tests::PumpUntil([&] { return copied().starts_with(L"Time [s]\tPeak [dBFS]\t"); }));
+    EXPECT_NE(copied().find(L"0.001\t-4.31\t"), std::wstring::npos);
+    Clipboard::StringToClipboard(L"");
+    tests::Key(L'A', {VK_CONTROL});
+    ASSERT_TRUE(tests::PumpUntil([this] { return Table().SelectedRows().size() == 10; }));
+    m_window->SendMessage(WM_COMMAND, ID_COPY);
+    EXPECT_NE(copied().find(L"0.009\t-4.31\t"), std::wstring::npos);
+    // The list's own when that has the focus.
+    m_window->List().SetFocus();
+    m_window->SendMessage(WM_COMMAND, ID_COPY);
+    EXPECT_EQ(copied().find(L"Peak [dBFS]"), std::wstring::npos);
+}
+
+TEST_F(WorkbenchFrameMeasures, AllRowsAreExportedAsCsv)
+{
+    ShowShort();
+    auto const path = m_folder / "frames.csv";
+    ASSERT_TRUE(Table().ExportRows(path.wstring(), TableForm::csv, false));
+    ASSERT_TRUE(tests::PumpUntil([this] { return !Table().IsExporting(); }));
+    std::ifstream file(path, std::ios::binary);
+    std::vector<std::string> lines;
+    for (std::string line; std::getline(file, line);)
+        lines.push_back(line);
+    ASSERT_EQ(lines.size(), 11U);
+    EXPECT_NE(lines[0].find("Peak [dBFS]"), std::string::npos);
+    EXPECT_EQ(lines[5].substr(0, 9), "0.004,-4.") << "with all digits";
+}
+
+TEST_F(WorkbenchFrameMeasures, FollowTheLanguageAtOnce)
+{
+    auto const locale = ::GetThreadLocale();
+    ShowShort();
+    Table().SortBy({{FrameTable::column_time, true}});
+    m_window->ChooseLanguage(1031);
+    CString title;
+    m_window->Pane(part).GetWindowText(title);
+    EXPECT_EQ(title, L"Analyseabschnitte");
+    EXPECT_EQ(Title(0), L"Zeit [s]");
+    EXPECT_EQ(Title(5), L"Schwerpunkt [Hz]");
+    EXPECT_EQ(TextOf(Control(IDC_FRAME_EXPORT)), L"Exportieren...");
+    EXPECT_TRUE(tests::PumpUntil([this] { return TextOf(Control(IDC_FRAME_STATUS)) == L"Abschnitte: 10"; }));
+    EXPECT_EQ(TextOf(Control(IDC_FRAME_COLUMN)), L"Spitze");
+    EXPECT_EQ(Table().RowAt(0), 9U) << "the order stays";
+    EXPECT_EQ(Table().SelectedRows(), Rows{0});
+    m_window->ChooseLanguage(1033);
+    EXPECT_EQ(Title(0), L"Time [s]");
+    ::SetThreadLocale(locale);
+    ::SetThreadUILanguage(0);
+}
+
+TEST_F(WorkbenchFrameMeasures, ColumnsAndPlaceComeBackAfterARestart)
+{
+    ShowShort();
+    ASSERT_TRUE(Table().HideTableColumn(FrameTable::column_crest, true));
+    Table().MoveTableColumn(FrameTable::column_frequency, 0);
+    CloseWindow();
+    OpenWindow();
+    EXPECT_TRUE(m_window->ShowsPane(part));
+    EXPECT_EQ(Table().ShownColumns(),
+              (std::vector<unsigned int>{FrameTable::column_frequency, FrameTable::column_time, FrameTable::column_peak,
+                                         FrameTable::column_rms, FrameTable::column_centroid}));
+    m_window->SendMessage(WM_COMMAND, ID_RESET_LAYOUT);
+    EXPECT_FALSE(m_window->ShowsPane(part));
+    EXPECT_EQ(m_window->List().IsWindowVisible(), TRUE);
+}
+
+TEST_F(WorkbenchFrameMeasures, NothingIsCutOffInAnyLanguageOrResolution)
+{
+    auto const locale = ::GetThreadLocale();
+    for (auto const dots : {96, 144})
+    {
+        CloseWindow();
+        ForgetSettings();
+        OpenWindow(dots);
+        ShowShort();
+        for (auto const language : {1033, 1031, 3082})
+        {
+            m_window->ChooseLanguage(static_cast<unsigned short>(language));
+            CClientDC dc(&Table());
+            CFont * const former = dc.SelectObject(Table().GetFont());
+            auto const width = [&dc](std::wstring const & text) { return dc.GetTextExtent(text.c_str()).cx; };
+            for (int place = 0; place < 6; ++place)
+                EXPECT_GE(Table().GetColumnWidth(place), width(Title(place)) + 34) << language << Title(place).c_str();
+            for (auto const id : {IDC_FRAME_STATUS, IDC_FRAME_EXPORT})
+            {
+                CRect place;
+                Control(id).GetWindowRect(&place);
+                EXPECT_GE(place.Width(), width(TextOf(Control(id)))) << language << ' ' << id;
+            }
+            dc.SelectObject(former);
+            CRect inside;
+            Panel().GetWindowRect(&inside);
+            for (auto * child = Panel().GetWindow(GW_CHILD); child != nullptr; child = child->GetWindow(GW_HWNDNEXT))
+            {
+                CRect place;
+                child->GetWindowRect(&place);
+                EXPECT_GE(place.left, inside.left) << child->GetDlgCtrlID();
+                EXPECT_LE(place.right, inside.right) << child->GetDlgCtrlID();
+                EXPECT_GT(place.Width(), 20) << child->GetDlgCtrlID();
+            }
+        }
+        m_window->ChooseLanguage(1033);
+    }
+    ::SetThreadLocale(locale);
+    ::SetThreadUILanguage(0);
+}
+
+TEST_F(WorkbenchFrameMeasures, OnADarkGroundTheyAreDark)
+{
+    constexpr int indices[] = {COLOR_BTNFACE, COLOR_BTNTEXT, COLOR_WINDOW, COLOR_WINDOWTEXT};
+    constexpr COLORREF dark[] = {RGB(45, 45, 48), RGB(230, 230, 230), RGB(30, 30, 30), RGB(230, 230, 230)};
+    COLORREF former[std::size(indices)];
+    for (std::size_t i = 0; i < std::size(indices); ++i)
+        former[i] = ::GetSysColor(indices[i]);
+    ShowShort();
+    ::SetSysColors(static_cast<int>(std::size(indices)), indices, dark);
+    tests::PumpPosted();
+    // Below the titles, which the system paints.
+    CRect titles;
+    Table().GetHeaderCtrl()->GetClientRect(&titles);
+    auto const share = [](CWnd & window, COLORREF colour, int top) {
+        window.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW | RDW_ALLCHILDREN);
+        CRect place;
+        window.GetClientRect(&place);
+        tests::Canvas picture(place.Width(), place.Height());
+        picture.CopyFromScreen(window);
+        place.top += top;
+        return picture.Count(colour, place) * 100 / (place.Width() * place.Height());
+    };
+    EXPECT_GT(share(Table(), dark[2], titles.Height()), 60);
+    EXPECT_GT(share(Control(IDC_FRAME_STATUS), dark[0], 0), 60);
+    EXPECT_EQ(share(Table(), former[2], titles.Height()), 0);
+    ::SetSysColors(static_cast<int>(std::size(indices)), indices, former);
+}

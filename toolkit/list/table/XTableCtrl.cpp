@@ -1,0 +1,278 @@
+#include "list/table/XTableCtrlState.h"
+
+#include <thread>
+#include <utility>
+
+IMPLEMENT_DYNAMIC(CXTableCtrl, CListCtrl)
+
+BEGIN_MESSAGE_MAP(CXTableCtrl, CListCtrl)
+    ON_NOTIFY_REFLECT_EX(NM_CUSTOMDRAW, &CXTableCtrl::OnCustomDraw)
+    ON_NOTIFY_REFLECT_EX(LVN_GETDISPINFOW, &CXTableCtrl::OnGetDispInfo)
+    ON_NOTIFY_REFLECT_EX(LVN_ODFINDITEMW, &CXTableCtrl::OnFindItem)
+    ON_WM_ERASEBKGND()
+    ON_WM_PAINT()
+    ON_WM_LBUTTONDOWN()
+    ON_WM_LBUTTONDBLCLK()
+    ON_WM_RBUTTONDOWN()
+    ON_WM_KEYDOWN()
+    ON_WM_CHAR()
+    ON_WM_SIZE()
+    ON_WM_TIMER()
+    ON_WM_SETFOCUS()
+    ON_WM_KILLFOCUS()
+    ON_WM_SYSCOLORCHANGE()
+    ON_WM_SETTINGCHANGE()
+    ON_WM_DESTROY()
+END_MESSAGE_MAP()
+
+namespace
+{
+TableLocale SystemLocale()
+{
+    TableLocale locale;
+    wchar_t sign[8] = {};
+    if (::GetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_SDECIMAL, sign, static_cast<int>(std::size(sign))) > 0)
+        locale.decimalSign = sign[0];
+    return locale;
+}
+
+/// Has the module stay as long as the process: a thread may run in it longer than any of its objects.
+bool PinModule()
+{
+    HMODULE module = nullptr;
+    return ::GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_PIN | GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS,
+                                reinterpret_cast<wchar_t const *>(&PinModule), &module) != FALSE;
+}
+} // namespace
+
+void table_threads::Run(std::function<void()> work)
+{
+    static bool const pinned = PinModule();
+    static_cast<void>(pinned);
+    std::thread(std::move(work)).detach();
+}
+
+CXTableCtrl::CXTableCtrl() : m_state(std::make_unique<State>())
+{
+    m_state->linkCell.MakeLink();
+    m_state->barCell.MakeProgress();
+    m_state->barCell.progressShowText = true;
+    m_state->look.palette = CellPalette::OfSystem();
+    TableLooks looks;
+    looks.locale = SystemLocale();
+    m_state->model.SetLooks(std::move(looks));
+}
+
+CXTableCtrl::~CXTableCtrl()
+{
+    m_state->waker->SetWindow(nullptr);
+    if (m_state->task)
+        m_state->task->Progress().Stop();
+    if (m_state->exporting)
+        m_state->exporting->progress.Stop();
+    DestroyWindow();
+}
+
+BOOL CXTableCtrl::Create(DWORD style, RECT const & rect, CWnd * parent, UINT id)
+{
+    constexpr DWORD types = LVS_TYPEMASK;
+    return CListCtrl::Create((style & ~types) | LVS_REPORT | LVS_OWNERDATA, rect, parent, id);
+}
+
+void CXTableCtrl::PreSubclassWindow()
+{
+    CListCtrl::PreSubclassWindow();
+    // A list without owner data would keep rows, and ask for none of these.
+    ASSERT((GetStyle() & LVS_OWNERDATA) != 0);
+    // The window that is being created here is no list yet; it is prepared with its first message.
+    if (GetHeaderCtrl() != nullptr)
+        PrepareWindow();
+}
+
+void CXTableCtrl::OnDestroy()
+{
+    m_state->waker->SetWindow(nullptr);
+    m_state->prepared = false;
+    StopOrdering();
+    CListCtrl::OnDestroy();
+}
+
+void CXTableCtrl::SetColumns(std::vector<TableColumn> columns, std::wstring const & name)
+{
+    TableLooks looks;
+    looks.columns = std::move(columns);
+    looks.locale = m_state->model.Looks().locale;
+    m_state->name = name;
+    m_state->focusColumn = 0;
+    m_state->model.SetLooks(std::move(looks));
+    m_state->layout.Reset(m_state->model.Looks().columns);
+    LoadColumns();
+    PrepareWindow();
+    MakeNativeColumns();
+}
+
+void CXTableCtrl::SetSource(std::shared_ptr<TableSource> const & source)
+{
+    // What was told of the former one is of no interest.
+    m_state->feed->Take();
+    m_state->model.SetSource(source);
+    SetNativeCount();
+    if (m_hWnd != nullptr && RowsShown() != 0 && m_state->painting == 0)
+        EnsureVisible(0, FALSE);
+    WishOrder();
+    RepaintRows();
+}
+
+void CXTableCtrl::SetTableLocale(TableLocale locale)
+{
+    TableLooks looks = m_state->model.Looks();
+    looks.locale = std::move(locale);
+    m_state->ownLocale = true;
+    m_state->model.SetLooks(std::move(looks));
+    WishOrder();
+    RepaintRows();
+}
+
+void CXTableCtrl::OnSettingChange(UINT flags, LPCTSTR section)
+{
+    CListCtrl::OnSettingChange(flags, section);
+    if (m_state->ownLocale)
+        return;
+    SetTableLocale(SystemLocale());
+    m_state->ownLocale = false;
+}
+
+std::shared_ptr<TableFeed> const & CXTableCtrl::Feed() const
+{
+    return m_state->feed;
+}
+
+void CXTableCtrl::SortBy(std::vector<TableSortColumn> columns)
+{
+    m_state->model.SetSort(std::move(columns));
+    ShowSortMarks();
+    WishOrder();
+}
+
+std::vector<TableSortColumn> const & CXTableCtrl::SortColumns() const
+{
+    return m_state->model.Sort();
+}
+
+void CXTableCtrl::SetRowFilter(TableFilter filter)
+{
+    m_state->model.SetFilter(std::move(filter));
+    WishOrder();
+}
+
+bool CXTableCtrl::IsOrdering() const
+{
+    return m_state->task != nullptr;
+}
+
+int CXTableCtrl::OrderProgress() const
+{
+    return m_state->task ? m_state->task->Progress().Done() : 1000;
+}
+
+TableRow CXTableCtrl::RowsShown() const
+{
+    return m_state->model.Size();
+}
+
+TableRow CXTableCtrl::RowAt(TableRow position) const
+{
+    return m_state->model.RowAt(position);
+}
+
+TableRow CXTableCtrl::PositionOf(TableRow row) const
+{
+    return m_state->model.PositionOf(row);
+}
+
+std::vector<TableRow> CXTableCtrl::SelectedRows() const
+{
+    std::vector<TableRow> rows = m_state->model.SelectedPositions();
+    for (TableRow & each : rows)
+        each = m_state->model.RowAt(each);
+    return rows;
+}
+
+bool CXTableCtrl::IsRowSelected(TableRow row) const
+{
+    return m_state->model.IsRowSelected(row);
+}
+
+TableRow CXTableCtrl::FocusRow() const
+{
+    return m_state->model.FocusRow();
+}
+
+bool CXTableCtrl::GoToRow(TableRow row)
+{
+    TableRow const position = m_state->model.PositionOf(row);
+    if (position == TableModel::nowhere)
+        return false;
+    table_input::Go(m_state->model, position, false, false);
+    if (m_hWnd != nullptr && m_state->painting == 0)
+        EnsureVisible(static_cast<int>(position), FALSE);
+    AfterSelection(false);
+    return true;
+}
+
+void CXTableCtrl::SelectAllRows()
+{
+    m_state->model.SelectAll();
+    AfterSelection(false);
+}
+
+std::wstring CXTableCtrl::ShownText(TableRow row, unsigned int column) const
+{
+    std::wstring text;
+    TableValue value;
+    TableColumn const * const shown = m_state->Column(column);
+    std::shared_ptr<TableSource> const source = m_state->model.Source();
+    if (shown != nullptr && source && source->Read(row, column, value))
+        ShowValue(text, value, *shown, m_state->model.Looks().locale);
+    return text;
+}
+
+unsigned long long CXTableCtrl::Repaints() const
+{
+    return m_state->repaints;
+}
+
+LRESULT CXTableCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message == Waker::WakeMessage())
+    {
+        if (wParam == 0)
+            OnWoken();
+        else
+            FollowNatively();
+        return 0;
+    }
+    LRESULT result = 0;
+    if (AnswerState(message, wParam, lParam, result))
+        return result;
+    LifeWatch const life(m_lifeSign);
+    result = CListCtrl::WindowProc(message, wParam, lParam);
+    if (life.Over() || m_hWnd == nullptr)
+        return result;
+    switch (message)
+    {
+    case WM_CREATE:
+        PrepareWindow();
+        break;
+    case WM_HSCROLL:
+    case WM_MOUSEHWHEEL:
+    case LVM_SCROLL:
+        // What stands still was moved along with the rest.
+        if (m_state->layout.Frozen() != 0)
+            RepaintRows();
+        break;
+    default:
+        break;
+    }
+    return result;
+}

@@ -1,0 +1,204 @@
+#pragma once
+
+#include <afxcmn.h>
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "frame/Export.h"
+#include "frame/LifeWatch.h"
+#include "list/table/TableFeed.h"
+#include "list/table/TableForms.h"
+#include "list/table/TableOrder.h"
+#include "list/table/TableSource.h"
+#include "list/table/TableText.h"
+
+struct TableEffect;
+
+/// A report of any number of rows that lie with the host. Its cells look and act as those of the report list; they are
+/// asked for only where they are shown, sorted, filtered or copied. The native list view below it has owner data: it
+/// keeps no rows, and its selection is the table's.
+///
+/// A row is one of the source's; a position is a row's place as shown. Columns count as the host has given them,
+/// wherever they stand. What is called back is called through a copy, and may end the table.
+class INSTRUMENT_UI_API CXTableCtrl : public CListCtrl
+{
+    DECLARE_DYNAMIC(CXTableCtrl)
+
+public:
+    CXTableCtrl();
+    CXTableCtrl(CXTableCtrl const &) = delete;
+    CXTableCtrl & operator=(CXTableCtrl const &) = delete;
+    ~CXTableCtrl() override;
+
+    /// The user's selection or focus changed.
+    std::function<void()> m_onSelectionChange;
+    /// A double click on a cell, or Return: row, column.
+    std::function<void(TableRow, unsigned int)> m_onDoubleClick;
+    /// A click on a link: row, column.
+    std::function<void(TableRow, unsigned int)> m_onLinkClick;
+    /// The user pasted a block; what became of it.
+    std::function<void(TablePasteReport const &)> m_onPaste;
+    /// An export to a file has ended: whether the file is whole.
+    std::function<void(bool)> m_onExportEnd;
+
+    /// A table from a dialog template must have LVS_REPORT and LVS_OWNERDATA; here both are added.
+    BOOL Create(DWORD style, RECT const & rect, CWnd * parent, UINT id) override;
+
+    // --- What it shows ---
+
+    /// name: under it places, widths and hidden columns are kept in the preference store; empty for not at all.
+    void SetColumns(std::vector<TableColumn> columns, std::wstring const & name = {});
+    /// Held weakly: the host ends the source when it likes. Null for none.
+    void SetSource(std::shared_ptr<TableSource> const & source);
+    /// Decimal sign and times; by default as the user has set them in the system.
+    void SetTableLocale(TableLocale locale);
+    /// The first columns shown that stand still when the others are scrolled.
+    void SetFrozenColumns(unsigned int count);
+    /// What threads tell of changes with. It may outlive the table.
+    std::shared_ptr<TableFeed> const & Feed() const;
+
+    // --- Order and choice ---
+
+    /// The first one decides first; none for the source's order.
+    void SortBy(std::vector<TableSortColumn> columns);
+    /// What was wished for last, by the host or the user.
+    std::vector<TableSortColumn> const & SortColumns() const;
+    /// Shows the rows that fulfil it.
+    void SetRowFilter(TableFilter filter);
+    /// Whether many rows are being put in order, which is done beside the window.
+    bool IsOrdering() const;
+    /// How far that is, per mille.
+    int OrderProgress() const;
+    /// Leaves the rows as they are. Escape does the same.
+    void StopOrdering();
+
+    // --- Rows, focus and selection ---
+
+    /// Positions.
+    TableRow RowsShown() const;
+    /// no_table_row for a position that is none.
+    TableRow RowAt(TableRow position) const;
+    /// no_table_row for a row that is not shown.
+    TableRow PositionOf(TableRow row) const;
+    /// In the order shown.
+    std::vector<TableRow> SelectedRows() const;
+    /// Whether it is shown or not.
+    bool IsRowSelected(TableRow row) const;
+    /// no_table_row if none has it.
+    TableRow FocusRow() const;
+    /// Selects the row alone, as a click would, and brings it into view. Calls nothing back. False if it is not shown.
+    bool GoToRow(TableRow row);
+    /// All rows shown. Calls nothing back.
+    void SelectAllRows();
+    /// What the cell shows.
+    std::wstring ShownText(TableRow row, unsigned int column) const;
+
+    // --- Columns ---
+
+    /// From left to right.
+    std::vector<unsigned int> ShownColumns() const;
+    /// False for the last one shown.
+    bool HideTableColumn(unsigned int column, bool hidden);
+    /// place: among those shown.
+    void MoveTableColumn(unsigned int column, unsigned int place);
+
+    // --- Copies, export and paste ---
+
+    /// The selection, or all rows shown, with the columns shown. As text it goes to the clipboard together with the
+    /// table in HTML.
+    bool CopyRows(TableForm form, bool selectionOnly, bool titles);
+    /// Writes a file in UTF-8 beside the window; false if one is being written already.
+    bool ExportRows(std::wstring const & path, TableForm form, bool selectionOnly);
+    /// Whether a file is being written.
+    bool IsExporting() const;
+    /// Per mille.
+    int ExportProgress() const;
+    /// Ends it and takes the file away.
+    void StopExport();
+    /// Puts what the clipboard has into cells, from the one with the focus on.
+    TablePasteReport PasteBlock();
+
+    /// Follows what was told by now at once, and paints it.
+    void UpdateNow();
+    /// Repaints of rows since the window was made.
+    unsigned long long Repaints() const;
+
+protected:
+    void PreSubclassWindow() override;
+    BOOL PreTranslateMessage(MSG * message) override;
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+    BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT * result) override;
+    /// The header's menu: which columns are shown. screen: where.
+    virtual void ShowColumnMenu(CPoint screen);
+    /// Colours of a cell that is about to be painted, but for those of the selection. Must not end the table.
+    virtual void GetCellColors(TableRow row, unsigned int column, COLORREF & text, COLORREF & background);
+
+    afx_msg BOOL OnCustomDraw(NMHDR * header, LRESULT * result);
+    afx_msg BOOL OnGetDispInfo(NMHDR * header, LRESULT * result);
+    afx_msg BOOL OnFindItem(NMHDR * header, LRESULT * result);
+    afx_msg BOOL OnEraseBkgnd(CDC * dc);
+    afx_msg void OnPaint();
+    afx_msg void OnLButtonDown(UINT flags, CPoint point);
+    afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
+    afx_msg void OnRButtonDown(UINT flags, CPoint point);
+    afx_msg void OnKeyDown(UINT character, UINT repeats, UINT flags);
+    afx_msg void OnChar(UINT character, UINT repeats, UINT flags);
+    afx_msg void OnSize(UINT type, int width, int height);
+    afx_msg void OnTimer(UINT_PTR id);
+    afx_msg void OnSetFocus(CWnd * former);
+    afx_msg void OnKillFocus(CWnd * next);
+    afx_msg void OnSysColorChange();
+    afx_msg void OnSettingChange(UINT flags, LPCTSTR section);
+    afx_msg void OnDestroy();
+    DECLARE_MESSAGE_MAP()
+
+private:
+    struct State;
+    class Waker;
+
+    // Columns and header (XTableCtrlColumns.cpp).
+    void PrepareWindow();
+    void MakeNativeColumns();
+    /// What had to wait for the end of a paint or notification.
+    void FollowNatively();
+    bool MustWait();
+    void LoadColumns();
+    void StoreColumn(unsigned int column);
+    void StoreColumns();
+    void ShowSortMarks();
+    void PlaceFrozenHeader();
+    bool OnHeaderNotify(NMHDR const & header, LRESULT * result);
+    bool DrawHeaderProgress(NMCUSTOMDRAW const & draw, LRESULT * result);
+
+    // Changes (XTableCtrlLive.cpp).
+    void OnWoken();
+    void Follow(bool now);
+    /// What it was before a change of rows.
+    struct View;
+    View PresentView() const;
+    void TakeEffect(TableEffect const & effect, View const & before);
+    void WishOrder();
+    void TakeOrder();
+    void SetNativeCount();
+    void ShowProgress();
+    void RepaintRows();
+
+    // Painting (XTableCtrlPaint.cpp).
+    void PrepareLook();
+    void MeasureDecimals(CDC & dc, TableRow first, TableRow last);
+    void PaintRow(CDC & dc, TableRow position);
+    void PaintRowCell(CDC & dc, TableRow row, unsigned int column, CRect const & rect, bool selected);
+
+    // Input (XTableCtrlInput.cpp).
+    bool HitCell(CPoint point, TableRow & position, unsigned int & column) const;
+    void GoTo(TableRow position, bool shift, bool control);
+    void AfterSelection(bool tell);
+    void PressCell(TableRow position, unsigned int column);
+    bool AnswerState(UINT message, WPARAM wParam, LPARAM lParam, LRESULT & result);
+
+    std::unique_ptr<State> m_state;
+    LifeSign m_lifeSign;
+};

@@ -1,0 +1,414 @@
+#include "list/table/XTableCtrlState.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "frame/PreferenceStore.h"
+
+namespace
+{
+constexpr UINT frozen_header_id = 0x7A10;
+constexpr int dots_of_widths = 96;
+/// What is kept of a column, by its index under the column's key.
+constexpr std::size_t place_index = 0;
+constexpr std::size_t width_index = 1;
+constexpr std::size_t hidden_index = 2;
+constexpr int no_value = -1;
+
+int DotsOf(HWND window)
+{
+    HDC const dc = ::GetDC(window);
+    int const dots = ::GetDeviceCaps(dc, LOGPIXELSX);
+    ::ReleaseDC(window, dc);
+    return dots > 0 ? dots : dots_of_widths;
+}
+
+int FormatOf(TableColumn const & column)
+{
+    switch (column.align)
+    {
+    case TableAlign::centre:
+        return HDF_CENTER;
+    case TableAlign::right:
+        return HDF_RIGHT;
+    case TableAlign::byKind:
+        if (column.kind == TableKind::whole || column.kind == TableKind::floating)
+            return HDF_RIGHT;
+        return column.kind == TableKind::time ? HDF_CENTER : HDF_LEFT;
+    default:
+        return HDF_LEFT;
+    }
+}
+
+std::wstring KeyOf(std::wstring const & table, TableColumn const & column)
+{
+    return table + L'/' + NameOf(column);
+}
+} // namespace
+
+void CXTableCtrl::PrepareWindow()
+{
+    State & state = *m_state;
+    if (state.prepared || m_hWnd == nullptr || GetHeaderCtrl() == nullptr)
+        return;
+    state.prepared = true;
+    state.waker->SetWindow(m_hWnd);
+    SetExtendedStyle(GetExtendedStyle() | LVS_EX_FULLROWSELECT | LVS_EX_HEADERDRAGDROP);
+    state.frozenHeader.Create(WS_CHILD | WS_CLIPSIBLINGS | HDS_HORZ | HDS_BUTTONS | CCS_NOPARENTALIGN,
+                              CRect(0, 0, 0, 0), this, frozen_header_id);
+    state.frozenHeader.SetFont(GetFont(), FALSE);
+    MakeNativeColumns();
+    SetNativeCount();
+    // What was told while there was no window.
+    state.waker->Wake();
+    if (state.model.NeedsOrder())
+        WishOrder();
+}
+
+// The native list has the columns shown, in their order, so that its own order is none.
+void CXTableCtrl::MakeNativeColumns()
+{
+    State & state = *m_state;
+    if (MustWait())
+        return;
+    state.shown = state.layout.Shown();
+    if (!state.prepared)
+        return;
+    ++state.making;
+    SetRedraw(FALSE);
+    CHeaderCtrl & header = *GetHeaderCtrl();
+    int const dots = DotsOf(m_hWnd);
+    for (int count = header.GetItemCount(); count > static_cast<int>(state.shown.size()); --count)
+        DeleteColumn(count - 1);
+    for (std::size_t i = 0; i < state.shown.size(); ++i)
+    {
+        TableColumn const & described = *state.Column(state.shown[i]);
+        std::wstring title = TitleOf(described);
+        LVCOLUMNW column = {};
+        column.mask = LVCF_TEXT | LVCF_WIDTH | LVCF_FMT;
+        column.fmt = FormatOf(described) & LVCFMT_JUSTIFYMASK;
+        column.cx = ::MulDiv(state.layout.Width(state.shown[i]), dots, dots_of_widths);
+        column.pszText = title.data();
+        if (static_cast<int>(i) < header.GetItemCount())
+            SetColumn(static_cast<int>(i), &column);
+        else
+            InsertColumn(static_cast<int>(i), &column);
+    }
+    SetRedraw(TRUE);
+    --state.making;
+    ShowSortMarks();
+    PlaceFrozenHeader();
+    Invalidate(FALSE);
+    header.Invalidate(FALSE);
+}
+
+bool CXTableCtrl::MustWait()
+{
+    if (m_state->painting == 0)
+        return false;
+    m_state->nativeWaits = true;
+    return true;
+}
+
+void CXTableCtrl::FollowNatively()
+{
+    if (MustWait())
+        return;
+    m_state->nativeWaits = false;
+    MakeNativeColumns();
+    SetNativeCount();
+    RepaintRows();
+}
+
+void CXTableCtrl::ShowSortMarks()
+{
+    State & state = *m_state;
+    if (!state.prepared)
+        return;
+    ++state.making;
+    CHeaderCtrl & header = *GetHeaderCtrl();
+    for (std::size_t i = 0; i < state.shown.size(); ++i)
+    {
+        // Columns that are about to be made anew.
+        if (state.Column(state.shown[i]) == nullptr)
+            continue;
+        HDITEMW item = {};
+        item.mask = HDI_FORMAT;
+        header.GetItem(static_cast<int>(i), &item);
+        int const former = item.fmt;
+        item.fmt &= ~(HDF_SORTUP | HDF_SORTDOWN | HDF_JUSTIFYMASK);
+        item.fmt |= FormatOf(*state.Column(state.shown[i]));
+        for (TableSortColumn const & each : state.model.Sort())
+            if (each.column == state.shown[i])
+                item.fmt |= each.descending ? HDF_SORTDOWN : HDF_SORTUP;
+        if (item.fmt != former)
+            header.SetItem(static_cast<int>(i), &item);
+    }
+    --state.making;
+    PlaceFrozenHeader();
+}
+
+// The titles of the columns that stand still lie over the native header, which is scrolled.
+void CXTableCtrl::PlaceFrozenHeader()
+{
+    State & state = *m_state;
+    CHeaderCtrl & over = state.frozenHeader;
+    if (!state.prepared || over.m_hWnd == nullptr)
+        return;
+    unsigned int const frozen = state.layout.Frozen();
+    if (frozen == 0 && over.GetItemCount() == 0)
+        return;
+    CHeaderCtrl & header = *GetHeaderCtrl();
+    ++state.making;
+    for (int count = over.GetItemCount(); count > static_cast<int>(frozen); --count)
+        over.DeleteItem(count - 1);
+    int width = 0;
+    for (unsigned int i = 0; i < frozen; ++i)
+    {
+        wchar_t title[256] = {};
+        HDITEMW item = {};
+        item.mask = HDI_TEXT | HDI_WIDTH | HDI_FORMAT;
+        item.pszText = title;
+        item.cchTextMax = static_cast<int>(std::size(title));
+        header.GetItem(static_cast<int>(i), &item);
+        width += item.cxy;
+        if (static_cast<int>(i) < over.GetItemCount())
+            over.SetItem(static_cast<int>(i), &item);
+        else
+            over.InsertItem(static_cast<int>(i), &item);
+    }
+    CRect place(0, 0, 0, 0);
+    header.GetWindowRect(&place);
+    ScreenToClient(&place);
+    over.SetWindowPos(&CWnd::wndTop, 0, place.top, width, place.Height(),
+                      SWP_NOACTIVATE | (frozen != 0 ? SWP_SHOWWINDOW : SWP_HIDEWINDOW));
+    --state.making;
+}
+
+void CXTableCtrl::SetFrozenColumns(unsigned int count)
+{
+    m_state->layout.SetFrozen(count);
+    PlaceFrozenHeader();
+    RepaintRows();
+}
+
+void CXTableCtrl::LoadColumns()
+{
+    State & state = *m_state;
+    CResourceVesk * const store = CVeskBase::PreferenceVesk();
+    if (store == nullptr || state.name.empty())
+        return;
+    state.layout.Restore([&state, store](unsigned int column) -> std::optional<StoredTableColumn> {
+        std::wstring const key = KeyOf(state.name, *state.Column(column));
+        StoredTableColumn stored;
+        stored.width = store->LookupGetInt(key.c_str(), width_index, no_value);
+        if (stored.width == no_value)
+            return std::nullopt;
+        stored.place = store->LookupGetInt(key.c_str(), place_index, 0);
+        stored.hidden = store->LookupGetInt(key.c_str(), hidden_index, 0) != 0;
+        return stored;
+    });
+}
+
+void CXTableCtrl::StoreColumn(unsigned int column)
+{
+    State & state = *m_state;
+    CResourceVesk * const store = CVeskBase::PreferenceVesk();
+    if (store == nullptr || state.name.empty() || state.Column(column) == nullptr)
+        return;
+    std::wstring const key = KeyOf(state.name, *state.Column(column));
+    StoredTableColumn const stored = state.layout.Stored(column);
+    store->LookupSetInt(key.c_str(), stored.place, place_index);
+    store->LookupSetInt(key.c_str(), stored.width, width_index);
+    store->LookupSetInt(key.c_str(), stored.hidden ? 1 : 0, hidden_index);
+}
+
+void CXTableCtrl::StoreColumns()
+{
+    for (unsigned int column = 0; column < m_state->layout.Count(); ++column)
+        StoreColumn(column);
+}
+
+std::vector<unsigned int> CXTableCtrl::ShownColumns() const
+{
+    return m_state->layout.Shown();
+}
+
+bool CXTableCtrl::HideTableColumn(unsigned int column, bool hidden)
+{
+    if (!m_state->layout.Hide(column, hidden))
+        return false;
+    MakeNativeColumns();
+    StoreColumn(column);
+    return true;
+}
+
+void CXTableCtrl::MoveTableColumn(unsigned int column, unsigned int place)
+{
+    m_state->layout.Move(column, place);
+    MakeNativeColumns();
+    StoreColumns();
+}
+
+// A second click on a title is one like the first; on a divider it stays a double click.
+BOOL CXTableCtrl::PreTranslateMessage(MSG * message)
+{
+    CHeaderCtrl * const native = GetHeaderCtrl();
+    if (message->message == WM_LBUTTONDBLCLK && native != nullptr &&
+        (message->hwnd == native->m_hWnd || message->hwnd == m_state->frozenHeader.m_hWnd))
+    {
+        HDHITTESTINFO hit = {};
+        hit.pt = CPoint(message->lParam);
+        ::SendMessageW(message->hwnd, HDM_HITTEST, 0, reinterpret_cast<LPARAM>(&hit));
+        if (hit.flags == HHT_ONHEADER)
+            message->message = WM_LBUTTONDOWN;
+    }
+    return CListCtrl::PreTranslateMessage(message);
+}
+
+BOOL CXTableCtrl::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT * result)
+{
+    auto const & header = *reinterpret_cast<NMHDR const *>(lParam);
+    CHeaderCtrl * const native = GetHeaderCtrl();
+    if (native != nullptr && (header.hwndFrom == native->m_hWnd || header.hwndFrom == m_state->frozenHeader.m_hWnd) &&
+        OnHeaderNotify(header, result))
+        return TRUE;
+    return CListCtrl::OnNotify(wParam, lParam, result);
+}
+
+/// True where the native list need not hear of it.
+bool CXTableCtrl::OnHeaderNotify(NMHDR const & header, LRESULT * result)
+{
+    State & state = *m_state;
+    bool const frozen = header.hwndFrom == state.frozenHeader.m_hWnd;
+    auto const & change = reinterpret_cast<NMHEADERW const &>(header);
+    auto const columnOf = [&state](int item) {
+        return item >= 0 && static_cast<std::size_t>(item) < state.shown.size()
+                   ? state.shown[static_cast<std::size_t>(item)]
+                   : TableFilter::any_column;
+    };
+    *result = 0;
+    switch (header.code)
+    {
+    case HDN_ITEMCLICKW:
+    case HDN_ITEMCLICKA: {
+        unsigned int const column = columnOf(change.iItem);
+        if (column == TableFilter::any_column || change.iButton != 0)
+            return true;
+        state.model.ClickTitle(column, ::GetKeyState(VK_SHIFT) < 0);
+        LifeWatch const life(m_lifeSign);
+        ShowSortMarks();
+        if (!life.Over())
+            WishOrder();
+        return true;
+    }
+    case HDN_ITEMCHANGEDW:
+    case HDN_ITEMCHANGEDA: {
+        if (state.making != 0 || change.pitem == nullptr || (change.pitem->mask & HDI_WIDTH) == 0)
+            return frozen;
+        unsigned int const column = columnOf(change.iItem);
+        if (column == TableFilter::any_column)
+            return frozen;
+        if (frozen)
+        {
+            // The native column follows, and tells of it in its turn.
+            SetColumnWidth(change.iItem, change.pitem->cxy);
+            return true;
+        }
+        state.layout.SetWidth(column, ::MulDiv(change.pitem->cxy, dots_of_widths, DotsOf(m_hWnd)));
+        StoreColumn(column);
+        if (static_cast<unsigned int>(change.iItem) < state.layout.Frozen())
+            PostMessage(Waker::WakeMessage(), 1, 0);
+        return false;
+    }
+    case HDN_ENDDRAG:
+        // The order is the table's own: the native one stays as it is.
+        if (change.pitem != nullptr && (change.pitem->mask & HDI_ORDER) != 0 && change.pitem->iOrder >= 0)
+        {
+            unsigned int const column = columnOf(change.iItem);
+            if (column != TableFilter::any_column)
+            {
+                state.layout.Move(column, static_cast<unsigned int>(change.pitem->iOrder));
+                StoreColumns();
+                PostMessage(Waker::WakeMessage(), 1, 0);
+            }
+        }
+        *result = TRUE;
+        return true;
+    case NM_RCLICK: {
+        CPoint point;
+        ::GetCursorPos(&point);
+        ShowColumnMenu(point);
+        return true;
+    }
+    case NM_CUSTOMDRAW:
+        return DrawHeaderProgress(reinterpret_cast<NMCUSTOMDRAW const &>(header), result) || frozen;
+    default:
+        return frozen;
+    }
+}
+
+/// While rows are put in order or written to a file, a bar at the header's lower edge says how far it is.
+bool CXTableCtrl::DrawHeaderProgress(NMCUSTOMDRAW const & draw, LRESULT * result)
+{
+    constexpr int bar_height = 3;
+    State const & state = *m_state;
+    if (!state.task && !state.exporting)
+        return false;
+    int const done = state.task ? OrderProgress() : ExportProgress();
+    if (draw.dwDrawStage == CDDS_PREPAINT)
+    {
+        *result = CDRF_NOTIFYPOSTPAINT;
+        return true;
+    }
+    if (draw.dwDrawStage != CDDS_POSTPAINT)
+        return false;
+    CRect client;
+    GetClientRect(&client);
+    CRect bar;
+    ::GetClientRect(draw.hdr.hwndFrom, &bar);
+    CPoint origin(0, 0);
+    ::MapWindowPoints(m_hWnd, draw.hdr.hwndFrom, &origin, 1);
+    bar.left = origin.x;
+    bar.right = origin.x + ::MulDiv(client.Width(), done, 1000);
+    bar.top = bar.bottom - bar_height;
+    CDC & dc = *CDC::FromHandle(draw.hdc);
+    COLORREF const former = dc.GetBkColor();
+    dc.FillSolidRect(bar, state.look.palette.selection);
+    dc.SetBkColor(former);
+    *result = CDRF_DODEFAULT;
+    return true;
+}
+
+void CXTableCtrl::ShowColumnMenu(CPoint screen)
+{
+    State & state = *m_state;
+    CMenu menu;
+    if (!menu.CreatePopupMenu())
+        return;
+    std::vector<unsigned int> const order = state.layout.Order();
+    bool const last = state.layout.Shown().size() == 1;
+    for (unsigned int const column : order)
+    {
+        bool const hidden = state.layout.IsHidden(column);
+        UINT const flags =
+            MF_STRING | (hidden ? MF_UNCHECKED : MF_CHECKED) | (!hidden && last ? MF_GRAYED : MF_ENABLED);
+        std::wstring title = TitleOf(*state.Column(column));
+        // An ampersand is one here.
+        for (std::size_t at = title.find(L'&'); at != std::wstring::npos; at = title.find(L'&', at + 2))
+            title.insert(at, 1, L'&');
+        menu.AppendMenu(flags, static_cast<UINT_PTR>(column) + 1, title.c_str());
+    }
+    LifeWatch const life(m_lifeSign);
+    auto const command = static_cast<unsigned int>(
+        menu.TrackPopupMenu(TPM_RETURNCMD | TPM_NONOTIFY | TPM_RIGHTBUTTON, screen.x, screen.y, this));
+    if (life.Over() || command == 0)
+        return;
+    HideTableColumn(command - 1, !m_state->layout.IsHidden(command - 1));
+}
+
+void CXTableCtrl::OnSize(UINT type, int width, int height)
+{
+    CListCtrl::OnSize(type, width, height);
+    PlaceFrozenHeader();
+}

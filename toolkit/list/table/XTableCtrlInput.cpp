@@ -1,0 +1,368 @@
+#include "list/table/XTableCtrlState.h"
+
+#include <algorithm>
+
+namespace
+{
+bool IsDown(int key)
+{
+    return ::GetKeyState(key) < 0;
+}
+} // namespace
+
+bool CXTableCtrl::HitCell(CPoint point, TableRow & position, unsigned int & column) const
+{
+    State const & state = *m_state;
+    LVHITTESTINFO hit = {};
+    hit.pt = point;
+    // Anywhere in the row's height; the columns are the table's own matter.
+    hit.pt.x = 1;
+    auto const item = static_cast<int>(::SendMessageW(m_hWnd, LVM_SUBITEMHITTEST, 0, reinterpret_cast<LPARAM>(&hit)));
+    CHeaderCtrl * const header = const_cast<CXTableCtrl *>(this)->GetHeaderCtrl();
+    if (item < 0 || header == nullptr || static_cast<TableRow>(item) >= state.model.Size())
+        return false;
+    position = static_cast<TableRow>(item);
+    CPoint origin(0, 0);
+    ::MapWindowPoints(header->m_hWnd, m_hWnd, &origin, 1);
+    int still = 0;
+    unsigned int const frozen = state.layout.Frozen();
+    for (std::size_t i = 0; i < state.shown.size(); ++i)
+    {
+        CRect rect(0, 0, 0, 0);
+        header->GetItemRect(static_cast<int>(i), &rect);
+        int left = rect.left + origin.x;
+        if (i < frozen)
+        {
+            left = still;
+            still += rect.Width();
+        }
+        else if (point.x < still)
+        {
+            continue;
+        }
+        if (point.x >= left && point.x < left + rect.Width())
+        {
+            column = state.shown[i];
+            return true;
+        }
+    }
+    return false;
+}
+
+void CXTableCtrl::AfterSelection(bool tell)
+{
+    RepaintRows();
+    if (!tell)
+        return;
+    auto const callback = m_onSelectionChange;
+    if (callback)
+        callback();
+}
+
+void CXTableCtrl::GoTo(TableRow position, bool shift, bool control)
+{
+    table_input::Go(m_state->model, position, shift, control);
+    EnsureVisible(static_cast<int>(position), FALSE);
+    AfterSelection(true);
+}
+
+void CXTableCtrl::OnLButtonDown(UINT flags, CPoint point)
+{
+    LifeWatch const life(m_lifeSign);
+    SetFocus();
+    if (life.Over() || m_hWnd == nullptr)
+        return;
+    TableRow position = 0;
+    unsigned int column = 0;
+    bool const shift = (flags & MK_SHIFT) != 0;
+    bool const control = (flags & MK_CONTROL) != 0;
+    if (!HitCell(point, position, column))
+    {
+        if (!shift && !control)
+        {
+            m_state->model.ClearSelection();
+            AfterSelection(true);
+        }
+        return;
+    }
+    m_state->focusColumn = column;
+    if (control && !shift)
+    {
+        table_input::Flip(m_state->model, position);
+        AfterSelection(true);
+        return;
+    }
+    TableRow const row = m_state->model.RowAt(position);
+    GoTo(position, shift, control);
+    // The row that was pressed, wherever it stands by now.
+    if (!life.Over() && m_hWnd != nullptr && !shift && row == m_state->model.RowAt(position))
+        PressCell(position, column);
+}
+
+void CXTableCtrl::OnRButtonDown(UINT flags, CPoint point)
+{
+    static_cast<void>(flags);
+    LifeWatch const life(m_lifeSign);
+    SetFocus();
+    if (life.Over() || m_hWnd == nullptr)
+        return;
+    TableRow position = 0;
+    unsigned int column = 0;
+    if (!HitCell(point, position, column))
+        return;
+    m_state->focusColumn = column;
+    // A selected row leaves the others selected: the menu may be for all of them.
+    if (!m_state->model.IsSelected(position))
+        GoTo(position, false, false);
+}
+
+void CXTableCtrl::OnLButtonDblClk(UINT flags, CPoint point)
+{
+    TableRow position = 0;
+    unsigned int column = 0;
+    if (!HitCell(point, position, column))
+        return;
+    TableRow const row = m_state->model.RowAt(position);
+    // Since the first press another row may have come here, or the selection may have changed.
+    if (!m_state->model.IsSelected(position) || m_state->model.FocusRow() != row)
+    {
+        OnLButtonDown(flags, point);
+        return;
+    }
+    TableValue value;
+    TableColumn const * const described = m_state->Column(column);
+    // The second press on a mark is one like the first.
+    if (m_state->model.ReadRow(row, column, value) && value.Kind() == TableKind::tick && described != nullptr &&
+        described->editable)
+    {
+        PressCell(position, column);
+        return;
+    }
+    auto const callback = m_onDoubleClick;
+    if (callback)
+        callback(row, column);
+}
+
+void CXTableCtrl::PressCell(TableRow position, unsigned int column)
+{
+    TableRow const row = m_state->model.RowAt(position);
+    TableColumn const * const described = m_state->Column(column);
+    TableValue value;
+    if (described == nullptr || !m_state->model.ReadRow(row, column, value))
+        return;
+    if (value.Kind() == TableKind::link)
+    {
+        auto const callback = m_onLinkClick;
+        if (callback)
+            callback(row, column);
+        return;
+    }
+    if (value.Kind() != TableKind::tick || !described->editable)
+        return;
+    LifeWatch const life(m_lifeSign);
+    std::shared_ptr<TableSource> const source = m_state->model.Source();
+    auto const check = described->check;
+    value.SetTick(value.Whole() == 0);
+    if (!source || (check && !check(value).empty()) || life.Over() || !source->Write(row, column, value))
+        return;
+    if (life.Over())
+        return;
+    m_state->feed->RowsChanged(row, row);
+    UpdateNow();
+}
+
+void CXTableCtrl::OnKeyDown(UINT character, UINT repeats, UINT flags)
+{
+    State & state = *m_state;
+    bool const shift = IsDown(VK_SHIFT);
+    bool const control = IsDown(VK_CONTROL);
+    std::optional<table_input::Move> move;
+    switch (character)
+    {
+    case VK_UP:
+        move = table_input::Move::up;
+        break;
+    case VK_DOWN:
+        move = table_input::Move::down;
+        break;
+    case VK_PRIOR:
+        move = table_input::Move::page_up;
+        break;
+    case VK_NEXT:
+        move = table_input::Move::page_down;
+        break;
+    case VK_HOME:
+        move = table_input::Move::first;
+        break;
+    case VK_END:
+        move = table_input::Move::last;
+        break;
+    case VK_SPACE:
+        if (control)
+        {
+            table_input::Flip(state.model, state.model.FocusPosition());
+            AfterSelection(true);
+        }
+        return;
+    case VK_RETURN:
+        if (TableRow const row = state.model.FocusRow(); row != no_table_row)
+        {
+            auto const callback = m_onDoubleClick;
+            if (callback)
+                callback(row, state.focusColumn);
+        }
+        return;
+    case VK_ESCAPE:
+        StopOrdering();
+        return;
+    case L'A':
+        if (control)
+        {
+            state.model.SelectAll();
+            AfterSelection(true);
+        }
+        return;
+    case L'C':
+    case VK_INSERT:
+        if (control)
+            CopyRows(TableForm::text, true, false);
+        else if (shift && character == VK_INSERT)
+            PasteBlock();
+        return;
+    case L'V':
+        if (control)
+            PasteBlock();
+        return;
+    case VK_LEFT:
+        SendMessage(WM_HSCROLL, SB_LINELEFT, 0);
+        return;
+    case VK_RIGHT:
+        SendMessage(WM_HSCROLL, SB_LINERIGHT, 0);
+        return;
+    default:
+        CListCtrl::OnKeyDown(character, repeats, flags);
+        return;
+    }
+    auto const top = static_cast<TableRow>(std::max(GetTopIndex(), 0));
+    auto const page = static_cast<TableRow>(std::max(GetCountPerPage(), 1));
+    std::optional<TableRow> const wanted =
+        table_input::Moved(*move, state.model.FocusPosition(), state.model.Size(), top, page);
+    if (wanted)
+        GoTo(*wanted, shift, control);
+}
+
+void CXTableCtrl::OnChar(UINT character, UINT repeats, UINT flags)
+{
+    static_cast<void>(repeats);
+    static_cast<void>(flags);
+    State & state = *m_state;
+    if (character <= L' ' || state.shown.empty())
+        return;
+    TypedText::Search const search =
+        state.typed.Add(static_cast<wchar_t>(character), static_cast<long long>(::GetTickCount64()));
+    TableRow const focus = state.model.FocusPosition();
+    TableRow const from = focus == TableModel::nowhere ? 0 : search.fromFocus ? focus : focus + 1;
+    // In the column sorted by, or else the first one.
+    unsigned int const column = state.model.Sort().empty() || state.layout.IsHidden(state.model.Sort().front().column)
+                                    ? state.shown.front()
+                                    : state.model.Sort().front().column;
+    TableRow const found = state.model.FindTyped(column, search.text, from);
+    if (found != TableModel::nowhere)
+        GoTo(found, false, false);
+}
+
+BOOL CXTableCtrl::OnFindItem(NMHDR * header, LRESULT * result)
+{
+    auto const & find = *reinterpret_cast<NMLVFINDITEMW const *>(header);
+    *result = -1;
+    if ((find.lvfi.flags & (LVFI_STRING | LVFI_PARTIAL)) == 0 || find.lvfi.psz == nullptr || m_state->shown.empty())
+        return TRUE;
+    TableRow const found = m_state->model.FindTyped(m_state->shown.front(), find.lvfi.psz,
+                                                    static_cast<TableRow>(std::max(find.iStart, 0)));
+    if (found != TableModel::nowhere)
+        *result = static_cast<LRESULT>(found);
+    return TRUE;
+}
+
+void CXTableCtrl::OnSetFocus(CWnd * former)
+{
+    LifeWatch const life(m_lifeSign);
+    CListCtrl::OnSetFocus(former);
+    if (!life.Over())
+        RepaintRows();
+}
+
+void CXTableCtrl::OnKillFocus(CWnd * next)
+{
+    LifeWatch const life(m_lifeSign);
+    CListCtrl::OnKillFocus(next);
+    if (!life.Over())
+        RepaintRows();
+}
+
+// Whoever asks the native list what is selected is told of the table's selection.
+bool CXTableCtrl::AnswerState(UINT message, WPARAM wParam, LPARAM lParam, LRESULT & result)
+{
+    TableModel & model = m_state->model;
+    switch (message)
+    {
+    case LVM_GETITEMSTATE: {
+        auto const position = static_cast<TableRow>(wParam);
+        UINT state = 0;
+        if (model.IsSelected(position))
+            state |= LVIS_SELECTED;
+        if (TableRow const focus = model.FocusRow(); focus != no_table_row && model.RowAt(position) == focus)
+            state |= LVIS_FOCUSED;
+        result = static_cast<LRESULT>(state & static_cast<UINT>(lParam));
+        return true;
+    }
+    case LVM_SETITEMSTATE: {
+        auto const & item = *reinterpret_cast<LVITEMW const *>(lParam);
+        bool const all = static_cast<int>(wParam) == -1;
+        auto const position = static_cast<TableRow>(wParam);
+        result = FALSE;
+        if (!all && position >= model.Size())
+            return true;
+        if ((item.stateMask & LVIS_SELECTED) != 0)
+        {
+            bool const selected = (item.state & LVIS_SELECTED) != 0;
+            if (!all)
+                model.Select(position, selected);
+            else if (selected)
+                model.SelectAll();
+            else
+                model.ClearSelection();
+        }
+        if ((item.stateMask & LVIS_FOCUSED) != 0)
+            model.SetFocus(all || (item.state & LVIS_FOCUSED) == 0 ? TableModel::nowhere : position);
+        RepaintRows();
+        result = TRUE;
+        return true;
+    }
+    case LVM_GETSELECTEDCOUNT:
+        result = static_cast<LRESULT>(model.SelectedPositions().size());
+        return true;
+    case LVM_GETNEXTITEM: {
+        auto const flags = static_cast<UINT>(LOWORD(lParam));
+        if ((flags & (LVNI_SELECTED | LVNI_FOCUSED)) == 0 ||
+            (flags & (LVNI_ABOVE | LVNI_BELOW | LVNI_TOLEFT | LVNI_TORIGHT)) != 0)
+            return false;
+        result = -1;
+        TableRow const after = static_cast<TableRow>(wParam) + 1;
+        if ((flags & LVNI_FOCUSED) != 0)
+        {
+            TableRow const focus = model.FocusPosition();
+            if (focus != TableModel::nowhere && focus >= after &&
+                ((flags & LVNI_SELECTED) == 0 || model.IsSelected(focus)))
+                result = static_cast<LRESULT>(focus);
+            return true;
+        }
+        TableRow const next = model.NextSelected(after);
+        if (next != TableModel::nowhere)
+            result = static_cast<LRESULT>(next);
+        return true;
+    }
+    default:
+        return false;
+    }
+}

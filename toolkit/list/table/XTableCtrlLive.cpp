@@ -1,0 +1,248 @@
+#include "list/table/XTableCtrlState.h"
+
+#include <algorithm>
+#include <utility>
+
+/// Where the user looks.
+struct CXTableCtrl::View
+{
+    bool atEnd = false;
+    bool focusSeen = false;
+};
+
+UINT CXTableCtrl::Waker::WakeMessage()
+{
+    static UINT const message = ::RegisterWindowMessageW(L"WM_XTABLECTRL_WAKE");
+    return message;
+}
+
+void CXTableCtrl::OnWoken()
+{
+    LifeWatch const life(m_lifeSign);
+    if (m_state->task && m_state->task->Finished())
+        TakeOrder();
+    if (life.Over() || m_hWnd == nullptr)
+        return;
+    if (m_state->exporting && m_state->exporting->finished.load(std::memory_order_acquire))
+    {
+        bool const whole = std::exchange(m_state->exporting, nullptr)->whole.load();
+        ShowProgress();
+        auto const callback = m_onExportEnd;
+        if (callback)
+            callback(whole);
+        if (life.Over() || m_hWnd == nullptr)
+            return;
+    }
+    if (m_state->repaintWaits)
+        return;
+    auto const now = static_cast<long long>(::GetTickCount64());
+    long long const wait = m_state->pace.Wait(now);
+    if (wait == 0)
+    {
+        Follow(false);
+        return;
+    }
+    m_state->repaintWaits = true;
+    SetTimer(table_timers::repaint, static_cast<UINT>(wait), nullptr);
+}
+
+void CXTableCtrl::OnTimer(UINT_PTR id)
+{
+    switch (id)
+    {
+    case table_timers::repaint:
+        KillTimer(id);
+        m_state->repaintWaits = false;
+        Follow(false);
+        return;
+    case table_timers::place:
+        KillTimer(id);
+        Follow(true);
+        return;
+    case table_timers::progress:
+        ShowProgress();
+        return;
+    default:
+        CListCtrl::OnTimer(id);
+        return;
+    }
+}
+
+void CXTableCtrl::UpdateNow()
+{
+    if (m_hWnd != nullptr)
+        Follow(true);
+    else
+        m_state->model.Apply(m_state->feed->Take());
+}
+
+CXTableCtrl::View CXTableCtrl::PresentView() const
+{
+    View view;
+    TableRow const size = m_state->model.Size();
+    if (m_hWnd == nullptr || size == 0)
+        return view;
+    auto const top = static_cast<TableRow>(std::max(GetTopIndex(), 0));
+    auto const page = static_cast<TableRow>(std::max(GetCountPerPage(), 1));
+    // Where all fits, nobody has gone to the end yet.
+    view.atEnd = size > page && top + page >= size;
+    TableRow const focus = m_state->model.FocusRow();
+    for (TableRow position = top; !view.focusSeen && focus != no_table_row && position < std::min(top + page, size);
+         ++position)
+        view.focusSeen = m_state->model.RowAt(position) == focus;
+    return view;
+}
+
+// All that was told, and what it means for what is seen. now: rows that moved are put into their places however lately
+// that was done.
+void CXTableCtrl::Follow(bool now)
+{
+    State & state = *m_state;
+    View const before = PresentView();
+    unsigned long long const time = ::GetTickCount64();
+    bool const place = now || time - state.placed >= table_timers::place_interval;
+    TableEffect const effect = state.model.Apply(state.feed->Take(), place);
+    if (state.model.RowsWait())
+        SetTimer(table_timers::place, table_timers::place_interval, nullptr);
+    else
+        state.placed = time;
+    LifeWatch const life(m_lifeSign);
+    TakeEffect(effect, before);
+    if (life.Over() || m_hWnd == nullptr)
+        return;
+    if (state.model.NeedsOrder() && !state.task && !state.orderStopped)
+        WishOrder();
+    if (life.Over() || m_hWnd == nullptr)
+        return;
+    if (m_state->painting == 0)
+        UpdateWindow();
+    if (!life.Over())
+        m_state->pace.Painted(static_cast<long long>(::GetTickCount64()));
+}
+
+void CXTableCtrl::TakeEffect(TableEffect const & effect, View const & before)
+{
+    if (m_hWnd == nullptr || effect.IsEmpty())
+        return;
+    if (effect.sizeChanged)
+        SetNativeCount();
+    if (m_state->painting != 0)
+    {
+        RepaintRows();
+        return;
+    }
+    if (before.atEnd && effect.sizeChanged && m_state->model.Size() != 0)
+    {
+        EnsureVisible(static_cast<int>(m_state->model.Size() - 1), FALSE);
+    }
+    else if (effect.allMoved && before.focusSeen)
+    {
+        TableRow const focus = m_state->model.FocusPosition();
+        if (focus != TableModel::nowhere)
+            EnsureVisible(static_cast<int>(focus), FALSE);
+    }
+    if (effect.allMoved || effect.allValues)
+    {
+        RepaintRows();
+        return;
+    }
+    auto const top = static_cast<TableRow>(std::max(GetTopIndex(), 0));
+    TableRow const end =
+        std::min(top + static_cast<TableRow>(std::max(GetCountPerPage(), 0)) + 1, m_state->model.Size());
+    for (TableRow position = top; position < end; ++position)
+    {
+        TableRow const row = m_state->model.RowAt(position);
+        auto const next =
+            std::upper_bound(effect.rows.begin(), effect.rows.end(), row,
+                             [](TableRow wanted, TableRowRange const & each) { return wanted < each.first; });
+        CRect rect;
+        if (next != effect.rows.begin() && row <= std::prev(next)->last &&
+            GetItemRect(static_cast<int>(position), &rect, LVIR_BOUNDS))
+        {
+            CRect client;
+            GetClientRect(&client);
+            rect.left = client.left;
+            rect.right = client.right;
+            RedrawWindow(&rect, nullptr, RDW_INVALIDATE | RDW_NOCHILDREN);
+        }
+    }
+}
+
+void CXTableCtrl::SetNativeCount()
+{
+    if (m_hWnd == nullptr || MustWait())
+        return;
+    // The native list takes so many.
+    constexpr TableRow most_rows = 100000000;
+    auto const former = static_cast<TableRow>(std::max(GetItemCount(), 0));
+    TableRow const size = std::min(m_state->model.Size(), most_rows);
+    CListCtrl::SetItemCountEx(static_cast<int>(size), LVSICF_NOINVALIDATEALL | LVSICF_NOSCROLL);
+    // Rows that come or go out of sight are no matter.
+    auto const end = static_cast<TableRow>(std::max(GetTopIndex(), 0) + std::max(GetCountPerPage(), 0)) + 1;
+    if (std::min(former, size) < end)
+        RepaintRows();
+}
+
+void CXTableCtrl::RepaintRows()
+{
+    // Not the header, which costs more than a page of cells.
+    if (m_hWnd != nullptr)
+        RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_NOCHILDREN);
+}
+
+// Few rows are put in order at once, many beside the window.
+void CXTableCtrl::WishOrder()
+{
+    State & state = *m_state;
+    state.orderStopped = false;
+    if (std::exchange(state.task, nullptr))
+        ShowProgress();
+    if (!state.model.NeedsOrder())
+        return;
+    if (m_hWnd == nullptr || !state.model.OrderTakesLong())
+    {
+        View const before = PresentView();
+        TableEffect const effect = state.model.FindOrder();
+        TakeEffect(effect, before);
+        return;
+    }
+    state.task = state.model.BeginOrder();
+    SetTimer(table_timers::progress, table_timers::progress_interval, nullptr);
+    table_threads::Run([task = state.task, waker = state.waker] {
+        task->Run();
+        waker->Wake();
+    });
+}
+
+void CXTableCtrl::TakeOrder()
+{
+    State & state = *m_state;
+    View const before = PresentView();
+    std::shared_ptr<TableOrderTask> const task = std::exchange(state.task, nullptr);
+    ShowProgress();
+    TakeEffect(state.model.TakeOrder(*task), before);
+}
+
+void CXTableCtrl::StopOrdering()
+{
+    State & state = *m_state;
+    if (!state.task)
+        return;
+    state.task->Progress().Stop();
+    state.task.reset();
+    state.orderStopped = true;
+    ShowProgress();
+}
+
+// Until nothing is going on any more.
+void CXTableCtrl::ShowProgress()
+{
+    if (m_hWnd == nullptr)
+        return;
+    if (!m_state->task && !m_state->exporting)
+        KillTimer(table_timers::progress);
+    if (CHeaderCtrl * const header = GetHeaderCtrl(); header != nullptr)
+        header->Invalidate(FALSE);
+    if (m_state->frozenHeader.m_hWnd != nullptr)
+        m_state->frozenHeader.Invalidate(FALSE);
+}

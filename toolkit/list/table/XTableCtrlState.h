@@ -1,0 +1,115 @@
+#pragma once
+// What a table control has. Internal to the module.
+
+#include "list/table/XTableCtrl.h"
+
+#include <atomic>
+
+#include "list/CellPainters.h"
+#include "list/table/TableColumnLayout.h"
+#include "list/table/TableInput.h"
+#include "list/table/TableModel.h"
+#include "list/table/TablePace.h"
+
+/// Posts to the window from any thread; to none once that is gone.
+class CXTableCtrl::Waker : public TableWaker
+{
+public:
+    void Wake() override
+    {
+        if (HWND const window = m_window.load(std::memory_order_acquire); window != nullptr)
+            ::PostMessageW(window, WakeMessage(), 0, 0);
+    }
+    void SetWindow(HWND window) { m_window.store(window, std::memory_order_release); }
+    static UINT WakeMessage();
+
+private:
+    std::atomic<HWND> m_window{nullptr};
+};
+
+/// A file that is written beside the window.
+struct TableExport
+{
+    TableProgress progress;
+    std::atomic<bool> finished{false};
+    std::atomic<bool> whole{false};
+};
+
+struct CXTableCtrl::State
+{
+    TableModel model;
+    std::shared_ptr<Waker> waker = std::make_shared<Waker>();
+    std::shared_ptr<TableFeed> feed = std::make_shared<TableFeed>(waker);
+    std::shared_ptr<TableOrderTask> task;
+    std::shared_ptr<TableExport> exporting;
+    TablePace pace;
+    bool repaintWaits = false;
+    /// When changed rows were put into their places last.
+    unsigned long long placed = 0;
+
+    /// The native list is ready.
+    bool prepared = false;
+    std::wstring name;
+    TableColumnLayout layout;
+    /// The columns that the native list has, from left to right.
+    std::vector<unsigned int> shown;
+    /// While native columns are made, what the header tells is no wish of the user's.
+    int making = 0;
+    /// Paints that are going on. The native list stands no change of its columns and rows meanwhile; they wait.
+    int painting = 0;
+    bool nativeWaits = false;
+    CHeaderCtrl frozenHeader;
+
+    CellLook look;
+    bool ownLocale = false;
+    /// The user has stopped the work on the order wished for.
+    bool orderStopped = false;
+    struct Edges
+    {
+        int left = 0;
+        int right = 0;
+        /// The widest part behind the decimal sign among the cells seen; negative where it does not matter.
+        int tail = -1;
+        UINT alignment = DT_LEFT;
+    };
+    /// For the length of one paint.
+    std::vector<Edges> edges;
+    unsigned int frozen = 0;
+    int frozenRight = 0;
+    bool focused = false;
+    TableRow focusRow = no_table_row;
+    int topPosition = 0;
+    CRect topRect;
+    XLISTCTRLDATA textCell;
+    XLISTCTRLDATA linkCell;
+    XLISTCTRLDATA tickCell;
+    XLISTCTRLDATA barCell;
+    TableValue value;
+    std::wstring text;
+    unsigned long long repaints = 0;
+
+    TypedText typed;
+    /// The column with the focus, where a block is pasted.
+    unsigned int focusColumn = 0;
+
+    TableColumn const * Column(unsigned int column) const
+    {
+        std::vector<TableColumn> const & columns = model.Looks().columns;
+        return column < columns.size() ? &columns[column] : nullptr;
+    }
+};
+
+namespace table_timers
+{
+constexpr UINT_PTR repaint = 0x7A01;
+constexpr UINT_PTR progress = 0x7A02;
+constexpr UINT_PTR place = 0x7A03;
+constexpr UINT progress_interval = 50;
+constexpr UINT place_interval = 250;
+} // namespace table_timers
+
+namespace table_threads
+{
+/// Runs work on a thread that nothing waits for. It may use what it shares alone.
+void Run(std::function<void()> work);
+} // namespace table_threads
