@@ -10,7 +10,7 @@ using namespace docking_tests;
 
 namespace
 {
-CRect const frameRect(0, 0, 1000, 700);
+CRect const frame_rect(0, 0, 1000, 700);
 
 DockLayout WithPanes(UINT count)
 {
@@ -34,8 +34,8 @@ CRect RectOf(DockPlan const & plan, UINT pane)
 TEST(DockLayout, AnEmptyFrameBelongsToTheCentre)
 {
     DockLayout layout;
-    DockPlan const plan = layout.Arrange(0, frameRect);
-    EXPECT_EQ(plan.centre, frameRect);
+    DockPlan const plan = layout.Arrange(0, frame_rect);
+    EXPECT_EQ(plan.centre, frame_rect);
     EXPECT_TRUE(plan.groups.empty() && plan.dividers.empty());
 }
 
@@ -43,11 +43,11 @@ TEST(DockLayout, TheRoomOfACentreThatDoesNotShowGoesToWhatIsNextToIt)
 {
     DockLayout layout = WithPanes(3);
     layout.metrics.centreShown = false;
-    EXPECT_FALSE(layout.Arrange(0, frameRect).centre);
+    EXPECT_FALSE(layout.Arrange(0, frame_rect).centre);
     layout.DockAtSide(1, DockSide::Left, false, 200);
-    EXPECT_EQ(layout.Arrange(0, frameRect).groups.at(0).rect, frameRect);
+    EXPECT_EQ(layout.Arrange(0, frame_rect).groups.at(0).rect, frame_rect);
     layout.DockAtSide(2, DockSide::Bottom, false, 150);
-    EXPECT_EQ(RectOf(layout.Arrange(0, frameRect), 2), CRect(200 + layout.metrics.divider, 0, 1000, 700));
+    EXPECT_EQ(RectOf(layout.Arrange(0, frame_rect), 2), CRect(200 + layout.metrics.divider, 0, 1000, 700));
     layout.DockAtSide(3, DockSide::Top, false, 120);
     for (int const width : {1000, 1400, 900})
     {
@@ -62,15 +62,15 @@ TEST(DockLayout, TheRoomOfACentreThatDoesNotShowGoesToWhatIsNextToIt)
     }
     // With that one gone, what is behind it.
     layout.Show(3, false);
-    DockPlan const plan = layout.Arrange(0, frameRect);
-    EXPECT_EQ(RectOf(plan, 2), CRect(200 + layout.metrics.divider, 0, frameRect.right, frameRect.bottom));
+    DockPlan const plan = layout.Arrange(0, frame_rect);
+    EXPECT_EQ(RectOf(plan, 2), CRect(200 + layout.metrics.divider, 0, frame_rect.right, frame_rect.bottom));
     // And the centre comes back between them.
     layout.Show(3, true);
     layout.metrics.centreShown = true;
-    DockPlan const again = layout.Arrange(0, frameRect);
+    DockPlan const again = layout.Arrange(0, frame_rect);
     ASSERT_TRUE(again.centre);
     EXPECT_EQ(again.centre->top, 120 + layout.metrics.divider);
-    EXPECT_EQ(again.centre->bottom, frameRect.bottom - 150 - layout.metrics.divider);
+    EXPECT_EQ(again.centre->bottom, frame_rect.bottom - 150 - layout.metrics.divider);
 }
 
 TEST(DockLayout, APaneTakesItsSizeAtEachSide)
@@ -81,7 +81,7 @@ TEST(DockLayout, APaneTakesItsSizeAtEachSide)
     {
         DockLayout layout = WithPanes(1);
         ASSERT_TRUE(layout.DockAtSide(1, side, false));
-        EXPECT_EQ(RectOf(layout.Arrange(0, frameRect), 1), wanted);
+        EXPECT_EQ(RectOf(layout.Arrange(0, frame_rect), 1), wanted);
         EXPECT_EQ(layout.SideOf(1), side);
     }
 }
@@ -92,7 +92,7 @@ TEST(DockLayout, TheSecondPaneAtASideLiesFurtherInAndOneAtTheOuterEdgeBeforeAll)
     layout.DockAtSide(1, DockSide::Left, false, 100);
     layout.DockAtSide(2, DockSide::Left, false, 120);
     layout.DockAtSide(3, DockSide::Bottom, true, 90);
-    DockPlan const plan = layout.Arrange(0, frameRect);
+    DockPlan const plan = layout.Arrange(0, frame_rect);
     EXPECT_EQ(RectOf(plan, 1), CRect(0, 0, 100, 606));
     EXPECT_EQ(RectOf(plan, 2), CRect(104, 0, 224, 606));
     EXPECT_EQ(RectOf(plan, 3), CRect(0, 610, 1000, 700));
@@ -103,9 +103,9 @@ TEST(DockLayout, BesideAPaneHalfOfItsPlaceIsTaken)
 {
     DockLayout layout = WithPanes(2);
     layout.DockAtSide(1, DockSide::Left, false);
-    layout.Arrange(0, frameRect);
+    layout.Arrange(0, frame_rect);
     ASSERT_TRUE(layout.DockBeside(2, 1, DockSide::Bottom));
-    DockPlan const plan = layout.Arrange(0, frameRect);
+    DockPlan const plan = layout.Arrange(0, frame_rect);
     EXPECT_EQ(RectOf(plan, 1), CRect(0, 0, 200, 348));
     EXPECT_EQ(RectOf(plan, 2), CRect(0, 352, 200, 700));
 }
@@ -127,12 +127,12 @@ TEST(DockLayout, TabsShareAPlaceAndTheNewOneIsInFront)
     layout.DockAtSide(1, DockSide::Left, false);
     ASSERT_TRUE(layout.DockAsTab(2, 1));
     ASSERT_TRUE(layout.DockAsTab(3, 1, 0));
-    DockPlan plan = layout.Arrange(0, frameRect);
+    DockPlan plan = layout.Arrange(0, frame_rect);
     ASSERT_EQ(plan.groups.size(), 1u);
     EXPECT_EQ(plan.groups[0].panes, (std::vector<UINT>{3, 1, 2}));
     EXPECT_EQ(plan.groups[0].active, 3u);
     layout.Show(3, false);
-    plan = layout.Arrange(0, frameRect);
+    plan = layout.Arrange(0, frame_rect);
     EXPECT_EQ(plan.groups[0].panes, (std::vector<UINT>{1, 2}));
     EXPECT_EQ(plan.groups[0].active, 1u);
 }
@@ -143,13 +143,13 @@ TEST(DockLayout, AHiddenPaneComesBackToItsPlace)
     layout.DockAtSide(1, DockSide::Left, false, 100);
     layout.DockBeside(2, 1, DockSide::Bottom);
     layout.DockBeside(3, 2, DockSide::Right);
-    DockPlan const before = layout.Arrange(0, frameRect);
+    DockPlan const before = layout.Arrange(0, frame_rect);
     layout.Show(1, false);
     layout.Show(3, false);
-    EXPECT_EQ(RectOf(layout.Arrange(0, frameRect), 2), CRect(0, 0, 100, 700));
+    EXPECT_EQ(RectOf(layout.Arrange(0, frame_rect), 2), CRect(0, 0, 100, 700));
     layout.Show(3, true);
     layout.Show(1, true);
-    DockPlan const after = layout.Arrange(0, frameRect);
+    DockPlan const after = layout.Arrange(0, frame_rect);
     for (UINT pane = 1; pane <= 3; ++pane)
         EXPECT_EQ(RectOf(after, pane), RectOf(before, pane));
 }
@@ -198,7 +198,7 @@ TEST(DockLayout, AFloatingFrameDocksWithItsShape)
     layout.DockBeside(3, 2, DockSide::Right);
     layout.DockAsTab(4, 3);
     ASSERT_TRUE(layout.DockBeside(DockContent::Frame(layout.FrameOf(2)), 1, DockSide::Bottom));
-    DockPlan const plan = layout.Arrange(0, frameRect);
+    DockPlan const plan = layout.Arrange(0, frame_rect);
     EXPECT_EQ(RectOf(plan, 2).top, RectOf(plan, 3).top);
     EXPECT_EQ(RectOf(plan, 3), RectOf(plan, 4));
     EXPECT_EQ(plan.groups.size(), 3u);
@@ -210,14 +210,14 @@ TEST(DockLayout, FoldingTakesAllTabsOfAPlaceToTheStripAndBack)
     layout.DockAtSide(1, DockSide::Right, false);
     layout.DockAsTab(2, 1);
     layout.DockAtSide(3, DockSide::Bottom, false);
-    DockPlan const before = layout.Arrange(0, frameRect);
+    DockPlan const before = layout.Arrange(0, frame_rect);
     ASSERT_TRUE(layout.Fold(2, true));
     EXPECT_EQ(layout.Folded(DockSide::Right), (std::vector<UINT>{1, 2}));
-    EXPECT_EQ(layout.Arrange(0, frameRect).groups.size(), 1u);
+    EXPECT_EQ(layout.Arrange(0, frame_rect).groups.size(), 1u);
     EXPECT_FALSE(layout.Fold(2, true));
     ASSERT_TRUE(layout.Fold(2, false));
     EXPECT_TRUE(layout.Folded(DockSide::Right).empty());
-    EXPECT_EQ(RectOf(layout.Arrange(0, frameRect), 1), RectOf(before, 1));
+    EXPECT_EQ(RectOf(layout.Arrange(0, frame_rect), 1), RectOf(before, 1));
 }
 
 TEST(DockLayout, ADividerMovesAsFarAsTheLeastSizesAllow)
@@ -225,16 +225,16 @@ TEST(DockLayout, ADividerMovesAsFarAsTheLeastSizesAllow)
     DockLayout layout = WithPanes(2);
     layout.DockAtSide(1, DockSide::Left, false, 100);
     layout.DockAtSide(2, DockSide::Right, false, 100);
-    DockPlan plan = layout.Arrange(0, frameRect);
+    DockPlan plan = layout.Arrange(0, frame_rect);
     ASSERT_EQ(plan.dividers.size(), 2u);
     auto const divider = plan.dividers[0];
-    EXPECT_EQ(layout.MoveDivider(0, frameRect, divider.split, divider.index, 30), 30);
-    EXPECT_EQ(RectOf(layout.Arrange(0, frameRect), 1).right, 130);
-    EXPECT_EQ(layout.MoveDivider(0, frameRect, divider.split, divider.index, -500), -80);
-    EXPECT_EQ(RectOf(layout.Arrange(0, frameRect), 1).right, 50);
+    EXPECT_EQ(layout.MoveDivider(0, frame_rect, divider.split, divider.index, 30), 30);
+    EXPECT_EQ(RectOf(layout.Arrange(0, frame_rect), 1).right, 130);
+    EXPECT_EQ(layout.MoveDivider(0, frame_rect, divider.split, divider.index, -500), -80);
+    EXPECT_EQ(RectOf(layout.Arrange(0, frame_rect), 1).right, 50);
     // The pane behind the centre stands still.
-    EXPECT_EQ(layout.MoveDivider(0, frameRect, divider.split, divider.index, 5000), 1000 - 100 - 8 - 50 - 40);
-    EXPECT_EQ(RectOf(layout.Arrange(0, frameRect), 2), CRect(900, 0, 1000, 700));
+    EXPECT_EQ(layout.MoveDivider(0, frame_rect, divider.split, divider.index, 5000), 1000 - 100 - 8 - 50 - 40);
+    EXPECT_EQ(RectOf(layout.Arrange(0, frame_rect), 2), CRect(900, 0, 1000, 700));
 }
 
 TEST(DockLayout, AFrameThatGetsSmallAndLargeAgainIsAsBefore)
@@ -245,10 +245,10 @@ TEST(DockLayout, AFrameThatGetsSmallAndLargeAgainIsAsBefore)
     layout.DockBeside(3, 1, DockSide::Bottom);
     layout.DockBeside(4, 3, DockSide::Bottom);
     layout.DockAtSide(5, DockSide::Top, true);
-    DockPlan const before = layout.Arrange(0, frameRect);
+    DockPlan const before = layout.Arrange(0, frame_rect);
     for (int width = 1000; width >= 0; width -= 37)
         CheckPlan(layout, layout.Arrange(0, CRect(0, 0, width, width * 7 / 10)), CRect(0, 0, width, width * 7 / 10), 0);
-    DockPlan const after = layout.Arrange(0, frameRect);
+    DockPlan const after = layout.Arrange(0, frame_rect);
     for (UINT pane = 1; pane <= 5; ++pane)
         EXPECT_EQ(RectOf(after, pane), RectOf(before, pane));
 }
@@ -258,11 +258,11 @@ TEST(DockLayout, APaneWithoutAWindowKeepsItsPlace)
     DockLayout layout = WithPanes(2);
     layout.DockAtSide(1, DockSide::Left, false, 100);
     layout.DockBeside(2, 1, DockSide::Bottom);
-    DockPlan const before = layout.Arrange(0, frameRect);
+    DockPlan const before = layout.Arrange(0, frame_rect);
     layout.LeavePane(2);
-    EXPECT_EQ(RectOf(layout.Arrange(0, frameRect), 1), CRect(0, 0, 100, 700));
+    EXPECT_EQ(RectOf(layout.Arrange(0, frame_rect), 1), CRect(0, 0, 100, 700));
     layout.AddPane(2, CSize(10, 10), CSize(1, 1));
-    EXPECT_EQ(RectOf(layout.Arrange(0, frameRect), 2), RectOf(before, 2));
+    EXPECT_EQ(RectOf(layout.Arrange(0, frame_rect), 2), RectOf(before, 2));
     layout.LeavePane(2);
     layout.RemoveAbsent([](UINT) { return true; });
     EXPECT_EQ(layout.Find(2), nullptr);
@@ -276,7 +276,7 @@ TEST(DockLayout, ManyOperationsLeaveASoundLayout)
     DockLayout layout = WithPanes(14);
     for (UINT pane = 1; pane <= 14; ++pane)
         layout.SetMinSize(pane, CSize(below(60), below(60)));
-    CRect rect = frameRect;
+    CRect rect = frame_rect;
     auto const any = [&] { return static_cast<UINT>(1 + below(14)); };
     auto const side = [&] { return static_cast<DockSide>(below(4)); };
     auto const content = [&]() -> DockContent {
@@ -435,13 +435,13 @@ TEST(DockLayoutStore, AStoredLayoutWaitsForItsPanes)
     DockLayout layout = WithPanes(2);
     layout.DockAtSide(1, DockSide::Left, false, 100);
     layout.DockBeside(2, 1, DockSide::Bottom);
-    DockPlan const before = layout.Arrange(0, frameRect);
+    DockPlan const before = layout.Arrange(0, frame_rect);
     auto stored = DockLayout::Load(layout.Save());
     ASSERT_TRUE(stored);
-    EXPECT_TRUE(stored->Arrange(0, frameRect).groups.empty());
+    EXPECT_TRUE(stored->Arrange(0, frame_rect).groups.empty());
     stored->AddPane(2, CSize(50, 40), CSize(1, 1));
     stored->AddPane(1, CSize(50, 40), CSize(1, 1));
-    DockPlan const after = stored->Arrange(0, frameRect);
+    DockPlan const after = stored->Arrange(0, frame_rect);
     EXPECT_EQ(RectOf(after, 1), RectOf(before, 1));
     EXPECT_EQ(RectOf(after, 2), RectOf(before, 2));
 }
