@@ -429,7 +429,7 @@ TEST_F(TableControl, FrozenColumnsStandStill)
     table->SetWindowPos(nullptr, 0, 0, 200, 220, SWP_NOMOVE | SWP_NOZORDER);
     table->SetFrozenColumns(1);
     ASSERT_TRUE(tests::BringToFront(parent.m_hWnd));
-    table->SendMessage(LVM_SCROLL, 2 * column_width, 0);
+    table->SendMessage(LVM_SCROLL, WPARAM{2} * column_width, 0);
     table->UpdateWindow();
     tests::PumpPosted();
     CRect row(0, 0, 0, 0);

@@ -31,7 +31,7 @@ int FormatOf(TableColumn const & column)
         return HDF_CENTER;
     case TableAlign::right:
         return HDF_RIGHT;
-    case TableAlign::byKind:
+    case TableAlign::by_kind:
         if (column.kind == TableKind::whole || column.kind == TableKind::floating)
             return HDF_RIGHT;
         return column.kind == TableKind::time ? HDF_CENTER : HDF_LEFT;

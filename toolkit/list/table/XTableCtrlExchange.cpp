@@ -135,8 +135,7 @@ TablePasteReport CXTableCtrl::PasteBlock()
     std::wstring_view const view(text.GetString(), static_cast<std::size_t>(text.GetLength()));
     LifeWatch const life(m_lifeSign);
     std::shared_ptr<TableFeed> const feed = state.feed;
-    TablePasteReport const report =
-        PasteTable(state.model, ReadCsv(view, GuessSeparator(view)).records, position, columns);
+    TablePasteReport report = PasteTable(state.model, ReadCsv(view, GuessSeparator(view)).records, position, columns);
     for (TableRowRange const & each : report.rows)
         feed->RowsChanged(each.first, each.last);
     if (life.Over())

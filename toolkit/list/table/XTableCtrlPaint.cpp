@@ -17,7 +17,7 @@ bool IsNumber(TableKind kind)
 /// Whether cells of the column may end at different distances from their decimal sign.
 bool HasDifferentTails(TableColumn const & column)
 {
-    if (column.align != TableAlign::byKind || !IsNumber(column.kind))
+    if (column.align != TableAlign::by_kind || !IsNumber(column.kind))
         return false;
     return column.format.engineering ||
            (column.kind == TableKind::floating && column.format.style != NumberStyle::fixed);
@@ -33,7 +33,7 @@ UINT AlignmentOf(TableColumn const & column, TableKind kind)
         return DT_CENTER;
     case TableAlign::right:
         return DT_RIGHT;
-    case TableAlign::byKind:
+    case TableAlign::by_kind:
         break;
     }
     if (IsNumber(kind))
