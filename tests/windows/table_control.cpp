@@ -139,8 +139,8 @@ TEST_F(TableControl, ADoubleClickOnAnotherRowSelectsIt)
     Show({0, 1, 2});
     TableRow opened = no_table_row;
     table->m_onDoubleClick = [&opened](TableRow row, unsigned int) { opened = row; };
-    Press(1, 0);
-    CPoint const point = CellPoint(1, 0);
+    Press(1, 3);
+    CPoint const point = CellPoint(1, 3);
     table->SendMessage(WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(point.x, point.y));
     EXPECT_EQ(opened, 1U);
     opened = no_table_row;

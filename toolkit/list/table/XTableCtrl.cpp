@@ -3,6 +3,8 @@
 #include <thread>
 #include <utility>
 
+#include "frame/InternalMessages.h"
+
 IMPLEMENT_DYNAMIC(CXTableCtrl, CListCtrl)
 
 BEGIN_MESSAGE_MAP(CXTableCtrl, CListCtrl)
@@ -14,6 +16,7 @@ BEGIN_MESSAGE_MAP(CXTableCtrl, CListCtrl)
     ON_WM_LBUTTONDOWN()
     ON_WM_LBUTTONDBLCLK()
     ON_WM_RBUTTONDOWN()
+    ON_WM_RBUTTONUP()
     ON_WM_KEYDOWN()
     ON_WM_CHAR()
     ON_WM_SIZE()
@@ -23,6 +26,8 @@ BEGIN_MESSAGE_MAP(CXTableCtrl, CListCtrl)
     ON_WM_SYSCOLORCHANGE()
     ON_WM_SETTINGCHANGE()
     ON_WM_DESTROY()
+    ON_REGISTERED_MESSAGE(WM_XEDIT_KILL_FOCUS, &CXTableCtrl::OnEditEnds)
+    ON_REGISTERED_MESSAGE(WM_XEDIT_VK_ESCAPE, &CXTableCtrl::OnEditLeft)
 END_MESSAGE_MAP()
 
 namespace
@@ -93,17 +98,24 @@ void CXTableCtrl::OnDestroy()
 {
     m_state->waker->SetWindow(nullptr);
     m_state->prepared = false;
+    if (m_state->editing)
+        m_state->editing->window->SetClosing();
+    m_state->editing.reset();
     StopOrdering();
     CListCtrl::OnDestroy();
 }
 
 void CXTableCtrl::SetColumns(std::vector<TableColumn> columns, std::wstring const & name)
 {
+    LifeWatch const life(m_lifeSign);
+    CloseEdit();
+    if (life.Over())
+        return;
     TableLooks looks;
     looks.columns = std::move(columns);
     looks.locale = m_state->model.Looks().locale;
     m_state->name = name;
-    m_state->focusColumn = 0;
+    m_state->focusColumn = State::no_column;
     m_state->model.SetLooks(std::move(looks));
     m_state->layout.Reset(m_state->model.Looks().columns);
     LoadColumns();
@@ -113,6 +125,10 @@ void CXTableCtrl::SetColumns(std::vector<TableColumn> columns, std::wstring cons
 
 void CXTableCtrl::SetSource(std::shared_ptr<TableSource> const & source)
 {
+    LifeWatch const life(m_lifeSign);
+    CloseEdit();
+    if (life.Over())
+        return;
     // What was told of the former one is of no interest.
     m_state->feed->Take();
     m_state->model.SetSource(source);
@@ -246,16 +262,51 @@ LRESULT CXTableCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
     if (message == Waker::WakeMessage())
     {
-        if (wParam == 0)
+        switch (wParam)
+        {
+        case Waker::told:
             OnWoken();
-        else
+            break;
+        case Waker::place_edit:
+            PlaceEdit();
+            break;
+        default:
             FollowNatively();
+            break;
+        }
         return 0;
     }
     LRESULT result = 0;
     if (AnswerState(message, wParam, lParam, result))
         return result;
     LifeWatch const life(m_lifeSign);
+    switch (message)
+    {
+    case WM_VSCROLL:
+    case WM_HSCROLL:
+    case WM_MOUSEWHEEL:
+    case WM_MOUSEHWHEEL:
+        // The user leaves the cell, unless its text is refused.
+        if (!TakeEdit() || life.Over() || m_hWnd == nullptr)
+            return 0;
+        break;
+    case WM_CONTEXTMENU:
+        if (lParam == -1)
+        {
+            // By the keyboard: at the cell with the focus.
+            CPoint const place = MenuPlace();
+            if (life.Over() || m_hWnd == nullptr)
+                return 0;
+            lParam = MAKELPARAM(place.x, place.y);
+        }
+        break;
+    case WM_COMMAND:
+        if (HIWORD(wParam) == EN_CHANGE)
+            HideReason();
+        break;
+    default:
+        break;
+    }
     result = CListCtrl::WindowProc(message, wParam, lParam);
     if (life.Over() || m_hWnd == nullptr)
         return result;
@@ -270,6 +321,13 @@ LRESULT CXTableCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
         // What stands still was moved along with the rest.
         if (m_state->layout.Frozen() != 0)
             RepaintRows();
+        WishEditPlace();
+        break;
+    case LVM_ENSUREVISIBLE:
+    case LVM_SETCOLUMNWIDTH:
+    case WM_SIZE:
+    case WM_SETFONT:
+        WishEditPlace();
         break;
     default:
         break;

@@ -53,6 +53,8 @@ void CXTableCtrl::PrepareWindow()
         return;
     state.prepared = true;
     state.waker->SetWindow(m_hWnd);
+    // What is typed into stays as it is while rows are painted.
+    ModifyStyle(0, WS_CLIPCHILDREN);
     SetExtendedStyle(GetExtendedStyle() | LVS_EX_FULLROWSELECT | LVS_EX_HEADERDRAGDROP);
     state.frozenHeader.Create(WS_CHILD | WS_CLIPSIBLINGS | HDS_HORZ | HDS_BUTTONS | CCS_NOPARENTALIGN,
                               CRect(0, 0, 0, 0), this, frozen_header_id);
@@ -100,6 +102,7 @@ void CXTableCtrl::MakeNativeColumns()
     PlaceFrozenHeader();
     Invalidate(FALSE);
     header.Invalidate(FALSE);
+    WishEditPlace();
 }
 
 bool CXTableCtrl::MustWait()
@@ -291,6 +294,26 @@ bool CXTableCtrl::OnHeaderNotify(NMHDR const & header, LRESULT * result)
     switch (header.code)
     {
     case HDN_ITEMCLICKW:
+    case HDN_ITEMCLICKA:
+    case HDN_BEGINTRACKW:
+    case HDN_BEGINTRACKA:
+    case HDN_BEGINDRAG:
+    case NM_RCLICK: {
+        // The user leaves the cell, unless its text is refused.
+        LifeWatch const life(m_lifeSign);
+        if (!TakeEdit() || life.Over() || m_hWnd == nullptr)
+        {
+            *result = TRUE;
+            return true;
+        }
+        break;
+    }
+    default:
+        break;
+    }
+    switch (header.code)
+    {
+    case HDN_ITEMCLICKW:
     case HDN_ITEMCLICKA: {
         unsigned int const column = columnOf(change.iItem);
         if (column == TableFilter::any_column || change.iButton != 0)
@@ -318,7 +341,7 @@ bool CXTableCtrl::OnHeaderNotify(NMHDR const & header, LRESULT * result)
         state.layout.SetWidth(column, ::MulDiv(change.pitem->cxy, dots_of_widths, DotsOf(m_hWnd)));
         StoreColumn(column);
         if (static_cast<unsigned int>(change.iItem) < state.layout.Frozen())
-            PostMessage(Waker::WakeMessage(), 1, 0);
+            PostMessage(Waker::WakeMessage(), Waker::follow_natively, 0);
         return false;
     }
     case HDN_ENDDRAG:
@@ -330,7 +353,7 @@ bool CXTableCtrl::OnHeaderNotify(NMHDR const & header, LRESULT * result)
             {
                 state.layout.Move(column, static_cast<unsigned int>(change.pitem->iOrder));
                 StoreColumns();
-                PostMessage(Waker::WakeMessage(), 1, 0);
+                PostMessage(Waker::WakeMessage(), Waker::follow_natively, 0);
             }
         }
         *result = TRUE;
@@ -338,6 +361,8 @@ bool CXTableCtrl::OnHeaderNotify(NMHDR const & header, LRESULT * result)
     case NM_RCLICK: {
         CPoint point;
         ::GetCursorPos(&point);
+        // The rows' menu is another one.
+        *result = TRUE;
         ShowColumnMenu(point);
         return true;
     }

@@ -188,6 +188,7 @@ void CXTableCtrl::RepaintRows()
     // Not the header, which costs more than a page of cells.
     if (m_hWnd != nullptr)
         RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_NOCHILDREN);
+    WishEditPlace();
 }
 
 // Few rows are put in order at once, many beside the window.

@@ -115,7 +115,9 @@ void CXTableCtrl::OnPaint()
         return;
     m_state->edges.clear();
     if (--m_state->painting == 0 && m_state->nativeWaits && m_hWnd != nullptr)
-        PostMessage(Waker::WakeMessage(), 1, 0);
+        PostMessage(Waker::WakeMessage(), Waker::follow_natively, 0);
+    if (m_state->editing && m_state->editing->window->m_hWnd != nullptr)
+        m_state->editing->window->PaintFrame();
 }
 
 BOOL CXTableCtrl::OnCustomDraw(NMHDR * header, LRESULT * result)
@@ -187,6 +189,15 @@ void CXTableCtrl::PaintRow(CDC & dc, TableRow position)
         dc.SetTextColor(state.look.palette.windowText);
         dc.SetBkColor(state.look.palette.window);
         dc.DrawFocusRect(&frame);
+        // Within the row the cell where keys do something.
+        auto const cell = std::find(state.shown.begin(), state.shown.end(), state.focusColumn);
+        if (cell != state.shown.end() && state.Column(*cell) != nullptr && state.Column(*cell)->editable)
+        {
+            State::Edges const & edges = state.edges[static_cast<std::size_t>(cell - state.shown.begin())];
+            CRect const inner(edges.left + 1, top + 1, edges.right - 1, top + height - 1);
+            if (edges.left >= state.frozenRight || cell - state.shown.begin() < static_cast<int>(state.frozen))
+                dc.DrawFocusRect(&inner);
+        }
     }
 }
 
