@@ -90,7 +90,7 @@ void CXTableCtrl::PreSubclassWindow()
     // A list without owner data would keep rows, and ask for none of these.
     ASSERT((GetStyle() & LVS_OWNERDATA) != 0);
     // The window that is being created here is no list yet; it is prepared with its first message.
-    if (GetHeaderCtrl() != nullptr)
+    if (Titles() != nullptr)
         PrepareWindow();
 }
 
@@ -120,7 +120,8 @@ void CXTableCtrl::SetColumns(std::vector<TableColumn> columns, std::wstring cons
     m_state->layout.Reset(m_state->model.Looks().columns);
     LoadColumns();
     PrepareWindow();
-    MakeNativeColumns();
+    if (!life.Over())
+        MakeNativeColumns();
 }
 
 void CXTableCtrl::SetSource(std::shared_ptr<TableSource> const & source)
@@ -133,10 +134,12 @@ void CXTableCtrl::SetSource(std::shared_ptr<TableSource> const & source)
     m_state->feed->Take();
     m_state->model.SetSource(source);
     SetNativeCount();
-    if (m_hWnd != nullptr && RowsShown() != 0 && m_state->painting == 0)
-        EnsureVisible(0, FALSE);
-    WishOrder();
-    RepaintRows();
+    if (!life.Over() && m_hWnd != nullptr && RowsShown() != 0 && m_state->painting == 0)
+        BringIntoView(0);
+    if (!life.Over())
+        WishOrder();
+    if (!life.Over())
+        RepaintRows();
 }
 
 void CXTableCtrl::SetTableLocale(TableLocale locale)
@@ -145,17 +148,21 @@ void CXTableCtrl::SetTableLocale(TableLocale locale)
     looks.locale = std::move(locale);
     m_state->ownLocale = true;
     m_state->model.SetLooks(std::move(looks));
+    LifeWatch const life(m_lifeSign);
     WishOrder();
-    RepaintRows();
+    if (!life.Over())
+        RepaintRows();
 }
 
 void CXTableCtrl::OnSettingChange(UINT flags, LPCTSTR section)
 {
+    LifeWatch const life(m_lifeSign);
     CListCtrl::OnSettingChange(flags, section);
-    if (m_state->ownLocale)
+    if (life.Over() || m_state->ownLocale)
         return;
     SetTableLocale(SystemLocale());
-    m_state->ownLocale = false;
+    if (!life.Over())
+        m_state->ownLocale = false;
 }
 
 std::shared_ptr<TableFeed> const & CXTableCtrl::Feed() const
@@ -166,8 +173,10 @@ std::shared_ptr<TableFeed> const & CXTableCtrl::Feed() const
 void CXTableCtrl::SortBy(std::vector<TableSortColumn> columns)
 {
     m_state->model.SetSort(std::move(columns));
+    LifeWatch const life(m_lifeSign);
     ShowSortMarks();
-    WishOrder();
+    if (!life.Over())
+        WishOrder();
 }
 
 std::vector<TableSortColumn> const & CXTableCtrl::SortColumns() const
@@ -230,9 +239,11 @@ bool CXTableCtrl::GoToRow(TableRow row)
     if (position == TableModel::nowhere)
         return false;
     table_input::Go(m_state->model, position, false, false);
+    LifeWatch const life(m_lifeSign);
     if (m_hWnd != nullptr && m_state->painting == 0)
-        EnsureVisible(static_cast<int>(position), FALSE);
-    AfterSelection(false);
+        BringIntoView(position);
+    if (!life.Over())
+        AfterSelection(false);
     return true;
 }
 
@@ -304,6 +315,23 @@ LRESULT CXTableCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
         if (HIWORD(wParam) == EN_CHANGE)
             HideReason();
         break;
+    case LVM_SETCOLUMNWIDTH:
+        // LVSCW_AUTOSIZE and the like.
+        if (static_cast<short>(LOWORD(lParam)) < 0)
+        {
+            FitColumn(static_cast<unsigned int>(wParam));
+            return TRUE;
+        }
+        break;
+    case LVM_DELETECOLUMN:
+        if (MustWait())
+            return FALSE;
+        break;
+    case LVM_INSERTCOLUMNA:
+    case LVM_INSERTCOLUMNW:
+        if (MustWait())
+            return -1;
+        break;
     default:
         break;
     }
@@ -322,6 +350,12 @@ LRESULT CXTableCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
         if (m_state->layout.Frozen() != 0)
             RepaintRows();
         WishEditPlace();
+        break;
+    case LVM_DELETECOLUMN:
+    case LVM_INSERTCOLUMNA:
+    case LVM_INSERTCOLUMNW:
+        // The table's columns are no others for that.
+        PostMessage(Waker::WakeMessage(), Waker::follow_natively, 0);
         break;
     case LVM_ENSUREVISIBLE:
     case LVM_SETCOLUMNWIDTH:

@@ -145,6 +145,7 @@ protected:
     void PreSubclassWindow() override;
     BOOL PreTranslateMessage(MSG * message) override;
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT * result) override;
     /// The header's menu: which columns are shown. screen: where.
     virtual void ShowColumnMenu(CPoint screen);
@@ -177,6 +178,16 @@ private:
     struct State;
     class Waker;
 
+    // The native list (XTableCtrlNative.cpp).
+    void EndNative();
+    LRESULT AskNative(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
+    CHeaderCtrl * Titles() const;
+    TableRow TopPosition() const;
+    TableRow PageRows() const;
+    CRect RowRect(TableRow position) const;
+    bool BringIntoView(TableRow position);
+    bool ScrollSideways(int pixels);
+
     // Columns and header (XTableCtrlColumns.cpp).
     void PrepareWindow();
     void MakeNativeColumns();
@@ -189,6 +200,8 @@ private:
     void ShowSortMarks();
     void PlaceFrozenHeader();
     bool OnHeaderNotify(NMHDR const & header, LRESULT * result);
+    /// As wide as what is seen of it.
+    void FitColumn(unsigned int place);
     bool DrawHeaderProgress(NMCUSTOMDRAW const & draw, LRESULT * result);
 
     // Changes (XTableCtrlLive.cpp).

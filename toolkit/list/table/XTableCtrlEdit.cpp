@@ -25,12 +25,13 @@ DWORD EditAlignment(TableColumn const & column)
     return column.align == TableAlign::centre ? ES_CENTER : ES_LEFT;
 }
 
-TTTOOLINFOW ReasonTool(CWnd const & table, wchar_t * text)
+/// Of the edit, so that no host hears when it is shown.
+TTTOOLINFOW ReasonTool(CWnd const & edit, wchar_t * text)
 {
     TTTOOLINFOW tool = {};
     tool.cbSize = TTTOOLINFOW_V2_SIZE;
     tool.uFlags = TTF_TRACK | TTF_ABSOLUTE;
-    tool.hwnd = table.m_hWnd;
+    tool.hwnd = edit.m_hWnd;
     tool.uId = edit_id;
     tool.lpszText = text;
     return tool;
@@ -94,7 +95,7 @@ bool CXTableCtrl::OpenEdit(TableRow row, unsigned int column, wchar_t const * ty
     if (state.model.FocusRow() != row || !state.model.IsRowSelected(row))
         GoTo(position, false, false);
     else
-        EnsureVisible(static_cast<int>(position), FALSE);
+        BringIntoView(position);
     if (mayGoOn())
         ShowColumn(column);
     // The host has heard of it, and may have done anything.
@@ -230,10 +231,10 @@ void CXTableCtrl::ShowReason(std::wstring reason)
         if (!editing.reason.Create(this, TTS_ALWAYSTIP | TTS_NOPREFIX))
             return;
         editing.reason.SetMaxTipWidth(reason_width);
-        TTTOOLINFOW tool = ReasonTool(*this, reason.data());
+        TTTOOLINFOW tool = ReasonTool(*editing.window, reason.data());
         editing.reason.SendMessage(TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
     }
-    TTTOOLINFOW tool = ReasonTool(*this, reason.data());
+    TTTOOLINFOW tool = ReasonTool(*editing.window, reason.data());
     editing.reason.SendMessage(TTM_UPDATETIPTEXTW, 0, reinterpret_cast<LPARAM>(&tool));
     editing.reasonShown = true;
     PlaceReason();
@@ -255,7 +256,7 @@ void CXTableCtrl::HideReason()
 {
     if (!m_state->editing || !std::exchange(m_state->editing->reasonShown, false))
         return;
-    TTTOOLINFOW tool = ReasonTool(*this, nullptr);
+    TTTOOLINFOW tool = ReasonTool(*m_state->editing->window, nullptr);
     m_state->editing->reason.SendMessage(TTM_TRACKACTIVATE, FALSE, reinterpret_cast<LPARAM>(&tool));
 }
 
@@ -305,8 +306,8 @@ void CXTableCtrl::PlaceEdit()
             CloseEdit();
         return;
     }
-    auto const top = static_cast<TableRow>(std::max(GetTopIndex(), 0));
-    bool const seen = position >= top && position - top <= static_cast<TableRow>(std::max(GetCountPerPage(), 1));
+    TableRow const top = TopPosition();
+    bool const seen = position >= top && position - top <= PageRows();
     place.left += edit_left;
     place.right = std::max(place.right - edit_right + edit_left, place.left + 1);
     if (!seen)

@@ -15,7 +15,7 @@ int CXTableCtrl::ColumnRects(std::vector<CRect> & rects) const
 {
     State const & state = *m_state;
     rects.clear();
-    CHeaderCtrl * const header = const_cast<CXTableCtrl *>(this)->GetHeaderCtrl();
+    CHeaderCtrl * const header = Titles();
     if (header == nullptr)
         return 0;
     CPoint origin(0, 0);
@@ -43,7 +43,7 @@ bool CXTableCtrl::HitCell(CPoint point, TableRow & position, unsigned int & colu
     hit.pt = point;
     // Anywhere in the row's height; the columns are the table's own matter.
     hit.pt.x = 1;
-    auto const item = static_cast<int>(::SendMessageW(m_hWnd, LVM_SUBITEMHITTEST, 0, reinterpret_cast<LPARAM>(&hit)));
+    auto const item = static_cast<int>(AskNative(LVM_SUBITEMHITTEST, 0, reinterpret_cast<LPARAM>(&hit)));
     if (item < 0 || static_cast<TableRow>(item) >= state.model.Size())
         return false;
     position = static_cast<TableRow>(item);
@@ -66,9 +66,10 @@ bool CXTableCtrl::CellRect(TableRow position, unsigned int column, CRect & rect)
     std::vector<CRect> rects;
     ColumnRects(rects);
     auto const index = static_cast<std::size_t>(place - state.shown.begin());
-    CRect row(0, 0, 0, 0);
-    if (index >= rects.size() || position >= state.model.Size() ||
-        !GetItemRect(static_cast<int>(position), &row, LVIR_BOUNDS))
+    if (index >= rects.size() || position >= state.model.Size())
+        return false;
+    CRect const row = RowRect(position);
+    if (row.IsRectEmpty())
         return false;
     rect.SetRect(rects[index].left, row.top, rects[index].right, row.bottom);
     return true;
@@ -90,7 +91,7 @@ void CXTableCtrl::ShowColumn(unsigned int column)
     int move = std::max(0L, rects[index].right - client.right);
     move = std::min<int>(move, rects[index].left - still);
     if (move != 0)
-        Scroll(CSize(move, 0));
+        ScrollSideways(move);
 }
 
 /// Left and right lead from cell to cell where some can be edited, else they scroll.
@@ -149,13 +150,13 @@ CPoint CXTableCtrl::MenuPlace()
     TableRow const row = state.model.FocusRow();
     TableRow position = state.model.FocusPosition();
     if (position != TableModel::nowhere)
-        EnsureVisible(static_cast<int>(position), FALSE);
+        BringIntoView(position);
     if (life.Over() || m_hWnd == nullptr)
         return CPoint(0, 0);
     CRect client(0, 0, 0, 0);
     GetClientRect(&client);
     CRect place(client.left, client.top, client.left, client.top);
-    if (CHeaderCtrl * const header = GetHeaderCtrl(); header != nullptr)
+    if (CHeaderCtrl * const header = Titles(); header != nullptr)
     {
         CRect titles(0, 0, 0, 0);
         header->GetWindowRect(&titles);
@@ -184,8 +185,8 @@ void CXTableCtrl::AfterSelection(bool tell)
 void CXTableCtrl::GoTo(TableRow position, bool shift, bool control)
 {
     table_input::Go(m_state->model, position, shift, control);
-    EnsureVisible(static_cast<int>(position), FALSE);
-    AfterSelection(true);
+    if (BringIntoView(position))
+        AfterSelection(true);
 }
 
 /// For a press: takes the focus, but not from an edit whose text is refused. False if nothing more is to be done.
@@ -412,10 +413,8 @@ void CXTableCtrl::OnKeyDown(UINT character, UINT repeats, UINT flags)
         CListCtrl::OnKeyDown(character, repeats, flags);
         return;
     }
-    auto const top = static_cast<TableRow>(std::max(GetTopIndex(), 0));
-    auto const page = static_cast<TableRow>(std::max(GetCountPerPage(), 1));
-    std::optional<TableRow> const wanted =
-        table_input::Moved(*move, state.model.FocusPosition(), state.model.Size(), top, page);
+    std::optional<TableRow> const wanted = table_input::Moved(*move, state.model.FocusPosition(), state.model.Size(),
+                                                              TopPosition(), std::max(PageRows(), TableRow{1}));
     if (wanted)
         GoTo(*wanted, shift, control);
 }

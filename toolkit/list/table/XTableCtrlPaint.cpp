@@ -49,7 +49,7 @@ void CXTableCtrl::PrepareLook()
     state.edges.clear();
     state.frozen = state.layout.Frozen();
     state.frozenRight = 0;
-    CHeaderCtrl * const header = GetHeaderCtrl();
+    CHeaderCtrl * const header = Titles();
     if (header == nullptr)
         return;
     CPoint origin(0, 0);
@@ -73,9 +73,8 @@ void CXTableCtrl::PrepareLook()
     }
     state.focused = ::GetFocus() == m_hWnd;
     state.focusRow = state.model.FocusRow();
-    state.topPosition = std::max(GetTopIndex(), 0);
-    state.topRect = CRect(0, 0, 0, 0);
-    GetItemRect(state.topPosition, &state.topRect, LVIR_BOUNDS);
+    state.topPosition = TopPosition();
+    state.topRect = RowRect(state.topPosition);
 }
 
 // The widest part behind the decimal sign among the rows that are seen.
@@ -114,8 +113,7 @@ void CXTableCtrl::OnPaint()
     if (life.Over())
         return;
     m_state->edges.clear();
-    if (--m_state->painting == 0 && m_state->nativeWaits && m_hWnd != nullptr)
-        PostMessage(Waker::WakeMessage(), Waker::follow_natively, 0);
+    --m_state->painting;
     if (m_state->editing && m_state->editing->window->m_hWnd != nullptr)
         m_state->editing->window->PaintFrame();
 }
@@ -132,9 +130,9 @@ BOOL CXTableCtrl::OnCustomDraw(NMHDR * header, LRESULT * result)
         if (m_state->edges.empty())
             PrepareLook();
         TableRow const size = m_state->model.Size();
-        auto const top = static_cast<TableRow>(m_state->topPosition);
+        TableRow const top = m_state->topPosition;
         if (top < size)
-            MeasureDecimals(dc, top, std::min(top + static_cast<TableRow>(std::max(GetCountPerPage(), 0)), size - 1));
+            MeasureDecimals(dc, top, std::min(top + PageRows(), size - 1));
         *result = CDRF_NOTIFYITEMDRAW;
         break;
     }
@@ -152,11 +150,11 @@ void CXTableCtrl::PaintRow(CDC & dc, TableRow position)
 {
     State & state = *m_state;
     // What stands above the top row is erased, so a native list that shows a strip of the row there must not paint it.
-    if (position < static_cast<TableRow>(state.topPosition) || state.edges.empty())
+    if (position < state.topPosition || state.edges.empty())
         return;
     LifeWatch const life(m_lifeSign);
     int const height = state.topRect.Height();
-    int const top = state.topRect.top + static_cast<int>(position - static_cast<TableRow>(state.topPosition)) * height;
+    int const top = state.topRect.top + static_cast<int>(position - state.topPosition) * height;
     TableRow const row = state.model.RowAt(position);
     bool const selected = state.model.IsRowSelected(row);
     CRect clip;
@@ -291,7 +289,7 @@ BOOL CXTableCtrl::OnEraseBkgnd(CDC * dc)
         return TRUE;
     COLORREF const color = m_state->look.palette.window;
     TableRow const size = m_state->model.Size();
-    CHeaderCtrl * const header = GetHeaderCtrl();
+    CHeaderCtrl * const header = Titles();
     int right = 0;
     if (header != nullptr && !m_state->shown.empty())
     {
@@ -304,10 +302,9 @@ BOOL CXTableCtrl::OnEraseBkgnd(CDC * dc)
     CRect lowest(0, 0, 0, 0);
     if (size != 0)
     {
-        int const top = GetTopIndex();
-        int const last = std::min(top + GetCountPerPage(), static_cast<int>(size) - 1);
-        GetItemRect(top, &first, LVIR_BOUNDS);
-        GetItemRect(last, &lowest, LVIR_BOUNDS);
+        TableRow const top = TopPosition();
+        first = RowRect(top);
+        lowest = RowRect(std::min(top + PageRows(), size - 1));
     }
     else
     {
@@ -345,7 +342,10 @@ BOOL CXTableCtrl::OnGetDispInfo(NMHDR * header, LRESULT * result)
 
 void CXTableCtrl::OnSysColorChange()
 {
+    LifeWatch const life(m_lifeSign);
     CListCtrl::OnSysColorChange();
+    if (life.Over())
+        return;
     m_state->look.palette = CellPalette::OfSystem();
     RepaintRows();
 }

@@ -86,7 +86,9 @@ struct CXTableCtrl::State
     std::vector<unsigned int> shown;
     /// While native columns are made, what the header tells is no wish of the user's.
     int making = 0;
-    /// Paints that are going on. The native list stands no change of its columns and rows meanwhile; they wait.
+    /// Native code of list or header is running.
+    int native = 0;
+    /// Paints that are going on.
     int painting = 0;
     bool nativeWaits = false;
     CHeaderCtrl frozenHeader;
@@ -109,7 +111,7 @@ struct CXTableCtrl::State
     int frozenRight = 0;
     bool focused = false;
     TableRow focusRow = no_table_row;
-    int topPosition = 0;
+    TableRow topPosition = 0;
     CRect topRect;
     XLISTCTRLDATA textCell;
     XLISTCTRLDATA linkCell;
