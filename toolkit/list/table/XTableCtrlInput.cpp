@@ -425,7 +425,9 @@ void CXTableCtrl::OnChar(UINT character, UINT repeats, UINT flags)
     static_cast<void>(flags);
     State & state = *m_state;
     auto const now = static_cast<long long>(::GetTickCount64());
-    if (character < L' ' || state.shown.empty())
+    // With Ctrl it is a command; with Alt as well it is a character of other keyboards.
+    bool const command = IsDown(VK_CONTROL) && !IsDown(VK_MENU);
+    if (character < L' ' || command || state.shown.empty())
         return;
     // Into the cell with the focus; else it is looked for among the rows.
     if (TableRow const row = state.model.FocusRow(); row != no_table_row && IsTyped(state.focusColumn))
