@@ -10,6 +10,7 @@
 #include "Bitmap.h"
 #include "GuardedHeap.h"
 #include "clipboard/Clipboard.h"
+#include "logic/Texts.h"
 
 namespace
 {
@@ -400,6 +401,14 @@ TEST_F(WorkbenchFrameMeasures, NothingIsCutOffInAnyLanguageOrResolution)
                 Control(id).GetWindowRect(&place);
                 EXPECT_GE(place.Width(), width(TextOf(Control(id)))) << language << ' ' << id;
             }
+            // Also while an hour is measured.
+            CString frames;
+            CString measuring;
+            frames.Format(workbench::Text(L"Frames: %s"), L"3,600,000");
+            measuring.Format(workbench::Text(L"measuring, %d %%"), 99);
+            CRect status;
+            Control(IDC_FRAME_STATUS).GetWindowRect(&status);
+            EXPECT_GE(status.Width(), width((frames + L"; " + measuring).GetString())) << language;
             dc.SelectObject(former);
             CRect inside;
             Panel().GetWindowRect(&inside);
