@@ -24,7 +24,6 @@ constexpr int field_height = 13;
 constexpr int label_width = 30;
 constexpr int column_width = 74;
 constexpr int words_width = 96;
-constexpr int least_status_width = 120;
 constexpr int export_width = 60;
 constexpr int part_gap = 4;
 constexpr int list_height = 120; // of the columns
@@ -121,6 +120,7 @@ void CFrameMeasuresPanel::ShowTexts()
     m_column.SetCurSel(chosen >= 0 ? chosen : static_cast<int>(FrameTable::column_peak));
     ShowColumns();
     ShowStatus();
+    Arrange();
 }
 
 void CFrameMeasuresPanel::ShowColumns()
@@ -136,7 +136,8 @@ void CFrameMeasuresPanel::ShowColumns()
         column.kind = TableKind::floating;
         column.format = {NumberStyle::fixed, columns[i].digits, false, UnitPlace::header, columns[i].unit};
         // Room for the title with its mark of sorting; the table counts in pixels at 96 to the inch of its screen.
-        auto const title = dc.GetTextExtent(CString(TitleOf(column).c_str())).cx + 11 * m_metrics->AverageWidth() / 2 + 1;
+        auto const title =
+            dc.GetTextExtent(CString(TitleOf(column).c_str())).cx + 11 * m_metrics->AverageWidth() / 2 + 1;
         auto const number = dc.GetTextExtent(CString(columns[i].widest)).cx + 3 * m_metrics->AverageWidth();
         column.width =
             ::MulDiv(std::max<int>(title, number), USER_DEFAULT_SCREEN_DPI, dc.GetDeviceCaps(LOGPIXELSX)) + 1;
@@ -567,6 +568,18 @@ bool CFrameMeasuresPanel::TranslateStripKey(MSG * message)
     return false;
 }
 
+/// In which the status of an hour that is being measured is seen.
+int CFrameMeasuresPanel::StatusWidth()
+{
+    CString frames;
+    frames.Format(Text(L"Frames: %s"), L"3,600,000");
+    CString part;
+    part.Format(Text(L"measuring, %d %%"), 100);
+    CClientDC dc(this);
+    workbench::SelectScope const font(dc, m_metrics->Font());
+    return dc.GetTextExtent(frames + L"; " + part).cx + m_metrics->AverageWidth();
+}
+
 /// One line above the table, or two where it is narrow.
 void CFrameMeasuresPanel::Arrange()
 {
@@ -582,7 +595,7 @@ void CFrameMeasuresPanel::Arrange()
     auto const label = m_metrics->X(label_width);
     auto const column = m_metrics->X(column_width);
     auto const button = std::min<int>(m_metrics->X(export_width), client.Width() / 2);
-    auto const whole = label + column + m_metrics->X(words_width) + m_metrics->X(least_status_width) + button + 5 * gap;
+    auto const whole = label + column + m_metrics->X(words_width) + StatusWidth() + button + 5 * gap;
     auto const isWide = client.Width() >= whole;
     auto const top = (line - high) / 2;
     auto const left = gap + label + gap;

@@ -73,6 +73,7 @@ private:
     afx_msg LRESULT OnBegin(WPARAM, LPARAM);
     afx_msg LRESULT OnTold(WPARAM, LPARAM);
 
+    int StatusWidth();
     void Arrange();
     void ShowColumns();
     void ShowStatus();

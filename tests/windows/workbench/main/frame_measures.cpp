@@ -10,11 +10,14 @@
 #include "Bitmap.h"
 #include "GuardedHeap.h"
 #include "clipboard/Clipboard.h"
+#include "logic/Texts.h"
 
 namespace
 {
 using Rows = std::vector<TableRow>;
 using workbench::FrameTable;
+
+constexpr std::uint64_t row_frames = 48; // from one row to the next
 
 class WorkbenchFrameMeasures : public tests::MainWindowTest
 {
@@ -125,7 +128,7 @@ TEST_F(WorkbenchFrameMeasures, RowsAreThereWhileOthersAreMeasured)
     // What is there can be worked with.
     ASSERT_TRUE(tests::PumpUntil([this] { return Table().SelectedRows() == Rows{0}; }));
     tests::Click(RowCentre(4));
-    ASSERT_TRUE(tests::PumpUntil([this] { return Cursor() == 4 * 48; }));
+    ASSERT_TRUE(tests::PumpUntil([this] { return Cursor() == 4 * row_frames; }));
     ASSERT_TRUE(WaitUntilMeasured());
     ASSERT_TRUE(tests::PumpUntil([this] { return Table().RowsShown() == 60000; }));
     EXPECT_EQ(Table().SelectedRows(), Rows{4});
@@ -142,13 +145,13 @@ TEST_F(WorkbenchFrameMeasures, ARowThatIsChosenMovesTheCursorOfThePlots)
         onFrame(frame);
     };
     tests::Click(RowCentre(5));
-    ASSERT_TRUE(tests::PumpUntil([this] { return Cursor() == 5 * 48; }));
+    ASSERT_TRUE(tests::PumpUntil([this] { return Cursor() == 5 * row_frames; }));
     EXPECT_EQ(Table().SelectedRows(), Rows{5});
     tests::Key(VK_DOWN);
-    ASSERT_TRUE(tests::PumpUntil([this] { return Cursor() == 6 * 48; }));
+    ASSERT_TRUE(tests::PumpUntil([this] { return Cursor() == 6 * row_frames; }));
     EXPECT_EQ(Table().SelectedRows(), Rows{6});
     tests::Key(VK_DOWN, {VK_SHIFT});
-    ASSERT_TRUE(tests::PumpUntil([this] { return Cursor() == 7 * 48; }));
+    ASSERT_TRUE(tests::PumpUntil([this] { return Cursor() == 7 * row_frames; }));
     EXPECT_EQ(Table().SelectedRows(), (Rows{6, 7})) << "and what is selected stays";
     tests::PumpPosted();
     EXPECT_EQ(told, 3) << "once a step";
@@ -182,14 +185,14 @@ TEST_F(WorkbenchFrameMeasures, SortingKeepsTheChosenRow)
 {
     ShowShort();
     tests::Click(RowCentre(3));
-    ASSERT_TRUE(tests::PumpUntil([this] { return Cursor() == 3 * 48; }));
+    ASSERT_TRUE(tests::PumpUntil([this] { return Cursor() == 3 * row_frames; }));
     tests::Click(TitleCentre(0));
     tests::PumpPosted();
     tests::Click(TitleCentre(0));
     ASSERT_TRUE(tests::PumpUntil([this] { return Table().RowAt(0) == 9; })) << "the last time first";
     EXPECT_EQ(Table().SelectedRows(), Rows{3});
     EXPECT_EQ(Table().FocusRow(), 3U);
-    EXPECT_EQ(Cursor(), 3U * 48);
+    EXPECT_EQ(Cursor(), 3 * row_frames);
     m_window->Waveform().MoveCursor(96);
     EXPECT_EQ(Table().SelectedRows(), Rows{2});
     EXPECT_EQ(Table().PositionOf(2), 7U);
@@ -296,6 +299,32 @@ TEST_F(WorkbenchFrameMeasures, SelectedRowsAreCopiedWithTheirTitles)
     EXPECT_EQ(copied().find(L"Peak [dBFS]"), std::wstring::npos);
 }
 
+TEST_F(WorkbenchFrameMeasures, TheMenuOfTheRowsSelectsAndCopiesThem)
+{
+    ShowShort();
+    auto const inMenu = [] {
+        GUITHREADINFO info{};
+        info.cbSize = sizeof info;
+        return ::GetGUIThreadInfo(::GetCurrentThreadId(), &info) && (info.flags & GUI_INMENUMODE) != 0;
+    };
+    auto const choose = [&](WORD key) {
+        tests::LaterActions later;
+        later.Add([key] { tests::Key(key); }, inMenu);
+        tests::Click(RowCentre(4), tests::Button::right);
+        EXPECT_TRUE(tests::PumpUntil([&] { return later.Done() && !inMenu(); }));
+        EXPECT_FALSE(later.Failed());
+    };
+    choose(L'A');
+    EXPECT_EQ(Table().SelectedRows().size(), 10U);
+    EXPECT_EQ(Cursor(), 4 * row_frames) << "a click is one with either button";
+    Clipboard::StringToClipboard(L"");
+    choose(L'C');
+    CString text;
+    Clipboard::StringFromClipboard(text);
+    EXPECT_EQ(text.Find(L"Time [s]\tPeak [dBFS]"), 0);
+    EXPECT_GT(text.Find(L"0.009\t"), 0);
+}
+
 TEST_F(WorkbenchFrameMeasures, AllRowsAreExportedAsCsv)
 {
     ShowShort();
@@ -372,6 +401,14 @@ TEST_F(WorkbenchFrameMeasures, NothingIsCutOffInAnyLanguageOrResolution)
                 Control(id).GetWindowRect(&place);
                 EXPECT_GE(place.Width(), width(TextOf(Control(id)))) << language << ' ' << id;
             }
+            // Also while an hour is measured.
+            CString frames;
+            CString measuring;
+            frames.Format(workbench::Text(L"Frames: %s"), L"3,600,000");
+            measuring.Format(workbench::Text(L"measuring, %d %%"), 99);
+            CRect status;
+            Control(IDC_FRAME_STATUS).GetWindowRect(&status);
+            EXPECT_GE(status.Width(), width((frames + L"; " + measuring).GetString())) << language;
             dc.SelectObject(former);
             CRect inside;
             Panel().GetWindowRect(&inside);
