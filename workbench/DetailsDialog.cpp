@@ -8,7 +8,9 @@ using workbench::Text;
 namespace
 {
 
-constexpr int most_lines = 11;
+// In dialog units.
+constexpr int label_room = 76;
+CSize const preferred_size(300, 192);
 
 bool IsKeyDown(int key)
 {
@@ -23,49 +25,48 @@ END_MESSAGE_MAP()
 
 CDetailsDialog::CDetailsDialog(CWnd & owner) : CWorkbenchDialog(IDD_DETAILS, L"Recording Details", owner) {}
 
-bool CDetailsDialog::Show(std::vector<workbench::DetailLine> lines)
+void CDetailsDialog::Refresh(std::vector<workbench::DetailLine> lines)
 {
+    if (lines.empty())
+    {
+        return;
+    }
     m_lines = std::move(lines);
     if (IsOpen())
     {
         Fill();
     }
+}
+
+bool CDetailsDialog::Show(std::vector<workbench::DetailLine> lines)
+{
+    Refresh(std::move(lines));
     return Open(Text(L"Recording Details"));
 }
 
 BOOL CDetailsDialog::OnInitDialog()
 {
     CWorkbenchDialog::OnInitDialog();
-    LOGFONT font{};
-    GetFont()->GetLogFont(&font);
-    font.lfWeight = FW_BOLD;
-    m_boldFont.DeleteObject();
-    m_boldFont.CreateFontIndirect(&font);
-    GetDlgItem(IDC_DETAIL_TEXT_FIRST)->SetFont(&m_boldFont);
     Fill();
-    for (int i = 0; i < most_lines; ++i)
-    {
-        D3dLayoutChild(IDC_DETAIL_TEXT_FIRST + i, CEdges::TOP_LEFT_RIGHT(), nullptr);
-    }
+    D3dLayoutChild(IDC_DETAIL_TEXT, CEdges::TOP_LEFT_BOTTOM_RIGHT(), nullptr);
     D3dLayoutChild(IDCANCEL, CEdges::BOTTOM_RIGHT(), nullptr);
-    D3dLayoutComplete(CDialogResizer::RESIZE_HORIZONTAL);
-    // The focus on a text would select it.
+    D3dLayoutComplete(CDialogResizer::RESIZE_BOTH);
+    Enlarge(preferred_size);
+    // The focus on the text would select it.
     GetDlgItem(IDCANCEL)->SetFocus();
     return FALSE;
 }
 
 void CDetailsDialog::Fill()
 {
-    for (int i = 0; i < most_lines; ++i)
+    std::wstring text;
+    for (auto const & line : m_lines)
     {
-        auto & label = *GetDlgItem(IDC_DETAIL_LABEL_FIRST + i);
-        auto & text = *GetDlgItem(IDC_DETAIL_TEXT_FIRST + i);
-        auto const used = i < static_cast<int>(m_lines.size());
-        auto const & line = used ? m_lines[static_cast<std::size_t>(i)] : workbench::DetailLine();
-        label.SetWindowText(used ? (line.label + L':').c_str() : L"");
-        text.SetWindowText(line.text.c_str());
-        text.ShowWindow(used ? SW_SHOWNA : SW_HIDE);
+        text += line.label + L":\t" + line.text + L"\r\n";
     }
+    auto & field = static_cast<CEdit &>(*GetDlgItem(IDC_DETAIL_TEXT));
+    field.SetTabStops(label_room);
+    field.SetWindowText(text.c_str());
 }
 
 BOOL CDetailsDialog::PreTranslateMessage(MSG * message)

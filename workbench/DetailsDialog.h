@@ -6,7 +6,7 @@
 #include "WorkbenchDialog.h"
 #include "logic/RecordingDetails.h"
 
-/// Everything about one recording, line by line; the texts can be selected and copied. A menu goes to the next one.
+/// Everything about one recording, line by line; the text can be selected and copied. A menu goes to the next one.
 class CDetailsDialog : public CWorkbenchDialog
 {
 public:
@@ -14,6 +14,9 @@ public:
 
     /// Shows the lines, in the dialog that is open or in a new one.
     bool Show(std::vector<workbench::DetailLine> lines);
+
+    /// Shows other lines in the dialog while it is open; none leave it as it is.
+    void Refresh(std::vector<workbench::DetailLine> lines);
 
     /// What the menu's entries do; an empty one greys its entry.
     struct Actions
@@ -38,5 +41,4 @@ private:
     void Fill();
 
     std::vector<workbench::DetailLine> m_lines;
-    CFont m_boldFont;
 };

@@ -1,7 +1,8 @@
 #include "DialogsGroup.h"
 
-#include <cwchar>
+#include <cmath>
 
+#include "logic/NumberSigns.h"
 #include "logic/Texts.h"
 #include "resource.h"
 
@@ -16,9 +17,8 @@ constexpr int opacities[] = {25, 50, 75, 100}; // percent
 /// The number that a text is, -1 if it is none.
 int NumberOf(CString const & text)
 {
-    wchar_t * end = nullptr;
-    auto const number = std::wcstol(text, &end, 10);
-    return end != text.GetString() && *end == L'\0' && number >= 0 && number <= 1000 ? static_cast<int>(number) : -1;
+    auto const number = workbench::ParseNumber(text.GetString());
+    return number && *number >= 0 && *number <= 1000 ? static_cast<int>(std::lround(*number)) : -1;
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <set>
 
+#include "ColumnsField.h"
 #include "RecordingList.h"
 #include "Settings.h"
 #include "controls/ComboBoxX.h"
@@ -39,6 +40,6 @@ private:
     CRecordingList::Lines m_lines;
     std::filesystem::path m_agreed; ///< that may be replaced: the user was asked already
     CXEditBrowseCtrl m_fileField;
-    CXEditBrowseCtrl m_columns;
+    CColumnsField m_columns;
     CComboBoxX m_lineChoice;
 };

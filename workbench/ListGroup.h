@@ -2,8 +2,8 @@
 
 #include <map>
 
+#include "ColumnsField.h"
 #include "SettingsGroup.h"
-#include "controls/XEditBrowseCtrl.h"
 
 /// The columns of the list.
 class CListGroup : public CSettingsGroup
@@ -24,6 +24,6 @@ protected:
 private:
     afx_msg LRESULT OnChosen(WPARAM tag, LPARAM);
 
-    CXEditBrowseCtrl m_columns;
+    CColumnsField m_columns;
     bool m_chosen = false;
 };

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 
+#include "UserRegion.h"
 #include "WaveformPanelView.h"
 #include "colours/Farbtabellen.h"
 #include "logic/Texts.h"
@@ -39,6 +40,9 @@ constexpr int preferred_height_limit = 420;
 
 // The greatest part of the width for the analysis frames at first, in percent.
 constexpr int frame_measures_percent = 55;
+// The window can be made as small as the smallest screen, in pixels; panes are moved, put into tabs or hidden there.
+constexpr int smallest_screen_width = 1024;
+constexpr int smallest_screen_height = 600;
 
 // The width of the folders at first, in average letters.
 constexpr int pane_letters = 30;
@@ -104,6 +108,10 @@ BEGIN_MESSAGE_MAP(CMainWindow, CMDIFrameWndEx)
     ON_COMMAND(ID_RENAME, &CMainWindow::OnRename)
     ON_COMMAND(ID_DELETE_RECORDINGS, &CMainWindow::OnDeleteRecordings)
     ON_COMMAND(ID_SHOW_FILE, &CMainWindow::OnShowFile)
+    ON_COMMAND(ID_SHOW_HELP, &CMainWindow::OnShowHelp)
+    ON_COMMAND(ID_SHOW_KEYS, &CMainWindow::OnShowKeys)
+    ON_COMMAND(ID_ABOUT, &CMainWindow::OnAbout)
+    ON_MESSAGE(message_help, &CMainWindow::OnHelpKey)
     ON_WM_TIMER()
     ON_MESSAGE(message_raise_dialogs, &CMainWindow::OnRaiseDialogs)
     ON_MESSAGE(message_notes_turned, &CMainWindow::OnNotesTurned)
@@ -118,6 +126,7 @@ CMainWindow::CMainWindow(int dotsPerInch)
       m_memory(title, CFensterManager::window_main),
       m_details(*this),
       m_preview(*this),
+      m_help(*this),
       m_settings(workbench::ReadSettings())
 {
     base_id(id_base);
@@ -152,20 +161,22 @@ bool CMainWindow::CreateMainWindow()
     {
         return false;
     }
+    workbench::UseUserNumbers();
     PrepareContents();
     PrepareDialogs();
     PrepareFrames();
+    PrepareHelp();
     PreparePaneMenu();
-    Arrange();
+    auto const comfortable = Arrange();
 
     CRect work;
     ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
     auto const folders =
         m_settings.folderPane.value_or(HasRoomForFolders()) ? FolderPaneWidth() + m_metrics.X(divider_gap) : 0;
     auto const limit = m_metrics.X(preferred_width_limit) + folders;
-    auto const width = std::max<int>(std::min(work.Width() * preferred_percent / 100, limit), m_leastSize.cx);
+    auto const width = std::max<int>(std::min(work.Width() * preferred_percent / 100, limit), comfortable.cx);
     auto const height = std::max<int>(
-        std::min(work.Height() * preferred_percent / 100, m_metrics.Y(preferred_height_limit)), m_leastSize.cy);
+        std::min(work.Height() * preferred_percent / 100, m_metrics.Y(preferred_height_limit)), comfortable.cy);
     auto const left = std::max((work.Width() - width) / 2, 0);
     auto const top = std::max((work.Height() - height) / 3, 0);
     m_memory.PreferedPosition(left, top, left + width, top + height);
@@ -423,8 +434,8 @@ workbench::MainLayoutNeeds CMainWindow::LayoutNeeds() const
     return needs;
 }
 
-/// Gives the window its least size.
-void CMainWindow::Arrange()
+/// Gives the window the size in which all parts have their room, as far as the screen has it.
+CSize CMainWindow::Arrange()
 {
     // All columns are in sight where the screen has room for them.
     CRect work;
@@ -435,9 +446,12 @@ void CMainWindow::Arrange()
     auto const list = std::max(std::min(m_list.LeastWidth(), room), CMeasurePanel::LeastWidth(m_metrics));
     CRect window(CPoint(0, 0), workbench::LeastMainArea(LayoutNeeds(), list));
     ::AdjustWindowRectEx(&window, GetStyle(), TRUE, GetExStyle());
-    m_leastSize = CSize(std::min(window.Width(), work.Width()), std::min(window.Height(), work.Height()));
-    SetWindowPos(nullptr, 0, 0, m_leastSize.cx, m_leastSize.cy, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    CSize const comfortable(std::min(window.Width(), work.Width()), std::min(window.Height(), work.Height()));
+    m_leastSize = CSize(std::min<int>(comfortable.cx, smallest_screen_width),
+                        std::min<int>(comfortable.cy, smallest_screen_height));
+    SetWindowPos(nullptr, 0, 0, comfortable.cx, comfortable.cy, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     RecalcLayout();
+    return comfortable;
 }
 
 /// The panes have what status and frames leave.
@@ -501,6 +515,10 @@ void CMainWindow::DockByDefault(std::array<bool, part_count> const & others)
          std::min<int>(m_frameMeasures.WantedWidth(), needs.client.cx * frame_measures_percent / 100), false);
     dock(part_spectrogram, CBRS_ALIGN_BOTTOM, sizes.spectrogram);
     dock(part_waveform, CBRS_ALIGN_BOTTOM, sizes.waveform);
+    if (sizes.plotsShareTabs && !others[part_spectrogram] && !others[part_waveform])
+    {
+        m_panes[part_spectrogram]->AttachToTabWnd(m_panes[part_waveform], DM_SHOW, FALSE);
+    }
     dock(part_list, CBRS_ALIGN_TOP, sizes.list);
     FillFolders();
 }
@@ -832,6 +850,7 @@ void CMainWindow::OnEndSession(BOOL ending)
 
 void CMainWindow::OnDestroy()
 {
+    m_helpKey.reset();
     // Frames end after this, and their ends are nobody's business any more.
     m_frames.m_onOpened = nullptr;
     m_playing.m_onMoved = nullptr;

@@ -18,6 +18,8 @@
 #include "ListPanel.h"
 #include "FolderTree.h"
 #include "FrameMeasuresPanel.h"
+#include "HelpDialog.h"
+#include "HelpKey.h"
 #include "MeasurePanel.h"
 #include "PictureCopy.h"
 #include "Playing.h"
@@ -126,6 +128,10 @@ public:
     CPreviewDialog & Preview() { return m_preview; }
     CFrameMeasuresPanel & FrameMeasures() { return m_frameMeasures; }
 
+    /// Opens the help at a topic, or shows that in the open window.
+    bool ShowHelp(workbench::HelpTopic topic);
+    CHelpDialog & Help() { return m_help; }
+
     /// Opens the settings, or brings them to the front.
     bool ShowSettings();
     CSettingsSheet & SettingsSheet() { return m_settingsSheet; }
@@ -141,6 +147,7 @@ public:
 
     void CloseDialogs();
 
+    LRESULT WindowProc(UINT message, WPARAM wide, LPARAM parameter) override;
     BOOL PreCreateWindow(CREATESTRUCT & create) override;
     BOOL PreTranslateMessage(MSG * message) override;
     void RecalcLayout(BOOL notify = TRUE) override;
@@ -162,6 +169,8 @@ private:
     static constexpr UINT message_frame_read = WM_APP + 4;
     /// To the window itself, when frames have opened or closed.
     static constexpr UINT message_frames_changed = WM_APP + 5;
+    /// To the window itself: F1 was pressed in another window.
+    static constexpr UINT message_help = WM_APP + 6;
 
     static constexpr UINT_PTR work_timer = 1;
     static constexpr UINT_PTR raise_timer = 2;
@@ -221,6 +230,10 @@ private:
     afx_msg void OnRename();
     afx_msg void OnDeleteRecordings();
     afx_msg void OnShowFile();
+    afx_msg void OnShowHelp();
+    afx_msg void OnShowKeys();
+    afx_msg void OnAbout();
+    afx_msg LRESULT OnHelpKey(WPARAM focus, LPARAM);
     afx_msg void OnTimer(UINT_PTR id);
     afx_msg LRESULT OnRecordingsReady(WPARAM, LPARAM);
     afx_msg LRESULT OnRaiseDialogs(WPARAM, LPARAM);
@@ -253,6 +266,8 @@ private:
     void PreparePaneMenu();
     CString PaneCommandText(Part part) const;
     void ShowTexts();
+    void ShowNumbers();
+    std::vector<workbench::DetailLine> DetailsOf(int index) const;
     CWaveformView & WaveformInUse();
     void KeepOnScreen();
     static wchar_t const * NameOf(Part part);
@@ -260,14 +275,16 @@ private:
     void DockByDefault(std::array<bool, part_count> const & others);
     void KeepWorkspace();
     workbench::MainLayoutNeeds LayoutNeeds() const;
-    void Arrange();
+    CSize Arrange();
     void PrepareDialogs();
     void PrepareFrames();
+    void PrepareHelp();
+    workbench::HelpTopic TopicOf(HWND window) const;
     void CloseOwnedWindows();
     bool IsInFrames(HWND window) const;
 
-    std::array<CWorkbenchDialog *, 2> Dialogs();
-    std::array<CWnd *, 3> OwnedWindows();
+    std::array<CWorkbenchDialog *, 3> Dialogs();
+    std::array<CWnd *, 4> OwnedWindows();
     void EnterInMenu(CWnd & window, CString const & text, bool open);
     CSize PictureSize(CWnd & view) const;
     void SavePictureOf(CWnd & view, workbench::Drawing const & draw);
@@ -335,6 +352,8 @@ private:
     int m_detailsIndex = -1; ///< the recording whose details are shown
     CSettingsSheet m_settingsSheet;
     CPreviewDialog m_preview;
+    CHelpDialog m_help;
+    std::optional<workbench::HelpKey> m_helpKey;
     workbench::Settings m_settings;
     CWaveformFrames m_frames;
     CSize m_leastSize = CSize(0, 0);                       ///< of the window

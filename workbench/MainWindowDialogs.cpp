@@ -5,7 +5,9 @@
 #include <shellapi.h>
 
 #include <algorithm>
+#include <atomic>
 
+#include "BusyDialog.h"
 #include "ExportDialog.h"
 #include "FileDialogs.h"
 #include "LanguageDialog.h"
@@ -44,6 +46,17 @@ void SetItemText(HMENU menu, UINT item, bool byPosition, CString text)
     info.fMask = MIIM_STRING;
     info.dwTypeData = text.GetBuffer();
     ::SetMenuItemInfoW(menu, item, byPosition, &info);
+}
+
+/// Whether that went well. May be called from any thread.
+bool MoveToTrash(std::filesystem::path const & file)
+{
+    auto const list = file.wstring() + L'\0'; // and another zero at its end
+    SHFILEOPSTRUCTW operation{};
+    operation.wFunc = FO_DELETE;
+    operation.pFrom = list.c_str();
+    operation.fFlags = FOF_ALLOWUNDO | FOF_NOCONFIRMATION | FOF_NOERRORUI | FOF_SILENT;
+    return ::SHFileOperationW(&operation) == 0 && !operation.fAnyOperationsAborted;
 }
 
 /// The first command of a menu; 0 if it has none.
@@ -92,15 +105,15 @@ void TakeTexts(CMenu & bar, CMenu const & from)
 
 } // namespace
 
-std::array<CWorkbenchDialog *, 2> CMainWindow::Dialogs()
+std::array<CWorkbenchDialog *, 3> CMainWindow::Dialogs()
 {
-    return {&m_details, &m_preview};
+    return {&m_details, &m_preview, &m_help};
 }
 
 /// All that is to lie above the window while it is open.
-std::array<CWnd *, 3> CMainWindow::OwnedWindows()
+std::array<CWnd *, 4> CMainWindow::OwnedWindows()
 {
-    return {&m_details, &m_preview, &m_settingsSheet};
+    return {&m_details, &m_preview, &m_settingsSheet, &m_help};
 }
 
 /// Gives a window that has opened its item in the window menu, or takes it out.
@@ -380,12 +393,12 @@ void CMainWindow::OnRename()
 void CMainWindow::OnDeleteRecordings()
 {
     m_list.EndEditing();
-    std::wstring files; // each with a zero, and another one at the end
+    std::vector<std::filesystem::path> files;
     for (auto const line : m_list.SelectedLines())
     {
         if (auto const * const recording = RecordingAt(line))
         {
-            files += recording->file.wstring() + L'\0';
+            files.push_back(recording->file);
         }
     }
     LifeWatch const life(m_life);
@@ -395,12 +408,13 @@ void CMainWindow::OnDeleteRecordings()
     {
         return;
     }
-    SHFILEOPSTRUCTW operation{};
-    operation.hwnd = m_hWnd;
-    operation.wFunc = FO_DELETE;
-    operation.pFrom = files.c_str();
-    operation.fFlags = FOF_ALLOWUNDO | FOF_NOCONFIRMATION | FOF_NOERRORUI | FOF_SILENT;
-    auto const failed = ::SHFileOperationW(&operation) != 0 || operation.fAnyOperationsAborted;
+    std::atomic<bool> failed = false;
+    CBusyDialog(*this, Text(L"Moving recordings to the trash"), files.size(), [&](std::size_t item) {
+        if (!MoveToTrash(files[item]))
+        {
+            failed = true;
+        }
+    }).Run();
     if (life.Over() || m_hWnd == nullptr)
     {
         return;
@@ -531,6 +545,7 @@ void CMainWindow::ShowTexts()
         }
     }
     m_listPanel.ShowTexts();
+    m_help.ShowTexts();
     UpdateStatusLine();
     if (!m_shown)
     {

@@ -682,9 +682,8 @@ void CMainWindow::ShowReading()
         return;
     }
     auto const & analysis = *chosen->analysis;
-    m_panel.ShowReading(
-        workbench::PositionReading(*cursor, analysis.info.sampleRate),
-        workbench::LevelReading(workbench::LevelAround(analysis.waveform, analysis.info.sampleRate, *cursor)));
+    m_panel.ShowReading(workbench::PositionReading(*cursor, analysis.info.sampleRate),
+                        workbench::LevelReading(Waveform().LevelAtCursor()));
 }
 
 /// What the chosen recording's levels are against the reference's; empty where there is nothing to compare.
@@ -818,20 +817,31 @@ void CMainWindow::OnReadAgain()
     ReadAgain(m_list.ChosenLine());
 }
 
-bool CMainWindow::ShowDetails(int index)
+/// What the details say of a recording; nothing of one that does not exist or is not read.
+std::vector<workbench::DetailLine> CMainWindow::DetailsOf(int index) const
 {
     auto const * const recording = RecordingAt(index);
     if (recording == nullptr || !recording->analysis)
     {
-        return false;
+        return {};
     }
     std::wstring date;
     if (auto const & time = recording->analysis->file.lastWrite)
     {
         date = UserDateTimeText(CTime(*time), dtf_date_time).GetString();
     }
+    return workbench::DescribeRecording(recording->file, *recording->analysis, date);
+}
+
+bool CMainWindow::ShowDetails(int index)
+{
+    auto lines = DetailsOf(index);
+    if (lines.empty())
+    {
+        return false;
+    }
     m_detailsIndex = index;
-    return m_details.Show(workbench::DescribeRecording(recording->file, *recording->analysis, date));
+    return m_details.Show(std::move(lines));
 }
 
 void CMainWindow::OnShowDetails()

@@ -2,21 +2,20 @@
 
 #include <algorithm>
 
+#include "Printing.h"
 #include "logic/Texts.h"
 #include "resource.h"
 
+using workbench::paper_height;
+using workbench::paper_width;
 using workbench::Text;
 
 namespace
 {
 
-// A4 in landscape, in millimetres.
-constexpr int paper_width = 297;
-constexpr int paper_height = 210;
-constexpr int paper_margin = 12;
-
-constexpr int desk_margin = 10; // pixels around the paper
-constexpr int shadow = 3;       // pixels
+constexpr int desk_margin = 10;       // pixels around the paper
+constexpr int shadow = 3;             // pixels
+CSize const preferred_size(400, 290); // of the dialog, in dialog units
 constexpr COLORREF paper_colour = RGB(255, 255, 255);
 
 } // namespace
@@ -41,16 +40,21 @@ void CPageView::Draw(CDC & dc, CRect const & client)
                 CSize(width, height));
     dc.FillSolidRect(paper + CPoint(shadow, shadow), ::GetSysColor(COLOR_3DDKSHADOW));
     dc.FillSolidRect(paper, paper_colour);
-    auto const margin = ::MulDiv(width, paper_margin, paper_width);
+    auto const margin = ::MulDiv(width, workbench::page_margin, paper_width);
     paper.DeflateRect(margin, margin);
     if (m_painter && !paper.IsRectEmpty())
     {
         auto const saved = dc.SaveDC();
         dc.IntersectClipRect(paper);
-        m_painter(dc, paper);
+        // As on paper: texts get smaller with the page.
+        workbench::DrawScaled(dc, paper, workbench::PageSize(), m_painter);
         dc.RestoreDC(saved);
     }
 }
+
+BEGIN_MESSAGE_MAP(CPreviewDialog, CWorkbenchDialog)
+    ON_BN_CLICKED(IDC_PRINT, &CPreviewDialog::OnPrint)
+END_MESSAGE_MAP()
 
 CPreviewDialog::CPreviewDialog(CWnd & owner) : CWorkbenchDialog(IDD_PREVIEW, L"Print Preview", owner) {}
 
@@ -77,7 +81,16 @@ BOOL CPreviewDialog::OnInitDialog()
     GetDlgItem(IDC_PAGE_FRAME)->DestroyWindow();
     m_page.CreateView(*this, IDC_PAGE, place);
     D3dLayoutChild(IDC_PAGE, CEdges::TOP_LEFT_BOTTOM_RIGHT(), nullptr);
+    D3dLayoutChild(IDC_PRINT, CEdges::BOTTOM_RIGHT(), nullptr);
     D3dLayoutChild(IDCANCEL, CEdges::BOTTOM_RIGHT(), nullptr);
     D3dLayoutComplete(CDialogResizer::RESIZE_BOTH);
+    Enlarge(preferred_size);
     return TRUE;
+}
+
+void CPreviewDialog::OnPrint()
+{
+    // A copy: the dialog can be closed meanwhile.
+    auto const painter = m_page.m_painter;
+    workbench::PrintPage(*this, Text(L"Recordings"), painter);
 }

@@ -37,6 +37,11 @@ public:
 
     BOOL OnInitDialog() override;
 
+protected:
+    DECLARE_MESSAGE_MAP()
+
 private:
+    afx_msg void OnPrint();
+
     CPageView m_page;
 };

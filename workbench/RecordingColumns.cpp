@@ -5,13 +5,6 @@
 namespace workbench
 {
 
-namespace
-{
-
-constexpr int every_column = -1;
-
-} // namespace
-
 std::map<int, CString> ColumnNames()
 {
     std::map<int, CString> names;

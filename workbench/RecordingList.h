@@ -131,6 +131,9 @@ public:
     /// Shows what a line says in the present language, after ShowTexts. analysis: null for a file that is not read yet.
     void ShowLineTexts(int line, std::filesystem::path const & file, workbench::RecordingAnalysis const * analysis);
 
+    /// Shows a line's numbers with the present signs. analysis: null for a file that is not read yet.
+    void ShowLineNumbers(int line, std::shared_ptr<workbench::RecordingAnalysis const> const & analysis);
+
     /// Says again that a line's file is being read. The values that the line has go.
     void ShowReading(int line, std::filesystem::path const & file);
 
@@ -289,6 +292,7 @@ private:
     void ResetRow(int row);
     void Touch(int row);
     void ShowProblem(int row, workbench::RecordingAnalysis const & analysis);
+    void ShowNumbers(int row, workbench::RecordingAnalysis const & analysis);
     void ShowValues(int row, std::shared_ptr<workbench::RecordingAnalysis const> const & analysis);
     void ShowStatus(int row, workbench::RecordingAnalysis const & analysis);
     void MarkValue(int row, Column column);

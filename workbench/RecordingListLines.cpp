@@ -328,41 +328,60 @@ void CRecordingList::ShowStatus(int row, workbench::RecordingAnalysis const & an
     Require(column_status, WidthOf(status) + m_metrics->Scaled(image_room));
 }
 
-void CRecordingList::ShowValues(int row, std::shared_ptr<workbench::RecordingAnalysis const> const & analysis)
+void CRecordingList::ShowLineNumbers(int line, std::shared_ptr<workbench::RecordingAnalysis const> const & analysis)
 {
-    auto const & info = analysis->info;
+    auto const row = PlaceOf(line);
+    if (row >= 0 && analysis && !analysis->problem)
+    {
+        Batch const batch(*this);
+        Touch(row);
+        ShowStatus(row, *analysis);
+        ShowNumbers(row, *analysis);
+    }
+}
+
+/// The values in the form that the user's region gives them.
+void CRecordingList::ShowNumbers(int row, workbench::RecordingAnalysis const & analysis)
+{
+    auto const & info = analysis.info;
     auto const duration = AtRightEdge(workbench::FormatDuration(info.frames, info.sampleRate));
     auto const milliseconds = workbench::DurationMilliseconds(info.frames, info.sampleRate);
     SetItemFloatVal(row, column_duration, static_cast<float>(milliseconds) / 1000.0F, duration.c_str());
     Require(column_duration, WidthOf(duration));
     SetItemText(row, column_channels, static_cast<int>(info.channels));
     // Beyond the largest int, too; a number that size is sorted by well enough as a float.
-    auto const rate = std::to_wstring(info.sampleRate);
+    auto const rate = workbench::FormatThousands(info.sampleRate);
     SetItemFloatVal(row, column_rate, static_cast<float>(info.sampleRate), rate.c_str());
     Require(column_rate, WidthOf(rate));
 
     // The bar's text is made with a whole number; to show tenths, the finished text is its format.
-    auto const peak = workbench::FormatLevel(analysis->levels.peak);
+    auto const peak = workbench::FormatLevel(analysis.levels.peak);
     SetProgress(row, column_peak, true, peak.c_str());
-    SetItemFloatVal(row, column_peak, static_cast<float>(analysis->levels.peak), peak.c_str());
+    SetItemFloatVal(row, column_peak, static_cast<float>(analysis.levels.peak), peak.c_str());
     SetItemColors(row, column_peak, workbench::ReadableColour(::GetSysColor(COLOR_WINDOWTEXT), empty_bar_colour),
-                  analysis->levels.peak > 0.0 ? clipped_colour : bar_colour, XLISTCTRLDATA::no_gradient);
-    UpdateProgress(row, column_peak, std::max(workbench::LevelBarPercent(analysis->levels.peak), least_bar_percent), 0);
+                  analysis.levels.peak > 0.0 ? clipped_colour : bar_colour, XLISTCTRLDATA::no_gradient);
+    UpdateProgress(row, column_peak, std::max(workbench::LevelBarPercent(analysis.levels.peak), least_bar_percent), 0);
 
-    auto const rms = AtRightEdge(workbench::FormatLevel(analysis->levels.rms));
-    SetItemFloatVal(row, column_rms, static_cast<float>(analysis->levels.rms), rms.c_str());
+    auto const rms = AtRightEdge(workbench::FormatLevel(analysis.levels.rms));
+    SetItemFloatVal(row, column_rms, static_cast<float>(analysis.levels.rms), rms.c_str());
     Require(column_rms, WidthOf(rms));
 
     std::pair<Column, std::wstring> const measures[] = {
-        {column_crest, workbench::FormatCrestFactor(analysis->levels)},
-        {column_loudness, workbench::FormatLoudness(analysis->loudness)},
-        {column_frequency, workbench::FormatFrequency(analysis->tone.frequency)},
-        {column_distortion, workbench::FormatPercent(analysis->tone.distortion)}};
+        {column_crest, workbench::FormatCrestFactor(analysis.levels)},
+        {column_loudness, workbench::FormatLoudness(analysis.loudness)},
+        {column_frequency, workbench::FormatFrequency(analysis.tone.frequency)},
+        {column_distortion, workbench::FormatPercent(analysis.tone.distortion)}};
     for (auto const & [column, text] : measures)
     {
         SetItemText(row, column, AtRightEdge(text).c_str());
         Require(column, WidthOf(AtRightEdge(text)));
     }
+}
+
+void CRecordingList::ShowValues(int row, std::shared_ptr<workbench::RecordingAnalysis const> const & analysis)
+{
+    ShowNumbers(row, *analysis);
+    auto const & info = analysis->info;
     // The value that the damage makes doubtful is marked.
     if (info.IsCutOff())
     {

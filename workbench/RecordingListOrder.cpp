@@ -30,6 +30,22 @@ bool IsCopied(int column)
     return column != CRecordingList::column_check && column != CRecordingList::column_overview;
 }
 
+/// Whether a column's texts are numbers, written as the user's region has them.
+bool IsNumber(int column)
+{
+    switch (column)
+    {
+    case CRecordingList::column_duration:
+    case CRecordingList::column_channels:
+    case CRecordingList::column_rate:
+    case CRecordingList::column_peak:
+    case CRecordingList::column_rms:
+        return true;
+    default:
+        return column >= CRecordingList::first_measure;
+    }
+}
+
 } // namespace
 
 int CRecordingList::LineAt(int row) const
@@ -452,7 +468,7 @@ workbench::TextTable CRecordingList::TableOf(std::vector<int> const & rows, std:
         native.pszText = title;
         native.cchTextMax = static_cast<int>(std::size(title));
         GetColumn(column, &native);
-        table.columns.push_back({title, (native.fmt & LVCFMT_JUSTIFYMASK) == LVCFMT_RIGHT});
+        table.columns.push_back({title, (native.fmt & LVCFMT_JUSTIFYMASK) == LVCFMT_RIGHT, IsNumber(column)});
     }
     auto const reference = PlaceOf(m_reference);
     std::vector<wchar_t> buffer(text_room);

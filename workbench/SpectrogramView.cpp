@@ -5,6 +5,7 @@
 
 #include "PlotParts.h"
 #include "logic/Axis.h"
+#include "logic/NumberSigns.h"
 #include "logic/TextFormat.h"
 #include "logic/Texts.h"
 
@@ -37,7 +38,8 @@ constexpr double scroll_step = 0.1; // of what is shown
 
 std::wstring LegendLabel(int entry)
 {
-    return std::to_wstring(std::lround(workbench::lowest_scale_level + entry * workbench::decibels_per_entry));
+    return workbench::WithSigns(
+        std::to_wstring(std::lround(workbench::lowest_scale_level + entry * workbench::decibels_per_entry)));
 }
 
 /// How a picture is stretched, with its way back.
@@ -414,8 +416,8 @@ std::wstring CSpectrogramView::Reading() const
     auto const level = std::lround(workbench::lowest_scale_level + entry * workbench::decibels_per_entry);
     return workbench::FormatDuration(m_marks.cursor, m_result->info.sampleRate) + L", " +
            workbench::FormatFrequency(*m_frequency) + L" Hz, " + (entry == 0 ? L"< " : L"") +
-           std::to_wstring(entry == 0 ? std::lround(workbench::lowest_scale_level + workbench::decibels_per_entry)
-                                      : level) +
+           workbench::WithSigns(std::to_wstring(
+               entry == 0 ? std::lround(workbench::lowest_scale_level + workbench::decibels_per_entry) : level)) +
            L" dB";
 }
 
@@ -652,7 +654,10 @@ void CSpectrogramView::DrawLegend(CDC & dc, CRect const & bar)
     {
         dc.FillSolidRect(CRect(inside.left, y(i + 1), inside.right, y(i)), m_colours[static_cast<std::size_t>(i)]);
     }
-    for (int i = 0; i <= workbench::scale_entries; i += entries_per_label)
+    // The lowest label is moved up by half its height.
+    auto const distance = m_metrics->LineHeight() * 3 / 2;
+    for (auto const i :
+         workbench::LabelledSteps(workbench::scale_entries, entries_per_label, inside.Height(), distance))
     {
         auto const label = LegendLabel(i) + (i == workbench::scale_entries ? L" dB" : L"");
         auto const size = TextSize(dc, label);

@@ -231,7 +231,7 @@ bool CWalk::ShowSettingsPages(std::function<std::string(char const *)> const & n
 bool CWalk::GoThroughFrames(std::string const & suffix)
 {
     auto const name = [&suffix](char const * picture) { return picture + suffix; };
-    auto const windowMenu = static_cast<int>(m_window.GetMenu()->GetMenuItemCount()) - 1;
+    auto const windowMenu = static_cast<int>(m_window.GetMenu()->GetMenuItemCount()) - 2; // before the help
     auto const shown = m_window.ShowInFrame(m_window.List().ChosenLine()) && Step(name("workbench-frame").c_str()) &&
                        m_window.CompareFour() && Step(name("workbench-grid").c_str());
     if (!shown)
@@ -270,7 +270,7 @@ bool CWalk::GoThroughDialogs(std::string const & suffix)
 {
     auto const name = [&suffix](char const * picture) { return picture + suffix; };
     auto const cancel = [](CWnd & dialog) { dialog.PostMessage(WM_COMMAND, IDCANCEL); };
-    auto const windowMenu = static_cast<int>(m_window.GetMenu()->GetMenuItemCount()) - 1;
+    auto const windowMenu = static_cast<int>(m_window.GetMenu()->GetMenuItemCount()) - 2; // before the help
     auto const items = m_window.GetMenu()->GetSubMenu(windowMenu)->GetMenuItemCount();
     if (!m_window.ShowDetails(0) || !Step(name("workbench-details").c_str()) ||
         !StepInMenu(name("workbench-details-menu").c_str(), m_window.Details(), CPoint(180, 60)))

@@ -3,11 +3,13 @@
 #include <algorithm>
 #include <cmath>
 #include <iterator>
+#include <limits>
 
 #include "PlotParts.h"
 #include "colours/Farbtabellen.h"
 #include "logic/Amplification.h"
 #include "logic/Axis.h"
+#include "logic/CursorReading.h"
 #include "logic/TextFormat.h"
 #include "logic/Texts.h"
 
@@ -108,6 +110,12 @@ void CWaveformView::ShowText(std::wstring title, std::wstring text)
     m_detail.reset();
     m_analysis.reset();
     ResetMarks();
+}
+
+double CWaveformView::LevelAtCursor()
+{
+    return m_detail ? workbench::LevelAround(*m_detail, m_analysis->info, m_marks.cursor)
+                    : -std::numeric_limits<double>::infinity();
 }
 
 LRESULT CWaveformView::OnRefined(WPARAM, LPARAM)

@@ -39,6 +39,9 @@ public:
     void MoveCursor(std::uint64_t frame);
     /// The frame at which the cursor stands; none without a recording.
     std::optional<std::uint64_t> Cursor() const;
+
+    /// The level around it, in dBFS; minus infinity where there is no recording.
+    double LevelAtCursor();
     /// Called when the cursor has moved, or there is another recording.
     std::function<void()> m_onCursor;
 

@@ -1,5 +1,7 @@
 #include "WorkbenchDialog.h"
 
+#include <algorithm>
+
 BEGIN_MESSAGE_MAP(CWorkbenchDialog, CDialog3d)
     ON_WM_DESTROY()
 END_MESSAGE_MAP()
@@ -53,6 +55,35 @@ void CWorkbenchDialog::Follow(workbench::Settings const & settings)
     {
         DurchsichtigkeitBeiInaktiv(m_alphaWhileInactive);
     }
+}
+
+void CWorkbenchDialog::Enlarge(CSize size)
+{
+    MINMAXINFO design{};
+    SendMessage(WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&design));
+    CRect window;
+    GetWindowRect(&window);
+    CRect client;
+    GetClientRect(&client);
+    MONITORINFO screen{};
+    screen.cbSize = sizeof screen;
+    auto const isStored = window.Width() > design.ptMinTrackSize.x || window.Height() > design.ptMinTrackSize.y;
+    if (isStored || !::GetMonitorInfoW(::MonitorFromWindow(m_hWnd, MONITOR_DEFAULTTONEAREST), &screen))
+    {
+        return;
+    }
+    CRect wanted(CPoint(0, 0), size);
+    MapDialogRect(&wanted);
+    CRect const work(screen.rcWork);
+    auto const width =
+        std::min<int>(std::max(wanted.Width(), client.Width()) + window.Width() - client.Width(), work.Width());
+    auto const height =
+        std::min<int>(std::max(wanted.Height(), client.Height()) + window.Height() - client.Height(), work.Height());
+    // Around the middle that it has.
+    auto const left = window.CenterPoint().x - width / 2;
+    auto const top = window.CenterPoint().y - height / 2;
+    SetWindowPos(nullptr, std::clamp<int>(left, work.left, work.right - width),
+                 std::clamp<int>(top, work.top, work.bottom - height), width, height, SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 void CWorkbenchDialog::OnOK()

@@ -24,6 +24,10 @@ public:
     std::function<void(CWorkbenchDialog &, bool)> m_onOpened;
 
 protected:
+    /// Gives the dialog, when it opens for the first time, a size in dialog units, as far as the screen has room. Its
+    /// template's size is its least one. To be called when the layout is complete.
+    void Enlarge(CSize size);
+
     void OnOK() override;
     void OnCancel() override;
 

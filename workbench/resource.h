@@ -14,6 +14,9 @@
 #define IDD_OPEN_FOLDER 104
 #define IDD_EXPORT_LIST 105
 #define IDD_RENAME 106
+#define IDD_HELP 107
+#define IDD_ABOUT 108
+#define IDD_BUSY 109
 // The pages of the settings.
 #define IDD_SETTINGS_START 111
 #define IDD_SETTINGS_WAVEFORM 112
@@ -71,13 +74,13 @@
 #define IDC_SPECTROGRAM_OVERLAP 1132
 #define IDC_FREQUENCY_SCALE 1133
 
-// The details: a label and a text for each line.
-#define IDC_DETAIL_LABEL_FIRST 1201
-#define IDC_DETAIL_TEXT_FIRST 1221
+// The details.
+#define IDC_DETAIL_TEXT 1201
 
 // The print preview.
 #define IDC_PAGE_FRAME 1301
 #define IDC_PAGE 1302
+#define IDC_PRINT 1303
 
 // Opening a folder and exporting the list.
 #define IDC_FOLDER_NOTE 1401
@@ -88,6 +91,17 @@
 #define IDC_EXPORT_COLUMNS 1413
 #define IDC_EXPORT_LINES 1414
 #define IDC_NEW_NAME 1415
+
+// Help.
+#define IDC_HELP_TOPICS 1501
+#define IDC_HELP_PAGE 1502
+#define IDC_ABOUT_NAME 1511
+#define IDC_ABOUT_VERSION 1512
+#define IDC_ABOUT_PARTS 1513
+
+// Progress.
+#define IDC_BUSY_TEXT 1601
+#define IDC_BUSY_PROGRESS 1602
 
 #define ID_OPEN_FILES 40001
 #define ID_OPEN_FOLDER 40002
@@ -134,6 +148,9 @@
 #define ID_RENAME 40037
 #define ID_DELETE_RECORDINGS 40038
 #define ID_SHOW_FILE 40039
+#define ID_SHOW_HELP 40051
+#define ID_SHOW_KEYS 40052
+#define ID_ABOUT 40053
 
 // The items of open dialogs in the window menu.
 #define ID_DIALOG_FIRST 41000

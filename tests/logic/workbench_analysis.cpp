@@ -79,6 +79,26 @@ RecordingAnalysis Analyse(wav::File const & file)
     return Analyse(RecordingAnalyser(wav::Source(file.Content())));
 }
 
+TEST(RecordingAnalysis, WhatIsKeptOfARecordingIsSmallWhateverItsLengthAndChannels)
+{
+    TemporaryFolder const folder;
+    for (unsigned const channels : {1U, 2U, 6U, 32U, 40U})
+    {
+        std::vector<std::int16_t> const samples(channels * 100000, 5);
+        auto const file = folder.Write("many.wav", wav::File()
+                                                       .Chunk("fmt ", wav::Format(1, channels, 48000, 2 * channels, 16))
+                                                       .Chunk("data", wav::Samples16(samples))
+                                                       .Content());
+        RecordingAnalyser analyser(file);
+        while (analyser.Step())
+            continue;
+        auto const analysis = analyser.Take();
+        ASSERT_EQ(analysis.info.frames, 100000U);
+        EXPECT_GT(analysis.waveform.Bytes(), 8000U) << channels;
+        EXPECT_LT(analysis.waveform.Bytes() + sizeof analysis, 40000U) << channels;
+    }
+}
+
 TEST(RecordingAnalysis, GivesHeaderLevelsAndWaveformOfARecording)
 {
     auto const analysis = Analyse(Stereo(100'000));

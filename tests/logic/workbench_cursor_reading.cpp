@@ -4,9 +4,11 @@
 
 #include <cmath>
 #include <limits>
+#include <memory>
 #include <vector>
 
 #include "logic/CursorReading.h"
+#include "logic/WaveformDetail.h"
 
 using namespace workbench;
 
@@ -20,6 +22,17 @@ Waveform MakeWaveform(std::size_t channels, std::vector<double> const & samples)
     WaveformBuilder builder(channels);
     builder.Add(samples);
     return builder.Finish();
+}
+
+double LevelOf(Waveform const & waveform, std::uint32_t sampleRate, std::uint64_t frame)
+{
+    auto analysis = std::make_shared<RecordingAnalysis>();
+    analysis->info.channels = static_cast<std::uint16_t>(waveform.Lanes());
+    analysis->info.sampleRate = sampleRate;
+    analysis->info.frames = waveform.Frames();
+    analysis->waveform = waveform;
+    WaveformDetail detail(analysis, {});
+    return LevelAround(detail, analysis->info, frame);
 }
 
 } // namespace
@@ -63,30 +76,30 @@ TEST(WorkbenchCursorReading, TheLevelIsTheGreatestAmplitudeAround)
     std::vector<double> samples(100, 0.0);
     samples[50] = -0.5;
     auto const waveform = MakeWaveform(1, samples);
-    EXPECT_EQ(LevelAround(waveform, 1000, 44), silence);
-    EXPECT_NEAR(LevelAround(waveform, 1000, 45), -6.0206, 0.0001);
-    EXPECT_NEAR(LevelAround(waveform, 1000, 55), -6.0206, 0.0001);
-    EXPECT_EQ(LevelAround(waveform, 1000, 56), silence);
+    EXPECT_EQ(LevelOf(waveform, 1000, 44), silence);
+    EXPECT_NEAR(LevelOf(waveform, 1000, 45), -6.0206, 0.0001);
+    EXPECT_NEAR(LevelOf(waveform, 1000, 55), -6.0206, 0.0001);
+    EXPECT_EQ(LevelOf(waveform, 1000, 56), silence);
 }
 
 TEST(WorkbenchCursorReading, TheLoudestLaneCounts)
 {
-    EXPECT_NEAR(LevelAround(MakeWaveform(2, {0.1, 0.25}), 48000, 0), -12.0412, 0.0001);
-    EXPECT_NEAR(LevelAround(MakeWaveform(2, {-0.5, 0.25}), 48000, 0), -6.0206, 0.0001);
+    EXPECT_NEAR(LevelOf(MakeWaveform(2, {0.1, 0.25}), 48000, 0), -12.0412, 0.0001);
+    EXPECT_NEAR(LevelOf(MakeWaveform(2, {-0.5, 0.25}), 48000, 0), -6.0206, 0.0001);
 }
 
 TEST(WorkbenchCursorReading, TheStretchEndsWithTheRecording)
 {
     auto const waveform = MakeWaveform(1, {1.0, 0.0, 0.5});
-    EXPECT_NEAR(LevelAround(waveform, 48000, 0), 0.0, 0.0001);
-    EXPECT_NEAR(LevelAround(waveform, 48000, 2), 0.0, 0.0001);
-    EXPECT_NEAR(LevelAround(waveform, 100, 2), -6.0206, 0.0001) << "at least the frame itself";
+    EXPECT_NEAR(LevelOf(waveform, 48000, 0), 0.0, 0.0001);
+    EXPECT_NEAR(LevelOf(waveform, 48000, 2), 0.0, 0.0001);
+    EXPECT_NEAR(LevelOf(waveform, 100, 2), -6.0206, 0.0001) << "at least the frame itself";
 }
 
 TEST(WorkbenchCursorReading, WhatDoesNotExistIsSilent)
 {
     auto const waveform = MakeWaveform(1, {1.0});
-    EXPECT_EQ(LevelAround(waveform, 48000, 1), silence);
-    EXPECT_EQ(LevelAround(waveform, 0, 0), silence);
-    EXPECT_EQ(LevelAround(Waveform(), 48000, 0), silence);
+    EXPECT_EQ(LevelOf(waveform, 48000, 1), silence);
+    EXPECT_EQ(LevelOf(waveform, 0, 0), silence);
+    EXPECT_EQ(LevelOf(Waveform(), 48000, 0), silence);
 }

@@ -78,8 +78,21 @@ TEST(WorkbenchMainLayout, GrowthGoesToListWaveformAndSpectrogram)
     EXPECT_EQ(DefaultPanes(needs).waveform, 168);
     EXPECT_EQ(DefaultPanes(needs).spectrogram, 168);
     EXPECT_EQ(DefaultPanes(needs).measures, 58);
+    EXPECT_FALSE(DefaultPanes(needs).plotsShareTabs);
+}
+
+TEST(WorkbenchMainLayout, PlotsShareTabsWhereThereIsNoRoomForBoth)
+{
+    auto needs = Needs(520, LeastMainArea(Needs(0, 0), 0).cy - 1);
+    auto const heights = DefaultPanes(needs);
+    EXPECT_TRUE(heights.plotsShareTabs);
+    EXPECT_EQ(heights.waveform, heights.spectrogram);
+    EXPECT_GT(heights.waveform, heights.list);
+    EXPECT_EQ(heights.measures, 58);
+    // Together with captions' and tabs' height they take what margins, dividers and status leave.
+    EXPECT_EQ(heights.list + heights.waveform + heights.measures, needs.client.cy - 16 - 2 * 4 - 6 - 20 - 18 + 18);
     needs.client.cy = 10;
-    EXPECT_EQ(DefaultPanes(needs).waveform, 138);
+    EXPECT_EQ(DefaultPanes(needs).list, 18);
 }
 
 TEST(WorkbenchMainLayout, NothingOverlapsOrLiesOutsideWhateverTheSizes)

@@ -259,6 +259,23 @@ TEST(TimeTicks, AreNoneWithoutRoomOrTime)
     EXPECT_TRUE(TimeTicks(-1.0, 100, 10).empty());
 }
 
+TEST(LabelledSteps, AreThinnedOutWhereThereIsNoRoom)
+{
+    EXPECT_EQ(LabelledSteps(32, 8, 320, 20), (std::vector{32, 24, 16, 8, 0}));
+    EXPECT_EQ(LabelledSteps(32, 8, 79, 20), (std::vector{32, 16, 0}));
+    EXPECT_EQ(LabelledSteps(32, 8, 39, 20), (std::vector{32, 0}));
+    EXPECT_EQ(LabelledSteps(32, 8, 0, 20), (std::vector{32, 0}));
+    EXPECT_TRUE(LabelledSteps(0, 8, 100, 20).empty());
+    for (int height = 20; height < 400; ++height)
+    {
+        auto const steps = LabelledSteps(32, 8, height, 20);
+        for (std::size_t i = 1; i < steps.size(); ++i)
+        {
+            ASSERT_GE((steps[i - 1] - steps[i]) * height / 32, 20) << height;
+        }
+    }
+}
+
 TEST(LevelLines, GoDownToTwentyFourDecibels)
 {
     auto const lines = LevelLines(10000, 1);

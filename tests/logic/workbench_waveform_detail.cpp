@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
+#include <cmath>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -99,9 +100,9 @@ bool Covers(std::vector<std::vector<MinMax>> const & columns, std::vector<std::v
 
 TEST(WaveformDetail, AShortRecordingIsExactFromItsOverview)
 {
-    Recording const recording(20000, 2);
+    Recording const recording(1000, 2);
     WaveformDetail detail(recording.analysis, {});
-    EXPECT_EQ(detail.Columns({137, 1139}, 100), recording.Expected({137, 1139}, 100));
+    EXPECT_EQ(detail.Columns({137, 939}, 100), recording.Expected({137, 939}, 100));
     EXPECT_EQ(detail.Coarseness(), 1U);
 }
 
@@ -178,6 +179,37 @@ TEST(WaveformDetail, AFileThatHasChangedIsNotMixedWithItsOverview)
     WaveformDetail detail(recording.analysis, recording.path);
     FrameRange const range{5000, 5400};
     EXPECT_EQ(detail.Columns(range, 200).at(0), recording.analysis->waveform.Columns(0, 200, range));
+}
+
+TEST(WaveformDetail, TheAmplitudeOfAStretchIsExactAndLeavesThePictureAlone)
+{
+    Recording const recording(300000, 2);
+    ASSERT_GT(recording.analysis->waveform.FramesPerBucket(), 100U);
+    WaveformDetail detail(recording.analysis, recording.path);
+    FrameRange const shown{1000, 1100};
+    auto const picture = detail.Columns(shown, 100);
+    std::mt19937 random(7);
+    for (int i = 0; i < 100; ++i)
+    {
+        std::uint64_t const first = random() % 299000;
+        FrameRange const range{first, first + 1 + random() % 480};
+        double expected = 0;
+        for (auto const & lane : recording.Expected(range, 1))
+            expected = std::max({expected, std::fabs(static_cast<double>(lane[0].least)),
+                                 std::fabs(static_cast<double>(lane[0].greatest))});
+        ASSERT_DOUBLE_EQ(detail.Amplitude(range), expected) << i;
+    }
+    EXPECT_EQ(detail.Amplitude({299990, 400000}), detail.Amplitude({299990, 300000}));
+    EXPECT_EQ(detail.Amplitude({300000, 300010}), 0.0);
+    EXPECT_EQ(detail.Columns(shown, 100), picture);
+}
+
+TEST(WaveformDetail, WithoutItsFileTheAmplitudeIsTheOverviews)
+{
+    Recording const recording(300000, 1);
+    WaveformDetail detail(recording.analysis, recording.path.string() + ".gone");
+    auto const found = recording.analysis->waveform.Range(0, 5000, 5480);
+    EXPECT_DOUBLE_EQ(detail.Amplitude({5000, 5480}), std::max(std::fabs(found.least), std::fabs(found.greatest)));
 }
 
 TEST(WaveformDetail, NothingOfNothing)

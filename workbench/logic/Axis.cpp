@@ -5,6 +5,8 @@
 #include <cmath>
 #include <cwchar>
 
+#include "logic/NumberSigns.h"
+
 namespace workbench
 {
 
@@ -53,7 +55,7 @@ std::wstring TimeLabel(double seconds, int decimals, bool asMinutes)
     {
         std::swprintf(text, std::size(text), L"%.*f s", decimals, seconds);
     }
-    return text;
+    return WithSigns(text);
 }
 
 /// The smallest of 1, 2, 5, 10, ... of at least so much.
@@ -89,7 +91,7 @@ std::wstring FrequencyLabel(double hertz)
     {
         std::swprintf(text, std::size(text), L"%.10g Hz", hertz);
     }
-    return text;
+    return WithSigns(text);
 }
 
 } // namespace
@@ -205,6 +207,25 @@ std::vector<TimeTick> TimeTicks(double first, double end, int width, int leastDi
     return ticks;
 }
 
+std::vector<int> LabelledSteps(int last, int every, int height, int leastDistance)
+{
+    std::vector<int> steps;
+    if (last <= 0 || every <= 0)
+    {
+        return steps;
+    }
+    auto between = every;
+    while (between < last && between * height < leastDistance * last)
+    {
+        between *= 2;
+    }
+    for (auto step = last; step >= 0; step -= between)
+    {
+        steps.push_back(step);
+    }
+    return steps;
+}
+
 std::vector<LevelLine> LevelLines(int halfHeight, int leastDistance, int amplification)
 {
     std::vector<LevelLine> lines;
@@ -216,7 +237,7 @@ std::vector<LevelLine> LevelLines(int halfHeight, int leastDistance, int amplifi
         {
             break;
         }
-        lines.push_back({amplitude, std::to_wstring(decibels - amplification)});
+        lines.push_back({amplitude, WithSigns(std::to_wstring(decibels - amplification))});
     }
     return lines;
 }

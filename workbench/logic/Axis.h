@@ -35,6 +35,10 @@ struct LevelLine
 /// Where the lane is amplified, by so many decibels, the lines stay and stand for lower levels.
 std::vector<LevelLine> LevelLines(int halfHeight, int leastDistance, int amplification = 0);
 
+/// Which of the steps from 0 to `last` get a label on a scale of `height` pixels: the last one, and below it every
+/// `every`-th, or as many less as it takes for them to be at least `leastDistance` pixels apart. From above.
+std::vector<int> LabelledSteps(int last, int every, int height, int leastDistance);
+
 /// How frequencies are spread over an axis.
 enum class FrequencyScale
 {

@@ -8,6 +8,7 @@
 
 #include "logic/LevelMeter.h"
 #include "logic/TextFormat.h"
+#include "logic/WaveformDetail.h"
 
 namespace workbench
 {
@@ -20,23 +21,19 @@ constexpr std::uint64_t milliseconds_per_second = 1000;
 
 } // namespace
 
-double LevelAround(Waveform const & waveform, std::uint32_t sampleRate, std::uint64_t frame)
+FrameRange StretchAround(std::uint64_t frames, std::uint32_t sampleRate, std::uint64_t frame)
 {
-    if (sampleRate == 0 || frame >= waveform.Frames())
+    if (sampleRate == 0 || frame >= frames)
     {
-        return -std::numeric_limits<double>::infinity();
+        return {};
     }
     auto const half = static_cast<std::uint64_t>(sampleRate) * level_stretch / milliseconds_per_second / 2;
-    auto const first = frame - std::min(frame, half);
-    auto const end = std::min(frame + half + 1, waveform.Frames());
-    auto amplitude = 0.0;
-    for (std::size_t lane = 0; lane < waveform.Lanes(); ++lane)
-    {
-        auto const range = waveform.Range(lane, first, end);
-        amplitude = std::max(
-            {amplitude, std::fabs(static_cast<double>(range.least)), std::fabs(static_cast<double>(range.greatest))});
-    }
-    return AmplitudeToDecibels(amplitude);
+    return {frame - std::min(frame, half), std::min(frame + half + 1, frames)};
+}
+
+double LevelAround(WaveformDetail & detail, RecordingInfo const & info, std::uint64_t frame)
+{
+    return AmplitudeToDecibels(detail.Amplitude(StretchAround(info.frames, info.sampleRate, frame)));
 }
 
 std::wstring PositionReading(std::uint64_t frame, std::uint32_t sampleRate)
@@ -55,7 +52,7 @@ std::wstring PositionReading(std::uint64_t frame, std::uint32_t sampleRate)
 
 std::wstring LevelReading(double decibels)
 {
-    auto text = std::isfinite(decibels) ? FormatLevel(decibels) : std::wstring(L"--.-");
+    auto text = std::isfinite(decibels) ? PlainLevel(decibels) : std::wstring(L"--.-");
     if (text.size() < level_width)
     {
         text.insert(0, level_width - text.size(), L' ');

@@ -14,6 +14,9 @@ constexpr int waveform_part = 3;
 constexpr int spectrogram_part = 4;
 constexpr int whole = 10;
 
+// The list's part of the height where both plots share the rest, in 1/10.
+constexpr int list_part_beside_tabs = 4;
+
 constexpr int panes = 4; // above each other
 
 } // namespace
@@ -50,12 +53,25 @@ MainLayout LayOutMain(MainLayoutNeeds const & needs)
 
 PaneHeights DefaultPanes(MainLayoutNeeds const & needs)
 {
-    auto const growth = std::max<int>(needs.client.cy - LeastMainArea(needs, 0).cy, 0);
+    auto const growth = needs.client.cy - LeastMainArea(needs, 0).cy;
     PaneHeights heights;
+    heights.measures = needs.panelHeight + needs.captionHeight;
+    if (growth < 0)
+    {
+        heights.plotsShareTabs = true;
+        // Tabs are about as high as captions.
+        auto const room =
+            std::max<int>(needs.client.cy - 2 * needs.marginY - heights.measures - 3 * needs.captionHeight -
+                              (panes - 2) * needs.dividerGap - needs.spacing - needs.statusHeight,
+                          0);
+        heights.list = needs.captionHeight + room * list_part_beside_tabs / whole;
+        heights.waveform = 3 * needs.captionHeight + room - heights.list;
+        heights.spectrogram = heights.waveform;
+        return heights;
+    }
     heights.list = needs.listHeight + needs.captionHeight + growth * list_part / whole;
     heights.waveform = needs.waveformHeight + needs.captionHeight + growth * waveform_part / whole;
     heights.spectrogram = needs.spectrogramHeight + needs.captionHeight + growth * spectrogram_part / whole;
-    heights.measures = needs.panelHeight + needs.captionHeight;
     return heights;
 }
 

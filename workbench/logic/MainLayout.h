@@ -41,6 +41,7 @@ struct PaneHeights
     int waveform = 0;
     int spectrogram = 0;
     int measures = 0;
+    bool plotsShareTabs = false; ///< there is no room for both of them: each has the height of both
 };
 
 /// The client area that list, panes and status need with a list of that width, without folders and frames.
@@ -48,6 +49,7 @@ CSize LeastMainArea(MainLayoutNeeds const & needs, int listWidth);
 
 MainLayout LayOutMain(MainLayoutNeeds const & needs);
 
+/// Where there is less than the least area, waveform and spectrogram stand in tabs.
 PaneHeights DefaultPanes(MainLayoutNeeds const & needs);
 
 } // namespace workbench

@@ -43,7 +43,7 @@ RecordingAnalyser::RecordingAnalyser(std::unique_ptr<ByteSource> source)
     }
     m_reader.emplace(std::move(std::get<WavReader>(opened)));
     std::size_t const channels = m_reader->Info().channels;
-    m_waveform.emplace(channels);
+    m_waveform.emplace(channels, most_buckets / std::clamp<std::size_t>(channels, 1, WaveformBuilder::maximum_lanes));
     m_loudness.emplace(m_reader->Info().sampleRate, channels);
     m_tone.emplace(m_reader->Info().sampleRate, channels, m_reader->Info().frames);
     m_samples.resize(std::max<std::size_t>(samples_per_step / channels, 1) * channels);

@@ -40,6 +40,10 @@ struct RecordingAnalysis
 class RecordingAnalyser
 {
 public:
+    /// The most buckets of the overview, of all lanes together: thousands of recordings have one each. What is shown
+    /// large gets its finer one from `WaveformDetail`.
+    static constexpr std::size_t most_buckets = 2048;
+
     /// Opens the source, which may be null.
     explicit RecordingAnalyser(std::unique_ptr<ByteSource> source);
 

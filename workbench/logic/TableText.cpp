@@ -3,6 +3,8 @@
 #include <cstddef>
 #include <string_view>
 
+#include "logic/NumberSigns.h"
+
 namespace workbench
 {
 
@@ -187,7 +189,8 @@ std::wstring CsvTable(TextTable const & table)
     {
         for (std::size_t i = 0; i < table.columns.size(); ++i)
         {
-            append(i < row.size() ? std::wstring_view(row[i]) : std::wstring_view(), i == 0);
+            auto const & text = i < row.size() ? row[i] : std::wstring();
+            append(table.columns[i].isNumber ? WithoutSigns(text) : text, i == 0);
         }
         csv += row_end;
     }

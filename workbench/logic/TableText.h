@@ -15,6 +15,7 @@ struct TextTable
     {
         std::wstring title;
         bool alignedRight = false;
+        bool isNumber = false; ///< its texts are numbers with the present signs
     };
     std::vector<Column> columns;
     std::vector<std::vector<std::wstring>> rows;
@@ -25,7 +26,7 @@ struct TextTable
 std::wstring PlainTable(TextTable const & table);
 
 /// The table as comma-separated values by RFC 4180: texts with commas, quotation marks or line ends stand in quotation
-/// marks.
+/// marks. It is for programs of any region: numbers have a point and no groups.
 std::wstring CsvTable(TextTable const & table);
 
 /// The table as an HTML fragment in plain ASCII: other characters are numeric references. Line breaks within a text are

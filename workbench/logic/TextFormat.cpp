@@ -5,6 +5,7 @@
 #include <cwchar>
 
 #include "logic/LevelMeter.h"
+#include "logic/NumberSigns.h"
 
 namespace workbench
 {
@@ -24,7 +25,7 @@ std::wstring FormatMilliseconds(std::uint64_t milliseconds)
     wchar_t text[48];
     std::swprintf(text, std::size(text), L"%llu:%02u.%03u", static_cast<unsigned long long>(milliseconds / 60000),
                   static_cast<unsigned>(milliseconds / 1000 % 60), static_cast<unsigned>(milliseconds % 1000));
-    return text;
+    return WithSigns(text);
 }
 
 std::wstring FormatDuration(std::uint64_t frames, std::uint32_t sampleRate)
@@ -32,17 +33,18 @@ std::wstring FormatDuration(std::uint64_t frames, std::uint32_t sampleRate)
     return sampleRate == 0 ? L"-" : FormatMilliseconds(DurationMilliseconds(frames, sampleRate));
 }
 
-std::wstring FormatLevel(double decibels)
+std::wstring PlainLevel(double decibels)
 {
-    if (std::isinf(decibels) && decibels < 0.0)
-    {
-        return L"-\u221E";
-    }
     auto const tenths = std::round(decibels * 10.0);
     wchar_t text[64];
     // Adding zero turns a negative zero into a plain one.
     std::swprintf(text, std::size(text), L"%.1f", tenths / 10.0 + 0.0);
     return text;
+}
+
+std::wstring FormatLevel(double decibels)
+{
+    return WithSigns(std::isinf(decibels) && decibels < 0.0 ? L"-\u221E" : PlainLevel(decibels));
 }
 
 std::wstring FormatDifference(double decibels, double reference)
@@ -51,12 +53,12 @@ std::wstring FormatDifference(double decibels, double reference)
     {
         return L"-";
     }
-    auto text = FormatLevel(decibels - reference);
+    auto text = PlainLevel(decibels - reference);
     if (text.front() != L'-' && text != L"0.0")
     {
         text.insert(text.begin(), L'+');
     }
-    return text + L" dB";
+    return WithSigns(text) + L" dB";
 }
 
 std::wstring FormatCrestFactor(Levels const & levels)
@@ -89,17 +91,12 @@ std::wstring FormatPercent(std::optional<double> part)
     int const before = percent >= 1.0 ? static_cast<int>(std::log10(percent)) + 1 : 0;
     wchar_t text[64];
     std::swprintf(text, std::size(text), L"%.*f", percent < 0.1 ? 4 : std::max(3 - before, 0), percent);
-    return text;
+    return WithSigns(text, true);
 }
 
 std::wstring FormatThousands(std::uint64_t number)
 {
-    auto text = std::to_wstring(number);
-    for (auto i = static_cast<int>(text.size()) - 3; i > 0; i -= 3)
-    {
-        text.insert(static_cast<std::size_t>(i), 1, L',');
-    }
-    return text;
+    return WithSigns(std::to_wstring(number), true);
 }
 
 std::wstring FormatSampleRate(std::uint32_t sampleRate)

@@ -1,5 +1,5 @@
 #pragma once
-// Numbers as the workbench shows them.
+// Numbers as the workbench shows them, with the present signs (NumberSigns.h); what is said here is so with a point.
 
 #include <cstdint>
 #include <optional>
@@ -18,6 +18,9 @@ std::uint64_t DurationMilliseconds(std::uint64_t frames, std::uint32_t sampleRat
 
 /// Milliseconds as "m:ss.mmm"; hours are shown as minutes.
 std::wstring FormatMilliseconds(std::uint64_t milliseconds);
+
+/// A finite level with one decimal and a point, whatever the present signs are.
+std::wstring PlainLevel(double decibels);
 
 /// A level in dBFS with one decimal; minus infinity as the sign with the symbol. Never a negative zero.
 std::wstring FormatLevel(double decibels);
@@ -38,7 +41,7 @@ std::wstring FormatPercent(std::optional<double> part);
 /// What one level lies above another, as "+2.1 dB", "-0.4 dB" or "0.0 dB". "-" if one of them is silence.
 std::wstring FormatDifference(double decibels, double reference);
 
-/// A number with commas between its thousands: "1,234,567".
+/// A number in groups: "1,234,567".
 std::wstring FormatThousands(std::uint64_t number);
 
 /// A sample rate as "48,000 Hz".

@@ -97,6 +97,7 @@ constexpr Entry all_entries[] = {
     {L"Frequency (Hz)", L"Frequenz (Hz)", L"Frecuencia (Hz)"},
     {L"Distortion (%)", L"Klirrfaktor (%)", L"Distorsión (%)"},
     {L"Not rated", L"Ohne", L"Sin valorar"},
+    {L"(all)", L"(alle)", L"(todas)"},
     {L"Good", L"Gut", L"Buena"},
     {L"Usable", L"Brauchbar", L"Utilizable"},
     {L"Rejected", L"Verworfen", L"Descartada"},
@@ -198,6 +199,7 @@ constexpr Entry all_entries[] = {
     {L"R&ename...\tShift+F2", L"&Umbenennen...\tUmschalt+F2", L"Cambiar nom&bre...\tMayús+F2"},
     {L"Move to tras&h...\tDel", L"In &den Papierkorb...\tEntf", L"&Enviar a la papelera...\tSupr"},
     {L"&Show in file manager", L"Im Dateimana&ger zeigen", L"Mo&strar en el explorador"},
+    {L"Moving recordings to the trash", L"Aufnahmen kommen in den Papierkorb", L"Enviando grabaciones a la papelera"},
     {L"Replace this file?", L"Diese Datei ersetzen?", L"¿Reemplazar este archivo?"},
     {L"Type the whole path of the file, or choose one.",
      L"Geben Sie den ganzen Pfad der Datei ein, oder wählen Sie eine.",
@@ -260,6 +262,13 @@ constexpr Entry all_entries[] = {
     {L"Windows that are open already keep their language until they are opened again.",
      L"Fenster, die schon offen sind, behalten ihre Sprache, bis sie wieder geöffnet werden.",
      L"Las ventanas ya abiertas conservan su idioma hasta que se vuelvan a abrir."},
+    {L"There is no printer.", L"Es gibt keinen Drucker.", L"No hay ninguna impresora."},
+    {L"The page could not be printed.", L"Die Seite ließ sich nicht drucken.", L"No se pudo imprimir la página."},
+    // Help.
+    {L"Help", L"Hilfe", L"Ayuda"},
+    {L"About", L"Info", L"Acerca de"},
+    {L"Version", L"Version", L"Versión"},
+    {L"Built with", L"Gebaut mit", L"Construido con"},
     {L"Choose one of the languages in the list.", L"Wählen Sie eine der Sprachen in der Liste.",
      L"Elija uno de los idiomas de la lista."},
 };
@@ -308,6 +317,11 @@ Language LanguageOf(unsigned short languageId)
 void SetLanguage(Language language)
 {
     s_language = language;
+}
+
+Language PresentLanguage()
+{
+    return s_language;
 }
 
 wchar_t const * Text(wchar_t const * english)

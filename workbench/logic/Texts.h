@@ -36,6 +36,9 @@ Language LanguageOf(unsigned short languageId);
 /// The language of the texts that are asked for from now on; English at first. May be called from any thread.
 void SetLanguage(Language language);
 
+/// That language.
+Language PresentLanguage();
+
 /// The text in the present language, or as given where there is none. May be called from any thread; the result
 /// lives as long as the argument or the program.
 wchar_t const * Text(wchar_t const * english);

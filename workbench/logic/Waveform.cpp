@@ -28,6 +28,20 @@ std::vector<MinMax> Halve(std::vector<MinMax> const & buckets)
 
 } // namespace
 
+std::size_t Waveform::Bytes() const
+{
+    std::size_t bytes = 0;
+    for (auto const & levels : m_lanes)
+    {
+        bytes += sizeof levels;
+        for (auto const & level : levels)
+        {
+            bytes += sizeof level + level.capacity() * sizeof(MinMax);
+        }
+    }
+    return bytes;
+}
+
 MinMax Waveform::Range(std::size_t lane, std::uint64_t first, std::uint64_t end) const
 {
     if (lane >= m_lanes.size() || first >= m_frames)
@@ -131,6 +145,7 @@ Waveform WaveformBuilder::Finish()
     {
         auto & levels = waveform.m_lanes.emplace_back();
         levels.push_back(std::move(buckets));
+        levels.back().shrink_to_fit();
         while (levels.back().size() > 1)
         {
             levels.push_back(Halve(levels.back()));

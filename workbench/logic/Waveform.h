@@ -37,6 +37,9 @@ public:
     /// The frames of one bucket. Stretches are widened to whole buckets; 1 means that they are exact.
     std::uint64_t FramesPerBucket() const { return m_framesPerBucket; }
 
+    /// The memory that its buckets take.
+    std::size_t Bytes() const;
+
     /// Least and greatest sample of the frames from `first` up to and without `end`, widened to whole buckets. An
     /// empty stretch is taken as the one frame at `first`. Zeros for a lane or frames that do not exist.
     MinMax Range(std::size_t lane, std::uint64_t first, std::uint64_t end) const;
@@ -68,7 +71,7 @@ public:
     /// Channels beyond this many get no lane.
     static constexpr std::size_t maximum_lanes = 32;
 
-    /// The most buckets of a lane that is kept for each recording; even.
+    /// The most buckets of a lane, where nothing else is said; even.
     static constexpr std::size_t maximum_buckets = 32768;
 
     /// A builder for frames of so many channels, at least 1. The most buckets of a lane are even, at least 2.

@@ -1,6 +1,7 @@
 #include "logic/WaveformDetail.h"
 
 #include <algorithm>
+#include <cmath>
 #include <exception>
 #include <utility>
 
@@ -87,6 +88,54 @@ std::vector<std::vector<MinMax>> WaveformDetail::Columns(FrameRange const & want
     return from(m_done && m_finer.Lanes() == overview.Lanes() ? m_finer : overview);
 }
 
+/// Opens the file unless it is open. A failure is remembered.
+bool WaveformDetail::OpenFile()
+{
+    if (!m_reader && !m_unreadable)
+    {
+        m_reader = OpenSame(m_path, m_analysis->info);
+    }
+    m_unreadable = !m_reader;
+    return !m_unreadable;
+}
+
+double WaveformDetail::Amplitude(FrameRange const & wanted)
+{
+    auto const & info = m_analysis->info;
+    FrameRange const range{std::min(wanted.first, info.frames), std::min(wanted.end, info.frames)};
+    Waveform const & overview = m_analysis->waveform;
+    auto amplitude = 0.0;
+    try
+    {
+        // Nothing of what is kept for pictures goes for it.
+        if (!range.IsEmpty() && range.Length() <= most_read && overview.FramesPerBucket() > 1 && OpenFile())
+        {
+            std::vector<double> samples(static_cast<std::size_t>(range.Length()) * info.channels);
+            m_reader->Seek(range.first);
+            if (m_reader->ReadFrames(samples) == range.Length())
+            {
+                for (std::size_t i = 0; i < samples.size(); ++i)
+                {
+                    auto const isShown = i % info.channels < overview.Lanes();
+                    amplitude = std::max(amplitude, isShown ? std::fabs(samples[i]) : 0.0);
+                }
+                return amplitude;
+            }
+        }
+    }
+    catch (std::exception const &)
+    {
+        m_unreadable = true;
+    }
+    for (std::size_t lane = 0; lane < overview.Lanes() && !range.IsEmpty(); ++lane)
+    {
+        auto const found = overview.Range(lane, range.first, range.end);
+        amplitude = std::max(
+            {amplitude, std::fabs(static_cast<double>(found.least)), std::fabs(static_cast<double>(found.greatest))});
+    }
+    return amplitude;
+}
+
 /// Reads a stretch, and as much before and behind it, so that scrolling does not read again at each step.
 bool WaveformDetail::Read(FrameRange const & range)
 {
@@ -97,13 +146,8 @@ bool WaveformDetail::Read(FrameRange const & range)
     try
     {
         auto const & info = m_analysis->info;
-        if (!m_reader)
+        if (!OpenFile())
         {
-            m_reader = OpenSame(m_path, info);
-        }
-        if (!m_reader)
-        {
-            m_unreadable = true;
             return false;
         }
         std::uint64_t const around = std::min(range.Length(), most_read / 2);

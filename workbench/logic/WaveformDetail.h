@@ -44,6 +44,9 @@ public:
     /// least. The first call that needs the finer overview starts it.
     std::vector<std::vector<MinMax>> Columns(FrameRange const & wanted, std::size_t width);
 
+    /// The greatest amplitude of all lanes in a short stretch, exactly where the file can be read; 0 for an empty one.
+    double Amplitude(FrameRange const & wanted);
+
     /// Whether the finer overview is being made.
     bool IsRefining() const { return m_thread.joinable() && !m_done; }
 
@@ -59,6 +62,7 @@ private:
     };
 
     void Refine();
+    bool OpenFile();
     bool Read(FrameRange const & range);
     std::vector<std::vector<MinMax>> FromBlock(FrameRange const & range, std::size_t width) const;
 

@@ -50,7 +50,7 @@ protected:
     }
     std::vector<std::wstring> WindowMenu()
     {
-        auto & menu = *m_window->GetMenu()->GetSubMenu(static_cast<int>(m_window->GetMenu()->GetMenuItemCount()) - 1);
+        auto & menu = *m_window->GetMenu()->GetSubMenu(static_cast<int>(m_window->GetMenu()->GetMenuItemCount()) - 2);
         std::vector<std::wstring> items;
         for (UINT i = 0; i < menu.GetMenuItemCount(); ++i)
         {

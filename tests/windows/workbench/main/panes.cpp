@@ -89,7 +89,7 @@ TEST_F(WorkbenchPanes, AreHiddenAndBroughtBackByMenuAndKeys)
     EXPECT_FALSE(m_window->Waveform().IsWindowVisible());
     EXPECT_GT(PlaceOf(m_window->List()).Height(), list.Height());
     auto const bar = m_window->GetMenu();
-    auto const & menu = *bar->GetSubMenu(static_cast<int>(bar->GetMenuItemCount()) - 1);
+    auto const & menu = *bar->GetSubMenu(static_cast<int>(bar->GetMenuItemCount()) - 2);
     CString text;
     menu.GetMenuString(1, text, MF_BYPOSITION);
     EXPECT_EQ(text, L"Waveform\tCtrl+2");

@@ -1,0 +1,119 @@
+#include "HelpDialog.h"
+
+#include "resource.h"
+
+using workbench::HelpTopic;
+using workbench::Text;
+
+namespace
+{
+
+// In dialog units: where what a key does begins.
+constexpr int key_room = 90;
+CSize const preferred_size(420, 260);
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(CHelpDialog, CWorkbenchDialog)
+    ON_LBN_SELCHANGE(IDC_HELP_TOPICS, &CHelpDialog::OnTopicChosen)
+END_MESSAGE_MAP()
+
+CHelpDialog::CHelpDialog(CWnd & owner) : CWorkbenchDialog(IDD_HELP, L"Help", owner) {}
+
+bool CHelpDialog::Show(HelpTopic topic)
+{
+    m_topic = topic;
+    if (auto const active = ::GetActiveWindow(); active != m_hWnd)
+    {
+        m_former = active;
+    }
+    if (IsOpen())
+    {
+        EnableWindow(TRUE); // a modal dialog that has opened since is no reason to keep the help back
+        Fill();
+    }
+    return Open(Text(L"Help"));
+}
+
+void CHelpDialog::ShowTexts()
+{
+    if (IsOpen())
+    {
+        SetWindowText(Text(L"Help"));
+        Fill();
+    }
+}
+
+void CHelpDialog::DoDataExchange(CDataExchange * exchange)
+{
+    CWorkbenchDialog::DoDataExchange(exchange);
+    DDX_Control(exchange, IDC_HELP_TOPICS, m_topics);
+    DDX_Control(exchange, IDC_HELP_PAGE, m_page);
+}
+
+BOOL CHelpDialog::OnInitDialog()
+{
+    CWorkbenchDialog::OnInitDialog();
+    Fill();
+    D3dLayoutChild(IDC_HELP_TOPICS, CEdges::TOP_LEFT_BOTTOM(), nullptr);
+    D3dLayoutChild(IDC_HELP_PAGE, CEdges::TOP_LEFT_BOTTOM_RIGHT(), nullptr);
+    D3dLayoutChild(IDCANCEL, CEdges::BOTTOM_RIGHT(), nullptr);
+    D3dLayoutComplete(CDialogResizer::RESIZE_BOTH);
+    Enlarge(preferred_size);
+    m_topics.SetFocus();
+    return FALSE;
+}
+
+void CHelpDialog::Fill()
+{
+    m_topics.ResetContent();
+    for (auto topic = 0; topic < workbench::help_topic_count; ++topic)
+    {
+        m_topics.AddString(HelpPageOf(static_cast<HelpTopic>(topic), workbench::PresentLanguage()).title);
+    }
+    m_topics.SetCurSel(static_cast<int>(m_topic));
+    ShowPage();
+}
+
+std::wstring CHelpDialog::PageText() const
+{
+    auto const language = workbench::PresentLanguage();
+    if (m_topic == HelpTopic::keys)
+    {
+        return KeysPage(m_menus ? m_menus() : std::vector<workbench::MenuTexts>(), language);
+    }
+    return HelpPageOf(m_topic, language).text;
+}
+
+void CHelpDialog::ShowPage()
+{
+    // Lines end as edit fields have it. Paragraphs without a table stand apart.
+    auto const paragraphs = PageText();
+    auto const isTable = paragraphs.find(L'\t') != std::wstring::npos;
+    std::wstring text;
+    for (auto const character : paragraphs)
+    {
+        text += character == L'\n' ? (isTable ? L"\r\n" : L"\r\n\r\n") : std::wstring(1, character);
+    }
+    m_page.SetTabStops(key_room);
+    m_page.SetWindowText(text.c_str());
+}
+
+void CHelpDialog::OnTopicChosen()
+{
+    if (auto const chosen = m_topics.GetCurSel(); chosen >= 0)
+    {
+        m_topic = static_cast<HelpTopic>(chosen);
+        ShowPage();
+    }
+}
+
+void CHelpDialog::OnCancel()
+{
+    auto const former = m_former;
+    CWorkbenchDialog::OnCancel();
+    if (::IsWindow(former) && ::IsWindowEnabled(former) && ::IsWindowVisible(former))
+    {
+        ::SetActiveWindow(former);
+    }
+}
