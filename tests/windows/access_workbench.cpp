@@ -8,11 +8,9 @@
 #include <string>
 #include <vector>
 
-using access_tests::ActionOf;
 using access_tests::Ask;
 using access_tests::CountOf;
 using access_tests::Held;
-using access_tests::NameOf;
 using access_tests::Number;
 using access_tests::RoleOf;
 using access_tests::StatesOf;
