@@ -13,7 +13,7 @@ namespace
 {
 
 // More often nobody could see it, and whoever is told has something to do each time.
-constexpr std::chrono::milliseconds tell_interval(40);
+constexpr std::chrono::milliseconds tell_interval(100);
 
 using Clock = std::chrono::steady_clock;
 
