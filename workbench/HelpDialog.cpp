@@ -87,13 +87,24 @@ std::wstring CHelpDialog::PageText() const
 
 void CHelpDialog::ShowPage()
 {
-    // Lines end as edit fields have it. Paragraphs without a table stand apart.
-    auto const paragraphs = PageText();
-    auto const isTable = paragraphs.find(L'\t') != std::wstring::npos;
+    // Lines end as edit fields have it. Keys are a table; elsewhere paragraphs stand apart, and what is explained above
+    // its explanation.
+    auto const isTable = m_topic == HelpTopic::keys;
     std::wstring text;
-    for (auto const character : paragraphs)
+    for (auto const character : PageText())
     {
-        text += character == L'\n' ? (isTable ? L"\r\n" : L"\r\n\r\n") : std::wstring(1, character);
+        switch (character)
+        {
+        case L'\n':
+            text += isTable ? L"\r\n" : L"\r\n\r\n";
+            break;
+        case L'\t':
+            text += isTable ? L"\t" : L"\r\n";
+            break;
+        default:
+            text += character;
+            break;
+        }
     }
     m_page.SetTabStops(key_room);
     m_page.SetWindowText(text.c_str());

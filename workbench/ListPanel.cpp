@@ -198,6 +198,8 @@ void CListPanel::Arrange()
         m_kind.MoveWindow(right + gap, top, kind, m_metrics->Y(list_height));
     }
     m_list->MoveWindow(0, strip, client.Width(), std::max<int>(client.Height() - strip, 0));
+    // Its titles move along with it and may keep what was below them.
+    m_list->RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
 }
 
 void CListPanel::OnSize(UINT type, int width, int height)

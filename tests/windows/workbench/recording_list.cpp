@@ -295,8 +295,8 @@ TEST_F(RecordingListTest, CtrlCCopiesTheSelectedLinesInTheirOrderAsTextAndHtml)
     ASSERT_TRUE(tests::PumpUntil([] { return Has(CF_UNICODETEXT) && Has(HtmlFormat()); }));
     EXPECT_EQ(WideText(), L"Name\tRef.\tDuration\tChannels\tRate (Hz)\tPeak (dBFS)\tRMS (dBFS)\tDate\tRating\tComment\t"
                           L"Status\r\n"
-                          L"b.wav\t\t0:03.000\t1\t1000\t-6.0\t-9.0\t\tNot rated\t\tOK\r\n"
-                          L"d.wav\tx\t0:10.000\t1\t1000\t-6.2\t-9.2\t\tNot rated\t\tOK\r\n");
+                          L"b.wav\t\t0:03.000\t1\t1,000\t-6.0\t-9.0\t\tNot rated\t\tOK\r\n"
+                          L"d.wav\tx\t0:10.000\t1\t1,000\t-6.2\t-9.2\t\tNot rated\t\tOK\r\n");
     std::vector<char> const bytes = Bytes(HtmlFormat());
     std::string const html(bytes.data(), ::strnlen(bytes.data(), bytes.size()));
     EXPECT_NE(html.find("<td align=\"left\">b.wav</td>"), std::string::npos);
@@ -427,7 +427,7 @@ TEST_F(RecordingListTest, ARateBeyondTheLargestIntShowsAsItself)
     auto analysis = std::make_shared<RecordingAnalysis>(*AnalysisOf(recordings[0]));
     analysis->info.sampleRate = 4'294'967'295;
     m_list.ShowAnalysis(1, analysis);
-    EXPECT_EQ(m_list.GetItemText(1, CRecordingList::column_rate).Trim(), L"4294967295");
+    EXPECT_EQ(m_list.GetItemText(1, CRecordingList::column_rate).Trim(), L"4,294,967,295");
     // It is the greatest of all.
     m_list.SortLines(CRecordingList::column_rate, false);
     EXPECT_EQ(m_list.LineAt(0), 1);
