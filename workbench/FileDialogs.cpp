@@ -14,6 +14,19 @@ namespace
 // Enough for some hundreds of names; a larger choice is refused by the dialog.
 constexpr DWORD names_length = 65536;
 
+std::optional<std::filesystem::path> ChooseFileToWrite(CWnd & owner, wchar_t const * title, wchar_t const * extension,
+                                                       std::wstring const & name, wchar_t const * kinds)
+{
+    CFileDialog dialog(FALSE, extension, name.c_str(),
+                       OFN_OVERWRITEPROMPT | OFN_HIDEREADONLY | OFN_PATHMUSTEXIST | OFN_NOCHANGEDIR, kinds, &owner);
+    dialog.GetOFN().lpstrTitle = title;
+    if (dialog.DoModal() != IDOK)
+    {
+        return std::nullopt;
+    }
+    return std::filesystem::path(dialog.GetPathName().GetString());
+}
+
 } // namespace
 
 std::vector<std::filesystem::path> ChooseFiles(CWnd & owner)
@@ -37,14 +50,12 @@ std::vector<std::filesystem::path> ChooseFiles(CWnd & owner)
 
 std::optional<std::filesystem::path> ChoosePictureFile(CWnd & owner, std::wstring const & name)
 {
-    CFileDialog dialog(FALSE, L"png", name.c_str(), OFN_OVERWRITEPROMPT | OFN_HIDEREADONLY | OFN_PATHMUSTEXIST,
-                       Text(L"Pictures (*.png)|*.png||"), &owner);
-    dialog.GetOFN().lpstrTitle = Text(L"Save Picture");
-    if (dialog.DoModal() != IDOK)
-    {
-        return std::nullopt;
-    }
-    return std::filesystem::path(dialog.GetPathName().GetString());
+    return ChooseFileToWrite(owner, Text(L"Save Picture"), L"png", name, Text(L"Pictures (*.png)|*.png||"));
+}
+
+std::optional<std::filesystem::path> ChooseReportFile(CWnd & owner)
+{
+    return ChooseFileToWrite(owner, Text(L"Save Report"), L"html", {}, Text(L"Web page (*.html)|*.html||"));
 }
 
 std::optional<std::filesystem::path> ChooseFolder(CWnd & owner, wchar_t const * title)

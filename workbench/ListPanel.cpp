@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <vector>
 
 #include "logic/Texts.h"
 #include "resource.h"
@@ -16,27 +17,29 @@ namespace
 constexpr int strip_height = 17;
 constexpr int field_height = 13;
 constexpr int label_width = 34;
-constexpr int kind_width = 84;
+constexpr int check_room = 14; // of a check box beside its text
+constexpr int choice_width = 66;
 constexpr int part_gap = 4;
-constexpr int list_height = 120; // of the kinds
-
-struct Kind
-{
-    wchar_t const * name;
-    workbench::RecordingFilter filter;
-};
+constexpr int list_height = 120; // of the choices
 
 using State = workbench::RecordingFilter::State;
 
-Kind const kinds[] = {{Translatable(L"All"), {}},
-                      {Translatable(L"Marked"), {{}, true, {}, State::any}},
-                      {Translatable(L"Not rated"), {{}, false, 0, State::any}},
-                      {Translatable(L"Good"), {{}, false, 1, State::any}},
-                      {Translatable(L"Usable"), {{}, false, 2, State::any}},
-                      {Translatable(L"Rejected"), {{}, false, 3, State::any}},
-                      {Translatable(L"Undamaged"), {{}, false, {}, State::sound}},
-                      {Translatable(L"Damaged"), {{}, false, {}, State::damaged}},
-                      {Translatable(L"Not readable"), {{}, false, {}, State::unreadable}}};
+// The choices by their places; the first one lets all through.
+constexpr wchar_t const * states[] = {Translatable(L"Any status"), Translatable(L"Undamaged"), Translatable(L"Damaged"),
+                                      Translatable(L"Not readable")};
+constexpr State state_values[] = {State::any, State::sound, State::damaged, State::unreadable};
+
+/// Fills a choice anew and keeps what is chosen.
+void Fill(CComboBox & choice, std::vector<wchar_t const *> const & texts)
+{
+    auto const chosen = std::max(choice.GetCurSel(), 0);
+    choice.ResetContent();
+    for (auto const * const text : texts)
+    {
+        choice.AddString(text);
+    }
+    choice.SetCurSel(chosen);
+}
 
 } // namespace
 
@@ -44,7 +47,9 @@ BEGIN_MESSAGE_MAP(CListPanel, CWnd)
     ON_WM_SIZE()
     ON_WM_SETFOCUS()
     ON_EN_CHANGE(IDC_FILTER_WORDS, &CListPanel::OnFilterChange)
-    ON_CBN_SELCHANGE(IDC_FILTER_KIND, &CListPanel::OnFilterChange)
+    ON_BN_CLICKED(IDC_FILTER_MARKED, &CListPanel::OnFilterChange)
+    ON_CBN_SELCHANGE(IDC_FILTER_RATING, &CListPanel::OnFilterChange)
+    ON_CBN_SELCHANGE(IDC_FILTER_STATE, &CListPanel::OnFilterChange)
 END_MESSAGE_MAP()
 
 bool CListPanel::CreatePanel(CWnd & parent, UINT id, UINT listId, workbench::ScreenMetrics & metrics,
@@ -54,18 +59,20 @@ bool CListPanel::CreatePanel(CWnd & parent, UINT id, UINT listId, workbench::Scr
     m_list = &list;
     auto const windowClass =
         AfxRegisterWndClass(0, ::LoadCursorW(nullptr, IDC_ARROW), reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1));
+    constexpr DWORD choice_style = WS_CHILD | WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWNLIST;
     // The list comes first, so that it has the focus of the whole.
     if (!CreateEx(WS_EX_CONTROLPARENT, windowClass, L"", WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN, CRect(), &parent,
                   id) ||
         !list.CreateList(*this, listId, metrics) || !m_label.Create(L"", WS_CHILD | SS_CENTERIMAGE, CRect(), this) ||
         !m_words.CreateEx(WS_EX_CLIENTEDGE, L"EDIT", L"", WS_CHILD | WS_TABSTOP | ES_AUTOHSCROLL, CRect(), this,
                           IDC_FILTER_WORDS) ||
-        !m_kind.Create(WS_CHILD | WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWNLIST, CRect(), this, IDC_FILTER_KIND))
+        !m_marked.Create(L"", WS_CHILD | WS_TABSTOP | BS_AUTOCHECKBOX, CRect(), this, IDC_FILTER_MARKED) ||
+        !m_rating.Create(choice_style, CRect(), this, IDC_FILTER_RATING) ||
+        !m_state.Create(choice_style, CRect(), this, IDC_FILTER_STATE))
     {
         return false;
     }
-    for (auto * const window :
-         {static_cast<CWnd *>(&m_label), static_cast<CWnd *>(&m_words), static_cast<CWnd *>(&m_kind)})
+    for (auto * const window : Parts())
     {
         window->SetFont(&metrics.Font());
     }
@@ -76,13 +83,23 @@ bool CListPanel::CreatePanel(CWnd & parent, UINT id, UINT listId, workbench::Scr
 void CListPanel::ShowTexts()
 {
     m_label.SetWindowText(Text(L"Filter:"));
-    auto const chosen = std::max(m_kind.GetCurSel(), 0);
-    m_kind.ResetContent();
-    for (auto const & kind : kinds)
+    m_marked.SetWindowText(Text(L"Marked"));
+    std::vector<wchar_t const *> ratings{Text(L"Any rating")};
+    for (auto rating = 0; *CRecordingList::RatingName(rating) != L'\0'; ++rating)
     {
-        m_kind.AddString(Text(kind.name));
+        ratings.push_back(CRecordingList::RatingName(rating));
     }
-    m_kind.SetCurSel(chosen);
+    Fill(m_rating, ratings);
+    std::vector<wchar_t const *> stateTexts;
+    std::ranges::transform(states, std::back_inserter(stateTexts), Text);
+    Fill(m_state, stateTexts);
+    Arrange();
+}
+
+/// The parts of the strip from left to right.
+std::array<CWnd *, 5> CListPanel::Parts()
+{
+    return {&m_label, &m_words, &m_marked, &m_rating, &m_state};
 }
 
 void CListPanel::ShowFilter(bool show)
@@ -91,19 +108,20 @@ void CListPanel::ShowFilter(bool show)
     {
         // The list takes the focus while the field that has it still shows.
         auto const * const focus = GetFocus();
-        if (focus == &m_words || focus == &m_kind)
+        if (std::ranges::any_of(Parts(), [focus](auto const * part) { return part == focus; }))
         {
             m_list->SetFocus();
         }
-        m_kind.SetCurSel(0);
+        m_marked.SetCheck(BST_UNCHECKED);
+        m_rating.SetCurSel(0);
+        m_state.SetCurSel(0);
         m_words.SetWindowText(CString());
         OnFilterChange();
     }
     if (show != m_showsFilter)
     {
         m_showsFilter = show;
-        for (auto * const window :
-             {static_cast<CWnd *>(&m_label), static_cast<CWnd *>(&m_words), static_cast<CWnd *>(&m_kind)})
+        for (auto * const window : Parts())
         {
             window->ShowWindow(show ? SW_SHOWNA : SW_HIDE);
         }
@@ -118,8 +136,13 @@ void CListPanel::ShowFilter(bool show)
 
 void CListPanel::OnFilterChange()
 {
-    auto const kind = static_cast<std::size_t>(std::max(m_kind.GetCurSel(), 0));
-    auto filter = kinds[std::min(kind, std::size(kinds) - 1)].filter;
+    workbench::RecordingFilter filter;
+    filter.marked = m_marked.GetCheck() == BST_CHECKED;
+    if (auto const rating = m_rating.GetCurSel(); rating > 0)
+    {
+        filter.rating = rating - 1;
+    }
+    filter.state = state_values[std::clamp(m_state.GetCurSel(), 0, static_cast<int>(std::size(state_values)) - 1)];
     CString words;
     m_words.GetWindowText(words);
     filter.words = words.GetString();
@@ -139,20 +162,21 @@ void CListPanel::OnFilterChange()
 BOOL CListPanel::PreTranslateMessage(MSG * message)
 {
     auto const inWords = message->hwnd == m_words.m_hWnd;
-    auto const inStrip = m_showsFilter && (inWords || message->hwnd == m_kind.m_hWnd);
+    auto const isAt = [message](CWnd const & part) { return message->hwnd == part.m_hWnd; };
+    auto const inStrip = m_showsFilter && std::ranges::any_of(Parts(), [&](auto const * part) { return isAt(*part); });
+    auto const drops = (isAt(m_rating) && m_rating.GetDroppedState()) || (isAt(m_state) && m_state.GetDroppedState());
     if (message->message != WM_KEYDOWN || ::GetKeyState(VK_MENU) < 0 || m_metrics == nullptr)
     {
         return CWnd::PreTranslateMessage(message);
     }
     auto const key = message->wParam;
     auto const control = ::GetKeyState(VK_CONTROL) < 0;
-    if (key == VK_ESCAPE && !control && m_showsFilter && !m_list->IsEditing() &&
-        !(m_kind.m_hWnd == message->hwnd && m_kind.GetDroppedState()))
+    if (key == VK_ESCAPE && !control && m_showsFilter && !m_list->IsEditing() && !drops)
     {
         ShowFilter(false);
         return TRUE;
     }
-    if (inStrip && !control && (key == VK_RETURN || (inWords && (key == VK_DOWN || key == VK_NEXT))))
+    if (inStrip && !control && !drops && (key == VK_RETURN || (inWords && (key == VK_DOWN || key == VK_NEXT))))
     {
         m_list->SetFocus();
         if (m_list->ChosenLine() < 0)
@@ -189,13 +213,19 @@ void CListPanel::Arrange()
         auto const high = m_metrics->Y(field_height);
         auto const top = (strip - high) / 2;
         auto const gap = m_metrics->X(part_gap);
-        auto const label = std::min<int>(m_metrics->X(label_width), client.Width() / 4);
-        auto const kind = std::min<int>(m_metrics->X(kind_width), client.Width() / 3);
-        auto const right = std::max<int>(client.right - kind - gap, label);
+        auto const label = std::min<int>(m_metrics->X(label_width), client.Width() / 6);
+        auto const choice = std::min<int>(m_metrics->X(choice_width), client.Width() / 5);
+        CClientDC dc(&m_marked);
+        workbench::SelectScope const font(dc, m_metrics->Font());
+        auto const check =
+            std::min<int>(dc.GetTextExtent(Text(L"Marked")).cx + m_metrics->X(check_room), client.Width() / 5);
+        auto const right = std::max<int>(client.right - check - 2 * choice - 3 * gap, label);
         m_label.MoveWindow(gap, top, std::max(label - gap, 0), high);
         m_words.MoveWindow(label, top, right - label, high);
+        m_marked.MoveWindow(right + gap, top, check, high);
         // A drop-down list's own height is its font's; the rest is its list's.
-        m_kind.MoveWindow(right + gap, top, kind, m_metrics->Y(list_height));
+        m_rating.MoveWindow(right + check + 2 * gap, top, choice, m_metrics->Y(list_height));
+        m_state.MoveWindow(right + check + choice + 3 * gap, top, choice, m_metrics->Y(list_height));
     }
     m_list->MoveWindow(0, strip, client.Width(), std::max<int>(client.Height() - strip, 0));
     // Its titles move along with it and may keep what was below them.

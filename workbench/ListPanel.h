@@ -2,12 +2,14 @@
 
 #include <afxwin.h>
 
+#include <array>
 #include <functional>
 
 #include "RecordingList.h"
 #include "ScreenMetrics.h"
 
-/// The list of recordings with the strip above it by which it is filtered, which shows only while it is used.
+/// The list of recordings with the strip above it by which it is filtered, which shows only while it is used: words, and
+/// choices that a recording must fit as well.
 class CListPanel : public CWnd
 {
 public:
@@ -35,11 +37,14 @@ private:
     afx_msg void OnFilterChange();
 
     void Arrange();
+    std::array<CWnd *, 5> Parts();
 
     workbench::ScreenMetrics * m_metrics = nullptr;
     CRecordingList * m_list = nullptr;
     bool m_showsFilter = false;
     CStatic m_label;
     CEdit m_words;
-    CComboBox m_kind; ///< what a recording must be beside having the words
+    CButton m_marked;
+    CComboBox m_rating;
+    CComboBox m_state;
 };

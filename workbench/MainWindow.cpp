@@ -65,6 +65,7 @@ BEGIN_MESSAGE_MAP(CMainWindow, CMDIFrameWndEx)
     ON_WM_INITMENUPOPUP()
     ON_COMMAND(ID_OPEN_FILES, &CMainWindow::OnOpenFiles)
     ON_COMMAND(ID_OPEN_FOLDER, &CMainWindow::OnOpenFolder)
+    ON_COMMAND_RANGE(ID_RECENT_FIRST, ID_RECENT_LAST, &CMainWindow::OnOpenRecent)
     ON_COMMAND(ID_RELOAD, &CMainWindow::OnReload)
     ON_COMMAND(ID_CLOSE_WORKBENCH, &CMainWindow::OnCloseCommand)
     ON_COMMAND(ID_SHOW_SETTINGS, &CMainWindow::OnShowSettings)
@@ -88,6 +89,8 @@ BEGIN_MESSAGE_MAP(CMainWindow, CMDIFrameWndEx)
     ON_COMMAND_RANGE(ID_DYNAMIC_FIRST, ID_DYNAMIC_LAST, &CMainWindow::OnDynamicCommand)
     ON_COMMAND(ID_CHOOSE_COLUMNS, &CMainWindow::OnChooseColumns)
     ON_COMMAND(ID_EXPORT_LIST, &CMainWindow::OnExportList)
+    ON_COMMAND_RANGE(ID_MOVE_UP, ID_MOVE_DOWN, &CMainWindow::OnMove)
+    ON_COMMAND(ID_WRITE_REPORT, &CMainWindow::OnWriteReport)
     ON_COMMAND_RANGE(ID_AMPLIFY, ID_AMPLIFY_FIT, &CMainWindow::OnAmplify)
     ON_COMMAND(ID_CLOSE_DIALOGS, &CMainWindow::OnCloseDialogs)
     ON_COMMAND_RANGE(ID_DIALOG_FIRST, ID_DIALOG_LAST, &CMainWindow::OnDialogChosen)
@@ -117,6 +120,7 @@ BEGIN_MESSAGE_MAP(CMainWindow, CMDIFrameWndEx)
     ON_MESSAGE(message_notes_turned, &CMainWindow::OnNotesTurned)
     ON_MESSAGE(message_frame_read, &CMainWindow::OnFrameRead)
     ON_MESSAGE(message_frames_changed, &CMainWindow::OnFramesChanged)
+    ON_MESSAGE(message_folder_changed, &CMainWindow::OnFolderChanged)
     ON_MESSAGE(message_recordings_ready, &CMainWindow::OnRecordingsReady)
 END_MESSAGE_MAP()
 
@@ -166,6 +170,7 @@ bool CMainWindow::CreateMainWindow()
     PrepareDialogs();
     PrepareFrames();
     PrepareHelp();
+    PrepareReport();
     PreparePaneMenu();
     auto const comfortable = Arrange();
 
@@ -302,10 +307,12 @@ void CMainWindow::PrepareContents()
         }
     };
     m_list.m_onChanged = [this](unsigned changes) { OnListChanged(changes); };
+    m_list.m_onDragOut = [this](std::vector<int> const & lines) { DragOut(lines); };
     m_list.m_onDelete = [this] { OnDeleteRecordings(); };
     m_listPanel.m_onFiltered = [this] { OnFiltered(); };
     m_list.m_onOpen = [this](int line) { ShowDetails(line); };
     m_list.SetUserWidths(workbench::ReadColumnWidths(m_metrics.AverageWidth()));
+    m_list.SetColumnOrder(workbench::ReadColumnOrder());
     m_status.m_onCancel = [this] { CancelReading(); };
     auto const window = m_hWnd;
     m_queue = std::make_unique<workbench::AnalysisQueue>(
@@ -709,9 +716,13 @@ void CMainWindow::OnDropFiles(HDROP drop)
         files.emplace_back(name);
     }
     ::DragFinish(drop);
+    if (m_isDraggingOut || files.empty())
+    {
+        return;
+    }
     SetForegroundWindow();
     ShowTargets(std::move(files));
-    m_rememberFolders = true;
+    m_rememberOpened = true;
 }
 
 /// Whether a window lies in one of the frames.
@@ -855,8 +866,10 @@ void CMainWindow::OnDestroy()
     m_frames.m_onOpened = nullptr;
     m_playing.m_onMoved = nullptr;
     m_playing.Stop();
+    m_report.Cancel();
     m_frames.Stop();
     m_tree.Stop();
+    m_watch.reset();
     m_search.reset();
     m_queue.reset();
     m_notes.reset();

@@ -20,11 +20,13 @@
 #include "FrameMeasuresPanel.h"
 #include "HelpDialog.h"
 #include "HelpKey.h"
+#include "FolderWatch.h"
 #include "MeasurePanel.h"
 #include "PictureCopy.h"
 #include "Playing.h"
 #include "PreviewDialog.h"
 #include "RecordingList.h"
+#include "ReportWriter.h"
 #include "ScreenMetrics.h"
 #include "SettingsSheet.h"
 #include "SpectrogramView.h"
@@ -58,7 +60,7 @@ public:
     void ShowTargets(std::vector<std::filesystem::path> targets);
 
     /// Whether recordings are still being looked for, listed or read.
-    bool IsBusy() const { return m_search || m_listed < m_found.size() || m_toReread > 0 || m_queued > 0; }
+    bool IsBusy() const { return (m_search && !m_following) || m_listed < m_found.size() || m_toReread > 0 || m_queued > 0; }
 
     /// Gives up looking for recordings, listing and reading them; what is there stays.
     void CancelReading();
@@ -132,6 +134,11 @@ public:
     bool ShowHelp(workbench::HelpTopic topic);
     CHelpDialog & Help() { return m_help; }
 
+    /// Writes a report about the marked recordings, in the order of the list, whether the filter shows them or not. It
+    /// goes on after the call. False if there are none, or the file cannot be written.
+    bool WriteReport(std::filesystem::path const & file);
+    CReportWriter & Report() { return m_report; }
+
     /// Opens the settings, or brings them to the front.
     bool ShowSettings();
     CSettingsSheet & SettingsSheet() { return m_settingsSheet; }
@@ -171,10 +178,13 @@ private:
     static constexpr UINT message_frames_changed = WM_APP + 5;
     /// To the window itself: F1 was pressed in another window.
     static constexpr UINT message_help = WM_APP + 6;
+    /// From the thread that watches folders: something has changed in them.
+    static constexpr UINT message_folder_changed = WM_APP + 7;
 
     static constexpr UINT_PTR work_timer = 1;
     static constexpr UINT_PTR raise_timer = 2;
     static constexpr UINT_PTR view_timer = 3;
+    static constexpr UINT_PTR follow_timer = 4;
 
     afx_msg int OnCreate(LPCREATESTRUCT create);
     afx_msg void OnClose();
@@ -192,9 +202,12 @@ private:
     afx_msg void OnDynamicCommand(UINT id);
     afx_msg void OnChooseColumns();
     afx_msg void OnExportList();
+    afx_msg void OnWriteReport();
+    afx_msg void OnMove(UINT id);
     afx_msg void OnAmplify(UINT id);
     afx_msg void OnOpenFiles();
     afx_msg void OnOpenFolder();
+    afx_msg void OnOpenRecent(UINT id);
     afx_msg void OnReload();
     afx_msg void OnCloseCommand();
     afx_msg void OnShowSettings();
@@ -240,6 +253,7 @@ private:
     afx_msg LRESULT OnNotesTurned(WPARAM, LPARAM);
     afx_msg LRESULT OnFrameRead(WPARAM, LPARAM);
     afx_msg LRESULT OnFramesChanged(WPARAM, LPARAM);
+    afx_msg LRESULT OnFolderChanged(WPARAM, LPARAM);
 
     /// A file in the list.
     struct Recording
@@ -281,6 +295,12 @@ private:
     void PrepareHelp();
     workbench::HelpTopic TopicOf(HWND window) const;
     void CloseOwnedWindows();
+    void PrepareReport();
+    void ShowRecent(CMenu & menu) const;
+    void RememberOpened(std::vector<std::filesystem::path> const & folders,
+                        std::vector<std::filesystem::path> const & missing);
+    void DragOut(std::vector<int> const & lines);
+    std::wstring ReportText() const;
     bool IsInFrames(HWND window) const;
 
     std::array<CWorkbenchDialog *, 3> Dialogs();
@@ -308,6 +328,12 @@ private:
     void StopWork();
     void StartSearch();
     void TakeReload(std::vector<std::filesystem::path> files);
+    void Follow();
+    bool MayFollow() const;
+    void TakeFollowed(workbench::FoundRecordings found);
+    void RenameRecording(int line, std::filesystem::path const & file);
+    void Renumber(std::vector<int> const & numbers);
+    void ArrangeFollowed();
     void ListAnew(std::vector<std::filesystem::path> files);
     std::optional<Order> PresentOrder() const;
     void SortAgain();
@@ -342,6 +368,8 @@ private:
     CWaveformPanel m_waveformPanel;
     CSpectrogramView m_spectrogram;
     CPlaying m_playing;
+    CReportWriter m_report;
+    std::filesystem::path m_reported; ///< the report that has been written last
     std::shared_ptr<workbench::RecordingAnalysis const> m_shown; ///< in both views; null for a text
     std::wstring m_shownText;
     CMeasurePanel m_panel;
@@ -367,7 +395,8 @@ private:
 
     std::vector<std::filesystem::path> m_targets;
     std::vector<std::filesystem::path> m_openedFolders; ///< those of the targets that are folders
-    bool m_rememberFolders = false;                     ///< as opened by the user
+    bool m_rememberOpened = false;                      ///< as opened by the user
+    bool m_isDraggingOut = false;                       ///< files of the list, which are not to be dropped here
     std::vector<std::filesystem::path> m_missing;       ///< those of the targets that do not exist
     std::vector<std::filesystem::path> m_found;         ///< the files to list
     std::size_t m_listed = 0;                           ///< how many of them have been
@@ -389,5 +418,10 @@ private:
     std::optional<workbench::FolderView> m_wantedPart; ///< whose stretch is to be shown with its recording
     std::unique_ptr<workbench::RecordingSearch> m_search;
     std::unique_ptr<workbench::AnalysisQueue> m_queue;
+    std::unique_ptr<workbench::FolderWatch> m_watch;
+    bool m_following = false;   ///< the search is for what has changed
+    bool m_followAgain = false; ///< something has changed since
+    /// The order in which the files would be listed now, until all are; empty while they stand so.
+    std::vector<std::filesystem::path> m_followed;
     LifeSign m_life;
 };

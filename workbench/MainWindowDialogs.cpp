@@ -363,7 +363,6 @@ void CMainWindow::OnRename()
     auto const before = RecordingAt(line)->file;
     CRenameDialog dialog(before, m_settings, *this);
     LifeWatch const life(m_life);
-    auto const generation = m_generation;
     if (dialog.DoModal() != IDOK || life.Over() || m_hWnd == nullptr || dialog.File() == before)
     {
         return;
@@ -375,16 +374,16 @@ void CMainWindow::OnRename()
                       MB_ICONEXCLAMATION);
         return;
     }
-    auto const notes = m_notes->Of(before);
-    m_notes->Set(before, {});
-    m_notes->Set(dialog.File(), notes);
-    if (generation == m_generation)
+    // Other lines may have come meanwhile.
+    if (auto const now = LineOf(before); now >= 0)
     {
-        m_recordings[static_cast<std::size_t>(line)].file = dialog.File();
-        m_list.Rename(line, dialog.File());
-        m_shown.reset(); // it shows the name
-        ShowChosen();
-        NoteView();
+        RenameRecording(now, dialog.File());
+    }
+    else
+    {
+        auto const notes = m_notes->Of(before);
+        m_notes->Set(before, {});
+        m_notes->Set(dialog.File(), notes);
     }
     FillFolders();
 }
@@ -425,7 +424,8 @@ void CMainWindow::OnDeleteRecordings()
     }
     if (!life.Over() && m_hWnd != nullptr)
     {
-        OnReload();
+        m_followAgain = true;
+        Follow();
     }
 }
 
@@ -584,6 +584,7 @@ void CMainWindow::OnImportSettings()
     {
         FollowSettings(workbench::ReadSettings());
         m_list.SetUserWidths(workbench::ReadColumnWidths(m_metrics.AverageWidth()));
+        m_list.SetColumnOrder(workbench::ReadColumnOrder());
         workbench::UseLanguage(workbench::ReadLanguage());
         ShowTexts();
     }
@@ -714,6 +715,7 @@ void CMainWindow::OnOpenFiles()
     if (!files.empty())
     {
         ShowTargets(std::move(files));
+        m_rememberOpened = true;
     }
 }
 
@@ -724,7 +726,7 @@ void CMainWindow::OnOpenFolder()
     if (dialog.DoModal() == IDOK && !life.Over() && m_hWnd != nullptr)
     {
         ShowTargets({dialog.Folder()});
-        m_rememberFolders = true;
+        m_rememberOpened = true;
     }
 }
 
@@ -735,6 +737,7 @@ void CMainWindow::OnInitMenuPopup(CMenu * menu, UINT index, BOOL systemMenu)
     {
         return;
     }
+    ShowRecent(*menu);
     auto const enable = [menu](UINT id, bool enabled) {
         menu->EnableMenuItem(id, MF_BYCOMMAND | (enabled ? MF_ENABLED : MF_GRAYED));
     };
@@ -765,6 +768,9 @@ void CMainWindow::OnInitMenuPopup(CMenu * menu, UINT index, BOOL systemMenu)
     enable(ID_EDIT_COMMENT, IsReadable(chosen) && !m_list.IsHidden(CRecordingList::column_comment));
     enable(ID_CHOOSE_RATING, IsReadable(chosen) && !m_list.IsHidden(CRecordingList::column_rating));
     enable(ID_EXPORT_LIST, RecordingCount() > 0);
+    enable(ID_MOVE_UP, RecordingCount() > 1);
+    enable(ID_MOVE_DOWN, RecordingCount() > 1);
+    enable(ID_WRITE_REPORT, m_list.Totals().Checked() > 0);
     menu->CheckMenuItem(ID_SHOW_FOLDERS, MF_BYCOMMAND | (ShowsFolders() ? MF_CHECKED : MF_UNCHECKED));
     auto const & waveform = WaveformInUse();
     auto const amplification = waveform.Amplification();

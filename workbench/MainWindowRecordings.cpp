@@ -15,6 +15,7 @@
 #include "logic/StoredLists.h"
 #include "logic/TextFormat.h"
 #include "logic/Texts.h"
+#include "resource.h"
 
 using workbench::Text;
 
@@ -75,7 +76,12 @@ void CMainWindow::NoteView()
 void CMainWindow::KeepView()
 {
     KillTimer(view_timer);
-    if (!m_views || m_targets.empty() || m_recordings.empty() || m_search || m_wantedView || m_listed < m_found.size())
+    if (m_listed < m_found.size())
+    {
+        NoteView();
+        return;
+    }
+    if (!m_views || m_targets.empty() || m_recordings.empty() || (m_search && !m_following) || m_wantedView)
     {
         return;
     }
@@ -174,6 +180,8 @@ void CMainWindow::StopWork()
 {
     m_search.reset();
     m_reloading = false;
+    m_following = false;
+    m_followed.clear();
     m_queue->Clear();
     m_found.clear();
     m_listed = 0;
@@ -206,13 +214,17 @@ void CMainWindow::ShowTargets(std::vector<std::filesystem::path> targets)
         workbench::StoreLastTargets(m_targets);
     }
     m_openedFolders.clear();
-    m_rememberFolders = false;
+    m_rememberOpened = false;
     m_missing.clear();
     ListAnew({});
     m_order.reset();
     m_chooseFile.clear();
+    m_watch.reset();
+    m_followAgain = false;
     if (!m_targets.empty())
     {
+        m_watch = std::make_unique<workbench::FolderWatch>(
+            m_targets, [window = m_hWnd] { ::PostMessageW(window, message_folder_changed, 0, 0); });
         StartSearch();
     }
     ShowChosen();
@@ -321,18 +333,32 @@ void CMainWindow::SortAgain()
     m_order.reset();
     if (order)
     {
+        // What is in sight stays there: the chosen line, or else the uppermost one, unless that is the first.
+        auto const isInSight = m_list.IsInSight(m_list.ChosenLine());
+        auto const top = m_list.GetTopIndex() > 0 ? m_list.TopLine() : -1;
         m_list.SortLines(order->column, order->ascending);
+        if (!isInSight && top >= 0)
+        {
+            m_list.ScrollToLine(top);
+        }
     }
 }
 
 void CMainWindow::CancelReading()
 {
+    if (m_report.IsWriting())
+    {
+        m_report.Cancel();
+        ShowProgress();
+        UpdateStatusLine();
+    }
     if (!IsBusy())
     {
         return;
     }
     m_search.reset();
     m_reloading = false;
+    m_following = false;
     m_toReread = 0;
     m_listed = m_found.size();
     // What has been read by now is shown.
@@ -364,15 +390,16 @@ LRESULT CMainWindow::OnRecordingsReady(WPARAM, LPARAM)
     if (auto found = m_search ? m_search->Take() : std::nullopt)
     {
         m_search.reset();
+        if (std::exchange(m_following, false))
+        {
+            TakeFollowed(std::move(*found));
+            return 0;
+        }
         m_missing = std::move(found->missing);
         m_openedFolders = std::move(found->folders);
-        if (std::exchange(m_rememberFolders, false) && !m_openedFolders.empty())
+        if (std::exchange(m_rememberOpened, false))
         {
-            for (auto const & folder : m_openedFolders)
-            {
-                workbench::PutFirst(m_settings.recentFolders, folder);
-            }
-            KeepSettings();
+            RememberOpened(m_openedFolders, m_missing);
         }
         FillFolders();
         if (std::exchange(m_reloading, false))
@@ -403,6 +430,10 @@ void CMainWindow::OnTimer(UINT_PTR id)
     else if (id == view_timer)
     {
         KeepView();
+    }
+    else if (id == follow_timer)
+    {
+        Follow();
     }
     else if (id == raise_timer)
     {
@@ -455,6 +486,10 @@ void CMainWindow::Work()
         m_found.clear();
         m_listed = 0;
         m_known.clear();
+    }
+    if (listed && !m_followed.empty())
+    {
+        ArrangeFollowed();
     }
     ChooseFirst();
     if (listed && !m_search && m_wantedView)
@@ -557,6 +592,11 @@ bool CMainWindow::IsReadable(int index) const
 /// Shows how far looking, listing and reading are.
 void CMainWindow::ShowProgress()
 {
+    if (auto const report = m_report.Progress(); !IsBusy() && report.total > 0)
+    {
+        m_status.ShowProgress(report.done, report.total);
+        return;
+    }
     auto const listed = m_recordings.size();
     auto const total = listed + m_found.size() - m_listed;
     m_status.ShowProgress(listed - m_queued - m_toReread, IsBusy() ? std::max<std::size_t>(total, 1) : 0);
@@ -736,6 +776,7 @@ void CMainWindow::UpdateStatusLine()
     {
         text += std::wstring(L", ") + Text(L"marks and comments cannot be stored");
     }
+    text += ReportText();
     if (!m_missing.empty())
     {
         text +=
@@ -793,6 +834,7 @@ void CMainWindow::OnListChanged(unsigned changes)
     if ((changes & CRecordingList::changed_widths) != 0)
     {
         workbench::StoreColumnWidths(m_list.UserWidths(), m_metrics.AverageWidth());
+        workbench::StoreColumnOrder(m_list.ColumnOrder());
     }
     if ((changes & (CRecordingList::changed_selection | CRecordingList::changed_order)) != 0)
     {
@@ -800,6 +842,7 @@ void CMainWindow::OnListChanged(unsigned changes)
     }
     if ((changes & CRecordingList::changed_selection) != 0)
     {
+        m_reported.clear(); // it has been said
         ShowChosen();
         ShowInFolders();
     }
@@ -922,6 +965,11 @@ void CMainWindow::OnUndo()
 void CMainWindow::OnRedo()
 {
     m_list.Redo();
+}
+
+void CMainWindow::OnMove(UINT id)
+{
+    m_list.MoveSelected(id == ID_MOVE_UP);
 }
 
 void CMainWindow::OnMarkAll()

@@ -179,4 +179,34 @@ bool SavePicture(CWnd & window, CSize size, Drawing const & draw, std::filesyste
     return written;
 }
 
+std::string PngPicture(CWnd & window, CSize size, Drawing const & draw)
+{
+    std::string png;
+    GraphicsScope const graphics;
+    PictureBitmap const picture(window, size, draw);
+    CLSID encoder{};
+    IStream * stream = nullptr;
+    if (!picture.IsThere() || !FindPngEncoder(encoder) || FAILED(::CreateStreamOnHGlobal(nullptr, TRUE, &stream)))
+    {
+        return png;
+    }
+    {
+        Gdiplus::Bitmap bitmap(&picture.Header(), picture.Bits());
+        STATSTG facts{};
+        if (bitmap.GetLastStatus() == Gdiplus::Ok && bitmap.Save(stream, &encoder, nullptr) == Gdiplus::Ok &&
+            SUCCEEDED(stream->Stat(&facts, STATFLAG_NONAME)))
+        {
+            png.resize(static_cast<std::size_t>(facts.cbSize.QuadPart));
+            ULONG length = 0;
+            stream->Seek({}, STREAM_SEEK_SET, nullptr);
+            if (FAILED(stream->Read(png.data(), static_cast<ULONG>(png.size()), &length)) || length != png.size())
+            {
+                png.clear();
+            }
+        }
+    }
+    stream->Release();
+    return png;
+}
+
 } // namespace workbench

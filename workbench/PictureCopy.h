@@ -4,6 +4,7 @@
 
 #include <filesystem>
 #include <functional>
+#include <string>
 
 namespace workbench
 {
@@ -18,5 +19,8 @@ bool CopyPicture(CWnd & window, CSize size, Drawing const & draw);
 /// Writes a picture as a PNG file; a file of that name is replaced. False if it cannot be made or written, and then a
 /// file that was there before is as it was.
 bool SavePicture(CWnd & window, CSize size, Drawing const & draw, std::filesystem::path const & file);
+
+/// A picture as a PNG file has it; empty if it cannot be made.
+std::string PngPicture(CWnd & window, CSize size, Drawing const & draw);
 
 } // namespace workbench

@@ -106,12 +106,15 @@ BEGIN_MESSAGE_MAP(CRecordingList, CXListCtrl)
     ON_WM_LBUTTONDOWN()
     ON_WM_MOUSEWHEEL()
     ON_WM_LBUTTONUP()
+    ON_WM_CAPTURECHANGED()
     ON_NOTIFY_EX(HDN_BEGINTRACKW, 0, &CRecordingList::OnBeginTrack)
     ON_NOTIFY_EX(HDN_BEGINTRACKA, 0, &CRecordingList::OnBeginTrack)
     ON_NOTIFY_EX(HDN_DIVIDERDBLCLICKW, 0, &CRecordingList::OnDividerDoubleClick)
     ON_NOTIFY_EX(HDN_DIVIDERDBLCLICKA, 0, &CRecordingList::OnDividerDoubleClick)
     ON_NOTIFY_EX(HDN_ENDTRACKW, 0, &CRecordingList::OnEndTrack)
     ON_NOTIFY_EX(HDN_ENDTRACKA, 0, &CRecordingList::OnEndTrack)
+    ON_NOTIFY_EX(HDN_BEGINDRAG, 0, &CRecordingList::OnBeginColumnDrag)
+    ON_NOTIFY_EX(HDN_ENDDRAG, 0, &CRecordingList::OnEndColumnDrag)
     ON_NOTIFY_EX_RANGE(TTN_SHOW, 0, last_tool_id, &CRecordingList::OnToolTipShow)
     ON_MESSAGE(message_tell_changes, &CRecordingList::OnTellChanges)
     ON_MESSAGE(message_tell_open, &CRecordingList::OnTellOpen)
@@ -133,9 +136,8 @@ bool CRecordingList::CreateList(CWnd & parent, UINT id, workbench::ScreenMetrics
         return false;
     }
     SetFullRowSelect();
+    SetExtendedStyle(GetExtendedStyle() | LVS_EX_HEADERDRAGDROP);
     SetFont(&metrics.Font(), FALSE);
-    EnableDragAndDrop();
-    m_onRowsSwapped = [this](int a, int b) { SwapRows(a, b); };
     m_onDoubleClick = [this](int row, int column) {
         // Cells that act on a click of their own are left to it.
         if (column != column_check && column != column_reference && column != column_rating && column != column_comment)
@@ -164,6 +166,11 @@ void CRecordingList::SetFixedTexts()
 wchar_t const * CRecordingList::Title(int column)
 {
     return column >= 0 && column < column_count ? Text(column_designs[column].title) : L"";
+}
+
+wchar_t const * CRecordingList::RatingName(int rating)
+{
+    return rating >= 0 && rating < static_cast<int>(std::size(rating_names)) ? Text(rating_names[rating]) : L"";
 }
 
 bool CRecordingList::CanBeHidden(int column)
@@ -844,6 +851,42 @@ BOOL CRecordingList::OnEndTrack(UINT, NMHDR * header, LRESULT * result)
     return FALSE; // the list itself needs it, too
 }
 
+BOOL CRecordingList::OnBeginColumnDrag(UINT, NMHDR * header, LRESULT * result)
+{
+    EndEditing(); // nothing would take an editor along
+    auto const stays = IsHidden(reinterpret_cast<NMHEADERW *>(header)->iItem);
+    *result = stays;
+    return stays;
+}
+
+/// The order is the new one by the time that the host is told.
+BOOL CRecordingList::OnEndColumnDrag(UINT, NMHDR *, LRESULT * result)
+{
+    Tell(changed_widths);
+    *result = 0;
+    return FALSE; // the list view needs it, too
+}
+
+std::vector<int> CRecordingList::ColumnOrder() const
+{
+    std::vector<int> order(column_count);
+    std::iota(order.begin(), order.end(), 0);
+    const_cast<CRecordingList *>(this)->GetColumnOrderArray(order.data(), column_count);
+    return order;
+}
+
+void CRecordingList::SetColumnOrder(std::vector<int> order)
+{
+    std::vector<int> all(column_count);
+    std::iota(all.begin(), all.end(), 0);
+    if (std::ranges::is_permutation(order, all))
+    {
+        EndEditing();
+        SetColumnOrderArray(column_count, order.data());
+        Invalidate();
+    }
+}
+
 /// The tool tip tells the file's path, and at the status what is wrong with it. Other cells have none.
 INT_PTR CRecordingList::OnToolHitTest(CPoint point, TOOLINFO * info) const
 {
@@ -1004,6 +1047,7 @@ void CRecordingList::OnLButtonDown(UINT flags, CPoint point)
     int column = 0;
     auto const line = LineAt(GetPointItem(point, column));
     auto const generation = m_generation;
+    m_dragsNothing = false;
     // One that stays open would lose its text to the next one.
     EndEditing();
     CXListCtrl::OnLButtonDown(flags, point);

@@ -27,10 +27,10 @@ class CRecordingOverview;
 /// The list of recordings: one line a file, with its header's values, its levels, what the user says about it and what
 /// there is to say about the file.
 ///
-/// The user can sort the lines by a click on a column's title, and swap two by dragging. A line is known by its number,
-/// which is its file's place in what ShowFiles was given and stays whatever row the line moves to. What the base class
-/// offers and what it posts to the parent go by rows; the host is told by m_onChanged and m_onOpen instead, once the
-/// list is at rest.
+/// The user can sort the lines by a click on a column's title, and move some by dragging or with Alt and an arrow key.
+/// A line is known by its number, which is its file's place in what ShowFiles was given and stays whatever row the line
+/// moves to. What the base class offers and what it posts to the parent go by rows; the host is told by m_onChanged and
+/// m_onOpen instead, once the list is at rest.
 class CRecordingList : public CXListCtrl
 {
 public:
@@ -64,7 +64,7 @@ public:
     {
         changed_selection = 1,
         changed_marks = 2,  ///< what the user says, or what is known, of recordings
-        changed_widths = 4, ///< the user has set a column's width
+        changed_widths = 4, ///< the user has set a column's width or place
         changed_order = 8   ///< the user has sorted or moved lines
     };
 
@@ -92,11 +92,17 @@ public:
     /// Called when the user wants the selected recordings away.
     std::function<void()> m_onDelete;
 
+    /// Called when the user has dragged lines out of the window. Without it, dragging ends at the list.
+    std::function<void(std::vector<int> const & lines)> m_onDragOut;
+
     /// Called when the user wants to choose the columns at a place of the screen.
     std::function<void(CPoint screen)> m_onColumns;
 
     /// A column's title in the present language, and whether the user can hide it.
     static wchar_t const * Title(int column);
+
+    /// What a rating is called in the present language; empty for one that does not exist.
+    static wchar_t const * RatingName(int rating);
 
     void ShowTexts();
     static bool CanBeHidden(int column);
@@ -118,6 +124,15 @@ public:
     void AppendFile(std::filesystem::path const & file, Notes const & notes);
 
     int LineCount() const { return static_cast<int>(m_notes.size()); }
+
+    /// Gives lines other numbers, by their present ones: those below 0 go, and the others have the numbers up to how
+    /// many they are. Rows stay where they are, as do selection, undoing, and what was done to the lines.
+    void Renumber(std::vector<int> const & numbers);
+
+    /// The line whose row is the uppermost one in sight, -1 for none; and scrolling so that a line's row is.
+    int TopLine() const { return LineAt(GetTopIndex()); }
+    void ScrollToLine(int line);
+    bool IsInSight(int line) const;
 
     /// Says that a line's file has another name by now.
     void Rename(int line, std::filesystem::path const & file);
@@ -162,6 +177,11 @@ public:
     workbench::ListOrder Order() const { return {m_sortedColumn, m_ascending, m_order}; }
     /// Lines that it doesn't name come last, what is no line is passed over.
     void SetOrder(workbench::ListOrder const & order);
+
+    /// Whether the user is dragging lines.
+    bool IsDragging() const { return !m_dragged.empty(); }
+    /// Moves the selected lines together one line up or down, as Alt with an arrow key does. False if there is none.
+    bool MoveSelected(bool up);
 
     /// Takes back what the user did last to marks, ratings, comments, reference or order, or does it again. A gesture
     /// is one step. False if there is nothing to do.
@@ -223,6 +243,11 @@ public:
     std::map<int, int> const & UserWidths() const { return m_userWidths; }
     void SetUserWidths(std::map<int, int> const & widths);
 
+    /// The columns from left to right, hidden ones included, as the user has dragged their titles; copies follow it. An
+    /// order that has not all of them once is ignored.
+    std::vector<int> ColumnOrder() const;
+    void SetColumnOrder(std::vector<int> order);
+
     /// The columns that don't show. Neither do they go into copies.
     std::set<int> const & HiddenColumns() const { return m_hidden; }
     void SetHiddenColumns(std::set<int> const & columns);
@@ -242,6 +267,7 @@ public:
     CPoint CellCentre(int line, Column column);
 
     void OnItemStateChange(int row, int column, unsigned int message) override;
+    BOOL PreTranslateMessage(MSG * message) override;
     INT_PTR OnToolHitTest(CPoint point, TOOLINFO * info) const override;
 
 protected:
@@ -265,9 +291,12 @@ private:
     afx_msg void OnPaint();
     afx_msg void OnMouseMove(UINT flags, CPoint point);
     afx_msg void OnLButtonUp(UINT flags, CPoint point);
+    afx_msg void OnCaptureChanged(CWnd * other);
     afx_msg BOOL OnBeginTrack(UINT id, NMHDR * header, LRESULT * result);
     afx_msg BOOL OnDividerDoubleClick(UINT id, NMHDR * header, LRESULT * result);
     afx_msg BOOL OnEndTrack(UINT id, NMHDR * header, LRESULT * result);
+    afx_msg BOOL OnBeginColumnDrag(UINT id, NMHDR * header, LRESULT * result);
+    afx_msg BOOL OnEndColumnDrag(UINT id, NMHDR * header, LRESULT * result);
     afx_msg BOOL OnToolTipShow(UINT id, NMHDR * header, LRESULT * result);
     afx_msg LRESULT OnTellChanges(WPARAM, LPARAM);
     afx_msg LRESULT OnTellOpen(WPARAM line, LPARAM generation);
@@ -300,7 +329,15 @@ private:
     void SetChecked(int row, bool checked);
     void ToggleSelected();
     void ForgetOrder();
-    void SwapRows(int a, int b);
+    void BeginDrag(int row);
+    void EndDrag();
+    int EdgeOf(int row) const;
+    void MarkDrop(int row);
+    int DropRowAt(CPoint point);
+    void FollowDrag(CPoint point);
+    void ScrollForDrag();
+    bool OnDragTimer(UINT_PTR id);
+    bool MoveLines(std::vector<int> const & lines, int row);
     struct SortKey
     {
         bool last;
@@ -350,7 +387,9 @@ private:
     int m_sortedColumn = -1;
     bool m_ascending = true;
     std::vector<int> m_rowPlaces; ///< of each row, where it is to stand while rows are sorted
-    bool m_draggingRow = false;
+    std::vector<int> m_dragged;   ///< lines that the user is dragging
+    int m_dropRow = -1;           ///< before which they would land
+    bool m_dragsNothing = false;  ///< the present press has ended an editor
 
     /// What there is to know of a line beside its notes.
     struct Source

@@ -200,6 +200,10 @@ void CRecordingList::FinishRows()
 
 void CRecordingList::OnTimer(UINT_PTR id)
 {
+    if (OnDragTimer(id))
+    {
+        return;
+    }
     if (id != fill_timer)
     {
         CXListCtrl::OnTimer(id);

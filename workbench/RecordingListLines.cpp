@@ -57,6 +57,7 @@ void CRecordingList::RemoveLines()
 {
     CancelToolTips();
     EndEditing();
+    EndDrag();
     Batch const batch(*this);
     m_touched = true;
     ++m_generation;

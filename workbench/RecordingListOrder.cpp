@@ -181,21 +181,6 @@ void CRecordingList::SetOrder(workbench::ListOrder const & order)
     ArrangeRows(rows, m_sortedColumn);
 }
 
-/// The user has had two rows change their places.
-void CRecordingList::SwapRows(int a, int b)
-{
-    auto before = Order();
-    auto const first = std::ranges::find(m_order, LineAt(a));
-    auto const second = std::ranges::find(m_order, LineAt(b));
-    if (first != m_order.end() && second != m_order.end())
-    {
-        std::iter_swap(first, second);
-    }
-    ForgetOrder();
-    m_history.NoteOrder(std::move(before), Order());
-    Tell(changed_order);
-}
-
 /// What a line is known by in a column of words.
 std::wstring CRecordingList::SortedText(int line, int column) const
 {
@@ -330,70 +315,6 @@ BOOL CRecordingList::OnTitleClick(NMHDR * header, LRESULT * result)
     return handled;
 }
 
-BOOL CRecordingList::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT * result)
-{
-    bool const begins = message == WM_NOTIFY && reinterpret_cast<NMHDR *>(lParam)->code == LVN_BEGINDRAG;
-    if (begins && IsEditing())
-    {
-        // A press beside an editor ends it and drags nothing: the rows would change places under it.
-        EndEditing();
-        if (result != nullptr)
-        {
-            *result = 0;
-        }
-        return TRUE;
-    }
-    auto const handled = CXListCtrl::OnChildNotify(message, wParam, lParam, result);
-    if (begins)
-    {
-        m_draggingRow = true;
-    }
-    return handled;
-}
-
-// After its first drag the list would go on marking and swapping rows with every click. Here a drag ends with its drop:
-// without one, mouse messages go past the list's dragging.
-
-/// Frames the row on which a drag would drop; cells show no mark of their own.
-void CRecordingList::OnPaint()
-{
-    CXListCtrl::OnPaint();
-    auto const target = m_draggingRow ? GetNextItem(-1, LVNI_DROPHILITED) : -1;
-    CRect row;
-    if (target >= 0 && GetItemRect(target, &row, LVIR_BOUNDS))
-    {
-        CClientDC dc(this);
-        CBrush brush(::GetSysColor(COLOR_HIGHLIGHT));
-        dc.FrameRect(&row, &brush);
-        row.DeflateRect(1, 1);
-        dc.FrameRect(&row, &brush);
-    }
-}
-
-void CRecordingList::OnMouseMove(UINT flags, CPoint point)
-{
-    if (m_draggingRow)
-    {
-        CXListCtrl::OnMouseMove(flags, point);
-    }
-    else
-    {
-        CListCtrl::OnMouseMove(flags, point);
-    }
-}
-
-void CRecordingList::OnLButtonUp(UINT flags, CPoint point)
-{
-    if (std::exchange(m_draggingRow, false))
-    {
-        CXListCtrl::OnLButtonUp(flags, point);
-    }
-    else
-    {
-        CListCtrl::OnLButtonUp(flags, point);
-    }
-}
-
 std::vector<int> CRecordingList::RowsOf(Lines lines) const
 {
     std::vector<int> rows;
@@ -455,7 +376,7 @@ workbench::TextTable CRecordingList::TableOf(std::vector<int> const & rows, std:
 {
     workbench::TextTable table;
     std::vector<int> columns;
-    for (int column = 0; column < column_count; ++column)
+    for (auto const column : ColumnOrder())
     {
         if (!IsCopied(column) || without.contains(column))
         {

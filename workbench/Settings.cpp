@@ -27,6 +27,7 @@ constexpr wchar_t frequency_scale[] = L"FrequencyScale"; // 1: logarithmic
 constexpr wchar_t start_folders[] = L"StartFolders";
 constexpr wchar_t language[] = L"Language";
 constexpr wchar_t column_widths[] = L"ColumnWidths"; // the average width of a letter, then column:width
+constexpr wchar_t column_order[] = L"ColumnOrder";
 constexpr wchar_t company[] = L"Instrument Suite";
 constexpr wchar_t program[] = L"Instrument Workbench";
 constexpr wchar_t notes_name[] = L"Notes.txt";
@@ -34,6 +35,7 @@ constexpr wchar_t views_name[] = L"Views.txt";
 constexpr wchar_t last_targets[] = L"LastTargets";
 constexpr wchar_t known_columns[] = L"KnownColumns"; // how many the list had when its hidden ones were stored
 constexpr wchar_t recent_folders[] = L"RecentFolders";
+constexpr wchar_t recent_targets[] = L"RecentTargets";
 constexpr wchar_t trace_colour[] = L"TraceColour";
 constexpr wchar_t background_colour[] = L"BackgroundColour";
 constexpr wchar_t grid_colour[] = L"GridColour";
@@ -105,6 +107,11 @@ Settings ReadSettings()
     {
         settings.recentFolders.resize(most_recent_folders);
     }
+    settings.recentTargets = FoldersOf(ReadText(recent_targets));
+    if (settings.recentTargets.size() > most_recent_folders)
+    {
+        settings.recentTargets.resize(most_recent_folders);
+    }
     ReadColour(trace_colour, settings.waveform.trace);
     ReadColour(background_colour, settings.waveform.background);
     ReadColour(grid_colour, settings.waveform.grid);
@@ -144,7 +151,7 @@ bool StoreSettings(Settings const & settings)
                                settings.frequencyScale == FrequencyScale::logarithmic ? 1 : 0) &&
            WriteText(start_folders, FolderText(settings.startFolders)) &&
            WriteText(recent_folders, FolderText(settings.recentFolders)) &&
-           WriteText(trace_colour, ColourText(settings.waveform.trace)) &&
+           StoreRecentTargets(settings.recentTargets) && WriteText(trace_colour, ColourText(settings.waveform.trace)) &&
            WriteText(background_colour, ColourText(settings.waveform.background)) &&
            WriteText(grid_colour, ColourText(settings.waveform.grid)) &&
            WriteText(cursor_colour, ColourText(settings.waveform.cursor)) &&
@@ -225,6 +232,16 @@ bool StoreColumnWidths(std::map<int, int> const & widths, int averageWidth)
     return AfxGetApp()->WriteProfileString(section, column_widths, text.c_str()) != FALSE;
 }
 
+std::vector<int> ReadColumnOrder()
+{
+    return OrderOf(ReadText(column_order), Settings::columns);
+}
+
+bool StoreColumnOrder(std::vector<int> const & order)
+{
+    return WriteText(column_order, OrderText(order));
+}
+
 std::filesystem::path NotesFile()
 {
     auto const & app = *AfxGetApp();
@@ -242,6 +259,11 @@ std::filesystem::path NotesFile()
 std::filesystem::path ViewsFile()
 {
     return NotesFile().parent_path() / views_name;
+}
+
+bool StoreRecentTargets(std::vector<std::filesystem::path> const & targets)
+{
+    return WriteText(recent_targets, FolderText(targets));
 }
 
 bool StoreLastTargets(std::vector<std::filesystem::path> const & targets)

@@ -35,6 +35,7 @@ struct Settings
     FrequencyScale frequencyScale = FrequencyScale::linear; ///< of the spectrogram
     std::vector<std::filesystem::path> startFolders;        ///< opened when the program starts without others
     std::vector<std::filesystem::path> recentFolders;       ///< that the user has opened, the last one first
+    std::vector<std::filesystem::path> recentTargets;       ///< folders and files, for the menu
     std::vector<std::filesystem::path> lastTargets;         ///< that were shown last
     WaveformColours waveform;
     int amplification = 0;                       ///< of the waveform, in decibels
@@ -88,12 +89,19 @@ std::map<int, int> ReadColumnWidths(int averageWidth);
 /// Stores the column widths. False if that failed.
 bool StoreColumnWidths(std::map<int, int> const & widths, int averageWidth);
 
+/// The order of the list's columns that the user has set. Storing gives false if that failed.
+std::vector<int> ReadColumnOrder();
+bool StoreColumnOrder(std::vector<int> const & order);
+
 /// The file that keeps what the user says about recordings: beside the settings where these are in a file, else in the
 /// folder that the user's account has for the data of programs.
 std::filesystem::path NotesFile();
 
 /// The file that keeps how folders were shown last, beside the former.
 std::filesystem::path ViewsFile();
+
+/// Stores alone what the user has opened, for the menu. False if that failed.
+bool StoreRecentTargets(std::vector<std::filesystem::path> const & targets);
 
 /// Stores alone what was shown last. False if that failed.
 bool StoreLastTargets(std::vector<std::filesystem::path> const & targets);

@@ -46,6 +46,8 @@ public:
 
     /// Whether a spectrogram is being computed.
     bool IsComputing() const { return m_job != nullptr; }
+    /// How far that is, in parts of SpectrogramJob::whole_progress; all of it while nothing is computed.
+    int Progress() const { return m_job ? m_job->Progress() : workbench::SpectrogramJob::whole_progress; }
 
     /// How spectrograms are computed from now on; the present one is computed anew and shown until then.
     void SetSettings(workbench::SpectrogramSettings const & settings);

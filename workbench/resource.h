@@ -47,13 +47,15 @@
 #define IDC_FRAMES_DIVIDER 1016
 #define IDC_LIST_PANEL 1017
 #define IDC_FILTER_WORDS 1018
-#define IDC_FILTER_KIND 1019
 #define IDC_FRAME_MEASURES 1031
 #define IDC_FRAME_TABLE 1032
 #define IDC_FRAME_COLUMN 1033
 #define IDC_FRAME_FILTER 1034
 #define IDC_FRAME_STATUS 1035
 #define IDC_FRAME_EXPORT 1036
+#define IDC_FILTER_MARKED 1019
+#define IDC_FILTER_RATING 1061
+#define IDC_FILTER_STATE 1062
 
 // The settings.
 #define IDC_START_NOTE 1102
@@ -151,10 +153,18 @@
 #define ID_SHOW_HELP 40051
 #define ID_SHOW_KEYS 40052
 #define ID_ABOUT 40053
+#define ID_WRITE_REPORT 40061
+#define ID_MOVE_UP 40062
+#define ID_MOVE_DOWN 40063
 
 // The items of open dialogs in the window menu.
 #define ID_DIALOG_FIRST 41000
 #define ID_DIALOG_LAST 41099
+
+// The items of what was opened last.
+#define ID_RECENT_FIRST 41100
+#define ID_RECENT_LAST 41108
+#define ID_RECENT_SEPARATOR 41109
 
 // Commands that are made while the program runs.
 #define ID_DYNAMIC_FIRST 41200

@@ -1,5 +1,6 @@
 #include "logic/ListHistory.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace workbench
@@ -80,6 +81,50 @@ void ListHistory::EndStep()
 void ListHistory::Clear()
 {
     *this = {};
+}
+
+void ListHistory::Renumber(ListStep & step, std::vector<int> const & numbers)
+{
+    auto const numberOf = [&numbers](int line) {
+        auto const isLine = line >= 0 && static_cast<std::size_t>(line) < numbers.size();
+        return isLine ? numbers[static_cast<std::size_t>(line)] : -1;
+    };
+    for (auto & change : step.notes)
+    {
+        change.line = numberOf(change.line);
+    }
+    std::erase_if(step.notes, [](NotesChange const & change) { return change.line < 0; });
+    if (step.order)
+    {
+        for (auto * const lines : {&step.order->before.lines, &step.order->after.lines})
+        {
+            std::ranges::transform(*lines, lines->begin(), numberOf);
+            std::erase_if(*lines, [](int line) { return line < 0; });
+        }
+        if (step.order->before == step.order->after)
+        {
+            step.order.reset();
+        }
+    }
+}
+
+void ListHistory::Renumber(std::vector<int> const & numbers)
+{
+    EndStep();
+    m_size = 0;
+    for (auto & step : m_done)
+    {
+        Renumber(step, numbers);
+        m_size += SizeOf(step);
+    }
+    for (auto & step : m_undone)
+    {
+        Renumber(step, numbers);
+    }
+    auto const sizeBefore = m_done.size();
+    std::erase_if(m_done, [](ListStep const & step) { return step.IsEmpty(); });
+    m_size -= sizeBefore - m_done.size(); // an empty one counts 1
+    std::erase_if(m_undone, [](ListStep const & step) { return step.IsEmpty(); });
 }
 
 std::optional<ListStep> ListHistory::Undo()

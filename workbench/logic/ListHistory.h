@@ -63,6 +63,8 @@ public:
     void NoteOrder(ListOrder before, ListOrder after);
     void EndStep();
     void Clear();
+    /// Lines have other numbers from now on, by their present ones; those below 0 are gone, and what was done to them.
+    void Renumber(std::vector<int> const & numbers);
 
     bool CanUndo() const { return !m_done.empty() || !m_open.IsEmpty(); }
     bool CanRedo() const { return !m_undone.empty() && m_open.IsEmpty(); }
@@ -74,6 +76,7 @@ public:
 
 private:
     static std::size_t SizeOf(ListStep const & step);
+    static void Renumber(ListStep & step, std::vector<int> const & numbers);
 
     ListStep m_open;
     std::unordered_map<int, std::size_t> m_openLines; ///< the places of lines in the open step

@@ -1,6 +1,8 @@
 #pragma once
 // Finds the recordings that a list of folders and files stands for.
 
+#include "logic/FileFacts.h"
+
 #include <filesystem>
 #include <functional>
 #include <span>
@@ -13,6 +15,7 @@ namespace workbench
 struct FoundRecordings
 {
     std::vector<std::filesystem::path> files;
+    std::vector<FileFacts> facts;               ///< of the files, where they were asked for
     std::vector<std::filesystem::path> folders; ///< those of the targets that are folders and could be read
     std::vector<std::filesystem::path> missing; ///< folders that do not exist or cannot be read
 };

@@ -18,7 +18,8 @@ class RecordingSearch
 {
 public:
     /// Starts the search. `notify` is called once at its end, unless it is given up, and must not call the search.
-    RecordingSearch(std::vector<std::filesystem::path> targets, std::function<void()> notify);
+    /// Where wanted, it also asks for the files' sizes and times.
+    RecordingSearch(std::vector<std::filesystem::path> targets, std::function<void()> notify, bool withFacts = false);
 
     /// Gives the search up and waits for the thread's end.
     ~RecordingSearch();

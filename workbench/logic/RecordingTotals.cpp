@@ -1,6 +1,8 @@
 #include "logic/RecordingTotals.h"
 
+#include <algorithm>
 #include <type_traits>
+#include <utility>
 
 namespace workbench
 {
@@ -15,6 +17,24 @@ void RecordingTotals::Append(bool checked)
     Line line;
     line.checked = checked;
     Count(m_lines.emplace_back(line), true);
+}
+
+void RecordingTotals::Renumber(std::vector<int> const & numbers)
+{
+    auto const before = std::exchange(m_lines, {});
+    auto const isThere = [](int number) { return number >= 0; };
+    m_lines.resize(static_cast<std::size_t>(std::ranges::count_if(numbers, isThere)));
+    for (std::size_t line = 0; line < before.size() && line < numbers.size(); ++line)
+    {
+        if (isThere(numbers[line]))
+        {
+            m_lines[static_cast<std::size_t>(numbers[line])] = before[line];
+        }
+        else
+        {
+            Count(before[line], false);
+        }
+    }
 }
 
 void RecordingTotals::SetState(std::size_t line, State state, std::uint64_t milliseconds)

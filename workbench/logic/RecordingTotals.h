@@ -25,6 +25,9 @@ public:
     /// Adds an unread line at the end.
     void Append(bool checked);
 
+    /// Gives lines other numbers, by their present ones; those below 0 go. The numbers that are left are all there.
+    void Renumber(std::vector<int> const & numbers);
+
     /// Says what came of reading a line; an unreadable one is no longer checked.
     void SetState(std::size_t line, State state, std::uint64_t milliseconds);
     void SetChecked(std::size_t line, bool checked);

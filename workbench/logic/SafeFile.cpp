@@ -7,6 +7,7 @@
 #include <memory>
 #include <system_error>
 #include <thread>
+#include <utility>
 
 #ifdef _WIN32
 #include <io.h>
@@ -88,28 +89,60 @@ std::optional<std::string> ReadWholeFile(std::filesystem::path const & file)
 
 bool ReplaceWholeFile(std::filesystem::path const & file, std::string_view contents)
 {
-    auto draft = file;
-    draft += ".new";
-    auto const stream = OpenForWriting(draft);
-    if (stream == nullptr)
+    FileDraft draft(file);
+    return draft.Append(contents) && draft.Finish();
+}
+
+FileDraft::FileDraft(std::filesystem::path file) : m_file(std::move(file)), m_draft(m_file), m_stream(nullptr)
+{
+    m_draft += ".new";
+    m_stream = OpenForWriting(m_draft);
+}
+
+FileDraft::~FileDraft()
+{
+    Close();
+}
+
+/// Takes away what is there.
+void FileDraft::Close()
+{
+    if (m_stream != nullptr)
     {
+        std::fclose(std::exchange(m_stream, nullptr));
+        std::error_code error;
+        std::filesystem::remove(m_draft, error);
+    }
+}
+
+bool FileDraft::Append(std::string_view contents)
+{
+    m_written = m_written && m_stream != nullptr &&
+                std::fwrite(contents.data(), 1, contents.size(), m_stream) == contents.size();
+    return m_written;
+}
+
+bool FileDraft::Finish()
+{
+    if (!m_written || m_stream == nullptr || !Commit(m_stream))
+    {
+        Close();
         return false;
     }
-    auto const written = std::fwrite(contents.data(), 1, contents.size(), stream) == contents.size() && Commit(stream);
     std::error_code error;
-    if (std::fclose(stream) != 0 || !written)
+    if (std::fclose(std::exchange(m_stream, nullptr)) != 0)
     {
-        std::filesystem::remove(draft, error);
+        std::filesystem::remove(m_draft, error);
         return false;
     }
     auto const moved = Retry(move_tries, [&] {
-        std::filesystem::rename(draft, file, error);
+        std::filesystem::rename(m_draft, m_file, error);
         return !error || error == std::errc::is_a_directory;
     });
     if (!moved || error)
     {
         std::error_code ignored;
-        std::filesystem::remove(draft, ignored);
+        std::filesystem::remove(m_draft, ignored);
         return false;
     }
     return true;

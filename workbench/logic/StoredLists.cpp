@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cwctype>
+#include <sstream>
 
 namespace workbench
 {
@@ -120,6 +121,56 @@ std::wstring NumberText(std::set<int> const & numbers)
     for (auto const number : numbers)
     {
         text += (text.empty() ? L"" : std::wstring(1, number_separator)) + std::to_wstring(number);
+    }
+    return text;
+}
+
+std::wstring RecentItemText(int number, std::filesystem::path const & path)
+{
+    constexpr std::size_t most_characters = 60;
+    constexpr std::size_t from_begin = 12;
+    auto text = path.wstring();
+    if (text.size() > most_characters)
+    {
+        auto const rest = text.size() - (most_characters - from_begin);
+        auto const part = text.find_first_of(L"\\/", rest);
+        text = text.substr(0, from_begin) + L"..." + text.substr(part == text.npos ? rest : part);
+    }
+    auto item = L'&' + std::to_wstring(number) + L' ';
+    for (auto const character : text)
+    {
+        item.append(character == L'&' ? 2 : 1, character);
+    }
+    return item;
+}
+
+std::vector<int> OrderOf(std::wstring_view text, int end)
+{
+    std::vector<int> order;
+    std::wistringstream stream{std::wstring(text)};
+    auto const put = [&order, end](int number) {
+        if (number >= 0 && number < end && std::ranges::find(order, number) == order.end())
+        {
+            order.push_back(number);
+        }
+    };
+    for (auto number = 0; stream >> number;)
+    {
+        put(number);
+    }
+    for (auto number = 0; number < end; ++number)
+    {
+        put(number);
+    }
+    return order;
+}
+
+std::wstring OrderText(std::vector<int> const & order)
+{
+    std::wstring text;
+    for (auto const number : order)
+    {
+        text += (text.empty() ? L"" : L" ") + std::to_wstring(number);
     }
     return text;
 }

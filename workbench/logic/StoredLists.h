@@ -19,6 +19,10 @@ std::wstring FolderText(std::vector<std::filesystem::path> const & folders);
 constexpr std::size_t most_recent_folders = 10;
 void PutFirst(std::vector<std::filesystem::path> & folders, std::filesystem::path const & folder);
 
+/// The item of a menu for a path: a number from 1 to 9 as its key, and the path, shortened in its middle where it is
+/// very long.
+std::wstring RecentItemText(int number, std::filesystem::path const & path);
+
 /// What paths of one file or folder have in common for a system that doesn't mind the case of letters.
 std::wstring PathKey(std::filesystem::path const & path);
 
@@ -31,5 +35,10 @@ bool IsInFolder(std::filesystem::path const & path, std::filesystem::path const 
 /// The numbers of a text made by NumberText, from 0 on and below `end`; what is none of them is left out.
 std::set<int> NumbersOf(std::wstring_view text, int end);
 std::wstring NumberText(std::set<int> const & numbers);
+
+/// An order of the numbers below `end` from a text made by OrderText. Each is there once: those that the text lacks
+/// come last.
+std::vector<int> OrderOf(std::wstring_view text, int end);
+std::wstring OrderText(std::vector<int> const & order);
 
 } // namespace workbench

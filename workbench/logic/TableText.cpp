@@ -1,5 +1,6 @@
 #include "TableText.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <string_view>
 
@@ -118,11 +119,19 @@ void AppendHtml(std::wstring & html, std::wstring_view text)
     }
 }
 
-void AppendCell(std::wstring & html, std::wstring_view tag, TextTable::Column const & column, std::wstring_view text)
+void AppendCell(std::wstring & html, std::wstring_view tag, TextTable::Column const & column, std::wstring_view text,
+                HtmlUse use)
 {
     html += L'<';
     html += tag;
-    html += column.alignedRight ? L" align=\"right\">" : L" align=\"left\">";
+    if (use == HtmlUse::own_page)
+    {
+        html += column.alignedRight ? L" class=\"number\">" : L">";
+    }
+    else
+    {
+        html += column.alignedRight ? L" align=\"right\">" : L" align=\"left\">";
+    }
     AppendHtml(html, text);
     html += L"</";
     html += tag;
@@ -197,24 +206,44 @@ std::wstring CsvTable(TextTable const & table)
     return csv;
 }
 
-std::wstring HtmlTable(TextTable const & table)
+std::wstring HtmlTable(TextTable const & table, HtmlUse use)
 {
-    std::wstring html = L"<table border=\"1\">\r\n<tr>";
+    auto const inParts = use == HtmlUse::own_page; // a title that printers repeat on each page
+    std::wstring html = inParts ? L"<table>\r\n<thead>\r\n<tr>" : L"<table border=\"1\">\r\n<tr>";
     for (auto const & column : table.columns)
     {
-        AppendCell(html, L"th", column, column.title);
+        AppendCell(html, L"th", column, column.title, use);
     }
-    html += L"</tr>\r\n";
+    html += inParts ? L"</tr>\r\n</thead>\r\n<tbody>\r\n" : L"</tr>\r\n";
     for (auto const & row : table.rows)
     {
         html += L"<tr>";
         for (std::size_t i = 0; i < row.size() && i < table.columns.size(); ++i)
         {
-            AppendCell(html, L"td", table.columns[i], row[i]);
+            AppendCell(html, L"td", table.columns[i], row[i], use);
         }
         html += L"</tr>\r\n";
     }
-    return html + L"</table>";
+    return html + (inParts ? L"</tbody>\r\n</table>" : L"</table>");
+}
+
+std::wstring HtmlText(std::wstring_view text)
+{
+    std::wstring html;
+    AppendHtml(html, text);
+    return html;
+}
+
+std::wstring HtmlValue(std::wstring_view text)
+{
+    std::wstring inOneLine(text);
+    std::ranges::replace(inOneLine, L'\n', L' ');
+    std::wstring value = L"\"";
+    for (auto const character : HtmlText(inOneLine))
+    {
+        value += character == L'"' ? std::wstring(L"&quot;") : std::wstring(1, character);
+    }
+    return value + L'"';
 }
 
 std::string TableFile(TextTable const & table, std::filesystem::path const & file)

@@ -123,6 +123,29 @@ protected:
         return tests::ClientPoint(m_list.m_hWnd, m_list.CellCentre(line, CRecordingList::column_status));
     }
 
+    /// The middle of the upper or the lower half of a line's row.
+    CPoint HalfOf(int line, bool upper)
+    {
+        CRect row;
+        m_list.GetItemRect(m_list.PlaceOf(line), &row, LVIR_BOUNDS);
+        return ScreenPoint(line) + CPoint(0, (upper ? -1 : 1) * row.Height() / 4);
+    }
+    /// Whether the mark of a drag stands at the upper edge of a row.
+    bool HasMark(int row)
+    {
+        CRect rect;
+        m_list.GetItemRect(std::min(row, m_list.GetItemCount() - 1), &rect, LVIR_BOUNDS);
+        CClientDC dc(&m_list);
+        auto const y = row < m_list.GetItemCount() ? rect.top : rect.bottom;
+        return dc.GetPixel(rect.left + 40, y) == ::GetSysColor(COLOR_HIGHLIGHT) &&
+               dc.GetPixel(rect.left + 300, y) == ::GetSysColor(COLOR_HIGHLIGHT);
+    }
+    void DragTo(CPoint screen)
+    {
+        tests::MoveMouse(screen + CPoint(1, 0));
+        tests::MoveMouse(screen);
+    }
+
     workbench::ScreenMetrics m_metrics;
     tests::ScopedWindow m_host{CRect(20, 20, 1220, 400)};
     CRecordingList m_list;
@@ -231,21 +254,44 @@ TEST_F(RecordingListTest, NewFilesStandInTheirOwnOrder)
     ClickTitle(CRecordingList::column_name, XHC_SORT_ASCENDING);
 }
 
-TEST_F(RecordingListTest, ADragSwapsTwoLinesAndEndsTheSorting)
+TEST_F(RecordingListTest, ADragMovesALineAndEndsTheSorting)
 {
     m_list.SortLines(CRecordingList::column_name, true);
     ASSERT_EQ(Order(), (Lines{2, 0, 4, 3, 1}));
-    tests::Drag(ScreenPoint(0), ScreenPoint(1));
-    ASSERT_TRUE(tests::PumpUntil([this] { return Order() == (Lines{2, 1, 4, 3, 0}); }));
+    tests::Drag(ScreenPoint(0), HalfOf(1, true));
+    ASSERT_TRUE(tests::PumpUntil([this] { return Order() == (Lines{2, 4, 3, 0, 1}); }));
     EXPECT_EQ(m_list.GetHeaderCheckedState(CRecordingList::column_name), XHC_NONE);
     EXPECT_EQ(m_list.GetHeaderCheckedState(CRecordingList::column_check), XHC_UNCHECKED);
-    EXPECT_EQ(m_list.PlaceOf(0), 4);
+    EXPECT_EQ(m_list.PlaceOf(0), 3);
     EXPECT_EQ(m_list.ChosenLine(), 0);
+    tests::PumpPosted();
+    ASSERT_TRUE(m_list.Undo());
+    EXPECT_EQ(Order(), (Lines{2, 0, 4, 3, 1}));
+    EXPECT_EQ(m_list.SortedColumn(), CRecordingList::column_name);
+    ASSERT_TRUE(m_list.Redo());
+    EXPECT_EQ(Order(), (Lines{2, 4, 3, 0, 1}));
+    EXPECT_FALSE(m_list.CanRedo());
+}
+
+TEST_F(RecordingListTest, SeveralLinesAreDraggedTogether)
+{
+    Select({0, 3});
+    tests::Drag(ScreenPoint(3), HalfOf(4, false));
+    ASSERT_TRUE(tests::PumpUntil([this] { return Order() == (Lines{1, 2, 4, 0, 3}); }));
+    EXPECT_EQ(m_list.SelectedLines(), (Lines{0, 3}));
+    // Beside themselves they stay, and there is nothing to undo beyond the first drag.
+    tests::PumpPosted();
+    tests::Drag(ScreenPoint(0), HalfOf(3, true));
+    tests::PumpFor(std::chrono::milliseconds(50));
+    EXPECT_EQ(Order(), (Lines{1, 2, 4, 0, 3}));
+    ASSERT_TRUE(m_list.Undo());
+    EXPECT_EQ(Order(), (Lines{0, 1, 2, 3, 4}));
+    EXPECT_FALSE(m_list.CanUndo());
 }
 
 TEST_F(RecordingListTest, AfterADragClicksOnlySelect)
 {
-    tests::Drag(ScreenPoint(0), ScreenPoint(3));
+    tests::Drag(ScreenPoint(0), HalfOf(3, false));
     ASSERT_TRUE(tests::PumpUntil([this] { return m_list.PlaceOf(0) == 3; }));
     Lines const order = Order();
     ASSERT_TRUE(tests::MoveMouse(ScreenPoint(4)));
@@ -253,37 +299,101 @@ TEST_F(RecordingListTest, AfterADragClicksOnlySelect)
     EXPECT_TRUE(tests::PumpUntil([this] { return m_list.ChosenLine() == 4; }));
     tests::PumpFor(std::chrono::milliseconds(50));
     EXPECT_EQ(Order(), order);
-    for (int row = 0; row < m_list.GetItemCount(); ++row)
-    {
-        EXPECT_EQ(m_list.GetItemState(row, LVIS_DROPHILITED), 0U) << row;
-    }
     // And the next drag works.
-    tests::Drag(ScreenPoint(1), ScreenPoint(4));
-    EXPECT_TRUE(tests::PumpUntil([this] { return m_list.PlaceOf(4) == 1 && m_list.PlaceOf(1) == 4; }));
+    tests::Drag(ScreenPoint(1), HalfOf(4, false));
+    EXPECT_TRUE(tests::PumpUntil([this] { return m_list.PlaceOf(1) == 4; }));
 }
 
-TEST_F(RecordingListTest, TheRowUnderADragIsFramedUntilTheDrop)
+TEST_F(RecordingListTest, AMarkShowsWhereADragLands)
 {
-    auto const frameShows = [this](int line) {
-        CRect row;
-        m_list.GetItemRect(m_list.PlaceOf(line), &row, LVIR_BOUNDS);
-        CClientDC dc(&m_list);
-        auto const colour = ::GetSysColor(COLOR_HIGHLIGHT);
-        return dc.GetPixel(row.left + 1, row.CenterPoint().y) == colour &&
-               dc.GetPixel(row.CenterPoint().x, row.bottom - 1) == colour;
-    };
-    auto const dragTo = [this](int line) {
-        tests::MoveMouse(ScreenPoint(line) + CPoint(1, 0));
-        tests::MoveMouse(ScreenPoint(line));
-    };
     tests::MoveMouse(ScreenPoint(0));
     tests::Press();
-    dragTo(1);
-    EXPECT_TRUE(tests::PumpUntil([&] { return frameShows(1); }));
-    dragTo(3);
-    EXPECT_TRUE(tests::PumpUntil([&] { return frameShows(3) && !frameShows(1); }));
+    DragTo(HalfOf(1, false));
+    EXPECT_TRUE(tests::PumpUntil([this] { return HasMark(2); }));
+    DragTo(HalfOf(3, true));
+    EXPECT_TRUE(tests::PumpUntil([this] { return HasMark(3) && !HasMark(2); }));
+    DragTo(HalfOf(4, false));
+    EXPECT_TRUE(tests::PumpUntil([this] { return HasMark(5) && !HasMark(3); }));
     tests::Release();
-    EXPECT_TRUE(tests::PumpUntil([&] { return m_list.PlaceOf(0) == 3 && !frameShows(0) && !frameShows(4); }));
+    EXPECT_TRUE(tests::PumpUntil([this] { return m_list.PlaceOf(0) == 4 && !HasMark(5); }));
+}
+
+TEST_F(RecordingListTest, EscapeEndsADrag)
+{
+    Lines const order = Order();
+    tests::MoveMouse(ScreenPoint(0));
+    tests::Press();
+    DragTo(HalfOf(3, true));
+    ASSERT_TRUE(tests::PumpUntil([this] { return HasMark(3); }));
+    tests::Key(VK_ESCAPE);
+    EXPECT_TRUE(tests::PumpUntil([this] { return !HasMark(3) && ::GetCapture() != m_list.m_hWnd; }));
+    DragTo(HalfOf(4, true));
+    tests::Release();
+    tests::PumpFor(std::chrono::milliseconds(50));
+    EXPECT_EQ(Order(), order);
+    EXPECT_FALSE(HasMark(4));
+    EXPECT_FALSE(m_list.CanUndo());
+    // Nor do lines that go while they are dragged harm.
+    tests::MoveMouse(ScreenPoint(1));
+    tests::Press();
+    DragTo(HalfOf(3, true));
+    ASSERT_TRUE(tests::PumpUntil([this] { return HasMark(3); }));
+    m_list.RemoveLines();
+    tests::Release();
+    tests::PumpFor(std::chrono::milliseconds(50));
+    EXPECT_EQ(m_list.LineCount(), 0);
+    EXPECT_NE(::GetCapture(), m_list.m_hWnd);
+}
+
+TEST_F(RecordingListTest, ADragAtTheEdgeScrolls)
+{
+    std::vector<std::filesystem::path> files;
+    for (int i = 0; i < 60; ++i)
+    {
+        files.emplace_back(L"C:\\recordings\\" + std::to_wstring(i) + L".wav");
+    }
+    m_list.ShowFiles(files, std::vector<CRecordingList::Notes>(files.size()));
+    m_list.UpdateWindow();
+    tests::PumpPosted();
+    ASSERT_LT(m_list.GetCountPerPage(), 30);
+    CRect client;
+    m_list.GetClientRect(&client);
+    tests::MoveMouse(ScreenPoint(1));
+    tests::Press();
+    DragTo(tests::ClientPoint(m_list.m_hWnd, CPoint(300, client.bottom - 3)));
+    ASSERT_TRUE(tests::PumpUntil([this] { return m_list.GetTopIndex() >= 10; }));
+    ASSERT_TRUE(tests::PumpUntil([this] { return m_list.GetTopIndex() + m_list.GetCountPerPage() >= 60; }));
+    DragTo(tests::ClientPoint(m_list.m_hWnd, CPoint(300, client.bottom - 60)));
+    tests::Release();
+    ASSERT_TRUE(tests::PumpUntil([this] { return m_list.PlaceOf(1) > 40; }));
+    EXPECT_TRUE(m_list.Undo());
+    // And back up.
+    m_list.EnsureVisible(59, FALSE);
+    tests::PumpPosted();
+    tests::MoveMouse(ScreenPoint(57));
+    tests::Press();
+    CRect titles;
+    m_list.GetHeaderCtrl()->GetClientRect(&titles);
+    DragTo(tests::ClientPoint(m_list.m_hWnd, CPoint(300, titles.bottom + 2)));
+    ASSERT_TRUE(tests::PumpUntil([this] { return m_list.GetTopIndex() == 0; }));
+    tests::Release();
+    EXPECT_TRUE(tests::PumpUntil([this] { return m_list.PlaceOf(57) == 0; }));
+}
+
+TEST_F(RecordingListTest, KeysMoveTheSelectedLines)
+{
+    Select({1, 2});
+    tests::Key(VK_DOWN, {VK_MENU});
+    ASSERT_TRUE(tests::PumpUntil([this] { return Order() == (Lines{0, 3, 1, 2, 4}); }));
+    tests::Key(VK_DOWN, {VK_MENU});
+    ASSERT_TRUE(tests::PumpUntil([this] { return Order() == (Lines{0, 3, 4, 1, 2}); }));
+    tests::Key(VK_DOWN, {VK_MENU});
+    tests::Key(VK_UP, {VK_MENU});
+    ASSERT_TRUE(tests::PumpUntil([this] { return Order() == (Lines{0, 3, 1, 2, 4}); }));
+    EXPECT_EQ(m_list.SelectedLines(), (Lines{1, 2}));
+    m_list.ChooseLine(4);
+    EXPECT_FALSE(m_list.MoveSelected(false));
+    ASSERT_TRUE(tests::PumpUntil([this] { return m_list.Undo() && Order() == (Lines{0, 1, 2, 3, 4}); }));
 }
 
 TEST_F(RecordingListTest, CtrlCCopiesTheSelectedLinesInTheirOrderAsTextAndHtml)

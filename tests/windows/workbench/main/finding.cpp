@@ -69,19 +69,57 @@ TEST_F(WorkbenchFinding, TypingNarrowsTheListAndEscapeEndsIt)
     EXPECT_EQ(Status().find(L"shown"), std::wstring::npos);
 }
 
-TEST_F(WorkbenchFinding, TheKindNarrowsToo)
+TEST_F(WorkbenchFinding, ChoicesNarrowTogether)
 {
-    ShowFolder(5);
-    m_window->SendMessage(WM_COMMAND, ID_FIND);
-    List().SelectLines({1, 3}, 1);
+    ShowFolder(6);
+    {
+        std::ofstream(m_folder / "recordings" / "r00006.wav") << "no recording";
+        m_window->SendMessage(WM_COMMAND, ID_RELOAD);
+        ASSERT_TRUE(tests::PumpUntil([this] { return List().GetItemCount() == 7; }));
+        ASSERT_TRUE(WaitUntilRead());
+    }
+    List().SelectLines({1, 3, 4}, 1);
     List().SendMessage(WM_KEYDOWN, VK_SPACE);
     tests::PumpPosted();
-    auto & kinds = static_cast<CComboBox &>(*Panel().GetDlgItem(IDC_FILTER_KIND));
-    kinds.SetCurSel(1); // the marked ones
-    Panel().SendMessage(WM_COMMAND, MAKEWPARAM(IDC_FILTER_KIND, CBN_SELCHANGE), reinterpret_cast<LPARAM>(kinds.m_hWnd));
-    EXPECT_EQ(Rows(), (Lines{1, 3}));
-    Panel().ShowFilter(false);
-    EXPECT_EQ(List().GetItemCount(), 5);
+    List().ChooseLine(3);
+    List().ChooseRating(3);
+    ASSERT_NE(List().RatingCombo(), nullptr);
+    tests::PumpPosted();
+    tests::Key(VK_DOWN);
+    tests::Key(VK_RETURN);
+    ASSERT_TRUE(tests::PumpUntil([this] { return List().NotesOf(3).rating == 1; }));
+
+    // All by the keyboard: the marked ones, of them the good ones.
+    tests::Key(L'F', {VK_CONTROL});
+    auto const at = [this](int id) { return ::GetFocus() == Panel().GetDlgItem(id)->m_hWnd; };
+    ASSERT_TRUE(tests::PumpUntil([&] { return at(IDC_FILTER_WORDS); }));
+    tests::Key(VK_TAB);
+    ASSERT_TRUE(tests::PumpUntil([&] { return at(IDC_FILTER_MARKED); }));
+    tests::Key(VK_SPACE);
+    ASSERT_TRUE(tests::PumpUntil([this] { return Rows() == (Lines{1, 3, 4}); }));
+    tests::Key(VK_TAB);
+    ASSERT_TRUE(tests::PumpUntil([&] { return at(IDC_FILTER_RATING); }));
+    tests::Key(VK_DOWN); // those without a rating
+    ASSERT_TRUE(tests::PumpUntil([this] { return Rows() == (Lines{1, 4}); }));
+    tests::Key(VK_DOWN);
+    ASSERT_TRUE(tests::PumpUntil([this] { return Rows() == Lines{3}; }));
+    tests::Key(VK_TAB);
+    ASSERT_TRUE(tests::PumpUntil([&] { return at(IDC_FILTER_STATE); }));
+    tests::Key(VK_DOWN);
+    ASSERT_TRUE(tests::PumpUntil([this] { return List().Filter().state == workbench::RecordingFilter::State::sound; }));
+    EXPECT_EQ(Rows(), Lines{3});
+    tests::Key(VK_END);
+    ASSERT_TRUE(tests::PumpUntil([this] { return Rows().empty(); }));
+
+    // Escape lets all through, and the choices are as at first.
+    tests::Key(VK_ESCAPE);
+    ASSERT_TRUE(tests::PumpUntil([this] { return !Panel().ShowsFilter(); }));
+    EXPECT_EQ(List().GetItemCount(), 7);
+    EXPECT_TRUE(List().Filter().LetsAllThrough());
+    tests::Key(L'F', {VK_CONTROL});
+    ASSERT_TRUE(tests::PumpUntil([&] { return at(IDC_FILTER_WORDS); }));
+    EXPECT_EQ(static_cast<CButton &>(*Panel().GetDlgItem(IDC_FILTER_MARKED)).GetCheck(), BST_UNCHECKED);
+    EXPECT_EQ(static_cast<CComboBox &>(*Panel().GetDlgItem(IDC_FILTER_STATE)).GetCurSel(), 0);
 }
 
 TEST_F(WorkbenchFinding, KeysUndoAndRedo)

@@ -1,0 +1,241 @@
+// How the main window follows folders that change.
+
+#include "MainWindow.h"
+
+#include <algorithm>
+#include <numeric>
+#include <utility>
+
+#include "logic/FolderChanges.h"
+#include "logic/RecordingSearch.h"
+
+namespace
+{
+
+constexpr UINT busy_interval = 200; // milliseconds between looks whether the list is at rest
+
+} // namespace
+
+LRESULT CMainWindow::OnFolderChanged(WPARAM, LPARAM)
+{
+    m_followAgain = true;
+    Follow();
+    return 0;
+}
+
+/// Whether lines can change places and come and go now.
+bool CMainWindow::MayFollow() const
+{
+    auto const isListing = m_listed < m_found.size() || m_toReread > 0 || m_wantedView || !m_followed.empty();
+    return !m_search && !isListing && !m_list.IsEditing() && !m_list.IsDragging();
+}
+
+/// Looks for what has changed, as soon as the list is at rest.
+void CMainWindow::Follow()
+{
+    if (!m_followAgain || m_targets.empty())
+    {
+        KillTimer(follow_timer);
+        return;
+    }
+    if (!MayFollow())
+    {
+        SetTimer(follow_timer, busy_interval, nullptr);
+        return;
+    }
+    KillTimer(follow_timer);
+    m_followAgain = false;
+    m_following = true;
+    m_search = std::make_unique<workbench::RecordingSearch>(
+        m_targets, [window = m_hWnd] { ::PostMessageW(window, message_recordings_ready, 0, 0); }, true);
+}
+
+/// Has the list show what is there now. What is as it was stays as it is.
+void CMainWindow::TakeFollowed(workbench::FoundRecordings found)
+{
+    if (!MayFollow())
+    {
+        m_followAgain = true;
+        Follow();
+        return;
+    }
+    StoreNotes();
+    std::vector<workbench::KnownFile> listed;
+    listed.reserve(m_recordings.size());
+    for (auto const & [file, analysis, queued] : m_recordings)
+    {
+        listed.push_back({file, analysis ? analysis->file : workbench::FileFacts()});
+    }
+    std::vector<workbench::KnownFile> present;
+    present.reserve(found.files.size());
+    for (std::size_t i = 0; i < found.files.size() && i < found.facts.size(); ++i)
+    {
+        present.push_back({found.files[i], found.facts[i]});
+    }
+    auto changes = workbench::CompareFolder(listed, present);
+    auto const foldersChanged = found.missing != m_missing || found.folders != m_openedFolders;
+    m_missing = std::move(found.missing);
+    m_openedFolders = std::move(found.folders);
+    if (changes.IsEmpty() && !foldersChanged)
+    {
+        return;
+    }
+    for (auto const & [line, file] : changes.renamed)
+    {
+        RenameRecording(static_cast<int>(line), file);
+    }
+    auto const top = m_list.TopLine();
+    for (auto const line : changes.changed)
+    {
+        if (!m_recordings[line].queued)
+        {
+            Queue(static_cast<int>(line));
+        }
+        m_frames.Reload(m_recordings[line].file);
+    }
+    if (!changes.gone.empty())
+    {
+        std::vector<int> numbers(m_recordings.size());
+        for (auto const line : changes.gone)
+        {
+            numbers[line] = -1;
+        }
+        auto next = 0;
+        std::ranges::transform(numbers, numbers.begin(), [&next](int number) { return number < 0 ? -1 : next++; });
+        Renumber(numbers);
+        if (top >= 0 && numbers[static_cast<std::size_t>(top)] >= 0)
+        {
+            m_list.ScrollToLine(numbers[static_cast<std::size_t>(top)]);
+        }
+    }
+    if (!changes.come.empty() || !changes.renamed.empty())
+    {
+        m_order = PresentOrder();
+        m_followed = std::move(found.files);
+        m_found = std::move(changes.come);
+        m_listed = 0;
+    }
+    m_valuesChanged = true;
+    FillFolders();
+    SetTimer(work_timer, USER_TIMER_MINIMUM, nullptr);
+    ShowChosen();
+    ShowProgress();
+    UpdateStatusLine();
+    NoteView();
+}
+
+/// A recording's file has another name by now; what is said about it goes along.
+void CMainWindow::RenameRecording(int line, std::filesystem::path const & file)
+{
+    auto & recording = m_recordings[static_cast<std::size_t>(line)];
+    auto const before = std::exchange(recording.file, file);
+    auto const notes = m_notes->Of(before);
+    m_notes->Set(before, {});
+    m_notes->Set(file, notes);
+    m_list.Rename(line, file);
+    if (line == m_list.ChosenLine())
+    {
+        m_shown.reset(); // it shows the name
+        ShowChosen();
+    }
+    NoteView();
+}
+
+/// Gives recordings other numbers, by their present ones; those below 0 go. Where the chosen one goes, the next one in
+/// the list is chosen, or the last one that is left.
+void CMainWindow::Renumber(std::vector<int> const & numbers)
+{
+    auto const numberOf = [&numbers](int line) {
+        return line >= 0 && static_cast<std::size_t>(line) < numbers.size() ? numbers[static_cast<std::size_t>(line)]
+                                                                            : -1;
+    };
+    auto chosen = m_list.ChosenLine();
+    if (auto const row = m_list.PlaceOf(chosen); row >= 0 && numberOf(chosen) < 0)
+    {
+        auto next = row;
+        while (next < m_list.GetItemCount() && numberOf(m_list.LineAt(next)) < 0)
+        {
+            ++next;
+        }
+        auto previous = row;
+        while (next == m_list.GetItemCount() && previous >= 0 && numberOf(m_list.LineAt(previous)) < 0)
+        {
+            --previous;
+        }
+        chosen = m_list.LineAt(next < m_list.GetItemCount() ? next : previous);
+    }
+    auto const anySelectedStays =
+        std::ranges::any_of(m_list.SelectedLines(), [&](int line) { return numberOf(line) >= 0; });
+    ++m_generation;
+    m_queue->Clear();
+    m_results.clear();
+    m_queued = 0;
+    auto before = std::exchange(m_recordings, {});
+    m_recordings.resize(static_cast<std::size_t>(std::ranges::count_if(numbers, [](int n) { return n >= 0; })));
+    for (std::size_t line = 0; line < before.size(); ++line)
+    {
+        if (numbers[line] >= 0)
+        {
+            m_recordings[static_cast<std::size_t>(numbers[line])] = std::move(before[line]);
+        }
+    }
+    m_detailsIndex = numberOf(m_detailsIndex);
+    m_list.Renumber(numbers);
+    for (std::size_t line = 0; line < m_recordings.size(); ++line)
+    {
+        if (m_recordings[line].queued)
+        {
+            Queue(static_cast<int>(line));
+        }
+    }
+    if (!anySelectedStays && numberOf(chosen) >= 0)
+    {
+        m_list.ChooseLine(numberOf(chosen));
+    }
+}
+
+/// Gives lines that have come the numbers that they would have had they been there from the beginning.
+void CMainWindow::ArrangeFollowed()
+{
+    auto const files = std::exchange(m_followed, {});
+    std::unordered_map<std::wstring, int> places;
+    for (std::size_t i = 0; i < files.size(); ++i)
+    {
+        places.emplace(files[i].wstring(), static_cast<int>(i));
+    }
+    // By their places; the rest, if any, stays behind them.
+    std::vector<int> lines(m_recordings.size());
+    std::iota(lines.begin(), lines.end(), 0);
+    std::vector<int> wanted(lines.size(), static_cast<int>(files.size()));
+    for (std::size_t line = 0; line < lines.size(); ++line)
+    {
+        if (auto const place = places.find(m_recordings[line].file.wstring()); place != places.end())
+        {
+            wanted[line] = place->second;
+        }
+    }
+    std::ranges::stable_sort(lines, {}, [&wanted](int line) { return wanted[static_cast<std::size_t>(line)]; });
+    if (std::ranges::is_sorted(lines))
+    {
+        return;
+    }
+    std::vector<int> numbers(lines.size());
+    for (std::size_t i = 0; i < lines.size(); ++i)
+    {
+        numbers[static_cast<std::size_t>(lines[i])] = static_cast<int>(i);
+    }
+    // Lines in the order of the files go on so. In another one, which is the user's, those that have come are the last.
+    auto const order = m_list.Order();
+    auto const isAsFound = order.column < 0 && std::ranges::is_sorted(order.lines);
+    auto const top = m_list.TopLine();
+    Renumber(numbers);
+    if (isAsFound)
+    {
+        std::iota(lines.begin(), lines.end(), 0);
+        m_list.SetOrder({-1, true, lines});
+    }
+    if (isAsFound && top >= 0)
+    {
+        m_list.ScrollToLine(numbers[static_cast<std::size_t>(top)]);
+    }
+}

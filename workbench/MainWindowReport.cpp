@@ -1,0 +1,74 @@
+// The main window's reports about recordings.
+
+#include "MainWindow.h"
+
+#include <utility>
+
+#include "FileDialogs.h"
+#include "frame/CoreLibrary.h"
+#include "logic/Texts.h"
+
+using workbench::Text;
+
+void CMainWindow::PrepareReport()
+{
+    m_report.m_onProgress = [this] { ShowProgress(); };
+    m_report.m_onEnded = [this](bool written) {
+        m_reported = written ? m_report.File() : std::filesystem::path();
+        ShowProgress();
+        UpdateStatusLine();
+        if (!written)
+        {
+            AfxMessageBox(Text(L"This file could not be written:") + (L"\n\n" + CString(m_report.File().c_str())),
+                          MB_ICONEXCLAMATION);
+        }
+    };
+}
+
+bool CMainWindow::WriteReport(std::filesystem::path const & file)
+{
+    m_list.EndEditing();
+    std::vector<workbench::ReportedRecording> recordings;
+    for (auto const line : m_list.Order().lines)
+    {
+        auto const * const recording = RecordingAt(line);
+        if (recording == nullptr || !m_list.IsChecked(line))
+        {
+            continue;
+        }
+        auto const notes = m_list.NotesOf(line);
+        auto & reported =
+            recordings.emplace_back(workbench::ReportedRecording{recording->file, recording->analysis, notes, {}, {}});
+        reported.rating = notes.rating > 0 ? CRecordingList::RatingName(notes.rating) : L"";
+        if (recording->analysis && recording->analysis->file.lastWrite)
+        {
+            reported.date = UserDateTimeText(CTime(*recording->analysis->file.lastWrite), dtf_date_time).GetString();
+        }
+    }
+    m_reported.clear();
+    auto const begun = !recordings.empty() && m_report.Begin(std::move(recordings), file, m_settings, m_metrics);
+    UpdateStatusLine();
+    return begun;
+}
+
+void CMainWindow::OnWriteReport()
+{
+    LifeWatch const life(m_life);
+    auto const file = workbench::ChooseReportFile(*this);
+    if (file && !life.Over() && m_hWnd != nullptr && m_list.Totals().Checked() > 0 && !WriteReport(*file))
+    {
+        AfxMessageBox(Text(L"This file could not be written:") + (L"\n\n" + CString(file->c_str())),
+                      MB_ICONEXCLAMATION);
+    }
+}
+
+/// What the status line says of it.
+std::wstring CMainWindow::ReportText() const
+{
+    if (m_report.IsWriting())
+    {
+        return std::wstring(L", ") + Text(L"report being written");
+    }
+    return m_reported.empty() ? std::wstring()
+                              : std::wstring(L", ") + Text(L"report written:") + L' ' + m_reported.wstring();
+}
