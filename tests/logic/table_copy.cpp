@@ -125,15 +125,15 @@ TEST_F(TableCopyTest, OneRefusedCellRefusesAll)
     EXPECT_EQ(report.cells, 8U);
     EXPECT_EQ(report.refusedCells, 6U);
     ASSERT_EQ(report.refused.size(), 6U);
-    EXPECT_EQ(report.refused[0].refusal, TableRefusal::notReadable);
+    EXPECT_EQ(report.refused[0].refusal, TableRefusal::not_readable);
     EXPECT_EQ(report.refused[0].text, L"loud");
-    EXPECT_EQ(report.refused[1].refusal, TableRefusal::notEditable);
-    EXPECT_EQ(report.refused[2].refusal, TableRefusal::byCheck);
+    EXPECT_EQ(report.refused[1].refusal, TableRefusal::not_editable);
+    EXPECT_EQ(report.refused[2].refusal, TableRefusal::by_check);
     EXPECT_EQ(report.refused[2].reason, L"too loud");
     EXPECT_EQ(report.refused[2].line, 1U);
     EXPECT_EQ(report.refused[2].field, 1U);
-    EXPECT_EQ(report.refused[4].refusal, TableRefusal::noSuchColumn);
-    EXPECT_EQ(report.refused[5].refusal, TableRefusal::noSuchRow);
+    EXPECT_EQ(report.refused[4].refusal, TableRefusal::no_such_column);
+    EXPECT_EQ(report.refused[5].refusal, TableRefusal::no_such_row);
     EXPECT_EQ(source->rows[0].cells[0].Text(), L"a;\"b\"\tc");
 }
 
@@ -145,7 +145,7 @@ TEST_F(TableCopyTest, WhatWasWrittenGoesBackIfTheSourceRefuses)
     TablePasteReport const report = PasteTable(model, {{L"x", L"1"}, {L"y"}}, 0, {0, 1});
     EXPECT_FALSE(report.done);
     ASSERT_EQ(report.refused.size(), 1U);
-    EXPECT_EQ(report.refused[0].refusal, TableRefusal::bySource);
+    EXPECT_EQ(report.refused[0].refusal, TableRefusal::by_source);
     EXPECT_EQ(source->rows[0].cells[0].Text(), L"a;\"b\"\tc");
     EXPECT_EQ(source->rows[0].cells[1].Number(), -1.25);
 }
@@ -155,7 +155,7 @@ TEST_F(TableCopyTest, NothingIsPutIntoASourceThatHasEnded)
     source.reset();
     TablePasteReport const report = PasteTable(model, {{L"x"}}, 0, {0});
     EXPECT_FALSE(report.done);
-    EXPECT_EQ(report.refused.at(0).refusal, TableRefusal::noSuchRow);
+    EXPECT_EQ(report.refused.at(0).refusal, TableRefusal::no_such_row);
     EXPECT_FALSE(PasteTable(model, {{L"x"}, {L"y"}}, no_table_row - 1, {0}).done);
 }
 

@@ -17,7 +17,7 @@ using Order = std::vector<TableRow>;
 /// Rows of one number each.
 std::shared_ptr<Source> Numbers(std::vector<double> const & values)
 {
-    auto const source = std::make_shared<Source>();
+    auto source = std::make_shared<Source>();
     for (double const value : values)
         source->rows.push_back({100 + source->rows.size(), {Number(value), Text(L"Row " + std::to_wstring(value))}});
     return source;

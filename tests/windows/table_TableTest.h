@@ -31,6 +31,9 @@ public:
         progress_column,
         link_column
     };
+    /// No row takes it.
+    static constexpr wchar_t const * refused_name = L"nobody";
+
     struct Row
     {
         TableKey key;
@@ -93,6 +96,8 @@ public:
         switch (column)
         {
         case name_column:
+            if (value.Text() == refused_name)
+                return false;
             m_rows[row].name = value.Text();
             return true;
         case number_column:
@@ -110,6 +115,11 @@ public:
     {
         std::lock_guard const lock(m_lock);
         m_rows.push_back({100 + m_nextKey++, std::move(name), number});
+    }
+    void Remove(TableRow row)
+    {
+        std::lock_guard const lock(m_lock);
+        m_rows.erase(m_rows.begin() + row);
     }
     void SetNumber(TableRow row, double number)
     {

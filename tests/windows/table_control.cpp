@@ -5,6 +5,7 @@
 #include <afxcmn.h>
 
 #include <algorithm>
+#include <atomic>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -187,8 +188,8 @@ TEST_F(TableControl, ADoubleClickOnAnotherRowSelectsIt)
     Show({0, 1, 2});
     TableRow opened = no_table_row;
     table->m_onDoubleClick = [&opened](TableRow row, unsigned int) { opened = row; };
-    Press(1, 0);
-    CPoint const point = CellPoint(1, 0);
+    Press(1, 3);
+    CPoint const point = CellPoint(1, 3);
     table->SendMessage(WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(point.x, point.y));
     EXPECT_EQ(opened, 1U);
     opened = no_table_row;
@@ -304,6 +305,9 @@ TEST_F(TableControl, ChangesDuringAPaintDoNoHarm)
         case 9:
             table->SetColumns({Columns()[0]});
             break;
+        case 10:
+            EXPECT_FALSE(table->DeleteColumn(0)) << "the native list paints";
+            break;
         case 11:
             table->SetSource(nullptr);
             break;
@@ -323,6 +327,36 @@ TEST_F(TableControl, ChangesDuringAPaintDoNoHarm)
     table->SetColumns(Columns());
     Show({5});
     EXPECT_EQ(table->GetItemText(0, 1), L"5.0");
+}
+
+TEST_F(TableControl, WithoutColumnsThereIsNothingToSee)
+{
+    table->SetColumns({});
+    Show({1, 2, 3});
+    EXPECT_EQ(table->RowsShown(), 3U);
+    table->GoToRow(2);
+    table->SortBy({{TableRowsSource::number_column, true}});
+    PressKey(VK_DOWN);
+    PressKey(VK_F2);
+    table->SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(20, 60));
+    table->SendMessage(WM_CONTEXTMENU, reinterpret_cast<WPARAM>(table->m_hWnd), -1);
+    table->Invalidate();
+    table->UpdateWindow();
+    table->SetColumns(Columns());
+    EXPECT_EQ(table->GetItemText(0, 1), L"3.0");
+}
+
+TEST_F(TableControl, ColumnsThatOthersDeleteComeBack)
+{
+    Show({1, 2, 3});
+    while (table->GetHeaderCtrl()->GetItemCount() != 0)
+        ASSERT_TRUE(table->DeleteColumn(0));
+    table->SortBy({{TableRowsSource::number_column, true}});
+    table->GoToRow(2);
+    table->Invalidate();
+    table->UpdateWindow();
+    ASSERT_TRUE(tests::PumpUntil([this] { return table->GetHeaderCtrl()->GetItemCount() == 5; }));
+    EXPECT_EQ(table->GetItemText(0, 1), L"3.0");
 }
 
 TEST_F(TableControl, ANativeListBecomesATable)
@@ -456,6 +490,45 @@ TEST_F(TableControl, ColumnsAreDraggedAndSizedWithTheMouse)
     ASSERT_TRUE(tests::PumpUntil([this] { return table->GetColumnWidth(0) > column_width + 10; }));
 }
 
+namespace
+{
+/// Counts what is asked; each row has a longer text than the one before.
+class CountingSource : public TableSource
+{
+public:
+    TableRow RowCount() const override { return tests::ManyRowsSource::count; }
+    bool Read(TableRow row, unsigned int, TableValue & value) const override
+    {
+        ++asked;
+        value.SetText(std::wstring(row % 1000 + 20, L'm'));
+        return true;
+    }
+    mutable std::atomic<int> asked{0};
+};
+} // namespace
+
+TEST_F(TableControl, ADividersDoubleClickFitsWhatIsSeen)
+{
+    auto const many = std::make_shared<CountingSource>();
+    table->SetColumns({Columns()[0]});
+    table->SetSource(many);
+    ASSERT_TRUE(tests::BringToFront(parent.m_hWnd));
+    table->UpdateWindow();
+    many->asked = 0;
+    CRect const title = TitleRect(0);
+    tests::DoubleClick(tests::ClientPoint(table->m_hWnd, CPoint(title.right - 2, title.CenterPoint().y)));
+    ASSERT_TRUE(tests::PumpUntil([this] { return table->GetColumnWidth(0) > 2 * column_width; }));
+    int const width = table->GetColumnWidth(0);
+    EXPECT_LT(many->asked, 1000) << "not every row";
+    table->SetColumnWidth(0, 50);
+    table->SetColumnWidth(0, LVSCW_AUTOSIZE);
+    EXPECT_EQ(table->GetColumnWidth(0), width);
+    EXPECT_LT(many->asked, 1000);
+    table->SetSource(nullptr);
+    table->SetColumnWidth(0, LVSCW_AUTOSIZE);
+    EXPECT_LT(table->GetColumnWidth(0), width) << "the title is left";
+}
+
 TEST_F(TableControl, TheHeadersMenuChoosesColumns)
 {
     Show({1});
@@ -477,7 +550,7 @@ TEST_F(TableControl, FrozenColumnsStandStill)
     table->SetWindowPos(nullptr, 0, 0, 200, 220, SWP_NOMOVE | SWP_NOZORDER);
     table->SetFrozenColumns(1);
     ASSERT_TRUE(tests::BringToFront(parent.m_hWnd));
-    table->SendMessage(LVM_SCROLL, 2 * column_width, 0);
+    table->SendMessage(LVM_SCROLL, WPARAM{2} * column_width, 0);
     table->UpdateWindow();
     tests::PumpPosted();
     CRect row(0, 0, 0, 0);

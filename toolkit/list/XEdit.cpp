@@ -95,13 +95,17 @@ void CXEdit::OnPaint()
     }
     Default();
     // The list is asked for colours, and is anything its host makes of it.
-    if (!IsStillThere(window, this))
-        return;
-    // Around the edit, so that it is the parent that is painted on.
+    if (IsStillThere(window, this))
+        PaintFrame();
+}
+
+void CXEdit::PaintFrame()
+{
     CWnd * const parent = GetParent();
     CDC * const dc = parent != nullptr ? parent->GetDC() : nullptr;
     if (dc == nullptr)
         return;
+    CRect area;
     GetClientRect(&area);
     MapWindowPoints(parent, &area);
     area.right += frame_widening;

@@ -20,6 +20,10 @@ public:
     bool IsClosing() const { return m_closing != 0; }
     /// No closing message goes out from now on.
     void SetClosing() { m_closing = 1; }
+    /// Instead of being ended within the message, it goes on: the next reason to end is told anew.
+    void StayOpen() { m_closing = 0; }
+    /// Around the edit, on its parent.
+    void PaintFrame();
 
 protected:
     afx_msg void OnChar(UINT character, UINT repeat, UINT flags);
@@ -29,10 +33,10 @@ protected:
     afx_msg void OnPaint();
     DECLARE_MESSAGE_MAP()
 
-private:
     /// The object may be gone afterwards.
     void SendClosing(UINT message);
 
+private:
     CWnd * m_list;
     CString m_text;
     unsigned int m_closing = 0;

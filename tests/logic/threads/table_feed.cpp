@@ -77,7 +77,7 @@ TEST(TableThreads, NothingThatIsToldGetsLost)
                 feed->RowsChanged(2 * (row * teller_count + teller), 2 * (row * teller_count + teller));
             --telling;
         });
-    std::vector<bool> told(2 * rows_a_teller * teller_count);
+    std::vector<bool> told(std::size_t{2} * rows_a_teller * teller_count);
     bool overflow = false;
     for (;;)
     {

@@ -196,29 +196,29 @@ TablePasteReport PasteTable(TableModel const & model, std::vector<CsvRecord> con
             ++report.cells;
             if (row == no_table_row || !source || row >= source->RowCount())
             {
-                refuse(line, field, TableRefusal::noSuchRow);
+                refuse(line, field, TableRefusal::no_such_row);
                 continue;
             }
             if (field >= columns.size() || columns[field] >= looks->columns.size())
             {
-                refuse(line, field, TableRefusal::noSuchColumn);
+                refuse(line, field, TableRefusal::no_such_column);
                 continue;
             }
             TableColumn const & column = looks->columns[columns[field]];
             Cell cell{line, field, row, columns[field], {}};
             if (!column.editable)
             {
-                refuse(line, field, TableRefusal::notEditable);
+                refuse(line, field, TableRefusal::not_editable);
             }
             else if (!ParseValue(cell.value, block[line][field], column, looks->locale))
             {
-                refuse(line, field, TableRefusal::notReadable);
+                refuse(line, field, TableRefusal::not_readable);
             }
             else
             {
                 std::wstring reason = column.check ? column.check(cell.value) : std::wstring();
                 if (!reason.empty())
-                    refuse(line, field, TableRefusal::byCheck, std::move(reason));
+                    refuse(line, field, TableRefusal::by_check, std::move(reason));
                 else
                     cells.push_back(std::move(cell));
             }
@@ -240,7 +240,7 @@ TablePasteReport PasteTable(TableModel const & model, std::vector<CsvRecord> con
     report.done = written == cells.size();
     if (!report.done)
     {
-        refuse(cells[written].line, cells[written].field, TableRefusal::bySource);
+        refuse(cells[written].line, cells[written].field, TableRefusal::by_source);
         while (written-- > 0)
             source->Write(cells[written].row, cells[written].column, former[written]);
         return report;

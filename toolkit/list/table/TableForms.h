@@ -23,17 +23,17 @@ enum class TableForm
 enum class TableRefusal
 {
     /// The block reaches past the last row.
-    noSuchRow,
+    no_such_row,
     /// The block reaches past the last column.
-    noSuchColumn,
+    no_such_column,
     /// The column is not editable.
-    notEditable,
+    not_editable,
     /// The text is no value of the column's kind.
-    notReadable,
+    not_readable,
     /// By the column's check, which says why.
-    byCheck,
+    by_check,
     /// By the source, while the values were written; what was written before has gone back.
-    bySource
+    by_source
 };
 
 /// A text that was not taken.

@@ -78,7 +78,7 @@ void Flip(TableModel & model, TableRow position)
 
 TypedText::Search TypedText::Add(wchar_t character, long long now)
 {
-    if (now - m_last > longest_pause || now < m_last)
+    if (!GoesOn(now))
         m_text.clear();
     m_last = now;
     wchar_t const folded = FoldCase(character);

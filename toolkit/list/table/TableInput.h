@@ -42,6 +42,8 @@ public:
         bool fromFocus;
     };
     Search Add(wchar_t character, long long now);
+    /// Whether the next character goes on with the text.
+    bool GoesOn(long long now) const { return !m_text.empty() && now >= m_last && now - m_last <= longest_pause; }
     void Forget() { m_text.clear(); }
 
 private:

@@ -148,7 +148,7 @@ std::shared_ptr<TableOrderTask> TableModel::BeginOrder()
 {
     if (std::shared_ptr<TableOrderTask> const former = m_task.lock())
         former->Progress().Stop();
-    auto const task = std::make_shared<TableOrderTask>();
+    auto task = std::make_shared<TableOrderTask>();
     task->m_source = m_source;
     task->m_sort = m_sort;
     task->m_filter = m_filter;

@@ -92,7 +92,11 @@ private:
     void Set(TableKind kind, std::wstring_view text)
     {
         m_kind = kind;
-        m_text.assign(text);
+        // Most values have none, and a million of them are set for one sort.
+        if (text.empty())
+            m_text.clear();
+        else
+            m_text.assign(text);
     }
 
     TableKind m_kind = TableKind::blank;
@@ -104,7 +108,8 @@ private:
 /// The host's rows. They are asked for by the window's thread and by threads of the table's own (sorting, filtering and
 /// export of many rows), so that every question must be answered on any thread, also several at a time. The table holds
 /// its source by a weak pointer and locks it for some questions at a time only: the last to let go of it may be one of
-/// the table's threads. No answer may be an exception.
+/// the table's threads. No answer may be an exception, and none may call the table, which is in the middle of
+/// something.
 class TableSource
 {
 public:
@@ -121,7 +126,8 @@ public:
     {
         return key < RowCount() ? static_cast<TableRow>(key) : no_table_row;
     }
-    /// Takes a value that the user has edited or pasted; false refuses it.
+    /// Takes a value that the user has edited or pasted; false refuses it. Called by the window's thread alone; may
+    /// call the table, and end it.
     virtual bool Write(TableRow row, unsigned int column, TableValue const & value)
     {
         static_cast<void>(row);

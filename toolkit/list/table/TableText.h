@@ -16,7 +16,7 @@
 enum class TableAlign
 {
     /// Numbers at their decimal sign, times and ticks in the middle, all else at the left.
-    byKind,
+    by_kind,
     /// At the left.
     left,
     /// In the middle.
@@ -37,7 +37,7 @@ struct TableColumn
     /// Digits of a time behind the second, 0 to 6.
     int secondDigits = 3;
     /// Where its texts stand.
-    TableAlign align = TableAlign::byKind;
+    TableAlign align = TableAlign::by_kind;
     /// In pixels at 96 to the inch.
     int width = 90;
     /// Whether the user has to ask for it.

@@ -3,6 +3,8 @@
 #include <thread>
 #include <utility>
 
+#include "frame/InternalMessages.h"
+
 IMPLEMENT_DYNAMIC(CXTableCtrl, CListCtrl)
 
 BEGIN_MESSAGE_MAP(CXTableCtrl, CListCtrl)
@@ -14,6 +16,7 @@ BEGIN_MESSAGE_MAP(CXTableCtrl, CListCtrl)
     ON_WM_LBUTTONDOWN()
     ON_WM_LBUTTONDBLCLK()
     ON_WM_RBUTTONDOWN()
+    ON_WM_RBUTTONUP()
     ON_WM_KEYDOWN()
     ON_WM_CHAR()
     ON_WM_SIZE()
@@ -23,6 +26,8 @@ BEGIN_MESSAGE_MAP(CXTableCtrl, CListCtrl)
     ON_WM_SYSCOLORCHANGE()
     ON_WM_SETTINGCHANGE()
     ON_WM_DESTROY()
+    ON_REGISTERED_MESSAGE(WM_XEDIT_KILL_FOCUS, &CXTableCtrl::OnEditEnds)
+    ON_REGISTERED_MESSAGE(WM_XEDIT_VK_ESCAPE, &CXTableCtrl::OnEditLeft)
 END_MESSAGE_MAP()
 
 namespace
@@ -85,7 +90,7 @@ void CXTableCtrl::PreSubclassWindow()
     // A list without owner data would keep rows, and ask for none of these.
     ASSERT((GetStyle() & LVS_OWNERDATA) != 0);
     // The window that is being created here is no list yet; it is prepared with its first message.
-    if (GetHeaderCtrl() != nullptr)
+    if (Titles() != nullptr)
         PrepareWindow();
 }
 
@@ -93,34 +98,48 @@ void CXTableCtrl::OnDestroy()
 {
     m_state->waker->SetWindow(nullptr);
     m_state->prepared = false;
+    if (m_state->editing)
+        m_state->editing->window->SetClosing();
+    m_state->editing.reset();
     StopOrdering();
     CListCtrl::OnDestroy();
 }
 
 void CXTableCtrl::SetColumns(std::vector<TableColumn> columns, std::wstring const & name)
 {
+    LifeWatch const life(m_lifeSign);
+    CloseEdit();
+    if (life.Over())
+        return;
     TableLooks looks;
     looks.columns = std::move(columns);
     looks.locale = m_state->model.Looks().locale;
     m_state->name = name;
-    m_state->focusColumn = 0;
+    m_state->focusColumn = State::no_column;
     m_state->model.SetLooks(std::move(looks));
     m_state->layout.Reset(m_state->model.Looks().columns);
     LoadColumns();
     PrepareWindow();
-    MakeNativeColumns();
+    if (!life.Over())
+        MakeNativeColumns();
 }
 
 void CXTableCtrl::SetSource(std::shared_ptr<TableSource> const & source)
 {
+    LifeWatch const life(m_lifeSign);
+    CloseEdit();
+    if (life.Over())
+        return;
     // What was told of the former one is of no interest.
     m_state->feed->Take();
     m_state->model.SetSource(source);
     SetNativeCount();
-    if (m_hWnd != nullptr && RowsShown() != 0 && m_state->painting == 0)
-        EnsureVisible(0, FALSE);
-    WishOrder();
-    RepaintRows();
+    if (!life.Over() && m_hWnd != nullptr && RowsShown() != 0 && m_state->painting == 0)
+        BringIntoView(0);
+    if (!life.Over())
+        WishOrder();
+    if (!life.Over())
+        RepaintRows();
 }
 
 void CXTableCtrl::SetTableLocale(TableLocale locale)
@@ -129,17 +148,21 @@ void CXTableCtrl::SetTableLocale(TableLocale locale)
     looks.locale = std::move(locale);
     m_state->ownLocale = true;
     m_state->model.SetLooks(std::move(looks));
+    LifeWatch const life(m_lifeSign);
     WishOrder();
-    RepaintRows();
+    if (!life.Over())
+        RepaintRows();
 }
 
 void CXTableCtrl::OnSettingChange(UINT flags, LPCTSTR section)
 {
+    LifeWatch const life(m_lifeSign);
     CListCtrl::OnSettingChange(flags, section);
-    if (m_state->ownLocale)
+    if (life.Over() || m_state->ownLocale)
         return;
     SetTableLocale(SystemLocale());
-    m_state->ownLocale = false;
+    if (!life.Over())
+        m_state->ownLocale = false;
 }
 
 std::shared_ptr<TableFeed> const & CXTableCtrl::Feed() const
@@ -150,8 +173,10 @@ std::shared_ptr<TableFeed> const & CXTableCtrl::Feed() const
 void CXTableCtrl::SortBy(std::vector<TableSortColumn> columns)
 {
     m_state->model.SetSort(std::move(columns));
+    LifeWatch const life(m_lifeSign);
     ShowSortMarks();
-    WishOrder();
+    if (!life.Over())
+        WishOrder();
 }
 
 std::vector<TableSortColumn> const & CXTableCtrl::SortColumns() const
@@ -214,9 +239,11 @@ bool CXTableCtrl::GoToRow(TableRow row)
     if (position == TableModel::nowhere)
         return false;
     table_input::Go(m_state->model, position, false, false);
+    LifeWatch const life(m_lifeSign);
     if (m_hWnd != nullptr && m_state->painting == 0)
-        EnsureVisible(static_cast<int>(position), FALSE);
-    AfterSelection(false);
+        BringIntoView(position);
+    if (!life.Over())
+        AfterSelection(false);
     return true;
 }
 
@@ -246,16 +273,68 @@ LRESULT CXTableCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
     if (message == Waker::WakeMessage())
     {
-        if (wParam == 0)
+        switch (wParam)
+        {
+        case Waker::told:
             OnWoken();
-        else
+            break;
+        case Waker::place_edit:
+            PlaceEdit();
+            break;
+        default:
             FollowNatively();
+            break;
+        }
         return 0;
     }
     LRESULT result = 0;
     if (AnswerState(message, wParam, lParam, result))
         return result;
     LifeWatch const life(m_lifeSign);
+    switch (message)
+    {
+    case WM_VSCROLL:
+    case WM_HSCROLL:
+    case WM_MOUSEWHEEL:
+    case WM_MOUSEHWHEEL:
+        // The user leaves the cell, unless its text is refused.
+        if (!TakeEdit() || life.Over() || m_hWnd == nullptr)
+            return 0;
+        break;
+    case WM_CONTEXTMENU:
+        if (lParam == -1)
+        {
+            // By the keyboard: at the cell with the focus.
+            CPoint const place = MenuPlace();
+            if (life.Over() || m_hWnd == nullptr)
+                return 0;
+            lParam = MAKELPARAM(place.x, place.y);
+        }
+        break;
+    case WM_COMMAND:
+        if (HIWORD(wParam) == EN_CHANGE)
+            HideReason();
+        break;
+    case LVM_SETCOLUMNWIDTH:
+        // LVSCW_AUTOSIZE and the like.
+        if (static_cast<short>(LOWORD(lParam)) < 0)
+        {
+            FitColumn(static_cast<unsigned int>(wParam));
+            return TRUE;
+        }
+        break;
+    case LVM_DELETECOLUMN:
+        if (MustWait())
+            return FALSE;
+        break;
+    case LVM_INSERTCOLUMNA:
+    case LVM_INSERTCOLUMNW:
+        if (MustWait())
+            return -1;
+        break;
+    default:
+        break;
+    }
     result = CListCtrl::WindowProc(message, wParam, lParam);
     if (life.Over() || m_hWnd == nullptr)
         return result;
@@ -270,6 +349,19 @@ LRESULT CXTableCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
         // What stands still was moved along with the rest.
         if (m_state->layout.Frozen() != 0)
             RepaintRows();
+        WishEditPlace();
+        break;
+    case LVM_DELETECOLUMN:
+    case LVM_INSERTCOLUMNA:
+    case LVM_INSERTCOLUMNW:
+        // The table's columns are no others for that.
+        PostMessage(Waker::WakeMessage(), Waker::follow_natively, 0);
+        break;
+    case LVM_ENSUREVISIBLE:
+    case LVM_SETCOLUMNWIDTH:
+    case WM_SIZE:
+    case WM_SETFONT:
+        WishEditPlace();
         break;
     default:
         break;

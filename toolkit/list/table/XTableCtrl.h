@@ -15,6 +15,7 @@
 #include "list/table/TableSource.h"
 #include "list/table/TableText.h"
 
+struct TableEditing;
 struct TableEffect;
 
 /// A report of any number of rows that lie with the host. Its cells look and act as those of the report list; they are
@@ -35,12 +36,15 @@ public:
 
     /// The user's selection or focus changed.
     std::function<void()> m_onSelectionChange;
-    /// A double click on a cell, or Return: row, column.
+    /// A double click on a cell that is not typed into, or Return: row, column.
     std::function<void(TableRow, unsigned int)> m_onDoubleClick;
     /// A click on a link: row, column.
     std::function<void(TableRow, unsigned int)> m_onLinkClick;
     /// The user pasted a block; what became of it.
     std::function<void(TablePasteReport const &)> m_onPaste;
+    /// A text that was typed into that cell was refused: gives what the user is told beside the edit, which stays open.
+    /// Without it that is the reason that the column's check gave. Where the row is no more, the edit has ended.
+    std::function<std::wstring(TableRow, unsigned int, TableRefused const &)> m_onEditRefused;
     /// An export to a file has ended: whether the file is whole.
     std::function<void(bool)> m_onExportEnd;
 
@@ -105,6 +109,17 @@ public:
     /// place: among those shown.
     void MoveTableColumn(unsigned int column, unsigned int place);
 
+    // --- Cells that are typed into ---
+
+    /// Opens the edit of a cell in an editable column, as F2 does. False if there is no such cell, or another one keeps
+    /// a text that was refused.
+    bool EditCell(TableRow row, unsigned int column);
+    /// Whether a cell is being typed into.
+    bool IsEditing() const;
+    /// take: its text goes into the cell, as with Return; else it is left, as with Escape. False if it stays open,
+    /// since its text was refused.
+    bool EndEdit(bool take);
+
     // --- Copies, export and paste ---
 
     /// The selection, or all rows shown, with the columns shown. As text it goes to the clipboard together with the
@@ -130,6 +145,7 @@ protected:
     void PreSubclassWindow() override;
     BOOL PreTranslateMessage(MSG * message) override;
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT * result) override;
     /// The header's menu: which columns are shown. screen: where.
     virtual void ShowColumnMenu(CPoint screen);
@@ -144,6 +160,7 @@ protected:
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
     afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
     afx_msg void OnRButtonDown(UINT flags, CPoint point);
+    afx_msg void OnRButtonUp(UINT flags, CPoint point);
     afx_msg void OnKeyDown(UINT character, UINT repeats, UINT flags);
     afx_msg void OnChar(UINT character, UINT repeats, UINT flags);
     afx_msg void OnSize(UINT type, int width, int height);
@@ -153,11 +170,23 @@ protected:
     afx_msg void OnSysColorChange();
     afx_msg void OnSettingChange(UINT flags, LPCTSTR section);
     afx_msg void OnDestroy();
+    afx_msg LRESULT OnEditEnds(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnEditLeft(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
 private:
     struct State;
     class Waker;
+
+    // The native list (XTableCtrlNative.cpp).
+    void EndNative();
+    LRESULT AskNative(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
+    CHeaderCtrl * Titles() const;
+    TableRow TopPosition() const;
+    TableRow PageRows() const;
+    CRect RowRect(TableRow position) const;
+    bool BringIntoView(TableRow position);
+    bool ScrollSideways(int pixels);
 
     // Columns and header (XTableCtrlColumns.cpp).
     void PrepareWindow();
@@ -171,6 +200,8 @@ private:
     void ShowSortMarks();
     void PlaceFrozenHeader();
     bool OnHeaderNotify(NMHDR const & header, LRESULT * result);
+    /// As wide as what is seen of it.
+    void FitColumn(unsigned int place);
     bool DrawHeaderProgress(NMCUSTOMDRAW const & draw, LRESULT * result);
 
     // Changes (XTableCtrlLive.cpp).
@@ -193,11 +224,31 @@ private:
     void PaintRowCell(CDC & dc, TableRow row, unsigned int column, CRect const & rect, bool selected);
 
     // Input (XTableCtrlInput.cpp).
+    int ColumnRects(std::vector<CRect> & rects) const;
     bool HitCell(CPoint point, TableRow & position, unsigned int & column) const;
+    bool CellRect(TableRow position, unsigned int column, CRect & rect) const;
+    void ShowColumn(unsigned int column);
+    void MoveFocusColumn(bool right);
+    bool PressSpace();
+    bool ComeHere(LifeWatch const & life);
+    CPoint MenuPlace();
     void GoTo(TableRow position, bool shift, bool control);
     void AfterSelection(bool tell);
     void PressCell(TableRow position, unsigned int column);
     bool AnswerState(UINT message, WPARAM wParam, LPARAM lParam, LRESULT & result);
+
+    // Cells that are typed into (XTableCtrlEdit.cpp).
+    bool IsTyped(unsigned int column) const;
+    bool OpenEdit(TableRow row, unsigned int column, wchar_t const * typed);
+    bool TakeEdit();
+    void RefuseEdit(std::shared_ptr<TableEditing> const & editing, TableRefused const & refused, TableRow row);
+    void ShowReason(std::wstring reason);
+    void PlaceReason();
+    void HideReason();
+    void CloseEdit();
+    void WishEditPlace();
+    void PlaceEdit();
+    void EditNext(TableKey key, unsigned int column, bool forth);
 
     std::unique_ptr<State> m_state;
     LifeSign m_lifeSign;

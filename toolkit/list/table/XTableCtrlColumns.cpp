@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "frame/GraphicsScopes.h"
 #include "frame/PreferenceStore.h"
 
 namespace
@@ -31,7 +32,7 @@ int FormatOf(TableColumn const & column)
         return HDF_CENTER;
     case TableAlign::right:
         return HDF_RIGHT;
-    case TableAlign::byKind:
+    case TableAlign::by_kind:
         if (column.kind == TableKind::whole || column.kind == TableKind::floating)
             return HDF_RIGHT;
         return column.kind == TableKind::time ? HDF_CENTER : HDF_LEFT;
@@ -49,19 +50,30 @@ std::wstring KeyOf(std::wstring const & table, TableColumn const & column)
 void CXTableCtrl::PrepareWindow()
 {
     State & state = *m_state;
-    if (state.prepared || m_hWnd == nullptr || GetHeaderCtrl() == nullptr)
+    if (state.prepared || m_hWnd == nullptr || Titles() == nullptr)
         return;
     state.prepared = true;
     state.waker->SetWindow(m_hWnd);
-    SetExtendedStyle(GetExtendedStyle() | LVS_EX_FULLROWSELECT | LVS_EX_HEADERDRAGDROP);
+    LifeWatch const life(m_lifeSign);
+    auto const mayGoOn = [&] { return !life.Over() && state.prepared; };
+    // What is typed into stays as it is while rows are painted.
+    ModifyStyle(0, WS_CLIPCHILDREN);
+    if (!mayGoOn())
+        return;
+    constexpr LPARAM styles = LVS_EX_FULLROWSELECT | LVS_EX_HEADERDRAGDROP;
+    AskNative(LVM_SETEXTENDEDLISTVIEWSTYLE, styles, styles);
     state.frozenHeader.Create(WS_CHILD | WS_CLIPSIBLINGS | HDS_HORZ | HDS_BUTTONS | CCS_NOPARENTALIGN,
                               CRect(0, 0, 0, 0), this, frozen_header_id);
-    state.frozenHeader.SetFont(GetFont(), FALSE);
+    if (!mayGoOn())
+        return;
+    state.frozenHeader.SendMessage(WM_SETFONT, static_cast<WPARAM>(AskNative(WM_GETFONT)), FALSE);
     MakeNativeColumns();
+    if (!mayGoOn())
+        return;
     SetNativeCount();
     // What was told while there was no window.
     state.waker->Wake();
-    if (state.model.NeedsOrder())
+    if (mayGoOn() && state.model.NeedsOrder())
         WishOrder();
 }
 
@@ -74,37 +86,45 @@ void CXTableCtrl::MakeNativeColumns()
     state.shown = state.layout.Shown();
     if (!state.prepared)
         return;
+    LifeWatch const life(m_lifeSign);
     ++state.making;
-    SetRedraw(FALSE);
-    CHeaderCtrl & header = *GetHeaderCtrl();
+    AskNative(WM_SETREDRAW, FALSE);
+    CHeaderCtrl & header = *Titles();
     int const dots = DotsOf(m_hWnd);
     for (int count = header.GetItemCount(); count > static_cast<int>(state.shown.size()); --count)
-        DeleteColumn(count - 1);
-    for (std::size_t i = 0; i < state.shown.size(); ++i)
+        AskNative(LVM_DELETECOLUMN, static_cast<WPARAM>(count) - 1);
+    // The host hears of each, and may have other columns made meanwhile.
+    for (std::size_t i = 0; !life.Over() && m_hWnd != nullptr && i < state.shown.size(); ++i)
     {
-        TableColumn const & described = *state.Column(state.shown[i]);
-        std::wstring title = TitleOf(described);
+        TableColumn const * const described = state.Column(state.shown[i]);
+        if (described == nullptr)
+            break;
+        std::wstring title = TitleOf(*described);
         LVCOLUMNW column = {};
         column.mask = LVCF_TEXT | LVCF_WIDTH | LVCF_FMT;
-        column.fmt = FormatOf(described) & LVCFMT_JUSTIFYMASK;
+        column.fmt = FormatOf(*described) & LVCFMT_JUSTIFYMASK;
         column.cx = ::MulDiv(state.layout.Width(state.shown[i]), dots, dots_of_widths);
         column.pszText = title.data();
-        if (static_cast<int>(i) < header.GetItemCount())
-            SetColumn(static_cast<int>(i), &column);
-        else
-            InsertColumn(static_cast<int>(i), &column);
+        bool const there = static_cast<int>(i) < header.GetItemCount();
+        AskNative(there ? LVM_SETCOLUMNW : LVM_INSERTCOLUMNW, i, reinterpret_cast<LPARAM>(&column));
     }
-    SetRedraw(TRUE);
+    if (life.Over())
+        return;
     --state.making;
+    if (m_hWnd == nullptr)
+        return;
+    AskNative(WM_SETREDRAW, TRUE);
     ShowSortMarks();
-    PlaceFrozenHeader();
+    if (life.Over() || m_hWnd == nullptr)
+        return;
     Invalidate(FALSE);
     header.Invalidate(FALSE);
+    WishEditPlace();
 }
 
 bool CXTableCtrl::MustWait()
 {
-    if (m_state->painting == 0)
+    if (m_state->native == 0)
         return false;
     m_state->nativeWaits = true;
     return true;
@@ -115,9 +135,12 @@ void CXTableCtrl::FollowNatively()
     if (MustWait())
         return;
     m_state->nativeWaits = false;
+    LifeWatch const life(m_lifeSign);
     MakeNativeColumns();
-    SetNativeCount();
-    RepaintRows();
+    if (!life.Over())
+        SetNativeCount();
+    if (!life.Over())
+        RepaintRows();
 }
 
 void CXTableCtrl::ShowSortMarks()
@@ -125,8 +148,9 @@ void CXTableCtrl::ShowSortMarks()
     State & state = *m_state;
     if (!state.prepared)
         return;
+    LifeWatch const life(m_lifeSign);
     ++state.making;
-    CHeaderCtrl & header = *GetHeaderCtrl();
+    CHeaderCtrl & header = *Titles();
     for (std::size_t i = 0; i < state.shown.size(); ++i)
     {
         // Columns that are about to be made anew.
@@ -141,8 +165,13 @@ void CXTableCtrl::ShowSortMarks()
         for (TableSortColumn const & each : state.model.Sort())
             if (each.column == state.shown[i])
                 item.fmt |= each.descending ? HDF_SORTDOWN : HDF_SORTUP;
-        if (item.fmt != former)
-            header.SetItem(static_cast<int>(i), &item);
+        if (item.fmt == former)
+            continue;
+        header.SetItem(static_cast<int>(i), &item);
+        if (life.Over())
+            return;
+        if (m_hWnd == nullptr)
+            break;
     }
     --state.making;
     PlaceFrozenHeader();
@@ -158,7 +187,8 @@ void CXTableCtrl::PlaceFrozenHeader()
     unsigned int const frozen = state.layout.Frozen();
     if (frozen == 0 && over.GetItemCount() == 0)
         return;
-    CHeaderCtrl & header = *GetHeaderCtrl();
+    CHeaderCtrl & header = *Titles();
+    LifeWatch const life(m_lifeSign);
     ++state.making;
     for (int count = over.GetItemCount(); count > static_cast<int>(frozen); --count)
         over.DeleteItem(count - 1);
@@ -176,20 +206,30 @@ void CXTableCtrl::PlaceFrozenHeader()
             over.SetItem(static_cast<int>(i), &item);
         else
             over.InsertItem(static_cast<int>(i), &item);
+        if (life.Over())
+            return;
+        if (over.m_hWnd == nullptr)
+        {
+            --state.making;
+            return;
+        }
     }
     CRect place(0, 0, 0, 0);
     header.GetWindowRect(&place);
     ScreenToClient(&place);
     over.SetWindowPos(&CWnd::wndTop, 0, place.top, width, place.Height(),
                       SWP_NOACTIVATE | (frozen != 0 ? SWP_SHOWWINDOW : SWP_HIDEWINDOW));
-    --state.making;
+    if (!life.Over())
+        --state.making;
 }
 
 void CXTableCtrl::SetFrozenColumns(unsigned int count)
 {
     m_state->layout.SetFrozen(count);
+    LifeWatch const life(m_lifeSign);
     PlaceFrozenHeader();
-    RepaintRows();
+    if (!life.Over())
+        RepaintRows();
 }
 
 void CXTableCtrl::LoadColumns()
@@ -238,22 +278,26 @@ bool CXTableCtrl::HideTableColumn(unsigned int column, bool hidden)
 {
     if (!m_state->layout.Hide(column, hidden))
         return false;
+    LifeWatch const life(m_lifeSign);
     MakeNativeColumns();
-    StoreColumn(column);
+    if (!life.Over())
+        StoreColumn(column);
     return true;
 }
 
 void CXTableCtrl::MoveTableColumn(unsigned int column, unsigned int place)
 {
     m_state->layout.Move(column, place);
+    LifeWatch const life(m_lifeSign);
     MakeNativeColumns();
-    StoreColumns();
+    if (!life.Over())
+        StoreColumns();
 }
 
 // A second click on a title is one like the first; on a divider it stays a double click.
 BOOL CXTableCtrl::PreTranslateMessage(MSG * message)
 {
-    CHeaderCtrl * const native = GetHeaderCtrl();
+    CHeaderCtrl * const native = Titles();
     if (message->message == WM_LBUTTONDBLCLK && native != nullptr &&
         (message->hwnd == native->m_hWnd || message->hwnd == m_state->frozenHeader.m_hWnd))
     {
@@ -269,10 +313,18 @@ BOOL CXTableCtrl::PreTranslateMessage(MSG * message)
 BOOL CXTableCtrl::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT * result)
 {
     auto const & header = *reinterpret_cast<NMHDR const *>(lParam);
-    CHeaderCtrl * const native = GetHeaderCtrl();
-    if (native != nullptr && (header.hwndFrom == native->m_hWnd || header.hwndFrom == m_state->frozenHeader.m_hWnd) &&
-        OnHeaderNotify(header, result))
-        return TRUE;
+    CHeaderCtrl * const native = Titles();
+    if (native != nullptr && (header.hwndFrom == native->m_hWnd || header.hwndFrom == m_state->frozenHeader.m_hWnd))
+    {
+        LifeWatch const life(m_lifeSign);
+        ++m_state->native;
+        bool const done = OnHeaderNotify(header, result);
+        if (life.Over())
+            return TRUE;
+        EndNative();
+        if (done)
+            return TRUE;
+    }
     return CListCtrl::OnNotify(wParam, lParam, result);
 }
 
@@ -288,6 +340,26 @@ bool CXTableCtrl::OnHeaderNotify(NMHDR const & header, LRESULT * result)
                    : TableFilter::any_column;
     };
     *result = 0;
+    switch (header.code)
+    {
+    case HDN_ITEMCLICKW:
+    case HDN_ITEMCLICKA:
+    case HDN_BEGINTRACKW:
+    case HDN_BEGINTRACKA:
+    case HDN_BEGINDRAG:
+    case NM_RCLICK: {
+        // The user leaves the cell, unless its text is refused.
+        LifeWatch const life(m_lifeSign);
+        if (!TakeEdit() || life.Over() || m_hWnd == nullptr)
+        {
+            *result = TRUE;
+            return true;
+        }
+        break;
+    }
+    default:
+        break;
+    }
     switch (header.code)
     {
     case HDN_ITEMCLICKW:
@@ -312,15 +384,20 @@ bool CXTableCtrl::OnHeaderNotify(NMHDR const & header, LRESULT * result)
         if (frozen)
         {
             // The native column follows, and tells of it in its turn.
-            SetColumnWidth(change.iItem, change.pitem->cxy);
+            AskNative(LVM_SETCOLUMNWIDTH, static_cast<WPARAM>(change.iItem), MAKELPARAM(change.pitem->cxy, 0));
             return true;
         }
         state.layout.SetWidth(column, ::MulDiv(change.pitem->cxy, dots_of_widths, DotsOf(m_hWnd)));
         StoreColumn(column);
         if (static_cast<unsigned int>(change.iItem) < state.layout.Frozen())
-            PostMessage(Waker::WakeMessage(), 1, 0);
+            PostMessage(Waker::WakeMessage(), Waker::follow_natively, 0);
         return false;
     }
+    case HDN_DIVIDERDBLCLICKW:
+    case HDN_DIVIDERDBLCLICKA:
+        // Native lists may ask for every row.
+        FitColumn(static_cast<unsigned int>(std::max(change.iItem, 0)));
+        return true;
     case HDN_ENDDRAG:
         // The order is the table's own: the native one stays as it is.
         if (change.pitem != nullptr && (change.pitem->mask & HDI_ORDER) != 0 && change.pitem->iOrder >= 0)
@@ -330,7 +407,7 @@ bool CXTableCtrl::OnHeaderNotify(NMHDR const & header, LRESULT * result)
             {
                 state.layout.Move(column, static_cast<unsigned int>(change.pitem->iOrder));
                 StoreColumns();
-                PostMessage(Waker::WakeMessage(), 1, 0);
+                PostMessage(Waker::WakeMessage(), Waker::follow_natively, 0);
             }
         }
         *result = TRUE;
@@ -338,6 +415,8 @@ bool CXTableCtrl::OnHeaderNotify(NMHDR const & header, LRESULT * result)
     case NM_RCLICK: {
         CPoint point;
         ::GetCursorPos(&point);
+        // The rows' menu is another one.
+        *result = TRUE;
         ShowColumnMenu(point);
         return true;
     }
@@ -346,6 +425,48 @@ bool CXTableCtrl::OnHeaderNotify(NMHDR const & header, LRESULT * result)
     default:
         return frozen;
     }
+}
+
+// Columns whose cells are no texts keep their width for the title's sake alone.
+void CXTableCtrl::FitColumn(unsigned int place)
+{
+    State & state = *m_state;
+    TableColumn const * const described = place < state.shown.size() ? state.Column(state.shown[place]) : nullptr;
+    if (described == nullptr)
+        return;
+    // In pixels at 96 to the inch: beside a text, and beside a title with its mark.
+    constexpr int beside_text = 14;
+    constexpr int beside_title = 28;
+    int const dots = DotsOf(m_hWnd);
+    CClientDC dc(this);
+    auto * const font = reinterpret_cast<HGDIOBJ>(AskNative(WM_GETFONT));
+    int widest = 0;
+    {
+        SelectScope const selected(dc, font);
+        auto const widthOf = [&dc](std::wstring const & text, std::size_t from, std::size_t end) {
+            CSize size(0, 0);
+            ::GetTextExtentPoint32W(dc.m_hDC, text.c_str() + from, static_cast<int>(end - from), &size);
+            return static_cast<int>(size.cx);
+        };
+        std::wstring const title = TitleOf(*described);
+        widest = widthOf(title, 0, title.size()) + ::MulDiv(beside_title, dots, dots_of_widths);
+        // Numbers stand below each other by their sign.
+        int ahead = 0;
+        int behind = 0;
+        TableRow const top = TopPosition();
+        TableRow const end = std::min(top + PageRows() + 1, state.model.Size());
+        TableValue value;
+        std::wstring text;
+        for (TableRow position = top; position < end; ++position)
+        {
+            state.model.Read(position, state.shown[place], value);
+            std::size_t const sign = ShowValue(text, value, *described, state.model.Looks().locale);
+            ahead = std::max(ahead, widthOf(text, 0, sign));
+            behind = std::max(behind, widthOf(text, sign, text.size()));
+        }
+        widest = std::max(widest, ahead + behind + ::MulDiv(beside_text, dots, dots_of_widths));
+    }
+    AskNative(LVM_SETCOLUMNWIDTH, place, MAKELPARAM(widest, 0));
 }
 
 /// While rows are put in order or written to a file, a bar at the header's lower edge says how far it is.
@@ -402,13 +523,15 @@ void CXTableCtrl::ShowColumnMenu(CPoint screen)
     LifeWatch const life(m_lifeSign);
     auto const command = static_cast<unsigned int>(
         menu.TrackPopupMenu(TPM_RETURNCMD | TPM_NONOTIFY | TPM_RIGHTBUTTON, screen.x, screen.y, this));
-    if (life.Over() || command == 0)
+    if (life.Over() || command == 0 || command > m_state->layout.Count())
         return;
     HideTableColumn(command - 1, !m_state->layout.IsHidden(command - 1));
 }
 
 void CXTableCtrl::OnSize(UINT type, int width, int height)
 {
+    LifeWatch const life(m_lifeSign);
     CListCtrl::OnSize(type, width, height);
-    PlaceFrozenHeader();
+    if (!life.Over())
+        PlaceFrozenHeader();
 }

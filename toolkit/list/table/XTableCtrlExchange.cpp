@@ -124,8 +124,12 @@ TablePasteReport CXTableCtrl::PasteBlock()
 {
     State & state = *m_state;
     CString text;
+    LifeWatch const life(m_lifeSign);
+    // Whoever has what is there may be asked for it.
+    if (!Clipboard::StringFromClipboard(text) || text.IsEmpty() || life.Over())
+        return {};
     TableRow const position = state.model.FocusPosition();
-    if (position == TableModel::nowhere || !Clipboard::StringFromClipboard(text) || text.IsEmpty())
+    if (position == TableModel::nowhere)
         return {};
     std::vector<unsigned int> columns = state.layout.Shown();
     while (!columns.empty() && columns.front() != state.focusColumn)
@@ -133,10 +137,8 @@ TablePasteReport CXTableCtrl::PasteBlock()
     if (columns.empty())
         columns = state.layout.Shown();
     std::wstring_view const view(text.GetString(), static_cast<std::size_t>(text.GetLength()));
-    LifeWatch const life(m_lifeSign);
     std::shared_ptr<TableFeed> const feed = state.feed;
-    TablePasteReport const report =
-        PasteTable(state.model, ReadCsv(view, GuessSeparator(view)).records, position, columns);
+    TablePasteReport report = PasteTable(state.model, ReadCsv(view, GuessSeparator(view)).records, position, columns);
     for (TableRowRange const & each : report.rows)
         feed->RowsChanged(each.first, each.last);
     if (life.Over())

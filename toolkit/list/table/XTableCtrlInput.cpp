@@ -10,6 +10,32 @@ bool IsDown(int key)
 }
 } // namespace
 
+/// Of the columns shown, from the client area's top to its bottom; gives the right edge of those that stand still.
+int CXTableCtrl::ColumnRects(std::vector<CRect> & rects) const
+{
+    State const & state = *m_state;
+    rects.clear();
+    CHeaderCtrl * const header = Titles();
+    if (header == nullptr)
+        return 0;
+    CPoint origin(0, 0);
+    ::MapWindowPoints(header->m_hWnd, m_hWnd, &origin, 1);
+    CRect client(0, 0, 0, 0);
+    GetClientRect(&client);
+    int still = 0;
+    unsigned int const frozen = state.layout.Frozen();
+    for (std::size_t i = 0; i < state.shown.size(); ++i)
+    {
+        CRect rect(0, 0, 0, 0);
+        header->GetItemRect(static_cast<int>(i), &rect);
+        rect.OffsetRect(i < frozen ? still - rect.left : origin.x, 0);
+        if (i < frozen)
+            still = rect.right;
+        rects.emplace_back(rect.left, client.top, rect.right, client.bottom);
+    }
+    return still;
+}
+
 bool CXTableCtrl::HitCell(CPoint point, TableRow & position, unsigned int & column) const
 {
     State const & state = *m_state;
@@ -17,36 +43,133 @@ bool CXTableCtrl::HitCell(CPoint point, TableRow & position, unsigned int & colu
     hit.pt = point;
     // Anywhere in the row's height; the columns are the table's own matter.
     hit.pt.x = 1;
-    auto const item = static_cast<int>(::SendMessageW(m_hWnd, LVM_SUBITEMHITTEST, 0, reinterpret_cast<LPARAM>(&hit)));
-    CHeaderCtrl * const header = const_cast<CXTableCtrl *>(this)->GetHeaderCtrl();
-    if (item < 0 || header == nullptr || static_cast<TableRow>(item) >= state.model.Size())
+    auto const item = static_cast<int>(AskNative(LVM_SUBITEMHITTEST, 0, reinterpret_cast<LPARAM>(&hit)));
+    if (item < 0 || static_cast<TableRow>(item) >= state.model.Size())
         return false;
     position = static_cast<TableRow>(item);
-    CPoint origin(0, 0);
-    ::MapWindowPoints(header->m_hWnd, m_hWnd, &origin, 1);
-    int still = 0;
-    unsigned int const frozen = state.layout.Frozen();
-    for (std::size_t i = 0; i < state.shown.size(); ++i)
-    {
-        CRect rect(0, 0, 0, 0);
-        header->GetItemRect(static_cast<int>(i), &rect);
-        int left = rect.left + origin.x;
-        if (i < frozen)
-        {
-            left = still;
-            still += rect.Width();
-        }
-        else if (point.x < still)
-        {
-            continue;
-        }
-        if (point.x >= left && point.x < left + rect.Width())
+    std::vector<CRect> rects;
+    int const still = ColumnRects(rects);
+    for (std::size_t i = 0; i < rects.size(); ++i)
+        if (point.x >= rects[i].left && point.x < rects[i].right && (i < state.layout.Frozen() || point.x >= still))
         {
             column = state.shown[i];
             return true;
         }
-    }
     return false;
+}
+
+/// Wherever it is, seen or not; false for a column that is not shown.
+bool CXTableCtrl::CellRect(TableRow position, unsigned int column, CRect & rect) const
+{
+    State const & state = *m_state;
+    auto const place = std::find(state.shown.begin(), state.shown.end(), column);
+    std::vector<CRect> rects;
+    ColumnRects(rects);
+    auto const index = static_cast<std::size_t>(place - state.shown.begin());
+    if (index >= rects.size() || position >= state.model.Size())
+        return false;
+    CRect const row = RowRect(position);
+    if (row.IsRectEmpty())
+        return false;
+    rect.SetRect(rects[index].left, row.top, rects[index].right, row.bottom);
+    return true;
+}
+
+/// Scrolls it into view.
+void CXTableCtrl::ShowColumn(unsigned int column)
+{
+    State const & state = *m_state;
+    std::vector<CRect> rects;
+    int const still = ColumnRects(rects);
+    auto const index =
+        static_cast<std::size_t>(std::find(state.shown.begin(), state.shown.end(), column) - state.shown.begin());
+    if (index >= rects.size() || index < state.layout.Frozen())
+        return;
+    CRect client(0, 0, 0, 0);
+    GetClientRect(&client);
+    // The left edge counts where not all of it finds room.
+    int move = std::max(0L, rects[index].right - client.right);
+    move = std::min<int>(move, rects[index].left - still);
+    if (move != 0)
+        ScrollSideways(move);
+}
+
+/// Left and right lead from cell to cell where some can be edited, else they scroll.
+void CXTableCtrl::MoveFocusColumn(bool right)
+{
+    State & state = *m_state;
+    auto const isEditable = [&state](unsigned int column) {
+        TableColumn const * const described = state.Column(column);
+        return described != nullptr && described->editable;
+    };
+    if (std::none_of(state.shown.begin(), state.shown.end(), isEditable))
+    {
+        SendMessage(WM_HSCROLL, right ? SB_LINERIGHT : SB_LINELEFT, 0);
+        return;
+    }
+    auto const present = std::find(state.shown.begin(), state.shown.end(), state.focusColumn);
+    if (present == state.shown.end())
+        state.focusColumn = state.shown.front();
+    else if (right && present + 1 != state.shown.end())
+        state.focusColumn = *(present + 1);
+    else if (!right && present != state.shown.begin())
+        state.focusColumn = *(present - 1);
+    LifeWatch const life(m_lifeSign);
+    ShowColumn(state.focusColumn);
+    if (!life.Over())
+        RepaintRows();
+}
+
+/// Toggles the tick with the focus, or the row's first one where no cell was chosen. True if there is one.
+bool CXTableCtrl::PressSpace()
+{
+    State & state = *m_state;
+    auto const isTick = [&state](unsigned int column) {
+        TableColumn const * const described = state.Column(column);
+        return described != nullptr && described->kind == TableKind::tick && described->editable;
+    };
+    unsigned int column = state.focusColumn;
+    if (column == State::no_column)
+    {
+        auto const first = std::find_if(state.shown.begin(), state.shown.end(), isTick);
+        if (first != state.shown.end())
+            column = *first;
+    }
+    TableRow const position = state.model.FocusPosition();
+    if (!isTick(column) || position == TableModel::nowhere)
+        return false;
+    PressCell(position, column);
+    return true;
+}
+
+/// In screen coordinates, for a menu that the keyboard asks for. The table may be gone.
+CPoint CXTableCtrl::MenuPlace()
+{
+    State & state = *m_state;
+    LifeWatch const life(m_lifeSign);
+    TableRow const row = state.model.FocusRow();
+    TableRow position = state.model.FocusPosition();
+    if (position != TableModel::nowhere)
+        BringIntoView(position);
+    if (life.Over() || m_hWnd == nullptr)
+        return CPoint(0, 0);
+    CRect client(0, 0, 0, 0);
+    GetClientRect(&client);
+    CRect place(client.left, client.top, client.left, client.top);
+    if (CHeaderCtrl * const header = Titles(); header != nullptr)
+    {
+        CRect titles(0, 0, 0, 0);
+        header->GetWindowRect(&titles);
+        place.bottom += titles.Height();
+    }
+    bool const chosen = std::find(state.shown.begin(), state.shown.end(), state.focusColumn) != state.shown.end();
+    position = row == no_table_row ? TableModel::nowhere : state.model.PositionOf(row);
+    if (position != TableModel::nowhere && !state.shown.empty())
+        CellRect(position, chosen ? state.focusColumn : state.shown.front(), place);
+    CPoint point(std::clamp(place.left, client.left, client.right),
+                 std::clamp(place.bottom, client.top, client.bottom));
+    ClientToScreen(&point);
+    return point;
 }
 
 void CXTableCtrl::AfterSelection(bool tell)
@@ -62,15 +185,31 @@ void CXTableCtrl::AfterSelection(bool tell)
 void CXTableCtrl::GoTo(TableRow position, bool shift, bool control)
 {
     table_input::Go(m_state->model, position, shift, control);
-    EnsureVisible(static_cast<int>(position), FALSE);
-    AfterSelection(true);
+    if (BringIntoView(position))
+        AfterSelection(true);
+}
+
+/// For a press: takes the focus, but not from an edit whose text is refused. False if nothing more is to be done.
+bool CXTableCtrl::ComeHere(LifeWatch const & life)
+{
+    // Also where the edit has lost the focus before.
+    bool const left = TakeEdit();
+    if (life.Over() || m_hWnd == nullptr)
+        return false;
+    if (!left)
+    {
+        if (m_state->editing)
+            m_state->editing->window->SetFocus();
+        return false;
+    }
+    SetFocus();
+    return !life.Over() && m_hWnd != nullptr;
 }
 
 void CXTableCtrl::OnLButtonDown(UINT flags, CPoint point)
 {
     LifeWatch const life(m_lifeSign);
-    SetFocus();
-    if (life.Over() || m_hWnd == nullptr)
+    if (!ComeHere(life))
         return;
     TableRow position = 0;
     unsigned int column = 0;
@@ -86,6 +225,7 @@ void CXTableCtrl::OnLButtonDown(UINT flags, CPoint point)
         return;
     }
     m_state->focusColumn = column;
+    m_state->typed.Forget();
     if (control && !shift)
     {
         table_input::Flip(m_state->model, position);
@@ -103,8 +243,7 @@ void CXTableCtrl::OnRButtonDown(UINT flags, CPoint point)
 {
     static_cast<void>(flags);
     LifeWatch const life(m_lifeSign);
-    SetFocus();
-    if (life.Over() || m_hWnd == nullptr)
+    if (!ComeHere(life))
         return;
     TableRow position = 0;
     unsigned int column = 0;
@@ -114,6 +253,14 @@ void CXTableCtrl::OnRButtonDown(UINT flags, CPoint point)
     // A selected row leaves the others selected: the menu may be for all of them.
     if (!m_state->model.IsSelected(position))
         GoTo(position, false, false);
+}
+
+// Here as everywhere: not every native list goes on to the menu without the press.
+void CXTableCtrl::OnRButtonUp(UINT flags, CPoint point)
+{
+    static_cast<void>(flags);
+    ClientToScreen(&point);
+    SendMessage(WM_CONTEXTMENU, reinterpret_cast<WPARAM>(m_hWnd), MAKELPARAM(point.x, point.y));
 }
 
 void CXTableCtrl::OnLButtonDblClk(UINT flags, CPoint point)
@@ -136,6 +283,11 @@ void CXTableCtrl::OnLButtonDblClk(UINT flags, CPoint point)
         described->editable)
     {
         PressCell(position, column);
+        return;
+    }
+    if (IsTyped(column))
+    {
+        OpenEdit(row, column, nullptr);
         return;
     }
     auto const callback = m_onDoubleClick;
@@ -203,17 +355,37 @@ void CXTableCtrl::OnKeyDown(UINT character, UINT repeats, UINT flags)
             table_input::Flip(state.model, state.model.FocusPosition());
             AfterSelection(true);
         }
+        else if (!state.typed.GoesOn(static_cast<long long>(::GetTickCount64())))
+        {
+            PressSpace();
+        }
         return;
     case VK_RETURN:
-        if (TableRow const row = state.model.FocusRow(); row != no_table_row)
+        if (TableRow const row = state.model.FocusRow(); row != no_table_row && !state.shown.empty())
         {
             auto const callback = m_onDoubleClick;
             if (callback)
-                callback(row, state.focusColumn);
+                callback(row, state.focusColumn == State::no_column ? state.shown.front() : state.focusColumn);
         }
         return;
+    case VK_F2: {
+        // Of the cell with the focus, or the row's first one.
+        unsigned int column = state.focusColumn;
+        if (column == State::no_column)
+        {
+            auto const first = std::find_if(state.shown.begin(), state.shown.end(),
+                                            [this](unsigned int each) { return IsTyped(each); });
+            if (first != state.shown.end())
+                column = *first;
+        }
+        OpenEdit(state.model.FocusRow(), column, nullptr);
+        return;
+    }
     case VK_ESCAPE:
-        StopOrdering();
+        if (state.editing)
+            CloseEdit();
+        else
+            StopOrdering();
         return;
     case L'A':
         if (control)
@@ -234,19 +406,15 @@ void CXTableCtrl::OnKeyDown(UINT character, UINT repeats, UINT flags)
             PasteBlock();
         return;
     case VK_LEFT:
-        SendMessage(WM_HSCROLL, SB_LINELEFT, 0);
-        return;
     case VK_RIGHT:
-        SendMessage(WM_HSCROLL, SB_LINERIGHT, 0);
+        MoveFocusColumn(character == VK_RIGHT);
         return;
     default:
         CListCtrl::OnKeyDown(character, repeats, flags);
         return;
     }
-    auto const top = static_cast<TableRow>(std::max(GetTopIndex(), 0));
-    auto const page = static_cast<TableRow>(std::max(GetCountPerPage(), 1));
-    std::optional<TableRow> const wanted =
-        table_input::Moved(*move, state.model.FocusPosition(), state.model.Size(), top, page);
+    std::optional<TableRow> const wanted = table_input::Moved(*move, state.model.FocusPosition(), state.model.Size(),
+                                                              TopPosition(), std::max(PageRows(), TableRow{1}));
     if (wanted)
         GoTo(*wanted, shift, control);
 }
@@ -256,10 +424,21 @@ void CXTableCtrl::OnChar(UINT character, UINT repeats, UINT flags)
     static_cast<void>(repeats);
     static_cast<void>(flags);
     State & state = *m_state;
-    if (character <= L' ' || state.shown.empty())
+    auto const now = static_cast<long long>(::GetTickCount64());
+    // With Ctrl it is a command; with Alt as well it is a character of other keyboards.
+    bool const command = IsDown(VK_CONTROL) && !IsDown(VK_MENU);
+    if (character < L' ' || command || state.shown.empty())
         return;
-    TypedText::Search const search =
-        state.typed.Add(static_cast<wchar_t>(character), static_cast<long long>(::GetTickCount64()));
+    // Into the cell with the focus; else it is looked for among the rows.
+    if (TableRow const row = state.model.FocusRow(); row != no_table_row && IsTyped(state.focusColumn))
+    {
+        wchar_t const typed[] = {static_cast<wchar_t>(character), L'\0'};
+        OpenEdit(row, state.focusColumn, typed);
+        return;
+    }
+    if (character == L' ' && !state.typed.GoesOn(now))
+        return;
+    TypedText::Search const search = state.typed.Add(static_cast<wchar_t>(character), now);
     TableRow const focus = state.model.FocusPosition();
     TableRow const from = focus == TableModel::nowhere ? 0 : search.fromFocus ? focus : focus + 1;
     // In the column sorted by, or else the first one.

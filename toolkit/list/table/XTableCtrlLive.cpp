@@ -82,8 +82,8 @@ CXTableCtrl::View CXTableCtrl::PresentView() const
     TableRow const size = m_state->model.Size();
     if (m_hWnd == nullptr || size == 0)
         return view;
-    auto const top = static_cast<TableRow>(std::max(GetTopIndex(), 0));
-    auto const page = static_cast<TableRow>(std::max(GetCountPerPage(), 1));
+    TableRow const top = TopPosition();
+    TableRow const page = std::max(PageRows(), TableRow{1});
     // Where all fits, nobody has gone to the end yet.
     view.atEnd = size > page && top + page >= size;
     TableRow const focus = m_state->model.FocusRow();
@@ -124,8 +124,11 @@ void CXTableCtrl::TakeEffect(TableEffect const & effect, View const & before)
 {
     if (m_hWnd == nullptr || effect.IsEmpty())
         return;
+    LifeWatch const life(m_lifeSign);
     if (effect.sizeChanged)
         SetNativeCount();
+    if (life.Over() || m_hWnd == nullptr)
+        return;
     if (m_state->painting != 0)
     {
         RepaintRows();
@@ -133,38 +136,36 @@ void CXTableCtrl::TakeEffect(TableEffect const & effect, View const & before)
     }
     if (before.atEnd && effect.sizeChanged && m_state->model.Size() != 0)
     {
-        EnsureVisible(static_cast<int>(m_state->model.Size() - 1), FALSE);
+        if (!BringIntoView(m_state->model.Size() - 1))
+            return;
     }
     else if (effect.allMoved && before.focusSeen)
     {
         TableRow const focus = m_state->model.FocusPosition();
-        if (focus != TableModel::nowhere)
-            EnsureVisible(static_cast<int>(focus), FALSE);
+        if (focus != TableModel::nowhere && !BringIntoView(focus))
+            return;
     }
     if (effect.allMoved || effect.allValues)
     {
         RepaintRows();
         return;
     }
-    auto const top = static_cast<TableRow>(std::max(GetTopIndex(), 0));
-    TableRow const end =
-        std::min(top + static_cast<TableRow>(std::max(GetCountPerPage(), 0)) + 1, m_state->model.Size());
+    TableRow const top = TopPosition();
+    TableRow const end = std::min(top + PageRows() + 1, m_state->model.Size());
     for (TableRow position = top; position < end; ++position)
     {
         TableRow const row = m_state->model.RowAt(position);
         auto const next =
             std::upper_bound(effect.rows.begin(), effect.rows.end(), row,
                              [](TableRow wanted, TableRowRange const & each) { return wanted < each.first; });
-        CRect rect;
-        if (next != effect.rows.begin() && row <= std::prev(next)->last &&
-            GetItemRect(static_cast<int>(position), &rect, LVIR_BOUNDS))
-        {
-            CRect client;
-            GetClientRect(&client);
-            rect.left = client.left;
-            rect.right = client.right;
-            RedrawWindow(&rect, nullptr, RDW_INVALIDATE | RDW_NOCHILDREN);
-        }
+        if (next == effect.rows.begin() || row > std::prev(next)->last)
+            continue;
+        CRect rect = RowRect(position);
+        CRect client;
+        GetClientRect(&client);
+        rect.left = client.left;
+        rect.right = client.right;
+        RedrawWindow(&rect, nullptr, RDW_INVALIDATE | RDW_NOCHILDREN);
     }
 }
 
@@ -174,12 +175,14 @@ void CXTableCtrl::SetNativeCount()
         return;
     // The native list takes so many.
     constexpr TableRow most_rows = 100000000;
-    auto const former = static_cast<TableRow>(std::max(GetItemCount(), 0));
+    auto const former = static_cast<TableRow>(std::max<LRESULT>(AskNative(LVM_GETITEMCOUNT), 0));
     TableRow const size = std::min(m_state->model.Size(), most_rows);
-    CListCtrl::SetItemCountEx(static_cast<int>(size), LVSICF_NOINVALIDATEALL | LVSICF_NOSCROLL);
+    LifeWatch const life(m_lifeSign);
+    AskNative(LVM_SETITEMCOUNT, size, LVSICF_NOINVALIDATEALL | LVSICF_NOSCROLL);
+    if (life.Over() || m_hWnd == nullptr)
+        return;
     // Rows that come or go out of sight are no matter.
-    auto const end = static_cast<TableRow>(std::max(GetTopIndex(), 0) + std::max(GetCountPerPage(), 0)) + 1;
-    if (std::min(former, size) < end)
+    if (std::min(former, size) < TopPosition() + PageRows() + 1)
         RepaintRows();
 }
 
@@ -188,6 +191,7 @@ void CXTableCtrl::RepaintRows()
     // Not the header, which costs more than a page of cells.
     if (m_hWnd != nullptr)
         RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_NOCHILDREN);
+    WishEditPlace();
 }
 
 // Few rows are put in order at once, many beside the window.
@@ -241,7 +245,7 @@ void CXTableCtrl::ShowProgress()
         return;
     if (!m_state->task && !m_state->exporting)
         KillTimer(table_timers::progress);
-    if (CHeaderCtrl * const header = GetHeaderCtrl(); header != nullptr)
+    if (CHeaderCtrl * const header = Titles(); header != nullptr)
         header->Invalidate(FALSE);
     if (m_state->frozenHeader.m_hWnd != nullptr)
         m_state->frozenHeader.Invalidate(FALSE);

@@ -17,7 +17,7 @@ bool IsNumber(TableKind kind)
 /// Whether cells of the column may end at different distances from their decimal sign.
 bool HasDifferentTails(TableColumn const & column)
 {
-    if (column.align != TableAlign::byKind || !IsNumber(column.kind))
+    if (column.align != TableAlign::by_kind || !IsNumber(column.kind))
         return false;
     return column.format.engineering ||
            (column.kind == TableKind::floating && column.format.style != NumberStyle::fixed);
@@ -33,7 +33,7 @@ UINT AlignmentOf(TableColumn const & column, TableKind kind)
         return DT_CENTER;
     case TableAlign::right:
         return DT_RIGHT;
-    case TableAlign::byKind:
+    case TableAlign::by_kind:
         break;
     }
     if (IsNumber(kind))
@@ -65,7 +65,7 @@ void CXTableCtrl::PrepareLook()
     state.edges.clear();
     state.frozen = state.layout.Frozen();
     state.frozenRight = 0;
-    CHeaderCtrl * const header = GetHeaderCtrl();
+    CHeaderCtrl * const header = Titles();
     if (header == nullptr)
         return;
     CPoint origin(0, 0);
@@ -89,9 +89,8 @@ void CXTableCtrl::PrepareLook()
     }
     state.focused = ::GetFocus() == m_hWnd;
     state.focusRow = state.model.FocusRow();
-    state.topPosition = std::max(GetTopIndex(), 0);
-    state.topRect = CRect(0, 0, 0, 0);
-    GetItemRect(state.topPosition, &state.topRect, LVIR_BOUNDS);
+    state.topPosition = TopPosition();
+    state.topRect = RowRect(state.topPosition);
 }
 
 // The widest part behind the decimal sign among the rows that are seen.
@@ -130,8 +129,9 @@ void CXTableCtrl::OnPaint()
     if (life.Over())
         return;
     m_state->edges.clear();
-    if (--m_state->painting == 0 && m_state->nativeWaits && m_hWnd != nullptr)
-        PostMessage(Waker::WakeMessage(), 1, 0);
+    --m_state->painting;
+    if (m_state->editing && m_state->editing->window->m_hWnd != nullptr)
+        m_state->editing->window->PaintFrame();
 }
 
 BOOL CXTableCtrl::OnCustomDraw(NMHDR * header, LRESULT * result)
@@ -146,9 +146,9 @@ BOOL CXTableCtrl::OnCustomDraw(NMHDR * header, LRESULT * result)
         if (m_state->edges.empty())
             PrepareLook();
         TableRow const size = m_state->model.Size();
-        auto const top = static_cast<TableRow>(m_state->topPosition);
+        TableRow const top = m_state->topPosition;
         if (top < size)
-            MeasureDecimals(dc, top, std::min(top + static_cast<TableRow>(std::max(GetCountPerPage(), 0)), size - 1));
+            MeasureDecimals(dc, top, std::min(top + PageRows(), size - 1));
         *result = CDRF_NOTIFYITEMDRAW;
         break;
     }
@@ -166,11 +166,11 @@ void CXTableCtrl::PaintRow(CDC & dc, TableRow position)
 {
     State & state = *m_state;
     // What stands above the top row is erased, so a native list that shows a strip of the row there must not paint it.
-    if (position < static_cast<TableRow>(state.topPosition) || state.edges.empty())
+    if (position < state.topPosition || state.edges.empty())
         return;
     LifeWatch const life(m_lifeSign);
     int const height = state.topRect.Height();
-    int const top = state.topRect.top + static_cast<int>(position - static_cast<TableRow>(state.topPosition)) * height;
+    int const top = state.topRect.top + static_cast<int>(position - state.topPosition) * height;
     TableRow const row = state.model.RowAt(position);
     bool const selected = state.model.IsRowSelected(row);
     CRect clip;
@@ -203,6 +203,15 @@ void CXTableCtrl::PaintRow(CDC & dc, TableRow position)
         dc.SetTextColor(state.look.palette.windowText);
         dc.SetBkColor(state.look.palette.window);
         dc.DrawFocusRect(&frame);
+        // Within the row the cell where keys do something.
+        auto const cell = std::find(state.shown.begin(), state.shown.end(), state.focusColumn);
+        if (cell != state.shown.end() && state.Column(*cell) != nullptr && state.Column(*cell)->editable)
+        {
+            State::Edges const & edges = state.edges[static_cast<std::size_t>(cell - state.shown.begin())];
+            CRect const inner(edges.left + 1, top + 1, edges.right - 1, top + height - 1);
+            if (edges.left >= state.frozenRight || cell - state.shown.begin() < static_cast<int>(state.frozen))
+                dc.DrawFocusRect(&inner);
+        }
     }
 }
 
@@ -296,7 +305,7 @@ BOOL CXTableCtrl::OnEraseBkgnd(CDC * dc)
         return TRUE;
     COLORREF const color = m_state->look.palette.window;
     TableRow const size = m_state->model.Size();
-    CHeaderCtrl * const header = GetHeaderCtrl();
+    CHeaderCtrl * const header = Titles();
     int right = 0;
     if (header != nullptr && !m_state->shown.empty())
     {
@@ -319,10 +328,9 @@ BOOL CXTableCtrl::OnEraseBkgnd(CDC * dc)
     CRect lowest(0, 0, 0, 0);
     if (size != 0)
     {
-        int const top = GetTopIndex();
-        int const last = std::min(top + GetCountPerPage(), static_cast<int>(size) - 1);
-        GetItemRect(top, &first, LVIR_BOUNDS);
-        GetItemRect(last, &lowest, LVIR_BOUNDS);
+        TableRow const top = TopPosition();
+        first = RowRect(top);
+        lowest = RowRect(std::min(top + PageRows(), size - 1));
     }
     else
     {
@@ -360,7 +368,10 @@ BOOL CXTableCtrl::OnGetDispInfo(NMHDR * header, LRESULT * result)
 
 void CXTableCtrl::OnSysColorChange()
 {
+    LifeWatch const life(m_lifeSign);
     CListCtrl::OnSysColorChange();
+    if (life.Over())
+        return;
     m_state->look.palette = CellPalette::OfSystem();
     RepaintRows();
 }

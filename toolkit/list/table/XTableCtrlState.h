@@ -10,6 +10,7 @@
 #include "list/table/TableInput.h"
 #include "list/table/TableModel.h"
 #include "list/table/TablePace.h"
+#include "list/table/XTableEdit.h"
 
 /// Posts to the window from any thread; to none once that is gone.
 class CXTableCtrl::Waker : public TableWaker
@@ -18,10 +19,15 @@ public:
     void Wake() override
     {
         if (HWND const window = m_window.load(std::memory_order_acquire); window != nullptr)
-            ::PostMessageW(window, WakeMessage(), 0, 0);
+            ::PostMessageW(window, WakeMessage(), told, 0);
     }
     void SetWindow(HWND window) { m_window.store(window, std::memory_order_release); }
     static UINT WakeMessage();
+
+    // What its word says.
+    static constexpr WPARAM told = 0;
+    static constexpr WPARAM follow_natively = 1;
+    static constexpr WPARAM place_edit = 2;
 
 private:
     std::atomic<HWND> m_window{nullptr};
@@ -35,8 +41,33 @@ struct TableExport
     std::atomic<bool> whole{false};
 };
 
+/// Ends an edit's window with its object.
+struct TableEditEnd
+{
+    void operator()(CXTableEdit * edit) const;
+};
+
+/// A cell that is being typed into.
+struct TableEditing
+{
+    std::unique_ptr<CXTableEdit, TableEditEnd> window;
+    std::weak_ptr<TableSource> source;
+    TableKey key = 0;
+    unsigned int column = 0;
+    /// What the cell showed.
+    std::wstring before;
+    /// Its text is being taken.
+    bool taking = false;
+    bool placeWaits = false;
+    /// Why its text was refused.
+    CToolTipCtrl reason;
+    bool reasonShown = false;
+};
+
 struct CXTableCtrl::State
 {
+    static constexpr unsigned int no_column = TableFilter::any_column;
+
     TableModel model;
     std::shared_ptr<Waker> waker = std::make_shared<Waker>();
     std::shared_ptr<TableFeed> feed = std::make_shared<TableFeed>(waker);
@@ -55,7 +86,9 @@ struct CXTableCtrl::State
     std::vector<unsigned int> shown;
     /// While native columns are made, what the header tells is no wish of the user's.
     int making = 0;
-    /// Paints that are going on. The native list stands no change of its columns and rows meanwhile; they wait.
+    /// Native code of list or header is running.
+    int native = 0;
+    /// Paints that are going on.
     int painting = 0;
     bool nativeWaits = false;
     CHeaderCtrl frozenHeader;
@@ -78,7 +111,7 @@ struct CXTableCtrl::State
     int frozenRight = 0;
     bool focused = false;
     TableRow focusRow = no_table_row;
-    int topPosition = 0;
+    TableRow topPosition = 0;
     CRect topRect;
     XLISTCTRLDATA textCell;
     XLISTCTRLDATA linkCell;
@@ -89,8 +122,9 @@ struct CXTableCtrl::State
     unsigned long long repaints = 0;
 
     TypedText typed;
-    /// The column with the focus, where a block is pasted.
-    unsigned int focusColumn = 0;
+    /// The column with the focus, where a block is pasted; none until the user has chosen a cell.
+    unsigned int focusColumn = no_column;
+    std::shared_ptr<TableEditing> editing;
 
     TableColumn const * Column(unsigned int column) const
     {
