@@ -107,4 +107,8 @@ TEST(TableTyping, CharactersAddUpUntilAPause)
     search = typed.Add(L'H', 3100);
     EXPECT_EQ(search.text, L"h");
     EXPECT_FALSE(search.fromFocus) << "on to the next one";
+    EXPECT_TRUE(typed.GoesOn(4100));
+    EXPECT_FALSE(typed.GoesOn(4101)) << "a new text begins";
+    typed.Forget();
+    EXPECT_FALSE(typed.GoesOn(3200));
 }
