@@ -522,11 +522,21 @@ void CMainWindow::DockByDefault(std::array<bool, part_count> const & others)
          std::min<int>(m_frameMeasures.WantedWidth(), needs.client.cx * frame_measures_percent / 100), false);
     dock(part_spectrogram, CBRS_ALIGN_BOTTOM, sizes.spectrogram);
     dock(part_waveform, CBRS_ALIGN_BOTTOM, sizes.waveform);
-    if (sizes.plotsShareTabs && !others[part_spectrogram] && !others[part_waveform])
-    {
-        m_panes[part_spectrogram]->AttachToTabWnd(m_panes[part_waveform], DM_SHOW, FALSE);
-    }
     dock(part_list, CBRS_ALIGN_TOP, sizes.list);
+    auto const attach = [&](Part part, Part to) {
+        if (!others[part] && !others[to])
+        {
+            m_panes[part]->AttachToTabWnd(m_panes[to], DM_SHOW, FALSE);
+        }
+    };
+    if (sizes.listSharesTabs)
+    {
+        attach(part_waveform, part_list);
+    }
+    if (sizes.plotsShareTabs)
+    {
+        attach(part_spectrogram, sizes.listSharesTabs ? part_list : part_waveform);
+    }
     FillFolders();
 }
 

@@ -91,8 +91,23 @@ TEST(WorkbenchMainLayout, PlotsShareTabsWhereThereIsNoRoomForBoth)
     EXPECT_EQ(heights.measures, 58);
     // Together with captions' and tabs' height they take what margins, dividers and status leave.
     EXPECT_EQ(heights.list + heights.waveform + heights.measures, needs.client.cy - 16 - 2 * 4 - 6 - 20 - 18 + 18);
+    EXPECT_FALSE(heights.listSharesTabs);
+}
+
+TEST(WorkbenchMainLayout, TheListSharesTheirTabsWhereThereIsNoRoomForOneOfThem)
+{
+    // Margins, measures, three captions, two dividers, spacing and status, and below the list's and a plot's least
+    // height.
+    auto needs = Needs(520, 16 + 58 + 3 * 18 + 2 * 4 + 6 + 20 + 100 + 120 - 1);
+    auto const heights = DefaultPanes(needs);
+    EXPECT_TRUE(heights.plotsShareTabs);
+    EXPECT_TRUE(heights.listSharesTabs);
+    EXPECT_EQ(heights.list, heights.waveform);
+    EXPECT_EQ(heights.list, heights.spectrogram);
+    needs.client.cy += 1;
+    EXPECT_FALSE(DefaultPanes(needs).listSharesTabs);
     needs.client.cy = 10;
-    EXPECT_EQ(DefaultPanes(needs).list, 18);
+    EXPECT_GE(DefaultPanes(needs).list, 18);
 }
 
 TEST(WorkbenchMainLayout, NothingOverlapsOrLiesOutsideWhateverTheSizes)

@@ -64,6 +64,12 @@ PaneHeights DefaultPanes(MainLayoutNeeds const & needs)
             std::max<int>(needs.client.cy - 2 * needs.marginY - heights.measures - 3 * needs.captionHeight -
                               (panes - 2) * needs.dividerGap - needs.spacing - needs.statusHeight,
                           0);
+        if (room < needs.listHeight + std::max(needs.waveformHeight, needs.spectrogramHeight))
+        {
+            heights.listSharesTabs = true;
+            heights.list = heights.waveform = heights.spectrogram = 3 * needs.captionHeight + room;
+            return heights;
+        }
         heights.list = needs.captionHeight + room * list_part_beside_tabs / whole;
         heights.waveform = 3 * needs.captionHeight + room - heights.list;
         heights.spectrogram = heights.waveform;

@@ -42,6 +42,7 @@ struct PaneHeights
     int spectrogram = 0;
     int measures = 0;
     bool plotsShareTabs = false; ///< there is no room for both of them: each has the height of both
+    bool listSharesTabs = false; ///< nor for one of them below the list: each of the three has all
 };
 
 /// The client area that list, panes and status need with a list of that width, without folders and frames.
