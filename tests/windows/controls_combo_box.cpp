@@ -598,7 +598,7 @@ TEST_F(ComboBoxXHostile, EndsWithinAnyOfItsMessagesWithoutHarm)
         doomed->FillItems(texts, 1, true);
         doomed->SetCurSel(0);
         HWND const tip = doomed->m_toolTipWnd;
-        controls::ExpectItMayEndIn<CComboBoxX>(message, doomed, [&act, doomed] { act(*doomed); });
+        controls::ExpectItMayEndIn<CComboBoxX>(message, doomed, [&action = act, doomed] { action(*doomed); });
         EXPECT_FALSE(::IsWindow(tip));
     }
 }

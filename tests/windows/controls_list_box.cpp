@@ -308,6 +308,6 @@ TEST_F(ListBoxXHostile, EndsWithinAnyOfItsMessagesWithoutHarm)
         auto * const doomed = new OpenList;
         ASSERT_TRUE(doomed->Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 90, 100), m_host, 62));
         doomed->FillItems(texts, 1, true);
-        controls::ExpectItMayEndIn<CListBoxX>(message, doomed, [&act, doomed] { act(*doomed); });
+        controls::ExpectItMayEndIn<CListBoxX>(message, doomed, [&action = act, doomed] { action(*doomed); });
     }
 }

@@ -223,8 +223,8 @@ TEST_F(LanguageChooser, SelectsTheLanguageGiven)
         CSprachauswahlDlg dialog(static_cast<unsigned short>(language), parent);
         EXPECT_EQ(dialog.SprachId(), language);
         EXPECT_FALSE(dialog.SpracheGeaendert());
-        Run(dialog, [&] {
-            EXPECT_EQ(TextOf(List(dialog)), name);
+        Run(dialog, [&, &wanted = name] {
+            EXPECT_EQ(TextOf(List(dialog)), wanted);
             Press(dialog, IDCANCEL);
         });
     }

@@ -12,7 +12,7 @@
 namespace
 {
 constexpr UINT control_id = 7;
-CRect const Place(10, 10, 250, 60);
+CRect const place(10, 10, 250, 60);
 constexpr DWORD shown = WS_CHILD | WS_VISIBLE;
 
 // Tooltips
@@ -36,7 +36,7 @@ class ToolTipTest : public testing::Test
 protected:
     void SetUp() override
     {
-        ASSERT_TRUE(m_button.Create(L"x", shown, Place, m_host, control_id));
+        ASSERT_TRUE(m_button.Create(L"x", shown, place, m_host, control_id));
         ASSERT_TRUE(m_tips.Create(&m_host, TTS_ALWAYSTIP));
     }
 
@@ -156,7 +156,7 @@ TEST(FrameworkControlsCommon, ProgressBarMovesInItsRange)
 {
     tests::ScopedWindow parent;
     CProgressCtrl bar;
-    ASSERT_TRUE(bar.Create(shown, Place, parent, control_id));
+    ASSERT_TRUE(bar.Create(shown, place, parent, control_id));
     bar.SetRange32(-10, 100000);
     int lower = 0;
     int upper = 0;
@@ -185,7 +185,7 @@ TEST(FrameworkControlsCommon, SliderKeepsRangeTicsAndSelection)
 {
     tests::ScopedWindow parent;
     CSliderCtrl slider;
-    ASSERT_TRUE(slider.Create(shown | TBS_ENABLESELRANGE | TBS_TOOLTIPS, Place, parent, control_id));
+    ASSERT_TRUE(slider.Create(shown | TBS_ENABLESELRANGE | TBS_TOOLTIPS, place, parent, control_id));
     slider.SetRange(10, 60);
     int lowest = 0;
     int highest = 0;
@@ -216,7 +216,7 @@ TEST(FrameworkControlsCommon, SliderKeepsRangeTicsAndSelection)
     slider.GetThumbRect(thumb);
     EXPECT_FALSE(thumb.IsRectEmpty());
     CStatic label;
-    ASSERT_TRUE(label.Create(L"min", shown, Place, parent));
+    ASSERT_TRUE(label.Create(L"min", shown, place, parent));
     EXPECT_EQ(slider.SetBuddy(&label), nullptr);
     EXPECT_EQ(slider.GetBuddy(), &label);
     EXPECT_EQ(slider.GetBuddy(FALSE), nullptr);
@@ -229,7 +229,7 @@ TEST(FrameworkControlsCommon, SpinButtonMovesItsBuddy)
     CEdit edit;
     ASSERT_TRUE(edit.Create(shown, CRect(10, 80, 80, 100), parent, control_id + 1));
     CSpinButtonCtrl spin;
-    ASSERT_TRUE(spin.Create(shown | UDS_SETBUDDYINT | UDS_NOTHOUSANDS, Place, parent, control_id));
+    ASSERT_TRUE(spin.Create(shown | UDS_SETBUDDYINT | UDS_NOTHOUSANDS, place, parent, control_id));
     EXPECT_EQ(spin.SetBuddy(&edit), nullptr);
     EXPECT_EQ(spin.GetBuddy(), &edit);
     spin.SetRange(-5, 90);
@@ -554,7 +554,7 @@ TEST(FrameworkControlsCommon, LinkControlKeepsItsLinks)
 {
     tests::ScopedWindow parent;
     CLinkCtrl link;
-    ASSERT_TRUE(link.Create(L"See the <a href=\"guide.html\" id=\"g\">guide</a>.", shown, Place, parent, control_id));
+    ASSERT_TRUE(link.Create(L"See the <a href=\"guide.html\" id=\"g\">guide</a>.", shown, place, parent, control_id));
     CString text;
     ASSERT_TRUE(link.GetItemUrl(0, text));
     EXPECT_EQ(text, L"guide.html");

@@ -12,7 +12,7 @@
 namespace
 {
 constexpr UINT control_id = 7;
-CRect const Place(10, 10, 210, 160);
+CRect const place(10, 10, 210, 160);
 constexpr DWORD shown = WS_CHILD | WS_VISIBLE;
 
 // A parent that counts what it is told of.
@@ -65,7 +65,7 @@ class ListBoxTest : public testing::Test
 protected:
     void Create(DWORD style)
     {
-        ASSERT_TRUE(m_list.Create(shown | style, Place, m_host, control_id));
+        ASSERT_TRUE(m_list.Create(shown | style, place, m_host, control_id));
         for (LPCTSTR const text : {L"Alpha", L"Beta", L"Gamma", L"Delta"})
             m_list.AddString(text);
     }
@@ -170,7 +170,7 @@ TEST(FrameworkControlsLists, OwnerDrawnListBoxMeasuresComparesDrawsAndDeletes)
 {
     Parent parent;
     OwnerDrawn<CListBox> list;
-    ASSERT_TRUE(list.Create(shown | LBS_OWNERDRAWFIXED | LBS_SORT, Place, parent, control_id));
+    ASSERT_TRUE(list.Create(shown | LBS_OWNERDRAWFIXED | LBS_SORT, place, parent, control_id));
     EXPECT_EQ(list.m_measured, 1);
     EXPECT_EQ(list.GetItemHeight(0), 23);
     list.AddString(AsText(10));
@@ -207,7 +207,7 @@ TEST(FrameworkControlsLists, VirtualKeyAnswerSelectsTheRow)
 {
     Parent parent;
     KeyedListBox list;
-    ASSERT_TRUE(list.Create(shown | LBS_WANTKEYBOARDINPUT | LBS_NOTIFY, Place, parent, control_id));
+    ASSERT_TRUE(list.Create(shown | LBS_WANTKEYBOARDINPUT | LBS_NOTIFY, place, parent, control_id));
     list.AddString(L"a");
     list.AddString(L"b");
     list.AddString(L"c");
@@ -226,7 +226,7 @@ TEST(FrameworkControlsLists, ComboBoxRowsAndTexts)
 {
     tests::ScopedWindow parent;
     CComboBox combo;
-    ASSERT_TRUE(combo.Create(shown | CBS_DROPDOWNLIST | WS_VSCROLL, Place, parent, control_id));
+    ASSERT_TRUE(combo.Create(shown | CBS_DROPDOWNLIST | WS_VSCROLL, place, parent, control_id));
     for (LPCTSTR const text : {L"Hz", L"kHz", L"MHz"})
         combo.AddString(text);
     EXPECT_EQ(combo.InsertString(0, L"mHz"), 0);
@@ -256,7 +256,7 @@ TEST(FrameworkControlsLists, ComboBoxDropsAndMeasures)
 {
     tests::ScopedWindow parent;
     CComboBox combo;
-    ASSERT_TRUE(combo.Create(shown | CBS_DROPDOWN, Place, parent, control_id));
+    ASSERT_TRUE(combo.Create(shown | CBS_DROPDOWN, place, parent, control_id));
     combo.AddString(L"x");
     EXPECT_FALSE(combo.GetDroppedState());
     combo.ShowDropDown();
@@ -287,7 +287,7 @@ TEST(FrameworkControlsLists, ComboBoxEditPartAndCueBanner)
 {
     tests::ScopedWindow parent;
     CComboBox combo;
-    ASSERT_TRUE(combo.Create(shown | CBS_DROPDOWN, Place, parent, control_id));
+    ASSERT_TRUE(combo.Create(shown | CBS_DROPDOWN, place, parent, control_id));
     combo.SetWindowText(L"12345");
     ASSERT_TRUE(combo.SetEditSel(1, 3));
     EXPECT_EQ(combo.GetEditSel(), static_cast<DWORD>(MAKELONG(1, 3)));
@@ -308,7 +308,7 @@ TEST(FrameworkControlsLists, OwnerDrawnComboBoxCallsItsOwnMembers)
 {
     Parent parent;
     OwnerDrawn<CComboBox> combo;
-    ASSERT_TRUE(combo.Create(shown | CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_SORT, Place, parent, control_id));
+    ASSERT_TRUE(combo.Create(shown | CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_SORT, place, parent, control_id));
     EXPECT_GT(combo.m_measured, 0);
     EXPECT_EQ(combo.GetItemHeight(0), 23);
     combo.AddString(AsText(1));
@@ -334,7 +334,7 @@ class CheckListTest : public testing::Test
 protected:
     void SetUp() override
     {
-        ASSERT_TRUE(m_list.Create(shown | LBS_NOTIFY, Place, m_host, control_id));
+        ASSERT_TRUE(m_list.Create(shown | LBS_NOTIFY, place, m_host, control_id));
         for (LPCTSTR const text : {L"left", L"right", L"both"})
             m_list.AddString(text);
     }

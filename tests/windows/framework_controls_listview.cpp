@@ -14,7 +14,7 @@
 namespace
 {
 constexpr UINT control_id = 7;
-CRect const Place(0, 0, 320, 200);
+CRect const place(0, 0, 320, 200);
 constexpr DWORD shown = WS_CHILD | WS_VISIBLE;
 
 class Parent : public tests::ScopedWindow
@@ -67,7 +67,7 @@ class ListViewTest : public testing::Test
 protected:
     void SetUp() override
     {
-        ASSERT_TRUE(m_list.Create(shown | LVS_REPORT | LVS_SHOWSELALWAYS, Place, m_host, control_id));
+        ASSERT_TRUE(m_list.Create(shown | LVS_REPORT | LVS_SHOWSELALWAYS, place, m_host, control_id));
         EXPECT_EQ(m_list.InsertColumn(0, L"Name", LVCFMT_LEFT, 100), 0);
         EXPECT_EQ(m_list.InsertColumn(1, L"Level", LVCFMT_RIGHT, 60, 1), 1);
         for (int row = 0; row < 3; ++row)
@@ -323,7 +323,7 @@ TEST_F(ListViewTest, LabelIsEditedInAnEditControl)
 TEST_F(ListViewTest, OwnerDrawnRowsReachTheVirtualMember)
 {
     ReflectingList list;
-    ASSERT_TRUE(list.Create(shown | LVS_REPORT | LVS_OWNERDRAWFIXED, Place, m_host, control_id + 1));
+    ASSERT_TRUE(list.Create(shown | LVS_REPORT | LVS_OWNERDRAWFIXED, place, m_host, control_id + 1));
     list.InsertColumn(0, L"x", LVCFMT_LEFT, 50);
     list.InsertItem(0, L"a");
     list.InsertItem(1, L"b");
@@ -342,7 +342,7 @@ TEST_F(ListViewTest, ImageListStaysWithItsObject)
     ASSERT_TRUE(images->SetImageCount(2));
     {
         CListCtrl list;
-        ASSERT_TRUE(list.Create(shown | LVS_REPORT, Place, m_host, control_id + 1));
+        ASSERT_TRUE(list.Create(shown | LVS_REPORT, place, m_host, control_id + 1));
         EXPECT_EQ(list.SetImageList(images.get(), LVSIL_SMALL), nullptr);
         EXPECT_EQ(list.GetImageList(LVSIL_SMALL), images.get());
         EXPECT_EQ(list.GetImageList(LVSIL_NORMAL), nullptr);
@@ -421,7 +421,7 @@ TEST(FrameworkControlsListView, VirtualListAsksItsParent)
     };
     Source parent;
     CListCtrl list;
-    ASSERT_TRUE(list.Create(shown | LVS_REPORT | LVS_OWNERDATA, Place, parent, control_id));
+    ASSERT_TRUE(list.Create(shown | LVS_REPORT | LVS_OWNERDATA, place, parent, control_id));
     list.InsertColumn(0, L"x", LVCFMT_LEFT, 80);
     EXPECT_TRUE(list.SetItemCountEx(1000));
     EXPECT_EQ(list.GetItemCount(), 1000);
@@ -500,7 +500,7 @@ TEST(FrameworkControlsListView, ExtendedCreationTakesExtendedStyles)
 {
     tests::ScopedWindow parent;
     CListCtrl list;
-    ASSERT_TRUE(list.CreateEx(WS_EX_CLIENTEDGE, shown | LVS_REPORT, Place, parent, control_id));
+    ASSERT_TRUE(list.CreateEx(WS_EX_CLIENTEDGE, shown | LVS_REPORT, place, parent, control_id));
     EXPECT_NE(list.GetExStyle() & WS_EX_CLIENTEDGE, 0U);
     EXPECT_EQ(list.GetDlgCtrlID(), static_cast<int>(control_id));
     EXPECT_EQ(list.GetParent(), &parent);

@@ -12,7 +12,7 @@
 namespace
 {
 constexpr UINT control_id = 7;
-CRect const Place(10, 10, 110, 40);
+CRect const place(10, 10, 110, 40);
 
 // A parent that counts the notifications and drawing requests that no control took.
 class Parent : public tests::ScopedWindow
@@ -90,7 +90,7 @@ TEST(FrameworkControlsStd, StaticKeepsTextAndId)
 {
     tests::ScopedWindow parent;
     CStatic label;
-    ASSERT_TRUE(label.Create(L"Level", WS_CHILD | WS_VISIBLE, Place, parent, control_id));
+    ASSERT_TRUE(label.Create(L"Level", WS_CHILD | WS_VISIBLE, place, parent, control_id));
     CString text;
     label.GetWindowText(text);
     EXPECT_EQ(text, L"Level");
@@ -102,7 +102,7 @@ TEST(FrameworkControlsStd, StaticKeepsPictures)
 {
     tests::ScopedWindow parent;
     CStatic icon;
-    ASSERT_TRUE(icon.Create(nullptr, WS_CHILD | SS_ICON, Place, parent));
+    ASSERT_TRUE(icon.Create(nullptr, WS_CHILD | SS_ICON, place, parent));
     HICON const warning = ::LoadIcon(nullptr, IDI_WARNING);
     EXPECT_EQ(icon.SetIcon(warning), nullptr);
     EXPECT_EQ(icon.GetIcon(), warning);
@@ -112,7 +112,7 @@ TEST(FrameworkControlsStd, StaticKeepsPictures)
     EXPECT_EQ(icon.GetCursor(), arrow);
 
     CStatic picture;
-    ASSERT_TRUE(picture.Create(nullptr, WS_CHILD | SS_BITMAP, Place, parent));
+    ASSERT_TRUE(picture.Create(nullptr, WS_CHILD | SS_BITMAP, place, parent));
     HBITMAP const bitmap = MakeBitmap(4, 4);
     EXPECT_EQ(picture.SetBitmap(bitmap), nullptr);
     EXPECT_EQ(picture.GetBitmap(), bitmap);
@@ -124,7 +124,7 @@ TEST(FrameworkControlsStd, OwnerDrawnStaticDrawsItself)
 {
     Parent parent;
     Drawn<CStatic> label;
-    ASSERT_TRUE(label.Create(L"x", WS_CHILD | WS_VISIBLE | SS_OWNERDRAW, Place, parent, control_id));
+    ASSERT_TRUE(label.Create(L"x", WS_CHILD | WS_VISIBLE | SS_OWNERDRAW, place, parent, control_id));
     label.Invalidate();
     label.UpdateWindow();
     EXPECT_GE(label.m_drawn, 1);
@@ -136,7 +136,7 @@ TEST(FrameworkControlsStd, OwnerDrawnButtonDrawsItselfOnceItsParentPassesItOn)
 {
     Parent parent;
     Drawn<CButton> button;
-    ASSERT_TRUE(button.Create(L"x", WS_CHILD | WS_VISIBLE | BS_OWNERDRAW, Place, parent, control_id));
+    ASSERT_TRUE(button.Create(L"x", WS_CHILD | WS_VISIBLE | BS_OWNERDRAW, place, parent, control_id));
     parent.m_drawn = 0;
     button.m_drawn = 0;
     button.Invalidate();
@@ -150,7 +150,7 @@ TEST(FrameworkControlsStd, OwnerDrawnButtonWithoutAnOverrideDrawsNothing)
 {
     Parent parent;
     CButton button;
-    ASSERT_TRUE(button.Create(L"x", WS_CHILD | WS_VISIBLE | BS_OWNERDRAW, Place, parent, control_id));
+    ASSERT_TRUE(button.Create(L"x", WS_CHILD | WS_VISIBLE | BS_OWNERDRAW, place, parent, control_id));
     parent.m_drawn = 0;
     button.Invalidate();
     button.UpdateWindow();
@@ -161,7 +161,7 @@ TEST(FrameworkControlsStd, ButtonStateRoundTrips)
 {
     tests::ScopedWindow parent;
     CButton button;
-    ASSERT_TRUE(button.Create(L"Loop", WS_CHILD | WS_VISIBLE | BS_AUTO3STATE, Place, parent, control_id));
+    ASSERT_TRUE(button.Create(L"Loop", WS_CHILD | WS_VISIBLE | BS_AUTO3STATE, place, parent, control_id));
     EXPECT_EQ(button.GetCheck(), BST_UNCHECKED);
     for (int const check : {BST_CHECKED, BST_INDETERMINATE, BST_UNCHECKED})
     {
@@ -182,14 +182,14 @@ TEST(FrameworkControlsStd, ButtonKeepsPictures)
 {
     tests::ScopedWindow parent;
     CButton button;
-    ASSERT_TRUE(button.Create(L"x", WS_CHILD | BS_BITMAP, Place, parent, control_id));
+    ASSERT_TRUE(button.Create(L"x", WS_CHILD | BS_BITMAP, place, parent, control_id));
     HBITMAP const bitmap = MakeBitmap(4, 4);
     EXPECT_EQ(button.SetBitmap(bitmap), nullptr);
     EXPECT_EQ(button.GetBitmap(), bitmap);
     EXPECT_EQ(button.SetBitmap(nullptr), bitmap);
     ::DeleteObject(bitmap);
     CButton iconButton;
-    ASSERT_TRUE(iconButton.Create(L"x", WS_CHILD | BS_ICON, Place, parent, control_id + 1));
+    ASSERT_TRUE(iconButton.Create(L"x", WS_CHILD | BS_ICON, place, parent, control_id + 1));
     HICON const warning = ::LoadIcon(nullptr, IDI_WARNING);
     EXPECT_EQ(iconButton.SetIcon(warning), nullptr);
     EXPECT_EQ(iconButton.GetIcon(), warning);
@@ -199,7 +199,7 @@ TEST(FrameworkControlsStd, ButtonKeepsMarginsAndSplitInfo)
 {
     tests::ScopedWindow parent;
     CButton button;
-    ASSERT_TRUE(button.Create(L"Split", WS_CHILD | WS_VISIBLE | BS_SPLITBUTTON, Place, parent, control_id));
+    ASSERT_TRUE(button.Create(L"Split", WS_CHILD | WS_VISIBLE | BS_SPLITBUTTON, place, parent, control_id));
     RECT margin{1, 2, 3, 4};
     ASSERT_TRUE(button.SetTextMargin(&margin));
     RECT read{};
@@ -225,7 +225,7 @@ TEST(FrameworkControlsStd, ButtonKeepsNote)
 {
     tests::ScopedWindow parent;
     CButton link;
-    ASSERT_TRUE(link.Create(L"Export", WS_CHILD | WS_VISIBLE | BS_COMMANDLINK, Place, parent, control_id));
+    ASSERT_TRUE(link.Create(L"Export", WS_CHILD | WS_VISIBLE | BS_COMMANDLINK, place, parent, control_id));
     ASSERT_TRUE(link.SetNote(L"as WAV"));
     EXPECT_EQ(link.GetNoteLength(), 6U);
     EXPECT_EQ(link.GetNote(), L"as WAV");
@@ -239,7 +239,7 @@ TEST(FrameworkControlsStd, ReflectedClickReachesTheButtonBeforeTheParent)
 {
     Parent parent;
     ReflectingButton button;
-    ASSERT_TRUE(button.Create(L"x", WS_CHILD | WS_VISIBLE, Place, parent, control_id));
+    ASSERT_TRUE(button.Create(L"x", WS_CHILD | WS_VISIBLE, place, parent, control_id));
     button.SendMessage(BM_CLICK);
     EXPECT_EQ(button.m_clicked, 1);
     EXPECT_EQ(parent.m_clicked, 0);
@@ -346,11 +346,11 @@ TEST(FrameworkControlsStd, SingleLineEditKeepsPasswordAndCueBanner)
 {
     tests::ScopedWindow parent;
     CEdit edit;
-    ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE | ES_PASSWORD, Place, parent, control_id));
+    ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE | ES_PASSWORD, place, parent, control_id));
     edit.SetPasswordChar(L'?');
     EXPECT_EQ(edit.GetPasswordChar(), L'?');
     CEdit search;
-    ASSERT_TRUE(search.Create(WS_CHILD | WS_VISIBLE, Place, parent, control_id + 1));
+    ASSERT_TRUE(search.Create(WS_CHILD | WS_VISIBLE, place, parent, control_id + 1));
     EXPECT_EQ(search.GetCueBanner(), L"");
     ASSERT_TRUE(search.SetCueBanner(L"Search"));
     EXPECT_EQ(search.GetCueBanner(), L"Search");
@@ -363,7 +363,7 @@ TEST(FrameworkControlsStd, ScrollBarKeepsRangePageAndPosition)
 {
     tests::ScopedWindow parent;
     CScrollBar bar;
-    ASSERT_TRUE(bar.Create(WS_CHILD | WS_VISIBLE | SBS_HORZ, Place, parent, control_id));
+    ASSERT_TRUE(bar.Create(WS_CHILD | WS_VISIBLE | SBS_HORZ, place, parent, control_id));
     bar.SetScrollRange(5, 105);
     int lowest = 0;
     int highest = 0;
@@ -400,7 +400,7 @@ TEST(FrameworkControlsStd, BitmapButtonTakesSizeAndPictureFromItsResource)
 {
     tests::ScopedWindow parent;
     PaintedButton button;
-    ASSERT_TRUE(button.Create(L"x", WS_CHILD | WS_VISIBLE | BS_OWNERDRAW, Place, parent, control_id));
+    ASSERT_TRUE(button.Create(L"x", WS_CHILD | WS_VISIBLE | BS_OWNERDRAW, place, parent, control_id));
     EXPECT_FALSE(button.LoadBitmaps(UINT{1}));
     EXPECT_FALSE(button.LoadBitmaps(IDB_BACKGROUND, 1U)) << "the picture of the pressed button is missing";
     ASSERT_TRUE(button.LoadBitmaps(IDB_BACKGROUND));
@@ -439,7 +439,7 @@ TEST(FrameworkControlsStd, ControlEndsItsWindowWithItself)
     HWND handle = nullptr;
     {
         CButton button;
-        ASSERT_TRUE(button.Create(L"x", WS_CHILD, Place, parent, control_id));
+        ASSERT_TRUE(button.Create(L"x", WS_CHILD, place, parent, control_id));
         handle = button;
     }
     EXPECT_FALSE(::IsWindow(handle));
@@ -448,7 +448,7 @@ TEST(FrameworkControlsStd, ControlEndsItsWindowWithItself)
 TEST(FrameworkControlsStd, CreationWithoutParentFails)
 {
     CButton button;
-    EXPECT_FALSE(button.Create(L"x", WS_CHILD, Place, nullptr, control_id));
+    EXPECT_FALSE(button.Create(L"x", WS_CHILD, place, nullptr, control_id));
     EXPECT_EQ(button.m_hWnd, nullptr);
 }
 } // namespace

@@ -354,7 +354,7 @@ TEST(CoreThreads, WorkerGetsItsParameterAndGivesItsExitCode)
     delete thread;
 }
 
-UINT const registeredThreadMessage = ::RegisterWindowMessage(L"framework_core_loop.thread");
+UINT const registered_thread_message = ::RegisterWindowMessage(L"framework_core_loop.thread");
 std::atomic<int> g_threadMessages;
 std::atomic<bool> g_ready;
 
@@ -387,7 +387,7 @@ IMPLEMENT_DYNCREATE(LoopThread, CWinThread)
 
 BEGIN_MESSAGE_MAP(LoopThread, CWinThread)
     ON_THREAD_MESSAGE(WM_APP, &LoopThread::OnAdd)
-    ON_REGISTERED_THREAD_MESSAGE(registeredThreadMessage, &LoopThread::OnEnd)
+    ON_REGISTERED_THREAD_MESSAGE(registered_thread_message, &LoopThread::OnEnd)
 END_MESSAGE_MAP()
 
 TEST(CoreThreads, LoopThreadHandlesPostedThreadMessages)
@@ -398,7 +398,7 @@ TEST(CoreThreads, LoopThreadHandlesPostedThreadMessages)
     thread->ResumeThread();
     ASSERT_TRUE(tests::PumpUntil([] { return g_ready.load(); }));
     EXPECT_TRUE(thread->PostThreadMessage(WM_APP, 3, 4));
-    EXPECT_TRUE(thread->PostThreadMessage(registeredThreadMessage, 11, 0));
+    EXPECT_TRUE(thread->PostThreadMessage(registered_thread_message, 11, 0));
     ASSERT_EQ(::WaitForSingleObject(thread->m_hThread, static_cast<DWORD>(tests::hang_limit.count())), WAIT_OBJECT_0);
     DWORD code = 0;
     ::GetExitCodeThread(thread->m_hThread, &code);

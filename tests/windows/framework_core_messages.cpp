@@ -12,8 +12,8 @@
 namespace
 {
 constexpr UINT plain_message = WM_APP + 1;
-UINT const registeredMessage = ::RegisterWindowMessage(L"framework_core_messages.registered");
-UINT const otherRegisteredMessage = ::RegisterWindowMessage(L"framework_core_messages.other");
+UINT const registered_message = ::RegisterWindowMessage(L"framework_core_messages.registered");
+UINT const other_registered_message = ::RegisterWindowMessage(L"framework_core_messages.other");
 constexpr UINT id_plain = 100;
 constexpr UINT id_range_first = 110;
 constexpr UINT id_range_last = 112;
@@ -146,8 +146,8 @@ BEGIN_MESSAGE_MAP(Derived, Base)
     ON_COMMAND_EX_RANGE(id_ex_range_first, id_ex_range_last, &Derived::OnEx)
     ON_COMMAND(id_disabled, &Derived::OnDisabled)
     ON_UPDATE_COMMAND_UI(id_disabled, &Derived::OnUpdateDisabled)
-    ON_REGISTERED_MESSAGE(otherRegisteredMessage, &Derived::OnOtherRegistered)
-    ON_REGISTERED_MESSAGE(registeredMessage, &Derived::OnRegistered)
+    ON_REGISTERED_MESSAGE(other_registered_message, &Derived::OnOtherRegistered)
+    ON_REGISTERED_MESSAGE(registered_message, &Derived::OnRegistered)
     ON_NOTIFY(NM_CLICK, id_notify, &Derived::OnNotifyPlain)
     ON_WM_SIZE()
     ON_WM_MOVE()
@@ -233,8 +233,8 @@ TEST_F(CoreMessages, MessageByNumberGivesTheHandlersAnswer)
 
 TEST_F(CoreMessages, RegisteredMessagesAreToldApart)
 {
-    EXPECT_EQ(Send(registeredMessage, 5, 6), 22);
-    EXPECT_EQ(Send(otherRegisteredMessage), 33);
+    EXPECT_EQ(Send(registered_message, 5, 6), 22);
+    EXPECT_EQ(Send(other_registered_message), 33);
     EXPECT_EQ(Take(), (Calls{"registered 5 6 0", "other registered 0 0 0"}));
 }
 
