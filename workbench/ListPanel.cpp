@@ -126,6 +126,7 @@ void CListPanel::ShowFilter(bool show)
             window->ShowWindow(show ? SW_SHOWNA : SW_HIDE);
         }
         Arrange();
+        RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
     }
     if (show)
     {
@@ -208,6 +209,8 @@ void CListPanel::Arrange()
     CRect client;
     GetClientRect(&client);
     auto const strip = m_showsFilter ? m_metrics->Y(strip_height) : 0;
+    // The list first: moved later, it would take pictures of the strip's parts along.
+    m_list->MoveWindow(0, strip, client.Width(), std::max<int>(client.Height() - strip, 0));
     if (m_showsFilter)
     {
         auto const high = m_metrics->Y(field_height);
@@ -227,9 +230,6 @@ void CListPanel::Arrange()
         m_rating.MoveWindow(right + check + 2 * gap, top, choice, m_metrics->Y(list_height));
         m_state.MoveWindow(right + check + choice + 3 * gap, top, choice, m_metrics->Y(list_height));
     }
-    m_list->MoveWindow(0, strip, client.Width(), std::max<int>(client.Height() - strip, 0));
-    // Its titles move along with it and may keep what was below them.
-    m_list->RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
 }
 
 void CListPanel::OnSize(UINT type, int width, int height)

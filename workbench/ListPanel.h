@@ -8,8 +8,8 @@
 #include "RecordingList.h"
 #include "ScreenMetrics.h"
 
-/// The list of recordings with the strip above it by which it is filtered, which shows only while it is used: words, and
-/// choices that a recording must fit as well.
+/// The list of recordings with the strip above it by which it is filtered, which shows only while it is used: words,
+/// and choices that a recording must fit as well.
 class CListPanel : public CWnd
 {
 public:

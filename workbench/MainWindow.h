@@ -60,7 +60,10 @@ public:
     void ShowTargets(std::vector<std::filesystem::path> targets);
 
     /// Whether recordings are still being looked for, listed or read.
-    bool IsBusy() const { return (m_search && !m_following) || m_listed < m_found.size() || m_toReread > 0 || m_queued > 0; }
+    bool IsBusy() const
+    {
+        return (m_search && !m_following) || m_listed < m_found.size() || m_toReread > 0 || m_queued > 0;
+    }
 
     /// Gives up looking for recordings, listing and reading them; what is there stays.
     void CancelReading();
@@ -369,7 +372,7 @@ private:
     CSpectrogramView m_spectrogram;
     CPlaying m_playing;
     CReportWriter m_report;
-    std::filesystem::path m_reported; ///< the report that has been written last
+    std::filesystem::path m_reported;                            ///< the report that has been written last
     std::shared_ptr<workbench::RecordingAnalysis const> m_shown; ///< in both views; null for a text
     std::wstring m_shownText;
     CMeasurePanel m_panel;

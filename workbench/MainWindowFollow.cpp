@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <numeric>
+#include <string_view>
 #include <utility>
 
 #include "logic/FolderChanges.h"
@@ -198,10 +199,10 @@ void CMainWindow::Renumber(std::vector<int> const & numbers)
 void CMainWindow::ArrangeFollowed()
 {
     auto const files = std::exchange(m_followed, {});
-    std::unordered_map<std::wstring, int> places;
+    std::unordered_map<std::wstring_view, int> places;
     for (std::size_t i = 0; i < files.size(); ++i)
     {
-        places.emplace(files[i].wstring(), static_cast<int>(i));
+        places.emplace(files[i].native(), static_cast<int>(i));
     }
     // By their places; the rest, if any, stays behind them.
     std::vector<int> lines(m_recordings.size());
@@ -209,7 +210,7 @@ void CMainWindow::ArrangeFollowed()
     std::vector<int> wanted(lines.size(), static_cast<int>(files.size()));
     for (std::size_t line = 0; line < lines.size(); ++line)
     {
-        if (auto const place = places.find(m_recordings[line].file.wstring()); place != places.end())
+        if (auto const place = places.find(m_recordings[line].file.native()); place != places.end())
         {
             wanted[line] = place->second;
         }

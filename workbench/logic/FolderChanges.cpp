@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <map>
+#include <string_view>
 #include <tuple>
 #include <unordered_map>
 #include <unordered_set>
@@ -13,6 +14,7 @@ namespace
 {
 
 using Path = std::filesystem::path;
+using Name = std::basic_string_view<Path::value_type>; // of a path that lasts longer
 
 bool IsKnown(FileFacts const & facts)
 {
@@ -24,12 +26,12 @@ bool IsKnown(FileFacts const & facts)
 FolderChanges CompareFolder(std::span<KnownFile const> listed, std::span<KnownFile const> found)
 {
     FolderChanges changes;
-    std::unordered_map<Path::string_type, FileFacts const *> present;
+    std::unordered_map<Name, FileFacts const *> present;
     for (auto const & [file, facts] : found)
     {
         present.emplace(file.native(), &facts);
     }
-    std::unordered_map<Path::string_type, std::size_t> places;
+    std::unordered_map<Name, std::size_t> places;
     for (std::size_t place = 0; place < listed.size(); ++place)
     {
         auto const & [file, facts] = listed[place];
@@ -71,7 +73,7 @@ FolderChanges CompareFolder(std::span<KnownFile const> listed, std::span<KnownFi
         }
     }
     std::unordered_set<std::size_t> formerly;
-    std::unordered_set<Path::string_type> now;
+    std::unordered_set<Name> now;
     for (auto const & [facts, pair] : alike)
     {
         if (pair.gone.size() == 1 && pair.come.size() == 1)
