@@ -67,13 +67,13 @@ std::shared_ptr<RecordingAnalysis const> LargeAnalysis()
     return analysis;
 }
 
-double PrivateBytes()
+double BytesInUse()
 {
     PROCESS_MEMORY_COUNTERS_EX counters{};
     counters.cb = sizeof counters;
     ::K32GetProcessMemoryInfo(::GetCurrentProcess(), reinterpret_cast<PROCESS_MEMORY_COUNTERS *>(&counters),
                               sizeof counters);
-    return static_cast<double>(counters.PrivateUsage);
+    return static_cast<double>(counters.WorkingSetSize);
 }
 
 /// What each step over all files takes, in nanoseconds a file.
@@ -132,7 +132,7 @@ double BytesOfOurs(CWnd & parent, int count)
     list.CreateList(parent, 7, metrics);
     auto const files = Files(count);
     std::vector<CRecordingList::Notes> const notes(files.size());
-    auto const before = PrivateBytes();
+    auto const before = BytesInUse();
     list.ShowFiles(files, notes);
     {
         CRecordingList::Batch const batch(list);
@@ -140,7 +140,7 @@ double BytesOfOurs(CWnd & parent, int count)
             list.ShowAnalysis(line, LargeAnalysis());
     }
     PumpAll();
-    auto const after = PrivateBytes();
+    auto const after = BytesInUse();
     list.DestroyWindow();
     PumpAll();
     return (after - before) / count;
@@ -210,6 +210,8 @@ bool bench::OpeningRecordings()
 {
     CWnd parent;
     parent.CreateEx(0, AfxRegisterWndClass(0), L"", WS_OVERLAPPEDWINDOW | WS_VISIBLE, window_place, nullptr, 0);
+    // First, while nothing is free to be used again.
+    auto const bytes = BytesOfOurs(parent, usual_count);
     std::vector<double> listing, results, marking, nativeListing, nativeResults, nativeMarking, small, large;
     std::vector<double> sorting, filtering, nativeSorting, nativeFiltering;
     for (int round = 0; round < rounds; ++round)
@@ -233,7 +235,6 @@ bool bench::OpeningRecordings()
             sum += OfOurs(parent, small_count).All();
         small.push_back(sum / (large_count / small_count / 4));
     }
-    auto const bytes = BytesOfOurs(parent, usual_count);
     parent.DestroyWindow();
     bool met = Report("workbench: list a file, 5,000", Median(listing), Median(nativeListing), listing_goal);
     met = Report("workbench: show a file's values, 5,000", Median(results), Median(nativeResults), results_goal) && met;
