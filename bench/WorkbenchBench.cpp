@@ -5,6 +5,8 @@
 #include "Measure.h"
 #include "RecordingList.h"
 
+#include <psapi.h>
+
 #include <filesystem>
 #include <functional>
 #include <memory>
@@ -30,6 +32,9 @@ constexpr double listing_goal = 3.0;
 constexpr double results_goal = 1.25;
 constexpr double marking_goal = 1.0;
 constexpr double growth_goal = 1.25;
+constexpr double sorting_goal = 3.0;
+constexpr double filtering_goal = 3.0;
+constexpr double memory_limit = 40'000.0;
 
 std::vector<std::filesystem::path> Files(int count)
 {
@@ -51,12 +56,34 @@ std::shared_ptr<RecordingAnalysis const> Analysis()
     return analysis;
 }
 
+/// One of its own, with the largest overview that is kept.
+std::shared_ptr<RecordingAnalysis const> LargeAnalysis()
+{
+    auto analysis = std::make_shared<RecordingAnalysis>(*Analysis());
+    constexpr std::size_t channels = 2;
+    workbench::WaveformBuilder builder(channels, workbench::RecordingAnalyser::most_buckets / channels);
+    builder.Add(std::vector<double>(workbench::RecordingAnalyser::most_buckets, 0.5));
+    analysis->waveform = builder.Finish();
+    return analysis;
+}
+
+double BytesInUse()
+{
+    PROCESS_MEMORY_COUNTERS_EX counters{};
+    counters.cb = sizeof counters;
+    ::K32GetProcessMemoryInfo(::GetCurrentProcess(), reinterpret_cast<PROCESS_MEMORY_COUNTERS *>(&counters),
+                              sizeof counters);
+    return static_cast<double>(counters.WorkingSetSize);
+}
+
 /// What each step over all files takes, in nanoseconds a file.
 struct Costs
 {
     double listing;
     double results;
     double marking;
+    double sorting = 0.0;
+    double filtering = 0.0;
 
     double All() const { return listing + results + marking; }
 };
@@ -85,9 +112,38 @@ Costs OfOurs(CWnd & parent, int count)
             list.ShowAnalysis(line, analysis);
     });
     costs.marking = perFile([&] { list.CheckAll(true); });
+    costs.sorting = perFile([&] { list.SortLines(CRecordingList::column_name, false); });
+    // A letter that a third of the names have.
+    costs.filtering = perFile([&] {
+        workbench::RecordingFilter filter;
+        filter.words = L"7";
+        list.SetFilter(filter);
+    });
     list.DestroyWindow();
     PumpAll();
     return costs;
+}
+
+/// The bytes that a listed file takes, with its values and its overview.
+double BytesOfOurs(CWnd & parent, int count)
+{
+    workbench::ScreenMetrics metrics;
+    CRecordingList list;
+    list.CreateList(parent, 7, metrics);
+    auto const files = Files(count);
+    std::vector<CRecordingList::Notes> const notes(files.size());
+    auto const before = BytesInUse();
+    list.ShowFiles(files, notes);
+    {
+        CRecordingList::Batch const batch(list);
+        for (int line = 0; line < count; ++line)
+            list.ShowAnalysis(line, LargeAnalysis());
+    }
+    PumpAll();
+    auto const after = BytesInUse();
+    list.DestroyWindow();
+    PumpAll();
+    return (after - before) / count;
 }
 
 Costs OfNative(CWnd & parent, int count)
@@ -126,6 +182,24 @@ Costs OfNative(CWnd & parent, int count)
             list.GetStringWidth(text);
     });
     costs.marking = perFile([&](int row) { list.SetCheck(row, TRUE); });
+    costs.sorting =
+        Nanoseconds([&] {
+            for (int row = 0; row < count; ++row)
+                list.SetItemData(row, static_cast<DWORD_PTR>(row));
+            list.SortItems([](LPARAM first, LPARAM second, LPARAM) { return static_cast<int>(second - first); }, 0);
+            PumpAll();
+        }) /
+        count;
+    costs.filtering =
+        Nanoseconds([&] {
+            list.SetRedraw(FALSE);
+            for (int row = count - 1; row >= 0; --row)
+                if (files[static_cast<std::size_t>(row)].filename().wstring().find(L'7') == std::wstring::npos)
+                    list.DeleteItem(row);
+            list.SetRedraw(TRUE);
+            PumpAll();
+        }) /
+        count;
     list.DestroyWindow();
     PumpAll();
     return costs;
@@ -136,7 +210,10 @@ bool bench::OpeningRecordings()
 {
     CWnd parent;
     parent.CreateEx(0, AfxRegisterWndClass(0), L"", WS_OVERLAPPEDWINDOW | WS_VISIBLE, window_place, nullptr, 0);
+    // First, while nothing is free to be used again.
+    auto const bytes = BytesOfOurs(parent, usual_count);
     std::vector<double> listing, results, marking, nativeListing, nativeResults, nativeMarking, small, large;
+    std::vector<double> sorting, filtering, nativeSorting, nativeFiltering;
     for (int round = 0; round < rounds; ++round)
     {
         auto const ours = OfOurs(parent, usual_count);
@@ -147,6 +224,10 @@ bool bench::OpeningRecordings()
         nativeListing.push_back(native.listing);
         nativeResults.push_back(native.results);
         nativeMarking.push_back(native.marking);
+        sorting.push_back(ours.sorting);
+        filtering.push_back(ours.filtering);
+        nativeSorting.push_back(native.sorting);
+        nativeFiltering.push_back(native.filtering);
         large.push_back(OfOurs(parent, large_count).All());
         // As much work as the large one, so that both are as steady.
         constexpr int small_lists = large_count / small_count / 4;
@@ -159,5 +240,11 @@ bool bench::OpeningRecordings()
     bool met = Report("workbench: list a file, 5,000", Median(listing), Median(nativeListing), listing_goal);
     met = Report("workbench: show a file's values, 5,000", Median(results), Median(nativeResults), results_goal) && met;
     met = Report("workbench: mark a file, 5,000", Median(marking), Median(nativeMarking), marking_goal) && met;
+    met =
+        Report("workbench: sort by name, a file of 5,000", Median(sorting), Median(nativeSorting), sorting_goal) && met;
+    met = Report("workbench: filter by one letter, a file of 5,000", Median(filtering), Median(nativeFiltering),
+                 filtering_goal) &&
+          met;
+    met = Report("workbench: memory of a listed recording beside 40 kB, bytes", bytes, memory_limit, 1.0) && met;
     return Report("workbench: a file among 20,000 by one among 500", Median(large), Median(small), growth_goal) && met;
 }

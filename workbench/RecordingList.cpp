@@ -406,11 +406,25 @@ void CRecordingList::SetChecked(int row, bool checked)
 
 void CRecordingList::CheckAll(bool checked)
 {
-    FinishRows();
+    // Rows that are still missing are not made for it.
     Batch const batch(*this);
-    for (int row = 0; row < GetItemCount(); ++row)
+    for (int line = 0; line < LineCount(); ++line)
     {
-        SetChecked(row, checked);
+        auto const & source = m_sources[static_cast<std::size_t>(line)];
+        auto const row = PlaceOf(line);
+        if (row >= 0)
+        {
+            SetChecked(row, checked);
+        }
+        else if (source.shown && !(source.analysis && source.analysis->problem) && NotesOf(line).checked != checked)
+        {
+            auto const before = NotesOf(line);
+            auto after = before;
+            after.checked = checked;
+            SetNotes(line, after);
+            m_history.Note(line, before, after);
+            Tell(changed_marks);
+        }
     }
 }
 

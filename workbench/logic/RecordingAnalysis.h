@@ -42,7 +42,7 @@ class RecordingAnalyser
 public:
     /// The most buckets of the overview, of all lanes together: thousands of recordings have one each. What is shown
     /// large gets its finer one from `WaveformDetail`.
-    static constexpr std::size_t most_buckets = 2048;
+    static constexpr std::size_t most_buckets = 1792;
 
     /// Opens the source, which may be null.
     explicit RecordingAnalyser(std::unique_ptr<ByteSource> source);

@@ -155,6 +155,29 @@ TEST_F(FilteredRecordingList, MarkingAllGoesForWhatShows)
     EXPECT_EQ(m_list.GetHeaderCheckedState(CRecordingList::column_check), XHC_MIXED);
 }
 
+TEST_F(FilteredRecordingList, MarkingAllMakesNoRowsThatAreStillMissing)
+{
+    constexpr int count = 3000;
+    Show(count);
+    Filter(L"rec_1 rec_12");
+    Filter(L"");
+    ASSERT_LT(m_list.GetItemCount(), count);
+    m_list.CheckAll(true);
+    EXPECT_LT(m_list.GetItemCount(), count);
+    auto const readable = m_list.Totals().Lines() - m_list.Totals().Unreadable();
+    EXPECT_EQ(m_list.Totals().Checked(), readable);
+    ASSERT_TRUE(tests::PumpUntil([&] { return m_list.GetItemCount() == count; }));
+    for (int row = 0; row < count; ++row)
+    {
+        auto const line = m_list.LineAt(row);
+        ASSERT_EQ(m_list.GetCheckbox(row, CRecordingList::column_check) == XLC_CHECKED, line % 7 != 6) << line;
+    }
+    EndGesture();
+    ASSERT_TRUE(m_list.CanUndo());
+    m_list.Undo();
+    EXPECT_EQ(m_list.Totals().Checked(), 0U);
+}
+
 TEST_F(FilteredRecordingList, WhatIsReadLaterAppearsAtItsPlace)
 {
     Show(10);

@@ -25,6 +25,7 @@ public:
     ~ResponseWatch()
     {
         m_stop = true;
+        tests::PumpUntil([this] { return m_finished.load(); }); // it may wait for an answer
         m_thread.join();
     }
     int Answers() const { return m_answers; }
@@ -48,9 +49,11 @@ private:
             ++m_answers;
             ::Sleep(2);
         }
+        m_finished = true;
     }
 
     std::atomic<bool> m_stop = false;
+    std::atomic<bool> m_finished = false;
     std::atomic<long long> m_longest = 0;
     std::atomic<int> m_answers = 0;
     std::thread m_thread;
