@@ -163,8 +163,17 @@ TEST_F(ListCursor, ShowsWhileTheListHasTheFocus)
     EXPECT_EQ(DotsAt(3, 2), 0);
     m_list.SetFocus();
     EXPECT_GT(DotsAt(3, 2), 10);
-    m_list.EnableCellCursor(false);
+    // A row that is not selected.
+    PressWith(VK_DOWN, {VK_CONTROL});
+    ASSERT_FALSE(m_list.IsSelected(4));
     EXPECT_EQ(DotsAt(3, 2), 0);
+    EXPECT_GT(DotsAt(4, 2), 10);
+    m_button.SetFocus();
+    EXPECT_EQ(DotsAt(4, 2), 0);
+    m_list.SetFocus();
+    EXPECT_GT(DotsAt(4, 2), 10);
+    m_list.EnableCellCursor(false);
+    EXPECT_EQ(DotsAt(4, 2), 0);
 }
 
 TEST_F(ListCursor, IsScrolledIntoSight)
@@ -184,8 +193,10 @@ TEST_F(ListCursor, IsScrolledIntoSight)
 TEST_F(ListCursor, SpaceTicks)
 {
     m_list.SetCheckbox(2, 1, XLC_UNCHECKED);
+    m_list.SetItemText(6, 0, L" begins as if it were looked for");
     m_host.TakePosted();
     PressKey(VK_SPACE);
+    EXPECT_EQ(Cursor(), Place(2, 1));
     EXPECT_EQ(m_list.GetCheckbox(2, 1), XLC_CHECKED);
     PressKey(VK_SPACE);
     EXPECT_EQ(m_list.GetCheckbox(2, 1), XLC_UNCHECKED);
