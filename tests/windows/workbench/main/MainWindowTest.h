@@ -35,20 +35,20 @@ inline void WriteRecording(std::filesystem::path const & path, std::uint32_t rat
         }
     };
     file << "RIFF";
-    number(36 + frames * 2, 4);
+    number(36 + frames * std::uint64_t{2}, 4);
     file << "WAVEfmt ";
     number(16, 4);
     number(1, 2);
     number(1, 2);
     number(rate, 4);
-    number(rate * std::uint64_t(2) & 0xFFFFFFFF, 4);
+    number(rate * std::uint64_t{2} & 0xFFFFFFFF, 4);
     number(2, 2);
     number(16, 2);
     file << "data";
-    number(frames * 2, 4);
+    number(frames * std::uint64_t{2}, 4);
     for (std::uint32_t i = 0; i < frames; ++i)
     {
-        number(i * 50 % 20000, 2);
+        number(i * std::uint64_t{50} % 20000, 2);
     }
 }
 
