@@ -101,12 +101,12 @@ public:
     using CAdvComboBox::m_focused;
     using CAdvComboBox::m_focusNotified;
     using CAdvComboBox::m_font;
-    using CAdvComboBox::m_parent;
     using CAdvComboBox::m_hot;
     using CAdvComboBox::m_hotTimer;
     using CAdvComboBox::m_items;
     using CAdvComboBox::m_maxVisible;
     using CAdvComboBox::m_minVisible;
+    using CAdvComboBox::m_parent;
     using CAdvComboBox::m_rcButton;
     using CAdvComboBox::m_rcCombo;
     using CAdvComboBox::m_rcDropSaved;
