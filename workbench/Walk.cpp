@@ -211,7 +211,8 @@ bool CWalk::ShowSettingsPages(std::function<std::string(char const *)> const & n
     }
     auto & sheet = m_window.SettingsSheet();
     for (auto const * const picture :
-         {"workbench-settings", "workbench-settings-waveform", "workbench-settings-list", "workbench-settings-dialogs"})
+         {"workbench-settings", "workbench-settings-waveform", "workbench-settings-spectrogram",
+          "workbench-settings-list", "workbench-settings-dialogs"})
     {
         if (!Step(name(picture).c_str()))
         {
