@@ -20,8 +20,8 @@ struct CBezierControls
 };
 
 /// How far the curve with these control points is from the inner points of the run: the sum of their squared distances.
-/// The nearest place on the curve is looked for in a scan and a secant search, which need not find it; hosts expect that
-/// the sum is not exact. Three points or more. Not finite where the points are not.
+/// The nearest place on the curve is looked for in a scan and a secant search, which need not find it; hosts expect
+/// that the sum is not exact. Three points or more. Not finite where the points are not.
 double BezierError(std::span<CDigiPoint const> points, CBezierControls const & controls);
 
 /// The control points of the curve, found by a few line searches for a small error. Three points or more; any values
