@@ -88,10 +88,7 @@ protected:
     void SetUp() override
     {
         wchar_t step[16] = L"";
-        if (::GetEnvironmentVariableW(step_variable, step, 16) == 0)
-        {
-            GTEST_SKIP();
-        }
+        ASSERT_NE(::GetEnvironmentVariableW(step_variable, step, 16), 0U);
         m_step = std::stoi(step);
         tests::App().m_pszRegistryKey = registry_key;
         tests::App().m_pszProfileName = L"Settings";
@@ -164,7 +161,7 @@ protected:
     int m_step = 0;
 };
 
-TEST_F(WorkbenchCrashProgram, IsKilledAfterAChange)
+TEST_F(WorkbenchCrashProgram, DISABLED_IsKilledAfterAChange)
 {
     m_window->ShowTargets({m_folder / "recordings"});
     ASSERT_TRUE(WaitUntilRead());
@@ -195,7 +192,9 @@ protected:
         wchar_t file[MAX_PATH] = L"";
         ::GetModuleFileNameW(nullptr, file, MAX_PATH);
         ::SetEnvironmentVariableW(step_variable, std::to_wstring(step).c_str());
-        auto command = L'"' + std::wstring(file) + L"\" --gtest_filter=WorkbenchCrashProgram.* --gtest_brief=1";
+        auto command = L'"' + std::wstring(file) +
+                       L"\" --gtest_filter=WorkbenchCrashProgram.* "
+                       L"--gtest_also_run_disabled_tests --gtest_brief=1";
         STARTUPINFOW startup{};
         startup.cb = sizeof startup;
         PROCESS_INFORMATION process{};
