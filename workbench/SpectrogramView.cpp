@@ -259,7 +259,9 @@ void CSpectrogramView::OnTimer(UINT_PTR timer)
     if (timer == finer_timer)
     {
         KillTimer(finer_timer);
-        if (NeedsFiner())
+        // All of the file goes first; its end asks for the part again.
+        bool const computesAll = m_job && !m_jobStretch;
+        if (NeedsFiner() && !computesAll)
         {
             // As much again on both sides, so that a little scrolling shows it, too.
             auto const shown = m_marks.window.Shown();
