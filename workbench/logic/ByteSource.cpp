@@ -3,9 +3,66 @@
 #include <algorithm>
 #include <cstring>
 #include <system_error>
+#include <utility>
+
+#ifdef _WIN32
+#include <fcntl.h>
+#include <io.h>
+#include <windows.h>
+#endif
 
 namespace workbench
 {
+
+namespace
+{
+
+std::FILE * OpenForReading(std::filesystem::path const & file)
+{
+#ifdef _WIN32
+    constexpr DWORD all_sharing = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+    HANDLE const handle =
+        ::CreateFileW(file.c_str(), GENERIC_READ, all_sharing, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (handle == INVALID_HANDLE_VALUE)
+    {
+        return nullptr;
+    }
+    int const descriptor = ::_open_osfhandle(reinterpret_cast<std::intptr_t>(handle), _O_RDONLY | _O_BINARY);
+    if (descriptor < 0)
+    {
+        ::CloseHandle(handle);
+        return nullptr;
+    }
+    std::FILE * const stream = ::_fdopen(descriptor, "rb");
+    if (stream == nullptr)
+    {
+        ::_close(descriptor);
+    }
+    return stream;
+#else
+    return std::fopen(file.c_str(), "rb");
+#endif
+}
+
+bool Seek(std::FILE * file, std::int64_t offset, int from)
+{
+#ifdef _WIN32
+    return ::_fseeki64(file, offset, from) == 0;
+#else
+    return ::fseeko(file, static_cast<off_t>(offset), from) == 0;
+#endif
+}
+
+std::int64_t Tell(std::FILE * file)
+{
+#ifdef _WIN32
+    return ::_ftelli64(file);
+#else
+    return ::ftello(file);
+#endif
+}
+
+} // namespace
 
 std::size_t MemoryByteSource::Read(std::uint64_t offset, std::span<std::byte> buffer)
 {
@@ -29,17 +86,17 @@ std::unique_ptr<FileByteSource> FileByteSource::Open(std::filesystem::path const
     {
         return nullptr;
     }
-    std::ifstream stream(path, std::ios::binary);
-    if (!stream || !stream.seekg(0, std::ios::end))
+    File file(OpenForReading(path));
+    if (!file || !Seek(file.get(), 0, SEEK_END))
     {
         return nullptr;
     }
-    auto const end = stream.tellg();
+    auto const end = Tell(file.get());
     if (end < 0)
     {
         return nullptr;
     }
-    return std::unique_ptr<FileByteSource>(new FileByteSource(std::move(stream), static_cast<std::uint64_t>(end)));
+    return std::unique_ptr<FileByteSource>(new FileByteSource(std::move(file), static_cast<std::uint64_t>(end)));
 }
 
 std::size_t FileByteSource::Read(std::uint64_t offset, std::span<std::byte> buffer)
@@ -49,13 +106,11 @@ std::size_t FileByteSource::Read(std::uint64_t offset, std::span<std::byte> buff
         return 0;
     }
     auto const count = static_cast<std::size_t>(std::min<std::uint64_t>(m_size - offset, buffer.size()));
-    m_stream.clear();
-    if (!m_stream.seekg(static_cast<std::streamoff>(offset)))
+    if (!Seek(m_file.get(), static_cast<std::int64_t>(offset), SEEK_SET))
     {
         return 0;
     }
-    m_stream.read(reinterpret_cast<char *>(buffer.data()), static_cast<std::streamsize>(count));
-    return static_cast<std::size_t>(m_stream.gcount());
+    return std::fread(buffer.data(), 1, count, m_file.get());
 }
 
 } // namespace workbench

@@ -3,8 +3,8 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstdio>
 #include <filesystem>
-#include <fstream>
 #include <memory>
 #include <span>
 
@@ -37,7 +37,7 @@ private:
     std::span<std::byte const> m_bytes;
 };
 
-/// The bytes of a file, which is read piece by piece.
+/// The bytes of a file, which is read piece by piece. Others may write, rename and delete it meanwhile.
 class FileByteSource : public ByteSource
 {
 public:
@@ -48,9 +48,15 @@ public:
     std::size_t Read(std::uint64_t offset, std::span<std::byte> buffer) override;
 
 private:
-    FileByteSource(std::ifstream stream, std::uint64_t size) : m_stream(std::move(stream)), m_size(size) {}
+    struct Closer
+    {
+        void operator()(std::FILE * file) const { std::fclose(file); }
+    };
+    using File = std::unique_ptr<std::FILE, Closer>;
 
-    std::ifstream m_stream;
+    FileByteSource(File file, std::uint64_t size) : m_file(std::move(file)), m_size(size) {}
+
+    File m_file;
     std::uint64_t m_size;
 };
 
