@@ -233,7 +233,9 @@ void CRecordingList::ShowTexts()
     for (int i = column_name; i < column_count; ++i)
     {
         LVCOLUMN column{};
-        column.mask = LVCF_TEXT;
+        // With a text alone, its side would be the left one.
+        column.mask = LVCF_TEXT | LVCF_FMT;
+        column.fmt = column_designs[i].format;
         column.pszText = const_cast<wchar_t *>(Title(i));
         SetColumn(i, &column);
         auto & needed = m_needs[static_cast<std::size_t>(i)];

@@ -154,6 +154,25 @@ private:
     int m_shift = 6;
 };
 
+TEST_F(RecordingListTest, OtherTitlesLeaveTheColumnsTheirSides)
+{
+    auto const sides = [this] {
+        std::vector<int> formats;
+        for (int column = 0; column < CRecordingList::column_count; ++column)
+        {
+            HDITEMW item{};
+            item.mask = HDI_FORMAT;
+            m_list.GetHeaderCtrl()->GetItem(column, &item);
+            formats.push_back(item.fmt & HDF_JUSTIFYMASK);
+        }
+        return formats;
+    };
+    auto const before = sides();
+    EXPECT_EQ(before[CRecordingList::column_duration], HDF_RIGHT);
+    m_list.ShowTexts();
+    EXPECT_EQ(sides(), before);
+}
+
 TEST_F(RecordingListTest, AClickOnATitleSortsAndAnotherOneTurnsTheOrder)
 {
     ClickTitle(CRecordingList::column_name, XHC_SORT_ASCENDING);
