@@ -14,6 +14,29 @@ CWorkbenchDialog::CWorkbenchDialog(UINT templateId, wchar_t const * name, CWnd &
     SetGenuineTitle(name);
 }
 
+namespace
+{
+/// A place that was kept when the screen was larger may lie beyond this one.
+void BringOntoScreen(CWnd & window)
+{
+    CRect place;
+    window.GetWindowRect(&place);
+    MONITORINFO screen{};
+    screen.cbSize = sizeof screen;
+    if (!::GetMonitorInfoW(::MonitorFromWindow(window.m_hWnd, MONITOR_DEFAULTTONEAREST), &screen))
+    {
+        return;
+    }
+    CRect const work(screen.rcWork);
+    CPoint const corner(std::max<int>(work.left, std::min<int>(place.left, work.right - place.Width())),
+                        std::max<int>(work.top, std::min<int>(place.top, work.bottom - place.Height())));
+    if (corner != place.TopLeft())
+    {
+        window.SetWindowPos(nullptr, corner.x, corner.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    }
+}
+} // namespace
+
 /// Opens with its owner, which the base class gives to modal dialogs alone.
 int CWorkbenchDialog::DisplayDialog()
 {
@@ -35,6 +58,10 @@ bool CWorkbenchDialog::Open(CString const & title)
     if (DisplayDialog() == 0)
     {
         return false;
+    }
+    if (opened)
+    {
+        BringOntoScreen(*this);
     }
     ShowWindow(SW_SHOW);
     SetActiveWindow();

@@ -210,6 +210,25 @@ TEST_F(WorkbenchMainWindow, KeepsItsDialogsAboveItself)
     EXPECT_EQ(::GetForegroundWindow(), m_window->m_hWnd);
 }
 
+TEST_F(WorkbenchMainWindow, ADialogWhoseStoredPlaceIsBeyondTheScreenComesBackOntoIt)
+{
+    m_window->ShowTargets({Folder(1)});
+    ASSERT_TRUE(WaitUntilRead());
+    ASSERT_TRUE(m_window->ShowDetails(0));
+    CRect work;
+    ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
+    CRect place;
+    auto & details = m_window->Details();
+    details.GetWindowRect(&place);
+    details.SetWindowPos(nullptr, work.right - 80, work.bottom - 60, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    details.SendMessage(WM_CLOSE);
+    ASSERT_TRUE(tests::PumpUntil([&] { return !details.IsOpen(); }));
+    ASSERT_TRUE(m_window->ShowDetails(0));
+    CRect now;
+    details.GetWindowRect(&now);
+    EXPECT_EQ(now, CRect(work.BottomRight() - place.Size(), place.Size()));
+}
+
 TEST_F(WorkbenchMainWindow, AClickIntoItLeavesItsDialogsAbove)
 {
     m_window->ShowTargets({Folder(6)});
