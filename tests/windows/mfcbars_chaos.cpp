@@ -105,7 +105,7 @@ public:
     bool Ending() const { return m_ending; }
 
     /// Device contexts that the system keeps for windows that are painted while others are.
-    static constexpr int kept_by_the_system = 48;
+    static constexpr int kept_by_the_system = 72;
 
 protected:
     void Operate() override

@@ -87,6 +87,11 @@ std::unique_ptr<FileByteSource> FileByteSource::Open(std::filesystem::path const
         return nullptr;
     }
     File file(OpenForReading(path));
+    // What others change is seen at once, and pieces that are read are large.
+    if (file)
+    {
+        std::setvbuf(file.get(), nullptr, _IONBF, 0);
+    }
     if (!file || !Seek(file.get(), 0, SEEK_END))
     {
         return nullptr;

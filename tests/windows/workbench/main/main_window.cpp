@@ -205,8 +205,10 @@ TEST_F(WorkbenchMainWindow, KeepsItsDialogsAboveItself)
     }
     ASSERT_TRUE(tests::BringToFront(m_window->m_hWnd));
     EXPECT_TRUE(tests::PumpUntil([&] { return IsAbove(m_window->Details().m_hWnd, m_window->m_hWnd); }));
-    EXPECT_TRUE(IsAbove(m_window->SettingsSheet().m_hWnd, m_window->Preview().m_hWnd));
-    EXPECT_TRUE(IsAbove(m_window->Preview().m_hWnd, m_window->Details().m_hWnd));
+    // They are raised one after the other.
+    EXPECT_TRUE(
+        tests::PumpUntil([&] { return IsAbove(m_window->SettingsSheet().m_hWnd, m_window->Preview().m_hWnd); }));
+    EXPECT_TRUE(tests::PumpUntil([&] { return IsAbove(m_window->Preview().m_hWnd, m_window->Details().m_hWnd); }));
     EXPECT_EQ(::GetForegroundWindow(), m_window->m_hWnd);
 }
 
