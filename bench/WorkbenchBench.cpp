@@ -4,13 +4,19 @@
 #include "ControlBench.h"
 #include "Measure.h"
 #include "RecordingList.h"
+#include "logic/Texts.h"
 
 #include <psapi.h>
 
+#include <algorithm>
+#include <atomic>
+#include <chrono>
 #include <filesystem>
 #include <functional>
 #include <memory>
+#include <numeric>
 #include <string>
+#include <thread>
 #include <vector>
 
 namespace
@@ -35,6 +41,7 @@ constexpr double growth_goal = 1.25;
 constexpr double sorting_goal = 3.0;
 constexpr double filtering_goal = 3.0;
 constexpr double memory_limit = 40'000.0;
+constexpr double wait_limit = 50e6; // nanoseconds
 
 std::vector<std::filesystem::path> Files(int count)
 {
@@ -204,6 +211,123 @@ Costs OfNative(CWnd & parent, int count)
     PumpAll();
     return costs;
 }
+/// Sends a window messages without a meaning, one after the other, and notes the longest wait for an answer.
+class ResponseWatch
+{
+public:
+    explicit ResponseWatch(HWND window) : m_thread([this, window] { Run(window); }) {}
+    ~ResponseWatch()
+    {
+        m_stop = true;
+        while (!m_finished) // it may wait for an answer
+            PumpAll();
+        m_thread.join();
+    }
+    /// In nanoseconds.
+    double Longest() const { return static_cast<double>(m_longest); }
+
+private:
+    void Run(HWND window)
+    {
+        while (!m_stop)
+        {
+            auto const waited = static_cast<long long>(Nanoseconds([window] {
+                DWORD_PTR result = 0;
+                ::SendMessageTimeoutW(window, WM_NULL, 0, 0, SMTO_NORMAL, 60'000, &result);
+            }));
+            m_longest = std::max(m_longest.load(), waited);
+            ::Sleep(1);
+        }
+        m_finished = true;
+    }
+
+    std::atomic<bool> m_stop = false;
+    std::atomic<bool> m_finished = false;
+    std::atomic<long long> m_longest = 0;
+    std::thread m_thread; // the last one, as it uses the others
+};
+
+/// The longest that a window keeps a message waiting while it does something and for a while after it.
+double LongestWait(HWND window, std::function<void()> const & act)
+{
+    constexpr auto after = std::chrono::milliseconds(1500);
+    ResponseWatch const watch(window);
+    auto const wait = [](std::chrono::milliseconds time) {
+        auto const end = std::chrono::steady_clock::now() + time;
+        while (std::chrono::steady_clock::now() < end)
+        {
+            ::MsgWaitForMultipleObjects(0, nullptr, FALSE, 5, QS_ALLINPUT);
+            PumpAll();
+        }
+    };
+    wait(std::chrono::milliseconds(50));
+    act();
+    wait(after);
+    return watch.Longest();
+}
+
+/// Whether no step over thousands of lines keeps the list from answering.
+bool ReportWaits(CWnd & parent, int count)
+{
+    workbench::ScreenMetrics metrics;
+    CRecordingList list;
+    list.CreateList(parent, 7, metrics);
+    list.SetWindowPos(nullptr, 0, 0, list_place.Width(), list_place.Height(), SWP_NOZORDER);
+    auto const files = Files(count);
+    auto const analysis = Analysis();
+    list.ShowFiles(files, std::vector<CRecordingList::Notes>(files.size()));
+    {
+        CRecordingList::Batch const batch(list);
+        for (int line = 0; line < count; ++line)
+            list.ShowAnalysis(line, analysis);
+    }
+    PumpAll();
+    auto const idle = LongestWait(list.m_hWnd, [] {});
+    bool met = true;
+    auto const report = [&](char const * name, std::function<void()> const & act) {
+        list.FinishRows(); // of the step before
+        auto const wait = LongestWait(list.m_hWnd, act);
+        met = bench::ReportTime(std::string("workbench: longest wait for an answer at 5,000, ") + name, wait, idle,
+                                wait_limit) &&
+              met;
+    };
+    auto const filter = [&list](wchar_t const * words) {
+        workbench::RecordingFilter wanted;
+        wanted.words = words;
+        list.SetFilter(wanted);
+    };
+    auto const speak = [&list](unsigned short language) {
+        workbench::SetLanguage(workbench::LanguageOf(language));
+        list.ShowTexts();
+    };
+    report("filter by one letter", [&] { filter(L"7"); });
+    report("no filter", [&] { filter(L""); });
+    filter(L"7");
+    report("no filter and a sort at once", [&] {
+        filter(L"");
+        list.SortLines(CRecordingList::column_rms, true);
+    });
+    report("sort by name", [&] { list.SortLines(CRecordingList::column_name, false); });
+    report("mark all", [&] { list.CheckAll(true); });
+    report("take that back", [&] { list.Undo(); });
+    report("another language", [&] { speak(1031); });
+    report("the former language", [&] { speak(1033); });
+    report("300 go while all are selected", [&] {
+        list.SetItemState(-1, LVIS_SELECTED, LVIS_SELECTED);
+        std::vector<int> numbers(static_cast<std::size_t>(count), -1);
+        std::iota(numbers.begin() + 300, numbers.end(), 0);
+        list.Renumber(numbers);
+    });
+    list.ChooseLine(2000);
+    report("1,000 go while one is selected", [&] {
+        std::vector<int> numbers(static_cast<std::size_t>(list.LineCount()), -1);
+        std::iota(numbers.begin() + 1000, numbers.end(), 0);
+        list.Renumber(numbers);
+    });
+    list.DestroyWindow();
+    PumpAll();
+    return met;
+}
 } // namespace
 
 bool bench::OpeningRecordings()
@@ -236,8 +360,9 @@ bool bench::OpeningRecordings()
             sum += OfOurs(parent, small_count).All();
         small.push_back(sum / small_lists);
     }
+    bool met = ReportWaits(parent, usual_count);
     parent.DestroyWindow();
-    bool met = Report("workbench: list a file, 5,000", Median(listing), Median(nativeListing), listing_goal);
+    met = Report("workbench: list a file, 5,000", Median(listing), Median(nativeListing), listing_goal) && met;
     met = Report("workbench: show a file's values, 5,000", Median(results), Median(nativeResults), results_goal) && met;
     met = Report("workbench: mark a file, 5,000", Median(marking), Median(nativeMarking), marking_goal) && met;
     met =

@@ -9,6 +9,7 @@
 
 #include "clipboard/Clipboard.h"
 
+#include "colours/ControlColors.h"
 #include "colours/Farbtabellen.h"
 
 #include "layout/Edges.h"

@@ -44,6 +44,11 @@ bool CDetailsDialog::Show(std::vector<workbench::DetailLine> lines)
     return Open(Text(L"Recording Details"));
 }
 
+void CDetailsDialog::ShowTexts()
+{
+    ShowTemplateTexts(Text(L"Recording Details"));
+}
+
 BOOL CDetailsDialog::OnInitDialog()
 {
     CWorkbenchDialog::OnInitDialog();

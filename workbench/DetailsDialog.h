@@ -29,6 +29,7 @@ public:
     /// Asked for each time the menu opens or one of its keys is pressed.
     std::function<Actions()> m_actions;
 
+    void ShowTexts() override;
     BOOL OnInitDialog() override;
     BOOL PreTranslateMessage(MSG * message) override;
 

@@ -33,7 +33,8 @@ std::vector<std::filesystem::path> ChooseFiles(CWnd & owner)
 {
     std::vector<std::filesystem::path> files;
     std::vector<wchar_t> names(names_length, L'\0');
-    CFileDialog dialog(TRUE, L"wav", nullptr, OFN_ALLOWMULTISELECT | OFN_FILEMUSTEXIST | OFN_HIDEREADONLY,
+    CFileDialog dialog(TRUE, L"wav", nullptr,
+                       OFN_ALLOWMULTISELECT | OFN_FILEMUSTEXIST | OFN_HIDEREADONLY | OFN_NOCHANGEDIR,
                        Text(L"WAV recordings (*.wav;*.wave)|*.wav;*.wave|All files (*.*)|*.*||"), &owner);
     dialog.GetOFN().lpstrTitle = Text(L"Open Recordings");
     dialog.GetOFN().lpstrFile = names.data();
@@ -53,9 +54,9 @@ std::optional<std::filesystem::path> ChoosePictureFile(CWnd & owner, std::wstrin
     return ChooseFileToWrite(owner, Text(L"Save Picture"), L"png", name, Text(L"Pictures (*.png)|*.png||"));
 }
 
-std::optional<std::filesystem::path> ChooseReportFile(CWnd & owner)
+std::optional<std::filesystem::path> ChooseReportFile(CWnd & owner, std::wstring const & name)
 {
-    return ChooseFileToWrite(owner, Text(L"Save Report"), L"html", {}, Text(L"Web page (*.html)|*.html||"));
+    return ChooseFileToWrite(owner, Text(L"Save Report"), L"html", name, Text(L"Web page (*.html)|*.html||"));
 }
 
 std::optional<std::filesystem::path> ChooseFolder(CWnd & owner, wchar_t const * title)

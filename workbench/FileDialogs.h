@@ -17,7 +17,7 @@ std::vector<std::filesystem::path> ChooseFiles(CWnd & owner);
 std::optional<std::filesystem::path> ChoosePictureFile(CWnd & owner, std::wstring const & name);
 
 /// Lets the user say where a report goes; nothing if the choice was given up.
-std::optional<std::filesystem::path> ChooseReportFile(CWnd & owner);
+std::optional<std::filesystem::path> ChooseReportFile(CWnd & owner, std::wstring const & name);
 
 /// Lets the user choose a folder; empty if the choice was given up. title: says what for.
 std::optional<std::filesystem::path> ChooseFolder(CWnd & owner, wchar_t const * title);

@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "logic/Spectrogram.h"
 #include "logic/TextFormat.h"
 #include "logic/Texts.h"
 #include "resource.h"
@@ -30,6 +31,19 @@ constexpr int list_height = 120; // of the columns
 
 constexpr UINT look_interval = 50; // milliseconds from the first news until it is shown
 
+/// Of the table's menu.
+enum Command : UINT
+{
+    command_copy = 1,
+    command_select_all,
+    command_export,
+    columns_of_command = 16,
+    command_sort = 16, ///< this and the following ones by a column, whose number is added
+    command_show = 32,
+    command_left = 48,
+    command_right = 64
+};
+
 struct Column
 {
     wchar_t const * title;
@@ -47,6 +61,14 @@ Column const columns[] = {{Translatable(L"Time"), L"Time", L"s", 3, L"36000.000"
                           {Translatable(L"Frequency"), L"Frequency", L"Hz", 1, L"24000.0"},
                           {Translatable(L"Centroid"), L"Centroid", L"Hz", 1, L"24000.0"}};
 
+/// What each row is measured in, which is longer than a row.
+std::wstring WindowText(std::wstring const & length)
+{
+    CString text;
+    text.Format(Text(L"windows of %s"), length.c_str());
+    return text.GetString();
+}
+
 wchar_t DecimalSign()
 {
     wchar_t sign[8] = {};
@@ -56,7 +78,7 @@ wchar_t DecimalSign()
 
 } // namespace
 
-BEGIN_MESSAGE_MAP(CFrameMeasuresPanel, CWnd)
+BEGIN_MESSAGE_MAP(CFrameMeasuresPanel, CPanel)
     ON_WM_SIZE()
     ON_WM_SETFOCUS()
     ON_WM_PAINT()
@@ -74,13 +96,10 @@ END_MESSAGE_MAP()
 bool CFrameMeasuresPanel::CreatePanel(CWnd & parent, UINT id, workbench::ScreenMetrics & metrics)
 {
     m_metrics = &metrics;
-    auto const windowClass =
-        AfxRegisterWndClass(0, ::LoadCursorW(nullptr, IDC_ARROW), reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1));
     constexpr DWORD control = WS_CHILD | WS_VISIBLE | WS_TABSTOP;
     constexpr DWORD label = WS_CHILD | WS_VISIBLE | SS_CENTERIMAGE | SS_NOPREFIX;
     // The table comes first, so that it has the focus of the whole.
-    if (!CreateEx(WS_EX_CONTROLPARENT, windowClass, L"", WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN, CRect(), &parent,
-                  id) ||
+    if (!CreatePanelWindow(L"", parent, id) ||
         !m_table.Create(control | WS_BORDER | LVS_SHOWSELALWAYS, CRect(), this, IDC_FRAME_TABLE) ||
         !m_label.Create(L"", label, CRect(), this) ||
         !m_column.Create(control | WS_VSCROLL | CBS_DROPDOWNLIST, CRect(), this, IDC_FRAME_COLUMN) ||
@@ -94,13 +113,20 @@ bool CFrameMeasuresPanel::CreatePanel(CWnd & parent, UINT id, workbench::ScreenM
     {
         window->SetFont(&metrics.Font());
     }
+    m_table.SetDpi(metrics.Resolution());
     m_table.m_onSelectionChange = [this] { OnChosen(); };
     m_table.m_onExportEnd = [this](bool whole) {
         auto const failed = !whole && !std::exchange(m_stopsExport, false);
+        auto const file = std::exchange(m_exported, {});
         ShowStatus();
         if (failed)
         {
-            AfxMessageBox(Text(L"The file could not be written."), MB_ICONEXCLAMATION);
+            AfxMessageBox(Text(L"This file could not be written:") + (L"\n\n" + CString(file.c_str())),
+                          MB_ICONEXCLAMATION);
+        }
+        else if (auto const onExported = m_onExported; onExported && whole)
+        {
+            onExported(file);
         }
     };
     ShowTexts();
@@ -109,6 +135,7 @@ bool CFrameMeasuresPanel::CreatePanel(CWnd & parent, UINT id, workbench::ScreenM
 
 void CFrameMeasuresPanel::ShowTexts()
 {
+    m_table.SetWindowText(Text(L"Analysis Frames")); // for programs that read the screen
     m_label.SetWindowText(Text(L"Filter:"));
     m_words.SetCueBanner(Text(L"e.g. > -20 or 100..200"), TRUE);
     auto const chosen = m_column.GetCurSel();
@@ -135,12 +162,12 @@ void CFrameMeasuresPanel::ShowColumns()
         column.name = columns[i].name;
         column.kind = TableKind::floating;
         column.format = {NumberStyle::fixed, columns[i].digits, false, UnitPlace::header, columns[i].unit};
-        // Room for the title with its mark of sorting; the table counts in pixels at 96 to the inch of its screen.
+        // Room for the title with its mark of sorting; the table counts in pixels at 96 to the inch.
         auto const title =
             dc.GetTextExtent(CString(TitleOf(column).c_str())).cx + 11 * m_metrics->AverageWidth() / 2 + 1;
         auto const number = dc.GetTextExtent(CString(columns[i].widest)).cx + 3 * m_metrics->AverageWidth();
         column.width =
-            ::MulDiv(std::max<int>(title, number), USER_DEFAULT_SCREEN_DPI, dc.GetDeviceCaps(LOGPIXELSX)) + 1;
+            ::MulDiv(std::max<int>(title, number), USER_DEFAULT_SCREEN_DPI, static_cast<int>(m_table.GetDpi())) + 1;
     }
     m_table.SetColumns(std::move(shown), L"AnalysisFrames");
     // What a filter finds depends on how numbers are shown.
@@ -246,7 +273,7 @@ void CFrameMeasuresPanel::OnTimer(UINT_PTR id)
         Look();
         return;
     }
-    CWnd::OnTimer(id);
+    CPanel::OnTimer(id);
 }
 
 /// Follows what was told, and goes on looking while the table is at work.
@@ -334,6 +361,12 @@ std::wstring CFrameMeasuresPanel::StatusText() const
     {
         return result->problem->Text();
     }
+    if (m_noNumber)
+    {
+        // Shown by itself, as it is the reason why the filter does nothing.
+        return m_noNumber->empty() ? Text(L"A number is missing.")
+                                   : std::wstring(Text(L"No number:")) + L' ' + *m_noNumber;
+    }
     CString text;
     if (m_table.IsExporting())
     {
@@ -360,6 +393,11 @@ std::wstring CFrameMeasuresPanel::StatusText() const
     else if (!result->whole)
     {
         status += std::wstring(L"; ") + Text(L"the file ends early");
+    }
+    else if (auto const * const raster = Raster())
+    {
+        auto const rate = raster->SampleRate();
+        status += L"; " + WindowText(workbench::FormatStretch(workbench::SpectrogramWindow(rate), rate));
     }
     return status;
 }
@@ -395,7 +433,9 @@ void CFrameMeasuresPanel::OnFilterChange()
     CString words;
     m_words.GetWindowText(words);
     auto const column = static_cast<unsigned int>(std::max(m_column.GetCurSel(), 0));
-    m_table.SetRowFilter(workbench::ParseFrameFilter(words.GetString(), column, DecimalSign()));
+    auto filter = workbench::ParseFrameFilter(words.GetString(), column, DecimalSign());
+    m_noNumber = std::move(filter.noNumber);
+    m_table.SetRowFilter(std::move(filter.rows));
     if (m_source)
     {
         m_wantsRow = true;
@@ -407,7 +447,7 @@ void CFrameMeasuresPanel::OnFilterChange()
 /// The decimal sign may be another one.
 void CFrameMeasuresPanel::OnSettingChange(UINT flags, LPCTSTR section)
 {
-    CWnd::OnSettingChange(flags, section);
+    CPanel::OnSettingChange(flags, section);
     OnFilterChange();
 }
 
@@ -427,11 +467,12 @@ void CFrameMeasuresPanel::OnExport()
     Export();
 }
 
-/// Writes the rows shown, with all digits.
+/// Writes the rows shown, with all the digits that are known.
 void CFrameMeasuresPanel::Export()
 {
     auto const name = std::filesystem::path(m_name).stem().wstring();
-    CFileDialog dialog(FALSE, L"csv", name.c_str(), OFN_OVERWRITEPROMPT | OFN_HIDEREADONLY | OFN_PATHMUSTEXIST,
+    CFileDialog dialog(FALSE, L"csv", name.c_str(),
+                       OFN_OVERWRITEPROMPT | OFN_HIDEREADONLY | OFN_PATHMUSTEXIST | OFN_NOCHANGEDIR,
                        Text(L"CSV tables (*.csv)|*.csv||"), this);
     dialog.GetOFN().lpstrTitle = Text(L"Export Analysis Frames");
     LifeWatch const life(m_life);
@@ -441,8 +482,10 @@ void CFrameMeasuresPanel::Export()
         return;
     }
     m_stopsExport = false;
-    if (m_table.ExportRows(dialog.GetPathName().GetString(), TableForm::csv, false))
+    std::filesystem::path const file(dialog.GetPathName().GetString());
+    if (m_table.ExportRows(file.wstring(), TableForm::csv, false))
     {
+        m_exported = file;
         SetTimer(look_timer, look_interval, nullptr);
         ShowStatus();
     }
@@ -452,7 +495,7 @@ void CFrameMeasuresPanel::OnContextMenu(CWnd * window, CPoint point)
 {
     if (window != &m_table)
     {
-        CWnd::OnContextMenu(window, point);
+        CPanel::OnContextMenu(window, point);
         return;
     }
     auto const isByKey = point == CPoint(-1, -1);
@@ -467,12 +510,6 @@ void CFrameMeasuresPanel::OnContextMenu(CWnd * window, CPoint point)
     {
         return;
     }
-    enum Command : UINT
-    {
-        command_copy = 1,
-        command_select_all,
-        command_export
-    };
     auto const some = m_table.RowsShown() > 0;
     auto const enabled = some ? MF_ENABLED : MF_GRAYED;
     menu.AppendMenu(MF_STRING | enabled, command_copy, Text(L"&Copy\tCtrl+C"));
@@ -480,6 +517,7 @@ void CFrameMeasuresPanel::OnContextMenu(CWnd * window, CPoint point)
     menu.AppendMenu(MF_SEPARATOR);
     menu.AppendMenu(MF_STRING | (some && !m_table.IsExporting() ? MF_ENABLED : MF_GRAYED), command_export,
                     Text(L"&Export as CSV..."));
+    AppendColumnMenus(menu);
     LifeWatch const life(m_life);
     auto const chosen = menu.TrackPopupMenu(TPM_RETURNCMD | TPM_RIGHTBUTTON, point.x, point.y, this);
     if (life.Over() || m_hWnd == nullptr)
@@ -498,6 +536,73 @@ void CFrameMeasuresPanel::OnContextMenu(CWnd * window, CPoint point)
         Export();
         break;
     default:
+        DoWithColumn(static_cast<UINT>(chosen));
+        break;
+    }
+}
+
+/// What titles offer to the mouse, for the keyboard.
+void CFrameMeasuresPanel::AppendColumnMenus(CMenu & menu)
+{
+    auto const shown = m_table.ShownColumns();
+    auto const & sorted = m_table.SortColumns();
+    std::pair<UINT, wchar_t const *> const kinds[] = {{command_sort, Text(L"&Sort by")},
+                                                      {command_show, Text(L"S&how columns")},
+                                                      {command_left, Text(L"Move column to the &left")},
+                                                      {command_right, Text(L"Move column to the &right")}};
+    menu.AppendMenu(MF_SEPARATOR);
+    for (auto const & [first, title] : kinds)
+    {
+        CMenu columnsOf;
+        if (!columnsOf.CreatePopupMenu())
+        {
+            return;
+        }
+        for (UINT column = 0; column < std::size(columns); ++column)
+        {
+            auto const place = std::ranges::find(shown, column);
+            auto const isShown = place != shown.end();
+            auto const isMark = (first == command_show && isShown) ||
+                                (first == command_sort && !sorted.empty() && sorted.front().column == column);
+            auto const isPossible = first == command_sort   ? m_source != nullptr
+                                    : first == command_show ? !isShown || shown.size() > 1
+                                    : first == command_left ? isShown && place != shown.begin()
+                                                            : isShown && column != shown.back();
+            CString text;
+            text.Format(L"&%u %s", column + 1, Text(columns[column].title));
+            columnsOf.AppendMenu(MF_STRING | (isMark ? MF_CHECKED : MF_UNCHECKED) |
+                                     (isPossible ? MF_ENABLED : MF_GRAYED),
+                                 first + column, text);
+        }
+        menu.AppendMenu(MF_POPUP | MF_STRING, reinterpret_cast<UINT_PTR>(columnsOf.Detach()), title);
+    }
+}
+
+void CFrameMeasuresPanel::DoWithColumn(UINT command)
+{
+    auto const kind = command / columns_of_command * columns_of_command;
+    auto const column = command - kind;
+    auto const shown = m_table.ShownColumns();
+    auto const place = static_cast<unsigned int>(std::ranges::find(shown, column) - shown.begin());
+    switch (kind)
+    {
+    case command_sort: {
+        auto const & sorted = m_table.SortColumns();
+        auto const isAscending = !sorted.empty() && sorted.front().column == column && !sorted.front().descending;
+        m_table.SortBy({{column, isAscending}});
+        SetTimer(look_timer, look_interval, nullptr);
+        break;
+    }
+    case command_show:
+        m_table.HideTableColumn(column, place < shown.size());
+        break;
+    case command_left:
+        m_table.MoveTableColumn(column, place - 1);
+        break;
+    case command_right:
+        m_table.MoveTableColumn(column, place + 1);
+        break;
+    default:
         break;
     }
 }
@@ -507,7 +612,7 @@ BOOL CFrameMeasuresPanel::PreTranslateMessage(MSG * message)
 {
     if (message->message != WM_KEYDOWN || ::GetKeyState(VK_MENU) < 0 || m_metrics == nullptr)
     {
-        return CWnd::PreTranslateMessage(message);
+        return CPanel::PreTranslateMessage(message);
     }
     auto const key = message->wParam;
     auto const control = ::GetKeyState(VK_CONTROL) < 0;
@@ -535,7 +640,7 @@ BOOL CFrameMeasuresPanel::PreTranslateMessage(MSG * message)
             return TRUE;
         }
     }
-    return TranslateStripKey(message) || CWnd::PreTranslateMessage(message);
+    return TranslateStripKey(message) || CPanel::PreTranslateMessage(message);
 }
 
 bool CFrameMeasuresPanel::TranslateStripKey(MSG * message)
@@ -568,7 +673,7 @@ bool CFrameMeasuresPanel::TranslateStripKey(MSG * message)
     return false;
 }
 
-/// In which the status of an hour that is being measured is seen.
+/// In which the status of an hour is seen, while it is measured and afterwards.
 int CFrameMeasuresPanel::StatusWidth()
 {
     CString frames;
@@ -577,7 +682,10 @@ int CFrameMeasuresPanel::StatusWidth()
     part.Format(Text(L"measuring, %d %%"), 100);
     CClientDC dc(this);
     workbench::SelectScope const font(dc, m_metrics->Font());
-    return dc.GetTextExtent(frames + L"; " + part).cx + m_metrics->AverageWidth();
+    std::wstring const longest = L"23.2 ms";
+    auto const window = CString(WindowText(longest).c_str());
+    auto const longer = std::max(dc.GetTextExtent(part).cx, dc.GetTextExtent(window).cx);
+    return dc.GetTextExtent(frames + L"; ").cx + longer + m_metrics->AverageWidth();
 }
 
 /// One line above the table, or two where it is narrow.
@@ -616,7 +724,7 @@ void CFrameMeasuresPanel::Arrange()
 
 void CFrameMeasuresPanel::OnSize(UINT type, int width, int height)
 {
-    CWnd::OnSize(type, width, height);
+    CPanel::OnSize(type, width, height);
     Arrange();
 }
 
@@ -629,5 +737,5 @@ void CFrameMeasuresPanel::OnDestroy()
 {
     m_job.reset();
     m_open = nullptr;
-    CWnd::OnDestroy();
+    CPanel::OnDestroy();
 }

@@ -10,6 +10,7 @@
 #include <optional>
 #include <string>
 
+#include "Panel.h"
 #include "ScreenMetrics.h"
 #include "frame/LifeWatch.h"
 #include "list/table/XTableCtrl.h"
@@ -19,7 +20,7 @@
 /// The analysis frames of a recording as a table, with a strip to choose among them. They are measured on a thread
 /// while the table shows what there is by then; not before the panel is seen. The row of the cursor's time is selected,
 /// and a row that the user selects moves the cursor.
-class CFrameMeasuresPanel : public CWnd
+class CFrameMeasuresPanel : public CPanel
 {
 public:
     /// Creates the panel. The metrics must outlive the window.
@@ -39,11 +40,17 @@ public:
     /// Called with the frame of a row that the user has chosen.
     std::function<void(std::uint64_t frame)> m_onFrame;
 
+    /// Called with a file that has been written.
+    std::function<void(std::filesystem::path const & file)> m_onExported;
+
     /// Whether rows are still to come, or wait to be seen.
     bool IsFilling() const { return m_open != nullptr || (m_job && !m_job->GetResult()); }
     CXTableCtrl & Table() { return m_table; }
     /// What the strip says of the table.
     std::wstring StatusText() const;
+
+    /// Gives the table a cell cursor, or takes it away.
+    void EnableCellCursor(bool enable) { m_table.EnableCellCursor(enable); }
 
     /// Copies the selected rows, if the table has the focus; false if it has not.
     bool CopySelection();
@@ -85,6 +92,8 @@ private:
     void Export();
     bool TranslateStripKey(MSG * message);
     workbench::FrameRaster const * Raster() const;
+    void AppendColumnMenus(CMenu & menu);
+    void DoWithColumn(UINT command);
 
     workbench::ScreenMetrics * m_metrics = nullptr;
     CXTableCtrl m_table;
@@ -94,13 +103,15 @@ private:
     CStatic m_status;
     CButton m_export;
     std::wstring m_name;
-    std::wstring m_text;         ///< in place of a recording
-    workbench::OpenBytes m_open; ///< of what is to be measured once it is seen
+    std::wstring m_text;                    ///< in place of a recording
+    std::optional<std::wstring> m_noNumber; ///< what the filter has in place of a number
+    workbench::OpenBytes m_open;            ///< of what is to be measured once it is seen
     std::shared_ptr<std::atomic<bool>> m_told = std::make_shared<std::atomic<bool>>(false); ///< and not looked at yet
     std::shared_ptr<workbench::FrameTable> m_source;
     std::unique_ptr<workbench::FrameMeasuresJob> m_job;
     std::uint64_t m_cursor = 0;
-    bool m_wantsRow = false;    ///< the cursor's row is still to be selected
-    bool m_stopsExport = false; ///< by the user
+    bool m_wantsRow = false;          ///< the cursor's row is still to be selected
+    bool m_stopsExport = false;       ///< by the user
+    std::filesystem::path m_exported; ///< that is being written
     LifeSign m_life;
 };

@@ -39,7 +39,7 @@ void CHelpDialog::ShowTexts()
 {
     if (IsOpen())
     {
-        SetWindowText(Text(L"Help"));
+        ShowTemplateTexts(Text(L"Help"));
         Fill();
     }
 }

@@ -16,7 +16,7 @@ public:
     bool Show(workbench::HelpTopic topic);
 
     /// Shows what it says in the present language.
-    void ShowTexts();
+    void ShowTexts() override;
 
     /// The menus by which the keys are told; asked for whenever the page of the keys is shown.
     std::function<std::vector<workbench::MenuTexts>()> m_menus;

@@ -12,7 +12,7 @@ thread_local HelpKey * s_present = nullptr;
 
 } // namespace
 
-HelpKey::HelpKey(HWND frame, std::function<void(HWND)> pressed)
+HelpKey::HelpKey(HWND frame, std::function<void(HWND, bool)> pressed)
     : m_frame(frame),
       m_pressed(std::move(pressed)),
       m_hook(::SetWindowsHookExW(WH_GETMESSAGE, &HelpKey::OnMessage, nullptr, ::GetCurrentThreadId()))
@@ -34,7 +34,7 @@ LRESULT CALLBACK HelpKey::OnMessage(int code, WPARAM removed, LPARAM parameter)
     {
         message.message = WM_NULL;
         auto const pressed = s_present->m_pressed;
-        pressed(message.hwnd);
+        pressed(message.hwnd, ::GetKeyState(VK_CONTROL) < 0);
     }
     return ::CallNextHookEx(nullptr, code, removed, parameter);
 }

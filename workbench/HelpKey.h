@@ -13,8 +13,8 @@ class HelpKey
 {
 public:
     /// The keys of `frame` itself are left to its accelerators. pressed: called, from within the loop that takes the
-    /// key, with the window that has the focus.
-    HelpKey(HWND frame, std::function<void(HWND)> pressed);
+    /// key, with the window that has the focus, and whether Ctrl is held.
+    HelpKey(HWND frame, std::function<void(HWND focus, bool control)> pressed);
     HelpKey(HelpKey const &) = delete;
     HelpKey & operator=(HelpKey const &) = delete;
     ~HelpKey();
@@ -23,7 +23,7 @@ private:
     static LRESULT CALLBACK OnMessage(int code, WPARAM removed, LPARAM message);
 
     HWND m_frame;
-    std::function<void(HWND)> m_pressed;
+    std::function<void(HWND, bool)> m_pressed;
     HHOOK m_hook;
 };
 

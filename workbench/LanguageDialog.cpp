@@ -31,7 +31,7 @@ BOOL CLanguageDialog::OnInitDialog()
     auto * const prompt = ::FindWindowExW(m_hWnd, nullptr, WC_STATICW, nullptr);
     ::SetWindowTextW(prompt, Text(L"Choose the language of the workbench:"));
     ::SetWindowTextW(::FindWindowExW(m_hWnd, prompt, WC_STATICW, nullptr),
-                     Text(L"Windows that are open already keep their language until they are opened again."));
+                     Text(L"All windows of the workbench speak it at once."));
     return result;
 }
 

@@ -1,11 +1,14 @@
 #pragma once
 
 #include <map>
+#include <vector>
 
 #include "ColumnsField.h"
 #include "SettingsGroup.h"
+#include "controls/ComboBoxX.h"
 
-/// The columns of the list.
+/// The columns of the list and their order, how large it is, how keys act in it, and the colours of all lists and
+/// controls.
 class CListGroup : public CSettingsGroup
 {
 public:
@@ -15,7 +18,9 @@ public:
     /// The columns stay as they are where the user has chosen none: they can be chosen at the list, too.
     bool Take(workbench::Settings & settings) override;
 
+    void ShowTexts() override;
     BOOL OnInitDialog() override;
+    BOOL PreTranslateMessage(MSG * message) override;
 
 protected:
     void DoDataExchange(CDataExchange * exchange) override;
@@ -23,7 +28,22 @@ protected:
 
 private:
     afx_msg LRESULT OnChosen(WPARAM tag, LPARAM);
+    afx_msg void OnChange();
+    afx_msg void OnUp();
+    afx_msg void OnDown();
+    afx_msg void OnOrderChosen();
+
+    void FillBoxes();
+    void FillOrder(std::vector<int> const & columns);
+    /// The columns in the order that the user sees.
+    std::vector<int> Order() const;
+    void MoveColumn(int places);
+    void EnableButtons();
 
     CColumnsField m_columns;
+    CComboBox m_contrast;
+    CComboBoxX m_scale;
+    CListBox m_order;
     bool m_chosen = false;
+    bool m_moved = false;
 };

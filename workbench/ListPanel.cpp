@@ -43,7 +43,7 @@ void Fill(CComboBox & choice, std::vector<wchar_t const *> const & texts)
 
 } // namespace
 
-BEGIN_MESSAGE_MAP(CListPanel, CWnd)
+BEGIN_MESSAGE_MAP(CListPanel, CPanel)
     ON_WM_SIZE()
     ON_WM_SETFOCUS()
     ON_EN_CHANGE(IDC_FILTER_WORDS, &CListPanel::OnFilterChange)
@@ -57,13 +57,10 @@ bool CListPanel::CreatePanel(CWnd & parent, UINT id, UINT listId, workbench::Scr
 {
     m_metrics = &metrics;
     m_list = &list;
-    auto const windowClass =
-        AfxRegisterWndClass(0, ::LoadCursorW(nullptr, IDC_ARROW), reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1));
     constexpr DWORD choice_style = WS_CHILD | WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWNLIST;
     // The list comes first, so that it has the focus of the whole.
-    if (!CreateEx(WS_EX_CONTROLPARENT, windowClass, L"", WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN, CRect(), &parent,
-                  id) ||
-        !list.CreateList(*this, listId, metrics) || !m_label.Create(L"", WS_CHILD | SS_CENTERIMAGE, CRect(), this) ||
+    if (!CreatePanelWindow(L"", parent, id) || !list.CreateList(*this, listId, metrics) ||
+        !m_label.Create(L"", WS_CHILD | SS_CENTERIMAGE, CRect(), this) ||
         !m_words.CreateEx(WS_EX_CLIENTEDGE, L"EDIT", L"", WS_CHILD | WS_TABSTOP | ES_AUTOHSCROLL, CRect(), this,
                           IDC_FILTER_WORDS) ||
         !m_marked.Create(L"", WS_CHILD | WS_TABSTOP | BS_AUTOCHECKBOX, CRect(), this, IDC_FILTER_MARKED) ||
@@ -168,7 +165,7 @@ BOOL CListPanel::PreTranslateMessage(MSG * message)
     auto const drops = (isAt(m_rating) && m_rating.GetDroppedState()) || (isAt(m_state) && m_state.GetDroppedState());
     if (message->message != WM_KEYDOWN || ::GetKeyState(VK_MENU) < 0 || m_metrics == nullptr)
     {
-        return CWnd::PreTranslateMessage(message);
+        return CPanel::PreTranslateMessage(message);
     }
     auto const key = message->wParam;
     auto const control = ::GetKeyState(VK_CONTROL) < 0;
@@ -197,7 +194,7 @@ BOOL CListPanel::PreTranslateMessage(MSG * message)
         ::DispatchMessageW(message);
         return TRUE;
     }
-    return CWnd::PreTranslateMessage(message);
+    return CPanel::PreTranslateMessage(message);
 }
 
 void CListPanel::Arrange()
@@ -234,7 +231,7 @@ void CListPanel::Arrange()
 
 void CListPanel::OnSize(UINT type, int width, int height)
 {
-    CWnd::OnSize(type, width, height);
+    CPanel::OnSize(type, width, height);
     Arrange();
 }
 

@@ -5,12 +5,13 @@
 #include <array>
 #include <functional>
 
+#include "Panel.h"
 #include "RecordingList.h"
 #include "ScreenMetrics.h"
 
 /// The list of recordings with the strip above it by which it is filtered, which shows only while it is used: words,
 /// and choices that a recording must fit as well.
-class CListPanel : public CWnd
+class CListPanel : public CPanel
 {
 public:
     /// Creates the panel and the list in it. List and metrics must outlive the window.

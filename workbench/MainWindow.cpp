@@ -51,12 +51,17 @@ constexpr int pane_letters = 30;
 constexpr int most_raises = 8;
 constexpr UINT raise_interval = 40;
 
+// How often it looks whether it or its panes have been moved, in milliseconds.
+constexpr UINT layout_interval = 300;
+
 } // namespace
 
 BEGIN_MESSAGE_MAP(CMainWindow, CMDIFrameWndEx)
     ON_WM_CREATE()
     ON_WM_CLOSE()
+    ON_WM_SIZE()
     ON_WM_DESTROY()
+    ON_WM_SYSCOLORCHANGE()
     ON_WM_ENDSESSION()
     ON_WM_GETMINMAXINFO()
     ON_WM_ACTIVATE()
@@ -84,10 +89,12 @@ BEGIN_MESSAGE_MAP(CMainWindow, CMDIFrameWndEx)
     ON_COMMAND(ID_LOOP_PLAYING, &CMainWindow::OnLoopPlaying)
     ON_COMMAND(ID_SHOW_FOLDERS, &CMainWindow::OnShowFolders)
     ON_COMMAND(ID_RESET_LAYOUT, &CMainWindow::OnResetLayout)
+    ON_COMMAND_RANGE(ID_PANE_WIDER, ID_PANE_SHORTER, &CMainWindow::OnResizePane)
     ON_COMMAND(ID_NEXT_PART, &CMainWindow::OnNextPart)
     ON_COMMAND(ID_PREVIOUS_PART, &CMainWindow::OnPreviousPart)
     ON_COMMAND_RANGE(ID_DYNAMIC_FIRST, ID_DYNAMIC_LAST, &CMainWindow::OnDynamicCommand)
     ON_COMMAND(ID_CHOOSE_COLUMNS, &CMainWindow::OnChooseColumns)
+    ON_COMMAND(ID_SORT_BY, &CMainWindow::OnSortBy)
     ON_COMMAND(ID_EXPORT_LIST, &CMainWindow::OnExportList)
     ON_COMMAND_RANGE(ID_MOVE_UP, ID_MOVE_DOWN, &CMainWindow::OnMove)
     ON_COMMAND(ID_WRITE_REPORT, &CMainWindow::OnWriteReport)
@@ -126,13 +133,15 @@ END_MESSAGE_MAP()
 
 CMainWindow::CMainWindow(int dotsPerInch)
     : CMainFrmInterface(this),
-      m_metrics(dotsPerInch),
+      m_metrics(workbench::ScreenMetrics::UseResolution(dotsPerInch > 0 ? dotsPerInch
+                                                                        : workbench::ReadSettings().DotsPerInch())),
       m_memory(title, CFensterManager::window_main),
       m_details(*this),
       m_preview(*this),
       m_help(*this),
       m_settings(workbench::ReadSettings())
 {
+    control_colors::UseForProcess(m_settings.contrast);
     base_id(id_base);
     menu_range(ID_DYNAMIC_FIRST, ID_DYNAMIC_LAST + 1);
 }
@@ -187,7 +196,10 @@ bool CMainWindow::CreateMainWindow()
     m_memory.PreferedPosition(left, top, left + width, top + height);
     m_memory.ReadMyPosition(this);
     KeepOnScreen();
-    DockByDefault(m_isPlaced);
+    // At another resolution, the panes' places would leave some of them no room.
+    auto const resolution = static_cast<int>(m_metrics.Resolution());
+    bool const isOfThis = workbench::ReadLayoutResolution(resolution) == resolution;
+    DockByDefault(isOfThis ? m_isPlaced : std::array<bool, part_count>{});
     release_orphan_panes();
     m_frames.Restore();
     if (CWnd::GetActiveWindow() == this)
@@ -195,6 +207,28 @@ bool CMainWindow::CreateMainWindow()
         FocusList(); // it has become active before the panes had their places
     }
     return true;
+}
+
+void CMainWindow::ShowAsBefore(int command)
+{
+    auto const isOpen = command == SW_SHOW || command == SW_SHOWNORMAL || command == SW_SHOWDEFAULT;
+    auto const maximised = workbench::ReadMaximised();
+    ShowWindow(isOpen && maximised ? SW_SHOWMAXIMIZED : command);
+    m_maximised = maximised;
+    m_layout = LayoutNow();
+    SetTimer(layout_timer, layout_interval, nullptr);
+}
+
+/// Keeps at once whether it is maximised. What is minimised is as it was before.
+void CMainWindow::OnSize(UINT type, int width, int height)
+{
+    CMDIFrameWndEx::OnSize(type, width, height);
+    auto const isMaximised = type == SIZE_MAXIMIZED;
+    if (m_maximised && (isMaximised || type == SIZE_RESTORED) && isMaximised != *m_maximised)
+    {
+        m_maximised = isMaximised;
+        workbench::StoreMaximised(isMaximised);
+    }
 }
 
 /// A place that was kept when the screen was larger, or its resolution less, may be larger than the screen.
@@ -265,7 +299,10 @@ void CMainWindow::PrepareContents()
         m_frameMeasures.ShowCursor(Waveform().Marks().cursor);
         NoteView();
     };
-    m_frameMeasures.m_onFrame = [this](std::uint64_t frame) { Waveform().MoveCursor(frame); };
+    m_frameMeasures.m_onFrame = [this](std::uint64_t frame) { Waveform().MoveCursorAlone(frame); };
+    m_frameMeasures.m_onExported = [this](std::filesystem::path const & file) {
+        SayWritten(Text(L"frames written:"), file);
+    };
     Waveform().m_onMarks = [this] {
         m_spectrogram.SetMarks(Waveform().Marks());
         NoteView();
@@ -292,6 +329,8 @@ void CMainWindow::PrepareContents()
     m_tree.m_onDetails = [this](std::filesystem::path const & file) { ShowDetails(LineOf(file)); };
     m_list.m_onColumns = [this](CPoint screen) { ChooseColumns(screen); };
     m_list.SetHiddenColumns(m_settings.hiddenColumns);
+    m_list.EnableCellCursor(m_settings.cellCursor);
+    m_frameMeasures.EnableCellCursor(m_settings.cellCursor);
     // The commands of the list's menu are the window's, which has them for the keyboard, too.
     m_list.m_onContextCommand = [this](int command, int, int) {
         // Rows may have moved while the menu was open.
@@ -468,7 +507,13 @@ void CMainWindow::RecalcLayout(BOOL notify)
     {
         return;
     }
-    auto const layout = workbench::LayOutMain(LayoutNeeds());
+    auto const needs = LayoutNeeds();
+    if (auto const least = workbench::LeastListPane(needs); m_panes[part_list] != nullptr && least != m_leastList)
+    {
+        m_leastList = least;
+        m_panes[part_list]->SetMinSize(least);
+    }
+    auto const layout = workbench::LayOutMain(needs);
     auto border = layout.border;
     NegotiateBorderSpace(borderSet, &border);
     CMDIFrameWndEx::RecalcLayout(notify);
@@ -650,15 +695,6 @@ void CMainWindow::BringListInSight()
     }
 }
 
-/// Keeps where the panes are.
-void CMainWindow::KeepWorkspace()
-{
-    if (auto * const app = DYNAMIC_DOWNCAST(CWinAppEx, AfxGetApp()); app != nullptr && m_panes[part_folders] != nullptr)
-    {
-        app->SaveState(this);
-    }
-}
-
 /// Whether the screen has room for the folders beside all columns of the list.
 bool CMainWindow::HasRoomForFolders() const
 {
@@ -705,8 +741,13 @@ void CMainWindow::MoveFramesDivider(int x)
     CRect client;
     GetClientRect(&client);
     auto const width = client.Width() - m_metrics.X(margin) - x - m_metrics.X(divider_gap);
-    auto const share = std::clamp(::MulDiv(width, 100, std::max(client.Width(), 1)),
-                                  workbench::Settings::least_frame_share, workbench::Settings::most_frame_share);
+    SetFrameShare(::MulDiv(width, 100, std::max(client.Width(), 1)));
+}
+
+/// In percent of the window's width.
+void CMainWindow::SetFrameShare(int share)
+{
+    share = std::clamp(share, workbench::Settings::least_frame_share, workbench::Settings::most_frame_share);
     if (share != m_settings.frameShare)
     {
         m_settings.frameShare = share;
@@ -741,9 +782,27 @@ bool CMainWindow::IsInFrames(HWND window) const
     return m_hWndMDIClient != nullptr && ::IsChild(m_hWndMDIClient, window);
 }
 
+/// Opens the menu by the keys that are pressed in a pane that floats: its frame has none.
+bool CMainWindow::OpenMenuFromPane(MSG const & message)
+{
+    auto const isLetter = message.message == WM_SYSCHAR && message.wParam > L' ';
+    auto const isMenuKey = message.message == WM_SYSKEYDOWN && message.wParam == VK_F10;
+    auto * const frame = CWnd::FromHandlePermanent(::GetAncestor(message.hwnd, GA_ROOT));
+    if ((!isLetter && !isMenuKey) || DYNAMIC_DOWNCAST(CPaneFrameWnd, frame) == nullptr)
+    {
+        return false;
+    }
+    PostMessage(WM_SYSCOMMAND, SC_KEYMENU, isLetter ? static_cast<LPARAM>(message.wParam) : 0);
+    return true;
+}
+
 BOOL CMainWindow::PreTranslateMessage(MSG * message)
 {
     auto const window = m_hWnd;
+    if (OpenMenuFromPane(*message))
+    {
+        return TRUE;
+    }
     if (!IsForEditor(*message) && CMDIFrameWndEx::PreTranslateMessage(message))
     {
         return TRUE;
@@ -751,6 +810,11 @@ BOOL CMainWindow::PreTranslateMessage(MSG * message)
     if (m_hWnd != window || IsInFrames(message->hwnd))
     {
         return FALSE;
+    }
+    if (message->message == WM_KEYDOWN && message->wParam == VK_SPACE && GetFocus() == &m_spectrogram)
+    {
+        OnPlay(); // as in the waveform
+        return TRUE;
     }
     if (message->message == WM_KEYDOWN && message->wParam == VK_RETURN)
     {

@@ -55,6 +55,9 @@ public:
     /// Creates the window at the place where it stood last, with the frames that were open.
     bool CreateMainWindow();
 
+    /// Shows the window after its creation: maximised where it was so last and the command leaves that open.
+    void ShowAsBefore(int command);
+
     /// Shows the recordings that folders and files stand for, in place of the present ones. They are looked for, listed
     /// and read a little at a time, while the window goes on handling messages.
     void ShowTargets(std::vector<std::filesystem::path> targets);
@@ -62,7 +65,8 @@ public:
     /// Whether recordings are still being looked for, listed or read.
     bool IsBusy() const
     {
-        return (m_search && !m_following) || m_listed < m_found.size() || m_toReread > 0 || m_queued > 0;
+        return (m_search && !m_following) || m_listed < m_found.size() || !m_followed.empty() || m_toReread > 0 ||
+               m_queued > 0;
     }
 
     /// Gives up looking for recordings, listing and reading them; what is there stays.
@@ -188,10 +192,13 @@ private:
     static constexpr UINT_PTR raise_timer = 2;
     static constexpr UINT_PTR view_timer = 3;
     static constexpr UINT_PTR follow_timer = 4;
+    static constexpr UINT_PTR layout_timer = 5;
 
     afx_msg int OnCreate(LPCREATESTRUCT create);
     afx_msg void OnClose();
+    afx_msg void OnSize(UINT type, int width, int height);
     afx_msg void OnDestroy();
+    afx_msg void OnSysColorChange();
     afx_msg void OnEndSession(BOOL ending);
     afx_msg void OnInitMenuPopup(CMenu * menu, UINT index, BOOL systemMenu);
     afx_msg void OnGetMinMaxInfo(MINMAXINFO * info);
@@ -200,10 +207,12 @@ private:
     afx_msg void OnDropFiles(HDROP drop);
     afx_msg void OnShowFolders();
     afx_msg void OnResetLayout();
+    afx_msg void OnResizePane(UINT id);
     afx_msg void OnNextPart();
     afx_msg void OnPreviousPart();
     afx_msg void OnDynamicCommand(UINT id);
     afx_msg void OnChooseColumns();
+    afx_msg void OnSortBy();
     afx_msg void OnExportList();
     afx_msg void OnWriteReport();
     afx_msg void OnMove(UINT id);
@@ -249,7 +258,7 @@ private:
     afx_msg void OnShowHelp();
     afx_msg void OnShowKeys();
     afx_msg void OnAbout();
-    afx_msg LRESULT OnHelpKey(WPARAM focus, LPARAM);
+    afx_msg LRESULT OnHelpKey(WPARAM topic, LPARAM);
     afx_msg void OnTimer(UINT_PTR id);
     afx_msg LRESULT OnRecordingsReady(WPARAM, LPARAM);
     afx_msg LRESULT OnRaiseDialogs(WPARAM, LPARAM);
@@ -283,6 +292,7 @@ private:
     void PreparePaneMenu();
     CString PaneCommandText(Part part) const;
     void ShowTexts();
+    void ShowTextsOfOpenWindows();
     void ShowNumbers();
     std::vector<workbench::DetailLine> DetailsOf(int index) const;
     CWaveformView & WaveformInUse();
@@ -291,6 +301,8 @@ private:
     static wchar_t const * TitleOf(Part part);
     void DockByDefault(std::array<bool, part_count> const & others);
     void KeepWorkspace();
+    void KeepLayout();
+    std::vector<LONG_PTR> LayoutNow();
     workbench::MainLayoutNeeds LayoutNeeds() const;
     CSize Arrange();
     void PrepareDialogs();
@@ -304,7 +316,10 @@ private:
                         std::vector<std::filesystem::path> const & missing);
     void DragOut(std::vector<int> const & lines);
     std::wstring ReportText() const;
+    void SayWritten(wchar_t const * what, std::filesystem::path const & file);
     bool IsInFrames(HWND window) const;
+    CDockableViewPane & PaneInUse();
+    bool CanResize(UINT id);
 
     std::array<CWorkbenchDialog *, 3> Dialogs();
     std::array<CWnd *, 4> OwnedWindows();
@@ -319,6 +334,7 @@ private:
     bool HasRoomForFolders() const;
     int FolderPaneWidth() const;
     void MoveFramesDivider(int x);
+    void SetFrameShare(int share);
     void KeepSettings();
     void OpenFolder(std::filesystem::path const & folder);
     void ChooseFile(std::filesystem::path const & file);
@@ -329,11 +345,11 @@ private:
     void OnFiltered();
     void Work();
     void StopWork();
-    void StartSearch();
-    void TakeReload(std::vector<std::filesystem::path> files);
+    void StartSearch(bool withFacts = false);
     void Follow();
     bool MayFollow() const;
     void TakeFollowed(workbench::FoundRecordings found);
+    void ShowFound(workbench::FoundRecordings found, bool readsAgain);
     void RenameRecording(int line, std::filesystem::path const & file);
     void Renumber(std::vector<int> const & numbers);
     void ArrangeFollowed();
@@ -360,11 +376,13 @@ private:
     std::filesystem::path ViewFolder() const;
     void KeepNotes();
     bool IsForEditor(MSG const & message) const;
+    bool OpenMenuFromPane(MSG const & message);
     std::wstring ComparisonText() const;
     void UpdateStatusLine();
 
     workbench::ScreenMetrics m_metrics;
     CFensterManager m_memory;
+    std::vector<LONG_PTR> m_layout; ///< as it was kept, or at the start
     CRecordingList m_list;
     CListPanel m_listPanel;
     CFolderTree m_tree;
@@ -372,7 +390,7 @@ private:
     CSpectrogramView m_spectrogram;
     CPlaying m_playing;
     CReportWriter m_report;
-    std::filesystem::path m_reported;                            ///< the report that has been written last
+    std::wstring m_written;                                      ///< what the status line says of the last file written
     std::shared_ptr<workbench::RecordingAnalysis const> m_shown; ///< in both views; null for a text
     std::wstring m_shownText;
     CMeasurePanel m_panel;
@@ -387,6 +405,8 @@ private:
     std::optional<workbench::HelpKey> m_helpKey;
     workbench::Settings m_settings;
     CWaveformFrames m_frames;
+    std::optional<bool> m_maximised;                       ///< as it is kept, once the window shows as it did last
+    CSize m_leastList = CSize(0, 0);                       ///< of the list's pane
     CSize m_leastSize = CSize(0, 0);                       ///< of the window
     std::array<CDockableViewPane *, part_count> m_panes{}; ///< null until they are made
     static constexpr unsigned window_menu = 1;             ///< as dynamic commands know it
@@ -409,7 +429,6 @@ private:
     bool m_valuesChanged = false;                       ///< since the lines were sorted
     std::optional<Order> m_order;                       ///< the lines will be sorted so again
     /// What was known, before a reload, of the files to list.
-    std::unordered_map<std::wstring, std::shared_ptr<workbench::RecordingAnalysis const>> m_known;
     std::filesystem::path m_chooseFile;                       ///< to be chosen once it is listed
     int m_chooseLine = -1;                                    ///< its line then
     std::deque<workbench::AnalysisQueue::Finished> m_results; ///< not shown yet

@@ -5,7 +5,8 @@
 #include <shellapi.h>
 
 #include <algorithm>
-#include <atomic>
+#include <mutex>
+#include <utility>
 
 #include "BusyDialog.h"
 #include "ExportDialog.h"
@@ -13,6 +14,7 @@
 #include "LanguageDialog.h"
 #include "OpenFolderDialog.h"
 #include "PictureCopy.h"
+#include "RecordingCells.h"
 #include "RecordingColumns.h"
 #include "RenameDialog.h"
 #include "SettingsExchange.h"
@@ -23,6 +25,7 @@
 #include "logic/SafeFile.h"
 #include "logic/TableText.h"
 #include "logic/Texts.h"
+#include "logic/TrashTexts.h"
 #include "resource.h"
 #include "windows/StandaloneFrameWnd.h"
 
@@ -32,7 +35,7 @@ namespace
 {
 
 // The size of the choice of columns, in dialog units.
-constexpr int columns_width = 90;
+constexpr int columns_width = 150;
 constexpr int columns_height = 128;
 
 // The least size of a picture, in dialog units.
@@ -48,15 +51,42 @@ void SetItemText(HMENU menu, UINT item, bool byPosition, CString text)
     ::SetMenuItemInfoW(menu, item, byPosition, &info);
 }
 
-/// Whether that went well. May be called from any thread.
-bool MoveToTrash(std::filesystem::path const & file)
+/// Why a file can't be deleted; 0 where nothing is known to be in the way.
+DWORD DeletionError(std::filesystem::path const & file)
 {
+    constexpr DWORD all_sharing = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+    auto * const handle = ::CreateFileW(file.c_str(), DELETE, all_sharing, nullptr, OPEN_EXISTING, 0, nullptr);
+    if (handle == INVALID_HANDLE_VALUE)
+    {
+        return ::GetLastError();
+    }
+    ::CloseHandle(handle);
+    return 0;
+}
+
+/// The system's number of what went wrong, or 0. May be called from any thread.
+DWORD MoveToTrash(std::filesystem::path const & file)
+{
+    // The system's function has numbers of its own, which tell less.
+    if (auto const error = DeletionError(file); error != 0)
+    {
+        return error;
+    }
     auto const list = file.wstring() + L'\0'; // and another zero at its end
     SHFILEOPSTRUCTW operation{};
     operation.wFunc = FO_DELETE;
     operation.pFrom = list.c_str();
     operation.fFlags = FOF_ALLOWUNDO | FOF_NOCONFIRMATION | FOF_NOERRORUI | FOF_SILENT;
-    return ::SHFileOperationW(&operation) == 0 && !operation.fAnyOperationsAborted;
+    auto const result = static_cast<DWORD>(::SHFileOperationW(&operation));
+    return result == 0 && operation.fAnyOperationsAborted ? ERROR_CANCELLED : result;
+}
+
+/// The tree is a native one, which has to be told.
+void TakeSetOfColours(CTreeCtrl & tree)
+{
+    auto const colours = control_colors::Of(tree.m_hWnd);
+    tree.SetBkColor(colours.adapts ? colours.window : CLR_NONE); // the system's
+    tree.SetTextColor(colours.adapts ? colours.windowText : CLR_NONE);
 }
 
 /// The first command of a menu; 0 if it has none.
@@ -131,6 +161,7 @@ void CMainWindow::EnterInMenu(CWnd & window, CString const & text, bool open)
 
 void CMainWindow::PrepareDialogs()
 {
+    TakeSetOfColours(m_tree);
     m_windowMenu.SetMenu(Text(L"&Window"));
     for (auto * const dialog : Dialogs())
     {
@@ -140,7 +171,11 @@ void CMainWindow::PrepareDialogs()
         };
     }
     m_settingsSheet.m_onOpened = [this](bool open) { EnterInMenu(m_settingsSheet, Text(L"Settings"), open); };
-    m_settingsSheet.m_current = [this] { return m_settings; };
+    m_settingsSheet.m_current = [this] {
+        auto settings = m_settings;
+        settings.columnOrder = m_list.ColumnOrder();
+        return settings;
+    };
     m_settingsSheet.m_onAccepted = [this](workbench::Settings const & settings) { TakeSettings(settings); };
     m_panel.m_onScale = [this](unsigned int scale) {
         auto settings = m_settings;
@@ -219,10 +254,24 @@ LRESULT CMainWindow::OnFramesChanged(WPARAM, LPARAM)
     return 0;
 }
 
+/// Texts of the list that have colours of their own take those that go with the system's.
+void CMainWindow::OnSysColorChange()
+{
+    CMDIFrameWndEx::OnSysColorChange();
+    TakeSetOfColours(m_tree);
+    m_list.FollowColours();
+}
+
 /// Lets the windows follow the settings.
 void CMainWindow::FollowSettings(workbench::Settings const & settings)
 {
-    m_settings = settings;
+    auto const formerContrast = std::exchange(m_settings, settings).contrast;
+    control_colors::UseForProcess(settings.contrast);
+    if (settings.contrast != formerContrast)
+    {
+        TakeSetOfColours(m_tree);
+        m_list.FollowColours();
+    }
     for (auto * const dialog : Dialogs())
     {
         dialog->Follow(settings);
@@ -237,6 +286,13 @@ void CMainWindow::FollowSettings(workbench::Settings const & settings)
     {
         m_list.SetHiddenColumns(settings.hiddenColumns);
     }
+    if (auto const order = std::exchange(m_settings.columnOrder, {}); !order.empty() && order != m_list.ColumnOrder())
+    {
+        m_list.SetColumnOrder(order);
+        workbench::StoreColumnOrder(m_list.ColumnOrder());
+    }
+    m_list.EnableCellCursor(settings.cellCursor);
+    m_frameMeasures.EnableCellCursor(settings.cellCursor);
     m_frames.Follow(settings);
     m_tree.AddPlaces(settings.startFolders);
     m_preview.Update();
@@ -270,6 +326,7 @@ void CMainWindow::ChooseColumns(CPoint screen)
     dialog.m_control.SetTheMap(workbench::ColumnNames());
     dialog.m_control.SetSelection(workbench::ShownColumns(m_settings.hiddenColumns));
     dialog.m_control.ShowGroupedSelection(false);
+    dialog.m_control.SetDpi(m_metrics.Resolution());
     CRect work;
     ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
     CSize const size(m_metrics.X(columns_width), m_metrics.Y(columns_height));
@@ -286,6 +343,38 @@ void CMainWindow::ChooseColumns(CPoint screen)
     TakeSettings(settings);
 }
 
+/// Lets the user sort the list by a column, as a click on its title does.
+void CMainWindow::OnSortBy()
+{
+    BringListInSight();
+    m_list.EndEditing();
+    CMenu menu;
+    if (!menu.CreatePopupMenu())
+    {
+        return;
+    }
+    constexpr wchar_t keys[] = L"123456789ABCDEFGH";
+    auto count = 0;
+    for (auto const column : m_list.ColumnOrder())
+    {
+        if (column != CRecordingList::column_check && !m_list.IsHidden(column))
+        {
+            CString text;
+            text.Format(L"&%c %s", keys[count++], CRecordingList::Title(column));
+            menu.AppendMenu(MF_STRING | (column == m_list.SortedColumn() ? MF_CHECKED : MF_UNCHECKED),
+                            static_cast<UINT_PTR>(column), text);
+        }
+    }
+    CRect titles;
+    m_list.GetHeaderCtrl()->GetWindowRect(&titles);
+    LifeWatch const life(m_life);
+    auto const chosen = menu.TrackPopupMenu(TPM_RETURNCMD | TPM_NONOTIFY, titles.left, titles.bottom, this);
+    if (chosen > 0 && !life.Over() && m_hWnd != nullptr)
+    {
+        m_list.SortByUser(static_cast<CRecordingList::Column>(chosen));
+    }
+}
+
 /// Writes what the user wants of the list into a file.
 void CMainWindow::OnExportList()
 {
@@ -300,12 +389,40 @@ void CMainWindow::OnExportList()
     m_settings.exportHidden = dialog.HiddenColumns();
     m_settings.exportLines = static_cast<int>(dialog.Lines());
     KeepSettings();
-    auto const table = m_list.Table(dialog.Lines(), dialog.HiddenColumns());
-    if (!workbench::ReplaceWholeFile(dialog.File(), workbench::TableFile(table, dialog.File())))
+    auto const file = dialog.File();
+    auto table = m_list.Table(dialog.Lines(), dialog.HiddenColumns());
+    auto written = false;
+    auto const whole =
+        CBusyDialog::DoAll(*this, Text(L"Exporting recordings"), table.Rows() + 1, [&](std::size_t step) {
+            if (step < table.Rows())
+            {
+                table.MakeRow();
+            }
+            else
+            {
+                written = workbench::ReplaceWholeFile(file, workbench::TableFile(table.Table(), file));
+            }
+        });
+    if (life.Over() || m_hWnd == nullptr)
     {
-        AfxMessageBox(Text(L"This file could not be written:") + (L"\n\n" + CString(dialog.File().c_str())),
-                      MB_ICONEXCLAMATION);
+        return;
     }
+    m_written.clear();
+    if (whole && written)
+    {
+        SayWritten(Text(L"list written:"), file);
+    }
+    else if (whole)
+    {
+        AfxMessageBox(Text(L"This file could not be written:") + (L"\n\n" + CString(file.c_str())), MB_ICONEXCLAMATION);
+    }
+}
+
+/// Has the status line say what has been written, until another recording is chosen.
+void CMainWindow::SayWritten(wchar_t const * what, std::filesystem::path const & file)
+{
+    m_written = std::wstring(L", ") + what + L' ' + file.wstring();
+    UpdateStatusLine();
 }
 
 /// That of the frame which has the focus, or else the chosen recording's.
@@ -370,7 +487,9 @@ void CMainWindow::OnRename()
     StoreNotes();
     if (!::MoveFileExW(before.c_str(), dialog.File().c_str(), 0))
     {
-        AfxMessageBox(Text(L"The file could not be renamed.") + (L"\n\n" + CString(dialog.File().c_str())),
+        auto const reason = workbench::FileErrorText(::GetLastError());
+        AfxMessageBox(Text(L"The file could not be renamed.") +
+                          (L"\n\n" + CString(dialog.File().filename().c_str()) + L": " + reason.c_str()),
                       MB_ICONEXCLAMATION);
         return;
     }
@@ -401,26 +520,27 @@ void CMainWindow::OnDeleteRecordings()
         }
     }
     LifeWatch const life(m_life);
-    if (files.empty() ||
-        AfxMessageBox(Text(L"Move these recordings to the trash?"), MB_YESNO | MB_ICONQUESTION) != IDYES ||
+    if (files.empty() || AfxMessageBox(workbench::TrashQuestion(files).c_str(), MB_YESNO | MB_ICONQUESTION) != IDYES ||
         life.Over() || m_hWnd == nullptr)
     {
         return;
     }
-    std::atomic<bool> failed = false;
+    std::mutex mutex;
+    std::vector<workbench::FileFailure> failures;
     CBusyDialog(*this, Text(L"Moving recordings to the trash"), files.size(), [&](std::size_t item) {
-        if (!MoveToTrash(files[item]))
+        if (auto const error = MoveToTrash(files[item]); error != 0)
         {
-            failed = true;
+            std::scoped_lock const lock(mutex);
+            failures.emplace_back(files[item], error);
         }
     }).Run();
     if (life.Over() || m_hWnd == nullptr)
     {
         return;
     }
-    if (failed)
+    if (!failures.empty())
     {
-        AfxMessageBox(Text(L"Some files could not be moved to the trash."), MB_ICONEXCLAMATION);
+        AfxMessageBox(workbench::TrashFailureText(failures).c_str(), MB_ICONEXCLAMATION);
     }
     if (!life.Over() && m_hWnd != nullptr)
     {
@@ -536,20 +656,41 @@ void CMainWindow::ShowTexts()
     }
     m_panel.ShowTexts();
     m_frameMeasures.ShowTexts();
+    m_list.ShowTexts();
+    m_listPanel.ShowTexts();
+    m_waveformPanel.ShowTexts();
+    m_status.ShowTexts();
+    ShowTextsOfOpenWindows();
+    UpdateStatusLine();
+    if (!m_shown || m_shown->problem)
     {
-        CRecordingList::Batch const batch(m_list);
-        m_list.ShowTexts();
-        for (std::size_t line = 0; line < m_recordings.size(); ++line)
+        m_shown.reset();
+        ShowChosen();
+    }
+    // Plots have words, too.
+    RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
+}
+
+void CMainWindow::ShowTextsOfOpenWindows()
+{
+    m_details.Refresh(DetailsOf(m_detailsIndex));
+    for (auto * const dialog : Dialogs())
+    {
+        if (dialog->GetSafeHwnd() != nullptr)
         {
-            m_list.ShowLineTexts(static_cast<int>(line), m_recordings[line].file, m_recordings[line].analysis.get());
+            dialog->ShowTexts();
+            EnterInMenu(*dialog, dialog->GetDialogTitle(), true);
         }
     }
-    m_listPanel.ShowTexts();
-    m_help.ShowTexts();
-    UpdateStatusLine();
-    if (!m_shown)
+    if (m_settingsSheet.IsOpen())
     {
-        ShowChosen();
+        m_settingsSheet.ShowTexts();
+        EnterInMenu(m_settingsSheet, Text(L"Settings"), true);
+    }
+    for (auto * const frame : m_frames.Frames())
+    {
+        frame->ShowTexts();
+        EnterInMenu(*frame->Frame(), frame->Title(), true);
     }
 }
 
@@ -768,6 +909,7 @@ void CMainWindow::OnInitMenuPopup(CMenu * menu, UINT index, BOOL systemMenu)
     enable(ID_EDIT_COMMENT, IsReadable(chosen) && !m_list.IsHidden(CRecordingList::column_comment));
     enable(ID_CHOOSE_RATING, IsReadable(chosen) && !m_list.IsHidden(CRecordingList::column_rating));
     enable(ID_EXPORT_LIST, RecordingCount() > 0);
+    enable(ID_SORT_BY, RecordingCount() > 0);
     enable(ID_MOVE_UP, RecordingCount() > 1);
     enable(ID_MOVE_DOWN, RecordingCount() > 1);
     enable(ID_WRITE_REPORT, m_list.Totals().Checked() > 0);
@@ -785,6 +927,10 @@ void CMainWindow::OnInitMenuPopup(CMenu * menu, UINT index, BOOL systemMenu)
     {
         menu->CheckMenuItem(m_paneCommands[part],
                             MF_BYCOMMAND | (ShowsPane(static_cast<Part>(part)) ? MF_CHECKED : MF_UNCHECKED));
+    }
+    for (auto const id : {ID_PANE_WIDER, ID_PANE_NARROWER, ID_PANE_TALLER, ID_PANE_SHORTER})
+    {
+        enable(id, CanResize(id));
     }
     enable(ID_CLOSE_DIALOGS, m_frames.AnyOpen() || std::ranges::any_of(OwnedWindows(), [](auto const * window) {
                                  return window->GetSafeHwnd() != nullptr;

@@ -47,11 +47,9 @@ void CMainWindow::Follow()
     KillTimer(follow_timer);
     m_followAgain = false;
     m_following = true;
-    m_search = std::make_unique<workbench::RecordingSearch>(
-        m_targets, [window = m_hWnd] { ::PostMessageW(window, message_recordings_ready, 0, 0); }, true);
+    StartSearch(true);
 }
 
-/// Has the list show what is there now. What is as it was stays as it is.
 void CMainWindow::TakeFollowed(workbench::FoundRecordings found)
 {
     if (!MayFollow())
@@ -60,6 +58,12 @@ void CMainWindow::TakeFollowed(workbench::FoundRecordings found)
         Follow();
         return;
     }
+    ShowFound(std::move(found), false);
+}
+
+/// Has the list show what is there now. What is as it was stays as it is, but is read again where that is wanted.
+void CMainWindow::ShowFound(workbench::FoundRecordings found, bool readsAgain)
+{
     StoreNotes();
     std::vector<workbench::KnownFile> listed;
     listed.reserve(m_recordings.size());
@@ -77,9 +81,26 @@ void CMainWindow::TakeFollowed(workbench::FoundRecordings found)
     auto const foldersChanged = found.missing != m_missing || found.folders != m_openedFolders;
     m_missing = std::move(found.missing);
     m_openedFolders = std::move(found.folders);
+    if (std::exchange(m_rememberOpened, false))
+    {
+        RememberOpened(m_openedFolders, m_missing);
+    }
+    auto const isSame = changes.gone.empty() && changes.renamed.empty() && changes.come.empty();
+    if (readsAgain && isSame)
+    {
+        m_toReread = m_recordings.size();
+        FillFolders();
+        SetTimer(work_timer, USER_TIMER_MINIMUM, nullptr);
+        return;
+    }
     if (changes.IsEmpty() && !foldersChanged)
     {
         return;
+    }
+    if (readsAgain)
+    {
+        changes.changed.resize(m_recordings.size());
+        std::iota(changes.changed.begin(), changes.changed.end(), std::size_t{0});
     }
     for (auto const & [line, file] : changes.renamed)
     {
@@ -92,7 +113,10 @@ void CMainWindow::TakeFollowed(workbench::FoundRecordings found)
         {
             Queue(static_cast<int>(line));
         }
-        m_frames.Reload(m_recordings[line].file);
+        if (!readsAgain) // all of them are read again then
+        {
+            m_frames.Reload(m_recordings[line].file);
+        }
     }
     if (!changes.gone.empty())
     {

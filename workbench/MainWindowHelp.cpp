@@ -44,8 +44,9 @@ void CMainWindow::PrepareHelp()
         }
         return menus;
     };
-    m_helpKey.emplace(m_hWnd, [window = m_hWnd](HWND focus) {
-        ::PostMessageW(window, message_help, reinterpret_cast<WPARAM>(focus), 0);
+    // What the window is about is found at once, since it may end until the help opens.
+    m_helpKey.emplace(m_hWnd, [this](HWND focus, bool control) {
+        PostMessage(message_help, static_cast<WPARAM>(control ? HelpTopic::keys : TopicOf(focus)));
     });
 }
 
@@ -58,6 +59,7 @@ HelpTopic CMainWindow::TopicOf(HWND window) const
                                                 {m_waveformPanel.m_hWnd, HelpTopic::waveform},
                                                 {m_spectrogram.m_hWnd, HelpTopic::spectrogram},
                                                 {m_panel.m_hWnd, HelpTopic::displays},
+                                                {m_frameMeasures.m_hWnd, HelpTopic::frame_measures},
                                                 {m_tree.m_hWnd, HelpTopic::folders},
                                                 {m_hWndMDIClient, HelpTopic::frames},
                                                 {m_details.m_hWnd, HelpTopic::measures},
@@ -69,6 +71,11 @@ HelpTopic CMainWindow::TopicOf(HWND window) const
         {
             return topic;
         }
+    }
+    // The drop-down of a cell is nobody's window.
+    if (m_list.IsEditing())
+    {
+        return HelpTopic::list;
     }
     auto * const dialog = CWnd::FromHandlePermanent(::GetAncestor(window, GA_ROOT));
     if (dynamic_cast<CExportDialog *>(dialog) != nullptr)
@@ -108,10 +115,10 @@ void CMainWindow::OnShowKeys()
     ShowHelp(HelpTopic::keys);
 }
 
-/// F1 in another window than this one.
-LRESULT CMainWindow::OnHelpKey(WPARAM focus, LPARAM)
+/// F1 in another window than this one; with Ctrl it tells about the keys.
+LRESULT CMainWindow::OnHelpKey(WPARAM topic, LPARAM)
 {
-    ShowHelp(TopicOf(reinterpret_cast<HWND>(focus)));
+    ShowHelp(static_cast<HelpTopic>(topic));
     return 0;
 }
 

@@ -186,7 +186,6 @@ void CMainWindow::StopWork()
     m_found.clear();
     m_listed = 0;
     m_toReread = 0;
-    m_known.clear();
     m_results.clear();
     m_queued = 0;
     for (auto & recording : m_recordings)
@@ -195,11 +194,12 @@ void CMainWindow::StopWork()
     }
 }
 
-void CMainWindow::StartSearch()
+/// withFacts: also of the size and the time of files.
+void CMainWindow::StartSearch(bool withFacts)
 {
     auto const window = m_hWnd;
     m_search = std::make_unique<workbench::RecordingSearch>(
-        m_targets, [window] { ::PostMessageW(window, message_recordings_ready, 0, 0); });
+        m_targets, [window] { ::PostMessageW(window, message_recordings_ready, 0, 0); }, withFacts);
 }
 
 void CMainWindow::ShowTargets(std::vector<std::filesystem::path> targets)
@@ -295,30 +295,6 @@ void CMainWindow::ListAnew(std::vector<std::filesystem::path> files)
     m_list.RemoveLines();
 }
 
-/// Goes on with a reload once its files are known. What is shown of them stays until something else is known.
-void CMainWindow::TakeReload(std::vector<std::filesystem::path> files)
-{
-    if (std::ranges::equal(files, m_recordings, {}, {}, &Recording::file))
-    {
-        m_toReread = m_recordings.size();
-        return;
-    }
-    if (auto const * const chosen = RecordingAt(m_list.ChosenLine()))
-    {
-        m_chooseFile = chosen->file;
-    }
-    for (auto & recording : m_recordings)
-    {
-        m_known[recording.file.native()] = std::move(recording.analysis);
-    }
-    m_order = PresentOrder();
-    KeepView();
-    m_wantedView = m_views->Of(ViewFolder());
-    ListAnew(std::move(files));
-    // The first lines at once, before anything is painted.
-    Work();
-}
-
 std::optional<CMainWindow::Order> CMainWindow::PresentOrder() const
 {
     auto const column = m_list.SortedColumn();
@@ -395,6 +371,11 @@ LRESULT CMainWindow::OnRecordingsReady(WPARAM, LPARAM)
             TakeFollowed(std::move(*found));
             return 0;
         }
+        if (std::exchange(m_reloading, false) && !m_recordings.empty())
+        {
+            ShowFound(std::move(*found), true);
+            return 0;
+        }
         m_missing = std::move(found->missing);
         m_openedFolders = std::move(found->folders);
         if (std::exchange(m_rememberOpened, false))
@@ -402,19 +383,12 @@ LRESULT CMainWindow::OnRecordingsReady(WPARAM, LPARAM)
             RememberOpened(m_openedFolders, m_missing);
         }
         FillFolders();
-        if (std::exchange(m_reloading, false))
+        m_found = std::move(found->files);
+        m_wantedView = m_views->Of(ViewFolder());
+        m_wantedPart = m_wantedView;
+        if (m_chooseFile.empty() && !m_wantedView->chosen.empty())
         {
-            TakeReload(std::move(found->files));
-        }
-        else
-        {
-            m_found = std::move(found->files);
-            m_wantedView = m_views->Of(ViewFolder());
-            m_wantedPart = m_wantedView;
-            if (m_chooseFile.empty() && !m_wantedView->chosen.empty())
-            {
-                m_chooseFile = workbench::FileInFolder(ViewFolder(), m_wantedView->chosen);
-            }
+            m_chooseFile = workbench::FileInFolder(ViewFolder(), m_wantedView->chosen);
         }
     }
     SetTimer(work_timer, work_interval, nullptr);
@@ -443,6 +417,10 @@ void CMainWindow::OnTimer(UINT_PTR id)
         }
         OnRaiseDialogs(0, 0);
     }
+    else if (id == layout_timer)
+    {
+        KeepLayout();
+    }
     CWnd::OnTimer(id);
 }
 
@@ -451,6 +429,13 @@ void CMainWindow::OnTimer(UINT_PTR id)
 void CMainWindow::Work()
 {
     auto const end = Clock::now() + work_slice;
+    if (m_listed == m_found.size() && m_toReread == 0 && !m_followed.empty())
+    {
+        // In a turn of its own, as it goes through all lines.
+        ArrangeFollowed();
+        SetTimer(work_timer, work_interval, nullptr);
+        return;
+    }
     for (auto & finished : m_queue->TakeFinished())
     {
         m_results.push_back(std::move(finished));
@@ -480,23 +465,18 @@ void CMainWindow::Work()
         } while (Clock::now() < end && (m_listed < m_found.size() || m_toReread > 0 || !m_results.empty()));
     }
     auto const listed = m_listed == m_found.size() && m_toReread == 0;
-    if (listed && m_results.empty())
+    if (listed && m_results.empty() && m_followed.empty())
     {
         KillTimer(work_timer);
         m_found.clear();
         m_listed = 0;
-        m_known.clear();
-    }
-    if (listed && !m_followed.empty())
-    {
-        ArrangeFollowed();
     }
     ChooseFirst();
     if (listed && !m_search && m_wantedView)
     {
         RestoreView();
     }
-    if ((listed && m_order) || (m_valuesChanged && !IsBusy()))
+    if (m_followed.empty() && ((listed && m_order) || (m_valuesChanged && !IsBusy())))
     {
         // Lines stay where they are while the user is at work on one.
         if (m_list.IsEditing())
@@ -536,11 +516,6 @@ void CMainWindow::ListNext()
     auto const line = RecordingCount();
     auto & recording = m_recordings.emplace_back();
     recording.file = std::move(file);
-    if (auto const before = m_known.find(recording.file.native()); before != m_known.end() && before->second)
-    {
-        recording.analysis = before->second;
-        m_list.ShowAnalysis(line, recording.analysis);
-    }
     Queue(line);
 }
 
@@ -819,7 +794,7 @@ void CMainWindow::OnReload()
     KeepNotes();
     m_notes->Refresh();
     StopWork();
-    StartSearch();
+    StartSearch(true);
     m_reloading = true;
     m_frames.Reload();
     ShowChosen();
@@ -842,7 +817,7 @@ void CMainWindow::OnListChanged(unsigned changes)
     }
     if ((changes & CRecordingList::changed_selection) != 0)
     {
-        m_reported.clear(); // it has been said
+        m_written.clear(); // it has been said
         ShowChosen();
         ShowInFolders();
     }

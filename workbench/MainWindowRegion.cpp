@@ -19,14 +19,7 @@ LRESULT CMainWindow::WindowProc(UINT message, WPARAM wide, LPARAM parameter)
 /// Shows all numbers anew.
 void CMainWindow::ShowNumbers()
 {
-    m_list.EndEditing();
-    {
-        CRecordingList::Batch const batch(m_list);
-        for (std::size_t line = 0; line < m_recordings.size(); ++line)
-        {
-            m_list.ShowLineNumbers(static_cast<int>(line), m_recordings[line].analysis);
-        }
-    }
+    m_list.RefreshLines();
     if (m_details.GetSafeHwnd() != nullptr)
     {
         m_details.Refresh(DetailsOf(m_detailsIndex));

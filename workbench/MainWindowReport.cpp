@@ -14,11 +14,15 @@ void CMainWindow::PrepareReport()
 {
     m_report.m_onProgress = [this] { ShowProgress(); };
     m_report.m_onEnded = [this](bool written) {
-        m_reported = written ? m_report.File() : std::filesystem::path();
         ShowProgress();
-        UpdateStatusLine();
-        if (!written)
+        if (written)
         {
+            SayWritten(Text(L"report written:"), m_report.File());
+        }
+        else
+        {
+            m_written.clear();
+            UpdateStatusLine();
             AfxMessageBox(Text(L"This file could not be written:") + (L"\n\n" + CString(m_report.File().c_str())),
                           MB_ICONEXCLAMATION);
         }
@@ -45,7 +49,7 @@ bool CMainWindow::WriteReport(std::filesystem::path const & file)
             reported.date = UserDateTimeText(CTime(*recording->analysis->file.lastWrite), dtf_date_time).GetString();
         }
     }
-    m_reported.clear();
+    m_written.clear();
     auto const begun = !recordings.empty() && m_report.Begin(std::move(recordings), file, m_settings, m_metrics);
     UpdateStatusLine();
     return begun;
@@ -54,7 +58,10 @@ bool CMainWindow::WriteReport(std::filesystem::path const & file)
 void CMainWindow::OnWriteReport()
 {
     LifeWatch const life(m_life);
-    auto const file = workbench::ChooseReportFile(*this);
+    auto const today = CTime::GetCurrentTime();
+    auto const folder = m_targets.size() == 1 && !m_openedFolders.empty() ? m_targets.front() : std::filesystem::path();
+    auto const file = workbench::ChooseReportFile(
+        *this, workbench::ReportFileName(folder, today.GetYear(), today.GetMonth(), today.GetDay()));
     if (file && !life.Over() && m_hWnd != nullptr && m_list.Totals().Checked() > 0 && !WriteReport(*file))
     {
         AfxMessageBox(Text(L"This file could not be written:") + (L"\n\n" + CString(file->c_str())),
@@ -69,6 +76,5 @@ std::wstring CMainWindow::ReportText() const
     {
         return std::wstring(L", ") + Text(L"report being written");
     }
-    return m_reported.empty() ? std::wstring()
-                              : std::wstring(L", ") + Text(L"report written:") + L' ' + m_reported.wstring();
+    return m_written;
 }

@@ -23,10 +23,12 @@ constexpr int scale_label_width = 76;
 constexpr int scale_width = 84;
 constexpr int clock_width = 90;
 constexpr int part_gap = 8;
+constexpr int label_gap = 4; // behind a label's text
+constexpr int inset = 2;     // of that, ahead of the first one
 
 } // namespace
 
-BEGIN_MESSAGE_MAP(CMeasurePanel, CWnd)
+BEGIN_MESSAGE_MAP(CMeasurePanel, CPanel)
     ON_WM_SIZE()
     ON_CBN_SELCHANGE(IDC_SCALE, &CMeasurePanel::OnScaleChosen)
 END_MESSAGE_MAP()
@@ -45,10 +47,7 @@ int CMeasurePanel::LeastWidth(workbench::ScreenMetrics const & metrics)
 bool CMeasurePanel::CreatePanel(CWnd & parent, UINT id, workbench::ScreenMetrics & metrics, unsigned int scale)
 {
     m_metrics = &metrics;
-    auto const windowClass =
-        AfxRegisterWndClass(0, ::LoadCursorW(nullptr, IDC_ARROW), reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1));
-    if (!CreateEx(WS_EX_CONTROLPARENT, windowClass, L"Displays", WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN, CRect(),
-                  &parent, id))
+    if (!CreatePanelWindow(L"Displays", parent, id))
     {
         return false;
     }
@@ -80,48 +79,82 @@ bool CMeasurePanel::CreatePanel(CWnd & parent, UINT id, workbench::ScreenMetrics
 void CMeasurePanel::ShowTexts()
 {
     m_positionLabel.SetWindowText(Text(L"Position"));
-    m_levelLabel.SetWindowText(Text(L"Level (dBFS)"));
+    m_levelLabel.SetWindowText(Text(L"Peak of 10 ms (dBFS)"));
     m_scaleLabel.SetWindowText(Text(L"S&pectrogram colours:"));
+    Arrange();
 }
 
 void CMeasurePanel::OnSize(UINT type, int width, int height)
 {
-    CWnd::OnSize(type, width, height);
+    CPanel::OnSize(type, width, height);
+    Arrange();
+}
+
+void CMeasurePanel::Arrange()
+{
     if (m_metrics == nullptr || m_clock.GetSafeHwnd() == nullptr)
     {
         return;
     }
-    // Where there is no room for all, the clock goes first, then the name of the colours; then all get narrower.
-    constexpr int unnamed_width =
-        position_label_width + position_width + part_gap + level_label_width + level_width + part_gap + scale_width;
-    constexpr int named_width = unnamed_width + scale_label_width;
-    auto const named = width >= m_metrics->X(named_width);
-    auto const units = named ? named_width : unnamed_width;
-    auto const room = std::min(width, m_metrics->X(units));
-    auto const at = [&](int unit) { return ::MulDiv(unit, room, units); };
-    // Displays that are much higher than their digits look broken.
-    auto const high = std::clamp(height - 2 * m_metrics->Y(edge), 0, m_metrics->Y(2 * strip_height));
-    auto const top = (height - high) / 2;
-    auto left = 0; // in units
-    auto const place = [&](CWnd & window, int unitsWide, int space) {
-        window.MoveWindow(at(left), top, at(left + unitsWide) - at(left), high);
-        left += unitsWide + space;
+    CRect client;
+    GetClientRect(&client);
+    auto const width = static_cast<int>(client.Width());
+    auto const height = static_cast<int>(client.Height());
+    // As wide as the texts are in the present language.
+    CClientDC dc(this);
+    workbench::SelectScope const font(dc, m_metrics->Font());
+    auto const labelWidth = [&](CWnd const & label, int least) {
+        CString text;
+        label.GetWindowText(text);
+        text.Remove(L'&');
+        return std::max<int>(dc.GetTextExtent(text).cx + m_metrics->X(label_gap), m_metrics->X(least));
     };
-    place(m_positionLabel, position_label_width, 0);
-    place(m_position, position_width, part_gap);
-    place(m_levelLabel, level_label_width, 0);
-    place(m_level, level_width, part_gap);
-    m_scaleLabel.ShowWindow(named ? SW_SHOWNA : SW_HIDE);
-    if (named)
+    auto const gap = m_metrics->X(part_gap);
+    auto const positionLabel = labelWidth(m_positionLabel, position_label_width);
+    auto const levelLabel = labelWidth(m_levelLabel, level_label_width);
+    auto const scaleLabel = labelWidth(m_scaleLabel, scale_label_width);
+    auto const displays = positionLabel + m_metrics->X(position_width) + gap + levelLabel + m_metrics->X(level_width);
+    auto const unnamed = displays + gap + m_metrics->X(scale_width);
+    auto const whole = unnamed + scaleLabel;
+    // Where there is no room for all, the clock goes first; then the colours go into a line of their own where there is
+    // one, or else their name; then all get narrower.
+    auto const line = m_metrics->Y(strip_height);
+    auto const isBroken = width < whole && height >= 2 * line;
+    auto const isNamed = isBroken || width >= whole;
+    auto const wanted = isBroken  ? std::max(displays, scaleLabel + m_metrics->X(scale_width))
+                        : isNamed ? whole
+                                  : unnamed;
+    auto const room = std::min(width, wanted);
+    auto const at = [&](int pixels) { return ::MulDiv(pixels, room, wanted); };
+    auto const upper = isBroken ? height / 2 : height;
+    // Displays that are much higher than their digits look broken.
+    auto const high = std::clamp(upper - 2 * m_metrics->Y(edge), 0, 2 * line);
+    auto top = (upper - high) / 2;
+    auto const first = m_metrics->X(inset);
+    auto left = first;
+    auto const place = [&](CWnd & window, int wide, int space) {
+        window.MoveWindow(at(left), top, at(left + wide) - at(left), high);
+        left += wide + space;
+    };
+    place(m_positionLabel, positionLabel - first, 0);
+    place(m_position, m_metrics->X(position_width), gap);
+    place(m_levelLabel, levelLabel, 0);
+    place(m_level, m_metrics->X(level_width), gap);
+    if (isBroken)
     {
-        place(m_scaleLabel, scale_label_width, 0);
+        left = first;
+        top += upper;
+    }
+    m_scaleLabel.ShowWindow(isNamed ? SW_SHOWNA : SW_HIDE);
+    if (isNamed)
+    {
+        place(m_scaleLabel, isBroken ? scaleLabel - first : scaleLabel, 0);
     }
     // A drop-down list's own height is its font's; the rest of what it is given is the height of its list.
     CRect box;
     m_scale.GetWindowRect(&box);
-    auto const right = at(left + scale_width);
-    m_scale.MoveWindow(at(left), (height - box.Height()) / 2, right - at(left),
-                       box.Height() + m_metrics->Y(strip_height) * 8);
+    auto const right = at(left + m_metrics->X(scale_width));
+    m_scale.MoveWindow(at(left), top + (high - box.Height()) / 2, right - at(left), box.Height() + line * 8);
     auto const clock = m_metrics->X(clock_width);
     m_clock.MoveWindow(width - clock, top, clock, high);
     m_clock.ShowWindow(width - clock >= right ? SW_SHOWNA : SW_HIDE);

@@ -6,13 +6,14 @@
 #include <string>
 
 #include "ClockView.h"
+#include "Panel.h"
 #include "ScreenMetrics.h"
 #include "controls/ComboBoxX.h"
 #include "segments/DigiStatic.h"
 
 /// The row of displays: the position in the recording and the level there, the choice of the spectrogram's colours, and
 /// a clock.
-class CMeasurePanel : public CWnd
+class CMeasurePanel : public CPanel
 {
 public:
     /// Creates the panel. scale: the spectrogram scale chosen at first. The metrics must outlive the window.
@@ -41,6 +42,8 @@ protected:
 private:
     afx_msg void OnSize(UINT type, int width, int height);
     afx_msg void OnScaleChosen();
+
+    void Arrange();
 
     workbench::ScreenMetrics * m_metrics = nullptr;
     CStatic m_positionLabel;

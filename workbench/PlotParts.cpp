@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "colours/ControlColors.h"
 #include "logic/Axis.h"
 
 namespace workbench
@@ -14,9 +15,10 @@ constexpr int least_tick_distance = 44; // dialog units
 
 } // namespace
 
-PlotColours ScreenPlotColours()
+PlotColours ScreenPlotColours(CWnd const & window)
 {
-    return PlotColoursOn(::GetSysColor(COLOR_WINDOW), ::GetSysColor(COLOR_WINDOWTEXT));
+    auto const colours = control_colors::Of(window.m_hWnd);
+    return PlotColoursOn(colours.window, colours.windowText);
 }
 
 PlotColours PaperPlotColours()

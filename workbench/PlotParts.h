@@ -28,8 +28,9 @@ struct PlotMargins
 constexpr UINT text_one_line = DT_SINGLELINE | DT_END_ELLIPSIS;
 constexpr UINT text_label = DT_SINGLELINE | DT_NOCLIP;
 
-/// The colours of plots in windows, which are the system's, and on paper.
-PlotColours ScreenPlotColours();
+/// The colours of plots in a window, which are the system's or those of the set that its controls are painted in, and
+/// on paper.
+PlotColours ScreenPlotColours(CWnd const & window);
 PlotColours PaperPlotColours();
 
 CSize TextSize(CDC & dc, std::wstring const & text);

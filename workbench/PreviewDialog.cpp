@@ -73,6 +73,12 @@ void CPreviewDialog::Update()
     }
 }
 
+void CPreviewDialog::ShowTexts()
+{
+    ShowTemplateTexts(Text(L"Print Preview"));
+    Update();
+}
+
 BOOL CPreviewDialog::OnInitDialog()
 {
     CWorkbenchDialog::OnInitDialog();

@@ -35,6 +35,7 @@ public:
     /// Paints the page anew.
     void Update();
 
+    void ShowTexts() override;
     BOOL OnInitDialog() override;
 
 protected:

@@ -40,7 +40,7 @@ constexpr ColumnDesign column_designs[CRecordingList::column_count] = {
     {Translatable(L"RMS (dBFS)"), LVCFMT_RIGHT, L"-100.0"},
     {Translatable(L"Date"), LVCFMT_LEFT, L""},
     {Translatable(L"Rating"), LVCFMT_LEFT, L"Not rated mm"},
-    {Translatable(L"Comment"), LVCFMT_LEFT, L"mmmmmmm"},
+    {Translatable(L"Comment"), LVCFMT_LEFT, L"mmmmmmmmmm"},
     {Translatable(L"Status"), LVCFMT_LEFT, L"mmm cut off,"},
     {Translatable(L"Crest (dB)"), LVCFMT_RIGHT, L"100.0"},
     {Translatable(L"Loudness (LUFS)"), LVCFMT_RIGHT, L"-100.0"},
@@ -55,13 +55,14 @@ struct Growth
     CRecordingList::Column column;
     int limit;
 };
-constexpr Growth column_growth[] = {{CRecordingList::column_overview, 2},
-                                    {CRecordingList::column_comment, 2},
+constexpr Growth column_growth[] = {{CRecordingList::column_comment, 2},
+                                    {CRecordingList::column_overview, 2},
                                     {CRecordingList::column_peak, 2},
                                     {CRecordingList::column_overview, 3},
                                     {CRecordingList::column_comment, 100}};
 
 // The room that cell and header keep left and right of a text, a divider and the rounding of text widths.
+// Pixels of a screen of the usual resolution.
 constexpr int text_room = 16;
 constexpr int image_size = 20;
 constexpr int check_width = 30; // of a header's check box with its room
@@ -81,6 +82,8 @@ constexpr int edit_id = 99;
 constexpr wchar_t combo_class[] = L"SuperComboBox";
 constexpr UINT_PTR cancel_combo_timer = 2;
 constexpr int edit_room = 2; // pixels of an edit below its text
+
+constexpr std::size_t most_value_widths = 2000; // that are remembered
 
 constexpr UINT last_tool_id = 0xFFFF;
 constexpr int tool_tip_gap = 2; // pixels
@@ -138,6 +141,8 @@ bool CRecordingList::CreateList(CWnd & parent, UINT id, workbench::ScreenMetrics
     SetFullRowSelect();
     SetExtendedStyle(GetExtendedStyle() | LVS_EX_HEADERDRAGDROP);
     SetFont(&metrics.Font(), FALSE);
+    SetDpi(metrics.Resolution());
+    m_stars = std::make_shared<CStarRating>(metrics.Resolution());
     m_onDoubleClick = [this](int row, int column) {
         // Cells that act on a click of their own are left to it.
         if (column != column_check && column != column_reference && column != column_rating && column != column_comment)
@@ -187,7 +192,15 @@ void CRecordingList::MeasureTitles()
         least = std::max(WidthOf(Title(i)), WidthOf(column_designs[i].leastText));
         if (i == column_check)
         {
-            least = check_width;
+            least = m_metrics->Scaled(check_width);
+        }
+        else if (i == column_rating)
+        {
+            // Their names are chosen from a list in the cell, beside its button.
+            for (auto const * const name : rating_names)
+            {
+                least = std::max(least, WidthOf(std::wstring(Text(name)) + L"mm"));
+            }
         }
         else if (i == column_date)
         {
@@ -196,8 +209,9 @@ void CRecordingList::MeasureTitles()
         }
     }
     // With the columns that show at first.
-    m_leastWidth = std::accumulate(m_least.begin(), m_least.begin() + first_measure, 0) + arrow_room +
-                   ::GetSystemMetrics(SM_CXVSCROLL) + 2 * ::GetSystemMetrics(SM_CXBORDER);
+    m_leastWidth = std::accumulate(m_least.begin(), m_least.begin() + first_measure, 0) +
+                   m_metrics->Scaled(arrow_room) + ::GetSystemMetrics(SM_CXVSCROLL) +
+                   2 * ::GetSystemMetrics(SM_CXBORDER);
 }
 
 void CRecordingList::CreateColumns()
@@ -224,7 +238,6 @@ void CRecordingList::CreateImages()
     SetImageList(&m_images, LVSIL_SMALL);
 }
 
-/// Shows what is in no line in the present language; ShowLineTexts does the rest.
 void CRecordingList::ShowTexts()
 {
     EndEditing();
@@ -242,6 +255,7 @@ void CRecordingList::ShowTexts()
         needed = std::max(needed, m_least[static_cast<std::size_t>(i)]);
     }
     CreateMenu();
+    RefreshLines();
     FitColumns();
 }
 
@@ -272,7 +286,21 @@ void CRecordingList::CreateMenu()
 
 int CRecordingList::WidthOf(std::wstring const & text) const
 {
-    return GetStringWidth(text.c_str()) + text_room;
+    return GetStringWidth(text.c_str()) + m_metrics->Scaled(text_room);
+}
+
+/// The same of a text that many lines have, or had: it is measured once.
+int CRecordingList::WidthOfValue(std::wstring const & text) const
+{
+    if (auto const known = m_valueWidths.find(text); known != m_valueWidths.end())
+    {
+        return known->second;
+    }
+    if (m_valueWidths.size() >= most_value_widths)
+    {
+        m_valueWidths.clear();
+    }
+    return m_valueWidths[text] = WidthOf(text);
 }
 
 void CRecordingList::Require(Column column, int width)
@@ -302,7 +330,7 @@ void CRecordingList::FitColumns()
     if (m_sortedColumn >= 0)
     {
         auto & width = widths[static_cast<std::size_t>(m_sortedColumn)];
-        width = std::max(width, WidthOf(Text(column_designs[m_sortedColumn].title)) + arrow_room);
+        width = std::max(width, WidthOf(Text(column_designs[m_sortedColumn].title)) + m_metrics->Scaled(arrow_room));
     }
     for (auto const & [column, width] : m_userWidths)
     {
@@ -336,14 +364,28 @@ void CRecordingList::FitColumns()
         // The list scrolls sideways anyway, so names that begin alike need not be cut short for the last columns.
         widths[column_name] = std::max(widths[column_name], std::min(m_needs[column_name], client.Width() / 3));
     }
+    std::vector<int> changed;
     for (int column = 0; column < column_count; ++column)
     {
-        auto const width = widths[static_cast<std::size_t>(column)];
-        if (width != GetColumnWidth(column))
+        if (widths[static_cast<std::size_t>(column)] != GetColumnWidth(column))
         {
-            // The list's own function would add room for the header, which is in these widths already.
-            CListCtrl::SetColumnWidth(column, width);
+            changed.push_back(column);
         }
+    }
+    // Each one would have the list scroll its pixels and paint the rest.
+    auto const many = changed.size() > 1;
+    if (many)
+    {
+        SetRedraw(FALSE);
+    }
+    for (auto const column : changed)
+    {
+        // The list's own function would add room for the header, which is in these widths already.
+        CListCtrl::SetColumnWidth(column, widths[static_cast<std::size_t>(column)]);
+    }
+    if (many)
+    {
+        SetRedraw(TRUE);
     }
     m_fitting = false;
 }
@@ -364,17 +406,26 @@ void CRecordingList::ClearSelection()
 
 int CRecordingList::ChosenLine() const
 {
-    if (auto const row = ChosenRow(); row >= 0)
-    {
-        return LineAt(row);
-    }
     // Its row may be still to come.
-    return !m_wanted.empty() && m_holds ? m_heldFocus : -1;
+    if (!m_wanted.empty() && m_holds && m_heldFocus >= 0)
+    {
+        auto const & source = m_sources[static_cast<std::size_t>(m_heldFocus)];
+        if (source.shown && source.isHeld && !source.hasRow)
+        {
+            return m_heldFocus;
+        }
+    }
+    auto const row = ChosenRow();
+    return row >= 0 ? LineAt(row) : -1;
 }
 
 void CRecordingList::ChooseLine(int line)
 {
-    FinishRows();
+    if (!m_wanted.empty())
+    {
+        auto const isToCome = line >= 0 && line < LineCount() && m_sources[static_cast<std::size_t>(line)].shown;
+        HoldLines(isToCome ? std::vector<int>{line} : std::vector<int>(), isToCome ? line : -1);
+    }
     if (GetSelectedCount() > many_rows)
     {
         ClearSelection();
@@ -393,34 +444,15 @@ void CRecordingList::ChooseLine(int line)
     }
 }
 
-void CRecordingList::SetChecked(int row, bool checked)
+/// Marks lines or takes their marks, as a gesture of the user. It needs no rows.
+void CRecordingList::SetChecked(std::vector<int> const & lines, bool checked)
 {
-    auto const state = GetCheckbox(row, column_check);
-    auto const wanted = checked ? XLC_CHECKED : XLC_UNCHECKED;
-    if ((state == XLC_CHECKED || state == XLC_UNCHECKED) && state != wanted)
-    {
-        Touch(row);
-        SetCheckbox(row, column_check, wanted);
-        SetModified(row, column_check, true);
-        OnItemStateChange(row, column_check, WM_XLISTCTRL_CHECKBOX_CLICKED);
-    }
-}
-
-void CRecordingList::CheckAll(bool checked)
-{
-    // Rows that are still missing are not made for it.
     Batch const batch(*this);
-    for (int line = 0; line < LineCount(); ++line)
+    for (auto const line : lines)
     {
-        auto const & source = m_sources[static_cast<std::size_t>(line)];
-        auto const row = PlaceOf(line);
-        if (row >= 0)
+        auto const before = NotesOf(line);
+        if (before.checked != checked && IsReadable(line))
         {
-            SetChecked(row, checked);
-        }
-        else if (source.shown && !(source.analysis && source.analysis->problem) && NotesOf(line).checked != checked)
-        {
-            auto const before = NotesOf(line);
             auto after = before;
             after.checked = checked;
             SetNotes(line, after);
@@ -428,17 +460,26 @@ void CRecordingList::CheckAll(bool checked)
             Tell(changed_marks);
         }
     }
+    ShowNotes();
+}
+
+void CRecordingList::CheckAll(bool checked)
+{
+    std::vector<int> lines;
+    for (int line = 0; line < LineCount(); ++line)
+    {
+        auto const & source = m_sources[static_cast<std::size_t>(line)];
+        if (source.hasRow || source.shown)
+        {
+            lines.push_back(line);
+        }
+    }
+    SetChecked(lines, checked);
 }
 
 void CRecordingList::ToggleSelected()
 {
-    FinishRows();
-    Batch const batch(*this);
-    auto const checked = !IsChecked(ChosenLine());
-    for (auto row = GetSelectedItem(); row >= 0; row = GetSelectedItemAfter(row))
-    {
-        SetChecked(row, checked);
-    }
+    SetChecked(SelectedLines(), !IsChecked(ChosenLine()));
 }
 
 void CRecordingList::ShowHeaderCheck()
@@ -474,6 +515,7 @@ void CRecordingList::ShowHeaderCheck()
 void CRecordingList::SetReference(int line)
 {
     auto const row = PlaceOf(line);
+    ShowNewNotes(row, line);
     if (GetItemCheckedState(row, column_reference) == XLC_RADIO_OFF)
     {
         SetRadioButton(row, column_reference, XLC_RADIO_ON);
@@ -502,7 +544,7 @@ void CRecordingList::ShowReference()
         SetBold(row, column_name, true);
         CClientDC dc(this);
         workbench::SelectScope const font(dc, m_metrics->BoldFont());
-        Require(column_name, dc.GetTextExtent(GetItemText(row, column_name)).cx + text_room);
+        Require(column_name, dc.GetTextExtent(GetItemText(row, column_name)).cx + m_metrics->Scaled(text_room));
         FitColumns();
     }
 }
@@ -529,6 +571,7 @@ CRecordingList::Batch::Batch(CRecordingList & list) : m_list(list)
     }
     m_list.m_wasClean = m_list.GetUpdateRect(nullptr) == FALSE;
     m_list.m_touched = false;
+    m_list.m_scrolledTo = m_list.ScrolledTo();
     m_list.SetRedraw(FALSE);
     m_list.SetBatchInsertMode(true);
 }
@@ -545,13 +588,15 @@ CRecordingList::Batch::~Batch()
     }
     m_list.SetBatchInsertMode(false);
     m_list.SetRedraw(TRUE);
-    // Both have everything painted again, which is too much where only lines out of sight have changed.
-    if (m_list.m_wasClean && !m_list.m_touched)
+    // Both have everything painted again, which is too much where only lines out of sight have changed. What has
+    // scrolled meanwhile has not been moved on the screen.
+    if (m_list.m_wasClean && !m_list.m_touched && m_list.ScrolledTo() == m_list.m_scrolledTo)
     {
         m_list.ValidateRect(nullptr);
     }
     m_list.ShowHeaderCheck();
     m_list.FitColumns();
+    m_list.ScrollAfterFilling();
 }
 
 /// Notes that a batch changes a row.
@@ -583,7 +628,10 @@ void CRecordingList::OnItemStateChange(int row, int column, unsigned int message
     {
     case column_check:
         Touch(row);
-        notes.checked = GetCheckbox(row, column_check) == XLC_CHECKED;
+        // A cell that was still to be shown anew has been turned from what it was before.
+        notes.checked = m_sources[static_cast<std::size_t>(line)].hasNewNotes
+                            ? !notes.checked
+                            : GetCheckbox(row, column_check) == XLC_CHECKED;
         m_totals.SetChecked(static_cast<std::size_t>(line), notes.checked);
         m_noted.push_back(line);
         ShowHeaderCheck();
@@ -647,7 +695,7 @@ std::vector<int> CRecordingList::TakeNotedLines()
 }
 
 // The editors of the base class keep a row's number, whatever happens to the rows: before lines are sorted or go, and
-// before the edited one becomes one that does not react, they are closed.
+// before the edited one becomes one that has none, they are closed.
 
 HWND CRecordingList::CommentEditor() const
 {
@@ -669,7 +717,9 @@ void CRecordingList::EndEditing()
     }
     if (RatingCombo() != nullptr)
     {
-        CXListCtrl::OnTimer(cancel_combo_timer);
+        // As a message: called by itself, the handler would hand on whatever message is being handled, which may be the
+        // main window's to close.
+        SendMessage(WM_TIMER, cancel_combo_timer);
         m_ratingCombo = nullptr;
     }
 }
@@ -677,6 +727,7 @@ void CRecordingList::EndEditing()
 void CRecordingList::EditComment(int line)
 {
     auto const row = PlaceOf(line);
+    ShowNewNotes(row, line);
     auto const * const cell = row >= 0 ? GetRowItemDataDirect(row, column_comment) : nullptr;
     if (cell == nullptr || (cell->properties & XLP_EDIT) == 0 || IsHidden(column_comment))
     {
@@ -693,6 +744,7 @@ void CRecordingList::ChooseRating(int line)
     auto const row = PlaceOf(line);
     if (row >= 0 && !IsHidden(column_rating))
     {
+        ShowNewNotes(row, line);
         EndEditing();
         ShowColumn(row, column_rating);
         DrawComboBoxControl(row, column_rating);
@@ -807,6 +859,10 @@ LRESULT CRecordingList::OnTellChanges(WPARAM, LPARAM)
     m_history.EndStep();
     auto const changes = std::exchange(m_changes, 0U);
     RepaintRows(std::exchange(m_repaintFirst, 0), std::exchange(m_repaintLast, -1), false);
+    if (std::exchange(m_columnDragged, false))
+    {
+        FollowDraggedColumn();
+    }
     // Only now has the header given a column the width that was told at the drag's end, and is a closed editor gone.
     FitColumns();
     // A copy, as what it does may replace it.
@@ -878,6 +934,7 @@ BOOL CRecordingList::OnBeginColumnDrag(UINT, NMHDR * header, LRESULT * result)
 /// The order is the new one by the time that the host is told.
 BOOL CRecordingList::OnEndColumnDrag(UINT, NMHDR *, LRESULT * result)
 {
+    m_columnDragged = true;
     Tell(changed_widths);
     *result = 0;
     return FALSE; // the list view needs it, too
@@ -895,12 +952,39 @@ void CRecordingList::SetColumnOrder(std::vector<int> order)
 {
     std::vector<int> all(column_count);
     std::iota(all.begin(), all.end(), 0);
+    KeepChecksBesideNames(order);
     if (std::ranges::is_permutation(order, all))
     {
         EndEditing();
         SetColumnOrderArray(column_count, order.data());
         Invalidate();
     }
+}
+
+/// The list's first column reaches up to its second one, wherever that stands.
+void CRecordingList::KeepChecksBesideNames(std::vector<int> & order)
+{
+    std::erase(order, column_check);
+    order.insert(std::ranges::find(order, column_name), column_check);
+}
+
+/// The user has dragged a column: what stands in other places now is painted there.
+void CRecordingList::FollowDraggedColumn()
+{
+    auto const order = ColumnOrder();
+    auto kept = order;
+    KeepChecksBesideNames(kept);
+    if (kept != order)
+    {
+        SetColumnOrder(kept);
+    }
+    Invalidate();
+    GetHeaderCtrl()->Invalidate();
+}
+
+void CRecordingList::FollowColours()
+{
+    RefreshLines();
 }
 
 /// The tool tip tells the file's path, and at the status what is wrong with it. Other cells have none.
@@ -958,7 +1042,12 @@ void CRecordingList::GetDrawColors(int row, int column, COLORREF & text, COLORRE
     COLORREF chosenText = CLR_INVALID;
     COLORREF chosenBackground = CLR_INVALID;
     CXListCtrl::GetDrawColors(row, column, chosenText, chosenBackground);
-    if (chosenBackground != CLR_INVALID)
+    if (chosenBackground != CLR_INVALID && m_colours.adapts)
+    {
+        text = chosenText;
+        background = chosenBackground;
+    }
+    else if (chosenBackground != CLR_INVALID)
     {
         auto const colours = workbench::ChosenRowColours(chosenBackground, ::GetSysColor(COLOR_WINDOW));
         text = colours.text;
@@ -1034,6 +1123,7 @@ void CRecordingList::RepaintRows(int first, int last, bool selectedOnly)
 /// Erases, besides what no cell covers, the edges that bars leave free in their cells.
 BOOL CRecordingList::OnEraseBkgnd(CDC * dc)
 {
+    m_colours = control_colors::Of(m_hWnd);
     auto const result = CXListCtrl::OnEraseBkgnd(dc);
     auto const end = std::min(GetTopIndex() + GetCountPerPage() + 1, GetItemCount());
     for (auto row = GetTopIndex(); row < end; ++row)
@@ -1041,8 +1131,8 @@ BOOL CRecordingList::OnEraseBkgnd(CDC * dc)
         CRect cell;
         if (GetItemProperty(row, column_peak, XLP_PROGRESS) && GetSubItemRect(row, column_peak, LVIR_BOUNDS, cell))
         {
-            dc->FillSolidRect(cell.left, cell.top, 1, cell.Height(), ::GetSysColor(COLOR_WINDOW));
-            dc->FillSolidRect(cell.left, cell.bottom - 1, cell.Width(), 1, ::GetSysColor(COLOR_WINDOW));
+            dc->FillSolidRect(cell.left, cell.top, 1, cell.Height(), m_colours.window);
+            dc->FillSolidRect(cell.left, cell.bottom - 1, cell.Width(), 1, m_colours.window);
         }
     }
     return result;
@@ -1066,6 +1156,7 @@ void CRecordingList::OnLButtonDown(UINT flags, CPoint point)
     m_dragsNothing = false;
     // One that stays open would lose its text to the next one.
     EndEditing();
+    ShowNewNotes(PlaceOf(line), line);
     CXListCtrl::OnLButtonDown(flags, point);
     if (generation == m_generation)
     {
@@ -1121,7 +1212,11 @@ void CRecordingList::OnContextMenu(CWnd * window, CPoint point)
     {
         // By the keyboard: the menu opens at the chosen line.
         EnsureVisible(row, FALSE);
+        // Where the list is scrolled to the right, the name is not in sight.
+        CRect client;
+        GetClientRect(&client);
         point = CellCentre(LineAt(row), column_name);
+        point.x = std::clamp<int>(point.x, 0, std::max<int>(client.right - 1, 0));
         ClientToScreen(&point);
     }
     else

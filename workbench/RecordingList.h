@@ -4,6 +4,7 @@
 #include <afxwin.h>
 
 #include <array>
+#include <chrono>
 #include <filesystem>
 #include <functional>
 #include <map>
@@ -11,9 +12,12 @@
 #include <set>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 #include "ScreenMetrics.h"
+#include "StarRating.h"
+#include "colours/ControlColors.h"
 #include "list/XListCtrl.h"
 #include "logic/ListHistory.h"
 #include "logic/RecordingAnalysis.h"
@@ -23,6 +27,11 @@
 #include "logic/TableText.h"
 
 class CRecordingOverview;
+
+namespace workbench
+{
+class RecordingTable;
+}
 
 /// The list of recordings: one line a file, with its header's values, its levels, what the user says about it and what
 /// there is to say about the file.
@@ -101,9 +110,13 @@ public:
     /// A column's title in the present language, and whether the user can hide it.
     static wchar_t const * Title(int column);
 
+    /// What a line says in place of its state while it has none.
+    static wchar_t const * WaitingText(bool isBeingRead);
+
     /// What a rating is called in the present language; empty for one that does not exist.
     static wchar_t const * RatingName(int rating);
 
+    /// Shows everything in the present language.
     void ShowTexts();
     static bool CanBeHidden(int column);
 
@@ -140,14 +153,13 @@ public:
     /// Counts and sums over the lines.
     workbench::RecordingTotals const & Totals() const { return m_totals; }
 
-    /// Fills a line; a file that could not be read gets a disabled one. A line that does not exist is ignored.
+    /// Fills a line; that of a file that could not be read is grey and has nothing to be set. A line that does not
+    /// exist is ignored.
     void ShowAnalysis(int line, std::shared_ptr<workbench::RecordingAnalysis const> const & analysis);
 
-    /// Shows what a line says in the present language, after ShowTexts. analysis: null for a file that is not read yet.
-    void ShowLineTexts(int line, std::filesystem::path const & file, workbench::RecordingAnalysis const * analysis);
-
-    /// Shows a line's numbers with the present signs. analysis: null for a file that is not read yet.
-    void ShowLineNumbers(int line, std::shared_ptr<workbench::RecordingAnalysis const> const & analysis);
+    /// Shows what the lines say in the present language and with the present signs of numbers: those in sight at once,
+    /// the others a few at a time.
+    void RefreshLines();
 
     /// Says again that a line's file is being read. The values that the line has go.
     void ShowReading(int line, std::filesystem::path const & file);
@@ -158,7 +170,7 @@ public:
     workbench::RecordingFilter const & Filter() const { return m_match.Filter(); }
     /// How many lines the filter lets through.
     int ShownCount() const;
-    /// Rows of many lines come a few at a time. This gives the rest of them one now.
+    /// Rows of many lines come, and are shown anew, a few at a time. This does the rest now.
     void FinishRows();
 
     /// The line that stands in a row now, and the row of a line; -1 where there is none.
@@ -168,6 +180,10 @@ public:
     /// Sorts the lines by a column, whose title gets the arrow; lines without a value there come last. The column of
     /// the check boxes sorts nothing.
     void SortLines(Column column, bool ascending);
+
+    /// Sorts them as a click on a column's title does: in the other direction if they are sorted by it. It can be
+    /// undone.
+    void SortByUser(Column column);
 
     /// The column by which the lines are sorted, -1 for none, and how.
     int SortedColumn() const { return m_sortedColumn; }
@@ -244,9 +260,12 @@ public:
     void SetUserWidths(std::map<int, int> const & widths);
 
     /// The columns from left to right, hidden ones included, as the user has dragged their titles; copies follow it. An
-    /// order that has not all of them once is ignored.
+    /// order that has not all of them once is ignored. The check boxes stand before the names in any order.
     std::vector<int> ColumnOrder() const;
     void SetColumnOrder(std::vector<int> order);
+
+    /// Shows the lines in the colours that the window is painted in now.
+    void FollowColours();
 
     /// The columns that don't show. Neither do they go into copies.
     std::set<int> const & HiddenColumns() const { return m_hidden; }
@@ -260,8 +279,9 @@ public:
         selected, ///< all where none is
         marked
     };
-    /// The recordings in their order as a table, without those columns, without check boxes and pictures.
-    workbench::TextTable Table(Lines lines, std::set<int> const & without);
+    /// The recordings in their order as a table that is to be made, without those columns, without check boxes and
+    /// pictures.
+    workbench::RecordingTable Table(Lines lines, std::set<int> const & without);
 
     /// The middle of a cell in client pixels.
     CPoint CellCentre(int line, Column column);
@@ -276,6 +296,9 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    using Clock = std::chrono::steady_clock;
+    static constexpr UINT_PTR refresh_timer = 42;
+
     afx_msg void OnSize(UINT type, int width, int height);
     afx_msg void OnSetFocus(CWnd * other);
     afx_msg void OnKillFocus(CWnd * other);
@@ -320,13 +343,18 @@ private:
     void PrepareRow(int row, std::filesystem::path const & file, Notes const & notes, wchar_t const * status);
     void ResetRow(int row);
     void Touch(int row);
+    void GreyOut(int row);
+    void MarkValues(int row, workbench::RecordingAnalysis const & analysis);
     void ShowProblem(int row, workbench::RecordingAnalysis const & analysis);
+    static void KeepChecksBesideNames(std::vector<int> & order);
+    void FollowDraggedColumn();
     void ShowNumbers(int row, workbench::RecordingAnalysis const & analysis);
     void ShowValues(int row, std::shared_ptr<workbench::RecordingAnalysis const> const & analysis);
+    void ShowDate(int row, workbench::RecordingAnalysis const & analysis);
     void ShowStatus(int row, workbench::RecordingAnalysis const & analysis);
     void MarkValue(int row, Column column);
     void DrawOverview(int row, CDC & dc, CRect const & rect, CRecordingOverview & overview);
-    void SetChecked(int row, bool checked);
+    void SetChecked(std::vector<int> const & lines, bool checked);
     void ToggleSelected();
     void ForgetOrder();
     void BeginDrag(int row);
@@ -337,6 +365,7 @@ private:
     void FollowDrag(CPoint point);
     void ScrollForDrag();
     bool OnDragTimer(UINT_PTR id);
+    bool OnRefreshTimer(UINT_PTR id);
     bool MoveLines(std::vector<int> const & lines, int row);
     struct SortKey
     {
@@ -345,43 +374,58 @@ private:
     };
     SortKey KeyOf(int line, int column) const;
     std::vector<int> LinesWithRows() const;
-    void ArrangeRows(std::vector<int> const & rows, int column);
+    std::vector<int> ShownLines() const;
+    void ArrangeRows(std::vector<int> rows, int column);
+    void MakeRowsAnew(std::vector<int> lines);
     static int CompareInList(long long a, long long b, long long list);
     int CompareRows(int a, int b) const;
     bool Passes(int line) const;
     void Reconsider(int line);
     void ShowWantedRows();
     void HoldSelection();
+    void HoldLines(std::vector<int> const & lines, int focused);
+    void ShowHeldSelection(int focused);
+    int StayingLineNear(int row, std::vector<int> const & numbers) const;
     void AddRow(int line, int row);
-    void FillRows(ULONGLONG end);
+    CPoint ScrolledTo() const { return {GetScrollPos(SB_HORZ), GetScrollPos(SB_VERT)}; }
+    void FillRows(Clock::time_point end);
+    void ScrollAfterFilling();
+    void RefreshRows(Clock::time_point end);
+    void RefreshRow(int row, int line);
     void FillRow(int row, std::shared_ptr<workbench::RecordingAnalysis const> const & analysis);
+    bool IsReadable(int line) const;
     void SetNotes(int line, Notes const & notes);
+    void ShowNotes();
+    void ShowNewNotes(int row, int line);
     void Apply(workbench::ListStep const & step);
     void RateSelected(int row, int rating);
-    wchar_t const * WaitingText(int line) const;
     bool IsTyping() const;
-    std::vector<int> RowsOf(Lines lines) const;
-    workbench::TextTable TableOf(std::vector<int> const & rows, std::set<int> const & without);
+    std::vector<int> LinesOf(Lines lines);
     std::vector<double> RanksOfTexts(int column) const;
     std::wstring SortedText(int line, int column) const;
     void ShowColumn(int row, Column column);
-    std::wstring_view TextOf(int row, int column, std::vector<wchar_t> & buffer) const;
     int WidthOf(std::wstring const & text) const;
+    int WidthOfValue(std::wstring const & text) const;
     void Require(Column column, int width);
     void FitColumns();
 
     CImageList m_images;
     workbench::ScreenMetrics * m_metrics = nullptr;
+    std::shared_ptr<CStarRating> m_stars;
     int m_leastWidth = 0;
-    std::array<int, column_count> m_least{}; ///< the width that a column never goes below
-    std::array<int, column_count> m_needs{}; ///< the width that shows its longest text
+    std::array<int, column_count> m_least{};                     ///< the width that a column never goes below
+    std::array<int, column_count> m_needs{};                     ///< the width that shows its longest text
+    mutable std::unordered_map<std::wstring, int> m_valueWidths; ///< in the list's font
     std::map<int, int> m_userWidths;
     std::set<int> m_hidden{column_crest, column_loudness, column_frequency, column_distortion};
     bool m_fitting = false;
-    bool m_tracking = false;           ///< the header's mouse capture, while it lasts, is for a divider
+    bool m_columnDragged = false; ///< what comes of it is not shown yet
+    bool m_tracking = false;      ///< the header's mouse capture, while it lasts, is for a divider
+    ControlColors m_colours = control_colors::Of(ControlColorSet::standard); ///< that it is painted in
     int m_fittedWidth = -1;            ///< of the client area, for which the columns have their widths
     int m_batches = 0;                 ///< that exist
     bool m_wasClean = false;           ///< nothing was waiting to be painted when the outermost batch began
+    CPoint m_scrolledTo;               ///< where the list stood then
     bool m_touched = false;            ///< the batch has changed what can be seen
     mutable std::vector<int> m_places; ///< of each line, the row where it was seen last
     int m_sortedColumn = -1;
@@ -400,7 +444,9 @@ private:
         bool reading = false;
         bool shown = true; ///< the filter lets it through
         bool hasRow = false;
-        bool isHeld = false; ///< selected, whether it has a row or not
+        bool isHeld = false;      ///< selected, whether it has a row or not
+        bool isStale = false;     ///< its row says what it said in another language or region
+        bool hasNewNotes = false; ///< its row doesn't say yet what is said about it
     };
 
     std::vector<Notes> m_notes; ///< of each line
@@ -408,11 +454,14 @@ private:
     std::vector<int> m_order;  ///< the lines from top to bottom
     std::vector<int> m_wanted; ///< while rows are missing: the lines that have one at the end
     std::size_t m_filled = 0;  ///< of them have one
+    int m_refreshed = 0;       ///< the lines below it have no stale row
     workbench::FilterMatch m_match{workbench::RecordingFilter()};
     bool m_late = false;    ///< the filter lets lines through that have no row yet
     bool m_holds = false;   ///< the user has selected nothing else since the selection was held
     bool m_filling = false; ///< what happens to rows is no doing of the user
     int m_heldFocus = -1;
+    bool m_allCame = false; ///< the last row that was missing, and nothing has been scrolled to yet
+    int m_wantedTop = -1;   ///< the line to be the uppermost one in sight once all have rows
     workbench::ListHistory m_history;
     std::wstring m_typed; ///< by which a line is looked for
     DWORD m_typedAt = 0;

@@ -47,7 +47,6 @@ void CRecordingList::BeginDrag(int row)
     {
         return;
     }
-    FinishRows();
     m_dragged = GetItemState(row, LVIS_SELECTED) != 0 ? SelectedLines() : std::vector<int>{LineAt(row)};
     m_dropRow = -1;
     CancelToolTips();
@@ -173,9 +172,8 @@ void CRecordingList::ScrollForDrag()
 bool CRecordingList::MoveLines(std::vector<int> const & lines, int row)
 {
     EndEditing();
-    FinishRows();
     auto before = Order();
-    auto after = workbench::MovedLines(m_order, LinesWithRows(), lines, static_cast<std::size_t>(std::max(row, 0)));
+    auto after = workbench::MovedLines(m_order, ShownLines(), lines, static_cast<std::size_t>(std::max(row, 0)));
     if (after == before.lines)
     {
         return false;
@@ -188,9 +186,8 @@ bool CRecordingList::MoveLines(std::vector<int> const & lines, int row)
 
 bool CRecordingList::MoveSelected(bool up)
 {
-    FinishRows();
     auto const moved = SelectedLines();
-    auto const seen = LinesWithRows();
+    auto const seen = ShownLines();
     auto const place = up ? workbench::PlaceOneUp(seen, moved) : workbench::PlaceOneDown(seen, moved);
     return !moved.empty() && MoveLines(moved, static_cast<int>(place));
 }
@@ -239,9 +236,24 @@ BOOL CRecordingList::PreTranslateMessage(MSG * message)
         EndDrag();
         return TRUE;
     }
-    if (message->message == WM_SYSKEYDOWN && message->hwnd == m_hWnd && (key == VK_UP || key == VK_DOWN) &&
-        ::GetKeyState(VK_CONTROL) >= 0 && ::GetKeyState(VK_SHIFT) >= 0)
+    auto const plain = ::GetKeyState(VK_CONTROL) >= 0 && ::GetKeyState(VK_SHIFT) >= 0;
+    // At the cell cursor these keys are the cell's, before the window's commands. The list would press the cell where a
+    // star may stand.
+    auto const isDrop = message->message == WM_SYSKEYDOWN && key == VK_DOWN;
+    if (message->hwnd == m_hWnd && plain && HasCellCursor() && GetCellCursor().second == column_rating &&
+        (isDrop || (message->message == WM_KEYDOWN && key == VK_F2)))
     {
+        if (isDrop)
+        {
+            ::DefWindowProcW(m_hWnd, message->message, message->wParam, message->lParam); // as below
+        }
+        ChooseRating(LineAt(GetCellCursor().first));
+        return TRUE;
+    }
+    if (message->message == WM_SYSKEYDOWN && message->hwnd == m_hWnd && (key == VK_UP || key == VK_DOWN) && plain)
+    {
+        // Otherwise the system takes the Alt key for one that opens the menu, when it is released.
+        ::DefWindowProcW(m_hWnd, message->message, message->wParam, message->lParam);
         MoveSelected(key == VK_UP);
         return TRUE;
     }

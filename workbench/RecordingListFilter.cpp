@@ -3,7 +3,7 @@
 #include "RecordingList.h"
 
 #include <algorithm>
-#include <limits>
+#include <iterator>
 #include <utility>
 
 namespace
@@ -11,8 +11,8 @@ namespace
 
 // So many rows come and go one by one; more of them are made anew, a few at a time.
 constexpr std::size_t few_rows = 200;
-constexpr ULONGLONG fill_slice = 12; // milliseconds
-constexpr UINT fill_interval = 10;   // milliseconds
+constexpr std::chrono::milliseconds fill_slice(12);
+constexpr UINT fill_interval = 10; // milliseconds
 constexpr UINT_PTR fill_timer = 40;
 
 constexpr DWORD typing_pause = 1000; // milliseconds after which a word begins anew
@@ -149,14 +149,7 @@ void CRecordingList::ShowWantedRows()
     }
     else
     {
-        for (auto & source : m_sources)
-        {
-            source.hasRow = false;
-        }
-        DeleteAllItems();
-        m_wanted = std::move(wanted);
-        m_filled = 0;
-        FillRows(::GetTickCount64() + fill_slice);
+        MakeRowsAnew(std::move(wanted));
     }
     m_filling = outer;
     if (auto const chosen = ChosenRow(); chosen >= 0)
@@ -166,13 +159,40 @@ void CRecordingList::ShowWantedRows()
     Tell(changed_selection);
 }
 
+/// The lines that the filter lets through, in their order.
+std::vector<int> CRecordingList::ShownLines() const
+{
+    std::vector<int> lines;
+    std::ranges::copy_if(m_order, std::back_inserter(lines),
+                         [this](int line) { return m_sources[static_cast<std::size_t>(line)].shown; });
+    return lines;
+}
+
+/// Takes all rows away and gives these lines one, those in sight at once and the others later.
+void CRecordingList::MakeRowsAnew(std::vector<int> lines)
+{
+    HoldSelection();
+    Batch const batch(*this);
+    m_touched = true;
+    auto const outer = std::exchange(m_filling, true);
+    for (auto & source : m_sources)
+    {
+        source.hasRow = false;
+    }
+    DeleteAllItems();
+    m_wanted = std::move(lines);
+    m_filled = 0;
+    FillRows(Clock::time_point::min()); // taking the others away has taken its time
+    m_filling = outer;
+}
+
 /// Gives lines their rows: those that are in sight, and others until then.
-void CRecordingList::FillRows(ULONGLONG end)
+void CRecordingList::FillRows(Clock::time_point end)
 {
     Batch const batch(*this);
     auto const outer = std::exchange(m_filling, true);
     auto const inSight = static_cast<std::size_t>(GetCountPerPage()) + 1;
-    while (m_filled < m_wanted.size() && (m_filled < inSight || ::GetTickCount64() < end))
+    while (m_filled < m_wanted.size() && (m_filled < inSight || Clock::now() < end))
     {
         AddRow(m_wanted[m_filled++], -1);
     }
@@ -184,7 +204,22 @@ void CRecordingList::FillRows(ULONGLONG end)
     }
     KillTimer(fill_timer);
     m_wanted.clear();
-    if (auto const chosen = ChosenRow(); chosen >= 0 && m_holds)
+    m_allCame = true;
+}
+
+/// Scrolls to what is to be in sight, once all lines have their rows: while the list is kept from painting, it knows no
+/// more of them than it did before.
+void CRecordingList::ScrollAfterFilling()
+{
+    if (!std::exchange(m_allCame, false) || IsDragging())
+    {
+        return;
+    }
+    if (auto const top = std::exchange(m_wantedTop, -1); top >= 0)
+    {
+        ScrollToLine(top);
+    }
+    else if (auto const chosen = ChosenRow(); chosen >= 0 && m_holds)
     {
         EnsureVisible(chosen, FALSE);
     }
@@ -194,13 +229,17 @@ void CRecordingList::FinishRows()
 {
     if (!m_wanted.empty())
     {
-        FillRows(std::numeric_limits<ULONGLONG>::max());
+        FillRows(Clock::time_point::max());
+    }
+    if (m_refreshed < LineCount())
+    {
+        RefreshRows(Clock::time_point::max());
     }
 }
 
 void CRecordingList::OnTimer(UINT_PTR id)
 {
-    if (OnDragTimer(id))
+    if (OnDragTimer(id) || OnRefreshTimer(id))
     {
         return;
     }
@@ -214,7 +253,7 @@ void CRecordingList::OnTimer(UINT_PTR id)
     }
     else
     {
-        FillRows(::GetTickCount64() + fill_slice);
+        FillRows(Clock::now() + fill_slice);
     }
 }
 
@@ -225,15 +264,29 @@ std::vector<int> CRecordingList::SelectedLines() const
     {
         lines.push_back(LineAt(row));
     }
+    if (m_holds)
+    {
+        // Those that get their rows later are selected then.
+        std::copy_if(m_wanted.begin() + static_cast<std::ptrdiff_t>(std::min(m_filled, m_wanted.size())),
+                     m_wanted.end(), std::back_inserter(lines),
+                     [this](int line) { return m_sources[static_cast<std::size_t>(line)].isHeld; });
+    }
     return lines;
 }
 
 void CRecordingList::SelectLines(std::vector<int> const & lines, int focused)
 {
-    FinishRows();
-    ClearSelection();
     Batch const batch(*this);
     m_touched = true;
+    if (!m_wanted.empty())
+    {
+        HoldLines(lines, focused);
+    }
+    else
+    {
+        ClearSelection();
+    }
+    auto const outer = std::exchange(m_filling, m_filling || !m_wanted.empty());
     for (auto const line : lines)
     {
         if (auto const row = PlaceOf(line); row >= 0)
@@ -246,6 +299,33 @@ void CRecordingList::SelectLines(std::vector<int> const & lines, int focused)
         SetItemState(row, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
         EnsureVisible(row, FALSE);
     }
+    m_filling = outer;
+}
+
+/// Has lines selected in place of all others, as soon as they have rows.
+void CRecordingList::HoldLines(std::vector<int> const & lines, int focused)
+{
+    auto const outer = std::exchange(m_filling, true);
+    ClearSelection();
+    m_filling = outer;
+    for (auto & source : m_sources)
+    {
+        source.isHeld = false;
+    }
+    for (auto const line : lines)
+    {
+        if (line >= 0 && line < LineCount())
+        {
+            m_sources[static_cast<std::size_t>(line)].isHeld = true;
+        }
+    }
+    if (focused >= 0 && focused < LineCount())
+    {
+        m_sources[static_cast<std::size_t>(focused)].isHeld = true;
+    }
+    m_heldFocus = focused;
+    m_holds = true;
+    Tell(changed_selection);
 }
 
 /// Gives the other selected recordings the rating that one of them has been given.
@@ -258,9 +338,8 @@ void CRecordingList::RateSelected(int row, int rating)
     Batch const batch(*this);
     for (auto const line : SelectedLines())
     {
-        auto const & source = m_sources[static_cast<std::size_t>(line)];
         auto const before = NotesOf(line);
-        if (PlaceOf(line) != row && before.rating != rating && !(source.analysis && source.analysis->problem))
+        if (PlaceOf(line) != row && before.rating != rating && IsReadable(line))
         {
             auto after = before;
             after.rating = rating;
@@ -268,9 +347,17 @@ void CRecordingList::RateSelected(int row, int rating)
             m_history.Note(line, before, after);
         }
     }
+    ShowNotes();
 }
 
-/// Takes notes over for a line and shows them.
+/// Whether a line is one about which something can be said; that is not known before it is read.
+bool CRecordingList::IsReadable(int line) const
+{
+    auto const & analysis = m_sources[static_cast<std::size_t>(line)].analysis;
+    return !(analysis && analysis->problem);
+}
+
+/// Takes notes over for a line, which ShowNotes shows.
 void CRecordingList::SetNotes(int line, Notes const & notes)
 {
     auto const known = static_cast<std::size_t>(line);
@@ -279,31 +366,24 @@ void CRecordingList::SetNotes(int line, Notes const & notes)
     {
         source.searched = workbench::SearchedText(source.file, notes.comment);
     }
+    // Of two folders with a reference each, the second one's is none.
+    auto const turnsReference = m_notes[known].reference != notes.reference;
     m_notes[known] = notes;
     m_noted.push_back(line);
-    auto const readable = !(source.analysis && source.analysis->problem);
+    auto const readable = IsReadable(line);
     if (readable)
     {
         m_totals.SetChecked(known, notes.checked);
     }
-    if (notes.reference && readable)
+    if (turnsReference && notes.reference && readable)
     {
         m_reference = line;
     }
-    else if (m_reference == line)
+    else if (turnsReference && m_reference == line)
     {
         m_reference = -1;
     }
-    auto const row = PlaceOf(line);
-    if (row < 0 || !readable)
-    {
-        return;
-    }
-    Touch(row);
-    SetCheckbox(row, column_check, notes.checked ? XLC_CHECKED : XLC_UNCHECKED);
-    SetRadioButton(row, column_reference, notes.reference ? XLC_RADIO_ON : XLC_RADIO_OFF);
-    SetComboBoxGlobalStrings(row, column_rating, notes.rating, 0);
-    SetItemText(row, column_comment, notes.comment.c_str());
+    source.hasNewNotes = source.hasRow && readable;
 }
 
 void CRecordingList::Apply(workbench::ListStep const & step)
@@ -322,6 +402,7 @@ void CRecordingList::Apply(workbench::ListStep const & step)
                 }
             }
         }
+        ShowNotes();
         ShowReference();
     }
     if (step.order)
@@ -380,12 +461,12 @@ void CRecordingList::OnChar(UINT character, UINT, UINT)
     }
     m_typedAt = ::GetTickCount();
     m_typed += workbench::FoldedText(std::wstring(1, static_cast<wchar_t>(character)));
-    FinishRows();
-    auto const lines = LinesWithRows();
+    auto const lines = ShownLines();
     auto const again = m_typed.find_first_not_of(m_typed.front()) == m_typed.npos && m_typed.size() > 1;
     auto const wanted = again ? m_typed.substr(0, 1) : m_typed;
     auto const count = lines.size();
-    auto const chosen = static_cast<std::size_t>(std::max(ChosenRow(), 0));
+    auto const place = std::ranges::find(lines, ChosenLine());
+    auto const chosen = place != lines.end() ? static_cast<std::size_t>(place - lines.begin()) : 0;
     for (std::size_t i = m_typed.size() == 1 || again ? 1 : 0; count > 0 && i <= count; ++i)
     {
         auto const line = lines[(chosen + i) % count];

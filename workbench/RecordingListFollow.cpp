@@ -23,7 +23,50 @@ void Renumber(std::vector<Element> & elements, std::vector<int> const & numbers,
     elements = std::move(renumbered);
 }
 
+// More rows that go have all made anew.
+constexpr std::ptrdiff_t few_gone = 100;
+
 } // namespace
+
+/// Selects the rows that are held, where none is selected.
+void CRecordingList::ShowHeldSelection(int focused)
+{
+    for (int row = 0; row < GetItemCount(); ++row)
+    {
+        if (m_sources[static_cast<std::size_t>(LineAt(row))].isHeld)
+        {
+            SetItemState(row, LVIS_SELECTED, LVIS_SELECTED);
+        }
+    }
+    if (focused >= 0)
+    {
+        SetItemState(focused, LVIS_FOCUSED, LVIS_FOCUSED);
+    }
+}
+
+/// The line of a row, or of the next one below it that doesn't go, or else above it; -1 if all go.
+int CRecordingList::StayingLineNear(int row, std::vector<int> const & numbers) const
+{
+    auto const stays = [&](int place) {
+        auto const line = LineAt(place);
+        return line >= 0 && numbers[static_cast<std::size_t>(line)] >= 0;
+    };
+    for (auto place = row; place < GetItemCount(); ++place)
+    {
+        if (stays(place))
+        {
+            return LineAt(place);
+        }
+    }
+    for (auto place = row; place >= 0; --place)
+    {
+        if (stays(place))
+        {
+            return LineAt(place);
+        }
+    }
+    return -1;
+}
 
 void CRecordingList::Renumber(std::vector<int> const & numbers)
 {
@@ -34,7 +77,6 @@ void CRecordingList::Renumber(std::vector<int> const & numbers)
     CancelToolTips();
     EndEditing();
     EndDrag();
-    FinishRows();
     auto const numberOf = [&numbers](int line) {
         return line >= 0 && static_cast<std::size_t>(line) < numbers.size() ? numbers[static_cast<std::size_t>(line)]
                                                                             : -1;
@@ -46,7 +88,18 @@ void CRecordingList::Renumber(std::vector<int> const & numbers)
     Batch const batch(*this);
     m_touched = true;
     auto const outer = std::exchange(m_filling, true);
-    for (auto row = GetItemCount(); row > 0; --row)
+    auto const gone = std::ranges::count_if(numbers, [](int number) { return number < 0; });
+    auto const makesAnew = gone > few_gone;
+    auto focused = GetNextItem(-1, LVNI_FOCUSED);
+    auto const nextFocused = makesAnew && focused >= 0 ? StayingLineNear(focused, numbers) : -1;
+    // The system's list view looks at all that are selected whenever a row goes.
+    auto const holds = gone > 0 && (makesAnew || focused >= 0 || GetSelectedCount() > 0);
+    if (holds)
+    {
+        HoldSelection();
+        SetItemState(-1, 0, LVIS_SELECTED | LVIS_FOCUSED);
+    }
+    for (auto row = makesAnew ? 0 : GetItemCount(); row > 0; --row)
     {
         if (auto const number = numberOf(LineAt(row - 1)); number >= 0)
         {
@@ -55,17 +108,22 @@ void CRecordingList::Renumber(std::vector<int> const & numbers)
         else
         {
             DeleteItem(row - 1);
+            focused -= row <= focused ? 1 : 0;
         }
     }
-    m_filling = outer;
     auto const count = static_cast<std::size_t>(std::ranges::count_if(numbers, [](int number) { return number >= 0; }));
     ::Renumber(m_notes, numbers, count);
     ::Renumber(m_sources, numbers, count);
     m_totals.Renumber(numbers);
     m_places.assign(count, -1);
+    auto const filled = m_wanted.begin() + static_cast<std::ptrdiff_t>(std::min(m_filled, m_wanted.size()));
+    m_filled = static_cast<std::size_t>(
+        std::count_if(m_wanted.begin(), filled, [&numberOf](int line) { return numberOf(line) >= 0; }));
+    renumberAll(m_wanted);
     renumberAll(m_order);
     renumberAll(m_noted);
-    for (auto * const line : {&m_reference, &m_boldLine, &m_menuLine, &m_editedLine, &m_heldFocus})
+    m_refreshed = 0;
+    for (auto * const line : {&m_reference, &m_boldLine, &m_menuLine, &m_editedLine, &m_heldFocus, &m_wantedTop})
     {
         *line = numberOf(*line);
     }
@@ -74,12 +132,25 @@ void CRecordingList::Renumber(std::vector<int> const & numbers)
         m_menuGeneration = m_generation;
     }
     m_history.Renumber(numbers);
+    if (makesAnew)
+    {
+        // The one that is to get the focus may have no row yet.
+        m_heldFocus = m_heldFocus >= 0 && !m_wanted.empty() ? m_heldFocus : numberOf(nextFocused);
+        MakeRowsAnew(ShownLines());
+    }
+    else if (holds)
+    {
+        ShowHeldSelection(std::min(focused, GetItemCount() - 1));
+    }
+    m_filling = outer;
     Tell(changed_selection | changed_marks);
 }
 
 void CRecordingList::ScrollToLine(int line)
 {
     auto const row = PlaceOf(line);
+    auto const isToCome = line >= 0 && line < LineCount() && m_sources[static_cast<std::size_t>(line)].shown;
+    m_wantedTop = row < 0 && isToCome ? line : -1;
     auto const top = GetTopIndex();
     auto const height = EdgeOf(top + 1) - EdgeOf(top);
     if (row >= 0 && row != top && height > 0)

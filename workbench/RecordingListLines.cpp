@@ -5,13 +5,17 @@
 #include <algorithm>
 #include <utility>
 
+#include "RecordingCells.h"
 #include "RecordingOverview.h"
 #include "StarRating.h"
+#include "colours/ControlColors.h"
 #include "frame/CoreLibrary.h"
 #include "logic/ReadableColours.h"
 #include "logic/RecordingDetails.h"
 #include "logic/TextFormat.h"
 #include "logic/Texts.h"
+
+using workbench::ValueText;
 
 namespace
 {
@@ -69,6 +73,7 @@ void CRecordingList::RemoveLines()
     m_late = false;
     m_holds = false;
     m_heldFocus = -1;
+    m_wantedTop = -1;
     m_history.Clear();
     m_places.clear();
     m_totals.Clear();
@@ -112,10 +117,9 @@ void CRecordingList::AppendFile(std::filesystem::path const & file, Notes const 
     }
 }
 
-/// What a line says in place of its state while it has none.
-wchar_t const * CRecordingList::WaitingText(int line) const
+wchar_t const * CRecordingList::WaitingText(bool isBeingRead)
 {
-    return workbench::Text(m_sources[static_cast<std::size_t>(line)].reading ? reading_text : unread_text);
+    return workbench::Text(isBeingRead ? reading_text : unread_text);
 }
 
 /// Gives a line a row, the last one for a negative place.
@@ -132,7 +136,9 @@ void CRecordingList::AddRow(int line, int row)
     m_places[static_cast<std::size_t>(line)] = row;
     auto notes = NotesOf(line);
     notes.reference = line == m_reference;
-    PrepareRow(row, source.file, notes, WaitingText(line));
+    PrepareRow(row, source.file, notes, WaitingText(source.reading));
+    source.isStale = false;
+    source.hasNewNotes = false;
     if (source.analysis)
     {
         FillRow(row, source.analysis);
@@ -141,10 +147,10 @@ void CRecordingList::AddRow(int line, int row)
     {
         SetBold(row, column_name, true);
     }
-    if (m_holds && source.isHeld)
+    if (m_holds && (source.isHeld || line == m_heldFocus))
     {
-        auto const state = line == m_heldFocus ? LVIS_SELECTED | LVIS_FOCUSED : LVIS_SELECTED;
-        SetItemState(row, state, state);
+        auto const state = (source.isHeld ? LVIS_SELECTED : 0) | (line == m_heldFocus ? LVIS_FOCUSED : 0);
+        SetItemState(row, static_cast<UINT>(state), static_cast<UINT>(state));
     }
 }
 
@@ -173,7 +179,8 @@ void CRecordingList::ShowReading(int line, std::filesystem::path const & file)
         {
             Touch(row);
             ResetRow(row);
-            PrepareRow(row, file, notes, workbench::Text(reading_text));
+            source.hasNewNotes = false;
+            PrepareRow(row, file, notes, WaitingText(true));
         }
         ShowReference();
         if (row >= 0)
@@ -206,7 +213,6 @@ void CRecordingList::Rename(int line, std::filesystem::path const & file)
 /// Takes the values of an earlier reading away.
 void CRecordingList::ResetRow(int row)
 {
-    SetEnabled(row, true);
     RemoveCustomDraw(row, column_overview);
     DeleteProgress(row, column_peak);
     for (int column = column_overview; column < column_count; ++column)
@@ -236,7 +242,7 @@ void CRecordingList::PrepareRow(int row, std::filesystem::path const & file, Not
     SetItemToolTipText(row, column_name, file.c_str());
     SetRadioButton(row, column_reference, notes.reference ? XLC_RADIO_ON : XLC_RADIO_OFF);
     SetComboBoxGlobalStrings(row, column_rating, notes.rating, 0);
-    SetCellKind(row, column_rating, CStarRating::Shared());
+    SetCellKind(row, column_rating, m_stars);
     SetItemText(row, column_comment, notes.comment.c_str());
     SetEdit(row, column_comment, true);
     SetItemText(row, column_status, status);
@@ -273,14 +279,7 @@ void CRecordingList::ShowAnalysis(int line, std::shared_ptr<workbench::Recording
 /// Shows in a row what is known of its file.
 void CRecordingList::FillRow(int row, std::shared_ptr<workbench::RecordingAnalysis const> const & analysis)
 {
-    if (analysis->file.lastWrite)
-    {
-        CTime const time(*analysis->file.lastWrite);
-        auto const text = UserDateTimeText(time, dtf_date_time_without_seconds);
-        SetItemText(row, column_date, text);
-        SetItemDatetime(row, column_date, time);
-        Require(column_date, WidthOf(text.GetString()));
-    }
+    ShowDate(row, *analysis);
     ShowStatus(row, *analysis);
     if (analysis->problem)
     {
@@ -292,31 +291,15 @@ void CRecordingList::FillRow(int row, std::shared_ptr<workbench::RecordingAnalys
     }
 }
 
-void CRecordingList::ShowLineTexts(int line, std::filesystem::path const & file,
-                                   workbench::RecordingAnalysis const * analysis)
+void CRecordingList::ShowDate(int row, workbench::RecordingAnalysis const & analysis)
 {
-    auto const row = PlaceOf(line);
-    if (row < 0)
+    if (analysis.file.lastWrite)
     {
-        return;
-    }
-    Batch const batch(*this);
-    Touch(row);
-    if (analysis == nullptr)
-    {
-        SetItemText(row, column_status, workbench::Text(unread_text));
-    }
-    else
-    {
-        ShowStatus(row, *analysis);
-    }
-    if (analysis != nullptr && analysis->problem)
-    {
-        SetItemToolTipText(row, column_name, (file.wstring() + L": " + analysis->StatusText()).c_str());
-    }
-    else
-    {
-        SetComboBoxGlobalStrings(row, column_rating, NotesOf(line).rating, 0);
+        CTime const time(*analysis.file.lastWrite);
+        auto const text = UserDateTimeText(time, dtf_date_time_without_seconds);
+        SetItemText(row, column_date, text);
+        SetItemDatetime(row, column_date, time);
+        Require(column_date, WidthOfValue(text.GetString()));
     }
 }
 
@@ -326,87 +309,82 @@ void CRecordingList::ShowStatus(int row, workbench::RecordingAnalysis const & an
     auto const status = analysis.StatusText();
     SetItemText(row, column_status, status.c_str());
     SetItemImage(row, column_status, analysis.problem ? image_unreadable : damaged ? image_damaged : image_ok);
-    Require(column_status, WidthOf(status) + m_metrics->Scaled(image_room));
-}
-
-void CRecordingList::ShowLineNumbers(int line, std::shared_ptr<workbench::RecordingAnalysis const> const & analysis)
-{
-    auto const row = PlaceOf(line);
-    if (row >= 0 && analysis && !analysis->problem)
-    {
-        Batch const batch(*this);
-        Touch(row);
-        ShowStatus(row, *analysis);
-        ShowNumbers(row, *analysis);
-    }
+    Require(column_status, WidthOfValue(status) + m_metrics->Scaled(image_room));
 }
 
 /// The values in the form that the user's region gives them.
 void CRecordingList::ShowNumbers(int row, workbench::RecordingAnalysis const & analysis)
 {
     auto const & info = analysis.info;
-    auto const duration = AtRightEdge(workbench::FormatDuration(info.frames, info.sampleRate));
+    auto const duration = AtRightEdge(ValueText(column_duration, analysis));
     auto const milliseconds = workbench::DurationMilliseconds(info.frames, info.sampleRate);
     SetItemFloatVal(row, column_duration, static_cast<float>(milliseconds) / 1000.0F, duration.c_str());
-    Require(column_duration, WidthOf(duration));
+    Require(column_duration, WidthOfValue(duration));
     SetItemText(row, column_channels, static_cast<int>(info.channels));
     // Beyond the largest int, too; a number that size is sorted by well enough as a float.
-    auto const rate = workbench::FormatThousands(info.sampleRate);
+    auto const rate = ValueText(column_rate, analysis);
     SetItemFloatVal(row, column_rate, static_cast<float>(info.sampleRate), rate.c_str());
-    Require(column_rate, WidthOf(rate));
+    Require(column_rate, WidthOfValue(rate));
 
     // The bar's text is made with a whole number; to show tenths, the finished text is its format.
-    auto const peak = workbench::FormatLevel(analysis.levels.peak);
+    auto const peak = ValueText(column_peak, analysis);
     SetProgress(row, column_peak, true, peak.c_str());
     SetItemFloatVal(row, column_peak, static_cast<float>(analysis.levels.peak), peak.c_str());
     SetItemColors(row, column_peak, workbench::ReadableColour(::GetSysColor(COLOR_WINDOWTEXT), empty_bar_colour),
                   analysis.levels.peak > 0.0 ? clipped_colour : bar_colour, XLISTCTRLDATA::no_gradient);
     UpdateProgress(row, column_peak, std::max(workbench::LevelBarPercent(analysis.levels.peak), least_bar_percent), 0);
 
-    auto const rms = AtRightEdge(workbench::FormatLevel(analysis.levels.rms));
+    auto const rms = AtRightEdge(ValueText(column_rms, analysis));
     SetItemFloatVal(row, column_rms, static_cast<float>(analysis.levels.rms), rms.c_str());
-    Require(column_rms, WidthOf(rms));
+    Require(column_rms, WidthOfValue(rms));
 
-    std::pair<Column, std::wstring> const measures[] = {
-        {column_crest, workbench::FormatCrestFactor(analysis.levels)},
-        {column_loudness, workbench::FormatLoudness(analysis.loudness)},
-        {column_frequency, workbench::FormatFrequency(analysis.tone.frequency)},
-        {column_distortion, workbench::FormatPercent(analysis.tone.distortion)}};
-    for (auto const & [column, text] : measures)
+    for (auto const column : {column_crest, column_loudness, column_frequency, column_distortion})
     {
-        SetItemText(row, column, AtRightEdge(text).c_str());
-        Require(column, WidthOf(AtRightEdge(text)));
+        auto const text = AtRightEdge(ValueText(column, analysis));
+        SetItemText(row, column, text.c_str());
+        Require(column, WidthOfValue(text));
     }
 }
 
 void CRecordingList::ShowValues(int row, std::shared_ptr<workbench::RecordingAnalysis const> const & analysis)
 {
     ShowNumbers(row, *analysis);
-    auto const & info = analysis->info;
-    // The value that the damage makes doubtful is marked.
-    if (info.IsCutOff())
-    {
-        MarkValue(row, column_duration);
-    }
-    if (analysis->invalidSamples > 0)
-    {
-        MarkValue(row, column_rms);
-    }
-
-    auto const overview = std::make_shared<CRecordingOverview>(analysis);
+    MarkValues(row, *analysis);
+    auto const overview = std::make_shared<CRecordingOverview>(analysis, m_metrics->Resolution());
     SetCustomDraw(row, column_overview, [this, overview](int row, int, CDC * dc, CRect const & rect) {
         DrawOverview(row, *dc, rect, *overview);
     });
 }
 
+/// Marks the values that damage of the file makes doubtful.
+void CRecordingList::MarkValues(int row, workbench::RecordingAnalysis const & analysis)
+{
+    if (analysis.info.IsCutOff())
+    {
+        MarkValue(row, column_duration);
+    }
+    if (analysis.invalidSamples > 0)
+    {
+        MarkValue(row, column_rms);
+    }
+}
+
+void CRecordingList::GreyOut(int row)
+{
+    auto const colors = control_colors::Of(m_hWnd);
+    SetRowColors(row, workbench::ReadableColour(colors.disabled, colors.window), colors.window);
+}
+
 void CRecordingList::MarkValue(int row, Column column)
 {
     // On a dark window the wash is dark as well, so that the text is read on all of it.
-    auto const text = ::GetSysColor(COLOR_WINDOWTEXT);
-    SetItemColors(row, column, text, ::GetSysColor(COLOR_WINDOW), workbench::ReadableColour(damaged_colour, text));
+    auto const colors = control_colors::Of(m_hWnd);
+    SetItemColors(row, column, colors.windowText, colors.window,
+                  workbench::ReadableColour(damaged_colour, colors.windowText));
 }
 
-/// Leaves of the line what is known of its file, and makes it one that does not react.
+/// Leaves of the line what is known of its file, in grey. It stays one that can be chosen, as it can be renamed and
+/// deleted.
 void CRecordingList::ShowProblem(int row, workbench::RecordingAnalysis const & analysis)
 {
     if (IsEditing() && LineAt(row) == m_editedLine)
@@ -420,19 +398,21 @@ void CRecordingList::ShowProblem(int row, workbench::RecordingAnalysis const & a
     SetRadioButton(row, column_reference, XLC_NONE);
     SetCellKind(row, column_rating, nullptr);
     SetComboBox(row, column_rating, std::map<int, wchar_t const *>(), 0, 0);
+    SetItemProperty(row, column_rating, XLP_COMBO, false);
     SetItemText(row, column_rating, L"");
     SetEdit(row, column_comment, false);
-    SetEnabled(row, false);
+    GreyOut(row);
     auto const tip = GetItemToolTipText(row, column_name) + L": " + analysis.StatusText().c_str();
     SetItemToolTipText(row, column_name, tip);
 }
 
 void CRecordingList::DrawOverview(int row, CDC & dc, CRect const & rect, CRecordingOverview & overview)
 {
-    auto text = ::GetSysColor(COLOR_WINDOWTEXT);
-    auto background = ::GetSysColor(COLOR_WINDOW);
+    auto text = m_colours.windowText;
+    auto background = m_colours.window;
     GetDrawColors(row, column_overview, text, background);
-    overview.Draw(dc, rect, bar_colour, background);
+    auto const colour = m_colours.adapts ? control_colors::MarkOn(background, bar_colour, text) : bar_colour;
+    overview.Draw(dc, rect, colour, background);
 }
 
 CRecordingList::Notes CRecordingList::NotesOf(int line) const

@@ -1,4 +1,4 @@
-// The order of the list's lines, and copies of them for other programs.
+// The order of the list's lines.
 
 #include "RecordingList.h"
 
@@ -9,7 +9,6 @@
 #include <string>
 #include <utility>
 
-#include "clipboard/Clipboard.h"
 #include "logic/TextFormat.h"
 
 namespace
@@ -20,30 +19,6 @@ bool HasWords(int column)
 {
     return column == CRecordingList::column_name || column == CRecordingList::column_comment ||
            column == CRecordingList::column_status;
-}
-
-constexpr std::size_t text_room = 256; // characters
-
-/// Whether a column goes along into a copy.
-bool IsCopied(int column)
-{
-    return column != CRecordingList::column_check && column != CRecordingList::column_overview;
-}
-
-/// Whether a column's texts are numbers, written as the user's region has them.
-bool IsNumber(int column)
-{
-    switch (column)
-    {
-    case CRecordingList::column_duration:
-    case CRecordingList::column_channels:
-    case CRecordingList::column_rate:
-    case CRecordingList::column_peak:
-    case CRecordingList::column_rms:
-        return true;
-    default:
-        return column >= CRecordingList::first_measure;
-    }
 }
 
 } // namespace
@@ -97,7 +72,6 @@ void CRecordingList::SortLines(Column column, bool ascending)
         return;
     }
     EndEditing();
-    FinishRows();
     m_sortedColumn = column;
     m_ascending = ascending;
     // Asked for once a line, not once a comparison.
@@ -133,8 +107,14 @@ std::vector<int> CRecordingList::LinesWithRows() const
 
 /// Puts the rows, which are those of these lines, into the lines' order. A column's title gets the arrow; negative:
 /// none.
-void CRecordingList::ArrangeRows(std::vector<int> const & rows, int column)
+void CRecordingList::ArrangeRows(std::vector<int> rows, int column)
 {
+    if (!m_wanted.empty())
+    {
+        // Those that are there may not be the first ones any more.
+        MakeRowsAnew(ShownLines());
+        rows = LinesWithRows();
+    }
     auto const lines = LinesWithRows();
     std::vector<int> places(m_sources.size(), -1);
     for (std::size_t i = 0; i < lines.size(); ++i)
@@ -162,7 +142,6 @@ void CRecordingList::ArrangeRows(std::vector<int> const & rows, int column)
 void CRecordingList::SetOrder(workbench::ListOrder const & order)
 {
     EndEditing();
-    FinishRows();
     auto const rows = LinesWithRows();
     std::vector<bool> isNamed(m_sources.size());
     std::vector<int> lines;
@@ -292,129 +271,26 @@ CRecordingList::SortKey CRecordingList::KeyOf(int line, int column) const
 }
 
 /// The list's own work comes last, for it tells the parent.
+void CRecordingList::SortByUser(Column column)
+{
+    auto before = Order();
+    SortLines(column, column != m_sortedColumn || !m_ascending);
+    m_history.NoteOrder(std::move(before), Order());
+    Tell(changed_order);
+}
+
 BOOL CRecordingList::OnTitleClick(NMHDR * header, LRESULT * result)
 {
     auto const column = reinterpret_cast<NMLISTVIEW *>(header)->iSubItem;
     if (column >= 0 && column < column_count)
     {
-        auto before = Order();
-        SortLines(static_cast<Column>(column), column != m_sortedColumn || !m_ascending);
-        m_history.NoteOrder(std::move(before), Order());
-        Tell(changed_order);
+        SortByUser(static_cast<Column>(column));
     }
     if (column != column_check)
     {
         return OnColumnClick(header, result);
     }
-    // The header drives its cells here alone; to follow each of them it would count them all each time.
-    FinishRows();
-    Batch const batch(*this);
-    SetHeaderAutoCheckbox(true);
-    auto const handled = OnColumnClick(header, result);
-    SetHeaderAutoCheckbox(false);
-    return handled;
-}
-
-std::vector<int> CRecordingList::RowsOf(Lines lines) const
-{
-    std::vector<int> rows;
-    if (lines == Lines::selected)
-    {
-        for (auto row = GetSelectedItem(); row >= 0; row = GetSelectedItemAfter(row))
-        {
-            rows.push_back(row);
-        }
-    }
-    if (lines == Lines::all || (lines == Lines::selected && rows.empty()))
-    {
-        rows.resize(static_cast<std::size_t>(GetItemCount()));
-        std::iota(rows.begin(), rows.end(), 0);
-    }
-    for (int row = 0; lines == Lines::marked && row < GetItemCount(); ++row)
-    {
-        if (IsChecked(LineAt(row)))
-        {
-            rows.push_back(row);
-        }
-    }
-    return rows;
-}
-
-/// A cell's text without blanks at its ends. It lies in the buffer, which grows where it must.
-std::wstring_view CRecordingList::TextOf(int row, int column, std::vector<wchar_t> & buffer) const
-{
-    LVITEMW item{};
-    item.iSubItem = column;
-    std::size_t length = 0;
-    for (;;)
-    {
-        item.pszText = buffer.data();
-        item.cchTextMax = static_cast<int>(buffer.size());
-        // Asked of the list view itself: there are many of them, and nobody else knows an answer.
-        length = static_cast<std::size_t>(const_cast<CRecordingList *>(this)->DefWindowProc(
-            LVM_GETITEMTEXTW, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item)));
-        if (length + 1 < buffer.size())
-        {
-            break;
-        }
-        buffer.resize(2 * buffer.size());
-    }
-    std::wstring_view text(buffer.data(), length);
-    constexpr auto blanks = L" \t\r\n";
-    auto const first = text.find_first_not_of(blanks);
-    return first == text.npos ? std::wstring_view() : text.substr(first, text.find_last_not_of(blanks) - first + 1);
-}
-
-workbench::TextTable CRecordingList::Table(Lines lines, std::set<int> const & without)
-{
-    EndEditing();
-    FinishRows();
-    return TableOf(RowsOf(lines), without);
-}
-
-workbench::TextTable CRecordingList::TableOf(std::vector<int> const & rows, std::set<int> const & without)
-{
-    workbench::TextTable table;
-    std::vector<int> columns;
-    for (auto const column : ColumnOrder())
-    {
-        if (!IsCopied(column) || without.contains(column))
-        {
-            continue;
-        }
-        columns.push_back(column);
-        wchar_t title[64] = L"";
-        LVCOLUMNW native{};
-        native.mask = LVCF_TEXT | LVCF_FMT;
-        native.pszText = title;
-        native.cchTextMax = static_cast<int>(std::size(title));
-        GetColumn(column, &native);
-        table.columns.push_back({title, (native.fmt & LVCFMT_JUSTIFYMASK) == LVCFMT_RIGHT, IsNumber(column)});
-    }
-    auto const reference = PlaceOf(m_reference);
-    std::vector<wchar_t> buffer(text_room);
-    table.rows.reserve(rows.size());
-    for (auto const row : rows)
-    {
-        auto & texts = table.rows.emplace_back();
-        texts.reserve(columns.size());
-        for (auto const column : columns)
-        {
-            auto const marked = column == column_reference && row == reference;
-            texts.emplace_back(marked ? L"x" : TextOf(row, column, buffer));
-        }
-    }
-    return table;
-}
-
-bool CRecordingList::CopyToClipboard(bool all)
-{
-    FinishRows();
-    auto const rows = RowsOf(all ? Lines::all : Lines::selected);
-    if (rows.empty())
-    {
-        return false;
-    }
-    auto const table = TableOf(rows, m_hidden);
-    return Clipboard::HtmlToClipboard(workbench::HtmlTable(table).c_str(), workbench::PlainTable(table).c_str());
+    // The header knows of cells alone, and not all lines have theirs as they are to be.
+    CheckAll(GetHeaderCheckedState(column_check) != XHC_CHECKED);
+    return OnColumnClick(header, result);
 }

@@ -6,14 +6,15 @@
 namespace
 {
 
-// Pixels between the rectangle and the waveform.
+// Pixels between the rectangle and the waveform, at the usual resolution.
 constexpr int margin_x = 4;
 constexpr int margin_y = 2;
 
 } // namespace
 
-CRecordingOverview::CRecordingOverview(std::shared_ptr<workbench::RecordingAnalysis const> analysis)
-    : m_analysis(std::move(analysis))
+CRecordingOverview::CRecordingOverview(std::shared_ptr<workbench::RecordingAnalysis const> analysis, UINT dotsPerInch)
+    : m_analysis(std::move(analysis)),
+      m_dotsPerInch(static_cast<int>(dotsPerInch))
 {
 }
 
@@ -21,7 +22,8 @@ void CRecordingOverview::Draw(CDC & dc, CRect const & rect, COLORREF wave, COLOR
 {
     dc.FillSolidRect(rect, background);
     auto plot = rect;
-    plot.DeflateRect(margin_x, margin_y);
+    plot.DeflateRect(::MulDiv(margin_x, m_dotsPerInch, USER_DEFAULT_SCREEN_DPI),
+                     ::MulDiv(margin_y, m_dotsPerInch, USER_DEFAULT_SCREEN_DPI));
     if (plot.Width() <= 0 || plot.Height() <= 0)
     {
         return;

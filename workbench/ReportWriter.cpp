@@ -5,6 +5,7 @@
 
 #include "PictureCopy.h"
 #include "colours/Farbtabellen.h"
+#include "frame/CoreLibrary.h"
 #include "logic/Texts.h"
 
 using workbench::Text;
@@ -58,7 +59,9 @@ bool CReportWriter::Begin(std::vector<workbench::ReportedRecording> recordings, 
         return false;
     }
     auto draft = std::make_unique<workbench::FileDraft>(file);
-    if (!draft->Append(workbench::ReportBegin(Text(L"Report on Recordings"), Text(L"en"), recordings)))
+    workbench::ReportHead const head{Text(L"Report on Recordings"), Text(L"en"),
+                                     UserDateTimeText(CTime::GetCurrentTime(), dtf_date_time).GetString()};
+    if (!draft->Append(workbench::ReportBegin(head, recordings)))
     {
         return false;
     }

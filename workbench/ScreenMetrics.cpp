@@ -12,8 +12,20 @@ constexpr int alphabet_length = 52;
 
 } // namespace
 
+int ScreenMetrics::usualResolution = 0;
+
+int ScreenMetrics::UseResolution(int dotsPerInch)
+{
+    usualResolution = dotsPerInch;
+    return dotsPerInch;
+}
+
 ScreenMetrics::ScreenMetrics(int dotsPerInch)
 {
+    if (dotsPerInch <= 0)
+    {
+        dotsPerInch = usualResolution;
+    }
     CDC dc;
     auto const onScreen = dc.CreateCompatibleDC(nullptr) != FALSE;
     auto const screenResolution = onScreen ? dc.GetDeviceCaps(LOGPIXELSY) : USER_DEFAULT_SCREEN_DPI;

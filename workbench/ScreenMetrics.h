@@ -11,8 +11,15 @@ namespace workbench
 class ScreenMetrics
 {
 public:
-    /// Takes the system's message font as it is now, for the screen's resolution or for another one in dots an inch.
+    /// Takes the system's message font as it is now, for another resolution than the usual one in dots an inch, if
+    /// given.
     explicit ScreenMetrics(int dotsPerInch = 0);
+
+    /// What is usual for windows that open from now on; 0 for the screen's own. That resolution.
+    static int UseResolution(int dotsPerInch);
+
+    /// Dots an inch, which the toolkit's controls are told.
+    UINT Resolution() const { return static_cast<UINT>(m_dotsPerInch); }
 
     /// The message font, and the same in bold.
     CFont & Font() { return m_font; }
@@ -32,6 +39,8 @@ public:
     int LineHeight() const { return m_height; }
 
 private:
+    static int usualResolution;
+
     CFont m_font;
     CFont m_boldFont;
     int m_dotsPerInch = USER_DEFAULT_SCREEN_DPI;

@@ -49,7 +49,12 @@ constexpr wchar_t frame_section[] = L"Frames"; // an entry for each frame: its r
 constexpr wchar_t export_file[] = L"ExportFile";
 constexpr wchar_t export_hidden[] = L"ExportHidden";
 constexpr wchar_t export_lines[] = L"ExportLines";
+constexpr wchar_t contrast[] = L"Contrast";
 constexpr wchar_t settings_page[] = L"SettingsPage";
+constexpr wchar_t scale_entry[] = L"Scale"; // percent, 0: the system's
+constexpr wchar_t cell_cursor[] = L"CellCursor";
+constexpr wchar_t main_maximised[] = L"Maximised";
+constexpr wchar_t layout_resolution[] = L"LayoutResolution"; // dots an inch
 
 constexpr int most_pages = 100;   // more than the settings have
 constexpr int most_columns = 100; // more than any list of the workbench has
@@ -82,6 +87,11 @@ void ReadColour(wchar_t const * entry, COLORREF & colour)
 unsigned char Settings::InactiveAlpha() const
 {
     return static_cast<unsigned char>(::MulDiv(inactiveOpacity, 255, 100));
+}
+
+int Settings::DotsPerInch() const
+{
+    return ::MulDiv(scale, USER_DEFAULT_SCREEN_DPI, 100);
 }
 
 Settings ReadSettings()
@@ -134,7 +144,12 @@ Settings ReadSettings()
         ReadNumber(frame_share, Settings::least_frame_share, Settings::most_frame_share, settings.frameShare);
     settings.exportFile = ReadText(export_file);
     settings.exportHidden = NumbersOf(ReadText(export_hidden), most_columns);
+    settings.contrast =
+        static_cast<ControlColorSet>(ReadNumber(contrast, 0, static_cast<int>(ControlColorSet::follow_system), 0));
     settings.exportLines = ReadNumber(export_lines, 0, line_choices - 1, 0);
+    auto const scale = static_cast<int>(app.GetProfileInt(section, scale_entry, 0));
+    settings.scale = Settings::scales.contains(scale) ? scale : 0;
+    settings.cellCursor = app.GetProfileInt(section, cell_cursor, settings.cellCursor) != 0;
     return settings;
 }
 
@@ -160,7 +175,10 @@ bool StoreSettings(Settings const & settings)
            app.WriteProfileInt(section, known_columns, Settings::columns) && StoreFolderPane(settings) &&
            StoreFrameShare(settings.frameShare) && WriteText(export_file, settings.exportFile.wstring()) &&
            WriteText(export_hidden, NumberText(settings.exportHidden)) &&
-           app.WriteProfileInt(section, export_lines, settings.exportLines);
+           app.WriteProfileInt(section, export_lines, settings.exportLines) &&
+           app.WriteProfileInt(section, contrast, static_cast<int>(settings.contrast)) &&
+           app.WriteProfileInt(section, scale_entry, settings.scale) &&
+           app.WriteProfileInt(section, cell_cursor, settings.cellCursor);
 }
 
 bool StoreFolderPane(Settings const & settings)
@@ -188,6 +206,26 @@ bool StoreFrameRecordings(CString const & frame, std::vector<std::filesystem::pa
 bool StoreAmplification(int decibels)
 {
     return AfxGetApp()->WriteProfileInt(section, amplification_entry, decibels) != FALSE;
+}
+
+bool ReadMaximised()
+{
+    return ReadNumber(main_maximised, 0, 1, 0) != 0;
+}
+
+bool StoreMaximised(bool maximised)
+{
+    return AfxGetApp()->WriteProfileInt(section, main_maximised, maximised ? 1 : 0) != FALSE;
+}
+
+int ReadLayoutResolution(int dotsPerInch)
+{
+    return static_cast<int>(AfxGetApp()->GetProfileInt(section, layout_resolution, dotsPerInch));
+}
+
+bool StoreLayoutResolution(int dotsPerInch)
+{
+    return AfxGetApp()->WriteProfileInt(section, layout_resolution, dotsPerInch) != FALSE;
 }
 
 int ReadSettingsPage()

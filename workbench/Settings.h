@@ -8,6 +8,7 @@
 #include <set>
 #include <vector>
 
+#include "colours/ControlColors.h"
 #include "logic/Axis.h"
 #include "logic/Spectrogram.h"
 #include "logic/WaveformColours.h"
@@ -40,6 +41,13 @@ struct Settings
     WaveformColours waveform;
     int amplification = 0;                       ///< of the waveform, in decibels
     std::set<int> hiddenColumns = later_columns; ///< of the list, by their number
+    std::vector<int> columnOrder;                ///< of the list, which keeps it by itself; empty: as it is
+    ControlColorSet contrast = ControlColorSet::standard;
+    /// How large texts, lists and tables of the main window are, in percent; 0: as the system wants them. From the next
+    /// start on.
+    int scale = 0;
+    inline static std::set<int> const scales{0, 100, 125, 150, 200};
+    bool cellCursor = false;          ///< keys move from cell to cell of the list
     std::optional<bool> folderPane;   ///< whether the folders show; where there is room if the user has not said it
     int folderPaneWidth = 0;          ///< in average widths of a letter; 0: as it comes
     std::filesystem::path exportFile; ///< that the list was exported to last
@@ -55,6 +63,8 @@ struct Settings
     static constexpr int least_frame_share = 10;
     static constexpr int most_frame_share = 90;
 
+    /// The scale in dots an inch; 0 for that of the system.
+    int DotsPerInch() const;
     /// The alpha of a dialog that is not active: 0 to 255.
     unsigned char InactiveAlpha() const;
 };
@@ -77,6 +87,14 @@ bool StoreFrameRecordings(CString const & frame, std::vector<std::filesystem::pa
 
 /// Stores the amplification alone, which changes often. False if that failed.
 bool StoreAmplification(int decibels);
+
+/// Whether the main window was maximised; not at first. Storing gives false if that failed.
+bool ReadMaximised();
+bool StoreMaximised(bool maximised);
+
+/// The dots an inch that the panes' places were kept at; those given at first. Storing gives false if that failed.
+int ReadLayoutResolution(int dotsPerInch);
+bool StoreLayoutResolution(int dotsPerInch);
 
 /// The number of the settings' page that showed last; 0 at first. Storing gives false if that failed.
 int ReadSettingsPage();

@@ -3,10 +3,28 @@
 #include <uxtheme.h>
 
 #include "BrowseKey.h"
+#include "TemplateTexts.h"
 #include "dialogs/Dialog3d.h"
 #include "logic/ReadableColours.h"
 
-CSettingsGroup::CSettingsGroup(UINT templateId) : CPropertyPage3d(CDialog3d::NO_DLL, templateId, 0U) {}
+CSettingsGroup::CSettingsGroup(UINT templateId)
+    : CPropertyPage3d(CDialog3d::NO_DLL, templateId, 0U),
+      m_template(templateId)
+{
+}
+
+void CSettingsGroup::ShowTexts()
+{
+    if (m_hWnd != nullptr)
+    {
+        workbench::ShowTemplateTexts(*this, m_template);
+    }
+}
+
+CString CSettingsGroup::Caption() const
+{
+    return workbench::TemplateCaption(m_template);
+}
 
 bool CSettingsGroup::HasDarkGround()
 {

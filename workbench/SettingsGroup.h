@@ -21,6 +21,11 @@ public:
     /// the focus is where it can be put right.
     virtual bool Take(workbench::Settings & settings) = 0;
 
+    /// Shows what it says in the present language. What the user has chosen stays.
+    virtual void ShowTexts();
+    /// What its tab says in the present language.
+    CString Caption() const;
+
     /// Gives the settings as they are.
     std::function<workbench::Settings()> m_current;
     /// Called with the settings that hold what the user has changed here.
@@ -39,6 +44,7 @@ protected:
     void Changed();
 
 private:
+    UINT m_template;
     bool m_filled = false;  ///< the controls show the settings
     bool m_changed = false; ///< and the user has changed them since
 };

@@ -2,6 +2,7 @@
 
 #include <uxtheme.h>
 
+#include "WorkbenchDialog.h"
 #include "logic/Texts.h"
 
 using workbench::Settings;
@@ -54,6 +55,10 @@ bool CSettingsSheet::Open(CWnd & owner)
     {
         return false;
     }
+    if (opens)
+    {
+        BringOntoScreen(*this);
+    }
     SetActiveWindow();
     if (opens && m_onOpened)
     {
@@ -65,10 +70,7 @@ bool CSettingsSheet::Open(CWnd & owner)
 BOOL CSettingsSheet::OnInitDialog()
 {
     auto const result = CPropertySheet3d::OnInitDialog();
-    SetWindowText(Text(L"Settings"));
-    // The system has them in its own language.
-    SetDlgItemText(IDCANCEL, Text(L"Cancel"));
-    SetDlgItemText(ID_APPLY_NOW, Text(L"&Apply"));
+    ShowOwnTexts();
     // Visual styles are made for a light ground.
     if (CSettingsGroup::HasDarkGround())
     {
@@ -76,6 +78,33 @@ BOOL CSettingsSheet::OnInitDialog()
     }
     StretchTabs();
     return result;
+}
+
+void CSettingsSheet::ShowOwnTexts()
+{
+    SetWindowText(Text(L"Settings"));
+    // The system has them in its own language.
+    SetDlgItemText(IDCANCEL, Text(L"Cancel"));
+    SetDlgItemText(ID_APPLY_NOW, Text(L"&Apply"));
+}
+
+void CSettingsSheet::ShowTexts()
+{
+    if (!IsOpen())
+    {
+        return;
+    }
+    ShowOwnTexts();
+    auto index = 0;
+    for (auto * const group : Groups())
+    {
+        auto caption = group->Caption();
+        TCITEM item{};
+        item.mask = TCIF_TEXT;
+        item.pszText = caption.GetBuffer();
+        GetTabControl()->SetItem(index++, &item);
+        group->ShowTexts();
+    }
 }
 
 /// Lets the frame around the pages follow the sheet's height, too.
@@ -91,6 +120,21 @@ void CSettingsSheet::StretchTabs()
     tabs.right -= present.Width() - design.ptMinTrackSize.x; // the height has not grown yet
     D3dLayoutChild(GetTabControl(), CEdges::TOP_LEFT_BOTTOM_RIGHT(), &tabs);
     D3dLayoutComplete();
+}
+
+/// The button that applies is disabled then and loses the focus; without one, no key would be heard any more.
+LRESULT CSettingsSheet::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    auto const result = CPropertySheet3d::WindowProc(message, wParam, lParam);
+    if (message == WM_COMMAND && LOWORD(wParam) == ID_APPLY_NOW && m_hWnd != nullptr)
+    {
+        HWND const focus = ::GetFocus();
+        if (::GetActiveWindow() == m_hWnd && (focus == nullptr || !::IsWindowEnabled(focus)))
+        {
+            SendMessage(WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(::GetDlgItem(m_hWnd, IDOK)), TRUE);
+        }
+    }
+    return result;
 }
 
 void CSettingsSheet::OnActivatePage(CPropertyPage * page)

@@ -30,10 +30,14 @@ public:
     /// Called with true when the sheet has opened and with false when it is about to end.
     std::function<void(bool)> m_onOpened;
 
+    /// Shows what the open sheet says in the present language. What the user has entered stays.
+    void ShowTexts();
+
     BOOL OnInitDialog() override;
     void OnActivatePage(CPropertyPage * page) override;
 
 protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     DECLARE_MESSAGE_MAP()
 
 private:
@@ -41,6 +45,7 @@ private:
 
     std::array<CSettingsGroup *, 5> Groups();
     void StretchTabs();
+    void ShowOwnTexts();
 
     CStartGroup m_start;
     CWaveformGroup m_waveform;

@@ -1,6 +1,7 @@
 #include "SpectrogramGroup.h"
 
 #include <algorithm>
+#include <array>
 #include <iterator>
 #include <string>
 
@@ -49,6 +50,30 @@ void CSpectrogramGroup::DoDataExchange(CDataExchange * exchange)
 BOOL CSpectrogramGroup::OnInitDialog()
 {
     CSettingsGroup::OnInitDialog();
+    FillBoxes();
+    return TRUE;
+}
+
+void CSpectrogramGroup::ShowTexts()
+{
+    CSettingsGroup::ShowTexts();
+    if (m_hWnd == nullptr)
+    {
+        return;
+    }
+    std::array const boxes{&m_window, &m_overlap, &m_scale};
+    std::array<int, boxes.size()> chosen{};
+    std::ranges::transform(boxes, chosen.begin(), [](auto const * box) { return box->GetCurSel(); });
+    std::ranges::for_each(boxes, [](auto * box) { box->ResetContent(); });
+    FillBoxes();
+    for (std::size_t i = 0; i < boxes.size(); ++i)
+    {
+        boxes[i]->SetCurSel(chosen[i]);
+    }
+}
+
+void CSpectrogramGroup::FillBoxes()
+{
     for (auto const window : windows)
     {
         m_window.AddString(window == 0 ? Text(L"By the sample rate") : std::to_wstring(window).c_str());
@@ -59,7 +84,6 @@ BOOL CSpectrogramGroup::OnInitDialog()
     }
     m_scale.AddString(Text(L"Linear"));
     m_scale.AddString(Text(L"Logarithmic"));
-    return TRUE;
 }
 
 void CSpectrogramGroup::Show(workbench::Settings const & settings)

@@ -11,6 +11,7 @@ public:
     void Show(workbench::Settings const & settings) override;
     bool Take(workbench::Settings & settings) override;
 
+    void ShowTexts() override;
     BOOL OnInitDialog() override;
 
 protected:
@@ -19,6 +20,8 @@ protected:
 
 private:
     afx_msg void OnChosen();
+
+    void FillBoxes();
 
     CComboBox m_window;
     CComboBox m_overlap;

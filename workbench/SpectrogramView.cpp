@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "PlotKeys.h"
 #include "PlotParts.h"
 #include "logic/Axis.h"
 #include "logic/NumberSigns.h"
@@ -33,7 +34,6 @@ constexpr int longest_side = 4096;
 /// Levels with a label in the legend are so many entries apart.
 constexpr int entries_per_label = 8;
 
-constexpr double zoom_step = 1.5;
 constexpr double scroll_step = 0.1; // of what is shown
 
 std::wstring LegendLabel(int entry)
@@ -74,6 +74,8 @@ BEGIN_MESSAGE_MAP(CSpectrogramView, CBufferedView)
     ON_WM_MOUSEMOVE()
     ON_WM_LBUTTONUP()
     ON_WM_MOUSEWHEEL()
+    ON_WM_GETDLGCODE()
+    ON_WM_KEYDOWN()
 END_MESSAGE_MAP()
 
 CSpectrogramView::CSpectrogramView()
@@ -304,7 +306,7 @@ void CSpectrogramView::PlaceProgress()
 
 void CSpectrogramView::Draw(CDC & dc, CRect const & rect)
 {
-    m_plotColours = m_printing ? workbench::PaperPlotColours() : workbench::ScreenPlotColours();
+    m_plotColours = m_printing ? workbench::PaperPlotColours() : workbench::ScreenPlotColours(*this);
     dc.FillSolidRect(rect, m_plotColours.ground);
     if (m_metrics == nullptr || rect.IsRectEmpty())
     {
@@ -478,8 +480,14 @@ void CSpectrogramView::DrawMarks(CDC & dc, CRect const & plot)
     if (m_marks.HasSelection())
     {
         vertical(*m_marks.other);
+        if (m_marks.SelectionEnd() != m_marks.cursor)
+        {
+            vertical(m_marks.SelectionEnd());
+        }
     }
-    if (m_marks.HasSelection() || m_marks.cursor > 0)
+    // Drawn twice, a line would be gone.
+    auto const isDrawn = m_marks.HasSelection() && *m_marks.other == m_marks.cursor;
+    if (!isDrawn && (m_marks.HasSelection() || m_marks.cursor > 0))
     {
         vertical(m_marks.cursor);
     }
@@ -518,14 +526,32 @@ void CSpectrogramView::PointAt(CPoint point, bool selects)
     auto const frame = FrameAt(point.x);
     if (!selects)
     {
-        marks.other.reset();
+        marks.Unselect();
+        marks.cursor = frame;
     }
     else if (frame != marks.cursor)
     {
-        marks.other = marks.other.value_or(marks.cursor);
+        marks.SelectTo(frame);
     }
-    marks.cursor = frame;
     ChangeMarks(marks);
+}
+
+UINT CSpectrogramView::OnGetDlgCode()
+{
+    return workbench::PlotDialogCode(m_marks, reinterpret_cast<MSG const *>(GetCurrentMessage()->lParam));
+}
+
+void CSpectrogramView::OnKeyDown(UINT key, UINT repeat, UINT flags)
+{
+    auto marks = m_marks;
+    if (m_result && !m_result->problem && workbench::MoveByKey(marks, key, m_plot.Width() - 2))
+    {
+        ChangeMarks(marks);
+    }
+    else
+    {
+        CBufferedView::OnKeyDown(key, repeat, flags);
+    }
 }
 
 void CSpectrogramView::OnLButtonDown(UINT flags, CPoint point)
@@ -573,7 +599,7 @@ BOOL CSpectrogramView::OnMouseWheel(UINT flags, short delta, CPoint point)
     {
         ScreenToClient(&point);
         auto const part = static_cast<double>(point.x - m_plot.left - 1) / (m_plot.Width() - 2);
-        marks.window.Zoom(std::pow(zoom_step, -notches), part);
+        marks.window.Zoom(std::pow(workbench::plot_zoom_step, -notches), part);
     }
     ChangeMarks(marks);
     return TRUE;

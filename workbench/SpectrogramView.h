@@ -88,6 +88,8 @@ private:
     afx_msg void OnMouseMove(UINT flags, CPoint point);
     afx_msg void OnLButtonUp(UINT flags, CPoint point);
     afx_msg BOOL OnMouseWheel(UINT flags, short delta, CPoint point);
+    afx_msg UINT OnGetDlgCode();
+    afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
 
     void EndJob();
     void StartJob(std::optional<workbench::FrameRange> const & stretch);

@@ -9,7 +9,8 @@
 
 namespace
 {
-constexpr int padding = 5; // pixels ahead of the first star
+// Pixels at the usual resolution.
+constexpr int padding = 5; // ahead of the first star
 constexpr int gap = 1;     // and between two
 
 int StarSize(CRect const & cell)
@@ -37,16 +38,11 @@ void DrawStar(CDC & dc, CRect const & place)
 }
 } // namespace
 
-std::shared_ptr<CStarRating> CStarRating::Shared()
-{
-    static auto const shared = std::make_shared<CStarRating>();
-    return shared;
-}
-
-CRect CStarRating::StarRect(CRect const & cell, int star)
+CRect CStarRating::StarRect(CRect const & cell, int star) const
 {
     auto const size = StarSize(cell);
-    CPoint const corner(cell.left + padding + star * (size + gap), cell.top + (cell.Height() - size) / 2);
+    CPoint const corner(cell.left + Scaled(padding) + star * (size + Scaled(gap)),
+                        cell.top + (cell.Height() - size) / 2);
     return CRect(corner, CSize(size, size));
 }
 
@@ -55,7 +51,8 @@ void CStarRating::Paint(XLISTCTRLDATA const & cell, CDC & dc, CRect const & rect
     auto const saved = dc.SaveDC();
     dc.FillSolidRect(rect, background);
     dc.IntersectClipRect(rect);
-    CPen pen(PS_SOLID, 1, text);
+    // Stars with lines that are rounded up look full.
+    CPen pen(PS_SOLID, std::max(m_dotsPerInch / USER_DEFAULT_SCREEN_DPI, 1), text);
     CBrush full(text);
     CBrush empty(background);
     dc.SelectObject(&pen);

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <memory>
-
 #include "list/XListCtrl.h"
 
 /// A rating as stars, of which one is pressed to rate. The cell is a combo cell of the ratings below it: its present id
@@ -11,14 +9,14 @@ class CStarRating : public CXListCellKind
 public:
     static constexpr int star_count = 3;
 
-    /// The kind that all cells share.
-    static std::shared_ptr<CStarRating> Shared();
+    /// dotsPerInch: which its lengths follow.
+    explicit CStarRating(UINT dotsPerInch = USER_DEFAULT_SCREEN_DPI) : m_dotsPerInch(static_cast<int>(dotsPerInch)) {}
 
     /// Ratings are in the order of the list of words: none, then from the best to the worst.
     static int StarsOf(int rating) { return rating > 0 && rating <= star_count ? star_count + 1 - rating : 0; }
     static int RatingOf(int stars) { return stars > 0 && stars <= star_count ? star_count + 1 - stars : 0; }
     /// Where a star of a cell stands, counted from 0 at the left.
-    static CRect StarRect(CRect const & cell, int star);
+    CRect StarRect(CRect const & cell, int star) const;
 
     void Paint(XLISTCTRLDATA const & cell, CDC & dc, CRect const & rect, COLORREF text, COLORREF background) override;
     /// The star that stands for the present rating takes it away.
@@ -30,4 +28,7 @@ public:
 
 private:
     static Change Rate(XLISTCTRLDATA & cell, int stars);
+    int Scaled(int pixels) const { return ::MulDiv(pixels, m_dotsPerInch, USER_DEFAULT_SCREEN_DPI); }
+
+    int m_dotsPerInch;
 };

@@ -40,6 +40,15 @@ BOOL CStartGroup::OnInitDialog()
     return TRUE;
 }
 
+void CStartGroup::ShowTexts()
+{
+    CSettingsGroup::ShowTexts();
+    if (m_hWnd != nullptr)
+    {
+        m_newFolder.PrepareFolderBrowser(Text(L"Choose a folder that is opened at the start:"));
+    }
+}
+
 void CStartGroup::Show(workbench::Settings const & settings)
 {
     std::list<CString> folders;

@@ -13,6 +13,7 @@ public:
     void Show(workbench::Settings const & settings) override;
     bool Take(workbench::Settings & settings) override;
 
+    void ShowTexts() override;
     BOOL OnInitDialog() override;
 
 protected:

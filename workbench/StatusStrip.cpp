@@ -1,7 +1,5 @@
 #include "StatusStrip.h"
 
-#include <afxcmn.h>
-
 #include <algorithm>
 
 #include "logic/Texts.h"
@@ -20,6 +18,8 @@ constexpr int button_width = 50;
 constexpr int part_gap = 6;
 
 constexpr int bar_range = 1000;
+
+constexpr UINT_PTR text_tool = 1;
 
 } // namespace
 
@@ -47,14 +47,21 @@ bool CStatusStrip::CreateStrip(CWnd & parent, UINT id, workbench::ScreenMetrics 
         m_text.Create(L"", WS_CHILD | WS_VISIBLE | SS_LEFT | SS_NOPREFIX | SS_ENDELLIPSIS | SS_CENTERIMAGE, CRect(),
                       this, IDC_STATUS_TEXT) &&
         m_bar.Create(PROGRESS_CLASS, L"", WS_CHILD, CRect(), this, IDC_READING_PROGRESS) &&
-        m_cancel.Create(Text(L"Cancel"), WS_CHILD | WS_TABSTOP, CRect(), this, IDC_CANCEL_READING);
+        m_cancel.Create(Text(L"Cancel"), WS_CHILD | WS_TABSTOP, CRect(), this, IDC_CANCEL_READING) &&
+        m_tips.Create(this) && m_tips.AddTool(this, L"", CRect(), text_tool);
     if (created)
     {
         m_text.SetFont(&metrics.Font());
         m_cancel.SetFont(&metrics.Font());
         m_bar.SendMessage(PBM_SETRANGE32, 0, bar_range);
+        m_tips.Activate(TRUE);
     }
     return created;
+}
+
+void CStatusStrip::ShowTexts()
+{
+    m_cancel.SetWindowText(Text(L"Cancel"));
 }
 
 void CStatusStrip::ShowText(std::wstring const & text)
@@ -64,7 +71,31 @@ void CStatusStrip::ShowText(std::wstring const & text)
     {
         m_shown = text;
         m_text.SetWindowText(text.c_str());
+        ShowTip();
     }
+}
+
+/// The tip of a text that is cut, as wide as the strip at most.
+void CStatusStrip::ShowTip()
+{
+    CRect place;
+    m_text.GetWindowRect(&place);
+    ScreenToClient(&place);
+    CClientDC dc(&m_text);
+    workbench::SelectScope const font(dc, m_metrics->Font());
+    auto const isCut = dc.GetTextExtent(m_shown.c_str()).cx > place.Width();
+    m_tips.SetMaxTipWidth(std::max(place.Width(), 1));
+    m_tips.SetToolRect(this, text_tool, place);
+    m_tips.UpdateTipText(isCut ? m_shown.c_str() : L"", this, text_tool);
+}
+
+BOOL CStatusStrip::PreTranslateMessage(MSG * message)
+{
+    if (m_tips.GetSafeHwnd() != nullptr)
+    {
+        m_tips.RelayEvent(message);
+    }
+    return CWnd::PreTranslateMessage(message);
 }
 
 void CStatusStrip::ShowProgress(std::size_t done, std::size_t total)
@@ -93,7 +124,7 @@ void CStatusStrip::ShowProgress(std::size_t done, std::size_t total)
 
 void CStatusStrip::Arrange()
 {
-    if (m_metrics == nullptr || m_cancel.GetSafeHwnd() == nullptr)
+    if (m_metrics == nullptr || m_tips.GetSafeHwnd() == nullptr)
     {
         return;
     }
@@ -107,6 +138,7 @@ void CStatusStrip::Arrange()
     m_bar.MoveWindow(bar, (client.bottom - barHeight) / 2, button - gap - bar, barHeight);
     auto const textEnd = static_cast<int>(ShowsProgress() ? bar - gap : client.right);
     m_text.MoveWindow(0, 0, std::max(textEnd, 0), client.bottom);
+    ShowTip();
     RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 

@@ -31,11 +31,18 @@ bool PumpUntil(std::function<bool()> const & holds, ULONGLONG limit)
         }
         ::MsgWaitForMultipleObjects(0, nullptr, FALSE, poll_interval, QS_ALLINPUT);
         MSG message;
-        while (::PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE))
+        // Taken at once: one that was only seen may be gone when the program's own loop asks, which would wait.
+        while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE))
         {
-            if (message.message == WM_QUIT || !AfxGetApp()->PumpMessage())
+            if (message.message == WM_QUIT)
             {
+                ::PostQuitMessage(static_cast<int>(message.wParam));
                 return false;
+            }
+            if (!AfxGetApp()->PreTranslateMessage(&message))
+            {
+                ::TranslateMessage(&message);
+                ::DispatchMessageW(&message);
             }
         }
     }

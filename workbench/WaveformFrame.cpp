@@ -204,6 +204,28 @@ CString CWaveformFrame::Title() const
     return (m_cells == 1 ? names : Text(L"Comparison") + (L": " + names)).c_str();
 }
 
+void CWaveformFrame::ShowTexts()
+{
+    if (m_frame == nullptr)
+    {
+        return;
+    }
+    m_frame->SetTitle(Title());
+    m_frame->SetWindowText(Title());
+    for (std::size_t cell = 0; cell < m_cells; ++cell)
+    {
+        auto * const view = Cell(cell);
+        if (view != nullptr)
+        {
+            view->ShowTexts();
+        }
+        if (cell >= m_recordings.size() || !m_recordings[cell].analysis || m_recordings[cell].analysis->problem)
+        {
+            ShowCell(cell);
+        }
+    }
+}
+
 CWaveformPanelView * CWaveformFrame::Cell(std::size_t cell) const
 {
     if (m_frame == nullptr)

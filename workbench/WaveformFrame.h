@@ -45,6 +45,8 @@ public:
     /// Null unless it is open.
     CStandaloneFrameWnd * Frame() const { return m_frame; }
     CString Title() const;
+    /// Shows what it says in the present language.
+    void ShowTexts();
     std::vector<Shown> const & Recordings() const { return m_recordings; }
     /// Shows what has been read of a recording.
     void Show(std::size_t cell, std::shared_ptr<workbench::RecordingAnalysis const> analysis);

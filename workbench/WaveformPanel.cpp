@@ -21,6 +21,7 @@ constexpr int view_margin = 6; // of the plot in the view
 constexpr int part_gap = 3;
 constexpr int slider_width = 18;
 constexpr int least_slider_height = 30;
+constexpr int least_plot_width = 40; // beside the slider
 
 } // namespace
 
@@ -35,12 +36,13 @@ END_MESSAGE_MAP()
 void CWaveformPanel::CFitButton::DrawItem(LPDRAWITEMSTRUCT item)
 {
     CRect const place(item->rcItem);
-    ::FillRect(item->hDC, &place, ::GetSysColorBrush(COLOR_WINDOW));
+    auto const colours = workbench::ScreenPlotColours(*this);
+    CDC::FromHandle(item->hDC)->FillSolidRect(place, colours.ground);
     CFreeIconButton::DrawItem(item);
     if ((item->itemState & ODS_FOCUS) != 0)
     {
-        ::SetTextColor(item->hDC, ::GetSysColor(COLOR_WINDOWTEXT));
-        ::SetBkColor(item->hDC, ::GetSysColor(COLOR_WINDOW));
+        ::SetTextColor(item->hDC, colours.text);
+        ::SetBkColor(item->hDC, colours.ground);
         ::DrawFocusRect(item->hDC, &place);
     }
 }
@@ -61,14 +63,15 @@ bool CWaveformPanel::CreatePanel(CWnd & parent, UINT id, workbench::ScreenMetric
     }
     m_view.ModifyStyle(WS_BORDER, 0, SWP_FRAMECHANGED);
     m_value.SetFont(&metrics.Font());
-    m_slider.SetWindowText(Text(L"Amplification"));
+    m_slider.SetDpi(metrics.Resolution());
     m_slider.SetMainColor(level_colour);
     // The position counts from the top, where the amplification is greatest.
     m_slider.SetRange(0, steps);
     m_slider.SetLineSize(1);
     m_slider.SetPageSize(2);
-    m_tips.AddTool(&m_slider, Text(L"Amplification of the waveform"));
-    m_tips.AddTool(&m_fit, Text(L"Fit waveform to its peak"));
+    m_tips.AddTool(&m_slider, L"");
+    m_tips.AddTool(&m_fit, L"");
+    ShowTexts();
     m_tips.Activate(TRUE);
     m_view.m_onPlaced = [this] { Arrange(); };
     m_view.m_onAmplified = [this] {
@@ -80,6 +83,14 @@ bool CWaveformPanel::CreatePanel(CWnd & parent, UINT id, workbench::ScreenMetric
     };
     ShowAmplification();
     return true;
+}
+
+void CWaveformPanel::ShowTexts()
+{
+    m_slider.SetWindowText(Text(L"Amplification"));
+    m_fit.SetWindowText(Text(L"Fit waveform to its peak"));
+    m_tips.UpdateTipText(Text(L"Amplification of the waveform"), &m_slider);
+    m_tips.UpdateTipText(Text(L"Fit waveform to its peak"), &m_fit);
 }
 
 BOOL CWaveformPanel::PreTranslateMessage(MSG * message)
@@ -98,16 +109,15 @@ void CWaveformPanel::OnSize(UINT type, int width, int height)
     {
         return;
     }
-    auto margin = 0;
-    {
-        CClientDC dc(this);
-        workbench::SelectScope const font(dc, m_metrics->Font());
-        margin = workbench::PlotMargins(dc, *m_metrics).right;
-    }
-    // The slider stands in what the view would leave free right of its plot.
-    auto const room = margin + m_metrics->X(view_margin - part_gap);
-    m_view.SetRightRoom(room);
-    m_view.MoveWindow(0, 0, std::max(width - room, 0), height);
+    CClientDC dc(this);
+    workbench::SelectScope const font(dc, m_metrics->Font());
+    workbench::PlotMargins const margins(dc, *m_metrics);
+    // The slider stands in what the view would leave free right of its plot; where that leaves too little of the plot,
+    // the plot has all.
+    auto const room = margins.right + m_metrics->X(view_margin - part_gap);
+    m_hasSlider = width - room - margins.left - m_metrics->X(2 * view_margin) >= m_metrics->X(least_plot_width);
+    m_view.SetRightRoom(m_hasSlider ? room : margins.right);
+    m_view.MoveWindow(0, 0, m_hasSlider ? width - room : width, height);
     Arrange();
 }
 
@@ -133,7 +143,7 @@ void CWaveformPanel::Arrange()
     // As large as the system draws icons.
     CSize const icon(::GetSystemMetrics(SM_CXICON), ::GetSystemMetrics(SM_CYICON));
     m_fit.MoveWindow(centre - icon.cx / 2, std::max<int>((plot.top - icon.cy) / 2, 0), icon.cx, icon.cy);
-    auto const shows = m_view.ShowsRecording();
+    auto const shows = m_hasSlider && m_view.ShowsRecording();
     auto const fits = shows && plot.Height() >= m_metrics->Y(least_slider_height);
     auto const show = [this](CWnd & window, bool visible) {
         if (!visible && GetFocus() == &window)
@@ -160,16 +170,17 @@ BOOL CWaveformPanel::OnEraseBkgnd(CDC * dc)
 {
     CRect client;
     GetClientRect(&client);
-    dc->FillSolidRect(client, ::GetSysColor(COLOR_WINDOW));
+    dc->FillSolidRect(client, workbench::ScreenPlotColours(*this).ground);
     return TRUE;
 }
 
 HBRUSH CWaveformPanel::OnCtlColor(CDC * dc, CWnd *, UINT)
 {
-    auto const colours = workbench::ScreenPlotColours();
+    auto const colours = workbench::ScreenPlotColours(*this);
     dc->SetTextColor(colours.label);
     dc->SetBkColor(colours.ground);
-    return ::GetSysColorBrush(COLOR_WINDOW);
+    ::SetDCBrushColor(dc->m_hDC, colours.ground);
+    return static_cast<HBRUSH>(::GetStockObject(DC_BRUSH));
 }
 
 void CWaveformPanel::OnVScroll(UINT code, UINT position, CScrollBar * bar)

@@ -18,6 +18,8 @@ public:
     bool CreatePanel(CWnd & parent, UINT id, workbench::ScreenMetrics & metrics);
 
     CWaveformView & View() { return m_view; }
+    /// Shows what it says in the present language.
+    void ShowTexts();
 
     /// Called when the user has changed the amplification.
     std::function<void(int decibels)> m_onAmplified;
@@ -50,4 +52,5 @@ private:
     CLevelSliderCtrl m_slider;
     CStatic m_value;
     CToolTipCtrl m_tips;
+    bool m_hasSlider = true; ///< there is room for it
 };

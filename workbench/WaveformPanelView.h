@@ -11,6 +11,7 @@ class CWaveformPanelView : public CHostView
 
 public:
     CWaveformView & Waveform() { return m_panel.View(); }
+    void ShowTexts() { m_panel.ShowTexts(); }
 
 protected:
     DECLARE_MESSAGE_MAP()

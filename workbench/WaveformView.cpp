@@ -5,6 +5,7 @@
 #include <iterator>
 #include <limits>
 
+#include "PlotKeys.h"
 #include "PlotParts.h"
 #include "colours/Farbtabellen.h"
 #include "logic/Amplification.h"
@@ -41,9 +42,8 @@ constexpr int strip_gap = 3;
 
 constexpr UINT message_refined = WM_APP + 1;
 
-constexpr double zoom_step = 1.5;
-constexpr double scroll_step = 0.1; // of what is shown
-constexpr double page_step = 0.9;
+constexpr double scroll_step = 0.1;         // of what is shown
+constexpr double reveal_margin = 0.1;       // likewise
 constexpr double selection_strength = 0.35; // of the system's colour of what is selected
 
 } // namespace
@@ -127,7 +127,7 @@ LRESULT CWaveformView::OnRefined(WPARAM, LPARAM)
 
 void CWaveformView::Draw(CDC & dc, CRect const & client)
 {
-    m_plotColours = m_printing ? workbench::PaperPlotColours() : workbench::ScreenPlotColours();
+    m_plotColours = m_printing ? workbench::PaperPlotColours() : workbench::ScreenPlotColours(*this);
     dc.FillSolidRect(client, m_plotColours.ground);
     if (m_metrics == nullptr || client.IsRectEmpty())
     {
@@ -288,6 +288,7 @@ void CWaveformView::DrawCursor(CDC & dc, CRect const & plot)
     if (m_marks.HasSelection())
     {
         draw(*m_marks.other, 1);
+        draw(m_marks.SelectionEnd(), 1);
     }
     draw(m_marks.cursor, GetFocus() == this ? 2 : 1);
     if (m_playing)
@@ -375,8 +376,20 @@ void CWaveformView::MoveCursor(std::uint64_t frame)
     }
     auto marks = m_marks;
     marks.cursor = std::min(frame, m_analysis->info.frames - 1);
-    marks.other.reset();
+    marks.Unselect();
     marks.window.Reveal(marks.cursor);
+    ChangeMarks(marks);
+}
+
+void CWaveformView::MoveCursorAlone(std::uint64_t frame)
+{
+    if (!ShowsRecording())
+    {
+        return;
+    }
+    auto marks = m_marks;
+    marks.MoveCursorAlone(std::min(frame, m_analysis->info.frames - 1));
+    marks.window.Reveal(marks.cursor, reveal_margin);
     ChangeMarks(marks);
 }
 
@@ -492,8 +505,7 @@ void CWaveformView::OnLButtonDown(UINT flags, CPoint point)
         return;
     }
     auto marks = m_marks;
-    marks.other = marks.other.value_or(marks.cursor);
-    marks.cursor = FrameAt(point.x);
+    marks.SelectTo(FrameAt(point.x));
     ChangeMarks(marks);
 }
 
@@ -540,8 +552,7 @@ void CWaveformView::OnMouseMove(UINT flags, CPoint point)
         auto const frame = marks.window.FrameAt(point.x - m_plot.left - 1, m_plot.Width() - 2);
         if (frame != marks.cursor)
         {
-            marks.other = marks.other.value_or(marks.cursor);
-            marks.cursor = frame;
+            marks.SelectTo(frame);
         }
         ChangeMarks(marks);
     }
@@ -559,57 +570,7 @@ void CWaveformView::OnLButtonUp(UINT flags, CPoint point)
 
 UINT CWaveformView::OnGetDlgCode()
 {
-    return DLGC_WANTARROWS;
-}
-
-/// Keys that zoom and scroll.
-bool CWaveformView::ScrollKey(UINT key)
-{
-    auto marks = m_marks;
-    switch (key)
-    {
-    case VK_ADD:
-    case VK_OEM_PLUS:
-        ZoomAt(1.0 / zoom_step, m_marks.cursor);
-        return true;
-    case VK_SUBTRACT:
-    case VK_OEM_MINUS:
-        ZoomAt(zoom_step, m_marks.cursor);
-        return true;
-    case VK_MULTIPLY:
-        marks.window.ShowAll();
-        break;
-    case VK_RETURN:
-        if (!marks.HasSelection())
-        {
-            return false;
-        }
-        marks.window.Show(marks.Selection());
-        break;
-    case VK_ESCAPE:
-        if (!marks.HasSelection())
-        {
-            return false;
-        }
-        marks.other.reset();
-        break;
-    case VK_SPACE:
-        if (auto const onPlay = m_onPlay)
-        {
-            onPlay();
-        }
-        return true;
-    case VK_PRIOR:
-        marks.window.Scroll(-page_step);
-        break;
-    case VK_NEXT:
-        marks.window.Scroll(page_step);
-        break;
-    default:
-        return false;
-    }
-    ChangeMarks(marks);
-    return true;
+    return workbench::PlotDialogCode(m_marks, reinterpret_cast<MSG const *>(GetCurrentMessage()->lParam));
 }
 
 void CWaveformView::OnKeyDown(UINT key, UINT repeat, UINT flags)
@@ -619,45 +580,32 @@ void CWaveformView::OnKeyDown(UINT key, UINT repeat, UINT flags)
         CBufferedView::OnKeyDown(key, repeat, flags);
         return;
     }
-    auto const isDown = [](int other) { return ::GetKeyState(other) < 0; };
-    // A key moves by what one pixel shows, at least by one frame; with Ctrl by a tenth of the plot.
-    auto const last = m_analysis->info.frames - 1;
-    auto const shown = m_marks.window.Shown().Length();
-    auto const pixel = std::max<std::uint64_t>(shown / static_cast<unsigned>(m_plot.Width() - 2), 1);
-    auto const step = isDown(VK_CONTROL) ? std::max<std::uint64_t>(shown / 10, 1) : pixel;
-    auto cursor = m_marks.cursor;
     switch (key)
     {
-    case VK_LEFT:
-        cursor -= std::min(cursor, step);
-        break;
-    case VK_RIGHT:
-        cursor += std::min(last - cursor, step);
-        break;
-    case VK_HOME:
-        cursor = 0;
-        break;
-    case VK_END:
-        cursor = last;
-        break;
     case VK_UP:
         SetAmplification(std::min(m_amplification + amplification_step, most_amplification));
         return;
     case VK_DOWN:
         SetAmplification(m_amplification - amplification_step);
         return;
-    default:
-        if (!ScrollKey(key))
+    case VK_SPACE:
+        if (auto const onPlay = m_onPlay)
         {
-            CBufferedView::OnKeyDown(key, repeat, flags);
+            onPlay();
         }
         return;
+    default:
+        break;
     }
     auto marks = m_marks;
-    marks.other = isDown(VK_SHIFT) ? std::optional(marks.other.value_or(marks.cursor)) : std::nullopt;
-    marks.cursor = cursor;
-    marks.window.Reveal(cursor);
-    ChangeMarks(marks);
+    if (workbench::MoveByKey(marks, key, m_plot.Width() - 2))
+    {
+        ChangeMarks(marks);
+    }
+    else
+    {
+        CBufferedView::OnKeyDown(key, repeat, flags);
+    }
 }
 
 /// The wheel zooms at the pointer; with Shift it scrolls, with Ctrl it amplifies.
@@ -682,7 +630,7 @@ BOOL CWaveformView::OnMouseWheel(UINT flags, short delta, CPoint point)
     else
     {
         ScreenToClient(&point);
-        ZoomAt(std::pow(zoom_step, -notches), FrameAt(point.x));
+        ZoomAt(std::pow(workbench::plot_zoom_step, -notches), FrameAt(point.x));
     }
     return TRUE;
 }

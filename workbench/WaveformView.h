@@ -37,6 +37,8 @@ public:
 
     /// Moves the cursor to a frame; behind the end, to the last one. Nothing without a recording.
     void MoveCursor(std::uint64_t frame);
+    /// Likewise, but what is selected stays, and a frame out of sight comes into it with something around it.
+    void MoveCursorAlone(std::uint64_t frame);
     /// The frame at which the cursor stands; none without a recording.
     std::optional<std::uint64_t> Cursor() const;
 
@@ -114,7 +116,6 @@ private:
     void ChangeMarks(workbench::TimeMarks const & marks);
     void ResetMarks();
     void ZoomAt(double factor, std::uint64_t frame);
-    bool ScrollKey(UINT key);
     int StripHeight() const;
     void Placed();
     CRect PlotIn(CDC & dc, CRect const & client) const;

@@ -84,7 +84,7 @@ BOOL CWorkbenchApp::InitInstance()
         m_exitCode = 1;
         return FALSE;
     }
-    m_mainWindow->ShowWindow(m_nCmdShow);
+    m_mainWindow->ShowAsBefore(m_nCmdShow);
     m_mainWindow->UpdateWindow();
     m_mainWindow->ShowTargets(std::move(targets));
     if (m_commandLine.mode != workbench::RunMode::interactive)

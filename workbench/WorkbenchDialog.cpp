@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "TemplateTexts.h"
+
 BEGIN_MESSAGE_MAP(CWorkbenchDialog, CDialog3d)
     ON_WM_DESTROY()
 END_MESSAGE_MAP()
@@ -14,9 +16,6 @@ CWorkbenchDialog::CWorkbenchDialog(UINT templateId, wchar_t const * name, CWnd &
     SetGenuineTitle(name);
 }
 
-namespace
-{
-/// A place that was kept when the screen was larger may lie beyond this one.
 void BringOntoScreen(CWnd & window)
 {
     CRect place;
@@ -35,7 +34,6 @@ void BringOntoScreen(CWnd & window)
         window.SetWindowPos(nullptr, corner.x, corner.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
     }
 }
-} // namespace
 
 /// Opens with its owner, which the base class gives to modal dialogs alone.
 int CWorkbenchDialog::DisplayDialog()
@@ -43,12 +41,27 @@ int CWorkbenchDialog::DisplayDialog()
     return IsOpen() ? 1 : Create(m_template, &m_owner);
 }
 
-bool CWorkbenchDialog::Open(CString const & title)
+void CWorkbenchDialog::SetTitle(CString const & title)
 {
     // Before the first opening the title would become the name, too.
     CString const name = GetGenuineTitle();
     SetDialogTitle(title);
     SetGenuineTitle(name);
+}
+
+void CWorkbenchDialog::ShowTemplateTexts(CString const & title)
+{
+    if (IsOpen())
+    {
+        SetTitle(title);
+        SetWindowText(title);
+        workbench::ShowTemplateTexts(*this, m_template);
+    }
+}
+
+bool CWorkbenchDialog::Open(CString const & title)
+{
+    SetTitle(title);
     auto const opened = !IsOpen();
     if (opened)
     {

@@ -5,6 +5,10 @@
 #include "Settings.h"
 #include "dialogs/Dialog3d.h"
 
+/// Moves a window to where all of it is on its screen, or its upper left corner if it is larger: a place that was kept
+/// when the screen was larger may lie beyond this one.
+void BringOntoScreen(CWnd & window);
+
 /// The base of the workbench's modeless dialogs: they follow the settings and say when they open and close.
 class CWorkbenchDialog : public CDialog3d
 {
@@ -20,10 +24,16 @@ public:
     /// Lets the dialog follow these settings from now on.
     void Follow(workbench::Settings const & settings);
 
+    /// Shows what an open dialog says in the present language.
+    virtual void ShowTexts() = 0;
+
     /// Called with true when the dialog has opened and with false when it is about to end.
     std::function<void(CWorkbenchDialog &, bool)> m_onOpened;
 
 protected:
+    /// Gives it that title, and its controls the texts of its template in the present language.
+    void ShowTemplateTexts(CString const & title);
+
     /// Gives the dialog, when it opens for the first time, a size in dialog units, as far as the screen has room. Its
     /// template's size is its least one. To be called when the layout is complete.
     void Enlarge(CSize size);
@@ -35,6 +45,8 @@ protected:
 
 private:
     afx_msg void OnDestroy();
+
+    void SetTitle(CString const & title);
 
     UINT m_template;
     CWnd & m_owner;

@@ -70,11 +70,17 @@
 #define IDC_NEW_FOLDER 1112
 #define IDC_STANDARD_COLOURS 1114
 #define IDC_COLUMNS 1116
+#define IDC_COLUMN_ORDER 1117
+#define IDC_COLUMN_UP 1118
+#define IDC_COLUMN_DOWN 1119
+#define IDC_CONTRAST 1120
 #define IDC_COLOUR_FIRST 1121 // trace, background, grid, cursor
 #define IDC_COLOUR_LAST 1124
 #define IDC_SPECTROGRAM_WINDOW 1131
 #define IDC_SPECTROGRAM_OVERLAP 1132
 #define IDC_FREQUENCY_SCALE 1133
+#define IDC_LIST_SCALE 1141
+#define IDC_CELL_CURSOR 1142
 
 // The details.
 #define IDC_DETAIL_TEXT 1201
@@ -156,6 +162,11 @@
 #define ID_WRITE_REPORT 40061
 #define ID_MOVE_UP 40062
 #define ID_MOVE_DOWN 40063
+#define ID_SORT_BY 40064
+#define ID_PANE_WIDER 40071
+#define ID_PANE_NARROWER 40072
+#define ID_PANE_TALLER 40073
+#define ID_PANE_SHORTER 40074
 
 // The items of open dialogs in the window menu.
 #define ID_DIALOG_FIRST 41000

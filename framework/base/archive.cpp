@@ -81,6 +81,7 @@ CArchive::CArchive(CFile * pFile, UINT nMode, int nBufSize, void * lpBuf)
         m_buffer = new BYTE[m_size];
 }
 
+// As CArchive documents it. NOLINTNEXTLINE(bugprone-exception-escape)
 CArchive::~CArchive() noexcept(false)
 {
     struct Ending

@@ -78,6 +78,7 @@ template <class Map, class Key, class Value> void SerializeMap(Map & map, CArchi
         }
         return;
     }
+    // Pointers count as themselves. NOLINTNEXTLINE(bugprone-sizeof-expression)
     DWORD_PTR left = framework::ReadElementCount(ar, sizeof(Key) + sizeof(Value));
     for (map.PrepareToLoad(left); left != 0; --left)
     {

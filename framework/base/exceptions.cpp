@@ -29,7 +29,7 @@ void AskNewHandler()
         throw std::bad_alloc();
 }
 
-[[maybe_unused]] std::new_handler const s_formerHandler = std::set_new_handler(AskNewHandler);
+[[maybe_unused]] std::new_handler const former_handler = std::set_new_handler(AskNewHandler);
 
 void CopyMessage(LPTSTR target, UINT size, LPCTSTR message)
 {

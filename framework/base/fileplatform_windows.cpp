@@ -265,7 +265,6 @@ bool IsSeparator(TCHAR ch)
 FILE * OpenStream(HANDLE file, UINT flags, LONG & error)
 {
     std::wstring mode(1, L'r');
-    bool const writes = (flags & (CFile::modeWrite | CFile::modeReadWrite)) != 0;
     if ((flags & CFile::modeCreate) != 0)
         mode = (flags & CFile::modeNoTruncate) != 0 ? L"a" : L"w";
     else if ((flags & CFile::modeWrite) != 0)
@@ -275,8 +274,7 @@ FILE * OpenStream(HANDLE file, UINT flags, LONG & error)
     bool const binary = (flags & CFile::typeBinary) != 0;
     bool const wide = !binary && (flags & CFile::typeUnicode) != 0;
     mode += binary || wide ? L'b' : L't';
-    int const descriptor =
-        ::_open_osfhandle(reinterpret_cast<intptr_t>(file), (writes ? 0 : _O_RDONLY) | (binary || wide ? 0 : _O_TEXT));
+    int const descriptor = ::_open_osfhandle(reinterpret_cast<intptr_t>(file), binary || wide ? 0 : _O_TEXT);
     FILE * const stream = descriptor == -1 ? nullptr : ::_wfdopen(descriptor, mode.c_str());
     if (stream == nullptr)
         error = static_cast<LONG>(_doserrno);

@@ -10,7 +10,7 @@ constinit CRuntimeClass const CObject::classCObject = {"CObject", sizeof(CObject
 
 namespace
 {
-AFX_CLASSINIT const s_initObject(RUNTIME_CLASS(CObject));
+AFX_CLASSINIT const init_object(RUNTIME_CLASS(CObject));
 
 constinit CRuntimeClass const * s_classes = nullptr;
 

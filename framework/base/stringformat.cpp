@@ -16,15 +16,15 @@ using framework::AppendText;
 
 enum class Size
 {
-    Default,
-    Char,
-    Short,
-    Long,
-    Bits32,
-    Bits64,
-    Pointer,
-    LongDouble,
-    Wide
+    usual,
+    character,
+    short_number,
+    long_number,
+    bits32,
+    bits64,
+    pointer,
+    long_double,
+    wide
 };
 
 struct Directive
@@ -34,7 +34,7 @@ struct Directive
     bool zero = false;
     int width = -1;
     int precision = -1;
-    Size size = Size::Default;
+    Size size = Size::usual;
 };
 
 // One va_list, passed on by reference.
@@ -142,22 +142,20 @@ private:
     }
     void ReadSize(Directive & directive)
     {
-        if (Skip('I', '6', '4'))
-            directive.size = Size::Bits64;
+        if (Skip('I', '6', '4') || Skip('j'))
+            directive.size = Size::bits64;
         else if (Skip('I', '3', '2'))
-            directive.size = Size::Bits32;
+            directive.size = Size::bits32;
         else if (Skip('I') || Skip('z') || Skip('t'))
-            directive.size = Size::Pointer;
-        else if (Skip('j'))
-            directive.size = Size::Bits64;
+            directive.size = Size::pointer;
         else if (Skip('h'))
-            directive.size = Skip('h') ? Size::Char : Size::Short;
+            directive.size = Skip('h') ? Size::character : Size::short_number;
         else if (Skip('l'))
-            directive.size = Skip('l') ? Size::Bits64 : Size::Long;
+            directive.size = Skip('l') ? Size::bits64 : Size::long_number;
         else if (Skip('L'))
-            directive.size = Size::LongDouble;
+            directive.size = Size::long_double;
         else if (Skip('w'))
-            directive.size = Size::Wide;
+            directive.size = Size::wide;
     }
 
     template <class Source> void RunDirective(Source & source)
@@ -190,7 +188,7 @@ private:
         case 'G':
         case 'a':
         case 'A':
-            if (directive.size == Size::LongDouble)
+            if (directive.size == Size::long_double)
                 PutNumber(directive, std::string("L") + static_cast<char>(conversion), source.LongDouble());
             else
                 PutNumber(directive, std::string(1, static_cast<char>(conversion)), source.Double());
@@ -217,34 +215,34 @@ private:
 
     static bool TakesWide(Directive const & directive, bool other)
     {
-        if (directive.size == Size::Long || directive.size == Size::Wide)
+        if (directive.size == Size::long_number || directive.size == Size::wide)
             return true;
-        if (directive.size == Size::Short)
+        if (directive.size == Size::short_number)
             return false;
         return is_wide != other;
     }
     static bool Is64(Directive const & directive)
     {
-        return directive.size == Size::Bits64 ||
-               (directive.size == Size::Pointer && sizeof(void *) == sizeof(long long));
+        return directive.size == Size::bits64 ||
+               (directive.size == Size::pointer && sizeof(void *) == sizeof(long long));
     }
     template <class Source> static long long Signed(Directive const & directive, Source & source)
     {
         if (Is64(directive))
             return source.Int64();
         int const value = source.Int();
-        if (directive.size == Size::Char)
+        if (directive.size == Size::character)
             return static_cast<signed char>(value);
-        return directive.size == Size::Short ? static_cast<short>(value) : value;
+        return directive.size == Size::short_number ? static_cast<short>(value) : value;
     }
     template <class Source> static unsigned long long Unsigned(Directive const & directive, Source & source)
     {
         if (Is64(directive))
             return static_cast<unsigned long long>(source.Int64());
         auto const value = static_cast<unsigned int>(source.Int());
-        if (directive.size == Size::Char)
+        if (directive.size == Size::character)
             return static_cast<unsigned char>(value);
-        return directive.size == Size::Short ? static_cast<unsigned short>(value) : value;
+        return directive.size == Size::short_number ? static_cast<unsigned short>(value) : value;
     }
 
     template <class Value> void PutNumber(Directive const & directive, std::string const & conversion, Value value)

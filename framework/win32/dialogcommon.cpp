@@ -7,8 +7,8 @@
 
 namespace
 {
-UINT const ColourOkMessage = ::RegisterWindowMessage(COLOROKSTRING);
-UINT const SetColourMessage = ::RegisterWindowMessage(SETRGBSTRING);
+UINT const colour_ok_message = ::RegisterWindowMessage(COLOROKSTRING);
+UINT const set_colour_message = ::RegisterWindowMessage(SETRGBSTRING);
 } // namespace
 
 IMPLEMENT_DYNAMIC(CCommonDialog, CDialog)
@@ -63,7 +63,7 @@ bool CColorDialog::AskColourOk(LPARAM lParam)
 
 UINT_PTR CALLBACK CColorDialog::Hook(HWND window, UINT message, WPARAM, LPARAM lParam)
 {
-    if (message == ColourOkMessage)
+    if (message == colour_ok_message)
     {
         auto * const asking = DYNAMIC_DOWNCAST(CColorDialog, CWnd::FromHandlePermanent(window));
         return asking != nullptr && asking->AskColourOk(lParam);
@@ -79,7 +79,7 @@ UINT_PTR CALLBACK CColorDialog::Hook(HWND window, UINT message, WPARAM, LPARAM l
 LRESULT CALLBACK CColorDialog::OwnerHook(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
                                          DWORD_PTR dialog)
 {
-    if (message == ColourOkMessage)
+    if (message == colour_ok_message)
         return reinterpret_cast<CColorDialog *>(dialog)->AskColourOk(lParam);
     return ::DefSubclassProc(window, message, wParam, lParam);
 }
@@ -107,7 +107,7 @@ BOOL CColorDialog::OnColorOK()
 void CColorDialog::SetCurrentColor(COLORREF clr)
 {
     ASSERT(::IsWindow(m_hWnd));
-    SendMessage(SetColourMessage, 0, static_cast<LPARAM>(clr));
+    SendMessage(set_colour_message, 0, static_cast<LPARAM>(clr));
 }
 
 COLORREF CColorDialog::GetColor() const

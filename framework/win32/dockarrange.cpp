@@ -404,7 +404,7 @@ CPaneDivider * DockHost::Divider(UINT frame, size_t index)
     Life const life(*this);
     WindowGuard const guard(parent);
     bool const made = divider->CBasePane::CreateEx(0, nullptr, nullptr, WS_CHILD | WS_CLIPSIBLINGS, CRect(0, 0, 0, 0),
-                                                   parent, 0) != FALSE;
+                                                   parent, 0, 0, nullptr) != FALSE;
     if (!made && life)
         WindowEnds(divider);
     return made && life && guard.Alive() ? divider : nullptr;
@@ -493,7 +493,7 @@ bool DockHost::PlaceStrips(CRect & space, std::vector<WINDOWPOS> & moves)
             // Its side comes with the style.
             bool const created =
                 made->CBasePane::CreateEx(0, nullptr, nullptr, WS_CHILD | WS_CLIPSIBLINGS | AlignmentOf(side),
-                                          CRect(0, 0, 0, 0), &m_frame, 0) != FALSE;
+                                          CRect(0, 0, 0, 0), &m_frame, 0, 0, nullptr) != FALSE;
             if (!created && life)
                 WindowEnds(made);
             if (!created || !life || strip != made)

@@ -147,8 +147,6 @@ LRESULT DockDrag::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
             Cancel();
         return 0;
     case cancel_message:
-        Cancel();
-        return 0;
     case WM_RBUTTONDOWN:
         Cancel();
         return 0;

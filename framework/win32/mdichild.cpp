@@ -193,6 +193,7 @@ BOOL CMDIChildWnd::DestroyWindow()
 
 BOOL CMDIChildWnd::PreTranslateMessage(MSG * pMsg)
 {
+    // Without the frame's shortcuts, which come later. NOLINTNEXTLINE(bugprone-parent-virtual-call)
     if (CWnd::PreTranslateMessage(pMsg))
         return TRUE;
     if (pMsg->message < WM_KEYFIRST || pMsg->message > WM_KEYLAST)

@@ -12,7 +12,10 @@ CMiniFrameWnd::CMiniFrameWnd() = default;
 BOOL CMiniFrameWnd::Create(LPCTSTR lpClassName, LPCTSTR lpWindowName, DWORD dwStyle, const RECT & rect,
                            CWnd * pParentWnd, UINT nID)
 {
-    return CreateEx(0, lpClassName, lpWindowName, dwStyle, rect, pParentWnd, nID);
+    // The inherited ones take as many arguments.
+    BOOL(CMiniFrameWnd::*const create)
+    (DWORD, LPCTSTR, LPCTSTR, DWORD, RECT const &, CWnd *, UINT) = &CMiniFrameWnd::CreateEx;
+    return (this->*create)(0, lpClassName, lpWindowName, dwStyle, rect, pParentWnd, nID);
 }
 
 BOOL CMiniFrameWnd::CreateEx(DWORD dwExStyle, LPCTSTR lpClassName, LPCTSTR lpWindowName, DWORD dwStyle,

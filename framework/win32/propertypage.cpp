@@ -261,6 +261,7 @@ BOOL CPropertyPage::PreTranslateMessage(MSG * pMsg)
         }
     }
     // The sheet does the rest: its keys go round both the page's controls and its own.
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call)
     return CWnd::PreTranslateMessage(pMsg);
 }
 

@@ -380,6 +380,7 @@ void CScrollView::CalcWindowRect(LPRECT lpClientRect, UINT nAdjustType)
 {
     if (nAdjustType != adjustOutside)
     {
+        // A view would add scroll bars. NOLINTNEXTLINE(bugprone-parent-virtual-call)
         CWnd::CalcWindowRect(lpClientRect, nAdjustType);
         return;
     }

@@ -274,9 +274,7 @@ BOOL CSplitterWnd::DoKeyboardSplit()
     // Bars are held where they are, boxes in the middle.
     m_grip = CPoint(0, 0);
     CPoint point = m_tracker;
-    if (part.rowBox)
-        point.y = area.CenterPoint().y;
-    else if (part.row < 0)
+    if (part.rowBox || part.row < 0)
         point.y = area.CenterPoint().y;
     if (part.columnBox || part.column < 0)
         point.x = area.CenterPoint().x;

@@ -521,10 +521,8 @@ bool CToolBar::WrapWidth(DWORD mode, int length, int & width) const
         return true;
     if ((mode & LM_MRUWIDTH) != 0)
         width = m_lastWidth;
-    else if ((mode & LM_HORZDOCK) != 0)
-        width = no_wrap;
-    else if ((mode & LM_VERTDOCK) != 0)
-        width = 0;
+    else if ((mode & (LM_HORZDOCK | LM_VERTDOCK)) != 0)
+        width = (mode & LM_HORZDOCK) != 0 ? no_wrap : 0;
     else if (length != -1)
     {
         CRect inside(0, 0, 0, 0);

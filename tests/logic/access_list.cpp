@@ -19,7 +19,7 @@ public:
     static constexpr int rows = 3;
     static constexpr int columns = 4;
 
-    TableOfCells() : cells(rows * columns) {}
+    TableOfCells() : cells(std::size_t{rows} * columns) {}
     XLISTCTRLDATA & At(int row, int col) { return cells[static_cast<std::size_t>(row * columns + col)]; }
 
     int RowCount() const override { return rows; }
@@ -52,12 +52,16 @@ public:
     int FocusedRow() const override { return 1; }
     int FocusedCol() const override { return focusedCol; }
     int NextSelected(int after) const override { return after < 1 ? 1 : -1; }
+    bool CanTick(int) const override { return canTick; }
+    CRect SightRect(int col) const override { return col == 1 && isBelow ? CRect(120, 0, 150, 50) : ClientRect(); }
 
     std::vector<XLISTCTRLDATA> cells;
     std::optional<std::wstring> kindText;
     int cellsInRow = columns;
     bool enabled = true;
     bool hasFocus = false;
+    bool canTick = true;
+    bool isBelow = false;
     int focusedCol = -1;
 };
 
@@ -199,6 +203,22 @@ TEST_F(AccessibleLists, TellWhatCellsLack)
     EXPECT_EQ(Cell(2, 2).action, L"Press");
     m_list.enabled = false;
     EXPECT_NE(Cell(0, 0).states & accessible::state::unavailable, 0);
+}
+
+TEST_F(AccessibleLists, MayHaveTicksThatNobodyChanges)
+{
+    m_list.At(0, 0).MakeCheck(XLC_CHECKED);
+    m_list.canTick = false;
+    EXPECT_EQ(Cell(0, 0).action, L"");
+    EXPECT_EQ(Cell(0, 0).states, accessible::state::checked | accessible::state::read_only);
+}
+
+TEST_F(AccessibleLists, MayHaveColumnsBelowOthers)
+{
+    EXPECT_EQ(Cell(0, 1).states & accessible::state::offscreen, 0);
+    m_list.isBelow = true;
+    EXPECT_NE(Cell(0, 1).states & accessible::state::offscreen, 0);
+    EXPECT_EQ(Cell(0, 2).states & accessible::state::offscreen, 0);
 }
 
 TEST_F(AccessibleLists, TellOfSelectionAndFocus)

@@ -40,7 +40,7 @@ protected:
     }
 
     /// The next users choose that folder.
-    void UserChooses(std::optional<std::wstring> path)
+    void UserChooses(std::optional<std::wstring> const & path)
     {
         shell.user = [this, path](FolderBrowse const &) { return &shell.Add(path); };
     }

@@ -51,10 +51,10 @@ TEST(MenuManagerIds, CopiesGoOnFromTheSameIdOnTheirOwn)
     EXPECT_EQ(manager.GetNewID(), 40U);
     manager = copy;
     EXPECT_EQ(manager.GetNewID(), 42U);
-    CMenueManager moved(std::move(copy));
-    EXPECT_EQ(moved.GetNewID(), 42U);
-    manager = std::move(moved);
-    EXPECT_EQ(manager.GetNewID(), 43U);
+    CMenueManager const later(copy);
+    EXPECT_EQ(copy.GetNewID(), 42U);
+    manager = later;
+    EXPECT_EQ(manager.GetNewID(), 42U);
 }
 
 TEST(MenuManagerIds, AppendedStringsGetRunningIds)

@@ -43,7 +43,7 @@ public:
 
     fs::path Write(std::string const & name, wav::Bytes const & bytes = {}) const
     {
-        auto const path = m_path / name;
+        auto path = m_path / name;
         fs::create_directories(path.parent_path());
         std::ofstream stream(path, std::ios::binary);
         stream.write(reinterpret_cast<char const *>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
@@ -84,7 +84,7 @@ TEST(RecordingAnalysis, WhatIsKeptOfARecordingIsSmallWhateverItsLengthAndChannel
     TemporaryFolder const folder;
     for (unsigned const channels : {1U, 2U, 6U, 32U, 40U})
     {
-        std::vector<std::int16_t> const samples(channels * 100000, 5);
+        std::vector<std::int16_t> const samples(std::size_t{channels} * 100000, 5);
         auto const file = folder.Write("many.wav", wav::File()
                                                        .Chunk("fmt ", wav::Format(1, channels, 48000, 2 * channels, 16))
                                                        .Chunk("data", wav::Samples16(samples))

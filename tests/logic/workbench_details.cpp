@@ -100,6 +100,9 @@ TEST(MeasureFormat, WritesEachMeasureAsItsReadersDo)
     EXPECT_EQ(FormatCrestFactor({0.0, -3.01}), L"3.0");
     EXPECT_EQ(FormatLoudness(-70.04), L"-70.0");
     EXPECT_EQ(FormatFrequency(50.04), L"50.0");
+    EXPECT_EQ(FormatStretch(1024, 48000), L"21.3 ms");
+    EXPECT_EQ(FormatStretch(256, 8000), L"32.0 ms");
+    EXPECT_EQ(FormatStretch(1024, 0), L"-");
     EXPECT_EQ(FormatFrequency(999.94), L"999.9");
     EXPECT_EQ(FormatFrequency(999.96), L"1,000");
     EXPECT_EQ(FormatFrequency(12345.6), L"12,346");

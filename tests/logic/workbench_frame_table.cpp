@@ -64,9 +64,10 @@ TEST(WorkbenchFrameTable, CellsAreNumbersOfTheColumnsUnits)
     FrameTable const table(store);
     EXPECT_EQ(table.RowCount(), 3u);
     EXPECT_DOUBLE_EQ(NumberAt(table, 2, FrameTable::column_time), 0.002);
-    EXPECT_NEAR(NumberAt(table, 0, FrameTable::column_peak), -6.0206, 1e-4);
-    EXPECT_NEAR(NumberAt(table, 0, FrameTable::column_rms), -12.0412, 1e-4);
-    EXPECT_NEAR(NumberAt(table, 0, FrameTable::column_crest), 6.0206, 1e-4);
+    // With the digits that are known, and no others.
+    EXPECT_EQ(NumberAt(table, 0, FrameTable::column_peak), -6.021);
+    EXPECT_EQ(NumberAt(table, 0, FrameTable::column_rms), -12.041);
+    EXPECT_EQ(NumberAt(table, 0, FrameTable::column_crest), 6.021);
     EXPECT_EQ(NumberAt(table, 0, FrameTable::column_frequency), 1000.0);
     EXPECT_EQ(NumberAt(table, 0, FrameTable::column_centroid), 1500.0);
     EXPECT_EQ(NumberAt(table, 2, FrameTable::column_crest), 0.0);
@@ -97,7 +98,7 @@ TEST(WorkbenchFrameTable, WhatIsNotThereIsNotRead)
 TEST(WorkbenchFrameFilter, RangesAreChosenByComparisonOrEnds)
 {
     auto const range = [](wchar_t const * text, wchar_t sign = L'.') {
-        auto const filter = ParseFrameFilter(text, FrameTable::column_peak, sign);
+        auto const filter = ParseFrameFilter(text, FrameTable::column_peak, sign).rows;
         EXPECT_EQ(filter.ranges.size(), 1u) << text;
         EXPECT_TRUE(filter.texts.empty());
         EXPECT_EQ(filter.ranges.front().column, FrameTable::column_peak);
@@ -117,25 +118,42 @@ TEST(WorkbenchFrameFilter, RangesAreChosenByComparisonOrEnds)
 
 TEST(WorkbenchFrameFilter, WhatIsNoRangeIsAPartOfTheText)
 {
-    EXPECT_TRUE(ParseFrameFilter(L"", FrameTable::column_peak, L'.').IsEmpty());
-    EXPECT_TRUE(ParseFrameFilter(L"  ", FrameTable::column_time, L'.').IsEmpty());
-    for (auto const * const text : {L"-20", L">", L"> x", L"1..", L"..2", L"1..2..3", L"> 1 2", L"> inf"})
+    EXPECT_TRUE(ParseFrameFilter(L"", FrameTable::column_peak, L'.').rows.IsEmpty());
+    EXPECT_TRUE(ParseFrameFilter(L"  ", FrameTable::column_time, L'.').rows.IsEmpty());
+    for (auto const * const text : {L"-20", L"x", L"1.5"})
     {
         auto const filter = ParseFrameFilter(text, FrameTable::column_rms, L'.');
-        EXPECT_TRUE(filter.ranges.empty()) << text;
-        ASSERT_EQ(filter.texts.size(), 1u) << text;
-        EXPECT_EQ(filter.texts.front().text, text);
-        EXPECT_EQ(filter.texts.front().column, FrameTable::column_rms);
+        EXPECT_FALSE(filter.noNumber) << text;
+        EXPECT_TRUE(filter.rows.ranges.empty()) << text;
+        ASSERT_EQ(filter.rows.texts.size(), 1u) << text;
+        EXPECT_EQ(filter.rows.texts.front().text, text);
+        EXPECT_EQ(filter.rows.texts.front().column, FrameTable::column_rms);
     }
+}
+
+TEST(WorkbenchFrameFilter, WhatIsNoNumberIsToldAndLetsAllThrough)
+{
+    std::pair<wchar_t const *, wchar_t const *> const wrong[] = {
+        {L">", L""},       {L"> x", L"x"},  {L"<= ", L""},         {L"1..", L""},      {L"..2", L""},
+        {L"a .. 2", L"a"}, {L"1..b", L"b"}, {L"1..2..3", L"2..3"}, {L"> 1 2", L"1 2"}, {L"> inf", L"inf"}};
+    for (auto const & [text, part] : wrong)
+    {
+        auto const filter = ParseFrameFilter(text, FrameTable::column_rms, L'.');
+        EXPECT_TRUE(filter.rows.IsEmpty()) << text;
+        ASSERT_TRUE(filter.noNumber) << text;
+        EXPECT_EQ(*filter.noNumber, part) << text;
+    }
+    EXPECT_FALSE(ParseFrameFilter(L"> 3", FrameTable::column_rms, L'.').noNumber);
 }
 
 TEST(WorkbenchFrameFilter, ATableShowsWhatIsWanted)
 {
     auto const table = std::make_shared<FrameTable>(Store());
-    EXPECT_EQ(Shown(table, ParseFrameFilter(L"> -3", FrameTable::column_peak, L'.')), (std::vector<TableRow>{2}));
-    EXPECT_EQ(Shown(table, ParseFrameFilter(L"< -3", FrameTable::column_peak, L'.')), (std::vector<TableRow>{0, 1}))
+    EXPECT_EQ(Shown(table, ParseFrameFilter(L"> -3", FrameTable::column_peak, L'.').rows), (std::vector<TableRow>{2}));
+    EXPECT_EQ(Shown(table, ParseFrameFilter(L"< -3", FrameTable::column_peak, L'.').rows),
+              (std::vector<TableRow>{0, 1}))
         << "silence is below any level";
-    EXPECT_EQ(Shown(table, ParseFrameFilter(L"1000..2000", FrameTable::column_centroid, L'.')),
+    EXPECT_EQ(Shown(table, ParseFrameFilter(L"1000..2000", FrameTable::column_centroid, L'.').rows),
               (std::vector<TableRow>{0}));
-    EXPECT_EQ(Shown(table, ParseFrameFilter(L"-6.0", FrameTable::column_peak, L'.')), (std::vector<TableRow>{0}));
+    EXPECT_EQ(Shown(table, ParseFrameFilter(L"-6.0", FrameTable::column_peak, L'.').rows), (std::vector<TableRow>{0}));
 }

@@ -104,7 +104,7 @@ TEST(TextFormat, ShowsDurationsAsMinutesSecondsAndMilliseconds)
 {
     EXPECT_EQ(FormatDuration(0, 48000), L"0:00.000");
     EXPECT_EQ(FormatDuration(68546, 48000), L"0:01.428");
-    EXPECT_EQ(FormatDuration(48000 * 61, 48000), L"1:01.000");
+    EXPECT_EQ(FormatDuration(2928000, 48000), L"1:01.000");
     EXPECT_EQ(FormatDuration(std::uint64_t{44100} * 3600 * 25, 44100), L"1500:00.000");
 }
 

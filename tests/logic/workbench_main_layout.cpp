@@ -8,6 +8,7 @@
 
 using workbench::DefaultPanes;
 using workbench::LayOutMain;
+using workbench::LeastListPane;
 using workbench::LeastMainArea;
 using workbench::MainLayoutNeeds;
 
@@ -44,6 +45,17 @@ TEST(WorkbenchMainLayout, ThePanesHaveWhatMarginsAndStatusLeave)
     EXPECT_EQ(layout.status, CRect(10, 450, 510, 470));
     EXPECT_TRUE(layout.frames.IsRectEmpty());
     EXPECT_TRUE(layout.framesDivider.IsRectEmpty());
+}
+
+TEST(WorkbenchMainLayout, TheListKeepsAPartOfItsFirstHeightAndHalfTheRoomAtMost)
+{
+    EXPECT_EQ(LeastListPane(Needs(1020, 530)), CSize(300, 18 + 80));
+    // Of 200 pixels there are 96 beside margins, status and measures.
+    EXPECT_EQ(LeastListPane(Needs(320, 200)), CSize(150, 48));
+    auto needs = Needs(1020, 530);
+    needs.framesWidth = 600;
+    EXPECT_EQ(LeastListPane(needs).cx, 200);
+    EXPECT_EQ(LeastListPane(Needs(5, 5)), CSize(0, 0));
 }
 
 TEST(WorkbenchMainLayout, FramesTakeTheirWidthFromThePanes)

@@ -78,7 +78,7 @@ ToneMeasures ToneOf(Signal const & signal, std::size_t frames, std::uint32_t rat
 }
 
 /// A tone with harmonics of given amplitudes beside it, from the second on.
-Signal ToneWithHarmonics(double hertz, std::vector<double> harmonics, std::uint32_t rate)
+Signal ToneWithHarmonics(double hertz, std::vector<double> const & harmonics, std::uint32_t rate)
 {
     return [=](std::size_t frame, std::size_t) {
         double const angle = 2.0 * std::numbers::pi * hertz * static_cast<double>(frame) / static_cast<double>(rate);
@@ -129,7 +129,7 @@ TEST(WorkbenchLoudness, QuietPartsDoNotCount)
 TEST(WorkbenchLoudness, SurroundChannelsCountMoreAndLowTonesNotAtAll)
 {
     constexpr std::uint32_t rate = 48000;
-    auto const signal = [](std::vector<double> levels) {
+    auto const signal = [](std::vector<double> const & levels) {
         return [levels](std::size_t frame, std::size_t channel) { return Sine(1000, levels[channel], rate)(frame, 0); };
     };
     EXPECT_NEAR(LoudnessOf(signal({-28, -28, -24, -30, -30}), 5, 5).value_or(0), -23.0, 0.1);

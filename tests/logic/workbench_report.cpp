@@ -1,5 +1,6 @@
 // The report about recordings, and the file that it is written into.
 
+#include "logic/NumberSigns.h"
 #include "logic/Report.h"
 #include "logic/SafeFile.h"
 
@@ -98,7 +99,7 @@ ReportedRecording Reported(std::wstring const & name)
 
 std::string PageOf(std::vector<ReportedRecording> const & recordings, std::vector<ReportPicture> const & pictures = {})
 {
-    auto page = ReportBegin(L"Report", L"en", recordings);
+    auto page = ReportBegin({L"Report", L"en", L"1 May 2026"}, recordings);
     for (auto const & recording : recordings)
     {
         page += ReportSection(recording, pictures);
@@ -127,9 +128,8 @@ TEST(Report, HasAllMeasuresInATableAndASectionForEachRecording)
     EXPECT_EQ(FaultOf(page), "");
     EXPECT_TRUE(page.starts_with("<!DOCTYPE html>"));
     EXPECT_TRUE(Has(page, "<td>a.wav</td><td class=\"number\">0:02.000</td><td class=\"number\">2</td>"
-                          "<td class=\"number\">48000</td><td class=\"number\">-1.5</td>"));
+                          "<td class=\"number\">48,000</td><td class=\"number\">-1.5</td>"));
     EXPECT_TRUE(Has(page, "<h2>b.wav</h2>"));
-    EXPECT_TRUE(Has(page, "2 recordings"));
     EXPECT_TRUE(Has(page, "-23.0 LUFS"));
     for (auto const * const style : {"color-scheme: light dark", "@media print"})
     {
@@ -140,6 +140,51 @@ TEST(Report, HasAllMeasuresInATableAndASectionForEachRecording)
     {
         EXPECT_FALSE(Has(page, link)) << link;
     }
+}
+
+TEST(Report, BeginsWithDateFoldersAndNumber)
+{
+    auto other = Reported(L"c.wav");
+    other.file = L"/elsewhere/c.wav";
+    auto const page = PageOf({Reported(L"a.wav"), Reported(L"b.wav"), other});
+    EXPECT_EQ(FaultOf(page), "");
+    EXPECT_TRUE(Has(page, "<h1>Report</h1>\r\n<table>\r\n<tbody>\r\n"
+                          "<tr><th scope=\"row\">Date</th><td>1 May 2026</td></tr>\r\n"
+                          "<tr><th scope=\"row\">Folder</th><td>/recordings<br>/elsewhere</td></tr>\r\n"
+                          "<tr><th scope=\"row\">Recordings</th><td>3</td></tr>\r\n"));
+}
+
+TEST(Report, ASectionHasRatingAndComment)
+{
+    auto recording = Reported(L"a.wav");
+    recording.rating = L"Good";
+    recording.notes.comment = L"loud & clear";
+    auto const section = ReportSection(recording, {});
+    EXPECT_TRUE(Has(section, "<tr><th scope=\"row\">Rating</th><td>Good</td></tr>"));
+    EXPECT_TRUE(Has(section, "<tr><th scope=\"row\">Comment</th><td>loud &amp; clear</td></tr>"));
+    auto const none = ReportSection(Reported(L"a.wav"), {});
+    EXPECT_FALSE(Has(none, "Rating"));
+    EXPECT_FALSE(Has(none, "Comment"));
+}
+
+TEST(Report, NumbersHaveTheSignsOfTheRegion)
+{
+    NumberSigns signs;
+    signs.decimal = L",";
+    signs.grouping = L".";
+    SetNumberSigns(signs);
+    auto const page = PageOf({Reported(L"a.wav")});
+    SetNumberSigns({});
+    EXPECT_TRUE(Has(page, "<td class=\"number\">48.000</td><td class=\"number\">-1,5</td>"));
+    EXPECT_TRUE(Has(page, "<td>48.000 Hz</td>"));
+    EXPECT_FALSE(Has(page, "48000"));
+    EXPECT_FALSE(Has(page, "-1.5"));
+}
+
+TEST(Report, AFileIsCalledAfterFolderAndDay)
+{
+    EXPECT_EQ(ReportFileName(L"/a/Takes", 2026, 5, 1), L"Report Takes 2026-05-01");
+    EXPECT_EQ(ReportFileName(L"", 2026, 11, 22), L"Report 2026-11-22");
 }
 
 TEST(Report, WhatTheUserWroteIsText)

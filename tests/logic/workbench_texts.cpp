@@ -283,6 +283,27 @@ TEST(WorkbenchTexts, AnAccessKeyIsThereOnceInAMenuOrDialog)
     }
 }
 
+TEST(WorkbenchTexts, KeysHaveTheirNamesInEachLanguage)
+{
+    auto const expectNone = [](std::string const & text, std::vector<std::string> const & names) {
+        auto const tab = text.find('\t');
+        for (auto const & name : tab == std::string::npos ? std::vector<std::string>() : names)
+            EXPECT_EQ(text.find(name, tab), std::string::npos) << text;
+    };
+    std::vector<std::vector<std::string>> const foreign{{},
+                                                        {"Ctrl", "Shift", "Enter", "Del", "Page", "Arrow", "Home"},
+                                                        {"Strg", "Shift", "Enter", "Del", "Page", "Arrow", "Home"}};
+    auto const resources = ResourcesByLanguage();
+    ASSERT_EQ(resources.size(), language_count);
+    for (std::size_t language = 0; language < language_count; ++language)
+    {
+        for (auto const & text : Literals(resources[language]))
+            expectNone(text, foreign.at(language));
+        for (auto const & [english, texts] : Entries())
+            expectNone(texts.at(language), foreign.at(language));
+    }
+}
+
 TEST(WorkbenchTexts, WhatHasNoEntryStaysAsItIs)
 {
     LanguageScope const german(Language::German);

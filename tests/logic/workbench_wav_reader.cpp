@@ -181,7 +181,7 @@ TEST(WavReader, KeepsChannelsInterleaved)
 TEST(WavReader, ReadsTheLargestChannelCountOfAHeader)
 {
     constexpr unsigned channels = 65535;
-    wav::Bytes data(channels * 2, std::byte{128});
+    wav::Bytes data(std::size_t{channels} * 2, std::byte{128});
     data[channels - 1] = std::byte{255};
     auto const content =
         ReadAll(wav::File().Chunk("fmt ", wav::Format(1, channels, 8000, channels, 8)).Chunk("data", data), 1);

@@ -47,7 +47,7 @@ MinMax Search(std::vector<double> const & samples, std::size_t channels, std::si
 
 TEST(Waveform, IsExactForEveryStretchOfAShortRecording)
 {
-    auto const samples = Noise(3 * 67, 1);
+    auto const samples = Noise(201, 1);
     auto const waveform = Build(samples, 3);
     ASSERT_EQ(waveform.Frames(), 67u);
     ASSERT_EQ(waveform.Lanes(), 3u);
@@ -117,11 +117,12 @@ TEST(Waveform, KeepsALonelyPeakWhateverTheLength)
 
 TEST(Waveform, IsTheSameForPortionsOfAnySize)
 {
-    auto const samples = Noise(2 * 40'000, 4);
+    auto const samples = Noise(80'000, 4);
+    constexpr std::size_t portion = 246;
     WaveformBuilder builder(2);
-    for (std::size_t i = 0; i < samples.size(); i += 2 * 123)
+    for (std::size_t i = 0; i < samples.size(); i += portion)
     {
-        builder.Add(std::span(samples).subspan(i, std::min<std::size_t>(2 * 123, samples.size() - i)));
+        builder.Add(std::span(samples).subspan(i, std::min(portion, samples.size() - i)));
     }
     auto const waveform = builder.Finish();
     auto const whole = Build(samples, 2);

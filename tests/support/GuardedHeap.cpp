@@ -11,6 +11,8 @@
 
 #include <psapi.h>
 
+#include "CallStack.h"
+
 namespace tests
 {
 namespace
@@ -29,6 +31,8 @@ template <typename T> struct PlainAllocator
     template <typename U> PlainAllocator(PlainAllocator<U> const &) {}
     T * allocate(std::size_t count)
     {
+        // Where T is a pointer, as of a bucket, its own size is what is wanted.
+        // NOLINTNEXTLINE(bugprone-sizeof-expression)
         if (void * const memory = ::HeapAlloc(::GetProcessHeap(), 0, count * sizeof(T)))
             return static_cast<T *>(memory);
         throw std::bad_alloc();
@@ -319,41 +323,6 @@ void PatchImports(HMODULE module)
     }
 }
 
-/// How many callers are shown.
-constexpr int deepest_shown = 40;
-
-void WritePlace(char const * format, DWORD what, std::size_t at)
-{
-    HMODULE module = nullptr;
-    ::GetModuleHandleExA(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
-                         reinterpret_cast<char const *>(at), &module);
-    char name[MAX_PATH] = "no module";
-    ::GetModuleFileNameA(module, name, MAX_PATH);
-    char text[MAX_PATH + 100];
-    int const length = ::wsprintfA(text, format, what, at - reinterpret_cast<std::size_t>(module), name);
-    DWORD written = 0;
-    ::WriteFile(::GetStdHandle(STD_ERROR_HANDLE), text, static_cast<DWORD>(length), &written, nullptr);
-}
-
-/// From a function to its caller; false at the end.
-bool Unwind(CONTEXT & frame)
-{
-    DWORD64 base = 0;
-    RUNTIME_FUNCTION * const function = ::RtlLookupFunctionEntry(frame.Rip, &base, nullptr);
-    if (function == nullptr)
-    {
-        if (frame.Rsp == 0 || frame.Rip == 0)
-            return false;
-        frame.Rip = *reinterpret_cast<DWORD64 const *>(frame.Rsp); // it has no frame
-        frame.Rsp += sizeof(DWORD64);
-        return true;
-    }
-    void * handler = nullptr;
-    DWORD64 establisher = 0;
-    ::RtlVirtualUnwind(UNW_FLAG_NHANDLER, base, frame.Rip, function, &frame, &handler, &establisher, nullptr);
-    return true;
-}
-
 /// A window system may pass over a fault in a window procedure that it has called, and the test would go on as if
 /// nothing had happened.
 LONG CALLBACK EndOnFault(EXCEPTION_POINTERS * fault)
@@ -364,9 +333,7 @@ LONG CALLBACK EndOnFault(EXCEPTION_POINTERS * fault)
         return EXCEPTION_CONTINUE_SEARCH;
     WritePlace("guarded heap: exception %lx at %Ix of %s\n", code,
                reinterpret_cast<std::size_t>(fault->ExceptionRecord->ExceptionAddress));
-    CONTEXT frame = *fault->ContextRecord;
-    for (int depth = 0; depth < deepest_shown && Unwind(frame) && frame.Rip != 0; ++depth)
-        WritePlace("    %lu called from %Ix of %s\n", static_cast<DWORD>(depth), frame.Rip);
+    WriteCallers(*fault->ContextRecord);
     ::TerminateProcess(::GetCurrentProcess(), GuardedHeap::exit_code_of_a_fault);
     return EXCEPTION_CONTINUE_SEARCH;
 }
@@ -438,7 +405,7 @@ std::size_t GuardedHeap::Errors() const
 std::vector<GuardedHeap::Error> GuardedHeap::Take()
 {
     Lock const lock;
-    std::vector<Error> const errors(g_state->errors.begin(), g_state->errors.end());
+    std::vector<Error> errors(g_state->errors.begin(), g_state->errors.end());
     g_state->errors.clear();
     return errors;
 }

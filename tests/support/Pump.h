@@ -5,7 +5,7 @@
 //     tests::PumpPosted();                                                   // what is queued now, nothing later
 //     tests::PumpFor(std::chrono::milliseconds(50));                         // only where nothing must happen
 //
-// Messages go the way of the application's own loop (CWinThread::PumpMessage), so that PreTranslateMessage sees them.
+// Messages go the way of the application's own loop, so that PreTranslateMessage sees them.
 
 #include <afxwin.h>
 

@@ -1,6 +1,7 @@
 // The main program of the window tests: GoogleTest within an application of the framework.
 
 #include "ChildProgram.h"
+#include "HangWatch.h"
 #include "TestApp.h"
 
 #include <framework_testing.h>
@@ -71,6 +72,7 @@ int main(int argc, char ** argv)
     if (std::optional<int> const exitCode = tests::RunAsChild())
         return *exitCode;
     testing::UnitTest::GetInstance()->listeners().Append(new LeftOverCheck);
+    tests::WatchForHang();
     int const result = RUN_ALL_TESTS();
     g_app.ExitInstance();
     return result;

@@ -176,4 +176,34 @@ private:
     HWND m_window = nullptr;
     HWINEVENTHOOK m_hook = nullptr;
 };
+
+/// How often an event was heard, of whatever element.
+inline long Times(std::vector<Listener::Event> const & heard, DWORD event)
+{
+    return static_cast<long>(
+        std::count_if(heard.begin(), heard.end(), [event](auto const & each) { return each.first == event; }));
+}
+/// The same of one element.
+inline long Times(std::vector<Listener::Event> const & heard, DWORD event, LONG number)
+{
+    return static_cast<long>(std::count(heard.begin(), heard.end(), Listener::Event(event, number)));
+}
+inline long Times(std::vector<Listener::Event> const & heard, DWORD event, accessible::Element element)
+{
+    return Times(heard, event, accessible::NumberOf(element));
+}
+
+/// A fixture with an object, which is released before its control ends.
+template <class Base = testing::Test> class ObjectTest : public Base
+{
+protected:
+    void TearDown() override
+    {
+        m_object.Release();
+        Base::TearDown();
+    }
+
+    ComScope m_com;
+    Held<IAccessible> m_object;
+};
 } // namespace access_tests

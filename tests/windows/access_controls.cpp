@@ -7,12 +7,15 @@
 #include "controls/IdNameMultiselectCtrl.h"
 #include "controls/LevelSliderCtrl.h"
 #include "controls/XEditBrowseCtrl.h"
+#include "list/XListCtrl.h"
 #include "segments/DigiStatic.h"
 
 #include <functional>
 #include <memory>
 #include <string>
 #include <thread>
+#include <utility>
+#include <vector>
 
 using access_tests::ActionOf;
 using access_tests::Ask;
@@ -24,6 +27,7 @@ using access_tests::Number;
 using access_tests::PlaceOf;
 using access_tests::RoleOf;
 using access_tests::StatesOf;
+using access_tests::Times;
 using access_tests::ValueOf;
 using access_tests::WindowOf;
 
@@ -53,7 +57,7 @@ protected:
     }
 };
 
-class AccessControls : public testing::Test
+class AccessControls : public access_tests::ObjectTest<>
 {
 protected:
     /// A label, which names what is made after it.
@@ -69,10 +73,8 @@ protected:
         return rect;
     }
 
-    access_tests::ComScope m_com;
     Parent m_parent{CRect(100, 100, 500, 400), WS_POPUP | WS_VISIBLE};
     CStatic m_label;
-    Held<IAccessible> m_object;
 };
 
 TEST_F(AccessControls, ReadOutSpeaksItsText)
@@ -193,17 +195,119 @@ TEST_F(AccessControls, SliderSpeaksItsLevel)
     EXPECT_EQ(ValueOf(*m_object.Get()), L"75%");
     slider.SetPos(10);
     auto heard = listener.Take();
-    EXPECT_EQ(std::count(heard.begin(), heard.end(), Listener::Event(EVENT_OBJECT_VALUECHANGE, 0)), 1);
+    EXPECT_EQ(Times(heard, EVENT_OBJECT_VALUECHANGE, 0), 1);
     slider.SendMessage(WM_KEYDOWN, VK_HOME, 0);
     EXPECT_EQ(ValueOf(*m_object.Get()), L"0%");
     heard = listener.Take();
-    EXPECT_EQ(std::count(heard.begin(), heard.end(), Listener::Event(EVENT_OBJECT_VALUECHANGE, 0)), 1);
+    EXPECT_EQ(Times(heard, EVENT_OBJECT_VALUECHANGE, 0), 1);
     slider.ModifyStyle(TBS_HORZ, TBS_VERT);
     slider.SetPos(10);
     EXPECT_EQ(ValueOf(*m_object.Get()), L"25%") << "what is below the thumb";
     slider.DestroyWindow();
     VARIANT role{};
     EXPECT_EQ(m_object->get_accRole(Number(0), &role), CO_E_OBJNOTCONNECTED);
+}
+
+/// Native controls of systems that tell of a change themselves: what they do, and an event. Each such class stays one
+/// of its own.
+class TellingClass
+{
+public:
+    TellingClass(wchar_t const * native, UINT message, std::vector<Listener::Event> events)
+    {
+        s_message = message;
+        s_events = std::move(events);
+        WNDCLASSEXW info{};
+        info.cbSize = sizeof info;
+        ::GetClassInfoExW(nullptr, native, &info);
+        s_native = info.lpfnWndProc;
+        info.lpfnWndProc = Run;
+        info.hInstance = ::GetModuleHandleW(nullptr);
+        static int made = 0;
+        m_name = L"TellingControl" + std::to_wstring(++made);
+        info.lpszClassName = m_name.c_str();
+        ::RegisterClassExW(&info);
+    }
+    TellingClass(TellingClass const &) = delete;
+    TellingClass & operator=(TellingClass const &) = delete;
+
+    HWND Create(DWORD style, CWnd const & parent) const
+    {
+        return ::CreateWindowExW(0, m_name.c_str(), L"", style, 10, 40, 190, 100, parent.m_hWnd,
+                                 reinterpret_cast<HMENU>(3), ::GetModuleHandleW(nullptr), nullptr);
+    }
+
+private:
+    static LRESULT CALLBACK Run(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+    {
+        LRESULT const result = ::CallWindowProcW(s_native, window, message, wParam, lParam);
+        if (message == s_message)
+        {
+            for (auto const & [event, child] : s_events)
+                ::NotifyWinEvent(event, window, OBJID_CLIENT, child);
+        }
+        return result;
+    }
+    std::wstring m_name;
+    static inline WNDPROC s_native = nullptr;
+    static inline UINT s_message = 0;
+    static inline std::vector<Listener::Event> s_events;
+};
+
+TEST_F(AccessControls, ASliderLeavesToTheNativeOneWhatThatTells)
+{
+    TellingClass const telling(TRACKBAR_CLASSW, TBM_SETPOS, {{EVENT_OBJECT_VALUECHANGE, CHILDID_SELF}});
+    CLevelSliderCtrl slider;
+    ASSERT_TRUE(slider.SubclassWindow(telling.Create(child_style | TBS_HORZ, m_parent)));
+    Listener listener(slider.m_hWnd);
+    slider.SetPos(1);
+    listener.Take();
+    for (int position = 2; position < 20; ++position)
+    {
+        slider.SetPos(position);
+        auto const heard = listener.Take();
+        EXPECT_EQ(Times(heard, EVENT_OBJECT_VALUECHANGE, 0), 1) << position;
+    }
+    slider.DestroyWindow();
+}
+
+TEST_F(AccessControls, ASliderGoesOnTellingWhereTheNativeOneDoesNot)
+{
+    // Of what is no value of its own it may tell what it likes.
+    TellingClass const telling(TRACKBAR_CLASSW, TBM_SETPOS, {{EVENT_OBJECT_VALUECHANGE, 1}});
+    CLevelSliderCtrl slider;
+    ASSERT_TRUE(slider.SubclassWindow(telling.Create(child_style | TBS_HORZ, m_parent)));
+    Listener listener(slider.m_hWnd);
+    for (int position = 1; position < 20; ++position)
+    {
+        slider.SetPos(position);
+        auto const heard = listener.Take();
+        EXPECT_EQ(Times(heard, EVENT_OBJECT_VALUECHANGE, 0), 1) << position;
+    }
+    slider.DestroyWindow();
+}
+
+TEST_F(AccessControls, AListLeavesToTheNativeOneWhatThatTells)
+{
+    TellingClass const telling(WC_LISTVIEWW, LVM_SETITEMSTATE, {{EVENT_OBJECT_SELECTIONADD, 2}});
+    CXListCtrl list;
+    ASSERT_TRUE(list.SubclassWindow(telling.Create(child_style | LVS_REPORT, m_parent)));
+    list.InsertColumn(0, L"name", LVCFMT_LEFT, 100, 0);
+    list.InsertItem(0, L"one");
+    list.InsertItem(1, L"two");
+    Listener listener(list.m_hWnd);
+    auto const heard = [&](UINT state, DWORD event) {
+        list.SetItemState(1, state, LVIS_SELECTED);
+        auto const events = listener.Take();
+        return Times(events, event, 2);
+    };
+    heard(LVIS_SELECTED, EVENT_OBJECT_SELECTION);
+    for (int turn = 0; turn < 10; ++turn)
+    {
+        EXPECT_EQ(heard(0, EVENT_OBJECT_SELECTIONREMOVE), 1) << "which that one doesn't tell";
+        EXPECT_EQ(heard(LVIS_SELECTED, EVENT_OBJECT_SELECTION), 0) << turn;
+    }
+    list.DestroyWindow();
 }
 
 /// Writes down that its button was pressed.

@@ -15,11 +15,12 @@ using access_tests::Number;
 using access_tests::PlaceOf;
 using access_tests::RoleOf;
 using access_tests::StatesOf;
+using access_tests::Times;
 using access_tests::ValueOf;
 
 namespace
 {
-class AccessListParts : public testing::Test
+class AccessListParts : public access_tests::ObjectTest<>
 {
 protected:
     AccessListParts()
@@ -28,10 +29,8 @@ protected:
         m_host.TakePosted();
     }
 
-    access_tests::ComScope m_com;
     tests::ListHost m_host;
     tests::TestList & m_list = m_host.list;
-    Held<IAccessible> m_object;
 };
 
 TEST_F(AccessListParts, HeaderTellsTitlesAndMarks)
@@ -50,7 +49,7 @@ TEST_F(AccessListParts, HeaderTellsTitlesAndMarks)
     m_list.SetHeaderCheckedState(1, XHC_SORT_DESCENDING);
     EXPECT_EQ(ValueOf(*m_object.Get(), 2), L"Descending");
     auto const heard = listener.Take();
-    EXPECT_EQ(std::count(heard.begin(), heard.end(), Listener::Event(EVENT_OBJECT_STATECHANGE, 2)), 3);
+    EXPECT_EQ(Times(heard, EVENT_OBJECT_STATECHANGE, 2), 3);
     VARIANT to{};
     ASSERT_EQ(m_object->accNavigate(NAVDIR_RIGHT, Number(1), &to), S_OK);
     ASSERT_EQ(to.vt, VT_DISPATCH);

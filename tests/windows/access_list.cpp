@@ -12,19 +12,13 @@ using access_tests::TakeText;
 
 namespace
 {
-class AccessObjects : public testing::Test
+class AccessObjects : public access_tests::ObjectTest<>
 {
 protected:
     AccessObjects()
     {
-        ::CoInitialize(nullptr);
         m_host.Fill(3, 5);
         m_host.TakePosted();
-    }
-    ~AccessObjects() override
-    {
-        m_object.Release();
-        ::CoUninitialize();
     }
 
     void SetUp() override { ASSERT_EQ(access_tests::Ask(m_list.m_hWnd, m_object), S_OK); }
@@ -44,7 +38,6 @@ protected:
 
     tests::ListHost m_host;
     tests::TestList & m_list = m_host.list;
-    Held<IAccessible> m_object;
 };
 } // namespace
 

@@ -6,7 +6,9 @@
 #include "GuardedHeap.h"
 #include "ListTestHost.h"
 #include "access_AccessTest.h"
+#include "list/table/XTableCtrl.h"
 
+#include <array>
 #include <filesystem>
 #include <fstream>
 #include <map>
@@ -38,7 +40,7 @@ constexpr int columns = 6;
 class AnsweringParent : public tests::ListParent
 {
 public:
-    AnsweringParent(tests::GuardedHeap & heap, tests::TestList & list) : m_heap(heap), m_list(list) {}
+    AnsweringParent(tests::GuardedHeap & heap, CWnd & list) : m_heap(heap), m_list(list) {}
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
@@ -61,7 +63,7 @@ protected:
 
 private:
     tests::GuardedHeap & m_heap;
-    tests::TestList & m_list;
+    CWnd & m_list;
 };
 
 void Fill(tests::TestList & list)
@@ -79,6 +81,15 @@ void Fill(tests::TestList & list)
     }
 }
 
+/// Until the program is to end.
+void Show(CWnd & parent)
+{
+    parent.ShowWindow(SW_SHOWNOACTIVATE);
+    MSG message{};
+    while (::GetMessageW(&message, nullptr, 0, 0) > 0)
+        ::DispatchMessageW(&message);
+}
+
 // COM is not made ready here: many a program has no use for it.
 CHILD_PROGRAM(ShowsAList)
 {
@@ -88,10 +99,70 @@ CHILD_PROGRAM(ShowsAList)
     parent.SetWindowText(argument.c_str());
     list.Create(tests::TestList::default_style, CRect(0, 0, 360, 250), &parent, tests::TestList::id);
     Fill(list);
-    parent.ShowWindow(SW_SHOWNOACTIVATE);
-    MSG message{};
-    while (::GetMessageW(&message, nullptr, 0, 0) > 0)
-        ::DispatchMessageW(&message);
+    Show(parent);
+    return 0;
+}
+
+/// The rows of a table: a text, a tick, a number, a link and how much is done.
+class Rows : public TableSource
+{
+public:
+    TableRow RowCount() const override { return rows; }
+    bool Read(TableRow row, unsigned int column, TableValue & value) const override
+    {
+        switch (column)
+        {
+        case 1:
+            value.SetTick(m_ticked.at(row));
+            return true;
+        case 2:
+            value.SetWhole(row * 10LL);
+            return true;
+        case 3:
+            value.SetLink(L"link");
+            return true;
+        case 4:
+            value.SetProgress(row * 5.0);
+            return true;
+        default:
+            value.SetText(L"r" + std::to_wstring(row));
+            return true;
+        }
+    }
+    bool Write(TableRow row, unsigned int, TableValue const & value) override
+    {
+        m_ticked.at(row) = value.Whole() != 0;
+        return true;
+    }
+
+private:
+    std::array<bool, rows> m_ticked{};
+};
+
+// Its first column is hidden and its second one moved, the rows stand upside down.
+CHILD_PROGRAM(ShowsATable)
+{
+    tests::GuardedHeap heap;
+    CXTableCtrl table;
+    AnsweringParent parent(heap, table);
+    parent.SetWindowText(argument.c_str());
+    table.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 360, 450), &parent, tests::TestList::id);
+    std::vector<TableColumn> described(columns);
+    for (std::size_t i = 0; i < described.size(); ++i)
+    {
+        described[i].title = L"c" + std::to_wstring(i);
+        described[i].width = 50;
+    }
+    described[1].kind = TableKind::tick;
+    described[1].editable = true;
+    described[2].kind = TableKind::whole;
+    described[5].hidden = true;
+    table.SetColumns(described);
+    table.MoveTableColumn(1, 0);
+    table.SortBy({{2, true}});
+    auto const source = std::make_shared<Rows>();
+    table.SetSource(source);
+    Show(parent);
     return 0;
 }
 
@@ -153,6 +224,8 @@ DWORD Handles(HANDLE process)
 class AccessProcess : public testing::Test
 {
 protected:
+    explicit AccessProcess(char const * program = "ShowsAList") : m_child(program, m_title) {}
+
     void SetUp() override
     {
         ASSERT_TRUE(m_child.Started());
@@ -176,15 +249,23 @@ protected:
         EXPECT_EQ(m_child.ExitCode(), 0U) << m_child.ErrorText();
         ::CloseHandle(m_process);
     }
+    /// Ten thousand calls, each of which makes objects on both sides. firstValue, step: of the third cells.
+    void ExpectNothingLeft(int firstValue, int step);
     static long CellNumber(int row, int col) { return accessible::NumberOf({row, col}); }
 
     access_tests::ComScope m_com;
     std::wstring m_title = L"A list for process " + std::to_wstring(::GetCurrentProcessId());
-    tests::ChildProgram m_child{"ShowsAList", m_title};
+    tests::ChildProgram m_child;
     HWND m_parent = nullptr;
     HWND m_list = nullptr;
     HANDLE m_process = nullptr;
     Held<IAccessible> m_object;
+};
+
+class AccessProcessTable : public AccessProcess
+{
+protected:
+    AccessProcessTable() : AccessProcess("ShowsATable") {}
 };
 
 TEST_F(AccessProcess, FindsEveryCellByRowAndColumn)
@@ -247,15 +328,14 @@ TEST_F(AccessProcess, KeptObjectsAnswerAfterTheListsEnd)
     EXPECT_EQ(m_object->accDoDefaultAction(Number(CellNumber(1, 1))), CO_E_OBJNOTCONNECTED);
 }
 
-// Ten thousand calls, each of which makes objects on both sides.
-TEST_F(AccessProcess, LeavesNothingBehindInEitherProcess)
+void AccessProcess::ExpectNothingLeft(int firstValue, int step)
 {
     auto const call = [&](int times) {
         for (int i = 0; i < times; ++i)
         {
             Held<IAccessible> row;
             ASSERT_TRUE(TakeChild(*m_object.Get(), i % rows + 1, row));
-            ASSERT_EQ(ValueOf(*row.Get(), 3), std::to_wstring(i % rows * 10).c_str());
+            ASSERT_EQ(ValueOf(*row.Get(), 3), std::to_wstring(firstValue + i % rows * step).c_str());
         }
     };
     auto const ask = [&] {
@@ -282,5 +362,81 @@ TEST_F(AccessProcess, LeavesNothingBehindInEitherProcess)
     constexpr DWORD of_the_system = 20;
     EXPECT_LE(Handles(m_process), farHandles + of_the_system);
     EXPECT_LE(Handles(::GetCurrentProcess()), nearHandles + of_the_system);
+}
+
+TEST_F(AccessProcess, LeavesNothingBehindInEitherProcess)
+{
+    ExpectNothingLeft(0, 10);
+}
+
+// The columns shown are the second, the first, and from the third on; the rows stand upside down.
+TEST_F(AccessProcessTable, FindsEveryCellByRowAndColumn)
+{
+    constexpr int shown = columns - 1;
+    wchar_t const * const names[shown] = {L"c1", L"c0", L"c2", L"c3", L"c4"};
+    long const roles[shown] = {ROLE_SYSTEM_CHECKBUTTON, ROLE_SYSTEM_CELL, ROLE_SYSTEM_CELL, ROLE_SYSTEM_LINK,
+                               ROLE_SYSTEM_PROGRESSBAR};
+    EXPECT_EQ(RoleOf(*m_object.Get()), ROLE_SYSTEM_LIST);
+    ASSERT_EQ(CountOf(*m_object.Get()), rows);
+    for (long place = 0; place < rows; ++place)
+    {
+        long const row = rows - 1 - place;
+        Held<IAccessible> found;
+        ASSERT_TRUE(TakeChild(*m_object.Get(), place + 1, found));
+        ASSERT_EQ(RoleOf(*found.Get()), ROLE_SYSTEM_LISTITEM);
+        ASSERT_EQ(CountOf(*found.Get()), shown);
+        for (long col = 0; col < shown; ++col)
+        {
+            Held<IAccessible> cell;
+            ASSERT_TRUE(TakeChild(*found.Get(), col + 1, cell));
+            ASSERT_EQ(RoleOf(*cell.Get()), roles[col]) << row << ' ' << col;
+            ASSERT_EQ(NameOf(*cell.Get()), names[col]);
+        }
+        ASSERT_EQ(ValueOf(*found.Get(), 2), (L"r" + std::to_wstring(row)).c_str());
+        ASSERT_EQ(ValueOf(*found.Get(), 3), std::to_wstring(row * 10).c_str());
+        ASSERT_EQ(ValueOf(*found.Get(), 5), (std::to_wstring(row * 5) + L"%").c_str());
+    }
+}
+
+TEST_F(AccessProcessTable, TogglesSelectsAndHears)
+{
+    FarListener listener(m_list);
+    EXPECT_EQ(ActionOf(*m_object.Get(), CellNumber(3, 0)), L"Check");
+    EXPECT_EQ(m_object->accDoDefaultAction(Number(CellNumber(3, 0))), S_OK);
+    EXPECT_NE(StatesOf(*m_object.Get(), CellNumber(3, 0)) & STATE_SYSTEM_CHECKED, 0);
+    EXPECT_TRUE(listener.WaitFor(EVENT_OBJECT_STATECHANGE, {3, 0}));
+    EXPECT_EQ(m_object->accDoDefaultAction(Number(CellNumber(3, 2))), DISP_E_MEMBERNOTFOUND);
+    EXPECT_EQ(m_object->accSelect(SELFLAG_TAKESELECTION, Number(6)), S_OK);
+    EXPECT_TRUE(listener.WaitFor(EVENT_OBJECT_SELECTION, {5, -1}));
+    EXPECT_EQ(m_object->accSelect(SELFLAG_ADDSELECTION, Number(8)), S_OK);
+    VARIANT selected{};
+    ASSERT_EQ(m_object->get_accSelection(&selected), S_OK);
+    ASSERT_EQ(selected.vt, VT_UNKNOWN);
+    Held<IEnumVARIANT> several;
+    selected.punkVal->QueryInterface(__uuidof(IEnumVARIANT), reinterpret_cast<void **>(several.Out()));
+    selected.punkVal->Release();
+    VARIANT given[3]{};
+    ULONG count = 0;
+    EXPECT_EQ(several->Next(3, given, &count), S_FALSE);
+    EXPECT_EQ(count, 2U);
+    for (VARIANT & each : given)
+        ::VariantClear(&each);
+}
+
+TEST_F(AccessProcessTable, KeptObjectsAnswerAfterTheTablesEnd)
+{
+    Held<IAccessible> row;
+    ASSERT_TRUE(TakeChild(*m_object.Get(), 2, row));
+    ::SendMessageW(m_parent, end_list, 0, 0);
+    BSTR text = nullptr;
+    long count = 0;
+    EXPECT_EQ(row->get_accName(Number(0), &text), CO_E_OBJNOTCONNECTED);
+    EXPECT_EQ(m_object->get_accChildCount(&count), CO_E_OBJNOTCONNECTED);
+    EXPECT_EQ(m_object->accDoDefaultAction(Number(CellNumber(1, 0))), CO_E_OBJNOTCONNECTED);
+}
+
+TEST_F(AccessProcessTable, LeavesNothingBehindInEitherProcess)
+{
+    ExpectNothingLeft((rows - 1) * 10, -10);
 }
 } // namespace

@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include <cstring>
+#include <algorithm>
 #include <vector>
 
 #include "GdiHandleCount.h"
@@ -69,8 +69,8 @@ using Dialog3dOpenings = DialogTest;
 
 TEST_F(Dialog3dLifecycle, WithoutALibraryTheTemplateIsTheApplications)
 {
-    AFX_EXTENSION_MODULE const none{};
-    EXPECT_EQ(std::memcmp(&CDialog3d::NO_DLL, &none, sizeof(none)), 0);
+    auto const bytes = reinterpret_cast<unsigned char const *>(&CDialog3d::NO_DLL);
+    EXPECT_EQ(std::count(bytes, bytes + sizeof(CDialog3d::NO_DLL), 0), std::ptrdiff_t{sizeof(CDialog3d::NO_DLL)});
     TestDialog dialog(IDD_TOOLKITS_NUMBER);
     {
         ResourceScope const scope(ToolkitModule());

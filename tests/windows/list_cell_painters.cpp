@@ -25,7 +25,7 @@ protected:
         m_canvas.Fill(untouched);
         XLISTCTRLDATA const & cell = Data(1, 1);
         CellLook look;
-        look.palette = CellPalette::OfSystem();
+        look.palette = control_colors::Of(ControlColorSet::standard);
         look.alignment = m_alignment;
         look.ellipsis = m_list.GetEllipsis();
         look.padding = m_list.GetCellPadding();

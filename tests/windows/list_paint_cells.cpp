@@ -130,7 +130,7 @@ TEST_F(ListPaintCells, TextFollowsTheColumnsAlignment)
     EXPECT_GE(right.right, column_width - padding - 2);
     EXPECT_LE(right.right, column_width - padding);
     Paint(0, 2);
-    EXPECT_NEAR(Bounds(ink, Cell(0, 2)).CenterPoint().x, column_width / 2, 2);
+    EXPECT_NEAR(Bounds(ink, Cell(0, 2)).CenterPoint().x, column_width / 2.0, 2);
 }
 
 TEST_F(ListPaintCells, TooLongATextEndsInAnEllipsisIfThatIsOn)
@@ -437,7 +437,7 @@ TEST_F(ListPaintCells, AWashFadesOutToTheRight)
     EXPECT_LT(former, 255);
     // At 0.3 of 1.05 widths the colour still covers 240 of 255 parts.
     int const bend = cell.left + 1 + static_cast<int>(0.3 * 1.05 * (column_width - 2));
-    EXPECT_NEAR(GetRValue(m_canvas.Pixel(bend, y)), 10 + 245 * 15 / 255, 5);
+    EXPECT_NEAR(GetRValue(m_canvas.Pixel(bend, y)), 10 + 245 * 15 / 255.0, 5);
 }
 
 TEST_F(ListPaintCells, ACustomCellIsPaintedByItsOwnAlone)

@@ -89,7 +89,7 @@ protected:
     }
 
     /// Has the cell run that when it is painted, once.
-    void WhenPainted(int row, int col, std::function<void()> action)
+    void WhenPainted(int row, int col, std::function<void()> const & action)
     {
         m_list->SetCustomDraw(row, col, [this, row, col, action](int, int, CDC * dc, CRect const & rect) {
             if (m_ran)

@@ -136,7 +136,7 @@ TEST_F(ListPaintProgress, TheTextIsCentred)
     Make(true, L"X");
     m_list.UpdateProgress(row, column, 4, 0);
     Show(4);
-    EXPECT_NEAR(Bounds(ink, Cell(row, column)).CenterPoint().x, column_width / 2, 2);
+    EXPECT_NEAR(Bounds(ink, Cell(row, column)).CenterPoint().x, column_width / 2.0, 2);
 }
 
 TEST_F(ListPaintProgress, ABarAtZeroShowsNoText)

@@ -248,7 +248,7 @@ TEST_F(ListPaintStates, AnEmptyListShowsItsTextBelowTheHeader)
     CRect const text = m_canvas.BoundsOfOther(Sys(COLOR_WINDOW));
     EXPECT_GE(text.top, header.bottom + 10);
     EXPECT_LE(text.top, header.bottom + 10 + 8);
-    EXPECT_NEAR(text.CenterPoint().x, m_canvas.Width() / 2, 3);
+    EXPECT_NEAR(text.CenterPoint().x, m_canvas.Width() / 2.0, 3);
 }
 
 TEST_F(ListPaintStates, AListWithRowsShowsNoEmptyText)

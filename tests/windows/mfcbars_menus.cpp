@@ -153,11 +153,11 @@ TEST_F(MfcMenus, AltLeadsToTheBarAndAway)
     tests::Key(VK_LEFT);
     EXPECT_TRUE(tests::PumpUntil([&] { return HighlightedName() == L"&Help"; }));
     tests::Key(VK_MENU);
-    EXPECT_TRUE(tests::PumpUntil([&] { return HighlightedName() == L""; }));
+    EXPECT_TRUE(tests::PumpUntil([&] { return HighlightedName().empty(); }));
     tests::Key(VK_F10);
     EXPECT_TRUE(tests::PumpUntil([&] { return HighlightedName() == L"&File"; }));
     tests::Key(VK_ESCAPE);
-    EXPECT_TRUE(tests::PumpUntil([&] { return HighlightedName() == L""; }));
+    EXPECT_TRUE(tests::PumpUntil([&] { return HighlightedName().empty(); }));
 }
 
 TEST_F(MfcMenus, KeysWalkThroughTheMenus)

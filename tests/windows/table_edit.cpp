@@ -1,5 +1,6 @@
 // Cells that are typed into, ticks by the keyboard, and the menu at a cell.
 
+#include "ResourceReader.h"
 #include "table_TableTest.h"
 
 #include <afxcmn.h>
@@ -218,6 +219,26 @@ TEST_F(TableEdits, ARefusedTextStaysOpenWithTheReason)
     EXPECT_EQ(source->At(1).number, 200);
 }
 
+TEST_F(TableEdits, ModuleSaysWhyWhereNobodyElseDoes)
+{
+    auto const reasonOf = [&](unsigned int column, wchar_t const * text) {
+        EXPECT_TRUE(table->EditCell(0, column));
+        SetText(text);
+        EXPECT_FALSE(table->EndEdit(true));
+        EXPECT_TRUE(tests::PumpUntil([] { return !Reason().empty(); }));
+        std::wstring reason = Reason();
+        table->EndEdit(false);
+        return reason;
+    };
+    table->m_onEditRefused = nullptr;
+    EXPECT_EQ(reasonOf(TableRowsSource::number_column, L"many"), L"This is not a number.");
+    EXPECT_EQ(reasonOf(TableRowsSource::number_column, L"2000"), L"too much") << "the check knows better";
+    EXPECT_EQ(reasonOf(TableRowsSource::name_column, TableRowsSource::refused_name), L"This value was not accepted.");
+    table->m_onEditRefused = [](TableRow, unsigned int, TableRefused const &) { return std::wstring(); };
+    tests::ScopedLanguage const german(MAKELANGID(LANG_GERMAN, SUBLANG_GERMAN));
+    EXPECT_EQ(reasonOf(TableRowsSource::number_column, L"many"), L"Das ist keine Zahl.");
+}
+
 TEST_F(TableEdits, WhatCannotBeReadAndWhatTheSourceRefusesStayOpen)
 {
     table->m_onEditRefused = [this](TableRow row, unsigned int, TableRefused const & refused) -> std::wstring {
@@ -392,6 +413,51 @@ TEST_F(TableEdits, TheTableMayEndWithAnEdit)
     table->UpdateNow();
     EXPECT_TRUE(table->EndEdit(true));
     EXPECT_FALSE(table->IsEditing());
+}
+
+/// Does something within each notification of some native code.
+class NotifiedParent : public tests::ScopedWindow
+{
+public:
+    std::function<void()> m_onNotify;
+
+protected:
+    BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT * result) override
+    {
+        if (auto const act = m_onNotify)
+            act();
+        return ScopedWindow::OnNotify(wParam, lParam, result);
+    }
+};
+
+TEST_F(TableEdits, ColumnsMayGoWhileTheEditsPlaceIsLookedFor)
+{
+    NotifiedParent host;
+    table = std::make_unique<tests::TestTable>();
+    table->SetColumns(Columns());
+    ASSERT_TRUE(table->Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 380, 220), host, 7));
+    Show({1, 2, 3, 4});
+    auto columns = Columns();
+    columns.resize(1);
+    columns[0].editable = false;
+    // In the first notification, in the second one, and so on.
+    int told = 0;
+    for (int when = 1; when == 1 || told >= when - 1; ++when)
+    {
+        table->EndEdit(false);
+        table->SetColumns(Columns());
+        tests::PumpPosted();
+        told = 0;
+        host.m_onNotify = [&] {
+            if (++told == when)
+                table->SetColumns(columns);
+        };
+        bool const opened = table->EditCell(1, 1);
+        EXPECT_EQ(opened, told < when) << when;
+        host.m_onNotify = {};
+    }
+    EXPECT_GT(told, 0);
+    table.reset();
 }
 
 TEST_F(TableEdits, RowsThatArePaintedLeaveTheEditAsItIs)

@@ -27,7 +27,7 @@ bool OtherThreadGets(CSyncObject & object)
 
 std::string Contents(HGLOBAL memory, size_t size)
 {
-    std::string const contents(static_cast<char const *>(::GlobalLock(memory)), size);
+    std::string contents(static_cast<char const *>(::GlobalLock(memory)), size);
     ::GlobalUnlock(memory);
     return contents;
 }

@@ -48,7 +48,7 @@ std::filesystem::path WriteRecording(std::size_t frames, char const * name = "ha
     for (std::size_t i = frames / 2; i < frames; ++i)
         samples[i] = static_cast<std::int16_t>(32767 * std::sin(std::numbers::pi / 4 * static_cast<double>(i)));
     auto const file = wav::File().Chunk("fmt ", wav::Format(1, 1, 48000, 2, 16)).Chunk("data", wav::Samples16(samples));
-    auto const path = std::filesystem::temp_directory_path() / (std::to_string(::GetCurrentProcessId()) + "_" + name);
+    auto path = std::filesystem::temp_directory_path() / (std::to_string(::GetCurrentProcessId()) + "_" + name);
     std::ofstream stream(path, std::ios::binary);
     stream.write(reinterpret_cast<char const *>(file.Content().data()),
                  static_cast<std::streamsize>(file.Content().size()));

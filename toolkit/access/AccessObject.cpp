@@ -103,30 +103,22 @@ bool ComCallsThisThread()
     return known == S_OK && type != APTTYPE_MTA;
 }
 
-/// Elements one after the other.
-class ElementList;
-
-/// One element. Children are objects of their own, so that each can be kept.
-class AccessObject final : public IAccessible
+/// An object that ends with the last reference to it. It begins with one, its maker's.
+template <class Interface, class... Bases> class Counted : public Interface
 {
 public:
-    AccessObject(std::shared_ptr<AccessTarget> target, Element element)
-        : m_target(std::move(target)),
-          m_element(element)
-    {
-    }
-    AccessObject(AccessObject const &) = delete;
-    AccessObject & operator=(AccessObject const &) = delete;
+    Counted(Counted const &) = delete;
+    Counted & operator=(Counted const &) = delete;
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void ** result) override
     {
         if (result == nullptr)
             return E_POINTER;
         *result = nullptr;
-        if (!::IsEqualIID(id, __uuidof(IUnknown)) && !::IsEqualIID(id, __uuidof(IDispatch)) &&
-            !::IsEqualIID(id, __uuidof(IAccessible)))
+        if (!::IsEqualIID(id, __uuidof(IUnknown)) && !::IsEqualIID(id, __uuidof(Interface)) &&
+            !(::IsEqualIID(id, __uuidof(Bases)) || ...))
             return E_NOINTERFACE;
-        *result = static_cast<IAccessible *>(this);
+        *result = static_cast<Interface *>(this);
         AddRef();
         return S_OK;
     }
@@ -137,6 +129,27 @@ public:
         if (left == 0)
             delete this;
         return left;
+    }
+
+protected:
+    Counted() = default;
+    virtual ~Counted() = default;
+
+private:
+    std::atomic<ULONG> m_references = 1;
+};
+
+/// Elements one after the other.
+class ElementList;
+
+/// One element. Children are objects of their own, so that each can be kept.
+class AccessObject final : public Counted<IAccessible, IDispatch>
+{
+public:
+    AccessObject(std::shared_ptr<AccessTarget> target, Element element)
+        : m_target(std::move(target)),
+          m_element(element)
+    {
     }
 
     HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT * count) override
@@ -304,7 +317,7 @@ public:
     HRESULT STDMETHODCALLTYPE put_accValue(VARIANT, BSTR) override { return DISP_E_MEMBERNOTFOUND; }
 
 private:
-    ~AccessObject() = default;
+    ~AccessObject() override = default;
 
     IAccessible * Object(Element element) const { return new AccessObject(m_target, element); }
 
@@ -408,7 +421,6 @@ private:
         return Asked([] { return S_FALSE; });
     }
 
-    std::atomic<ULONG> m_references = 1;
     std::shared_ptr<AccessTarget> m_target;
     Element m_element;
 
@@ -416,47 +428,27 @@ private:
 };
 
 /// Several selected elements, one after the other.
-class ElementList final : public IEnumVARIANT
+class ElementList final : public Counted<IEnumVARIANT>
 {
 public:
-    ElementList(std::shared_ptr<AccessTarget> target, std::vector<Element> elements, std::size_t next)
+    /// next: the one given next; nothing at the end.
+    ElementList(std::shared_ptr<AccessTarget> target, std::optional<Element> next)
         : m_target(std::move(target)),
-          m_elements(std::move(elements)),
           m_next(next)
     {
     }
-    ElementList(ElementList const &) = delete;
-    ElementList & operator=(ElementList const &) = delete;
 
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void ** result) override
-    {
-        if (result == nullptr)
-            return E_POINTER;
-        *result = nullptr;
-        if (!::IsEqualIID(id, __uuidof(IUnknown)) && !::IsEqualIID(id, __uuidof(IEnumVARIANT)))
-            return E_NOINTERFACE;
-        *result = static_cast<IEnumVARIANT *>(this);
-        AddRef();
-        return S_OK;
-    }
-    ULONG STDMETHODCALLTYPE AddRef() override { return ++m_references; }
-    ULONG STDMETHODCALLTYPE Release() override
-    {
-        ULONG const left = --m_references;
-        if (left == 0)
-            delete this;
-        return left;
-    }
     HRESULT STDMETHODCALLTYPE Next(ULONG wanted, VARIANT * results, ULONG * given) override
     {
         if (results == nullptr)
             return E_POINTER;
         ULONG count = 0;
         HRESULT const result = Guarded([&]() -> HRESULT {
-            for (; count < wanted && m_next < m_elements.size(); ++count, ++m_next)
+            for (; count < wanted && Going(); ++count)
             {
-                results[count].pdispVal = new AccessObject(m_target, m_elements[m_next]);
+                results[count].pdispVal = new AccessObject(m_target, *m_next);
                 results[count].vt = VT_DISPATCH;
+                m_next = m_target->NextSelected(*m_next);
             }
             return count == wanted ? S_OK : S_FALSE;
         });
@@ -466,14 +458,18 @@ public:
     }
     HRESULT STDMETHODCALLTYPE Skip(ULONG count) override
     {
-        std::size_t const left = m_elements.size() - m_next;
-        m_next += count < left ? count : left;
-        return count <= left ? S_OK : S_FALSE;
+        return Guarded([&]() -> HRESULT {
+            for (; count > 0 && Going(); --count)
+                m_next = m_target->NextSelected(*m_next);
+            return count == 0 ? S_OK : S_FALSE;
+        });
     }
     HRESULT STDMETHODCALLTYPE Reset() override
     {
-        m_next = 0;
-        return S_OK;
+        return Guarded([&]() -> HRESULT {
+            m_next = m_target->IsThere() ? m_target->NextSelected({}) : std::nullopt;
+            return S_OK;
+        });
     }
     HRESULT STDMETHODCALLTYPE Clone(IEnumVARIANT ** copy) override
     {
@@ -481,18 +477,19 @@ public:
             return E_POINTER;
         *copy = nullptr;
         return Guarded([&]() -> HRESULT {
-            *copy = new ElementList(m_target, m_elements, m_next);
+            *copy = new ElementList(m_target, m_next);
             return S_OK;
         });
     }
 
 private:
-    ~ElementList() = default;
+    ~ElementList() override = default;
 
-    std::atomic<ULONG> m_references = 1;
+    /// Whether there is one to be given.
+    bool Going() const { return m_next && m_target->IsThere(); }
+
     std::shared_ptr<AccessTarget> m_target;
-    std::vector<Element> m_elements;
-    std::size_t m_next;
+    std::optional<Element> m_next;
 };
 
 HRESULT STDMETHODCALLTYPE AccessObject::get_accSelection(VARIANT * selection)
@@ -503,12 +500,12 @@ HRESULT STDMETHODCALLTYPE AccessObject::get_accSelection(VARIANT * selection)
     return Asked([&]() -> HRESULT {
         if (!m_element.IsControl())
             return S_FALSE;
-        auto selected = m_target->Selected();
-        if (selected.empty())
+        auto const first = m_target->NextSelected({});
+        if (!first)
             return S_FALSE;
-        if (selected.size() == 1)
-            return Give(selected.front(), selection);
-        selection->punkVal = new ElementList(m_target, std::move(selected), 0);
+        if (!m_target->IsThere() || !m_target->NextSelected(*first))
+            return Give(*first, selection);
+        selection->punkVal = new ElementList(m_target, first);
         selection->vt = VT_UNKNOWN;
         return S_OK;
     });

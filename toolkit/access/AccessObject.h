@@ -33,7 +33,9 @@ public:
     virtual bool Act(accessible::Element) { return false; }
     /// The control itself for none.
     virtual accessible::Element Focused() { return {}; }
-    virtual std::vector<accessible::Element> Selected() { return {}; }
+    /// The first selected element behind another one, of the control itself for the first of all. Asked for one after
+    /// the other, so that nobody has to keep as many as there are.
+    virtual std::optional<accessible::Element> NextSelected(accessible::Element) { return {}; }
     /// flags: SELFLAG_ bits; false if the element can't be selected.
     virtual bool Select(accessible::Element, long flags);
 };

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "frame/OwnTexts.h"
+
 namespace accessible
 {
 namespace
@@ -85,7 +87,7 @@ Description DescribeButton(ControlFacts const & facts, bool pressed)
     Name(described, facts.text, facts.label);
     if (pressed)
         described.states |= state::pressed;
-    Act(described, L"Press");
+    Act(described, ReadOwnText(OwnText::press));
     return described;
 }
 
@@ -120,20 +122,21 @@ Description DescribeCombo(ControlFacts const & facts, std::wstring const & shown
     Name(described, facts.label, L"");
     described.value = shown;
     described.states |= state::has_popup | (dropped ? state::expanded : state::collapsed);
-    Act(described, dropped ? L"Close" : L"Open");
+    Act(described, ReadOwnText(dropped ? OwnText::close : OwnText::open));
     return described;
 }
 
 Description DescribeChoice(ItemFacts const & facts)
 {
-    Description described = DescribeItem(Role::row, facts, L"Select");
+    Description described = DescribeItem(Role::row, facts, ReadOwnText(OwnText::select));
     described.states |= state::selectable | state::focusable;
     return described;
 }
 
 Description DescribeTick(ItemFacts const & facts, bool ticked)
 {
-    Description described = DescribeItem(Role::check_box, facts, ticked ? L"Uncheck" : L"Check");
+    Description described =
+        DescribeItem(Role::check_box, facts, ReadOwnText(ticked ? OwnText::uncheck : OwnText::check));
     described.states |= state::selectable | state::focusable;
     if (ticked)
         described.states |= state::checked;
@@ -142,7 +145,7 @@ Description DescribeTick(ItemFacts const & facts, bool ticked)
 
 Description DescribeColumn(ItemFacts const & facts, HeaderMark mark, bool canBePressed)
 {
-    Description described = DescribeItem(Role::column_header, facts, canBePressed ? L"Press" : L"");
+    Description described = DescribeItem(Role::column_header, facts, canBePressed ? ReadOwnText(OwnText::press) : L"");
     switch (mark)
     {
     case HeaderMark::checked:
@@ -152,10 +155,10 @@ Description DescribeColumn(ItemFacts const & facts, HeaderMark mark, bool canBeP
         described.states |= state::mixed;
         break;
     case HeaderMark::ascending:
-        described.value = L"Ascending";
+        described.value = ReadOwnText(OwnText::ascending);
         break;
     case HeaderMark::descending:
-        described.value = L"Descending";
+        described.value = ReadOwnText(OwnText::descending);
         break;
     case HeaderMark::none:
     case HeaderMark::unchecked:

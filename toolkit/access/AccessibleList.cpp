@@ -1,5 +1,6 @@
 #include "access/AccessibleList.h"
 
+#include "frame/OwnTexts.h"
 #include "list/CellKind.h"
 
 namespace
@@ -25,7 +26,7 @@ long PlaceStates(AccessibleList const & list, Element element)
 {
     auto const rect = accessible::RectOf(list, element);
     CRect common;
-    return rect && common.IntersectRect(*rect, list.ClientRect()) ? 0 : accessible::state::offscreen;
+    return rect && common.IntersectRect(*rect, list.SightRect(element.col)) ? 0 : accessible::state::offscreen;
 }
 
 accessible::Description DescribeRow(AccessibleList const & list, int row)
@@ -33,9 +34,9 @@ accessible::Description DescribeRow(AccessibleList const & list, int row)
     accessible::Description row_described;
     row_described.role = Role::row;
     row_described.states = accessible::state::selectable | accessible::state::focusable | PlaceStates(list, {row, -1});
-    if (list.NextSelected(row - 1) == row)
+    if (list.IsSelected(row))
         row_described.states |= accessible::state::selected;
-    if (list.FocusedRow() == row && list.FocusedCol() < 0 && list.HasFocus())
+    if (list.HasFocus() && list.FocusedCol() < 0 && list.IsFocused(row))
         row_described.states |= accessible::state::focused;
     if (!list.IsEnabled())
         row_described.states |= accessible::state::unavailable;
@@ -52,7 +53,7 @@ accessible::Description DescribeCell(AccessibleList const & list, int row, int c
     if (int const cursor = list.FocusedCol(); cursor >= 0)
     {
         described.states |= accessible::state::focusable;
-        if (cursor == col && list.FocusedRow() == row && list.HasFocus())
+        if (cursor == col && list.HasFocus() && list.IsFocused(row))
             described.states |= accessible::state::focused;
     }
     bool const enabled = list.IsEnabled();
@@ -67,7 +68,9 @@ accessible::Description DescribeCell(AccessibleList const & list, int row, int c
     else
     {
         described.role = kindText ? Role::cell : accessible::RoleOf(*cell);
-        described.action = kindText ? L"Press" : accessible::ActionOf(*cell);
+        described.action = kindText ? ReadOwnText(OwnText::press) : accessible::ActionOf(*cell);
+        if (described.role == Role::check_box && !list.CanTick(col))
+            described.action.clear();
         if (kindText)
             described.value = *kindText;
         else if (described.role == Role::progress)
@@ -208,15 +211,15 @@ wchar_t const * ActionOf(XLISTCTRLDATA const & cell)
     switch (DecideAdmittedPress(cell))
     {
     case CellPress::open_combo:
-        return L"Open";
+        return ReadOwnText(OwnText::open);
     case CellPress::open_edit:
-        return L"Edit";
+        return ReadOwnText(OwnText::edit);
     case CellPress::follow_link:
-        return L"Jump";
+        return ReadOwnText(OwnText::jump);
     case CellPress::flip_check:
-        return cell.checkedState == XLC_CHECKED ? L"Uncheck" : L"Check";
+        return ReadOwnText(cell.checkedState == XLC_CHECKED ? OwnText::uncheck : OwnText::check);
     case CellPress::switch_radio_on:
-        return L"Check";
+        return ReadOwnText(OwnText::check);
     case CellPress::ignored:
     case CellPress::select_only:
         break;

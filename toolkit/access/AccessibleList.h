@@ -17,7 +17,7 @@ class AccessibleList
 public:
     virtual int RowCount() const = 0;
     virtual int ColumnCount() const = 0;
-    /// Null for a place without a cell.
+    /// Null for a place without a cell. Serves until the next question.
     virtual XLISTCTRLDATA const * Cell(int row, int col) const = 0;
     virtual std::wstring Text(int row, int col) const = 0;
     virtual std::wstring Title(int col) const = 0;
@@ -28,6 +28,8 @@ public:
     virtual std::optional<CRect> CellRect(int row, int col) const = 0;
     virtual std::optional<CRect> RowRect(int row) const = 0;
     virtual CRect ClientRect() const = 0;
+    /// Where the cells of a column show; with -1, where rows do.
+    virtual CRect SightRect(int /*col*/) const { return ClientRect(); }
     /// -1 where there is none.
     virtual std::pair<int, int> CellAt(CPoint point) const = 0;
 
@@ -35,10 +37,14 @@ public:
     virtual bool HasFocus() const = 0;
     virtual bool IsMultiSelect() const = 0;
     virtual int FocusedRow() const = 0;
+    virtual bool IsFocused(int row) const { return FocusedRow() == row; }
     /// The column of the cell cursor; -1 without one.
     virtual int FocusedCol() const = 0;
     /// -1 behind the last one.
     virtual int NextSelected(int after) const = 0;
+    virtual bool IsSelected(int row) const { return NextSelected(row - 1) == row; }
+    /// Whether the user can tick a column's check boxes.
+    virtual bool CanTick(int /*col*/) const { return true; }
 
 protected:
     ~AccessibleList() = default;

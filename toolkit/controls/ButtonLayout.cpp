@@ -28,10 +28,10 @@ CPoint ButtonIconOrigin(CRect const & area, int edge)
     return CPoint(centre.x - edge / 2, centre.y - edge / 2);
 }
 
-CPoint ButtonCaptionOrigin(CRect const & area, CSize extent, bool pressed)
+CPoint ButtonCaptionOrigin(CRect const & area, CSize extent, bool pressed, int by)
 {
     CPoint const centre = CentreOf(area);
-    int const moved = pressed ? 1 : 0;
+    int const moved = pressed ? by : 0;
     return CPoint(centre.x - extent.cx / 2 + moved, centre.y - extent.cy / 2 + moved);
 }
 

@@ -20,8 +20,8 @@ bool ButtonIsFilled(bool framed, COLORREF background, COLORREF buttonFace);
 /// Where an icon of that edge starts, so that it is centred.
 CPoint ButtonIconOrigin(CRect const & area, int edge);
 
-/// Where a caption of that extent starts; a pressed button moves it by a pixel.
-CPoint ButtonCaptionOrigin(CRect const & area, CSize extent, bool pressed);
+/// Where a caption of that extent starts; a pressed button moves it by so many pixels.
+CPoint ButtonCaptionOrigin(CRect const & area, CSize extent, bool pressed, int by = 1);
 
 constexpr int color_table_size = 12;
 

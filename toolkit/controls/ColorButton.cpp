@@ -4,7 +4,10 @@
 #include <memory>
 
 #include "access/ControlTarget.h"
+#include "colours/ControlColors.h"
 #include "controls/ButtonLayout.h"
+#include "layout/StretchedImages.h"
+#include "layout/WindowDpi.h"
 
 namespace
 {
@@ -52,6 +55,16 @@ void CColorButton::DrawFocusFrame(bool draw)
     m_drawFocusFrame = draw;
 }
 
+BOOL CColorButton::SetDpi(UINT dpi)
+{
+    return window_dpi::SetAndRepaint(*this, m_dpi, dpi);
+}
+
+void CColorButton::FollowDpi(BOOL follow)
+{
+    window_dpi::Follow(*this, m_followsDpi, follow);
+}
+
 void CColorButton::PreSubclassWindow()
 {
     LifeWatch const life(m_lifeSign);
@@ -60,6 +73,7 @@ void CColorButton::PreSubclassWindow()
         return;
     m_hot = false; // a former window's timer is gone
     ModifyStyle(0, BS_OWNERDRAW);
+    window_dpi::Begin(*this, m_followsDpi);
 }
 
 void CColorButton::DrawItem(LPDRAWITEMSTRUCT item)
@@ -71,7 +85,15 @@ void CColorButton::DrawItem(LPDRAWITEMSTRUCT item)
     bool const pressed = (item->itemState & ODS_SELECTED) != 0;
     ButtonLook const look = LookOfButton((item->itemState & ODS_DISABLED) != 0, m_hot);
 
-    if (m_drawFrame)
+    ControlColors const colors = control_colors::Of(m_hWnd);
+    if (colors.adapts)
+    {
+        dc->FillSolidRect(area, colors.face);
+        if (m_drawFrame)
+            dc->Draw3dRect(area, pressed ? colors.edgeShadow : colors.edgeDark,
+                           pressed ? colors.edgeDark : colors.edgeShadow);
+    }
+    else if (m_drawFrame)
         dc->DrawFrameControl(area, DFC_BUTTON, DFCS_BUTTONPUSH | (pressed ? DFCS_PUSHED : 0));
     if (m_drawFocusFrame && m_hot)
     {
@@ -79,12 +101,14 @@ void CColorButton::DrawItem(LPDRAWITEMSTRUCT item)
         dc->Rectangle(area);
         dc->SelectObject(former);
     }
-    area.DeflateRect(::GetSystemMetrics(SM_CXEDGE), ::GetSystemMetrics(SM_CYEDGE));
+    area.DeflateRect(window_dpi::Metric(SM_CXEDGE, m_dpi), window_dpi::Metric(SM_CYEDGE, m_dpi));
     COLORREF const background = look == ButtonLook::disabled ? m_disabledBgColor
                                 : look == ButtonLook::hot    ? m_hotBgColor
                                                              : m_bgColor;
+    bool const usualGround = background == m_colorTable[ButtonFace] || background == ButtonFace;
+    COLORREF const ground = colors.adapts && usualGround ? colors.face : background;
     if (ButtonIsFilled(m_drawFrame, background, m_colorTable[ButtonFace]))
-        dc->FillSolidRect(area, background);
+        dc->FillSolidRect(area, ground);
 
     // The messages below may run the host's code.
     HDC const context = item->hDC;
@@ -96,19 +120,48 @@ void CColorButton::DrawItem(LPDRAWITEMSTRUCT item)
     if (m_icon != nullptr)
     {
         bool const other = look == ButtonLook::disabled && m_disabledIcon != nullptr;
-        CDC::FromHandle(context)->DrawIcon(ButtonIconOrigin(area, m_iconSize), other ? m_disabledIcon : m_icon);
+        HICON const shown = other ? m_disabledIcon : m_icon;
+        CPoint const origin = ButtonIconOrigin(area, resolution::Scaled(m_iconSize, m_dpi));
+        if (m_dpi == resolution::usual)
+            CDC::FromHandle(context)->DrawIcon(origin, shown);
+        else
+            DrawStretchedIcon(*CDC::FromHandle(context), shown, origin, UsualIconSize(m_dpi));
     }
     CString text;
     GetWindowText(text);
     if (life.Over() || text.IsEmpty())
         return;
-    DrawCaption(*CDC::FromHandle(context), area, text, look, pressed);
+    if (colors.adapts)
+        DrawAdaptedCaption(*CDC::FromHandle(context), area, text, look, pressed, ground);
+    else
+        DrawCaption(*CDC::FromHandle(context), area, text, look, pressed);
+}
+
+// In a set other than the standard one. A text that nobody has chosen is read on a ground that somebody has.
+void CColorButton::DrawAdaptedCaption(CDC & dc, CRect const & area, CString const & text, ButtonLook look, bool pressed,
+                                      COLORREF ground)
+{
+    ControlColors const colors = control_colors::Of(m_hWnd);
+    COLORREF ink = look == ButtonLook::disabled ? m_disabledFgColor
+                   : look == ButtonLook::hot    ? m_hotFgColor
+                                                : m_fgColor;
+    if (look == ButtonLook::disabled)
+        ink = control_colors::MarkOn(ground, colors.buttonDisabled,
+                                     control_colors::TextOn(ground, colors.buttonText, colors.window));
+    else if (ink == m_colorTable[ButtonText])
+        ink = control_colors::TextOn(ground, colors.buttonText, colors.window);
+    CPoint const origin = ButtonCaptionOrigin(area, dc.GetTextExtent(text), pressed);
+    int const mode = dc.SetBkMode(TRANSPARENT);
+    COLORREF const former = dc.SetTextColor(ink);
+    dc.TextOut(origin.x, origin.y, text);
+    dc.SetTextColor(former);
+    dc.SetBkMode(mode);
 }
 
 void CColorButton::DrawCaption(CDC & dc, CRect const & area, CString const & text, ButtonLook look, bool pressed)
 {
     CSize const extent = dc.GetTextExtent(text);
-    CPoint const origin = ButtonCaptionOrigin(area, extent, pressed);
+    CPoint const origin = ButtonCaptionOrigin(area, extent, pressed, resolution::LineWidth(1, m_dpi));
     int const mode = dc.SetBkMode(TRANSPARENT);
     COLORREF const color = dc.SetTextColor(look == ButtonLook::disabled ? m_disabledFgColor
                                            : look == ButtonLook::hot    ? m_hotFgColor
@@ -156,5 +209,6 @@ LRESULT CColorButton::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
     if (AsksForControl(message, lParam))
         return AnswerWithObject(std::make_shared<ButtonTarget>(*this, m_lifeSign), wParam);
+    window_dpi::Heed(*this, m_followsDpi, message);
     return CButton::DefWindowProc(message, wParam, lParam);
 }

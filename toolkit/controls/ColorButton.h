@@ -34,6 +34,14 @@ public:
     /// Whether a rectangle in the hot pen is painted while hot.
     void DrawFocusFrame(bool draw);
 
+    /// The dots an inch that it is shown with, 96 at first: icons and distances follow. The font stays the host's.
+    /// FALSE, and nothing else, below 48 and above 960.
+    BOOL SetDpi(UINT dpi);
+    /// See SetDpi.
+    UINT GetDpi() const { return m_dpi; }
+    /// Whether it takes its window's resolution, at once and whenever that changes. Off at first.
+    void FollowDpi(BOOL follow);
+
     /// A caption's '&' underlines the next letter only while the button is disabled, as hosts expect.
     void DrawItem(LPDRAWITEMSTRUCT item) override;
 
@@ -54,6 +62,10 @@ protected:
 
 private:
     void DrawCaption(CDC & dc, CRect const & area, CString const & text, ButtonLook look, bool pressed);
+    void DrawAdaptedCaption(CDC & dc, CRect const & area, CString const & text, ButtonLook look, bool pressed,
+                            COLORREF ground);
 
+    UINT m_dpi = 96;
+    bool m_followsDpi = false;
     LifeSign m_lifeSign;
 };

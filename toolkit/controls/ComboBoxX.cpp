@@ -3,9 +3,11 @@
 #include <algorithm>
 #include <vector>
 
+#include "colours/ControlColors.h"
 #include "controls/FieldWidths.h"
 #include "controls/ItemRows.h"
 #include "controls/TypeAhead.h"
+#include "layout/WindowDpi.h"
 
 namespace
 {
@@ -13,7 +15,7 @@ constexpr UINT_PTR tip_timer = 1;
 constexpr UINT tip_timer_period = 80;
 constexpr int greatest_tip_width = 32767;
 constexpr wchar_t const * blank_text = L"\u2014";
-// From the field's corner, so that the tip's text lies over the field's.
+// From the field's corner at 96 dots an inch, so that the tip's text lies over the field's.
 constexpr int tip_right = 1;
 constexpr int tip_down = 3;
 
@@ -151,7 +153,7 @@ bool CComboBoxX::FitToWidth()
     if (!item_rows::Serves(*this, window))
         return false;
     int const widest = WidestText(window, texts);
-    int const width = DropWidth(widest, ::GetSystemMetrics(SM_CXVSCROLL), ::GetSystemMetrics(SM_CXEDGE));
+    int const width = DropWidth(widest, window_dpi::Metric(SM_CXVSCROLL, m_dpi), window_dpi::Metric(SM_CXEDGE, m_dpi));
     int const present = GetDroppedWidth();
     if (present >= width || !item_rows::Serves(*this, window))
         return false;
@@ -168,6 +170,25 @@ void CComboBoxX::FitToEditWidth()
     SetDroppedWidth(static_cast<UINT>(rect.Width()));
 }
 
+BOOL CComboBoxX::SetDpi(UINT dpi)
+{
+    if (!resolution::IsServed(dpi))
+        return FALSE;
+    m_dpi = dpi;
+    return TRUE;
+}
+
+void CComboBoxX::FollowDpi(BOOL follow)
+{
+    window_dpi::Follow(*this, m_followsDpi, follow);
+}
+
+LRESULT CComboBoxX::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    window_dpi::Heed(*this, m_followsDpi, message);
+    return CComboBox::DefWindowProc(message, wParam, lParam);
+}
+
 void CComboBoxX::PreSubclassWindow()
 {
     HWND const window = m_hWnd;
@@ -175,6 +196,7 @@ void CComboBoxX::PreSubclassWindow()
     if (!item_rows::Serves(*this, window))
         return;
     EndTip();
+    window_dpi::Begin(*this, m_followsDpi);
     HWND const tip = ::CreateWindowExW(0, L"tooltips_class32", nullptr, TTS_ALWAYSTIP | TTS_NOPREFIX, CW_USEDEFAULT,
                                        CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, window, nullptr, nullptr, nullptr);
     m_toolTipWnd = tip;
@@ -191,8 +213,9 @@ void CComboBoxX::PreSubclassWindow()
         tool.cbSize = m_toolInfo.cbSize = TTTOOLINFOW_V2_SIZE;
         ::SendMessage(tip, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
     }
-    ::SendMessage(tip, TTM_SETTIPBKCOLOR, ::GetSysColor(COLOR_HIGHLIGHT), 0);
-    ::SendMessage(tip, TTM_SETTIPTEXTCOLOR, ::GetSysColor(COLOR_HIGHLIGHTTEXT), 0);
+    ControlColors const colors = control_colors::Of(window);
+    ::SendMessage(tip, TTM_SETTIPBKCOLOR, colors.selection, 0);
+    ::SendMessage(tip, TTM_SETTIPTEXTCOLOR, colors.selectionText, 0);
     RECT margin{0, -1, 0, -1};
     ::SendMessage(tip, TTM_SETMARGIN, 0, reinterpret_cast<LPARAM>(&margin));
     ::SendMessage(tip, WM_SETFONT, static_cast<WPARAM>(::SendMessage(window, WM_GETFONT, 0, 0)), FALSE);
@@ -222,7 +245,7 @@ CRect CComboBoxX::TextField() const
 {
     CRect client;
     GetClientRect(client);
-    return ComboTextField(client, ::GetSystemMetrics(SM_CXHTHUMB));
+    return ComboTextField(client, window_dpi::Metric(SM_CXHTHUMB, m_dpi), m_dpi);
 }
 
 BOOL CComboBoxX::PreTranslateMessage(MSG * msg)
@@ -277,14 +300,15 @@ void CComboBoxX::OnMouseMove(UINT flags, CPoint point)
     if (field.PtInRect(point))
     {
         text = ComboField(window).Text();
-        tooWide = IsTooWide(item_rows::TextWidth(window, text), field.Width());
+        tooWide = IsTooWide(item_rows::TextWidth(window, text), field.Width(), m_dpi);
         if (!item_rows::Serves(*this, window))
             return;
     }
     if (tooWide)
     {
         ClientToScreen(field);
-        CPoint const place = field.TopLeft() + CSize(tip_right, tip_down);
+        CPoint const place =
+            field.TopLeft() + CSize(resolution::Scaled(tip_right, m_dpi), resolution::Scaled(tip_down, m_dpi));
         bool const focused = ::GetFocus() == window;
         HWND const tip = m_toolTipWnd;
         TOOLINFOW tool = m_toolInfo;
@@ -292,8 +316,9 @@ void CComboBoxX::OnMouseMove(UINT flags, CPoint point)
         auto const toTip = [tip](UINT message, WPARAM wParam, LPARAM lParam) {
             ::SendMessage(tip, message, wParam, lParam);
         };
-        toTip(TTM_SETTIPBKCOLOR, ::GetSysColor(focused ? COLOR_HIGHLIGHT : COLOR_WINDOW), 0);
-        toTip(TTM_SETTIPTEXTCOLOR, ::GetSysColor(focused ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT), 0);
+        ControlColors const colors = control_colors::Of(window);
+        toTip(TTM_SETTIPBKCOLOR, focused ? colors.selection : colors.window, 0);
+        toTip(TTM_SETTIPTEXTCOLOR, focused ? colors.selectionText : colors.windowText, 0);
         toTip(TTM_UPDATETIPTEXTW, 0, reinterpret_cast<LPARAM>(&tool));
         toTip(TTM_TRACKPOSITION, 0, MAKELPARAM(place.x, place.y));
         toTip(TTM_TRACKACTIVATE, TRUE, reinterpret_cast<LPARAM>(&tool));

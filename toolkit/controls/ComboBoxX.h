@@ -46,11 +46,19 @@ public:
     bool FitToWidth();
     /// Makes the drop-down as wide as the control.
     void FitToEditWidth();
+    /// The dots an inch that it is shown with, 96 at first: the fitted drop-down and the tip follow. The font stays the
+    /// host's. FALSE, and nothing else, below 48 and above 960.
+    BOOL SetDpi(UINT dpi);
+    /// See SetDpi.
+    UINT GetDpi() const { return m_dpi; }
+    /// Whether it takes its window's resolution, at once and whenever that changes. Off at first.
+    void FollowDpi(BOOL follow);
 
     BOOL PreTranslateMessage(MSG * msg) override;
 
 protected:
     void PreSubclassWindow() override;
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT * result) override;
     /// Ends the tip with the window.
     void PostNcDestroy() override;
@@ -73,4 +81,7 @@ private:
     void EndTip();
     void ShowTip(bool show);
     CRect TextField() const;
+
+    UINT m_dpi = 96;
+    bool m_followsDpi = false;
 };

@@ -1,5 +1,7 @@
 #include "controls/FieldWidths.h"
 
+#include "layout/Resolution.h"
+
 namespace
 {
 constexpr int edges_of_a_field = 6;
@@ -8,15 +10,15 @@ constexpr wchar_t const * dots = L"...";
 constexpr int kept_characters = tip_text_room - 1 - 3;
 } // namespace
 
-bool IsTooWide(int textWidth, int fieldWidth)
+bool IsTooWide(int textWidth, int fieldWidth, unsigned int dpi)
 {
-    return textWidth > fieldWidth - edges_of_a_field;
+    return textWidth > fieldWidth - resolution::Scaled(edges_of_a_field, dpi);
 }
 
-CRect ComboTextField(CRect const & client, int thumb)
+CRect ComboTextField(CRect const & client, int thumb, unsigned int dpi)
 {
     CRect field(client);
-    field.right -= thumb + edges_of_a_button;
+    field.right -= thumb + resolution::Scaled(edges_of_a_button, dpi);
     return field;
 }
 

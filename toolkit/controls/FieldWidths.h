@@ -4,12 +4,12 @@
 #include <afx.h>
 #include <atltypes.h>
 
-/// Whether a tip shows the text: a field keeps six pixels for its edges.
-bool IsTooWide(int textWidth, int fieldWidth);
+/// Whether a tip shows the text: a field keeps six pixels for its edges, at 96 dots an inch.
+bool IsTooWide(int textWidth, int fieldWidth, unsigned int dpi = 96);
 
 /// The part of a combo box that shows its text: its client area without the button. thumb: the width of a scroll bar's
 /// thumb.
-CRect ComboTextField(CRect const & client, int thumb);
+CRect ComboTextField(CRect const & client, int thumb, unsigned int dpi = 96);
 
 /// The width that a drop-down needs for its widest text.
 int DropWidth(int widestText, int scrollBar, int edge);

@@ -17,6 +17,13 @@ public:
     CFreeIconButton & operator=(CFreeIconButton const &) = delete;
     ~CFreeIconButton() override;
 
+    /// The dots an inch that it is shown with, 96 at first: its icon follows. The font stays the host's.
+    /// FALSE, and nothing else, below 48 and above 960.
+    BOOL SetDpi(UINT dpi);
+    /// See SetDpi.
+    UINT GetDpi() const { return m_dpi; }
+    /// Whether it takes its window's resolution, at once and whenever that changes. Off at first.
+    void FollowDpi(BOOL follow);
     void DrawItem(LPDRAWITEMSTRUCT item) override;
 
 protected:
@@ -28,5 +35,7 @@ protected:
     HICON m_icon;
 
 private:
+    UINT m_dpi = 96;
+    bool m_followsDpi = false;
     LifeSign m_life;
 };

@@ -2,6 +2,7 @@
 
 #include <iterator>
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include "access/ControlTarget.h"
@@ -10,6 +11,7 @@
 #include "controls/SmallIcon.h"
 #include "frame/RegisteredMessages.h"
 #include "frame/ToolkitResources.h"
+#include "layout/WindowDpi.h"
 #include "resource_ids.h"
 
 namespace
@@ -19,7 +21,7 @@ constexpr UINT select_none_id = 32804;
 constexpr UINT cancel_id = 32805;
 constexpr UINT ok_id = 32806;
 
-/// The strip of buttons has the same height on every screen.
+/// The strip of buttons has the same height on every screen, at 96 dots an inch.
 constexpr int largest_icon = 16;
 
 constexpr DWORD list_style = WS_CHILD | WS_VISIBLE | LVS_LIST | LVS_NOCOLUMNHEADER;
@@ -331,7 +333,7 @@ public:
         if (!MayGoOn() || !button.Create(text, style, place, &m_control, id) || !MayGoOn())
             return;
         if (icon == nullptr)
-            icon = LoadSmallToolkitIcon(iconId, largest_icon);
+            icon = LoadSmallToolkitIcon(iconId, largest_icon, m_control.m_dpi);
         button.SetIcon(icon);
     }
     void MakeToolTip()
@@ -364,6 +366,7 @@ void CIdNameMultiselectCtrl::PreSubclassWindow()
     m_creating = false;
     ModifyStyle(0, BS_OWNERDRAW);
     ModifyStyleEx(0, WS_EX_STATICEDGE);
+    window_dpi::Begin(*this, m_followsDpi);
 }
 
 void CIdNameMultiselectCtrl::CreateControls(CRect & rect)
@@ -373,7 +376,8 @@ void CIdNameMultiselectCtrl::CreateControls(CRect & rect)
     CToolkitResourceExchange const exchange;
     if (m_emptyMapMessage.IsEmpty())
         m_emptyMapMessage = LoadToolkitString(TOOLKIT_STRING_NO_ITEMS);
-    id_name::Places const places = id_name::PlacesIn(rect, m_okCancel);
+    m_partsArea = rect;
+    id_name::Places const places = id_name::PlacesIn(rect, m_okCancel, m_dpi);
     bool const okCancel = m_okCancel;
     {
         Parts parts(*this);
@@ -419,7 +423,16 @@ void CIdNameMultiselectCtrl::OnSize(UINT type, int cx, int cy)
         CreateControls(rect);
         return;
     }
-    id_name::Places const places = id_name::PlacesIn(rect, m_okCancel);
+    m_partsArea = rect;
+    PlaceParts();
+}
+
+void CIdNameMultiselectCtrl::PlaceParts()
+{
+    LifeWatch const life(m_life);
+    HWND const window = m_hWnd;
+    auto const mayGoOn = [&] { return !life.Over() && m_hWnd == window; };
+    id_name::Places const places = id_name::PlacesIn(m_partsArea, m_okCancel, m_dpi);
     struct Part
     {
         CWnd * window;
@@ -440,6 +453,54 @@ void CIdNameMultiselectCtrl::OnSize(UINT type, int cx, int cy)
             return;
         if (button->m_hWnd != nullptr)
             button->ShowWindow(m_okCancel ? SW_SHOW : SW_HIDE);
+    }
+}
+
+BOOL CIdNameMultiselectCtrl::SetDpi(UINT dpi)
+{
+    if (!resolution::IsServed(dpi))
+        return FALSE;
+    if (dpi == m_dpi)
+        return TRUE;
+    m_dpi = dpi;
+    if (!m_controlsCreated)
+        return TRUE;
+    LifeWatch const life(m_life);
+    ScaleIcons();
+    if (!life.Over() && m_controlsCreated && m_hWnd != nullptr)
+        PlaceParts();
+    return TRUE;
+}
+
+void CIdNameMultiselectCtrl::FollowDpi(BOOL follow)
+{
+    window_dpi::Follow(*this, m_followsDpi, follow);
+}
+
+// A button shows its icon until it has the next one.
+void CIdNameMultiselectCtrl::ScaleIcons()
+{
+    struct Part
+    {
+        CButton & button;
+        UINT icon;
+    };
+    Part const parts[] = {{m_selectAll, TOOLKIT_ICON_SELECT_ALL},
+                          {m_selectNone, TOOLKIT_ICON_SELECT_NONE},
+                          {m_cancel, TOOLKIT_ICON_CANCEL},
+                          {m_ok, TOOLKIT_ICON_OK}};
+    LifeWatch const life(m_life);
+    UINT const dpi = m_dpi;
+    std::size_t index = 0;
+    for (Part const & part : parts)
+    {
+        HICON const former = std::exchange(m_icons[index++], LoadSmallToolkitIcon(part.icon, largest_icon, dpi));
+        if (part.button.m_hWnd != nullptr)
+            part.button.SetIcon(m_icons[index - 1]);
+        if (former != nullptr)
+            ::DestroyIcon(former);
+        if (life.Over() || !m_controlsCreated || m_dpi != dpi)
+            return;
     }
 }
 
@@ -525,5 +586,6 @@ LRESULT CIdNameMultiselectCtrl::DefWindowProc(UINT message, WPARAM wParam, LPARA
 {
     if (AsksForControl(message, lParam))
         return AnswerWithObject(std::make_shared<MultiselectAccess>(*this, m_life), wParam);
+    window_dpi::Heed(*this, m_followsDpi, message);
     return CButton::DefWindowProc(message, wParam, lParam);
 }

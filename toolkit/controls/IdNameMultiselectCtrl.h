@@ -69,6 +69,13 @@ public:
     void RetrieveSelection();
     /// The ticks have been read since they were set last.
     bool SelectionRetrieved() const;
+    /// The dots an inch that it is shown with, 96 at first: the strip of buttons and its icons follow. The font stays
+    /// the host's. FALSE, and nothing else, below 48 and above 960.
+    BOOL SetDpi(UINT dpi);
+    /// See SetDpi.
+    UINT GetDpi() const { return m_dpi; }
+    /// Whether it takes its window's resolution, at once and whenever that changes. Off at first.
+    void FollowDpi(BOOL follow);
 
     BOOL PreTranslateMessage(MSG * message) override;
     /// Makes the list and the buttons if there are none yet.
@@ -117,8 +124,14 @@ private:
 
     void EndParts();
     void DestroyIcons();
+    void PlaceParts();
+    void ScaleIcons();
 
     HICON m_icons[4];
     bool m_creating;
+    /// Where the parts are.
+    CRect m_partsArea;
+    UINT m_dpi = 96;
+    bool m_followsDpi = false;
     LifeSign m_life;
 };

@@ -3,10 +3,12 @@
 #include "controls/MultiselectMessages.h"
 #include "frame/RegisteredMessages.h"
 #include "frame/ToolkitResources.h"
+#include "layout/Resolution.h"
 #include "resource_ids.h"
 
 namespace
 {
+// Pixels at 96 dots an inch.
 constexpr int least_width = 100;
 constexpr int least_height = 70;
 } // namespace
@@ -50,7 +52,9 @@ void CIdNameMultiselectDlg::OnSize(UINT type, int cx, int cy)
     CDialogEx::OnSize(type, cx, cy);
     CRect client;
     GetClientRect(&client);
-    if (client.Width() >= least_width && client.Height() >= least_height && m_control.m_hWnd != nullptr)
+    UINT const dpi = m_control.GetDpi();
+    if (client.Width() >= resolution::Scaled(least_width, dpi) &&
+        client.Height() >= resolution::Scaled(least_height, dpi) && m_control.m_hWnd != nullptr)
         m_control.MoveWindow(&client);
 }
 

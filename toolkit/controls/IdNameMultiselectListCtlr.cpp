@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "access/ControlTarget.h"
+#include "access/NativeEvents.h"
 #include "controls/MultiselectMessages.h"
 
 namespace
@@ -125,9 +126,9 @@ BOOL CIdNameMultiselectListCtlr::OnChildNotify(UINT message, WPARAM wParam, LPAR
         accessible::Element const row{change.iItem, -1};
         bool const focused = (changed & change.uNewState & LVIS_FOCUSED) != 0;
         if ((changed & LVIS_STATEIMAGEMASK) != 0 && row.IsRow())
-            TellOfEvent(EVENT_OBJECT_STATECHANGE, window, row);
+            TellUnlessNative(EVENT_OBJECT_STATECHANGE, window, row);
         if (focused && row.IsRow())
-            TellOfEvent(EVENT_OBJECT_FOCUS, window, row);
+            TellUnlessNative(EVENT_OBJECT_FOCUS, window, row);
         if (!IsStillThere(window, this))
             return FALSE;
     }

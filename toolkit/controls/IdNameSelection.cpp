@@ -5,6 +5,8 @@
 #include <utility>
 #include <vector>
 
+#include "layout/Resolution.h"
+
 namespace id_name
 {
 namespace
@@ -110,8 +112,9 @@ Ids EveryId(Map const & map)
 }
 
 CString JoinedNames(Ids const & ids, std::function<CString(int)> const & nameOf,
-                    std::function<int(CString const &)> const & widthOf, int width)
+                    std::function<int(CString const &)> const & widthOf, int width, unsigned int dpi)
 {
+    int const beside = resolution::Scaled(room_beside_names, dpi);
     CString text;
     for (int const id : ids)
     {
@@ -119,7 +122,7 @@ CString JoinedNames(Ids const & ids, std::function<CString(int)> const & nameOf,
         if (!text.IsEmpty())
         {
             text += separator;
-            if (widthOf(text) + widthOf(name) > width - room_beside_names)
+            if (widthOf(text) + widthOf(name) > width - beside)
             {
                 text += ellipsis;
                 break;
@@ -130,11 +133,11 @@ CString JoinedNames(Ids const & ids, std::function<CString(int)> const & nameOf,
     return text;
 }
 
-Places PlacesIn(CRect const & rect, bool okCancel)
+Places PlacesIn(CRect const & rect, bool okCancel, unsigned int dpi)
 {
     Places places;
     places.list = rect;
-    places.list.bottom -= button_strip_height;
+    places.list.bottom -= resolution::Scaled(button_strip_height, dpi);
     int const top = places.list.bottom + 1;
     int const part = rect.Width() / (okCancel ? parts_with_ok : parts_without_ok);
     int const middle = rect.left + 2 * part;

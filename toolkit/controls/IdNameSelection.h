@@ -16,9 +16,9 @@ namespace id_name
 constexpr int all_items = -1;
 /// Characters of a row's text that are looked at and, with an id in front, shown.
 constexpr int longest_row_text = 499;
-/// Pixels.
+/// Pixels at 96 dots an inch.
 constexpr int button_strip_height = 22;
-/// Pixels of a field that a shortened list of names leaves free.
+/// Likewise what a shortened list of names leaves free of a field.
 constexpr int room_beside_names = 50;
 
 using Map = std::map<int, CString>;
@@ -66,12 +66,13 @@ INSTRUMENT_UI_API Ids EveryId(Map const & map);
 /// The names of the ids, ascending, joined by ", ". The first one is whole; where another one would make the text
 /// wider than width less the room beside it, "…" stands in its place and ends the text.
 INSTRUMENT_UI_API CString JoinedNames(Ids const & ids, std::function<CString(int)> const & nameOf,
-                                      std::function<int(CString const &)> const & widthOf, int width);
+                                      std::function<int(CString const &)> const & widthOf, int width,
+                                      unsigned int dpi = 96);
 
 /// Where the parts of a multiselect are.
 struct Places
 {
     CRect list, selectAll, selectNone, cancel, ok;
 };
-INSTRUMENT_UI_API Places PlacesIn(CRect const & rect, bool okCancel);
+INSTRUMENT_UI_API Places PlacesIn(CRect const & rect, bool okCancel, unsigned int dpi = 96);
 } // namespace id_name

@@ -3,12 +3,14 @@
 #include <memory>
 
 #include "access/ControlTarget.h"
+#include "access/NativeEvents.h"
+#include "colours/ControlColors.h"
 #include "controls/LumaPlatform.h"
 #include "controls/SliderLayout.h"
+#include "layout/WindowDpi.h"
 
 namespace
 {
-constexpr COLORREF standard_main_color = 0xC8B4B4;
 constexpr int lighter = 500;
 constexpr int darker = -333;
 constexpr int main_part = 0;
@@ -43,6 +45,12 @@ CLevelSliderCtrl::~CLevelSliderCtrl() = default;
 
 void CLevelSliderCtrl::SetMainColor(unsigned long color)
 {
+    m_ownMainColor = true;
+    UseMainColor(color);
+}
+
+void CLevelSliderCtrl::UseMainColor(COLORREF color)
+{
     m_mainColor = color;
     m_mainLight = AdjustLuma(color, lighter);
     m_mainDark = AdjustLuma(color, darker);
@@ -54,6 +62,12 @@ void CLevelSliderCtrl::SetMainColor(unsigned long color)
 
 void CLevelSliderCtrl::SetSecondColor(unsigned long color)
 {
+    m_ownSecondColor = true;
+    UseSecondColor(color);
+}
+
+void CLevelSliderCtrl::UseSecondColor(COLORREF color)
+{
     m_secondColor = color;
     m_secondLight = AdjustLuma(color, lighter);
     m_secondDark = AdjustLuma(color, darker);
@@ -64,12 +78,44 @@ void CLevelSliderCtrl::SetSecondColor(unsigned long color)
 
 void CLevelSliderCtrl::InitStandardColors()
 {
-    SetMainColor(standard_main_color);
-    SetSecondColor(::GetSysColor(COLOR_BTNFACE));
+    ControlColors const colors = control_colors::Of(ControlColorSet::standard);
+    m_ownMainColor = m_ownSecondColor = m_adapted = false;
+    UseMainColor(colors.sliderMain);
+    UseSecondColor(colors.sliderSecond);
     for (TRIVERTEX & vertex : m_vertices)
         vertex.Alpha = 0;
     m_gradientRects[main_part] = {0, 1};
     m_gradientRects[second_part] = {2, 3};
+}
+
+void CLevelSliderCtrl::FollowSet()
+{
+    ControlColorSet const set = control_colors::SetOf(m_hWnd);
+    bool const adapts = set != ControlColorSet::standard;
+    if (!adapts && !m_adapted)
+        return;
+    m_adapted = adapts;
+    ControlColors const colors = control_colors::Of(set);
+    if (!m_ownMainColor && m_mainColor != colors.sliderMain)
+        UseMainColor(colors.sliderMain);
+    if (!m_ownSecondColor && m_secondColor != colors.sliderSecond)
+        UseSecondColor(colors.sliderSecond);
+}
+
+BOOL CLevelSliderCtrl::SetDpi(UINT dpi)
+{
+    return window_dpi::SetAndRepaint(*this, m_dpi, dpi);
+}
+
+void CLevelSliderCtrl::FollowDpi(BOOL follow)
+{
+    window_dpi::Follow(*this, m_followsDpi, follow);
+}
+
+void CLevelSliderCtrl::PreSubclassWindow()
+{
+    CSliderCtrl::PreSubclassWindow();
+    window_dpi::Begin(*this, m_followsDpi);
 }
 
 bool CLevelSliderCtrl::IsVertical() const
@@ -124,7 +170,7 @@ void CLevelSliderCtrl::DrawPart(CDC & dc, CRect const & part, bool vertical, int
 void CLevelSliderCtrl::DrawThumb(CDC * dc, CRect & rect, bool selected)
 {
     int const saved = dc->SaveDC();
-    rect = SlimSliderThumb(rect, IsVertical());
+    rect = SlimSliderThumb(rect, IsVertical(), resolution::LineWidth(1, m_dpi));
     CPen pen(PS_SOLID, 1, m_mainDark);
     dc->SelectObject(&pen);
     dc->SelectObject(selected ? &m_mainLightBrush : &m_mainBrush);
@@ -133,7 +179,8 @@ void CLevelSliderCtrl::DrawThumb(CDC * dc, CRect & rect, bool selected)
         dc->SetBkColor(m_mainColor);
         dc->SetTextColor(m_mainLight);
     }
-    dc->RoundRect(rect, CPoint(2, 2));
+    int const rounding = resolution::Scaled(2, m_dpi);
+    dc->RoundRect(rect, CPoint(rounding, rounding));
     dc->RestoreDC(saved);
     pen.DeleteObject();
     dc->Detach();
@@ -146,6 +193,7 @@ void CLevelSliderCtrl::OnReflectedCustomDraw(NMHDR * header, LRESULT * result)
     switch (draw.dwDrawStage)
     {
     case CDDS_PREPAINT:
+        FollowSet();
         *result = CDRF_NOTIFYITEMDRAW | CDRF_NOTIFYPOSTPAINT;
         break;
     case CDDS_ITEMPREPAINT: {
@@ -202,6 +250,7 @@ LRESULT CLevelSliderCtrl::DefWindowProc(UINT message, WPARAM wParam, LPARAM lPar
 {
     if (AsksForControl(message, lParam))
         return AnswerWithObject(std::make_shared<Access>(*this, m_lifeSign), wParam);
+    window_dpi::Heed(*this, m_followsDpi, message);
     if (!::IsWinEventHookInstalled(EVENT_OBJECT_VALUECHANGE))
         return CSliderCtrl::DefWindowProc(message, wParam, lParam);
     // Straight to the native slider, before and after: not every one tells of its changes.
@@ -210,6 +259,6 @@ LRESULT CLevelSliderCtrl::DefWindowProc(UINT message, WPARAM wParam, LPARAM lPar
     LRESULT const before = CSliderCtrl::DefWindowProc(TBM_GETPOS, 0, 0);
     LRESULT const result = CSliderCtrl::DefWindowProc(message, wParam, lParam);
     if (!life.Over() && window != nullptr && m_hWnd == window && CSliderCtrl::DefWindowProc(TBM_GETPOS, 0, 0) != before)
-        TellOfEvent(EVENT_OBJECT_VALUECHANGE, window, {});
+        TellUnlessNative(EVENT_OBJECT_VALUECHANGE, window, {});
     return result;
 }

@@ -23,10 +23,19 @@ public:
     void SetMainColor(unsigned long color);
     /// The colour of the rest of the channel, and those derived from it. Does not repaint.
     void SetSecondColor(unsigned long color);
+    /// The dots an inch that it is shown with, 96 at first: distances about the thumb follow. The thumb's length and
+    /// breadth are the native slider's, which goes by the control's size; with TBS_FIXEDLENGTH they are the host's.
+    /// FALSE, and nothing else, below 48 and above 960.
+    BOOL SetDpi(UINT dpi);
+    /// See SetDpi.
+    UINT GetDpi() const { return m_dpi; }
+    /// Whether it takes its window's resolution, at once and whenever that changes. Off at first.
+    void FollowDpi(BOOL follow);
 
 protected:
     /// The colours of a new slider.
     void InitStandardColors();
+    void PreSubclassWindow() override;
     /// Paints both parts of the channel, about three times as thick as rect, which is changed. Takes the handle from
     /// the object dc, which is a temporary one.
     void DrawChannel(CDC * dc, CRect & rect);
@@ -58,5 +67,15 @@ private:
     void DrawPart(CDC & dc, CRect const & part, bool vertical, int first, CBrush & brush, COLORREF dark,
                   COLORREF light);
 
+    void UseMainColor(COLORREF color);
+    void UseSecondColor(COLORREF color);
+    /// Takes what the host has not chosen from the set that the window is painted in now.
+    void FollowSet();
+
+    UINT m_dpi = 96;
+    bool m_followsDpi = false;
     LifeSign m_lifeSign;
+    bool m_ownMainColor = false;
+    bool m_ownSecondColor = false;
+    bool m_adapted = false;
 };

@@ -4,6 +4,7 @@
 
 #include "controls/FieldWidths.h"
 #include "controls/ItemRows.h"
+#include "layout/WindowDpi.h"
 
 BEGIN_MESSAGE_MAP(CListBoxX, CListBox)
     ON_NOTIFY_EX_RANGE(TTN_NEEDTEXTW, 0, 0xFFFF, &CListBoxX::OnToolTipText)
@@ -51,8 +52,29 @@ void CListBoxX::PreSubclassWindow()
 {
     HWND const window = m_hWnd;
     CListBox::PreSubclassWindow();
-    if (item_rows::Serves(*this, window))
-        EnableToolTips(TRUE);
+    if (!item_rows::Serves(*this, window))
+        return;
+    EnableToolTips(TRUE);
+    window_dpi::Begin(*this, m_followsDpi);
+}
+
+BOOL CListBoxX::SetDpi(UINT dpi)
+{
+    if (!resolution::IsServed(dpi))
+        return FALSE;
+    m_dpi = dpi;
+    return TRUE;
+}
+
+void CListBoxX::FollowDpi(BOOL follow)
+{
+    window_dpi::Follow(*this, m_followsDpi, follow);
+}
+
+LRESULT CListBoxX::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    window_dpi::Heed(*this, m_followsDpi, message);
+    return CListBox::DefWindowProc(message, wParam, lParam);
 }
 
 int CListBoxX::LbxZeileZumPunkt(CPoint point, int & outside) const
@@ -91,7 +113,7 @@ INT_PTR CListBoxX::OnToolHitTest(CPoint point, TOOLINFOW * info) const
     GetText(row, text);
     CRect rect(0, 0, 0, 0);
     ::SendMessage(window, LB_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&rect));
-    if (!IsTooWide(item_rows::TextWidth(window, text), rect.Width()) || !::IsWindow(window))
+    if (!IsTooWide(item_rows::TextWidth(window, text), rect.Width(), m_dpi) || !::IsWindow(window))
         return -1;
     if (info != nullptr)
     {

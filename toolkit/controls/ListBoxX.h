@@ -32,6 +32,14 @@ public:
     /// The number of the selected row, or defaultData.
     int GetSelectedItemData(int defaultData);
 
+    /// The dots an inch that it is shown with, 96 at first: a row's edges follow, by which its text is too wide or not.
+    /// The font, and with it the rows' height, stays the host's. FALSE, and nothing else, below 48 and above 960.
+    BOOL SetDpi(UINT dpi);
+    /// See SetDpi.
+    UINT GetDpi() const { return m_dpi; }
+    /// Whether it takes its window's resolution, at once and whenever that changes. Off at first.
+    void FollowDpi(BOOL follow);
+
     /// The row at a point of the client area, with 0 in outside; -1, with 1 in outside, where there is none.
     int LbxZeileZumPunkt(CPoint point, int & outside) const;
     /// The row whose text is too wide for the list; -1 for none.
@@ -41,5 +49,10 @@ public:
 
 protected:
     void PreSubclassWindow() override;
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     DECLARE_MESSAGE_MAP()
+
+private:
+    UINT m_dpi = 96;
+    bool m_followsDpi = false;
 };

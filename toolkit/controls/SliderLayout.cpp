@@ -49,9 +49,9 @@ SliderParts PartsOfSlider(CRect const & channel, bool vertical, float fraction)
     return parts;
 }
 
-CRect SlimSliderThumb(CRect const & thumb, bool vertical)
+CRect SlimSliderThumb(CRect const & thumb, bool vertical, int by)
 {
     CRect slim(thumb);
-    slim.DeflateRect(vertical ? 0 : 1, vertical ? 1 : 0);
+    slim.DeflateRect(vertical ? 0 : by, vertical ? by : 0);
     return slim;
 }

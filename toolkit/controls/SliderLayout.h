@@ -18,8 +18,8 @@ struct SliderParts
 };
 SliderParts PartsOfSlider(CRect const & channel, bool vertical, float fraction);
 
-/// The rectangle that the system gives for the thumb, made narrower along the slider.
-CRect SlimSliderThumb(CRect const & thumb, bool vertical);
+/// The rectangle that the system gives for the thumb, made narrower along the slider by so many pixels at each end.
+CRect SlimSliderThumb(CRect const & thumb, bool vertical, int by = 1);
 
 /// A part of a colour as a gradient's corner takes it.
 constexpr unsigned short GradientChannel(unsigned char channel)

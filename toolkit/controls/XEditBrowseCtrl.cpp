@@ -134,7 +134,7 @@ void CXEditBrowseCtrl::PrepareFileOpenBrowser(CString const & filter, wchar_t co
     LifeWatch const life(m_life);
     EnableBrowseButton();
     if (!life.Over())
-        SetBrowseButtonImage(LoadSmallToolkitIcon(TOOLKIT_ICON_BROWSE), TRUE);
+        ShowButtonImage();
 }
 
 void CXEditBrowseCtrl::PrepareFileSaveAsBrowser(CString const & filter, wchar_t const * defaultExtension,
@@ -149,7 +149,40 @@ void CXEditBrowseCtrl::PrepareFileSaveAsBrowser(CString const & filter, wchar_t 
     LifeWatch const life(m_life);
     EnableBrowseButton();
     if (!life.Over())
-        SetBrowseButtonImage(LoadSmallToolkitIcon(TOOLKIT_ICON_BROWSE), TRUE);
+        ShowButtonImage();
+}
+
+void CXEditBrowseCtrl::ShowButtonImage()
+{
+    m_hasImage = true;
+    SetBrowseButtonImage(LoadSmallToolkitIcon(TOOLKIT_ICON_BROWSE, INT_MAX, m_dpi), TRUE);
+}
+
+BOOL CXEditBrowseCtrl::SetDpi(UINT dpi)
+{
+    if (!resolution::IsServed(dpi))
+        return FALSE;
+    if (dpi == m_dpi)
+        return TRUE;
+    m_dpi = dpi;
+    LifeWatch const life(m_life);
+    m_dialog.m_control.SetDpi(dpi);
+    if (!life.Over() && m_hasImage)
+        ShowButtonImage();
+    if (!life.Over() && m_hWnd != nullptr && m_idNameMode)
+        UpdateSelectionText();
+    return TRUE;
+}
+
+void CXEditBrowseCtrl::FollowDpi(BOOL follow)
+{
+    window_dpi::Follow(*this, m_followsDpi, follow);
+}
+
+void CXEditBrowseCtrl::PreSubclassWindow()
+{
+    CMFCEditBrowseCtrl::PreSubclassWindow();
+    window_dpi::Begin(*this, m_followsDpi);
 }
 
 void CXEditBrowseCtrl::PrepareIdNameBrowser()
@@ -268,7 +301,7 @@ void CXEditBrowseCtrl::UpdateSelectionText()
             GetWindowRect(&rect);
             text = id_name::JoinedNames(
                 m_selection, [&](int id) { return control.GetName(id); },
-                [&](CString const & part) { return measure.Width(part); }, rect.Width());
+                [&](CString const & part) { return measure.Width(part); }, rect.Width(), m_dpi);
         }
     }
     CString present;
@@ -469,5 +502,6 @@ LRESULT CXEditBrowseCtrl::DefWindowProc(UINT message, WPARAM wParam, LPARAM lPar
 {
     if (AsksForControl(message, lParam))
         return AnswerWithObject(std::make_shared<BrowseAccess>(*this, m_life), wParam);
+    window_dpi::Heed(*this, m_followsDpi, message);
     return CMFCEditBrowseCtrl::DefWindowProc(message, wParam, lParam);
 }

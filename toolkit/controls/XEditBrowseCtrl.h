@@ -76,6 +76,15 @@ public:
     /// Shows the names of the selected items, as many as there is room for.
     void UpdateSelectionText();
 
+    /// The dots an inch that it is shown with, 96 at first: the button with its picture and the drop-down follow. A
+    /// button that has dots instead keeps its width, which goes by the system's font: a picture makes it wider. The
+    /// field's font stays the host's. FALSE, and nothing else, below 48 and above 960.
+    BOOL SetDpi(UINT dpi);
+    /// See SetDpi.
+    UINT GetDpi() const { return m_dpi; }
+    /// Whether it takes its window's resolution, at once and whenever that changes. Off at first.
+    void FollowDpi(BOOL follow);
+
     /// Asks for a file or opens the drop-down and returns when that is closed. Nothing while one is open.
     void OnBrowse() override;
 
@@ -84,6 +93,7 @@ protected:
     void NotifyParent(unsigned int tag, long value);
     /// Opens the drop-down below the field and returns when it is closed.
     void ShowIdNameBrowser();
+    void PreSubclassWindow() override;
     void PostNcDestroy() override;
 
     LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -136,8 +146,14 @@ protected:
 private:
     void ShowFileBrowser();
     void EndDropDown();
+    /// The button's picture at the resolution.
+    void ShowButtonImage();
     unsigned int ComputedFileFlags() const;
 
     bool m_browsing;
+    /// The button has the module's picture.
+    bool m_hasImage = false;
+    UINT m_dpi = 96;
+    bool m_followsDpi = false;
     LifeSign m_life;
 };

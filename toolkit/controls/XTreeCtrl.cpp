@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "frame/RegisteredMessages.h"
+#include "layout/WindowDpi.h"
 
 namespace
 {
@@ -235,7 +236,12 @@ CXTreeCtrl::~CXTreeCtrl()
 
 LRESULT CXTreeCtrl::Native(UINT message, WPARAM wParam, LPARAM lParam) const
 {
-    return m_hWnd != nullptr ? const_cast<CXTreeCtrl *>(this)->CTreeCtrl::DefWindowProc(message, wParam, lParam) : 0;
+    if (m_hWnd == nullptr)
+        return 0;
+    // As long as the native window procedure is the window's own, nobody else has it.
+    if (m_subclassing)
+        return ::SendMessageW(m_hWnd, message, wParam, lParam);
+    return const_cast<CXTreeCtrl *>(this)->CTreeCtrl::DefWindowProc(message, wParam, lParam);
 }
 
 HTREEITEM CXTreeCtrl::Next(HTREEITEM item, UINT relation) const
@@ -271,6 +277,24 @@ LRESULT CXTreeCtrl::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
         NoteDeletion(TVI_ROOT);
     LifeWatch const life(m_life);
     LRESULT const result = CTreeCtrl::DefWindowProc(message, wParam, lParam);
+    if (life.Over())
+        return result;
+    switch (message)
+    {
+    case WM_CREATE:
+        TakeLengths();
+        break;
+    case TVM_SETINDENT:
+        m_indent = {static_cast<int>(Native(TVM_GETINDENT, 0, 0)), m_dpi};
+        break;
+    case TVM_SETITEMHEIGHT:
+        // -1: by the font again.
+        m_itemHeight = static_cast<int>(wParam) > 0 ? GivenLength{static_cast<int>(wParam), m_dpi} : GivenLength{};
+        break;
+    default:
+        window_dpi::Heed(*this, m_followsDpi, message);
+        break;
+    }
     if (message != TVM_INSERTITEMW || life.Over())
         return result;
     for (Watch * watch = m_watches; watch != nullptr; watch = watch->Outer())
@@ -279,6 +303,62 @@ LRESULT CXTreeCtrl::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
             insertion->Inserted(lParam, reinterpret_cast<HTREEITEM>(result));
     }
     return result;
+}
+
+// --- Resolution ---
+
+void CXTreeCtrl::PreSubclassWindow()
+{
+    LifeWatch const life(m_life);
+    CTreeCtrl::PreSubclassWindow();
+    if (life.Over())
+        return;
+    m_subclassing = true;
+    TakeLengths();
+    if (!life.Over())
+        m_subclassing = false;
+}
+
+void CXTreeCtrl::TakeLengths()
+{
+    m_itemHeight = {};
+    m_indent = {static_cast<int>(Native(TVM_GETINDENT, 0, 0)), resolution::usual};
+    // One that is being created is no tree yet.
+    if (m_indent.pixels == 0)
+        return;
+    if (m_followsDpi)
+        m_dpi = window_dpi::Of(m_hWnd);
+    if (m_dpi != resolution::usual)
+        ScaleLengths();
+}
+
+// The host may hear of scroll bars that come or go.
+void CXTreeCtrl::ScaleLengths()
+{
+    auto const scaled = [this](GivenLength const & length) {
+        return static_cast<WPARAM>(resolution::Scaled(length.pixels, m_dpi, length.dpi));
+    };
+    LifeWatch const life(m_life);
+    Native(TVM_SETINDENT, scaled(m_indent), 0);
+    if (!life.Over() && m_itemHeight.dpi != 0)
+        Native(TVM_SETITEMHEIGHT, scaled(m_itemHeight), 0);
+}
+
+BOOL CXTreeCtrl::SetDpi(UINT dpi)
+{
+    if (!resolution::IsServed(dpi))
+        return FALSE;
+    if (dpi == m_dpi)
+        return TRUE;
+    m_dpi = dpi;
+    if (m_hWnd != nullptr && m_indent.pixels != 0)
+        ScaleLengths();
+    return TRUE;
+}
+
+void CXTreeCtrl::FollowDpi(BOOL follow)
+{
+    window_dpi::Follow(*this, m_followsDpi, follow);
 }
 
 // --- Insertion ---

@@ -118,6 +118,15 @@ public:
     /// A double click is reported, but opens and closes nothing.
     void DontHandleDoubleclick();
 
+    /// The dots an inch that it is shown with, 96 at first: the indent of the levels follows, and the height of the
+    /// items once the host has set it, until it sets either anew. Font and images stay the host's. FALSE, and nothing
+    /// else, below 48 and above 960.
+    BOOL SetDpi(UINT dpi);
+    /// See SetDpi.
+    UINT GetDpi() const { return m_dpi; }
+    /// Whether it takes its window's resolution, at once and whenever that changes. Off at first.
+    void FollowDpi(BOOL follow);
+
     BOOL PreTranslateMessage(MSG * message) override;
 
 protected:
@@ -141,6 +150,7 @@ protected:
     /// The first hit at item and below it.
     HTREEITEM FindItemRecursion(HTREEITEM item, int type, int id, int const * clavis, wchar_t const * text, bool exact);
 
+    void PreSubclassWindow() override;
     LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     /// Sends WM_XTREECTRL_DBLCLK to the parent.
     afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
@@ -175,4 +185,20 @@ private:
     /// What is being held over calls that can run the host's code, innermost first.
     mutable Watch * m_watches = nullptr;
     PendingRecord * m_pending = nullptr;
+
+    /// A length in pixels that somebody has given, and the resolution of that time; 0 for nobody.
+    struct GivenLength
+    {
+        int pixels = 0;
+        UINT dpi = 0;
+    };
+    /// Of a window that has just come.
+    void TakeLengths();
+    void ScaleLengths();
+
+    UINT m_dpi = 96;
+    bool m_followsDpi = false;
+    bool m_subclassing = false;
+    GivenLength m_indent;
+    GivenLength m_itemHeight;
 };

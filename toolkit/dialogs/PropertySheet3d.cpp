@@ -201,10 +201,16 @@ BOOL CPropertySheet3d::OnCommand(WPARAM wParam, LPARAM lParam)
 
 LRESULT CPropertySheet3d::OnResizePage(WPARAM, LPARAM)
 {
+    HWND const window = m_hWnd;
     if (m_resizer == nullptr)
         return 0;
-    D3dLayoutChild(GetActivePage(), CEdges::TOP_LEFT_BOTTOM_RIGHT(), &m_pageRect);
-    D3dLayoutComplete();
+    // Each of the calls sends messages, in which the host may end the sheet.
+    CPropertyPage * const page = GetActivePage();
+    if (!Serves(window) || m_resizer == nullptr)
+        return 0;
+    D3dLayoutChild(page, CEdges::TOP_LEFT_BOTTOM_RIGHT(), &m_pageRect);
+    if (Serves(window) && m_resizer != nullptr)
+        D3dLayoutComplete();
     return 0;
 }
 

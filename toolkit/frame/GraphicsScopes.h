@@ -43,11 +43,15 @@ private:
     HGDIOBJ m_former;
 };
 
-/// Selects a pen of its own, one pixel wide.
+/// Selects a pen of its own.
 class PenScope
 {
 public:
-    PenScope(CDC & dc, COLORREF color) : m_pen(PS_SOLID, 1, color), m_selection(dc, m_pen.GetSafeHandle()) {}
+    PenScope(CDC & dc, COLORREF color, int width = 1)
+        : m_pen(PS_SOLID, width, color),
+          m_selection(dc, m_pen.GetSafeHandle())
+    {
+    }
     PenScope(PenScope const &) = delete;
     PenScope & operator=(PenScope const &) = delete;
 

@@ -5,15 +5,17 @@
 
 #include "frame/GdiplusModule.h"
 #include "frame/GraphicsScopes.h"
+#include "layout/Resolution.h"
+#include "layout/StretchedImages.h"
 #include "list/CellKind.h"
 #include "list/CheckMarks.h"
 
+using resolution::Scaled;
+
 namespace
 {
-constexpr COLORREF trough_color = 0xE0E0E0;
-
 /// The colour stands solid at the left and fades out to the right, not quite to nothing.
-void PaintWash(CDC & dc, CRect const & cell, COLORREF color)
+void PaintWash(CDC & dc, CRect const & cell, COLORREF color, UINT dpi)
 {
     constexpr int margin_x = 1;
     constexpr int margin_y = 2;
@@ -22,7 +24,7 @@ void PaintWash(CDC & dc, CRect const & cell, COLORREF color)
     constexpr Gdiplus::REAL positions[] = {0.0f, 0.3f, 1.0f};
 
     CRect area = cell;
-    area.DeflateRect(margin_x, margin_y);
+    area.DeflateRect(Scaled(margin_x, dpi), Scaled(margin_y, dpi));
     if (area.Width() <= 0 || area.Height() <= 0 || !StartGdiplus())
         return;
     Gdiplus::RectF const fill(static_cast<float>(area.left), static_cast<float>(area.top),
@@ -40,6 +42,22 @@ void PaintWash(CDC & dc, CRect const & cell, COLORREF color)
                                        Gdiplus::PointF(fill.X + reach * fill.Width, fill.Y), colors[0], colors[2]);
     brush.SetInterpolationColors(colors, positions, static_cast<INT>(std::size(colors)));
     graphics.FillRectangle(&brush, fill);
+}
+
+/// The nearest colour on the way from the wash to the ground on which the text is read.
+COLORREF SoftenedWash(COLORREF wash, COLORREF ground, COLORREF text)
+{
+    constexpr int steps = 16;
+    auto const mix = [](int from, int to, int step) { return from + (to - from) * step / steps; };
+    for (int step = 0; step < steps; ++step)
+    {
+        COLORREF const mixed =
+            RGB(mix(GetRValue(wash), GetRValue(ground), step), mix(GetGValue(wash), GetGValue(ground), step),
+                mix(GetBValue(wash), GetBValue(ground), step));
+        if (control_colors::ContrastOf(text, mixed) >= control_colors::least_contrast)
+            return mixed;
+    }
+    return ground;
 }
 
 void SetTextColors(CellPaint const & paint)
@@ -79,33 +97,39 @@ int TopOffset(CRect const & cell, int height)
 }
 
 /// The downward arrow of a combo cell, lighter towards its top.
-void PaintArrow(CDC & dc, CPoint box)
+void PaintArrow(CDC & dc, CPoint box, COLORREF arrow, BYTE alpha, UINT dpi)
 {
-    constexpr float inset = 3.0f;
-    constexpr float half_width = 4.0f;
-    constexpr float height = 7.0f;
-    constexpr float line_width = 0.7f;
+    float const inset = Scaled(3.0f, dpi);
+    float const halfWidth = Scaled(4.0f, dpi);
+    float const height = Scaled(7.0f, dpi);
+    float const lineWidth = Scaled(0.7f, dpi);
 
     if (!StartGdiplus())
         return;
     float const x = static_cast<float>(box.x) + inset;
     float const y = static_cast<float>(box.y) + inset;
-    Gdiplus::Color const color(180, 51, 153, 51);
+    Gdiplus::Color const color(alpha, GetRValue(arrow), GetGValue(arrow), GetBValue(arrow));
 
     Gdiplus::GraphicsPath path;
-    path.AddLine(x, y, x + half_width, y + height);
-    path.AddLine(x + half_width, y + height, x + 2 * half_width, y);
-    path.AddLine(x + 2 * half_width, y, x, y);
+    path.AddLine(x, y, x + halfWidth, y + height);
+    path.AddLine(x + halfWidth, y + height, x + 2 * halfWidth, y);
+    path.AddLine(x + 2 * halfWidth, y, x, y);
     path.CloseFigure();
 
     Gdiplus::Graphics graphics(dc.GetSafeHdc());
     graphics.SetSmoothingMode(Gdiplus::SmoothingModeAntiAlias);
-    Gdiplus::Pen const pen(color, line_width);
+    Gdiplus::Pen const pen(color, lineWidth);
     graphics.DrawPath(&pen, &path);
-    Gdiplus::LinearGradientBrush const brush(Gdiplus::PointF(x + half_width, y),
-                                             Gdiplus::PointF(x + half_width, y + height),
+    Gdiplus::LinearGradientBrush const brush(Gdiplus::PointF(x + halfWidth, y),
+                                             Gdiplus::PointF(x + halfWidth, y + height),
                                              Gdiplus::Color(0, 255, 255, 255), color);
     graphics.FillPath(&brush, &path);
+}
+
+/// A text in nobody's colour on that ground.
+COLORREF TextOn(COLORREF ground, ControlColors const & palette)
+{
+    return control_colors::TextOn(ground, palette.windowText, palette.window);
 }
 
 /// The image, if there is one, and the room that it leaves.
@@ -116,32 +140,36 @@ void PaintImageAhead(CellPaint & paint, CellLook const & look)
 }
 } // namespace
 
-CellPalette CellPalette::OfSystem()
+namespace
 {
-    CellPalette palette;
-    palette.face = ::GetSysColor(COLOR_BTNFACE);
-    palette.edgeHighlight = ::GetSysColor(COLOR_BTNHIGHLIGHT);
-    palette.edgeShadow = ::GetSysColor(COLOR_BTNSHADOW);
-    palette.activeCaption = ::GetSysColor(COLOR_ACTIVECAPTION);
-    palette.inactiveSelection = ::GetSysColor(COLOR_BTNFACE);
-    palette.barFrame = ::GetSysColor(COLOR_BTNSHADOW);
-    palette.buttonText = ::GetSysColor(COLOR_BTNTEXT);
-    palette.disabled = ::GetSysColor(COLOR_GRAYTEXT);
-    palette.selection = ::GetSysColor(COLOR_HIGHLIGHT);
-    palette.selectionText = ::GetSysColor(COLOR_HIGHLIGHTTEXT);
-    palette.inactiveCaption = ::GetSysColor(COLOR_INACTIVECAPTION);
-    palette.inactiveCaptionText = ::GetSysColor(COLOR_INACTIVECAPTIONTEXT);
-    palette.window = ::GetSysColor(COLOR_WINDOW);
-    palette.windowText = ::GetSysColor(COLOR_WINDOWTEXT);
-    palette.checkFrame = check_marks::frame_color;
-    palette.checkMark = check_marks::tick_color;
+/// The palette with marks that are seen on the cell's ground.
+ControlColors SeenOn(CellPaint const & paint, ControlColors palette)
+{
+    for (COLORREF * const mark : {&palette.checkFrame, &palette.checkMark, &palette.crossMark, &palette.disabled})
+        *mark = control_colors::MarkOn(paint.background, *mark, paint.text);
+    palette.radioGround = paint.background;
+    palette.radioLight = control_colors::MarkOn(paint.background, palette.radioLight, paint.text);
     return palette;
 }
+
+/// The box or the ring of a check cell.
+void PaintBox(CellPaint const & paint, CRect const & box, ControlColors const & palette)
+{
+    bool const enabled = IsEnabled(paint.cell);
+    int const state = paint.cell.checkedState;
+    if (state >= XLC_UNCHECKED && state <= XLC_CROSSED)
+        cell_painters::PaintCheckBox(paint.dc, box, state, enabled, palette, paint.dpi);
+    else if (state == XLC_RADIO_ON || state == XLC_RADIO_OFF)
+        cell_painters::PaintRadioBox(paint.dc, box, state, enabled, palette, paint.dpi);
+}
+} // namespace
 
 namespace cell_painters
 {
 bool PaintCell(CellPaint paint, CellLook const & look, CellText const & text)
 {
+    paint.dpi = look.dpi;
+    paint.imageDpi = look.imageDpi;
     UINT const format = TextFormat(look.alignment, look.ellipsis);
     switch (PaintedKind(paint.cell))
     {
@@ -157,6 +185,7 @@ bool PaintCell(CellPaint paint, CellLook const & look, CellText const & text)
         return true;
     case CellKind::combo:
         PaintImageAhead(paint, look);
+        SetArrow(paint, look.palette);
         if (!paint.rect.IsRectEmpty())
             PaintCombo(paint, text, format, look.padding);
         return true;
@@ -173,13 +202,22 @@ bool PaintCell(CellPaint paint, CellLook const & look, CellText const & text)
     return false;
 }
 
-void GreyDisabled(XLISTCTRLDATA const & cell, CellPalette const & palette, COLORREF & text, COLORREF & background)
+void GreyDisabled(XLISTCTRLDATA const & cell, ControlColors const & palette, COLORREF & text, COLORREF & background)
 {
     if (IsEnabled(cell))
         return;
     text = palette.disabled;
     if (background == palette.window)
         background = palette.inactiveSelection;
+    else if (palette.adapts && PaintedKind(cell) != CellKind::progress)
+        text = control_colors::MarkOn(background, text, TextOn(background, palette));
+}
+
+void SetArrow(CellPaint & paint, ControlColors const & palette)
+{
+    paint.solidArrow = palette.adapts;
+    paint.arrow =
+        palette.adapts ? control_colors::MarkOn(paint.background, palette.comboArrow, paint.text) : palette.comboArrow;
 }
 
 UINT TextFormat(UINT alignment, bool ellipsis)
@@ -190,8 +228,11 @@ UINT TextFormat(UINT alignment, bool ellipsis)
 void FillCell(CellPaint const & paint)
 {
     paint.dc.FillSolidRect(paint.rect, paint.background);
-    if (paint.cell.gradientColor != XLISTCTRLDATA::no_gradient)
-        PaintWash(paint.dc, paint.rect, paint.cell.gradientColor);
+    COLORREF const wash = paint.cell.gradientColor;
+    if (wash == XLISTCTRLDATA::no_gradient)
+        return;
+    PaintWash(paint.dc, paint.rect, paint.softensWash ? SoftenedWash(wash, paint.background, paint.text) : wash,
+              paint.dpi);
 }
 
 int PaintImage(CellPaint const & paint, CImageList & images, int spacing)
@@ -200,6 +241,13 @@ int PaintImage(CellPaint const & paint, CImageList & images, int spacing)
     CRect rect = paint.rect;
     rect.left += spacing;
 
+    if (paint.dpi != paint.imageDpi)
+    {
+        CSize const size = ScaledImageSize(images, paint.cell.imageIndex, paint.dpi, paint.imageDpi);
+        CPoint const at(rect.left, std::max(rect.CenterPoint().y - (size.cy >> 1), rect.top));
+        DrawStretchedImage(paint.dc, images, paint.cell.imageIndex, at, size, rect.Size());
+        return size.cx + spacing;
+    }
     CSize const size = ImageSize(images, paint.cell.imageIndex);
     CPoint const position(rect.left, rect.CenterPoint().y - (size.cy >> 1));
     CSize const drawn(std::min<LONG>(size.cx, rect.Width()), std::min<LONG>(size.cy, rect.Height()));
@@ -225,57 +273,55 @@ void PaintText(CellPaint const & paint, CellText const & text, UINT format, int 
     DrawCellText(paint.dc, text, room, format);
 }
 
-void PaintCheck(CellPaint const & paint, CellText const & text, bool ellipsis, CellPalette const & palette)
+void PaintCheck(CellPaint const & paint, CellText const & text, bool ellipsis, ControlColors const & palette)
 {
     constexpr int box_left = 9;
     constexpr int box_gap = 4;
 
     FillCell(paint);
     CRect const & rect = paint.rect;
-    CRect box(CPoint(rect.left + box_left, rect.top + TopOffset(rect, check_marks::box_size)),
-              CSize(check_marks::box_size, check_marks::box_size));
+    int const edge = Scaled(check_marks::box_size, paint.dpi);
+    CRect box(CPoint(rect.left + Scaled(box_left, paint.dpi), rect.top + TopOffset(rect, edge)), CSize(edge, edge));
     if (text.IsEmpty())
-        box.MoveToX(rect.left + rect.Width() / 2 - check_marks::box_size / 2 - 1);
+        box.MoveToX(rect.left + rect.Width() / 2 - edge / 2 - 1);
 
-    bool const enabled = IsEnabled(paint.cell);
-    int const state = paint.cell.checkedState;
-    if (state >= XLC_UNCHECKED && state <= XLC_CROSSED)
-        PaintCheckBox(paint.dc, box, state, enabled, palette);
-    else if (state == XLC_RADIO_ON || state == XLC_RADIO_OFF)
-        PaintRadioBox(paint.dc, box, state, enabled, palette);
+    if (palette.adapts)
+        PaintBox(paint, box, SeenOn(paint, palette));
+    else
+        PaintBox(paint, box, palette);
 
     if (text.IsEmpty())
         return;
     SetTextColors(paint);
-    DrawCellText(paint.dc, text, CRect(box.right + box_gap, rect.top, rect.right, rect.bottom),
+    DrawCellText(paint.dc, text, CRect(box.right + Scaled(box_gap, paint.dpi), rect.top, rect.right, rect.bottom),
                  DT_SINGLELINE | DT_VCENTER | (ellipsis ? DT_END_ELLIPSIS : 0));
 }
 
-void PaintCheckBox(CDC & dc, CRect const & box, int state, bool enabled, CellPalette const & palette)
+void PaintCheckBox(CDC & dc, CRect const & box, int state, bool enabled, ControlColors const & palette, UINT dpi)
 {
-    check_marks::DrawFrame(dc, box, enabled ? palette.checkFrame : palette.disabled);
+    check_marks::DrawFrame(dc, box, enabled ? palette.checkFrame : palette.disabled, dpi);
     if (state == XLC_CHECKED)
-        check_marks::DrawTick(dc, box, enabled ? palette.checkMark : palette.disabled);
+        check_marks::DrawTick(dc, box, enabled ? palette.checkMark : palette.disabled, dpi);
     else if (state == XLC_CROSSED)
-        check_marks::DrawCross(dc, box, check_marks::cross_inset_cell,
-                               enabled ? check_marks::cross_color : palette.disabled);
+        check_marks::DrawCross(dc, box, check_marks::cross_inset_cell, enabled ? palette.crossMark : palette.disabled,
+                               dpi);
 }
 
-void PaintRadioBox(CDC & dc, CRect const & box, int state, bool enabled, CellPalette const & palette)
+void PaintRadioBox(CDC & dc, CRect const & box, int state, bool enabled, ControlColors const & palette, UINT dpi)
 {
-    constexpr float line_width = 1.0f;
+    float const lineWidth = Scaled(1.0f, dpi);
 
     if (!StartGdiplus())
         return;
     CRect ring = box;
-    ring.DeflateRect(1, 1);
+    ring.DeflateRect(Scaled(1, dpi), Scaled(1, dpi));
     int const diameter = ring.Width();
 
     Gdiplus::GraphicsPath path;
     path.AddEllipse(static_cast<INT>(ring.left), static_cast<INT>(ring.top), diameter, diameter);
     Gdiplus::Graphics graphics(dc.GetSafeHdc());
     graphics.SetSmoothingMode(Gdiplus::SmoothingModeAntiAlias);
-    Gdiplus::Pen const pen(ToColor(enabled ? palette.checkFrame : palette.disabled), line_width);
+    Gdiplus::Pen const pen(ToColor(enabled ? palette.checkFrame : palette.disabled), lineWidth);
     graphics.DrawPath(&pen, &path);
     // Of a disabled one hosts expect that it doesn't show whether it's on.
     if (!enabled)
@@ -283,13 +329,16 @@ void PaintRadioBox(CDC & dc, CRect const & box, int state, bool enabled, CellPal
 
     if (state != XLC_RADIO_ON)
     {
-        Gdiplus::SolidBrush const white(Gdiplus::Color(255, 255, 255));
-        graphics.FillPath(&white, &path);
+        Gdiplus::SolidBrush const ground(ToColor(palette.radioGround));
+        graphics.FillPath(&ground, &path);
+        // The ground has taken half of the ring, which is hardly seen otherwise.
+        if (palette.adapts)
+            graphics.DrawPath(&pen, &path);
         return;
     }
     Gdiplus::PathGradientBrush ball(&path);
     ball.SetCenterPoint(Gdiplus::Point(ring.left + diameter / 3, ring.top + diameter / 3));
-    ball.SetCenterColor(Gdiplus::Color(150, 255, 150));
+    ball.SetCenterColor(ToColor(palette.radioLight));
     Gdiplus::Color const surround = ToColor(palette.checkMark);
     INT count = 1;
     ball.SetSurroundColors(&surround, &count);
@@ -300,6 +349,8 @@ void PaintCombo(CellPaint const & paint, CellText const & text, UINT format, int
 {
     constexpr int arrow_size = 13;
     constexpr int arrow_height = 11;
+    constexpr BYTE opaque = 255;
+    constexpr BYTE softened = 180;
 
     FillCell(paint);
     CRect room = paint.rect;
@@ -307,8 +358,10 @@ void PaintCombo(CellPaint const & paint, CellText const & text, UINT format, int
     if (IsEnabled(paint.cell))
     {
         room.DeflateRect(padding, 0);
-        room.right -= arrow_size;
-        PaintArrow(paint.dc, CPoint(room.right, paint.rect.top + TopOffset(paint.rect, arrow_height)));
+        room.right -= Scaled(arrow_size, paint.dpi);
+        int const top = TopOffset(paint.rect, Scaled(arrow_height, paint.dpi));
+        PaintArrow(paint.dc, CPoint(room.right, paint.rect.top + top), paint.arrow,
+                   paint.solidArrow ? opaque : softened, paint.dpi);
     }
     if (text.IsEmpty())
         return;
@@ -322,7 +375,7 @@ void FillMargin(CDC & dc, CRect const & cell, COLORREF color)
     dc.FillSolidRect(CRect(cell.left, cell.bottom - 1, cell.right, cell.bottom), color);
 }
 
-void PaintProgress(CellPaint const & paint, CellPalette const & palette)
+void PaintProgress(CellPaint const & paint, ControlColors const & palette)
 {
     constexpr long long percent = 100;
     // The end of the device space: nothing beyond it can be seen.
@@ -335,8 +388,8 @@ void PaintProgress(CellPaint const & paint, CellPalette const & palette)
     ++trough.left;
     if (trough.IsRectEmpty())
         return;
-    dc.FillSolidRect(trough, trough_color);
-    dc.Draw3dRect(trough, RGB(0, 0, 0), palette.barFrame);
+    dc.FillSolidRect(trough, palette.trough);
+    dc.Draw3dRect(trough, palette.troughFrame, palette.edgeShadow);
     // Hosts expect that a bar at 0 shows no text either.
     if (cell.progressValue <= 0)
         return;
@@ -365,13 +418,16 @@ void PaintProgress(CellPaint const & paint, CellPalette const & palette)
         dc.SetTextColor(color);
         dc.DrawText(caption, &room, DT_CENTER | DT_SINGLELINE | DT_VCENTER);
     };
+    COLORREF const barText =
+        palette.adapts ? control_colors::MarkOn(paint.background, palette.barText, TextOn(paint.background, palette))
+                       : palette.barText;
     // A text that keeps its distance from the bar's edge, italics and the like included, needs no clipping.
     CSize const extent = dc.GetTextExtent(caption);
     int const textLeft = room.left + (room.Width() - extent.cx) / 2 - extent.cy;
     int const textRight = textLeft + extent.cx + 2 * extent.cy;
     if (textLeft >= bar.left && textRight <= bar.right)
     {
-        draw(trough_color);
+        draw(barText);
         return;
     }
     if (textLeft >= rest.left && textRight <= rest.right)
@@ -384,7 +440,7 @@ void PaintProgress(CellPaint const & paint, CellPalette const & palette)
         ClipScope const clip(dc, part);
         draw(color);
     };
-    drawPart(bar, trough_color);
+    drawPart(bar, barText);
     drawPart(rest, paint.text);
 }
 } // namespace cell_painters

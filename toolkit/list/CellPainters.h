@@ -9,33 +9,9 @@
 
 #include <afxcmn.h>
 
+#include "colours/ControlColors.h"
 #include "list/CellText.h"
 #include "list/XListCtrlData.h"
-
-/// The colours of a control with cells, as the system has them but for the marks.
-struct CellPalette
-{
-    static CellPalette OfSystem();
-
-    COLORREF face;
-    COLORREF edgeHighlight;
-    COLORREF edgeShadow;
-    COLORREF activeCaption;
-    /// Of a selection without the focus, and of disabled cells.
-    COLORREF inactiveSelection;
-    COLORREF barFrame;
-    COLORREF buttonText;
-    /// Text, frames and marks of disabled cells.
-    COLORREF disabled;
-    COLORREF selection;
-    COLORREF selectionText;
-    COLORREF inactiveCaption;
-    COLORREF inactiveCaptionText;
-    COLORREF window;
-    COLORREF windowText;
-    COLORREF checkFrame;
-    COLORREF checkMark;
-};
 
 /// A cell that is being painted.
 struct CellPaint
@@ -45,17 +21,29 @@ struct CellPaint
     CRect rect;
     COLORREF text;
     COLORREF background;
+    /// Dots an inch: lengths of the painters' own follow them.
+    UINT dpi = 96;
+    /// What the images were made for.
+    UINT imageDpi = 96;
+    /// Of the arrow of a combo cell; softened by what lies behind it, unless it is to be solid.
+    COLORREF arrow = RGB(51, 153, 51);
+    bool solidArrow = false;
+    /// The text has a colour that the wash was not chosen for: as much of the wash is seen as lets it be read.
+    bool softensWash = false;
 };
 
 /// What the cells of a column have in common.
 struct CellLook
 {
-    CellPalette palette;
+    ControlColors palette;
     /// DT_LEFT, DT_CENTER or DT_RIGHT.
     UINT alignment = DT_LEFT;
     /// Long texts end in an ellipsis.
     bool ellipsis = true;
-    /// Pixels left and right of a text.
+    /// Dots an inch that the cells are painted for, and that the images were made for.
+    UINT dpi = 96;
+    UINT imageDpi = 96;
+    /// Pixels left and right of a text, as they are at that resolution; likewise the spacing.
     int padding = 5;
     /// Pixels ahead of an image and behind it.
     int spacing = 6;
@@ -70,7 +58,9 @@ namespace cell_painters
 bool PaintCell(CellPaint paint, CellLook const & look, CellText const & text);
 
 /// Turns a cell's own colours into those of a disabled one, if it is. A background of its own stays.
-void GreyDisabled(XLISTCTRLDATA const & cell, CellPalette const & palette, COLORREF & text, COLORREF & background);
+void GreyDisabled(XLISTCTRLDATA const & cell, ControlColors const & palette, COLORREF & text, COLORREF & background);
+/// Gives the arrow of a combo cell its colour.
+void SetArrow(CellPaint & paint, ControlColors const & palette);
 /// The DrawText format of a text in a column of that alignment.
 UINT TextFormat(UINT alignment, bool ellipsis);
 
@@ -78,11 +68,11 @@ UINT TextFormat(UINT alignment, bool ellipsis);
 
 void PaintText(CellPaint const & paint, CellText const & text, UINT format, int padding);
 /// Check boxes and radio buttons. The text is always at the left; an ampersand in it marks a mnemonic, as hosts expect.
-void PaintCheck(CellPaint const & paint, CellText const & text, bool ellipsis, CellPalette const & palette);
+void PaintCheck(CellPaint const & paint, CellText const & text, bool ellipsis, ControlColors const & palette);
 void PaintCombo(CellPaint const & paint, CellText const & text, UINT format, int padding);
 /// Paints the trough alone, which leaves a pixel of the cell free at the left and below. text is the caption's colour,
 /// background the bar's.
-void PaintProgress(CellPaint const & paint, CellPalette const & palette);
+void PaintProgress(CellPaint const & paint, ControlColors const & palette);
 
 // Parts of them.
 
@@ -93,6 +83,6 @@ int PaintImage(CellPaint const & paint, CImageList & images, int spacing);
 /// What a trough leaves free of its cell.
 void FillMargin(CDC & dc, CRect const & cell, COLORREF color);
 /// The boxes; nothing for a state that has none.
-void PaintCheckBox(CDC & dc, CRect const & box, int state, bool enabled, CellPalette const & palette);
-void PaintRadioBox(CDC & dc, CRect const & box, int state, bool enabled, CellPalette const & palette);
+void PaintCheckBox(CDC & dc, CRect const & box, int state, bool enabled, ControlColors const & palette, UINT dpi = 96);
+void PaintRadioBox(CDC & dc, CRect const & box, int state, bool enabled, ControlColors const & palette, UINT dpi = 96);
 } // namespace cell_painters

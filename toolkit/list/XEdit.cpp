@@ -1,6 +1,8 @@
 #include "list/XEdit.h"
 
+#include "colours/ControlColors.h"
 #include "frame/InternalMessages.h"
+#include "layout/Resolution.h"
 
 #include <utility>
 
@@ -8,8 +10,7 @@ namespace XListCtrl
 {
 namespace
 {
-constexpr COLORREF frame_color = 0x996633;
-constexpr int frame_widening = 2;
+constexpr int frame_widening = 2; // pixels at 96 dots an inch
 
 /// Whether the object is still there: with its window it is, and whoever ends it ends that.
 bool IsStillThere(HWND window, CWnd const * object)
@@ -96,10 +97,10 @@ void CXEdit::OnPaint()
     HWND const window = m_hWnd;
     CRect area;
     GetClientRect(&area);
-    area.right += frame_widening;
+    area.right += resolution::Scaled(frame_widening, m_dpi);
     if (CDC * const dc = GetDC())
     {
-        dc->FillSolidRect(&area, ::GetSysColor(COLOR_WINDOW));
+        dc->FillSolidRect(&area, control_colors::Of(m_hWnd).window);
         ReleaseDC(dc);
     }
     Default();
@@ -117,9 +118,10 @@ void CXEdit::PaintFrame()
     CRect area;
     GetClientRect(&area);
     MapWindowPoints(parent, &area);
-    area.right += frame_widening;
-    area.InflateRect(1, 1, 0, 1);
-    CPen pen(PS_SOLID, 1, frame_color);
+    area.right += resolution::Scaled(frame_widening, m_dpi);
+    int const width = resolution::LineWidth(1, m_dpi);
+    area.InflateRect(width, width, 0, width);
+    CPen pen(width == 1 ? PS_SOLID : PS_INSIDEFRAME, width, control_colors::Of(m_hWnd).editFrame);
     CPen * const formerPen = dc->SelectObject(&pen);
     CGdiObject * const formerBrush = dc->SelectStockObject(HOLLOW_BRUSH);
     dc->Rectangle(&area);

@@ -24,6 +24,8 @@ public:
     void SetClosing() { m_closing = 1; }
     /// Instead of being ended within the message, it goes on: the next reason to end is told anew.
     void StayOpen() { m_closing = 0; }
+    /// Its frame's resolution.
+    void SetDpi(UINT dpi) { m_dpi = dpi; }
     /// Around the edit, on its parent.
     void PaintFrame();
 
@@ -43,5 +45,6 @@ private:
     CString m_text;
     unsigned int m_closing = 0;
     bool m_tabsToList = false;
+    UINT m_dpi = 96;
 };
 } // namespace XListCtrl

@@ -5,9 +5,18 @@
 #include <memory>
 
 #include "access/ControlTarget.h"
+#include "layout/Resolution.h"
+#include "list/CheckMarks.h"
 #include "list/XListCtrl.h"
 
 IMPLEMENT_DYNCREATE(CXHeaderCtrl, CHeaderCtrl)
+
+namespace
+{
+// Pixels at 96 dots an inch.
+constexpr int usual_spacing = 6;
+constexpr int room_about_marks = 4;
+} // namespace
 
 BEGIN_MESSAGE_MAP(CXHeaderCtrl, CHeaderCtrl)
     ON_WM_ERASEBKGND()
@@ -87,6 +96,7 @@ LRESULT CXHeaderCtrl::OnSetImageList(WPARAM, LPARAM lParam)
     }
     m_imageWidth = info.rcImage.right - info.rcImage.left;
     m_imageHeight = info.rcImage.bottom - info.rcImage.top;
+    m_imageDpi = m_dpi;
     return Default();
 }
 
@@ -96,7 +106,30 @@ LRESULT CXHeaderCtrl::OnLayout(WPARAM, LPARAM lParam)
     {
         reinterpret_cast<HDLAYOUT *>(lParam)->prc->right += 2 * ::GetSystemMetrics(SM_CXBORDER);
     }
-    return Default();
+    if (m_dpi == resolution::usual)
+        return Default();
+    LRESULT const result = Default();
+    // As high as its marks need.
+    HDLAYOUT const & layout = *reinterpret_cast<HDLAYOUT const *>(lParam);
+    int const room = resolution::Scaled(check_marks::box_size + room_about_marks, m_dpi);
+    int const lacking = layout.pwpos != nullptr ? room - layout.pwpos->cy : 0;
+    if (result != FALSE && lacking > 0)
+    {
+        layout.pwpos->cy += lacking;
+        layout.prc->top += lacking;
+    }
+    return result;
+}
+
+BOOL CXHeaderCtrl::SetDpi(UINT dpi)
+{
+    if (!resolution::IsServed(dpi))
+        return FALSE;
+    m_dpi = dpi;
+    m_spacing = resolution::Scaled(usual_spacing, dpi);
+    if (m_hWnd != nullptr)
+        Invalidate(FALSE);
+    return TRUE;
 }
 
 void CXHeaderCtrl::OnLButtonDown(UINT flags, CPoint point)

@@ -29,6 +29,11 @@ public:
     void SetDirectColumnClick() { m_directColumnClick = true; }
     /// Room left and right of an item's content, and between image and text.
     int GetSpacing() const { return m_spacing; }
+    /// The dots an inch that it is shown with, 96 at first: marks, distances, images and its least height follow; the
+    /// list's SetDpi calls it. An image list set from now on is for this resolution. FALSE below 48 and above 960.
+    BOOL SetDpi(UINT dpi);
+    /// See SetDpi.
+    UINT GetDpi() const { return m_dpi; }
 
     /// Called for an owner-drawn item; draws nothing.
     virtual void DrawHeaderItem(LPDRAWITEMSTRUCT item);
@@ -73,6 +78,8 @@ private:
     bool m_directColumnClick = false;
     int m_imageWidth = 0;
     int m_imageHeight = 0;
+    UINT m_dpi = 96;
+    UINT m_imageDpi = 96;
     COLORREF m_colorHighlight;
     COLORREF m_colorShadow;
     COLORREF m_colorFace;

@@ -4,6 +4,7 @@
 #include "frame/ToolkitResources.h"
 #include "list/XListCtrlCursor.h"
 #include "list/XListCtrlHold.h"
+#include "list/XListCtrlResolution.h"
 #include "resources/resource_ids.h"
 
 #include <memory>
@@ -52,7 +53,8 @@ CXListCtrl::CXListCtrl()
       m_paint(std::make_unique<PaintState>()),
       m_drag(std::make_unique<DragState>()),
       m_access(std::make_unique<AccessState>()),
-      m_cursor(std::make_unique<CellCursor>(*this))
+      m_cursor(std::make_unique<CellCursor>(*this)),
+      m_resolution(std::make_unique<Resolution>(*this))
 {
     GetColors();
 }
@@ -86,6 +88,7 @@ void CXListCtrl::PreSubclassWindow()
         SetExtendedStyle(GetExtendedStyle() | LVS_EX_INFOTIP);
     }
     SubclassHeaderControl();
+    m_resolution->Begin();
 }
 
 int CXListCtrl::OnCreate(LPCREATESTRUCT create)
@@ -93,6 +96,7 @@ int CXListCtrl::OnCreate(LPCREATESTRUCT create)
     if (CListCtrl::OnCreate(create) == -1)
         return -1;
     SubclassHeaderControl();
+    m_resolution->Begin();
     // A window made anew starts with an empty menu as well.
     if (m_popupMenu.GetSafeHmenu() != nullptr)
         m_popupMenu.DestroyMenu();
@@ -114,6 +118,7 @@ void CXListCtrl::SubclassHeaderControl()
 
 void CXListCtrl::OnDestroy()
 {
+    m_resolution->End();
     EndAccess();
     EndDragImage();
     EndEditors();

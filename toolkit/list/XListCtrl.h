@@ -325,6 +325,15 @@ public:
     void SetListModified(bool modified);
     /// Whether the list is marked as changed.
     bool GetListModified() const;
+    /// The dots an inch that the list is shown with, 96 at first. Boxes, distances, images and the least height of rows
+    /// follow, columns keep their share, and header and editors go along. The font stays the host's, and an image list
+    /// that the host sets from now on is for this resolution. A column's width is in pixels of the screen at all times,
+    /// the cell padding in pixels at 96. FALSE, and nothing else, below 48 and above 960.
+    BOOL SetDpi(UINT dpi);
+    /// See SetDpi.
+    UINT GetDpi() const;
+    /// Whether the list takes its window's resolution, at once and whenever that changes. Off at first.
+    void FollowDpi(BOOL follow);
     /// Repaints one cell, or the whole row for column -1. Does nothing in batch mode.
     void UpdateSubItem(int row, int col);
     /// A cell's rectangle in client coordinates; area is an LVIR_ constant. Column 0 ends where the next column begins.
@@ -475,6 +484,7 @@ private:
     class CellCursor;
     class HeldRow;
     class Pin;
+    class Resolution;
     class Watch;
 
     /// The row object in the native item; null where there is none.
@@ -641,4 +651,5 @@ private:
     CMenu m_popupMenu;
     std::unique_ptr<AccessState> m_access;
     std::unique_ptr<CellCursor> m_cursor;
+    std::unique_ptr<Resolution> m_resolution;
 };

@@ -7,9 +7,9 @@
 #include <optional>
 #include <string>
 #include <utility>
-#include <vector>
 
-#include "access/AccessibleList.h"
+#include "access/ListTarget.h"
+#include "access/NativeEvents.h"
 #include "list/CellKind.h"
 #include "list/CellText.h"
 #include "list/XListCtrlCursor.h"
@@ -91,7 +91,7 @@ private:
 };
 
 /// What the list's accessible objects share.
-class CXListCtrl::AccessTargetOfList final : public AccessTarget
+class CXListCtrl::AccessTargetOfList final : public ListTarget
 {
 public:
     explicit AccessTargetOfList(CXListCtrl & list) : m_rows(list) {}
@@ -100,49 +100,17 @@ public:
 
     bool IsThere() const override { return m_rows.List() != nullptr; }
     HWND Window() const override { return m_rows.List() != nullptr ? m_rows.List()->m_hWnd : nullptr; }
-    bool Exists(Element element) override { return accessible::Exists(m_rows, element); }
-    int ChildCount(Element element) override { return accessible::ChildCount(m_rows, element); }
-    std::optional<Element> Navigate(Element from, accessible::Direction direction) override
-    {
-        return accessible::Navigate(m_rows, from, direction);
-    }
-    std::optional<Element> ElementAt(CPoint point) override
-    {
-        ::ScreenToClient(Window(), &point);
-        return accessible::ElementAt(m_rows, point);
-    }
-    std::optional<CRect> RectOf(Element element) override
-    {
-        auto rect = accessible::RectOf(m_rows, element);
-        if (rect && IsThere())
-            ::MapWindowPoints(Window(), nullptr, reinterpret_cast<POINT *>(&*rect), 2);
-        return rect;
-    }
-    accessible::Description Describe(Element element) override
-    {
-        auto described = accessible::Describe(m_rows, element);
-        if (element.IsControl() && IsThere())
-        {
-            CString title;
-            m_rows.List()->GetWindowText(title);
-            described.name = title.GetString();
-        }
-        return described;
-    }
     bool Act(Element element) override;
-    Element Focused() override
-    {
-        int const row = m_rows.FocusedRow();
-        return row >= 0 ? Element{row, m_rows.FocusedCol()} : Element{};
-    }
-    std::vector<Element> Selected() override
-    {
-        std::vector<Element> selected;
-        for (int row = -1; IsThere() && (row = m_rows.NextSelected(row)) >= 0;)
-            selected.push_back({row, -1});
-        return selected;
-    }
     bool Select(Element element, long flags) override;
+
+protected:
+    AccessibleList const & Rows() const override { return m_rows; }
+    std::wstring Name() override
+    {
+        CString title;
+        m_rows.List()->GetWindowText(title);
+        return title.GetString();
+    }
 
 private:
     AccessRows m_rows;
@@ -259,8 +227,14 @@ void CXListCtrl::TellOfItemState(NMLISTVIEW const & change)
     Element const row{change.iItem, -1};
     bool const focused = (changed & change.uNewState & LVIS_FOCUSED) != 0;
     bool const selected = (change.uNewState & LVIS_SELECTED) != 0;
-    if (focused)
-        TellOfEvent(EVENT_OBJECT_FOCUS, window, {change.iItem, m_cursor->Place().second});
+    if (Element const focus{change.iItem, m_cursor->Place().second}; focused)
+    {
+        // The native list knows rows alone.
+        if (focus.IsRow())
+            TellUnlessNative(EVENT_OBJECT_FOCUS, window, focus);
+        else
+            TellOfEvent(EVENT_OBJECT_FOCUS, window, focus);
+    }
     if ((changed & LVIS_SELECTED) != 0)
-        TellOfEvent(selected ? EVENT_OBJECT_SELECTION : EVENT_OBJECT_SELECTIONREMOVE, window, row);
+        TellUnlessNative(selected ? EVENT_OBJECT_SELECTION : EVENT_OBJECT_SELECTIONREMOVE, window, row);
 }

@@ -2,9 +2,11 @@
 
 #include "list/XListCtrl.h"
 
+#include "colours/ControlColors.h"
 #include "frame/RegisteredMessages.h"
 #include "list/XListCtrlCursor.h"
 #include "list/XListCtrlHold.h"
+#include "list/XListCtrlResolution.h"
 #include "list/XListSearch.h"
 
 #include <algorithm>
@@ -131,6 +133,13 @@ LRESULT CXListCtrl::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     if (m_cursor->IsOn() && (message == WM_CHAR || message == WM_SYSKEYDOWN) &&
         m_cursor->TakeMessage(message, wParam, lParam))
         return 0;
+    if (message == WM_CTLCOLOREDIT || message == WM_CTLCOLORSTATIC)
+    {
+        if (LRESULT const brush = control_colors::AnswerColorQuestion(m_hWnd, message, wParam))
+            return brush;
+    }
+    if (m_resolution->Heeds(message))
+        return m_resolution->Handle(message, wParam, lParam);
     if (!ChangesRows(message, lParam))
         return CListCtrl::DefWindowProc(message, wParam, lParam);
 

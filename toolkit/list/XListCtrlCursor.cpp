@@ -7,6 +7,7 @@
 
 #include "access/AccessObject.h"
 #include "frame/GraphicsScopes.h"
+#include "list/CheckMarks.h"
 #include "list/XCombo.h"
 #include "list/XEdit.h"
 #include "list/XListCtrlHold.h"
@@ -136,6 +137,13 @@ void CXListCtrl::CellCursor::Paint(Frame const & frame) const
     if (!m_list.GetSubItemRect(frame.row, frame.col, LVIR_BOUNDS, rect) || rect.IsRectEmpty())
         return;
     CDC & dc = *CDC::FromHandle(frame.context);
+    ControlColors const & palette = m_list.m_paint->palette;
+    if (palette.adapts)
+    {
+        bool const selected = m_list.IsSelected(frame.row);
+        check_marks::DrawFrame(dc, rect, selected ? palette.selectionText : palette.windowText);
+        return;
+    }
     // The dots are the ground's opposite in any colours.
     COLORREF const text = dc.SetTextColor(RGB(0, 0, 0));
     COLORREF const background = dc.SetBkColor(RGB(255, 255, 255));

@@ -6,11 +6,13 @@
 #include <memory>
 #include <utility>
 
+#include "colours/ControlColors.h"
 #include "frame/RegisteredMessages.h"
 #include "list/XCombo.h"
 #include "list/XEdit.h"
 #include "list/XListCtrlCursor.h"
 #include "list/XListCtrlHold.h"
+#include "list/XListCtrlResolution.h"
 
 namespace
 {
@@ -23,6 +25,7 @@ constexpr UINT combo_delay = 50;
 /// Milliseconds until the list is painted again after a combo was opened over it.
 constexpr UINT unlock_delay = 50;
 
+// Pixels at 96 dots an inch.
 constexpr int least_edit_column = 5;
 constexpr int edit_left = 2;
 constexpr int edit_right = 4;
@@ -68,7 +71,8 @@ void CXListCtrl::DrawEditControl(int row, int col)
     // The host hears of the scrolling, of the text asked for and of the focus.
     HeldRow held(*this, row);
     XLISTCTRLDATA const * const cell = held.Cell(col);
-    if (cell == nullptr || (cell->properties & XLP_ENABLED) == 0 || GetColumnWidth(col) < least_edit_column)
+    if (cell == nullptr || (cell->properties & XLP_ENABLED) == 0 ||
+        GetColumnWidth(col) < m_resolution->Scaled(least_edit_column))
         return;
     if (!EnsureVisible(row, TRUE) || held.Row() != row)
         return;
@@ -92,8 +96,8 @@ void CXListCtrl::DrawEditControl(int row, int col)
     column.mask = LVCF_FMT;
     GetColumn(col, &column);
     area.bottom += 1;
-    area.left += edge + edit_left;
-    area.right = std::min(area.left + GetColumnWidth(col) - edit_right, client.right);
+    area.left += edge + m_resolution->Scaled(edit_left);
+    area.right = std::min(area.left + GetColumnWidth(col) - m_resolution->Scaled(edit_right), client.right);
 
     CString const text(ReadCellText(row, col).Characters());
     if (!held.IsListAlive())
@@ -104,6 +108,7 @@ void CXListCtrl::DrawEditControl(int row, int col)
     m_editors->savedText = text;
     // Not the list's before it is complete: the host may end the list meanwhile.
     EditOwner edit(new XListCtrl::CXEdit(this, text));
+    edit->SetDpi(m_resolution->Dpi());
     bool const created = edit->Create(edit_style | EditAlignment(column.fmt), area, this, edit_id) != FALSE;
     if (!held.IsListAlive())
         return;
@@ -190,7 +195,7 @@ void CXListCtrl::DrawComboBoxControl(int row, int col)
         return;
     place.top -= 1;
     m_editors->comboRect = place;
-    if (place.Width() < least_combo_width)
+    if (place.Width() < m_resolution->Scaled(least_combo_width))
         return;
     EndCombo();
     cell = held.Cell(col);
@@ -202,6 +207,7 @@ void CXListCtrl::DrawComboBoxControl(int row, int col)
     DWORD const style = combo_style | (cell->comboSorted ? CBS_SORT : 0);
     // Not the list's before it is complete: it takes the activation, of which the host hears.
     ComboOwner combo(new XListCtrl::CXCombo(this));
+    combo->SetDpi(m_resolution->Dpi());
     bool const created = combo->CreateEx(WS_EX_CONTROLPARENT, combo_class, L"", style, place, this, 0) != FALSE;
     if (!held.IsListAlive())
         return;
@@ -215,6 +221,10 @@ void CXListCtrl::DrawComboBoxControl(int row, int col)
     ++m_editors->comboOpenings;
     if (!created)
         return;
+    // Its owner is the list's frame, whose choice of colours may be another one than the list's.
+    if (ControlColorSet const set = control_colors::SetOf(m_hWnd);
+        set != control_colors::SetOf(m_editors->combo->m_hWnd))
+        control_colors::UseFor(m_editors->combo->m_hWnd, set);
     m_editors->comboRow = row;
     m_editors->comboCol = col;
     m_editors->updateLocked = LockWindowUpdate() != FALSE || m_editors->updateLocked;

@@ -50,8 +50,8 @@ bool CXListCtrl::SetItemText(int row, int col, wchar_t const * text, COLORREF te
     bool const shown = text == nullptr || ShowText(row, col, text);
     if (XLISTCTRLDATA * const cell = held.Cell(col))
     {
-        cell->textColor = textColor != default_color ? textColor : m_paint->palette.windowText;
-        cell->backgroundColor = background != default_color ? background : m_paint->palette.window;
+        cell->textColor = textColor != default_color ? textColor : m_paint->standard.windowText;
+        cell->backgroundColor = background != default_color ? background : m_paint->standard.window;
         Repaint(held, col);
     }
     return shown;
@@ -139,7 +139,7 @@ bool CXListCtrl::SetHyperlink(int row, int col, bool on, bool setColor)
 
 bool CXListCtrl::SetProgress(int row, int col, bool showText, wchar_t const * format)
 {
-    return m_rows->model.SetProgress(row, col, showText, format, m_paint->palette.selection);
+    return m_rows->model.SetProgress(row, col, showText, format, m_paint->standard.selection);
 }
 
 void CXListCtrl::UpdateProgress(int row, int col, int value, int displayValue)

@@ -8,6 +8,7 @@
 #include "list/PaintMemory.h"
 #include "list/XListCtrlCursor.h"
 #include "list/XListCtrlHold.h"
+#include "list/XListCtrlResolution.h"
 
 namespace
 {
@@ -97,13 +98,27 @@ void CXListCtrl::HeedMessage(UINT message)
 
 void CXListCtrl::GetColors()
 {
-    m_paint->palette = CellPalette::OfSystem();
+    m_paint->standard = control_colors::Of(ControlColorSet::standard);
+    m_paint->palette = m_paint->standard;
+    m_paint->defaults.Note(m_paint->standard);
+}
+
+void CXListCtrl::PaintState::FollowSet(HWND window)
+{
+    ControlColorSet const set = control_colors::SetOf(window);
+    if (set != ControlColorSet::standard)
+        palette = control_colors::Of(set);
+    else if (palette.adapts)
+        palette = standard;
 }
 
 void CXListCtrl::OnSysColorChange()
 {
     CListCtrl::OnSysColorChange();
     GetColors();
+    m_paint->FollowSet(m_hWnd);
+    if (m_paint->palette.adapts && m_hWnd != nullptr)
+        Invalidate();
 }
 
 void CXListCtrl::OnCustomDraw(NMHDR * header, LRESULT * result)
@@ -113,6 +128,8 @@ void CXListCtrl::OnCustomDraw(NMHDR * header, LRESULT * result)
     switch (draw.nmcd.dwDrawStage)
     {
     case CDDS_PREPAINT:
+        m_paint->FollowSet(m_hWnd);
+        [[fallthrough]];
     case CDDS_ITEMPREPAINT:
         *result = CDRF_NOTIFYSUBITEMDRAW;
         return;
@@ -151,6 +168,11 @@ void CXListCtrl::DrawSubItem(NMLVCUSTOMDRAW & draw, LRESULT * result)
     {
         if (m_paint->scope != nullptr)
             FillNativeCell(*this, draw.nmcd.hdc, row, col, PaintedRect(row, col), m_paint->palette.window);
+        if (m_paint->palette.adapts)
+        {
+            draw.clrText = m_paint->palette.windowText;
+            draw.clrTextBk = m_paint->palette.window;
+        }
         return;
     }
     XLISTCTRLDATA * const cells = rowData->cells();
@@ -158,6 +180,8 @@ void CXListCtrl::DrawSubItem(NMLVCUSTOMDRAW & draw, LRESULT * result)
 
     COLORREF text = cell.textColor;
     COLORREF background = cell.backgroundColor;
+    if (m_paint->palette.adapts)
+        AdaptCellColors(cell, m_paint->defaults, m_paint->palette, text, background);
     cell_painters::GreyDisabled(cell, m_paint->palette, text, background);
     draw.clrText = text;
     draw.clrTextBk = background;
@@ -237,8 +261,12 @@ void CXListCtrl::GetDrawColors(int row, int col, COLORREF & text, COLORREF & bac
 CellPaint CXListCtrl::PaintOf(int row, int col, CDC & dc, COLORREF text, COLORREF background, CRect const & rect,
                               XLISTCTRLDATA const & cell)
 {
+    COLORREF const ownText = text;
+    COLORREF const ownBackground = background;
     GetDrawColors(row, col, text, background);
-    return {dc, cell, rect, text, background};
+    CellPaint paint{dc, cell, rect, text, background, m_resolution->Dpi(), m_resolution->ImageDpi()};
+    paint.softensWash = m_paint->palette.adapts && (text != ownText || background != ownBackground);
+    return paint;
 }
 
 UINT CXListCtrl::TextFormat(int col) const
@@ -301,10 +329,16 @@ UINT CXListCtrl::AskAlignment(int col) const
 // Rows are never erased, since every cell paints its whole area.
 BOOL CXListCtrl::OnEraseBkgnd(CDC * dc)
 {
+    m_paint->FollowSet(m_hWnd);
     int const count = GetItemCount();
     CRect clip(0, 0, 0, 0);
-    if (count <= 0 || dc->GetClipBox(&clip) <= NULLREGION)
+    if (dc->GetClipBox(&clip) <= NULLREGION || (count <= 0 && !m_paint->palette.adapts))
         return CListCtrl::OnEraseBkgnd(dc);
+    if (count <= 0)
+    {
+        dc->FillSolidRect(clip, m_paint->palette.window);
+        return TRUE;
+    }
 
     int const top = GetTopIndex();
     int const last = std::min(top + GetCountPerPage(), count - 1);
@@ -349,12 +383,16 @@ void CXListCtrl::OnPaint()
         m_header.GetItemRect(0, &item);
         rect.top += item.bottom;
     }
-    rect.top += gap_below_header;
+    rect.top += m_resolution->Scaled(gap_below_header);
 
     CBrush brush(m_paint->palette.window);
     dc.FillRect(rect, &brush);
     dc.SetTextColor(m_paint->palette.windowText);
     dc.SetBkColor(m_paint->palette.window);
-    dc.SelectStockObject(ANSI_VAR_FONT);
+    // The stock font has one size alone.
+    if (CFont * const font = GetFont(); font != nullptr && m_resolution->Dpi() != resolution::usual)
+        dc.SelectObject(font);
+    else
+        dc.SelectStockObject(ANSI_VAR_FONT);
     dc.DrawText(m_emptyListText, &rect, DT_CENTER | DT_WORDBREAK | DT_NOCLIP | DT_NOPREFIX);
 }

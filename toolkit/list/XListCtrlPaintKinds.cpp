@@ -4,6 +4,7 @@
 #include "list/XListCtrl.h"
 
 #include "list/CellPainters.h"
+#include "list/XListCtrlResolution.h"
 #include "list/XListCtrlState.h"
 
 namespace
@@ -44,7 +45,7 @@ void CXListCtrl::DrawTextW(int row, int col, CDC * dc, COLORREF text, COLORREF b
         return;
     CellPaint const paint = PaintOf(row, col, *dc, text, background, rect, cells[col]);
     CellText const shown = ReadCellText(row, col);
-    cell_painters::PaintText(paint, shown, shown.IsEmpty() ? 0 : TextFormat(col), m_cellPadding);
+    cell_painters::PaintText(paint, shown, shown.IsEmpty() ? 0 : TextFormat(col), m_resolution->Scaled(m_cellPadding));
 }
 
 void CXListCtrl::DrawCheckbox(int row, int col, CDC * dc, COLORREF text, COLORREF background, CRect & rect,
@@ -60,13 +61,13 @@ void CXListCtrl::DrawCheckbox(int row, int col, CDC * dc, COLORREF text, COLORRE
 void CXListCtrl::DrawCheckboxBox(CRect & box, int state, bool enabled, CDC * dc)
 {
     if (!box.IsRectEmpty() && dc != nullptr)
-        cell_painters::PaintCheckBox(*dc, box, state, enabled, m_paint->palette);
+        cell_painters::PaintCheckBox(*dc, box, state, enabled, m_paint->palette, m_resolution->Dpi());
 }
 
 void CXListCtrl::DrawRadioBox(CRect & box, int state, bool enabled, CDC * dc)
 {
     if (!box.IsRectEmpty() && dc != nullptr)
-        cell_painters::PaintRadioBox(*dc, box, state, enabled, m_paint->palette);
+        cell_painters::PaintRadioBox(*dc, box, state, enabled, m_paint->palette, m_resolution->Dpi());
 }
 
 void CXListCtrl::DrawComboBox(int row, int col, CDC * dc, COLORREF text, COLORREF background, CRect & rect,
@@ -74,9 +75,10 @@ void CXListCtrl::DrawComboBox(int row, int col, CDC * dc, COLORREF text, COLORRE
 {
     if (NothingToDraw(rect, dc, cells))
         return;
-    CellPaint const paint = PaintOf(row, col, *dc, text, background, rect, cells[col]);
+    CellPaint paint = PaintOf(row, col, *dc, text, background, rect, cells[col]);
+    cell_painters::SetArrow(paint, m_paint->palette);
     CellText const shown = ReadCellText(row, col);
-    cell_painters::PaintCombo(paint, shown, shown.IsEmpty() ? 0 : TextFormat(col), m_cellPadding);
+    cell_painters::PaintCombo(paint, shown, shown.IsEmpty() ? 0 : TextFormat(col), m_resolution->Scaled(m_cellPadding));
 }
 
 void CXListCtrl::DrawProgress(int, int col, CDC * dc, COLORREF text, COLORREF background, CRect & rect,

@@ -29,7 +29,7 @@ int CXListCtrl::InsertItem(int pos, wchar_t const * text, COLORREF textColor, CO
 
 int CXListCtrl::InsertItem(int pos, wchar_t const * text, void const * ptr, long long data)
 {
-    return InsertItem(pos, text, m_paint->palette.windowText, m_paint->palette.window, ptr, data);
+    return InsertItem(pos, text, m_paint->standard.windowText, m_paint->standard.window, ptr, data);
 }
 
 int CXListCtrl::AddItem(wchar_t const * text, void const * ptr, long long data)
@@ -41,7 +41,7 @@ int CXListCtrl::InsertItem(LVITEMW const * item)
 {
     if (item == nullptr || item->iItem < 0)
         return -1;
-    return InsertWithRow(*item, m_paint->palette.windowText, m_paint->palette.window, item->iImage,
+    return InsertWithRow(*item, m_paint->standard.windowText, m_paint->standard.window, item->iImage,
                          reinterpret_cast<void *>(item->lParam), 0);
 }
 

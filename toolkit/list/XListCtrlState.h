@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "access/AccessObject.h"
+#include "list/CellColors.h"
 #include "list/CellPainters.h"
 #include "list/ListModel.h"
 #include "list/XListColumnFit.h"
@@ -116,7 +117,13 @@ struct CXListCtrl::EditorState
 
 struct CXListCtrl::PaintState
 {
-    CellPalette palette;
+    /// Takes the colours of the set that the window is painted in now.
+    void FollowSet(HWND window);
+
+    ControlColors palette;
+    /// Of the standard set: what new cells get, in any set.
+    ControlColors standard;
+    CellDefaults defaults;
     /// The paint under way; null outside of one. Not owned.
     PaintScope * scope = nullptr;
 };

@@ -47,6 +47,7 @@ public:
     FrameRaster() = default;
     FrameRaster(std::uint32_t sampleRate, std::uint64_t frames, std::uint32_t step);
 
+    std::uint32_t SampleRate() const { return static_cast<std::uint32_t>(m_rate); }
     /// 0 without samples or sample rate.
     std::uint64_t Rows() const { return m_rows; }
     /// The sample frame for whose time a row stands.

@@ -37,47 +37,51 @@ std::optional<double> NumberOf(std::wstring_view text, wchar_t decimalSign)
     return isAll ? std::optional(number) : std::nullopt;
 }
 
-/// "> 3" and the like.
-std::optional<TableFilter::RangePart> ComparisonOf(std::wstring_view text, wchar_t decimalSign)
+/// The number, or what stands in its place noted in the filter.
+double NumberIn(std::wstring_view text, wchar_t decimalSign, FrameFilter & filter)
 {
-    if (text.empty() || (text.front() != L'<' && text.front() != L'>'))
+    auto const number = NumberOf(text, decimalSign);
+    if (!number && !filter.noNumber)
     {
-        return std::nullopt;
+        filter.noNumber = Trimmed(text);
     }
+    return number.value_or(0.0);
+}
+
+/// "> 3" and the like.
+TableFilter::RangePart ComparisonOf(std::wstring_view text, wchar_t decimalSign, FrameFilter & filter)
+{
     auto const isGreater = text.front() == L'>';
     auto const isEqual = text.size() > 1 && text[1] == L'=';
-    auto const number = NumberOf(text.substr(isEqual ? 2 : 1), decimalSign);
-    if (!number)
-    {
-        return std::nullopt;
-    }
+    auto const number = NumberIn(text.substr(isEqual ? 2 : 1), decimalSign, filter);
     TableFilter::RangePart range;
     (isGreater ? range.least : range.greatest) =
-        isEqual ? *number : std::nextafter(*number, isGreater ? range.greatest : range.least);
+        isEqual ? number : std::nextafter(number, isGreater ? range.greatest : range.least);
     return range;
 }
 
 /// "-20..-10", its ends in either order.
-std::optional<TableFilter::RangePart> RangeOf(std::wstring_view text, wchar_t decimalSign)
+TableFilter::RangePart RangeOf(std::wstring_view text, std::size_t dots, wchar_t decimalSign, FrameFilter & filter)
 {
-    auto const dots = text.find(L"..");
-    if (dots == std::wstring_view::npos)
-    {
-        return std::nullopt;
-    }
-    auto const from = NumberOf(text.substr(0, dots), decimalSign);
-    auto const to = NumberOf(text.substr(dots + 2), decimalSign);
-    if (!from || !to)
-    {
-        return std::nullopt;
-    }
+    auto const from = NumberIn(text.substr(0, dots), decimalSign, filter);
+    auto const to = NumberIn(text.substr(dots + 2), decimalSign, filter);
     TableFilter::RangePart range;
-    range.least = std::min(*from, *to);
-    range.greatest = std::max(*from, *to);
+    range.least = std::min(from, to);
+    range.greatest = std::max(from, to);
     return range;
 }
 
-void SetUnlessUnknown(TableValue & value, float number)
+// No more is known of a value than these parts of its unit, and no more goes into exports and copies.
+constexpr double level_parts = 1e3;
+constexpr double frequency_parts = 1e2;
+constexpr double time_parts = 1e6;
+
+void SetRounded(TableValue & value, double number, double parts)
+{
+    value.SetNumber(std::isfinite(number) ? std::round(number * parts) / parts : number);
+}
+
+void SetUnlessUnknown(TableValue & value, float number, double parts)
 {
     if (std::isnan(number))
     {
@@ -85,7 +89,7 @@ void SetUnlessUnknown(TableValue & value, float number)
     }
     else
     {
-        value.SetNumber(static_cast<double>(number));
+        SetRounded(value, static_cast<double>(number), parts);
     }
 }
 
@@ -101,54 +105,57 @@ bool FrameTable::Read(TableRow row, unsigned int column, TableValue & value) con
     switch (column)
     {
     case column_time:
-        value.SetNumber(m_rows->Raster().TimeOf(row));
+        SetRounded(value, m_rows->Raster().TimeOf(row), time_parts);
         return true;
     case column_peak:
-        value.SetNumber(AmplitudeToDecibels(static_cast<double>(measures.peak)));
+        SetRounded(value, AmplitudeToDecibels(static_cast<double>(measures.peak)), level_parts);
         return true;
     case column_rms:
-        value.SetNumber(AmplitudeToDecibels(static_cast<double>(measures.rms)));
+        SetRounded(value, AmplitudeToDecibels(static_cast<double>(measures.rms)), level_parts);
         return true;
     case column_crest:
-        SetUnlessUnknown(value, measures.rms > 0.0F
-                                    ? static_cast<float>(AmplitudeToDecibels(static_cast<double>(measures.peak) /
-                                                                             static_cast<double>(measures.rms)))
-                                    : FrameMeasures::unknown);
+        SetUnlessUnknown(value,
+                         measures.rms > 0.0F
+                             ? static_cast<float>(AmplitudeToDecibels(static_cast<double>(measures.peak) /
+                                                                      static_cast<double>(measures.rms)))
+                             : FrameMeasures::unknown,
+                         level_parts);
         return true;
     case column_frequency:
-        SetUnlessUnknown(value, measures.frequency);
+        SetUnlessUnknown(value, measures.frequency, frequency_parts);
         return true;
     case column_centroid:
-        SetUnlessUnknown(value, measures.centroid);
+        SetUnlessUnknown(value, measures.centroid, frequency_parts);
         return true;
     default:
         return false;
     }
 }
 
-TableFilter ParseFrameFilter(std::wstring_view text, unsigned int column, wchar_t decimalSign)
+FrameFilter ParseFrameFilter(std::wstring_view text, unsigned int column, wchar_t decimalSign)
 {
-    TableFilter filter;
+    FrameFilter filter;
     auto const wanted = Trimmed(text);
     if (wanted.empty())
     {
         return filter;
     }
-    auto range = ComparisonOf(wanted, decimalSign);
-    if (!range)
+    auto const isComparison = wanted.front() == L'<' || wanted.front() == L'>';
+    auto const dots = wanted.find(L"..");
+    if (!isComparison && dots == std::wstring_view::npos)
     {
-        range = RangeOf(wanted, decimalSign);
-    }
-    if (range)
-    {
-        range->column = column;
-        filter.ranges.push_back(*range);
+        TableFilter::TextPart part;
+        part.column = column;
+        part.text = wanted;
+        filter.rows.texts.push_back(part);
         return filter;
     }
-    TableFilter::TextPart part;
-    part.column = column;
-    part.text = wanted;
-    filter.texts.push_back(part);
+    auto range = isComparison ? ComparisonOf(wanted, decimalSign, filter) : RangeOf(wanted, dots, decimalSign, filter);
+    if (!filter.noNumber)
+    {
+        range.column = column;
+        filter.rows.ranges.push_back(range);
+    }
     return filter;
 }
 

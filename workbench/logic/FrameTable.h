@@ -2,6 +2,8 @@
 // The rows of a recording's analysis frames as a table has them, and what the user types to choose among them.
 
 #include <memory>
+#include <optional>
+#include <string>
 #include <string_view>
 #include <utility>
 
@@ -37,8 +39,15 @@ private:
     std::shared_ptr<FrameStore const> m_rows;
 };
 
-/// What the user wants to see of a column: "> -20", "<= 3", "-20..-10", or else a part of what its cells show. Blanks
-/// do not matter.
-TableFilter ParseFrameFilter(std::wstring_view text, unsigned int column, wchar_t decimalSign);
+/// What the user wants to see.
+struct FrameFilter
+{
+    TableFilter rows; ///< lets all through where something is wrong
+    /// What stands where a number is needed, if that is none; empty if there is nothing.
+    std::optional<std::wstring> noNumber;
+};
+
+/// Of a column: "> -20", "<= 3", "-20..-10", or else a part of what its cells show. Blanks do not matter.
+FrameFilter ParseFrameFilter(std::wstring_view text, unsigned int column, wchar_t decimalSign);
 
 } // namespace workbench

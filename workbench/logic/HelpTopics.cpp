@@ -21,7 +21,8 @@ constexpr Page pages[] = {
       L"The window consists of panes: recordings, waveform, spectrogram, measures and folders. Drag a pane by its "
       L"title "
       L"to another side, into tabs or out of the window. F6 goes from one to the next, the Window menu shows and hides "
-      L"them, and Reset layout puts them back.\n"
+      L"them, and Reset layout puts them back. The lines between panes are dragged to change their sizes; Ctrl and Alt "
+      L"with an arrow key change that of the pane with the focus.\n"
       L"Marks, ratings, comments, order, the part shown and the layout are kept by themselves and are there again at "
       L"the next start.\n"},
      {L"Die Workbench",
@@ -30,7 +31,9 @@ constexpr Page pages[] = {
       L"werden im Hintergrund gelesen; Abbruch rechts unten beendet das, was gelesen ist, bleibt.\n"
       L"Das Fenster besteht aus Bereichen: Aufnahmen, Verlauf, Spektrogramm, Messwerte und Ordner. Ziehen Sie einen "
       L"Bereich an seinem Titel an eine andere Seite, in Reiter oder aus dem Fenster heraus. F6 geht von einem zum "
-      L"nächsten, das Menü Fenster zeigt und verbirgt sie, Anordnung zurücksetzen stellt sie zurück.\n"
+      L"nächsten, das Menü Fenster zeigt und verbirgt sie, Anordnung zurücksetzen stellt sie zurück. Ihre "
+      L"Größe ändert man, indem man die Linien zwischen ihnen zieht, oder für den Bereich mit dem Fokus mit Strg, Alt "
+      L"und einer Pfeiltaste.\n"
       L"Markierungen, Bewertungen, Kommentare, Reihenfolge, der gezeigte Ausschnitt und die Anordnung werden von "
       L"selbst "
       L"behalten und sind beim nächsten Start wieder da.\n"},
@@ -42,14 +45,16 @@ constexpr Page pages[] = {
       L"plano; Cancelar, abajo a la derecha, lo interrumpe, y lo leído se conserva.\n"
       L"La ventana consta de paneles: grabaciones, forma de onda, espectrograma, medidas y carpetas. Arrastre un panel "
       L"por su título a otro lado, a una pestaña o fuera de la ventana. F6 pasa de uno a otro, el menú Ventana los "
-      L"muestra y oculta, y Restablecer disposición los devuelve a su sitio.\n"
+      L"muestra y oculta, y Restablecer disposición los devuelve a su sitio. "
+      L"Su tamaño se cambia arrastrando las líneas entre ellos o, el del panel con el foco, con Ctrl, Alt y una "
+      L"flecha.\n"
       L"Las marcas, valoraciones, comentarios, el orden, la parte mostrada y la disposición se conservan solos y "
       L"vuelven "
       L"en el siguiente inicio.\n"}},
     {{L"The list of recordings",
       L"Each line is a recording. A click on a title sorts by that column, a second one in the other direction; "
       L"lines can be dragged to other places. Widths are changed at the titles' edges, "
-      L"columns are chosen in the View menu.\n"
+      L"columns are chosen and sorted by in the View menu, and ordered in the settings.\n"
       L"The tick marks a recording, the circle makes it the reference to which the status line compares the chosen "
       L"one. "
       L"Stars are set by a click, the rating and the comment are edited in place. Several lines are selected with "
@@ -60,7 +65,8 @@ constexpr Page pages[] = {
      {L"Die Liste der Aufnahmen",
       L"Jede Zeile ist eine Aufnahme. Ein Klick auf einen Titel sortiert nach dieser Spalte, ein zweiter anders herum; "
       L"Zeilen lassen sich an andere Plätze ziehen. Breiten ändert man an den Rändern "
-      L"der Titel, Spalten wählt man im Menü Ansicht.\n"
+      L"der Titel, Spalten wählt man im Menü Ansicht, das auch nach ihnen sortiert; ihre Reihenfolge steht in den "
+      L"Einstellungen.\n"
       L"Das Häkchen markiert eine Aufnahme, der Kreis macht sie zum Bezug, mit dem die Statuszeile die gewählte "
       L"vergleicht. Sterne setzt ein Klick, Bewertung und Kommentar werden an ihrer Stelle bearbeitet. Mehrere Zeilen "
       L"wählt man mit Umschalt und Strg, sie handeln gemeinsam. Rückgängig nimmt Markierungen, Bewertungen, Kommentare "
@@ -70,7 +76,8 @@ constexpr Page pages[] = {
      {L"La lista de grabaciones",
       L"Cada línea es una grabación. Un clic en un título ordena por esa columna, otro lo hace en sentido contrario; "
       L"las líneas se pueden arrastrar a otros sitios. Los anchos se cambian en los bordes de los "
-      L"títulos y las columnas se eligen en el menú Ver.\n"
+      L"títulos y las columnas se eligen en el menú Ver, que también ordena por ellas; su orden está en la "
+      L"configuración.\n"
       L"La casilla marca una grabación, el círculo la convierte en la referencia con la que la línea de estado compara "
       L"la elegida. Las estrellas se ponen con un clic; la valoración y el comentario se editan en su sitio. Con Mayús "
       L"y Ctrl se seleccionan varias líneas, que actúan juntas. Deshacer retira marcas, valoraciones, comentarios y "
@@ -142,21 +149,55 @@ constexpr Page pages[] = {
       L"la "
       L"ventana. Ventana, solapamiento y eje lineal o logarítmico están en la configuración.\n"
       L"El ratón y las teclas hacen aquí lo mismo que en la forma de onda; el cursor tiene además una frecuencia.\n"}},
-    {{L"Displays", L"The pane with the measures shows the cursor's position in minutes, seconds and thousandths, and "
-                   L"the level there: "
-                   L"the greatest amplitude of the ten milliseconds around it, in dBFS. Beside them are a clock and "
-                   L"the choice of the "
-                   L"spectrogram's colours.\n"},
+    {{L"Displays",
+      L"The pane with the measures shows the cursor's position in minutes, seconds and thousandths, and "
+      L"the level there: "
+      L"the greatest amplitude of the ten milliseconds around it in all channels, in dBFS. The analysis frames measure "
+      L"twice as long a piece, so that their peaks can be greater. Beside them are a clock and "
+      L"the choice of the "
+      L"spectrogram's colours.\n"},
      {L"Anzeigen",
       L"Der Bereich mit den Messwerten zeigt die Stelle des Cursors in Minuten, Sekunden und Tausendsteln und den "
       L"Pegel "
-      L"dort: die größte Amplitude der zehn Millisekunden ringsum, in dBFS. Daneben stehen eine Uhr und die Wahl der "
+      L"dort: die größte Amplitude der zehn Millisekunden ringsum in allen Kanälen, in dBFS. Die Analyseabschnitte "
+      L"messen "
+      L"ein doppelt so langes Stück, ihre Spitzen können also größer sein. Daneben stehen eine Uhr und die Wahl der "
       L"Farben des Spektrogramms.\n"},
      {L"Indicadores",
       L"El panel de medidas muestra la posición del cursor en minutos, segundos y milésimas, y el nivel en ese punto: "
       L"la "
-      L"mayor amplitud de los diez milisegundos en torno a él, en dBFS. Al lado hay un reloj y la elección de los "
+      L"mayor amplitud de los diez milisegundos en torno a él en todos los canales, en dBFS. Los tramos de análisis "
+      L"miden un trozo el doble de largo, por lo que sus picos pueden ser mayores. Al lado hay un reloj y la elección "
+      L"de los "
       L"colores del espectrograma.\n"}},
+    {{L"Analysis frames",
+      L"The pane of the analysis frames has a row each millisecond of the chosen recording. Each is measured in a "
+      L"piece "
+      L"of about 20 ms around its time, over all channels: peak, effective level, how far the former lies above the "
+      L"latter, the strongest frequency and the centroid of the spectrum. The display of the measures looks at 10 ms "
+      L"only, and the list at the whole recording, so that their numbers differ.\n"
+      L"A row that is chosen moves the cursor of the plots; what is selected there stays. The cursor chooses its row.\n"
+      L"The filter shows rows by a column: > -20, <= 3 or 100..200, or a part of the number. Where a number is wrong "
+      L"it "
+      L"says so and shows all rows. The menu of the table sorts by a column, hides it and moves it.\n"},
+     {L"Analyseabschnitte",
+      L"Der Bereich der Analyseabschnitte hat eine Zeile je Millisekunde der gewählten Aufnahme. Jede ist in einem "
+      L"Stück von etwa 20 ms um ihre Zeit gemessen, über alle Kanäle: Spitze, Effektivpegel, wie weit erstere über "
+      L"letzterem liegt, die stärkste Frequenz und der Schwerpunkt des Spektrums. Die Anzeige der Messwerte betrachtet "
+      L"nur 10 ms, die Liste die ganze Aufnahme, daher unterscheiden sich ihre Zahlen.\n"
+      L"Eine gewählte Zeile bewegt den Cursor der Bilder; was dort ausgewählt ist, bleibt. Der Cursor wählt seine "
+      L"Zeile.\n"
+      L"Der Filter zeigt Zeilen nach einer Spalte: > -20, <= 3 oder 100..200, oder einen Teil der Zahl. Wo eine Zahl "
+      L"falsch ist, sagt er es und zeigt alle Zeilen. Das Menü der Tabelle sortiert nach einer Spalte, verbirgt und "
+      L"verschiebt sie.\n"},
+     {L"Tramos de análisis",
+      L"El panel de los tramos de análisis tiene una fila por milisegundo de la grabación elegida. Cada una se mide en "
+      L"un trozo de unos 20 ms en torno a su tiempo, en todos los canales: pico, nivel eficaz, cuánto está el primero "
+      L"por encima del segundo, la frecuencia dominante y el centroide del espectro. El indicador de las medidas mira "
+      L"solo 10 ms, y la lista toda la grabación; por eso sus números difieren.\n"
+      L"Una fila elegida mueve el cursor de los gráficos; lo seleccionado allí se conserva. El cursor elige su fila.\n"
+      L"El filtro muestra filas según una columna: > -20, <= 3 o 100..200, o una parte del número. Si un número está "
+      L"mal, lo dice y muestra todas las filas. El menú de la tabla ordena por una columna, la oculta y la mueve.\n"}},
     {{L"Folders", L"The tree shows folders and their recordings. Choosing a recording shows it in the list; choosing "
                   L"one in another "
                   L"folder opens that folder. Enter opens the folder on which the keys have stopped. The tree follows "
@@ -280,18 +321,21 @@ constexpr Page pages[] = {
       L"Archivo y Edición. La vista previa los muestra en una página, desde la que se imprimen.\n"}},
     {{L"Settings",
       L"The settings have the folders opened at the start, the waveform's colours, window, overlap and axis of the "
-      L"spectrogram, the columns of the list, and how dialogs behave. Apply has them count at once. They can be "
+      L"spectrogram, the columns of the list, its contrast, and how dialogs behave. Apply has them count at once. They "
+      L"can be "
       L"exported "
       L"to a file and imported from one. The language is chosen in the Options menu.\n"},
      {L"Einstellungen",
       L"Die Einstellungen enthalten die Ordner, die beim Start geöffnet werden, die Farben der Kurve, Fenster, "
-      L"Überlappung und Achse des Spektrogramms, die Spalten der Liste und das Verhalten der Dialoge. Mit Übernehmen "
+      L"Überlappung und Achse des Spektrogramms, die Spalten der Liste, ihren Kontrast und das Verhalten der Dialoge. "
+      L"Mit Übernehmen "
       L"gelten sie sofort. Sie lassen sich in eine Datei exportieren und aus einer importieren. Die Sprache wählt man "
       L"im "
       L"Menü Optionen.\n"},
      {L"Configuración",
       L"La configuración tiene las carpetas que se abren al inicio, los colores de la forma de onda, la ventana, el "
-      L"solapamiento y el eje del espectrograma, las columnas de la lista y el comportamiento de los diálogos. Con "
+      L"solapamiento y el eje del espectrograma, las columnas de la lista, su contraste y el comportamiento de los "
+      L"diálogos. Con "
       L"Aplicar "
       L"se usan al instante. Puede exportarse a un archivo e importarse de uno. El idioma se elige en el menú "
       L"Opciones.\n"}},
@@ -326,7 +370,9 @@ constexpr PlotKey plot_keys[][language_count] = {
     {{L"+, -", L"Zoom in, zoom out"}, {L"+, -", L"Vergrößern, verkleinern"}, {L"+, -", L"Acercar, alejar"}},
     {{L"*", L"Show all"}, {L"*", L"Alles zeigen"}, {L"*", L"Mostrar todo"}},
     {{L"Page Up, Page Down", L"Scroll"}, {L"Bild auf, Bild ab", L"Blättern"}, {L"Re Pág, Av Pág", L"Desplazar"}},
-    {{L"Enter", L"Show what is selected"}, {L"Enter", L"Ausgewähltes zeigen"}, {L"Entrar", L"Mostrar lo seleccionado"}},
+    {{L"Enter", L"Show what is selected"},
+     {L"Eingabe", L"Ausgewähltes zeigen"},
+     {L"Entrar", L"Mostrar lo seleccionado"}},
     {{L"Escape", L"Select nothing"}, {L"Escape", L"Nichts auswählen"}, {L"Escape", L"No seleccionar nada"}},
     {{L"Space", L"Play or pause"}, {L"Leertaste", L"Abspielen oder anhalten"}, {L"Espacio", L"Reproducir o pausar"}},
 };

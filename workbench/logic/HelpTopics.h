@@ -18,6 +18,7 @@ enum class HelpTopic
     waveform,
     spectrogram,
     displays,
+    frame_measures,
     folders,
     frames,
     playing,

@@ -17,6 +17,9 @@ constexpr int whole = 10;
 // The list's part of the height where both plots share the rest, in 1/10.
 constexpr int list_part_beside_tabs = 4;
 
+// The part of its height at first that the list always keeps, in 1/10.
+constexpr int kept_list_part = 8;
+
 constexpr int panes = 4; // above each other
 
 } // namespace
@@ -27,6 +30,15 @@ CSize LeastMainArea(MainLayoutNeeds const & needs, int listWidth)
                                                     needs.spectrogramHeight + needs.panelHeight +
                                                     panes * needs.captionHeight + (panes - 1) * needs.dividerGap +
                                                     needs.spacing + needs.statusHeight);
+}
+
+CSize LeastListPane(MainLayoutNeeds const & needs)
+{
+    auto const width = needs.client.cx - 2 * needs.marginX - needs.framesWidth;
+    auto const height = needs.client.cy - 2 * needs.marginY - needs.spacing - needs.statusHeight - needs.panelHeight -
+                        needs.captionHeight - needs.dividerGap;
+    return CSize(std::clamp<int>(width / 2, 0, needs.leastBeside),
+                 std::clamp<int>(height / 2, 0, needs.captionHeight + needs.listHeight * kept_list_part / whole));
 }
 
 MainLayout LayOutMain(MainLayoutNeeds const & needs)

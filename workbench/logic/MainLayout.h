@@ -48,6 +48,10 @@ struct PaneHeights
 /// The client area that list, panes and status need with a list of that width, without folders and frames.
 CSize LeastMainArea(MainLayoutNeeds const & needs, int listWidth);
 
+/// The least size of the list's pane, which no other pane may take: some rows, and columns enough to tell recordings
+/// apart, as far as the client area leaves others room beside it.
+CSize LeastListPane(MainLayoutNeeds const & needs);
+
 MainLayout LayOutMain(MainLayoutNeeds const & needs);
 
 /// Where there is less than the least area, waveform and spectrogram stand in tabs.

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cstddef>
+#include <memory>
 #include <mutex>
 #include <utility>
 
@@ -14,10 +15,19 @@ namespace
 
 std::mutex s_mutex;
 
-NumberSigns & Signs()
+using SharedSigns = std::shared_ptr<NumberSigns const>;
+
+/// Replaced as a whole, so that a number is written without a copy of them.
+SharedSigns & Signs()
 {
-    static NumberSigns signs;
+    static auto signs = std::make_shared<NumberSigns const>();
     return signs;
+}
+
+SharedSigns SignsInUse()
+{
+    std::scoped_lock const lock(s_mutex);
+    return Signs();
 }
 
 bool IsDigit(wchar_t character)
@@ -36,10 +46,11 @@ std::wstring Grouped(std::wstring_view digits, NumberSigns const & signs)
     {
         auto const size = static_cast<std::size_t>(signs.groups[group]);
         left -= size;
-        text = signs.grouping + std::wstring(digits.substr(left, size)) + text;
+        text.insert(0, digits.substr(left, size)).insert(0, signs.grouping);
         group += group + 1 < signs.groups.size() ? 1 : 0;
     }
-    return std::wstring(digits.substr(0, left)) + text;
+    text.insert(0, digits.substr(0, left));
+    return text;
 }
 
 /// Blanks that group look alike and are typed alike.
@@ -95,20 +106,22 @@ std::vector<int> GroupsOf(std::wstring_view description)
 
 void SetNumberSigns(NumberSigns signs)
 {
+    auto shared = std::make_shared<NumberSigns const>(std::move(signs));
     std::scoped_lock const lock(s_mutex);
-    Signs() = std::move(signs);
+    Signs() = std::move(shared);
 }
 
 NumberSigns PresentNumberSigns()
 {
-    std::scoped_lock const lock(s_mutex);
-    return Signs();
+    return *SignsInUse();
 }
 
 std::wstring WithSigns(std::wstring_view plain, bool grouped)
 {
-    auto const signs = PresentNumberSigns();
+    auto const shared = SignsInUse();
+    auto const & signs = *shared;
     std::wstring text;
+    text.reserve(plain.size());
     for (std::size_t place = 0; place < plain.size();)
     {
         auto const followsDigit = place > 0 && IsDigit(plain[place - 1]);
@@ -119,7 +132,14 @@ std::wstring WithSigns(std::wstring_view plain, bool grouped)
             auto const digits =
                 rest.substr(0, static_cast<std::size_t>(std::ranges::find_if_not(rest, IsDigit) - rest.begin()));
             auto const isDecimals = place > 0 && plain[place - 1] == L'.';
-            text += grouped && !isDecimals ? Grouped(digits, signs) : std::wstring(digits);
+            if (grouped && !isDecimals)
+            {
+                text += Grouped(digits, signs);
+            }
+            else
+            {
+                text += digits;
+            }
             place += digits.size();
             continue;
         }
@@ -142,7 +162,8 @@ std::wstring WithSigns(std::wstring_view plain, bool grouped)
 
 std::wstring WithoutSigns(std::wstring_view text)
 {
-    auto const signs = PresentNumberSigns();
+    auto const shared = SignsInUse();
+    auto const & signs = *shared;
     std::wstring plain;
     while (!text.empty())
     {

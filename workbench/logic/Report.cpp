@@ -1,6 +1,8 @@
 #include "logic/Report.h"
 
+#include <algorithm>
 #include <cstddef>
+#include <utility>
 
 #include "logic/TableText.h"
 #include "logic/TextFormat.h"
@@ -73,7 +75,7 @@ TextTable OverviewOf(std::span<ReportedRecording const> recordings)
             row = {row.front(),
                    FormatDuration(info.frames, info.sampleRate),
                    std::to_wstring(info.channels),
-                   std::to_wstring(info.sampleRate),
+                   FormatThousands(info.sampleRate),
                    FormatLevel(analysis->levels.peak),
                    FormatLevel(analysis->levels.rms),
                    FormatCrestFactor(analysis->levels),
@@ -90,18 +92,50 @@ TextTable OverviewOf(std::span<ReportedRecording const> recordings)
     return table;
 }
 
+/// Lines of a label and a text, as a table.
+std::wstring LabelledLines(std::span<DetailLine const> lines)
+{
+    std::wstring html = L"<table>\r\n<tbody>\r\n";
+    for (auto const & [label, text] : lines)
+    {
+        html += L"<tr><th scope=\"row\">" + HtmlText(label) + L"</th><td>" + HtmlText(text) + L"</td></tr>\r\n";
+    }
+    return html + L"</tbody>\r\n</table>\r\n";
+}
+
+/// The folders of the recordings, each once and on a line of its own.
+std::wstring FoldersOf(std::span<ReportedRecording const> recordings)
+{
+    std::vector<std::filesystem::path> folders;
+    std::wstring text;
+    for (auto const & recording : recordings)
+    {
+        auto const folder = recording.file.parent_path();
+        if (std::ranges::find(folders, folder) != folders.end())
+        {
+            continue;
+        }
+        text += (folders.empty() ? L"" : L"\n") + folder.wstring();
+        folders.push_back(folder);
+    }
+    return text;
+}
+
 } // namespace
 
-std::string ReportBegin(std::wstring_view title, std::wstring_view language,
-                        std::span<ReportedRecording const> recordings)
+std::string ReportBegin(ReportHead const & head, std::span<ReportedRecording const> recordings)
 {
-    auto page = "<!DOCTYPE html>\r\n<html lang=" + Ascii(HtmlValue(language)) + ">\r\n<head>\r\n";
+    auto const & title = head.title;
+    auto page = "<!DOCTYPE html>\r\n<html lang=" + Ascii(HtmlValue(head.language)) + ">\r\n<head>\r\n";
     page += "<meta charset=\"utf-8\">\r\n"
             "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\r\n";
     page += Ascii(Element(L"title", title));
     page += "<style>\r\n" + Ascii(styles) + "</style>\r\n</head>\r\n<body>\r\n";
     page += Ascii(Element(L"h1", title));
-    page += Ascii(Element(L"p", FormatCount(recordings.size(), Text(L"recording"), Text(L"recordings"))));
+    std::vector<DetailLine> const lines{{Text(L"Date"), head.date},
+                                        {Text(L"Folder"), FoldersOf(recordings)},
+                                        {Text(L"Recordings"), FormatThousands(recordings.size())}};
+    page += Ascii(LabelledLines(lines)) + "<h2>" + Ascii(HtmlText(Text(L"Overview"))) + "</h2>\r\n";
     page += "<div class=\"wide\">\r\n" + Ascii(HtmlTable(OverviewOf(recordings), HtmlUse::own_page)) + "\r\n</div>\r\n";
     return page;
 }
@@ -109,18 +143,22 @@ std::string ReportBegin(std::wstring_view title, std::wstring_view language,
 std::string ReportSection(ReportedRecording const & recording, std::span<ReportPicture const> pictures)
 {
     std::wstring html = L"<section>\r\n" + Element(L"h2", recording.file.filename().wstring());
-    if (!recording.notes.comment.empty())
-    {
-        html += Element(L"p", recording.notes.comment);
-    }
+    std::vector<DetailLine> lines;
     if (recording.analysis)
     {
-        html += L"<table>\r\n<tbody>\r\n";
-        for (auto const & [label, text] : DescribeRecording(recording.file, *recording.analysis, recording.date))
+        lines = DescribeRecording(recording.file, *recording.analysis, recording.date);
+    }
+    for (auto const & [label, text] :
+         {std::pair(L"Rating", &recording.rating), std::pair(L"Comment", &recording.notes.comment)})
+    {
+        if (!text->empty())
         {
-            html += L"<tr><th scope=\"row\">" + HtmlText(label) + L"</th><td>" + HtmlText(text) + L"</td></tr>\r\n";
+            lines.push_back({Text(label), *text});
         }
-        html += L"</tbody>\r\n</table>\r\n";
+    }
+    if (!lines.empty())
+    {
+        html += LabelledLines(lines);
     }
     auto page = Ascii(html);
     for (auto const & picture : pictures)
@@ -139,6 +177,17 @@ std::string ReportSection(ReportedRecording const & recording, std::span<ReportP
 std::string ReportEnd()
 {
     return "</body>\r\n</html>\r\n";
+}
+
+std::wstring ReportFileName(std::filesystem::path const & folder, int year, int month, int day)
+{
+    auto const digits = [](int number, std::size_t count) {
+        auto const text = std::to_wstring(number);
+        return std::wstring(count > text.size() ? count - text.size() : 0, L'0') + text;
+    };
+    auto const name = folder.filename().wstring();
+    return Text(L"Report") + (name.empty() ? L"" : L' ' + name) + L' ' + digits(year, 4) + L'-' + digits(month, 2) +
+           L'-' + digits(day, 2);
 }
 
 std::string Base64(std::string_view bytes)

@@ -35,15 +35,26 @@ struct ReportPicture
     int height = 0;
 };
 
-/// The page's begin with its title and a table of all recordings with their measures. language: the page's, as "en".
-/// The parts of a page are plain ASCII and follow one another.
-std::string ReportBegin(std::wstring_view title, std::wstring_view language,
-                        std::span<ReportedRecording const> recordings);
+/// What stands above all.
+struct ReportHead
+{
+    std::wstring title;
+    std::wstring language; ///< the page's, as "en"
+    std::wstring date;     ///< of the report, as the user writes dates
+};
+
+/// The page's begin with its title, date and folders, and a table of all recordings with their measures. The parts of a
+/// page are plain ASCII and follow one another.
+std::string ReportBegin(ReportHead const & head, std::span<ReportedRecording const> recordings);
 
 /// What there is to say about one recording, with its pictures. Those without contents are left out.
 std::string ReportSection(ReportedRecording const & recording, std::span<ReportPicture const> pictures);
 
 std::string ReportEnd();
+
+/// What the file of a report about recordings of a folder is called at first, without its ending: such files are sorted
+/// by their days.
+std::wstring ReportFileName(std::filesystem::path const & folder, int year, int month, int day);
 
 /// Bytes as text by RFC 4648.
 std::string Base64(std::string_view bytes);

@@ -33,6 +33,11 @@ std::wstring FormatDuration(std::uint64_t frames, std::uint32_t sampleRate)
     return sampleRate == 0 ? L"-" : FormatMilliseconds(DurationMilliseconds(frames, sampleRate));
 }
 
+std::wstring FormatStretch(std::size_t samples, std::uint32_t sampleRate)
+{
+    return sampleRate == 0 ? L"-" : FormatLevel(static_cast<double>(samples) * 1000.0 / sampleRate) + L" ms";
+}
+
 std::wstring PlainLevel(double decibels)
 {
     auto const tenths = std::round(decibels * 10.0);

@@ -19,6 +19,9 @@ std::uint64_t DurationMilliseconds(std::uint64_t frames, std::uint32_t sampleRat
 /// Milliseconds as "m:ss.mmm"; hours are shown as minutes.
 std::wstring FormatMilliseconds(std::uint64_t milliseconds);
 
+/// The time of so many samples, as "21.3 ms"; "-" for a rate of 0.
+std::wstring FormatStretch(std::size_t samples, std::uint32_t sampleRate);
+
 /// A finite level with one decimal and a point, whatever the present signs are.
 std::wstring PlainLevel(double decibels);
 

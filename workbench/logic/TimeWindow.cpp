@@ -72,6 +72,19 @@ void TimeWindow::Reveal(std::uint64_t frame)
     }
 }
 
+void TimeWindow::Reveal(std::uint64_t frame, double margin)
+{
+    if (m_frames == 0 || (m_shown.first <= frame && frame < m_shown.end))
+    {
+        return;
+    }
+    auto const isAhead = frame < m_shown.first;
+    auto const length = static_cast<double>(m_shown.Length());
+    double const room = std::floor(std::clamp(margin, 0.0, 0.5) * length);
+    auto const place = static_cast<double>(std::min(frame, m_frames - 1));
+    Place(isAhead ? place - room : place + 1.0 + room - length, length);
+}
+
 std::uint64_t TimeWindow::FrameAt(int x, int width) const
 {
     if (width <= 0 || m_shown.IsEmpty())

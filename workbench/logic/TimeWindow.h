@@ -43,6 +43,8 @@ public:
     void Scroll(double part);
     /// Moves so far that a frame is seen, and no further.
     void Reveal(std::uint64_t frame);
+    /// Likewise, with a part of what is shown, up to 0.5, between a frame that was out of sight and the edge.
+    void Reveal(std::uint64_t frame, double margin);
 
     /// The frame shown at `x` of `width` pixels; left and right of them, the first and the last one shown.
     std::uint64_t FrameAt(int x, int width) const;

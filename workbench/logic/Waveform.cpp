@@ -33,10 +33,10 @@ std::size_t Waveform::Bytes() const
     std::size_t bytes = 0;
     for (auto const & levels : m_lanes)
     {
-        bytes += sizeof levels;
+        bytes += sizeof(decltype(m_lanes)::value_type);
         for (auto const & level : levels)
         {
-            bytes += sizeof level + level.capacity() * sizeof(MinMax);
+            bytes += sizeof(decltype(m_lanes)::value_type::value_type) + level.capacity() * sizeof(MinMax);
         }
     }
     return bytes;

@@ -5,6 +5,7 @@
 #include "instrument_ui.h"
 
 #include "clipboard/Clipboard.h"
+#include "colours/ControlColors.h"
 #include "colours/Farbtabellen.h"
 #include "controls/ColorButton.h"
 #include "controls/ColorControl.h"
@@ -73,6 +74,23 @@ void UseAll()
     Use(+[](wchar_t const * a0, char const * a1, unsigned int a2) -> bool { return Clipboard::DataToClipboard(std::forward<wchar_t const *>(a0), std::forward<char const *>(a1), std::forward<unsigned int>(a2)); });
     Use(+[](CString & a0) -> bool { return Clipboard::StringFromClipboard(std::forward<CString &>(a0)); });
 
+    // colours/ControlColors.h
+    Use(+[] { delete new ControlColors; });
+    Use(+[](COLORREF a0, COLORREF a1) -> double { return control_colors::ContrastOf(std::forward<COLORREF>(a0), std::forward<COLORREF>(a1)); });
+    Use(+[](COLORREF a0, COLORREF a1, COLORREF a2) -> COLORREF { return control_colors::MarkOn(std::forward<COLORREF>(a0), std::forward<COLORREF>(a1), std::forward<COLORREF>(a2)); });
+    Use(+[](COLORREF a0, COLORREF a1, COLORREF a2) -> COLORREF { return control_colors::TextOn(std::forward<COLORREF>(a0), std::forward<COLORREF>(a1), std::forward<COLORREF>(a2)); });
+    Use(+[](SystemColorLookup a0) -> ControlColors { return control_colors::Standard(std::forward<SystemColorLookup>(a0)); });
+    Use(+[]() -> ControlColors { return control_colors::Dark(); });
+    Use(+[](SystemColorLookup a0) -> ControlColors { return control_colors::HighContrast(std::forward<SystemColorLookup>(a0)); });
+    Use(+[](ControlColorSet a0) -> void { return control_colors::UseForProcess(std::forward<ControlColorSet>(a0)); });
+    Use(+[]() -> ControlColorSet { return control_colors::ChosenForProcess(); });
+    Use(+[](HWND a0, ControlColorSet a1) -> bool { return control_colors::UseFor(std::forward<HWND>(a0), std::forward<ControlColorSet>(a1)); });
+    Use(+[](HWND a0) -> void { return control_colors::RemoveFrom(std::forward<HWND>(a0)); });
+    Use(+[](HWND a0) -> ControlColorSet { return control_colors::SetOf(std::forward<HWND>(a0)); });
+    Use(+[](HWND a0) -> ControlColors { return control_colors::Of(std::forward<HWND>(a0)); });
+    Use(+[](ControlColorSet a0) -> ControlColors { return control_colors::Of(std::forward<ControlColorSet>(a0)); });
+    Use(+[](HWND a0, UINT a1, WPARAM a2) -> LRESULT { return control_colors::AnswerColorQuestion(std::forward<HWND>(a0), std::forward<UINT>(a1), std::forward<WPARAM>(a2)); });
+
     // colours/Farbtabellen.h
     Use(&Farbtabellen::ScopePalette);
     Use(&Farbtabellen::FarbenGreyLdRGB);
@@ -103,6 +121,9 @@ void UseAll()
     Use(+[](CColorButton & object, HICON a0, HICON a1, int a2) -> void { return object.CColorButton::SetIcons(std::forward<HICON>(a0), std::forward<HICON>(a1), std::forward<int>(a2)); });
     Use(+[](CColorButton & object, bool a0) -> void { return object.CColorButton::DrawFrame(std::forward<bool>(a0)); });
     Use(+[](CColorButton & object, bool a0) -> void { return object.CColorButton::DrawFocusFrame(std::forward<bool>(a0)); });
+    Use(+[](CColorButton & object, UINT a0) -> BOOL { return object.CColorButton::SetDpi(std::forward<UINT>(a0)); });
+    Use(+[](CColorButton const & object) -> UINT { return object.CColorButton::GetDpi(); });
+    Use(+[](CColorButton & object, BOOL a0) -> void { return object.CColorButton::FollowDpi(std::forward<BOOL>(a0)); });
     Use(+[](CColorButton & object, LPDRAWITEMSTRUCT a0) -> void { return object.CColorButton::DrawItem(std::forward<LPDRAWITEMSTRUCT>(a0)); });
 
     // controls/ColorControl.h
@@ -138,10 +159,16 @@ void UseAll()
     Use(+[](CComboBoxX & object, bool a0) -> void { return object.CComboBoxX::Editable(std::forward<bool>(a0)); });
     Use(+[](CComboBoxX & object) -> bool { return object.CComboBoxX::FitToWidth(); });
     Use(+[](CComboBoxX & object) -> void { return object.CComboBoxX::FitToEditWidth(); });
+    Use(+[](CComboBoxX & object, UINT a0) -> BOOL { return object.CComboBoxX::SetDpi(std::forward<UINT>(a0)); });
+    Use(+[](CComboBoxX const & object) -> UINT { return object.CComboBoxX::GetDpi(); });
+    Use(+[](CComboBoxX & object, BOOL a0) -> void { return object.CComboBoxX::FollowDpi(std::forward<BOOL>(a0)); });
     Use(+[](CComboBoxX & object, MSG * a0) -> BOOL { return object.CComboBoxX::PreTranslateMessage(std::forward<MSG *>(a0)); });
 
     // controls/FreeIconButton.h
     Use(+[]() { delete new CFreeIconButton(); });
+    Use(+[](CFreeIconButton & object, UINT a0) -> BOOL { return object.CFreeIconButton::SetDpi(std::forward<UINT>(a0)); });
+    Use(+[](CFreeIconButton const & object) -> UINT { return object.CFreeIconButton::GetDpi(); });
+    Use(+[](CFreeIconButton & object, BOOL a0) -> void { return object.CFreeIconButton::FollowDpi(std::forward<BOOL>(a0)); });
     Use(+[](CFreeIconButton & object, LPDRAWITEMSTRUCT a0) -> void { return object.CFreeIconButton::DrawItem(std::forward<LPDRAWITEMSTRUCT>(a0)); });
 
     // controls/IdNameMultiselectCtrl.h
@@ -165,6 +192,9 @@ void UseAll()
     Use(+[](CIdNameMultiselectCtrl & object) -> void { return object.CIdNameMultiselectCtrl::RefreshSelection(); });
     Use(+[](CIdNameMultiselectCtrl & object) -> void { return object.CIdNameMultiselectCtrl::RetrieveSelection(); });
     Use(+[](CIdNameMultiselectCtrl const & object) -> bool { return object.CIdNameMultiselectCtrl::SelectionRetrieved(); });
+    Use(+[](CIdNameMultiselectCtrl & object, UINT a0) -> BOOL { return object.CIdNameMultiselectCtrl::SetDpi(std::forward<UINT>(a0)); });
+    Use(+[](CIdNameMultiselectCtrl const & object) -> UINT { return object.CIdNameMultiselectCtrl::GetDpi(); });
+    Use(+[](CIdNameMultiselectCtrl & object, BOOL a0) -> void { return object.CIdNameMultiselectCtrl::FollowDpi(std::forward<BOOL>(a0)); });
     Use(+[](CIdNameMultiselectCtrl & object, MSG * a0) -> BOOL { return object.CIdNameMultiselectCtrl::PreTranslateMessage(std::forward<MSG *>(a0)); });
     Use(+[](CIdNameMultiselectCtrl & object, LPDRAWITEMSTRUCT a0) -> void { return object.CIdNameMultiselectCtrl::DrawItem(std::forward<LPDRAWITEMSTRUCT>(a0)); });
 
@@ -179,6 +209,9 @@ void UseAll()
     Use(+[]() { delete new CLevelSliderCtrl(); });
     Use(+[](CLevelSliderCtrl & object, unsigned long a0) -> void { return object.CLevelSliderCtrl::SetMainColor(std::forward<unsigned long>(a0)); });
     Use(+[](CLevelSliderCtrl & object, unsigned long a0) -> void { return object.CLevelSliderCtrl::SetSecondColor(std::forward<unsigned long>(a0)); });
+    Use(+[](CLevelSliderCtrl & object, UINT a0) -> BOOL { return object.CLevelSliderCtrl::SetDpi(std::forward<UINT>(a0)); });
+    Use(+[](CLevelSliderCtrl const & object) -> UINT { return object.CLevelSliderCtrl::GetDpi(); });
+    Use(+[](CLevelSliderCtrl & object, BOOL a0) -> void { return object.CLevelSliderCtrl::FollowDpi(std::forward<BOOL>(a0)); });
 
     // controls/ListBoxX.h
     Use(+[]() { delete new CListBoxX(); });
@@ -188,6 +221,9 @@ void UseAll()
     Use(+[](CListBoxX & object, int a0) -> int { return object.CListBoxX::FindItemData(std::forward<int>(a0)); });
     Use(+[](CListBoxX & object, int a0) -> int { return object.CListBoxX::SelectItemData(std::forward<int>(a0)); });
     Use(+[](CListBoxX & object, int a0) -> int { return object.CListBoxX::GetSelectedItemData(std::forward<int>(a0)); });
+    Use(+[](CListBoxX & object, UINT a0) -> BOOL { return object.CListBoxX::SetDpi(std::forward<UINT>(a0)); });
+    Use(+[](CListBoxX const & object) -> UINT { return object.CListBoxX::GetDpi(); });
+    Use(+[](CListBoxX & object, BOOL a0) -> void { return object.CListBoxX::FollowDpi(std::forward<BOOL>(a0)); });
     Use(+[](CListBoxX const & object, CPoint a0, int & a1) -> int { return object.CListBoxX::LbxZeileZumPunkt(std::forward<CPoint>(a0), std::forward<int &>(a1)); });
     Use(+[](CListBoxX const & object, CPoint a0, TOOLINFOW * a1) -> INT_PTR { return object.CListBoxX::OnToolHitTest(std::forward<CPoint>(a0), std::forward<TOOLINFOW *>(a1)); });
     Use(+[](CListBoxX & object, UINT a0, NMHDR * a1, LRESULT * a2) -> int { return object.CListBoxX::OnToolTipText(std::forward<UINT>(a0), std::forward<NMHDR *>(a1), std::forward<LRESULT *>(a2)); });
@@ -214,10 +250,12 @@ void UseAll()
     Use(+[](CXEditBrowseCtrl const & object) -> bool { return object.CXEditBrowseCtrl::SelectionChanged(); });
     Use(+[](CXEditBrowseCtrl & object) -> void { return object.CXEditBrowseCtrl::SelectionAcknowledged(); });
     Use(+[](CXEditBrowseCtrl & object) -> void { return object.CXEditBrowseCtrl::UpdateSelectionText(); });
+    Use(+[](CXEditBrowseCtrl & object, UINT a0) -> BOOL { return object.CXEditBrowseCtrl::SetDpi(std::forward<UINT>(a0)); });
+    Use(+[](CXEditBrowseCtrl const & object) -> UINT { return object.CXEditBrowseCtrl::GetDpi(); });
+    Use(+[](CXEditBrowseCtrl & object, BOOL a0) -> void { return object.CXEditBrowseCtrl::FollowDpi(std::forward<BOOL>(a0)); });
     Use(+[](CXEditBrowseCtrl & object) -> void { return object.CXEditBrowseCtrl::OnBrowse(); });
 
     // controls/XTreeCtrl.h
-    Use(+[]() { delete new CXTreeCtrl(); });
     Use(+[](CXTreeCtrl & object, wchar_t const * a0, HTREEITEM a1, HTREEITEM a2, int a3) -> HTREEITEM { return object.CXTreeCtrl::InsertTreeItem(std::forward<wchar_t const *>(a0), std::forward<HTREEITEM>(a1), std::forward<HTREEITEM>(a2), std::forward<int>(a3)); });
     Use(+[](CXTreeCtrl & object, wchar_t const * a0, int a1, int a2, HTREEITEM a3, HTREEITEM a4, int a5) -> HTREEITEM { return object.CXTreeCtrl::InsertTreeItem(std::forward<wchar_t const *>(a0), std::forward<int>(a1), std::forward<int>(a2), std::forward<HTREEITEM>(a3), std::forward<HTREEITEM>(a4), std::forward<int>(a5)); });
     Use(+[](CXTreeCtrl & object, wchar_t const * a0, int a1, int a2, HTREEITEM a3, int a4, int a5, HTREEITEM a6, int a7) -> HTREEITEM { return object.CXTreeCtrl::InsertTreeItem(std::forward<wchar_t const *>(a0), std::forward<int>(a1), std::forward<int>(a2), std::forward<HTREEITEM>(a3), std::forward<int>(a4), std::forward<int>(a5), std::forward<HTREEITEM>(a6), std::forward<int>(a7)); });
@@ -252,6 +290,9 @@ void UseAll()
     Use(+[](CXTreeCtrl & object) -> void { return object.CXTreeCtrl::DontAbsorbNormalKeys(); });
     Use(+[](CXTreeCtrl & object, bool a0) -> void { return object.CXTreeCtrl::DontAbsorbControlKeys(std::forward<bool>(a0)); });
     Use(+[](CXTreeCtrl & object) -> void { return object.CXTreeCtrl::DontHandleDoubleclick(); });
+    Use(+[](CXTreeCtrl & object, UINT a0) -> BOOL { return object.CXTreeCtrl::SetDpi(std::forward<UINT>(a0)); });
+    Use(+[](CXTreeCtrl const & object) -> UINT { return object.CXTreeCtrl::GetDpi(); });
+    Use(+[](CXTreeCtrl & object, BOOL a0) -> void { return object.CXTreeCtrl::FollowDpi(std::forward<BOOL>(a0)); });
     Use(+[](CXTreeCtrl & object, MSG * a0) -> BOOL { return object.CXTreeCtrl::PreTranslateMessage(std::forward<MSG *>(a0)); });
 
     // controls/XTreeItems.h
@@ -492,10 +533,10 @@ void UseAll()
     Use(+[](CFensterManager & object, unsigned int a0) -> void { return object.CFensterManager::SetShowMode(std::forward<unsigned int>(a0)); });
     Use(+[]() -> bool { return CFensterManager::NowExit(); });
     Use(+[](CFensterManager & object, bool a0) -> void { return object.CFensterManager::SetNowExit(std::forward<bool>(a0)); });
-    Use(+[]() -> bool { return CFensterManager::KeepsWithinReach(); });
-    Use(+[](bool a0) -> void { return CFensterManager::KeepWithinReach(std::forward<bool>(a0)); });
     Use(+[]() -> bool { return CFensterManager::NurEinMonitor(); });
     Use(+[](bool a0) -> void { return CFensterManager::SetNurEinMonitor(std::forward<bool>(a0)); });
+    Use(+[]() -> bool { return CFensterManager::KeepsWithinReach(); });
+    Use(+[](bool a0) -> void { return CFensterManager::KeepWithinReach(std::forward<bool>(a0)); });
     Use(+[]() -> bool { return CFensterManager::TabbedViews(); });
     Use(+[](bool a0) -> void { return CFensterManager::SetTabbedViews(std::forward<bool>(a0)); });
     Use(+[](CFensterManager & object, CWnd * a0) -> void { return object.CFensterManager::CalcMyPosition(std::forward<CWnd *>(a0)); });

@@ -4,6 +4,7 @@
 #include "Pump.h"
 #include "RecordingList.h"
 #include "ScopedWindow.h"
+#include "frame/RegisteredMessages.h"
 
 #include <gtest/gtest.h>
 
@@ -61,9 +62,12 @@ protected:
             files.push_back(std::filesystem::path(L"C:\\recordings") / (L"rec_" + std::to_wstring(i) + L".wav"));
         }
         m_list.ShowFiles(files, std::vector<CRecordingList::Notes>(files.size()));
-        for (int line = 0; line < count; ++line)
         {
-            m_list.ShowAnalysis(line, Analysis(line));
+            CRecordingList::Batch const batch(m_list);
+            for (int line = 0; line < count; ++line)
+            {
+                m_list.ShowAnalysis(line, Analysis(line));
+            }
         }
         tests::PumpPosted(100000);
     }
@@ -118,6 +122,31 @@ TEST_F(FilteredRecordingList, LinesGoAndComeBackToTheirPlacesAsTheyWere)
     EXPECT_TRUE(m_list.GetItemRadioOn(m_list.PlaceOf(3), CRecordingList::column_reference));
     EXPECT_EQ(m_list.GetItemText(m_list.PlaceOf(11), CRecordingList::column_name), L"rec_11.wav");
     EXPECT_EQ(m_list.SortedColumn(), CRecordingList::column_rms);
+}
+
+TEST_F(FilteredRecordingList, TheChosenLineIsInSightAfterTheFilter)
+{
+    Show(3000);
+    Filter(L"rec_29");
+    m_list.ChooseLine(2950);
+    EndGesture();
+    Filter(L"");
+    ASSERT_TRUE(tests::PumpUntil([this] { return m_list.GetItemCount() == 3000; }));
+    EXPECT_EQ(m_list.ChosenLine(), 2950);
+    EXPECT_TRUE(m_list.IsInSight(2950));
+}
+
+TEST_F(FilteredRecordingList, WhatScrollsWithinABatchIsPaintedAnew)
+{
+    Show(200);
+    m_list.ShowWindow(SW_SHOW);
+    m_list.UpdateWindow();
+    ASSERT_FALSE(m_list.GetUpdateRect(nullptr));
+    {
+        CRecordingList::Batch const batch(m_list);
+        m_list.EnsureVisible(150, FALSE);
+    }
+    EXPECT_TRUE(m_list.GetUpdateRect(nullptr));
 }
 
 TEST_F(FilteredRecordingList, ASelectionMadeMeanwhileCounts)
@@ -176,6 +205,310 @@ TEST_F(FilteredRecordingList, MarkingAllMakesNoRowsThatAreStillMissing)
     ASSERT_TRUE(m_list.CanUndo());
     m_list.Undo();
     EXPECT_EQ(m_list.Totals().Checked(), 0U);
+}
+
+// What is done while rows are missing waits for none of them: the list answers before they are all there.
+
+class RecordingListWithoutAllRows : public FilteredRecordingList
+{
+protected:
+    static constexpr int count = 1000;
+
+    void SetUp() override
+    {
+        FilteredRecordingList::SetUp();
+        Show(count);
+        EndGesture();
+        m_list.FinishRows();
+        ASSERT_EQ(m_list.GetItemCount(), count);
+    }
+    /// A filter that few lines pass, and none again.
+    void TakeRows()
+    {
+        Filter(L"rec_1 rec_12");
+        Filter(L"");
+        ASSERT_TRUE(AreMissing());
+    }
+    bool AreMissing() { return m_list.GetItemCount() < count / 2; }
+    bool WaitForRows()
+    {
+        m_list.FinishRows();
+        return m_list.GetItemCount() == m_list.ShownCount();
+    }
+    Lines RowsInSight()
+    {
+        Lines rows;
+        for (int row = 0; row < m_list.GetCountPerPage(); ++row)
+        {
+            rows.push_back(m_list.LineAt(row));
+        }
+        return rows;
+    }
+    Lines FirstOfOrder()
+    {
+        auto lines = m_list.Order().lines;
+        lines.resize(static_cast<std::size_t>(m_list.GetCountPerPage()));
+        return lines;
+    }
+    Lines All()
+    {
+        Lines all(count);
+        std::iota(all.begin(), all.end(), 0);
+        return all;
+    }
+};
+
+TEST_F(RecordingListWithoutAllRows, SortingShowsTheFirstOnesAtOnce)
+{
+    m_list.ChooseLine(700);
+    EndGesture();
+    TakeRows();
+    m_list.SortLines(CRecordingList::column_rms, true);
+    EXPECT_TRUE(AreMissing());
+    EXPECT_EQ(m_list.LineAt(0), count - 1) << "the lowest level";
+    EXPECT_EQ(RowsInSight(), FirstOfOrder());
+    EXPECT_EQ(m_list.ChosenLine(), 700);
+    EXPECT_EQ(m_list.GetHeaderCheckedState(CRecordingList::column_rms), XHC_SORT_ASCENDING);
+    ASSERT_TRUE(WaitForRows());
+    EXPECT_EQ(Rows(), m_list.Order().lines);
+    EXPECT_EQ(m_list.SelectedLines(), (Lines{700}));
+    EXPECT_TRUE(m_list.IsInSight(700));
+}
+
+TEST_F(RecordingListWithoutAllRows, SortingIsTakenBack)
+{
+    m_list.SortByUser(CRecordingList::column_rms);
+    EndGesture();
+    TakeRows();
+    EXPECT_TRUE(m_list.Undo());
+    EXPECT_TRUE(AreMissing());
+    EXPECT_EQ(RowsInSight(), FirstOfOrder());
+    EXPECT_EQ(m_list.LineAt(0), 0);
+    ASSERT_TRUE(WaitForRows());
+    EXPECT_EQ(Rows(), All());
+    EXPECT_EQ(m_list.SortedColumn(), -1);
+    EXPECT_EQ(m_list.GetHeaderCheckedState(CRecordingList::column_rms), XHC_NONE);
+}
+
+TEST_F(RecordingListWithoutAllRows, ALineIsChosenBeforeItHasARow)
+{
+    m_list.SelectLines({3, 4}, 4);
+    EndGesture();
+    TakeRows();
+    m_list.ChooseLine(850);
+    EXPECT_TRUE(AreMissing());
+    EXPECT_EQ(m_list.ChosenLine(), 850);
+    EXPECT_EQ(m_list.SelectedLines(), (Lines{850}));
+    ASSERT_TRUE(WaitForRows());
+    EXPECT_EQ(m_list.ChosenLine(), 850);
+    EXPECT_EQ(m_list.SelectedLines(), (Lines{850}));
+    EXPECT_EQ(m_list.GetNextItem(-1, LVNI_FOCUSED), 850);
+    EXPECT_TRUE(m_list.IsInSight(850));
+}
+
+TEST_F(RecordingListWithoutAllRows, OneThatHasARowIsChosenAlone)
+{
+    m_list.SelectLines(All(), 600);
+    EndGesture();
+    TakeRows();
+    m_list.ChooseLine(2);
+    EXPECT_TRUE(AreMissing());
+    ASSERT_TRUE(WaitForRows());
+    EXPECT_EQ(m_list.SelectedLines(), (Lines{2}));
+    EXPECT_EQ(m_list.ChosenLine(), 2);
+}
+
+TEST_F(RecordingListWithoutAllRows, AllAreSelectedAndMarked)
+{
+    TakeRows();
+    m_list.SelectLines(All(), 600);
+    EXPECT_EQ(m_list.SelectedLines(), All());
+    EXPECT_EQ(m_list.ChosenLine(), 600);
+    m_list.SendMessage(WM_KEYDOWN, VK_SPACE);
+    EXPECT_TRUE(AreMissing());
+    auto const readable = m_list.Totals().Lines() - m_list.Totals().Unreadable();
+    EXPECT_EQ(m_list.Totals().Checked(), readable);
+    ASSERT_TRUE(WaitForRows());
+    EXPECT_EQ(m_list.SelectedLines(), All());
+    EXPECT_EQ(m_list.ChosenLine(), 600);
+    for (auto const line : All())
+    {
+        ASSERT_EQ(m_list.GetCheckbox(line, CRecordingList::column_check) == XLC_CHECKED, line % 7 != 6) << line;
+    }
+}
+
+TEST_F(RecordingListWithoutAllRows, LinesThatAreStillToComeMove)
+{
+    m_list.ChooseLine(850);
+    EndGesture();
+    TakeRows();
+    EXPECT_TRUE(m_list.MoveSelected(true));
+    EXPECT_TRUE(AreMissing());
+    EXPECT_EQ(m_list.Order().lines[849], 850);
+    EXPECT_EQ(m_list.Order().lines[850], 849);
+    EXPECT_EQ(m_list.SelectedLines(), (Lines{850}));
+    ASSERT_TRUE(WaitForRows());
+    EXPECT_EQ(Rows(), m_list.Order().lines);
+    EXPECT_EQ(m_list.SelectedLines(), (Lines{850}));
+    EXPECT_TRUE(m_list.IsInSight(850));
+}
+
+TEST_F(RecordingListWithoutAllRows, TypingFindsLinesThatAreStillToCome)
+{
+    m_list.ChooseLine(0);
+    EndGesture();
+    TakeRows();
+    for (auto const character : std::wstring(L"rec_9"))
+    {
+        m_list.SendMessage(WM_CHAR, static_cast<WPARAM>(character));
+    }
+    EXPECT_TRUE(AreMissing());
+    EXPECT_EQ(m_list.ChosenLine(), 9);
+    m_list.SendMessage(WM_CHAR, L'9');
+    m_list.SendMessage(WM_CHAR, L'9');
+    EXPECT_TRUE(AreMissing());
+    EXPECT_EQ(m_list.ChosenLine(), 999);
+    ASSERT_TRUE(WaitForRows());
+    EXPECT_EQ(m_list.SelectedLines(), (Lines{999}));
+}
+
+TEST_F(RecordingListWithoutAllRows, LinesGoAndTheOthersComeAsTheyAre)
+{
+    m_list.ChooseLine(600);
+    EndGesture();
+    TakeRows();
+    Lines numbers(count, -1);
+    for (int line = 0, next = 0; line < count; ++line)
+    {
+        numbers[static_cast<std::size_t>(line)] = line % 2 == 0 ? next++ : -1;
+    }
+    m_list.Renumber(numbers);
+    EXPECT_TRUE(AreMissing());
+    EXPECT_EQ(m_list.ShownCount(), count / 2);
+    EXPECT_EQ(m_list.ChosenLine(), 300);
+    ASSERT_TRUE(WaitForRows());
+    EXPECT_EQ(Rows().size(), static_cast<std::size_t>(count / 2));
+    EXPECT_EQ(Rows(), m_list.Order().lines);
+    EXPECT_EQ(m_list.GetItemText(m_list.PlaceOf(7), CRecordingList::column_name), L"rec_14.wav");
+    EXPECT_EQ(m_list.SelectedLines(), (Lines{300}));
+}
+
+TEST_F(RecordingListWithoutAllRows, WhereManyGoTheOthersGetTheirRowsLater)
+{
+    m_list.SelectLines({30, 500, 950}, 500);
+    EndGesture();
+    Lines numbers(count, -1);
+    std::iota(numbers.begin(), numbers.begin() + 300, 0);
+    std::iota(numbers.begin() + 700, numbers.end(), 300);
+    m_list.Renumber(numbers);
+    EXPECT_TRUE(AreMissing());
+    EXPECT_EQ(m_list.SelectedLines(), (Lines{30, 550}));
+    EXPECT_EQ(RowsInSight(), FirstOfOrder());
+    m_list.ScrollToLine(500);
+    ASSERT_TRUE(WaitForRows());
+    EXPECT_EQ(Rows(), m_list.Order().lines);
+    EXPECT_EQ(m_list.SelectedLines(), (Lines{30, 550}));
+    EXPECT_EQ(m_list.GetNextItem(-1, LVNI_FOCUSED), 300) << "the next one that stays";
+    EXPECT_EQ(m_list.TopLine(), 500);
+    EXPECT_EQ(m_list.GetItemText(300, CRecordingList::column_name), L"rec_700.wav");
+}
+
+TEST_F(RecordingListWithoutAllRows, WhereFewGoTheSelectionIsHeldMeanwhile)
+{
+    m_list.SelectLines({3, 5, 7}, 5);
+    EndGesture();
+    Lines numbers(count, -1);
+    std::iota(numbers.begin(), numbers.begin() + 5, 0);
+    std::iota(numbers.begin() + 6, numbers.end(), 5);
+    m_list.Renumber(numbers);
+    EXPECT_EQ(m_list.GetItemCount(), count - 1);
+    EXPECT_EQ(m_list.SelectedLines(), (Lines{3, 6}));
+    EXPECT_EQ(m_list.GetNextItem(-1, LVNI_FOCUSED), 5);
+}
+
+// What is said about many lines is shown in sight at once, and elsewhere a few lines at a time.
+
+class RecordingListWithManyNotes : public RecordingListWithoutAllRows
+{
+protected:
+    int Mark(int line) { return m_list.GetCheckbox(m_list.PlaceOf(line), CRecordingList::column_check); }
+    static constexpr int last = count - 1;
+};
+
+TEST_F(RecordingListWithManyNotes, MarksOutOfSightComeLater)
+{
+    m_list.CheckAll(true);
+    EXPECT_EQ(Mark(0), XLC_CHECKED);
+    EXPECT_EQ(Mark(last), XLC_UNCHECKED);
+    EXPECT_TRUE(m_list.IsChecked(last));
+    EXPECT_EQ(m_list.GetHeaderCheckedState(CRecordingList::column_check), XHC_CHECKED);
+    EndGesture();
+    EXPECT_TRUE(tests::PumpUntil([this] { return Mark(last) == XLC_CHECKED; }));
+    m_list.FinishRows();
+    EXPECT_TRUE(m_list.Undo());
+    EXPECT_EQ(Mark(0), XLC_UNCHECKED);
+    EXPECT_EQ(Mark(last), XLC_CHECKED);
+    EXPECT_FALSE(m_list.IsChecked(last));
+    // Again before that has been shown.
+    EXPECT_TRUE(m_list.Redo());
+    EXPECT_TRUE(m_list.Undo());
+    EXPECT_TRUE(tests::PumpUntil([this] { return Mark(last) == XLC_UNCHECKED; }));
+    m_list.FinishRows();
+    for (auto const line : All())
+    {
+        ASSERT_NE(Mark(line), XLC_CHECKED) << line;
+    }
+}
+
+TEST_F(RecordingListWithManyNotes, AClickTurnsTheMarkThatIsStillToBeShown)
+{
+    m_list.CheckAll(true);
+    ASSERT_EQ(Mark(last), XLC_UNCHECKED);
+    m_list.EnsureVisible(last, FALSE);
+    auto const point = m_list.CellCentre(last, CRecordingList::column_check);
+    m_list.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(point.x, point.y));
+    m_list.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(point.x, point.y));
+    EXPECT_FALSE(m_list.IsChecked(last));
+    m_list.FinishRows();
+    EXPECT_EQ(Mark(last), XLC_UNCHECKED);
+    EXPECT_EQ(Mark(last - 1), XLC_CHECKED);
+}
+
+TEST_F(RecordingListWithManyNotes, AnotherProgramsPressTurnsItAsWell)
+{
+    m_list.CheckAll(true);
+    ASSERT_EQ(Mark(last), XLC_UNCHECKED);
+    // As the list does it for a press that is no message.
+    m_list.SetCheckbox(last, CRecordingList::column_check, XLC_CHECKED);
+    m_list.OnItemStateChange(last, CRecordingList::column_check, WM_XLISTCTRL_CHECKBOX_CLICKED);
+    EXPECT_FALSE(m_list.IsChecked(last));
+    m_list.FinishRows();
+    EXPECT_EQ(Mark(last), XLC_UNCHECKED);
+}
+
+TEST_F(RecordingListWithManyNotes, TheHeaderMarksAllAndTakesTheMarksAgain)
+{
+    auto const click = [this] {
+        NMLISTVIEW notice{};
+        notice.hdr.hwndFrom = m_list.m_hWnd;
+        notice.hdr.idFrom = list_id;
+        notice.hdr.code = LVN_COLUMNCLICK;
+        notice.iItem = -1;
+        notice.iSubItem = CRecordingList::column_check;
+        m_host.SendMessage(WM_NOTIFY, list_id, reinterpret_cast<LPARAM>(&notice));
+    };
+    auto const readable = m_list.Totals().Lines() - m_list.Totals().Unreadable();
+    TakeRows();
+    click();
+    EXPECT_TRUE(AreMissing());
+    EXPECT_EQ(m_list.Totals().Checked(), readable);
+    EXPECT_EQ(m_list.GetHeaderCheckedState(CRecordingList::column_check), XHC_CHECKED);
+    click();
+    EXPECT_EQ(m_list.Totals().Checked(), 0U);
+    EXPECT_EQ(m_list.GetHeaderCheckedState(CRecordingList::column_check), XHC_UNCHECKED);
+    ASSERT_TRUE(WaitForRows());
+    m_list.FinishRows();
+    EXPECT_EQ(Mark(last), XLC_UNCHECKED);
 }
 
 TEST_F(FilteredRecordingList, WhatIsReadLaterAppearsAtItsPlace)
@@ -313,6 +646,18 @@ TEST_F(FilteredRecordingList, UndoTakesGesturesBackAndRedoDoesThemAgain)
     EXPECT_FALSE(m_list.Redo());
     EXPECT_EQ(m_list.ReferenceLine(), 4);
     EXPECT_EQ(m_list.TakeNotedLines(), (Lines{0, 1, 2, 3, 4, 5})) << "to be stored";
+}
+
+TEST_F(FilteredRecordingList, MarkingLeavesTheFirstOfTwoReferences)
+{
+    CRecordingList::Notes reference;
+    reference.reference = true;
+    m_list.ShowFiles({L"C:\\one\\a.wav", L"C:\\two\\b.wav"}, {reference, reference});
+    m_list.CheckAll(true);
+    EXPECT_EQ(m_list.Totals().Checked(), 2U);
+    EXPECT_EQ(m_list.ReferenceLine(), 0);
+    EXPECT_TRUE(m_list.GetItemRadioOn(0, CRecordingList::column_reference));
+    EXPECT_FALSE(m_list.GetItemRadioOn(1, CRecordingList::column_reference));
 }
 
 TEST_F(FilteredRecordingList, UndoReachesLinesThatDontShow)

@@ -31,16 +31,20 @@ public:
         work();
         return m_messages;
     }
+    /// How many texts have been measured so far.
+    long Measured() const { return m_measured; }
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
+        m_measured += message == LVM_GETSTRINGWIDTHW ? 1 : 0;
         m_messages += message >= first_list_message && message <= last_list_message ? 1 : 0;
         return CRecordingList::WindowProc(message, wParam, lParam);
     }
 
 private:
     long m_messages = 0;
+    long m_measured = 0;
 };
 
 std::shared_ptr<RecordingAnalysis const> Analysis(bool readable)
@@ -122,9 +126,28 @@ TEST_F(LargeRecordingList, AResultCostsTheSameAmongMany)
     });
 }
 
+TEST_F(LargeRecordingList, ATextThatManyLinesHaveIsMeasuredOnce)
+{
+    CountingList list;
+    Fill(list, few);
+    auto const fresh = list.Measured();
+    CRecordingList::Batch const batch(list);
+    list.ShowAnalysis(0, Analysis(true));
+    auto const measured = list.Measured();
+    EXPECT_GT(measured, fresh);
+    for (int line = 1; line < few; ++line)
+    {
+        list.ShowAnalysis(line, Analysis(true));
+    }
+    EXPECT_EQ(list.Measured(), measured);
+}
+
 TEST_F(LargeRecordingList, MarkingAllCostsTheSameForEachOfMany)
 {
-    EXPECT_SAME_PER_LINE([](CountingList & list, int) { list.CheckAll(true); });
+    EXPECT_SAME_PER_LINE([](CountingList & list, int) {
+        list.CheckAll(true);
+        list.FinishRows();
+    });
 }
 
 TEST_F(LargeRecordingList, TogglingTheSelectedCostsTheSameForEachOfMany)
@@ -132,6 +155,7 @@ TEST_F(LargeRecordingList, TogglingTheSelectedCostsTheSameForEachOfMany)
     EXPECT_SAME_PER_LINE([](CountingList & list, int) {
         list.SetItemState(-1, LVIS_SELECTED, LVIS_SELECTED);
         list.SendMessage(WM_KEYDOWN, VK_SPACE);
+        list.FinishRows();
     });
 }
 

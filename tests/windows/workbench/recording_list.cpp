@@ -3,6 +3,7 @@
 #include "../clipboard_ClipboardTest.h"
 #include "Input.h"
 #include "Pump.h"
+#include "RecordingCells.h"
 #include "RecordingList.h"
 #include "ScopedWindow.h"
 #include "StarRating.h"
@@ -454,6 +455,46 @@ TEST_F(RecordingListTest, WithoutASelectionOrAskedForAllItCopiesAll)
     EXPECT_EQ(lines(), 6);
 }
 
+TEST_F(RecordingListTest, ATableSaysWhatTheCellsShow)
+{
+    Show();
+    auto damaged = std::make_shared<RecordingAnalysis>(*AnalysisOf(recordings[3]));
+    damaged->info.announcedFrames = 100 * rate;
+    damaged->loudness = -23.05;
+    damaged->tone.frequency = 1234.5;
+    damaged->tone.distortion = 0.00123;
+    damaged->file.lastWrite = 1'700'000'000;
+    m_list.ShowAnalysis(3, damaged);
+    CRecordingList::Notes notes;
+    notes.rating = 2;
+    notes.comment = L" with\ttab ";
+    m_list.AppendFile(L"C:\\recordings\\not read.wav", notes);
+    m_list.SetReference(1);
+    auto table = m_list.Table(CRecordingList::Lines::all, {});
+    ASSERT_EQ(table.Rows(), 6U);
+    while (table.Table().rows.size() < table.Rows())
+    {
+        table.MakeRow();
+    }
+    ASSERT_EQ(table.Table().columns.size(), CRecordingList::column_count - 2U);
+    for (int row = 0; row < m_list.GetItemCount(); ++row)
+    {
+        std::size_t place = 0;
+        for (int column = CRecordingList::column_name; column < CRecordingList::column_count; ++column)
+        {
+            if (column == CRecordingList::column_overview)
+            {
+                continue;
+            }
+            auto const expected = column == CRecordingList::column_reference ? CString(row == 1 ? L"x" : L"")
+                                                                             : m_list.GetItemText(row, column).Trim();
+            EXPECT_EQ(table.Table().columns[place].title, CRecordingList::Title(column));
+            EXPECT_EQ(table.Table().rows[static_cast<std::size_t>(row)][place++], expected.GetString())
+                << row << ", " << column;
+        }
+    }
+}
+
 TEST_F(RecordingListTest, TheReferencesNameFitsInBold)
 {
     m_list.ShowFiles({L"C:\\a name of many words, in bold.wav"}, {{}});
@@ -464,6 +505,36 @@ TEST_F(RecordingListTest, TheReferencesNameFitsInBold)
     workbench::SelectScope const font(dc, m_metrics.BoldFont());
     auto const needed = dc.GetTextExtent(m_list.GetItemText(0, CRecordingList::column_name)).cx;
     EXPECT_GE(m_list.GetColumnWidth(CRecordingList::column_name), needed + 2 * m_list.GetCellPadding());
+}
+
+TEST_F(RecordingListTest, TheReferencesNameFitsInBoldAtAnotherResolution)
+{
+    workbench::ScreenMetrics metrics(192);
+    CRecordingList list;
+    ASSERT_TRUE(list.CreateList(m_host, list_id + 1, metrics));
+    tests::WindowCloser const closer(list);
+    list.SetWindowPos(nullptr, 0, 0, 2320, 520, SWP_NOZORDER);
+    list.ShowFiles({L"C:\\a name of many words, in bold.wav"}, {{}});
+    list.ShowAnalysis(0, AnalysisOf(recordings[0]));
+    list.SetReference(0);
+    list.ShowReference();
+    CClientDC dc(&list);
+    workbench::SelectScope const font(dc, metrics.BoldFont());
+    auto const needed = dc.GetTextExtent(list.GetItemText(0, CRecordingList::column_name)).cx;
+    EXPECT_GE(list.GetColumnWidth(CRecordingList::column_name), needed + 2 * metrics.Scaled(5)); // with its padding
+}
+
+TEST_F(RecordingListTest, TheMenuOpensByKeyWhereTheNameIsOutOfSight)
+{
+    m_list.m_onContextCommand = [](int, int, int) {};
+    m_list.SetWindowPos(nullptr, 0, 0, 400, 260, SWP_NOZORDER);
+    m_list.ChooseLine(0);
+    m_list.Scroll(CSize(10000, 0));
+    ASSERT_LT(m_list.CellCentre(0, CRecordingList::column_name).x, 0);
+    tests::LaterActions later;
+    later.Add([] { tests::Key(VK_ESCAPE); }, [] { return ::FindWindowW(L"#32768", nullptr) != nullptr; });
+    m_list.SendMessage(WM_CONTEXTMENU, reinterpret_cast<WPARAM>(m_list.m_hWnd), MAKELPARAM(-1, -1));
+    EXPECT_TRUE(later.Done()) << "no menu";
 }
 
 TEST_F(RecordingListTest, NamesSortWithoutRegardToCase)
@@ -631,7 +702,7 @@ protected:
     }
     void PressStar(int line, int star)
     {
-        CPoint const point = CStarRating::StarRect(Cell(line), star).CenterPoint();
+        CPoint const point = CStarRating().StarRect(Cell(line), star).CenterPoint();
         LPARAM const place = MAKELPARAM(point.x, point.y);
         // The native list of some systems waits for the end within the press.
         m_list.PostMessage(WM_LBUTTONUP, 0, place);
@@ -647,13 +718,25 @@ TEST_F(RecordingListStars, AllStandInTheirCell)
     int right = cell.left;
     for (int star = 0; star < CStarRating::star_count; ++star)
     {
-        CRect const place = CStarRating::StarRect(cell, star);
+        CRect const place = CStarRating().StarRect(cell, star);
         EXPECT_GT(place.left, right);
         EXPECT_GE(place.top, cell.top);
         EXPECT_LE(place.bottom, cell.bottom);
         right = place.right;
     }
     EXPECT_LT(right + 8, cell.right) << "there is room for a press beside them";
+}
+
+TEST_F(RecordingListStars, KeepTheirDistancesAtAnotherResolution)
+{
+    CRect const cell(0, 0, 200, 30);
+    CStarRating const usual;
+    CStarRating const doubled(192);
+    EXPECT_EQ(doubled.StarRect(cell, 0).left, 2 * usual.StarRect(cell, 0).left);
+    auto const gap = [&cell](CStarRating const & stars) {
+        return stars.StarRect(cell, 1).left - stars.StarRect(cell, 0).right;
+    };
+    EXPECT_EQ(gap(doubled), 2 * gap(usual));
 }
 
 TEST_F(RecordingListStars, APressRatesAndIsNoted)
@@ -697,7 +780,7 @@ TEST_F(RecordingListStars, AsManyAreFullAsTheRatingIsGood)
         int count = 0;
         for (int star = 0; star < CStarRating::star_count; ++star)
         {
-            CPoint const middle = CStarRating::StarRect(Cell(line), star).CenterPoint();
+            CPoint const middle = CStarRating().StarRect(Cell(line), star).CenterPoint();
             count += dc.GetPixel(middle) == ::GetSysColor(COLOR_WINDOWTEXT) ? 1 : 0;
         }
         return count;

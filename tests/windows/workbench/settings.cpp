@@ -74,6 +74,7 @@ TEST_F(WorkbenchSettings, ComeBackAsTheyWereStored)
     settings.exportFile = L"C:\\lists\\list of today.html";
     settings.exportHidden = {5};
     settings.exportLines = 2;
+    settings.contrast = ControlColorSet::follow_system;
     ASSERT_TRUE(StoreSettings(settings));
     ASSERT_TRUE(workbench::StoreLanguage(1031));
     auto const read = ReadSettings();
@@ -93,6 +94,7 @@ TEST_F(WorkbenchSettings, ComeBackAsTheyWereStored)
     EXPECT_EQ(read.exportFile, settings.exportFile);
     EXPECT_EQ(read.exportHidden, settings.exportHidden);
     EXPECT_EQ(read.exportLines, 2);
+    EXPECT_EQ(read.contrast, ControlColorSet::follow_system);
     EXPECT_EQ(workbench::ReadLanguage(), 1031);
 }
 
@@ -105,6 +107,12 @@ TEST_F(WorkbenchSettings, ASpectrogramThatCannotBeIsAsAtFirst)
     EXPECT_EQ(ReadSettings().frequencyScale, workbench::FrequencyScale::linear);
     Write(L"SpectrogramWindow", L"4294967295");
     EXPECT_EQ(ReadSettings().spectrogram.window, 0u);
+}
+
+TEST_F(WorkbenchSettings, AContrastThatCannotBeIsTheUsualOne)
+{
+    Write(L"Contrast", L"4");
+    EXPECT_EQ(ReadSettings().contrast, ControlColorSet::standard);
 }
 
 TEST_F(WorkbenchSettings, AnOpacityOutOfItsLimitsIsNotTaken)

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cwchar>
 
+#include "layout/WindowDpi.h"
 #include "list/combo/AdvComboBoxWatch.h"
 #include "list/combo/AdvComboEdit.h"
 #include "list/combo/DropListBox.h"
@@ -10,6 +11,8 @@
 
 namespace XListCtrl
 {
+using resolution::Scaled;
+
 namespace
 {
 constexpr wchar_t class_name[] = L"SuperComboBox";
@@ -225,19 +228,42 @@ void CAdvComboBox::MakeFont()
     SetFont(m_font.get());
 }
 
+CRect CAdvComboBox::EditRect() const
+{
+    CRect rect;
+    GetClientRect(rect);
+    rect.right -= window_dpi::Metric(SM_CXHSCROLL, m_dpi);
+    if ((m_comboFlags & combo_edit_inside) != 0)
+    {
+        rect.DeflateRect(Scaled(2, m_dpi), Scaled(2, m_dpi));
+        rect.left += Scaled(1, m_dpi);
+        rect.top += Scaled(2, m_dpi);
+    }
+    return rect;
+}
+
+bool CAdvComboBox::SetDpi(UINT dpi)
+{
+    if (!resolution::IsServed(dpi))
+        return false;
+    if (dpi == m_dpi)
+        return true;
+    m_dpi = dpi;
+    if (m_hWnd == nullptr)
+        return true;
+    m_rcButton = ButtonRect();
+    Watch const watch(*this);
+    if (HasEdit())
+        m_edit->MoveWindow(EditRect());
+    if (watch.IsAlive())
+        Invalidate();
+    return true;
+}
+
 void CAdvComboBox::MakeEdit()
 {
     if (m_edit != nullptr || !HasEditStyle())
         return;
-    CRect rect;
-    GetClientRect(rect);
-    rect.right -= ::GetSystemMetrics(SM_CXHSCROLL);
-    if ((m_comboFlags & combo_edit_inside) != 0)
-    {
-        rect.DeflateRect(2, 2);
-        rect.left += 1;
-        rect.top += 2;
-    }
     DWORD style = WS_CHILD | WS_VISIBLE;
     if ((GetStyle() & CBS_AUTOHSCROLL) != 0)
         style |= ES_AUTOHSCROLL;
@@ -245,7 +271,7 @@ void CAdvComboBox::MakeEdit()
     Watch const watch(*this);
     auto * const edit = new CAdvComboEdit;
     m_edit = edit;
-    bool const created = edit->Create(style, rect, this, edit_id) != FALSE;
+    bool const created = edit->Create(style, EditRect(), this, edit_id) != FALSE;
     if (!watch.IsAlive() || m_edit != edit)
         return;
     if (!created)
@@ -493,7 +519,8 @@ int CAdvComboBox::GetLongestItemWidth()
     }
     if (previous != nullptr)
         ::SelectObject(dc, previous);
-    return longest + ::GetSystemMetrics(SM_CXVSCROLL) + 2 * ::GetSystemMetrics(SM_CXEDGE) + longest_item_margin;
+    return longest + window_dpi::Metric(SM_CXVSCROLL, m_dpi) + 2 * window_dpi::Metric(SM_CXEDGE, m_dpi) +
+           Scaled(longest_item_margin, m_dpi);
 }
 
 LRESULT CAdvComboBox::OnCbAddString(WPARAM, LPARAM text)

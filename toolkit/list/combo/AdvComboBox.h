@@ -101,6 +101,9 @@ public:
     void SetMaxVisible(int rows) { m_maxVisible = rows; }
     /// In pixels, with room for a scroll bar.
     int GetLongestItemWidth();
+    /// Dots an inch: button, distances, edit field and the next drop window follow. Not served: false.
+    bool SetDpi(UINT dpi);
+    UINT GetDpi() const { return m_dpi; }
 
     BOOL PreTranslateMessage(MSG * message) override;
 
@@ -173,6 +176,7 @@ protected:
     bool m_hot = false;
     bool m_hotTimer = false;
     int m_maxVisible = -1;
+    UINT m_dpi = 96;
 
 private:
     class Access;
@@ -193,6 +197,7 @@ private:
     void LoadItems(UINT id);
     void MakeFont();
     void MakeEdit();
+    CRect EditRect() const;
     void DeleteEdit();
 
     std::wstring EditText() const;

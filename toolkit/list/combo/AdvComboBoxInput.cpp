@@ -4,6 +4,7 @@
 
 #include <optional>
 
+#include "layout/WindowDpi.h"
 #include "list/combo/AdvComboBoxWatch.h"
 #include "list/combo/AdvComboEdit.h"
 #include "list/combo/ComboMoves.h"
@@ -45,7 +46,7 @@ CRect CAdvComboBox::ButtonRect() const
 {
     CRect rect;
     GetClientRect(rect);
-    rect.left = rect.right - ::GetSystemMetrics(SM_CXHSCROLL);
+    rect.left = rect.right - window_dpi::Metric(SM_CXHSCROLL, m_dpi);
     return rect;
 }
 

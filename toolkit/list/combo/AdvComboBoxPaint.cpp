@@ -2,7 +2,9 @@
 
 #include "list/combo/AdvComboBox.h"
 
+#include "colours/ControlColors.h"
 #include "frame/GraphicsScopes.h"
+#include "layout/Resolution.h"
 #include "list/VisualStyles.h"
 #include "list/combo/AdvComboBoxWatch.h"
 #include "list/combo/AdvComboEdit.h"
@@ -47,6 +49,20 @@ public:
 private:
     HTHEME m_theme;
 };
+
+/// The arrow button of a set that the system knows nothing of.
+void DrawArrowButton(CDC & dc, CRect const & button, bool pressed, bool enabled, ControlColors const & colors)
+{
+    constexpr int half_width = 4;
+    dc.FillSolidRect(button, colors.face);
+    dc.Draw3dRect(button, pressed ? colors.edgeShadow : colors.edgeHighlight,
+                  pressed ? colors.edgeHighlight : colors.edgeShadow);
+    CPoint const middle = button.CenterPoint();
+    for (int row = 0; row < half_width; ++row)
+        dc.FillSolidRect(CRect(middle.x - half_width + 1 + row, middle.y - half_width / 2 + row,
+                               middle.x + half_width - row, middle.y - half_width / 2 + row + 1),
+                         enabled ? colors.buttonText : colors.disabled);
+}
 } // namespace
 
 void CAdvComboBox::OnPaint()
@@ -70,18 +86,20 @@ void CAdvComboBox::OnPaint()
     if (!watch.IsAlive())
         return;
     bool const enabled = IsWindowEnabled() != FALSE;
+    ControlColors const colors = control_colors::Of(m_hWnd);
     CRect client;
     GetClientRect(client);
     m_rcButton = ButtonRect();
     CRect text = client;
     text.right = m_rcButton.left - 1;
-    dc.FillSolidRect(client, ::GetSysColor(enabled ? COLOR_WINDOW : COLOR_BTNFACE));
-    if (VisualStyles().IsStyledPaintingOn())
+    dc.FillSolidRect(client, enabled ? colors.window : colors.face);
+    if (!colors.adapts && VisualStyles().IsStyledPaintingOn())
         PaintStyledFrame(dc, client, m_rcButton, enabled);
     else
         PaintPlainFrame(dc, client, m_rcButton, enabled);
 
-    text.DeflateRect(4, 3, 2, 3);
+    auto const scaled = [this](int pixels) { return resolution::Scaled(pixels, m_dpi); };
+    text.DeflateRect(scaled(4), scaled(3), scaled(2), scaled(3));
     if (IsDropList())
         PaintText(dc, text, enabled);
     else if (HasEdit())
@@ -90,6 +108,7 @@ void CAdvComboBox::OnPaint()
 
 void CAdvComboBox::PaintStyledFrame(CDC & dc, CRect const & client, CRect button, bool enabled)
 {
+    ControlColors const colors = control_colors::Of(ControlColorSet::standard);
     Theme const theme(m_hWnd, L"COMBOBOX");
     int state = state_normal;
     if (m_drop != nullptr)
@@ -99,16 +118,16 @@ void CAdvComboBox::PaintStyledFrame(CDC & dc, CRect const & client, CRect button
     else if (m_hot)
         state = state_hot;
 
-    COLORREF const border = theme.Color(theme_button, state, border_color, RGB(0, 0, 0));
+    COLORREF const border = theme.Color(theme_button, state, border_color, colors.comboFrame);
     dc.Draw3dRect(client, border, border);
     button.DeflateRect(0, 1);
     button.OffsetRect(-1, 0);
     if (!enabled)
     {
-        COLORREF const outline = theme.Color(theme_button, state, fill_color, RGB(255, 255, 255));
+        COLORREF const outline = theme.Color(theme_button, state, fill_color, colors.comboOutline);
         theme.Color(theme_filled_part, state, fill_color, 255); // asked for and not used, as hosts expect
         CPen pen(PS_SOLID, 1, outline);
-        CBrush brush(::GetSysColor(COLOR_BTNFACE));
+        CBrush brush(colors.face);
         ContextStateScope const saved(dc);
         dc.SelectObject(&pen);
         dc.SelectObject(&brush);
@@ -119,11 +138,17 @@ void CAdvComboBox::PaintStyledFrame(CDC & dc, CRect const & client, CRect button
 
 void CAdvComboBox::PaintPlainFrame(CDC & dc, CRect client, CRect button, bool enabled)
 {
-    dc.Draw3dRect(client, ::GetSysColor(COLOR_BTNSHADOW), ::GetSysColor(COLOR_BTNHIGHLIGHT));
+    ControlColors const colors = control_colors::Of(m_hWnd);
+    dc.Draw3dRect(client, colors.edgeShadow, colors.edgeHighlight);
     client.DeflateRect(1, 1);
-    dc.Draw3dRect(client, ::GetSysColor(COLOR_3DDKSHADOW), ::GetSysColor(COLOR_3DLIGHT));
+    dc.Draw3dRect(client, colors.edgeDark, colors.edgeLight);
     button.DeflateRect(0, 2);
     button.OffsetRect(-2, 0);
+    if (colors.adapts)
+    {
+        DrawArrowButton(dc, button, m_drop != nullptr, enabled, colors);
+        return;
+    }
     UINT const state = m_drop != nullptr ? button_down : button_up;
     dc.DrawFrameControl(button, DFC_SCROLL, enabled ? state : state | DFCS_INACTIVE);
 }
@@ -133,16 +158,18 @@ void CAdvComboBox::PaintText(CDC & dc, CRect rect, bool enabled)
     ContextStateScope const saved(dc);
     if (m_font != nullptr)
         dc.SelectObject(m_font.get());
-    rect.left -= 2;
-    rect.top -= 2;
-    rect.right += 1;
-    rect.bottom += 2;
+    int const grown = resolution::Scaled(2, m_dpi);
+    rect.left -= grown;
+    rect.top -= grown;
+    rect.right += resolution::Scaled(1, m_dpi);
+    rect.bottom += grown;
     bool const highlighted = m_focused && m_drop == nullptr;
-    int const background = highlighted ? COLOR_HIGHLIGHT : COLOR_WINDOW;
-    int const foreground = highlighted ? COLOR_HIGHLIGHTTEXT : COLOR_BTNTEXT;
-    dc.FillSolidRect(rect, ::GetSysColor(enabled ? background : COLOR_BTNFACE));
+    ControlColors const colors = control_colors::Of(m_hWnd);
+    COLORREF const background = highlighted ? colors.selection : colors.window;
+    COLORREF const foreground = highlighted ? colors.selectionText : colors.buttonText;
+    dc.FillSolidRect(rect, enabled ? background : colors.face);
     dc.SetBkMode(TRANSPARENT);
-    dc.SetTextColor(::GetSysColor(enabled ? foreground : COLOR_GRAYTEXT));
+    dc.SetTextColor(enabled ? foreground : colors.disabled);
     dc.DrawText(m_text.c_str(), static_cast<int>(m_text.size()), rect, DT_VCENTER | DT_SINGLELINE);
 }
 } // namespace XListCtrl

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "access/ControlTarget.h"
+#include "colours/ControlColors.h"
 #include "list/combo/AdvComboBox.h"
 #include "list/combo/AdvComboEdit.h"
 #include "list/combo/DropListBox.h"
@@ -51,6 +52,8 @@ LRESULT CAdvComboBox::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
     if (AsksForControl(message, lParam))
         return AnswerWithObject(std::make_shared<Access>(*this, m_life), wParam);
+    if (LRESULT const brush = control_colors::AnswerColorQuestion(m_hWnd, message, wParam))
+        return brush;
     return CWnd::DefWindowProc(message, wParam, lParam);
 }
 
@@ -78,10 +81,10 @@ public:
     Access(CDropListBox & list, LifeSign const & life) : ControlTarget(list, life), m_list(list) {}
 
     accessible::Element Focused() override { return {IsThere() ? m_list.GetCurSel() : -1, -1}; }
-    std::vector<accessible::Element> Selected() override
+    std::optional<accessible::Element> NextSelected(accessible::Element after) override
     {
         auto const selected = Focused();
-        return selected.IsRow() ? std::vector{selected} : std::vector<accessible::Element>();
+        return selected.row > after.row ? std::optional(selected) : std::nullopt;
     }
 
 protected:
@@ -141,6 +144,8 @@ LRESULT CDropWnd::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     HWND const list = m_list != nullptr ? m_list->m_hWnd : nullptr;
     if (list != nullptr && AsksForControl(message, lParam))
         return ::SendMessageW(list, message, wParam, lParam);
+    if (LRESULT const brush = control_colors::AnswerColorQuestion(m_combo->m_hWnd, message, wParam))
+        return brush;
     return CWnd::DefWindowProc(message, wParam, lParam);
 }
 } // namespace XListCtrl

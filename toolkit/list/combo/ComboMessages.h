@@ -28,6 +28,6 @@ enum ComboFlags : DWORD
     combo_auto_suggest = 16
 };
 
-/// What combo_wide_items adds to each item's width.
+/// What combo_wide_items adds to each item's width, at 96 dots an inch.
 inline constexpr int wide_item_extra = 14;
 } // namespace XListCtrl

@@ -2,9 +2,10 @@
 
 #include <algorithm>
 
-#include "access/AccessObject.h"
+#include "access/NativeEvents.h"
 #include "frame/GraphicsScopes.h"
 #include "frame/WindowAlive.h"
+#include "layout/Resolution.h"
 #include "list/combo/AdvComboBox.h"
 #include "list/combo/ComboMoves.h"
 #include "list/combo/DropScrollBar.h"
@@ -13,6 +14,7 @@ namespace XListCtrl
 {
 namespace
 {
+// Pixels at 96 dots an inch.
 constexpr int font_height = 20;
 
 /// Null for no font.
@@ -138,8 +140,8 @@ int CDropListBox::SetCurSel(int index)
     m_scroll->SetScrollPos(GetTopIndex());
     if (watch.IsAlive())
     {
-        TellOfEvent(EVENT_OBJECT_FOCUS, window, {index, -1});
-        TellOfEvent(EVENT_OBJECT_SELECTION, window, {index, -1});
+        TellUnlessNative(EVENT_OBJECT_FOCUS, window, {index, -1});
+        TellUnlessNative(EVENT_OBJECT_SELECTION, window, {index, -1});
     }
     return result;
 }
@@ -185,7 +187,7 @@ bool CDropListBox::GetTextSize(wchar_t const * text, int length, CSize & size)
     if (!::GetTextExtentPoint32W(dc, text, length, &size))
         return false;
     if ((m_comboFlags & combo_wide_items) != 0)
-        size.cx += wide_item_extra;
+        size.cx += resolution::Scaled(wide_item_extra, m_combo->GetDpi());
     return true;
 }
 
@@ -193,7 +195,8 @@ int CDropListBox::GetWidestText(std::list<combo_item> const & items)
 {
     CClientDC dc(this);
     SelectScope const font(dc, HandleOf(m_combo->GetComboFont()));
-    int const extra = (m_comboFlags & combo_wide_items) != 0 ? wide_item_extra : 0;
+    int const extra =
+        resolution::Scaled((m_comboFlags & combo_wide_items) != 0 ? wide_item_extra : 0, m_combo->GetDpi());
     PlainWidths const widths(dc);
     int widest = -1;
     for (combo_item const & item : items)

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "layout/Resolution.h"
+
 namespace XListCtrl
 {
 namespace
@@ -41,7 +43,7 @@ void PlaceVertically(DropRequest const & request, DropPlace & place)
 
 void PlaceHorizontally(DropRequest const & request, DropPlace & place)
 {
-    place.width = request.widestText + request.scrollWidth + text_margin;
+    place.width = request.widestText + request.scrollWidth + resolution::Scaled(text_margin, request.dpi);
     if (place.width < request.listWidth)
         place.width = request.cx;
     place.width = std::max(place.width, request.comboWidth);

@@ -29,6 +29,8 @@ struct DropRequest
     int listWidth = 0;
     int scrollWidth = 0;
     int arrowHeight = 0;
+    /// Dots an inch.
+    unsigned int dpi = 96;
 };
 
 struct DropPlace
@@ -45,7 +47,7 @@ struct DropPlace
 /// edge; for a combo beyond these, width and height can be negative.
 DropPlace PlaceDrop(DropRequest const & request);
 
-/// How much larger than it opens the user may make the window, each way.
+/// How much larger than it opens the user may make the window, each way; at 96 dots an inch.
 inline constexpr int drop_growth = 100;
 
 struct GripRequest

@@ -1,7 +1,10 @@
 #include "list/combo/DropWnd.h"
 
+#include "colours/ControlColors.h"
 #include "list/VisualStyles.h"
+#include "frame/GraphicsScopes.h"
 #include "frame/WindowAlive.h"
+#include "layout/WindowDpi.h"
 #include "list/combo/AdvComboBox.h"
 #include "list/combo/DropListBox.h"
 #include "list/combo/DropPlacement.h"
@@ -20,11 +23,6 @@ constexpr int theme_lower_track = 6;
 constexpr int theme_size_box = 10;
 constexpr int theme_state = 1;
 
-CSize ArrowSize()
-{
-    return CSize(::GetSystemMetrics(SM_CXVSCROLL), ::GetSystemMetrics(SM_CYVSCROLL));
-}
-
 CRect WorkAreaAt(CPoint point)
 {
     MONITORINFO info = {};
@@ -32,6 +30,22 @@ CRect WorkAreaAt(CPoint point)
     if (::GetMonitorInfoW(::MonitorFromPoint(point, MONITOR_DEFAULTTONEAREST), &info))
         return info.rcWork;
     return CRect(0, 0, ::GetSystemMetrics(SM_CXSCREEN), ::GetSystemMetrics(SM_CYSCREEN));
+}
+
+/// The size grip of a set that the system knows nothing of.
+void DrawGrip(CDC & dc, CRect const & grip, ControlColors const & colors)
+{
+    constexpr int first_line = 2;
+    constexpr int line_distance = 4;
+    constexpr int line_count = 3;
+    dc.FillSolidRect(grip, colors.face);
+    PenScope const pen(dc, colors.buttonText);
+    for (int line = 0; line < line_count; ++line)
+    {
+        int const length = first_line + line * line_distance;
+        dc.MoveTo(grip.right - 1 - length, grip.bottom - 1);
+        dc.LineTo(grip.right, grip.bottom - 2 - length);
+    }
 }
 } // namespace
 
@@ -92,7 +106,8 @@ int CDropWnd::OnCreate(LPCREATESTRUCT create)
     CRect const place = Place(*create);
     if (!watch.IsAlive())
         return -1;
-    m_maxSize = {place.Width() + drop_growth, place.Height() + drop_growth};
+    int const growth = resolution::Scaled(drop_growth, m_combo->GetDpi());
+    m_maxSize = {place.Width() + growth, place.Height() + growth};
     SetWindowPos(nullptr, place.left, place.top, place.Width(), place.Height(), SWP_SHOWWINDOW | SWP_NOZORDER);
 
     CRect client;
@@ -104,6 +119,12 @@ int CDropWnd::OnCreate(LPCREATESTRUCT create)
     m_scroll->ShowScrollBar();
     SetCapture(); // whoever had it hears of it
     return watch.IsAlive() ? 0 : -1;
+}
+
+CSize CDropWnd::ArrowSize() const
+{
+    UINT const dpi = m_combo->GetDpi();
+    return CSize(window_dpi::Metric(SM_CXVSCROLL, dpi), window_dpi::Metric(SM_CYVSCROLL, dpi));
 }
 
 bool CDropWnd::CreateChildren(CREATESTRUCT const & create)
@@ -154,6 +175,7 @@ CRect CDropWnd::Place(CREATESTRUCT const & create)
     request.listWidth = m_rcList.Width();
     request.scrollWidth = m_rcScroll.Width();
     request.arrowHeight = ArrowSize().cy;
+    request.dpi = m_combo->GetDpi();
     DropPlace const place = PlaceDrop(request);
     return CRect(CPoint(place.x, place.y), CSize(place.width, place.height));
 }
@@ -191,7 +213,7 @@ void CDropWnd::DrawFrame(CDC & dc)
     CRect frame = m_rcList;
     frame.InflateRect(1, 1);
     frame.right = m_rcScroll.right + 1;
-    COLORREF const color = ::GetSysColor(COLOR_3DDKSHADOW);
+    COLORREF const color = control_colors::Of(m_combo->m_hWnd).dropFrame;
     dc.Draw3dRect(frame, color, color);
 }
 
@@ -205,10 +227,16 @@ void CDropWnd::OnPaint()
     int const saved = dc.SaveDC();
     for (CRect const & covered : {m_rcList, m_rcScroll, m_rcGrip})
         dc.ExcludeClipRect(covered);
-    dc.FillSolidRect(client, ::GetSysColor(COLOR_BTNFACE));
+    ControlColors const colors = control_colors::Of(m_combo->m_hWnd);
+    dc.FillSolidRect(client, colors.face);
     dc.RestoreDC(saved);
     DrawFrame(dc);
 
+    if (colors.adapts)
+    {
+        DrawGrip(dc, m_rcGrip, colors);
+        return;
+    }
     CVisualStyles const & styles = VisualStyles();
     if (styles.IsStyledPaintingOn())
     {

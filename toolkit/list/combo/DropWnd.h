@@ -76,6 +76,8 @@ private:
     bool CreateChildren(CREATESTRUCT const & create);
     /// Where the combo's drop-down belongs; in screen pixels.
     CRect Place(CREATESTRUCT const & create);
+    /// Of the scroll bar, and the grip below it.
+    CSize ArrowSize() const;
     void ResizeByGrip(CPoint point);
     void DrawFrame(CDC & dc);
 

@@ -396,6 +396,16 @@ bool TableModel::IsSelected(TableRow position) const
     return IsRowSelected(RowAt(position));
 }
 
+TableRow TableModel::FocusPosition() const
+{
+    TableRow const row = FocusRow();
+    if (row == no_table_row)
+        return nowhere;
+    if (RowAt(m_focusPlace) != row)
+        m_focusPlace = PositionOf(row);
+    return m_focusPlace;
+}
+
 bool TableModel::IsRowSelected(TableRow row) const
 {
     if (m_selected.Count() == 0)
@@ -474,6 +484,7 @@ TableRow TableModel::NextSelected(TableRow from) const
 void TableModel::SetFocus(TableRow position)
 {
     m_focus = KeyAt(position);
+    m_focusPlace = position;
 }
 
 void TableModel::SetAnchor(TableRow position)

@@ -136,7 +136,8 @@ public:
     TableRow NextSelected(TableRow from) const;
 
     void SetFocus(TableRow position);
-    TableRow FocusPosition() const { return PositionOfKey(m_focus); }
+    /// Looks through the rows only where that row has moved.
+    TableRow FocusPosition() const;
     /// The source's row with the focus, shown or not; no_table_row if none has it.
     TableRow FocusRow() const;
     bool IsRowSelected(TableRow row) const;
@@ -176,5 +177,7 @@ private:
     std::vector<TableRowRange> m_waiting;
     TableKeySet m_selected;
     std::optional<TableKey> m_focus;
+    /// Where it was last.
+    mutable TableRow m_focusPlace = nowhere;
     std::optional<TableKey> m_anchor;
 };

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "frame/InternalMessages.h"
+#include "layout/WindowDpi.h"
 
 IMPLEMENT_DYNAMIC(CXTableCtrl, CListCtrl)
 
@@ -57,12 +58,12 @@ void table_threads::Run(std::function<void()> work)
     std::thread(std::move(work)).detach();
 }
 
-CXTableCtrl::CXTableCtrl() : m_state(std::make_unique<State>())
+CXTableCtrl::CXTableCtrl() : m_state(std::make_shared<State>())
 {
     m_state->linkCell.MakeLink();
     m_state->barCell.MakeProgress();
     m_state->barCell.progressShowText = true;
-    m_state->look.palette = CellPalette::OfSystem();
+    m_state->look.palette = control_colors::Of(ControlColorSet::standard);
     TableLooks looks;
     looks.locale = SystemLocale();
     m_state->model.SetLooks(std::move(looks));
@@ -98,9 +99,13 @@ void CXTableCtrl::OnDestroy()
 {
     m_state->waker->SetWindow(nullptr);
     m_state->prepared = false;
+    // What the native list has of the table's ends with the table.
+    m_state->rowHeight.Take(
+        [this](UINT message, WPARAM wParam, LPARAM lParam) { return AskNative(message, wParam, lParam); });
     if (m_state->editing)
         m_state->editing->window->SetClosing();
     m_state->editing.reset();
+    m_state->news = {};
     StopOrdering();
     CListCtrl::OnDestroy();
 }
@@ -133,6 +138,7 @@ void CXTableCtrl::SetSource(std::shared_ptr<TableSource> const & source)
     // What was told of the former one is of no interest.
     m_state->feed->Take();
     m_state->model.SetSource(source);
+    NoteOrder();
     SetNativeCount();
     if (!life.Over() && m_hWnd != nullptr && RowsShown() != 0 && m_state->painting == 0)
         BringIntoView(0);
@@ -239,6 +245,8 @@ bool CXTableCtrl::GoToRow(TableRow row)
     if (position == TableModel::nowhere)
         return false;
     table_input::Go(m_state->model, position, false, false);
+    NoteSelection(position);
+    NoteFocus();
     LifeWatch const life(m_lifeSign);
     if (m_hWnd != nullptr && m_state->painting == 0)
         BringIntoView(position);
@@ -250,6 +258,7 @@ bool CXTableCtrl::GoToRow(TableRow row)
 void CXTableCtrl::SelectAllRows()
 {
     m_state->model.SelectAll();
+    NoteSelection(TableModel::nowhere);
     AfterSelection(false);
 }
 
@@ -280,6 +289,9 @@ LRESULT CXTableCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
             break;
         case Waker::place_edit:
             PlaceEdit();
+            break;
+        case Waker::tell_news:
+            TellNews();
             break;
         default:
             FollowNatively();
@@ -343,6 +355,9 @@ LRESULT CXTableCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     case WM_CREATE:
         PrepareWindow();
         break;
+    case WM_GETDLGCODE:
+        result |= WantedKeys(wParam);
+        break;
     case WM_HSCROLL:
     case WM_MOUSEHWHEEL:
     case LVM_SCROLL:
@@ -364,6 +379,8 @@ LRESULT CXTableCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
         WishEditPlace();
         break;
     default:
+        if (m_state->followsDpi && window_dpi::IsTold(message))
+            SetDpi(window_dpi::Of(m_hWnd));
         break;
     }
     return result;

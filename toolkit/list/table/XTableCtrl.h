@@ -4,7 +4,9 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "frame/Export.h"
@@ -24,6 +26,11 @@ struct TableEffect;
 ///
 /// A row is one of the source's; a position is a row's place as shown. Columns count as the host has given them,
 /// wherever they stand. What is called back is called through a copy, and may end the table.
+///
+/// Programs that read the screen see what the user sees: the rows shown are its children, in the order shown, and
+/// theirs are the cells of the columns shown, from left to right, those that stand still ahead of the others. Rows that
+/// a filter keeps out and hidden columns are not there. An object stands for a place, not for what is there at the
+/// moment, as in the report list.
 class INSTRUMENT_UI_API CXTableCtrl : public CListCtrl
 {
     DECLARE_DYNAMIC(CXTableCtrl)
@@ -43,7 +50,8 @@ public:
     /// The user pasted a block; what became of it.
     std::function<void(TablePasteReport const &)> m_onPaste;
     /// A text that was typed into that cell was refused: gives what the user is told beside the edit, which stays open.
-    /// Without it that is the reason that the column's check gave. Where the row is no more, the edit has ended.
+    /// Without it, or where it gives nothing, that is the reason that the column's check gave, or one in the words of
+    /// the module. Where the row is no more, the edit has ended.
     std::function<std::wstring(TableRow, unsigned int, TableRefused const &)> m_onEditRefused;
     /// An export to a file has ended: whether the file is whole.
     std::function<void(bool)> m_onExportEnd;
@@ -100,6 +108,18 @@ public:
     /// What the cell shows.
     std::wstring ShownText(TableRow row, unsigned int column) const;
 
+    // --- The cell cursor ---
+
+    /// A cursor on one cell of the row with the focus. Keys move it from column to column, and do at its cell what a
+    /// click or typing does there. Off at first, and all keys do then what they did ever.
+    void EnableCellCursor(bool enable = true);
+    /// Whether there is one.
+    bool HasCellCursor() const;
+    /// Row and column; no_table_row without a cursor, or while no row that is shown has the focus.
+    std::pair<TableRow, unsigned int> GetCellCursor() const;
+    /// Puts it on a cell, as GoToRow and with the column in view. False without a cursor, and where that is not shown.
+    bool SetCellCursor(TableRow row, unsigned int column);
+
     // --- Columns ---
 
     /// From left to right.
@@ -135,6 +155,17 @@ public:
     void StopExport();
     /// Puts what the clipboard has into cells, from the one with the focus on.
     TablePasteReport PasteBlock();
+
+    // --- Resolution ---
+
+    /// The dots an inch that the table is shown with: boxes, distances, the least height of rows and the columns
+    /// follow. The font stays the host's. Without it cells are those of 96, and columns as wide as the screen asks for.
+    /// Columns are described and kept at 96 always. FALSE, and nothing else, below 48 and above 960.
+    BOOL SetDpi(UINT dpi);
+    /// See SetDpi; 96 at first.
+    UINT GetDpi() const;
+    /// Whether the table takes its window's resolution, at once and whenever that changes. Off at first.
+    void FollowDpi(BOOL follow);
 
     /// Follows what was told by now at once, and paints it.
     void UpdateNow();
@@ -177,6 +208,8 @@ protected:
 private:
     struct State;
     class Waker;
+    class AccessRows;
+    class AccessTargetOfTable;
 
     // The native list (XTableCtrlNative.cpp).
     void EndNative();
@@ -203,6 +236,9 @@ private:
     /// As wide as what is seen of it.
     void FitColumn(unsigned int place);
     bool DrawHeaderProgress(NMCUSTOMDRAW const & draw, LRESULT * result);
+    /// What column widths are shown with.
+    int ColumnDots() const;
+    void KeepRowHeight();
 
     // Changes (XTableCtrlLive.cpp).
     void OnWoken();
@@ -237,6 +273,28 @@ private:
     void PressCell(TableRow position, unsigned int column);
     bool AnswerState(UINT message, WPARAM wParam, LPARAM lParam, LRESULT & result);
 
+    // The cell cursor (XTableCtrlCursor.cpp).
+    unsigned int CursorColumn() const;
+    bool PutCursorColumn(unsigned int column);
+    bool TakeCursorKey(UINT key);
+    bool MoveInRow(UINT key);
+    bool PressLink(bool press);
+    std::optional<std::pair<TableRow, unsigned int>> NextEditable(bool forth) const;
+    void GoToNextEditable(std::pair<TableRow, unsigned int> const & next);
+    void FitColumns();
+    LRESULT WantedKeys(WPARAM key);
+
+    // What programs that read the screen see, and what they are told (XTableCtrlAccess.cpp).
+    LRESULT AnswerGetObject(WPARAM flags);
+    void NoteFocus();
+    /// position: TableModel::nowhere for several.
+    void NoteSelection(TableRow position);
+    /// column: TableFilter::any_column for the row; position: TableModel::nowhere for many rows.
+    void NoteValue(TableRow position, unsigned int column);
+    void NoteOrder();
+    void WishNews();
+    void TellNews();
+
     // Cells that are typed into (XTableCtrlEdit.cpp).
     bool IsTyped(unsigned int column) const;
     bool OpenEdit(TableRow row, unsigned int column, wchar_t const * typed);
@@ -250,6 +308,7 @@ private:
     void PlaceEdit();
     void EditNext(TableKey key, unsigned int column, bool forth);
 
-    std::unique_ptr<State> m_state;
+    /// Kept by who asks the source while that could end the table.
+    std::shared_ptr<State> m_state;
     LifeSign m_lifeSign;
 };

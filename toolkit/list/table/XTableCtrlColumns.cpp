@@ -5,6 +5,8 @@
 
 #include "frame/GraphicsScopes.h"
 #include "frame/PreferenceStore.h"
+#include "layout/WindowDpi.h"
+#include "list/table/TableHeaderPaint.h"
 
 namespace
 {
@@ -15,14 +17,6 @@ constexpr std::size_t place_index = 0;
 constexpr std::size_t width_index = 1;
 constexpr std::size_t hidden_index = 2;
 constexpr int no_value = -1;
-
-int DotsOf(HWND window)
-{
-    HDC const dc = ::GetDC(window);
-    int const dots = ::GetDeviceCaps(dc, LOGPIXELSX);
-    ::ReleaseDC(window, dc);
-    return dots > 0 ? dots : dots_of_widths;
-}
 
 int FormatOf(TableColumn const & column)
 {
@@ -55,6 +49,8 @@ void CXTableCtrl::PrepareWindow()
     state.prepared = true;
     state.waker->SetWindow(m_hWnd);
     LifeWatch const life(m_lifeSign);
+    if (state.followsDpi)
+        SetDpi(window_dpi::Of(m_hWnd));
     auto const mayGoOn = [&] { return !life.Over() && state.prepared; };
     // What is typed into stays as it is while rows are painted.
     ModifyStyle(0, WS_CLIPCHILDREN);
@@ -87,10 +83,11 @@ void CXTableCtrl::MakeNativeColumns()
     if (!state.prepared)
         return;
     LifeWatch const life(m_lifeSign);
+    KeepRowHeight();
     ++state.making;
     AskNative(WM_SETREDRAW, FALSE);
     CHeaderCtrl & header = *Titles();
-    int const dots = DotsOf(m_hWnd);
+    int const dots = ColumnDots();
     for (int count = header.GetItemCount(); count > static_cast<int>(state.shown.size()); --count)
         AskNative(LVM_DELETECOLUMN, static_cast<WPARAM>(count) - 1);
     // The host hears of each, and may have other columns made meanwhile.
@@ -119,6 +116,7 @@ void CXTableCtrl::MakeNativeColumns()
         return;
     Invalidate(FALSE);
     header.Invalidate(FALSE);
+    NoteOrder();
     WishEditPlace();
 }
 
@@ -387,7 +385,7 @@ bool CXTableCtrl::OnHeaderNotify(NMHDR const & header, LRESULT * result)
             AskNative(LVM_SETCOLUMNWIDTH, static_cast<WPARAM>(change.iItem), MAKELPARAM(change.pitem->cxy, 0));
             return true;
         }
-        state.layout.SetWidth(column, ::MulDiv(change.pitem->cxy, dots_of_widths, DotsOf(m_hWnd)));
+        state.layout.SetWidth(column, ::MulDiv(change.pitem->cxy, dots_of_widths, ColumnDots()));
         StoreColumn(column);
         if (static_cast<unsigned int>(change.iItem) < state.layout.Frozen())
             PostMessage(Waker::WakeMessage(), Waker::follow_natively, 0);
@@ -420,8 +418,14 @@ bool CXTableCtrl::OnHeaderNotify(NMHDR const & header, LRESULT * result)
         ShowColumnMenu(point);
         return true;
     }
-    case NM_CUSTOMDRAW:
-        return DrawHeaderProgress(reinterpret_cast<NMCUSTOMDRAW const &>(header), result) || frozen;
+    case NM_CUSTOMDRAW: {
+        auto const & draw = reinterpret_cast<NMCUSTOMDRAW const &>(header);
+        LRESULT own = 0;
+        bool const painted = PaintTableHeader(draw, own);
+        bool const answered = DrawHeaderProgress(draw, result) || painted;
+        *result |= own;
+        return answered || frozen;
+    }
     default:
         return frozen;
     }
@@ -437,7 +441,7 @@ void CXTableCtrl::FitColumn(unsigned int place)
     // In pixels at 96 to the inch: beside a text, and beside a title with its mark.
     constexpr int beside_text = 14;
     constexpr int beside_title = 28;
-    int const dots = DotsOf(m_hWnd);
+    int const dots = ColumnDots();
     CClientDC dc(this);
     auto * const font = reinterpret_cast<HGDIOBJ>(AskNative(WM_GETFONT));
     int widest = 0;
@@ -492,10 +496,10 @@ bool CXTableCtrl::DrawHeaderProgress(NMCUSTOMDRAW const & draw, LRESULT * result
     ::MapWindowPoints(m_hWnd, draw.hdr.hwndFrom, &origin, 1);
     bar.left = origin.x;
     bar.right = origin.x + ::MulDiv(client.Width(), done, 1000);
-    bar.top = bar.bottom - bar_height;
+    bar.top = bar.bottom - state.Scaled(bar_height);
     CDC & dc = *CDC::FromHandle(draw.hdc);
     COLORREF const former = dc.GetBkColor();
-    dc.FillSolidRect(bar, state.look.palette.selection);
+    dc.FillSolidRect(bar, state.look.palette.headerBar);
     dc.SetBkColor(former);
     *result = CDRF_DODEFAULT;
     return true;

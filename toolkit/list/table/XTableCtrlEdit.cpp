@@ -6,9 +6,12 @@
 #include <algorithm>
 #include <utility>
 
+#include "frame/OwnTexts.h"
+
 namespace
 {
 constexpr UINT edit_id = 0x7A11;
+// Pixels at 96 dots an inch.
 constexpr int least_edit_width = 5;
 constexpr int edit_left = 2;
 constexpr int edit_right = 4;
@@ -23,6 +26,26 @@ DWORD EditAlignment(TableColumn const & column)
     if (column.align == TableAlign::by_kind && (column.kind == TableKind::whole || column.kind == TableKind::floating))
         return ES_RIGHT;
     return column.align == TableAlign::centre ? ES_CENTER : ES_LEFT;
+}
+
+/// What the user is told where nobody else says anything.
+std::wstring OwnReason(TableRefused const & refused, TableColumn const * column)
+{
+    if (!refused.reason.empty())
+        return refused.reason;
+    if (refused.refusal != TableRefusal::not_readable)
+        return ReadOwnText(OwnText::not_taken);
+    switch (column != nullptr ? column->kind : TableKind::blank)
+    {
+    case TableKind::whole:
+    case TableKind::floating:
+    case TableKind::progress:
+        return ReadOwnText(OwnText::not_a_number);
+    case TableKind::time:
+        return ReadOwnText(OwnText::not_a_time);
+    default:
+        return ReadOwnText(OwnText::not_a_value);
+    }
 }
 
 /// Of the edit, so that no host hears when it is shown.
@@ -74,7 +97,8 @@ bool CXTableCtrl::EndEdit(bool take)
 // typed: replaces what the cell shows; null for none.
 bool CXTableCtrl::OpenEdit(TableRow row, unsigned int column, wchar_t const * typed)
 {
-    State & state = *m_state;
+    auto const kept = m_state;
+    State & state = *kept;
     LifeWatch const life(m_lifeSign);
     auto const mayGoOn = [&] { return !life.Over() && m_hWnd != nullptr && state.painting == 0; };
     if (!TakeEdit())
@@ -91,29 +115,42 @@ bool CXTableCtrl::OpenEdit(TableRow row, unsigned int column, wchar_t const * ty
     if (!source || position == TableModel::nowhere || row >= source->RowCount())
         return false;
     TableKey const key = source->Key(row);
+    bool const isFocused = state.model.FocusRow() == row && state.model.IsRowSelected(row);
+    if (!mayGoOn())
+        return false;
     state.focusColumn = column;
-    if (state.model.FocusRow() != row || !state.model.IsRowSelected(row))
+    NoteFocus();
+    if (!isFocused)
         GoTo(position, false, false);
     else
         BringIntoView(position);
     if (mayGoOn())
         ShowColumn(column);
     // The host has heard of it, and may have done anything.
-    if (!mayGoOn() || state.model.Source() != source || !IsTyped(column) || state.editing)
+    auto const mayOpen = [&] {
+        return mayGoOn() && state.model.Source() == source && IsTyped(column) && !state.editing;
+    };
+    if (!mayOpen())
         return false;
     position = state.model.PositionOf(source->RowOfKey(key));
+    std::wstring shown = state.model.Text(position, column);
     CRect place;
-    if (position == TableModel::nowhere || !CellRect(position, column, place) || place.Width() < least_edit_width)
+    if (!mayGoOn() || position == TableModel::nowhere || !CellRect(position, column, place) ||
+        place.Width() < state.Scaled(least_edit_width))
+        return false;
+    // The native list may ask for the row that it measures, of which the host hears, too.
+    if (!mayOpen())
         return false;
 
     auto const editing = std::make_shared<TableEditing>();
     editing->source = source;
     editing->key = key;
     editing->column = column;
-    editing->before = state.model.Text(position, column);
+    editing->before = std::move(shown);
     editing->window.reset(new CXTableEdit(this, typed != nullptr ? typed : editing->before.c_str()));
-    place.left += edit_left;
-    place.right = std::max(place.right - edit_right + edit_left, place.left + 1);
+    editing->window->SetDpi(state.look.dpi);
+    place.left += state.Scaled(edit_left);
+    place.right = std::max(place.right - state.Scaled(edit_right) + state.Scaled(edit_left), place.left + 1);
     // Not the table's before it is complete: the focus moves, of which the host hears.
     bool const created =
         editing->window->Create(WS_CHILD | WS_VISIBLE | ES_AUTOHSCROLL | EditAlignment(*state.Column(column)), place,
@@ -182,6 +219,9 @@ bool CXTableCtrl::TakeEdit()
     }
     if (life.Over())
         return true;
+    if (taken)
+        NoteValue(state.model.FocusRow() == row ? state.model.FocusPosition() : state.model.PositionOf(row),
+                  editing->column);
     editing->taking = false;
     // The host may have ended it, or opened another.
     if (state.editing != editing)
@@ -213,7 +253,7 @@ void CXTableCtrl::RefuseEdit(std::shared_ptr<TableEditing> const & editing, Tabl
     if (callback)
         reason = callback(row, editing->column, refused);
     if (!life.Over() && m_state->editing == editing)
-        ShowReason(reason);
+        ShowReason(reason.empty() ? OwnReason(refused, m_state->Column(editing->column)) : std::move(reason));
 }
 
 void CXTableCtrl::ShowReason(std::wstring reason)
@@ -230,7 +270,7 @@ void CXTableCtrl::ShowReason(std::wstring reason)
     {
         if (!editing.reason.Create(this, TTS_ALWAYSTIP | TTS_NOPREFIX))
             return;
-        editing.reason.SetMaxTipWidth(reason_width);
+        editing.reason.SetMaxTipWidth(m_state->Scaled(reason_width));
         TTTOOLINFOW tool = ReasonTool(*editing.window, reason.data());
         editing.reason.SendMessage(TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
     }
@@ -248,7 +288,7 @@ void CXTableCtrl::PlaceReason()
         return;
     CRect place;
     editing.window->GetWindowRect(&place);
-    editing.reason.SendMessage(TTM_TRACKPOSITION, 0, MAKELPARAM(place.left, place.bottom + 2));
+    editing.reason.SendMessage(TTM_TRACKPOSITION, 0, MAKELPARAM(place.left, place.bottom + m_state->Scaled(2)));
 }
 
 // As soon as the text is another one.
@@ -287,7 +327,8 @@ void CXTableCtrl::WishEditPlace()
 // The edit follows its cell. Where that is shown no more, it ends.
 void CXTableCtrl::PlaceEdit()
 {
-    State & state = *m_state;
+    auto const kept = m_state;
+    State & state = *kept;
     std::shared_ptr<TableEditing> const editing = state.editing;
     if (!editing)
         return;
@@ -298,18 +339,22 @@ void CXTableCtrl::PlaceEdit()
     TableRow const row = source && source == state.model.Source() ? source->RowOfKey(editing->key) : no_table_row;
     TableRow const position = row == no_table_row ? TableModel::nowhere : state.model.PositionOf(row);
     CRect place;
-    if (position == TableModel::nowhere || editing->window->m_hWnd == nullptr ||
-        !CellRect(position, editing->column, place))
+    LifeWatch const life(m_lifeSign);
+    bool const placed = position != TableModel::nowhere && editing->window->m_hWnd != nullptr &&
+                        CellRect(position, editing->column, place);
+    // Measuring a row, the native list may ask for it, of which the host hears.
+    if (life.Over() || m_hWnd == nullptr || state.editing != editing)
+        return;
+    if (!placed || editing->window->m_hWnd == nullptr)
     {
-        LifeWatch const life(m_lifeSign);
         if (!TakeEdit() && !life.Over())
             CloseEdit();
         return;
     }
     TableRow const top = TopPosition();
     bool const seen = position >= top && position - top <= PageRows();
-    place.left += edit_left;
-    place.right = std::max(place.right - edit_right + edit_left, place.left + 1);
+    place.left += state.Scaled(edit_left);
+    place.right = std::max(place.right - state.Scaled(edit_right) + state.Scaled(edit_left), place.left + 1);
     if (!seen)
         place.OffsetRect(0, out_of_sight);
     CRect former;
@@ -319,7 +364,7 @@ void CXTableCtrl::PlaceEdit()
         return;
     editing->window->MoveWindow(&place);
     // The frame that it had around it.
-    former.InflateRect(2, 2, 4, 2);
+    former.InflateRect(state.Scaled(2), state.Scaled(2), state.Scaled(4), state.Scaled(2));
     RedrawWindow(&former, nullptr, RDW_INVALIDATE | RDW_NOCHILDREN);
     PlaceReason();
 }

@@ -132,7 +132,7 @@ TablePasteReport CXTableCtrl::PasteBlock()
     if (position == TableModel::nowhere)
         return {};
     std::vector<unsigned int> columns = state.layout.Shown();
-    while (!columns.empty() && columns.front() != state.focusColumn)
+    while (!columns.empty() && columns.front() != CursorColumn())
         columns.erase(columns.begin());
     if (columns.empty())
         columns = state.layout.Shown();

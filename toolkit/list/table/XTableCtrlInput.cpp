@@ -114,6 +114,7 @@ void CXTableCtrl::MoveFocusColumn(bool right)
         state.focusColumn = *(present + 1);
     else if (!right && present != state.shown.begin())
         state.focusColumn = *(present - 1);
+    NoteFocus();
     LifeWatch const life(m_lifeSign);
     ShowColumn(state.focusColumn);
     if (!life.Over())
@@ -128,7 +129,7 @@ bool CXTableCtrl::PressSpace()
         TableColumn const * const described = state.Column(column);
         return described != nullptr && described->kind == TableKind::tick && described->editable;
     };
-    unsigned int column = state.focusColumn;
+    unsigned int column = CursorColumn();
     if (column == State::no_column)
     {
         auto const first = std::find_if(state.shown.begin(), state.shown.end(), isTick);
@@ -151,6 +152,8 @@ CPoint CXTableCtrl::MenuPlace()
     TableRow position = state.model.FocusPosition();
     if (position != TableModel::nowhere)
         BringIntoView(position);
+    if (!life.Over() && m_hWnd != nullptr && state.cursor)
+        ShowColumn(CursorColumn());
     if (life.Over() || m_hWnd == nullptr)
         return CPoint(0, 0);
     CRect client(0, 0, 0, 0);
@@ -162,10 +165,10 @@ CPoint CXTableCtrl::MenuPlace()
         header->GetWindowRect(&titles);
         place.bottom += titles.Height();
     }
-    bool const chosen = std::find(state.shown.begin(), state.shown.end(), state.focusColumn) != state.shown.end();
+    bool const chosen = std::find(state.shown.begin(), state.shown.end(), CursorColumn()) != state.shown.end();
     position = row == no_table_row ? TableModel::nowhere : state.model.PositionOf(row);
     if (position != TableModel::nowhere && !state.shown.empty())
-        CellRect(position, chosen ? state.focusColumn : state.shown.front(), place);
+        CellRect(position, chosen ? CursorColumn() : state.shown.front(), place);
     CPoint point(std::clamp(place.left, client.left, client.right),
                  std::clamp(place.bottom, client.top, client.bottom));
     ClientToScreen(&point);
@@ -184,7 +187,14 @@ void CXTableCtrl::AfterSelection(bool tell)
 
 void CXTableCtrl::GoTo(TableRow position, bool shift, bool control)
 {
-    table_input::Go(m_state->model, position, shift, control);
+    auto const kept = m_state;
+    LifeWatch const life(m_lifeSign);
+    table_input::Go(kept->model, position, shift, control);
+    if (life.Over())
+        return;
+    if (shift || !control)
+        NoteSelection(shift ? TableModel::nowhere : position);
+    NoteFocus();
     if (BringIntoView(position))
         AfterSelection(true);
 }
@@ -220,6 +230,7 @@ void CXTableCtrl::OnLButtonDown(UINT flags, CPoint point)
         if (!shift && !control)
         {
             m_state->model.ClearSelection();
+            NoteSelection(TableModel::nowhere);
             AfterSelection(true);
         }
         return;
@@ -229,6 +240,8 @@ void CXTableCtrl::OnLButtonDown(UINT flags, CPoint point)
     if (control && !shift)
     {
         table_input::Flip(m_state->model, position);
+        NoteSelection(position);
+        NoteFocus();
         AfterSelection(true);
         return;
     }
@@ -250,6 +263,7 @@ void CXTableCtrl::OnRButtonDown(UINT flags, CPoint point)
     if (!HitCell(point, position, column))
         return;
     m_state->focusColumn = column;
+    NoteFocus();
     // A selected row leaves the others selected: the menu may be for all of them.
     if (!m_state->model.IsSelected(position))
         GoTo(position, false, false);
@@ -297,10 +311,12 @@ void CXTableCtrl::OnLButtonDblClk(UINT flags, CPoint point)
 
 void CXTableCtrl::PressCell(TableRow position, unsigned int column)
 {
-    TableRow const row = m_state->model.RowAt(position);
-    TableColumn const * const described = m_state->Column(column);
+    auto const kept = m_state;
+    LifeWatch const life(m_lifeSign);
+    TableRow const row = kept->model.RowAt(position);
+    TableColumn const * const described = kept->Column(column);
     TableValue value;
-    if (described == nullptr || !m_state->model.ReadRow(row, column, value))
+    if (described == nullptr || !kept->model.ReadRow(row, column, value) || life.Over())
         return;
     if (value.Kind() == TableKind::link)
     {
@@ -311,7 +327,6 @@ void CXTableCtrl::PressCell(TableRow position, unsigned int column)
     }
     if (value.Kind() != TableKind::tick || !described->editable)
         return;
-    LifeWatch const life(m_lifeSign);
     std::shared_ptr<TableSource> const source = m_state->model.Source();
     auto const check = described->check;
     value.SetTick(value.Whole() == 0);
@@ -319,6 +334,8 @@ void CXTableCtrl::PressCell(TableRow position, unsigned int column)
         return;
     if (life.Over())
         return;
+    if (m_state->model.RowAt(position) == row)
+        NoteValue(position, column);
     m_state->feed->RowsChanged(row, row);
     UpdateNow();
 }
@@ -326,6 +343,8 @@ void CXTableCtrl::PressCell(TableRow position, unsigned int column)
 void CXTableCtrl::OnKeyDown(UINT character, UINT repeats, UINT flags)
 {
     State & state = *m_state;
+    if (state.cursor && TakeCursorKey(character))
+        return;
     bool const shift = IsDown(VK_SHIFT);
     bool const control = IsDown(VK_CONTROL);
     std::optional<table_input::Move> move;
@@ -353,6 +372,7 @@ void CXTableCtrl::OnKeyDown(UINT character, UINT repeats, UINT flags)
         if (control)
         {
             table_input::Flip(state.model, state.model.FocusPosition());
+            NoteSelection(state.model.FocusPosition());
             AfterSelection(true);
         }
         else if (!state.typed.GoesOn(static_cast<long long>(::GetTickCount64())))
@@ -365,12 +385,12 @@ void CXTableCtrl::OnKeyDown(UINT character, UINT repeats, UINT flags)
         {
             auto const callback = m_onDoubleClick;
             if (callback)
-                callback(row, state.focusColumn == State::no_column ? state.shown.front() : state.focusColumn);
+                callback(row, CursorColumn() == State::no_column ? state.shown.front() : CursorColumn());
         }
         return;
     case VK_F2: {
         // Of the cell with the focus, or the row's first one.
-        unsigned int column = state.focusColumn;
+        unsigned int column = CursorColumn();
         if (column == State::no_column)
         {
             auto const first = std::find_if(state.shown.begin(), state.shown.end(),
@@ -391,6 +411,7 @@ void CXTableCtrl::OnKeyDown(UINT character, UINT repeats, UINT flags)
         if (control)
         {
             state.model.SelectAll();
+            NoteSelection(TableModel::nowhere);
             AfterSelection(true);
         }
         return;
@@ -430,10 +451,10 @@ void CXTableCtrl::OnChar(UINT character, UINT repeats, UINT flags)
     if (character < L' ' || command || state.shown.empty())
         return;
     // Into the cell with the focus; else it is looked for among the rows.
-    if (TableRow const row = state.model.FocusRow(); row != no_table_row && IsTyped(state.focusColumn))
+    if (TableRow const row = state.model.FocusRow(); row != no_table_row && IsTyped(CursorColumn()))
     {
         wchar_t const typed[] = {static_cast<wchar_t>(character), L'\0'};
-        OpenEdit(row, state.focusColumn, typed);
+        OpenEdit(row, CursorColumn(), typed);
         return;
     }
     if (character == L' ' && !state.typed.GoesOn(now))
@@ -467,8 +488,10 @@ void CXTableCtrl::OnSetFocus(CWnd * former)
 {
     LifeWatch const life(m_lifeSign);
     CListCtrl::OnSetFocus(former);
-    if (!life.Over())
-        RepaintRows();
+    if (life.Over())
+        return;
+    NoteFocus();
+    RepaintRows();
 }
 
 void CXTableCtrl::OnKillFocus(CWnd * next)
@@ -511,9 +534,13 @@ bool CXTableCtrl::AnswerState(UINT message, WPARAM wParam, LPARAM lParam, LRESUL
                 model.SelectAll();
             else
                 model.ClearSelection();
+            NoteSelection(all ? TableModel::nowhere : position);
         }
         if ((item.stateMask & LVIS_FOCUSED) != 0)
+        {
             model.SetFocus(all || (item.state & LVIS_FOCUSED) == 0 ? TableModel::nowhere : position);
+            NoteFocus();
+        }
         RepaintRows();
         result = TRUE;
         return true;

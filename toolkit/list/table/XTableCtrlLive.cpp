@@ -79,17 +79,18 @@ void CXTableCtrl::UpdateNow()
 CXTableCtrl::View CXTableCtrl::PresentView() const
 {
     View view;
-    TableRow const size = m_state->model.Size();
+    auto const kept = m_state;
+    TableRow const size = kept->model.Size();
     if (m_hWnd == nullptr || size == 0)
         return view;
     TableRow const top = TopPosition();
     TableRow const page = std::max(PageRows(), TableRow{1});
     // Where all fits, nobody has gone to the end yet.
     view.atEnd = size > page && top + page >= size;
-    TableRow const focus = m_state->model.FocusRow();
+    TableRow const focus = kept->model.FocusRow();
     for (TableRow position = top; !view.focusSeen && focus != no_table_row && position < std::min(top + page, size);
          ++position)
-        view.focusSeen = m_state->model.RowAt(position) == focus;
+        view.focusSeen = kept->model.RowAt(position) == focus;
     return view;
 }
 
@@ -97,16 +98,21 @@ CXTableCtrl::View CXTableCtrl::PresentView() const
 // that was done.
 void CXTableCtrl::Follow(bool now)
 {
-    State & state = *m_state;
+    auto const kept = m_state;
+    State & state = *kept;
+    LifeWatch const life(m_lifeSign);
     View const before = PresentView();
+    if (life.Over())
+        return;
     unsigned long long const time = ::GetTickCount64();
     bool const place = now || time - state.placed >= table_timers::place_interval;
     TableEffect const effect = state.model.Apply(state.feed->Take(), place);
+    if (life.Over())
+        return;
     if (state.model.RowsWait())
         SetTimer(table_timers::place, table_timers::place_interval, nullptr);
     else
         state.placed = time;
-    LifeWatch const life(m_lifeSign);
     TakeEffect(effect, before);
     if (life.Over() || m_hWnd == nullptr)
         return;
@@ -124,6 +130,10 @@ void CXTableCtrl::TakeEffect(TableEffect const & effect, View const & before)
 {
     if (m_hWnd == nullptr || effect.IsEmpty())
         return;
+    if (effect.allMoved || effect.sizeChanged)
+        NoteOrder();
+    else if (effect.allValues)
+        NoteValue(TableModel::nowhere, TableFilter::any_column);
     LifeWatch const life(m_lifeSign);
     if (effect.sizeChanged)
         SetNativeCount();
@@ -141,8 +151,9 @@ void CXTableCtrl::TakeEffect(TableEffect const & effect, View const & before)
     }
     else if (effect.allMoved && before.focusSeen)
     {
-        TableRow const focus = m_state->model.FocusPosition();
-        if (focus != TableModel::nowhere && !BringIntoView(focus))
+        auto const kept = m_state;
+        TableRow const focus = kept->model.FocusPosition();
+        if (life.Over() || (focus != TableModel::nowhere && !BringIntoView(focus)))
             return;
     }
     if (effect.allMoved || effect.allValues)
@@ -160,7 +171,11 @@ void CXTableCtrl::TakeEffect(TableEffect const & effect, View const & before)
                              [](TableRow wanted, TableRowRange const & each) { return wanted < each.first; });
         if (next == effect.rows.begin() || row > std::prev(next)->last)
             continue;
+        NoteValue(position, TableFilter::any_column);
         CRect rect = RowRect(position);
+        // It may be asked for, of which the host hears.
+        if (life.Over() || m_hWnd == nullptr)
+            return;
         CRect client;
         GetClientRect(&client);
         rect.left = client.left;
@@ -197,7 +212,9 @@ void CXTableCtrl::RepaintRows()
 // Few rows are put in order at once, many beside the window.
 void CXTableCtrl::WishOrder()
 {
-    State & state = *m_state;
+    auto const kept = m_state;
+    State & state = *kept;
+    LifeWatch const life(m_lifeSign);
     state.orderStopped = false;
     if (std::exchange(state.task, nullptr))
         ShowProgress();
@@ -206,8 +223,9 @@ void CXTableCtrl::WishOrder()
     if (m_hWnd == nullptr || !state.model.OrderTakesLong())
     {
         View const before = PresentView();
-        TableEffect const effect = state.model.FindOrder();
-        TakeEffect(effect, before);
+        TableEffect const effect = life.Over() ? TableEffect() : state.model.FindOrder();
+        if (!life.Over())
+            TakeEffect(effect, before);
         return;
     }
     state.task = state.model.BeginOrder();

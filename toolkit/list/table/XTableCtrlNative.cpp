@@ -5,9 +5,19 @@
 
 #include <algorithm>
 
+#include "access/AccessObject.h"
+
 // All that the native list does goes through here. It stands no change of its columns and rows meanwhile; they wait.
 LRESULT CXTableCtrl::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
+    if (message == WM_CTLCOLOREDIT || message == WM_CTLCOLORSTATIC)
+    {
+        if (LRESULT const brush = control_colors::AnswerColorQuestion(m_hWnd, message, wParam))
+            return brush;
+    }
+    if (AsksForControl(message, lParam))
+        if (LRESULT const answer = AnswerGetObject(wParam); answer != 0)
+            return answer;
     LifeWatch const life(m_lifeSign);
     ++m_state->native;
     LRESULT const result = CListCtrl::DefWindowProc(message, wParam, lParam);

@@ -4,11 +4,10 @@
 #include <cmath>
 
 #include "frame/GraphicsScopes.h"
+#include "list/CheckMarks.h"
 
 namespace
 {
-constexpr COLORREF link_color = RGB(0, 0, 255);
-
 bool IsNumber(TableKind kind)
 {
     return kind == TableKind::whole || kind == TableKind::floating;
@@ -42,8 +41,10 @@ UINT AlignmentOf(TableColumn const & column, TableKind kind)
 }
 
 /// The ground of selected rows without the focus: the system's, unless nobody would see it.
-COLORREF InactiveSelection(CellPalette const & palette)
+COLORREF InactiveSelection(ControlColors const & palette)
 {
+    if (palette.adapts)
+        return palette.inactiveSelection;
     constexpr int least_seen = 24;
     auto const apart = [&palette](int shift) {
         return std::abs(static_cast<int>(palette.inactiveSelection >> shift & 0xFF) -
@@ -58,10 +59,18 @@ COLORREF InactiveSelection(CellPalette const & palette)
 }
 } // namespace
 
+void CXTableCtrl::State::FollowSet(HWND window)
+{
+    ControlColorSet const set = control_colors::SetOf(window);
+    if (set != ControlColorSet::standard || look.palette.adapts)
+        look.palette = control_colors::Of(set);
+}
+
 // Where columns and rows stand, for all cells of one paint.
 void CXTableCtrl::PrepareLook()
 {
     State & state = *m_state;
+    state.FollowSet(m_hWnd);
     state.edges.clear();
     state.frozen = state.layout.Frozen();
     state.frozenRight = 0;
@@ -200,17 +209,25 @@ void CXTableCtrl::PaintRow(CDC & dc, TableRow position)
     if (row != no_table_row && row == state.focusRow && state.focused)
     {
         CRect const frame(0, top, state.edges.back().right, top + height);
-        dc.SetTextColor(state.look.palette.windowText);
-        dc.SetBkColor(state.look.palette.window);
-        dc.DrawFocusRect(&frame);
+        ControlColors const & palette = state.look.palette;
+        dc.SetTextColor(palette.windowText);
+        dc.SetBkColor(palette.window);
+        auto const draw = [&](CRect const & rect) {
+            if (palette.adapts)
+                check_marks::DrawFrame(dc, rect, selected ? palette.selectionText : palette.windowText);
+            else
+                dc.DrawFocusRect(&rect);
+        };
+        draw(frame);
         // Within the row the cell where keys do something.
-        auto const cell = std::find(state.shown.begin(), state.shown.end(), state.focusColumn);
-        if (cell != state.shown.end() && state.Column(*cell) != nullptr && state.Column(*cell)->editable)
+        auto const cell = std::find(state.shown.begin(), state.shown.end(), CursorColumn());
+        if (cell != state.shown.end() &&
+            (state.cursor || (state.Column(*cell) != nullptr && state.Column(*cell)->editable)))
         {
             State::Edges const & edges = state.edges[static_cast<std::size_t>(cell - state.shown.begin())];
             CRect const inner(edges.left + 1, top + 1, edges.right - 1, top + height - 1);
             if (edges.left >= state.frozenRight || cell - state.shown.begin() < static_cast<int>(state.frozen))
-                dc.DrawFocusRect(&inner);
+                draw(inner);
         }
     }
 }
@@ -242,7 +259,7 @@ void CXTableCtrl::PaintRowCell(CDC & dc, TableRow row, unsigned int index, CRect
     {
     case TableKind::link:
         cell = &state.linkCell;
-        text = link_color;
+        text = state.look.palette.link;
         break;
     case TableKind::tick:
         cell = &state.tickCell;
@@ -254,15 +271,18 @@ void CXTableCtrl::PaintRowCell(CDC & dc, TableRow row, unsigned int index, CRect
         cell = &state.barCell;
         cell->progressValue =
             std::isfinite(state.value.Number()) ? static_cast<int>(std::clamp(state.value.Number(), 0.0, 100.0)) : 0;
-        background = state.look.palette.activeCaption;
+        background = state.look.palette.tableBar;
         break;
     default:
         break;
     }
     LifeWatch const life(m_lifeSign);
+    COLORREF const usual[] = {text, background};
     GetCellColors(row, column, text, background);
     if (life.Over() || index >= state.edges.size())
         return;
+    if (state.look.palette.adapts && text == usual[0] && background != usual[1])
+        text = control_colors::TextOn(background, text, state.look.palette.window);
     if (selected && kind != TableKind::progress)
     {
         if (state.focused)
@@ -303,6 +323,7 @@ BOOL CXTableCtrl::OnEraseBkgnd(CDC * dc)
     CRect clip(0, 0, 0, 0);
     if (dc->GetClipBox(&clip) <= NULLREGION)
         return TRUE;
+    m_state->FollowSet(m_hWnd);
     COLORREF const color = m_state->look.palette.window;
     TableRow const size = m_state->model.Size();
     CHeaderCtrl * const header = Titles();
@@ -372,6 +393,7 @@ void CXTableCtrl::OnSysColorChange()
     CListCtrl::OnSysColorChange();
     if (life.Over())
         return;
-    m_state->look.palette = CellPalette::OfSystem();
+    m_state->look.palette = control_colors::Of(ControlColorSet::standard);
+    m_state->FollowSet(m_hWnd);
     RepaintRows();
 }

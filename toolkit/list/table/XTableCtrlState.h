@@ -5,10 +5,13 @@
 
 #include <atomic>
 
+#include "layout/Resolution.h"
 #include "list/CellPainters.h"
+#include "list/RowHeight.h"
 #include "list/table/TableColumnLayout.h"
 #include "list/table/TableInput.h"
 #include "list/table/TableModel.h"
+#include "list/table/TableNews.h"
 #include "list/table/TablePace.h"
 #include "list/table/XTableEdit.h"
 
@@ -28,6 +31,7 @@ public:
     static constexpr WPARAM told = 0;
     static constexpr WPARAM follow_natively = 1;
     static constexpr WPARAM place_edit = 2;
+    static constexpr WPARAM tell_news = 3;
 
 private:
     std::atomic<HWND> m_window{nullptr};
@@ -94,6 +98,11 @@ struct CXTableCtrl::State
     CHeaderCtrl frozenHeader;
 
     CellLook look;
+    /// As the host has set it; 0 for never.
+    UINT dpi = 0;
+    bool followsDpi = false;
+    CRowHeight rowHeight;
+    int Scaled(int pixels) const { return resolution::Scaled(pixels, look.dpi); }
     bool ownLocale = false;
     /// The user has stopped the work on the order wished for.
     bool orderStopped = false;
@@ -124,7 +133,13 @@ struct CXTableCtrl::State
     TypedText typed;
     /// The column with the focus, where a block is pasted; none until the user has chosen a cell.
     unsigned int focusColumn = no_column;
+    /// There is a cell cursor.
+    bool cursor = false;
     std::shared_ptr<TableEditing> editing;
+    TableNews news;
+
+    /// Takes the colours of the set that the window is painted in now.
+    void FollowSet(HWND window);
 
     TableColumn const * Column(unsigned int column) const
     {

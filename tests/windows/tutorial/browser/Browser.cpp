@@ -13,7 +13,7 @@ CSelfTest theSelfTest;
 
 namespace
 {
-UINT const FilterMessage = ::RegisterWindowMessage(_T("Tutorial.Browser.FilterChanged"));
+UINT const filter_message = ::RegisterWindowMessage(_T("Tutorial.Browser.FilterChanged"));
 
 enum ControlId : UINT
 {
@@ -29,7 +29,7 @@ struct Planet
     int radius; // kilometres
 };
 
-Planet const Planets[] = {{_T("Rock"), _T("Mercury"), 2440}, {_T("Rock"), _T("Venus"), 6052},
+Planet const planets[] = {{_T("Rock"), _T("Mercury"), 2440}, {_T("Rock"), _T("Venus"), 6052},
                           {_T("Rock"), _T("Earth"), 6371},   {_T("Rock"), _T("Mars"), 3390},
                           {_T("Gas"), _T("Jupiter"), 69911}, {_T("Gas"), _T("Saturn"), 58232}};
 } // namespace
@@ -56,8 +56,8 @@ protected:
 
     static int CALLBACK Compare(LPARAM first, LPARAM second, LPARAM column)
     {
-        Planet const & a = Planets[first];
-        Planet const & b = Planets[second];
+        Planet const & a = planets[first];
+        Planet const & b = planets[second];
         return column == 0 ? ::_tcscmp(a.name, b.name) : a.radius - b.radius;
     }
 
@@ -79,7 +79,7 @@ public:
     CFilterEdit() { m_brush.CreateSolidBrush(RGB(255, 255, 200)); }
 
 protected:
-    void OnChange() { GetParent()->SendMessage(FilterMessage, GetDlgCtrlID(), GetWindowTextLength()); }
+    void OnChange() { GetParent()->SendMessage(filter_message, GetDlgCtrlID(), GetWindowTextLength()); }
     HBRUSH CtlColor(CDC * pDC, UINT)
     {
         pDC->SetBkColor(RGB(255, 255, 200));
@@ -141,7 +141,7 @@ BEGIN_MESSAGE_MAP(CBrowserWindow, CWnd)
     ON_NOTIFY(TVN_BEGINLABELEDIT, tree_id, &CBrowserWindow::OnBeginLabelEdit)
     ON_NOTIFY(TVN_ENDLABELEDIT, tree_id, &CBrowserWindow::OnEndLabelEdit)
     ON_NOTIFY(LVN_COLUMNCLICK, list_id, &CBrowserWindow::OnColumnClick)
-    ON_REGISTERED_MESSAGE(FilterMessage, &CBrowserWindow::OnFilterChanged)
+    ON_REGISTERED_MESSAGE(filter_message, &CBrowserWindow::OnFilterChanged)
     ON_MESSAGE(CSelfTest::message, &CBrowserWindow::OnSelfTest)
 END_MESSAGE_MAP()
 
@@ -180,8 +180,8 @@ void CBrowserWindow::OnSize(UINT nType, int cx, int cy)
 
 void CBrowserWindow::FillTree()
 {
-    HTREEITEM const root = m_tree.InsertItem(_T("Planets"), 0, 0);
-    for (Planet const & planet : Planets)
+    HTREEITEM const root = m_tree.InsertItem(_T("planets"), 0, 0);
+    for (Planet const & planet : planets)
     {
         HTREEITEM group = nullptr;
         if (!m_groups.Lookup(planet.group, group))
@@ -199,15 +199,15 @@ void CBrowserWindow::FillList()
     m_filter.GetWindowText(filter);
     m_list.SetRedraw(FALSE);
     m_list.DeleteAllItems();
-    for (int i = 0; i < static_cast<int>(std::size(Planets)); ++i)
+    for (int i = 0; i < static_cast<int>(std::size(planets)); ++i)
     {
-        if (!m_group.IsEmpty() && m_group != Planets[i].group)
+        if (!m_group.IsEmpty() && m_group != planets[i].group)
             continue;
-        if (CString(Planets[i].name).Find(filter) < 0)
+        if (CString(planets[i].name).Find(filter) < 0)
             continue;
-        int const row = m_list.InsertItem(m_list.GetItemCount(), Planets[i].name);
+        int const row = m_list.InsertItem(m_list.GetItemCount(), planets[i].name);
         CString radius;
-        radius.Format(_T("%d"), Planets[i].radius);
+        radius.Format(_T("%d"), planets[i].radius);
         m_list.SetItemText(row, 1, radius);
         m_list.SetItemData(row, static_cast<DWORD_PTR>(i));
     }
@@ -248,7 +248,7 @@ LRESULT CBrowserWindow::OnFilterChanged(WPARAM, LPARAM lParam)
 LRESULT CBrowserWindow::OnSelfTest(WPARAM, LPARAM)
 {
     HTREEITEM const root = m_tree.GetRootItem();
-    SELFTEST_CHECK(m_tree.GetItemText(root) == _T("Planets"));
+    SELFTEST_CHECK(m_tree.GetItemText(root) == _T("planets"));
     SELFTEST_CHECK(m_tree.GetCount() == 3);
     SELFTEST_CHECK(m_groups.GetCount() == 2);
     SELFTEST_CHECK(m_list.GetItemCount() == 6);

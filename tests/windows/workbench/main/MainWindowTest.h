@@ -74,7 +74,13 @@ protected:
         tests::App().m_keepsWorkspace = false;
         tests::App().m_pszProfileName = m_formerProfile;
         tests::App().m_pszRegistryKey = m_formerKey;
-        std::filesystem::remove_all(m_folder);
+        // A program that stays in a folder, or keeps a file open, keeps its user from deleting it.
+        EXPECT_TRUE(tests::PumpUntil([this] {
+            std::error_code error;
+            std::filesystem::remove_all(m_folder, error);
+            return !error;
+        })) << "held by the program, which is in "
+            << std::filesystem::current_path();
     }
 
     static void ForgetSettings()
@@ -89,12 +95,16 @@ protected:
         m_window = std::make_unique<CMainWindow>(dotsPerInch);
         tests::App().m_pMainWnd = m_window.get();
         ASSERT_TRUE(m_window->CreateMainWindow());
-        m_window->ShowWindow(SW_SHOW);
+        m_window->ShowAsBefore(SW_SHOW);
         m_window->UpdateWindow();
         ASSERT_TRUE(tests::BringToFront(m_window->m_hWnd));
     }
     void CloseWindow()
     {
+        if (m_window == nullptr)
+        {
+            return;
+        }
         m_window->SendMessage(WM_CLOSE);
         m_window.reset();
         tests::App().m_pMainWnd = nullptr;

@@ -5,6 +5,8 @@
 #include <atomic>
 #include <vector>
 
+#include <shlobj.h>
+
 #include "BusyDialog.h"
 
 namespace
@@ -64,4 +66,34 @@ TEST_F(WorkbenchBusyDialog, IsCancelledByEscapeWhenTheItemIsFinished)
 TEST_F(WorkbenchBusyDialog, NothingToDoEndsAtOnce)
 {
     EXPECT_EQ(CBusyDialog(*m_window, L"Nothing", 0, [](std::size_t) {}).Run(), 0U);
+}
+
+TEST_F(WorkbenchBusyDialog, ShowsNothingForWhatIsDoneInAMoment)
+{
+    std::atomic<bool> shown = false;
+    CBusyDialog dialog(*m_window, L"Quick", 20, [&](std::size_t) {
+        ::Sleep(5);
+        shown = shown || (dialog.m_hWnd != nullptr && ::IsWindowVisible(dialog.m_hWnd));
+    });
+    EXPECT_EQ(dialog.Run(), 20U);
+    EXPECT_FALSE(shown);
+    EXPECT_TRUE(m_window->IsWindowEnabled());
+    EXPECT_EQ(::GetActiveWindow(), m_window->m_hWnd);
+    EXPECT_EQ(::GetFocus(), m_window->List().m_hWnd);
+}
+
+TEST_F(WorkbenchBusyDialog, ItsThreadCanUseCom)
+{
+    HRESULT result = E_FAIL;
+    CBusyDialog dialog(*m_window, L"With objects", 1, [&result](std::size_t) {
+        IUnknown * link = nullptr;
+        result = ::CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER, IID_IUnknown,
+                                    reinterpret_cast<void **>(&link));
+        if (link != nullptr)
+        {
+            link->Release();
+        }
+    });
+    EXPECT_EQ(dialog.Run(), 1U);
+    EXPECT_EQ(result, S_OK);
 }

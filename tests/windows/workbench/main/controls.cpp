@@ -2,6 +2,7 @@
 // closed at any time.
 
 #include "MainWindowTest.h"
+#include "RecordingCells.h"
 
 #include <algorithm>
 #include <fstream>
@@ -16,6 +17,7 @@
 #include "Bitmap.h"
 #include "GuardedHeap.h"
 #include "controls/ComboBoxX.h"
+#include "controls/IdNameMultiselectCtrl.h"
 #include "controls/XEditBrowseCtrl.h"
 
 namespace
@@ -229,6 +231,22 @@ TEST_F(WorkbenchControls, TheSettingsComeBackAtTheirPlaceAndPage)
         Sheet().CloseDialog();
         ASSERT_TRUE(WaitUntilClosed());
     }
+}
+
+TEST_F(WorkbenchControls, SettingsWhoseStoredPlaceIsBeyondTheScreenComeBackOntoIt)
+{
+    OpenSettings();
+    CRect work;
+    ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
+    CRect place;
+    Sheet().GetWindowRect(&place);
+    Sheet().SetWindowPos(nullptr, work.right - 80, work.bottom - 60, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    Sheet().CloseDialog();
+    ASSERT_TRUE(WaitUntilClosed());
+    OpenSettings();
+    CRect now;
+    Sheet().GetWindowRect(&now);
+    EXPECT_EQ(now, CRect(work.BottomRight() - place.Size(), place.Size()));
 }
 
 TEST_F(WorkbenchControls, APageWhoseChoiceIsNoneIsNotLeft)
@@ -508,6 +526,85 @@ TEST_F(WorkbenchControls, TheTreeFollowsAReloadAndIsRemembered)
     EXPECT_LT(list.left, after.left + 10);
 }
 
+TEST_F(WorkbenchControls, ContrastIsChosenInTheSettingsAndStays)
+{
+    Show(2);
+    auto const chosen = [this] { return control_colors::SetOf(List().m_hWnd); };
+    EXPECT_EQ(chosen(), ControlColorSet::standard);
+    OpenSettings();
+    auto & box = *Page(list_page).GetDlgItem(IDC_CONTRAST);
+    EXPECT_EQ(box.SendMessage(CB_GETCURSEL), 0);
+    box.SendMessage(CB_SETCURSEL, 1);
+    box.GetParent()->SendMessage(WM_COMMAND, MAKEWPARAM(IDC_CONTRAST, CBN_SELCHANGE),
+                                 reinterpret_cast<LPARAM>(box.m_hWnd));
+    EXPECT_EQ(chosen(), ControlColorSet::standard);
+    ASSERT_TRUE(CanApply());
+    Sheet().SendMessage(WM_COMMAND, IDOK);
+    ASSERT_TRUE(WaitUntilClosed());
+    EXPECT_EQ(chosen(), ControlColorSet::dark);
+    Restart(2);
+    EXPECT_EQ(chosen(), ControlColorSet::dark);
+    OpenSettings();
+    EXPECT_EQ(Page(list_page).GetDlgItem(IDC_CONTRAST)->SendMessage(CB_GETCURSEL), 1);
+    control_colors::UseForProcess(ControlColorSet::standard);
+}
+
+TEST_F(WorkbenchControls, WhatIsUnreadableIsReadInTheDarkSet)
+{
+    auto const folder = Folder(1);
+    std::ofstream(folder / "zero.wav") << "no recording";
+    m_window->ShowTargets({folder});
+    ASSERT_TRUE(WaitUntilRead());
+    auto const contrast = [this] {
+        COLORREF text = 0;
+        COLORREF ground = 0;
+        List().GetItemColors(List().PlaceOf(1), CRecordingList::column_name, text, ground);
+        return control_colors::ContrastOf(text, control_colors::Of(List().m_hWnd).window);
+    };
+    EXPECT_GE(contrast(), control_colors::least_contrast);
+    OpenSettings();
+    auto & box = *Page(list_page).GetDlgItem(IDC_CONTRAST);
+    box.SendMessage(CB_SETCURSEL, 1);
+    box.GetParent()->SendMessage(WM_COMMAND, MAKEWPARAM(IDC_CONTRAST, CBN_SELCHANGE),
+                                 reinterpret_cast<LPARAM>(box.m_hWnd));
+    Sheet().SendMessage(WM_COMMAND, IDOK);
+    ASSERT_TRUE(WaitUntilClosed());
+    ASSERT_EQ(control_colors::SetOf(List().m_hWnd), ControlColorSet::dark);
+    EXPECT_GE(contrast(), control_colors::least_contrast);
+    control_colors::UseForProcess(ControlColorSet::standard);
+}
+
+TEST_F(WorkbenchControls, TheChoiceOfColumnsHasTheWindowsResolution)
+{
+    CloseWindow();
+    OpenWindow(192);
+    Show(2);
+    UINT resolution = 0;
+    std::vector<HWND> const known{m_window->m_hWnd, nullptr};
+    auto const isOpen = [&known] { return OtherPopup(known) != nullptr; };
+    tests::LaterActions later;
+    later.Add(
+        [&] {
+            ::EnumChildWindows(
+                OtherPopup(known),
+                [](HWND window, LPARAM to) -> BOOL {
+                    auto * const object = CWnd::FromHandlePermanent(window);
+                    auto const * const choice = dynamic_cast<CIdNameMultiselectCtrl *>(object);
+                    if (choice != nullptr)
+                    {
+                        *reinterpret_cast<UINT *>(to) = choice->GetDpi();
+                    }
+                    return choice == nullptr;
+                },
+                reinterpret_cast<LPARAM>(&resolution));
+            tests::Key(VK_ESCAPE);
+        },
+        isOpen);
+    m_window->SendMessage(WM_COMMAND, ID_CHOOSE_COLUMNS);
+    EXPECT_FALSE(later.Failed());
+    EXPECT_EQ(resolution, 192U);
+}
+
 TEST_F(WorkbenchControls, ColumnsAreChosenInADropDownOfTheSettings)
 {
     Show(2);
@@ -541,11 +638,74 @@ TEST_F(WorkbenchControls, ColumnsAreChosenInADropDownOfTheSettings)
     EXPECT_EQ(List().GetColumnWidth(CRecordingList::column_channels), 0);
     // What does not show is not sorted, edited nor copied.
     auto const table = List().Table(CRecordingList::Lines::all, List().HiddenColumns());
-    EXPECT_FALSE(std::ranges::any_of(table.columns, [](auto const & column) { return column.title == L"Channels"; }));
+    EXPECT_FALSE(
+        std::ranges::any_of(table.Table().columns, [](auto const & column) { return column.title == L"Channels"; }));
     List().SetHiddenColumns({CRecordingList::column_comment, CRecordingList::column_rating});
     List().EditComment(0);
     List().ChooseRating(0);
     EXPECT_FALSE(List().IsEditing());
+}
+
+TEST_F(WorkbenchControls, KeysMoveFromCellToCellAtOnceWhenWished)
+{
+    Show(2);
+    EXPECT_FALSE(List().HasCellCursor());
+    OpenSettings();
+    Page(list_page).GetDlgItem(IDC_CELL_CURSOR)->SendMessage(BM_CLICK);
+    EXPECT_TRUE(CanApply());
+    Sheet().SendMessage(WM_COMMAND, IDOK);
+    ASSERT_TRUE(WaitUntilClosed());
+    EXPECT_TRUE(List().HasCellCursor());
+    EXPECT_TRUE(m_window->FrameMeasures().Table().HasCellCursor());
+    Restart(2);
+    EXPECT_TRUE(List().HasCellCursor());
+    EXPECT_TRUE(m_window->FrameMeasures().Table().HasCellCursor());
+}
+
+TEST_F(WorkbenchControls, KeysAreHeardAfterApplying)
+{
+    Show(2);
+    OpenSettings();
+    Page(list_page).GetDlgItem(IDC_CELL_CURSOR)->SendMessage(BM_CLICK);
+    auto & apply = SheetButton(ID_APPLY_NOW);
+    ASSERT_TRUE(apply.IsWindowEnabled());
+    apply.SetFocus();
+    tests::Key(VK_SPACE);
+    ASSERT_TRUE(tests::PumpUntil([this] { return !CanApply(); }));
+    tests::Key(VK_ESCAPE);
+    EXPECT_TRUE(WaitUntilClosed());
+}
+
+TEST_F(WorkbenchControls, TheScaleHoldsFromTheNextStartOn)
+{
+    Show(2);
+    EXPECT_EQ(List().GetDpi(), 96U);
+    CRect before;
+    List().GetItemRect(0, &before, LVIR_BOUNDS);
+    OpenSettings();
+    auto & scale = *static_cast<CComboBox *>(Page(list_page).GetDlgItem(IDC_LIST_SCALE));
+    ASSERT_EQ(scale.GetCount(), 5);
+    EXPECT_EQ(scale.GetCurSel(), 0);
+    scale.SetCurSel(4);
+    Page(list_page).SendMessage(WM_COMMAND, MAKEWPARAM(IDC_LIST_SCALE, CBN_SELCHANGE),
+                                reinterpret_cast<LPARAM>(scale.m_hWnd));
+    EXPECT_TRUE(CanApply());
+    Sheet().SendMessage(WM_COMMAND, IDOK);
+    ASSERT_TRUE(WaitUntilClosed());
+    EXPECT_EQ(List().GetDpi(), 96U);
+    EXPECT_EQ(m_window->Settings().scale, 200);
+    Restart(2);
+    EXPECT_EQ(List().GetDpi(), 192U);
+    CRect after;
+    List().GetItemRect(0, &after, LVIR_BOUNDS);
+    EXPECT_GE(after.Height(), 2 * before.Height() - 4);
+    // The panes' places of another scale would leave no room.
+    CRect waveform;
+    Waveform().GetWindowRect(&waveform);
+    CRect asAtFirst;
+    m_window->ResetLayout();
+    Waveform().GetWindowRect(&asAtFirst);
+    EXPECT_EQ(waveform, asAtFirst);
 }
 
 TEST_F(WorkbenchControls, ColumnsAreChosenAtTheTitles)
@@ -660,6 +820,7 @@ TEST_F(WorkbenchControls, TheListIsExportedIntoAFile)
     EXPECT_TRUE(all.starts_with("\xEF\xBB\xBFName\t"));
     EXPECT_EQ(std::ranges::count(all, '\n'), 4);
     EXPECT_EQ(m_window->Settings().exportFile, file);
+    EXPECT_NE(Status().find(L"list written: " + file.wstring()), std::wstring::npos) << "it is said";
     // A file that is there is replaced only where the user says so.
     ASSERT_TRUE(m_window->ChooseRecording(1));
     tests::App().Answer(IDYES);

@@ -213,7 +213,8 @@ TEST_F(WorkbenchFinding, TheSelectedRecordingsGoToTheTrash)
     tests::App().Answer(IDYES);
     List().SendMessage(WM_KEYDOWN, VK_DELETE);
     ASSERT_TRUE(tests::PumpUntil([this] { return !m_window->IsBusy() && List().GetItemCount() == 2; }));
-    EXPECT_EQ(tests::App().TakeMessages(), std::vector<std::wstring>{L"Move these recordings to the trash?"});
+    EXPECT_EQ(tests::App().TakeMessages(),
+              std::vector<std::wstring>{L"Move these 2 files to the trash?\n\nr00001.wav\nr00002.wav"});
     EXPECT_FALSE(fs::exists(m_folder / "recordings" / "r00001.wav"));
     EXPECT_TRUE(fs::exists(m_folder / "recordings" / "r00003.wav"));
     EXPECT_EQ(List().GetItemText(1, CRecordingList::column_name), L"r00003.wav");

@@ -1,8 +1,10 @@
 // The list follows folders that change, and what was opened last.
 
 #include "MainWindowTest.h"
+#include "RecordingCells.h"
 
 #include <algorithm>
+#include <numeric>
 #include <string>
 #include <vector>
 
@@ -70,6 +72,27 @@ TEST_F(WorkbenchFollowing, FilesComeAndGo)
     EXPECT_TRUE(List().Redo());
     EXPECT_TRUE(List().IsChecked(1));
     EXPECT_EQ(m_window->RecordingCount(), 3);
+}
+
+TEST_F(WorkbenchFollowing, AReloadThatFindsOtherFilesKeepsUndoing)
+{
+    ShowFolder(4);
+    List().ChooseLine(2);
+    List().SendMessage(WM_KEYDOWN, VK_SPACE);
+    tests::PumpPosted();
+    List().ChooseLine(1);
+    List().SendMessage(WM_KEYDOWN, VK_SPACE);
+    tests::PumpPosted();
+    tests::WriteRecording(Recordings() / "a.wav", 48000, 777); // so that it is no other one's new name
+    fs::remove(Recordings() / "r00001.wav");
+    m_window->SendMessage(WM_COMMAND, ID_RELOAD);
+    ASSERT_TRUE(WaitFor({L"a.wav", L"r00000.wav", L"r00002.wav", L"r00003.wav"}));
+    EXPECT_EQ(List().Totals().Checked(), 1U);
+    ASSERT_TRUE(List().CanUndo());
+    EXPECT_TRUE(List().Undo());
+    EXPECT_EQ(List().Totals().Checked(), 0U) << "of what is still there";
+    EXPECT_TRUE(List().Redo());
+    EXPECT_TRUE(List().IsChecked(2));
 }
 
 TEST_F(WorkbenchFollowing, AFileThatGrowsIsReadAgain)
@@ -181,6 +204,25 @@ TEST_F(WorkbenchFollowing, ManyFilesAtOnceKeepTheWindowAnswering)
     EXPECT_EQ(ChosenName(), L"r00000.wav");
 }
 
+TEST_F(WorkbenchFollowing, ManySelectedOnesStaySelectedWhenSomeGo)
+{
+    constexpr int count = 40;
+    ShowFolder(count);
+    Lines all(count - 1);
+    std::iota(all.begin(), all.end(), 1);
+    List().SelectLines(all, 20);
+    for (auto const * const name : {"r00000.wav", "r00003.wav", "r00030.wav"})
+    {
+        fs::remove(Recordings() / name);
+    }
+    ASSERT_TRUE(tests::PumpUntil([this] { return List().GetItemCount() == count - 3 && !m_window->IsBusy(); }));
+    Lines rest(count - 3);
+    std::iota(rest.begin(), rest.end(), 0);
+    EXPECT_EQ(List().SelectedLines(), rest);
+    EXPECT_EQ(ChosenName(), L"r00020.wav");
+    EXPECT_EQ(List().GetNextItem(-1, LVNI_FOCUSED), 18);
+}
+
 TEST_F(WorkbenchFollowing, AfterDeletingTheNextOneIsChosen)
 {
     ShowFolder(5);
@@ -262,7 +304,7 @@ TEST_F(WorkbenchFollowing, ColumnsKeepTheirPlaces)
     header.GetItemRect(CRecordingList::column_duration, &duration);
     tests::Drag(tests::ClientPoint(header.m_hWnd, duration.CenterPoint()),
                 tests::ClientPoint(header.m_hWnd, CPoint(name.left + 3, name.CenterPoint().y)));
-    ASSERT_TRUE(tests::PumpUntil([this] { return List().ColumnOrder()[1] == CRecordingList::column_duration; }));
+    ASSERT_TRUE(tests::PumpUntil([this] { return List().ColumnOrder()[0] == CRecordingList::column_duration; }));
     tests::PumpPosted();
     auto const order = List().ColumnOrder();
     EXPECT_EQ(workbench::ReadColumnOrder(), order);
@@ -272,7 +314,15 @@ TEST_F(WorkbenchFollowing, ColumnsKeepTheirPlaces)
     List().GetSubItemRect(0, CRecordingList::column_duration, LVIR_BOUNDS, cell);
     header.GetItemRect(CRecordingList::column_duration, &duration);
     EXPECT_EQ(cell.left, duration.left);
-    EXPECT_EQ(List().Table(CRecordingList::Lines::all, {}).columns.front().title, L"Duration");
+    // The check boxes stay before the names, where the list can show them.
+    EXPECT_EQ(order[1], CRecordingList::column_check);
+    EXPECT_EQ(order[2], CRecordingList::column_name);
+    CRect check;
+    header.GetItemRect(CRecordingList::column_check, &check);
+    List().GetSubItemRect(0, CRecordingList::column_check, LVIR_BOUNDS, cell);
+    EXPECT_EQ(cell.right, check.right);
+    EXPECT_GE(cell.Width(), check.Width());
+    EXPECT_EQ(List().Table(CRecordingList::Lines::all, {}).Table().columns.front().title, L"Duration");
     CloseWindow();
     EXPECT_EQ(workbench::ReadColumnOrder(), order) << "closed";
     OpenWindow();

@@ -113,7 +113,8 @@ TEST_F(WorkbenchFrameMeasures, AreMeasuredOnceTheyAreSeen)
     EXPECT_EQ(Table().ShownText(5, FrameTable::column_time), L"0.005");
     EXPECT_EQ(Table().ShownText(5, FrameTable::column_peak), L"-4.31");
     EXPECT_EQ(Table().ShownText(5, FrameTable::column_frequency), L"") << "shorter than a window";
-    EXPECT_TRUE(tests::PumpUntil([this] { return TextOf(Control(IDC_FRAME_STATUS)) == L"Frames: 10"; }));
+    EXPECT_TRUE(
+        tests::PumpUntil([this] { return TextOf(Control(IDC_FRAME_STATUS)) == L"Frames: 10; windows of 21.3 ms"; }));
 }
 
 TEST_F(WorkbenchFrameMeasures, RowsAreThereWhileOthersAreMeasured)
@@ -181,6 +182,82 @@ TEST_F(WorkbenchFrameMeasures, TheCursorOfThePlotsChoosesItsRow)
     EXPECT_EQ(Table().SelectedRows().size(), 10U);
 }
 
+TEST_F(WorkbenchFrameMeasures, AChosenRowKeepsWhatIsSelectedInThePlots)
+{
+    ShowShort();
+    auto & plot = m_window->Waveform();
+    auto marks = plot.Marks();
+    marks.window.Show({100, 200});
+    marks.other = 120;
+    marks.cursor = 160;
+    plot.SetMarks(marks);
+    ASSERT_EQ(plot.Marks().Selection(), (workbench::FrameRange{120, 160}));
+    tests::Click(RowCentre(4));
+    ASSERT_TRUE(tests::PumpUntil([this] { return Cursor() == 4 * row_frames; }));
+    EXPECT_EQ(plot.Marks().Selection(), (workbench::FrameRange{120, 160}));
+    EXPECT_EQ(plot.Marks().window.Shown(), (workbench::FrameRange{100, 200})) << "it is in sight";
+    // One that is out of sight comes into it with something around it, and no further.
+    tests::Click(RowCentre(6));
+    ASSERT_TRUE(tests::PumpUntil([this] { return Cursor() == 6 * row_frames; }));
+    EXPECT_EQ(plot.Marks().Selection(), (workbench::FrameRange{120, 160}));
+    auto const shown = plot.Marks().window.Shown();
+    EXPECT_EQ(shown.Length(), 100U);
+    EXPECT_GT(shown.end, 6 * row_frames + 5);
+    EXPECT_LT(shown.end, 6 * row_frames + 20);
+    // The cursor of the plots ends the selection, as ever.
+    plot.SetFocus();
+    tests::Key(VK_RIGHT);
+    ASSERT_TRUE(tests::PumpUntil([this] { return Cursor() != 6 * row_frames; }));
+    EXPECT_FALSE(plot.Marks().HasSelection());
+}
+
+TEST_F(WorkbenchFrameMeasures, AWrongFilterSaysWhyAndShowsAllRows)
+{
+    ShowShort();
+    auto const status = [this] { return TextOf(Control(IDC_FRAME_STATUS)); };
+    Type(L"> abc");
+    ASSERT_TRUE(tests::PumpUntil([&] { return status() == L"No number: abc"; })) << status().c_str();
+    EXPECT_EQ(Table().RowsShown(), 10U);
+    Type(L">");
+    ASSERT_TRUE(tests::PumpUntil([&] { return status() == L"A number is missing."; })) << status().c_str();
+    Type(L"> 0");
+    ASSERT_TRUE(tests::PumpUntil([&] { return status() == L"Frames: 0 of 10; windows of 21.3 ms"; }))
+        << status().c_str();
+    Type(L"");
+    ASSERT_TRUE(tests::PumpUntil([&] { return status() == L"Frames: 10; windows of 21.3 ms"; })) << status().c_str();
+}
+
+TEST_F(WorkbenchFrameMeasures, ColumnsAreSortedHiddenAndMovedByKeys)
+{
+    ShowShort();
+    auto const inMenu = [] {
+        GUITHREADINFO info{};
+        info.cbSize = sizeof info;
+        return ::GetGUIThreadInfo(::GetCurrentThreadId(), &info) && (info.flags & GUI_INMENUMODE) != 0;
+    };
+    Table().SetFocus();
+    auto const choose = [&](WORD submenu, WORD item) {
+        tests::LaterActions later;
+        later.Add([=] { tests::Key(submenu); }, inMenu);
+        later.Add([=] { tests::Key(item); });
+        tests::Key(VK_APPS);
+        EXPECT_TRUE(tests::PumpUntil([&] { return later.Done() && !inMenu(); }));
+        EXPECT_FALSE(later.Failed());
+    };
+    choose(L'S', L'1');
+    ASSERT_TRUE(tests::PumpUntil([this] { return Table().SortColumns().size() == 1; }));
+    choose(L'S', L'1');
+    ASSERT_TRUE(tests::PumpUntil([this] { return Table().RowAt(0) == 9; })) << "the other way round";
+    choose(L'H', L'4');
+    EXPECT_EQ(Table().ShownColumns(), (std::vector<unsigned int>{0, 1, 2, 4, 5}));
+    choose(L'L', L'5');
+    EXPECT_EQ(Table().ShownColumns(), (std::vector<unsigned int>{0, 1, 4, 2, 5}));
+    choose(L'R', L'1');
+    EXPECT_EQ(Table().ShownColumns(), (std::vector<unsigned int>{1, 0, 4, 2, 5}));
+    choose(L'H', L'4');
+    EXPECT_EQ(Table().ShownColumns().size(), 6U);
+}
+
 TEST_F(WorkbenchFrameMeasures, SortingKeepsTheChosenRow)
 {
     ShowShort();
@@ -207,7 +284,8 @@ TEST_F(WorkbenchFrameMeasures, AFilterChoosesRowsByValue)
     column.SetCurSel(FrameTable::column_time);
     Type(L">= 0.004");
     ASSERT_TRUE(tests::PumpUntil([this] { return Table().RowsShown() == 6; }));
-    ASSERT_TRUE(tests::PumpUntil([this] { return TextOf(Control(IDC_FRAME_STATUS)) == L"Frames: 6 of 10"; }));
+    ASSERT_TRUE(tests::PumpUntil(
+        [this] { return TextOf(Control(IDC_FRAME_STATUS)) == L"Frames: 6 of 10; windows of 21.3 ms"; }));
     EXPECT_EQ(Table().RowAt(0), 4U);
     // The cursor stands where no row is shown.
     m_window->Waveform().MoveCursor(144);
@@ -337,7 +415,29 @@ TEST_F(WorkbenchFrameMeasures, AllRowsAreExportedAsCsv)
         lines.push_back(line);
     ASSERT_EQ(lines.size(), 11U);
     EXPECT_NE(lines[0].find("Peak [dBFS]"), std::string::npos);
-    EXPECT_EQ(lines[5].substr(0, 9), "0.004,-4.") << "with all digits";
+    EXPECT_EQ(lines[5].substr(0, 9), "0.004,-4.");
+    EXPECT_LE(lines[5].find(',', 6), std::size("0.004,-4.123") - 1) << "with the digits that are known: " << lines[5];
+}
+
+TEST_F(WorkbenchFrameMeasures, TheStatusLineSaysWhatHasBeenExported)
+{
+    ShowShort();
+    auto const path = m_folder / "said.csv";
+    auto const before = std::filesystem::current_path();
+    tests::LaterActions later;
+    auto const dialog = [] { return ::FindWindowW(nullptr, L"Export Analysis Frames"); };
+    later.Add(
+        [&] {
+            tests::Type(path.wstring());
+            tests::Key(VK_RETURN);
+        },
+        [&] { return dialog() != nullptr && ::IsWindowVisible(dialog()) && ::IsChild(dialog(), ::GetFocus()); });
+    Control(IDC_FRAME_EXPORT).SendMessage(BM_CLICK);
+    EXPECT_FALSE(later.Failed());
+    ASSERT_TRUE(tests::PumpUntil([this] { return !Table().IsExporting(); }));
+    EXPECT_TRUE(
+        tests::PumpUntil([&] { return Status().find(L"frames written: " + path.wstring()) != std::wstring::npos; }));
+    EXPECT_EQ(std::filesystem::current_path(), before) << "the folder can be deleted";
 }
 
 TEST_F(WorkbenchFrameMeasures, FollowTheLanguageAtOnce)
@@ -352,7 +452,8 @@ TEST_F(WorkbenchFrameMeasures, FollowTheLanguageAtOnce)
     EXPECT_EQ(Title(0), L"Zeit [s]");
     EXPECT_EQ(Title(5), L"Schwerpunkt [Hz]");
     EXPECT_EQ(TextOf(Control(IDC_FRAME_EXPORT)), L"Exportieren...");
-    EXPECT_TRUE(tests::PumpUntil([this] { return TextOf(Control(IDC_FRAME_STATUS)) == L"Abschnitte: 10"; }));
+    EXPECT_TRUE(tests::PumpUntil(
+        [this] { return TextOf(Control(IDC_FRAME_STATUS)) == L"Abschnitte: 10; Fenster von 21.3 ms"; }));
     EXPECT_EQ(TextOf(Control(IDC_FRAME_COLUMN)), L"Spitze");
     EXPECT_EQ(Table().RowAt(0), 9U) << "the order stays";
     EXPECT_EQ(Table().SelectedRows(), Rows{0});
@@ -408,6 +509,8 @@ TEST_F(WorkbenchFrameMeasures, NothingIsCutOffInAnyLanguageOrResolution)
             measuring.Format(workbench::Text(L"measuring, %d %%"), 99);
             CRect status;
             Control(IDC_FRAME_STATUS).GetWindowRect(&status);
+            EXPECT_GE(status.Width(), width((frames + L"; " + measuring).GetString())) << language;
+            measuring.Format(workbench::Text(L"windows of %s"), L"23.2 ms");
             EXPECT_GE(status.Width(), width((frames + L"; " + measuring).GetString())) << language;
             dc.SelectObject(former);
             CRect inside;

@@ -49,6 +49,16 @@ private:
 
 } // namespace
 
+TEST_F(WorkbenchHelpWindow, CtrlF1TellsTheKeysInDialogsToo)
+{
+    m_window->ShowTargets({Folder(1)});
+    ASSERT_TRUE(WaitUntilRead());
+    ASSERT_TRUE(m_window->ShowDetails(0));
+    ASSERT_TRUE(tests::PumpUntil([this] { return CWnd::GetActiveWindow() == &m_window->Details(); }));
+    tests::Key(VK_F1, {VK_CONTROL});
+    EXPECT_TRUE(tests::PumpUntil([this] { return IsOpen() && Topic() == HelpTopic::keys; }));
+}
+
 TEST_F(WorkbenchHelpWindow, F1TellsAboutThePartWithTheFocusAndEscapeGoesBackToIt)
 {
     m_window->List().SetFocus();
@@ -60,6 +70,25 @@ TEST_F(WorkbenchHelpWindow, F1TellsAboutThePartWithTheFocusAndEscapeGoesBackToIt
     ASSERT_TRUE(PressF1AndWait(HelpTopic::waveform));
     ASSERT_TRUE(PressEscapeAndWait());
     EXPECT_EQ(::GetFocus(), m_window->Waveform().m_hWnd);
+}
+
+TEST_F(WorkbenchHelpWindow, F1TellsAboutTheListWhileARatingIsChosen)
+{
+    m_window->ShowTargets({Folder(1)});
+    ASSERT_TRUE(WaitUntilRead());
+    for (auto const opens : {false, true})
+    {
+        m_window->List().ChooseRating(0);
+        ASSERT_NE(m_window->List().RatingCombo(), nullptr);
+        tests::PumpPosted();
+        if (opens)
+        {
+            tests::Key(VK_DOWN, {VK_MENU});
+            tests::PumpPosted();
+        }
+        ASSERT_TRUE(PressF1AndWait(HelpTopic::list)) << opens;
+        ASSERT_TRUE(PressEscapeAndWait());
+    }
 }
 
 TEST_F(WorkbenchHelpWindow, ArrowsGoThroughTheTopicsAndEscapeClosesFromThePageToo)

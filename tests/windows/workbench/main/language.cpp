@@ -2,10 +2,12 @@
 
 #include "MainWindowTest.h"
 
+#include <algorithm>
 #include <functional>
 #include <vector>
 
 #include "LanguageDialog.h"
+#include "RecordingCells.h"
 #include "logic/Texts.h"
 
 namespace
@@ -128,4 +130,91 @@ TEST_F(WorkbenchLanguage, AMenuOpenedInSpanishIsSpanish)
     m_window->GetMenu()->GetMenuString(0, text, MF_BYPOSITION);
     EXPECT_STREQ(text, L"&Archivo");
     EXPECT_EQ(Status().substr(0, 13), L"0 grabaciones");
+}
+
+TEST_F(WorkbenchLanguage, ReachesTheLinesInSightAtOnceAndTheOthersSoon)
+{
+    m_window->ShowTargets({Folder(300)});
+    ASSERT_TRUE(WaitUntilRead());
+    auto & list = m_window->List();
+    auto const rating = [&list](int row) {
+        return std::wstring(list.GetItemText(row, CRecordingList::column_rating).GetString());
+    };
+    ASSERT_EQ(rating(299), L"Not rated");
+    m_window->ChooseLanguage(1031);
+    EXPECT_EQ(rating(0), L"Nicht bewertet");
+    auto table = list.Table(CRecordingList::Lines::all, {});
+    while (table.Table().rows.size() < table.Rows())
+    {
+        table.MakeRow();
+    }
+    EXPECT_NE(std::ranges::find(table.Table().rows.back(), L"Nicht bewertet"), table.Table().rows.back().end())
+        << "copies don't wait";
+    EXPECT_TRUE(tests::PumpUntil([&] {
+        for (int row = 0; row < list.GetItemCount(); ++row)
+        {
+            if (rating(row) != L"Nicht bewertet")
+            {
+                return false;
+            }
+        }
+        return true;
+    }));
+}
+
+TEST_F(WorkbenchLanguage, ReachesTheWindowsThatAreOpen)
+{
+    m_window->ShowTargets({Folder(1)});
+    ASSERT_TRUE(WaitUntilRead());
+    ASSERT_TRUE(m_window->ShowDetails(0));
+    ASSERT_TRUE(m_window->ShowPreview());
+    ASSERT_TRUE(m_window->ShowSettings());
+    auto & sheet = m_window->SettingsSheet();
+    constexpr int spectrogram_page = 2;
+    sheet.SetActivePage(spectrogram_page);
+    auto & page = *sheet.GetActivePage();
+    auto const scale = page.GetDlgItem(IDC_FREQUENCY_SCALE)->m_hWnd;
+    ::SendMessageW(scale, CB_SETCURSEL, 1, 0);
+    page.SendMessage(WM_COMMAND, MAKEWPARAM(IDC_FREQUENCY_SCALE, CBN_SELCHANGE), reinterpret_cast<LPARAM>(scale));
+    auto const windowMenu = [this] {
+        std::vector<std::wstring> texts;
+        auto & menu = *m_window->GetMenu()->GetSubMenu(5);
+        for (UINT place = 0; place < menu.GetMenuItemCount(); ++place)
+        {
+            CString text;
+            menu.GetMenuString(place, text, MF_BYPOSITION);
+            texts.emplace_back(text.GetString());
+        }
+        return texts;
+    };
+    auto const before = windowMenu().size();
+
+    m_window->ChooseLanguage(1031);
+    EXPECT_EQ(TextOf(m_window->Details()), L"Einzelheiten der Aufnahme");
+    EXPECT_EQ(TextOf(*m_window->Details().GetDlgItem(IDCANCEL)), L"&Schlie\u00DFen");
+    CString details;
+    m_window->Details().GetDlgItemText(IDC_DETAIL_TEXT, details);
+    EXPECT_GE(details.Find(L"Datei"), 0);
+    EXPECT_EQ(TextOf(m_window->Preview()), L"Druckvorschau");
+    EXPECT_EQ(TextOf(*m_window->Preview().GetDlgItem(IDC_PRINT)), L"&Drucken...");
+    EXPECT_EQ(TextOf(sheet), L"Einstellungen");
+    EXPECT_EQ(TextOf(*sheet.GetDlgItem(ID_APPLY_NOW)), L"\u00DC&bernehmen");
+    EXPECT_NE(::FindWindowExW(page.m_hWnd, nullptr, L"Static", L"&Fenster (Werte):"), nullptr);
+    wchar_t text[40] = L"";
+    TCITEM tab{};
+    tab.mask = TCIF_TEXT;
+    tab.pszText = text;
+    tab.cchTextMax = static_cast<int>(std::size(text));
+    sheet.GetTabControl()->GetItem(4, &tab);
+    EXPECT_STREQ(text, L"Dialoge");
+    EXPECT_EQ(Items(scale), (std::vector<std::wstring>{L"Linear", L"Logarithmisch"}));
+    auto const menu = windowMenu();
+    EXPECT_EQ(menu.size(), before);
+    EXPECT_NE(std::ranges::find(menu, L"Einstellungen"), menu.end());
+    EXPECT_NE(std::ranges::find(menu, L"Einzelheiten der Aufnahme"), menu.end());
+
+    // What the user has chosen is still there to be taken.
+    sheet.SendMessage(WM_COMMAND, IDOK);
+    ASSERT_TRUE(tests::PumpUntil([&] { return !sheet.IsOpen(); }));
+    EXPECT_EQ(m_window->Settings().frequencyScale, workbench::FrequencyScale::logarithmic);
 }

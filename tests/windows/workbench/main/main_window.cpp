@@ -180,15 +180,28 @@ TEST_F(WorkbenchMainWindow, AReloadShowsWhatHasBecomeOfFiles)
     m_window->SendMessage(WM_COMMAND, ID_RELOAD);
     ASSERT_TRUE(WaitUntilRead());
     EXPECT_NE(status(2), L"OK");
-    EXPECT_FALSE(list.GetEnabled(2, CRecordingList::column_name));
+    EXPECT_EQ(list.GetItemCheckedState(2, CRecordingList::column_check), XLC_NONE);
     EXPECT_EQ(list.Totals().Unreadable(), 1U);
     WriteRecording(folder / "r00002.wav", 48000, 2000);
     m_window->SendMessage(WM_COMMAND, ID_RELOAD);
     ASSERT_TRUE(WaitUntilRead());
     EXPECT_EQ(status(2), L"OK");
-    EXPECT_TRUE(list.GetEnabled(2, CRecordingList::column_name));
+    EXPECT_EQ(list.GetItemCheckedState(2, CRecordingList::column_check), XLC_UNCHECKED);
     EXPECT_EQ(list.Totals().Unreadable(), 0U);
     EXPECT_EQ(list.GetItemText(2, CRecordingList::column_duration).Trim(), L"0:00.042");
+}
+
+TEST_F(WorkbenchMainWindow, DetailsShowAllLinesWithoutAScrollBar)
+{
+    m_window->ShowTargets({Folder(1)});
+    ASSERT_TRUE(WaitUntilRead());
+    ASSERT_TRUE(m_window->ShowDetails(0));
+    auto & field = static_cast<CEdit &>(*m_window->Details().GetDlgItem(IDC_DETAIL_TEXT));
+    EXPECT_EQ(field.GetStyle() & WS_VSCROLL, 0U);
+    CRect area;
+    field.GetRect(&area);
+    auto const top = [&field](int line) { return field.PosFromChar(static_cast<UINT>(field.LineIndex(line))).y; };
+    EXPECT_LE(top(field.GetLineCount() - 2) + top(1) - top(0), area.bottom) << "the last one is empty";
 }
 
 TEST_F(WorkbenchMainWindow, KeepsItsDialogsAboveItself)
@@ -229,6 +242,31 @@ TEST_F(WorkbenchMainWindow, ADialogWhoseStoredPlaceIsBeyondTheScreenComesBackOnt
     CRect now;
     details.GetWindowRect(&now);
     EXPECT_EQ(now, CRect(work.BottomRight() - place.Size(), place.Size()));
+}
+
+TEST_F(WorkbenchMainWindow, IsMaximisedAgainAndKeepsItsPlaceBelowThat)
+{
+    m_window->SetWindowPos(nullptr, 40, 30, 1100, 700, SWP_NOZORDER);
+    CRect place;
+    m_window->GetWindowRect(&place);
+    m_window->ShowWindow(SW_SHOWMAXIMIZED);
+    EXPECT_TRUE(workbench::ReadMaximised()) << "at once, as it could end at any time";
+    CloseWindow();
+    OpenWindow();
+    EXPECT_TRUE(m_window->IsZoomed());
+    m_window->ShowWindow(SW_SHOWMINIMIZED);
+    CloseWindow();
+    OpenWindow();
+    EXPECT_TRUE(m_window->IsZoomed());
+    m_window->ShowWindow(SW_RESTORE);
+    CRect again;
+    m_window->GetWindowRect(&again);
+    EXPECT_EQ(again, place);
+    CloseWindow();
+    OpenWindow();
+    EXPECT_FALSE(m_window->IsZoomed());
+    m_window->GetWindowRect(&again);
+    EXPECT_EQ(again, place);
 }
 
 TEST_F(WorkbenchMainWindow, AClickIntoItLeavesItsDialogsAbove)
@@ -621,6 +659,21 @@ TEST_F(WorkbenchRecordingNotes, AnOpenEditorIsTakenAtTheEnd)
     CloseWindow();
     EXPECT_EQ(StoredComment(File(0)), L"the last word");
     OpenWindow();
+}
+
+TEST_F(WorkbenchRecordingNotes, AnOpenRatingEndsWithTheWindow)
+{
+    m_window->ShowTargets({Folder(3)});
+    ASSERT_TRUE(WaitUntilRead());
+    m_window->List().ChooseLine(2);
+    m_window->List().ChooseRating(2);
+    ASSERT_NE(m_window->List().RatingCombo(), nullptr);
+    tests::PumpPosted();
+    CloseWindow();
+    OpenWindow();
+    m_window->ShowTargets({m_folder / "recordings"});
+    ASSERT_TRUE(WaitUntilRead());
+    EXPECT_TRUE(tests::PumpUntil([this] { return m_window->List().ChosenLine() == 2; })) << "the view was kept";
 }
 
 TEST_F(WorkbenchRecordingNotes, LinesAreNotSortedUnderAnEditorByResults)

@@ -47,6 +47,42 @@ protected:
         CloseWindow();
         OpenWindow();
     }
+    /// As after a kill: nothing is kept on the way out.
+    void RestartWithoutAClose()
+    {
+        m_window->DestroyWindow();
+        m_window.reset();
+        OpenWindow();
+    }
+    /// What is in the registry, one value after the other.
+    static std::wstring Kept(std::wstring const & key = std::wstring(L"Software\\") + registry_key)
+    {
+        std::wstring kept;
+        HKEY opened = nullptr;
+        if (::RegOpenKeyExW(HKEY_CURRENT_USER, key.c_str(), 0, KEY_READ, &opened) != ERROR_SUCCESS)
+        {
+            return kept;
+        }
+        wchar_t name[256] = L"";
+        for (DWORD index = 0, length = 256;
+             ::RegEnumValueW(opened, index, name, &length, nullptr, nullptr, nullptr, nullptr) == ERROR_SUCCESS;
+             ++index, length = 256)
+        {
+            std::vector<wchar_t> data(16'384);
+            auto size = static_cast<DWORD>(data.size() * sizeof data[0]);
+            ::RegQueryValueExW(opened, name, nullptr, nullptr, reinterpret_cast<BYTE *>(data.data()), &size);
+            kept += name;
+            kept.append(data.data(), size / sizeof data[0]);
+        }
+        for (DWORD index = 0, length = 256;
+             ::RegEnumKeyExW(opened, index, name, &length, nullptr, nullptr, nullptr, nullptr) == ERROR_SUCCESS;
+             ++index, length = 256)
+        {
+            kept += Kept(key + L'\\' + name);
+        }
+        ::RegCloseKey(opened);
+        return kept;
+    }
     bool IsFloating(Part part) { return !Pane(part).IsDocked() && ::IsWindowVisible(Pane(part).m_hWnd); }
     void StoreFrame(CString const & name, CRect const & place)
     {
@@ -149,6 +185,87 @@ TEST_F(WorkbenchPanes, ComeBackAfterARestartAndResetTheWayTheyWere)
     EXPECT_EQ(Place(CMainWindow::part_waveform), first[CMainWindow::part_waveform]);
 }
 
+TEST_F(WorkbenchPanes, TheMeasuresShowTheirTextsWholeInEachLanguage)
+{
+    auto const locale = ::GetThreadLocale();
+    auto & pane = Pane(CMainWindow::part_measures);
+    auto const check = [&](int language, wchar_t const * where) {
+        auto * const panel = pane.View()->GetWindow(GW_CHILD);
+        auto seen = 0;
+        for (auto * child = panel->GetWindow(GW_CHILD); child != nullptr; child = child->GetWindow(GW_HWNDNEXT))
+        {
+            wchar_t name[20] = L"";
+            ::GetClassNameW(child->m_hWnd, name, static_cast<int>(std::size(name)));
+            CString text;
+            child->GetWindowText(text);
+            text.Remove(L'&');
+            if (::lstrcmpiW(name, L"STATIC") != 0 || child->GetFont() == nullptr || text.IsEmpty())
+            {
+                continue;
+            }
+            CClientDC dc(child);
+            CFont * const former = dc.SelectObject(child->GetFont());
+            EXPECT_TRUE(child->IsWindowVisible()) << language << where << text.GetString();
+            EXPECT_GE(PlaceOf(*child).Width(), dc.GetTextExtent(text).cx) << language << where << text.GetString();
+            EXPECT_LE(PlaceOf(*child).right, PlaceOf(*panel).right) << language << where << text.GetString();
+            dc.SelectObject(former);
+            ++seen;
+        }
+        EXPECT_GE(seen, 3) << language << where;
+    };
+    for (auto const language : {1033, 1031, 3082})
+    {
+        m_window->ChooseLanguage(static_cast<unsigned short>(language));
+        check(language, L" docked ");
+    }
+    ASSERT_TRUE(pane.FloatPane(CRect(100, 100, 600, 220)));
+    tests::PumpPosted();
+    for (auto const language : {1033, 1031, 3082})
+    {
+        m_window->ChooseLanguage(static_cast<unsigned short>(language));
+        check(language, L" floating ");
+    }
+    m_window->ChooseLanguage(1033);
+    ::SetThreadLocale(locale);
+    ::SetThreadUILanguage(0);
+}
+
+TEST_F(WorkbenchPanes, AreWhereTheyWereAfterAKill)
+{
+    auto const move = [&](auto const & change) {
+        auto const before = Kept();
+        change();
+        return tests::PumpUntil([&] { return Kept() != before; });
+    };
+    ASSERT_TRUE(move([&] { Pane(CMainWindow::part_waveform).FloatPane(CRect(100, 120, 700, 420)); }));
+    ASSERT_TRUE(move([&] { Pane(CMainWindow::part_measures).DockToFrameWindow(CBRS_ALIGN_RIGHT); }));
+    ASSERT_TRUE(move([&] {
+        Pane(CMainWindow::part_waveform)
+            .GetParent()
+            ->SetWindowPos(nullptr, 140, 160, 500, 280, SWP_NOZORDER | SWP_NOACTIVATE);
+    }));
+    auto const placed = Places();
+    RestartWithoutAClose();
+    EXPECT_EQ(Places(), placed);
+    EXPECT_TRUE(IsFloating(CMainWindow::part_waveform));
+
+    // Nothing is written while all stays where it is.
+    auto const kept = Kept();
+    tests::PumpFor(std::chrono::milliseconds(1000));
+    EXPECT_EQ(Kept(), kept);
+}
+
+TEST_F(WorkbenchPanes, TheWindowIsWhereItWasAfterAKill)
+{
+    CRect const place(30, 40, 1130, 840);
+    m_window->SetWindowPos(nullptr, place.left, place.top, place.Width(), place.Height(), SWP_NOZORDER);
+    ASSERT_TRUE(tests::PumpUntil([&] {
+        return m_store.LookupGetInt(L"Instrument_Workbench-Fensterpos", 1, -1) == place.left; // the left edge
+    }));
+    RestartWithoutAClose();
+    EXPECT_EQ(PlaceOf(*m_window), place);
+}
+
 TEST_F(WorkbenchPanes, AFormerFrameFloatsAtItsPlaceOnce)
 {
     CloseWindow();
@@ -232,6 +349,42 @@ TEST_F(WorkbenchPanes, TheListTakesWhatGrows)
     m_window->SetWindowPos(nullptr, 0, 0, window.Width(), window.Height() + 60, SWP_NOMOVE | SWP_NOZORDER);
     EXPECT_EQ(Place(CMainWindow::part_list).Height(), list + 60);
     EXPECT_EQ(heights(), others);
+}
+
+TEST_F(WorkbenchPanes, TheListKeepsSomeRowsOnASmallerScreenAndUnderADivider)
+{
+    m_window->ShowTargets({Folder(20)});
+    ASSERT_TRUE(WaitUntilRead());
+    auto const resize = [this](int width, int height) {
+        m_window->SetWindowPos(nullptr, 0, 0, width, height, SWP_NOZORDER);
+        tests::PumpPosted();
+    };
+    auto const rows = [this] { return m_window->List().GetCountPerPage(); };
+    resize(1270, 1000);
+    m_window->ResetLayout();
+    ASSERT_GT(Place(CMainWindow::part_spectrogram).top, Place(CMainWindow::part_waveform).top) << "above each other";
+    resize(1024, 600);
+    EXPECT_GE(rows(), 3);
+    Restart();
+    EXPECT_GE(rows(), 3) << "restarted";
+    // The divider below the list, all the way up.
+    auto const list = Place(CMainWindow::part_list);
+    tests::Drag(CPoint(list.CenterPoint().x, list.bottom + 2), CPoint(list.CenterPoint().x, list.top - 20));
+    tests::PumpPosted();
+    EXPECT_GE(rows(), 3) << "divider";
+}
+
+TEST_F(WorkbenchPanes, FramesAndTheirMeasuresLeaveTheListItsLeastWidth)
+{
+    m_window->ShowTargets({Folder(2)});
+    ASSERT_TRUE(WaitUntilRead());
+    m_window->SetWindowPos(nullptr, 0, 0, 1024, 600, SWP_NOZORDER);
+    m_window->ShowPane(CMainWindow::part_frame_measures, true);
+    tests::PumpPosted();
+    auto const wide = Place(CMainWindow::part_measures).Width();
+    ASSERT_TRUE(m_window->ShowInFrame(0));
+    ASSERT_TRUE(tests::PumpUntil([&] { return Place(CMainWindow::part_measures).Width() < wide; }));
+    EXPECT_GE(Place(CMainWindow::part_list).Width(), 200);
 }
 
 TEST_F(WorkbenchPanes, ALayoutFromBeforeTheListWasAPaneKeepsThePlacesOfTheOthers)

@@ -5,9 +5,12 @@
 
 #include "Graphics.h"
 #include "PictureCopy.h"
+#include "PlotParts.h"
 #include "Playing.h"
 #include "SpectrogramView.h"
+#include "WaveformPanel.h"
 #include "WaveformView.h"
+#include "resource.h"
 
 #include "../../../logic/workbench_WavBuilder.h"
 #include "Bitmap.h"
@@ -41,7 +44,7 @@ std::filesystem::path WriteTone(std::size_t frames, char const * name)
                                                std::sin(2 * std::numbers::pi * 1000 * static_cast<double>(i) / 48000));
     }
     auto const file = wav::File().Chunk("fmt ", wav::Format(1, 1, 48000, 2, 16)).Chunk("data", wav::Samples16(samples));
-    auto const path = std::filesystem::temp_directory_path() / (std::to_string(::GetCurrentProcessId()) + "_" + name);
+    auto path = std::filesystem::temp_directory_path() / (std::to_string(::GetCurrentProcessId()) + "_" + name);
     std::ofstream stream(path, std::ios::binary);
     stream.write(reinterpret_cast<char const *>(file.Content().data()),
                  static_cast<std::streamsize>(file.Content().size()));
@@ -146,7 +149,8 @@ TEST_F(WaveformPlot, TheWheelZoomsAtThePointer)
     Wheel(1, 0, x);
     EXPECT_EQ(Shown().Length(), 320000U);
     DrawIt();
-    EXPECT_NEAR(m_view.Marks().window.XOf(held, m_plot.Width() - 2), m_plot.Width() / 4 - 1, 1);
+    int const quarter = m_plot.Width() / 4;
+    EXPECT_NEAR(m_view.Marks().window.XOf(held, m_plot.Width() - 2), quarter - 1, 1);
     Wheel(-1, 0, x);
     EXPECT_EQ(Shown(), (FrameRange{0, frames}));
     EXPECT_EQ(m_changes, 2);
@@ -271,6 +275,29 @@ TEST_F(WaveformPlot, DraggingBeyondTheEdgeScrolls)
     EXPECT_GT(Shown().end, end);
     EXPECT_EQ(*m_view.Cursor(), Shown().end - 1);
     Release(m_plot.right + 100);
+}
+
+TEST_F(WaveformPlot, TakesTheSlidersRoomInANarrowPanel)
+{
+    workbench::ScreenMetrics metrics(192);
+    CWaveformPanel panel;
+    ASSERT_TRUE(panel.CreatePanel(m_host, view_id + 1, metrics));
+    panel.View().ShowRecording(L"Tone", m_analysis, m_path);
+    auto const & slider = *panel.GetDlgItem(IDC_AMPLIFICATION);
+    panel.MoveWindow(0, 0, view_width, view_height);
+    EXPECT_TRUE(slider.IsWindowVisible());
+    auto narrow = metrics.X(25);
+    {
+        CClientDC dc(&panel);
+        workbench::SelectScope const font(dc, metrics.Font());
+        workbench::PlotMargins const margins(dc, metrics);
+        narrow += margins.left + margins.right;
+    }
+    panel.MoveWindow(0, 0, narrow, view_height);
+    EXPECT_FALSE(slider.IsWindowVisible());
+    EXPECT_GE(panel.View().PlotPlace().Width(), metrics.X(20));
+    panel.MoveWindow(0, 0, view_width, view_height);
+    EXPECT_TRUE(slider.IsWindowVisible());
 }
 
 TEST_F(WaveformPlot, AnotherRecordingStartsAfresh)

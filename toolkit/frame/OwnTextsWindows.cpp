@@ -1,0 +1,13 @@
+#include <afxwin.h>
+
+#include "frame/OwnTexts.h"
+
+unsigned short LanguageInForce()
+{
+    LANGID const language = ::GetThreadUILanguage();
+    LANGID const ofLocale = LANGIDFROMLCID(::GetThreadLocale());
+    // Where the system has no languages of the user interface, a host gives its threads another locale, which resources
+    // follow there.
+    bool const chosen = language != ::GetUserDefaultUILanguage();
+    return chosen || ofLocale == ::GetUserDefaultLangID() ? language : ofLocale;
+}
