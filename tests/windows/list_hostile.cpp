@@ -483,4 +483,103 @@ TEST_F(DeletedList, AtAHeaderClick)
     m_list->m_onStateChange = Deletes();
     m_list->OnHeaderColumnClick(1);
 }
+
+/// Does something once, within a message that its edit sends it.
+class AskedList : public tests::TestList
+{
+public:
+    UINT m_message = 0;
+    std::function<void()> m_act;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message == m_message && lParam != 0 && m_act)
+        {
+            auto const act = std::exchange(m_act, {});
+            act();
+        }
+        return TestList::WindowProc(message, wParam, lParam);
+    }
+};
+
+class AskedByItsEdit : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        ASSERT_TRUE(m_list.Create(tests::TestList::default_style, CRect(0, 0, 300, 150), &m_parent, 7));
+        m_list.AddColumns(3);
+        m_list.AddRows(4);
+        m_list.DrawEditControl(1, 1);
+        m_edit = tests::OpenEditOf(m_list);
+        ASSERT_NE(m_edit, nullptr);
+        ::SendMessageW(m_edit, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"typed"));
+    }
+    /// Ends the edit in the message that some action makes the native edit send; its window must outlast the native
+    /// code.
+    void EndIn(UINT message, std::function<void()> const & action)
+    {
+        bool isThere = false;
+        bool isSeen = true;
+        m_list.m_message = message;
+        m_list.m_act = [&] {
+            m_list.SetDpi(144);
+            isThere = ::IsWindow(m_edit) != FALSE;
+            isSeen = ::IsWindowVisible(m_edit) != FALSE;
+        };
+        action();
+        EXPECT_FALSE(m_list.m_act) << "it was asked";
+        EXPECT_TRUE(isThere);
+        EXPECT_FALSE(isSeen);
+        EXPECT_FALSE(::IsWindow(m_edit));
+        EXPECT_EQ(tests::OpenEditOf(m_list), nullptr);
+        EXPECT_NE(::GetCapture(), m_edit);
+        EXPECT_EQ(m_list.GetItemText(1, 1).Right(5), L"typed");
+    }
+
+    tests::GuardedHeap m_heap;
+    tests::ListParent m_parent;
+    AskedList m_list;
+    HWND m_edit = nullptr;
+};
+
+TEST_F(AskedByItsEdit, ForItsColoursItMayEndIt)
+{
+    EndIn(WM_CTLCOLOREDIT, [this] { ::RedrawWindow(m_edit, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW); });
+}
+
+TEST_F(AskedByItsEdit, ToldOfATypedLetterItMayEndIt)
+{
+    EndIn(WM_COMMAND, [this] { ::SendMessageW(m_edit, WM_CHAR, L'x', 1); });
+}
+
+TEST_F(AskedByItsEdit, ForItsColoursItMayOpenAnother)
+{
+    HWND second = nullptr;
+    m_list.m_message = WM_CTLCOLOREDIT;
+    m_list.m_act = [&] {
+        m_list.DrawEditControl(2, 0);
+        second = ::GetFocus();
+    };
+    ::RedrawWindow(m_edit, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+    EXPECT_FALSE(::IsWindow(m_edit));
+    EXPECT_NE(second, m_edit);
+    EXPECT_EQ(tests::OpenEditOf(m_list), second);
+    EXPECT_TRUE(::IsWindowVisible(second));
+    tests::PumpPosted();
+    EXPECT_EQ(::GetFocus(), second);
+}
+
+TEST_F(AskedByItsEdit, ForItsColoursItMayEndItAndAnother)
+{
+    m_list.m_message = WM_CTLCOLOREDIT;
+    m_list.m_act = [&] {
+        m_list.DrawEditControl(2, 0);
+        m_list.SetDpi(144);
+    };
+    ::RedrawWindow(m_edit, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+    EXPECT_FALSE(::IsWindow(m_edit));
+    EXPECT_EQ(tests::OpenEditOf(m_list), nullptr);
+}
 } // namespace

@@ -1,9 +1,12 @@
 // Cells that are typed into, ticks by the keyboard, and the menu at a cell.
 
+#include "GuardedHeap.h"
 #include "ResourceReader.h"
 #include "table_TableTest.h"
 
 #include <afxcmn.h>
+
+#include <utility>
 
 namespace
 {
@@ -457,6 +460,52 @@ TEST_F(TableEdits, ColumnsMayGoWhileTheEditsPlaceIsLookedFor)
         host.m_onNotify = {};
     }
     EXPECT_GT(told, 0);
+    table.reset();
+}
+
+/// Does something once, where its edit asks for colours.
+class AskedTable : public tests::TestTable
+{
+public:
+    std::function<void()> m_onAsked;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message == WM_CTLCOLOREDIT && m_onAsked)
+        {
+            auto const act = std::exchange(m_onAsked, {});
+            act();
+        }
+        return TestTable::WindowProc(message, wParam, lParam);
+    }
+};
+
+TEST_F(TableEdits, TheHostMayEndTheEditThatAsksForColours)
+{
+    tests::GuardedHeap heap;
+    auto const asked = new AskedTable;
+    table.reset(asked);
+    table->SetColumns(Columns());
+    ASSERT_TRUE(table->Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 380, 220), &parent, 7));
+    Show({1, 2, 3, 4});
+    ASSERT_TRUE(table->EditCell(1, TableRowsSource::name_column));
+    HWND const edit = Edit();
+    ASSERT_NE(edit, nullptr);
+    bool isThere = false;
+    bool isSeen = true;
+    asked->m_onAsked = [&] {
+        EXPECT_TRUE(table->EndEdit(false));
+        isThere = ::IsWindow(edit) != FALSE;
+        isSeen = ::IsWindowVisible(edit) != FALSE;
+    };
+    ::RedrawWindow(edit, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+    EXPECT_FALSE(asked->m_onAsked) << "it was asked";
+    EXPECT_TRUE(isThere) << "the native edit goes on after it has asked";
+    EXPECT_FALSE(isSeen);
+    EXPECT_FALSE(::IsWindow(edit));
+    EXPECT_FALSE(table->IsEditing());
+    EXPECT_TRUE(table->EditCell(2, TableRowsSource::name_column));
     table.reset();
 }
 

@@ -11,12 +11,6 @@ namespace XListCtrl
 namespace
 {
 constexpr int frame_widening = 2; // pixels at 96 dots an inch
-
-/// Whether the object is still there: with its window it is, and whoever ends it ends that.
-bool IsStillThere(HWND window, CWnd const * object)
-{
-    return ::IsWindow(window) && CWnd::FromHandlePermanent(window) == object;
-}
 } // namespace
 
 // clang-format off
@@ -28,6 +22,50 @@ BEGIN_MESSAGE_MAP(CXEdit, CEdit)
     ON_WM_PAINT()
 END_MESSAGE_MAP()
 // clang-format on
+
+void CXEdit::Close()
+{
+    SetClosing();
+    m_list = nullptr;
+    if (std::exchange(m_isClosed, true) || !::IsWindow(m_hWnd))
+        return;
+    if (m_native == 0)
+    {
+        DestroyWindow();
+        return;
+    }
+    m_windowWaits = true;
+    if (::GetCapture() == m_hWnd)
+        ::ReleaseCapture();
+    ShowWindow(SW_HIDE);
+}
+
+void CXEdit::End()
+{
+    Close();
+    m_isEnded = true;
+    if (m_messages == 0)
+        delete this;
+}
+
+LRESULT CXEdit::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    ++m_messages;
+    LRESULT const result = CEdit::WindowProc(message, wParam, lParam);
+    if (m_messages == 1 && std::exchange(m_windowWaits, false) && ::IsWindow(m_hWnd))
+        DestroyWindow();
+    if (--m_messages == 0 && m_isEnded)
+        delete this;
+    return result;
+}
+
+LRESULT CXEdit::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    ++m_native;
+    LRESULT const result = CEdit::DefWindowProc(message, wParam, lParam);
+    --m_native;
+    return result;
+}
 
 BOOL CXEdit::PreTranslateMessage(MSG * message)
 {
@@ -88,13 +126,12 @@ void CXEdit::OnKillFocus(CWnd * newWindow)
     // The host hears of the loss as well.
     HWND const window = m_hWnd;
     CEdit::OnKillFocus(newWindow);
-    if (IsStillThere(window, this))
+    if (m_hWnd == window)
         SendClosing(WM_XEDIT_KILL_FOCUS);
 }
 
 void CXEdit::OnPaint()
 {
-    HWND const window = m_hWnd;
     CRect area;
     GetClientRect(&area);
     area.right += resolution::Scaled(frame_widening, m_dpi);
@@ -104,8 +141,8 @@ void CXEdit::OnPaint()
         ReleaseDC(dc);
     }
     Default();
-    // The list is asked for colours, and is anything its host makes of it.
-    if (IsStillThere(window, this))
+    // The list has been asked for colours, and its host may have ended it or the edit.
+    if (m_hWnd != nullptr && !m_isClosed)
         PaintFrame();
 }
 

@@ -7,6 +7,10 @@ namespace XListCtrl
 {
 /// Tells the list, by one message at most, that editing has ended: WM_XEDIT_KILL_FOCUS to take the text,
 /// WM_XEDIT_VK_ESCAPE to leave the cell as it was. The list then ends the edit, within that message.
+///
+/// A host may have an edit ended at any time, also where the edit asks it for its colours or tells it of a change. The
+/// native edit goes on with what it knew after that, so the window is hidden then, and goes when the native code has
+/// come back. The object outlives whatever message it is in.
 class CXEdit : public CEdit
 {
 public:
@@ -14,6 +18,11 @@ public:
     CXEdit(CWnd * list, CString const & text) : m_list(list), m_text(text) {}
     CXEdit(CXEdit const &) = delete;
     CXEdit & operator=(CXEdit const &) = delete;
+
+    /// The window goes, and nothing is told any more.
+    void Close();
+    /// Closes, and deletes the object: whoever called it has none any more.
+    void End();
 
     /// From now on Tab ends the edit and then is the list's.
     void GiveTabsToList() { m_tabsToList = true; }
@@ -30,6 +39,8 @@ public:
     void PaintFrame();
 
 protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     afx_msg void OnChar(UINT character, UINT repeat, UINT flags);
     afx_msg int OnCreate(LPCREATESTRUCT create);
     afx_msg void OnDestroy();
@@ -44,6 +55,11 @@ private:
     CWnd * m_list;
     CString m_text;
     unsigned int m_closing = 0;
+    unsigned int m_messages = 0; // that it is in
+    unsigned int m_native = 0;   // messages that the native edit is in
+    bool m_isClosed = false;
+    bool m_windowWaits = false; // for the native edit to come back, to go then
+    bool m_isEnded = false;
     bool m_tabsToList = false;
     UINT m_dpi = 96;
 };

@@ -51,17 +51,18 @@ DWORD EditAlignment(int format)
 }
 
 /// Ends an editor's window with its object.
-struct EndsWindow
+struct EndsEditor
 {
-    void operator()(CWnd * editor) const
+    void operator()(XListCtrl::CXEdit * edit) const { edit->End(); }
+    void operator()(XListCtrl::CXCombo * combo) const
     {
-        if (::IsWindow(editor->m_hWnd))
-            editor->DestroyWindow();
-        delete editor;
+        if (::IsWindow(combo->m_hWnd))
+            combo->DestroyWindow();
+        delete combo;
     }
 };
-using EditOwner = std::unique_ptr<XListCtrl::CXEdit, EndsWindow>;
-using ComboOwner = std::unique_ptr<XListCtrl::CXCombo, EndsWindow>;
+using EditOwner = std::unique_ptr<XListCtrl::CXEdit, EndsEditor>;
+using ComboOwner = std::unique_ptr<XListCtrl::CXCombo, EndsEditor>;
 } // namespace
 
 // --- Edit ---
@@ -128,9 +129,8 @@ void CXListCtrl::DrawEditControl(int row, int col)
 
 void CXListCtrl::EndEdit()
 {
-    EditOwner const edit(std::exchange(m_editors->edit, nullptr));
-    if (edit != nullptr)
-        edit->SetClosing();
+    if (XListCtrl::CXEdit * const edit = std::exchange(m_editors->edit, nullptr))
+        edit->End();
 }
 
 LRESULT CXListCtrl::OnXEditKillFocus(WPARAM, LPARAM)

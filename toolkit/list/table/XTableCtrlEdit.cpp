@@ -63,10 +63,7 @@ TTTOOLINFOW ReasonTool(CWnd const & edit, wchar_t * text)
 
 void TableEditEnd::operator()(CXTableEdit * edit) const
 {
-    edit->SetClosing();
-    if (::IsWindow(edit->m_hWnd))
-        edit->DestroyWindow();
-    delete edit;
+    edit->End();
 }
 
 /// Whether texts of the column are typed: ticks toggle.
@@ -311,8 +308,7 @@ void CXTableCtrl::CloseEdit()
     if (m_hWnd != nullptr && editing->window->m_hWnd != nullptr && ::GetFocus() == editing->window->m_hWnd)
         SetFocus();
     // Whoever takes its text still has it, but no window.
-    if (editing->window->m_hWnd != nullptr)
-        editing->window->DestroyWindow();
+    editing->window->Close();
     if (editing->reason.m_hWnd != nullptr)
         editing->reason.DestroyWindow();
 }
