@@ -9,14 +9,13 @@
 #include <psapi.h>
 
 #include <algorithm>
-#include <atomic>
 #include <chrono>
 #include <filesystem>
 #include <functional>
+#include <limits>
 #include <memory>
 #include <numeric>
 #include <string>
-#include <thread>
 #include <vector>
 
 namespace
@@ -211,59 +210,30 @@ Costs OfNative(CWnd & parent, int count)
     PumpAll();
     return costs;
 }
-/// Sends a window messages without a meaning, one after the other, and notes the longest wait for an answer.
-class ResponseWatch
-{
-public:
-    explicit ResponseWatch(HWND window) : m_thread([this, window] { Run(window); }) {}
-    ~ResponseWatch()
-    {
-        m_stop = true;
-        while (!m_finished) // it may wait for an answer
-            PumpAll();
-        m_thread.join();
-    }
-    /// In nanoseconds.
-    double Longest() const { return static_cast<double>(m_longest); }
 
-private:
-    void Run(HWND window)
-    {
-        while (!m_stop)
-        {
-            auto const waited = static_cast<long long>(Nanoseconds([window] {
-                DWORD_PTR result = 0;
-                ::SendMessageTimeoutW(window, WM_NULL, 0, 0, SMTO_NORMAL, 60'000, &result);
-            }));
-            m_longest = std::max(m_longest.load(), waited);
-            ::Sleep(1);
-        }
-        m_finished = true;
-    }
-
-    std::atomic<bool> m_stop = false;
-    std::atomic<bool> m_finished = false;
-    std::atomic<long long> m_longest = 0;
-    std::thread m_thread; // the last one, as it uses the others
-};
-
-/// The longest that a window keeps a message waiting while it does something and for a while after it.
-double LongestWait(HWND window, std::function<void()> const & act)
+/// The longest that the thread goes without looking for messages, in nanoseconds, while it does something and until all
+/// that comes of it is done: a message from elsewhere waits as long at most. It is the best of some rounds, as other
+/// programs have their share of the processor.
+double LongestWait(std::function<void()> const & prepare, std::function<void()> const & act)
 {
     constexpr auto after = std::chrono::milliseconds(1500);
-    ResponseWatch const watch(window);
-    auto const wait = [](std::chrono::milliseconds time) {
-        auto const end = std::chrono::steady_clock::now() + time;
+    auto best = std::numeric_limits<double>::max();
+    for (int round = 0; round < rounds; ++round)
+    {
+        prepare();
+        PumpAll();
+        auto longest = Nanoseconds(act);
+        auto const end = std::chrono::steady_clock::now() + after;
         while (std::chrono::steady_clock::now() < end)
         {
             ::MsgWaitForMultipleObjects(0, nullptr, FALSE, 5, QS_ALLINPUT);
-            PumpAll();
+            MSG message;
+            while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE))
+                longest = std::max(longest, Nanoseconds([&] { ::DispatchMessageW(&message); }));
         }
-    };
-    wait(std::chrono::milliseconds(50));
-    act();
-    wait(after);
-    return watch.Longest();
+        best = std::min(best, longest);
+    }
+    return best;
 }
 
 /// Whether no step over thousands of lines keeps the list from answering.
@@ -275,55 +245,93 @@ bool ReportWaits(CWnd & parent, int count)
     list.SetWindowPos(nullptr, 0, 0, list_place.Width(), list_place.Height(), SWP_NOZORDER);
     auto const files = Files(count);
     auto const analysis = Analysis();
-    list.ShowFiles(files, std::vector<CRecordingList::Notes>(files.size()));
-    {
+    auto const showAll = [&] {
         CRecordingList::Batch const batch(list);
+        list.ShowFiles(files, std::vector<CRecordingList::Notes>(files.size()));
         for (int line = 0; line < count; ++line)
             list.ShowAnalysis(line, analysis);
-    }
-    PumpAll();
-    auto const idle = LongestWait(list.m_hWnd, [] {});
-    bool met = true;
-    auto const report = [&](char const * name, std::function<void()> const & act) {
-        list.FinishRows(); // of the step before
-        auto const wait = LongestWait(list.m_hWnd, act);
-        met = bench::ReportTime(std::string("workbench: longest wait for an answer at 5,000, ") + name, wait, idle,
-                                wait_limit) &&
-              met;
     };
     auto const filter = [&list](wchar_t const * words) {
         workbench::RecordingFilter wanted;
         wanted.words = words;
         list.SetFilter(wanted);
     };
+    auto const filtered = [&] {
+        filter(L"7");
+        list.FinishRows();
+    };
+    auto const unfiltered = [&] {
+        filter(L"");
+        list.FinishRows();
+    };
     auto const speak = [&list](unsigned short language) {
         workbench::SetLanguage(workbench::LanguageOf(language));
         list.ShowTexts();
     };
-    report("filter by one letter", [&] { filter(L"7"); });
-    report("no filter", [&] { filter(L""); });
-    filter(L"7");
-    report("no filter and a sort at once", [&] {
+    auto const go = [&list, count](int gone) {
+        std::vector<int> numbers(static_cast<std::size_t>(count), -1);
+        std::iota(numbers.begin() + gone, numbers.end(), 0);
+        list.Renumber(numbers);
+    };
+    std::vector<int> all(static_cast<std::size_t>(count));
+    std::iota(all.begin(), all.end(), 0);
+
+    showAll();
+    auto const painting = LongestWait([] {}, [&] { list.RedrawWindow(); });
+    bool met = true;
+    auto const report = [&](char const * name, std::function<void()> const & prepare,
+                            std::function<void()> const & act) {
+        met = bench::ReportTime(std::string("workbench: longest wait at 5,000, ") + name + " (beside a painting)",
+                                LongestWait(prepare, act), painting, wait_limit) &&
+              met;
+    };
+    report("filter by one letter", unfiltered, [&] { filter(L"7"); });
+    report("no filter", filtered, [&] { filter(L""); });
+    report("no filter and a sort at once", filtered, [&] {
         filter(L"");
         list.SortLines(CRecordingList::column_rms, true);
     });
-    report("sort by name", [&] { list.SortLines(CRecordingList::column_name, false); });
-    report("mark all", [&] { list.CheckAll(true); });
-    report("take that back", [&] { list.Undo(); });
-    report("another language", [&] { speak(1031); });
-    report("the former language", [&] { speak(1033); });
-    report("300 go while all are selected", [&] {
-        list.SetItemState(-1, LVIS_SELECTED, LVIS_SELECTED);
-        std::vector<int> numbers(static_cast<std::size_t>(count), -1);
-        std::iota(numbers.begin() + 300, numbers.end(), 0);
-        list.Renumber(numbers);
-    });
-    list.ChooseLine(2000);
-    report("1,000 go while one is selected", [&] {
-        std::vector<int> numbers(static_cast<std::size_t>(list.LineCount()), -1);
-        std::iota(numbers.begin() + 1000, numbers.end(), 0);
-        list.Renumber(numbers);
-    });
+    unfiltered();
+    report(
+        "sort by name", [&] { list.SortLines(CRecordingList::column_rms, true); },
+        [&] { list.SortLines(CRecordingList::column_name, false); });
+    auto const unmarked = [&] {
+        list.CheckAll(false);
+        list.FinishRows();
+    };
+    report("mark all", unmarked, [&] { list.CheckAll(true); });
+    report(
+        "take that back",
+        [&] {
+            unmarked();
+            list.CheckAll(true);
+            list.FinishRows();
+        },
+        [&] { list.Undo(); });
+    report(
+        "another language",
+        [&] {
+            speak(1033);
+            list.FinishRows();
+        },
+        [&] { speak(1031); });
+    speak(1033);
+    report(
+        "select all", [&] { list.ChooseLine(0); }, [&] { list.SelectLines(all, 0); });
+    report(
+        "300 go while all are selected",
+        [&] {
+            showAll();
+            list.SelectLines(all, 0);
+        },
+        [&] { go(300); });
+    report(
+        "1,000 go while one is selected",
+        [&] {
+            showAll();
+            list.ChooseLine(2000);
+        },
+        [&] { go(1000); });
     list.DestroyWindow();
     PumpAll();
     return met;

@@ -100,6 +100,7 @@ BEGIN_MESSAGE_MAP(CRecordingList, CXListCtrl)
     ON_WM_ERASEBKGND()
     ON_WM_PAINT()
     ON_NOTIFY_REFLECT_EX(LVN_ITEMCHANGED, &CRecordingList::OnItemChanged)
+    ON_NOTIFY_REFLECT_EX(LVN_DELETEALLITEMS, &CRecordingList::OnDeleteAllItems)
     ON_WM_KEYDOWN()
     ON_WM_CHAR()
     ON_WM_TIMER()
@@ -629,7 +630,7 @@ void CRecordingList::OnItemStateChange(int row, int column, unsigned int message
     case column_check:
         Touch(row);
         // A cell that was still to be shown anew has been turned from what it was before.
-        notes.checked = m_sources[static_cast<std::size_t>(line)].hasNewNotes
+        notes.checked = (m_sources[static_cast<std::size_t>(line)].newNotes & new_mark) != 0
                             ? !notes.checked
                             : GetCheckbox(row, column_check) == XLC_CHECKED;
         m_totals.SetChecked(static_cast<std::size_t>(line), notes.checked);
@@ -1099,6 +1100,13 @@ BOOL CRecordingList::OnItemChanged(NMHDR * header, LRESULT * result)
     }
     *result = 0;
     return FALSE; // the parent hears of it, too
+}
+
+/// Nobody needs to hear of each row that goes.
+BOOL CRecordingList::OnDeleteAllItems(NMHDR *, LRESULT * result)
+{
+    *result = TRUE;
+    return TRUE;
 }
 
 /// Has the begin of rows painted, as far as they are in sight: the system's list view leaves the first two pixels of a

@@ -304,6 +304,7 @@ private:
     afx_msg void OnKillFocus(CWnd * other);
     afx_msg BOOL OnEraseBkgnd(CDC * dc);
     afx_msg BOOL OnItemChanged(NMHDR * header, LRESULT * result);
+    afx_msg BOOL OnDeleteAllItems(NMHDR * header, LRESULT * result);
     afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
     afx_msg void OnChar(UINT character, UINT repeat, UINT flags);
     afx_msg void OnTimer(UINT_PTR id);
@@ -395,6 +396,7 @@ private:
     void FillRow(int row, std::shared_ptr<workbench::RecordingAnalysis const> const & analysis);
     bool IsReadable(int line) const;
     void SetNotes(int line, Notes const & notes);
+    void NoteNews(int line, unsigned news);
     void ShowNotes();
     void ShowNewNotes(int row, int line);
     void Apply(workbench::ListStep const & step);
@@ -435,6 +437,15 @@ private:
     int m_dropRow = -1;           ///< before which they would land
     bool m_dragsNothing = false;  ///< the present press has ended an editor
 
+    /// What is new of a line's notes.
+    enum News : unsigned
+    {
+        new_mark = 1,
+        new_reference = 2,
+        new_rating = 4,
+        new_comment = 8
+    };
+
     /// What there is to know of a line beside its notes.
     struct Source
     {
@@ -444,9 +455,9 @@ private:
         bool reading = false;
         bool shown = true; ///< the filter lets it through
         bool hasRow = false;
-        bool isHeld = false;      ///< selected, whether it has a row or not
-        bool isStale = false;     ///< its row says what it said in another language or region
-        bool hasNewNotes = false; ///< its row doesn't say yet what is said about it
+        bool isHeld = false;   ///< selected, whether it has a row or not
+        bool isStale = false;  ///< its row says what it said in another language or region
+        unsigned newNotes = 0; ///< what is said about it and its row doesn't show yet, News bits
     };
 
     std::vector<Notes> m_notes; ///< of each line

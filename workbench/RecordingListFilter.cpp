@@ -362,28 +362,38 @@ void CRecordingList::SetNotes(int line, Notes const & notes)
 {
     auto const known = static_cast<std::size_t>(line);
     auto & source = m_sources[known];
-    if (notes.comment != m_notes[known].comment)
+    auto const former = std::exchange(m_notes[known], notes);
+    if (notes.comment != former.comment)
     {
         source.searched = workbench::SearchedText(source.file, notes.comment);
     }
-    // Of two folders with a reference each, the second one's is none.
-    auto const turnsReference = m_notes[known].reference != notes.reference;
-    m_notes[known] = notes;
     m_noted.push_back(line);
-    auto const readable = IsReadable(line);
-    if (readable)
+    if (IsReadable(line))
     {
         m_totals.SetChecked(known, notes.checked);
+        NoteNews(line, (notes.checked != former.checked ? new_mark : 0U) |
+                           (notes.rating != former.rating ? new_rating : 0U) |
+                           (notes.comment != former.comment ? new_comment : 0U));
     }
-    if (turnsReference && notes.reference && readable)
+    if (notes.reference != former.reference)
     {
-        m_reference = line;
+        // Of two folders with a reference each, the second one's is none.
+        auto const taken = notes.reference && IsReadable(line) ? line : -1;
+        if (taken >= 0 || m_reference == line)
+        {
+            NoteNews(std::exchange(m_reference, taken), new_reference);
+        }
+        NoteNews(line, new_reference);
     }
-    else if (turnsReference && m_reference == line)
+}
+
+/// What a line's row has yet to show; nothing where it has none, or its recording cannot be read.
+void CRecordingList::NoteNews(int line, unsigned news)
+{
+    if (line >= 0 && IsReadable(line) && m_sources[static_cast<std::size_t>(line)].hasRow)
     {
-        m_reference = -1;
+        m_sources[static_cast<std::size_t>(line)].newNotes |= news;
     }
-    source.hasNewNotes = source.hasRow && readable;
 }
 
 void CRecordingList::Apply(workbench::ListStep const & step)

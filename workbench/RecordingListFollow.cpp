@@ -97,7 +97,10 @@ void CRecordingList::Renumber(std::vector<int> const & numbers)
     if (holds)
     {
         HoldSelection();
-        SetItemState(-1, 0, LVIS_SELECTED | LVIS_FOCUSED);
+        if (!makesAnew)
+        {
+            SetItemState(-1, 0, LVIS_SELECTED | LVIS_FOCUSED);
+        }
     }
     for (auto row = makesAnew ? 0 : GetItemCount(); row > 0; --row)
     {

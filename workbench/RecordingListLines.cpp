@@ -138,7 +138,7 @@ void CRecordingList::AddRow(int line, int row)
     notes.reference = line == m_reference;
     PrepareRow(row, source.file, notes, WaitingText(source.reading));
     source.isStale = false;
-    source.hasNewNotes = false;
+    source.newNotes = 0;
     if (source.analysis)
     {
         FillRow(row, source.analysis);
@@ -179,7 +179,7 @@ void CRecordingList::ShowReading(int line, std::filesystem::path const & file)
         {
             Touch(row);
             ResetRow(row);
-            source.hasNewNotes = false;
+            source.newNotes = 0;
             PrepareRow(row, file, notes, WaitingText(true));
         }
         ShowReference();

@@ -38,7 +38,7 @@ void CRecordingList::RefreshRows(Clock::time_point end)
             return false;
         }
         auto & source = m_sources[static_cast<std::size_t>(line)];
-        auto const shows = source.hasNewNotes || (source.isStale && mayRefresh);
+        auto const shows = source.newNotes != 0 || (source.isStale && mayRefresh);
         waits = waits || (source.isStale && !mayRefresh);
         if (auto const row = shows ? PlaceOf(line) : -1; row >= 0)
         {
@@ -48,7 +48,7 @@ void CRecordingList::RefreshRows(Clock::time_point end)
                 RefreshRow(row, line);
             }
         }
-        source.hasNewNotes = false;
+        source.newNotes = 0;
         source.isStale = source.isStale && !mayRefresh;
         return shows;
     };
@@ -75,7 +75,7 @@ void CRecordingList::RefreshRows(Clock::time_point end)
 /// Shows what SetNotes has taken over: of many lines in sight at once, and of the others a few at a time.
 void CRecordingList::ShowNotes()
 {
-    auto const isNew = std::ranges::count_if(m_sources, &Source::hasNewNotes);
+    auto const isNew = std::ranges::count_if(m_sources, [](Source const & source) { return source.newNotes != 0; });
     if (isNew == 0)
     {
         return;
@@ -84,31 +84,25 @@ void CRecordingList::ShowNotes()
     RefreshRows(isNew <= few_rows ? Clock::time_point::max() : Clock::time_point::min());
 }
 
-/// Shows in a line's row what is said about it by now.
+/// Shows in a line's row what is said about it by now, and nothing else: many rows are shown anew at once.
 void CRecordingList::ShowNewNotes(int row, int line)
 {
-    if (row < 0 || !std::exchange(m_sources[static_cast<std::size_t>(line)].hasNewNotes, false))
-    {
-        return;
-    }
+    auto const news = row >= 0 ? std::exchange(m_sources[static_cast<std::size_t>(line)].newNotes, 0U) : 0U;
     auto const & notes = m_notes[static_cast<std::size_t>(line)];
-    auto const mark = notes.checked ? XLC_CHECKED : XLC_UNCHECKED;
-    if (GetCheckbox(row, column_check) != mark)
+    if ((news & new_mark) != 0)
     {
-        SetCheckbox(row, column_check, mark);
+        SetCheckbox(row, column_check, notes.checked ? XLC_CHECKED : XLC_UNCHECKED);
         SetModified(row, column_check, true);
     }
-    // Only what is another one: many rows are shown anew at once.
-    if (auto const radio = line == m_reference ? XLC_RADIO_ON : XLC_RADIO_OFF;
-        GetItemCheckedState(row, column_reference) != radio)
+    if ((news & new_reference) != 0)
     {
-        SetRadioButton(row, column_reference, radio);
+        SetRadioButton(row, column_reference, line == m_reference ? XLC_RADIO_ON : XLC_RADIO_OFF);
     }
-    if (GetComboCurSel(row, column_rating) != notes.rating)
+    if ((news & new_rating) != 0)
     {
         SetComboBoxGlobalStrings(row, column_rating, notes.rating, 0);
     }
-    if (GetItemText(row, column_comment) != notes.comment.c_str())
+    if ((news & new_comment) != 0)
     {
         SetItemText(row, column_comment, notes.comment.c_str());
     }
