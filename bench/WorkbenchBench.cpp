@@ -319,6 +319,20 @@ bool ReportWaits(CWnd & parent, int count)
     report(
         "select all", [&] { list.ChooseLine(0); }, [&] { list.SelectLines(all, 0); });
     report(
+        "a click with Shift on the last line",
+        [&] {
+            list.ChooseLine(0);
+            list.SetSelectionMark(0);
+            list.EnsureVisible(count - 1, FALSE);
+        },
+        [&] {
+            CRect row;
+            list.GetItemRect(count - 1, &row, LVIR_BOUNDS);
+            // The list view waits for the end of the press.
+            list.PostMessage(WM_LBUTTONUP, 0, MAKELPARAM(5 * row.Height(), row.CenterPoint().y));
+            list.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON | MK_SHIFT, MAKELPARAM(5 * row.Height(), row.CenterPoint().y));
+        });
+    report(
         "300 go while all are selected",
         [&] {
             showAll();

@@ -4,6 +4,7 @@
 #include "RecordingList.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <numeric>
 #include <utility>
 
@@ -1158,6 +1159,10 @@ void CRecordingList::OnLButtonDown(UINT flags, CPoint point)
             ClearSelection();
         }
     }
+    if ((flags & MK_SHIFT) != 0)
+    {
+        SelectRangeTo(point, (flags & MK_CONTROL) != 0);
+    }
     int column = 0;
     auto const line = LineAt(GetPointItem(point, column));
     auto const generation = m_generation;
@@ -1170,6 +1175,23 @@ void CRecordingList::OnLButtonDown(UINT flags, CPoint point)
     {
         PlaceEditors(line);
     }
+}
+
+/// Selects all from where a range begins to a point's row before the list view does, which would paint each one.
+void CRecordingList::SelectRangeTo(CPoint point, bool othersStay)
+{
+    int column = 0;
+    auto const row = GetPointItem(point, column);
+    auto const mark = GetSelectionMark();
+    auto const rows = GetItemCount();
+    if (row < 0 || mark < 0 || mark >= rows || static_cast<UINT>(std::abs(row - mark)) <= many_rows)
+    {
+        return;
+    }
+    std::vector<bool> isMeant(static_cast<std::size_t>(rows));
+    auto const begin = isMeant.begin() + std::min(row, mark);
+    std::fill(begin, begin + std::abs(row - mark) + 1, true);
+    SelectRows(isMeant, othersStay);
 }
 
 void CRecordingList::OnKeyDown(UINT key, UINT repeat, UINT flags)

@@ -336,6 +336,8 @@ private:
     void Tell(unsigned changes);
     int ChosenRow() const;
     void ClearSelection();
+    void SelectRows(std::vector<bool> const & isMeant, bool othersStay);
+    void SelectRangeTo(CPoint point, bool othersStay);
     void RepaintSoon(int row);
     void RepaintRows(int first, int last, bool selectedOnly);
     void TellOpen(int line);

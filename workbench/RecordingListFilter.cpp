@@ -287,19 +287,41 @@ void CRecordingList::SelectLines(std::vector<int> const & lines, int focused)
         ClearSelection();
     }
     auto const outer = std::exchange(m_filling, m_filling || !m_wanted.empty());
+    std::vector<bool> isMeant(static_cast<std::size_t>(GetItemCount()));
     for (auto const line : lines)
     {
         if (auto const row = PlaceOf(line); row >= 0)
         {
-            SetItemState(row, LVIS_SELECTED, LVIS_SELECTED);
+            isMeant[static_cast<std::size_t>(row)] = true;
         }
     }
+    SelectRows(isMeant, true);
     if (auto const row = PlaceOf(focused); row >= 0)
     {
         SetItemState(row, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
         EnsureVisible(row, FALSE);
     }
     m_filling = outer;
+}
+
+/// Selects rows; what else is selected stays so, or not. Of two ways the one that changes fewer rows one by one.
+void CRecordingList::SelectRows(std::vector<bool> const & isMeant, bool othersStay)
+{
+    Batch const batch(*this);
+    m_touched = true;
+    auto const startsWithAll =
+        2 * std::ranges::count(isMeant, true) > std::ssize(isMeant) && (!othersStay || GetSelectedCount() == 0);
+    if (startsWithAll || !othersStay)
+    {
+        SetItemState(-1, startsWithAll ? LVIS_SELECTED : 0, LVIS_SELECTED);
+    }
+    for (std::size_t row = 0; row < isMeant.size(); ++row)
+    {
+        if (isMeant[row] != startsWithAll)
+        {
+            SetItemState(static_cast<int>(row), startsWithAll ? 0 : LVIS_SELECTED, LVIS_SELECTED);
+        }
+    }
 }
 
 /// Has lines selected in place of all others, as soon as they have rows.

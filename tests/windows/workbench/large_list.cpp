@@ -31,6 +31,8 @@ public:
         work();
         return m_messages;
     }
+    /// Called with each change of a row's state.
+    std::function<void()> m_onItemChanged;
     /// How many texts have been measured so far.
     long Measured() const { return m_measured; }
 
@@ -40,6 +42,16 @@ protected:
         m_measured += message == LVM_GETSTRINGWIDTHW ? 1 : 0;
         m_messages += message >= first_list_message && message <= last_list_message ? 1 : 0;
         return CRecordingList::WindowProc(message, wParam, lParam);
+    }
+
+    BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT * result) override
+    {
+        auto const heard = m_onItemChanged;
+        if (heard && message == WM_NOTIFY && reinterpret_cast<NMHDR *>(lParam)->code == LVN_ITEMCHANGED)
+        {
+            heard();
+        }
+        return CRecordingList::OnChildNotify(message, wParam, lParam, result);
     }
 
 private:
@@ -248,6 +260,90 @@ TEST_F(LargeRecordingList, AGestureOverAllLinesIsToldOnce)
     EXPECT_EQ(list.Totals().Checked(), 0U);
     EXPECT_FALSE(list.IsChecked(0));
     EXPECT_EQ(list.GetHeaderCheckedState(CRecordingList::column_check), XHC_UNCHECKED);
+    list.DestroyWindow();
+}
+TEST_F(LargeRecordingList, AClickWithShiftSelectsUpToItAsTheListViewDoes)
+{
+    CountingList list;
+    Fill(list, 300);
+    auto const click = [&list](int line, UINT keys) {
+        list.EnsureVisible(line, FALSE);
+        CPoint const place = list.CellCentre(line, CRecordingList::column_date);
+        list.PostMessage(WM_LBUTTONUP, keys, MAKELPARAM(place.x, place.y));
+        list.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON | keys, MAKELPARAM(place.x, place.y));
+        tests::PumpPosted(100000);
+    };
+    auto const range = [](int first, int last) {
+        std::vector<int> lines;
+        for (int line = first; line <= last; ++line)
+        {
+            lines.push_back(line);
+        }
+        return lines;
+    };
+    click(20, 0);
+    ASSERT_EQ(list.SelectedLines(), range(20, 20));
+    click(290, MK_SHIFT);
+    EXPECT_EQ(list.SelectedLines(), range(20, 290));
+    EXPECT_EQ(list.ChosenLine(), 290);
+    click(150, MK_SHIFT);
+    EXPECT_EQ(list.SelectedLines(), range(20, 150)) << "from where it began, and no others";
+    click(3, MK_SHIFT);
+    EXPECT_EQ(list.SelectedLines(), range(3, 20));
+    click(200, MK_CONTROL);
+    click(295, MK_CONTROL | MK_SHIFT);
+    auto both = range(3, 20);
+    auto const more = range(200, 295);
+    both.insert(both.end(), more.begin(), more.end());
+    EXPECT_EQ(list.SelectedLines(), both) << "with Ctrl the others stay";
+    list.DestroyWindow();
+}
+
+TEST_F(LargeRecordingList, ARangeByAClickPaintsNoRowByItself)
+{
+    CountingList list;
+    Fill(list, many);
+    list.SetSelectionMark(0);
+    list.EnsureVisible(many - 1, FALSE);
+    CPoint const place = list.CellCentre(many - 1, CRecordingList::column_date);
+    tests::PumpPosted(100000);
+    list.UpdateWindow();
+    auto changes = 0;
+    auto painted = 0;
+    list.m_onItemChanged = [&] {
+        ++changes;
+        painted += list.GetUpdateRect(nullptr) ? 1 : 0;
+        list.ValidateRect(nullptr);
+    };
+    list.PostMessage(WM_LBUTTONUP, 0, MAKELPARAM(place.x, place.y));
+    list.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON | MK_SHIFT, MAKELPARAM(place.x, place.y));
+    EXPECT_EQ(list.SelectedLines().size(), static_cast<std::size_t>(many));
+    EXPECT_GE(changes, many);
+    EXPECT_LE(painted, 2) << "the row of the click";
+    list.DestroyWindow();
+}
+
+TEST_F(LargeRecordingList, FewManyAndAllLinesAreSelected)
+{
+    CountingList list;
+    Fill(list, many);
+    std::vector<int> all;
+    for (int line = 0; line < many; ++line)
+    {
+        all.push_back(line);
+    }
+    list.SelectLines(all, 0);
+    EXPECT_EQ(list.SelectedLines(), all);
+    auto fewer = all;
+    fewer.erase(fewer.begin() + 17);
+    list.SelectLines(fewer, 5);
+    EXPECT_EQ(list.SelectedLines(), fewer);
+    EXPECT_EQ(list.ChosenLine(), 5);
+    list.SelectLines({3, 900, 44, 44, -1, many}, 900);
+    EXPECT_EQ(list.SelectedLines(), (std::vector<int>{3, 44, 900}));
+    EXPECT_EQ(list.ChosenLine(), 900);
+    list.SelectLines({}, -1);
+    EXPECT_EQ(list.SelectedLines(), std::vector<int>());
     list.DestroyWindow();
 }
 } // namespace
