@@ -247,6 +247,20 @@ void CMainWindow::FillFolders()
 
 /// Selects the chosen recording in the tree of folders, unless the user is at work there.
 void CMainWindow::ShowInFolders()
+/// Has the tree of folders follow what is on the disk. A folder that the user has chosen there stays chosen.
+void CMainWindow::FollowInFolders()
+{
+    if (ShowsFolders())
+    {
+        auto const chosen = m_tree.GetSelectedItem();
+        m_tree.ShowOpened(m_openedFolders);
+        if (chosen == nullptr || m_tree.GetItemType(chosen) != CFolderTree::type_folder)
+        {
+            ShowInFolders();
+        }
+    }
+}
+
 {
     auto const * const chosen = RecordingAt(m_list.ChosenLine());
     if (ShowsFolders() && chosen != nullptr && GetFocus() != &m_tree)
@@ -371,7 +385,8 @@ LRESULT CMainWindow::OnRecordingsReady(WPARAM, LPARAM)
             TakeFollowed(std::move(*found));
             return 0;
         }
-        if (std::exchange(m_reloading, false) && !m_recordings.empty())
+        auto const reloaded = std::exchange(m_reloading, false);
+        if (reloaded && !m_recordings.empty())
         {
             ShowFound(std::move(*found), true);
             return 0;
@@ -385,6 +400,10 @@ LRESULT CMainWindow::OnRecordingsReady(WPARAM, LPARAM)
         FillFolders();
         m_found = std::move(found->files);
         m_wantedView = m_views->Of(ViewFolder());
+        if (!reloaded && ShowsFolders())
+        {
+            m_tree.RevealOpened();
+        }
         m_wantedPart = m_wantedView;
         if (m_chooseFile.empty() && !m_wantedView->chosen.empty())
         {

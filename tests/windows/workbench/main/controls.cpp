@@ -9,6 +9,7 @@
 #include <functional>
 #include <iterator>
 #include <map>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -524,6 +525,101 @@ TEST_F(WorkbenchControls, TheTreeFollowsAReloadAndIsRemembered)
     CRect list;
     List().GetWindowRect(&list);
     EXPECT_LT(list.left, after.left + 10);
+}
+
+/// What stands at the top of a tree after each of its messages, and how often it was painted.
+class TreeWatch
+{
+public:
+    explicit TreeWatch(HWND tree) : m_tree(tree)
+    {
+        ::SetWindowSubclass(m_tree, &TreeWatch::Procedure, 1, reinterpret_cast<DWORD_PTR>(this));
+    }
+    ~TreeWatch() { ::RemoveWindowSubclass(m_tree, &TreeWatch::Procedure, 1); }
+    TreeWatch(TreeWatch const &) = delete;
+    TreeWatch & operator=(TreeWatch const &) = delete;
+
+    HTREEITEM Top() const { return TreeView_GetFirstVisible(m_tree); }
+    HTREEITEM Chosen() const { return TreeView_GetSelection(m_tree); }
+    std::set<HTREEITEM> const & Tops() const { return m_tops; }
+    std::set<HTREEITEM> const & ChosenOnes() const { return m_chosen; }
+    int Paints() const { return m_paints; }
+
+private:
+    static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wide, LPARAM parameter, UINT_PTR,
+                                      DWORD_PTR reference)
+    {
+        auto & watch = *reinterpret_cast<TreeWatch *>(reference);
+        auto const result = ::DefSubclassProc(window, message, wide, parameter);
+        if (message != TVM_GETNEXTITEM)
+        {
+            watch.m_tops.insert(watch.Top());
+            watch.m_chosen.insert(watch.Chosen());
+        }
+        watch.m_paints += message == WM_PAINT ? 1 : 0;
+        return result;
+    }
+
+    HWND m_tree;
+    std::set<HTREEITEM> m_tops;
+    std::set<HTREEITEM> m_chosen;
+    int m_paints = 0;
+};
+
+TEST_F(WorkbenchControls, AReloadMovesNothingInTheTree)
+{
+    constexpr int folders = 5000;
+    auto const folder = m_folder / "recordings";
+    for (int i = 0; i < folders; ++i)
+    {
+        fs::create_directories(folder / ("f" + std::to_string(10000 + i)));
+    }
+    Show(30);
+    m_window->ShowFolders(true);
+    auto const filled = [&] { return !Tree().IsBusy() && Tree().GetCount() > folders; };
+    ASSERT_TRUE(tests::PumpUntil(filled, tests::read_limit));
+    List().SetFocus();
+    List().ChooseLine(20);
+    auto const shown = [&] { return Tree().PathOf(Tree().GetSelectedItem()) == folder / "r00020.wav"; };
+    ASSERT_TRUE(tests::PumpUntil(shown));
+    auto const item = Tree().FolderItem(folder);
+    auto const middle = Tree().FolderItem(folder / "f12345");
+    auto const reload = [&] {
+        m_window->SendMessage(WM_COMMAND, ID_RELOAD);
+        ASSERT_TRUE(WaitUntilRead());
+        ASSERT_TRUE(tests::PumpUntil([&] { return !Tree().IsBusy(); }));
+        tests::PumpPosted();
+    };
+    // The user has scrolled away from what is chosen, and then chosen a folder in sight.
+    for (auto const chosen : {Tree().GetSelectedItem(), middle})
+    {
+        Tree().SelectItem(chosen);
+        Tree().SelectSetFirstVisible(middle);
+        Tree().UpdateWindow();
+        TreeWatch const watch(Tree().m_hWnd);
+        reload();
+        EXPECT_EQ(watch.Tops(), std::set{middle});
+        EXPECT_EQ(watch.ChosenOnes(), std::set{chosen});
+        EXPECT_EQ(watch.Paints(), 0);
+    }
+    // What comes and goes above it does not push it away.
+    {
+        fs::remove(folder / "f10000");
+        fs::create_directories(folder / "f11111b");
+        TreeWatch const watch(Tree().m_hWnd);
+        reload();
+        EXPECT_EQ(Tree().FolderItem(folder / "f10000"), nullptr);
+        EXPECT_NE(Tree().FolderItem(folder / "f11111b"), nullptr);
+        EXPECT_EQ(watch.Top(), middle);
+    }
+    // A branch that the user has closed stays closed.
+    Tree().Expand(item, TVE_COLLAPSE);
+    reload();
+    EXPECT_EQ(Tree().GetItemState(item, TVIS_EXPANDED) & TVIS_EXPANDED, 0U);
+    EXPECT_EQ(Tree().GetSelectedItem(), item);
+    // Whoever opens it again is shown what is in it.
+    m_window->ShowTargets({folder});
+    EXPECT_TRUE(tests::PumpUntil([&] { return (Tree().GetItemState(item, TVIS_EXPANDED) & TVIS_EXPANDED) != 0; }));
 }
 
 TEST_F(WorkbenchControls, ContrastIsChosenInTheSettingsAndStays)
