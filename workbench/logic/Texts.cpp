@@ -71,9 +71,9 @@ constexpr Entry all_entries[] = {
     {L"marked", L"markiert", L"con marca"},
     {L"marks and comments cannot be stored", L"Markierungen und Kommentare lassen sich nicht speichern",
      L"no se pueden guardar las marcas ni los comentarios"},
-    {L"Levels refer to a full-scale sine: 0 dBFS peak, -3.0 dBFS RMS",
-     L"Pegel beziehen sich auf einen voll ausgesteuerten Sinus: 0 dBFS Spitze, -3.0 dBFS RMS",
-     L"Los niveles se refieren a una senoidal a fondo de escala: 0 dBFS de pico, -3.0 dBFS RMS"},
+    {L"Levels refer to a full-scale sine: 0 dBFS peak, %s dBFS RMS",
+     L"Pegel beziehen sich auf einen voll ausgesteuerten Sinus: 0 dBFS Spitze, %s dBFS RMS",
+     L"Los niveles se refieren a una senoidal a fondo de escala: 0 dBFS de pico, %s dBFS RMS"},
     // Opening.
     {L"WAV recordings (*.wav;*.wave)|*.wav;*.wave|All files (*.*)|*.*||",
      L"WAV-Aufnahmen (*.wav;*.wave)|*.wav;*.wave|Alle Dateien (*.*)|*.*||",
