@@ -391,12 +391,13 @@ void CFolderTree::EnterSome()
     {
         m_entering.reset();
         KillTimer(enter_timer);
-        FinishEntering(folder);
+        FinishEntering(folder, count > 0);
         ReadNext();
     }
 }
 
-void CFolderTree::FinishEntering(HTREEITEM folder)
+/// changed: items have come or gone. Opening what is open already would paint the whole tree.
+void CFolderTree::FinishEntering(HTREEITEM folder, bool changed)
 {
     auto const open = (GetItemState(folder, TVIS_EXPANDED) & TVIS_EXPANDED) != 0;
     Note(folder, known);
@@ -405,7 +406,7 @@ void CFolderTree::FinishEntering(HTREEITEM folder)
         DeleteTreeItem(note);
     }
     SetHasChildren(folder, GetChildItem(folder) != nullptr);
-    if (open && GetChildItem(folder) != nullptr)
+    if (changed && open && GetChildItem(folder) != nullptr)
     {
         Expand(folder, TVE_EXPAND);
     }

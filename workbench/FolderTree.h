@@ -111,7 +111,7 @@ private:
     void Read(HTREEITEM folder);
     void ReadNext();
     void EnterSome();
-    void FinishEntering(HTREEITEM folder);
+    void FinishEntering(HTREEITEM folder, bool changed);
     void Choose(HTREEITEM item);
     void SetHasChildren(HTREEITEM folder, bool has);
     void Reveal(HTREEITEM folder);
