@@ -323,8 +323,9 @@ void CMainWindow::ChooseColumns(CPoint screen)
 {
     m_list.EndEditing();
     CIdNameMultiselectDlg dialog(this);
-    dialog.m_control.SetTheMap(workbench::ColumnNames());
-    dialog.m_control.SetSelection(workbench::ShownColumns(m_settings.hiddenColumns));
+    auto const columns = workbench::HideableColumns(m_list.ColumnOrder());
+    dialog.m_control.SetTheMap(workbench::ColumnNames(columns));
+    dialog.m_control.SetSelection(workbench::ShownColumns(columns, m_settings.hiddenColumns));
     dialog.m_control.ShowGroupedSelection(false);
     dialog.m_control.SetDpi(m_metrics.Resolution());
     CRect work;
@@ -339,7 +340,7 @@ void CMainWindow::ChooseColumns(CPoint screen)
         return;
     }
     auto settings = m_settings;
-    settings.hiddenColumns = workbench::HiddenColumns(dialog.m_control.TheSelection());
+    settings.hiddenColumns = workbench::HiddenColumns(columns, dialog.m_control.TheSelection());
     TakeSettings(settings);
 }
 
@@ -379,7 +380,7 @@ void CMainWindow::OnSortBy()
 void CMainWindow::OnExportList()
 {
     m_list.EndEditing();
-    CExportDialog dialog(m_settings, *this);
+    CExportDialog dialog(m_settings, m_list.ColumnOrder(), *this);
     LifeWatch const life(m_life);
     if (dialog.DoModal() != IDOK || life.Over() || m_hWnd == nullptr)
     {

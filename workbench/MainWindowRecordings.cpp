@@ -247,8 +247,6 @@ void CMainWindow::FillFolders()
     ShowInFolders();
 }
 
-/// Selects the chosen recording in the tree of folders, unless the user is at work there.
-void CMainWindow::ShowInFolders()
 /// Has the tree of folders follow what is on the disk. A folder that the user has chosen there stays chosen.
 void CMainWindow::FollowInFolders()
 {
@@ -263,6 +261,8 @@ void CMainWindow::FollowInFolders()
     }
 }
 
+/// Selects the chosen recording in the tree of folders, unless the user is at work there.
+void CMainWindow::ShowInFolders()
 {
     auto const * const chosen = RecordingAt(m_list.ChosenLine());
     if (ShowsFolders() && chosen != nullptr && GetFocus() != &m_tree)
@@ -400,12 +400,12 @@ LRESULT CMainWindow::OnRecordingsReady(WPARAM, LPARAM)
             RememberOpened(m_openedFolders, m_missing);
         }
         FillFolders();
-        m_found = std::move(found->files);
-        m_wantedView = m_views->Of(ViewFolder());
         if (!reloaded && ShowsFolders())
         {
             m_tree.RevealOpened();
         }
+        m_found = std::move(found->files);
+        m_wantedView = m_views->Of(ViewFolder());
         m_wantedPart = m_wantedView;
         if (m_chooseFile.empty() && !m_wantedView->chosen.empty())
         {
@@ -839,6 +839,7 @@ void CMainWindow::OnListChanged(unsigned changes)
     {
         workbench::StoreColumnWidths(m_list.UserWidths(), m_metrics.AverageWidth());
         workbench::StoreColumnOrder(m_list.ColumnOrder());
+        m_settingsSheet.FollowColumns(m_list.ColumnOrder());
     }
     if ((changes & (CRecordingList::changed_selection | CRecordingList::changed_order)) != 0)
     {

@@ -742,6 +742,74 @@ TEST_F(WorkbenchControls, ColumnsAreChosenInADropDownOfTheSettings)
     EXPECT_FALSE(List().IsEditing());
 }
 
+TEST_F(WorkbenchControls, TheSettingsHaveTheColumnsInTheOrderOfTheList)
+{
+    Show(2);
+    auto const moveToFront = [this](int column) {
+        auto & header = *List().GetHeaderCtrl();
+        CRect from;
+        CRect to;
+        header.GetItemRect(column, &from);
+        header.GetItemRect(List().ColumnOrder().front(), &to);
+        tests::Drag(tests::ClientPoint(header.m_hWnd, from.CenterPoint()),
+                    tests::ClientPoint(header.m_hWnd, CPoint(to.left + 3, to.CenterPoint().y)));
+        ASSERT_TRUE(tests::PumpUntil([&] { return List().ColumnOrder().front() == column; }));
+        tests::PumpPosted();
+    };
+    moveToFront(CRecordingList::column_duration);
+    OpenSettings();
+    auto & field = *Page(list_page).GetDlgItem(IDC_COLUMNS);
+    auto & order = *static_cast<CListBox *>(Page(list_page).GetDlgItem(IDC_COLUMN_ORDER));
+    EXPECT_EQ(TextOf(field), L"Duration, Ref., Waveform, Channels, \u2026");
+    // A line that is moved on the page moves in the drop-down, too, which says what the columns were chosen by.
+    order.SetCurSel(0);
+    Page(list_page).SendMessage(WM_COMMAND, IDC_COLUMN_DOWN);
+    Page(list_page).SendMessage(WM_COMMAND, IDC_COLUMN_DOWN);
+    EXPECT_EQ(TextOf(field), L"Ref., Duration, Waveform, Channels, \u2026");
+    field.SetFocus();
+    std::vector<HWND> const known{Sheet().m_hWnd, m_window->m_hWnd, nullptr};
+    auto const list = [&] { return ::GetDlgItem(::GetDlgItem(OtherPopup(known), 1016), 32802); };
+    std::vector<std::wstring> rows;
+    tests::LaterActions later;
+    later.Add(
+        [&] {
+            for (auto row = 0; row < 15; ++row)
+            {
+                wchar_t text[40] = L"";
+                ListView_GetItemText(list(), row, 0, text, 40);
+                rows.emplace_back(text);
+            }
+            RECT row{LVIR_LABEL, 0, 0, 0};
+            ::SendMessageW(list(), LVM_GETITEMRECT, 1, reinterpret_cast<LPARAM>(&row));
+            tests::Click(tests::ClientPoint(list(), CPoint(row.left + 6, (row.top + row.bottom) / 2)));
+        },
+        [&] { return ::SendMessageW(list(), LVM_GETITEMCOUNT, 0, 0) == 15 && ::IsWindowVisible(list()); });
+    later.Add([] { tests::Key(VK_RETURN); },
+              [&] { return ::SendMessageW(list(), LVM_GETITEMSTATE, 1, LVIS_STATEIMAGEMASK) >> 12 == 1; });
+    tests::Key(VK_F4);
+    ASSERT_TRUE(tests::PumpUntil([&] { return later.Done() && IsSettingsActive(); }));
+    ASSERT_FALSE(later.Failed());
+    ASSERT_EQ(rows.size(), 15U);
+    EXPECT_EQ((std::vector(rows.begin(), rows.begin() + 4)),
+              (std::vector<std::wstring>{L"Ref.", L"Duration", L"Waveform", L"Channels"}));
+    tests::PumpPosted();
+    ASSERT_TRUE(CanApply());
+    Sheet().SendMessage(WM_COMMAND, ID_APPLY_NOW);
+    EXPECT_EQ(List().HiddenColumns().count(CRecordingList::column_duration), 1U);
+    EXPECT_EQ(List().HiddenColumns().count(CRecordingList::column_channels), 0U);
+    EXPECT_EQ(TextOf(field), L"Ref., Waveform, Channels, Rate (Hz), \u2026");
+    // What is dragged at the list while the page shows is seen there.
+    Sheet().SetWindowPos(nullptr, 0, 400, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    tests::PumpPosted();
+    moveToFront(CRecordingList::column_channels);
+    CString first;
+    order.GetText(0, first);
+    EXPECT_EQ(first, L"Channels");
+    EXPECT_EQ(TextOf(field), L"Channels, Ref., Waveform, Rate (Hz), \u2026");
+    Sheet().CloseDialog();
+    ASSERT_TRUE(WaitUntilClosed());
+}
+
 TEST_F(WorkbenchControls, KeysMoveFromCellToCellAtOnceWhenWished)
 {
     Show(2);
