@@ -26,6 +26,7 @@
 #include "logic/TableText.h"
 #include "logic/Texts.h"
 #include "logic/TrashTexts.h"
+#include "logic/WriteTexts.h"
 #include "resource.h"
 #include "windows/StandaloneFrameWnd.h"
 
@@ -393,6 +394,7 @@ void CMainWindow::OnExportList()
     auto const file = dialog.File();
     auto table = m_list.Table(dialog.Lines(), dialog.HiddenColumns());
     auto written = false;
+    unsigned long error = 0;
     auto const whole =
         CBusyDialog::DoAll(*this, Text(L"Exporting recordings"), table.Rows() + 1, [&](std::size_t step) {
             if (step < table.Rows())
@@ -401,7 +403,7 @@ void CMainWindow::OnExportList()
             }
             else
             {
-                written = workbench::ReplaceWholeFile(file, workbench::TableFile(table.Table(), file));
+                written = workbench::ReplaceWholeFile(file, workbench::TableFile(table.Table(), file), &error);
             }
         });
     if (life.Over() || m_hWnd == nullptr)
@@ -415,7 +417,7 @@ void CMainWindow::OnExportList()
     }
     else if (whole)
     {
-        AfxMessageBox(Text(L"This file could not be written:") + (L"\n\n" + CString(file.c_str())), MB_ICONEXCLAMATION);
+        AfxMessageBox(workbench::WriteFailureText(file, error).c_str(), MB_ICONEXCLAMATION);
     }
 }
 
@@ -816,10 +818,10 @@ void CMainWindow::SavePictureOf(CWnd & view, workbench::Drawing const & draw)
     {
         return;
     }
-    if (!workbench::SavePicture(*this, PictureSize(view), draw, *file))
+    unsigned long error = 0;
+    if (!workbench::SavePicture(*this, PictureSize(view), draw, *file, &error))
     {
-        AfxMessageBox(Text(L"This file could not be written:") + (L"\n\n" + CString(file->c_str())),
-                      MB_ICONEXCLAMATION);
+        AfxMessageBox(workbench::WriteFailureText(*file, error).c_str(), MB_ICONEXCLAMATION);
     }
 }
 

@@ -222,6 +222,7 @@ constexpr Entry all_entries[] = {
     {L"%s files could not be moved to the trash:", L"%s Dateien ließen sich nicht in den Papierkorb legen:",
      L"No se pudieron enviar %s archivos a la papelera:"},
     {L"it is not there any more", L"sie ist nicht mehr da", L"ya no está"},
+    {L"the folder is not there any more", L"der Ordner ist nicht mehr da", L"la carpeta ya no está"},
     {L"you have no permission for it", L"Ihnen fehlt die Berechtigung", L"no tiene permiso"},
     {L"the medium is write-protected", L"der Datenträger ist schreibgeschützt", L"el medio está protegido"},
     {L"another program is using it", L"ein anderes Programm benutzt sie", L"otro programa lo está usando"},

@@ -995,8 +995,22 @@ TEST_F(WorkbenchControls, TheListIsExportedIntoAFile)
     EXPECT_NE(chosen.find("r00001.wav"), std::string::npos);
     exportTo(m_folder / "list.html", 0);
     EXPECT_TRUE(contents(m_folder / "list.html").starts_with("<!DOCTYPE html>"));
-    exportTo(m_folder / "gone" / "list.txt", 0);
-    EXPECT_EQ(tests::App().TakeMessages().size(), 1U);
+    // Why one cannot be written is said.
+    auto const locale = ::GetThreadLocale();
+    auto const gone = m_folder / "gone" / "list.txt";
+    for (auto const & [language, text] :
+         {std::pair{1033, std::pair{L"This file could not be written:\n\n", L": the folder is not there any more"}},
+          {1031, {L"Diese Datei lie\u00DF sich nicht schreiben:\n\n", L": der Ordner ist nicht mehr da"}},
+          {3082, {L"No se pudo escribir este archivo:\n\n", L": la carpeta ya no est\u00E1"}}})
+    {
+        m_window->ChooseLanguage(static_cast<unsigned short>(language));
+        exportTo(gone, 0);
+        EXPECT_EQ(tests::App().TakeMessages(), std::vector<std::wstring>{text.first + gone.wstring() + text.second});
+    }
+    m_window->ChooseLanguage(1033);
+    ::SetThreadLocale(locale);
+    ::SetThreadUILanguage(0);
+    EXPECT_FALSE(fs::exists(gone.parent_path()));
 }
 
 TEST_F(WorkbenchControls, StartFoldersAreAddedAndRemoved)
