@@ -1,9 +1,9 @@
 #include "ExportDialog.h"
 
 #include <system_error>
+#include <utility>
 
 #include "BrowseKey.h"
-#include "RecordingColumns.h"
 #include "frame/RegisteredMessages.h"
 #include "logic/Texts.h"
 #include "resource.h"
@@ -25,10 +25,11 @@ BEGIN_MESSAGE_MAP(CExportDialog, CDialog3d)
     ON_REGISTERED_MESSAGE(WM_XEDITBROWSE_COMPLETED, &CExportDialog::OnBrowsed)
 END_MESSAGE_MAP()
 
-CExportDialog::CExportDialog(workbench::Settings const & settings, CWnd & owner)
+CExportDialog::CExportDialog(workbench::Settings const & settings, std::vector<int> order, CWnd & owner)
     : CDialog3d(NO_DLL, IDD_EXPORT_LIST, &owner),
       m_file(settings.exportFile),
       m_hidden(settings.exportHidden),
+      m_order(std::move(order)),
       m_lines(static_cast<CRecordingList::Lines>(settings.exportLines))
 {
     SetDialogTitle(Text(L"Export List"));
@@ -55,8 +56,7 @@ BOOL CExportDialog::OnInitDialog()
     m_fileField.SetDlgTitle(Text(L"Export List"));
     m_fileField.SetNotifyTag(IDC_EXPORT_FILE);
     m_fileField.SetWindowText(m_file.c_str());
-    m_columns.SetTheMap(workbench::ColumnNames());
-    m_columns.SetSelection(workbench::ShownColumns(m_hidden));
+    m_columns.ShowColumns(m_order, m_hidden);
     m_columns.PrepareIdNameBrowser();
     m_columns.SetNotifyTag(IDC_EXPORT_COLUMNS);
     for (int i = 0; i < static_cast<int>(std::size(line_texts)); ++i)
@@ -123,7 +123,7 @@ void CExportDialog::OnOK()
         return;
     }
     m_file = file;
-    m_hidden = workbench::HiddenColumns(m_columns.TheSelection());
+    m_hidden = m_columns.HiddenColumns();
     m_lines = static_cast<CRecordingList::Lines>(m_lineChoice.GetSelectedItemData(0));
     CDialog3d::OnOK();
 }

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <set>
+#include <vector>
 
 #include "ColumnsField.h"
 #include "RecordingList.h"
@@ -14,7 +15,8 @@
 class CExportDialog : public CDialog3d
 {
 public:
-    CExportDialog(workbench::Settings const & settings, CWnd & owner);
+    /// order: in which the columns are listed.
+    CExportDialog(workbench::Settings const & settings, std::vector<int> order, CWnd & owner);
 
     /// What the user has chosen, once the dialog has ended with IDOK.
     std::filesystem::path const & File() const { return m_file; }
@@ -37,6 +39,7 @@ private:
 
     std::filesystem::path m_file;
     std::set<int> m_hidden;
+    std::vector<int> m_order;
     CRecordingList::Lines m_lines;
     std::filesystem::path m_agreed; ///< that may be replaced: the user was asked already
     CXEditBrowseCtrl m_fileField;

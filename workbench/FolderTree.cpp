@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <unordered_set>
 #include <utility>
 
 #include "logic/StoredLists.h"
@@ -115,8 +116,12 @@ void CFolderTree::SetHasChildren(HTREEITEM folder, bool has)
     TVITEMW item{};
     item.mask = TVIF_CHILDREN;
     item.hItem = folder;
-    item.cChildren = has ? 1 : 0;
-    SetItem(&item);
+    // What stays as it is is not painted anew.
+    if (!GetItem(&item) || (item.cChildren != 0) != has)
+    {
+        item.cChildren = has ? 1 : 0;
+        SetItem(&item);
+    }
 }
 
 /// sortKey: -1 where the place is given.
@@ -158,14 +163,19 @@ void CFolderTree::AddPlaces(std::vector<std::filesystem::path> const & folders)
 
 void CFolderTree::ShowOpened(std::vector<std::filesystem::path> const & folders)
 {
-    for (auto const & former : m_opened)
+    std::unordered_set<std::wstring> keys;
+    for (auto const & folder : folders)
     {
-        if (auto const item = FolderItem(former))
+        keys.insert(workbench::PathKey(folder));
+    }
+    for (auto const & former : std::exchange(m_opened, folders))
+    {
+        auto const item = FolderItem(former);
+        if (item != nullptr && !keys.contains(workbench::PathKey(former)))
         {
             SetItemState(item, 0, TVIS_BOLD);
         }
     }
-    m_opened = folders;
     for (auto const & folder : m_opened)
     {
         auto item = FolderItem(folder);
@@ -177,14 +187,33 @@ void CFolderTree::ShowOpened(std::vector<std::filesystem::path> const & folders)
         {
             continue;
         }
-        SetItemState(item, TVIS_BOLD, TVIS_BOLD);
         if (KnowledgeOf(item) != reading)
         {
             Read(item);
         }
-        Expand(item, TVE_EXPAND);
-        EnsureVisible(item);
+        if ((GetItemState(item, TVIS_BOLD) & TVIS_BOLD) == 0)
+        {
+            SetItemState(item, TVIS_BOLD, TVIS_BOLD);
+            Reveal(item);
+        }
     }
+}
+
+void CFolderTree::RevealOpened()
+{
+    for (auto const & folder : m_opened)
+    {
+        if (auto const item = FolderItem(folder))
+        {
+            Reveal(item);
+        }
+    }
+}
+
+void CFolderTree::Reveal(HTREEITEM folder)
+{
+    Expand(folder, TVE_EXPAND);
+    EnsureVisible(folder);
 }
 
 void CFolderTree::SelectRecording(std::filesystem::path const & file)
@@ -269,6 +298,7 @@ void CFolderTree::Remove(HTREEITEM item)
     CollectAllItems(all, item);
     for (auto const each : all)
     {
+        m_top = each == m_top ? nullptr : m_top;
         auto const key = workbench::PathKey(PathOf(each));
         if (GetItemType(each) == type_folder)
         {
@@ -343,6 +373,7 @@ void CFolderTree::EnterSome()
     if (count > 0)
     {
         SetRedraw(FALSE);
+        m_top = GetFirstVisibleItem();
         do
         {
             for (int i = 0; i < items_at_once && entering.done < count; ++i)
@@ -350,18 +381,23 @@ void CFolderTree::EnterSome()
                 Take(entering.steps[entering.done++], folder);
             }
         } while (entering.done < count && Clock::now() < end);
+        if (m_top != nullptr && GetFirstVisibleItem() != m_top)
+        {
+            SelectSetFirstVisible(m_top);
+        }
         SetRedraw(TRUE);
     }
     if (entering.done == count)
     {
         m_entering.reset();
         KillTimer(enter_timer);
-        FinishEntering(folder);
+        FinishEntering(folder, count > 0);
         ReadNext();
     }
 }
 
-void CFolderTree::FinishEntering(HTREEITEM folder)
+/// changed: items have come or gone. Opening what is open already would paint the whole tree.
+void CFolderTree::FinishEntering(HTREEITEM folder, bool changed)
 {
     auto const open = (GetItemState(folder, TVIS_EXPANDED) & TVIS_EXPANDED) != 0;
     Note(folder, known);
@@ -370,7 +406,7 @@ void CFolderTree::FinishEntering(HTREEITEM folder)
         DeleteTreeItem(note);
     }
     SetHasChildren(folder, GetChildItem(folder) != nullptr);
-    if (open && GetChildItem(folder) != nullptr)
+    if (changed && open && GetChildItem(folder) != nullptr)
     {
         Expand(folder, TVE_EXPAND);
     }

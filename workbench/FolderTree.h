@@ -26,9 +26,13 @@ public:
     /// Adds folders to the top level, behind those that are there; one that is in the tree already stays where it is.
     void AddPlaces(std::vector<std::filesystem::path> const & folders);
 
-    /// Marks folders as those whose recordings are listed, opens their items and reads them anew. One that is in no
-    /// place of the tree becomes the first place.
+    /// Marks folders as those whose recordings are listed, and reads them anew. One that is in no place of the tree
+    /// becomes the first place. One that was not marked yet is opened and brought in sight; but for that, nothing
+    /// moves.
     void ShowOpened(std::vector<std::filesystem::path> const & folders);
+
+    /// Opens the items of the marked folders and brings them in sight.
+    void RevealOpened();
 
     /// Selects a recording below the folders that are marked, as far as it is there.
     void SelectRecording(std::filesystem::path const & file);
@@ -107,9 +111,10 @@ private:
     void Read(HTREEITEM folder);
     void ReadNext();
     void EnterSome();
-    void FinishEntering(HTREEITEM folder);
+    void FinishEntering(HTREEITEM folder, bool changed);
     void Choose(HTREEITEM item);
     void SetHasChildren(HTREEITEM folder, bool has);
+    void Reveal(HTREEITEM folder);
 
     CImageList m_images;
     std::vector<std::filesystem::path> m_paths; ///< by the id of their records
@@ -123,4 +128,5 @@ private:
     std::filesystem::path m_readFolder;          ///< that is being read
     std::unique_ptr<workbench::FolderReading> m_reading;
     std::optional<Entering> m_entering;
+    HTREEITEM m_top = nullptr; ///< that stays at the top while items are entered
 };

@@ -7,9 +7,11 @@
 #include <utility>
 #include <vector>
 
+#include "logic/SafeFile.h"
 #include "logic/Spectrogram.h"
 #include "logic/TextFormat.h"
 #include "logic/Texts.h"
+#include "logic/WriteTexts.h"
 #include "resource.h"
 
 using workbench::FrameTable;
@@ -26,6 +28,7 @@ constexpr int label_width = 30;
 constexpr int column_width = 74;
 constexpr int words_width = 96;
 constexpr int export_width = 60;
+constexpr std::uintmax_t bytes_per_row = 40; // of an export, about
 constexpr int part_gap = 4;
 constexpr int list_height = 120; // of the columns
 
@@ -116,13 +119,13 @@ bool CFrameMeasuresPanel::CreatePanel(CWnd & parent, UINT id, workbench::ScreenM
     m_table.SetDpi(metrics.Resolution());
     m_table.m_onSelectionChange = [this] { OnChosen(); };
     m_table.m_onExportEnd = [this](bool whole) {
-        auto const failed = !whole && !std::exchange(m_stopsExport, false);
+        auto const stopped = std::exchange(m_stopsExport, false);
         auto const file = std::exchange(m_exported, {});
         ShowStatus();
-        if (failed)
+        if (!whole && !stopped)
         {
-            AfxMessageBox(Text(L"This file could not be written:") + (L"\n\n" + CString(file.c_str())),
-                          MB_ICONEXCLAMATION);
+            auto const error = workbench::WriteObstacle(file, m_table.RowsShown() * bytes_per_row);
+            AfxMessageBox(workbench::WriteFailureText(file, error).c_str(), MB_ICONEXCLAMATION);
         }
         else if (auto const onExported = m_onExported; onExported && whole)
         {

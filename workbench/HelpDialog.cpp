@@ -1,5 +1,6 @@
 #include "HelpDialog.h"
 
+#include "logic/NumberSigns.h"
 #include "resource.h"
 
 using workbench::HelpTopic;
@@ -82,7 +83,7 @@ std::wstring CHelpDialog::PageText() const
     {
         return KeysPage(m_menus ? m_menus() : std::vector<workbench::MenuTexts>(), language);
     }
-    return HelpPageOf(m_topic, language).text;
+    return workbench::WithSigns(HelpPageOf(m_topic, language).text);
 }
 
 void CHelpDialog::ShowPage()

@@ -35,6 +35,40 @@ BOOL CLanguageDialog::OnInitDialog()
     return result;
 }
 
+BOOL CLanguageDialog::PreTranslateMessage(MSG * message)
+{
+    if (message->message == WM_KEYDOWN)
+    {
+        m_completes = message->wParam != VK_BACK && message->wParam != VK_DELETE && ::GetKeyState(VK_CONTROL) >= 0;
+    }
+    return CSprachauswahlDlg::PreTranslateMessage(message);
+}
+
+BOOL CLanguageDialog::OnCommand(WPARAM wide, LPARAM parameter)
+{
+    if (HIWORD(wide) == CBN_EDITCHANGE && reinterpret_cast<HWND>(parameter) == List().m_hWnd && m_completes)
+    {
+        CompleteTyped();
+    }
+    return CSprachauswahlDlg::OnCommand(wide, parameter);
+}
+
+/// Chooses the first language that begins with what is typed. The rest of its name is selected, so that the next letter
+/// takes its place.
+void CLanguageDialog::CompleteTyped()
+{
+    auto & list = List();
+    CString typed;
+    list.GetWindowText(typed);
+    auto const item = typed.IsEmpty() ? CB_ERR : list.FindString(-1, typed);
+    if (item != CB_ERR)
+    {
+        m_completes = false; // what follows is no key
+        list.SetCurSel(item);
+        list.SetEditSel(typed.GetLength(), -1);
+    }
+}
+
 void CLanguageDialog::OnOK()
 {
     auto & list = List();

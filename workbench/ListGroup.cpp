@@ -4,7 +4,6 @@
 #include <iterator>
 #include <utility>
 
-#include "RecordingColumns.h"
 #include "RecordingList.h"
 #include "frame/RegisteredMessages.h"
 #include "logic/Texts.h"
@@ -60,7 +59,6 @@ void CListGroup::DoDataExchange(CDataExchange * exchange)
 BOOL CListGroup::OnInitDialog()
 {
     CSettingsGroup::OnInitDialog();
-    m_columns.SetTheMap(workbench::ColumnNames());
     m_columns.FollowDpi(TRUE);
     m_columns.PrepareIdNameBrowser();
     m_columns.SetNotifyTag(IDC_COLUMNS);
@@ -124,8 +122,7 @@ void CListGroup::ShowTexts()
     {
         return;
     }
-    m_columns.SetTheMap(workbench::ColumnNames());
-    m_columns.UpdateSelectionText();
+    m_columns.Arrange(Order());
     auto const set = m_contrast.GetCurSel();
     auto const scale = m_scale.GetSelectedItemData(0);
     auto const chosen = m_order.GetCurSel();
@@ -138,8 +135,7 @@ void CListGroup::ShowTexts()
 
 void CListGroup::Show(workbench::Settings const & settings)
 {
-    m_columns.SetSelection(workbench::ShownColumns(settings.hiddenColumns));
-    m_columns.UpdateSelectionText();
+    m_columns.ShowColumns(settings.columnOrder, settings.hiddenColumns);
     m_scale.SelectItemData(settings.scale);
     CheckDlgButton(IDC_CELL_CURSOR, settings.cellCursor ? BST_CHECKED : BST_UNCHECKED);
     m_chosen = false;
@@ -155,13 +151,40 @@ bool CListGroup::Take(workbench::Settings & settings)
 {
     if (m_chosen)
     {
-        settings.hiddenColumns = workbench::HiddenColumns(m_columns.TheSelection());
+        settings.hiddenColumns = m_columns.HiddenColumns();
     }
     settings.contrast = sets[std::clamp<int>(m_contrast.GetCurSel(), 0, static_cast<int>(std::size(sets)) - 1)];
     settings.scale = m_scale.GetSelectedItemData(settings.scale);
     settings.cellCursor = IsDlgButtonChecked(IDC_CELL_CURSOR) == BST_CHECKED;
     settings.columnOrder = m_moved ? Order() : std::vector<int>{};
     return true;
+}
+
+BOOL CListGroup::OnApply()
+{
+    auto const applied = CSettingsGroup::OnApply();
+    if (applied)
+    {
+        m_moved = false; // from here on the order is the list's
+        m_chosen = false;
+    }
+    return applied;
+}
+
+void CListGroup::FollowColumns(std::vector<int> const & order)
+{
+    if (m_moved || m_order.GetSafeHwnd() == nullptr || m_order.GetCount() == 0)
+    {
+        return;
+    }
+    auto const chosen = m_order.GetCurSel();
+    auto const column = chosen >= 0 ? static_cast<int>(m_order.GetItemData(chosen)) : -1;
+    FillOrder(order);
+    auto const columns = Order();
+    auto const place = std::ranges::find(columns, column);
+    m_order.SetCurSel(place != columns.end() ? static_cast<int>(place - columns.begin()) : -1);
+    m_columns.Arrange(columns);
+    EnableButtons();
 }
 
 /// Moves the chosen column, which stays chosen.
@@ -180,6 +203,7 @@ void CListGroup::MoveColumn(int places)
     m_order.InsertString(to, title);
     m_order.SetItemData(to, column);
     m_order.SetCurSel(to);
+    m_columns.Arrange(Order());
     m_moved = true;
     EnableButtons();
     Changed();

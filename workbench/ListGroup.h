@@ -1,6 +1,5 @@
 #pragma once
 
-#include <map>
 #include <vector>
 
 #include "ColumnsField.h"
@@ -18,8 +17,12 @@ public:
     /// The columns stay as they are where the user has chosen none: they can be chosen at the list, too.
     bool Take(workbench::Settings & settings) override;
 
+    /// The user has given the columns another order at the list. One that is being chosen here stays.
+    void FollowColumns(std::vector<int> const & order);
+
     void ShowTexts() override;
     BOOL OnInitDialog() override;
+    BOOL OnApply() override;
     BOOL PreTranslateMessage(MSG * message) override;
 
 protected:

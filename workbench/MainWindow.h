@@ -340,6 +340,7 @@ private:
     void ChooseFile(std::filesystem::path const & file);
     int LineOf(std::filesystem::path const & file) const;
     void FillFolders();
+    void FollowInFolders();
     void ShowInFolders();
     void OnListChanged(unsigned changes);
     void OnFiltered();

@@ -26,6 +26,7 @@
 #include "logic/TableText.h"
 #include "logic/Texts.h"
 #include "logic/TrashTexts.h"
+#include "logic/WriteTexts.h"
 #include "resource.h"
 #include "windows/StandaloneFrameWnd.h"
 
@@ -323,8 +324,9 @@ void CMainWindow::ChooseColumns(CPoint screen)
 {
     m_list.EndEditing();
     CIdNameMultiselectDlg dialog(this);
-    dialog.m_control.SetTheMap(workbench::ColumnNames());
-    dialog.m_control.SetSelection(workbench::ShownColumns(m_settings.hiddenColumns));
+    auto const columns = workbench::HideableColumns(m_list.ColumnOrder());
+    dialog.m_control.SetTheMap(workbench::ColumnNames(columns));
+    dialog.m_control.SetSelection(workbench::ShownColumns(columns, m_settings.hiddenColumns));
     dialog.m_control.ShowGroupedSelection(false);
     dialog.m_control.SetDpi(m_metrics.Resolution());
     CRect work;
@@ -339,7 +341,7 @@ void CMainWindow::ChooseColumns(CPoint screen)
         return;
     }
     auto settings = m_settings;
-    settings.hiddenColumns = workbench::HiddenColumns(dialog.m_control.TheSelection());
+    settings.hiddenColumns = workbench::HiddenColumns(columns, dialog.m_control.TheSelection());
     TakeSettings(settings);
 }
 
@@ -379,7 +381,7 @@ void CMainWindow::OnSortBy()
 void CMainWindow::OnExportList()
 {
     m_list.EndEditing();
-    CExportDialog dialog(m_settings, *this);
+    CExportDialog dialog(m_settings, m_list.ColumnOrder(), *this);
     LifeWatch const life(m_life);
     if (dialog.DoModal() != IDOK || life.Over() || m_hWnd == nullptr)
     {
@@ -392,6 +394,7 @@ void CMainWindow::OnExportList()
     auto const file = dialog.File();
     auto table = m_list.Table(dialog.Lines(), dialog.HiddenColumns());
     auto written = false;
+    unsigned long error = 0;
     auto const whole =
         CBusyDialog::DoAll(*this, Text(L"Exporting recordings"), table.Rows() + 1, [&](std::size_t step) {
             if (step < table.Rows())
@@ -400,7 +403,7 @@ void CMainWindow::OnExportList()
             }
             else
             {
-                written = workbench::ReplaceWholeFile(file, workbench::TableFile(table.Table(), file));
+                written = workbench::ReplaceWholeFile(file, workbench::TableFile(table.Table(), file), &error);
             }
         });
     if (life.Over() || m_hWnd == nullptr)
@@ -414,7 +417,7 @@ void CMainWindow::OnExportList()
     }
     else if (whole)
     {
-        AfxMessageBox(Text(L"This file could not be written:") + (L"\n\n" + CString(file.c_str())), MB_ICONEXCLAMATION);
+        AfxMessageBox(workbench::WriteFailureText(file, error).c_str(), MB_ICONEXCLAMATION);
     }
 }
 
@@ -815,10 +818,10 @@ void CMainWindow::SavePictureOf(CWnd & view, workbench::Drawing const & draw)
     {
         return;
     }
-    if (!workbench::SavePicture(*this, PictureSize(view), draw, *file))
+    unsigned long error = 0;
+    if (!workbench::SavePicture(*this, PictureSize(view), draw, *file, &error))
     {
-        AfxMessageBox(Text(L"This file could not be written:") + (L"\n\n" + CString(file->c_str())),
-                      MB_ICONEXCLAMATION);
+        AfxMessageBox(workbench::WriteFailureText(*file, error).c_str(), MB_ICONEXCLAMATION);
     }
 }
 

@@ -89,7 +89,7 @@ void CMainWindow::ShowFound(workbench::FoundRecordings found, bool readsAgain)
     if (readsAgain && isSame)
     {
         m_toReread = m_recordings.size();
-        FillFolders();
+        FollowInFolders();
         SetTimer(work_timer, USER_TIMER_MINIMUM, nullptr);
         return;
     }
@@ -141,7 +141,7 @@ void CMainWindow::ShowFound(workbench::FoundRecordings found, bool readsAgain)
         m_listed = 0;
     }
     m_valuesChanged = true;
-    FillFolders();
+    FollowInFolders();
     SetTimer(work_timer, USER_TIMER_MINIMUM, nullptr);
     ShowChosen();
     ShowProgress();

@@ -28,6 +28,8 @@ constexpr UINT edit_interval = 100; // milliseconds, between looks whether an ed
 // What one turn of work may take, so that the window answers in between.
 constexpr std::chrono::milliseconds work_slice(12);
 
+constexpr double sine_rms = -3.01; // dBFS, of a full-scale sine
+
 using Clock = std::chrono::steady_clock;
 
 } // namespace
@@ -245,6 +247,20 @@ void CMainWindow::FillFolders()
     ShowInFolders();
 }
 
+/// Has the tree of folders follow what is on the disk. A folder that the user has chosen there stays chosen.
+void CMainWindow::FollowInFolders()
+{
+    if (ShowsFolders())
+    {
+        auto const chosen = m_tree.GetSelectedItem();
+        m_tree.ShowOpened(m_openedFolders);
+        if (chosen == nullptr || m_tree.GetItemType(chosen) != CFolderTree::type_folder)
+        {
+            ShowInFolders();
+        }
+    }
+}
+
 /// Selects the chosen recording in the tree of folders, unless the user is at work there.
 void CMainWindow::ShowInFolders()
 {
@@ -371,7 +387,8 @@ LRESULT CMainWindow::OnRecordingsReady(WPARAM, LPARAM)
             TakeFollowed(std::move(*found));
             return 0;
         }
-        if (std::exchange(m_reloading, false) && !m_recordings.empty())
+        auto const reloaded = std::exchange(m_reloading, false);
+        if (reloaded && !m_recordings.empty())
         {
             ShowFound(std::move(*found), true);
             return 0;
@@ -383,6 +400,10 @@ LRESULT CMainWindow::OnRecordingsReady(WPARAM, LPARAM)
             RememberOpened(m_openedFolders, m_missing);
         }
         FillFolders();
+        if (!reloaded && ShowsFolders())
+        {
+            m_tree.RevealOpened();
+        }
         m_found = std::move(found->files);
         m_wantedView = m_views->Of(ViewFolder());
         m_wantedPart = m_wantedView;
@@ -728,23 +749,23 @@ void CMainWindow::UpdateStatusLine()
     auto text = workbench::FormatCount(m_recordings.size(), Text(L"recording"), Text(L"recordings"));
     if (!m_list.Filter().LetsAllThrough())
     {
-        text += L", " + std::to_wstring(m_list.ShownCount()) + L' ' + Text(L"shown");
+        text += L", " + workbench::FormatThousands(m_list.ShownCount()) + L' ' + Text(L"shown");
     }
     if (auto const toRead = m_queued + m_toReread; toRead > 0)
     {
-        text += L", " + std::to_wstring(toRead) + L' ' + Text(L"being read");
+        text += L", " + workbench::FormatThousands(toRead) + L' ' + Text(L"being read");
     }
     if (auto const unread = totals.Unread() - std::min(m_queued, totals.Unread()); unread > 0)
     {
-        text += L", " + std::to_wstring(unread) + L' ' + Text(L"not read");
+        text += L", " + workbench::FormatThousands(unread) + L' ' + Text(L"not read");
     }
     if (totals.Unreadable() > 0)
     {
-        text += L", " + std::to_wstring(totals.Unreadable()) + L' ' + Text(L"cannot be shown");
+        text += L", " + workbench::FormatThousands(totals.Unreadable()) + L' ' + Text(L"cannot be shown");
     }
     if (totals.Checked() > 0)
     {
-        text += L", " + std::to_wstring(totals.Checked()) + L' ' + Text(L"marked") + L" (" +
+        text += L", " + workbench::FormatThousands(totals.Checked()) + L' ' + Text(L"marked") + L" (" +
                 workbench::FormatMilliseconds(totals.CheckedMilliseconds()) + L')';
     }
     if (m_notes && m_notes->HasFailed())
@@ -762,9 +783,17 @@ void CMainWindow::UpdateStatusLine()
         }
     }
     auto const comparison = ComparisonText();
-    text += comparison.empty()
-                ? std::wstring(L".  ") + Text(L"Levels refer to a full-scale sine: 0 dBFS peak, -3.0 dBFS RMS")
-                : comparison;
+    if (comparison.empty())
+    {
+        CString levels;
+        levels.Format(Text(L"Levels refer to a full-scale sine: 0 dBFS peak, %s dBFS RMS"),
+                      workbench::FormatLevel(sine_rms).c_str());
+        text += std::wstring(L".  ") + levels.GetString();
+    }
+    else
+    {
+        text += comparison;
+    }
     text += L'.';
     m_status.ShowText(text);
 }
@@ -810,6 +839,7 @@ void CMainWindow::OnListChanged(unsigned changes)
     {
         workbench::StoreColumnWidths(m_list.UserWidths(), m_metrics.AverageWidth());
         workbench::StoreColumnOrder(m_list.ColumnOrder());
+        m_settingsSheet.FollowColumns(m_list.ColumnOrder());
     }
     if ((changes & (CRecordingList::changed_selection | CRecordingList::changed_order)) != 0)
     {

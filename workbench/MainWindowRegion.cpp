@@ -24,6 +24,7 @@ void CMainWindow::ShowNumbers()
     {
         m_details.Refresh(DetailsOf(m_detailsIndex));
     }
+    m_help.ShowTexts();
     UpdateStatusLine();
     // Plots and frames have readings and axes.
     RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);

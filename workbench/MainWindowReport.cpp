@@ -7,6 +7,7 @@
 #include "FileDialogs.h"
 #include "frame/CoreLibrary.h"
 #include "logic/Texts.h"
+#include "logic/WriteTexts.h"
 
 using workbench::Text;
 
@@ -23,8 +24,7 @@ void CMainWindow::PrepareReport()
         {
             m_written.clear();
             UpdateStatusLine();
-            AfxMessageBox(Text(L"This file could not be written:") + (L"\n\n" + CString(m_report.File().c_str())),
-                          MB_ICONEXCLAMATION);
+            AfxMessageBox(workbench::WriteFailureText(m_report.File(), m_report.Error()).c_str(), MB_ICONEXCLAMATION);
         }
     };
 }
@@ -64,8 +64,7 @@ void CMainWindow::OnWriteReport()
         *this, workbench::ReportFileName(folder, today.GetYear(), today.GetMonth(), today.GetDay()));
     if (file && !life.Over() && m_hWnd != nullptr && m_list.Totals().Checked() > 0 && !WriteReport(*file))
     {
-        AfxMessageBox(Text(L"This file could not be written:") + (L"\n\n" + CString(file->c_str())),
-                      MB_ICONEXCLAMATION);
+        AfxMessageBox(workbench::WriteFailureText(*file, m_report.Error()).c_str(), MB_ICONEXCLAMATION);
     }
 }
 

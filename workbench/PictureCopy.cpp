@@ -3,11 +3,11 @@
 #include <cstdint>
 #include <cstring>
 #include <cwchar>
-#include <system_error>
 #include <vector>
 
 #include "Graphics.h"
 #include "clipboard/Clipboard.h"
+#include "logic/SafeFile.h"
 
 namespace workbench
 {
@@ -149,34 +149,15 @@ bool CopyPicture(CWnd & window, CSize size, Drawing const & draw)
     return copied;
 }
 
-bool SavePicture(CWnd & window, CSize size, Drawing const & draw, std::filesystem::path const & file)
+bool SavePicture(CWnd & window, CSize size, Drawing const & draw, std::filesystem::path const & file,
+                 unsigned long * error)
 {
-    GraphicsScope const graphics;
-    // Beside the file first, so that a full disk takes nothing away.
-    auto unfinished = file;
-    unfinished += L".new";
-    bool written = false;
+    auto const png = PngPicture(window, size, draw);
+    if (error != nullptr)
     {
-        PictureBitmap const picture(window, size, draw);
-        CLSID encoder{};
-        if (picture.IsThere() && FindPngEncoder(encoder))
-        {
-            Gdiplus::Bitmap bitmap(&picture.Header(), picture.Bits());
-            written = bitmap.GetLastStatus() == Gdiplus::Ok &&
-                      bitmap.Save(unfinished.c_str(), &encoder, nullptr) == Gdiplus::Ok;
-        }
+        *error = 0;
     }
-    std::error_code error;
-    if (written)
-    {
-        std::filesystem::rename(unfinished, file, error);
-        written = !error;
-    }
-    if (!written)
-    {
-        std::filesystem::remove(unfinished, error);
-    }
-    return written;
+    return !png.empty() && ReplaceWholeFile(file, png, error);
 }
 
 std::string PngPicture(CWnd & window, CSize size, Drawing const & draw)

@@ -17,8 +17,9 @@ using Drawing = std::function<void(CDC &, CRect const &)>;
 bool CopyPicture(CWnd & window, CSize size, Drawing const & draw);
 
 /// Writes a picture as a PNG file; a file of that name is replaced. False if it cannot be made or written, and then a
-/// file that was there before is as it was.
-bool SavePicture(CWnd & window, CSize size, Drawing const & draw, std::filesystem::path const & file);
+/// file that was there before is as it was, and `error` has the system's number of the reason, or 0.
+bool SavePicture(CWnd & window, CSize size, Drawing const & draw, std::filesystem::path const & file,
+                 unsigned long * error = nullptr);
 
 /// A picture as a PNG file has it; empty if it cannot be made.
 std::string PngPicture(CWnd & window, CSize size, Drawing const & draw);

@@ -1,10 +1,12 @@
 #pragma once
-// The columns of the list that the user can hide, for a multiselect.
+// The columns of the list that the user can hide, for a multiselect, which lists what it has by numbers: so a column
+// has the number of its place in the list.
 
 #include <afxwin.h>
 
 #include <map>
 #include <set>
+#include <vector>
 
 namespace workbench
 {
@@ -12,13 +14,17 @@ namespace workbench
 /// Stands for all columns among those that a multiselect has ticked.
 inline constexpr int every_column = -1;
 
-/// The columns that can be hidden, with their titles: all but check boxes and names.
-std::map<int, CString> ColumnNames();
+/// The columns that can be hidden, all but check boxes and names, in an order of columns: by their places there. Those
+/// that the order lacks come last.
+std::vector<int> HideableColumns(std::vector<int> const & order);
 
-/// What a multiselect shows ticked: the columns that are not hidden, with `every_column` if none is.
-std::set<int> ShownColumns(std::set<int> const & hidden);
+/// Their titles, by their places.
+std::map<int, CString> ColumnNames(std::vector<int> const & columns);
 
-/// The columns that are hidden where a multiselect has these ticked.
-std::set<int> HiddenColumns(std::set<int> const & ticked);
+/// What a multiselect shows ticked: the places of those that are not hidden, with `every_column` if none is.
+std::set<int> ShownColumns(std::vector<int> const & columns, std::set<int> const & hidden);
+
+/// The columns that are hidden where a multiselect has these places ticked.
+std::set<int> HiddenColumns(std::vector<int> const & columns, std::set<int> const & ticked);
 
 } // namespace workbench

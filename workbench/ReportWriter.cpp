@@ -54,6 +54,7 @@ bool CReportWriter::Begin(std::vector<workbench::ReportedRecording> recordings, 
                           workbench::Settings const & settings, workbench::ScreenMetrics & metrics)
 {
     Cancel();
+    m_error = 0;
     if (!CreateViews(metrics))
     {
         return false;
@@ -63,6 +64,7 @@ bool CReportWriter::Begin(std::vector<workbench::ReportedRecording> recordings, 
                                      UserDateTimeText(CTime::GetCurrentTime(), dtf_date_time).GetString()};
     if (!draft->Append(workbench::ReportBegin(head, recordings)))
     {
+        m_error = draft->Error();
         return false;
     }
     m_spectrogram.SetColours(Farbtabellen::SpektrogrammFarbtabelle(settings.spectrogramScale));
@@ -166,6 +168,7 @@ void CReportWriter::FinishRecording()
 
 void CReportWriter::End(bool written)
 {
+    m_error = m_draft->Error();
     Cancel();
     if (auto const onEnded = m_onEnded)
     {

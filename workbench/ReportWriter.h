@@ -32,6 +32,8 @@ public:
 
     bool IsWriting() const { return m_draft != nullptr; }
     std::filesystem::path const & File() const { return m_file; }
+    /// Why the last one could not be written: the system's number, 0 where it could be.
+    unsigned long Error() const { return m_error; }
 
     /// How much is done, and of how much; 0 of 0 for the first moment, after which most reports are written.
     struct State
@@ -63,6 +65,7 @@ private:
     std::vector<workbench::ReportedRecording> m_recordings;
     std::filesystem::path m_file;
     std::unique_ptr<workbench::FileDraft> m_draft;
+    unsigned long m_error = 0;
     std::size_t m_place = 0;
     bool m_isShown = false; ///< the present recording is in the views
     std::vector<workbench::ReportPicture> m_pictures;

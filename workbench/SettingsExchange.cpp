@@ -4,7 +4,9 @@
 #include <system_error>
 
 #include "FileDialogs.h"
+#include "logic/SafeFile.h"
 #include "logic/Texts.h"
+#include "logic/WriteTexts.h"
 #include "windows/RegistrySettingsTree.h"
 #include "windows/SettingsFile.h"
 
@@ -13,6 +15,8 @@ namespace workbench
 
 namespace
 {
+
+constexpr std::uintmax_t settings_length = 64 << 10; // bytes of a file, about
 
 registry_settings::RegistrySettingsTree ApplicationTree()
 {
@@ -41,7 +45,9 @@ SettingsFileResult ExportSettings(CWnd & owner)
     auto tree = ApplicationTree();
     if (!registry_settings::export_registry_settings(tree, files))
     {
-        AfxMessageBox(Message(Text(L"The settings could not be written to this file:"), files.saved),
+        AfxMessageBox(WriteFailureText(Text(L"The settings could not be written to this file:"), files.saved,
+                                       WriteObstacle(files.saved, settings_length))
+                          .c_str(),
                       MB_ICONEXCLAMATION);
         return SettingsFileResult::failed;
     }

@@ -107,6 +107,14 @@ void CSettingsSheet::ShowTexts()
     }
 }
 
+void CSettingsSheet::FollowColumns(std::vector<int> const & order)
+{
+    if (IsOpen())
+    {
+        m_list.FollowColumns(order);
+    }
+}
+
 /// Lets the frame around the pages follow the sheet's height, too.
 void CSettingsSheet::StretchTabs()
 {

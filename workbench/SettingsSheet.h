@@ -2,6 +2,7 @@
 
 #include <array>
 #include <functional>
+#include <vector>
 
 #include "DialogsGroup.h"
 #include "ListGroup.h"
@@ -29,6 +30,9 @@ public:
 
     /// Called with true when the sheet has opened and with false when it is about to end.
     std::function<void(bool)> m_onOpened;
+
+    /// The user has given the columns of the list another order there.
+    void FollowColumns(std::vector<int> const & order);
 
     /// Shows what the open sheet says in the present language. What the user has entered stays.
     void ShowTexts();

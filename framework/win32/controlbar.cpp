@@ -35,6 +35,9 @@ constexpr UINT_PTR check_timer = 0xE001; // whether it still does
 constexpr UINT wait_time = 300;
 constexpr UINT check_time = 200;
 
+// The bar whose item the frame tells of.
+thread_local CControlBar const * g_flyByBar = nullptr;
+
 CSize BorderSize()
 {
     return CSize(2 * ::GetSystemMetrics(SM_CXBORDER), 2 * ::GetSystemMetrics(SM_CYBORDER));
@@ -572,13 +575,17 @@ void CControlBar::ShowFlyBy(INT_PTR hit)
         m_flyByWaiting = false;
         KillTimer(wait_timer);
     }
+    if (hit == -1)
+        KillTimer(check_timer);
     if (hit == m_flyBy)
         return;
     m_flyBy = hit;
-    if (hit == -1)
-        KillTimer(check_timer);
-    else
+    if (hit != -1)
         SetTimer(check_timer, check_time, nullptr);
+    // The bar that the mouse has come to may have said so before the one that it has left: what that says stays.
+    else if (g_flyByBar != this)
+        return;
+    g_flyByBar = hit != -1 ? this : nullptr;
     CFrameWnd * const frame = TargetFrame();
     if (frame != nullptr)
         frame->SendMessage(WM_SETMESSAGESTRING, hit == -1 ? AFX_IDS_IDLEMESSAGE : static_cast<WPARAM>(hit));
@@ -590,7 +597,15 @@ void CControlBar::OnTimer(UINT_PTR nIDEvent)
     {
         CPoint cursor;
         ::GetCursorPos(&cursor);
-        ShowFlyBy(HitAt(cursor));
+        INT_PTR const hit = HitAt(cursor);
+        if (nIDEvent == wait_timer && hit == -1 && m_flyByWaiting)
+        {
+            // The system may still tell the place before the mouse's message: it is asked once more.
+            KillTimer(wait_timer);
+            SetTimer(check_timer, check_time, nullptr);
+            return;
+        }
+        ShowFlyBy(hit);
     }
     else
         CWnd::OnTimer(nIDEvent);

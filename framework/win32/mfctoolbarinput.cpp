@@ -18,6 +18,9 @@ namespace
 {
 constexpr UINT_PTR watch_timer = 0xE010;
 constexpr UINT watch_time = 100;
+
+// The bar whose button the frame tells of.
+thread_local CMFCToolBar const * g_messageBar = nullptr;
 } // namespace
 
 int CMFCToolBar::HitTest(CPoint point)
@@ -60,6 +63,10 @@ void CMFCToolBar::ShowMessageOf(int index)
         return;
     CMFCToolBarButton const * const button = GetButton(index);
     UINT const id = button != nullptr && button->m_nID != 0 ? button->m_nID : AFX_IDS_IDLEMESSAGE;
+    // One that the mouse leaves hears of that after the one that it comes to: what that says stays.
+    if (index < 0 && g_messageBar != this)
+        return;
+    g_messageBar = index < 0 ? nullptr : this;
     if (CFrameWnd * const frame = TargetFrame())
         frame->SendMessage(WM_SETMESSAGESTRING, id);
 }

@@ -161,6 +161,7 @@ TEST(TextFormat, CountsInSingularAndPlural)
     EXPECT_EQ(FormatCount(0, L"recording", L"recordings"), L"0 recordings");
     EXPECT_EQ(FormatCount(1, L"recording", L"recordings"), L"1 recording");
     EXPECT_EQ(FormatCount(9, L"recording", L"recordings"), L"9 recordings");
+    EXPECT_EQ(FormatCount(5000, L"recording", L"recordings"), L"5,000 recordings");
 }
 
 } // namespace

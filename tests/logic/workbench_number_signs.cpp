@@ -67,6 +67,7 @@ TEST(WorkbenchNumberSigns, OnlyNumbersInATextChange)
     EXPECT_EQ(In(german, L"0:01.500"), L"0:01,500");
     EXPECT_EQ(In(german, L"2.5 kHz"), L"2,5 kHz");
     EXPECT_EQ(In(german, L"end."), L"end.");
+    EXPECT_EQ(In(odd, L"full-scale: -3.0, K"), L"full-scale: \u22123::0, K");
     EXPECT_EQ(In(german, L""), L"");
 }
 

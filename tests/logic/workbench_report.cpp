@@ -11,6 +11,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <limits>
 #include <string>
 #include <vector>
 
@@ -283,6 +284,46 @@ TEST_F(DraftOfAFile, SaysThatItCannotBeWritten)
     FileDraft draft(m_folder / "none" / "report.html");
     EXPECT_FALSE(draft.Append("a"));
     EXPECT_FALSE(draft.Finish());
+    EXPECT_EQ(draft.Error(), 3U) << "the folder is not there";
+    std::filesystem::remove(m_file);
+    std::filesystem::create_directories(m_file / "inside");
+    unsigned long error = 0;
+    EXPECT_FALSE(ReplaceWholeFile(m_file, "a", &error));
+    EXPECT_EQ(error, 5U) << "a folder has the name";
+    EXPECT_EQ(Files(), 1);
+    EXPECT_TRUE(ReplaceWholeFile(m_folder / "other.html", "a", &error));
+    EXPECT_EQ(error, 0U);
 }
+
+TEST_F(DraftOfAFile, WhatIsInTheWayIsFound)
+{
+    EXPECT_EQ(WriteObstacle(m_file, 10), 0U);
+    EXPECT_EQ(WriteObstacle(m_file, std::numeric_limits<std::uintmax_t>::max()), 112U) << "no room";
+    EXPECT_EQ(WriteObstacle(m_folder / "none" / "report.html", 10), 3U);
+    EXPECT_EQ(Files(), 1);
+    EXPECT_EQ(Contents(), "before");
+}
+
+#ifndef _WIN32
+TEST_F(DraftOfAFile, AFullDiskIsTold)
+{
+    std::filesystem::create_symlink("/dev/full", m_file.string() + ".new");
+    unsigned long error = 0;
+    EXPECT_FALSE(ReplaceWholeFile(m_file, std::string(100'000, 'a'), &error));
+    EXPECT_EQ(error, 112U);
+    EXPECT_EQ(Contents(), "before");
+    EXPECT_EQ(Files(), 1);
+}
+
+TEST_F(DraftOfAFile, AFolderThatGoesMeanwhileIsTold)
+{
+    FileDraft draft(m_file);
+    EXPECT_TRUE(draft.Append("a"));
+    std::filesystem::remove_all(m_folder);
+    EXPECT_FALSE(draft.Finish());
+    EXPECT_EQ(draft.Error(), 3U);
+    EXPECT_FALSE(std::filesystem::exists(m_folder));
+}
+#endif
 
 } // namespace

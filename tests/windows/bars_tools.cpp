@@ -357,12 +357,14 @@ TEST_F(ToolBars, FramesMessageFollowsTheMouse)
 }
 
 bool g_cursorIsLate = false;
+int g_lateAnswers = 0; // beyond that
 CPoint g_formerCursor;
 
 BOOL WINAPI LateCursor(POINT * place)
 {
-    if (!g_cursorIsLate)
+    if (!g_cursorIsLate && g_lateAnswers == 0)
         return ::GetCursorPos(place);
+    g_lateAnswers -= g_cursorIsLate ? 0 : 1;
     *place = g_formerCursor;
     return TRUE;
 }
@@ -387,6 +389,57 @@ TEST_F(ToolBars, FramesMessageGoesByTheMousesMessages)
     m_frame->m_tools.PreTranslateMessage(&move);
     g_cursorIsLate = false;
     EXPECT_TRUE(tests::PumpUntil([&] { return m_frame->StatusText() == L"Message of A"; }));
+}
+
+TEST_F(ToolBars, FramesMessageComesThoughTheCursorIsStillLateWhenTheMouseHasRested)
+{
+    m_frame->AddTools(CBRS_TOP | CBRS_FLYBY);
+    m_frame->AddStatusBar();
+    Show();
+    g_formerCursor = tests::ClientPoint(m_window, {300, 200});
+    ASSERT_TRUE(tests::MoveMouse(g_formerCursor));
+    tests::ImportPatch const patch(L"framework.dll", "GetCursorPos", &LateCursor);
+    ASSERT_TRUE(patch.Done());
+    g_cursorIsLate = true;
+    CPoint const button = ButtonCentre(m_frame->m_tools, ID_TOOL_A);
+    ASSERT_TRUE(tests::MoveMouse(button));
+    MSG move{};
+    move.hwnd = m_frame->m_tools.m_hWnd;
+    move.message = WM_MOUSEMOVE;
+    move.pt = button;
+    g_lateAnswers = 1;
+    m_frame->m_tools.PreTranslateMessage(&move);
+    g_cursorIsLate = false;
+    EXPECT_TRUE(tests::PumpUntil([&] { return m_frame->StatusText() == L"Message of A"; }));
+    g_lateAnswers = 0;
+}
+
+TEST_F(ToolBars, ABarThatTheMouseHasLeftDoesNotTakeTheNextOnesMessageAway)
+{
+    constexpr UINT_PTR wait_timer = 0xE000;
+    constexpr UINT_PTR check_timer = 0xE001;
+    m_frame->AddTools(CBRS_TOP | CBRS_FLYBY);
+    m_frame->AddSide(CBRS_LEFT | CBRS_FLYBY);
+    m_frame->AddStatusBar();
+    Show();
+    g_formerCursor = ButtonCentre(m_frame->m_side, ID_TOOL_A);
+    ASSERT_TRUE(tests::MoveMouse(g_formerCursor));
+    ASSERT_TRUE(tests::PumpUntil([&] { return m_frame->StatusText() == L"Message of A"; }));
+    tests::ImportPatch const patch(L"framework.dll", "GetCursorPos", &LateCursor);
+    ASSERT_TRUE(patch.Done());
+    g_cursorIsLate = true; // so that no timer says more before its turn
+    CPoint const button = ButtonCentre(m_frame->m_tools, ID_TOOL_C);
+    ASSERT_TRUE(tests::MoveMouse(button));
+    g_cursorIsLate = false;
+    MSG move{};
+    move.hwnd = m_frame->m_tools.m_hWnd;
+    move.message = WM_MOUSEMOVE;
+    move.pt = button;
+    m_frame->m_tools.PreTranslateMessage(&move);
+    m_frame->m_tools.SendMessage(WM_TIMER, wait_timer);
+    EXPECT_EQ(m_frame->StatusText(), L"Message of C");
+    m_frame->m_side.SendMessage(WM_TIMER, check_timer);
+    EXPECT_EQ(m_frame->StatusText(), L"Message of C");
 }
 
 TEST_F(ToolBars, BarThatGoesTakesItsMessageAway)

@@ -231,6 +231,31 @@ TEST_F(MfcToolBars, TheMessageFollowsTheMouse)
     EXPECT_EQ(Tools().GetHighlightedButton(), nullptr);
 }
 
+TEST_F(MfcToolBars, OneThatTheMouseHasLeftDoesNotTakeTheNextOnesMessageAway)
+{
+    m_frame->AddTools(CBRS_TOP | CBRS_FLYBY);
+    CMFCToolBar second;
+    ASSERT_TRUE(second.Create(m_frame, WS_CHILD | WS_VISIBLE | CBRS_TOP | CBRS_FLYBY, ID_MFC_PANE));
+    ASSERT_TRUE(second.LoadToolBar(IDR_MFC_TOOLS));
+    m_frame->RecalcLayout();
+    Idle();
+    auto const move = [](CMFCToolBar & bar, UINT id) {
+        CRect rect;
+        bar.GetItemRect(bar.CommandToIndex(id), &rect);
+        CPoint const centre = rect.CenterPoint();
+        bar.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(centre.x, centre.y));
+    };
+    move(Tools(), ID_MFC_A);
+    ASSERT_EQ(m_frame->StatusText(), L"Message of A");
+    move(second, ID_MFC_B);
+    ASSERT_EQ(m_frame->StatusText(), L"Message of B");
+    Tools().SendMessage(WM_MOUSELEAVE);
+    EXPECT_EQ(m_frame->StatusText(), L"Message of B");
+    second.SendMessage(WM_MOUSELEAVE);
+    EXPECT_EQ(m_frame->StatusText(), L"Ready");
+    second.DestroyWindow();
+}
+
 TEST_F(MfcToolBars, TextsStandBesideThePictures)
 {
     m_frame->AddTools();

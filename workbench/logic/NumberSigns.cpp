@@ -126,6 +126,7 @@ std::wstring WithSigns(std::wstring_view plain, bool grouped)
     {
         auto const followsDigit = place > 0 && IsDigit(plain[place - 1]);
         auto const digitFollows = place + 1 < plain.size() && IsDigit(plain[place + 1]);
+        auto const infinityFollows = place + 1 < plain.size() && plain[place + 1] == L'\u221E';
         if (IsDigit(plain[place]))
         {
             auto const rest = plain.substr(place);
@@ -147,7 +148,7 @@ std::wstring WithSigns(std::wstring_view plain, bool grouped)
         {
             text += signs.decimal;
         }
-        else if (plain[place] == L'-' && !followsDigit && place + 1 < plain.size())
+        else if (plain[place] == L'-' && !followsDigit && (digitFollows || infinityFollows))
         {
             text += signs.negative;
         }

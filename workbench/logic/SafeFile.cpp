@@ -1,5 +1,6 @@
 #include "logic/SafeFile.h"
 
+#include <cerrno>
 #include <chrono>
 #include <cstdio>
 #include <fstream>
@@ -11,6 +12,7 @@
 
 #ifdef _WIN32
 #include <io.h>
+#include <stdlib.h>
 #include <windows.h>
 #else
 #include <fcntl.h>
@@ -27,7 +29,10 @@ namespace
 constexpr std::chrono::milliseconds retry_interval(10);
 constexpr int lock_tries = 300;
 constexpr std::size_t most_contents = 256 << 20; // bytes of a file that is read
-constexpr int move_tries = 50;                   // a scanner or a backup may hold the file for a moment
+constexpr std::size_t probe_length = 64 << 10;   // bytes, more than is held back
+constexpr unsigned long error_write_fault = 29;  // Windows' number where there is no better one
+constexpr unsigned long error_disk_full = 112;
+constexpr int move_tries = 50; // a scanner or a backup may hold the file for a moment
 
 /// Does something again until it succeeds.
 template <typename Operation> bool Retry(int tries, Operation operation)
@@ -50,6 +55,46 @@ std::FILE * OpenForWriting(std::filesystem::path const & file)
 #else
     return std::fopen(file.c_str(), "wb");
 #endif
+}
+
+/// Windows' number of an error.
+unsigned long WindowsNumber(std::error_code const & error)
+{
+#ifdef _WIN32
+    if (error.category() == std::system_category())
+    {
+        return static_cast<unsigned long>(error.value());
+    }
+#endif
+    constexpr std::pair<std::errc, unsigned long> numbers[] = {
+        {std::errc::no_such_file_or_directory, 3},
+        {std::errc::not_a_directory, 3},
+        {std::errc::permission_denied, 5},
+        {std::errc::operation_not_permitted, 5},
+        {std::errc::is_a_directory, 5},
+        {std::errc::read_only_file_system, 19},
+        {std::errc::no_space_on_device, error_disk_full},
+    };
+    for (auto const & [condition, number] : numbers)
+    {
+        if (error == condition)
+        {
+            return number;
+        }
+    }
+    return error_write_fault;
+}
+
+/// Of what the C library has failed at.
+unsigned long LastFileError()
+{
+#ifdef _WIN32
+    if (_doserrno != 0)
+    {
+        return _doserrno;
+    }
+#endif
+    return WindowsNumber(std::error_code(errno, std::generic_category()));
 }
 
 /// Has the system bring the file to the disk.
@@ -87,16 +132,40 @@ std::optional<std::string> ReadWholeFile(std::filesystem::path const & file)
     return stream.bad() || contents.size() > most_contents ? std::nullopt : std::optional(std::move(contents));
 }
 
-bool ReplaceWholeFile(std::filesystem::path const & file, std::string_view contents)
+bool ReplaceWholeFile(std::filesystem::path const & file, std::string_view contents, unsigned long * error)
 {
     FileDraft draft(file);
-    return draft.Append(contents) && draft.Finish();
+    auto const written = draft.Append(contents) && draft.Finish();
+    if (error != nullptr)
+    {
+        *error = draft.Error();
+    }
+    return written;
+}
+
+unsigned long WriteObstacle(std::filesystem::path const & file, std::uintmax_t bytes)
+{
+    if (file.empty())
+    {
+        return 0;
+    }
+    auto probe = file;
+    probe += ".probe";
+    FileDraft draft(probe);
+    if (!draft.Append(std::string(probe_length, '\0')))
+    {
+        return draft.Error();
+    }
+    std::error_code error;
+    auto const space = std::filesystem::space(file.parent_path(), error);
+    return !error && space.available < bytes ? error_disk_full : 0;
 }
 
 FileDraft::FileDraft(std::filesystem::path file) : m_file(std::move(file)), m_draft(m_file), m_stream(nullptr)
 {
     m_draft += ".new";
     m_stream = OpenForWriting(m_draft);
+    Succeeded(m_stream != nullptr);
 }
 
 FileDraft::~FileDraft()
@@ -118,29 +187,40 @@ void FileDraft::Close()
 bool FileDraft::Append(std::string_view contents)
 {
     m_written = m_written && m_stream != nullptr &&
-                std::fwrite(contents.data(), 1, contents.size(), m_stream) == contents.size();
+                Succeeded(std::fwrite(contents.data(), 1, contents.size(), m_stream) == contents.size());
     return m_written;
+}
+
+/// Keeps the reason of the first failure.
+bool FileDraft::Succeeded(bool done)
+{
+    if (!done && m_error == 0)
+    {
+        m_error = LastFileError();
+    }
+    return done;
 }
 
 bool FileDraft::Finish()
 {
-    if (!m_written || m_stream == nullptr || !Commit(m_stream))
+    if (!m_written || m_stream == nullptr || !Succeeded(Commit(m_stream)))
     {
         Close();
         return false;
     }
     std::error_code error;
-    if (std::fclose(std::exchange(m_stream, nullptr)) != 0)
+    if (!Succeeded(std::fclose(std::exchange(m_stream, nullptr)) == 0))
     {
         std::filesystem::remove(m_draft, error);
         return false;
     }
     auto const moved = Retry(move_tries, [&] {
         std::filesystem::rename(m_draft, m_file, error);
-        return !error || error == std::errc::is_a_directory;
+        return !error || error == std::errc::is_a_directory || error == std::errc::no_such_file_or_directory;
     });
     if (!moved || error)
     {
+        m_error = WindowsNumber(error);
         std::error_code ignored;
         std::filesystem::remove(m_draft, ignored);
         return false;

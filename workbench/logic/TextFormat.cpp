@@ -111,7 +111,7 @@ std::wstring FormatSampleRate(std::uint32_t sampleRate)
 
 std::wstring FormatCount(std::size_t count, wchar_t const * singular, wchar_t const * plural)
 {
-    return std::to_wstring(count) + L' ' + (count == 1 ? singular : plural);
+    return FormatThousands(count) + L' ' + (count == 1 ? singular : plural);
 }
 
 } // namespace workbench

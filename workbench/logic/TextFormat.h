@@ -50,7 +50,7 @@ std::wstring FormatThousands(std::uint64_t number);
 /// A sample rate as "48,000 Hz".
 std::wstring FormatSampleRate(std::uint32_t sampleRate);
 
-/// "1 recording", "9 recordings".
+/// "1 recording", "5,000 recordings".
 std::wstring FormatCount(std::size_t count, wchar_t const * singular, wchar_t const * plural);
 
 } // namespace workbench

@@ -9,6 +9,7 @@
 #include <functional>
 #include <iterator>
 #include <map>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -526,6 +527,101 @@ TEST_F(WorkbenchControls, TheTreeFollowsAReloadAndIsRemembered)
     EXPECT_LT(list.left, after.left + 10);
 }
 
+/// What stands at the top of a tree after each of its messages, and how often it was painted.
+class TreeWatch
+{
+public:
+    explicit TreeWatch(HWND tree) : m_tree(tree)
+    {
+        ::SetWindowSubclass(m_tree, &TreeWatch::Procedure, 1, reinterpret_cast<DWORD_PTR>(this));
+    }
+    ~TreeWatch() { ::RemoveWindowSubclass(m_tree, &TreeWatch::Procedure, 1); }
+    TreeWatch(TreeWatch const &) = delete;
+    TreeWatch & operator=(TreeWatch const &) = delete;
+
+    HTREEITEM Top() const { return TreeView_GetFirstVisible(m_tree); }
+    HTREEITEM Chosen() const { return TreeView_GetSelection(m_tree); }
+    std::set<HTREEITEM> const & Tops() const { return m_tops; }
+    std::set<HTREEITEM> const & ChosenOnes() const { return m_chosen; }
+    int Paints() const { return m_paints; }
+
+private:
+    static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wide, LPARAM parameter, UINT_PTR,
+                                      DWORD_PTR reference)
+    {
+        auto & watch = *reinterpret_cast<TreeWatch *>(reference);
+        auto const result = ::DefSubclassProc(window, message, wide, parameter);
+        if (message != TVM_GETNEXTITEM)
+        {
+            watch.m_tops.insert(watch.Top());
+            watch.m_chosen.insert(watch.Chosen());
+        }
+        watch.m_paints += message == WM_PAINT ? 1 : 0;
+        return result;
+    }
+
+    HWND m_tree;
+    std::set<HTREEITEM> m_tops;
+    std::set<HTREEITEM> m_chosen;
+    int m_paints = 0;
+};
+
+TEST_F(WorkbenchControls, AReloadMovesNothingInTheTree)
+{
+    constexpr int folders = 5000;
+    auto const folder = m_folder / "recordings";
+    for (int i = 0; i < folders; ++i)
+    {
+        fs::create_directories(folder / ("f" + std::to_string(10000 + i)));
+    }
+    Show(30);
+    m_window->ShowFolders(true);
+    auto const filled = [&] { return !Tree().IsBusy() && Tree().GetCount() > folders; };
+    ASSERT_TRUE(tests::PumpUntil(filled, tests::read_limit));
+    List().SetFocus();
+    List().ChooseLine(20);
+    auto const shown = [&] { return Tree().PathOf(Tree().GetSelectedItem()) == folder / "r00020.wav"; };
+    ASSERT_TRUE(tests::PumpUntil(shown));
+    auto const item = Tree().FolderItem(folder);
+    auto const middle = Tree().FolderItem(folder / "f12345");
+    auto const reload = [&] {
+        m_window->SendMessage(WM_COMMAND, ID_RELOAD);
+        ASSERT_TRUE(WaitUntilRead());
+        ASSERT_TRUE(tests::PumpUntil([&] { return !Tree().IsBusy(); }));
+        tests::PumpPosted();
+    };
+    // The user has scrolled away from what is chosen, and then chosen a folder in sight.
+    for (auto const chosen : {Tree().GetSelectedItem(), middle})
+    {
+        Tree().SelectItem(chosen);
+        Tree().SelectSetFirstVisible(middle);
+        Tree().UpdateWindow();
+        TreeWatch const watch(Tree().m_hWnd);
+        reload();
+        EXPECT_EQ(watch.Tops(), std::set{middle});
+        EXPECT_EQ(watch.ChosenOnes(), std::set{chosen});
+        EXPECT_EQ(watch.Paints(), 0);
+    }
+    // What comes and goes above it does not push it away.
+    {
+        fs::remove(folder / "f10000");
+        fs::create_directories(folder / "f11111b");
+        TreeWatch const watch(Tree().m_hWnd);
+        reload();
+        EXPECT_EQ(Tree().FolderItem(folder / "f10000"), nullptr);
+        EXPECT_NE(Tree().FolderItem(folder / "f11111b"), nullptr);
+        EXPECT_EQ(watch.Top(), middle);
+    }
+    // A branch that the user has closed stays closed.
+    Tree().Expand(item, TVE_COLLAPSE);
+    reload();
+    EXPECT_EQ(Tree().GetItemState(item, TVIS_EXPANDED) & TVIS_EXPANDED, 0U);
+    EXPECT_EQ(Tree().GetSelectedItem(), item);
+    // Whoever opens it again is shown what is in it.
+    m_window->ShowTargets({folder});
+    EXPECT_TRUE(tests::PumpUntil([&] { return (Tree().GetItemState(item, TVIS_EXPANDED) & TVIS_EXPANDED) != 0; }));
+}
+
 TEST_F(WorkbenchControls, ContrastIsChosenInTheSettingsAndStays)
 {
     Show(2);
@@ -644,6 +740,74 @@ TEST_F(WorkbenchControls, ColumnsAreChosenInADropDownOfTheSettings)
     List().EditComment(0);
     List().ChooseRating(0);
     EXPECT_FALSE(List().IsEditing());
+}
+
+TEST_F(WorkbenchControls, TheSettingsHaveTheColumnsInTheOrderOfTheList)
+{
+    Show(2);
+    auto const moveToFront = [this](int column) {
+        auto & header = *List().GetHeaderCtrl();
+        CRect from;
+        CRect to;
+        header.GetItemRect(column, &from);
+        header.GetItemRect(List().ColumnOrder().front(), &to);
+        tests::Drag(tests::ClientPoint(header.m_hWnd, from.CenterPoint()),
+                    tests::ClientPoint(header.m_hWnd, CPoint(to.left + 3, to.CenterPoint().y)));
+        ASSERT_TRUE(tests::PumpUntil([&] { return List().ColumnOrder().front() == column; }));
+        tests::PumpPosted();
+    };
+    moveToFront(CRecordingList::column_duration);
+    OpenSettings();
+    auto & field = *Page(list_page).GetDlgItem(IDC_COLUMNS);
+    auto & order = *static_cast<CListBox *>(Page(list_page).GetDlgItem(IDC_COLUMN_ORDER));
+    EXPECT_EQ(TextOf(field), L"Duration, Ref., Waveform, Channels, \u2026");
+    // A line that is moved on the page moves in the drop-down, too, which says what the columns were chosen by.
+    order.SetCurSel(0);
+    Page(list_page).SendMessage(WM_COMMAND, IDC_COLUMN_DOWN);
+    Page(list_page).SendMessage(WM_COMMAND, IDC_COLUMN_DOWN);
+    EXPECT_EQ(TextOf(field), L"Ref., Duration, Waveform, Channels, \u2026");
+    field.SetFocus();
+    std::vector<HWND> const known{Sheet().m_hWnd, m_window->m_hWnd, nullptr};
+    auto const list = [&] { return ::GetDlgItem(::GetDlgItem(OtherPopup(known), 1016), 32802); };
+    std::vector<std::wstring> rows;
+    tests::LaterActions later;
+    later.Add(
+        [&] {
+            for (auto row = 0; row < 15; ++row)
+            {
+                wchar_t text[40] = L"";
+                ListView_GetItemText(list(), row, 0, text, 40);
+                rows.emplace_back(text);
+            }
+            RECT row{LVIR_LABEL, 0, 0, 0};
+            ::SendMessageW(list(), LVM_GETITEMRECT, 1, reinterpret_cast<LPARAM>(&row));
+            tests::Click(tests::ClientPoint(list(), CPoint(row.left + 6, (row.top + row.bottom) / 2)));
+        },
+        [&] { return ::SendMessageW(list(), LVM_GETITEMCOUNT, 0, 0) == 15 && ::IsWindowVisible(list()); });
+    later.Add([] { tests::Key(VK_RETURN); },
+              [&] { return ::SendMessageW(list(), LVM_GETITEMSTATE, 1, LVIS_STATEIMAGEMASK) >> 12 == 1; });
+    tests::Key(VK_F4);
+    ASSERT_TRUE(tests::PumpUntil([&] { return later.Done() && IsSettingsActive(); }));
+    ASSERT_FALSE(later.Failed());
+    ASSERT_EQ(rows.size(), 15U);
+    EXPECT_EQ((std::vector(rows.begin(), rows.begin() + 4)),
+              (std::vector<std::wstring>{L"Ref.", L"Duration", L"Waveform", L"Channels"}));
+    tests::PumpPosted();
+    ASSERT_TRUE(CanApply());
+    Sheet().SendMessage(WM_COMMAND, ID_APPLY_NOW);
+    EXPECT_EQ(List().HiddenColumns().count(CRecordingList::column_duration), 1U);
+    EXPECT_EQ(List().HiddenColumns().count(CRecordingList::column_channels), 0U);
+    EXPECT_EQ(TextOf(field), L"Ref., Waveform, Channels, Rate (Hz), \u2026");
+    // What is dragged at the list while the page shows is seen there.
+    Sheet().SetWindowPos(nullptr, 0, 400, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    tests::PumpPosted();
+    moveToFront(CRecordingList::column_channels);
+    CString first;
+    order.GetText(0, first);
+    EXPECT_EQ(first, L"Channels");
+    EXPECT_EQ(TextOf(field), L"Channels, Ref., Waveform, Rate (Hz), \u2026");
+    Sheet().CloseDialog();
+    ASSERT_TRUE(WaitUntilClosed());
 }
 
 TEST_F(WorkbenchControls, KeysMoveFromCellToCellAtOnceWhenWished)
@@ -831,8 +995,22 @@ TEST_F(WorkbenchControls, TheListIsExportedIntoAFile)
     EXPECT_NE(chosen.find("r00001.wav"), std::string::npos);
     exportTo(m_folder / "list.html", 0);
     EXPECT_TRUE(contents(m_folder / "list.html").starts_with("<!DOCTYPE html>"));
-    exportTo(m_folder / "gone" / "list.txt", 0);
-    EXPECT_EQ(tests::App().TakeMessages().size(), 1U);
+    // Why one cannot be written is said.
+    auto const locale = ::GetThreadLocale();
+    auto const gone = m_folder / "gone" / "list.txt";
+    for (auto const & [language, text] :
+         {std::pair{1033, std::pair{L"This file could not be written:\n\n", L": the folder is not there any more"}},
+          {1031, {L"Diese Datei lie\u00DF sich nicht schreiben:\n\n", L": der Ordner ist nicht mehr da"}},
+          {3082, {L"No se pudo escribir este archivo:\n\n", L": la carpeta ya no est\u00E1"}}})
+    {
+        m_window->ChooseLanguage(static_cast<unsigned short>(language));
+        exportTo(gone, 0);
+        EXPECT_EQ(tests::App().TakeMessages(), std::vector<std::wstring>{text.first + gone.wstring() + text.second});
+    }
+    m_window->ChooseLanguage(1033);
+    ::SetThreadLocale(locale);
+    ::SetThreadUILanguage(0);
+    EXPECT_FALSE(fs::exists(gone.parent_path()));
 }
 
 TEST_F(WorkbenchControls, StartFoldersAreAddedAndRemoved)

@@ -121,6 +121,59 @@ TEST_F(WorkbenchLanguage, ATypedNameCountsAndAWrongOneIsToldOf)
     EXPECT_EQ(dialog.SprachId(), 3082);
 }
 
+TEST_F(WorkbenchLanguage, TypedLettersChooseTheFirstThatBeginsWithThem)
+{
+    CLanguageDialog dialog(1033, *m_window);
+    struct Field
+    {
+        std::wstring text;
+        int chosen;
+        DWORD selection;
+    };
+    auto const field = [&] {
+        return Field{TextOf(List(dialog)), static_cast<int>(::SendMessageW(List(dialog), CB_GETCURSEL, 0, 0)),
+                     static_cast<DWORD>(::SendMessageW(List(dialog), CB_GETEDITSEL, 0, 0))};
+    };
+    std::vector<Field> seen;
+    std::vector<std::wstring> items;
+    auto const result = Run(dialog, {[&] {
+                                         items = Items(List(dialog));
+                                         tests::Type(L"d");
+                                     },
+                                     [&] {
+                                         seen.push_back(field());
+                                         tests::Type(L"e");
+                                     },
+                                     [&] {
+                                         seen.push_back(field());
+                                         tests::Key(VK_BACK);
+                                     },
+                                     [&] {
+                                         seen.push_back(field());
+                                         tests::Key(VK_HOME, {VK_SHIFT});
+                                     },
+                                     [&] { tests::Type(L"es"); },
+                                     [&] {
+                                         seen.push_back(field());
+                                         tests::Key(VK_RETURN);
+                                     }});
+    EXPECT_EQ(result, IDOK);
+    auto const place = [&](wchar_t const * name) {
+        return static_cast<int>(std::ranges::find(items, name) - items.begin());
+    };
+    ASSERT_EQ(seen.size(), 4U);
+    EXPECT_EQ(seen[0].text, L"Deutsch");
+    EXPECT_EQ(seen[0].chosen, place(L"Deutsch"));
+    EXPECT_EQ(seen[0].selection, static_cast<DWORD>(MAKELONG(1, 7)));
+    EXPECT_EQ(seen[1].text, L"Deutsch");
+    EXPECT_EQ(seen[1].selection, static_cast<DWORD>(MAKELONG(2, 7)));
+    EXPECT_EQ(seen[2].text, L"De") << "what is taken away stays away";
+    EXPECT_EQ(seen[3].text, L"Espa\u00F1ol");
+    EXPECT_EQ(seen[3].chosen, place(L"Espa\u00F1ol"));
+    EXPECT_EQ(seen[3].selection, static_cast<DWORD>(MAKELONG(2, 7)));
+    EXPECT_EQ(dialog.SprachId(), 3082);
+}
+
 TEST_F(WorkbenchLanguage, AMenuOpenedInSpanishIsSpanish)
 {
     workbench::UseLanguage(3082);

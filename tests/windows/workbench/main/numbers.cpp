@@ -60,10 +60,33 @@ TEST_F(WorkbenchNumbers, AChangeOfTheRegionCountsAtOnceInTheListTheDetailsAndThe
     EXPECT_EQ(Cell(0, CRecordingList::column_duration), L"0:00,010");
     EXPECT_EQ(Cell(2, CRecordingList::column_rate), L"48.000");
     EXPECT_NE(Details().find(L"Size:\t1.004 bytes\r\n"), std::wstring::npos);
+    EXPECT_NE(Status().find(L": 0 dBFS peak, -3,0 dBFS RMS."), std::wstring::npos);
     ChangeRegion(L"::", L"'");
     EXPECT_EQ(Cell(0, CRecordingList::column_duration), L"0:00::010");
     EXPECT_EQ(Cell(2, CRecordingList::column_rate), L"48'000");
     EXPECT_NE(Details().find(L"Size:\t1'004 bytes\r\n"), std::wstring::npos);
+}
+
+TEST_F(WorkbenchNumbers, TheHelpHasThemInEachLanguage)
+{
+    auto const locale = ::GetThreadLocale();
+    ASSERT_TRUE(m_window->Help().Show(workbench::HelpTopic::measures));
+    auto const has = [this](wchar_t const * number) {
+        CString text;
+        m_window->Help().GetDlgItemText(IDC_HELP_PAGE, text);
+        return text.Find(number) >= 0;
+    };
+    for (auto const language : {1033, 1031, 3082})
+    {
+        m_window->ChooseLanguage(static_cast<unsigned short>(language));
+        ChangeRegion(L",", L".");
+        EXPECT_TRUE(has(L": -0,691 + 10")) << language;
+        ChangeRegion(L".", L",");
+        EXPECT_TRUE(has(L": -0.691 + 10")) << language;
+    }
+    m_window->ChooseLanguage(1033);
+    ::SetThreadLocale(locale);
+    ::SetThreadUILanguage(0);
 }
 
 TEST_F(WorkbenchNumbers, SortingIsByTheValues)

@@ -625,7 +625,11 @@ TEST_F(WaveformPlot, IsSavedAsAPicture)
     // Where it can't be written, what was there stays.
     EXPECT_FALSE(workbench::SavePicture(m_host, CSize(0, 0), draw, file));
     EXPECT_TRUE(std::filesystem::exists(file));
-    EXPECT_FALSE(workbench::SavePicture(m_host, CSize(40, 20), draw, L"Z:\\no such folder\\picture.png"));
+    unsigned long reason = 0;
+    EXPECT_FALSE(workbench::SavePicture(m_host, CSize(40, 20), draw, L"Z:\\no such folder\\picture.png", &reason));
+    EXPECT_EQ(reason, static_cast<unsigned long>(ERROR_PATH_NOT_FOUND));
+    EXPECT_FALSE(workbench::SavePicture(m_host, CSize(0, 0), draw, L"Z:\\no such folder\\picture.png", &reason));
+    EXPECT_EQ(reason, 0U) << "there is no picture";
     std::error_code error;
     std::filesystem::remove(file, error);
 }

@@ -176,6 +176,7 @@ TEST_F(WorkbenchReport, SaysWhatCannotBeWritten)
     ShowMarked(2, {1});
     EXPECT_FALSE(m_window->WriteReport(m_folder / "none" / "report.html"));
     EXPECT_FALSE(m_window->Report().IsWriting());
+    EXPECT_EQ(m_window->Report().Error(), static_cast<unsigned long>(ERROR_PATH_NOT_FOUND));
     // A folder stands in its place by the time that it is finished.
     fs::create_directories(m_file / "inside");
     ASSERT_TRUE(m_window->WriteReport(m_file));
@@ -183,8 +184,10 @@ TEST_F(WorkbenchReport, SaysWhatCannotBeWritten)
     EXPECT_TRUE(fs::is_directory(m_file));
     auto const messages = tests::App().TakeMessages();
     ASSERT_EQ(messages.size(), 1U);
-    EXPECT_EQ(messages.front().find(L"This file could not be written:"), 0U);
+    EXPECT_EQ(messages.front(),
+              L"This file could not be written:\n\n" + m_file.wstring() + L": you have no permission for it");
     EXPECT_EQ(Status().find(L"report"), std::wstring::npos);
+    EXPECT_FALSE(fs::exists(m_file.wstring() + L".new"));
 }
 
 TEST_F(WorkbenchReport, IsOfferedForMarkedRecordingsAlone)
