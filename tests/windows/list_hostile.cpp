@@ -474,6 +474,20 @@ TEST_F(DeletedList, AtADoubleClick)
     Press(WM_LBUTTONDBLCLK, 1, 1);
 }
 
+TEST_F(DeletedList, AtAPressOnAHeaderThatTellsOfItItself)
+{
+    m_list->SetHeaderDirectColumnClick();
+    m_list->SetHeaderAutoCheckbox(true);
+    for (int row = 0; row < 4; ++row)
+        m_list->SetCheckbox(row, 1, XLC_UNCHECKED);
+    m_list->SetHeaderCheckedState(1, XHC_UNCHECKED);
+    m_list->m_onStateChange = Deletes();
+    HWND const header = m_list->GetHeaderCtrl()->m_hWnd;
+    CRect title;
+    ASSERT_TRUE(m_list->GetHeaderCtrl()->GetItemRect(1, &title));
+    ::SendMessageW(header, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(title.CenterPoint().x, title.CenterPoint().y));
+}
+
 TEST_F(DeletedList, AtAHeaderClick)
 {
     m_list->SetHeaderAutoCheckbox(true);
