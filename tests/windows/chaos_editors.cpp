@@ -33,30 +33,49 @@ public:
     }
 
 protected:
-    /// Disturbs with what its editors tell it.
+    /// Disturbs with what its editors tell and ask it.
     class List : public tests::TestList
     {
     public:
         explicit List(EditorWorld & world) : m_world(world) {}
 
     protected:
-        BOOL OnCommand(WPARAM wParam, LPARAM lParam) override
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
         {
-            EditorWorld & world = m_world;
-            // The native edit does not stand its end while it tells of a change.
-            bool const ofEdit = LOWORD(wParam) == edit_id;
-            if (!ofEdit || HIWORD(wParam) == EN_SETFOCUS || HIWORD(wParam) == EN_KILLFOCUS)
+            bool const tells = message == WM_COMMAND;
+            bool const ofEdit = tells && LOWORD(wParam) == edit_id;
+            bool const ofFocus = ofEdit && (HIWORD(wParam) == EN_SETFOCUS || HIWORD(wParam) == EN_KILLFOCUS);
+            // What an edit tells of its text or asks may come within native code of the list, which does not stand the
+            // loss of its rows.
+            bool const within = (ofEdit && !ofFocus) || message == WM_CTLCOLOREDIT;
+            if ((tells && !within) || (within && m_native == 0))
             {
+                EditorWorld & world = m_world;
                 List const * const self = this;
+                HWND const outer = world.m_telling;
+                if (ofEdit)
+                    world.m_telling = reinterpret_cast<HWND>(lParam);
                 world.Disturb();
-                if (world.m_list.get() != self)
-                    return TRUE;
+                world.m_telling = outer;
+                if (world.m_list.get() != self || m_hWnd == nullptr)
+                    return 0;
             }
-            return TestList::OnCommand(wParam, lParam);
+            return TestList::WindowProc(message, wParam, lParam);
+        }
+        LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            EditorWorld const & world = m_world;
+            List const * const self = this;
+            ++m_native;
+            LRESULT const result = TestList::DefWindowProc(message, wParam, lParam);
+            if (world.m_list.get() == self)
+                --m_native;
+            return result;
         }
 
     private:
         EditorWorld & m_world;
+        int m_native = 0;
     };
 
     void Hear(NMHDR const & header)
@@ -78,6 +97,8 @@ protected:
     }
 
     HWND Edit() const { return m_list != nullptr ? tests::OpenEditOf(*m_list) : nullptr; }
+    /// None that tells of a change: the native edit does not stand another one meanwhile.
+    HWND TypedEdit() const { return Edit() != m_telling ? Edit() : nullptr; }
     static HWND Combo() { return tests::OpenCombo(); }
 
     void Open()
@@ -130,7 +151,7 @@ protected:
             break;
         case 6:
             Note("type into the edit");
-            ::SendMessageW(Edit(), WM_CHAR, L'a' + static_cast<WPARAM>(Pick(26)), 0);
+            ::SendMessageW(TypedEdit(), WM_CHAR, L'a' + static_cast<WPARAM>(Pick(26)), 0);
             break;
         case 7:
             Note("Return in the edit");
@@ -142,7 +163,7 @@ protected:
             break;
         case 9:
             Note("a text for the edit");
-            ::SendMessageW(Edit(), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"text"));
+            ::SendMessageW(TypedEdit(), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"text"));
             break;
         case 10:
             Note("Return in the combo");
@@ -221,6 +242,8 @@ private:
     tests::ListParent m_host;
     CButton m_button;
     std::unique_ptr<List> m_list;
+    /// The edit that is telling something.
+    HWND m_telling = nullptr;
 };
 
 TEST(ChaosEditors, NoHostBreaksTheListByItsEditors)

@@ -480,6 +480,8 @@ public:
     CIdNameMultiselectCtrl & Control() { return m_control; }
     /// Above 0 while native code, or the window's making, does not stand its end.
     int m_held = 0;
+    /// Above 0 while a message may exchange the dialog's data.
+    int m_exchanging = 0;
 
 protected:
     BOOL OnInitDialog() override;
@@ -539,14 +541,10 @@ protected:
             Note("end");
             if (dialog.m_held == 0 && OneIn(4))
             {
-                if (OneIn(2))
-                    dialog.EndDialog(IDCANCEL);
-                else
-                {
-                    // Without it the exchange of the dialog's data fails from then on.
-                    dialog.EndDialog(IDCANCEL);
+                dialog.EndDialog(IDCANCEL);
+                // Without it the exchange of the dialog's data fails from then on.
+                if (dialog.m_exchanging == 0 && OneIn(2))
                     dialog.Control().DestroyWindow();
-                }
             }
             break;
         case 4:
@@ -612,13 +610,16 @@ LRESULT ChaosDialog::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     bool const holds = quiet || message == WM_PARENTNOTIFY || message == WM_INITDIALOG || message == WM_ERASEBKGND ||
                        message == WM_PAINT || message == WM_DRAWITEM || message == WM_PRINTCLIENT ||
                        (message >= WM_CTLCOLORMSGBOX && message <= WM_CTLCOLORSTATIC);
+    bool const exchanges = message == WM_COMMAND || message == WM_IDNAME_MULTISELECT_EVENT;
     m_held += holds;
+    m_exchanging += exchanges;
     if (!quiet)
         m_world.Disturb();
     LRESULT const result = m_hWnd != nullptr ? CIdNameMultiselectDlg::WindowProc(message, wParam, lParam) : 0;
     if (!quiet)
         m_world.Disturb();
     m_held -= holds;
+    m_exchanging -= exchanges;
     return result;
 }
 } // namespace

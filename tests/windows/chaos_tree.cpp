@@ -3,8 +3,9 @@
 // Native trees do not stand everything in their notifications. A plain program without us, each item's memory
 // overwritten once it is free, shows what the host here leaves out:
 // - The window ends while native code of it runs.
-// - An item goes, alone or with one above it, while the parent is asked for its text, while it is being entered or
-// chosen.
+// - An item goes, alone or with one above it, while the parent is asked for its text or while it is being entered; any
+// item, while one is being chosen, opened or closed.
+// - It is painted while an item is being entered or deleted.
 // - Another item goes while one is deleted: the tree holds the one shown ahead of it.
 // - While an item is deleted: it or what is below it is chosen, or gets items below it, which never ends.
 // - While all items are deleted: any of this.
@@ -40,7 +41,9 @@ public:
     bool MayGo(HTREEITEM item) const;
     /// Whether it stands it that the item is chosen or gets items below it now.
     bool MayChange(HTREEITEM item) const;
-    bool MayBeReset() const { return m_going.empty() && m_needed.empty() && m_coming.empty(); }
+    /// Whether the native tree stands it that it is painted.
+    bool MayBePainted() const { return m_going.empty() && m_coming.empty(); }
+    bool MayBeReset() const { return MayBePainted() && m_needed.empty() && m_opening == 0; }
 
     std::vector<HTREEITEM> Items() const;
     /// Items whose texts the parent is being asked for, and such as are being chosen.
@@ -53,6 +56,8 @@ protected:
 private:
     TreeWorld & m_world;
     int m_native = 0;
+    /// Above 0 while the native tree chooses, opens or closes items.
+    int m_opening = 0;
     /// Items that the native tree is deleting; TVI_ROOT for all.
     std::vector<HTREEITEM> m_going;
     /// Where an item is being entered, and which were there before.
@@ -177,7 +182,7 @@ bool ChaosTree::IsUnder(HTREEITEM item, HTREEITEM top) const
 
 bool ChaosTree::MayGo(HTREEITEM item) const
 {
-    if (!m_going.empty())
+    if (!m_going.empty() || m_opening > 0)
         return false;
     auto const isUnder = [&](HTREEITEM each) { return IsUnder(each, item); };
     auto const isUnderOrNew = [&](Coming const & coming) {
@@ -218,7 +223,19 @@ LRESULT ChaosTree::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     TreeWorld & world = m_world; // this object may end
     bool const quiet = message == WM_NCDESTROY || message == WM_DESTROY || message == WM_NCCREATE;
     if (quiet || !world.Lives(this) || world.IsLooking())
-        return CXTreeCtrl::WindowProc(message, wParam, lParam);
+    {
+        // No object stands its end while its window ends.
+        m_native += quiet;
+        LRESULT const result = CXTreeCtrl::WindowProc(message, wParam, lParam);
+        if (world.Lives(this))
+            m_native -= quiet;
+        return result;
+    }
+    if (message == WM_PAINT && !MayBePainted())
+    {
+        ::ValidateRect(m_hWnd, nullptr);
+        return 0;
+    }
     world.Disturb();
     if (!world.Lives(this) || m_hWnd == nullptr)
         return 0;
@@ -243,9 +260,9 @@ LRESULT ChaosTree::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
         HTREEITEM const parent = reinterpret_cast<TVINSERTSTRUCTW const *>(lParam)->hParent;
         m_coming.push_back({parent == TVI_ROOT ? nullptr : parent, world.Look(*this)});
     }
-    bool const chooses = message == TVM_SELECTITEM;
-    if (chooses)
-        m_needed.push_back(reinterpret_cast<HTREEITEM>(lParam));
+    bool const opens =
+        message == TVM_SELECTITEM || message == TVM_EXPAND || message == WM_KEYDOWN || message == WM_LBUTTONDBLCLK;
+    m_opening += opens;
     ++m_native;
     LRESULT const result = CXTreeCtrl::DefWindowProc(message, wParam, lParam);
     if (!world.Lives(this))
@@ -255,8 +272,7 @@ LRESULT ChaosTree::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
         m_going.pop_back();
     if (enters)
         m_coming.pop_back();
-    if (chooses)
-        m_needed.pop_back();
+    m_opening -= opens;
     return result;
 }
 

@@ -2,11 +2,15 @@
 
 #include "controls/ComboBoxX.h"
 
+#include "GuardedHeap.h"
 #include "controls_ControlTest.h"
 
 #include <afxpriv.h>
 
 #include <algorithm>
+#include <functional>
+#include <memory>
+#include <utility>
 #include <vector>
 
 namespace
@@ -314,6 +318,46 @@ TEST_F(ComboBoxXWidth, IsFittedWhenTheDropDownOpensIfWanted)
     m_combo.ShowDropDown(TRUE);
     EXPECT_GT(m_combo.GetDroppedWidth(), before + 100);
     m_combo.ShowDropDown(FALSE);
+}
+
+/// Ends in what its tip tells it.
+class ToldCombo : public OpenCombo
+{
+public:
+    std::function<void()> m_onShown;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message == WM_NOTIFY && reinterpret_cast<NMHDR const *>(lParam)->code == TTN_SHOW && m_onShown)
+        {
+            auto const act = std::exchange(m_onShown, {});
+            act();
+            return 0;
+        }
+        return OpenCombo::WindowProc(message, wParam, lParam);
+    }
+};
+
+TEST_F(ComboBoxXTip, OutlastsAComboBoxThatEndsAsItIsShown)
+{
+    tests::GuardedHeap heap;
+    auto combo = std::make_unique<ToldCombo>();
+    ASSERT_TRUE(combo->Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWNLIST, CRect(10, 60, 10 + width, 200), &m_host, 9));
+    combo->AddItem(CString(L'm', 60), 1);
+    combo->SetCurSel(0);
+    HWND const tip = combo->m_toolTipWnd;
+    bool isThere = false;
+    combo->m_onShown = [&] {
+        combo.reset();
+        isThere = ::IsWindow(tip) != FALSE;
+        EXPECT_FALSE(::IsWindowVisible(tip));
+        EXPECT_EQ(::GetWindow(tip, GW_OWNER), nullptr);
+    };
+    ::SendMessageW(combo->m_hWnd, WM_MOUSEMOVE, 0, MAKELPARAM(width / 4, 8));
+    EXPECT_EQ(combo, nullptr) << "it was told";
+    EXPECT_TRUE(isThere) << "its native code goes on";
+    EXPECT_FALSE(::IsWindow(tip));
 }
 
 TEST_F(ComboBoxXTip, LiesOverATextThatIsTooWide)

@@ -474,6 +474,20 @@ TEST_F(DeletedList, AtADoubleClick)
     Press(WM_LBUTTONDBLCLK, 1, 1);
 }
 
+TEST_F(DeletedList, AtAPressOnAHeaderThatTellsOfItItself)
+{
+    m_list->SetHeaderDirectColumnClick();
+    m_list->SetHeaderAutoCheckbox(true);
+    for (int row = 0; row < 4; ++row)
+        m_list->SetCheckbox(row, 1, XLC_UNCHECKED);
+    m_list->SetHeaderCheckedState(1, XHC_UNCHECKED);
+    m_list->m_onStateChange = Deletes();
+    HWND const header = m_list->GetHeaderCtrl()->m_hWnd;
+    CRect title;
+    ASSERT_TRUE(m_list->GetHeaderCtrl()->GetItemRect(1, &title));
+    ::SendMessageW(header, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(title.CenterPoint().x, title.CenterPoint().y));
+}
+
 TEST_F(DeletedList, AtAHeaderClick)
 {
     m_list->SetHeaderAutoCheckbox(true);
@@ -498,6 +512,8 @@ protected:
         {
             auto const act = std::exchange(m_act, {});
             act();
+            if (m_hWnd == nullptr)
+                return 0;
         }
         return TestList::WindowProc(message, wParam, lParam);
     }
@@ -538,11 +554,46 @@ protected:
         EXPECT_EQ(m_list.GetItemText(1, 1).Right(5), L"typed");
     }
 
+    /// Ends the list in the message that some action makes the native edit send; the edit must outlast the native code.
+    void EndListIn(UINT message, std::function<void()> const & action, std::function<void()> const & end)
+    {
+        bool isThere = false;
+        m_list.m_message = message;
+        m_list.m_act = [&] {
+            end();
+            isThere = ::IsWindow(m_edit) != FALSE;
+        };
+        action();
+        EXPECT_FALSE(m_list.m_act) << "it was asked";
+        EXPECT_EQ(m_list.m_hWnd, nullptr);
+        EXPECT_TRUE(isThere);
+        EXPECT_FALSE(::IsWindow(m_edit));
+    }
+    void Repaint() { ::RedrawWindow(m_edit, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW); }
+
     tests::GuardedHeap m_heap;
     tests::ListParent m_parent;
     AskedList m_list;
     HWND m_edit = nullptr;
 };
+
+TEST_F(AskedByItsEdit, ForItsColoursItMayEnd)
+{
+    EndListIn(
+        WM_CTLCOLOREDIT, [this] { Repaint(); }, [this] { m_list.DestroyWindow(); });
+}
+
+TEST_F(AskedByItsEdit, ForItsColoursItsParentMayEnd)
+{
+    EndListIn(
+        WM_CTLCOLOREDIT, [this] { Repaint(); }, [this] { m_parent.DestroyWindow(); });
+}
+
+TEST_F(AskedByItsEdit, ToldOfATypedLetterItMayEnd)
+{
+    EndListIn(
+        WM_COMMAND, [this] { ::SendMessageW(m_edit, WM_CHAR, L'x', 1); }, [this] { m_list.DestroyWindow(); });
+}
 
 TEST_F(AskedByItsEdit, ForItsColoursItMayEndIt)
 {

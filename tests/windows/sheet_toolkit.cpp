@@ -1,5 +1,6 @@
 // The toolkit's sheets: display, buttons, titles, stored places, layout of the children.
 
+#include "GuardedHeap.h"
 #include "sheet_Sheet3dTest.h"
 
 #include <exception>
@@ -483,6 +484,70 @@ TEST_F(PropertySheetRows, ThePageGivesTheTabsTheirRoom)
     EXPECT_EQ(sheet.PagePlace(), CRect(narrow.left, narrow.top, narrow.right, narrow.bottom + 40));
     sheet.SetSize(outer.Width() + 300, outer.Height());
     EXPECT_EQ(sheet.PagePlace(), wide) << "exactly";
+}
+
+/// Does something once, where it has been asked for its page.
+class AskedSheet : public Sheet3d
+{
+public:
+    std::function<void()> m_act;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        bool const acts = message == PSM_GETCURRENTPAGEHWND && m_act;
+        LRESULT const result = Sheet3d::WindowProc(message, wParam, lParam);
+        if (acts)
+        {
+            auto const act = std::exchange(m_act, {});
+            act();
+        }
+        return result;
+    }
+};
+
+class LeftPage : public Page3d
+{
+public:
+    using Page3d::Page3d;
+    std::function<void()> m_onLeft;
+
+    BOOL OnKillActive() override
+    {
+        if (auto const act = std::exchange(m_onLeft, {}))
+            act();
+        return Page3d::OnKillActive();
+    }
+};
+
+TEST_F(PropertySheetRows, ASheetMayEndWhileItLooksForItsRows)
+{
+    tests::GuardedHeap heap;
+    LeftPage page(m_notes, "a", CDialog3d::NO_DLL, IDD_PAGE_ONE, 0u);
+    auto sheet = std::make_unique<AskedSheet>();
+    WidenTitles(m_one, m_two, m_three);
+    sheet->AddPage(&page);
+    AddAll(*sheet);
+    ASSERT_NE(sheet->DisplayDialog(nullptr), 0);
+    int const rows = sheet->Rows();
+    HWND const window = sheet->m_hWnd;
+    HWND const tabs = sheet->GetTabControl()->m_hWnd;
+    CRect const outer = OuterOf(*sheet);
+    // Within a notification of the native sheet, so that the windows last longer than the object.
+    page.m_onLeft = [&] {
+        sheet->m_act = [&] {
+            EXPECT_LT(::SendMessageW(tabs, TCM_GETROWCOUNT, 0, 0), rows);
+            sheet.reset();
+        };
+        ::SetWindowPos(window, nullptr, 0, 0, outer.Width() + 500, outer.Height(),
+                       SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+        EXPECT_EQ(sheet, nullptr) << "it was asked";
+        EXPECT_TRUE(::IsWindow(window));
+    };
+    ::SendMessageW(window, PSM_SETCURSEL, 3, 0);
+    tests::PumpPosted();
+    EXPECT_EQ(sheet, nullptr);
+    EXPECT_FALSE(::IsWindow(window));
 }
 
 TEST_F(PropertySheetRows, ANewPageIsInTheMovedArea)

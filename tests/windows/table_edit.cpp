@@ -463,23 +463,83 @@ TEST_F(TableEdits, ColumnsMayGoWhileTheEditsPlaceIsLookedFor)
     table.reset();
 }
 
-/// Does something once, where its edit asks for colours.
+/// Does something once, where its edit asks for colours or tells of a change.
 class AskedTable : public tests::TestTable
 {
 public:
     std::function<void()> m_onAsked;
+    std::function<void()> m_onTold;
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
-        if (message == WM_CTLCOLOREDIT && m_onAsked)
-        {
-            auto const act = std::exchange(m_onAsked, {});
+        std::function<void()> act;
+        if (message == WM_CTLCOLOREDIT)
+            act = std::exchange(m_onAsked, {});
+        else if (message == WM_COMMAND && HIWORD(wParam) == EN_UPDATE)
+            act = std::exchange(m_onTold, {});
+        if (act)
             act();
-        }
         return TestTable::WindowProc(message, wParam, lParam);
     }
 };
+
+class AskedTables : public TableEdits
+{
+protected:
+    void SetUp() override
+    {
+        TableEdits::SetUp();
+        Make(Columns());
+    }
+    void Make(std::vector<TableColumn> columns)
+    {
+        m_asked = new AskedTable;
+        table.reset(m_asked);
+        table->SetColumns(std::move(columns));
+        ASSERT_TRUE(table->Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 380, 220), &parent, 7));
+        Show({1, 2, 3, 4});
+        ASSERT_TRUE(table->EditCell(1, TableRowsSource::name_column));
+        m_edit = Edit();
+        ASSERT_NE(m_edit, nullptr);
+    }
+
+    tests::GuardedHeap m_heap;
+    AskedTable * m_asked = nullptr;
+    HWND m_edit = nullptr;
+};
+
+TEST_F(AskedTables, MayEndWhileTheEditAsksForColours)
+{
+    bool isThere = false;
+    m_asked->m_onAsked = [&] {
+        table->DestroyWindow();
+        isThere = ::IsWindow(m_edit) != FALSE;
+    };
+    ::RedrawWindow(m_edit, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+    EXPECT_EQ(table->m_hWnd, nullptr) << "it was asked";
+    EXPECT_TRUE(isThere);
+    EXPECT_FALSE(::IsWindow(m_edit));
+    table.reset();
+}
+
+TEST_F(AskedTables, MayEndWhileTheTextIsTakenThatTheEditTellsOf)
+{
+    bool isThere = false;
+    std::vector<TableColumn> columns = Columns();
+    columns[TableRowsSource::name_column].check = [&](TableValue const &) {
+        table->DestroyWindow();
+        isThere = ::IsWindow(m_edit) != FALSE;
+        return std::wstring();
+    };
+    Make(std::move(columns));
+    m_asked->m_onTold = [this] { table->EndEdit(true); };
+    ::SendMessageW(m_edit, WM_CHAR, L'x', 1);
+    EXPECT_EQ(table->m_hWnd, nullptr);
+    EXPECT_TRUE(isThere);
+    EXPECT_FALSE(::IsWindow(m_edit));
+    table.reset();
+}
 
 TEST_F(TableEdits, TheHostMayEndTheEditThatAsksForColours)
 {

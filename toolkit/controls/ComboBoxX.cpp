@@ -7,6 +7,7 @@
 #include "controls/FieldWidths.h"
 #include "controls/ItemRows.h"
 #include "controls/TypeAhead.h"
+#include "frame/LastingWindow.h"
 #include "layout/WindowDpi.h"
 
 namespace
@@ -200,6 +201,9 @@ void CComboBoxX::PreSubclassWindow()
     HWND const tip = ::CreateWindowExW(0, L"tooltips_class32", nullptr, TTS_ALWAYSTIP | TTS_NOPREFIX, CW_USEDEFAULT,
                                        CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, window, nullptr, nullptr, nullptr);
     m_toolTipWnd = tip;
+    // It tells the combo box when it is shown or painted, in which the host may end both.
+    if (tip != nullptr)
+        lasting_window::Watch(tip);
     m_toolInfo = {};
     m_toolInfo.cbSize = sizeof m_toolInfo;
     m_toolInfo.uFlags = TTF_TRACK | TTF_TRANSPARENT;
@@ -232,7 +236,7 @@ void CComboBoxX::EndTip()
     HWND const tip = m_toolTipWnd;
     m_toolTipWnd = nullptr;
     if (tip != nullptr && ::IsWindow(tip))
-        ::DestroyWindow(tip);
+        lasting_window::End(tip);
 }
 
 void CComboBoxX::ShowTip(bool show)

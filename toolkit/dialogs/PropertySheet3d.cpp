@@ -224,7 +224,7 @@ void CPropertySheet3d::OnSize(UINT type, int cx, int cy)
     if (!Serves(window))
         return;
     CTabCtrl * const tabs = GetTabControl();
-    if (tabs == nullptr)
+    if (tabs == nullptr || !Serves(window))
         return;
     FollowTabRows(*tabs);
     if (Serves(window))
@@ -233,12 +233,15 @@ void CPropertySheet3d::OnSize(UINT type, int cx, int cy)
 
 void CPropertySheet3d::FollowTabRows(CTabCtrl & tabs)
 {
+    HWND const window = m_hWnd;
     int const rows = tabs.GetRowCount();
-    CPropertyPage const * const page = GetActivePage();
-    if (rows == m_tabRows || page == nullptr)
+    if (!Serves(window) || rows == m_tabRows)
         return;
     CRect tab(0, 0, 0, 0);
     tabs.GetItemRect(0, &tab);
+    CPropertyPage const * const page = Serves(window) ? GetActivePage() : nullptr;
+    if (page == nullptr || !Serves(window) || m_resizer == nullptr)
+        return;
     TabRows::Change const change = TabRows::ChangeOfRows(m_tabRows, rows, tab);
     m_resizer->RepositionChild(page, &change.offset, &change.growth, false);
     // Before the layout, in which the host's code may run and find the sheet resized once more.

@@ -37,7 +37,14 @@ void CXEdit::Close()
     m_windowWaits = true;
     if (::GetCapture() == m_hWnd)
         ::ReleaseCapture();
-    ShowWindow(SW_HIDE);
+    HWND const window = m_hWnd;
+    ::ShowWindow(window, SW_HIDE);
+    // The list, or a window above it, may be ending: the edit does not go with them.
+    if (::IsWindow(window))
+    {
+        ModifyStyleEx(0, WS_EX_NOPARENTNOTIFY);
+        ::SetParent(window, HWND_MESSAGE);
+    }
 }
 
 void CXEdit::End()

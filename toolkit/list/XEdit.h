@@ -9,8 +9,8 @@ namespace XListCtrl
 /// WM_XEDIT_VK_ESCAPE to leave the cell as it was. The list then ends the edit, within that message.
 ///
 /// A host may have an edit ended at any time, also where the edit asks it for its colours or tells it of a change. The
-/// native edit goes on with what it knew after that, so the window is hidden then, and goes when the native code has
-/// come back. The object outlives whatever message it is in.
+/// native edit goes on with what it knew after that, so the window leaves its parent then, and goes when the native
+/// code has come back. The object outlives whatever message it is in.
 class CXEdit : public CEdit
 {
 public:

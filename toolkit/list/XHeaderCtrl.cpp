@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "access/ControlTarget.h"
+#include "frame/WindowAlive.h"
 #include "layout/Resolution.h"
 #include "list/CheckMarks.h"
 #include "list/XListCtrl.h"
@@ -134,6 +135,7 @@ BOOL CXHeaderCtrl::SetDpi(UINT dpi)
 
 void CXHeaderCtrl::OnLButtonDown(UINT flags, CPoint point)
 {
+    WindowAlive const watch(*this, m_life);
     if (m_directColumnClick && m_list != nullptr)
     {
         int const count = GetItemCount();
@@ -148,7 +150,9 @@ void CXHeaderCtrl::OnLButtonDown(UINT flags, CPoint point)
             }
         }
     }
-    CHeaderCtrl::OnLButtonDown(flags, point);
+    // The host has heard of the click, and may have ended the list.
+    if (watch.IsAlive())
+        CHeaderCtrl::OnLButtonDown(flags, point);
 }
 
 // --- What programs that read the screen see ---

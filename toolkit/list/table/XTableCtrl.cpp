@@ -102,9 +102,9 @@ void CXTableCtrl::OnDestroy()
     // What the native list has of the table's ends with the table.
     m_state->rowHeight.Take(
         [this](UINT message, WPARAM wParam, LPARAM lParam) { return AskNative(message, wParam, lParam); });
-    if (m_state->editing)
-        m_state->editing->window->SetClosing();
-    m_state->editing.reset();
+    // Its text may be being taken, so that others still hold it.
+    if (std::shared_ptr<TableEditing> const editing = std::exchange(m_state->editing, nullptr))
+        editing->window->Close();
     m_state->news = {};
     StopOrdering();
     CListCtrl::OnDestroy();
