@@ -48,7 +48,6 @@ constexpr int smallest_screen_height = 600;
 constexpr int pane_letters = 30;
 
 // How often after its activation the window looks whether its dialogs are above it, and how many milliseconds apart.
-constexpr int most_raises = 8;
 constexpr UINT raise_interval = 40;
 
 // How often it looks whether it or its panes have been moved, in milliseconds.
@@ -65,6 +64,7 @@ BEGIN_MESSAGE_MAP(CMainWindow, CMDIFrameWndEx)
     ON_WM_ENDSESSION()
     ON_WM_GETMINMAXINFO()
     ON_WM_ACTIVATE()
+    ON_WM_MOUSEACTIVATE()
     ON_WM_SETFOCUS()
     ON_WM_DROPFILES()
     ON_WM_INITMENUPOPUP()
@@ -852,9 +852,22 @@ void CMainWindow::OnActivate(UINT state, CWnd * other, BOOL minimized)
     else
     {
         PostMessage(message_raise_dialogs);
-        m_raises = most_raises;
-        SetTimer(raise_timer, raise_interval, nullptr);
+        LookAfterOwned();
     }
+}
+
+/// A drag that goes over a window above this one raises this one, too.
+int CMainWindow::OnMouseActivate(CWnd * top, UINT hit, UINT message)
+{
+    LookAfterOwned();
+    return CMDIFrameWndEx::OnMouseActivate(top, hit, message);
+}
+
+/// For a while sees to it that dialogs and floating panes stay above.
+void CMainWindow::LookAfterOwned()
+{
+    m_raises = most_raises;
+    SetTimer(raise_timer, raise_interval, nullptr);
 }
 
 /// Puts dialogs and floating panes above the window again, in their order. Windows never lets them fall behind their

@@ -190,6 +190,7 @@ private:
 
     static constexpr UINT_PTR work_timer = 1;
     static constexpr UINT_PTR raise_timer = 2;
+    static constexpr int most_raises = 8;
     static constexpr UINT_PTR view_timer = 3;
     static constexpr UINT_PTR follow_timer = 4;
     static constexpr UINT_PTR layout_timer = 5;
@@ -203,6 +204,7 @@ private:
     afx_msg void OnInitMenuPopup(CMenu * menu, UINT index, BOOL systemMenu);
     afx_msg void OnGetMinMaxInfo(MINMAXINFO * info);
     afx_msg void OnActivate(UINT state, CWnd * other, BOOL minimized);
+    afx_msg int OnMouseActivate(CWnd * top, UINT hit, UINT message);
     afx_msg void OnSetFocus(CWnd * previous);
     afx_msg void OnDropFiles(HDROP drop);
     afx_msg void OnShowFolders();
@@ -310,6 +312,7 @@ private:
     void PrepareHelp();
     workbench::HelpTopic TopicOf(HWND window) const;
     void CloseOwnedWindows();
+    void LookAfterOwned();
     void PrepareReport();
     void ShowRecent(CMenu & menu) const;
     void RememberOpened(std::vector<std::filesystem::path> const & folders,

@@ -432,7 +432,9 @@ void CMainWindow::OnTimer(UINT_PTR id)
     }
     else if (id == raise_timer)
     {
-        if (--m_raises <= 0)
+        // As long as something is dragged, and a while after it.
+        m_raises = ::GetAsyncKeyState(VK_LBUTTON) < 0 ? most_raises : m_raises - 1;
+        if (m_raises <= 0)
         {
             KillTimer(raise_timer);
         }
