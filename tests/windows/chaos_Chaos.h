@@ -91,8 +91,26 @@ private:
     char const * m_last = "";
 };
 
-/// Runs the worlds of the first seeds, each made anew, on a guarded heap; windows and GDI objects must be what they
-/// were, but for those that the system keeps: fonts of menus and captions.
+/// Runs the world of a seed on a guarded heap; windows must be what they were. The steps.
+template <typename World> int RunSeed(unsigned int seed, int windows)
+{
+    SCOPED_TRACE(testing::Message() << "seed " << seed);
+    int steps = 0;
+    tests::GuardedHeap heap;
+    {
+        World world(seed);
+        world.Run(steps_per_seed, heap);
+        steps = world.Steps();
+    }
+    tests::PumpPosted();
+    EXPECT_EQ(heap.Check(), 0u);
+    EXPECT_EQ(tests::ThreadWindows(), windows);
+    return steps;
+}
+
+/// Runs the worlds of the first seeds, each made anew. GDI objects must be what they were, but for those that the
+/// system keeps: fonts of menus and captions. Where it keeps more, for windows that paint deep within one another, the
+/// same once more must leave nothing.
 template <typename World> void RunAll(std::size_t count = std::size(seeds))
 {
     {
@@ -101,26 +119,24 @@ template <typename World> void RunAll(std::size_t count = std::size(seeds))
     }
     tests::PumpPosted();
     int const windows = tests::ThreadWindows();
-    int const gdiObjects = tests::GdiHandleCount();
     int steps = 0;
-    for (std::size_t at = 0; at < count; ++at)
+    constexpr int rounds = 2;
+    for (int round = 1; round <= rounds; ++round)
     {
-        unsigned int const seed = seeds[at];
-        SCOPED_TRACE(testing::Message() << "seed " << seed);
-        tests::GuardedHeap heap;
+        int const gdiObjects = tests::GdiHandleCount();
+        for (std::size_t at = 0; at < count; ++at)
         {
-            World world(seed);
-            world.Run(steps_per_seed, heap);
-            steps += world.Steps();
+            unsigned int const seed = seeds[at];
+            steps += RunSeed<World>(seed, windows);
+            if (testing::Test::HasFailure())
+                return;
         }
         tests::PumpPosted();
-        EXPECT_EQ(heap.Check(), 0u);
-        EXPECT_EQ(tests::ThreadWindows(), windows);
-        if (testing::Test::HasFailure())
-            return;
+        int const left = tests::GdiHandleCount() - gdiObjects;
+        if (left <= World::kept_by_the_system)
+            break;
+        EXPECT_LT(round, rounds) << left << " GDI objects more each time";
     }
-    tests::PumpPosted();
-    EXPECT_LE(tests::GdiHandleCount(), gdiObjects + World::kept_by_the_system);
     testing::Test::RecordProperty("steps", steps);
 }
 } // namespace chaos

@@ -633,4 +633,35 @@ TEST_F(AskedByItsEdit, ForItsColoursItMayEndItAndAnother)
     EXPECT_FALSE(::IsWindow(m_edit));
     EXPECT_EQ(tests::OpenEditOf(m_list), nullptr);
 }
+
+/// Does something once, where it is asked for its font.
+class ListAskedForItsFont : public tests::GuardedList
+{
+public:
+    std::function<void()> m_act;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        auto const act = message == WM_GETFONT ? std::exchange(m_act, {}) : nullptr;
+        if (!act)
+            return GuardedList::WindowProc(message, wParam, lParam);
+        act();
+        return 0;
+    }
+};
+
+TEST(ListWithoutRows, MayEndWhileItsTextIsPainted)
+{
+    tests::GuardedHeap heap;
+    tests::ListParent parent;
+    auto list = std::make_unique<ListAskedForItsFont>();
+    ASSERT_TRUE(list->Create(tests::TestList::default_style, CRect(0, 0, 360, 200), &parent, 7));
+    list->AddColumns(2);
+    list->SetDpi(144);
+    list->SetEmptyListText(L"nothing");
+    list->m_act = [&list] { list.reset(); };
+    ::RedrawWindow(list->m_hWnd, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+    EXPECT_EQ(list, nullptr) << "it was asked";
+}
 } // namespace

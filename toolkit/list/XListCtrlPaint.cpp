@@ -372,6 +372,11 @@ void CXListCtrl::OnPaint()
     if (m_hWnd == nullptr || GetItemCount() > 0 || m_emptyListText.IsEmpty())
         return;
 
+    // The stock font has one size alone. Who is asked for the other may end the list.
+    Watch const watch(*this);
+    CFont * const font = m_resolution->Dpi() != resolution::usual ? GetFont() : nullptr;
+    if (!watch.IsAlive())
+        return;
     CClientDC dc(this);
     ContextStateScope const state(dc);
     CRect rect;
@@ -389,8 +394,7 @@ void CXListCtrl::OnPaint()
     dc.FillRect(rect, &brush);
     dc.SetTextColor(m_paint->palette.windowText);
     dc.SetBkColor(m_paint->palette.window);
-    // The stock font has one size alone.
-    if (CFont * const font = GetFont(); font != nullptr && m_resolution->Dpi() != resolution::usual)
+    if (font != nullptr)
         dc.SelectObject(font);
     else
         dc.SelectStockObject(ANSI_VAR_FONT);
