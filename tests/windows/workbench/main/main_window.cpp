@@ -306,30 +306,6 @@ TEST_F(WorkbenchMainWindow, AClickIntoItLeavesItsDialogsAbove)
     EXPECT_TRUE(IsAbove(m_window->Preview().m_hWnd, m_window->m_hWnd));
 }
 
-TEST_F(WorkbenchMainWindow, ADragLeavesWhatFloatsAbove)
-{
-    m_window->ShowTargets({Folder(3)});
-    ASSERT_TRUE(WaitUntilRead());
-    auto & pane = m_window->Pane(CMainWindow::part_waveform);
-    ASSERT_TRUE(pane.FloatPane(CRect(300, 400, 800, 650)));
-    auto const floating = pane.GetParent()->m_hWnd;
-    ASSERT_TRUE(tests::BringToFront(m_window->m_hWnd));
-    tests::PumpFor(500ms); // what comes of its activation is over
-    ASSERT_TRUE(IsAbove(floating, m_window->m_hWnd));
-    auto & list = m_window->List();
-    ASSERT_TRUE(tests::MoveMouse(tests::ClientPoint(list.m_hWnd, list.CellCentre(1, CRecordingList::column_channels))));
-    tests::Press();
-    tests::PumpFor(500ms);
-    auto const raise = [this] {
-        m_window->SetWindowPos(nullptr, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_NOOWNERZORDER);
-    };
-    raise();
-    EXPECT_TRUE(tests::PumpUntil([&] { return IsAbove(floating, m_window->m_hWnd); }, 5s)) << "during it";
-    tests::Release();
-    raise();
-    EXPECT_TRUE(tests::PumpUntil([&] { return IsAbove(floating, m_window->m_hWnd); }, 5s)) << "after it";
-}
-
 TEST_F(WorkbenchMainWindow, OpensNoDetailsOfAFileThatHasTakenAnothersPlace)
 {
     auto const folder = Folder(3);
