@@ -277,6 +277,7 @@ bool ReportWaits(CWnd & parent, int count)
     std::iota(all.begin(), all.end(), 0);
 
     showAll();
+    LongestWait([] {}, [] {}); // until the window is on the screen
     auto const painting = LongestWait([] {}, [&] { list.RedrawWindow(); });
     bool met = true;
     auto const report = [&](char const * name, std::function<void()> const & prepare,

@@ -305,6 +305,35 @@ int CRecordingList::WidthOfValue(std::wstring const & text) const
     return m_valueWidths[text] = WidthOf(text);
 }
 
+namespace
+{
+
+/// Of the screen: in a picture's letters may have other widths.
+CDC & Created(CDC & dc)
+{
+    dc.CreateIC(L"DISPLAY", nullptr, nullptr, nullptr);
+    return dc;
+}
+
+} // namespace
+
+CRecordingList::Measuring::Measuring(CFont & font) : scope(Created(dc), font) {}
+
+/// The same of one among thousands of names, each another one: the list view takes a device context for each.
+int CRecordingList::WidthOfName(std::wstring const & name)
+{
+    if (m_batches == 0)
+    {
+        return WidthOf(name);
+    }
+    if (!m_measuring)
+    {
+        m_measuring = std::make_unique<Measuring>(m_metrics->Font());
+    }
+    auto const length = static_cast<int>(name.size());
+    return m_measuring->dc.GetTextExtent(name.c_str(), length).cx + m_metrics->Scaled(text_room);
+}
+
 void CRecordingList::Require(Column column, int width)
 {
     m_needs[column] = std::max(m_needs[column], width);
@@ -588,6 +617,7 @@ CRecordingList::Batch::~Batch()
     {
         return;
     }
+    m_list.m_measuring.reset();
     m_list.SetBatchInsertMode(false);
     m_list.SetRedraw(TRUE);
     // Both have everything painted again, which is too much where only lines out of sight have changed. What has

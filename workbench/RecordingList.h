@@ -410,8 +410,17 @@ private:
     void ShowColumn(int row, Column column);
     int WidthOf(std::wstring const & text) const;
     int WidthOfValue(std::wstring const & text) const;
+    int WidthOfName(std::wstring const & name);
     void Require(Column column, int width);
     void FitColumns();
+
+    /// For many texts in the list's font.
+    struct Measuring
+    {
+        explicit Measuring(CFont & font);
+        CDC dc;
+        workbench::SelectScope scope;
+    };
 
     CImageList m_images;
     workbench::ScreenMetrics * m_metrics = nullptr;
@@ -426,12 +435,13 @@ private:
     bool m_columnDragged = false; ///< what comes of it is not shown yet
     bool m_tracking = false;      ///< the header's mouse capture, while it lasts, is for a divider
     ControlColors m_colours = control_colors::Of(ControlColorSet::standard); ///< that it is painted in
-    int m_fittedWidth = -1;            ///< of the client area, for which the columns have their widths
-    int m_batches = 0;                 ///< that exist
-    bool m_wasClean = false;           ///< nothing was waiting to be painted when the outermost batch began
-    CPoint m_scrolledTo;               ///< where the list stood then
-    bool m_touched = false;            ///< the batch has changed what can be seen
-    mutable std::vector<int> m_places; ///< of each line, the row where it was seen last
+    int m_fittedWidth = -1;                 ///< of the client area, for which the columns have their widths
+    int m_batches = 0;                      ///< that exist
+    std::unique_ptr<Measuring> m_measuring; ///< while one does, once it is needed
+    bool m_wasClean = false;                ///< nothing was waiting to be painted when the outermost batch began
+    CPoint m_scrolledTo;                    ///< where the list stood then
+    bool m_touched = false;                 ///< the batch has changed what can be seen
+    mutable std::vector<int> m_places;      ///< of each line, the row where it was seen last
     int m_sortedColumn = -1;
     bool m_ascending = true;
     std::vector<int> m_rowPlaces; ///< of each row, where it is to stand while rows are sorted

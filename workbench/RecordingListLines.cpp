@@ -246,7 +246,7 @@ void CRecordingList::PrepareRow(int row, std::filesystem::path const & file, Not
     SetItemText(row, column_comment, notes.comment.c_str());
     SetEdit(row, column_comment, true);
     SetItemText(row, column_status, status);
-    Require(column_name, WidthOf(name));
+    Require(column_name, WidthOfName(name));
 }
 
 void CRecordingList::ShowAnalysis(int line, std::shared_ptr<workbench::RecordingAnalysis const> const & analysis)

@@ -154,6 +154,30 @@ TEST_F(LargeRecordingList, ATextThatManyLinesHaveIsMeasuredOnce)
     EXPECT_EQ(list.Measured(), measured);
 }
 
+TEST_F(LargeRecordingList, NamesAreMeasuredAsTheListViewMeasuresThem)
+{
+    CountingList list;
+    Fill(list, 1);
+    // One of them is wider than the others, and the column grows by the difference as soon as there is room.
+    list.SetHiddenColumns({CRecordingList::column_overview, CRecordingList::column_comment, CRecordingList::column_peak,
+                           CRecordingList::column_status});
+    std::vector<std::filesystem::path> files;
+    for (wchar_t const * const name : {L"WWWWWWWWWWWWWWWWWW.wav", L"iiiiiiiiiiiiiiiii.wav", L"\x65E5\x672C.wav"})
+    {
+        files.push_back(std::filesystem::path(L"C:\\recordings") / name);
+    }
+    list.ShowFiles(files, std::vector<CRecordingList::Notes>(files.size()));
+    tests::PumpPosted(100000);
+    auto const inBatch = list.GetColumnWidth(CRecordingList::column_name);
+    EXPECT_GT(inBatch, list.GetStringWidth(L"WWWWWWWWWWWWWWWWWW.wav"));
+    list.Rename(1, L"C:\\recordings\\WWWWWWWWWWWWWWWWWWWW.wav");
+    tests::PumpPosted(100000);
+    auto const alone = list.GetColumnWidth(CRecordingList::column_name);
+    EXPECT_EQ(alone - inBatch,
+              list.GetStringWidth(L"WWWWWWWWWWWWWWWWWWWW.wav") - list.GetStringWidth(L"WWWWWWWWWWWWWWWWWW.wav"));
+    list.DestroyWindow();
+}
+
 TEST_F(LargeRecordingList, MarkingAllCostsTheSameForEachOfMany)
 {
     EXPECT_SAME_PER_LINE([](CountingList & list, int) {
