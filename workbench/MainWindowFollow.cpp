@@ -65,19 +65,29 @@ void CMainWindow::TakeFollowed(workbench::FoundRecordings found)
 void CMainWindow::ShowFound(workbench::FoundRecordings found, bool readsAgain)
 {
     StoreNotes();
+    // The comparison is lent the paths: copies of thousands take longer than it does.
     std::vector<workbench::KnownFile> listed;
     listed.reserve(m_recordings.size());
-    for (auto const & [file, analysis, queued] : m_recordings)
+    for (auto & [file, analysis, queued] : m_recordings)
     {
-        listed.push_back({file, analysis ? analysis->file : workbench::FileFacts()});
+        listed.push_back({std::move(file), analysis ? analysis->file : workbench::FileFacts()});
     }
     std::vector<workbench::KnownFile> present;
-    present.reserve(found.files.size());
-    for (std::size_t i = 0; i < found.files.size() && i < found.facts.size(); ++i)
+    auto const known = std::min(found.files.size(), found.facts.size());
+    present.reserve(known);
+    for (std::size_t i = 0; i < known; ++i)
     {
-        present.push_back({found.files[i], found.facts[i]});
+        present.push_back({std::move(found.files[i]), found.facts[i]});
     }
     auto changes = workbench::CompareFolder(listed, present);
+    for (std::size_t i = 0; i < listed.size(); ++i)
+    {
+        m_recordings[i].file = std::move(listed[i].file);
+    }
+    for (std::size_t i = 0; i < known; ++i)
+    {
+        found.files[i] = std::move(present[i].file);
+    }
     auto const foldersChanged = found.missing != m_missing || found.folders != m_openedFolders;
     m_missing = std::move(found.missing);
     m_openedFolders = std::move(found.folders);

@@ -398,14 +398,22 @@ TEST_F(WorkbenchFollowing, ChosenRecordingsAreDraggedOut)
     later.Add([&] { tests::InjectMove(place + CPoint(3, 3)); },
               [&] { return left && ::GetCapture() != List().m_hWnd; });
     later.Add([&] { tests::InjectMove(place + CPoint(5, 5)); });
-    later.Add([&] { tests::InjectMove(place); });
-    later.Add([] { tests::Release(); }, [&] { return files.m_entered; });
+    // A busy system can lose one of the moves.
+    auto moves = 0;
+    later.Add([] { tests::Release(); },
+              [&] {
+                  if (!files.m_entered)
+                  {
+                      tests::InjectMove(place + CPoint(++moves % 2, 0));
+                  }
+                  return files.m_entered;
+              });
     tests::MoveMouse(tests::ClientPoint(List().m_hWnd, List().CellCentre(1, CRecordingList::column_status)));
     tests::Press();
     tests::MoveMouse(tests::ClientPoint(List().m_hWnd, List().CellCentre(2, CRecordingList::column_status)));
     left = true;
     tests::MoveMouse(place);
-    EXPECT_TRUE(tests::PumpUntil([&] { return !files.m_files.empty(); }, std::chrono::seconds(20)));
+    EXPECT_TRUE(tests::PumpUntil([&] { return !files.m_files.empty(); }));
     EXPECT_FALSE(later.Failed());
     EXPECT_EQ(files.m_files, (std::vector<fs::path>{Recordings() / "r00001.wav", Recordings() / "r00003.wav"}));
     EXPECT_EQ(List().GetItemCount(), 4);
