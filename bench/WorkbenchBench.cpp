@@ -94,12 +94,22 @@ struct Costs
     double All() const { return listing + results + marking; }
 };
 
+struct OurList
+{
+    explicit OurList(CWnd & parent)
+    {
+        m_list.CreateList(parent, 7, m_metrics);
+        m_list.SetWindowPos(nullptr, 0, 0, list_place.Width(), list_place.Height(), SWP_NOZORDER);
+    }
+
+    workbench::ScreenMetrics m_metrics;
+    CRecordingList m_list;
+};
+
 Costs OfOurs(CWnd & parent, int count)
 {
-    workbench::ScreenMetrics metrics;
-    CRecordingList list;
-    list.CreateList(parent, 7, metrics);
-    list.SetWindowPos(nullptr, 0, 0, list_place.Width(), list_place.Height(), SWP_NOZORDER);
+    OurList ours(parent);
+    CRecordingList & list = ours.m_list;
     auto const files = Files(count);
     auto const analysis = Analysis();
     std::vector<CRecordingList::Notes> const notes(files.size());
@@ -239,10 +249,8 @@ double LongestWait(std::function<void()> const & prepare, std::function<void()> 
 /// Whether no step over thousands of lines keeps the list from answering.
 bool ReportWaits(CWnd & parent, int count)
 {
-    workbench::ScreenMetrics metrics;
-    CRecordingList list;
-    list.CreateList(parent, 7, metrics);
-    list.SetWindowPos(nullptr, 0, 0, list_place.Width(), list_place.Height(), SWP_NOZORDER);
+    OurList ours(parent);
+    CRecordingList & list = ours.m_list;
     auto const files = Files(count);
     auto const analysis = Analysis();
     auto const showAll = [&] {

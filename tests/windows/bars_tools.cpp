@@ -375,49 +375,43 @@ BOOL WINAPI LateCursor(POINT * place)
     return TRUE;
 }
 
-TEST_F(ToolBars, FramesMessageGoesByTheMousesMessages)
+class LateToolBars : public ToolBars
 {
-    m_frame->AddTools(CBRS_TOP | CBRS_FLYBY);
-    m_frame->AddStatusBar();
-    Show();
-    g_formerCursor = tests::ClientPoint(m_window, {300, 200});
-    ASSERT_TRUE(tests::MoveMouse(g_formerCursor));
-    tests::ImportPatch const patch(L"framework.dll", "GetCursorPos", &LateCursor);
-    ASSERT_TRUE(patch.Done());
-    // The message comes while the system still tells the place before, and no other comes after it.
-    g_cursorIsLate = true;
-    CPoint const button = ButtonCentre(m_frame->m_tools, ID_TOOL_A);
-    ASSERT_TRUE(tests::MoveMouse(button));
-    MSG move{};
-    move.hwnd = m_frame->m_tools.m_hWnd;
-    move.message = WM_MOUSEMOVE;
-    move.pt = button;
-    m_frame->m_tools.PreTranslateMessage(&move);
-    g_cursorIsLate = false;
-    EXPECT_TRUE(tests::PumpUntil([&] { return m_frame->StatusText() == L"Message of A"; }));
+protected:
+    /// The mouse comes to the first tool while the system still tells the place before, also to so many questions after
+    /// the mouse's message; no other message comes after it.
+    void ComeLate(int answers)
+    {
+        m_frame->AddTools(CBRS_TOP | CBRS_FLYBY);
+        m_frame->AddStatusBar();
+        Show();
+        g_formerCursor = tests::ClientPoint(m_window, {300, 200});
+        ASSERT_TRUE(tests::MoveMouse(g_formerCursor));
+        tests::ImportPatch const patch(L"framework.dll", "GetCursorPos", &LateCursor);
+        ASSERT_TRUE(patch.Done());
+        g_cursorIsLate = true;
+        CPoint const button = ButtonCentre(m_frame->m_tools, ID_TOOL_A);
+        EXPECT_TRUE(tests::MoveMouse(button));
+        MSG move{};
+        move.hwnd = m_frame->m_tools.m_hWnd;
+        move.message = WM_MOUSEMOVE;
+        move.pt = button;
+        g_lateAnswers = answers;
+        m_frame->m_tools.PreTranslateMessage(&move);
+        g_cursorIsLate = false;
+        EXPECT_TRUE(tests::PumpUntil([&] { return m_frame->StatusText() == L"Message of A"; }));
+        g_lateAnswers = 0;
+    }
+};
+
+TEST_F(LateToolBars, FramesMessageGoesByTheMousesMessages)
+{
+    ComeLate(0);
 }
 
-TEST_F(ToolBars, FramesMessageComesThoughTheCursorIsStillLateWhenTheMouseHasRested)
+TEST_F(LateToolBars, FramesMessageComesThoughTheCursorIsStillLateWhenTheMouseHasRested)
 {
-    m_frame->AddTools(CBRS_TOP | CBRS_FLYBY);
-    m_frame->AddStatusBar();
-    Show();
-    g_formerCursor = tests::ClientPoint(m_window, {300, 200});
-    ASSERT_TRUE(tests::MoveMouse(g_formerCursor));
-    tests::ImportPatch const patch(L"framework.dll", "GetCursorPos", &LateCursor);
-    ASSERT_TRUE(patch.Done());
-    g_cursorIsLate = true;
-    CPoint const button = ButtonCentre(m_frame->m_tools, ID_TOOL_A);
-    ASSERT_TRUE(tests::MoveMouse(button));
-    MSG move{};
-    move.hwnd = m_frame->m_tools.m_hWnd;
-    move.message = WM_MOUSEMOVE;
-    move.pt = button;
-    g_lateAnswers = 1;
-    m_frame->m_tools.PreTranslateMessage(&move);
-    g_cursorIsLate = false;
-    EXPECT_TRUE(tests::PumpUntil([&] { return m_frame->StatusText() == L"Message of A"; }));
-    g_lateAnswers = 0;
+    ComeLate(1);
 }
 
 TEST_F(ToolBars, ABarThatTheMouseHasLeftDoesNotTakeTheNextOnesMessageAway)
