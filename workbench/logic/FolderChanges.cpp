@@ -26,22 +26,32 @@ bool IsKnown(FileFacts const & facts)
 FolderChanges CompareFolder(std::span<KnownFile const> listed, std::span<KnownFile const> found)
 {
     FolderChanges changes;
-    std::unordered_map<Name, FileFacts const *> present;
+    struct Present
+    {
+        FileFacts const & facts;
+        bool isListed = false;
+    };
+    std::unordered_map<Name, Present> present;
+    present.reserve(found.size());
+    std::vector<Present const *> ofFound;
+    ofFound.reserve(found.size());
     for (auto const & [file, facts] : found)
     {
-        present.emplace(file.native(), &facts);
+        ofFound.push_back(&present.try_emplace(file.native(), Present{facts}).first->second);
     }
-    std::unordered_map<Name, std::size_t> places;
     for (std::size_t place = 0; place < listed.size(); ++place)
     {
         auto const & [file, facts] = listed[place];
-        places.emplace(file.native(), place);
         auto const now = present.find(file.native());
-        if (now == present.end() || (IsKnown(facts) && !IsKnown(*now->second)))
+        if (now != present.end())
+        {
+            now->second.isListed = true;
+        }
+        if (now == present.end() || (IsKnown(facts) && !IsKnown(now->second.facts)))
         {
             changes.gone.push_back(place);
         }
-        else if (IsKnown(facts) && facts != *now->second)
+        else if (IsKnown(facts) && facts != now->second.facts)
         {
             changes.changed.push_back(place);
         }
@@ -61,9 +71,9 @@ FolderChanges CompareFolder(std::span<KnownFile const> listed, std::span<KnownFi
             pairOf(listed[place].facts).gone.push_back(place);
         }
     }
-    for (auto const & each : found)
+    for (std::size_t i = 0; i < found.size(); ++i)
     {
-        if (!places.contains(each.file.native()))
+        if (auto const & each = found[i]; !ofFound[i]->isListed)
         {
             changes.come.push_back(each.file);
             if (IsKnown(each.facts))
