@@ -87,7 +87,11 @@ void CRecordingList::ShowNotes()
 /// Shows in a line's row what is said about it by now, and nothing else: many rows are shown anew at once.
 void CRecordingList::ShowNewNotes(int row, int line)
 {
-    auto const news = row >= 0 ? std::exchange(m_sources[static_cast<std::size_t>(line)].newNotes, 0U) : 0U;
+    if (row < 0)
+    {
+        return;
+    }
+    auto const news = std::exchange(m_sources[static_cast<std::size_t>(line)].newNotes, 0U);
     auto const & notes = m_notes[static_cast<std::size_t>(line)];
     if ((news & new_mark) != 0)
     {
