@@ -105,7 +105,8 @@ def lines_of(scope, body, inside_class, out):
             text = re.sub(rf"(?<!::)\b{kind}\b", full, text)
         return text
 
-    abstract = inside_class and re.search(r"=\s*0\s*;", body)
+    # A member that begins with 0 is no pure function.
+    abstract = inside_class and re.search(r"\)[^;{}=]*=\s*0\s*;", body)
     name_of_class = scope.split("::")[-1] if inside_class else None
     constructors = 0
     for statement in statements(body):

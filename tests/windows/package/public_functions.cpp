@@ -256,6 +256,7 @@ void UseAll()
     Use(+[](CXEditBrowseCtrl & object) -> void { return object.CXEditBrowseCtrl::OnBrowse(); });
 
     // controls/XTreeCtrl.h
+    Use(+[]() { delete new CXTreeCtrl(); });
     Use(+[](CXTreeCtrl & object, wchar_t const * a0, HTREEITEM a1, HTREEITEM a2, int a3) -> HTREEITEM { return object.CXTreeCtrl::InsertTreeItem(std::forward<wchar_t const *>(a0), std::forward<HTREEITEM>(a1), std::forward<HTREEITEM>(a2), std::forward<int>(a3)); });
     Use(+[](CXTreeCtrl & object, wchar_t const * a0, int a1, int a2, HTREEITEM a3, HTREEITEM a4, int a5) -> HTREEITEM { return object.CXTreeCtrl::InsertTreeItem(std::forward<wchar_t const *>(a0), std::forward<int>(a1), std::forward<int>(a2), std::forward<HTREEITEM>(a3), std::forward<HTREEITEM>(a4), std::forward<int>(a5)); });
     Use(+[](CXTreeCtrl & object, wchar_t const * a0, int a1, int a2, HTREEITEM a3, int a4, int a5, HTREEITEM a6, int a7) -> HTREEITEM { return object.CXTreeCtrl::InsertTreeItem(std::forward<wchar_t const *>(a0), std::forward<int>(a1), std::forward<int>(a2), std::forward<HTREEITEM>(a3), std::forward<int>(a4), std::forward<int>(a5), std::forward<HTREEITEM>(a6), std::forward<int>(a7)); });
@@ -359,6 +360,7 @@ void UseAll()
     Use(+[](CDialogFade & object) -> std::optional<std::uint8_t> { return object.CDialogFade::Tick(); });
     Use(+[](CDialogFade const & object) -> int { return object.CDialogFade::Target(); });
     Use(+[](CDialogFade const & object) -> int { return object.CDialogFade::Step(); });
+    Use(+[] { delete new CDialogFade; });
 
     // dialogs/FolderDialog.h
     Use(+[](HWND__ * a0) { delete new CFolderDialog(std::forward<HWND__ *>(a0)); });
@@ -624,6 +626,8 @@ void UseAll()
 
     // windows/SettingsTree.h
     Use(+[](registry_settings::registry_entry const & object, registry_entry const & a0) -> bool { return object.registry_settings::registry_entry::operator==(std::forward<registry_entry const &>(a0)); });
+    Use(+[] { delete new registry_settings::registry_entry; });
+    Use(+[] { delete new registry_settings::SettingsTree::counts_t; });
     Use(+[](SettingsTree & a0, registry_entry_list & a1) -> bool { return registry_settings::read_registry_tree(std::forward<SettingsTree &>(a0), std::forward<registry_entry_list &>(a1)); });
     Use(+[](SettingsTree & a0, registry_entry_list & a1) -> bool { return registry_settings::write_registry_tree(std::forward<SettingsTree &>(a0), std::forward<registry_entry_list &>(a1)); });
     Use(+[](SettingsTree & a0, std::u16string const & a1) -> bool { return registry_settings::delete_registry_tree(std::forward<SettingsTree &>(a0), std::forward<std::u16string const &>(a1)); });
