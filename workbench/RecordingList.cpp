@@ -29,7 +29,7 @@ struct ColumnDesign
 };
 
 // The date's least text is made when the columns are, as the user writes dates.
-constexpr ColumnDesign column_designs[CRecordingList::column_count] = {
+constexpr ColumnDesign column_designs[] = {
     {L"", LVCFMT_LEFT, L""},
     {Translatable(L"Name"), LVCFMT_LEFT, L"Measurement 1"},
     {Translatable(L"Ref."), LVCFMT_CENTER, L""},
@@ -48,6 +48,7 @@ constexpr ColumnDesign column_designs[CRecordingList::column_count] = {
     {Translatable(L"Frequency (Hz)"), LVCFMT_RIGHT, L"192000"},
     {Translatable(L"Distortion (%)"), LVCFMT_RIGHT, L"0.00100"},
 };
+static_assert(std::size(column_designs) == CRecordingList::column_count, "a column lacks its design");
 
 // The flexible columns in the order in which they get what is left over, and how far they grow before the next one gets
 // anything, as a multiple of their least width. The last one takes the rest.
@@ -128,7 +129,8 @@ END_MESSAGE_MAP()
 
 // A stored choice of columns knows which ones it can not have known.
 static_assert(workbench::Settings::first_later_column == CRecordingList::first_measure &&
-              workbench::Settings::columns == CRecordingList::column_count);
+                  workbench::Settings::columns == CRecordingList::column_count,
+              "Settings.h counts other columns than the list has");
 
 bool CRecordingList::CreateList(CWnd & parent, UINT id, workbench::ScreenMetrics & metrics)
 {

@@ -293,6 +293,7 @@ TEST(WorkbenchTexts, KeysHaveTheirNamesInEachLanguage)
     std::vector<std::vector<std::string>> const foreign{{},
                                                         {"Ctrl", "Shift", "Enter", "Del", "Page", "Arrow", "Home"},
                                                         {"Strg", "Shift", "Enter", "Del", "Page", "Arrow", "Home"}};
+    ASSERT_EQ(foreign.size(), language_count) << "add the names of keys that are others in the new language";
     auto const resources = ResourcesByLanguage();
     ASSERT_EQ(resources.size(), language_count);
     for (std::size_t language = 0; language < language_count; ++language)

@@ -1,5 +1,6 @@
 #include "logic/HelpTopics.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <iterator>
 
@@ -376,6 +377,17 @@ constexpr PlotKey plot_keys[][language_count] = {
     {{L"Escape", L"Select nothing"}, {L"Escape", L"Nichts auswählen"}, {L"Escape", L"No seleccionar nada"}},
     {{L"Space", L"Play or pause"}, {L"Leertaste", L"Abspielen oder anhalten"}, {L"Espacio", L"Reproducir o pausar"}},
 };
+
+/// Whether the tables above have something in each language: what they lack is null.
+consteval bool IsThereInAllLanguages()
+{
+    auto const hasTitle = [](HelpPage const & page) { return page.title != nullptr && page.text != nullptr; };
+    auto const hasAction = [](PlotKey const & key) { return key.key != nullptr && key.action != nullptr; };
+    return std::ranges::all_of(pages, [&](auto const & page) { return std::ranges::all_of(page, hasTitle); }) &&
+           std::ranges::all_of(plot_title, [](wchar_t const * title) { return title != nullptr; }) &&
+           std::ranges::all_of(plot_keys, [&](auto const & key) { return std::ranges::all_of(key, hasAction); });
+}
+static_assert(IsThereInAllLanguages(), "a language lacks a page of the help, or the keys of the plots");
 
 /// A menu's text without the mark of its access key and without the dots of a dialog.
 std::wstring Plain(std::wstring const & text)
