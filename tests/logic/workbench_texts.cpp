@@ -137,6 +137,18 @@ bool OpensADialog(std::string const & text)
     return text.substr(0, text.find('\t')).ends_with("...");
 }
 
+/// What an entry has in a language, or else its English text.
+std::string const & TextIn(std::size_t language, std::vector<std::string> const & texts)
+{
+    return language < texts.size() ? texts[language] : texts.front();
+}
+
+/// For messages: the resources are in the order of the languages.
+std::string NameOf(std::size_t language)
+{
+    return "language " + (language < language_count ? std::to_string(language_facts[language].id) : "that is none");
+}
+
 /// Both texts fill the same place.
 void ExpectSameForm(std::string const & english, std::string const & text)
 {
@@ -236,7 +248,7 @@ TEST(WorkbenchTexts, EveryEntryIsFoundInAllLanguages)
     {
         LanguageScope const scope(static_cast<Language>(language));
         for (auto const & [english, texts] : entries)
-            EXPECT_EQ(Text(Widen(english).c_str()), Widen(texts.at(language))) << english;
+            EXPECT_EQ(Text(Widen(english).c_str()), Widen(TextIn(language, texts))) << english;
     }
 }
 
@@ -253,8 +265,10 @@ TEST(WorkbenchTexts, MenusAndDialogsAreThereInAllLanguages)
     ASSERT_EQ(resources.size(), language_count);
     auto const english = Literals(resources.front());
     EXPECT_GT(english.size(), 90u);
-    for (auto const & language : resources)
+    for (std::size_t number = 0; number < resources.size(); ++number)
     {
+        SCOPED_TRACE(NameOf(number));
+        auto const & language = resources[number];
         auto const form = Form(language);
         auto const wanted = Form(resources.front());
         auto const [line, wantedLine] = std::ranges::mismatch(form, wanted);
@@ -270,9 +284,11 @@ TEST(WorkbenchTexts, MenusAndDialogsAreThereInAllLanguages)
 
 TEST(WorkbenchTexts, AnAccessKeyIsThereOnceInAMenuOrDialog)
 {
-    for (auto const & language : ResourcesByLanguage())
+    auto const resources = ResourcesByLanguage();
+    for (std::size_t number = 0; number < resources.size(); ++number)
     {
-        auto const groups = Groups(language);
+        SCOPED_TRACE(NameOf(number));
+        auto const groups = Groups(resources[number]);
         EXPECT_GT(groups.size(), 10u);
         for (auto const & group : groups)
         {
@@ -301,7 +317,7 @@ TEST(WorkbenchTexts, KeysHaveTheirNamesInEachLanguage)
         for (auto const & text : Literals(resources[language]))
             expectNone(text, foreign.at(language));
         for (auto const & [english, texts] : Entries())
-            expectNone(texts.at(language), foreign.at(language));
+            expectNone(TextIn(language, texts), foreign.at(language));
     }
 }
 
