@@ -1,7 +1,8 @@
 // Puts the toolkit beside the native controls and calls, in one run on real windows.
 
-#include <afxwin.h>
 #include "ControlBench.h"
+
+#include <afxwin.h>
 
 #include <regex>
 

@@ -1,16 +1,17 @@
 // Filling a report list beside filling a native one with the same texts.
 
 #include <afxcmn.h>
-#include "list/XListCtrl.h"
-#include "list/XListRowPool.h"
-#include "ControlBench.h"
-#include "Measure.h"
-#include "ModuleAllocations.h"
 
 #include <cstdio>
 #include <memory>
 #include <string>
 #include <vector>
+
+#include "ControlBench.h"
+#include "list/XListCtrl.h"
+#include "list/XListRowPool.h"
+#include "Measure.h"
+#include "ModuleAllocations.h"
 
 namespace
 {

@@ -2,15 +2,15 @@
 // list whose owner draws each cell with the same calls by hand.
 
 #include <afxcmn.h>
-#include "list/XListCtrl.h"
-#include "ControlBench.h"
-#include "Measure.h"
+#include <gdiplus.h>
 
 #include <functional>
 #include <string>
 #include <vector>
 
-#include <gdiplus.h>
+#include "ControlBench.h"
+#include "list/XListCtrl.h"
+#include "Measure.h"
 
 namespace
 {

@@ -1,11 +1,6 @@
 // Looking at a recording of one hour: what a picture of its waveform takes at any zoom, beside the time that a film
 // gives it.
 
-#include "LogicBench.h"
-#include "Measure.h"
-#include "logic/RecordingAnalysis.h"
-#include "logic/WaveformDetail.h"
-
 #include <algorithm>
 #include <array>
 #include <filesystem>
@@ -14,6 +9,11 @@
 #include <random>
 #include <string>
 #include <vector>
+
+#include "logic/RecordingAnalysis.h"
+#include "logic/WaveformDetail.h"
+#include "LogicBench.h"
+#include "Measure.h"
 
 namespace
 {

@@ -1,16 +1,16 @@
 // Painting a line of segment characters beside the same calls with their points worked out before, so that what is more
 // than 1 is the toolkit's own share.
 
-#include "frame/GdiplusModule.h"
-#include "segments/DigiPaint.h"
-#include "ControlBench.h"
-#include "Measure.h"
-
 #include <array>
 #include <cstdio>
 #include <span>
 #include <string>
 #include <vector>
+
+#include "ControlBench.h"
+#include "frame/GdiplusModule.h"
+#include "Measure.h"
+#include "segments/DigiPaint.h"
 
 namespace
 {

@@ -1,11 +1,6 @@
 // A table of a million rows: shown for the first time, painted beside the report list, scrolled through, and told of
 // changes by threads.
 
-#include "list/XListCtrl.h"
-#include "list/table/XTableCtrl.h"
-#include "ControlBench.h"
-#include "Measure.h"
-
 #include <algorithm>
 #include <atomic>
 #include <chrono>
@@ -13,6 +8,11 @@
 #include <string>
 #include <thread>
 #include <vector>
+
+#include "ControlBench.h"
+#include "list/table/XTableCtrl.h"
+#include "list/XListCtrl.h"
+#include "Measure.h"
 
 namespace
 {

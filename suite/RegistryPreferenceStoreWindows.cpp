@@ -1,6 +1,6 @@
-#include <afxwin.h>
-
 #include "RegistryPreferenceStore.h"
+
+#include <afxwin.h>
 
 #include <optional>
 #include <vector>

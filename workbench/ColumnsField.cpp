@@ -2,8 +2,8 @@
 
 #include <utility>
 
-#include "RecordingColumns.h"
 #include "logic/Texts.h"
+#include "RecordingColumns.h"
 
 CColumnsField::CColumnsField()
 {

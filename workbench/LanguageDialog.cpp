@@ -1,7 +1,7 @@
 #include "LanguageDialog.h"
 
-#include "Settings.h"
 #include "logic/Texts.h"
+#include "Settings.h"
 
 using workbench::Text;
 

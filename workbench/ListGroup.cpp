@@ -4,9 +4,9 @@
 #include <iterator>
 #include <utility>
 
-#include "RecordingList.h"
 #include "frame/RegisteredMessages.h"
 #include "logic/Texts.h"
+#include "RecordingList.h"
 #include "resource.h"
 
 using workbench::Text;

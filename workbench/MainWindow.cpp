@@ -7,11 +7,11 @@
 
 #include <algorithm>
 
-#include "UserRegion.h"
-#include "WaveformPanelView.h"
 #include "colours/Farbtabellen.h"
 #include "logic/Texts.h"
 #include "resource.h"
+#include "UserRegion.h"
+#include "WaveformPanelView.h"
 #include "windows/StandaloneFrameMigrationHelper.h"
 #include "windows/StandaloneFrameWnd.h"
 

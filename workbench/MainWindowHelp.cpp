@@ -5,11 +5,11 @@
 #include <utility>
 
 #include "AboutDialog.h"
+#include "controls/IdNameMultiselectDlg.h"
 #include "ExportDialog.h"
 #include "LanguageDialog.h"
 #include "OpenFolderDialog.h"
 #include "RenameDialog.h"
-#include "controls/IdNameMultiselectDlg.h"
 #include "resource.h"
 
 using workbench::HelpTopic;

@@ -1,6 +1,7 @@
 // How the main window follows the user's region.
 
 #include "MainWindow.h"
+
 #include "UserRegion.h"
 
 LRESULT CMainWindow::WindowProc(UINT message, WPARAM wide, LPARAM parameter)

@@ -5,8 +5,8 @@
 #include <cwchar>
 #include <vector>
 
-#include "Graphics.h"
 #include "clipboard/Clipboard.h"
+#include "Graphics.h"
 #include "logic/SafeFile.h"
 
 namespace workbench

@@ -1,8 +1,8 @@
 #include "Playing.h"
 
-#include "WaveOutDevice.h"
 #include "logic/Amplification.h"
 #include "logic/Texts.h"
+#include "WaveOutDevice.h"
 
 namespace
 {

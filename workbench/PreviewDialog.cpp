@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "Printing.h"
 #include "logic/Texts.h"
+#include "Printing.h"
 #include "resource.h"
 
 using workbench::paper_height;

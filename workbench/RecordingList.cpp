@@ -12,8 +12,8 @@
 #include "frame/RegisteredMessages.h"
 #include "logic/ReadableColours.h"
 #include "logic/Texts.h"
-#include "Settings.h"
 #include "resource.h"
+#include "Settings.h"
 
 namespace
 {

@@ -15,8 +15,6 @@
 #include <unordered_map>
 #include <vector>
 
-#include "ScreenMetrics.h"
-#include "StarRating.h"
 #include "colours/ControlColors.h"
 #include "list/XListCtrl.h"
 #include "logic/ListHistory.h"
@@ -25,6 +23,8 @@
 #include "logic/RecordingNotes.h"
 #include "logic/RecordingTotals.h"
 #include "logic/TableText.h"
+#include "ScreenMetrics.h"
+#include "StarRating.h"
 
 class CRecordingOverview;
 

@@ -7,9 +7,9 @@
 #include <utility>
 
 #include "BusyDialog.h"
-#include "RecordingCells.h"
 #include "clipboard/Clipboard.h"
 #include "logic/Texts.h"
+#include "RecordingCells.h"
 
 namespace
 {

@@ -5,15 +5,15 @@
 #include <algorithm>
 #include <utility>
 
-#include "RecordingCells.h"
-#include "RecordingOverview.h"
-#include "StarRating.h"
 #include "colours/ControlColors.h"
 #include "frame/CoreLibrary.h"
 #include "logic/ReadableColours.h"
 #include "logic/RecordingDetails.h"
 #include "logic/TextFormat.h"
 #include "logic/Texts.h"
+#include "RecordingCells.h"
+#include "RecordingOverview.h"
+#include "StarRating.h"
 
 using workbench::ValueText;
 

@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <utility>
 
-#include "PictureCopy.h"
 #include "colours/Farbtabellen.h"
 #include "frame/CoreLibrary.h"
 #include "logic/Texts.h"
+#include "PictureCopy.h"
 
 using workbench::Text;
 

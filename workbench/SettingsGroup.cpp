@@ -3,9 +3,9 @@
 #include <uxtheme.h>
 
 #include "BrowseKey.h"
-#include "TemplateTexts.h"
 #include "dialogs/Dialog3d.h"
 #include "logic/ReadableColours.h"
+#include "TemplateTexts.h"
 
 CSettingsGroup::CSettingsGroup(UINT templateId)
     : CPropertyPage3d(CDialog3d::NO_DLL, templateId, 0U),

@@ -2,8 +2,8 @@
 
 #include <uxtheme.h>
 
-#include "WorkbenchDialog.h"
 #include "logic/Texts.h"
+#include "WorkbenchDialog.h"
 
 using workbench::Settings;
 using workbench::Text;

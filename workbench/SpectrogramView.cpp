@@ -3,12 +3,12 @@
 #include <algorithm>
 #include <cmath>
 
-#include "PlotKeys.h"
-#include "PlotParts.h"
 #include "logic/Axis.h"
 #include "logic/NumberSigns.h"
 #include "logic/TextFormat.h"
 #include "logic/Texts.h"
+#include "PlotKeys.h"
+#include "PlotParts.h"
 
 using workbench::DrawPlotLabel;
 using workbench::DrawPlotText;

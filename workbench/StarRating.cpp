@@ -1,11 +1,11 @@
 #include "StarRating.h"
 
-#include "frame/RegisteredMessages.h"
-
 #include <algorithm>
 #include <cmath>
 #include <iterator>
 #include <numbers>
+
+#include "frame/RegisteredMessages.h"
 
 namespace
 {

@@ -4,8 +4,8 @@
 #include <fstream>
 #include <system_error>
 
-#include "MainWindow.h"
 #include "logic/Texts.h"
+#include "MainWindow.h"
 #include "resource.h"
 #include "windows/StandaloneFrameMigrationHelper.h"
 

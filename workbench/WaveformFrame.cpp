@@ -3,8 +3,8 @@
 #include <array>
 #include <utility>
 
-#include "WaveformPanelView.h"
 #include "logic/Texts.h"
+#include "WaveformPanelView.h"
 #include "windows/StandaloneFrameWnd.h"
 
 using workbench::Text;

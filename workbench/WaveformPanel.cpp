@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <string>
 
-#include "PlotParts.h"
 #include "logic/Amplification.h"
 #include "logic/Texts.h"
+#include "PlotParts.h"
 #include "resource.h"
 
 using workbench::Text;

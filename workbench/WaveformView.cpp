@@ -5,14 +5,14 @@
 #include <iterator>
 #include <limits>
 
-#include "PlotKeys.h"
-#include "PlotParts.h"
 #include "colours/Farbtabellen.h"
 #include "logic/Amplification.h"
 #include "logic/Axis.h"
 #include "logic/CursorReading.h"
 #include "logic/TextFormat.h"
 #include "logic/Texts.h"
+#include "PlotKeys.h"
+#include "PlotParts.h"
 
 namespace
 {

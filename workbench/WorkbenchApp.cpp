@@ -7,10 +7,10 @@
 #include <string>
 #include <vector>
 
+#include "frame/PreferenceStore.h"
 #include "MainWindow.h"
 #include "Settings.h"
 #include "Walk.h"
-#include "frame/PreferenceStore.h"
 
 namespace
 {

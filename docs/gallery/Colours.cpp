@@ -24,10 +24,10 @@ class CColoursWindow : public CGalleryWindow
         }
         for (int scale = 0; scale < scales; ++scale)
         {
-            auto const top = 60 + scale * 20;
+            int const top = 60 + scale * 20;
             dc.SetBkMode(TRANSPARENT);
             dc.TextOut(10, top, Farbtabellen::SpektrogrammFarbtabellenName(scale));
-            auto const * const colours = Farbtabellen::SpektrogrammFarbtabelle(scale);
+            COLORREF const * const colours = Farbtabellen::SpektrogrammFarbtabelle(scale);
             for (int level = 0; level < levels; ++level)
             {
                 dc.FillSolidRect(CRect(CPoint(150 + level * 10, top), CSize(10, 15)), colours[level]);

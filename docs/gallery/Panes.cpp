@@ -23,9 +23,9 @@ public:
     void ShowPanes()
     {
         EnableDocking(CBRS_ALIGN_ANY);
-        for (auto const * const name : {L"Waveform", L"Levels", L"Marks"})
+        for (wchar_t const * const name : {L"Waveform", L"Levels", L"Marks"})
         {
-            auto id = -1; // a program keeps what it becomes
+            int id = -1; // a program keeps what it becomes
             CDockableViewPane * pane = nullptr;
             CStandaloneFrameMigrationHelper::CreatePane<CTextView>(name, id, pane);
             if (pane != nullptr)

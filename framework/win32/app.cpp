@@ -1,13 +1,13 @@
 // CWinApp: the application's start, end and message boxes.
 
-#include "detail/AppDocuments.h"
-#include "detail/ThreadState.h"
-#include "detail/WndAccess.h"
-
 #include <shlwapi.h>
 #include <shobjidl.h>
 
 #include <array>
+
+#include "detail/AppDocuments.h"
+#include "detail/ThreadState.h"
+#include "detail/WndAccess.h"
 
 IMPLEMENT_DYNAMIC(CWinApp, CWinThread)
 

@@ -2,10 +2,11 @@
 
 #include "afxcontrolbars.h"
 #include "afxpriv.h"
-#include "detail/DockHost.h"
-#include "detail/FrameSupport.h"
 
 #include <algorithm>
+
+#include "detail/DockHost.h"
+#include "detail/FrameSupport.h"
 
 using framework::DockHost;
 using framework::PaneAccess;

@@ -1,12 +1,12 @@
 // CFontDialog.
 
-#include <afxwin.h>
 #include <afxdlgs.h>
+#include <afxwin.h>
+
+#include <cstring>
 
 #include "detail/CommonDialogHook.h"
 #include "detail/ModalOwner.h"
-
-#include <cstring>
 
 IMPLEMENT_DYNAMIC(CFontDialog, CCommonDialog)
 

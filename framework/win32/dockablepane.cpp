@@ -1,10 +1,11 @@
 // CDockablePane: a pane with a caption.
 
 #include "afxcontrolbars.h"
-#include "detail/DockHost.h"
-#include "detail/FrameSupport.h"
 
 #include <algorithm>
+
+#include "detail/DockHost.h"
+#include "detail/FrameSupport.h"
 
 using framework::DockHost;
 using framework::WindowGuard;

@@ -2,12 +2,13 @@
 
 #include "afxcontrolbars.h"
 #include "afxpriv.h"
+
+#include <algorithm>
+
 #include "detail/ChildWalk.h"
 #include "detail/DockDrag.h"
 #include "detail/DockHost.h"
 #include "detail/FrameSupport.h"
-
-#include <algorithm>
 
 namespace framework
 {

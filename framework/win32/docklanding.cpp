@@ -1,12 +1,12 @@
 // Where panes that users drag would land, and what happens when they do.
 
-#include "detail/DockHost.h"
-
 #include "afxcontrolbars.h"
-#include "detail/DockDrag.h"
-#include "detail/FrameSupport.h"
 
 #include <algorithm>
+
+#include "detail/DockDrag.h"
+#include "detail/DockHost.h"
+#include "detail/FrameSupport.h"
 
 namespace framework
 {

@@ -1,6 +1,7 @@
 // CMDIChildWnd: a frame inside another.
 
 #include "afxpriv.h"
+
 #include "detail/FrameSupport.h"
 #include "detail/MenuMode.h"
 #include "detail/WndAccess.h"

@@ -1,6 +1,7 @@
 // CMDIFrameWnd: the frame around child frames.
 
 #include "afxpriv.h"
+
 #include "detail/FrameSupport.h"
 #include "detail/MenuMode.h"
 #include "detail/WndAccess.h"

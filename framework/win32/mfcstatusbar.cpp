@@ -1,14 +1,13 @@
 // CMFCStatusBar.
 
 #include "afxstatusbar.h"
-
 #include <afxpriv.h>
+
+#include <algorithm>
 
 #include "detail/BarLooks.h"
 #include "detail/FrameSupport.h"
 #include "detail/WndAccess.h"
-
-#include <algorithm>
 
 using framework::Scaled;
 using framework::WindowGuard;

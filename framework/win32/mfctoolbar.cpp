@@ -1,16 +1,15 @@
 // CMFCBaseToolBar, CMFCToolBar: buttons, pictures, layout, painting, states.
 
 #include "afxtoolbar.h"
-
 #include <afxpriv.h>
+
+#include <algorithm>
+#include <map>
 
 #include "detail/BarLooks.h"
 #include "detail/FrameSupport.h"
 #include "detail/MenuMode.h"
 #include "detail/WndAccess.h"
-
-#include <algorithm>
-#include <map>
 
 using framework::Scaled;
 using framework::WindowGuard;

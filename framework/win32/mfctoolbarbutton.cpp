@@ -3,13 +3,12 @@
 #include "afxpopupmenu.h"
 #include "afxtoolbar.h"
 
+#include <algorithm>
+
 #include "detail/BarLooks.h"
 #include "detail/FrameSupport.h"
 #include "detail/MenuMode.h"
 
-#include <algorithm>
-
-using framework::Between;
 using framework::DrawMark;
 using framework::LabelExtent;
 using framework::Mark;

@@ -2,10 +2,10 @@
 
 #include "afxtoolbarimages.h"
 
-#include "detail/BarLooks.h"
-
 #include <algorithm>
 #include <cstring>
+
+#include "detail/BarLooks.h"
 
 IMPLEMENT_DYNCREATE(CMFCToolBarImages, CObject)
 

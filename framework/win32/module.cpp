@@ -1,9 +1,9 @@
 // Modules: the current instance and resources, and the chain of extension modules.
 
+#include <mutex>
+
 #include "detail/ThreadState.h"
 #include "detail/WndAccess.h"
-
-#include <mutex>
 
 IMPLEMENT_DYNAMIC(CDynLinkLibrary, CCmdTarget)
 
@@ -74,8 +74,6 @@ AFX_MODULE_STATE::AFX_MODULE_STATE(HINSTANCE hInstance)
       m_pFirstLibrary(nullptr)
 {
 }
-
-AFX_MODULE_STATE::~AFX_MODULE_STATE() = default;
 
 AFX_MODULE_STATE * AFXAPI AfxGetAppModuleState()
 {

@@ -2,13 +2,12 @@
 
 #include "afxcontrolbars.h"
 #include "afxcontrolbarutil.h"
-#include "detail/DockHost.h"
-#include "detail/FrameSupport.h"
 
 #include <algorithm>
 
-using framework::DockHost;
-using framework::DockSide;
+#include "detail/DockHost.h"
+#include "detail/FrameSupport.h"
+
 using framework::WindowGuard;
 
 IMPLEMENT_DYNCREATE(CPaneDivider, CBasePane)

@@ -1,10 +1,11 @@
 // CPaneFrameWnd: the frame of floating panes.
 
 #include "afxcontrolbars.h"
-#include "detail/DockHost.h"
-#include "detail/FrameSupport.h"
 
 #include <algorithm>
+
+#include "detail/DockHost.h"
+#include "detail/FrameSupport.h"
 
 using framework::DockHost;
 using framework::WindowGuard;

@@ -1,12 +1,12 @@
 #include <afxcmn.h>
 
+#include <algorithm>
+#include <cstring>
+
 #include "detail/DialogAccess.h"
 #include "detail/ModalOwner.h"
 #include "detail/SheetWindow.h"
 #include "detail/WndAccess.h"
-
-#include <algorithm>
-#include <cstring>
 
 using framework::PropertySheetAccess;
 using framework::SheetPage;

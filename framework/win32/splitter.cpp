@@ -1,11 +1,12 @@
 // CSplitterWnd: creation, panes, layout, activation.
 
 #include "afxpriv.h"
+
+#include <algorithm>
+
 #include "detail/FrameSupport.h"
 #include "detail/SplitterMetrics.h"
 #include "detail/WndAccess.h"
-
-#include <algorithm>
 
 using framework::SplitterLine;
 using framework::WindowGuard;

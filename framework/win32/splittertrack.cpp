@@ -1,10 +1,10 @@
 // CSplitterWnd: painting, moving bars by mouse and keyboard, shared scroll bars.
 
+#include <algorithm>
+
 #include "detail/FrameSupport.h"
 #include "detail/SplitterMetrics.h"
 #include "detail/WndAccess.h"
-
-#include <algorithm>
 
 using framework::SplitterLine;
 using framework::WindowGuard;

@@ -2,10 +2,10 @@
 
 #include <afxwin.h>
 
+#include <algorithm>
+
 #include "detail/ControlSupport.h"
 #include "detail/imagelist.h"
-
-#include <algorithm>
 
 IMPLEMENT_DYNAMIC(CStatic, CWnd)
 IMPLEMENT_DYNAMIC(CButton, CWnd)

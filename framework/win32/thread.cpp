@@ -1,13 +1,13 @@
 // CWinThread: threads with a message loop, and worker threads.
 
 #include "afxpriv.h"
-#include "detail/MenuMode.h"
-#include "detail/ThreadState.h"
-#include "detail/WndAccess.h"
-
 #include <process.h>
 
 #include <vector>
+
+#include "detail/MenuMode.h"
+#include "detail/ThreadState.h"
+#include "detail/WndAccess.h"
 
 IMPLEMENT_DYNAMIC(CWinThread, CCmdTarget)
 

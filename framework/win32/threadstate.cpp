@@ -1,7 +1,8 @@
 #include "detail/ThreadState.h"
-#include "detail/imagelist.h"
 
 #include <memory>
+
+#include "detail/imagelist.h"
 
 namespace framework
 {

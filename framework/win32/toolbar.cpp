@@ -519,9 +519,11 @@ bool CToolBar::WrapWidth(DWORD mode, int length, int & width) const
     width = (mode & LM_HORZ) != 0 ? no_wrap : 0;
     if (!dynamic)
         return true;
-    if ((mode & LM_MRUWIDTH) != 0)
+    bool const docks = (mode & (LM_HORZDOCK | LM_VERTDOCK)) != 0;
+    bool const floats = !docks && length == -1 && (m_style & CBRS_FLOATING) != 0;
+    if ((mode & LM_MRUWIDTH) != 0 || floats)
         width = m_lastWidth;
-    else if ((mode & (LM_HORZDOCK | LM_VERTDOCK)) != 0)
+    else if (docks)
         width = (mode & LM_HORZDOCK) != 0 ? no_wrap : 0;
     else if (length != -1)
     {
@@ -529,8 +531,6 @@ bool CToolBar::WrapWidth(DWORD mode, int length, int & width) const
         CalcInsideRect(inside, (mode & LM_HORZ) != 0);
         width = length + ((mode & LM_LENGTHY) != 0 ? inside.Height() : inside.Width());
     }
-    else if ((m_style & CBRS_FLOATING) != 0)
-        width = m_lastWidth;
     return true;
 }
 

@@ -1,7 +1,8 @@
 // CView and CCtrlView: windows in a frame that show a document.
 
-#include "afxpriv.h"
 #include "afxext.h"
+#include "afxpriv.h"
+
 #include "detail/FrameSupport.h"
 #include "detail/PrintSupport.h"
 #include "detail/WndAccess.h"

@@ -1,9 +1,9 @@
 // CWnd: objects and handles, creation, subclassing, window classes.
 
+#include <cwchar>
+
 #include "detail/ThreadState.h"
 #include "detail/WndAccess.h"
-
-#include <cwchar>
 
 IMPLEMENT_DYNCREATE(CWnd, CCmdTarget)
 

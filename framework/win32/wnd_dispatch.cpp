@@ -1,6 +1,7 @@
 // CWnd: how a message finds its handler in the message maps.
 
 #include "afxpriv.h"
+
 #include "detail/ThreadState.h"
 #include "detail/WndAccess.h"
 

@@ -1,10 +1,11 @@
 // CWnd: the window procedure, its exceptions, and the end of a window.
 
 #include "afxpriv.h"
-#include "detail/ThreadState.h"
-#include "detail/WndAccess.h"
 
 #include <exception>
+
+#include "detail/ThreadState.h"
+#include "detail/WndAccess.h"
 
 namespace
 {

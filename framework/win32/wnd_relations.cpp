@@ -1,11 +1,12 @@
 // CWnd: parents, owners, children, and what is done with all of them.
 
 #include "afxpriv.h"
+
+#include <algorithm>
+
 #include "detail/ChildWalk.h"
 #include "detail/ThreadState.h"
 #include "detail/WndAccess.h"
-
-#include <algorithm>
 
 namespace
 {

@@ -1,10 +1,10 @@
 // What programs that read the screen are told of the small controls.
 
-#include "access/AccessibleControls.h"
-
 #include <gtest/gtest.h>
 
 #include <vector>
+
+#include "access/AccessibleControls.h"
 
 using accessible::Direction;
 using accessible::Element;
@@ -31,7 +31,7 @@ TEST(AccessibleControls, CaptionsAreSpokenWithoutTheirMarks)
     };
     for (auto const & each : captions)
     {
-        auto const caption = accessible::CaptionOf(each.caption);
+        accessible::Caption const caption = accessible::CaptionOf(each.caption);
         EXPECT_EQ(caption.text, each.spoken);
         EXPECT_EQ(caption.shortcut, each.shortcut) << "of " << testing::PrintToString(caption.text);
     }

@@ -1,7 +1,5 @@
 // The colour tables against a written list of them (data/scope_colours.tsv, data/spectrogram_scales.tsv).
 
-#include "colours/Farbtabellen.h"
-
 #include <gtest/gtest.h>
 
 #include <cstdint>
@@ -11,6 +9,8 @@
 #include <sstream>
 #include <string>
 #include <vector>
+
+#include "colours/Farbtabellen.h"
 
 namespace
 {

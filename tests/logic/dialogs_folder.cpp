@@ -1,14 +1,13 @@
 // The folder dialog with a shell that does what the test says.
 
-#include "dialogs/FolderDialog.h"
-
-#include "substitutes/FakeFolderPlatform.h"
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <string>
 #include <vector>
+
+#include "dialogs/FolderDialog.h"
+#include "substitutes/FakeFolderPlatform.h"
 
 namespace
 {

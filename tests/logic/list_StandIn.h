@@ -2,15 +2,15 @@
 // The toolkit's list model on a native list without a window: a table of items with texts and a parameter word each, as
 // the native list keeps them, and columns with a width and a header state.
 
-#include "ListReferenceModel.h"
-#include "list/ListModel.h"
-#include "list/XListColumnFit.h"
-
 #include <set>
 #include <string>
 #include <tuple>
 #include <utility>
 #include <vector>
+
+#include "list/ListModel.h"
+#include "list/XListColumnFit.h"
+#include "ListReferenceModel.h"
 
 /// The native list's part.
 class ItemTable final : public ListItems

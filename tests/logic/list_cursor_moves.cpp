@@ -1,12 +1,12 @@
 // How a list's cell cursor moves, and which keys act at which cells.
 
-#include "list/CursorMoves.h"
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <random>
 #include <set>
+
+#include "list/CursorMoves.h"
 
 using cursor_moves::ActKey;
 using cursor_moves::Grid;
@@ -69,7 +69,7 @@ TEST(CursorMoves, WayThereIsTheWayBack)
         auto const ask = [&](int row, int col) { return (seed >> (row * 5 + col)) % 2 != 0; };
         std::vector<Place> forward;
         Place const ahead(0, -1);
-        for (auto place = cursor_moves::NextChangeable(grid, ahead, true, ask); place;
+        for (std::optional<Place> place = cursor_moves::NextChangeable(grid, ahead, true, ask); place;
              place = cursor_moves::NextChangeable(grid, *place, true, ask))
         {
             forward.push_back(*place);

@@ -2,14 +2,14 @@
 // What the tests of the segment characters share: characters that delete themselves, a painter that writes down what it
 // is told, and the expectations kept in data/segments.
 
-#include "segments/DigiPaint.h"
-
 #include <gtest/gtest.h>
 
 #include <fstream>
 #include <sstream>
 #include <string>
 #include <vector>
+
+#include "segments/DigiPaint.h"
 
 namespace segments
 {

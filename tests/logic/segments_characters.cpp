@@ -1,12 +1,12 @@
 // Which character lights which segments of which kind of cell.
 
-#include "segments_Support.h"
-
 #include <algorithm>
 #include <map>
 #include <tuple>
 #include <type_traits>
 #include <typeinfo>
+
+#include "segments_Support.h"
 
 namespace
 {

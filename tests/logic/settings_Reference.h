@@ -2,10 +2,10 @@
 // What reading a settings file and applying it must do, said as plainly as possible: with indexes into the bytes, a
 // recursive replay and a tree of maps. The real ones are held against it.
 
-#include "settings_Records.h"
-
 #include <map>
 #include <optional>
+
+#include "settings_Records.h"
 
 namespace settings_reference
 {

@@ -1,9 +1,6 @@
 #pragma once
 // The fixture of the tests that run on every kind of settings tree.
 
-#include "settings_Records.h"
-#include "windows/SettingsFile.h"
-
 #include <gtest/gtest.h>
 
 #include <atomic>
@@ -11,6 +8,9 @@
 #include <fstream>
 #include <iterator>
 #include <memory>
+
+#include "settings_Records.h"
+#include "windows/SettingsFile.h"
 
 namespace settings_tests
 {
@@ -23,7 +23,7 @@ public:
     OwnFolder()
     {
         static std::atomic<int> number = 0;
-        auto const * const test = testing::UnitTest::GetInstance()->current_test_info();
+        testing::TestInfo const * const test = testing::UnitTest::GetInstance()->current_test_info();
         m_path = fs::temp_directory_path() / ("settings_" + std::to_string(std::random_device()()) + "_" +
                                               std::to_string(number++) + "_" + std::to_string(test->line()));
         fs::create_directories(m_path);

@@ -1,9 +1,9 @@
 // Export and import of settings in the real registry: the tests of settings_protocol.cpp, and what only it can show.
 
+#include <windows.h>
+
 #include "settings_TreeTest.h"
 #include "windows/RegistrySettingsTree.h"
-
-#include <windows.h>
 
 namespace settings_tests
 {

@@ -190,7 +190,7 @@ TEST(TableCsv, WhatWasWrittenIsReadBack)
             record.resize(1 + random() % 4);
             for (std::size_t field = 0; field < record.size(); ++field)
             {
-                for (auto length = random() % 5; length-- > 0;)
+                for (unsigned int length = random() % 5; length-- > 0;)
                     record[field].push_back(characters[random() % std::size(characters)]);
                 if (field != 0)
                     text.push_back(L';');

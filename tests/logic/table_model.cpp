@@ -208,7 +208,7 @@ TEST_F(TableModelTest, AnotherSourceForgetsWhatWasSelected)
     Sort({{0, false}});
     model.SelectAll();
     model.SetFocus(0);
-    auto const other = Numbers({9, 8});
+    std::shared_ptr<Source> const other = Numbers({9, 8});
     model.SetSource(other);
     EXPECT_EQ(Shown(model), (Order{0, 1})) << "until it is put in order";
     EXPECT_EQ(model.SelectedKeys(), 0U);
@@ -233,7 +233,7 @@ TEST_F(TableModelTest, ATasksOrderComesWithWhatHasChangedSince)
 {
     Show(Numbers({3, 1, 2}));
     model.SetSort({{0, false}});
-    auto const task = model.BeginOrder();
+    std::shared_ptr<TableOrderTask> const task = model.BeginOrder();
     task->Run();
     Append(1.5);
     source->rows[1].cells[0].SetNumber(9);
@@ -249,7 +249,7 @@ TEST_F(TableModelTest, AnOrderThatIsNoLongerWishedForIsNotTaken)
 {
     Show(Numbers({3, 1, 2}));
     model.SetSort({{0, false}});
-    auto const task = model.BeginOrder();
+    std::shared_ptr<TableOrderTask> const task = model.BeginOrder();
     task->Run();
     model.SetSort({{0, true}});
     EXPECT_TRUE(task->Progress().Stopped());
@@ -263,7 +263,7 @@ TEST_F(TableModelTest, AStoppedTaskLeavesWhatIsShown)
     Show(Numbers({3, 1, 2}));
     Sort({{0, false}});
     model.SetSort({{0, true}});
-    auto const task = model.BeginOrder();
+    std::shared_ptr<TableOrderTask> const task = model.BeginOrder();
     task->Progress().Stop();
     task->Run();
     EXPECT_TRUE(task->Finished());
@@ -293,7 +293,7 @@ TEST_F(TableModelTest, ChangesOfEverythingDuringATaskAskForAnotherOne)
     Show(Numbers(values));
     model.SetSort({{0, false}});
     EXPECT_TRUE(model.OrderTakesLong());
-    auto const task = model.BeginOrder();
+    std::shared_ptr<TableOrderTask> const task = model.BeginOrder();
     task->Run();
     source->rows[0].cells[0].SetNumber(2);
     model.Apply(All());

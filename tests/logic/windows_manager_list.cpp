@@ -227,7 +227,7 @@ TEST_F(WindowManagerList, CloseAllViewsSkipsAFrameThatEndedWithAnother)
 {
     ListedManager main(L"Main", CFensterManager::window_main);
     std::unique_ptr<ListedManager> frames[2];
-    for (auto & frame : frames)
+    for (std::unique_ptr<ListedManager> & frame : frames)
     {
         frame = std::make_unique<ListedManager>(L"Frame", CFensterManager::window_mdi_child);
         Bound(*frame, "frame").onDestroy = [&frames] {

@@ -1,8 +1,5 @@
 // Loudness, frequency and distortion of signals whose values are printed in the recommendations or known by formula.
 
-#include "logic/Loudness.h"
-#include "logic/ToneMeter.h"
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -12,6 +9,9 @@
 #include <numbers>
 #include <random>
 #include <vector>
+
+#include "logic/Loudness.h"
+#include "logic/ToneMeter.h"
 
 namespace
 {

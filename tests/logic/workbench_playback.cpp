@@ -1,12 +1,12 @@
 // What an audio device gets of a recording.
 
-#include "logic/PlaybackStream.h"
-#include "logic/Player.h"
-#include "workbench_WavBuilder.h"
-
 #include <gtest/gtest.h>
 
 #include <vector>
+
+#include "logic/PlaybackStream.h"
+#include "logic/Player.h"
+#include "workbench_WavBuilder.h"
 
 namespace
 {
@@ -39,7 +39,7 @@ Samples ReadAll(PlaybackStream & stream, std::size_t room)
 TEST(PlaybackStream, GivesTheSamplesAsTheyAre)
 {
     Samples const samples = {0, 1, -1, 32767, -32768, 12345};
-    auto const bytes = Recording(1, samples);
+    wav::Bytes const bytes = Recording(1, samples);
     auto stream = PlaybackStream::Open(wav::Source(bytes), {});
     ASSERT_TRUE(stream);
     EXPECT_EQ(stream->SampleRate(), 8000U);
@@ -52,7 +52,7 @@ TEST(PlaybackStream, GivesTheSamplesAsTheyAre)
 
 TEST(PlaybackStream, GivesTheFirstTwoOfMoreChannels)
 {
-    auto const bytes = Recording(3, {1, 2, 3, 11, 12, 13, 21, 22, 23});
+    wav::Bytes const bytes = Recording(3, {1, 2, 3, 11, 12, 13, 21, 22, 23});
     auto stream = PlaybackStream::Open(wav::Source(bytes), {});
     ASSERT_TRUE(stream);
     EXPECT_EQ(stream->Channels(), 2U);
@@ -61,7 +61,7 @@ TEST(PlaybackStream, GivesTheFirstTwoOfMoreChannels)
 
 TEST(PlaybackStream, OfAStretchGivesThatAlone)
 {
-    auto const bytes = Recording(1, {0, 1, 2, 3, 4, 5, 6, 7});
+    wav::Bytes const bytes = Recording(1, {0, 1, 2, 3, 4, 5, 6, 7});
     auto stream = PlaybackStream::Open(wav::Source(bytes), {2, 5});
     ASSERT_TRUE(stream);
     EXPECT_EQ(ReadAll(*stream, 2), (Samples{2, 3, 4}));
@@ -72,7 +72,7 @@ TEST(PlaybackStream, OfAStretchGivesThatAlone)
 
 TEST(PlaybackStream, LoopsWithoutAGap)
 {
-    auto const bytes = Recording(1, {0, 1, 2, 3, 4});
+    wav::Bytes const bytes = Recording(1, {0, 1, 2, 3, 4});
     auto stream = PlaybackStream::Open(wav::Source(bytes), {1, 4});
     ASSERT_TRUE(stream);
     stream->SetLoop(true);
@@ -86,7 +86,7 @@ TEST(PlaybackStream, LoopsWithoutAGap)
 
 TEST(PlaybackStream, TellsWhatIsHeard)
 {
-    auto const bytes = Recording(1, Samples(100));
+    wav::Bytes const bytes = Recording(1, Samples(100));
     auto stream = PlaybackStream::Open(wav::Source(bytes), {10, 20});
     ASSERT_TRUE(stream);
     EXPECT_EQ(stream->FrameAfter(0), 10U);
@@ -109,7 +109,7 @@ TEST(PlaybackStream, TellsWhatIsHeard)
 
 TEST(PlaybackStream, LimitsWhatTheGainTakesBeyondFullScale)
 {
-    auto const bytes = Recording(1, {100, -100, 20000, -20000});
+    wav::Bytes const bytes = Recording(1, {100, -100, 20000, -20000});
     auto stream = PlaybackStream::Open(wav::Source(bytes), {});
     ASSERT_TRUE(stream);
     stream->SetGain(2.0);
@@ -120,7 +120,7 @@ TEST(PlaybackStream, ThereIsNoneOfNothing)
 {
     EXPECT_FALSE(PlaybackStream::Open(std::unique_ptr<ByteSource>(), {}));
     EXPECT_FALSE(PlaybackStream::Open(std::filesystem::path("no such recording.wav"), {}));
-    auto const bytes = Recording(1, {1, 2, 3});
+    wav::Bytes const bytes = Recording(1, {1, 2, 3});
     EXPECT_FALSE(PlaybackStream::Open(wav::Source(bytes), {5, 9}));
 }
 
@@ -144,7 +144,7 @@ private:
 
 TEST(PlaybackStream, AFileThatShrinksEndsOrLoopsWhatIsLeft)
 {
-    auto const bytes = Recording(1, {1, 2, 3, 4, 5, 6});
+    wav::Bytes const bytes = Recording(1, {1, 2, 3, 4, 5, 6});
     std::uint64_t size = bytes.size();
     auto stream = PlaybackStream::Open(std::make_unique<Shrinking>(bytes, size), {});
     ASSERT_TRUE(stream);
@@ -252,7 +252,7 @@ TEST_F(PlayerTest, PausesAndGoesOn)
     player.Poll();
     player.Pause(true);
     EXPECT_TRUE(player.IsPaused());
-    auto const heard = device.heard.size();
+    std::size_t const heard = device.heard.size();
     device.Play(5);
     player.Poll();
     EXPECT_EQ(device.heard.size(), heard);

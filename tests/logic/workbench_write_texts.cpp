@@ -1,10 +1,9 @@
 // What is said of files that could not be written.
 
-#include "logic/WriteTexts.h"
-
 #include <gtest/gtest.h>
 
 #include "logic/Texts.h"
+#include "logic/WriteTexts.h"
 
 namespace
 {
@@ -33,7 +32,7 @@ TEST(WorkbenchWriteTexts, EveryReasonIsOneOfTheLanguage)
           {Language::Spanish, L"la carpeta ya no est\u00E1", L"el medio est\u00E1 lleno"}})
     {
         SetLanguage(language);
-        for (auto const error : {2UL, 3UL, 15UL, 21UL, 53UL, 64UL, 67UL})
+        for (unsigned long const error : {2UL, 3UL, 15UL, 21UL, 53UL, 64UL, 67UL})
         {
             EXPECT_EQ(WriteErrorText(error), gone) << error;
         }

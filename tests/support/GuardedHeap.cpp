@@ -1,5 +1,7 @@
 #include "GuardedHeap.h"
 
+#include <psapi.h>
+
 #include <gtest/gtest.h>
 
 #include <cstdint>
@@ -8,8 +10,6 @@
 #include <deque>
 #include <new>
 #include <unordered_map>
-
-#include <psapi.h>
 
 #include "CallStack.h"
 
@@ -288,7 +288,7 @@ IMAGE_IMPORT_DESCRIPTOR const * FirstLibrary(HMODULE module)
 
 bool UsesCppLibrary(HMODULE module)
 {
-    for (auto const * library = FirstLibrary(module); library->Name != 0; ++library)
+    for (IMAGE_IMPORT_DESCRIPTOR const * library = FirstLibrary(module); library->Name != 0; ++library)
     {
         wchar_t name[MAX_PATH];
         ::wsprintfW(name, L"%hs", At<char const>(module, library->Name));
@@ -300,7 +300,7 @@ bool UsesCppLibrary(HMODULE module)
 
 void PatchImports(HMODULE module)
 {
-    for (auto const * library = FirstLibrary(module); library->Name != 0; ++library)
+    for (IMAGE_IMPORT_DESCRIPTOR const * library = FirstLibrary(module); library->Name != 0; ++library)
     {
         auto const * name = At<IMAGE_THUNK_DATA>(module, library->OriginalFirstThunk);
         auto * entry = At<IMAGE_THUNK_DATA>(module, library->FirstThunk);

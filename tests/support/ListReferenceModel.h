@@ -413,7 +413,7 @@ private:
         int & header = headerStates[static_cast<std::size_t>(column)];
         if (!autoCheckbox || header < 1 || header > 4)
             return;
-        auto const all = rows.size();
+        std::size_t const all = rows.size();
         if (Count(column, 0) == all)
             header = 1;
         else if (Count(column, 1) == all)

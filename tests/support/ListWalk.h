@@ -8,16 +8,16 @@
 // press on a cell), Navigate (a navigation key), SetWidth and Width (without padding), Available (room for the
 // columns), MinimumWidth, BarColor, ItemCount, Text, TakeNotices, and IsSound (what it knows of its own consistency).
 
-#include "ListExpectations.h"
-#include "ListReferenceModel.h"
-#include "list/XListCtrlData.h"
-
 #include <algorithm>
 #include <iterator>
 #include <map>
 #include <random>
 #include <string>
 #include <vector>
+
+#include "list/XListCtrlData.h"
+#include "ListExpectations.h"
+#include "ListReferenceModel.h"
 
 namespace list_walk
 {

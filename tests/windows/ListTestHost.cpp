@@ -1,12 +1,12 @@
 #include "ListTestHost.h"
 
-#include "Pump.h"
-
 #include <iterator>
 #include <ostream>
 #include <stdexcept>
 #include <string>
 #include <utility>
+
+#include "Pump.h"
 
 namespace tests
 {

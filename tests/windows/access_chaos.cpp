@@ -1,15 +1,5 @@
 // A client that asks accessible objects at random, and a host that does its worst meanwhile.
 
-#include "ListTestHost.h"
-#include "access_AccessTest.h"
-#include "chaos_Chaos.h"
-#include "controls/ColorButton.h"
-#include "controls/IdNameMultiselectCtrl.h"
-#include "controls/LevelSliderCtrl.h"
-#include "controls/XEditBrowseCtrl.h"
-#include "frame/LifeWatch.h"
-#include "segments/DigiStatic.h"
-
 #include <array>
 #include <map>
 #include <memory>
@@ -17,6 +7,16 @@
 #include <string>
 #include <utility>
 #include <vector>
+
+#include "access_AccessTest.h"
+#include "chaos_Chaos.h"
+#include "controls/ColorButton.h"
+#include "controls/IdNameMultiselectCtrl.h"
+#include "controls/LevelSliderCtrl.h"
+#include "controls/XEditBrowseCtrl.h"
+#include "frame/LifeWatch.h"
+#include "ListTestHost.h"
+#include "segments/DigiStatic.h"
 
 using access_tests::Held;
 using access_tests::Number;

@@ -1,15 +1,15 @@
 // A client that asks the accessible objects of a table at random, and a host that does its worst meanwhile: its source
 // ends the table while a client asks, its callbacks whenever they are called.
 
-#include "access_AccessTest.h"
-#include "chaos_Chaos.h"
-#include "list/table/XTableCtrl.h"
-
 #include <memory>
 #include <set>
 #include <string>
 #include <utility>
 #include <vector>
+
+#include "access_AccessTest.h"
+#include "chaos_Chaos.h"
+#include "list/table/XTableCtrl.h"
 
 using access_tests::Held;
 using access_tests::Number;

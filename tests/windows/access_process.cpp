@@ -1,19 +1,19 @@
 // A client in a process of its own, as a program that reads the screen is: what it learns of a list in another process
 // by that list's window alone, and what is left in both afterwards.
 
-#include "ChildProgram.h"
-#include "GdiHandleCount.h"
-#include "GuardedHeap.h"
-#include "ListTestHost.h"
-#include "access_AccessTest.h"
-#include "list/table/XTableCtrl.h"
-
 #include <array>
 #include <filesystem>
 #include <fstream>
 #include <map>
 #include <optional>
 #include <string>
+
+#include "access_AccessTest.h"
+#include "ChildProgram.h"
+#include "GdiHandleCount.h"
+#include "GuardedHeap.h"
+#include "list/table/XTableCtrl.h"
+#include "ListTestHost.h"
 
 using access_tests::ActionOf;
 using access_tests::Ask;

@@ -1,13 +1,13 @@
 // A frame with bars that show, hide, resize and end each other and the frame whenever they are laid out, updated or
 // told of a command.
 
-#include "chaos_Chaos.h"
-
 #include <afxcmn.h>
 #include <afxext.h>
 #include <afxpriv.h>
 
 #include <vector>
+
+#include "chaos_Chaos.h"
 
 namespace
 {

@@ -1,17 +1,16 @@
 // The small controls, with hosts that change, destroy and delete them in every message that they get. A native control
 // does not stand its own end within its procedure, so the host ends one only while none of its native code runs.
 
-#include "chaos_Chaos.h"
+#include <algorithm>
+#include <vector>
 
 #include "Bitmap.h"
+#include "chaos_Chaos.h"
 #include "controls/ColorButton.h"
 #include "controls/ComboBoxX.h"
 #include "controls/FreeIconButton.h"
 #include "controls/LevelSliderCtrl.h"
 #include "controls/ListBoxX.h"
-
-#include <algorithm>
-#include <vector>
 
 namespace
 {

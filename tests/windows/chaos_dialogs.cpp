@@ -1,16 +1,15 @@
 // Dialogs whose host destroys, deletes and changes them in every message that they get.
 
-#include "chaos_Chaos.h"
-
 #include <afxpriv.h>
-
-#include "MemoryPreferenceStore.h"
-#include "dialogs/Dialog3d.h"
-#include "resource.h"
 
 #include <algorithm>
 #include <memory>
 #include <vector>
+
+#include "chaos_Chaos.h"
+#include "dialogs/Dialog3d.h"
+#include "MemoryPreferenceStore.h"
+#include "resource.h"
 
 namespace
 {

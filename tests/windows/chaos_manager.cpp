@@ -1,12 +1,11 @@
 // The window manager, with windows that end, come and change in every message that they get.
 
-#include "chaos_Chaos.h"
-
-#include "MemoryPreferenceStore.h"
-#include "windows/FensterManager.h"
-
 #include <algorithm>
 #include <vector>
+
+#include "chaos_Chaos.h"
+#include "MemoryPreferenceStore.h"
+#include "windows/FensterManager.h"
 
 namespace
 {

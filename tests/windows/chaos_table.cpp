@@ -5,12 +5,6 @@
 // its header runs, and the edit's while it paints or tells of a change. And since the interface says so: a source is
 // asked without calling the table; only what is written runs the host's code.
 
-#include "chaos_Chaos.h"
-
-#include "MemoryPreferenceStore.h"
-#include "clipboard/Clipboard.h"
-#include "list/table/XTableCtrl.h"
-
 #include <algorithm>
 #include <filesystem>
 #include <memory>
@@ -19,6 +13,11 @@
 #include <thread>
 #include <utility>
 #include <vector>
+
+#include "chaos_Chaos.h"
+#include "clipboard/Clipboard.h"
+#include "list/table/XTableCtrl.h"
+#include "MemoryPreferenceStore.h"
 
 namespace
 {
@@ -619,7 +618,7 @@ void TableWorld::Operate()
         Note("delete");
         if (!m_table->MustLast() && OneIn(4))
         {
-            auto const ending = std::move(m_table);
+            std::unique_ptr<ChaosTable> const ending = std::move(m_table);
         }
         break;
     case 1:

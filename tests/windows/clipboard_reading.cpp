@@ -3,9 +3,8 @@
 #include <afxwin.h>
 
 #include "clipboard/Clipboard.h"
-
-#include "ImportPatch.h"
 #include "clipboard_ClipboardTest.h"
+#include "ImportPatch.h"
 
 namespace
 {

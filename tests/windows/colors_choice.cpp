@@ -1,7 +1,6 @@
 // Who is painted in which set, and who hears of it.
 
 #include "colors_ColorsTest.h"
-
 #include "ImportPatch.h"
 #include "ListTestHost.h"
 #include "Pump.h"

@@ -1,17 +1,16 @@
 // Header, table, edit frame, slider and colour button in the sets of colours.
 
-#include "colors_ColorsTest.h"
+#include <memory>
 
 #include "Bitmap.h"
-#include "GdiHandleCount.h"
-#include "ListTestHost.h"
-#include "Pump.h"
+#include "colors_ColorsTest.h"
 #include "controls/ColorButton.h"
 #include "controls/LevelSliderCtrl.h"
+#include "GdiHandleCount.h"
 #include "list_HeaderTest.h"
+#include "ListTestHost.h"
+#include "Pump.h"
 #include "table_TableTest.h"
-
-#include <memory>
 
 namespace
 {
@@ -93,13 +92,13 @@ protected:
 
 TEST_F(ColorsTable, CellsAndTitlesAreTheSets)
 {
-    auto const before = ShotOf(*table);
+    std::unique_ptr<Canvas> const before = ShotOf(*table);
     for (ControlColorSet const set : colors_tests::adapting_sets)
     {
         SCOPED_TRACE(testing::PrintToString(set));
         control_colors::UseFor(parent.m_hWnd, set);
         ControlColors const colors = control_colors::Of(set);
-        auto const shot = ShotOf(*table);
+        std::unique_ptr<Canvas> const shot = ShotOf(*table);
         CRect const name = CellRect(1, 0);
         EXPECT_EQ(shot->Pixel(name.right - 3, name.bottom - 2), colors.window);
         EXPECT_GT(shot->Count(colors.windowText, name), 5);
@@ -133,7 +132,7 @@ TEST_F(ColorsTable, TextIsReadOnTheHostsGround)
     control_colors::UseFor(parent.m_hWnd, ControlColorSet::dark);
     ControlColors const colors = control_colors::Dark();
     COLORREF const ground = tests::TestTable::Colour(0);
-    auto const shot = ShotOf(*table);
+    std::unique_ptr<Canvas> const shot = ShotOf(*table);
     CRect const name = CellRect(1, 0);
     EXPECT_EQ(shot->Pixel(name.right - 3, name.bottom - 2), ground);
     EXPECT_GT(shot->Count(control_colors::MarkOn(ground, colors.windowText, colors.window), name), 5);
@@ -152,7 +151,7 @@ TEST(ColorsEdit, EditOverACellIsTheSets)
     ::SendMessageW(edit, EM_SETSEL, 3, 3);
     tests::PumpPosted();
     ControlColors const colors = control_colors::Dark();
-    auto const shot = ShotOf(host.list);
+    std::unique_ptr<Canvas> const shot = ShotOf(host.list);
     CRect rect;
     ::GetWindowRect(edit, &rect);
     host.list.ScreenToClient(&rect);
@@ -188,13 +187,13 @@ protected:
 TEST_F(ColorsSlider, WhatNobodyHasChosenIsTheSets)
 {
     COLORREF const face = ::GetSysColor(COLOR_BTNFACE);
-    auto const before = ShotOf(m_slider);
+    std::unique_ptr<Canvas> const before = ShotOf(m_slider);
     for (ControlColorSet const set : colors_tests::adapting_sets)
     {
         SCOPED_TRACE(testing::PrintToString(set));
         control_colors::UseFor(m_host.m_hWnd, set);
         ControlColors const colors = control_colors::Of(set);
-        auto const shot = ShotOf(m_slider);
+        std::unique_ptr<Canvas> const shot = ShotOf(m_slider);
         EXPECT_EQ(m_slider.m_mainColor, colors.sliderMain);
         EXPECT_EQ(m_slider.m_secondColor, colors.sliderSecond);
         EXPECT_FALSE(SamePixels(*shot, *before));
@@ -227,7 +226,7 @@ TEST_F(ColorsSlider, ChangesLeaveNoHandles)
         }
     };
     change();
-    auto const before = tests::GdiHandleCount();
+    int const before = tests::GdiHandleCount();
     for (int i = 0; i < 20; ++i)
         change();
     EXPECT_EQ(tests::GdiHandleCount(), before);
@@ -252,17 +251,17 @@ protected:
 
 TEST_F(ColorsButton, ButtonIsReadable)
 {
-    auto const before = ShotOf(m_button);
+    std::unique_ptr<Canvas> const before = ShotOf(m_button);
     for (bool const framed : {true, false})
     {
         m_button.DrawFrame(framed);
         control_colors::UseFor(m_host.m_hWnd, ControlColorSet::dark);
         ControlColors const colors = control_colors::Dark();
-        auto const shot = ShotOf(m_button);
+        std::unique_ptr<Canvas> const shot = ShotOf(m_button);
         EXPECT_EQ(shot->Pixel(8, 8), colors.face);
         EXPECT_GT(shot->Count(colors.buttonText), 10);
         m_button.EnableWindow(FALSE);
-        auto const disabled = ShotOf(m_button);
+        std::unique_ptr<Canvas> const disabled = ShotOf(m_button);
         EXPECT_EQ(disabled->Pixel(8, 8), colors.face);
         EXPECT_GT(disabled->Count(colors.buttonDisabled), 10);
         m_button.EnableWindow(TRUE);
@@ -276,7 +275,7 @@ TEST_F(ColorsButton, ColoursOfTheHostStay)
 {
     m_button.SetBgColor(yellow);
     control_colors::UseFor(m_host.m_hWnd, ControlColorSet::dark);
-    auto shot = ShotOf(m_button);
+    std::unique_ptr<Canvas> shot = ShotOf(m_button);
     EXPECT_EQ(shot->Pixel(8, 8), yellow);
     // A text that nobody has chosen is read on it.
     EXPECT_GT(shot->Count(control_colors::Dark().window), 10);

@@ -1,15 +1,8 @@
 // Palettes and names of the colour tables. The names are kept from the first call on, so each language is tried in a
 // process of its own.
 
-#include "colours/Farbtabellen.h"
-
-#include <afxwin.h>
 #include <afxcolorbar.h>
-
-#include "ChildProgram.h"
-#include "GdiHandleCount.h"
-#include "ImportPatch.h"
-#include "ResourceReader.h"
+#include <afxwin.h>
 
 #include <gtest/gtest.h>
 
@@ -18,6 +11,12 @@
 #include <fstream>
 #include <string>
 #include <vector>
+
+#include "ChildProgram.h"
+#include "colours/Farbtabellen.h"
+#include "GdiHandleCount.h"
+#include "ImportPatch.h"
+#include "ResourceReader.h"
 
 namespace
 {

@@ -14,14 +14,13 @@
 #include <vector>
 
 #include "Input.h"
-#include "Pump.h"
-#include "ScopedWindow.h"
-
 #include "list/combo/AdvComboBox.h"
 #include "list/combo/AdvComboEdit.h"
 #include "list/combo/DropListBox.h"
 #include "list/combo/DropScrollBar.h"
 #include "list/combo/DropWnd.h"
+#include "Pump.h"
+#include "ScopedWindow.h"
 
 namespace combo_test
 {

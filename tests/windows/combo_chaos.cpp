@@ -1,16 +1,15 @@
 // Combos whose parent deletes, destroys, opens, closes and empties them in every notification, call and message.
 
-#include "chaos_Chaos.h"
-
-#include "list/combo/AdvComboBox.h"
-#include "list/combo/AdvComboEdit.h"
-#include "list/combo/DropListBox.h"
-#include "list/combo/DropWnd.h"
-
 #include <algorithm>
 #include <memory>
 #include <string>
 #include <vector>
+
+#include "chaos_Chaos.h"
+#include "list/combo/AdvComboBox.h"
+#include "list/combo/AdvComboEdit.h"
+#include "list/combo/DropListBox.h"
+#include "list/combo/DropWnd.h"
 
 namespace
 {

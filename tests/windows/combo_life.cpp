@@ -1,7 +1,6 @@
 // Creation and end, the fields' beginnings, and items from resources.
 
 #include "combo_ComboTest.h"
-
 #include "GdiHandleCount.h"
 #include "MessageRecorder.h"
 #include "resource.h"

@@ -1,19 +1,18 @@
 // The browse edit: files by the system's dialog, and the multiselect as a drop-down.
 
-#include "controls_ControlTest.h"
-#include "controls_MultiselectTest.h"
-
-#include "GdiHandleCount.h"
-#include "GuardedHeap.h"
-#include "Input.h"
-#include "Pump.h"
-#include "controls/XEditBrowseCtrl.h"
-
 #include <gtest/gtest.h>
 
 #include <clocale>
 #include <memory>
 #include <string>
+
+#include "controls/XEditBrowseCtrl.h"
+#include "controls_ControlTest.h"
+#include "controls_MultiselectTest.h"
+#include "GdiHandleCount.h"
+#include "GuardedHeap.h"
+#include "Input.h"
+#include "Pump.h"
 
 namespace
 {

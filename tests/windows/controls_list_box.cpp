@@ -1,12 +1,11 @@
 // The list box with numbered rows and tips.
 
-#include "controls/ListBoxX.h"
-
-#include "controls_ControlTest.h"
-
 #include <afxpriv.h>
 
 #include <vector>
+
+#include "controls/ListBoxX.h"
+#include "controls_ControlTest.h"
 
 namespace
 {

@@ -1,11 +1,11 @@
 // The module's own luminance beside the platform's conversions. Built here once more: the module does not export it.
 
-#include "controls/ColorLuma.h"
-#include "controls/LumaPlatform.h"
+#include <shlwapi.h>
 
 #include <gtest/gtest.h>
 
-#include <shlwapi.h>
+#include "controls/ColorLuma.h"
+#include "controls/LumaPlatform.h"
 
 namespace
 {

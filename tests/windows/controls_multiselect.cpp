@@ -1,17 +1,16 @@
 // The id-name multiselect: control, list and dialog.
 
-#include "controls_MultiselectTest.h"
-
-#include "GdiHandleCount.h"
-#include "GuardedHeap.h"
-#include "Input.h"
-#include "Pump.h"
-#include "controls_ControlTest.h"
-
 #include <gtest/gtest.h>
 
 #include <memory>
 #include <random>
+
+#include "controls_ControlTest.h"
+#include "controls_MultiselectTest.h"
+#include "GdiHandleCount.h"
+#include "GuardedHeap.h"
+#include "Input.h"
+#include "Pump.h"
 
 namespace
 {
@@ -411,7 +410,7 @@ TEST_F(Multiselect, TenThousandIdsAreReadBackExactly)
         map[id].Format(L"name %d", static_cast<int>(random() % 100));
     }
     Ids selection;
-    for (auto const & item : map)
+    for (std::pair<int const, CString> const & item : map)
     {
         if (random() % 2 == 0)
             selection.insert(item.first);

@@ -1,10 +1,9 @@
 // A host that changes the resolution, and ends things, in whatever it is told.
 
-#include "chaos_Chaos.h"
-
 #include <map>
 #include <memory>
 
+#include "chaos_Chaos.h"
 #include "list/XListCtrl.h"
 
 namespace

@@ -1,9 +1,8 @@
 // The table at other resolutions.
 
-#include "table_TableTest.h"
-
 #include "Bitmap.h"
 #include "MemoryPreferenceStore.h"
+#include "table_TableTest.h"
 
 namespace
 {

@@ -1,21 +1,20 @@
 // A list's cells as text on the clipboard.
 
-#include "ImportPatch.h"
-#include "ListTestHost.h"
-#include "TestApp.h"
-#include "clipboard_ClipboardTest.h"
-
-#include "frame/CoreLibrary.h"
-
-#include <gtest/gtest.h>
-
 #include <locale.h>
 #include <wchar.h>
+
+#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cstdarg>
 #include <iterator>
 #include <string>
+
+#include "clipboard_ClipboardTest.h"
+#include "frame/CoreLibrary.h"
+#include "ImportPatch.h"
+#include "ListTestHost.h"
+#include "TestApp.h"
 
 namespace
 {

@@ -1,11 +1,10 @@
 // How the list's header paints itself: dividers, relief and marks.
 
-#include "list_HeaderTest.h"
-
-#include "GoldenImage.h"
-
 #include <map>
 #include <utility>
+
+#include "GoldenImage.h"
+#include "list_HeaderTest.h"
 
 namespace
 {

@@ -1,13 +1,12 @@
 // Kinds of cells that a host brings itself, in a real list.
 
-#include "list_PaintTest.h"
-
-#include "Pump.h"
-#include "clipboard/Clipboard.h"
-#include "frame/RegisteredMessages.h"
-
 #include <memory>
 #include <vector>
+
+#include "clipboard/Clipboard.h"
+#include "frame/RegisteredMessages.h"
+#include "list_PaintTest.h"
+#include "Pump.h"
 
 namespace
 {

@@ -1,11 +1,11 @@
-#include "GdiHandleCount.h"
-#include "Pump.h"
-#include "TestApp.h"
-#include "list_PaintTest.h"
-
 #include <map>
 #include <utility>
 #include <vector>
+
+#include "GdiHandleCount.h"
+#include "list_PaintTest.h"
+#include "Pump.h"
+#include "TestApp.h"
 
 namespace
 {
@@ -161,7 +161,7 @@ TEST_F(ListPaintStates, ADisabledRadioButtonDoesNotTellWhetherItIsOn)
     m_list.SetRadioButton(1, 1, XLC_RADIO_ON);
     m_list.SetEnabled(1, 1, false);
     Paint(1, 1);
-    auto const on = Copy(Cell(1, 1));
+    std::unique_ptr<tests::Canvas> const on = Copy(Cell(1, 1));
     m_list.SetRadioButton(1, 1, XLC_RADIO_OFF);
     Paint(1, 1);
     EXPECT_TRUE(tests::SamePixels(*on, *Copy(Cell(1, 1))));

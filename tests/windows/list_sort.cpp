@@ -1,7 +1,5 @@
 // Sorting a list by a column: order, marks, and what moves with the rows.
 
-#include "ListTestHost.h"
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -12,6 +10,8 @@
 #include <string>
 #include <utility>
 #include <vector>
+
+#include "ListTestHost.h"
 
 namespace
 {

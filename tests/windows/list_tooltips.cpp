@@ -1,9 +1,9 @@
 // The tooltips of a list's cells.
 
-#include "list_InputTest.h"
-
 #include <cstdlib>
 #include <string>
+
+#include "list_InputTest.h"
 
 namespace
 {

@@ -1,7 +1,6 @@
 // Access to the visual styles. What is found stays for the process, so most of it is looked at from other processes.
 
 #include <afxwin.h>
-
 #include <shlwapi.h>
 
 #include <gtest/gtest.h>
@@ -14,9 +13,9 @@
 
 #include "Bitmap.h"
 #include "ChildProgram.h"
-#include "ScopedWindow.h"
 #include "list/VisualStyles.h"
 #include "list_FakeVisualStyles.h"
+#include "ScopedWindow.h"
 
 #define FOR_EACH_FUNCTION(X)                                                                                           \
     X(OpenThemeData)                                                                                                   \

@@ -1,17 +1,16 @@
 // Segment characters painted on a device context and on a graphics object.
 
-#include "Bitmap.h"
-#include "GdiHandleCount.h"
-#include "GoldenImage.h"
-#include "ImportPatch.h"
-
-#include "frame/GdiplusModule.h"
-#include "segments/DigiChar.h"
-
 #include <gtest/gtest.h>
 
 #include <string>
 #include <string_view>
+
+#include "Bitmap.h"
+#include "frame/GdiplusModule.h"
+#include "GdiHandleCount.h"
+#include "GoldenImage.h"
+#include "ImportPatch.h"
+#include "segments/DigiChar.h"
 
 namespace
 {

@@ -13,9 +13,9 @@
 #include <vector>
 
 #include "Input.h"
+#include "list/table/XTableCtrl.h"
 #include "Pump.h"
 #include "ScopedWindow.h"
-#include "list/table/XTableCtrl.h"
 
 namespace tests
 {

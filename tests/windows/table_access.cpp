@@ -1,12 +1,11 @@
 // The table as programs that read the screen see it, and what they hear.
 
-#include "table_TableTest.h"
-
-#include "ResourceReader.h"
-#include "access_AccessTest.h"
-
 #include <atomic>
 #include <limits>
+
+#include "access_AccessTest.h"
+#include "ResourceReader.h"
+#include "table_TableTest.h"
 
 using access_tests::ActionOf;
 using access_tests::Ask;
@@ -254,7 +253,7 @@ TEST_F(TableAccess, ActionsAreSpokenInTheLanguageInForce)
 
 TEST_F(TableAccess, TicksThatNobodyMayChangeAreReadOnly)
 {
-    auto columns = Columns();
+    std::vector<TableColumn> columns = Columns();
     columns[2].editable = false;
     table->SetColumns(columns);
     EXPECT_EQ(RoleOf(*object.Get(), Cell(0, 2)), ROLE_SYSTEM_CHECKBUTTON);
@@ -363,7 +362,7 @@ TEST_F(TableAccess, FocusAndSelectionAreHeardOf)
     Listener listener(table->m_hWnd);
     Heard(listener);
     Press(2, 3);
-    auto heard = Heard(listener);
+    std::vector<Listener::Event> heard = Heard(listener);
     EXPECT_TRUE(Has(heard, EVENT_OBJECT_SELECTION, {2, -1}));
     EXPECT_TRUE(Has(heard, EVENT_OBJECT_FOCUS, {2, -1}));
     PressKey(VK_DOWN);
@@ -393,7 +392,7 @@ TEST_F(TableAccess, ValuesAndOrderAreHeardOfOnceForABatch)
     Listener listener(table->m_hWnd);
     Heard(listener);
     object->accDoDefaultAction(Number(Cell(1, 2)));
-    auto heard = Heard(listener);
+    std::vector<Listener::Event> heard = Heard(listener);
     EXPECT_TRUE(Has(heard, EVENT_OBJECT_STATECHANGE, {1, 2}));
     EXPECT_TRUE(Has(heard, EVENT_OBJECT_VALUECHANGE, {1, 2}));
     EXPECT_EQ(Times(heard, EVENT_OBJECT_VALUECHANGE), 1);

@@ -1,7 +1,5 @@
 // The table on a real window: rows, order, selection, columns and what leaves it.
 
-#include "table_TableTest.h"
-
 #include <afxcmn.h>
 
 #include <algorithm>
@@ -12,9 +10,10 @@
 #include <iterator>
 
 #include "Bitmap.h"
-#include "MemoryPreferenceStore.h"
 #include "clipboard/Clipboard.h"
 #include "clipboard_ClipboardTest.h"
+#include "MemoryPreferenceStore.h"
+#include "table_TableTest.h"
 
 namespace
 {

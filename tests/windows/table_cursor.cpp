@@ -1,11 +1,10 @@
 // The cell cursor of a table.
 
-#include "table_TableTest.h"
-
-#include "MessageRecorder.h"
-#include "access_AccessTest.h"
-
 #include <initializer_list>
+
+#include "access_AccessTest.h"
+#include "MessageRecorder.h"
+#include "table_TableTest.h"
 
 using Place = std::pair<TableRow, unsigned int>;
 
@@ -227,7 +226,7 @@ TEST_F(TableCursor, TabGoesToTheNextCellThatCanBeChanged)
     EXPECT_EQ(After(VK_TAB, {VK_SHIFT}), Place(0, 0));
     table->SetCellCursor(49, 3);
     EXPECT_EQ(Wanted(VK_TAB), 0) << "to the control behind";
-    auto columns = Columns();
+    std::vector<TableColumn> columns = Columns();
     for (TableColumn & column : columns)
         column.editable = false;
     table->SetColumns(columns);
@@ -285,7 +284,7 @@ TEST_F(TableCursor, ProgramsThatReadTheScreenFollowIt)
     access_tests::Listener listener(table->m_hWnd);
     auto const heardAt = [&](int position, int place) {
         tests::PumpPosted();
-        auto const heard = listener.Take();
+        std::vector<Event> const heard = listener.Take();
         return std::count(heard.begin(), heard.end(),
                           access_tests::Listener::Event(EVENT_OBJECT_FOCUS, accessible::NumberOf({position, place})));
     };

@@ -1,12 +1,12 @@
 // Cells that are typed into, ticks by the keyboard, and the menu at a cell.
 
-#include "GuardedHeap.h"
-#include "ResourceReader.h"
-#include "table_TableTest.h"
-
 #include <afxcmn.h>
 
 #include <utility>
+
+#include "GuardedHeap.h"
+#include "ResourceReader.h"
+#include "table_TableTest.h"
 
 namespace
 {
@@ -440,7 +440,7 @@ TEST_F(TableEdits, ColumnsMayGoWhileTheEditsPlaceIsLookedFor)
     table->SetColumns(Columns());
     ASSERT_TRUE(table->Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 380, 220), host, 7));
     Show({1, 2, 3, 4});
-    auto columns = Columns();
+    std::vector<TableColumn> columns = Columns();
     columns.resize(1);
     columns[0].editable = false;
     // In the first notification, in the second one, and so on.

@@ -1,11 +1,11 @@
 // A table that is told of changes by threads, and operations at random with real input.
 
-#include "table_TableTest.h"
-
 #include <atomic>
 #include <random>
 #include <set>
 #include <thread>
+
+#include "table_TableTest.h"
 
 namespace
 {

@@ -3,19 +3,18 @@
 #include <afxcmn.h>
 #include <afxwin.h>
 
-#include "SpectrogramView.h"
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <fstream>
+#include <numbers>
 
 #include "../logic/workbench_WavBuilder.h"
 #include "Bitmap.h"
 #include "GdiHandleCount.h"
 #include "Pump.h"
 #include "ScopedWindow.h"
-
-#include <gtest/gtest.h>
-
-#include <cmath>
-#include <fstream>
-#include <numbers>
+#include "SpectrogramView.h"
 
 namespace
 {
@@ -48,7 +47,8 @@ std::filesystem::path WriteRecording(std::size_t frames, char const * name = "ha
     for (std::size_t i = frames / 2; i < frames; ++i)
         samples[i] = static_cast<std::int16_t>(32767 * std::sin(std::numbers::pi / 4 * static_cast<double>(i)));
     auto const file = wav::File().Chunk("fmt ", wav::Format(1, 1, 48000, 2, 16)).Chunk("data", wav::Samples16(samples));
-    auto path = std::filesystem::temp_directory_path() / (std::to_string(::GetCurrentProcessId()) + "_" + name);
+    std::filesystem::path path =
+        std::filesystem::temp_directory_path() / (std::to_string(::GetCurrentProcessId()) + "_" + name);
     std::ofstream stream(path, std::ios::binary);
     stream.write(reinterpret_cast<char const *>(file.Content().data()),
                  static_cast<std::streamsize>(file.Content().size()));
@@ -237,7 +237,7 @@ TEST_F(SpectrogramView, TheProgressBarStaysInTheMiddle)
 
 TEST_F(SpectrogramView, AnotherRecordingTakesThePlaceOfTheOneBeingComputed)
 {
-    auto const longPath = WriteRecording(12'000'000, "long.wav");
+    std::filesystem::path const longPath = WriteRecording(12'000'000, "long.wav");
     m_view.ShowRecording(L"Long", longPath);
     ShowAndWait(48000);
     tests::Canvas canvas(500, 300);

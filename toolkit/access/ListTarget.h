@@ -6,8 +6,8 @@
 
 #include <optional>
 
-#include "access/AccessObject.h"
 #include "access/AccessibleList.h"
+#include "access/AccessObject.h"
 
 /// A list as AccessibleList knows it. What the user does to it is each list's own matter.
 class ListTarget : public AccessTarget

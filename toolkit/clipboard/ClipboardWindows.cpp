@@ -1,6 +1,6 @@
-#include <afxwin.h>
-
 #include "clipboard/Clipboard.h"
+
+#include <afxwin.h>
 
 #include <algorithm>
 #include <cstring>

@@ -1,10 +1,10 @@
 #include "list/XEdit.h"
 
+#include <utility>
+
 #include "colours/ControlColors.h"
 #include "frame/InternalMessages.h"
 #include "layout/Resolution.h"
-
-#include <utility>
 
 namespace XListCtrl
 {

@@ -2,18 +2,18 @@
 
 #include "list/XListCtrl.h"
 
+#include <algorithm>
+#include <cstdint>
+#include <functional>
+#include <iterator>
+#include <utility>
+
 #include "colours/ControlColors.h"
 #include "frame/RegisteredMessages.h"
 #include "list/XListCtrlCursor.h"
 #include "list/XListCtrlHold.h"
 #include "list/XListCtrlResolution.h"
 #include "list/XListSearch.h"
-
-#include <algorithm>
-#include <cstdint>
-#include <functional>
-#include <iterator>
-#include <utility>
 
 namespace
 {

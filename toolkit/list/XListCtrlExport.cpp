@@ -2,16 +2,16 @@
 
 #include "list/XListCtrl.h"
 
-#include "clipboard/Clipboard.h"
-#include "frame/CoreLibrary.h"
-#include "list/XListExport.h"
-#include "list/XListCtrlHold.h"
-
 #include <locale.h>
 #include <wchar.h>
 
 #include <algorithm>
 #include <iterator>
+
+#include "clipboard/Clipboard.h"
+#include "frame/CoreLibrary.h"
+#include "list/XListCtrlHold.h"
+#include "list/XListExport.h"
 
 namespace
 {

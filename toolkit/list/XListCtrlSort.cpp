@@ -5,13 +5,13 @@
 
 #include "list/XListCtrl.h"
 
-#include "list/XListCtrlHold.h"
-#include "list/XListSort.h"
-
 #include <algorithm>
 #include <cwchar>
 #include <functional>
 #include <utility>
+
+#include "list/XListCtrlHold.h"
+#include "list/XListSort.h"
 
 namespace
 {

@@ -6,9 +6,9 @@
 #include <utility>
 
 #ifdef _WIN32
+#include <windows.h>
 #include <fcntl.h>
 #include <io.h>
-#include <windows.h>
 #endif
 
 namespace workbench

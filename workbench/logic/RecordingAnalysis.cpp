@@ -1,10 +1,10 @@
 #include "logic/RecordingAnalysis.h"
 
-#include "logic/TextFormat.h"
-#include "logic/Texts.h"
-
 #include <algorithm>
 #include <utility>
+
+#include "logic/TextFormat.h"
+#include "logic/Texts.h"
 
 namespace workbench
 {

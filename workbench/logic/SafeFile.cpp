@@ -11,9 +11,9 @@
 #include <utility>
 
 #ifdef _WIN32
+#include <windows.h>
 #include <io.h>
 #include <stdlib.h>
-#include <windows.h>
 #else
 #include <fcntl.h>
 #include <sys/file.h>

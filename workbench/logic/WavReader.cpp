@@ -1,7 +1,5 @@
 #include "logic/WavReader.h"
 
-#include "logic/Texts.h"
-
 #include <algorithm>
 #include <array>
 #include <bit>
@@ -9,6 +7,8 @@
 #include <cstring>
 #include <cwchar>
 #include <optional>
+
+#include "logic/Texts.h"
 
 namespace workbench
 {

@@ -192,7 +192,7 @@ TEST(TableThreads, ASourceMayEndWhileItIsSorted)
             source->Append((i * 7919) % 30011);
         TableModel model = ModelOf(source);
         model.SetSort({{0, false}});
-        auto const task = model.BeginOrder();
+        std::shared_ptr<TableOrderTask> const task = model.BeginOrder();
         std::thread worker([task] { task->Run(); });
         while (task->Progress().Done() < round * 50 && !task->Finished())
             std::this_thread::yield();
@@ -213,7 +213,7 @@ TEST(TableThreads, ATaskIsStoppedFromOutside)
         source->Append((i * 7919LL) % 200003);
     TableModel model = ModelOf(source);
     model.SetSort({{0, false}});
-    auto const task = model.BeginOrder();
+    std::shared_ptr<TableOrderTask> const task = model.BeginOrder();
     std::thread worker([task] { task->Run(); });
     while (task->Progress().Done() == 0 && !task->Finished())
         std::this_thread::yield();

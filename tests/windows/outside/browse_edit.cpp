@@ -1,11 +1,11 @@
 // The browse edit, with the system's file dialog driven as a user would, and with a substitute that tells what the
 // dialog was given.
 
-#include "ControlTest.h"
-
 #include <clocale>
 #include <cwchar>
 #include <type_traits>
+
+#include "ControlTest.h"
 
 namespace outside::controls
 {
@@ -93,7 +93,7 @@ protected:
     {
         tests::PumpPosted();
         std::vector<std::pair<WPARAM, LPARAM>> events;
-        for (auto const & each : m_host.Of(WM_XEDITBROWSE_COMPLETED))
+        for (Host::Seen const & each : m_host.Of(WM_XEDITBROWSE_COMPLETED))
             events.push_back({each.wParam, each.lParam});
         m_host.seen.clear();
         return events;
@@ -140,7 +140,7 @@ TEST_F(OutsideBrowse, ClassMapAndDefaults)
     EXPECT_FALSE(f.m_selectionChanged);
     EXPECT_EQ(f.m_dropHeightFactor, 1.1f);
     EXPECT_EQ(f.m_notifyTag, 0u);
-    auto const entries = EntriesOf(Field::GetThisMessageMap());
+    std::vector<MapEntry> const entries = EntriesOf(Field::GetThisMessageMap());
     EXPECT_EQ(entries.size(), 2u);
     EXPECT_TRUE(Handles(entries, WM_SIZE));
     EXPECT_TRUE(Handles(entries, 1053));
@@ -220,9 +220,9 @@ TEST_F(OutsideBrowse, ButtonShowsTheModulesIcon)
         return pixels;
     };
     m_field.EnableBrowseButton(TRUE, L"");
-    auto const plain = shot(m_field);
+    std::vector<COLORREF> const plain = shot(m_field);
     m_field.PrepareFileOpenBrowser(L"", L"", L"");
-    auto const open = shot(m_field);
+    std::vector<COLORREF> const open = shot(m_field);
     EXPECT_NE(open, plain);
     m_field.PrepareFileSaveAsBrowser(L"", L"", L"");
     EXPECT_EQ(shot(m_field), open);

@@ -1,9 +1,9 @@
 // The id-name multiselect: list, composite control, dialog.
 
-#include "ControlTest.h"
-
 #include <algorithm>
 #include <type_traits>
+
+#include "ControlTest.h"
 
 namespace outside::controls
 {
@@ -89,7 +89,7 @@ protected:
     {
         tests::PumpPosted();
         std::vector<std::pair<WPARAM, LPARAM>> events;
-        for (auto const & each : m_host.Of(WM_IDNAME_MULTISELECT_EVENT))
+        for (Host::Seen const & each : m_host.Of(WM_IDNAME_MULTISELECT_EVENT))
             events.push_back({each.wParam, each.lParam});
         m_host.seen.clear();
         return events;
@@ -135,7 +135,7 @@ TEST_F(OutsideMultiselect, ClassesMapsAndDefaults)
                                   &m_multi.m_toolTip};
     for (std::size_t i = 1; i < std::size(order); ++i)
         EXPECT_LT(order[i - 1], order[i]) << i;
-    auto const entries = EntriesOf(Multi::GetThisMessageMap());
+    std::vector<MapEntry> const entries = EntriesOf(Multi::GetThisMessageMap());
     EXPECT_TRUE(Handles(entries, WM_SIZE));
     EXPECT_TRUE(Handles(entries, WM_DESTROY));
     EXPECT_TRUE(Handles(entries, 32802));
@@ -146,7 +146,7 @@ TEST_F(OutsideMultiselect, ClassesMapsAndDefaults)
         })) << id;
     }
     EXPECT_EQ(entries.size(), 7u);
-    auto const rows = EntriesOf(RowList::GetThisMessageMap());
+    std::vector<MapEntry> const rows = EntriesOf(RowList::GetThisMessageMap());
     ASSERT_EQ(rows.size(), 1u);
     EXPECT_EQ(rows[0].message, static_cast<UINT>(WM_LBUTTONDOWN));
 }
@@ -292,7 +292,7 @@ TEST_F(OutsideMultiselect, ButtonIconsAreThoseOfTheModule)
     for (Row const & row : {Row{m_multi.m_selectAll, 126}, Row{m_multi.m_selectNone, 127}, Row{m_multi.m_cancel, 129},
                             Row{m_multi.m_ok, 128}})
     {
-        auto const mine = pixels(row.button.GetIcon());
+        std::vector<COLORREF> const mine = pixels(row.button.GetIcon());
         auto const big = static_cast<HICON>(::LoadImageW(Toolkit(), MAKEINTRESOURCEW(row.icon), IMAGE_ICON, 32, 32, 0));
         auto const small =
             static_cast<HICON>(::LoadImageW(Toolkit(), MAKEINTRESOURCEW(row.icon), IMAGE_ICON, 16, 16, 0));
@@ -953,7 +953,7 @@ TEST_F(OutsideMultiselectDialog, FieldsAndMap)
     CIdNameMultiselectDlg plain;
     EXPECT_TRUE(plain.m_placement.IsRectEmpty());
     EXPECT_TRUE(Inner(plain).m_okCancel);
-    auto const entries = EntriesOf(Dialog::GetThisMessageMap());
+    std::vector<MapEntry> const entries = EntriesOf(Dialog::GetThisMessageMap());
     EXPECT_EQ(entries.size(), 2u);
     EXPECT_TRUE(Handles(entries, WM_SIZE));
     EXPECT_TRUE(std::any_of(entries.begin(), entries.end(),

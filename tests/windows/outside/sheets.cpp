@@ -11,16 +11,16 @@
 #include <memory>
 #include <vector>
 
-#include "MessageRecorder.h"
-#include "OutsideTest.h"
-#include "Pump.h"
-#include "ScopedWindow.h"
-#include "TestApp.h"
 #include "dialogs/Dialog3d.h"
 #include "dialogs/PropertyPage3d.h"
 #include "dialogs/PropertySheet3d.h"
 #include "layout/Edges.h"
+#include "MessageRecorder.h"
 #include "outside_resource.h"
+#include "OutsideTest.h"
+#include "Pump.h"
+#include "ScopedWindow.h"
+#include "TestApp.h"
 
 namespace outside
 {

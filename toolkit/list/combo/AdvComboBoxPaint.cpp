@@ -5,10 +5,10 @@
 #include "colours/ControlColors.h"
 #include "frame/GraphicsScopes.h"
 #include "layout/Resolution.h"
-#include "list/VisualStyles.h"
 #include "list/combo/AdvComboBoxWatch.h"
 #include "list/combo/AdvComboEdit.h"
 #include "list/combo/DropWnd.h"
+#include "list/VisualStyles.h"
 
 namespace XListCtrl
 {

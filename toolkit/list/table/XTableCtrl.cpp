@@ -1,10 +1,9 @@
-#include "list/table/XTableCtrlState.h"
-
 #include <thread>
 #include <utility>
 
 #include "frame/InternalMessages.h"
 #include "layout/WindowDpi.h"
+#include "list/table/XTableCtrlState.h"
 
 IMPLEMENT_DYNAMIC(CXTableCtrl, CListCtrl)
 

@@ -1,7 +1,5 @@
 // CXTableCtrl: what programs that read the screen see of the table, and what they are told.
 
-#include "list/table/XTableCtrlState.h"
-
 #include <oleacc.h>
 
 #include <algorithm>
@@ -12,6 +10,7 @@
 #include "access/ListTarget.h"
 #include "frame/WindowAlive.h"
 #include "list/CellKind.h"
+#include "list/table/XTableCtrlState.h"
 
 using accessible::Element;
 

@@ -1,5 +1,3 @@
-#include "list/table/XTableCtrlState.h"
-
 #include <algorithm>
 #include <utility>
 
@@ -7,6 +5,7 @@
 #include "frame/PreferenceStore.h"
 #include "layout/WindowDpi.h"
 #include "list/table/TableHeaderPaint.h"
+#include "list/table/XTableCtrlState.h"
 
 namespace
 {

@@ -1,13 +1,12 @@
 // CXTableCtrl: the cell cursor. Its row is the one with the focus; its column is the one that keys meant before there
 // was a cursor, too.
 
-#include "list/table/XTableCtrlState.h"
-
 #include <algorithm>
 #include <limits>
 #include <utility>
 
 #include "list/CursorMoves.h"
+#include "list/table/XTableCtrlState.h"
 
 namespace
 {

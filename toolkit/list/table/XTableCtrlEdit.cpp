@@ -1,12 +1,11 @@
 // CXTableCtrl: the cell that is typed into. The edit stays with its cell by the row's key, wherever rows and columns
 // go.
 
-#include "list/table/XTableCtrlState.h"
-
 #include <algorithm>
 #include <utility>
 
 #include "frame/OwnTexts.h"
+#include "list/table/XTableCtrlState.h"
 
 namespace
 {

@@ -1,5 +1,3 @@
-#include "list/table/XTableCtrlState.h"
-
 #include <filesystem>
 #include <fstream>
 #include <utility>
@@ -7,6 +5,7 @@
 #include "clipboard/Clipboard.h"
 #include "clipboard/HtmlBlock.h"
 #include "list/table/TableCopy.h"
+#include "list/table/XTableCtrlState.h"
 
 namespace
 {

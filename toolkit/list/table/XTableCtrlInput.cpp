@@ -1,6 +1,6 @@
-#include "list/table/XTableCtrlState.h"
-
 #include <algorithm>
+
+#include "list/table/XTableCtrlState.h"
 
 namespace
 {

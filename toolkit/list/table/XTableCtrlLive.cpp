@@ -1,7 +1,7 @@
-#include "list/table/XTableCtrlState.h"
-
 #include <algorithm>
 #include <utility>
+
+#include "list/table/XTableCtrlState.h"
 
 /// Where the user looks.
 struct CXTableCtrl::View

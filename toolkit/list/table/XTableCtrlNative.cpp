@@ -1,11 +1,10 @@
 // CXTableCtrl: the native list below it. It is asked directly, past the messages that the host could hear: whoever asks
 // goes on with what was true before.
 
-#include "list/table/XTableCtrlState.h"
-
 #include <algorithm>
 
 #include "access/AccessObject.h"
+#include "list/table/XTableCtrlState.h"
 
 // All that the native list does goes through here. It stands no change of its columns and rows meanwhile; they wait.
 LRESULT CXTableCtrl::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)

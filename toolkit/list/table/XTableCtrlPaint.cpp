@@ -1,10 +1,9 @@
-#include "list/table/XTableCtrlState.h"
-
 #include <algorithm>
 #include <cmath>
 
 #include "frame/GraphicsScopes.h"
 #include "list/CheckMarks.h"
+#include "list/table/XTableCtrlState.h"
 
 namespace
 {

@@ -1,8 +1,6 @@
 #pragma once
 // What a table control has. Internal to the module.
 
-#include "list/table/XTableCtrl.h"
-
 #include <atomic>
 
 #include "layout/Resolution.h"
@@ -13,6 +11,7 @@
 #include "list/table/TableModel.h"
 #include "list/table/TableNews.h"
 #include "list/table/TablePace.h"
+#include "list/table/XTableCtrl.h"
 #include "list/table/XTableEdit.h"
 
 /// Posts to the window from any thread; to none once that is gone.

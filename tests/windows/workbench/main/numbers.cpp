@@ -1,11 +1,10 @@
 // Numbers follow the user's region.
 
-#include "MainWindowTest.h"
-
 #include <string>
 
 #include "DetailsDialog.h"
 #include "logic/NumberSigns.h"
+#include "MainWindowTest.h"
 
 namespace
 {
@@ -69,14 +68,14 @@ TEST_F(WorkbenchNumbers, AChangeOfTheRegionCountsAtOnceInTheListTheDetailsAndThe
 
 TEST_F(WorkbenchNumbers, TheHelpHasThemInEachLanguage)
 {
-    auto const locale = ::GetThreadLocale();
+    LCID const locale = ::GetThreadLocale();
     ASSERT_TRUE(m_window->Help().Show(workbench::HelpTopic::measures));
     auto const has = [this](wchar_t const * number) {
         CString text;
         m_window->Help().GetDlgItemText(IDC_HELP_PAGE, text);
         return text.Find(number) >= 0;
     };
-    for (auto const language : {1033, 1031, 3082})
+    for (int const language : {1033, 1031, 3082})
     {
         m_window->ChooseLanguage(static_cast<unsigned short>(language));
         ChangeRegion(L",", L".");
@@ -91,7 +90,7 @@ TEST_F(WorkbenchNumbers, TheHelpHasThemInEachLanguage)
 
 TEST_F(WorkbenchNumbers, SortingIsByTheValues)
 {
-    auto const folder = Folder(0);
+    std::filesystem::path const folder = Folder(0);
     std::filesystem::create_directories(folder);
     tests::WriteRecording(folder / "a.wav", 96000);
     tests::WriteRecording(folder / "b.wav", 8000);
