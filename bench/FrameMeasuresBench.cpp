@@ -154,11 +154,13 @@ Filling Fill(std::uint32_t seconds, std::vector<TableSortColumn> const & sort)
     PumpUntil(
         [&] {
             if (told.exchange(false))
+            {
                 filling.native.Add(bench::Nanoseconds([&] {
                     native.SetItemCountEx(static_cast<int>(job.Rows()->Size()),
                                           LVSICF_NOINVALIDATEALL | LVSICF_NOSCROLL);
                     native.UpdateWindow();
                 }));
+            }
             return job.GetResult() != nullptr;
         },
         filling.native);

@@ -228,8 +228,10 @@ unsigned long long BytesInUse()
         ::HeapLock(heap);
         PROCESS_HEAP_ENTRY entry{};
         while (::HeapWalk(heap, &entry))
+        {
             if ((entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) != 0)
                 bytes += entry.cbData + entry.cbOverhead;
+        }
         ::HeapUnlock(heap);
     }
     return bytes;

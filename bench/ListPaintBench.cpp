@@ -149,8 +149,10 @@ bool PageOf(char const * name, Change && change, HandDrawing draw, CImageList * 
     }
     page.m_ours.SetBatchInsertMode(true);
     for (int row = 0; row < row_count; ++row)
+    {
         for (int column = 0; column < column_count; ++column)
             change(page.m_ours, row, column);
+    }
     page.m_ours.SetBatchInsertMode(false);
     PumpAll();
     return PaintAndReport(page, name, 1.1);

@@ -68,11 +68,13 @@ void SearchByPlainLoop(benchmark::State & state)
         benchmark::DoNotOptimize(data);
         int found = -1;
         for (int row = 0; row < row_count; ++row)
+        {
             if (parameters[static_cast<std::size_t>(row)]->cells()[0].itemData64 == data)
             {
                 found = row;
                 break;
             }
+        }
         if (found != last_data)
             state.SkipWithError("not found");
         benchmark::DoNotOptimize(found);

@@ -221,8 +221,10 @@ bool PaintLineWithGdiplus()
             {
                 Gdiplus::GraphicsPath path(Gdiplus::FillModeAlternate);
                 for (std::size_t i = 1; i < polygon.points.size(); ++i)
+                {
                     path.AddLine(polygon.points[i - 1].x, polygon.points[i - 1].y, polygon.points[i].x,
                                  polygon.points[i].y);
+                }
                 if (polygon.lit)
                     graphics.DrawPath(&onPen, &path);
                 graphics.FillPath(polygon.lit ? &onBrush : &offBrush, &path);

@@ -210,8 +210,10 @@ Costs OfNative(CWnd & parent, int count)
         Nanoseconds([&] {
             list.SetRedraw(FALSE);
             for (int row = count - 1; row >= 0; --row)
+            {
                 if (files[static_cast<std::size_t>(row)].filename().wstring().find(L'7') == std::wstring::npos)
                     list.DeleteItem(row);
+            }
             list.SetRedraw(TRUE);
             PumpAll();
         }) /

@@ -45,8 +45,10 @@ CFontDialog::CFontDialog(CHARFORMAT const & charformat, DWORD dwFlags, CDC * pdc
     if ((mask & CFM_FACE) != 0)
         ::lstrcpyn(m_font.lfFaceName, charformat.szFaceName, LF_FACESIZE);
     if ((mask & CFM_COLOR) != 0)
+    {
         m_cf.rgbColors =
             (charformat.dwEffects & CFE_AUTOCOLOR) != 0 ? ::GetSysColor(COLOR_WINDOWTEXT) : charformat.crTextColor;
+    }
 }
 
 CFontDialog::~CFontDialog() = default;

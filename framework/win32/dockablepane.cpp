@@ -306,8 +306,10 @@ void CDockablePane::EnableGripper(BOOL bEnable)
 {
     CPane::EnableGripper(bEnable);
     if (m_hWnd != nullptr)
+    {
         CWnd::SetWindowPos(nullptr, 0, 0, 0, 0,
                            SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
+    }
 }
 
 int CDockablePane::GetCaptionHeight() const

@@ -341,8 +341,10 @@ void CMDIChildWnd::SetMenuOfFrame(HMENU hMenu)
     if (hMenu == nullptr)
         hMenu = frame->m_defaultMenu;
     if (hMenu != nullptr && hMenu != ::GetMenu(frame->m_hWnd))
+    {
         ::SendMessage(frame->m_hWndMDIClient, WM_MDISETMENU, reinterpret_cast<WPARAM>(hMenu),
                       reinterpret_cast<LPARAM>(frame->GetWindowMenuPopup(hMenu)));
+    }
     else
         ::SendMessage(frame->m_hWndMDIClient, WM_MDIREFRESHMENU, 0, 0);
 }

@@ -231,8 +231,10 @@ void CMDIFrameWnd::OnUpdateFrameMenu(HMENU hMenuAlt)
     if (CMDIChildWnd * const child = MDIGetActive())
         child->UpdateMenu(TRUE, child, hMenuAlt);
     else if (!framework::ShowMenuInBar(m_hWnd, hMenuAlt))
+    {
         ::SendMessage(m_hWndMDIClient, WM_MDISETMENU,
                       reinterpret_cast<WPARAM>(hMenuAlt != nullptr ? hMenuAlt : m_defaultMenu), 0);
+    }
 }
 
 BOOL CMDIFrameWnd::PreTranslateMessage(MSG * pMsg)

@@ -270,8 +270,10 @@ BOOL CCtrlView::PreCreateWindow(CREATESTRUCT & cs)
     cs.lpszClass = m_strClass;
     // The style that a view gets by default is taken as "the control's own"; a border stays as asked for.
     if ((static_cast<DWORD>(cs.style) | WS_BORDER) == AFX_WS_DEFAULT_VIEW)
+    {
         cs.style =
             static_cast<LONG>(m_dwDefaultStyle & (static_cast<DWORD>(cs.style) | ~static_cast<DWORD>(WS_BORDER)));
+    }
     return CView::PreCreateWindow(cs);
 }
 

@@ -298,8 +298,10 @@ LPCTSTR AFXAPI AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCursor, HBRUSH hbr
     if (hCursor == nullptr && hbrBackground == nullptr && hIcon == nullptr)
         std::swprintf(name, std::size(name), L"Afx:%p:%x", static_cast<void *>(instance), nClassStyle);
     else
+    {
         std::swprintf(name, std::size(name), L"Afx:%p:%x:%p:%p:%p", static_cast<void *>(instance), nClassStyle,
                       static_cast<void *>(hCursor), static_cast<void *>(hbrBackground), static_cast<void *>(hIcon));
+    }
     WNDCLASS description{};
     description.style = nClassStyle;
     description.lpfnWndProc = ::DefWindowProc;

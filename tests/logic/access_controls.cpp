@@ -149,8 +149,10 @@ TEST(AccessibleControls, ItemsAreWalkedTheWayTheyStand)
         {true, {1, -1}, Direction::down, {}},
     };
     for (auto const & step : steps)
+    {
         EXPECT_EQ(accessible::Navigate({3, step.sideBySide}, step.from, step.direction), step.to)
             << step.sideBySide << ' ' << step.from.row << ' ' << static_cast<int>(step.direction);
+    }
     EXPECT_FALSE(accessible::Navigate({0, false}, {}, Direction::first_child));
     EXPECT_TRUE(accessible::Exists({0, false}, {}));
     EXPECT_TRUE(accessible::Exists({3, false}, {2, -1}));

@@ -130,8 +130,10 @@ TEST_F(AccessibleLists, AreWalkedFromElementToElement)
         {{1, 1}, Direction::first_child, {}},
     };
     for (auto const & step : steps)
+    {
         EXPECT_EQ(accessible::Navigate(m_list, step.from, step.direction), step.to)
             << step.from.row << ' ' << step.from.col << ' ' << static_cast<int>(step.direction);
+    }
 }
 
 TEST_F(AccessibleLists, AreHitInCellsRowsAndBesideThem)

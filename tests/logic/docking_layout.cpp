@@ -286,8 +286,10 @@ TEST(DockLayout, ManyOperationsLeaveASoundLayout)
             return DockContent(layout.ShownTogether(any()));
         case 1:
             if (!layout.Frames().empty())
+            {
                 return DockContent::Frame(
                     layout.Frames()[static_cast<size_t>(below(static_cast<int>(layout.Frames().size())))].id);
+            }
             [[fallthrough]];
         default:
             return any();

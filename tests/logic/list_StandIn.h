@@ -41,8 +41,10 @@ public:
     int FindObject(XLISTCTRLROW const & object) const override
     {
         for (std::size_t row = 0; row < items.size(); ++row)
+        {
             if (items[row].parameter == &object)
                 return static_cast<int>(row);
+        }
         return -1;
     }
     std::vector<XLISTCTRLROW *> ObjectsFromTop() const override
@@ -251,8 +253,10 @@ public:
     int GetSelectedItem() const
     {
         for (std::size_t i = 0; i < m_native.items.size(); ++i)
+        {
             if (m_native.items[i].selected)
                 return static_cast<int>(i);
+        }
         return -1;
     }
     void Navigate(bool down, bool)
@@ -325,11 +329,13 @@ public:
         std::set<XLISTCTRLROW const *> objects;
         std::size_t items = 0;
         for (ItemTable::Item const & item : m_native.items)
+        {
             if (item.parameter != nullptr)
             {
                 ++items;
                 objects.insert(item.parameter);
             }
+        }
         CXListRowPool const & pool = m_model.pool;
         return objects.size() == items && pool.used() == items && used == items && pool.capacity() >= items;
     }

@@ -30,8 +30,10 @@ TEST(CursorMoves, GoAlongTheColumnsThatShow)
         {3, MoveKey::end, true, 2},    {1, MoveKey::right, false, 3}, {1, MoveKey::end, false, 2},
     };
     for (auto const & move : moves)
+    {
         EXPECT_EQ(cursor_moves::ColumnAfter(grid, move.from, move.key, move.control), move.to)
             << move.from << ' ' << static_cast<int>(move.key) << ' ' << move.control;
+    }
     EXPECT_EQ(cursor_moves::ColumnAfter({5, {}}, 0, MoveKey::right, false), -1);
 }
 
@@ -113,8 +115,10 @@ TEST(CursorMoves, KeysActAtCellsOfTheirKinds)
     for (auto const & cell : cells)
     {
         for (ActKey const key : {ActKey::space, ActKey::edit, ActKey::character, ActKey::drop_down, ActKey::enter})
+        {
             EXPECT_EQ(cursor_moves::Acts(key, cell.press), cell.keys.contains(key))
                 << static_cast<int>(key) << ' ' << static_cast<int>(cell.press);
+        }
         EXPECT_EQ(cursor_moves::CanBeChanged(cell.press), cell.changes);
     }
 }

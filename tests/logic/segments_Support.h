@@ -93,8 +93,10 @@ inline std::vector<std::istringstream> ReadExpectations(char const * name)
     EXPECT_TRUE(file) << name;
     std::vector<std::istringstream> lines;
     for (std::string line; std::getline(file, line);)
+    {
         if (!line.empty() && line[0] != '#')
             lines.emplace_back(line);
+    }
     EXPECT_FALSE(lines.empty()) << name;
     return lines;
 }

@@ -27,8 +27,10 @@ Lit LitOf(CDigiChar const & character)
 {
     Lit lit;
     for (int bit = 0; bit < 16; ++bit)
+    {
         if ((character.mask & 1u << bit) != 0)
             lit.push_back(bit);
+    }
     return lit;
 }
 

@@ -92,8 +92,10 @@ inline Key * Enter(Key & key, std::u16string path)
             names.back() += unit;
     }
     for (std::u16string const & name : names)
+    {
         if (name.empty() || name.size() > settings_tests::longest_key_name)
             return nullptr;
+    }
     Key * current = &key;
     for (std::u16string const & name : names)
     {

@@ -181,9 +181,11 @@ TEST_P(SettingsProtocol, TextKeepsTheTerminatorsThatItHas)
     registry_entry_list list{Begin(u"A")};
     char16_t name = u'a';
     for (std::uint32_t const type : {type_sz, type_expand_sz, type_multi_sz})
+    {
         for (Bytes const & data : {Bytes{}, Bytes{'x'}, Bytes{'x', 0}, Bytes{'x', 0, 'y'}, Bytes{'x', 0, 0},
                                    Bytes{0, 0}, Bytes{'x', 0, 0, 0}, Bytes{'x', 0, 0, 0, 0, 0}, Bytes(64, 'x')})
             list.push_back(Value(std::u16string(1, name++), type, data));
+    }
     list.push_back(End());
     Fill(list);
     EXPECT_EQ(Sorted(Content()), Sorted(list));

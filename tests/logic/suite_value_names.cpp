@@ -162,8 +162,10 @@ TEST(SuiteValueNames, OtherTextIsNoName)
                                         u"a@\uFF11",
                                         u"\u00A0@0",
                                         u"(Default)"})
+    {
         EXPECT_FALSE(ParseValueName(text).has_value())
             << std::string(text, text + std::char_traits<char16_t>::length(text));
+    }
 }
 
 TEST(SuiteValueNames, NamesBeyondTheRegistrysLimitAreRefused)

@@ -50,8 +50,10 @@ std::vector<FrameMeasures> RowsOf(Signal const & signal, std::uint64_t frames, s
         std::size_t const now = std::min(lengths[piece++ % lengths.size()], frames - frame);
         samples.clear();
         for (std::uint64_t i = frame; i < frame + now; ++i)
+        {
             for (std::size_t channel = 0; channel < channels; ++channel)
                 samples.push_back(signal(i, channel));
+        }
         meter.Add(samples, rows);
         frame += now;
     }

@@ -55,8 +55,10 @@ std::size_t LoudestLine(std::vector<std::uint8_t> const & picture, std::size_t w
 {
     std::size_t loudest = 0;
     for (std::size_t line = 0; line < height; ++line)
+    {
         if (picture[(height - 1 - line) * width + x] > picture[(height - 1 - loudest) * width + x])
             loudest = line;
+    }
     return loudest;
 }
 
@@ -122,12 +124,14 @@ TEST(SpectrogramSettings, LevelsDoNotDependOnThem)
 {
     wav::File const file = FileOf(Samples(32768, 0, 0));
     for (std::size_t const window : {256U, 1024U, 4096U})
+    {
         for (int const overlap : {0, 50, 75, 87})
         {
             Spectrogram const spectrogram = Compute(file, {window, overlap}, std::nullopt);
             auto const row = static_cast<std::size_t>(std::lround(500.0 / 4000.0 * (spectrogram.Rows() - 1.0)));
             EXPECT_EQ(spectrogram.Entry(spectrogram.Columns() / 2, row), ScaleEntry(-6.02)) << window << ' ' << overlap;
         }
+    }
 }
 
 TEST(SpectrogramSettings, WhatIsNotAllowedIsReplaced)

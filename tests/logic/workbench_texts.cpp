@@ -256,8 +256,10 @@ TEST(WorkbenchTexts, EveryEntryIsFoundInAllLanguages)
 TEST(WorkbenchTexts, ATextHasTheSameConversionsAccessKeyAndShortcutInAllLanguages)
 {
     for (auto const & [english, texts] : Entries())
+    {
         for (std::string const & text : texts)
             ExpectSameForm(english, text);
+    }
 }
 
 TEST(WorkbenchTexts, MenusAndDialogsAreThereInAllLanguages)

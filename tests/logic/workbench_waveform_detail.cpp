@@ -92,9 +92,13 @@ private:
 bool Covers(std::vector<std::vector<MinMax>> const & columns, std::vector<std::vector<MinMax>> const & exact)
 {
     for (std::size_t lane = 0; lane < exact.size(); ++lane)
+    {
         for (std::size_t i = 0; i < exact[lane].size(); ++i)
+        {
             if (columns[lane][i].least > exact[lane][i].least || columns[lane][i].greatest < exact[lane][i].greatest)
                 return false;
+        }
+    }
     return columns.size() == exact.size();
 }
 
@@ -195,8 +199,10 @@ TEST(WaveformDetail, TheAmplitudeOfAStretchIsExactAndLeavesThePictureAlone)
         FrameRange const range{first, first + 1 + random() % 480};
         double expected = 0;
         for (std::vector<MinMax> const & lane : recording.Expected(range, 1))
+        {
             expected = std::max({expected, std::fabs(static_cast<double>(lane[0].least)),
                                  std::fabs(static_cast<double>(lane[0].greatest))});
+        }
         ASSERT_DOUBLE_EQ(detail.Amplitude(range), expected) << i;
     }
     EXPECT_EQ(detail.Amplitude({299990, 400000}), detail.Amplitude({299990, 300000}));

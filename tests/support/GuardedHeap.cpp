@@ -137,8 +137,10 @@ void CheckBlock(void * address, Block & block)
     BYTE * const memory = static_cast<BYTE *>(address);
     std::size_t at = FirstOther(memory - guard_size, guard_size, guard_byte);
     if (at < guard_size)
+    {
         return Report(address, block, GuardedHeap::Damage::before,
                       static_cast<std::ptrdiff_t>(at) - static_cast<std::ptrdiff_t>(guard_size));
+    }
     at = FirstOther(memory + block.size, guard_size, guard_byte);
     if (at < guard_size)
         return Report(address, block, GuardedHeap::Damage::behind, static_cast<std::ptrdiff_t>(block.size + at));
@@ -384,8 +386,10 @@ GuardedHeap::~GuardedHeap()
         ShrinkQuarantine(0);
     }
     for (Error const & error : Take())
+    {
         ADD_FAILURE() << "guarded heap: block of " << error.size << " bytes, allocation " << error.number << ": "
                       << Text(error.damage) << ", byte " << error.offset;
+    }
 }
 
 std::size_t GuardedHeap::Check()

@@ -488,8 +488,10 @@ private:
                 m_operation = "DeleteAllToolTips";
                 m_list.DeleteAllToolTips();
                 for (int i = 0; i < m_model.RowCount(); ++i)
+                {
                     for (int j = 0; Cell * const each = m_model.Find(i, j); ++j)
                         each->tip.clear();
+                }
                 break;
             }
             m_operation = "SetItemCheckedState";
@@ -513,8 +515,10 @@ private:
         if (!m_difference.empty())
             return;
         for (int column = 0; column < m_model.ColumnCount(); ++column)
+        {
             Same(m_list.GetHeaderCheckedState(column), m_model.headerStates[static_cast<std::size_t>(column)],
                  "the header's state");
+        }
         if (m_model.ColumnCount() != 0)
             CompareColumn(Below(m_model.ColumnCount()));
         for (int row = 0; row < m_model.RowCount(); ++row)

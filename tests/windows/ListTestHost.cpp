@@ -28,8 +28,10 @@ NamedMessage const list_messages[] = {
 NamedMessage const * Find(UINT message)
 {
     for (NamedMessage const & candidate : list_messages)
+    {
         if (*candidate.message == message)
             return &candidate;
+    }
     return nullptr;
 }
 

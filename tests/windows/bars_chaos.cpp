@@ -131,8 +131,10 @@ protected:
         case 4:
             Note("another side");
             if (CControlBar * const bar = AnyBar())
+            {
                 bar->SetBarStyle(static_cast<DWORD>(CBRS_ALIGN_LEFT << Pick(4)) |
                                  static_cast<DWORD>(CBRS_BORDER_LEFT << Pick(4)) | CBRS_TOOLTIPS | CBRS_FLYBY);
+            }
             break;
         case 5:
             Note("size");

@@ -330,8 +330,10 @@ void DialogWorld::Control(ChaosDialog & dialog)
             ::DestroyWindow(name);
     }
     else
+    {
         ::CreateWindowW(L"STATIC", L"new", WS_CHILD | WS_VISIBLE, Pick(50), Pick(50), 40, 20, dialog.m_hWnd,
                         reinterpret_cast<HMENU>(static_cast<UINT_PTR>(IDC_NAME)), nullptr, nullptr);
+    }
 }
 
 void DialogWorld::Modal(ChaosDialog & dialog)

@@ -270,8 +270,10 @@ TEST_F(ColorsList, BackInTheStandardSetNothingIsLeft)
     auto const paintAll = [this] {
         m_canvas.Fill(untouched);
         for (int row = 0; row < 4; ++row)
+        {
             for (int col = 0; col < 3; ++col)
                 PaintOver(row, col);
+        }
         return Copy(CRect(0, 0, m_canvas.Width(), m_canvas.Height()));
     };
     std::unique_ptr<tests::Canvas> const before = paintAll();

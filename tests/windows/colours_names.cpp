@@ -101,8 +101,10 @@ void CompareScopeNames(bool german, Differences & differences)
     for (Name const & name : ListedNames())
     {
         if (name.isScope)
+        {
             differences.Expect("scope colour " + std::to_string(name.index), NameInColourBars(name.colour),
                                german ? name.german : name.english);
+        }
     }
 }
 
@@ -111,9 +113,11 @@ void CompareScaleNames(bool german, Differences & differences)
     for (Name const & name : ListedNames())
     {
         if (!name.isScope)
+        {
             differences.Expect("scale " + std::to_string(name.index),
                                Utf8(SpektrogrammFarbtabellenName(static_cast<unsigned int>(name.index))),
                                german ? name.german : name.english);
+        }
     }
 }
 

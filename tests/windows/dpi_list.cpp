@@ -156,8 +156,10 @@ TEST_F(DpiList, AtNinetySixAllIsPaintedAsBefore)
     auto const paintAll = [this] {
         m_canvas.Fill(untouched);
         for (int row = 0; row < 4; ++row)
+        {
             for (int col = 0; col < 3; ++col)
                 PaintOver(row, col);
+        }
         return Copy(CRect(0, 0, 320, 160));
     };
     std::unique_ptr<tests::Canvas> const before = paintAll();

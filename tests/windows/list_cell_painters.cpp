@@ -47,10 +47,16 @@ protected:
     static testing::AssertionResult AreEqual(tests::Canvas const & a, tests::Canvas const & b)
     {
         for (int y = 0; y < row_height; ++y)
+        {
             for (int x = 0; x < column_width; ++x)
+            {
                 if (a.Pixel(x, y) != b.Pixel(x, y))
+                {
                     return testing::AssertionFailure()
                            << "at (" << x << ", " << y << "): " << a.Pixel(x, y) << " and " << b.Pixel(x, y);
+                }
+            }
+        }
         return testing::AssertionSuccess();
     }
     /// A cell without a kind, text, image or colours of its own.

@@ -117,8 +117,10 @@ protected:
     {
         std::vector<int> marked;
         for (int row = 0; row < m_list.GetItemCount(); ++row)
+        {
             if (m_list.GetItemState(row, LVIS_DROPHILITED) != 0)
                 marked.push_back(row);
+        }
         return marked;
     }
     std::vector<int> Words() const
@@ -310,8 +312,10 @@ TEST_F(ListDrag, MarksEveryCellOfBothRowsAsModifiedButNotTheList)
     m_list.SetListModified(false);
     Drag(5, 2);
     for (int row = 0; row < list_input::rows; ++row)
+    {
         for (int col = 0; col < list_input::columns; ++col)
             EXPECT_EQ(m_list.GetModified(row, col), row == 2 || row == 5) << row << ", " << col;
+    }
     EXPECT_FALSE(m_list.GetListModified());
 }
 

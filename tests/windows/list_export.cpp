@@ -26,8 +26,10 @@ protected:
     {
         m_host.Fill(3, rows);
         for (int row = 0; row < rows; ++row)
+        {
             for (int col = 0; col < 3; ++col)
                 m_list.SetItemText(row, col, (std::to_wstring(row) + L"." + std::to_wstring(col)).c_str());
+        }
     }
     tests::ListHost m_host;
     tests::TestList & m_list = m_host.list;
@@ -276,8 +278,10 @@ int HeapBlocks()
     {
         PROCESS_HEAP_ENTRY entry{};
         while (::HeapWalk(heaps[i], &entry))
+        {
             if ((entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) != 0)
                 ++blocks;
+        }
     }
     return blocks;
 }

@@ -22,9 +22,13 @@ protected:
     {
         Pixels pixels;
         for (int y = rect.top; y < rect.bottom; ++y)
+        {
             for (int x = rect.left; x < rect.right; ++x)
+            {
                 if (m_canvas.Pixel(x, y) == colour)
                     pixels.insert({x - rect.left, y - rect.top});
+            }
+        }
         return pixels;
     }
 
@@ -509,6 +513,7 @@ TEST_F(ListPaintCells, NothingIsDrawnIntoNothing)
     m_list.DrawProgress(0, 1, nullptr, 0, 0, rect, cells);
     m_list.DrawProgress(0, 1, dc, 0, 0, rect, nullptr);
     for (int state = XLC_UNCHECKED; state <= XLC_RADIO_OFF; ++state)
+    {
         for (auto const draw : {&tests::TestList::DrawCheckboxBox, &tests::TestList::DrawRadioBox})
         {
             CRect box(cell.TopLeft(), CSize(box_size, box_size));
@@ -518,6 +523,7 @@ TEST_F(ListPaintCells, NothingIsDrawnIntoNothing)
             CRect noHeight(cell.left, cell.top, cell.left + box_size, cell.top);
             (m_list.*draw)(noHeight, state, false, dc);
         }
+    }
     EXPECT_TRUE(m_canvas.BoundsOfOther(untouched).IsRectEmpty());
 }
 

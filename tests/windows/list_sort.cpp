@@ -505,8 +505,10 @@ TEST_F(ListSort, SelectionFocusAndNativeChecksMoveWithTheirRows)
     auto const state = [this](auto && has) {
         std::vector<int> numbers;
         for (int row = 0; row < m_list.GetItemCount(); ++row)
+        {
             if (has(row))
                 numbers.push_back(m_list.GetItemData(row));
+        }
         std::sort(numbers.begin(), numbers.end());
         return numbers;
     };

@@ -91,8 +91,10 @@ consteval bool SameSignature(Result (CVisualStyles::*)(Arguments...) const,
     if constexpr (sizeof...(Arguments) != sizeof...(PlatformArguments))
         return false;
     else
+    {
         return std::is_same_v<Result, PlatformResult> &&
                (std::is_same_v<typename Plain<Arguments>::Type, typename Plain<PlatformArguments>::Type> && ...);
+    }
 }
 
 #define CHECK_SIGNATURE(name) static_assert(SameSignature(&CVisualStyles::name, decltype(&::name){}));

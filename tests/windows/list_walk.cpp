@@ -104,11 +104,13 @@ public:
         std::set<DWORD_PTR> objects;
         std::size_t items = 0;
         for (int row = 0; row < GetItemCount(); ++row)
+        {
             if (DWORD_PTR const object = CListCtrl::GetItemData(row); object != 0)
             {
                 ++items;
                 objects.insert(object);
             }
+        }
         return items == used && objects.size() == used;
     }
 

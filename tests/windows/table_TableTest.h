@@ -84,8 +84,10 @@ public:
         std::lock_guard const lock(m_lock);
         // Keys rise.
         for (std::size_t row = 0; row < m_rows.size(); ++row)
+        {
             if (m_rows[row].key == key)
                 return static_cast<TableRow>(row);
+        }
         return no_table_row;
     }
     bool Write(TableRow row, unsigned int column, TableValue const & value) override

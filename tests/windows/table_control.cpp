@@ -589,9 +589,13 @@ TEST_F(TableControl, NumbersStandBelowEachOtherByTheirSign)
         CRect const title = TitleRect(1);
         int right = 0;
         for (int y = row.top; y < row.bottom; ++y)
+        {
             for (int x = title.left; x < title.right; ++x)
+            {
                 if (canvas.Pixel(x, y) != ::GetSysColor(COLOR_WINDOW))
                     right = std::max(right, x);
+            }
+        }
         return right;
     };
     ASSERT_TRUE(tests::PumpUntil([&] {

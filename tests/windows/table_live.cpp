@@ -78,6 +78,7 @@ TEST_F(TableLive, OneRepaintShowsWhatManyTold)
     std::atomic<int> telling{4};
     std::vector<std::thread> tellers;
     for (unsigned int teller = 0; teller < 4; ++teller)
+    {
         tellers.emplace_back([this, teller, &telling, feed = table->Feed(), shared = source] {
             for (int i = 0; i < 5000; ++i)
             {
@@ -89,6 +90,7 @@ TEST_F(TableLive, OneRepaintShowsWhatManyTold)
             }
             --telling;
         });
+    }
     ASSERT_TRUE(tests::PumpUntil([&telling] { return telling == 0; }));
     for (std::thread & each : tellers)
         each.join();
@@ -224,11 +226,13 @@ TEST_F(TableLive, FiveThousandOperationsAtRandom)
             ASSERT_EQ(table->IsRowSelected(row), selected.count(source->Key(row)) != 0) << step;
         }
         if (!table->SortColumns().empty() && table->SortColumns()[0].column == TableRowsSource::number_column)
+        {
             for (TableRow position = 1; position < table->RowsShown(); ++position)
             {
                 double const first = source->At(table->RowAt(position - 1)).number;
                 double const second = source->At(table->RowAt(position)).number;
                 ASSERT_TRUE(table->SortColumns()[0].descending ? first >= second : first <= second) << step;
             }
+        }
     }
 }

@@ -35,8 +35,10 @@ int EntryOf(COLORREF colour)
 {
     auto const colours = TestColours();
     for (std::size_t i = 0; i < workbench::scale_entries; ++i)
+    {
         if (colours[i] == colour)
             return static_cast<int>(i);
+    }
     return -1;
 }
 
@@ -370,8 +372,10 @@ TEST_F(SpectrogramView, ScalesWithTheMappingMode)
     int differentNeighbours = 0;
     int const left = (large.left + 3) / 2 * 2;
     for (int x = left; x + 1 < large.right - 2; x += 2)
+    {
         for (int y = large.top + 4; y < large.bottom - 4; ++y)
             differentNeighbours += twice.Pixel(x, y) != twice.Pixel(x + 1, y) ? 1 : 0;
+    }
     EXPECT_GT(differentNeighbours, 20);
 }
 

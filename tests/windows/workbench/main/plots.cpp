@@ -343,8 +343,10 @@ TEST_F(WaveformPlot, SingleSamplesAreSeen)
     COLORREF const trace = workbench::TraceColour({}, 0);
     auto const has = [&](int x, int top, int bottom) {
         for (int y = top; y < bottom; ++y)
+        {
             if (canvas.Pixel(x, y) == trace)
                 return true;
+        }
         return false;
     };
     int const quarter = inside.Width() / 4;
