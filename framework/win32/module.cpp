@@ -36,7 +36,8 @@ template <class Test> HMODULE FindModule(Test test)
     std::lock_guard const lock(ChainMutex());
     for (bool const system : {false, true})
     {
-        for (auto library = AfxGetModuleState()->m_pFirstLibrary; library != nullptr; library = library->m_pNextDLL)
+        for (CDynLinkLibrary * library = AfxGetModuleState()->m_pFirstLibrary; library != nullptr;
+             library = library->m_pNextDLL)
         {
             if ((library->m_bSystem != FALSE) == system && library->m_hResource != nullptr &&
                 test(library->m_hResource))
@@ -131,7 +132,7 @@ void CDynLinkLibrary::Hook()
 CDynLinkLibrary::~CDynLinkLibrary()
 {
     std::lock_guard const lock(ChainMutex());
-    for (auto link = &m_state->m_pFirstLibrary; *link != nullptr; link = &(*link)->m_pNextDLL)
+    for (CDynLinkLibrary ** link = &m_state->m_pFirstLibrary; *link != nullptr; link = &(*link)->m_pNextDLL)
     {
         if (*link != this)
             continue;

@@ -128,7 +128,7 @@ void CMFCAutoHideBar::OnDestroy()
 
 CDockablePane * CMFCAutoHideBar::GetFirstAHWindow()
 {
-    auto const buttons = framework::StripButtons(*this);
+    std::vector<std::pair<UINT, CRect>> const buttons = framework::StripButtons(*this);
     return buttons.empty() || m_host == nullptr ? nullptr : m_host->Pane(buttons.front().first);
 }
 

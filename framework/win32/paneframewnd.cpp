@@ -102,7 +102,8 @@ CDockingManager * CPaneFrameWnd::GetDockingManager() const
 
 CRect CPaneFrameWnd::GetRecentFloatingRect() const
 {
-    auto const * const frame = m_host != nullptr ? m_host->Layout().FindFrame(m_floatId) : nullptr;
+    framework::DockLayout::Frame const * const frame =
+        m_host != nullptr ? m_host->Layout().FindFrame(m_floatId) : nullptr;
     return frame != nullptr ? frame->rect : CRect(0, 0, 0, 0);
 }
 

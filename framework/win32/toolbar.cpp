@@ -286,7 +286,7 @@ void CToolBar::SetHeight(int cyHeight)
 
 BOOL CToolBar::LoadToolBar(LPCTSTR lpszResourceName)
 {
-    auto const kind = MAKEINTRESOURCE(tool_bar_resource);
+    LPWSTR const kind = MAKEINTRESOURCE(tool_bar_resource);
     HINSTANCE const module = AfxFindResourceHandle(lpszResourceName, kind);
     HRSRC const found = ::FindResource(module, lpszResourceName, kind);
     HGLOBAL const loaded = found != nullptr ? ::LoadResource(module, found) : nullptr;
@@ -629,7 +629,7 @@ void CToolBar::OnUpdateCmdUI(CFrameWnd * pTarget, BOOL bDisableIfNoHndler)
     WindowGuard const guard(this);
     WindowGuard const target(pTarget);
     ToolBarState state(*this);
-    constexpr auto reflected = MAKELONG(0xFFFF, WM_COMMAND + WM_REFLECT_BASE);
+    constexpr LONG reflected = MAKELONG(0xFFFF, WM_COMMAND + WM_REFLECT_BASE);
     // Handlers may take buttons out and put others in.
     for (state.m_nIndex = 0; guard.Alive() && target.Alive(); ++state.m_nIndex)
     {

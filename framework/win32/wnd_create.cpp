@@ -32,7 +32,7 @@ bool IsInputMethodWindow(HWND window)
 
 LRESULT CALLBACK CreationHook(int code, WPARAM wParam, LPARAM lParam)
 {
-    auto & state = framework::CurrentThreadState();
+    framework::ThreadState & state = framework::CurrentThreadState();
     auto const window = reinterpret_cast<HWND>(wParam);
     if (code == HCBT_CREATEWND && state.creating != nullptr && !IsInputMethodWindow(window))
     {
@@ -179,7 +179,7 @@ HWND CWnd::UnsubclassWindow()
 
 void AFXAPI AfxHookWindowCreate(CWnd * pWnd)
 {
-    auto & state = framework::CurrentThreadState();
+    framework::ThreadState & state = framework::CurrentThreadState();
     if (state.creating == pWnd)
         return;
     if (state.creationHook == nullptr)
@@ -195,7 +195,7 @@ void AFXAPI AfxHookWindowCreate(CWnd * pWnd)
 
 BOOL AFXAPI AfxUnhookWindowCreate()
 {
-    auto & state = framework::CurrentThreadState();
+    framework::ThreadState & state = framework::CurrentThreadState();
     if (state.creationHook != nullptr)
     {
         ::UnhookWindowsHookEx(state.creationHook);

@@ -414,12 +414,12 @@ HelpPage HelpPageOf(HelpTopic topic, Language language)
 std::wstring KeysPage(std::vector<MenuTexts> const & menus, Language language)
 {
     std::wstring page;
-    for (auto const & menu : menus)
+    for (MenuTexts const & menu : menus)
     {
         std::wstring lines;
-        for (auto const & item : menu.items)
+        for (std::wstring const & item : menu.items)
         {
-            if (auto const tab = item.find(L'\t'); tab != std::wstring::npos)
+            if (std::size_t const tab = item.find(L'\t'); tab != std::wstring::npos)
             {
                 lines += item.substr(tab + 1) + L'\t' + Plain(item.substr(0, tab)) + L'\n';
             }

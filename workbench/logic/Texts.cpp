@@ -349,7 +349,7 @@ bool SpeaksLanguage(unsigned short languageId)
 
 Language LanguageOf(unsigned short languageId)
 {
-    auto const * const facts = FindLanguage(languageId);
+    LanguageFacts const * const facts = FindLanguage(languageId);
     return facts != nullptr ? static_cast<Language>(facts - language_facts) : Language::English;
 }
 
@@ -365,12 +365,12 @@ Language PresentLanguage()
 
 wchar_t const * Text(wchar_t const * english)
 {
-    auto const language = s_language.load();
+    Language const language = s_language.load();
     if (language == Language::English)
     {
         return english;
     }
-    auto const & entries = Catalogue();
+    std::vector<wchar_t const * const *> const & entries = Catalogue();
     std::wstring_view const wanted(english);
     auto const found = std::ranges::lower_bound(entries, wanted, {}, English);
     if (found == entries.end() || English(*found) != wanted)
