@@ -31,7 +31,7 @@ BOOL DispatchCommand(CCmdTarget * target, const AFX_MSGMAP_ENTRY & entry, UINT i
 
 const AFX_MSGMAP_ENTRY * FindEntry(const AFX_MSGMAP_ENTRY * entries, UINT message, UINT code, UINT id)
 {
-    for (AFX_MSGMAP_ENTRY * entry = entries; entry->nSig != AfxSig_end; ++entry)
+    for (AFX_MSGMAP_ENTRY const * entry = entries; entry->nSig != AfxSig_end; ++entry)
     {
         if (entry->nMessage == message && entry->nCode == code && id >= entry->nID && id <= entry->nLastID)
             return entry;

@@ -114,7 +114,7 @@ CString CStatusBarCtrl::GetText(int nPane, int * pType) const
 
 int CStatusBarCtrl::GetText(LPTSTR lpszText, int nPane, int * pType) const
 {
-    unsigned long const packed = framework::Send<DWORD>(m_hWnd, SB_GETTEXT, nPane, lpszText);
+    auto const packed = framework::Send<DWORD>(m_hWnd, SB_GETTEXT, nPane, lpszText);
     if (pType != nullptr)
         *pType = HIWORD(packed);
     return LOWORD(packed);
@@ -127,7 +127,7 @@ BOOL CStatusBarCtrl::SetText(LPCTSTR lpszText, int nPane, int nType)
 
 int CStatusBarCtrl::GetTextLength(int nPane, int * pType) const
 {
-    unsigned long const packed = framework::Send<DWORD>(m_hWnd, SB_GETTEXTLENGTH, nPane);
+    auto const packed = framework::Send<DWORD>(m_hWnd, SB_GETTEXTLENGTH, nPane);
     if (pType != nullptr)
         *pType = HIWORD(packed);
     return LOWORD(packed);
@@ -245,7 +245,7 @@ BOOL CToolBarCtrl::GetPadding(int * pnHorzPadding, int * pnVertPadding) const
 {
     if (pnHorzPadding == nullptr || pnVertPadding == nullptr)
         return FALSE;
-    unsigned long const padding = framework::Send<DWORD>(m_hWnd, TB_GETPADDING);
+    auto const padding = framework::Send<DWORD>(m_hWnd, TB_GETPADDING);
     *pnHorzPadding = LOWORD(padding);
     *pnVertPadding = HIWORD(padding);
     return TRUE;

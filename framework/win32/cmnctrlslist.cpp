@@ -103,7 +103,7 @@ CSize CListCtrl::SetIconSpacing(int cx, int cy)
 
 BOOL CListCtrl::GetItemSpacing(BOOL fSmall, int * pnHorzSpacing, int * pnVertSpacing) const
 {
-    unsigned long const spacing = framework::Send<DWORD>(m_hWnd, LVM_GETITEMSPACING, fSmall);
+    auto const spacing = framework::Send<DWORD>(m_hWnd, LVM_GETITEMSPACING, fSmall);
     if (pnHorzSpacing != nullptr)
         *pnHorzSpacing = LOWORD(spacing);
     if (pnVertSpacing != nullptr)

@@ -240,7 +240,7 @@ BOOL CEdit::GetHighlight(int * pichStart, int * pichEnd) const
 {
     if (pichStart == nullptr || pichEnd == nullptr)
         return FALSE;
-    unsigned long const range = framework::Send<DWORD>(m_hWnd, EM_GETHILITE);
+    auto const range = framework::Send<DWORD>(m_hWnd, EM_GETHILITE);
     *pichStart = LOWORD(range);
     *pichEnd = HIWORD(range);
     return TRUE;

@@ -25,7 +25,7 @@ BOOL CListBox::Create(DWORD dwStyle, RECT const & rect, CWnd * pParentWnd, UINT 
 
 UINT CListBox::ItemFromPoint(CPoint pt, BOOL & bOutside) const
 {
-    unsigned long const found = framework::Send<DWORD>(m_hWnd, LB_ITEMFROMPOINT, 0, MAKELPARAM(pt.x, pt.y));
+    auto const found = framework::Send<DWORD>(m_hWnd, LB_ITEMFROMPOINT, 0, MAKELPARAM(pt.x, pt.y));
     bOutside = HIWORD(found) != 0;
     return LOWORD(found);
 }

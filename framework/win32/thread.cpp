@@ -88,8 +88,8 @@ BOOL ThreadAccess::DispatchThreadMessage(CWinThread & thread, MSG const & messag
             }
             continue;
         }
-        for (AFX_MSGMAP_ENTRY * entry = map->lpEntries; (entry = FindEntry(entry, first_registered, 0, 0)) != nullptr;
-             ++entry)
+        for (AFX_MSGMAP_ENTRY const * entry = map->lpEntries;
+             (entry = FindEntry(entry, first_registered, 0, 0)) != nullptr; ++entry)
         {
             if (*reinterpret_cast<UINT const *>(entry->nSig) != message.message)
                 continue;

@@ -88,7 +88,7 @@ BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT * pResul
             ASSERT(call != nullptr); // a command's entry
             return call != nullptr && call({*this, wParam, lParam}, entry->pfn, result) ? answer() : FALSE;
         }
-        for (AFX_MSGMAP_ENTRY * entry = map->lpEntries;
+        for (AFX_MSGMAP_ENTRY const * entry = map->lpEntries;
              (entry = framework::FindEntry(entry, first_registered_message, 0, 0)) != nullptr; ++entry)
         {
             if (*reinterpret_cast<UINT const *>(entry->nSig) != message)

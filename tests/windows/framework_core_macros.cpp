@@ -362,7 +362,7 @@ END_MESSAGE_MAP()
 std::multiset<UINT> Messages(AFX_MSGMAP const * map)
 {
     std::multiset<UINT> messages;
-    for (AFX_MSGMAP_ENTRY * entry = map->lpEntries; entry->nSig != AfxSig_end; ++entry)
+    for (AFX_MSGMAP_ENTRY const * entry = map->lpEntries; entry->nSig != AfxSig_end; ++entry)
         messages.insert(entry->nMessage);
     return messages;
 }
