@@ -8,6 +8,7 @@
 #include "controls/ItemRows.h"
 #include "controls/TypeAhead.h"
 #include "frame/LastingWindow.h"
+#include "frame/WindowAlive.h"
 #include "layout/WindowDpi.h"
 
 namespace
@@ -145,18 +146,18 @@ bool CComboBoxX::FitToWidth()
     HWND const window = m_hWnd;
     int const count = window != nullptr ? GetCount() : 0;
     std::vector<CString> texts;
-    for (int row = 0; row < count && item_rows::Serves(*this, window); ++row)
+    for (int row = 0; row < count && StillHas(this, window); ++row)
     {
         CString text;
         GetLBText(row, text);
         texts.push_back(text);
     }
-    if (!item_rows::Serves(*this, window))
+    if (!StillHas(this, window))
         return false;
     int const widest = WidestText(window, texts);
     int const width = DropWidth(widest, window_dpi::Metric(SM_CXVSCROLL, m_dpi), window_dpi::Metric(SM_CXEDGE, m_dpi));
     int const present = GetDroppedWidth();
-    if (present >= width || !item_rows::Serves(*this, window))
+    if (present >= width || !StillHas(this, window))
         return false;
     SetDroppedWidth(static_cast<UINT>(width));
     return true;
@@ -194,7 +195,7 @@ void CComboBoxX::PreSubclassWindow()
 {
     HWND const window = m_hWnd;
     CComboBox::PreSubclassWindow();
-    if (!item_rows::Serves(*this, window))
+    if (!StillHas(this, window))
         return;
     EndTip();
     window_dpi::Begin(*this, m_followsDpi);
@@ -211,7 +212,7 @@ void CComboBoxX::PreSubclassWindow()
     TOOLINFOW tool = m_toolInfo;
     ::SendMessage(tip, TTM_SETMAXTIPWIDTH, 0, greatest_tip_width);
     if (tip != nullptr && !::SendMessage(tip, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool)) &&
-        item_rows::Serves(*this, window))
+        StillHas(this, window))
     {
         // Common controls before version 6 know a smaller structure alone.
         tool.cbSize = m_toolInfo.cbSize = TTTOOLINFOW_V2_SIZE;
@@ -275,7 +276,7 @@ BOOL CComboBoxX::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESU
     {
         HWND const window = m_hWnd;
         OnDropdown();
-        if (!item_rows::Serves(*this, window))
+        if (!StillHas(this, window))
             return TRUE;
     }
     return CComboBox::OnChildNotify(message, wParam, lParam, result);
@@ -305,7 +306,7 @@ void CComboBoxX::OnMouseMove(UINT flags, CPoint point)
     {
         text = ComboField(window).Text();
         tooWide = IsTooWide(item_rows::TextWidth(window, text), field.Width(), m_dpi);
-        if (!item_rows::Serves(*this, window))
+        if (!StillHas(this, window))
             return;
     }
     if (tooWide)
@@ -330,7 +331,7 @@ void CComboBoxX::OnMouseMove(UINT flags, CPoint point)
     }
     else
         ShowTip(false);
-    if (item_rows::Serves(*this, window))
+    if (StillHas(this, window))
         CComboBox::OnMouseMove(flags, point);
 }
 

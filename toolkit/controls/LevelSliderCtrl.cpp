@@ -7,6 +7,7 @@
 #include "colours/ControlColors.h"
 #include "controls/LumaPlatform.h"
 #include "controls/SliderLayout.h"
+#include "frame/WindowAlive.h"
 #include "layout/WindowDpi.h"
 
 namespace
@@ -254,11 +255,11 @@ LRESULT CLevelSliderCtrl::DefWindowProc(UINT message, WPARAM wParam, LPARAM lPar
     if (!::IsWinEventHookInstalled(EVENT_OBJECT_VALUECHANGE))
         return CSliderCtrl::DefWindowProc(message, wParam, lParam);
     // Straight to the native slider, before and after: not every one tells of its changes.
-    LifeWatch const life(m_lifeSign);
+    WindowAlive const alive(*this, m_lifeSign);
     HWND const window = m_hWnd;
     LRESULT const before = CSliderCtrl::DefWindowProc(TBM_GETPOS, 0, 0);
     LRESULT const result = CSliderCtrl::DefWindowProc(message, wParam, lParam);
-    if (!life.Over() && window != nullptr && m_hWnd == window && CSliderCtrl::DefWindowProc(TBM_GETPOS, 0, 0) != before)
+    if (alive.IsAlive() && CSliderCtrl::DefWindowProc(TBM_GETPOS, 0, 0) != before)
         TellUnlessNative(EVENT_OBJECT_VALUECHANGE, window, {});
     return result;
 }

@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "access/ControlTarget.h"
+#include "frame/WindowAlive.h"
 #include "segments/DigiColors.h"
 #include "segments/DigiLine.h"
 
@@ -36,13 +37,6 @@ private:
     CDC & m_dc;
     Object * m_former;
 };
-
-/// Whether the object still has the window. Anything that sends a message may run the host's code, which may have
-/// destroyed the window or deleted the object.
-bool Serves(CWnd const * object, HWND window)
-{
-    return CWnd::FromHandlePermanent(window) == object;
-}
 } // namespace
 
 IMPLEMENT_DYNAMIC(CDigiStatic, CStatic)
@@ -186,13 +180,13 @@ void CDigiStatic::SetDrawImmediately(bool immediately)
 
 void CDigiStatic::DoInvalidate()
 {
-    HWND const window = GetSafeHwnd();
-    if (window == nullptr)
+    if (GetSafeHwnd() == nullptr)
         return;
     if (m_transparent)
     {
+        WindowAlive const alive(*this, m_life);
         SetWindowRgn(nullptr, TRUE);
-        if (!Serves(this, window))
+        if (!alive.IsAlive())
             return;
     }
     if (m_drawImmediately)
@@ -208,10 +202,10 @@ void CDigiStatic::BuildString()
     if (m_text == window_text_wanted)
     {
         // Asking sends messages, which may set another text meanwhile.
-        HWND const window = m_hWnd;
+        WindowAlive const alive(*this, m_life);
         CString text;
         GetWindowText(text);
-        if (!Serves(this, window))
+        if (!alive.IsAlive())
             return;
         m_text = text;
     }
@@ -222,11 +216,11 @@ void CDigiStatic::BuildString()
 
 void CDigiStatic::OnPaint()
 {
-    HWND const window = m_hWnd;
+    WindowAlive const alive(*this, m_life);
     CRect client;
     GetClientRect(client);
     CPaintDC dc(this); // sends messages as well
-    if (!Serves(this, window))
+    if (!alive.IsAlive())
         return;
     dc.SetBkColor(m_backColor);
     if ((m_digiStyle & DigiStyleButtonRect) != 0)
@@ -238,7 +232,7 @@ void CDigiStatic::OnPaint()
     CDC & buffer = memory.GetDC();
     buffer.FillSolidRect(client, m_backColor);
     BuildString();
-    if (!Serves(this, window))
+    if (!alive.IsAlive())
         return;
 
     DigiStatic::CLinePlace const place =
