@@ -7,6 +7,7 @@
 #include "controls/FieldWidths.h"
 #include "controls/ItemRows.h"
 #include "controls/TypeAhead.h"
+#include "frame/GraphicsScopes.h"
 #include "frame/LastingWindow.h"
 #include "frame/WindowAlive.h"
 #include "layout/WindowDpi.h"
@@ -21,19 +22,13 @@ constexpr wchar_t const * blank_text = L"\u2014";
 constexpr int tip_right = 1;
 constexpr int tip_down = 3;
 
-/// The width of the widest of the texts on the window's device context as it comes. A context is held over no message:
-/// it would end with the window.
+/// The width of the widest of the texts on the window's device context as it comes.
 int WidestText(HWND window, std::vector<CString> const & texts)
 {
-    HDC const dc = ::GetDC(window);
+    TextMeasure const measure(window, nullptr);
     int widest = 0;
     for (CString const & text : texts)
-    {
-        SIZE extent{};
-        ::GetTextExtentPoint32W(dc, text, text.GetLength(), &extent);
-        widest = std::max(widest, static_cast<int>(extent.cx));
-    }
-    ::ReleaseDC(window, dc);
+        widest = std::max(widest, measure.Width(text));
     return widest;
 }
 

@@ -9,6 +9,7 @@
 #include <list>
 #include <map>
 
+#include "frame/GraphicsScopes.h"
 #include "frame/WindowAlive.h"
 
 namespace item_rows
@@ -95,15 +96,6 @@ template <typename Control> int Selected(Control & control, int defaultData)
 inline int TextWidth(HWND window, CString const & text)
 {
     auto const font = reinterpret_cast<HFONT>(::SendMessage(window, WM_GETFONT, 0, 0));
-    HDC const dc = ::GetDC(window);
-    if (dc == nullptr)
-        return 0;
-    HGDIOBJ const former = font != nullptr ? ::SelectObject(dc, font) : nullptr;
-    SIZE extent{};
-    ::GetTextExtentPoint32W(dc, text, text.GetLength(), &extent);
-    if (former != nullptr)
-        ::SelectObject(dc, former);
-    ::ReleaseDC(window, dc);
-    return extent.cx;
+    return TextMeasure(window, font).Width(text);
 }
 } // namespace item_rows

@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "access/ControlTarget.h"
+#include "frame/GraphicsScopes.h"
 #include "frame/WindowAlive.h"
 #include "segments/DigiColors.h"
 #include "segments/DigiLine.h"
@@ -22,20 +23,6 @@ struct CSegmentTools
 
     CPen pen;
     CBrush brush;
-};
-
-/// Has an object selected for the life of this one, whatever is selected in the meantime.
-template <typename Object> class CSelectionScope
-{
-public:
-    CSelectionScope(CDC & dc, Object & object) : m_dc(dc), m_former(dc.SelectObject(&object)) {}
-    ~CSelectionScope() { m_dc.SelectObject(m_former); }
-    CSelectionScope(CSelectionScope const &) = delete;
-    CSelectionScope & operator=(CSelectionScope const &) = delete;
-
-private:
-    CDC & m_dc;
-    Object * m_former;
 };
 } // namespace
 
@@ -240,8 +227,8 @@ void CDigiStatic::OnPaint()
     bool const soft = (m_digiStyle & DigiStyleSoftPen) != 0;
     CSegmentTools off(soft ? DigiStatic::SoftPenColor(m_offColor, m_backColor) : m_offColor, m_offColor);
     CSegmentTools on(soft ? DigiStatic::SoftPenColor(m_onColor, m_backColor) : m_onColor, m_onColor);
-    CSelectionScope<CBrush> const brushScope(buffer, on.brush);
-    CSelectionScope<CPen> const penScope(buffer, off.pen);
+    SelectScope const brushScope(buffer, on.brush.GetSafeHandle());
+    SelectScope const penScope(buffer, off.pen.GetSafeHandle());
     CRgn shape;
     double left = place.left;
     for (INT_PTR i = 0; i < m_chars.GetSize(); ++i)
