@@ -15,6 +15,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include "DrawingScopes.h"
 #include "ScreenMetrics.h"
 #include "StarRating.h"
 #include "colours/ControlColors.h"
@@ -419,7 +420,7 @@ private:
     {
         explicit Measuring(CFont & font);
         CDC dc;
-        workbench::SelectScope scope;
+        workbench::FontScope scope;
     };
 
     CImageList m_images;

@@ -1,6 +1,7 @@
 // The workbench's list of recordings: sorting by a click, dragging lines, and copies of them.
 
 #include "../clipboard_ClipboardTest.h"
+#include "DrawingScopes.h"
 #include "Input.h"
 #include "Pump.h"
 #include "RecordingCells.h"
@@ -502,7 +503,7 @@ TEST_F(RecordingListTest, TheReferencesNameFitsInBold)
     m_list.SetReference(0);
     m_list.ShowReference();
     CClientDC dc(&m_list);
-    workbench::SelectScope const font(dc, m_metrics.BoldFont());
+    workbench::FontScope const font(dc, m_metrics.BoldFont());
     auto const needed = dc.GetTextExtent(m_list.GetItemText(0, CRecordingList::column_name)).cx;
     EXPECT_GE(m_list.GetColumnWidth(CRecordingList::column_name), needed + 2 * m_list.GetCellPadding());
 }
@@ -519,7 +520,7 @@ TEST_F(RecordingListTest, TheReferencesNameFitsInBoldAtAnotherResolution)
     list.SetReference(0);
     list.ShowReference();
     CClientDC dc(&list);
-    workbench::SelectScope const font(dc, metrics.BoldFont());
+    workbench::FontScope const font(dc, metrics.BoldFont());
     auto const needed = dc.GetTextExtent(list.GetItemText(0, CRecordingList::column_name)).cx;
     EXPECT_GE(list.GetColumnWidth(CRecordingList::column_name), needed + 2 * metrics.Scaled(5)); // with its padding
 }

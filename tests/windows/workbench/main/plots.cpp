@@ -3,6 +3,7 @@
 #include <afxcmn.h>
 #include <afxwin.h>
 
+#include "DrawingScopes.h"
 #include "Graphics.h"
 #include "PictureCopy.h"
 #include "PlotParts.h"
@@ -289,7 +290,7 @@ TEST_F(WaveformPlot, TakesTheSlidersRoomInANarrowPanel)
     auto narrow = metrics.X(25);
     {
         CClientDC dc(&panel);
-        workbench::SelectScope const font(dc, metrics.Font());
+        workbench::FontScope const font(dc, metrics.Font());
         workbench::PlotMargins const margins(dc, metrics);
         narrow += margins.left + margins.right;
     }
