@@ -7,6 +7,8 @@
 #include <utility>
 #include <vector>
 
+#include "DrawingScopes.h"
+#include "frame/WindowAlive.h"
 #include "logic/SafeFile.h"
 #include "logic/Spectrogram.h"
 #include "logic/TextFormat.h"
@@ -156,7 +158,7 @@ void CFrameMeasuresPanel::ShowTexts()
 void CFrameMeasuresPanel::ShowColumns()
 {
     CClientDC dc(&m_table);
-    workbench::SelectScope const font(dc, m_metrics->Font());
+    workbench::FontScope const font(dc, m_metrics->Font());
     std::vector<TableColumn> shown(std::size(columns));
     for (std::size_t i = 0; i < shown.size(); ++i)
     {
@@ -478,9 +480,9 @@ void CFrameMeasuresPanel::Export()
                        OFN_OVERWRITEPROMPT | OFN_HIDEREADONLY | OFN_PATHMUSTEXIST | OFN_NOCHANGEDIR,
                        Text(L"CSV tables (*.csv)|*.csv||"), this);
     dialog.GetOFN().lpstrTitle = Text(L"Export Analysis Frames");
-    LifeWatch const life(m_life);
+    WindowAlive const alive(*this, m_life);
     auto const source = m_source;
-    if (dialog.DoModal() != IDOK || life.Over() || m_hWnd == nullptr || m_source != source)
+    if (dialog.DoModal() != IDOK || !alive.IsAlive() || m_source != source)
     {
         return;
     }
@@ -521,9 +523,9 @@ void CFrameMeasuresPanel::OnContextMenu(CWnd * window, CPoint point)
     menu.AppendMenu(MF_STRING | (some && !m_table.IsExporting() ? MF_ENABLED : MF_GRAYED), command_export,
                     Text(L"&Export as CSV..."));
     AppendColumnMenus(menu);
-    LifeWatch const life(m_life);
+    WindowAlive const alive(*this, m_life);
     auto const chosen = menu.TrackPopupMenu(TPM_RETURNCMD | TPM_RIGHTBUTTON, point.x, point.y, this);
-    if (life.Over() || m_hWnd == nullptr)
+    if (!alive.IsAlive())
     {
         return;
     }
@@ -684,7 +686,7 @@ int CFrameMeasuresPanel::StatusWidth()
     CString part;
     part.Format(Text(L"measuring, %d %%"), 100);
     CClientDC dc(this);
-    workbench::SelectScope const font(dc, m_metrics->Font());
+    workbench::FontScope const font(dc, m_metrics->Font());
     std::wstring const longest = L"23.2 ms";
     auto const window = CString(WindowText(longest).c_str());
     auto const longer = std::max(dc.GetTextExtent(part).cx, dc.GetTextExtent(window).cx);

@@ -1,19 +1,7 @@
 #pragma once
 // The anti-aliased drawing library.
 
-#include <afxwin.h>
-#include <objidl.h>
-
-#include <algorithm>
-
-// The library's headers count on min and max, which the platform's headers leave out here.
-namespace Gdiplus
-{
-using std::max;
-using std::min;
-} // namespace Gdiplus
-
-#include <gdiplus.h>
+#include "frame/GdiplusModule.h"
 
 namespace workbench
 {

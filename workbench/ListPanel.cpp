@@ -4,6 +4,7 @@
 #include <iterator>
 #include <vector>
 
+#include "DrawingScopes.h"
 #include "logic/Texts.h"
 #include "resource.h"
 
@@ -216,7 +217,7 @@ void CListPanel::Arrange()
         auto const label = std::min<int>(m_metrics->X(label_width), client.Width() / 6);
         auto const choice = std::min<int>(m_metrics->X(choice_width), client.Width() / 5);
         CClientDC dc(&m_marked);
-        workbench::SelectScope const font(dc, m_metrics->Font());
+        workbench::FontScope const font(dc, m_metrics->Font());
         auto const check =
             std::min<int>(dc.GetTextExtent(Text(L"Marked")).cx + m_metrics->X(check_room), client.Width() / 5);
         auto const right = std::max<int>(client.right - check - 2 * choice - 3 * gap, label);

@@ -13,6 +13,7 @@
 #include "controls/IdNameMultiselectDlg.h"
 #include "ExportDialog.h"
 #include "FileDialogs.h"
+#include "frame/WindowAlive.h"
 #include "LanguageDialog.h"
 #include "logic/Amplification.h"
 #include "logic/SafeFile.h"
@@ -335,8 +336,8 @@ void CMainWindow::ChooseColumns(CPoint screen)
     CPoint const corner(std::clamp<int>(screen.x, work.left, std::max<int>(work.right - size.cx, work.left)),
                         std::clamp<int>(screen.y, work.top, std::max<int>(work.bottom - size.cy, work.top)));
     dialog.m_placement = CRect(corner, size);
-    LifeWatch const life(m_life);
-    if (dialog.DoModal() != IDOK || life.Over() || m_hWnd == nullptr)
+    WindowAlive const alive(*this, m_life);
+    if (dialog.DoModal() != IDOK || !alive.IsAlive())
     {
         return;
     }
@@ -369,9 +370,9 @@ void CMainWindow::OnSortBy()
     }
     CRect titles;
     m_list.GetHeaderCtrl()->GetWindowRect(&titles);
-    LifeWatch const life(m_life);
+    WindowAlive const alive(*this, m_life);
     auto const chosen = menu.TrackPopupMenu(TPM_RETURNCMD | TPM_NONOTIFY, titles.left, titles.bottom, this);
-    if (chosen > 0 && !life.Over() && m_hWnd != nullptr)
+    if (chosen > 0 && alive.IsAlive())
     {
         m_list.SortByUser(static_cast<CRecordingList::Column>(chosen));
     }
@@ -382,8 +383,8 @@ void CMainWindow::OnExportList()
 {
     m_list.EndEditing();
     CExportDialog dialog(m_settings, m_list.ColumnOrder(), *this);
-    LifeWatch const life(m_life);
-    if (dialog.DoModal() != IDOK || life.Over() || m_hWnd == nullptr)
+    WindowAlive const alive(*this, m_life);
+    if (dialog.DoModal() != IDOK || !alive.IsAlive())
     {
         return;
     }
@@ -406,7 +407,7 @@ void CMainWindow::OnExportList()
                 written = workbench::ReplaceWholeFile(file, workbench::TableFile(table.Table(), file), &error);
             }
         });
-    if (life.Over() || m_hWnd == nullptr)
+    if (!alive.IsAlive())
     {
         return;
     }
@@ -482,8 +483,8 @@ void CMainWindow::OnRename()
     }
     auto const before = RecordingAt(line)->file;
     CRenameDialog dialog(before, m_settings, *this);
-    LifeWatch const life(m_life);
-    if (dialog.DoModal() != IDOK || life.Over() || m_hWnd == nullptr || dialog.File() == before)
+    WindowAlive const alive(*this, m_life);
+    if (dialog.DoModal() != IDOK || !alive.IsAlive() || dialog.File() == before)
     {
         return;
     }
@@ -522,9 +523,9 @@ void CMainWindow::OnDeleteRecordings()
             files.push_back(recording->file);
         }
     }
-    LifeWatch const life(m_life);
+    WindowAlive const alive(*this, m_life);
     if (files.empty() || AfxMessageBox(workbench::TrashQuestion(files).c_str(), MB_YESNO | MB_ICONQUESTION) != IDYES ||
-        life.Over() || m_hWnd == nullptr)
+        !alive.IsAlive())
     {
         return;
     }
@@ -537,7 +538,7 @@ void CMainWindow::OnDeleteRecordings()
             failures.emplace_back(files[item], error);
         }
     }).Run();
-    if (life.Over() || m_hWnd == nullptr)
+    if (!alive.IsAlive())
     {
         return;
     }
@@ -545,7 +546,7 @@ void CMainWindow::OnDeleteRecordings()
     {
         AfxMessageBox(workbench::TrashFailureText(failures).c_str(), MB_ICONEXCLAMATION);
     }
-    if (!life.Over() && m_hWnd != nullptr)
+    if (alive.IsAlive())
     {
         m_followAgain = true;
         Follow();
@@ -812,9 +813,9 @@ void CMainWindow::SavePictureOf(CWnd & view, workbench::Drawing const & draw)
 {
     auto const * const chosen = RecordingAt(m_list.ChosenLine());
     auto const name = chosen != nullptr ? chosen->file.stem().wstring() : std::wstring();
-    LifeWatch const life(m_life);
+    WindowAlive const alive(*this, m_life);
     auto const file = workbench::ChoosePictureFile(*this, name);
-    if (!file || life.Over() || m_hWnd == nullptr)
+    if (!file || !alive.IsAlive())
     {
         return;
     }
@@ -866,8 +867,8 @@ void CMainWindow::OnOpenFiles()
 void CMainWindow::OnOpenFolder()
 {
     COpenFolderDialog dialog(m_settings, *this);
-    LifeWatch const life(m_life);
-    if (dialog.DoModal() == IDOK && !life.Over() && m_hWnd != nullptr)
+    WindowAlive const alive(*this, m_life);
+    if (dialog.DoModal() == IDOK && alive.IsAlive())
     {
         ShowTargets({dialog.Folder()});
         m_rememberOpened = true;

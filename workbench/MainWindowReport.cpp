@@ -6,6 +6,7 @@
 
 #include "FileDialogs.h"
 #include "frame/CoreLibrary.h"
+#include "frame/WindowAlive.h"
 #include "logic/Texts.h"
 #include "logic/WriteTexts.h"
 
@@ -57,12 +58,12 @@ bool CMainWindow::WriteReport(std::filesystem::path const & file)
 
 void CMainWindow::OnWriteReport()
 {
-    LifeWatch const life(m_life);
+    WindowAlive const alive(*this, m_life);
     auto const today = CTime::GetCurrentTime();
     auto const folder = m_targets.size() == 1 && !m_openedFolders.empty() ? m_targets.front() : std::filesystem::path();
     auto const file = workbench::ChooseReportFile(
         *this, workbench::ReportFileName(folder, today.GetYear(), today.GetMonth(), today.GetDay()));
-    if (file && !life.Over() && m_hWnd != nullptr && m_list.Totals().Checked() > 0 && !WriteReport(*file))
+    if (file && alive.IsAlive() && m_list.Totals().Checked() > 0 && !WriteReport(*file))
     {
         AfxMessageBox(workbench::WriteFailureText(*file, m_report.Error()).c_str(), MB_ICONEXCLAMATION);
     }

@@ -4,6 +4,7 @@
 #include <array>
 
 #include "colours/Farbtabellen.h"
+#include "DrawingScopes.h"
 #include "logic/Texts.h"
 #include "resource.h"
 
@@ -102,7 +103,7 @@ void CMeasurePanel::Arrange()
     auto const height = static_cast<int>(client.Height());
     // As wide as the texts are in the present language.
     CClientDC dc(this);
-    workbench::SelectScope const font(dc, m_metrics->Font());
+    workbench::FontScope const font(dc, m_metrics->Font());
     auto const labelWidth = [&](CWnd const & label, int least) {
         CString text;
         label.GetWindowText(text);

@@ -5,6 +5,8 @@
 #include <utility>
 #include <vector>
 
+#include "frame/WindowAlive.h"
+
 namespace workbench
 {
 
@@ -99,7 +101,7 @@ bool ResizePane(CDockablePane & pane, PaneExtent extent, int by, CPoint towards)
         auto const offset = neighbour.isBehind ? by : -by;
         CPoint move(extent == PaneExtent::width ? offset : 0, extent == PaneExtent::height ? offset : 0);
         neighbour.divider->Move(move);
-        if (CWnd::FromHandlePermanent(window) != &pane || PlaceOf(pane) != before)
+        if (!StillHas(&pane, window) || PlaceOf(pane) != before)
         {
             return true;
         }
@@ -112,7 +114,7 @@ bool ResizePane(CDockablePane & pane, PaneExtent extent, int by, CPoint towards)
     CSize size = PlaceOf(*frame).Size();
     (extent == PaneExtent::width ? size.cx : size.cy) += by;
     frame->SetWindowPos(nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
-    return CWnd::FromHandlePermanent(window) != &pane || PlaceOf(pane) != before;
+    return !StillHas(&pane, window) || PlaceOf(pane) != before;
 }
 
 } // namespace workbench

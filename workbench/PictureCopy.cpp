@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "clipboard/Clipboard.h"
+#include "DrawingScopes.h"
 #include "Graphics.h"
 #include "logic/SafeFile.h"
 
@@ -43,10 +44,9 @@ public:
             m_bits = nullptr;
             return;
         }
-        CBitmap * const former = memory.SelectObject(&m_bitmap);
+        SelectScope const selected(memory, m_bitmap.GetSafeHandle());
         draw(memory, CRect(CPoint(0, 0), size));
         ::GdiFlush();
-        memory.SelectObject(former);
     }
 
     bool IsThere() const { return m_bits != nullptr; }

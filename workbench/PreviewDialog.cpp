@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "DrawingScopes.h"
 #include "logic/Texts.h"
 #include "Printing.h"
 #include "resource.h"
@@ -44,11 +45,10 @@ void CPageView::Draw(CDC & dc, CRect const & client)
     paper.DeflateRect(margin, margin);
     if (m_painter && !paper.IsRectEmpty())
     {
-        auto const saved = dc.SaveDC();
+        ContextStateScope const saved(dc);
         dc.IntersectClipRect(paper);
         // As on paper: texts get smaller with the page.
         workbench::DrawScaled(dc, paper, workbench::PageSize(), m_painter);
-        dc.RestoreDC(saved);
     }
 }
 

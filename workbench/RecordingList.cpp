@@ -576,7 +576,7 @@ void CRecordingList::ShowReference()
     {
         SetBold(row, column_name, true);
         CClientDC dc(this);
-        workbench::SelectScope const font(dc, m_metrics->BoldFont());
+        workbench::FontScope const font(dc, m_metrics->BoldFont());
         Require(column_name, dc.GetTextExtent(GetItemText(row, column_name)).cx + m_metrics->Scaled(text_room));
         FitColumns();
     }
@@ -820,7 +820,7 @@ void CRecordingList::PlaceEditors(int line)
         ::GetWindowRect(edit, &place);
         ScreenToClient(&place);
         CClientDC dc(this);
-        workbench::SelectScope const font(dc, m_metrics->Font());
+        workbench::FontScope const font(dc, m_metrics->Font());
         auto const height = dc.GetTextExtent(L"Mg").cy;
         if (height + edit_room < place.Height())
         {

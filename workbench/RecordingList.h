@@ -16,6 +16,7 @@
 #include <vector>
 
 #include "colours/ControlColors.h"
+#include "DrawingScopes.h"
 #include "list/XListCtrl.h"
 #include "logic/ListHistory.h"
 #include "logic/RecordingAnalysis.h"
@@ -419,7 +420,7 @@ private:
     {
         explicit Measuring(CFont & font);
         CDC dc;
-        workbench::SelectScope scope;
+        workbench::FontScope scope;
     };
 
     CImageList m_images;

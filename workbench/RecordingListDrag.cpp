@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "frame/WindowAlive.h"
 #include "logic/LineMove.h"
 
 namespace
@@ -132,7 +133,7 @@ void CRecordingList::FollowDrag(CPoint point)
         auto const window = m_hWnd;
         onDragOut(lines);
         // The button's release went elsewhere.
-        if (::IsWindow(window) && CWnd::FromHandlePermanent(window) == this)
+        if (StillHas(this, window))
         {
             DefWindowProc(WM_LBUTTONUP, 0, MAKELPARAM(-1, -1));
         }

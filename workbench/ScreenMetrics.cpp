@@ -1,5 +1,7 @@
 #include "ScreenMetrics.h"
 
+#include "DrawingScopes.h"
+
 namespace workbench
 {
 
@@ -46,7 +48,7 @@ ScreenMetrics::ScreenMetrics(int dotsPerInch)
 
     if (onScreen)
     {
-        SelectScope const font(dc, m_font);
+        FontScope const font(dc, m_font);
         auto const extent = dc.GetTextExtent(alphabet, alphabet_length);
         TEXTMETRIC text{};
         dc.GetTextMetrics(&text);

@@ -48,18 +48,4 @@ private:
     int m_height = 13;
 };
 
-/// Selects an object into a device context, and the former one back at the end of the block.
-class SelectScope
-{
-public:
-    SelectScope(CDC & dc, CFont & font) : m_dc(dc), m_previous(dc.SelectObject(&font)) {}
-    SelectScope(SelectScope const &) = delete;
-    SelectScope & operator=(SelectScope const &) = delete;
-    ~SelectScope() { m_dc.SelectObject(m_previous); }
-
-private:
-    CDC & m_dc;
-    CFont * m_previous;
-};
-
 } // namespace workbench

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "DrawingScopes.h"
 #include "logic/Axis.h"
 #include "logic/NumberSigns.h"
 #include "logic/TextFormat.h"
@@ -41,20 +42,6 @@ std::wstring LegendLabel(int entry)
     return workbench::WithSigns(
         std::to_wstring(std::lround(workbench::lowest_scale_level + entry * workbench::decibels_per_entry)));
 }
-
-/// How a picture is stretched, with its way back.
-class StretchModeScope
-{
-public:
-    StretchModeScope(CDC & dc, int mode) : m_dc(dc), m_former(dc.SetStretchBltMode(mode)) {}
-    StretchModeScope(StretchModeScope const &) = delete;
-    StretchModeScope & operator=(StretchModeScope const &) = delete;
-    ~StretchModeScope() { m_dc.SetStretchBltMode(m_former); }
-
-private:
-    CDC & m_dc;
-    int m_former;
-};
 
 /// A bitmap's header with its colour table.
 struct BitmapHeader
@@ -313,7 +300,7 @@ void CSpectrogramView::Draw(CDC & dc, CRect const & rect)
         return;
     }
     dc.SetBkMode(TRANSPARENT);
-    workbench::SelectScope const font(dc, m_metrics->Font());
+    workbench::FontScope const font(dc, m_metrics->Font());
     if (!m_result || m_result->problem)
     {
         DrawMessage(dc, rect);
@@ -363,7 +350,7 @@ void CSpectrogramView::DrawMessage(CDC & dc, CRect const & rect)
     area.DeflateRect(m_metrics->X(10), m_metrics->Y(8));
     area.top = MessageTop(rect);
     {
-        workbench::SelectScope const bold(dc, m_metrics->BoldFont());
+        workbench::FontScope const bold(dc, m_metrics->BoldFont());
         dc.SetTextColor(m_plotColours.text);
         DrawPlotText(dc, m_title, area, DT_CENTER | text_one_line);
     }
@@ -377,7 +364,7 @@ int CSpectrogramView::DrawHeading(CDC & dc, CRect const & area)
     auto const line = m_metrics->LineHeight();
     auto rect = area;
     {
-        workbench::SelectScope const bold(dc, m_metrics->BoldFont());
+        workbench::FontScope const bold(dc, m_metrics->BoldFont());
         dc.SetTextColor(m_plotColours.text);
         DrawPlotText(dc, m_title, rect, DT_LEFT | text_one_line);
     }
@@ -653,7 +640,7 @@ void CSpectrogramView::DrawPicture(CDC & dc, CRect const & rect)
         auto const colour = m_colours[i];
         bitmap.colours[i] = {GetBValue(colour), GetGValue(colour), GetRValue(colour), 0};
     }
-    StretchModeScope const mode(dc, COLORONCOLOR);
+    workbench::StretchModeScope const mode(dc, COLORONCOLOR);
     ::StretchDIBits(dc.GetSafeHdc(), inside.left, inside.top, inside.Width(), inside.Height(), 0, 0, size.cx, size.cy,
                     bits.data(), reinterpret_cast<BITMAPINFO const *>(&bitmap), DIB_RGB_COLORS, SRCCOPY);
 }

@@ -5,6 +5,7 @@
 #include <iterator>
 #include <numbers>
 
+#include "DrawingScopes.h"
 #include "frame/RegisteredMessages.h"
 
 namespace
@@ -48,20 +49,19 @@ CRect CStarRating::StarRect(CRect const & cell, int star) const
 
 void CStarRating::Paint(XLISTCTRLDATA const & cell, CDC & dc, CRect const & rect, COLORREF text, COLORREF background)
 {
-    auto const saved = dc.SaveDC();
-    dc.FillSolidRect(rect, background);
-    dc.IntersectClipRect(rect);
     // Stars with lines that are rounded up look full.
     CPen pen(PS_SOLID, std::max(m_dotsPerInch / USER_DEFAULT_SCREEN_DPI, 1), text);
     CBrush full(text);
     CBrush empty(background);
+    ContextStateScope const saved(dc);
+    dc.FillSolidRect(rect, background);
+    dc.IntersectClipRect(rect);
     dc.SelectObject(&pen);
     for (int star = 0; star < star_count; ++star)
     {
         dc.SelectObject(star < StarsOf(cell.comboCurrentId) ? &full : &empty);
         DrawStar(dc, StarRect(rect, star));
     }
-    dc.RestoreDC(saved);
 }
 
 CXListCellKind::Change CStarRating::Rate(XLISTCTRLDATA & cell, int stars)

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "DrawingScopes.h"
 #include "logic/Texts.h"
 #include "resource.h"
 
@@ -82,7 +83,7 @@ void CStatusStrip::ShowTip()
     m_text.GetWindowRect(&place);
     ScreenToClient(&place);
     CClientDC dc(&m_text);
-    workbench::SelectScope const font(dc, m_metrics->Font());
+    workbench::FontScope const font(dc, m_metrics->Font());
     auto const isCut = dc.GetTextExtent(m_shown.c_str()).cx > place.Width();
     m_tips.SetMaxTipWidth(std::max(place.Width(), 1));
     m_tips.SetToolRect(this, text_tool, place);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string>
 
+#include "DrawingScopes.h"
 #include "logic/Amplification.h"
 #include "logic/Texts.h"
 #include "PlotParts.h"
@@ -110,7 +111,7 @@ void CWaveformPanel::OnSize(UINT type, int width, int height)
         return;
     }
     CClientDC dc(this);
-    workbench::SelectScope const font(dc, m_metrics->Font());
+    workbench::FontScope const font(dc, m_metrics->Font());
     workbench::PlotMargins const margins(dc, *m_metrics);
     // The slider stands in what the view would leave free right of its plot; where that leaves too little of the plot,
     // the plot has all.

@@ -6,6 +6,7 @@
 #include <limits>
 
 #include "colours/Farbtabellen.h"
+#include "DrawingScopes.h"
 #include "logic/Amplification.h"
 #include "logic/Axis.h"
 #include "logic/CursorReading.h"
@@ -134,7 +135,7 @@ void CWaveformView::Draw(CDC & dc, CRect const & client)
         return;
     }
     dc.SetBkMode(TRANSPARENT);
-    workbench::SelectScope const font(dc, m_metrics->Font());
+    workbench::FontScope const font(dc, m_metrics->Font());
     if (!m_analysis || m_analysis->problem || !m_detail)
     {
         DrawMessage(dc, client);
@@ -201,7 +202,7 @@ CRect CWaveformView::PlotPlace()
     CRect client;
     GetClientRect(&client);
     CClientDC dc(this);
-    workbench::SelectScope const font(dc, m_metrics->Font());
+    workbench::FontScope const font(dc, m_metrics->Font());
     return PlotIn(dc, client);
 }
 
@@ -654,7 +655,7 @@ void CWaveformView::DrawMessage(CDC & dc, CRect const & client)
     auto const line = m_metrics->LineHeight();
     area.top = std::max<int>(area.top, area.CenterPoint().y - 2 * line);
     {
-        workbench::SelectScope const bold(dc, m_metrics->BoldFont());
+        workbench::FontScope const bold(dc, m_metrics->BoldFont());
         dc.SetTextColor(m_plotColours.text);
         DrawPlotText(dc, m_title, area, DT_CENTER | text_one_line);
     }
@@ -679,7 +680,7 @@ void CWaveformView::DrawHeading(CDC & dc, CRect const & area)
     auto const pitch = m_metrics->LineHeight() + m_metrics->Y(line_gap);
     auto rect = area;
     {
-        workbench::SelectScope const bold(dc, m_metrics->BoldFont());
+        workbench::FontScope const bold(dc, m_metrics->BoldFont());
         dc.SetTextColor(m_plotColours.text);
         DrawPlotText(dc, m_title, rect, DT_LEFT | text_one_line);
     }

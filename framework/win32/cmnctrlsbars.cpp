@@ -38,8 +38,8 @@ BOOL CTabCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, RECT const & rect, CWnd 
 
 void CTabCtrl::OnDestroy()
 {
-    framework::ReleaseImages(m_hWnd, TCM_GETIMAGELIST, TCM_SETIMAGELIST, 0);
-    CWnd::OnDestroy();
+    if (framework::ReleaseImages(*this, TCM_GETIMAGELIST, TCM_SETIMAGELIST, {0}))
+        CWnd::OnDestroy();
 }
 
 DWORD CTabCtrl::GetItemState(int nItem, DWORD dwMask) const

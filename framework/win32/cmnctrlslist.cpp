@@ -70,9 +70,8 @@ BOOL CListCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, RECT const & rect, CWnd
 
 void CListCtrl::OnNcDestroy()
 {
-    for (int const kind : {LVSIL_NORMAL, LVSIL_SMALL, LVSIL_STATE})
-        framework::ReleaseImages(m_hWnd, LVM_GETIMAGELIST, LVM_SETIMAGELIST, kind);
-    CWnd::OnNcDestroy();
+    if (framework::ReleaseImages(*this, LVM_GETIMAGELIST, LVM_SETIMAGELIST, {LVSIL_NORMAL, LVSIL_SMALL, LVSIL_STATE}))
+        CWnd::OnNcDestroy();
 }
 
 BOOL CListCtrl::SetBkImage(HBITMAP hBitmap, BOOL fTile, int xOffsetPercent, int yOffsetPercent)

@@ -55,9 +55,8 @@ BOOL CTreeCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, RECT const & rect, CWnd
 
 void CTreeCtrl::OnDestroy()
 {
-    for (int const kind : {TVSIL_NORMAL, TVSIL_STATE})
-        framework::ReleaseImages(m_hWnd, TVM_GETIMAGELIST, TVM_SETIMAGELIST, kind);
-    CWnd::OnDestroy();
+    if (framework::ReleaseImages(*this, TVM_GETIMAGELIST, TVM_SETIMAGELIST, {TVSIL_NORMAL, TVSIL_STATE}))
+        CWnd::OnDestroy();
 }
 
 BOOL CTreeCtrl::SetItem(HTREEITEM hItem, UINT nMask, LPCTSTR lpszItem, int nImage, int nSelectedImage, UINT nState,

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "detail/ControlSupport.h"
+#include "detail/FrameSupport.h"
 #include "detail/imagelist.h"
 
 IMPLEMENT_DYNAMIC(CStatic, CWnd)
@@ -36,11 +37,19 @@ BOOL CreateControlEx(CWnd & control, DWORD classes, DWORD exStyle, LPCTSTR class
     return control.CreateEx(exStyle, className, text, style | WS_CHILD, rect, parent, id);
 }
 
-void ReleaseImages(HWND control, UINT getMessage, UINT setMessage, int kind)
+bool ReleaseImages(CWnd const & control, UINT getMessage, UINT setMessage, std::initializer_list<int> kinds)
 {
-    auto const images = Send<HIMAGELIST>(control, getMessage, kind);
-    if (images != nullptr && CImageList::FromHandlePermanent(images) != nullptr)
-        Send(control, setMessage, kind, 0);
+    WindowGuard const guard(&control);
+    HWND const window = control.m_hWnd;
+    for (int const kind : kinds)
+    {
+        auto const images = Send<HIMAGELIST>(window, getMessage, kind);
+        if (guard.Alive() && images != nullptr && CImageList::FromHandlePermanent(images) != nullptr)
+            Send(window, setMessage, kind, 0);
+        if (!guard.Alive())
+            return false;
+    }
+    return true;
 }
 } // namespace framework
 

@@ -11,6 +11,7 @@
 #include "controls_MultiselectTest.h"
 #include "GdiHandleCount.h"
 #include "GuardedHeap.h"
+#include "ImportPatch.h"
 #include "Input.h"
 #include "Pump.h"
 
@@ -496,6 +497,54 @@ TEST_F(BrowseEditTest, TheFieldMayEndWhileItsTextIsWorkedOut)
         field->On(question, [&] { field.reset(); });
         field->UpdateSelectionText();
         EXPECT_EQ(field, nullptr);
+    }
+}
+
+namespace
+{
+int g_contextsTaken = 0;
+int g_contextsHeld = 0;
+
+HDC WINAPI CountingGetDC(HWND window)
+{
+    HDC const context = ::GetDC(window);
+    if (context != nullptr)
+    {
+        ++g_contextsTaken;
+        ++g_contextsHeld;
+    }
+    return context;
+}
+
+int WINAPI CountingReleaseDC(HWND window, HDC context)
+{
+    --g_contextsHeld;
+    return ::ReleaseDC(window, context);
+}
+} // namespace
+
+TEST_F(BrowseEditTest, NoContextIsHeldWhileTheHostHearsOfTheText)
+{
+    tests::ImportPatch const taking(L"instrument_ui.dll", "GetDC", &CountingGetDC);
+    tests::ImportPatch const releasing(L"instrument_ui.dll", "ReleaseDC", &CountingReleaseDC);
+    ASSERT_TRUE(taking.Done());
+    ASSERT_TRUE(releasing.Done());
+    controls::Watched<CXEditBrowseCtrl> field;
+    ASSERT_TRUE(field.Create(WS_CHILD | WS_VISIBLE | WS_BORDER, CRect(10, 50, 210, 74), m_host, 6));
+    field.SetTheMap({{1, L"A"}, {2, L"B"}, {3, L"C"}});
+    for (UINT const question : {WM_GETFONT, WM_GETTEXT, WM_GETTEXTLENGTH, WM_SETTEXT})
+    {
+        SCOPED_TRACE(testing::Message() << "message " << question);
+        field.SetWindowText(L"");
+        field.SetSelection(Ids{1, 2});
+        g_contextsTaken = 0;
+        g_contextsHeld = 0;
+        int held = -1;
+        field.On(question, [&] { held = g_contextsHeld; });
+        field.UpdateSelectionText();
+        EXPECT_EQ(held, 0);
+        EXPECT_GT(g_contextsTaken, 0);
+        EXPECT_EQ(g_contextsHeld, 0);
     }
 }
 

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include "GuardedHeap.h"
 #include "Input.h"
 #include "Pump.h"
 #include "resource.h"
@@ -571,5 +572,66 @@ TEST(FrameworkControlsCommon, LinkControlKeepsItsLinks)
     EXPECT_FALSE(link.GetItemUrl(4, text));
     EXPECT_EQ(text, L"");
     EXPECT_GT(link.GetIdealHeight(), 0);
+}
+
+// Controls that their host ends while they give their images back
+
+template <class Control> class EndingControl : public Control
+{
+public:
+    UINT m_last = 0;
+    int * m_ended = nullptr;
+
+    ~EndingControl() override
+    {
+        if (m_ended != nullptr)
+            ++*m_ended;
+    }
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message != m_last)
+            return Control::WindowProc(message, wParam, lParam);
+        delete this;
+        return 0;
+    }
+};
+
+template <class Control> void EndWhile(UINT message, UINT setImages)
+{
+    tests::ScopedWindow parent;
+    CImageList images;
+    ASSERT_TRUE(images.Create(16, 16, ILC_COLOR32, 1, 1));
+    tests::GuardedHeap heap;
+    int ended = 0;
+    auto const control = new EndingControl<Control>;
+    ASSERT_TRUE(control->Create(shown, place, parent, control_id));
+    control->SendMessage(setImages, LVSIL_NORMAL, reinterpret_cast<LPARAM>(images.GetSafeHandle()));
+    HWND const window = control->m_hWnd;
+    control->m_ended = &ended;
+    control->m_last = message;
+    ::DestroyWindow(window);
+    EXPECT_EQ(ended, 1);
+    EXPECT_FALSE(::IsWindow(window));
+    EXPECT_EQ(heap.Check(), 0U);
+}
+
+TEST(FrameworkEndingControls, ATreeThatEndsWhileItGivesItsImagesBack)
+{
+    EndWhile<CTreeCtrl>(TVM_GETIMAGELIST, TVM_SETIMAGELIST);
+    EndWhile<CTreeCtrl>(TVM_SETIMAGELIST, TVM_SETIMAGELIST);
+}
+
+TEST(FrameworkEndingControls, ATabControlThatEndsWhileItGivesItsImagesBack)
+{
+    EndWhile<CTabCtrl>(TCM_GETIMAGELIST, TCM_SETIMAGELIST);
+    EndWhile<CTabCtrl>(TCM_SETIMAGELIST, TCM_SETIMAGELIST);
+}
+
+TEST(FrameworkEndingControls, AListThatEndsWhileItGivesItsImagesBack)
+{
+    EndWhile<CListCtrl>(LVM_GETIMAGELIST, LVM_SETIMAGELIST);
+    EndWhile<CListCtrl>(LVM_SETIMAGELIST, LVM_SETIMAGELIST);
 }
 } // namespace

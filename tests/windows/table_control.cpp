@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <stdexcept>
 
 #include "Bitmap.h"
 #include "clipboard/Clipboard.h"
@@ -653,6 +654,132 @@ TEST_F(TableClipboard, ABlockIsPastedOrRefused)
     ASSERT_EQ(refused.refused.size(), 1U);
     EXPECT_EQ(refused.refused[0].reason, L"too much");
     EXPECT_EQ(source->At(1).number, 7.5);
+}
+
+namespace
+{
+/// Fails, or waits, in its last row.
+class FailingSource : public tests::ManyRowsSource
+{
+public:
+    static constexpr TableRow rows = 20000;
+
+    TableRow RowCount() const override { return rows; }
+    bool Read(TableRow row, unsigned int column, TableValue & value) const override
+    {
+        if (row == rows - 1 && fails)
+        {
+            failing = true;
+            while (waits)
+                ::Sleep(1);
+            throw std::runtime_error("unreadable");
+        }
+        return ManyRowsSource::Read(row, column, value);
+    }
+
+    std::atomic<bool> fails{false};
+    std::atomic<bool> waits{false};
+    mutable std::atomic<bool> failing{false};
+};
+
+/// A folder of its own with a former export.
+class ExportFolder
+{
+public:
+    ExportFolder()
+    {
+        wchar_t folder[MAX_PATH] = {};
+        ::GetTempPathW(MAX_PATH, folder);
+        m_folder = std::filesystem::path(folder) / L"table-exports";
+        std::filesystem::remove_all(m_folder);
+        std::filesystem::create_directory(m_folder);
+        std::ofstream(File(), std::ios::binary) << "former";
+    }
+    ~ExportFolder()
+    {
+        std::error_code ignored;
+        std::filesystem::remove_all(m_folder, ignored);
+    }
+    ExportFolder(ExportFolder const &) = delete;
+    ExportFolder & operator=(ExportFolder const &) = delete;
+
+    std::filesystem::path File() const { return m_folder / L"rows.csv"; }
+    std::string Contents() const
+    {
+        std::ifstream file(File(), std::ios::binary);
+        return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    }
+    /// Of all files.
+    std::size_t Count() const
+    {
+        return static_cast<std::size_t>(std::distance(std::filesystem::directory_iterator(m_folder), {}));
+    }
+
+private:
+    std::filesystem::path m_folder;
+};
+} // namespace
+
+TEST_F(TableControl, AFormerFileStaysUntilTheNewOneIsWhole)
+{
+    ExportFolder folder;
+    auto const rows = std::make_shared<FailingSource>();
+    table->SetSource(rows);
+    int ended = 0;
+    bool whole = true;
+    table->m_onExportEnd = [&](bool all) {
+        ++ended;
+        whole = all;
+    };
+
+    // The source fails after most of the rows.
+    rows->fails = true;
+    ASSERT_TRUE(table->ExportRows(folder.File().wstring(), TableForm::csv, false));
+    ASSERT_TRUE(tests::PumpUntil([&] { return ended == 1; }));
+    EXPECT_FALSE(whole);
+    EXPECT_EQ(folder.Contents(), "former");
+    EXPECT_EQ(folder.Count(), 1U);
+
+    // The work is stopped there.
+    rows->waits = true;
+    rows->failing = false;
+    ASSERT_TRUE(table->ExportRows(folder.File().wstring(), TableForm::csv, false));
+    ASSERT_TRUE(tests::PumpUntil([&] { return rows->failing.load(); }));
+    EXPECT_EQ(folder.Contents(), "former");
+    table->StopExport();
+    rows->waits = false;
+    ASSERT_TRUE(tests::PumpUntil([&] { return ended == 2; }));
+    EXPECT_FALSE(whole);
+    EXPECT_EQ(folder.Contents(), "former");
+    EXPECT_EQ(folder.Count(), 1U);
+
+    rows->fails = false;
+    ASSERT_TRUE(table->ExportRows(folder.File().wstring(), TableForm::csv, false));
+    ASSERT_TRUE(tests::PumpUntil([&] { return ended == 3; }));
+    EXPECT_TRUE(whole);
+    EXPECT_EQ(folder.Contents().substr(0, 7), "\xEF\xBB\xBFName");
+    EXPECT_EQ(folder.Count(), 1U);
+}
+
+TEST_F(TableControl, AFormerFileThatAnotherProgramKeepsStays)
+{
+    ExportFolder folder;
+    Show({1, 2});
+    int ended = 0;
+    bool whole = true;
+    table->m_onExportEnd = [&](bool all) {
+        ++ended;
+        whole = all;
+    };
+    HANDLE const reader = ::CreateFileW(folder.File().c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
+                                        FILE_ATTRIBUTE_NORMAL, nullptr);
+    ASSERT_NE(reader, INVALID_HANDLE_VALUE);
+    ASSERT_TRUE(table->ExportRows(folder.File().wstring(), TableForm::csv, false));
+    EXPECT_TRUE(tests::PumpUntil([&] { return ended == 1; }));
+    ::CloseHandle(reader);
+    EXPECT_FALSE(whole);
+    EXPECT_EQ(folder.Contents(), "former");
+    EXPECT_EQ(folder.Count(), 1U);
 }
 
 TEST_F(TableControl, RowsAreWrittenToAFile)

@@ -6,6 +6,7 @@
 #include "access/ControlTarget.h"
 #include "colours/ControlColors.h"
 #include "controls/ButtonLayout.h"
+#include "frame/GraphicsScopes.h"
 #include "layout/StretchedImages.h"
 #include "layout/WindowDpi.h"
 
@@ -97,9 +98,8 @@ void CColorButton::DrawItem(LPDRAWITEMSTRUCT item)
         dc->DrawFrameControl(area, DFC_BUTTON, DFCS_BUTTONPUSH | (pressed ? DFCS_PUSHED : 0));
     if (m_drawFocusFrame && m_hot)
     {
-        CPen * const former = dc->SelectObject(m_hotPen);
+        SelectScope const pen(*dc, m_hotPen->GetSafeHandle());
         dc->Rectangle(area);
-        dc->SelectObject(former);
     }
     area.DeflateRect(window_dpi::Metric(SM_CXEDGE, m_dpi), window_dpi::Metric(SM_CYEDGE, m_dpi));
     COLORREF const background = look == ButtonLook::disabled ? m_disabledBgColor

@@ -7,7 +7,9 @@
 #include "controls/FieldWidths.h"
 #include "controls/ItemRows.h"
 #include "controls/TypeAhead.h"
+#include "frame/GraphicsScopes.h"
 #include "frame/LastingWindow.h"
+#include "frame/WindowAlive.h"
 #include "layout/WindowDpi.h"
 
 namespace
@@ -20,19 +22,13 @@ constexpr wchar_t const * blank_text = L"\u2014";
 constexpr int tip_right = 1;
 constexpr int tip_down = 3;
 
-/// The width of the widest of the texts on the window's device context as it comes. A context is held over no message:
-/// it would end with the window.
+/// The width of the widest of the texts on the window's device context as it comes.
 int WidestText(HWND window, std::vector<CString> const & texts)
 {
-    HDC const dc = ::GetDC(window);
+    TextMeasure const measure(window, nullptr);
     int widest = 0;
     for (CString const & text : texts)
-    {
-        SIZE extent{};
-        ::GetTextExtentPoint32W(dc, text, text.GetLength(), &extent);
-        widest = std::max(widest, static_cast<int>(extent.cx));
-    }
-    ::ReleaseDC(window, dc);
+        widest = std::max(widest, measure.Width(text));
     return widest;
 }
 
@@ -145,18 +141,18 @@ bool CComboBoxX::FitToWidth()
     HWND const window = m_hWnd;
     int const count = window != nullptr ? GetCount() : 0;
     std::vector<CString> texts;
-    for (int row = 0; row < count && item_rows::Serves(*this, window); ++row)
+    for (int row = 0; row < count && StillHas(this, window); ++row)
     {
         CString text;
         GetLBText(row, text);
         texts.push_back(text);
     }
-    if (!item_rows::Serves(*this, window))
+    if (!StillHas(this, window))
         return false;
     int const widest = WidestText(window, texts);
     int const width = DropWidth(widest, window_dpi::Metric(SM_CXVSCROLL, m_dpi), window_dpi::Metric(SM_CXEDGE, m_dpi));
     int const present = GetDroppedWidth();
-    if (present >= width || !item_rows::Serves(*this, window))
+    if (present >= width || !StillHas(this, window))
         return false;
     SetDroppedWidth(static_cast<UINT>(width));
     return true;
@@ -194,7 +190,7 @@ void CComboBoxX::PreSubclassWindow()
 {
     HWND const window = m_hWnd;
     CComboBox::PreSubclassWindow();
-    if (!item_rows::Serves(*this, window))
+    if (!StillHas(this, window))
         return;
     EndTip();
     window_dpi::Begin(*this, m_followsDpi);
@@ -211,7 +207,7 @@ void CComboBoxX::PreSubclassWindow()
     TOOLINFOW tool = m_toolInfo;
     ::SendMessage(tip, TTM_SETMAXTIPWIDTH, 0, greatest_tip_width);
     if (tip != nullptr && !::SendMessage(tip, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool)) &&
-        item_rows::Serves(*this, window))
+        StillHas(this, window))
     {
         // Common controls before version 6 know a smaller structure alone.
         tool.cbSize = m_toolInfo.cbSize = TTTOOLINFOW_V2_SIZE;
@@ -275,7 +271,7 @@ BOOL CComboBoxX::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESU
     {
         HWND const window = m_hWnd;
         OnDropdown();
-        if (!item_rows::Serves(*this, window))
+        if (!StillHas(this, window))
             return TRUE;
     }
     return CComboBox::OnChildNotify(message, wParam, lParam, result);
@@ -305,7 +301,7 @@ void CComboBoxX::OnMouseMove(UINT flags, CPoint point)
     {
         text = ComboField(window).Text();
         tooWide = IsTooWide(item_rows::TextWidth(window, text), field.Width(), m_dpi);
-        if (!item_rows::Serves(*this, window))
+        if (!StillHas(this, window))
             return;
     }
     if (tooWide)
@@ -330,7 +326,7 @@ void CComboBoxX::OnMouseMove(UINT flags, CPoint point)
     }
     else
         ShowTip(false);
-    if (item_rows::Serves(*this, window))
+    if (StillHas(this, window))
         CComboBox::OnMouseMove(flags, point);
 }
 

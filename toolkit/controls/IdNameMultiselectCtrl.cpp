@@ -11,6 +11,7 @@
 #include "controls/SmallIcon.h"
 #include "frame/RegisteredMessages.h"
 #include "frame/ToolkitResources.h"
+#include "frame/WindowAlive.h"
 #include "layout/WindowDpi.h"
 #include "resource_ids.h"
 
@@ -38,12 +39,12 @@ class CIdNameMultiselectCtrl::Rows : public id_name::Rows
 public:
     explicit Rows(CIdNameMultiselectCtrl & control)
         : m_control(control),
-          m_list(control.m_creating ? nullptr : control.m_list.m_hWnd),
-          m_life(control.m_life)
+          m_made(!control.m_creating),
+          m_alive(control.m_list, control.m_life)
     {
     }
 
-    bool IsThere() const { return !m_life.Over() && m_list != nullptr && m_control.m_list.m_hWnd == m_list; }
+    bool IsThere() const { return m_made && m_alive.IsAlive(); }
 
     int Count() const override { return IsThere() ? m_control.m_list.GetItemCount() : 0; }
     void Clear() override
@@ -84,8 +85,8 @@ public:
 
 private:
     CIdNameMultiselectCtrl & m_control;
-    HWND m_list;
-    LifeWatch m_life;
+    bool m_made;
+    WindowAlive m_alive;
 };
 
 IMPLEMENT_DYNAMIC(CIdNameMultiselectCtrl, CButton)
@@ -300,22 +301,19 @@ void CIdNameMultiselectCtrl::SendMessageToParent(WPARAM wParam, LPARAM lParam)
 class CIdNameMultiselectCtrl::Parts
 {
 public:
-    explicit Parts(CIdNameMultiselectCtrl & control)
-        : m_control(control),
-          m_window(control.m_hWnd),
-          m_life(control.m_life)
+    explicit Parts(CIdNameMultiselectCtrl & control) : m_control(control), m_alive(control, control.m_life)
     {
         m_control.m_creating = true;
     }
     ~Parts()
     {
-        if (!m_life.Over())
+        if (m_alive.IsThere())
             m_control.m_creating = false;
     }
     Parts(Parts const &) = delete;
     Parts & operator=(Parts const &) = delete;
 
-    bool MayGoOn() const { return !m_life.Over() && m_control.m_hWnd == m_window; }
+    bool MayGoOn() const { return m_alive.IsAlive(); }
 
     void MakeList(CRect const & place)
     {
@@ -356,8 +354,7 @@ private:
     }
 
     CIdNameMultiselectCtrl & m_control;
-    HWND m_window;
-    LifeWatch m_life;
+    WindowAlive m_alive;
 };
 
 void CIdNameMultiselectCtrl::PreSubclassWindow()
@@ -400,20 +397,18 @@ void CIdNameMultiselectCtrl::DrawItem(LPDRAWITEMSTRUCT item)
 {
     if (m_controlsCreated || m_creating)
         return;
-    LifeWatch const life(m_life);
+    WindowAlive const alive(*this, m_life);
     CRect rect(item->rcItem);
     CreateControls(rect);
-    if (!life.Over() && m_hWnd != nullptr)
+    if (alive.IsAlive())
         Invalidate();
 }
 
 void CIdNameMultiselectCtrl::OnSize(UINT type, int cx, int cy)
 {
-    LifeWatch const life(m_life);
-    HWND const window = m_hWnd;
+    WindowAlive const alive(*this, m_life);
     CButton::OnSize(type, cx, cy);
-    auto const mayGoOn = [&] { return !life.Over() && m_hWnd == window; };
-    if (!mayGoOn())
+    if (!alive.IsAlive())
         return;
     CRect rect;
     GetClientRect(&rect);
@@ -429,9 +424,7 @@ void CIdNameMultiselectCtrl::OnSize(UINT type, int cx, int cy)
 
 void CIdNameMultiselectCtrl::PlaceParts()
 {
-    LifeWatch const life(m_life);
-    HWND const window = m_hWnd;
-    auto const mayGoOn = [&] { return !life.Over() && m_hWnd == window; };
+    WindowAlive const alive(*this, m_life);
     id_name::Places const places = id_name::PlacesIn(m_partsArea, m_okCancel, m_dpi);
     struct Part
     {
@@ -442,14 +435,14 @@ void CIdNameMultiselectCtrl::PlaceParts()
          {Part{&m_list, places.list}, Part{&m_selectAll, places.selectAll}, Part{&m_selectNone, places.selectNone},
           Part{&m_cancel, places.cancel}, Part{&m_ok, places.ok}})
     {
-        if (!mayGoOn())
+        if (!alive.IsAlive())
             return;
         if (part.window->m_hWnd != nullptr)
             part.window->MoveWindow(&part.place);
     }
     for (CButton * const button : {&m_cancel, &m_ok})
     {
-        if (!mayGoOn())
+        if (!alive.IsAlive())
             return;
         if (button->m_hWnd != nullptr)
             button->ShowWindow(m_okCancel ? SW_SHOW : SW_HIDE);

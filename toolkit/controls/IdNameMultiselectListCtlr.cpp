@@ -5,15 +5,7 @@
 #include "access/ControlTarget.h"
 #include "access/NativeEvents.h"
 #include "controls/MultiselectMessages.h"
-
-namespace
-{
-/// Whether the object is still there: with its window it is.
-bool IsStillThere(HWND window, CWnd const * object)
-{
-    return ::IsWindow(window) && CWnd::FromHandlePermanent(window) == object;
-}
-} // namespace
+#include "frame/WindowAlive.h"
 
 IMPLEMENT_DYNAMIC(CIdNameMultiselectListCtlr, CListCtrl)
 
@@ -29,23 +21,23 @@ void CIdNameMultiselectListCtlr::PreSubclassWindow()
 
 void CIdNameMultiselectListCtlr::OnLButtonDown(UINT flags, CPoint point)
 {
-    HWND const window = m_hWnd;
+    WindowAlive const alive(*this, m_life);
     UINT hitFlags = 0;
     int const row = HitTest(point, &hitFlags);
-    if (!IsStillThere(window, this))
+    if (!alive.IsAlive())
         return;
     LPARAM const id = row >= 0 ? static_cast<LPARAM>(GetItemData(row)) : 0;
-    if (!IsStillThere(window, this))
+    if (!alive.IsAlive())
         return;
     if (row >= 0 && (hitFlags & LVHT_ONITEMLABEL) != 0)
     {
         bool const ticked = GetCheck(row) != 0;
-        if (IsStillThere(window, this))
+        if (alive.IsAlive())
             SetCheck(row, !ticked);
     }
     else
         CListCtrl::OnLButtonDown(flags, point);
-    if (row >= 0 && IsStillThere(window, this))
+    if (row >= 0 && alive.IsAlive())
         TellOfPress(id);
 }
 
@@ -122,6 +114,7 @@ BOOL CIdNameMultiselectListCtlr::OnChildNotify(UINT message, WPARAM wParam, LPAR
     {
         auto const & change = *reinterpret_cast<NMLISTVIEW const *>(lParam);
         UINT const changed = (change.uChanged & LVIF_STATE) != 0 ? change.uOldState ^ change.uNewState : 0;
+        WindowAlive const alive(*this, m_life);
         HWND const window = m_hWnd;
         accessible::Element const row{change.iItem, -1};
         bool const focused = (changed & change.uNewState & LVIS_FOCUSED) != 0;
@@ -129,7 +122,7 @@ BOOL CIdNameMultiselectListCtlr::OnChildNotify(UINT message, WPARAM wParam, LPAR
             TellUnlessNative(EVENT_OBJECT_STATECHANGE, window, row);
         if (focused && row.IsRow())
             TellUnlessNative(EVENT_OBJECT_FOCUS, window, row);
-        if (!IsStillThere(window, this))
+        if (!alive.IsAlive())
             return FALSE;
     }
     return CListCtrl::OnChildNotify(message, wParam, lParam, result);

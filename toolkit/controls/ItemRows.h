@@ -9,14 +9,11 @@
 #include <list>
 #include <map>
 
+#include "frame/GraphicsScopes.h"
+#include "frame/WindowAlive.h"
+
 namespace item_rows
 {
-/// Whether the object still has the window.
-inline bool Serves(CWnd const & object, HWND window)
-{
-    return CWnd::FromHandlePermanent(window) == &object;
-}
-
 /// The row, or a negative number where none was added.
 template <typename Control> int Add(Control & control, wchar_t const * text, int data)
 {
@@ -24,7 +21,7 @@ template <typename Control> int Add(Control & control, wchar_t const * text, int
     if (window == nullptr)
         return -1;
     int const row = control.AddString(text != nullptr ? text : L"");
-    if (row >= 0 && Serves(control, window))
+    if (row >= 0 && StillHas(&control, window))
         control.SetItemData(row, static_cast<DWORD_PTR>(data));
     return row;
 }
@@ -41,7 +38,7 @@ void Fill(Control & control, std::list<CString> const & items, int firstData, bo
     auto data = static_cast<unsigned int>(firstData);
     for (CString const & text : kept)
     {
-        if (!Serves(control, window))
+        if (!StillHas(&control, window))
             return;
         Add(control, text, static_cast<int>(data++));
     }
@@ -57,11 +54,11 @@ void Fill(Control & control, std::map<int, CString> const & items, wchar_t const
         return;
     std::map<int, CString> const kept(items);
     control.ResetContent();
-    if (blankText != nullptr && !kept.contains(blank_value) && Serves(control, window))
+    if (blankText != nullptr && !kept.contains(blank_value) && StillHas(&control, window))
         Add(control, blankText, blank_value);
     for (auto const & [data, text] : kept)
     {
-        if (!Serves(control, window))
+        if (!StillHas(&control, window))
             return;
         Add(control, text, data);
     }
@@ -71,7 +68,7 @@ template <typename Control> int Find(Control & control, int data)
 {
     HWND const window = control.m_hWnd;
     int const count = window != nullptr ? control.GetCount() : 0;
-    for (int row = 0; row < count && Serves(control, window); ++row)
+    for (int row = 0; row < count && StillHas(&control, window); ++row)
     {
         if (static_cast<int>(control.GetItemData(row)) == data)
             return row;
@@ -83,7 +80,7 @@ template <typename Control> int Select(Control & control, int data)
 {
     HWND const window = control.m_hWnd;
     int const row = Find(control, data);
-    if (row >= 0 && Serves(control, window))
+    if (row >= 0 && StillHas(&control, window))
         control.SetCurSel(row);
     return row;
 }
@@ -92,22 +89,13 @@ template <typename Control> int Selected(Control & control, int defaultData)
 {
     HWND const window = control.m_hWnd;
     int const row = window != nullptr ? control.GetCurSel() : -1;
-    return row >= 0 && Serves(control, window) ? static_cast<int>(control.GetItemData(row)) : defaultData;
+    return row >= 0 && StillHas(&control, window) ? static_cast<int>(control.GetItemData(row)) : defaultData;
 }
 
 /// The width of a text in the window's font, or in the system's where it has none.
 inline int TextWidth(HWND window, CString const & text)
 {
     auto const font = reinterpret_cast<HFONT>(::SendMessage(window, WM_GETFONT, 0, 0));
-    HDC const dc = ::GetDC(window);
-    if (dc == nullptr)
-        return 0;
-    HGDIOBJ const former = font != nullptr ? ::SelectObject(dc, font) : nullptr;
-    SIZE extent{};
-    ::GetTextExtentPoint32W(dc, text, text.GetLength(), &extent);
-    if (former != nullptr)
-        ::SelectObject(dc, former);
-    ::ReleaseDC(window, dc);
-    return extent.cx;
+    return TextMeasure(window, font).Width(text);
 }
 } // namespace item_rows

@@ -7,6 +7,8 @@
 #include "colours/ControlColors.h"
 #include "controls/LumaPlatform.h"
 #include "controls/SliderLayout.h"
+#include "frame/GraphicsScopes.h"
+#include "frame/WindowAlive.h"
 #include "layout/WindowDpi.h"
 
 namespace
@@ -155,7 +157,7 @@ void CLevelSliderCtrl::DrawChannel(CDC * dc, CRect & rect)
 void CLevelSliderCtrl::DrawPart(CDC & dc, CRect const & part, bool vertical, int index, CBrush & brush, COLORREF dark,
                                 COLORREF light)
 {
-    CBrush * const former = dc.SelectObject(&brush);
+    SelectScope const selected(dc, brush.GetSafeHandle());
     GRADIENT_RECT & corners = m_gradientRects[index];
     m_vertices[corners.UpperLeft].x = part.left;
     m_vertices[corners.UpperLeft].y = part.top;
@@ -164,25 +166,24 @@ void CLevelSliderCtrl::DrawPart(CDC & dc, CRect const & part, bool vertical, int
     dc.GradientFill(m_vertices, 4, &corners, 1, vertical ? GRADIENT_FILL_RECT_H : GRADIENT_FILL_RECT_V);
     if (!part.IsRectEmpty()) // there is nothing around no part
         dc.Draw3dRect(part, dark, light);
-    dc.SelectObject(former);
 }
 
 void CLevelSliderCtrl::DrawThumb(CDC * dc, CRect & rect, bool selected)
 {
-    int const saved = dc->SaveDC();
     rect = SlimSliderThumb(rect, IsVertical(), resolution::LineWidth(1, m_dpi));
-    CPen pen(PS_SOLID, 1, m_mainDark);
-    dc->SelectObject(&pen);
-    dc->SelectObject(selected ? &m_mainLightBrush : &m_mainBrush);
-    if (selected)
     {
-        dc->SetBkColor(m_mainColor);
-        dc->SetTextColor(m_mainLight);
+        CPen pen(PS_SOLID, 1, m_mainDark);
+        ContextStateScope const saved(*dc);
+        dc->SelectObject(&pen);
+        dc->SelectObject(selected ? &m_mainLightBrush : &m_mainBrush);
+        if (selected)
+        {
+            dc->SetBkColor(m_mainColor);
+            dc->SetTextColor(m_mainLight);
+        }
+        int const rounding = resolution::Scaled(2, m_dpi);
+        dc->RoundRect(rect, CPoint(rounding, rounding));
     }
-    int const rounding = resolution::Scaled(2, m_dpi);
-    dc->RoundRect(rect, CPoint(rounding, rounding));
-    dc->RestoreDC(saved);
-    pen.DeleteObject();
     dc->Detach();
 }
 
@@ -254,11 +255,11 @@ LRESULT CLevelSliderCtrl::DefWindowProc(UINT message, WPARAM wParam, LPARAM lPar
     if (!::IsWinEventHookInstalled(EVENT_OBJECT_VALUECHANGE))
         return CSliderCtrl::DefWindowProc(message, wParam, lParam);
     // Straight to the native slider, before and after: not every one tells of its changes.
-    LifeWatch const life(m_lifeSign);
+    WindowAlive const alive(*this, m_lifeSign);
     HWND const window = m_hWnd;
     LRESULT const before = CSliderCtrl::DefWindowProc(TBM_GETPOS, 0, 0);
     LRESULT const result = CSliderCtrl::DefWindowProc(message, wParam, lParam);
-    if (!life.Over() && window != nullptr && m_hWnd == window && CSliderCtrl::DefWindowProc(TBM_GETPOS, 0, 0) != before)
+    if (alive.IsAlive() && CSliderCtrl::DefWindowProc(TBM_GETPOS, 0, 0) != before)
         TellUnlessNative(EVENT_OBJECT_VALUECHANGE, window, {});
     return result;
 }

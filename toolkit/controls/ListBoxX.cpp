@@ -4,6 +4,7 @@
 
 #include "controls/FieldWidths.h"
 #include "controls/ItemRows.h"
+#include "frame/WindowAlive.h"
 #include "layout/WindowDpi.h"
 
 BEGIN_MESSAGE_MAP(CListBoxX, CListBox)
@@ -52,7 +53,7 @@ void CListBoxX::PreSubclassWindow()
 {
     HWND const window = m_hWnd;
     CListBox::PreSubclassWindow();
-    if (!item_rows::Serves(*this, window))
+    if (!StillHas(this, window))
         return;
     EnableToolTips(TRUE);
     window_dpi::Begin(*this, m_followsDpi);
@@ -107,7 +108,7 @@ INT_PTR CListBoxX::OnToolHitTest(CPoint point, TOOLINFOW * info) const
     HWND const window = m_hWnd;
     int outside = 1;
     int const row = LbxZeileZumPunkt(point, outside);
-    if (outside != 0 || row < 0 || !item_rows::Serves(*this, window))
+    if (outside != 0 || row < 0 || !StillHas(this, window))
         return -1;
     CString text;
     GetText(row, text);
@@ -133,7 +134,7 @@ int CListBoxX::OnToolTipText(UINT, NMHDR * header, LRESULT * result)
     CString text;
     if (window != nullptr)
         GetText(static_cast<int>(header->idFrom), text);
-    if (window != nullptr && !item_rows::Serves(*this, window))
+    if (window != nullptr && !StillHas(this, window))
         return 1; // the tip may have gone with the list
     text = TipText(text);
     if (header->code == TTN_NEEDTEXTA)

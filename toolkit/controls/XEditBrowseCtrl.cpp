@@ -10,8 +10,10 @@
 #include "access/ControlTarget.h"
 #include "controls/IdNameSelection.h"
 #include "controls/SmallIcon.h"
+#include "frame/GraphicsScopes.h"
 #include "frame/RegisteredMessages.h"
 #include "frame/ToolkitResources.h"
+#include "frame/WindowAlive.h"
 #include "resource_ids.h"
 
 namespace
@@ -42,37 +44,6 @@ wchar_t const * NullIfEmpty(wchar_t const * text)
 {
     return *text != L'\0' ? text : nullptr;
 }
-
-/// Measures texts in a window's font.
-class TextMeasure
-{
-public:
-    explicit TextMeasure(CWnd const & window) : m_window(window.m_hWnd), m_dc(::GetDC(m_window))
-    {
-        auto const font = reinterpret_cast<HFONT>(::SendMessageW(m_window, WM_GETFONT, 0, 0));
-        m_former = font != nullptr ? ::SelectObject(m_dc, font) : nullptr;
-    }
-    ~TextMeasure()
-    {
-        if (m_former != nullptr)
-            ::SelectObject(m_dc, m_former);
-        ::ReleaseDC(m_window, m_dc);
-    }
-    TextMeasure(TextMeasure const &) = delete;
-    TextMeasure & operator=(TextMeasure const &) = delete;
-
-    int Width(CString const & text) const
-    {
-        SIZE size{};
-        ::GetTextExtentPoint32W(m_dc, text, text.GetLength(), &size);
-        return size.cx;
-    }
-
-private:
-    HWND m_window;
-    HDC m_dc;
-    HGDIOBJ m_former;
-};
 } // namespace
 
 IMPLEMENT_DYNAMIC(CXEditBrowseCtrl, CMFCEditBrowseCtrl)
@@ -165,11 +136,11 @@ BOOL CXEditBrowseCtrl::SetDpi(UINT dpi)
     if (dpi == m_dpi)
         return TRUE;
     m_dpi = dpi;
-    LifeWatch const life(m_life);
+    WindowAlive const alive(*this, m_life);
     m_dialog.m_control.SetDpi(dpi);
-    if (!life.Over() && m_hasImage)
+    if (alive.IsThere() && m_hasImage)
         ShowButtonImage();
-    if (!life.Over() && m_hWnd != nullptr && m_idNameMode)
+    if (alive.IsAlive() && m_idNameMode)
         UpdateSelectionText();
     return TRUE;
 }
@@ -284,10 +255,10 @@ void CXEditBrowseCtrl::UpdateSelectionText()
 {
     if (m_hWnd == nullptr)
         return;
-    LifeWatch const life(m_life);
-    // Asks the field for its font, which the host hears of.
-    TextMeasure const measure(*this);
-    if (life.Over() || m_hWnd == nullptr)
+    WindowAlive const alive(*this, m_life);
+    // The host hears of the questions for font and text.
+    auto const font = reinterpret_cast<HFONT>(SendMessage(WM_GETFONT));
+    if (!alive.IsAlive())
         return;
     CIdNameMultiselectCtrl const & control = m_dialog.m_control;
     CString text(nothing_selected);
@@ -299,6 +270,7 @@ void CXEditBrowseCtrl::UpdateSelectionText()
         {
             CRect rect;
             GetWindowRect(&rect);
+            TextMeasure const measure(m_hWnd, font);
             text = id_name::JoinedNames(
                 m_selection, [&](int id) { return control.GetName(id); },
                 [&](CString const & part) { return measure.Width(part); }, rect.Width(), m_dpi);
@@ -306,7 +278,7 @@ void CXEditBrowseCtrl::UpdateSelectionText()
     }
     CString present;
     GetWindowText(present);
-    if (!life.Over() && m_hWnd != nullptr && present != text)
+    if (alive.IsAlive() && present != text)
         SetWindowText(text);
 }
 
@@ -380,14 +352,14 @@ void CXEditBrowseCtrl::ShowFileBrowser()
     description.lpstrFile = g_fileBuffer;
     description.nMaxFile = file_buffer_length;
 
-    LifeWatch const life(m_life);
+    WindowAlive const alive(*this, m_life);
     INT_PTR const result = dialog.DoModal();
     // The system's dialog may have brought in code that sets it.
     std::setlocale(LC_NUMERIC, "C");
-    if (result != IDOK || life.Over() || m_hWnd == nullptr)
+    if (result != IDOK || !alive.IsAlive())
         return;
     SetWindowText(dialog.GetPathName());
-    if (life.Over())
+    if (!alive.IsThere())
         return;
     if (m_multiSelect)
     {

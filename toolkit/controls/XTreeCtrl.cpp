@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "frame/RegisteredMessages.h"
+#include "frame/WindowAlive.h"
 #include "layout/WindowDpi.h"
 
 namespace
@@ -796,16 +797,15 @@ void CXTreeCtrl::OnLButtonDblClk(UINT flags, CPoint point)
 {
     if (point != CPoint(-1, -1))
     {
-        LifeWatch const life(m_life);
-        HWND const window = m_hWnd;
+        WindowAlive const alive(*this, m_life);
         HTREEITEM const item = HitTest(point);
-        if (life.Over() || m_hWnd != window)
+        if (!alive.IsAlive())
             return;
         if (item != nullptr)
         {
             if (CWnd * const parent = GetParent())
                 parent->SendMessage(WM_XTREECTRL_DBLCLK, flags, reinterpret_cast<LPARAM>(item));
-            if (life.Over() || m_hWnd != window || (m_keyFlags & only_report_double_click) != 0)
+            if (!alive.IsAlive() || (m_keyFlags & only_report_double_click) != 0)
                 return;
         }
     }

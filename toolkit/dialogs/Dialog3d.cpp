@@ -7,6 +7,7 @@
 #include "dialogs/KeyGroups.h"
 #include "frame/CoreLibrary.h"
 #include "frame/ToolkitResources.h"
+#include "frame/WindowAlive.h"
 #include "resource_ids.h"
 
 BEGIN_MESSAGE_MAP(CDialog3d, CDialogEx)
@@ -189,12 +190,6 @@ bool CDialog3d::OpenInitially()
     return open;
 }
 
-// Anything that sends a message may run the host's code, which may destroy the window or delete the object.
-bool CDialog3d::Serves(HWND window) const
-{
-    return FromHandlePermanent(window) == this;
-}
-
 void CDialog3d::PreSubclassWindow()
 {
     CDialogEx::PreSubclassWindow();
@@ -228,9 +223,9 @@ int CDialog3d::OnCreate(LPCREATESTRUCT createStruct)
 BOOL CDialog3d::OnInitDialog()
 {
     CResourceModuleScope const scope(m_module.hModule);
-    HWND const window = m_hWnd;
+    WindowAlive const alive(*this, m_life);
     BOOL const result = CDialogEx::OnInitDialog();
-    if (!Serves(window))
+    if (!alive.IsAlive())
         return result;
 
     // Again: a window system may drop a layered style that was set while the window was being created.
@@ -240,7 +235,7 @@ BOOL CDialog3d::OnInitDialog()
     if (m_hIcon == nullptr)
         SelectIcon(ICON_STANDARD);
     SendMessage(WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(m_hIcon));
-    if (!Serves(window))
+    if (!alive.IsAlive())
         return result;
 
     bool const resizing = m_paneChild || (GetStyle() & WS_THICKFRAME) != 0;
@@ -259,7 +254,7 @@ BOOL CDialog3d::OnInitDialog()
         {
             CString caption;
             GetWindowText(caption);
-            if (!Serves(window))
+            if (!alive.IsAlive())
                 return result;
             m_fenster.WhoAmI(caption);
         }
@@ -270,7 +265,7 @@ BOOL CDialog3d::OnInitDialog()
     {
         CString const title = m_dialogTitle; // a handler may set another one
         SetWindowText(title);
-        if (!Serves(window))
+        if (!alive.IsAlive())
             return result;
     }
 
@@ -278,12 +273,12 @@ BOOL CDialog3d::OnInitDialog()
     {
         m_fenster.PreferedPosition(this);
         m_fenster.ReadMyPosition(this);
-        if (!Serves(window))
+        if (!alive.IsAlive())
             return result;
         if (resizing)
         {
             m_sizeGrip.Create(this);
-            if (!Serves(window))
+            if (!alive.IsAlive())
                 return result;
         }
     }
@@ -397,16 +392,16 @@ void CDialog3d::OnTimer(UINT_PTR id)
         KillTimer(fade_timer);
         return;
     }
-    HWND const window = m_hWnd;
+    WindowAlive const alive(*this, m_life);
     DurchsichtigkeitSetzen(*alpha);
-    if (Serves(window))
+    if (alive.IsAlive())
         CDialogEx::OnTimer(id);
 }
 
 // Hosts expect that activation does not end a fade: its next tick goes on from opaque.
 void CDialog3d::OnActivate(UINT state, CWnd * other, BOOL minimized)
 {
-    HWND const window = m_hWnd;
+    WindowAlive const alive(*this, m_life);
     if (m_inactiveAlpha < CDialogFade::opaque)
     {
         if (state == WA_INACTIVE)
@@ -414,7 +409,7 @@ void CDialog3d::OnActivate(UINT state, CWnd * other, BOOL minimized)
         else
             DurchsichtigkeitSetzen(CDialogFade::opaque);
     }
-    if (Serves(window))
+    if (alive.IsAlive())
         CDialogEx::OnActivate(state, other, minimized);
 }
 

@@ -206,7 +206,6 @@ protected:
 
 private:
     void KeepPlace(LPRECT proposed) const;
-    bool Serves(HWND window) const;
 
     AFX_EXTENSION_MODULE m_module;
     unsigned int m_dialogId;

@@ -4,6 +4,7 @@
 
 #include "dialogs/KeyGroups.h"
 #include "frame/ToolkitResources.h"
+#include "frame/WindowAlive.h"
 #include "resource_ids.h"
 
 namespace
@@ -93,7 +94,7 @@ void CDialog3d::SetGrabAndMove(bool enable)
 
 void CDialog3d::OnLButtonDown(UINT flags, CPoint point)
 {
-    HWND const window = m_hWnd;
+    WindowAlive const alive(*this, m_life);
     if (m_drag.StartsWith(flags, g_touchFreeze))
     {
         CPoint mouse = point;
@@ -104,13 +105,13 @@ void CDialog3d::OnLButtonDown(UINT flags, CPoint point)
         m_drag.Start(mouse, placement.rcNormalPosition);
         SetCapture();
     }
-    if (Serves(window))
+    if (alive.IsAlive())
         CDialogEx::OnLButtonDown(flags, point);
 }
 
 void CDialog3d::OnMouseMove(UINT flags, CPoint point)
 {
-    HWND const window = m_hWnd;
+    WindowAlive const alive(*this, m_life);
     if (m_drag.Runs())
     {
         CPoint mouse = point;
@@ -118,16 +119,16 @@ void CDialog3d::OnMouseMove(UINT flags, CPoint point)
         CPoint const corner = m_drag.MoveTo(mouse);
         SetWindowPos(nullptr, corner.x, corner.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
     }
-    if (Serves(window))
+    if (alive.IsAlive())
         CDialogEx::OnMouseMove(flags, point);
 }
 
 void CDialog3d::OnLButtonUp(UINT flags, CPoint point)
 {
-    HWND const window = m_hWnd;
+    WindowAlive const alive(*this, m_life);
     if (m_drag.End())
         ::ReleaseCapture();
-    if (Serves(window))
+    if (alive.IsAlive())
         CDialogEx::OnLButtonUp(flags, point);
 }
 

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+#include "frame/WindowAlive.h"
+
 BEGIN_MESSAGE_MAP(CDialog3d::CSizeGrip, CScrollBar)
     ON_WM_NCHITTEST()
 END_MESSAGE_MAP()
@@ -93,9 +95,9 @@ void CDialog3d::D3dLayoutComplete(CDialogResizer::resize_dims_t dims)
         return;
     }
     m_resizeDims = dims;
-    HWND const window = m_hWnd;
+    WindowAlive const alive(*this, m_life);
     FensterpositionLaden();
-    if (Serves(window))
+    if (alive.IsAlive())
         D3dLayoutTouch();
 }
 
@@ -121,15 +123,15 @@ void CDialog3d::OnGetMinMaxInfo(MINMAXINFO * info)
 
 void CDialog3d::OnSize(UINT type, int cx, int cy)
 {
-    HWND const window = m_hWnd;
+    WindowAlive const alive(*this, m_life);
     CDialogEx::OnSize(type, cx, cy);
     if (m_resizeDims == CDialogResizer::RESIZE_NONE)
         return;
     m_resizer->OnSize();
-    if (!Serves(window))
+    if (!alive.IsAlive())
         return;
     m_sizeGrip.Place();
-    if (Serves(window))
+    if (alive.IsAlive())
         Invalidate(TRUE);
 }
 

@@ -1,6 +1,7 @@
 #include "dialogs/PropertyPage3d.h"
 
 #include "frame/CoreLibrary.h"
+#include "frame/WindowAlive.h"
 
 IMPLEMENT_DYNAMIC(CPropertyPage3d, CMFCPropertyPage)
 
@@ -62,7 +63,7 @@ BOOL CPropertyPage3d::OnInitDialog()
     HWND const window = m_hWnd;
     CMFCPropertyPage::OnInitDialog();
     // The host may have ended the page or deleted the object.
-    if (FromHandlePermanent(window) == this && m_resizer == nullptr)
+    if (StillHas(this, window) && m_resizer == nullptr)
         m_resizer = std::make_unique<CDialogResizer>(*this, CString());
     return TRUE;
 }
@@ -77,10 +78,10 @@ void CPropertyPage3d::OnSize(UINT type, int cx, int cy)
 {
     HWND const window = m_hWnd;
     CMFCPropertyPage::OnSize(type, cx, cy);
-    if (FromHandlePermanent(window) != this || m_resizer == nullptr)
+    if (!StillHas(this, window) || m_resizer == nullptr)
         return;
     m_resizer->OnSize();
-    if (FromHandlePermanent(window) == this)
+    if (StillHas(this, window))
         Invalidate(TRUE);
 }
 

@@ -6,6 +6,7 @@
 
 #include "dialogs/PropertyPage3d.h"
 #include "dialogs/TabRows.h"
+#include "frame/WindowAlive.h"
 
 namespace
 {
@@ -101,12 +102,6 @@ void CPropertySheet3d::SetResizable(bool resizable)
     m_resizable = resizable;
 }
 
-// Anything that sends a message may run the host's code, which may destroy the window or delete the object.
-bool CPropertySheet3d::Serves(HWND window) const
-{
-    return FromHandlePermanent(window) == this;
-}
-
 int CPropertySheet3d::OnCreate(LPCREATESTRUCT createStruct)
 {
     if (CMFCPropertySheet::OnCreate(createStruct) == -1)
@@ -126,15 +121,14 @@ BOOL CPropertySheet3d::OnInitDialog()
         throw std::runtime_error(no_pages_text);
     }
 
-    HWND const window = m_hWnd;
-    LifeWatch const life(m_life);
+    WindowAlive const alive(*this, m_life);
     // With this flag the framework keeps the buttons, which it hides on other sheets that are not modal.
     m_psh.dwFlags |= PSH_WIZARD;
     BOOL const result = CMFCPropertySheet::OnInitDialog();
-    if (life.Over())
+    if (!alive.IsThere())
         return result;
     m_psh.dwFlags &= ~static_cast<DWORD>(PSH_WIZARD);
-    if (!Serves(window))
+    if (!alive.IsAlive())
         return result;
 
     if (m_dialogTitle.IsEmpty())
@@ -146,7 +140,7 @@ BOOL CPropertySheet3d::OnInitDialog()
         CString const title = m_dialogTitle; // a handler may set another one
         SetWindowText(title);
     }
-    if (!Serves(window))
+    if (!alive.IsAlive())
         return result;
 
     // Before any stored position is applied: the present size is the design size.
@@ -157,7 +151,7 @@ BOOL CPropertySheet3d::OnInitDialog()
     for (int const id : {ok_button, cancel_button, apply_button})
         D3dLayoutChild(id, CEdges::BOTTOM_RIGHT(), nullptr);
     D3dLayoutComplete();
-    if (!Serves(window))
+    if (!alive.IsAlive())
         return result;
 
     CTabCtrl const * const tabs = GetTabControl();
@@ -201,46 +195,46 @@ BOOL CPropertySheet3d::OnCommand(WPARAM wParam, LPARAM lParam)
 
 LRESULT CPropertySheet3d::OnResizePage(WPARAM, LPARAM)
 {
-    HWND const window = m_hWnd;
+    WindowAlive const alive(*this, m_life);
     if (m_resizer == nullptr)
         return 0;
     // Each of the calls sends messages, in which the host may end the sheet.
     CPropertyPage * const page = GetActivePage();
-    if (!Serves(window) || m_resizer == nullptr)
+    if (!alive.IsAlive() || m_resizer == nullptr)
         return 0;
     D3dLayoutChild(page, CEdges::TOP_LEFT_BOTTOM_RIGHT(), &m_pageRect);
-    if (Serves(window) && m_resizer != nullptr)
+    if (alive.IsAlive() && m_resizer != nullptr)
         D3dLayoutComplete();
     return 0;
 }
 
 void CPropertySheet3d::OnSize(UINT type, int cx, int cy)
 {
-    HWND const window = m_hWnd;
+    WindowAlive const alive(*this, m_life);
     CMFCPropertySheet::OnSize(type, cx, cy);
-    if (!Serves(window) || m_resizer == nullptr)
+    if (!alive.IsAlive() || m_resizer == nullptr)
         return;
     m_resizer->OnSize();
-    if (!Serves(window))
+    if (!alive.IsAlive())
         return;
     CTabCtrl * const tabs = GetTabControl();
-    if (tabs == nullptr || !Serves(window))
+    if (tabs == nullptr || !alive.IsAlive())
         return;
     FollowTabRows(*tabs);
-    if (Serves(window))
+    if (alive.IsAlive())
         Invalidate(TRUE);
 }
 
 void CPropertySheet3d::FollowTabRows(CTabCtrl & tabs)
 {
-    HWND const window = m_hWnd;
+    WindowAlive const alive(*this, m_life);
     int const rows = tabs.GetRowCount();
-    if (!Serves(window) || rows == m_tabRows)
+    if (!alive.IsAlive() || rows == m_tabRows)
         return;
     CRect tab(0, 0, 0, 0);
     tabs.GetItemRect(0, &tab);
-    CPropertyPage const * const page = Serves(window) ? GetActivePage() : nullptr;
-    if (page == nullptr || !Serves(window) || m_resizer == nullptr)
+    CPropertyPage const * const page = alive.IsAlive() ? GetActivePage() : nullptr;
+    if (page == nullptr || !alive.IsAlive() || m_resizer == nullptr)
         return;
     TabRows::Change const change = TabRows::ChangeOfRows(m_tabRows, rows, tab);
     m_resizer->RepositionChild(page, &change.offset, &change.growth, false);

@@ -79,7 +79,6 @@ protected:
 private:
     CPropertySheet3d(unsigned int captionId, CWnd * parent, unsigned int selectPage);
 
-    bool Serves(HWND window) const;
     void SavePosition();
     void FollowTabRows(CTabCtrl & tabs);
 

@@ -128,6 +128,41 @@ private:
     COLORREF m_former;
 };
 
+/// Measures texts on a window's context, by its handle. To be held over no message: the context ends with the window.
+class TextMeasure
+{
+public:
+    /// font: null for the context's own.
+    TextMeasure(HWND window, HGDIOBJ font)
+        : m_window(window),
+          m_dc(::GetDC(window)),
+          m_former(m_dc != nullptr && font != nullptr ? ::SelectObject(m_dc, font) : nullptr)
+    {
+    }
+    ~TextMeasure()
+    {
+        if (m_former != nullptr)
+            ::SelectObject(m_dc, m_former);
+        if (m_dc != nullptr)
+            ::ReleaseDC(m_window, m_dc);
+    }
+    TextMeasure(TextMeasure const &) = delete;
+    TextMeasure & operator=(TextMeasure const &) = delete;
+
+    /// 0 without a window.
+    int Width(CString const & text) const
+    {
+        SIZE size{};
+        ::GetTextExtentPoint32W(m_dc, text, text.GetLength(), &size);
+        return size.cx;
+    }
+
+private:
+    HWND m_window;
+    HDC m_dc;
+    HGDIOBJ m_former;
+};
+
 /// The context of a window's client area; null if there is none.
 class ClientContext
 {

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "colours/ControlColors.h"
+#include "frame/GraphicsScopes.h"
 #include "frame/InternalMessages.h"
 #include "layout/Resolution.h"
 
@@ -142,10 +143,10 @@ void CXEdit::OnPaint()
     CRect area;
     GetClientRect(&area);
     area.right += resolution::Scaled(frame_widening, m_dpi);
-    if (CDC * const dc = GetDC())
     {
-        dc->FillSolidRect(&area, control_colors::Of(m_hWnd).window);
-        ReleaseDC(dc);
+        ClientContext const context(*this);
+        if (CDC * const dc = context.Get())
+            dc->FillSolidRect(&area, control_colors::Of(m_hWnd).window);
     }
     Default();
     // The list has been asked for colours, and its host may have ended it or the edit.
@@ -156,7 +157,10 @@ void CXEdit::OnPaint()
 void CXEdit::PaintFrame()
 {
     CWnd * const parent = GetParent();
-    CDC * const dc = parent != nullptr ? parent->GetDC() : nullptr;
+    if (parent == nullptr)
+        return;
+    ClientContext const context(*parent);
+    CDC * const dc = context.Get();
     if (dc == nullptr)
         return;
     CRect area;
@@ -166,12 +170,9 @@ void CXEdit::PaintFrame()
     int const width = resolution::LineWidth(1, m_dpi);
     area.InflateRect(width, width, 0, width);
     CPen pen(width == 1 ? PS_SOLID : PS_INSIDEFRAME, width, control_colors::Of(m_hWnd).editFrame);
-    CPen * const formerPen = dc->SelectObject(&pen);
-    CGdiObject * const formerBrush = dc->SelectStockObject(HOLLOW_BRUSH);
+    SelectScope const penScope(*dc, pen.GetSafeHandle());
+    SelectScope const brushScope(*dc, ::GetStockObject(HOLLOW_BRUSH));
     dc->Rectangle(&area);
-    dc->SelectObject(static_cast<CBrush *>(formerBrush));
-    dc->SelectObject(formerPen);
-    parent->ReleaseDC(dc);
 }
 
 void CXEdit::SendClosing(UINT message)

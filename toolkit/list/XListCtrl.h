@@ -512,6 +512,8 @@ private:
     void Repaint(HeldRow & held, int col);
     /// Gives the columns the fitted widths of the work array, the preferred one the first width before.
     void SetNativeWidths(int preferred, int firstWidth);
+    /// What the user has made of a cell: it is marked as modified, painted anew, and the parent told with the message.
+    void TakeUserChange(XLISTCTRLDATA & cell, int row, int col, unsigned int message);
     /// Gives the cell of a host's own kind what a press or a key made of it.
     void ChangeByKind(int row, int col, CXListCellKind::Change const & change);
     /// Offers a press or a key to the host's kind of a cell; whether it took it. The list may be gone then.

@@ -153,13 +153,8 @@ LRESULT CXListCtrl::OnXEditKillFocus(WPARAM, LPARAM)
     if (!watch.IsAlive() || text == before)
         return 0;
     // The cell that stands there now, whichever row that is.
-    XLISTCTRLDATA * const cell = ValidCell(row, col);
-    if (cell == nullptr)
-        return 0;
-    cell->properties |= XLP_MODIFIED;
-    m_listModified = true;
-    UpdateSubItem(row, col);
-    OnItemStateChange(row, col, WM_XLISTCTRL_EDIT_END);
+    if (XLISTCTRLDATA * const cell = ValidCell(row, col))
+        TakeUserChange(*cell, row, col, WM_XLISTCTRL_EDIT_END);
     return 0;
 }
 
@@ -313,16 +308,15 @@ void CXListCtrl::TakeComboChoice()
         CListCtrl::SetItemText(row, col, text);
         if (!watch.IsAlive())
             return;
-        UpdateSubItem(row, col);
         // The cell that stands there now: the host has heard of the text.
         XLISTCTRLDATA * const cell = ValidCell(row, col);
         if (cell != nullptr && cell->comboCurrentId != id)
         {
-            m_listModified = true;
             cell->comboCurrentId = id;
-            cell->properties |= XLP_MODIFIED;
-            OnItemStateChange(row, col, WM_XLISTCTRL_COMBO_SELECTION);
+            TakeUserChange(*cell, row, col, WM_XLISTCTRL_COMBO_SELECTION);
         }
+        else
+            UpdateSubItem(row, col);
     }
     // Another one that the host has opened meanwhile stays.
     if (watch.IsAlive() && m_editors->comboOpenings == opening)

@@ -65,6 +65,14 @@ void CXListCtrl::OnItemStateChange(int row, int col, unsigned int message)
         PostToParent(message, Word(row), static_cast<LPARAM>(Word(col)));
 }
 
+void CXListCtrl::TakeUserChange(XLISTCTRLDATA & cell, int row, int col, unsigned int message)
+{
+    cell.properties |= XLP_MODIFIED;
+    m_listModified = true;
+    UpdateSubItem(row, col);
+    OnItemStateChange(row, col, message);
+}
+
 // --- Mouse ---
 
 void CXListCtrl::OnLButtonDown(UINT, CPoint point)
@@ -170,10 +178,7 @@ void CXListCtrl::ChangeByKind(int row, int col, CXListCellKind::Change const & c
     XLISTCTRLDATA * const cell = place >= 0 ? held.Cell(col) : nullptr;
     if (cell == nullptr)
         return;
-    cell->properties |= XLP_MODIFIED;
-    m_listModified = true;
-    UpdateSubItem(place, col);
-    OnItemStateChange(place, col, change.message);
+    TakeUserChange(*cell, place, col, change.message);
 }
 
 bool CXListCtrl::OfferPress(int row, int col, CPoint point)

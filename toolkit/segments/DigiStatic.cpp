@@ -6,6 +6,8 @@
 #include <memory>
 
 #include "access/ControlTarget.h"
+#include "frame/GraphicsScopes.h"
+#include "frame/WindowAlive.h"
 #include "segments/DigiColors.h"
 #include "segments/DigiLine.h"
 
@@ -22,27 +24,6 @@ struct CSegmentTools
     CPen pen;
     CBrush brush;
 };
-
-/// Has an object selected for the life of this one, whatever is selected in the meantime.
-template <typename Object> class CSelectionScope
-{
-public:
-    CSelectionScope(CDC & dc, Object & object) : m_dc(dc), m_former(dc.SelectObject(&object)) {}
-    ~CSelectionScope() { m_dc.SelectObject(m_former); }
-    CSelectionScope(CSelectionScope const &) = delete;
-    CSelectionScope & operator=(CSelectionScope const &) = delete;
-
-private:
-    CDC & m_dc;
-    Object * m_former;
-};
-
-/// Whether the object still has the window. Anything that sends a message may run the host's code, which may have
-/// destroyed the window or deleted the object.
-bool Serves(CWnd const * object, HWND window)
-{
-    return CWnd::FromHandlePermanent(window) == object;
-}
 } // namespace
 
 IMPLEMENT_DYNAMIC(CDigiStatic, CStatic)
@@ -186,13 +167,13 @@ void CDigiStatic::SetDrawImmediately(bool immediately)
 
 void CDigiStatic::DoInvalidate()
 {
-    HWND const window = GetSafeHwnd();
-    if (window == nullptr)
+    if (GetSafeHwnd() == nullptr)
         return;
     if (m_transparent)
     {
+        WindowAlive const alive(*this, m_life);
         SetWindowRgn(nullptr, TRUE);
-        if (!Serves(this, window))
+        if (!alive.IsAlive())
             return;
     }
     if (m_drawImmediately)
@@ -208,10 +189,10 @@ void CDigiStatic::BuildString()
     if (m_text == window_text_wanted)
     {
         // Asking sends messages, which may set another text meanwhile.
-        HWND const window = m_hWnd;
+        WindowAlive const alive(*this, m_life);
         CString text;
         GetWindowText(text);
-        if (!Serves(this, window))
+        if (!alive.IsAlive())
             return;
         m_text = text;
     }
@@ -222,11 +203,11 @@ void CDigiStatic::BuildString()
 
 void CDigiStatic::OnPaint()
 {
-    HWND const window = m_hWnd;
+    WindowAlive const alive(*this, m_life);
     CRect client;
     GetClientRect(client);
     CPaintDC dc(this); // sends messages as well
-    if (!Serves(this, window))
+    if (!alive.IsAlive())
         return;
     dc.SetBkColor(m_backColor);
     if ((m_digiStyle & DigiStyleButtonRect) != 0)
@@ -238,7 +219,7 @@ void CDigiStatic::OnPaint()
     CDC & buffer = memory.GetDC();
     buffer.FillSolidRect(client, m_backColor);
     BuildString();
-    if (!Serves(this, window))
+    if (!alive.IsAlive())
         return;
 
     DigiStatic::CLinePlace const place =
@@ -246,8 +227,8 @@ void CDigiStatic::OnPaint()
     bool const soft = (m_digiStyle & DigiStyleSoftPen) != 0;
     CSegmentTools off(soft ? DigiStatic::SoftPenColor(m_offColor, m_backColor) : m_offColor, m_offColor);
     CSegmentTools on(soft ? DigiStatic::SoftPenColor(m_onColor, m_backColor) : m_onColor, m_onColor);
-    CSelectionScope<CBrush> const brushScope(buffer, on.brush);
-    CSelectionScope<CPen> const penScope(buffer, off.pen);
+    SelectScope const brushScope(buffer, on.brush.GetSafeHandle());
+    SelectScope const penScope(buffer, off.pen.GetSafeHandle());
     CRgn shape;
     double left = place.left;
     for (INT_PTR i = 0; i < m_chars.GetSize(); ++i)

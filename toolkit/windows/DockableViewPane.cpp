@@ -1,7 +1,7 @@
 #include "windows/DockableViewPane.h"
 
+#include "frame/WindowAlive.h"
 #include "windows/MainFrmInterface.h"
-#include "windows/WindowHold.h"
 
 IMPLEMENT_DYNCREATE(CDockableViewPane, CDockablePane)
 
@@ -27,7 +27,7 @@ bool HoldsView(CWnd const & pane, CView const * view)
 {
     for (HWND child = ::GetWindow(pane.m_hWnd, GW_CHILD); child != nullptr; child = ::GetWindow(child, GW_HWNDNEXT))
     {
-        if (CWnd::FromHandlePermanent(child) == view)
+        if (StillHas(view, child))
             return true;
     }
     return false;
@@ -50,7 +50,7 @@ bool CDockableViewPane::Connect(CView & view, wchar_t const * title)
     HWND const mainWindow = main != nullptr ? main->m_hWnd : nullptr;
     CreateOwnWindow();
     // The pane is the main frame's, which the creation may have ended.
-    if (mainWindow != nullptr && CWnd::FromHandlePermanent(mainWindow) != main)
+    if (mainWindow != nullptr && !StillHas(main, mainWindow))
         return false;
     WindowHold const hold(*this);
     if (!view.Create(nullptr, nullptr, view_style, CRect(0, 0, 0, 0), this, AFX_IDW_PANE_FIRST, nullptr))

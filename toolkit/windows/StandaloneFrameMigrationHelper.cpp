@@ -1,9 +1,9 @@
 #include "windows/StandaloneFrameMigrationHelper.h"
 
+#include "frame/WindowAlive.h"
 #include "windows/FensterManager.h"
 #include "windows/MainFrmInterface.h"
 #include "windows/StandaloneFrameWnd.h"
-#include "windows/WindowHold.h"
 
 namespace
 {
@@ -51,7 +51,7 @@ CView * CStandaloneFrameMigrationHelper::CreatePane(wchar_t const * name, int & 
         if (!mainHold.Lost() && !paneHold.Lost())
             taken->ShowPane(open, FALSE, open);
     }
-    if (mainHold.Lost() || (viewWindow != nullptr && CWnd::FromHandlePermanent(viewWindow) != connected))
+    if (mainHold.Lost() || (viewWindow != nullptr && !StillHas(connected, viewWindow)))
         return nullptr;
     return taken->View();
 }

@@ -5,9 +5,9 @@
 
 #include "frame/CoreLibrary.h"
 #include "frame/ToolkitModule.h"
+#include "frame/WindowAlive.h"
 #include "resource_ids.h"
 #include "windows/FrameGrid.h"
-#include "windows/WindowHold.h"
 
 IMPLEMENT_DYNCREATE(CStandaloneFrameWnd, CMDIChildWndEx)
 
@@ -160,7 +160,7 @@ void CStandaloneFrameWnd::FensterWeg()
     if (!::IsWindow(window))
         return;
     ::SetWindowLongW(window, GWL_STYLE, style);
-    if (CWnd::FromHandlePermanent(window) == frame)
+    if (StillHas(frame, window))
         frame->OnUpdateFrameTitle(1);
 }
 

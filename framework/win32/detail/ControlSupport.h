@@ -3,6 +3,8 @@
 
 #include <afxwin.h>
 
+#include <initializer_list>
+
 namespace framework
 {
 /// Registers the window classes of the common controls; classes: ICC_ flags.
@@ -14,8 +16,9 @@ BOOL CreateControl(CWnd & control, DWORD classes, LPCTSTR className, LPCTSTR tex
 BOOL CreateControlEx(CWnd & control, DWORD classes, DWORD exStyle, LPCTSTR className, LPCTSTR text, DWORD style,
                      RECT const & rect, CWnd * parent, UINT id);
 
-/// Takes a thread's image list object out of a control before the control ends, so that the object stays the owner.
-void ReleaseImages(HWND control, UINT getMessage, UINT setMessage, int kind);
+/// Takes a thread's image list objects out of a control before the control ends, so that the objects stay the owners.
+/// The messages can run the host's code: false if that has ended the control.
+bool ReleaseImages(CWnd const & control, UINT getMessage, UINT setMessage, std::initializer_list<int> kinds);
 
 /// Collects a text of unknown length: read fills a buffer of so many characters and is asked again with a larger
 /// one while it fills the buffer.

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "../clipboard_ClipboardTest.h"
+#include "DrawingScopes.h"
 #include "frame/RegisteredMessages.h"
 #include "Input.h"
 #include "logic/ReadableColours.h"
@@ -503,8 +504,8 @@ TEST_F(RecordingListTest, TheReferencesNameFitsInBold)
     m_list.SetReference(0);
     m_list.ShowReference();
     CClientDC dc(&m_list);
-    workbench::SelectScope const font(dc, m_metrics.BoldFont());
-    LONG const needed = dc.GetTextExtent(m_list.GetItemText(0, CRecordingList::column_name)).cx;
+    workbench::FontScope const font(dc, m_metrics.BoldFont());
+    auto const needed = dc.GetTextExtent(m_list.GetItemText(0, CRecordingList::column_name)).cx;
     EXPECT_GE(m_list.GetColumnWidth(CRecordingList::column_name), needed + 2 * m_list.GetCellPadding());
 }
 
@@ -520,8 +521,8 @@ TEST_F(RecordingListTest, TheReferencesNameFitsInBoldAtAnotherResolution)
     list.SetReference(0);
     list.ShowReference();
     CClientDC dc(&list);
-    workbench::SelectScope const font(dc, metrics.BoldFont());
-    LONG const needed = dc.GetTextExtent(list.GetItemText(0, CRecordingList::column_name)).cx;
+    workbench::FontScope const font(dc, metrics.BoldFont());
+    auto const needed = dc.GetTextExtent(list.GetItemText(0, CRecordingList::column_name)).cx;
     EXPECT_GE(list.GetColumnWidth(CRecordingList::column_name), needed + 2 * metrics.Scaled(5)); // with its padding
 }
 

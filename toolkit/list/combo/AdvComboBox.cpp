@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cwchar>
 
+#include "frame/GraphicsScopes.h"
 #include "layout/WindowDpi.h"
 #include "list/combo/AdvComboBoxWatch.h"
 #include "list/combo/AdvComboEdit.h"
@@ -506,8 +507,8 @@ void CAdvComboBox::ModifyComboFlags(DWORD remove, DWORD add)
 int CAdvComboBox::GetLongestItemWidth()
 {
     CClientDC dc(this);
-    CFont * const font = GetComboFont();
-    HGDIOBJ const previous = font != nullptr ? ::SelectObject(dc, font->GetSafeHandle()) : nullptr;
+    CFont const * const font = GetComboFont();
+    SelectScope const selected(dc, font != nullptr ? font->GetSafeHandle() : nullptr);
     TEXTMETRIC metrics = {};
     ::GetTextMetrics(dc, &metrics);
     int longest = 0;
@@ -517,8 +518,6 @@ int CAdvComboBox::GetLongestItemWidth()
         ::GetTextExtentPoint32W(dc, m_iter->text.c_str(), static_cast<int>(m_iter->text.size()), &size);
         longest = std::max(longest, static_cast<int>(size.cx + metrics.tmAveCharWidth));
     }
-    if (previous != nullptr)
-        ::SelectObject(dc, previous);
     return longest + window_dpi::Metric(SM_CXVSCROLL, m_dpi) + 2 * window_dpi::Metric(SM_CXEDGE, m_dpi) +
            Scaled(longest_item_margin, m_dpi);
 }

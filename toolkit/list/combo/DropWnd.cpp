@@ -223,13 +223,14 @@ void CDropWnd::OnPaint()
     CRect client;
     GetClientRect(client);
 
-    // What lies between list, scroll bar, grip and frame.
-    int const saved = dc.SaveDC();
-    for (CRect const & covered : {m_rcList, m_rcScroll, m_rcGrip})
-        dc.ExcludeClipRect(covered);
     ControlColors const colors = control_colors::Of(m_combo->m_hWnd);
-    dc.FillSolidRect(client, colors.face);
-    dc.RestoreDC(saved);
+    {
+        // What lies between list, scroll bar, grip and frame.
+        ContextStateScope const saved(dc);
+        for (CRect const & covered : {m_rcList, m_rcScroll, m_rcGrip})
+            dc.ExcludeClipRect(covered);
+        dc.FillSolidRect(client, colors.face);
+    }
     DrawFrame(dc);
 
     if (colors.adapts)

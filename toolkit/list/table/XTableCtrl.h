@@ -53,7 +53,7 @@ public:
     /// Without it, or where it gives nothing, that is the reason that the column's check gave, or one in the words of
     /// the module. Where the row is no more, the edit has ended.
     std::function<std::wstring(TableRow, unsigned int, TableRefused const &)> m_onEditRefused;
-    /// An export to a file has ended: whether the file is whole.
+    /// An export to a file has ended: whether there is the whole file.
     std::function<void(bool)> m_onExportEnd;
 
     /// A table from a dialog template must have LVS_REPORT and LVS_OWNERDATA; here both are added.
@@ -145,13 +145,14 @@ public:
     /// The selection, or all rows shown, with the columns shown. As text it goes to the clipboard together with the
     /// table in HTML.
     bool CopyRows(TableForm form, bool selectionOnly, bool titles);
-    /// Writes a file in UTF-8 beside the window; false if one is being written already.
+    /// Writes a file in UTF-8 beside the window; false if one is being written already. A former file of that name is
+    /// as it was until the new one is whole, and stays if that cannot be.
     bool ExportRows(std::wstring const & path, TableForm form, bool selectionOnly);
     /// Whether a file is being written.
     bool IsExporting() const;
     /// Per mille.
     int ExportProgress() const;
-    /// Ends it and takes the file away.
+    /// Ends it, without a new file.
     void StopExport();
     /// Puts what the clipboard has into cells, from the one with the focus on.
     TablePasteReport PasteBlock();

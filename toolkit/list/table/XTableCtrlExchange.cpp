@@ -1,15 +1,14 @@
-#include <filesystem>
-#include <fstream>
 #include <utility>
 
 #include "clipboard/Clipboard.h"
 #include "clipboard/HtmlBlock.h"
 #include "list/table/TableCopy.h"
+#include "list/table/TableFile.h"
 #include "list/table/XTableCtrlState.h"
 
 namespace
 {
-constexpr char byte_order_mark[] = "\xEF\xBB\xBF";
+constexpr std::string_view byte_order_mark = "\xEF\xBB\xBF";
 
 std::vector<TableRow> RowsOf(TableModel const & model, bool selectionOnly)
 {
@@ -30,16 +29,15 @@ std::vector<TableRow> RowsOf(TableModel const & model, bool selectionOnly)
 bool WriteFile(std::wstring const & path, TableWriter & writer, TableAccess & access,
                std::vector<TableRow> const & rows)
 {
-    std::ofstream file(std::filesystem::path(path), std::ios::binary | std::ios::trunc);
-    file.write(byte_order_mark, sizeof(byte_order_mark) - 1);
+    TableFile file(path);
+    if (!file.Write(byte_order_mark))
+        return false;
     std::string bytes;
     bool const written = WriteTable(writer, access, rows, true, [&file, &bytes](std::wstring_view piece) {
         bytes.resize(piece.size() * Utf8::longest_character);
-        file.write(bytes.data(), static_cast<std::streamsize>(Utf8::Encode(piece, bytes)));
-        return file.good();
+        return file.Write({bytes.data(), Utf8::Encode(piece, bytes)});
     });
-    file.close();
-    return written && file.good() && !access.Ended();
+    return written && !access.Ended() && file.Finish();
 }
 } // namespace
 
@@ -85,11 +83,6 @@ bool CXTableCtrl::ExportRows(std::wstring const & path, TableForm form, bool sel
             TableWriter writer(form, looks, columns);
             TableAccess access(source, work->progress);
             whole = WriteFile(path, writer, access, rows);
-            if (!whole)
-            {
-                std::error_code ignored;
-                std::filesystem::remove(std::filesystem::path(path), ignored);
-            }
         }
         catch (...)
         {

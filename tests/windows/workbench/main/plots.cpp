@@ -12,6 +12,7 @@
 
 #include "../../../logic/workbench_WavBuilder.h"
 #include "Bitmap.h"
+#include "DrawingScopes.h"
 #include "Graphics.h"
 #include "PictureCopy.h"
 #include "Playing.h"
@@ -289,7 +290,7 @@ TEST_F(WaveformPlot, TakesTheSlidersRoomInANarrowPanel)
     int narrow = metrics.X(25);
     {
         CClientDC dc(&panel);
-        workbench::SelectScope const font(dc, metrics.Font());
+        workbench::FontScope const font(dc, metrics.Font());
         workbench::PlotMargins const margins(dc, metrics);
         narrow += margins.left + margins.right;
     }
