@@ -60,9 +60,6 @@ void table_threads::Run(std::function<void()> work)
 
 CXTableCtrl::CXTableCtrl() : m_state(std::make_shared<State>())
 {
-    m_state->linkCell.MakeLink();
-    m_state->barCell.MakeProgress();
-    m_state->barCell.progressShowText = true;
     m_state->look.palette = control_colors::Of(ControlColorSet::standard);
     TableLooks looks;
     looks.locale = SystemLocale();

@@ -5,13 +5,13 @@
 #include <oleacc.h>
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 #include "access/ControlTarget.h"
 #include "access/ListTarget.h"
 #include "frame/WindowAlive.h"
 #include "list/CellKind.h"
+#include "list/table/ValueCell.h"
 
 using accessible::Element;
 
@@ -139,26 +139,7 @@ XLISTCTRLDATA const * CXTableCtrl::AccessRows::Cell(int row, int col) const
     bool const typed = m_table.IsTyped(column);
     TableValue value;
     state->model.Read(static_cast<TableRow>(row), column, value);
-    m_cell.properties = XLP_ENABLED;
-    m_cell.checkedState = XLC_NONE;
-    switch (value.Kind())
-    {
-    case TableKind::link:
-        m_cell.properties |= XLP_LINK;
-        return &m_cell;
-    case TableKind::tick:
-        m_cell.checkedState = value.Whole() != 0 ? XLC_CHECKED : XLC_UNCHECKED;
-        return &m_cell;
-    case TableKind::progress:
-        m_cell.properties |= XLP_PROGRESS;
-        m_cell.progressValue =
-            std::isfinite(value.Number()) ? static_cast<int>(std::clamp(value.Number(), 0.0, 100.0)) : 0;
-        break;
-    default:
-        break;
-    }
-    if (typed)
-        m_cell.properties |= XLP_EDIT;
+    MakeCellOf(value, typed, m_cell);
     return &m_cell;
 }
 

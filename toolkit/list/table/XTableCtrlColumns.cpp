@@ -7,6 +7,7 @@
 #include "frame/PreferenceStore.h"
 #include "layout/WindowDpi.h"
 #include "list/table/TableHeaderPaint.h"
+#include "list/table/ValueCell.h"
 
 namespace
 {
@@ -20,19 +21,16 @@ constexpr int no_value = -1;
 
 int FormatOf(TableColumn const & column)
 {
-    switch (column.align)
+    switch (AlignmentOf(column, column.kind))
     {
-    case TableAlign::centre:
+    case CellAlign::left:
+        break;
+    case CellAlign::centre:
         return HDF_CENTER;
-    case TableAlign::right:
+    case CellAlign::right:
         return HDF_RIGHT;
-    case TableAlign::by_kind:
-        if (column.kind == TableKind::whole || column.kind == TableKind::floating)
-            return HDF_RIGHT;
-        return column.kind == TableKind::time ? HDF_CENTER : HDF_LEFT;
-    default:
-        return HDF_LEFT;
     }
+    return HDF_LEFT;
 }
 
 std::wstring KeyOf(std::wstring const & table, TableColumn const & column)

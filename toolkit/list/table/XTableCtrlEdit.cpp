@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "frame/OwnTexts.h"
+#include "list/table/ValueCell.h"
 
 namespace
 {
@@ -21,11 +22,19 @@ constexpr int reason_width = 300;
 
 DWORD EditAlignment(TableColumn const & column)
 {
-    if (column.align == TableAlign::right)
+    // Times, in the middle otherwise, are typed from the left.
+    if (column.align == TableAlign::by_kind && column.kind == TableKind::time)
+        return ES_LEFT;
+    switch (AlignmentOf(column, column.kind))
+    {
+    case CellAlign::left:
+        break;
+    case CellAlign::centre:
+        return ES_CENTER;
+    case CellAlign::right:
         return ES_RIGHT;
-    if (column.align == TableAlign::by_kind && (column.kind == TableKind::whole || column.kind == TableKind::floating))
-        return ES_RIGHT;
-    return column.align == TableAlign::centre ? ES_CENTER : ES_LEFT;
+    }
+    return ES_LEFT;
 }
 
 /// What the user is told where nobody else says anything.

@@ -5,14 +5,10 @@
 
 #include "frame/GraphicsScopes.h"
 #include "list/CheckMarks.h"
+#include "list/table/ValueCell.h"
 
 namespace
 {
-bool IsNumber(TableKind kind)
-{
-    return kind == TableKind::whole || kind == TableKind::floating;
-}
-
 /// Whether cells of the column may end at different distances from their decimal sign.
 bool HasDifferentTails(TableColumn const & column)
 {
@@ -22,22 +18,18 @@ bool HasDifferentTails(TableColumn const & column)
            (column.kind == TableKind::floating && column.format.style != NumberStyle::fixed);
 }
 
-UINT AlignmentOf(TableColumn const & column, TableKind kind)
+UINT TextFormatOf(CellAlign align)
 {
-    switch (column.align)
+    switch (align)
     {
-    case TableAlign::left:
-        return DT_LEFT;
-    case TableAlign::centre:
-        return DT_CENTER;
-    case TableAlign::right:
-        return DT_RIGHT;
-    case TableAlign::by_kind:
+    case CellAlign::left:
         break;
-    }
-    if (IsNumber(kind))
+    case CellAlign::centre:
+        return DT_CENTER;
+    case CellAlign::right:
         return DT_RIGHT;
-    return kind == TableKind::time ? DT_CENTER : DT_LEFT;
+    }
+    return DT_LEFT;
 }
 
 /// The ground of selected rows without the focus: the system's, unless nobody would see it.
@@ -252,30 +244,12 @@ void CXTableCtrl::PaintRowCell(CDC & dc, TableRow row, unsigned int index, CRect
     TableKind const kind = state.value.Kind();
     std::size_t const sign = ShowValue(state.text, state.value, *described, state.model.Looks().locale);
 
-    XLISTCTRLDATA * cell = &state.textCell;
-    COLORREF text = state.look.palette.windowText;
-    COLORREF background = state.look.palette.window;
-    switch (kind)
-    {
-    case TableKind::link:
-        cell = &state.linkCell;
-        text = state.look.palette.link;
-        break;
-    case TableKind::tick:
-        cell = &state.tickCell;
-        if (int const wanted = state.value.Whole() != 0 ? XLC_CHECKED : XLC_UNCHECKED; cell->checkedState != wanted)
-            cell->MakeCheck(wanted);
+    MakeCellOf(state.value, false, state.cell);
+    COLORREF text = kind == TableKind::link ? state.look.palette.link : state.look.palette.windowText;
+    COLORREF background = kind == TableKind::progress ? state.look.palette.tableBar : state.look.palette.window;
+    // Of a tick the mark is shown alone.
+    if (kind == TableKind::tick)
         state.text.clear();
-        break;
-    case TableKind::progress:
-        cell = &state.barCell;
-        cell->progressValue =
-            std::isfinite(state.value.Number()) ? static_cast<int>(std::clamp(state.value.Number(), 0.0, 100.0)) : 0;
-        background = state.look.palette.tableBar;
-        break;
-    default:
-        break;
-    }
     LifeWatch const life(m_lifeSign);
     COLORREF const usual[] = {text, background};
     GetCellColors(row, column, text, background);
@@ -295,8 +269,8 @@ void CXTableCtrl::PaintRowCell(CDC & dc, TableRow row, unsigned int index, CRect
             background = InactiveSelection(state.look.palette);
         }
     }
-    CellPaint paint{dc, *cell, rect, text, background};
-    state.look.alignment = AlignmentOf(*described, kind);
+    CellPaint paint{dc, state.cell, rect, text, background};
+    state.look.alignment = TextFormatOf(AlignmentOf(*described, kind));
     if (IsNumber(kind) && state.edges[index].tail >= 0)
     {
         CSize size(0, 0);

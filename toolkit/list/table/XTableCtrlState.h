@@ -112,7 +112,6 @@ struct CXTableCtrl::State
         int right = 0;
         /// The widest part behind the decimal sign among the cells seen; negative where it does not matter.
         int tail = -1;
-        UINT alignment = DT_LEFT;
     };
     /// For the length of one paint.
     std::vector<Edges> edges;
@@ -122,10 +121,8 @@ struct CXTableCtrl::State
     TableRow focusRow = no_table_row;
     TableRow topPosition = 0;
     CRect topRect;
-    XLISTCTRLDATA textCell;
-    XLISTCTRLDATA linkCell;
-    XLISTCTRLDATA tickCell;
-    XLISTCTRLDATA barCell;
+    /// That is being painted.
+    XLISTCTRLDATA cell;
     TableValue value;
     std::wstring text;
     unsigned long long repaints = 0;
