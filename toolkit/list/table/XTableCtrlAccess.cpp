@@ -9,7 +9,6 @@
 
 #include "access/ControlTarget.h"
 #include "access/ListTarget.h"
-#include "frame/WindowAlive.h"
 #include "list/CellKind.h"
 #include "list/table/ValueCell.h"
 
@@ -22,7 +21,7 @@ using accessible::Element;
 class CXTableCtrl::AccessRows final : public AccessibleList
 {
 public:
-    explicit AccessRows(CXTableCtrl & table) : m_alive(table, table.m_lifeSign), m_table(table) {}
+    explicit AccessRows(CXTableCtrl & table) : m_alive(table), m_table(table) {}
 
     /// Null once it has ended, or its window has.
     CXTableCtrl * Table() const { return m_alive.IsAlive() ? &m_table : nullptr; }
@@ -124,7 +123,7 @@ public:
     }
 
 private:
-    WindowAlive m_alive;
+    Watch m_alive;
     CXTableCtrl & m_table;
     /// What the cell would be in a report list.
     mutable XLISTCTRLDATA m_cell;
@@ -351,8 +350,7 @@ void CXTableCtrl::TellNews()
 {
     auto const state = m_state;
     TableNews const news = std::exchange(state->news, {});
-    HWND const window = m_hWnd;
-    LifeWatch const life(m_lifeSign);
+    Watch const watch(*this);
     AccessRows const rows(*this);
     std::vector<std::pair<DWORD, Element>> events;
     // The table stands for what has moved since.
@@ -394,6 +392,6 @@ void CXTableCtrl::TellNews()
     }
     // A listener within the process may end the table.
     for (auto const & [event, element] : events)
-        if (!life.Over() && m_hWnd == window)
-            TellOfEvent(event, window, element);
+        if (watch.IsAlive())
+            TellOfEvent(event, m_hWnd, element);
 }

@@ -122,12 +122,12 @@ void CXTableCtrl::MeasureDecimals(CDC & dc, TableRow first, TableRow last)
 
 void CXTableCtrl::OnPaint()
 {
-    LifeWatch const life(m_lifeSign);
+    Watch const watch(*this);
     ++m_state->repaints;
     PrepareLook();
     ++m_state->painting;
     Default();
-    if (life.Over())
+    if (!watch.IsThere())
         return;
     m_state->edges.clear();
     --m_state->painting;
@@ -169,7 +169,7 @@ void CXTableCtrl::PaintRow(CDC & dc, TableRow position)
     // What stands above the top row is erased, so a native list that shows a strip of the row there must not paint it.
     if (position < state.topPosition || state.edges.empty())
         return;
-    LifeWatch const life(m_lifeSign);
+    Watch const watch(*this);
     int const height = state.topRect.Height();
     int const top = state.topRect.top + static_cast<int>(position - state.topPosition) * height;
     TableRow const row = state.model.RowAt(position);
@@ -187,7 +187,7 @@ void CXTableCtrl::PaintRow(CDC & dc, TableRow position)
             if (rect.right <= std::max<LONG>(clip.left, state.frozenRight) || rect.left >= clip.right)
                 continue;
             PaintRowCell(dc, row, static_cast<unsigned int>(i), rect, selected);
-            if (life.Over() || state.edges.size() != count)
+            if (!watch.IsThere() || state.edges.size() != count)
                 return;
         }
     }
@@ -195,7 +195,7 @@ void CXTableCtrl::PaintRow(CDC & dc, TableRow position)
     {
         PaintRowCell(dc, row, static_cast<unsigned int>(i),
                      CRect(state.edges[i].left, top, state.edges[i].right, top + height), selected);
-        if (life.Over() || state.edges.size() != count)
+        if (!watch.IsThere() || state.edges.size() != count)
             return;
     }
     if (row != no_table_row && row == state.focusRow && state.focused)
@@ -250,10 +250,10 @@ void CXTableCtrl::PaintRowCell(CDC & dc, TableRow row, unsigned int index, CRect
     // Of a tick the mark is shown alone.
     if (kind == TableKind::tick)
         state.text.clear();
-    LifeWatch const life(m_lifeSign);
+    Watch const watch(*this);
     COLORREF const usual[] = {text, background};
     GetCellColors(row, column, text, background);
-    if (life.Over() || index >= state.edges.size())
+    if (!watch.IsThere() || index >= state.edges.size())
         return;
     if (state.look.palette.adapts && text == usual[0] && background != usual[1])
         text = control_colors::TextOn(background, text, state.look.palette.window);
@@ -363,9 +363,9 @@ BOOL CXTableCtrl::OnGetDispInfo(NMHDR * header, LRESULT * result)
 
 void CXTableCtrl::OnSysColorChange()
 {
-    LifeWatch const life(m_lifeSign);
+    Watch const watch(*this);
     CListCtrl::OnSysColorChange();
-    if (life.Over())
+    if (!watch.IsThere())
         return;
     m_state->look.palette = control_colors::Of(ControlColorSet::standard);
     m_state->FollowSet(m_hWnd);

@@ -5,6 +5,7 @@
 
 #include <atomic>
 
+#include "frame/WindowAlive.h"
 #include "layout/Resolution.h"
 #include "list/CellPainters.h"
 #include "list/RowHeight.h"
@@ -14,6 +15,13 @@
 #include "list/table/TableNews.h"
 #include "list/table/TablePace.h"
 #include "list/table/XTableEdit.h"
+
+/// Tells whether the table, and the window that it had, are still there.
+class CXTableCtrl::Watch : public WindowAlive
+{
+public:
+    explicit Watch(CXTableCtrl const & table) : WindowAlive(table, table.m_lifeSign) {}
+};
 
 /// Posts to the window from any thread; to none once that is gone.
 class CXTableCtrl::Waker : public TableWaker
