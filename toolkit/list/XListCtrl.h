@@ -557,6 +557,7 @@ private:
     /// texts do.
     void FollowColumns(UINT message, int col);
     void FillMovedFirstColumn(CDC & dc, CRect const & row);
+    class PaintedParts;
     void DrawSubItem(NMLVCUSTOMDRAW & draw, LRESULT * result);
     /// Whether the row stands above the first one that shows.
     bool IsAboveTop(int row);
