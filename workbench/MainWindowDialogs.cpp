@@ -23,7 +23,7 @@
 #include "controls/IdNameMultiselectDlg.h"
 #include "logic/Amplification.h"
 #include "logic/SafeFile.h"
-#include "logic/TableText.h"
+#include "logic/TextTable.h"
 #include "logic/Texts.h"
 #include "logic/TrashTexts.h"
 #include "logic/WriteTexts.h"

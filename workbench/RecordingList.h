@@ -24,7 +24,7 @@
 #include "logic/RecordingFilter.h"
 #include "logic/RecordingNotes.h"
 #include "logic/RecordingTotals.h"
-#include "logic/TableText.h"
+#include "logic/TextTable.h"
 
 class CRecordingOverview;
 

@@ -10,7 +10,7 @@
 
 #include "logic/Axis.h"
 #include "logic/CursorReading.h"
-#include "logic/TableText.h"
+#include "logic/TextTable.h"
 #include "logic/TextFormat.h"
 
 namespace

@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <utility>
 
-#include "logic/TableText.h"
+#include "logic/TextTable.h"
 #include "logic/TextFormat.h"
 #include "logic/Texts.h"
 

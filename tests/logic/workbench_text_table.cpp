@@ -1,6 +1,6 @@
 // Tables as plain text and as HTML.
 
-#include "logic/TableText.h"
+#include "logic/TextTable.h"
 
 #include <gtest/gtest.h>
 
