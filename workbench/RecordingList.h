@@ -23,7 +23,7 @@
 #include "logic/RecordingFilter.h"
 #include "logic/RecordingNotes.h"
 #include "logic/RecordingTotals.h"
-#include "logic/TableText.h"
+#include "logic/TextTable.h"
 #include "ScreenMetrics.h"
 #include "StarRating.h"
 

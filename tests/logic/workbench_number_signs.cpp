@@ -9,8 +9,8 @@
 #include "logic/Axis.h"
 #include "logic/CursorReading.h"
 #include "logic/NumberSigns.h"
-#include "logic/TableText.h"
 #include "logic/TextFormat.h"
+#include "logic/TextTable.h"
 
 namespace
 {

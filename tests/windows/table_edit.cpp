@@ -418,6 +418,25 @@ TEST_F(TableEdits, TheTableMayEndWithAnEdit)
     EXPECT_FALSE(table->IsEditing());
 }
 
+TEST_F(TableEdits, AMessageOfAnEndedWindowIsNotForTheNextOne)
+{
+    Show(std::vector<double>(100, 1.0));
+    std::vector<TableColumn> columns = Columns();
+    columns[TableRowsSource::name_column].check = [this](TableValue const &) {
+        table->DestroyWindow();
+        table->Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 380, 220), parent, 7);
+        return std::wstring();
+    };
+    table->SetColumns(columns);
+    HWND const former = table->m_hWnd;
+    ASSERT_TRUE(table->EditCell(0, TableRowsSource::name_column));
+    SetText(L"typed");
+    table->SendMessage(WM_VSCROLL, SB_PAGEDOWN, 0);
+    EXPECT_FALSE(::IsWindow(former));
+    ASSERT_NE(table->m_hWnd, nullptr);
+    EXPECT_EQ(table->GetTopIndex(), 0);
+}
+
 /// Does something within each notification of some native code.
 class NotifiedParent : public tests::ScopedWindow
 {

@@ -201,9 +201,15 @@ Role RoleOf(XLISTCTRLDATA const & cell)
         return Role::text;
     case CellKind::link:
         return Role::link;
-    default:
-        return Role::cell;
+    case CellKind::text:
+    case CellKind::check:
+    case CellKind::radio:
+    case CellKind::combo:
+    case CellKind::progress:
+    case CellKind::custom:
+        break;
     }
+    return Role::cell;
 }
 
 wchar_t const * ActionOf(XLISTCTRLDATA const & cell)

@@ -194,8 +194,7 @@ void CXListCtrl::TellOfCell(int row, int col)
     HWND const window = m_hWnd;
     XLISTCTRLDATA const * const cell =
         ::IsWinEventHookInstalled(EVENT_OBJECT_STATECHANGE) ? ValidCell(row, col) : nullptr;
-    CellKind const kind = cell != nullptr ? PaintedKind(*cell) : CellKind::text;
-    if (col < 0 || kind == CellKind::check || kind == CellKind::radio)
+    if (col < 0 || (cell != nullptr && ShowsState(PaintedKind(*cell))))
         TellOfEvent(EVENT_OBJECT_STATECHANGE, window, {row, col});
     if (col >= 0)
         TellOfEvent(EVENT_OBJECT_VALUECHANGE, window, {row, col});

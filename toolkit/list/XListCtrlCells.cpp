@@ -72,6 +72,31 @@ int CXListCtrl::Items::FindObject(XLISTCTRLROW const & object) const
     return m_list.FindItem(&wanted);
 }
 
+unsigned int CXListCtrl::Items::IdOf(int row) const
+{
+    return static_cast<unsigned int>(m_list.AskNative(LVM_MAPINDEXTOID, static_cast<WPARAM>(row), 0));
+}
+
+bool CXListCtrl::Items::Delete(int row)
+{
+    Watch const watch(m_list);
+    m_list.m_rows->ownChange = true;
+    BOOL const deleted = m_list.CListCtrl::DeleteItem(row);
+    if (watch.IsThere())
+        m_list.m_rows->ownChange = false;
+    return deleted != FALSE;
+}
+
+bool CXListCtrl::Items::DeleteAll()
+{
+    Watch const watch(m_list);
+    m_list.m_rows->ownChange = true;
+    BOOL const deleted = m_list.CListCtrl::DeleteAllItems();
+    if (watch.IsThere())
+        m_list.m_rows->ownChange = false;
+    return deleted != FALSE;
+}
+
 void CXListCtrl::Items::TellOfCheck(int row, int col)
 {
     m_list.OnItemStateChange(row, col, WM_XLISTCTRL_CHECKBOX_CLICKED);

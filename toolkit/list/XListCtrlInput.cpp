@@ -136,7 +136,7 @@ void CXListCtrl::PressCell(int row, int col, CPoint point, bool asInput)
             pass();
         return;
     }
-    switch (cell != nullptr ? DecideAdmittedPress(*cell) : CellPress::select_only)
+    switch (cell != nullptr ? m_rows->model.PressCell(held, col) : CellPress::select_only)
     {
     case CellPress::open_combo:
         pass();
@@ -154,11 +154,7 @@ void CXListCtrl::PressCell(int row, int col, CPoint point, bool asInput)
             OnItemStateChange(place, col, WM_XLISTCTRL_LINK_CLICKED);
         return;
     case CellPress::flip_check:
-        m_rows->model.FlipCheck(held, col);
-        break;
     case CellPress::switch_radio_on:
-        m_rows->model.SwitchRadioOn(held, col);
-        break;
     case CellPress::ignored:
     case CellPress::select_only:
         break;

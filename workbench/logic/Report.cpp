@@ -4,9 +4,9 @@
 #include <cstddef>
 #include <utility>
 
-#include "logic/TableText.h"
 #include "logic/TextFormat.h"
 #include "logic/Texts.h"
+#include "logic/TextTable.h"
 
 namespace workbench
 {

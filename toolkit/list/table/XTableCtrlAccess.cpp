@@ -3,13 +3,12 @@
 #include <oleacc.h>
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 #include "access/ControlTarget.h"
 #include "access/ListTarget.h"
-#include "frame/WindowAlive.h"
 #include "list/CellKind.h"
+#include "list/table/ValueCell.h"
 #include "list/table/XTableCtrlState.h"
 
 using accessible::Element;
@@ -21,7 +20,7 @@ using accessible::Element;
 class CXTableCtrl::AccessRows final : public AccessibleList
 {
 public:
-    explicit AccessRows(CXTableCtrl & table) : m_alive(table, table.m_lifeSign), m_table(table) {}
+    explicit AccessRows(CXTableCtrl & table) : m_alive(table), m_table(table) {}
 
     /// Null once it has ended, or its window has.
     CXTableCtrl * Table() const { return m_alive.IsAlive() ? &m_table : nullptr; }
@@ -123,7 +122,7 @@ public:
     }
 
 private:
-    WindowAlive m_alive;
+    Watch m_alive;
     CXTableCtrl & m_table;
     /// What the cell would be in a report list.
     mutable XLISTCTRLDATA m_cell;
@@ -138,26 +137,7 @@ XLISTCTRLDATA const * CXTableCtrl::AccessRows::Cell(int row, int col) const
     bool const typed = m_table.IsTyped(column);
     TableValue value;
     state->model.Read(static_cast<TableRow>(row), column, value);
-    m_cell.properties = XLP_ENABLED;
-    m_cell.checkedState = XLC_NONE;
-    switch (value.Kind())
-    {
-    case TableKind::link:
-        m_cell.properties |= XLP_LINK;
-        return &m_cell;
-    case TableKind::tick:
-        m_cell.checkedState = value.Whole() != 0 ? XLC_CHECKED : XLC_UNCHECKED;
-        return &m_cell;
-    case TableKind::progress:
-        m_cell.properties |= XLP_PROGRESS;
-        m_cell.progressValue =
-            std::isfinite(value.Number()) ? static_cast<int>(std::clamp(value.Number(), 0.0, 100.0)) : 0;
-        break;
-    default:
-        break;
-    }
-    if (typed)
-        m_cell.properties |= XLP_EDIT;
+    MakeCellOf(value, typed, m_cell);
     return &m_cell;
 }
 
@@ -369,8 +349,7 @@ void CXTableCtrl::TellNews()
 {
     auto const state = m_state;
     TableNews const news = std::exchange(state->news, {});
-    HWND const window = m_hWnd;
-    LifeWatch const life(m_lifeSign);
+    Watch const watch(*this);
     AccessRows const rows(*this);
     std::vector<std::pair<DWORD, Element>> events;
     // The table stands for what has moved since.
@@ -412,6 +391,6 @@ void CXTableCtrl::TellNews()
     }
     // A listener within the process may end the table.
     for (auto const & [event, element] : events)
-        if (!life.Over() && m_hWnd == window)
-            TellOfEvent(event, window, element);
+        if (watch.IsAlive())
+            TellOfEvent(event, m_hWnd, element);
 }

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "frame/OwnTexts.h"
+#include "list/table/ValueCell.h"
 #include "list/table/XTableCtrlState.h"
 
 namespace
@@ -20,11 +21,19 @@ constexpr int reason_width = 300;
 
 DWORD EditAlignment(TableColumn const & column)
 {
-    if (column.align == TableAlign::right)
+    // Times, in the middle otherwise, are typed from the left.
+    if (column.align == TableAlign::by_kind && column.kind == TableKind::time)
+        return ES_LEFT;
+    switch (AlignmentOf(column, column.kind))
+    {
+    case CellAlign::left:
+        break;
+    case CellAlign::centre:
+        return ES_CENTER;
+    case CellAlign::right:
         return ES_RIGHT;
-    if (column.align == TableAlign::by_kind && (column.kind == TableKind::whole || column.kind == TableKind::floating))
-        return ES_RIGHT;
-    return column.align == TableAlign::centre ? ES_CENTER : ES_LEFT;
+    }
+    return ES_LEFT;
 }
 
 /// What the user is told where nobody else says anything.
@@ -95,8 +104,8 @@ bool CXTableCtrl::OpenEdit(TableRow row, unsigned int column, wchar_t const * ty
 {
     auto const kept = m_state;
     State & state = *kept;
-    LifeWatch const life(m_lifeSign);
-    auto const mayGoOn = [&] { return !life.Over() && m_hWnd != nullptr && state.painting == 0; };
+    Watch const watch(*this);
+    auto const mayGoOn = [&] { return watch.IsAlive() && state.painting == 0; };
     if (!TakeEdit())
     {
         // The refused text comes first.
@@ -182,7 +191,7 @@ bool CXTableCtrl::TakeEdit()
         return true;
     }
 
-    LifeWatch const life(m_lifeSign);
+    Watch const watch(*this);
     // No second time within what is called here.
     editing->taking = true;
     TableRefused refused{0, 0, TableRefusal::not_readable, text, {}};
@@ -196,7 +205,7 @@ bool CXTableCtrl::TakeEdit()
         refused.reason = column.check(value);
         taken = refused.reason.empty();
     }
-    if (life.Over())
+    if (!watch.IsThere())
         return true;
     std::shared_ptr<TableSource> const source = editing->source.lock();
     TableRow const row = source && source == state.model.Source() ? source->RowOfKey(editing->key) : no_table_row;
@@ -213,7 +222,7 @@ bool CXTableCtrl::TakeEdit()
         if (taken)
             feed->RowsChanged(row, row);
     }
-    if (life.Over())
+    if (!watch.IsThere())
         return true;
     if (taken)
         NoteValue(state.model.FocusRow() == row ? state.model.FocusPosition() : state.model.PositionOf(row),
@@ -225,30 +234,30 @@ bool CXTableCtrl::TakeEdit()
     if (taken)
     {
         CloseEdit();
-        if (!life.Over() && m_hWnd != nullptr)
+        if (watch.IsAlive())
             UpdateNow();
         return true;
     }
     RefuseEdit(editing, refused, row);
-    return life.Over() || state.editing == nullptr;
+    return !watch.IsThere() || state.editing == nullptr;
 }
 
 /// The edit stays, and the user learns why; without its row it goes.
 void CXTableCtrl::RefuseEdit(std::shared_ptr<TableEditing> const & editing, TableRefused const & refused, TableRow row)
 {
-    LifeWatch const life(m_lifeSign);
+    Watch const watch(*this);
     bool const stays = refused.refusal != TableRefusal::no_such_row && refused.refusal != TableRefusal::not_editable;
     if (stays)
         editing->window->StayOpen();
     else
         CloseEdit();
-    if (life.Over())
+    if (!watch.IsThere())
         return;
     std::wstring reason = refused.reason;
     auto const callback = m_onEditRefused;
     if (callback)
         reason = callback(row, editing->column, refused);
-    if (!life.Over() && m_state->editing == editing)
+    if (watch.IsThere() && m_state->editing == editing)
         ShowReason(reason.empty() ? OwnReason(refused, m_state->Column(editing->column)) : std::move(reason));
 }
 
@@ -334,15 +343,15 @@ void CXTableCtrl::PlaceEdit()
     TableRow const row = source && source == state.model.Source() ? source->RowOfKey(editing->key) : no_table_row;
     TableRow const position = row == no_table_row ? TableModel::nowhere : state.model.PositionOf(row);
     CRect place;
-    LifeWatch const life(m_lifeSign);
+    Watch const watch(*this);
     bool const placed = position != TableModel::nowhere && editing->window->m_hWnd != nullptr &&
                         CellRect(position, editing->column, place);
     // Measuring a row, the native list may ask for it, of which the host hears.
-    if (life.Over() || m_hWnd == nullptr || state.editing != editing)
+    if (!watch.IsAlive() || state.editing != editing)
         return;
     if (!placed || editing->window->m_hWnd == nullptr)
     {
-        if (!TakeEdit() && !life.Over())
+        if (!TakeEdit() && watch.IsThere())
             CloseEdit();
         return;
     }
@@ -401,8 +410,8 @@ LRESULT CXTableCtrl::OnEditEnds(WPARAM, LPARAM)
     // Losing the focus leads nowhere.
     bool const byKey = editing->window->m_hWnd != nullptr && ::GetFocus() == editing->window->m_hWnd;
     CXTableEdit::Way const way = byKey ? editing->window->LastWay() : CXTableEdit::Way::stay;
-    LifeWatch const life(m_lifeSign);
-    if (TakeEdit() && !life.Over() && m_hWnd != nullptr && way != CXTableEdit::Way::stay)
+    Watch const watch(*this);
+    if (TakeEdit() && watch.IsAlive() && way != CXTableEdit::Way::stay)
         EditNext(editing->key, editing->column, way == CXTableEdit::Way::forth);
     return 0;
 }

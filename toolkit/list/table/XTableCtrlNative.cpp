@@ -17,10 +17,10 @@ LRESULT CXTableCtrl::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     if (AsksForControl(message, lParam))
         if (LRESULT const answer = AnswerGetObject(wParam); answer != 0)
             return answer;
-    LifeWatch const life(m_lifeSign);
+    Watch const watch(*this);
     ++m_state->native;
     LRESULT const result = CListCtrl::DefWindowProc(message, wParam, lParam);
-    if (!life.Over())
+    if (watch.IsThere())
         EndNative();
     return result;
 }
@@ -67,9 +67,9 @@ CRect CXTableCtrl::RowRect(TableRow position) const
 /// The native list tells the host of its scrolling. False if the table is gone.
 bool CXTableCtrl::BringIntoView(TableRow position)
 {
-    LifeWatch const life(m_lifeSign);
+    Watch const watch(*this);
     AskNative(LVM_ENSUREVISIBLE, position, FALSE);
-    if (life.Over() || m_hWnd == nullptr)
+    if (!watch.IsAlive())
         return false;
     WishEditPlace();
     return true;
@@ -78,9 +78,9 @@ bool CXTableCtrl::BringIntoView(TableRow position)
 /// The same to the right, or to the left, by so many pixels.
 bool CXTableCtrl::ScrollSideways(int pixels)
 {
-    LifeWatch const life(m_lifeSign);
+    Watch const watch(*this);
     AskNative(LVM_SCROLL, static_cast<WPARAM>(pixels), 0);
-    if (life.Over() || m_hWnd == nullptr)
+    if (!watch.IsAlive())
         return false;
     // What stands still was moved along with the rest.
     if (m_state->layout.Frozen() != 0)

@@ -1,4 +1,4 @@
-#include "TableText.h"
+#include "TextTable.h"
 
 #include <algorithm>
 #include <cstddef>

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <random>
 
-#include "logic/TableText.h"
+#include "logic/TextTable.h"
 
 namespace
 {
