@@ -40,8 +40,10 @@ public:
     int FindObject(XLISTCTRLROW const & object) const override
     {
         for (std::size_t row = 0; row < items.size(); ++row)
+        {
             if (items[row].parameter == &object)
                 return static_cast<int>(row);
+        }
         return -1;
     }
     unsigned int IdOf(int row) const override { return items[static_cast<std::size_t>(row)].id; }

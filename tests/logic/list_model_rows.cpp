@@ -57,8 +57,10 @@ protected:
     {
         std::set<XLISTCTRLROW const *> objects;
         for (ItemTable::Item const & item : m_items.items)
+        {
             if (m_model.pool.Owns(item.parameter))
                 objects.insert(item.parameter);
+        }
         return objects.size() == m_items.items.size() && m_model.pool.used() == objects.size();
     }
 

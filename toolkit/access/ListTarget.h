@@ -26,14 +26,14 @@ public:
     }
     std::optional<CRect> RectOf(accessible::Element element) override
     {
-        auto rect = accessible::RectOf(Rows(), element);
+        std::optional<CRect> rect = accessible::RectOf(Rows(), element);
         if (rect && IsThere())
             ::MapWindowPoints(Window(), nullptr, reinterpret_cast<POINT *>(&*rect), 2);
         return rect;
     }
     accessible::Description Describe(accessible::Element element) override
     {
-        auto described = accessible::Describe(Rows(), element);
+        accessible::Description described = accessible::Describe(Rows(), element);
         if (element.IsControl() && IsThere())
             described.name = Name();
         return described;

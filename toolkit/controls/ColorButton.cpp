@@ -91,8 +91,10 @@ void CColorButton::DrawItem(LPDRAWITEMSTRUCT item)
     {
         dc->FillSolidRect(area, colors.face);
         if (m_drawFrame)
+        {
             dc->Draw3dRect(area, pressed ? colors.edgeShadow : colors.edgeDark,
                            pressed ? colors.edgeDark : colors.edgeShadow);
+        }
     }
     else if (m_drawFrame)
         dc->DrawFrameControl(area, DFC_BUTTON, DFCS_BUTTONPUSH | (pressed ? DFCS_PUSHED : 0));
@@ -146,8 +148,10 @@ void CColorButton::DrawAdaptedCaption(CDC & dc, CRect const & area, CString cons
                    : look == ButtonLook::hot    ? m_hotFgColor
                                                 : m_fgColor;
     if (look == ButtonLook::disabled)
+    {
         ink = control_colors::MarkOn(ground, colors.buttonDisabled,
                                      control_colors::TextOn(ground, colors.buttonText, colors.window));
+    }
     else if (ink == m_colorTable[ButtonText])
         ink = control_colors::TextOn(ground, colors.buttonText, colors.window);
     CPoint const origin = ButtonCaptionOrigin(area, dc.GetTextExtent(text), pressed);

@@ -356,8 +356,10 @@ void PaintCheckBox(CDC & dc, CRect const & box, int state, bool enabled, Control
     if (state == XLC_CHECKED)
         check_marks::DrawTick(dc, box, enabled ? palette.checkMark : palette.disabled, dpi);
     else if (state == XLC_CROSSED)
+    {
         check_marks::DrawCross(dc, box, check_marks::cross_inset_cell, enabled ? palette.crossMark : palette.disabled,
                                dpi);
+    }
 }
 
 void PaintRadioBox(CDC & dc, CRect const & box, int state, bool enabled, ControlColors const & palette, UINT dpi)

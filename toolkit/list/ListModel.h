@@ -185,7 +185,7 @@ public:
     {
         if (memory.AreRowsKnown())
         {
-            for (auto const & row : pool.InUse())
+            for (std::unique_ptr<XLISTCTRLROW> const & row : pool.InUse())
                 visit(*row);
             return;
         }

@@ -249,7 +249,7 @@ std::vector<XLISTCTRLROW *> CXListCtrl::RowsFromTop() const
         return rows;
     // Whatever else hangs from an item is not to be touched.
     std::vector<XLISTCTRLROW const *> own;
-    for (auto const & row : m_rows->model.pool.All())
+    for (std::unique_ptr<XLISTCTRLROW> const & row : m_rows->model.pool.All())
     {
         if (row != nullptr)
             own.push_back(row.get());

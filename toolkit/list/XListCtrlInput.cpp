@@ -91,7 +91,7 @@ void CXListCtrl::OnLButtonDown(UINT, CPoint point)
         pass();
         return;
     }
-    auto const place = GetItem(point);
+    std::pair<int, int> const place = GetItem(point);
     auto const [row, col] = place;
     if (!IsCell(place))
     {
@@ -179,12 +179,12 @@ void CXListCtrl::ChangeByKind(int row, int col, CXListCellKind::Change const & c
 
 bool CXListCtrl::OfferPress(int row, int col, CPoint point)
 {
-    auto const kind = GetCellKind(row, col);
+    std::shared_ptr<CXListCellKind> const kind = GetCellKind(row, col);
     CRect rect;
     if (kind == nullptr || !GetSubItemRect(row, col, LVIR_BOUNDS, rect))
         return false;
     Watch const watch(*this);
-    auto const change = kind->Press(*ValidCell(row, col), rect, point);
+    std::optional<CXListCellKind::Change> const change = kind->Press(*ValidCell(row, col), rect, point);
     if (!watch.IsUnchanged())
         return true;
     if (change)
@@ -201,10 +201,10 @@ bool CXListCtrl::OfferKey(UINT key)
     Watch const watch(*this);
     for (int col = 0; col < m_columnCount; ++col)
     {
-        auto const kind = GetCellKind(row, col);
+        std::shared_ptr<CXListCellKind> const kind = GetCellKind(row, col);
         if (kind == nullptr || !GetEnabled(row, col))
             continue;
-        auto const change = kind->Key(*ValidCell(row, col), key);
+        std::optional<CXListCellKind::Change> const change = kind->Key(*ValidCell(row, col), key);
         if (!watch.IsUnchanged())
             return true;
         if (change)
@@ -220,7 +220,7 @@ void CXListCtrl::OnLButtonDblClk(UINT flags, CPoint point)
 {
     if (GetDisplayStyle() == LVS_REPORT)
     {
-        auto const place = GetItem(point);
+        std::pair<int, int> const place = GetItem(point);
         auto const [row, col] = place;
         if (IsCell(place))
         {
@@ -319,7 +319,7 @@ void CXListCtrl::OnContextMenu(CWnd * window, CPoint point)
     bool const byKey = point == CPoint(-1, -1) && m_cursor->FindMenuPlace(point);
     CPoint inside = point;
     ScreenToClient(&inside);
-    auto const place = byKey ? m_cursor->Place() : GetItem(inside);
+    std::pair<int, int> const place = byKey ? m_cursor->Place() : GetItem(inside);
     CRect header(0, 0, 0, 0);
     if (m_header.GetSafeHwnd() != nullptr)
         m_header.GetWindowRect(&header);

@@ -301,7 +301,7 @@ CRect CXListCtrl::PaintedRect(int row, int col)
     PaintScope * const paint = m_paint->scope;
     if (paint != nullptr)
     {
-        if (auto const known = paint->memory.Bounds(row, col))
+        if (std::optional<CRect> const known = paint->memory.Bounds(row, col))
             return *known;
     }
     CRect rect(0, 0, 0, 0);

@@ -158,8 +158,10 @@ void CXTableCtrl::ShowSortMarks()
         item.fmt &= ~(HDF_SORTUP | HDF_SORTDOWN | HDF_JUSTIFYMASK);
         item.fmt |= FormatOf(*state.Column(state.shown[i]));
         for (TableSortColumn const & each : state.model.Sort())
+        {
             if (each.column == state.shown[i])
                 item.fmt |= each.descending ? HDF_SORTDOWN : HDF_SORTUP;
+        }
         if (item.fmt == former)
             continue;
         header.SetItem(static_cast<int>(i), &item);

@@ -102,7 +102,7 @@ bool CXTableCtrl::EndEdit(bool take)
 // typed: replaces what the cell shows; null for none.
 bool CXTableCtrl::OpenEdit(TableRow row, unsigned int column, wchar_t const * typed)
 {
-    auto const kept = m_state;
+    std::shared_ptr<State> const kept = m_state;
     State & state = *kept;
     Watch const watch(*this);
     auto const mayGoOn = [&] { return watch.IsAlive() && state.painting == 0; };
@@ -225,8 +225,10 @@ bool CXTableCtrl::TakeEdit()
     if (!watch.IsThere())
         return true;
     if (taken)
+    {
         NoteValue(state.model.FocusRow() == row ? state.model.FocusPosition() : state.model.PositionOf(row),
                   editing->column);
+    }
     editing->taking = false;
     // The host may have ended it, or opened another.
     if (state.editing != editing)
@@ -331,7 +333,7 @@ void CXTableCtrl::WishEditPlace()
 // The edit follows its cell. Where that is shown no more, it ends.
 void CXTableCtrl::PlaceEdit()
 {
-    auto const kept = m_state;
+    std::shared_ptr<State> const kept = m_state;
     State & state = *kept;
     std::shared_ptr<TableEditing> const editing = state.editing;
     if (!editing)

@@ -50,11 +50,13 @@ bool CXTableCtrl::HitCell(CPoint point, TableRow & position, unsigned int & colu
     std::vector<CRect> rects;
     int const still = ColumnRects(rects);
     for (std::size_t i = 0; i < rects.size(); ++i)
+    {
         if (point.x >= rects[i].left && point.x < rects[i].right && (i < state.layout.Frozen() || point.x >= still))
         {
             column = state.shown[i];
             return true;
         }
+    }
     return false;
 }
 
@@ -187,7 +189,7 @@ void CXTableCtrl::AfterSelection(bool tell)
 
 void CXTableCtrl::GoTo(TableRow position, bool shift, bool control)
 {
-    auto const kept = m_state;
+    std::shared_ptr<State> const kept = m_state;
     Watch const watch(*this);
     table_input::Go(kept->model, position, shift, control);
     if (!watch.IsThere())
@@ -311,7 +313,7 @@ void CXTableCtrl::OnLButtonDblClk(UINT flags, CPoint point)
 
 void CXTableCtrl::PressCell(TableRow position, unsigned int column)
 {
-    auto const kept = m_state;
+    std::shared_ptr<State> const kept = m_state;
     Watch const watch(*this);
     TableRow const row = kept->model.RowAt(position);
     TableColumn const * const described = kept->Column(column);

@@ -79,7 +79,7 @@ void CXTableCtrl::UpdateNow()
 CXTableCtrl::View CXTableCtrl::PresentView() const
 {
     View view;
-    auto const kept = m_state;
+    std::shared_ptr<State> const kept = m_state;
     TableRow const size = kept->model.Size();
     if (m_hWnd == nullptr || size == 0)
         return view;
@@ -98,7 +98,7 @@ CXTableCtrl::View CXTableCtrl::PresentView() const
 // that was done.
 void CXTableCtrl::Follow(bool now)
 {
-    auto const kept = m_state;
+    std::shared_ptr<State> const kept = m_state;
     State & state = *kept;
     Watch const watch(*this);
     View const before = PresentView();
@@ -151,7 +151,7 @@ void CXTableCtrl::TakeEffect(TableEffect const & effect, View const & before)
     }
     else if (effect.allMoved && before.focusSeen)
     {
-        auto const kept = m_state;
+        std::shared_ptr<State> const kept = m_state;
         TableRow const focus = kept->model.FocusPosition();
         if (!watch.IsThere() || (focus != TableModel::nowhere && !BringIntoView(focus)))
             return;
@@ -212,7 +212,7 @@ void CXTableCtrl::RepaintRows()
 // Few rows are put in order at once, many beside the window.
 void CXTableCtrl::WishOrder()
 {
-    auto const kept = m_state;
+    std::shared_ptr<State> const kept = m_state;
     State & state = *kept;
     Watch const watch(*this);
     state.orderStopped = false;

@@ -15,8 +15,10 @@ LRESULT CXTableCtrl::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
             return brush;
     }
     if (AsksForControl(message, lParam))
+    {
         if (LRESULT const answer = AnswerGetObject(wParam); answer != 0)
             return answer;
+    }
     Watch const watch(*this);
     ++m_state->native;
     LRESULT const result = CListCtrl::DefWindowProc(message, wParam, lParam);

@@ -351,8 +351,10 @@ BOOL CXTableCtrl::OnGetDispInfo(NMHDR * header, LRESULT * result)
     {
         std::wstring text;
         if (item.iSubItem >= 0 && static_cast<std::size_t>(item.iSubItem) < m_state->shown.size() && item.iItem >= 0)
+        {
             text = m_state->model.Text(static_cast<TableRow>(item.iItem),
                                        m_state->shown[static_cast<std::size_t>(item.iSubItem)]);
+        }
         ::lstrcpynW(item.pszText, text.c_str(), item.cchTextMax);
     }
     if ((item.mask & LVIF_IMAGE) != 0)
