@@ -115,6 +115,18 @@ TEST_F(ListModelRows, ARowThatTheHostDeletesAtOnceIsNowhere)
     EXPECT_TRUE(IsSound());
 }
 
+TEST_F(ListModelRows, ARowIsNowhereWhoseObjectServesAnotherOne)
+{
+    InsertAll({1, 2});
+    After(1, [this] {
+        m_model.DeleteRow(1);
+        Insert(0, 8);
+    });
+    EXPECT_EQ(Insert(1, 9), -1);
+    EXPECT_EQ(Words(), (Numbers{8, 1, 2}));
+    EXPECT_TRUE(IsSound());
+}
+
 TEST_F(ListModelRows, ANewRowIsFoundWhereTheHostHasMovedIt)
 {
     InsertAll({1, 2});

@@ -323,7 +323,7 @@ TEST(WavReader, NoticesAFileThatBecomesShorterWhileItIsRead)
         using OwningSource::OwningSource;
         std::size_t Read(std::uint64_t offset, std::span<std::byte> buffer) override
         {
-            std::size_t const end = std::uint64_t{data_body} + 5;
+            auto const end = std::uint64_t{data_body} + 5;
             std::size_t const rest = offset < end ? end - offset : 0;
             return OwningSource::Read(offset, buffer.first(std::min<std::size_t>(rest, buffer.size())));
         }

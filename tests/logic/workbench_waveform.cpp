@@ -94,7 +94,7 @@ TEST(Waveform, WidensStretchesOfLongRecordingsToWholeBucketsAndNoFurther)
     for (std::size_t c = 0; c < columns.size(); ++c)
     {
         std::size_t const first = c * frames / 640 / 8 * 8;
-        std::size_t const end = std::min<std::uint64_t>(((c + 1) * frames / 640 + 7) / 8 * 8, frames);
+        auto const end = std::min<std::uint64_t>(((c + 1) * frames / 640 + 7) / 8 * 8, frames);
         ASSERT_EQ(columns[c], Search(samples, 1, 0, first, end)) << c;
     }
 }

@@ -28,7 +28,7 @@ void PutLine(std::wstring & text, std::wstring_view key, std::wstring_view value
 /// The numbers of a text, which is nothing else; nothing where it is.
 std::optional<std::vector<std::uint64_t>> NumbersIn(std::wstring_view text)
 {
-    constexpr std::size_t most = std::numeric_limits<std::uint64_t>::max();
+    constexpr auto most = std::numeric_limits<std::uint64_t>::max();
     std::vector<std::uint64_t> numbers;
     bool inNumber = false;
     for (wchar_t const character : text)

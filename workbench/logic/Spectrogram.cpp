@@ -187,7 +187,7 @@ SpectrogramBuilder::SpectrogramBuilder(std::size_t channels, std::uint32_t sampl
 
 void SpectrogramBuilder::Add(std::span<double const> samples)
 {
-    std::size_t frames = std::min<std::uint64_t>(samples.size() / m_channels, m_framesLeft);
+    auto frames = std::min<std::uint64_t>(samples.size() / m_channels, m_framesLeft);
     m_framesLeft -= frames;
     double const * from = samples.data();
     while (frames > 0)
@@ -351,7 +351,7 @@ bool SpectrogramAnalyser::Step()
         return false;
     }
     std::size_t const channels = m_reader->Info().channels;
-    std::size_t const left = std::min<std::uint64_t>(m_framesWanted - m_framesRead, m_samples.size() / channels);
+    auto const left = std::min<std::uint64_t>(m_framesWanted - m_framesRead, m_samples.size() / channels);
     auto const frames = m_reader->ReadFrames(std::span(m_samples).first(static_cast<std::size_t>(left) * channels));
     m_framesRead += frames;
     m_builder->Add(std::span<double const>(m_samples).first(frames * channels));

@@ -299,7 +299,7 @@ std::variant<WavReader, ReadProblem> WavReader::Open(std::unique_ptr<ByteSource>
         return *problem;
     }
     auto info = std::get<RecordingInfo>(checked);
-    std::size_t const frameBytes = std::uint64_t{info.channels} * info.bytesPerSample;
+    auto const frameBytes = std::uint64_t{info.channels} * info.bytesPerSample;
     std::size_t const present = source->Size() - std::min(*chunks.dataOffset, source->Size());
     info.announcedFrames = chunks.announcedBytes / frameBytes;
     info.frames = std::min(chunks.announcedBytes, present) / frameBytes;

@@ -27,7 +27,7 @@ constexpr double exact_limit = 9007199254740992.0;
 
 std::uint64_t KeyOf(double value)
 {
-    std::size_t const bits = std::bit_cast<std::uint64_t>(value + 0.0);
+    auto const bits = std::bit_cast<std::uint64_t>(value + 0.0);
     return bits >> 63 != 0 ? ~bits : bits | 1ULL << 63;
 }
 
