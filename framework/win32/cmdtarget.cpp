@@ -122,10 +122,10 @@ BOOL CCmdTarget::OnCmdMsg(UINT nID, int nCode, void * pExtra, AFX_CMDHANDLERINFO
             message = HIWORD(code);
         code = LOWORD(code);
     }
-    for (AFX_MSGMAP * map = framework::CmdTargetAccess::Map(*this); map->pfnGetBaseMap != nullptr;
+    for (AFX_MSGMAP const * map = framework::CmdTargetAccess::Map(*this); map->pfnGetBaseMap != nullptr;
          map = map->pfnGetBaseMap())
     {
-        if (AFX_MSGMAP_ENTRY * const entry = framework::FindEntry(map->lpEntries, message, code, nID))
+        if (AFX_MSGMAP_ENTRY const * const entry = framework::FindEntry(map->lpEntries, message, code, nID))
             return framework::DispatchCommand(this, *entry, nID, pExtra, pHandlerInfo);
     }
     return FALSE;

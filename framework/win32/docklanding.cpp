@@ -70,7 +70,7 @@ static std::optional<DockSide> NearEdge(CRect const & rect, CPoint point, int mo
                                                   {point.y - rect.top, DockSide::Top},
                                                   {rect.right - 1 - point.x, DockSide::Right},
                                                   {rect.bottom - 1 - point.y, DockSide::Bottom}};
-    std::pair<int, DockSide> * const nearest =
+    std::pair<int, DockSide> const * const nearest =
         std::min_element(std::begin(distances), std::end(distances),
                          [](auto const & one, auto const & other) { return one.first < other.first; });
     return nearest->first >= 0 && nearest->first < zone ? std::optional(nearest->second) : std::nullopt;

@@ -77,11 +77,11 @@ BOOL ThreadAccess::DispatchThreadMessage(CWinThread & thread, MSG const & messag
 {
     constexpr UINT first_registered = 0xC000;
     using Handler = void (CWinThread::*)(WPARAM, LPARAM);
-    for (AFX_MSGMAP * map = Map(thread); map->pfnGetBaseMap != nullptr; map = map->pfnGetBaseMap())
+    for (AFX_MSGMAP const * map = Map(thread); map->pfnGetBaseMap != nullptr; map = map->pfnGetBaseMap())
     {
         if (message.message < first_registered)
         {
-            if (AFX_MSGMAP_ENTRY * const entry = FindEntry(map->lpEntries, message.message, 0, 0))
+            if (AFX_MSGMAP_ENTRY const * const entry = FindEntry(map->lpEntries, message.message, 0, 0))
             {
                 (thread.*std::bit_cast<Handler>(entry->pfn))(message.wParam, message.lParam);
                 return TRUE;

@@ -77,11 +77,11 @@ BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT * pResul
     default:
         break;
     }
-    for (AFX_MSGMAP * map = GetMessageMap(); map->pfnGetBaseMap != nullptr; map = map->pfnGetBaseMap())
+    for (AFX_MSGMAP const * map = GetMessageMap(); map->pfnGetBaseMap != nullptr; map = map->pfnGetBaseMap())
     {
         if (message < first_registered_message)
         {
-            AFX_MSGMAP_ENTRY * const entry = framework::FindEntry(map->lpEntries, message, 0, 0);
+            AFX_MSGMAP_ENTRY const * const entry = framework::FindEntry(map->lpEntries, message, 0, 0);
             if (entry == nullptr)
                 continue;
             auto const call = framework::DecodingOf(*entry).message;

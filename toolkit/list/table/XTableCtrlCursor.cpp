@@ -173,7 +173,7 @@ std::optional<std::pair<TableRow, unsigned int>> CXTableCtrl::NextEditable(bool 
     };
     if (position == TableModel::nowhere || std::none_of(state.shown.begin(), state.shown.end(), isEditable))
         return {};
-    std::optional<Place> const next = cursor_moves::NextChangeable(
+    std::optional<cursor_moves::Place> const next = cursor_moves::NextChangeable(
         GridOf(state.model.Size(), state.shown), {static_cast<int>(position), static_cast<int>(CursorColumn())}, forth,
         [&isEditable](int, int column) { return isEditable(static_cast<unsigned int>(column)); });
     if (!next)
