@@ -1,4 +1,4 @@
-#include "TableText.h"
+#include "logic/TableText.h"
 
 #include <algorithm>
 #include <cstddef>
