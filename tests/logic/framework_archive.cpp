@@ -1,6 +1,6 @@
 // CArchive: what is stored, byte by byte, and loaded again.
 
-#include "framework_support.h"
+#include "framework_Support.h"
 
 #include <algorithm>
 #include <initializer_list>

@@ -1,6 +1,6 @@
 // Archives that are damaged, cut off or made to do harm.
 
-#include "framework_support.h"
+#include "framework_Support.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 // Arrays, lists and maps.
 
-#include "framework_support.h"
+#include "framework_Support.h"
 
 #include <afxtempl.h>
 

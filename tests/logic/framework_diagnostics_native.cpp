@@ -1,6 +1,6 @@
 // Reports that end the program or go to standard error; as a Windows program they go to the debugger.
 
-#include "framework_support.h"
+#include "framework_Support.h"
 
 #include <string>
 

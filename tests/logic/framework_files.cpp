@@ -1,6 +1,6 @@
 // CFile, CStdioFile and CMemFile.
 
-#include "framework_support.h"
+#include "framework_Support.h"
 
 #include <algorithm>
 #include <cstring>

@@ -1,6 +1,6 @@
 // What files do on Windows alone: sharing, and searching folders.
 
-#include "framework_support.h"
+#include "framework_Support.h"
 
 #include <set>
 #include <string>

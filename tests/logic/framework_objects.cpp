@@ -1,6 +1,6 @@
 // Run-time classes, casts, assertions and exceptions.
 
-#include "framework_support.h"
+#include "framework_Support.h"
 
 #include <framework_testing.h>
 

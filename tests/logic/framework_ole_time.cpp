@@ -1,6 +1,6 @@
 // COleDateTime and COleDateTimeSpan.
 
-#include "framework_support.h"
+#include "framework_Support.h"
 
 #include <atlcomtime.h>
 

@@ -1,6 +1,6 @@
 // The buffers of strings: sharing, writing, lengths, locking, managers.
 
-#include "framework_support.h"
+#include "framework_Support.h"
 
 #include <string>
 #include <thread>

@@ -1,6 +1,6 @@
 // Formatting: the meaning of each directive is that of the Windows C run-time library in both builds.
 
-#include "framework_support.h"
+#include "framework_Support.h"
 
 #include <cstdint>
 

@@ -1,6 +1,6 @@
 // Strings out of a module's string table.
 
-#include "framework_support.h"
+#include "framework_Support.h"
 
 #include <string>
 #include <vector>

@@ -1,6 +1,6 @@
 // CPoint, CSize, CRect, and the plain types and functions they stand on.
 
-#include "framework_support.h"
+#include "framework_Support.h"
 
 #include <atltypes.h>
 

@@ -5,7 +5,7 @@
 
 #include "SpectrogramView.h"
 
-#include "../logic/workbench_WavBuilder.h"
+#include "../../logic/workbench_WavBuilder.h"
 #include "Bitmap.h"
 #include "GdiHandleCount.h"
 #include "Pump.h"

@@ -1,6 +1,6 @@
 // Hosts that choose other sets whenever they are called, most of all while something is painted.
 
-#include "colors_ColorsTest.h"
+#include "colours_ColorsTest.h"
 
 #include "Bitmap.h"
 #include "GuardedHeap.h"
@@ -86,7 +86,7 @@ private:
 class ColorsChaos : public testing::TestWithParam<unsigned int>
 {
 protected:
-    colors_tests::ProcessChoice m_restored;
+    colours_tests::ProcessChoice m_restored;
 };
 } // namespace
 

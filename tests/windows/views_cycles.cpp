@@ -1,6 +1,6 @@
 // Frames and documents that are opened and closed many times leave nothing behind.
 
-#include "frames_FramesTest.h"
+#include "views_FramesTest.h"
 
 #include "GdiHandleCount.h"
 #include "GuardedHeap.h"

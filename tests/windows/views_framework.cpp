@@ -1,6 +1,6 @@
 // The framework's frames, documents and templates on real windows.
 
-#include "frames_FramesTest.h"
+#include "views_FramesTest.h"
 
 #include <afxadv.h>
 

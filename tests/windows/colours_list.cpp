@@ -1,6 +1,6 @@
 // The report list and its cells in the sets of colours.
 
-#include "colors_ColorsTest.h"
+#include "colours_ColorsTest.h"
 
 #include "Bitmap.h"
 #include "Pump.h"
@@ -30,7 +30,7 @@ protected:
     /// Calls the check for every set that adapts, with its colours.
     void InEachSet(std::function<void(ControlColors const &)> const & check)
     {
-        for (ControlColorSet const set : colors_tests::adapting_sets)
+        for (ControlColorSet const set : colours_tests::adapting_sets)
         {
             SCOPED_TRACE(testing::PrintToString(set));
             Choose(set);
@@ -276,7 +276,7 @@ TEST_F(ColorsList, BackInTheStandardSetNothingIsLeft)
         return Copy(CRect(0, 0, m_canvas.Width(), m_canvas.Height()));
     };
     auto const before = paintAll();
-    for (ControlColorSet const set : colors_tests::adapting_sets)
+    for (ControlColorSet const set : colours_tests::adapting_sets)
         Choose(set);
     EXPECT_FALSE(SamePixels(*paintAll(), *before));
     Choose(ControlColorSet::standard);

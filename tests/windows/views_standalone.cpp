@@ -1,6 +1,6 @@
 // Stand-alone frames on real windows.
 
-#include "frames_FramesTest.h"
+#include "views_FramesTest.h"
 
 #include "MessageRecorder.h"
 #include "windows/StandaloneFrameUser.h"

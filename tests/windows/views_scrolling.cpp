@@ -1,6 +1,6 @@
 // Views that scroll, and views that are a control or a dialog template.
 
-#include "frames_FramesTest.h"
+#include "views_FramesTest.h"
 
 #include <afxcview.h>
 

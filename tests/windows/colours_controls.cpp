@@ -1,6 +1,6 @@
 // Header, table, edit frame, slider and colour button in the sets of colours.
 
-#include "colors_ColorsTest.h"
+#include "colours_ColorsTest.h"
 
 #include "Bitmap.h"
 #include "GdiHandleCount.h"
@@ -44,7 +44,7 @@ TEST_F(ColorsHeader, TitlesAndMarksAreTheSets)
     Add(30, XHC_CHECKED);
     Add(30, XHC_MIXED);
     Add(30, XHC_SORT_ASCENDING);
-    for (ControlColorSet const set : colors_tests::adapting_sets)
+    for (ControlColorSet const set : colours_tests::adapting_sets)
     {
         SCOPED_TRACE(testing::PrintToString(set));
         control_colors::UseFor(m_host.m_hWnd, set);
@@ -85,7 +85,7 @@ protected:
     CRect CellRect(TableRow row, int place) const
     {
         CRect rect(0, 0, 0, 0);
-        table->GetItemRect(static_cast<int>(row), &rect, LVIR_BOUNDS);
+        m_table->GetItemRect(static_cast<int>(row), &rect, LVIR_BOUNDS);
         CRect const title = TitleRect(place);
         return CRect(title.left, rect.top, title.right, rect.bottom);
     }
@@ -93,13 +93,13 @@ protected:
 
 TEST_F(ColorsTable, CellsAndTitlesAreTheSets)
 {
-    auto const before = ShotOf(*table);
-    for (ControlColorSet const set : colors_tests::adapting_sets)
+    auto const before = ShotOf(*m_table);
+    for (ControlColorSet const set : colours_tests::adapting_sets)
     {
         SCOPED_TRACE(testing::PrintToString(set));
-        control_colors::UseFor(parent.m_hWnd, set);
+        control_colors::UseFor(m_host.m_hWnd, set);
         ControlColors const colors = control_colors::Of(set);
-        auto const shot = ShotOf(*table);
+        auto const shot = ShotOf(*m_table);
         CRect const name = CellRect(1, 0);
         EXPECT_EQ(shot->Pixel(name.right - 3, name.bottom - 2), colors.window);
         EXPECT_GT(shot->Count(colors.windowText, name), 5);
@@ -111,29 +111,29 @@ TEST_F(ColorsTable, CellsAndTitlesAreTheSets)
         EXPECT_EQ(shot->Pixel(title.right - 4, title.top + 3), colors.headerFace);
         EXPECT_GT(shot->Count(colors.headerText, title), 5);
     }
-    control_colors::UseFor(parent.m_hWnd, ControlColorSet::standard);
-    EXPECT_TRUE(SamePixels(*ShotOf(*table), *before));
+    control_colors::UseFor(m_host.m_hWnd, ControlColorSet::standard);
+    EXPECT_TRUE(SamePixels(*ShotOf(*m_table), *before));
 }
 
 TEST_F(ColorsTable, SelectionsAreTheSets)
 {
-    control_colors::UseFor(parent.m_hWnd, ControlColorSet::dark);
+    control_colors::UseFor(m_host.m_hWnd, ControlColorSet::dark);
     ControlColors const colors = control_colors::Dark();
-    table->SetFocus();
+    m_table->SetFocus();
     Press(1, 1);
     CRect const name = CellRect(1, 0);
-    EXPECT_EQ(ShotOf(*table)->Pixel(name.right - 3, name.bottom - 4), colors.selection);
-    parent.SetFocus();
-    EXPECT_EQ(ShotOf(*table)->Pixel(name.right - 3, name.bottom - 4), colors.inactiveSelection);
+    EXPECT_EQ(ShotOf(*m_table)->Pixel(name.right - 3, name.bottom - 4), colors.selection);
+    m_host.SetFocus();
+    EXPECT_EQ(ShotOf(*m_table)->Pixel(name.right - 3, name.bottom - 4), colors.inactiveSelection);
 }
 
 TEST_F(ColorsTable, TextIsReadOnTheHostsGround)
 {
-    table->m_columnColours = true;
-    control_colors::UseFor(parent.m_hWnd, ControlColorSet::dark);
+    m_table->m_columnColours = true;
+    control_colors::UseFor(m_host.m_hWnd, ControlColorSet::dark);
     ControlColors const colors = control_colors::Dark();
     COLORREF const ground = tests::TestTable::Colour(0);
-    auto const shot = ShotOf(*table);
+    auto const shot = ShotOf(*m_table);
     CRect const name = CellRect(1, 0);
     EXPECT_EQ(shot->Pixel(name.right - 3, name.bottom - 2), ground);
     EXPECT_GT(shot->Count(control_colors::MarkOn(ground, colors.windowText, colors.window), name), 5);
@@ -189,7 +189,7 @@ TEST_F(ColorsSlider, WhatNobodyHasChosenIsTheSets)
 {
     COLORREF const face = ::GetSysColor(COLOR_BTNFACE);
     auto const before = ShotOf(m_slider);
-    for (ControlColorSet const set : colors_tests::adapting_sets)
+    for (ControlColorSet const set : colours_tests::adapting_sets)
     {
         SCOPED_TRACE(testing::PrintToString(set));
         control_colors::UseFor(m_host.m_hWnd, set);

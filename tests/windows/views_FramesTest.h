@@ -14,7 +14,7 @@
 #include "MemoryPreferenceStore.h"
 #include "Pump.h"
 #include "TestApp.h"
-#include "frames_resource.h"
+#include "views_resource.h"
 #include "windows/FensterManager.h"
 
 namespace frames
