@@ -272,6 +272,26 @@ TEST_F(ColorsButton, ButtonIsReadable)
     EXPECT_TRUE(SamePixels(*ShotOf(m_button), *before));
 }
 
+TEST_F(ColorsButton, FrameWhilePointedAtIsTheSetsUnlessTheHostHasChosenIt)
+{
+    m_button.DrawFrame(false);
+    m_button.DrawFocusFrame(true);
+    m_button.SetRolloverDelay(USER_TIMER_MAXIMUM); // it stays hot, wherever the mouse is
+    m_button.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(5, 5));
+    EXPECT_EQ(ShotOf(m_button)->Pixel(0, 0), RGB(0, 255, 0));
+    for (auto const set : {ControlColorSet::dark, ControlColorSet::high_contrast})
+    {
+        control_colors::UseFor(m_host.m_hWnd, set);
+        ControlColors const colors = control_colors::Of(m_button.m_hWnd);
+        auto const shot = ShotOf(m_button);
+        EXPECT_EQ(shot->Pixel(0, 0), colors.buttonHotFrame);
+        EXPECT_EQ(shot->Pixel(width - 1, height - 1), colors.buttonHotFrame);
+        EXPECT_EQ(shot->Pixel(1, 1), colors.face) << "the ground stays";
+    }
+    m_button.SetHotFgColor(RGB(200, 0, 200));
+    EXPECT_EQ(ShotOf(m_button)->Pixel(0, 0), RGB(200, 0, 200));
+}
+
 TEST_F(ColorsButton, ColoursOfTheHostStay)
 {
     m_button.SetBgColor(yellow);
