@@ -3,7 +3,7 @@
 #include <map>
 #include <optional>
 
-#include "logic/DialogTemplate.h"
+#include "logic/DialogTexts.h"
 
 namespace workbench
 {

@@ -71,6 +71,7 @@ BOOL CGalleryApp::OnIdle(LONG count)
 /// False if it could not be written, or shows nothing.
 bool CGalleryApp::TakePicture() const
 {
+    ::HideCaret(nullptr); // it would cover a letter
     CRect place;
     m_pMainWnd->GetWindowRect(place);
     CWindowDC screen(m_pMainWnd);

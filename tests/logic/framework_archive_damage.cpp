@@ -7,7 +7,7 @@
 #include <random>
 
 #include "framework_ArchiveContents.h"
-#include "framework_support.h"
+#include "framework_Support.h"
 
 using archive_contents::CBranch;
 using archive_contents::CLeaf;

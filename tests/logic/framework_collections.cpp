@@ -5,7 +5,7 @@
 #include <memory>
 #include <set>
 
-#include "framework_support.h"
+#include "framework_Support.h"
 
 namespace
 {

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "framework_support.h"
+#include "framework_Support.h"
 
 namespace
 {

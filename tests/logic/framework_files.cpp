@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "framework_support.h"
+#include "framework_Support.h"
 
 namespace
 {

@@ -3,7 +3,7 @@
 #include <set>
 #include <string>
 
-#include "framework_support.h"
+#include "framework_Support.h"
 
 namespace
 {

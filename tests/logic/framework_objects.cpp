@@ -5,7 +5,7 @@
 #include <cerrno>
 #include <string>
 
-#include "framework_support.h"
+#include "framework_Support.h"
 
 namespace
 {

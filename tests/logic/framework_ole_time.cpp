@@ -5,7 +5,7 @@
 #include <cmath>
 #include <limits>
 
-#include "framework_support.h"
+#include "framework_Support.h"
 
 namespace
 {

@@ -4,7 +4,7 @@
 #include <thread>
 #include <vector>
 
-#include "framework_support.h"
+#include "framework_Support.h"
 
 TEST(FrameworkStringBuffer, IsOnePointer)
 {

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "framework_support.h"
+#include "framework_Support.h"
 
 namespace
 {

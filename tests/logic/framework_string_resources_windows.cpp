@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "framework_support.h"
+#include "framework_Support.h"
 
 namespace
 {

@@ -2,7 +2,7 @@
 
 #include <atltypes.h>
 
-#include "framework_support.h"
+#include "framework_Support.h"
 
 TEST(FrameworkTypes, SizesAreFixed)
 {

@@ -56,7 +56,7 @@ TEST(WorkbenchHelp, EveryMeasureOfTheListIsExplainedUnderItsTitle)
             EXPECT_NE(page.find(L'\n' + std::wstring(Text(title)) + L'\t'), std::wstring::npos) << title;
         }
     }
-    SetLanguage(Language::English);
+    SetLanguage(Language::english);
 }
 
 TEST(WorkbenchHelp, KeysAreThoseOfTheMenus)
@@ -64,10 +64,10 @@ TEST(WorkbenchHelp, KeysAreThoseOfTheMenus)
     std::vector<MenuTexts> const menus{{L"&File", {L"Open &files...\tCtrl+O", L"Save", L"", L"E&xit\tCtrl+Q"}},
                                        {L"&Window", {L"None"}},
                                        {L"Fen&ster", {L"A && B\tF9"}}};
-    std::wstring const page = KeysPage(menus, Language::English);
+    auto const page = KeysPage(menus, Language::english);
     std::wstring const expected = L"File\nCtrl+O\tOpen files\nCtrl+Q\tExit\n\nFenster\nF9\tA & B\n\n";
     EXPECT_EQ(page.substr(0, expected.size()), expected);
     EXPECT_EQ(page.find(L"Window"), std::wstring::npos);
     EXPECT_NE(page.find(L"Home, End\t"), std::wstring::npos);
-    EXPECT_NE(KeysPage(menus, Language::German).find(L"Pos1, Ende\t"), std::wstring::npos);
+    EXPECT_NE(KeysPage(menus, Language::german).find(L"Pos1, Ende\t"), std::wstring::npos);
 }

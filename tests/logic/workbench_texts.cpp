@@ -29,7 +29,7 @@ struct LanguageScope
     explicit LanguageScope(Language language) { SetLanguage(language); }
     LanguageScope(LanguageScope const &) = delete;
     LanguageScope & operator=(LanguageScope const &) = delete;
-    ~LanguageScope() { SetLanguage(Language::English); }
+    ~LanguageScope() { SetLanguage(Language::english); }
 };
 
 /// UTF-8 to wide, in either width of wchar_t; the texts have no characters beyond the first plane.
@@ -326,7 +326,7 @@ TEST(WorkbenchTexts, KeysHaveTheirNamesInEachLanguage)
 
 TEST(WorkbenchTexts, WhatHasNoEntryStaysAsItIs)
 {
-    LanguageScope const german(Language::German);
+    LanguageScope const german(Language::german);
     EXPECT_STREQ(Text(L"Instrument Workbench"), L"Instrument Workbench");
     EXPECT_STREQ(Text(L""), L"");
 }
@@ -335,7 +335,7 @@ TEST(WorkbenchTexts, EnglishIsTheFirstLanguageAndComesBack)
 {
     EXPECT_STREQ(Text(L"Settings"), L"Settings");
     {
-        LanguageScope const german(Language::German);
+        LanguageScope const german(Language::german);
         EXPECT_STREQ(Text(L"Settings"), L"Einstellungen");
     }
     EXPECT_STREQ(Text(L"Settings"), L"Settings");
@@ -348,20 +348,20 @@ TEST(WorkbenchTexts, ALanguageIsTheSameInEveryCountry)
         EXPECT_EQ(LanguageOf(language_facts[language].id), static_cast<Language>(language));
         EXPECT_TRUE(SpeaksLanguage(language_facts[language].id));
     }
-    EXPECT_EQ(LanguageOf(2055), Language::German);  // Switzerland
-    EXPECT_EQ(LanguageOf(3079), Language::German);  // Austria
-    EXPECT_EQ(LanguageOf(2058), Language::Spanish); // Mexico
+    EXPECT_EQ(LanguageOf(2055), Language::german);  // Switzerland
+    EXPECT_EQ(LanguageOf(3079), Language::german);  // Austria
+    EXPECT_EQ(LanguageOf(2058), Language::spanish); // Mexico
     EXPECT_TRUE(SpeaksLanguage(2058));
     for (unsigned short const other : {2052, 1024, 0}) // Chinese, the user's default, none
     {
-        EXPECT_EQ(LanguageOf(other), Language::English);
+        EXPECT_EQ(LanguageOf(other), Language::english);
         EXPECT_FALSE(SpeaksLanguage(other));
     }
 }
 
 TEST(WorkbenchTexts, FaultsAndDetailsAreTold)
 {
-    LanguageScope const german(Language::German);
+    LanguageScope const german(Language::german);
     ReadProblem problem{ReadFault::unknown_format};
     problem.formatTag = 0x55;
     EXPECT_EQ(problem.Text(), L"unbekanntes Format (Kennung 0x0055)");

@@ -126,10 +126,10 @@ public:
     /// Its cache of device contexts, for windows that paint within one another: grows to that size and stays.
     static constexpr int kept_by_the_system = 48;
 
-    explicit TableWorld(unsigned int seed) : Chaos(seed), m_parent(*this)
+    explicit TableWorld(unsigned int seed) : Chaos(seed), m_host(*this)
     {
         CVeskBase::SetPreferenceVesk(&m_store);
-        m_button.Create(L"b", WS_CHILD | WS_VISIBLE, CRect(5, 230, 60, 250), &m_parent, 32);
+        m_button.Create(L"b", WS_CHILD | WS_VISIBLE, CRect(5, 230, 60, 250), &m_host, 32);
         wchar_t folder[MAX_PATH] = {};
         ::GetTempPathW(MAX_PATH, folder);
         m_path = std::wstring(folder) + L"chaos-table.csv";
@@ -177,7 +177,7 @@ private:
     }
 
     MemoryPreferenceStore m_store;
-    TableHolder m_parent;
+    TableHolder m_host;
     CButton m_button;
     std::unique_ptr<ChaosTable> m_table;
     std::shared_ptr<ChaosSource> m_source;
@@ -324,7 +324,7 @@ void TableWorld::Make()
     if (OneIn(2))
         table->SetColumns(Columns(), L"chaos");
     Assign();
-    table->Open(&m_parent);
+    table->Open(&m_host);
     if (!Lives(table))
         return;
     table->SetColumns(Columns(), OneIn(2) ? L"chaos" : L"");

@@ -48,12 +48,12 @@ TEST_F(ComboPaint, PlainFrameIsSunken)
 TEST_F(ComboPaint, PlainButtonIsTheSystems)
 {
     MakeCombo();
-    tests::Canvas expected(place.Width(), place.Height());
+    tests::Canvas expected(m_place.Width(), m_place.Height());
     for (UINT const state : {UINT(DFCS_SCROLLDOWN), UINT(0x4201), UINT(DFCS_SCROLLDOWN | DFCS_INACTIVE)})
     {
         m_combo->EnableWindow(state != (DFCS_SCROLLDOWN | DFCS_INACTIVE));
         m_combo->ShowDropDown(state == 0x4201);
-        CRect button(place.Width() - ButtonWidth() - 2, 2, place.Width() - 2, place.Height() - 2);
+        CRect button(m_place.Width() - ButtonWidth() - 2, 2, m_place.Width() - 2, m_place.Height() - 2);
         CRect drawn = button;
         expected.Dc().DrawFrameControl(drawn, DFC_SCROLL, state);
         std::unique_ptr<tests::Canvas> const shot = Shot();
@@ -71,8 +71,8 @@ TEST_F(ComboPaint, FocusHighlightsTheTextOfAClosedList)
 {
     MakeCombo();
     m_combo->SetCurSel(1);
-    CRect const field(2, 1, place.Width() - ButtonWidth() - 2, place.Height() - 1);
-    std::unique_ptr<tests::Canvas> shot = Shot();
+    CRect const field(2, 1, m_place.Width() - ButtonWidth() - 2, m_place.Height() - 1);
+    auto shot = Shot();
     EXPECT_EQ(shot->Count(Color(COLOR_HIGHLIGHT)), 0);
     EXPECT_EQ(shot->Pixel(field.right - 1, 5), Color(COLOR_WINDOW));
     EXPECT_GT(shot->Count(Color(COLOR_BTNTEXT), CRect(3, 3, 60, 19)), 10);
@@ -110,7 +110,7 @@ TEST_F(ComboPaint, DisabledComboIsGrey)
     m_combo->EnableWindow(FALSE);
     std::unique_ptr<tests::Canvas> const shot = Shot();
     EXPECT_EQ(shot->Pixel(3, 4), Color(COLOR_BTNFACE));
-    EXPECT_EQ(shot->Pixel(place.Width() - ButtonWidth() - 6, 8), Color(COLOR_BTNFACE));
+    EXPECT_EQ(shot->Pixel(m_place.Width() - ButtonWidth() - 6, 8), Color(COLOR_BTNFACE));
     EXPECT_GT(shot->Count(Color(COLOR_GRAYTEXT), CRect(3, 3, 60, 19)), 10);
 }
 
@@ -119,9 +119,9 @@ TEST_F(ComboPaint, StyledFrameHasTheThemesColourAndElseBlack)
     Styled const styled;
     MakeCombo();
     g_colorsFail = true;
-    std::unique_ptr<tests::Canvas> const shot = Shot();
-    for (CPoint const point :
-         {CPoint(0, 0), CPoint(50, 0), CPoint(0, 10), CPoint(place.Width() - 1, 10), CPoint(50, place.Height() - 1)})
+    auto const shot = Shot();
+    for (CPoint const point : {CPoint(0, 0), CPoint(50, 0), CPoint(0, 10), CPoint(m_place.Width() - 1, 10),
+                               CPoint(50, m_place.Height() - 1)})
     {
         EXPECT_EQ(shot->Pixel(point.x, point.y), RGB(0, 0, 0));
     }
@@ -161,11 +161,11 @@ TEST_F(ComboPaint, DisabledStyledComboHasAnOutline)
     MakeCombo(CBS_DROPDOWN);
     g_colorsFail = true;
     m_combo->EnableWindow(FALSE);
-    std::unique_ptr<tests::Canvas> const shot = Shot();
-    int const buttonLeft = place.Width() - ButtonWidth() - 1;
+    auto const shot = Shot();
+    int const buttonLeft = m_place.Width() - ButtonWidth() - 1;
     EXPECT_EQ(shot->Pixel(1, 1), RGB(255, 255, 255));
     EXPECT_EQ(shot->Pixel(60, 1), RGB(255, 255, 255));
-    EXPECT_EQ(shot->Pixel(60, place.Height() - 2), RGB(255, 255, 255));
+    EXPECT_EQ(shot->Pixel(60, m_place.Height() - 2), RGB(255, 255, 255));
     EXPECT_EQ(shot->Pixel(buttonLeft - 1, 8), RGB(255, 255, 255));
     EXPECT_EQ(shot->Pixel(2, 2), Color(COLOR_BTNFACE));
 }

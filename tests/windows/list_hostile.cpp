@@ -524,7 +524,7 @@ class AskedByItsEdit : public testing::Test
 protected:
     void SetUp() override
     {
-        ASSERT_TRUE(m_list.Create(tests::TestList::default_style, CRect(0, 0, 300, 150), &m_parent, 7));
+        ASSERT_TRUE(m_list.Create(tests::TestList::default_style, CRect(0, 0, 300, 150), &m_host, 7));
         m_list.AddColumns(3);
         m_list.AddRows(4);
         m_list.DrawEditControl(1, 1);
@@ -572,7 +572,7 @@ protected:
     void Repaint() { ::RedrawWindow(m_edit, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW); }
 
     tests::GuardedHeap m_heap;
-    tests::ListParent m_parent;
+    tests::ListParent m_host;
     AskedList m_list;
     HWND m_edit = nullptr;
 };
@@ -586,7 +586,7 @@ TEST_F(AskedByItsEdit, ForItsColoursItMayEnd)
 TEST_F(AskedByItsEdit, ForItsColoursItsParentMayEnd)
 {
     EndListIn(
-        WM_CTLCOLOREDIT, [this] { Repaint(); }, [this] { m_parent.DestroyWindow(); });
+        WM_CTLCOLOREDIT, [this] { Repaint(); }, [this] { m_host.DestroyWindow(); });
 }
 
 TEST_F(AskedByItsEdit, ToldOfATypedLetterItMayEnd)

@@ -1,10 +1,11 @@
-#include "TextTable.h"
+#include "logic/TextTable.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <string_view>
 
 #include "logic/NumberSigns.h"
+#include "logic/TableText.h"
 
 namespace workbench
 {

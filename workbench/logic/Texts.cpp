@@ -314,7 +314,7 @@ constexpr Entry all_entries[] = {
 
 std::wstring_view English(wchar_t const * const * entry)
 {
-    return entry[static_cast<std::size_t>(Language::English)];
+    return entry[static_cast<std::size_t>(Language::english)];
 }
 
 /// The entries in the order of their English texts.
@@ -338,7 +338,7 @@ LanguageFacts const * FindLanguage(unsigned short languageId)
     return found == std::end(language_facts) ? nullptr : found;
 }
 
-std::atomic<Language> s_language = Language::English;
+std::atomic<Language> s_language = Language::english;
 
 } // namespace
 
@@ -349,8 +349,8 @@ bool SpeaksLanguage(unsigned short languageId)
 
 Language LanguageOf(unsigned short languageId)
 {
-    LanguageFacts const * const facts = FindLanguage(languageId);
-    return facts != nullptr ? static_cast<Language>(facts - language_facts) : Language::English;
+    auto const * const facts = FindLanguage(languageId);
+    return facts != nullptr ? static_cast<Language>(facts - language_facts) : Language::english;
 }
 
 void SetLanguage(Language language)
@@ -365,8 +365,8 @@ Language PresentLanguage()
 
 wchar_t const * Text(wchar_t const * english)
 {
-    Language const language = s_language.load();
-    if (language == Language::English)
+    auto const language = s_language.load();
+    if (language == Language::english)
     {
         return english;
     }

@@ -17,6 +17,7 @@
 #include "controls/IdNameMultiselectCtrl.h"
 #include "controls/XEditBrowseCtrl.h"
 #include "GuardedHeap.h"
+#include "logic/Texts.h"
 #include "MainWindowTest.h"
 #include "RecordingCells.h"
 
@@ -995,16 +996,16 @@ TEST_F(WorkbenchControls, TheListIsExportedIntoAFile)
     exportTo(m_folder / "list.html", 0);
     EXPECT_TRUE(contents(m_folder / "list.html").starts_with("<!DOCTYPE html>"));
     // Why one cannot be written is said.
-    LCID const locale = ::GetThreadLocale();
-    std::filesystem::path const gone = m_folder / "gone" / "list.txt";
-    for (auto const & [language, text] :
-         {std::pair{1033, std::pair{L"This file could not be written:\n\n", L": the folder is not there any more"}},
-          {1031, {L"Diese Datei lie\u00DF sich nicht schreiben:\n\n", L": der Ordner ist nicht mehr da"}},
-          {3082, {L"No se pudo escribir este archivo:\n\n", L": la carpeta ya no est\u00E1"}}})
+    auto const locale = ::GetThreadLocale();
+    auto const gone = m_folder / "gone" / "list.txt";
+    for (auto const & language : workbench::language_facts)
     {
-        m_window->ChooseLanguage(static_cast<unsigned short>(language));
+        m_window->ChooseLanguage(language.id);
         exportTo(gone, 0);
-        EXPECT_EQ(tests::App().TakeMessages(), std::vector<std::wstring>{text.first + gone.wstring() + text.second});
+        EXPECT_EQ(tests::App().TakeMessages(),
+                  std::vector<std::wstring>{workbench::Text(L"This file could not be written:") +
+                                            (L"\n\n" + gone.wstring() + L": ") +
+                                            workbench::Text(L"the folder is not there any more")});
     }
     m_window->ChooseLanguage(1033);
     ::SetThreadLocale(locale);

@@ -487,19 +487,20 @@ TEST_F(WorkbenchFrameMeasures, NothingIsCutOffInAnyLanguageOrResolution)
         ForgetSettings();
         OpenWindow(dots);
         ShowShort();
-        for (int const language : {1033, 1031, 3082})
+        for (auto const & language : workbench::language_facts)
         {
-            m_window->ChooseLanguage(static_cast<unsigned short>(language));
+            m_window->ChooseLanguage(language.id);
             CClientDC dc(&Table());
             CFont * const former = dc.SelectObject(Table().GetFont());
             auto const width = [&dc](std::wstring const & text) { return dc.GetTextExtent(text.c_str()).cx; };
             for (int place = 0; place < 6; ++place)
-                EXPECT_GE(Table().GetColumnWidth(place), width(Title(place)) + 34) << language << Title(place).c_str();
-            for (int const id : {IDC_FRAME_STATUS, IDC_FRAME_EXPORT})
+                EXPECT_GE(Table().GetColumnWidth(place), width(Title(place)) + 34)
+                    << language.id << Title(place).c_str();
+            for (auto const id : {IDC_FRAME_STATUS, IDC_FRAME_EXPORT})
             {
                 CRect place;
                 Control(id).GetWindowRect(&place);
-                EXPECT_GE(place.Width(), width(TextOf(Control(id)))) << language << ' ' << id;
+                EXPECT_GE(place.Width(), width(TextOf(Control(id)))) << language.id << ' ' << id;
             }
             // Also while an hour is measured.
             CString frames;
@@ -508,9 +509,9 @@ TEST_F(WorkbenchFrameMeasures, NothingIsCutOffInAnyLanguageOrResolution)
             measuring.Format(workbench::Text(L"measuring, %d %%"), 99);
             CRect status;
             Control(IDC_FRAME_STATUS).GetWindowRect(&status);
-            EXPECT_GE(status.Width(), width((frames + L"; " + measuring).GetString())) << language;
+            EXPECT_GE(status.Width(), width((frames + L"; " + measuring).GetString())) << language.id;
             measuring.Format(workbench::Text(L"windows of %s"), L"23.2 ms");
-            EXPECT_GE(status.Width(), width((frames + L"; " + measuring).GetString())) << language;
+            EXPECT_GE(status.Width(), width((frames + L"; " + measuring).GetString())) << language.id;
             dc.SelectObject(former);
             CRect inside;
             Panel().GetWindowRect(&inside);

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <functional>
+#include <set>
+#include <string>
 #include <vector>
 
 #include "LanguageDialog.h"
@@ -85,18 +87,22 @@ TEST_F(WorkbenchLanguage, TheChoiceHasTheLanguagesOfTheWorkbenchAndNoOthers)
 
 TEST_F(WorkbenchLanguage, TheChoiceSpeaksThePresentLanguage)
 {
-    for (auto const & [id, title] :
-         {std::pair{1033, L"Choose Display Language"}, {1031, L"Anzeigesprache w\u00E4hlen"}, {3082, L"Elegir idioma"}})
+    std::set<std::wstring> titles;
+    for (auto const & facts : workbench::language_facts)
     {
-        workbench::UseLanguage(static_cast<unsigned short>(id));
-        CLanguageDialog dialog(static_cast<unsigned short>(id), *m_window);
+        workbench::UseLanguage(facts.id);
+        CLanguageDialog dialog(facts.id, *m_window);
         std::wstring shown;
         Run(dialog, {[&] {
                 shown = TextOf(dialog);
                 dialog.PostMessage(WM_COMMAND, IDCANCEL);
             }});
-        EXPECT_EQ(shown, title);
+        EXPECT_EQ(shown, workbench::Text(L"Choose Display Language")) << facts.id;
+        titles.insert(shown);
     }
+    EXPECT_EQ(titles.size(), workbench::language_count);
+    EXPECT_TRUE(titles.contains(L"Choose Display Language"));
+    EXPECT_TRUE(titles.contains(L"Anzeigesprache w\u00E4hlen"));
 }
 
 TEST_F(WorkbenchLanguage, ATypedNameCountsAndAWrongOneIsToldOf)

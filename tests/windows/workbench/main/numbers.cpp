@@ -4,6 +4,7 @@
 
 #include "DetailsDialog.h"
 #include "logic/NumberSigns.h"
+#include "logic/Texts.h"
 #include "MainWindowTest.h"
 
 namespace
@@ -75,13 +76,13 @@ TEST_F(WorkbenchNumbers, TheHelpHasThemInEachLanguage)
         m_window->Help().GetDlgItemText(IDC_HELP_PAGE, text);
         return text.Find(number) >= 0;
     };
-    for (int const language : {1033, 1031, 3082})
+    for (auto const & language : workbench::language_facts)
     {
-        m_window->ChooseLanguage(static_cast<unsigned short>(language));
+        m_window->ChooseLanguage(language.id);
         ChangeRegion(L",", L".");
-        EXPECT_TRUE(has(L": -0,691 + 10")) << language;
+        EXPECT_TRUE(has(L": -0,691 + 10")) << language.id;
         ChangeRegion(L".", L",");
-        EXPECT_TRUE(has(L": -0.691 + 10")) << language;
+        EXPECT_TRUE(has(L": -0.691 + 10")) << language.id;
     }
     m_window->ChooseLanguage(1033);
     ::SetThreadLocale(locale);

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "GuardedHeap.h"
+#include "logic/Texts.h"
 #include "MainWindowTest.h"
 #include "WaveformPanelView.h"
 #include "windows/StandaloneFrameWnd.h"
@@ -213,17 +214,17 @@ TEST_F(WorkbenchPanes, TheMeasuresShowTheirTextsWholeInEachLanguage)
         }
         EXPECT_GE(seen, 3) << language << where;
     };
-    for (int const language : {1033, 1031, 3082})
+    for (auto const & language : workbench::language_facts)
     {
-        m_window->ChooseLanguage(static_cast<unsigned short>(language));
-        check(language, L" docked ");
+        m_window->ChooseLanguage(language.id);
+        check(language.id, L" docked ");
     }
     ASSERT_TRUE(pane.FloatPane(CRect(100, 100, 600, 220)));
     tests::PumpPosted();
-    for (int const language : {1033, 1031, 3082})
+    for (auto const & language : workbench::language_facts)
     {
-        m_window->ChooseLanguage(static_cast<unsigned short>(language));
-        check(language, L" floating ");
+        m_window->ChooseLanguage(language.id);
+        check(language.id, L" floating ");
     }
     m_window->ChooseLanguage(1033);
     ::SetThreadLocale(locale);

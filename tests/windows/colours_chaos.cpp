@@ -5,7 +5,7 @@
 #include <random>
 
 #include "Bitmap.h"
-#include "colors_ColorsTest.h"
+#include "colours_ColorsTest.h"
 #include "controls/LevelSliderCtrl.h"
 #include "GuardedHeap.h"
 #include "list/XListCellKind.h"
@@ -85,7 +85,7 @@ private:
 class ColorsChaos : public testing::TestWithParam<unsigned int>
 {
 protected:
-    colors_tests::ProcessChoice m_restored;
+    colours_tests::ProcessChoice m_restored;
 };
 } // namespace
 

@@ -9,7 +9,7 @@
 #include <fstream>
 #include <numbers>
 
-#include "../logic/workbench_WavBuilder.h"
+#include "../../logic/workbench_WavBuilder.h"
 #include "Bitmap.h"
 #include "GdiHandleCount.h"
 #include "Pump.h"

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "logic/DialogTemplate.h"
+#include "logic/DialogTexts.h"
 
 namespace
 {
@@ -54,7 +54,7 @@ private:
 
 } // namespace
 
-TEST(WorkbenchDialogTemplate, HasItsCaptionAndTheTextsOfItsControls)
+TEST(WorkbenchDialogTexts, HasItsCaptionAndTheTextsOfItsControls)
 {
     Template made;
     made.Head(0x40, 3, L"Title").Control(2, L"Cancel").Control(0xFFFF, L"&Label:", {1, 2, 3}).Control(1000, L"");
@@ -69,7 +69,7 @@ TEST(WorkbenchDialogTemplate, HasItsCaptionAndTheTextsOfItsControls)
     EXPECT_EQ(texts->controls[2].text, L"");
 }
 
-TEST(WorkbenchDialogTemplate, ANumberInPlaceOfATextIsNone)
+TEST(WorkbenchDialogTexts, ANumberInPlaceOfATextIsNone)
 {
     Template made;
     made.Words({1, 0xFFFF, 0, 0, 0, 0, 0, 0, 1, 0, 0, 100, 50}).Words({0xFFFF, 7}).Text(L"own class").Text(L"Title");
@@ -80,7 +80,7 @@ TEST(WorkbenchDialogTemplate, ANumberInPlaceOfATextIsNone)
     EXPECT_EQ(texts->controls.front().id, 3U);
 }
 
-TEST(WorkbenchDialogTemplate, WhatIsNoneOrCutOffGivesNothing)
+TEST(WorkbenchDialogTexts, WhatIsNoneOrCutOffGivesNothing)
 {
     EXPECT_FALSE(workbench::ReadDialogTexts({}));
     EXPECT_FALSE(workbench::ReadDialogTexts(Template().Words({0x10, 0, 1, 1}).Bytes()));

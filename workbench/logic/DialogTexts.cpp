@@ -1,4 +1,4 @@
-#include "logic/DialogTemplate.h"
+#include "logic/DialogTexts.h"
 
 #include <utility>
 

@@ -4,7 +4,7 @@
 #include <memory>
 
 #include "Bitmap.h"
-#include "colors_ColorsTest.h"
+#include "colours_ColorsTest.h"
 #include "list_PaintTest.h"
 #include "Pump.h"
 
@@ -29,7 +29,7 @@ protected:
     /// Calls the check for every set that adapts, with its colours.
     void InEachSet(std::function<void(ControlColors const &)> const & check)
     {
-        for (ControlColorSet const set : colors_tests::adapting_sets)
+        for (ControlColorSet const set : colours_tests::adapting_sets)
         {
             SCOPED_TRACE(testing::PrintToString(set));
             Choose(set);
@@ -276,8 +276,8 @@ TEST_F(ColorsList, BackInTheStandardSetNothingIsLeft)
         }
         return Copy(CRect(0, 0, m_canvas.Width(), m_canvas.Height()));
     };
-    std::unique_ptr<tests::Canvas> const before = paintAll();
-    for (ControlColorSet const set : colors_tests::adapting_sets)
+    auto const before = paintAll();
+    for (ControlColorSet const set : colours_tests::adapting_sets)
         Choose(set);
     EXPECT_FALSE(SamePixels(*paintAll(), *before));
     Choose(ControlColorSet::standard);

@@ -2,7 +2,7 @@
 
 #include <afxadv.h>
 
-#include "frames_FramesTest.h"
+#include "views_FramesTest.h"
 
 using frames::g_log;
 using frames::TestChild;

@@ -11,10 +11,10 @@
 #include <string>
 #include <vector>
 
-#include "frames_resource.h"
 #include "MemoryPreferenceStore.h"
 #include "Pump.h"
 #include "TestApp.h"
+#include "views_resource.h"
 #include "windows/FensterManager.h"
 
 namespace frames

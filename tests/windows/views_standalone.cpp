@@ -2,8 +2,8 @@
 
 #include <memory>
 
-#include "frames_FramesTest.h"
 #include "MessageRecorder.h"
+#include "views_FramesTest.h"
 #include "windows/StandaloneFrameUser.h"
 #include "windows/StandaloneFrameWnd.h"
 

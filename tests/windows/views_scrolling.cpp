@@ -2,7 +2,7 @@
 
 #include <afxcview.h>
 
-#include "frames_FramesTest.h"
+#include "views_FramesTest.h"
 
 namespace
 {
