@@ -57,7 +57,7 @@ void SetItemText(HMENU menu, UINT item, bool byPosition, CString text)
 DWORD DeletionError(std::filesystem::path const & file)
 {
     constexpr DWORD all_sharing = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-    void * const handle = ::CreateFileW(file.c_str(), DELETE, all_sharing, nullptr, OPEN_EXISTING, 0, nullptr);
+    HANDLE const handle = ::CreateFileW(file.c_str(), DELETE, all_sharing, nullptr, OPEN_EXISTING, 0, nullptr);
     if (handle == INVALID_HANDLE_VALUE)
     {
         return ::GetLastError();

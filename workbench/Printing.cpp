@@ -26,7 +26,7 @@ bool AnyPrinter()
 /// The printer of the dialog with its paper in landscape.
 bool CreatePrinter(CPrintDialog & dialog, CDC & printer)
 {
-    if (_devicemodeW * const mode = dialog.GetDevMode())
+    if (DEVMODE * const mode = dialog.GetDevMode())
     {
         mode->dmOrientation = DMORIENT_LANDSCAPE;
         mode->dmFields |= DM_ORIENTATION;

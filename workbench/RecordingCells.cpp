@@ -15,7 +15,7 @@ namespace
 
 std::wstring WithoutBlanks(std::wstring text)
 {
-    constexpr wchar_t * blanks = L" \t\r\n";
+    constexpr wchar_t const * blanks = L" \t\r\n";
     std::size_t const last = text.find_last_not_of(blanks);
     text.erase(last == text.npos ? 0 : last + 1);
     text.erase(0, std::min(text.find_first_not_of(blanks), text.size()));

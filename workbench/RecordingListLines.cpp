@@ -20,8 +20,8 @@ using workbench::ValueText;
 namespace
 {
 
-constexpr wchar_t * reading_text = workbench::Translatable(L"reading...");
-constexpr wchar_t * unread_text = workbench::Translatable(L"not read yet");
+constexpr wchar_t const * reading_text = workbench::Translatable(L"reading...");
+constexpr wchar_t const * unread_text = workbench::Translatable(L"not read yet");
 
 // Places in the image list.
 constexpr int image_ok = 0;

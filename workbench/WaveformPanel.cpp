@@ -163,7 +163,7 @@ void CWaveformPanel::ShowAmplification()
     int const amplification = m_view.Amplification();
     m_slider.SetPos(steps - amplification / workbench::amplification_step);
     m_slider.Invalidate();
-    wchar_t * const sign = amplification > 0 ? L"+" : L"";
+    wchar_t const * const sign = amplification > 0 ? L"+" : L"";
     m_value.SetWindowText((sign + std::to_wstring(amplification) + L" dB").c_str());
 }
 

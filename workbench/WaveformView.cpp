@@ -699,7 +699,7 @@ void CWaveformView::DrawHeading(CDC & dc, CRect const & area)
 std::wstring CWaveformView::Details() const
 {
     workbench::RecordingInfo const & info = m_analysis->info;
-    wchar_t * const coding =
+    wchar_t const * const coding =
         info.coding == workbench::SampleCoding::floating_point ? Text(L"-bit float") : Text(L"-bit");
     auto details = workbench::FormatSampleRate(info.sampleRate) + L"  \u00B7  " + std::to_wstring(info.bitsPerSample) +
                    coding + L"  \u00B7  " + workbench::FormatCount(info.channels, Text(L"channel"), Text(L"channels")) +

@@ -34,7 +34,7 @@ class CControlsWindow : public CGalleryWindow
 
         m_tree.Create(style | WS_BORDER | TVS_HASLINES | TVS_HASBUTTONS | TVS_LINESATROOT, CRect(140, 80, 360, 180),
                       this, 6);
-        _TREEITEM * const folder = m_tree.InsertTreeItem(L"Recordings", 0, 0, nullptr, 1, 100, TVI_LAST, -1);
+        HTREEITEM const folder = m_tree.InsertTreeItem(L"Recordings", 0, 0, nullptr, 1, 100, TVI_LAST, -1);
         for (auto const & [id, name] : channels)
         {
             m_tree.InsertTreeItem(name, 0, 0, folder, 2, id, TVI_LAST, -1);

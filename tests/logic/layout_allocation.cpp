@@ -17,8 +17,10 @@ TEST_F(LayoutAllocation, ALayoutAllocatesNothing)
     CWnd & dialog = m_platform.AddDialog(design_outer);
     CDialogResizer resizer(dialog, L"");
     for (int at = 0; at < 100; ++at)
+    {
         resizer.PositionChild(&m_platform.AddChild(dialog, CRect(at, at, at + 10, at + 10)),
                               CEdges::RIGHT() | CEdges::BOTTOM_THIRD(), nullptr);
+    }
     m_platform.recording = false;
 
     std::size_t const before = tests::AllocationsSoFar().count;

@@ -78,6 +78,7 @@ TEST_F(TableLive, OneRepaintShowsWhatManyTold)
     std::atomic<int> telling{4};
     std::vector<std::thread> tellers;
     for (unsigned int teller = 0; teller < 4; ++teller)
+    {
         tellers.emplace_back([this, teller, &telling, feed = m_table->Feed(), shared = m_source] {
             for (int i = 0; i < 5000; ++i)
             {
@@ -89,6 +90,7 @@ TEST_F(TableLive, OneRepaintShowsWhatManyTold)
             }
             --telling;
         });
+    }
 }
 ASSERT_TRUE(tests::PumpUntil([&telling] { return telling == 0; }));
 for (std::thread & each : tellers)
@@ -225,12 +227,14 @@ TEST_F(TableLive, FiveThousandOperationsAtRandom)
             ASSERT_EQ(m_table->IsRowSelected(row), selected.count(m_source->Key(row)) != 0) << step;
         }
         if (!m_table->SortColumns().empty() && m_table->SortColumns()[0].column == TableRowsSource::number_column)
+        {
             for (TableRow position = 1; position < m_table->RowsShown(); ++position)
             {
                 double const first = m_source->At(m_table->RowAt(position - 1)).number;
                 double const second = m_source->At(m_table->RowAt(position)).number;
                 ASSERT_TRUE(m_table->SortColumns()[0].descending ? first >= second : first <= second) << step;
             }
+        }
     }
 }
 }

@@ -5,7 +5,6 @@
 #include <string_view>
 
 #include "logic/NumberSigns.h"
-#include "logic/TableText.h"
 
 namespace workbench
 {

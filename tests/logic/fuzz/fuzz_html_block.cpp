@@ -30,7 +30,7 @@ void CheckBlock(std::wstring const & html)
     Require(block.size() == HtmlBlock::SizeOf(html));
     Require(block.back() == '\0');
     std::string const text(block.data());
-    std::optional<Reading> const reading = html_block::Read(text);
+    std::optional<html_block::Reading> const reading = html_block::Read(text);
     bool const hasOwnTags = html.find(L"html>") != std::wstring::npos ||
                             html.find(L"Fragment -->") != std::wstring::npos ||
                             html.find(L"<body>") != std::wstring::npos;

@@ -65,7 +65,7 @@ TEST_F(WorkbenchDeleting, AnErrorSaysWhichFileAndWhy)
     ShowFolder(3);
     List().SelectLines({0, 1}, 0);
     std::filesystem::path const used = Recordings() / "r00001.wav";
-    void * const handle = ::CreateFileW(used.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    HANDLE const handle = ::CreateFileW(used.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
     ASSERT_NE(handle, INVALID_HANDLE_VALUE);
     tests::App().Answer(IDYES);
     List().SendMessage(WM_KEYDOWN, VK_DELETE);

@@ -494,8 +494,10 @@ TEST_F(WorkbenchFrameMeasures, NothingIsCutOffInAnyLanguageOrResolution)
             CFont * const former = dc.SelectObject(Table().GetFont());
             auto const width = [&dc](std::wstring const & text) { return dc.GetTextExtent(text.c_str()).cx; };
             for (int place = 0; place < 6; ++place)
+            {
                 EXPECT_GE(Table().GetColumnWidth(place), width(Title(place)) + 34)
                     << language.id << Title(place).c_str();
+            }
             for (auto const id : {IDC_FRAME_STATUS, IDC_FRAME_EXPORT})
             {
                 CRect place;
