@@ -664,4 +664,76 @@ TEST(ListWithoutRows, MayEndWhileItsTextIsPainted)
     ::RedrawWindow(list->m_hWnd, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
     EXPECT_EQ(list, nullptr) << "it was asked";
 }
+
+/// Does something once, where it is asked for a cell's place.
+class ListAskedForACell : public tests::GuardedList
+{
+public:
+    std::function<void()> m_act;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        auto const act = message == LVM_GETSUBITEMRECT ? std::exchange(m_act, {}) : nullptr;
+        if (!act)
+            return GuardedList::WindowProc(message, wParam, lParam);
+        act();
+        return 1;
+    }
+};
+
+/// A list that its host deletes in the question where the cell stands that is to be painted anew.
+class DeletedAtARepaint : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        ASSERT_TRUE(m_list->Create(tests::TestList::default_style, CRect(0, 0, 360, 200), &m_parent, 7));
+        m_list->AddColumns(3);
+        m_list->AddRows(4);
+        m_list->UpdateWindow();
+    }
+    void TearDown() override { EXPECT_EQ(m_list, nullptr) << "it was not asked"; }
+    void DeleteAtTheNext()
+    {
+        m_list->m_act = [this] { m_list.reset(); };
+    }
+
+    tests::GuardedHeap m_heap; // ends the program at a use of the deleted list
+    tests::ListParent m_parent;
+    std::unique_ptr<ListAskedForACell> m_list = std::make_unique<ListAskedForACell>();
+};
+
+TEST_F(DeletedAtARepaint, OfACell)
+{
+    DeleteAtTheNext();
+    m_list->UpdateSubItem(1, 1);
+}
+
+TEST_F(DeletedAtARepaint, OfTheFirstCell)
+{
+    DeleteAtTheNext();
+    m_list->UpdateSubItem(1, 0);
+}
+
+TEST_F(DeletedAtARepaint, OfACheckBoxThatWasPressed)
+{
+    m_list->SetCheckbox(1, 1, XLC_UNCHECKED);
+    CRect cell;
+    ASSERT_TRUE(m_list->GetSubItemRect(1, 1, LVIR_BOUNDS, cell));
+    m_list->m_onCellClick = [this](int, int) { DeleteAtTheNext(); };
+    ::SendMessageW(m_list->m_hWnd, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(cell.left + 5, cell.CenterPoint().y));
+    tests::PumpPosted();
+}
+
+TEST_F(DeletedAtARepaint, OfACellWhoseEditEnds)
+{
+    m_list->DrawEditControl(1, 1);
+    HWND const edit = tests::OpenEditOf(*m_list);
+    ASSERT_NE(edit, nullptr);
+    ::SendMessageW(edit, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"typed"));
+    DeleteAtTheNext();
+    ::SetFocus(m_parent.m_hWnd);
+    tests::PumpPosted();
+}
 } // namespace

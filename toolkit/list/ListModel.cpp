@@ -575,6 +575,8 @@ void ListModel::ShowCheckByUser(int row, int col, int state)
         return;
     cell->checkedState = state;
     cell->properties |= XLP_MODIFIED;
+    Watch const watch(*this);
     m_items.Repaint(row, col);
-    m_items.TellOfCheck(row, col);
+    if (watch.IsAlive())
+        m_items.TellOfCheck(row, col);
 }

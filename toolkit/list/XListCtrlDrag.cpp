@@ -79,11 +79,14 @@ void CXListCtrl::begin_drag(NMHDR * header, LRESULT * result)
     auto const & notification = *reinterpret_cast<NMLISTVIEW const *>(header);
     m_drag->source = notification.iItem;
     CRect rect(0, 0, 0, 0);
+    Watch const watch(*this);
+    GetSubItemRect(m_drag->source, 0, LVIR_BOUNDS, rect);
+    if (!watch.IsAlive())
+        return;
     {
         ClientContext const context(*this);
         if (context.Get() == nullptr)
             return;
-        GetSubItemRect(m_drag->source, 0, LVIR_BOUNDS, rect);
         MakeDragImage(*context.Get(), rect);
     }
     CPoint const hotSpot = CPoint(notification.ptAction) - rect.TopLeft();

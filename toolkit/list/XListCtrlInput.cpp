@@ -69,8 +69,10 @@ void CXListCtrl::TakeUserChange(XLISTCTRLDATA & cell, int row, int col, unsigned
 {
     cell.properties |= XLP_MODIFIED;
     m_listModified = true;
+    Watch const watch(*this);
     UpdateSubItem(row, col);
-    OnItemStateChange(row, col, message);
+    if (watch.IsAlive())
+        OnItemStateChange(row, col, message);
 }
 
 // --- Mouse ---
@@ -183,8 +185,11 @@ bool CXListCtrl::OfferPress(int row, int col, CPoint point)
     CRect rect;
     if (kind == nullptr || !GetSubItemRect(row, col, LVIR_BOUNDS, rect))
         return false;
+    XLISTCTRLDATA * const cell = ValidCell(row, col);
+    if (cell == nullptr)
+        return false;
     Watch const watch(*this);
-    std::optional<CXListCellKind::Change> const change = kind->Press(*ValidCell(row, col), rect, point);
+    std::optional<CXListCellKind::Change> const change = kind->Press(*cell, rect, point);
     if (!watch.IsUnchanged())
         return true;
     if (change)

@@ -350,7 +350,10 @@ UINT CXListCtrl::AskAlignment(int col) const
 BOOL CXListCtrl::OnEraseBkgnd(CDC * dc)
 {
     m_paint->FollowSet(m_hWnd);
+    Watch const watch(*this);
     int const count = GetItemCount();
+    if (!watch.IsAlive())
+        return TRUE;
     CRect clip(0, 0, 0, 0);
     if (dc->GetClipBox(&clip) <= NULLREGION || (count <= 0 && !m_paint->palette.adapts))
         return CListCtrl::OnEraseBkgnd(dc);
@@ -361,11 +364,15 @@ BOOL CXListCtrl::OnEraseBkgnd(CDC * dc)
     }
 
     int const top = GetTopIndex();
-    int const last = std::min(top + GetCountPerPage(), count - 1);
+    int const page = watch.IsAlive() ? GetCountPerPage() : 0;
     CRect first(0, 0, 0, 0);
     CRect lowest(0, 0, 0, 0);
-    CListCtrl::GetSubItemRect(top, 0, LVIR_BOUNDS, first);
-    CListCtrl::GetSubItemRect(last, 0, LVIR_BOUNDS, lowest);
+    if (watch.IsAlive())
+        CListCtrl::GetSubItemRect(top, 0, LVIR_BOUNDS, first);
+    if (watch.IsAlive())
+        CListCtrl::GetSubItemRect(std::min(top + page, count - 1), 0, LVIR_BOUNDS, lowest);
+    if (!watch.IsAlive())
+        return TRUE;
 
     CRect const strips[] = {CRect(clip.left, clip.top, clip.right, first.top),
                             CRect(clip.left, lowest.bottom, clip.right, clip.bottom),

@@ -146,10 +146,11 @@ void CXListCtrl::UpdateSubItem(int row, int col)
         m_access->changed = true;
     if (m_batchInsert || row < 0 || col < -1 || col >= m_columnCount || row >= RowCount())
         return;
+    Watch const watch(*this);
     CRect rect;
     bool const known =
         col >= 0 ? GetSubItemRect(row, col, LVIR_BOUNDS, rect) : GetItemRect(row, &rect, LVIR_BOUNDS) != FALSE;
-    if (!known)
+    if (!known || !watch.IsAlive())
         return;
     rect.InflateRect(repaint_margin, repaint_margin);
     InvalidateRect(&rect, TRUE);
@@ -165,7 +166,10 @@ bool CXListCtrl::GetSubItemRect(int row, int col, int area, CRect & rect) const
         return ::SendMessageW(m_hWnd, LVM_GETSUBITEMRECT, static_cast<WPARAM>(row),
                               reinterpret_cast<LPARAM>(static_cast<RECT *>(&result))) == TRUE;
     };
+    Watch const watch(*this);
     bool known = native(col, rect);
+    if (!watch.IsAlive())
+        return false;
     if (col != 0)
         return known;
     // The native rectangle of the first column is that of the whole row.
@@ -173,6 +177,8 @@ bool CXListCtrl::GetSubItemRect(int row, int col, int area, CRect & rect) const
     {
         CRect other;
         known = native(next, other);
+        if (!watch.IsAlive())
+            return false;
         if (other.Width() > 0)
         {
             rect.right = other.left;
