@@ -166,7 +166,7 @@ TEST_F(WorkbenchFolderContents, AreReadOnAThread)
     while (told == 0)
         std::this_thread::yield();
     EXPECT_EQ(told, 1);
-    std::optional<Result> const result = reading.Take();
+    std::optional<FolderReading::Result> const result = reading.Take();
     ASSERT_TRUE(result);
     EXPECT_EQ(*result->contents, ContentsOf(m_folder));
     EXPECT_EQ(result->steps, StepsBetween(*before, *result->contents));

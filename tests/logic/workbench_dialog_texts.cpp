@@ -58,7 +58,7 @@ TEST(WorkbenchDialogTexts, HasItsCaptionAndTheTextsOfItsControls)
 {
     Template made;
     made.Head(0x40, 3, L"Title").Control(2, L"Cancel").Control(0xFFFF, L"&Label:", {1, 2, 3}).Control(1000, L"");
-    std::optional<DialogTexts> const texts = workbench::ReadDialogTexts(made.Bytes());
+    std::optional<workbench::DialogTexts> const texts = workbench::ReadDialogTexts(made.Bytes());
     ASSERT_TRUE(texts);
     EXPECT_EQ(texts->caption, L"Title");
     ASSERT_EQ(texts->controls.size(), 3U);
@@ -74,7 +74,7 @@ TEST(WorkbenchDialogTexts, ANumberInPlaceOfATextIsNone)
     Template made;
     made.Words({1, 0xFFFF, 0, 0, 0, 0, 0, 0, 1, 0, 0, 100, 50}).Words({0xFFFF, 7}).Text(L"own class").Text(L"Title");
     made.Control(3, L"");
-    std::optional<DialogTexts> const texts = workbench::ReadDialogTexts(made.Bytes());
+    std::optional<workbench::DialogTexts> const texts = workbench::ReadDialogTexts(made.Bytes());
     ASSERT_TRUE(texts);
     EXPECT_EQ(texts->caption, L"Title");
     EXPECT_EQ(texts->controls.front().id, 3U);

@@ -424,7 +424,7 @@ TEST(WorkbenchFrameMeasuresJob, TellsOfAllRowsAndOfItsEnd)
     Told told;
     FrameMeasuresJob job(Open(Recording(96000)), told.Listener());
     ASSERT_TRUE(told.WaitFor([&] { return told.ends > 0; }));
-    std::shared_ptr<Result const> const result = job.GetResult();
+    std::shared_ptr<FrameMeasuresJob::Result const> const result = job.GetResult();
     ASSERT_TRUE(result);
     EXPECT_FALSE(result->problem);
     EXPECT_TRUE(result->whole);
@@ -460,7 +460,7 @@ TEST(WorkbenchFrameMeasuresJob, WhatWasMeasuredStaysWhenReadingFails)
     Told told;
     FrameMeasuresJob job([] { return std::make_unique<Throwing>(); }, told.Listener());
     ASSERT_TRUE(told.WaitFor([&] { return told.ends > 0; }));
-    std::shared_ptr<Result const> const result = job.GetResult();
+    std::shared_ptr<FrameMeasuresJob::Result const> const result = job.GetResult();
     ASSERT_TRUE(result);
     EXPECT_FALSE(result->problem);
     EXPECT_FALSE(result->whole);

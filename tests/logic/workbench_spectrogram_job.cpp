@@ -70,7 +70,7 @@ TEST_F(SpectrogramJobTest, GivesTheSpectrogramOnceItIsDone)
 {
     SpectrogramJob job(Recording(50'000), Notify());
     ASSERT_TRUE(WaitForNotification());
-    std::shared_ptr<Result const> const result = job.GetResult();
+    std::shared_ptr<SpectrogramJob::Result const> const result = job.GetResult();
     ASSERT_TRUE(result);
     EXPECT_FALSE(result->problem);
     EXPECT_EQ(result->info.sampleRate, 8000u);
@@ -84,7 +84,7 @@ TEST_F(SpectrogramJobTest, GivesTheProblemOfAFileThatCannotBeRead)
 {
     SpectrogramJob job("missing.wav", Notify());
     ASSERT_TRUE(WaitForNotification());
-    std::shared_ptr<Result const> const result = job.GetResult();
+    std::shared_ptr<SpectrogramJob::Result const> const result = job.GetResult();
     ASSERT_TRUE(result && result->problem);
     EXPECT_EQ(result->problem->fault, ReadFault::cannot_be_opened);
     EXPECT_EQ(result->spectrogram.Columns(), 0u);

@@ -194,7 +194,7 @@ TEST_F(AccessControls, SliderSpeaksItsLevel)
     slider.SetPos(10);
     EXPECT_EQ(ValueOf(*m_object.Get()), L"75%");
     slider.SetPos(10);
-    std::vector<Event> heard = listener.Take();
+    std::vector<Listener::Event> heard = listener.Take();
     EXPECT_EQ(Times(heard, EVENT_OBJECT_VALUECHANGE, 0), 1);
     slider.SendMessage(WM_KEYDOWN, VK_HOME, 0);
     EXPECT_EQ(ValueOf(*m_object.Get()), L"0%");
@@ -265,7 +265,7 @@ TEST_F(AccessControls, ASliderLeavesToTheNativeOneWhatThatTells)
     for (int position = 2; position < 20; ++position)
     {
         slider.SetPos(position);
-        std::vector<Event> const heard = listener.Take();
+        std::vector<Listener::Event> const heard = listener.Take();
         EXPECT_EQ(Times(heard, EVENT_OBJECT_VALUECHANGE, 0), 1) << position;
     }
     slider.DestroyWindow();
@@ -281,7 +281,7 @@ TEST_F(AccessControls, ASliderGoesOnTellingWhereTheNativeOneDoesNot)
     for (int position = 1; position < 20; ++position)
     {
         slider.SetPos(position);
-        std::vector<Event> const heard = listener.Take();
+        std::vector<Listener::Event> const heard = listener.Take();
         EXPECT_EQ(Times(heard, EVENT_OBJECT_VALUECHANGE, 0), 1) << position;
     }
     slider.DestroyWindow();
@@ -298,7 +298,7 @@ TEST_F(AccessControls, AListLeavesToTheNativeOneWhatThatTells)
     Listener listener(list.m_hWnd);
     auto const heard = [&](UINT state, DWORD event) {
         list.SetItemState(1, state, LVIS_SELECTED);
-        std::vector<Event> const events = listener.Take();
+        std::vector<Listener::Event> const events = listener.Take();
         return Times(events, event, 2);
     };
     heard(LVIS_SELECTED, EVENT_OBJECT_SELECTION);

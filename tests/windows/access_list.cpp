@@ -142,7 +142,7 @@ TEST_F(AccessObjects, TellOfChanges)
     m_list.SetItemText(2, 2, L"new");
     m_list.SetItemState(3, LVIS_FOCUSED | LVIS_SELECTED, LVIS_FOCUSED | LVIS_SELECTED);
     m_list.DeleteItem(0);
-    std::vector<Event> const heard = listener.Take();
+    std::vector<Listener::Event> const heard = listener.Take();
     listener.events = heard;
     EXPECT_TRUE(listener.Heard(EVENT_OBJECT_STATECHANGE, {1, 1}));
     EXPECT_TRUE(listener.Heard(EVENT_OBJECT_VALUECHANGE, {2, 2}));

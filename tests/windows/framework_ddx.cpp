@@ -215,7 +215,7 @@ TEST_F(DataExchange, FailureShowsAWarningAndSelectsTheTextOfTheControl)
         DDX_Text(pDX, IDC_INT, value);
         DDX_Text(pDX, IDC_TEXT, never);
     }));
-    std::vector<Message> const messages = tests::App().Take();
+    std::vector<tests::TestApp::Message> const messages = tests::App().Take();
     ASSERT_EQ(messages.size(), 1u);
     EXPECT_EQ(messages[0].type, static_cast<UINT>(MB_ICONEXCLAMATION));
     EXPECT_EQ(messages[0].helpId, 0xF110u);

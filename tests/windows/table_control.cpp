@@ -724,17 +724,17 @@ TEST_F(TableControl, AFormerFileStaysUntilTheNewOneIsWhole)
 {
     ExportFolder folder;
     auto const rows = std::make_shared<FailingSource>();
-    table->SetSource(rows);
+    m_table->SetSource(rows);
     int ended = 0;
     bool whole = true;
-    table->m_onExportEnd = [&](bool all) {
+    m_table->m_onExportEnd = [&](bool all) {
         ++ended;
         whole = all;
     };
 
     // The source fails after most of the rows.
     rows->fails = true;
-    ASSERT_TRUE(table->ExportRows(folder.File().wstring(), TableForm::csv, false));
+    ASSERT_TRUE(m_table->ExportRows(folder.File().wstring(), TableForm::csv, false));
     ASSERT_TRUE(tests::PumpUntil([&] { return ended == 1; }));
     EXPECT_FALSE(whole);
     EXPECT_EQ(folder.Contents(), "former");
@@ -743,10 +743,10 @@ TEST_F(TableControl, AFormerFileStaysUntilTheNewOneIsWhole)
     // The work is stopped there.
     rows->waits = true;
     rows->failing = false;
-    ASSERT_TRUE(table->ExportRows(folder.File().wstring(), TableForm::csv, false));
+    ASSERT_TRUE(m_table->ExportRows(folder.File().wstring(), TableForm::csv, false));
     ASSERT_TRUE(tests::PumpUntil([&] { return rows->failing.load(); }));
     EXPECT_EQ(folder.Contents(), "former");
-    table->StopExport();
+    m_table->StopExport();
     rows->waits = false;
     ASSERT_TRUE(tests::PumpUntil([&] { return ended == 2; }));
     EXPECT_FALSE(whole);
@@ -754,7 +754,7 @@ TEST_F(TableControl, AFormerFileStaysUntilTheNewOneIsWhole)
     EXPECT_EQ(folder.Count(), 1U);
 
     rows->fails = false;
-    ASSERT_TRUE(table->ExportRows(folder.File().wstring(), TableForm::csv, false));
+    ASSERT_TRUE(m_table->ExportRows(folder.File().wstring(), TableForm::csv, false));
     ASSERT_TRUE(tests::PumpUntil([&] { return ended == 3; }));
     EXPECT_TRUE(whole);
     EXPECT_EQ(folder.Contents().substr(0, 7), "\xEF\xBB\xBFName");
@@ -767,14 +767,14 @@ TEST_F(TableControl, AFormerFileThatAnotherProgramKeepsStays)
     Show({1, 2});
     int ended = 0;
     bool whole = true;
-    table->m_onExportEnd = [&](bool all) {
+    m_table->m_onExportEnd = [&](bool all) {
         ++ended;
         whole = all;
     };
     HANDLE const reader = ::CreateFileW(folder.File().c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
                                         FILE_ATTRIBUTE_NORMAL, nullptr);
     ASSERT_NE(reader, INVALID_HANDLE_VALUE);
-    ASSERT_TRUE(table->ExportRows(folder.File().wstring(), TableForm::csv, false));
+    ASSERT_TRUE(m_table->ExportRows(folder.File().wstring(), TableForm::csv, false));
     EXPECT_TRUE(tests::PumpUntil([&] { return ended == 1; }));
     ::CloseHandle(reader);
     EXPECT_FALSE(whole);

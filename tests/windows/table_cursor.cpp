@@ -284,7 +284,7 @@ TEST_F(TableCursor, ProgramsThatReadTheScreenFollowIt)
     access_tests::Listener listener(m_table->m_hWnd);
     auto const heardAt = [&](int position, int place) {
         tests::PumpPosted();
-        std::vector<Event> const heard = listener.Take();
+        std::vector<access_tests::Listener::Event> const heard = listener.Take();
         return std::count(heard.begin(), heard.end(),
                           access_tests::Listener::Event(EVENT_OBJECT_FOCUS, accessible::NumberOf({position, place})));
     };

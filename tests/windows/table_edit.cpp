@@ -423,18 +423,18 @@ TEST_F(TableEdits, AMessageOfAnEndedWindowIsNotForTheNextOne)
     Show(std::vector<double>(100, 1.0));
     std::vector<TableColumn> columns = Columns();
     columns[TableRowsSource::name_column].check = [this](TableValue const &) {
-        table->DestroyWindow();
-        table->Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 380, 220), parent, 7);
+        m_table->DestroyWindow();
+        m_table->Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 380, 220), m_host, 7);
         return std::wstring();
     };
-    table->SetColumns(columns);
-    HWND const former = table->m_hWnd;
-    ASSERT_TRUE(table->EditCell(0, TableRowsSource::name_column));
+    m_table->SetColumns(columns);
+    HWND const former = m_table->m_hWnd;
+    ASSERT_TRUE(m_table->EditCell(0, TableRowsSource::name_column));
     SetText(L"typed");
-    table->SendMessage(WM_VSCROLL, SB_PAGEDOWN, 0);
+    m_table->SendMessage(WM_VSCROLL, SB_PAGEDOWN, 0);
     EXPECT_FALSE(::IsWindow(former));
-    ASSERT_NE(table->m_hWnd, nullptr);
-    EXPECT_EQ(table->GetTopIndex(), 0);
+    ASSERT_NE(m_table->m_hWnd, nullptr);
+    EXPECT_EQ(m_table->GetTopIndex(), 0);
 }
 
 /// Does something within each notification of some native code.

@@ -91,28 +91,27 @@ TEST_F(TableLive, OneRepaintShowsWhatManyTold)
             --telling;
         });
     }
-}
-ASSERT_TRUE(tests::PumpUntil([&telling] { return telling == 0; }));
-for (std::thread & each : tellers)
-    each.join();
-// The last ones come within the time of a repaint.
-unsigned long long repaints = 0;
-ASSERT_TRUE(tests::PumpUntil([&] {
-    repaints = m_table->Repaints();
-    MSG message;
-    return !::PeekMessageW(&message, m_table->m_hWnd, 0, 0, PM_NOREMOVE) && !m_table->GetUpdateRect(nullptr);
-}));
-auto const milliseconds = static_cast<unsigned long long>(::GetTickCount64() - began);
-EXPECT_GT(repaints, before);
-EXPECT_LE(repaints - before, milliseconds / 16 + 3);
-for (TableRow row = 0; row < 50; ++row)
-{
-    TableValue value;
-    ASSERT_TRUE(m_source->Read(row, TableRowsSource::number_column, value));
-    std::wstring text;
-    ShowNumber(text, value.Number(), {NumberStyle::fixed, 1, false, UnitPlace::nowhere, {}}, L'.');
-    EXPECT_EQ(m_table->GetItemText(static_cast<int>(row), 1), text.c_str());
-}
+    ASSERT_TRUE(tests::PumpUntil([&telling] { return telling == 0; }));
+    for (std::thread & each : tellers)
+        each.join();
+    // The last ones come within the time of a repaint.
+    unsigned long long repaints = 0;
+    ASSERT_TRUE(tests::PumpUntil([&] {
+        repaints = m_table->Repaints();
+        MSG message;
+        return !::PeekMessageW(&message, m_table->m_hWnd, 0, 0, PM_NOREMOVE) && !m_table->GetUpdateRect(nullptr);
+    }));
+    auto const milliseconds = static_cast<unsigned long long>(::GetTickCount64() - began);
+    EXPECT_GT(repaints, before);
+    EXPECT_LE(repaints - before, milliseconds / 16 + 3);
+    for (TableRow row = 0; row < 50; ++row)
+    {
+        TableValue value;
+        ASSERT_TRUE(m_source->Read(row, TableRowsSource::number_column, value));
+        std::wstring text;
+        ShowNumber(text, value.Number(), {NumberStyle::fixed, 1, false, UnitPlace::nowhere, {}}, L'.');
+        EXPECT_EQ(m_table->GetItemText(static_cast<int>(row), 1), text.c_str());
+    }
 }
 
 /// Real mouse and keys, changes of the source, sorts and filters in turns. The table must agree with what the source
@@ -236,5 +235,4 @@ TEST_F(TableLive, FiveThousandOperationsAtRandom)
             }
         }
     }
-}
 }

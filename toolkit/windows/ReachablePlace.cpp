@@ -99,8 +99,8 @@ ScreenArea const * ScreenOf(CRect const & place, std::span<ScreenArea const> scr
 
 bool IsCaptionReachable(CRect const & place, std::span<ScreenArea const> screens, int captionHeight)
 {
-    long long const wanted = std::clamp<Length>(static_cast<Length>(place.right) - place.left, 0, least_caption_width);
-    long long const height =
+    Length const wanted = std::clamp<Length>(static_cast<Length>(place.right) - place.left, 0, least_caption_width);
+    Length const height =
         std::clamp<Length>(static_cast<Length>(place.bottom) - place.top, 0, std::max(captionHeight, 0));
     return std::any_of(screens.begin(), screens.end(), [&](ScreenArea const & screen) {
         return !IsEmpty(screen) && place.top >= screen.work.top && place.top + height <= screen.work.bottom &&
@@ -120,8 +120,8 @@ CRect ReachablePlace(StoredPlace const & stored, std::span<ScreenArea const> scr
     }
     auto const width = static_cast<Length>(place.right) - place.left;
     auto const height = static_cast<Length>(place.bottom) - place.top;
-    long long newWidth = width;
-    long long newHeight = height;
+    Length newWidth = width;
+    Length newHeight = height;
     CRect const & work = screen->work;
     if (shape.sizable)
     {

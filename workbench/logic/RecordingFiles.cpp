@@ -18,7 +18,7 @@ using NativeText = std::filesystem::path::string_type;
 /// valid text in any other.
 NativeText LowerCase(NativeText text)
 {
-    for (wchar_t & c : text)
+    for (NativeText::value_type & c : text)
     {
         if (c >= 'A' && c <= 'Z')
         {
