@@ -204,19 +204,25 @@ bool CXListCtrl::OfferKey(UINT key)
     if (object == nullptr || !object->HasKinds())
         return false;
     Watch const watch(*this);
-    for (int col = 0; col < m_columnCount; ++col)
-    {
+    // Whether the cell has taken it, or has changed so much that no other one is asked.
+    auto const offer = [&](int col) {
         std::shared_ptr<CXListCellKind> const kind = GetCellKind(row, col);
         if (kind == nullptr || !GetEnabled(row, col))
-            continue;
+            return false;
         std::optional<CXListCellKind::Change> const change = kind->Key(*ValidCell(row, col), key);
         if (!watch.IsUnchanged())
             return true;
         if (change)
-        {
             ChangeByKind(row, col, *change);
+        return change.has_value();
+    };
+    int const first = m_cursor->IsOn() ? m_cursor->Place().second : -1;
+    if (first >= 0 && offer(first))
+        return true;
+    for (int col = 0; col < m_columnCount; ++col)
+    {
+        if (col != first && offer(col))
             return true;
-        }
     }
     return false;
 }
