@@ -17,9 +17,12 @@ bool IsInRange(TableValue const & value, TableFilter::RangePart const & range)
         auto const number = static_cast<double>(value.Whole());
         return number >= range.least && number <= range.greatest;
     }
-    default:
-        return false;
+    case TableKind::blank:
+    case TableKind::text:
+    case TableKind::link:
+        break;
     }
+    return false;
 }
 } // namespace
 

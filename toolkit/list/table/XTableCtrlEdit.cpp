@@ -51,9 +51,13 @@ std::wstring OwnReason(TableRefused const & refused, TableColumn const * column)
         return ReadOwnText(OwnText::not_a_number);
     case TableKind::time:
         return ReadOwnText(OwnText::not_a_time);
-    default:
-        return ReadOwnText(OwnText::not_a_value);
+    case TableKind::blank:
+    case TableKind::text:
+    case TableKind::tick:
+    case TableKind::link:
+        break;
     }
+    return ReadOwnText(OwnText::not_a_value);
 }
 
 /// Of the edit, so that no host hears when it is shown.
