@@ -6,6 +6,7 @@ It reads the headers as they are formatted here. Run it after a change of a publ
 import argparse
 import pathlib
 import re
+import sys
 
 here = pathlib.Path(__file__).resolve().parent
 toolkit = here.parents[2] / "toolkit"
@@ -165,7 +166,9 @@ def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("--output", type=pathlib.Path, default=here / "public_functions.cpp",
                         help="the file to write instead of the one beside this program")
-    output = parser.parse_args().output
+    parser.add_argument("--check", action="store_true",
+                        help="write nothing, and fail where the file has something else than would be written")
+    options = parser.parse_args()
     out = []
     for header in headers():
         lines_of("", cleaned((toolkit / header).read_text()), False, [])  # learns the nested types
@@ -175,7 +178,7 @@ def main():
         if lines:
             out += [f"\n    // {header}"] + lines
     includes = "\n".join(f'#include "{header}"' for header in headers() if header != "instrument_ui.h")
-    output.write_text(
+    text = (
         "// Written by make_public_functions.py. Uses what the public headers declare, so that a function that the module\n"
         "// does not export keeps this program from being linked.\n\n"
         "// clang-format off\n"
@@ -185,6 +188,10 @@ def main():
         "template <typename T> void Use(T used)\n{\n    [[maybe_unused]] static T volatile place;\n    place = used;\n}\n\n"
         "void UseAll()\n{\n" + shown("\n".join(out)).lstrip("\n") + "\n}\n} // namespace\n\n"
         "int main()\n{\n    UseAll();\n    return 0;\n}\n")
+    if not options.check:
+        options.output.write_text(text)
+    elif options.output.read_text() != text:
+        sys.exit(f"{options.output} is not of the present headers; {pathlib.Path(__file__).name} writes it anew")
     print(sum(line.startswith("    Use") for line in out), "uses")
 
 

@@ -499,6 +499,7 @@ void UseAll()
     Use(+[](CEdges const & object, CEdges const & a0) -> CEdges { return object.CEdges::operator|(std::forward<CEdges const &>(a0)); });
 
     // list/XHeaderCtrl.h
+    Use(+[]() { delete new CXHeaderCtrl(); });
     Use(+[](CXHeaderCtrl & object, CXListCtrl * a0) -> void { return object.CXHeaderCtrl::SetList(std::forward<CXListCtrl *>(a0)); });
     Use(+[](CXHeaderCtrl & object, unsigned int a0) -> void { return object.CXHeaderCtrl::SetAlignment(std::forward<unsigned int>(a0)); });
     Use(+[](CXHeaderCtrl & object, COLORREF a0) -> void { return object.CXHeaderCtrl::SetTextColor(std::forward<COLORREF>(a0)); });
@@ -518,6 +519,7 @@ void UseAll()
     Use(+[](CXListCellKind const & object, XLISTCTRLDATA const & a0) -> std::optional<CString> { return object.CXListCellKind::ExportText(std::forward<XLISTCTRLDATA const &>(a0)); });
 
     // list/XListCtrl.h
+    Use(+[]() { delete new CXListCtrl(); });
     Use(+[](CXListCtrl & object, wchar_t const * a0, int a1, int a2) -> int { return object.CXListCtrl::AddColumn(std::forward<wchar_t const *>(a0), std::forward<int>(a1), std::forward<int>(a2)); });
     Use(+[](CXListCtrl & object, int a0, wchar_t const * a1, int a2, int a3, int a4) -> int { return object.CXListCtrl::InsertColumn(std::forward<int>(a0), std::forward<wchar_t const *>(a1), std::forward<int>(a2), std::forward<int>(a3), std::forward<int>(a4)); });
     Use(+[](CXListCtrl const & object) -> int { return object.CXListCtrl::GetColumnCount(); });
@@ -677,6 +679,7 @@ void UseAll()
     Use(+[](XLISTCTRLDATA & object) -> void { return object.XLISTCTRLDATA::MakeLink(); });
     Use(+[](XLISTCTRLDATA & object) -> void { return object.XLISTCTRLDATA::MakeProgress(); });
     Use(+[](XLISTCTRLDATA & object) -> void { return object.XLISTCTRLDATA::MakeCombo(); });
+    Use(+[] { delete new XLISTCTRLDATA; });
 
     // list/table/NumberFormat.h
     Use(+[] { delete new NumberFormat; });
@@ -688,6 +691,7 @@ void UseAll()
     Use(+[] { delete new TableRowRange; });
     Use(+[](TableChanges const & object) -> bool { return object.TableChanges::IsEmpty(); });
     Use(+[] { delete new TableChanges; });
+    Use(+[](std::shared_ptr<TableWaker> a0) { delete new TableFeed(std::forward<std::shared_ptr<TableWaker>>(a0)); });
     Use(+[](TableFeed & object, TableRow a0, TableRow a1) -> void { return object.TableFeed::RowsChanged(std::forward<TableRow>(a0), std::forward<TableRow>(a1)); });
     Use(+[](TableFeed & object, TableRow a0) -> void { return object.TableFeed::RowsAppended(std::forward<TableRow>(a0)); });
     Use(+[](TableFeed & object) -> void { return object.TableFeed::AllChanged(); });
@@ -696,11 +700,14 @@ void UseAll()
 
     // list/table/TableForms.h
     Use(+[] { delete new TableRefused; });
+    Use(+[] { delete new TablePasteReport; });
 
     // list/table/TableOrder.h
     Use(+[] { delete new TableSortColumn; });
     Use(+[] { delete new TableFilter::TextPart; });
+    Use(+[] { delete new TableFilter::RangePart; });
     Use(+[](TableFilter const & object) -> bool { return object.TableFilter::IsEmpty(); });
+    Use(+[] { delete new TableFilter; });
 
     // list/table/TableSource.h
     Use(+[](TableValue const & object) -> TableKind { return object.TableValue::Kind(); });
@@ -714,6 +721,7 @@ void UseAll()
     Use(+[](TableValue & object, bool a0) -> void { return object.TableValue::SetTick(std::forward<bool>(a0)); });
     Use(+[](TableValue & object, double a0) -> void { return object.TableValue::SetProgress(std::forward<double>(a0)); });
     Use(+[](TableValue & object, std::wstring_view a0) -> void { return object.TableValue::SetLink(std::forward<std::wstring_view>(a0)); });
+    Use(+[] { delete new TableValue; });
     Use(+[](TableSource const & object, TableRow a0) -> TableKey { return object.TableSource::Key(std::forward<TableRow>(a0)); });
     Use(+[](TableSource const & object, TableKey a0) -> TableRow { return object.TableSource::RowOfKey(std::forward<TableKey>(a0)); });
     Use(+[](TableSource & object, TableRow a0, unsigned int a1, TableValue const & a2) -> bool { return object.TableSource::Write(std::forward<TableRow>(a0), std::forward<unsigned int>(a1), std::forward<TableValue const &>(a2)); });
