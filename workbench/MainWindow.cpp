@@ -874,18 +874,28 @@ void CMainWindow::LookAfterOwned()
 /// owner, other systems do when it is activated: a click raises it a little later, without a message that says so.
 LRESULT CMainWindow::OnRaiseDialogs(WPARAM, LPARAM)
 {
+    auto const isOwned = [this](HWND window) {
+        return ::GetWindow(window, GW_OWNER) == m_hWnd && ::IsWindowVisible(window);
+    };
     std::vector<HWND> below;
     for (HWND window = ::GetWindow(m_hWnd, GW_HWNDNEXT); window != nullptr; window = ::GetWindow(window, GW_HWNDNEXT))
     {
-        if (::GetWindow(window, GW_OWNER) == m_hWnd && ::IsWindowVisible(window))
+        if (isOwned(window))
         {
             below.push_back(window);
         }
     }
-    for (std::size_t i = below.size(); i > 0; --i)
+    // Those that are above still were above these: this window may have been raised while they were put back.
+    HWND upper = ::GetWindow(m_hWnd, GW_HWNDPREV);
+    while (upper != nullptr && !isOwned(upper))
     {
-        ::SetWindowPos(below[i - 1], HWND_TOP, 0, 0, 0, 0,
+        upper = ::GetWindow(upper, GW_HWNDPREV);
+    }
+    for (HWND const window : below)
+    {
+        ::SetWindowPos(window, upper != nullptr ? upper : HWND_TOP, 0, 0, 0, 0,
                        SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_NOOWNERZORDER);
+        upper = window;
     }
     return 0;
 }
