@@ -1,15 +1,15 @@
 // Opening the drop-down of an advanced combo box beside that of a native one.
 
 #include <afxwin.h>
-#include "ControlBench.h"
-#include "Measure.h"
-
-#include "list/VisualStyles.h"
-#include "list/combo/AdvComboBox.h"
-#include "list/combo/DropWnd.h"
 
 #include <string>
 #include <vector>
+
+#include "ControlBench.h"
+#include "list/combo/AdvComboBox.h"
+#include "list/combo/DropWnd.h"
+#include "list/VisualStyles.h"
+#include "Measure.h"
 
 // The module keeps its own object to itself.
 CVisualStyles & VisualStyles()

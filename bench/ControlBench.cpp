@@ -1,7 +1,8 @@
 // Puts the toolkit beside the native controls and calls, in one run on real windows.
 
-#include <afxwin.h>
 #include "ControlBench.h"
+
+#include <afxwin.h>
 
 #include <regex>
 
@@ -45,7 +46,9 @@ int main(int argc, char ** argv)
     std::regex const filter(argc > 1 ? argv[1] : ".");
     bool allMet = true;
     for (Measure const & measure : measures)
+    {
         if (std::regex_search(measure.name, filter))
             allMet = measure.run() && allMet;
+    }
     return allMet ? 0 : 1;
 }

@@ -1,11 +1,12 @@
 // Docked panes beside the same windows moved by the window system's own call.
 
 #include <afxcontrolbars.h>
-#include "ControlBench.h"
-#include "Measure.h"
 
 #include <memory>
 #include <vector>
+
+#include "ControlBench.h"
+#include "Measure.h"
 
 namespace
 {

@@ -3,9 +3,6 @@
 
 #include <afxcmn.h>
 #include <afxwin.h>
-#include "ControlBench.h"
-#include "FrameMeasuresPanel.h"
-#include "Measure.h"
 
 #include <algorithm>
 #include <atomic>
@@ -14,6 +11,10 @@
 #include <functional>
 #include <memory>
 #include <vector>
+
+#include "ControlBench.h"
+#include "FrameMeasuresPanel.h"
+#include "Measure.h"
 
 namespace
 {
@@ -95,7 +96,7 @@ public:
     /// The median of the longest ones.
     double Longest() const
     {
-        auto all = m_all;
+        std::vector<double> all = m_all;
         std::ranges::sort(all, std::greater());
         all.resize(std::min(all.size(), waits_that_count));
         return all.empty() ? 0 : bench::Median(all);
@@ -153,11 +154,13 @@ Filling Fill(std::uint32_t seconds, std::vector<TableSortColumn> const & sort)
     PumpUntil(
         [&] {
             if (told.exchange(false))
+            {
                 filling.native.Add(bench::Nanoseconds([&] {
                     native.SetItemCountEx(static_cast<int>(job.Rows()->Size()),
                                           LVSICF_NOINVALIDATEALL | LVSICF_NOSCROLL);
                     native.UpdateWindow();
                 }));
+            }
             return job.GetResult() != nullptr;
         },
         filling.native);
@@ -179,7 +182,7 @@ double MeasuringAlone()
 unsigned long long BytesOfARow()
 {
     workbench::FrameStore store;
-    auto const empty = store.Memory();
+    std::size_t const empty = store.Memory();
     std::vector<workbench::FrameMeasures> const rows(1000);
     for (std::uint32_t second = 0; second < hour; ++second)
         store.Append(rows);

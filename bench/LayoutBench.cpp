@@ -1,12 +1,13 @@
 // The layout engine on real windows beside the window system's own calls.
 
 #include <afxwin.h>
-#include "layout/DialogResizer.h"
-#include "ControlBench.h"
-#include "Measure.h"
 
 #include <cstdio>
 #include <memory>
+
+#include "ControlBench.h"
+#include "layout/DialogResizer.h"
+#include "Measure.h"
 
 /// 1,000 visible children in a visible window: the resizer's layout beside the same calls with the places worked out
 /// before. A layout moves and invalidates each child; what the platform takes for the latter shows in the name.

@@ -1,16 +1,17 @@
 // Filling a report list beside filling a native one with the same texts.
 
 #include <afxcmn.h>
-#include "list/XListCtrl.h"
-#include "list/XListRowPool.h"
-#include "ControlBench.h"
-#include "Measure.h"
-#include "ModuleAllocations.h"
 
 #include <cstdio>
 #include <memory>
 #include <string>
 #include <vector>
+
+#include "ControlBench.h"
+#include "list/XListCtrl.h"
+#include "list/XListRowPool.h"
+#include "Measure.h"
+#include "ModuleAllocations.h"
 
 namespace
 {
@@ -227,8 +228,10 @@ unsigned long long BytesInUse()
         ::HeapLock(heap);
         PROCESS_HEAP_ENTRY entry{};
         while (::HeapWalk(heap, &entry))
+        {
             if ((entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) != 0)
                 bytes += entry.cbData + entry.cbOverhead;
+        }
         ::HeapUnlock(heap);
     }
     return bytes;

@@ -2,14 +2,15 @@
 // native one; exporting it as text.
 
 #include <afxcmn.h>
-#include "clipboard/Clipboard.h"
-#include "list/XListCtrl.h"
-#include "ControlBench.h"
-#include "Measure.h"
 
 #include <iterator>
 #include <string>
 #include <vector>
+
+#include "clipboard/Clipboard.h"
+#include "ControlBench.h"
+#include "list/XListCtrl.h"
+#include "Measure.h"
 
 namespace
 {
@@ -193,7 +194,7 @@ bool SearchIn(int rowCount)
     bool allMet = true;
     for (Place const & place : places)
     {
-        auto const * const name = place.name;
+        char const * const name = place.name;
         int const row = place.row;
         // The first row takes so little time that many searches are measured at once.
         int const calls = row == 0 ? 1000 : 1;

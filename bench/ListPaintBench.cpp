@@ -2,15 +2,15 @@
 // list whose owner draws each cell with the same calls by hand.
 
 #include <afxcmn.h>
-#include "list/XListCtrl.h"
-#include "ControlBench.h"
-#include "Measure.h"
+#include <gdiplus.h>
 
 #include <functional>
 #include <string>
 #include <vector>
 
-#include <gdiplus.h>
+#include "ControlBench.h"
+#include "list/XListCtrl.h"
+#include "Measure.h"
 
 namespace
 {
@@ -149,8 +149,10 @@ bool PageOf(char const * name, Change && change, HandDrawing draw, CImageList * 
     }
     page.m_ours.SetBatchInsertMode(true);
     for (int row = 0; row < row_count; ++row)
+    {
         for (int column = 0; column < column_count; ++column)
             change(page.m_ours, row, column);
+    }
     page.m_ours.SetBatchInsertMode(false);
     PumpAll();
     return PaintAndReport(page, name, 1.1);

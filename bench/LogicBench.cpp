@@ -56,7 +56,9 @@ int main(int argc, char ** argv)
     std::regex const filter(argc > 1 ? argv[1] : ".");
     bool allMet = true;
     for (Measure const & measure : measures)
+    {
         if (std::regex_search(measure.name, filter))
             allMet = measure.run() && allMet;
+    }
     return allMet ? 0 : 1;
 }

@@ -1,14 +1,13 @@
 // What a combo does for a character typed, with as many items as a list of channels has.
 
-#include "LogicBench.h"
-#include "Measure.h"
-
 #include <benchmark/benchmark.h>
 
 #include <list>
 #include <string>
 
 #include "list/combo/ComboItems.h"
+#include "LogicBench.h"
+#include "Measure.h"
 
 namespace
 {
@@ -44,7 +43,7 @@ void TypeACharacter(benchmark::State & state)
 {
     ComboItems const & items = TheItems().items;
     std::wstring const typed = L"channel";
-    for (auto _ : state)
+    for (benchmark::State::StateIterator::Value _ : state)
     {
         combo_item const * const completion = items.Completion(typed);
         benchmark::DoNotOptimize(completion);
@@ -56,7 +55,7 @@ void TypeACharacter(benchmark::State & state)
 void CopyTheItems(benchmark::State & state)
 {
     std::list<combo_item> const & list = TheItems().list;
-    for (auto _ : state)
+    for (benchmark::State::StateIterator::Value _ : state)
     {
         std::list<combo_item> const copy = list;
         benchmark::DoNotOptimize(copy.size());

@@ -1,14 +1,14 @@
 // The layout engine's arithmetic beside the plain loop over the same data.
 
-#include "layout/DialogResizer.h"
-#include "layout/LayoutPlatform.h"
-#include "LogicBench.h"
-#include "Measure.h"
-
 #include <benchmark/benchmark.h>
 
 #include <cstdlib>
 #include <random>
+
+#include "layout/DialogResizer.h"
+#include "layout/LayoutPlatform.h"
+#include "LogicBench.h"
+#include "Measure.h"
 
 namespace
 {

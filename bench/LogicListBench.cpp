@@ -1,14 +1,14 @@
 // Searches over a list's rows beside the plain loop over the same records.
 
-#include "list/XListRowPool.h"
-#include "list/XListSearch.h"
-#include "LogicBench.h"
-#include "Measure.h"
-
 #include <benchmark/benchmark.h>
 
 #include <cstdio>
 #include <vector>
+
+#include "list/XListRowPool.h"
+#include "list/XListSearch.h"
+#include "LogicBench.h"
+#include "Measure.h"
 
 namespace
 {
@@ -45,7 +45,7 @@ void SearchByFindTopmostRow(benchmark::State & state)
 {
     Rows const & rows = TheRows();
     long long data = last_data;
-    for (auto _ : state)
+    for (benchmark::State::StateIterator::Value _ : state)
     {
         benchmark::DoNotOptimize(data);
         int const found = FindTopmostRow(
@@ -63,16 +63,18 @@ void SearchByPlainLoop(benchmark::State & state)
 {
     std::vector<XLISTCTRLROW *> const & parameters = TheRows().parameters;
     long long data = last_data;
-    for (auto _ : state)
+    for (benchmark::State::StateIterator::Value _ : state)
     {
         benchmark::DoNotOptimize(data);
         int found = -1;
         for (int row = 0; row < row_count; ++row)
+        {
             if (parameters[static_cast<std::size_t>(row)]->cells()[0].itemData64 == data)
             {
                 found = row;
                 break;
             }
+        }
         if (found != last_data)
             state.SkipWithError("not found");
         benchmark::DoNotOptimize(found);

@@ -1,11 +1,6 @@
 // Looking at a recording of one hour: what a picture of its waveform takes at any zoom, beside the time that a film
 // gives it.
 
-#include "LogicBench.h"
-#include "Measure.h"
-#include "logic/RecordingAnalysis.h"
-#include "logic/WaveformDetail.h"
-
 #include <algorithm>
 #include <array>
 #include <filesystem>
@@ -14,6 +9,11 @@
 #include <random>
 #include <string>
 #include <vector>
+
+#include "logic/RecordingAnalysis.h"
+#include "logic/WaveformDetail.h"
+#include "LogicBench.h"
+#include "Measure.h"
 
 namespace
 {
@@ -109,10 +109,12 @@ bool bench::LookingAtAnHour()
     if (detail.IsRefining())
         refined.get_future().wait();
     for (std::uint64_t const seconds : {3600, 600, 60, 10, 1})
+    {
         met = Report("scrolling through an hour, " + std::to_string(seconds) +
                          " s shown, the slowest picture beside a thirtieth of a second",
                      SlowestPicture(detail, seconds * sample_rate, 50), picture_time, 1.0) &&
               met;
+    }
     workbench::TimeWindow window(frame_count);
     double slowest = 0;
     for (int i = 0; i < 60; ++i)

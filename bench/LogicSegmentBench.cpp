@@ -1,14 +1,14 @@
 // A line of segment characters painted on a surface that does nothing: with the curves kept from the paint before, and
 // with every curve fitted anew.
 
-#include "segments/DigiPaint.h"
-#include "LogicBench.h"
-#include "Measure.h"
-
 #include <benchmark/benchmark.h>
 
 #include <cstdio>
 #include <vector>
+
+#include "LogicBench.h"
+#include "Measure.h"
+#include "segments/DigiPaint.h"
 
 namespace
 {

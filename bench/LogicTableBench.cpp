@@ -1,9 +1,5 @@
 // A table's order and choice of a million rows, beside the standard library's sort of the same keys.
 
-#include "list/table/TableModel.h"
-#include "LogicBench.h"
-#include "Measure.h"
-
 #include <algorithm>
 #include <ctime>
 #include <memory>
@@ -12,6 +8,10 @@
 #include <string_view>
 #include <utility>
 #include <vector>
+
+#include "list/table/TableModel.h"
+#include "LogicBench.h"
+#include "Measure.h"
 
 namespace
 {

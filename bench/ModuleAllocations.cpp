@@ -95,6 +95,7 @@ bench::ModuleAllocations::ModuleAllocations(wchar_t const * module)
                 continue;
             auto const & byName = *reinterpret_cast<IMAGE_IMPORT_BY_NAME const *>(base + name->u1.AddressOfData);
             for (Substitute const & substitute : substitutes)
+            {
                 if (std::strcmp(reinterpret_cast<char const *>(byName.Name), substitute.name) == 0)
                 {
                     auto ** const place = reinterpret_cast<void **>(&address->u1.Function);
@@ -102,6 +103,7 @@ bench::ModuleAllocations::ModuleAllocations(wchar_t const * module)
                     replaced.push_back({place, *place});
                     Write(place, substitute.counted);
                 }
+            }
         }
     }
 }

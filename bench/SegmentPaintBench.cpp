@@ -1,16 +1,16 @@
 // Painting a line of segment characters beside the same calls with their points worked out before, so that what is more
 // than 1 is the toolkit's own share.
 
-#include "frame/GdiplusModule.h"
-#include "segments/DigiPaint.h"
-#include "ControlBench.h"
-#include "Measure.h"
-
 #include <array>
 #include <cstdio>
 #include <span>
 #include <string>
 #include <vector>
+
+#include "ControlBench.h"
+#include "frame/GdiplusModule.h"
+#include "Measure.h"
+#include "segments/DigiPaint.h"
 
 namespace
 {
@@ -221,8 +221,10 @@ bool PaintLineWithGdiplus()
             {
                 Gdiplus::GraphicsPath path(Gdiplus::FillModeAlternate);
                 for (std::size_t i = 1; i < polygon.points.size(); ++i)
+                {
                     path.AddLine(polygon.points[i - 1].x, polygon.points[i - 1].y, polygon.points[i].x,
                                  polygon.points[i].y);
+                }
                 if (polygon.lit)
                     graphics.DrawPath(&onPen, &path);
                 graphics.FillPath(polygon.lit ? &onBrush : &offBrush, &path);

@@ -1,11 +1,6 @@
 // A table of a million rows: shown for the first time, painted beside the report list, scrolled through, and told of
 // changes by threads.
 
-#include "list/XListCtrl.h"
-#include "list/table/XTableCtrl.h"
-#include "ControlBench.h"
-#include "Measure.h"
-
 #include <algorithm>
 #include <atomic>
 #include <chrono>
@@ -13,6 +8,11 @@
 #include <string>
 #include <thread>
 #include <vector>
+
+#include "ControlBench.h"
+#include "list/table/XTableCtrl.h"
+#include "list/XListCtrl.h"
+#include "Measure.h"
 
 namespace
 {
@@ -233,6 +233,7 @@ bool FollowingThreads()
     std::atomic<unsigned long long> told{0};
     std::vector<std::thread> tellers;
     for (unsigned int teller = 0; teller < teller_count; ++teller)
+    {
         tellers.emplace_back([&, teller, feed = table.Feed(), rows = source] {
             unsigned int random = teller + 1;
             unsigned long long count = 0;
@@ -252,6 +253,7 @@ bool FollowingThreads()
             told += count;
             --telling;
         });
+    }
     while (telling != 0)
     {
         PumpAll();
@@ -270,8 +272,10 @@ bool FollowingThreads()
     }
     unsigned long long wrong = 0;
     for (TableRow row = 0; row < page_rows; ++row)
+    {
         if (!source->IsShown(row))
             ++wrong;
+    }
     std::printf("table: %.0f changes a second told\n", static_cast<double>(told) / elapsed);
     bool met =
         bench::ReportCount("table: repaints in 10 s of 100,000 changes a second",

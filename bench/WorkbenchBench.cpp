@@ -1,11 +1,6 @@
 // The workbench's list of recordings with thousands of files, beside a native list that is given the same texts.
 
 #include <afxcmn.h>
-#include "ControlBench.h"
-#include "Measure.h"
-#include "RecordingList.h"
-#include "logic/Texts.h"
-
 #include <psapi.h>
 
 #include <algorithm>
@@ -17,6 +12,11 @@
 #include <numeric>
 #include <string>
 #include <vector>
+
+#include "ControlBench.h"
+#include "logic/Texts.h"
+#include "Measure.h"
+#include "RecordingList.h"
 
 namespace
 {
@@ -110,11 +110,11 @@ Costs OfOurs(CWnd & parent, int count)
 {
     OurList ours(parent);
     CRecordingList & list = ours.m_list;
-    auto const files = Files(count);
-    auto const analysis = Analysis();
+    std::vector<std::filesystem::path> const files = Files(count);
+    std::shared_ptr<RecordingAnalysis const> const analysis = Analysis();
     std::vector<CRecordingList::Notes> const notes(files.size());
     auto const perFile = [count](std::function<void()> const & work) {
-        auto const time = Nanoseconds([&] {
+        double const time = Nanoseconds([&] {
             work();
             PumpAll();
         });
@@ -146,9 +146,9 @@ double BytesOfOurs(CWnd & parent, int count)
     workbench::ScreenMetrics metrics;
     CRecordingList list;
     list.CreateList(parent, 7, metrics);
-    auto const files = Files(count);
+    std::vector<std::filesystem::path> const files = Files(count);
     std::vector<CRecordingList::Notes> const notes(files.size());
-    auto const before = BytesInUse();
+    double const before = BytesInUse();
     list.ShowFiles(files, notes);
     {
         CRecordingList::Batch const batch(list);
@@ -156,7 +156,7 @@ double BytesOfOurs(CWnd & parent, int count)
             list.ShowAnalysis(line, LargeAnalysis());
     }
     PumpAll();
-    auto const after = BytesInUse();
+    double const after = BytesInUse();
     list.DestroyWindow();
     PumpAll();
     return (after - before) / count;
@@ -169,9 +169,9 @@ Costs OfNative(CWnd & parent, int count)
     list.SetExtendedStyle(LVS_EX_FULLROWSELECT | LVS_EX_CHECKBOXES);
     for (int i = 0; i < CRecordingList::column_count; ++i)
         list.InsertColumn(i, L"column", LVCFMT_LEFT, 80);
-    auto const files = Files(count);
+    std::vector<std::filesystem::path> const files = Files(count);
     auto const perFile = [count, &list](std::function<void(int)> const & work) {
-        auto const time = Nanoseconds([&] {
+        double const time = Nanoseconds([&] {
             list.SetRedraw(FALSE);
             for (int row = 0; row < count; ++row)
                 work(row);
@@ -194,7 +194,7 @@ Costs OfNative(CWnd & parent, int count)
             list.SetItemText(row, CRecordingList::column_duration + i, texts[i]);
         list.SetItemText(row, CRecordingList::column_status, L"OK");
         // Both make room for their longest texts.
-        for (auto const * const text : texts)
+        for (wchar_t const * const text : texts)
             list.GetStringWidth(text);
     });
     costs.marking = perFile([&](int row) { list.SetCheck(row, TRUE); });
@@ -210,8 +210,10 @@ Costs OfNative(CWnd & parent, int count)
         Nanoseconds([&] {
             list.SetRedraw(FALSE);
             for (int row = count - 1; row >= 0; --row)
+            {
                 if (files[static_cast<std::size_t>(row)].filename().wstring().find(L'7') == std::wstring::npos)
                     list.DeleteItem(row);
+            }
             list.SetRedraw(TRUE);
             PumpAll();
         }) /
@@ -232,7 +234,7 @@ double LongestWait(std::function<void()> const & prepare, std::function<void()> 
     {
         prepare();
         PumpAll();
-        auto longest = Nanoseconds(act);
+        double longest = Nanoseconds(act);
         auto const end = std::chrono::steady_clock::now() + after;
         while (std::chrono::steady_clock::now() < end)
         {
@@ -251,8 +253,8 @@ bool ReportWaits(CWnd & parent, int count)
 {
     OurList ours(parent);
     CRecordingList & list = ours.m_list;
-    auto const files = Files(count);
-    auto const analysis = Analysis();
+    std::vector<std::filesystem::path> const files = Files(count);
+    std::shared_ptr<RecordingAnalysis const> const analysis = Analysis();
     auto const showAll = [&] {
         CRecordingList::Batch const batch(list);
         list.ShowFiles(files, std::vector<CRecordingList::Notes>(files.size()));
@@ -286,7 +288,7 @@ bool ReportWaits(CWnd & parent, int count)
 
     showAll();
     LongestWait([] {}, [] {}); // until the window is on the screen
-    auto const painting = LongestWait([] {}, [&] { list.RedrawWindow(); });
+    double const painting = LongestWait([] {}, [&] { list.RedrawWindow(); });
     bool met = true;
     auto const report = [&](char const * name, std::function<void()> const & prepare,
                             std::function<void()> const & act) {
@@ -366,13 +368,13 @@ bool bench::OpeningRecordings()
     CWnd parent;
     parent.CreateEx(0, AfxRegisterWndClass(0), L"", WS_OVERLAPPEDWINDOW | WS_VISIBLE, window_place, nullptr, 0);
     // First, while nothing is free to be used again.
-    auto const bytes = BytesOfOurs(parent, usual_count);
+    double const bytes = BytesOfOurs(parent, usual_count);
     std::vector<double> listing, results, marking, nativeListing, nativeResults, nativeMarking, small, large;
     std::vector<double> sorting, filtering, nativeSorting, nativeFiltering;
     for (int round = 0; round < rounds; ++round)
     {
-        auto const ours = OfOurs(parent, usual_count);
-        auto const native = OfNative(parent, usual_count);
+        Costs const ours = OfOurs(parent, usual_count);
+        Costs const native = OfNative(parent, usual_count);
         listing.push_back(ours.listing);
         results.push_back(ours.results);
         marking.push_back(ours.marking);

@@ -34,7 +34,8 @@ while(open_headers)
     endforeach()
 endwhile()
 
-install(DIRECTORY suite/ DESTINATION include/suite COMPONENT development FILES_MATCHING PATTERN "*.h")
+install(DIRECTORY suite/ DESTINATION include/suite COMPONENT development FILES_MATCHING PATTERN "*.h"
+    PATTERN core EXCLUDE)
 install(EXPORT instrument_ui_targets NAMESPACE instrument_ui:: DESTINATION lib/cmake/instrument_ui
     COMPONENT development)
 

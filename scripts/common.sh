@@ -28,7 +28,7 @@ install_packages() {
 
 packages_windows=(cmake ninja-build ccache g++-mingw-w64-x86-64-posix wine64 wine fonts-wine xvfb xauth googletest)
 packages_logic=(cmake ninja-build ccache g++ clang libclang-rt-14-dev googletest)
-packages_checks=(clang clang-format clang-tidy doxygen)
+packages_checks=(clang clang-format clang-tidy python3 python3-clang doxygen)
 packages_workbench=(imagemagick alsa-utils)
 
 # run_logged TITLE LOG COMMAND...: runs a long step; its progress lines go to the terminal, all else to the log.

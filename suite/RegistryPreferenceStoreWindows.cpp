@@ -1,6 +1,6 @@
-#include <afxwin.h>
-
 #include "RegistryPreferenceStore.h"
+
+#include <afxwin.h>
 
 #include <optional>
 #include <vector>
@@ -138,8 +138,10 @@ lookup::result RegistryPreferenceStore::LookupSetInt(wchar_t const * key, int va
     RegistryKey subkey;
     LSTATUS status = subkey.Create(m_subkey, KEY_SET_VALUE);
     if (status == ERROR_SUCCESS)
+    {
         status = ::RegSetValueExW(subkey, name->c_str(), 0, REG_DWORD, reinterpret_cast<BYTE const *>(&value),
                                   sizeof(value));
+    }
     return ResultOf(status);
 }
 

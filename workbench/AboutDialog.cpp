@@ -13,8 +13,8 @@ namespace
 /// A text of a module's version resource; empty if it has none.
 CString VersionText(HMODULE module, wchar_t const * name)
 {
-    auto const resource = ::FindResourceW(module, MAKEINTRESOURCEW(VS_VERSION_INFO), RT_VERSION);
-    auto const loaded = resource != nullptr ? ::LoadResource(module, resource) : nullptr;
+    HRSRC const resource = ::FindResourceW(module, MAKEINTRESOURCEW(VS_VERSION_INFO), RT_VERSION);
+    HGLOBAL const loaded = resource != nullptr ? ::LoadResource(module, resource) : nullptr;
     if (loaded == nullptr)
     {
         return {};
@@ -44,8 +44,8 @@ CAboutDialog::CAboutDialog(workbench::Settings const & settings, CWnd & owner) :
 BOOL CAboutDialog::OnInitDialog()
 {
     CDialog3d::OnInitDialog();
-    auto const program = AfxGetInstanceHandle();
-    auto const module = ::GetModuleHandleW(L"instrument_ui.dll");
+    HINSTANCE const program = AfxGetInstanceHandle();
+    HMODULE const module = ::GetModuleHandleW(L"instrument_ui.dll");
     LOGFONT font{};
     GetFont()->GetLogFont(&font);
     font.lfWeight = FW_BOLD;

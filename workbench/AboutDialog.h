@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Settings.h"
 #include "dialogs/Dialog3d.h"
+#include "Settings.h"
 
 /// Tells the program's name and version, and what it is built with, as the resources have it.
 class CAboutDialog : public CDialog3d

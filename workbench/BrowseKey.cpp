@@ -7,7 +7,7 @@ namespace workbench
 
 bool BrowseByKey(MSG const & message)
 {
-    auto const opens = (message.message == WM_KEYDOWN && message.wParam == VK_F4) ||
+    bool const opens = (message.message == WM_KEYDOWN && message.wParam == VK_F4) ||
                        (message.message == WM_SYSKEYDOWN && message.wParam == VK_DOWN);
     auto * const field = opens ? dynamic_cast<CXEditBrowseCtrl *>(CWnd::GetFocus()) : nullptr;
     if (field == nullptr)

@@ -10,7 +10,7 @@ END_MESSAGE_MAP()
 
 bool CBufferedView::CreateBuffered(wchar_t const * name, DWORD style, CRect const & place, CWnd & parent, UINT id)
 {
-    auto const windowClass =
+    LPCTSTR const windowClass =
         AfxRegisterWndClass(CS_HREDRAW | CS_VREDRAW | CS_DBLCLKS, ::LoadCursorW(nullptr, IDC_ARROW));
     return Create(windowClass, name, style | WS_CHILD | WS_VISIBLE | WS_BORDER, place, &parent, id) != FALSE;
 }

@@ -87,7 +87,7 @@ BOOL CBusyDialog::OnInitDialog()
 
 void CBusyDialog::Work(HWND dialog)
 {
-    auto const com = ::CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED | COINIT_DISABLE_OLE1DDE);
+    HRESULT const com = ::CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED | COINIT_DISABLE_OLE1DDE);
     while (m_done < m_count && !m_stop)
     {
         m_work(m_done);
@@ -119,7 +119,7 @@ void CBusyDialog::OnTimer(UINT_PTR id)
         ShowWindow(SW_SHOW);
         return;
     }
-    auto const part = m_count > 0 ? m_done * whole / m_count : 0;
+    std::size_t const part = m_count > 0 ? m_done * whole / m_count : 0;
     SendDlgItemMessage(IDC_BUSY_PROGRESS, PBM_SETPOS, part);
     CDialog3d::OnTimer(id);
 }

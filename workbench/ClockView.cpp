@@ -33,7 +33,7 @@ bool CClockView::CreateView(CWnd & parent, UINT id)
 
 void CClockView::ShowTime()
 {
-    auto const text = CTime::GetCurrentTime().Format(L"%H:%M:%S");
+    CString const text = CTime::GetCurrentTime().Format(L"%H:%M:%S");
     if (text != m_shown)
     {
         m_shown = text;
@@ -63,7 +63,7 @@ void CClockView::Draw(CDC & dc, CRect const & client)
     dc.FillSolidRect(client, ground);
     Gdiplus::Graphics graphics(dc.m_hDC);
     graphics.SetSmoothingMode(Gdiplus::SmoothingModeAntiAlias);
-    auto rect = client;
+    CRect rect = client;
     rect.DeflateRect(margin, margin);
     m_text.DrawTextW(graphics, rect);
 }

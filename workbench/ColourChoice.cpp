@@ -16,8 +16,8 @@ constexpr int focus_inset = 3;   // pixels
 void CColourChoice::ShowColour(COLORREF colour)
 {
     m_colour = colour;
-    auto const text = workbench::FarthestColour(colour);
-    auto const hot = workbench::MixedColour(colour, text, hot_part);
+    COLORREF const text = workbench::FarthestColour(colour);
+    COLORREF const hot = workbench::MixedColour(colour, text, hot_part);
     SetColors(text, colour, workbench::FarthestColour(hot), hot);
     SetWindowText(workbench::ColourText(colour).c_str());
     Invalidate();
@@ -32,7 +32,7 @@ bool CColourChoice::Choose()
     m_choosing = true;
     LifeWatch const life(m_sign);
     CColorDialog dialog(m_colour, CC_FULLOPEN | CC_ANYCOLOR, this);
-    auto const chosen = dialog.DoModal() == IDOK;
+    bool const chosen = dialog.DoModal() == IDOK;
     // Whatever the button stands in can have been closed meanwhile.
     if (life.Over())
     {

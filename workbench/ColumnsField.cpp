@@ -2,8 +2,8 @@
 
 #include <utility>
 
-#include "RecordingColumns.h"
 #include "logic/Texts.h"
+#include "RecordingColumns.h"
 
 CColumnsField::CColumnsField()
 {
@@ -25,7 +25,7 @@ void CColumnsField::Arrange(std::vector<int> const & order)
         m_newOrder = order; // the places that are ticked are those of the former one
         return;
     }
-    auto const hidden = HiddenColumns();
+    std::set<int> const hidden = HiddenColumns();
     ShowColumns(order, hidden);
 }
 
@@ -48,7 +48,7 @@ void CColumnsField::OnBrowse()
         return;
     }
     m_isOpen = false;
-    if (auto const order = std::exchange(m_newOrder, std::nullopt))
+    if (std::optional<std::vector<int>> const order = std::exchange(m_newOrder, std::nullopt))
     {
         Arrange(*order);
     }

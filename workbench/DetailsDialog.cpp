@@ -65,7 +65,7 @@ BOOL CDetailsDialog::OnInitDialog()
 void CDetailsDialog::Fill()
 {
     std::wstring text;
-    for (auto const & line : m_lines)
+    for (workbench::DetailLine const & line : m_lines)
     {
         text += line.label + L":\t" + line.text + L"\r\n";
     }
@@ -78,7 +78,7 @@ BOOL CDetailsDialog::PreTranslateMessage(MSG * message)
 {
     if (message->message == WM_KEYDOWN && IsKeyDown(VK_CONTROL) && m_actions)
     {
-        auto const actions = m_actions();
+        Actions const actions = m_actions();
         auto const & action = message->wParam == VK_PRIOR  ? actions.previous
                               : message->wParam == VK_NEXT ? actions.next
                                                            : nullptr;

@@ -3,8 +3,8 @@
 #include <functional>
 #include <vector>
 
-#include "WorkbenchDialog.h"
 #include "logic/RecordingDetails.h"
+#include "WorkbenchDialog.h"
 
 /// Everything about one recording, line by line; the text can be selected and copied. A menu goes to the next one.
 class CDetailsDialog : public CWorkbenchDialog

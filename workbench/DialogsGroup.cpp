@@ -17,7 +17,7 @@ constexpr int opacities[] = {25, 50, 75, 100}; // percent
 /// The number that a text is, -1 if it is none.
 int NumberOf(CString const & text)
 {
-    auto const number = workbench::ParseNumber(text.GetString());
+    std::optional<double> const number = workbench::ParseNumber(text.GetString());
     return number && *number >= 0 && *number <= 1000 ? static_cast<int>(std::lround(*number)) : -1;
 }
 
@@ -41,7 +41,7 @@ void CDialogsGroup::DoDataExchange(CDataExchange * exchange)
 BOOL CDialogsGroup::OnInitDialog()
 {
     CSettingsGroup::OnInitDialog();
-    for (auto const opacity : opacities)
+    for (int const opacity : opacities)
     {
         m_opacity.AddItem(std::to_wstring(opacity).c_str(), opacity);
     }
@@ -62,7 +62,7 @@ bool CDialogsGroup::Take(Settings & settings)
 {
     CString text;
     m_opacity.GetWindowText(text);
-    auto const opacity = NumberOf(text.Trim());
+    int const opacity = NumberOf(text.Trim());
     if (opacity < Settings::least_opacity || opacity > Settings::most_opacity)
     {
         AfxMessageBox(Text(L"The opacity must be between 20 and 100 percent."), MB_ICONEXCLAMATION);

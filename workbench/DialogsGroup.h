@@ -1,7 +1,7 @@
 #pragma once
 
-#include "SettingsGroup.h"
 #include "controls/ComboBoxX.h"
+#include "SettingsGroup.h"
 
 /// How dialogs open, are moved and look while they are not active.
 class CDialogsGroup : public CSettingsGroup

@@ -9,7 +9,7 @@ END_MESSAGE_MAP()
 
 bool CDivider::CreateDivider(CWnd & parent, UINT id)
 {
-    auto const windowClass =
+    LPCTSTR const windowClass =
         AfxRegisterWndClass(0, ::LoadCursorW(nullptr, IDC_SIZEWE), reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1));
     return Create(windowClass, L"", WS_CHILD, CRect(), &parent, id) != FALSE;
 }

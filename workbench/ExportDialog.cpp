@@ -64,11 +64,11 @@ BOOL CExportDialog::OnInitDialog()
         m_lineChoice.AddItem(Text(line_texts[i]), i);
     }
     m_lineChoice.SelectItemData(static_cast<int>(m_lines));
-    for (auto const id : {IDC_EXPORT_FILE, IDC_FORMAT_NOTE, IDC_EXPORT_COLUMNS})
+    for (int const id : {IDC_EXPORT_FILE, IDC_FORMAT_NOTE, IDC_EXPORT_COLUMNS})
     {
         D3dLayoutChild(id, CEdges::TOP_LEFT_RIGHT(), nullptr);
     }
-    for (auto const id : {IDOK, IDCANCEL})
+    for (int const id : {IDOK, IDCANCEL})
     {
         D3dLayoutChild(id, CEdges::BOTTOM_RIGHT(), nullptr);
     }

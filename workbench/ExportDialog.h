@@ -5,11 +5,11 @@
 #include <vector>
 
 #include "ColumnsField.h"
-#include "RecordingList.h"
-#include "Settings.h"
 #include "controls/ComboBoxX.h"
 #include "controls/XEditBrowseCtrl.h"
 #include "dialogs/Dialog3d.h"
+#include "RecordingList.h"
+#include "Settings.h"
 
 /// Asks what of the list is to be written into which file.
 class CExportDialog : public CDialog3d

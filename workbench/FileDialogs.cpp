@@ -41,7 +41,7 @@ std::vector<std::filesystem::path> ChooseFiles(CWnd & owner)
     dialog.GetOFN().nMaxFile = names_length;
     if (dialog.DoModal() == IDOK)
     {
-        for (auto position = dialog.GetStartPosition(); position != nullptr;)
+        for (POSITION position = dialog.GetStartPosition(); position != nullptr;)
         {
             files.emplace_back(dialog.GetNextPathName(position).GetString());
         }

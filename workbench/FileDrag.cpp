@@ -19,7 +19,7 @@ namespace
 HGLOBAL DroppedFiles(std::vector<std::filesystem::path> const & files)
 {
     std::wstring names; // each with a zero, and another one at the end
-    for (auto const & file : files)
+    for (std::filesystem::path const & file : files)
     {
         names += file.wstring() + L'\0';
     }
@@ -57,7 +57,7 @@ public:
     ULONG STDMETHODCALLTYPE AddRef() override { return ++m_count; }
     ULONG STDMETHODCALLTYPE Release() override
     {
-        auto const count = --m_count;
+        ULONG const count = --m_count;
         if (count == 0)
         {
             delete this;
@@ -77,7 +77,7 @@ public:
 
     HRESULT STDMETHODCALLTYPE GetData(FORMATETC * format, STGMEDIUM * medium) override
     {
-        if (auto const result = QueryGetData(format); result != S_OK)
+        if (HRESULT const result = QueryGetData(format); result != S_OK)
         {
             return result;
         }
@@ -88,7 +88,7 @@ public:
     }
     HRESULT STDMETHODCALLTYPE QueryGetData(FORMATETC * format) override
     {
-        auto const isMine = format->cfFormat == CF_HDROP && (format->tymed & TYMED_HGLOBAL) != 0 &&
+        bool const isMine = format->cfFormat == CF_HDROP && (format->tymed & TYMED_HGLOBAL) != 0 &&
                             format->dwAspect == DVASPECT_CONTENT && format->lindex == -1;
         return isMine ? S_OK : DV_E_FORMATETC;
     }
@@ -142,7 +142,7 @@ bool DragFiles(std::vector<std::filesystem::path> const & files)
     auto * const data = new FileData(files);
     auto * const source = new FileSource;
     DWORD effect = DROPEFFECT_NONE;
-    auto const result = ::DoDragDrop(data, source, DROPEFFECT_COPY | DROPEFFECT_LINK, &effect);
+    HRESULT const result = ::DoDragDrop(data, source, DROPEFFECT_COPY | DROPEFFECT_LINK, &effect);
     source->Release();
     data->Release();
     ::OleUninitialize();

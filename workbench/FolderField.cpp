@@ -18,14 +18,14 @@ void CFolderField::OnBrowse()
     LifeWatch const life(m_sign);
     CString folder;
     GetWindowText(folder);
-    auto const * const owner = GetTopLevelParent();
+    CWnd const * const owner = GetTopLevelParent();
     CFolderDialog dialog(owner != nullptr ? owner->m_hWnd : nullptr);
     dialog.SetTitleMessage(m_title);
     if (!folder.IsEmpty() && folder.GetLength() < MAX_PATH)
     {
         dialog.SetInitialDir(folder);
     }
-    auto const chosen = dialog.DoModal() == IDOK;
+    bool const chosen = dialog.DoModal() == IDOK;
     // The field can have gone meanwhile, with all that it stands in.
     if (life.Over())
     {

@@ -57,9 +57,9 @@ bool CFolderTree::CreateTree(CWnd & parent, UINT id, workbench::ScreenMetrics & 
         return false;
     }
     SetFont(&metrics.Font(), FALSE);
-    auto const size = metrics.Scaled(image_size);
+    int const size = metrics.Scaled(image_size);
     VERIFY(m_images.Create(size, size, ILC_COLOR32 | ILC_MASK, 2, 0));
-    for (auto const icon : {IDI_FOLDER, IDI_RECORDING})
+    for (int const icon : {IDI_FOLDER, IDI_RECORDING})
     {
         m_images.Add(static_cast<HICON>(
             ::LoadImageW(AfxGetInstanceHandle(), MAKEINTRESOURCEW(icon), IMAGE_ICON, size, size, LR_SHARED)));
@@ -86,8 +86,8 @@ int CFolderTree::Remember(std::filesystem::path const & path)
 
 std::filesystem::path CFolderTree::PathOf(HTREEITEM item) const
 {
-    auto const * const record = item != nullptr ? GetItemData(item) : nullptr;
-    auto const known = record != nullptr && record->id >= 0 && record->id < static_cast<int>(m_paths.size());
+    CXTreeCtrl::ItemData const * const record = item != nullptr ? GetItemData(item) : nullptr;
+    bool const known = record != nullptr && record->id >= 0 && record->id < static_cast<int>(m_paths.size());
     return known ? m_paths[static_cast<std::size_t>(record->id)] : std::filesystem::path();
 }
 
@@ -99,13 +99,13 @@ HTREEITEM CFolderTree::FolderItem(std::filesystem::path const & folder) const
 
 CFolderTree::Knowledge CFolderTree::KnowledgeOf(HTREEITEM folder) const
 {
-    auto const * const record = GetItemData(folder);
+    CXTreeCtrl::ItemData const * const record = GetItemData(folder);
     return record != nullptr ? static_cast<Knowledge>(record->clavis[0]) : unread;
 }
 
 void CFolderTree::Note(HTREEITEM folder, Knowledge knowledge)
 {
-    if (auto * const record = GetItemData(folder))
+    if (CXTreeCtrl::ItemData * const record = GetItemData(folder))
     {
         record->clavis[0] = knowledge;
     }
@@ -127,8 +127,8 @@ void CFolderTree::SetHasChildren(HTREEITEM folder, bool has)
 /// sortKey: -1 where the place is given.
 HTREEITEM CFolderTree::AddFolder(std::filesystem::path const & folder, HTREEITEM parent, HTREEITEM after, int sortKey)
 {
-    auto const item = InsertTreeItem(LabelOf(folder).c_str(), image_folder, image_folder, parent, type_folder,
-                                     Remember(folder), after, sortKey);
+    HTREEITEM const item = InsertTreeItem(LabelOf(folder).c_str(), image_folder, image_folder, parent, type_folder,
+                                          Remember(folder), after, sortKey);
     if (item != nullptr)
     {
         GetItemData(item)->sortKey = key_folder;
@@ -141,8 +141,8 @@ HTREEITEM CFolderTree::AddFolder(std::filesystem::path const & folder, HTREEITEM
 
 void CFolderTree::AddRecording(std::filesystem::path const & file, HTREEITEM parent, HTREEITEM after, int sortKey)
 {
-    auto const item = InsertTreeItem(file.filename().c_str(), image_recording, image_recording, parent, type_recording,
-                                     Remember(file), after, sortKey);
+    HTREEITEM const item = InsertTreeItem(file.filename().c_str(), image_recording, image_recording, parent,
+                                          type_recording, Remember(file), after, sortKey);
     if (item != nullptr)
     {
         GetItemData(item)->sortKey = key_recording;
@@ -152,7 +152,7 @@ void CFolderTree::AddRecording(std::filesystem::path const & file, HTREEITEM par
 
 void CFolderTree::AddPlaces(std::vector<std::filesystem::path> const & folders)
 {
-    for (auto const & folder : folders)
+    for (std::filesystem::path const & folder : folders)
     {
         if (FolderItem(folder) == nullptr)
         {
@@ -164,21 +164,21 @@ void CFolderTree::AddPlaces(std::vector<std::filesystem::path> const & folders)
 void CFolderTree::ShowOpened(std::vector<std::filesystem::path> const & folders)
 {
     std::unordered_set<std::wstring> keys;
-    for (auto const & folder : folders)
+    for (std::filesystem::path const & folder : folders)
     {
         keys.insert(workbench::PathKey(folder));
     }
-    for (auto const & former : std::exchange(m_opened, folders))
+    for (std::filesystem::path const & former : std::exchange(m_opened, folders))
     {
-        auto const item = FolderItem(former);
+        HTREEITEM const item = FolderItem(former);
         if (item != nullptr && !keys.contains(workbench::PathKey(former)))
         {
             SetItemState(item, 0, TVIS_BOLD);
         }
     }
-    for (auto const & folder : m_opened)
+    for (std::filesystem::path const & folder : m_opened)
     {
-        auto item = FolderItem(folder);
+        HTREEITEM item = FolderItem(folder);
         if (item == nullptr)
         {
             item = AddFolder(folder, TVI_ROOT, TVI_FIRST, -1);
@@ -201,9 +201,9 @@ void CFolderTree::ShowOpened(std::vector<std::filesystem::path> const & folders)
 
 void CFolderTree::RevealOpened()
 {
-    for (auto const & folder : m_opened)
+    for (std::filesystem::path const & folder : m_opened)
     {
-        if (auto const item = FolderItem(folder))
+        if (HTREEITEM const item = FolderItem(folder))
         {
             Reveal(item);
         }
@@ -228,7 +228,7 @@ void CFolderTree::SelectRecording(std::filesystem::path const & file)
     if (GetSelectedItem() != found->second)
     {
         // Whoever looks at a closed folder is not shown what is in it.
-        auto const parent = GetParentItem(found->second);
+        HTREEITEM const parent = GetParentItem(found->second);
         if (parent == nullptr || (GetItemState(parent, TVIS_EXPANDED) & TVIS_EXPANDED) != 0)
         {
             SelectItem(found->second);
@@ -241,7 +241,7 @@ void CFolderTree::SelectRecording(std::filesystem::path const & file)
 /// Has a folder's contents read, behind those that wait already.
 void CFolderTree::Read(HTREEITEM folder)
 {
-    auto const first = KnowledgeOf(folder) == unread;
+    bool const first = KnowledgeOf(folder) == unread;
     Note(folder, reading);
     if (first && GetChildItem(folder) == nullptr)
     {
@@ -259,7 +259,7 @@ void CFolderTree::ReadNext()
     }
     m_readFolder = std::move(m_waiting.front());
     m_waiting.pop_front();
-    auto const window = m_hWnd;
+    HWND const window = m_hWnd;
     auto const before = m_contents.find(workbench::PathKey(m_readFolder));
     m_reading =
         std::make_unique<workbench::FolderReading>(m_readFolder, before != m_contents.end() ? before->second : nullptr,
@@ -299,7 +299,7 @@ void CFolderTree::Remove(HTREEITEM item)
     for (auto const each : all)
     {
         m_top = each == m_top ? nullptr : m_top;
-        auto const key = workbench::PathKey(PathOf(each));
+        std::wstring const key = workbench::PathKey(PathOf(each));
         if (GetItemType(each) == type_folder)
         {
             forget(m_folders, key, each);
@@ -329,14 +329,14 @@ void CFolderTree::Take(workbench::FolderStep const & step, HTREEITEM folder)
     };
     if (step.kind == workbench::FolderStep::Kind::remove)
     {
-        if (auto const item = itemOf(step.path))
+        if (HTREEITEM const item = itemOf(step.path))
         {
             Remove(item);
         }
         return;
     }
     // Behind the one that is ahead of it; the first one by its sort key, which puts recordings behind all folders.
-    auto const previous = itemOf(step.previous);
+    HTREEITEM const previous = itemOf(step.previous);
     if (step.isFolder)
     {
         AddFolder(step.path, folder, previous != nullptr ? previous : TVI_FIRST, -1);
@@ -359,7 +359,7 @@ void CFolderTree::OnTimer(UINT_PTR id)
 /// Enters items for a little while. The timer brings the next turn.
 void CFolderTree::EnterSome()
 {
-    auto const folder = m_entering ? FolderItem(m_entering->folder) : nullptr;
+    HTREEITEM const folder = m_entering ? FolderItem(m_entering->folder) : nullptr;
     if (folder == nullptr)
     {
         m_entering.reset();
@@ -368,8 +368,8 @@ void CFolderTree::EnterSome()
         return;
     }
     auto const end = Clock::now() + enter_slice;
-    auto & entering = *m_entering;
-    auto const count = entering.steps.size();
+    Entering & entering = *m_entering;
+    std::size_t const count = entering.steps.size();
     if (count > 0)
     {
         SetRedraw(FALSE);
@@ -399,9 +399,9 @@ void CFolderTree::EnterSome()
 /// changed: items have come or gone. Opening what is open already would paint the whole tree.
 void CFolderTree::FinishEntering(HTREEITEM folder, bool changed)
 {
-    auto const open = (GetItemState(folder, TVIS_EXPANDED) & TVIS_EXPANDED) != 0;
+    bool const open = (GetItemState(folder, TVIS_EXPANDED) & TVIS_EXPANDED) != 0;
     Note(folder, known);
-    if (auto const note = FindChildItem(type_note, -1, nullptr, nullptr, folder, false))
+    if (HTREEITEM const note = FindChildItem(type_note, -1, nullptr, nullptr, folder, false))
     {
         DeleteTreeItem(note);
     }
@@ -422,7 +422,7 @@ void CFolderTree::FinishEntering(HTREEITEM folder, bool changed)
 void CFolderTree::OnItemExpanding(NMHDR * header, LRESULT * result)
 {
     auto const & change = *reinterpret_cast<NMTREEVIEWW *>(header);
-    auto const folder = change.itemNew.hItem;
+    HTREEITEM const folder = change.itemNew.hItem;
     if ((change.action & TVE_EXPAND) != 0 && GetItemType(folder) == type_folder && KnowledgeOf(folder) == unread)
     {
         Read(folder);
@@ -433,9 +433,9 @@ void CFolderTree::OnItemExpanding(NMHDR * header, LRESULT * result)
 void CFolderTree::OnSelectionChanged(NMHDR * header, LRESULT * result)
 {
     auto const & change = *reinterpret_cast<NMTREEVIEWW *>(header);
-    auto const item = change.itemNew.hItem;
+    HTREEITEM const item = change.itemNew.hItem;
     // The arrow keys show the recordings that are listed, and go past the rest.
-    auto const byKey = change.action == TVC_BYKEYBOARD && GetItemType(item) == type_recording &&
+    bool const byKey = change.action == TVC_BYKEYBOARD && GetItemType(item) == type_recording &&
                        std::ranges::any_of(m_opened, [&](auto const & folder) {
                            return workbench::IsSameFolder(PathOf(item).parent_path(), folder);
                        });
@@ -453,8 +453,8 @@ void CFolderTree::ChooseSelected()
 
 void CFolderTree::Choose(HTREEITEM item)
 {
-    auto const path = PathOf(item);
-    auto const type = item != nullptr ? GetItemType(item) : -1;
+    std::filesystem::path const path = PathOf(item);
+    int const type = item != nullptr ? GetItemType(item) : -1;
     // Copies, as what they do may replace them.
     auto const onChoice = type == type_folder ? m_onFolder : type == type_recording ? m_onRecording : nullptr;
     if (onChoice && !path.empty())
@@ -465,8 +465,8 @@ void CFolderTree::Choose(HTREEITEM item)
 
 void CFolderTree::OnDoubleClick(NMHDR *, LRESULT * result)
 {
-    auto const item = GetSelectedItem();
-    auto const path = PathOf(item);
+    HTREEITEM const item = GetSelectedItem();
+    std::filesystem::path const path = PathOf(item);
     auto const onDetails = m_onDetails;
     if (item != nullptr && GetItemType(item) == type_recording && onDetails)
     {

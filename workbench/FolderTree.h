@@ -11,9 +11,9 @@
 #include <unordered_map>
 #include <vector>
 
-#include "ScreenMetrics.h"
 #include "controls/XTreeCtrl.h"
 #include "logic/FolderContents.h"
+#include "ScreenMetrics.h"
 
 /// A tree of folders and the recordings in them. A folder is read, on a thread of its own, when it is opened for the
 /// first time, and its items are entered a little at a time.

@@ -43,7 +43,7 @@ HANDLE FolderWatch::Begin(std::filesystem::path const & folder)
 bool FolderWatch::LookAfter(Folder & folder)
 {
     std::error_code error;
-    auto const isThere = std::filesystem::is_directory(folder.path, error);
+    bool const isThere = std::filesystem::is_directory(folder.path, error);
     if (isThere == (folder.change != INVALID_HANDLE_VALUE))
     {
         return false;
@@ -60,24 +60,25 @@ bool FolderWatch::LookAfter(Folder & folder)
 void FolderWatch::Run(std::vector<std::filesystem::path> const & targets)
 {
     std::vector<Folder> folders;
-    for (auto const & target : targets)
+    for (std::filesystem::path const & target : targets)
     {
         std::error_code error;
-        auto const path = std::filesystem::is_regular_file(target, error) ? target.parent_path() : target;
-        auto const isKnown = std::ranges::find(folders, path, &Folder::path) != folders.end();
+        std::filesystem::path const path =
+            std::filesystem::is_regular_file(target, error) ? target.parent_path() : target;
+        bool const isKnown = std::ranges::find(folders, path, &Folder::path) != folders.end();
         if (!isKnown && folders.size() < most_folders)
         {
             folders.push_back({path, Begin(path)});
         }
     }
-    auto changed = false;
+    bool changed = false;
     ULONGLONG changedAt = 0;
-    auto lookedAt = ::GetTickCount64();
+    ULONGLONG lookedAt = ::GetTickCount64();
     for (;;)
     {
         std::vector<HANDLE> waits{m_stop};
         std::vector<Folder *> waiting;
-        for (auto & folder : folders)
+        for (Folder & folder : folders)
         {
             if (folder.change != INVALID_HANDLE_VALUE)
             {
@@ -87,8 +88,8 @@ void FolderWatch::Run(std::vector<std::filesystem::path> const & targets)
         }
         auto const result = ::WaitForMultipleObjects(static_cast<DWORD>(waits.size()), waits.data(), FALSE,
                                                      changed ? quiet_time : look_interval);
-        auto const now = ::GetTickCount64();
-        auto happened = false;
+        ULONGLONG const now = ::GetTickCount64();
+        bool happened = false;
         if (result == WAIT_OBJECT_0)
         {
             break;
@@ -96,7 +97,7 @@ void FolderWatch::Run(std::vector<std::filesystem::path> const & targets)
         if (result > WAIT_OBJECT_0 && result < WAIT_OBJECT_0 + waits.size())
         {
             happened = true;
-            auto & folder = *waiting[result - WAIT_OBJECT_0 - 1];
+            Folder & folder = *waiting[result - WAIT_OBJECT_0 - 1];
             if (!::FindNextChangeNotification(folder.change))
             {
                 ::FindCloseChangeNotification(std::exchange(folder.change, INVALID_HANDLE_VALUE));
@@ -105,7 +106,7 @@ void FolderWatch::Run(std::vector<std::filesystem::path> const & targets)
         if (now - lookedAt >= look_interval)
         {
             lookedAt = now;
-            for (auto & folder : folders)
+            for (Folder & folder : folders)
             {
                 happened = LookAfter(folder) || happened;
             }
@@ -120,7 +121,7 @@ void FolderWatch::Run(std::vector<std::filesystem::path> const & targets)
             m_notify();
         }
     }
-    for (auto const & folder : folders)
+    for (Folder const & folder : folders)
     {
         if (folder.change != INVALID_HANDLE_VALUE)
         {

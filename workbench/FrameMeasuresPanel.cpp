@@ -114,19 +114,19 @@ bool CFrameMeasuresPanel::CreatePanel(CWnd & parent, UINT id, workbench::ScreenM
     {
         return false;
     }
-    for (auto * const window : std::array<CWnd *, 6>{&m_table, &m_label, &m_column, &m_words, &m_status, &m_export})
+    for (CWnd * const window : std::array<CWnd *, 6>{&m_table, &m_label, &m_column, &m_words, &m_status, &m_export})
     {
         window->SetFont(&metrics.Font());
     }
     m_table.SetDpi(metrics.Resolution());
     m_table.m_onSelectionChange = [this] { OnChosen(); };
     m_table.m_onExportEnd = [this](bool whole) {
-        auto const stopped = std::exchange(m_stopsExport, false);
-        auto const file = std::exchange(m_exported, {});
+        bool const stopped = std::exchange(m_stopsExport, false);
+        std::filesystem::path const file = std::exchange(m_exported, {});
         ShowStatus();
         if (!whole && !stopped)
         {
-            auto const error = workbench::WriteObstacle(file, m_table.RowsShown() * bytes_per_row);
+            unsigned long const error = workbench::WriteObstacle(file, m_table.RowsShown() * bytes_per_row);
             AfxMessageBox(workbench::WriteFailureText(file, error).c_str(), MB_ICONEXCLAMATION);
         }
         else if (auto const onExported = m_onExported; onExported && whole)
@@ -143,9 +143,9 @@ void CFrameMeasuresPanel::ShowTexts()
     m_table.SetWindowText(Text(L"Analysis Frames")); // for programs that read the screen
     m_label.SetWindowText(Text(L"Filter:"));
     m_words.SetCueBanner(Text(L"e.g. > -20 or 100..200"), TRUE);
-    auto const chosen = m_column.GetCurSel();
+    int const chosen = m_column.GetCurSel();
     m_column.ResetContent();
-    for (auto const & column : columns)
+    for (Column const & column : columns)
     {
         m_column.AddString(Text(column.title));
     }
@@ -162,15 +162,15 @@ void CFrameMeasuresPanel::ShowColumns()
     std::vector<TableColumn> shown(std::size(columns));
     for (std::size_t i = 0; i < shown.size(); ++i)
     {
-        auto & column = shown[i];
+        TableColumn & column = shown[i];
         column.title = Text(columns[i].title);
         column.name = columns[i].name;
         column.kind = TableKind::floating;
         column.format = {NumberStyle::fixed, columns[i].digits, false, UnitPlace::header, columns[i].unit};
         // Room for the title with its mark of sorting; the table counts in pixels at 96 to the inch.
-        auto const title =
+        long const title =
             dc.GetTextExtent(CString(TitleOf(column).c_str())).cx + 11 * m_metrics->AverageWidth() / 2 + 1;
-        auto const number = dc.GetTextExtent(CString(columns[i].widest)).cx + 3 * m_metrics->AverageWidth();
+        long const number = dc.GetTextExtent(CString(columns[i].widest)).cx + 3 * m_metrics->AverageWidth();
         column.width =
             ::MulDiv(std::max<int>(title, number), USER_DEFAULT_SCREEN_DPI, static_cast<int>(m_table.GetDpi())) + 1;
     }
@@ -181,8 +181,8 @@ void CFrameMeasuresPanel::ShowColumns()
 
 int CFrameMeasuresPanel::WantedWidth() const
 {
-    auto width = ::GetSystemMetrics(SM_CXVSCROLL) + 4 * ::GetSystemMetrics(SM_CXEDGE);
-    for (auto place = 0; place < static_cast<int>(m_table.ShownColumns().size()); ++place)
+    int width = ::GetSystemMetrics(SM_CXVSCROLL) + 4 * ::GetSystemMetrics(SM_CXEDGE);
+    for (int place = 0; place < static_cast<int>(m_table.ShownColumns().size()); ++place)
     {
         width += m_table.GetColumnWidth(place);
     }
@@ -323,7 +323,7 @@ void CFrameMeasuresPanel::ShowCursor(std::uint64_t frame)
 
 void CFrameMeasuresPanel::ChooseCursorRow()
 {
-    auto const * const raster = Raster();
+    workbench::FrameRaster const * const raster = Raster();
     if (raster == nullptr)
     {
         return;
@@ -340,8 +340,8 @@ void CFrameMeasuresPanel::ChooseCursorRow()
 /// The user has chosen a row.
 void CFrameMeasuresPanel::OnChosen()
 {
-    auto const * const raster = Raster();
-    auto const row = m_table.FocusRow();
+    workbench::FrameRaster const * const raster = Raster();
+    TableRow const row = m_table.FocusRow();
     if (raster == nullptr || row == no_table_row || !m_table.IsRowSelected(row))
     {
         return;
@@ -378,8 +378,8 @@ std::wstring CFrameMeasuresPanel::StatusText() const
         text.Format(Text(L"Exporting: %d %%"), m_table.ExportProgress() / 10);
         return text.GetString();
     }
-    auto const count = m_source ? m_source->RowCount() : 0;
-    auto const shown = m_table.RowsShown();
+    unsigned int const count = m_source ? m_source->RowCount() : 0;
+    TableRow const shown = m_table.RowsShown();
     if (shown < count && m_words.GetSafeHwnd() != nullptr && m_words.GetWindowTextLength() > 0)
     {
         text.Format(Text(L"Frames: %s of %s"), workbench::FormatThousands(shown).c_str(),
@@ -399,9 +399,9 @@ std::wstring CFrameMeasuresPanel::StatusText() const
     {
         status += std::wstring(L"; ") + Text(L"the file ends early");
     }
-    else if (auto const * const raster = Raster())
+    else if (workbench::FrameRaster const * const raster = Raster())
     {
-        auto const rate = raster->SampleRate();
+        std::uint32_t const rate = raster->SampleRate();
         status += L"; " + WindowText(workbench::FormatStretch(workbench::SpectrogramWindow(rate), rate));
     }
     return status;
@@ -422,7 +422,7 @@ void CFrameMeasuresPanel::ShowStatus()
     {
         m_export.SetWindowText(wanted);
     }
-    auto const canExport = m_table.RowsShown() > 0;
+    bool const canExport = m_table.RowsShown() > 0;
     if (canExport != (m_export.IsWindowEnabled() != FALSE))
     {
         if (!canExport && GetFocus() == &m_export)
@@ -438,7 +438,7 @@ void CFrameMeasuresPanel::OnFilterChange()
     CString words;
     m_words.GetWindowText(words);
     auto const column = static_cast<unsigned int>(std::max(m_column.GetCurSel(), 0));
-    auto filter = workbench::ParseFrameFilter(words.GetString(), column, DecimalSign());
+    workbench::FrameFilter filter = workbench::ParseFrameFilter(words.GetString(), column, DecimalSign());
     m_noNumber = std::move(filter.noNumber);
     m_table.SetRowFilter(std::move(filter.rows));
     if (m_source)
@@ -481,7 +481,7 @@ void CFrameMeasuresPanel::Export()
                        Text(L"CSV tables (*.csv)|*.csv||"), this);
     dialog.GetOFN().lpstrTitle = Text(L"Export Analysis Frames");
     WindowAlive const alive(*this, m_life);
-    auto const source = m_source;
+    std::shared_ptr<FrameTable> const source = m_source;
     if (dialog.DoModal() != IDOK || !alive.IsAlive() || m_source != source)
     {
         return;
@@ -503,7 +503,7 @@ void CFrameMeasuresPanel::OnContextMenu(CWnd * window, CPoint point)
         CPanel::OnContextMenu(window, point);
         return;
     }
-    auto const isByKey = point == CPoint(-1, -1);
+    BOOL const isByKey = point == CPoint(-1, -1);
     CRect place;
     m_table.GetWindowRect(&place);
     if (isByKey)
@@ -515,8 +515,8 @@ void CFrameMeasuresPanel::OnContextMenu(CWnd * window, CPoint point)
     {
         return;
     }
-    auto const some = m_table.RowsShown() > 0;
-    auto const enabled = some ? MF_ENABLED : MF_GRAYED;
+    bool const some = m_table.RowsShown() > 0;
+    long const enabled = some ? MF_ENABLED : MF_GRAYED;
     menu.AppendMenu(MF_STRING | enabled, command_copy, Text(L"&Copy\tCtrl+C"));
     menu.AppendMenu(MF_STRING | enabled, command_select_all, Text(L"Select &all\tCtrl+A"));
     menu.AppendMenu(MF_SEPARATOR);
@@ -524,7 +524,7 @@ void CFrameMeasuresPanel::OnContextMenu(CWnd * window, CPoint point)
                     Text(L"&Export as CSV..."));
     AppendColumnMenus(menu);
     WindowAlive const alive(*this, m_life);
-    auto const chosen = menu.TrackPopupMenu(TPM_RETURNCMD | TPM_RIGHTBUTTON, point.x, point.y, this);
+    BOOL const chosen = menu.TrackPopupMenu(TPM_RETURNCMD | TPM_RIGHTBUTTON, point.x, point.y, this);
     if (!alive.IsAlive())
     {
         return;
@@ -549,8 +549,8 @@ void CFrameMeasuresPanel::OnContextMenu(CWnd * window, CPoint point)
 /// What titles offer to the mouse, for the keyboard.
 void CFrameMeasuresPanel::AppendColumnMenus(CMenu & menu)
 {
-    auto const shown = m_table.ShownColumns();
-    auto const & sorted = m_table.SortColumns();
+    std::vector<unsigned int> const shown = m_table.ShownColumns();
+    std::vector<TableSortColumn> const & sorted = m_table.SortColumns();
     std::pair<UINT, wchar_t const *> const kinds[] = {{command_sort, Text(L"&Sort by")},
                                                       {command_show, Text(L"S&how columns")},
                                                       {command_left, Text(L"Move column to the &left")},
@@ -566,10 +566,10 @@ void CFrameMeasuresPanel::AppendColumnMenus(CMenu & menu)
         for (UINT column = 0; column < std::size(columns); ++column)
         {
             auto const place = std::ranges::find(shown, column);
-            auto const isShown = place != shown.end();
-            auto const isMark = (first == command_show && isShown) ||
+            bool const isShown = place != shown.end();
+            bool const isMark = (first == command_show && isShown) ||
                                 (first == command_sort && !sorted.empty() && sorted.front().column == column);
-            auto const isPossible = first == command_sort   ? m_source != nullptr
+            bool const isPossible = first == command_sort   ? m_source != nullptr
                                     : first == command_show ? !isShown || shown.size() > 1
                                     : first == command_left ? isShown && place != shown.begin()
                                                             : isShown && column != shown.back();
@@ -585,15 +585,15 @@ void CFrameMeasuresPanel::AppendColumnMenus(CMenu & menu)
 
 void CFrameMeasuresPanel::DoWithColumn(UINT command)
 {
-    auto const kind = command / columns_of_command * columns_of_command;
-    auto const column = command - kind;
-    auto const shown = m_table.ShownColumns();
+    unsigned int const kind = command / columns_of_command * columns_of_command;
+    unsigned int const column = command - kind;
+    std::vector<unsigned int> const shown = m_table.ShownColumns();
     auto const place = static_cast<unsigned int>(std::ranges::find(shown, column) - shown.begin());
     switch (kind)
     {
     case command_sort: {
-        auto const & sorted = m_table.SortColumns();
-        auto const isAscending = !sorted.empty() && sorted.front().column == column && !sorted.front().descending;
+        std::vector<TableSortColumn> const & sorted = m_table.SortColumns();
+        bool const isAscending = !sorted.empty() && sorted.front().column == column && !sorted.front().descending;
         m_table.SortBy({{column, isAscending}});
         SetTimer(look_timer, look_interval, nullptr);
         break;
@@ -619,8 +619,8 @@ BOOL CFrameMeasuresPanel::PreTranslateMessage(MSG * message)
     {
         return CPanel::PreTranslateMessage(message);
     }
-    auto const key = message->wParam;
-    auto const control = ::GetKeyState(VK_CONTROL) < 0;
+    WPARAM const key = message->wParam;
+    bool const control = ::GetKeyState(VK_CONTROL) < 0;
     if (message->hwnd == m_table.m_hWnd)
     {
         if (control && key == L'C')
@@ -650,10 +650,10 @@ BOOL CFrameMeasuresPanel::PreTranslateMessage(MSG * message)
 
 bool CFrameMeasuresPanel::TranslateStripKey(MSG * message)
 {
-    auto const inWords = message->hwnd == m_words.m_hWnd;
-    auto const inColumn = message->hwnd == m_column.m_hWnd;
-    auto const key = message->wParam;
-    auto const control = ::GetKeyState(VK_CONTROL) < 0;
+    bool const inWords = message->hwnd == m_words.m_hWnd;
+    bool const inColumn = message->hwnd == m_column.m_hWnd;
+    WPARAM const key = message->wParam;
+    bool const control = ::GetKeyState(VK_CONTROL) < 0;
     if (inWords && key == VK_ESCAPE && !control && m_words.GetWindowTextLength() > 0)
     {
         m_words.SetWindowText(CString());
@@ -689,7 +689,7 @@ int CFrameMeasuresPanel::StatusWidth()
     workbench::FontScope const font(dc, m_metrics->Font());
     std::wstring const longest = L"23.2 ms";
     auto const window = CString(WindowText(longest).c_str());
-    auto const longer = std::max(dc.GetTextExtent(part).cx, dc.GetTextExtent(window).cx);
+    long const longer = std::max(dc.GetTextExtent(part).cx, dc.GetTextExtent(window).cx);
     return dc.GetTextExtent(frames + L"; ").cx + longer + m_metrics->AverageWidth();
 }
 
@@ -702,28 +702,28 @@ void CFrameMeasuresPanel::Arrange()
     }
     CRect client;
     GetClientRect(&client);
-    auto const gap = m_metrics->X(part_gap);
-    auto const line = m_metrics->Y(strip_height);
-    auto const high = m_metrics->Y(field_height);
-    auto const label = m_metrics->X(label_width);
-    auto const column = m_metrics->X(column_width);
+    int const gap = m_metrics->X(part_gap);
+    int const line = m_metrics->Y(strip_height);
+    int const high = m_metrics->Y(field_height);
+    int const label = m_metrics->X(label_width);
+    int const column = m_metrics->X(column_width);
     auto const button = std::min<int>(m_metrics->X(export_width), client.Width() / 2);
-    auto const whole = label + column + m_metrics->X(words_width) + StatusWidth() + button + 5 * gap;
-    auto const isWide = client.Width() >= whole;
-    auto const top = (line - high) / 2;
-    auto const left = gap + label + gap;
+    int const whole = label + column + m_metrics->X(words_width) + StatusWidth() + button + 5 * gap;
+    bool const isWide = client.Width() >= whole;
+    int const top = (line - high) / 2;
+    int const left = gap + label + gap;
     m_label.MoveWindow(gap, top, label, high);
     // A drop-down list's own height is its font's; the rest is its list's.
     m_column.MoveWindow(left, top, std::min<int>(column, client.Width() / 3), m_metrics->Y(list_height));
     auto const words = left + std::min<int>(column, client.Width() / 3) + gap;
     auto const wordsRight = isWide ? words + m_metrics->X(words_width) : static_cast<int>(client.right) - gap;
     m_words.MoveWindow(words, top, std::max(wordsRight - words, 0), high);
-    auto const second = isWide ? top : top + line;
-    auto const status = isWide ? wordsRight + 2 * gap : gap;
+    int const second = isWide ? top : top + line;
+    int const status = isWide ? wordsRight + 2 * gap : gap;
     auto const right = static_cast<int>(client.right) - gap - button;
     m_status.MoveWindow(status, second, std::max(right - gap - status, 0), high);
     m_export.MoveWindow(right, second, button, high);
-    auto const strip = isWide ? line : 2 * line;
+    int const strip = isWide ? line : 2 * line;
     m_table.MoveWindow(0, strip, client.Width(), std::max<int>(client.Height() - strip, 0));
 }
 

@@ -10,12 +10,12 @@
 #include <optional>
 #include <string>
 
-#include "Panel.h"
-#include "ScreenMetrics.h"
 #include "frame/LifeWatch.h"
 #include "list/table/XTableCtrl.h"
 #include "logic/FrameMeasuresJob.h"
 #include "logic/FrameTable.h"
+#include "Panel.h"
+#include "ScreenMetrics.h"
 
 /// The analysis frames of a recording as a table, with a strip to choose among them. They are measured on a thread
 /// while the table shows what there is by then; not before the panel is seen. The row of the cursor's time is selected,

@@ -24,7 +24,7 @@ CHelpDialog::CHelpDialog(CWnd & owner) : CWorkbenchDialog(IDD_HELP, L"Help", own
 bool CHelpDialog::Show(HelpTopic topic)
 {
     m_topic = topic;
-    if (auto const active = ::GetActiveWindow(); active != m_hWnd)
+    if (HWND const active = ::GetActiveWindow(); active != m_hWnd)
     {
         m_former = active;
     }
@@ -68,7 +68,7 @@ BOOL CHelpDialog::OnInitDialog()
 void CHelpDialog::Fill()
 {
     m_topics.ResetContent();
-    for (auto topic = 0; topic < workbench::help_topic_count; ++topic)
+    for (int topic = 0; topic < workbench::help_topic_count; ++topic)
     {
         m_topics.AddString(HelpPageOf(static_cast<HelpTopic>(topic), workbench::PresentLanguage()).title);
     }
@@ -78,7 +78,7 @@ void CHelpDialog::Fill()
 
 std::wstring CHelpDialog::PageText() const
 {
-    auto const language = workbench::PresentLanguage();
+    workbench::Language const language = workbench::PresentLanguage();
     if (m_topic == HelpTopic::keys)
     {
         return KeysPage(m_menus ? m_menus() : std::vector<workbench::MenuTexts>(), language);
@@ -90,9 +90,9 @@ void CHelpDialog::ShowPage()
 {
     // Lines end as edit fields have it. Keys are a table; elsewhere paragraphs stand apart, and what is explained above
     // its explanation.
-    auto const isTable = m_topic == HelpTopic::keys;
+    bool const isTable = m_topic == HelpTopic::keys;
     std::wstring text;
-    for (auto const character : PageText())
+    for (wchar_t const character : PageText())
     {
         switch (character)
         {
@@ -113,7 +113,7 @@ void CHelpDialog::ShowPage()
 
 void CHelpDialog::OnTopicChosen()
 {
-    if (auto const chosen = m_topics.GetCurSel(); chosen >= 0)
+    if (int const chosen = m_topics.GetCurSel(); chosen >= 0)
     {
         m_topic = static_cast<HelpTopic>(chosen);
         ShowPage();
@@ -122,7 +122,7 @@ void CHelpDialog::OnTopicChosen()
 
 void CHelpDialog::OnCancel()
 {
-    auto const former = m_former;
+    HWND const former = m_former;
     CWorkbenchDialog::OnCancel();
     if (::IsWindow(former) && ::IsWindowEnabled(former) && ::IsWindowVisible(former))
     {

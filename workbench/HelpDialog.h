@@ -3,8 +3,8 @@
 #include <functional>
 #include <string>
 
-#include "WorkbenchDialog.h"
 #include "logic/HelpTopics.h"
+#include "WorkbenchDialog.h"
 
 /// The help: a list of topics, and the page of the chosen one. Closing it goes back to the window that was active.
 class CHelpDialog : public CWorkbenchDialog

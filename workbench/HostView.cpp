@@ -27,7 +27,7 @@ void CHostView::Fill()
 {
     CRect client;
     GetClientRect(&client);
-    if (auto * const child = GetWindow(GW_CHILD))
+    if (CWnd * const child = GetWindow(GW_CHILD))
     {
         child->MoveWindow(client);
     }
@@ -35,14 +35,14 @@ void CHostView::Fill()
 
 void CHostView::OnSetFocus(CWnd *)
 {
-    auto * const child = GetWindow(GW_CHILD);
+    CWnd * const child = GetWindow(GW_CHILD);
     if (child == nullptr)
     {
         return;
     }
     // What consists of controls has the first one take it.
-    auto const holds = (child->GetExStyle() & WS_EX_CONTROLPARENT) != 0;
-    auto const first = holds ? ::GetNextDlgTabItem(child->m_hWnd, nullptr, FALSE) : nullptr;
+    bool const holds = (child->GetExStyle() & WS_EX_CONTROLPARENT) != 0;
+    HWND const first = holds ? ::GetNextDlgTabItem(child->m_hWnd, nullptr, FALSE) : nullptr;
     ::SetFocus(first != nullptr ? first : child->m_hWnd);
 }
 
@@ -60,7 +60,7 @@ int CHostView::OnMouseActivate(CWnd * top, UINT hit, UINT message)
 /// Whether it lies in the main window itself, and not in a frame or a pane that floats.
 bool CHostView::IsInMainWindow() const
 {
-    auto * const main = AfxGetMainWnd();
+    CWnd * const main = AfxGetMainWnd();
     return main != nullptr && GetParentFrame() == main && main->IsChild(this);
 }
 
@@ -71,6 +71,6 @@ BOOL CHostView::PreTranslateMessage(MSG * message)
     {
         return TRUE;
     }
-    auto const goesOn = message->message == WM_KEYDOWN && message->wParam == VK_TAB && ::GetKeyState(VK_CONTROL) >= 0;
+    bool const goesOn = message->message == WM_KEYDOWN && message->wParam == VK_TAB && ::GetKeyState(VK_CONTROL) >= 0;
     return goesOn && !IsInMainWindow() && IsDialogMessage(message);
 }

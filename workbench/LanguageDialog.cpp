@@ -1,7 +1,7 @@
 #include "LanguageDialog.h"
 
-#include "Settings.h"
 #include "logic/Texts.h"
+#include "Settings.h"
 
 using workbench::Text;
 
@@ -15,8 +15,8 @@ CComboBox & CLanguageDialog::List()
 
 BOOL CLanguageDialog::OnInitDialog()
 {
-    auto const result = CSprachauswahlDlg::OnInitDialog();
-    auto & list = List();
+    BOOL const result = CSprachauswahlDlg::OnInitDialog();
+    CComboBox & list = List();
     for (int item = list.GetCount() - 1; item >= 0; --item)
     {
         auto const id = static_cast<unsigned short>(list.GetItemData(item));
@@ -57,10 +57,10 @@ BOOL CLanguageDialog::OnCommand(WPARAM wide, LPARAM parameter)
 /// takes its place.
 void CLanguageDialog::CompleteTyped()
 {
-    auto & list = List();
+    CComboBox & list = List();
     CString typed;
     list.GetWindowText(typed);
-    auto const item = typed.IsEmpty() ? CB_ERR : list.FindString(-1, typed);
+    int const item = typed.IsEmpty() ? CB_ERR : list.FindString(-1, typed);
     if (item != CB_ERR)
     {
         m_completes = false; // what follows is no key
@@ -71,13 +71,13 @@ void CLanguageDialog::CompleteTyped()
 
 void CLanguageDialog::OnOK()
 {
-    auto & list = List();
+    CComboBox & list = List();
     CString typed;
     list.GetWindowText(typed);
     typed.Trim();
     if (list.GetCurSel() == CB_ERR && !typed.IsEmpty())
     {
-        auto const item = list.FindStringExact(-1, typed);
+        int const item = list.FindStringExact(-1, typed);
         if (item == CB_ERR)
         {
             AfxMessageBox(Text(L"Choose one of the languages in the list."), MB_ICONEXCLAMATION);

@@ -4,9 +4,9 @@
 #include <iterator>
 #include <utility>
 
-#include "RecordingList.h"
 #include "frame/RegisteredMessages.h"
 #include "logic/Texts.h"
+#include "RecordingList.h"
 #include "resource.h"
 
 using workbench::Text;
@@ -26,7 +26,7 @@ void TakeWholeLines(CListBox & box)
     box.GetWindowRect(&place);
     CRect inside;
     box.GetClientRect(&inside);
-    if (auto const line = box.GetItemHeight(0); line > 0)
+    if (int const line = box.GetItemHeight(0); line > 0)
     {
         box.SetWindowPos(nullptr, 0, 0, place.Width(), place.Height() - inside.Height() % line,
                          SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
@@ -75,13 +75,13 @@ BOOL CListGroup::OnInitDialog()
 void CListGroup::FillBoxes()
 {
     m_contrast.ResetContent();
-    for (auto const * const text : {Text(L"Usual colours"), Text(L"Dark"),
-                                    Text(L"High contrast (the system's colours)"), Text(L"As the system has it")})
+    for (wchar_t const * const text : {Text(L"Usual colours"), Text(L"Dark"),
+                                       Text(L"High contrast (the system's colours)"), Text(L"As the system has it")})
     {
         m_contrast.AddString(text);
     }
     m_scale.ResetContent();
-    for (auto const percent : workbench::Settings::scales)
+    for (int const percent : workbench::Settings::scales)
     {
         CString text = Text(L"As the system has it");
         if (percent != 0)
@@ -95,7 +95,7 @@ void CListGroup::FillBoxes()
 void CListGroup::FillOrder(std::vector<int> const & columns)
 {
     m_order.ResetContent();
-    for (auto const column : columns)
+    for (int const column : columns)
     {
         // The check boxes go with the names.
         if (column != CRecordingList::column_check)
@@ -123,9 +123,9 @@ void CListGroup::ShowTexts()
         return;
     }
     m_columns.Arrange(Order());
-    auto const set = m_contrast.GetCurSel();
-    auto const scale = m_scale.GetSelectedItemData(0);
-    auto const chosen = m_order.GetCurSel();
+    int const set = m_contrast.GetCurSel();
+    int const scale = m_scale.GetSelectedItemData(0);
+    int const chosen = m_order.GetCurSel();
     FillBoxes();
     m_contrast.SetCurSel(set);
     m_scale.SelectItemData(scale);
@@ -139,7 +139,7 @@ void CListGroup::Show(workbench::Settings const & settings)
     m_scale.SelectItemData(settings.scale);
     CheckDlgButton(IDC_CELL_CURSOR, settings.cellCursor ? BST_CHECKED : BST_UNCHECKED);
     m_chosen = false;
-    auto const * const set = std::find(std::begin(sets), std::end(sets), settings.contrast);
+    ControlColorSet const * const set = std::find(std::begin(sets), std::end(sets), settings.contrast);
     m_contrast.SetCurSel(static_cast<int>(set - std::begin(sets)));
     FillOrder(settings.columnOrder);
     m_order.SetCurSel(0);
@@ -162,7 +162,7 @@ bool CListGroup::Take(workbench::Settings & settings)
 
 BOOL CListGroup::OnApply()
 {
-    auto const applied = CSettingsGroup::OnApply();
+    BOOL const applied = CSettingsGroup::OnApply();
     if (applied)
     {
         m_moved = false; // from here on the order is the list's
@@ -177,10 +177,10 @@ void CListGroup::FollowColumns(std::vector<int> const & order)
     {
         return;
     }
-    auto const chosen = m_order.GetCurSel();
+    int const chosen = m_order.GetCurSel();
     auto const column = chosen >= 0 ? static_cast<int>(m_order.GetItemData(chosen)) : -1;
     FillOrder(order);
-    auto const columns = Order();
+    std::vector<int> const columns = Order();
     auto const place = std::ranges::find(columns, column);
     m_order.SetCurSel(place != columns.end() ? static_cast<int>(place - columns.begin()) : -1);
     m_columns.Arrange(columns);
@@ -190,15 +190,15 @@ void CListGroup::FollowColumns(std::vector<int> const & order)
 /// Moves the chosen column, which stays chosen.
 void CListGroup::MoveColumn(int places)
 {
-    auto const from = m_order.GetCurSel();
-    auto const to = from + places;
+    int const from = m_order.GetCurSel();
+    int const to = from + places;
     if (from < 0 || to < 0 || to >= m_order.GetCount())
     {
         return;
     }
     CString title;
     m_order.GetText(from, title);
-    auto const column = m_order.GetItemData(from);
+    DWORD_PTR const column = m_order.GetItemData(from);
     m_order.DeleteString(static_cast<UINT>(from));
     m_order.InsertString(to, title);
     m_order.SetItemData(to, column);
@@ -227,12 +227,12 @@ void CListGroup::OnOrderChosen()
 /// A button that has the focus gives it to the list before it is greyed.
 void CListGroup::EnableButtons()
 {
-    auto const chosen = m_order.GetCurSel();
+    int const chosen = m_order.GetCurSel();
     std::pair<int, bool> const buttons[] = {{IDC_COLUMN_UP, chosen > 0},
                                             {IDC_COLUMN_DOWN, chosen >= 0 && chosen + 1 < m_order.GetCount()}};
     for (auto const & [id, enabled] : buttons)
     {
-        auto & button = *GetDlgItem(id);
+        CWnd & button = *GetDlgItem(id);
         if (!enabled && GetFocus() == &button)
         {
             m_order.SetFocus();
@@ -244,7 +244,7 @@ void CListGroup::EnableButtons()
 /// Alt and an arrow key move the chosen column, as they do lines in the list.
 BOOL CListGroup::PreTranslateMessage(MSG * message)
 {
-    auto const isArrow = message->wParam == VK_UP || message->wParam == VK_DOWN;
+    bool const isArrow = message->wParam == VK_UP || message->wParam == VK_DOWN;
     if (message->message == WM_SYSKEYDOWN && isArrow && m_order.GetSafeHwnd() != nullptr &&
         message->hwnd == m_order.m_hWnd)
     {

@@ -3,8 +3,8 @@
 #include <vector>
 
 #include "ColumnsField.h"
-#include "SettingsGroup.h"
 #include "controls/ComboBoxX.h"
+#include "SettingsGroup.h"
 
 /// The columns of the list and their order, how large it is, how keys act in it, and the colours of all lists and
 /// controls.

@@ -33,9 +33,9 @@ constexpr State state_values[] = {State::any, State::sound, State::damaged, Stat
 /// Fills a choice anew and keeps what is chosen.
 void Fill(CComboBox & choice, std::vector<wchar_t const *> const & texts)
 {
-    auto const chosen = std::max(choice.GetCurSel(), 0);
+    int const chosen = std::max(choice.GetCurSel(), 0);
     choice.ResetContent();
-    for (auto const * const text : texts)
+    for (wchar_t const * const text : texts)
     {
         choice.AddString(text);
     }
@@ -70,7 +70,7 @@ bool CListPanel::CreatePanel(CWnd & parent, UINT id, UINT listId, workbench::Scr
     {
         return false;
     }
-    for (auto * const window : Parts())
+    for (CWnd * const window : Parts())
     {
         window->SetFont(&metrics.Font());
     }
@@ -83,7 +83,7 @@ void CListPanel::ShowTexts()
     m_label.SetWindowText(Text(L"Filter:"));
     m_marked.SetWindowText(Text(L"Marked"));
     std::vector<wchar_t const *> ratings{Text(L"Any rating")};
-    for (auto rating = 0; *CRecordingList::RatingName(rating) != L'\0'; ++rating)
+    for (int rating = 0; *CRecordingList::RatingName(rating) != L'\0'; ++rating)
     {
         ratings.push_back(CRecordingList::RatingName(rating));
     }
@@ -105,7 +105,7 @@ void CListPanel::ShowFilter(bool show)
     if (!show)
     {
         // The list takes the focus while the field that has it still shows.
-        auto const * const focus = GetFocus();
+        CWnd const * const focus = GetFocus();
         if (std::ranges::any_of(Parts(), [focus](auto const * part) { return part == focus; }))
         {
             m_list->SetFocus();
@@ -119,7 +119,7 @@ void CListPanel::ShowFilter(bool show)
     if (show != m_showsFilter)
     {
         m_showsFilter = show;
-        for (auto * const window : Parts())
+        for (CWnd * const window : Parts())
         {
             window->ShowWindow(show ? SW_SHOWNA : SW_HIDE);
         }
@@ -137,7 +137,7 @@ void CListPanel::OnFilterChange()
 {
     workbench::RecordingFilter filter;
     filter.marked = m_marked.GetCheck() == BST_CHECKED;
-    if (auto const rating = m_rating.GetCurSel(); rating > 0)
+    if (int const rating = m_rating.GetCurSel(); rating > 0)
     {
         filter.rating = rating - 1;
     }
@@ -160,16 +160,16 @@ void CListPanel::OnFilterChange()
 /// The keys of the strip; those of the field are not the window's.
 BOOL CListPanel::PreTranslateMessage(MSG * message)
 {
-    auto const inWords = message->hwnd == m_words.m_hWnd;
+    bool const inWords = message->hwnd == m_words.m_hWnd;
     auto const isAt = [message](CWnd const & part) { return message->hwnd == part.m_hWnd; };
-    auto const inStrip = m_showsFilter && std::ranges::any_of(Parts(), [&](auto const * part) { return isAt(*part); });
-    auto const drops = (isAt(m_rating) && m_rating.GetDroppedState()) || (isAt(m_state) && m_state.GetDroppedState());
+    bool const inStrip = m_showsFilter && std::ranges::any_of(Parts(), [&](auto const * part) { return isAt(*part); });
+    bool const drops = (isAt(m_rating) && m_rating.GetDroppedState()) || (isAt(m_state) && m_state.GetDroppedState());
     if (message->message != WM_KEYDOWN || ::GetKeyState(VK_MENU) < 0 || m_metrics == nullptr)
     {
         return CPanel::PreTranslateMessage(message);
     }
-    auto const key = message->wParam;
-    auto const control = ::GetKeyState(VK_CONTROL) < 0;
+    WPARAM const key = message->wParam;
+    bool const control = ::GetKeyState(VK_CONTROL) < 0;
     if (key == VK_ESCAPE && !control && m_showsFilter && !m_list->IsEditing() && !drops)
     {
         ShowFilter(false);
@@ -206,14 +206,14 @@ void CListPanel::Arrange()
     }
     CRect client;
     GetClientRect(&client);
-    auto const strip = m_showsFilter ? m_metrics->Y(strip_height) : 0;
+    int const strip = m_showsFilter ? m_metrics->Y(strip_height) : 0;
     // The list first: moved later, it would take pictures of the strip's parts along.
     m_list->MoveWindow(0, strip, client.Width(), std::max<int>(client.Height() - strip, 0));
     if (m_showsFilter)
     {
-        auto const high = m_metrics->Y(field_height);
-        auto const top = (strip - high) / 2;
-        auto const gap = m_metrics->X(part_gap);
+        int const high = m_metrics->Y(field_height);
+        int const top = (strip - high) / 2;
+        int const gap = m_metrics->X(part_gap);
         auto const label = std::min<int>(m_metrics->X(label_width), client.Width() / 6);
         auto const choice = std::min<int>(m_metrics->X(choice_width), client.Width() / 5);
         CClientDC dc(&m_marked);

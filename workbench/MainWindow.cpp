@@ -7,11 +7,11 @@
 
 #include <algorithm>
 
-#include "UserRegion.h"
-#include "WaveformPanelView.h"
 #include "colours/Farbtabellen.h"
 #include "logic/Texts.h"
 #include "resource.h"
+#include "UserRegion.h"
+#include "WaveformPanelView.h"
 #include "windows/StandaloneFrameMigrationHelper.h"
 #include "windows/StandaloneFrameWnd.h"
 
@@ -181,18 +181,18 @@ bool CMainWindow::CreateMainWindow()
     PrepareHelp();
     PrepareReport();
     PreparePaneMenu();
-    auto const comfortable = Arrange();
+    CSize const comfortable = Arrange();
 
     CRect work;
     ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
-    auto const folders =
+    int const folders =
         m_settings.folderPane.value_or(HasRoomForFolders()) ? FolderPaneWidth() + m_metrics.X(divider_gap) : 0;
-    auto const limit = m_metrics.X(preferred_width_limit) + folders;
+    int const limit = m_metrics.X(preferred_width_limit) + folders;
     auto const width = std::max<int>(std::min(work.Width() * preferred_percent / 100, limit), comfortable.cx);
     auto const height = std::max<int>(
         std::min(work.Height() * preferred_percent / 100, m_metrics.Y(preferred_height_limit)), comfortable.cy);
-    auto const left = std::max((work.Width() - width) / 2, 0);
-    auto const top = std::max((work.Height() - height) / 3, 0);
+    int const left = std::max((work.Width() - width) / 2, 0);
+    int const top = std::max((work.Height() - height) / 3, 0);
     m_memory.PreferedPosition(left, top, left + width, top + height);
     m_memory.ReadMyPosition(this);
     KeepOnScreen();
@@ -211,8 +211,8 @@ bool CMainWindow::CreateMainWindow()
 
 void CMainWindow::ShowAsBefore(int command)
 {
-    auto const isOpen = command == SW_SHOW || command == SW_SHOWNORMAL || command == SW_SHOWDEFAULT;
-    auto const maximised = workbench::ReadMaximised();
+    bool const isOpen = command == SW_SHOW || command == SW_SHOWNORMAL || command == SW_SHOWDEFAULT;
+    bool const maximised = workbench::ReadMaximised();
     ShowWindow(isOpen && maximised ? SW_SHOWMAXIMIZED : command);
     m_maximised = maximised;
     m_layout = LayoutNow();
@@ -223,7 +223,7 @@ void CMainWindow::ShowAsBefore(int command)
 void CMainWindow::OnSize(UINT type, int width, int height)
 {
     CMDIFrameWndEx::OnSize(type, width, height);
-    auto const isMaximised = type == SIZE_MAXIMIZED;
+    bool const isMaximised = type == SIZE_MAXIMIZED;
     if (m_maximised && (isMaximised || type == SIZE_RESTORED) && isMaximised != *m_maximised)
     {
         m_maximised = isMaximised;
@@ -334,10 +334,10 @@ void CMainWindow::PrepareContents()
     // The commands of the list's menu are the window's, which has them for the keyboard, too.
     m_list.m_onContextCommand = [this](int command, int, int) {
         // Rows may have moved while the menu was open.
-        auto const line = m_list.MenuLine();
+        int const line = m_list.MenuLine();
         if (line >= 0)
         {
-            auto const selected = m_list.SelectedLines();
+            std::vector<int> const selected = m_list.SelectedLines();
             if (std::ranges::find(selected, line) == selected.end())
             {
                 m_list.ChooseLine(line);
@@ -353,7 +353,7 @@ void CMainWindow::PrepareContents()
     m_list.SetUserWidths(workbench::ReadColumnWidths(m_metrics.AverageWidth()));
     m_list.SetColumnOrder(workbench::ReadColumnOrder());
     m_status.m_onCancel = [this] { CancelReading(); };
-    auto const window = m_hWnd;
+    HWND const window = m_hWnd;
     m_queue = std::make_unique<workbench::AnalysisQueue>(
         [window] { ::PostMessageW(window, message_recordings_ready, 0, 0); });
     m_notes = std::make_unique<workbench::NotesStore>(workbench::NotesFile(),
@@ -404,10 +404,10 @@ wchar_t const * CMainWindow::TitleOf(Part part)
 /// Makes the pane of a part with a view for it. Null if that failed.
 CHostView * CMainWindow::CreatePart(Part part)
 {
-    auto const wasOpen = CFensterManager::OpenInitially(NameOf(part));
+    bool const wasOpen = CFensterManager::OpenInitially(NameOf(part));
     auto id = static_cast<int>(id_base) + part;
     auto const known = panes().find(static_cast<unsigned>(id));
-    auto const restored = known != panes().end() && ::IsWindow(known->second->m_hWnd);
+    bool const restored = known != panes().end() && ::IsWindow(known->second->m_hWnd);
     auto * const view = CStandaloneFrameMigrationHelper::CreatePane<CHostView>(NameOf(part), id, m_panes[part]);
     if (view == nullptr)
     {
@@ -429,7 +429,7 @@ CHostView * CMainWindow::CreatePart(Part part)
 bool CMainWindow::CreateParts()
 {
     std::array<CHostView *, part_count> views{};
-    for (auto part = 0; part < part_count; ++part)
+    for (int part = 0; part < part_count; ++part)
     {
         views[static_cast<std::size_t>(part)] = CreatePart(static_cast<Part>(part));
         if (views[static_cast<std::size_t>(part)] == nullptr)
@@ -439,7 +439,7 @@ bool CMainWindow::CreateParts()
     }
     // The panes stand around nothing: they share all the room there is.
     auto * const centre = new CHostView; // ends with its window
-    auto const created =
+    bool const created =
         centre->Create(nullptr, nullptr, WS_CHILD, CRect(), this, AFX_IDW_PANE_FIRST) &&
         m_listPanel.CreatePanel(*views[part_list], IDC_LIST_PANEL, IDC_RECORDINGS, m_metrics, m_list) &&
         m_tree.CreateTree(*views[part_folders], IDC_FOLDERS, m_metrics) &&
@@ -452,7 +452,7 @@ bool CMainWindow::CreateParts()
     m_tree.ShowWindow(SW_SHOWNA);
     // Displays and controls are of one height, also where the pane had another before.
     m_panes[part_measures]->SetMinSize(CSize(0, workbench::DefaultPanes(LayoutNeeds()).measures));
-    for (auto * const view : views)
+    for (CHostView * const view : views)
     {
         view->Fill(); // panes that have come back have their size already
     }
@@ -488,8 +488,8 @@ CSize CMainWindow::Arrange()
     ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
     CRect frame;
     ::AdjustWindowRectEx(&frame, GetStyle(), TRUE, GetExStyle());
-    auto const room = work.Width() - frame.Width() - 2 * m_metrics.X(margin);
-    auto const list = std::max(std::min(m_list.LeastWidth(), room), CMeasurePanel::LeastWidth(m_metrics));
+    int const room = work.Width() - frame.Width() - 2 * m_metrics.X(margin);
+    int const list = std::max(std::min(m_list.LeastWidth(), room), CMeasurePanel::LeastWidth(m_metrics));
     CRect window(CPoint(0, 0), workbench::LeastMainArea(LayoutNeeds(), list));
     ::AdjustWindowRectEx(&window, GetStyle(), TRUE, GetExStyle());
     CSize const comfortable(std::min(window.Width(), work.Width()), std::min(window.Height(), work.Height()));
@@ -507,14 +507,14 @@ void CMainWindow::RecalcLayout(BOOL notify)
     {
         return;
     }
-    auto const needs = LayoutNeeds();
-    if (auto const least = workbench::LeastListPane(needs); m_panes[part_list] != nullptr && least != m_leastList)
+    workbench::MainLayoutNeeds const needs = LayoutNeeds();
+    if (CSize const least = workbench::LeastListPane(needs); m_panes[part_list] != nullptr && least != m_leastList)
     {
         m_leastList = least;
         m_panes[part_list]->SetMinSize(least);
     }
-    auto const layout = workbench::LayOutMain(needs);
-    auto border = layout.border;
+    workbench::MainLayout const layout = workbench::LayOutMain(needs);
+    CRect border = layout.border;
     NegotiateBorderSpace(borderSet, &border);
     CMDIFrameWndEx::RecalcLayout(notify);
     struct Place
@@ -528,7 +528,7 @@ void CMainWindow::RecalcLayout(BOOL notify)
     auto moved = ::BeginDeferWindowPos(static_cast<int>(places.size()));
     for (auto const & [window, rect] : places)
     {
-        auto const show = rect.IsRectEmpty() ? SWP_HIDEWINDOW : SWP_SHOWWINDOW;
+        int const show = rect.IsRectEmpty() ? SWP_HIDEWINDOW : SWP_SHOWWINDOW;
         if (moved != nullptr)
         {
             moved = ::DeferWindowPos(moved, window, nullptr, rect.left, rect.top, rect.Width(), rect.Height(),
@@ -549,9 +549,9 @@ void CMainWindow::ResetLayout()
 /// Docks the panes as at the first start, but for those others.
 void CMainWindow::DockByDefault(std::array<bool, part_count> const & others)
 {
-    auto needs = LayoutNeeds();
+    workbench::MainLayoutNeeds needs = LayoutNeeds();
     needs.client.cx -= needs.framesWidth;
-    auto const sizes = workbench::DefaultPanes(needs);
+    workbench::PaneHeights const sizes = workbench::DefaultPanes(needs);
     auto const dock = [&](Part part, DWORD side, int extent, bool show = true) {
         if (!others[part])
         {
@@ -597,7 +597,7 @@ void CMainWindow::ShowPane(Part part, bool show)
         ShowFolders(show);
         return;
     }
-    auto const leaves = !show && m_panes[part]->IsChild(GetFocus());
+    bool const leaves = !show && m_panes[part]->IsChild(GetFocus());
     m_panes[part]->ShowPane(show, FALSE, show);
     if (leaves)
     {
@@ -633,20 +633,20 @@ void CMainWindow::FocusList()
 std::vector<CWnd *> CMainWindow::FocusStops()
 {
     std::vector<CWnd *> stops;
-    for (auto const part :
+    for (Part const part :
          {part_list, part_waveform, part_spectrogram, part_frame_measures, part_measures, part_folders})
     {
-        if (auto * const view = m_panes[part]->View(); view != nullptr && view->IsWindowVisible())
+        if (CView * const view = m_panes[part]->View(); view != nullptr && view->IsWindowVisible())
         {
             stops.push_back(view);
         }
     }
-    auto const frames = m_frames.Frames();
+    std::vector<CWaveformFrame *> const frames = m_frames.Frames();
     auto const active = std::ranges::find_if(
         frames, [this](auto const * frame) { return frame->Frame()->m_hWnd == MDIGetActive()->GetSafeHwnd(); });
     for (std::size_t cell = 0; active != frames.end() && cell < (*active)->Cells(); ++cell)
     {
-        if (auto * const view = (*active)->Cell(cell); view != nullptr && view->IsWindowVisible())
+        if (CWaveformPanelView * const view = (*active)->Cell(cell); view != nullptr && view->IsWindowVisible())
         {
             stops.push_back(view);
         }
@@ -656,19 +656,19 @@ std::vector<CWnd *> CMainWindow::FocusStops()
 
 void CMainWindow::GoToNext(bool back)
 {
-    auto const stops = FocusStops();
+    std::vector<CWnd *> const stops = FocusStops();
     if (stops.empty())
     {
         return;
     }
-    auto const focus = ::GetFocus();
+    HWND const focus = ::GetFocus();
     auto const at = std::ranges::find_if(
         stops, [focus](auto const * stop) { return stop->m_hWnd == focus || ::IsChild(stop->m_hWnd, focus); });
-    auto const count = stops.size();
+    std::size_t const count = stops.size();
     auto const next = at == stops.end()
                           ? (back ? count - 1 : 0)
                           : (static_cast<std::size_t>(at - stops.begin()) + (back ? count - 1 : 1)) % count;
-    auto * const stop = stops[next];
+    CWnd * const stop = stops[next];
     if (auto * const frame = DYNAMIC_DOWNCAST(CMDIChildWnd, stop->GetParentFrame()))
     {
         frame->SetActiveView(static_cast<CView *>(stop));
@@ -700,14 +700,14 @@ bool CMainWindow::HasRoomForFolders() const
 {
     CRect work;
     ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
-    auto const room = work.Width() * preferred_percent / 100 - 2 * m_metrics.X(margin) - m_metrics.X(divider_gap);
+    int const room = work.Width() * preferred_percent / 100 - 2 * m_metrics.X(margin) - m_metrics.X(divider_gap);
     return room >= m_list.LeastWidth() + FolderPaneWidth();
 }
 
 /// In pixels.
 int CMainWindow::FolderPaneWidth() const
 {
-    auto const letters = m_settings.folderPaneWidth > 0 ? m_settings.folderPaneWidth : pane_letters;
+    int const letters = m_settings.folderPaneWidth > 0 ? m_settings.folderPaneWidth : pane_letters;
     return letters * m_metrics.AverageWidth();
 }
 
@@ -740,7 +740,7 @@ void CMainWindow::MoveFramesDivider(int x)
 {
     CRect client;
     GetClientRect(&client);
-    auto const width = client.Width() - m_metrics.X(margin) - x - m_metrics.X(divider_gap);
+    int const width = client.Width() - m_metrics.X(margin) - x - m_metrics.X(divider_gap);
     SetFrameShare(::MulDiv(width, 100, std::max(client.Width(), 1)));
 }
 
@@ -759,7 +759,7 @@ void CMainWindow::SetFrameShare(int share)
 void CMainWindow::OnDropFiles(HDROP drop)
 {
     std::vector<std::filesystem::path> files;
-    auto const count = ::DragQueryFileW(drop, 0xFFFFFFFF, nullptr, 0);
+    UINT const count = ::DragQueryFileW(drop, 0xFFFFFFFF, nullptr, 0);
     for (UINT i = 0; i < count; ++i)
     {
         std::wstring name(::DragQueryFileW(drop, i, nullptr, 0), L'\0');
@@ -785,8 +785,8 @@ bool CMainWindow::IsInFrames(HWND window) const
 /// Opens the menu by the keys that are pressed in a pane that floats: its frame has none.
 bool CMainWindow::OpenMenuFromPane(MSG const & message)
 {
-    auto const isLetter = message.message == WM_SYSCHAR && message.wParam > L' ';
-    auto const isMenuKey = message.message == WM_SYSKEYDOWN && message.wParam == VK_F10;
+    bool const isLetter = message.message == WM_SYSCHAR && message.wParam > L' ';
+    bool const isMenuKey = message.message == WM_SYSKEYDOWN && message.wParam == VK_F10;
     auto * const frame = CWnd::FromHandlePermanent(::GetAncestor(message.hwnd, GA_ROOT));
     if ((!isLetter && !isMenuKey) || DYNAMIC_DOWNCAST(CPaneFrameWnd, frame) == nullptr)
     {
@@ -798,7 +798,7 @@ bool CMainWindow::OpenMenuFromPane(MSG const & message)
 
 BOOL CMainWindow::PreTranslateMessage(MSG * message)
 {
-    auto const window = m_hWnd;
+    HWND const window = m_hWnd;
     if (OpenMenuFromPane(*message))
     {
         return TRUE;
@@ -835,7 +835,7 @@ BOOL CMainWindow::PreTranslateMessage(MSG * message)
 /// Whether it is a key that belongs to the comment that is being edited.
 bool CMainWindow::IsForEditor(MSG const & message) const
 {
-    auto const editor = m_list.CommentEditor();
+    HWND const editor = m_list.CommentEditor();
     return editor != nullptr && message.hwnd == editor && message.message == WM_KEYDOWN &&
            (message.wParam == VK_F2 || (message.wParam >= L'A' && message.wParam <= L'Z'));
 }
@@ -846,7 +846,7 @@ void CMainWindow::OnActivate(UINT state, CWnd * other, BOOL minimized)
     CWnd::OnActivate(state, other, minimized);
     if (state == WA_INACTIVE)
     {
-        auto const * const focus = GetFocus();
+        CWnd const * const focus = GetFocus();
         m_lastFocus = focus != nullptr && IsChild(focus) ? focus->m_hWnd : nullptr;
     }
     else
@@ -874,18 +874,28 @@ void CMainWindow::LookAfterOwned()
 /// owner, other systems do when it is activated: a click raises it a little later, without a message that says so.
 LRESULT CMainWindow::OnRaiseDialogs(WPARAM, LPARAM)
 {
+    auto const isOwned = [this](HWND window) {
+        return ::GetWindow(window, GW_OWNER) == m_hWnd && ::IsWindowVisible(window);
+    };
     std::vector<HWND> below;
-    for (auto window = ::GetWindow(m_hWnd, GW_HWNDNEXT); window != nullptr; window = ::GetWindow(window, GW_HWNDNEXT))
+    for (HWND window = ::GetWindow(m_hWnd, GW_HWNDNEXT); window != nullptr; window = ::GetWindow(window, GW_HWNDNEXT))
     {
-        if (::GetWindow(window, GW_OWNER) == m_hWnd && ::IsWindowVisible(window))
+        if (isOwned(window))
         {
             below.push_back(window);
         }
     }
-    for (auto i = below.size(); i > 0; --i)
+    // Those that are above still were above these: this window may have been raised while they were put back.
+    HWND upper = ::GetWindow(m_hWnd, GW_HWNDPREV);
+    while (upper != nullptr && !isOwned(upper))
     {
-        ::SetWindowPos(below[i - 1], HWND_TOP, 0, 0, 0, 0,
+        upper = ::GetWindow(upper, GW_HWNDPREV);
+    }
+    for (HWND const window : below)
+    {
+        ::SetWindowPos(window, upper != nullptr ? upper : HWND_TOP, 0, 0, 0, 0,
                        SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_NOOWNERZORDER);
+        upper = window;
     }
     return 0;
 }

@@ -9,26 +9,26 @@
 #include <utility>
 
 #include "BusyDialog.h"
+#include "colours/Farbtabellen.h"
+#include "controls/IdNameMultiselectDlg.h"
 #include "ExportDialog.h"
 #include "FileDialogs.h"
+#include "frame/WindowAlive.h"
 #include "LanguageDialog.h"
+#include "logic/Amplification.h"
+#include "logic/SafeFile.h"
+#include "logic/Texts.h"
+#include "logic/TextTable.h"
+#include "logic/TrashTexts.h"
+#include "logic/WriteTexts.h"
 #include "OpenFolderDialog.h"
 #include "PictureCopy.h"
 #include "RecordingCells.h"
 #include "RecordingColumns.h"
 #include "RenameDialog.h"
+#include "resource.h"
 #include "SettingsExchange.h"
 #include "WaveformPanelView.h"
-#include "colours/Farbtabellen.h"
-#include "controls/IdNameMultiselectDlg.h"
-#include "frame/WindowAlive.h"
-#include "logic/Amplification.h"
-#include "logic/SafeFile.h"
-#include "logic/TableText.h"
-#include "logic/Texts.h"
-#include "logic/TrashTexts.h"
-#include "logic/WriteTexts.h"
-#include "resource.h"
 #include "windows/StandaloneFrameWnd.h"
 
 using workbench::Text;
@@ -57,7 +57,7 @@ void SetItemText(HMENU menu, UINT item, bool byPosition, CString text)
 DWORD DeletionError(std::filesystem::path const & file)
 {
     constexpr DWORD all_sharing = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-    auto * const handle = ::CreateFileW(file.c_str(), DELETE, all_sharing, nullptr, OPEN_EXISTING, 0, nullptr);
+    HANDLE const handle = ::CreateFileW(file.c_str(), DELETE, all_sharing, nullptr, OPEN_EXISTING, 0, nullptr);
     if (handle == INVALID_HANDLE_VALUE)
     {
         return ::GetLastError();
@@ -70,7 +70,7 @@ DWORD DeletionError(std::filesystem::path const & file)
 DWORD MoveToTrash(std::filesystem::path const & file)
 {
     // The system's function has numbers of its own, which tell less.
-    if (auto const error = DeletionError(file); error != 0)
+    if (DWORD const error = DeletionError(file); error != 0)
     {
         return error;
     }
@@ -86,7 +86,7 @@ DWORD MoveToTrash(std::filesystem::path const & file)
 /// The tree is a native one, which has to be told.
 void TakeSetOfColours(CTreeCtrl & tree)
 {
-    auto const colours = control_colors::Of(tree.m_hWnd);
+    ControlColors const colours = control_colors::Of(tree.m_hWnd);
     tree.SetBkColor(colours.adapts ? colours.window : CLR_NONE); // the system's
     tree.SetTextColor(colours.adapts ? colours.windowText : CLR_NONE);
 }
@@ -110,7 +110,7 @@ void TakeTexts(CMenu & bar, CMenu const & from)
     for (UINT place = 0; place < from.GetMenuItemCount(); ++place)
     {
         auto const * const source = from.GetSubMenu(static_cast<int>(place));
-        auto const command = source != nullptr ? FirstCommand(*source) : 0;
+        unsigned int const command = source != nullptr ? FirstCommand(*source) : 0;
         for (UINT own = 0; command != 0 && own < bar.GetMenuItemCount(); ++own)
         {
             auto const * const target = bar.GetSubMenu(static_cast<int>(own));
@@ -165,7 +165,7 @@ void CMainWindow::PrepareDialogs()
 {
     TakeSetOfColours(m_tree);
     m_windowMenu.SetMenu(Text(L"&Window"));
-    for (auto * const dialog : Dialogs())
+    for (CWorkbenchDialog * const dialog : Dialogs())
     {
         dialog->Follow(m_settings);
         dialog->m_onOpened = [this](CWorkbenchDialog & which, bool open) {
@@ -174,13 +174,13 @@ void CMainWindow::PrepareDialogs()
     }
     m_settingsSheet.m_onOpened = [this](bool open) { EnterInMenu(m_settingsSheet, Text(L"Settings"), open); };
     m_settingsSheet.m_current = [this] {
-        auto settings = m_settings;
+        workbench::Settings settings = m_settings;
         settings.columnOrder = m_list.ColumnOrder();
         return settings;
     };
     m_settingsSheet.m_onAccepted = [this](workbench::Settings const & settings) { TakeSettings(settings); };
     m_panel.m_onScale = [this](unsigned int scale) {
-        auto settings = m_settings;
+        workbench::Settings settings = m_settings;
         settings.spectrogramScale = scale;
         TakeSettings(settings);
     };
@@ -202,18 +202,18 @@ void CMainWindow::PrepareFrames()
 /// Gives each pane an item of the window menu and a key, by which it is shown and hidden.
 void CMainWindow::PreparePaneMenu()
 {
-    auto * const bar = GetMenu();
-    auto * const menu = bar != nullptr ? CMenueManager::FindSubMenue(*bar, Text(L"&Window")) : nullptr;
+    CMenu * const bar = GetMenu();
+    CMenu * const menu = bar != nullptr ? CMenueManager::FindSubMenue(*bar, Text(L"&Window")) : nullptr;
     if (menu == nullptr)
     {
         return;
     }
     UINT place = 0;
-    for (auto index = 0; index < part_count; ++index)
+    for (int index = 0; index < part_count; ++index)
     {
         auto const part = static_cast<Part>(index);
-        auto const text = PaneCommandText(part);
-        auto const id = register_menu(
+        CString const text = PaneCommandText(part);
+        int const id = register_menu(
             window_menu, text, [this, part] { ShowPane(part, !ShowsPane(part) || IsBehindTab(part)); },
             static_cast<unsigned short>(L'1' + index), FVIRTKEY | FCONTROL | FNOINVERT);
         if (id >= 0)
@@ -246,7 +246,7 @@ LRESULT CMainWindow::OnFrameRead(WPARAM, LPARAM)
 /// Gives the frames room, or takes it back when the last one has gone.
 LRESULT CMainWindow::OnFramesChanged(WPARAM, LPARAM)
 {
-    auto const focus = ::GetFocus();
+    HWND const focus = ::GetFocus();
     RecalcLayout();
     if (!m_frames.AnyOpen() && CWnd::GetActiveWindow() == this &&
         (focus == nullptr || focus == m_hWnd || focus == m_hWndMDIClient))
@@ -267,14 +267,14 @@ void CMainWindow::OnSysColorChange()
 /// Lets the windows follow the settings.
 void CMainWindow::FollowSettings(workbench::Settings const & settings)
 {
-    auto const formerContrast = std::exchange(m_settings, settings).contrast;
+    ControlColorSet const formerContrast = std::exchange(m_settings, settings).contrast;
     control_colors::UseForProcess(settings.contrast);
     if (settings.contrast != formerContrast)
     {
         TakeSetOfColours(m_tree);
         m_list.FollowColours();
     }
-    for (auto * const dialog : Dialogs())
+    for (CWorkbenchDialog * const dialog : Dialogs())
     {
         dialog->Follow(settings);
     }
@@ -288,7 +288,8 @@ void CMainWindow::FollowSettings(workbench::Settings const & settings)
     {
         m_list.SetHiddenColumns(settings.hiddenColumns);
     }
-    if (auto const order = std::exchange(m_settings.columnOrder, {}); !order.empty() && order != m_list.ColumnOrder())
+    if (std::vector<int> const order = std::exchange(m_settings.columnOrder, {});
+        !order.empty() && order != m_list.ColumnOrder())
     {
         m_list.SetColumnOrder(order);
         workbench::StoreColumnOrder(m_list.ColumnOrder());
@@ -325,7 +326,7 @@ void CMainWindow::ChooseColumns(CPoint screen)
 {
     m_list.EndEditing();
     CIdNameMultiselectDlg dialog(this);
-    auto const columns = workbench::HideableColumns(m_list.ColumnOrder());
+    std::vector<int> const columns = workbench::HideableColumns(m_list.ColumnOrder());
     dialog.m_control.SetTheMap(workbench::ColumnNames(columns));
     dialog.m_control.SetSelection(workbench::ShownColumns(columns, m_settings.hiddenColumns));
     dialog.m_control.ShowGroupedSelection(false);
@@ -341,7 +342,7 @@ void CMainWindow::ChooseColumns(CPoint screen)
     {
         return;
     }
-    auto settings = m_settings;
+    workbench::Settings settings = m_settings;
     settings.hiddenColumns = workbench::HiddenColumns(columns, dialog.m_control.TheSelection());
     TakeSettings(settings);
 }
@@ -357,8 +358,8 @@ void CMainWindow::OnSortBy()
         return;
     }
     constexpr wchar_t keys[] = L"123456789ABCDEFGH";
-    auto count = 0;
-    for (auto const column : m_list.ColumnOrder())
+    int count = 0;
+    for (int const column : m_list.ColumnOrder())
     {
         if (column != CRecordingList::column_check && !m_list.IsHidden(column))
         {
@@ -371,7 +372,7 @@ void CMainWindow::OnSortBy()
     CRect titles;
     m_list.GetHeaderCtrl()->GetWindowRect(&titles);
     WindowAlive const alive(*this, m_life);
-    auto const chosen = menu.TrackPopupMenu(TPM_RETURNCMD | TPM_NONOTIFY, titles.left, titles.bottom, this);
+    BOOL const chosen = menu.TrackPopupMenu(TPM_RETURNCMD | TPM_NONOTIFY, titles.left, titles.bottom, this);
     if (chosen > 0 && alive.IsAlive())
     {
         m_list.SortByUser(static_cast<CRecordingList::Column>(chosen));
@@ -392,11 +393,11 @@ void CMainWindow::OnExportList()
     m_settings.exportHidden = dialog.HiddenColumns();
     m_settings.exportLines = static_cast<int>(dialog.Lines());
     KeepSettings();
-    auto const file = dialog.File();
-    auto table = m_list.Table(dialog.Lines(), dialog.HiddenColumns());
-    auto written = false;
+    std::filesystem::path const file = dialog.File();
+    workbench::RecordingTable table = m_list.Table(dialog.Lines(), dialog.HiddenColumns());
+    bool written = false;
     unsigned long error = 0;
-    auto const whole =
+    bool const whole =
         CBusyDialog::DoAll(*this, Text(L"Exporting recordings"), table.Rows() + 1, [&](std::size_t step) {
             if (step < table.Rows())
             {
@@ -432,7 +433,7 @@ void CMainWindow::SayWritten(wchar_t const * what, std::filesystem::path const &
 /// That of the frame which has the focus, or else the chosen recording's.
 CWaveformView & CMainWindow::WaveformInUse()
 {
-    for (auto * window = GetFocus(); window != nullptr && window != this; window = window->GetParent())
+    for (CWnd * window = GetFocus(); window != nullptr && window != this; window = window->GetParent())
     {
         if (auto * const panel = DYNAMIC_DOWNCAST(CWaveformPanelView, window))
         {
@@ -450,13 +451,13 @@ void CMainWindow::OnPlay()
         m_playing.Pause(!m_playing.IsPaused());
         return;
     }
-    auto const * const chosen = RecordingAt(m_list.ChosenLine());
+    Recording const * const chosen = RecordingAt(m_list.ChosenLine());
     if (chosen == nullptr || !Waveform().ShowsRecording())
     {
         return;
     }
-    auto const & marks = Waveform().Marks();
-    auto const file = chosen->file;
+    workbench::TimeMarks const & marks = Waveform().Marks();
+    std::filesystem::path const file = chosen->file;
     auto const stretch =
         marks.HasSelection() ? marks.Selection() : workbench::FrameRange{marks.cursor, marks.window.Frames()};
     m_playing.Play(*this, file, stretch);
@@ -476,12 +477,12 @@ void CMainWindow::OnLoopPlaying()
 void CMainWindow::OnRename()
 {
     m_list.EndEditing();
-    auto const line = m_list.ChosenLine();
+    int const line = m_list.ChosenLine();
     if (RecordingAt(line) == nullptr)
     {
         return;
     }
-    auto const before = RecordingAt(line)->file;
+    std::filesystem::path const before = RecordingAt(line)->file;
     CRenameDialog dialog(before, m_settings, *this);
     WindowAlive const alive(*this, m_life);
     if (dialog.DoModal() != IDOK || !alive.IsAlive() || dialog.File() == before)
@@ -491,20 +492,20 @@ void CMainWindow::OnRename()
     StoreNotes();
     if (!::MoveFileExW(before.c_str(), dialog.File().c_str(), 0))
     {
-        auto const reason = workbench::FileErrorText(::GetLastError());
+        std::wstring const reason = workbench::FileErrorText(::GetLastError());
         AfxMessageBox(Text(L"The file could not be renamed.") +
                           (L"\n\n" + CString(dialog.File().filename().c_str()) + L": " + reason.c_str()),
                       MB_ICONEXCLAMATION);
         return;
     }
     // Other lines may have come meanwhile.
-    if (auto const now = LineOf(before); now >= 0)
+    if (int const now = LineOf(before); now >= 0)
     {
         RenameRecording(now, dialog.File());
     }
     else
     {
-        auto const notes = m_notes->Of(before);
+        workbench::RecordingNotes const notes = m_notes->Of(before);
         m_notes->Set(before, {});
         m_notes->Set(dialog.File(), notes);
     }
@@ -516,9 +517,9 @@ void CMainWindow::OnDeleteRecordings()
 {
     m_list.EndEditing();
     std::vector<std::filesystem::path> files;
-    for (auto const line : m_list.SelectedLines())
+    for (int const line : m_list.SelectedLines())
     {
-        if (auto const * const recording = RecordingAt(line))
+        if (Recording const * const recording = RecordingAt(line))
         {
             files.push_back(recording->file);
         }
@@ -532,7 +533,7 @@ void CMainWindow::OnDeleteRecordings()
     std::mutex mutex;
     std::vector<workbench::FileFailure> failures;
     CBusyDialog(*this, Text(L"Moving recordings to the trash"), files.size(), [&](std::size_t item) {
-        if (auto const error = MoveToTrash(files[item]); error != 0)
+        if (DWORD const error = MoveToTrash(files[item]); error != 0)
         {
             std::scoped_lock const lock(mutex);
             failures.emplace_back(files[item], error);
@@ -555,7 +556,7 @@ void CMainWindow::OnDeleteRecordings()
 
 void CMainWindow::OnShowFile()
 {
-    if (auto const * const recording = RecordingAt(m_list.ChosenLine()))
+    if (Recording const * const recording = RecordingAt(m_list.ChosenLine()))
     {
         auto const selected = L"/select,\"" + recording->file.wstring() + L'"';
         ::ShellExecuteW(m_hWnd, nullptr, L"explorer.exe", selected.c_str(), nullptr, SW_SHOWNORMAL);
@@ -564,8 +565,8 @@ void CMainWindow::OnShowFile()
 
 void CMainWindow::OnAmplify(UINT id)
 {
-    auto & view = WaveformInUse();
-    auto const present = view.Amplification();
+    CWaveformView & view = WaveformInUse();
+    int const present = view.Amplification();
     switch (id)
     {
     case ID_AMPLIFY:
@@ -587,11 +588,11 @@ void CMainWindow::OnAmplify(UINT id)
 CDetailsDialog::Actions CMainWindow::DetailsActions()
 {
     CDetailsDialog::Actions actions;
-    auto const index = m_detailsIndex;
+    int const index = m_detailsIndex;
     // The neighbours in the order in which the list shows them.
-    auto const row = m_list.PlaceOf(index);
-    auto const previous = row > 0 ? m_list.LineAt(row - 1) : -1;
-    auto const next = row >= 0 ? m_list.LineAt(row + 1) : -1;
+    int const row = m_list.PlaceOf(index);
+    int const previous = row > 0 ? m_list.LineAt(row - 1) : -1;
+    int const next = row >= 0 ? m_list.LineAt(row + 1) : -1;
     auto const read = [this](int i) { return RecordingAt(i) != nullptr && RecordingAt(i)->analysis; };
     // While a menu offers the actions, other recordings can come.
     auto const unlessOthersCome = [this, generation = m_generation](std::function<void()> action) {
@@ -637,14 +638,14 @@ void CMainWindow::OnShowSettings()
 /// Shows what the window says in the present language.
 void CMainWindow::ShowTexts()
 {
-    if (auto * const bar = GetMenu())
+    if (CMenu * const bar = GetMenu())
     {
         CMenu wanted;
         if (wanted.LoadMenu(IDR_MAIN_FRAME))
         {
             TakeTexts(*bar, wanted);
         }
-        for (auto part = 0; part < part_count; ++part)
+        for (int part = 0; part < part_count; ++part)
         {
             if (m_paneCommands[part] != 0)
             {
@@ -654,7 +655,7 @@ void CMainWindow::ShowTexts()
         m_windowMenu.SetMenu(Text(L"&Window"));
         DrawMenuBar();
     }
-    for (auto part = 0; part < part_count; ++part)
+    for (int part = 0; part < part_count; ++part)
     {
         m_panes[part]->SetWindowText(TitleOf(static_cast<Part>(part)));
     }
@@ -678,7 +679,7 @@ void CMainWindow::ShowTexts()
 void CMainWindow::ShowTextsOfOpenWindows()
 {
     m_details.Refresh(DetailsOf(m_detailsIndex));
-    for (auto * const dialog : Dialogs())
+    for (CWorkbenchDialog * const dialog : Dialogs())
     {
         if (dialog->GetSafeHwnd() != nullptr)
         {
@@ -691,7 +692,7 @@ void CMainWindow::ShowTextsOfOpenWindows()
         m_settingsSheet.ShowTexts();
         EnterInMenu(m_settingsSheet, Text(L"Settings"), true);
     }
-    for (auto * const frame : m_frames.Frames())
+    for (CWaveformFrame * const frame : m_frames.Frames())
     {
         frame->ShowTexts();
         EnterInMenu(*frame->Frame(), frame->Title(), true);
@@ -724,7 +725,7 @@ void CMainWindow::OnExportSettings()
 
 void CMainWindow::OnImportSettings()
 {
-    auto const result = workbench::ImportSettings(*this);
+    workbench::SettingsFileResult const result = workbench::ImportSettings(*this);
     if (result == workbench::SettingsFileResult::done || result == workbench::SettingsFileResult::incomplete)
     {
         FollowSettings(workbench::ReadSettings());
@@ -749,10 +750,10 @@ bool CMainWindow::ShowPreview()
 /// The page: the waveform and below it the spectrogram.
 void CMainWindow::DrawPage(CDC & dc, CRect const & page)
 {
-    auto const gap = m_metrics.Y(6);
-    auto upper = page;
+    int const gap = m_metrics.Y(6);
+    CRect upper = page;
     upper.bottom = page.top + (page.Height() - gap) / 2;
-    auto lower = page;
+    CRect lower = page;
     lower.top = upper.bottom + gap;
     Waveform().Print(dc, upper);
     m_spectrogram.Print(dc, lower);
@@ -760,7 +761,7 @@ void CMainWindow::DrawPage(CDC & dc, CRect const & page)
 
 void CMainWindow::OnCopy()
 {
-    if (auto const editor = m_list.CommentEditor(); editor != nullptr)
+    if (HWND const editor = m_list.CommentEditor(); editor != nullptr)
     {
         ::SendMessageW(editor, WM_COPY, 0, 0);
         return;
@@ -811,10 +812,10 @@ CSize CMainWindow::PictureSize(CWnd & view) const
 /// Lets the user save what a view shows, under the recording's name.
 void CMainWindow::SavePictureOf(CWnd & view, workbench::Drawing const & draw)
 {
-    auto const * const chosen = RecordingAt(m_list.ChosenLine());
+    Recording const * const chosen = RecordingAt(m_list.ChosenLine());
     auto const name = chosen != nullptr ? chosen->file.stem().wstring() : std::wstring();
     WindowAlive const alive(*this, m_life);
-    auto const file = workbench::ChoosePictureFile(*this, name);
+    std::optional<std::filesystem::path> const file = workbench::ChoosePictureFile(*this, name);
     if (!file || !alive.IsAlive())
     {
         return;
@@ -835,7 +836,7 @@ void CMainWindow::CloseDialogs()
 /// Closes what lies above the window; the frames stay.
 void CMainWindow::CloseOwnedWindows()
 {
-    for (auto * const window : OwnedWindows())
+    for (CWnd * const window : OwnedWindows())
     {
         if (window->GetSafeHwnd() != nullptr)
         {
@@ -856,7 +857,7 @@ void CMainWindow::OnDialogChosen(UINT id)
 
 void CMainWindow::OnOpenFiles()
 {
-    auto files = workbench::ChooseFiles(*this);
+    std::vector<std::filesystem::path> files = workbench::ChooseFiles(*this);
     if (!files.empty())
     {
         ShowTargets(std::move(files));
@@ -886,9 +887,9 @@ void CMainWindow::OnInitMenuPopup(CMenu * menu, UINT index, BOOL systemMenu)
     auto const enable = [menu](UINT id, bool enabled) {
         menu->EnableMenuItem(id, MF_BYCOMMAND | (enabled ? MF_ENABLED : MF_GRAYED));
     };
-    auto const chosen = m_list.ChosenLine();
-    auto const * const recording = RecordingAt(chosen);
-    auto const read = recording != nullptr && recording->analysis;
+    int const chosen = m_list.ChosenLine();
+    Recording const * const recording = RecordingAt(chosen);
+    bool const read = recording != nullptr && recording->analysis;
     enable(ID_UNDO, m_list.CanUndo());
     enable(ID_REDO, m_list.CanRedo());
     enable(ID_COPY, RecordingCount() > 0);
@@ -905,7 +906,7 @@ void CMainWindow::OnInitMenuPopup(CMenu * menu, UINT index, BOOL systemMenu)
     enable(ID_SHOW_IN_FRAME, recording != nullptr && m_frames.HasRoom());
     enable(ID_COMPARE_FOUR, RecordingCount() > 0 && m_frames.HasRoomToCompare());
     enable(ID_READ_AGAIN, recording != nullptr && !recording->queued);
-    for (auto const id : {ID_RENAME, ID_DELETE_RECORDINGS, ID_SHOW_FILE})
+    for (int const id : {ID_RENAME, ID_DELETE_RECORDINGS, ID_SHOW_FILE})
     {
         enable(id, recording != nullptr);
     }
@@ -918,8 +919,8 @@ void CMainWindow::OnInitMenuPopup(CMenu * menu, UINT index, BOOL systemMenu)
     enable(ID_MOVE_DOWN, RecordingCount() > 1);
     enable(ID_WRITE_REPORT, m_list.Totals().Checked() > 0);
     menu->CheckMenuItem(ID_SHOW_FOLDERS, MF_BYCOMMAND | (ShowsFolders() ? MF_CHECKED : MF_UNCHECKED));
-    auto const & waveform = WaveformInUse();
-    auto const amplification = waveform.Amplification();
+    CWaveformView const & waveform = WaveformInUse();
+    int const amplification = waveform.Amplification();
     enable(ID_AMPLIFY, waveform.ShowsRecording() && amplification < workbench::most_amplification);
     enable(ID_REDUCE, waveform.ShowsRecording() && amplification > 0);
     enable(ID_AMPLIFY_NONE, amplification > 0);
@@ -927,12 +928,12 @@ void CMainWindow::OnInitMenuPopup(CMenu * menu, UINT index, BOOL systemMenu)
     enable(ID_MARK_ALL, RecordingCount() > 0);
     enable(ID_MARK_NONE, RecordingCount() > 0);
     enable(ID_FIT_COLUMNS, !m_list.UserWidths().empty());
-    for (auto part = 0; part < part_count; ++part)
+    for (int part = 0; part < part_count; ++part)
     {
         menu->CheckMenuItem(m_paneCommands[part],
                             MF_BYCOMMAND | (ShowsPane(static_cast<Part>(part)) ? MF_CHECKED : MF_UNCHECKED));
     }
-    for (auto const id : {ID_PANE_WIDER, ID_PANE_NARROWER, ID_PANE_TALLER, ID_PANE_SHORTER})
+    for (int const id : {ID_PANE_WIDER, ID_PANE_NARROWER, ID_PANE_TALLER, ID_PANE_SHORTER})
     {
         enable(id, CanResize(id));
     }

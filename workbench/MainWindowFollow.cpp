@@ -27,7 +27,7 @@ LRESULT CMainWindow::OnFolderChanged(WPARAM, LPARAM)
 /// Whether lines can change places and come and go now.
 bool CMainWindow::MayFollow() const
 {
-    auto const isListing = m_listed < m_found.size() || m_toReread > 0 || m_wantedView || !m_followed.empty();
+    bool const isListing = m_listed < m_found.size() || m_toReread > 0 || m_wantedView || !m_followed.empty();
     return !m_search && !isListing && !m_list.IsEditing() && !m_list.IsDragging();
 }
 
@@ -73,13 +73,13 @@ void CMainWindow::ShowFound(workbench::FoundRecordings found, bool readsAgain)
         listed.push_back({std::move(file), analysis ? analysis->file : workbench::FileFacts()});
     }
     std::vector<workbench::KnownFile> present;
-    auto const known = std::min(found.files.size(), found.facts.size());
+    std::size_t const known = std::min(found.files.size(), found.facts.size());
     present.reserve(known);
     for (std::size_t i = 0; i < known; ++i)
     {
         present.push_back({std::move(found.files[i]), found.facts[i]});
     }
-    auto changes = workbench::CompareFolder(listed, present);
+    workbench::FolderChanges changes = workbench::CompareFolder(listed, present);
     for (std::size_t i = 0; i < listed.size(); ++i)
     {
         m_recordings[i].file = std::move(listed[i].file);
@@ -88,14 +88,14 @@ void CMainWindow::ShowFound(workbench::FoundRecordings found, bool readsAgain)
     {
         found.files[i] = std::move(present[i].file);
     }
-    auto const foldersChanged = found.missing != m_missing || found.folders != m_openedFolders;
+    bool const foldersChanged = found.missing != m_missing || found.folders != m_openedFolders;
     m_missing = std::move(found.missing);
     m_openedFolders = std::move(found.folders);
     if (std::exchange(m_rememberOpened, false))
     {
         RememberOpened(m_openedFolders, m_missing);
     }
-    auto const isSame = changes.gone.empty() && changes.renamed.empty() && changes.come.empty();
+    bool const isSame = changes.gone.empty() && changes.renamed.empty() && changes.come.empty();
     if (readsAgain && isSame)
     {
         m_toReread = m_recordings.size();
@@ -116,8 +116,8 @@ void CMainWindow::ShowFound(workbench::FoundRecordings found, bool readsAgain)
     {
         RenameRecording(static_cast<int>(line), file);
     }
-    auto const top = m_list.TopLine();
-    for (auto const line : changes.changed)
+    int const top = m_list.TopLine();
+    for (std::size_t const line : changes.changed)
     {
         if (!m_recordings[line].queued)
         {
@@ -131,11 +131,11 @@ void CMainWindow::ShowFound(workbench::FoundRecordings found, bool readsAgain)
     if (!changes.gone.empty())
     {
         std::vector<int> numbers(m_recordings.size());
-        for (auto const line : changes.gone)
+        for (std::size_t const line : changes.gone)
         {
             numbers[line] = -1;
         }
-        auto next = 0;
+        int next = 0;
         std::ranges::transform(numbers, numbers.begin(), [&next](int number) { return number < 0 ? -1 : next++; });
         Renumber(numbers);
         if (top >= 0 && numbers[static_cast<std::size_t>(top)] >= 0)
@@ -163,8 +163,8 @@ void CMainWindow::ShowFound(workbench::FoundRecordings found, bool readsAgain)
 void CMainWindow::RenameRecording(int line, std::filesystem::path const & file)
 {
     auto & recording = m_recordings[static_cast<std::size_t>(line)];
-    auto const before = std::exchange(recording.file, file);
-    auto const notes = m_notes->Of(before);
+    std::filesystem::path const before = std::exchange(recording.file, file);
+    workbench::RecordingNotes const notes = m_notes->Of(before);
     m_notes->Set(before, {});
     m_notes->Set(file, notes);
     m_list.Rename(line, file);
@@ -184,28 +184,28 @@ void CMainWindow::Renumber(std::vector<int> const & numbers)
         return line >= 0 && static_cast<std::size_t>(line) < numbers.size() ? numbers[static_cast<std::size_t>(line)]
                                                                             : -1;
     };
-    auto chosen = m_list.ChosenLine();
-    if (auto const row = m_list.PlaceOf(chosen); row >= 0 && numberOf(chosen) < 0)
+    int chosen = m_list.ChosenLine();
+    if (int const row = m_list.PlaceOf(chosen); row >= 0 && numberOf(chosen) < 0)
     {
-        auto next = row;
+        int next = row;
         while (next < m_list.GetItemCount() && numberOf(m_list.LineAt(next)) < 0)
         {
             ++next;
         }
-        auto previous = row;
+        int previous = row;
         while (next == m_list.GetItemCount() && previous >= 0 && numberOf(m_list.LineAt(previous)) < 0)
         {
             --previous;
         }
         chosen = m_list.LineAt(next < m_list.GetItemCount() ? next : previous);
     }
-    auto const anySelectedStays =
+    bool const anySelectedStays =
         std::ranges::any_of(m_list.SelectedLines(), [&](int line) { return numberOf(line) >= 0; });
     ++m_generation;
     m_queue->Clear();
     m_results.clear();
     m_queued = 0;
-    auto before = std::exchange(m_recordings, {});
+    std::vector<Recording> before = std::exchange(m_recordings, {});
     m_recordings.resize(static_cast<std::size_t>(std::ranges::count_if(numbers, [](int n) { return n >= 0; })));
     for (std::size_t line = 0; line < before.size(); ++line)
     {
@@ -232,7 +232,7 @@ void CMainWindow::Renumber(std::vector<int> const & numbers)
 /// Gives lines that have come the numbers that they would have had they been there from the beginning.
 void CMainWindow::ArrangeFollowed()
 {
-    auto const files = std::exchange(m_followed, {});
+    std::vector<std::filesystem::path> const files = std::exchange(m_followed, {});
     std::unordered_map<std::wstring_view, int> places;
     for (std::size_t i = 0; i < files.size(); ++i)
     {
@@ -260,9 +260,9 @@ void CMainWindow::ArrangeFollowed()
         numbers[static_cast<std::size_t>(lines[i])] = static_cast<int>(i);
     }
     // Lines in the order of the files go on so. In another one, which is the user's, those that have come are the last.
-    auto const order = m_list.Order();
-    auto const isAsFound = order.column < 0 && std::ranges::is_sorted(order.lines);
-    auto const top = m_list.TopLine();
+    workbench::ListOrder const order = m_list.Order();
+    bool const isAsFound = order.column < 0 && std::ranges::is_sorted(order.lines);
+    int const top = m_list.TopLine();
     Renumber(numbers);
     if (isAsFound)
     {

@@ -5,11 +5,11 @@
 #include <utility>
 
 #include "AboutDialog.h"
+#include "controls/IdNameMultiselectDlg.h"
 #include "ExportDialog.h"
 #include "LanguageDialog.h"
 #include "OpenFolderDialog.h"
 #include "RenameDialog.h"
-#include "controls/IdNameMultiselectDlg.h"
 #include "resource.h"
 
 using workbench::HelpTopic;
@@ -37,7 +37,7 @@ void CMainWindow::PrepareHelp()
 {
     m_help.m_menus = [this] {
         std::vector<workbench::MenuTexts> menus;
-        auto * const bar = GetMenu();
+        CMenu * const bar = GetMenu();
         for (UINT place = 0; bar != nullptr && place < bar->GetMenuItemCount(); ++place)
         {
             menus.push_back(TextsOf(*bar, place));
@@ -98,9 +98,9 @@ HelpTopic CMainWindow::TopicOf(HWND window) const
 bool CMainWindow::ShowHelp(HelpTopic topic)
 {
     // A dialog of the module's that is open may have made that's resources the current ones.
-    auto const former = AfxGetResourceHandle();
+    HINSTANCE const former = AfxGetResourceHandle();
     AfxSetResourceHandle(AfxGetInstanceHandle());
-    auto const shown = m_help.Show(topic);
+    bool const shown = m_help.Show(topic);
     AfxSetResourceHandle(former);
     return shown;
 }

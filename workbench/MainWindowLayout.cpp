@@ -24,7 +24,7 @@ std::vector<LONG_PTR> CMainWindow::LayoutNow()
     placement.length = sizeof placement;
     GetWindowPlacement(&placement);
     Add(layout, placement.rcNormalPosition);
-    for (auto * const pane : m_panes)
+    for (CDockableViewPane * const pane : m_panes)
     {
         if (pane == nullptr)
         {
@@ -51,7 +51,7 @@ void CMainWindow::KeepLayout()
     {
         return;
     }
-    auto layout = LayoutNow();
+    std::vector<LONG_PTR> layout = LayoutNow();
     if (layout == m_layout)
     {
         return;

@@ -30,7 +30,7 @@ bool Grows(UINT id)
 /// The pane that has the focus; the list's, where none has.
 CDockableViewPane & CMainWindow::PaneInUse()
 {
-    auto const focus = ::GetFocus();
+    HWND const focus = ::GetFocus();
     auto const found = std::ranges::find_if(
         m_panes, [focus](auto const * pane) { return pane->m_hWnd == focus || ::IsChild(pane->m_hWnd, focus); });
     return found != m_panes.end() ? **found : Pane(part_list);
@@ -59,7 +59,7 @@ void CMainWindow::OnResizePane(UINT id)
     }
     CRect list;
     m_list.GetWindowRect(&list);
-    auto const isWidth = ExtentOf(id) == PaneExtent::width;
-    auto const step = isWidth ? m_metrics.X(pane_step) : m_metrics.Y(pane_step);
+    bool const isWidth = ExtentOf(id) == PaneExtent::width;
+    int const step = isWidth ? m_metrics.X(pane_step) : m_metrics.Y(pane_step);
     workbench::ResizePane(PaneInUse(), ExtentOf(id), Grows(id) ? step : -step, list.CenterPoint());
 }

@@ -27,7 +27,7 @@ void CMainWindow::ShowRecent(CMenu & menu) const
     {
         return;
     }
-    for (auto place = menu.GetMenuItemCount(); place > 0; --place)
+    for (UINT place = menu.GetMenuItemCount(); place > 0; --place)
     {
         auto const id = menu.GetMenuItemID(static_cast<int>(place - 1));
         if (id >= ID_RECENT_FIRST && id <= ID_RECENT_SEPARATOR)
@@ -35,7 +35,7 @@ void CMainWindow::ShowRecent(CMenu & menu) const
             menu.DeleteMenu(place - 1, MF_BYPOSITION);
         }
     }
-    auto place = menu.GetMenuItemCount();
+    UINT place = menu.GetMenuItemCount();
     while (place > 0 && menu.GetMenuItemID(static_cast<int>(place - 1)) != ID_CLOSE_WORKBENCH)
     {
         --place;
@@ -44,7 +44,7 @@ void CMainWindow::ShowRecent(CMenu & menu) const
     {
         return;
     }
-    for (auto id = ID_RECENT_FIRST; id <= ID_RECENT_LAST; ++id)
+    for (int id = ID_RECENT_FIRST; id <= ID_RECENT_LAST; ++id)
     {
         auto const index = static_cast<std::size_t>(id - ID_RECENT_FIRST);
         if (index < m_settings.recentTargets.size())
@@ -64,7 +64,7 @@ void CMainWindow::OnOpenRecent(UINT id)
     {
         return;
     }
-    auto const target = m_settings.recentTargets[index];
+    std::filesystem::path const target = m_settings.recentTargets[index];
     std::error_code error;
     if (std::filesystem::exists(target, error))
     {
@@ -82,7 +82,7 @@ void CMainWindow::RememberOpened(std::vector<std::filesystem::path> const & fold
                                  std::vector<std::filesystem::path> const & missing)
 {
     std::vector<std::filesystem::path> opened = folders;
-    for (auto const & target : m_targets)
+    for (std::filesystem::path const & target : m_targets)
     {
         auto const isKnown = [&target](auto const & paths) { return std::ranges::find(paths, target) != paths.end(); };
         if (opened.size() < folders.size() + most_files_at_once && !isKnown(folders) && !isKnown(missing))
@@ -93,7 +93,7 @@ void CMainWindow::RememberOpened(std::vector<std::filesystem::path> const & fold
     // The first one comes first.
     std::for_each(opened.rbegin(), opened.rend(),
                   [this](auto const & path) { workbench::PutFirst(m_settings.recentTargets, path); });
-    for (auto const & folder : folders)
+    for (std::filesystem::path const & folder : folders)
     {
         workbench::PutFirst(m_settings.recentFolders, folder);
     }
@@ -107,9 +107,9 @@ void CMainWindow::RememberOpened(std::vector<std::filesystem::path> const & fold
 void CMainWindow::DragOut(std::vector<int> const & lines)
 {
     std::vector<std::filesystem::path> files;
-    for (auto const line : lines)
+    for (int const line : lines)
     {
-        if (auto const * const recording = RecordingAt(line))
+        if (Recording const * const recording = RecordingAt(line))
         {
             files.push_back(recording->file);
         }

@@ -37,9 +37,9 @@ using Clock = std::chrono::steady_clock;
 /// Has what the user has said since the last time stored.
 void CMainWindow::StoreNotes()
 {
-    for (auto const line : m_list.TakeNotedLines())
+    for (int const line : m_list.TakeNotedLines())
     {
-        if (auto const * const recording = RecordingAt(line))
+        if (Recording const * const recording = RecordingAt(line))
         {
             m_notes->Set(recording->file, m_list.NotesOf(line));
         }
@@ -87,12 +87,12 @@ void CMainWindow::KeepView()
     {
         return;
     }
-    auto const folder = ViewFolder();
+    std::filesystem::path const folder = ViewFolder();
     auto const nameOf = [&](int line) {
-        auto const * const recording = RecordingAt(line);
+        Recording const * const recording = RecordingAt(line);
         return recording != nullptr ? workbench::NameInFolder(folder, recording->file) : std::wstring();
     };
-    auto const order = m_list.Order();
+    workbench::ListOrder const order = m_list.Order();
     workbench::FolderView view;
     view.column = order.column;
     view.ascending = order.ascending;
@@ -100,17 +100,17 @@ void CMainWindow::KeepView()
     {
         std::ranges::transform(order.lines, std::back_inserter(view.order), nameOf);
     }
-    auto const chosen = m_list.ChosenLine();
+    int const chosen = m_list.ChosenLine();
     view.chosen = nameOf(chosen);
-    if (auto const selected = m_list.SelectedLines(); selected.size() > 1)
+    if (std::vector<int> const selected = m_list.SelectedLines(); selected.size() > 1)
     {
         std::ranges::transform(selected, std::back_inserter(view.selected), nameOf);
     }
-    auto const * const recording = RecordingAt(chosen);
+    Recording const * const recording = RecordingAt(chosen);
     if (recording != nullptr && m_shown && recording->analysis == m_shown && Waveform().ShowsRecording())
     {
-        auto const & marks = Waveform().Marks();
-        auto const shown = marks.window.Shown();
+        workbench::TimeMarks const & marks = Waveform().Marks();
+        workbench::FrameRange const shown = marks.window.Shown();
         view.stretch = {marks.window.Frames(), shown.first, shown.end, marks.cursor};
     }
     else if (m_wantedPart && m_wantedPart->chosen == view.chosen)
@@ -123,8 +123,8 @@ void CMainWindow::KeepView()
 /// Shows the lines, all of which are listed by now, as they were shown last.
 void CMainWindow::RestoreView()
 {
-    auto const view = *std::exchange(m_wantedView, std::nullopt);
-    auto const folder = ViewFolder();
+    workbench::FolderView const view = *std::exchange(m_wantedView, std::nullopt);
+    std::filesystem::path const folder = ViewFolder();
     std::unordered_map<std::wstring, int> lines;
     for (int line = 0; line < RecordingCount(); ++line)
     {
@@ -132,7 +132,7 @@ void CMainWindow::RestoreView()
     }
     auto const linesOf = [&lines](std::vector<std::wstring> const & names) {
         std::vector<int> found;
-        for (auto const & name : names)
+        for (std::wstring const & name : names)
         {
             if (auto const line = lines.find(name); line != lines.end())
             {
@@ -151,7 +151,7 @@ void CMainWindow::RestoreView()
     {
         m_list.SetOrder({-1, true, linesOf(view.order)});
     }
-    auto const selected = linesOf(view.selected);
+    std::vector<int> const selected = linesOf(view.selected);
     auto const chosen = lines.find(view.chosen);
     if (selected.size() > 1 && chosen != lines.end() && chosen->second == m_list.ChosenLine())
     {
@@ -162,8 +162,8 @@ void CMainWindow::RestoreView()
 /// Shows the part of the chosen recording that was shown last.
 void CMainWindow::RestoreStretch()
 {
-    auto const view = std::exchange(m_wantedPart, std::nullopt);
-    auto const * const chosen = RecordingAt(m_list.ChosenLine());
+    std::optional<workbench::FolderView> const view = std::exchange(m_wantedPart, std::nullopt);
+    Recording const * const chosen = RecordingAt(m_list.ChosenLine());
     if (!view || !view->stretch || chosen == nullptr || !Waveform().ShowsRecording() ||
         workbench::NameInFolder(ViewFolder(), chosen->file) != view->chosen)
     {
@@ -190,7 +190,7 @@ void CMainWindow::StopWork()
     m_toReread = 0;
     m_results.clear();
     m_queued = 0;
-    for (auto & recording : m_recordings)
+    for (Recording & recording : m_recordings)
     {
         recording.queued = false;
     }
@@ -199,7 +199,7 @@ void CMainWindow::StopWork()
 /// withFacts: also of the size and the time of files.
 void CMainWindow::StartSearch(bool withFacts)
 {
-    auto const window = m_hWnd;
+    HWND const window = m_hWnd;
     m_search = std::make_unique<workbench::RecordingSearch>(
         m_targets, [window] { ::PostMessageW(window, message_recordings_ready, 0, 0); }, withFacts);
 }
@@ -252,7 +252,7 @@ void CMainWindow::FollowInFolders()
 {
     if (ShowsFolders())
     {
-        auto const chosen = m_tree.GetSelectedItem();
+        HTREEITEM const chosen = m_tree.GetSelectedItem();
         m_tree.ShowOpened(m_openedFolders);
         if (chosen == nullptr || m_tree.GetItemType(chosen) != CFolderTree::type_folder)
         {
@@ -264,7 +264,7 @@ void CMainWindow::FollowInFolders()
 /// Selects the chosen recording in the tree of folders, unless the user is at work there.
 void CMainWindow::ShowInFolders()
 {
-    auto const * const chosen = RecordingAt(m_list.ChosenLine());
+    Recording const * const chosen = RecordingAt(m_list.ChosenLine());
     if (ShowsFolders() && chosen != nullptr && GetFocus() != &m_tree)
     {
         m_tree.SelectRecording(chosen->file);
@@ -289,7 +289,7 @@ int CMainWindow::LineOf(std::filesystem::path const & file) const
 /// Chooses a recording of the tree in the list; one that is not there, once its folder is listed.
 void CMainWindow::ChooseFile(std::filesystem::path const & file)
 {
-    if (auto const line = LineOf(file); line >= 0)
+    if (int const line = LineOf(file); line >= 0)
     {
         m_list.ChooseLine(line);
         return;
@@ -313,7 +313,7 @@ void CMainWindow::ListAnew(std::vector<std::filesystem::path> files)
 
 std::optional<CMainWindow::Order> CMainWindow::PresentOrder() const
 {
-    auto const column = m_list.SortedColumn();
+    int const column = m_list.SortedColumn();
     return column < 0 ? m_order : Order{static_cast<CRecordingList::Column>(column), m_list.IsAscending()};
 }
 
@@ -321,13 +321,13 @@ std::optional<CMainWindow::Order> CMainWindow::PresentOrder() const
 void CMainWindow::SortAgain()
 {
     m_valuesChanged = false;
-    auto const order = PresentOrder();
+    std::optional<Order> const order = PresentOrder();
     m_order.reset();
     if (order)
     {
         // What is in sight stays there: the chosen line, or else the uppermost one, unless that is the first.
-        auto const isInSight = m_list.IsInSight(m_list.ChosenLine());
-        auto const top = m_list.GetTopIndex() > 0 ? m_list.TopLine() : -1;
+        bool const isInSight = m_list.IsInSight(m_list.ChosenLine());
+        int const top = m_list.GetTopIndex() > 0 ? m_list.TopLine() : -1;
         m_list.SortLines(order->column, order->ascending);
         if (!isInSight && top >= 0)
         {
@@ -357,11 +357,11 @@ void CMainWindow::CancelReading()
     auto finished = m_queue->TakeFinished();
     m_queue->Clear();
     m_results.insert(m_results.end(), finished.begin(), finished.end());
-    for (auto & recording : m_recordings)
+    for (Recording & recording : m_recordings)
     {
         recording.queued = false;
     }
-    for (auto const & result : m_results)
+    for (workbench::AnalysisQueue::Finished const & result : m_results)
     {
         m_recordings[result.id].queued = true;
     }
@@ -387,7 +387,7 @@ LRESULT CMainWindow::OnRecordingsReady(WPARAM, LPARAM)
             TakeFollowed(std::move(*found));
             return 0;
         }
-        auto const reloaded = std::exchange(m_reloading, false);
+        bool const reloaded = std::exchange(m_reloading, false);
         if (reloaded && !m_recordings.empty())
         {
             ShowFound(std::move(*found), true);
@@ -459,7 +459,7 @@ void CMainWindow::Work()
         SetTimer(work_timer, work_interval, nullptr);
         return;
     }
-    for (auto & finished : m_queue->TakeFinished())
+    for (workbench::AnalysisQueue::Finished & finished : m_queue->TakeFinished())
     {
         m_results.push_back(std::move(finished));
     }
@@ -473,7 +473,7 @@ void CMainWindow::Work()
             }
             else if (m_toReread > 0)
             {
-                auto const index = m_recordings.size() - m_toReread--;
+                std::size_t const index = m_recordings.size() - m_toReread--;
                 if (!m_recordings[index].queued)
                 {
                     Queue(static_cast<int>(index));
@@ -481,13 +481,13 @@ void CMainWindow::Work()
             }
             else if (!m_results.empty())
             {
-                auto const result = std::move(m_results.front());
+                workbench::AnalysisQueue::Finished const result = std::move(m_results.front());
                 m_results.pop_front();
                 TakeResult(result);
             }
         } while (Clock::now() < end && (m_listed < m_found.size() || m_toReread > 0 || !m_results.empty()));
     }
-    auto const listed = m_listed == m_found.size() && m_toReread == 0;
+    bool const listed = m_listed == m_found.size() && m_toReread == 0;
     if (listed && m_results.empty() && m_followed.empty())
     {
         KillTimer(work_timer);
@@ -519,7 +519,7 @@ void CMainWindow::Work()
 /// Chooses the recording that was chosen before a reload, or else the first one, where the user has chosen none.
 void CMainWindow::ChooseFirst()
 {
-    auto const listing = m_listed < m_found.size();
+    bool const listing = m_listed < m_found.size();
     if (m_recordings.empty() || m_list.ChosenLine() >= 0 || (!m_chooseFile.empty() && m_chooseLine < 0 && listing))
     {
         return;
@@ -530,14 +530,14 @@ void CMainWindow::ChooseFirst()
 
 void CMainWindow::ListNext()
 {
-    auto & file = m_found[m_listed++];
+    std::filesystem::path & file = m_found[m_listed++];
     if (file == m_chooseFile)
     {
         m_chooseLine = RecordingCount();
     }
     m_list.AppendFile(file, m_notes->Of(file));
-    auto const line = RecordingCount();
-    auto & recording = m_recordings.emplace_back();
+    int const line = RecordingCount();
+    Recording & recording = m_recordings.emplace_back();
     recording.file = std::move(file);
     Queue(line);
 }
@@ -557,7 +557,7 @@ void CMainWindow::TakeResult(workbench::AnalysisQueue::Finished const & finished
     {
         return;
     }
-    auto & recording = m_recordings[finished.id];
+    Recording & recording = m_recordings[finished.id];
     recording.queued = false;
     --m_queued;
     if (recording.analysis && *recording.analysis == *finished.analysis)
@@ -583,20 +583,20 @@ CMainWindow::Recording const * CMainWindow::RecordingAt(int index) const
 /// Whether there is a recording that was read without a problem.
 bool CMainWindow::IsReadable(int index) const
 {
-    auto const * const recording = RecordingAt(index);
+    Recording const * const recording = RecordingAt(index);
     return recording != nullptr && recording->analysis && !recording->analysis->problem;
 }
 
 /// Shows how far looking, listing and reading are.
 void CMainWindow::ShowProgress()
 {
-    if (auto const report = m_report.Progress(); !IsBusy() && report.total > 0)
+    if (CReportWriter::State const report = m_report.Progress(); !IsBusy() && report.total > 0)
     {
         m_status.ShowProgress(report.done, report.total);
         return;
     }
-    auto const listed = m_recordings.size();
-    auto const total = listed + m_found.size() - m_listed;
+    std::size_t const listed = m_recordings.size();
+    std::size_t const total = listed + m_found.size() - m_listed;
     m_status.ShowProgress(listed - m_queued - m_toReread, IsBusy() ? std::max<std::size_t>(total, 1) : 0);
 }
 
@@ -612,7 +612,7 @@ bool CMainWindow::ChooseRecording(int index)
 
 void CMainWindow::MoveCursorToPart(int percent)
 {
-    if (auto const * const chosen = RecordingAt(m_list.ChosenLine()); chosen != nullptr && chosen->analysis)
+    if (Recording const * const chosen = RecordingAt(m_list.ChosenLine()); chosen != nullptr && chosen->analysis)
     {
         Waveform().MoveCursor(chosen->analysis->info.frames / 100 * static_cast<unsigned>(percent));
     }
@@ -674,7 +674,7 @@ void CMainWindow::ShowEmpty()
 
 void CMainWindow::ShowChosen()
 {
-    auto const * const chosen = RecordingAt(m_list.ChosenLine());
+    Recording const * const chosen = RecordingAt(m_list.ChosenLine());
     if (m_recordings.empty())
     {
         ShowEmpty();
@@ -711,15 +711,15 @@ void CMainWindow::ShowChosen()
 /// Shows the waveform's cursor on the displays.
 void CMainWindow::ShowReading()
 {
-    auto const * const chosen = RecordingAt(m_list.ChosenLine());
-    auto const cursor = Waveform().Cursor();
+    Recording const * const chosen = RecordingAt(m_list.ChosenLine());
+    std::optional<std::uint64_t> const cursor = Waveform().Cursor();
     if (!cursor || chosen == nullptr || !chosen->analysis)
     {
         m_panel.ShowReading(workbench::PositionReading(0, 0),
                             workbench::LevelReading(-std::numeric_limits<double>::infinity()));
         return;
     }
-    auto const & analysis = *chosen->analysis;
+    workbench::RecordingAnalysis const & analysis = *chosen->analysis;
     m_panel.ShowReading(workbench::PositionReading(*cursor, analysis.info.sampleRate),
                         workbench::LevelReading(Waveform().LevelAtCursor()));
 }
@@ -727,16 +727,16 @@ void CMainWindow::ShowReading()
 /// What the chosen recording's levels are against the reference's; empty where there is nothing to compare.
 std::wstring CMainWindow::ComparisonText() const
 {
-    auto const * const reference = RecordingAt(m_list.ReferenceLine());
+    Recording const * const reference = RecordingAt(m_list.ReferenceLine());
     if (reference == nullptr)
     {
         return {};
     }
     auto text = std::wstring(L".  ") + Text(L"Reference") + L": " + reference->file.filename().wstring();
-    auto const line = m_list.ChosenLine();
+    int const line = m_list.ChosenLine();
     if (line != m_list.ReferenceLine() && IsReadable(line) && IsReadable(m_list.ReferenceLine()))
     {
-        auto const & chosen = *RecordingAt(line);
+        Recording const & chosen = *RecordingAt(line);
         text += std::wstring(L"; ") + Text(L"against it,") + L' ' + chosen.file.filename().wstring() + L' ' +
                 Text(L"has peak") + L' ' +
                 workbench::FormatDifference(chosen.analysis->levels.peak, reference->analysis->levels.peak) +
@@ -747,17 +747,17 @@ std::wstring CMainWindow::ComparisonText() const
 
 void CMainWindow::UpdateStatusLine()
 {
-    auto const & totals = m_list.Totals();
-    auto text = workbench::FormatCount(m_recordings.size(), Text(L"recording"), Text(L"recordings"));
+    workbench::RecordingTotals const & totals = m_list.Totals();
+    std::wstring text = workbench::FormatCount(m_recordings.size(), Text(L"recording"), Text(L"recordings"));
     if (!m_list.Filter().LetsAllThrough())
     {
         text += L", " + workbench::FormatThousands(m_list.ShownCount()) + L' ' + Text(L"shown");
     }
-    if (auto const toRead = m_queued + m_toReread; toRead > 0)
+    if (std::size_t const toRead = m_queued + m_toReread; toRead > 0)
     {
         text += L", " + workbench::FormatThousands(toRead) + L' ' + Text(L"being read");
     }
-    if (auto const unread = totals.Unread() - std::min(m_queued, totals.Unread()); unread > 0)
+    if (std::size_t const unread = totals.Unread() - std::min(m_queued, totals.Unread()); unread > 0)
     {
         text += L", " + workbench::FormatThousands(unread) + L' ' + Text(L"not read");
     }
@@ -779,12 +779,12 @@ void CMainWindow::UpdateStatusLine()
     {
         text +=
             L", " + workbench::FormatCount(m_missing.size(), Text(L"folder not found:"), Text(L"folders not found:"));
-        for (auto const & folder : m_missing)
+        for (std::filesystem::path const & folder : m_missing)
         {
             text += (&folder == &m_missing.front() ? L" " : L", ") + folder.wstring();
         }
     }
-    auto const comparison = ComparisonText();
+    std::wstring const comparison = ComparisonText();
     if (comparison.empty())
     {
         CString levels;
@@ -870,13 +870,13 @@ void CMainWindow::OnReadAgain()
 /// What the details say of a recording; nothing of one that does not exist or is not read.
 std::vector<workbench::DetailLine> CMainWindow::DetailsOf(int index) const
 {
-    auto const * const recording = RecordingAt(index);
+    Recording const * const recording = RecordingAt(index);
     if (recording == nullptr || !recording->analysis)
     {
         return {};
     }
     std::wstring date;
-    if (auto const & time = recording->analysis->file.lastWrite)
+    if (std::optional<std::time_t> const & time = recording->analysis->file.lastWrite)
     {
         date = UserDateTimeText(CTime(*time), dtf_date_time).GetString();
     }
@@ -885,7 +885,7 @@ std::vector<workbench::DetailLine> CMainWindow::DetailsOf(int index) const
 
 bool CMainWindow::ShowDetails(int index)
 {
-    auto lines = DetailsOf(index);
+    std::vector<workbench::DetailLine> lines = DetailsOf(index);
     if (lines.empty())
     {
         return false;
@@ -901,7 +901,7 @@ void CMainWindow::OnShowDetails()
 
 bool CMainWindow::ShowInFrame(int index)
 {
-    auto const * const recording = RecordingAt(index);
+    Recording const * const recording = RecordingAt(index);
     return recording != nullptr && m_frames.Open({recording->file, recording->analysis});
 }
 
@@ -913,13 +913,13 @@ void CMainWindow::OnShowInFrame()
 bool CMainWindow::CompareFour()
 {
     constexpr std::size_t most = 4;
-    auto const anyMarked = m_list.Totals().Checked() > 0;
+    bool const anyMarked = m_list.Totals().Checked() > 0;
     std::vector<CWaveformFrames::Shown> recordings;
     for (int row = anyMarked ? 0 : std::max(m_list.PlaceOf(m_list.ChosenLine()), 0);
          row < m_list.LineCount() && recordings.size() < most; ++row)
     {
-        auto const line = m_list.LineAt(row);
-        if (auto const * const recording = RecordingAt(line);
+        int const line = m_list.LineAt(row);
+        if (Recording const * const recording = RecordingAt(line);
             recording != nullptr && (!anyMarked || m_list.IsChecked(line)))
         {
             recordings.push_back({recording->file, recording->analysis});

@@ -1,14 +1,15 @@
 // How the main window follows the user's region.
 
 #include "MainWindow.h"
+
 #include "UserRegion.h"
 
 LRESULT CMainWindow::WindowProc(UINT message, WPARAM wide, LPARAM parameter)
 {
-    auto const isOfRegion = message == WM_SETTINGCHANGE && parameter != 0 &&
+    bool const isOfRegion = message == WM_SETTINGCHANGE && parameter != 0 &&
                             ::lstrcmpiW(reinterpret_cast<wchar_t const *>(parameter), L"intl") == 0;
     LifeWatch const life(m_life);
-    auto const result = CMDIFrameWndEx::WindowProc(message, wide, parameter);
+    LRESULT const result = CMDIFrameWndEx::WindowProc(message, wide, parameter);
     if (isOfRegion && !life.Over() && m_status.GetSafeHwnd() != nullptr && workbench::UseUserNumbers())
     {
         ShowNumbers();

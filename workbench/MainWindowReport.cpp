@@ -34,14 +34,14 @@ bool CMainWindow::WriteReport(std::filesystem::path const & file)
 {
     m_list.EndEditing();
     std::vector<workbench::ReportedRecording> recordings;
-    for (auto const line : m_list.Order().lines)
+    for (int const line : m_list.Order().lines)
     {
-        auto const * const recording = RecordingAt(line);
+        Recording const * const recording = RecordingAt(line);
         if (recording == nullptr || !m_list.IsChecked(line))
         {
             continue;
         }
-        auto const notes = m_list.NotesOf(line);
+        CRecordingList::Notes const notes = m_list.NotesOf(line);
         auto & reported =
             recordings.emplace_back(workbench::ReportedRecording{recording->file, recording->analysis, notes, {}, {}});
         reported.rating = notes.rating > 0 ? CRecordingList::RatingName(notes.rating) : L"";
@@ -51,7 +51,7 @@ bool CMainWindow::WriteReport(std::filesystem::path const & file)
         }
     }
     m_written.clear();
-    auto const begun = !recordings.empty() && m_report.Begin(std::move(recordings), file, m_settings, m_metrics);
+    bool const begun = !recordings.empty() && m_report.Begin(std::move(recordings), file, m_settings, m_metrics);
     UpdateStatusLine();
     return begun;
 }
@@ -61,7 +61,7 @@ void CMainWindow::OnWriteReport()
     WindowAlive const alive(*this, m_life);
     auto const today = CTime::GetCurrentTime();
     auto const folder = m_targets.size() == 1 && !m_openedFolders.empty() ? m_targets.front() : std::filesystem::path();
-    auto const file = workbench::ChooseReportFile(
+    std::optional<std::filesystem::path> const file = workbench::ChooseReportFile(
         *this, workbench::ReportFileName(folder, today.GetYear(), today.GetMonth(), today.GetDay()));
     if (file && alive.IsAlive() && m_list.Totals().Checked() > 0 && !WriteReport(*file))
     {

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <array>
 
-#include "DrawingScopes.h"
 #include "colours/Farbtabellen.h"
+#include "DrawingScopes.h"
 #include "logic/Texts.h"
 #include "resource.h"
 
@@ -53,18 +53,18 @@ bool CMeasurePanel::CreatePanel(CWnd & parent, UINT id, workbench::ScreenMetrics
         return false;
     }
     constexpr DWORD label_style = WS_CHILD | WS_VISIBLE | SS_CENTERIMAGE | SS_ENDELLIPSIS;
-    auto created =
+    bool created =
         m_positionLabel.Create(L"", label_style, CRect(), this) &&
         m_levelLabel.Create(L"", label_style, CRect(), this) && m_scaleLabel.Create(L"", label_style, CRect(), this) &&
         m_scale.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWNLIST, CRect(), this, IDC_SCALE) &&
         m_clock.CreateView(*this, IDC_CLOCK);
-    for (auto * const display : {&m_position, &m_level})
+    for (CDigiStatic * const display : {&m_position, &m_level})
     {
         created = created && display->Create(L"", WS_CHILD | WS_VISIBLE | WS_BORDER, CRect(), this);
         display->SetColorScheme(ColorSchemeLcd);
         display->ModifyDigiStyle(0, DigiStyleKeepAspect | DigiStyleRounded);
     }
-    for (auto * const window : std::array<CWnd *, 4>{&m_positionLabel, &m_levelLabel, &m_scaleLabel, &m_scale})
+    for (CWnd * const window : std::array<CWnd *, 4>{&m_positionLabel, &m_levelLabel, &m_scaleLabel, &m_scale})
     {
         window->SetFont(&metrics.Font());
     }
@@ -110,29 +110,29 @@ void CMeasurePanel::Arrange()
         text.Remove(L'&');
         return std::max<int>(dc.GetTextExtent(text).cx + m_metrics->X(label_gap), m_metrics->X(least));
     };
-    auto const gap = m_metrics->X(part_gap);
-    auto const positionLabel = labelWidth(m_positionLabel, position_label_width);
-    auto const levelLabel = labelWidth(m_levelLabel, level_label_width);
-    auto const scaleLabel = labelWidth(m_scaleLabel, scale_label_width);
-    auto const displays = positionLabel + m_metrics->X(position_width) + gap + levelLabel + m_metrics->X(level_width);
-    auto const unnamed = displays + gap + m_metrics->X(scale_width);
-    auto const whole = unnamed + scaleLabel;
+    int const gap = m_metrics->X(part_gap);
+    int const positionLabel = labelWidth(m_positionLabel, position_label_width);
+    int const levelLabel = labelWidth(m_levelLabel, level_label_width);
+    int const scaleLabel = labelWidth(m_scaleLabel, scale_label_width);
+    int const displays = positionLabel + m_metrics->X(position_width) + gap + levelLabel + m_metrics->X(level_width);
+    int const unnamed = displays + gap + m_metrics->X(scale_width);
+    int const whole = unnamed + scaleLabel;
     // Where there is no room for all, the clock goes first; then the colours go into a line of their own where there is
     // one, or else their name; then all get narrower.
-    auto const line = m_metrics->Y(strip_height);
-    auto const isBroken = width < whole && height >= 2 * line;
-    auto const isNamed = isBroken || width >= whole;
-    auto const wanted = isBroken  ? std::max(displays, scaleLabel + m_metrics->X(scale_width))
-                        : isNamed ? whole
-                                  : unnamed;
-    auto const room = std::min(width, wanted);
+    int const line = m_metrics->Y(strip_height);
+    bool const isBroken = width < whole && height >= 2 * line;
+    bool const isNamed = isBroken || width >= whole;
+    int const wanted = isBroken  ? std::max(displays, scaleLabel + m_metrics->X(scale_width))
+                       : isNamed ? whole
+                                 : unnamed;
+    int const room = std::min(width, wanted);
     auto const at = [&](int pixels) { return ::MulDiv(pixels, room, wanted); };
-    auto const upper = isBroken ? height / 2 : height;
+    int const upper = isBroken ? height / 2 : height;
     // Displays that are much higher than their digits look broken.
-    auto const high = std::clamp(upper - 2 * m_metrics->Y(edge), 0, 2 * line);
-    auto top = (upper - high) / 2;
-    auto const first = m_metrics->X(inset);
-    auto left = first;
+    int const high = std::clamp(upper - 2 * m_metrics->Y(edge), 0, 2 * line);
+    int top = (upper - high) / 2;
+    int const first = m_metrics->X(inset);
+    int left = first;
     auto const place = [&](CWnd & window, int wide, int space) {
         window.MoveWindow(at(left), top, at(left + wide) - at(left), high);
         left += wide + space;
@@ -154,9 +154,9 @@ void CMeasurePanel::Arrange()
     // A drop-down list's own height is its font's; the rest of what it is given is the height of its list.
     CRect box;
     m_scale.GetWindowRect(&box);
-    auto const right = at(left + m_metrics->X(scale_width));
+    int const right = at(left + m_metrics->X(scale_width));
     m_scale.MoveWindow(at(left), top + (high - box.Height()) / 2, right - at(left), box.Height() + line * 8);
-    auto const clock = m_metrics->X(clock_width);
+    int const clock = m_metrics->X(clock_width);
     m_clock.MoveWindow(width - clock, top, clock, high);
     m_clock.ShowWindow(width - clock >= right ? SW_SHOWNA : SW_HIDE);
     // The panel has mostly moved as well; what it takes along of its children may be of other windows.

@@ -6,9 +6,9 @@
 #include <string>
 
 #include "ClockView.h"
+#include "controls/ComboBoxX.h"
 #include "Panel.h"
 #include "ScreenMetrics.h"
-#include "controls/ComboBoxX.h"
 #include "segments/DigiStatic.h"
 
 /// The row of displays: the position in the recording and the level there, the choice of the spectrogram's colours, and

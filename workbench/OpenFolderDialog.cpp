@@ -33,7 +33,7 @@ BOOL COpenFolderDialog::OnInitDialog()
 {
     CDialog3d::OnInitDialog();
     std::list<CString> folders;
-    for (auto const & folder : m_recent)
+    for (std::filesystem::path const & folder : m_recent)
     {
         folders.emplace_back(folder.c_str());
     }
@@ -42,7 +42,7 @@ BOOL COpenFolderDialog::OnInitDialog()
     m_folders.SetCurSel(folders.empty() ? -1 : 0);
     D3dLayoutChild(IDC_FOLDER, CEdges::TOP_LEFT_RIGHT(), nullptr);
     D3dLayoutChild(IDC_BROWSE, CEdges::TOP_RIGHT(), nullptr);
-    for (auto const id : {IDOK, IDCANCEL})
+    for (int const id : {IDOK, IDCANCEL})
     {
         D3dLayoutChild(id, CEdges::BOTTOM_RIGHT(), nullptr);
     }
@@ -66,7 +66,7 @@ void COpenFolderDialog::OnBrowse()
 {
     CFolderDialog dialog(m_hWnd);
     dialog.SetTitleMessage(Text(L"Choose a folder with recordings:"));
-    if (auto const typed = Typed(); !typed.IsEmpty() && typed.GetLength() < MAX_PATH)
+    if (CString const typed = Typed(); !typed.IsEmpty() && typed.GetLength() < MAX_PATH)
     {
         dialog.SetInitialDir(typed);
     }
@@ -79,7 +79,7 @@ void COpenFolderDialog::OnBrowse()
 
 void COpenFolderDialog::OnOK()
 {
-    auto const folder = Typed();
+    CString const folder = Typed();
     std::error_code error;
     if (folder.IsEmpty() || !std::filesystem::is_directory(folder.GetString(), error))
     {

@@ -3,9 +3,9 @@
 #include <filesystem>
 #include <vector>
 
-#include "Settings.h"
 #include "controls/ComboBoxX.h"
 #include "dialogs/Dialog3d.h"
+#include "Settings.h"
 
 /// Asks for a folder: typed, with those opened before to complete it, chosen among these, or looked for.
 class COpenFolderDialog : public CDialog3d

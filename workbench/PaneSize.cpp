@@ -38,12 +38,12 @@ struct Neighbour
 /// The nearest one first; where they are equally near, the one behind the pane.
 std::vector<Neighbour> DividersOf(CDockablePane & pane, PaneExtent extent, CPoint towards)
 {
-    auto & holder = PlaceHolder(pane);
-    auto const * const frame = holder.GetParent();
-    auto const place = PlaceOf(holder);
-    auto const isWidth = extent == PaneExtent::width;
+    CWnd & holder = PlaceHolder(pane);
+    CWnd const * const frame = holder.GetParent();
+    CRect const place = PlaceOf(holder);
+    bool const isWidth = extent == PaneExtent::width;
     std::vector<Neighbour> found;
-    for (auto * child = frame != nullptr ? frame->GetWindow(GW_CHILD) : nullptr; child != nullptr;
+    for (CWnd * child = frame != nullptr ? frame->GetWindow(GW_CHILD) : nullptr; child != nullptr;
          child = child->GetWindow(GW_HWNDNEXT))
     {
         auto * const divider = DYNAMIC_DOWNCAST(CPaneDivider, child);
@@ -51,15 +51,15 @@ std::vector<Neighbour> DividersOf(CDockablePane & pane, PaneExtent extent, CPoin
         {
             continue;
         }
-        auto const rect = PlaceOf(*divider);
+        CRect const rect = PlaceOf(*divider);
         // Along the side, and no further away than it is wide.
-        auto const isBeside = isWidth ? rect.top < place.bottom && place.top < rect.bottom
+        bool const isBeside = isWidth ? rect.top < place.bottom && place.top < rect.bottom
                                       : rect.left < place.right && place.left < rect.right;
-        auto const thickness = isWidth ? rect.Width() : rect.Height();
-        auto const behind = isWidth ? rect.left - place.right : rect.top - place.bottom;
-        auto const ahead = isWidth ? place.left - rect.right : place.top - rect.bottom;
-        auto const middle = rect.CenterPoint();
-        auto const distance = std::abs(isWidth ? middle.x - towards.x : middle.y - towards.y);
+        int const thickness = isWidth ? rect.Width() : rect.Height();
+        long const behind = isWidth ? rect.left - place.right : rect.top - place.bottom;
+        long const ahead = isWidth ? place.left - rect.right : place.top - rect.bottom;
+        CPoint const middle = rect.CenterPoint();
+        long const distance = std::abs(isWidth ? middle.x - towards.x : middle.y - towards.y);
         for (auto const & [gap, isBehind] : {std::pair(behind, true), std::pair(ahead, false)})
         {
             if (isBeside && gap >= 0 && gap <= thickness)
@@ -94,11 +94,11 @@ bool ResizePane(CDockablePane & pane, PaneExtent extent, int by, CPoint towards)
     {
         return false;
     }
-    auto const window = pane.m_hWnd;
-    auto const before = PlaceOf(pane);
-    for (auto const & neighbour : DividersOf(pane, extent, towards))
+    HWND const window = pane.m_hWnd;
+    CRect const before = PlaceOf(pane);
+    for (Neighbour const & neighbour : DividersOf(pane, extent, towards))
     {
-        auto const offset = neighbour.isBehind ? by : -by;
+        int const offset = neighbour.isBehind ? by : -by;
         CPoint move(extent == PaneExtent::width ? offset : 0, extent == PaneExtent::height ? offset : 0);
         neighbour.divider->Move(move);
         if (!StillHas(&pane, window) || PlaceOf(pane) != before)
@@ -106,7 +106,7 @@ bool ResizePane(CDockablePane & pane, PaneExtent extent, int by, CPoint towards)
             return true;
         }
     }
-    auto * const frame = FloatingFrame(pane);
+    CPaneFrameWnd * const frame = FloatingFrame(pane);
     if (frame == nullptr)
     {
         return false;

@@ -9,7 +9,7 @@ END_MESSAGE_MAP()
 
 bool CPanel::CreatePanelWindow(wchar_t const * name, CWnd & parent, UINT id)
 {
-    auto const windowClass =
+    LPCTSTR const windowClass =
         AfxRegisterWndClass(0, ::LoadCursorW(nullptr, IDC_ARROW), reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1));
     return CreateEx(WS_EX_CONTROLPARENT, windowClass, name, WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN, CRect(), &parent,
                     id) != FALSE;
@@ -17,7 +17,7 @@ bool CPanel::CreatePanelWindow(wchar_t const * name, CWnd & parent, UINT id)
 
 BOOL CPanel::OnEraseBkgnd(CDC * dc)
 {
-    auto const colours = control_colors::Of(m_hWnd);
+    ControlColors const colours = control_colors::Of(m_hWnd);
     if (!colours.adapts)
     {
         return CWnd::OnEraseBkgnd(dc);
@@ -32,7 +32,7 @@ BOOL CPanel::OnEraseBkgnd(CDC * dc)
 HBRUSH CPanel::OnCtlColor(CDC * dc, CWnd * window, UINT type)
 {
     auto * const brush = CWnd::OnCtlColor(dc, window, type);
-    auto const colours = control_colors::Of(m_hWnd);
+    ControlColors const colours = control_colors::Of(m_hWnd);
     if (!colours.adapts || type != CTLCOLOR_STATIC || (window->SendMessage(WM_GETDLGCODE) & DLGC_STATIC) == 0)
     {
         return brush;

@@ -5,9 +5,9 @@
 #include <cwchar>
 #include <vector>
 
+#include "clipboard/Clipboard.h"
 #include "DrawingScopes.h"
 #include "Graphics.h"
-#include "clipboard/Clipboard.h"
 #include "logic/SafeFile.h"
 
 namespace workbench
@@ -135,7 +135,7 @@ bool CopyPicture(CWnd & window, CSize size, Drawing const & draw)
     {
         return false;
     }
-    auto const copied = Clipboard::WmfToClipboard(metafile);
+    bool const copied = Clipboard::WmfToClipboard(metafile);
     // If the clipboard could not even be opened, the picture has stayed here.
     if (!copied && ::GetObjectType(metafile) == OBJ_ENHMETAFILE)
     {
@@ -152,7 +152,7 @@ bool CopyPicture(CWnd & window, CSize size, Drawing const & draw)
 bool SavePicture(CWnd & window, CSize size, Drawing const & draw, std::filesystem::path const & file,
                  unsigned long * error)
 {
-    auto const png = PngPicture(window, size, draw);
+    std::string const png = PngPicture(window, size, draw);
     if (error != nullptr)
     {
         *error = 0;

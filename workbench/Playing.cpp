@@ -1,8 +1,8 @@
 #include "Playing.h"
 
-#include "WaveOutDevice.h"
 #include "logic/Amplification.h"
 #include "logic/Texts.h"
+#include "WaveOutDevice.h"
 
 namespace
 {
@@ -35,7 +35,7 @@ void CPlaying::Play(CWnd & owner, std::filesystem::path const & file, workbench:
     {
         return;
     }
-    auto const start = m_player.Play(file, stretch);
+    workbench::PlayStart const start = m_player.Play(file, stretch);
     if (start == workbench::PlayStart::playing)
     {
         SetTimer(feed_timer, feed_period, nullptr);

@@ -18,7 +18,7 @@ bool IsDown(int key)
 
 void Zoom(TimeMarks & marks, double factor)
 {
-    auto const shown = marks.window.Shown();
+    FrameRange const shown = marks.window.Shown();
     auto const offset = static_cast<double>(std::clamp(marks.cursor, shown.first, shown.end) - shown.first);
     marks.window.Zoom(factor, shown.IsEmpty() ? 0.5 : offset / static_cast<double>(shown.Length()));
 }
@@ -68,16 +68,17 @@ bool ScrollByKey(TimeMarks & marks, UINT key)
 
 bool MoveByKey(TimeMarks & marks, UINT key, int width)
 {
-    auto const frames = marks.window.Frames();
+    std::uint64_t const frames = marks.window.Frames();
     if (frames == 0 || width <= 0)
     {
         return false;
     }
     // A key moves by what one pixel shows, at least by one frame; with Ctrl by a tenth of the plot.
-    auto const last = frames - 1;
-    auto const shown = marks.window.Shown().Length();
-    auto const step = std::max<std::uint64_t>(shown / (IsDown(VK_CONTROL) ? 10U : static_cast<unsigned>(width)), 1);
-    auto cursor = marks.cursor;
+    std::size_t const last = frames - 1;
+    std::uint64_t const shown = marks.window.Shown().Length();
+    std::size_t const step =
+        std::max<std::uint64_t>(shown / (IsDown(VK_CONTROL) ? 10U : static_cast<unsigned>(width)), 1);
+    std::uint64_t cursor = marks.cursor;
     switch (key)
     {
     case VK_LEFT:
@@ -110,7 +111,7 @@ bool MoveByKey(TimeMarks & marks, UINT key, int width)
 
 UINT PlotDialogCode(TimeMarks const & marks, MSG const * asked)
 {
-    auto const isOfSelection = asked != nullptr && asked->message == WM_KEYDOWN &&
+    bool const isOfSelection = asked != nullptr && asked->message == WM_KEYDOWN &&
                                (asked->wParam == VK_RETURN || asked->wParam == VK_ESCAPE) && marks.HasSelection();
     return DLGC_WANTARROWS | (isOfSelection ? DLGC_WANTALLKEYS : 0);
 }

@@ -17,7 +17,7 @@ constexpr int least_tick_distance = 44; // dialog units
 
 PlotColours ScreenPlotColours(CWnd const & window)
 {
-    auto const colours = control_colors::Of(window.m_hWnd);
+    ControlColors const colours = control_colors::Of(window.m_hWnd);
     return PlotColoursOn(colours.window, colours.windowText);
 }
 
@@ -46,12 +46,12 @@ void DrawPlotLabel(CDC & dc, std::wstring const & text, CPoint position, PlotCol
 void DrawTimeAxis(CDC & dc, CRect const & plot, double first, double end, ScreenMetrics const & metrics,
                   PlotColours const & colours)
 {
-    auto const tickHeight = metrics.Y(2);
-    for (auto const & tick : TimeTicks(first, end, plot.Width() - 2, metrics.X(least_tick_distance)))
+    int const tickHeight = metrics.Y(2);
+    for (TimeTick const & tick : TimeTicks(first, end, plot.Width() - 2, metrics.X(least_tick_distance)))
     {
-        auto const x = plot.left + 1 + tick.position;
+        long const x = plot.left + 1 + tick.position;
         dc.FillSolidRect(x, plot.bottom, 1, tickHeight, colours.frame);
-        auto const width = TextSize(dc, tick.label).cx;
+        LONG const width = TextSize(dc, tick.label).cx;
         auto const left = std::clamp<int>(x - width / 2, plot.left, std::max<int>(plot.right - width, plot.left));
         DrawPlotLabel(dc, tick.label, CPoint(left, plot.bottom + tickHeight + 1), colours);
     }

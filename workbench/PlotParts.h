@@ -3,8 +3,8 @@
 
 #include <string>
 
-#include "ScreenMetrics.h"
 #include "logic/ReadableColours.h"
+#include "ScreenMetrics.h"
 
 namespace workbench
 {

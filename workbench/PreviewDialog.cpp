@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "DrawingScopes.h"
-#include "Printing.h"
 #include "logic/Texts.h"
+#include "Printing.h"
 #include "resource.h"
 
 using workbench::paper_height;
@@ -29,10 +29,10 @@ bool CPageView::CreateView(CWnd & parent, UINT id, CRect const & place)
 void CPageView::Draw(CDC & dc, CRect const & client)
 {
     dc.FillSolidRect(client, ::GetSysColor(COLOR_APPWORKSPACE));
-    auto desk = client;
+    CRect desk = client;
     desk.DeflateRect(desk_margin, desk_margin);
-    auto const width = std::min(desk.Width(), ::MulDiv(desk.Height(), paper_width, paper_height));
-    auto const height = ::MulDiv(width, paper_height, paper_width);
+    int const width = std::min(desk.Width(), ::MulDiv(desk.Height(), paper_width, paper_height));
+    int const height = ::MulDiv(width, paper_height, paper_width);
     if (width <= 0 || height <= 0)
     {
         return;
@@ -41,7 +41,7 @@ void CPageView::Draw(CDC & dc, CRect const & client)
                 CSize(width, height));
     dc.FillSolidRect(paper + CPoint(shadow, shadow), ::GetSysColor(COLOR_3DDKSHADOW));
     dc.FillSolidRect(paper, paper_colour);
-    auto const margin = ::MulDiv(width, workbench::page_margin, paper_width);
+    int const margin = ::MulDiv(width, workbench::page_margin, paper_width);
     paper.DeflateRect(margin, margin);
     if (m_painter && !paper.IsRectEmpty())
     {
@@ -97,6 +97,6 @@ BOOL CPreviewDialog::OnInitDialog()
 void CPreviewDialog::OnPrint()
 {
     // A copy: the dialog can be closed meanwhile.
-    auto const painter = m_page.m_painter;
+    PagePainter const painter = m_page.m_painter;
     workbench::PrintPage(*this, Text(L"Recordings"), painter);
 }

@@ -26,13 +26,13 @@ bool AnyPrinter()
 /// The printer of the dialog with its paper in landscape.
 bool CreatePrinter(CPrintDialog & dialog, CDC & printer)
 {
-    if (auto * const mode = dialog.GetDevMode())
+    if (DEVMODE * const mode = dialog.GetDevMode())
     {
         mode->dmOrientation = DMORIENT_LANDSCAPE;
         mode->dmFields |= DM_ORIENTATION;
         ::GlobalUnlock(dialog.m_pd.hDevMode);
     }
-    auto const created = dialog.CreatePrinterDC();
+    HDC const created = dialog.CreatePrinterDC();
     return created != nullptr && printer.Attach(created);
 }
 
@@ -40,10 +40,10 @@ bool CreatePrinter(CPrintDialog & dialog, CDC & printer)
 CRect PlaceOnPaper(CDC & printer)
 {
     CSize const room(printer.GetDeviceCaps(HORZRES), printer.GetDeviceCaps(VERTRES));
-    auto const size = PageSize();
+    CSize const size = PageSize();
     // Widths and heights may have other resolutions.
-    auto const across = std::max(printer.GetDeviceCaps(LOGPIXELSX), 1);
-    auto const down = std::max(printer.GetDeviceCaps(LOGPIXELSY), 1);
+    int const across = std::max(printer.GetDeviceCaps(LOGPIXELSX), 1);
+    int const down = std::max(printer.GetDeviceCaps(LOGPIXELSY), 1);
     auto const width =
         std::min<int>(room.cx, ::MulDiv(::MulDiv(room.cy, size.cx, std::max<int>(size.cy, 1)), across, down));
     auto const height = ::MulDiv(::MulDiv(width, size.cy, std::max<int>(size.cx, 1)), down, across);
@@ -55,7 +55,7 @@ CRect PlaceOnPaper(CDC & printer)
 CSize PageSize()
 {
     CDC screen;
-    auto const resolution =
+    int const resolution =
         screen.CreateCompatibleDC(nullptr) ? screen.GetDeviceCaps(LOGPIXELSY) : USER_DEFAULT_SCREEN_DPI;
     auto const pixels = [resolution](int millimetres) {
         return ::MulDiv(millimetres * 10, resolution, tenths_of_millimetres_per_inch);
@@ -83,7 +83,7 @@ bool DrawScaled(CDC & device, CRect const & place, CSize size, Drawing const & d
     {
         return false;
     }
-    auto const played = ::PlayEnhMetaFile(device.m_hDC, metafile, place);
+    WINBOOL const played = ::PlayEnhMetaFile(device.m_hDC, metafile, place);
     ::DeleteEnhMetaFile(metafile);
     return played != FALSE;
 }
@@ -101,11 +101,11 @@ bool PrintPage(CWnd & owner, CString const & title, Drawing const & draw)
     {
         return false;
     }
-    auto const created = CreatePrinter(dialog, printer);
+    bool const created = CreatePrinter(dialog, printer);
     ::GlobalFree(dialog.m_pd.hDevMode);
     ::GlobalFree(dialog.m_pd.hDevNames);
-    auto const started = created && printer.StartDoc(title) > 0;
-    auto const printed = started && printer.StartPage() > 0 &&
+    bool const started = created && printer.StartDoc(title) > 0;
+    bool const printed = started && printer.StartPage() > 0 &&
                          DrawScaled(printer, PlaceOnPaper(printer), PageSize(), draw) && printer.EndPage() > 0;
     if (started)
     {

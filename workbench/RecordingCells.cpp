@@ -15,8 +15,8 @@ namespace
 
 std::wstring WithoutBlanks(std::wstring text)
 {
-    constexpr auto blanks = L" \t\r\n";
-    auto const last = text.find_last_not_of(blanks);
+    constexpr wchar_t const * blanks = L" \t\r\n";
+    std::size_t const last = text.find_last_not_of(blanks);
     text.erase(last == text.npos ? 0 : last + 1);
     text.erase(0, std::min(text.find_first_not_of(blanks), text.size()));
     return text;
@@ -26,7 +26,7 @@ std::wstring WithoutBlanks(std::wstring text)
 
 std::wstring ValueText(CRecordingList::Column column, RecordingAnalysis const & analysis)
 {
-    auto const & info = analysis.info;
+    RecordingInfo const & info = analysis.info;
     switch (column)
     {
     case CRecordingList::column_duration:
@@ -55,7 +55,7 @@ std::wstring ValueText(CRecordingList::Column column, RecordingAnalysis const & 
 std::wstring CellText(CRecordingList::Column column, ListedRecording const & recording)
 {
     auto const & analysis = recording.analysis;
-    auto const isReadable = !(analysis && analysis->problem);
+    bool const isReadable = !(analysis && analysis->problem);
     switch (column)
     {
     case CRecordingList::column_name:
@@ -86,10 +86,10 @@ RecordingTable::RecordingTable(std::vector<CRecordingList::Column> columns, Text
 
 void RecordingTable::MakeRow()
 {
-    auto const & recording = m_recordings[m_table.rows.size()];
+    ListedRecording const & recording = m_recordings[m_table.rows.size()];
     std::vector<std::wstring> texts;
     texts.reserve(m_columns.size());
-    for (auto const column : m_columns)
+    for (CRecordingList::Column const column : m_columns)
     {
         texts.push_back(column == CRecordingList::column_reference ? (recording.isReference ? L"x" : L"")
                                                                    : WithoutBlanks(CellText(column, recording)));

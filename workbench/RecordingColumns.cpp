@@ -27,7 +27,7 @@ std::vector<int> HideableColumns(std::vector<int> const & order)
 std::map<int, CString> ColumnNames(std::vector<int> const & columns)
 {
     std::map<int, CString> names;
-    for (auto const column : columns)
+    for (int const column : columns)
     {
         names[static_cast<int>(names.size())] = CRecordingList::Title(column);
     }

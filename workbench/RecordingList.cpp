@@ -12,8 +12,8 @@
 #include "frame/RegisteredMessages.h"
 #include "logic/ReadableColours.h"
 #include "logic/Texts.h"
-#include "Settings.h"
 #include "resource.h"
+#include "Settings.h"
 
 namespace
 {
@@ -29,7 +29,7 @@ struct ColumnDesign
 };
 
 // The date's least text is made when the columns are, as the user writes dates.
-constexpr ColumnDesign column_designs[CRecordingList::column_count] = {
+constexpr ColumnDesign column_designs[] = {
     {L"", LVCFMT_LEFT, L""},
     {Translatable(L"Name"), LVCFMT_LEFT, L"Measurement 1"},
     {Translatable(L"Ref."), LVCFMT_CENTER, L""},
@@ -48,6 +48,7 @@ constexpr ColumnDesign column_designs[CRecordingList::column_count] = {
     {Translatable(L"Frequency (Hz)"), LVCFMT_RIGHT, L"192000"},
     {Translatable(L"Distortion (%)"), LVCFMT_RIGHT, L"0.00100"},
 };
+static_assert(std::size(column_designs) == CRecordingList::column_count, "a column lacks its design");
 
 // The flexible columns in the order in which they get what is left over, and how far they grow before the next one gets
 // anything, as a multiple of their least width. The last one takes the rest.
@@ -128,7 +129,8 @@ END_MESSAGE_MAP()
 
 // A stored choice of columns knows which ones it can not have known.
 static_assert(workbench::Settings::first_later_column == CRecordingList::first_measure &&
-              workbench::Settings::columns == CRecordingList::column_count);
+                  workbench::Settings::columns == CRecordingList::column_count,
+              "Settings.h counts other columns than the list has");
 
 bool CRecordingList::CreateList(CWnd & parent, UINT id, workbench::ScreenMetrics & metrics)
 {
@@ -199,7 +201,7 @@ void CRecordingList::MeasureTitles()
         else if (i == column_rating)
         {
             // Their names are chosen from a list in the cell, beside its button.
-            for (auto const * const name : rating_names)
+            for (wchar_t const * const name : rating_names)
             {
                 least = std::max(least, WidthOf(std::wstring(Text(name)) + L"mm"));
             }
@@ -230,9 +232,9 @@ void CRecordingList::CreateColumns()
 /// The images of the states, which also give the lines their height.
 void CRecordingList::CreateImages()
 {
-    auto const size = m_metrics->Scaled(image_size);
+    int const size = m_metrics->Scaled(image_size);
     VERIFY(m_images.Create(size, size, ILC_COLOR32 | ILC_MASK, 3, 0));
-    for (auto const id : {IDI_STATUS_OK, IDI_STATUS_DAMAGED, IDI_STATUS_UNREADABLE})
+    for (int const id : {IDI_STATUS_OK, IDI_STATUS_DAMAGED, IDI_STATUS_UNREADABLE})
     {
         m_images.Add(static_cast<HICON>(
             ::LoadImageW(AfxGetInstanceHandle(), MAKEINTRESOURCEW(id), IMAGE_ICON, size, size, LR_SHARED)));
@@ -263,7 +265,7 @@ void CRecordingList::ShowTexts()
 
 void CRecordingList::CreateMenu()
 {
-    auto & menu = PopUpMenu();
+    CMenu & menu = PopUpMenu();
     while (menu.GetMenuItemCount() > 0)
     {
         menu.DeleteMenu(0, MF_BYPOSITION);
@@ -346,7 +348,7 @@ void CRecordingList::FitColumns()
     // Changing a width can change the scroll bars and so come back here through the size message.
     // Nor does anything below an open editor.
     // While the user drags a divider, nothing else moves; a title that is being clicked has the mouse, too.
-    auto const dragged = m_tracking && ::GetCapture() == GetHeaderCtrl()->GetSafeHwnd();
+    bool const dragged = m_tracking && ::GetCapture() == GetHeaderCtrl()->GetSafeHwnd();
     if (m_fitting || m_leastWidth == 0 || m_batches > 0 || dragged || IsEditing())
     {
         return;
@@ -355,7 +357,7 @@ void CRecordingList::FitColumns()
     CRect client;
     GetClientRect(&client);
     m_fittedWidth = client.Width();
-    auto widths = m_needs;
+    std::array<int, column_count> widths = m_needs;
     widths[column_name] = m_least[column_name];
     widths[column_status] = m_least[column_status];
     if (m_sortedColumn >= 0)
@@ -370,23 +372,23 @@ void CRecordingList::FitColumns()
             widths[static_cast<std::size_t>(column)] = width;
         }
     }
-    for (auto const column : m_hidden)
+    for (int const column : m_hidden)
     {
         widths[static_cast<std::size_t>(column)] = 0;
     }
-    auto rest = std::max(client.Width() - std::accumulate(widths.begin(), widths.end(), 0), 0);
+    int rest = std::max(client.Width() - std::accumulate(widths.begin(), widths.end(), 0), 0);
     auto const give = [&](Column column, int wanted) {
         if (m_userWidths.contains(column) || IsHidden(column))
         {
             return;
         }
-        auto const more = std::clamp(wanted - widths[column], 0, rest);
+        int const more = std::clamp(wanted - widths[column], 0, rest);
         widths[column] += more;
         rest -= more;
     };
     give(column_status, m_needs[column_status]);
     give(column_name, m_needs[column_name]);
-    for (auto const & growth : column_growth)
+    for (Growth const & growth : column_growth)
     {
         give(growth.column, growth.limit * m_least[growth.column]);
     }
@@ -404,12 +406,12 @@ void CRecordingList::FitColumns()
         }
     }
     // Each one would have the list scroll its pixels and paint the rest.
-    auto const many = changed.size() > 1;
+    bool const many = changed.size() > 1;
     if (many)
     {
         SetRedraw(FALSE);
     }
-    for (auto const column : changed)
+    for (int const column : changed)
     {
         // The list's own function would add room for the header, which is in these widths already.
         CListCtrl::SetColumnWidth(column, widths[static_cast<std::size_t>(column)]);
@@ -423,7 +425,7 @@ void CRecordingList::FitColumns()
 
 int CRecordingList::ChosenRow() const
 {
-    auto const focused = GetNextItem(-1, LVNI_SELECTED | LVNI_FOCUSED);
+    int const focused = GetNextItem(-1, LVNI_SELECTED | LVNI_FOCUSED);
     return focused >= 0 ? focused : GetSelectedItem();
 }
 
@@ -446,7 +448,7 @@ int CRecordingList::ChosenLine() const
             return m_heldFocus;
         }
     }
-    auto const row = ChosenRow();
+    int const row = ChosenRow();
     return row >= 0 ? LineAt(row) : -1;
 }
 
@@ -454,21 +456,21 @@ void CRecordingList::ChooseLine(int line)
 {
     if (!m_wanted.empty())
     {
-        auto const isToCome = line >= 0 && line < LineCount() && m_sources[static_cast<std::size_t>(line)].shown;
+        bool const isToCome = line >= 0 && line < LineCount() && m_sources[static_cast<std::size_t>(line)].shown;
         HoldLines(isToCome ? std::vector<int>{line} : std::vector<int>(), isToCome ? line : -1);
     }
     if (GetSelectedCount() > many_rows)
     {
         ClearSelection();
     }
-    for (auto other = GetSelectedItem(); other >= 0; other = GetSelectedItemAfter(other))
+    for (int other = GetSelectedItem(); other >= 0; other = GetSelectedItemAfter(other))
     {
         if (LineAt(other) != line)
         {
             SetItemState(other, 0, LVIS_SELECTED | LVIS_FOCUSED);
         }
     }
-    auto const row = PlaceOf(line);
+    int const row = PlaceOf(line);
     if (row >= 0)
     {
         SetCurSel(row, true);
@@ -479,12 +481,12 @@ void CRecordingList::ChooseLine(int line)
 void CRecordingList::SetChecked(std::vector<int> const & lines, bool checked)
 {
     Batch const batch(*this);
-    for (auto const line : lines)
+    for (int const line : lines)
     {
-        auto const before = NotesOf(line);
+        Notes const before = NotesOf(line);
         if (before.checked != checked && IsReadable(line))
         {
-            auto after = before;
+            Notes after = before;
             after.checked = checked;
             SetNotes(line, after);
             m_history.Note(line, before, after);
@@ -519,8 +521,8 @@ void CRecordingList::ShowHeaderCheck()
     {
         return;
     }
-    auto checked = m_totals.Checked();
-    auto checkable = m_totals.Lines() - m_totals.Unreadable();
+    std::size_t checked = m_totals.Checked();
+    std::size_t checkable = m_totals.Lines() - m_totals.Unreadable();
     if (!Filter().LetsAllThrough())
     {
         // Of those that show.
@@ -528,7 +530,7 @@ void CRecordingList::ShowHeaderCheck()
         checkable = 0;
         for (std::size_t line = 0; line < m_sources.size(); ++line)
         {
-            auto const & source = m_sources[line];
+            Source const & source = m_sources[line];
             if (source.shown && !(source.analysis && source.analysis->problem))
             {
                 checked += m_totals.IsChecked(line) ? 1 : 0;
@@ -536,7 +538,7 @@ void CRecordingList::ShowHeaderCheck()
             }
         }
     }
-    auto const state = checked == 0 ? XHC_UNCHECKED : checked == checkable ? XHC_CHECKED : XHC_MIXED;
+    int const state = checked == 0 ? XHC_UNCHECKED : checked == checkable ? XHC_CHECKED : XHC_MIXED;
     if (state != GetHeaderCheckedState(column_check))
     {
         SetHeaderCheckedState(column_check, state);
@@ -545,7 +547,7 @@ void CRecordingList::ShowHeaderCheck()
 
 void CRecordingList::SetReference(int line)
 {
-    auto const row = PlaceOf(line);
+    int const row = PlaceOf(line);
     ShowNewNotes(row, line);
     if (GetItemCheckedState(row, column_reference) == XLC_RADIO_OFF)
     {
@@ -563,13 +565,13 @@ void CRecordingList::ShowReference()
     }
     if (m_boldLine >= 0)
     {
-        if (auto const former = PlaceOf(m_boldLine); former >= 0)
+        if (int const former = PlaceOf(m_boldLine); former >= 0)
         {
             SetBold(former, column_name, false);
         }
     }
     m_boldLine = m_reference;
-    auto const row = PlaceOf(m_boldLine);
+    int const row = PlaceOf(m_boldLine);
     if (row >= 0)
     {
         SetBold(row, column_name, true);
@@ -636,7 +638,7 @@ void CRecordingList::Touch(int row)
 {
     if (m_batches > 0 && !m_touched)
     {
-        auto const top = GetTopIndex();
+        int const top = GetTopIndex();
         m_touched = row >= top && row <= top + GetCountPerPage();
     }
 }
@@ -644,7 +646,7 @@ void CRecordingList::Touch(int row)
 /// Takes the change into what is known of the lines. Parents hear of it by m_onChanged and not for each cell.
 void CRecordingList::OnItemStateChange(int row, int column, unsigned int message)
 {
-    auto const line = LineAt(row);
+    int const line = LineAt(row);
     if (line < 0 || line >= LineCount())
     {
         return;
@@ -655,7 +657,7 @@ void CRecordingList::OnItemStateChange(int row, int column, unsigned int message
         return;
     }
     auto & notes = m_notes[static_cast<std::size_t>(line)];
-    auto const before = notes;
+    workbench::RecordingNotes const before = notes;
     switch (column)
     {
     case column_check:
@@ -710,7 +712,7 @@ void CRecordingList::NoteReference()
         auto & notes = m_notes[static_cast<std::size_t>(line)];
         if (notes.reference != (line == m_reference))
         {
-            auto const before = notes;
+            workbench::RecordingNotes const before = notes;
             notes.reference = line == m_reference;
             m_history.Note(line, before, notes);
             m_noted.push_back(line);
@@ -720,7 +722,7 @@ void CRecordingList::NoteReference()
 
 std::vector<int> CRecordingList::TakeNotedLines()
 {
-    auto lines = std::exchange(m_noted, {});
+    std::vector<int> lines = std::exchange(m_noted, {});
     std::ranges::sort(lines);
     lines.erase(std::unique(lines.begin(), lines.end()), lines.end());
     return lines;
@@ -758,9 +760,9 @@ void CRecordingList::EndEditing()
 
 void CRecordingList::EditComment(int line)
 {
-    auto const row = PlaceOf(line);
+    int const row = PlaceOf(line);
     ShowNewNotes(row, line);
-    auto const * const cell = row >= 0 ? GetRowItemDataDirect(row, column_comment) : nullptr;
+    XLISTCTRLDATA const * const cell = row >= 0 ? GetRowItemDataDirect(row, column_comment) : nullptr;
     if (cell == nullptr || (cell->properties & XLP_EDIT) == 0 || IsHidden(column_comment))
     {
         return;
@@ -773,7 +775,7 @@ void CRecordingList::EditComment(int line)
 
 void CRecordingList::ChooseRating(int line)
 {
-    auto const row = PlaceOf(line);
+    int const row = PlaceOf(line);
     if (row >= 0 && !IsHidden(column_rating))
     {
         ShowNewNotes(row, line);
@@ -793,8 +795,8 @@ void CRecordingList::ShowColumn(int row, Column column)
     CRect cell;
     if (GetSubItemRect(row, column, LVIR_BOUNDS, cell))
     {
-        auto const beyond = std::max(cell.right - client.right, 0L);
-        auto const shift = cell.left < 0 ? cell.left : std::min(beyond, cell.left);
+        long const beyond = std::max(cell.right - client.right, 0L);
+        long const shift = cell.left < 0 ? cell.left : std::min(beyond, cell.left);
         if (shift != 0)
         {
             Scroll(CSize(static_cast<int>(shift), 0));
@@ -819,7 +821,7 @@ void CRecordingList::PlaceEditors(int line)
         ScreenToClient(&place);
         CClientDC dc(this);
         workbench::FontScope const font(dc, m_metrics->Font());
-        auto const height = dc.GetTextExtent(L"Mg").cy;
+        LONG const height = dc.GetTextExtent(L"Mg").cy;
         if (height + edit_room < place.Height())
         {
             ::SetWindowPos(edit, nullptr, place.left, place.top + (place.Height() - height) / 2, place.Width(),
@@ -889,7 +891,7 @@ void CRecordingList::RepaintSoon(int row)
 LRESULT CRecordingList::OnTellChanges(WPARAM, LPARAM)
 {
     m_history.EndStep();
-    auto const changes = std::exchange(m_changes, 0U);
+    unsigned int const changes = std::exchange(m_changes, 0U);
     RepaintRows(std::exchange(m_repaintFirst, 0), std::exchange(m_repaintLast, -1), false);
     if (std::exchange(m_columnDragged, false))
     {
@@ -1003,8 +1005,8 @@ void CRecordingList::KeepChecksBesideNames(std::vector<int> & order)
 /// The user has dragged a column: what stands in other places now is painted there.
 void CRecordingList::FollowDraggedColumn()
 {
-    auto const order = ColumnOrder();
-    auto kept = order;
+    std::vector<int> const order = ColumnOrder();
+    std::vector<int> kept = order;
     KeepChecksBesideNames(kept);
     if (kept != order)
     {
@@ -1043,8 +1045,8 @@ void CRecordingList::PlaceToolTip(HWND tip, UINT_PTR tool)
     ::GetWindowRect(tip, &place);
     CRect work;
     ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
-    auto const toTheRight = cell.right + tool_tip_gap + place.Width() <= work.right;
-    auto const left = toTheRight ? cell.right + tool_tip_gap : cell.left - tool_tip_gap - place.Width();
+    bool const toTheRight = cell.right + tool_tip_gap + place.Width() <= work.right;
+    long const left = toTheRight ? cell.right + tool_tip_gap : cell.left - tool_tip_gap - place.Width();
     ::SetWindowPos(tip, nullptr, std::max(left, work.left), cell.top + (cell.Height() - place.Height()) / 2, 0, 0,
                    SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
@@ -1081,7 +1083,8 @@ void CRecordingList::GetDrawColors(int row, int column, COLORREF & text, COLORRE
     }
     else if (chosenBackground != CLR_INVALID)
     {
-        auto const colours = workbench::ChosenRowColours(chosenBackground, ::GetSysColor(COLOR_WINDOW));
+        workbench::RowColours const colours =
+            workbench::ChosenRowColours(chosenBackground, ::GetSysColor(COLOR_WINDOW));
         text = colours.text;
         background = colours.background;
     }
@@ -1148,9 +1151,9 @@ void CRecordingList::RepaintRows(int first, int last, bool selectedOnly)
     {
         return;
     }
-    auto const top = GetTopIndex();
-    auto const end = std::min(last, top + GetCountPerPage());
-    for (auto row = std::max(first, top); row <= end; ++row)
+    int const top = GetTopIndex();
+    int const end = std::min(last, top + GetCountPerPage());
+    for (int row = std::max(first, top); row <= end; ++row)
     {
         if (!selectedOnly || GetItemState(row, LVIS_SELECTED) != 0)
         {
@@ -1163,9 +1166,9 @@ void CRecordingList::RepaintRows(int first, int last, bool selectedOnly)
 BOOL CRecordingList::OnEraseBkgnd(CDC * dc)
 {
     m_colours = control_colors::Of(m_hWnd);
-    auto const result = CXListCtrl::OnEraseBkgnd(dc);
-    auto const end = std::min(GetTopIndex() + GetCountPerPage() + 1, GetItemCount());
-    for (auto row = GetTopIndex(); row < end; ++row)
+    BOOL const result = CXListCtrl::OnEraseBkgnd(dc);
+    int const end = std::min(GetTopIndex() + GetCountPerPage() + 1, GetItemCount());
+    for (int row = GetTopIndex(); row < end; ++row)
     {
         CRect cell;
         if (GetItemProperty(row, column_peak, XLP_PROGRESS) && GetSubItemRect(row, column_peak, LVIR_BOUNDS, cell))
@@ -1183,7 +1186,7 @@ void CRecordingList::OnLButtonDown(UINT flags, CPoint point)
     if ((flags & (MK_CONTROL | MK_SHIFT)) == 0 && GetSelectedCount() > many_rows)
     {
         int column = 0;
-        auto const row = GetPointItem(point, column);
+        int const row = GetPointItem(point, column);
         if (row >= 0 && GetItemState(row, LVIS_SELECTED) == 0)
         {
             ClearSelection();
@@ -1194,8 +1197,8 @@ void CRecordingList::OnLButtonDown(UINT flags, CPoint point)
         SelectRangeTo(point, (flags & MK_CONTROL) != 0);
     }
     int column = 0;
-    auto const line = LineAt(GetPointItem(point, column));
-    auto const generation = m_generation;
+    int const line = LineAt(GetPointItem(point, column));
+    unsigned int const generation = m_generation;
     m_dragsNothing = false;
     // One that stays open would lose its text to the next one.
     EndEditing();
@@ -1211,9 +1214,9 @@ void CRecordingList::OnLButtonDown(UINT flags, CPoint point)
 void CRecordingList::SelectRangeTo(CPoint point, bool othersStay)
 {
     int column = 0;
-    auto const row = GetPointItem(point, column);
-    auto const mark = GetSelectionMark();
-    auto const rows = GetItemCount();
+    int const row = GetPointItem(point, column);
+    int const mark = GetSelectionMark();
+    int const rows = GetItemCount();
     if (row < 0 || mark < 0 || mark >= rows || static_cast<UINT>(std::abs(row - mark)) <= many_rows)
     {
         return;
@@ -1244,7 +1247,7 @@ void CRecordingList::OnKeyDown(UINT key, UINT repeat, UINT flags)
         CopyToClipboard(false);
         return;
     }
-    auto const selectsRange = ::GetKeyState(VK_SHIFT) < 0 && (key == VK_HOME || key == VK_END);
+    bool const selectsRange = ::GetKeyState(VK_SHIFT) < 0 && (key == VK_HOME || key == VK_END);
     if (selectsRange || GetSelectedCount() > many_rows)
     {
         Batch const batch(*this);
@@ -1267,7 +1270,7 @@ void CRecordingList::OnContextMenu(CWnd * window, CPoint point)
         }
         return;
     }
-    auto row = PlaceOf(ChosenLine());
+    int row = PlaceOf(ChosenLine());
     if (point == CPoint(-1, -1) && row >= 0)
     {
         // By the keyboard: the menu opens at the chosen line.
@@ -1281,7 +1284,7 @@ void CRecordingList::OnContextMenu(CWnd * window, CPoint point)
     }
     else
     {
-        auto client = point;
+        CPoint client = point;
         ScreenToClient(&client);
         int column = 0;
         row = GetPointItem(client, column);
@@ -1289,7 +1292,7 @@ void CRecordingList::OnContextMenu(CWnd * window, CPoint point)
     // While the menu shows, lines can move and go.
     m_menuLine = LineAt(row);
     m_menuGeneration = m_generation;
-    auto const readable = GetItemCheckedState(row, column_reference) != XLC_NONE;
+    bool const readable = GetItemCheckedState(row, column_reference) != XLC_NONE;
     auto const enable = [this](UINT id, bool enabled) {
         PopUpMenu().EnableMenuItem(id, MF_BYCOMMAND | (enabled ? MF_ENABLED : MF_GRAYED));
     };

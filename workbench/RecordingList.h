@@ -15,17 +15,17 @@
 #include <unordered_map>
 #include <vector>
 
-#include "DrawingScopes.h"
-#include "ScreenMetrics.h"
-#include "StarRating.h"
 #include "colours/ControlColors.h"
+#include "DrawingScopes.h"
 #include "list/XListCtrl.h"
 #include "logic/ListHistory.h"
 #include "logic/RecordingAnalysis.h"
 #include "logic/RecordingFilter.h"
 #include "logic/RecordingNotes.h"
 #include "logic/RecordingTotals.h"
-#include "logic/TableText.h"
+#include "logic/TextTable.h"
+#include "ScreenMetrics.h"
+#include "StarRating.h"
 
 class CRecordingOverview;
 

@@ -7,9 +7,9 @@
 #include <utility>
 
 #include "BusyDialog.h"
-#include "RecordingCells.h"
 #include "clipboard/Clipboard.h"
 #include "logic/Texts.h"
+#include "RecordingCells.h"
 
 namespace
 {
@@ -43,12 +43,12 @@ std::vector<int> CRecordingList::LinesOf(Lines lines)
 {
     if (lines == Lines::selected)
     {
-        if (auto selected = SelectedLines(); !selected.empty())
+        if (std::vector<int> selected = SelectedLines(); !selected.empty())
         {
             return selected;
         }
     }
-    auto shown = m_wanted.empty() ? LinesWithRows() : m_wanted;
+    std::vector<int> shown = m_wanted.empty() ? LinesWithRows() : m_wanted;
     if (lines == Lines::marked)
     {
         std::erase_if(shown, [this](int line) { return !IsChecked(line); });
@@ -61,7 +61,7 @@ workbench::RecordingTable CRecordingList::Table(Lines lines, std::set<int> const
     EndEditing();
     std::vector<Column> columns;
     workbench::TextTable table;
-    for (auto const column : ColumnOrder())
+    for (int const column : ColumnOrder())
     {
         if (!IsCopied(column) || without.contains(column))
         {
@@ -74,9 +74,9 @@ workbench::RecordingTable CRecordingList::Table(Lines lines, std::set<int> const
         table.columns.push_back({Title(column), (native.fmt & LVCFMT_JUSTIFYMASK) == LVCFMT_RIGHT, IsNumber(column)});
     }
     std::vector<workbench::ListedRecording> recordings;
-    auto const wanted = LinesOf(lines);
+    std::vector<int> const wanted = LinesOf(lines);
     recordings.reserve(wanted.size());
-    for (auto const line : wanted)
+    for (int const line : wanted)
     {
         auto const & source = m_sources[static_cast<std::size_t>(line)];
         recordings.push_back({source.file, NotesOf(line), source.analysis, source.reading, line == m_reference});
@@ -86,9 +86,9 @@ workbench::RecordingTable CRecordingList::Table(Lines lines, std::set<int> const
 
 bool CRecordingList::CopyToClipboard(bool all)
 {
-    auto table = Table(all ? Lines::all : Lines::selected, m_hidden);
-    auto const rows = table.Rows();
-    auto * const owner = GetTopLevelParent();
+    workbench::RecordingTable table = Table(all ? Lines::all : Lines::selected, m_hidden);
+    std::size_t const rows = table.Rows();
+    CWnd * const owner = GetTopLevelParent();
     if (rows == 0 || owner == nullptr)
     {
         return false;

@@ -75,7 +75,7 @@ void CRecordingList::EndDrag()
 int CRecordingList::EdgeOf(int row) const
 {
     CRect rect;
-    auto const count = GetItemCount();
+    int const count = GetItemCount();
     if (count == 0 || !GetItemRect(std::min(row, count - 1), &rect, LVIR_BOUNDS))
     {
         return 0;
@@ -90,7 +90,7 @@ void CRecordingList::MarkDrop(int row)
     {
         return;
     }
-    for (auto const marked : {std::exchange(m_dropRow, row), row})
+    for (int const marked : {std::exchange(m_dropRow, row), row})
     {
         if (marked >= 0)
         {
@@ -115,22 +115,22 @@ int CRecordingList::DropRowAt(CPoint point)
         return -1;
     }
     auto const y = std::clamp<int>(point.y, titles.bottom, std::max<int>(client.bottom - 1, titles.bottom));
-    auto const top = GetTopIndex();
-    auto const height = std::max(EdgeOf(top + 1) - EdgeOf(top), 1);
+    int const top = GetTopIndex();
+    int const height = std::max(EdgeOf(top + 1) - EdgeOf(top), 1);
     return std::clamp(top + (y - EdgeOf(top) + height / 2) / height, top, GetItemCount());
 }
 
 void CRecordingList::FollowDrag(CPoint point)
 {
-    auto screen = point;
+    CPoint screen = point;
     ClientToScreen(&screen);
-    auto const below = ::WindowFromPoint(screen);
-    auto const isOutside = below == nullptr || ::GetAncestor(below, GA_ROOT) != ::GetAncestor(m_hWnd, GA_ROOT);
+    HWND const below = ::WindowFromPoint(screen);
+    bool const isOutside = below == nullptr || ::GetAncestor(below, GA_ROOT) != ::GetAncestor(m_hWnd, GA_ROOT);
     if (auto const onDragOut = m_onDragOut; onDragOut && isOutside)
     {
-        auto const lines = m_dragged;
+        std::vector<int> const lines = m_dragged;
         EndDrag();
-        auto const window = m_hWnd;
+        HWND const window = m_hWnd;
         onDragOut(lines);
         // The button's release went elsewhere.
         if (StillHas(this, window))
@@ -139,7 +139,7 @@ void CRecordingList::FollowDrag(CPoint point)
         }
         return;
     }
-    auto const row = DropRowAt(point);
+    int const row = DropRowAt(point);
     MarkDrop(row);
     ::SetCursor(::LoadCursorW(nullptr, row >= 0 ? IDC_ARROW : IDC_NO));
 }
@@ -154,11 +154,11 @@ void CRecordingList::ScrollForDrag()
     GetClientRect(&client);
     CRect titles;
     GetHeaderCtrl()->GetClientRect(&titles);
-    auto const top = GetTopIndex();
-    auto const height = EdgeOf(top + 1) - EdgeOf(top);
-    auto const down = point.y >= client.bottom - height / 2;
-    auto const up = point.y < titles.bottom + height / 2;
-    auto const last = top + GetCountPerPage() >= GetItemCount();
+    int const top = GetTopIndex();
+    int const height = EdgeOf(top + 1) - EdgeOf(top);
+    bool const down = point.y >= client.bottom - height / 2;
+    bool const up = point.y < titles.bottom + height / 2;
+    bool const last = top + GetCountPerPage() >= GetItemCount();
     if (point.x < client.left || point.x >= client.right || up == down || (up && top == 0) || (down && last))
     {
         return;
@@ -173,8 +173,9 @@ void CRecordingList::ScrollForDrag()
 bool CRecordingList::MoveLines(std::vector<int> const & lines, int row)
 {
     EndEditing();
-    auto before = Order();
-    auto after = workbench::MovedLines(m_order, ShownLines(), lines, static_cast<std::size_t>(std::max(row, 0)));
+    workbench::ListOrder before = Order();
+    std::vector<int> after =
+        workbench::MovedLines(m_order, ShownLines(), lines, static_cast<std::size_t>(std::max(row, 0)));
     if (after == before.lines)
     {
         return false;
@@ -187,9 +188,9 @@ bool CRecordingList::MoveLines(std::vector<int> const & lines, int row)
 
 bool CRecordingList::MoveSelected(bool up)
 {
-    auto const moved = SelectedLines();
-    auto const seen = ShownLines();
-    auto const place = up ? workbench::PlaceOneUp(seen, moved) : workbench::PlaceOneDown(seen, moved);
+    std::vector<int> const moved = SelectedLines();
+    std::vector<int> const seen = ShownLines();
+    std::size_t const place = up ? workbench::PlaceOneUp(seen, moved) : workbench::PlaceOneDown(seen, moved);
     return !moved.empty() && MoveLines(moved, static_cast<int>(place));
 }
 
@@ -208,8 +209,8 @@ void CRecordingList::OnLButtonUp(UINT flags, CPoint point)
     m_dragsNothing = false;
     if (IsDragging())
     {
-        auto const lines = m_dragged;
-        auto const row = DropRowAt(point);
+        std::vector<int> const lines = m_dragged;
+        int const row = DropRowAt(point);
         EndDrag();
         if (row >= 0)
         {
@@ -231,16 +232,16 @@ void CRecordingList::OnCaptureChanged(CWnd * other)
 /// Escape ends a drag and nothing else; Alt with an arrow key moves the selected lines.
 BOOL CRecordingList::PreTranslateMessage(MSG * message)
 {
-    auto const key = message->wParam;
+    WPARAM const key = message->wParam;
     if (message->message == WM_KEYDOWN && key == VK_ESCAPE && IsDragging())
     {
         EndDrag();
         return TRUE;
     }
-    auto const plain = ::GetKeyState(VK_CONTROL) >= 0 && ::GetKeyState(VK_SHIFT) >= 0;
+    bool const plain = ::GetKeyState(VK_CONTROL) >= 0 && ::GetKeyState(VK_SHIFT) >= 0;
     // At the cell cursor these keys are the cell's, before the window's commands. The list would press the cell where a
     // star may stand.
-    auto const isDrop = message->message == WM_SYSKEYDOWN && key == VK_DOWN;
+    bool const isDrop = message->message == WM_SYSKEYDOWN && key == VK_DOWN;
     if (message->hwnd == m_hWnd && plain && HasCellCursor() && GetCellCursor().second == column_rating &&
         (isDrop || (message->message == WM_KEYDOWN && key == VK_F2)))
     {

@@ -81,12 +81,12 @@ void CRecordingList::HoldSelection()
     {
         return;
     }
-    for (auto & source : m_sources)
+    for (Source & source : m_sources)
     {
         source.isHeld = false;
     }
     m_heldFocus = ChosenLine();
-    for (auto const line : SelectedLines())
+    for (int const line : SelectedLines())
     {
         m_sources[static_cast<std::size_t>(line)].isHeld = true;
     }
@@ -99,8 +99,8 @@ void CRecordingList::ShowWantedRows()
     std::vector<int> wanted;
     std::vector<int> gone;  // rows
     std::vector<int> added; // places in `wanted`
-    auto rows = 0;
-    for (auto const line : m_order)
+    int rows = 0;
+    for (int const line : m_order)
     {
         auto const & source = m_sources[static_cast<std::size_t>(line)];
         if (source.hasRow)
@@ -129,16 +129,16 @@ void CRecordingList::ShowWantedRows()
     HoldSelection();
     Batch const batch(*this);
     m_touched = true;
-    auto const outer = std::exchange(m_filling, true);
+    bool const outer = std::exchange(m_filling, true);
     if (gone.size() + added.size() <= few_rows)
     {
-        for (auto i = gone.size(); i > 0; --i)
+        for (std::size_t i = gone.size(); i > 0; --i)
         {
-            auto const line = LineAt(gone[i - 1]);
+            int const line = LineAt(gone[i - 1]);
             DeleteItem(gone[i - 1]);
             m_sources[static_cast<std::size_t>(line)].hasRow = false;
         }
-        for (auto const place : added)
+        for (int const place : added)
         {
             AddRow(wanted[static_cast<std::size_t>(place)], place);
         }
@@ -152,7 +152,7 @@ void CRecordingList::ShowWantedRows()
         MakeRowsAnew(std::move(wanted));
     }
     m_filling = outer;
-    if (auto const chosen = ChosenRow(); chosen >= 0)
+    if (int const chosen = ChosenRow(); chosen >= 0)
     {
         EnsureVisible(chosen, FALSE);
     }
@@ -174,8 +174,8 @@ void CRecordingList::MakeRowsAnew(std::vector<int> lines)
     HoldSelection();
     Batch const batch(*this);
     m_touched = true;
-    auto const outer = std::exchange(m_filling, true);
-    for (auto & source : m_sources)
+    bool const outer = std::exchange(m_filling, true);
+    for (Source & source : m_sources)
     {
         source.hasRow = false;
     }
@@ -190,7 +190,7 @@ void CRecordingList::MakeRowsAnew(std::vector<int> lines)
 void CRecordingList::FillRows(Clock::time_point end)
 {
     Batch const batch(*this);
-    auto const outer = std::exchange(m_filling, true);
+    bool const outer = std::exchange(m_filling, true);
     auto const inSight = static_cast<std::size_t>(GetCountPerPage()) + 1;
     while (m_filled < m_wanted.size() && (m_filled < inSight || Clock::now() < end))
     {
@@ -215,11 +215,11 @@ void CRecordingList::ScrollAfterFilling()
     {
         return;
     }
-    if (auto const top = std::exchange(m_wantedTop, -1); top >= 0)
+    if (int const top = std::exchange(m_wantedTop, -1); top >= 0)
     {
         ScrollToLine(top);
     }
-    else if (auto const chosen = ChosenRow(); chosen >= 0 && m_holds)
+    else if (int const chosen = ChosenRow(); chosen >= 0 && m_holds)
     {
         EnsureVisible(chosen, FALSE);
     }
@@ -260,7 +260,7 @@ void CRecordingList::OnTimer(UINT_PTR id)
 std::vector<int> CRecordingList::SelectedLines() const
 {
     std::vector<int> lines;
-    for (auto row = GetNextItem(-1, LVNI_SELECTED); row >= 0; row = GetNextItem(row, LVNI_SELECTED))
+    for (int row = GetNextItem(-1, LVNI_SELECTED); row >= 0; row = GetNextItem(row, LVNI_SELECTED))
     {
         lines.push_back(LineAt(row));
     }
@@ -286,17 +286,17 @@ void CRecordingList::SelectLines(std::vector<int> const & lines, int focused)
     {
         ClearSelection();
     }
-    auto const outer = std::exchange(m_filling, m_filling || !m_wanted.empty());
+    bool const outer = std::exchange(m_filling, m_filling || !m_wanted.empty());
     std::vector<bool> isMeant(static_cast<std::size_t>(GetItemCount()));
-    for (auto const line : lines)
+    for (int const line : lines)
     {
-        if (auto const row = PlaceOf(line); row >= 0)
+        if (int const row = PlaceOf(line); row >= 0)
         {
             isMeant[static_cast<std::size_t>(row)] = true;
         }
     }
     SelectRows(isMeant, true);
-    if (auto const row = PlaceOf(focused); row >= 0)
+    if (int const row = PlaceOf(focused); row >= 0)
     {
         SetItemState(row, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
         EnsureVisible(row, FALSE);
@@ -309,7 +309,7 @@ void CRecordingList::SelectRows(std::vector<bool> const & isMeant, bool othersSt
 {
     Batch const batch(*this);
     m_touched = true;
-    auto const startsWithAll =
+    bool const startsWithAll =
         2 * std::ranges::count(isMeant, true) > std::ssize(isMeant) && (!othersStay || GetSelectedCount() == 0);
     if (startsWithAll || !othersStay)
     {
@@ -327,14 +327,14 @@ void CRecordingList::SelectRows(std::vector<bool> const & isMeant, bool othersSt
 /// Has lines selected in place of all others, as soon as they have rows.
 void CRecordingList::HoldLines(std::vector<int> const & lines, int focused)
 {
-    auto const outer = std::exchange(m_filling, true);
+    bool const outer = std::exchange(m_filling, true);
     ClearSelection();
     m_filling = outer;
-    for (auto & source : m_sources)
+    for (Source & source : m_sources)
     {
         source.isHeld = false;
     }
-    for (auto const line : lines)
+    for (int const line : lines)
     {
         if (line >= 0 && line < LineCount())
         {
@@ -358,12 +358,12 @@ void CRecordingList::RateSelected(int row, int rating)
         return;
     }
     Batch const batch(*this);
-    for (auto const line : SelectedLines())
+    for (int const line : SelectedLines())
     {
-        auto const before = NotesOf(line);
+        Notes const before = NotesOf(line);
         if (PlaceOf(line) != row && before.rating != rating && IsReadable(line))
         {
-            auto after = before;
+            Notes after = before;
             after.rating = rating;
             SetNotes(line, after);
             m_history.Note(line, before, after);
@@ -383,8 +383,8 @@ bool CRecordingList::IsReadable(int line) const
 void CRecordingList::SetNotes(int line, Notes const & notes)
 {
     auto const known = static_cast<std::size_t>(line);
-    auto & source = m_sources[known];
-    auto const former = std::exchange(m_notes[known], notes);
+    Source & source = m_sources[known];
+    workbench::RecordingNotes const former = std::exchange(m_notes[known], notes);
     if (notes.comment != former.comment)
     {
         source.searched = workbench::SearchedText(source.file, notes.comment);
@@ -400,7 +400,7 @@ void CRecordingList::SetNotes(int line, Notes const & notes)
     if (notes.reference != former.reference)
     {
         // Of two folders with a reference each, the second one's is none.
-        auto const taken = notes.reference && IsReadable(line) ? line : -1;
+        int const taken = notes.reference && IsReadable(line) ? line : -1;
         if (taken >= 0 || m_reference == line)
         {
             NoteNews(std::exchange(m_reference, taken), new_reference);
@@ -424,9 +424,9 @@ void CRecordingList::Apply(workbench::ListStep const & step)
         Batch const batch(*this);
         m_touched = true;
         // The reference goes from one line before it comes to another.
-        for (auto const isReference : {false, true})
+        for (bool const isReference : {false, true})
         {
-            for (auto const & change : step.notes)
+            for (workbench::NotesChange const & change : step.notes)
             {
                 if (change.after.reference == isReference && change.line < LineCount())
                 {
@@ -443,7 +443,7 @@ void CRecordingList::Apply(workbench::ListStep const & step)
     }
     if (step.notes.size() == 1)
     {
-        if (auto const row = PlaceOf(step.notes.front().line); row >= 0)
+        if (int const row = PlaceOf(step.notes.front().line); row >= 0)
         {
             EnsureVisible(row, FALSE);
         }
@@ -454,7 +454,7 @@ void CRecordingList::Apply(workbench::ListStep const & step)
 bool CRecordingList::Undo()
 {
     EndEditing();
-    auto const step = m_history.Undo();
+    std::optional<workbench::ListStep> const step = m_history.Undo();
     if (step)
     {
         Apply(*step);
@@ -465,7 +465,7 @@ bool CRecordingList::Undo()
 bool CRecordingList::Redo()
 {
     EndEditing();
-    auto const step = m_history.Redo();
+    std::optional<workbench::ListStep> const step = m_history.Redo();
     if (step)
     {
         Apply(*step);
@@ -493,15 +493,15 @@ void CRecordingList::OnChar(UINT character, UINT, UINT)
     }
     m_typedAt = ::GetTickCount();
     m_typed += workbench::FoldedText(std::wstring(1, static_cast<wchar_t>(character)));
-    auto const lines = ShownLines();
-    auto const again = m_typed.find_first_not_of(m_typed.front()) == m_typed.npos && m_typed.size() > 1;
-    auto const wanted = again ? m_typed.substr(0, 1) : m_typed;
-    auto const count = lines.size();
+    std::vector<int> const lines = ShownLines();
+    bool const again = m_typed.find_first_not_of(m_typed.front()) == m_typed.npos && m_typed.size() > 1;
+    std::wstring const wanted = again ? m_typed.substr(0, 1) : m_typed;
+    std::size_t const count = lines.size();
     auto const place = std::ranges::find(lines, ChosenLine());
     auto const chosen = place != lines.end() ? static_cast<std::size_t>(place - lines.begin()) : 0;
     for (std::size_t i = m_typed.size() == 1 || again ? 1 : 0; count > 0 && i <= count; ++i)
     {
-        auto const line = lines[(chosen + i) % count];
+        int const line = lines[(chosen + i) % count];
         if (m_sources[static_cast<std::size_t>(line)].searched.starts_with(wanted))
         {
             ChooseLine(line);

@@ -48,17 +48,17 @@ void CRecordingList::ShowHeldSelection(int focused)
 int CRecordingList::StayingLineNear(int row, std::vector<int> const & numbers) const
 {
     auto const stays = [&](int place) {
-        auto const line = LineAt(place);
+        int const line = LineAt(place);
         return line >= 0 && numbers[static_cast<std::size_t>(line)] >= 0;
     };
-    for (auto place = row; place < GetItemCount(); ++place)
+    for (int place = row; place < GetItemCount(); ++place)
     {
         if (stays(place))
         {
             return LineAt(place);
         }
     }
-    for (auto place = row; place >= 0; --place)
+    for (int place = row; place >= 0; --place)
     {
         if (stays(place))
         {
@@ -87,13 +87,13 @@ void CRecordingList::Renumber(std::vector<int> const & numbers)
     };
     Batch const batch(*this);
     m_touched = true;
-    auto const outer = std::exchange(m_filling, true);
+    bool const outer = std::exchange(m_filling, true);
     auto const gone = std::ranges::count_if(numbers, [](int number) { return number < 0; });
-    auto const makesAnew = gone > few_gone;
-    auto focused = GetNextItem(-1, LVNI_FOCUSED);
-    auto const nextFocused = makesAnew && focused >= 0 ? StayingLineNear(focused, numbers) : -1;
+    bool const makesAnew = gone > few_gone;
+    int focused = GetNextItem(-1, LVNI_FOCUSED);
+    int const nextFocused = makesAnew && focused >= 0 ? StayingLineNear(focused, numbers) : -1;
     // The system's list view looks at all that are selected whenever a row goes.
-    auto const holds = gone > 0 && (makesAnew || focused >= 0 || GetSelectedCount() > 0);
+    bool const holds = gone > 0 && (makesAnew || focused >= 0 || GetSelectedCount() > 0);
     if (holds)
     {
         HoldSelection();
@@ -102,9 +102,9 @@ void CRecordingList::Renumber(std::vector<int> const & numbers)
             SetItemState(-1, 0, LVIS_SELECTED | LVIS_FOCUSED);
         }
     }
-    for (auto row = makesAnew ? 0 : GetItemCount(); row > 0; --row)
+    for (int row = makesAnew ? 0 : GetItemCount(); row > 0; --row)
     {
-        if (auto const number = numberOf(LineAt(row - 1)); number >= 0)
+        if (int const number = numberOf(LineAt(row - 1)); number >= 0)
         {
             SetItemData(row - 1, number + 1);
         }
@@ -126,7 +126,7 @@ void CRecordingList::Renumber(std::vector<int> const & numbers)
     renumberAll(m_order);
     renumberAll(m_noted);
     m_refreshed = 0;
-    for (auto * const line : {&m_reference, &m_boldLine, &m_menuLine, &m_editedLine, &m_heldFocus, &m_wantedTop})
+    for (int * const line : {&m_reference, &m_boldLine, &m_menuLine, &m_editedLine, &m_heldFocus, &m_wantedTop})
     {
         *line = numberOf(*line);
     }
@@ -151,11 +151,11 @@ void CRecordingList::Renumber(std::vector<int> const & numbers)
 
 void CRecordingList::ScrollToLine(int line)
 {
-    auto const row = PlaceOf(line);
-    auto const isToCome = line >= 0 && line < LineCount() && m_sources[static_cast<std::size_t>(line)].shown;
+    int const row = PlaceOf(line);
+    bool const isToCome = line >= 0 && line < LineCount() && m_sources[static_cast<std::size_t>(line)].shown;
     m_wantedTop = row < 0 && isToCome ? line : -1;
-    auto const top = GetTopIndex();
-    auto const height = EdgeOf(top + 1) - EdgeOf(top);
+    int const top = GetTopIndex();
+    int const height = EdgeOf(top + 1) - EdgeOf(top);
     if (row >= 0 && row != top && height > 0)
     {
         Scroll(CSize(0, (row - top) * height));
@@ -164,6 +164,6 @@ void CRecordingList::ScrollToLine(int line)
 
 bool CRecordingList::IsInSight(int line) const
 {
-    auto const row = PlaceOf(line);
+    int const row = PlaceOf(line);
     return row >= GetTopIndex() && row < GetTopIndex() + GetCountPerPage() && row >= 0;
 }

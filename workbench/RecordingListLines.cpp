@@ -5,23 +5,23 @@
 #include <algorithm>
 #include <utility>
 
-#include "RecordingCells.h"
-#include "RecordingOverview.h"
-#include "StarRating.h"
 #include "colours/ControlColors.h"
 #include "frame/CoreLibrary.h"
 #include "logic/ReadableColours.h"
 #include "logic/RecordingDetails.h"
 #include "logic/TextFormat.h"
 #include "logic/Texts.h"
+#include "RecordingCells.h"
+#include "RecordingOverview.h"
+#include "StarRating.h"
 
 using workbench::ValueText;
 
 namespace
 {
 
-constexpr auto reading_text = workbench::Translatable(L"reading...");
-constexpr auto unread_text = workbench::Translatable(L"not read yet");
+constexpr wchar_t const * reading_text = workbench::Translatable(L"reading...");
+constexpr wchar_t const * unread_text = workbench::Translatable(L"not read yet");
 
 // Places in the image list.
 constexpr int image_ok = 0;
@@ -88,17 +88,17 @@ void CRecordingList::RemoveLines()
 void CRecordingList::AppendFile(std::filesystem::path const & file, Notes const & notes)
 {
     Batch const batch(*this);
-    auto const line = LineCount();
+    int const line = LineCount();
     m_notes.push_back(notes);
     m_places.push_back(-1);
     m_order.push_back(line);
-    auto & source = m_sources.emplace_back();
+    Source & source = m_sources.emplace_back();
     source.file = file;
     source.searched = workbench::SearchedText(file, notes.comment);
     source.shown = Passes(line);
     m_totals.Append(notes.checked);
     // Two folders that are shown together can have one each: the first one counts.
-    auto const isReference = notes.reference && m_reference < 0;
+    bool const isReference = notes.reference && m_reference < 0;
     if (isReference)
     {
         m_reference = line;
@@ -134,7 +134,7 @@ void CRecordingList::AddRow(int line, int row)
     Touch(row);
     source.hasRow = true;
     m_places[static_cast<std::size_t>(line)] = row;
-    auto notes = NotesOf(line);
+    Notes notes = NotesOf(line);
     notes.reference = line == m_reference;
     PrepareRow(row, source.file, notes, WaitingText(source.reading));
     source.isStale = false;
@@ -149,7 +149,7 @@ void CRecordingList::AddRow(int line, int row)
     }
     if (m_holds && (source.isHeld || line == m_heldFocus))
     {
-        auto const state = (source.isHeld ? LVIS_SELECTED : 0) | (line == m_heldFocus ? LVIS_FOCUSED : 0);
+        int const state = (source.isHeld ? LVIS_SELECTED : 0) | (line == m_heldFocus ? LVIS_FOCUSED : 0);
         SetItemState(row, static_cast<UINT>(state), static_cast<UINT>(state));
     }
 }
@@ -165,8 +165,8 @@ void CRecordingList::ShowReading(int line, std::filesystem::path const & file)
     source.analysis = nullptr;
     source.reading = true;
     {
-        auto const row = PlaceOf(line);
-        auto notes = NotesOf(line);
+        int const row = PlaceOf(line);
+        Notes notes = NotesOf(line);
         m_totals.SetState(static_cast<std::size_t>(line), workbench::RecordingTotals::State::unread, 0);
         // A recording that could not be read may be one again.
         m_totals.SetChecked(static_cast<std::size_t>(line), notes.checked);
@@ -200,7 +200,7 @@ void CRecordingList::Rename(int line, std::filesystem::path const & file)
     auto & source = m_sources[static_cast<std::size_t>(line)];
     source.file = file;
     source.searched = workbench::SearchedText(file, NotesOf(line).comment);
-    if (auto const row = PlaceOf(line); row >= 0)
+    if (int const row = PlaceOf(line); row >= 0)
     {
         auto const name = file.filename().wstring();
         SetItemText(row, column_name, name.c_str());
@@ -259,7 +259,7 @@ void CRecordingList::ShowAnalysis(int line, std::shared_ptr<workbench::Recording
     auto & source = m_sources[static_cast<std::size_t>(line)];
     source.analysis = analysis;
     source.reading = false;
-    if (auto const row = PlaceOf(line); row >= 0)
+    if (int const row = PlaceOf(line); row >= 0)
     {
         Touch(row);
         FillRow(row, analysis);
@@ -296,7 +296,7 @@ void CRecordingList::ShowDate(int row, workbench::RecordingAnalysis const & anal
     if (analysis.file.lastWrite)
     {
         CTime const time(*analysis.file.lastWrite);
-        auto const text = UserDateTimeText(time, dtf_date_time_without_seconds);
+        CString const text = UserDateTimeText(time, dtf_date_time_without_seconds);
         SetItemText(row, column_date, text);
         SetItemDatetime(row, column_date, time);
         Require(column_date, WidthOfValue(text.GetString()));
@@ -305,8 +305,8 @@ void CRecordingList::ShowDate(int row, workbench::RecordingAnalysis const & anal
 
 void CRecordingList::ShowStatus(int row, workbench::RecordingAnalysis const & analysis)
 {
-    auto const damaged = analysis.info.IsCutOff() || analysis.invalidSamples > 0;
-    auto const status = analysis.StatusText();
+    bool const damaged = analysis.info.IsCutOff() || analysis.invalidSamples > 0;
+    std::wstring const status = analysis.StatusText();
     SetItemText(row, column_status, status.c_str());
     SetItemImage(row, column_status, analysis.problem ? image_unreadable : damaged ? image_damaged : image_ok);
     Require(column_status, WidthOfValue(status) + m_metrics->Scaled(image_room));
@@ -315,32 +315,32 @@ void CRecordingList::ShowStatus(int row, workbench::RecordingAnalysis const & an
 /// The values in the form that the user's region gives them.
 void CRecordingList::ShowNumbers(int row, workbench::RecordingAnalysis const & analysis)
 {
-    auto const & info = analysis.info;
-    auto const duration = AtRightEdge(ValueText(column_duration, analysis));
-    auto const milliseconds = workbench::DurationMilliseconds(info.frames, info.sampleRate);
+    workbench::RecordingInfo const & info = analysis.info;
+    std::wstring const duration = AtRightEdge(ValueText(column_duration, analysis));
+    std::uint64_t const milliseconds = workbench::DurationMilliseconds(info.frames, info.sampleRate);
     SetItemFloatVal(row, column_duration, static_cast<float>(milliseconds) / 1000.0F, duration.c_str());
     Require(column_duration, WidthOfValue(duration));
     SetItemText(row, column_channels, static_cast<int>(info.channels));
     // Beyond the largest int, too; a number that size is sorted by well enough as a float.
-    auto const rate = ValueText(column_rate, analysis);
+    std::wstring const rate = ValueText(column_rate, analysis);
     SetItemFloatVal(row, column_rate, static_cast<float>(info.sampleRate), rate.c_str());
     Require(column_rate, WidthOfValue(rate));
 
     // The bar's text is made with a whole number; to show tenths, the finished text is its format.
-    auto const peak = ValueText(column_peak, analysis);
+    std::wstring const peak = ValueText(column_peak, analysis);
     SetProgress(row, column_peak, true, peak.c_str());
     SetItemFloatVal(row, column_peak, static_cast<float>(analysis.levels.peak), peak.c_str());
     SetItemColors(row, column_peak, workbench::ReadableColour(::GetSysColor(COLOR_WINDOWTEXT), empty_bar_colour),
                   analysis.levels.peak > 0.0 ? clipped_colour : bar_colour, XLISTCTRLDATA::no_gradient);
     UpdateProgress(row, column_peak, std::max(workbench::LevelBarPercent(analysis.levels.peak), least_bar_percent), 0);
 
-    auto const rms = AtRightEdge(ValueText(column_rms, analysis));
+    std::wstring const rms = AtRightEdge(ValueText(column_rms, analysis));
     SetItemFloatVal(row, column_rms, static_cast<float>(analysis.levels.rms), rms.c_str());
     Require(column_rms, WidthOfValue(rms));
 
-    for (auto const column : {column_crest, column_loudness, column_frequency, column_distortion})
+    for (Column const column : {column_crest, column_loudness, column_frequency, column_distortion})
     {
-        auto const text = AtRightEdge(ValueText(column, analysis));
+        std::wstring const text = AtRightEdge(ValueText(column, analysis));
         SetItemText(row, column, text.c_str());
         Require(column, WidthOfValue(text));
     }
@@ -371,14 +371,14 @@ void CRecordingList::MarkValues(int row, workbench::RecordingAnalysis const & an
 
 void CRecordingList::GreyOut(int row)
 {
-    auto const colors = control_colors::Of(m_hWnd);
+    ControlColors const colors = control_colors::Of(m_hWnd);
     SetRowColors(row, workbench::ReadableColour(colors.disabled, colors.window), colors.window);
 }
 
 void CRecordingList::MarkValue(int row, Column column)
 {
     // On a dark window the wash is dark as well, so that the text is read on all of it.
-    auto const colors = control_colors::Of(m_hWnd);
+    ControlColors const colors = control_colors::Of(m_hWnd);
     SetItemColors(row, column, colors.windowText, colors.window,
                   workbench::ReadableColour(damaged_colour, colors.windowText));
 }
@@ -402,16 +402,16 @@ void CRecordingList::ShowProblem(int row, workbench::RecordingAnalysis const & a
     SetItemText(row, column_rating, L"");
     SetEdit(row, column_comment, false);
     GreyOut(row);
-    auto const tip = GetItemToolTipText(row, column_name) + L": " + analysis.StatusText().c_str();
+    CString const tip = GetItemToolTipText(row, column_name) + L": " + analysis.StatusText().c_str();
     SetItemToolTipText(row, column_name, tip);
 }
 
 void CRecordingList::DrawOverview(int row, CDC & dc, CRect const & rect, CRecordingOverview & overview)
 {
-    auto text = m_colours.windowText;
-    auto background = m_colours.window;
+    COLORREF text = m_colours.windowText;
+    COLORREF background = m_colours.window;
     GetDrawColors(row, column_overview, text, background);
-    auto const colour = m_colours.adapts ? control_colors::MarkOn(background, bar_colour, text) : bar_colour;
+    COLORREF const colour = m_colours.adapts ? control_colors::MarkOn(background, bar_colour, text) : bar_colour;
     overview.Draw(dc, rect, colour, background);
 }
 

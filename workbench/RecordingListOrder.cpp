@@ -46,7 +46,7 @@ int CRecordingList::PlaceOf(int line) const
         m_places.assign(m_notes.size(), -1);
         for (int row = 0; row < GetItemCount(); ++row)
         {
-            auto const other = LineAt(row);
+            int const other = LineAt(row);
             if (other >= 0 && other < LineCount())
             {
                 m_places[static_cast<std::size_t>(other)] = row;
@@ -82,7 +82,7 @@ void CRecordingList::SortLines(Column column, bool ascending)
     {
         keys.push_back(ranks.empty() ? KeyOf(line, column) : SortKey{false, ranks[static_cast<std::size_t>(line)]});
     }
-    auto const rows = LinesWithRows();
+    std::vector<int> const rows = LinesWithRows();
     std::ranges::stable_sort(m_order, [&keys, ascending](int a, int b) {
         auto const & keyA = keys[static_cast<std::size_t>(a)];
         auto const & keyB = keys[static_cast<std::size_t>(b)];
@@ -115,7 +115,7 @@ void CRecordingList::ArrangeRows(std::vector<int> rows, int column)
         MakeRowsAnew(ShownLines());
         rows = LinesWithRows();
     }
-    auto const lines = LinesWithRows();
+    std::vector<int> const lines = LinesWithRows();
     std::vector<int> places(m_sources.size(), -1);
     for (std::size_t i = 0; i < lines.size(); ++i)
     {
@@ -133,7 +133,7 @@ void CRecordingList::ArrangeRows(std::vector<int> rows, int column)
     FitColumns();
     // It goes with the marks of the other columns.
     ShowHeaderCheck();
-    if (auto const chosen = ChosenRow(); chosen >= 0)
+    if (int const chosen = ChosenRow(); chosen >= 0)
     {
         EnsureVisible(chosen, FALSE);
     }
@@ -142,7 +142,7 @@ void CRecordingList::ArrangeRows(std::vector<int> rows, int column)
 void CRecordingList::SetOrder(workbench::ListOrder const & order)
 {
     EndEditing();
-    auto const rows = LinesWithRows();
+    std::vector<int> const rows = LinesWithRows();
     std::vector<bool> isNamed(m_sources.size());
     std::vector<int> lines;
     auto const take = [&](int line) {
@@ -179,7 +179,7 @@ std::wstring CRecordingList::SortedText(int line, int column) const
 /// that differ in the case of letters alone.
 std::vector<double> CRecordingList::RanksOfTexts(int column) const
 {
-    auto const count = m_sources.size();
+    std::size_t const count = m_sources.size();
     std::vector<std::string> keys(count);
     constexpr DWORD flags = LCMAP_SORTKEY | NORM_IGNORECASE;
     for (std::size_t line = 0; line < count; ++line)
@@ -190,8 +190,8 @@ std::vector<double> CRecordingList::RanksOfTexts(int column) const
         {
             continue;
         }
-        auto & key = keys[line];
-        auto const size = ::LCMapStringW(LOCALE_USER_DEFAULT, flags, text.data(), length, nullptr, 0);
+        std::string & key = keys[line];
+        int const size = ::LCMapStringW(LOCALE_USER_DEFAULT, flags, text.data(), length, nullptr, 0);
         key.resize(static_cast<std::size_t>(std::max(size, 0)));
         ::LCMapStringW(LOCALE_USER_DEFAULT, flags, text.data(), length, reinterpret_cast<wchar_t *>(key.data()), size);
     }
@@ -199,7 +199,7 @@ std::vector<double> CRecordingList::RanksOfTexts(int column) const
     std::iota(order.begin(), order.end(), std::size_t(0));
     std::ranges::sort(order, {}, [&keys](std::size_t line) -> std::string const & { return keys[line]; });
     std::vector<double> ranks(count);
-    auto rank = 0.0;
+    double rank = 0.0;
     for (std::size_t i = 1; i < count; ++i)
     {
         rank += keys[order[i]] != keys[order[i - 1]] ? 1.0 : 0.0;
@@ -230,7 +230,7 @@ CRecordingList::SortKey CRecordingList::KeyOf(int line, int column) const
     if (column == column_date)
     {
         // It is known of a file that cannot be read, too.
-        auto const isKnown = analysis && analysis->file.lastWrite;
+        bool const isKnown = analysis && analysis->file.lastWrite;
         return {!isKnown, isKnown ? static_cast<double>(*analysis->file.lastWrite) : 0.0};
     }
     if (!analysis || analysis->problem)
@@ -273,7 +273,7 @@ CRecordingList::SortKey CRecordingList::KeyOf(int line, int column) const
 /// The list's own work comes last, for it tells the parent.
 void CRecordingList::SortByUser(Column column)
 {
-    auto before = Order();
+    workbench::ListOrder before = Order();
     SortLines(column, column != m_sortedColumn || !m_ascending);
     m_history.NoteOrder(std::move(before), Order());
     Tell(changed_order);

@@ -17,7 +17,7 @@ constexpr std::ptrdiff_t few_rows = 200; // that are shown anew at once
 void CRecordingList::RefreshLines()
 {
     EndEditing();
-    for (auto & source : m_sources)
+    for (Source & source : m_sources)
     {
         source.isStale = source.hasRow;
     }
@@ -29,8 +29,8 @@ void CRecordingList::RefreshLines()
 void CRecordingList::RefreshRows(Clock::time_point end)
 {
     Batch const batch(*this);
-    auto const mayRefresh = !IsEditing();
-    auto waits = false;
+    bool const mayRefresh = !IsEditing();
+    bool waits = false;
     // Whether it had something to show.
     auto const refresh = [&](int line) {
         if (line < 0 || line >= LineCount())
@@ -38,9 +38,9 @@ void CRecordingList::RefreshRows(Clock::time_point end)
             return false;
         }
         auto & source = m_sources[static_cast<std::size_t>(line)];
-        auto const shows = source.newNotes != 0 || (source.isStale && mayRefresh);
+        bool const shows = source.newNotes != 0 || (source.isStale && mayRefresh);
         waits = waits || (source.isStale && !mayRefresh);
-        if (auto const row = shows ? PlaceOf(line) : -1; row >= 0)
+        if (int const row = shows ? PlaceOf(line) : -1; row >= 0)
         {
             ShowNewNotes(row, line);
             if (mayRefresh && source.isStale)
@@ -52,8 +52,8 @@ void CRecordingList::RefreshRows(Clock::time_point end)
         source.isStale = source.isStale && !mayRefresh;
         return shows;
     };
-    auto const top = GetTopIndex();
-    for (auto row = top; row <= top + GetCountPerPage(); ++row)
+    int const top = GetTopIndex();
+    for (int row = top; row <= top + GetCountPerPage(); ++row)
     {
         m_touched = refresh(LineAt(row)) || m_touched;
     }
@@ -91,7 +91,7 @@ void CRecordingList::ShowNewNotes(int row, int line)
     {
         return;
     }
-    auto const news = std::exchange(m_sources[static_cast<std::size_t>(line)].newNotes, 0U);
+    unsigned int const news = std::exchange(m_sources[static_cast<std::size_t>(line)].newNotes, 0U);
     auto const & notes = m_notes[static_cast<std::size_t>(line)];
     if ((news & new_mark) != 0)
     {

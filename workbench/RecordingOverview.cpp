@@ -21,7 +21,7 @@ CRecordingOverview::CRecordingOverview(std::shared_ptr<workbench::RecordingAnaly
 void CRecordingOverview::Draw(CDC & dc, CRect const & rect, COLORREF wave, COLORREF background)
 {
     dc.FillSolidRect(rect, background);
-    auto plot = rect;
+    CRect plot = rect;
     plot.DeflateRect(::MulDiv(margin_x, m_dotsPerInch, USER_DEFAULT_SCREEN_DPI),
                      ::MulDiv(margin_y, m_dotsPerInch, USER_DEFAULT_SCREEN_DPI));
     if (plot.Width() <= 0 || plot.Height() <= 0)
@@ -34,7 +34,7 @@ void CRecordingOverview::Draw(CDC & dc, CRect const & rect, COLORREF wave, COLOR
         m_columns.assign(width, {});
         for (std::size_t lane = 0; lane < m_analysis->waveform.Lanes(); ++lane)
         {
-            auto const columns = m_analysis->waveform.Columns(lane, width);
+            std::vector<workbench::MinMax> const columns = m_analysis->waveform.Columns(lane, width);
             for (std::size_t i = 0; i < width; ++i)
             {
                 m_columns[i].least = std::min(m_columns[i].least, columns[i].least);
@@ -42,15 +42,15 @@ void CRecordingOverview::Draw(CDC & dc, CRect const & rect, COLORREF wave, COLOR
             }
         }
     }
-    auto const centre = (plot.top + plot.bottom) / 2;
+    long const centre = (plot.top + plot.bottom) / 2;
     auto const height = static_cast<float>(std::min(centre - plot.top, plot.bottom - 1 - centre));
     auto const offset = [height](float amplitude) {
         return static_cast<int>(std::lround(std::clamp(amplitude, -1.0F, 1.0F) * height));
     };
     for (std::size_t i = 0; i < width; ++i)
     {
-        auto const top = centre - offset(m_columns[i].greatest);
-        auto const bottom = centre - offset(m_columns[i].least);
+        long const top = centre - offset(m_columns[i].greatest);
+        long const bottom = centre - offset(m_columns[i].least);
         dc.FillSolidRect(plot.left + static_cast<int>(i), top, 1, bottom - top + 1, wave);
     }
 }

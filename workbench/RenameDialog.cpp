@@ -28,7 +28,7 @@ BOOL CRenameDialog::OnInitDialog()
 {
     CDialog3d::OnInitDialog();
     D3dLayoutChild(IDC_NEW_NAME, CEdges::TOP_LEFT_RIGHT(), nullptr);
-    for (auto const id : {IDOK, IDCANCEL})
+    for (int const id : {IDOK, IDCANCEL})
     {
         D3dLayoutChild(id, CEdges::BOTTOM_RIGHT(), nullptr);
     }

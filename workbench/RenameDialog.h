@@ -2,8 +2,8 @@
 
 #include <filesystem>
 
-#include "Settings.h"
 #include "dialogs/Dialog3d.h"
+#include "Settings.h"
 
 /// Asks for another name for a recording's file.
 class CRenameDialog : public CDialog3d

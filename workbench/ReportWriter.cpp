@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <utility>
 
-#include "PictureCopy.h"
 #include "colours/Farbtabellen.h"
 #include "frame/CoreLibrary.h"
 #include "logic/Texts.h"
+#include "PictureCopy.h"
 
 using workbench::Text;
 
@@ -133,7 +133,7 @@ void CReportWriter::OnTimer(UINT_PTR id)
 /// Begins with a recording: its spectrogram is computed while its waveform is drawn.
 void CReportWriter::ShowNext()
 {
-    auto const & recording = m_recordings[m_place];
+    workbench::ReportedRecording const & recording = m_recordings[m_place];
     m_isShown = true;
     m_pictures.clear();
     if (!recording.analysis || recording.analysis->problem)
@@ -150,7 +150,7 @@ void CReportWriter::ShowNext()
 
 void CReportWriter::FinishRecording()
 {
-    auto const & recording = m_recordings[m_place];
+    workbench::ReportedRecording const & recording = m_recordings[m_place];
     if (!m_pictures.empty())
     {
         CSize const size(m_metrics->X(picture_width), m_metrics->Y(spectrogram_height));

@@ -9,12 +9,12 @@
 #include <string>
 #include <vector>
 
+#include "logic/Report.h"
+#include "logic/SafeFile.h"
 #include "ScreenMetrics.h"
 #include "Settings.h"
 #include "SpectrogramView.h"
 #include "WaveformView.h"
-#include "logic/Report.h"
-#include "logic/SafeFile.h"
 
 /// Writes a report about recordings while the user works on: an invisible window whose timer draws one picture at a
 /// time, and whose spectrograms are computed on a thread.

@@ -29,8 +29,8 @@ ScreenMetrics::ScreenMetrics(int dotsPerInch)
         dotsPerInch = usualResolution;
     }
     CDC dc;
-    auto const onScreen = dc.CreateCompatibleDC(nullptr) != FALSE;
-    auto const screenResolution = onScreen ? dc.GetDeviceCaps(LOGPIXELSY) : USER_DEFAULT_SCREEN_DPI;
+    bool const onScreen = dc.CreateCompatibleDC(nullptr) != FALSE;
+    int const screenResolution = onScreen ? dc.GetDeviceCaps(LOGPIXELSY) : USER_DEFAULT_SCREEN_DPI;
     m_dotsPerInch = dotsPerInch > 0 ? dotsPerInch : screenResolution;
 
     NONCLIENTMETRICSW metrics{};
@@ -39,17 +39,17 @@ ScreenMetrics::ScreenMetrics(int dotsPerInch)
     {
         ::GetObjectW(::GetStockObject(DEFAULT_GUI_FONT), sizeof(metrics.lfMessageFont), &metrics.lfMessageFont);
     }
-    auto & height = metrics.lfMessageFont.lfHeight;
+    LONG & height = metrics.lfMessageFont.lfHeight;
     height = ::MulDiv(height, m_dotsPerInch, screenResolution);
     VERIFY(m_font.CreateFontIndirect(&metrics.lfMessageFont));
-    auto bold = metrics.lfMessageFont;
+    LOGFONTW bold = metrics.lfMessageFont;
     bold.lfWeight = FW_BOLD;
     VERIFY(m_boldFont.CreateFontIndirect(&bold));
 
     if (onScreen)
     {
         FontScope const font(dc, m_font);
-        auto const extent = dc.GetTextExtent(alphabet, alphabet_length);
+        CSize const extent = dc.GetTextExtent(alphabet, alphabet_length);
         TEXTMETRIC text{};
         dc.GetTextMetrics(&text);
         m_averageWidth = (extent.cx + alphabet_length / 2) / alphabet_length;

@@ -96,7 +96,7 @@ int Settings::DotsPerInch() const
 
 Settings ReadSettings()
 {
-    auto & app = *AfxGetApp();
+    CWinApp & app = *AfxGetApp();
     Settings settings;
     settings.fadeIn = app.GetProfileInt(section, fade_in, settings.fadeIn) != 0;
     settings.dragByBackground = app.GetProfileInt(section, drag_by_background, settings.dragByBackground) != 0;
@@ -107,7 +107,7 @@ Settings ReadSettings()
     SpectrogramSettings const stored{
         app.GetProfileInt(section, spectrogram_window, 0),
         static_cast<int>(app.GetProfileInt(section, spectrogram_overlap, settings.spectrogram.overlap))};
-    auto const checked = CheckedSpectrogramSettings(stored, 0);
+    SpectrogramSettings const checked = CheckedSpectrogramSettings(stored, 0);
     settings.spectrogram = {checked.window == stored.window ? stored.window : 0, checked.overlap};
     settings.frequencyScale =
         ReadNumber(frequency_scale, 0, 1, 0) == 1 ? FrequencyScale::logarithmic : FrequencyScale::linear;
@@ -129,13 +129,13 @@ Settings ReadSettings()
     settings.amplification =
         CheckedAmplification(static_cast<int>(app.GetProfileInt(section, amplification_entry, settings.amplification)));
     settings.hiddenColumns = NumbersOf(ReadText(hidden_columns), most_columns);
-    for (auto column = ReadNumber(known_columns, 0, most_columns, Settings::first_later_column);
+    for (int column = ReadNumber(known_columns, 0, most_columns, Settings::first_later_column);
          column < Settings::columns; ++column)
     {
         settings.hiddenColumns.insert(column);
     }
     settings.lastTargets = FoldersOf(ReadText(last_targets));
-    if (auto const shown = ReadNumber(folder_pane, 0, 1, -1); shown >= 0)
+    if (int const shown = ReadNumber(folder_pane, 0, 1, -1); shown >= 0)
     {
         settings.folderPane = shown != 0;
     }
@@ -155,7 +155,7 @@ Settings ReadSettings()
 
 bool StoreSettings(Settings const & settings)
 {
-    auto & app = *AfxGetApp();
+    CWinApp & app = *AfxGetApp();
     return app.WriteProfileInt(section, fade_in, settings.fadeIn) &&
            app.WriteProfileInt(section, drag_by_background, settings.dragByBackground) &&
            app.WriteProfileInt(section, inactive_opacity, settings.inactiveOpacity) &&
@@ -183,7 +183,7 @@ bool StoreSettings(Settings const & settings)
 
 bool StoreFolderPane(Settings const & settings)
 {
-    auto & app = *AfxGetApp();
+    CWinApp & app = *AfxGetApp();
     return app.WriteProfileInt(section, folder_pane, settings.folderPane ? *settings.folderPane : -1) &&
            app.WriteProfileInt(section, folder_pane_width, settings.folderPaneWidth);
 }
@@ -243,13 +243,13 @@ std::map<int, int> ReadColumnWidths(int averageWidth)
     constexpr int greatest = 10'000; // pixels
     std::map<int, int> widths;
     std::wistringstream stream(AfxGetApp()->GetProfileString(section, column_widths).GetString());
-    auto storedFor = 0;
+    int storedFor = 0;
     if (!(stream >> storedFor) || storedFor <= 0)
     {
         return widths;
     }
-    auto column = 0;
-    auto width = 0;
+    int column = 0;
+    int width = 0;
     for (wchar_t colon = 0; stream >> column >> colon >> width && colon == L':';)
     {
         if (column >= 0 && width >= 0 && width <= greatest)
@@ -262,7 +262,7 @@ std::map<int, int> ReadColumnWidths(int averageWidth)
 
 bool StoreColumnWidths(std::map<int, int> const & widths, int averageWidth)
 {
-    auto text = std::to_wstring(averageWidth);
+    std::wstring text = std::to_wstring(averageWidth);
     for (auto const & [column, width] : widths)
     {
         text += L' ' + std::to_wstring(column) + L':' + std::to_wstring(width);
@@ -282,7 +282,7 @@ bool StoreColumnOrder(std::vector<int> const & order)
 
 std::filesystem::path NotesFile()
 {
-    auto const & app = *AfxGetApp();
+    CWinApp const & app = *AfxGetApp();
     std::filesystem::path const profile(
         app.m_pszRegistryKey == nullptr && app.m_pszProfileName != nullptr ? app.m_pszProfileName : L"");
     if (profile.is_absolute())

@@ -36,13 +36,14 @@ CString Message(wchar_t const * text, std::filesystem::path const & file)
 
 SettingsFileResult ExportSettings(CWnd & owner)
 {
-    auto const folder = ChooseFolder(owner, Text(L"Choose the folder for the settings file:"));
+    std::optional<std::filesystem::path> const folder =
+        ChooseFolder(owner, Text(L"Choose the folder for the settings file:"));
     if (!folder)
     {
         return SettingsFileResult::given_up;
     }
-    auto const files = registry_settings::settings_files(*folder);
-    auto tree = ApplicationTree();
+    registry_settings::settings_file_names const files = registry_settings::settings_files(*folder);
+    registry_settings::RegistrySettingsTree tree = ApplicationTree();
     if (!registry_settings::export_registry_settings(tree, files))
     {
         AfxMessageBox(WriteFailureText(Text(L"The settings could not be written to this file:"), files.saved,
@@ -57,12 +58,13 @@ SettingsFileResult ExportSettings(CWnd & owner)
 
 SettingsFileResult ImportSettings(CWnd & owner)
 {
-    auto const folder = ChooseFolder(owner, Text(L"Choose the folder that has the settings file:"));
+    std::optional<std::filesystem::path> const folder =
+        ChooseFolder(owner, Text(L"Choose the folder that has the settings file:"));
     if (!folder)
     {
         return SettingsFileResult::given_up;
     }
-    auto const files = registry_settings::settings_files(*folder);
+    registry_settings::settings_file_names const files = registry_settings::settings_files(*folder);
     std::error_code error;
     if (!std::filesystem::exists(files.plain, error))
     {
@@ -79,14 +81,14 @@ SettingsFileResult ImportSettings(CWnd & owner)
         }
         std::filesystem::rename(files.saved, files.plain, error);
     }
-    auto tree = ApplicationTree();
+    registry_settings::RegistrySettingsTree tree = ApplicationTree();
     if (registry_settings::import_registry_settings(tree, files))
     {
         AfxMessageBox(Text(L"The settings are those of the file now."), MB_ICONINFORMATION);
         return SettingsFileResult::done;
     }
     // The file has its new name once it has been read, so then it was the registry that refused.
-    auto const read = !std::filesystem::exists(files.plain, error);
+    bool const read = !std::filesystem::exists(files.plain, error);
     AfxMessageBox(Message(read ? Text(L"Only a part of the settings could be taken from this file:")
                                : Text(L"This is no settings file, or it cannot be read:"),
                           read ? files.restored : files.plain),

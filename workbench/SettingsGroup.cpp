@@ -3,9 +3,9 @@
 #include <uxtheme.h>
 
 #include "BrowseKey.h"
-#include "TemplateTexts.h"
 #include "dialogs/Dialog3d.h"
 #include "logic/ReadableColours.h"
+#include "TemplateTexts.h"
 
 CSettingsGroup::CSettingsGroup(UINT templateId)
     : CPropertyPage3d(CDialog3d::NO_DLL, templateId, 0U),
@@ -80,7 +80,7 @@ BOOL CSettingsGroup::OnApply()
     {
         return TRUE;
     }
-    auto settings = m_current();
+    workbench::Settings settings = m_current();
     if (!Take(settings))
     {
         return FALSE;
@@ -93,11 +93,11 @@ BOOL CSettingsGroup::OnApply()
 /// Leaves the keys to the sheet, but for those that press a button of the page's or open its drop-downs.
 BOOL CSettingsGroup::PreTranslateMessage(MSG * message)
 {
-    auto * const focus = GetFocus();
+    CWnd * const focus = GetFocus();
     if (message->message == WM_KEYDOWN && message->wParam == VK_RETURN && focus != nullptr && IsChild(focus) &&
         (focus->SendMessage(WM_GETDLGCODE) & DLGC_BUTTON) != 0)
     {
-        auto const style = focus->GetStyle() & BS_TYPEMASK;
+        unsigned long const style = focus->GetStyle() & BS_TYPEMASK;
         if (style == BS_PUSHBUTTON || style == BS_DEFPUSHBUTTON || style == BS_OWNERDRAW)
         {
             focus->PostMessage(BM_CLICK);

@@ -2,8 +2,8 @@
 
 #include <functional>
 
-#include "Settings.h"
 #include "dialogs/PropertyPage3d.h"
+#include "Settings.h"
 
 /// The base of the groups that the settings consist of. Each is a page with a dialog template of its own, and knows
 /// nothing of the others nor of the sheet that it stands in.

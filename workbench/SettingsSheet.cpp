@@ -2,8 +2,8 @@
 
 #include <uxtheme.h>
 
-#include "WorkbenchDialog.h"
 #include "logic/Texts.h"
+#include "WorkbenchDialog.h"
 
 using workbench::Settings;
 using workbench::Text;
@@ -24,7 +24,7 @@ END_MESSAGE_MAP()
 CSettingsSheet::CSettingsSheet() : CPropertySheet3d(L"Settings", nullptr, 0)
 {
     SetResizable(true);
-    for (auto * const group : Groups())
+    for (CSettingsGroup * const group : Groups())
     {
         group->m_current = [this] { return m_current ? m_current() : Settings(); };
         group->m_onAccepted = [this](Settings const & settings) {
@@ -45,10 +45,10 @@ std::array<CSettingsGroup *, 5> CSettingsSheet::Groups()
 
 bool CSettingsSheet::Open(CWnd & owner)
 {
-    auto const opens = !IsOpen();
+    bool const opens = !IsOpen();
     if (opens)
     {
-        auto const page = workbench::ReadSettingsPage();
+        int const page = workbench::ReadSettingsPage();
         SetActivePage(page < GetPageCount() ? page : 0);
     }
     if (DisplayDialog(&owner) == 0)
@@ -69,7 +69,7 @@ bool CSettingsSheet::Open(CWnd & owner)
 
 BOOL CSettingsSheet::OnInitDialog()
 {
-    auto const result = CPropertySheet3d::OnInitDialog();
+    BOOL const result = CPropertySheet3d::OnInitDialog();
     ShowOwnTexts();
     // Visual styles are made for a light ground.
     if (CSettingsGroup::HasDarkGround())
@@ -95,10 +95,10 @@ void CSettingsSheet::ShowTexts()
         return;
     }
     ShowOwnTexts();
-    auto index = 0;
-    for (auto * const group : Groups())
+    int index = 0;
+    for (CSettingsGroup * const group : Groups())
     {
-        auto caption = group->Caption();
+        CString caption = group->Caption();
         TCITEM item{};
         item.mask = TCIF_TEXT;
         item.pszText = caption.GetBuffer();
@@ -133,7 +133,7 @@ void CSettingsSheet::StretchTabs()
 /// The button that applies is disabled then and loses the focus; without one, no key would be heard any more.
 LRESULT CSettingsSheet::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
-    auto const result = CPropertySheet3d::WindowProc(message, wParam, lParam);
+    LRESULT const result = CPropertySheet3d::WindowProc(message, wParam, lParam);
     if (message == WM_COMMAND && LOWORD(wParam) == ID_APPLY_NOW && m_hWnd != nullptr)
     {
         HWND const focus = ::GetFocus();

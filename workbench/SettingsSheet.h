@@ -4,12 +4,12 @@
 #include <functional>
 #include <vector>
 
+#include "dialogs/PropertySheet3d.h"
 #include "DialogsGroup.h"
 #include "ListGroup.h"
 #include "SpectrogramGroup.h"
 #include "StartGroup.h"
 #include "WaveformGroup.h"
-#include "dialogs/PropertySheet3d.h"
 
 /// Lets the user change the settings, on a page for each group. Apply hands over what was changed, OK also closes the
 /// sheet.

@@ -74,11 +74,11 @@ void CSpectrogramGroup::ShowTexts()
 
 void CSpectrogramGroup::FillBoxes()
 {
-    for (auto const window : windows)
+    for (std::size_t const window : windows)
     {
         m_window.AddString(window == 0 ? Text(L"By the sample rate") : std::to_wstring(window).c_str());
     }
-    for (auto const overlap : overlaps)
+    for (int const overlap : overlaps)
     {
         m_overlap.AddString((std::to_wstring(overlap) + L" %").c_str());
     }

@@ -4,12 +4,12 @@
 #include <cmath>
 
 #include "DrawingScopes.h"
-#include "PlotKeys.h"
-#include "PlotParts.h"
 #include "logic/Axis.h"
 #include "logic/NumberSigns.h"
 #include "logic/TextFormat.h"
 #include "logic/Texts.h"
+#include "PlotKeys.h"
+#include "PlotParts.h"
 
 using workbench::DrawPlotLabel;
 using workbench::DrawPlotText;
@@ -116,10 +116,10 @@ void CSpectrogramView::StartJob(std::optional<workbench::FrameRange> const & str
 /// What there is for the part shown: the finer one where it reaches.
 workbench::Spectrogram const & CSpectrogramView::Shown() const
 {
-    auto const shown = m_marks.window.Shown();
+    workbench::FrameRange const shown = m_marks.window.Shown();
     if (m_finer && !m_marks.window.ShowsAll())
     {
-        auto const stretch = m_finer->spectrogram.Stretch();
+        workbench::FrameRange const stretch = m_finer->spectrogram.Stretch();
         if (stretch.first <= shown.first && shown.end <= stretch.end)
         {
             return m_finer->spectrogram;
@@ -135,7 +135,7 @@ bool CSpectrogramView::NeedsFiner() const
     {
         return false;
     }
-    auto const & best = Shown();
+    workbench::Spectrogram const & best = Shown();
     // Half as much again is not worth it.
     return best.IsCondensed() && best.Frames() > 2 * m_marks.window.Shown().Length();
 }
@@ -211,7 +211,7 @@ LRESULT CSpectrogramView::OnComputed(WPARAM, LPARAM)
     {
         return 0;
     }
-    auto const stretch = m_jobStretch;
+    std::optional<workbench::FrameRange> const stretch = m_jobStretch;
     EndJob();
     m_picture.clear();
     Invalidate(FALSE);
@@ -253,8 +253,8 @@ void CSpectrogramView::OnTimer(UINT_PTR timer)
         if (NeedsFiner() && !computesAll)
         {
             // As much again on both sides, so that a little scrolling shows it, too.
-            auto const shown = m_marks.window.Shown();
-            auto const around = shown.Length() / 2;
+            workbench::FrameRange const shown = m_marks.window.Shown();
+            std::size_t const around = shown.Length() / 2;
             StartJob(workbench::FrameRange{shown.first - std::min(shown.first, around), shown.end + around});
         }
     }
@@ -287,7 +287,7 @@ void CSpectrogramView::PlaceProgress()
     CRect client;
     GetClientRect(&client);
     auto const width = std::min<int>(m_metrics->X(120), client.Width() - m_metrics->X(20));
-    auto const top = MessageTop(client) + 2 * m_metrics->LineHeight() + m_metrics->Y(10);
+    int const top = MessageTop(client) + 2 * m_metrics->LineHeight() + m_metrics->Y(10);
     m_progress.MoveWindow(client.CenterPoint().x - width / 2, top, std::max(width, 0), m_metrics->Y(6));
 }
 
@@ -306,13 +306,13 @@ void CSpectrogramView::Draw(CDC & dc, CRect const & rect)
         DrawMessage(dc, rect);
         return;
     }
-    auto area = rect;
+    CRect area = rect;
     area.DeflateRect(m_metrics->X(6), m_metrics->Y(5));
     area.top = DrawHeading(dc, area);
 
     // Half a line more above, where the uppermost label of an axis may reach.
-    auto const line = m_metrics->LineHeight();
-    auto plot = area;
+    int const line = m_metrics->LineHeight();
+    CRect plot = area;
     plot.top += line / 2;
     plot.bottom -= line + m_metrics->Y(4);
     workbench::PlotMargins const margins(dc, *m_metrics);
@@ -323,8 +323,8 @@ void CSpectrogramView::Draw(CDC & dc, CRect const & rect)
         return;
     }
     DrawPicture(dc, plot);
-    auto const & info = m_result->info;
-    auto const shown = m_marks.window.Shown();
+    workbench::RecordingInfo const & info = m_result->info;
+    workbench::FrameRange const shown = m_marks.window.Shown();
     workbench::DrawTimeAxis(dc, plot, static_cast<double>(shown.first) / info.sampleRate,
                             static_cast<double>(shown.end) / info.sampleRate, *m_metrics, m_plotColours);
     if (!m_printing)
@@ -333,7 +333,7 @@ void CSpectrogramView::Draw(CDC & dc, CRect const & rect)
         DrawMarks(dc, plot);
     }
     DrawFrequencyAxis(dc, plot);
-    auto const legendLeft = plot.right + m_metrics->X(6);
+    long const legendLeft = plot.right + m_metrics->X(6);
     DrawLegend(dc, CRect(legendLeft, plot.top, legendLeft + m_metrics->X(6), plot.bottom));
 }
 
@@ -346,7 +346,7 @@ void CSpectrogramView::Print(CDC & dc, CRect const & rect)
 
 void CSpectrogramView::DrawMessage(CDC & dc, CRect const & rect)
 {
-    auto area = rect;
+    CRect area = rect;
     area.DeflateRect(m_metrics->X(10), m_metrics->Y(8));
     area.top = MessageTop(rect);
     {
@@ -361,8 +361,8 @@ void CSpectrogramView::DrawMessage(CDC & dc, CRect const & rect)
 
 int CSpectrogramView::DrawHeading(CDC & dc, CRect const & area)
 {
-    auto const line = m_metrics->LineHeight();
-    auto rect = area;
+    int const line = m_metrics->LineHeight();
+    CRect rect = area;
     {
         workbench::FontScope const bold(dc, m_metrics->BoldFont());
         dc.SetTextColor(m_plotColours.text);
@@ -376,7 +376,7 @@ int CSpectrogramView::DrawHeading(CDC & dc, CRect const & area)
 
 std::wstring CSpectrogramView::Details() const
 {
-    auto const & info = m_result->info;
+    workbench::RecordingInfo const & info = m_result->info;
     auto details = workbench::FormatSampleRate(info.sampleRate) + L"  \u00B7  " +
                    workbench::FormatDuration(info.frames, info.sampleRate);
     if (info.channels > 1)
@@ -385,7 +385,7 @@ std::wstring CSpectrogramView::Details() const
         details += std::wstring(L"  \u00B7  ") + Text(L"the loudest of") + L' ' +
                    workbench::FormatCount(shown, Text(L"channel"), Text(L"channels"));
     }
-    if (auto const reading = Reading(); !reading.empty() && !m_printing)
+    if (std::wstring const reading = Reading(); !reading.empty() && !m_printing)
     {
         details += L"  \u00B7  " + reading;
     }
@@ -398,13 +398,13 @@ std::wstring CSpectrogramView::Reading() const
     {
         return {};
     }
-    auto const & shown = Shown();
-    auto const half = m_result->info.sampleRate / 2.0;
+    workbench::Spectrogram const & shown = Shown();
+    double const half = m_result->info.sampleRate / 2.0;
     auto const row = static_cast<std::size_t>(
         std::lround(std::clamp(*m_frequency / half, 0.0, 1.0) * static_cast<double>(shown.Rows() - 1)));
-    auto const entry = shown.Entry(shown.ColumnOfFrame(m_marks.cursor), row);
+    int const entry = shown.Entry(shown.ColumnOfFrame(m_marks.cursor), row);
     // An entry stands for all levels that it spans.
-    auto const level = std::lround(workbench::lowest_scale_level + entry * workbench::decibels_per_entry);
+    long const level = std::lround(workbench::lowest_scale_level + entry * workbench::decibels_per_entry);
     return workbench::FormatDuration(m_marks.cursor, m_result->info.sampleRate) + L", " +
            workbench::FormatFrequency(*m_frequency) + L" Hz, " + (entry == 0 ? L"< " : L"") +
            workbench::WithSigns(std::to_wstring(
@@ -418,7 +418,7 @@ void CSpectrogramView::SetMarks(workbench::TimeMarks const & marks)
     {
         return;
     }
-    auto const moved = marks.window != m_marks.window;
+    bool const moved = marks.window != m_marks.window;
     m_marks = marks;
     Invalidate(FALSE);
     if (moved)
@@ -455,10 +455,10 @@ void CSpectrogramView::ChangeMarks(workbench::TimeMarks const & marks)
 /// light.
 void CSpectrogramView::DrawMarks(CDC & dc, CRect const & plot)
 {
-    auto inside = plot;
+    CRect inside = plot;
     inside.DeflateRect(1, 1);
     auto const vertical = [&](std::uint64_t frame) {
-        auto const x = m_marks.window.XOf(frame, inside.Width());
+        int const x = m_marks.window.XOf(frame, inside.Width());
         if (x >= 0 && x < inside.Width())
         {
             dc.InvertRect(CRect(inside.left + x, inside.top, inside.left + x + 1, inside.bottom));
@@ -473,7 +473,7 @@ void CSpectrogramView::DrawMarks(CDC & dc, CRect const & plot)
         }
     }
     // Drawn twice, a line would be gone.
-    auto const isDrawn = m_marks.HasSelection() && *m_marks.other == m_marks.cursor;
+    bool const isDrawn = m_marks.HasSelection() && *m_marks.other == m_marks.cursor;
     if (!isDrawn && (m_marks.HasSelection() || m_marks.cursor > 0))
     {
         vertical(m_marks.cursor);
@@ -484,8 +484,8 @@ void CSpectrogramView::DrawMarks(CDC & dc, CRect const & plot)
     }
     if (m_frequency)
     {
-        auto const part = workbench::PartOfFrequency(m_scale, m_result->info.sampleRate / 2.0, *m_frequency);
-        auto const y = inside.bottom - 1 - static_cast<int>(std::lround(part * (inside.Height() - 1)));
+        double const part = workbench::PartOfFrequency(m_scale, m_result->info.sampleRate / 2.0, *m_frequency);
+        long const y = inside.bottom - 1 - static_cast<int>(std::lround(part * (inside.Height() - 1)));
         if (y >= inside.top && y < inside.bottom)
         {
             dc.InvertRect(CRect(inside.left, y, inside.right, y + 1));
@@ -501,7 +501,7 @@ std::uint64_t CSpectrogramView::FrameAt(int x) const
 /// Puts the cursor at a place of the picture.
 void CSpectrogramView::PointAt(CPoint point, bool selects)
 {
-    auto const height = m_plot.Height() - 2;
+    int const height = m_plot.Height() - 2;
     if (!m_result || m_result->problem || m_plot.Width() <= 2 || height <= 1)
     {
         return;
@@ -509,8 +509,8 @@ void CSpectrogramView::PointAt(CPoint point, bool selects)
     auto const part = std::clamp(static_cast<double>(m_plot.bottom - 2 - point.y) / (height - 1), 0.0, 1.0);
     m_frequency = workbench::FrequencyAt(m_scale, m_result->info.sampleRate / 2.0, part);
     Invalidate(FALSE);
-    auto marks = m_marks;
-    auto const frame = FrameAt(point.x);
+    workbench::TimeMarks marks = m_marks;
+    std::uint64_t const frame = FrameAt(point.x);
     if (!selects)
     {
         marks.Unselect();
@@ -530,7 +530,7 @@ UINT CSpectrogramView::OnGetDlgCode()
 
 void CSpectrogramView::OnKeyDown(UINT key, UINT repeat, UINT flags)
 {
-    auto marks = m_marks;
+    workbench::TimeMarks marks = m_marks;
     if (m_result && !m_result->problem && workbench::MoveByKey(marks, key, m_plot.Width() - 2))
     {
         ChangeMarks(marks);
@@ -577,7 +577,7 @@ BOOL CSpectrogramView::OnMouseWheel(UINT flags, short delta, CPoint point)
         return CBufferedView::OnMouseWheel(flags, delta, point);
     }
     double const notches = static_cast<double>(delta) / WHEEL_DELTA;
-    auto marks = m_marks;
+    workbench::TimeMarks marks = m_marks;
     if ((flags & MK_SHIFT) != 0)
     {
         marks.window.Scroll(-notches * scroll_step);
@@ -595,7 +595,7 @@ BOOL CSpectrogramView::OnMouseWheel(UINT flags, short delta, CPoint point)
 void CSpectrogramView::DrawPicture(CDC & dc, CRect const & rect)
 {
     dc.FillSolidRect(rect, m_colours.back());
-    auto inside = rect;
+    CRect inside = rect;
     inside.DeflateRect(1, 1);
 
     // As many points as the device has for it.
@@ -603,7 +603,7 @@ void CSpectrogramView::DrawPicture(CDC & dc, CRect const & rect)
     dc.LPtoDP(&size);
     size.cx = std::clamp<int>(std::abs(size.cx), 1, longest_side);
     size.cy = std::clamp<int>(std::abs(size.cy), 1, longest_side);
-    auto const range = m_marks.window.Shown();
+    workbench::FrameRange const range = m_marks.window.Shown();
     if (m_picture.empty() || size != m_pictureSize || range != m_pictureRange)
     {
         m_picture =
@@ -619,7 +619,7 @@ void CSpectrogramView::DrawPicture(CDC & dc, CRect const & rect)
     // A bitmap's lines go upwards and take whole 32-bit words.
     auto const width = static_cast<std::size_t>(size.cx);
     auto const height = static_cast<std::size_t>(size.cy);
-    auto const pitch = (width + 3) / 4 * 4;
+    std::size_t const pitch = (width + 3) / 4 * 4;
     std::vector<std::uint8_t> bits(pitch * height);
     for (std::size_t y = 0; y < height; ++y)
     {
@@ -637,7 +637,7 @@ void CSpectrogramView::DrawPicture(CDC & dc, CRect const & rect)
     bitmap.header.biClrUsed = static_cast<DWORD>(colour_count);
     for (std::size_t i = 0; i < colour_count; ++i)
     {
-        auto const colour = m_colours[i];
+        unsigned long const colour = m_colours[i];
         bitmap.colours[i] = {GetBValue(colour), GetGValue(colour), GetRValue(colour), 0};
     }
     workbench::StretchModeScope const mode(dc, COLORONCOLOR);
@@ -647,14 +647,14 @@ void CSpectrogramView::DrawPicture(CDC & dc, CRect const & rect)
 
 void CSpectrogramView::DrawFrequencyAxis(CDC & dc, CRect const & plot)
 {
-    auto const tickWidth = m_metrics->X(2);
-    auto const height = plot.Height() - 2;
-    for (auto const & tick :
+    int const tickWidth = m_metrics->X(2);
+    int const height = plot.Height() - 2;
+    for (workbench::FrequencyTick const & tick :
          workbench::FrequencyTicks(m_scale, m_result->info.sampleRate / 2.0, height, m_metrics->Y(16)))
     {
-        auto const y = plot.bottom - 1 - tick.position;
+        long const y = plot.bottom - 1 - tick.position;
         dc.FillSolidRect(plot.left - tickWidth, y, tickWidth, 1, m_plotColours.frame);
-        auto const size = TextSize(dc, tick.label);
+        CSize const size = TextSize(dc, tick.label);
         auto const top = std::min<int>(y - size.cy / 2, plot.bottom - size.cy);
         DrawPlotLabel(dc, tick.label, CPoint(plot.left - tickWidth - m_metrics->X(1) - size.cx, top), m_plotColours);
     }
@@ -670,12 +670,11 @@ void CSpectrogramView::DrawLegend(CDC & dc, CRect const & bar)
         dc.FillSolidRect(CRect(inside.left, y(i + 1), inside.right, y(i)), m_colours[static_cast<std::size_t>(i)]);
     }
     // The lowest label is moved up by half its height.
-    auto const distance = m_metrics->LineHeight() * 3 / 2;
-    for (auto const i :
-         workbench::LabelledSteps(workbench::scale_entries, entries_per_label, inside.Height(), distance))
+    int const distance = m_metrics->LineHeight() * 3 / 2;
+    for (int const i : workbench::LabelledSteps(workbench::scale_entries, entries_per_label, inside.Height(), distance))
     {
         auto const label = LegendLabel(i) + (i == workbench::scale_entries ? L" dB" : L"");
-        auto const size = TextSize(dc, label);
+        CSize const size = TextSize(dc, label);
         auto const top = std::min<int>(y(i) - size.cy / 2, bar.bottom - size.cy);
         dc.FillSolidRect(bar.right, y(i), m_metrics->X(1), 1, m_plotColours.frame);
         DrawPlotLabel(dc, label, CPoint(bar.right + m_metrics->X(2), top), m_plotColours);

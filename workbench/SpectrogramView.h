@@ -13,10 +13,10 @@
 #include <vector>
 
 #include "BufferedView.h"
-#include "ScreenMetrics.h"
 #include "logic/ReadableColours.h"
 #include "logic/SpectrogramJob.h"
 #include "logic/TimeMarks.h"
+#include "ScreenMetrics.h"
 
 /// Shows the spectrogram of one recording: a heading, the spectrogram with a time and a frequency axis, and a legend of
 /// its colours. While it is computed, on a thread of its own, a progress bar shows instead; where there is nothing to

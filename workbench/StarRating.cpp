@@ -1,12 +1,12 @@
 #include "StarRating.h"
 
-#include "DrawingScopes.h"
-#include "frame/RegisteredMessages.h"
-
 #include <algorithm>
 #include <cmath>
 #include <iterator>
 #include <numbers>
+
+#include "DrawingScopes.h"
+#include "frame/RegisteredMessages.h"
 
 namespace
 {
@@ -24,12 +24,12 @@ void DrawStar(CDC & dc, CRect const & place)
 {
     constexpr double corner = 0.45; // of the way from the middle to a tip
     POINT points[10];
-    auto const radius = place.Width() / 2.0;
-    auto angle = -std::numbers::pi / 2;
-    auto isTip = true;
-    for (auto & point : points)
+    double const radius = place.Width() / 2.0;
+    double angle = -std::numbers::pi / 2;
+    bool isTip = true;
+    for (POINT & point : points)
     {
-        auto const distance = isTip ? radius : radius * corner;
+        double const distance = isTip ? radius : radius * corner;
         point.x = static_cast<LONG>(std::lround(place.left + radius + distance * std::cos(angle)));
         point.y = static_cast<LONG>(std::lround(place.top + radius + distance * std::sin(angle)));
         angle += std::numbers::pi / 5;
@@ -41,7 +41,7 @@ void DrawStar(CDC & dc, CRect const & place)
 
 CRect CStarRating::StarRect(CRect const & cell, int star) const
 {
-    auto const size = StarSize(cell);
+    int const size = StarSize(cell);
     CPoint const corner(cell.left + Scaled(padding) + star * (size + Scaled(gap)),
                         cell.top + (cell.Height() - size) / 2);
     return CRect(corner, CSize(size, size));
@@ -78,7 +78,7 @@ std::optional<CXListCellKind::Change> CStarRating::Press(XLISTCTRLDATA & cell, C
     {
         if (StarRect(rect, star).PtInRect(point))
         {
-            auto const isPresent = StarsOf(cell.comboCurrentId) == star + 1;
+            bool const isPresent = StarsOf(cell.comboCurrentId) == star + 1;
             return Rate(cell, isPresent ? 0 : star + 1);
         }
     }

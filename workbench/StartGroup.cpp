@@ -52,7 +52,7 @@ void CStartGroup::ShowTexts()
 void CStartGroup::Show(workbench::Settings const & settings)
 {
     std::list<CString> folders;
-    for (auto const & folder : settings.startFolders)
+    for (std::filesystem::path const & folder : settings.startFolders)
     {
         folders.emplace_back(folder.wstring().c_str());
     }
@@ -83,7 +83,7 @@ CString CStartGroup::NewFolder() const
 
 void CStartGroup::OnAddFolder()
 {
-    auto const folder = NewFolder();
+    CString const folder = NewFolder();
     if (folder.IsEmpty())
     {
         m_newFolder.BrowseNow();
@@ -96,7 +96,7 @@ void CStartGroup::OnAddFolder()
         m_newFolder.SetFocus();
         return;
     }
-    auto const present = m_folders.FindStringExact(-1, folder);
+    int const present = m_folders.FindStringExact(-1, folder);
     m_folders.SetCurSel(present != LB_ERR ? present : m_folders.AddItem(folder, m_folders.GetCount()));
     m_newFolder.SetWindowText(CString());
     m_newFolder.SetFocus();
@@ -106,7 +106,7 @@ void CStartGroup::OnAddFolder()
 
 void CStartGroup::OnRemoveFolder()
 {
-    auto const chosen = m_folders.GetCurSel();
+    int const chosen = m_folders.GetCurSel();
     if (chosen == LB_ERR)
     {
         return;
@@ -134,8 +134,8 @@ LRESULT CStartGroup::OnBrowsed(WPARAM, LPARAM)
 
 void CStartGroup::EnableButtons()
 {
-    auto & button = *GetDlgItem(IDC_REMOVE_FOLDER);
-    auto const removable = m_folders.GetCurSel() != LB_ERR;
+    CWnd & button = *GetDlgItem(IDC_REMOVE_FOLDER);
+    bool const removable = m_folders.GetCurSel() != LB_ERR;
     if (!removable && GetFocus() == &button)
     {
         m_folders.SetFocus();

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "controls/ListBoxX.h"
 #include "FolderField.h"
 #include "SettingsGroup.h"
-#include "controls/ListBoxX.h"
 
 /// The folders that are opened when the program starts without others.
 class CStartGroup : public CSettingsGroup

@@ -37,14 +37,14 @@ int CStatusStrip::Height(workbench::ScreenMetrics const & metrics)
 bool CStatusStrip::CreateStrip(CWnd & parent, UINT id, workbench::ScreenMetrics & metrics)
 {
     m_metrics = &metrics;
-    auto const windowClass =
+    LPCTSTR const windowClass =
         AfxRegisterWndClass(0, ::LoadCursorW(nullptr, IDC_ARROW), reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1));
     if (!CreateEx(WS_EX_CONTROLPARENT, windowClass, L"Status", WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN, CRect(),
                   &parent, id))
     {
         return false;
     }
-    auto const created =
+    bool const created =
         m_text.Create(L"", WS_CHILD | WS_VISIBLE | SS_LEFT | SS_NOPREFIX | SS_ENDELLIPSIS | SS_CENTERIMAGE, CRect(),
                       this, IDC_STATUS_TEXT) &&
         m_bar.Create(PROGRESS_CLASS, L"", WS_CHILD, CRect(), this, IDC_READING_PROGRESS) &&
@@ -84,7 +84,7 @@ void CStatusStrip::ShowTip()
     ScreenToClient(&place);
     CClientDC dc(&m_text);
     workbench::FontScope const font(dc, m_metrics->Font());
-    auto const isCut = dc.GetTextExtent(m_shown.c_str()).cx > place.Width();
+    bool const isCut = dc.GetTextExtent(m_shown.c_str()).cx > place.Width();
     m_tips.SetMaxTipWidth(std::max(place.Width(), 1));
     m_tips.SetToolRect(this, text_tool, place);
     m_tips.UpdateTipText(isCut ? m_shown.c_str() : L"", this, text_tool);
@@ -101,7 +101,7 @@ BOOL CStatusStrip::PreTranslateMessage(MSG * message)
 
 void CStatusStrip::ShowProgress(std::size_t done, std::size_t total)
 {
-    auto const shown = ShowsProgress();
+    bool const shown = ShowsProgress();
     m_done = std::min(done, total);
     m_total = total;
     if (ShowsProgress())
@@ -117,7 +117,7 @@ void CStatusStrip::ShowProgress(std::size_t done, std::size_t total)
     {
         GetParent()->SetFocus();
     }
-    for (auto * const window : {&m_bar, static_cast<CWnd *>(&m_cancel)})
+    for (CWnd * const window : {&m_bar, static_cast<CWnd *>(&m_cancel)})
     {
         window->ShowWindow(ShowsProgress() ? SW_SHOWNA : SW_HIDE);
     }
@@ -131,10 +131,10 @@ void CStatusStrip::Arrange()
     }
     CRect client;
     GetClientRect(&client);
-    auto const gap = m_metrics->X(part_gap);
-    auto const button = client.right - m_metrics->X(button_width);
-    auto const bar = button - gap - m_metrics->X(bar_width);
-    auto const barHeight = m_metrics->Y(bar_height);
+    int const gap = m_metrics->X(part_gap);
+    long const button = client.right - m_metrics->X(button_width);
+    long const bar = button - gap - m_metrics->X(bar_width);
+    int const barHeight = m_metrics->Y(bar_height);
     m_cancel.MoveWindow(button, 0, client.right - button, client.bottom);
     m_bar.MoveWindow(bar, (client.bottom - barHeight) / 2, button - gap - bar, barHeight);
     auto const textEnd = static_cast<int>(ShowsProgress() ? bar - gap : client.right);

@@ -3,7 +3,7 @@
 #include <map>
 #include <optional>
 
-#include "logic/DialogTemplate.h"
+#include "logic/DialogTexts.h"
 
 namespace workbench
 {
@@ -13,10 +13,10 @@ namespace
 
 std::optional<DialogTexts> TextsOf(UINT templateId)
 {
-    auto const * const name = MAKEINTRESOURCEW(templateId);
-    auto const module = AfxFindResourceHandle(name, RT_DIALOG);
-    auto const resource = ::FindResourceW(module, name, RT_DIALOG);
-    auto const loaded = resource != nullptr ? ::LoadResource(module, resource) : nullptr;
+    WCHAR const * const name = MAKEINTRESOURCEW(templateId);
+    HINSTANCE const module = AfxFindResourceHandle(name, RT_DIALOG);
+    HRSRC const resource = ::FindResourceW(module, name, RT_DIALOG);
+    HGLOBAL const loaded = resource != nullptr ? ::LoadResource(module, resource) : nullptr;
     auto const * const bytes = loaded != nullptr ? static_cast<std::byte const *>(::LockResource(loaded)) : nullptr;
     return bytes != nullptr ? ReadDialogTexts({bytes, ::SizeofResource(module, resource)}) : std::nullopt;
 }
@@ -25,14 +25,14 @@ std::optional<DialogTexts> TextsOf(UINT templateId)
 
 CString ShowTemplateTexts(CWnd & dialog, UINT templateId)
 {
-    auto const texts = TextsOf(templateId);
+    std::optional<DialogTexts> const texts = TextsOf(templateId);
     if (!texts)
     {
         return {};
     }
     // Several labels can have one identifier; they stand in the order of the template.
     std::map<WORD, HWND> last;
-    for (auto const & control : texts->controls)
+    for (DialogTexts::Control const & control : texts->controls)
     {
         auto const id = static_cast<WORD>(control.id);
         auto & window = last[id];
@@ -51,7 +51,7 @@ CString ShowTemplateTexts(CWnd & dialog, UINT templateId)
 
 CString TemplateCaption(UINT templateId)
 {
-    auto const texts = TextsOf(templateId);
+    std::optional<DialogTexts> const texts = TextsOf(templateId);
     return texts ? texts->caption.c_str() : L"";
 }
 

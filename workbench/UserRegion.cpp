@@ -21,11 +21,11 @@ NumberSigns UserNumberSigns()
 {
     NumberSigns signs;
     // Without these a number could not be told from another one.
-    if (auto decimal = Fact(LOCALE_SDECIMAL); !decimal.empty())
+    if (std::wstring decimal = Fact(LOCALE_SDECIMAL); !decimal.empty())
     {
         signs.decimal = decimal;
     }
-    if (auto negative = Fact(LOCALE_SNEGATIVESIGN); !negative.empty())
+    if (std::wstring negative = Fact(LOCALE_SNEGATIVESIGN); !negative.empty())
     {
         signs.negative = negative;
     }
@@ -36,8 +36,8 @@ NumberSigns UserNumberSigns()
 
 bool UseUserNumbers()
 {
-    auto const signs = UserNumberSigns();
-    auto const changed = signs != PresentNumberSigns();
+    NumberSigns const signs = UserNumberSigns();
+    bool const changed = signs != PresentNumberSigns();
     SetNumberSigns(signs);
     return changed;
 }

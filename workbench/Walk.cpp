@@ -4,8 +4,8 @@
 #include <fstream>
 #include <system_error>
 
-#include "MainWindow.h"
 #include "logic/Texts.h"
+#include "MainWindow.h"
 #include "resource.h"
 #include "windows/StandaloneFrameMigrationHelper.h"
 
@@ -22,7 +22,7 @@ constexpr ULONGLONG settle_time = 300; // milliseconds for painting to reach the
 /// Handles messages until the condition holds. False after the time limit, or when the program is told to quit.
 bool PumpUntil(std::function<bool()> const & holds, ULONGLONG limit)
 {
-    auto const end = ::GetTickCount64() + limit;
+    std::size_t const end = ::GetTickCount64() + limit;
     while (!holds())
     {
         if (::GetTickCount64() >= end)
@@ -51,7 +51,7 @@ bool PumpUntil(std::function<bool()> const & holds, ULONGLONG limit)
 
 void Settle()
 {
-    auto const end = ::GetTickCount64() + settle_time;
+    std::size_t const end = ::GetTickCount64() + settle_time;
     PumpUntil([end] { return ::GetTickCount64() >= end; }, 2 * settle_time);
 }
 
@@ -64,8 +64,8 @@ CWalk::CWalk(CMainWindow & window, std::filesystem::path folder) : m_window(wind
     for (int step = 1;; ++step)
     {
         auto const name = "step-" + std::to_string(step);
-        auto const ready = std::filesystem::remove(m_folder / (name + ".ready"), error);
-        auto const done = std::filesystem::remove(m_folder / (name + ".done"), error);
+        bool const ready = std::filesystem::remove(m_folder / (name + ".ready"), error);
+        bool const done = std::filesystem::remove(m_folder / (name + ".done"), error);
         if (!ready && !done)
         {
             break;
@@ -78,7 +78,7 @@ bool CWalk::WaitForRecordings()
 {
     return PumpUntil(
         [this] {
-            auto const measures = m_window.ShowsPane(CMainWindow::part_frame_measures);
+            bool const measures = m_window.ShowsPane(CMainWindow::part_frame_measures);
             return !m_window.IsBusy() && !m_window.IsComputing() && !m_window.Folders().IsBusy() &&
                    !(measures && m_window.FrameMeasures().IsFilling());
         },
@@ -100,7 +100,7 @@ bool CWalk::WriteReady(char const * picture)
 
     // The marker appears under its name only when it is complete.
     auto const name = "step-" + std::to_string(++m_step);
-    auto const draft = m_folder / (name + ".writing");
+    std::filesystem::path const draft = m_folder / (name + ".writing");
     std::error_code error;
     if (!(std::ofstream(draft, std::ios::binary) << picture << '\n'))
     {
@@ -148,7 +148,7 @@ bool CWalk::StepInside(char const * picture, std::function<void()> const & enter
     visit = &present;
 
     auto const timer = ::SetTimer(nullptr, 0, poll_interval, [](HWND, UINT, UINT_PTR timerId, DWORD) {
-        auto const late = ::GetTickCount64() >= visit->end;
+        bool const late = ::GetTickCount64() >= visit->end;
         if (visit->phase == Phase::opening && late)
         {
             visit->phase = visit->walk.WriteReady(visit->picture) ? Phase::waiting : Phase::failed;
@@ -187,7 +187,7 @@ bool CWalk::StepInMainMenu(char const * picture, int position)
 {
     CString text;
     m_window.GetMenu()->GetMenuString(static_cast<UINT>(position), text, MF_BYPOSITION);
-    auto const key = text[text.Find(L'&') + 1];
+    wchar_t const key = text[text.Find(L'&') + 1];
     m_window.SetActiveWindow();
     return StepInside(
         picture,
@@ -216,8 +216,8 @@ bool CWalk::ShowSettingsPages(std::function<std::string(char const *)> const & n
     {
         return false;
     }
-    auto & sheet = m_window.SettingsSheet();
-    for (auto const * const picture :
+    CSettingsSheet & sheet = m_window.SettingsSheet();
+    for (char const * const picture :
          {"workbench-settings", "workbench-settings-waveform", "workbench-settings-spectrogram",
           "workbench-settings-list", "workbench-settings-dialogs"})
     {
@@ -230,7 +230,7 @@ bool CWalk::ShowSettingsPages(std::function<std::string(char const *)> const & n
     CRect place;
     sheet.GetWindowRect(&place);
     sheet.SetWindowPos(nullptr, 0, 0, place.Width() * 3 / 2, place.Height() * 5 / 4, SWP_NOMOVE | SWP_NOZORDER);
-    auto const shown = Step(name("workbench-settings-large").c_str());
+    bool const shown = Step(name("workbench-settings-large").c_str());
     sheet.SetWindowPos(nullptr, 0, 0, place.Width(), place.Height(), SWP_NOMOVE | SWP_NOZORDER);
     return shown;
 }
@@ -240,14 +240,14 @@ bool CWalk::GoThroughFrames(std::string const & suffix)
 {
     auto const name = [&suffix](char const * picture) { return picture + suffix; };
     auto const windowMenu = static_cast<int>(m_window.GetMenu()->GetMenuItemCount()) - 2; // before the help
-    auto const shown = m_window.ShowInFrame(m_window.List().ChosenLine()) && Step(name("workbench-frame").c_str()) &&
+    bool const shown = m_window.ShowInFrame(m_window.List().ChosenLine()) && Step(name("workbench-frame").c_str()) &&
                        m_window.CompareFour() && Step(name("workbench-grid").c_str());
     if (!shown)
     {
         return false;
     }
     m_window.SendMessage(WM_COMMAND, ID_WINDOW_TILE_HORZ);
-    auto const tiled = StepInMainMenu(name("workbench-frames-tiled").c_str(), windowMenu);
+    bool const tiled = StepInMainMenu(name("workbench-frames-tiled").c_str(), windowMenu);
     m_window.CloseDialogs();
     return tiled && !m_window.Frames().AnyOpen();
 }
@@ -263,12 +263,12 @@ bool CWalk::GoThroughPanes(std::string const & suffix)
     m_window.ShowPane(CMainWindow::part_frame_measures, false);
     CRect window;
     m_window.GetWindowRect(&window);
-    auto & waveform = m_window.Pane(CMainWindow::part_waveform);
-    auto & measures = m_window.Pane(CMainWindow::part_measures);
+    CDockableViewPane & waveform = m_window.Pane(CMainWindow::part_waveform);
+    CDockableViewPane & measures = m_window.Pane(CMainWindow::part_measures);
     waveform.FloatPane(CRect(CPoint(window.right - 520, window.top + 120), CSize(460, 300)));
     measures.AttachToTabWnd(&m_window.Pane(CMainWindow::part_spectrogram), DM_SHOW, FALSE);
     CStandaloneFrameMigrationHelper::BringWindowToTop(nullptr, &waveform);
-    auto const shown = Step(("workbench-panes" + suffix).c_str());
+    bool const shown = Step(("workbench-panes" + suffix).c_str());
     m_window.ResetLayout();
     return shown && waveform.IsDocked() && !measures.IsTabbed();
 }
@@ -279,7 +279,7 @@ bool CWalk::GoThroughDialogs(std::string const & suffix)
     auto const name = [&suffix](char const * picture) { return picture + suffix; };
     auto const cancel = [](CWnd & dialog) { dialog.PostMessage(WM_COMMAND, IDCANCEL); };
     auto const windowMenu = static_cast<int>(m_window.GetMenu()->GetMenuItemCount()) - 2; // before the help
-    auto const items = m_window.GetMenu()->GetSubMenu(windowMenu)->GetMenuItemCount();
+    UINT const items = m_window.GetMenu()->GetSubMenu(windowMenu)->GetMenuItemCount();
     if (!m_window.ShowDetails(0) || !Step(name("workbench-details").c_str()) ||
         !StepInMenu(name("workbench-details-menu").c_str(), m_window.Details(), CPoint(180, 60)))
     {
@@ -334,9 +334,9 @@ bool CWalk::ChangeLanguage(wchar_t const * name)
 /// All but English, which was the first; German stays.
 bool CWalk::GoThroughLanguages()
 {
-    for (auto language = workbench::language_count - 1; language > 0; --language)
+    for (std::size_t language = workbench::language_count - 1; language > 0; --language)
     {
-        auto const & facts = workbench::language_facts[language];
+        workbench::LanguageFacts const & facts = workbench::language_facts[language];
         if (!ChangeLanguage(facts.name) || !GoThroughDialogs('-' + std::to_string(facts.id)))
         {
             return false;
@@ -347,10 +347,10 @@ bool CWalk::GoThroughLanguages()
 
 void CWalk::Click(int line, int column)
 {
-    auto & list = m_window.List();
+    CRecordingList & list = m_window.List();
     list.EnsureVisible(list.PlaceOf(line), FALSE);
-    auto const point = list.CellCentre(line, static_cast<CRecordingList::Column>(column));
-    auto const where = MAKELPARAM(point.x, point.y);
+    CPoint const point = list.CellCentre(line, static_cast<CRecordingList::Column>(column));
+    LPARAM const where = MAKELPARAM(point.x, point.y);
     list.PostMessage(WM_LBUTTONDOWN, MK_LBUTTON, where);
     list.PostMessage(WM_LBUTTONUP, 0, where);
     Settle();
@@ -359,8 +359,8 @@ void CWalk::Click(int line, int column)
 /// Checks some recordings and makes the first other one the reference, as a user would with the mouse.
 bool CWalk::CheckSome()
 {
-    auto & list = m_window.List();
-    auto checked = 0;
+    CRecordingList & list = m_window.List();
+    int checked = 0;
     for (int line = 0; line < m_window.RecordingCount() && checked < most_checked; line += 2)
     {
         if (list.GetCheckbox(line, CRecordingList::column_check) == XLC_UNCHECKED)
@@ -387,18 +387,18 @@ bool CWalk::CheckSome()
 /// Sorts by the peak level, the loudest first, as a click on the title does that shows the arrow already.
 bool CWalk::SortByPeak()
 {
-    auto & list = m_window.List();
-    auto & header = *list.GetHeaderCtrl();
+    CRecordingList & list = m_window.List();
+    CHeaderCtrl & header = *list.GetHeaderCtrl();
     CRect title;
     header.GetItemRect(CRecordingList::column_peak, &title);
-    auto const point = title.CenterPoint();
+    CPoint const point = title.CenterPoint();
     for (int click = 0; click < 2; ++click)
     {
         header.PostMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(point.x, point.y));
         header.PostMessage(WM_LBUTTONUP, 0, MAKELPARAM(point.x, point.y));
         Settle();
     }
-    auto const sorted = Step("workbench-sorted");
+    bool const sorted = Step("workbench-sorted");
     list.SortLines(CRecordingList::column_name, true);
     return sorted;
 }
@@ -407,7 +407,7 @@ bool CWalk::SortByPeak()
 bool CWalk::CopyEverything()
 {
     m_window.SendMessage(WM_COMMAND, ID_COPY_ALL);
-    auto const html = ::RegisterClipboardFormatW(L"HTML Format");
+    UINT const html = ::RegisterClipboardFormatW(L"HTML Format");
     if (!::IsClipboardFormatAvailable(CF_UNICODETEXT) || !::IsClipboardFormatAvailable(html))
     {
         return false;

@@ -9,7 +9,7 @@ CWaveOutDevice::~CWaveOutDevice()
         return;
     }
     ::waveOutReset(m_device);
-    for (auto & block : m_blocks)
+    for (Block & block : m_blocks)
     {
         if ((block.header.dwFlags & WHDR_PREPARED) != 0)
         {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <afxwin.h>
-
 #include <mmsystem.h>
 
 #include <array>

@@ -3,8 +3,8 @@
 #include <array>
 #include <utility>
 
-#include "WaveformPanelView.h"
 #include "logic/Texts.h"
+#include "WaveformPanelView.h"
 #include "windows/StandaloneFrameWnd.h"
 
 using workbench::Text;
@@ -20,7 +20,7 @@ class CGridFrame : public CStandaloneFrameWnd
 public:
     void Share()
     {
-        if (auto * const grid = Grid())
+        if (CSplitterWnd * const grid = Grid())
         {
             CRect room;
             grid->GetClientRect(&room);
@@ -44,16 +44,16 @@ private:
     /// Takes the shares over that the user has given to the cells.
     void NoteShares()
     {
-        auto * const grid = Grid();
+        CSplitterWnd * const grid = Grid();
         if (grid == nullptr || m_set == CSize(0, 0))
         {
             return;
         }
         CRect room;
         grid->GetClientRect(&room);
-        auto width = 0;
-        auto height = 0;
-        auto least = 0;
+        int width = 0;
+        int height = 0;
+        int least = 0;
         grid->GetColumnInfo(0, width, least);
         grid->GetRowInfo(0, height, least);
         if (CSize(width, height) != m_set && width > 0 && height > 0 && !room.IsRectEmpty())
@@ -65,7 +65,7 @@ private:
 
     afx_msg void OnSize(UINT type, int width, int height)
     {
-        auto const sized = type != SIZE_MINIMIZED && !IsIconic();
+        bool const sized = type != SIZE_MINIMIZED && !IsIconic();
         if (sized)
         {
             NoteShares();
@@ -112,7 +112,7 @@ bool CWaveformFrame::Open(std::vector<Shown> recordings, workbench::Settings con
     }
     m_recordings = std::move(recordings);
     m_recordings.resize(std::min(m_recordings.size(), m_cells));
-    auto * const frame = m_cells == 1 ? CreateFrame<CWaveformPanelView>(m_name) : CreateGrid();
+    CStandaloneFrameWnd * const frame = m_cells == 1 ? CreateFrame<CWaveformPanelView>(m_name) : CreateGrid();
     if (frame == nullptr || !FrameLebt())
     {
         return false;
@@ -125,7 +125,7 @@ bool CWaveformFrame::Open(std::vector<Shown> recordings, workbench::Settings con
     for (std::size_t cell = 0; cell < m_cells; ++cell)
     {
         ShowCell(cell);
-        if (auto * const view = Cell(cell))
+        if (CWaveformPanelView * const view = Cell(cell))
         {
             view->Waveform().SetAmplification(settings.amplification);
         }
@@ -187,7 +187,7 @@ void CWaveformFrame::Follow(workbench::Settings const & settings)
 {
     for (std::size_t cell = 0; m_frame != nullptr && cell < m_cells; ++cell)
     {
-        if (auto * const view = Cell(cell))
+        if (CWaveformPanelView * const view = Cell(cell))
         {
             view->Waveform().SetColours(settings.waveform);
         }
@@ -197,7 +197,7 @@ void CWaveformFrame::Follow(workbench::Settings const & settings)
 CString CWaveformFrame::Title() const
 {
     std::wstring names;
-    for (auto const & recording : m_recordings)
+    for (Shown const & recording : m_recordings)
     {
         names += (names.empty() ? L"" : L", ") + recording.file.filename().wstring();
     }
@@ -214,7 +214,7 @@ void CWaveformFrame::ShowTexts()
     m_frame->SetWindowText(Title());
     for (std::size_t cell = 0; cell < m_cells; ++cell)
     {
-        auto * const view = Cell(cell);
+        CWaveformPanelView * const view = Cell(cell);
         if (view != nullptr)
         {
             view->ShowTexts();
@@ -232,7 +232,7 @@ CWaveformPanelView * CWaveformFrame::Cell(std::size_t cell) const
     {
         return nullptr;
     }
-    auto * const view =
+    CWnd * const view =
         m_cells == 1 ? m_frame->GetDescendantWindow(AFX_IDW_PANE_FIRST, TRUE)
                      : m_frame->GetSplitPane(static_cast<int>(cell / grid_width), static_cast<int>(cell % grid_width));
     return DYNAMIC_DOWNCAST(CWaveformPanelView, view);
@@ -240,7 +240,7 @@ CWaveformPanelView * CWaveformFrame::Cell(std::size_t cell) const
 
 void CWaveformFrame::Show(std::size_t cell, std::shared_ptr<workbench::RecordingAnalysis const> analysis)
 {
-    auto & recording = m_recordings[cell];
+    Shown & recording = m_recordings[cell];
     if (recording.analysis && *recording.analysis == *analysis)
     {
         return;
@@ -251,7 +251,7 @@ void CWaveformFrame::Show(std::size_t cell, std::shared_ptr<workbench::Recording
 
 void CWaveformFrame::ShowCell(std::size_t cell)
 {
-    auto * const view = Cell(cell);
+    CWaveformPanelView * const view = Cell(cell);
     if (view == nullptr)
     {
         return;
@@ -261,7 +261,7 @@ void CWaveformFrame::ShowCell(std::size_t cell)
         view->Waveform().ShowText(Text(L"No recording"), L"");
         return;
     }
-    auto const & recording = m_recordings[cell];
+    Shown const & recording = m_recordings[cell];
     auto const name = recording.file.filename().wstring();
     if (recording.analysis)
     {

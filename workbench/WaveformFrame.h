@@ -5,8 +5,8 @@
 #include <memory>
 #include <vector>
 
-#include "Settings.h"
 #include "logic/RecordingAnalysis.h"
+#include "Settings.h"
 #include "windows/StandaloneFrameUser.h"
 
 class CStandaloneFrameWnd;

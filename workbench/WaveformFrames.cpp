@@ -51,13 +51,13 @@ bool CWaveformFrames::Open(Shown const & recording)
         (*found)->Activate();
         return true;
     }
-    auto * const frame = FreeFrame(1);
+    CWaveformFrame * const frame = FreeFrame(1);
     return frame != nullptr && OpenFrame(*frame, {recording});
 }
 
 bool CWaveformFrames::Compare(std::vector<Shown> recordings)
 {
-    auto * const frame = FreeFrame(grid_cells);
+    CWaveformFrame * const frame = FreeFrame(grid_cells);
     return frame != nullptr && OpenFrame(*frame, std::move(recordings));
 }
 
@@ -82,13 +82,13 @@ bool CWaveformFrames::OpenFrame(CWaveformFrame & frame, std::vector<Shown> recor
 
 void CWaveformFrames::Restore()
 {
-    for (auto const & frame : m_frames)
+    for (std::unique_ptr<CWaveformFrame> const & frame : m_frames)
     {
         if (frame->FrameLebt() || !CFensterManager::OpenInitially(frame->Name()))
         {
             continue;
         }
-        auto const files = workbench::ReadFrameRecordings(frame->Name());
+        std::vector<std::filesystem::path> const files = workbench::ReadFrameRecordings(frame->Name());
         auto const isThere = [](std::filesystem::path const & file) {
             std::error_code error;
             return std::filesystem::exists(file, error);
@@ -110,7 +110,7 @@ void CWaveformFrames::Read(CWaveformFrame & frame, std::size_t cell)
     {
         m_queue = std::make_unique<workbench::AnalysisQueue>(m_notify);
     }
-    auto const id = m_nextId++;
+    unsigned int const id = m_nextId++;
     m_reading[id] = {&frame, cell};
     m_queue->Add(id, frame.Recordings()[cell].file);
 }
@@ -122,7 +122,7 @@ void CWaveformFrames::Reload()
 
 void CWaveformFrames::Reload(std::filesystem::path const & file)
 {
-    for (auto * const frame : Frames())
+    for (CWaveformFrame * const frame : Frames())
     {
         for (std::size_t cell = 0; cell < frame->Recordings().size(); ++cell)
         {
@@ -140,7 +140,7 @@ void CWaveformFrames::TakeResults()
     {
         return;
     }
-    for (auto const & finished : m_queue->TakeFinished())
+    for (workbench::AnalysisQueue::Finished const & finished : m_queue->TakeFinished())
     {
         if (auto const found = m_reading.find(finished.id); found != m_reading.end())
         {
@@ -154,7 +154,7 @@ void CWaveformFrames::TakeResults()
 void CWaveformFrames::Follow(workbench::Settings const & settings)
 {
     m_settings = settings;
-    for (auto * const frame : Frames())
+    for (CWaveformFrame * const frame : Frames())
     {
         frame->Follow(settings);
     }
@@ -168,7 +168,7 @@ bool CWaveformFrames::AnyOpen() const
 std::vector<CWaveformFrame *> CWaveformFrames::Frames() const
 {
     std::vector<CWaveformFrame *> open;
-    for (auto const & frame : m_frames)
+    for (std::unique_ptr<CWaveformFrame> const & frame : m_frames)
     {
         if (frame->Frame() != nullptr)
         {

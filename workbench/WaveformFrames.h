@@ -7,8 +7,8 @@
 #include <utility>
 #include <vector>
 
-#include "WaveformFrame.h"
 #include "logic/AnalysisQueue.h"
+#include "WaveformFrame.h"
 
 /// The frames with waveforms. They are known by their numbers, so that they come back after a restart, and have their
 /// recordings read on a thread of their own, whatever the list shows.

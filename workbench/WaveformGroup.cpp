@@ -15,8 +15,8 @@ CWaveformGroup::CWaveformGroup() : CSettingsGroup(IDD_SETTINGS_WAVEFORM)
 void CWaveformGroup::DoDataExchange(CDataExchange * exchange)
 {
     CSettingsGroup::DoDataExchange(exchange);
-    auto id = IDC_COLOUR_FIRST;
-    for (auto & colour : m_colours)
+    int id = IDC_COLOUR_FIRST;
+    for (CColourChoice & colour : m_colours)
     {
         DDX_Control(exchange, id++, colour);
     }

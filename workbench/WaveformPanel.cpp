@@ -4,9 +4,9 @@
 #include <string>
 
 #include "DrawingScopes.h"
-#include "PlotParts.h"
 #include "logic/Amplification.h"
 #include "logic/Texts.h"
+#include "PlotParts.h"
 #include "resource.h"
 
 using workbench::Text;
@@ -37,7 +37,7 @@ END_MESSAGE_MAP()
 void CWaveformPanel::CFitButton::DrawItem(LPDRAWITEMSTRUCT item)
 {
     CRect const place(item->rcItem);
-    auto const colours = workbench::ScreenPlotColours(*this);
+    workbench::PlotColours const colours = workbench::ScreenPlotColours(*this);
     CDC::FromHandle(item->hDC)->FillSolidRect(place, colours.ground);
     CFreeIconButton::DrawItem(item);
     if ((item->itemState & ODS_FOCUS) != 0)
@@ -51,7 +51,7 @@ void CWaveformPanel::CFitButton::DrawItem(LPDRAWITEMSTRUCT item)
 bool CWaveformPanel::CreatePanel(CWnd & parent, UINT id, workbench::ScreenMetrics & metrics)
 {
     m_metrics = &metrics;
-    auto const windowClass = AfxRegisterWndClass(0, ::LoadCursorW(nullptr, IDC_ARROW));
+    LPCTSTR const windowClass = AfxRegisterWndClass(0, ::LoadCursorW(nullptr, IDC_ARROW));
     constexpr DWORD slider_style = WS_CHILD | WS_TABSTOP | TBS_VERT | TBS_BOTH | TBS_NOTICKS;
     if (!CreateEx(WS_EX_CONTROLPARENT, windowClass, L"Waveform", WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN | WS_BORDER,
                   CRect(), &parent, id) ||
@@ -115,7 +115,7 @@ void CWaveformPanel::OnSize(UINT type, int width, int height)
     workbench::PlotMargins const margins(dc, *m_metrics);
     // The slider stands in what the view would leave free right of its plot; where that leaves too little of the plot,
     // the plot has all.
-    auto const room = margins.right + m_metrics->X(view_margin - part_gap);
+    int const room = margins.right + m_metrics->X(view_margin - part_gap);
     m_hasSlider = width - room - margins.left - m_metrics->X(2 * view_margin) >= m_metrics->X(least_plot_width);
     m_view.SetRightRoom(m_hasSlider ? room : margins.right);
     m_view.MoveWindow(0, 0, m_hasSlider ? width - room : width, height);
@@ -134,18 +134,18 @@ void CWaveformPanel::Arrange()
     CRect view;
     m_view.GetWindowRect(&view);
     ScreenToClient(&view);
-    auto plot = m_view.PlotPlace();
+    CRect plot = m_view.PlotPlace();
     plot.OffsetRect(view.TopLeft());
-    auto const width = m_metrics->X(slider_width);
-    auto const centre = (view.right + client.right) / 2;
-    auto const line = m_metrics->LineHeight();
+    int const width = m_metrics->X(slider_width);
+    long const centre = (view.right + client.right) / 2;
+    int const line = m_metrics->LineHeight();
     m_slider.MoveWindow(centre - width / 2, plot.top, width, std::max<int>(plot.Height(), 0));
     m_value.MoveWindow(view.right, plot.bottom + m_metrics->Y(1), client.right - view.right, line);
     // As large as the system draws icons.
     CSize const icon(::GetSystemMetrics(SM_CXICON), ::GetSystemMetrics(SM_CYICON));
     m_fit.MoveWindow(centre - icon.cx / 2, std::max<int>((plot.top - icon.cy) / 2, 0), icon.cx, icon.cy);
-    auto const shows = m_hasSlider && m_view.ShowsRecording();
-    auto const fits = shows && plot.Height() >= m_metrics->Y(least_slider_height);
+    bool const shows = m_hasSlider && m_view.ShowsRecording();
+    bool const fits = shows && plot.Height() >= m_metrics->Y(least_slider_height);
     auto const show = [this](CWnd & window, bool visible) {
         if (!visible && GetFocus() == &window)
         {
@@ -160,10 +160,10 @@ void CWaveformPanel::Arrange()
 
 void CWaveformPanel::ShowAmplification()
 {
-    auto const amplification = m_view.Amplification();
+    int const amplification = m_view.Amplification();
     m_slider.SetPos(steps - amplification / workbench::amplification_step);
     m_slider.Invalidate();
-    auto const sign = amplification > 0 ? L"+" : L"";
+    wchar_t const * const sign = amplification > 0 ? L"+" : L"";
     m_value.SetWindowText((sign + std::to_wstring(amplification) + L" dB").c_str());
 }
 
@@ -177,7 +177,7 @@ BOOL CWaveformPanel::OnEraseBkgnd(CDC * dc)
 
 HBRUSH CWaveformPanel::OnCtlColor(CDC * dc, CWnd *, UINT)
 {
-    auto const colours = workbench::ScreenPlotColours(*this);
+    workbench::PlotColours const colours = workbench::ScreenPlotColours(*this);
     dc->SetTextColor(colours.label);
     dc->SetBkColor(colours.ground);
     ::SetDCBrushColor(dc->m_hDC, colours.ground);

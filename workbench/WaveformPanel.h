@@ -5,9 +5,9 @@
 
 #include <functional>
 
-#include "WaveformView.h"
 #include "controls/FreeIconButton.h"
 #include "controls/LevelSliderCtrl.h"
+#include "WaveformView.h"
 
 /// The waveform of a recording, beside it a slider by which it is made larger, and above that a button that makes it as
 /// large as it may be. The plot of the waveform lies as in a view that fills the panel.

@@ -5,15 +5,15 @@
 #include <iterator>
 #include <limits>
 
-#include "DrawingScopes.h"
-#include "PlotKeys.h"
-#include "PlotParts.h"
 #include "colours/Farbtabellen.h"
+#include "DrawingScopes.h"
 #include "logic/Amplification.h"
 #include "logic/Axis.h"
 #include "logic/CursorReading.h"
 #include "logic/TextFormat.h"
 #include "logic/Texts.h"
+#include "PlotKeys.h"
+#include "PlotParts.h"
 
 namespace
 {
@@ -141,12 +141,12 @@ void CWaveformView::Draw(CDC & dc, CRect const & client)
         DrawMessage(dc, client);
         return;
     }
-    auto area = client;
+    CRect area = client;
     area.DeflateRect(m_metrics->X(margin_x), m_metrics->Y(margin_y));
     DrawHeading(dc, area);
-    auto const plot = PlotIn(dc, client);
+    CRect const plot = PlotIn(dc, client);
     auto const lanes = static_cast<int>(m_analysis->waveform.Lanes());
-    auto const gap = lanes > 1 ? m_metrics->Y(lanes > 8 ? 1 : 4) : 0;
+    int const gap = lanes > 1 ? m_metrics->Y(lanes > 8 ? 1 : 4) : 0;
     auto const pitch = static_cast<double>(plot.Height() + gap) / std::max(lanes, 1);
     if (plot.Width() < m_metrics->X(20) || pitch < gap + least_lane_height)
     {
@@ -188,7 +188,7 @@ void CWaveformView::Print(CDC & dc, CRect const & rect)
 CRect CWaveformView::PlotIn(CDC & dc, CRect const & client) const
 {
     workbench::PlotMargins const margins(dc, *m_metrics);
-    auto plot = client;
+    CRect plot = client;
     plot.DeflateRect(m_metrics->X(margin_x), m_metrics->Y(margin_y));
     plot.top += HeadingHeight() + (m_printing ? 0 : StripHeight());
     plot.left += margins.left;
@@ -237,7 +237,7 @@ void CWaveformView::SetColours(workbench::WaveformColours const & colours)
 
 void CWaveformView::SetAmplification(int decibels)
 {
-    auto const amplification = workbench::CheckedAmplification(decibels);
+    int const amplification = workbench::CheckedAmplification(decibels);
     if (amplification == m_amplification)
     {
         return;
@@ -278,9 +278,9 @@ CWaveformView::SurroundingColours CWaveformView::Surroundings() const
 
 void CWaveformView::DrawCursor(CDC & dc, CRect const & plot)
 {
-    auto const width = plot.Width() - 2;
+    int const width = plot.Width() - 2;
     auto const draw = [&](std::uint64_t frame, int thickness) {
-        auto const x = m_marks.window.XOf(frame, width);
+        int const x = m_marks.window.XOf(frame, width);
         if (x >= 0 && x < width)
         {
             dc.FillSolidRect(plot.left + 1 + x, plot.top, thickness, plot.Height(), m_colours.cursor);
@@ -294,7 +294,7 @@ void CWaveformView::DrawCursor(CDC & dc, CRect const & plot)
     draw(m_marks.cursor, GetFocus() == this ? 2 : 1);
     if (m_playing)
     {
-        auto const x = m_marks.window.XOf(*m_playing, width);
+        int const x = m_marks.window.XOf(*m_playing, width);
         if (x >= 0 && x < width)
         {
             dc.FillSolidRect(plot.left + 1 + x, plot.top, 2, plot.Height(), workbench::ClippedColour(m_colours));
@@ -310,8 +310,8 @@ void CWaveformView::DrawSelection(CDC & dc, CRect const & inside)
         return;
     }
     auto const [first, end] = m_marks.Selection();
-    auto const left = std::clamp(m_marks.window.XOf(first, inside.Width()), 0, inside.Width());
-    auto const right = std::clamp(m_marks.window.XOf(end, inside.Width()), left, inside.Width());
+    int const left = std::clamp(m_marks.window.XOf(first, inside.Width()), 0, inside.Width());
+    int const right = std::clamp(m_marks.window.XOf(end, inside.Width()), left, inside.Width());
     dc.FillSolidRect(inside.left + left, inside.top, right - left, inside.Height(),
                      workbench::MixedColour(Surroundings().ground, ::GetSysColor(COLOR_HIGHLIGHT), selection_strength));
 }
@@ -325,22 +325,22 @@ int CWaveformView::StripHeight() const
 void CWaveformView::DrawStrip(CDC & dc, CRect const & plot)
 {
     m_strip.SetRectEmpty();
-    auto const height = StripHeight();
+    int const height = StripHeight();
     if (height == 0)
     {
         return;
     }
     m_strip = CRect(plot.left, plot.top - height, plot.right, plot.top - m_metrics->Y(strip_gap));
-    auto inside = m_strip;
+    CRect inside = m_strip;
     inside.DeflateRect(1, 1);
     dc.FillSolidRect(m_strip, Surroundings().ground);
     workbench::TimeWindow const whole(m_marks.window.Frames());
-    auto const shown = m_marks.window.Shown();
-    auto const left = std::clamp(whole.XOf(shown.first, inside.Width()), 0, inside.Width() - 1);
-    auto const right = std::clamp(whole.XOf(shown.end, inside.Width()), left + 1, inside.Width());
+    workbench::FrameRange const shown = m_marks.window.Shown();
+    int const left = std::clamp(whole.XOf(shown.first, inside.Width()), 0, inside.Width() - 1);
+    int const right = std::clamp(whole.XOf(shown.end, inside.Width()), left + 1, inside.Width());
     dc.FillSolidRect(inside.left + left, inside.top, right - left, inside.Height(),
                      workbench::MixedColour(Surroundings().ground, Surroundings().label, selection_strength));
-    auto const centre = (inside.top + inside.bottom) / 2;
+    long const centre = (inside.top + inside.bottom) / 2;
     int const halfHeight = inside.Height() / 2;
     auto const half = static_cast<float>(halfHeight);
     auto const y = [&](float amplitude) {
@@ -349,7 +349,7 @@ void CWaveformView::DrawStrip(CDC & dc, CRect const & plot)
     std::vector<workbench::MinMax> all(static_cast<std::size_t>(inside.Width()));
     for (std::size_t lane = 0; lane < m_analysis->waveform.Lanes(); ++lane)
     {
-        auto const columns = m_analysis->waveform.Columns(lane, all.size());
+        std::vector<workbench::MinMax> const columns = m_analysis->waveform.Columns(lane, all.size());
         for (std::size_t i = 0; i < all.size(); ++i)
         {
             all[i] = {std::min(all[i].least, columns[i].least), std::max(all[i].greatest, columns[i].greatest)};
@@ -357,7 +357,7 @@ void CWaveformView::DrawStrip(CDC & dc, CRect const & plot)
     }
     for (std::size_t i = 0; i < all.size(); ++i)
     {
-        auto const top = y(all[i].greatest);
+        long const top = y(all[i].greatest);
         dc.FillSolidRect(inside.left + static_cast<int>(i), top, 1, std::max<int>(y(all[i].least) - top, 0) + 1,
                          Trace(0));
     }
@@ -375,7 +375,7 @@ void CWaveformView::MoveCursor(std::uint64_t frame)
     {
         return;
     }
-    auto marks = m_marks;
+    workbench::TimeMarks marks = m_marks;
     marks.cursor = std::min(frame, m_analysis->info.frames - 1);
     marks.Unselect();
     marks.window.Reveal(marks.cursor);
@@ -388,7 +388,7 @@ void CWaveformView::MoveCursorAlone(std::uint64_t frame)
     {
         return;
     }
-    auto marks = m_marks;
+    workbench::TimeMarks marks = m_marks;
     marks.MoveCursorAlone(std::min(frame, m_analysis->info.frames - 1));
     marks.window.Reveal(marks.cursor, reveal_margin);
     ChangeMarks(marks);
@@ -400,8 +400,8 @@ void CWaveformView::SetMarks(workbench::TimeMarks const & marks)
     {
         return;
     }
-    auto const placed = marks.window.ShowsAll() != m_marks.window.ShowsAll();
-    auto const moved = marks.cursor != m_marks.cursor;
+    bool const placed = marks.window.ShowsAll() != m_marks.window.ShowsAll();
+    bool const moved = marks.cursor != m_marks.cursor;
     m_marks = marks;
     Invalidate(FALSE);
     if (placed)
@@ -436,14 +436,14 @@ void CWaveformView::ShowPlaying(std::optional<std::uint64_t> frame)
     {
         return;
     }
-    auto const shown = m_marks.window.Shown();
-    auto const wasSeen = m_playing && shown.first <= *m_playing && *m_playing < shown.end;
+    workbench::FrameRange const shown = m_marks.window.Shown();
+    bool const wasSeen = m_playing && shown.first <= *m_playing && *m_playing < shown.end;
     m_playing = frame;
     Invalidate(FALSE);
     // Whoever has scrolled away meanwhile stays there.
     if (frame && wasSeen && *frame >= shown.end)
     {
-        auto marks = m_marks;
+        workbench::TimeMarks marks = m_marks;
         marks.window.Show({*frame, *frame + shown.Length()});
         ChangeMarks(marks);
     }
@@ -451,8 +451,8 @@ void CWaveformView::ShowPlaying(std::optional<std::uint64_t> frame)
 
 void CWaveformView::ZoomAt(double factor, std::uint64_t frame)
 {
-    auto marks = m_marks;
-    auto const shown = marks.window.Shown();
+    workbench::TimeMarks marks = m_marks;
+    workbench::FrameRange const shown = marks.window.Shown();
     auto const offset = static_cast<double>(std::clamp(frame, shown.first, shown.end) - shown.first);
     marks.window.Zoom(factor, shown.IsEmpty() ? 0.5 : offset / static_cast<double>(shown.Length()));
     ChangeMarks(marks);
@@ -476,10 +476,10 @@ void CWaveformView::MoveCursorTo(int x)
 void CWaveformView::ScrollTo(int x)
 {
     workbench::TimeWindow const whole(m_marks.window.Frames());
-    auto const middle = whole.FrameAt(x - m_strip.left - 1, m_strip.Width() - 2);
-    auto const length = m_marks.window.Shown().Length();
-    auto marks = m_marks;
-    auto const first = std::min(middle - std::min(middle, length / 2), whole.Frames() - length);
+    std::uint64_t const middle = whole.FrameAt(x - m_strip.left - 1, m_strip.Width() - 2);
+    std::uint64_t const length = m_marks.window.Shown().Length();
+    workbench::TimeMarks marks = m_marks;
+    std::size_t const first = std::min(middle - std::min(middle, length / 2), whole.Frames() - length);
     marks.window.Show({first, first + length});
     ChangeMarks(marks);
 }
@@ -505,7 +505,7 @@ void CWaveformView::OnLButtonDown(UINT flags, CPoint point)
         MoveCursorTo(point.x);
         return;
     }
-    auto marks = m_marks;
+    workbench::TimeMarks marks = m_marks;
     marks.SelectTo(FrameAt(point.x));
     ChangeMarks(marks);
 }
@@ -514,9 +514,9 @@ void CWaveformView::OnLButtonDown(UINT flags, CPoint point)
 void CWaveformView::OnLButtonDblClk(UINT flags, CPoint point)
 {
     CBufferedView::OnLButtonDblClk(flags, point);
-    auto marks = m_marks;
-    auto const frame = FrameAt(point.x);
-    auto const selection = marks.Selection();
+    workbench::TimeMarks marks = m_marks;
+    std::uint64_t const frame = FrameAt(point.x);
+    workbench::FrameRange const selection = marks.Selection();
     if (ShowsRecording() && !m_strip.PtInRect(point))
     {
         if (selection.first <= frame && frame < selection.end)
@@ -545,12 +545,12 @@ void CWaveformView::OnMouseMove(UINT flags, CPoint point)
     else if (m_drag == Drag::select && m_plot.Width() > 2)
     {
         // Beyond the edges the plot scrolls along.
-        auto marks = m_marks;
-        auto const overshoot = point.x < m_plot.left    ? point.x - m_plot.left
+        workbench::TimeMarks marks = m_marks;
+        long const overshoot = point.x < m_plot.left    ? point.x - m_plot.left
                                : point.x > m_plot.right ? point.x - m_plot.right
                                                         : 0;
         marks.window.Scroll(static_cast<double>(overshoot) / m_plot.Width());
-        auto const frame = marks.window.FrameAt(point.x - m_plot.left - 1, m_plot.Width() - 2);
+        std::uint64_t const frame = marks.window.FrameAt(point.x - m_plot.left - 1, m_plot.Width() - 2);
         if (frame != marks.cursor)
         {
             marks.SelectTo(frame);
@@ -598,7 +598,7 @@ void CWaveformView::OnKeyDown(UINT key, UINT repeat, UINT flags)
     default:
         break;
     }
-    auto marks = m_marks;
+    workbench::TimeMarks marks = m_marks;
     if (workbench::MoveByKey(marks, key, m_plot.Width() - 2))
     {
         ChangeMarks(marks);
@@ -619,12 +619,12 @@ BOOL CWaveformView::OnMouseWheel(UINT flags, short delta, CPoint point)
     double const notches = static_cast<double>(delta) / WHEEL_DELTA;
     if ((flags & MK_CONTROL) != 0)
     {
-        auto const step = delta > 0 ? amplification_step : -amplification_step;
+        int const step = delta > 0 ? amplification_step : -amplification_step;
         SetAmplification(std::clamp(m_amplification + step, 0, most_amplification));
     }
     else if ((flags & MK_SHIFT) != 0)
     {
-        auto marks = m_marks;
+        workbench::TimeMarks marks = m_marks;
         marks.window.Scroll(-notches * scroll_step);
         ChangeMarks(marks);
     }
@@ -650,9 +650,9 @@ void CWaveformView::OnKillFocus(CWnd * other)
 
 void CWaveformView::DrawMessage(CDC & dc, CRect const & client)
 {
-    auto area = client;
+    CRect area = client;
     area.DeflateRect(m_metrics->X(10), m_metrics->Y(8));
-    auto const line = m_metrics->LineHeight();
+    int const line = m_metrics->LineHeight();
     area.top = std::max<int>(area.top, area.CenterPoint().y - 2 * line);
     {
         workbench::FontScope const bold(dc, m_metrics->BoldFont());
@@ -671,14 +671,14 @@ bool CWaveformView::IsDamaged() const
 
 int CWaveformView::HeadingHeight() const
 {
-    auto const lines = IsDamaged() ? 3 : 2;
+    int const lines = IsDamaged() ? 3 : 2;
     return lines * (m_metrics->LineHeight() + m_metrics->Y(line_gap)) + m_metrics->Y(heading_gap);
 }
 
 void CWaveformView::DrawHeading(CDC & dc, CRect const & area)
 {
-    auto const pitch = m_metrics->LineHeight() + m_metrics->Y(line_gap);
-    auto rect = area;
+    int const pitch = m_metrics->LineHeight() + m_metrics->Y(line_gap);
+    CRect rect = area;
     {
         workbench::FontScope const bold(dc, m_metrics->BoldFont());
         dc.SetTextColor(m_plotColours.text);
@@ -698,8 +698,9 @@ void CWaveformView::DrawHeading(CDC & dc, CRect const & area)
 
 std::wstring CWaveformView::Details() const
 {
-    auto const & info = m_analysis->info;
-    auto const coding = info.coding == workbench::SampleCoding::floating_point ? Text(L"-bit float") : Text(L"-bit");
+    workbench::RecordingInfo const & info = m_analysis->info;
+    wchar_t const * const coding =
+        info.coding == workbench::SampleCoding::floating_point ? Text(L"-bit float") : Text(L"-bit");
     auto details = workbench::FormatSampleRate(info.sampleRate) + L"  \u00B7  " + std::to_wstring(info.bitsPerSample) +
                    coding + L"  \u00B7  " + workbench::FormatCount(info.channels, Text(L"channel"), Text(L"channels")) +
                    L"  \u00B7  " + workbench::FormatDuration(info.frames, info.sampleRate);
@@ -710,7 +711,7 @@ std::wstring CWaveformView::Details() const
     }
     if (m_marks.HasSelection() && !m_printing)
     {
-        auto const frames = m_marks.Selection().Length();
+        std::uint64_t const frames = m_marks.Selection().Length();
         details += std::wstring(L"  \u00B7  ") + Text(L"selected") + L' ' +
                    workbench::FormatDuration(frames, info.sampleRate) + L" (" +
                    workbench::FormatFrequency(static_cast<double>(info.sampleRate) / static_cast<double>(frames)) +
@@ -734,7 +735,7 @@ std::wstring CWaveformView::LaneName(std::size_t index) const
 
 std::vector<workbench::MinMax> const & CWaveformView::Columns(std::size_t lane, int width)
 {
-    auto const range = m_marks.window.Shown();
+    workbench::FrameRange const range = m_marks.window.Shown();
     if (m_columns.empty() || m_columns[lane].size() != static_cast<std::size_t>(width) || m_columnsRange != range)
     {
         m_columns = m_detail->Columns(range, static_cast<std::size_t>(width));
@@ -757,8 +758,8 @@ void CWaveformView::DrawLane(CDC & dc, Lane const & lane, std::size_t index)
     CRect inside = lane.rect;
     inside.DeflateRect(1, 1);
     DrawSelection(dc, inside);
-    auto const shown = m_marks.window.Shown();
-    for (auto const & tick :
+    workbench::FrameRange const shown = m_marks.window.Shown();
+    for (workbench::TimeTick const & tick :
          workbench::TimeTicks(Seconds(shown.first), Seconds(shown.end), inside.Width(), m_metrics->X(44)))
     {
         dc.FillSolidRect(inside.left + tick.position, inside.top, 1, inside.Height(), Surroundings().grid);
@@ -768,36 +769,36 @@ void CWaveformView::DrawLane(CDC & dc, Lane const & lane, std::size_t index)
     // Each column reaches over to the one before it, so that steep slopes stay one line.
     auto const factor = static_cast<float>(workbench::AmplificationFactor(m_amplification));
     auto const y = [&](float amplitude) {
-        auto const limited = std::clamp(amplitude * factor, -1.0F, 1.0F);
+        float const limited = std::clamp(amplitude * factor, -1.0F, 1.0F);
         return lane.centre - static_cast<int>(std::lround(limited * static_cast<float>(lane.halfHeight)));
     };
-    auto const waveColour = Trace(index);
-    auto const clippedColour =
+    COLORREF const waveColour = Trace(index);
+    COLORREF const clippedColour =
         m_printing ? Farbtabellen::DruckFarbe(clipped_colour) : workbench::ClippedColour(m_colours);
-    auto const & columns = Columns(index, inside.Width());
-    auto previousTop = y(columns.front().greatest);
-    auto previousBottom = y(columns.front().least);
+    std::vector<workbench::MinMax> const & columns = Columns(index, inside.Width());
+    int previousTop = y(columns.front().greatest);
+    int previousBottom = y(columns.front().least);
     for (int i = 0; i < inside.Width(); ++i)
     {
         auto const & column = columns[static_cast<std::size_t>(i)];
-        auto const top = y(column.greatest);
-        auto const bottom = y(column.least);
-        auto const from = std::min(top, previousBottom);
-        auto const to = std::max(bottom, previousTop);
-        auto const clipped = column.greatest > 1.0F || column.least < -1.0F;
+        int const top = y(column.greatest);
+        int const bottom = y(column.least);
+        int const from = std::min(top, previousBottom);
+        int const to = std::max(bottom, previousTop);
+        bool const clipped = column.greatest > 1.0F || column.least < -1.0F;
         dc.FillSolidRect(inside.left + i, from, 1, to - from + 1, clipped ? clippedColour : waveColour);
         previousTop = top;
         previousBottom = bottom;
     }
     dc.Draw3dRect(lane.rect, m_plotColours.frame, m_plotColours.frame);
 
-    auto const name = LaneName(index);
+    std::wstring const name = LaneName(index);
     if (!name.empty() && lane.rect.Height() >= m_metrics->LineHeight() + m_metrics->Y(4))
     {
         // On a ground of its own, so that it is read over the waveform.
         CRect label(lane.rect.TopLeft(), TextSize(dc, name));
         label.OffsetRect(m_metrics->X(3), m_metrics->Y(2));
-        auto ground = label;
+        CRect ground = label;
         ground.InflateRect(m_metrics->X(2), 1);
         ground.left = lane.rect.left + 1;
         dc.FillSolidRect(ground, Surroundings().ground);
@@ -809,19 +810,20 @@ void CWaveformView::DrawLane(CDC & dc, Lane const & lane, std::size_t index)
 
 void CWaveformView::DrawLevelGrid(CDC & dc, Lane const & lane)
 {
-    auto const line = m_metrics->LineHeight();
+    int const line = m_metrics->LineHeight();
     auto const draw = [&](int y, std::wstring const & label, bool withLabel) {
         dc.FillSolidRect(lane.rect.left, y, lane.rect.Width(), 1, Surroundings().grid);
         if (withLabel)
         {
-            auto const size = TextSize(dc, label);
+            CSize const size = TextSize(dc, label);
             CRect const rect(0, y - line / 2, lane.rect.left - m_metrics->X(2), y - line / 2 + size.cy);
             dc.SetBkMode(TRANSPARENT);
             dc.SetTextColor(m_plotColours.label);
             DrawPlotText(dc, label, rect, DT_RIGHT | text_label);
         }
     };
-    for (auto const & level : workbench::LevelLines(lane.halfHeight, line + m_metrics->Y(1), m_amplification))
+    for (workbench::LevelLine const & level :
+         workbench::LevelLines(lane.halfHeight, line + m_metrics->Y(1), m_amplification))
     {
         auto const height = static_cast<int>(std::lround(level.amplitude * lane.halfHeight));
         draw(lane.centre - height, level.label, true);

@@ -11,12 +11,12 @@
 #include <vector>
 
 #include "BufferedView.h"
-#include "ScreenMetrics.h"
 #include "logic/ReadableColours.h"
 #include "logic/RecordingAnalysis.h"
 #include "logic/TimeMarks.h"
 #include "logic/WaveformColours.h"
 #include "logic/WaveformDetail.h"
+#include "ScreenMetrics.h"
 
 /// Shows one recording: a heading, a lane for each channel with its waveform on a level grid, and a time axis; or, in
 /// its middle, a text that says why there is nothing to see. The wheel and the keys zoom and scroll; while a part is

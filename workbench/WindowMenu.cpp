@@ -11,7 +11,7 @@ void CWindowMenu::SetMenu(CString const & text)
 
 CMenu * CWindowMenu::Menu() const
 {
-    auto const * const bar = CMenueManager::ApplicationMenue();
+    CMenu const * const bar = CMenueManager::ApplicationMenue();
     return bar != nullptr ? CMenueManager::FindSubMenue(*bar, m_text) : nullptr;
 }
 
@@ -29,8 +29,8 @@ UINT CWindowMenu::FreeId() const
 void CWindowMenu::Add(CWnd & window, CString const & text)
 {
     Remove(window);
-    auto * const menu = Menu();
-    auto const free = FreeId();
+    CMenu * const menu = Menu();
+    UINT const free = FreeId();
     if (menu == nullptr || free > ID_DIALOG_LAST)
     {
         return;
@@ -40,7 +40,7 @@ void CWindowMenu::Add(CWnd & window, CString const & text)
         m_manager.AppendSeparator(*menu);
     }
     m_manager.SetNewID(free);
-    if (auto const id = m_manager.AppendString(*menu, text); id != 0)
+    if (unsigned int const id = m_manager.AppendString(*menu, text); id != 0)
     {
         m_items.push_back({&window, id});
     }
@@ -54,7 +54,7 @@ void CWindowMenu::Remove(CWnd & window)
     {
         return;
     }
-    if (auto * const menu = Menu())
+    if (CMenu * const menu = Menu())
     {
         menu->DeleteMenu(static_cast<UINT>(CMenueManager::FindItem(*menu, found->id)), MF_BYPOSITION);
         if (m_items.size() == 1) // with the last one, the separator above it
@@ -73,7 +73,7 @@ bool CWindowMenu::Activate(UINT id)
     {
         return false;
     }
-    auto & window = *found->window;
+    CWnd & window = *found->window;
     if (window.IsIconic())
     {
         window.ShowWindow(SW_RESTORE);
@@ -93,8 +93,8 @@ bool CWindowMenu::Activate(UINT id)
 
 void CWindowMenu::CloseAll()
 {
-    auto const items = m_items; // each one that closes takes itself out
-    for (auto const & item : items)
+    std::vector<Item> const items = m_items; // each one that closes takes itself out
+    for (Item const & item : items)
     {
         if (std::ranges::find(m_items, item.window, &Item::window) == m_items.end())
         {

@@ -7,10 +7,10 @@
 #include <string>
 #include <vector>
 
+#include "frame/PreferenceStore.h"
 #include "MainWindow.h"
 #include "Settings.h"
 #include "Walk.h"
-#include "frame/PreferenceStore.h"
 
 namespace
 {
@@ -24,7 +24,7 @@ std::vector<std::wstring> Arguments()
 {
     std::vector<std::wstring> arguments;
     int count = 0;
-    auto * const texts = ::CommandLineToArgvW(::GetCommandLineW(), &count);
+    LPWSTR * const texts = ::CommandLineToArgvW(::GetCommandLineW(), &count);
     for (int i = 1; texts != nullptr && i < count; ++i)
     {
         arguments.emplace_back(texts[i]);
@@ -74,7 +74,7 @@ BOOL CWorkbenchApp::InitInstance()
     std::vector<std::filesystem::path> targets(m_commandLine.targets.begin(), m_commandLine.targets.end());
     if (targets.empty())
     {
-        auto const settings = workbench::ReadSettings();
+        workbench::Settings const settings = workbench::ReadSettings();
         targets = settings.startFolders.empty() ? settings.lastTargets : settings.startFolders;
     }
     m_mainWindow = std::make_unique<CMainWindow>();
@@ -97,7 +97,7 @@ BOOL CWorkbenchApp::InitInstance()
 void CWorkbenchApp::OnStartWalk(WPARAM, LPARAM)
 {
     CWalk walk(*m_mainWindow, m_commandLine.walkFolder);
-    auto const restarted = m_commandLine.mode == workbench::RunMode::walk_restart;
+    bool const restarted = m_commandLine.mode == workbench::RunMode::walk_restart;
     if (!(restarted ? walk.RunAfterRestart() : walk.Run()))
     {
         m_exitCode = 1;
@@ -114,6 +114,6 @@ int CWorkbenchApp::ExitInstance()
     m_pMainWnd = nullptr;
     m_graphics.reset();
     CVeskBase::SetPreferenceVesk(nullptr);
-    auto const result = CWinAppEx::ExitInstance();
+    int const result = CWinAppEx::ExitInstance();
     return m_exitCode != 0 ? m_exitCode : result;
 }

@@ -6,8 +6,8 @@
 #include <memory>
 
 #include "Graphics.h"
-#include "RegistryPreferenceStore.h"
 #include "logic/CommandLine.h"
+#include "RegistryPreferenceStore.h"
 
 class CMainWindow;
 

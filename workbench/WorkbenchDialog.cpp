@@ -62,7 +62,7 @@ void CWorkbenchDialog::ShowTemplateTexts(CString const & title)
 bool CWorkbenchDialog::Open(CString const & title)
 {
     SetTitle(title);
-    auto const opened = !IsOpen();
+    bool const opened = !IsOpen();
     if (opened)
     {
         // Activation would make a dialog opaque that is transparent while inactive, and so end its fading in.
@@ -107,7 +107,7 @@ void CWorkbenchDialog::Enlarge(CSize size)
     GetClientRect(&client);
     MONITORINFO screen{};
     screen.cbSize = sizeof screen;
-    auto const isStored = window.Width() > design.ptMinTrackSize.x || window.Height() > design.ptMinTrackSize.y;
+    bool const isStored = window.Width() > design.ptMinTrackSize.x || window.Height() > design.ptMinTrackSize.y;
     if (isStored || !::GetMonitorInfoW(::MonitorFromWindow(m_hWnd, MONITOR_DEFAULTTONEAREST), &screen))
     {
         return;
@@ -120,8 +120,8 @@ void CWorkbenchDialog::Enlarge(CSize size)
     auto const height =
         std::min<int>(std::max(wanted.Height(), client.Height()) + window.Height() - client.Height(), work.Height());
     // Around the middle that it has.
-    auto const left = window.CenterPoint().x - width / 2;
-    auto const top = window.CenterPoint().y - height / 2;
+    long const left = window.CenterPoint().x - width / 2;
+    long const top = window.CenterPoint().y - height / 2;
     SetWindowPos(nullptr, std::clamp<int>(left, work.left, work.right - width),
                  std::clamp<int>(top, work.top, work.bottom - height), width, height, SWP_NOZORDER | SWP_NOACTIVATE);
 }

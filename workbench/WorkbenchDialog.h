@@ -2,8 +2,8 @@
 
 #include <functional>
 
-#include "Settings.h"
 #include "dialogs/Dialog3d.h"
+#include "Settings.h"
 
 /// Moves a window to where all of it is on its screen, or its upper left corner if it is larger: a place that was kept
 /// when the screen was larger may lie beyond this one.

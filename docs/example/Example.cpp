@@ -3,6 +3,7 @@
 #include <afxwin.h>
 #include <instrument_ui.h>
 #include <RegistryPreferenceStore.h>
+
 #include <memory>
 
 class CExampleWindow : public CWnd

@@ -1,8 +1,8 @@
 // The small controls: colours of one's own, a slider that shows its level, a combo box and a list of ticks by number,
 // and a field with a browser.
-#include "Gallery.h"
-
 #include <map>
+
+#include "Gallery.h"
 
 std::map<int, CString> const channels = {{1, L"Left"}, {2, L"Right"}, {3, L"Centre"}, {4, L"Surround"}};
 
@@ -10,7 +10,7 @@ class CControlsWindow : public CGalleryWindow
 {
     void Fill() override
     {
-        auto const style = WS_CHILD | WS_VISIBLE | WS_TABSTOP;
+        long const style = WS_CHILD | WS_VISIBLE | WS_TABSTOP;
         m_record.Create(L"Record", style | BS_OWNERDRAW, CRect(10, 10, 130, 36), this, 1);
         m_record.SetColors(CColorControl::White, CColorControl::Red);
         m_record.SetHotBgColor(RGB(255, 90, 90));
@@ -34,7 +34,7 @@ class CControlsWindow : public CGalleryWindow
 
         m_tree.Create(style | WS_BORDER | TVS_HASLINES | TVS_HASBUTTONS | TVS_LINESATROOT, CRect(140, 80, 360, 180),
                       this, 6);
-        auto * const folder = m_tree.InsertTreeItem(L"Recordings", 0, 0, nullptr, 1, 100, TVI_LAST, -1);
+        HTREEITEM const folder = m_tree.InsertTreeItem(L"Recordings", 0, 0, nullptr, 1, 100, TVI_LAST, -1);
         for (auto const & [id, name] : channels)
         {
             m_tree.InsertTreeItem(name, 0, 0, folder, 2, id, TVI_LAST, -1);

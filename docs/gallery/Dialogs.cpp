@@ -22,7 +22,7 @@ private:
         D3dLayoutChild(IDOK, CEdges::BOTTOM_RIGHT(), nullptr);
         D3dLayoutChild(IDCANCEL, CEdges::BOTTOM_RIGHT(), nullptr);
         D3dLayoutComplete(CDialogResizer::RESIZE_BOTH);
-        for (auto const * const choice : {L"-6.0", L"-12.0", L"-20.0"})
+        for (wchar_t const * const choice : {L"-6.0", L"-12.0", L"-20.0"})
         {
             SendDlgItemMessage(level, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(choice));
         }

@@ -22,7 +22,7 @@ bool CGalleryWindow::Open(wchar_t const * title, CSize size)
     CRect place(CPoint(0, 0), size);
     ::AdjustWindowRect(place, WS_OVERLAPPEDWINDOW, FALSE);
     place.MoveToXY(40, 40);
-    auto const * const windowClass =
+    WCHAR const * const windowClass =
         AfxRegisterWndClass(0, ::LoadCursorW(nullptr, IDC_ARROW), ::GetSysColorBrush(COLOR_BTNFACE));
     if (!CreateEx(0, windowClass, title, WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, place, nullptr, 0))
     {
@@ -51,13 +51,13 @@ BOOL CGalleryApp::InitInstance()
 int CGalleryApp::ExitInstance()
 {
     CVeskBase::SetPreferenceVesk(nullptr);
-    auto const result = CWinAppEx::ExitInstance();
+    int const result = CWinAppEx::ExitInstance();
     return m_failed ? 1 : result;
 }
 
 BOOL CGalleryApp::OnIdle(LONG count)
 {
-    auto const more = CWinAppEx::OnIdle(count);
+    BOOL const more = CWinAppEx::OnIdle(count);
     if (m_picture.IsEmpty() || m_pMainWnd == nullptr || count < quiet_turns)
     {
         return more || !m_picture.IsEmpty();
@@ -71,6 +71,7 @@ BOOL CGalleryApp::OnIdle(LONG count)
 /// False if it could not be written, or shows nothing.
 bool CGalleryApp::TakePicture() const
 {
+    ::HideCaret(nullptr); // it would cover a letter
     CRect place;
     m_pMainWnd->GetWindowRect(place);
     CWindowDC screen(m_pMainWnd);
@@ -78,14 +79,14 @@ bool CGalleryApp::TakePicture() const
     CBitmap bitmap;
     memory.CreateCompatibleDC(&screen);
     bitmap.CreateCompatibleBitmap(&screen, place.Width(), place.Height());
-    auto * const former = memory.SelectObject(&bitmap);
+    CBitmap * const former = memory.SelectObject(&bitmap);
     memory.BitBlt(0, 0, place.Width(), place.Height(), &screen, 0, 0, SRCCOPY);
     std::vector<COLORREF> colours;
     for (int y = 0; y < place.Height(); y += 3)
     {
         for (int x = 0; x < place.Width() && colours.size() < least_colours; x += 3)
         {
-            auto const colour = memory.GetPixel(x, y);
+            COLORREF const colour = memory.GetPixel(x, y);
             if (std::find(colours.begin(), colours.end(), colour) == colours.end())
             {
                 colours.push_back(colour);
@@ -100,7 +101,7 @@ bool CGalleryApp::TakePicture() const
     {
         return false;
     }
-    auto isWritten = false;
+    bool isWritten = false;
     {
         Gdiplus::Bitmap picture(static_cast<HBITMAP>(bitmap), nullptr);
         isWritten = picture.Save(m_picture, &png_encoder, nullptr) == Gdiplus::Ok;

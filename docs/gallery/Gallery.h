@@ -5,7 +5,6 @@
 #include <afxwin.h>
 #include <afxwinappex.h>
 #include <instrument_ui.h>
-
 #include <MemoryPreferenceStore.h>
 
 /// A window with controls on it, whose end is the program's. Derive from it and fill it.

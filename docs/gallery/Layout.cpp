@@ -1,7 +1,7 @@
 // A layout that follows the window's size, and a window that comes back at its place and size.
-#include "Gallery.h"
-
 #include <memory>
+
+#include "Gallery.h"
 
 class CLayoutWindow : public CGalleryWindow
 {

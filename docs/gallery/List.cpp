@@ -1,7 +1,7 @@
 // The report list: a kind for each cell, a sort by values, and what a user changes told by a callable.
-#include "Gallery.h"
-
 #include <map>
+
+#include "Gallery.h"
 
 struct Recording
 {
@@ -32,9 +32,9 @@ class CListWindow : public CGalleryWindow
         m_list.AddColumn(L"Rating", LVCFMT_LEFT, 90);
         m_list.AddColumn(L"Keep", LVCFMT_CENTER, 50);
         m_list.SetBatchInsertMode(true); // one repaint for all that follows
-        for (auto const & recording : recordings)
+        for (Recording const & recording : recordings)
         {
-            auto const row = m_list.AddItem(recording.name, &recording, 0);
+            int const row = m_list.AddItem(recording.name, &recording, 0);
             m_list.SetHyperlink(row, 0, true, true);
             m_list.SetItemText(row, 1, recording.peak, L"%.1f");
             m_list.SetProgress(row, 2, true, nullptr);

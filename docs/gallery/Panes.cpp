@@ -19,13 +19,15 @@ class CMainFrame : public CMDIFrameWndEx, public CMainFrmInterface
 public:
     CMainFrame() : CMainFrmInterface(this) { base_id(id_base); }
 
-    /// Panes with views, at the sides where they go first; the workspace remembers where the user has put them.
+    /// Panes with views, at the sides where they go first; the workspace remembers where the user has put them. There
+    /// are no child frames here: the room of a client area that is hidden goes to the panes.
     void ShowPanes()
     {
         EnableDocking(CBRS_ALIGN_ANY);
+        ::ShowWindow(m_hWndMDIClient, SW_HIDE);
         for (auto const * const name : {L"Waveform", L"Levels", L"Marks"})
         {
-            auto id = -1; // a program keeps what it becomes
+            int id = -1; // a program keeps what it becomes
             CDockableViewPane * pane = nullptr;
             CStandaloneFrameMigrationHelper::CreatePane<CTextView>(name, id, pane);
             if (pane != nullptr)

@@ -1,14 +1,14 @@
 // Segment displays: the control in its colour schemes, and the painter on a view's own surface.
-#include "Gallery.h"
-
 #include <gdiplus.h>
+
+#include "Gallery.h"
 
 class CSegmentsWindow : public CGalleryWindow
 {
     void Fill() override
     {
-        auto top = 10;
-        for (auto & display : m_displays)
+        int top = 10;
+        for (CDigiStatic & display : m_displays)
         {
             display.Create(L"", WS_CHILD | WS_VISIBLE, CRect(10, top, 230, top + 40), this);
             display.SetColorScheme(static_cast<ColorScheme>(&display - m_displays));

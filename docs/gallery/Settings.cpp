@@ -1,7 +1,7 @@
 // The settings below the application's registry key go to one file and come back.
-#include "Gallery.h"
-
 #include <filesystem>
+
+#include "Gallery.h"
 
 using namespace registry_settings;
 
@@ -12,11 +12,11 @@ class CSettingsWindow : public CGalleryWindow
         CRect room;
         GetClientRect(room);
         m_report.Create(WS_CHILD | WS_VISIBLE | ES_MULTILINE | ES_READONLY, room, this, 1);
-        auto const folder = std::filesystem::temp_directory_path() / L"instrument gallery";
+        std::filesystem::path const folder = std::filesystem::temp_directory_path() / L"instrument gallery";
         std::filesystem::create_directories(folder);
-        auto const files = settings_files(folder);
+        settings_file_names const files = settings_files(folder);
 
-        auto & app = *AfxGetApp(); // below its registry key
+        CWinApp & app = *AfxGetApp(); // below its registry key
         app.WriteProfileInt(L"Trigger", L"Level", -12);
         app.WriteProfileString(L"Trigger", L"Channel", L"Left");
         RegistrySettingsTree tree([&app] { return app.GetAppRegistryKey(); });

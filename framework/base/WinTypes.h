@@ -5,7 +5,6 @@
 #if defined(_WIN32)
 
 #include <windows.h>
-
 #include <tchar.h>
 
 // The system's macro would swallow CTime::GetCurrentTime.

@@ -5,11 +5,8 @@
 #define __AFX_H__
 
 #include "afxver_.h"
-
 #include "atlstr.h"
-
 #include "atltime.h"
-
 #include "atltypes.h"
 
 #include <new>

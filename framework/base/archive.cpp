@@ -2,9 +2,6 @@
 
 #include "afx.h"
 
-#include "StackRoom.h"
-#include "StringText.h"
-
 #include <algorithm>
 #include <bit>
 #include <climits>
@@ -14,6 +11,9 @@
 #include <unordered_map>
 #include <utility>
 #include <vector>
+
+#include "StackRoom.h"
+#include "StringText.h"
 
 static_assert(std::endian::native == std::endian::little, "archives hold the least byte first");
 

@@ -2,12 +2,12 @@
 
 #include "afx.h"
 
-#include "framework_testing.h"
-
 #include <atomic>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+
+#include "framework_testing.h"
 
 namespace
 {

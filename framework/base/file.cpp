@@ -2,10 +2,10 @@
 
 #include "afx.h"
 
-#include "FilePlatform.h"
-
 #include <cstring>
 #include <memory>
+
+#include "FilePlatform.h"
 
 namespace files = framework::files;
 

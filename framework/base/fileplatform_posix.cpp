@@ -4,7 +4,10 @@
 
 #if !defined(_WIN32)
 
-#include "StringText.h"
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <cerrno>
 #include <climits>
@@ -12,10 +15,7 @@
 #include <filesystem>
 #include <string>
 
-#include <fcntl.h>
-#include <sys/file.h>
-#include <sys/stat.h>
-#include <unistd.h>
+#include "StringText.h"
 
 namespace
 {

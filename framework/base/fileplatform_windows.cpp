@@ -4,11 +4,11 @@
 
 #if defined(_WIN32)
 
+#include <fcntl.h>
 #include <io.h>
 
-#include <fcntl.h>
-#include <iterator>
 #include <cerrno>
+#include <iterator>
 
 namespace
 {

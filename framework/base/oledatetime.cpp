@@ -2,9 +2,9 @@
 
 #include "atlcomtime.h"
 
-#include "TimeText.h"
-
 #include <cmath>
+
+#include "TimeText.h"
 
 namespace
 {

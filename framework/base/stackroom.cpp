@@ -1,9 +1,9 @@
 #include "StackRoom.h"
 
-#include "WinTypes.h"
-
 #include <algorithm>
 #include <cstdint>
+
+#include "WinTypes.h"
 
 #if !defined(_WIN32)
 #include <pthread.h>
@@ -47,7 +47,7 @@ namespace framework
 bool StackIsLow()
 {
     thread_local Limits const limits = LimitsOfThread();
-    constexpr std::uintptr_t large = 256 * 1024;
+    constexpr std::uintptr_t large = std::uintptr_t{256} * 1024;
     std::uintptr_t const reserve = std::min(limits.size / 4, large);
     auto const here = reinterpret_cast<std::uintptr_t>(&reserve);
     return here - limits.low < reserve;

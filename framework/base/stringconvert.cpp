@@ -2,10 +2,10 @@
 
 #include "afx.h"
 
-#include "StringText.h"
-
 #include <cstdlib>
 #include <string>
+
+#include "StringText.h"
 
 #if !defined(_WIN32)
 namespace

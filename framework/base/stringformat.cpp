@@ -3,12 +3,12 @@
 
 #include "afx.h"
 
-#include "StringText.h"
-
 #include <climits>
 #include <cstdio>
 #include <optional>
 #include <vector>
+
+#include "StringText.h"
 
 namespace
 {

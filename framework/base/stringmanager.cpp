@@ -1,10 +1,10 @@
 // The framework's string manager. No string is used in this file: optimising one, the compiler would take the nil
 // string, which is never freed, for one that is.
 
-#include "StringServices.h"
-
 #include <cstdlib>
 #include <cstring>
+
+#include "StringServices.h"
 
 namespace
 {

@@ -2,10 +2,10 @@
 
 #include "afx.h"
 
-#include "TimeText.h"
-
 #include <cwchar>
 #include <iterator>
+
+#include "TimeText.h"
 
 namespace
 {

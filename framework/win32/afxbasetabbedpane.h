@@ -2,7 +2,6 @@
 // Panes that share a place by tabs.
 
 #include "afxdockablepane.h"
-
 #include <afxcoll.h>
 
 class FRAMEWORK_API CBaseTabbedPane : public CDockablePane

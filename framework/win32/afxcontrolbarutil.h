@@ -2,7 +2,6 @@
 // Double-buffered painting.
 
 #include <afxwin.h>
-
 #include <uxtheme.h>
 
 // Draws in memory, in the coordinates of the context it stands for, and copies what was drawn to it when it goes.

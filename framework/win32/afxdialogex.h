@@ -33,7 +33,6 @@ private:
     void ReleaseImage();
 
     CBrush m_brush;
-    COLORREF m_colour = CLR_INVALID;
     HBITMAP m_image = nullptr;
     CSize m_imageSize;
     BackgroundLocation m_location = BACKGR_TILE;

@@ -4,7 +4,6 @@
 #define __AFXDISP_H__
 
 #include <afxwin.h>
-
 #include <atlcomtime.h>
 
 /// Starts OLE for the thread, until the program's end. FALSE where another model has been started there.

@@ -4,7 +4,6 @@
 #define __AFXDLGS_H__
 
 #include <afxwin.h>
-
 #include <commdlg.h>
 
 #include "detail/propertysheet.h"

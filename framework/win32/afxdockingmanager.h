@@ -1,9 +1,9 @@
 #pragma once
 // What keeps the panes of a frame in their places.
 
-#include "detail/panestyles.h"
-
 #include <afxcoll.h>
+
+#include "detail/panestyles.h"
 
 class CFrameImpl;
 

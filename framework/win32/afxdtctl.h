@@ -4,7 +4,6 @@
 #define __AFXDTCTL_H__
 
 #include <afxcmn.h>
-
 #include <atlcomtime.h>
 
 #include "detail/ControlHandles.h"

@@ -2,7 +2,6 @@
 // An edit control with a button at its right end.
 
 #include <afxwin.h>
-
 #include <commdlg.h>
 
 class FRAMEWORK_API CMFCEditBrowseCtrl : public CEdit

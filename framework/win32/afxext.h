@@ -3,9 +3,8 @@
 
 #define __AFXEXT_H__
 
-#include <afxwin.h>
-
 #include <afxdlgs.h>
+#include <afxwin.h>
 
 #include "detail/bitmapbutton.h"
 #include "detail/controlbar.h"

@@ -1,9 +1,9 @@
 #pragma once
 // The frames of panes that float.
 
-#include "detail/panestyles.h"
-
 #include <memory>
+
+#include "detail/panestyles.h"
 
 /// A small frame that belongs to the main frame. Made and ended as panes float and leave it; deletes itself with its
 /// window.

@@ -1,9 +1,8 @@
 #pragma once
 // A property sheet whose pages tell it of their activation. Its look is that of tabs.
 
-#include <afxdlgs.h>
-
 #include "afxpropertypage.h"
+#include <afxdlgs.h>
 
 class FRAMEWORK_API CMFCPropertySheet : public CPropertySheet
 {

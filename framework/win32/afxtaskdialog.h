@@ -4,7 +4,6 @@
 #define __AFXTASKDIALOG_H__
 
 #include <afxwin.h>
-
 #include <commctrl.h>
 
 #include <vector>

@@ -3,36 +3,23 @@
 
 #define __AFXWIN_H__
 
+#include "afxmsg_.h"
+#include "afxres.h"
 #include <afx.h>
 #include <afxcoll.h>
 #include <afxtempl.h>
-
 #include <commctrl.h>
 #include <shellapi.h>
 #include <tchar.h>
 
-#include "afxres.h"
-
-#include "detail/cmdtarget.h"
-
-#include "detail/gdi.h"
-
-#include "detail/menu.h"
-
-#include "detail/wnd.h"
-
 #include "detail/app.h"
-
+#include "detail/cmdtarget.h"
 #include "detail/dialog.h"
-
-#include "detail/stdctrls.h"
-
-#include "detail/frame.h"
-
-#include "detail/view.h"
-
-#include "detail/scrollview.h"
-
 #include "detail/document.h"
-
-#include "afxmsg_.h"
+#include "detail/frame.h"
+#include "detail/gdi.h"
+#include "detail/menu.h"
+#include "detail/scrollview.h"
+#include "detail/stdctrls.h"
+#include "detail/view.h"
+#include "detail/wnd.h"

@@ -1,13 +1,13 @@
 // CWinApp: the application's start, end and message boxes.
 
-#include "detail/AppDocuments.h"
-#include "detail/ThreadState.h"
-#include "detail/WndAccess.h"
-
 #include <shlwapi.h>
 #include <shobjidl.h>
 
 #include <array>
+
+#include "detail/AppDocuments.h"
+#include "detail/ThreadState.h"
+#include "detail/WndAccess.h"
 
 IMPLEMENT_DYNAMIC(CWinApp, CWinThread)
 
@@ -85,7 +85,7 @@ CWinApp::CWinApp(LPCTSTR lpszAppName)
     m_hThread = nullptr;
     m_nThreadID = ::GetCurrentThreadId();
     m_bAutoDelete = FALSE;
-    auto & state = framework::CurrentThreadState();
+    framework::ThreadState & state = framework::CurrentThreadState();
     if (state.thread == nullptr)
         state.thread = this;
     AFX_MODULE_STATE * const module = AfxGetModuleState();
@@ -299,7 +299,7 @@ BOOL AFXAPI AfxWinInit(HINSTANCE hInstance, [[maybe_unused]] HINSTANCE hPrevInst
         framework::CurrentThreadState().thread = app;
         app->m_nThreadID = ::GetCurrentThreadId();
     }
-    auto & state = framework::CurrentThreadState();
+    framework::ThreadState & state = framework::CurrentThreadState();
     if (state.messageFilterHook == nullptr)
         state.messageFilterHook = ::SetWindowsHookEx(WH_MSGFILTER, MessageFilter, nullptr, ::GetCurrentThreadId());
     return TRUE;
@@ -307,7 +307,7 @@ BOOL AFXAPI AfxWinInit(HINSTANCE hInstance, [[maybe_unused]] HINSTANCE hPrevInst
 
 void AFXAPI AfxWinTerm()
 {
-    auto & state = framework::CurrentThreadState();
+    framework::ThreadState & state = framework::CurrentThreadState();
     if (state.messageFilterHook != nullptr)
         ::UnhookWindowsHookEx(std::exchange(state.messageFilterHook, nullptr));
     framework::DeleteTemporaryObjects();

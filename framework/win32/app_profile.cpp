@@ -1,9 +1,9 @@
 // CWinApp: settings in the registry or in an .INI file, and the command line.
 
-#include "detail/ThreadState.h"
-
 #include <cstdlib>
 #include <vector>
+
+#include "detail/ThreadState.h"
 
 namespace
 {

@@ -1,13 +1,14 @@
 // CWinApp: document templates, opening files, the files used last, help.
 
+#include "detail/AppDocuments.h"
+
 #include "afxadv.h"
 #include "afxdlgs.h"
-#include "detail/AppDocuments.h"
-#include "detail/FrameSupport.h"
-
 #include <shlwapi.h>
 
 #include <vector>
+
+#include "detail/FrameSupport.h"
 
 namespace
 {

@@ -1,7 +1,6 @@
 // CWinApp: the printer.
 
 #include <afxdlgs.h>
-
 #include <winspool.h>
 
 #include "detail/AppDocuments.h"

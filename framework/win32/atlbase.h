@@ -2,7 +2,6 @@
 // What programs without components use of ATL.
 
 #include <afx.h>
-
 #include <atlcomtime.h>
 
 #ifndef ATLASSERT

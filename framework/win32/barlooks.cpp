@@ -68,8 +68,10 @@ wchar_t framework::MnemonicOf(CString const & text)
         if (text[at] != L'&')
             continue;
         if (text[at + 1] != L'&')
+        {
             return static_cast<wchar_t>(
                 reinterpret_cast<UINT_PTR>(::CharUpper(reinterpret_cast<LPTSTR>(static_cast<UINT_PTR>(text[at + 1])))));
+        }
         ++at;
     }
     return 0;

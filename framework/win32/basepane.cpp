@@ -2,10 +2,11 @@
 
 #include "afxcontrolbars.h"
 #include "afxpriv.h"
-#include "detail/DockHost.h"
-#include "detail/FrameSupport.h"
 
 #include <algorithm>
+
+#include "detail/DockHost.h"
+#include "detail/FrameSupport.h"
 
 using framework::DockHost;
 using framework::PaneAccess;
@@ -465,8 +466,10 @@ LRESULT CBasePane::HandleSizeParent(WPARAM, LPARAM lParam)
     GetWindowRect(&present);
     ::MapWindowPoints(nullptr, ::GetParent(m_hWnd), reinterpret_cast<LPPOINT>(&present), 2);
     if (present != rect)
+    {
         layout.hDWP = ::DeferWindowPos(layout.hDWP, m_hWnd, nullptr, rect.left, rect.top, rect.Width(), rect.Height(),
                                        SWP_NOACTIVATE | SWP_NOZORDER);
+    }
     return 0;
 }
 

@@ -31,7 +31,7 @@ BOOL DispatchCommand(CCmdTarget * target, const AFX_MSGMAP_ENTRY & entry, UINT i
 
 const AFX_MSGMAP_ENTRY * FindEntry(const AFX_MSGMAP_ENTRY * entries, UINT message, UINT code, UINT id)
 {
-    for (auto entry = entries; entry->nSig != AfxSig_end; ++entry)
+    for (AFX_MSGMAP_ENTRY const * entry = entries; entry->nSig != AfxSig_end; ++entry)
     {
         if (entry->nMessage == message && entry->nCode == code && id >= entry->nID && id <= entry->nLastID)
             return entry;
@@ -122,9 +122,10 @@ BOOL CCmdTarget::OnCmdMsg(UINT nID, int nCode, void * pExtra, AFX_CMDHANDLERINFO
             message = HIWORD(code);
         code = LOWORD(code);
     }
-    for (auto map = framework::CmdTargetAccess::Map(*this); map->pfnGetBaseMap != nullptr; map = map->pfnGetBaseMap())
+    for (AFX_MSGMAP const * map = framework::CmdTargetAccess::Map(*this); map->pfnGetBaseMap != nullptr;
+         map = map->pfnGetBaseMap())
     {
-        if (auto const entry = framework::FindEntry(map->lpEntries, message, code, nID))
+        if (AFX_MSGMAP_ENTRY const * const entry = framework::FindEntry(map->lpEntries, message, code, nID))
             return framework::DispatchCommand(this, *entry, nID, pExtra, pHandlerInfo);
     }
     return FALSE;

@@ -2,9 +2,9 @@
 
 #include <afxcmn.h>
 
-#include "detail/ControlSupport.h"
-
 #include <algorithm>
+
+#include "detail/ControlSupport.h"
 
 IMPLEMENT_DYNAMIC(CTabCtrl, CWnd)
 IMPLEMENT_DYNAMIC(CStatusBarCtrl, CWnd)

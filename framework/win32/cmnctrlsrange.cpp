@@ -2,10 +2,10 @@
 
 #include <afxcmn.h>
 
-#include "detail/ControlSupport.h"
-
 #include <iterator>
 #include <vector>
+
+#include "detail/ControlSupport.h"
 
 IMPLEMENT_DYNAMIC(CProgressCtrl, CWnd)
 IMPLEMENT_DYNAMIC(CSliderCtrl, CWnd)

@@ -336,8 +336,10 @@ LRESULT CControlBar::HandleSizeParent(WPARAM, LPARAM lParam)
     GetWindowRect(&present);
     ::MapWindowPoints(nullptr, ::GetParent(m_hWnd), reinterpret_cast<LPPOINT>(&present), 2);
     if (present != rect)
+    {
         layout.hDWP = ::DeferWindowPos(layout.hDWP, m_hWnd, nullptr, rect.left, rect.top, rect.Width(), rect.Height(),
                                        SWP_NOACTIVATE | SWP_NOZORDER);
+    }
     return 0;
 }
 

@@ -2,10 +2,11 @@
 
 #include "afxcview.h"
 #include "afxext.h"
-#include "detail/FrameSupport.h"
-#include "detail/WndAccess.h"
 
 #include <vector>
+
+#include "detail/FrameSupport.h"
+#include "detail/WndAccess.h"
 
 IMPLEMENT_DYNCREATE(CListView, CCtrlView)
 IMPLEMENT_DYNCREATE(CTreeView, CCtrlView)

@@ -1,8 +1,8 @@
 // Colours, drawing attributes and mapping of device contexts.
 
-#include "detail/GdiHandles.h"
-
 #include <cstdlib>
+
+#include "detail/GdiHandles.h"
 
 using framework::OnBoth;
 

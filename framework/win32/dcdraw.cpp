@@ -1,9 +1,9 @@
 // Filling, frames, icons, bitmaps and pixels of device contexts.
 
-#include "detail/GdiHandles.h"
-
 #include <cstddef>
 #include <vector>
+
+#include "detail/GdiHandles.h"
 
 using framework::HandleOf;
 

@@ -2,8 +2,6 @@
 
 #include "detail/GdiHandles.h"
 
-using framework::HandleOf;
-
 IMPLEMENT_DYNAMIC(CMetaFileDC, CDC)
 
 namespace

@@ -1,8 +1,8 @@
 // Text and fonts of device contexts.
 
-#include "detail/GdiHandles.h"
-
 #include <vector>
+
+#include "detail/GdiHandles.h"
 
 using framework::HandleOf;
 using framework::OnBoth;

@@ -1,6 +1,7 @@
 // Device contexts of windows, and painting through a buffer.
 
 #include "afxcontrolbarutil.h"
+
 #include "detail/GdiHandles.h"
 
 using framework::HandleOf;

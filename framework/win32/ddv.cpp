@@ -1,9 +1,9 @@
 #include <afxwin.h>
 #include <commctrl.h>
 
-#include "detail/DataExchange.h"
-
 #include <cfloat>
+
+#include "detail/DataExchange.h"
 
 namespace framework
 {

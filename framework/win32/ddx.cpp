@@ -1,12 +1,12 @@
 #include <afxwin.h>
 #include <commctrl.h>
 
-#include "detail/DataExchange.h"
-
 #include <cerrno>
 #include <cfloat>
 #include <cwchar>
 #include <limits>
+
+#include "detail/DataExchange.h"
 
 CDataExchange::CDataExchange(CWnd * pDlgWnd, BOOL bSaveAndValidate)
     : m_bSaveAndValidate(bSaveAndValidate),

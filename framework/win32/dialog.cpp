@@ -1,5 +1,5 @@
-#include <afxwin.h>
 #include <afxpriv.h>
+#include <afxwin.h>
 
 #include "detail/DialogAccess.h"
 #include "detail/ModalOwner.h"

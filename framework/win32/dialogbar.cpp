@@ -42,7 +42,7 @@ BOOL CDialogBar::Create(CWnd * pParentWnd, LPCTSTR lpszTemplateName, UINT nStyle
     HINSTANCE const module = AfxFindResourceHandle(lpszTemplateName, RT_DIALOG);
     HRSRC const found = ::FindResource(module, lpszTemplateName, RT_DIALOG);
     HGLOBAL const loaded = found != nullptr ? ::LoadResource(module, found) : nullptr;
-    auto const * const dialogTemplate =
+    DLGTEMPLATE const * const dialogTemplate =
         loaded != nullptr ? static_cast<LPCDLGTEMPLATE>(::LockResource(loaded)) : nullptr;
     if (dialogTemplate == nullptr)
     {

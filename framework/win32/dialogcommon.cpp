@@ -1,9 +1,9 @@
 #include <afxdlgs.h>
 
+#include <cstring>
+
 #include "detail/DialogAccess.h"
 #include "detail/ModalOwner.h"
-
-#include <cstring>
 
 namespace
 {

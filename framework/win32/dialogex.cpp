@@ -41,7 +41,6 @@ void CDialogEx::ReleaseImage()
 void CDialogEx::SetBackgroundColor(COLORREF color, BOOL bRepaint)
 {
     m_brush.DeleteObject();
-    m_colour = color;
     if (color != CLR_INVALID)
         m_brush.CreateSolidBrush(color);
     if (bRepaint && GetSafeHwnd() != nullptr)

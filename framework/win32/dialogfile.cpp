@@ -1,12 +1,11 @@
 #include <afxdlgs.h>
-
-#include "detail/DialogAccess.h"
-#include "detail/ModalOwner.h"
-
 #include <dlgs.h>
 #include <shobjidl.h>
 
 #include <cstring>
+
+#include "detail/DialogAccess.h"
+#include "detail/ModalOwner.h"
 
 namespace
 {

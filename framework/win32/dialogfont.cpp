@@ -1,12 +1,12 @@
 // CFontDialog.
 
-#include <afxwin.h>
 #include <afxdlgs.h>
+#include <afxwin.h>
+
+#include <cstring>
 
 #include "detail/CommonDialogHook.h"
 #include "detail/ModalOwner.h"
-
-#include <cstring>
 
 IMPLEMENT_DYNAMIC(CFontDialog, CCommonDialog)
 
@@ -45,8 +45,10 @@ CFontDialog::CFontDialog(CHARFORMAT const & charformat, DWORD dwFlags, CDC * pdc
     if ((mask & CFM_FACE) != 0)
         ::lstrcpyn(m_font.lfFaceName, charformat.szFaceName, LF_FACESIZE);
     if ((mask & CFM_COLOR) != 0)
+    {
         m_cf.rgbColors =
             (charformat.dwEffects & CFE_AUTOCOLOR) != 0 ? ::GetSysColor(COLOR_WINDOWTEXT) : charformat.crTextColor;
+    }
 }
 
 CFontDialog::~CFontDialog() = default;

@@ -1,12 +1,12 @@
 // The dialogs for printers and pages.
 
-#include <afxwin.h>
 #include <afxdlgs.h>
+#include <afxwin.h>
+
+#include <cstring>
 
 #include "detail/CommonDialogHook.h"
 #include "detail/ModalOwner.h"
-
-#include <cstring>
 
 IMPLEMENT_DYNAMIC(CPrintDialog, CCommonDialog)
 IMPLEMENT_DYNAMIC(CPageSetupDialog, CCommonDialog)

@@ -1,10 +1,11 @@
 // CDockablePane: a pane with a caption.
 
 #include "afxcontrolbars.h"
-#include "detail/DockHost.h"
-#include "detail/FrameSupport.h"
 
 #include <algorithm>
+
+#include "detail/DockHost.h"
+#include "detail/FrameSupport.h"
 
 using framework::DockHost;
 using framework::WindowGuard;
@@ -305,8 +306,10 @@ void CDockablePane::EnableGripper(BOOL bEnable)
 {
     CPane::EnableGripper(bEnable);
     if (m_hWnd != nullptr)
+    {
         CWnd::SetWindowPos(nullptr, 0, 0, 0, 0,
                            SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
+    }
 }
 
 int CDockablePane::GetCaptionHeight() const

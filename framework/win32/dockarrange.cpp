@@ -2,12 +2,13 @@
 
 #include "afxcontrolbars.h"
 #include "afxpriv.h"
+
+#include <algorithm>
+
 #include "detail/ChildWalk.h"
 #include "detail/DockDrag.h"
 #include "detail/DockHost.h"
 #include "detail/FrameSupport.h"
-
-#include <algorithm>
 
 namespace framework
 {
@@ -158,8 +159,10 @@ bool DockHost::Adopt(CDockablePane & pane, CWnd & parent)
         return false;
     // Not to be seen where it doesn't belong.
     if (Shows(pane.m_hWnd))
+    {
         pane.CWnd::SetWindowPos(nullptr, 0, 0, 0, 0,
                                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_HIDEWINDOW);
+    }
     if (!life || !guard.Alive() || !parentGuard.Alive())
         return false;
     ::SetParent(pane.m_hWnd, parent.m_hWnd);
@@ -271,8 +274,10 @@ bool DockHost::HideRest()
         if (folded && m_slid == id)
             continue;
         if (Shows(pane->m_hWnd))
+        {
             pane->CWnd::SetWindowPos(nullptr, 0, 0, 0, 0,
                                      SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_HIDEWINDOW);
+        }
         if (!life || m_again)
             return false;
     }
@@ -572,8 +577,10 @@ bool DockHost::ArrangeMain()
         ::GetWindowRect(centre, &present);
         ::MapWindowPoints(nullptr, m_frame.m_hWnd, reinterpret_cast<POINT *>(&present), 2);
         if (present != m_centre)
+        {
             moves.push_back(WINDOWPOS{centre, nullptr, m_centre.left, m_centre.top, m_centre.Width(), m_centre.Height(),
                                       SWP_NOACTIVATE | SWP_NOZORDER});
+        }
     }
     MoveAll(m_frame, moves, bars.hDWP);
     if (!life || m_again)

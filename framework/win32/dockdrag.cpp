@@ -3,9 +3,10 @@
 #include "detail/DockDrag.h"
 
 #include "afxcontrolbars.h"
-#include "detail/FrameSupport.h"
 
 #include <algorithm>
+
+#include "detail/FrameSupport.h"
 
 namespace framework
 {

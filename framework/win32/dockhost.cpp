@@ -3,10 +3,11 @@
 #include "detail/DockHost.h"
 
 #include "afxcontrolbars.h"
-#include "detail/DockDrag.h"
-#include "detail/FrameSupport.h"
 
 #include <algorithm>
+
+#include "detail/DockDrag.h"
+#include "detail/FrameSupport.h"
 
 namespace framework
 {

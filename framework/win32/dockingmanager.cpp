@@ -1,13 +1,13 @@
 // CDockingManager, and what the extended main frames have of it.
 
 #include "afxcontrolbars.h"
-#include "detail/DockHost.h"
-#include "detail/FrameSupport.h"
 
 #include <algorithm>
 
+#include "detail/DockHost.h"
+#include "detail/FrameSupport.h"
+
 using framework::DockHost;
-using framework::DockPlace;
 using framework::DockSide;
 using framework::WindowGuard;
 

@@ -1,12 +1,12 @@
 // Where panes that users drag would land, and what happens when they do.
 
-#include "detail/DockHost.h"
-
 #include "afxcontrolbars.h"
-#include "detail/DockDrag.h"
-#include "detail/FrameSupport.h"
 
 #include <algorithm>
+
+#include "detail/DockDrag.h"
+#include "detail/DockHost.h"
+#include "detail/FrameSupport.h"
 
 namespace framework
 {
@@ -70,8 +70,9 @@ static std::optional<DockSide> NearEdge(CRect const & rect, CPoint point, int mo
                                                   {point.y - rect.top, DockSide::Top},
                                                   {rect.right - 1 - point.x, DockSide::Right},
                                                   {rect.bottom - 1 - point.y, DockSide::Bottom}};
-    auto const nearest = std::min_element(std::begin(distances), std::end(distances),
-                                          [](auto const & one, auto const & other) { return one.first < other.first; });
+    std::pair<int, DockSide> const * const nearest =
+        std::min_element(std::begin(distances), std::end(distances),
+                         [](auto const & one, auto const & other) { return one.first < other.first; });
     return nearest->first >= 0 && nearest->first < zone ? std::optional(nearest->second) : std::nullopt;
 }
 
@@ -112,7 +113,8 @@ DockLanding DockHost::FindLanding(DockContent const & content, CPoint screen, CP
         CPoint point(screen);
         parent->ScreenToClient(&point);
         CRect const space = SpaceOf(*over);
-        auto const side = *over == 0 ? NearEdge(space, point, m_sizes.sensitivity / 3) : std::nullopt;
+        std::optional<DockSide> const side =
+            *over == 0 ? NearEdge(space, point, m_sizes.sensitivity / 3) : std::nullopt;
         if (side && (enabled & AlignmentOf(*side)) != 0)
         {
             landing.kind = DockLanding::Kind::Side;
@@ -147,7 +149,7 @@ DockLanding DockHost::FindLanding(DockContent const & content, CPoint screen, CP
                     landing.index = TabIndexAt(*tabbed, screen, moved);
                 break;
             }
-            if (auto const edge =
+            if (std::optional<DockSide> const edge =
                     NearEdge(group.rect, point, std::max(2 * m_sizes.sensitivity, group.rect.Width() / 5)))
             {
                 landing.kind = DockLanding::Kind::Beside;
@@ -159,7 +161,7 @@ DockLanding DockHost::FindLanding(DockContent const & content, CPoint screen, CP
         CRect const centre = plan.centre.value_or(*over == 0 && plan.groups.empty() ? space : CRect(0, 0, 0, 0));
         if (landing.kind == DockLanding::Kind::None && centre.PtInRect(point))
         {
-            auto const inner = NearEdge(centre, point, 2 * m_sizes.sensitivity);
+            std::optional<DockSide> const inner = NearEdge(centre, point, 2 * m_sizes.sensitivity);
             if (inner && (enabled & AlignmentOf(*inner)) != 0)
             {
                 landing.kind = DockLanding::Kind::Side;

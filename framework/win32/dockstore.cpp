@@ -1,12 +1,12 @@
 // The panes of a frame: what is kept of them, and how it comes back.
 
-#include "detail/DockHost.h"
-
 #include "afxcontrolbars.h"
-#include "detail/DockDrag.h"
-#include "detail/FrameSupport.h"
 
 #include <algorithm>
+
+#include "detail/DockDrag.h"
+#include "detail/DockHost.h"
+#include "detail/FrameSupport.h"
 
 namespace framework
 {

@@ -1,10 +1,10 @@
 // Document templates: how documents, frames and views are made together.
 
-#include "detail/FrameSupport.h"
-
 #include <shlwapi.h>
 
 #include <vector>
+
+#include "detail/FrameSupport.h"
 
 using framework::DocumentAccess;
 using framework::DocumentWatch;

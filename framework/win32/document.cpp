@@ -1,12 +1,12 @@
 // CDocument: title, path, views, saving and closing.
 
-#include "detail/FrameSupport.h"
-#include "detail/WndAccess.h"
-
 #include <shlwapi.h>
 
 #include <unordered_set>
 #include <vector>
+
+#include "detail/FrameSupport.h"
+#include "detail/WndAccess.h"
 
 using framework::DocumentWatch;
 using framework::WindowGuard;

@@ -1,10 +1,10 @@
 // CDocument: its file.
 
-#include "detail/FrameSupport.h"
-
 #include <iterator>
 #include <memory>
 #include <utility>
+
+#include "detail/FrameSupport.h"
 
 using framework::DocumentWatch;
 

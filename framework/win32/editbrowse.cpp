@@ -1,6 +1,5 @@
-#include <afxeditbrowsectrl.h>
-
 #include <afxdlgs.h>
+#include <afxeditbrowsectrl.h>
 
 #include <algorithm>
 

@@ -1,6 +1,7 @@
 // CFormView: a view with the controls of a dialog template.
 
 #include "afxpriv.h"
+
 #include "detail/FrameSupport.h"
 #include "detail/WndAccess.h"
 

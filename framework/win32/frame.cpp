@@ -1,12 +1,13 @@
 // CFrameWnd: creation, its active view, its end.
 
 #include "afxpriv.h"
+
+#include <cwchar>
+
 #include "detail/FrameSupport.h"
 #include "detail/MenuMode.h"
 #include "detail/ThreadState.h"
 #include "detail/WndAccess.h"
-
-#include <cwchar>
 
 using framework::WindowGuard;
 

@@ -1,12 +1,12 @@
 // CFrameWnd: commands, menus, titles, message texts, layout.
 
 #include "afxpriv.h"
+#include <shellapi.h>
+
 #include "detail/FrameSupport.h"
 #include "detail/MenuMode.h"
 #include "detail/ThreadState.h"
 #include "detail/WndAccess.h"
-
-#include <shellapi.h>
 
 using framework::CmdUiAccess;
 using framework::WindowGuard;

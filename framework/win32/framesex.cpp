@@ -2,6 +2,7 @@
 
 #include "afxcontrolbars.h"
 #include "afxpriv.h"
+
 #include "detail/DockHost.h"
 #include "detail/FrameSupport.h"
 

@@ -1,8 +1,8 @@
 // Pens, brushes, fonts and bitmaps.
 
-#include "detail/GdiHandles.h"
-
 #include <cstdlib>
+
+#include "detail/GdiHandles.h"
 
 using framework::HandleOf;
 using framework::MaybeNull;

@@ -1,4 +1,5 @@
 #include "detail/imagelist.h"
+
 #include "detail/GdiHandles.h"
 #include "detail/ThreadState.h"
 

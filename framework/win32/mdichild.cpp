@@ -1,6 +1,7 @@
 // CMDIChildWnd: a frame inside another.
 
 #include "afxpriv.h"
+
 #include "detail/FrameSupport.h"
 #include "detail/MenuMode.h"
 #include "detail/WndAccess.h"
@@ -340,8 +341,10 @@ void CMDIChildWnd::SetMenuOfFrame(HMENU hMenu)
     if (hMenu == nullptr)
         hMenu = frame->m_defaultMenu;
     if (hMenu != nullptr && hMenu != ::GetMenu(frame->m_hWnd))
+    {
         ::SendMessage(frame->m_hWndMDIClient, WM_MDISETMENU, reinterpret_cast<WPARAM>(hMenu),
                       reinterpret_cast<LPARAM>(frame->GetWindowMenuPopup(hMenu)));
+    }
     else
         ::SendMessage(frame->m_hWndMDIClient, WM_MDIREFRESHMENU, 0, 0);
 }

@@ -1,6 +1,7 @@
 // CMDIFrameWnd: the frame around child frames.
 
 #include "afxpriv.h"
+
 #include "detail/FrameSupport.h"
 #include "detail/MenuMode.h"
 #include "detail/WndAccess.h"
@@ -230,8 +231,10 @@ void CMDIFrameWnd::OnUpdateFrameMenu(HMENU hMenuAlt)
     if (CMDIChildWnd * const child = MDIGetActive())
         child->UpdateMenu(TRUE, child, hMenuAlt);
     else if (!framework::ShowMenuInBar(m_hWnd, hMenuAlt))
+    {
         ::SendMessage(m_hWndMDIClient, WM_MDISETMENU,
                       reinterpret_cast<WPARAM>(hMenuAlt != nullptr ? hMenuAlt : m_defaultMenu), 0);
+    }
 }
 
 BOOL CMDIFrameWnd::PreTranslateMessage(MSG * pMsg)

@@ -5,10 +5,10 @@
 #include "afxmenubar.h"
 #include "afxpopupmenu.h"
 
+#include <utility>
+
 #include "detail/BarLooks.h"
 #include "detail/FrameSupport.h"
-
-#include <utility>
 
 namespace
 {

@@ -2,11 +2,11 @@
 
 #include "afxmenubar.h"
 
+#include <algorithm>
+
 #include "detail/BarLooks.h"
 #include "detail/FrameSupport.h"
 #include "detail/MenuMode.h"
-
-#include <algorithm>
 
 using framework::MenuMode;
 using framework::Scaled;

@@ -1,17 +1,16 @@
 // CMFCPopupMenu: a menu in a window of its own.
 
 #include "afxpopupmenu.h"
-
 #include <afxframewndex.h>
 #include <afxmdiframewndex.h>
 #include <afxmenubar.h>
+
+#include <algorithm>
 
 #include "detail/BarLooks.h"
 #include "detail/FrameSupport.h"
 #include "detail/MenuMode.h"
 #include "detail/WndAccess.h"
-
-#include <algorithm>
 
 using framework::MenuMode;
 using framework::Scaled;

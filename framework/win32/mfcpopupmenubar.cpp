@@ -2,12 +2,12 @@
 
 #include "afxpopupmenu.h"
 
+#include <algorithm>
+#include <numeric>
+
 #include "detail/BarLooks.h"
 #include "detail/FrameSupport.h"
 #include "detail/MenuMode.h"
-
-#include <algorithm>
-#include <numeric>
 
 using framework::MenuMode;
 using framework::Scaled;

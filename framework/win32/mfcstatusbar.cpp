@@ -1,14 +1,13 @@
 // CMFCStatusBar.
 
 #include "afxstatusbar.h"
-
 #include <afxpriv.h>
+
+#include <algorithm>
 
 #include "detail/BarLooks.h"
 #include "detail/FrameSupport.h"
 #include "detail/WndAccess.h"
-
-#include <algorithm>
 
 using framework::Scaled;
 using framework::WindowGuard;
@@ -497,8 +496,10 @@ void CMFCStatusBar::OnDrawPane(CDC * pDC, CMFCStatusBarPaneInfo * pPane)
         COLORREF const first = Or(pPane->clrProgressBar, COLOR_HIGHLIGHT);
         COLORREF const last = pPane->clrProgressBarDest != not_given ? pPane->clrProgressBarDest : first;
         for (int x = done.left; x < done.right; ++x)
+        {
             pDC->FillSolidRect(x, done.top, 1, done.Height(),
                                framework::Between(first, last, (x - rect.left) * 100 / std::max(rect.Width(), 1)));
+        }
         if (!pPane->bProgressText)
             return;
         text.Format(L"%d%%",

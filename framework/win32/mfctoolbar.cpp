@@ -1,16 +1,15 @@
 // CMFCBaseToolBar, CMFCToolBar: buttons, pictures, layout, painting, states.
 
 #include "afxtoolbar.h"
-
 #include <afxpriv.h>
+
+#include <algorithm>
+#include <map>
 
 #include "detail/BarLooks.h"
 #include "detail/FrameSupport.h"
 #include "detail/MenuMode.h"
 #include "detail/WndAccess.h"
-
-#include <algorithm>
-#include <map>
 
 using framework::Scaled;
 using framework::WindowGuard;
@@ -111,8 +110,10 @@ private:
     void Change(LONG remove, LONG add)
     {
         if (CMFCToolBarButton const * const button = Button())
+        {
             Bar()->SetButtonStyle(static_cast<int>(m_nIndex),
                                   (button->m_nStyle & ~static_cast<UINT>(remove)) | static_cast<UINT>(add));
+        }
     }
 
     WindowGuard m_guard;
@@ -797,8 +798,10 @@ int CMFCToolBar::CalcMaxButtonHeight()
     framework::MeasureDC dc;
     int height = 0;
     for (POSITION at = m_buttons.GetHeadPosition(); at != nullptr;)
+    {
         height =
             std::max<int>(height, SizeOf(dc.Get(), *static_cast<CMFCToolBarButton *>(m_buttons.GetNext(at)), true).cy);
+    }
     return height;
 }
 

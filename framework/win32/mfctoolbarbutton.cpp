@@ -3,13 +3,12 @@
 #include "afxpopupmenu.h"
 #include "afxtoolbar.h"
 
+#include <algorithm>
+
 #include "detail/BarLooks.h"
 #include "detail/FrameSupport.h"
 #include "detail/MenuMode.h"
 
-#include <algorithm>
-
-using framework::Between;
 using framework::DrawMark;
 using framework::LabelExtent;
 using framework::Mark;
@@ -628,9 +627,11 @@ void CMFCToolBarMenuButton::DrawItem(CDC & dc, CRect const & rect, CMFCToolBarIm
         CSize const size = images->GetImageSize(TRUE);
         CPoint const at(mark.left + (mark.Width() - size.cx) / 2, mark.top + (mark.Height() - size.cy) / 2);
         if (checked)
+        {
             FillButton(
                 dc, CRect(at.x - Scaled(2), at.y - Scaled(2), at.x + size.cx + Scaled(2), at.y + size.cy + Scaled(2)),
                 framework::HotColour());
+        }
         images->Draw(&dc, at.x, at.y, m_iImage, FALSE, disabled);
     }
     else if (checked)
@@ -662,6 +663,8 @@ void CMFCToolBarMenuButton::DrawItem(CDC & dc, CRect const & rect, CMFCToolBarIm
     if (previous != nullptr)
         ::SelectObject(dc.m_hDC, previous);
     if (HasMenu())
+    {
         DrawMark(dc, CRect(rect.right - Scaled(arrow_width), rect.top, rect.right, rect.bottom), Mark::ArrowRight,
                  colour);
+    }
 }

@@ -2,10 +2,10 @@
 
 #include "afxtoolbarimages.h"
 
-#include "detail/BarLooks.h"
-
 #include <algorithm>
 #include <cstring>
+
+#include "detail/BarLooks.h"
 
 IMPLEMENT_DYNCREATE(CMFCToolBarImages, CObject)
 
@@ -269,8 +269,10 @@ std::vector<DWORD> CMFCToolBarImages::Rendered(Image const & image, CSize size, 
     for (int y = 0; y < size.cy; ++y)
     {
         for (int x = 0; x < size.cx; ++x)
+        {
             result.push_back(Between(source, m_size, (2 * x + 1) * m_size.cx * 128 / size.cx - 128,
                                      (2 * y + 1) * m_size.cy * 128 / size.cy - 128));
+        }
     }
     return result;
 }

@@ -1,15 +1,14 @@
 // CMFCToolBar: mouse, keys, commands, tool tips.
 
 #include "afxtoolbar.h"
-
 #include <afxpriv.h>
+
+#include <algorithm>
 
 #include "detail/BarLooks.h"
 #include "detail/FrameSupport.h"
 #include "detail/MenuMode.h"
 #include "detail/WndAccess.h"
-
-#include <algorithm>
 
 using framework::MenuMode;
 using framework::WindowGuard;

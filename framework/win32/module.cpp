@@ -1,9 +1,9 @@
 // Modules: the current instance and resources, and the chain of extension modules.
 
+#include <mutex>
+
 #include "detail/ThreadState.h"
 #include "detail/WndAccess.h"
-
-#include <mutex>
 
 IMPLEMENT_DYNAMIC(CDynLinkLibrary, CCmdTarget)
 
@@ -36,7 +36,8 @@ template <class Test> HMODULE FindModule(Test test)
     std::lock_guard const lock(ChainMutex());
     for (bool const system : {false, true})
     {
-        for (auto library = AfxGetModuleState()->m_pFirstLibrary; library != nullptr; library = library->m_pNextDLL)
+        for (CDynLinkLibrary * library = AfxGetModuleState()->m_pFirstLibrary; library != nullptr;
+             library = library->m_pNextDLL)
         {
             if ((library->m_bSystem != FALSE) == system && library->m_hResource != nullptr &&
                 test(library->m_hResource))
@@ -74,8 +75,6 @@ AFX_MODULE_STATE::AFX_MODULE_STATE(HINSTANCE hInstance)
       m_pFirstLibrary(nullptr)
 {
 }
-
-AFX_MODULE_STATE::~AFX_MODULE_STATE() = default;
 
 AFX_MODULE_STATE * AFXAPI AfxGetAppModuleState()
 {
@@ -133,7 +132,7 @@ void CDynLinkLibrary::Hook()
 CDynLinkLibrary::~CDynLinkLibrary()
 {
     std::lock_guard const lock(ChainMutex());
-    for (auto link = &m_state->m_pFirstLibrary; *link != nullptr; link = &(*link)->m_pNextDLL)
+    for (CDynLinkLibrary ** link = &m_state->m_pFirstLibrary; *link != nullptr; link = &(*link)->m_pNextDLL)
     {
         if (*link != this)
             continue;

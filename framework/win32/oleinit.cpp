@@ -1,7 +1,6 @@
 // The start and end of OLE.
 
 #include <afxdisp.h>
-
 #include <ole2.h>
 
 namespace

@@ -2,13 +2,12 @@
 
 #include "afxcontrolbars.h"
 #include "afxcontrolbarutil.h"
-#include "detail/DockHost.h"
-#include "detail/FrameSupport.h"
 
 #include <algorithm>
 
-using framework::DockHost;
-using framework::DockSide;
+#include "detail/DockHost.h"
+#include "detail/FrameSupport.h"
+
 using framework::WindowGuard;
 
 IMPLEMENT_DYNCREATE(CPaneDivider, CBasePane)
@@ -129,7 +128,7 @@ void CMFCAutoHideBar::OnDestroy()
 
 CDockablePane * CMFCAutoHideBar::GetFirstAHWindow()
 {
-    auto const buttons = framework::StripButtons(*this);
+    std::vector<std::pair<UINT, CRect>> const buttons = framework::StripButtons(*this);
     return buttons.empty() || m_host == nullptr ? nullptr : m_host->Pane(buttons.front().first);
 }
 

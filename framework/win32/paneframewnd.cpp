@@ -1,10 +1,11 @@
 // CPaneFrameWnd: the frame of floating panes.
 
 #include "afxcontrolbars.h"
-#include "detail/DockHost.h"
-#include "detail/FrameSupport.h"
 
 #include <algorithm>
+
+#include "detail/DockHost.h"
+#include "detail/FrameSupport.h"
 
 using framework::DockHost;
 using framework::WindowGuard;
@@ -101,7 +102,8 @@ CDockingManager * CPaneFrameWnd::GetDockingManager() const
 
 CRect CPaneFrameWnd::GetRecentFloatingRect() const
 {
-    auto const * const frame = m_host != nullptr ? m_host->Layout().FindFrame(m_floatId) : nullptr;
+    framework::DockLayout::Frame const * const frame =
+        m_host != nullptr ? m_host->Layout().FindFrame(m_floatId) : nullptr;
     return frame != nullptr ? frame->rect : CRect(0, 0, 0, 0);
 }
 

@@ -1,11 +1,12 @@
 // The menu of a pane's caption.
 
 #include "afxcontrolbars.h"
-#include "detail/DockHost.h"
-#include "detail/FrameSupport.h"
 
 #include <algorithm>
 #include <iterator>
+
+#include "detail/DockHost.h"
+#include "detail/FrameSupport.h"
 
 namespace framework
 {

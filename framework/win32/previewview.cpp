@@ -1,8 +1,7 @@
 // The print preview: CPreviewView, how it comes and goes, and its pages.
 
-#include <afxpriv.h>
-
 #include <afxdlgs.h>
+#include <afxpriv.h>
 
 #include <algorithm>
 #include <cstdlib>

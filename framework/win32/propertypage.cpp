@@ -1,7 +1,7 @@
+#include <utility>
+
 #include "detail/DialogAccess.h"
 #include "detail/SheetWindow.h"
-
-#include <utility>
 
 using framework::PageLink;
 using framework::PropertySheetAccess;

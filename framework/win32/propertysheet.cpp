@@ -1,12 +1,12 @@
 #include <afxcmn.h>
 
+#include <algorithm>
+#include <cstring>
+
 #include "detail/DialogAccess.h"
 #include "detail/ModalOwner.h"
 #include "detail/SheetWindow.h"
 #include "detail/WndAccess.h"
-
-#include <algorithm>
-#include <cstring>
 
 using framework::PropertySheetAccess;
 using framework::SheetPage;
@@ -105,7 +105,7 @@ CPropertySheet::CPropertySheet(LPCTSTR pszCaption, CWnd * pParentWnd, UINT iSele
 
 CPropertySheet::~CPropertySheet()
 {
-    if (auto const window = m_sheetState.window)
+    if (std::shared_ptr<SheetWindow> const window = m_sheetState.window)
     {
         window->ForgetObject();
         if (m_hWnd != nullptr && window->PutOffEnd())
@@ -301,7 +301,7 @@ BOOL CPropertySheet::ContinueModal()
 
 BOOL CPropertySheet::DestroyWindow()
 {
-    auto const window = m_sheetState.window;
+    std::shared_ptr<SheetWindow> const window = m_sheetState.window;
     if (m_hWnd != nullptr && window != nullptr)
     {
         if (window->PutOffEnd())
@@ -313,7 +313,7 @@ BOOL CPropertySheet::DestroyWindow()
 
 LRESULT CPropertySheet::HandleInitDialog(WPARAM, LPARAM)
 {
-    auto const window = m_sheetState.window;
+    std::shared_ptr<SheetWindow> const window = m_sheetState.window;
     try
     {
         return OnInitDialog();
@@ -377,7 +377,7 @@ void CPropertySheet::AddPage(CPropertyPage * pPage)
     if (page.sheet == this)
         return;
     PropertySheetAccess::Forget(*pPage);
-    auto const window = m_sheetState.window;
+    std::shared_ptr<SheetWindow> const window = m_sheetState.window;
     HPROPSHEETPAGE native = nullptr;
     if (window != nullptr && window->Handle() != nullptr)
     {
@@ -404,14 +404,14 @@ void CPropertySheet::RemovePage(CPropertyPage * pPage)
 
 void CPropertySheet::RemovePage(int nPage)
 {
-    auto & pages = m_sheetState.pages;
+    std::vector<SheetPage> & pages = m_sheetState.pages;
     ASSERT(nPage >= 0 && nPage < GetPageCount());
     if (nPage < 0 || nPage >= GetPageCount())
         return;
     SheetPage const removed = pages[static_cast<size_t>(nPage)];
     pages.erase(pages.begin() + nPage);
     PropertySheetAccess::State(*removed.page).sheet = nullptr;
-    auto const window = m_sheetState.window;
+    std::shared_ptr<SheetWindow> const window = m_sheetState.window;
     if (removed.native != nullptr && window != nullptr && window->Handle() != nullptr)
         window->RemovePage(removed.native);
 }
@@ -429,7 +429,7 @@ CPropertyPage * CPropertySheet::GetPage(int nPage) const
 
 int CPropertySheet::GetPageIndex(CPropertyPage * pPage)
 {
-    auto const & pages = m_sheetState.pages;
+    std::vector<SheetPage> const & pages = m_sheetState.pages;
     auto const found =
         std::find_if(pages.begin(), pages.end(), [pPage](SheetPage const & each) { return each.page == pPage; });
     return found != pages.end() ? static_cast<int>(found - pages.begin()) : -1;
@@ -439,7 +439,7 @@ int CPropertySheet::GetActiveIndex() const
 {
     if (m_hWnd == nullptr)
         return static_cast<int>(m_psh.nStartPage);
-    auto const & pages = m_sheetState.pages;
+    std::vector<SheetPage> const & pages = m_sheetState.pages;
     auto const window = reinterpret_cast<HWND>(::SendMessage(m_hWnd, PSM_GETCURRENTPAGEHWND, 0, 0));
     auto const found = std::find_if(pages.begin(), pages.end(), [window](SheetPage const & each) {
         return window != nullptr && each.page->m_hWnd == window;
@@ -547,7 +547,7 @@ LRESULT CPropertySheet::HandlePressButton(WPARAM wParam, LPARAM)
 
 BOOL CPropertySheet::OnCommand(WPARAM wParam, LPARAM lParam)
 {
-    auto const window = m_sheetState.window;
+    std::shared_ptr<SheetWindow> const window = m_sheetState.window;
     if (CWnd::OnCommand(wParam, lParam))
         return TRUE;
     if (window != nullptr && window->Object() == nullptr)

@@ -1,10 +1,10 @@
 // CRecentFileList: the files used last.
 
 #include "afxadv.h"
-#include "detail/FrameSupport.h"
-
 #include <shlobj.h>
 #include <shlwapi.h>
+
+#include "detail/FrameSupport.h"
 
 CRecentFileList::CRecentFileList(UINT nStart, LPCTSTR lpszSection, LPCTSTR lpszEntryFormat, int nSize, int nMaxDispLen)
     : m_start(nStart),

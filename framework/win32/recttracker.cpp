@@ -193,7 +193,7 @@ void CRectTracker::Draw(CDC * pDC) const
     {
         CPen pen((m_nStyle & dottedLine) != 0 ? PS_DOT : PS_SOLID, 0, ::GetSysColor(COLOR_WINDOWTEXT));
         CPen * const oldPen = pDC->SelectObject(&pen);
-        auto * const oldBrush = pDC->SelectStockObject(NULL_BRUSH);
+        CGdiObject * const oldBrush = pDC->SelectStockObject(NULL_BRUSH);
         pDC->SetBkMode(TRANSPARENT);
         CRect line(rect);
         line.InflateRect(1, 1);

@@ -1,12 +1,13 @@
 // CScrollView: views that are larger than their window.
 
 #include "afxpriv.h"
-#include "detail/FrameSupport.h"
-#include "detail/WndAccess.h"
 
 #include <algorithm>
 #include <cstdlib>
 #include <limits>
+
+#include "detail/FrameSupport.h"
+#include "detail/WndAccess.h"
 
 using framework::WindowGuard;
 

@@ -1,8 +1,8 @@
 #include "detail/SheetWindow.h"
 
-#include "detail/ThreadState.h"
-
 #include <algorithm>
+
+#include "detail/ThreadState.h"
 
 namespace framework
 {

@@ -1,11 +1,12 @@
 // CSplitterWnd: creation, panes, layout, activation.
 
 #include "afxpriv.h"
+
+#include <algorithm>
+
 #include "detail/FrameSupport.h"
 #include "detail/SplitterMetrics.h"
 #include "detail/WndAccess.h"
-
-#include <algorithm>
 
 using framework::SplitterLine;
 using framework::WindowGuard;
@@ -495,11 +496,15 @@ void CSplitterWnd::PlaceScrollBars(bool rows)
         if (bar == nullptr)
             continue;
         if (rows)
+        {
             ::SetWindowPos(bar, nullptr, area.right, start, inner.right - area.right, std::max(extent, 0),
                            SWP_NOACTIVATE | SWP_NOZORDER);
+        }
         else
+        {
             ::SetWindowPos(bar, nullptr, start, area.bottom, std::max(extent, 0), inner.bottom - area.bottom,
                            SWP_NOACTIVATE | SWP_NOZORDER);
+        }
     }
 }
 
@@ -516,8 +521,10 @@ void CSplitterWnd::RecalcLayout()
         PlaceScrollBars(true);
     HWND const box = m_hasHorizontal && m_hasVertical ? ::GetDlgItem(m_hWnd, AFX_IDW_SIZE_BOX) : nullptr;
     if (box != nullptr)
+    {
         ::SetWindowPos(box, nullptr, area.right, area.bottom, inner.right - area.right, inner.bottom - area.bottom,
                        SWP_NOACTIVATE | SWP_NOZORDER);
+    }
 
     HDWP moved = ::BeginDeferWindowPos(m_rows * m_columns);
     int x = inner.left;

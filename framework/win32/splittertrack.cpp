@@ -1,10 +1,10 @@
 // CSplitterWnd: painting, moving bars by mouse and keyboard, shared scroll bars.
 
+#include <algorithm>
+
 #include "detail/FrameSupport.h"
 #include "detail/SplitterMetrics.h"
 #include "detail/WndAccess.h"
-
-#include <algorithm>
 
 using framework::SplitterLine;
 using framework::WindowGuard;
@@ -96,8 +96,10 @@ void CSplitterWnd::OnPaint()
             edge.InflateRect(splitter_border, splitter_border);
             OnDrawSplitter(&dc, splitBorder, edge);
             if (row + 1 < m_rows && column + 1 < m_columns)
+            {
                 OnDrawSplitter(&dc, splitIntersection,
                                CRect(x + width, y + height, x + width + splitter_gap, y + height + splitter_gap));
+            }
             y += height + splitter_gap;
         }
         x += width + splitter_gap;

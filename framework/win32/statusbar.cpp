@@ -341,7 +341,7 @@ void CStatusBar::OnUpdateCmdUI(CFrameWnd * pTarget, BOOL bDisableIfNoHndler)
     WindowGuard const guard(this);
     WindowGuard const target(pTarget);
     PaneState state(*this);
-    constexpr auto reflected = MAKELONG(0xFFFF, WM_COMMAND + WM_REFLECT_BASE);
+    constexpr LONG reflected = MAKELONG(0xFFFF, WM_COMMAND + WM_REFLECT_BASE);
     for (state.m_nIndex = 0; guard.Alive() && target.Alive(); ++state.m_nIndex)
     {
         auto const count = static_cast<UINT>(m_panes.GetSize());

@@ -2,11 +2,11 @@
 
 #include <afxwin.h>
 
+#include <algorithm>
+
 #include "detail/ControlSupport.h"
 #include "detail/FrameSupport.h"
 #include "detail/imagelist.h"
-
-#include <algorithm>
 
 IMPLEMENT_DYNAMIC(CStatic, CWnd)
 IMPLEMENT_DYNAMIC(CButton, CWnd)

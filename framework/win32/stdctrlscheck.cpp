@@ -2,10 +2,10 @@
 
 #include <afxwin.h>
 
-#include "detail/ControlSupport.h"
-
 #include <algorithm>
 #include <memory>
+
+#include "detail/ControlSupport.h"
 
 IMPLEMENT_DYNAMIC(CCheckListBox, CListBox)
 

@@ -2,9 +2,9 @@
 
 #include <afxwin.h>
 
-#include "detail/ControlSupport.h"
-
 #include <utility>
+
+#include "detail/ControlSupport.h"
 
 IMPLEMENT_DYNAMIC(CListBox, CWnd)
 IMPLEMENT_DYNAMIC(CComboBox, CWnd)

@@ -1,8 +1,7 @@
 // What threads wait for.
 
-#include <afxwin.h>
-
 #include <afxmt.h>
+#include <afxwin.h>
 
 IMPLEMENT_DYNAMIC(CSyncObject, CObject)
 IMPLEMENT_DYNAMIC(CSemaphore, CSyncObject)

@@ -2,10 +2,11 @@
 
 #include "afxcontrolbars.h"
 #include "afxcontrolbarutil.h"
-#include "detail/DockHost.h"
-#include "detail/FrameSupport.h"
 
 #include <algorithm>
+
+#include "detail/DockHost.h"
+#include "detail/FrameSupport.h"
 
 using framework::DockHost;
 using framework::WindowGuard;

@@ -1,13 +1,13 @@
 // CWinThread: threads with a message loop, and worker threads.
 
 #include "afxpriv.h"
-#include "detail/MenuMode.h"
-#include "detail/ThreadState.h"
-#include "detail/WndAccess.h"
-
 #include <process.h>
 
 #include <vector>
+
+#include "detail/MenuMode.h"
+#include "detail/ThreadState.h"
+#include "detail/WndAccess.h"
 
 IMPLEMENT_DYNAMIC(CWinThread, CCmdTarget)
 
@@ -77,18 +77,19 @@ BOOL ThreadAccess::DispatchThreadMessage(CWinThread & thread, MSG const & messag
 {
     constexpr UINT first_registered = 0xC000;
     using Handler = void (CWinThread::*)(WPARAM, LPARAM);
-    for (auto map = Map(thread); map->pfnGetBaseMap != nullptr; map = map->pfnGetBaseMap())
+    for (AFX_MSGMAP const * map = Map(thread); map->pfnGetBaseMap != nullptr; map = map->pfnGetBaseMap())
     {
         if (message.message < first_registered)
         {
-            if (auto const entry = FindEntry(map->lpEntries, message.message, 0, 0))
+            if (AFX_MSGMAP_ENTRY const * const entry = FindEntry(map->lpEntries, message.message, 0, 0))
             {
                 (thread.*std::bit_cast<Handler>(entry->pfn))(message.wParam, message.lParam);
                 return TRUE;
             }
             continue;
         }
-        for (auto entry = map->lpEntries; (entry = FindEntry(entry, first_registered, 0, 0)) != nullptr; ++entry)
+        for (AFX_MSGMAP_ENTRY const * entry = map->lpEntries;
+             (entry = FindEntry(entry, first_registered, 0, 0)) != nullptr; ++entry)
         {
             if (*reinterpret_cast<UINT const *>(entry->nSig) != message.message)
                 continue;
@@ -117,7 +118,7 @@ CWinThread::~CWinThread()
 {
     if (m_hThread != nullptr)
         ::CloseHandle(m_hThread);
-    auto & state = framework::CurrentThreadState();
+    framework::ThreadState & state = framework::CurrentThreadState();
     if (state.thread == this)
         state.thread = nullptr;
 }
@@ -132,8 +133,8 @@ BOOL CWinThread::CreateThread(DWORD dwCreateFlags, UINT nStackSize, LPSECURITY_A
     ASSERT(m_hThread == nullptr);
     // The thread starts only once its handle and id are in place.
     unsigned id = 0;
-    auto const handle = _beginthreadex(lpSecurityAttrs, nStackSize, &framework::ThreadAccess::Main, this,
-                                       dwCreateFlags | CREATE_SUSPENDED, &id);
+    uintptr_t const handle = _beginthreadex(lpSecurityAttrs, nStackSize, &framework::ThreadAccess::Main, this,
+                                            dwCreateFlags | CREATE_SUSPENDED, &id);
     if (handle == 0)
         return FALSE;
     m_hThread = reinterpret_cast<HANDLE>(handle);
@@ -255,7 +256,7 @@ BOOL AFXAPI AfxIsIdleMessage(MSG * pMsg)
 BOOL CWinThread::IsIdleMessage(MSG * pMsg)
 {
     constexpr UINT system_timer = 0x0118;
-    auto & state = framework::CurrentThreadState();
+    framework::ThreadState & state = framework::CurrentThreadState();
     if (pMsg->message == WM_MOUSEMOVE || pMsg->message == WM_NCMOUSEMOVE)
     {
         // Moves without a change of place come whenever windows move below the cursor.
@@ -358,7 +359,7 @@ CWinThread * AFXAPI AfxBeginThread(CRuntimeClass * pThreadClass, int nPriority, 
 
 void AFXAPI AfxEndThread(UINT nExitCode, BOOL bDelete)
 {
-    auto & state = framework::CurrentThreadState();
+    framework::ThreadState & state = framework::CurrentThreadState();
     CWinThread * const thread = std::exchange(state.thread, nullptr);
     if (thread != nullptr)
     {

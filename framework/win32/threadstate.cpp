@@ -1,7 +1,8 @@
 #include "detail/ThreadState.h"
-#include "detail/imagelist.h"
 
 #include <memory>
+
+#include "detail/imagelist.h"
 
 namespace framework
 {
@@ -68,7 +69,7 @@ HandleMap<CImageList> & ImageListMap()
 
 void DeleteTemporaryObjects()
 {
-    auto & state = CurrentThreadState();
+    ThreadState & state = CurrentThreadState();
     state.imageLists.DeleteTemporaries();
     state.menus.DeleteTemporaries();
     state.gdiObjects.DeleteTemporaries();
@@ -84,7 +85,7 @@ void AFXAPI AfxLockTempMaps()
 
 BOOL AFXAPI AfxUnlockTempMaps(BOOL bDeleteTemps)
 {
-    auto & state = framework::CurrentThreadState();
+    framework::ThreadState & state = framework::CurrentThreadState();
     if (state.temporaryMapLocks > 0 && --state.temporaryMapLocks == 0 && bDeleteTemps)
         framework::DeleteTemporaryObjects();
     return state.temporaryMapLocks != 0;

@@ -286,7 +286,7 @@ void CToolBar::SetHeight(int cyHeight)
 
 BOOL CToolBar::LoadToolBar(LPCTSTR lpszResourceName)
 {
-    auto const kind = MAKEINTRESOURCE(tool_bar_resource);
+    LPWSTR const kind = MAKEINTRESOURCE(tool_bar_resource);
     HINSTANCE const module = AfxFindResourceHandle(lpszResourceName, kind);
     HRSRC const found = ::FindResource(module, lpszResourceName, kind);
     HGLOBAL const loaded = found != nullptr ? ::LoadResource(module, found) : nullptr;
@@ -519,9 +519,11 @@ bool CToolBar::WrapWidth(DWORD mode, int length, int & width) const
     width = (mode & LM_HORZ) != 0 ? no_wrap : 0;
     if (!dynamic)
         return true;
-    if ((mode & LM_MRUWIDTH) != 0)
+    bool const docks = (mode & (LM_HORZDOCK | LM_VERTDOCK)) != 0;
+    bool const floats = !docks && length == -1 && (m_style & CBRS_FLOATING) != 0;
+    if ((mode & LM_MRUWIDTH) != 0 || floats)
         width = m_lastWidth;
-    else if ((mode & (LM_HORZDOCK | LM_VERTDOCK)) != 0)
+    else if (docks)
         width = (mode & LM_HORZDOCK) != 0 ? no_wrap : 0;
     else if (length != -1)
     {
@@ -529,8 +531,6 @@ bool CToolBar::WrapWidth(DWORD mode, int length, int & width) const
         CalcInsideRect(inside, (mode & LM_HORZ) != 0);
         width = length + ((mode & LM_LENGTHY) != 0 ? inside.Height() : inside.Width());
     }
-    else if ((m_style & CBRS_FLOATING) != 0)
-        width = m_lastWidth;
     return true;
 }
 
@@ -629,7 +629,7 @@ void CToolBar::OnUpdateCmdUI(CFrameWnd * pTarget, BOOL bDisableIfNoHndler)
     WindowGuard const guard(this);
     WindowGuard const target(pTarget);
     ToolBarState state(*this);
-    constexpr auto reflected = MAKELONG(0xFFFF, WM_COMMAND + WM_REFLECT_BASE);
+    constexpr LONG reflected = MAKELONG(0xFFFF, WM_COMMAND + WM_REFLECT_BASE);
     // Handlers may take buttons out and put others in.
     for (state.m_nIndex = 0; guard.Alive() && target.Alive(); ++state.m_nIndex)
     {

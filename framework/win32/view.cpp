@@ -1,7 +1,8 @@
 // CView and CCtrlView: windows in a frame that show a document.
 
-#include "afxpriv.h"
 #include "afxext.h"
+#include "afxpriv.h"
+
 #include "detail/FrameSupport.h"
 #include "detail/PrintSupport.h"
 #include "detail/WndAccess.h"
@@ -269,8 +270,10 @@ BOOL CCtrlView::PreCreateWindow(CREATESTRUCT & cs)
     cs.lpszClass = m_strClass;
     // The style that a view gets by default is taken as "the control's own"; a border stays as asked for.
     if ((static_cast<DWORD>(cs.style) | WS_BORDER) == AFX_WS_DEFAULT_VIEW)
+    {
         cs.style =
             static_cast<LONG>(m_dwDefaultStyle & (static_cast<DWORD>(cs.style) | ~static_cast<DWORD>(WS_BORDER)));
+    }
     return CView::PreCreateWindow(cs);
 }
 

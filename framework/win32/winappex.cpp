@@ -1,10 +1,11 @@
 // CWinAppEx: the workspace.
 
 #include "afxcontrolbars.h"
-#include "detail/DockHost.h"
-#include "detail/FrameSupport.h"
 
 #include <algorithm>
+
+#include "detail/DockHost.h"
+#include "detail/FrameSupport.h"
 
 using framework::WindowGuard;
 
@@ -247,8 +248,10 @@ BOOL CWinAppEx::SaveState(LPCTSTR lpszSectionName, CFrameImpl * pFrameImpl)
         WINDOWPLACEMENT placement{};
         placement.length = sizeof placement;
         if (m_loadPlacement && frame->GetWindowPlacement(&placement))
+        {
             saved = StoreWindowPlacement(placement.rcNormalPosition, static_cast<int>(placement.flags),
                                          static_cast<int>(placement.showCmd)) != FALSE;
+        }
         if (guard.Alive() && pFrameImpl->Host() != nullptr)
             saved = pFrameImpl->Manager().SaveState(GetRegSectionPath()) && saved;
     }

@@ -1,9 +1,9 @@
 // CWnd: objects and handles, creation, subclassing, window classes.
 
+#include <cwchar>
+
 #include "detail/ThreadState.h"
 #include "detail/WndAccess.h"
-
-#include <cwchar>
 
 IMPLEMENT_DYNCREATE(CWnd, CCmdTarget)
 
@@ -32,7 +32,7 @@ bool IsInputMethodWindow(HWND window)
 
 LRESULT CALLBACK CreationHook(int code, WPARAM wParam, LPARAM lParam)
 {
-    auto & state = framework::CurrentThreadState();
+    framework::ThreadState & state = framework::CurrentThreadState();
     auto const window = reinterpret_cast<HWND>(wParam);
     if (code == HCBT_CREATEWND && state.creating != nullptr && !IsInputMethodWindow(window))
     {
@@ -179,7 +179,7 @@ HWND CWnd::UnsubclassWindow()
 
 void AFXAPI AfxHookWindowCreate(CWnd * pWnd)
 {
-    auto & state = framework::CurrentThreadState();
+    framework::ThreadState & state = framework::CurrentThreadState();
     if (state.creating == pWnd)
         return;
     if (state.creationHook == nullptr)
@@ -195,7 +195,7 @@ void AFXAPI AfxHookWindowCreate(CWnd * pWnd)
 
 BOOL AFXAPI AfxUnhookWindowCreate()
 {
-    auto & state = framework::CurrentThreadState();
+    framework::ThreadState & state = framework::CurrentThreadState();
     if (state.creationHook != nullptr)
     {
         ::UnhookWindowsHookEx(state.creationHook);
@@ -298,8 +298,10 @@ LPCTSTR AFXAPI AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCursor, HBRUSH hbr
     if (hCursor == nullptr && hbrBackground == nullptr && hIcon == nullptr)
         std::swprintf(name, std::size(name), L"Afx:%p:%x", static_cast<void *>(instance), nClassStyle);
     else
+    {
         std::swprintf(name, std::size(name), L"Afx:%p:%x:%p:%p:%p", static_cast<void *>(instance), nClassStyle,
                       static_cast<void *>(hCursor), static_cast<void *>(hbrBackground), static_cast<void *>(hIcon));
+    }
     WNDCLASS description{};
     description.style = nClassStyle;
     description.lpfnWndProc = ::DefWindowProc;

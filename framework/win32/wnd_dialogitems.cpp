@@ -1,11 +1,12 @@
 // CWnd: dialog items and the exchange of data with them.
 
 #include "afxpriv.h"
+
+#include <cstring>
+
 #include "detail/ChildWalk.h"
 #include "detail/ThreadState.h"
 #include "detail/WndAccess.h"
-
-#include <cstring>
 
 void CWnd::CheckDlgButton(int nIDButton, UINT nCheck)
 {

@@ -1,6 +1,7 @@
 // CWnd: how a message finds its handler in the message maps.
 
 #include "afxpriv.h"
+
 #include "detail/ThreadState.h"
 #include "detail/WndAccess.h"
 
@@ -76,18 +77,18 @@ BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT * pResul
     default:
         break;
     }
-    for (auto map = GetMessageMap(); map->pfnGetBaseMap != nullptr; map = map->pfnGetBaseMap())
+    for (AFX_MSGMAP const * map = GetMessageMap(); map->pfnGetBaseMap != nullptr; map = map->pfnGetBaseMap())
     {
         if (message < first_registered_message)
         {
-            auto const entry = framework::FindEntry(map->lpEntries, message, 0, 0);
+            AFX_MSGMAP_ENTRY const * const entry = framework::FindEntry(map->lpEntries, message, 0, 0);
             if (entry == nullptr)
                 continue;
             auto const call = framework::DecodingOf(*entry).message;
             ASSERT(call != nullptr); // a command's entry
             return call != nullptr && call({*this, wParam, lParam}, entry->pfn, result) ? answer() : FALSE;
         }
-        for (auto entry = map->lpEntries;
+        for (AFX_MSGMAP_ENTRY const * entry = map->lpEntries;
              (entry = framework::FindEntry(entry, first_registered_message, 0, 0)) != nullptr; ++entry)
         {
             if (*reinterpret_cast<UINT const *>(entry->nSig) != message)

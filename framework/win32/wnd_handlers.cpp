@@ -1,6 +1,7 @@
 // CWnd: the handlers of the single messages.
 
 #include "afxpriv.h"
+
 #include "detail/FrameSupport.h"
 #include "detail/ThreadState.h"
 #include "detail/WndAccess.h"

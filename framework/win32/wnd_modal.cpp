@@ -1,6 +1,7 @@
 // CWnd: modal loops, and offering messages to objects before they are dispatched.
 
 #include "afxpriv.h"
+
 #include "detail/ThreadState.h"
 #include "detail/WndAccess.h"
 

@@ -1,9 +1,9 @@
 // CWnd: painting, scrolling, caret, clipboard, menus.
 
+#include <algorithm>
+
 #include "detail/ThreadState.h"
 #include "detail/WndAccess.h"
-
-#include <algorithm>
 
 namespace
 {

@@ -1,10 +1,11 @@
 // CWnd: the window procedure, its exceptions, and the end of a window.
 
 #include "afxpriv.h"
-#include "detail/ThreadState.h"
-#include "detail/WndAccess.h"
 
 #include <exception>
+
+#include "detail/ThreadState.h"
+#include "detail/WndAccess.h"
 
 namespace
 {
@@ -75,7 +76,7 @@ void framework::ReportHandlerException(CException & exception, MSG const & messa
 
 LRESULT AFXAPI AfxCallWndProc(CWnd * pWnd, HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam)
 {
-    auto & state = framework::CurrentThreadState();
+    framework::ThreadState & state = framework::CurrentThreadState();
     MSG const outer = state.lastSentMessage;
     MSG message{};
     message.hwnd = hWnd;
@@ -159,7 +160,7 @@ void CWnd::OnNcDestroy()
     }
     SetToolTipFlag(FALSE, framework::WndToolTips | framework::WndTrackingToolTips);
 
-    auto const procedure = ::GetWindowLongPtr(m_hWnd, GWLP_WNDPROC);
+    LONG_PTR const procedure = ::GetWindowLongPtr(m_hWnd, GWLP_WNDPROC);
     Default();
     WNDPROC * const super = GetSuperWndProcAddr();
     if (*super != nullptr && ::GetWindowLongPtr(m_hWnd, GWLP_WNDPROC) == procedure)

@@ -1,11 +1,12 @@
 // CWnd: parents, owners, children, and what is done with all of them.
 
 #include "afxpriv.h"
+
+#include <algorithm>
+
 #include "detail/ChildWalk.h"
 #include "detail/ThreadState.h"
 #include "detail/WndAccess.h"
-
-#include <algorithm>
 
 namespace
 {
@@ -362,9 +363,11 @@ void CWnd::RepositionBars(UINT nIDFirst, UINT nIDLast, UINT nIDLeftOver, UINT nF
         }
         FromHandle(leftOver)->CalcWindowRect(&layout.rect);
         if (layout.hDWP != nullptr)
+        {
             layout.hDWP = ::DeferWindowPos(layout.hDWP, leftOver, nullptr, layout.rect.left, layout.rect.top,
                                            layout.rect.right - layout.rect.left, layout.rect.bottom - layout.rect.top,
                                            SWP_NOACTIVATE | SWP_NOZORDER);
+        }
     }
     if (layout.hDWP != nullptr)
         ::EndDeferWindowPos(layout.hDWP);

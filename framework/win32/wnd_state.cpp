@@ -13,8 +13,10 @@ BOOL ChangeStyle(HWND window, int which, DWORD remove, DWORD add, UINT positionF
         return FALSE;
     ::SetWindowLongPtr(window, which, static_cast<LONG_PTR>(wanted));
     if (positionFlags != 0)
+    {
         ::SetWindowPos(window, nullptr, 0, 0, 0, 0,
                        SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | positionFlags);
+    }
     return TRUE;
 }
 

@@ -126,7 +126,7 @@ HWND ChildAt(HWND window, POINT point)
 
 BOOL CWnd::SetToolTipFlag(BOOL bEnable, UINT flag)
 {
-    auto & state = framework::CurrentThreadState();
+    framework::ThreadState & state = framework::CurrentThreadState();
     if (bEnable)
     {
         m_nFlags |= flag;
@@ -153,14 +153,14 @@ BOOL CWnd::EnableTrackingToolTips(BOOL bEnable)
 
 void PASCAL CWnd::CancelToolTips(BOOL)
 {
-    auto const & state = framework::CurrentThreadState();
+    framework::ThreadState const & state = framework::CurrentThreadState();
     if (state.toolTip != nullptr && ::IsWindow(state.toolTip))
         Send(state, TTM_ACTIVATE, FALSE, nullptr);
 }
 
 void CWnd::FilterToolTipMessage(MSG * pMsg)
 {
-    auto & state = framework::CurrentThreadState();
+    framework::ThreadState & state = framework::CurrentThreadState();
     if (!IsMove(pMsg->message) || !NoButtonIsDown())
     {
         bool const ends = IsKey(pMsg->message) || IsPress(pMsg->message);

@@ -1,10 +1,10 @@
 // What programs that read the screen are told of the small controls.
 
-#include "access/AccessibleControls.h"
-
 #include <gtest/gtest.h>
 
 #include <vector>
+
+#include "access/AccessibleControls.h"
 
 using accessible::Direction;
 using accessible::Element;
@@ -31,7 +31,7 @@ TEST(AccessibleControls, CaptionsAreSpokenWithoutTheirMarks)
     };
     for (auto const & each : captions)
     {
-        auto const caption = accessible::CaptionOf(each.caption);
+        accessible::Caption const caption = accessible::CaptionOf(each.caption);
         EXPECT_EQ(caption.text, each.spoken);
         EXPECT_EQ(caption.shortcut, each.shortcut) << "of " << testing::PrintToString(caption.text);
     }
@@ -149,8 +149,10 @@ TEST(AccessibleControls, ItemsAreWalkedTheWayTheyStand)
         {true, {1, -1}, Direction::down, {}},
     };
     for (auto const & step : steps)
+    {
         EXPECT_EQ(accessible::Navigate({3, step.sideBySide}, step.from, step.direction), step.to)
             << step.sideBySide << ' ' << step.from.row << ' ' << static_cast<int>(step.direction);
+    }
     EXPECT_FALSE(accessible::Navigate({0, false}, {}, Direction::first_child));
     EXPECT_TRUE(accessible::Exists({0, false}, {}));
     EXPECT_TRUE(accessible::Exists({3, false}, {2, -1}));

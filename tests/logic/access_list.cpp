@@ -1,10 +1,10 @@
 // What programs that read the screen are told of a list: its elements, where they stand and what they say.
 
-#include "access/AccessibleList.h"
-
 #include <gtest/gtest.h>
 
 #include <vector>
+
+#include "access/AccessibleList.h"
 
 using accessible::Direction;
 using accessible::Element;
@@ -130,8 +130,10 @@ TEST_F(AccessibleLists, AreWalkedFromElementToElement)
         {{1, 1}, Direction::first_child, {}},
     };
     for (auto const & step : steps)
+    {
         EXPECT_EQ(accessible::Navigate(m_list, step.from, step.direction), step.to)
             << step.from.row << ' ' << step.from.col << ' ' << static_cast<int>(step.direction);
+    }
 }
 
 TEST_F(AccessibleLists, AreHitInCellsRowsAndBesideThem)
@@ -178,7 +180,7 @@ TEST_F(AccessibleLists, TellTheKindOfEachCell)
     for (auto const & cell : expected)
     {
         SCOPED_TRACE(testing::Message() << cell.cell.row << ' ' << cell.cell.col);
-        auto const described = accessible::Describe(m_list, cell.cell);
+        accessible::Description const described = accessible::Describe(m_list, cell.cell);
         EXPECT_EQ(described.role, cell.role);
         EXPECT_EQ(described.name, cell.cell.col < 3 ? L"c" + std::to_wstring(cell.cell.col) : L"2,3");
         EXPECT_EQ(described.value, cell.value);

@@ -28,8 +28,8 @@ inline std::optional<std::string> Between(std::string_view block, std::map<std::
             return std::nullopt;
         return std::stoull(field->second);
     };
-    auto const from = offset(start);
-    auto const to = offset(end);
+    std::optional<std::size_t> const from = offset(start);
+    std::optional<std::size_t> const to = offset(end);
     if (!from || !to || *from > *to || *to > block.size())
         return std::nullopt;
     return std::string(block.substr(*from, *to - *from));
@@ -43,16 +43,16 @@ inline std::optional<Reading> Read(std::string_view block)
     std::size_t at = 0;
     for (;;)
     {
-        auto const end = block.find("\r\n", at);
+        std::size_t const end = block.find("\r\n", at);
         auto const line = block.substr(at, end == std::string_view::npos ? end : end - at);
-        auto const colon = line.find(':');
+        std::size_t const colon = line.find(':');
         if (line.empty() || line.front() == '<' || colon == std::string_view::npos || end == std::string_view::npos)
             break;
         reading.fields[std::string(line.substr(0, colon))] = std::string(line.substr(colon + 1));
         at = end + 2;
     }
-    auto const html = Between(block, reading.fields, "StartHTML", "EndHTML");
-    auto const fragment = Between(block, reading.fields, "StartFragment", "EndFragment");
+    std::optional<std::string> const html = Between(block, reading.fields, "StartHTML", "EndHTML");
+    std::optional<std::string> const fragment = Between(block, reading.fields, "StartFragment", "EndFragment");
     if (!html || !fragment)
         return std::nullopt;
     reading.html = *html;

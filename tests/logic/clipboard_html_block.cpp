@@ -1,14 +1,13 @@
 // The block of the clipboard's HTML format, byte for byte, and as another program reads it.
 
-#include "clipboard/HtmlBlock.h"
-
-#include "clipboard_HtmlBlockReader.h"
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <string>
 #include <string_view>
+
+#include "clipboard/HtmlBlock.h"
+#include "clipboard_HtmlBlockReader.h"
 
 namespace
 {
@@ -65,8 +64,8 @@ TEST(HtmlBlock, ADocumentKeepsItsOwnTags)
 
 TEST(HtmlBlock, AnUmlautTakesTwoBytesAndOffsetsCountBytes)
 {
-    auto const plain = html_block::Read(TextOf(L"aou"));
-    auto const umlauts = html_block::Read(TextOf(L"\u00E4\u00F6\u00FC"));
+    std::optional<html_block::Reading> const plain = html_block::Read(TextOf(L"aou"));
+    std::optional<html_block::Reading> const umlauts = html_block::Read(TextOf(L"\u00E4\u00F6\u00FC"));
     ASSERT_TRUE(plain && umlauts);
     EXPECT_EQ(umlauts->fragment, std::string(start_comment) + "\r\n\xC3\xA4\xC3\xB6\xC3\xBC\r\n");
     EXPECT_EQ(std::stoul(umlauts->fields.at("EndFragment")), std::stoul(plain->fields.at("EndFragment")) + 3);
@@ -77,13 +76,14 @@ TEST(HtmlBlock, AnUmlautTakesTwoBytesAndOffsetsCountBytes)
 
 TEST(HtmlBlock, AReaderThatFollowsTheOffsetsFindsTheText)
 {
-    auto const fragment = html_block::Read(TextOf(L"<i>50 \u20AC</i>"));
+    std::optional<html_block::Reading> const fragment = html_block::Read(TextOf(L"<i>50 \u20AC</i>"));
     ASSERT_TRUE(fragment);
     EXPECT_EQ(fragment->fields.at("Version"), "0.9");
     EXPECT_EQ(fragment->fragment, "<!--StartFragment -->\r\n<i>50 \xE2\x82\xAC</i>\r\n");
     EXPECT_EQ(fragment->html, "<html><body>\r\n" + fragment->fragment + "<!--EndFragment -->\r\n</body>\r\n</html>");
 
-    auto const document = html_block::Read(TextOf(L"<html><head></head><body>\u00B5V</body></html>"));
+    std::optional<html_block::Reading> const document =
+        html_block::Read(TextOf(L"<html><head></head><body>\u00B5V</body></html>"));
     ASSERT_TRUE(document);
     EXPECT_EQ(document->html, "<html><head></head><body>\xC2\xB5V</body></html>");
     EXPECT_EQ(document->fragment, "<!--StartFragment -->\r\n" + document->html + "\r\n");
@@ -94,7 +94,7 @@ TEST(HtmlBlock, EachFieldHasEightDigitsAndItsLineEnd)
     for (std::size_t const length : {1U, 10U, 1000U, 9000U, 100000U, 1200000U})
     {
         std::string const text = TextOf(std::wstring(length, L'x'));
-        auto const reading = html_block::Read(text);
+        std::optional<html_block::Reading> const reading = html_block::Read(text);
         ASSERT_TRUE(reading) << length;
         EXPECT_EQ(reading->fields.size(), 5U);
         for (auto const & [name, digits] : reading->fields)
@@ -122,7 +122,7 @@ TEST(HtmlBlock, OnlyTheExactTagMakesADocument)
 TEST(HtmlBlock, EachTagIsTheFirstOneFromTheStart)
 {
     std::string const text = TextOf(L"<html>a</html><!--EndFragment -->");
-    auto const reading = html_block::Read(text);
+    std::optional<html_block::Reading> const reading = html_block::Read(text);
     ASSERT_TRUE(reading);
     EXPECT_EQ(std::stoul(reading->fields.at("StartHTML")), 97U + 10);
     EXPECT_EQ(std::stoul(reading->fields.at("EndHTML")), text.find("</html>") + 7);
@@ -131,7 +131,7 @@ TEST(HtmlBlock, EachTagIsTheFirstOneFromTheStart)
 
 TEST(HtmlBlock, AFieldWhoseTagIsMissingStaysZero)
 {
-    auto const fields = html_block::Read(TextOf(L"<body>x</body>"));
+    std::optional<html_block::Reading> const fields = html_block::Read(TextOf(L"<body>x</body>"));
     ASSERT_TRUE(fields);
     EXPECT_EQ(fields->fields.at("StartHTML"), "00000000");
     EXPECT_EQ(fields->fields.at("EndHTML"), "00000000");
@@ -165,7 +165,7 @@ TEST(HtmlBlock, TextOfThreeBytesACharacterIsWholeAsLongAsItFits)
 {
     std::string const whole = TextOf(std::wstring(216, L'\u20AC'));
     EXPECT_EQ(whole.size(), 2U * 216 + 400 - 1);
-    auto const reading = html_block::Read(whole);
+    std::optional<html_block::Reading> const reading = html_block::Read(whole);
     ASSERT_TRUE(reading);
     EXPECT_EQ(reading->fragment, "<!--StartFragment -->\r\n" + Repeated("\xE2\x82\xAC", 216) + "\r\n");
     EXPECT_EQ(std::stoul(reading->fields.at("EndHTML")), whole.size());

@@ -1,7 +1,5 @@
 // The conversion to UTF-8 beside the system's own.
 
-#include "clipboard/HtmlBlock.h"
-
 #include <windows.h>
 
 #include <gtest/gtest.h>
@@ -9,6 +7,8 @@
 #include <random>
 #include <string>
 #include <vector>
+
+#include "clipboard/HtmlBlock.h"
 
 namespace
 {

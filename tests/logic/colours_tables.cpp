@@ -1,7 +1,5 @@
 // The colour tables against a written list of them (data/scope_colours.tsv, data/spectrogram_scales.tsv).
 
-#include "colours/Farbtabellen.h"
-
 #include <gtest/gtest.h>
 
 #include <cstdint>
@@ -11,6 +9,8 @@
 #include <sstream>
 #include <string>
 #include <vector>
+
+#include "colours/Farbtabellen.h"
 
 namespace
 {
@@ -268,7 +268,9 @@ TEST(NearestScopeColour, IsTheOneOfSinglePrecisionRoundedAtEachStep)
     };
     constexpr int step = 7;
     for (int red = 0; red < 256; red += step)
+    {
         for (int green = 0; green < 256; green += step)
+        {
             for (int blue = 0; blue < 256; blue += step)
             {
                 COLORREF const colour = RGB(red, green, blue);
@@ -280,6 +282,8 @@ TEST(NearestScopeColour, IsTheOneOfSinglePrecisionRoundedAtEachStep)
                 }
                 ASSERT_EQ(ScopeFarbIndex(colour), nearest) << std::hex << colour;
             }
+        }
+    }
 }
 
 TEST(NearestScopeColour, WeighsRedGreenAndBlue)

@@ -1,10 +1,10 @@
 // What a colour button paints and where.
 
-#include "controls/ButtonLayout.h"
-
 #include <gtest/gtest.h>
 
 #include <climits>
+
+#include "controls/ButtonLayout.h"
 
 TEST(ButtonLook, DisabledGoesBeforeHot)
 {

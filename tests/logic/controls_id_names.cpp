@@ -176,7 +176,7 @@ TEST(MultiselectRows, TenThousandIdsAreReadBackExactly)
             map[id].Format(L"name %d", static_cast<int>(random() % 5000));
         }
         Ids selection;
-        for (auto const & item : map)
+        for (std::pair<int const, CString> const & item : map)
         {
             if (random() % 2 == 0)
                 selection.insert(item.first);

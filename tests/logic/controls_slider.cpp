@@ -1,8 +1,5 @@
 // Where a level slider's parts lie, and the colours that it derives.
 
-#include "controls/ColorLuma.h"
-#include "controls/SliderLayout.h"
-
 #include <gtest/gtest.h>
 
 #include <climits>
@@ -11,6 +8,9 @@
 #include <limits>
 #include <sstream>
 #include <string>
+
+#include "controls/ColorLuma.h"
+#include "controls/SliderLayout.h"
 
 TEST(SliderLayout, FractionIsTheWayAlongTheRange)
 {

@@ -39,7 +39,7 @@ struct MemoryTree
     Node * First(Node * node) const { return node->children.empty() ? nullptr : node->children.front().get(); }
     Node * Next(Node * node) const
     {
-        auto const & siblings = node->parent->children;
+        std::vector<std::unique_ptr<Node>> const & siblings = node->parent->children;
         for (std::size_t i = 0; i + 1 < siblings.size(); ++i)
         {
             if (siblings[i].get() == node)

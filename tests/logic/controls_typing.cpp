@@ -1,11 +1,11 @@
 // Completion of a typed text, and what is too wide for its field.
 
-#include "controls/FieldWidths.h"
-#include "controls/TypeAhead.h"
-
 #include <gtest/gtest.h>
 
 #include <vector>
+
+#include "controls/FieldWidths.h"
+#include "controls/TypeAhead.h"
 
 namespace
 {

@@ -1,14 +1,13 @@
 // The folder dialog with a shell that does what the test says.
 
-#include "dialogs/FolderDialog.h"
-
-#include "substitutes/FakeFolderPlatform.h"
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <string>
 #include <vector>
+
+#include "dialogs/FolderDialog.h"
+#include "substitutes/FakeFolderPlatform.h"
 
 namespace
 {
@@ -30,29 +29,29 @@ class ChooserFolder : public testing::Test
 protected:
     void SetUp() override
     {
-        shell.Reset();
+        m_shell.Reset();
         CFolderDialog(nullptr).SetInitialDir(L"");
     }
     void TearDown() override
     {
         CFolderDialog(nullptr).SetInitialDir(L"");
-        shell.Reset();
+        m_shell.Reset();
     }
 
     /// The next users choose that folder.
     void UserChooses(std::optional<std::wstring> const & path)
     {
-        shell.user = [this, path](FolderBrowse const &) { return &shell.Add(path); };
+        m_shell.user = [this, path](FolderBrowse const &) { return &m_shell.Add(path); };
     }
 
     /// The folder at which a browser opens now.
     std::wstring OpensAt()
     {
         std::wstring selected;
-        shell.user = [&](FolderBrowse const &) -> ShellItem * {
-            shell.calls.clear();
-            shell.Notify(opened);
-            selected = shell.calls.at(0);
+        m_shell.user = [&](FolderBrowse const &) -> ShellItem * {
+            m_shell.calls.clear();
+            m_shell.Notify(opened);
+            selected = m_shell.calls.at(0);
             return nullptr;
         };
         CFolderDialog dialog(nullptr);
@@ -60,7 +59,7 @@ protected:
         return selected;
     }
 
-    FakeFolderPlatform & shell = FakeFolderPlatform::Current();
+    FakeFolderPlatform & m_shell = FakeFolderPlatform::Current();
 };
 } // namespace
 
@@ -69,10 +68,10 @@ TEST_F(ChooserFolder, ShowsTheBrowserWithItsDefaults)
     CFolderDialog dialog(nullptr);
     EXPECT_STREQ(dialog.GetPathName(), L"");
     EXPECT_EQ(dialog.DoModal(), cancel);
-    EXPECT_EQ(shell.shown.owner, nullptr);
-    EXPECT_EQ(shell.shown.flags, 5U);
-    EXPECT_EQ(shell.shownTitle, L"");
-    EXPECT_NE(shell.shown.displayName, nullptr);
+    EXPECT_EQ(m_shell.shown.owner, nullptr);
+    EXPECT_EQ(m_shell.shown.flags, 5U);
+    EXPECT_EQ(m_shell.shownTitle, L"");
+    EXPECT_NE(m_shell.shown.displayName, nullptr);
 }
 
 TEST_F(ChooserFolder, ShowsTheBrowserAsTold)
@@ -80,11 +79,11 @@ TEST_F(ChooserFolder, ShowsTheBrowserAsTold)
     CFolderDialog dialog(OwnerWindow());
     dialog.SetTitleMessage(L"Folder of the recordings:");
     dialog.GetFolder();
-    EXPECT_EQ(shell.shown.owner, OwnerWindow());
-    EXPECT_EQ(shell.shownTitle, L"Folder of the recordings:");
+    EXPECT_EQ(m_shell.shown.owner, OwnerWindow());
+    EXPECT_EQ(m_shell.shownTitle, L"Folder of the recordings:");
     dialog.SetTitleMessage(nullptr);
     dialog.GetFolder();
-    EXPECT_EQ(shell.shownTitle, L"");
+    EXPECT_EQ(m_shell.shownTitle, L"");
 }
 
 TEST_F(ChooserFolder, FlagsAreAddedAndReplaced)
@@ -92,10 +91,10 @@ TEST_F(ChooserFolder, FlagsAreAddedAndReplaced)
     CFolderDialog dialog(nullptr);
     dialog.AddBrowseInfoFlags(0x40);
     dialog.GetFolder();
-    EXPECT_EQ(shell.shown.flags, 0x45U);
+    EXPECT_EQ(m_shell.shown.flags, 0x45U);
     dialog.SetBrowseInfoFlags(1);
     dialog.GetFolder();
-    EXPECT_EQ(shell.shown.flags, 1U);
+    EXPECT_EQ(m_shell.shown.flags, 1U);
 }
 
 TEST_F(ChooserFolder, ChoiceIsGivenAndItemAndAllocatorGoBack)
@@ -104,7 +103,7 @@ TEST_F(ChooserFolder, ChoiceIsGivenAndItemAndAllocatorGoBack)
     CFolderDialog dialog(nullptr);
     EXPECT_STREQ(dialog.GetFolder(), L"C:\\recordings");
     EXPECT_STREQ(dialog.GetPathName(), L"C:\\recordings");
-    EXPECT_EQ(shell.calls, (Calls{L"Allocator", L"Browse", L"Free", L"Release"}));
+    EXPECT_EQ(m_shell.calls, (Calls{L"Allocator", L"Browse", L"Free", L"Release"}));
     EXPECT_EQ(dialog.DoModal(), ok);
 }
 
@@ -113,14 +112,14 @@ TEST_F(ChooserFolder, CancellingGivesNothingAndKeepsTheFolder)
     UserChooses(L"C:\\first");
     CFolderDialog dialog(nullptr);
     ASSERT_EQ(dialog.DoModal(), ok);
-    shell.user = [](FolderBrowse const & browse) -> ShellItem * {
+    m_shell.user = [](FolderBrowse const & browse) -> ShellItem * {
         std::wstring const name = L"left by the browser";
         browse.displayName[name.copy(browse.displayName, name.size())] = L'\0';
         return nullptr;
     };
-    shell.calls.clear();
+    m_shell.calls.clear();
     EXPECT_EQ(dialog.DoModal(), cancel);
-    EXPECT_EQ(shell.calls, (Calls{L"Allocator", L"Browse", L"Release"}));
+    EXPECT_EQ(m_shell.calls, (Calls{L"Allocator", L"Browse", L"Release"}));
     EXPECT_STREQ(dialog.GetPathName(), L"left by the browser");
     EXPECT_EQ(OpensAt(), L"Select C:\\first");
 }
@@ -131,20 +130,20 @@ TEST_F(ChooserFolder, ItemOutsideTheFileSystemCountsAsCancelling)
     CFolderDialog dialog(nullptr);
     ASSERT_EQ(dialog.DoModal(), ok);
     UserChooses(std::nullopt);
-    shell.calls.clear();
+    m_shell.calls.clear();
     EXPECT_STREQ(dialog.GetFolder(), L"");
-    EXPECT_EQ(shell.calls, (Calls{L"Allocator", L"Browse", L"Free", L"Release"}));
+    EXPECT_EQ(m_shell.calls, (Calls{L"Allocator", L"Browse", L"Free", L"Release"}));
     EXPECT_EQ(dialog.DoModal(), cancel);
     EXPECT_EQ(OpensAt(), L"Select C:\\first");
 }
 
 TEST_F(ChooserFolder, WithoutAnAllocatorNothingIsShown)
 {
-    shell.hasAllocator = false;
+    m_shell.hasAllocator = false;
     CFolderDialog dialog(nullptr);
     EXPECT_STREQ(dialog.GetFolder(), L"");
     EXPECT_EQ(dialog.DoModal(), cancel);
-    EXPECT_EQ(shell.calls, (Calls{L"Allocator", L"Allocator"}));
+    EXPECT_EQ(m_shell.calls, (Calls{L"Allocator", L"Allocator"}));
 }
 
 TEST_F(ChooserFolder, NextBrowserOpensWhereTheLastEnded)
@@ -190,18 +189,18 @@ TEST_F(ChooserFolder, LongestPathIsTakenWhole)
 
 TEST_F(ChooserFolder, StatusTextFollowsTheSelection)
 {
-    shell.user = [this](FolderBrowse const &) -> ShellItem * {
-        shell.calls.clear();
-        EXPECT_EQ(shell.Notify(opened), 0);
-        EXPECT_EQ(shell.Notify(selection_changed, &shell.Add(L"C:\\here")), 0);
-        EXPECT_EQ(shell.Notify(selection_changed, &shell.Add(std::nullopt)), 0);
-        EXPECT_EQ(shell.Notify(selection_changed, &shell.Add(L"C:\\there")), 0);
-        EXPECT_EQ(shell.Notify(validate_failed, &shell.Add(L"C:\\nowhere")), 0);
+    m_shell.user = [this](FolderBrowse const &) -> ShellItem * {
+        m_shell.calls.clear();
+        EXPECT_EQ(m_shell.Notify(opened), 0);
+        EXPECT_EQ(m_shell.Notify(selection_changed, &m_shell.Add(L"C:\\here")), 0);
+        EXPECT_EQ(m_shell.Notify(selection_changed, &m_shell.Add(std::nullopt)), 0);
+        EXPECT_EQ(m_shell.Notify(selection_changed, &m_shell.Add(L"C:\\there")), 0);
+        EXPECT_EQ(m_shell.Notify(validate_failed, &m_shell.Add(L"C:\\nowhere")), 0);
         return nullptr;
     };
     CFolderDialog dialog(nullptr);
     EXPECT_EQ(dialog.DoModal(), cancel);
-    EXPECT_EQ(shell.calls, (Calls{L"Select ", L"Status C:\\here", L"Status C:\\there", L"Release"}));
+    EXPECT_EQ(m_shell.calls, (Calls{L"Select ", L"Status C:\\here", L"Status C:\\there", L"Release"}));
 }
 
 TEST_F(ChooserFolder, CopiesHaveAllFieldsOfTheirOwn)
@@ -222,10 +221,10 @@ TEST_F(ChooserFolder, CopiesHaveAllFieldsOfTheirOwn)
     for (CFolderDialog * const dialog : {&copy, &assigned})
     {
         EXPECT_STREQ(dialog->GetPathName(), L"C:\\chosen");
-        shell.user = {};
+        m_shell.user = {};
         dialog->GetFolder();
-        EXPECT_EQ(shell.shown.owner, OwnerWindow());
-        EXPECT_EQ(shell.shownTitle, L"title");
-        EXPECT_EQ(shell.shown.flags, 0x15U);
+        EXPECT_EQ(m_shell.shown.owner, OwnerWindow());
+        EXPECT_EQ(m_shell.shownTitle, L"title");
+        EXPECT_EQ(m_shell.shown.flags, 0x15U);
     }
 }

@@ -1,11 +1,11 @@
 // The languages that the language chooser offers, and its decisions.
 
-#include "dialogs/DisplayLanguages.h"
-
 #include <gtest/gtest.h>
 
 #include <string>
 #include <vector>
+
+#include "dialogs/DisplayLanguages.h"
 
 TEST(ChooserLanguages, StandInTheirOrderAndTheirOwnScripts)
 {

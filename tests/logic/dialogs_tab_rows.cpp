@@ -1,10 +1,10 @@
 // What a change of the rows of tabs does to the page area of a sheet.
 
-#include "dialogs/TabRows.h"
-
 #include <gtest/gtest.h>
 
 #include <climits>
+
+#include "dialogs/TabRows.h"
 
 namespace
 {

@@ -31,7 +31,7 @@ inline void CheckPlan(DockLayout const & layout, DockPlan const & plan, CRect co
     std::vector<CRect> parts;
     std::set<UINT> panes;
     bool const roomy = rect.Width() >= plan.least.cx && rect.Height() >= plan.least.cy;
-    for (auto const & group : plan.groups)
+    for (DockPlan::Group const & group : plan.groups)
     {
         parts.push_back(group.rect);
         ASSERT_FALSE(group.panes.empty());
@@ -53,7 +53,7 @@ inline void CheckPlan(DockLayout const & layout, DockPlan const & plan, CRect co
             ASSERT_GE(group.rect.Height(), least.cy);
         }
     }
-    auto shown = layout.ShownIn(frame);
+    std::vector<UINT> shown = layout.ShownIn(frame);
     ASSERT_EQ(std::set<UINT>(shown.begin(), shown.end()), panes);
     if (plan.centre)
     {
@@ -64,7 +64,7 @@ inline void CheckPlan(DockLayout const & layout, DockPlan const & plan, CRect co
             ASSERT_GE(plan.centre->Height(), layout.metrics.centre.cy);
         }
     }
-    for (auto const & divider : plan.dividers)
+    for (DockPlan::Divider const & divider : plan.dividers)
     {
         parts.push_back(divider.rect);
         int const width = divider.across ? divider.rect.Width() : divider.rect.Height();
@@ -128,7 +128,7 @@ inline void CheckLayout(DockLayout const & layout)
     std::set<UINT> ids;
     ASSERT_NO_FATAL_FAILURE(CheckTree(layout.Root(), centres, ids));
     ASSERT_EQ(centres, 1);
-    for (auto const & frame : layout.Frames())
+    for (DockLayout::Frame const & frame : layout.Frames())
     {
         int none = 0;
         ASSERT_TRUE(frame.tree);
@@ -146,9 +146,9 @@ inline void CheckLayout(DockLayout const & layout)
             ASSERT_NE(layout.FrameOf(id), 0u);
         }
         bool inStrip = false;
-        for (auto const side : {DockSide::Left, DockSide::Top, DockSide::Right, DockSide::Bottom})
+        for (DockSide const side : {DockSide::Left, DockSide::Top, DockSide::Right, DockSide::Bottom})
         {
-            auto const folded = layout.Folded(side);
+            std::vector<UINT> const folded = layout.Folded(side);
             inStrip = inStrip || std::find(folded.begin(), folded.end(), id) != folded.end();
         }
         ASSERT_EQ(inStrip, pane.place == DockPlace::Folded && pane.visible && pane.present);

@@ -22,7 +22,7 @@ DockLayout WithPanes(UINT count)
 
 CRect RectOf(DockPlan const & plan, UINT pane)
 {
-    for (auto const & group : plan.groups)
+    for (framework::DockPlan::Group const & group : plan.groups)
     {
         if (std::find(group.panes.begin(), group.panes.end(), pane) != group.panes.end())
             return group.rect;
@@ -227,7 +227,7 @@ TEST(DockLayout, ADividerMovesAsFarAsTheLeastSizesAllow)
     layout.DockAtSide(2, DockSide::Right, false, 100);
     DockPlan plan = layout.Arrange(0, frame_rect);
     ASSERT_EQ(plan.dividers.size(), 2u);
-    auto const divider = plan.dividers[0];
+    framework::DockPlan::Divider const divider = plan.dividers[0];
     EXPECT_EQ(layout.MoveDivider(0, frame_rect, divider.split, divider.index, 30), 30);
     EXPECT_EQ(RectOf(layout.Arrange(0, frame_rect), 1).right, 130);
     EXPECT_EQ(layout.MoveDivider(0, frame_rect, divider.split, divider.index, -500), -80);
@@ -286,8 +286,10 @@ TEST(DockLayout, ManyOperationsLeaveASoundLayout)
             return DockContent(layout.ShownTogether(any()));
         case 1:
             if (!layout.Frames().empty())
+            {
                 return DockContent::Frame(
                     layout.Frames()[static_cast<size_t>(below(static_cast<int>(layout.Frames().size())))].id);
+            }
             [[fallthrough]];
         default:
             return any();
@@ -337,7 +339,7 @@ TEST(DockLayout, ManyOperationsLeaveASoundLayout)
             DockPlan const plan = layout.Arrange(0, rect);
             if (!plan.dividers.empty())
             {
-                auto const & divider =
+                framework::DockPlan::Divider const & divider =
                     plan.dividers[static_cast<size_t>(below(static_cast<int>(plan.dividers.size())))];
                 layout.MoveDivider(0, rect, divider.split, divider.index, below(600) - 300);
             }
@@ -355,7 +357,7 @@ TEST(DockLayout, ManyOperationsLeaveASoundLayout)
         }
         ASSERT_NO_FATAL_FAILURE(CheckLayout(layout)) << "step " << step;
         ASSERT_NO_FATAL_FAILURE(CheckPlan(layout, layout.Arrange(0, rect), rect, 0)) << "step " << step;
-        for (auto const & frame : std::vector(layout.Frames()))
+        for (framework::DockLayout::Frame const & frame : std::vector(layout.Frames()))
         {
             if (!layout.ShownIn(frame.id).empty())
             {
@@ -377,13 +379,13 @@ TEST(DockLayoutStore, DamagedBytesGiveNoLayout)
     layout.DockAsTab(3, 2);
     layout.Float(4, CRect(1, 2, 3, 4));
     layout.Fold(1, true);
-    auto const bytes = layout.Save();
+    std::vector<std::uint8_t> const bytes = layout.Save();
     ASSERT_TRUE(DockLayout::Load(bytes));
     for (size_t length = 0; length < bytes.size(); ++length)
         EXPECT_FALSE(DockLayout::Load(std::span(bytes).first(length)));
     for (size_t at = 0; at < bytes.size(); ++at)
     {
-        auto damaged = bytes;
+        std::vector<std::uint8_t> damaged = bytes;
         damaged[at] ^= 0x11;
         EXPECT_FALSE(DockLayout::Load(damaged)) << "byte " << at;
     }
@@ -407,9 +409,9 @@ TEST(DockLayoutStore, NoMixOfTwoStoredLayoutsIsTaken)
         return std::find(stored.begin(), stored.end(), bytes) == stored.end() && DockLayout::Load(bytes).has_value();
     };
     constexpr std::ptrdiff_t longest_part = 64;
-    for (auto const & former : stored)
+    for (std::vector<unsigned char> const & former : stored)
     {
-        for (auto const & wanted : stored)
+        for (std::vector<unsigned char> const & wanted : stored)
         {
             auto const size = static_cast<std::ptrdiff_t>(std::min(former.size(), wanted.size()));
             for (std::ptrdiff_t cut = 0; cut <= size; ++cut)

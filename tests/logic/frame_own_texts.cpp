@@ -1,13 +1,12 @@
 // The module's texts that are not in its string table.
 
-#include "frame/OwnTexts.h"
-
 #include <gtest/gtest.h>
 
 #include <set>
 #include <string>
 
 #include "access/AccessibleControls.h"
+#include "frame/OwnTexts.h"
 #include "substitutes/SpokenLanguage.h"
 
 namespace

@@ -1,7 +1,5 @@
 // CArchive: what is stored, byte by byte, and loaded again.
 
-#include "framework_support.h"
-
 #include <algorithm>
 #include <initializer_list>
 #include <memory>
@@ -9,6 +7,7 @@
 #include <vector>
 
 #include "framework_ArchiveContents.h"
+#include "framework_Support.h"
 
 using archive_contents::CBranch;
 using archive_contents::CLeaf;
@@ -667,7 +666,7 @@ TEST_F(FrameworkArchiveObjects, BeyondTheSmallNumbersTakeLargeTags)
         leaves.push_back(std::make_unique<CLeaf>(i));
     CBack back;
     Bytes const bytes = Stored([&](CArchive & ar) {
-        for (auto const & leaf : leaves)
+        for (std::unique_ptr<CLeaf> const & leaf : leaves)
             ar << leaf.get();
         // The numbers of the last object with a small tag and of the first with a large one.
         ar << leaves[0x7FFC].get() << leaves[0x7FFD].get() << &back << &back;

@@ -1,7 +1,5 @@
 // Archives that are damaged, cut off or made to do harm.
 
-#include "framework_support.h"
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -9,6 +7,7 @@
 #include <random>
 
 #include "framework_ArchiveContents.h"
+#include "framework_Support.h"
 
 using archive_contents::CBranch;
 using archive_contents::CLeaf;

@@ -1,11 +1,11 @@
 // Arrays, lists and maps.
 
-#include "framework_support.h"
-
 #include <afxtempl.h>
 
 #include <memory>
 #include <set>
+
+#include "framework_Support.h"
 
 namespace
 {

@@ -1,8 +1,8 @@
 // Reports that end the program or go to standard error; as a Windows program they go to the debugger.
 
-#include "framework_support.h"
-
 #include <string>
+
+#include "framework_Support.h"
 
 namespace
 {

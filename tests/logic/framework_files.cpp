@@ -1,7 +1,5 @@
 // CFile, CStdioFile and CMemFile.
 
-#include "framework_support.h"
-
 #include <algorithm>
 #include <cstring>
 #include <filesystem>
@@ -9,6 +7,8 @@
 #include <memory>
 #include <string>
 #include <vector>
+
+#include "framework_Support.h"
 
 namespace
 {

@@ -1,9 +1,9 @@
 // What files do on Windows alone: sharing, and searching folders.
 
-#include "framework_support.h"
-
 #include <set>
 #include <string>
+
+#include "framework_Support.h"
 
 namespace
 {

@@ -1,11 +1,11 @@
 // Run-time classes, casts, assertions and exceptions.
 
-#include "framework_support.h"
-
 #include <framework_testing.h>
 
 #include <cerrno>
 #include <string>
+
+#include "framework_Support.h"
 
 namespace
 {

@@ -1,11 +1,11 @@
 // COleDateTime and COleDateTimeSpan.
 
-#include "framework_support.h"
-
 #include <atlcomtime.h>
 
 #include <cmath>
 #include <limits>
+
+#include "framework_Support.h"
 
 namespace
 {

@@ -1,10 +1,10 @@
 // The buffers of strings: sharing, writing, lengths, locking, managers.
 
-#include "framework_support.h"
-
 #include <string>
 #include <thread>
 #include <vector>
+
+#include "framework_Support.h"
 
 TEST(FrameworkStringBuffer, IsOnePointer)
 {

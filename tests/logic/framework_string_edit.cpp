@@ -1,6 +1,6 @@
 // Strings: constructors, operators, parts, searching, changing.
 
-#include "framework_support.h"
+#include "framework_Support.h"
 
 TEST(FrameworkString, Constructors)
 {

@@ -1,8 +1,8 @@
 // Formatting: the meaning of each directive is that of the Windows C run-time library in both builds.
 
-#include "framework_support.h"
-
 #include <cstdint>
+
+#include "framework_Support.h"
 
 namespace
 {

@@ -1,9 +1,9 @@
 // Strings out of a module's string table.
 
-#include "framework_support.h"
-
 #include <string>
 #include <vector>
+
+#include "framework_Support.h"
 
 namespace
 {

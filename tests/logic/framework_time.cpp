@@ -1,6 +1,6 @@
 // CTime and CTimeSpan.
 
-#include "framework_support.h"
+#include "framework_Support.h"
 
 TEST(FrameworkTimeSpan, Parts)
 {

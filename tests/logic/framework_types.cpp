@@ -1,8 +1,8 @@
 // CPoint, CSize, CRect, and the plain types and functions they stand on.
 
-#include "framework_support.h"
-
 #include <atltypes.h>
+
+#include "framework_Support.h"
 
 TEST(FrameworkTypes, SizesAreFixed)
 {

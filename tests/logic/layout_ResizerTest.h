@@ -18,29 +18,29 @@ inline constexpr int child_id = 1001;
 class ResizerTest : public testing::Test
 {
 protected:
-    void SetUp() override { platform.Reset(); }
-    void TearDown() override { platform.Reset(); }
+    void SetUp() override { m_platform.Reset(); }
+    void TearDown() override { m_platform.Reset(); }
 
     void Resize(CWnd & dialog, int width, int height)
     {
         CRect const outer(design_outer.left, design_outer.top, design_outer.left + width, design_outer.top + height);
-        platform.SetOuter(dialog, outer);
+        m_platform.SetOuter(dialog, outer);
     }
 
     /// Where the child stands after the 400 by 300 dialog has become that large.
     CRect PlacedWith(CEdges const & edges, int width, int height)
     {
-        platform.Reset();
-        CWnd & dialog = platform.AddDialog(design_outer);
-        CWnd & child = platform.AddChild(dialog, child_place);
+        m_platform.Reset();
+        CWnd & dialog = m_platform.AddDialog(design_outer);
+        CWnd & child = m_platform.AddChild(dialog, child_place);
         CDialogResizer resizer(dialog, L"");
         resizer.PositionChild(&child, edges, nullptr);
         Resize(dialog, width, height);
         resizer.OnSize();
-        return platform.PlaceOf(child);
+        return m_platform.PlaceOf(child);
     }
 
-    FakeLayoutPlatform & platform = FakeLayoutPlatform::Current();
+    FakeLayoutPlatform & m_platform = FakeLayoutPlatform::Current();
 };
 
 template <class Rect> std::vector<int> Sides(Rect const & rect)

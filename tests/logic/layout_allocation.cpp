@@ -14,12 +14,14 @@ class LayoutAllocation : public ResizerTest
 
 TEST_F(LayoutAllocation, ALayoutAllocatesNothing)
 {
-    CWnd & dialog = platform.AddDialog(design_outer);
+    CWnd & dialog = m_platform.AddDialog(design_outer);
     CDialogResizer resizer(dialog, L"");
     for (int at = 0; at < 100; ++at)
-        resizer.PositionChild(&platform.AddChild(dialog, CRect(at, at, at + 10, at + 10)),
+    {
+        resizer.PositionChild(&m_platform.AddChild(dialog, CRect(at, at, at + 10, at + 10)),
                               CEdges::RIGHT() | CEdges::BOTTOM_THIRD(), nullptr);
-    platform.recording = false;
+    }
+    m_platform.recording = false;
 
     std::size_t const before = tests::AllocationsSoFar().count;
     EXPECT_GT(before, 0U) << "the count works";

@@ -98,15 +98,15 @@ TEST_F(LayoutResizer, EveryConstantSetsItsPairOfFractions)
 
 TEST_F(LayoutResizer, FractionsAreTakenAsGiven)
 {
-    CWnd & dialog = platform.AddDialog(design_outer);
-    CWnd & child = platform.AddChild(dialog, child_place);
+    CWnd & dialog = m_platform.AddDialog(design_outer);
+    CWnd & child = m_platform.AddChild(dialog, child_place);
     CDialogResizer resizer(dialog, L"");
     CRect const fractions(1250, -2500, 20000, 9999);
     resizer.PositionChild(&child, fractions, nullptr);
     Resize(dialog, 400 + 79, 300 + 81);
     resizer.OnSize();
     // 1250 x 79 = 98750; -2500 x 81 = -202500, towards zero; 20000 x 79; 9999 x 81 = 809919
-    EXPECT_RECT(platform.PlaceOf(child), 10 + 9, 20 - 20, 110 + 158, 60 + 80);
+    EXPECT_RECT(m_platform.PlaceOf(child), 10 + 9, 20 - 20, 110 + 158, 60 + 80);
 }
 
 // 10000 x 300000 leaves 32 bits: 3,000,000,000 - 2^32 = -1,294,967,296, and a ten thousandth of that is -129496.
@@ -118,7 +118,7 @@ TEST_F(LayoutResizer, ProductsWrapAroundIn32Bits)
 
 TEST_F(LayoutResizer, GrowingAndComingBackRestoresEveryDesignRectangle)
 {
-    CWnd & dialog = platform.AddDialog(design_outer);
+    CWnd & dialog = m_platform.AddDialog(design_outer);
     CEdges const edges[] = {CEdges::BOTTOM_RIGHT(),    CEdges::TOP_LEFT_BOTTOM_RIGHT(), CEdges::BOTTOM_THIRD(),
                             CEdges::BOTTOM_TWOTHIRD(), CEdges::HORI_CENTER(),           CEdges::RIGHT_HALF()};
     std::vector<CWnd *> children;
@@ -126,7 +126,7 @@ TEST_F(LayoutResizer, GrowingAndComingBackRestoresEveryDesignRectangle)
     for (CEdges const & one : edges)
     {
         int const shift = static_cast<int>(children.size()) * 7;
-        children.push_back(&platform.AddChild(dialog, CRect(shift, shift + 1, shift + 33, shift + 20)));
+        children.push_back(&m_platform.AddChild(dialog, CRect(shift, shift + 1, shift + 33, shift + 20)));
         resizer.PositionChild(children.back(), one, nullptr);
     }
     for (int const growth : {1, 2, 3, 7, 99, 1000, 12345})
@@ -138,7 +138,7 @@ TEST_F(LayoutResizer, GrowingAndComingBackRestoresEveryDesignRectangle)
         for (std::size_t at = 0; at < children.size(); ++at)
         {
             int const shift = static_cast<int>(at) * 7;
-            EXPECT_RECT(platform.PlaceOf(*children[at]), shift, shift + 1, shift + 33, shift + 20) << at;
+            EXPECT_RECT(m_platform.PlaceOf(*children[at]), shift, shift + 1, shift + 33, shift + 20) << at;
         }
     }
 }
@@ -151,35 +151,35 @@ TEST_F(LayoutResizer, ClampsEachDirectionForItself)
 
 TEST_F(LayoutResizer, TheSecondPositionChildReplacesTheFirstWholly)
 {
-    CWnd & dialog = platform.AddDialog(design_outer);
-    CWnd & child = platform.AddChild(dialog, child_place);
+    CWnd & dialog = m_platform.AddDialog(design_outer);
+    CWnd & child = m_platform.AddChild(dialog, child_place);
     CDialogResizer resizer(dialog, L"");
     CRect const first(1, 2, 3, 4);
     resizer.PositionChild(&child, CEdges::BOTTOM_RIGHT(), &first);
     resizer.PositionChild(&child, CEdges::LEFT_RIGHT(), nullptr);
     Resize(dialog, 450, 340);
-    platform.calls.clear();
+    m_platform.calls.clear();
     resizer.OnSize();
-    EXPECT_RECT(platform.PlaceOf(child), 10, 20, 160, 60);
-    EXPECT_EQ(platform.calls.size(), 3U) << "one rectangle read, one move, one invalidation";
+    EXPECT_RECT(m_platform.PlaceOf(child), 10, 20, 160, 60);
+    EXPECT_EQ(m_platform.calls.size(), 3U) << "one rectangle read, one move, one invalidation";
 }
 
 TEST_F(LayoutResizer, PositionChildMovesNothing)
 {
-    CWnd & dialog = platform.AddDialog(design_outer);
-    CWnd & child = platform.AddChild(dialog, child_place);
+    CWnd & dialog = m_platform.AddDialog(design_outer);
+    CWnd & child = m_platform.AddChild(dialog, child_place);
     CDialogResizer resizer(dialog, L"");
     CRect const elsewhere(200, 100, 250, 120);
     resizer.PositionChild(&child, CEdges::BOTTOM_RIGHT(), &elsewhere);
-    EXPECT_RECT(platform.PlaceOf(child), 10, 20, 110, 60);
+    EXPECT_RECT(m_platform.PlaceOf(child), 10, 20, 110, 60);
     resizer.OnSize();
-    EXPECT_RECT(platform.PlaceOf(child), 200, 100, 250, 120);
+    EXPECT_RECT(m_platform.PlaceOf(child), 200, 100, 250, 120);
 }
 
 TEST_F(LayoutResizer, ANullChildAndAnUnknownIdAreIgnored)
 {
-    CWnd & dialog = platform.AddDialog(design_outer);
-    CWnd & child = platform.AddChild(dialog, child_place, child_id);
+    CWnd & dialog = m_platform.AddDialog(design_outer);
+    CWnd & child = m_platform.AddChild(dialog, child_place, child_id);
     CDialogResizer resizer(dialog, L"");
     CRect const fractions(1, 2, 3, 4);
     CSize const shift(5, 5);
@@ -188,73 +188,73 @@ TEST_F(LayoutResizer, ANullChildAndAnUnknownIdAreIgnored)
     resizer.PositionChild(child_id + 1, CEdges::RIGHT(), nullptr);
     resizer.PositionChild(child_id + 1, fractions, nullptr);
     resizer.RepositionChild(child_id + 1, &shift, &shift, false);
-    platform.calls.clear();
+    m_platform.calls.clear();
     resizer.OnSize();
-    EXPECT_TRUE(platform.calls.empty()) << "the table is empty";
-    EXPECT_RECT(platform.PlaceOf(child), 10, 20, 110, 60);
+    EXPECT_TRUE(m_platform.calls.empty()) << "the table is empty";
+    EXPECT_RECT(m_platform.PlaceOf(child), 10, 20, 110, 60);
 }
 
 TEST_F(LayoutResizer, TheIdFormsFindTheControl)
 {
-    CWnd & dialog = platform.AddDialog(design_outer);
-    CWnd & child = platform.AddChild(dialog, child_place, child_id);
+    CWnd & dialog = m_platform.AddDialog(design_outer);
+    CWnd & child = m_platform.AddChild(dialog, child_place, child_id);
     CDialogResizer resizer(dialog, L"");
     CSize const shift(5, 6);
     Resize(dialog, 450, 340);
 
     resizer.PositionChild(child_id, CEdges::BOTTOM_RIGHT(), nullptr);
     resizer.OnSize();
-    EXPECT_RECT(platform.PlaceOf(child), 60, 60, 160, 100);
+    EXPECT_RECT(m_platform.PlaceOf(child), 60, 60, 160, 100);
 
     resizer.PositionChild(child_id, CRect(0, 0, 10000, 0), &child_place);
     resizer.RepositionChild(child_id, &shift, nullptr, false);
     resizer.OnSize();
-    EXPECT_RECT(platform.PlaceOf(child), 15, 26, 165, 66);
+    EXPECT_RECT(m_platform.PlaceOf(child), 15, 26, 165, 66);
 }
 
 TEST_F(LayoutResizer, RepositionAppliesWhatIsGiven)
 {
-    CWnd & dialog = platform.AddDialog(design_outer);
-    CWnd & child = platform.AddChild(dialog, child_place);
+    CWnd & dialog = m_platform.AddDialog(design_outer);
+    CWnd & child = m_platform.AddChild(dialog, child_place);
     CDialogResizer resizer(dialog, L"");
     resizer.PositionChild(&child, CEdges::TOP_LEFT(), nullptr);
     CSize const offset(3, -4);
     CSize const growth(20, 30);
 
     resizer.RepositionChild(&child, &offset, nullptr, false);
-    EXPECT_RECT(platform.PlaceOf(child), 10, 20, 110, 60) << "nothing moves before OnSize";
+    EXPECT_RECT(m_platform.PlaceOf(child), 10, 20, 110, 60) << "nothing moves before OnSize";
     resizer.OnSize();
-    EXPECT_RECT(platform.PlaceOf(child), 13, 16, 113, 56);
+    EXPECT_RECT(m_platform.PlaceOf(child), 13, 16, 113, 56);
     resizer.RepositionChild(&child, nullptr, &growth, false);
     resizer.OnSize();
-    EXPECT_RECT(platform.PlaceOf(child), 13, 16, 133, 86);
+    EXPECT_RECT(m_platform.PlaceOf(child), 13, 16, 133, 86);
     resizer.RepositionChild(&child, &offset, &growth, false);
     resizer.OnSize();
-    EXPECT_RECT(platform.PlaceOf(child), 16, 12, 156, 112);
+    EXPECT_RECT(m_platform.PlaceOf(child), 16, 12, 156, 112);
     resizer.RepositionChild(&child, nullptr, nullptr, false);
     resizer.OnSize();
-    EXPECT_RECT(platform.PlaceOf(child), 16, 12, 156, 112);
+    EXPECT_RECT(m_platform.PlaceOf(child), 16, 12, 156, 112);
 }
 
 TEST_F(LayoutResizer, RepositionOfAnUnregisteredChildDoesNothing)
 {
-    CWnd & dialog = platform.AddDialog(design_outer);
-    CWnd & registered = platform.AddChild(dialog, child_place);
-    CWnd & stranger = platform.AddChild(dialog, CRect(1, 2, 30, 40));
+    CWnd & dialog = m_platform.AddDialog(design_outer);
+    CWnd & registered = m_platform.AddChild(dialog, child_place);
+    CWnd & stranger = m_platform.AddChild(dialog, CRect(1, 2, 30, 40));
     CDialogResizer resizer(dialog, L"");
     resizer.PositionChild(&registered, CEdges::TOP_LEFT(), nullptr);
     CSize const offset(3, 4);
     resizer.RepositionChild(&stranger, &offset, &offset, false);
     resizer.RepositionChild(&stranger, &offset, &offset, true);
     resizer.OnSize();
-    EXPECT_RECT(platform.PlaceOf(stranger), 1, 2, 30, 40);
-    EXPECT_RECT(platform.PlaceOf(registered), 10, 20, 110, 60);
+    EXPECT_RECT(m_platform.PlaceOf(stranger), 1, 2, 30, 40);
+    EXPECT_RECT(m_platform.PlaceOf(registered), 10, 20, 110, 60);
 }
 
 TEST_F(LayoutResizer, ScaledRepositionDropsTheDirectionThatHasGrown)
 {
-    CWnd & dialog = platform.AddDialog(design_outer);
-    CWnd & child = platform.AddChild(dialog, child_place);
+    CWnd & dialog = m_platform.AddDialog(design_outer);
+    CWnd & child = m_platform.AddChild(dialog, child_place);
     CDialogResizer resizer(dialog, L"");
     resizer.PositionChild(&child, CEdges::TOP_LEFT(), nullptr);
     CSize const offset(3, 4);
@@ -263,13 +263,13 @@ TEST_F(LayoutResizer, ScaledRepositionDropsTheDirectionThatHasGrown)
     Resize(dialog, 401, 300);
     resizer.RepositionChild(&child, &offset, &growth, true);
     resizer.OnSize();
-    EXPECT_RECT(platform.PlaceOf(child), 10, 24, 110, 94);
+    EXPECT_RECT(m_platform.PlaceOf(child), 10, 24, 110, 94);
 }
 
 TEST_F(LayoutResizer, ScaledRepositionInACollapsedPaneTakesTheAmountsAsTheyAre)
 {
-    CWnd & dialog = platform.AddDialog(design_outer);
-    CWnd & child = platform.AddChild(dialog, child_place);
+    CWnd & dialog = m_platform.AddDialog(design_outer);
+    CWnd & child = m_platform.AddChild(dialog, child_place);
     CDialogResizer resizer(dialog, L"");
     resizer.PositionChild(&child, CEdges::TOP_LEFT(), nullptr);
     CSize const offset(3, 4);
@@ -278,37 +278,37 @@ TEST_F(LayoutResizer, ScaledRepositionInACollapsedPaneTakesTheAmountsAsTheyAre)
     Resize(dialog, 0, 600);
     resizer.RepositionChild(&child, &offset, &growth, true);
     resizer.OnSize();
-    EXPECT_RECT(platform.PlaceOf(child), 13, 20, 133, 60) << "not scaled across, dropped in height as ever";
+    EXPECT_RECT(m_platform.PlaceOf(child), 13, 20, 133, 60) << "not scaled across, dropped in height as ever";
     Resize(dialog, 401, 0);
     resizer.RepositionChild(&child, &offset, &growth, true);
     resizer.OnSize();
-    EXPECT_RECT(platform.PlaceOf(child), 13, 24, 133, 94);
+    EXPECT_RECT(m_platform.PlaceOf(child), 13, 24, 133, 94);
 }
 
 TEST_F(LayoutResizer, AChildOrTheResizerMayEndWhileAChildIsMoved)
 {
-    CWnd & dialog = platform.AddDialog(design_outer);
+    CWnd & dialog = m_platform.AddDialog(design_outer);
     CWnd * children[4];
     for (CWnd *& child : children)
-        child = &platform.AddChild(dialog, child_place);
+        child = &m_platform.AddChild(dialog, child_place);
     auto resizer = std::make_unique<CDialogResizer>(dialog, L"");
     for (CWnd * const child : children)
         resizer->PositionChild(child, CEdges::BOTTOM_RIGHT(), nullptr);
 
     int moved = 0;
-    platform.onMove = [&](CWnd & child) {
+    m_platform.onMove = [&](CWnd & child) {
         ++moved;
         if (&child == children[0] || &child == children[2])
-            platform.Destroy(child);
+            m_platform.Destroy(child);
     };
     Resize(dialog, 450, 340);
     resizer->OnSize();
     EXPECT_EQ(moved, 4);
-    EXPECT_RECT(platform.PlaceOf(*children[1]), 60, 60, 160, 100);
-    EXPECT_RECT(platform.PlaceOf(*children[3]), 60, 60, 160, 100);
+    EXPECT_RECT(m_platform.PlaceOf(*children[1]), 60, 60, 160, 100);
+    EXPECT_RECT(m_platform.PlaceOf(*children[3]), 60, 60, 160, 100);
 
     moved = 0;
-    platform.onMove = [&](CWnd &) {
+    m_platform.onMove = [&](CWnd &) {
         ++moved;
         resizer.reset();
     };
@@ -318,8 +318,8 @@ TEST_F(LayoutResizer, AChildOrTheResizerMayEndWhileAChildIsMoved)
 
 TEST_F(LayoutResizer, ScaledRepositionMultipliesByTheWholeQuotient)
 {
-    CWnd & dialog = platform.AddDialog(design_outer);
-    CWnd & child = platform.AddChild(dialog, child_place);
+    CWnd & dialog = m_platform.AddDialog(design_outer);
+    CWnd & child = m_platform.AddChild(dialog, child_place);
     CDialogResizer resizer(dialog, L"");
     resizer.PositionChild(&child, CEdges::TOP_LEFT(), nullptr);
     CSize const offset(3, 4);
@@ -329,61 +329,61 @@ TEST_F(LayoutResizer, ScaledRepositionMultipliesByTheWholeQuotient)
     Resize(dialog, 150, 299);
     resizer.RepositionChild(&child, &offset, nullptr, true);
     resizer.OnSize();
-    EXPECT_RECT(platform.PlaceOf(child), 16, 24, 116, 64);
+    EXPECT_RECT(m_platform.PlaceOf(child), 16, 24, 116, 64);
     // 400 / 133 = 3, 300 / 100 = 3
     Resize(dialog, 133, 100);
     resizer.RepositionChild(&child, nullptr, &growth, true);
     resizer.OnSize();
-    EXPECT_RECT(platform.PlaceOf(child), 16, 24, 176, 154);
+    EXPECT_RECT(m_platform.PlaceOf(child), 16, 24, 176, 154);
 }
 
 TEST_F(LayoutResizer, ChildrenAreMovedInWindowOrderAndOthersLeftAlone)
 {
-    CWnd & dialog = platform.AddDialog(design_outer);
-    CWnd & first = platform.AddChildWithHandle(dialog, CRect(0, 0, 10, 10), reinterpret_cast<HWND>(0x9000));
-    CWnd & stranger = platform.AddChildWithHandle(dialog, CRect(5, 5, 6, 6), reinterpret_cast<HWND>(0x8000));
-    CWnd & second = platform.AddChildWithHandle(dialog, CRect(0, 20, 10, 30), reinterpret_cast<HWND>(0x7000));
-    CWnd & third = platform.AddChildWithHandle(dialog, CRect(0, 40, 10, 50), reinterpret_cast<HWND>(0x7800));
+    CWnd & dialog = m_platform.AddDialog(design_outer);
+    CWnd & first = m_platform.AddChildWithHandle(dialog, CRect(0, 0, 10, 10), reinterpret_cast<HWND>(0x9000));
+    CWnd & stranger = m_platform.AddChildWithHandle(dialog, CRect(5, 5, 6, 6), reinterpret_cast<HWND>(0x8000));
+    CWnd & second = m_platform.AddChildWithHandle(dialog, CRect(0, 20, 10, 30), reinterpret_cast<HWND>(0x7000));
+    CWnd & third = m_platform.AddChildWithHandle(dialog, CRect(0, 40, 10, 50), reinterpret_cast<HWND>(0x7800));
     CDialogResizer resizer(dialog, L"");
     for (CWnd * const child : {&third, &first, &second})
         resizer.PositionChild(child, CEdges::RIGHT(), nullptr);
     Resize(dialog, 401, 300);
-    platform.calls.clear();
+    m_platform.calls.clear();
     resizer.OnSize();
-    EXPECT_EQ(platform.calls, (std::vector<std::string>{"GetWindowRect 0", "MoveWindow 1 1 0 10 10", "Invalidate 1",
-                                                        "MoveWindow 3 1 20 10 10", "Invalidate 3",
-                                                        "MoveWindow 4 1 40 10 10", "Invalidate 4"}));
-    EXPECT_RECT(platform.PlaceOf(stranger), 5, 5, 6, 6);
+    EXPECT_EQ(m_platform.calls, (std::vector<std::string>{"GetWindowRect 0", "MoveWindow 1 1 0 10 10", "Invalidate 1",
+                                                          "MoveWindow 3 1 20 10 10", "Invalidate 3",
+                                                          "MoveWindow 4 1 40 10 10", "Invalidate 4"}));
+    EXPECT_RECT(m_platform.PlaceOf(stranger), 5, 5, 6, 6);
 }
 
 TEST_F(LayoutResizer, GoneChildrenAndGrandchildrenAreSkipped)
 {
-    CWnd & dialog = platform.AddDialog(design_outer);
-    CWnd & gone = platform.AddChild(dialog, child_place);
-    CWnd & group = platform.AddChild(dialog, CRect(0, 0, 200, 200));
-    CWnd & grandchild = platform.AddChild(group, child_place);
-    CWnd & child = platform.AddChild(dialog, child_place);
+    CWnd & dialog = m_platform.AddDialog(design_outer);
+    CWnd & gone = m_platform.AddChild(dialog, child_place);
+    CWnd & group = m_platform.AddChild(dialog, CRect(0, 0, 200, 200));
+    CWnd & grandchild = m_platform.AddChild(group, child_place);
+    CWnd & child = m_platform.AddChild(dialog, child_place);
     CDialogResizer resizer(dialog, L"");
     for (CWnd * const one : {&gone, &grandchild, &child})
         resizer.PositionChild(one, CEdges::RIGHT(), nullptr);
-    platform.Destroy(gone);
+    m_platform.Destroy(gone);
     Resize(dialog, 410, 300);
-    platform.calls.clear();
+    m_platform.calls.clear();
     resizer.OnSize();
-    EXPECT_EQ(platform.calls,
+    EXPECT_EQ(m_platform.calls,
               (std::vector<std::string>{"GetWindowRect 0", "MoveWindow 4 20 20 100 40", "Invalidate 4"}));
 }
 
 TEST_F(LayoutResizer, TheDesignRectangleIsReadInTheParentsClientCoordinates)
 {
-    CWnd & dialog = platform.AddDialog(design_outer);
-    CWnd & group = platform.AddChild(dialog, CRect(50, 60, 250, 260));
-    CWnd & grandchild = platform.AddChild(group, child_place);
+    CWnd & dialog = m_platform.AddDialog(design_outer);
+    CWnd & group = m_platform.AddChild(dialog, CRect(50, 60, 250, 260));
+    CWnd & grandchild = m_platform.AddChild(group, child_place);
     CDialogResizer ofGroup(group, L"");
     ofGroup.PositionChild(&grandchild, CEdges::TOP_LEFT(), nullptr);
-    platform.SetOuter(dialog, CRect(0, 0, 900, 700));
+    m_platform.SetOuter(dialog, CRect(0, 0, 900, 700));
     ofGroup.OnSize();
-    EXPECT_RECT(platform.PlaceOf(grandchild), 10, 20, 110, 60);
+    EXPECT_RECT(m_platform.PlaceOf(grandchild), 10, 20, 110, 60);
 }
 
 // A thousand random children in random handle order, against a formula of our own in floating point.
@@ -393,7 +393,7 @@ TEST_F(LayoutResizer, AThousandRandomChildrenNeverDrift)
     auto const number = [&random](int low, int high) { return std::uniform_int_distribution<int>(low, high)(random); };
     constexpr int children_count = 1000;
 
-    CWnd & dialog = platform.AddDialog(design_outer);
+    CWnd & dialog = m_platform.AddDialog(design_outer);
     std::vector<std::uintptr_t> handles;
     for (int at = 0; at < children_count; ++at)
         handles.push_back(0x20000 + 4 * static_cast<std::uintptr_t>(at));
@@ -414,7 +414,7 @@ TEST_F(LayoutResizer, AThousandRandomChildrenNeverDrift)
         CRect const design(left, top, left + number(0, 300), top + number(0, 300));
         CRect const fractions(number(-10000, 20000), number(-10000, 20000), number(-10000, 20000),
                               number(-10000, 20000));
-        CWnd & window = platform.AddChildWithHandle(dialog, design, reinterpret_cast<HWND>(handle));
+        CWnd & window = m_platform.AddChildWithHandle(dialog, design, reinterpret_cast<HWND>(handle));
         children.push_back({&window, design, fractions});
         if (number(0, 1) == 0)
             resizer.PositionChild(&window, fractions, nullptr);
@@ -422,7 +422,7 @@ TEST_F(LayoutResizer, AThousandRandomChildrenNeverDrift)
             resizer.PositionChild(&window, fractions, &design);
     }
 
-    platform.recording = false;
+    m_platform.recording = false;
     for (int round = 0; round < 20; ++round)
     {
         int const width = number(200, 3000);
@@ -436,7 +436,7 @@ TEST_F(LayoutResizer, AThousandRandomChildrenNeverDrift)
         };
         for (Child const & child : children)
         {
-            ASSERT_EQ(Sides(platform.PlaceOf(*child.window)),
+            ASSERT_EQ(Sides(m_platform.PlaceOf(*child.window)),
                       (std::vector<int>{expected(child.design.left, child.fractions.left, dx),
                                         expected(child.design.top, child.fractions.top, dy),
                                         expected(child.design.right, child.fractions.right, dx),
@@ -447,5 +447,5 @@ TEST_F(LayoutResizer, AThousandRandomChildrenNeverDrift)
     Resize(dialog, 400, 300);
     resizer.OnSize();
     for (Child const & child : children)
-        ASSERT_EQ(Sides(platform.PlaceOf(*child.window)), Sides(child.design));
+        ASSERT_EQ(Sides(m_platform.PlaceOf(*child.window)), Sides(child.design));
 }

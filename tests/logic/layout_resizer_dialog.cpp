@@ -41,13 +41,13 @@ TEST_F(LayoutDialog, NeverLaysOutForLessThanTheDesignSize)
 {
     RecordingStore store;
     {
-        CWnd & dialog = platform.AddDialog(design_outer);
-        CWnd & child = platform.AddChild(dialog, child_place);
+        CWnd & dialog = m_platform.AddDialog(design_outer);
+        CWnd & child = m_platform.AddChild(dialog, child_place);
         CDialogResizer resizer(dialog, L"Dialog");
         resizer.PositionChild(&child, CEdges::TOP_LEFT_BOTTOM_RIGHT(), nullptr);
-        platform.SetOuter(dialog, CRect(7, 9, 307, 209));
+        m_platform.SetOuter(dialog, CRect(7, 9, 307, 209));
         resizer.OnSize();
-        EXPECT_RECT(platform.PlaceOf(child), 10, 20, 110, 60);
+        EXPECT_RECT(m_platform.PlaceOf(child), 10, 20, 110, 60);
     }
     // The clamped rectangle, at the real left and top.
     EXPECT_EQ(store.calls, (std::vector<std::string>{"entry Dialog 0", "set Dialog[0]=7", "set Dialog[1]=9",
@@ -58,12 +58,12 @@ TEST_F(LayoutDialog, WithoutChildrenNothingIsUpdatedAndTheConstructionRectangleI
 {
     RecordingStore store;
     {
-        CWnd & dialog = platform.AddDialog(design_outer);
+        CWnd & dialog = m_platform.AddDialog(design_outer);
         CDialogResizer resizer(dialog, L"Dialog");
         Resize(dialog, 800, 600);
-        platform.calls.clear();
+        m_platform.calls.clear();
         resizer.OnSize();
-        EXPECT_TRUE(platform.calls.empty());
+        EXPECT_TRUE(m_platform.calls.empty());
     }
     EXPECT_EQ(store.calls, (std::vector<std::string>{"entry Dialog 0", "set Dialog[0]=100", "set Dialog[1]=50",
                                                      "set Dialog[2]=500", "set Dialog[3]=350"}));
@@ -74,7 +74,7 @@ TEST_F(LayoutDialog, WithoutChildrenTheRestoredRectangleIsSaved)
     RecordingStore store;
     store.values = {{{L"Dialog", 0}, 1}, {{L"Dialog", 1}, 2}, {{L"Dialog", 2}, 701}, {{L"Dialog", 3}, 502}};
     {
-        CWnd & dialog = platform.AddDialog(design_outer);
+        CWnd & dialog = m_platform.AddDialog(design_outer);
         CDialogResizer resizer(dialog, L"Dialog");
         resizer.RestoreStoredPosition();
         resizer.OnSize();
@@ -89,13 +89,13 @@ TEST_F(LayoutDialog, TheLastLaidOutRectangleIsSavedWithoutALiveWindow)
 {
     RecordingStore store;
     {
-        CWnd & dialog = platform.AddDialog(design_outer);
-        CWnd & child = platform.AddChild(dialog, child_place);
+        CWnd & dialog = m_platform.AddDialog(design_outer);
+        CWnd & child = m_platform.AddChild(dialog, child_place);
         CDialogResizer resizer(dialog, L"Dialog");
         resizer.PositionChild(&child, CEdges::RIGHT(), nullptr);
-        platform.SetOuter(dialog, CRect(-20, -10, 780, 590));
+        m_platform.SetOuter(dialog, CRect(-20, -10, 780, 590));
         resizer.OnSize();
-        platform.Destroy(dialog);
+        m_platform.Destroy(dialog);
         EXPECT_TRUE(store.calls.empty()) << "only the destructor saves";
     }
     EXPECT_EQ(store.calls, (std::vector<std::string>{"entry Dialog 0", "set Dialog[0]=-20", "set Dialog[1]=-10",
@@ -106,42 +106,42 @@ TEST_F(LayoutDialog, RestoringMovesTheDialogWithEachMissingFieldAtItsPresentValu
 {
     RecordingStore store;
     store.values = {{{L"Dialog", 0}, 33}, {{L"Dialog", 2}, 633}};
-    CWnd & dialog = platform.AddDialog(design_outer);
+    CWnd & dialog = m_platform.AddDialog(design_outer);
     CDialogResizer resizer(dialog, L"Dialog");
-    platform.calls.clear();
+    m_platform.calls.clear();
     resizer.RestoreStoredPosition();
     EXPECT_EQ(store.calls, (std::vector<std::string>{"entry Dialog 0", "get Dialog[0]", "get Dialog[1]",
                                                      "get Dialog[2]", "get Dialog[3]"}));
-    EXPECT_EQ(platform.calls, (std::vector<std::string>{"MoveDialog 0 33 50 600 300"}));
+    EXPECT_EQ(m_platform.calls, (std::vector<std::string>{"MoveDialog 0 33 50 600 300"}));
 }
 
 TEST_F(LayoutDialog, AnEmptyKeyStoresNothingAndMovesNothing)
 {
     RecordingStore store;
     {
-        CWnd & dialog = platform.AddDialog(design_outer);
+        CWnd & dialog = m_platform.AddDialog(design_outer);
         CDialogResizer resizer(dialog, L"");
-        platform.calls.clear();
+        m_platform.calls.clear();
         resizer.RestoreStoredPosition();
-        EXPECT_TRUE(platform.calls.empty());
+        EXPECT_TRUE(m_platform.calls.empty());
     }
     EXPECT_TRUE(store.calls.empty());
 }
 
 TEST_F(LayoutDialog, WithoutAStoreNothingIsMoved)
 {
-    CWnd & dialog = platform.AddDialog(design_outer);
+    CWnd & dialog = m_platform.AddDialog(design_outer);
     {
         CDialogResizer resizer(dialog, L"Dialog");
-        platform.calls.clear();
+        m_platform.calls.clear();
         resizer.RestoreStoredPosition();
     }
-    EXPECT_TRUE(platform.calls.empty());
+    EXPECT_TRUE(m_platform.calls.empty());
 }
 
 TEST_F(LayoutDialog, MinMaxInfoPinsTheDirectionsThatMayNotGrow)
 {
-    CWnd & dialog = platform.AddDialog(design_outer);
+    CWnd & dialog = m_platform.AddDialog(design_outer);
     CDialogResizer resizer(dialog, L"");
     Resize(dialog, 800, 600);
     struct Case
@@ -169,19 +169,19 @@ TEST_F(LayoutDialog, MinMaxInfoPinsTheDirectionsThatMayNotGrow)
 
 TEST_F(LayoutDialog, ADeadDialogIsReportedAndConstructionGoesOn)
 {
-    CWnd & dialog = platform.AddDialog(design_outer);
-    platform.Destroy(dialog);
+    CWnd & dialog = m_platform.AddDialog(design_outer);
+    m_platform.Destroy(dialog);
     CDialogResizer resizer(dialog, L"");
-    ASSERT_EQ(platform.assertions.size(), 1U);
-    EXPECT_EQ(platform.assertions[0].expression, L"::IsWindow( dialog.m_hWnd)");
-    EXPECT_EQ(platform.assertions[0].source, L"DialogResizer");
-    EXPECT_EQ(platform.assertions[0].line, 45U);
-    EXPECT_EQ(platform.calls, (std::vector<std::string>{"GetWindowRect none"})) << "construction goes on";
+    ASSERT_EQ(m_platform.assertions.size(), 1U);
+    EXPECT_EQ(m_platform.assertions[0].expression, L"::IsWindow( dialog.m_hWnd)");
+    EXPECT_EQ(m_platform.assertions[0].source, L"DialogResizer");
+    EXPECT_EQ(m_platform.assertions[0].line, 45U);
+    EXPECT_EQ(m_platform.calls, (std::vector<std::string>{"GetWindowRect none"})) << "construction goes on";
 }
 
 TEST_F(LayoutDialog, ALiveDialogIsNotReported)
 {
-    CWnd & dialog = platform.AddDialog(design_outer);
+    CWnd & dialog = m_platform.AddDialog(design_outer);
     CDialogResizer resizer(dialog, L"");
-    EXPECT_TRUE(platform.assertions.empty());
+    EXPECT_TRUE(m_platform.assertions.empty());
 }

@@ -1,83 +1,17 @@
 #pragma once
-// The toolkit's list model on a native list without a window: a table of items with texts and a parameter word each, as
-// the native list keeps them, and columns with a width and a header state.
+// The toolkit's list model on a native list without a window.
 
-#include "ListReferenceModel.h"
-#include "list/ListModel.h"
-#include "list/XListColumnFit.h"
-
+#include <algorithm>
 #include <set>
 #include <string>
 #include <tuple>
 #include <utility>
 #include <vector>
 
-/// The native list's part.
-class ItemTable final : public ListItems
-{
-public:
-    using Notice = list_reference::Notice;
-    struct Item
-    {
-        std::vector<std::wstring> texts;
-        XLISTCTRLROW * parameter = nullptr;
-        bool selected = false;
-    };
-    struct Column
-    {
-        int width;
-        int headerState;
-    };
-
-    void const * Identity() const override { return this; }
-    int RowCount() const override { return static_cast<int>(items.size()); }
-    int ColumnCount() const override { return static_cast<int>(columns.size()); }
-    bool ObjectAt(int row, XLISTCTRLROW *& object) const override
-    {
-        bool const isThere = row >= 0 && row < RowCount();
-        object = isThere ? items[static_cast<std::size_t>(row)].parameter : nullptr;
-        return isThere;
-    }
-    int FindObject(XLISTCTRLROW const & object) const override
-    {
-        for (std::size_t row = 0; row < items.size(); ++row)
-            if (items[row].parameter == &object)
-                return static_cast<int>(row);
-        return -1;
-    }
-    std::vector<XLISTCTRLROW *> ObjectsFromTop() const override
-    {
-        std::vector<XLISTCTRLROW *> objects;
-        for (Item const & item : items)
-            objects.push_back(item.parameter);
-        return objects;
-    }
-    void MarkModified() override { modified = true; }
-    bool HeadersFollow() const override { return headersFollow; }
-    int HeaderState(int col) const override { return columns[static_cast<std::size_t>(col)].headerState; }
-    bool Repaints() const override { return true; }
-    bool SetHeaderState(int col, int state) override
-    {
-        if (col < 0 || col >= ColumnCount() || state < XHC_NONE || state >= XHC_END)
-            return false;
-        columns[static_cast<std::size_t>(col)].headerState = state;
-        return true;
-    }
-    void UpdateHeader() override {}
-    bool ShowText(int row, int col, wchar_t const * text) override
-    {
-        items[static_cast<std::size_t>(row)].texts[static_cast<std::size_t>(col)] = text;
-        return true;
-    }
-    void Repaint(int, int) override {}
-    void TellOfCheck(int row, int col) override { notices.push_back({Notice::What::check, row, col}); }
-
-    std::vector<Item> items;
-    std::vector<Column> columns;
-    std::vector<Notice> notices;
-    bool headersFollow = false;
-    bool modified = false;
-};
+#include "list/ListModel.h"
+#include "list/XListColumnFit.h"
+#include "list_ItemTable.h"
+#include "ListReferenceModel.h"
 
 /// What the random walk calls, handed on to the model.
 class ListStandIn
@@ -85,6 +19,8 @@ class ListStandIn
 public:
     using Notice = list_reference::Notice;
     static constexpr bool clicks_open_editors = false;
+
+    ListStandIn() { m_native.memory = &m_model.memory; }
 
     // --- Columns and rows ---
 
@@ -102,37 +38,16 @@ public:
         DeleteAllItems();
         m_native.columns.clear();
     }
-    int InsertForeign(int position, wchar_t const * text) { return Insert(position, text, nullptr); }
+    int InsertForeign(int position, wchar_t const * text) { return m_native.Insert(position, text, nullptr); }
     int InsertItem(int position, wchar_t const * text, COLORREF color, COLORREF background, void const * ptr,
                    long long data)
     {
-        XLISTCTRLROW * const object = m_model.TakeRow();
-        int const row = Insert(position < 0 ? ItemCount() : position, text, object);
-        XLISTCTRLDATA & first = *m_model.FirstCell(row);
-        first.textColor = color;
-        first.backgroundColor = background;
-        first.itemDataPtr = const_cast<void *>(ptr);
-        first.itemData64 = data;
-        return row;
+        return m_model.InsertRow({color, background, -1, ptr, data}, [&](XLISTCTRLROW & object) {
+            return m_native.Insert(position < 0 ? ItemCount() : position, text, &object);
+        });
     }
-    int DeleteItem(int row)
-    {
-        if (row < 0 || row >= ItemCount())
-            return 0;
-        XLISTCTRLROW const * const object = m_model.RowOf(row);
-        m_model.memory.BeginChange();
-        m_native.items.erase(m_native.items.begin() + row);
-        m_model.memory.EndChange();
-        m_model.pool.GiveBack(object);
-        return 1;
-    }
-    void DeleteAllItems()
-    {
-        m_model.memory.BeginChange();
-        m_native.items.clear();
-        m_model.memory.EndChange();
-        m_model.pool.GiveBackAll();
-    }
+    int DeleteItem(int row) { return m_model.DeleteRow(row); }
+    void DeleteAllItems() { m_model.DeleteAllRows(); }
     void Sort(bool ascending)
     {
         auto const key = [](ItemTable::Item const & item) {
@@ -140,12 +55,12 @@ public:
             return std::tuple(cells == nullptr, cells != nullptr ? cells->itemData64 : 0,
                               cells != nullptr ? reinterpret_cast<std::uintptr_t>(cells->itemDataPtr) : 0);
         };
-        m_model.memory.BeginChange();
-        std::stable_sort(m_native.items.begin(), m_native.items.end(),
-                         [&](ItemTable::Item const & a, ItemTable::Item const & b) {
-                             return ascending ? key(a) < key(b) : key(b) < key(a);
-                         });
-        m_model.memory.EndChange();
+        m_native.Change([&] {
+            std::stable_sort(m_native.items.begin(), m_native.items.end(),
+                             [&](ItemTable::Item const & a, ItemTable::Item const & b) {
+                                 return ascending ? key(a) < key(b) : key(b) < key(a);
+                             });
+        });
     }
     void SetWidth(int column, int width) { m_native.columns[static_cast<std::size_t>(column)].width = width; }
     int Width(int column) const { return m_native.columns[static_cast<std::size_t>(column)].width; }
@@ -251,8 +166,10 @@ public:
     int GetSelectedItem() const
     {
         for (std::size_t i = 0; i < m_native.items.size(); ++i)
+        {
             if (m_native.items[i].selected)
                 return static_cast<int>(i);
+        }
         return -1;
     }
     void Navigate(bool down, bool)
@@ -264,24 +181,10 @@ public:
     void Press(int row, int column)
     {
         ListModel::HeldRow held(m_model, row);
-        switch (DecidePress(*held.Cell(column)))
-        {
-        case CellPress::ignored:
+        if (DecidePress(*held.Cell(column)) == CellPress::ignored)
             return;
-        case CellPress::follow_link:
+        if (m_model.PressCell(held, column) == CellPress::follow_link)
             m_native.notices.push_back({Notice::What::link, row, column});
-            break;
-        case CellPress::flip_check:
-            m_model.FlipCheck(held, column);
-            break;
-        case CellPress::switch_radio_on:
-            m_model.SwitchRadioOn(held, column);
-            break;
-        case CellPress::open_combo:
-        case CellPress::open_edit:
-        case CellPress::select_only:
-            break;
-        }
         SetCurSel(row, false);
     }
     void OnHeaderColumnClick(int column)
@@ -325,29 +228,18 @@ public:
         std::set<XLISTCTRLROW const *> objects;
         std::size_t items = 0;
         for (ItemTable::Item const & item : m_native.items)
+        {
             if (item.parameter != nullptr)
             {
                 ++items;
                 objects.insert(item.parameter);
             }
+        }
         CXListRowPool const & pool = m_model.pool;
         return objects.size() == items && pool.used() == items && used == items && pool.capacity() >= items;
     }
 
 private:
-    int Insert(int position, wchar_t const * text, XLISTCTRLROW * object)
-    {
-        ItemTable::Item item;
-        item.texts.resize(m_native.columns.size());
-        if (!item.texts.empty())
-            item.texts[0] = text;
-        item.parameter = object;
-        m_model.memory.BeginChange();
-        m_native.items.insert(m_native.items.begin() + position, std::move(item));
-        m_model.memory.EndChange();
-        return position;
-    }
-
     ItemTable m_native;
     ListModel m_model{m_native};
     CColumnFitMemory m_fitMemory;

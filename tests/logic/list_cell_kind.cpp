@@ -64,6 +64,33 @@ TEST(ListCellKind, AnAdmittedPressActsOnACellDisabledSince)
     EXPECT_EQ(DecideAdmittedPress(cell), CellPress::flip_check);
 }
 
+TEST(ListCellKind, BarsHaveTheirOwnColoursAndLinksKeepTheirsAsOtherCells)
+{
+    auto const tintOf = [](unsigned int properties, int checkedState) {
+        XLISTCTRLDATA cell;
+        cell.properties = properties;
+        cell.checkedState = checkedState;
+        return TintOf(cell);
+    };
+    EXPECT_EQ(tintOf(1, -1), CellTint::text);
+    EXPECT_EQ(tintOf(1 + 2, 3), CellTint::text);
+    EXPECT_EQ(tintOf(1 + 16, -1), CellTint::text);
+    EXPECT_EQ(tintOf(1 + 4, -1), CellTint::link);
+    EXPECT_EQ(tintOf(1 + 4, 1), CellTint::link);
+    EXPECT_EQ(tintOf(1 + 4 + 16, -1), CellTint::link);
+    EXPECT_EQ(tintOf(1 + 8, -1), CellTint::bar);
+    EXPECT_EQ(tintOf(1 + 4 + 8, 1), CellTint::bar);
+}
+
+TEST(ListCellKind, ChecksAndRadioButtonsAloneShowAState)
+{
+    EXPECT_TRUE(ShowsState(CellKind::check));
+    EXPECT_TRUE(ShowsState(CellKind::radio));
+    for (CellKind const kind :
+         {CellKind::text, CellKind::edit, CellKind::link, CellKind::combo, CellKind::progress, CellKind::custom})
+        EXPECT_FALSE(ShowsState(kind));
+}
+
 TEST(ListCellKind, OnlySortingLooksAtABarsPercent)
 {
     XLISTCTRLDATA cell;

@@ -103,8 +103,10 @@ TEST(ListCell, FieldsStandInTheirOrder)
                                    &cell.progressFormat, &cell.progressShowText,  &cell.customDraw};
     EXPECT_EQ(fields[0], &cell);
     for (std::size_t i = 1; i < std::size(fields); ++i)
+    {
         EXPECT_LT(reinterpret_cast<std::uintptr_t>(fields[i - 1]), reinterpret_cast<std::uintptr_t>(fields[i]))
             << "field " << i;
+    }
     RecordProperty("bytes_per_cell", static_cast<int>(sizeof(XLISTCTRLDATA)));
 }
 

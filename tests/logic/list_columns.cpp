@@ -242,7 +242,7 @@ TEST(ListColumnFit, APreferredColumnFitsAsLongAsItStaysAboveTheMinimum)
         for (int & width : widths)
             width = static_cast<int>(random() % 200);
         int const available = 1 + static_cast<int>(random() % 1500);
-        auto const preferred = random() % widths.size();
+        std::size_t const preferred = random() % widths.size();
         int const alone = widths[preferred] + available - Sum(widths);
         fitter.Fit(widths, available, static_cast<int>(preferred));
         if (fitter.result == ColumnFit::unchanged)

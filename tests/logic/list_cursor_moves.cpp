@@ -1,12 +1,12 @@
 // How a list's cell cursor moves, and which keys act at which cells.
 
-#include "list/CursorMoves.h"
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <random>
 #include <set>
+
+#include "list/CursorMoves.h"
 
 using cursor_moves::ActKey;
 using cursor_moves::Grid;
@@ -30,8 +30,10 @@ TEST(CursorMoves, GoAlongTheColumnsThatShow)
         {3, MoveKey::end, true, 2},    {1, MoveKey::right, false, 3}, {1, MoveKey::end, false, 2},
     };
     for (auto const & move : moves)
+    {
         EXPECT_EQ(cursor_moves::ColumnAfter(grid, move.from, move.key, move.control), move.to)
             << move.from << ' ' << static_cast<int>(move.key) << ' ' << move.control;
+    }
     EXPECT_EQ(cursor_moves::ColumnAfter({5, {}}, 0, MoveKey::right, false), -1);
 }
 
@@ -69,7 +71,7 @@ TEST(CursorMoves, WayThereIsTheWayBack)
         auto const ask = [&](int row, int col) { return (seed >> (row * 5 + col)) % 2 != 0; };
         std::vector<Place> forward;
         Place const ahead(0, -1);
-        for (auto place = cursor_moves::NextChangeable(grid, ahead, true, ask); place;
+        for (std::optional<Place> place = cursor_moves::NextChangeable(grid, ahead, true, ask); place;
              place = cursor_moves::NextChangeable(grid, *place, true, ask))
         {
             forward.push_back(*place);
@@ -113,8 +115,10 @@ TEST(CursorMoves, KeysActAtCellsOfTheirKinds)
     for (auto const & cell : cells)
     {
         for (ActKey const key : {ActKey::space, ActKey::edit, ActKey::character, ActKey::drop_down, ActKey::enter})
+        {
             EXPECT_EQ(cursor_moves::Acts(key, cell.press), cell.keys.contains(key))
                 << static_cast<int>(key) << ' ' << static_cast<int>(cell.press);
+        }
         EXPECT_EQ(cursor_moves::CanBeChanged(cell.press), cell.changes);
     }
 }

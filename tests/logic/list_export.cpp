@@ -97,7 +97,7 @@ TEST(ListExportNumber, IsAsPrintfWritesIt)
         std::snprintf(expected, sizeof expected, "%g", static_cast<double>(value));
         std::string text(expected);
         // Some systems give every exponent three digits.
-        auto const exponent = text.find('e');
+        std::size_t const exponent = text.find('e');
         if (exponent != std::string::npos && text.size() == exponent + 5 && text[exponent + 2] == '0')
             text.erase(exponent + 2, 1);
         ASSERT_EQ(ExportedNumber(value, L"."), std::wstring(text.begin(), text.end()));

@@ -113,8 +113,10 @@ TEST(ListHeaderState, CellsAreFollowedByTheCheckStatesAlone)
 TEST(ListCheckCount, ASearchedStateCountsItself)
 {
     for (int state = 0; state <= 4; ++state)
+    {
         for (int searched = 0; searched <= 4; ++searched)
             EXPECT_EQ(CountsAsChecked(state, searched), state == searched) << state << ", " << searched;
+    }
     EXPECT_FALSE(CountsAsChecked(-1, 0));
 }
 

@@ -255,7 +255,7 @@ TEST(ListRowPool, RecyclesRowsInTheOrderOfTheDefinition)
         }
         else if (!rows.empty())
         {
-            auto const number = random() % rows.size();
+            std::size_t const number = random() % rows.size();
             ASSERT_EQ(pool.GiveBack(rows[number]), plain.GiveBack(static_cast<int>(number))) << "step " << step;
         }
         if (random() % 2000 == 0)
@@ -265,7 +265,7 @@ TEST(ListRowPool, RecyclesRowsInTheOrderOfTheDefinition)
         }
         ASSERT_EQ(pool.used(), plain.used);
         std::size_t slot = 0;
-        for (auto const & row : pool.InUse())
+        for (std::unique_ptr<XLISTCTRLROW> const & row : pool.InUse())
             ASSERT_EQ(row.get(), rows[static_cast<std::size_t>(plain.slots[slot++])]);
         ASSERT_EQ(slot, plain.used);
     }

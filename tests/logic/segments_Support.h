@@ -2,14 +2,14 @@
 // What the tests of the segment characters share: characters that delete themselves, a painter that writes down what it
 // is told, and the expectations kept in data/segments.
 
-#include "segments/DigiPaint.h"
-
 #include <gtest/gtest.h>
 
 #include <fstream>
 #include <sstream>
 #include <string>
 #include <vector>
+
+#include "segments/DigiPaint.h"
 
 namespace segments
 {
@@ -93,8 +93,10 @@ inline std::vector<std::istringstream> ReadExpectations(char const * name)
     EXPECT_TRUE(file) << name;
     std::vector<std::istringstream> lines;
     for (std::string line; std::getline(file, line);)
+    {
         if (!line.empty() && line[0] != '#')
             lines.emplace_back(line);
+    }
     EXPECT_FALSE(lines.empty()) << name;
     return lines;
 }

@@ -1,11 +1,11 @@
 #pragma once
 // Paints segment characters as a picture in SVG, in both forms.
 
-#include "segments/DigiPaint.h"
-
 #include <charconv>
 #include <initializer_list>
 #include <string>
+
+#include "segments/DigiPaint.h"
 
 namespace segments
 {

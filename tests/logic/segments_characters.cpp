@@ -1,12 +1,12 @@
 // Which character lights which segments of which kind of cell.
 
-#include "segments_Support.h"
-
 #include <algorithm>
 #include <map>
 #include <tuple>
 #include <type_traits>
 #include <typeinfo>
+
+#include "segments_Support.h"
 
 namespace
 {
@@ -27,8 +27,10 @@ Lit LitOf(CDigiChar const & character)
 {
     Lit lit;
     for (int bit = 0; bit < 16; ++bit)
+    {
         if ((character.mask & 1u << bit) != 0)
             lit.push_back(bit);
+    }
     return lit;
 }
 

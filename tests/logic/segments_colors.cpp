@@ -1,8 +1,8 @@
 // Colours of the segment displays.
 
-#include "segments/DigiColors.h"
-
 #include <gtest/gtest.h>
+
+#include "segments/DigiColors.h"
 
 namespace
 {

@@ -1,9 +1,9 @@
 // The curve through a run of points, and the memory of fitted curves.
 
-#include "segments_Support.h"
-
 #include <cmath>
 #include <limits>
+
+#include "segments_Support.h"
 
 namespace
 {
@@ -117,7 +117,7 @@ TEST(SegmentFit, ControlPointsAreThoseWorkedOutInDecimals)
         Points run;
         for (std::size_t i = first - 1; i <= first + length; ++i)
         {
-            auto const & point = character->segments[segment].points[i];
+            DigiStatic::CDigiGridPoint const & point = character->segments[segment].points[i];
             run.push_back({rect[0] + (rect[2] - rect[0]) / 49 * point.x, rect[1] + (rect[3] - rect[1]) / 83 * point.y});
         }
         CBezierControls const actual = FitBezier(run);

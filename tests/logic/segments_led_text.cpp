@@ -1,14 +1,13 @@
 // The text display that paints with a graphics object: everything but the painting.
 
-#include "segments/LedTextAnzeiger.h"
-
-#include "segments/DigiCharArray.h"
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <memory>
 #include <vector>
+
+#include "segments/DigiCharArray.h"
+#include "segments/LedTextAnzeiger.h"
 
 namespace
 {
@@ -55,7 +54,7 @@ TEST(LedText, StartsEmpty)
 TEST(LedText, TwentyCharactersFitTheFirstArray)
 {
     Display display;
-    auto const * const array = display.m_chars.get();
+    DigiStatic::CDigiCharArray const * const array = display.m_chars.get();
     display.SetText(L"12345678901234567890");
     EXPECT_EQ(display.m_capacity, 20U);
     EXPECT_EQ(display.m_chars.get(), array);
@@ -70,7 +69,7 @@ TEST(LedText, ArrayGrowsByTheNewLength)
     EXPECT_EQ(display.m_capacity, 41U);
     EXPECT_EQ(display.m_chars->entries.size(), 41U);
     EXPECT_EQ(display.Characters(), 21);
-    auto const * const array = display.m_chars.get();
+    DigiStatic::CDigiCharArray const * const array = display.m_chars.get();
     display.SetText(CString(L'8', 41));
     EXPECT_EQ(display.m_capacity, 41U);
     EXPECT_EQ(display.m_chars.get(), array);
@@ -121,7 +120,7 @@ TEST(LedText, SameTextKeepsItsCharacters)
 {
     Display display;
     display.SetText(L"12");
-    auto const * const character = display.Character(0);
+    DigiStatic::CDigiChar const * const character = display.Character(0);
     display.SetText(L"12");
     EXPECT_EQ(display.Character(0), character);
 }
@@ -134,7 +133,7 @@ TEST(LedText, LettersOfBothCasesLookTheSameAndAreKeptAsGiven)
     EXPECT_EQ(display.Character(0)->mask, 0x3BC0);
     EXPECT_EQ(display.Character(1)->mask, 0x3CA1);
     EXPECT_EQ(display.Character(2)->mask, 0x2700);
-    auto const * const character = display.Character(0);
+    DigiStatic::CDigiChar const * const character = display.Character(0);
     display.SetText(L"aBc");
     EXPECT_EQ(display.Character(0), character);
     display.SetText(L"ABC");
@@ -215,7 +214,7 @@ TEST(LedText, FreeingKeepsCountAndArray)
 {
     Display display;
     display.SetText(L"123");
-    auto const * const array = display.m_chars.get();
+    DigiStatic::CDigiCharArray const * const array = display.m_chars.get();
     display.FreeCharArray();
     EXPECT_EQ(display.m_charCount, 3U);
     EXPECT_EQ(display.m_chars.get(), array);

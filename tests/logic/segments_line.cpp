@@ -1,12 +1,11 @@
 // Place and characters of a line of segment text.
 
-#include "segments/DigiLine.h"
-
-#include "segments/DigiStyle.h"
-
 #include <gtest/gtest.h>
 
 #include <cmath>
+
+#include "segments/DigiLine.h"
+#include "segments/DigiStyle.h"
 
 namespace
 {

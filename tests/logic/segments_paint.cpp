@@ -1,10 +1,10 @@
 // What a character tells its painter: order of calls, rounding, curves and polygons.
 
-#include "segments_Support.h"
-
 #include <algorithm>
 #include <cmath>
 #include <limits>
+
+#include "segments_Support.h"
 
 namespace
 {
@@ -74,7 +74,7 @@ TEST(SegmentCurves, EveryBitOfTheMaskSelectsItsSegment)
             EXPECT_EQ(word == "on", ++segment == bit) << segment << " with bit " << bit;
         }
         EXPECT_EQ(segment, 13);
-        auto const polygons = Polygons(character, design_cell);
+        std::vector<PolygonRecorder::Call> const polygons = Polygons(character, design_cell);
         ASSERT_EQ(polygons.size(), 14u);
         for (int i = 0; i < 14; ++i)
             EXPECT_EQ(polygons[static_cast<std::size_t>(i)].lit, i == bit);
@@ -245,7 +245,8 @@ TEST(SegmentPolygons, AllPointsAreJoinedWhateverTheirType)
     for (unsigned long const style : {0ul, DigiStyleRounded})
     {
         CDigiCharOwner const character = Make(L'K', style);
-        auto const polygons = Polygons(*character, {10, 20, 10 + 49 / 2.0, 20 + 83 * 1.5});
+        std::vector<PolygonRecorder::Call> const polygons =
+            Polygons(*character, {10, 20, 10 + 49 / 2.0, 20 + 83 * 1.5});
         ASSERT_EQ(polygons.size(), 14u);
         for (std::size_t i = 0; i < polygons.size(); ++i)
         {
@@ -262,7 +263,8 @@ TEST(SegmentPolygons, AllPointsAreJoinedWhateverTheirType)
 
 TEST(SegmentPolygons, CoordinatesAreNotRounded)
 {
-    auto const polygons = Polygons(*Make(L'.', DigiStyleHideOff), {0.1, 0.2, 0.1 + 18 * 0.3, 0.2 + 83 * 0.7});
+    std::vector<PolygonRecorder::Call> const polygons =
+        Polygons(*Make(L'.', DigiStyleHideOff), {0.1, 0.2, 0.1 + 18 * 0.3, 0.2 + 83 * 0.7});
     ASSERT_EQ(polygons.size(), 1u);
     EXPECT_TRUE(polygons[0].lit);
     ASSERT_EQ(polygons[0].polygon.size(), 4u);
@@ -274,7 +276,7 @@ TEST(SegmentPolygons, CoordinatesAreNotRounded)
 
 TEST(SegmentPolygons, DiagonalsRunToTheEdge)
 {
-    auto const polygons = Polygons(*Make(L'X'), design_cell);
+    std::vector<PolygonRecorder::Call> const polygons = Polygons(*Make(L'X'), design_cell);
     ASSERT_EQ(polygons.size(), 14u);
     CPolygonPoint const spikes[] = {{4, 23}, {44, 23}, {4, 59}, {44, 59}};
     for (std::size_t i = 0; i < 4; ++i)
@@ -283,11 +285,11 @@ TEST(SegmentPolygons, DiagonalsRunToTheEdge)
 
 TEST(SegmentPolygons, UnlitSegmentsAreToldApartAndHiddenOnesLeftOut)
 {
-    auto const all = Polygons(*Make(L'1'), design_cell);
+    std::vector<PolygonRecorder::Call> const all = Polygons(*Make(L'1'), design_cell);
     ASSERT_EQ(all.size(), 7u);
     for (std::size_t i = 0; i < all.size(); ++i)
         EXPECT_EQ(all[i].lit, i == 2 || i == 5) << i;
-    auto const lit = Polygons(*Make(L'1', DigiStyleHideOff), design_cell);
+    std::vector<PolygonRecorder::Call> const lit = Polygons(*Make(L'1', DigiStyleHideOff), design_cell);
     ASSERT_EQ(lit.size(), 2u);
     EXPECT_EQ(lit[0].polygon, all[2].polygon);
     EXPECT_EQ(lit[1].polygon, all[5].polygon);
@@ -296,7 +298,8 @@ TEST(SegmentPolygons, UnlitSegmentsAreToldApartAndHiddenOnesLeftOut)
 
 TEST(SegmentPolygons, CellsThatAreNotFiniteGivePointsThatAreNot)
 {
-    auto const polygons = Polygons(*Make(L'.', DigiStyleHideOff), {0, 0, 1e300, infinity});
+    std::vector<PolygonRecorder::Call> const polygons =
+        Polygons(*Make(L'.', DigiStyleHideOff), {0, 0, 1e300, infinity});
     ASSERT_EQ(polygons.size(), 1u);
     for (CPolygonPoint const & point : polygons[0].polygon)
     {
@@ -308,7 +311,7 @@ TEST(SegmentPolygons, CellsThatAreNotFiniteGivePointsThatAreNot)
 TEST(SegmentPolygons, CopyWithoutOutlinesGivesEmptyPolygons)
 {
     CDigiChar const copy(*Make(L':', DigiStyleHideOff));
-    auto const polygons = Polygons(copy, narrow_cell);
+    std::vector<PolygonRecorder::Call> const polygons = Polygons(copy, narrow_cell);
     ASSERT_EQ(polygons.size(), 2u);
     EXPECT_TRUE(polygons[0].polygon.empty());
 }

@@ -1,13 +1,13 @@
 // The picture of all characters in docs/images is what the engine paints. With the environment variable UPDATE_GOLDEN
 // set to 1 it is written anew; the test fails all the same, so that an update can't pass for a check.
 
-#include "segments_Support.h"
-#include "segments_SvgPainter.h"
-
 #include <cstdlib>
 #include <cstring>
 #include <iterator>
 #include <string_view>
+
+#include "segments_Support.h"
+#include "segments_SvgPainter.h"
 
 namespace
 {

@@ -1,14 +1,14 @@
 #pragma once
 // Lists of records and bytes of settings files, put together by hand, and random ones.
 
-#include "windows/SettingsTree.h"
-
 #include <algorithm>
 #include <cstdint>
 #include <random>
 #include <string>
 #include <utility>
 #include <vector>
+
+#include "windows/SettingsTree.h"
 
 namespace settings_tests
 {
@@ -128,7 +128,7 @@ inline registry_entry_list Sorted(registry_entry_list const & list)
         }
         else
         {
-            auto content = flat(path.back());
+            registry_entry_list content = flat(path.back());
             path.pop_back();
             path.back().subkeys.emplace_back(names.back(), std::move(content));
             names.pop_back();

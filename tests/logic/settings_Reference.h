@@ -2,10 +2,10 @@
 // What reading a settings file and applying it must do, said as plainly as possible: with indexes into the bytes, a
 // recursive replay and a tree of maps. The real ones are held against it.
 
-#include "settings_Records.h"
-
 #include <map>
 #include <optional>
+
+#include "settings_Records.h"
 
 namespace settings_reference
 {
@@ -92,8 +92,10 @@ inline Key * Enter(Key & key, std::u16string path)
             names.back() += unit;
     }
     for (std::u16string const & name : names)
+    {
         if (name.empty() || name.size() > settings_tests::longest_key_name)
             return nullptr;
+    }
     Key * current = &key;
     for (std::u16string const & name : names)
     {

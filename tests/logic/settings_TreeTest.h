@@ -1,9 +1,6 @@
 #pragma once
 // The fixture of the tests that run on every kind of settings tree.
 
-#include "settings_Records.h"
-#include "windows/SettingsFile.h"
-
 #include <gtest/gtest.h>
 
 #include <atomic>
@@ -11,6 +8,9 @@
 #include <fstream>
 #include <iterator>
 #include <memory>
+
+#include "settings_Records.h"
+#include "windows/SettingsFile.h"
 
 namespace settings_tests
 {
@@ -23,7 +23,7 @@ public:
     OwnFolder()
     {
         static std::atomic<int> number = 0;
-        auto const * const test = testing::UnitTest::GetInstance()->current_test_info();
+        testing::TestInfo const * const test = testing::UnitTest::GetInstance()->current_test_info();
         m_path = fs::temp_directory_path() / ("settings_" + std::to_string(std::random_device()()) + "_" +
                                               std::to_string(number++) + "_" + std::to_string(test->line()));
         fs::create_directories(m_path);
@@ -70,52 +70,52 @@ using HostFactory = std::unique_ptr<TreeHost> (*)();
 class SettingsProtocol : public testing::TestWithParam<HostFactory>
 {
 protected:
-    std::unique_ptr<TreeHost> host = GetParam()();
-    SettingsTree & tree = host->Tree();
-    OwnFolder folder;
-    settings_file_names const files = settings_files(folder.Path());
+    std::unique_ptr<TreeHost> m_host = GetParam()();
+    SettingsTree & m_tree = m_host->Tree();
+    OwnFolder m_folder;
+    settings_file_names const m_files = settings_files(m_folder.Path());
 
     /// Adds to the tree what the list holds, values of the root too.
     void Fill(registry_entry_list const & list)
     {
-        SettingsTree::key_t const root = tree.Open({}, SettingsTree::access_t::read);
+        SettingsTree::key_t const root = m_tree.Open({}, SettingsTree::access_t::read);
         ASSERT_NE(root, 0U);
-        std::vector<SettingsTree::key_t> path{tree.CreateSubkey(root, {})};
-        tree.Close(root);
+        std::vector<SettingsTree::key_t> path{m_tree.CreateSubkey(root, {})};
+        m_tree.Close(root);
         for (registry_entry const & entry : list)
         {
             if (entry.kind == entry_value)
             {
-                ASSERT_TRUE(tree.SetValue(path.back(), entry));
+                ASSERT_TRUE(m_tree.SetValue(path.back(), entry));
             }
             else if (entry.kind == entry_key_begin)
             {
-                path.push_back(tree.CreateSubkey(path.back(), entry.name));
+                path.push_back(m_tree.CreateSubkey(path.back(), entry.name));
                 ASSERT_NE(path.back(), 0U) << "key " << path.size();
             }
             else
             {
-                tree.Close(path.back());
+                m_tree.Close(path.back());
                 path.pop_back();
             }
         }
         for (SettingsTree::key_t const key : path)
-            tree.Close(key);
+            m_tree.Close(key);
     }
 
     registry_entry_list Content()
     {
         registry_entry_list list;
-        EXPECT_TRUE(read_registry_tree(tree, list));
+        EXPECT_TRUE(read_registry_tree(m_tree, list));
         return list;
     }
 
     /// Exports, gives the file the plain name and imports it.
     void ExportAndImport()
     {
-        ASSERT_TRUE(export_registry_settings(tree, files));
-        fs::rename(files.saved, files.plain);
-        ASSERT_TRUE(import_registry_settings(tree, files));
+        ASSERT_TRUE(export_registry_settings(m_tree, m_files));
+        fs::rename(m_files.saved, m_files.plain);
+        ASSERT_TRUE(import_registry_settings(m_tree, m_files));
     }
 };
 } // namespace settings_tests

@@ -1,11 +1,11 @@
 // The settings file and the list of records: damaged files, deep nesting, memory.
 
+#include <sstream>
+#include <streambuf>
+
 #include "AllocationCount.h"
 #include "settings_TreeTest.h"
 #include "windows/MemorySettingsTree.h"
-
-#include <sstream>
-#include <streambuf>
 
 namespace
 {

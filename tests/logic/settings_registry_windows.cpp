@@ -1,9 +1,9 @@
 // Export and import of settings in the real registry: the tests of settings_protocol.cpp, and what only it can show.
 
+#include <windows.h>
+
 #include "settings_TreeTest.h"
 #include "windows/RegistrySettingsTree.h"
-
-#include <windows.h>
 
 namespace settings_tests
 {
@@ -42,8 +42,8 @@ private:
 class SettingsRegistry : public testing::Test
 {
 protected:
-    RegistryHost host;
-    SettingsTree & tree = host.Tree();
+    RegistryHost m_host;
+    SettingsTree & m_tree = m_host.Tree();
 };
 } // namespace
 
@@ -66,7 +66,7 @@ TEST_F(SettingsRegistry, ValuesAreTheRegistrysOwn)
 {
     registry_entry_list list{Begin(u"A"), Value(u"number", type_dword, {0x78, 0x56, 0x34, 0x12}),
                              Value(u"text", type_sz, {'h', 0, 'i', 0, 0, 0}), End()};
-    ASSERT_TRUE(write_registry_tree(tree, list));
+    ASSERT_TRUE(write_registry_tree(m_tree, list));
     std::wstring const key = RegistryHost::Path() + L"\\A";
     DWORD number = 0;
     DWORD size = sizeof(number);
@@ -83,7 +83,7 @@ TEST_F(SettingsRegistry, ValuesAreTheRegistrysOwn)
 TEST_F(SettingsRegistry, KeysOutliveTheSystemsRun)
 {
     registry_entry_list list{Begin(u"A"), End()};
-    ASSERT_TRUE(write_registry_tree(tree, list));
+    ASSERT_TRUE(write_registry_tree(m_tree, list));
     // A key that lasts can't stand below one that doesn't.
     HKEY key = nullptr;
     std::wstring const path = RegistryHost::Path() + L"\\A\\Lasting";
@@ -96,36 +96,36 @@ TEST_F(SettingsRegistry, KeysOutliveTheSystemsRun)
 TEST_F(SettingsRegistry, AValueThatHasGrownSinceItWasDescribedIsNotRead)
 {
     registry_entry_list list{Begin(u"A"), Value(u"v", type_binary, {}), End()};
-    ASSERT_TRUE(write_registry_tree(tree, list));
+    ASSERT_TRUE(write_registry_tree(m_tree, list));
     std::wstring const path = RegistryHost::Path() + L"\\A";
-    SettingsTree::key_t const key = tree.Open(u"A", SettingsTree::access_t::read);
+    SettingsTree::key_t const key = m_tree.Open(u"A", SettingsTree::access_t::read);
     for (DWORD const size : {4U, 8U})
     {
         registry_entry entry;
-        ASSERT_TRUE(tree.DescribeValue(key, 0, entry));
+        ASSERT_TRUE(m_tree.DescribeValue(key, 0, entry));
         EXPECT_EQ(entry.name, u"v");
         EXPECT_EQ(entry.value_type, type_binary);
         EXPECT_EQ(entry.data.size(), size - 4);
         ::RegSetKeyValueW(HKEY_CURRENT_USER, path.c_str(), L"v", REG_BINARY, "12345678", size);
-        EXPECT_FALSE(tree.ReadValue(key, 0, entry)) << size;
+        EXPECT_FALSE(m_tree.ReadValue(key, 0, entry)) << size;
     }
     registry_entry entry;
-    ASSERT_TRUE(tree.DescribeValue(key, 0, entry));
+    ASSERT_TRUE(m_tree.DescribeValue(key, 0, entry));
     ::RegSetKeyValueW(HKEY_CURRENT_USER, path.c_str(), L"v", REG_BINARY, "12", 2);
-    EXPECT_TRUE(tree.ReadValue(key, 0, entry));
+    EXPECT_TRUE(m_tree.ReadValue(key, 0, entry));
     EXPECT_EQ(entry.data, (Bytes{'1', '2'}));
-    tree.Close(key);
+    m_tree.Close(key);
 }
 
 TEST_F(SettingsRegistry, AValueOfTheRootIsRefusedByTheSystem)
 {
-    SettingsTree::key_t const root = tree.Open({}, SettingsTree::access_t::read);
+    SettingsTree::key_t const root = m_tree.Open({}, SettingsTree::access_t::read);
     ASSERT_NE(root, 0U);
     EXPECT_EQ(::RegSetValueExW(reinterpret_cast<HKEY>(root), L"a", 0, REG_SZ, nullptr, 0), ERROR_ACCESS_DENIED);
-    EXPECT_FALSE(tree.SetValue(root, Value(u"a", type_sz, {})));
-    tree.Close(root);
+    EXPECT_FALSE(m_tree.SetValue(root, Value(u"a", type_sz, {})));
+    m_tree.Close(root);
     registry_entry_list list{Value(u"a", type_sz, {}), Begin(u"A"), End()};
-    EXPECT_FALSE(write_registry_tree(tree, list));
+    EXPECT_FALSE(write_registry_tree(m_tree, list));
     EXPECT_EQ(list.size(), 3U) << "the record stays in the list";
 }
 
@@ -143,21 +143,21 @@ TEST_F(SettingsRegistry, NothingCanBeDoneWithoutAnApplicationKey)
 TEST_F(SettingsRegistry, TheRootItselfIsDeletedAndMadeAnew)
 {
     HKEY const former = RegistryHost::ApplicationKey();
-    ASSERT_TRUE(delete_registry_tree(tree, u""));
+    ASSERT_TRUE(delete_registry_tree(m_tree, u""));
     EXPECT_NE(::RegQueryInfoKeyW(former, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
                                  nullptr, nullptr, nullptr),
               ERROR_SUCCESS)
         << "the key that was there is gone";
     ::RegCloseKey(former);
-    EXPECT_TRUE(registry_key_exists(tree, u""));
+    EXPECT_TRUE(registry_key_exists(m_tree, u""));
 }
 
 TEST_F(SettingsRegistry, AFileNestedTooDeepForTheRegistryEndsTheImport)
 {
     // Windows allows 512 levels.
     registry_entry_list list(600, Begin(u"A"));
-    bool const done = write_registry_tree(tree, list);
+    bool const done = write_registry_tree(m_tree, list);
     EXPECT_EQ(done, list.empty());
-    EXPECT_TRUE(delete_registry_tree(tree, u""));
+    EXPECT_TRUE(delete_registry_tree(m_tree, u""));
 }
 } // namespace settings_tests

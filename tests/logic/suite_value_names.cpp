@@ -26,9 +26,9 @@ std::u16string Folded(std::u16string name)
 
 void ExpectThereAndBack(std::u16string const & key, std::uint64_t index)
 {
-    auto const name = ValueName(key, index);
+    std::optional<std::u16string> const name = ValueName(key, index);
     ASSERT_TRUE(name.has_value());
-    auto const parsed = ParseValueName(*name);
+    std::optional<KeyAndIndex> const parsed = ParseValueName(*name);
     ASSERT_TRUE(parsed.has_value());
     EXPECT_EQ(parsed->key, key);
     EXPECT_EQ(parsed->index, index);
@@ -162,8 +162,10 @@ TEST(SuiteValueNames, OtherTextIsNoName)
                                         u"a@\uFF11",
                                         u"\u00A0@0",
                                         u"(Default)"})
+    {
         EXPECT_FALSE(ParseValueName(text).has_value())
             << std::string(text, text + std::char_traits<char16_t>::length(text));
+    }
 }
 
 TEST(SuiteValueNames, NamesBeyondTheRegistrysLimitAreRefused)
@@ -194,7 +196,7 @@ TEST(SuiteValueNames, RandomTextNeverGivesTwoNamesOneMeaning)
         for (int left = length(random); left > 0; --left)
             text.push_back(alphabet[letter(random)]);
         ExpectThereAndBack(text, static_cast<std::uint64_t>(round));
-        if (auto const parsed = ParseValueName(text))
+        if (std::optional<KeyAndIndex> const parsed = ParseValueName(text))
         {
             ++understood;
             EXPECT_EQ(Folded(*ValueName(parsed->key, parsed->index)), Folded(text));

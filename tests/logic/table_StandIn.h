@@ -81,8 +81,10 @@ public:
     TableRow RowOfKey(TableKey key) const override
     {
         for (TableRow row = 0; row < rows.size(); ++row)
+        {
             if (rows[row].key == key)
                 return row;
+        }
         return no_table_row;
     }
     bool Write(TableRow row, unsigned int column, TableValue const & value) override

@@ -27,19 +27,19 @@ protected:
         };
         TableColumn name = Column(L"Name");
         name.editable = true;
-        looks.columns = {name, level, Column(L"Count", TableKind::whole)};
-        looks.locale.decimalSign = L',';
-        source = std::make_shared<Source>(std::vector<std::vector<TableValue>>{
+        m_looks.columns = {name, level, Column(L"Count", TableKind::whole)};
+        m_looks.locale.decimalSign = L',';
+        m_source = std::make_shared<Source>(std::vector<std::vector<TableValue>>{
             {Text(L"a;\"b\"\tc"), Number(-1.25), Whole(3)}, {Text(L"<\u00E4 & \U0001F600>"), Number(2), TableValue()}});
-        model.SetLooks(looks);
-        model.SetSource(source);
-        model.FindOrder();
+        m_model.SetLooks(m_looks);
+        m_model.SetSource(m_source);
+        m_model.FindOrder();
     }
     std::wstring Write(TableForm form, std::vector<unsigned int> columns, bool titles = true)
     {
-        TableWriter writer(form, std::make_shared<TableLooks const>(looks), std::move(columns));
+        TableWriter writer(form, std::make_shared<TableLooks const>(m_looks), std::move(columns));
         TableProgress progress;
-        TableAccess access(source, progress);
+        TableAccess access(m_source, progress);
         std::wstring text;
         EXPECT_TRUE(WriteTable(writer, access, {0, 1}, titles, [&text](std::wstring_view piece) {
             text += piece;
@@ -49,9 +49,9 @@ protected:
         return text;
     }
 
-    TableLooks looks;
-    std::shared_ptr<Source> source;
-    TableModel model;
+    TableLooks m_looks;
+    std::shared_ptr<Source> m_source;
+    TableModel m_model;
 };
 } // namespace
 
@@ -82,9 +82,9 @@ TEST_F(TableCopyTest, HtmlIsAsciiWithEntities)
 
 TEST_F(TableCopyTest, WritingEndsWhereItIsRefusedOrStopped)
 {
-    TableWriter writer(TableForm::text, std::make_shared<TableLooks const>(looks), {0});
+    TableWriter writer(TableForm::text, std::make_shared<TableLooks const>(m_looks), {0});
     TableProgress progress;
-    TableAccess access(source, progress);
+    TableAccess access(m_source, progress);
     int pieces = 0;
     EXPECT_FALSE(WriteTable(writer, access, std::vector<TableRow>(100000, 0), false, [&pieces](std::wstring_view) {
         ++pieces;
@@ -97,30 +97,30 @@ TEST_F(TableCopyTest, WritingEndsWhereItIsRefusedOrStopped)
 
 TEST_F(TableCopyTest, ABlockIsPutIntoCells)
 {
-    TablePasteReport const report = PasteTable(model, {{L"x", L"3,5 dB"}, {L"y"}}, 0, {0, 1, 2});
+    TablePasteReport const report = PasteTable(m_model, {{L"x", L"3,5 dB"}, {L"y"}}, 0, {0, 1, 2});
     EXPECT_TRUE(report.done);
     EXPECT_EQ(report.cells, 3U);
     EXPECT_EQ(report.refusedCells, 0U);
     EXPECT_EQ(report.rows, (std::vector<TableRowRange>{{0, 1}}));
-    EXPECT_EQ(source->rows[0].cells[0].Text(), L"x");
-    EXPECT_EQ(source->rows[0].cells[1].Number(), 3.5);
-    EXPECT_EQ(source->rows[1].cells[0].Text(), L"y");
-    EXPECT_EQ(source->rows[1].cells[1].Number(), 2);
+    EXPECT_EQ(m_source->rows[0].cells[0].Text(), L"x");
+    EXPECT_EQ(m_source->rows[0].cells[1].Number(), 3.5);
+    EXPECT_EQ(m_source->rows[1].cells[0].Text(), L"y");
+    EXPECT_EQ(m_source->rows[1].cells[1].Number(), 2);
 }
 
 TEST_F(TableCopyTest, ABlockGoesToRowsAsShown)
 {
-    model.SetSort({{1, true}});
-    model.FindOrder();
-    EXPECT_TRUE(PasteTable(model, {{L"1"}, {L"2"}}, 0, {1}).done);
-    EXPECT_EQ(source->rows[1].cells[1].Number(), 1);
-    EXPECT_EQ(source->rows[0].cells[1].Number(), 2);
+    m_model.SetSort({{1, true}});
+    m_model.FindOrder();
+    EXPECT_TRUE(PasteTable(m_model, {{L"1"}, {L"2"}}, 0, {1}).done);
+    EXPECT_EQ(m_source->rows[1].cells[1].Number(), 1);
+    EXPECT_EQ(m_source->rows[0].cells[1].Number(), 2);
 }
 
 TEST_F(TableCopyTest, OneRefusedCellRefusesAll)
 {
     TablePasteReport const report =
-        PasteTable(model, {{L"x", L"loud", L"1"}, {L"y", L"21", L"1", L"1"}, {L"z"}}, 0, {0, 1, 2});
+        PasteTable(m_model, {{L"x", L"loud", L"1"}, {L"y", L"21", L"1", L"1"}, {L"z"}}, 0, {0, 1, 2});
     EXPECT_FALSE(report.done);
     EXPECT_EQ(report.cells, 8U);
     EXPECT_EQ(report.refusedCells, 6U);
@@ -134,29 +134,29 @@ TEST_F(TableCopyTest, OneRefusedCellRefusesAll)
     EXPECT_EQ(report.refused[2].field, 1U);
     EXPECT_EQ(report.refused[4].refusal, TableRefusal::no_such_column);
     EXPECT_EQ(report.refused[5].refusal, TableRefusal::no_such_row);
-    EXPECT_EQ(source->rows[0].cells[0].Text(), L"a;\"b\"\tc");
+    EXPECT_EQ(m_source->rows[0].cells[0].Text(), L"a;\"b\"\tc");
 }
 
 TEST_F(TableCopyTest, WhatWasWrittenGoesBackIfTheSourceRefuses)
 {
-    source->writes = [](TableRow row, unsigned int, TableValue const & value) {
+    m_source->writes = [](TableRow row, unsigned int, TableValue const & value) {
         return row == 0 || value.Text() != L"y";
     };
-    TablePasteReport const report = PasteTable(model, {{L"x", L"1"}, {L"y"}}, 0, {0, 1});
+    TablePasteReport const report = PasteTable(m_model, {{L"x", L"1"}, {L"y"}}, 0, {0, 1});
     EXPECT_FALSE(report.done);
     ASSERT_EQ(report.refused.size(), 1U);
     EXPECT_EQ(report.refused[0].refusal, TableRefusal::by_source);
-    EXPECT_EQ(source->rows[0].cells[0].Text(), L"a;\"b\"\tc");
-    EXPECT_EQ(source->rows[0].cells[1].Number(), -1.25);
+    EXPECT_EQ(m_source->rows[0].cells[0].Text(), L"a;\"b\"\tc");
+    EXPECT_EQ(m_source->rows[0].cells[1].Number(), -1.25);
 }
 
 TEST_F(TableCopyTest, NothingIsPutIntoASourceThatHasEnded)
 {
-    source.reset();
-    TablePasteReport const report = PasteTable(model, {{L"x"}}, 0, {0});
+    m_source.reset();
+    TablePasteReport const report = PasteTable(m_model, {{L"x"}}, 0, {0});
     EXPECT_FALSE(report.done);
     EXPECT_EQ(report.refused.at(0).refusal, TableRefusal::no_such_row);
-    EXPECT_FALSE(PasteTable(model, {{L"x"}, {L"y"}}, no_table_row - 1, {0}).done);
+    EXPECT_FALSE(PasteTable(m_model, {{L"x"}, {L"y"}}, no_table_row - 1, {0}).done);
 }
 
 TEST(TableCsv, RecordsAreReadAsTheStandardHasThem)
@@ -190,7 +190,7 @@ TEST(TableCsv, WhatWasWrittenIsReadBack)
             record.resize(1 + random() % 4);
             for (std::size_t field = 0; field < record.size(); ++field)
             {
-                for (auto length = random() % 5; length-- > 0;)
+                for (unsigned int length = random() % 5; length-- > 0;)
                     record[field].push_back(characters[random() % std::size(characters)]);
                 if (field != 0)
                     text.push_back(L';');

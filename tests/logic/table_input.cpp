@@ -18,13 +18,13 @@ protected:
     TableInputTest()
     {
         for (int i = 0; i < 10; ++i)
-            source->rows.push_back({100 + source->rows.size(), {Whole(i)}});
-        model.SetSource(source);
-        model.FindOrder();
+            m_source->rows.push_back({100 + m_source->rows.size(), {Whole(i)}});
+        m_model.SetSource(m_source);
+        m_model.FindOrder();
     }
 
-    std::shared_ptr<Source> source = std::make_shared<Source>();
-    TableModel model;
+    std::shared_ptr<Source> m_source = std::make_shared<Source>();
+    TableModel m_model;
 };
 } // namespace
 
@@ -53,44 +53,44 @@ TEST(TableMoves, NoneLeavesTheRows)
 
 TEST_F(TableInputTest, APressSelectsOneRow)
 {
-    table_input::Go(model, 3, false, false);
-    table_input::Go(model, 5, false, false);
-    EXPECT_EQ(model.SelectedPositions(), (Order{5}));
-    EXPECT_EQ(model.FocusPosition(), 5U);
-    table_input::Go(model, 99, false, false);
-    EXPECT_EQ(model.FocusPosition(), 5U);
+    table_input::Go(m_model, 3, false, false);
+    table_input::Go(m_model, 5, false, false);
+    EXPECT_EQ(m_model.SelectedPositions(), (Order{5}));
+    EXPECT_EQ(m_model.FocusPosition(), 5U);
+    table_input::Go(m_model, 99, false, false);
+    EXPECT_EQ(m_model.FocusPosition(), 5U);
 }
 
 TEST_F(TableInputTest, ShiftSelectsFromTheAnchorOn)
 {
-    table_input::Go(model, 3, false, false);
-    table_input::Go(model, 6, true, false);
-    EXPECT_EQ(model.SelectedPositions(), (Order{3, 4, 5, 6}));
-    table_input::Go(model, 2, true, false);
-    EXPECT_EQ(model.SelectedPositions(), (Order{2, 3}));
-    table_input::Flip(model, 8);
-    table_input::Go(model, 9, true, true);
-    EXPECT_EQ(model.SelectedPositions(), (Order{2, 3, 8, 9}));
+    table_input::Go(m_model, 3, false, false);
+    table_input::Go(m_model, 6, true, false);
+    EXPECT_EQ(m_model.SelectedPositions(), (Order{3, 4, 5, 6}));
+    table_input::Go(m_model, 2, true, false);
+    EXPECT_EQ(m_model.SelectedPositions(), (Order{2, 3}));
+    table_input::Flip(m_model, 8);
+    table_input::Go(m_model, 9, true, true);
+    EXPECT_EQ(m_model.SelectedPositions(), (Order{2, 3, 8, 9}));
 }
 
 TEST_F(TableInputTest, ShiftWithoutAnAnchorBeginsThere)
 {
-    table_input::Go(model, 4, true, false);
-    EXPECT_EQ(model.SelectedPositions(), (Order{4}));
-    table_input::Go(model, 6, true, false);
-    EXPECT_EQ(model.SelectedPositions(), (Order{4, 5, 6}));
+    table_input::Go(m_model, 4, true, false);
+    EXPECT_EQ(m_model.SelectedPositions(), (Order{4}));
+    table_input::Go(m_model, 6, true, false);
+    EXPECT_EQ(m_model.SelectedPositions(), (Order{4, 5, 6}));
 }
 
 TEST_F(TableInputTest, ControlMovesTheFocusOrFlips)
 {
-    table_input::Go(model, 3, false, false);
-    table_input::Go(model, 5, false, true);
-    EXPECT_EQ(model.SelectedPositions(), (Order{3}));
-    EXPECT_EQ(model.FocusPosition(), 5U);
-    table_input::Flip(model, 5);
-    EXPECT_EQ(model.SelectedPositions(), (Order{3, 5}));
-    table_input::Flip(model, 3);
-    EXPECT_EQ(model.SelectedPositions(), (Order{5}));
+    table_input::Go(m_model, 3, false, false);
+    table_input::Go(m_model, 5, false, true);
+    EXPECT_EQ(m_model.SelectedPositions(), (Order{3}));
+    EXPECT_EQ(m_model.FocusPosition(), 5U);
+    table_input::Flip(m_model, 5);
+    EXPECT_EQ(m_model.SelectedPositions(), (Order{3, 5}));
+    table_input::Flip(m_model, 3);
+    EXPECT_EQ(m_model.SelectedPositions(), (Order{5}));
 }
 
 TEST(TableTyping, CharactersAddUpUntilAPause)

@@ -1,8 +1,8 @@
 // What is to be told of a table, put together.
 
-#include "list/table/TableNews.h"
-
 #include <gtest/gtest.h>
+
+#include "list/table/TableNews.h"
 
 using Place = TableNewsPlaces::Place;
 

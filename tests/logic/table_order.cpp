@@ -139,10 +139,12 @@ TEST(TableOrder, ManyRowsOfEveryKindAreAsAStableSortPutsThem)
     std::mt19937 random(11);
     auto const source = std::make_shared<Source>();
     for (int i = 0; i < 30000; ++i)
+    {
         source->rows.push_back(
             {0,
              {Number(static_cast<double>(random() % 50)), Text(L"Channel name " + std::to_wstring(random() % 3000)),
               Number(std::ldexp(random(), static_cast<int>(random() % 60) - 80))}});
+    }
     TableProgress progress;
     TableAccess access(source, progress);
     std::vector<TableSortColumn> const columns = {{0, true}, {1, false}, {2, true}};
@@ -172,8 +174,10 @@ TEST(TableOrder, NumbersThatDifferInTheirLastBitAreInOrderWithinGroups)
 {
     auto const source = std::make_shared<Source>();
     for (int i = 0; i < 4000; ++i)
+    {
         source->rows.push_back(
             {0, {Whole(i % 7), Number(1 + std::ldexp((i * 37) % 1000, -52)), Text(i % 2 == 0 ? L"a" : L"b")}});
+    }
     TableProgress progress;
     TableAccess access(source, progress);
     std::vector<TableSortColumn> const columns = {{0, false}, {1, true}, {2, true}};

@@ -76,8 +76,10 @@ struct Reference
     {
         Order order;
         for (TableRow row = 0; row < source.rows.size(); ++row)
+        {
             if (Passes(source.rows[row]))
                 order.push_back(row);
+        }
         std::stable_sort(order.begin(), order.end(), [&](TableRow a, TableRow b) {
             for (TableSortColumn const & each : sort)
             {

@@ -27,7 +27,7 @@ inline std::vector<int> Numbers(int left, int top, int right, int bottom)
 class ManagerTest : public testing::Test
 {
 protected:
-    void SetUp() override { platform.Reset(); }
+    void SetUp() override { m_platform.Reset(); }
     void TearDown() override
     {
         CFensterManager main(CFensterManager::window_main);
@@ -35,12 +35,12 @@ protected:
         CFensterManager::SetNurEinMonitor(true);
         CFensterManager::KeepWithinReach(false);
         CFensterManager::SetTabbedViews(false);
-        platform.Reset();
+        m_platform.Reset();
     }
 
     FakeWindow & AddPlaced(char const * name)
     {
-        FakeWindow & window = platform.Add(name);
+        FakeWindow & window = m_platform.Add(name);
         window.placement.showCmd = 1;
         window.placement.flags = 0;
         window.placement.ptMinPosition = {-32000, -31000};
@@ -49,7 +49,7 @@ protected:
         return window;
     }
 
-    FakeWindowPlatform & platform = FakeWindowPlatform::Current();
+    FakeWindowPlatform & m_platform = FakeWindowPlatform::Current();
 };
 
 inline constexpr CFensterManager::window_t all_types[] = {

@@ -37,18 +37,18 @@ public:
 class WindowManagerList : public testing::Test
 {
 protected:
-    void SetUp() override { platform.Reset(); }
-    void TearDown() override { platform.Reset(); }
+    void SetUp() override { m_platform.Reset(); }
+    void TearDown() override { m_platform.Reset(); }
 
     FakeWindow & Bound(CFensterManager & manager, char const * name)
     {
-        FakeWindow & window = platform.Add(name);
+        FakeWindow & window = m_platform.Add(name);
         window.owner = &window;
         manager.CalcMyPosition(window.Object());
         return window;
     }
 
-    FakeWindowPlatform & platform = FakeWindowPlatform::Current();
+    FakeWindowPlatform & m_platform = FakeWindowPlatform::Current();
 };
 
 constexpr CFensterManager::window_t all_types[] = {CFensterManager::window_main, CFensterManager::window_view,
@@ -74,7 +74,7 @@ TEST_F(WindowManagerList, ManagersAreListedForTheirLife)
 
 TEST_F(WindowManagerList, TheScreenIsTheSizeOfTheWorkArea)
 {
-    platform.workArea = CRect(100, 50, 900, 650);
+    m_platform.workArea = CRect(100, 50, 900, 650);
     ListedManager const manager;
     EXPECT_EQ(ListedManager::Screen().cx, 800);
     EXPECT_EQ(ListedManager::Screen().cy, 600);
@@ -107,12 +107,12 @@ TEST_F(WindowManagerList, KillDestroysOnlyTheFirstOfTwins)
     Bound(managers[0], "first");
     Bound(managers[1], "second");
     managers[1].KillThatWindow(L"Twin");
-    EXPECT_EQ(platform.calls, (Calls{"Destroy first"}));
+    EXPECT_EQ(m_platform.calls, (Calls{"Destroy first"}));
     EXPECT_FALSE(managers[0].FindsItself());
     EXPECT_TRUE(managers[1].FindsItself());
     EXPECT_NE(managers[0].AlreadyOpen(L"Twin"), 0);
     managers[0].KillThatWindow(L"Twin");
-    EXPECT_EQ(platform.calls, (Calls{"Destroy first", "Destroy second"}));
+    EXPECT_EQ(m_platform.calls, (Calls{"Destroy first", "Destroy second"}));
     EXPECT_EQ(managers[0].AlreadyOpen(L"Twin"), 0);
 }
 
@@ -131,10 +131,10 @@ TEST_F(WindowManagerList, KillUsesTheWayOfTheType)
     {
         ListedManager manager(L"Name", type);
         Bound(manager, "window");
-        platform.calls.clear();
+        m_platform.calls.clear();
         manager.KillThatWindow(L"Name");
         bool const frame = type == CFensterManager::window_mdi_child;
-        EXPECT_EQ(platform.calls, (Calls{frame ? "DestroyMdiChild window" : "Destroy window"})) << type;
+        EXPECT_EQ(m_platform.calls, (Calls{frame ? "DestroyMdiChild window" : "Destroy window"})) << type;
     }
 }
 
@@ -154,9 +154,9 @@ TEST_F(WindowManagerList, OnlyChildFramesAreActivated)
     {
         ListedManager manager(L"Name", type);
         Bound(manager, "window");
-        platform.calls.clear();
+        m_platform.calls.clear();
         manager.ActivateThatWindow(L"Name");
-        EXPECT_EQ(platform.calls,
+        EXPECT_EQ(m_platform.calls,
                   type == CFensterManager::window_mdi_child ? Calls{"ActivateMdiChild window"} : Calls{})
             << type;
     }
@@ -169,7 +169,7 @@ TEST_F(WindowManagerList, WindowsAreMinimisedAndRestoredByName)
     Bound(manager, "window");
     asking.MinimizeThatWindow(L"Name");
     asking.RestoreThatWindow(L"Name");
-    EXPECT_EQ(platform.calls, (Calls{"Show window 2", "Show window 1"}));
+    EXPECT_EQ(m_platform.calls, (Calls{"Show window 2", "Show window 1"}));
 }
 
 TEST_F(WindowManagerList, TheStateIsToldByName)
@@ -201,7 +201,7 @@ TEST_F(WindowManagerList, AnUnknownNameDoesNothing)
     EXPECT_EQ(manager.IsIconic(L"Other"), 0);
     EXPECT_EQ(manager.IsMaximized(L"Other"), 0);
     EXPECT_EQ(manager.AlreadyOpen(L"Other"), 0);
-    EXPECT_TRUE(platform.calls.empty());
+    EXPECT_TRUE(m_platform.calls.empty());
     EXPECT_TRUE(manager.FindsItself());
 }
 
@@ -217,7 +217,7 @@ TEST_F(WindowManagerList, CloseAllViewsDestroysTheChildFramesAlone)
     Bound(*managers[3], "frame").onDestroy = [&managers] { managers[3].reset(); };
     Bound(*second, "frame").onDestroy = [&second] { second.reset(); };
     managers[0]->CloseAllViews();
-    EXPECT_EQ(platform.calls, (Calls{"DestroyMdiChild frame", "DestroyMdiChild frame"}));
+    EXPECT_EQ(m_platform.calls, (Calls{"DestroyMdiChild frame", "DestroyMdiChild frame"}));
     EXPECT_EQ(managers[3], nullptr);
     EXPECT_EQ(second, nullptr);
     EXPECT_EQ(ListedManager::Count(), 4U);
@@ -227,7 +227,7 @@ TEST_F(WindowManagerList, CloseAllViewsSkipsAFrameThatEndedWithAnother)
 {
     ListedManager main(L"Main", CFensterManager::window_main);
     std::unique_ptr<ListedManager> frames[2];
-    for (auto & frame : frames)
+    for (std::unique_ptr<ListedManager> & frame : frames)
     {
         frame = std::make_unique<ListedManager>(L"Frame", CFensterManager::window_mdi_child);
         Bound(*frame, "frame").onDestroy = [&frames] {
@@ -236,7 +236,7 @@ TEST_F(WindowManagerList, CloseAllViewsSkipsAFrameThatEndedWithAnother)
         };
     }
     main.CloseAllViews();
-    EXPECT_EQ(platform.calls, (Calls{"DestroyMdiChild frame"}));
+    EXPECT_EQ(m_platform.calls, (Calls{"DestroyMdiChild frame"}));
     EXPECT_EQ(ListedManager::Count(), 1U);
 }
 
@@ -245,12 +245,12 @@ TEST_F(WindowManagerList, TouchFreezeGreysTheSystemMenuInOrder)
     ListedManager manager(L"Name", CFensterManager::window_dialog);
     Bound(manager, "window");
     CFensterManager::ActivateTouchFreeze(true);
-    EXPECT_EQ(platform.calls,
+    EXPECT_EQ(m_platform.calls,
               (Calls{"EnableMenuItem window f000 3", "EnableMenuItem window f010 3", "EnableMenuItem window f020 3",
                      "EnableMenuItem window f030 3", "EnableMenuItem window f060 3", "EnableMenuItem window f120 3"}));
-    platform.calls.clear();
+    m_platform.calls.clear();
     CFensterManager::ActivateTouchFreeze(false);
-    EXPECT_EQ(platform.calls,
+    EXPECT_EQ(m_platform.calls,
               (Calls{"EnableMenuItem window f000 0", "EnableMenuItem window f010 0", "EnableMenuItem window f020 0",
                      "EnableMenuItem window f030 0", "EnableMenuItem window f060 0", "EnableMenuItem window f120 0"}));
 }
@@ -261,11 +261,11 @@ TEST_F(WindowManagerList, TouchFreezeTakesTheBoxesOfChildFramesAway)
     FakeWindow & window = Bound(manager, "frame");
     window.style = 0x54CF8000; // without the boxes: 0x54CC8000
     CFensterManager::ActivateTouchFreeze(true);
-    ASSERT_EQ(platform.calls.size(), 9U);
-    EXPECT_EQ(platform.calls[5], "EnableMenuItem frame f120 3");
-    EXPECT_EQ(platform.calls[6], "Style frame");
-    EXPECT_EQ(platform.calls[7], "SetStyle frame 54cc8000");
-    EXPECT_EQ(platform.calls[8], "Redraw frame 441");
+    ASSERT_EQ(m_platform.calls.size(), 9U);
+    EXPECT_EQ(m_platform.calls[5], "EnableMenuItem frame f120 3");
+    EXPECT_EQ(m_platform.calls[6], "Style frame");
+    EXPECT_EQ(m_platform.calls[7], "SetStyle frame 54cc8000");
+    EXPECT_EQ(m_platform.calls[8], "Redraw frame 441");
     CFensterManager::ActivateTouchFreeze(false);
     EXPECT_EQ(window.style, 0x54CF8000U);
 }
@@ -277,10 +277,10 @@ TEST_F(WindowManagerList, ThawingGivesBothBoxesWhateverTheStyleWas)
     window.style = 0;
     CFensterManager::ActivateTouchFreeze(false);
     EXPECT_EQ(window.style, 0x30000U);
-    EXPECT_EQ(platform.calls.back(), "Redraw frame 441");
-    platform.calls.clear();
+    EXPECT_EQ(m_platform.calls.back(), "Redraw frame 441");
+    m_platform.calls.clear();
     CFensterManager::ActivateTouchFreeze(false);
-    EXPECT_EQ(platform.calls[7], "SetStyle frame 30000") << "written back even if unchanged";
+    EXPECT_EQ(m_platform.calls[7], "SetStyle frame 30000") << "written back even if unchanged";
 }
 
 TEST_F(WindowManagerList, TouchFreezeSkipsWhatHasNoSystemMenu)
@@ -292,14 +292,14 @@ TEST_F(WindowManagerList, TouchFreezeSkipsWhatHasNoSystemMenu)
     Bound(bare, "bare").hasSystemMenu = false;
     CFensterManager::ActivateTouchFreeze(true);
     CFensterManager::ActivateTouchFreeze(false);
-    EXPECT_TRUE(platform.calls.empty());
+    EXPECT_TRUE(m_platform.calls.empty());
 }
 
 TEST_F(WindowManagerList, AWindowMayEndOrComeWhileTheFreezeIsToldToIt)
 {
     for (char const * const moment : {"EnableMenuItem", "SetStyle", "Redraw"})
     {
-        platform.Reset();
+        m_platform.Reset();
         std::vector<std::unique_ptr<ListedManager>> frames;
         std::unique_ptr<ListedManager> late;
         for (int count = 0; count < 4; ++count)
@@ -317,7 +317,7 @@ TEST_F(WindowManagerList, AWindowMayEndOrComeWhileTheFreezeIsToldToIt)
         CFensterManager::ActivateTouchFreeze(true);
         EXPECT_EQ(ListedManager::Count(), 1U) << moment;
         int told = 0;
-        for (std::string const & call : platform.calls)
+        for (std::string const & call : m_platform.calls)
             told += call.starts_with(moment) ? 1 : 0;
         EXPECT_EQ(told, 1) << moment << ": the other frames have ended";
     }
@@ -329,7 +329,7 @@ TEST_F(WindowManagerList, AWindowThatEndsAtTheFirstEntryIsLeftAlone)
     FakeWindow & window = Bound(manager, "frame");
     window.onChange = [&](std::string const &) { window.alive = false; };
     CFensterManager::ActivateTouchFreeze(true);
-    EXPECT_EQ(platform.calls, (Calls{"EnableMenuItem frame f000 3"}));
+    EXPECT_EQ(m_platform.calls, (Calls{"EnableMenuItem frame f000 3"}));
 }
 
 TEST_F(WindowManagerList, AManagerMayEndWhileAllPositionsAreSaved)

@@ -80,13 +80,13 @@ TEST_F(WindowManagerRecord, OnlyTheMainWindowSetsTheExitFlag)
 TEST_F(WindowManagerRecord, TheScreenIsMeasuredByTheFirstManagerAndByEachMainWindow)
 {
     CFensterManager const first(CFensterManager::window_dialog);
-    EXPECT_EQ(platform.workAreaReads, 1);
+    EXPECT_EQ(m_platform.workAreaReads, 1);
     CFensterManager const second(CFensterManager::window_mdi_child);
-    EXPECT_EQ(platform.workAreaReads, 1);
+    EXPECT_EQ(m_platform.workAreaReads, 1);
     CFensterManager const main(CFensterManager::window_main);
-    EXPECT_EQ(platform.workAreaReads, 2);
+    EXPECT_EQ(m_platform.workAreaReads, 2);
     CFensterManager const named(L"Main", CFensterManager::window_main);
-    EXPECT_EQ(platform.workAreaReads, 3);
+    EXPECT_EQ(m_platform.workAreaReads, 3);
 }
 
 TEST_F(WindowManagerRecord, CalcTakesThePlacementAndItsShowCommand)
@@ -313,7 +313,7 @@ TEST_F(WindowManagerSave, WithoutAStoreNothingHappens)
     EXPECT_FALSE(manager.OpenInitially());
     EXPECT_FALSE(CFensterManager::OpenInitially(L"Name"));
     manager.ReadMyPosition(other.Object());
-    EXPECT_TRUE(platform.calls.empty()) << "nothing is applied";
+    EXPECT_TRUE(m_platform.calls.empty()) << "nothing is applied";
     EXPECT_EQ(Sides(manager.WhatsMyPosition()), Numbers(101, 102, 603, 404));
 
     RecordingStore store;

@@ -14,8 +14,8 @@ protected:
     /// The applied placement of a window whose manager has read the store.
     WINDOWPLACEMENT Read(CFensterManager::window_t type)
     {
-        FakeWindow & window = platform.Add("window");
-        FakeWindow & owner = platform.Add("owner");
+        FakeWindow & window = m_platform.Add("window");
+        FakeWindow & owner = m_platform.Add("owner");
         window.owner = &owner;
         CFensterManager manager(L"Name", type);
         manager.ReadMyPosition(window.Object());
@@ -24,13 +24,13 @@ protected:
 
     void Store(int left, int top, int right, int bottom)
     {
-        store.values[{L"Name-Fensterpos", 0}] = top;
-        store.values[{L"Name-Fensterpos", 1}] = left;
-        store.values[{L"Name-Fensterpos", 2}] = bottom;
-        store.values[{L"Name-Fensterpos", 3}] = right;
+        m_store.values[{L"Name-Fensterpos", 0}] = top;
+        m_store.values[{L"Name-Fensterpos", 1}] = left;
+        m_store.values[{L"Name-Fensterpos", 2}] = bottom;
+        m_store.values[{L"Name-Fensterpos", 3}] = right;
     }
 
-    RecordingStore store;
+    RecordingStore m_store;
 };
 } // namespace
 
@@ -54,16 +54,17 @@ TEST_F(WindowManagerRead, AnEmptyStoreGivesTheDefaults)
 TEST_F(WindowManagerRead, ReadsItsKeysInOrder)
 {
     Read(CFensterManager::window_main);
-    EXPECT_EQ(store.calls, (Calls{"get Name-Gestalt[0]", "get Name-Fensterpos[0]", "get Name-Fensterpos[1]",
-                                  "get Name-Fensterpos[2]", "get Name-Fensterpos[3]", "get Name-FensterposMM[0]",
-                                  "get Name-FensterposMM[1]", "get Name-FensterposMM[2]", "get Name-FensterposMM[3]"}));
+    EXPECT_EQ(m_store.calls,
+              (Calls{"get Name-Gestalt[0]", "get Name-Fensterpos[0]", "get Name-Fensterpos[1]",
+                     "get Name-Fensterpos[2]", "get Name-Fensterpos[3]", "get Name-FensterposMM[0]",
+                     "get Name-FensterposMM[1]", "get Name-FensterposMM[2]", "get Name-FensterposMM[3]"}));
 }
 
 TEST_F(WindowManagerRead, StoredValuesComeBackForEachType)
 {
     Store(101, 102, 603, 404);
     for (int index = 0; index < 4; ++index)
-        store.values[{L"Name-FensterposMM", index}] = 70 + index;
+        m_store.values[{L"Name-FensterposMM", index}] = 70 + index;
     for (CFensterManager::window_t const type : all_types)
     {
         WINDOWPLACEMENT const placement = Read(type);
@@ -87,7 +88,7 @@ TEST_F(WindowManagerRead, AnIconicWindowSetsItsMinimisedPosition)
     };
     for (Case const & one : {Case{0, 0}, {1, 0}, {2, 1}, {3, 0}})
     {
-        store.values[{L"Name-Gestalt", 0}] = one.shape;
+        m_store.values[{L"Name-Gestalt", 0}] = one.shape;
         for (CFensterManager::window_t const type : all_types)
         {
             WINDOWPLACEMENT const placement = Read(type);
@@ -100,8 +101,8 @@ TEST_F(WindowManagerRead, AnIconicWindowSetsItsMinimisedPosition)
 
 TEST_F(WindowManagerRead, TheShowCommandStaysAsItWasSet)
 {
-    FakeWindow & window = platform.Add("window");
-    store.values[{L"Name-Gestalt", 0}] = 1;
+    FakeWindow & window = m_platform.Add("window");
+    m_store.values[{L"Name-Gestalt", 0}] = 1;
     CFensterManager manager(L"Name", CFensterManager::window_main);
     manager.SetShowMode(0);
     manager.ReadMyPosition(window.Object());
@@ -174,61 +175,61 @@ TEST_F(WindowManagerRead, ViewsAndChildFramesAreTestedInScreenCoordinates)
 {
     for (CFensterManager::window_t const type : all_types)
     {
-        FakeWindow & window = platform.Add("window");
-        FakeWindow & owner = platform.Add("owner");
+        FakeWindow & window = m_platform.Add("window");
+        FakeWindow & owner = m_platform.Add("owner");
         window.owner = &owner;
         window.clientOrigin = {5000, 5000};
         owner.clientOrigin = {400, 300};
         Store(1500, 740, 1900, 1000);
         CFensterManager manager(L"Name", type);
-        platform.calls.clear();
+        m_platform.calls.clear();
         manager.ReadMyPosition(window.Object());
         bool const converted = type == CFensterManager::window_view || type == CFensterManager::window_mdi_child;
         if (converted)
         {
             // 1900 and 1040 on the screen: 20 too far right and down. The record keeps its own coordinates.
             EXPECT_EQ(Sides(manager.WhatsMyPosition()), Numbers(1480, 720, 1880, 980)) << type;
-            EXPECT_EQ(platform.calls.front(), "ClientToScreen owner");
+            EXPECT_EQ(m_platform.calls.front(), "ClientToScreen owner");
         }
         else
         {
             int const right = type == CFensterManager::window_dialog ? 2000 : 1900;
             int const bottom = type == CFensterManager::window_dialog ? 1090 : 1000;
             EXPECT_EQ(Sides(manager.WhatsMyPosition()), Numbers(1500, 740, right, bottom)) << type;
-            EXPECT_EQ(platform.calls, (Calls{"SetPlacement window"}));
+            EXPECT_EQ(m_platform.calls, (Calls{"SetPlacement window"}));
         }
     }
 }
 
 TEST_F(WindowManagerRead, AChildFrameWithoutOwnerIsConvertedByItself)
 {
-    FakeWindow & window = platform.Add("window");
+    FakeWindow & window = m_platform.Add("window");
     window.clientOrigin = {400, 300};
     Store(1500, 740, 1900, 1000);
     CFensterManager manager(L"Name", CFensterManager::window_mdi_child);
     manager.ReadMyPosition(window.Object());
     EXPECT_EQ(Sides(manager.WhatsMyPosition()), Numbers(1480, 720, 1880, 980));
-    EXPECT_EQ(platform.calls, (Calls{"ClientToScreen window", "SetPlacement window"}));
+    EXPECT_EQ(m_platform.calls, (Calls{"ClientToScreen window", "SetPlacement window"}));
 }
 
 TEST_F(WindowManagerRead, AViewIsAppliedToItsOwnerAndWithoutOneToNothing)
 {
-    FakeWindow & view = platform.Add("view");
-    FakeWindow & frame = platform.Add("frame");
+    FakeWindow & view = m_platform.Add("view");
+    FakeWindow & frame = m_platform.Add("frame");
     view.owner = &frame;
     CFensterManager manager(L"Name", CFensterManager::window_view);
     manager.ReadMyPosition(view.Object());
-    EXPECT_EQ(platform.calls, (Calls{"ClientToScreen frame", "SetPlacement frame"}));
+    EXPECT_EQ(m_platform.calls, (Calls{"ClientToScreen frame", "SetPlacement frame"}));
     view.owner = nullptr;
-    platform.calls.clear();
+    m_platform.calls.clear();
     manager.ReadMyPosition(view.Object());
-    EXPECT_EQ(platform.calls, (Calls{"ClientToScreen view"}));
+    EXPECT_EQ(m_platform.calls, (Calls{"ClientToScreen view"}));
 }
 
 TEST_F(WindowManagerRead, ANullOrDeadWindowIsReadButNotApplied)
 {
     Store(101, 102, 603, 404);
-    FakeWindow & dead = platform.Add("dead");
+    FakeWindow & dead = m_platform.Add("dead");
     dead.alive = false;
     for (CFensterManager::window_t const type : all_types)
     {
@@ -237,21 +238,21 @@ TEST_F(WindowManagerRead, ANullOrDeadWindowIsReadButNotApplied)
         EXPECT_EQ(manager.WhatsMyPosition().left, 101);
         manager.SaveMyPosition(false);
     }
-    EXPECT_TRUE(platform.calls.empty());
+    EXPECT_TRUE(m_platform.calls.empty());
     CFensterManager manager(L"Name", CFensterManager::window_main);
     manager.ReadMyPosition(dead.Object());
     EXPECT_EQ(manager.WhatsMyPosition().left, 101);
-    EXPECT_TRUE(platform.calls.empty());
-    store.calls.clear();
+    EXPECT_TRUE(m_platform.calls.empty());
+    m_store.calls.clear();
     manager.SaveMyPosition(false);
-    EXPECT_EQ(store.calls, (Calls{"set Name-IstOffen[0]=false"})) << "it is bound";
+    EXPECT_EQ(m_store.calls, (Calls{"set Name-IstOffen[0]=false"})) << "it is bound";
 }
 
 TEST_F(WindowManagerRead, TheScreenIsTheOneOfTheLastMeasurement)
 {
     Store(3000, 100, 3400, 400);
     CFensterManager const keepsTheListFilled(CFensterManager::window_dialog);
-    platform.workArea = CRect(100, 50, 900, 650); // 800 by 600
+    m_platform.workArea = CRect(100, 50, 900, 650); // 800 by 600
     EXPECT_EQ(Sides(Read(CFensterManager::window_mdi_child).rcNormalPosition), Numbers(1880, 100, 2280, 400));
     EXPECT_EQ(Sides(Read(CFensterManager::window_main).rcNormalPosition), Numbers(760, 100, 1160, 400));
     EXPECT_EQ(Sides(Read(CFensterManager::window_mdi_child).rcNormalPosition), Numbers(760, 100, 1160, 400));
@@ -273,8 +274,8 @@ TEST_F(WindowManagerRead, WithinReachIsOnlyBroughtWhatTheHostAsksFor)
     EXPECT_FALSE(CFensterManager::KeepsWithinReach());
     Store(5000, 100, 5800, 700);
     EXPECT_EQ(Sides(Read(CFensterManager::window_main).rcNormalPosition), Numbers(5000, 100, 5800, 700));
-    EXPECT_EQ(platform.screenReads, 0);
-    for (std::string const & call : store.calls)
+    EXPECT_EQ(m_platform.screenReads, 0);
+    for (std::string const & call : m_store.calls)
         EXPECT_EQ(call.find("Bildschirme"), std::string::npos) << call;
 }
 
@@ -297,7 +298,7 @@ TEST_F(WindowManagerRead, WithinReachComesNoChildWindow)
     CFensterManager::SetNurEinMonitor(false);
     CFensterManager::KeepWithinReach(true);
     Store(5000, 100, 5800, 700);
-    FakeWindow & window = platform.Add("child");
+    FakeWindow & window = m_platform.Add("child");
     window.style = WS_CHILD;
     CFensterManager manager(L"Name", CFensterManager::window_mdi_child);
     manager.ReadMyPosition(window.Object());
@@ -308,8 +309,8 @@ TEST_F(WindowManagerRead, WithinReachCountsFromTheWorkArea)
 {
     CFensterManager::SetNurEinMonitor(false);
     CFensterManager::KeepWithinReach(true);
-    platform.screens = {{CRect(50, 40, 1920, 1080), 96}};
-    platform.placementOrigin = CPoint(50, 40);
+    m_platform.screens = {{CRect(50, 40, 1920, 1080), 96}};
+    m_platform.placementOrigin = CPoint(50, 40);
     Store(0, 0, 800, 600);
     EXPECT_EQ(Sides(Read(CFensterManager::window_main).rcNormalPosition), Numbers(0, 0, 800, 600));
     Store(-10, -10, 790, 590);
@@ -320,22 +321,22 @@ TEST_F(WindowManagerRead, WithinReachTheScreensAndTheirResolutionAreKeptAlong)
 {
     CFensterManager::SetNurEinMonitor(false);
     CFensterManager::KeepWithinReach(true);
-    platform.screens = {{CRect(0, 0, 1920, 1080), 96}, {CRect(1920, 0, 3840, 1080), 144}};
-    FakeWindow & window = platform.Add("window");
+    m_platform.screens = {{CRect(0, 0, 1920, 1080), 96}, {CRect(1920, 0, 3840, 1080), 144}};
+    FakeWindow & window = m_platform.Add("window");
     window.placement.rcNormalPosition = {1000, 100, 3800, 900};
     {
         CFensterManager manager(L"Name", CFensterManager::window_main);
         manager.CalcMyPosition(window.Object());
         manager.SaveMyPosition(false);
     }
-    EXPECT_EQ((store.values[{L"Name-Bildschirme", 0}]), FingerprintOf(platform.screens));
-    EXPECT_EQ((store.values[{L"Name-Bildschirme", 1}]), 144);
+    EXPECT_EQ((m_store.values[{L"Name-Bildschirme", 0}]), FingerprintOf(m_platform.screens));
+    EXPECT_EQ((m_store.values[{L"Name-Bildschirme", 1}]), 144);
     // On the same screens it may be larger than one of them.
     EXPECT_EQ(Sides(Read(CFensterManager::window_main).rcNormalPosition), Numbers(1000, 100, 3800, 900));
-    platform.screens.pop_back();
+    m_platform.screens.pop_back();
     EXPECT_EQ(Sides(Read(CFensterManager::window_main).rcNormalPosition), Numbers(53, 100, 1920, 633))
         << "from 144 to 96 dots an inch";
     CFensterManager manager(L"Name", CFensterManager::window_main);
     manager.EraseMyPosition();
-    EXPECT_EQ(store.values.count({L"Name-Bildschirme", 0}), 0U);
+    EXPECT_EQ(m_store.values.count({L"Name-Bildschirme", 0}), 0U);
 }

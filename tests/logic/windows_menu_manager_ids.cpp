@@ -1,13 +1,12 @@
 // The menu manager's identifiers and searches on menus that are records.
 
-#include "windows/MenueManager.h"
-
-#include "substitutes/FakeMenuPlatform.h"
-
 #include <gtest/gtest.h>
 
 #include <random>
 #include <utility>
+
+#include "substitutes/FakeMenuPlatform.h"
+#include "windows/MenueManager.h"
 
 namespace
 {

@@ -1,7 +1,5 @@
 // Dynamic menu commands and their accelerators, without a window system.
 
-#include "windows/MenuRegistry.h"
-
 #include <gtest/gtest.h>
 
 #include <cstdint>
@@ -9,6 +7,8 @@
 #include <random>
 #include <set>
 #include <vector>
+
+#include "windows/MenuRegistry.h"
 
 using menu_registry::Add;
 using menu_registry::range_t;

@@ -1,12 +1,12 @@
 // Identifiers of a main frame's panes, on panes without windows.
 
-#include "windows/PaneRegistry.h"
-
 #include <gtest/gtest.h>
 
 #include <memory>
 #include <random>
 #include <set>
+
+#include "windows/PaneRegistry.h"
 
 namespace
 {

@@ -126,7 +126,7 @@ TEST(ReachablePlace, ScreensAreToldApart)
     EXPECT_NE(fingerprint, 0);
     for (std::size_t i = 0; i < screens.size(); ++i)
     {
-        auto changed = screens;
+        std::vector<ScreenArea> changed = screens;
         changed[i].work.right -= 1;
         EXPECT_NE(FingerprintOf(changed), fingerprint);
         changed = screens;
@@ -161,8 +161,8 @@ TEST(ReachablePlace, OverRandomScreens)
     };
     for (int round = 0; round < 100000; ++round)
     {
-        auto const then = screensOf();
-        auto const now = between(0, 3) == 0 ? then : screensOf();
+        std::vector<ScreenArea> const then = screensOf();
+        std::vector<ScreenArea> const now = between(0, 3) == 0 ? then : screensOf();
         int const left = between(-6000, 12000);
         int const top = between(-3000, 4000);
         StoredPlace stored{CRect(left, top, left + between(1, 5000), top + between(1, 3000))};

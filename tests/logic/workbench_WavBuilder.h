@@ -1,8 +1,6 @@
 #pragma once
 // Puts WAV files together byte by byte, right and wrong ones.
 
-#include "logic/ByteSource.h"
-
 #include <bit>
 #include <cstddef>
 #include <cstdint>
@@ -11,6 +9,8 @@
 #include <string_view>
 #include <utility>
 #include <vector>
+
+#include "logic/ByteSource.h"
 
 namespace wav
 {
@@ -50,7 +50,7 @@ inline Bytes Format(unsigned tag, unsigned channels, unsigned rate, unsigned fra
 inline Bytes Extensible(unsigned subTag, unsigned channels, unsigned rate, unsigned frameBytes, unsigned bits,
                         unsigned validBits)
 {
-    auto bytes = Format(0xFFFE, channels, rate, frameBytes, bits);
+    Bytes bytes = Format(0xFFFE, channels, rate, frameBytes, bits);
     Put(bytes, 22, 2);
     Put(bytes, validBits, 2);
     Put(bytes, 3, 4);
@@ -141,7 +141,7 @@ inline std::unique_ptr<workbench::ByteSource> Source(Bytes bytes)
 inline Bytes Samples16(std::vector<std::int16_t> const & samples)
 {
     Bytes bytes;
-    for (auto const s : samples)
+    for (short const s : samples)
     {
         Put(bytes, static_cast<std::uint16_t>(s), 2);
     }

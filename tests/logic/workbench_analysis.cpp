@@ -1,12 +1,5 @@
 // Reading whole files: the analysis in steps, the queue on its own thread, folders and the command line.
 
-#include "logic/AnalysisQueue.h"
-#include "logic/CommandLine.h"
-#include "logic/RecordingAnalysis.h"
-#include "logic/RecordingFiles.h"
-#include "logic/RecordingSearch.h"
-#include "workbench_WavBuilder.h"
-
 #include <gtest/gtest.h>
 
 #include <chrono>
@@ -14,6 +7,13 @@
 #include <fstream>
 #include <future>
 #include <string>
+
+#include "logic/AnalysisQueue.h"
+#include "logic/CommandLine.h"
+#include "logic/RecordingAnalysis.h"
+#include "logic/RecordingFiles.h"
+#include "logic/RecordingSearch.h"
+#include "workbench_WavBuilder.h"
 
 namespace
 {
@@ -28,7 +28,7 @@ public:
     TemporaryFolder()
     {
         static int s_count = 0;
-        auto const now = std::chrono::steady_clock::now().time_since_epoch().count();
+        long long const now = std::chrono::steady_clock::now().time_since_epoch().count();
         m_path = fs::temp_directory_path() / ("workbench-" + std::to_string(now) + "-" + std::to_string(++s_count));
         fs::create_directories(m_path);
     }
@@ -43,7 +43,7 @@ public:
 
     fs::path Write(std::string const & name, wav::Bytes const & bytes = {}) const
     {
-        auto path = m_path / name;
+        std::filesystem::path path = m_path / name;
         fs::create_directories(path.parent_path());
         std::ofstream stream(path, std::ios::binary);
         stream.write(reinterpret_cast<char const *>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
@@ -85,14 +85,15 @@ TEST(RecordingAnalysis, WhatIsKeptOfARecordingIsSmallWhateverItsLengthAndChannel
     for (unsigned const channels : {1U, 2U, 6U, 32U, 40U})
     {
         std::vector<std::int16_t> const samples(std::size_t{channels} * 100000, 5);
-        auto const file = folder.Write("many.wav", wav::File()
-                                                       .Chunk("fmt ", wav::Format(1, channels, 48000, 2 * channels, 16))
-                                                       .Chunk("data", wav::Samples16(samples))
-                                                       .Content());
+        fs::path const file =
+            folder.Write("many.wav", wav::File()
+                                         .Chunk("fmt ", wav::Format(1, channels, 48000, 2 * channels, 16))
+                                         .Chunk("data", wav::Samples16(samples))
+                                         .Content());
         RecordingAnalyser analyser(file);
         while (analyser.Step())
             continue;
-        auto const analysis = analyser.Take();
+        RecordingAnalysis const analysis = analyser.Take();
         ASSERT_EQ(analysis.info.frames, 100000U);
         EXPECT_GT(analysis.waveform.Bytes(), 8000U) << channels;
         EXPECT_LT(analysis.waveform.Bytes() + sizeof analysis, 40000U) << channels;
@@ -101,7 +102,7 @@ TEST(RecordingAnalysis, WhatIsKeptOfARecordingIsSmallWhateverItsLengthAndChannel
 
 TEST(RecordingAnalysis, GivesHeaderLevelsAndWaveformOfARecording)
 {
-    auto const analysis = Analyse(Stereo(100'000));
+    RecordingAnalysis const analysis = Analyse(Stereo(100'000));
     EXPECT_FALSE(analysis.problem);
     EXPECT_EQ(analysis.info.frames, 100'000u);
     EXPECT_EQ(analysis.info.channels, 2u);
@@ -128,7 +129,7 @@ TEST(RecordingAnalysis, ReadsInSteps)
 
 TEST(RecordingAnalysis, SaysHowLongACutOffRecordingShouldBe)
 {
-    auto const analysis = Analyse(Stereo(8000).Cut(44 + 4000 * 4));
+    RecordingAnalysis const analysis = Analyse(Stereo(8000).Cut(44 + 4000 * 4));
     EXPECT_FALSE(analysis.problem);
     EXPECT_EQ(analysis.info.frames, 4000u);
     EXPECT_EQ(analysis.waveform.Frames(), 4000u);
@@ -140,7 +141,8 @@ TEST(RecordingAnalysis, MentionsInvalidSamples)
     wav::Bytes data;
     wav::Put(data, 0x7FC00000u, 4);
     wav::Put(data, 0x3F000000u, 4);
-    auto const analysis = Analyse(wav::File().Chunk("fmt ", wav::Format(3, 1, 8000, 4, 32)).Chunk("data", data));
+    RecordingAnalysis const analysis =
+        Analyse(wav::File().Chunk("fmt ", wav::Format(3, 1, 8000, 4, 32)).Chunk("data", data));
     EXPECT_EQ(analysis.invalidSamples, 1u);
     EXPECT_EQ(analysis.StatusText(), L"has invalid samples");
     EXPECT_NEAR(analysis.levels.peak, -6.0206, 1e-4);
@@ -149,7 +151,7 @@ TEST(RecordingAnalysis, MentionsInvalidSamples)
 TEST(RecordingAnalysis, GivesTheProblemOfAFileThatCannotBeRead)
 {
     TemporaryFolder const folder;
-    auto const missing = Analyse(RecordingAnalyser(folder.Path() / "missing.wav"));
+    RecordingAnalysis const missing = Analyse(RecordingAnalyser(folder.Path() / "missing.wav"));
     ASSERT_TRUE(missing.problem);
     EXPECT_EQ(missing.problem->fault, ReadFault::cannot_be_opened);
     EXPECT_EQ(missing.StatusText(), L"cannot be opened");
@@ -161,8 +163,8 @@ TEST(RecordingAnalysis, GivesTheProblemOfAFileThatCannotBeRead)
 TEST(RecordingAnalysis, ReadsAFileAsItReadsMemory)
 {
     TemporaryFolder const folder;
-    auto const fromFile = Analyse(RecordingAnalyser(folder.Write("a.wav", Stereo(30'000).Content())));
-    auto const fromMemory = Analyse(Stereo(30'000));
+    RecordingAnalysis const fromFile = Analyse(RecordingAnalyser(folder.Write("a.wav", Stereo(30'000).Content())));
+    RecordingAnalysis const fromMemory = Analyse(Stereo(30'000));
     EXPECT_FALSE(fromFile.problem);
     EXPECT_EQ(fromFile.levels.rms, fromMemory.levels.rms);
     EXPECT_EQ(fromFile.waveform.Columns(0, 100), fromMemory.waveform.Columns(0, 100));
@@ -204,7 +206,7 @@ std::vector<AnalysisQueue::Finished> WaitForResults(AnalysisQueue & queue, Notif
     std::vector<AnalysisQueue::Finished> finished;
     for (int notified = 1; finished.size() < count && notifications.WaitFor(notified); ++notified)
     {
-        for (auto & one : queue.TakeFinished())
+        for (AnalysisQueue::Finished & one : queue.TakeFinished())
         {
             finished.push_back(std::move(one));
         }
@@ -215,13 +217,13 @@ std::vector<AnalysisQueue::Finished> WaitForResults(AnalysisQueue & queue, Notif
 TEST(AnalysisQueue, GivesEveryRecordingInOrderWithItsId)
 {
     TemporaryFolder const folder;
-    auto const good = folder.Write("good.wav", Stereo(1000).Content());
+    fs::path const good = folder.Write("good.wav", Stereo(1000).Content());
     Notifications notifications;
     AnalysisQueue queue([&] { notifications(); });
     queue.Add(7, good);
     queue.Add(3, folder.Path() / "missing.wav");
     queue.Add(9, good);
-    auto const finished = WaitForResults(queue, notifications, 3);
+    std::vector<AnalysisQueue::Finished> const finished = WaitForResults(queue, notifications, 3);
     ASSERT_EQ(finished.size(), 3u);
     EXPECT_EQ(finished[0].id, 7u);
     EXPECT_EQ(finished[0].analysis->info.frames, 1000u);
@@ -234,10 +236,10 @@ TEST(AnalysisQueue, GivesEveryRecordingInOrderWithItsId)
 TEST(AnalysisQueue, TellsOnceOfResultsThatNobodyHasTaken)
 {
     TemporaryFolder const folder;
-    auto const good = folder.Write("good.wav", Stereo(10).Content());
+    fs::path const good = folder.Write("good.wav", Stereo(10).Content());
     Notifications notifications;
     AnalysisQueue queue([&] { notifications(); });
-    for (auto const round : {1, 2})
+    for (int const round : {1, 2})
     {
         for (unsigned id = 0; id < 20; ++id)
         {
@@ -255,7 +257,7 @@ TEST(AnalysisQueue, TellsOnceOfResultsThatNobodyHasTaken)
 TEST(AnalysisQueue, ForgetsEverythingWhenCleared)
 {
     TemporaryFolder const folder;
-    auto const file = folder.Write("good.wav", Stereo(200'000).Content());
+    fs::path const file = folder.Write("good.wav", Stereo(200'000).Content());
     Notifications notifications;
     AnalysisQueue queue([&] { notifications(); });
     for (unsigned id = 0; id < 50; ++id)
@@ -264,7 +266,7 @@ TEST(AnalysisQueue, ForgetsEverythingWhenCleared)
     }
     queue.Clear();
     queue.Add(100, file);
-    auto const finished = WaitForResults(queue, notifications);
+    std::vector<AnalysisQueue::Finished> const finished = WaitForResults(queue, notifications);
     ASSERT_EQ(finished.size(), 1u);
     EXPECT_EQ(finished[0].id, 100u);
 }
@@ -272,8 +274,8 @@ TEST(AnalysisQueue, ForgetsEverythingWhenCleared)
 TEST(AnalysisQueue, GivesUpTheRecordingThatItIsReadingWhenCleared)
 {
     TemporaryFolder const folder;
-    auto const small = folder.Write("small.wav", Stereo(10).Content());
-    auto const large = folder.Write("large.wav", Stereo(1'000'000).Content());
+    fs::path const small = folder.Write("small.wav", Stereo(10).Content());
+    fs::path const large = folder.Write("large.wav", Stereo(1'000'000).Content());
     for (int round = 0; round < 10; ++round)
     {
         Notifications notifications;
@@ -284,7 +286,7 @@ TEST(AnalysisQueue, GivesUpTheRecordingThatItIsReadingWhenCleared)
         std::this_thread::yield();
         queue.Clear();
         queue.Add(3, small);
-        auto const finished = WaitForResults(queue, notifications);
+        std::vector<AnalysisQueue::Finished> const finished = WaitForResults(queue, notifications);
         ASSERT_EQ(finished.size(), 1u);
         EXPECT_EQ(finished[0].id, 3u);
     }
@@ -293,8 +295,8 @@ TEST(AnalysisQueue, GivesUpTheRecordingThatItIsReadingWhenCleared)
 TEST(AnalysisQueue, EndsAtOnceWithWorkLeft)
 {
     TemporaryFolder const folder;
-    auto const file = folder.Write("long.wav", Stereo(500'000).Content());
-    auto notified = 0;
+    fs::path const file = folder.Write("long.wav", Stereo(500'000).Content());
+    int notified = 0;
     {
         AnalysisQueue queue([&] { ++notified; });
         for (unsigned id = 0; id < 10'000; ++id)
@@ -322,26 +324,26 @@ TEST(RecordingFiles, ReplaceAFolderByItsWavFilesInOrder)
 TEST(RecordingFiles, KeepSingleFilesWhateverTheyAre)
 {
     TemporaryFolder const folder;
-    auto const text = folder.Write("notes.txt");
-    auto const wave = folder.Write("b.wav");
-    auto const missing = folder.Path() / "missing.wav";
+    fs::path const text = folder.Write("notes.txt");
+    fs::path const wave = folder.Write("b.wav");
+    std::filesystem::path const missing = folder.Path() / "missing.wav";
     EXPECT_EQ(FindRecordings(std::vector{text, missing, wave}).files, (std::vector{text, missing, wave}));
 }
 
 TEST(RecordingFiles, ComeOnce)
 {
     TemporaryFolder const folder;
-    auto const wave = folder.Write("b.wav");
+    fs::path const wave = folder.Write("b.wav");
     EXPECT_EQ(FindRecordings(std::vector{wave, folder.Path(), wave}).files, std::vector{wave});
 }
 
 TEST(RecordingFiles, TellWhichFoldersAreMissing)
 {
     TemporaryFolder const folder;
-    auto const wave = folder.Write("b.wav");
-    auto const gone = folder.Path() / "gone";
-    auto const goneFile = folder.Path() / "gone.wav";
-    auto const found = FindRecordings(std::vector{gone, folder.Path(), goneFile});
+    fs::path const wave = folder.Write("b.wav");
+    std::filesystem::path const gone = folder.Path() / "gone";
+    std::filesystem::path const goneFile = folder.Path() / "gone.wav";
+    FoundRecordings const found = FindRecordings(std::vector{gone, folder.Path(), goneFile});
     EXPECT_EQ(found.files, (std::vector{wave, goneFile}));
     EXPECT_EQ(found.missing, std::vector{gone});
 }
@@ -353,7 +355,7 @@ TEST(RecordingFiles, AreGivenUpWhenAskedTo)
     {
         folder.Write("file" + std::to_string(i) + ".wav");
     }
-    auto asked = 0;
+    int asked = 0;
     EXPECT_TRUE(FindRecordings(std::vector{folder.Path()}, [&] { return ++asked > 3; }).files.empty());
     EXPECT_LT(asked, 10);
 }
@@ -361,12 +363,12 @@ TEST(RecordingFiles, AreGivenUpWhenAskedTo)
 TEST(RecordingSearch, GivesOnceWhatItFound)
 {
     TemporaryFolder const folder;
-    auto const wave = folder.Write("b.wav");
-    auto const gone = folder.Path() / "gone";
+    fs::path const wave = folder.Write("b.wav");
+    std::filesystem::path const gone = folder.Path() / "gone";
     Notifications notifications;
     RecordingSearch search({folder.Path(), gone}, [&] { notifications(); });
     ASSERT_TRUE(notifications.WaitFor(1));
-    auto const found = search.Take();
+    std::optional<FoundRecordings> const found = search.Take();
     ASSERT_TRUE(found);
     EXPECT_EQ(found->files, std::vector{wave});
     EXPECT_EQ(found->missing, std::vector{gone});
@@ -400,7 +402,7 @@ CommandLine Parse(std::vector<std::wstring> const & arguments)
 
 TEST(CommandLine, IsInteractiveWithoutArguments)
 {
-    auto const line = Parse({});
+    CommandLine const line = Parse({});
     EXPECT_EQ(line.mode, RunMode::interactive);
     EXPECT_TRUE(line.targets.empty());
     EXPECT_TRUE(line.error.empty());
@@ -413,7 +415,7 @@ TEST(CommandLine, TakesFoldersAndFiles)
 
 TEST(CommandLine, TakesAWalkWithItsFolder)
 {
-    auto const walk = Parse({L"/Walk", L"out", L"sounds"});
+    CommandLine const walk = Parse({L"/Walk", L"out", L"sounds"});
     EXPECT_EQ(walk.mode, RunMode::walk);
     EXPECT_EQ(walk.walkFolder, L"out");
     EXPECT_EQ(walk.targets, std::vector<std::wstring>{L"sounds"});

@@ -31,7 +31,7 @@ protected:
     static std::string Text(FileByteSource & source, std::uint64_t offset, std::size_t count)
     {
         std::string text(count, '?');
-        auto const read = source.Read(offset, std::as_writable_bytes(std::span(text)));
+        std::size_t const read = source.Read(offset, std::as_writable_bytes(std::span(text)));
         return text.substr(0, read);
     }
 

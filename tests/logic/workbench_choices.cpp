@@ -23,15 +23,15 @@ namespace fs = std::filesystem;
 TEST(WorkbenchWaveformColours, AColourIsWrittenAndReadBack)
 {
     EXPECT_EQ(ColourText(RGB(0x32, 0xC8, 0xFF)), L"#32C8FF");
-    for (auto const colour : {RGB(0, 0, 0), RGB(255, 255, 255), RGB(1, 2, 3), RGB(0xFE, 0, 0x80)})
+    for (COLORREF const colour : {RGB(0, 0, 0), RGB(255, 255, 255), RGB(1, 2, 3), RGB(0xFE, 0, 0x80)})
         EXPECT_EQ(ColourOf(ColourText(colour)), colour);
     EXPECT_EQ(ColourOf(L"#abCDef"), RGB(0xAB, 0xCD, 0xEF));
 }
 
 TEST(WorkbenchWaveformColours, OtherTextsAreNoColours)
 {
-    for (auto const * const text : {L"", L"#", L"32C8FF", L"#32C8F", L"#32C8FFF", L"#32C8FG", L"#-2C8FF", L"# 2C8FF",
-                                    L"0x32C8FF", L"#32C8FF ", L"#\u0661\u0662\u0663\u0664\u0665\u0666"})
+    for (wchar_t const * const text : {L"", L"#", L"32C8FF", L"#32C8F", L"#32C8FFF", L"#32C8FG", L"#-2C8FF", L"# 2C8FF",
+                                       L"0x32C8FF", L"#32C8FF ", L"#\u0661\u0662\u0663\u0664\u0665\u0666"})
         EXPECT_FALSE(ColourOf(text)) << text;
 }
 
@@ -40,7 +40,7 @@ TEST(WorkbenchWaveformColours, TheFirstChannelHasTheChosenColourAndOthersAreSeen
     WaveformColours colours;
     EXPECT_EQ(TraceColour(colours, 0), colours.trace);
     EXPECT_EQ(TraceColour(colours, 6), colours.trace);
-    for (auto const background : {RGB(0, 0, 0), RGB(255, 255, 255), RGB(128, 128, 128), RGB(255, 150, 0)})
+    for (COLORREF const background : {RGB(0, 0, 0), RGB(255, 255, 255), RGB(128, 128, 128), RGB(255, 150, 0)})
     {
         colours.background = background;
         for (std::size_t channel = 1; channel < 6; ++channel)
@@ -58,7 +58,7 @@ TEST(WorkbenchAmplification, OnlyStepsAreTaken)
 {
     for (int decibels = 0; decibels <= 48; decibels += 6)
         EXPECT_EQ(CheckedAmplification(decibels), decibels);
-    for (auto const decibels :
+    for (int const decibels :
          {-6, -1, 1, 5, 7, 49, 54, std::numeric_limits<int>::max(), std::numeric_limits<int>::min()})
         EXPECT_EQ(CheckedAmplification(decibels), 0) << decibels;
 }
@@ -77,8 +77,8 @@ TEST(WorkbenchAmplification, FitsAPeakIntoThePlot)
 
 TEST(WorkbenchAmplification, LevelLinesStandForLowerLevels)
 {
-    auto const plain = LevelLines(100, 12);
-    auto const amplified = LevelLines(100, 12, 12);
+    std::vector<LevelLine> const plain = LevelLines(100, 12);
+    std::vector<LevelLine> const amplified = LevelLines(100, 12, 12);
     ASSERT_EQ(plain.size(), amplified.size());
     EXPECT_EQ(plain.front().label, L"0");
     EXPECT_EQ(amplified.front().label, L"-12");
@@ -137,7 +137,7 @@ protected:
         fs::remove_all(m_folder);
         fs::create_directories(m_folder / "sub.wav"); // a folder, whatever its name
         fs::create_directories(m_folder / "Alpha");
-        for (auto const * const name : {"b.wav", "A.WAV", "c.txt", "d.wave"})
+        for (char const * const name : {"b.wav", "A.WAV", "c.txt", "d.wave"})
             std::ofstream(m_folder / name) << "x";
     }
     void TearDown() override { fs::remove_all(m_folder); }
@@ -148,7 +148,7 @@ protected:
 
 TEST_F(WorkbenchFolderContents, AreFoldersAndRecordingsByName)
 {
-    auto const contents = ContentsOf(m_folder);
+    FolderContents const contents = ContentsOf(m_folder);
     EXPECT_EQ(contents.folders, (std::vector<fs::path>{m_folder / "Alpha", m_folder / "sub.wav"}));
     EXPECT_EQ(contents.recordings,
               (std::vector<fs::path>{m_folder / "A.WAV", m_folder / "b.wav", m_folder / "d.wave"}));
@@ -166,7 +166,7 @@ TEST_F(WorkbenchFolderContents, AreReadOnAThread)
     while (told == 0)
         std::this_thread::yield();
     EXPECT_EQ(told, 1);
-    auto const result = reading.Take();
+    std::optional<FolderReading::Result> const result = reading.Take();
     ASSERT_TRUE(result);
     EXPECT_EQ(*result->contents, ContentsOf(m_folder));
     EXPECT_EQ(result->steps, StepsBetween(*before, *result->contents));

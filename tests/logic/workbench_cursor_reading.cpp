@@ -75,7 +75,7 @@ TEST(WorkbenchCursorReading, TheLevelIsTheGreatestAmplitudeAround)
     // 1,000 frames a second: five frames to either side.
     std::vector<double> samples(100, 0.0);
     samples[50] = -0.5;
-    auto const waveform = MakeWaveform(1, samples);
+    Waveform const waveform = MakeWaveform(1, samples);
     EXPECT_EQ(LevelOf(waveform, 1000, 44), silence);
     EXPECT_NEAR(LevelOf(waveform, 1000, 45), -6.0206, 0.0001);
     EXPECT_NEAR(LevelOf(waveform, 1000, 55), -6.0206, 0.0001);
@@ -90,7 +90,7 @@ TEST(WorkbenchCursorReading, TheLoudestLaneCounts)
 
 TEST(WorkbenchCursorReading, TheStretchEndsWithTheRecording)
 {
-    auto const waveform = MakeWaveform(1, {1.0, 0.0, 0.5});
+    Waveform const waveform = MakeWaveform(1, {1.0, 0.0, 0.5});
     EXPECT_NEAR(LevelOf(waveform, 48000, 0), 0.0, 0.0001);
     EXPECT_NEAR(LevelOf(waveform, 48000, 2), 0.0, 0.0001);
     EXPECT_NEAR(LevelOf(waveform, 100, 2), -6.0206, 0.0001) << "at least the frame itself";
@@ -98,7 +98,7 @@ TEST(WorkbenchCursorReading, TheStretchEndsWithTheRecording)
 
 TEST(WorkbenchCursorReading, WhatDoesNotExistIsSilent)
 {
-    auto const waveform = MakeWaveform(1, {1.0});
+    Waveform const waveform = MakeWaveform(1, {1.0});
     EXPECT_EQ(LevelOf(waveform, 48000, 1), silence);
     EXPECT_EQ(LevelOf(waveform, 0, 0), silence);
     EXPECT_EQ(LevelOf(Waveform(), 48000, 0), silence);

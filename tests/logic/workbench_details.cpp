@@ -1,10 +1,5 @@
 // What the list and the details window say about a recording.
 
-#include "logic/FileFacts.h"
-#include "logic/LevelMeter.h"
-#include "logic/RecordingDetails.h"
-#include "logic/TextFormat.h"
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -12,6 +7,11 @@
 #include <fstream>
 #include <limits>
 #include <system_error>
+
+#include "logic/FileFacts.h"
+#include "logic/LevelMeter.h"
+#include "logic/RecordingDetails.h"
+#include "logic/TextFormat.h"
 
 namespace
 {
@@ -145,12 +145,12 @@ TEST(RecordingDetails, SayEverythingAboutARecording)
 
 TEST(RecordingDetails, GiveWhatThereIsNotNoUnit)
 {
-    auto analysis = GoodRecording();
+    RecordingAnalysis analysis = GoodRecording();
     analysis.levels = {-beyond_all, -beyond_all};
     analysis.loudness.reset();
     analysis.tone = {};
-    auto const lines = DescribeRecording("a.wav", analysis, L"");
-    auto const dashes =
+    std::vector<DetailLine> const lines = DescribeRecording("a.wav", analysis, L"");
+    std::ptrdiff_t const dashes =
         std::count_if(lines.begin(), lines.end(), [](DetailLine const & line) { return line.text == L"-"; });
     EXPECT_EQ(dashes, 4);
 }
@@ -167,7 +167,7 @@ TEST(RecordingDetails, SayOfAFileThatIsNoneWhatItIsAndWhy)
 
 TEST(RecordingDetails, LeaveOutASizeThatIsNotKnown)
 {
-    auto analysis = GoodRecording();
+    RecordingAnalysis analysis = GoodRecording();
     analysis.file.size.reset();
     EXPECT_EQ(DescribeRecording("a.wav", analysis, L"").at(2).label, L"Format");
 }
@@ -198,27 +198,27 @@ protected:
 TEST_F(FileFactsTest, AreSizeAndTimeOfTheFile)
 {
     std::ofstream(m_path, std::ios::binary) << "12345";
-    auto const facts = ReadFileFacts(m_path);
+    FileFacts const facts = ReadFileFacts(m_path);
     EXPECT_EQ(facts.size, 5U);
     ASSERT_TRUE(facts.lastWrite);
-    auto const now = std::chrono::system_clock::to_time_t(std::chrono::system_clock::now());
+    std::time_t const now = std::chrono::system_clock::to_time_t(std::chrono::system_clock::now());
     EXPECT_LE(std::abs(static_cast<long long>(now - *facts.lastWrite)), 60);
 }
 
 TEST_F(FileFactsTest, FollowTheFilesTime)
 {
     std::ofstream(m_path, std::ios::binary) << "12345";
-    auto const before = ReadFileFacts(m_path);
+    FileFacts const before = ReadFileFacts(m_path);
     ASSERT_TRUE(before.lastWrite);
     std::filesystem::last_write_time(m_path, std::filesystem::last_write_time(m_path) - std::chrono::hours(1));
-    auto const after = ReadFileFacts(m_path);
+    FileFacts const after = ReadFileFacts(m_path);
     ASSERT_TRUE(after.lastWrite);
     EXPECT_EQ(*before.lastWrite - *after.lastWrite, 3600);
 }
 
 TEST_F(FileFactsTest, AreEmptyForAMissingFile)
 {
-    auto const facts = ReadFileFacts(m_path);
+    FileFacts const facts = ReadFileFacts(m_path);
     EXPECT_FALSE(facts.size);
     EXPECT_FALSE(facts.lastWrite);
 }
@@ -230,7 +230,7 @@ TEST_F(FileFactsTest, ComeWithTheAnalysis)
     while (analyser.Step())
     {
     }
-    auto const analysis = analyser.Take();
+    RecordingAnalysis const analysis = analyser.Take();
     EXPECT_TRUE(analysis.problem);
     EXPECT_EQ(analysis.file.size, 5U);
     EXPECT_TRUE(analysis.file.lastWrite);

@@ -1,12 +1,12 @@
 // How the recordings of folders were shown last.
 
-#include "logic/FolderViews.h"
-
 #include <gtest/gtest.h>
 
 #include <filesystem>
 #include <random>
 #include <string>
+
+#include "logic/FolderViews.h"
 
 using namespace workbench;
 
@@ -44,15 +44,15 @@ TEST(FolderViewTexts, WhatIsNoneIsPassedOver)
 TEST(FolderViewTexts, AnyTextIsRead)
 {
     std::mt19937 random(1); // NOLINT: the same texts each time
-    auto const text = FolderViewText(Full());
+    std::wstring const text = FolderViewText(Full());
     for (int i = 0; i < 2000; ++i)
     {
-        auto damaged = text.substr(0, random() % (text.size() + 1));
-        for (auto changes = random() % 4; changes > 0 && !damaged.empty(); --changes)
+        std::wstring damaged = text.substr(0, random() % (text.size() + 1));
+        for (unsigned int changes = random() % 4; changes > 0 && !damaged.empty(); --changes)
         {
             damaged[random() % damaged.size()] = static_cast<wchar_t>(random() % 128);
         }
-        auto const view = ReadFolderView(damaged);
+        FolderView const view = ReadFolderView(damaged);
         EXPECT_EQ(ReadFolderView(FolderViewText(view)), view);
     }
 }
@@ -70,7 +70,7 @@ TEST(FolderViewNames, AreThoseBelowTheFolder)
 
 TEST(FolderViewStore, KeepsOneForEachFolder)
 {
-    auto const folder = std::filesystem::temp_directory_path() / "workbench_folder_views";
+    std::filesystem::path const folder = std::filesystem::temp_directory_path() / "workbench_folder_views";
     std::filesystem::remove_all(folder);
     {
         FolderViews views(folder / "Views.txt");

@@ -1,5 +1,8 @@
 // Ending the program while it stores how folders are shown.
 
+#include <sys/wait.h>
+#include <unistd.h>
+
 #include <gtest/gtest.h>
 
 #include <csignal>
@@ -8,9 +11,6 @@
 #include <iterator>
 #include <random>
 #include <string>
-
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include "logic/FolderViews.h"
 
@@ -63,10 +63,10 @@ FolderView ViewOf(int number)
 
 TEST(FolderViewsKilled, AreTheOldOrTheNewOnesAtEveryMoment)
 {
-    auto const folder = fs::temp_directory_path() / "workbench_views_killed";
+    std::filesystem::path const folder = fs::temp_directory_path() / "workbench_views_killed";
     fs::remove_all(folder);
     fs::create_directories(folder);
-    auto const file = folder / "Views.txt";
+    std::filesystem::path const file = folder / "Views.txt";
     std::mt19937 random(12); // NOLINT: the same moments each time
     for (int kill = 0; kill < kills; ++kill)
     {
@@ -95,10 +95,10 @@ TEST(FolderViewsKilled, AreTheOldOrTheNewOnesAtEveryMoment)
         ::close(ends[0]);
 
         std::ifstream stream(file, std::ios::binary);
-        auto const reading = ReadNotes(std::string(std::istreambuf_iterator<char>(stream), {}));
+        NotesReading const reading = ReadNotes(std::string(std::istreambuf_iterator<char>(stream), {}));
         EXPECT_FALSE(reading.damaged);
         ASSERT_EQ(reading.notes.size(), static_cast<std::size_t>(folders));
-        auto const view = ReadFolderView(reading.notes.begin()->second.notes.comment);
+        FolderView const view = ReadFolderView(reading.notes.begin()->second.notes.comment);
         EXPECT_TRUE(view == ViewOf(stored) || view == ViewOf(stored + 1)) << stored;
         for (auto const & [key, noted] : reading.notes)
         {

@@ -1,16 +1,16 @@
 // What a folder's changes are, and what becomes of lines that get other numbers.
 
-#include "logic/FolderChanges.h"
-#include "logic/ListHistory.h"
-#include "logic/RecordingTotals.h"
-#include "logic/StoredLists.h"
-
 #include <gtest/gtest.h>
 
 #include <chrono>
 #include <string>
 #include <utility>
 #include <vector>
+
+#include "logic/FolderChanges.h"
+#include "logic/ListHistory.h"
+#include "logic/RecordingTotals.h"
+#include "logic/StoredLists.h"
 
 namespace
 {
@@ -28,7 +28,7 @@ TEST(FolderChanges, SaysWhatHasComeAndGoneAndChanged)
 {
     std::vector<KnownFile> const listed{Known("a", 1), Known("b", 2), Known("c", 3), Known("d", 4)};
     std::vector<KnownFile> const found{Known("a", 1), Known("b", 22), Known("d", 4, 1001), Known("e", 5)};
-    auto const changes = CompareFolder(listed, found);
+    FolderChanges const changes = CompareFolder(listed, found);
     EXPECT_EQ(changes.gone, Places{2});
     EXPECT_EQ(changes.changed, (Places{1, 3}));
     EXPECT_EQ(changes.come, Paths{"e"});
@@ -39,7 +39,8 @@ TEST(FolderChanges, SaysWhatHasComeAndGoneAndChanged)
 TEST(FolderChanges, AnotherNameWithTheSameSizeAndTimeIsARename)
 {
     std::vector<KnownFile> const listed{Known("a", 1), Known("b", 2)};
-    auto const changes = CompareFolder(listed, std::vector<KnownFile>{Known("a", 1), Known("x", 2), Known("y", 3)});
+    FolderChanges const changes =
+        CompareFolder(listed, std::vector<KnownFile>{Known("a", 1), Known("x", 2), Known("y", 3)});
     ASSERT_EQ(changes.renamed.size(), 1U);
     EXPECT_EQ(changes.renamed.front(), (std::pair{std::size_t(1), std::filesystem::path("x")}));
     EXPECT_TRUE(changes.gone.empty());
@@ -49,7 +50,7 @@ TEST(FolderChanges, AnotherNameWithTheSameSizeAndTimeIsARename)
 TEST(FolderChanges, NamesThatCouldBeEitherAreNoRename)
 {
     std::vector<KnownFile> const listed{Known("a", 1), Known("b", 1)};
-    auto const changes = CompareFolder(listed, std::vector<KnownFile>{Known("x", 1), Known("y", 1)});
+    FolderChanges const changes = CompareFolder(listed, std::vector<KnownFile>{Known("x", 1), Known("y", 1)});
     EXPECT_TRUE(changes.renamed.empty());
     EXPECT_EQ(changes.gone, (Places{0, 1}));
     EXPECT_EQ(changes.come, (Paths{"x", "y"}));
@@ -58,7 +59,7 @@ TEST(FolderChanges, NamesThatCouldBeEitherAreNoRename)
 TEST(FolderChanges, WhatIsNotKnownHasNotChanged)
 {
     std::vector<KnownFile> const listed{{"unread", {}}, Known("deleted", 1), {"missing", {}}};
-    auto const changes =
+    FolderChanges const changes =
         CompareFolder(listed, std::vector<KnownFile>{Known("unread", 5), {"deleted", {}}, {"missing", {}}});
     EXPECT_EQ(changes.gone, Places{1});
     EXPECT_TRUE(changes.changed.empty());
@@ -93,7 +94,7 @@ TEST(ListHistory, LinesGetOtherNumbers)
     ASSERT_TRUE(history.Undo()); // line 1 again, to be done again
     history.Renumber({1, -1, 0});
     EXPECT_FALSE(history.CanRedo()) << "its line is gone";
-    auto step = history.Undo();
+    std::optional<ListStep> step = history.Undo();
     ASSERT_TRUE(step && step->order);
     EXPECT_EQ(step->order->after.lines, (std::vector<int>{1, 0}));
     EXPECT_EQ(step->order->before.lines, (std::vector<int>{0, 1}));
@@ -109,7 +110,7 @@ TEST(ListHistory, LinesGetOtherNumbers)
 TEST(RecordingTotals, GoWithTheirLines)
 {
     RecordingTotals totals;
-    for (auto const checked : {true, false, true})
+    for (bool const checked : {true, false, true})
     {
         totals.Append(checked);
     }

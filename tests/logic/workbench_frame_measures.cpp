@@ -1,11 +1,5 @@
 // Analysis frames: of signals whose measures are known by formula, and of recordings that are not what they should be.
 
-#include "logic/FrameMeasures.h"
-
-#include "logic/FrameMeasuresJob.h"
-#include "logic/LevelMeter.h"
-#include "workbench_WavBuilder.h"
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -19,6 +13,11 @@
 #include <numbers>
 #include <random>
 #include <stdexcept>
+
+#include "logic/FrameMeasures.h"
+#include "logic/FrameMeasuresJob.h"
+#include "logic/LevelMeter.h"
+#include "workbench_WavBuilder.h"
 
 namespace
 {
@@ -48,11 +47,13 @@ std::vector<FrameMeasures> RowsOf(Signal const & signal, std::uint64_t frames, s
     std::size_t piece = 0;
     for (std::uint64_t frame = 0; frame < frames;)
     {
-        auto const now = std::min(lengths[piece++ % lengths.size()], frames - frame);
+        std::size_t const now = std::min(lengths[piece++ % lengths.size()], frames - frame);
         samples.clear();
-        for (auto i = frame; i < frame + now; ++i)
+        for (std::uint64_t i = frame; i < frame + now; ++i)
+        {
             for (std::size_t channel = 0; channel < channels; ++channel)
                 samples.push_back(signal(i, channel));
+        }
         meter.Add(samples, rows);
         frame += now;
     }
@@ -89,7 +90,7 @@ public:
     ShrunkSource(wav::Bytes bytes, std::uint64_t end) : OwningSource(std::move(bytes)), m_end(end) {}
     std::size_t Read(std::uint64_t offset, std::span<std::byte> buffer) override
     {
-        auto const room = m_end - std::min(offset, m_end);
+        std::size_t const room = m_end - std::min(offset, m_end);
         return OwningSource::Read(offset,
                                   buffer.first(static_cast<std::size_t>(std::min<std::uint64_t>(room, buffer.size()))));
     }
@@ -120,7 +121,7 @@ TEST(WorkbenchFrameRaster, ARowStandsForEachMillisecond)
 
 TEST(WorkbenchFrameRaster, EveryRowIsTheNearestOfItsOwnFrame)
 {
-    for (auto const rate : {11025u, 44100u, 48000u, 96000u, 700u})
+    for (unsigned int const rate : {11025u, 44100u, 48000u, 96000u, 700u})
     {
         FrameRaster const raster(rate, rate * 3ull, 1000);
         for (std::uint64_t row = 0; row < raster.Rows(); ++row)
@@ -148,11 +149,11 @@ TEST(WorkbenchFrameRaster, ALongRecordingHasLongerStepsInPlaceOfMoreRows)
 
 TEST(WorkbenchFrameMeasures, ASineHasItsLevelsAndItsFrequency)
 {
-    for (auto const hertz : {187.5, 440.0, 1000.0, 5017.3, 17777.0})
+    for (double const hertz : {187.5, 440.0, 1000.0, 5017.3, 17777.0})
     {
-        auto const rows = RowsOf(Sine(hertz, 0.5), usual_rate);
+        std::vector<FrameMeasures> const rows = RowsOf(Sine(hertz, 0.5), usual_rate);
         ASSERT_EQ(rows.size(), 1000u);
-        for (auto const & row : rows)
+        for (FrameMeasures const & row : rows)
         {
             EXPECT_NEAR(Decibels(row.peak), -6.02, 0.05) << hertz;
             EXPECT_NEAR(Decibels(row.rms), -9.03, 0.15) << hertz;
@@ -165,11 +166,11 @@ TEST(WorkbenchFrameMeasures, ASineHasItsLevelsAndItsFrequency)
 TEST(WorkbenchFrameMeasures, TheCentroidOfTwoTonesLiesBetweenThemByTheirPowers)
 {
     // Both have whole periods in a window of 1,024.
-    auto const strong = Sine(3000, 0.6);
-    auto const weak = Sine(9000, 0.3);
-    auto const rows =
+    Signal const strong = Sine(3000, 0.6);
+    Signal const weak = Sine(9000, 0.3);
+    std::vector<FrameMeasures> const rows =
         RowsOf([&](auto frame, auto channel) { return strong(frame, channel) + weak(frame, channel); }, 24000);
-    for (auto const & row : rows)
+    for (FrameMeasures const & row : rows)
     {
         EXPECT_NEAR(static_cast<double>(row.frequency), 3000, 0.1);
         EXPECT_NEAR(static_cast<double>(row.centroid), (3000 * 0.36 + 9000 * 0.09) / 0.45, 1);
@@ -179,16 +180,17 @@ TEST(WorkbenchFrameMeasures, TheCentroidOfTwoTonesLiesBetweenThemByTheirPowers)
 
 TEST(WorkbenchFrameMeasures, AConstantPartCountsForLevelsAlone)
 {
-    auto const tone = Sine(1500, 0.25);
-    auto const rows = RowsOf([&](auto frame, auto channel) { return 0.5 + tone(frame, channel); }, 9600);
-    for (auto const & row : rows)
+    Signal const tone = Sine(1500, 0.25);
+    std::vector<FrameMeasures> const rows =
+        RowsOf([&](auto frame, auto channel) { return 0.5 + tone(frame, channel); }, 9600);
+    for (FrameMeasures const & row : rows)
     {
         EXPECT_NEAR(static_cast<double>(row.peak), 0.75, 0.001);
         EXPECT_NEAR(static_cast<double>(row.rms), std::sqrt(0.25 + 0.0625 / 2), 1e-4);
         EXPECT_NEAR(static_cast<double>(row.frequency), 1500, 0.1);
         EXPECT_NEAR(static_cast<double>(row.centroid), 1500, 1);
     }
-    for (auto const & row : RowsOf([](auto, auto) { return 0.5; }, 9600))
+    for (FrameMeasures const & row : RowsOf([](auto, auto) { return 0.5; }, 9600))
     {
         EXPECT_EQ(row.peak, 0.5F);
         EXPECT_EQ(row.rms, 0.5F);
@@ -199,7 +201,7 @@ TEST(WorkbenchFrameMeasures, AConstantPartCountsForLevelsAlone)
 
 TEST(WorkbenchFrameMeasures, SilenceHasNoFrequency)
 {
-    for (auto const & row : RowsOf([](auto, auto) { return 0.0; }, 9600))
+    for (FrameMeasures const & row : RowsOf([](auto, auto) { return 0.0; }, 9600))
     {
         EXPECT_EQ(row.peak, 0.0F);
         EXPECT_EQ(row.rms, 0.0F);
@@ -212,9 +214,9 @@ TEST(WorkbenchFrameMeasures, WhiteNoiseHasItsCentroidInTheMiddle)
 {
     std::mt19937 random(7);
     std::normal_distribution<double> noise(0, 0.1);
-    auto const rows = RowsOf([&](auto, auto) { return noise(random); }, usual_rate);
+    std::vector<FrameMeasures> const rows = RowsOf([&](auto, auto) { return noise(random); }, usual_rate);
     double sum = 0;
-    for (auto const & row : rows)
+    for (FrameMeasures const & row : rows)
         sum += static_cast<double>(row.centroid);
     EXPECT_NEAR(sum / static_cast<double>(rows.size()), 12000, 120);
 }
@@ -223,7 +225,8 @@ TEST(WorkbenchFrameMeasures, AWindowLiesAroundItsRow)
 {
     // Silence but for one sample: seen by the windows that it lies in, 512 frames to each side.
     constexpr std::uint64_t click = 24000;
-    auto const rows = RowsOf([](auto frame, auto) { return frame == click ? 1.0 : 0.0; }, usual_rate);
+    std::vector<FrameMeasures> const rows =
+        RowsOf([](auto frame, auto) { return frame == click ? 1.0 : 0.0; }, usual_rate);
     for (std::size_t row = 0; row < rows.size(); ++row)
     {
         auto const start = static_cast<long long>(row) * 48 - 512;
@@ -238,15 +241,15 @@ TEST(WorkbenchFrameMeasures, AWindowLiesAroundItsRow)
 
 TEST(WorkbenchFrameMeasures, ChannelsCountTogether)
 {
-    auto const left = Sine(750, 0.1);
-    auto const right = Sine(6000, 0.8);
-    auto const rows = RowsOf(
+    Signal const left = Sine(750, 0.1);
+    Signal const right = Sine(6000, 0.8);
+    std::vector<FrameMeasures> const rows = RowsOf(
         [&](auto frame, auto channel) { return channel == 0   ? left(frame, 0)
                                                : channel == 1 ? right(frame, 0)
                                                               : 0.0; },
         9600, 3);
     ASSERT_EQ(rows.size(), 200u);
-    for (auto const & row : rows)
+    for (FrameMeasures const & row : rows)
     {
         EXPECT_NEAR(static_cast<double>(row.peak), 0.8, 0.001);
         EXPECT_NEAR(static_cast<double>(row.rms), std::sqrt((0.01 + 0.64) / 2 / 3), 1e-4);
@@ -261,17 +264,17 @@ TEST(WorkbenchFrameMeasures, WindowAndStepAreOfChoice)
     EXPECT_EQ(FrameMeter(8000, 1, 1, {}).Window(), 256u);
     EXPECT_EQ(FrameMeter(48000, 1, 1, {4096, 0}).Window(), 4096u);
     EXPECT_EQ(FrameMeter(48000, 1, 1, {1000, 0}).Window(), 1024u) << "no power of two";
-    auto const rows = RowsOf(Sine(50, 0.5), usual_rate, 1, {16384, 10000});
+    std::vector<FrameMeasures> const rows = RowsOf(Sine(50, 0.5), usual_rate, 1, {16384, 10000});
     ASSERT_EQ(rows.size(), 100u);
-    for (auto const & row : rows)
+    for (FrameMeasures const & row : rows)
         EXPECT_NEAR(static_cast<double>(row.frequency), 50, 0.05);
 }
 
 TEST(WorkbenchFrameMeasures, ARecordingShorterThanTheWindowHasLevelsAlone)
 {
-    auto const rows = RowsOf([](auto frame, auto) { return frame % 2 == 0 ? 0.5 : -0.5; }, 1023);
+    std::vector<FrameMeasures> const rows = RowsOf([](auto frame, auto) { return frame % 2 == 0 ? 0.5 : -0.5; }, 1023);
     ASSERT_EQ(rows.size(), 22u);
-    for (auto const & row : rows)
+    for (FrameMeasures const & row : rows)
     {
         EXPECT_EQ(row.peak, 0.5F);
         EXPECT_EQ(row.rms, 0.5F);
@@ -284,10 +287,10 @@ TEST(WorkbenchFrameMeasures, ARecordingShorterThanTheWindowHasLevelsAlone)
 
 TEST(WorkbenchFrameMeasures, WhatEndsEarlyIsAsIfItHadBeenThatShort)
 {
-    for (auto const frames : {100u, 5000u, 24001u, 30000u})
+    for (unsigned int const frames : {100u, 5000u, 24001u, 30000u})
     {
-        auto const whole = RowsOf(Sine(440, 0.5), frames);
-        auto const early = RowsOf(Sine(440, 0.5), frames, 1, {}, 100000);
+        std::vector<FrameMeasures> const whole = RowsOf(Sine(440, 0.5), frames);
+        std::vector<FrameMeasures> const early = RowsOf(Sine(440, 0.5), frames, 1, {}, 100000);
         ASSERT_EQ(early.size(), whole.size()) << frames;
         for (std::size_t row = 0; row < whole.size(); ++row)
         {
@@ -341,7 +344,7 @@ TEST(WorkbenchFrameMeasures, ACutOffFileHasTheRowsOfWhatIsThere)
 
 TEST(WorkbenchFrameMeasures, AFileThatGetsShorterWhileItIsReadHasTheRowsOfWhatWasThere)
 {
-    auto const bytes = Recording(48000).Content();
+    wav::Bytes const bytes = Recording(48000).Content();
     FrameAnalyser analyser(std::make_unique<ShrunkSource>(bytes, 44 + 2 * 24000));
     EXPECT_EQ(ReadAll(analyser).size(), 500u);
     EXPECT_FALSE(analyser.IsWhole());
@@ -394,7 +397,7 @@ public:
     std::size_t Read(std::uint64_t offset, std::span<std::byte> buffer) override
     {
         std::ranges::fill(buffer, std::byte());
-        auto header = Recording(1).LastChunkSize(bytes).Content();
+        wav::Bytes header = Recording(1).LastChunkSize(bytes).Content();
         header.resize(44);
         for (std::size_t i = 0; i < buffer.size() && offset + i < header.size(); ++i)
             buffer[i] = header[static_cast<std::size_t>(offset) + i];
@@ -421,7 +424,7 @@ TEST(WorkbenchFrameMeasuresJob, TellsOfAllRowsAndOfItsEnd)
     Told told;
     FrameMeasuresJob job(Open(Recording(96000)), told.Listener());
     ASSERT_TRUE(told.WaitFor([&] { return told.ends > 0; }));
-    auto const result = job.GetResult();
+    std::shared_ptr<FrameMeasuresJob::Result const> const result = job.GetResult();
     ASSERT_TRUE(result);
     EXPECT_FALSE(result->problem);
     EXPECT_TRUE(result->whole);
@@ -457,7 +460,7 @@ TEST(WorkbenchFrameMeasuresJob, WhatWasMeasuredStaysWhenReadingFails)
     Told told;
     FrameMeasuresJob job([] { return std::make_unique<Throwing>(); }, told.Listener());
     ASSERT_TRUE(told.WaitFor([&] { return told.ends > 0; }));
-    auto const result = job.GetResult();
+    std::shared_ptr<FrameMeasuresJob::Result const> const result = job.GetResult();
     ASSERT_TRUE(result);
     EXPECT_FALSE(result->problem);
     EXPECT_FALSE(result->whole);
@@ -475,7 +478,7 @@ TEST(WorkbenchFrameMeasuresJob, WhatWasMeasuredStaysWhenReadingFails)
 TEST(WorkbenchFrameStore, ARowTakesSixteenBytes)
 {
     FrameStore store;
-    auto const before = store.Memory();
+    std::size_t const before = store.Memory();
     std::vector<FrameMeasures> rows(1000);
     for (std::size_t i = 0; i < rows.size(); ++i)
         rows[i].peak = static_cast<float>(i);

@@ -1,13 +1,12 @@
 // Analysis frames as a table's rows, and the user's choice among them.
 
-#include "logic/FrameTable.h"
-
-#include "table_StandIn.h"
-
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <limits>
+
+#include "logic/FrameTable.h"
+#include "table_StandIn.h"
 
 namespace
 {
@@ -44,7 +43,7 @@ std::vector<TableRow> Shown(std::shared_ptr<FrameTable> const & table, TableFilt
     TableModel model;
     TableLooks looks;
     looks.columns.resize(FrameTable::column_count);
-    for (auto & column : looks.columns)
+    for (TableColumn & column : looks.columns)
         column.format = {NumberStyle::fixed, 1, false, UnitPlace::nowhere, L""};
     model.SetLooks(looks);
     model.SetSource(table);
@@ -60,7 +59,7 @@ std::vector<TableRow> Shown(std::shared_ptr<FrameTable> const & table, TableFilt
 
 TEST(WorkbenchFrameTable, CellsAreNumbersOfTheColumnsUnits)
 {
-    auto const store = Store();
+    std::shared_ptr<FrameStore> const store = Store();
     FrameTable const table(store);
     EXPECT_EQ(table.RowCount(), 3u);
     EXPECT_DOUBLE_EQ(NumberAt(table, 2, FrameTable::column_time), 0.002);
@@ -98,7 +97,7 @@ TEST(WorkbenchFrameTable, WhatIsNotThereIsNotRead)
 TEST(WorkbenchFrameFilter, RangesAreChosenByComparisonOrEnds)
 {
     auto const range = [](wchar_t const * text, wchar_t sign = L'.') {
-        auto const filter = ParseFrameFilter(text, FrameTable::column_peak, sign).rows;
+        TableFilter const filter = ParseFrameFilter(text, FrameTable::column_peak, sign).rows;
         EXPECT_EQ(filter.ranges.size(), 1u) << text;
         EXPECT_TRUE(filter.texts.empty());
         EXPECT_EQ(filter.ranges.front().column, FrameTable::column_peak);
@@ -120,9 +119,9 @@ TEST(WorkbenchFrameFilter, WhatIsNoRangeIsAPartOfTheText)
 {
     EXPECT_TRUE(ParseFrameFilter(L"", FrameTable::column_peak, L'.').rows.IsEmpty());
     EXPECT_TRUE(ParseFrameFilter(L"  ", FrameTable::column_time, L'.').rows.IsEmpty());
-    for (auto const * const text : {L"-20", L"x", L"1.5"})
+    for (wchar_t const * const text : {L"-20", L"x", L"1.5"})
     {
-        auto const filter = ParseFrameFilter(text, FrameTable::column_rms, L'.');
+        FrameFilter const filter = ParseFrameFilter(text, FrameTable::column_rms, L'.');
         EXPECT_FALSE(filter.noNumber) << text;
         EXPECT_TRUE(filter.rows.ranges.empty()) << text;
         ASSERT_EQ(filter.rows.texts.size(), 1u) << text;
@@ -138,7 +137,7 @@ TEST(WorkbenchFrameFilter, WhatIsNoNumberIsToldAndLetsAllThrough)
         {L"a .. 2", L"a"}, {L"1..b", L"b"}, {L"1..2..3", L"2..3"}, {L"> 1 2", L"1 2"}, {L"> inf", L"inf"}};
     for (auto const & [text, part] : wrong)
     {
-        auto const filter = ParseFrameFilter(text, FrameTable::column_rms, L'.');
+        FrameFilter const filter = ParseFrameFilter(text, FrameTable::column_rms, L'.');
         EXPECT_TRUE(filter.rows.IsEmpty()) << text;
         ASSERT_TRUE(filter.noNumber) << text;
         EXPECT_EQ(*filter.noNumber, part) << text;

@@ -1,14 +1,14 @@
 // Levels against values that are worked out by hand, and numbers as text.
 
-#include "logic/LevelMeter.h"
-#include "logic/TextFormat.h"
-
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <limits>
 #include <numbers>
 #include <vector>
+
+#include "logic/LevelMeter.h"
+#include "logic/TextFormat.h"
 
 namespace
 {
@@ -36,28 +36,28 @@ std::vector<double> Sine(double amplitude, int samplesPerPeriod, int periods)
 
 TEST(LevelMeter, GivesAFullScaleSineZeroPeakAndThreeDecibelsLessOfRms)
 {
-    auto const levels = LevelsOf(Sine(1.0, 48, 100));
+    Levels const levels = LevelsOf(Sine(1.0, 48, 100));
     EXPECT_NEAR(levels.peak, 0.0, 1e-9);
     EXPECT_NEAR(levels.rms, -3.010299957, 1e-9); // 20 log10(1 / sqrt 2)
 }
 
 TEST(LevelMeter, GivesASineOfATenthTwentyDecibelsLess)
 {
-    auto const levels = LevelsOf(Sine(0.1, 48, 100));
+    Levels const levels = LevelsOf(Sine(0.1, 48, 100));
     EXPECT_NEAR(levels.peak, -20.0, 1e-9);
     EXPECT_NEAR(levels.rms, -23.010299957, 1e-9);
 }
 
 TEST(LevelMeter, GivesAFullScaleSquareWaveZeroOfBoth)
 {
-    auto const levels = LevelsOf({1.0, 1.0, -1.0, -1.0, 1.0, 1.0, -1.0, -1.0});
+    Levels const levels = LevelsOf({1.0, 1.0, -1.0, -1.0, 1.0, 1.0, -1.0, -1.0});
     EXPECT_DOUBLE_EQ(levels.peak, 0.0);
     EXPECT_DOUBLE_EQ(levels.rms, 0.0);
 }
 
 TEST(LevelMeter, CountsASteadyValue)
 {
-    auto const levels = LevelsOf(std::vector<double>(1000, -0.5));
+    Levels const levels = LevelsOf(std::vector<double>(1000, -0.5));
     EXPECT_NEAR(levels.peak, -6.020599913, 1e-9);
     EXPECT_NEAR(levels.rms, -6.020599913, 1e-9);
 }
@@ -77,14 +77,14 @@ TEST(LevelMeter, GivesMinusInfinityForSilenceAndForNothing)
 
 TEST(LevelMeter, GivesPositiveLevelsAboveFullScale)
 {
-    auto const levels = LevelsOf({2.0, -2.0});
+    Levels const levels = LevelsOf({2.0, -2.0});
     EXPECT_NEAR(levels.peak, 6.020599913, 1e-9);
     EXPECT_NEAR(levels.rms, 6.020599913, 1e-9);
 }
 
 TEST(LevelMeter, GivesTheSameForPortionsOfAnySize)
 {
-    auto const samples = Sine(0.7, 101, 50);
+    std::vector<double> const samples = Sine(0.7, 101, 50);
     LevelMeter meter;
     for (std::size_t i = 0; i < samples.size(); i += 7)
     {

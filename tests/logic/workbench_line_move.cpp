@@ -1,13 +1,13 @@
 // Lines of a list that are moved together.
 
-#include "logic/LineMove.h"
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <numeric>
 #include <random>
 #include <vector>
+
+#include "logic/LineMove.h"
 
 namespace
 {
@@ -60,7 +60,7 @@ TEST(LineMove, KeepsAllLinesWhateverIsMoved)
         std::ranges::shuffle(order, random);
         Lines seen;
         Lines moved;
-        for (auto const line : order)
+        for (int const line : order)
         {
             if (random() % 3 != 0)
             {
@@ -71,8 +71,8 @@ TEST(LineMove, KeepsAllLinesWhateverIsMoved)
                 }
             }
         }
-        auto const place = random() % (seen.size() + 1);
-        auto const result = MovedLines(order, seen, moved, place);
+        std::size_t const place = random() % (seen.size() + 1);
+        std::vector<int> const result = MovedLines(order, seen, moved, place);
         ASSERT_TRUE(std::ranges::is_permutation(result, order));
         if (!moved.empty())
         {

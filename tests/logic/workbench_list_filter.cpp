@@ -1,12 +1,12 @@
 // What the list of recordings shows while it is filtered, and the natural order of names.
 
-#include "logic/RecordingFilter.h"
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <string>
 #include <vector>
+
+#include "logic/RecordingFilter.h"
 
 using namespace workbench;
 
@@ -18,7 +18,7 @@ bool Matches(std::wstring const & words, std::wstring const & comment = {})
 {
     RecordingFilter filter;
     filter.words = words;
-    auto const text = SearchedText(std::filesystem::path(L"/Engines/Bench 3/Rec_10.wav"), comment);
+    std::wstring const text = SearchedText(std::filesystem::path(L"/Engines/Bench 3/Rec_10.wav"), comment);
     return FilterMatch(filter)({text, false, 0, State::sound});
 }
 } // namespace
@@ -95,11 +95,11 @@ TEST(NaturalTextOrder, NumbersByTheirValue)
 
 TEST(FileNames, HaveNoSignsOfPathsAndPatterns)
 {
-    for (auto const * const name : {L"a.wav", L"a b", L".a", L"\u00E4"})
+    for (wchar_t const * const name : {L"a.wav", L"a b", L".a", L"\u00E4"})
     {
         EXPECT_TRUE(IsFileName(name));
     }
-    for (auto const * const name :
+    for (wchar_t const * const name :
          {L"", L".", L"..", L"a.", L"a ", L"a/b", L"a\\b", L"C:a", L"a*", L"a?", L"\"", L"a\nb"})
     {
         EXPECT_FALSE(IsFileName(name));

@@ -1,7 +1,5 @@
 // Undoing and doing again what the user did to the list of recordings.
 
-#include "logic/ListHistory.h"
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -9,6 +7,8 @@
 #include <random>
 #include <string>
 #include <vector>
+
+#include "logic/ListHistory.h"
 
 using namespace workbench;
 
@@ -31,7 +31,7 @@ struct Model
 
     void Apply(ListStep const & step)
     {
-        for (auto const & change : step.notes)
+        for (NotesChange const & change : step.notes)
         {
             auto & present = notes[static_cast<std::size_t>(change.line)];
             EXPECT_EQ(present, change.before);
@@ -56,12 +56,12 @@ TEST(ListHistorySteps, AGestureIsOneStep)
     history.EndStep();
     EXPECT_TRUE(history.CanUndo());
     EXPECT_FALSE(history.CanRedo());
-    auto const undo = history.Undo();
+    std::optional<ListStep> const undo = history.Undo();
     ASSERT_TRUE(undo);
     EXPECT_EQ(undo->notes, (std::vector<NotesChange>{{1, Rated(3), Rated(0)}, {2, Rated(2), Rated(0)}}));
     EXPECT_FALSE(history.Undo());
     EXPECT_TRUE(history.CanRedo());
-    auto const redo = history.Redo();
+    std::optional<ListStep> const redo = history.Redo();
     ASSERT_TRUE(redo);
     EXPECT_EQ(redo->notes, (std::vector<NotesChange>{{1, Rated(0), Rated(3)}, {2, Rated(0), Rated(2)}}));
     EXPECT_FALSE(history.Redo());
@@ -117,7 +117,7 @@ TEST(ListHistorySteps, AStepThatIsTooLargeIsStillUndone)
     {
         history.Note(line, Rated(1), Rated(2));
     }
-    auto const undo = history.Undo();
+    std::optional<ListStep> const undo = history.Undo();
     ASSERT_TRUE(undo);
     EXPECT_EQ(undo->notes.size(), ListHistory::most_changes + 1);
     EXPECT_FALSE(history.CanUndo());
@@ -137,10 +137,10 @@ TEST(ListHistoryWalk, LeadsThroughTheStatesOfAPlainModel)
     auto const pick = [&random](int count) { return static_cast<int>(random() % static_cast<unsigned>(count)); };
     for (int i = 0; i < 5000; ++i)
     {
-        auto const what = pick(10);
+        int const what = pick(10);
         if (what < 3)
         {
-            auto const step = history.Undo();
+            std::optional<ListStep> const step = history.Undo();
             // No more than most_steps are kept, and no walk back is that long.
             ASSERT_EQ(step.has_value(), at > 0);
             if (step)
@@ -151,7 +151,7 @@ TEST(ListHistoryWalk, LeadsThroughTheStatesOfAPlainModel)
         }
         else if (what < 5)
         {
-            auto const step = history.Redo();
+            std::optional<ListStep> const step = history.Redo();
             ASSERT_EQ(step.has_value(), at + 1 < states.size());
             if (step)
             {
@@ -161,12 +161,12 @@ TEST(ListHistoryWalk, LeadsThroughTheStatesOfAPlainModel)
         }
         else
         {
-            auto const before = model;
-            for (auto changes = pick(4); changes > 0; --changes)
+            Model const before = model;
+            for (int changes = pick(4); changes > 0; --changes)
             {
-                auto const line = pick(lines);
-                auto & notes = model.notes[static_cast<std::size_t>(line)];
-                auto const old = notes;
+                int const line = pick(lines);
+                RecordingNotes & notes = model.notes[static_cast<std::size_t>(line)];
+                RecordingNotes const old = notes;
                 notes.checked = pick(2) == 0;
                 notes.rating = pick(3);
                 notes.comment = std::wstring(static_cast<std::size_t>(pick(2)), L'x');
@@ -174,7 +174,7 @@ TEST(ListHistoryWalk, LeadsThroughTheStatesOfAPlainModel)
             }
             if (pick(3) == 0)
             {
-                auto const old = model.order;
+                ListOrder const old = model.order;
                 std::ranges::shuffle(model.order.lines, random);
                 model.order.column = pick(4) - 1;
                 history.NoteOrder(old, model.order);

@@ -40,7 +40,7 @@ TEST(WorkbenchMainLayout, TheLeastAreaHoldsPanesAndStatus)
 
 TEST(WorkbenchMainLayout, ThePanesHaveWhatMarginsAndStatusLeave)
 {
-    auto const layout = LayOutMain(Needs(520, 478));
+    workbench::MainLayout const layout = LayOutMain(Needs(520, 478));
     EXPECT_EQ(layout.border, CRect(10, 8, 10, 34));
     EXPECT_EQ(layout.status, CRect(10, 450, 510, 470));
     EXPECT_TRUE(layout.frames.IsRectEmpty());
@@ -52,7 +52,7 @@ TEST(WorkbenchMainLayout, TheListKeepsAPartOfItsFirstHeightAndHalfTheRoomAtMost)
     EXPECT_EQ(LeastListPane(Needs(1020, 530)), CSize(300, 18 + 80));
     // Of 200 pixels there are 96 beside margins, status and measures.
     EXPECT_EQ(LeastListPane(Needs(320, 200)), CSize(150, 48));
-    auto needs = Needs(1020, 530);
+    MainLayoutNeeds needs = Needs(1020, 530);
     needs.framesWidth = 600;
     EXPECT_EQ(LeastListPane(needs).cx, 200);
     EXPECT_EQ(LeastListPane(Needs(5, 5)), CSize(0, 0));
@@ -60,9 +60,9 @@ TEST(WorkbenchMainLayout, TheListKeepsAPartOfItsFirstHeightAndHalfTheRoomAtMost)
 
 TEST(WorkbenchMainLayout, FramesTakeTheirWidthFromThePanes)
 {
-    auto needs = Needs(1020, 530);
+    MainLayoutNeeds needs = Needs(1020, 530);
     needs.framesWidth = 400;
-    auto const layout = LayOutMain(needs);
+    workbench::MainLayout const layout = LayOutMain(needs);
     EXPECT_EQ(layout.frames, CRect(610, 8, 1010, 496));
     EXPECT_EQ(layout.framesDivider, CRect(606, 8, 610, 496));
     EXPECT_EQ(layout.border, CRect(10, 8, 414, 34));
@@ -71,7 +71,7 @@ TEST(WorkbenchMainLayout, FramesTakeTheirWidthFromThePanes)
 
 TEST(WorkbenchMainLayout, ThePanesKeepTheirLeastWidthWhereThereIsAsMuch)
 {
-    auto needs = Needs(620, 530);
+    MainLayoutNeeds needs = Needs(620, 530);
     needs.framesWidth = 500;
     EXPECT_EQ(LayOutMain(needs).frames.Width(), 600 - 4 - 300);
     needs.client.cx = 310;
@@ -80,7 +80,7 @@ TEST(WorkbenchMainLayout, ThePanesKeepTheirLeastWidthWhereThereIsAsMuch)
 
 TEST(WorkbenchMainLayout, GrowthGoesToListWaveformAndSpectrogram)
 {
-    auto needs = Needs(520, LeastMainArea(Needs(0, 0), 0).cy);
+    MainLayoutNeeds needs = Needs(520, LeastMainArea(Needs(0, 0), 0).cy);
     EXPECT_EQ(DefaultPanes(needs).list, 118);
     EXPECT_EQ(DefaultPanes(needs).waveform, 138);
     EXPECT_EQ(DefaultPanes(needs).spectrogram, 128);
@@ -95,8 +95,8 @@ TEST(WorkbenchMainLayout, GrowthGoesToListWaveformAndSpectrogram)
 
 TEST(WorkbenchMainLayout, PlotsShareTabsWhereThereIsNoRoomForBoth)
 {
-    auto needs = Needs(520, LeastMainArea(Needs(0, 0), 0).cy - 1);
-    auto const heights = DefaultPanes(needs);
+    MainLayoutNeeds needs = Needs(520, LeastMainArea(Needs(0, 0), 0).cy - 1);
+    workbench::PaneHeights const heights = DefaultPanes(needs);
     EXPECT_TRUE(heights.plotsShareTabs);
     EXPECT_EQ(heights.waveform, heights.spectrogram);
     EXPECT_GT(heights.waveform, heights.list);
@@ -110,8 +110,8 @@ TEST(WorkbenchMainLayout, TheListSharesTheirTabsWhereThereIsNoRoomForOneOfThem)
 {
     // Margins, measures, three captions, two dividers, spacing and status, and below the list's and a plot's least
     // height.
-    auto needs = Needs(520, 16 + 58 + 3 * 18 + 2 * 4 + 6 + 20 + 100 + 120 - 1);
-    auto const heights = DefaultPanes(needs);
+    MainLayoutNeeds needs = Needs(520, 16 + 58 + 3 * 18 + 2 * 4 + 6 + 20 + 100 + 120 - 1);
+    workbench::PaneHeights const heights = DefaultPanes(needs);
     EXPECT_TRUE(heights.plotsShareTabs);
     EXPECT_TRUE(heights.listSharesTabs);
     EXPECT_EQ(heights.list, heights.waveform);
@@ -128,12 +128,12 @@ TEST(WorkbenchMainLayout, NothingOverlapsOrLiesOutsideWhateverTheSizes)
     auto const upTo = [&random](int most) { return static_cast<int>(random() % static_cast<unsigned>(most + 1)); };
     for (int round = 0; round < 20'000; ++round)
     {
-        auto needs = Needs(upTo(1500), 60 + upTo(900));
+        MainLayoutNeeds needs = Needs(upTo(1500), 60 + upTo(900));
         needs.framesWidth = upTo(1) * upTo(1600);
-        auto const layout = LayOutMain(needs);
+        workbench::MainLayout const layout = LayOutMain(needs);
         CRect const client(CPoint(0, 0), needs.client);
         CRect common;
-        for (auto const & rect : {layout.status, layout.framesDivider, layout.frames})
+        for (CRect const & rect : {layout.status, layout.framesDivider, layout.frames})
         {
             ASSERT_GE(rect.Width(), 0) << round;
             ASSERT_GE(rect.Height(), 0) << round;

@@ -1,8 +1,5 @@
 // Loudness, frequency and distortion of signals whose values are printed in the recommendations or known by formula.
 
-#include "logic/Loudness.h"
-#include "logic/ToneMeter.h"
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -12,6 +9,9 @@
 #include <numbers>
 #include <random>
 #include <vector>
+
+#include "logic/Loudness.h"
+#include "logic/ToneMeter.h"
 
 namespace
 {
@@ -45,8 +45,10 @@ template <class Meter> void Feed(Meter & meter, Signal const & signal, std::size
         std::size_t const now = std::min(lengths[piece++ % lengths.size()], frames - frame);
         samples.clear();
         for (std::size_t i = frame; i < frame + now; ++i)
+        {
             for (std::size_t channel = 0; channel < channels; ++channel)
                 samples.push_back(signal(i, channel));
+        }
         meter.Add(samples);
         frame += now;
     }

@@ -78,7 +78,7 @@ protected:
     std::vector<std::string> Others() const
     {
         std::vector<std::string> names;
-        for (auto const & entry : fs::directory_iterator(m_folder))
+        for (std::filesystem::directory_entry const & entry : fs::directory_iterator(m_folder))
         {
             if (entry.path() != m_file && entry.path().extension() != ".lock")
             {
@@ -115,8 +115,8 @@ TEST(WorkbenchNotes, ComeBackFromTheirTextAsTheyWere)
         {L"C:\\lone \xD83C surrogate.wav", {false, false, 2, L"\xDFB5"}},
         {L"C:\\tab\t.wav", {false, false, 0, L" "}},
     };
-    auto const notes = Named(all);
-    auto const reading = ReadNotes(NotesText(notes));
+    NotesByKey const notes = Named(all);
+    NotesReading const reading = ReadNotes(NotesText(notes));
     EXPECT_FALSE(reading.damaged);
     ASSERT_EQ(reading.notes.size(), all.size());
     for (auto const & [path, each] : all)
@@ -128,7 +128,7 @@ TEST(WorkbenchNotes, ComeBackFromTheirTextAsTheyWere)
 
 TEST(WorkbenchNotes, TakeNoRoomWhereTheySayNothing)
 {
-    auto notes = Named({{L"a", {}}, {L"b", Comment(L"x")}});
+    NotesByKey notes = Named({{L"a", {}}, {L"b", Comment(L"x")}});
     EXPECT_EQ(notes.size(), 1U);
     PutNotes(notes, NotesKey(L"b"), {L"b", {}});
     EXPECT_TRUE(notes.empty());
@@ -151,14 +151,15 @@ TEST(WorkbenchNotes, AreKeptByPathWhateverItsCase)
 
 TEST(WorkbenchNotes, OfADamagedTextWholeLinesAreRead)
 {
-    auto const text = NotesText(Named({{L"a", Comment(L"one")}, {L"b", Comment(L"two")}, {L"c", Comment(L"three")}}));
+    std::string const text =
+        NotesText(Named({{L"a", Comment(L"one")}, {L"b", Comment(L"two")}, {L"c", Comment(L"three")}}));
     // Cut off in the last line: its comment would be another one.
-    auto reading = ReadNotes(std::string_view(text).substr(0, text.size() - 3));
+    NotesReading reading = ReadNotes(std::string_view(text).substr(0, text.size() - 3));
     EXPECT_TRUE(reading.damaged);
     EXPECT_EQ(reading.notes.size(), 2U);
     EXPECT_EQ(NotesIn(reading.notes, L"b").comment, L"two");
     // Something in between.
-    auto spoiled = text;
+    std::string spoiled = text;
     spoiled.replace(spoiled.find("two"), 3, "tow");
     reading = ReadNotes(spoiled);
     EXPECT_TRUE(reading.damaged);
@@ -167,13 +168,13 @@ TEST(WorkbenchNotes, OfADamagedTextWholeLinesAreRead)
     // Without its head, or with that of a later version.
     EXPECT_TRUE(ReadNotes(std::string_view(text).substr(text.find('\n') + 1)).damaged);
     EXPECT_EQ(ReadNotes(std::string_view(text).substr(text.find('\n') + 1)).notes.size(), 3U);
-    auto later = text;
+    std::string later = text;
     later[later.find('\n') - 1] = '2';
     EXPECT_TRUE(ReadNotes(later).damaged);
     EXPECT_EQ(ReadNotes(later).notes.size(), 3U);
     // Other line ends, as some editors leave them, spoil nothing.
     std::string windows;
-    for (auto const c : text)
+    for (char const c : text)
     {
         windows += c == '\n' ? std::string("\r\n") : std::string(1, c);
     }
@@ -185,13 +186,13 @@ TEST(WorkbenchNotes, OfADamagedTextWholeLinesAreRead)
 TEST(WorkbenchNotes, NoTextIsTooStrange)
 {
     std::mt19937 random(7); // NOLINT: the same texts each time
-    auto const good = NotesText(Named({{L"a", Comment(L"\u00FC\U0001F3B5")}, {L"b", {true, true, 9, L"x"}}}));
+    std::string const good = NotesText(Named({{L"a", Comment(L"\u00FC\U0001F3B5")}, {L"b", {true, true, 9, L"x"}}}));
     for (int i = 0; i < 20'000; ++i)
     {
-        auto text = good;
-        for (auto changes = random() % 6; changes > 0; --changes)
+        std::string text = good;
+        for (unsigned int changes = random() % 6; changes > 0; --changes)
         {
-            auto const at = random() % text.size();
+            std::size_t const at = random() % text.size();
             switch (random() % 3)
             {
             case 0:
@@ -209,7 +210,7 @@ TEST(WorkbenchNotes, NoTextIsTooStrange)
                 break;
             }
         }
-        auto const reading = ReadNotes(text);
+        NotesReading const reading = ReadNotes(text);
         // Nothing is made up: what is read is what was written.
         for (auto const & [key, recording] : reading.notes)
         {
@@ -247,7 +248,7 @@ TEST_F(WorkbenchNotesStore, StoresByItselfAndAllChangesAtOnce)
     EXPECT_LE(store.Writes(), 2);
     EXPECT_EQ(ReadNotes(Text()).notes.begin()->second.notes.comment, L"999");
     // The same again is no change.
-    auto const writes = store.Writes();
+    int const writes = store.Writes();
     store.Set(Recording("a.wav"), Comment(L"999"));
     EXPECT_TRUE(store.Flush());
     EXPECT_EQ(store.Writes(), writes);
@@ -259,7 +260,7 @@ TEST_F(WorkbenchNotesStore, StoresByItselfAndAllChangesAtOnce)
 
 TEST_F(WorkbenchNotesStore, MakesItsFolder)
 {
-    auto const file = m_folder / "company" / "program" / "Notes.txt";
+    std::filesystem::path const file = m_folder / "company" / "program" / "Notes.txt";
     {
         NotesStore store(file);
         store.Set(Recording("a.wav"), Comment(L"x"));
@@ -270,7 +271,7 @@ TEST_F(WorkbenchNotesStore, MakesItsFolder)
 
 TEST_F(WorkbenchNotesStore, KeepsADamagedFileAndReadsTheRest)
 {
-    auto good = NotesText(Named({{NotesPath(Recording("a.wav")), Comment(L"one")}}));
+    std::string good = NotesText(Named({{NotesPath(Recording("a.wav")), Comment(L"one")}}));
     Write(good + "something else\n");
     {
         NotesStore store(m_file);
@@ -353,12 +354,12 @@ TEST_F(WorkbenchNotesStore, ManyWritersAtOnceLoseNothing)
             }
         });
     }
-    for (auto & thread : threads)
+    for (std::thread & thread : threads)
     {
         thread.join();
     }
     EXPECT_EQ(failed, 0);
-    auto const reading = ReadNotes(Text());
+    NotesReading const reading = ReadNotes(Text());
     EXPECT_FALSE(reading.damaged);
     EXPECT_EQ(reading.notes.size(), static_cast<std::size_t>(writers * each));
     EXPECT_TRUE(Others().empty());
@@ -382,13 +383,13 @@ TEST_F(WorkbenchNotesStore, AFileIsWholeWheneverItIsRead)
             store.Flush();
         }
     });
-    auto wrong = 0;
+    int wrong = 0;
     for (int i = 0; i < 100; ++i)
     {
-        auto const text = ReadWholeFile(m_file);
+        std::optional<std::string> const text = ReadWholeFile(m_file);
         if (text && !text->empty())
         {
-            auto const reading = ReadNotes(*text);
+            NotesReading const reading = ReadNotes(*text);
             wrong += reading.damaged || reading.notes.size() != 500 ? 1 : 0;
         }
     }
@@ -404,7 +405,7 @@ TEST_F(WorkbenchNotesStore, ALeftOverDraftIsNoHindrance)
         store.Set(Recording("a.wav"), Comment(L"old"));
     }
     // A program was ended while it wrote.
-    auto draft = m_file;
+    fs::path draft = m_file;
     draft += ".new";
     std::ofstream(draft, std::ios::binary) << "Instrument Workbench notes 1\nhalf a li";
     {

@@ -1,5 +1,8 @@
 // Ending the program while it stores what the user says.
 
+#include <sys/wait.h>
+#include <unistd.h>
+
 #include <gtest/gtest.h>
 
 #include <csignal>
@@ -8,9 +11,6 @@
 #include <iterator>
 #include <random>
 #include <string>
-
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include "logic/NotesStore.h"
 
@@ -53,10 +53,10 @@ fs::path Recording(int i)
 
 TEST(WorkbenchNotesKilled, TheFileIsAnOldOrTheNewOneAtEveryMoment)
 {
-    auto const folder = fs::temp_directory_path() / "workbench_notes_killed";
+    std::filesystem::path const folder = fs::temp_directory_path() / "workbench_notes_killed";
     fs::remove_all(folder);
     fs::create_directories(folder);
-    auto const file = folder / "Notes.txt";
+    std::filesystem::path const file = folder / "Notes.txt";
     std::mt19937 random(11); // NOLINT: the same moments each time
     for (int kill = 0; kill < kills; ++kill)
     {
@@ -85,10 +85,10 @@ TEST(WorkbenchNotesKilled, TheFileIsAnOldOrTheNewOneAtEveryMoment)
         ::close(ends[0]);
 
         std::ifstream stream(file, std::ios::binary);
-        auto const reading = ReadNotes(std::string(std::istreambuf_iterator<char>(stream), {}));
+        NotesReading const reading = ReadNotes(std::string(std::istreambuf_iterator<char>(stream), {}));
         EXPECT_FALSE(reading.damaged);
         ASSERT_EQ(reading.notes.size(), static_cast<std::size_t>(recordings));
-        auto const comment = reading.notes.begin()->second.notes.comment;
+        std::wstring const comment = reading.notes.begin()->second.notes.comment;
         EXPECT_TRUE(comment == std::to_wstring(stored) || comment == std::to_wstring(stored + 1)) << stored;
         for (auto const & [key, recording] : reading.notes)
         {

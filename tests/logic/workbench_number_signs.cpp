@@ -1,7 +1,5 @@
 // Numbers with the signs of the user's region.
 
-#include "logic/NumberSigns.h"
-
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -10,8 +8,9 @@
 
 #include "logic/Axis.h"
 #include "logic/CursorReading.h"
-#include "logic/TableText.h"
+#include "logic/NumberSigns.h"
 #include "logic/TextFormat.h"
+#include "logic/TextTable.h"
 
 namespace
 {
@@ -98,10 +97,10 @@ TEST(WorkbenchNumberSigns, TheSegmentDisplaysKeepThePointThatTheirCharactersHave
 
 TEST(WorkbenchNumberSigns, AreTakenAwayAgain)
 {
-    for (auto const & signs : {english, german, french, indian, odd})
+    for (NumberSigns const & signs : {english, german, french, indian, odd})
     {
         SignsScope const scope(signs);
-        for (auto const * const plain : {L"-1234567.5", L"0.25", L"-", L"12", L"1:02.500", L"-0.1", L""})
+        for (wchar_t const * const plain : {L"-1234567.5", L"0.25", L"-", L"12", L"1:02.500", L"-0.1", L""})
         {
             EXPECT_EQ(WithoutSigns(WithSigns(plain, true)), plain);
         }
@@ -110,7 +109,7 @@ TEST(WorkbenchNumberSigns, AreTakenAwayAgain)
 
 TEST(WorkbenchNumberSigns, CsvHasAPointInEveryRegion)
 {
-    for (auto const & signs : {english, german, french, odd})
+    for (NumberSigns const & signs : {english, german, french, odd})
     {
         SignsScope const scope(signs);
         TextTable table;
@@ -124,7 +123,7 @@ TEST(WorkbenchNumberSigns, CsvHasAPointInEveryRegion)
 
 TEST(WorkbenchNumberSigns, BothFormsAreReadBack)
 {
-    for (auto const & signs : {english, german, french, odd})
+    for (NumberSigns const & signs : {english, german, french, odd})
     {
         EXPECT_EQ(Typed(signs, L"-12.5"), -12.5);
         EXPECT_EQ(Typed(signs, L" 50 "), 50.0);
@@ -141,9 +140,9 @@ TEST(WorkbenchNumberSigns, BothFormsAreReadBack)
 
 TEST(WorkbenchNumberSigns, WhatIsNoNumberIsNone)
 {
-    for (auto const & signs : {english, german, french, odd})
+    for (NumberSigns const & signs : {english, german, french, odd})
     {
-        for (auto const * const text :
+        for (wchar_t const * const text :
              {L"", L" ", L"-", L"a", L"1a", L"1..2", L"1 2", L"--1", L"1-", L"0x10", L"1e5", L"."})
         {
             EXPECT_EQ(Typed(signs, text), std::nullopt) << text;

@@ -1,12 +1,12 @@
 // What an audio device gets of a recording.
 
-#include "logic/PlaybackStream.h"
-#include "logic/Player.h"
-#include "workbench_WavBuilder.h"
-
 #include <gtest/gtest.h>
 
 #include <vector>
+
+#include "logic/PlaybackStream.h"
+#include "logic/Player.h"
+#include "workbench_WavBuilder.h"
 
 namespace
 {
@@ -39,7 +39,7 @@ Samples ReadAll(PlaybackStream & stream, std::size_t room)
 TEST(PlaybackStream, GivesTheSamplesAsTheyAre)
 {
     Samples const samples = {0, 1, -1, 32767, -32768, 12345};
-    auto const bytes = Recording(1, samples);
+    wav::Bytes const bytes = Recording(1, samples);
     auto stream = PlaybackStream::Open(wav::Source(bytes), {});
     ASSERT_TRUE(stream);
     EXPECT_EQ(stream->SampleRate(), 8000U);
@@ -52,7 +52,7 @@ TEST(PlaybackStream, GivesTheSamplesAsTheyAre)
 
 TEST(PlaybackStream, GivesTheFirstTwoOfMoreChannels)
 {
-    auto const bytes = Recording(3, {1, 2, 3, 11, 12, 13, 21, 22, 23});
+    wav::Bytes const bytes = Recording(3, {1, 2, 3, 11, 12, 13, 21, 22, 23});
     auto stream = PlaybackStream::Open(wav::Source(bytes), {});
     ASSERT_TRUE(stream);
     EXPECT_EQ(stream->Channels(), 2U);
@@ -61,7 +61,7 @@ TEST(PlaybackStream, GivesTheFirstTwoOfMoreChannels)
 
 TEST(PlaybackStream, OfAStretchGivesThatAlone)
 {
-    auto const bytes = Recording(1, {0, 1, 2, 3, 4, 5, 6, 7});
+    wav::Bytes const bytes = Recording(1, {0, 1, 2, 3, 4, 5, 6, 7});
     auto stream = PlaybackStream::Open(wav::Source(bytes), {2, 5});
     ASSERT_TRUE(stream);
     EXPECT_EQ(ReadAll(*stream, 2), (Samples{2, 3, 4}));
@@ -72,7 +72,7 @@ TEST(PlaybackStream, OfAStretchGivesThatAlone)
 
 TEST(PlaybackStream, LoopsWithoutAGap)
 {
-    auto const bytes = Recording(1, {0, 1, 2, 3, 4});
+    wav::Bytes const bytes = Recording(1, {0, 1, 2, 3, 4});
     auto stream = PlaybackStream::Open(wav::Source(bytes), {1, 4});
     ASSERT_TRUE(stream);
     stream->SetLoop(true);
@@ -86,7 +86,7 @@ TEST(PlaybackStream, LoopsWithoutAGap)
 
 TEST(PlaybackStream, TellsWhatIsHeard)
 {
-    auto const bytes = Recording(1, Samples(100));
+    wav::Bytes const bytes = Recording(1, Samples(100));
     auto stream = PlaybackStream::Open(wav::Source(bytes), {10, 20});
     ASSERT_TRUE(stream);
     EXPECT_EQ(stream->FrameAfter(0), 10U);
@@ -109,7 +109,7 @@ TEST(PlaybackStream, TellsWhatIsHeard)
 
 TEST(PlaybackStream, LimitsWhatTheGainTakesBeyondFullScale)
 {
-    auto const bytes = Recording(1, {100, -100, 20000, -20000});
+    wav::Bytes const bytes = Recording(1, {100, -100, 20000, -20000});
     auto stream = PlaybackStream::Open(wav::Source(bytes), {});
     ASSERT_TRUE(stream);
     stream->SetGain(2.0);
@@ -120,7 +120,7 @@ TEST(PlaybackStream, ThereIsNoneOfNothing)
 {
     EXPECT_FALSE(PlaybackStream::Open(std::unique_ptr<ByteSource>(), {}));
     EXPECT_FALSE(PlaybackStream::Open(std::filesystem::path("no such recording.wav"), {}));
-    auto const bytes = Recording(1, {1, 2, 3});
+    wav::Bytes const bytes = Recording(1, {1, 2, 3});
     EXPECT_FALSE(PlaybackStream::Open(wav::Source(bytes), {5, 9}));
 }
 
@@ -144,7 +144,7 @@ private:
 
 TEST(PlaybackStream, AFileThatShrinksEndsOrLoopsWhatIsLeft)
 {
-    auto const bytes = Recording(1, {1, 2, 3, 4, 5, 6});
+    wav::Bytes const bytes = Recording(1, {1, 2, 3, 4, 5, 6});
     std::uint64_t size = bytes.size();
     auto stream = PlaybackStream::Open(std::make_unique<Shrinking>(bytes, size), {});
     ASSERT_TRUE(stream);
@@ -215,99 +215,99 @@ protected:
     PlayerTest()
     {
         for (int i = 0; i < 10000; ++i)
-            samples.push_back(static_cast<std::int16_t>(i));
-        bytes = Recording(1, samples);
+            m_samples.push_back(static_cast<std::int16_t>(i));
+        m_bytes = Recording(1, m_samples);
     }
 
-    PlayStart Play(FrameRange const & stretch) { return player.Play(wav::Source(bytes), stretch); }
+    PlayStart Play(FrameRange const & stretch) { return m_player.Play(wav::Source(m_bytes), stretch); }
 
-    Samples samples;
-    wav::Bytes bytes;
-    FakeDevice::State device;
-    Player player{[this] { return std::make_unique<FakeDevice>(device); }};
+    Samples m_samples;
+    wav::Bytes m_bytes;
+    FakeDevice::State m_device;
+    Player m_player{[this] { return std::make_unique<FakeDevice>(m_device); }};
 };
 
 TEST_F(PlayerTest, PlaysFromTheFirstToTheLastAndEnds)
 {
     ASSERT_EQ(Play({}), PlayStart::playing);
-    EXPECT_EQ(device.rate, 8000U);
-    EXPECT_TRUE(player.IsPlaying());
-    EXPECT_EQ(player.Position(), 0U);
-    for (int i = 0; i < 100 && player.IsPlaying(); ++i)
+    EXPECT_EQ(m_device.rate, 8000U);
+    EXPECT_TRUE(m_player.IsPlaying());
+    EXPECT_EQ(m_player.Position(), 0U);
+    for (int i = 0; i < 100 && m_player.IsPlaying(); ++i)
     {
-        device.Play(1);
-        EXPECT_EQ(player.Position().value_or(9999), std::min<std::uint64_t>(device.heard.size(), 9999));
-        player.Poll();
+        m_device.Play(1);
+        EXPECT_EQ(m_player.Position().value_or(9999), std::min<std::uint64_t>(m_device.heard.size(), 9999));
+        m_player.Poll();
     }
-    EXPECT_EQ(device.heard, samples);
-    EXPECT_FALSE(player.IsPlaying());
-    EXPECT_FALSE(device.open);
-    EXPECT_FALSE(player.Position());
+    EXPECT_EQ(m_device.heard, m_samples);
+    EXPECT_FALSE(m_player.IsPlaying());
+    EXPECT_FALSE(m_device.open);
+    EXPECT_FALSE(m_player.Position());
 }
 
 TEST_F(PlayerTest, PausesAndGoesOn)
 {
     ASSERT_EQ(Play({100, 9000}), PlayStart::playing);
-    device.Play(1);
-    player.Poll();
-    player.Pause(true);
-    EXPECT_TRUE(player.IsPaused());
-    auto const heard = device.heard.size();
-    device.Play(5);
-    player.Poll();
-    EXPECT_EQ(device.heard.size(), heard);
-    EXPECT_TRUE(player.IsPlaying());
-    player.Pause(false);
-    for (int i = 0; i < 100 && player.IsPlaying(); ++i)
+    m_device.Play(1);
+    m_player.Poll();
+    m_player.Pause(true);
+    EXPECT_TRUE(m_player.IsPaused());
+    auto const heard = m_device.heard.size();
+    m_device.Play(5);
+    m_player.Poll();
+    EXPECT_EQ(m_device.heard.size(), heard);
+    EXPECT_TRUE(m_player.IsPlaying());
+    m_player.Pause(false);
+    for (int i = 0; i < 100 && m_player.IsPlaying(); ++i)
     {
-        device.Play(1);
-        player.Poll();
+        m_device.Play(1);
+        m_player.Poll();
     }
-    EXPECT_EQ(device.heard, Samples(samples.begin() + 100, samples.begin() + 9000));
+    EXPECT_EQ(m_device.heard, Samples(m_samples.begin() + 100, m_samples.begin() + 9000));
 }
 
 TEST_F(PlayerTest, LoopsUntilItIsStopped)
 {
-    player.SetLoop(true);
+    m_player.SetLoop(true);
     ASSERT_EQ(Play({0, 1000}), PlayStart::playing);
     for (int i = 0; i < 50; ++i)
     {
-        device.Play(1);
-        player.Poll();
-        ASSERT_LT(player.Position().value_or(9999), 1000U);
+        m_device.Play(1);
+        m_player.Poll();
+        ASSERT_LT(m_player.Position().value_or(9999), 1000U);
     }
-    EXPECT_TRUE(player.IsPlaying());
-    EXPECT_GT(device.heard.size(), 1000U);
-    player.Stop();
-    EXPECT_FALSE(player.IsPlaying());
-    EXPECT_FALSE(device.open);
+    EXPECT_TRUE(m_player.IsPlaying());
+    EXPECT_GT(m_device.heard.size(), 1000U);
+    m_player.Stop();
+    EXPECT_FALSE(m_player.IsPlaying());
+    EXPECT_FALSE(m_device.open);
 }
 
 TEST_F(PlayerTest, WithoutADeviceSaysSo)
 {
-    device.there = false;
+    m_device.there = false;
     EXPECT_EQ(Play({}), PlayStart::no_device);
-    EXPECT_FALSE(player.IsPlaying());
+    EXPECT_FALSE(m_player.IsPlaying());
     Player none([] { return std::unique_ptr<AudioDevice>(); });
-    EXPECT_EQ(none.Play(wav::Source(bytes), {}), PlayStart::no_device);
+    EXPECT_EQ(none.Play(wav::Source(m_bytes), {}), PlayStart::no_device);
 }
 
 TEST_F(PlayerTest, AnUnreadableRecordingIsNotPlayedAndTheFormerEnds)
 {
     ASSERT_EQ(Play({}), PlayStart::playing);
-    EXPECT_EQ(player.Play(std::filesystem::path("no such recording.wav"), {}), PlayStart::unreadable);
-    EXPECT_FALSE(player.IsPlaying());
-    player.Poll();
-    player.Pause(true);
-    player.Stop();
+    EXPECT_EQ(m_player.Play(std::filesystem::path("no such recording.wav"), {}), PlayStart::unreadable);
+    EXPECT_FALSE(m_player.IsPlaying());
+    m_player.Poll();
+    m_player.Pause(true);
+    m_player.Stop();
 }
 
 TEST_F(PlayerTest, GainCountsFromTheNextBlockOn)
 {
-    player.SetGain(2.0);
+    m_player.SetGain(2.0);
     ASSERT_EQ(Play({0, 10}), PlayStart::playing);
-    device.Play(1);
-    EXPECT_EQ(device.heard, (Samples{0, 2, 4, 6, 8, 10, 12, 14, 16, 18}));
+    m_device.Play(1);
+    EXPECT_EQ(m_device.heard, (Samples{0, 2, 4, 6, 8, 10, 12, 14, 16, 18}));
 }
 
 } // namespace

@@ -1,10 +1,10 @@
 // The colours of plots on the system's colours, light, dark and odd ones.
 
-#include "logic/ReadableColours.h"
-
 #include <gtest/gtest.h>
 
 #include <random>
+
+#include "logic/ReadableColours.h"
 
 namespace
 {
@@ -35,7 +35,7 @@ TEST(ReadableColours, LabelsAndProblemsCanBeReadOnEveryGround)
     std::mt19937 random(1);
     std::uniform_int_distribution<COLORREF> colours(0, white);
     auto const check = [](COLORREF ground, COLORREF text) {
-        auto const plot = PlotColoursOn(ground, text);
+        workbench::PlotColours const plot = PlotColoursOn(ground, text);
         EXPECT_GE(ContrastRatio(plot.label, ground), 4.5) << std::hex << ground << ' ' << text;
         EXPECT_GE(ContrastRatio(plot.problem, ground), 4.5) << std::hex << ground << ' ' << text;
         EXPECT_EQ(plot.ground, ground);
@@ -58,10 +58,10 @@ TEST(ReadableColours, AChosenRowIsSeenAndSoAreItsMarks)
     for (COLORREF const ground : {white, RGB(255, 251, 240), black, RGB(32, 32, 32), RGB(64, 64, 64), RGB(0, 0, 128)})
     {
         // Of the selection and of faces, light and dark.
-        for (auto const colour : {RGB(0, 0, 128), RGB(10, 36, 106), RGB(0, 120, 215), RGB(212, 208, 200),
-                                  RGB(240, 240, 240), RGB(60, 60, 60), black, white})
+        for (COLORREF const colour : {RGB(0, 0, 128), RGB(10, 36, 106), RGB(0, 120, 215), RGB(212, 208, 200),
+                                      RGB(240, 240, 240), RGB(60, 60, 60), black, white})
         {
-            auto const row = workbench::ChosenRowColours(colour, ground);
+            workbench::RowColours const row = workbench::ChosenRowColours(colour, ground);
             EXPECT_GE(ContrastRatio(row.background, ground), 1.7) << std::hex << colour << ' ' << ground;
             EXPECT_GE(ContrastRatio(row.background, row.text), 4.5) << std::hex << colour << ' ' << ground;
             EXPECT_GE(ContrastRatio(row.background, frame), 3.0) << std::hex << colour << ' ' << ground;
@@ -81,7 +81,7 @@ TEST(ReadableColours, LabelsHaveLessWeightThanTexts)
 {
     for (auto const & [ground, text] : {std::pair(white, black), std::pair(black, white)})
     {
-        auto const plot = PlotColoursOn(ground, text);
+        workbench::PlotColours const plot = PlotColoursOn(ground, text);
         EXPECT_LT(ContrastRatio(plot.label, ground), ContrastRatio(plot.text, ground));
         EXPECT_LT(ContrastRatio(plot.frame, ground), ContrastRatio(plot.label, ground));
     }

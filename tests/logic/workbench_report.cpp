@@ -1,9 +1,5 @@
 // The report about recordings, and the file that it is written into.
 
-#include "logic/NumberSigns.h"
-#include "logic/Report.h"
-#include "logic/SafeFile.h"
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -14,6 +10,10 @@
 #include <limits>
 #include <string>
 #include <vector>
+
+#include "logic/NumberSigns.h"
+#include "logic/Report.h"
+#include "logic/SafeFile.h"
 
 namespace
 {
@@ -38,7 +38,7 @@ std::string FaultOf(std::string_view page)
         }
         if (page[place] == '&')
         {
-            auto const end = page.find(';', place);
+            std::size_t const end = page.find(';', place);
             if (end == page.npos || end - place > 9)
             {
                 return "stray &";
@@ -49,8 +49,8 @@ std::string FaultOf(std::string_view page)
             ++place;
             continue;
         }
-        auto end = place + 1;
-        for (auto quoted = false; end < page.size() && (quoted || page[end] != '>'); ++end)
+        std::size_t end = place + 1;
+        for (bool quoted = false; end < page.size() && (quoted || page[end] != '>'); ++end)
         {
             quoted = quoted != (page[end] == '"');
             if (!quoted && page[end] == '=' && page[end + 1] != '"')
@@ -62,7 +62,7 @@ std::string FaultOf(std::string_view page)
                 return "stray <";
             }
         }
-        auto const tag = page.substr(place + 1, end - place - 1);
+        std::string_view const tag = page.substr(place + 1, end - place - 1);
         place = end + 1;
         auto const name = std::string(tag.substr(0, tag.find(' ')));
         if (name.starts_with('/'))
@@ -100,8 +100,8 @@ ReportedRecording Reported(std::wstring const & name)
 
 std::string PageOf(std::vector<ReportedRecording> const & recordings, std::vector<ReportPicture> const & pictures = {})
 {
-    auto page = ReportBegin({L"Report", L"en", L"1 May 2026"}, recordings);
-    for (auto const & recording : recordings)
+    std::string page = ReportBegin({L"Report", L"en", L"1 May 2026"}, recordings);
+    for (ReportedRecording const & recording : recordings)
     {
         page += ReportSection(recording, pictures);
     }
@@ -125,19 +125,19 @@ TEST(Report, TheCheckOfPagesFindsFaults)
 
 TEST(Report, HasAllMeasuresInATableAndASectionForEachRecording)
 {
-    auto const page = PageOf({Reported(L"a.wav"), Reported(L"b.wav")});
+    std::string const page = PageOf({Reported(L"a.wav"), Reported(L"b.wav")});
     EXPECT_EQ(FaultOf(page), "");
     EXPECT_TRUE(page.starts_with("<!DOCTYPE html>"));
     EXPECT_TRUE(Has(page, "<td>a.wav</td><td class=\"number\">0:02.000</td><td class=\"number\">2</td>"
                           "<td class=\"number\">48,000</td><td class=\"number\">-1.5</td>"));
     EXPECT_TRUE(Has(page, "<h2>b.wav</h2>"));
     EXPECT_TRUE(Has(page, "-23.0 LUFS"));
-    for (auto const * const style : {"color-scheme: light dark", "@media print"})
+    for (char const * const style : {"color-scheme: light dark", "@media print"})
     {
         EXPECT_TRUE(Has(page, style));
     }
     // Nothing is fetched from elsewhere.
-    for (auto const * const link : {"http", "file:", "<link", "<script", "url("})
+    for (char const * const link : {"http", "file:", "<link", "<script", "url("})
     {
         EXPECT_FALSE(Has(page, link)) << link;
     }
@@ -145,9 +145,9 @@ TEST(Report, HasAllMeasuresInATableAndASectionForEachRecording)
 
 TEST(Report, BeginsWithDateFoldersAndNumber)
 {
-    auto other = Reported(L"c.wav");
+    ReportedRecording other = Reported(L"c.wav");
     other.file = L"/elsewhere/c.wav";
-    auto const page = PageOf({Reported(L"a.wav"), Reported(L"b.wav"), other});
+    std::string const page = PageOf({Reported(L"a.wav"), Reported(L"b.wav"), other});
     EXPECT_EQ(FaultOf(page), "");
     EXPECT_TRUE(Has(page, "<h1>Report</h1>\r\n<table>\r\n<tbody>\r\n"
                           "<tr><th scope=\"row\">Date</th><td>1 May 2026</td></tr>\r\n"
@@ -157,13 +157,13 @@ TEST(Report, BeginsWithDateFoldersAndNumber)
 
 TEST(Report, ASectionHasRatingAndComment)
 {
-    auto recording = Reported(L"a.wav");
+    ReportedRecording recording = Reported(L"a.wav");
     recording.rating = L"Good";
     recording.notes.comment = L"loud & clear";
-    auto const section = ReportSection(recording, {});
+    std::string const section = ReportSection(recording, {});
     EXPECT_TRUE(Has(section, "<tr><th scope=\"row\">Rating</th><td>Good</td></tr>"));
     EXPECT_TRUE(Has(section, "<tr><th scope=\"row\">Comment</th><td>loud &amp; clear</td></tr>"));
-    auto const none = ReportSection(Reported(L"a.wav"), {});
+    std::string const none = ReportSection(Reported(L"a.wav"), {});
     EXPECT_FALSE(Has(none, "Rating"));
     EXPECT_FALSE(Has(none, "Comment"));
 }
@@ -174,7 +174,7 @@ TEST(Report, NumbersHaveTheSignsOfTheRegion)
     signs.decimal = L",";
     signs.grouping = L".";
     SetNumberSigns(signs);
-    auto const page = PageOf({Reported(L"a.wav")});
+    std::string const page = PageOf({Reported(L"a.wav")});
     SetNumberSigns({});
     EXPECT_TRUE(Has(page, "<td class=\"number\">48.000</td><td class=\"number\">-1,5</td>"));
     EXPECT_TRUE(Has(page, "<td>48.000 Hz</td>"));
@@ -190,12 +190,12 @@ TEST(Report, AFileIsCalledAfterFolderAndDay)
 
 TEST(Report, WhatTheUserWroteIsText)
 {
-    auto recording = Reported(L"<b>\"R&B\".wav");
+    ReportedRecording recording = Reported(L"<b>\"R&B\".wav");
     recording.notes.comment = L"</td><script>alert(1)</script>\nsecond \u00E4\U0001F3B5";
     recording.rating = L"<Good>";
     recording.date = L"1 < 2";
     std::vector<ReportPicture> const pictures{{L"Wave \"form\" > 1", "png", 10, 5}};
-    auto const page = PageOf({recording}, pictures);
+    std::string const page = PageOf({recording}, pictures);
     EXPECT_EQ(FaultOf(page), "");
     EXPECT_FALSE(Has(page, "<script"));
     EXPECT_FALSE(Has(page, "<b>"));
@@ -207,11 +207,11 @@ TEST(Report, RecordingsWithoutMeasuresHaveTheirRow)
 {
     ReportedRecording unread;
     unread.file = L"/unread.wav";
-    auto unreadable = Reported(L"broken.wav");
+    ReportedRecording unreadable = Reported(L"broken.wav");
     auto analysis = std::make_shared<RecordingAnalysis>();
     analysis->problem = ReadProblem{ReadFault::cannot_be_opened};
     unreadable.analysis = analysis;
-    auto const page = PageOf({unread, unreadable});
+    std::string const page = PageOf({unread, unreadable});
     EXPECT_EQ(FaultOf(page), "");
     EXPECT_TRUE(Has(page, "<td>not read yet</td></tr>"));
     EXPECT_TRUE(Has(page, "<td>cannot be opened</td></tr>"));
@@ -221,7 +221,7 @@ TEST(Report, RecordingsWithoutMeasuresHaveTheirRow)
 TEST(Report, PicturesAreInThePage)
 {
     std::vector<ReportPicture> const pictures{{L"Waveform", "\x89PNG", 720, 180}, {L"Spectrogram", "", 1, 1}};
-    auto const page = PageOf({Reported(L"a.wav")}, pictures);
+    std::string const page = PageOf({Reported(L"a.wav")}, pictures);
     EXPECT_TRUE(Has(page, "<img src=\"data:image/png;base64,iVBORw==\" alt=\"Waveform: a.wav\" width=\"720\" "
                           "height=\"180\">"));
     EXPECT_FALSE(Has(page, "Spectrogram")) << "a picture that there is not";

@@ -1,11 +1,5 @@
 // The spectrogram against sines whose place is known, and against a plain transform of every window.
 
-#include "logic/Axis.h"
-#include "logic/Fft.h"
-#include "logic/Spectrogram.h"
-
-#include "workbench_WavBuilder.h"
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -15,12 +9,17 @@
 #include <numbers>
 #include <random>
 
+#include "logic/Axis.h"
+#include "logic/Fft.h"
+#include "logic/Spectrogram.h"
+#include "workbench_WavBuilder.h"
+
 namespace
 {
 
 using namespace workbench;
 
-constexpr auto half_turn = std::numbers::pi;
+constexpr double half_turn = std::numbers::pi;
 
 using Signal = std::function<double(std::uint64_t frame)>;
 
@@ -82,11 +81,11 @@ std::vector<std::vector<double>> PlainLevels(std::vector<std::vector<double>> co
     std::vector<std::vector<double>> levels;
     for (std::size_t start = 0; start < frames; start += window / 2)
     {
-        auto & column = levels.emplace_back();
+        std::vector<double> & column = levels.emplace_back();
         for (std::size_t row = 0; row <= window / 2; ++row)
         {
-            auto highest = 0.0;
-            for (auto const & channel : channels)
+            double highest = 0.0;
+            for (std::vector<double> const & channel : channels)
             {
                 std::complex<double> sum;
                 for (std::size_t i = 0; i < window; ++i)
@@ -112,7 +111,7 @@ std::vector<std::vector<double>> PlainLevels(std::vector<std::vector<double>> co
 /// Whether an entry belongs to a level, which may be so close to a boundary that either side is right.
 bool Matches(int entry, double level)
 {
-    auto const closeness = 0.01;
+    double const closeness = 0.01;
     return entry >= ScaleEntry(level - closeness) && entry <= ScaleEntry(level + closeness);
 }
 
@@ -132,8 +131,8 @@ TEST(WorkbenchFft, IsTheSumOfTheDefinition)
             real[i] = static_cast<float>(random()) / 4294967296.0F - 0.5F;
             imaginary[i] = static_cast<float>(random()) / 4294967296.0F - 0.5F;
         }
-        auto const wasReal = real;
-        auto const wasImaginary = imaginary;
+        std::vector<float> const wasReal = real;
+        std::vector<float> const wasImaginary = imaginary;
         fft.Transform(real, imaginary);
         for (std::size_t k = 0; k < size; ++k)
         {
@@ -201,13 +200,13 @@ TEST(Spectrogram, ASinePeaksAtItsFrequency)
     {
         for (double const hertz : {200.0, 1000.0, 1234.5, 3500.0})
         {
-            auto const spectrogram = Build({Sine(hertz, rate)}, rate, rate / 2);
-            auto const width = spectrogram.Frequency(1);
+            Spectrogram const spectrogram = Build({Sine(hertz, rate)}, rate, rate / 2);
+            double const width = spectrogram.Frequency(1);
             ASSERT_NEAR(width, static_cast<double>(rate) / static_cast<double>(SpectrogramWindow(rate)), 1e-9);
             // The windows of the first column and of the last two reach beyond the recording.
             for (std::size_t column = 1; column + 2 < spectrogram.Columns(); ++column)
             {
-                auto const peak = PeakRow(spectrogram, column);
+                std::size_t const peak = PeakRow(spectrogram, column);
                 ASSERT_NEAR(spectrogram.Frequency(peak), hertz, width) << rate << " Hz, column " << column;
                 ASSERT_EQ(spectrogram.Entry(column, peak), 31) << "full scale";
                 for (std::size_t row = 0; row < spectrogram.Rows(); ++row)
@@ -224,7 +223,7 @@ TEST(Spectrogram, ASinePeaksAtItsFrequency)
 
 TEST(Spectrogram, FrequenciesReachFromZeroToHalfTheRate)
 {
-    auto const spectrogram = Build({Silence}, 48000, 4800);
+    Spectrogram const spectrogram = Build({Silence}, 48000, 4800);
     EXPECT_EQ(spectrogram.Rows(), 513u);
     EXPECT_EQ(spectrogram.Frequency(0), 0.0);
     EXPECT_NEAR(spectrogram.Frequency(512), 24000.0, 1e-9);
@@ -238,14 +237,14 @@ TEST(Spectrogram, LevelsAreThoseOfTheSine)
     for (auto const & [amplitude, entry] :
          {std::pair(1.0, 31), {0.5, 29}, {0.1, 25}, {0.01, 18}, {0.001, 12}, {1e-5, 0}})
     {
-        auto const spectrogram = Build({Sine(64 * 48000.0 / 1024, 48000, amplitude)}, 48000, 20000);
+        Spectrogram const spectrogram = Build({Sine(64 * 48000.0 / 1024, 48000, amplitude)}, 48000, 20000);
         EXPECT_EQ(spectrogram.Entry(10, 64), entry) << amplitude;
     }
 }
 
 TEST(Spectrogram, SilenceIsTheLowestEntryEverywhere)
 {
-    auto const spectrogram = Build({Silence, Silence}, 44100, 50000);
+    Spectrogram const spectrogram = Build({Silence, Silence}, 44100, 50000);
     ASSERT_EQ(spectrogram.Columns(), 98u);
     for (std::size_t column = 0; column < spectrogram.Columns(); ++column)
     {
@@ -270,8 +269,8 @@ TEST(Spectrogram, EveryPointIsThatOfAPlainTransform)
             }
             SpectrogramBuilder builder(channels, 3200, frames);
             builder.Add(samples);
-            auto const spectrogram = builder.Finish();
-            auto const levels = PlainLevels(parts, 64, frames);
+            Spectrogram const spectrogram = builder.Finish();
+            std::vector<std::vector<double>> const levels = PlainLevels(parts, 64, frames);
             ASSERT_EQ(spectrogram.Columns(), levels.size());
             ASSERT_EQ(spectrogram.Rows(), 33u);
             for (std::size_t column = 0; column < levels.size(); ++column)
@@ -293,22 +292,22 @@ TEST(Spectrogram, AColumnOfALongRecordingShowsTheLoudestOfItsWindows)
     constexpr std::uint64_t frames = 160'000;
     std::mt19937 random(9);
     std::vector<double> samples(frames);
-    for (auto & sample : samples)
+    for (double & sample : samples)
     {
         sample = static_cast<double>(random()) / 2147483648.0 - 1.0;
     }
     SpectrogramBuilder builder(1, 3200, frames);
     builder.Add(samples);
-    auto const spectrogram = builder.Finish();
+    Spectrogram const spectrogram = builder.Finish();
     ASSERT_EQ(spectrogram.Columns(), 2048u);
-    auto const levels = PlainLevels({samples}, 64, frames);
+    std::vector<std::vector<double>> const levels = PlainLevels({samples}, 64, frames);
     ASSERT_EQ(levels.size(), 5000u);
     for (std::size_t row = 0; row < 33; ++row)
     {
         std::vector<double> expected(2048, -500.0);
         for (std::size_t window = 0; window < levels.size(); ++window)
         {
-            auto & level = expected[window * 2048 / 5000];
+            double & level = expected[window * 2048 / 5000];
             level = std::max(level, levels[window][row]);
         }
         for (std::size_t column = 0; column < 2048; ++column)
@@ -337,9 +336,9 @@ TEST(Spectrogram, AClickInALongRecordingIsNotLost)
         }
         builder.Add(block);
     }
-    auto const spectrogram = builder.Finish();
+    Spectrogram const spectrogram = builder.Finish();
     ASSERT_EQ(spectrogram.Columns(), Spectrogram::maximum_columns);
-    auto const column = spectrogram.ColumnOfFrame(click);
+    std::size_t const column = spectrogram.ColumnOfFrame(click);
     EXPECT_EQ(column, click / 512 * 2048 / (frames / 512 + 1));
     EXPECT_GT(spectrogram.Entry(column, 300), 10);
     EXPECT_EQ(HighestEntry(spectrogram, column + 3), 0);
@@ -349,7 +348,7 @@ TEST(Spectrogram, AClickInALongRecordingIsNotLost)
 TEST(Spectrogram, TheWholeRecordingIsCovered)
 {
     auto const atTheEnd = [](std::uint64_t frame) { return frame >= 99'900 ? Sine(5000, 48000)(frame) : 0.0; };
-    auto const spectrogram = Build({atTheEnd}, 48000, 100'000);
+    Spectrogram const spectrogram = Build({atTheEnd}, 48000, 100'000);
     EXPECT_GT(HighestEntry(spectrogram, spectrogram.Columns() - 1), 20);
     EXPECT_EQ(HighestEntry(spectrogram, spectrogram.Columns() - 4), 0);
     auto const atTheStart = [](std::uint64_t frame) { return frame < 100 ? Sine(5000, 48000)(frame) : 0.0; };
@@ -360,7 +359,7 @@ TEST(Spectrogram, ARecordingShorterThanAWindowIsOneColumn)
 {
     for (std::uint64_t const frames : {1u, 2u, 100u, 511u, 512u})
     {
-        auto const spectrogram = Build({[](std::uint64_t) { return 1.0; }}, 48000, frames);
+        Spectrogram const spectrogram = Build({[](std::uint64_t) { return 1.0; }}, 48000, frames);
         ASSERT_EQ(spectrogram.Columns(), 1u) << frames;
         EXPECT_EQ(spectrogram.Frames(), frames);
         EXPECT_GT(HighestEntry(spectrogram, 0), 10) << frames;
@@ -371,7 +370,7 @@ TEST(Spectrogram, ARecordingShorterThanAWindowIsOneColumn)
 
 TEST(Spectrogram, BothChannelsAreSeen)
 {
-    auto const spectrogram = Build({Sine(1500, 48000), Sine(6000, 48000)}, 48000, 48000);
+    Spectrogram const spectrogram = Build({Sine(1500, 48000), Sine(6000, 48000)}, 48000, 48000);
     auto const row = [](double hertz) { return static_cast<std::size_t>(std::lround(hertz * 1024 / 48000)); };
     for (std::size_t column = 1; column + 1 < spectrogram.Columns(); ++column)
     {
@@ -383,8 +382,8 @@ TEST(Spectrogram, BothChannelsAreSeen)
 
 TEST(Spectrogram, OppositeChannelsDoNotCancel)
 {
-    auto const sine = Sine(3000, 48000);
-    auto const spectrogram = Build({sine, [=](std::uint64_t frame) { return -sine(frame); }}, 48000, 10000);
+    Signal const sine = Sine(3000, 48000);
+    Spectrogram const spectrogram = Build({sine, [=](std::uint64_t frame) { return -sine(frame); }}, 48000, 10000);
     EXPECT_EQ(spectrogram.Entry(5, 64), 31);
 }
 
@@ -400,7 +399,7 @@ TEST(Spectrogram, OfManyChannelsTheFirst32Count)
 
 TEST(Spectrogram, WithoutSampleRateOrSamplesThereIsNothing)
 {
-    for (auto const & empty : {Build({Sine(1, 10)}, 0, 1000), Build({}, 48000, 0), Spectrogram()})
+    for (Spectrogram const & empty : {Build({Sine(1, 10)}, 0, 1000), Build({}, 48000, 0), Spectrogram()})
     {
         EXPECT_EQ(empty.Columns(), 0u);
         EXPECT_EQ(empty.Rows(), 0u);
@@ -413,25 +412,26 @@ TEST(Spectrogram, WithoutSampleRateOrSamplesThereIsNothing)
 
 TEST(Spectrogram, OddSampleRatesAreTakenAsTheyAre)
 {
-    auto const slow = Build({Sine(0.25, 1)}, 1, 1000);
+    Spectrogram const slow = Build({Sine(0.25, 1)}, 1, 1000);
     EXPECT_NEAR(slow.Frequency(slow.Rows() - 1), 0.5, 1e-9);
     EXPECT_NEAR(slow.Frequency(PeakRow(slow, 10)), 0.25, 1.0 / 64);
-    auto const fast = Build({Sine(1e9, 0xFFFFFFFF)}, 0xFFFFFFFF, 100'000);
+    Spectrogram const fast = Build({Sine(1e9, 0xFFFFFFFF)}, 0xFFFFFFFF, 100'000);
     EXPECT_NEAR(fast.Frequency(PeakRow(fast, 10)), 1e9, 4294967295.0 / 8192);
     EXPECT_EQ(fast.SampleRate(), 0xFFFFFFFFu);
 }
 
 TEST(Spectrogram, SamplesMayComeInAnyPortions)
 {
-    auto const samples = Samples({Sine(440, 8000), Sine(1000, 8000, 0.1)}, 10'000);
-    auto const whole = Build({Sine(440, 8000), Sine(1000, 8000, 0.1)}, 8000, 10'000).Picture(200, 129);
+    std::vector<double> const samples = Samples({Sine(440, 8000), Sine(1000, 8000, 0.1)}, 10'000);
+    std::vector<std::uint8_t> const whole =
+        Build({Sine(440, 8000), Sine(1000, 8000, 0.1)}, 8000, 10'000).Picture(200, 129);
     for (std::size_t const portion : {2u, 6u, 1000u, 1024u})
     {
         SpectrogramBuilder builder(2, 8000, 10'000);
         std::span<double const> left(samples);
         while (!left.empty())
         {
-            auto const count = std::min(portion, left.size());
+            std::size_t const count = std::min(portion, left.size());
             builder.Add(left.first(count));
             left = left.subspan(count);
         }
@@ -441,7 +441,7 @@ TEST(Spectrogram, SamplesMayComeInAnyPortions)
 
 TEST(Spectrogram, SamplesBeyondTheAnnouncedAndPartsOfFramesAreLeftOut)
 {
-    auto const samples = Samples({Sine(1000, 8000), Silence}, 2000);
+    std::vector<double> const samples = Samples({Sine(1000, 8000), Silence}, 2000);
     SpectrogramBuilder exact(2, 8000, 1000);
     exact.Add(std::span(samples).first(2000));
     SpectrogramBuilder more(2, 8000, 1000);
@@ -455,7 +455,7 @@ TEST(Spectrogram, MissingSamplesAreSilent)
 {
     SpectrogramBuilder builder(1, 8000, 8000);
     builder.Add(Samples({Sine(1000, 8000)}, 4000));
-    auto const spectrogram = builder.Finish();
+    Spectrogram const spectrogram = builder.Finish();
     ASSERT_EQ(spectrogram.Columns(), 63u);
     EXPECT_EQ(HighestEntry(spectrogram, 30), 31);
     EXPECT_EQ(HighestEntry(spectrogram, 33), 0);
@@ -465,12 +465,12 @@ TEST(Spectrogram, MissingSamplesAreSilent)
 TEST(Spectrogram, APictureHasTimeToTheRightAndFrequencyUpwards)
 {
     auto const second = [](std::uint64_t frame) { return frame >= 24000 ? Sine(12000, 48000)(frame) : 0.0; };
-    auto const spectrogram = Build({second}, 48000, 48000);
+    Spectrogram const spectrogram = Build({second}, 48000, 48000);
     for (auto const & size : {std::pair<std::size_t, std::size_t>(40, 20), {94, 513}, {300, 1000}, {1, 1}})
     {
-        auto const width = size.first;
-        auto const height = size.second;
-        auto const picture = spectrogram.Picture(width, height);
+        std::size_t const width = size.first;
+        std::size_t const height = size.second;
+        std::vector<std::uint8_t> const picture = spectrogram.Picture(width, height);
         ASSERT_EQ(picture.size(), width * height);
         // The highest entry between two heights, 0 at the top.
         auto const highest = [&](double x, double top, double bottom) {
@@ -499,8 +499,8 @@ TEST(Spectrogram, APictureHasTimeToTheRightAndFrequencyUpwards)
 TEST(Spectrogram, ASmallPictureKeepsThePeaks)
 {
     auto const click = [](std::uint64_t frame) { return frame == 5000 ? 1.0 : 0.0; };
-    auto const spectrogram = Build({click}, 8000, 800'000);
-    auto const picture = spectrogram.Picture(100, 4);
+    Spectrogram const spectrogram = Build({click}, 8000, 800'000);
+    std::vector<std::uint8_t> const picture = spectrogram.Picture(100, 4);
     EXPECT_GT(picture[0], 10);
     EXPECT_GT(picture[300], 10);
     EXPECT_EQ(picture[1], 0);
@@ -511,14 +511,14 @@ TEST(Spectrogram, APictureOfFewColumnsAndRowsHasPointsOfTheirSize)
 {
     // Three windows, of which the last one reaches beyond the end: frames 0 to 31, 32 to 63 and 64 to 79.
     auto const impulse = [](std::uint64_t frame) { return frame == 72 ? 1.0 : 0.0; };
-    auto const spectrogram = Build({impulse}, 3200, 80);
+    Spectrogram const spectrogram = Build({impulse}, 3200, 80);
     ASSERT_EQ(spectrogram.Columns(), 3u);
-    auto const picture = spectrogram.Picture(80, 33);
+    std::vector<std::uint8_t> const picture = spectrogram.Picture(80, 33);
     for (std::size_t x = 0; x < 80; ++x)
     {
         EXPECT_EQ(picture[std::size_t{16} * 80 + x], spectrogram.Entry(x / 32, 16)) << x;
     }
-    auto const tall = spectrogram.Picture(3, 66);
+    std::vector<std::uint8_t> const tall = spectrogram.Picture(3, 66);
     for (std::size_t y = 0; y < 66; ++y)
     {
         EXPECT_EQ(tall[y * 3 + 2], spectrogram.Entry(2, (65 - y) / 2)) << y;
@@ -530,7 +530,7 @@ TEST(Spectrogram, APointOfAPictureIsTheHighestOfThoseThatFallOnIt)
     // Whole windows, so that columns and frames share their edges.
     constexpr std::uint64_t frames = 2880;
     std::mt19937 random(11);
-    auto const spectrogram = Build(
+    Spectrogram const spectrogram = Build(
         {[&](std::uint64_t) { return std::pow(static_cast<double>(random()) / 4294967296.0, 20); }}, 3200, frames);
     ASSERT_EQ(spectrogram.Columns(), 90u);
     ASSERT_EQ(spectrogram.Rows(), 33u);
@@ -545,7 +545,7 @@ TEST(Spectrogram, APointOfAPictureIsTheHighestOfThoseThatFallOnIt)
     {
         for (std::size_t const height : {1u, 2u, 5u, 16u, 33u, 50u})
         {
-            auto const picture = spectrogram.Picture(width, height);
+            std::vector<std::uint8_t> const picture = spectrogram.Picture(width, height);
             for (std::size_t x = 0; x < width; ++x)
             {
                 for (std::size_t y = 0; y < height; ++y)
@@ -553,9 +553,9 @@ TEST(Spectrogram, APointOfAPictureIsTheHighestOfThoseThatFallOnIt)
                     auto const [firstColumn, lastColumn] = range(x, width, 90);
                     auto const [firstRow, lastRow] = range(height - 1 - y, height, 33);
                     int highest = 0;
-                    for (auto column = firstColumn; column <= lastColumn; ++column)
+                    for (std::size_t column = firstColumn; column <= lastColumn; ++column)
                     {
-                        for (auto row = firstRow; row <= lastRow; ++row)
+                        for (std::size_t row = firstRow; row <= lastRow; ++row)
                         {
                             highest = std::max(highest, spectrogram.Entry(column, row));
                         }
@@ -569,7 +569,7 @@ TEST(Spectrogram, APointOfAPictureIsTheHighestOfThoseThatFallOnIt)
 
 TEST(Spectrogram, OutsideThereIsTheLowestEntry)
 {
-    auto const spectrogram = Build({[](std::uint64_t) { return 1.0; }}, 48000, 5000);
+    Spectrogram const spectrogram = Build({[](std::uint64_t) { return 1.0; }}, 48000, 5000);
     EXPECT_EQ(spectrogram.Entry(1, 0), 31);
     EXPECT_EQ(spectrogram.Entry(0, spectrogram.Rows()), 0);
     EXPECT_EQ(spectrogram.Entry(spectrogram.Columns(), 0), 0);
@@ -587,7 +587,7 @@ TEST(SpectrogramAnalyser, ReadsARecordingInStepsAndTellsItsProgress)
     SpectrogramAnalyser analyser(wav::Source(file.Content()));
     EXPECT_FALSE(analyser.Problem());
     EXPECT_EQ(analyser.Progress(), 0.0);
-    auto previous = 0.0;
+    double previous = 0.0;
     int steps = 0;
     while (analyser.Step())
     {
@@ -598,7 +598,7 @@ TEST(SpectrogramAnalyser, ReadsARecordingInStepsAndTellsItsProgress)
     EXPECT_EQ(steps, 4); // 100,000 samples of which a step takes 32,768
     EXPECT_EQ(analyser.Progress(), 1.0);
     EXPECT_EQ(analyser.Info().sampleRate, 8000u);
-    auto const spectrogram = analyser.Take();
+    Spectrogram const spectrogram = analyser.Take();
     EXPECT_EQ(spectrogram.Frames(), 100'000u);
     EXPECT_EQ(PeakRow(spectrogram, 100), 32u);
 }
@@ -619,7 +619,7 @@ TEST(SpectrogramAnalyser, AStepTakesAsManySamplesWhateverTheChannels)
         ++steps;
     }
     EXPECT_EQ(steps, 7); // 200,000 samples of which a step takes 32,768
-    auto const spectrogram = analyser.Take();
+    Spectrogram const spectrogram = analyser.Take();
     EXPECT_EQ(HighestEntry(spectrogram, spectrogram.ColumnOfFrame(89'000)), 0);
     EXPECT_EQ(spectrogram.Entry(spectrogram.ColumnOfFrame(91'000), 32), 31);
     EXPECT_EQ(spectrogram.Entry(spectrogram.ColumnOfFrame(99'000), 32), 31);

@@ -1,9 +1,5 @@
 // A spectrogram computed on a thread of its own.
 
-#include "logic/SpectrogramJob.h"
-
-#include "workbench_WavBuilder.h"
-
 #include <gtest/gtest.h>
 
 #include <chrono>
@@ -11,6 +7,9 @@
 #include <fstream>
 #include <mutex>
 #include <random>
+
+#include "logic/SpectrogramJob.h"
+#include "workbench_WavBuilder.h"
 
 namespace
 {
@@ -36,7 +35,7 @@ protected:
         std::vector<std::int16_t> const samples(frames, 1000);
         auto const file =
             wav::File().Chunk("fmt ", wav::Format(1, 1, 8000, 2, 16)).Chunk("data", wav::Samples16(samples));
-        auto const & bytes = file.Content();
+        wav::Bytes const & bytes = file.Content();
         std::ofstream stream(m_path, std::ios::binary);
         stream.write(reinterpret_cast<char const *>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
         EXPECT_TRUE(stream.good());
@@ -71,7 +70,7 @@ TEST_F(SpectrogramJobTest, GivesTheSpectrogramOnceItIsDone)
 {
     SpectrogramJob job(Recording(50'000), Notify());
     ASSERT_TRUE(WaitForNotification());
-    auto const result = job.GetResult();
+    std::shared_ptr<SpectrogramJob::Result const> const result = job.GetResult();
     ASSERT_TRUE(result);
     EXPECT_FALSE(result->problem);
     EXPECT_EQ(result->info.sampleRate, 8000u);
@@ -85,7 +84,7 @@ TEST_F(SpectrogramJobTest, GivesTheProblemOfAFileThatCannotBeRead)
 {
     SpectrogramJob job("missing.wav", Notify());
     ASSERT_TRUE(WaitForNotification());
-    auto const result = job.GetResult();
+    std::shared_ptr<SpectrogramJob::Result const> const result = job.GetResult();
     ASSERT_TRUE(result && result->problem);
     EXPECT_EQ(result->problem->fault, ReadFault::cannot_be_opened);
     EXPECT_EQ(result->spectrogram.Columns(), 0u);
@@ -93,7 +92,7 @@ TEST_F(SpectrogramJobTest, GivesTheProblemOfAFileThatCannotBeRead)
 
 TEST_F(SpectrogramJobTest, EndsAtOnceWhenItIsGivenUp)
 {
-    auto const & path = Recording(20'000'000);
+    fs::path const & path = Recording(20'000'000);
     {
         SpectrogramJob const job(path, Notify());
         EXPECT_EQ(job.GetResult(), nullptr);

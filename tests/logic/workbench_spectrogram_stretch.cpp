@@ -1,15 +1,15 @@
 // Spectrograms of a part of a recording, with windows of choice, on either frequency scale; axes of such parts.
 
-#include "logic/Axis.h"
-#include "logic/Spectrogram.h"
-#include "workbench_WavBuilder.h"
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cmath>
 #include <numbers>
 #include <vector>
+
+#include "logic/Axis.h"
+#include "logic/Spectrogram.h"
+#include "workbench_WavBuilder.h"
 
 namespace
 {
@@ -42,7 +42,7 @@ wav::File FileOf(std::vector<double> const & samples)
 
 Spectrogram Compute(wav::File const & file, SpectrogramSettings const & settings, std::optional<FrameRange> stretch)
 {
-    auto const content = file.Content();
+    wav::Bytes const content = file.Content();
     SpectrogramAnalyser analyser(wav::Source(content), settings, stretch);
     while (analyser.Step())
         continue;
@@ -55,19 +55,21 @@ std::size_t LoudestLine(std::vector<std::uint8_t> const & picture, std::size_t w
 {
     std::size_t loudest = 0;
     for (std::size_t line = 0; line < height; ++line)
+    {
         if (picture[(height - 1 - line) * width + x] > picture[(height - 1 - loudest) * width + x])
             loudest = line;
+    }
     return loudest;
 }
 
 TEST(SpectrogramStretch, ShowsWhatLiesThere)
 {
-    auto const file = FileOf(Samples(80000, 40000, 42000));
+    wav::File const file = FileOf(Samples(80000, 40000, 42000));
     Spectrogram const part = Compute(file, {}, FrameRange{39000, 43000});
     EXPECT_EQ(part.Stretch(), (FrameRange{39000 - 256, 43000 + 256}));
     constexpr std::size_t width = 40;
     constexpr std::size_t height = 64;
-    auto const picture = part.Picture(width, height, {39000, 43000}, FrequencyScale::linear);
+    std::vector<std::uint8_t> const picture = part.Picture(width, height, {39000, 43000}, FrequencyScale::linear);
     ASSERT_EQ(picture.size(), width * height);
     EXPECT_EQ(LoudestLine(picture, width, height, 3), 500 * height / 4000);
     EXPECT_EQ(LoudestLine(picture, width, height, 20), 2000 * height / 4000);
@@ -77,7 +79,7 @@ TEST(SpectrogramStretch, ShowsWhatLiesThere)
 TEST(SpectrogramStretch, HasAtItsEndsWhatTheWholeHasThere)
 {
     // The whole is a multiple of the hop away, so that the windows are the same.
-    auto const file = FileOf(Samples(80000, 40000, 42000));
+    wav::File const file = FileOf(Samples(80000, 40000, 42000));
     Spectrogram const whole = Compute(file, {}, std::nullopt);
     Spectrogram const part = Compute(file, {}, FrameRange{39936, 43008});
     constexpr std::size_t width = 24;
@@ -88,7 +90,7 @@ TEST(SpectrogramStretch, HasAtItsEndsWhatTheWholeHasThere)
 TEST(SpectrogramStretch, WhatWasNotComputedIsOnTheLowestEntry)
 {
     Spectrogram const part = Compute(FileOf(Samples(80000, 0, 0)), {}, FrameRange{40000, 44000});
-    auto const picture = part.Picture(80, 16, {0, 80000}, FrequencyScale::linear);
+    std::vector<std::uint8_t> const picture = part.Picture(80, 16, {0, 80000}, FrequencyScale::linear);
     EXPECT_EQ(picture[13 * 80 + 10], 0);
     EXPECT_GT(*std::max_element(picture.begin(), picture.end()), 0);
     EXPECT_EQ(picture.size(), 80U * 16U);
@@ -96,21 +98,21 @@ TEST(SpectrogramStretch, WhatWasNotComputedIsOnTheLowestEntry)
 
 TEST(SpectrogramStretch, BeyondTheRecordingThereIsNothing)
 {
-    auto const file = FileOf(Samples(1000, 0, 0));
+    wav::File const file = FileOf(Samples(1000, 0, 0));
     EXPECT_LE(Compute(file, {}, FrameRange{900, 5000}).Stretch().end, 1000U);
     EXPECT_TRUE(Compute(file, {}, FrameRange{5000, 6000}).Picture(4, 4).empty());
 }
 
 TEST(SpectrogramStretch, AShorterOneIsLessCondensed)
 {
-    auto const file = FileOf(Samples(800000, 0, 0));
+    wav::File const file = FileOf(Samples(800000, 0, 0));
     EXPECT_TRUE(Compute(file, {}, std::nullopt).IsCondensed());
     EXPECT_FALSE(Compute(file, {}, FrameRange{1000, 50000}).IsCondensed());
 }
 
 TEST(SpectrogramSettings, WindowAndOverlapAreThoseAskedFor)
 {
-    auto const file = FileOf(Samples(16384, 0, 0));
+    wav::File const file = FileOf(Samples(16384, 0, 0));
     EXPECT_EQ(Compute(file, {1024, 50}, std::nullopt).Rows(), 513U);
     EXPECT_EQ(Compute(file, {1024, 0}, std::nullopt).Columns(), 16U);
     EXPECT_EQ(Compute(file, {1024, 50}, std::nullopt).Columns(), 32U);
@@ -120,14 +122,16 @@ TEST(SpectrogramSettings, WindowAndOverlapAreThoseAskedFor)
 
 TEST(SpectrogramSettings, LevelsDoNotDependOnThem)
 {
-    auto const file = FileOf(Samples(32768, 0, 0));
+    wav::File const file = FileOf(Samples(32768, 0, 0));
     for (std::size_t const window : {256U, 1024U, 4096U})
+    {
         for (int const overlap : {0, 50, 75, 87})
         {
             Spectrogram const spectrogram = Compute(file, {window, overlap}, std::nullopt);
             auto const row = static_cast<std::size_t>(std::lround(500.0 / 4000.0 * (spectrogram.Rows() - 1.0)));
             EXPECT_EQ(spectrogram.Entry(spectrogram.Columns() / 2, row), ScaleEntry(-6.02)) << window << ' ' << overlap;
         }
+    }
 }
 
 TEST(SpectrogramSettings, WhatIsNotAllowedIsReplaced)
@@ -157,7 +161,7 @@ TEST(FrequencyScale, ThePictureFollowsIt)
 {
     constexpr std::size_t height = 200;
     Spectrogram const spectrogram = Compute(FileOf(Samples(32768, 0, 0)), {2048, 50}, std::nullopt);
-    auto const picture = spectrogram.Picture(8, height, {0, 32768}, FrequencyScale::logarithmic);
+    std::vector<std::uint8_t> const picture = spectrogram.Picture(8, height, {0, 32768}, FrequencyScale::logarithmic);
     double const expected = PartOfFrequency(FrequencyScale::logarithmic, 4000, 500) * height;
     EXPECT_NEAR(static_cast<double>(LoudestLine(picture, 8, height, 4)), expected, 2.0);
 }
@@ -167,7 +171,7 @@ TEST(FrequencyTicks, OfALogarithmicScaleAreOneTwoFive)
     constexpr auto scale = FrequencyScale::logarithmic;
     auto const labels = [](std::vector<FrequencyTick> const & ticks) {
         std::vector<std::wstring> texts;
-        for (auto const & tick : ticks)
+        for (FrequencyTick const & tick : ticks)
             texts.push_back(tick.label);
         return texts;
     };

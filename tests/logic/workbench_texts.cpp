@@ -29,7 +29,7 @@ struct LanguageScope
     explicit LanguageScope(Language language) { SetLanguage(language); }
     LanguageScope(LanguageScope const &) = delete;
     LanguageScope & operator=(LanguageScope const &) = delete;
-    ~LanguageScope() { SetLanguage(Language::English); }
+    ~LanguageScope() { SetLanguage(Language::english); }
 };
 
 /// UTF-8 to wide, in either width of wchar_t; the texts have no characters beyond the first plane.
@@ -39,9 +39,9 @@ std::wstring Widen(std::string const & text)
     for (std::size_t i = 0; i < text.size();)
     {
         auto const lead = static_cast<unsigned char>(text[i]);
-        auto const length = lead < 0x80 ? 1u : lead < 0xE0 ? 2u : 3u;
-        auto code = length == 1 ? lead : lead & (0xFFu >> (length + 1));
-        for (auto k = 1u; k < length; ++k)
+        unsigned int const length = lead < 0x80 ? 1u : lead < 0xE0 ? 2u : 3u;
+        unsigned int code = length == 1 ? lead : lead & (0xFFu >> (length + 1));
+        for (unsigned int k = 1u; k < length; ++k)
             code = code << 6 | (static_cast<unsigned char>(text[i + k]) & 0x3Fu);
         wide += static_cast<wchar_t>(code);
         i += length;
@@ -66,11 +66,12 @@ std::set<std::string> TextsOfTheSources()
 {
     std::set<std::string> texts;
     std::regex const use(R"re((?:Text|Translatable)\(\s*L"((?:[^"\\]|\\.)*)"\s*\))re");
-    for (auto const & entry : std::filesystem::recursive_directory_iterator(WORKBENCH_SOURCES))
+    for (std::filesystem::directory_entry const & entry :
+         std::filesystem::recursive_directory_iterator(WORKBENCH_SOURCES))
     {
         if (entry.path().extension() != ".cpp" && entry.path().extension() != ".h")
             continue;
-        auto const source = ReadFile(entry.path());
+        std::string const source = ReadFile(entry.path());
         for (std::sregex_iterator match(source.begin(), source.end(), use), end; match != end; ++match)
             texts.insert(Unescaped((*match)[1]));
     }
@@ -91,11 +92,11 @@ std::vector<std::string> Literals(std::string const & text)
 std::map<std::string, std::vector<std::string>> Entries()
 {
     std::map<std::string, std::vector<std::string>> entries;
-    auto const source = ReadFile(std::filesystem::path(WORKBENCH_SOURCES) / "logic" / "Texts.cpp");
+    std::string const source = ReadFile(std::filesystem::path(WORKBENCH_SOURCES) / "logic" / "Texts.cpp");
     std::regex const entry(R"re(\{L"(?:[^"\\]|\\.)*"(?:,\s*L"(?:[^"\\]|\\.)*")*\})re");
     for (std::sregex_iterator match(source.begin(), source.end(), entry), end; match != end; ++match)
     {
-        auto const texts = Literals(match->str());
+        std::vector<std::string> const texts = Literals(match->str());
         EXPECT_TRUE(entries.emplace(texts.front(), texts).second) << "twice: " << texts.front();
     }
     return entries;
@@ -118,7 +119,7 @@ std::size_t Count(std::string const & text, char character)
 /// What Alt selects a text by, in capitals, or 0. Keys beyond ASCII are no good: not every keyboard has them.
 char AccessKey(std::string const & text)
 {
-    auto const mark = text.find('&');
+    std::size_t const mark = text.find('&');
     return mark == std::string::npos ? '\0'
                                      : static_cast<char>(std::toupper(static_cast<unsigned char>(text[mark + 1])));
 }
@@ -126,15 +127,27 @@ char AccessKey(std::string const & text)
 /// The keys after the tab: how many, and the last one where it has the same name in every language (A, F2).
 std::string Shortcut(std::string const & text)
 {
-    auto const tab = text.find('\t');
+    std::size_t const tab = text.find('\t');
     auto const keys = tab == std::string::npos ? std::string() : text.substr(tab + 1);
-    auto const last = keys.substr(keys.find_last_of('+', std::max<std::size_t>(keys.size(), 2) - 2) + 1);
+    std::string const last = keys.substr(keys.find_last_of('+', std::max<std::size_t>(keys.size(), 2) - 2) + 1);
     return std::to_string(Count(keys, '+')) + ' ' + (last.size() <= 2 ? last : "a named key");
 }
 
 bool OpensADialog(std::string const & text)
 {
     return text.substr(0, text.find('\t')).ends_with("...");
+}
+
+/// What an entry has in a language, or else its English text.
+std::string const & TextIn(std::size_t language, std::vector<std::string> const & texts)
+{
+    return language < texts.size() ? texts[language] : texts.front();
+}
+
+/// For messages: the resources are in the order of the languages.
+std::string NameOf(std::size_t language)
+{
+    return "language " + (language < language_count ? std::to_string(language_facts[language].id) : "that is none");
 }
 
 /// Both texts fill the same place.
@@ -189,7 +202,7 @@ std::vector<std::vector<std::string>> Groups(std::string const & resources)
     std::istringstream lines(resources);
     for (std::string line; std::getline(lines, line);)
     {
-        auto const word = line.substr(std::min(line.find_first_not_of(' '), line.size()));
+        std::string const word = line.substr(std::min(line.find_first_not_of(' '), line.size()));
         if (word == "BEGIN")
         {
             open.emplace_back();
@@ -199,7 +212,7 @@ std::vector<std::vector<std::string>> Groups(std::string const & resources)
             groups.push_back(open.back());
             open.pop_back();
         }
-        else if (auto const texts = Literals(line); !texts.empty() && !open.empty())
+        else if (std::vector<std::string> const texts = Literals(line); !texts.empty() && !open.empty())
         {
             open.back().push_back(texts.front());
         }
@@ -211,10 +224,10 @@ std::vector<std::vector<std::string>> Groups(std::string const & resources)
 
 TEST(WorkbenchTexts, EveryTextOfTheSourcesIsThereInAllLanguages)
 {
-    auto const texts = TextsOfTheSources();
+    std::set<std::string> const texts = TextsOfTheSources();
     auto const entries = Entries();
     EXPECT_GT(texts.size(), 60u);
-    for (auto const & text : texts)
+    for (std::string const & text : texts)
     {
         auto const entry = entries.find(text);
         ASSERT_NE(entry, entries.end()) << text;
@@ -224,7 +237,7 @@ TEST(WorkbenchTexts, EveryTextOfTheSourcesIsThereInAllLanguages)
 
 TEST(WorkbenchTexts, EveryEntryOfTheCatalogueIsUsed)
 {
-    auto const texts = TextsOfTheSources();
+    std::set<std::string> const texts = TextsOfTheSources();
     for (auto const & [english, all] : Entries())
         EXPECT_EQ(texts.count(english), 1u) << english;
 }
@@ -236,32 +249,36 @@ TEST(WorkbenchTexts, EveryEntryIsFoundInAllLanguages)
     {
         LanguageScope const scope(static_cast<Language>(language));
         for (auto const & [english, texts] : entries)
-            EXPECT_EQ(Text(Widen(english).c_str()), Widen(texts.at(language))) << english;
+            EXPECT_EQ(Text(Widen(english).c_str()), Widen(TextIn(language, texts))) << english;
     }
 }
 
 TEST(WorkbenchTexts, ATextHasTheSameConversionsAccessKeyAndShortcutInAllLanguages)
 {
     for (auto const & [english, texts] : Entries())
-        for (auto const & text : texts)
+    {
+        for (std::string const & text : texts)
             ExpectSameForm(english, text);
+    }
 }
 
 TEST(WorkbenchTexts, MenusAndDialogsAreThereInAllLanguages)
 {
-    auto const resources = ResourcesByLanguage();
+    std::vector<std::string> const resources = ResourcesByLanguage();
     ASSERT_EQ(resources.size(), language_count);
-    auto const english = Literals(resources.front());
+    std::vector<std::string> const english = Literals(resources.front());
     EXPECT_GT(english.size(), 90u);
-    for (auto const & language : resources)
+    for (std::size_t number = 0; number < resources.size(); ++number)
     {
-        auto const form = Form(language);
-        auto const wanted = Form(resources.front());
+        SCOPED_TRACE(NameOf(number));
+        std::string const & language = resources[number];
+        std::vector<std::string> const form = Form(language);
+        std::vector<std::string> const wanted = Form(resources.front());
         auto const [line, wantedLine] = std::ranges::mismatch(form, wanted);
         EXPECT_TRUE(line == form.end() && wantedLine == wanted.end())
             << (line == form.end() ? "the end" : *line) << " instead of "
             << (wantedLine == wanted.end() ? "the end" : *wantedLine);
-        auto const texts = Literals(language);
+        std::vector<std::string> const texts = Literals(language);
         ASSERT_EQ(texts.size(), english.size());
         for (std::size_t i = 0; i < texts.size(); ++i)
             ExpectSameForm(english[i], texts[i]);
@@ -270,14 +287,16 @@ TEST(WorkbenchTexts, MenusAndDialogsAreThereInAllLanguages)
 
 TEST(WorkbenchTexts, AnAccessKeyIsThereOnceInAMenuOrDialog)
 {
-    for (auto const & language : ResourcesByLanguage())
+    std::vector<std::string> const resources = ResourcesByLanguage();
+    for (std::size_t number = 0; number < resources.size(); ++number)
     {
-        auto const groups = Groups(language);
+        SCOPED_TRACE(NameOf(number));
+        std::vector<std::vector<std::string>> const groups = Groups(resources[number]);
         EXPECT_GT(groups.size(), 10u);
-        for (auto const & group : groups)
+        for (std::vector<std::string> const & group : groups)
         {
             std::set<char> keys;
-            for (auto const & text : group)
+            for (std::string const & text : group)
                 EXPECT_TRUE(AccessKey(text) == '\0' || keys.insert(AccessKey(text)).second) << text;
         }
     }
@@ -286,27 +305,28 @@ TEST(WorkbenchTexts, AnAccessKeyIsThereOnceInAMenuOrDialog)
 TEST(WorkbenchTexts, KeysHaveTheirNamesInEachLanguage)
 {
     auto const expectNone = [](std::string const & text, std::vector<std::string> const & names) {
-        auto const tab = text.find('\t');
-        for (auto const & name : tab == std::string::npos ? std::vector<std::string>() : names)
+        std::size_t const tab = text.find('\t');
+        for (std::string const & name : tab == std::string::npos ? std::vector<std::string>() : names)
             EXPECT_EQ(text.find(name, tab), std::string::npos) << text;
     };
     std::vector<std::vector<std::string>> const foreign{{},
                                                         {"Ctrl", "Shift", "Enter", "Del", "Page", "Arrow", "Home"},
                                                         {"Strg", "Shift", "Enter", "Del", "Page", "Arrow", "Home"}};
-    auto const resources = ResourcesByLanguage();
+    ASSERT_EQ(foreign.size(), language_count) << "add the names of keys that are others in the new language";
+    std::vector<std::string> const resources = ResourcesByLanguage();
     ASSERT_EQ(resources.size(), language_count);
     for (std::size_t language = 0; language < language_count; ++language)
     {
-        for (auto const & text : Literals(resources[language]))
+        for (std::string const & text : Literals(resources[language]))
             expectNone(text, foreign.at(language));
         for (auto const & [english, texts] : Entries())
-            expectNone(texts.at(language), foreign.at(language));
+            expectNone(TextIn(language, texts), foreign.at(language));
     }
 }
 
 TEST(WorkbenchTexts, WhatHasNoEntryStaysAsItIs)
 {
-    LanguageScope const german(Language::German);
+    LanguageScope const german(Language::german);
     EXPECT_STREQ(Text(L"Instrument Workbench"), L"Instrument Workbench");
     EXPECT_STREQ(Text(L""), L"");
 }
@@ -315,7 +335,7 @@ TEST(WorkbenchTexts, EnglishIsTheFirstLanguageAndComesBack)
 {
     EXPECT_STREQ(Text(L"Settings"), L"Settings");
     {
-        LanguageScope const german(Language::German);
+        LanguageScope const german(Language::german);
         EXPECT_STREQ(Text(L"Settings"), L"Einstellungen");
     }
     EXPECT_STREQ(Text(L"Settings"), L"Settings");
@@ -328,20 +348,20 @@ TEST(WorkbenchTexts, ALanguageIsTheSameInEveryCountry)
         EXPECT_EQ(LanguageOf(language_facts[language].id), static_cast<Language>(language));
         EXPECT_TRUE(SpeaksLanguage(language_facts[language].id));
     }
-    EXPECT_EQ(LanguageOf(2055), Language::German);  // Switzerland
-    EXPECT_EQ(LanguageOf(3079), Language::German);  // Austria
-    EXPECT_EQ(LanguageOf(2058), Language::Spanish); // Mexico
+    EXPECT_EQ(LanguageOf(2055), Language::german);  // Switzerland
+    EXPECT_EQ(LanguageOf(3079), Language::german);  // Austria
+    EXPECT_EQ(LanguageOf(2058), Language::spanish); // Mexico
     EXPECT_TRUE(SpeaksLanguage(2058));
     for (unsigned short const other : {2052, 1024, 0}) // Chinese, the user's default, none
     {
-        EXPECT_EQ(LanguageOf(other), Language::English);
+        EXPECT_EQ(LanguageOf(other), Language::english);
         EXPECT_FALSE(SpeaksLanguage(other));
     }
 }
 
 TEST(WorkbenchTexts, FaultsAndDetailsAreTold)
 {
-    LanguageScope const german(Language::German);
+    LanguageScope const german(Language::german);
     ReadProblem problem{ReadFault::unknown_format};
     problem.formatTag = 0x55;
     EXPECT_EQ(problem.Text(), L"unbekanntes Format (Kennung 0x0055)");
@@ -351,7 +371,7 @@ TEST(WorkbenchTexts, FaultsAndDetailsAreTold)
 
     RecordingAnalysis analysis;
     analysis.problem = ReadProblem{ReadFault::not_wav};
-    auto const lines = DescribeRecording("a.wav", analysis, L"");
+    std::vector<DetailLine> const lines = DescribeRecording("a.wav", analysis, L"");
     EXPECT_EQ(lines.front().label, L"Datei");
     EXPECT_EQ(lines.back(), (DetailLine{L"Zustand", L"keine WAV-Datei"}));
 }

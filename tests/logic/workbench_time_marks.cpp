@@ -1,8 +1,8 @@
 // The cursor and what is selected of a recording.
 
-#include "logic/TimeMarks.h"
-
 #include <gtest/gtest.h>
+
+#include "logic/TimeMarks.h"
 
 namespace
 {
@@ -36,7 +36,7 @@ TEST(TimeMarks, TheSelectionStaysWhereTheCursorMovesAlone)
     TimeMarks marks(1000);
     marks.cursor = 100;
     marks.SelectTo(300);
-    for (auto const frame : {700U, 100U, 300U, 200U})
+    for (unsigned int const frame : {700U, 100U, 300U, 200U})
     {
         marks.MoveCursorAlone(frame);
         EXPECT_EQ(marks.cursor, frame);

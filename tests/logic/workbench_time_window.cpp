@@ -1,12 +1,12 @@
 // Zooming and scrolling of a plot over time, as arithmetic.
 
-#include "logic/TimeWindow.h"
-
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <limits>
 #include <random>
+
+#include "logic/TimeWindow.h"
 
 namespace
 {

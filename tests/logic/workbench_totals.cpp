@@ -1,12 +1,12 @@
 // The counts and sums over all recordings, changed line by line, against sums made afresh.
 
-#include "logic/RecordingTotals.h"
-
 #include <gtest/gtest.h>
 
 #include <cstdint>
 #include <random>
 #include <vector>
+
+#include "logic/RecordingTotals.h"
 
 namespace
 {
@@ -70,11 +70,11 @@ TEST(RecordingTotals, AreTheSumsMadeAfresh)
     }
     for (int step = 0; step < 2000; ++step)
     {
-        auto const which = random() % lines.size();
-        auto & line = lines[which];
+        std::size_t const which = random() % lines.size();
+        Line & line = lines[which];
         if (random() % 2 == 0)
         {
-            auto const checked = random() % 2 == 0;
+            bool const checked = random() % 2 == 0;
             totals.SetChecked(which, checked);
             line.checked = checked && line.state != State::unreadable;
         }
@@ -88,7 +88,7 @@ TEST(RecordingTotals, AreTheSumsMadeAfresh)
         std::size_t checked = 0;
         std::size_t unreadable = 0;
         std::uint64_t milliseconds = 0;
-        for (auto const & other : lines)
+        for (Line const & other : lines)
         {
             checked += other.checked ? 1 : 0;
             unreadable += other.state == State::unreadable ? 1 : 0;

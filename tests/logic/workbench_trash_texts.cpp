@@ -1,10 +1,10 @@
 // What is asked and said when files go to the trash.
 
-#include "logic/TrashTexts.h"
-
 #include <gtest/gtest.h>
 
 #include <vector>
+
+#include "logic/TrashTexts.h"
 
 namespace
 {
@@ -20,7 +20,7 @@ TEST(WorkbenchTrashTexts, OneFileIsNamed)
 TEST(WorkbenchTrashTexts, OfSeveralTheFirstAreNamed)
 {
     std::vector<std::filesystem::path> files;
-    for (auto const * const name : {L"a", L"b", L"c", L"d", L"e"})
+    for (wchar_t const * const name : {L"a", L"b", L"c", L"d", L"e"})
     {
         files.emplace_back(std::wstring(L"/r/") + name);
     }

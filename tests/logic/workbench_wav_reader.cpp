@@ -1,12 +1,12 @@
 // The WAV reader: sample formats, chunk layouts, and files that are broken in every way a file can be.
 
-#include "logic/WavReader.h"
-#include "workbench_WavBuilder.h"
-
 #include <gtest/gtest.h>
 
 #include <limits>
 #include <ostream>
+
+#include "logic/WavReader.h"
+#include "workbench_WavBuilder.h"
 
 namespace workbench
 {
@@ -38,7 +38,7 @@ struct Content
 /// Reads everything in small portions; a file that cannot be read fails the test.
 Content ReadAll(wav::File const & file, std::size_t framesAtOnce = 3)
 {
-    auto opened = Open(file);
+    std::variant<WavReader, ReadProblem> opened = Open(file);
     if (!std::holds_alternative<WavReader>(opened))
     {
         ADD_FAILURE() << "not readable";
@@ -47,7 +47,7 @@ Content ReadAll(wav::File const & file, std::size_t framesAtOnce = 3)
     auto & reader = std::get<WavReader>(opened);
     std::vector<double> all;
     std::vector<double> portion(framesAtOnce * reader.Info().channels);
-    while (auto const frames = reader.ReadFrames(portion))
+    while (std::size_t const frames = reader.ReadFrames(portion))
     {
         all.insert(all.end(), portion.begin(),
                    portion.begin() + static_cast<std::ptrdiff_t>(frames * reader.Info().channels));
@@ -57,7 +57,7 @@ Content ReadAll(wav::File const & file, std::size_t framesAtOnce = 3)
 
 ReadProblem Problem(wav::Bytes bytes)
 {
-    auto opened = WavReader::Open(wav::Source(std::move(bytes)));
+    std::variant<WavReader, ReadProblem> opened = WavReader::Open(wav::Source(std::move(bytes)));
     if (!std::holds_alternative<ReadProblem>(opened))
     {
         ADD_FAILURE() << "readable";
@@ -92,7 +92,7 @@ TEST(WavReader, ReadsEightBitSamplesAsUnsigned)
     {
         wav::Put(data, b, 1);
     }
-    auto const content = ReadAll(wav::File().Chunk("fmt ", wav::Format(1, 1, 11025, 1, 8)).Chunk("data", data));
+    Content const content = ReadAll(wav::File().Chunk("fmt ", wav::Format(1, 1, 11025, 1, 8)).Chunk("data", data));
     EXPECT_EQ(content.samples, (std::vector<double>{-1.0, -0.5, 0.0, 0.5, 127.0 / 128.0}));
     EXPECT_EQ(content.info.coding, SampleCoding::unsigned_integer);
     EXPECT_EQ(content.info.sampleRate, 11025u);
@@ -101,7 +101,7 @@ TEST(WavReader, ReadsEightBitSamplesAsUnsigned)
 
 TEST(WavReader, ReadsSixteenBitSamples)
 {
-    auto const content = ReadAll(Mono16({-32768, -16384, -1, 0, 1, 32767}));
+    Content const content = ReadAll(Mono16({-32768, -16384, -1, 0, 1, 32767}));
     EXPECT_EQ(content.samples, (std::vector<double>{-1.0, -0.5, -1.0 / 32768, 0.0, 1.0 / 32768, 32767.0 / 32768}));
     EXPECT_EQ(content.info.coding, SampleCoding::signed_integer);
     EXPECT_EQ(content.info.bitsPerSample, 16u);
@@ -114,7 +114,7 @@ TEST(WavReader, ReadsTwentyFourBitSamples)
     {
         wav::Put(data, static_cast<std::uint32_t>(s), 3);
     }
-    auto const content = ReadAll(wav::File().Chunk("fmt ", wav::Format(1, 1, 96000, 3, 24)).Chunk("data", data));
+    Content const content = ReadAll(wav::File().Chunk("fmt ", wav::Format(1, 1, 96000, 3, 24)).Chunk("data", data));
     EXPECT_EQ(content.samples,
               (std::vector<double>{-1.0, -0.5, -1.0 / 8388608, 0.0, 1.0 / 8388608, 8388607.0 / 8388608}));
 }
@@ -126,7 +126,7 @@ TEST(WavReader, ReadsThirtyTwoBitSamples)
     {
         wav::Put(data, s, 4);
     }
-    auto const content = ReadAll(wav::File().Chunk("fmt ", wav::Format(1, 1, 48000, 4, 32)).Chunk("data", data));
+    Content const content = ReadAll(wav::File().Chunk("fmt ", wav::Format(1, 1, 48000, 4, 32)).Chunk("data", data));
     EXPECT_EQ(content.samples, (std::vector<double>{-1.0, -0.5, -1.0 / 2147483648.0, 0.0, 1.0 / 2147483648.0,
                                                     2147483647.0 / 2147483648.0}));
 }
@@ -138,7 +138,7 @@ TEST(WavReader, ReadsFloatSamplesAboveFullScaleUnchanged)
     {
         wav::Put(data, std::bit_cast<std::uint32_t>(s), 4);
     }
-    auto const content = ReadAll(wav::File().Chunk("fmt ", wav::Format(3, 1, 48000, 4, 32)).Chunk("data", data));
+    Content const content = ReadAll(wav::File().Chunk("fmt ", wav::Format(3, 1, 48000, 4, 32)).Chunk("data", data));
     EXPECT_EQ(content.samples, (std::vector<double>{-1.5, -0.25, 0.0, 1.0, 2.0}));
     EXPECT_EQ(content.info.coding, SampleCoding::floating_point);
     EXPECT_EQ(content.invalid, 0u);
@@ -151,7 +151,7 @@ TEST(WavReader, ReadsDoubleSamplesExactly)
     {
         wav::Put(data, std::bit_cast<std::uint64_t>(s), 8);
     }
-    auto const content = ReadAll(wav::File().Chunk("fmt ", wav::Format(3, 1, 48000, 8, 64)).Chunk("data", data));
+    Content const content = ReadAll(wav::File().Chunk("fmt ", wav::Format(3, 1, 48000, 8, 64)).Chunk("data", data));
     EXPECT_EQ(content.samples, (std::vector<double>{-0.1, 0.3, 1e-12}));
 }
 
@@ -163,16 +163,16 @@ TEST(WavReader, CountsSamplesThatAreNoUsableNumbersAndReadsThemAsSilence)
     {
         wav::Put(data, std::bit_cast<std::uint64_t>(s), 8);
     }
-    auto const content = ReadAll(wav::File().Chunk("fmt ", wav::Format(3, 1, 48000, 8, 64)).Chunk("data", data));
+    Content const content = ReadAll(wav::File().Chunk("fmt ", wav::Format(3, 1, 48000, 8, 64)).Chunk("data", data));
     EXPECT_EQ(content.samples, (std::vector<double>{0.0, 0.0, 0.0, 0.0, 1e6, -0.5}));
     EXPECT_EQ(content.invalid, 4u);
 }
 
 TEST(WavReader, KeepsChannelsInterleaved)
 {
-    auto const content = ReadAll(wav::File()
-                                     .Chunk("fmt ", wav::Format(1, 3, 44100, 6, 16))
-                                     .Chunk("data", wav::Samples16({8192, 16384, -16384, 0, -8192, -32768})));
+    Content const content = ReadAll(wav::File()
+                                        .Chunk("fmt ", wav::Format(1, 3, 44100, 6, 16))
+                                        .Chunk("data", wav::Samples16({8192, 16384, -16384, 0, -8192, -32768})));
     EXPECT_EQ(content.info.channels, 3u);
     EXPECT_EQ(content.info.frames, 2u);
     EXPECT_EQ(content.samples, (std::vector<double>{0.25, 0.5, -0.5, 0.0, -0.25, -1.0}));
@@ -183,7 +183,7 @@ TEST(WavReader, ReadsTheLargestChannelCountOfAHeader)
     constexpr unsigned channels = 65535;
     wav::Bytes data(std::size_t{channels} * 2, std::byte{128});
     data[channels - 1] = std::byte{255};
-    auto const content =
+    Content const content =
         ReadAll(wav::File().Chunk("fmt ", wav::Format(1, channels, 8000, channels, 8)).Chunk("data", data), 1);
     ASSERT_EQ(content.info.frames, 2u);
     EXPECT_EQ(content.samples[channels - 1], 127.0 / 128.0);
@@ -195,7 +195,7 @@ TEST(WavReader, ReadsExtensiblePcmWithItsContainerWidth)
     wav::Bytes data;
     wav::Put(data, 0x40000000u, 4);
     wav::Put(data, 0xC0000000u, 4);
-    auto const content =
+    Content const content =
         ReadAll(wav::File().Chunk("fmt ", wav::Extensible(1, 2, 48000, 8, 32, 24)).Chunk("data", data));
     EXPECT_EQ(content.samples, (std::vector<double>{0.5, -0.5}));
     EXPECT_EQ(content.info.channels, 2u);
@@ -205,14 +205,14 @@ TEST(WavReader, ReadsExtensibleFloat)
 {
     wav::Bytes data;
     wav::Put(data, std::bit_cast<std::uint32_t>(0.75F), 4);
-    auto const content =
+    Content const content =
         ReadAll(wav::File().Chunk("fmt ", wav::Extensible(3, 1, 48000, 4, 32, 32)).Chunk("data", data));
     EXPECT_EQ(content.samples, (std::vector<double>{0.75}));
 }
 
 TEST(WavReader, TakesTwelveBitsInSixteenAsLeftAligned)
 {
-    auto const content = ReadAll(
+    Content const content = ReadAll(
         wav::File().Chunk("fmt ", wav::Format(1, 1, 8000, 2, 12)).Chunk("data", wav::Samples16({0x4000, -0x4000})));
     EXPECT_EQ(content.samples, (std::vector<double>{0.5, -0.5}));
     EXPECT_EQ(content.info.bitsPerSample, 12u);
@@ -221,47 +221,47 @@ TEST(WavReader, TakesTwelveBitsInSixteenAsLeftAligned)
 
 TEST(WavReader, SkipsOtherChunksAndTheirPadding)
 {
-    auto const content = ReadAll(wav::File()
-                                     .Chunk("JUNK", wav::Bytes(27))
-                                     .Chunk("fmt ", wav::Format(1, 1, 8000, 2, 16))
-                                     .Chunk("LIST", Text("INFOISFT\x03"))
-                                     .Chunk("fact", wav::Bytes(4))
-                                     .Chunk("data", wav::Samples16({16384}))
-                                     .Chunk("id3 ", wav::Bytes(11)));
+    Content const content = ReadAll(wav::File()
+                                        .Chunk("JUNK", wav::Bytes(27))
+                                        .Chunk("fmt ", wav::Format(1, 1, 8000, 2, 16))
+                                        .Chunk("LIST", Text("INFOISFT\x03"))
+                                        .Chunk("fact", wav::Bytes(4))
+                                        .Chunk("data", wav::Samples16({16384}))
+                                        .Chunk("id3 ", wav::Bytes(11)));
     EXPECT_EQ(content.samples, (std::vector<double>{0.5}));
     EXPECT_FALSE(content.info.IsCutOff());
 }
 
 TEST(WavReader, TakesTheFirstOfSeveralDataAndFormatChunks)
 {
-    auto const content = ReadAll(wav::File()
-                                     .Chunk("fmt ", wav::Format(1, 1, 8000, 2, 16))
-                                     .Chunk("fmt ", wav::Format(1, 1, 9999, 1, 8))
-                                     .Chunk("data", wav::Samples16({16384}))
-                                     .Chunk("data", wav::Samples16({1, 2, 3})));
+    Content const content = ReadAll(wav::File()
+                                        .Chunk("fmt ", wav::Format(1, 1, 8000, 2, 16))
+                                        .Chunk("fmt ", wav::Format(1, 1, 9999, 1, 8))
+                                        .Chunk("data", wav::Samples16({16384}))
+                                        .Chunk("data", wav::Samples16({1, 2, 3})));
     EXPECT_EQ(content.samples, (std::vector<double>{0.5}));
     EXPECT_EQ(content.info.sampleRate, 8000u);
 }
 
 TEST(WavReader, TakesTheFirstOfSeveralDataChunksBeforeTheFormat)
 {
-    auto const content = ReadAll(wav::File()
-                                     .Chunk("data", wav::Samples16({16384}))
-                                     .Chunk("data", wav::Samples16({1, 2, 3}))
-                                     .Chunk("fmt ", wav::Format(1, 1, 8000, 2, 16)));
+    Content const content = ReadAll(wav::File()
+                                        .Chunk("data", wav::Samples16({16384}))
+                                        .Chunk("data", wav::Samples16({1, 2, 3}))
+                                        .Chunk("fmt ", wav::Format(1, 1, 8000, 2, 16)));
     EXPECT_EQ(content.samples, (std::vector<double>{0.5}));
 }
 
 TEST(WavReader, AcceptsTheDataBeforeTheFormat)
 {
-    auto const content =
+    Content const content =
         ReadAll(wav::File().Chunk("data", wav::Samples16({16384})).Chunk("fmt ", wav::Format(1, 1, 8000, 2, 16)));
     EXPECT_EQ(content.samples, (std::vector<double>{0.5}));
 }
 
 TEST(WavReader, AcceptsAFormatChunkLongerThanItsFields)
 {
-    auto format = wav::Format(1, 1, 8000, 2, 16);
+    wav::Bytes format = wav::Format(1, 1, 8000, 2, 16);
     format.resize(50);
     EXPECT_EQ(ReadAll(wav::File().Chunk("fmt ", format).Chunk("data", wav::Samples16({16384}))).samples,
               (std::vector<double>{0.5}));
@@ -269,16 +269,16 @@ TEST(WavReader, AcceptsAFormatChunkLongerThanItsFields)
 
 TEST(WavReader, LeavesOutAPartOfAFrameAtTheEnd)
 {
-    auto data = wav::Samples16({16384, -16384});
+    wav::Bytes data = wav::Samples16({16384, -16384});
     wav::Put(data, 0x7F, 1);
-    auto const content = ReadAll(wav::File().Chunk("fmt ", wav::Format(1, 1, 8000, 2, 16)).Chunk("data", data));
+    Content const content = ReadAll(wav::File().Chunk("fmt ", wav::Format(1, 1, 8000, 2, 16)).Chunk("data", data));
     EXPECT_EQ(content.samples, (std::vector<double>{0.5, -0.5}));
     EXPECT_FALSE(content.info.IsCutOff());
 }
 
 TEST(WavReader, TakesAnUnknownDataSizeUpToTheEndOfTheFile)
 {
-    auto const content = ReadAll(Mono16({16384, -16384}).LastChunkSize(0xFFFFFFFF));
+    Content const content = ReadAll(Mono16({16384, -16384}).LastChunkSize(0xFFFFFFFF));
     EXPECT_EQ(content.samples, (std::vector<double>{0.5, -0.5}));
     EXPECT_FALSE(content.info.IsCutOff());
 }
@@ -287,7 +287,7 @@ TEST(WavReader, TakesADataSizeThatWasNeverWrittenUpToTheEndOfTheFile)
 {
     for (std::uint32_t const riffSize : {0u, 36u, 0xFFFFFFFFu})
     {
-        auto const content = ReadAll(Mono16({16384, -16384}).LastChunkSize(0).Patch32(4, riffSize));
+        Content const content = ReadAll(Mono16({16384, -16384}).LastChunkSize(0).Patch32(4, riffSize));
         EXPECT_EQ(content.samples, (std::vector<double>{0.5, -0.5})) << riffSize;
         EXPECT_FALSE(content.info.IsCutOff()) << riffSize;
     }
@@ -300,7 +300,7 @@ TEST(WavReader, TakesADataSizeOfZeroBeforeAnotherChunkAsEmpty)
 
 TEST(WavReader, GivesWhatIsThereOfACutOffRecordingAndSaysSo)
 {
-    auto const content = ReadAll(Mono16({16384, -16384, 1, 2}).Cut(data_body + 5));
+    Content const content = ReadAll(Mono16({16384, -16384, 1, 2}).Cut(data_body + 5));
     EXPECT_EQ(content.samples, (std::vector<double>{0.5, -0.5}));
     EXPECT_TRUE(content.info.IsCutOff());
     EXPECT_EQ(content.info.frames, 2u);
@@ -309,7 +309,7 @@ TEST(WavReader, GivesWhatIsThereOfACutOffRecordingAndSaysSo)
 
 TEST(WavReader, GivesWhatIsThereIfTheDataSizeIsFarTooLarge)
 {
-    auto const content = ReadAll(Mono16({16384, -16384}).LastChunkSize(0xFFFFFFFE));
+    Content const content = ReadAll(Mono16({16384, -16384}).LastChunkSize(0xFFFFFFFE));
     EXPECT_EQ(content.samples, (std::vector<double>{0.5, -0.5}));
     EXPECT_EQ(content.info.announcedFrames, 0x7FFFFFFFu);
     EXPECT_TRUE(content.info.IsCutOff());
@@ -324,7 +324,7 @@ TEST(WavReader, NoticesAFileThatBecomesShorterWhileItIsRead)
         std::size_t Read(std::uint64_t offset, std::span<std::byte> buffer) override
         {
             auto const end = std::uint64_t{data_body} + 5;
-            auto const rest = offset < end ? end - offset : 0;
+            std::size_t const rest = offset < end ? end - offset : 0;
             return OwningSource::Read(offset, buffer.first(std::min<std::size_t>(rest, buffer.size())));
         }
     };
@@ -343,7 +343,8 @@ TEST(WavReader, NoticesAFileThatBecomesShorterWhileItIsRead)
 
 TEST(WavReader, ReadsNoFrameIntoABufferThatHoldsNone)
 {
-    auto opened = Open(wav::File().Chunk("fmt ", wav::Format(1, 2, 8000, 4, 16)).Chunk("data", wav::Samples16({1, 2})));
+    std::variant<WavReader, ReadProblem> opened =
+        Open(wav::File().Chunk("fmt ", wav::Format(1, 2, 8000, 4, 16)).Chunk("data", wav::Samples16({1, 2})));
     auto & reader = std::get<WavReader>(opened);
     std::vector<double> samples(3);
     EXPECT_EQ(reader.ReadFrames(std::span(samples).first(1)), 0u);
@@ -358,8 +359,8 @@ TEST(WavReader, ReadsLongRecordingsInBlocks)
         samples[i] = static_cast<std::int16_t>(i * 7919);
     }
     auto source = std::make_unique<wav::OwningSource>(Mono16(samples).Content());
-    auto const & watched = *source;
-    auto opened = WavReader::Open(std::move(source));
+    wav::OwningSource const & watched = *source;
+    std::variant<WavReader, ReadProblem> opened = WavReader::Open(std::move(source));
     auto & reader = std::get<WavReader>(opened);
     std::vector<double> read(samples.size());
     EXPECT_EQ(reader.ReadFrames(read), samples.size());
@@ -372,7 +373,7 @@ TEST(WavReader, ReadsLongRecordingsInBlocks)
 
 TEST(WavReader, ReportsASourceThatIsMissing)
 {
-    auto const opened = WavReader::Open(nullptr);
+    std::variant<WavReader, ReadProblem> const opened = WavReader::Open(nullptr);
     EXPECT_EQ(std::get<ReadProblem>(opened).fault, ReadFault::cannot_be_opened);
 }
 
@@ -399,7 +400,7 @@ TEST(WavReader, NamesTheOtherKindsOfWav)
 
 TEST(WavReader, ReportsAFileThatEndsAnywhereBeforeItsFirstSampleAsCutOff)
 {
-    auto const whole = Mono16({1, 2, 3});
+    wav::File const whole = Mono16({1, 2, 3});
     for (std::size_t size = 4; size < data_body + 2; ++size)
     {
         EXPECT_EQ(Fault(wav::File(whole).Cut(size)), ReadFault::cut_off) << size;
@@ -414,7 +415,7 @@ TEST(WavReader, ReportsAChunkThatGoesOnBehindTheEndAsCutOff)
 TEST(WavReader, ReportsAPartOfAChunkHeaderAtTheEndAsCutOff)
 {
     auto file = wav::File().Chunk("fmt ", wav::Format(1, 1, 8000, 2, 16)).Chunk("data", wav::Samples16({1}));
-    auto const end = data_body - 8;
+    std::size_t const end = data_body - 8;
     EXPECT_EQ(Fault(file.Cut(end + 3).Patch32(4, static_cast<std::uint32_t>(end + 3 - 8))), ReadFault::cut_off);
 }
 
@@ -426,32 +427,32 @@ TEST(WavReader, ReportsADamagedFormatAlsoInACutOffFile)
 
 TEST(WavReader, ReportsUnknownFormatsWithTheirTag)
 {
-    auto const alaw =
+    ReadProblem const alaw =
         Problem(wav::File().Chunk("fmt ", wav::Format(6, 1, 8000, 1, 8)).Chunk("data", wav::Bytes(4)).Content());
     EXPECT_EQ(alaw.fault, ReadFault::unknown_format);
     EXPECT_EQ(alaw.formatTag, 6u);
     EXPECT_EQ(alaw.Text(), L"unknown format (tag 0x0006)");
 
-    auto const extensible = Problem(
+    ReadProblem const extensible = Problem(
         wav::File().Chunk("fmt ", wav::Extensible(0x92, 1, 48000, 2, 16, 16)).Chunk("data", wav::Bytes(4)).Content());
     EXPECT_EQ(extensible.formatTag, 0x92u);
 }
 
 TEST(WavReader, ReportsAnExtensibleFormatOfAnotherFamilyAsUnknown)
 {
-    auto format = wav::Extensible(1, 1, 48000, 2, 16, 16);
+    wav::Bytes format = wav::Extensible(1, 1, 48000, 2, 16, 16);
     format.back() = std::byte{0};
-    auto const problem = Problem(wav::File().Chunk("fmt ", format).Chunk("data", wav::Bytes(4)).Content());
+    ReadProblem const problem = Problem(wav::File().Chunk("fmt ", format).Chunk("data", wav::Bytes(4)).Content());
     EXPECT_EQ(problem.fault, ReadFault::unknown_format);
     EXPECT_EQ(problem.formatTag, 0xFFFEu);
 }
 
 TEST(WavReader, ReportsSampleWidthsThatItDoesNotRead)
 {
-    auto const half =
+    ReadProblem const half =
         Problem(wav::File().Chunk("fmt ", wav::Format(3, 1, 8000, 2, 16)).Chunk("data", wav::Bytes(4)).Content());
     EXPECT_EQ(half.Text(), L"unknown format (16-bit float)");
-    auto const wide =
+    ReadProblem const wide =
         Problem(wav::File().Chunk("fmt ", wav::Format(1, 1, 8000, 8, 64)).Chunk("data", wav::Bytes(8)).Content());
     EXPECT_EQ(wide.Text(), L"unknown format (64-bit PCM)");
 }
@@ -469,7 +470,7 @@ TEST(WavReader, ReportsHeadersThatContradictThemselvesAsDamaged)
     EXPECT_EQ(fault(wav::Format(1, 1, 8000, 2, 0)), ReadFault::damaged_header) << "no bits";
     EXPECT_EQ(fault(wav::Format(3, 1, 8000, 4, 64)), ReadFault::damaged_header) << "double in four bytes";
     EXPECT_EQ(fault(wav::Bytes(14)), ReadFault::damaged_header) << "format chunk too short";
-    auto extensible = wav::Extensible(1, 1, 8000, 2, 16, 16);
+    wav::Bytes extensible = wav::Extensible(1, 1, 8000, 2, 16, 16);
     extensible.resize(24);
     EXPECT_EQ(fault(extensible), ReadFault::damaged_header) << "extensible format chunk too short";
 }

@@ -1,13 +1,13 @@
 // The waveform overview against a search through all samples.
 
-#include "logic/Axis.h"
-#include "logic/Waveform.h"
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cmath>
 #include <random>
+
+#include "logic/Axis.h"
+#include "logic/Waveform.h"
 
 namespace
 {
@@ -18,7 +18,7 @@ std::vector<double> Noise(std::size_t count, unsigned seed)
 {
     std::mt19937 generator(seed);
     std::vector<double> samples(count);
-    for (auto & s : samples)
+    for (double & s : samples)
     {
         s = static_cast<double>(generator()) / 2147483648.0 - 1.0;
     }
@@ -37,7 +37,7 @@ MinMax Search(std::vector<double> const & samples, std::size_t channels, std::si
 {
     auto const at = [&](std::uint64_t frame) { return static_cast<float>(samples[frame * channels + lane]); };
     MinMax result{at(first), at(first)};
-    for (auto frame = first; frame < end; ++frame)
+    for (std::uint64_t frame = first; frame < end; ++frame)
     {
         result.least = std::min(result.least, at(frame));
         result.greatest = std::max(result.greatest, at(frame));
@@ -47,8 +47,8 @@ MinMax Search(std::vector<double> const & samples, std::size_t channels, std::si
 
 TEST(Waveform, IsExactForEveryStretchOfAShortRecording)
 {
-    auto const samples = Noise(201, 1);
-    auto const waveform = Build(samples, 3);
+    std::vector<double> const samples = Noise(201, 1);
+    Waveform const waveform = Build(samples, 3);
     ASSERT_EQ(waveform.Frames(), 67u);
     ASSERT_EQ(waveform.Lanes(), 3u);
     ASSERT_EQ(waveform.FramesPerBucket(), 1u);
@@ -68,16 +68,16 @@ TEST(Waveform, IsExactForEveryStretchOfAShortRecording)
 TEST(Waveform, ColumnsAreExactForAnyWidth)
 {
     constexpr std::uint64_t frames = 1000;
-    auto const samples = Noise(frames, 2);
-    auto const waveform = Build(samples, 1);
+    std::vector<double> const samples = Noise(frames, 2);
+    Waveform const waveform = Build(samples, 1);
     for (std::size_t const width : {1u, 2u, 7u, 333u, 999u, 1000u, 1001u, 2500u})
     {
-        auto const columns = waveform.Columns(0, width);
+        std::vector<MinMax> const columns = waveform.Columns(0, width);
         ASSERT_EQ(columns.size(), width);
         for (std::size_t c = 0; c < width; ++c)
         {
-            auto const first = c * frames / width;
-            auto const end = std::max((c + 1) * frames / width, first + 1);
+            std::size_t const first = c * frames / width;
+            std::size_t const end = std::max((c + 1) * frames / width, first + 1);
             ASSERT_EQ(columns[c], Search(samples, 1, 0, first, end)) << "column " << c << " of " << width;
         }
     }
@@ -86,14 +86,14 @@ TEST(Waveform, ColumnsAreExactForAnyWidth)
 TEST(Waveform, WidensStretchesOfLongRecordingsToWholeBucketsAndNoFurther)
 {
     constexpr std::uint64_t frames = 150'001;
-    auto const samples = Noise(frames, 3);
-    auto const waveform = Build(samples, 1);
+    std::vector<double> const samples = Noise(frames, 3);
+    Waveform const waveform = Build(samples, 1);
     // 32,768 buckets hold 131,072 frames at four frames a bucket, so eight are needed.
     ASSERT_EQ(waveform.FramesPerBucket(), 8u);
-    auto const columns = waveform.Columns(0, 640);
+    std::vector<MinMax> const columns = waveform.Columns(0, 640);
     for (std::size_t c = 0; c < columns.size(); ++c)
     {
-        auto const first = c * frames / 640 / 8 * 8;
+        std::size_t const first = c * frames / 640 / 8 * 8;
         auto const end = std::min<std::uint64_t>(((c + 1) * frames / 640 + 7) / 8 * 8, frames);
         ASSERT_EQ(columns[c], Search(samples, 1, 0, first, end)) << c;
     }
@@ -106,10 +106,10 @@ TEST(Waveform, KeepsALonelyPeakWhateverTheLength)
         std::vector<double> samples(frames, 0.0);
         samples[frames / 3] = 0.875;
         samples[frames - 1] = -0.625;
-        auto const waveform = Build(samples, 1);
+        Waveform const waveform = Build(samples, 1);
         EXPECT_EQ(waveform.Frames(), frames);
         EXPECT_EQ(waveform.Columns(0, 1)[0], (MinMax{-0.625F, 0.875F})) << frames;
-        auto const columns = waveform.Columns(0, 300);
+        std::vector<MinMax> const columns = waveform.Columns(0, 300);
         EXPECT_EQ(columns.back().least, -0.625F) << frames;
         EXPECT_EQ(std::ranges::max_element(columns, {}, &MinMax::greatest)->greatest, 0.875F) << frames;
     }
@@ -117,15 +117,15 @@ TEST(Waveform, KeepsALonelyPeakWhateverTheLength)
 
 TEST(Waveform, IsTheSameForPortionsOfAnySize)
 {
-    auto const samples = Noise(80'000, 4);
+    std::vector<double> const samples = Noise(80'000, 4);
     constexpr std::size_t portion = 246;
     WaveformBuilder builder(2);
     for (std::size_t i = 0; i < samples.size(); i += portion)
     {
         builder.Add(std::span(samples).subspan(i, std::min(portion, samples.size() - i)));
     }
-    auto const waveform = builder.Finish();
-    auto const whole = Build(samples, 2);
+    Waveform const waveform = builder.Finish();
+    Waveform const whole = Build(samples, 2);
     EXPECT_EQ(waveform.Columns(0, 777), whole.Columns(0, 777));
     EXPECT_EQ(waveform.Columns(1, 777), whole.Columns(1, 777));
     EXPECT_NE(waveform.Columns(0, 777), waveform.Columns(1, 777));
@@ -135,7 +135,7 @@ TEST(Waveform, GivesLanesToTheFirstChannelsOnly)
 {
     std::vector<double> samples(40, 0.25);
     samples[31] = 0.5;
-    auto const waveform = Build(samples, 40);
+    Waveform const waveform = Build(samples, 40);
     EXPECT_EQ(waveform.Lanes(), WaveformBuilder::maximum_lanes);
     EXPECT_EQ(waveform.Frames(), 1u);
     EXPECT_EQ(waveform.Range(31, 0, 1), (MinMax{0.5F, 0.5F}));
@@ -146,7 +146,7 @@ TEST(Waveform, GivesZerosWhereNothingIs)
 {
     EXPECT_EQ(Waveform().Lanes(), 0u);
     EXPECT_EQ(Waveform().Columns(0, 3), std::vector<MinMax>(3));
-    auto const waveform = Build({0.5, 0.5}, 1);
+    Waveform const waveform = Build({0.5, 0.5}, 1);
     EXPECT_EQ(waveform.Range(0, 2, 3), MinMax{});
     EXPECT_EQ(waveform.Range(1, 0, 1), MinMax{});
     EXPECT_TRUE(waveform.Columns(0, 0).empty());
@@ -155,7 +155,7 @@ TEST(Waveform, GivesZerosWhereNothingIs)
 
 TEST(Waveform, TakesAnEmptyStretchAsOneFrameAndEndsAtTheLast)
 {
-    auto const waveform = Build({0.125, 0.25, 0.5}, 1);
+    Waveform const waveform = Build({0.125, 0.25, 0.5}, 1);
     EXPECT_EQ(waveform.Range(0, 1, 1), (MinMax{0.25F, 0.25F}));
     EXPECT_EQ(waveform.Range(0, 1, 100), (MinMax{0.25F, 0.5F}));
 }
@@ -171,7 +171,7 @@ TEST(WaveformBuilder, StartsAfreshAfterFinishing)
     builder.Add(std::vector<double>(70'000, 1.0));
     EXPECT_EQ(builder.Finish().FramesPerBucket(), 4u);
     builder.Add(std::vector<double>(3, 0.5));
-    auto const second = builder.Finish();
+    Waveform const second = builder.Finish();
     EXPECT_EQ(second.Frames(), 3u);
     EXPECT_EQ(second.FramesPerBucket(), 1u);
     EXPECT_EQ(second.Columns(0, 1)[0], (MinMax{0.5F, 0.5F}));
@@ -186,7 +186,7 @@ std::vector<std::wstring> Labels(std::vector<TimeTick> const & ticks)
 
 TEST(TimeTicks, StandAtRoundTimes)
 {
-    auto const ticks = TimeTicks(1.4, 700, 80);
+    std::vector<TimeTick> const ticks = TimeTicks(1.4, 700, 80);
     EXPECT_EQ(ticks, (std::vector<TimeTick>{{0, L"0.0 s"},
                                             {100, L"0.2 s"},
                                             {200, L"0.4 s"},
@@ -217,7 +217,7 @@ TEST(TimeTicks, HaveEachOfTheirSteps)
                        {3600.0, L"60:00"}, {7200.0, L"120:00"}, {18000.0, L"300:00"}};
     for (auto const & [step, label] : cases)
     {
-        auto const ticks = TimeTicks(3 * step, 300, 100);
+        std::vector<TimeTick> const ticks = TimeTicks(3 * step, 300, 100);
         ASSERT_EQ(ticks.size(), 4u) << step;
         EXPECT_EQ(ticks[1], (TimeTick{100, label})) << step;
         EXPECT_EQ(ticks[3].position, 300) << step;
@@ -241,7 +241,7 @@ TEST(TimeTicks, KeepTheirDistanceForEveryLength)
 {
     for (double seconds = 0.00001; seconds < 1e6; seconds *= 1.37)
     {
-        auto const ticks = TimeTicks(seconds, 500, 70);
+        std::vector<TimeTick> const ticks = TimeTicks(seconds, 500, 70);
         ASSERT_FALSE(ticks.empty()) << seconds;
         EXPECT_LE(ticks.back().position, 500);
         for (std::size_t i = 1; i < ticks.size(); ++i)
@@ -269,7 +269,7 @@ TEST(LabelledSteps, AreThinnedOutWhereThereIsNoRoom)
     EXPECT_TRUE(LabelledSteps(0, 8, 100, 20).empty());
     for (int height = 20; height < 400; ++height)
     {
-        auto const steps = LabelledSteps(32, 8, height, 20);
+        std::vector<int> const steps = LabelledSteps(32, 8, height, 20);
         for (std::size_t i = 1; i < steps.size(); ++i)
         {
             ASSERT_GE((steps[i - 1] - steps[i]) * height / 32, 20) << height;
@@ -279,7 +279,7 @@ TEST(LabelledSteps, AreThinnedOutWhereThereIsNoRoom)
 
 TEST(LevelLines, GoDownToTwentyFourDecibels)
 {
-    auto const lines = LevelLines(10000, 1);
+    std::vector<LevelLine> const lines = LevelLines(10000, 1);
     ASSERT_EQ(lines.size(), 5u);
     EXPECT_EQ(lines[3].label, L"-18");
     EXPECT_NEAR(lines[3].amplitude, 0.125893, 1e-6);
@@ -289,7 +289,7 @@ TEST(LevelLines, GoDownToTwentyFourDecibels)
 
 TEST(LevelLines, StandSixDecibelsApartWhileThereIsRoom)
 {
-    auto const lines = LevelLines(100, 20);
+    std::vector<LevelLine> const lines = LevelLines(100, 20);
     ASSERT_EQ(lines.size(), 3u);
     EXPECT_EQ(lines[0], (LevelLine{1.0, L"0"}));
     EXPECT_EQ(lines[1].label, L"-6");

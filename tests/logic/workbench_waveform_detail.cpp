@@ -1,8 +1,5 @@
 // Waveforms of any stretch: from the overview, from a finer one, and from the file.
 
-#include "logic/WaveformDetail.h"
-#include "workbench_WavBuilder.h"
-
 #include <gtest/gtest.h>
 
 #include <chrono>
@@ -13,6 +10,9 @@
 #include <future>
 #include <random>
 #include <string>
+
+#include "logic/WaveformDetail.h"
+#include "workbench_WavBuilder.h"
 
 namespace
 {
@@ -27,7 +27,7 @@ public:
     Recording(std::size_t frames, std::size_t channels) : m_channels(channels)
     {
         static int s_count = 0;
-        auto const now = std::chrono::steady_clock::now().time_since_epoch().count();
+        long long const now = std::chrono::steady_clock::now().time_since_epoch().count();
         path = fs::temp_directory_path() / ("detail-" + std::to_string(now) + "-" + std::to_string(++s_count) + ".wav");
         std::mt19937 random(static_cast<unsigned>(frames));
         for (std::size_t i = 0; i < frames * channels; ++i)
@@ -49,10 +49,10 @@ public:
     void Write(std::vector<std::int16_t> const & samples) const
     {
         auto const channels = static_cast<unsigned>(m_channels);
-        auto const bytes = wav::File()
-                               .Chunk("fmt ", wav::Format(1, channels, 48000, 2 * channels, 16))
-                               .Chunk("data", wav::Samples16(samples))
-                               .Content();
+        wav::Bytes const bytes = wav::File()
+                                     .Chunk("fmt ", wav::Format(1, channels, 48000, 2 * channels, 16))
+                                     .Chunk("data", wav::Samples16(samples))
+                                     .Content();
         std::ofstream stream(path, std::ios::binary);
         stream.write(reinterpret_cast<char const *>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
         ASSERT_TRUE(stream.good());
@@ -92,9 +92,13 @@ private:
 bool Covers(std::vector<std::vector<MinMax>> const & columns, std::vector<std::vector<MinMax>> const & exact)
 {
     for (std::size_t lane = 0; lane < exact.size(); ++lane)
+    {
         for (std::size_t i = 0; i < exact[lane].size(); ++i)
+        {
             if (columns[lane][i].least > exact[lane][i].least || columns[lane][i].greatest < exact[lane][i].greatest)
                 return false;
+        }
+    }
     return columns.size() == exact.size();
 }
 
@@ -142,7 +146,7 @@ TEST(WaveformDetail, WhatIsTooWideToReadComesFromAFinerOverview)
     std::size_t const width = 2 * range.Length() / bucket;
     std::promise<void> refined;
     WaveformDetail detail(recording.analysis, recording.path, [&refined] { refined.set_value(); });
-    auto const exact = recording.Expected(range, width);
+    std::vector<std::vector<MinMax>> const exact = recording.Expected(range, width);
     EXPECT_TRUE(Covers(detail.Columns(range, width), exact));
     ASSERT_EQ(refined.get_future().wait_for(std::chrono::seconds(60)), std::future_status::ready);
     EXPECT_FALSE(detail.IsRefining());
@@ -165,7 +169,7 @@ TEST(WaveformDetail, WithoutItsFileTheOverviewHasToDo)
 {
     Recording const recording(300000, 2);
     FrameRange const range{5000, 5400};
-    auto const overview = recording.analysis->waveform.Columns(1, 200, range);
+    std::vector<MinMax> const overview = recording.analysis->waveform.Columns(1, 200, range);
     fs::path const gone = recording.path.string() + ".gone";
     WaveformDetail detail(recording.analysis, gone);
     EXPECT_EQ(detail.Columns(range, 200).at(1), overview);
@@ -187,16 +191,18 @@ TEST(WaveformDetail, TheAmplitudeOfAStretchIsExactAndLeavesThePictureAlone)
     ASSERT_GT(recording.analysis->waveform.FramesPerBucket(), 100U);
     WaveformDetail detail(recording.analysis, recording.path);
     FrameRange const shown{1000, 1100};
-    auto const picture = detail.Columns(shown, 100);
+    std::vector<std::vector<MinMax>> const picture = detail.Columns(shown, 100);
     std::mt19937 random(7);
     for (int i = 0; i < 100; ++i)
     {
         std::uint64_t const first = random() % 299000;
         FrameRange const range{first, first + 1 + random() % 480};
         double expected = 0;
-        for (auto const & lane : recording.Expected(range, 1))
+        for (std::vector<MinMax> const & lane : recording.Expected(range, 1))
+        {
             expected = std::max({expected, std::fabs(static_cast<double>(lane[0].least)),
                                  std::fabs(static_cast<double>(lane[0].greatest))});
+        }
         ASSERT_DOUBLE_EQ(detail.Amplitude(range), expected) << i;
     }
     EXPECT_EQ(detail.Amplitude({299990, 400000}), detail.Amplitude({299990, 300000}));
@@ -208,7 +214,7 @@ TEST(WaveformDetail, WithoutItsFileTheAmplitudeIsTheOverviews)
 {
     Recording const recording(300000, 1);
     WaveformDetail detail(recording.analysis, recording.path.string() + ".gone");
-    auto const found = recording.analysis->waveform.Range(0, 5000, 5480);
+    MinMax const found = recording.analysis->waveform.Range(0, 5000, 5480);
     EXPECT_DOUBLE_EQ(detail.Amplitude({5000, 5480}), std::max(std::fabs(found.least), std::fabs(found.greatest)));
 }
 

@@ -1,7 +1,8 @@
 #include "GdiHandleCount.h"
 
-#include <gtest/gtest.h>
 #include <windows.h>
+
+#include <gtest/gtest.h>
 
 #include <cstddef>
 #include <cstdint>

@@ -1,5 +1,7 @@
 #include "GuardedHeap.h"
 
+#include <psapi.h>
+
 #include <gtest/gtest.h>
 
 #include <cstdint>
@@ -8,8 +10,6 @@
 #include <deque>
 #include <new>
 #include <unordered_map>
-
-#include <psapi.h>
 
 #include "CallStack.h"
 
@@ -137,8 +137,10 @@ void CheckBlock(void * address, Block & block)
     BYTE * const memory = static_cast<BYTE *>(address);
     std::size_t at = FirstOther(memory - guard_size, guard_size, guard_byte);
     if (at < guard_size)
+    {
         return Report(address, block, GuardedHeap::Damage::before,
                       static_cast<std::ptrdiff_t>(at) - static_cast<std::ptrdiff_t>(guard_size));
+    }
     at = FirstOther(memory + block.size, guard_size, guard_byte);
     if (at < guard_size)
         return Report(address, block, GuardedHeap::Damage::behind, static_cast<std::ptrdiff_t>(block.size + at));
@@ -288,7 +290,7 @@ IMAGE_IMPORT_DESCRIPTOR const * FirstLibrary(HMODULE module)
 
 bool UsesCppLibrary(HMODULE module)
 {
-    for (auto const * library = FirstLibrary(module); library->Name != 0; ++library)
+    for (IMAGE_IMPORT_DESCRIPTOR const * library = FirstLibrary(module); library->Name != 0; ++library)
     {
         wchar_t name[MAX_PATH];
         ::wsprintfW(name, L"%hs", At<char const>(module, library->Name));
@@ -300,7 +302,7 @@ bool UsesCppLibrary(HMODULE module)
 
 void PatchImports(HMODULE module)
 {
-    for (auto const * library = FirstLibrary(module); library->Name != 0; ++library)
+    for (IMAGE_IMPORT_DESCRIPTOR const * library = FirstLibrary(module); library->Name != 0; ++library)
     {
         auto const * name = At<IMAGE_THUNK_DATA>(module, library->OriginalFirstThunk);
         auto * entry = At<IMAGE_THUNK_DATA>(module, library->FirstThunk);
@@ -384,8 +386,10 @@ GuardedHeap::~GuardedHeap()
         ShrinkQuarantine(0);
     }
     for (Error const & error : Take())
+    {
         ADD_FAILURE() << "guarded heap: block of " << error.size << " bytes, allocation " << error.number << ": "
                       << Text(error.damage) << ", byte " << error.offset;
+    }
 }
 
 std::size_t GuardedHeap::Check()

@@ -1,9 +1,9 @@
 #include "Input.h"
 
-#include "Pump.h"
-
 #include <optional>
 #include <vector>
+
+#include "Pump.h"
 
 namespace tests
 {
@@ -212,7 +212,7 @@ void Key(WORD virtualKey, std::initializer_list<WORD> modifiers)
         input.push_back(KeyInput(modifier, false));
     input.push_back(KeyInput(virtualKey, false));
     input.push_back(KeyInput(virtualKey, true));
-    for (auto modifier = modifiers.end(); modifier != modifiers.begin();)
+    for (unsigned short const * modifier = modifiers.end(); modifier != modifiers.begin();)
         input.push_back(KeyInput(*--modifier, true));
     Send(std::move(input));
 }

@@ -1,15 +1,15 @@
 #pragma once
 // What a random walk over a list expects of single results (ListWalk.h).
 
-#include "ListReferenceModel.h"
-#include "list/XListCtrlData.h"
-
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <iterator>
 #include <numeric>
 #include <vector>
+
+#include "list/XListCtrlData.h"
+#include "ListReferenceModel.h"
 
 namespace list_walk
 {

@@ -280,11 +280,13 @@ public:
         cell.comboCurrent = defaultId;
         Text(row, column).clear();
         for (ComboEntry const & entry : entries)
+        {
             if (entry.id == selectedId)
             {
                 cell.comboCurrent = selectedId;
                 Text(row, column) = entry.text;
             }
+        }
     }
     bool SelectCombo(int row, int column, std::vector<ComboEntry> const & allEntries, int id)
     {
@@ -294,11 +296,13 @@ public:
         cell.comboCurrent = cell.comboDefault;
         Text(row, column).clear();
         for (ComboEntry const & entry : allEntries)
+        {
             if (entry.id == id && std::find(cell.comboIds.begin(), cell.comboIds.end(), id) != cell.comboIds.end())
             {
                 cell.comboCurrent = id;
                 Text(row, column) = entry.text;
             }
+        }
         return true;
     }
 
@@ -307,21 +311,26 @@ public:
     bool RowEnabled(int row)
     {
         for (int column = 0; column < ColumnCount(); ++column)
+        {
             if (Cell const * const cell = Find(row, column); cell != nullptr && cell->Enabled())
                 return true;
+        }
         return false;
     }
     int ActiveRadio(int column)
     {
         for (int row = 0; row < RowCount(); ++row)
+        {
             if (Cell const * const cell = Find(row, column); cell != nullptr && cell->checked == 3)
                 return row;
+        }
         return -1;
     }
     unsigned long long Count(int column, int state)
     {
         unsigned long long count = 0;
         for (int row = 0; row < RowCount(); ++row)
+        {
             if (Cell const * const cell = Find(row, column); cell != nullptr)
             {
                 if (state == -1)
@@ -329,21 +338,26 @@ public:
                 else if (state < -1 ? cell->checked != -1 : cell->checked == state)
                     ++count;
             }
+        }
         return count;
     }
     template <class Predicate> int FindFirst(Predicate && predicate)
     {
         for (int row = 0; row < RowCount(); ++row)
+        {
             if (Cell const * const cell = First(row); cell != nullptr && predicate(*cell))
                 return row;
+        }
         return -1;
     }
     /// Whether a column reaches beyond the cells of some row.
     bool HasShortRow(int column)
     {
         for (int row = 0; row < RowCount(); ++row)
+        {
             if (At(row).store >= 0 && Find(row, column) == nullptr)
                 return true;
+        }
         return false;
     }
 
@@ -382,9 +396,11 @@ public:
             header = header == 2 ? 1 : 2;
             report = header == 2 ? 1 : 0;
             for (int row = 0; row < RowCount(); ++row)
+            {
                 if (Cell const * const cell = Find(row, column);
                     cell != nullptr && cell->checked != -1 && cell->checked != report)
                     Change(row, column, report);
+            }
         }
         notices.push_back({Notice::What::column, report, column});
     }
@@ -413,7 +429,7 @@ private:
         int & header = headerStates[static_cast<std::size_t>(column)];
         if (!autoCheckbox || header < 1 || header > 4)
             return;
-        auto const all = rows.size();
+        std::size_t const all = rows.size();
         if (Count(column, 0) == all)
             header = 1;
         else if (Count(column, 1) == all)

@@ -8,16 +8,16 @@
 // press on a cell), Navigate (a navigation key), SetWidth and Width (without padding), Available (room for the
 // columns), MinimumWidth, BarColor, ItemCount, Text, TakeNotices, and IsSound (what it knows of its own consistency).
 
-#include "ListExpectations.h"
-#include "ListReferenceModel.h"
-#include "list/XListCtrlData.h"
-
 #include <algorithm>
 #include <iterator>
 #include <map>
 #include <random>
 #include <string>
 #include <vector>
+
+#include "list/XListCtrlData.h"
+#include "ListExpectations.h"
+#include "ListReferenceModel.h"
 
 namespace list_walk
 {
@@ -488,8 +488,10 @@ private:
                 m_operation = "DeleteAllToolTips";
                 m_list.DeleteAllToolTips();
                 for (int i = 0; i < m_model.RowCount(); ++i)
+                {
                     for (int j = 0; Cell * const each = m_model.Find(i, j); ++j)
                         each->tip.clear();
+                }
                 break;
             }
             m_operation = "SetItemCheckedState";
@@ -513,8 +515,10 @@ private:
         if (!m_difference.empty())
             return;
         for (int column = 0; column < m_model.ColumnCount(); ++column)
+        {
             Same(m_list.GetHeaderCheckedState(column), m_model.headerStates[static_cast<std::size_t>(column)],
                  "the header's state");
+        }
         if (m_model.ColumnCount() != 0)
             CompareColumn(Below(m_model.ColumnCount()));
         for (int row = 0; row < m_model.RowCount(); ++row)

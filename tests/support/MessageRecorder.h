@@ -14,9 +14,9 @@
 // Sent messages are recorded before the window's procedure runs, posted ones when the loop takes them out of the queue
 // (also those that PreTranslateMessage then swallows). A difference prints both tables beside each other.
 
-#include <gtest/gtest.h>
-
 #include <windows.h>
+
+#include <gtest/gtest.h>
 
 #include <optional>
 #include <set>

@@ -1,8 +1,8 @@
 #include "ScopedWindow.h"
 
-#include "Pump.h"
-
 #include <stdexcept>
+
+#include "Pump.h"
 
 namespace tests
 {

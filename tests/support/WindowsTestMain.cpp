@@ -1,14 +1,14 @@
 // The main program of the window tests: GoogleTest within an application of the framework.
 
-#include "ChildProgram.h"
-#include "HangWatch.h"
-#include "TestApp.h"
-
 #include <framework_testing.h>
 
 #include <gtest/gtest.h>
 
 #include <cstdio>
+
+#include "ChildProgram.h"
+#include "HangWatch.h"
+#include "TestApp.h"
 
 namespace
 {

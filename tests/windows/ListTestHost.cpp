@@ -1,12 +1,12 @@
 #include "ListTestHost.h"
 
-#include "Pump.h"
-
 #include <iterator>
 #include <ostream>
 #include <stdexcept>
 #include <string>
 #include <utility>
+
+#include "Pump.h"
 
 namespace tests
 {
@@ -28,8 +28,10 @@ NamedMessage const list_messages[] = {
 NamedMessage const * Find(UINT message)
 {
     for (NamedMessage const & candidate : list_messages)
+    {
         if (*candidate.message == message)
             return &candidate;
+    }
     return nullptr;
 }
 

@@ -13,15 +13,15 @@
 
 #include <afxwin.h>
 
-#include "DialogTemplate.h"
-#include "ScopedWindow.h"
-#include "frame/RegisteredMessages.h"
-#include "list/XListCtrl.h"
-
 #include <functional>
 #include <iosfwd>
 #include <new>
 #include <vector>
+
+#include "DialogTemplate.h"
+#include "frame/RegisteredMessages.h"
+#include "list/XListCtrl.h"
+#include "ScopedWindow.h"
 
 namespace tests
 {

@@ -2,16 +2,16 @@
 // What a program that reads the screen does with a control, for the tests of accessible objects.
 
 #include <afxwin.h>
+#include <oleacc.h>
 
 #include <gtest/gtest.h>
-#include <oleacc.h>
 
 #include <algorithm>
 #include <utility>
 #include <vector>
 
-#include "Pump.h"
 #include "access/AccessElement.h"
+#include "Pump.h"
 
 namespace access_tests
 {

@@ -1,15 +1,5 @@
 // A client that asks accessible objects at random, and a host that does its worst meanwhile.
 
-#include "ListTestHost.h"
-#include "access_AccessTest.h"
-#include "chaos_Chaos.h"
-#include "controls/ColorButton.h"
-#include "controls/IdNameMultiselectCtrl.h"
-#include "controls/LevelSliderCtrl.h"
-#include "controls/XEditBrowseCtrl.h"
-#include "frame/LifeWatch.h"
-#include "segments/DigiStatic.h"
-
 #include <array>
 #include <map>
 #include <memory>
@@ -17,6 +7,16 @@
 #include <string>
 #include <utility>
 #include <vector>
+
+#include "access_AccessTest.h"
+#include "chaos_Chaos.h"
+#include "controls/ColorButton.h"
+#include "controls/IdNameMultiselectCtrl.h"
+#include "controls/LevelSliderCtrl.h"
+#include "controls/XEditBrowseCtrl.h"
+#include "frame/LifeWatch.h"
+#include "ListTestHost.h"
+#include "segments/DigiStatic.h"
 
 using access_tests::Held;
 using access_tests::Number;
@@ -29,7 +29,7 @@ constexpr DWORD child_style = WS_CHILD | WS_VISIBLE | WS_TABSTOP;
 template <class Control> class Hostile : public Control
 {
 public:
-    explicit Hostile(chaos::Chaos & host) : m_host(host) {}
+    explicit Hostile(chaos::Chaos & host) : m_world(host) {}
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
@@ -45,7 +45,7 @@ protected:
         case TBM_GETRANGEMAX: {
             LifeWatch const life(m_life);
             HWND const window = this->m_hWnd;
-            m_host.Disturb();
+            m_world.Disturb();
             if (life.Over() || this->m_hWnd != window || window == nullptr)
                 return 0;
             break;
@@ -57,7 +57,7 @@ protected:
     }
 
 private:
-    chaos::Chaos & m_host;
+    chaos::Chaos & m_world;
     LifeSign m_life;
 };
 
@@ -72,24 +72,24 @@ public:
 class HostileKind : public CXListCellKind
 {
 public:
-    explicit HostileKind(chaos::Chaos & host) : m_host(host) {}
+    explicit HostileKind(chaos::Chaos & host) : m_world(host) {}
     void Paint(XLISTCTRLDATA const &, CDC & dc, CRect const & rect, COLORREF, COLORREF background) override
     {
         dc.FillSolidRect(rect, background);
     }
     std::optional<Change> Press(XLISTCTRLDATA &, CRect const &, CPoint) override
     {
-        m_host.Disturb();
+        m_world.Disturb();
         return Change{};
     }
     std::optional<CString> ExportText(XLISTCTRLDATA const &) const override
     {
-        m_host.Disturb();
+        m_world.Disturb();
         return CString(L"own");
     }
 
 private:
-    chaos::Chaos & m_host;
+    chaos::Chaos & m_world;
 };
 
 class World final : public chaos::Chaos
@@ -99,7 +99,7 @@ public:
     {
         m_strings[1] = L"one";
         m_strings[2] = L"two";
-        m_parent.onNotify = [this](NMHDR const & header) {
+        m_host.onNotify = [this](NMHDR const & header) {
             // The native list stands no loss of its rows while it changes states.
             if (header.code == LVN_INSERTITEM)
                 Disturb();
@@ -107,7 +107,7 @@ public:
     }
     ~World() override
     {
-        m_parent.onNotify = nullptr;
+        m_host.onNotify = nullptr;
         m_kept.clear();
         EndAll();
     }
@@ -160,12 +160,12 @@ private:
     }
     void OpenAll()
     {
-        Make(m_button, L"&Button", child_style, CRect(10, 210, 80, 230), &m_parent, 11U);
-        Make(m_slider, child_style | TBS_HORZ, CRect(90, 210, 180, 230), &m_parent, 12U);
-        Make(m_display, L"display", WS_CHILD | WS_VISIBLE, CRect(190, 210, 280, 230), &m_parent, 13U);
-        Make(m_field, child_style | WS_BORDER, CRect(10, 240, 150, 260), &m_parent, 14U);
-        Make(m_group, L"group", child_style, CRect(160, 240, 300, 340), &m_parent, 15U);
-        Make(m_list, tests::TestList::default_style, CRect(0, 0, 360, 200), static_cast<CWnd *>(&m_parent), 16U);
+        Make(m_button, L"&Button", child_style, CRect(10, 210, 80, 230), &m_host, 11U);
+        Make(m_slider, child_style | TBS_HORZ, CRect(90, 210, 180, 230), &m_host, 12U);
+        Make(m_display, L"display", WS_CHILD | WS_VISIBLE, CRect(190, 210, 280, 230), &m_host, 13U);
+        Make(m_browse, child_style | WS_BORDER, CRect(10, 240, 150, 260), &m_host, 14U);
+        Make(m_multiselect, L"group", child_style, CRect(160, 240, 300, 340), &m_host, 15U);
+        Make(m_list, tests::TestList::default_style, CRect(0, 0, 360, 200), static_cast<CWnd *>(&m_host), 16U);
         if (m_list == nullptr || m_list->m_hWnd == nullptr || m_list->GetColumnCount() > 0)
             return;
         m_list->AddColumns(3);
@@ -177,8 +177,8 @@ private:
     void EndAll()
     {
         m_list.reset();
-        m_group.reset();
-        m_field.reset();
+        m_multiselect.reset();
+        m_browse.reset();
         m_display.reset();
         m_slider.reset();
         m_button.reset();
@@ -209,9 +209,9 @@ private:
         case 3:
             return End(m_display);
         case 4:
-            return End(m_field);
+            return End(m_browse);
         case 5:
-            return End(m_group);
+            return End(m_multiselect);
         case 6:
         case 7:
         case 23:
@@ -225,14 +225,14 @@ private:
                 m_slider->SetPos(Pick(100));
             return;
         case 10:
-            if (m_field != nullptr && m_field->m_hWnd != nullptr)
-                m_field->PrepareIdNameBrowser();
+            if (m_browse != nullptr && m_browse->m_hWnd != nullptr)
+                m_browse->PrepareIdNameBrowser();
             return;
         case 11:
-            if (m_group == nullptr)
+            if (m_multiselect == nullptr)
                 return;
-            m_group->SetTheMap({{1, L"left"}, {2, L"right"}, {Pick(9), L"other"}});
-            m_group->RefreshContent();
+            m_multiselect->SetTheMap({{1, L"left"}, {2, L"right"}, {Pick(9), L"other"}});
+            m_multiselect->RefreshContent();
             return;
         case 12:
             if (m_button != nullptr && m_button->m_hWnd != nullptr)
@@ -314,13 +314,13 @@ private:
     {
         Note("object");
         std::vector<HWND> windows;
-        for (HWND child = ::GetWindow(m_parent.m_hWnd, GW_CHILD); child != nullptr;
+        for (HWND child = ::GetWindow(m_host.m_hWnd, GW_CHILD); child != nullptr;
              child = ::GetWindow(child, GW_HWNDNEXT))
             windows.push_back(child);
         if (HasList())
             windows.push_back(m_list->Header());
-        if (m_group != nullptr && m_group->m_hWnd != nullptr)
-            windows.push_back(::GetDlgItem(m_group->m_hWnd, 32802));
+        if (m_multiselect != nullptr && m_multiselect->m_hWnd != nullptr)
+            windows.push_back(::GetDlgItem(m_multiselect->m_hWnd, 32802));
         if (HWND const combo = tests::OpenCombo())
             windows.push_back(combo);
         if (windows.empty())
@@ -468,14 +468,14 @@ private:
     }
 
     access_tests::ComScope m_com;
-    tests::ListParent m_parent{CRect(100, 100, 500, 500), WS_POPUP | WS_VISIBLE};
+    tests::ListParent m_host{CRect(100, 100, 500, 500), WS_POPUP | WS_VISIBLE};
     std::map<int, CString> m_strings;
     std::unique_ptr<tests::TestList> m_list;
     std::unique_ptr<CColorButton> m_button;
     std::unique_ptr<CLevelSliderCtrl> m_slider;
     std::unique_ptr<CDigiStatic> m_display;
-    std::unique_ptr<Field> m_field;
-    std::unique_ptr<CIdNameMultiselectCtrl> m_group;
+    std::unique_ptr<Field> m_browse;
+    std::unique_ptr<CIdNameMultiselectCtrl> m_multiselect;
     std::vector<std::shared_ptr<Kept>> m_kept;
     std::vector<HRESULT> m_unexpected;
 };

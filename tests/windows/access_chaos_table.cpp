@@ -1,15 +1,15 @@
 // A client that asks the accessible objects of a table at random, and a host that does its worst meanwhile: its source
 // ends the table while a client asks, its callbacks whenever they are called.
 
-#include "access_AccessTest.h"
-#include "chaos_Chaos.h"
-#include "list/table/XTableCtrl.h"
-
 #include <memory>
 #include <set>
 #include <string>
 #include <utility>
 #include <vector>
+
+#include "access_AccessTest.h"
+#include "chaos_Chaos.h"
+#include "list/table/XTableCtrl.h"
 
 using access_tests::Held;
 using access_tests::Number;
@@ -132,7 +132,7 @@ private:
             column.title = L"column";
         columns[3].check = nullptr;
         m_table->SetColumns(columns);
-        m_table->Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 300, 200), &m_parent, 7);
+        m_table->Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 300, 200), &m_host, 7);
         m_table->SetSource(m_source);
         m_table->m_onSelectionChange = [this] { Disturb(); };
         m_table->m_onLinkClick = [this](TableRow, unsigned int) { Disturb(); };
@@ -320,7 +320,7 @@ private:
     }
 
     access_tests::ComScope m_com;
-    tests::ScopedWindow m_parent{CRect(100, 100, 500, 400)};
+    tests::ScopedWindow m_host{CRect(100, 100, 500, 400)};
     std::shared_ptr<ActingRows> m_source;
     std::unique_ptr<CXTableCtrl> m_table;
     std::vector<std::shared_ptr<Held<IAccessible>>> m_kept;

@@ -1,6 +1,12 @@
 // The accessible objects of the small controls.
 
-#include "ScopedWindow.h"
+#include <functional>
+#include <memory>
+#include <string>
+#include <thread>
+#include <utility>
+#include <vector>
+
 #include "access_AccessTest.h"
 #include "controls/ColorButton.h"
 #include "controls/FreeIconButton.h"
@@ -8,14 +14,8 @@
 #include "controls/LevelSliderCtrl.h"
 #include "controls/XEditBrowseCtrl.h"
 #include "list/XListCtrl.h"
+#include "ScopedWindow.h"
 #include "segments/DigiStatic.h"
-
-#include <functional>
-#include <memory>
-#include <string>
-#include <thread>
-#include <utility>
-#include <vector>
 
 using access_tests::ActionOf;
 using access_tests::Ask;
@@ -63,7 +63,7 @@ protected:
     /// A label, which names what is made after it.
     void AddLabel(wchar_t const * text)
     {
-        ASSERT_TRUE(m_label.Create(text, WS_CHILD | WS_VISIBLE, CRect(10, 10, 100, 30), &m_parent));
+        ASSERT_TRUE(m_label.Create(text, WS_CHILD | WS_VISIBLE, CRect(10, 10, 100, 30), &m_host));
     }
     static CRect ClientOf(HWND window)
     {
@@ -73,7 +73,7 @@ protected:
         return rect;
     }
 
-    Parent m_parent{CRect(100, 100, 500, 400), WS_POPUP | WS_VISIBLE};
+    Parent m_host{CRect(100, 100, 500, 400), WS_POPUP | WS_VISIBLE};
     CStatic m_label;
 };
 
@@ -81,7 +81,7 @@ TEST_F(AccessControls, ReadOutSpeaksItsText)
 {
     AddLabel(L"&Peak level:");
     CDigiStatic display;
-    ASSERT_TRUE(display.Create(L"window", WS_CHILD | WS_VISIBLE, CRect(10, 40, 200, 80), &m_parent));
+    ASSERT_TRUE(display.Create(L"window", WS_CHILD | WS_VISIBLE, CRect(10, 40, 200, 80), &m_host));
     ASSERT_EQ(Ask(display.m_hWnd, m_object), S_OK);
     EXPECT_EQ(RoleOf(*m_object.Get()), ROLE_SYSTEM_STATICTEXT);
     EXPECT_EQ(NameOf(*m_object.Get()), L"Peak level");
@@ -131,11 +131,11 @@ template <class Button> void ExpectAButton(Parent & parent, Held<IAccessible> & 
 
 TEST_F(AccessControls, ButtonsArePressed)
 {
-    ExpectAButton<CColorButton>(m_parent, m_object);
-    m_parent.m_clicks = 0;
+    ExpectAButton<CColorButton>(m_host, m_object);
+    m_host.m_clicks = 0;
     // Its window is gone by now.
     EXPECT_EQ(m_object->accDoDefaultAction(Number(0)), CO_E_OBJNOTCONNECTED);
-    ExpectAButton<CFreeIconButton>(m_parent, m_object);
+    ExpectAButton<CFreeIconButton>(m_host, m_object);
     EXPECT_EQ(m_object->accDoDefaultAction(Number(0)), CO_E_OBJNOTCONNECTED);
 }
 
@@ -143,7 +143,7 @@ TEST_F(AccessControls, ButtonWithoutATextIsNamedByItsLabel)
 {
     AddLabel(L"Disc");
     CFreeIconButton button;
-    ASSERT_TRUE(button.Create(L"", child_style, CRect(10, 40, 90, 80), &m_parent, clicked_id));
+    ASSERT_TRUE(button.Create(L"", child_style, CRect(10, 40, 90, 80), &m_host, clicked_id));
     ASSERT_EQ(Ask(button.m_hWnd, m_object), S_OK);
     EXPECT_EQ(NameOf(*m_object.Get()), L"Disc");
 }
@@ -151,11 +151,11 @@ TEST_F(AccessControls, ButtonWithoutATextIsNamedByItsLabel)
 TEST_F(AccessControls, ButtonMayEndInItsClick)
 {
     auto button = std::make_unique<CColorButton>();
-    ASSERT_TRUE(button->Create(L"End", child_style, CRect(10, 40, 90, 80), &m_parent, clicked_id));
+    ASSERT_TRUE(button->Create(L"End", child_style, CRect(10, 40, 90, 80), &m_host, clicked_id));
     ASSERT_EQ(Ask(button->m_hWnd, m_object), S_OK);
-    m_parent.m_onClick = [&] { button->DestroyWindow(); };
+    m_host.m_onClick = [&] { button->DestroyWindow(); };
     EXPECT_EQ(m_object->accDoDefaultAction(Number(0)), S_OK);
-    EXPECT_TRUE(tests::PumpUntil([&] { return m_parent.m_clicks == 1; }));
+    EXPECT_TRUE(tests::PumpUntil([&] { return m_host.m_clicks == 1; }));
     EXPECT_EQ(m_object->accDoDefaultAction(Number(0)), CO_E_OBJNOTCONNECTED);
     button.reset();
     EXPECT_EQ(m_object->accDoDefaultAction(Number(0)), CO_E_OBJNOTCONNECTED);
@@ -183,7 +183,7 @@ TEST_F(AccessControls, SliderSpeaksItsLevel)
 {
     AddLabel(L"&Gain:");
     CLevelSliderCtrl slider;
-    ASSERT_TRUE(slider.Create(child_style | TBS_HORZ, CRect(10, 40, 200, 70), &m_parent, 3));
+    ASSERT_TRUE(slider.Create(child_style | TBS_HORZ, CRect(10, 40, 200, 70), &m_host, 3));
     slider.SetRange(-20, 20);
     ASSERT_EQ(Ask(slider.m_hWnd, m_object), S_OK);
     EXPECT_EQ(RoleOf(*m_object.Get()), ROLE_SYSTEM_SLIDER);
@@ -194,7 +194,7 @@ TEST_F(AccessControls, SliderSpeaksItsLevel)
     slider.SetPos(10);
     EXPECT_EQ(ValueOf(*m_object.Get()), L"75%");
     slider.SetPos(10);
-    auto heard = listener.Take();
+    std::vector<Listener::Event> heard = listener.Take();
     EXPECT_EQ(Times(heard, EVENT_OBJECT_VALUECHANGE, 0), 1);
     slider.SendMessage(WM_KEYDOWN, VK_HOME, 0);
     EXPECT_EQ(ValueOf(*m_object.Get()), L"0%");
@@ -258,14 +258,14 @@ TEST_F(AccessControls, ASliderLeavesToTheNativeOneWhatThatTells)
 {
     TellingClass const telling(TRACKBAR_CLASSW, TBM_SETPOS, {{EVENT_OBJECT_VALUECHANGE, CHILDID_SELF}});
     CLevelSliderCtrl slider;
-    ASSERT_TRUE(slider.SubclassWindow(telling.Create(child_style | TBS_HORZ, m_parent)));
+    ASSERT_TRUE(slider.SubclassWindow(telling.Create(child_style | TBS_HORZ, m_host)));
     Listener listener(slider.m_hWnd);
     slider.SetPos(1);
     listener.Take();
     for (int position = 2; position < 20; ++position)
     {
         slider.SetPos(position);
-        auto const heard = listener.Take();
+        std::vector<Listener::Event> const heard = listener.Take();
         EXPECT_EQ(Times(heard, EVENT_OBJECT_VALUECHANGE, 0), 1) << position;
     }
     slider.DestroyWindow();
@@ -276,12 +276,12 @@ TEST_F(AccessControls, ASliderGoesOnTellingWhereTheNativeOneDoesNot)
     // Of what is no value of its own it may tell what it likes.
     TellingClass const telling(TRACKBAR_CLASSW, TBM_SETPOS, {{EVENT_OBJECT_VALUECHANGE, 1}});
     CLevelSliderCtrl slider;
-    ASSERT_TRUE(slider.SubclassWindow(telling.Create(child_style | TBS_HORZ, m_parent)));
+    ASSERT_TRUE(slider.SubclassWindow(telling.Create(child_style | TBS_HORZ, m_host)));
     Listener listener(slider.m_hWnd);
     for (int position = 1; position < 20; ++position)
     {
         slider.SetPos(position);
-        auto const heard = listener.Take();
+        std::vector<Listener::Event> const heard = listener.Take();
         EXPECT_EQ(Times(heard, EVENT_OBJECT_VALUECHANGE, 0), 1) << position;
     }
     slider.DestroyWindow();
@@ -291,14 +291,14 @@ TEST_F(AccessControls, AListLeavesToTheNativeOneWhatThatTells)
 {
     TellingClass const telling(WC_LISTVIEWW, LVM_SETITEMSTATE, {{EVENT_OBJECT_SELECTIONADD, 2}});
     CXListCtrl list;
-    ASSERT_TRUE(list.SubclassWindow(telling.Create(child_style | LVS_REPORT, m_parent)));
+    ASSERT_TRUE(list.SubclassWindow(telling.Create(child_style | LVS_REPORT, m_host)));
     list.InsertColumn(0, L"name", LVCFMT_LEFT, 100, 0);
     list.InsertItem(0, L"one");
     list.InsertItem(1, L"two");
     Listener listener(list.m_hWnd);
     auto const heard = [&](UINT state, DWORD event) {
         list.SetItemState(1, state, LVIS_SELECTED);
-        auto const events = listener.Take();
+        std::vector<Listener::Event> const events = listener.Take();
         return Times(events, event, 2);
     };
     heard(LVIS_SELECTED, EVENT_OBJECT_SELECTION);
@@ -322,7 +322,7 @@ TEST_F(AccessControls, BrowseEditHasItsButton)
 {
     AddLabel(L"&Folder:");
     BrowseEdit field;
-    ASSERT_TRUE(field.Create(child_style | WS_BORDER | ES_AUTOHSCROLL, CRect(10, 40, 200, 62), &m_parent, 4));
+    ASSERT_TRUE(field.Create(child_style | WS_BORDER | ES_AUTOHSCROLL, CRect(10, 40, 200, 62), &m_host, 4));
     ASSERT_EQ(Ask(field.m_hWnd, m_object), S_OK);
     EXPECT_EQ(CountOf(*m_object.Get()), 0) << "no browser yet";
     field.PrepareFileOpenBrowser(L"", nullptr, nullptr);
@@ -357,7 +357,7 @@ TEST_F(AccessControls, MultiselectIsAGroupOfAListAndButtons)
     CIdNameMultiselectCtrl control;
     control.SetTheMap({{1, L"left"}, {2, L"right"}, {3, L"both"}});
     control.SetSelection(2);
-    ASSERT_TRUE(control.Create(L"", child_style, CRect(10, 40, 200, 200), &m_parent, 5));
+    ASSERT_TRUE(control.Create(L"", child_style, CRect(10, 40, 200, 200), &m_host, 5));
     control.SetWindowPos(nullptr, 0, 0, 180, 150, SWP_NOMOVE | SWP_NOZORDER);
     ASSERT_EQ(Ask(control.m_hWnd, m_object), S_OK);
     EXPECT_EQ(RoleOf(*m_object.Get()), ROLE_SYSTEM_GROUPING);

@@ -1,9 +1,9 @@
 // The accessible objects of what belongs to the report list: its header, and its combo with the drop window.
 
-#include "ListTestHost.h"
-#include "access_AccessTest.h"
-
 #include <map>
+
+#include "access_AccessTest.h"
+#include "ListTestHost.h"
 
 using access_tests::ActionOf;
 using access_tests::Ask;
@@ -48,7 +48,7 @@ TEST_F(AccessListParts, HeaderTellsTitlesAndMarks)
     EXPECT_EQ(StatesOf(*m_object.Get(), 2) & STATE_SYSTEM_MIXED, STATE_SYSTEM_MIXED);
     m_list.SetHeaderCheckedState(1, XHC_SORT_DESCENDING);
     EXPECT_EQ(ValueOf(*m_object.Get(), 2), L"Descending");
-    auto const heard = listener.Take();
+    std::vector<Listener::Event> const heard = listener.Take();
     EXPECT_EQ(Times(heard, EVENT_OBJECT_STATECHANGE, 2), 3);
     VARIANT to{};
     ASSERT_EQ(m_object->accNavigate(NAVDIR_RIGHT, Number(1), &to), S_OK);

@@ -1,9 +1,9 @@
 // The accessible objects of the report list.
 
-#include "ListTestHost.h"
-#include "access_AccessTest.h"
-
 #include <vector>
+
+#include "access_AccessTest.h"
+#include "ListTestHost.h"
 
 using access_tests::Held;
 using access_tests::Listener;
@@ -142,7 +142,7 @@ TEST_F(AccessObjects, TellOfChanges)
     m_list.SetItemText(2, 2, L"new");
     m_list.SetItemState(3, LVIS_FOCUSED | LVIS_SELECTED, LVIS_FOCUSED | LVIS_SELECTED);
     m_list.DeleteItem(0);
-    auto const heard = listener.Take();
+    std::vector<Listener::Event> const heard = listener.Take();
     listener.events = heard;
     EXPECT_TRUE(listener.Heard(EVENT_OBJECT_STATECHANGE, {1, 1}));
     EXPECT_TRUE(listener.Heard(EVENT_OBJECT_VALUECHANGE, {2, 2}));

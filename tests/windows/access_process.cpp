@@ -1,19 +1,19 @@
 // A client in a process of its own, as a program that reads the screen is: what it learns of a list in another process
 // by that list's window alone, and what is left in both afterwards.
 
-#include "ChildProgram.h"
-#include "GdiHandleCount.h"
-#include "GuardedHeap.h"
-#include "ListTestHost.h"
-#include "access_AccessTest.h"
-#include "list/table/XTableCtrl.h"
-
 #include <array>
 #include <filesystem>
 #include <fstream>
 #include <map>
 #include <optional>
 #include <string>
+
+#include "access_AccessTest.h"
+#include "ChildProgram.h"
+#include "GdiHandleCount.h"
+#include "GuardedHeap.h"
+#include "list/table/XTableCtrl.h"
+#include "ListTestHost.h"
 
 using access_tests::ActionOf;
 using access_tests::Ask;
@@ -229,11 +229,11 @@ protected:
     void SetUp() override
     {
         ASSERT_TRUE(m_child.Started());
-        ASSERT_TRUE(tests::PumpUntil([&] { return (m_parent = ::FindWindowW(nullptr, m_title.c_str())) != nullptr; }));
+        ASSERT_TRUE(tests::PumpUntil([&] { return (m_host = ::FindWindowW(nullptr, m_title.c_str())) != nullptr; }));
         ASSERT_TRUE(tests::PumpUntil([&] {
-            m_list = ::GetDlgItem(m_parent, tests::TestList::id);
+            m_list = ::GetDlgItem(m_host, tests::TestList::id);
             return m_list != nullptr && ::SendMessageW(m_list, LVM_GETITEMCOUNT, 0, 0) == rows &&
-                   ::IsWindowVisible(m_parent);
+                   ::IsWindowVisible(m_host);
         }));
         DWORD process = 0;
         ::GetWindowThreadProcessId(m_list, &process);
@@ -244,7 +244,7 @@ protected:
     void TearDown() override
     {
         m_object.Release();
-        ::PostMessageW(m_parent, end_program, 0, 0);
+        ::PostMessageW(m_host, end_program, 0, 0);
         EXPECT_TRUE(m_child.WaitForEnd());
         EXPECT_EQ(m_child.ExitCode(), 0U) << m_child.ErrorText();
         ::CloseHandle(m_process);
@@ -256,7 +256,7 @@ protected:
     access_tests::ComScope m_com;
     std::wstring m_title = L"A list for process " + std::to_wstring(::GetCurrentProcessId());
     tests::ChildProgram m_child;
-    HWND m_parent = nullptr;
+    HWND m_host = nullptr;
     HWND m_list = nullptr;
     HANDLE m_process = nullptr;
     Held<IAccessible> m_object;
@@ -320,7 +320,7 @@ TEST_F(AccessProcess, KeptObjectsAnswerAfterTheListsEnd)
 {
     Held<IAccessible> row;
     ASSERT_TRUE(TakeChild(*m_object.Get(), 2, row));
-    ::SendMessageW(m_parent, end_list, 0, 0);
+    ::SendMessageW(m_host, end_list, 0, 0);
     BSTR text = nullptr;
     long count = 0;
     EXPECT_EQ(row->get_accName(Number(0), &text), CO_E_OBJNOTCONNECTED);
@@ -345,9 +345,9 @@ void AccessProcess::ExpectNothingLeft(int firstValue, int step)
     };
     call(200);
     ask();
-    auto const blocks = [&] { return ::SendMessageW(m_parent, ask_blocks, 0, 0); };
+    auto const blocks = [&] { return ::SendMessageW(m_host, ask_blocks, 0, 0); };
     LRESULT const blocksBefore = blocks();
-    LRESULT const farObjects = ::SendMessageW(m_parent, ask_gdi_objects, 0, 0);
+    LRESULT const farObjects = ::SendMessageW(m_host, ask_gdi_objects, 0, 0);
     int const nearObjects = tests::GdiHandleCount();
     DWORD const farHandles = Handles(m_process);
     DWORD const nearHandles = Handles(::GetCurrentProcess());
@@ -356,7 +356,7 @@ void AccessProcess::ExpectNothingLeft(int firstValue, int step)
     // Objects go with the messages by which the client lets go of them.
     EXPECT_TRUE(tests::PumpUntil([&] { return blocks() <= blocksBefore; }))
         << blocks() << " blocks, before there were " << blocksBefore;
-    EXPECT_EQ(::SendMessageW(m_parent, ask_gdi_objects, 0, 0), farObjects);
+    EXPECT_EQ(::SendMessageW(m_host, ask_gdi_objects, 0, 0), farObjects);
     EXPECT_EQ(tests::GdiHandleCount(), nearObjects);
     // A few of the system's own threads and pipes come and go.
     constexpr DWORD of_the_system = 20;
@@ -427,7 +427,7 @@ TEST_F(AccessProcessTable, KeptObjectsAnswerAfterTheTablesEnd)
 {
     Held<IAccessible> row;
     ASSERT_TRUE(TakeChild(*m_object.Get(), 2, row));
-    ::SendMessageW(m_parent, end_list, 0, 0);
+    ::SendMessageW(m_host, end_list, 0, 0);
     BSTR text = nullptr;
     long count = 0;
     EXPECT_EQ(row->get_accName(Number(0), &text), CO_E_OBJNOTCONNECTED);

@@ -1,12 +1,12 @@
 // The workbench, as a program that reads the screen walks through it.
 
-#include "access_AccessTest.h"
-
 #include <filesystem>
 #include <fstream>
 #include <set>
 #include <string>
 #include <vector>
+
+#include "access_AccessTest.h"
 
 using access_tests::Ask;
 using access_tests::CountOf;

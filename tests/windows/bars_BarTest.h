@@ -1,9 +1,9 @@
 #pragma once
 // What the tests of bars share: a frame with bars that notes what it is asked.
 
-#include <afxwin.h>
 #include <afxcmn.h>
 #include <afxext.h>
+#include <afxwin.h>
 
 #include <gtest/gtest.h>
 
@@ -12,10 +12,10 @@
 #include <string>
 #include <vector>
 
+#include "bars_resource.h"
 #include "Input.h"
 #include "Pump.h"
 #include "TestApp.h"
-#include "bars_resource.h"
 
 namespace bars
 {

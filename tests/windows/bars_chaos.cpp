@@ -1,13 +1,13 @@
 // A frame with bars that show, hide, resize and end each other and the frame whenever they are laid out, updated or
 // told of a command.
 
-#include "chaos_Chaos.h"
-
 #include <afxcmn.h>
 #include <afxext.h>
 #include <afxpriv.h>
 
 #include <vector>
+
+#include "chaos_Chaos.h"
 
 namespace
 {
@@ -131,8 +131,10 @@ protected:
         case 4:
             Note("another side");
             if (CControlBar * const bar = AnyBar())
+            {
                 bar->SetBarStyle(static_cast<DWORD>(CBRS_ALIGN_LEFT << Pick(4)) |
                                  static_cast<DWORD>(CBRS_BORDER_LEFT << Pick(4)) | CBRS_TOOLTIPS | CBRS_FLYBY);
+            }
             break;
         case 5:
             Note("size");

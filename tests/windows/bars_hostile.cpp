@@ -1,9 +1,8 @@
 // Walks over the children of a window whose handlers end children, or the window itself.
 
-#include "bars_BarTest.h"
-
 #include <afxpriv.h>
 
+#include "bars_BarTest.h"
 #include "GuardedHeap.h"
 
 namespace

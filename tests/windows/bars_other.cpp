@@ -1,7 +1,6 @@
 // Dialog bars, bars of bands, and frames with all of them many times over.
 
 #include "bars_BarTest.h"
-
 #include "GdiHandleCount.h"
 #include "ThreadWindows.h"
 

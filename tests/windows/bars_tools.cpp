@@ -1,7 +1,6 @@
 // Tool bars: their buttons from resources, commands and updates, rows, tips and the frame's messages.
 
 #include "bars_BarTest.h"
-
 #include "GuardedHeap.h"
 #include "ImportPatch.h"
 

@@ -1,7 +1,6 @@
 // The rectangle that is tracked: by the real mouse, with Escape, its handles.
 
 #include "bars_BarTest.h"
-
 #include "ScopedWindow.h"
 
 namespace

@@ -1,17 +1,16 @@
 // The small controls, with hosts that change, destroy and delete them in every message that they get. A native control
 // does not stand its own end within its procedure, so the host ends one only while none of its native code runs.
 
-#include "chaos_Chaos.h"
+#include <algorithm>
+#include <vector>
 
 #include "Bitmap.h"
+#include "chaos_Chaos.h"
 #include "controls/ColorButton.h"
 #include "controls/ComboBoxX.h"
 #include "controls/FreeIconButton.h"
 #include "controls/LevelSliderCtrl.h"
 #include "controls/ListBoxX.h"
-
-#include <algorithm>
-#include <vector>
 
 namespace
 {
@@ -306,7 +305,7 @@ public:
     /// to 18 objects, and stays.
     static constexpr int kept_by_the_system = has_rows ? 60 : 2 * Chaos::kept_by_the_system;
 
-    explicit World(unsigned int seed) : Chaos(seed), m_deeds(*this), m_holder(*this) {}
+    explicit World(unsigned int seed) : Chaos(seed), m_deeds(*this), m_host(*this) {}
     ~World() override
     {
         while (!m_controls.empty())
@@ -329,7 +328,7 @@ protected:
             Note("make");
             auto * const made = new Chaotic<Control>(*this);
             ++made->m_held;
-            m_deeds.Create(*made, &m_holder);
+            m_deeds.Create(*made, &m_host);
             --made->m_held;
             return;
         }
@@ -396,7 +395,7 @@ protected:
 
 private:
     Deeds m_deeds;
-    Holder<Control> m_holder;
+    Holder<Control> m_host;
     std::vector<Chaotic<Control> *> m_controls;
 };
 } // namespace

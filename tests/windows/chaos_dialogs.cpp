@@ -1,16 +1,15 @@
 // Dialogs whose host destroys, deletes and changes them in every message that they get.
 
-#include "chaos_Chaos.h"
-
 #include <afxpriv.h>
-
-#include "MemoryPreferenceStore.h"
-#include "dialogs/Dialog3d.h"
-#include "resource.h"
 
 #include <algorithm>
 #include <memory>
 #include <vector>
+
+#include "chaos_Chaos.h"
+#include "dialogs/Dialog3d.h"
+#include "MemoryPreferenceStore.h"
+#include "resource.h"
 
 namespace
 {
@@ -331,8 +330,10 @@ void DialogWorld::Control(ChaosDialog & dialog)
             ::DestroyWindow(name);
     }
     else
+    {
         ::CreateWindowW(L"STATIC", L"new", WS_CHILD | WS_VISIBLE, Pick(50), Pick(50), 40, 20, dialog.m_hWnd,
                         reinterpret_cast<HMENU>(static_cast<UINT_PTR>(IDC_NAME)), nullptr, nullptr);
+    }
 }
 
 void DialogWorld::Modal(ChaosDialog & dialog)

@@ -1,11 +1,10 @@
 // Segment displays whose host changes and ends them in every message that they get.
 
-#include "chaos_Chaos.h"
-
-#include "segments/DigiStatic.h"
-
 #include <algorithm>
 #include <vector>
+
+#include "chaos_Chaos.h"
+#include "segments/DigiStatic.h"
 
 namespace
 {

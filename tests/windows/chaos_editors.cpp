@@ -1,11 +1,10 @@
 // A host that does its worst while an editor of the report list opens, is at work and ends.
 
-#include "chaos_Chaos.h"
-
-#include "ListTestHost.h"
-
 #include <memory>
 #include <utility>
+
+#include "chaos_Chaos.h"
+#include "ListTestHost.h"
 
 namespace
 {
@@ -124,7 +123,7 @@ protected:
                 m_list->SetComboBox(row, 2, entries, 1 + i % 3, 1);
         }
     }
-    void EndList() { auto const list = std::move(m_list); }
+    void EndList() { std::unique_ptr<List> const list = std::move(m_list); }
 
     void Operate() override
     {

@@ -1,14 +1,13 @@
 // Stand-alone frames and frames of documents, with views and users that open, change and end them in every message and
 // call that they get.
 
-#include "chaos_Chaos.h"
-
 #include <afxcontrolbars.h>
 #include <afxext.h>
 
 #include <algorithm>
 #include <vector>
 
+#include "chaos_Chaos.h"
 #include "MemoryPreferenceStore.h"
 #include "windows/StandaloneFrameUser.h"
 #include "windows/StandaloneFrameWnd.h"

@@ -1,10 +1,5 @@
 // A parent whose every handler, callback, painter and comparator does something random to the list that it hears from.
 
-#include "GuardedHeap.h"
-#include "ListTestHost.h"
-#include "Pump.h"
-#include "list/XListRowPool.h"
-
 #include <gtest/gtest.h>
 
 #include <array>
@@ -13,6 +8,11 @@
 #include <random>
 #include <set>
 #include <string>
+
+#include "GuardedHeap.h"
+#include "list/XListRowPool.h"
+#include "ListTestHost.h"
+#include "Pump.h"
 
 namespace
 {

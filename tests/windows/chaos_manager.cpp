@@ -1,12 +1,11 @@
 // The window manager, with windows that end, come and change in every message that they get.
 
-#include "chaos_Chaos.h"
-
-#include "MemoryPreferenceStore.h"
-#include "windows/FensterManager.h"
-
 #include <algorithm>
 #include <vector>
+
+#include "chaos_Chaos.h"
+#include "MemoryPreferenceStore.h"
+#include "windows/FensterManager.h"
 
 namespace
 {
@@ -53,7 +52,7 @@ private:
 class ManagerWorld : public chaos::Chaos
 {
 public:
-    explicit ManagerWorld(unsigned int seed) : Chaos(seed), m_holder(*this), m_others(CountedManager::Count())
+    explicit ManagerWorld(unsigned int seed) : Chaos(seed), m_host(*this), m_others(CountedManager::Count())
     {
         CVeskBase::SetPreferenceVesk(&m_store);
     }
@@ -92,7 +91,7 @@ private:
     CString Name() { return CString(L"window ") + static_cast<wchar_t>(L'a' + Pick(5)); }
 
     MemoryPreferenceStore m_store;
-    Holder m_holder;
+    Holder m_host;
     std::vector<ManagedWindow *> m_windows;
     std::size_t m_others;
 };
@@ -160,7 +159,7 @@ void ManagerWorld::Operate()
     {
         Note("make");
         CFensterManager::window_t const type = types[Pick(static_cast<int>(std::size(types)))];
-        new ManagedWindow(*this, Name(), type, &m_holder);
+        new ManagedWindow(*this, Name(), type, &m_host);
         return;
     }
     ManagedWindow & window = *m_windows[static_cast<std::size_t>(Pick(static_cast<int>(m_windows.size())))];

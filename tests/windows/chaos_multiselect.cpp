@@ -13,16 +13,15 @@
 //   when its scroll bars come or go with a row.
 // Nor does a window's object stand its end while the window is being made or ends, or that of a member is being made.
 
-#include "chaos_Chaos.h"
-
-#include "controls/XEditBrowseCtrl.h"
-#include "frame/RegisteredMessages.h"
-
 #include <algorithm>
 #include <memory>
 #include <set>
 #include <type_traits>
 #include <vector>
+
+#include "chaos_Chaos.h"
+#include "controls/XEditBrowseCtrl.h"
+#include "frame/RegisteredMessages.h"
 
 namespace
 {

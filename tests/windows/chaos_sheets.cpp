@@ -1,18 +1,17 @@
 // Property sheets, with pages and sheets that end, delete, add, remove and select each other in every message and
 // notification that they get.
 
-#include "chaos_Chaos.h"
-
-#include "MemoryPreferenceStore.h"
-#include "dialogs/Dialog3d.h"
-#include "dialogs/PropertyPage3d.h"
-#include "dialogs/PropertySheet3d.h"
-#include "sheet_resource.h"
-
 #include <afxcmn.h>
 
 #include <algorithm>
 #include <vector>
+
+#include "chaos_Chaos.h"
+#include "dialogs/Dialog3d.h"
+#include "dialogs/PropertyPage3d.h"
+#include "dialogs/PropertySheet3d.h"
+#include "MemoryPreferenceStore.h"
+#include "sheet_resource.h"
 
 namespace
 {

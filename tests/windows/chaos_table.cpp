@@ -5,12 +5,6 @@
 // its header runs, and the edit's while it paints or tells of a change. And since the interface says so: a source is
 // asked without calling the table; only what is written runs the host's code.
 
-#include "chaos_Chaos.h"
-
-#include "MemoryPreferenceStore.h"
-#include "clipboard/Clipboard.h"
-#include "list/table/XTableCtrl.h"
-
 #include <algorithm>
 #include <filesystem>
 #include <memory>
@@ -19,6 +13,11 @@
 #include <thread>
 #include <utility>
 #include <vector>
+
+#include "chaos_Chaos.h"
+#include "clipboard/Clipboard.h"
+#include "list/table/XTableCtrl.h"
+#include "MemoryPreferenceStore.h"
 
 namespace
 {
@@ -127,10 +126,10 @@ public:
     /// Its cache of device contexts, for windows that paint within one another: grows to that size and stays.
     static constexpr int kept_by_the_system = 48;
 
-    explicit TableWorld(unsigned int seed) : Chaos(seed), m_parent(*this)
+    explicit TableWorld(unsigned int seed) : Chaos(seed), m_host(*this)
     {
         CVeskBase::SetPreferenceVesk(&m_store);
-        m_button.Create(L"b", WS_CHILD | WS_VISIBLE, CRect(5, 230, 60, 250), &m_parent, 32);
+        m_button.Create(L"b", WS_CHILD | WS_VISIBLE, CRect(5, 230, 60, 250), &m_host, 32);
         wchar_t folder[MAX_PATH] = {};
         ::GetTempPathW(MAX_PATH, folder);
         m_path = std::wstring(folder) + L"chaos-table.csv";
@@ -178,7 +177,7 @@ private:
     }
 
     MemoryPreferenceStore m_store;
-    TableHolder m_parent;
+    TableHolder m_host;
     CButton m_button;
     std::unique_ptr<ChaosTable> m_table;
     std::shared_ptr<ChaosSource> m_source;
@@ -325,7 +324,7 @@ void TableWorld::Make()
     if (OneIn(2))
         table->SetColumns(Columns(), L"chaos");
     Assign();
-    table->Open(&m_parent);
+    table->Open(&m_host);
     if (!Lives(table))
         return;
     table->SetColumns(Columns(), OneIn(2) ? L"chaos" : L"");
@@ -619,7 +618,7 @@ void TableWorld::Operate()
         Note("delete");
         if (!m_table->MustLast() && OneIn(4))
         {
-            auto const ending = std::move(m_table);
+            std::unique_ptr<ChaosTable> const ending = std::move(m_table);
         }
         break;
     case 1:

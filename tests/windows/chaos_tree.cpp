@@ -10,16 +10,15 @@
 // - While an item is deleted: it or what is below it is chosen, or gets items below it, which never ends.
 // - While all items are deleted: any of this.
 
-#include "chaos_Chaos.h"
-
-#include "controls/XTreeCtrl.h"
-#include "frame/RegisteredMessages.h"
-
 #include <algorithm>
 #include <cwchar>
 #include <set>
 #include <utility>
 #include <vector>
+
+#include "chaos_Chaos.h"
+#include "controls/XTreeCtrl.h"
+#include "frame/RegisteredMessages.h"
 
 namespace
 {

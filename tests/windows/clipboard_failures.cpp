@@ -2,14 +2,13 @@
 
 #include <afxwin.h>
 
-#include "clipboard/Clipboard.h"
+#include <memory>
 
-#include "ImportPatch.h"
-#include "TestApp.h"
+#include "clipboard/Clipboard.h"
 #include "clipboard_ClipboardTest.h"
 #include "frame/CoreLibrary.h"
-
-#include <memory>
+#include "ImportPatch.h"
+#include "TestApp.h"
 
 namespace
 {

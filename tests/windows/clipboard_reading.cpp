@@ -3,9 +3,8 @@
 #include <afxwin.h>
 
 #include "clipboard/Clipboard.h"
-
-#include "ImportPatch.h"
 #include "clipboard_ClipboardTest.h"
+#include "ImportPatch.h"
 
 namespace
 {
@@ -35,30 +34,30 @@ HANDLE WINAPI GiveOnlyWide(UINT format)
 class ClipboardReading : public clipboard_tests::ClipboardTest
 {
 protected:
-    CString text{L"before"};
+    CString m_text{L"before"};
 };
 } // namespace
 
 TEST_F(ClipboardReading, AnEmptyClipboardGivesNothing)
 {
-    EXPECT_FALSE(Clipboard::StringFromClipboard(text));
-    EXPECT_EQ(text, L"before");
+    EXPECT_FALSE(Clipboard::StringFromClipboard(m_text));
+    EXPECT_EQ(m_text, L"before");
 }
 
 TEST_F(ClipboardReading, OtherDataGivesNothing)
 {
     ASSERT_TRUE(Clipboard::DataToClipboard(L"InstrumentUiTests.Data", "x", 1));
-    EXPECT_FALSE(Clipboard::StringFromClipboard(text));
-    EXPECT_EQ(text, L"before");
+    EXPECT_FALSE(Clipboard::StringFromClipboard(m_text));
+    EXPECT_EQ(m_text, L"before");
 }
 
 TEST_F(ClipboardReading, NarrowTextIsConverted)
 {
     PutNarrow("abc \xE4");
-    ASSERT_TRUE(Clipboard::StringFromClipboard(text));
+    ASSERT_TRUE(Clipboard::StringFromClipboard(m_text));
     wchar_t expected[8];
     int const length = ::MultiByteToWideChar(CP_ACP, 0, "abc \xE4", -1, expected, 8);
-    EXPECT_EQ(text, CString(expected, length - 1));
+    EXPECT_EQ(m_text, CString(expected, length - 1));
 }
 
 TEST_F(ClipboardReading, WideTextComesAsItsNarrowConversion)
@@ -69,9 +68,9 @@ TEST_F(ClipboardReading, WideTextComesAsItsNarrowConversion)
     ASSERT_GT(::WideCharToMultiByte(CP_ACP, 0, wide.c_str(), -1, narrow, sizeof(narrow), nullptr, nullptr), 0);
     wchar_t expected[64];
     ::MultiByteToWideChar(CP_ACP, 0, narrow, -1, expected, 64);
-    ASSERT_TRUE(Clipboard::StringFromClipboard(text));
-    EXPECT_EQ(text, expected);
-    EXPECT_NE(text, wide.c_str()) << "not all of it is in the narrow code page";
+    ASSERT_TRUE(Clipboard::StringFromClipboard(m_text));
+    EXPECT_EQ(m_text, expected);
+    EXPECT_NE(m_text, wide.c_str()) << "not all of it is in the narrow code page";
 }
 
 TEST_F(ClipboardReading, TheWideTextStaysIfNoNarrowOneCanBeHad)
@@ -80,8 +79,8 @@ TEST_F(ClipboardReading, TheWideTextStaysIfNoNarrowOneCanBeHad)
     ASSERT_TRUE(patch.Done());
     std::wstring const wide = L"A \u03A9 \u4E2D";
     Put(CF_UNICODETEXT, wide.c_str(), (wide.size() + 1) * sizeof(wchar_t));
-    EXPECT_TRUE(Clipboard::StringFromClipboard(text));
-    EXPECT_EQ(text, wide.c_str());
+    EXPECT_TRUE(Clipboard::StringFromClipboard(m_text));
+    EXPECT_EQ(m_text, wide.c_str());
 }
 
 TEST_F(ClipboardReading, FormatsWithoutDataGiveNothing)
@@ -89,16 +88,16 @@ TEST_F(ClipboardReading, FormatsWithoutDataGiveNothing)
     tests::ImportPatch const patch(L"instrument_ui.dll", "GetClipboardData", &GiveNothing);
     ASSERT_TRUE(patch.Done());
     PutNarrow("abc");
-    EXPECT_FALSE(Clipboard::StringFromClipboard(text));
-    EXPECT_EQ(text, L"before");
+    EXPECT_FALSE(Clipboard::StringFromClipboard(m_text));
+    EXPECT_EQ(m_text, L"before");
 }
 
 TEST_F(ClipboardReading, TheClipboardKeepsItsTextAndIsClosed)
 {
     PutNarrow("abc");
-    ASSERT_TRUE(Clipboard::StringFromClipboard(text));
-    ASSERT_TRUE(Clipboard::StringFromClipboard(text));
-    EXPECT_EQ(text, L"abc");
+    ASSERT_TRUE(Clipboard::StringFromClipboard(m_text));
+    ASSERT_TRUE(Clipboard::StringFromClipboard(m_text));
+    EXPECT_EQ(m_text, L"abc");
     EXPECT_EQ(WideText(), L"abc");
 }
 
@@ -113,8 +112,8 @@ TEST_F(ClipboardReading, TextOf1024BytesIsConvertedInMemoryOfItsOwn)
             narrow.back() = 'y';
         PutNarrow(narrow);
         g_conversions.clear();
-        ASSERT_TRUE(Clipboard::StringFromClipboard(text));
-        EXPECT_EQ(text, CString(narrow.c_str())) << length;
+        ASSERT_TRUE(Clipboard::StringFromClipboard(m_text));
+        EXPECT_EQ(m_text, CString(narrow.c_str())) << length;
         ASSERT_EQ(g_conversions.size(), 1U);
         EXPECT_EQ(g_conversions[0].room, length < 1024 ? 1024 : static_cast<int>(length) + 1) << length;
     }
@@ -128,7 +127,7 @@ TEST_F(ClipboardReading, ShorterTextIsConvertedInOneBufferForAll)
     for (std::size_t const length : {1U, 1023U, 1024U})
     {
         PutNarrow(std::string(length, 'x'));
-        ASSERT_TRUE(Clipboard::StringFromClipboard(text));
+        ASSERT_TRUE(Clipboard::StringFromClipboard(m_text));
     }
     ASSERT_EQ(g_conversions.size(), 3U);
     EXPECT_EQ(g_conversions[0].target, g_conversions[1].target);
@@ -138,7 +137,7 @@ TEST_F(ClipboardReading, ShorterTextIsConvertedInOneBufferForAll)
 TEST_F(ClipboardReading, TextWithoutTerminatorEndsWithItsMemory)
 {
     Put(CF_TEXT, "abcdefgh", 8);
-    ASSERT_TRUE(Clipboard::StringFromClipboard(text));
-    EXPECT_EQ(text.Left(7), L"abcdefg");
-    EXPECT_LE(text.GetLength(), 8);
+    ASSERT_TRUE(Clipboard::StringFromClipboard(m_text));
+    EXPECT_EQ(m_text.Left(7), L"abcdefg");
+    EXPECT_LE(m_text.GetLength(), 8);
 }

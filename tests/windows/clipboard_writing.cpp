@@ -2,9 +2,8 @@
 
 #include <afxwin.h>
 
-#include "clipboard/Clipboard.h"
-
 #include "../logic/clipboard_HtmlBlockReader.h"
+#include "clipboard/Clipboard.h"
 #include "clipboard_ClipboardTest.h"
 
 namespace
@@ -80,7 +79,7 @@ TEST_F(ClipboardWriting, AnHtmlFragmentIsReadByItsOffsets)
                                          "<!--EndFragment -->\r\n"
                                          "</body>\r\n"
                                          "</html>");
-    auto const reading = html_block::Read({bytes.data(), bytes.size()});
+    std::optional<html_block::Reading> const reading = html_block::Read({bytes.data(), bytes.size()});
     ASSERT_TRUE(reading);
     EXPECT_EQ(reading->fragment, "<!--StartFragment -->\r\n<b>\xC2\xB5V</b>\r\n");
     EXPECT_FALSE(Has(CF_UNICODETEXT)) << "no plain text was given";
@@ -90,7 +89,7 @@ TEST_F(ClipboardWriting, AnHtmlDocumentKeepsItsTags)
 {
     ASSERT_TRUE(Clipboard::HtmlToClipboard(L"<html><body><p>x</p></body></html>", nullptr));
     std::vector<char> const bytes = Bytes(HtmlFormat());
-    auto const reading = html_block::Read({bytes.data(), bytes.size()});
+    std::optional<html_block::Reading> const reading = html_block::Read({bytes.data(), bytes.size()});
     ASSERT_TRUE(reading);
     EXPECT_EQ(reading->html, "<html><body><p>x</p></body></html>");
     std::string const text(bytes.data());

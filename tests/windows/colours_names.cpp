@@ -1,15 +1,8 @@
 // Palettes and names of the colour tables. The names are kept from the first call on, so each language is tried in a
 // process of its own.
 
-#include "colours/Farbtabellen.h"
-
-#include <afxwin.h>
 #include <afxcolorbar.h>
-
-#include "ChildProgram.h"
-#include "GdiHandleCount.h"
-#include "ImportPatch.h"
-#include "ResourceReader.h"
+#include <afxwin.h>
 
 #include <gtest/gtest.h>
 
@@ -18,6 +11,12 @@
 #include <fstream>
 #include <string>
 #include <vector>
+
+#include "ChildProgram.h"
+#include "colours/Farbtabellen.h"
+#include "GdiHandleCount.h"
+#include "ImportPatch.h"
+#include "ResourceReader.h"
 
 namespace
 {
@@ -102,8 +101,10 @@ void CompareScopeNames(bool german, Differences & differences)
     for (Name const & name : ListedNames())
     {
         if (name.isScope)
+        {
             differences.Expect("scope colour " + std::to_string(name.index), NameInColourBars(name.colour),
                                german ? name.german : name.english);
+        }
     }
 }
 
@@ -112,9 +113,11 @@ void CompareScaleNames(bool german, Differences & differences)
     for (Name const & name : ListedNames())
     {
         if (!name.isScope)
+        {
             differences.Expect("scale " + std::to_string(name.index),
                                Utf8(SpektrogrammFarbtabellenName(static_cast<unsigned int>(name.index))),
                                german ? name.german : name.english);
+        }
     }
 }
 

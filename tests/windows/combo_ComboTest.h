@@ -14,14 +14,13 @@
 #include <vector>
 
 #include "Input.h"
-#include "Pump.h"
-#include "ScopedWindow.h"
-
 #include "list/combo/AdvComboBox.h"
 #include "list/combo/AdvComboEdit.h"
 #include "list/combo/DropListBox.h"
 #include "list/combo/DropScrollBar.h"
 #include "list/combo/DropWnd.h"
+#include "Pump.h"
+#include "ScopedWindow.h"
 
 namespace combo_test
 {
@@ -136,7 +135,7 @@ private:
 class ComboTest : public testing::Test
 {
 protected:
-    CRect const place = CRect(20, 20, 170, 42);
+    CRect const m_place = CRect(20, 20, 170, 42);
 
     void SetUp() override { tests::MoveMouse(CPoint(900, 900)); }
 
@@ -144,7 +143,7 @@ protected:
     void MakeCombo(DWORD style = CBS_DROPDOWNLIST, std::vector<std::wstring> const & items = Numbered(10))
     {
         m_combo = std::make_unique<TestCombo>(&m_host);
-        ASSERT_TRUE(m_combo->Create(WS_CHILD | WS_VISIBLE | style, place, &m_host, combo_id));
+        ASSERT_TRUE(m_combo->Create(WS_CHILD | WS_VISIBLE | style, m_place, &m_host, combo_id));
         for (std::wstring const & item : items)
             m_combo->AddString(item.c_str());
         m_combo->BringWindowToTop();

@@ -1,16 +1,15 @@
 // Combos whose parent deletes, destroys, opens, closes and empties them in every notification, call and message.
 
-#include "chaos_Chaos.h"
-
-#include "list/combo/AdvComboBox.h"
-#include "list/combo/AdvComboEdit.h"
-#include "list/combo/DropListBox.h"
-#include "list/combo/DropWnd.h"
-
 #include <algorithm>
 #include <memory>
 #include <string>
 #include <vector>
+
+#include "chaos_Chaos.h"
+#include "list/combo/AdvComboBox.h"
+#include "list/combo/AdvComboEdit.h"
+#include "list/combo/DropListBox.h"
+#include "list/combo/DropWnd.h"
 
 namespace
 {
@@ -51,7 +50,7 @@ private:
 class ComboWorld : public chaos::Chaos
 {
 public:
-    explicit ComboWorld(unsigned int seed) : Chaos(seed), m_holder(*this) {}
+    explicit ComboWorld(unsigned int seed) : Chaos(seed), m_host(*this) {}
     ~ComboWorld() override
     {
         while (!m_combos.empty())
@@ -87,7 +86,7 @@ private:
     void ChangeItems(ChaoticCombo & combo);
 
     static constexpr int s_others = 8; // what the input method and others keep
-    ComboHolder m_holder;
+    ComboHolder m_host;
     std::vector<ChaoticCombo *> m_combos;
 };
 
@@ -137,7 +136,7 @@ LRESULT ComboHolder::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 
 void ComboWorld::Make()
 {
-    auto combo = std::make_unique<ChaoticCombo>(*this, &m_holder);
+    auto combo = std::make_unique<ChaoticCombo>(*this, &m_host);
     for (int i = 0; i < 6; ++i)
         combo->AddString((L"item " + std::to_wstring(i)).c_str());
     combo->SetItemDisabled(Pick(6), true);
@@ -146,7 +145,7 @@ void ComboWorld::Make()
     if (OneIn(2))
         combo->ModifyComboFlags(0, XListCtrl::combo_auto_suggest);
     DWORD const style = WS_CHILD | WS_VISIBLE | (OneIn(2) ? CBS_DROPDOWN | CBS_AUTOHSCROLL : CBS_DROPDOWNLIST);
-    combo->Create(style, CRect(10, 10, 160, 32) + CPoint(0, 40 * Pick(5)), &m_holder, 1 + Pick(100));
+    combo->Create(style, CRect(10, 10, 160, 32) + CPoint(0, 40 * Pick(5)), &m_host, 1 + Pick(100));
     m_combos.push_back(combo.release());
     HWND const window = m_combos.back()->m_hWnd;
     ::SetWindowPos(window, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
@@ -259,7 +258,7 @@ void ComboWorld::Operate()
         break;
     case 12:
         Note("leave");
-        m_holder.SetFocus();
+        m_host.SetFocus();
         break;
     case 13:
         Note("wheel");

@@ -1,9 +1,8 @@
 // Combo box and drop-down in the sets of colours.
 
-#include "combo_ComboTest.h"
-
 #include "Bitmap.h"
 #include "colours/ControlColors.h"
+#include "combo_ComboTest.h"
 
 using namespace combo_test;
 
@@ -29,12 +28,12 @@ constexpr ControlColorSet adapting_sets[] = {ControlColorSet::dark, ControlColor
 TEST_F(ComboColors, ComboIsTheSets)
 {
     MakeCombo();
-    auto const before = ShotOf(*m_combo);
+    std::unique_ptr<tests::Canvas> const before = ShotOf(*m_combo);
     for (ControlColorSet const set : adapting_sets)
     {
         control_colors::UseFor(m_combo->m_hWnd, set);
         ControlColors const colors = control_colors::Of(set);
-        auto const shot = ShotOf(*m_combo);
+        std::unique_ptr<tests::Canvas> const shot = ShotOf(*m_combo);
         EXPECT_EQ(shot->Pixel(5, 5), colors.window);
         int const button = shot->Width() - 2 - ::GetSystemMetrics(SM_CXHSCROLL);
         CRect const area(button, 2, shot->Width() - 2, shot->Height() - 2);
@@ -59,7 +58,7 @@ TEST_F(ComboColors, DropDownIsTheCombos)
         ControlColors const colors = control_colors::Of(set);
         m_combo->ShowDropDown(TRUE);
         ASSERT_NE(m_combo->m_drop, nullptr);
-        auto const shot = ShotOf(*m_combo->GetDropWnd());
+        std::unique_ptr<tests::Canvas> const shot = ShotOf(*m_combo->GetDropWnd());
         EXPECT_EQ(shot->Pixel(shot->Width() / 2, 0), colors.dropFrame);
         EXPECT_GT(shot->Count(colors.window), 200);
         EXPECT_GT(shot->Count(colors.windowText), 10);

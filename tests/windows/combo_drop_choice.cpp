@@ -1,7 +1,6 @@
 // Opening, choosing and closing with real mouse and keyboard, and what the parent hears of it.
 
 #include "combo_ComboTest.h"
-
 #include "MessageRecorder.h"
 
 using namespace combo_test;

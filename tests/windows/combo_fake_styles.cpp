@@ -1,5 +1,4 @@
 #include "combo_FakeStyles.h"
-
 #include "list/VisualStyles.h"
 
 namespace combo_test

@@ -1,7 +1,6 @@
 // Hosts that end the combo, its parent or its drop window, or take its items away, from within what they hear.
 
 #include "combo_ComboTest.h"
-
 #include "GuardedHeap.h"
 
 using namespace combo_test;

@@ -1,7 +1,6 @@
 // Creation and end, the fields' beginnings, and items from resources.
 
 #include "combo_ComboTest.h"
-
 #include "GdiHandleCount.h"
 #include "MessageRecorder.h"
 #include "resource.h"
@@ -107,7 +106,7 @@ TEST_F(ComboLife, LinesOfTheControlsStringAreItems)
 {
     TestCombo combo(&m_host);
     combo.AddString(L"gone");
-    ASSERT_TRUE(combo.Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWNLIST, place, &m_host, IDS_COMBO_LINES));
+    ASSERT_TRUE(combo.Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWNLIST, m_place, &m_host, IDS_COMBO_LINES));
     ASSERT_EQ(combo.GetCount(), 2);
     CString text;
     EXPECT_EQ(combo.GetLBText(0, text), 6);
@@ -122,7 +121,7 @@ TEST_F(ComboLife, WithoutAStringTheItemsStay)
 {
     TestCombo combo(&m_host);
     combo.AddString(L"stays");
-    ASSERT_TRUE(combo.Create(WS_CHILD | CBS_DROPDOWNLIST, place, &m_host, combo_id));
+    ASSERT_TRUE(combo.Create(WS_CHILD | CBS_DROPDOWNLIST, m_place, &m_host, combo_id));
     EXPECT_EQ(combo.GetCount(), 1);
 }
 
@@ -144,7 +143,7 @@ TEST_F(ComboLife, TakesTheParentsFont)
     } parent;
     parent.m_font = &font;
     TestCombo combo(&parent);
-    ASSERT_TRUE(combo.Create(WS_CHILD | CBS_DROPDOWNLIST, place, &parent, combo_id));
+    ASSERT_TRUE(combo.Create(WS_CHILD | CBS_DROPDOWNLIST, m_place, &parent, combo_id));
     ASSERT_NE(combo.m_font, nullptr);
     EXPECT_EQ(combo.GetComboFont(), combo.m_font.get());
     EXPECT_NE(combo.m_font->GetSafeHandle(), font.GetSafeHandle());
@@ -159,7 +158,7 @@ TEST_F(ComboLife, TakesTheParentsFont)
 TEST_F(ComboLife, EditFieldComesWithTheActivationOfTheChild)
 {
     TestCombo combo(&m_host);
-    ASSERT_TRUE(combo.Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWN | CBS_AUTOHSCROLL, place, &m_host, combo_id));
+    ASSERT_TRUE(combo.Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWN | CBS_AUTOHSCROLL, m_place, &m_host, combo_id));
     EXPECT_EQ(combo.m_edit, nullptr);
     combo.SetWindowText(L"free");
     combo.BringWindowToTop();
@@ -181,7 +180,7 @@ TEST_F(ComboLife, EditFieldComesWithTheActivationOfTheChild)
 TEST_F(ComboLife, EditFieldFillsTheFrameWithoutTheInsideFlag)
 {
     TestCombo combo(&m_host);
-    ASSERT_TRUE(combo.Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWN, place, &m_host, combo_id));
+    ASSERT_TRUE(combo.Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWN, m_place, &m_host, combo_id));
     combo.ModifyComboFlags(0, XListCtrl::combo_edit_plain);
     EXPECT_EQ(combo.m_comboFlags, 1u);
     combo.BringWindowToTop();
@@ -200,7 +199,7 @@ TEST_F(ComboLife, OnlyADropDownHasAnEditField)
     for (DWORD const style : {DWORD(CBS_DROPDOWNLIST), DWORD(CBS_SIMPLE), DWORD(0)})
     {
         TestCombo combo(&m_host);
-        ASSERT_TRUE(combo.Create(WS_CHILD | WS_VISIBLE | style, place, &m_host, combo_id));
+        ASSERT_TRUE(combo.Create(WS_CHILD | WS_VISIBLE | style, m_place, &m_host, combo_id));
         combo.BringWindowToTop();
         EXPECT_EQ(combo.m_edit, nullptr) << style;
     }
@@ -241,7 +240,7 @@ TEST_F(ComboLife, PopupIsMadeWithTheClassName)
 TEST_F(ComboLife, EditAsksForTheForegroundOnceAMomentLater)
 {
     TestCombo combo(&m_host);
-    ASSERT_TRUE(combo.Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWN, place, &m_host, combo_id));
+    ASSERT_TRUE(combo.Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWN, m_place, &m_host, combo_id));
     combo.BringWindowToTop();
     ASSERT_NE(combo.m_edit, nullptr);
     tests::MessageRecorder recorder({WM_TIMER});
@@ -254,7 +253,7 @@ TEST_F(ComboLife, EditAsksForTheForegroundOnceAMomentLater)
 TEST_F(ComboLife, FirstPaintGivesTheEditTextAndState)
 {
     TestCombo combo(&m_host);
-    ASSERT_TRUE(combo.Create(WS_CHILD | WS_VISIBLE | WS_DISABLED | CBS_DROPDOWN, place, &m_host, combo_id));
+    ASSERT_TRUE(combo.Create(WS_CHILD | WS_VISIBLE | WS_DISABLED | CBS_DROPDOWN, m_place, &m_host, combo_id));
     combo.AddString(L"one");
     combo.BringWindowToTop();
     combo.SetCurSel(0);
@@ -287,7 +286,7 @@ TEST_F(ComboLife, DestroyedComboTakesItsDropWindowAlong)
     EXPECT_EQ(WindowCount(), windows);
 
     // The object serves a window again.
-    ASSERT_TRUE(m_combo->Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWN, place, &m_host, combo_id));
+    ASSERT_TRUE(m_combo->Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWN, m_place, &m_host, combo_id));
     m_combo->BringWindowToTop();
     EXPECT_NE(m_combo->m_edit, nullptr);
     EXPECT_TRUE(Open());
@@ -309,7 +308,7 @@ TEST_F(ComboLife, CombosLeaveNothingBehind)
 {
     auto const cycle = [this](DWORD style) {
         TestCombo combo(&m_host);
-        ASSERT_TRUE(combo.Create(WS_CHILD | WS_VISIBLE | style, place, &m_host, combo_id));
+        ASSERT_TRUE(combo.Create(WS_CHILD | WS_VISIBLE | style, m_place, &m_host, combo_id));
         combo.AddString(L"a");
         combo.BringWindowToTop();
         combo.UpdateWindow();

@@ -1,10 +1,9 @@
 // What combo and drop window paint, with visual styles and without, compared by pixel; texts only by whether there are
 // any.
 
+#include "Bitmap.h"
 #include "combo_ComboTest.h"
 #include "combo_FakeStyles.h"
-
-#include "Bitmap.h"
 #include "GdiHandleCount.h"
 
 using namespace combo_test;
@@ -33,7 +32,7 @@ protected:
 TEST_F(ComboPaint, PlainFrameIsSunken)
 {
     MakeCombo();
-    auto const shot = Shot();
+    std::unique_ptr<tests::Canvas> const shot = Shot();
     int const right = shot->Width() - 1;
     int const bottom = shot->Height() - 1;
     EXPECT_EQ(shot->Pixel(0, 0), Color(COLOR_BTNSHADOW));
@@ -49,15 +48,15 @@ TEST_F(ComboPaint, PlainFrameIsSunken)
 TEST_F(ComboPaint, PlainButtonIsTheSystems)
 {
     MakeCombo();
-    tests::Canvas expected(place.Width(), place.Height());
+    tests::Canvas expected(m_place.Width(), m_place.Height());
     for (UINT const state : {UINT(DFCS_SCROLLDOWN), UINT(0x4201), UINT(DFCS_SCROLLDOWN | DFCS_INACTIVE)})
     {
         m_combo->EnableWindow(state != (DFCS_SCROLLDOWN | DFCS_INACTIVE));
         m_combo->ShowDropDown(state == 0x4201);
-        CRect button(place.Width() - ButtonWidth() - 2, 2, place.Width() - 2, place.Height() - 2);
+        CRect button(m_place.Width() - ButtonWidth() - 2, 2, m_place.Width() - 2, m_place.Height() - 2);
         CRect drawn = button;
         expected.Dc().DrawFrameControl(drawn, DFC_SCROLL, state);
-        auto const shot = Shot();
+        std::unique_ptr<tests::Canvas> const shot = Shot();
         int different = 0;
         for (int y = button.top; y < button.bottom; ++y)
         {
@@ -72,7 +71,7 @@ TEST_F(ComboPaint, FocusHighlightsTheTextOfAClosedList)
 {
     MakeCombo();
     m_combo->SetCurSel(1);
-    CRect const field(2, 1, place.Width() - ButtonWidth() - 2, place.Height() - 1);
+    CRect const field(2, 1, m_place.Width() - ButtonWidth() - 2, m_place.Height() - 1);
     auto shot = Shot();
     EXPECT_EQ(shot->Count(Color(COLOR_HIGHLIGHT)), 0);
     EXPECT_EQ(shot->Pixel(field.right - 1, 5), Color(COLOR_WINDOW));
@@ -109,9 +108,9 @@ TEST_F(ComboPaint, DisabledComboIsGrey)
     MakeCombo();
     m_combo->SetCurSel(1);
     m_combo->EnableWindow(FALSE);
-    auto const shot = Shot();
+    std::unique_ptr<tests::Canvas> const shot = Shot();
     EXPECT_EQ(shot->Pixel(3, 4), Color(COLOR_BTNFACE));
-    EXPECT_EQ(shot->Pixel(place.Width() - ButtonWidth() - 6, 8), Color(COLOR_BTNFACE));
+    EXPECT_EQ(shot->Pixel(m_place.Width() - ButtonWidth() - 6, 8), Color(COLOR_BTNFACE));
     EXPECT_GT(shot->Count(Color(COLOR_GRAYTEXT), CRect(3, 3, 60, 19)), 10);
 }
 
@@ -121,8 +120,8 @@ TEST_F(ComboPaint, StyledFrameHasTheThemesColourAndElseBlack)
     MakeCombo();
     g_colorsFail = true;
     auto const shot = Shot();
-    for (CPoint const point :
-         {CPoint(0, 0), CPoint(50, 0), CPoint(0, 10), CPoint(place.Width() - 1, 10), CPoint(50, place.Height() - 1)})
+    for (CPoint const point : {CPoint(0, 0), CPoint(50, 0), CPoint(0, 10), CPoint(m_place.Width() - 1, 10),
+                               CPoint(50, m_place.Height() - 1)})
     {
         EXPECT_EQ(shot->Pixel(point.x, point.y), RGB(0, 0, 0));
     }
@@ -163,10 +162,10 @@ TEST_F(ComboPaint, DisabledStyledComboHasAnOutline)
     g_colorsFail = true;
     m_combo->EnableWindow(FALSE);
     auto const shot = Shot();
-    int const buttonLeft = place.Width() - ButtonWidth() - 1;
+    int const buttonLeft = m_place.Width() - ButtonWidth() - 1;
     EXPECT_EQ(shot->Pixel(1, 1), RGB(255, 255, 255));
     EXPECT_EQ(shot->Pixel(60, 1), RGB(255, 255, 255));
-    EXPECT_EQ(shot->Pixel(60, place.Height() - 2), RGB(255, 255, 255));
+    EXPECT_EQ(shot->Pixel(60, m_place.Height() - 2), RGB(255, 255, 255));
     EXPECT_EQ(shot->Pixel(buttonLeft - 1, 8), RGB(255, 255, 255));
     EXPECT_EQ(shot->Pixel(2, 2), Color(COLOR_BTNFACE));
 }
@@ -180,7 +179,7 @@ TEST_F(ComboPaint, DropWindowHasAFrameAndNothingUnpainted)
         m_combo->SetMaxVisible(6);
         ASSERT_TRUE(Open());
         CWnd & drop = *m_combo->GetDropWnd();
-        auto const shot = ShotOf(drop);
+        std::unique_ptr<tests::Canvas> const shot = ShotOf(drop);
         int const right = shot->Width() - 1;
         int const bottom = shot->Height() - 1;
         COLORREF const frame = Color(COLOR_3DDKSHADOW);
@@ -207,7 +206,7 @@ TEST_F(ComboPaint, PlainGripIsTheSystems)
 {
     MakeCombo();
     ASSERT_TRUE(Open());
-    auto const shot = ShotOf(*m_combo->GetDropWnd());
+    std::unique_ptr<tests::Canvas> const shot = ShotOf(*m_combo->GetDropWnd());
     tests::Canvas expected(shot->Width(), shot->Height());
     CRect grip(shot->Width() - ::GetSystemMetrics(SM_CXVSCROLL), shot->Height() - ::GetSystemMetrics(SM_CYVSCROLL),
                shot->Width(), shot->Height());

@@ -1,16 +1,15 @@
 // The popup list of entries: what it tells its parent, and how it follows mouse, keys and scroll bar.
 
-#include "frame/InternalMessages.h"
-#include "list/XComboList.h"
-
-#include "Input.h"
-#include "MessageRecorder.h"
-#include "Pump.h"
-#include "ScopedWindow.h"
-
 #include <gtest/gtest.h>
 
 #include <string>
+
+#include "frame/InternalMessages.h"
+#include "Input.h"
+#include "list/XComboList.h"
+#include "MessageRecorder.h"
+#include "Pump.h"
+#include "ScopedWindow.h"
 
 namespace
 {

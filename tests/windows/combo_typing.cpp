@@ -45,13 +45,13 @@ protected:
         return texts;
     }
 
-    std::vector<std::wstring> const fruit = {L"apple", L"apple pie", L"apple juice", L"pear", L"pea"};
+    std::vector<std::wstring> const m_fruit = {L"apple", L"apple pie", L"apple juice", L"pear", L"pea"};
 };
 } // namespace
 
 TEST_F(ComboTyping, WithoutFlagsTextStaysAsTyped)
 {
-    MakeTyping(0, fruit);
+    MakeTyping(0, m_fruit);
     ASSERT_TRUE(TypeUntil(L"a", [this] { return Text() == L"a"; }));
     EXPECT_FALSE(m_combo->GetDroppedState());
     EXPECT_EQ(m_host.TakeHeard(), (Heard{"EDITUPDATE", "EDITCHANGE"}));
@@ -60,7 +60,7 @@ TEST_F(ComboTyping, WithoutFlagsTextStaysAsTyped)
 
 TEST_F(ComboTyping, FreeTextIsNoSelection)
 {
-    MakeTyping(0, fruit);
+    MakeTyping(0, m_fruit);
     m_combo->SetCurSel(1);
     ASSERT_TRUE(TypeUntil(L"x", [this] { return Text() == L"x"; }));
     EXPECT_EQ(m_combo->GetCurSel(), -1);
@@ -70,7 +70,7 @@ TEST_F(ComboTyping, FreeTextIsNoSelection)
 
 TEST_F(ComboTyping, AppendsTheRestOfTheFirstItem)
 {
-    MakeTyping(XListCtrl::combo_auto_append, fruit);
+    MakeTyping(XListCtrl::combo_auto_append, m_fruit);
     ASSERT_TRUE(TypeUntil(L"a", [this] { return Text() == L"apple"; }));
     EXPECT_EQ(m_combo->GetEditSel(), static_cast<DWORD>(MAKELONG(1, 5)));
     // The change by the appended text is heard as well.
@@ -87,7 +87,7 @@ TEST_F(ComboTyping, AppendsWithTheCaseOfTheItems)
 
 TEST_F(ComboTyping, BackspaceDoesNotCompleteAgain)
 {
-    MakeTyping(XListCtrl::combo_auto_append, fruit);
+    MakeTyping(XListCtrl::combo_auto_append, m_fruit);
     ASSERT_TRUE(TypeUntil(L"p", [this] { return Text() == L"pear"; }));
     ASSERT_TRUE(KeyUntil(VK_BACK, [this] { return Text() == L"p"; }));
     EXPECT_EQ(m_combo->m_autoAppendArmed, 0u);
@@ -99,7 +99,7 @@ TEST_F(ComboTyping, BackspaceDoesNotCompleteAgain)
 
 TEST_F(ComboTyping, EmptyTextIsHeardByNobodyWithFlag8)
 {
-    MakeTyping(XListCtrl::combo_auto_append, fruit);
+    MakeTyping(XListCtrl::combo_auto_append, m_fruit);
     m_combo->m_edit->SetWindowText(L"q");
     m_host.m_heard.clear();
     m_combo->m_edit->SetWindowText(L"");
@@ -108,7 +108,7 @@ TEST_F(ComboTyping, EmptyTextIsHeardByNobodyWithFlag8)
 
 TEST_F(ComboTyping, RightAtTheEndCompletes)
 {
-    MakeTyping(XListCtrl::combo_auto_append, fruit);
+    MakeTyping(XListCtrl::combo_auto_append, m_fruit);
     m_combo->ModifyComboFlags(XListCtrl::combo_auto_append, 0);
     m_combo->m_edit->SetWindowText(L"pea");
     m_combo->ModifyComboFlags(0, XListCtrl::combo_auto_append);
@@ -134,7 +134,7 @@ TEST_F(ComboTyping, RightOfAListIsConsumedWithFlag8)
 
 TEST_F(ComboTyping, SuggestsWhatSeveralItemsStartWith)
 {
-    MakeTyping(XListCtrl::combo_auto_suggest, fruit);
+    MakeTyping(XListCtrl::combo_auto_suggest, m_fruit);
     ASSERT_TRUE(TypeUntil(L"a", [this] { return m_combo->GetDroppedState(); }));
     EXPECT_EQ(Offered(), (std::vector<std::wstring>{L"apple", L"apple pie", L"apple juice"}));
     EXPECT_EQ(List().GetCurSel(), 0);
@@ -151,7 +151,7 @@ TEST_F(ComboTyping, SuggestsWhatSeveralItemsStartWith)
 
 TEST_F(ComboTyping, DoesNotSuggestTheTypedItself)
 {
-    MakeTyping(XListCtrl::combo_auto_suggest, fruit);
+    MakeTyping(XListCtrl::combo_auto_suggest, m_fruit);
     m_combo->m_edit->SetWindowText(L"apple");
     ASSERT_TRUE(m_combo->GetDroppedState());
     EXPECT_EQ(Offered(), (std::vector<std::wstring>{L"apple pie", L"apple juice"}));
@@ -159,7 +159,7 @@ TEST_F(ComboTyping, DoesNotSuggestTheTypedItself)
 
 TEST_F(ComboTyping, DoesNotSuggestASingleItem)
 {
-    MakeTyping(XListCtrl::combo_auto_suggest, fruit);
+    MakeTyping(XListCtrl::combo_auto_suggest, m_fruit);
     m_combo->m_edit->SetWindowText(L"pea");
     EXPECT_FALSE(m_combo->GetDroppedState());
     EXPECT_EQ(m_host.TakeHeard(), (Heard{"EDITUPDATE", "EDITCHANGE"}));
@@ -167,7 +167,7 @@ TEST_F(ComboTyping, DoesNotSuggestASingleItem)
 
 TEST_F(ComboTyping, SuggestionsEndWithTheText)
 {
-    MakeTyping(XListCtrl::combo_auto_suggest, fruit);
+    MakeTyping(XListCtrl::combo_auto_suggest, m_fruit);
     ASSERT_TRUE(TypeUntil(L"a", [this] { return m_combo->GetDroppedState(); }));
     m_host.m_heard.clear();
     ASSERT_TRUE(KeyUntil(VK_BACK, [this] { return Text().empty(); }));
@@ -195,7 +195,7 @@ TEST_F(ComboTyping, ASuggestionChosenByMouseIsTheText)
 
 TEST_F(ComboTyping, AppendAndSuggestTogether)
 {
-    MakeTyping(XListCtrl::combo_auto_append | XListCtrl::combo_auto_suggest, fruit);
+    MakeTyping(XListCtrl::combo_auto_append | XListCtrl::combo_auto_suggest, m_fruit);
     ASSERT_TRUE(TypeUntil(L"a", [this] { return m_combo->GetDroppedState(); }));
     EXPECT_EQ(Text(), L"apple");
     EXPECT_EQ(m_combo->GetEditSel(), static_cast<DWORD>(MAKELONG(1, 5)));
@@ -205,7 +205,7 @@ TEST_F(ComboTyping, AppendAndSuggestTogether)
 
 TEST_F(ComboTyping, TextSetWithoutTheFocusIsNotCompleted)
 {
-    MakeCombo(CBS_DROPDOWN, fruit);
+    MakeCombo(CBS_DROPDOWN, m_fruit);
     m_combo->ModifyComboFlags(0, XListCtrl::combo_auto_append | XListCtrl::combo_auto_suggest);
     m_combo->SetWindowText(L"a");
     EXPECT_EQ(Text(), L"a");

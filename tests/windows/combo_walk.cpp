@@ -1,9 +1,9 @@
 // A random walk over a combo: keys, wheel, pointer, changes of items, openings. After each input, items and selection
 // are compared with a model that is written from the combo's rules alone.
 
-#include "combo_ComboTest.h"
-
 #include <random>
+
+#include "combo_ComboTest.h"
 
 using namespace combo_test;
 

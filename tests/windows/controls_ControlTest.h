@@ -1,13 +1,6 @@
 #pragma once
 // What the tests of the combo box and the list box with numbered rows share.
 
-#include "Bitmap.h"
-#include "Input.h"
-#include "MessageRecorder.h"
-#include "Pump.h"
-#include "ScopedWindow.h"
-#include "ThreadWindows.h"
-
 #include <gtest/gtest.h>
 
 #include <functional>
@@ -15,6 +8,13 @@
 #include <map>
 #include <type_traits>
 #include <utility>
+
+#include "Bitmap.h"
+#include "Input.h"
+#include "MessageRecorder.h"
+#include "Pump.h"
+#include "ScopedWindow.h"
+#include "ThreadWindows.h"
 
 namespace controls
 {

@@ -1,15 +1,15 @@
 #pragma once
 // A multiselect whose protected members a test may use, its parent, and the dialog.
 
-#include "Pump.h"
-#include "ScopedWindow.h"
-#include "controls/IdNameMultiselectDlg.h"
-#include "frame/RegisteredMessages.h"
-
 #include <gtest/gtest.h>
 
 #include <functional>
 #include <vector>
+
+#include "controls/IdNameMultiselectDlg.h"
+#include "frame/RegisteredMessages.h"
+#include "Pump.h"
+#include "ScopedWindow.h"
 
 namespace tests
 {

@@ -1,12 +1,12 @@
 #pragma once
 // A tree whose protected members a test may use, and its parent.
 
-#include "ScopedWindow.h"
-#include "controls/XTreeCtrl.h"
-#include "frame/RegisteredMessages.h"
-
 #include <functional>
 #include <vector>
+
+#include "controls/XTreeCtrl.h"
+#include "frame/RegisteredMessages.h"
+#include "ScopedWindow.h"
 
 namespace tests
 {

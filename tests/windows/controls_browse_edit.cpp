@@ -1,20 +1,19 @@
 // The browse edit: files by the system's dialog, and the multiselect as a drop-down.
 
-#include "controls_ControlTest.h"
-#include "controls_MultiselectTest.h"
-
-#include "GdiHandleCount.h"
-#include "GuardedHeap.h"
-#include "ImportPatch.h"
-#include "Input.h"
-#include "Pump.h"
-#include "controls/XEditBrowseCtrl.h"
-
 #include <gtest/gtest.h>
 
 #include <clocale>
 #include <memory>
 #include <string>
+
+#include "controls/XEditBrowseCtrl.h"
+#include "controls_ControlTest.h"
+#include "controls_MultiselectTest.h"
+#include "GdiHandleCount.h"
+#include "GuardedHeap.h"
+#include "ImportPatch.h"
+#include "Input.h"
+#include "Pump.h"
 
 namespace
 {
@@ -125,18 +124,18 @@ class BrowseEditTest : public testing::Test
 protected:
     void SetUp() override
     {
-        m_edit = std::make_unique<BrowseEdit>();
-        ASSERT_TRUE(m_edit->Create(WS_CHILD | WS_VISIBLE | WS_BORDER, CRect(10, 10, 210, 34), m_host, 5));
-        m_edit->SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(::GetStockObject(DEFAULT_GUI_FONT)));
+        m_browse = std::make_unique<BrowseEdit>();
+        ASSERT_TRUE(m_browse->Create(WS_CHILD | WS_VISIBLE | WS_BORDER, CRect(10, 10, 210, 34), m_host, 5));
+        m_browse->SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(::GetStockObject(DEFAULT_GUI_FONT)));
     }
     void PrepareNames()
     {
-        m_edit->SetTheMap({{1, L"A"}, {2, L"B"}, {3, L"C"}});
-        m_edit->PrepareIdNameBrowser();
+        m_browse->SetTheMap({{1, L"A"}, {2, L"B"}, {3, L"C"}});
+        m_browse->PrepareIdNameBrowser();
     }
     int WidthOf(CString const & text)
     {
-        CClientDC dc(m_edit.get());
+        CClientDC dc(m_browse.get());
         HGDIOBJ const former = ::SelectObject(dc, ::GetStockObject(DEFAULT_GUI_FONT));
         CSize const size = dc.GetTextExtent(text);
         ::SelectObject(dc, former);
@@ -144,17 +143,17 @@ protected:
     }
     CString Shown(Ids const & selection)
     {
-        m_edit->SetSelection(selection);
-        m_edit->UpdateSelectionText();
-        return m_edit->Text();
+        m_browse->SetSelection(selection);
+        m_browse->UpdateSelectionText();
+        return m_browse->Text();
     }
     /// Presses the button and has the action done once the drop-down is up.
     void BrowseNames(std::function<void(tests::MultiselectParts const &)> action)
     {
         tests::DoInDialog(
-            m_edit->m_dialog, [this] { m_edit->OnBrowse(); },
+            m_browse->m_dialog, [this] { m_browse->OnBrowse(); },
             [&](tests::MultiselectParts const & parts) {
-                m_edit->m_dialog.GetWindowRect(&m_dropDown);
+                m_browse->m_dialog.GetWindowRect(&m_dropDown);
                 action(parts);
             });
         tests::PumpPosted();
@@ -173,13 +172,13 @@ protected:
                 Command(dialog, button);
             },
             [&] { return FileDialogWindow() != nullptr && NameField(FileDialogWindow()) != nullptr; });
-        m_edit->OnBrowse();
+        m_browse->OnBrowse();
         EXPECT_FALSE(later.Failed());
         tests::PumpPosted();
     }
 
     BrowseParent m_host;
-    std::unique_ptr<BrowseEdit> m_edit;
+    std::unique_ptr<BrowseEdit> m_browse;
     CRect m_dropDown;
     CString m_title;
 };
@@ -218,74 +217,74 @@ TEST_F(BrowseEditTest, TwoNamesAreJoinedIfTheyFitAndElseCut)
     EXPECT_EQ(Shown({1, 2}), L"A, B");
     // The field is as wide as the text and the room of 50 that stays free, and then one less.
     int const exact = WidthOf(L"A, ") + WidthOf(L"B") + 50;
-    m_edit->SetWindowPos(nullptr, 0, 0, exact, 24, SWP_NOMOVE | SWP_NOZORDER);
-    EXPECT_EQ(m_edit->Text(), L"A, B");
-    m_edit->SetWindowPos(nullptr, 0, 0, exact - 1, 24, SWP_NOMOVE | SWP_NOZORDER);
-    EXPECT_EQ(m_edit->Text(), L"A, \u2026") << "resizing shows the text anew";
+    m_browse->SetWindowPos(nullptr, 0, 0, exact, 24, SWP_NOMOVE | SWP_NOZORDER);
+    EXPECT_EQ(m_browse->Text(), L"A, B");
+    m_browse->SetWindowPos(nullptr, 0, 0, exact - 1, 24, SWP_NOMOVE | SWP_NOZORDER);
+    EXPECT_EQ(m_browse->Text(), L"A, \u2026") << "resizing shows the text anew";
 }
 
 TEST_F(BrowseEditTest, AnUnknownIdAloneGivesAnEmptyField)
 {
     PrepareNames();
-    EXPECT_EQ(m_edit->Text(), nothing_selected);
+    EXPECT_EQ(m_browse->Text(), nothing_selected);
     EXPECT_EQ(Shown({99}), L"");
     EXPECT_EQ(Shown({}), nothing_selected);
 }
 
 TEST_F(BrowseEditTest, AnEmptyMapGivesTheEmptyTextWhateverIsSelected)
 {
-    m_edit->PrepareIdNameBrowser();
+    m_browse->PrepareIdNameBrowser();
     EXPECT_EQ(Shown({1, 2}), nothing_selected);
     EXPECT_EQ(Shown({-1}), nothing_selected);
-    m_edit->AddItem(1, L"A");
+    m_browse->AddItem(1, L"A");
     EXPECT_EQ(Shown({1, 2}), L"A, ");
-    m_edit->ResetTheMap();
-    m_edit->UpdateSelectionText();
-    EXPECT_EQ(m_edit->Text(), nothing_selected);
+    m_browse->ResetTheMap();
+    m_browse->UpdateSelectionText();
+    EXPECT_EQ(m_browse->Text(), nothing_selected);
 }
 
 TEST_F(BrowseEditTest, ASelectionOfAllHasATextOfItsOwn)
 {
     PrepareNames();
-    m_edit->SetSelectionAll();
-    EXPECT_EQ(m_edit->TheSelection(), (Ids{-1}));
-    m_edit->UpdateSelectionText();
-    CString const all = m_edit->Text();
+    m_browse->SetSelectionAll();
+    EXPECT_EQ(m_browse->TheSelection(), (Ids{-1}));
+    m_browse->UpdateSelectionText();
+    CString const all = m_browse->Text();
     EXPECT_TRUE(all == L"(alle)" || all == L"(all)" || all == L"(todos)") << all.GetLength();
-    m_edit->SetSelectionNone();
-    m_edit->UpdateSelectionText();
+    m_browse->SetSelectionNone();
+    m_browse->UpdateSelectionText();
     BrowseNames([](tests::MultiselectParts const & parts) {
         for (int row = 0; row < 3; ++row)
             parts.Tick(row, true);
         parts.Command(32806);
     });
-    EXPECT_EQ(m_edit->TheSelection(), (Ids{-1, 1, 2, 3}));
-    EXPECT_EQ(m_edit->Text(), all);
+    EXPECT_EQ(m_browse->TheSelection(), (Ids{-1, 1, 2, 3}));
+    EXPECT_EQ(m_browse->Text(), all);
 }
 
 TEST_F(BrowseEditTest, SettersOfTheSelectionLeaveTheText)
 {
     PrepareNames();
-    m_edit->SetSelection(2);
-    EXPECT_EQ(m_edit->TheSelection(), (Ids{2}));
-    EXPECT_EQ(m_edit->Text(), nothing_selected);
-    m_edit->UpdateSelectionText();
-    EXPECT_EQ(m_edit->Text(), L"B");
-    m_edit->SetSelectionAll();
-    m_edit->SetSelectionNone();
-    EXPECT_EQ(m_edit->Text(), L"B");
+    m_browse->SetSelection(2);
+    EXPECT_EQ(m_browse->TheSelection(), (Ids{2}));
+    EXPECT_EQ(m_browse->Text(), nothing_selected);
+    m_browse->UpdateSelectionText();
+    EXPECT_EQ(m_browse->Text(), L"B");
+    m_browse->SetSelectionAll();
+    m_browse->SetSelectionNone();
+    EXPECT_EQ(m_browse->Text(), L"B");
 }
 
 TEST_F(BrowseEditTest, TheDropDownHangsBelowTheFieldAndIsAsHighAsItsFactor)
 {
     PrepareNames();
     CRect field;
-    m_edit->GetWindowRect(&field);
+    m_browse->GetWindowRect(&field);
     ASSERT_EQ(field.Width(), 200);
     BrowseNames([](tests::MultiselectParts const & parts) { parts.Command(32805); });
     EXPECT_EQ(m_dropDown, CRect(field.left, field.bottom, field.right, field.bottom + 220));
-    m_edit->PrepareLongIdNameBrowser();
-    EXPECT_EQ(m_edit->m_dropHeightFactor, 2.1f);
+    m_browse->PrepareLongIdNameBrowser();
+    EXPECT_EQ(m_browse->m_dropHeightFactor, 2.1f);
     BrowseNames([](tests::MultiselectParts const & parts) { parts.Command(32805); });
     // 420, less what the factor is short of 2.1.
     EXPECT_EQ(m_dropDown.Height(), static_cast<int>(200.0f * 2.1f));
@@ -295,17 +294,17 @@ TEST_F(BrowseEditTest, TheDropDownHangsBelowTheFieldAndIsAsHighAsItsFactor)
 TEST_F(BrowseEditTest, AnAcceptedDropDownChangesTheSelectionAndTells)
 {
     PrepareNames();
-    m_edit->SetNotifyTag(77);
+    m_browse->SetNotifyTag(77);
     BrowseNames([](tests::MultiselectParts const & parts) {
         parts.Tick(1, true);
         parts.Command(32806);
     });
-    EXPECT_EQ(m_edit->TheSelection(), (Ids{2}));
-    EXPECT_EQ(m_edit->Text(), L"B");
-    EXPECT_TRUE(m_edit->SelectionChanged());
+    EXPECT_EQ(m_browse->TheSelection(), (Ids{2}));
+    EXPECT_EQ(m_browse->Text(), L"B");
+    EXPECT_TRUE(m_browse->SelectionChanged());
     EXPECT_EQ(m_host.completed, (std::vector<std::pair<WPARAM, LPARAM>>{{77, 0}}));
-    m_edit->SelectionAcknowledged();
-    EXPECT_FALSE(m_edit->SelectionChanged());
+    m_browse->SelectionAcknowledged();
+    EXPECT_FALSE(m_browse->SelectionChanged());
 }
 
 TEST_F(BrowseEditTest, AfterACancelledDropDownNothingHasChanged)
@@ -320,9 +319,9 @@ TEST_F(BrowseEditTest, AfterACancelledDropDownNothingHasChanged)
         parts.Tick(0, true);
         parts.Command(32805);
     });
-    EXPECT_FALSE(m_edit->SelectionChanged()) << "also if it was true before";
-    EXPECT_EQ(m_edit->TheSelection(), (Ids{2}));
-    EXPECT_EQ(m_edit->Text(), L"B");
+    EXPECT_FALSE(m_browse->SelectionChanged()) << "also if it was true before";
+    EXPECT_EQ(m_browse->TheSelection(), (Ids{2}));
+    EXPECT_EQ(m_browse->Text(), L"B");
     EXPECT_TRUE(m_host.completed.empty());
 }
 
@@ -331,50 +330,50 @@ TEST_F(BrowseEditTest, ThePressedButtonOpensTheDropDown)
     PrepareNames();
     tests::BringToFront(m_host.m_hWnd);
     CRect field;
-    m_edit->GetWindowRect(&field);
+    m_browse->GetWindowRect(&field);
     tests::LaterActions later;
     bool opened = false;
     later.Add(
         [&] {
             opened = true;
-            m_edit->m_dialog.EndDialog(IDCANCEL);
+            m_browse->m_dialog.EndDialog(IDCANCEL);
         },
-        [&] { return m_edit->m_dialog.m_hWnd != nullptr && m_edit->m_dialog.IsWindowVisible(); });
+        [&] { return m_browse->m_dialog.m_hWnd != nullptr && m_browse->m_dialog.IsWindowVisible(); });
     tests::Click(CPoint(field.right - 8, field.CenterPoint().y));
-    EXPECT_TRUE(tests::PumpUntil([&] { return opened && m_edit->m_dialog.m_hWnd == nullptr; }));
+    EXPECT_TRUE(tests::PumpUntil([&] { return opened && m_browse->m_dialog.m_hWnd == nullptr; }));
 }
 
 TEST_F(BrowseEditTest, BrowseNowOpensOnceTheLoopIsReached)
 {
     PrepareNames();
-    m_edit->BrowseNow();
-    m_edit->BrowseNow();
-    EXPECT_EQ(m_edit->m_dialog.m_hWnd, nullptr);
+    m_browse->BrowseNow();
+    m_browse->BrowseNow();
+    EXPECT_EQ(m_browse->m_dialog.m_hWnd, nullptr);
     int opened = 0;
     tests::LaterActions later;
     later.Add(
         [&] {
             ++opened;
-            m_edit->m_dialog.EndDialog(IDCANCEL);
+            m_browse->m_dialog.EndDialog(IDCANCEL);
         },
-        [&] { return m_edit->m_dialog.m_hWnd != nullptr && m_edit->m_dialog.IsWindowVisible(); });
-    EXPECT_TRUE(tests::PumpUntil([&] { return opened == 1 && m_edit->m_dialog.m_hWnd == nullptr; }));
+        [&] { return m_browse->m_dialog.m_hWnd != nullptr && m_browse->m_dialog.IsWindowVisible(); });
+    EXPECT_TRUE(tests::PumpUntil([&] { return opened == 1 && m_browse->m_dialog.m_hWnd == nullptr; }));
 }
 
 TEST_F(BrowseEditTest, TheFieldMayEndWhileItsDropDownIsOpen)
 {
     PrepareNames();
     tests::LaterActions later;
-    BrowseEdit * const edit = m_edit.get();
+    BrowseEdit * const edit = m_browse.get();
     HWND dropDown = nullptr;
     later.Add(
         [&] {
             dropDown = edit->m_dialog.m_hWnd;
-            m_edit.reset();
+            m_browse.reset();
         },
-        [&] { return m_edit != nullptr && edit->m_dialog.m_hWnd != nullptr && edit->m_dialog.IsWindowVisible(); });
+        [&] { return m_browse != nullptr && edit->m_dialog.m_hWnd != nullptr && edit->m_dialog.IsWindowVisible(); });
     edit->OnBrowse();
-    EXPECT_EQ(m_edit, nullptr);
+    EXPECT_EQ(m_browse, nullptr);
     EXPECT_FALSE(::IsWindow(dropDown));
     tests::PumpPosted();
     EXPECT_TRUE(m_host.completed.empty());
@@ -385,48 +384,48 @@ TEST_F(BrowseEditTest, TheWindowOfTheFieldMayEndWhileItsDropDownIsOpen)
 {
     PrepareNames();
     tests::LaterActions later;
-    later.Add([&] { m_edit->DestroyWindow(); },
-              [&] { return m_edit->m_dialog.m_hWnd != nullptr && m_edit->m_dialog.IsWindowVisible(); });
-    m_edit->OnBrowse();
-    EXPECT_EQ(m_edit->m_dialog.m_hWnd, nullptr);
-    EXPECT_FALSE(m_edit->SelectionChanged());
+    later.Add([&] { m_browse->DestroyWindow(); },
+              [&] { return m_browse->m_dialog.m_hWnd != nullptr && m_browse->m_dialog.IsWindowVisible(); });
+    m_browse->OnBrowse();
+    EXPECT_EQ(m_browse->m_dialog.m_hWnd, nullptr);
+    EXPECT_FALSE(m_browse->SelectionChanged());
 }
 
 TEST_F(BrowseEditTest, AFileToOpenIsTypedAndConfirmed)
 {
     TemporaryFile const file(L"browse one.txt");
-    m_edit->PrepareFileOpenBrowser(L"Texts|*.txt||", L"txt", file.Folder());
-    m_edit->SetDlgTitle(L"Which text");
-    m_edit->SetNotifyTag(5);
+    m_browse->PrepareFileOpenBrowser(L"Texts|*.txt||", L"txt", file.Folder());
+    m_browse->SetDlgTitle(L"Which text");
+    m_browse->SetNotifyTag(5);
     std::setlocale(LC_NUMERIC, "German");
     BrowseFile(L"browse one.txt");
     EXPECT_STREQ(std::setlocale(LC_NUMERIC, nullptr), "C");
     EXPECT_EQ(m_title, L"Which text");
-    EXPECT_EQ(m_edit->Text().CompareNoCase(file.Path()), 0) << CStringA(m_edit->Text()).GetString();
-    EXPECT_EQ(m_edit->m_fileFlags, 0x1800u | 0x2000008u);
+    EXPECT_EQ(m_browse->Text().CompareNoCase(file.Path()), 0) << CStringA(m_browse->Text()).GetString();
+    EXPECT_EQ(m_browse->m_fileFlags, 0x1800u | 0x2000008u);
     EXPECT_EQ(m_host.completed, (std::vector<std::pair<WPARAM, LPARAM>>{{5, 0}}));
 }
 
 TEST_F(BrowseEditTest, ACancelledFileDialogLeavesTheFieldAndTellsNothing)
 {
     TemporaryFile const file(L"browse one.txt");
-    m_edit->PrepareFileOpenBrowser(L"Texts|*.txt||", L"txt", file.Folder());
-    m_edit->SetWindowText(L"as it was");
+    m_browse->PrepareFileOpenBrowser(L"Texts|*.txt||", L"txt", file.Folder());
+    m_browse->SetWindowText(L"as it was");
     BrowseFile(L"browse one.txt", IDCANCEL);
-    EXPECT_EQ(m_edit->Text(), L"as it was");
+    EXPECT_EQ(m_browse->Text(), L"as it was");
     EXPECT_TRUE(m_host.completed.empty());
 }
 
 TEST_F(BrowseEditTest, AFileToSaveNeedNotExist)
 {
     TemporaryFile const file(L"browse one.txt");
-    m_edit->PrepareFileSaveAsBrowser(L"Texts|*.txt||", L"txt", file.Folder());
-    m_edit->PrepareFileSaveAsBrowser(L"Texts|*.txt||", nullptr, nullptr);
-    EXPECT_STREQ(m_edit->m_defaultExtension, L"txt") << "null leaves the stored value";
-    EXPECT_EQ(CString(m_edit->m_initialDirectory), file.Folder());
+    m_browse->PrepareFileSaveAsBrowser(L"Texts|*.txt||", L"txt", file.Folder());
+    m_browse->PrepareFileSaveAsBrowser(L"Texts|*.txt||", nullptr, nullptr);
+    EXPECT_STREQ(m_browse->m_defaultExtension, L"txt") << "null leaves the stored value";
+    EXPECT_EQ(CString(m_browse->m_initialDirectory), file.Folder());
     BrowseFile(L"browse new");
-    EXPECT_EQ(m_edit->Text().CompareNoCase(file.Folder() + L"\\browse new.txt"), 0);
-    EXPECT_EQ(m_edit->m_fileFlags, 0x8004u | 0x2u | 0x2000008u);
+    EXPECT_EQ(m_browse->Text().CompareNoCase(file.Folder() + L"\\browse new.txt"), 0);
+    EXPECT_EQ(m_browse->m_fileFlags, 0x8004u | 0x2u | 0x2000008u);
     EXPECT_EQ(m_host.completed.size(), 1u);
 }
 
@@ -434,38 +433,38 @@ TEST_F(BrowseEditTest, OfSeveralFilesThoseThatAreThereAreListed)
 {
     TemporaryFile const one(L"browse one.txt");
     TemporaryFile const two(L"browse two.txt");
-    m_edit->PrepareFileOpenBrowser(L"Texts|*.txt||", L"txt", one.Folder());
-    m_edit->m_multiSelect = true;
+    m_browse->PrepareFileOpenBrowser(L"Texts|*.txt||", L"txt", one.Folder());
+    m_browse->m_multiSelect = true;
     BrowseFile(L"\"browse one.txt\" \"browse two.txt\"");
-    ASSERT_EQ(m_edit->m_pathList.GetCount(), 2);
-    EXPECT_EQ(m_edit->m_pathList.GetHead().CompareNoCase(one.Path()), 0);
-    EXPECT_EQ(m_edit->m_pathList.GetTail().CompareNoCase(two.Path()), 0);
-    EXPECT_EQ(m_edit->m_fileFlags, 0x1800u | 0x80200u | 0x2000008u);
+    ASSERT_EQ(m_browse->m_pathList.GetCount(), 2);
+    EXPECT_EQ(m_browse->m_pathList.GetHead().CompareNoCase(one.Path()), 0);
+    EXPECT_EQ(m_browse->m_pathList.GetTail().CompareNoCase(two.Path()), 0);
+    EXPECT_EQ(m_browse->m_fileFlags, 0x1800u | 0x80200u | 0x2000008u);
     EXPECT_EQ(m_host.completed.size(), 1u);
 }
 
 TEST_F(BrowseEditTest, OtherFlagsComeFromTheirSwitches)
 {
     TemporaryFile const file(L"browse one.txt");
-    m_edit->PrepareFileOpenBrowser(L"Texts|*.txt||", L"", file.Folder());
-    m_edit->m_fileMustExist = false;
-    m_edit->SetAdditionalFileFlags(OFN_FORCESHOWHIDDEN);
-    m_edit->SetAdditionalFileFlags(OFN_NOVALIDATE);
+    m_browse->PrepareFileOpenBrowser(L"Texts|*.txt||", L"", file.Folder());
+    m_browse->m_fileMustExist = false;
+    m_browse->SetAdditionalFileFlags(OFN_FORCESHOWHIDDEN);
+    m_browse->SetAdditionalFileFlags(OFN_NOVALIDATE);
     BrowseFile(L"x", IDCANCEL);
-    EXPECT_EQ(m_edit->m_fileFlags, 0x4u | 0x2000008u | OFN_FORCESHOWHIDDEN | OFN_NOVALIDATE);
-    m_edit->PrepareFileSaveAsBrowser(L"Texts|*.txt||", nullptr, nullptr);
-    m_edit->m_overwritePrompt = false;
+    EXPECT_EQ(m_browse->m_fileFlags, 0x4u | 0x2000008u | OFN_FORCESHOWHIDDEN | OFN_NOVALIDATE);
+    m_browse->PrepareFileSaveAsBrowser(L"Texts|*.txt||", nullptr, nullptr);
+    m_browse->m_overwritePrompt = false;
     BrowseFile(L"x", IDCANCEL);
-    EXPECT_EQ(m_edit->m_fileFlags, 0x8004u | 0x2000008u | OFN_FORCESHOWHIDDEN | OFN_NOVALIDATE);
+    EXPECT_EQ(m_browse->m_fileFlags, 0x8004u | 0x2000008u | OFN_FORCESHOWHIDDEN | OFN_NOVALIDATE);
 }
 
 TEST_F(BrowseEditTest, NullTextsCountAsEmpty)
 {
-    m_edit->PrepareFileOpenBrowser(L"", nullptr, nullptr);
-    m_edit->SetDefaultFilename(nullptr);
-    EXPECT_STREQ(m_edit->m_defaultExtension, L"");
-    m_edit->SetDefaultFilename(L"name.txt");
-    EXPECT_STREQ(m_edit->m_defaultFilename, L"name.txt");
+    m_browse->PrepareFileOpenBrowser(L"", nullptr, nullptr);
+    m_browse->SetDefaultFilename(nullptr);
+    EXPECT_STREQ(m_browse->m_defaultExtension, L"");
+    m_browse->SetDefaultFilename(L"name.txt");
+    EXPECT_STREQ(m_browse->m_defaultFilename, L"name.txt");
 }
 
 TEST_F(BrowseEditTest, TheFieldMayEndWhileItsButtonIsLaidOut)
@@ -562,12 +561,12 @@ TEST_F(BrowseEditTest, WithoutAWindowNothingHappens)
 
 TEST_F(BrowseEditTest, RepaintingAndOpeningLeaveNoGdiObjects)
 {
-    m_edit->PrepareFileOpenBrowser(L"", L"", L"");
+    m_browse->PrepareFileOpenBrowser(L"", L"", L"");
     PrepareNames();
     EXPECT_EQ(tests::GdiGrowth(
                   [&] {
                       for (int i = 0; i < 200; ++i)
-                          m_edit->RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_UPDATENOW);
+                          m_browse->RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_UPDATENOW);
                       BrowseNames([](tests::MultiselectParts const & parts) { parts.Command(32806); });
                   },
                   5, 3),

@@ -1,8 +1,11 @@
 // The colour button on a window: what it paints in its states, and how it notices the pointer.
 
-#include "controls/ColorButton.h"
+#include <gtest/gtest.h>
+
+#include <functional>
 
 #include "Bitmap.h"
+#include "controls/ColorButton.h"
 #include "DialogTemplate.h"
 #include "GdiHandleCount.h"
 #include "GoldenImage.h"
@@ -10,10 +13,6 @@
 #include "MessageRecorder.h"
 #include "Pump.h"
 #include "ScopedWindow.h"
-
-#include <gtest/gtest.h>
-
-#include <functional>
 
 namespace
 {

@@ -1,14 +1,13 @@
 // The set of colours that is mixed into controls.
 
-#include "controls/ColorControl.h"
-
-#include "GdiHandleCount.h"
-#include "GuardedHeap.h"
-
 #include <gtest/gtest.h>
 
 #include <memory>
 #include <vector>
+
+#include "controls/ColorControl.h"
+#include "GdiHandleCount.h"
+#include "GuardedHeap.h"
 
 namespace
 {

@@ -1,10 +1,5 @@
 // The combo box with numbered rows, completion and a tip.
 
-#include "controls/ComboBoxX.h"
-
-#include "GuardedHeap.h"
-#include "controls_ControlTest.h"
-
 #include <afxpriv.h>
 
 #include <algorithm>
@@ -12,6 +7,10 @@
 #include <memory>
 #include <utility>
 #include <vector>
+
+#include "controls/ComboBoxX.h"
+#include "controls_ControlTest.h"
+#include "GuardedHeap.h"
 
 namespace
 {

@@ -1,5 +1,11 @@
 // Five hundred openings and five thousand repaints of each small control leave nothing behind.
 
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <functional>
+#include <vector>
+
 #include "controls/ColorButton.h"
 #include "controls/ComboBoxX.h"
 #include "controls/FreeIconButton.h"
@@ -7,19 +13,12 @@
 #include "controls/ListBoxX.h"
 #include "controls/XEditBrowseCtrl.h"
 #include "controls/XTreeCtrl.h"
-
 #include "GdiHandleCount.h"
 #include "ImportPatch.h"
 #include "Pump.h"
 #include "ScopedWindow.h"
 #include "TestApp.h"
 #include "ThreadWindows.h"
-
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <functional>
-#include <vector>
 
 namespace
 {

@@ -1,16 +1,15 @@
 // The button that is nothing but an icon.
 
-#include "controls/FreeIconButton.h"
+#include <gtest/gtest.h>
 
 #include "Bitmap.h"
+#include "controls/FreeIconButton.h"
 #include "DialogTemplate.h"
 #include "GdiHandleCount.h"
 #include "GoldenImage.h"
 #include "Input.h"
 #include "Pump.h"
 #include "ScopedWindow.h"
-
-#include <gtest/gtest.h>
 
 namespace
 {

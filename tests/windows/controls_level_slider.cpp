@@ -1,8 +1,13 @@
 // The slider that shows its level.
 
-#include "controls/LevelSliderCtrl.h"
+#include <afxpriv.h>
+
+#include <gtest/gtest.h>
+
+#include <functional>
 
 #include "Bitmap.h"
+#include "controls/LevelSliderCtrl.h"
 #include "DialogTemplate.h"
 #include "GdiHandleCount.h"
 #include "GoldenImage.h"
@@ -10,12 +15,6 @@
 #include "MessageRecorder.h"
 #include "Pump.h"
 #include "ScopedWindow.h"
-
-#include <afxpriv.h>
-
-#include <gtest/gtest.h>
-
-#include <functional>
 
 namespace
 {

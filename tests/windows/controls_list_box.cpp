@@ -1,12 +1,11 @@
 // The list box with numbered rows and tips.
 
-#include "controls/ListBoxX.h"
-
-#include "controls_ControlTest.h"
-
 #include <afxpriv.h>
 
 #include <vector>
+
+#include "controls/ListBoxX.h"
+#include "controls_ControlTest.h"
 
 namespace
 {
@@ -63,7 +62,7 @@ protected:
     tests::ScopedWindow m_host{CRect(100, 100, 500, 400), WS_POPUP | WS_VISIBLE};
     OpenList m_list;
     tests::WindowCloser m_closer{m_list};
-    CString const wide{L'W', 40};
+    CString const m_wide{L'W', 40};
 };
 
 using ListBoxX = ListBoxXTest;
@@ -183,7 +182,7 @@ TEST_F(ListBoxXTip, IsForRowsThatAreTooWide)
 {
     Open();
     m_list.AddItem(L"short", 0);
-    m_list.AddItem(wide, 1);
+    m_list.AddItem(m_wide, 1);
     TOOLINFOW info{};
     info.cbSize = sizeof info;
     info.uFlags = 4;
@@ -254,7 +253,7 @@ TEST_F(ListBoxXTip, ShowsOnTheScreen)
 {
     Open();
     m_list.AddItem(L"short", 0);
-    m_list.AddItem(wide, 1);
+    m_list.AddItem(m_wide, 1);
     ASSERT_TRUE(tests::BringToFront(m_host.m_hWnd));
     ASSERT_TRUE(tests::MoveMouse(tests::ClientPoint(m_host.m_hWnd, {300, 250})));
     tests::PumpPosted();
@@ -265,7 +264,7 @@ TEST_F(ListBoxXTip, ShowsOnTheScreen)
         {
             wchar_t text[100] = L"";
             ::GetWindowTextW(tip, text, 100);
-            if (::IsWindowVisible(tip) && wide == text)
+            if (::IsWindowVisible(tip) && m_wide == text)
                 return true;
         }
         return false;
@@ -277,8 +276,8 @@ TEST_F(ListBoxXTip, ShowsOnTheScreen)
 
 TEST_F(ListBoxXHostile, EndsWithinAnyOfItsMessagesWithoutHarm)
 {
-    std::list<CString> const texts{wide, L"b"};
-    std::map<int, CString> const items{{1, wide}, {2, L"b"}};
+    std::list<CString> const texts{m_wide, L"b"};
+    std::map<int, CString> const items{{1, m_wide}, {2, L"b"}};
     using Action = std::function<void(OpenList &)>;
     auto const tip = [](OpenList & one) {
         NMTTDISPINFOW info{};

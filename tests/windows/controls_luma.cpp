@@ -1,11 +1,11 @@
 // The module's own luminance beside the platform's conversions. Built here once more: the module does not export it.
 
-#include "controls/ColorLuma.h"
-#include "controls/LumaPlatform.h"
+#include <shlwapi.h>
 
 #include <gtest/gtest.h>
 
-#include <shlwapi.h>
+#include "controls/ColorLuma.h"
+#include "controls/LumaPlatform.h"
 
 namespace
 {
@@ -37,7 +37,9 @@ TEST(LumaPlatform, ConversionsAgreeWithThePlatforms)
 {
     int compared = 0;
     for (int red = 0; red < 256; red += 15)
+    {
         for (int green = 0; green < 256; green += 17)
+        {
             for (int blue = 0; blue < 256; blue += 5)
             {
                 COLORREF const color = RGB(red, green, blue);
@@ -52,5 +54,7 @@ TEST(LumaPlatform, ConversionsAgreeWithThePlatforms)
                 ASSERT_EQ(ColorOfHls(own), ::ColorHLSToRGB(hue, luminance, saturation)) << std::hex << color;
                 ++compared;
             }
+        }
+    }
     EXPECT_EQ(compared, 18 * 16 * 52);
 }

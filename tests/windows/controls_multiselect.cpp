@@ -1,17 +1,16 @@
 // The id-name multiselect: control, list and dialog.
 
-#include "controls_MultiselectTest.h"
-
-#include "GdiHandleCount.h"
-#include "GuardedHeap.h"
-#include "Input.h"
-#include "Pump.h"
-#include "controls_ControlTest.h"
-
 #include <gtest/gtest.h>
 
 #include <memory>
 #include <random>
+
+#include "controls_ControlTest.h"
+#include "controls_MultiselectTest.h"
+#include "GdiHandleCount.h"
+#include "GuardedHeap.h"
+#include "Input.h"
+#include "Pump.h"
 
 namespace
 {
@@ -33,21 +32,21 @@ class Multiselect : public testing::Test
 protected:
     void SetUp() override
     {
-        m_control = std::make_unique<tests::TestMultiselect>();
+        m_multiselect = std::make_unique<tests::TestMultiselect>();
         // As a dialog template makes it; styles of one that is created before it has a window don't last here.
         HWND const plain = ::CreateWindowExW(0, L"BUTTON", L"", WS_CHILD | WS_VISIBLE, 10, 10, 202, 140, m_host.m_hWnd,
                                              reinterpret_cast<HMENU>(5), nullptr, nullptr);
-        ASSERT_TRUE(m_control->SubclassWindow(plain));
+        ASSERT_TRUE(m_multiselect->SubclassWindow(plain));
     }
     void Show(Map const & map, Ids const & selection)
     {
-        m_control->SetTheMap(map);
-        m_control->SetSelection(selection);
-        m_control->RedrawWindow();
-        if (m_control->m_controlsCreated)
-            m_control->RefreshContent();
+        m_multiselect->SetTheMap(map);
+        m_multiselect->SetSelection(selection);
+        m_multiselect->RedrawWindow();
+        if (m_multiselect->m_controlsCreated)
+            m_multiselect->RefreshContent();
     }
-    tests::MultiselectParts Parts() const { return tests::MultiselectParts(m_control->m_hWnd); }
+    tests::MultiselectParts Parts() const { return tests::MultiselectParts(m_multiselect->m_hWnd); }
     Events TakeEvents()
     {
         tests::PumpPosted();
@@ -55,7 +54,7 @@ protected:
     }
 
     tests::MultiselectParent m_host;
-    std::unique_ptr<tests::TestMultiselect> m_control;
+    std::unique_ptr<tests::TestMultiselect> m_multiselect;
 };
 
 /// The dialog, with what is done in it given as actions.
@@ -113,8 +112,8 @@ TEST_F(Multiselect, HasTheDefaultsAndHandlersOfItsKind)
 
 TEST_F(Multiselect, IsAnOwnerDrawnButtonWithAStaticEdge)
 {
-    EXPECT_EQ(m_control->GetStyle() & BS_TYPEMASK, static_cast<DWORD>(BS_OWNERDRAW));
-    EXPECT_NE(m_control->GetExStyle() & WS_EX_STATICEDGE, 0u);
+    EXPECT_EQ(m_multiselect->GetStyle() & BS_TYPEMASK, static_cast<DWORD>(BS_OWNERDRAW));
+    EXPECT_NE(m_multiselect->GetExStyle() & WS_EX_STATICEDGE, 0u);
 }
 
 TEST_F(Multiselect, MakesItsPartsAtTheFirstPaintOrSize)
@@ -133,11 +132,11 @@ TEST_F(Multiselect, MakesItsPartsAtTheFirstPaintOrSize)
     bound.RedrawWindow();
     EXPECT_TRUE(bound.m_controlsCreated);
     bound.DestroyWindow();
-    m_control->RedrawWindow();
-    EXPECT_TRUE(m_control->m_controlsCreated);
-    EXPECT_EQ(m_control->m_list.GetStyle() & 0x50004003u, 0x50004003u);
-    EXPECT_EQ(m_control->m_list.GetExtendedStyle() & 0x144u, 0x144u);
-    EXPECT_EQ(m_control->m_list.GetDlgCtrlID(), 32802);
+    m_multiselect->RedrawWindow();
+    EXPECT_TRUE(m_multiselect->m_controlsCreated);
+    EXPECT_EQ(m_multiselect->m_list.GetStyle() & 0x50004003u, 0x50004003u);
+    EXPECT_EQ(m_multiselect->m_list.GetExtendedStyle() & 0x144u, 0x144u);
+    EXPECT_EQ(m_multiselect->m_list.GetDlgCtrlID(), 32802);
     HWND const button = Parts().Part(select_all);
     EXPECT_EQ(::GetWindowLongW(button, GWL_STYLE) & 0x50000040, 0x50000040);
     EXPECT_NE(::SendMessageW(button, BM_GETIMAGE, IMAGE_ICON, 0), 0);
@@ -148,20 +147,20 @@ TEST_F(Multiselect, MakesItsPartsAtTheFirstPaintOrSize)
     EXPECT_STREQ(text, L"Alle abw\u00e4hlen");
     EXPECT_FALSE(::GetWindowLongW(Parts().Part(ok), GWL_STYLE) & WS_VISIBLE);
     EXPECT_FALSE(::GetWindowLongW(Parts().Part(cancel), GWL_STYLE) & WS_VISIBLE);
-    EXPECT_EQ(m_control->m_toolTip.GetToolCount(), 4);
+    EXPECT_EQ(m_multiselect->m_toolTip.GetToolCount(), 4);
 }
 
 TEST_F(Multiselect, SizesItsPartsOnePixelWithinTheClientArea)
 {
-    m_control->MoveWindow(0, 0, 122, 92); // 120 by 90 within the static edge
+    m_multiselect->MoveWindow(0, 0, 122, 92); // 120 by 90 within the static edge
     CRect client;
-    m_control->GetClientRect(&client);
+    m_multiselect->GetClientRect(&client);
     ASSERT_EQ(client.Size(), CSize(120, 90)) << client.Width() << " by " << client.Height();
     EXPECT_EQ(Parts().Place(32802), CRect(1, 1, 119, 67));
     EXPECT_EQ(Parts().Place(select_all), CRect(1, 68, 59, 89));
     EXPECT_EQ(Parts().Place(select_none), CRect(59, 68, 119, 89));
-    m_control->EnableOkCancel();
-    m_control->MoveWindow(0, 0, 123, 92);
+    m_multiselect->EnableOkCancel();
+    m_multiselect->MoveWindow(0, 0, 123, 92);
     EXPECT_EQ(Parts().Place(select_all), CRect(1, 68, 39, 89));
     EXPECT_EQ(Parts().Place(select_none), CRect(39, 68, 82, 89));
     EXPECT_EQ(Parts().Place(cancel), CRect(82, 68, 101, 89));
@@ -179,101 +178,101 @@ TEST_F(Multiselect, AnEmptyMapShowsOneRowWhoseTickIsNoSelection)
     Parts().PressAt(Parts().RowRect(0, LVIR_LABEL).CenterPoint());
     EXPECT_TRUE(Parts().IsTicked(0));
     EXPECT_EQ(TakeEvents(), (Events{{6, -1}}));
-    m_control->RetrieveSelection();
-    EXPECT_TRUE(m_control->TheSelection().empty());
-    m_control->SetEmptyMapMessage(L"nothing");
-    m_control->RefreshContent();
+    m_multiselect->RetrieveSelection();
+    EXPECT_TRUE(m_multiselect->TheSelection().empty());
+    m_multiselect->SetEmptyMapMessage(L"nothing");
+    m_multiselect->RefreshContent();
     EXPECT_EQ(Parts().Texts(), (Texts{L"nothing"}));
 }
 
 TEST_F(Multiselect, AllRowsTickedAndOkGiveAllIdsAndMinusOne)
 {
-    m_control->EnableOkCancel();
+    m_multiselect->EnableOkCancel();
     Show(letters, {1});
     for (int row = 0; row < 4; ++row)
         Parts().Tick(row, true);
     Parts().Command(ok);
-    EXPECT_EQ(m_control->TheSelection(), (Ids{-1, 1, 2, 3, 4}));
-    EXPECT_TRUE(m_control->SelectionRetrieved());
+    EXPECT_EQ(m_multiselect->TheSelection(), (Ids{-1, 1, 2, 3, 4}));
+    EXPECT_TRUE(m_multiselect->SelectionRetrieved());
     EXPECT_EQ(TakeEvents(), (Events{{1, 0}}));
     Parts().Tick(1, false);
     int const unticked = Parts().Id(1);
     Parts().Command(ok);
     Ids expected{1, 2, 3, 4};
     expected.erase(unticked);
-    EXPECT_EQ(m_control->TheSelection(), expected);
+    EXPECT_EQ(m_multiselect->TheSelection(), expected);
 }
 
 TEST_F(Multiselect, CancelTellsAndLeavesTheSelection)
 {
-    m_control->EnableOkCancel();
+    m_multiselect->EnableOkCancel();
     Show(letters, {1});
     Parts().Tick(3, true);
     Parts().Command(cancel);
     EXPECT_EQ(TakeEvents(), (Events{{2, 0}}));
-    EXPECT_EQ(m_control->TheSelection(), (Ids{1}));
-    EXPECT_FALSE(m_control->SelectionRetrieved());
+    EXPECT_EQ(m_multiselect->TheSelection(), (Ids{1}));
+    EXPECT_FALSE(m_multiselect->SelectionRetrieved());
 }
 
 TEST_F(Multiselect, SelectionOfAllTicksAllRowsInMapOrder)
 {
     Show(letters, {3});
     EXPECT_EQ(Parts().Texts(), (Texts{L"c", L"d", L"b", L"a"})) << "grouped";
-    m_control->SetSelectionAll();
-    EXPECT_EQ(m_control->TheSelection(), (Ids{-1}));
-    m_control->RefreshContent();
+    m_multiselect->SetSelectionAll();
+    EXPECT_EQ(m_multiselect->TheSelection(), (Ids{-1}));
+    m_multiselect->RefreshContent();
     EXPECT_EQ(Parts().Texts(), (Texts{L"d", L"b", L"c", L"a"}));
     EXPECT_EQ(Parts().Ticked(), (Numbers{1, 2, 3, 4}));
-    m_control->SetSelectionNone();
-    EXPECT_TRUE(m_control->TheSelection().empty());
+    m_multiselect->SetSelectionNone();
+    EXPECT_TRUE(m_multiselect->TheSelection().empty());
     EXPECT_EQ(Parts().Ticked().size(), 4u) << "setters don't touch the list";
-    m_control->RefreshSelection();
+    m_multiselect->RefreshSelection();
     EXPECT_TRUE(Parts().Ticked().empty());
 }
 
 TEST_F(Multiselect, GroupsAreSortedEachForItself)
 {
-    m_control->SortAlphabetically(true);
+    m_multiselect->SortAlphabetically(true);
     Show(letters, {1, 3});
     EXPECT_EQ(Parts().Texts(), (Texts{L"c", L"d", L"a", L"b"}));
-    m_control->ShowGroupedSelection(false);
-    m_control->RefreshContent();
+    m_multiselect->ShowGroupedSelection(false);
+    m_multiselect->RefreshContent();
     EXPECT_EQ(Parts().Texts(), (Texts{L"a", L"b", L"c", L"d"}));
     EXPECT_EQ(Parts().Ticked(), (Numbers{3, 1}));
-    m_control->ItemEintragen(9, L"bb", 0);
+    m_multiselect->ItemEintragen(9, L"bb", 0);
     EXPECT_EQ(Parts().Texts(), (Texts{L"a", L"b", L"bb", L"c", L"d"}));
 }
 
 TEST_F(Multiselect, ShownIdsKeepTheOrderOfIds)
 {
-    m_control->ShowIds(true);
-    m_control->SortAlphabetically(true);
+    m_multiselect->ShowIds(true);
+    m_multiselect->SortAlphabetically(true);
     Show(letters, {});
     EXPECT_EQ(Parts().Texts(), (Texts{L"1: d", L"2: b", L"3: c", L"4: a"}));
 }
 
 TEST_F(Multiselect, AddedItemsKeepTheNameThatIsThere)
 {
-    m_control->AddItem(3, L"three");
-    m_control->AddItem(3, L"drei");
-    EXPECT_EQ(m_control->GetName(3), L"three");
-    EXPECT_EQ(m_control->GetName(4), L"");
-    EXPECT_EQ(&m_control->GetName(4), &m_control->GetName(5)) << "one empty text for all";
-    m_control->ResetTheMap();
-    EXPECT_TRUE(m_control->TheMap().empty());
-    m_control->SetSelection(8);
-    EXPECT_EQ(m_control->TheSelection(), (Ids{8}));
+    m_multiselect->AddItem(3, L"three");
+    m_multiselect->AddItem(3, L"drei");
+    EXPECT_EQ(m_multiselect->GetName(3), L"three");
+    EXPECT_EQ(m_multiselect->GetName(4), L"");
+    EXPECT_EQ(&m_multiselect->GetName(4), &m_multiselect->GetName(5)) << "one empty text for all";
+    m_multiselect->ResetTheMap();
+    EXPECT_TRUE(m_multiselect->TheMap().empty());
+    m_multiselect->SetSelection(8);
+    EXPECT_EQ(m_multiselect->TheSelection(), (Ids{8}));
 }
 
 TEST_F(Multiselect, TheButtonsForAllAndNoneActOnTheSelectionAtOnce)
 {
     Show(letters, {2});
     Parts().Command(select_all);
-    EXPECT_EQ(m_control->TheSelection(), (Ids{-1, 1, 2, 3, 4}));
+    EXPECT_EQ(m_multiselect->TheSelection(), (Ids{-1, 1, 2, 3, 4}));
     EXPECT_EQ(Parts().Ticked().size(), 4u);
-    EXPECT_FALSE(m_control->SelectionRetrieved());
+    EXPECT_FALSE(m_multiselect->SelectionRetrieved());
     Parts().Command(select_none);
-    EXPECT_TRUE(m_control->TheSelection().empty());
+    EXPECT_TRUE(m_multiselect->TheSelection().empty());
     EXPECT_TRUE(Parts().Ticked().empty());
     EXPECT_TRUE(TakeEvents().empty());
 }
@@ -390,13 +389,13 @@ TEST_F(Multiselect, DataOutlivesTheWindowAndTheControlCanBeShownAgain)
     Show(letters, {2});
     for (int i = 0; i < 3; ++i)
     {
-        m_control->DestroyWindow();
-        EXPECT_FALSE(m_control->m_controlsCreated);
-        EXPECT_EQ(m_control->m_toolTip.m_hWnd, nullptr);
-        m_control->RefreshContent();
-        EXPECT_EQ(m_control->TheSelection(), (Ids{2}));
-        ASSERT_TRUE(m_control->Create(L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 200, 150), m_host, 5));
-        m_control->RedrawWindow();
+        m_multiselect->DestroyWindow();
+        EXPECT_FALSE(m_multiselect->m_controlsCreated);
+        EXPECT_EQ(m_multiselect->m_toolTip.m_hWnd, nullptr);
+        m_multiselect->RefreshContent();
+        EXPECT_EQ(m_multiselect->TheSelection(), (Ids{2}));
+        ASSERT_TRUE(m_multiselect->Create(L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 200, 150), m_host, 5));
+        m_multiselect->RedrawWindow();
         EXPECT_EQ(Parts().Ticked(), (Numbers{2}));
     }
 }
@@ -411,19 +410,19 @@ TEST_F(Multiselect, TenThousandIdsAreReadBackExactly)
         map[id].Format(L"name %d", static_cast<int>(random() % 100));
     }
     Ids selection;
-    for (auto const & item : map)
+    for (std::pair<int const, CString> const & item : map)
     {
         if (random() % 2 == 0)
             selection.insert(item.first);
     }
-    m_control->SortAlphabetically(true);
+    m_multiselect->SortAlphabetically(true);
     Show(map, selection);
-    m_control->SetSelectionNone();
-    m_control->RetrieveSelection();
-    EXPECT_EQ(m_control->TheSelection(), selection);
+    m_multiselect->SetSelectionNone();
+    m_multiselect->RetrieveSelection();
+    EXPECT_EQ(m_multiselect->TheSelection(), selection);
     Parts().Command(select_all);
-    m_control->RetrieveSelection();
-    EXPECT_EQ(m_control->TheSelection().size(), map.size() + 1);
+    m_multiselect->RetrieveSelection();
+    EXPECT_EQ(m_multiselect->TheSelection().size(), map.size() + 1);
 }
 
 TEST_F(Multiselect, LeavesNoGdiObjectsAndNoWindows)

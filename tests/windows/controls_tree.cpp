@@ -1,18 +1,17 @@
 // The tree control with records on its items.
 
-#include "controls_TreeTest.h"
-
-#include "GdiHandleCount.h"
-#include "Input.h"
-#include "MessageRecorder.h"
-#include "Pump.h"
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <memory>
 #include <random>
 #include <set>
+
+#include "controls_TreeTest.h"
+#include "GdiHandleCount.h"
+#include "Input.h"
+#include "MessageRecorder.h"
+#include "Pump.h"
 
 namespace
 {
@@ -564,7 +563,8 @@ struct Model
         std::erase(all, node);
         std::erase_if(node->parent->children, [node](auto const & child) { return child.get() == node; });
     }
-    static Node const * Find(std::vector<std::unique_ptr<Node>> const & siblings, std::size_t from, int type, int id)
+    static Node const * Find(std::vector<std::unique_ptr<Model::Node>> const & siblings, std::size_t from, int type,
+                             int id)
     {
         for (std::size_t i = from; i < siblings.size(); ++i)
         {
@@ -590,7 +590,7 @@ TEST_F(TreeControl, ARandomWalkAgreesWithAModel)
     std::size_t records = 0;
     for (int step = 0; step < operations; ++step)
     {
-        auto & all = model->all;
+        std::vector<Model::Node *> & all = model->all;
         Model::Node * const node = all.empty() ? nullptr : all[pick(all.size())];
         std::size_t const kind = pick(20);
         if (node == nullptr || (kind < 8 && all.size() < most))
@@ -624,7 +624,7 @@ TEST_F(TreeControl, ARandomWalkAgreesWithAModel)
         {
             int const type = static_cast<int>(pick(4)) - 1;
             int const id = static_cast<int>(pick(21)) - 1;
-            auto const & siblings = node->parent->children;
+            std::vector<std::unique_ptr<Model::Node>> const & siblings = node->parent->children;
             auto const place =
                 std::find_if(siblings.begin(), siblings.end(), [&](auto const & each) { return each.get() == node; });
             Model::Node const * const expected =

@@ -2,7 +2,6 @@
 // A dialog of the toolkit whose protected operations a test can call, and that notes what happens to it.
 
 #include <afxwin.h>
-
 #include <commctrl.h>
 
 #include <gtest/gtest.h>
@@ -12,13 +11,13 @@
 #include <utility>
 #include <vector>
 
+#include "dialogs/Dialog3d.h"
 #include "Input.h"
 #include "MemoryPreferenceStore.h"
 #include "Pump.h"
+#include "resource.h"
 #include "ScopedWindow.h"
 #include "TestApp.h"
-#include "dialogs/Dialog3d.h"
-#include "resource.h"
 
 namespace dialog_tests
 {

@@ -6,8 +6,8 @@
 
 #include <vector>
 
-#include "MessageRecorder.h"
 #include "dialogs_Dialog3dTest.h"
+#include "MessageRecorder.h"
 
 using namespace dialog_tests;
 

@@ -1,15 +1,7 @@
 // The folder dialog on the shell's own folder browser.
 
-#include <afxwin.h>
 #include <afxcmn.h>
-
-#include "dialogs/FolderDialog.h"
-
-#include "ImportPatch.h"
-#include "Input.h"
-#include "Pump.h"
-#include "ScopedWindow.h"
-
+#include <afxwin.h>
 #include <shlobj.h>
 
 #include <gtest/gtest.h>
@@ -18,6 +10,12 @@
 #include <optional>
 #include <string>
 #include <vector>
+
+#include "dialogs/FolderDialog.h"
+#include "ImportPatch.h"
+#include "Input.h"
+#include "Pump.h"
+#include "ScopedWindow.h"
 
 namespace
 {
@@ -243,7 +241,7 @@ TEST_F(FolderChooser, StatusTextFollowsTheKeyboardAndTheNextBrowserOpensThere)
         [&] { return m_browser.IsOpen() && m_browser.Selected() == m_outer.Name(); });
     later.Add([] { tests::Key(VK_DOWN); },
               [&] {
-                  auto const selected = ::SendMessageW(m_browser.Tree(), TVM_GETNEXTITEM, TVGN_CARET, 0);
+                  LRESULT const selected = ::SendMessageW(m_browser.Tree(), TVM_GETNEXTITEM, TVGN_CARET, 0);
                   return ::SendMessageW(m_browser.Tree(), TVM_GETNEXTITEM, TVGN_CHILD, selected) != 0;
               });
     later.Add([] { tests::Key(VK_RETURN); },

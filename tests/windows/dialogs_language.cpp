@@ -1,19 +1,18 @@
 // The language chooser as a dialog: what it lists and selects, and what OK and Cancel do.
 
-#include "dialogs/SprachauswahlDlg.h"
-
-#include "ImportPatch.h"
-#include "Input.h"
-#include "Pump.h"
-#include "ResourceReader.h"
-#include "ScopedWindow.h"
-
 #include <gtest/gtest.h>
 
 #include <functional>
 #include <string>
 #include <utility>
 #include <vector>
+
+#include "dialogs/SprachauswahlDlg.h"
+#include "ImportPatch.h"
+#include "Input.h"
+#include "Pump.h"
+#include "ResourceReader.h"
+#include "ScopedWindow.h"
 
 namespace
 {

@@ -151,7 +151,7 @@ TEST_F(Dialog3dLayout, AMissingFrameIsShownToTheUserAndTheDialogGoesOn)
         fixed.D3dLayoutTouch();
     };
     ASSERT_NE(fixed.DisplayDialog(), 0);
-    auto const messages = tests::App().Take();
+    std::vector<tests::TestApp::Message> const messages = tests::App().Take();
     ASSERT_EQ(messages.size(), 1u);
     EXPECT_EQ(messages[0].text, L"Achtung: Dialog-Ressource zu 'Spektrum' hat nicht die 'Resizing'-Eigenschaft!");
     EXPECT_EQ(messages[0].type & MB_ICONMASK, static_cast<UINT>(MB_ICONERROR));

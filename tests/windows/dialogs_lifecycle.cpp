@@ -7,9 +7,9 @@
 #include <algorithm>
 #include <vector>
 
+#include "dialogs_Dialog3dTest.h"
 #include "GdiHandleCount.h"
 #include "ThreadWindows.h"
-#include "dialogs_Dialog3dTest.h"
 
 using namespace dialog_tests;
 

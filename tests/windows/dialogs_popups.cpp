@@ -10,9 +10,9 @@
 #include <utility>
 #include <vector>
 
+#include "dialogs_Dialog3dTest.h"
 #include "GdiHandleCount.h"
 #include "GuardedHeap.h"
-#include "dialogs_Dialog3dTest.h"
 
 using namespace dialog_tests;
 

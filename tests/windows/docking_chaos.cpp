@@ -1,12 +1,12 @@
 // Panes of a main frame that are docked, put into tabs, let float, folded away, dragged, shown and ended in whatever
 // they are told, by each other and with their frame.
 
-#include "chaos_Chaos.h"
-
 #include <afxcontrolbars.h>
 
 #include <algorithm>
 #include <vector>
+
+#include "chaos_Chaos.h"
 
 namespace
 {

@@ -247,7 +247,7 @@ TEST_F(DockPlaces, NoPanePaintsMoreThanOnceAStep)
     m_panes[0]->DockToWindow(m_panes[1].get(), CBRS_ALIGN_BOTTOM);
     NewPane().AttachToTabWnd(m_panes[2].get(), DM_SHOW);
     tests::PumpPosted();
-    for (auto const & pane : m_panes)
+    for (std::unique_ptr<Pane> const & pane : m_panes)
     {
         pane->UpdateWindow();
         pane->m_paints = 0;
@@ -256,7 +256,7 @@ TEST_F(DockPlaces, NoPanePaintsMoreThanOnceAStep)
     {
         m_frame->SetWindowPos(nullptr, 0, 0, 1000 + 8 * step, 700 + 5 * step, SWP_NOMOVE | SWP_NOZORDER);
         tests::PumpPosted();
-        for (auto const & pane : m_panes)
+        for (std::unique_ptr<Pane> const & pane : m_panes)
             EXPECT_LE(pane->m_paints, step) << "step " << step;
     }
 }

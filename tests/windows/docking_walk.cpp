@@ -2,9 +2,9 @@
 
 #include <random>
 
+#include "docking_DockTest.h"
 #include "GdiHandleCount.h"
 #include "GuardedHeap.h"
-#include "docking_DockTest.h"
 
 using namespace docking;
 
@@ -75,7 +75,7 @@ protected:
     void Check()
     {
         ASSERT_NO_FATAL_FAILURE(CheckChildren(m_window));
-        for (auto const & pane : m_panes)
+        for (std::unique_ptr<Pane> const & pane : m_panes)
         {
             if (CPaneFrameWnd * const mini = pane->GetParentMiniFrame())
             {

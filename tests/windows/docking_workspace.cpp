@@ -1,10 +1,10 @@
 // The workspace: what an application keeps of its panes, and gets back.
 
-#include "ChildProgram.h"
-#include "ImportPatch.h"
-#include "docking_DockTest.h"
-
 #include <random>
+
+#include "ChildProgram.h"
+#include "docking_DockTest.h"
+#include "ImportPatch.h"
 
 using namespace docking;
 
@@ -283,7 +283,7 @@ TEST_F(Workspace, AFloatingFrameFollowsAScreenThatIsGone)
 TEST_F(Workspace, NoMixOfTwoPlacesOfTheMainFrameIsTaken)
 {
     Program program;
-    auto & app = program.App();
+    WorkspaceApp & app = program.App();
     std::vector<BYTE> stored[2];
     for (int which = 0; which < 2; ++which)
     {

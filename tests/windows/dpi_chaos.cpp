@@ -1,10 +1,9 @@
 // A host that changes the resolution, and ends things, in whatever it is told.
 
-#include "chaos_Chaos.h"
-
 #include <map>
 #include <memory>
 
+#include "chaos_Chaos.h"
 #include "list/XListCtrl.h"
 
 namespace
@@ -150,10 +149,10 @@ private:
             m_list = std::make_unique<DpiChaosList>(*this);
         }
         DWORD const style = WS_CHILD | WS_VISIBLE | LVS_REPORT | LVS_SHAREIMAGELISTS;
-        m_list->Create(style, CRect(0, 0, 300, 150), m_parent, 7);
+        m_list->Create(style, CRect(0, 0, 300, 150), m_host, 7);
     }
 
-    DpiChaosParent m_parent{*this};
+    DpiChaosParent m_host{*this};
     CImageList m_images;
     std::unique_ptr<DpiChaosList> m_list;
 };

@@ -7,9 +7,6 @@
 #include <memory>
 
 #include "Bitmap.h"
-#include "GdiHandleCount.h"
-#include "Pump.h"
-#include "ScopedWindow.h"
 #include "controls/ColorButton.h"
 #include "controls/ComboBoxX.h"
 #include "controls/FreeIconButton.h"
@@ -18,6 +15,9 @@
 #include "controls/ListBoxX.h"
 #include "controls/XEditBrowseCtrl.h"
 #include "controls/XTreeCtrl.h"
+#include "GdiHandleCount.h"
+#include "Pump.h"
+#include "ScopedWindow.h"
 
 namespace
 {
@@ -69,7 +69,7 @@ TEST_F(DpiControls, TheIconOfAnIconButtonFollows)
 {
     CFreeIconButton button;
     ASSERT_TRUE(button.Create(L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 100, 100), m_host, 5));
-    auto const usual = Painted(button, 100, 100);
+    std::unique_ptr<tests::Canvas> const usual = Painted(button, 100, 100);
     CRect const at96 = usual->BoundsOfOther(ground);
     CheckRange(button);
     button.SetDpi(192);
@@ -89,7 +89,7 @@ TEST_F(DpiControls, TheIconOfAColourButtonFollowsInItsMiddle)
     button.ResetColors();
     button.DrawFrame(false);
     button.SetIcons(::LoadIcon(nullptr, IDI_ERROR), nullptr, 32);
-    auto const usual = Painted(button, 120, 120);
+    std::unique_ptr<tests::Canvas> const usual = Painted(button, 120, 120);
     CRect const at96 = usual->BoundsOfOther(ground);
     CheckRange(button);
     button.SetDpi(192);

@@ -1,15 +1,14 @@
 // The report list at other resolutions.
 
-#include "list_PaintTest.h"
-
 #include <algorithm>
 #include <functional>
 #include <memory>
 #include <vector>
 
 #include "GdiHandleCount.h"
-#include "Pump.h"
 #include "list/XHeaderCtrl.h"
+#include "list_PaintTest.h"
+#include "Pump.h"
 
 namespace
 {
@@ -44,7 +43,7 @@ TEST(DpiEmptyList, ItsTextHasTheListsFont)
 {
     tests::ListHost host;
     host.Fill(2, 0);
-    auto & list = host.list;
+    tests::TestList & list = host.list;
     CFont large;
     large.CreateFont(-40, 0, 0, 0, FW_NORMAL, 0, 0, 0, DEFAULT_CHARSET, 0, 0, 0, 0, L"Tahoma");
     list.SetFont(&large);
@@ -60,9 +59,9 @@ TEST(DpiEmptyList, ItsTextHasTheListsFont)
         list.GetClientRect(&place);
         tests::Canvas picture(place.Width(), place.Height());
         picture.CopyFromScreen(list.m_hWnd);
-        auto top = place.bottom;
-        auto bottom = place.top;
-        for (auto y = titles.bottom + 1; y < place.bottom; ++y)
+        LONG top = place.bottom;
+        LONG bottom = place.top;
+        for (long y = titles.bottom + 1; y < place.bottom; ++y)
         {
             if (picture.Count(::GetSysColor(COLOR_WINDOWTEXT), CRect(place.left, y, place.right, y + 1)) > 0)
             {
@@ -157,15 +156,17 @@ TEST_F(DpiList, AtNinetySixAllIsPaintedAsBefore)
     auto const paintAll = [this] {
         m_canvas.Fill(untouched);
         for (int row = 0; row < 4; ++row)
+        {
             for (int col = 0; col < 3; ++col)
                 PaintOver(row, col);
+        }
         return Copy(CRect(0, 0, 320, 160));
     };
-    auto const before = paintAll();
+    std::unique_ptr<tests::Canvas> const before = paintAll();
     m_list.SetDpi(192);
-    auto const between = paintAll();
+    std::unique_ptr<tests::Canvas> const between = paintAll();
     m_list.SetDpi(96);
-    auto const after = paintAll();
+    std::unique_ptr<tests::Canvas> const after = paintAll();
     EXPECT_TRUE(tests::SamePixels(*before, *after));
     EXPECT_FALSE(tests::SamePixels(*before, *between));
 }

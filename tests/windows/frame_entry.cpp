@@ -1,12 +1,12 @@
 // The module's entry function, built once more with substitutes for what it calls, so that its failures can be had.
 
 #define ENTRY_SUBSTITUTES_ONLY
-#include "frame_EntrySubstitutes.h"
-
 #include <gtest/gtest.h>
 
 #include <string>
 #include <vector>
+
+#include "frame_EntrySubstitutes.h"
 
 namespace
 {

@@ -1,17 +1,15 @@
 // Loading of the toolkit's resources while the current resource module is the application's. The loading functions are
 // internal to the module; they are built here once more, on the loaded module's handle.
 
-#include "frame/ToolkitModule.h"
+#include <gtest/gtest.h>
 
 #include "frame/CoreLibrary.h"
+#include "frame/ToolkitModule.h"
 #include "frame/ToolkitResources.h"
-
+#include "resource.h"
 #include "ResourceReader.h"
 #include "ScopedWindow.h"
 #include "TestApp.h"
-#include "resource.h"
-
-#include <gtest/gtest.h>
 
 AFX_EXTENSION_MODULE g_toolkitModule = {};
 

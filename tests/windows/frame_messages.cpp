@@ -2,13 +2,13 @@
 
 #include <afxwin.h>
 
-#include "frame/RegisteredMessages.h"
-
 #include <gtest/gtest.h>
 
 #include <set>
 #include <type_traits>
 #include <vector>
+
+#include "frame/RegisteredMessages.h"
 
 namespace
 {

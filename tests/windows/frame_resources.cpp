@@ -1,12 +1,12 @@
 // What the module's resources hold, read as stored: texts, icons, menu, dialog templates, manifest.
 
-#include "ResourceReader.h"
-
 #include <gtest/gtest.h>
 
 #include <cstring>
 #include <filesystem>
 #include <fstream>
+
+#include "ResourceReader.h"
 
 namespace
 {
@@ -36,8 +36,8 @@ std::map<std::pair<WORD, int>, std::string> ExpectedStrings()
     std::map<std::pair<WORD, int>, std::string> texts;
     for (std::string line; std::getline(file, line);)
     {
-        auto const first = line.find('\t');
-        auto const second = line.find('\t', first + 1);
+        std::size_t const first = line.find('\t');
+        std::size_t const second = line.find('\t', first + 1);
         std::string text = line.substr(second + 1);
         for (std::size_t at; (at = text.find("\\n")) != std::string::npos;)
         {

@@ -1,14 +1,14 @@
 // Tooltips, progress bar, slider, spin button, tab control, status bar, tool bar, rebar, extended combo box and link.
 
-#include "GuardedHeap.h"
-#include "Input.h"
-#include "Pump.h"
-#include "ScopedWindow.h"
-#include "resource.h"
-
 #include <afxcmn.h>
 
 #include <gtest/gtest.h>
+
+#include "GuardedHeap.h"
+#include "Input.h"
+#include "Pump.h"
+#include "resource.h"
+#include "ScopedWindow.h"
 
 namespace
 {

@@ -1,13 +1,13 @@
 // List box, combo box and the list box with check boxes.
 
-#include "ScopedWindow.h"
-
 #include <afxcmn.h>
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <vector>
+
+#include "ScopedWindow.h"
 
 namespace
 {

@@ -1,7 +1,5 @@
 // List view and header control.
 
-#include "ScopedWindow.h"
-
 #include <afxcmn.h>
 
 #include <gtest/gtest.h>
@@ -10,6 +8,8 @@
 #include <memory>
 #include <string>
 #include <vector>
+
+#include "ScopedWindow.h"
 
 namespace
 {

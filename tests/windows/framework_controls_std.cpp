@@ -1,13 +1,13 @@
 // Static control, button, edit control, scroll bar and the button with pictures.
 
-#include "Bitmap.h"
-#include "ScopedWindow.h"
-#include "resource.h"
-
 #include <afxcmn.h>
 #include <afxext.h>
 
 #include <gtest/gtest.h>
+
+#include "Bitmap.h"
+#include "resource.h"
+#include "ScopedWindow.h"
 
 namespace
 {

@@ -1,13 +1,13 @@
 // The tree control.
 
-#include "ScopedWindow.h"
-
 #include <afxcmn.h>
 
 #include <gtest/gtest.h>
 
 #include <memory>
 #include <string>
+
+#include "ScopedWindow.h"
 
 namespace
 {

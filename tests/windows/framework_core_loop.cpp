@@ -2,16 +2,16 @@
 
 #include <afxwin.h>
 
-#include "Pump.h"
-#include "ScopedWindow.h"
-#include "TestApp.h"
-
 #include <gtest/gtest.h>
 
 #include <atomic>
 #include <stdexcept>
 #include <string>
 #include <vector>
+
+#include "Pump.h"
+#include "ScopedWindow.h"
+#include "TestApp.h"
 
 namespace
 {

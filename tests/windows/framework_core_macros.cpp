@@ -362,14 +362,14 @@ END_MESSAGE_MAP()
 std::multiset<UINT> Messages(AFX_MSGMAP const * map)
 {
     std::multiset<UINT> messages;
-    for (auto entry = map->lpEntries; entry->nSig != AfxSig_end; ++entry)
+    for (AFX_MSGMAP_ENTRY const * entry = map->lpEntries; entry->nSig != AfxSig_end; ++entry)
         messages.insert(entry->nMessage);
     return messages;
 }
 
 TEST(CoreMessageMacros, EachMessageHasAnEntry)
 {
-    auto const messages = Messages(EveryMessage().Map());
+    std::multiset<UINT> const messages = Messages(EveryMessage().Map());
     EXPECT_EQ(messages.size(), 150u);
     EXPECT_EQ(messages.count(WM_SETTINGCHANGE), 2u); // WM_WININICHANGE is the same message
     std::set<UINT> const distinct(messages.begin(), messages.end());
@@ -378,7 +378,7 @@ TEST(CoreMessageMacros, EachMessageHasAnEntry)
 
 TEST(CoreMessageMacros, ReflectedMessagesAreMarked)
 {
-    auto const messages = Messages(EveryReflection().Map());
+    std::multiset<UINT> const messages = Messages(EveryReflection().Map());
     EXPECT_EQ(messages.size(), 10u);
     for (UINT const message : messages)
         EXPECT_GE(message, static_cast<UINT>(WM_REFLECT_BASE));

@@ -1,16 +1,15 @@
 // The search for resources through the application, its extension modules and the framework.
 
-#include <afxwin.h>
-
 #include <afxdllx.h>
-
-#include "resource.h"
+#include <afxwin.h>
 
 #include <gtest/gtest.h>
 
 #include <memory>
 #include <string>
 #include <vector>
+
+#include "resource.h"
 
 namespace
 {
@@ -96,7 +95,7 @@ TEST(CoreModules, ResourceThatNobodyHasIsTheApplications)
 TEST(CoreModules, ModuleTakesPartWhileItIsHooked)
 {
     ResourceLibrary const library(id_own, L"text");
-    auto record = library.Record();
+    AFX_EXTENSION_MODULE record = library.Record();
     {
         CDynLinkLibrary const hook(record);
         EXPECT_EQ(Find(id_own), library.Module());
@@ -114,9 +113,9 @@ TEST(CoreModules, ApplicationComesFirstThenTheYoungestModuleAndSystemModulesLast
     ResourceLibrary const first(id_own, L"first");
     ResourceLibrary const second(id_own + 10, L"second");
     ResourceLibrary const system(id_own + 20, L"system");
-    auto firstRecord = first.Record();
-    auto secondRecord = second.Record();
-    auto systemRecord = system.Record();
+    AFX_EXTENSION_MODULE firstRecord = first.Record();
+    AFX_EXTENSION_MODULE secondRecord = second.Record();
+    AFX_EXTENSION_MODULE systemRecord = system.Record();
     CDynLinkLibrary const firstHook(firstRecord);
     auto secondHook = std::make_unique<CDynLinkLibrary>(secondRecord);
     CDynLinkLibrary const systemHook(systemRecord, TRUE);
@@ -148,7 +147,7 @@ TEST(CoreModules, ResourcesMayLieInAModuleOfTheirOwn)
 TEST(CoreModules, TerminationUnhooksTheModule)
 {
     ResourceLibrary const library(id_own, L"text");
-    auto record = library.Record();
+    AFX_EXTENSION_MODULE record = library.Record();
     new CDynLinkLibrary(record);
     ASSERT_EQ(Find(id_own), library.Module());
     AfxTermExtensionModule(record);

@@ -2,12 +2,12 @@
 
 #include <afxwin.h>
 
-#include "resource.h"
-
 #include <gtest/gtest.h>
 
 #include <cstring>
 #include <memory>
+
+#include "resource.h"
 
 namespace
 {

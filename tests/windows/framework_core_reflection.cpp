@@ -2,12 +2,12 @@
 
 #include <afxwin.h>
 
-#include "ScopedWindow.h"
-
 #include <gtest/gtest.h>
 
 #include <string>
 #include <vector>
+
+#include "ScopedWindow.h"
 
 namespace
 {

@@ -2,14 +2,14 @@
 
 #include <afxwin.h>
 
-#include "Input.h"
-#include "Pump.h"
-#include "ScopedWindow.h"
-
 #include <gtest/gtest.h>
 
 #include <string>
 #include <vector>
+
+#include "Input.h"
+#include "Pump.h"
+#include "ScopedWindow.h"
 
 namespace
 {

@@ -2,12 +2,12 @@
 
 #include <afxwin.h>
 
-#include "Pump.h"
-#include "ScopedWindow.h"
-
 #include <gtest/gtest.h>
 
 #include <vector>
+
+#include "Pump.h"
+#include "ScopedWindow.h"
 
 namespace
 {
@@ -159,7 +159,7 @@ TEST(CoreWindows, SubclassedControlSendsItsMessagesToTheObject)
     tests::ScopedWindow parent(CRect(0, 0, 100, 100), WS_OVERLAPPED);
     HWND const handle = ::CreateWindow(L"BUTTON", L"x", WS_CHILD, 0, 0, 20, 20, parent.m_hWnd,
                                        reinterpret_cast<HMENU>(7), AfxGetInstanceHandle(), nullptr);
-    auto const own = ::GetWindowLongPtr(handle, GWLP_WNDPROC);
+    LONG_PTR const own = ::GetWindowLongPtr(handle, GWLP_WNDPROC);
     Watched button;
     ASSERT_TRUE(button.SubclassDlgItem(7, &parent));
     EXPECT_EQ(button.m_hWnd, handle);
@@ -193,7 +193,7 @@ TEST(CoreWindows, AttachedObjectLeavesTheProcedureAlone)
 {
     HWND const handle =
         ::CreateWindow(L"STATIC", L"", WS_POPUP, 0, 0, 5, 5, nullptr, nullptr, AfxGetInstanceHandle(), nullptr);
-    auto const own = ::GetWindowLongPtr(handle, GWLP_WNDPROC);
+    LONG_PTR const own = ::GetWindowLongPtr(handle, GWLP_WNDPROC);
     Watched window;
     EXPECT_FALSE(window.Attach(nullptr));
     EXPECT_TRUE(window.Attach(handle));

@@ -3,16 +3,16 @@
 #include <afxwin.h>
 #include <commctrl.h>
 
-#include "Input.h"
-#include "MessageRecorder.h"
-#include "Pump.h"
-#include "ScopedWindow.h"
-#include "TestApp.h"
-#include "resource.h"
-
 #include <gtest/gtest.h>
 
 #include <functional>
+
+#include "Input.h"
+#include "MessageRecorder.h"
+#include "Pump.h"
+#include "resource.h"
+#include "ScopedWindow.h"
+#include "TestApp.h"
 
 namespace
 {
@@ -72,7 +72,7 @@ protected:
     {
         SetText(id, text);
         BOOL const saved = Save([&](CDataExchange * pDX) { DDX_Text(pDX, id, value); });
-        auto messages = tests::App().TakeMessages();
+        std::vector<std::wstring> messages = tests::App().TakeMessages();
         EXPECT_EQ(saved, messages.empty() ? TRUE : FALSE);
         return messages;
     }
@@ -215,7 +215,7 @@ TEST_F(DataExchange, FailureShowsAWarningAndSelectsTheTextOfTheControl)
         DDX_Text(pDX, IDC_INT, value);
         DDX_Text(pDX, IDC_TEXT, never);
     }));
-    auto const messages = tests::App().Take();
+    std::vector<tests::TestApp::Message> const messages = tests::App().Take();
     ASSERT_EQ(messages.size(), 1u);
     EXPECT_EQ(messages[0].type, static_cast<UINT>(MB_ICONEXCLAMATION));
     EXPECT_EQ(messages[0].helpId, 0xF110u);

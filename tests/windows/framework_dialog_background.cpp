@@ -2,13 +2,13 @@
 
 #include <afxdialogex.h>
 
+#include <gtest/gtest.h>
+
 #include "Bitmap.h"
 #include "GdiHandleCount.h"
 #include "Pump.h"
-#include "ScopedWindow.h"
 #include "resource.h"
-
-#include <gtest/gtest.h>
+#include "ScopedWindow.h"
 
 namespace
 {

@@ -2,13 +2,13 @@
 
 #include <afxdlgs.h>
 
-#include "Pump.h"
-#include "ScopedWindow.h"
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <string>
+
+#include "Pump.h"
+#include "ScopedWindow.h"
 
 namespace
 {

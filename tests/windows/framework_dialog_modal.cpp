@@ -2,18 +2,18 @@
 
 #include <afxwin.h>
 
-#include "DialogTemplate.h"
-#include "GuardedHeap.h"
-#include "Input.h"
-#include "Pump.h"
-#include "ScopedWindow.h"
-#include "TestApp.h"
-#include "resource.h"
-
 #include <gtest/gtest.h>
 
 #include <cstring>
 #include <functional>
+
+#include "DialogTemplate.h"
+#include "GuardedHeap.h"
+#include "Input.h"
+#include "Pump.h"
+#include "resource.h"
+#include "ScopedWindow.h"
+#include "TestApp.h"
 
 namespace
 {

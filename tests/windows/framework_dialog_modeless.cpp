@@ -2,15 +2,15 @@
 
 #include <afxwin.h>
 
+#include <gtest/gtest.h>
+
 #include "DialogTemplate.h"
 #include "GdiHandleCount.h"
 #include "Input.h"
 #include "MessageRecorder.h"
 #include "Pump.h"
-#include "ScopedWindow.h"
 #include "resource.h"
-
-#include <gtest/gtest.h>
+#include "ScopedWindow.h"
 
 namespace
 {

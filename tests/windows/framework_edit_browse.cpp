@@ -1,14 +1,14 @@
 // The edit control with a button, and what is known of a file.
 
-#include "Bitmap.h"
-#include "Input.h"
-#include "Pump.h"
-#include "ScopedWindow.h"
-
 #include <afxdlgs.h>
 #include <afxeditbrowsectrl.h>
 
 #include <gtest/gtest.h>
+
+#include "Bitmap.h"
+#include "Input.h"
+#include "Pump.h"
+#include "ScopedWindow.h"
 
 namespace
 {

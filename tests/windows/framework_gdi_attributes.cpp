@@ -1,10 +1,10 @@
 // Drawing attributes, mapping and clipping of device contexts.
 
-#include "Bitmap.h"
-
 #include <afxwin.h>
 
 #include <gtest/gtest.h>
+
+#include "Bitmap.h"
 
 namespace
 {

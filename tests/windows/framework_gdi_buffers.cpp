@@ -1,15 +1,14 @@
 // Metafiles and double-buffered painting.
 
-#include "Bitmap.h"
-#include "GdiHandleCount.h"
-#include "ScopedWindow.h"
-
 #include <afxcontrolbarutil.h>
 #include <afxwin.h>
-
 #include <uxtheme.h>
 
 #include <gtest/gtest.h>
+
+#include "Bitmap.h"
+#include "GdiHandleCount.h"
+#include "ScopedWindow.h"
 
 namespace
 {

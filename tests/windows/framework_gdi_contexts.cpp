@@ -1,13 +1,13 @@
 // Device contexts: handles, selection, saved state, and those of windows.
 
+#include <afxwin.h>
+
+#include <gtest/gtest.h>
+
 #include "Bitmap.h"
 #include "GdiHandleCount.h"
 #include "Pump.h"
 #include "ScopedWindow.h"
-
-#include <afxwin.h>
-
-#include <gtest/gtest.h>
 
 namespace
 {

@@ -1,13 +1,13 @@
 // Drawing through device contexts, on a picture of our own: geometry and colours of known pixels.
 
-#include "Bitmap.h"
-#include "GdiHandleCount.h"
-
 #include <afxwin.h>
 
 #include <gtest/gtest.h>
 
 #include <array>
+
+#include "Bitmap.h"
+#include "GdiHandleCount.h"
 
 namespace
 {

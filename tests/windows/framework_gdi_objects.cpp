@@ -1,9 +1,5 @@
 // Pens, brushes, fonts, bitmaps, palettes and regions: making, owning, sharing and describing them.
 
-#include "Bitmap.h"
-#include "GdiHandleCount.h"
-#include "resource.h"
-
 #include <afxwin.h>
 
 #include <gtest/gtest.h>
@@ -11,6 +7,10 @@
 #include <array>
 #include <cstring>
 #include <thread>
+
+#include "Bitmap.h"
+#include "GdiHandleCount.h"
+#include "resource.h"
 
 namespace
 {

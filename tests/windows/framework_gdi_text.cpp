@@ -1,13 +1,13 @@
 // Text and fonts of device contexts. What is drawn is never compared by pixel: only where it is.
 
-#include "Bitmap.h"
-
 #include <afxwin.h>
 
 #include <gtest/gtest.h>
 
 #include <array>
 #include <vector>
+
+#include "Bitmap.h"
 
 namespace
 {

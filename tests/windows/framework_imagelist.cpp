@@ -1,14 +1,14 @@
 // Image lists.
 
-#include "Bitmap.h"
-#include "GdiHandleCount.h"
-#include "ScopedWindow.h"
-#include "resource.h"
-
 #include <afxcmn.h>
 #include <afxwin.h>
 
 #include <gtest/gtest.h>
+
+#include "Bitmap.h"
+#include "GdiHandleCount.h"
+#include "resource.h"
+#include "ScopedWindow.h"
 
 namespace
 {

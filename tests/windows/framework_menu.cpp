@@ -1,14 +1,14 @@
 // Menus.
 
-#include "Pump.h"
-#include "ScopedWindow.h"
-
 #include <afxwin.h>
 
 #include <gtest/gtest.h>
 
 #include <array>
 #include <vector>
+
+#include "Pump.h"
+#include "ScopedWindow.h"
 
 namespace
 {

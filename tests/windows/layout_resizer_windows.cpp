@@ -8,10 +8,10 @@
 #include <string>
 #include <vector>
 
+#include "ChildProgram.h"
+#include "layout/DialogResizer.h"
 #include "MemoryPreferenceStore.h"
 #include "ScopedWindow.h"
-#include "layout/DialogResizer.h"
-#include "ChildProgram.h"
 
 namespace
 {

@@ -1,9 +1,9 @@
 #pragma once
 // What the tests of the report list's cells share.
 
-#include "ListTestHost.h"
-
 #include <gtest/gtest.h>
+
+#include "ListTestHost.h"
 
 namespace tests
 {

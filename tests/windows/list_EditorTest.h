@@ -1,9 +1,9 @@
 #pragma once
 // What the tests of the list's in-place editors share.
 
-#include "list_InputTest.h"
-
 #include <map>
+
+#include "list_InputTest.h"
 
 namespace list_editors
 {

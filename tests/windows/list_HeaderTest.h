@@ -1,15 +1,15 @@
 #pragma once
 // A header on its own, without a list, that lets a test at its painting.
 
-#include "Bitmap.h"
-#include "ScopedWindow.h"
-#include "list/XHeaderCtrl.h"
-#include "list/XListCtrlData.h"
-
 #include <gtest/gtest.h>
 
 #include <string>
 #include <vector>
+
+#include "Bitmap.h"
+#include "list/XHeaderCtrl.h"
+#include "list/XListCtrlData.h"
+#include "ScopedWindow.h"
 
 namespace list_header
 {

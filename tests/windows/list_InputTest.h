@@ -2,16 +2,16 @@
 // What the tests of the list's mouse, keyboard and tooltips share: a list of four columns and eight rows, a button
 // beside it that takes the focus, and real input on the list's cells.
 
-#include "Input.h"
-#include "ListTestHost.h"
-#include "MessageRecorder.h"
-#include "Pump.h"
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <functional>
 #include <vector>
+
+#include "Input.h"
+#include "ListTestHost.h"
+#include "MessageRecorder.h"
+#include "Pump.h"
 
 namespace list_input
 {
@@ -146,7 +146,7 @@ protected:
     /// Timer messages of the list with that id.
     int Ticks(UINT_PTR id) const
     {
-        auto const & all = m_input.Received();
+        std::vector<tests::ReceivedMessage> const & all = m_input.Received();
         return static_cast<int>(std::count_if(all.begin(), all.end(), [id](tests::ReceivedMessage const & received) {
             return received.message == WM_TIMER && received.wParam == id;
         }));

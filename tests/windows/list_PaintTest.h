@@ -14,10 +14,10 @@
 // red, one green. The picture has the list's client coordinates and is `Untouched` before painting. Its font is not
 // smoothed, so that a text has no other colour than its own.
 
+#include <memory>
+
 #include "Bitmap.h"
 #include "ListTestHost.h"
-
-#include <memory>
 
 namespace tests
 {

@@ -1,12 +1,11 @@
 // The painters of cells by themselves: what they paint on any context is what a list shows.
 
-#include "list_PaintTest.h"
-
-#include "list/CellPainters.h"
-
 #include <functional>
 #include <string>
 #include <vector>
+
+#include "list/CellPainters.h"
+#include "list_PaintTest.h"
 
 namespace
 {
@@ -48,10 +47,16 @@ protected:
     static testing::AssertionResult AreEqual(tests::Canvas const & a, tests::Canvas const & b)
     {
         for (int y = 0; y < row_height; ++y)
+        {
             for (int x = 0; x < column_width; ++x)
+            {
                 if (a.Pixel(x, y) != b.Pixel(x, y))
+                {
                     return testing::AssertionFailure()
                            << "at (" << x << ", " << y << "): " << a.Pixel(x, y) << " and " << b.Pixel(x, y);
+                }
+            }
+        }
         return testing::AssertionSuccess();
     }
     /// A cell without a kind, text, image or colours of its own.
@@ -118,7 +123,7 @@ TEST_F(ListCellPainters, PaintEveryKindAsTheListDoes)
             m_canvas.Fill(untouched);
             cell_painters::FillMargin(m_canvas.Dc(), Cell(1, 1), ::GetSysColor(COLOR_WINDOW));
             PaintOver(1, 1);
-            auto const shown = Copy(Cell(1, 1));
+            std::unique_ptr<tests::Canvas> const shown = Copy(Cell(1, 1));
             EXPECT_TRUE(AreEqual(*PaintedAlone(), *shown)) << each.name << (enabled ? "" : ", disabled");
             EXPECT_TRUE(m_painted) << each.name;
         }
@@ -144,7 +149,7 @@ TEST_F(ListCellPainters, FollowTheAlignmentOfTheColumn)
 TEST_F(ListCellPainters, LeaveACellWithAPainterOfItsOwnToTheControl)
 {
     m_list.SetCustomDraw(1, 1, [](int, int, CDC *, CRect const &) {});
-    auto const picture = PaintedAlone();
+    std::unique_ptr<tests::Canvas> const picture = PaintedAlone();
     EXPECT_FALSE(m_painted);
     EXPECT_TRUE(picture->BoundsOfOther(untouched).IsRectEmpty());
 }

@@ -1,14 +1,13 @@
 // Cells of the report list: access, row words and keys, properties, colours, check states.
 
-#include "list_CellTest.h"
-
-#include "list/XListRowPool.h"
-
 #include <gtest/gtest.h>
 
 #include <array>
 #include <limits>
 #include <numeric>
+
+#include "list/XListRowPool.h"
+#include "list_CellTest.h"
 
 using tests::TestList;
 

@@ -1,8 +1,8 @@
 // Check boxes and radio buttons of the report list, and the column headers that follow them.
 
-#include "list_CellTest.h"
-
 #include <gtest/gtest.h>
+
+#include "list_CellTest.h"
 
 namespace
 {

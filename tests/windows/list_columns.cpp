@@ -1,13 +1,12 @@
 // Columns of the report list: adding, deleting, widths, fitting, header states.
 
-#include "ListTestHost.h"
-
-#include "MessageRecorder.h"
-
 #include <gtest/gtest.h>
 
 #include <numeric>
 #include <vector>
+
+#include "ListTestHost.h"
+#include "MessageRecorder.h"
 
 using tests::ListHost;
 using tests::TestList;

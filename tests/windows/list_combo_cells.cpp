@@ -1,10 +1,9 @@
 // The combo box over a cell of the list: what it offers, what ends it, and what the cell and the parent get of it.
 
-#include "list_EditorTest.h"
+#include <memory>
 
 #include "GdiHandleCount.h"
-
-#include <memory>
+#include "list_EditorTest.h"
 
 namespace
 {

@@ -46,12 +46,14 @@ protected:
     void CloseUnexpected(tests::LaterActions & later)
     {
         for (int times = 0; times < 4; ++times)
+        {
             later.Add(
                 [this] {
                     ++m_unexpected;
                     ::EndMenu();
                 },
                 MenuIsOpen);
+        }
     }
 
     std::vector<Choice> m_choices;

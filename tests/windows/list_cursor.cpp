@@ -1,10 +1,10 @@
 // The cell cursor of a list.
 
-#include "list_EditorTest.h"
-
 #include <memory>
 #include <set>
 #include <utility>
+
+#include "list_EditorTest.h"
 
 namespace
 {
@@ -31,12 +31,12 @@ protected:
     void PressWith(WORD key, std::initializer_list<WORD> held)
     {
         auto const released = [&] {
-            auto const & all = m_input.Received();
+            std::vector<tests::ReceivedMessage> const & all = m_input.Received();
             return std::count_if(all.begin(), all.end(), [&](tests::ReceivedMessage const & received) {
                 return received.message == WM_KEYUP && received.wParam == held.begin()[0];
             });
         };
-        auto const before = released();
+        std::ptrdiff_t const before = released();
         tests::Key(key, held);
         EXPECT_TRUE(tests::PumpUntil([&] { return released() > before; }));
         tests::PumpPosted();
@@ -290,7 +290,7 @@ TEST_F(ListCursor, DialogKeepsTheKeysThatTheListHasNoUseFor)
 {
     auto const wants = [&](WPARAM key) {
         MSG const message = {m_list.m_hWnd, WM_KEYDOWN, key, 0, 0, {}};
-        auto const answer = m_list.SendMessageW(WM_GETDLGCODE, key, reinterpret_cast<LPARAM>(&message));
+        LRESULT const answer = m_list.SendMessageW(WM_GETDLGCODE, key, reinterpret_cast<LPARAM>(&message));
         return (answer & DLGC_WANTMESSAGE) != 0;
     };
     EXPECT_FALSE(wants(VK_RETURN));

@@ -1,12 +1,12 @@
 // Dragging rows of a list with the real mouse, and what a drop does to the two rows.
 
-#include "GdiHandleCount.h"
-#include "ImportPatch.h"
-#include "list_InputTest.h"
-
 #include <string>
 #include <utility>
 #include <vector>
+
+#include "GdiHandleCount.h"
+#include "ImportPatch.h"
+#include "list_InputTest.h"
 
 namespace
 {
@@ -117,8 +117,10 @@ protected:
     {
         std::vector<int> marked;
         for (int row = 0; row < m_list.GetItemCount(); ++row)
+        {
             if (m_list.GetItemState(row, LVIS_DROPHILITED) != 0)
                 marked.push_back(row);
+        }
         return marked;
     }
     std::vector<int> Words() const
@@ -310,8 +312,10 @@ TEST_F(ListDrag, MarksEveryCellOfBothRowsAsModifiedButNotTheList)
     m_list.SetListModified(false);
     Drag(5, 2);
     for (int row = 0; row < list_input::rows; ++row)
+    {
         for (int col = 0; col < list_input::columns; ++col)
             EXPECT_EQ(m_list.GetModified(row, col), row == 2 || row == 5) << row << ", " << col;
+    }
     EXPECT_FALSE(m_list.GetListModified());
 }
 
@@ -515,9 +519,9 @@ TEST_F(ListDrag, RepaintsBothRowsAfterTheDrop)
     tests::MessageRecorder repaints({LVM_SETITEMW, LVM_REDRAWITEMS});
     repaints.Watch(m_list.m_hWnd, "list");
     Drop();
-    auto const & all = repaints.Received();
+    std::vector<tests::ReceivedMessage> const & all = repaints.Received();
     std::vector<int> rows;
-    for (auto const & received : all)
+    for (tests::ReceivedMessage const & received : all)
         rows.push_back(received.message == LVM_SETITEMW ? -1 : static_cast<int>(received.wParam));
     // The mark, the columns of both rows, and both rows; a move after that may mark a row again.
     std::vector<int> expected(1 + 2 * list_input::columns, -1);
@@ -535,7 +539,7 @@ TEST_F(ListDrag, MouseMessagesGoOnToTheNativeList)
     recorder.Watch(m_host.parent.m_hWnd, "parent");
     ClickCell(4, 1);
     auto const clicks = [&recorder] {
-        auto const & all = recorder.Received();
+        std::vector<tests::ReceivedMessage> const & all = recorder.Received();
         return std::count_if(all.begin(), all.end(), [](auto const & received) { return received.code == NM_CLICK; });
     };
     EXPECT_EQ(clicks(), 1);
@@ -707,7 +711,7 @@ TEST_F(ListDrag, ThePictureIsHiddenWhileRowsAreRepainted)
         {module, "ImageList_DragMove", &DragMove},   {module, "ImageList_DragShowNolock", &DragShow},
         {module, "ImageList_DragLeave", &DragLeave}, {module, "ImageList_EndDrag", &EndDrag},
         {module, "ImageList_AddMasked", &AddMasked}};
-    for (auto const & patch : patches)
+    for (tests::ImportPatch const & patch : patches)
         ASSERT_TRUE(patch.Done());
     m_host.parent.onNotify = [this](NMHDR const & header) {
         if (header.code == LVN_ITEMCHANGED)

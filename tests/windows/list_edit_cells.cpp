@@ -1,11 +1,10 @@
 // The edit field over a cell of the list: where it opens, what ends it, and what the cell and the parent get of it.
 
-#include "list_EditorTest.h"
+#include <memory>
 
 #include "GdiHandleCount.h"
+#include "list_EditorTest.h"
 #include "ScopedWindow.h"
-
-#include <memory>
 
 namespace
 {

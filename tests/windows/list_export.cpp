@@ -1,21 +1,20 @@
 // A list's cells as text on the clipboard.
 
-#include "ImportPatch.h"
-#include "ListTestHost.h"
-#include "TestApp.h"
-#include "clipboard_ClipboardTest.h"
-
-#include "frame/CoreLibrary.h"
-
-#include <gtest/gtest.h>
-
 #include <locale.h>
 #include <wchar.h>
+
+#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cstdarg>
 #include <iterator>
 #include <string>
+
+#include "clipboard_ClipboardTest.h"
+#include "frame/CoreLibrary.h"
+#include "ImportPatch.h"
+#include "ListTestHost.h"
+#include "TestApp.h"
 
 namespace
 {
@@ -27,8 +26,10 @@ protected:
     {
         m_host.Fill(3, rows);
         for (int row = 0; row < rows; ++row)
+        {
             for (int col = 0; col < 3; ++col)
                 m_list.SetItemText(row, col, (std::to_wstring(row) + L"." + std::to_wstring(col)).c_str());
+        }
     }
     tests::ListHost m_host;
     tests::TestList & m_list = m_host.list;
@@ -277,8 +278,10 @@ int HeapBlocks()
     {
         PROCESS_HEAP_ENTRY entry{};
         while (::HeapWalk(heaps[i], &entry))
+        {
             if ((entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) != 0)
                 ++blocks;
+        }
     }
     return blocks;
 }

@@ -1,8 +1,8 @@
 // Without the header of the real functions, whose names these have.
 
-#include "list_FakeVisualStyles.h"
-
 #include <cwchar>
+
+#include "list_FakeVisualStyles.h"
 
 namespace tests::fake_visual_styles
 {

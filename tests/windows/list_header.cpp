@@ -1,13 +1,12 @@
 // What the list's header does: its messages, its clicks, and the header operations of the list.
 
-#include "list_HeaderTest.h"
+#include <memory>
 
 #include "Input.h"
+#include "list_HeaderTest.h"
 #include "ListTestHost.h"
 #include "MessageRecorder.h"
 #include "Pump.h"
-
-#include <memory>
 
 namespace
 {

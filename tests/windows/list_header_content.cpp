@@ -1,10 +1,9 @@
 // How the list's header paints what an item holds: images, bitmaps and titles.
 
-#include "list_HeaderTest.h"
+#include <utility>
 
 #include "GdiHandleCount.h"
-
-#include <utility>
+#include "list_HeaderTest.h"
 
 namespace
 {
@@ -218,7 +217,7 @@ TEST_F(ListHeaderContent, ATitleIsAlignedByItsColumn)
 {
     for (auto const & [format, alignment] : {std::pair(HDF_LEFT, 0u), {HDF_CENTER, 1u}, {HDF_RIGHT, 2u}})
     {
-        auto const texts = Draw(Titled(HDF_STRING | format));
+        std::vector<TextRecorder::Text> const texts = Draw(Titled(HDF_STRING | format));
         ASSERT_EQ(texts.size(), 1u);
         EXPECT_EQ(texts[0].text, L"title");
         EXPECT_EQ(texts[0].rect, m_room);
@@ -233,7 +232,7 @@ TEST_F(ListHeaderContent, AnAlignmentForAllOverridesTheColumns)
         m_header.SetAlignment(alignment);
         for (int format : {HDF_LEFT, HDF_CENTER, HDF_RIGHT})
         {
-            auto const texts = Draw(Titled(HDF_STRING | format));
+            std::vector<TextRecorder::Text> const texts = Draw(Titled(HDF_STRING | format));
             ASSERT_EQ(texts.size(), 1u);
             EXPECT_EQ(texts[0].format, 0x8024u | alignment);
         }

@@ -1,11 +1,10 @@
 // How the list's header paints itself: dividers, relief and marks.
 
-#include "list_HeaderTest.h"
-
-#include "GoldenImage.h"
-
 #include <map>
 #include <utility>
+
+#include "GoldenImage.h"
+#include "list_HeaderTest.h"
 
 namespace
 {
@@ -55,8 +54,10 @@ testing::AssertionResult Shows(Canvas const & canvas, CRect const & area, Pixels
             auto const found = pixels.find({x, y});
             COLORREF const expected = found != pixels.end() ? found->second : elsewhere;
             if (canvas.Pixel(x, y) != expected)
+            {
                 return testing::AssertionFailure() << "at (" << x << ", " << y << ") " << std::hex << canvas.Pixel(x, y)
                                                    << " instead of " << expected;
+            }
         }
     }
     return testing::AssertionSuccess();

@@ -1,9 +1,5 @@
 // Hosts that change rows and callables, or end the list, from within what the list tells them.
 
-#include "GuardedHeap.h"
-#include "ListTestHost.h"
-#include "Pump.h"
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -12,6 +8,10 @@
 #include <memory>
 #include <utility>
 #include <vector>
+
+#include "GuardedHeap.h"
+#include "ListTestHost.h"
+#include "Pump.h"
 
 namespace
 {
@@ -174,8 +174,8 @@ TEST_F(HostileList, CallablesThatReplaceThemselvesLiveUntilTheyReturn)
     bool livedOn = false;
     m_list.SetCheckbox(0, 1, XLC_UNCHECKED);
     m_list.m_onCellClick = [this, token, &held, &livedOn](int, int) {
-        auto & livedOnHere = livedOn;
-        auto const & heldHere = held;
+        bool & livedOnHere = livedOn;
+        std::weak_ptr<int> const & heldHere = held;
         m_list.m_onCellClick = nullptr;
         livedOnHere = !heldHere.expired();
     };
@@ -187,8 +187,8 @@ TEST_F(HostileList, CallablesThatReplaceThemselvesLiveUntilTheyReturn)
     std::weak_ptr<int> const second = token;
     livedOn = false;
     m_list.m_onStateChange = [this, token, &second, &livedOn](int, int) {
-        auto & livedOnHere = livedOn;
-        auto const & heldHere = second;
+        bool & livedOnHere = livedOn;
+        std::weak_ptr<int> const & heldHere = second;
         m_list.m_onStateChange = nullptr;
         livedOnHere = !heldHere.expired();
     };
@@ -200,8 +200,8 @@ TEST_F(HostileList, CallablesThatReplaceThemselvesLiveUntilTheyReturn)
     std::weak_ptr<int> const third = token;
     livedOn = false;
     m_list.m_onDoubleClick = [this, token, &third, &livedOn](int, int) {
-        auto & livedOnHere = livedOn;
-        auto const & heldHere = third;
+        bool & livedOnHere = livedOn;
+        std::weak_ptr<int> const & heldHere = third;
         m_list.m_onDoubleClick = nullptr;
         livedOnHere = !heldHere.expired();
     };
@@ -524,7 +524,7 @@ class AskedByItsEdit : public testing::Test
 protected:
     void SetUp() override
     {
-        ASSERT_TRUE(m_list.Create(tests::TestList::default_style, CRect(0, 0, 300, 150), &m_parent, 7));
+        ASSERT_TRUE(m_list.Create(tests::TestList::default_style, CRect(0, 0, 300, 150), &m_host, 7));
         m_list.AddColumns(3);
         m_list.AddRows(4);
         m_list.DrawEditControl(1, 1);
@@ -572,7 +572,7 @@ protected:
     void Repaint() { ::RedrawWindow(m_edit, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW); }
 
     tests::GuardedHeap m_heap;
-    tests::ListParent m_parent;
+    tests::ListParent m_host;
     AskedList m_list;
     HWND m_edit = nullptr;
 };
@@ -586,7 +586,7 @@ TEST_F(AskedByItsEdit, ForItsColoursItMayEnd)
 TEST_F(AskedByItsEdit, ForItsColoursItsParentMayEnd)
 {
     EndListIn(
-        WM_CTLCOLOREDIT, [this] { Repaint(); }, [this] { m_parent.DestroyWindow(); });
+        WM_CTLCOLOREDIT, [this] { Repaint(); }, [this] { m_host.DestroyWindow(); });
 }
 
 TEST_F(AskedByItsEdit, ToldOfATypedLetterItMayEnd)

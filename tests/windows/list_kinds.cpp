@@ -1,13 +1,13 @@
 // Texts, values and kinds of the report list's cells, and their combo strings.
 
-#include "list_CellTest.h"
-
 #include <gtest/gtest.h>
 
 #include <limits>
 #include <map>
 #include <string>
 #include <vector>
+
+#include "list_CellTest.h"
 
 using tests::ListHost;
 

@@ -1,17 +1,16 @@
 // Life and look of the report list: members at the start, creation by code and from a dialog template, destruction.
 
-#include "ListTestHost.h"
-
-#include "Bitmap.h"
-#include "GdiHandleCount.h"
-#include "MessageRecorder.h"
-#include "Pump.h"
-#include "frame/InternalMessages.h"
-
 #include <gtest/gtest.h>
 
 #include <memory>
 #include <vector>
+
+#include "Bitmap.h"
+#include "frame/InternalMessages.h"
+#include "GdiHandleCount.h"
+#include "ListTestHost.h"
+#include "MessageRecorder.h"
+#include "Pump.h"
 
 using tests::ListDialog;
 using tests::ListHost;

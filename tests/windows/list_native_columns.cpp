@@ -1,11 +1,11 @@
 // Columns that the native list is told to insert or delete past the list's own operations.
 
-#include "ListTestHost.h"
-
 #include <gtest/gtest.h>
 
 #include <string>
 #include <vector>
+
+#include "ListTestHost.h"
 
 namespace
 {
@@ -84,7 +84,7 @@ TEST_F(ListNativeColumns, ARefusedDeletionChangesNothing)
 
 TEST_F(ListNativeColumns, AnInsertedColumnMovesTheCellsBehindIt)
 {
-    auto const kind = m_list.GetItemValueType(0, 2);
+    unsigned int const kind = m_list.GetItemValueType(0, 2);
     ASSERT_EQ(Insert(1), 1);
     EXPECT_EQ(m_list.GetColumnCount(), 4);
     EXPECT_EQ(Texts(0), (std::vector<std::wstring>{L"0.0", L"", L"0.1", L"0.2"}));

@@ -1,10 +1,10 @@
 // Numbers of every kind as a row's word, and the native list's own forms of names that the list has as well.
 
-#include "ListTestHost.h"
-
 #include <gtest/gtest.h>
 
 #include <iterator>
+
+#include "ListTestHost.h"
 
 namespace
 {

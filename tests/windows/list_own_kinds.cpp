@@ -1,13 +1,12 @@
 // Kinds of cells that a host brings itself, in a real list.
 
-#include "list_PaintTest.h"
-
-#include "Pump.h"
-#include "clipboard/Clipboard.h"
-#include "frame/RegisteredMessages.h"
-
 #include <memory>
 #include <vector>
+
+#include "clipboard/Clipboard.h"
+#include "frame/RegisteredMessages.h"
+#include "list_PaintTest.h"
+#include "Pump.h"
 
 namespace
 {
@@ -148,6 +147,21 @@ TEST_F(ListOwnKinds, TheRowWithTheFocusOffersItKeys)
     EXPECT_EQ(Data(1, 1).intValue, 7) << "of another row";
 }
 
+TEST_F(ListOwnKinds, TheCellCursorsCellIsOfferedKeysFirst)
+{
+    m_list.SetCellKind(1, 2, m_kind);
+    m_list.EnableCellCursor();
+    ASSERT_TRUE(m_list.SetCellCursor(1, 2));
+    m_list.SendMessage(WM_KEYDOWN, '7', 1);
+    EXPECT_EQ(Data(1, 2).intValue, 7);
+    EXPECT_NE(Data(1, 1).intValue, 7);
+    EXPECT_EQ(m_host.TakePosted(), (tests::PostedRows{{WM_XLISTCTRL_EDIT_END, 1, 2}}));
+    ASSERT_TRUE(m_list.SetCellCursor(1, 0));
+    m_list.SendMessage(WM_KEYDOWN, '8', 1);
+    EXPECT_EQ(Data(1, 1).intValue, 8) << "a cursor elsewhere leaves it to the leftmost";
+    EXPECT_EQ(Data(1, 2).intValue, 7);
+}
+
 TEST_F(ListOwnKinds, ItStaysWithItsRowWhenTheListIsSortedByIt)
 {
     m_list.SetCellKind(0, 1, m_kind);
@@ -218,6 +232,15 @@ TEST_F(ListOwnKinds, OneThatEndsTheListAtAKeyIsTheLastToBeAsked)
     m_list.SetCellKind(1, 1, std::make_shared<Ending>(m_list));
     m_list.SetCellKind(1, 2, m_kind);
     m_list.SetItemState(1, LVIS_FOCUSED, LVIS_FOCUSED);
+    m_list.SendMessage(WM_KEYDOWN, '7', 1);
+    EXPECT_EQ(m_list.m_hWnd, nullptr);
+}
+
+TEST_F(ListOwnKinds, OneAtTheCellCursorThatEndsTheListIsTheLastToBeAsked)
+{
+    m_list.SetCellKind(1, 2, std::make_shared<Ending>(m_list));
+    m_list.EnableCellCursor();
+    ASSERT_TRUE(m_list.SetCellCursor(1, 2));
     m_list.SendMessage(WM_KEYDOWN, '7', 1);
     EXPECT_EQ(m_list.m_hWnd, nullptr);
 }

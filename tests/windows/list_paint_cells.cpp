@@ -1,8 +1,8 @@
-#include "list_PaintTest.h"
-
 #include <cmath>
 #include <set>
 #include <utility>
+
+#include "list_PaintTest.h"
 
 namespace
 {
@@ -22,9 +22,13 @@ protected:
     {
         Pixels pixels;
         for (int y = rect.top; y < rect.bottom; ++y)
+        {
             for (int x = rect.left; x < rect.right; ++x)
+            {
                 if (m_canvas.Pixel(x, y) == colour)
                     pixels.insert({x - rect.left, y - rect.top});
+            }
+        }
         return pixels;
     }
 
@@ -136,15 +140,15 @@ TEST_F(ListPaintCells, TextFollowsTheColumnsAlignment)
 TEST_F(ListPaintCells, TooLongATextEndsInAnEllipsisIfThatIsOn)
 {
     Write(0, 1, L"XXXXXXXXXXXXXXXXXXXXXX");
-    auto const withEllipsis = Painted(0, 1);
+    std::unique_ptr<tests::Canvas> const withEllipsis = Painted(0, 1);
     EXPECT_TRUE(m_list.SetEllipsis(false));
-    auto const without = Painted(0, 1);
+    std::unique_ptr<tests::Canvas> const without = Painted(0, 1);
     EXPECT_FALSE(tests::SamePixels(*withEllipsis, *without));
     // The dots stand at the bottom of the line only.
     EXPECT_LT(withEllipsis->Count(ink), without->Count(ink));
 
     Write(0, 1, L"X");
-    auto const shortText = Painted(0, 1);
+    std::unique_ptr<tests::Canvas> const shortText = Painted(0, 1);
     m_list.SetEllipsis(true);
     EXPECT_TRUE(tests::SamePixels(*Painted(0, 1), *shortText));
 }
@@ -188,7 +192,7 @@ TEST_F(ListPaintCells, AnAmpersandIsAnAmpersandInTextAndAMnemonicBesideABox)
 {
     m_list.AddColumns(1, 100);
     Write(0, 1, L"&X");
-    auto const text = Painted(0, 1);
+    std::unique_ptr<tests::Canvas> const text = Painted(0, 1);
     Write(0, 1, L"X");
     EXPECT_LT(Painted(0, 1)->Count(ink), text->Count(ink));
     CRect const plain = Bounds(ink, Cell(0, 1));
@@ -277,7 +281,7 @@ TEST_F(ListPaintCells, AnUnknownCheckStateHasTextButNoBox)
 TEST_F(ListPaintCells, ACheckCellShowsNoImage)
 {
     m_list.SetCheckbox(0, 1, XLC_CHECKED);
-    auto const without = Painted(0, 1);
+    std::unique_ptr<tests::Canvas> const without = Painted(0, 1);
     m_list.SetItemImage(0, 1, 0);
     EXPECT_TRUE(tests::SamePixels(*Painted(0, 1), *without));
 }
@@ -411,7 +415,7 @@ TEST_F(ListPaintCells, TheTextOfAComboEndsBeforeTheArrowAndADisabledOneHasNeithe
 TEST_F(ListPaintCells, ACombosTextIsNeitherBoldNorUnderlined)
 {
     m_list.SetComboBox(0, 1, std::map<int, wchar_t const *>{{1, L"Xx"}}, 1, 1);
-    auto const plain = Painted(0, 1);
+    std::unique_ptr<tests::Canvas> const plain = Painted(0, 1);
     m_list.SetItemProperty(0, 1, XLP_BOLD | XLP_UNDERLINE, true);
     EXPECT_TRUE(tests::SamePixels(*Painted(0, 1), *plain));
 }
@@ -470,7 +474,7 @@ TEST_F(ListPaintCells, KindsAreTriedInOrder)
 {
     // A progress cell with a check state, a combo's bit and a painter is a bar.
     m_list.SetProgress(0, 1, false, nullptr);
-    auto const bar = Painted(0, 1);
+    std::unique_ptr<tests::Canvas> const bar = Painted(0, 1);
     XLISTCTRLDATA & cell = Data(0, 1);
     cell.checkedState = XLC_CHECKED;
     cell.properties |= XLP_COMBO | XLP_CUSTOMDRAW;
@@ -509,6 +513,7 @@ TEST_F(ListPaintCells, NothingIsDrawnIntoNothing)
     m_list.DrawProgress(0, 1, nullptr, 0, 0, rect, cells);
     m_list.DrawProgress(0, 1, dc, 0, 0, rect, nullptr);
     for (int state = XLC_UNCHECKED; state <= XLC_RADIO_OFF; ++state)
+    {
         for (auto const draw : {&tests::TestList::DrawCheckboxBox, &tests::TestList::DrawRadioBox})
         {
             CRect box(cell.TopLeft(), CSize(box_size, box_size));
@@ -518,6 +523,7 @@ TEST_F(ListPaintCells, NothingIsDrawnIntoNothing)
             CRect noHeight(cell.left, cell.top, cell.left + box_size, cell.top);
             (m_list.*draw)(noHeight, state, false, dc);
         }
+    }
     EXPECT_TRUE(m_canvas.BoundsOfOther(untouched).IsRectEmpty());
 }
 

@@ -1,10 +1,5 @@
 // Whatever changes columns leaves the picture of a list that is painted anew.
 
-#include "Bitmap.h"
-#include "Input.h"
-#include "ListTestHost.h"
-#include "Pump.h"
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -12,6 +7,11 @@
 #include <random>
 #include <string>
 #include <vector>
+
+#include "Bitmap.h"
+#include "Input.h"
+#include "ListTestHost.h"
+#include "Pump.h"
 
 namespace
 {

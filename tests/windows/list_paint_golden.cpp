@@ -1,8 +1,8 @@
-#include "GoldenImage.h"
-#include "list_PaintTest.h"
-
 #include <functional>
 #include <string>
+
+#include "GoldenImage.h"
+#include "list_PaintTest.h"
 
 namespace
 {

@@ -1,15 +1,15 @@
 // Hosts that change or end the list while it paints.
 
-#include "Bitmap.h"
-#include "GuardedHeap.h"
-#include "ListTestHost.h"
-#include "Pump.h"
-
 #include <gtest/gtest.h>
 
 #include <functional>
 #include <memory>
 #include <string>
+
+#include "Bitmap.h"
+#include "GuardedHeap.h"
+#include "ListTestHost.h"
+#include "Pump.h"
 
 namespace
 {

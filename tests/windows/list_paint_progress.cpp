@@ -1,6 +1,6 @@
-#include "list_PaintTest.h"
-
 #include <climits>
+
+#include "list_PaintTest.h"
 
 namespace
 {
@@ -82,7 +82,7 @@ TEST_F(ListPaintProgress, TheBarIsItsShareLessOnePixel)
 
 TEST_F(ListPaintProgress, ABarTooShortToShowLeavesTheTroughAsItIs)
 {
-    auto const none = Shown(0);
+    std::unique_ptr<tests::Canvas> const none = Shown(0);
     EXPECT_TRUE(tests::SamePixels(*Shown(1), *none));
     EXPECT_TRUE(tests::SamePixels(*Shown(3), *none));
     EXPECT_FALSE(tests::SamePixels(*Shown(4), *none));
@@ -158,7 +158,7 @@ TEST_F(ListPaintProgress, WithoutItsFlagThereIsNoText)
 TEST_F(ListPaintProgress, PercentIsTheText)
 {
     Make(true, nullptr);
-    auto const usual = Shown(37);
+    std::unique_ptr<tests::Canvas> const usual = Shown(37);
     Make(true, L"37%%");
     EXPECT_TRUE(tests::SamePixels(*Shown(37), *usual));
     Make(true, L"38%%");
@@ -168,8 +168,8 @@ TEST_F(ListPaintProgress, PercentIsTheText)
 TEST_F(ListPaintProgress, AFormatOfItsOwnShowsTheDisplayValueWhateverThePercentage)
 {
     Make(true, L"%d of 9");
-    auto const byFormat = Shown(60, 5);
-    auto const other = Shown(60, 6);
+    std::unique_ptr<tests::Canvas> const byFormat = Shown(60, 5);
+    std::unique_ptr<tests::Canvas> const other = Shown(60, 6);
     Make(true, L"5 of 9");
     EXPECT_TRUE(tests::SamePixels(*Shown(60, 77), *byFormat));
     EXPECT_FALSE(tests::SamePixels(*byFormat, *other));
@@ -206,7 +206,7 @@ TEST_F(ListPaintProgress, AnImageStandsLeftOfTheBar)
 TEST_F(ListPaintProgress, SelectionDoesNotShow)
 {
     Make(true, nullptr);
-    auto const normal = Shown(50);
+    std::unique_ptr<tests::Canvas> const normal = Shown(50);
     Select(row, true);
     EXPECT_TRUE(tests::SamePixels(*Shown(50), *normal));
 }

@@ -1,11 +1,11 @@
-#include "GdiHandleCount.h"
-#include "Pump.h"
-#include "TestApp.h"
-#include "list_PaintTest.h"
-
 #include <map>
 #include <utility>
 #include <vector>
+
+#include "GdiHandleCount.h"
+#include "list_PaintTest.h"
+#include "Pump.h"
+#include "TestApp.h"
 
 namespace
 {
@@ -161,7 +161,7 @@ TEST_F(ListPaintStates, ADisabledRadioButtonDoesNotTellWhetherItIsOn)
     m_list.SetRadioButton(1, 1, XLC_RADIO_ON);
     m_list.SetEnabled(1, 1, false);
     Paint(1, 1);
-    auto const on = Copy(Cell(1, 1));
+    std::unique_ptr<tests::Canvas> const on = Copy(Cell(1, 1));
     m_list.SetRadioButton(1, 1, XLC_RADIO_OFF);
     Paint(1, 1);
     EXPECT_TRUE(tests::SamePixels(*on, *Copy(Cell(1, 1))));
@@ -299,8 +299,10 @@ TEST_F(ListPaintStates, PaintingTheChangedCellPaintsItAlone)
             painted.emplace_back(row, col);
     };
     for (int row = 0; row < 4; ++row)
+    {
         for (int col = 0; col < 3; ++col)
             m_list.SetCustomDraw(row, col, note);
+    }
     m_list.UpdateWindow();
     m_list.TakeUpdateRect();
     painted.clear();
@@ -313,11 +315,13 @@ TEST_F(ListPaintStates, OnePaintFillsEveryCellWithItsOwnColours)
 {
     auto const colour = [](int row, int col) { return RGB(40 * row + 20, 60 * col + 20, 90); };
     for (int row = 0; row < 4; ++row)
+    {
         for (int col = 0; col < 3; ++col)
         {
             m_list.SetItemText(row, col, L"");
             m_list.SetItemColors(row, col, RGB(0, 0, 0), colour(row, col), 0xFFFFFF);
         }
+    }
     m_list.SetCurSel(2, false);
     ::SetFocus(m_list.m_hWnd);
     // Twice, with other columns: nothing of one paint may be left for the next.
@@ -327,6 +331,7 @@ TEST_F(ListPaintStates, OnePaintFillsEveryCellWithItsOwnColours)
         m_list.RedrawWindow();
         CClientDC dc(&m_list);
         for (int row = 0; row < 4; ++row)
+        {
             for (int col = 0; col < 3; ++col)
             {
                 COLORREF const expected = row == 2 ? ::GetSysColor(COLOR_HIGHLIGHT) : colour(row, col);
@@ -334,6 +339,7 @@ TEST_F(ListPaintStates, OnePaintFillsEveryCellWithItsOwnColours)
                 EXPECT_EQ(dc.GetPixel(cell.left + 3, cell.top + 1), expected) << row << ", " << col;
                 EXPECT_EQ(dc.GetPixel(cell.right - 1, cell.bottom - 2), expected) << row << ", " << col;
             }
+        }
     }
 }
 

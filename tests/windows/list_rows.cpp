@@ -1,15 +1,14 @@
 // Rows of the report list: insertion, deletion, recycling, selection, batch mode, repainting.
 
-#include "ListTestHost.h"
-
-#include "MessageRecorder.h"
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <set>
 #include <string>
 #include <vector>
+
+#include "ListTestHost.h"
+#include "MessageRecorder.h"
 
 using tests::ListHost;
 using tests::TestList;

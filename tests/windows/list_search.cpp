@@ -1,13 +1,13 @@
 // Operations that go over all rows: what they find, and how little they ask the native list for it.
 
-#include "ListTestHost.h"
-
 #include <gtest/gtest.h>
 
 #include <functional>
 #include <string>
 #include <utility>
 #include <vector>
+
+#include "ListTestHost.h"
 
 namespace
 {

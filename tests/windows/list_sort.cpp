@@ -1,7 +1,5 @@
 // Sorting a list by a column: order, marks, and what moves with the rows.
 
-#include "ListTestHost.h"
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -12,6 +10,8 @@
 #include <string>
 #include <utility>
 #include <vector>
+
+#include "ListTestHost.h"
 
 namespace
 {
@@ -505,8 +505,10 @@ TEST_F(ListSort, SelectionFocusAndNativeChecksMoveWithTheirRows)
     auto const state = [this](auto && has) {
         std::vector<int> numbers;
         for (int row = 0; row < m_list.GetItemCount(); ++row)
+        {
             if (has(row))
                 numbers.push_back(m_list.GetItemData(row));
+        }
         std::sort(numbers.begin(), numbers.end());
         return numbers;
     };

@@ -1,9 +1,9 @@
 // The tooltips of a list's cells.
 
-#include "list_InputTest.h"
-
 #include <cstdlib>
 #include <string>
+
+#include "list_InputTest.h"
 
 namespace
 {
@@ -140,13 +140,17 @@ TEST_F(ListToolTips, AllCanBeDeleted)
 {
     m_list.InsertForeignItem(0, L"foreign");
     for (int row = 1; row <= list_input::rows; ++row)
+    {
         for (int col = 0; col < list_input::columns; ++col)
             ASSERT_TRUE(m_list.SetItemToolTipText(row, col, L"x"));
+    }
     m_list.AddColumn(L"late", LVCFMT_LEFT, 20);
     m_list.DeleteAllToolTips();
     for (int row = 1; row <= list_input::rows; ++row)
+    {
         for (int col = 0; col < list_input::columns; ++col)
             EXPECT_EQ(m_list.GetItemToolTipText(row, col), CString());
+    }
 }
 
 TEST_F(ListToolTips, RecycledRowKeepsItsTextsUntilTheyAreDeleted)

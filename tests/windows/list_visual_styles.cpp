@@ -1,7 +1,6 @@
 // Access to the visual styles. What is found stays for the process, so most of it is looked at from other processes.
 
 #include <afxwin.h>
-
 #include <shlwapi.h>
 
 #include <gtest/gtest.h>
@@ -14,9 +13,9 @@
 
 #include "Bitmap.h"
 #include "ChildProgram.h"
-#include "ScopedWindow.h"
 #include "list/VisualStyles.h"
 #include "list_FakeVisualStyles.h"
+#include "ScopedWindow.h"
 
 #define FOR_EACH_FUNCTION(X)                                                                                           \
     X(OpenThemeData)                                                                                                   \
@@ -92,8 +91,10 @@ consteval bool SameSignature(Result (CVisualStyles::*)(Arguments...) const,
     if constexpr (sizeof...(Arguments) != sizeof...(PlatformArguments))
         return false;
     else
+    {
         return std::is_same_v<Result, PlatformResult> &&
                (std::is_same_v<typename Plain<Arguments>::Type, typename Plain<PlatformArguments>::Type> && ...);
+    }
 }
 
 #define CHECK_SIGNATURE(name) static_assert(SameSignature(&CVisualStyles::name, decltype(&::name){}));

@@ -1,12 +1,5 @@
 // A random walk over the operations of a real list, held against the reference model after every step.
 
-#include "ListWalk.h"
-#include "ScopedWindow.h"
-
-#include "frame/RegisteredMessages.h"
-#include "list/XListCtrl.h"
-#include "list/XListRowPool.h"
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -14,6 +7,12 @@
 #include <string>
 #include <tuple>
 #include <vector>
+
+#include "frame/RegisteredMessages.h"
+#include "list/XListCtrl.h"
+#include "list/XListRowPool.h"
+#include "ListWalk.h"
+#include "ScopedWindow.h"
 
 namespace
 {
@@ -105,11 +104,13 @@ public:
         std::set<DWORD_PTR> objects;
         std::size_t items = 0;
         for (int row = 0; row < GetItemCount(); ++row)
+        {
             if (DWORD_PTR const object = CListCtrl::GetItemData(row); object != 0)
             {
                 ++items;
                 objects.insert(object);
             }
+        }
         return items == used && objects.size() == used;
     }
 

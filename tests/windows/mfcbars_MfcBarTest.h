@@ -2,13 +2,13 @@
 // What the tests of the bars that draw themselves share: an MDI frame with a menu bar, a tool bar and a status bar,
 // that notes what it is asked.
 
-#include <afxwin.h>
 #include <afxcontrolbars.h>
 #include <afxext.h>
 #include <afxmenubar.h>
 #include <afxpopupmenu.h>
 #include <afxstatusbar.h>
 #include <afxtoolbar.h>
+#include <afxwin.h>
 
 #include <gtest/gtest.h>
 
@@ -18,9 +18,9 @@
 #include <vector>
 
 #include "Input.h"
+#include "mfcbars_resource.h"
 #include "Pump.h"
 #include "TestApp.h"
-#include "mfcbars_resource.h"
 
 namespace mfcbars
 {

@@ -1,14 +1,14 @@
 // A frame with bars that draw themselves and with menus, whose every handler may show, hide, fill, resize and end any
 // of them, and the frame. It has no children: the system's own code for them does not stand their end within it.
 
-#include "chaos_Chaos.h"
-#include "mfcbars_MfcBarTest.h"
-
 #include <afxpriv.h>
 #include <afxtoolbarmenubutton.h>
 
 #include <algorithm>
 #include <vector>
+
+#include "chaos_Chaos.h"
+#include "mfcbars_MfcBarTest.h"
 
 namespace
 {

@@ -1,8 +1,7 @@
 // CMFCMenuBar, CMFCPopupMenu: menus by mouse and keys.
 
-#include "mfcbars_MfcBarTest.h"
-
 #include "GdiHandleCount.h"
+#include "mfcbars_MfcBarTest.h"
 #include "ThreadWindows.h"
 
 namespace

@@ -1,8 +1,7 @@
 // CMFCStatusBar: panes.
 
-#include "mfcbars_MfcBarTest.h"
-
 #include "GdiHandleCount.h"
+#include "mfcbars_MfcBarTest.h"
 
 namespace
 {

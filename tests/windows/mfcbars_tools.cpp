@@ -1,9 +1,8 @@
 // CMFCToolBar: buttons, their states and menus.
 
-#include "mfcbars_MfcBarTest.h"
-
 #include "Bitmap.h"
 #include "GdiHandleCount.h"
+#include "mfcbars_MfcBarTest.h"
 #include "ThreadWindows.h"
 
 namespace

@@ -2,9 +2,9 @@
 // What the tests of panes share: a main frame with panes and dynamic commands, views, a registry key and a folder of
 // the test's own.
 
-#include <afxwin.h>
 #include <afxcontrolbars.h>
 #include <afxext.h>
+#include <afxwin.h>
 
 #include <gtest/gtest.h>
 

@@ -1,12 +1,11 @@
 // CMainFrmInterface: panes and their stored state, dynamic commands, settings.
 
-#include "panes_PaneTest.h"
-
 #include <afxpopupmenu.h>
 
 #include <filesystem>
 
 #include "Input.h"
+#include "panes_PaneTest.h"
 
 namespace
 {

@@ -1,8 +1,7 @@
 // CDockableViewPane, CStandaloneFrameMigrationHelper: views in panes, and their way there from frames.
 
-#include "panes_PaneTest.h"
-
 #include "GdiHandleCount.h"
+#include "panes_PaneTest.h"
 #include "ThreadWindows.h"
 
 namespace

@@ -13,9 +13,9 @@
 #include <vector>
 
 #include "Input.h"
+#include "print_resource.h"
 #include "Pump.h"
 #include "TestApp.h"
-#include "print_resource.h"
 
 namespace printing
 {

@@ -1,9 +1,8 @@
 // The print preview: how it fills the frame and leaves it, its pages and buttons, hosts that end it.
 
-#include "print_PrintTest.h"
-
 #include "GdiHandleCount.h"
 #include "GuardedHeap.h"
+#include "print_PrintTest.h"
 #include "ThreadWindows.h"
 
 namespace

@@ -1,9 +1,8 @@
 // Printing: what a view is asked, in which order, for which pages; the dialog meanwhile; hosts that end it.
 
-#include "print_PrintTest.h"
-
 #include "GuardedHeap.h"
 #include "ImportPatch.h"
+#include "print_PrintTest.h"
 
 namespace printing
 {

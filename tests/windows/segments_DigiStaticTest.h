@@ -1,14 +1,13 @@
 #pragma once
 // A segment display on a window of its own, for the tests of its painting and of its messages.
 
-#include "segments/DigiStatic.h"
+#include <gtest/gtest.h>
 
 #include "Bitmap.h"
 #include "Pump.h"
 #include "ScopedWindow.h"
 #include "segments/DigiChar.h"
-
-#include <gtest/gtest.h>
+#include "segments/DigiStatic.h"
 
 namespace tests
 {

@@ -1,12 +1,11 @@
 // What the segment display paints: place, scale, colours.
 
-#include "segments_DigiStaticTest.h"
+#include <gtest/gtest.h>
 
 #include "GdiHandleCount.h"
 #include "GoldenImage.h"
 #include "segments/DigiStyle.h"
-
-#include <gtest/gtest.h>
+#include "segments_DigiStaticTest.h"
 
 namespace
 {

@@ -1,15 +1,14 @@
 // Windows that take the shape of their segments, and the corner that is left out of painting.
 
-#include "segments_DigiStaticTest.h"
-
-#include "GdiHandleCount.h"
-#include "ImportPatch.h"
-#include "segments/DigiStyle.h"
-
 #include <gtest/gtest.h>
 
 #include <optional>
 #include <vector>
+
+#include "GdiHandleCount.h"
+#include "ImportPatch.h"
+#include "segments/DigiStyle.h"
+#include "segments_DigiStaticTest.h"
 
 namespace
 {

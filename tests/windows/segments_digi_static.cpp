@@ -1,15 +1,14 @@
 // The segment display as a control: what its setters do to its text, its style and its window.
 
-#include "segments_DigiStaticTest.h"
+#include <gtest/gtest.h>
+
+#include <functional>
 
 #include "DialogTemplate.h"
 #include "MessageRecorder.h"
 #include "resource.h"
 #include "segments/DigiStyle.h"
-
-#include <gtest/gtest.h>
-
-#include <functional>
+#include "segments_DigiStaticTest.h"
 
 namespace
 {

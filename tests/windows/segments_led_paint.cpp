@@ -1,16 +1,14 @@
 // What the text display paints with a graphics object.
 
-#include "segments/LedTextAnzeiger.h"
-
-#include "frame/GdiplusModule.h"
-
-#include "Bitmap.h"
-#include "GdiHandleCount.h"
-#include "GoldenImage.h"
-
 #include <gtest/gtest.h>
 
 #include <memory>
+
+#include "Bitmap.h"
+#include "frame/GdiplusModule.h"
+#include "GdiHandleCount.h"
+#include "GoldenImage.h"
+#include "segments/LedTextAnzeiger.h"
 
 namespace
 {
@@ -169,7 +167,7 @@ TEST_F(LedTextPaint, SmoothingIsTheCallers)
     m_display.SetText(L"X");
     CRect rect(0, 0, width, height);
     Gdiplus::Graphics graphics(m_canvas.Dc().GetSafeHdc());
-    for (auto const mode : {Gdiplus::SmoothingModeNone, Gdiplus::SmoothingModeAntiAlias})
+    for (Gdiplus::SmoothingMode const mode : {Gdiplus::SmoothingModeNone, Gdiplus::SmoothingModeAntiAlias})
     {
         graphics.SetSmoothingMode(mode);
         m_display.DrawTextW(graphics, rect);

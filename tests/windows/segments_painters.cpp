@@ -1,17 +1,16 @@
 // Segment characters painted on a device context and on a graphics object.
 
-#include "Bitmap.h"
-#include "GdiHandleCount.h"
-#include "GoldenImage.h"
-#include "ImportPatch.h"
-
-#include "frame/GdiplusModule.h"
-#include "segments/DigiChar.h"
-
 #include <gtest/gtest.h>
 
 #include <string>
 #include <string_view>
+
+#include "Bitmap.h"
+#include "frame/GdiplusModule.h"
+#include "GdiHandleCount.h"
+#include "GoldenImage.h"
+#include "ImportPatch.h"
+#include "segments/DigiChar.h"
 
 namespace
 {
@@ -172,8 +171,10 @@ TEST(SegmentPaintersGdi, DiagonalsDoNotReachTheEdge)
     DrawGdi(cell, *Make(L'X', DigiStyleHideOff), whole_cell);
     EXPECT_EQ(cell.At(16, 30), on_fill);
     for (int const y : {23, 59})
+    {
         for (int const x : {4, 44})
             EXPECT_EQ(cell.At(x, y), background) << x << ", " << y;
+    }
     // Left of the line from (5,5) to (18,25), the shape's edge, nothing is painted at its height.
     EXPECT_EQ(cell.At(7, 20), background);
 }
@@ -308,8 +309,10 @@ TEST(SegmentPaintersGdiPlus, DiagonalsRunToTheEdge)
     Cell cell;
     DrawGdiPlus(cell, *Make(L'X', DigiStyleHideOff), whole_cell);
     for (int const y : {23, 59})
+    {
         for (int const x : {4, 44})
             EXPECT_NE(cell.At(x, y), background) << x << ", " << y;
+    }
     EXPECT_EQ(cell.At(7, 21), on_fill);
 }
 

@@ -17,9 +17,9 @@
 #include "MemoryPreferenceStore.h"
 #include "Pump.h"
 #include "ScopedWindow.h"
+#include "sheet_resource.h"
 #include "TestApp.h"
 #include "ThreadWindows.h"
-#include "sheet_resource.h"
 
 namespace sheet_tests
 {

@@ -1,8 +1,8 @@
 // The framework's property sheet: opening, pages, order of notifications, keys, wizard.
 
-#include "sheet_SheetTest.h"
-
 #include <stdexcept>
+
+#include "sheet_SheetTest.h"
 
 using namespace sheet_tests;
 

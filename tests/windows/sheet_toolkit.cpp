@@ -1,10 +1,10 @@
 // The toolkit's sheets: display, buttons, titles, stored places, layout of the children.
 
-#include "GuardedHeap.h"
-#include "sheet_Sheet3dTest.h"
-
 #include <exception>
 #include <string>
+
+#include "GuardedHeap.h"
+#include "sheet_Sheet3dTest.h"
 
 using namespace sheet_tests;
 
@@ -46,7 +46,7 @@ TEST_F(PropertySheet3d, WithoutPagesItsInitialisationTellsTheUserAndThrows)
         thrown = exception.what();
     }
     EXPECT_EQ(thrown, "Property Sheet without pages cannot be displayed!");
-    auto const messages = tests::App().Take();
+    std::vector<tests::TestApp::Message> const messages = tests::App().Take();
     ASSERT_EQ(messages.size(), 1u);
     EXPECT_EQ(messages[0].text, L"Property Sheet \u201CEmpty one\u201D has no pages and cannot be displayed!");
     EXPECT_EQ(messages[0].type, static_cast<UINT>(MB_ICONERROR));

@@ -1,7 +1,6 @@
 // The preference store in the registry, with other programs at work on it.
 
 #include <afxwin.h>
-
 #include <aclapi.h>
 
 #include <gtest/gtest.h>

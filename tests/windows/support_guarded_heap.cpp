@@ -1,11 +1,8 @@
 // The heap that the tests with a hostile host run on: it notices what it is there for, in every module.
 
-#include "ChildProgram.h"
-#include "GuardedHeap.h"
+#include <afxwin.h>
 
 #include <gtest/gtest.h>
-
-#include <afxwin.h>
 
 #include <cstdint>
 #include <cstdlib>
@@ -13,6 +10,8 @@
 #include <memory>
 #include <string>
 
+#include "ChildProgram.h"
+#include "GuardedHeap.h"
 #include "windows/FensterManager.h"
 
 namespace

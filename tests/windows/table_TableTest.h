@@ -13,9 +13,9 @@
 #include <vector>
 
 #include "Input.h"
+#include "list/table/XTableCtrl.h"
 #include "Pump.h"
 #include "ScopedWindow.h"
-#include "list/table/XTableCtrl.h"
 
 namespace tests
 {
@@ -84,8 +84,10 @@ public:
         std::lock_guard const lock(m_lock);
         // Keys rise.
         for (std::size_t row = 0; row < m_rows.size(); ++row)
+        {
             if (m_rows[row].key == key)
                 return static_cast<TableRow>(row);
+        }
         return no_table_row;
     }
     bool Write(TableRow row, unsigned int column, TableValue const & value) override
@@ -192,12 +194,12 @@ protected:
 
     void MakeTable(std::wstring const & storedName = {})
     {
-        table = std::make_unique<TestTable>();
-        table->SetColumns(Columns(), storedName);
+        m_table = std::make_unique<TestTable>();
+        m_table->SetColumns(Columns(), storedName);
         ASSERT_TRUE(
-            table->Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP | LVS_SHOWSELALWAYS, CRect(0, 0, 380, 220), parent, 7));
+            m_table->Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP | LVS_SHOWSELALWAYS, CRect(0, 0, 380, 220), m_host, 7));
         TableLocale locale;
-        table->SetTableLocale(locale);
+        m_table->SetTableLocale(locale);
     }
     static std::vector<TableColumn> Columns()
     {
@@ -225,23 +227,23 @@ protected:
     /// Rows with these numbers, named "Ch 0" and so on.
     void Show(std::vector<double> const & numbers)
     {
-        source = std::make_shared<TableRowsSource>();
+        m_source = std::make_shared<TableRowsSource>();
         for (double const number : numbers)
-            source->Append(L"Ch " + std::to_wstring(source->RowCount()), number);
-        table->SetSource(source);
+            m_source->Append(L"Ch " + std::to_wstring(m_source->RowCount()), number);
+        m_table->SetSource(m_source);
     }
     std::vector<TableRow> Shown() const
     {
         std::vector<TableRow> rows;
-        for (TableRow position = 0; position < table->RowsShown(); ++position)
-            rows.push_back(table->RowAt(position));
+        for (TableRow position = 0; position < m_table->RowsShown(); ++position)
+            rows.push_back(m_table->RowAt(position));
         return rows;
     }
     /// The middle of a cell, in client coordinates; place among the columns shown.
     CPoint CellPoint(TableRow position, int place) const
     {
         CRect row(0, 0, 0, 0);
-        table->GetItemRect(static_cast<int>(position), &row, LVIR_BOUNDS);
+        m_table->GetItemRect(static_cast<int>(position), &row, LVIR_BOUNDS);
         CRect title = TitleRect(place);
         return CPoint(title.CenterPoint().x, row.CenterPoint().y);
     }
@@ -249,21 +251,21 @@ protected:
     CRect TitleRect(int place) const
     {
         CRect rect(0, 0, 0, 0);
-        CHeaderCtrl & header = *table->GetHeaderCtrl();
+        CHeaderCtrl & header = *m_table->GetHeaderCtrl();
         header.GetItemRect(place, &rect);
-        header.MapWindowPoints(table.get(), &rect);
+        header.MapWindowPoints(m_table.get(), &rect);
         return rect;
     }
     void Press(TableRow position, int place, WPARAM keys = 0)
     {
         CPoint const point = CellPoint(position, place);
-        table->SendMessage(WM_LBUTTONDOWN, MK_LBUTTON | keys, MAKELPARAM(point.x, point.y));
-        table->SendMessage(WM_LBUTTONUP, keys, MAKELPARAM(point.x, point.y));
+        m_table->SendMessage(WM_LBUTTONDOWN, MK_LBUTTON | keys, MAKELPARAM(point.x, point.y));
+        m_table->SendMessage(WM_LBUTTONUP, keys, MAKELPARAM(point.x, point.y));
     }
     /// A real click at a client position. Its events carry it: the display server may report a former one late.
     void Click(CPoint client, bool right = false)
     {
-        CPoint const screen = ClientPoint(table->m_hWnd, client);
+        CPoint const screen = ClientPoint(m_table->m_hWnd, client);
         MoveMouse(screen);
         constexpr int range = 65536; // of absolute positions
         INPUT events[2] = {};
@@ -278,10 +280,10 @@ protected:
         events[1].mi.dwFlags |= right ? MOUSEEVENTF_RIGHTUP : MOUSEEVENTF_LEFTUP;
         ::SendInput(2, events, sizeof(INPUT));
     }
-    void PressKey(UINT key) { table->SendMessage(WM_KEYDOWN, key, 1); }
+    void PressKey(UINT key) { m_table->SendMessage(WM_KEYDOWN, key, 1); }
 
-    ScopedWindow parent{CRect(100, 100, 520, 380)};
-    std::unique_ptr<TestTable> table;
-    std::shared_ptr<TableRowsSource> source;
+    ScopedWindow m_host{CRect(100, 100, 520, 380)};
+    std::unique_ptr<TestTable> m_table;
+    std::shared_ptr<TableRowsSource> m_source;
 };
 } // namespace tests

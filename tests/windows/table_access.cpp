@@ -1,12 +1,11 @@
 // The table as programs that read the screen see it, and what they hear.
 
-#include "table_TableTest.h"
-
-#include "ResourceReader.h"
-#include "access_AccessTest.h"
-
 #include <atomic>
 #include <limits>
+
+#include "access_AccessTest.h"
+#include "ResourceReader.h"
+#include "table_TableTest.h"
 
 using access_tests::ActionOf;
 using access_tests::Ask;
@@ -36,12 +35,12 @@ protected:
     {
         TableTest::SetUp();
         Show({10, 2.5, 40, 30, 20});
-        ASSERT_EQ(Ask(table->m_hWnd, object), S_OK);
+        ASSERT_EQ(Ask(m_table->m_hWnd, m_object), S_OK);
     }
 
-    CString Value(int position, int place) { return ValueOf(*object.Get(), Cell(position, place)); }
-    long States(int position, int place) { return StatesOf(*object.Get(), Cell(position, place)); }
-    long RowStates(int position) { return StatesOf(*object.Get(), position + 1); }
+    CString Value(int position, int place) { return ValueOf(*m_object.Get(), Cell(position, place)); }
+    long States(int position, int place) { return StatesOf(*m_object.Get(), Cell(position, place)); }
+    long RowStates(int position) { return StatesOf(*m_object.Get(), position + 1); }
     /// What was told since, of all that has happened by now.
     std::vector<Listener::Event> Heard(Listener & listener)
     {
@@ -52,8 +51,6 @@ protected:
     {
         return Times(heard, event, element) == 1;
     }
-
-    Held<IAccessible> & object = m_object;
 };
 
 /// Counts what it is asked.
@@ -106,16 +103,16 @@ public:
 
 TEST_F(TableAccess, IsATreeOfRowsAndCells)
 {
-    table->SetWindowText(L"Channels");
-    EXPECT_EQ(NameOf(*object.Get()), L"Channels");
-    EXPECT_EQ(RoleOf(*object.Get()), ROLE_SYSTEM_LIST);
-    EXPECT_NE(StatesOf(*object.Get()) & STATE_SYSTEM_MULTISELECTABLE, 0);
-    ASSERT_EQ(CountOf(*object.Get()), 5);
-    EXPECT_EQ(RoleOf(*object.Get(), 2), ROLE_SYSTEM_LISTITEM);
-    EXPECT_EQ(NameOf(*object.Get(), 2), L"Ch 1");
+    m_table->SetWindowText(L"Channels");
+    EXPECT_EQ(NameOf(*m_object.Get()), L"Channels");
+    EXPECT_EQ(RoleOf(*m_object.Get()), ROLE_SYSTEM_LIST);
+    EXPECT_NE(StatesOf(*m_object.Get()) & STATE_SYSTEM_MULTISELECTABLE, 0);
+    ASSERT_EQ(CountOf(*m_object.Get()), 5);
+    EXPECT_EQ(RoleOf(*m_object.Get(), 2), ROLE_SYSTEM_LISTITEM);
+    EXPECT_EQ(NameOf(*m_object.Get(), 2), L"Ch 1");
     Held<IDispatch> found;
     Held<IAccessible> row;
-    ASSERT_EQ(object->get_accChild(Number(2), found.Out()), S_OK);
+    ASSERT_EQ(m_object->get_accChild(Number(2), found.Out()), S_OK);
     ASSERT_EQ(found->QueryInterface(__uuidof(IAccessible), reinterpret_cast<void **>(row.Out())), S_OK);
     ASSERT_EQ(CountOf(*row.Get()), 5);
     struct
@@ -142,62 +139,62 @@ TEST_F(TableAccess, IsATreeOfRowsAndCells)
         EXPECT_EQ((StatesOf(*row.Get(), place + 1) & STATE_SYSTEM_READONLY) != 0, cells[place].readOnly);
     }
     EXPECT_NE(States(1, 4) & STATE_SYSTEM_LINKED, 0);
-    table->EnableWindow(FALSE);
+    m_table->EnableWindow(FALSE);
     EXPECT_NE(States(1, 2) & STATE_SYSTEM_UNAVAILABLE, 0);
-    EXPECT_EQ(ActionOf(*object.Get(), Cell(1, 2)), L"");
-    EXPECT_EQ(object->accDoDefaultAction(Number(Cell(1, 2))), DISP_E_MEMBERNOTFOUND);
-    EXPECT_FALSE(source->At(1).ticked);
+    EXPECT_EQ(ActionOf(*m_object.Get(), Cell(1, 2)), L"");
+    EXPECT_EQ(m_object->accDoDefaultAction(Number(Cell(1, 2))), DISP_E_MEMBERNOTFOUND);
+    EXPECT_FALSE(m_source->At(1).ticked);
 }
 
 TEST_F(TableAccess, IsNamedByItsLabelWithoutATextOfItsOwn)
 {
     CStatic label;
     tests::WindowCloser const closer(label);
-    label.Create(L"&Channels:", WS_CHILD | WS_VISIBLE, CRect(0, 230, 80, 250), parent);
+    label.Create(L"&Channels:", WS_CHILD | WS_VISIBLE, CRect(0, 230, 80, 250), m_host);
     label.SetWindowPos(&CWnd::wndTop, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
-    EXPECT_EQ(NameOf(*object.Get()), L"Channels");
+    EXPECT_EQ(NameOf(*m_object.Get()), L"Channels");
 }
 
 TEST_F(TableAccess, ShowsRowsAndColumnsAsTheUserSeesThem)
 {
-    table->SortBy({{tests::TableRowsSource::number_column, true}});
-    EXPECT_EQ(NameOf(*object.Get(), 1), L"Ch 2");
+    m_table->SortBy({{tests::TableRowsSource::number_column, true}});
+    EXPECT_EQ(NameOf(*m_object.Get(), 1), L"Ch 2");
     EXPECT_EQ(Value(4, 1), L"2.5");
-    table->MoveTableColumn(tests::TableRowsSource::link_column, 0);
-    table->HideTableColumn(tests::TableRowsSource::number_column, true);
-    EXPECT_EQ(NameOf(*object.Get(), Cell(0, 0)), L"More");
-    EXPECT_EQ(NameOf(*object.Get(), Cell(0, 1)), L"Name");
-    EXPECT_EQ(NameOf(*object.Get(), Cell(0, 2)), L"On");
-    EXPECT_EQ(RoleOf(*object.Get(), Cell(0, 4)), -1) << "hidden";
+    m_table->MoveTableColumn(tests::TableRowsSource::link_column, 0);
+    m_table->HideTableColumn(tests::TableRowsSource::number_column, true);
+    EXPECT_EQ(NameOf(*m_object.Get(), Cell(0, 0)), L"More");
+    EXPECT_EQ(NameOf(*m_object.Get(), Cell(0, 1)), L"Name");
+    EXPECT_EQ(NameOf(*m_object.Get(), Cell(0, 2)), L"On");
+    EXPECT_EQ(RoleOf(*m_object.Get(), Cell(0, 4)), -1) << "hidden";
     TableFilter filter;
     filter.ranges.push_back({tests::TableRowsSource::number_column, 15, 35});
-    table->SetRowFilter(filter);
-    EXPECT_EQ(CountOf(*object.Get()), 2);
-    EXPECT_EQ(NameOf(*object.Get(), 1), L"Ch 3");
-    EXPECT_EQ(NameOf(*object.Get(), 2), L"Ch 4");
-    EXPECT_EQ(RoleOf(*object.Get(), 3), -1) << "kept out";
+    m_table->SetRowFilter(filter);
+    EXPECT_EQ(CountOf(*m_object.Get()), 2);
+    EXPECT_EQ(NameOf(*m_object.Get(), 1), L"Ch 3");
+    EXPECT_EQ(NameOf(*m_object.Get(), 2), L"Ch 4");
+    EXPECT_EQ(RoleOf(*m_object.Get(), 3), -1) << "kept out";
 }
 
 TEST_F(TableAccess, ElementsAreFoundWhereTheyAre)
 {
-    CPoint const point = tests::ClientPoint(table->m_hWnd, CellPoint(3, 1));
-    CRect const place = PlaceOf(*object.Get(), Cell(3, 1));
+    CPoint const point = tests::ClientPoint(m_table->m_hWnd, CellPoint(3, 1));
+    CRect const place = PlaceOf(*m_object.Get(), Cell(3, 1));
     EXPECT_EQ(place.CenterPoint().y, point.y);
     EXPECT_EQ(place.Width(), column_width);
     EXPECT_TRUE(place.PtInRect(point));
     VARIANT hit{};
-    ASSERT_EQ(object->accHitTest(point.x, point.y, &hit), S_OK);
+    ASSERT_EQ(m_object->accHitTest(point.x, point.y, &hit), S_OK);
     ASSERT_EQ(hit.vt, VT_DISPATCH);
     EXPECT_EQ(ValueOf(*static_cast<IAccessible *>(hit.pdispVal)), L"30.0");
     EXPECT_EQ(hit.pdispVal->Release(), 0U);
     VARIANT to{};
-    ASSERT_EQ(object->accNavigate(NAVDIR_RIGHT, Number(Cell(3, 1)), &to), S_OK);
+    ASSERT_EQ(m_object->accNavigate(NAVDIR_RIGHT, Number(Cell(3, 1)), &to), S_OK);
     EXPECT_EQ(NameOf(*static_cast<IAccessible *>(to.pdispVal)), L"On");
     to.pdispVal->Release();
-    ASSERT_EQ(object->accNavigate(NAVDIR_UP, Number(Cell(3, 1)), &to), S_OK);
+    ASSERT_EQ(m_object->accNavigate(NAVDIR_UP, Number(Cell(3, 1)), &to), S_OK);
     EXPECT_EQ(ValueOf(*static_cast<IAccessible *>(to.pdispVal)), L"40.0");
     to.pdispVal->Release();
-    EXPECT_EQ(object->accNavigate(NAVDIR_DOWN, Number(Cell(4, 1)), &to), S_FALSE);
+    EXPECT_EQ(m_object->accNavigate(NAVDIR_DOWN, Number(Cell(4, 1)), &to), S_FALSE);
 }
 
 TEST_F(TableAccess, CellsOutOfSightSayIt)
@@ -206,89 +203,89 @@ TEST_F(TableAccess, CellsOutOfSightSayIt)
     Show(numbers);
     EXPECT_EQ(RowStates(0) & STATE_SYSTEM_OFFSCREEN, 0);
     EXPECT_NE(RowStates(99) & STATE_SYSTEM_OFFSCREEN, 0);
-    EXPECT_GT(PlaceOf(*object.Get(), Cell(99, 0)).top, PlaceOf(*object.Get(), Cell(0, 0)).bottom);
-    table->GoToRow(99);
+    EXPECT_GT(PlaceOf(*m_object.Get(), Cell(99, 0)).top, PlaceOf(*m_object.Get(), Cell(0, 0)).bottom);
+    m_table->GoToRow(99);
     EXPECT_EQ(RowStates(99) & STATE_SYSTEM_OFFSCREEN, 0);
-    int const top = table->GetTopIndex();
+    int const top = m_table->GetTopIndex();
     EXPECT_EQ(RowStates(top) & STATE_SYSTEM_OFFSCREEN, 0);
     EXPECT_NE(RowStates(top - 1) & STATE_SYSTEM_OFFSCREEN, 0) << "below the titles";
     // Columns are scrolled below those that stand still.
-    table->SetFrozenColumns(1);
-    table->SetColumnWidth(4, 300);
-    table->Scroll(CSize(column_width, 0));
+    m_table->SetFrozenColumns(1);
+    m_table->SetColumnWidth(4, 300);
+    m_table->Scroll(CSize(column_width, 0));
     EXPECT_EQ(States(99, 0) & STATE_SYSTEM_OFFSCREEN, 0);
     EXPECT_NE(States(99, 1) & STATE_SYSTEM_OFFSCREEN, 0);
     EXPECT_EQ(States(99, 2) & STATE_SYSTEM_OFFSCREEN, 0);
-    EXPECT_EQ(PlaceOf(*object.Get(), Cell(99, 0)).left, PlaceOf(*object.Get()).left);
+    EXPECT_EQ(PlaceOf(*m_object.Get(), Cell(99, 0)).left, PlaceOf(*m_object.Get()).left);
 }
 
 TEST_F(TableAccess, DefaultActionIsAClick)
 {
     std::vector<std::pair<TableRow, unsigned int>> links;
-    table->m_onLinkClick = [&](TableRow row, unsigned int column) { links.emplace_back(row, column); };
-    EXPECT_EQ(object->accDoDefaultAction(Number(Cell(1, 2))), S_OK);
-    EXPECT_TRUE(source->At(1).ticked);
+    m_table->m_onLinkClick = [&](TableRow row, unsigned int column) { links.emplace_back(row, column); };
+    EXPECT_EQ(m_object->accDoDefaultAction(Number(Cell(1, 2))), S_OK);
+    EXPECT_TRUE(m_source->At(1).ticked);
     EXPECT_NE(States(1, 2) & STATE_SYSTEM_CHECKED, 0);
     EXPECT_EQ(Value(1, 2), L"") << "a mark is no text";
-    EXPECT_EQ(ActionOf(*object.Get(), Cell(1, 2)), L"Uncheck");
-    EXPECT_EQ(object->accDoDefaultAction(Number(Cell(3, 4))), S_OK);
+    EXPECT_EQ(ActionOf(*m_object.Get(), Cell(1, 2)), L"Uncheck");
+    EXPECT_EQ(m_object->accDoDefaultAction(Number(Cell(3, 4))), S_OK);
     EXPECT_EQ(links, (std::vector<std::pair<TableRow, unsigned int>>{{3, 4}}));
-    EXPECT_EQ(object->accDoDefaultAction(Number(Cell(3, 3))), DISP_E_MEMBERNOTFOUND) << "a bar";
-    EXPECT_EQ(object->accDoDefaultAction(Number(2)), DISP_E_MEMBERNOTFOUND) << "a row";
-    EXPECT_EQ(object->accDoDefaultAction(Number(Cell(4, 0))), S_OK);
-    EXPECT_TRUE(table->IsEditing());
+    EXPECT_EQ(m_object->accDoDefaultAction(Number(Cell(3, 3))), DISP_E_MEMBERNOTFOUND) << "a bar";
+    EXPECT_EQ(m_object->accDoDefaultAction(Number(2)), DISP_E_MEMBERNOTFOUND) << "a row";
+    EXPECT_EQ(m_object->accDoDefaultAction(Number(Cell(4, 0))), S_OK);
+    EXPECT_TRUE(m_table->IsEditing());
     // Its text is taken by the next one, as by a press elsewhere.
-    table->GetDlgItem(0x7A11)->SetWindowText(L"other");
-    EXPECT_EQ(object->accDoDefaultAction(Number(Cell(0, 2))), S_OK);
-    EXPECT_FALSE(table->IsEditing());
-    EXPECT_EQ(source->At(4).name, L"other");
-    EXPECT_TRUE(source->At(0).ticked);
+    m_table->GetDlgItem(0x7A11)->SetWindowText(L"other");
+    EXPECT_EQ(m_object->accDoDefaultAction(Number(Cell(0, 2))), S_OK);
+    EXPECT_FALSE(m_table->IsEditing());
+    EXPECT_EQ(m_source->At(4).name, L"other");
+    EXPECT_TRUE(m_source->At(0).ticked);
 }
 
 TEST_F(TableAccess, ActionsAreSpokenInTheLanguageInForce)
 {
     tests::ScopedLanguage const german(MAKELANGID(LANG_GERMAN, SUBLANG_GERMAN));
-    EXPECT_EQ(ActionOf(*object.Get(), Cell(1, 2)), L"Ankreuzen");
-    EXPECT_EQ(ActionOf(*object.Get(), Cell(1, 0)), L"Bearbeiten");
+    EXPECT_EQ(ActionOf(*m_object.Get(), Cell(1, 2)), L"Ankreuzen");
+    EXPECT_EQ(ActionOf(*m_object.Get(), Cell(1, 0)), L"Bearbeiten");
 }
 
 TEST_F(TableAccess, TicksThatNobodyMayChangeAreReadOnly)
 {
-    auto columns = Columns();
+    std::vector<TableColumn> columns = Columns();
     columns[2].editable = false;
-    table->SetColumns(columns);
-    EXPECT_EQ(RoleOf(*object.Get(), Cell(0, 2)), ROLE_SYSTEM_CHECKBUTTON);
+    m_table->SetColumns(columns);
+    EXPECT_EQ(RoleOf(*m_object.Get(), Cell(0, 2)), ROLE_SYSTEM_CHECKBUTTON);
     EXPECT_NE(States(0, 2) & STATE_SYSTEM_READONLY, 0);
-    EXPECT_EQ(ActionOf(*object.Get(), Cell(0, 2)), L"");
-    EXPECT_EQ(object->accDoDefaultAction(Number(Cell(0, 2))), DISP_E_MEMBERNOTFOUND);
+    EXPECT_EQ(ActionOf(*m_object.Get(), Cell(0, 2)), L"");
+    EXPECT_EQ(m_object->accDoDefaultAction(Number(Cell(0, 2))), DISP_E_MEMBERNOTFOUND);
 }
 
 TEST_F(TableAccess, SelectsRows)
 {
     int changes = 0;
-    table->m_onSelectionChange = [&] { ++changes; };
-    EXPECT_EQ(object->accSelect(SELFLAG_TAKESELECTION | SELFLAG_TAKEFOCUS, Number(2)), S_OK);
+    m_table->m_onSelectionChange = [&] { ++changes; };
+    EXPECT_EQ(m_object->accSelect(SELFLAG_TAKESELECTION | SELFLAG_TAKEFOCUS, Number(2)), S_OK);
     EXPECT_EQ(changes, 1) << "as the user does it";
-    EXPECT_EQ(table->SelectedRows(), (std::vector<TableRow>{1}));
-    EXPECT_EQ(table->FocusRow(), 1U);
+    EXPECT_EQ(m_table->SelectedRows(), (std::vector<TableRow>{1}));
+    EXPECT_EQ(m_table->FocusRow(), 1U);
     EXPECT_NE(RowStates(1) & STATE_SYSTEM_SELECTED, 0);
     EXPECT_NE(RowStates(1) & STATE_SYSTEM_FOCUSED, 0);
     EXPECT_EQ(RowStates(2) & (STATE_SYSTEM_SELECTED | STATE_SYSTEM_FOCUSED), 0);
     VARIANT focus{};
-    ASSERT_EQ(object->get_accFocus(&focus), S_OK);
+    ASSERT_EQ(m_object->get_accFocus(&focus), S_OK);
     ASSERT_EQ(focus.vt, VT_DISPATCH);
     EXPECT_EQ(NameOf(*static_cast<IAccessible *>(focus.pdispVal)), L"Ch 1");
     focus.pdispVal->Release();
     VARIANT selection{};
-    ASSERT_EQ(object->get_accSelection(&selection), S_OK);
+    ASSERT_EQ(m_object->get_accSelection(&selection), S_OK);
     ASSERT_EQ(selection.vt, VT_DISPATCH) << "one";
     selection.pdispVal->Release();
 
-    EXPECT_EQ(object->accSelect(SELFLAG_ADDSELECTION, Number(4)), S_OK);
-    EXPECT_EQ(object->accSelect(SELFLAG_ADDSELECTION, Number(5)), S_OK);
-    EXPECT_EQ(object->accSelect(SELFLAG_REMOVESELECTION, Number(5)), S_OK);
-    EXPECT_EQ(table->SelectedRows(), (std::vector<TableRow>{1, 3}));
-    ASSERT_EQ(object->get_accSelection(&selection), S_OK);
+    EXPECT_EQ(m_object->accSelect(SELFLAG_ADDSELECTION, Number(4)), S_OK);
+    EXPECT_EQ(m_object->accSelect(SELFLAG_ADDSELECTION, Number(5)), S_OK);
+    EXPECT_EQ(m_object->accSelect(SELFLAG_REMOVESELECTION, Number(5)), S_OK);
+    EXPECT_EQ(m_table->SelectedRows(), (std::vector<TableRow>{1, 3}));
+    ASSERT_EQ(m_object->get_accSelection(&selection), S_OK);
     ASSERT_EQ(selection.vt, VT_UNKNOWN);
     Held<IEnumVARIANT> several;
     selection.punkVal->QueryInterface(__uuidof(IEnumVARIANT), reinterpret_cast<void **>(several.Out()));
@@ -307,43 +304,43 @@ TEST_F(TableAccess, SelectsRows)
     }
     EXPECT_EQ(several->Skip(2), S_OK);
     EXPECT_EQ(several->Skip(1), S_FALSE);
-    EXPECT_EQ(object->accSelect(SELFLAG_TAKESELECTION, Number(1)), S_OK);
-    EXPECT_EQ(object->accSelect(SELFLAG_EXTENDSELECTION, Number(3)), S_OK);
-    EXPECT_EQ(table->SelectedRows(), (std::vector<TableRow>{0, 1, 2}));
-    EXPECT_EQ(object->accSelect(SELFLAG_TAKEFOCUS, Number(Cell(1, 1))), DISP_E_MEMBERNOTFOUND) << "no cursor";
-    EXPECT_EQ(object->accSelect(SELFLAG_TAKESELECTION, Number(9)), E_INVALIDARG);
+    EXPECT_EQ(m_object->accSelect(SELFLAG_TAKESELECTION, Number(1)), S_OK);
+    EXPECT_EQ(m_object->accSelect(SELFLAG_EXTENDSELECTION, Number(3)), S_OK);
+    EXPECT_EQ(m_table->SelectedRows(), (std::vector<TableRow>{0, 1, 2}));
+    EXPECT_EQ(m_object->accSelect(SELFLAG_TAKEFOCUS, Number(Cell(1, 1))), DISP_E_MEMBERNOTFOUND) << "no cursor";
+    EXPECT_EQ(m_object->accSelect(SELFLAG_TAKESELECTION, Number(9)), E_INVALIDARG);
 }
 
 TEST_F(TableAccess, AMillionRowsCostWhatOneDoes)
 {
     auto const many = std::make_shared<CountingSource>();
-    table->SetColumns(Columns());
-    table->SetSource(many);
-    table->SortBy({{1, true}});
-    ASSERT_TRUE(tests::PumpUntil([&] { return !table->IsOrdering(); }));
+    m_table->SetColumns(Columns());
+    m_table->SetSource(many);
+    m_table->SortBy({{1, true}});
+    ASSERT_TRUE(tests::PumpUntil([&] { return !m_table->IsOrdering(); }));
     tests::PumpPosted();
     int const last = static_cast<int>(tests::ManyRowsSource::count) - 1;
-    table->GoToRow(table->RowAt(static_cast<TableRow>(last)));
-    table->UpdateNow();
+    m_table->GoToRow(m_table->RowAt(static_cast<TableRow>(last)));
+    m_table->UpdateNow();
     tests::PumpPosted();
     many->Take();
     Held<IDispatch> found;
     Held<IAccessible> row;
-    EXPECT_EQ(CountOf(*object.Get()), last + 1);
-    ASSERT_EQ(object->get_accChild(Number(last + 1), found.Out()), S_OK);
+    EXPECT_EQ(CountOf(*m_object.Get()), last + 1);
+    ASSERT_EQ(m_object->get_accChild(Number(last + 1), found.Out()), S_OK);
     ASSERT_EQ(found->QueryInterface(__uuidof(IAccessible), reinterpret_cast<void **>(row.Out())), S_OK);
-    EXPECT_EQ(ValueOf(*row.Get(), 2), table->ShownText(table->FocusRow(), 1).c_str());
+    EXPECT_EQ(ValueOf(*row.Get(), 2), m_table->ShownText(m_table->FocusRow(), 1).c_str());
     EXPECT_NE(StatesOf(*row.Get()) & STATE_SYSTEM_SELECTED, 0);
-    EXPECT_EQ(StatesOf(*object.Get(), 1) & STATE_SYSTEM_SELECTED, 0);
+    EXPECT_EQ(StatesOf(*m_object.Get(), 1) & STATE_SYSTEM_SELECTED, 0);
     VARIANT selection{};
-    ASSERT_EQ(object->get_accSelection(&selection), S_OK);
+    ASSERT_EQ(m_object->get_accSelection(&selection), S_OK);
     ASSERT_EQ(selection.vt, VT_DISPATCH);
     selection.pdispVal->Release();
     EXPECT_LT(many->Take(), 100);
 
-    table->SelectAllRows();
+    m_table->SelectAllRows();
     many->Take();
-    ASSERT_EQ(object->get_accSelection(&selection), S_OK);
+    ASSERT_EQ(m_object->get_accSelection(&selection), S_OK);
     ASSERT_EQ(selection.vt, VT_UNKNOWN);
     Held<IEnumVARIANT> several;
     selection.punkVal->QueryInterface(__uuidof(IEnumVARIANT), reinterpret_cast<void **>(several.Out()));
@@ -353,17 +350,17 @@ TEST_F(TableAccess, AMillionRowsCostWhatOneDoes)
     for (VARIANT const & each : rows)
         each.pdispVal->Release();
     EXPECT_LT(many->Take(), 100) << "they are asked for one after the other";
-    table->SetSource(nullptr);
+    m_table->SetSource(nullptr);
 }
 
 TEST_F(TableAccess, FocusAndSelectionAreHeardOf)
 {
-    table->SetFocus();
+    m_table->SetFocus();
     tests::PumpPosted();
-    Listener listener(table->m_hWnd);
+    Listener listener(m_table->m_hWnd);
     Heard(listener);
     Press(2, 3);
-    auto heard = Heard(listener);
+    std::vector<Listener::Event> heard = Heard(listener);
     EXPECT_TRUE(Has(heard, EVENT_OBJECT_SELECTION, {2, -1}));
     EXPECT_TRUE(Has(heard, EVENT_OBJECT_FOCUS, {2, -1}));
     PressKey(VK_DOWN);
@@ -374,13 +371,13 @@ TEST_F(TableAccess, FocusAndSelectionAreHeardOf)
     EXPECT_TRUE(Has(Heard(listener), EVENT_OBJECT_SELECTIONADD, {1, -1}));
     Press(1, 3, MK_CONTROL);
     EXPECT_TRUE(Has(Heard(listener), EVENT_OBJECT_SELECTIONREMOVE, {1, -1}));
-    table->SelectAllRows();
+    m_table->SelectAllRows();
     heard = Heard(listener);
     EXPECT_TRUE(Has(heard, EVENT_OBJECT_SELECTIONWITHIN, {}));
     EXPECT_EQ(Times(heard, EVENT_OBJECT_SELECTION) + Times(heard, EVENT_OBJECT_SELECTIONADD), 0);
     // However many rows a host selects one by one.
     for (int i = 0; i < 1000; ++i)
-        table->SetItemState(i % 5, LVIS_SELECTED, LVIS_SELECTED);
+        m_table->SetItemState(i % 5, LVIS_SELECTED, LVIS_SELECTED);
     heard = Heard(listener);
     EXPECT_TRUE(Has(heard, EVENT_OBJECT_SELECTIONWITHIN, {}));
     EXPECT_EQ(Times(heard, EVENT_OBJECT_SELECTION) + Times(heard, EVENT_OBJECT_SELECTIONADD), 0);
@@ -388,29 +385,29 @@ TEST_F(TableAccess, FocusAndSelectionAreHeardOf)
 
 TEST_F(TableAccess, ValuesAndOrderAreHeardOfOnceForABatch)
 {
-    table->UpdateWindow();
+    m_table->UpdateWindow();
     tests::PumpPosted();
-    Listener listener(table->m_hWnd);
+    Listener listener(m_table->m_hWnd);
     Heard(listener);
-    object->accDoDefaultAction(Number(Cell(1, 2)));
+    m_object->accDoDefaultAction(Number(Cell(1, 2)));
     auto heard = Heard(listener);
     EXPECT_TRUE(Has(heard, EVENT_OBJECT_STATECHANGE, {1, 2}));
     EXPECT_TRUE(Has(heard, EVENT_OBJECT_VALUECHANGE, {1, 2}));
     EXPECT_EQ(Times(heard, EVENT_OBJECT_VALUECHANGE), 1);
-    table->EditCell(3, 0);
+    m_table->EditCell(3, 0);
     Heard(listener);
-    table->GetDlgItem(0x7A11)->SetWindowText(L"other");
-    EXPECT_TRUE(table->EndEdit(true));
+    m_table->GetDlgItem(0x7A11)->SetWindowText(L"other");
+    EXPECT_TRUE(m_table->EndEdit(true));
     EXPECT_TRUE(Has(Heard(listener), EVENT_OBJECT_VALUECHANGE, {3, 0}));
-    source->SetNumber(2, 7);
-    table->Feed()->RowsChanged(2, 2);
-    table->UpdateNow();
+    m_source->SetNumber(2, 7);
+    m_table->Feed()->RowsChanged(2, 2);
+    m_table->UpdateNow();
     EXPECT_TRUE(Has(Heard(listener), EVENT_OBJECT_VALUECHANGE, {2, -1}));
     for (int i = 0; i < 1000; ++i)
     {
-        source->SetNumber(static_cast<TableRow>(i % 5), i);
-        table->Feed()->RowsChanged(static_cast<TableRow>(i % 5), static_cast<TableRow>(i % 5));
-        table->UpdateNow();
+        m_source->SetNumber(static_cast<TableRow>(i % 5), i);
+        m_table->Feed()->RowsChanged(static_cast<TableRow>(i % 5), static_cast<TableRow>(i % 5));
+        m_table->UpdateNow();
     }
     heard = Heard(listener);
     EXPECT_TRUE(Has(heard, EVENT_OBJECT_VALUECHANGE, {}));
@@ -418,12 +415,12 @@ TEST_F(TableAccess, ValuesAndOrderAreHeardOfOnceForABatch)
     EXPECT_EQ(Times(heard, EVENT_OBJECT_REORDER), 0);
     for (int i = 0; i < 100; ++i)
     {
-        source->Append(L"new", i);
-        table->Feed()->RowsAppended(1);
-        table->UpdateNow();
+        m_source->Append(L"new", i);
+        m_table->Feed()->RowsAppended(1);
+        m_table->UpdateNow();
     }
-    table->SortBy({{1, true}});
-    table->HideTableColumn(3, true);
+    m_table->SortBy({{1, true}});
+    m_table->HideTableColumn(3, true);
     heard = Heard(listener);
     EXPECT_TRUE(Has(heard, EVENT_OBJECT_REORDER, {}));
     EXPECT_EQ(Times(heard, EVENT_OBJECT_REORDER), 1);
@@ -433,23 +430,23 @@ TEST_F(TableAccess, ObjectsOutliveTheTable)
 {
     Held<IDispatch> found;
     Held<IAccessible> row;
-    ASSERT_EQ(object->get_accChild(Number(2), found.Out()), S_OK);
+    ASSERT_EQ(m_object->get_accChild(Number(2), found.Out()), S_OK);
     ASSERT_EQ(found->QueryInterface(__uuidof(IAccessible), reinterpret_cast<void **>(row.Out())), S_OK);
-    table->SelectAllRows();
+    m_table->SelectAllRows();
     VARIANT selection{};
-    ASSERT_EQ(object->get_accSelection(&selection), S_OK);
+    ASSERT_EQ(m_object->get_accSelection(&selection), S_OK);
     ASSERT_EQ(selection.vt, VT_UNKNOWN);
     Held<IEnumVARIANT> several;
     selection.punkVal->QueryInterface(__uuidof(IEnumVARIANT), reinterpret_cast<void **>(several.Out()));
     selection.punkVal->Release();
-    table->DestroyWindow();
+    m_table->DestroyWindow();
     long count = 0;
     BSTR text = nullptr;
-    EXPECT_EQ(object->get_accChildCount(&count), CO_E_OBJNOTCONNECTED);
+    EXPECT_EQ(m_object->get_accChildCount(&count), CO_E_OBJNOTCONNECTED);
     EXPECT_EQ(row->get_accName(Number(0), &text), CO_E_OBJNOTCONNECTED);
-    table.reset();
+    m_table.reset();
     EXPECT_EQ(row->get_accValue(Number(2), &text), CO_E_OBJNOTCONNECTED);
-    EXPECT_EQ(object->accDoDefaultAction(Number(Cell(0, 2))), CO_E_OBJNOTCONNECTED);
+    EXPECT_EQ(m_object->accDoDefaultAction(Number(Cell(0, 2))), CO_E_OBJNOTCONNECTED);
     VARIANT next{};
     EXPECT_EQ(several->Next(1, &next, nullptr), S_FALSE);
     EXPECT_EQ(several->Skip(1), S_FALSE);
@@ -483,27 +480,27 @@ TEST_F(TableAccess, TheTableMayEndWhileItIsAsked)
         for (auto const moment : moments)
         {
             SCOPED_TRACE(question);
-            object.Release();
+            m_object.Release();
             MakeTable();
             auto const acting = std::make_shared<ActingSource>();
             for (int i = 0; i < 5; ++i)
                 acting->Append(L"row", i);
-            table->SetSource(acting);
-            table->SetFocus();
-            table->GoToRow(1);
-            table->SetItemState(3, LVIS_SELECTED, LVIS_SELECTED);
-            table->UpdateNow();
+            m_table->SetSource(acting);
+            m_table->SetFocus();
+            m_table->GoToRow(1);
+            m_table->SetItemState(3, LVIS_SELECTED, LVIS_SELECTED);
+            m_table->UpdateNow();
             tests::PumpPosted();
-            ASSERT_EQ(Ask(table->m_hWnd, object), S_OK);
-            (*acting).*moment = [this] { table.reset(); };
+            ASSERT_EQ(Ask(m_table->m_hWnd, m_object), S_OK);
+            (*acting).*moment = [this] { m_table.reset(); };
             VARIANT given{};
             switch (question)
             {
             case name:
-                NameOf(*object.Get(), Cell(1, 0));
+                NameOf(*m_object.Get(), Cell(1, 0));
                 break;
             case row_name:
-                NameOf(*object.Get(), 2);
+                NameOf(*m_object.Get(), 2);
                 break;
             case state:
                 States(1, 2);
@@ -515,35 +512,35 @@ TEST_F(TableAccess, TheTableMayEndWhileItIsAsked)
                 Value(1, 1);
                 break;
             case action:
-                ActionOf(*object.Get(), Cell(1, 2));
+                ActionOf(*m_object.Get(), Cell(1, 2));
                 break;
             case act_tick:
-                object->accDoDefaultAction(Number(Cell(1, 2)));
+                m_object->accDoDefaultAction(Number(Cell(1, 2)));
                 break;
             case act_edit:
-                object->accDoDefaultAction(Number(Cell(1, 0)));
+                m_object->accDoDefaultAction(Number(Cell(1, 0)));
                 break;
             case select:
-                object->accSelect(SELFLAG_TAKESELECTION | SELFLAG_TAKEFOCUS, Number(3));
+                m_object->accSelect(SELFLAG_TAKESELECTION | SELFLAG_TAKEFOCUS, Number(3));
                 break;
             case extend:
-                object->accSelect(SELFLAG_EXTENDSELECTION, Number(4));
+                m_object->accSelect(SELFLAG_EXTENDSELECTION, Number(4));
                 break;
             case focus:
-                object->get_accFocus(&given);
+                m_object->get_accFocus(&given);
                 break;
             default:
-                object->get_accSelection(&given);
+                m_object->get_accSelection(&given);
                 break;
             }
             if (given.vt == VT_DISPATCH || given.vt == VT_UNKNOWN)
                 given.punkVal->Release();
             (*acting).*moment = nullptr;
-            if (table == nullptr)
+            if (m_table == nullptr)
             {
                 ++ended;
                 long count = 0;
-                EXPECT_EQ(object->get_accChildCount(&count), CO_E_OBJNOTCONNECTED);
+                EXPECT_EQ(m_object->get_accChildCount(&count), CO_E_OBJNOTCONNECTED);
             }
         }
     }
@@ -556,7 +553,7 @@ TEST_F(TableAccess, TenThousandCallsLeaveNothing)
         for (int i = 0; i < times; ++i)
         {
             Held<IDispatch> found;
-            ASSERT_EQ(object->get_accChild(Number(i % 5 + 1), found.Out()), S_OK);
+            ASSERT_EQ(m_object->get_accChild(Number(i % 5 + 1), found.Out()), S_OK);
             Held<IAccessible> row;
             ASSERT_EQ(found->QueryInterface(__uuidof(IAccessible), reinterpret_cast<void **>(row.Out())), S_OK);
             ASSERT_EQ(found.Release(), 1U);
@@ -567,7 +564,7 @@ TEST_F(TableAccess, TenThousandCallsLeaveNothing)
     call(10000);
     Held<IAccessible> other;
     for (int i = 0; i < 100; ++i)
-        ASSERT_EQ(Ask(table->m_hWnd, other), S_OK);
+        ASSERT_EQ(Ask(m_table->m_hWnd, other), S_OK);
     EXPECT_EQ(other.Release(), 0U);
-    EXPECT_EQ(object.Release(), 0U);
+    EXPECT_EQ(m_object.Release(), 0U);
 }

@@ -1,12 +1,12 @@
 // Cells that are typed into, ticks by the keyboard, and the menu at a cell.
 
-#include "GuardedHeap.h"
-#include "ResourceReader.h"
-#include "table_TableTest.h"
-
 #include <afxcmn.h>
 
 #include <utility>
+
+#include "GuardedHeap.h"
+#include "ResourceReader.h"
+#include "table_TableTest.h"
 
 namespace
 {
@@ -20,15 +20,15 @@ protected:
     {
         TableTest::SetUp();
         Show({1, 2, 3, 4});
-        ASSERT_TRUE(tests::BringToFront(parent.m_hWnd));
-        table->SetFocus();
-        table->m_onEditRefused = [this](TableRow row, unsigned int, TableRefused const & refused) {
-            refusals.push_back({row, refused});
+        ASSERT_TRUE(tests::BringToFront(m_host.m_hWnd));
+        m_table->SetFocus();
+        m_table->m_onEditRefused = [this](TableRow row, unsigned int, TableRefused const & refused) {
+            m_refusals.push_back({row, refused});
             return refused.reason;
         };
     }
 
-    HWND Edit() const { return ::FindWindowExW(table->m_hWnd, nullptr, L"Edit", nullptr); }
+    HWND Edit() const { return ::FindWindowExW(m_table->m_hWnd, nullptr, L"Edit", nullptr); }
     std::wstring Text() const
     {
         wchar_t text[100] = {};
@@ -40,17 +40,17 @@ protected:
     void PressInEdit(WPARAM key) { ::SendMessageW(Edit(), WM_KEYDOWN, key, 1); }
     bool PumpUntilOpen(wchar_t const * text)
     {
-        return tests::PumpUntil([this, text] { return Edit() != nullptr && Text() == text && table->IsEditing(); });
+        return tests::PumpUntil([this, text] { return Edit() != nullptr && Text() == text && m_table->IsEditing(); });
     }
     bool PumpUntilClosed()
     {
-        return tests::PumpUntil([this] { return Edit() == nullptr && !table->IsEditing(); });
+        return tests::PumpUntil([this] { return Edit() == nullptr && !m_table->IsEditing(); });
     }
     CRect EditPlace() const
     {
         CRect place(0, 0, 0, 0);
         ::GetWindowRect(Edit(), &place);
-        table->ScreenToClient(&place);
+        m_table->ScreenToClient(&place);
         return place;
     }
     /// The text beside the edit; empty for none.
@@ -81,15 +81,15 @@ protected:
         TableRow row;
         TableRefused refused;
     };
-    std::vector<Told> refusals;
+    std::vector<Told> m_refusals;
 };
 } // namespace
 
 TEST_F(TableEdits, KeysOpenTakeAndLeave)
 {
     Click(CellPoint(1, 0));
-    ASSERT_TRUE(tests::PumpUntil([this] { return table->FocusRow() == 1; }));
-    EXPECT_FALSE(table->IsEditing());
+    ASSERT_TRUE(tests::PumpUntil([this] { return m_table->FocusRow() == 1; }));
+    EXPECT_FALSE(m_table->IsEditing());
     tests::Key(VK_F2);
     ASSERT_TRUE(PumpUntilOpen(L"Ch 1"));
     EXPECT_EQ(::GetFocus(), Edit());
@@ -97,47 +97,47 @@ TEST_F(TableEdits, KeysOpenTakeAndLeave)
     ASSERT_TRUE(PumpUntilOpen(L"new"));
     tests::Key(VK_RETURN);
     ASSERT_TRUE(PumpUntilClosed());
-    EXPECT_EQ(source->At(1).name, L"new");
-    EXPECT_EQ(table->GetItemText(1, 0), L"new");
-    EXPECT_EQ(::GetFocus(), table->m_hWnd);
+    EXPECT_EQ(m_source->At(1).name, L"new");
+    EXPECT_EQ(m_table->GetItemText(1, 0), L"new");
+    EXPECT_EQ(::GetFocus(), m_table->m_hWnd);
     tests::Key(VK_F2);
     ASSERT_TRUE(PumpUntilOpen(L"new"));
     tests::Type(L"other");
     ASSERT_TRUE(PumpUntilOpen(L"other"));
     tests::Key(VK_ESCAPE);
     ASSERT_TRUE(PumpUntilClosed());
-    EXPECT_EQ(source->At(1).name, L"new");
-    EXPECT_EQ(::GetFocus(), table->m_hWnd);
-    EXPECT_TRUE(refusals.empty());
+    EXPECT_EQ(m_source->At(1).name, L"new");
+    EXPECT_EQ(::GetFocus(), m_table->m_hWnd);
+    EXPECT_TRUE(m_refusals.empty());
 }
 
 TEST_F(TableEdits, TypingBeginsInTheCellThatWasClicked)
 {
     tests::Type(L"ch 2");
-    ASSERT_TRUE(tests::PumpUntil([this] { return table->FocusRow() == 2; }))
+    ASSERT_TRUE(tests::PumpUntil([this] { return m_table->FocusRow() == 2; }))
         << "no cell was chosen: a row is looked for";
-    EXPECT_FALSE(table->IsEditing());
+    EXPECT_FALSE(m_table->IsEditing());
     Click(CellPoint(2, 1));
-    ASSERT_TRUE(tests::PumpUntil([this] { return table->SelectedRows() == Order{2}; }));
+    ASSERT_TRUE(tests::PumpUntil([this] { return m_table->SelectedRows() == Order{2}; }));
     tests::PumpPosted();
     tests::Type(L"7.5");
     ASSERT_TRUE(PumpUntilOpen(L"7.5"));
     tests::Key(VK_RETURN);
     ASSERT_TRUE(PumpUntilClosed());
-    EXPECT_EQ(source->At(2).number, 7.5);
+    EXPECT_EQ(m_source->At(2).number, 7.5);
     // A column that is not editable.
     Click(CellPoint(2, 3));
     tests::PumpPosted();
     tests::Type(L"c");
-    ASSERT_TRUE(tests::PumpUntil([this] { return table->FocusRow() == 3; }));
-    EXPECT_FALSE(table->IsEditing());
+    ASSERT_TRUE(tests::PumpUntil([this] { return m_table->FocusRow() == 3; }));
+    EXPECT_FALSE(m_table->IsEditing());
 }
 
 TEST_F(TableEdits, ADoubleClickOpens)
 {
     int opened = 0;
-    table->m_onDoubleClick = [&opened](TableRow, unsigned int) { ++opened; };
-    tests::DoubleClick(tests::ClientPoint(table->m_hWnd, CellPoint(2, 1)));
+    m_table->m_onDoubleClick = [&opened](TableRow, unsigned int) { ++opened; };
+    tests::DoubleClick(tests::ClientPoint(m_table->m_hWnd, CellPoint(2, 1)));
     ASSERT_TRUE(PumpUntilOpen(L"3.0"));
     tests::PumpPosted();
     EXPECT_EQ(::GetCapture(), nullptr) << "the next press is no matter of the edit's";
@@ -149,68 +149,68 @@ TEST_F(TableEdits, ADoubleClickOpens)
     SetText(L"33");
     Click(CellPoint(0, 3));
     ASSERT_TRUE(PumpUntilClosed());
-    EXPECT_EQ(source->At(2).number, 33);
-    ASSERT_TRUE(tests::PumpUntil([this] { return table->FocusRow() == 0; }));
-    tests::DoubleClick(tests::ClientPoint(table->m_hWnd, CellPoint(1, 3)));
+    EXPECT_EQ(m_source->At(2).number, 33);
+    ASSERT_TRUE(tests::PumpUntil([this] { return m_table->FocusRow() == 0; }));
+    tests::DoubleClick(tests::ClientPoint(m_table->m_hWnd, CellPoint(1, 3)));
     ASSERT_TRUE(tests::PumpUntil([&opened] { return opened == 1; }));
-    EXPECT_FALSE(table->IsEditing());
+    EXPECT_FALSE(m_table->IsEditing());
 }
 
 TEST_F(TableEdits, TabGoesOnToTheNextEditableCell)
 {
-    ASSERT_TRUE(table->EditCell(1, TableRowsSource::name_column));
+    ASSERT_TRUE(m_table->EditCell(1, TableRowsSource::name_column));
     SetText(L"one");
     tests::Key(VK_TAB);
     ASSERT_TRUE(PumpUntilOpen(L"2.0"));
-    EXPECT_EQ(source->At(1).name, L"one");
+    EXPECT_EQ(m_source->At(1).name, L"one");
     SetText(L"22");
     tests::Key(VK_TAB);
     ASSERT_TRUE(PumpUntilOpen(L"Ch 2")) << "ticks are not typed into; the next row follows";
-    EXPECT_EQ(source->At(1).number, 22);
-    EXPECT_EQ(table->SelectedRows(), (Order{2}));
+    EXPECT_EQ(m_source->At(1).number, 22);
+    EXPECT_EQ(m_table->SelectedRows(), (Order{2}));
     tests::Key(VK_TAB, {VK_SHIFT});
     ASSERT_TRUE(PumpUntilOpen(L"22.0"));
-    EXPECT_EQ(table->SelectedRows(), (Order{1}));
-    table->EndEdit(false);
-    ASSERT_TRUE(table->EditCell(3, TableRowsSource::number_column));
+    EXPECT_EQ(m_table->SelectedRows(), (Order{1}));
+    m_table->EndEdit(false);
+    ASSERT_TRUE(m_table->EditCell(3, TableRowsSource::number_column));
     tests::Key(VK_TAB);
     ASSERT_TRUE(PumpUntilClosed()) << "behind the last one there is none";
-    EXPECT_EQ(::GetFocus(), table->m_hWnd);
+    EXPECT_EQ(::GetFocus(), m_table->m_hWnd);
 }
 
 TEST_F(TableEdits, ARowThatIsSortedAwayIsGoneOnFrom)
 {
-    table->SortBy({{TableRowsSource::number_column, false}});
-    table->HideTableColumn(TableRowsSource::name_column, true);
-    ASSERT_TRUE(table->EditCell(0, TableRowsSource::number_column));
+    m_table->SortBy({{TableRowsSource::number_column, false}});
+    m_table->HideTableColumn(TableRowsSource::name_column, true);
+    ASSERT_TRUE(m_table->EditCell(0, TableRowsSource::number_column));
     SetText(L"3.5");
     PressInEdit(VK_TAB);
-    EXPECT_EQ(table->PositionOf(0), 2U);
+    EXPECT_EQ(m_table->PositionOf(0), 2U);
     ASSERT_TRUE(PumpUntilOpen(L"4.0")) << "below its new place";
 }
 
 TEST_F(TableEdits, ARefusedTextStaysOpenWithTheReason)
 {
-    ASSERT_TRUE(table->EditCell(1, TableRowsSource::number_column));
+    ASSERT_TRUE(m_table->EditCell(1, TableRowsSource::number_column));
     SetText(L"2000");
     tests::Key(VK_RETURN);
-    ASSERT_TRUE(tests::PumpUntil([this] { return refusals.size() == 1; }));
-    EXPECT_EQ(refusals[0].row, 1U);
-    EXPECT_EQ(refusals[0].refused.refusal, TableRefusal::by_check);
-    EXPECT_EQ(refusals[0].refused.text, L"2000");
+    ASSERT_TRUE(tests::PumpUntil([this] { return m_refusals.size() == 1; }));
+    EXPECT_EQ(m_refusals[0].row, 1U);
+    EXPECT_EQ(m_refusals[0].refused.refusal, TableRefusal::by_check);
+    EXPECT_EQ(m_refusals[0].refused.text, L"2000");
     EXPECT_EQ(Text(), L"2000");
     EXPECT_EQ(::GetFocus(), Edit());
     EXPECT_TRUE(tests::PumpUntil([] { return Reason() == L"too much"; }));
-    EXPECT_EQ(source->At(1).number, 2);
+    EXPECT_EQ(m_source->At(1).number, 2);
     // Neither a press elsewhere nor a title nor the wheel leads away.
     Click(CellPoint(3, 0));
-    ASSERT_TRUE(tests::PumpUntil([this] { return refusals.size() >= 2 && ::GetFocus() == Edit(); }));
-    EXPECT_EQ(table->FocusRow(), 1U);
+    ASSERT_TRUE(tests::PumpUntil([this] { return m_refusals.size() >= 2 && ::GetFocus() == Edit(); }));
+    EXPECT_EQ(m_table->FocusRow(), 1U);
     Click(TitleRect(0).CenterPoint());
-    ASSERT_TRUE(tests::PumpUntil([this] { return refusals.size() >= 3; }));
+    ASSERT_TRUE(tests::PumpUntil([this] { return m_refusals.size() >= 3; }));
     tests::PumpPosted();
-    EXPECT_TRUE(table->SortColumns().empty());
-    EXPECT_FALSE(table->EditCell(0, TableRowsSource::name_column));
+    EXPECT_TRUE(m_table->SortColumns().empty());
+    EXPECT_FALSE(m_table->EditCell(0, TableRowsSource::name_column));
     EXPECT_EQ(Text(), L"2000");
     // What is typed takes the reason away.
     tests::Type(L"9");
@@ -219,114 +219,114 @@ TEST_F(TableEdits, ARefusedTextStaysOpenWithTheReason)
     SetText(L"200");
     tests::Key(VK_RETURN);
     ASSERT_TRUE(PumpUntilClosed());
-    EXPECT_EQ(source->At(1).number, 200);
+    EXPECT_EQ(m_source->At(1).number, 200);
 }
 
 TEST_F(TableEdits, ModuleSaysWhyWhereNobodyElseDoes)
 {
     auto const reasonOf = [&](unsigned int column, wchar_t const * text) {
-        EXPECT_TRUE(table->EditCell(0, column));
+        EXPECT_TRUE(m_table->EditCell(0, column));
         SetText(text);
-        EXPECT_FALSE(table->EndEdit(true));
+        EXPECT_FALSE(m_table->EndEdit(true));
         EXPECT_TRUE(tests::PumpUntil([] { return !Reason().empty(); }));
         std::wstring reason = Reason();
-        table->EndEdit(false);
+        m_table->EndEdit(false);
         return reason;
     };
-    table->m_onEditRefused = nullptr;
+    m_table->m_onEditRefused = nullptr;
     EXPECT_EQ(reasonOf(TableRowsSource::number_column, L"many"), L"This is not a number.");
     EXPECT_EQ(reasonOf(TableRowsSource::number_column, L"2000"), L"too much") << "the check knows better";
     EXPECT_EQ(reasonOf(TableRowsSource::name_column, TableRowsSource::refused_name), L"This value was not accepted.");
-    table->m_onEditRefused = [](TableRow, unsigned int, TableRefused const &) { return std::wstring(); };
+    m_table->m_onEditRefused = [](TableRow, unsigned int, TableRefused const &) { return std::wstring(); };
     tests::ScopedLanguage const german(MAKELANGID(LANG_GERMAN, SUBLANG_GERMAN));
     EXPECT_EQ(reasonOf(TableRowsSource::number_column, L"many"), L"Das ist keine Zahl.");
 }
 
 TEST_F(TableEdits, WhatCannotBeReadAndWhatTheSourceRefusesStayOpen)
 {
-    table->m_onEditRefused = [this](TableRow row, unsigned int, TableRefused const & refused) -> std::wstring {
-        refusals.push_back({row, refused});
+    m_table->m_onEditRefused = [this](TableRow row, unsigned int, TableRefused const & refused) -> std::wstring {
+        m_refusals.push_back({row, refused});
         return L"no number";
     };
-    ASSERT_TRUE(table->EditCell(0, TableRowsSource::number_column));
+    ASSERT_TRUE(m_table->EditCell(0, TableRowsSource::number_column));
     SetText(L"many");
     PressInEdit(VK_RETURN);
-    ASSERT_EQ(refusals.size(), 1U);
-    EXPECT_EQ(refusals[0].refused.refusal, TableRefusal::not_readable);
+    ASSERT_EQ(m_refusals.size(), 1U);
+    EXPECT_EQ(m_refusals[0].refused.refusal, TableRefusal::not_readable);
     EXPECT_TRUE(tests::PumpUntil([] { return Reason() == L"no number"; }));
     PressInEdit(VK_ESCAPE);
-    EXPECT_FALSE(table->IsEditing());
+    EXPECT_FALSE(m_table->IsEditing());
     EXPECT_EQ(Reason(), L"");
-    ASSERT_TRUE(table->EditCell(0, TableRowsSource::name_column));
+    ASSERT_TRUE(m_table->EditCell(0, TableRowsSource::name_column));
     SetText(TableRowsSource::refused_name);
-    EXPECT_FALSE(table->EndEdit(true));
-    ASSERT_EQ(refusals.size(), 2U);
-    EXPECT_EQ(refusals[1].refused.refusal, TableRefusal::by_source);
+    EXPECT_FALSE(m_table->EndEdit(true));
+    ASSERT_EQ(m_refusals.size(), 2U);
+    EXPECT_EQ(m_refusals[1].refused.refusal, TableRefusal::by_source);
     EXPECT_EQ(Text(), TableRowsSource::refused_name);
-    EXPECT_TRUE(table->EndEdit(false));
-    EXPECT_EQ(source->At(0).name, L"Ch 0");
+    EXPECT_TRUE(m_table->EndEdit(false));
+    EXPECT_EQ(m_source->At(0).name, L"Ch 0");
 }
 
 TEST_F(TableEdits, TheEditStaysWithItsRow)
 {
-    table->SortBy({{TableRowsSource::number_column, false}});
-    ASSERT_TRUE(table->EditCell(1, TableRowsSource::name_column));
+    m_table->SortBy({{TableRowsSource::number_column, false}});
+    ASSERT_TRUE(m_table->EditCell(1, TableRowsSource::name_column));
     SetText(L"typed");
-    source->SetNumber(1, 100);
-    table->Feed()->RowsChanged(1, 1);
-    ASSERT_TRUE(tests::PumpUntil([this] { return table->PositionOf(1) == 3; }));
+    m_source->SetNumber(1, 100);
+    m_table->Feed()->RowsChanged(1, 1);
+    ASSERT_TRUE(tests::PumpUntil([this] { return m_table->PositionOf(1) == 3; }));
     EXPECT_TRUE(tests::PumpUntil([this] { return EditPlace().PtInRect(CellPoint(3, 0)); }));
     EXPECT_EQ(Text(), L"typed");
-    table->MoveTableColumn(TableRowsSource::name_column, 3);
+    m_table->MoveTableColumn(TableRowsSource::name_column, 3);
     EXPECT_TRUE(tests::PumpUntil([this] { return EditPlace().PtInRect(CellPoint(3, 3)); }));
     EXPECT_EQ(Text(), L"typed");
     PressInEdit(VK_RETURN);
-    EXPECT_EQ(source->At(1).name, L"typed");
+    EXPECT_EQ(m_source->At(1).name, L"typed");
 }
 
 TEST_F(TableEdits, TheEditEndsWithItsRowAndTheTextIsTold)
 {
-    ASSERT_TRUE(table->EditCell(1, TableRowsSource::name_column));
+    ASSERT_TRUE(m_table->EditCell(1, TableRowsSource::name_column));
     SetText(L"typed");
-    source->Remove(1);
-    table->Feed()->AllChanged();
+    m_source->Remove(1);
+    m_table->Feed()->AllChanged();
     ASSERT_TRUE(PumpUntilClosed());
-    ASSERT_EQ(refusals.size(), 1U);
-    EXPECT_EQ(refusals[0].refused.refusal, TableRefusal::no_such_row);
-    EXPECT_EQ(refusals[0].refused.text, L"typed");
-    EXPECT_EQ(source->At(1).name, L"Ch 2");
+    ASSERT_EQ(m_refusals.size(), 1U);
+    EXPECT_EQ(m_refusals[0].refused.refusal, TableRefusal::no_such_row);
+    EXPECT_EQ(m_refusals[0].refused.text, L"typed");
+    EXPECT_EQ(m_source->At(1).name, L"Ch 2");
     // With the source.
-    ASSERT_TRUE(table->EditCell(1, TableRowsSource::name_column));
+    ASSERT_TRUE(m_table->EditCell(1, TableRowsSource::name_column));
     SetText(L"again");
-    source.reset();
-    table->UpdateNow();
+    m_source.reset();
+    m_table->UpdateNow();
     ASSERT_TRUE(PumpUntilClosed());
-    ASSERT_EQ(refusals.size(), 2U);
+    ASSERT_EQ(m_refusals.size(), 2U);
     Show({1, 2});
-    ASSERT_TRUE(table->EditCell(1, TableRowsSource::name_column));
+    ASSERT_TRUE(m_table->EditCell(1, TableRowsSource::name_column));
     SetText(L"again");
-    std::shared_ptr<TableRowsSource> const former = source;
+    std::shared_ptr<TableRowsSource> const former = m_source;
     Show({5});
-    EXPECT_FALSE(table->IsEditing()) << "another source";
+    EXPECT_FALSE(m_table->IsEditing()) << "another source";
     EXPECT_EQ(former->At(1).name, L"Ch 1");
-    EXPECT_EQ(refusals.size(), 2U);
+    EXPECT_EQ(m_refusals.size(), 2U);
 }
 
 TEST_F(TableEdits, ACellThatIsShownNoMoreTakesItsText)
 {
-    ASSERT_TRUE(table->EditCell(1, TableRowsSource::name_column));
+    ASSERT_TRUE(m_table->EditCell(1, TableRowsSource::name_column));
     SetText(L"typed");
     TableFilter filter;
     filter.ranges.push_back({TableRowsSource::number_column, 3, 9});
-    table->SetRowFilter(filter);
+    m_table->SetRowFilter(filter);
     ASSERT_TRUE(PumpUntilClosed());
-    EXPECT_EQ(source->At(1).name, L"typed");
-    ASSERT_TRUE(table->EditCell(3, TableRowsSource::name_column));
+    EXPECT_EQ(m_source->At(1).name, L"typed");
+    ASSERT_TRUE(m_table->EditCell(3, TableRowsSource::name_column));
     SetText(L"hidden");
-    table->HideTableColumn(TableRowsSource::name_column, true);
+    m_table->HideTableColumn(TableRowsSource::name_column, true);
     ASSERT_TRUE(PumpUntilClosed());
-    EXPECT_EQ(source->At(3).name, L"hidden");
-    EXPECT_TRUE(refusals.empty());
+    EXPECT_EQ(m_source->At(3).name, L"hidden");
+    EXPECT_TRUE(m_refusals.empty());
 }
 
 TEST_F(TableEdits, ScrollingAndSortingTakeTheText)
@@ -335,87 +335,106 @@ TEST_F(TableEdits, ScrollingAndSortingTakeTheText)
     for (int i = 0; i < 100; ++i)
         numbers.push_back(i);
     Show(numbers);
-    ASSERT_TRUE(table->EditCell(2, TableRowsSource::name_column));
+    ASSERT_TRUE(m_table->EditCell(2, TableRowsSource::name_column));
     SetText(L"typed");
-    table->SendMessage(WM_VSCROLL, SB_PAGEDOWN, 0);
-    EXPECT_FALSE(table->IsEditing());
-    EXPECT_EQ(source->At(2).name, L"typed");
-    EXPECT_GT(table->GetTopIndex(), 0);
-    ASSERT_TRUE(table->EditCell(50, TableRowsSource::number_column));
+    m_table->SendMessage(WM_VSCROLL, SB_PAGEDOWN, 0);
+    EXPECT_FALSE(m_table->IsEditing());
+    EXPECT_EQ(m_source->At(2).name, L"typed");
+    EXPECT_GT(m_table->GetTopIndex(), 0);
+    ASSERT_TRUE(m_table->EditCell(50, TableRowsSource::number_column));
     SetText(L"5000");
-    int const top = table->GetTopIndex();
-    table->SendMessage(WM_VSCROLL, SB_PAGEDOWN, 0);
-    EXPECT_EQ(table->GetTopIndex(), top) << "its text is refused";
-    EXPECT_TRUE(table->IsEditing());
+    int const top = m_table->GetTopIndex();
+    m_table->SendMessage(WM_VSCROLL, SB_PAGEDOWN, 0);
+    EXPECT_EQ(m_table->GetTopIndex(), top) << "its text is refused";
+    EXPECT_TRUE(m_table->IsEditing());
     // The host's own scrolling leaves it where its cell is.
-    table->EnsureVisible(0, FALSE);
+    m_table->EnsureVisible(0, FALSE);
     EXPECT_TRUE(tests::PumpUntil([this] { return EditPlace().bottom < 0; }));
     EXPECT_EQ(Text(), L"5000");
-    table->EnsureVisible(50, FALSE);
+    m_table->EnsureVisible(50, FALSE);
     EXPECT_TRUE(tests::PumpUntil([this] { return EditPlace().PtInRect(CellPoint(50, 1)); }));
     SetText(L"500");
     Click(TitleRect(1).CenterPoint());
-    ASSERT_TRUE(tests::PumpUntil([this] { return table->SortColumns().size() == 1; }));
-    EXPECT_FALSE(table->IsEditing());
-    EXPECT_EQ(source->At(50).number, 500);
+    ASSERT_TRUE(tests::PumpUntil([this] { return m_table->SortColumns().size() == 1; }));
+    EXPECT_FALSE(m_table->IsEditing());
+    EXPECT_EQ(m_source->At(50).number, 500);
 }
 
 TEST_F(TableEdits, CellsThatAreNotTypedIntoHaveNoEdit)
 {
-    EXPECT_FALSE(table->EditCell(0, TableRowsSource::tick_column));
-    EXPECT_FALSE(table->EditCell(0, TableRowsSource::link_column));
-    EXPECT_FALSE(table->EditCell(0, 77));
-    EXPECT_FALSE(table->EditCell(4, TableRowsSource::name_column));
-    EXPECT_FALSE(table->EditCell(no_table_row, TableRowsSource::name_column));
+    EXPECT_FALSE(m_table->EditCell(0, TableRowsSource::tick_column));
+    EXPECT_FALSE(m_table->EditCell(0, TableRowsSource::link_column));
+    EXPECT_FALSE(m_table->EditCell(0, 77));
+    EXPECT_FALSE(m_table->EditCell(4, TableRowsSource::name_column));
+    EXPECT_FALSE(m_table->EditCell(no_table_row, TableRowsSource::name_column));
     EXPECT_EQ(Edit(), nullptr);
-    EXPECT_TRUE(table->EndEdit(true));
+    EXPECT_TRUE(m_table->EndEdit(true));
 }
 
 TEST_F(TableEdits, AnUnchangedTextIsNotWritten)
 {
-    source->SetNumber(0, 1.234);
-    ASSERT_TRUE(table->EditCell(0, TableRowsSource::number_column));
+    m_source->SetNumber(0, 1.234);
+    ASSERT_TRUE(m_table->EditCell(0, TableRowsSource::number_column));
     EXPECT_EQ(Text(), L"1.2");
     PressInEdit(VK_RETURN);
-    EXPECT_FALSE(table->IsEditing());
-    EXPECT_EQ(source->At(0).number, 1.234) << "with all its digits";
+    EXPECT_FALSE(m_table->IsEditing());
+    EXPECT_EQ(m_source->At(0).number, 1.234) << "with all its digits";
 }
 
 TEST_F(TableEdits, TheTableMayEndWithAnEdit)
 {
     std::vector<TableColumn> columns = Columns();
     columns[0].check = [this](TableValue const &) {
-        table.reset();
+        m_table.reset();
         return std::wstring();
     };
-    table->SetColumns(columns);
-    ASSERT_TRUE(table->EditCell(0, TableRowsSource::name_column));
+    m_table->SetColumns(columns);
+    ASSERT_TRUE(m_table->EditCell(0, TableRowsSource::name_column));
     SetText(L"typed");
     PressInEdit(VK_RETURN);
-    EXPECT_EQ(table, nullptr);
-    EXPECT_EQ(source->At(0).name, L"Ch 0");
+    EXPECT_EQ(m_table, nullptr);
+    EXPECT_EQ(m_source->At(0).name, L"Ch 0");
     MakeTable();
-    table->SetSource(source);
-    table->m_onEditRefused = [this](TableRow, unsigned int, TableRefused const &) {
-        table.reset();
+    m_table->SetSource(m_source);
+    m_table->m_onEditRefused = [this](TableRow, unsigned int, TableRefused const &) {
+        m_table.reset();
         return std::wstring(L"gone");
     };
-    ASSERT_TRUE(table->EditCell(0, TableRowsSource::number_column));
+    ASSERT_TRUE(m_table->EditCell(0, TableRowsSource::number_column));
     SetText(L"2000");
     PressInEdit(VK_TAB);
-    EXPECT_EQ(table, nullptr);
+    EXPECT_EQ(m_table, nullptr);
     MakeTable();
-    table->SetSource(source);
-    ASSERT_TRUE(table->EditCell(0, TableRowsSource::number_column));
-    table.reset();
+    m_table->SetSource(m_source);
+    ASSERT_TRUE(m_table->EditCell(0, TableRowsSource::number_column));
+    m_table.reset();
     tests::PumpPosted();
     MakeTable();
-    table->SetSource(source);
-    ASSERT_TRUE(table->EditCell(0, TableRowsSource::number_column));
+    m_table->SetSource(m_source);
+    ASSERT_TRUE(m_table->EditCell(0, TableRowsSource::number_column));
     ::DestroyWindow(Edit());
-    table->UpdateNow();
-    EXPECT_TRUE(table->EndEdit(true));
-    EXPECT_FALSE(table->IsEditing());
+    m_table->UpdateNow();
+    EXPECT_TRUE(m_table->EndEdit(true));
+    EXPECT_FALSE(m_table->IsEditing());
+}
+
+TEST_F(TableEdits, AMessageOfAnEndedWindowIsNotForTheNextOne)
+{
+    Show(std::vector<double>(100, 1.0));
+    std::vector<TableColumn> columns = Columns();
+    columns[TableRowsSource::name_column].check = [this](TableValue const &) {
+        m_table->DestroyWindow();
+        m_table->Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 380, 220), m_host, 7);
+        return std::wstring();
+    };
+    m_table->SetColumns(columns);
+    HWND const former = m_table->m_hWnd;
+    ASSERT_TRUE(m_table->EditCell(0, TableRowsSource::name_column));
+    SetText(L"typed");
+    m_table->SendMessage(WM_VSCROLL, SB_PAGEDOWN, 0);
+    EXPECT_FALSE(::IsWindow(former));
+    ASSERT_NE(m_table->m_hWnd, nullptr);
+    EXPECT_EQ(m_table->GetTopIndex(), 0);
 }
 
 /// Does something within each notification of some native code.
@@ -436,31 +455,31 @@ protected:
 TEST_F(TableEdits, ColumnsMayGoWhileTheEditsPlaceIsLookedFor)
 {
     NotifiedParent host;
-    table = std::make_unique<tests::TestTable>();
-    table->SetColumns(Columns());
-    ASSERT_TRUE(table->Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 380, 220), host, 7));
+    m_table = std::make_unique<tests::TestTable>();
+    m_table->SetColumns(Columns());
+    ASSERT_TRUE(m_table->Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 380, 220), host, 7));
     Show({1, 2, 3, 4});
-    auto columns = Columns();
+    std::vector<TableColumn> columns = Columns();
     columns.resize(1);
     columns[0].editable = false;
     // In the first notification, in the second one, and so on.
     int told = 0;
     for (int when = 1; when == 1 || told >= when - 1; ++when)
     {
-        table->EndEdit(false);
-        table->SetColumns(Columns());
+        m_table->EndEdit(false);
+        m_table->SetColumns(Columns());
         tests::PumpPosted();
         told = 0;
         host.m_onNotify = [&] {
             if (++told == when)
-                table->SetColumns(columns);
+                m_table->SetColumns(columns);
         };
-        bool const opened = table->EditCell(1, 1);
+        bool const opened = m_table->EditCell(1, 1);
         EXPECT_EQ(opened, told < when) << when;
         host.m_onNotify = {};
     }
     EXPECT_GT(told, 0);
-    table.reset();
+    m_table.reset();
 }
 
 /// Does something once, where its edit asks for colours or tells of a change.
@@ -495,11 +514,11 @@ protected:
     void Make(std::vector<TableColumn> columns)
     {
         m_asked = new AskedTable;
-        table.reset(m_asked);
-        table->SetColumns(std::move(columns));
-        ASSERT_TRUE(table->Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 380, 220), &parent, 7));
+        m_table.reset(m_asked);
+        m_table->SetColumns(std::move(columns));
+        ASSERT_TRUE(m_table->Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 380, 220), &m_host, 7));
         Show({1, 2, 3, 4});
-        ASSERT_TRUE(table->EditCell(1, TableRowsSource::name_column));
+        ASSERT_TRUE(m_table->EditCell(1, TableRowsSource::name_column));
         m_edit = Edit();
         ASSERT_NE(m_edit, nullptr);
     }
@@ -513,14 +532,14 @@ TEST_F(AskedTables, MayEndWhileTheEditAsksForColours)
 {
     bool isThere = false;
     m_asked->m_onAsked = [&] {
-        table->DestroyWindow();
+        m_table->DestroyWindow();
         isThere = ::IsWindow(m_edit) != FALSE;
     };
     ::RedrawWindow(m_edit, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
-    EXPECT_EQ(table->m_hWnd, nullptr) << "it was asked";
+    EXPECT_EQ(m_table->m_hWnd, nullptr) << "it was asked";
     EXPECT_TRUE(isThere);
     EXPECT_FALSE(::IsWindow(m_edit));
-    table.reset();
+    m_table.reset();
 }
 
 TEST_F(AskedTables, MayEndWhileTheTextIsTakenThatTheEditTellsOf)
@@ -528,34 +547,34 @@ TEST_F(AskedTables, MayEndWhileTheTextIsTakenThatTheEditTellsOf)
     bool isThere = false;
     std::vector<TableColumn> columns = Columns();
     columns[TableRowsSource::name_column].check = [&](TableValue const &) {
-        table->DestroyWindow();
+        m_table->DestroyWindow();
         isThere = ::IsWindow(m_edit) != FALSE;
         return std::wstring();
     };
     Make(std::move(columns));
-    m_asked->m_onTold = [this] { table->EndEdit(true); };
+    m_asked->m_onTold = [this] { m_table->EndEdit(true); };
     ::SendMessageW(m_edit, WM_CHAR, L'x', 1);
-    EXPECT_EQ(table->m_hWnd, nullptr);
+    EXPECT_EQ(m_table->m_hWnd, nullptr);
     EXPECT_TRUE(isThere);
     EXPECT_FALSE(::IsWindow(m_edit));
-    table.reset();
+    m_table.reset();
 }
 
 TEST_F(TableEdits, TheHostMayEndTheEditThatAsksForColours)
 {
     tests::GuardedHeap heap;
     auto const asked = new AskedTable;
-    table.reset(asked);
-    table->SetColumns(Columns());
-    ASSERT_TRUE(table->Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 380, 220), &parent, 7));
+    m_table.reset(asked);
+    m_table->SetColumns(Columns());
+    ASSERT_TRUE(m_table->Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 380, 220), &m_host, 7));
     Show({1, 2, 3, 4});
-    ASSERT_TRUE(table->EditCell(1, TableRowsSource::name_column));
+    ASSERT_TRUE(m_table->EditCell(1, TableRowsSource::name_column));
     HWND const edit = Edit();
     ASSERT_NE(edit, nullptr);
     bool isThere = false;
     bool isSeen = true;
     asked->m_onAsked = [&] {
-        EXPECT_TRUE(table->EndEdit(false));
+        EXPECT_TRUE(m_table->EndEdit(false));
         isThere = ::IsWindow(edit) != FALSE;
         isSeen = ::IsWindowVisible(edit) != FALSE;
     };
@@ -564,44 +583,44 @@ TEST_F(TableEdits, TheHostMayEndTheEditThatAsksForColours)
     EXPECT_TRUE(isThere) << "the native edit goes on after it has asked";
     EXPECT_FALSE(isSeen);
     EXPECT_FALSE(::IsWindow(edit));
-    EXPECT_FALSE(table->IsEditing());
-    EXPECT_TRUE(table->EditCell(2, TableRowsSource::name_column));
-    table.reset();
+    EXPECT_FALSE(m_table->IsEditing());
+    EXPECT_TRUE(m_table->EditCell(2, TableRowsSource::name_column));
+    m_table.reset();
 }
 
 TEST_F(TableEdits, RowsThatArePaintedLeaveTheEditAsItIs)
 {
-    ASSERT_TRUE(table->EditCell(1, TableRowsSource::name_column));
-    EXPECT_NE(table->GetStyle() & WS_CLIPCHILDREN, 0U);
-    source->SetNumber(1, 8);
+    ASSERT_TRUE(m_table->EditCell(1, TableRowsSource::name_column));
+    EXPECT_NE(m_table->GetStyle() & WS_CLIPCHILDREN, 0U);
+    m_source->SetNumber(1, 8);
     ::ValidateRect(Edit(), nullptr);
-    table->Feed()->RowsChanged(1, 1);
-    ASSERT_TRUE(tests::PumpUntil([this] { return table->GetItemText(1, 1) == L"8.0"; }));
+    m_table->Feed()->RowsChanged(1, 1);
+    ASSERT_TRUE(tests::PumpUntil([this] { return m_table->GetItemText(1, 1) == L"8.0"; }));
     EXPECT_FALSE(::GetUpdateRect(Edit(), nullptr, FALSE));
 }
 
 TEST_F(TableEdits, SpaceTogglesTicks)
 {
     Click(CellPoint(1, 3));
-    ASSERT_TRUE(tests::PumpUntil([this] { return table->FocusRow() == 1; }));
+    ASSERT_TRUE(tests::PumpUntil([this] { return m_table->FocusRow() == 1; }));
     tests::Key(VK_LEFT); // from the progress to the tick
     tests::Key(VK_SPACE);
-    ASSERT_TRUE(tests::PumpUntil([this] { return source->At(1).ticked; }));
+    ASSERT_TRUE(tests::PumpUntil([this] { return m_source->At(1).ticked; }));
     tests::Key(VK_SPACE);
-    ASSERT_TRUE(tests::PumpUntil([this] { return !source->At(1).ticked; }));
+    ASSERT_TRUE(tests::PumpUntil([this] { return !m_source->At(1).ticked; }));
     tests::Key(VK_DOWN);
     tests::Key(VK_SPACE);
-    ASSERT_TRUE(tests::PumpUntil([this] { return source->At(2).ticked; }));
+    ASSERT_TRUE(tests::PumpUntil([this] { return m_source->At(2).ticked; }));
     // A text is no tick; there it begins to be typed into.
     tests::Key(VK_LEFT);
     tests::Key(VK_SPACE);
     ASSERT_TRUE(PumpUntilOpen(L" "));
-    EXPECT_TRUE(source->At(2).ticked);
+    EXPECT_TRUE(m_source->At(2).ticked);
 }
 
 TEST_F(TableEdits, ArrowsLeadFromCellToCellAndBringThemIntoView)
 {
-    table->SetWindowPos(nullptr, 0, 0, 170, 220, SWP_NOMOVE | SWP_NOZORDER);
+    m_table->SetWindowPos(nullptr, 0, 0, 170, 220, SWP_NOMOVE | SWP_NOZORDER);
     Press(0, 0);
     for (int i = 0; i < 10; ++i)
         PressKey(VK_RIGHT);
@@ -645,17 +664,17 @@ protected:
 TEST_F(TableEdits, TheHostIsAskedForTheMenuAtTheCell)
 {
     MenuParent host{CRect(100, 100, 520, 380)};
-    ASSERT_EQ(table->SetParent(host), static_cast<CWnd *>(&parent));
+    ASSERT_EQ(m_table->SetParent(host), static_cast<CWnd *>(&m_host));
     ASSERT_TRUE(tests::BringToFront(host.m_hWnd));
     Click(CellPoint(2, 1));
-    ASSERT_TRUE(tests::PumpUntil([this] { return table->FocusRow() == 2; }));
+    ASSERT_TRUE(tests::PumpUntil([this] { return m_table->FocusRow() == 2; }));
     auto const cell = [this](TableRow position, int place) {
         CPoint const middle = CellPoint(position, place);
         CRect row(0, 0, 0, 0);
-        table->GetItemRect(static_cast<int>(position), &row, LVIR_BOUNDS);
+        m_table->GetItemRect(static_cast<int>(position), &row, LVIR_BOUNDS);
         CRect rect(TitleRect(place).left, row.top, TitleRect(place).right, row.bottom + 1);
         EXPECT_TRUE(rect.PtInRect(middle));
-        table->ClientToScreen(&rect);
+        m_table->ClientToScreen(&rect);
         return rect;
     };
     // The release of that key would open the window's own menu in Wine.
@@ -663,20 +682,20 @@ TEST_F(TableEdits, TheHostIsAskedForTheMenuAtTheCell)
     ASSERT_TRUE(::GetKeyboardState(keys));
     keys[VK_SHIFT] = 0x80;
     ::SetKeyboardState(keys);
-    table->SendMessage(WM_SYSKEYDOWN, VK_F10, 1);
+    m_table->SendMessage(WM_SYSKEYDOWN, VK_F10, 1);
     keys[VK_SHIFT] = 0;
     ::SetKeyboardState(keys);
     ASSERT_EQ(host.asked.size(), 1U);
-    EXPECT_EQ(host.asked[0].window, table->m_hWnd);
+    EXPECT_EQ(host.asked[0].window, m_table->m_hWnd);
     EXPECT_TRUE(cell(2, 1).PtInRect(host.asked[0].place));
     Click(CellPoint(1, 3), true);
     ASSERT_TRUE(tests::PumpUntil([&host] { return host.asked.size() == 2; }));
     EXPECT_TRUE(cell(1, 3).PtInRect(host.asked[1].place));
-    EXPECT_EQ(table->FocusRow(), 1U);
-    table->SendMessage(WM_CONTEXTMENU, reinterpret_cast<WPARAM>(table->m_hWnd), -1);
+    EXPECT_EQ(m_table->FocusRow(), 1U);
+    m_table->SendMessage(WM_CONTEXTMENU, reinterpret_cast<WPARAM>(m_table->m_hWnd), -1);
     ASSERT_EQ(host.asked.size(), 3U);
     EXPECT_TRUE(cell(1, 3).PtInRect(host.asked[2].place));
     tests::PumpPosted();
     EXPECT_EQ(host.asked.size(), 3U) << "each once";
-    table.reset();
+    m_table.reset();
 }

@@ -2,13 +2,12 @@
 
 #include <afxwin.h>
 
-#include "windows/MenueManager.h"
+#include <gtest/gtest.h>
 
 #include "MessageRecorder.h"
 #include "ScopedWindow.h"
 #include "TestApp.h"
-
-#include <gtest/gtest.h>
+#include "windows/MenueManager.h"
 
 namespace
 {

@@ -1,11 +1,11 @@
 // Controls for dates and times, and for silent films.
 
-#include "Pump.h"
-#include "ScopedWindow.h"
-
 #include <afxdtctl.h>
 
 #include <gtest/gtest.h>
+
+#include "Pump.h"
+#include "ScopedWindow.h"
 
 namespace
 {

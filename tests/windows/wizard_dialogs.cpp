@@ -1,8 +1,5 @@
 // The system's dialogs for fonts, printers, pages and tasks.
 
-#include "Pump.h"
-#include "ScopedWindow.h"
-
 #include <afxdlgs.h>
 #include <afxtaskdialog.h>
 
@@ -12,6 +9,9 @@
 #include <cstring>
 #include <string>
 #include <vector>
+
+#include "Pump.h"
+#include "ScopedWindow.h"
 
 namespace
 {

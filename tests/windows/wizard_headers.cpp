@@ -1,7 +1,5 @@
 // What a wizard's sources and resources expect of the headers.
 
-#include <afxwin.h>
-
 #include <afxcmn.h>
 #include <afxdisp.h>
 #include <afxdlgs.h>
@@ -9,6 +7,7 @@
 #include <afxext.h>
 #include <afxmt.h>
 #include <afxole.h>
+#include <afxwin.h>
 #include <atlbase.h>
 
 #include <gtest/gtest.h>

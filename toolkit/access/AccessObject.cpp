@@ -173,8 +173,10 @@ public:
         *parent = nullptr;
         return Asked([&] {
             if (m_element.IsControl())
+            {
                 return ::AccessibleObjectFromWindow(m_target->Window(), static_cast<DWORD>(OBJID_WINDOW),
                                                     __uuidof(IDispatch), reinterpret_cast<void **>(parent));
+            }
             *parent = Object(m_element.IsCell() ? Element{m_element.row, -1} : Element{});
             return S_OK;
         });
@@ -195,7 +197,7 @@ public:
             return E_POINTER;
         *child = nullptr;
         return Asked([&] {
-            auto const element = Named(which);
+            std::optional<Element> const element = Named(which);
             if (!element)
                 return GiveWindow(NamedWindow(which), child);
             *child = Object(*element);
@@ -245,7 +247,7 @@ public:
     HRESULT STDMETHODCALLTYPE accSelect(long flags, VARIANT which) override
     {
         return Asked([&] {
-            auto const element = Named(which);
+            std::optional<Element> const element = Named(which);
             if (!element)
                 return E_INVALIDARG;
             return m_target->Select(*element, flags) ? S_OK : DISP_E_MEMBERNOTFOUND;
@@ -257,10 +259,10 @@ public:
             return E_POINTER;
         *left = *top = *width = *height = 0;
         return Asked([&] {
-            auto const element = Named(which);
+            std::optional<Element> const element = Named(which);
             if (!element)
                 return E_INVALIDARG;
-            auto const rect = m_target->RectOf(*element);
+            std::optional<CRect> const rect = m_target->RectOf(*element);
             if (!rect)
                 return S_FALSE;
             *left = rect->left;
@@ -276,11 +278,11 @@ public:
             return E_POINTER;
         to->vt = VT_EMPTY;
         return Asked([&] {
-            auto const from = Named(which);
-            auto const way = DirectionOf(direction);
+            std::optional<Element> const from = Named(which);
+            std::optional<accessible::Direction> const way = DirectionOf(direction);
             if (!from || !way)
                 return E_INVALIDARG;
-            auto const found = m_target->Navigate(*from, *way);
+            std::optional<Element> const found = m_target->Navigate(*from, *way);
             auto const windows = from->IsControl() ? Windows() : std::vector<HWND>();
             bool const first = *way == accessible::Direction::first_child && !found;
             if (!windows.empty() && (first || *way == accessible::Direction::last_child))
@@ -300,14 +302,14 @@ public:
                 if (::IsWindowVisible(window) && ::GetWindowRect(window, &rect) && rect.PtInRect(CPoint(x, y)))
                     return GiveWindow(window, hit);
             }
-            auto const found = m_target->ElementAt(CPoint(x, y));
+            std::optional<Element> const found = m_target->ElementAt(CPoint(x, y));
             return found ? Give(*found, hit) : S_FALSE;
         });
     }
     HRESULT STDMETHODCALLTYPE accDoDefaultAction(VARIANT which) override
     {
         return Asked([&] {
-            auto const element = Named(which);
+            std::optional<Element> const element = Named(which);
             if (!element)
                 return E_INVALIDARG;
             return m_target->Act(*element) ? S_OK : DISP_E_MEMBERNOTFOUND;
@@ -357,7 +359,7 @@ private:
     /// They are numbered behind the control's own elements.
     HWND NamedWindow(VARIANT const & which) const
     {
-        auto const windows = Windows();
+        std::vector<HWND> const windows = Windows();
         long const place = which.vt == VT_I4 && !windows.empty() ? which.lVal - m_target->ChildCount(m_element) : 0;
         return place > 0 && place <= static_cast<long>(windows.size()) ? windows[static_cast<std::size_t>(place - 1)]
                                                                        : nullptr;
@@ -395,7 +397,7 @@ private:
             return E_POINTER;
         *result = nullptr;
         return Asked([&] {
-            auto const element = Named(which);
+            std::optional<Element> const element = Named(which);
             return element ? GiveText(m_target->Describe(*element).*part, result) : E_INVALIDARG;
         });
     }
@@ -405,7 +407,7 @@ private:
             return E_POINTER;
         result->vt = VT_EMPTY;
         return Asked([&] {
-            auto const element = Named(which);
+            std::optional<Element> const element = Named(which);
             if (!element)
                 return E_INVALIDARG;
             result->lVal = part(m_target->Describe(*element));
@@ -500,7 +502,7 @@ HRESULT STDMETHODCALLTYPE AccessObject::get_accSelection(VARIANT * selection)
     return Asked([&]() -> HRESULT {
         if (!m_element.IsControl())
             return S_FALSE;
-        auto const first = m_target->NextSelected({});
+        std::optional<Element> const first = m_target->NextSelected({});
         if (!first)
             return S_FALSE;
         if (!m_target->IsThere() || !m_target->NextSelected(*first))

@@ -24,7 +24,7 @@ long CheckStates(XLISTCTRLDATA const & cell)
 
 long PlaceStates(AccessibleList const & list, Element element)
 {
-    auto const rect = accessible::RectOf(list, element);
+    std::optional<CRect> const rect = accessible::RectOf(list, element);
     CRect common;
     return rect && common.IntersectRect(*rect, list.SightRect(element.col)) ? 0 : accessible::state::offscreen;
 }
@@ -57,7 +57,7 @@ accessible::Description DescribeCell(AccessibleList const & list, int row, int c
             described.states |= accessible::state::focused;
     }
     bool const enabled = list.IsEnabled();
-    auto const kindText = list.KindText(row, col);
+    std::optional<std::wstring> const kindText = list.KindText(row, col);
     // From here on nothing is asked that could run the host's code.
     XLISTCTRLDATA const * const cell = list.Cell(row, col);
     if (cell == nullptr)
@@ -201,9 +201,15 @@ Role RoleOf(XLISTCTRLDATA const & cell)
         return Role::text;
     case CellKind::link:
         return Role::link;
-    default:
-        return Role::cell;
+    case CellKind::text:
+    case CellKind::check:
+    case CellKind::radio:
+    case CellKind::combo:
+    case CellKind::progress:
+    case CellKind::custom:
+        break;
     }
+    return Role::cell;
 }
 
 wchar_t const * ActionOf(XLISTCTRLDATA const & cell)

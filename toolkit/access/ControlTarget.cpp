@@ -73,7 +73,7 @@ bool ControlTarget::IsInSight(std::optional<CRect> const & rect)
 
 accessible::Description ButtonTarget::DescribeSelf()
 {
-    auto const facts = Facts();
+    accessible::ControlFacts const facts = Facts();
     return accessible::DescribeButton(facts, (::SendMessageW(Window(), BM_GETSTATE, 0, 0) & BST_PUSHED) != 0);
 }
 

@@ -6,8 +6,8 @@
 #include <optional>
 #include <string>
 
-#include "access/AccessObject.h"
 #include "access/AccessibleControls.h"
+#include "access/AccessObject.h"
 #include "frame/WindowAlive.h"
 
 /// A control, with or without items. Made anew for each that asks for it; it serves as long as the control has the

@@ -6,8 +6,8 @@
 
 #include <optional>
 
-#include "access/AccessObject.h"
 #include "access/AccessibleList.h"
+#include "access/AccessObject.h"
 
 /// A list as AccessibleList knows it. What the user does to it is each list's own matter.
 class ListTarget : public AccessTarget
@@ -26,14 +26,14 @@ public:
     }
     std::optional<CRect> RectOf(accessible::Element element) override
     {
-        auto rect = accessible::RectOf(Rows(), element);
+        std::optional<CRect> rect = accessible::RectOf(Rows(), element);
         if (rect && IsThere())
             ::MapWindowPoints(Window(), nullptr, reinterpret_cast<POINT *>(&*rect), 2);
         return rect;
     }
     accessible::Description Describe(accessible::Element element) override
     {
-        auto described = accessible::Describe(Rows(), element);
+        accessible::Description described = accessible::Describe(Rows(), element);
         if (element.IsControl() && IsThere())
             described.name = Name();
         return described;

@@ -3,7 +3,8 @@
 //
 // Each function is a whole transaction: it opens the clipboard, empties it, sets its data and closes it. A failure is
 // told to the user in a message box with the system's text for the error, unless said otherwise; no attempt is
-// repeated. If emptying the opened clipboard fails, it is left open, as hosts expect. For the user-interface thread.
+// repeated. As hosts expect, the clipboard is left open if it can't be emptied, and memory is not freed that can't be
+// filled, nor that of a text that can't be set. For the user-interface thread.
 
 #include <afx.h>
 

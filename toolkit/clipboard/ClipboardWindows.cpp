@@ -1,6 +1,6 @@
-#include <afxwin.h>
-
 #include "clipboard/Clipboard.h"
+
+#include <afxwin.h>
 
 #include <algorithm>
 #include <cstring>
@@ -22,7 +22,7 @@ void Report(DWORD error)
     AfxMessageBox(SystemErrorText(error));
 }
 
-/// Opens the clipboard and empties it. A clipboard that can't be emptied stays open, as hosts expect.
+/// Opens the clipboard and empties it.
 bool OpenEmpty()
 {
     if (!::OpenClipboard(nullptr) || !::EmptyClipboard())
@@ -134,7 +134,6 @@ bool Clipboard::StringToClipboard(CString const & text)
     HGLOBAL const memory = ::GlobalAlloc(GMEM_MOVEABLE, size);
     if (memory == nullptr)
         return CloseAndFail(::GetLastError());
-    // The memory is not freed on failure, as hosts expect.
     bool const done = Fill(memory, text.GetString(), size) && ::SetClipboardData(CF_UNICODETEXT, memory) != nullptr;
     if (!done)
         Report(::GetLastError());
@@ -212,7 +211,6 @@ bool Clipboard::HandleToClipboard(wchar_t const * formatName, void * handle)
 bool Clipboard::DataToClipboard(wchar_t const * formatName, char const * data, unsigned int size)
 {
     HGLOBAL const memory = ::GlobalAlloc(GMEM_MOVEABLE | GMEM_DDESHARE, size);
-    // The memory is not freed on failure, as hosts expect.
     if (memory == nullptr || !Fill(memory, data, size))
         return false;
     return HandleToClipboard(formatName, memory);
@@ -226,7 +224,6 @@ bool Clipboard::StringFromClipboard(CString & text)
         return false;
     }
     bool done = ReadWideText(text);
-    // The narrow text replaces the wide one, as hosts expect.
     if (::IsClipboardFormatAvailable(CF_TEXT) || ::IsClipboardFormatAvailable(CF_OEMTEXT))
         done = ReadNarrowText(text) || done;
     ::CloseClipboard();

@@ -102,9 +102,13 @@ COLORREF SecondGround(COLORREF wished, COLORREF window, COLORREF text, COLORREF 
     if (serves(wished))
         return wished;
     for (COLORREF const color : {selection, text})
+    {
         for (int parts = quarter; parts > 1; --parts)
+        {
             if (serves(Mixed(window, color, parts)))
                 return Mixed(window, color, parts);
+        }
+    }
     return window;
 }
 } // namespace
@@ -128,8 +132,10 @@ COLORREF MarkOn(COLORREF ground, COLORREF mark, COLORREF text)
 COLORREF TextOn(COLORREF ground, COLORREF text, COLORREF other)
 {
     for (COLORREF const color : {text, other})
+    {
         if (ContrastOf(color, ground) >= least_contrast)
             return color;
+    }
     return MarkOn(ground, black, white);
 }
 

@@ -62,11 +62,11 @@ struct ControlColors
     COLORREF edgeDark;
     /// The inner edge on the side of the light.
     COLORREF edgeLight;
-    /// The system's of an active caption.
+    /// The system's of an active caption. Bars are made of it; for hosts besides, as no control has a caption.
     COLORREF activeCaption;
-    /// The system's of an inactive caption.
+    /// The system's of an inactive caption: for hosts, as no control has one.
     COLORREF inactiveCaption;
-    /// Texts on inactiveCaption.
+    /// Texts on inactiveCaption: for hosts.
     COLORREF inactiveCaptionText;
 
     // Marks in cells.
@@ -138,7 +138,7 @@ struct ControlColors
 
     /// A disabled button.
     COLORREF buttonDisabled;
-    /// The frame of a button that is pointed at.
+    /// The frame of a button that is pointed at, where nobody has chosen the colour of its text then.
     COLORREF buttonHotFrame;
 };
 

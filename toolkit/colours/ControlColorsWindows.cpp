@@ -41,8 +41,10 @@ ControlColorSet ChoiceFor(HWND window)
     if (windows_choose.load(std::memory_order_relaxed))
     {
         for (; window != nullptr; window = Above(window))
+        {
             if (HANDLE const property = ::GetPropW(window, PropertyName()))
                 return static_cast<ControlColorSet>(reinterpret_cast<ULONG_PTR>(property) - 1);
+        }
     }
     return process_choice.load(std::memory_order_relaxed);
 }
@@ -108,8 +110,10 @@ void RepaintBelow(HWND root)
     std::vector<HWND> windows;
     ::EnumWindows(&CollectOwn, reinterpret_cast<LPARAM>(&windows));
     for (HWND const window : windows)
+    {
         if (root == nullptr || IsBelow(window, root))
             ::RedrawWindow(window, nullptr, nullptr, all);
+    }
     if (root != nullptr)
         ::RedrawWindow(root, nullptr, nullptr, all);
 }

@@ -2,14 +2,14 @@
 
 #include "colours/Farbtabellen.h"
 
-#include <afxwin.h>
 #include <afxcolorbar.h>
-
-#include "frame/ToolkitResources.h"
-#include "resources/resource_ids.h"
+#include <afxwin.h>
 
 #include <cstddef>
 #include <vector>
+
+#include "frame/ToolkitResources.h"
+#include "resources/resource_ids.h"
 
 namespace Farbtabellen
 {

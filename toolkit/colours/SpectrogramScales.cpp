@@ -1,6 +1,6 @@
-#include "colours/Farbtabellen.h"
-
 #include <cstdint>
+
+#include "colours/Farbtabellen.h"
 
 namespace Farbtabellen
 {

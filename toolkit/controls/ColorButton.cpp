@@ -91,15 +91,16 @@ void CColorButton::DrawItem(LPDRAWITEMSTRUCT item)
     {
         dc->FillSolidRect(area, colors.face);
         if (m_drawFrame)
+        {
             dc->Draw3dRect(area, pressed ? colors.edgeShadow : colors.edgeDark,
                            pressed ? colors.edgeDark : colors.edgeShadow);
+        }
     }
     else if (m_drawFrame)
         dc->DrawFrameControl(area, DFC_BUTTON, DFCS_BUTTONPUSH | (pressed ? DFCS_PUSHED : 0));
     if (m_drawFocusFrame && m_hot)
     {
-        SelectScope const pen(*dc, m_hotPen->GetSafeHandle());
-        dc->Rectangle(area);
+        DrawHotFrame(*dc, area, colors);
     }
     area.DeflateRect(window_dpi::Metric(SM_CXEDGE, m_dpi), window_dpi::Metric(SM_CYEDGE, m_dpi));
     COLORREF const background = look == ButtonLook::disabled ? m_disabledBgColor
@@ -137,6 +138,19 @@ void CColorButton::DrawItem(LPDRAWITEMSTRUCT item)
         DrawCaption(*CDC::FromHandle(context), area, text, look, pressed);
 }
 
+// In a set other than the standard one the ground stays, and a colour that nobody has chosen is the set's.
+void CColorButton::DrawHotFrame(CDC & dc, CRect const & area, ControlColors const & colors)
+{
+    CPen usual(PS_SOLID, 0, colors.buttonHotFrame);
+    bool const adapts = colors.adapts && m_hotFgColor == m_colorTable[ButtonText];
+    CPen * const pen = dc.SelectObject(adapts ? &usual : m_hotPen);
+    CGdiObject * const brush = colors.adapts ? dc.SelectStockObject(NULL_BRUSH) : nullptr;
+    dc.Rectangle(area);
+    dc.SelectObject(pen);
+    if (brush != nullptr)
+        dc.SelectObject(static_cast<CBrush *>(brush));
+}
+
 // In a set other than the standard one. A text that nobody has chosen is read on a ground that somebody has.
 void CColorButton::DrawAdaptedCaption(CDC & dc, CRect const & area, CString const & text, ButtonLook look, bool pressed,
                                       COLORREF ground)
@@ -146,8 +160,10 @@ void CColorButton::DrawAdaptedCaption(CDC & dc, CRect const & area, CString cons
                    : look == ButtonLook::hot    ? m_hotFgColor
                                                 : m_fgColor;
     if (look == ButtonLook::disabled)
+    {
         ink = control_colors::MarkOn(ground, colors.buttonDisabled,
                                      control_colors::TextOn(ground, colors.buttonText, colors.window));
+    }
     else if (ink == m_colorTable[ButtonText])
         ink = control_colors::TextOn(ground, colors.buttonText, colors.window);
     CPoint const origin = ButtonCaptionOrigin(area, dc.GetTextExtent(text), pressed);

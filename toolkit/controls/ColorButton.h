@@ -8,6 +8,7 @@
 
 /// The states that a button is drawn in.
 enum class ButtonLook;
+struct ControlColors;
 
 /// An owner-drawn push button with colours of its own, which looks different while the pointer is over it. Created
 /// directly, or put in the place of a dialog's button by subclassing. Icon and caption are both centred: with both, the
@@ -61,6 +62,7 @@ protected:
     int m_iconSize;
 
 private:
+    void DrawHotFrame(CDC & dc, CRect const & area, ControlColors const & colors);
     void DrawCaption(CDC & dc, CRect const & area, CString const & text, ButtonLook look, bool pressed);
     void DrawAdaptedCaption(CDC & dc, CRect const & area, CString const & text, ButtonLook look, bool pressed,
                             COLORREF ground);

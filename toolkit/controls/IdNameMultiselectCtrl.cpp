@@ -568,7 +568,7 @@ public:
 protected:
     accessible::Description DescribeSelf() override
     {
-        auto facts = Facts();
+        accessible::ControlFacts facts = Facts();
         facts.focusable = false;
         return accessible::DescribeControl(accessible::Role::grouping, facts);
     }

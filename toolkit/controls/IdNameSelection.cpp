@@ -106,7 +106,7 @@ Ids TickedIds(Rows const & rows, bool mapIsEmpty)
 Ids EveryId(Map const & map)
 {
     Ids ids{all_items};
-    for (auto const & item : map)
+    for (std::pair<int const, CString> const & item : map)
         ids.insert(ids.end(), item.first);
     return ids;
 }

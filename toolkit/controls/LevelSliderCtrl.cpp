@@ -233,7 +233,7 @@ public:
 protected:
     accessible::Description DescribeSelf() override
     {
-        auto const facts = Facts();
+        accessible::ControlFacts const facts = Facts();
         HWND const window = Window();
         auto const least = static_cast<int>(::SendMessageW(window, TBM_GETRANGEMIN, 0, 0));
         auto const greatest = static_cast<int>(::SendMessageW(window, TBM_GETRANGEMAX, 0, 0));

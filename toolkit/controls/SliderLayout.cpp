@@ -17,7 +17,7 @@ int Share(float fraction, int extent)
 
 float SliderFraction(int least, int greatest, int position)
 {
-    auto const range = std::int64_t{greatest} - least;
+    long long const range = std::int64_t{greatest} - least;
     if (range == 0)
         return 0;
     return static_cast<float>(std::int64_t{position} - least) / static_cast<float>(range);

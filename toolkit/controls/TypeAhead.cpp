@@ -2,8 +2,6 @@
 
 namespace
 {
-constexpr unsigned int backspace_key = 8;
-constexpr unsigned int delete_key = 46;
 constexpr int text_end = -1;
 } // namespace
 
@@ -23,5 +21,5 @@ void CompleteTyped(CompletionField & field)
 
 bool KeyCompletes(unsigned int virtualKey)
 {
-    return virtualKey != backspace_key && virtualKey != delete_key;
+    return virtualKey != VK_BACK && virtualKey != VK_DELETE;
 }

@@ -428,7 +428,7 @@ protected:
         accessible::ControlFacts facts;
         facts.text = L"Browse";
         facts.enabled = IsEnabled();
-        auto described = accessible::DescribeButton(facts, false);
+        accessible::Description described = accessible::DescribeButton(facts, false);
         // The keyboard stays in the field.
         described.states &= ~accessible::state::focusable;
         return described;

@@ -104,7 +104,7 @@ public:
     void Advance() { m_walk.Advance(); }
     void Deleting(HTREEITEM item) override
     {
-        auto const & path = m_walk.Path();
+        std::vector<HTREEITEM> const & path = m_walk.Path();
         if (path.empty())
             return;
         if (std::find(path.begin(), path.end(), item) != path.end() || m_tree.IsSameOrBelow(path.front(), item))

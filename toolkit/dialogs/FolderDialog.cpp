@@ -1,9 +1,9 @@
 #include "dialogs/FolderDialog.h"
 
-#include "dialogs/FolderPlatform.h"
-
 #include <memory>
 #include <string_view>
+
+#include "dialogs/FolderPlatform.h"
 
 wchar_t CFolderDialog::m_initialDir[path_size] = L"";
 

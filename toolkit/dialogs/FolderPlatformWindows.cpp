@@ -1,8 +1,7 @@
-#include <afxwin.h>
-
-#include <shlobj.h>
-
 #include "dialogs/FolderPlatform.h"
+
+#include <afxwin.h>
+#include <shlobj.h>
 
 namespace
 {

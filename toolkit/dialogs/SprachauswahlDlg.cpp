@@ -1,10 +1,10 @@
 #include "dialogs/SprachauswahlDlg.h"
 
+#include <vector>
+
 #include "dialogs/DisplayLanguages.h"
 #include "frame/ToolkitResources.h"
 #include "resource_ids.h"
-
-#include <vector>
 
 IMPLEMENT_DYNAMIC(CSprachauswahlDlg, CDialogEx)
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <afxwin.h>
 #include <afxdialogex.h>
+#include <afxwin.h>
 
 #include "frame/Export.h"
 

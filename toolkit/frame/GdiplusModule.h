@@ -2,9 +2,9 @@
 // The anti-aliased drawing library, and its start for this module. Internal to the module.
 
 #include <afxwin.h>
+#include <objidl.h>
 
 #include <algorithm>
-#include <objidl.h>
 
 // The library's headers count on min and max, which the platform's headers leave out here.
 namespace Gdiplus

@@ -1,6 +1,6 @@
-#include <afxwin.h>
-
 #include "frame/OwnTexts.h"
+
+#include <afxwin.h>
 
 unsigned short LanguageInForce()
 {

@@ -1,10 +1,10 @@
 // The runtime declares its assertion report only where assertions are on.
 #undef NDEBUG
-#include <cassert>
+#include "layout/LayoutPlatform.h"
 
 #include <afxwin.h>
 
-#include "layout/LayoutPlatform.h"
+#include <cassert>
 
 namespace
 {

@@ -9,7 +9,8 @@ constexpr COLORREF link_color = RGB(0, 0, 255);
 void AdaptCellColors(XLISTCTRLDATA const & cell, CellDefaults const & defaults, ControlColors const & palette,
                      COLORREF & text, COLORREF & background)
 {
-    if (PaintedKind(cell) == CellKind::progress)
+    CellTint const tint = TintOf(cell);
+    if (tint == CellTint::bar)
     {
         if (defaults.IsBar(background))
             background = palette.bar;
@@ -24,6 +25,6 @@ void AdaptCellColors(XLISTCTRLDATA const & cell, CellDefaults const & defaults, 
         background = palette.window;
     if (defaults.IsText(text))
         text = ownGround ? control_colors::TextOn(background, palette.windowText, palette.window) : palette.windowText;
-    else if (!ownGround && text == link_color && (cell.properties & XLP_LINK) != 0)
+    else if (!ownGround && text == link_color && tint == CellTint::link)
         text = palette.link;
 }

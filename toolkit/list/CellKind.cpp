@@ -23,11 +23,6 @@ CellValue ValueOfType(unsigned int valueType)
         return CellValue::none;
     }
 }
-
-CellKind MarkedKind(int checkedState)
-{
-    return checkedState == XLC_RADIO_ON || checkedState == XLC_RADIO_OFF ? CellKind::radio : CellKind::check;
-}
 } // namespace
 
 CellKind PaintedKind(XLISTCTRLDATA const & cell)
@@ -45,6 +40,13 @@ CellKind PaintedKind(XLISTCTRLDATA const & cell)
     return Is(cell, XLP_LINK) ? CellKind::link : CellKind::text;
 }
 
+CellKind MarkedKind(int checkedState)
+{
+    if (checkedState < XLC_UNCHECKED)
+        return CellKind::text;
+    return checkedState == XLC_RADIO_ON || checkedState == XLC_RADIO_OFF ? CellKind::radio : CellKind::check;
+}
+
 CellKind PressedKind(XLISTCTRLDATA const & cell)
 {
     if (Is(cell, XLP_COMBO))
@@ -53,7 +55,7 @@ CellKind PressedKind(XLISTCTRLDATA const & cell)
         return CellKind::edit;
     if (Is(cell, XLP_LINK))
         return CellKind::link;
-    return cell.checkedState >= XLC_UNCHECKED ? MarkedKind(cell.checkedState) : CellKind::text;
+    return MarkedKind(cell.checkedState);
 }
 
 CellPress DecideAdmittedPress(XLISTCTRLDATA const & cell)
@@ -82,6 +84,42 @@ CellPress DecideAdmittedPress(XLISTCTRLDATA const & cell)
 CellPress DecidePress(XLISTCTRLDATA const & cell)
 {
     return Is(cell, XLP_ENABLED) ? DecideAdmittedPress(cell) : CellPress::ignored;
+}
+
+bool ShowsState(CellKind painted)
+{
+    switch (painted)
+    {
+    case CellKind::check:
+    case CellKind::radio:
+        return true;
+    case CellKind::text:
+    case CellKind::edit:
+    case CellKind::link:
+    case CellKind::combo:
+    case CellKind::progress:
+    case CellKind::custom:
+        break;
+    }
+    return false;
+}
+
+CellTint TintOf(XLISTCTRLDATA const & cell)
+{
+    switch (PaintedKind(cell))
+    {
+    case CellKind::progress:
+        return CellTint::bar;
+    case CellKind::text:
+    case CellKind::edit:
+    case CellKind::link:
+    case CellKind::check:
+    case CellKind::radio:
+    case CellKind::combo:
+    case CellKind::custom:
+        break;
+    }
+    return Is(cell, XLP_LINK) ? CellTint::link : CellTint::text;
 }
 
 CellValue SortedValue(XLISTCTRLDATA const & cell)

@@ -21,6 +21,8 @@ enum class CellKind
 /// The kind that a cell is painted as: bars come before marks, marks before combos, these before painters of the
 /// host's. Edit and link cells look like texts. A state without a mark of its own makes a check cell without a box.
 CellKind PaintedKind(XLISTCTRLDATA const & cell);
+/// The kind that a check or radio state alone makes of a cell; a text of XLC_NONE.
+CellKind MarkedKind(int checkedState);
 /// The kind that a press on a cell meets: combos come before edits, these before links and links before marks. Nothing
 /// else acts, and is met as a text.
 CellKind PressedKind(XLISTCTRLDATA const & cell);
@@ -43,6 +45,23 @@ enum class CellPress
 CellPress DecidePress(XLISTCTRLDATA const & cell);
 /// The same for a cell that was found enabled before: it may have been disabled since.
 CellPress DecideAdmittedPress(XLISTCTRLDATA const & cell);
+
+/// Whether cells painted as that kind show a state that programs reading the screen are told of when it changes.
+bool ShowsState(CellKind painted);
+
+/// What a cell's two colours are of.
+enum class CellTint
+{
+    /// The text and its ground.
+    text,
+    /// The same, where the text may have a link's colour.
+    link,
+    /// The text on a bar, and the bar.
+    bar
+};
+
+/// A cell that is painted as something else may have a link's colours still.
+CellTint TintOf(XLISTCTRLDATA const & cell);
 
 /// Which of its values stands for a cell.
 enum class CellValue

@@ -132,16 +132,6 @@ COLORREF TextOn(COLORREF ground, ControlColors const & palette)
     return control_colors::TextOn(ground, palette.windowText, palette.window);
 }
 
-/// The image, if there is one, and the room that it leaves.
-void PaintImageAhead(CellPaint & paint, CellLook const & look)
-{
-    if (look.images != nullptr && paint.cell.imageIndex >= 0 && paint.rect.Width() > 0)
-        paint.rect.left += cell_painters::PaintImage(paint, *look.images, look.spacing);
-}
-} // namespace
-
-namespace
-{
 /// The palette with marks that are seen on the cell's ground.
 ControlColors SeenOn(CellPaint const & paint, ControlColors palette)
 {
@@ -157,49 +147,112 @@ void PaintBox(CellPaint const & paint, CRect const & box, ControlColors const & 
 {
     bool const enabled = IsEnabled(paint.cell);
     int const state = paint.cell.checkedState;
-    if (state >= XLC_UNCHECKED && state <= XLC_CROSSED)
-        cell_painters::PaintCheckBox(paint.dc, box, state, enabled, palette, paint.dpi);
-    else if (state == XLC_RADIO_ON || state == XLC_RADIO_OFF)
+    switch (MarkedKind(state))
+    {
+    case CellKind::check:
+        // There are states without a mark.
+        if (state <= XLC_CROSSED)
+            cell_painters::PaintCheckBox(paint.dc, box, state, enabled, palette, paint.dpi);
+        break;
+    case CellKind::radio:
         cell_painters::PaintRadioBox(paint.dc, box, state, enabled, palette, paint.dpi);
+        break;
+    case CellKind::text:
+    case CellKind::edit:
+    case CellKind::link:
+    case CellKind::combo:
+    case CellKind::progress:
+    case CellKind::custom:
+        break;
+    }
 }
+
+/// Of a cell whose look and text are known beforehand.
+class PlainParts final : public CellParts
+{
+public:
+    PlainParts(CellPaint & paint, CellLook const & look, CellText const & text)
+        : m_paint(paint),
+          m_look(look),
+          m_text(text),
+          m_format(cell_painters::TextFormat(look.alignment, look.ellipsis))
+    {
+    }
+
+    bool IsPainted() const { return m_painted; }
+
+    void Margin() override { cell_painters::FillMargin(m_paint.dc, m_paint.rect, m_look.palette.window); }
+    void Image() override
+    {
+        if (m_look.images != nullptr && m_paint.cell.imageIndex >= 0 && m_paint.rect.Width() > 0)
+            m_paint.rect.left += cell_painters::PaintImage(m_paint, *m_look.images, m_look.spacing);
+    }
+    void Text() override
+    {
+        if (!m_paint.rect.IsRectEmpty())
+            cell_painters::PaintText(m_paint, m_text, m_format, m_look.padding);
+    }
+    void Check() override
+    {
+        if (!m_paint.rect.IsRectEmpty())
+            cell_painters::PaintCheck(m_paint, m_text, m_look.ellipsis, m_look.palette);
+    }
+    void Combo() override
+    {
+        cell_painters::SetArrow(m_paint, m_look.palette);
+        if (!m_paint.rect.IsRectEmpty())
+            cell_painters::PaintCombo(m_paint, m_text, m_format, m_look.padding);
+    }
+    void Progress() override { cell_painters::PaintProgress(m_paint, m_look.palette); }
+    void Custom() override { m_painted = false; }
+
+private:
+    CellPaint & m_paint;
+    CellLook const & m_look;
+    CellText const & m_text;
+    UINT m_format;
+    bool m_painted = true;
+};
 } // namespace
 
 namespace cell_painters
 {
+void PaintParts(XLISTCTRLDATA const & cell, CellParts & parts)
+{
+    switch (PaintedKind(cell))
+    {
+    case CellKind::progress:
+        parts.Margin();
+        parts.Image();
+        parts.Progress();
+        break;
+    case CellKind::check:
+    case CellKind::radio:
+        parts.Check();
+        break;
+    case CellKind::combo:
+        parts.Image();
+        parts.Combo();
+        break;
+    case CellKind::custom:
+        parts.Custom();
+        break;
+    case CellKind::text:
+    case CellKind::edit:
+    case CellKind::link:
+        parts.Image();
+        parts.Text();
+        break;
+    }
+}
+
 bool PaintCell(CellPaint paint, CellLook const & look, CellText const & text)
 {
     paint.dpi = look.dpi;
     paint.imageDpi = look.imageDpi;
-    UINT const format = TextFormat(look.alignment, look.ellipsis);
-    switch (PaintedKind(paint.cell))
-    {
-    case CellKind::progress:
-        FillMargin(paint.dc, paint.rect, look.palette.window);
-        PaintImageAhead(paint, look);
-        PaintProgress(paint, look.palette);
-        return true;
-    case CellKind::check:
-    case CellKind::radio:
-        if (!paint.rect.IsRectEmpty())
-            PaintCheck(paint, text, look.ellipsis, look.palette);
-        return true;
-    case CellKind::combo:
-        PaintImageAhead(paint, look);
-        SetArrow(paint, look.palette);
-        if (!paint.rect.IsRectEmpty())
-            PaintCombo(paint, text, format, look.padding);
-        return true;
-    case CellKind::custom:
-        return false;
-    case CellKind::text:
-    case CellKind::edit:
-    case CellKind::link:
-        PaintImageAhead(paint, look);
-        if (!paint.rect.IsRectEmpty())
-            PaintText(paint, text, format, look.padding);
-        return true;
-    }
-    return false;
+    PlainParts parts(paint, look, text);
+    PaintParts(paint.cell, parts);
+    return parts.IsPainted();
 }
 
 void GreyDisabled(XLISTCTRLDATA const & cell, ControlColors const & palette, COLORREF & text, COLORREF & background)
@@ -209,7 +262,7 @@ void GreyDisabled(XLISTCTRLDATA const & cell, ControlColors const & palette, COL
     text = palette.disabled;
     if (background == palette.window)
         background = palette.inactiveSelection;
-    else if (palette.adapts && PaintedKind(cell) != CellKind::progress)
+    else if (palette.adapts && TintOf(cell) != CellTint::bar)
         text = control_colors::MarkOn(background, text, TextOn(background, palette));
 }
 
@@ -303,8 +356,10 @@ void PaintCheckBox(CDC & dc, CRect const & box, int state, bool enabled, Control
     if (state == XLC_CHECKED)
         check_marks::DrawTick(dc, box, enabled ? palette.checkMark : palette.disabled, dpi);
     else if (state == XLC_CROSSED)
+    {
         check_marks::DrawCross(dc, box, check_marks::cross_inset_cell, enabled ? palette.crossMark : palette.disabled,
                                dpi);
+    }
 }
 
 void PaintRadioBox(CDC & dc, CRect const & box, int state, bool enabled, ControlColors const & palette, UINT dpi)

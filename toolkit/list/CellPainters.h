@@ -51,8 +51,27 @@ struct CellLook
     CImageList * images = nullptr;
 };
 
+/// What the parts of a cell are painted by, one after the other. image moves the rectangle's left edge behind it for
+/// those that follow.
+class CellParts
+{
+public:
+    virtual ~CellParts() = default;
+
+    virtual void Margin() = 0;
+    virtual void Image() = 0;
+    virtual void Text() = 0;
+    virtual void Check() = 0;
+    virtual void Combo() = 0;
+    virtual void Progress() = 0;
+    virtual void Custom() = 0;
+};
+
 namespace cell_painters
 {
+/// Which parts a cell has, and in which order: the one place that goes by the kind painted.
+void PaintParts(XLISTCTRLDATA const & cell, CellParts & parts);
+
 /// The whole cell, with its image where its kind shows one. False for a cell that its record's customDraw paints: only
 /// the control can call that.
 bool PaintCell(CellPaint paint, CellLook const & look, CellText const & text);

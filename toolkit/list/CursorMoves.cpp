@@ -71,18 +71,20 @@ bool CanBeChanged(CellPress press)
 
 bool Acts(ActKey key, CellPress press)
 {
-    switch (key)
+    switch (press)
     {
-    case ActKey::space:
-        return press == CellPress::flip_check || press == CellPress::switch_radio_on;
-    case ActKey::edit:
-        return press == CellPress::open_edit || press == CellPress::open_combo;
-    case ActKey::character:
-        return press == CellPress::open_edit;
-    case ActKey::drop_down:
-        return press == CellPress::open_combo;
-    case ActKey::enter:
-        return press == CellPress::follow_link;
+    case CellPress::flip_check:
+    case CellPress::switch_radio_on:
+        return key == ActKey::space;
+    case CellPress::open_edit:
+        return key == ActKey::edit || key == ActKey::character;
+    case CellPress::open_combo:
+        return key == ActKey::edit || key == ActKey::drop_down;
+    case CellPress::follow_link:
+        return key == ActKey::enter;
+    case CellPress::ignored:
+    case CellPress::select_only:
+        break;
     }
     return false;
 }

@@ -1,6 +1,7 @@
 #include "list/ListModel.h"
 
 #include <algorithm>
+#include <unordered_set>
 
 namespace
 {
@@ -48,6 +49,138 @@ int ListModel::HeldRow::Row()
 }
 
 // Rows
+
+int ListModel::InsertRow(NewRow const & row, std::function<int(XLISTCTRLROW & object)> const & insert)
+{
+    XLISTCTRLROW * const object = TakeRow();
+    XLISTCTRLDATA & cell = *object->cells();
+    cell.textColor = row.text;
+    cell.backgroundColor = row.background;
+    cell.imageIndex = row.image;
+    cell.itemData64 = row.data;
+    cell.itemDataPtr = const_cast<void *>(row.ptr);
+
+    Watch const watch(*this);
+    unsigned int const use = object->use();
+    int index = -1;
+    {
+        Pin const pin(*this, object);
+        index = insert(*object);
+    }
+    if (!watch.IsAlive())
+        return -1;
+    // The insertion itself is the only change, as always but for a host that changes rows when it hears of it; one that
+    // was refused before it reached the native list is none.
+    if (watch.Changes() == 1 || (index < 0 && watch.Changes() == 0))
+    {
+        if (index < 0)
+            pool.GiveBack(object);
+        else
+            memory.Remember(index, object);
+        return index;
+    }
+    PutRowsInOrder();
+    return watch.IsAlive() && object->use() == use ? PlaceOf(object) : -1;
+}
+
+bool ListModel::DeleteRow(int row)
+{
+    XLISTCTRLROW * given = nullptr;
+    if (row < 0 || m_items.Identity() == nullptr || !m_items.ObjectAt(row, given))
+        return false;
+    Watch const watch(*this);
+    unsigned long long expected = 0;
+    bool const own = given != nullptr && (memory.AreRowsKnown() || pool.Owns(given));
+    unsigned int const id = m_items.IdOf(row);
+    if (given != nullptr)
+    {
+        m_items.Hang(row, nullptr);
+        ++expected;
+    }
+    if (!watch.IsAlive())
+        return false;
+    // The host may have heard of it and have moved rows.
+    bool const deleted = m_items.Delete(watch.Changes() == expected ? row : m_items.FindId(id));
+    if (!watch.IsAlive())
+        return deleted;
+    if (watch.Changes() != expected + 1)
+        PutRowsInOrder();
+    else if (own)
+        pool.GiveBack(given);
+    return deleted;
+}
+
+bool ListModel::DeleteAllRows()
+{
+    if (m_items.Identity() == nullptr)
+    {
+        pool.GiveBackAll();
+        return false;
+    }
+    Watch const watch(*this);
+    // Rows stay in use until no item shows them any more: the host hears of each one that goes.
+    bool const deleted = m_items.DeleteAll();
+    if (!watch.IsAlive())
+        return deleted;
+    if (m_items.RowCount() != 0 || !m_pinned.empty())
+    {
+        PutRowsInOrder();
+        return deleted;
+    }
+    pool.GiveBackAll();
+    memory.SetInStep(true);
+    return deleted;
+}
+
+void ListModel::PutRowsInOrder(std::span<XLISTCTRLROW * const> spares)
+{
+    // The host hears of each repair. One that goes on moving rows for ever is left alone after a while.
+    constexpr int most_tries = 8;
+
+    Watch const watch(*this);
+    for (int tries = 0; tries < most_tries; ++tries)
+    {
+        unsigned long long changes = memory.Changes();
+        std::vector<int> const sharing = GiveBackUnshownRows();
+        if (swaps != 0)
+            return;
+        for (int const row : sharing)
+        {
+            auto const spare = std::find_if(spares.begin(), spares.end(),
+                                            [this](XLISTCTRLROW const * object) { return PlaceOf(object) < 0; });
+            XLISTCTRLROW * const object = spare != spares.end() ? *spare : TakeRow();
+            Pin const pin(*this, object);
+            m_items.Hang(row, object);
+            if (!watch.IsAlive())
+                return;
+            if (memory.Changes() != ++changes)
+                break;
+        }
+        if (memory.Changes() == changes)
+            return;
+    }
+}
+
+std::vector<int> ListModel::GiveBackUnshownRows()
+{
+    std::unordered_set<XLISTCTRLROW const *> shown;
+    std::vector<int> sharing;
+    int const rows = m_items.RowCount();
+    for (int row = 0; row < rows; ++row)
+    {
+        XLISTCTRLROW const * const object = RowOf(row);
+        if (object != nullptr && !shown.insert(object).second)
+            sharing.push_back(row);
+    }
+    std::size_t inUse = 0;
+    pool.KeepOnly([&](XLISTCTRLROW const & row) {
+        bool const isShown = shown.contains(&row);
+        inUse += isShown ? 1 : 0;
+        return isShown || std::find(m_pinned.begin(), m_pinned.end(), &row) != m_pinned.end();
+    });
+    memory.SetInStep(sharing.empty() && inUse == shown.size());
+    return sharing;
+}
 
 XLISTCTRLROW * ListModel::RowOf(int row) const
 {
@@ -368,6 +501,28 @@ void ListModel::UpdateHeaderFromCells(int col)
 }
 
 // What the user does
+
+CellPress ListModel::PressCell(HeldRow & held, int col)
+{
+    XLISTCTRLDATA const * const cell = held.Cell(col);
+    CellPress const press = cell != nullptr ? DecideAdmittedPress(*cell) : CellPress::select_only;
+    switch (press)
+    {
+    case CellPress::flip_check:
+        FlipCheck(held, col);
+        break;
+    case CellPress::switch_radio_on:
+        SwitchRadioOn(held, col);
+        break;
+    case CellPress::open_combo:
+    case CellPress::open_edit:
+    case CellPress::follow_link:
+    case CellPress::ignored:
+    case CellPress::select_only:
+        break;
+    }
+    return press;
+}
 
 void ListModel::FlipCheck(HeldRow & held, int col)
 {

@@ -28,6 +28,9 @@ public:
     virtual bool ObjectAt(int row, XLISTCTRLROW *& object) const = 0;
     /// The row from whose item the object hangs; -1 if there is none.
     virtual int FindObject(XLISTCTRLROW const & object) const = 0;
+    /// What names an item wherever it moves, and where it is then; -1 if it is gone.
+    virtual unsigned int IdOf(int row) const = 0;
+    virtual int FindId(unsigned int id) const = 0;
     /// All objects from the top; null where an item has none of the model's.
     virtual std::vector<XLISTCTRLROW *> ObjectsFromTop() const = 0;
     /// The user has changed some cell.
@@ -52,6 +55,14 @@ public:
     /// Tells the parent that the user has changed a check or radio cell.
     virtual void TellOfCheck(int row, int col) = 0;
 
+    // So can these, each of which is a change of rows that the memory is told of, refused or not.
+
+    /// Hangs the object from the item; null for none.
+    virtual void Hang(int row, XLISTCTRLROW const * object) = 0;
+    /// False if that fails.
+    virtual bool Delete(int row) = 0;
+    virtual bool DeleteAll() = 0;
+
 protected:
     ~ListItems() = default;
 };
@@ -67,6 +78,8 @@ public:
 
     CXListRowPool pool{16};
     mutable RowMemory memory;
+    /// Trades of two rows under way: for a moment both share one object.
+    int swaps = 0;
 
     /// Tells whether model, native list and rows are as they were, after a call that can run the host's code.
     class Watch
@@ -117,7 +130,48 @@ public:
         unsigned int m_use = 0;
     };
 
+    /// Keeps a row object in use that does not hang from an item yet, or for a moment does not any more.
+    class Pin
+    {
+    public:
+        Pin(ListModel & model, XLISTCTRLROW const * row) : m_watch(model), m_model(model)
+        {
+            model.m_pinned.push_back(row);
+        }
+        ~Pin()
+        {
+            if (m_watch.IsThere())
+                m_model.m_pinned.pop_back();
+        }
+        Pin(Pin const &) = delete;
+        Pin & operator=(Pin const &) = delete;
+
+    private:
+        Watch m_watch;
+        ListModel & m_model;
+    };
+
     // --- Rows ---
+
+    /// What a new row's first cell has.
+    struct NewRow
+    {
+        COLORREF text;
+        COLORREF background;
+        int image;
+        void const * ptr;
+        long long data;
+    };
+    /// Inserts an item together with a row object. insert hangs the object from a new item and gives the row where that
+    /// has landed, or what is negative for a refusal, which takes no row object. The same is returned, or -1 if the
+    /// host has deleted the row at once.
+    int InsertRow(NewRow const & row, std::function<int(XLISTCTRLROW & object)> const & insert);
+    /// Deletes an item and gives its row object back; false if that fails.
+    bool DeleteRow(int row);
+    bool DeleteAllRows();
+    /// After the host has changed rows within an operation on rows: every item has a row object of its own again, and
+    /// what hangs from none is back in the pool. spares: objects in use that such items take before new ones.
+    void PutRowsInOrder(std::span<XLISTCTRLROW * const> spares = {});
 
     /// The row object in an item; null where there is none.
     XLISTCTRLROW * RowOf(int row) const;
@@ -131,7 +185,7 @@ public:
     {
         if (memory.AreRowsKnown())
         {
-            for (auto const & row : pool.InUse())
+            for (std::unique_ptr<XLISTCTRLROW> const & row : pool.InUse())
                 visit(*row);
             return;
         }
@@ -230,6 +284,9 @@ public:
 
     // --- What the user does ---
 
+    /// A press on an enabled cell. Check and radio cells are changed; all else that it comes to is the list's. The list
+    /// may have ended.
+    CellPress PressCell(HeldRow & held, int col);
     /// The changes of cells that an admitted press on a check or radio cell comes to.
     void FlipCheck(HeldRow & held, int col);
     void SwitchRadioOn(HeldRow & held, int col);
@@ -243,7 +300,11 @@ private:
     void ShowCheckByUser(int row, int col, int state);
     /// Repaints the row's cell where the row is now.
     void Repaint(HeldRow & held, int col);
+    /// Gives back what hangs from no item; the places of items that share another one's row object.
+    std::vector<int> GiveBackUnshownRows();
 
     ListItems & m_items;
+    /// Row objects that operations under way keep in use.
+    std::vector<XLISTCTRLROW const *> m_pinned;
     LifeSign m_life;
 };

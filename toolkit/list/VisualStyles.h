@@ -1,7 +1,6 @@
 #pragma once
 
 #include <afxwin.h>
-
 #include <uxtheme.h>
 
 #include "frame/Export.h"

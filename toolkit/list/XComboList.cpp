@@ -1,9 +1,9 @@
 #include "list/XComboList.h"
 
-#include "frame/InternalMessages.h"
-
 #include <algorithm>
 #include <utility>
+
+#include "frame/InternalMessages.h"
 
 namespace XListCtrl
 {

@@ -1,11 +1,11 @@
 #include "list/XEdit.h"
 
+#include <utility>
+
 #include "colours/ControlColors.h"
 #include "frame/GraphicsScopes.h"
 #include "frame/InternalMessages.h"
 #include "layout/Resolution.h"
-
-#include <utility>
 
 namespace XListCtrl
 {

@@ -166,7 +166,7 @@ protected:
     accessible::ItemRow Items() override { return {IsThere() ? m_header.GetItemCount() : 0, true}; }
     accessible::Description DescribeSelf() override
     {
-        auto facts = Facts();
+        accessible::ControlFacts facts = Facts();
         facts.focusable = false;
         return accessible::DescribeControl(accessible::Role::list, facts);
     }

@@ -39,7 +39,7 @@ public:
     /// the kind that the cell would be without. The list marks cell and list as changed, repaints and tells the parent.
     virtual std::optional<Change> Press(XLISTCTRLDATA & cell, CRect const & rect, CPoint point);
     /// A key (a VK_ code) in the list, while the cell's row has the focus and the cell is enabled. Of several such
-    /// cells the leftmost that takes it. Likewise.
+    /// cells the cell cursor's is asked first, then the others from the left until one takes it. Likewise.
     virtual std::optional<Change> Key(XLISTCTRLDATA & cell, unsigned int key);
     /// What the list's own sort goes by; nothing to sort as without the kind. The same cell gives the same value until
     /// it is changed.

@@ -1,14 +1,14 @@
 #include "list/XListCtrl.h"
 
+#include <memory>
+#include <utility>
+
 #include "frame/InternalMessages.h"
 #include "frame/ToolkitResources.h"
 #include "list/XListCtrlCursor.h"
 #include "list/XListCtrlHold.h"
 #include "list/XListCtrlResolution.h"
 #include "resources/resource_ids.h"
-
-#include <memory>
-#include <utility>
 
 namespace
 {

@@ -5,7 +5,6 @@
 #include <functional>
 #include <map>
 #include <memory>
-#include <span>
 #include <string>
 #include <utility>
 #include <vector>
@@ -483,7 +482,6 @@ protected:
 private:
     class CellCursor;
     class HeldRow;
-    class Pin;
     class Resolution;
     class Watch;
 
@@ -491,8 +489,6 @@ private:
     XLISTCTRLROW * RowOf(int row) const;
     /// The cell if row and column are in range and the row reaches that far, else null.
     XLISTCTRLDATA * ValidCell(int row, int col) const;
-    /// A row object with cells for the list's columns.
-    XLISTCTRLROW * TakeRow();
     /// Inserts the item together with a row object; where it landed, or the negative native result, or -1 if the host
     /// has deleted it at once. A failed insertion takes no row.
     int InsertWithRow(LVITEMW item, COLORREF text, COLORREF background, int image, void const * ptr, long long data);
@@ -500,12 +496,6 @@ private:
     int RowCount() const;
     /// The row that a row object hangs from; -1 if there is none.
     int PlaceOf(XLISTCTRLROW const * object) const;
-    /// After the host has changed rows within an operation on rows: every native item has a row object of its own
-    /// again, and what hangs from none is back in the pool. spares: objects in use that such items take before new
-    /// ones.
-    void PutRowsInOrder(std::span<XLISTCTRLROW * const> spares = {});
-    /// Gives back what hangs from no native item; the places of items that share another one's row object.
-    std::vector<int> GiveBackUnshownRows();
     /// Sets the native text alone; false if that fails.
     bool ShowText(int row, int col, wchar_t const * text);
     /// Repaints the row's cell where the row is now.
@@ -559,6 +549,7 @@ private:
     /// texts do.
     void FollowColumns(UINT message, int col);
     void FillMovedFirstColumn(CDC & dc, CRect const & row);
+    class PaintedParts;
     void DrawSubItem(NMLVCUSTOMDRAW & draw, LRESULT * result);
     /// Whether the row stands above the first one that shows.
     bool IsAboveTop(int row);

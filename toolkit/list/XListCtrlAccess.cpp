@@ -45,10 +45,10 @@ public:
     std::wstring Title(int col) const override { return List() != nullptr ? m_list->HeaderTitle(col) : std::wstring(); }
     std::optional<std::wstring> KindText(int row, int col) const override
     {
-        auto const kind = List() != nullptr ? m_list->GetCellKind(row, col) : nullptr;
+        std::shared_ptr<CXListCellKind> const kind = List() != nullptr ? m_list->GetCellKind(row, col) : nullptr;
         if (kind == nullptr)
             return {};
-        auto const text = kind->ExportText(*m_list->ValidCell(row, col));
+        std::optional<CString> const text = kind->ExportText(*m_list->ValidCell(row, col));
         return text ? std::wstring(text->GetString()) : Text(row, col);
     }
     std::optional<CRect> CellRect(int row, int col) const override
@@ -118,7 +118,7 @@ private:
 
 bool CXListCtrl::AccessTargetOfList::Act(Element element)
 {
-    auto const rect = element.IsCell() ? accessible::RectOf(m_rows, element) : std::nullopt;
+    std::optional<CRect> const rect = element.IsCell() ? accessible::RectOf(m_rows, element) : std::nullopt;
     bool const enabled = rect && m_rows.IsEnabled();
     XLISTCTRLDATA const * const cell = enabled ? m_rows.Cell(element.row, element.col) : nullptr;
     if (cell == nullptr || DecidePress(*cell) == CellPress::ignored)
@@ -165,13 +165,13 @@ LRESULT CXListCtrl::AnswerGetObject(WPARAM flags)
         return 0;
     if (m_access->target == nullptr)
         m_access->target = std::make_shared<AccessTargetOfList>(*this);
-    auto const target = m_access->target;
+    std::shared_ptr<AccessTarget> const target = m_access->target;
     return AnswerWithObject(target, flags);
 }
 
 void CXListCtrl::EndAccess()
 {
-    if (auto const target = std::exchange(m_access->target, nullptr))
+    if (std::shared_ptr<AccessTarget> const target = std::exchange(m_access->target, nullptr))
         static_cast<AccessTargetOfList &>(*target).Lose();
 }
 
@@ -194,8 +194,7 @@ void CXListCtrl::TellOfCell(int row, int col)
     HWND const window = m_hWnd;
     XLISTCTRLDATA const * const cell =
         ::IsWinEventHookInstalled(EVENT_OBJECT_STATECHANGE) ? ValidCell(row, col) : nullptr;
-    CellKind const kind = cell != nullptr ? PaintedKind(*cell) : CellKind::text;
-    if (col < 0 || kind == CellKind::check || kind == CellKind::radio)
+    if (col < 0 || (cell != nullptr && ShowsState(PaintedKind(*cell))))
         TellOfEvent(EVENT_OBJECT_STATECHANGE, window, {row, col});
     if (col >= 0)
         TellOfEvent(EVENT_OBJECT_VALUECHANGE, window, {row, col});

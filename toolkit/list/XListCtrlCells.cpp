@@ -2,18 +2,18 @@
 
 #include "list/XListCtrl.h"
 
+#include <algorithm>
+#include <cstdint>
+#include <functional>
+#include <iterator>
+#include <utility>
+
 #include "colours/ControlColors.h"
 #include "frame/RegisteredMessages.h"
 #include "list/XListCtrlCursor.h"
 #include "list/XListCtrlHold.h"
 #include "list/XListCtrlResolution.h"
 #include "list/XListSearch.h"
-
-#include <algorithm>
-#include <cstdint>
-#include <functional>
-#include <iterator>
-#include <utility>
 
 namespace
 {
@@ -70,6 +70,31 @@ int CXListCtrl::Items::FindObject(XLISTCTRLROW const & object) const
     wanted.flags = LVFI_PARAM;
     wanted.lParam = reinterpret_cast<LPARAM>(&object);
     return m_list.FindItem(&wanted);
+}
+
+unsigned int CXListCtrl::Items::IdOf(int row) const
+{
+    return static_cast<unsigned int>(m_list.AskNative(LVM_MAPINDEXTOID, static_cast<WPARAM>(row), 0));
+}
+
+bool CXListCtrl::Items::Delete(int row)
+{
+    Watch const watch(m_list);
+    m_list.m_rows->ownChange = true;
+    BOOL const deleted = m_list.CListCtrl::DeleteItem(row);
+    if (watch.IsThere())
+        m_list.m_rows->ownChange = false;
+    return deleted != FALSE;
+}
+
+bool CXListCtrl::Items::DeleteAll()
+{
+    Watch const watch(m_list);
+    m_list.m_rows->ownChange = true;
+    BOOL const deleted = m_list.CListCtrl::DeleteAllItems();
+    if (watch.IsThere())
+        m_list.m_rows->ownChange = false;
+    return deleted != FALSE;
 }
 
 void CXListCtrl::Items::TellOfCheck(int row, int col)
@@ -224,7 +249,7 @@ std::vector<XLISTCTRLROW *> CXListCtrl::RowsFromTop() const
         return rows;
     // Whatever else hangs from an item is not to be touched.
     std::vector<XLISTCTRLROW const *> own;
-    for (auto const & row : m_rows->model.pool.All())
+    for (std::unique_ptr<XLISTCTRLROW> const & row : m_rows->model.pool.All())
     {
         if (row != nullptr)
             own.push_back(row.get());

@@ -47,9 +47,9 @@ bool CXListCtrl::SetCellCursor(int row, int col)
 
 void CXListCtrl::CellCursor::Enable(bool on)
 {
-    auto const before = Place();
+    std::pair<int, int> const before = Place();
     m_on = on;
-    auto const now = on ? Place() : before;
+    std::pair<int, int> const now = on ? Place() : before;
     Invalidate(now.first, now.second);
 }
 
@@ -76,7 +76,7 @@ void CXListCtrl::CellCursor::PutColumn(int col)
 {
     if (!m_on || col == m_col || col < 0 || col >= m_list.m_columnCount)
         return;
-    auto const before = Place();
+    std::pair<int, int> const before = Place();
     m_col = col;
     Invalidate(before.first, before.second);
     Invalidate(before.first, col);
@@ -225,7 +225,7 @@ bool CXListCtrl::CellCursor::MoveInRow(UINT key)
 
 std::optional<cursor_moves::Place> CXListCtrl::CellCursor::NextPlace(bool forward) const
 {
-    auto const from = Place();
+    std::pair<int, int> const from = Place();
     if (from.first < 0)
         return {};
     return cursor_moves::NextChangeable(Grid(), from, forward, [this](int row, int col) {
@@ -236,7 +236,7 @@ std::optional<cursor_moves::Place> CXListCtrl::CellCursor::NextPlace(bool forwar
 
 bool CXListCtrl::CellCursor::GoToNext(bool forward)
 {
-    auto const next = NextPlace(forward);
+    std::optional<cursor_moves::Place> const next = NextPlace(forward);
     return next && Put(next->first, next->second);
 }
 

@@ -211,14 +211,14 @@ bool CXListCtrl::SwapRows(std::vector<dd_list_Item> & upper, std::vector<dd_list
     unsigned long long const changes = m_rows->model.memory.Changes();
     XLISTCTRLROW * const objects[] = {RowOf(a), RowOf(b)};
     {
-        Pin const pinUpper(*this, objects[0]);
-        Pin const pinLower(*this, objects[1]);
+        ListModel::Pin const pinUpper(m_rows->model, objects[0]);
+        ListModel::Pin const pinLower(m_rows->model, objects[1]);
         save_row(upper, a);
         if (watch.IsAlive())
             save_row(lower, b);
         if (!watch.IsAlive() || m_rows->model.memory.Changes() != changes)
             return false;
-        ++m_drag->rowSwaps;
+        ++m_rows->model.swaps;
         bool const begun = restore_row(upper, b);
         bool swapped =
             begun && watch.IsAlive() && m_rows->model.memory.Changes() == changes + 1 && restore_row(lower, a);
@@ -228,16 +228,16 @@ bool CXListCtrl::SwapRows(std::vector<dd_list_Item> & upper, std::vector<dd_list
             RowOf(b) == objects[0])
             restore_row(lower, b);
         if (watch.IsThere())
-            --m_drag->rowSwaps;
+            --m_rows->model.swaps;
         if (!watch.IsAlive())
             return false;
         if (swapped)
             return true;
-        PutRowsInOrder(objects);
+        m_rows->model.PutRowsInOrder(objects);
         if (!watch.IsAlive())
             return false;
     }
-    PutRowsInOrder();
+    m_rows->model.PutRowsInOrder();
     return false;
 }
 

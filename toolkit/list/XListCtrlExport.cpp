@@ -2,16 +2,16 @@
 
 #include "list/XListCtrl.h"
 
-#include "clipboard/Clipboard.h"
-#include "frame/CoreLibrary.h"
-#include "list/XListExport.h"
-#include "list/XListCtrlHold.h"
-
 #include <locale.h>
 #include <wchar.h>
 
 #include <algorithm>
 #include <iterator>
+
+#include "clipboard/Clipboard.h"
+#include "frame/CoreLibrary.h"
+#include "list/XListCtrlHold.h"
+#include "list/XListExport.h"
 
 namespace
 {
@@ -88,8 +88,8 @@ bool CXListCtrl::ExportToClipboard(bool withHeader, int firstRow, int lastRow, i
             };
             // A column younger than the row has its text alone.
             XLISTCTRLDATA const * const cell = ValidCell(row, col);
-            auto const kind = GetCellKind(row, col);
-            if (auto const own = kind != nullptr ? kind->ExportText(*cell) : std::nullopt)
+            std::shared_ptr<CXListCellKind> const kind = GetCellKind(row, col);
+            if (std::optional<CString> const own = kind != nullptr ? kind->ExportText(*cell) : std::nullopt)
                 block.AddField(std::wstring_view(own->GetString(), static_cast<std::size_t>(own->GetLength())));
             else
                 block.AddField(cell != nullptr ? ExportedCell(*cell, decimalSign, dateText, shownText) : shownText());

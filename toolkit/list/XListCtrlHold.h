@@ -12,27 +12,6 @@ public:
     explicit Watch(CXListCtrl const & list) : ListModel::Watch(list.m_rows->model) {}
 };
 
-/// Keeps a row object in use that does not hang from a native item yet, or for a moment does not any more.
-class CXListCtrl::Pin
-{
-public:
-    Pin(CXListCtrl & list, XLISTCTRLROW const * row) : m_watch(list), m_list(list)
-    {
-        list.m_rows->pinned.push_back(row);
-    }
-    ~Pin()
-    {
-        if (m_watch.IsThere())
-            m_list.m_rows->pinned.pop_back();
-    }
-    Pin(Pin const &) = delete;
-    Pin & operator=(Pin const &) = delete;
-
-private:
-    Watch m_watch;
-    CXListCtrl & m_list;
-};
-
 /// Follows a row. After each call that can run the host's code, its place and its cells are asked for again.
 class CXListCtrl::HeldRow : public ListModel::HeldRow
 {

@@ -93,7 +93,7 @@ void CXListCtrl::OnLButtonDown(UINT, CPoint point)
         pass();
         return;
     }
-    auto const place = GetItem(point);
+    std::pair<int, int> const place = GetItem(point);
     auto const [row, col] = place;
     if (!IsCell(place))
     {
@@ -138,7 +138,7 @@ void CXListCtrl::PressCell(int row, int col, CPoint point, bool asInput)
             pass();
         return;
     }
-    switch (cell != nullptr ? DecideAdmittedPress(*cell) : CellPress::select_only)
+    switch (cell != nullptr ? m_rows->model.PressCell(held, col) : CellPress::select_only)
     {
     case CellPress::open_combo:
         pass();
@@ -156,11 +156,7 @@ void CXListCtrl::PressCell(int row, int col, CPoint point, bool asInput)
             OnItemStateChange(place, col, WM_XLISTCTRL_LINK_CLICKED);
         return;
     case CellPress::flip_check:
-        m_rows->model.FlipCheck(held, col);
-        break;
     case CellPress::switch_radio_on:
-        m_rows->model.SwitchRadioOn(held, col);
-        break;
     case CellPress::ignored:
     case CellPress::select_only:
         break;
@@ -185,7 +181,7 @@ void CXListCtrl::ChangeByKind(int row, int col, CXListCellKind::Change const & c
 
 bool CXListCtrl::OfferPress(int row, int col, CPoint point)
 {
-    auto const kind = GetCellKind(row, col);
+    std::shared_ptr<CXListCellKind> const kind = GetCellKind(row, col);
     CRect rect;
     if (kind == nullptr || !GetSubItemRect(row, col, LVIR_BOUNDS, rect))
         return false;
@@ -193,7 +189,7 @@ bool CXListCtrl::OfferPress(int row, int col, CPoint point)
     if (cell == nullptr)
         return false;
     Watch const watch(*this);
-    auto const change = kind->Press(*cell, rect, point);
+    std::optional<CXListCellKind::Change> const change = kind->Press(*cell, rect, point);
     if (!watch.IsUnchanged())
         return true;
     if (change)
@@ -208,19 +204,25 @@ bool CXListCtrl::OfferKey(UINT key)
     if (object == nullptr || !object->HasKinds())
         return false;
     Watch const watch(*this);
-    for (int col = 0; col < m_columnCount; ++col)
-    {
-        auto const kind = GetCellKind(row, col);
+    // Whether the cell has taken it, or has changed so much that no other one is asked.
+    auto const offer = [&](int col) {
+        std::shared_ptr<CXListCellKind> const kind = GetCellKind(row, col);
         if (kind == nullptr || !GetEnabled(row, col))
-            continue;
-        auto const change = kind->Key(*ValidCell(row, col), key);
+            return false;
+        std::optional<CXListCellKind::Change> const change = kind->Key(*ValidCell(row, col), key);
         if (!watch.IsUnchanged())
             return true;
         if (change)
-        {
             ChangeByKind(row, col, *change);
+        return change.has_value();
+    };
+    int const first = m_cursor->IsOn() ? m_cursor->Place().second : -1;
+    if (first >= 0 && offer(first))
+        return true;
+    for (int col = 0; col < m_columnCount; ++col)
+    {
+        if (col != first && offer(col))
             return true;
-        }
     }
     return false;
 }
@@ -229,7 +231,7 @@ void CXListCtrl::OnLButtonDblClk(UINT flags, CPoint point)
 {
     if (GetDisplayStyle() == LVS_REPORT)
     {
-        auto const place = GetItem(point);
+        std::pair<int, int> const place = GetItem(point);
         auto const [row, col] = place;
         if (IsCell(place))
         {
@@ -328,7 +330,7 @@ void CXListCtrl::OnContextMenu(CWnd * window, CPoint point)
     bool const byKey = point == CPoint(-1, -1) && m_cursor->FindMenuPlace(point);
     CPoint inside = point;
     ScreenToClient(&inside);
-    auto const place = byKey ? m_cursor->Place() : GetItem(inside);
+    std::pair<int, int> const place = byKey ? m_cursor->Place() : GetItem(inside);
     CRect header(0, 0, 0, 0);
     if (m_header.GetSafeHwnd() != nullptr)
         m_header.GetWindowRect(&header);

@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "frame/GraphicsScopes.h"
-#include "list/CellKind.h"
 #include "list/CellPainters.h"
 #include "list/PaintMemory.h"
 #include "list/XListCtrlCursor.h"
@@ -151,6 +150,54 @@ void CXListCtrl::OnCustomDraw(NMHDR * header, LRESULT * result)
         m_cursor->Paint(frame);
 }
 
+/// The list asks for the colours, which a host may choose, with each part, for the image before there is a text, and
+/// for alignment and text where there is something to write. So each part is an operation of the list's.
+class CXListCtrl::PaintedParts final : public CellParts
+{
+public:
+    struct Cell
+    {
+        int row;
+        int col;
+        CDC * dc;
+        COLORREF text;
+        COLORREF background;
+        CRect rect;
+        XLISTCTRLDATA * cells;
+    };
+    PaintedParts(CXListCtrl & list, Cell const & cell) : m_list(list), m_cell(cell) {}
+
+    void Margin() override
+    {
+        if (m_list.m_paint->scope != nullptr)
+            cell_painters::FillMargin(*m_cell.dc, m_cell.rect, m_list.m_paint->palette.window);
+    }
+    void Image() override
+    {
+        m_cell.rect.left += m_list.DrawImage(m_cell.row, m_cell.col, m_cell.dc, m_cell.text, m_cell.background,
+                                             m_cell.rect, m_cell.cells);
+    }
+    void Text() override { Draw(&CXListCtrl::DrawTextW); }
+    void Check() override { Draw(&CXListCtrl::DrawCheckbox); }
+    void Combo() override { Draw(&CXListCtrl::DrawComboBox); }
+    void Progress() override { Draw(&CXListCtrl::DrawProgress); }
+    void Custom() override
+    {
+        // The host's code may change or end anything, the painter itself and this list included.
+        auto const painter = m_cell.cells[m_cell.col].customDraw;
+        painter(m_cell.row, m_cell.col, m_cell.dc, m_cell.rect);
+    }
+
+private:
+    void Draw(void (CXListCtrl::*part)(int, int, CDC *, COLORREF, COLORREF, CRect &, XLISTCTRLDATA *))
+    {
+        (m_list.*part)(m_cell.row, m_cell.col, m_cell.dc, m_cell.text, m_cell.background, m_cell.rect, m_cell.cells);
+    }
+
+    CXListCtrl & m_list;
+    Cell m_cell;
+};
+
 void CXListCtrl::DrawSubItem(NMLVCUSTOMDRAW & draw, LRESULT * result)
 {
     int const row = static_cast<int>(draw.nmcd.dwItemSpec);
@@ -197,35 +244,8 @@ void CXListCtrl::DrawSubItem(NMLVCUSTOMDRAW & draw, LRESULT * result)
             own->Paint(cell, *dc, rect, text, background);
         return;
     }
-    switch (PaintedKind(cell))
-    {
-    case CellKind::progress:
-        if (m_paint->scope != nullptr)
-            cell_painters::FillMargin(*dc, rect, m_paint->palette.window);
-        rect.left += DrawImage(row, col, dc, text, background, rect, cells);
-        DrawProgress(row, col, dc, text, background, rect, cells);
-        break;
-    case CellKind::check:
-    case CellKind::radio:
-        DrawCheckbox(row, col, dc, text, background, rect, cells);
-        break;
-    case CellKind::combo:
-        rect.left += DrawImage(row, col, dc, text, background, rect, cells);
-        DrawComboBox(row, col, dc, text, background, rect, cells);
-        break;
-    case CellKind::custom: {
-        // The host's code may change or end anything, the painter itself and this list included.
-        auto const painter = cell.customDraw;
-        painter(row, col, dc, rect);
-        break;
-    }
-    case CellKind::text:
-    case CellKind::edit:
-    case CellKind::link:
-        rect.left += DrawImage(row, col, dc, text, background, rect, cells);
-        DrawTextW(row, col, dc, text, background, rect, cells);
-        break;
-    }
+    PaintedParts parts(*this, {row, col, dc, text, background, rect, cells});
+    cell_painters::PaintParts(cell, parts);
 }
 
 // A first column that stands behind others is painted where they stand, up to the second column. Its own place would
@@ -281,7 +301,7 @@ CRect CXListCtrl::PaintedRect(int row, int col)
     PaintScope * const paint = m_paint->scope;
     if (paint != nullptr)
     {
-        if (auto const known = paint->memory.Bounds(row, col))
+        if (std::optional<CRect> const known = paint->memory.Bounds(row, col))
             return *known;
     }
     CRect rect(0, 0, 0, 0);

@@ -4,8 +4,6 @@
 
 #include <algorithm>
 #include <limits>
-#include <unordered_set>
-#include <utility>
 
 #include "list/XListCtrlHold.h"
 
@@ -50,151 +48,21 @@ int CXListCtrl::InsertWithRow(LVITEMW item, COLORREF text, COLORREF background, 
 {
     if (m_hWnd == nullptr)
         return -1;
-    XLISTCTRLROW * const row = TakeRow();
-    XLISTCTRLDATA & cell = *row->cells();
-    cell.textColor = text;
-    cell.backgroundColor = background;
-    cell.imageIndex = image;
-    cell.itemData64 = data;
-    cell.itemDataPtr = const_cast<void *>(ptr);
-
-    item.mask |= LVIF_PARAM;
-    item.lParam = reinterpret_cast<LPARAM>(row);
-    Watch const watch(*this);
-    unsigned long long const changes = m_rows->model.memory.Changes();
-    unsigned int const use = row->use();
-    int index = -1;
-    {
-        Pin const pin(*this, row);
-        index = CListCtrl::InsertItem(&item);
-    }
-    if (!watch.IsAlive())
-        return -1;
-    // The insertion itself is the only change, as always but for a host that changes rows when it hears of it; one that
-    // was refused before it reached the native list is none.
-    if (m_rows->model.memory.Changes() == changes + 1 || (index < 0 && m_rows->model.memory.Changes() == changes))
-    {
-        if (index < 0)
-            m_rows->model.pool.GiveBack(row);
-        else
-            m_rows->model.memory.Remember(index, row);
-        return index;
-    }
-    PutRowsInOrder();
-    return watch.IsAlive() && row->use() == use ? PlaceOf(row) : -1;
-}
-
-XLISTCTRLROW * CXListCtrl::TakeRow()
-{
-    return m_rows->model.TakeRow();
+    return m_rows->model.InsertRow({text, background, image, ptr, data}, [this, &item](XLISTCTRLROW & row) {
+        item.mask |= LVIF_PARAM;
+        item.lParam = reinterpret_cast<LPARAM>(&row);
+        return CListCtrl::InsertItem(&item);
+    });
 }
 
 int CXListCtrl::DeleteItem(int row)
 {
-    LVITEMW item{};
-    item.mask = LVIF_PARAM;
-    item.iItem = row;
-    if (row < 0 || m_hWnd == nullptr || !AskNative(LVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&item)))
-        return FALSE;
-    Watch const watch(*this);
-    unsigned long long expected = m_rows->model.memory.Changes();
-    auto const * const given = reinterpret_cast<XLISTCTRLROW const *>(item.lParam);
-    bool const own = given != nullptr && (RowsAreKnown() || m_rows->model.pool.Owns(given));
-    LRESULT const id = AskNative(LVM_MAPINDEXTOID, static_cast<WPARAM>(row), 0);
-    if (given != nullptr)
-    {
-        SetNativeParam(row, nullptr);
-        ++expected;
-    }
-    if (!watch.IsAlive())
-        return FALSE;
-    // The host may have heard of it and have moved rows.
-    int const place =
-        m_rows->model.memory.Changes() == expected ? row : static_cast<int>(MapIDToIndex(static_cast<UINT>(id)));
-    m_rows->ownChange = true;
-    BOOL const deleted = CListCtrl::DeleteItem(place);
-    if (!watch.IsAlive())
-        return deleted;
-    m_rows->ownChange = false;
-    if (m_rows->model.memory.Changes() != expected + 1)
-        PutRowsInOrder();
-    else if (own)
-        m_rows->model.pool.GiveBack(given);
-    return deleted;
+    return m_rows->model.DeleteRow(row);
 }
 
 int CXListCtrl::DeleteAllItems()
 {
-    if (m_hWnd == nullptr)
-    {
-        m_rows->model.pool.GiveBackAll();
-        return FALSE;
-    }
-    Watch const watch(*this);
-    // Rows stay in use until no native item shows them any more: the host hears of each one that goes.
-    m_rows->ownChange = true;
-    BOOL const deleted = CListCtrl::DeleteAllItems();
-    if (!watch.IsAlive())
-        return deleted;
-    m_rows->ownChange = false;
-    if (RowCount() != 0 || !m_rows->pinned.empty())
-    {
-        PutRowsInOrder();
-        return deleted;
-    }
-    m_rows->model.pool.GiveBackAll();
-    m_rows->model.memory.SetInStep(true);
-    return deleted;
-}
-
-void CXListCtrl::PutRowsInOrder(std::span<XLISTCTRLROW * const> spares)
-{
-    // The host hears of each repair. One that goes on moving rows for ever is left alone after a while.
-    constexpr int most_tries = 8;
-
-    Watch const watch(*this);
-    for (int tries = 0; tries < most_tries; ++tries)
-    {
-        unsigned long long changes = m_rows->model.memory.Changes();
-        std::vector<int> const sharing = GiveBackUnshownRows();
-        if (m_drag->rowSwaps != 0)
-            return;
-        for (int const row : sharing)
-        {
-            auto const spare = std::find_if(spares.begin(), spares.end(),
-                                            [this](XLISTCTRLROW const * object) { return PlaceOf(object) < 0; });
-            XLISTCTRLROW * const object = spare != spares.end() ? *spare : TakeRow();
-            Pin const pin(*this, object);
-            SetNativeParam(row, object);
-            if (!watch.IsAlive())
-                return;
-            if (m_rows->model.memory.Changes() != ++changes)
-                break;
-        }
-        if (m_rows->model.memory.Changes() == changes)
-            return;
-    }
-}
-
-std::vector<int> CXListCtrl::GiveBackUnshownRows()
-{
-    std::unordered_set<XLISTCTRLROW const *> shown;
-    std::vector<int> sharing;
-    int const rows = RowCount();
-    for (int row = 0; row < rows; ++row)
-    {
-        XLISTCTRLROW const * const object = RowOf(row);
-        if (object != nullptr && !shown.insert(object).second)
-            sharing.push_back(row);
-    }
-    std::size_t inUse = 0;
-    m_rows->model.pool.KeepOnly([&](XLISTCTRLROW const & row) {
-        bool const isShown = shown.contains(&row);
-        inUse += isShown ? 1 : 0;
-        return isShown || std::find(m_rows->pinned.begin(), m_rows->pinned.end(), &row) != m_rows->pinned.end();
-    });
-    m_rows->model.memory.SetInStep(sharing.empty() && inUse == shown.size());
-    return sharing;
+    return m_rows->model.DeleteAllRows();
 }
 
 void CXListCtrl::SetBatchInsertMode(bool on)

@@ -5,13 +5,13 @@
 
 #include "list/XListCtrl.h"
 
-#include "list/XListCtrlHold.h"
-#include "list/XListSort.h"
-
 #include <algorithm>
 #include <cwchar>
 #include <functional>
 #include <utility>
+
+#include "list/XListCtrlHold.h"
+#include "list/XListSort.h"
 
 namespace
 {
@@ -196,7 +196,7 @@ void CXListCtrl::ApplyOrder(std::vector<int> const & order)
     if (watch.IsThere())
         m_sort->standInsInUse -= replaced.size();
     if (watch.IsAlive() && watch.Changes() != expected)
-        PutRowsInOrder();
+        m_rows->model.PutRowsInOrder();
 }
 
 bool CXListCtrl::SetNativeParam(int row, XLISTCTRLROW const * object)

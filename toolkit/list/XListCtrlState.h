@@ -28,6 +28,8 @@ public:
     int ColumnCount() const override { return m_list.m_columnCount; }
     bool ObjectAt(int row, XLISTCTRLROW *& object) const override;
     int FindObject(XLISTCTRLROW const & object) const override;
+    unsigned int IdOf(int row) const override;
+    int FindId(unsigned int id) const override { return static_cast<int>(m_list.MapIDToIndex(id)); }
     std::vector<XLISTCTRLROW *> ObjectsFromTop() const override { return m_list.RowsFromTop(); }
     void MarkModified() override { m_list.m_listModified = true; }
     bool HeadersFollow() const override { return m_list.m_headerAutoCheckbox; }
@@ -38,6 +40,9 @@ public:
     bool ShowText(int row, int col, wchar_t const * text) override { return m_list.ShowText(row, col, text); }
     void Repaint(int row, int col) override { m_list.UpdateSubItem(row, col); }
     void TellOfCheck(int row, int col) override;
+    void Hang(int row, XLISTCTRLROW const * object) override { m_list.SetNativeParam(row, object); }
+    bool Delete(int row) override;
+    bool DeleteAll() override;
 
 private:
     CXListCtrl & m_list;
@@ -49,8 +54,6 @@ struct CXListCtrl::RowState
 
     Items items;
     ListModel model;
-    /// Row objects that operations under way keep in use.
-    std::vector<XLISTCTRLROW const *> pinned;
     /// The next change is an operation of this class, which keeps the books itself.
     bool ownChange = false;
     /// Likewise of columns.
@@ -93,8 +96,6 @@ struct CXListCtrl::DragState
     /// A name of the system's.
     LPCWSTR cursor = IDC_ARROW;
     CImageList image;
-    /// Trades of two rows under way: for a moment both share one object.
-    int rowSwaps = 0;
 };
 
 /// Not owned by anything else: EndEdit and EndCombo end the objects with their windows.

@@ -26,7 +26,7 @@ void CListTextBlock::EndLine()
 std::wstring ExportedNumber(int value)
 {
     char digits[number_size];
-    auto const end = std::to_chars(digits, digits + number_size, value).ptr;
+    char * const end = std::to_chars(digits, digits + number_size, value).ptr;
     return std::wstring(digits, end);
 }
 
@@ -34,9 +34,9 @@ std::wstring ExportedNumber(float value, std::wstring_view decimalSign)
 {
     // Independent of the locale that the host has set for the whole process.
     char digits[number_size];
-    auto const end = std::to_chars(digits, digits + number_size, static_cast<double>(value), std::chars_format::general,
-                                   significant_digits)
-                         .ptr;
+    char * const end = std::to_chars(digits, digits + number_size, static_cast<double>(value),
+                                     std::chars_format::general, significant_digits)
+                           .ptr;
     std::wstring text;
     for (char const * c = digits; c != end; ++c)
     {

@@ -51,7 +51,7 @@ int FindTopmostRow(CXListRowPool::Slots rows, bool areRows, RowCount && rowCount
     for (std::size_t i = 0; i < rows.size(); ++i)
     {
         FetchAhead(rows, i);
-        auto const & row = rows[i];
+        std::unique_ptr<XLISTCTRLROW> const & row = rows[i];
         if (row == nullptr || !matches(*row))
             continue;
         found.push_back(row.get());

@@ -19,7 +19,7 @@ template <class Value> int Compare(Value const & a, Value const & b)
 /// A whole number that is the greater the greater the float, and the same for both zeros.
 long long Ordered(float value)
 {
-    auto const bits = std::bit_cast<std::int32_t>(value + 0.0F);
+    int const bits = std::bit_cast<std::int32_t>(value + 0.0F);
     return bits >= 0 ? bits : bits ^ 0x7FFFFFFF;
 }
 

@@ -129,8 +129,10 @@ template <class Compare> std::vector<int> SortedOrder(int count, Compare && comp
         while (end < size && (compare(order[end - 1], order[end]) > 0) == falls)
             ++end;
         if (falls)
+        {
             std::reverse(order.begin() + static_cast<std::ptrdiff_t>(begin),
                          order.begin() + static_cast<std::ptrdiff_t>(end));
+        }
         ends.push_back(end);
     }
     std::vector<int> merged(ends.size() > 1 ? size : 0);

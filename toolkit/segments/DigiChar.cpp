@@ -1,11 +1,11 @@
 #include "segments/DigiChar.h"
 
-#include "segments/DigiOutlines.h"
-
 #include <algorithm>
 #include <iterator>
 #include <new>
 #include <type_traits>
+
+#include "segments/DigiOutlines.h"
 
 namespace DigiStatic
 {

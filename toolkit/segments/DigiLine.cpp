@@ -1,8 +1,8 @@
 #include "segments/DigiLine.h"
 
-#include "segments/DigiStyle.h"
-
 #include <algorithm>
+
+#include "segments/DigiStyle.h"
 
 namespace DigiStatic
 {

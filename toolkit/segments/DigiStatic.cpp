@@ -262,7 +262,7 @@ public:
 protected:
     accessible::Description DescribeSelf() override
     {
-        auto const facts = Facts();
+        accessible::ControlFacts const facts = Facts();
         std::wstring const shown = IsThere() ? m_display.m_text.GetString() : L"";
         return accessible::DescribeReadOut(facts, shown == window_text_wanted ? facts.text : shown);
     }

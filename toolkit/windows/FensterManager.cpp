@@ -252,10 +252,10 @@ void CFensterManager::StoreScreens(CResourceVesk & store) const
 {
     WindowPlatform & platform = WindowPlatform::Instance();
     CWnd const * const target = m_type == window_view ? platform.Owner(*m_wnd) : m_wnd;
-    auto const origin = target != nullptr ? platform.PlacementOrigin(*target) : std::nullopt;
+    std::optional<CPoint> const origin = target != nullptr ? platform.PlacementOrigin(*target) : std::nullopt;
     if (!origin)
         return;
-    auto const screens = platform.Screens();
+    std::vector<ScreenArea> const screens = platform.Screens();
     ScreenArea const * const screen = ScreenOf(Shifted(m_placement.rcNormalPosition, *origin), screens);
     CString const key = KeyOf(m_name, suffix_screens);
     store.LookupSetInt(key, FingerprintOf(screens), 0);
@@ -335,7 +335,7 @@ void CFensterManager::BringWithinReach(CResourceVesk & store)
 {
     WindowPlatform & platform = WindowPlatform::Instance();
     CWnd const * const target = m_type == window_view ? platform.Owner(*m_wnd) : m_wnd;
-    auto const origin = target != nullptr ? platform.PlacementOrigin(*target) : std::nullopt;
+    std::optional<CPoint> const origin = target != nullptr ? platform.PlacementOrigin(*target) : std::nullopt;
     if (!origin)
         return;
     CString const key = KeyOf(m_name, suffix_screens);

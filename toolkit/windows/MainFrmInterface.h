@@ -1,7 +1,7 @@
 #pragma once
 
-#include <afxwin.h>
 #include <afxmdiframewndex.h>
+#include <afxwin.h>
 
 #include <functional>
 #include <map>

@@ -1,6 +1,6 @@
-#include <afxwin.h>
-
 #include "windows/MenuPlatform.h"
+
+#include <afxwin.h>
 
 namespace
 {

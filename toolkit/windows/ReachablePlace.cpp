@@ -80,8 +80,8 @@ ScreenArea const * ScreenOf(CRect const & place, std::span<ScreenArea const> scr
             continue;
         }
         CRect const & work = screen.work;
-        auto const across = Overlap(place.left, place.right, work.left, work.right);
-        auto const down = Overlap(place.top, place.bottom, work.top, work.bottom);
+        Length const across = Overlap(place.left, place.right, work.left, work.right);
+        Length const down = Overlap(place.top, place.bottom, work.top, work.bottom);
         double const covered = across > 0 && down > 0 ? static_cast<double>(across) * static_cast<double>(down) : 0.0;
         double const aside = Gap(place.left, place.right, work.left, work.right);
         double const above = Gap(place.top, place.bottom, work.top, work.bottom);
@@ -99,8 +99,8 @@ ScreenArea const * ScreenOf(CRect const & place, std::span<ScreenArea const> scr
 
 bool IsCaptionReachable(CRect const & place, std::span<ScreenArea const> screens, int captionHeight)
 {
-    auto const wanted = std::clamp<Length>(static_cast<Length>(place.right) - place.left, 0, least_caption_width);
-    auto const height =
+    Length const wanted = std::clamp<Length>(static_cast<Length>(place.right) - place.left, 0, least_caption_width);
+    Length const height =
         std::clamp<Length>(static_cast<Length>(place.bottom) - place.top, 0, std::max(captionHeight, 0));
     return std::any_of(screens.begin(), screens.end(), [&](ScreenArea const & screen) {
         return !IsEmpty(screen) && place.top >= screen.work.top && place.top + height <= screen.work.bottom &&
@@ -120,8 +120,8 @@ CRect ReachablePlace(StoredPlace const & stored, std::span<ScreenArea const> scr
     }
     auto const width = static_cast<Length>(place.right) - place.left;
     auto const height = static_cast<Length>(place.bottom) - place.top;
-    auto newWidth = width;
-    auto newHeight = height;
+    Length newWidth = width;
+    Length newHeight = height;
     CRect const & work = screen->work;
     if (shape.sizable)
     {
@@ -137,7 +137,7 @@ CRect ReachablePlace(StoredPlace const & stored, std::span<ScreenArea const> scr
     {
         return place;
     }
-    auto const left = Fitted(place.left, newWidth, work.left, work.right);
-    auto const top = Fitted(place.top, newHeight, work.top, work.bottom);
+    Length const left = Fitted(place.left, newWidth, work.left, work.right);
+    Length const top = Fitted(place.top, newHeight, work.top, work.bottom);
     return CRect(AsCoordinate(left), AsCoordinate(top), AsCoordinate(left + newWidth), AsCoordinate(top + newHeight));
 }

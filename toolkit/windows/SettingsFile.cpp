@@ -95,8 +95,10 @@ public:
             return false;
         name.resize(length);
         for (std::size_t at = 0; at < length; ++at)
+        {
             name[at] = static_cast<char16_t>(m_nameBytes[bytes_per_unit * at] | m_nameBytes[bytes_per_unit * at + 1]
                                                                                     << bits_per_byte);
+        }
         return true;
     }
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <afxwin.h>
 #include <afxext.h>
 #include <afxmdichildwndex.h>
+#include <afxwin.h>
 
 #include "frame/Export.h"
 #include "windows/FensterManager.h"

@@ -1,6 +1,6 @@
-#include <afxwin.h>
-
 #include "windows/WindowPlatform.h"
+
+#include <afxwin.h>
 
 namespace
 {

@@ -8,7 +8,7 @@ namespace workbench
 
 int CheckedAmplification(int decibels)
 {
-    auto const isStep = decibels >= 0 && decibels <= most_amplification && decibels % amplification_step == 0;
+    bool const isStep = decibels >= 0 && decibels <= most_amplification && decibels % amplification_step == 0;
     return isStep ? decibels : 0;
 }
 
@@ -18,7 +18,7 @@ int FittingAmplification(double peakLevel)
     {
         return 0;
     }
-    auto const steps = std::floor(-peakLevel / amplification_step);
+    double const steps = std::floor(-peakLevel / amplification_step);
     constexpr int most_steps = most_amplification / amplification_step;
     auto const most = static_cast<double>(most_steps);
     return static_cast<int>(std::clamp(steps, 0.0, most)) * amplification_step;

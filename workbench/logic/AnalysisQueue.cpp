@@ -57,10 +57,10 @@ void AnalysisQueue::Run()
         {
             return;
         }
-        auto const job = std::move(m_jobs.front());
+        Job const job = std::move(m_jobs.front());
         m_jobs.pop_front();
         m_reading = true;
-        auto const generation = m_generation.load();
+        unsigned int const generation = m_generation.load();
         lock.unlock();
 
         RecordingAnalysis analysis;
@@ -81,7 +81,7 @@ void AnalysisQueue::Run()
         lock.lock();
         if (!m_stop && m_generation == generation)
         {
-            auto const first = m_finished.empty();
+            bool const first = m_finished.empty();
             m_finished.push_back({job.id, std::move(result)});
             if (first)
             {

@@ -1,8 +1,6 @@
 #pragma once
 // Reads recordings on a thread of its own, one after another, so that windows stay alive meanwhile.
 
-#include "logic/RecordingAnalysis.h"
-
 #include <atomic>
 #include <condition_variable>
 #include <deque>
@@ -12,6 +10,8 @@
 #include <mutex>
 #include <thread>
 #include <vector>
+
+#include "logic/RecordingAnalysis.h"
 
 namespace workbench
 {

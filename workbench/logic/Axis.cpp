@@ -24,8 +24,8 @@ Step StepOfAtLeast(double seconds)
 {
     for (int exponent = -6; exponent < 1; ++exponent)
     {
-        auto const unit = std::pow(10.0, exponent);
-        for (auto const factor : {1.0, 2.0, 5.0})
+        double const unit = std::pow(10.0, exponent);
+        for (double const factor : {1.0, 2.0, 5.0})
         {
             if (factor * unit >= seconds)
             {
@@ -33,7 +33,7 @@ Step StepOfAtLeast(double seconds)
             }
         }
     }
-    for (auto const minutesOrSeconds : {10.0, 20.0, 30.0, 60.0, 120.0, 300.0, 600.0, 1200.0, 1800.0, 3600.0})
+    for (double const minutesOrSeconds : {10.0, 20.0, 30.0, 60.0, 120.0, 300.0, 600.0, 1200.0, 1800.0, 3600.0})
     {
         if (minutesOrSeconds >= seconds)
         {
@@ -48,7 +48,7 @@ std::wstring TimeLabel(double seconds, int decimals, bool asMinutes)
     wchar_t text[64];
     if (asMinutes)
     {
-        auto const whole = std::llround(seconds);
+        long long const whole = std::llround(seconds);
         std::swprintf(text, std::size(text), L"%lld:%02d", whole / 60, static_cast<int>(whole % 60));
     }
     else
@@ -61,8 +61,8 @@ std::wstring TimeLabel(double seconds, int decimals, bool asMinutes)
 /// The smallest of 1, 2, 5, 10, ... of at least so much.
 double DecimalStepOfAtLeast(double least)
 {
-    auto const unit = std::pow(10.0, std::floor(std::log10(least)));
-    for (auto const factor : {1.0, 2.0, 5.0})
+    double const unit = std::pow(10.0, std::floor(std::log10(least)));
+    for (double const factor : {1.0, 2.0, 5.0})
     {
         if (factor * unit >= least)
         {
@@ -103,12 +103,12 @@ std::vector<TimeTick> TimeTicks(double seconds, int width, int leastDistance)
     {
         return ticks;
     }
-    auto const step = StepOfAtLeast(seconds * leastDistance / width);
-    auto const asMinutes = seconds >= 60.0 && step.decimals == 0;
+    Step const step = StepOfAtLeast(seconds * leastDistance / width);
+    bool const asMinutes = seconds >= 60.0 && step.decimals == 0;
     auto const count = static_cast<int>(std::floor(seconds / step.seconds + 1e-9));
     for (int i = 0; i <= count; ++i)
     {
-        auto const time = i * step.seconds;
+        double const time = i * step.seconds;
         ticks.push_back(
             {static_cast<int>(std::lround(time / seconds * width)), TimeLabel(time, step.decimals, asMinutes)});
     }
@@ -122,11 +122,11 @@ std::vector<FrequencyTick> FrequencyTicks(double highest, int height, int leastD
     {
         return ticks;
     }
-    auto const step = DecimalStepOfAtLeast(highest * leastDistance / height);
+    double const step = DecimalStepOfAtLeast(highest * leastDistance / height);
     auto const count = static_cast<int>(std::floor(highest / step + 1e-9));
     for (int i = 0; i <= count; ++i)
     {
-        auto const hertz = i * step;
+        double const hertz = i * step;
         ticks.push_back({static_cast<int>(std::lround(hertz / highest * height)), FrequencyLabel(hertz)});
     }
     return ticks;
@@ -195,8 +195,8 @@ std::vector<TimeTick> TimeTicks(double first, double end, int width, int leastDi
         return ticks;
     }
     double const seconds = end - first;
-    auto const step = StepOfAtLeast(seconds * leastDistance / width);
-    auto const asMinutes = end >= 60.0 && step.decimals == 0;
+    Step const step = StepOfAtLeast(seconds * leastDistance / width);
+    bool const asMinutes = end >= 60.0 && step.decimals == 0;
     auto const begin = static_cast<long long>(std::ceil(first / step.seconds - 1e-9));
     for (long long i = begin; static_cast<double>(i) * step.seconds <= end + seconds * 1e-9; ++i)
     {
@@ -214,12 +214,12 @@ std::vector<int> LabelledSteps(int last, int every, int height, int leastDistanc
     {
         return steps;
     }
-    auto between = every;
+    int between = every;
     while (between < last && between * height < leastDistance * last)
     {
         between *= 2;
     }
-    for (auto step = last; step >= 0; step -= between)
+    for (int step = last; step >= 0; step -= between)
     {
         steps.push_back(step);
     }
@@ -229,10 +229,10 @@ std::vector<int> LabelledSteps(int last, int every, int height, int leastDistanc
 std::vector<LevelLine> LevelLines(int halfHeight, int leastDistance, int amplification)
 {
     std::vector<LevelLine> lines;
-    for (auto const decibels : {0, -6, -12, -18, -24})
+    for (int const decibels : {0, -6, -12, -18, -24})
     {
         // With steps of 6 dB a line is as far from the one above it as from the centre line.
-        auto const amplitude = std::pow(10.0, decibels / 20.0);
+        double const amplitude = std::pow(10.0, decibels / 20.0);
         if (amplitude * halfHeight < leastDistance)
         {
             break;

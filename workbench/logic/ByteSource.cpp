@@ -6,9 +6,9 @@
 #include <utility>
 
 #ifdef _WIN32
+#include <windows.h>
 #include <fcntl.h>
 #include <io.h>
-#include <windows.h>
 #endif
 
 namespace workbench
@@ -71,7 +71,7 @@ std::size_t MemoryByteSource::Read(std::uint64_t offset, std::span<std::byte> bu
         return 0;
     }
     auto const rest = m_bytes.subspan(static_cast<std::size_t>(offset));
-    auto const count = std::min(rest.size(), buffer.size());
+    std::size_t const count = std::min(rest.size(), buffer.size());
     if (count > 0)
     {
         std::memcpy(buffer.data(), rest.data(), count);
@@ -96,7 +96,7 @@ std::unique_ptr<FileByteSource> FileByteSource::Open(std::filesystem::path const
     {
         return nullptr;
     }
-    auto const end = Tell(file.get());
+    std::int64_t const end = Tell(file.get());
     if (end < 0)
     {
         return nullptr;

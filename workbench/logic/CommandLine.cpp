@@ -23,7 +23,7 @@ CommandLine ParseCommandLine(std::span<std::wstring const> arguments)
     CommandLine result;
     for (std::size_t i = 0; i < arguments.size(); ++i)
     {
-        auto const walk = IsOption(arguments[i], L"/walk");
+        bool const walk = IsOption(arguments[i], L"/walk");
         if (!walk && !IsOption(arguments[i], L"/walk-restart"))
         {
             if (!arguments[i].empty())

@@ -42,7 +42,7 @@ std::wstring PositionReading(std::uint64_t frame, std::uint32_t sampleRate)
     {
         return L"--:--.---";
     }
-    auto const seconds = frame / sampleRate;
+    std::size_t const seconds = frame / sampleRate;
     wchar_t text[40];
     std::swprintf(text, std::size(text), L"%02llu:%02u.%03u", static_cast<unsigned long long>(seconds / 60),
                   static_cast<unsigned>(seconds % 60),

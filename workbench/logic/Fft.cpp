@@ -19,8 +19,8 @@ void CombineHalves(float * __restrict firstReal, float * __restrict firstImagina
 {
     for (std::size_t i = 0; i < count; ++i)
     {
-        auto const real = secondReal[i] * cosines[i] - secondImaginary[i] * sines[i];
-        auto const imaginary = secondReal[i] * sines[i] + secondImaginary[i] * cosines[i];
+        float const real = secondReal[i] * cosines[i] - secondImaginary[i] * sines[i];
+        float const imaginary = secondReal[i] * sines[i] + secondImaginary[i] * cosines[i];
         secondReal[i] = firstReal[i] - real;
         secondImaginary[i] = firstImaginary[i] - imaginary;
         firstReal[i] += real;
@@ -52,7 +52,7 @@ Fft::Fft(std::size_t size)
 
 void Fft::Transform(std::span<float> real, std::span<float> imaginary) const
 {
-    auto const size = Size();
+    std::size_t const size = Size();
     if (real.size() != size || imaginary.size() != size)
     {
         return;
@@ -67,8 +67,8 @@ void Fft::Transform(std::span<float> real, std::span<float> imaginary) const
     }
     for (std::size_t half = 1; half < size; half *= 2)
     {
-        auto const * const cosines = m_cosines.data() + half - 1;
-        auto const * const sines = m_sines.data() + half - 1;
+        float const * const cosines = m_cosines.data() + half - 1;
+        float const * const sines = m_sines.data() + half - 1;
         for (std::size_t first = 0; first < size; first += 2 * half)
         {
             CombineHalves(&real[first], &imaginary[first], &real[first + half], &imaginary[first + half], cosines,

@@ -29,11 +29,11 @@ FileFacts ReadFileFacts(std::filesystem::path const & path)
 {
     FileFacts facts;
     std::error_code error;
-    if (auto const size = std::filesystem::file_size(path, error); !error)
+    if (uintmax_t const size = std::filesystem::file_size(path, error); !error)
     {
         facts.size = size;
     }
-    if (auto const time = std::filesystem::last_write_time(path, error); !error)
+    if (std::filesystem::file_time_type const time = std::filesystem::last_write_time(path, error); !error)
     {
         auto const seconds = std::chrono::floor<std::chrono::seconds>(SystemTime(time));
         facts.lastWrite = static_cast<std::time_t>(seconds.time_since_epoch().count());

@@ -64,7 +64,7 @@ FolderChanges CompareFolder(std::span<KnownFile const> listed, std::span<KnownFi
     };
     std::map<std::tuple<std::uint64_t, std::time_t>, Pair> alike;
     auto const pairOf = [&alike](FileFacts const & facts) -> Pair & { return alike[{*facts.size, *facts.lastWrite}]; };
-    for (auto const place : changes.gone)
+    for (std::size_t const place : changes.gone)
     {
         if (IsKnown(listed[place].facts))
         {
@@ -73,7 +73,7 @@ FolderChanges CompareFolder(std::span<KnownFile const> listed, std::span<KnownFi
     }
     for (std::size_t i = 0; i < found.size(); ++i)
     {
-        if (auto const & each = found[i]; !ofFound[i]->isListed)
+        if (KnownFile const & each = found[i]; !ofFound[i]->isListed)
         {
             changes.come.push_back(each.file);
             if (IsKnown(each.facts))

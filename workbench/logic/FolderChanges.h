@@ -1,13 +1,13 @@
 #pragma once
 // What has become of the files of folders since they were listed.
 
-#include "logic/FileFacts.h"
-
 #include <cstddef>
 #include <filesystem>
 #include <span>
 #include <utility>
 #include <vector>
+
+#include "logic/FileFacts.h"
 
 namespace workbench
 {

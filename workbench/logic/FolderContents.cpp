@@ -19,12 +19,12 @@ void AddSteps(std::vector<FolderStep> & steps, Paths const & before, Paths const
 {
     using Text = std::filesystem::path::string_type;
     std::unordered_set<Text> present;
-    for (auto const & path : after)
+    for (std::filesystem::path const & path : after)
     {
         present.insert(path.native());
     }
     std::unordered_set<Text> former;
-    for (auto const & path : before)
+    for (std::filesystem::path const & path : before)
     {
         former.insert(path.native());
         if (!present.contains(path.native()))

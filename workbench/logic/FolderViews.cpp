@@ -30,8 +30,8 @@ std::optional<std::vector<std::uint64_t>> NumbersIn(std::wstring_view text)
 {
     constexpr auto most = std::numeric_limits<std::uint64_t>::max();
     std::vector<std::uint64_t> numbers;
-    auto inNumber = false;
-    for (auto const character : text)
+    bool inNumber = false;
+    for (wchar_t const character : text)
     {
         if (character == L' ')
         {
@@ -47,7 +47,7 @@ std::optional<std::vector<std::uint64_t>> NumbersIn(std::wstring_view text)
             numbers.push_back(0);
         }
         auto const digit = static_cast<std::uint64_t>(character - L'0');
-        auto & number = numbers.back();
+        std::size_t & number = numbers.back();
         if (number > (most - digit) / 10)
         {
             return std::nullopt;
@@ -68,7 +68,7 @@ std::wstring FolderViewText(FolderView const & view)
     }
     if (view.stretch)
     {
-        auto const & part = *view.stretch;
+        FolderView::Stretch const & part = *view.stretch;
         PutLine(text, stretch_key,
                 std::to_wstring(part.frames) + L' ' + std::to_wstring(part.first) + L' ' + std::to_wstring(part.end) +
                     L' ' + std::to_wstring(part.cursor));
@@ -77,11 +77,11 @@ std::wstring FolderViewText(FolderView const & view)
     {
         PutLine(text, chosen_key, view.chosen);
     }
-    for (auto const & name : view.selected)
+    for (std::wstring const & name : view.selected)
     {
         PutLine(text, selected_key, name);
     }
-    for (auto const & name : view.order)
+    for (std::wstring const & name : view.order)
     {
         PutLine(text, order_key, name);
     }
@@ -93,11 +93,11 @@ FolderView ReadFolderView(std::wstring_view text)
     FolderView view;
     while (!text.empty())
     {
-        auto const end = std::min(text.find(L'\n'), text.size());
-        auto line = text.substr(0, end);
+        std::size_t const end = std::min(text.find(L'\n'), text.size());
+        std::wstring_view line = text.substr(0, end);
         text.remove_prefix(std::min(end + 1, text.size()));
         auto const isFor = [&line](std::wstring_view key) {
-            auto const is = line.starts_with(key);
+            bool const is = line.starts_with(key);
             line.remove_prefix(is ? key.size() : 0);
             return is;
         };

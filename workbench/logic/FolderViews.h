@@ -1,8 +1,6 @@
 #pragma once
 // How the recordings of folders were shown last, kept in a file.
 
-#include "logic/NotesStore.h"
-
 #include <chrono>
 #include <cstdint>
 #include <filesystem>
@@ -10,6 +8,8 @@
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "logic/NotesStore.h"
 
 namespace workbench
 {

@@ -50,7 +50,7 @@ FrameRaster::FrameRaster(std::uint32_t sampleRate, std::uint64_t frames, std::ui
         return;
     }
     // Each row has a frame of its own.
-    auto const last = Scaled(frames - 1, 1'000'000, m_rate); // in microseconds
+    std::uint64_t const last = Scaled(frames - 1, 1'000'000, m_rate); // in microseconds
     m_microseconds = std::max({m_microseconds, (999'999 + m_rate) / m_rate, last / (most_rows - 1) + 1});
     m_rows = last / m_microseconds + 1;
 }
@@ -61,7 +61,7 @@ std::uint64_t FrameRaster::RowAt(std::uint64_t frame) const
     {
         return 0;
     }
-    auto const below = std::min(Scaled(frame, 1'000'000, m_rate) / m_microseconds, m_rows - 1);
+    std::size_t const below = std::min(Scaled(frame, 1'000'000, m_rate) / m_microseconds, m_rows - 1);
     auto const isNearer = [&](std::uint64_t row) {
         return row < m_rows && FrameOf(row) <= frame + (frame - FrameOf(below));
     };
@@ -92,8 +92,8 @@ FrameMeter::FrameMeter(std::uint32_t sampleRate, std::size_t channels, std::uint
 /// The first frame of a row's window.
 std::uint64_t FrameMeter::StartOf(std::uint64_t row) const
 {
-    auto const middle = m_raster.FrameOf(row);
-    auto const half = Window() / 2;
+    std::uint64_t const middle = m_raster.FrameOf(row);
+    std::size_t const half = Window() / 2;
     return std::min(middle - std::min<std::uint64_t>(middle, half),
                     m_frames - std::min<std::uint64_t>(m_frames, Window()));
 }
@@ -104,13 +104,13 @@ void FrameMeter::Add(std::span<double const> samples, std::vector<FrameMeasures>
         samples.size() / m_channels, m_frames - std::min(m_frames, m_first + m_lanes.front().size())));
     for (std::size_t lane = 0; lane < m_lanes.size(); ++lane)
     {
-        auto & values = m_lanes[lane];
+        std::vector<float> & values = m_lanes[lane];
         for (std::size_t frame = 0; frame < frames; ++frame)
         {
             values.push_back(static_cast<float>(samples[frame * m_channels + lane]));
         }
     }
-    auto const known = m_first + m_lanes.front().size();
+    std::size_t const known = m_first + m_lanes.front().size();
     if (m_frames >= Window())
     {
         while (m_nextRow + 1 < m_raster.Rows() && StartOf(m_nextRow + 1) + Window() <= known)
@@ -127,7 +127,7 @@ void FrameMeter::Finish(std::vector<FrameMeasures> & rows)
     m_frames = std::min(m_frames, m_first + m_lanes.front().size());
     while (m_nextRow < m_raster.Rows() && m_raster.FrameOf(m_nextRow) < m_frames)
     {
-        auto const both = m_nextRow + 1 < m_raster.Rows() && m_raster.FrameOf(m_nextRow + 1) < m_frames;
+        bool const both = m_nextRow + 1 < m_raster.Rows() && m_raster.FrameOf(m_nextRow + 1) < m_frames;
         Take(m_nextRow, both, rows);
         m_nextRow += both ? 2 : 1;
     }
@@ -137,15 +137,15 @@ void FrameMeter::Finish(std::vector<FrameMeasures> & rows)
 /// Lets go of frames that no row needs any more, also if the recording ends here.
 void FrameMeter::Forget()
 {
-    auto const size = m_lanes.front().size();
-    auto const known = m_first + size;
-    auto const keepFrom = std::min(m_nextRow < m_raster.Rows() ? StartOf(m_nextRow) : known,
-                                   known - std::min<std::uint64_t>(known, Window()));
+    std::size_t const size = m_lanes.front().size();
+    std::size_t const known = m_first + size;
+    std::size_t const keepFrom = std::min(m_nextRow < m_raster.Rows() ? StartOf(m_nextRow) : known,
+                                          known - std::min<std::uint64_t>(known, Window()));
     if (keepFrom < m_first + std::max(least_forgotten, Window()))
     {
         return;
     }
-    for (auto & values : m_lanes)
+    for (std::vector<float> & values : m_lanes)
     {
         values.erase(values.begin(), values.begin() + static_cast<std::ptrdiff_t>(keepFrom - m_first));
     }
@@ -156,9 +156,9 @@ void FrameMeter::Forget()
 /// mean of their squares in place of the RMS value.
 FrameMeasures FrameMeter::Weigh(std::uint64_t start, std::size_t lane, std::span<float> weighted) const
 {
-    auto const & values = m_lanes[lane];
+    std::vector<float> const & values = m_lanes[lane];
     auto const from = static_cast<std::size_t>(start - m_first);
-    auto const count = std::min(Window(), values.size() - from);
+    std::size_t const count = std::min(Window(), values.size() - from);
     float const * const samples = values.data() + from;
     Sums<float> peaks;
     Sums<double> sums;
@@ -167,13 +167,13 @@ FrameMeasures FrameMeter::Weigh(std::uint64_t start, std::size_t lane, std::span
     {
         for (std::size_t k = 0; k < Sums<float>::count; ++k)
         {
-            auto const sample = samples[i + k];
+            float const sample = samples[i + k];
             peaks[k] = std::max(peaks[k], std::abs(sample));
             sums[k] += static_cast<double>(sample);
             squares[k] += static_cast<double>(sample) * static_cast<double>(sample);
         }
     }
-    for (auto i = count - count % Sums<float>::count; i < count; ++i)
+    for (std::size_t i = count - count % Sums<float>::count; i < count; ++i)
     {
         peaks[0] = std::max(peaks[0], std::abs(samples[i]));
         sums[0] += static_cast<double>(samples[i]);
@@ -198,14 +198,14 @@ void FrameMeter::Take(std::uint64_t row, bool both, std::vector<FrameMeasures> &
 {
     std::array<FrameMeasures, 2> measured;
     std::array<double, 2> squares{};
-    auto const spectra = m_frames >= Window();
+    bool const spectra = m_frames >= Window();
     std::ranges::fill(m_firstPower, 0.0F);
     std::ranges::fill(m_secondPower, 0.0F);
     for (std::size_t lane = 0; lane < m_lanes.size(); ++lane)
     {
         for (std::size_t which = 0; which < (both ? 2u : 1u); ++which)
         {
-            auto const own = Weigh(StartOf(row + which), lane, which == 0 ? m_real : m_imaginary);
+            FrameMeasures const own = Weigh(StartOf(row + which), lane, which == 0 ? m_real : m_imaginary);
             measured[which].peak = std::max(measured[which].peak, own.peak);
             squares[which] += static_cast<double>(own.rms);
         }
@@ -230,7 +230,7 @@ void FrameMeter::Take(std::uint64_t row, bool both, std::vector<FrameMeasures> &
 /// Tells the spectra of both parts apart. All powers are four times as large, which does not matter.
 void FrameMeter::AddPowers(bool both)
 {
-    auto const half = Window() / 2;
+    std::size_t const half = Window() / 2;
     float const * const real = m_real.data();
     float const * const imaginary = m_imaginary.data();
     float const * const realBack = real + Window();
@@ -239,13 +239,13 @@ void FrameMeter::AddPowers(bool both)
     float * const second = m_secondPower.data();
     for (std::size_t i = 1; i < half; ++i)
     {
-        auto const x = real[i] + realBack[-static_cast<std::ptrdiff_t>(i)];
-        auto const y = imaginary[i] - imaginaryBack[-static_cast<std::ptrdiff_t>(i)];
+        float const x = real[i] + realBack[-static_cast<std::ptrdiff_t>(i)];
+        float const y = imaginary[i] - imaginaryBack[-static_cast<std::ptrdiff_t>(i)];
         first[i] += x * x + y * y;
     }
     for (std::size_t i = 1; both && i < half; ++i)
     {
-        auto const x = imaginary[i] + imaginaryBack[-static_cast<std::ptrdiff_t>(i)];
+        float const x = imaginary[i] + imaginaryBack[-static_cast<std::ptrdiff_t>(i)];
         auto const y = realBack[-static_cast<std::ptrdiff_t>(i)] - real[i];
         second[i] += x * x + y * y;
     }
@@ -268,7 +268,7 @@ void FrameMeter::Describe(FrameMeasures & row, std::span<float const> power) con
             greatest[k] = std::max(greatest[k], power[i + k]);
         }
     }
-    auto const sum = all.Total();
+    double const sum = all.Total();
     if (!(sum > 0.0) || !std::isfinite(sum))
     {
         return;
@@ -280,15 +280,15 @@ void FrameMeter::Describe(FrameMeasures & row, std::span<float const> power) con
     auto const before = strongest > 1 ? static_cast<double>(power[strongest - 1]) : 0.0;
     auto const after = strongest + 1 < power.size() ? static_cast<double>(power[strongest + 1]) : 0.0;
     auto const ratio = std::sqrt(std::max(before, after) / static_cast<double>(power[strongest]));
-    auto const beside = std::clamp((2.0 * ratio - 1.0) / (ratio + 1.0), 0.0, 0.5);
+    double const beside = std::clamp((2.0 * ratio - 1.0) / (ratio + 1.0), 0.0, 0.5);
     row.frequency =
         static_cast<float>((static_cast<double>(strongest) + (after >= before ? beside : -beside)) * entryWidth);
 }
 
 void FrameStore::Append(std::span<FrameMeasures const> rows)
 {
-    auto size = m_size.load(std::memory_order_relaxed);
-    for (auto const & row : rows)
+    std::size_t size = m_size.load(std::memory_order_relaxed);
+    for (FrameMeasures const & row : rows)
     {
         if (size >= FrameRaster::most_rows)
         {
@@ -318,7 +318,7 @@ FrameAnalyser::FrameAnalyser(std::unique_ptr<ByteSource> source, FrameSettings c
         return;
     }
     m_reader.emplace(std::move(std::get<WavReader>(opened)));
-    auto const & info = m_reader->Info();
+    RecordingInfo const & info = m_reader->Info();
     m_meter.emplace(info.sampleRate, info.channels, info.frames, settings);
     m_samples.resize(frames_per_step * std::max<std::size_t>(info.channels, 1));
 }
@@ -329,7 +329,7 @@ bool FrameAnalyser::Step(std::vector<FrameMeasures> & rows)
     {
         return false;
     }
-    auto const frames = m_reader->ReadFrames(m_samples);
+    std::size_t const frames = m_reader->ReadFrames(m_samples);
     m_framesRead += frames;
     if (frames == 0)
     {
@@ -342,7 +342,7 @@ bool FrameAnalyser::Step(std::vector<FrameMeasures> & rows)
 
 double FrameAnalyser::Progress() const
 {
-    auto const frames = Info().frames;
+    std::uint64_t const frames = Info().frames;
     return frames > 0 ? static_cast<double>(m_framesRead) / static_cast<double>(frames) : 1.0;
 }
 

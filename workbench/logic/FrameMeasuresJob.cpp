@@ -42,7 +42,7 @@ void FrameMeasuresJob::Run(OpenBytes const & open, FrameSettings const & setting
     auto result = std::make_shared<Result>();
     std::size_t told = 0;
     auto const tell = [&] {
-        if (auto const count = m_rows->Size() - told; count > 0)
+        if (std::size_t const count = m_rows->Size() - told; count > 0)
         {
             told += count;
             m_listener.appended(count);
@@ -56,7 +56,7 @@ void FrameMeasuresJob::Run(OpenBytes const & open, FrameSettings const & setting
         result->info = analyser.Info();
         std::vector<FrameMeasures> rows;
         Clock::time_point lastTold{};
-        for (auto goesOn = true; goesOn && !m_stop;)
+        for (bool goesOn = true; goesOn && !m_stop;)
         {
             rows.clear();
             goesOn = analyser.Step(rows);

@@ -16,7 +16,7 @@ namespace
 
 std::wstring_view Trimmed(std::wstring_view text)
 {
-    auto const first = text.find_first_not_of(L" \t");
+    std::size_t const first = text.find_first_not_of(L" \t");
     return first == std::wstring_view::npos ? std::wstring_view()
                                             : text.substr(first, text.find_last_not_of(L" \t") + 1 - first);
 }
@@ -28,19 +28,19 @@ std::optional<double> NumberOf(std::wstring_view text, wchar_t decimalSign)
     for (wchar_t const character : Trimmed(text))
     {
         // The sign that tables show is as good as the keyboard's.
-        auto const isMinus = character == L'\u2212';
+        bool const isMinus = character == L'\u2212';
         plain += character == decimalSign ? '.' : isMinus ? '-' : character < 0x80 ? static_cast<char>(character) : '?';
     }
     double number = 0.0;
     auto const [end, error] = std::from_chars(plain.data(), plain.data() + plain.size(), number);
-    auto const isAll = error == std::errc() && end == plain.data() + plain.size() && std::isfinite(number);
+    bool const isAll = error == std::errc() && end == plain.data() + plain.size() && std::isfinite(number);
     return isAll ? std::optional(number) : std::nullopt;
 }
 
 /// The number, or what stands in its place noted in the filter.
 double NumberIn(std::wstring_view text, wchar_t decimalSign, FrameFilter & filter)
 {
-    auto const number = NumberOf(text, decimalSign);
+    std::optional<double> const number = NumberOf(text, decimalSign);
     if (!number && !filter.noNumber)
     {
         filter.noNumber = Trimmed(text);
@@ -51,9 +51,9 @@ double NumberIn(std::wstring_view text, wchar_t decimalSign, FrameFilter & filte
 /// "> 3" and the like.
 TableFilter::RangePart ComparisonOf(std::wstring_view text, wchar_t decimalSign, FrameFilter & filter)
 {
-    auto const isGreater = text.front() == L'>';
-    auto const isEqual = text.size() > 1 && text[1] == L'=';
-    auto const number = NumberIn(text.substr(isEqual ? 2 : 1), decimalSign, filter);
+    bool const isGreater = text.front() == L'>';
+    bool const isEqual = text.size() > 1 && text[1] == L'=';
+    double const number = NumberIn(text.substr(isEqual ? 2 : 1), decimalSign, filter);
     TableFilter::RangePart range;
     (isGreater ? range.least : range.greatest) =
         isEqual ? number : std::nextafter(number, isGreater ? range.greatest : range.least);
@@ -63,8 +63,8 @@ TableFilter::RangePart ComparisonOf(std::wstring_view text, wchar_t decimalSign,
 /// "-20..-10", its ends in either order.
 TableFilter::RangePart RangeOf(std::wstring_view text, std::size_t dots, wchar_t decimalSign, FrameFilter & filter)
 {
-    auto const from = NumberIn(text.substr(0, dots), decimalSign, filter);
-    auto const to = NumberIn(text.substr(dots + 2), decimalSign, filter);
+    double const from = NumberIn(text.substr(0, dots), decimalSign, filter);
+    double const to = NumberIn(text.substr(dots + 2), decimalSign, filter);
     TableFilter::RangePart range;
     range.least = std::min(from, to);
     range.greatest = std::max(from, to);
@@ -101,7 +101,7 @@ bool FrameTable::Read(TableRow row, unsigned int column, TableValue & value) con
     {
         return false;
     }
-    auto const measures = m_rows->At(row);
+    FrameMeasures const measures = m_rows->At(row);
     switch (column)
     {
     case column_time:
@@ -135,13 +135,13 @@ bool FrameTable::Read(TableRow row, unsigned int column, TableValue & value) con
 FrameFilter ParseFrameFilter(std::wstring_view text, unsigned int column, wchar_t decimalSign)
 {
     FrameFilter filter;
-    auto const wanted = Trimmed(text);
+    std::wstring_view const wanted = Trimmed(text);
     if (wanted.empty())
     {
         return filter;
     }
-    auto const isComparison = wanted.front() == L'<' || wanted.front() == L'>';
-    auto const dots = wanted.find(L"..");
+    bool const isComparison = wanted.front() == L'<' || wanted.front() == L'>';
+    std::size_t const dots = wanted.find(L"..");
     if (!isComparison && dots == std::wstring_view::npos)
     {
         TableFilter::TextPart part;
@@ -150,7 +150,8 @@ FrameFilter ParseFrameFilter(std::wstring_view text, unsigned int column, wchar_
         filter.rows.texts.push_back(part);
         return filter;
     }
-    auto range = isComparison ? ComparisonOf(wanted, decimalSign, filter) : RangeOf(wanted, dots, decimalSign, filter);
+    TableFilter::RangePart range =
+        isComparison ? ComparisonOf(wanted, decimalSign, filter) : RangeOf(wanted, dots, decimalSign, filter);
     if (!filter.noNumber)
     {
         range.column = column;

@@ -9,7 +9,6 @@
 
 #include "list/table/TableOrder.h"
 #include "list/table/TableSource.h"
-
 #include "logic/FrameMeasures.h"
 
 namespace workbench

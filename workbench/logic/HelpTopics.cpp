@@ -1,5 +1,6 @@
 #include "logic/HelpTopics.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <iterator>
 
@@ -377,6 +378,17 @@ constexpr PlotKey plot_keys[][language_count] = {
     {{L"Space", L"Play or pause"}, {L"Leertaste", L"Abspielen oder anhalten"}, {L"Espacio", L"Reproducir o pausar"}},
 };
 
+/// Whether the tables above have something in each language: what they lack is null.
+consteval bool IsThereInAllLanguages()
+{
+    auto const hasTitle = [](HelpPage const & page) { return page.title != nullptr && page.text != nullptr; };
+    auto const hasAction = [](PlotKey const & key) { return key.key != nullptr && key.action != nullptr; };
+    return std::ranges::all_of(pages, [&](auto const & page) { return std::ranges::all_of(page, hasTitle); }) &&
+           std::ranges::all_of(plot_title, [](wchar_t const * title) { return title != nullptr; }) &&
+           std::ranges::all_of(plot_keys, [&](auto const & key) { return std::ranges::all_of(key, hasAction); });
+}
+static_assert(IsThereInAllLanguages(), "a language lacks a page of the help, or the keys of the plots");
+
 /// A menu's text without the mark of its access key and without the dots of a dialog.
 std::wstring Plain(std::wstring const & text)
 {
@@ -402,12 +414,12 @@ HelpPage HelpPageOf(HelpTopic topic, Language language)
 std::wstring KeysPage(std::vector<MenuTexts> const & menus, Language language)
 {
     std::wstring page;
-    for (auto const & menu : menus)
+    for (MenuTexts const & menu : menus)
     {
         std::wstring lines;
-        for (auto const & item : menu.items)
+        for (std::wstring const & item : menu.items)
         {
-            if (auto const tab = item.find(L'\t'); tab != std::wstring::npos)
+            if (std::size_t const tab = item.find(L'\t'); tab != std::wstring::npos)
             {
                 lines += item.substr(tab + 1) + L'\t' + Plain(item.substr(0, tab)) + L'\n';
             }

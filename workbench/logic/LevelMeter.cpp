@@ -14,7 +14,7 @@ double AmplitudeToDecibels(double amplitude)
 
 int LevelBarPercent(double decibels)
 {
-    auto const part = 1.0 - std::clamp(decibels, level_bar_least, 0.0) / level_bar_least;
+    double const part = 1.0 - std::clamp(decibels, level_bar_least, 0.0) / level_bar_least;
     return static_cast<int>(std::lround(part * 100.0));
 }
 
@@ -22,7 +22,7 @@ void LevelMeter::Add(std::span<double const> samples)
 {
     // A sum of its own for each call keeps the rounding small in long recordings.
     double sum = 0.0;
-    for (auto const sample : samples)
+    for (double const sample : samples)
     {
         m_peak = std::max(m_peak, std::abs(sample));
         sum += sample * sample;

@@ -12,7 +12,7 @@ std::vector<int> MovedLines(std::span<int const> order, std::span<int const> see
     std::unordered_set<int> const goes(moved.begin(), moved.end());
     std::vector<int> together;
     std::vector<int> rest;
-    for (auto const line : order)
+    for (int const line : order)
     {
         (goes.contains(line) ? together : rest).push_back(line);
     }
@@ -39,7 +39,7 @@ std::size_t PlaceOneUp(std::span<int const> seen, std::span<int const> moved)
 std::size_t PlaceOneDown(std::span<int const> seen, std::span<int const> moved)
 {
     std::unordered_set<int> const goes(moved.begin(), moved.end());
-    auto behind = seen.size();
+    std::size_t behind = seen.size();
     while (behind > 0 && !goes.contains(seen[behind - 1]))
     {
         --behind;

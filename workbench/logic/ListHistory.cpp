@@ -12,7 +12,7 @@ namespace
 /// The step that leads back.
 ListStep Reversed(ListStep step)
 {
-    for (auto & change : step.notes)
+    for (NotesChange & change : step.notes)
     {
         std::swap(change.before, change.after);
     }
@@ -57,7 +57,7 @@ void ListHistory::NoteOrder(ListOrder before, ListOrder after)
 
 void ListHistory::EndStep()
 {
-    auto step = std::exchange(m_open, {});
+    ListStep step = std::exchange(m_open, {});
     m_openLines.clear();
     std::erase_if(step.notes, [](NotesChange const & change) { return change.before == change.after; });
     if (step.order && step.order->before == step.order->after)
@@ -86,17 +86,17 @@ void ListHistory::Clear()
 void ListHistory::Renumber(ListStep & step, std::vector<int> const & numbers)
 {
     auto const numberOf = [&numbers](int line) {
-        auto const isLine = line >= 0 && static_cast<std::size_t>(line) < numbers.size();
+        bool const isLine = line >= 0 && static_cast<std::size_t>(line) < numbers.size();
         return isLine ? numbers[static_cast<std::size_t>(line)] : -1;
     };
-    for (auto & change : step.notes)
+    for (NotesChange & change : step.notes)
     {
         change.line = numberOf(change.line);
     }
     std::erase_if(step.notes, [](NotesChange const & change) { return change.line < 0; });
     if (step.order)
     {
-        for (auto * const lines : {&step.order->before.lines, &step.order->after.lines})
+        for (std::vector<int> * const lines : {&step.order->before.lines, &step.order->after.lines})
         {
             std::ranges::transform(*lines, lines->begin(), numberOf);
             std::erase_if(*lines, [](int line) { return line < 0; });
@@ -112,16 +112,16 @@ void ListHistory::Renumber(std::vector<int> const & numbers)
 {
     EndStep();
     m_size = 0;
-    for (auto & step : m_done)
+    for (ListStep & step : m_done)
     {
         Renumber(step, numbers);
         m_size += SizeOf(step);
     }
-    for (auto & step : m_undone)
+    for (ListStep & step : m_undone)
     {
         Renumber(step, numbers);
     }
-    auto const sizeBefore = m_done.size();
+    std::size_t const sizeBefore = m_done.size();
     std::erase_if(m_done, [](ListStep const & step) { return step.IsEmpty(); });
     m_size -= sizeBefore - m_done.size(); // an empty one counts 1
     std::erase_if(m_undone, [](ListStep const & step) { return step.IsEmpty(); });
@@ -134,7 +134,7 @@ std::optional<ListStep> ListHistory::Undo()
     {
         return std::nullopt;
     }
-    auto step = std::move(m_done.back());
+    ListStep step = std::move(m_done.back());
     m_done.pop_back();
     m_size -= SizeOf(step);
     m_undone.push_back(step);
@@ -148,7 +148,7 @@ std::optional<ListStep> ListHistory::Redo()
     {
         return std::nullopt;
     }
-    auto step = std::move(m_undone.back());
+    ListStep step = std::move(m_undone.back());
     m_undone.pop_back();
     m_size += SizeOf(step);
     m_done.push_back(step);

@@ -1,13 +1,13 @@
 #pragma once
 // What the user has done to the list of recordings, to be undone and done again.
 
-#include "logic/RecordingNotes.h"
-
 #include <cstddef>
 #include <deque>
 #include <optional>
 #include <unordered_map>
 #include <vector>
+
+#include "logic/RecordingNotes.h"
 
 namespace workbench
 {

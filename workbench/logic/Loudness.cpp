@@ -90,7 +90,7 @@ void LoudnessMeter::Add(std::span<double const> samples)
     }
     std::size_t const channels = m_channels.size();
     std::size_t frames = samples.size() / channels;
-    auto const * from = samples.data();
+    double const * from = samples.data();
     auto const [head, pass] = m_filters;
     while (frames > 0)
     {

@@ -34,8 +34,8 @@ CSize LeastMainArea(MainLayoutNeeds const & needs, int listWidth)
 
 CSize LeastListPane(MainLayoutNeeds const & needs)
 {
-    auto const width = needs.client.cx - 2 * needs.marginX - needs.framesWidth;
-    auto const height = needs.client.cy - 2 * needs.marginY - needs.spacing - needs.statusHeight - needs.panelHeight -
+    long const width = needs.client.cx - 2 * needs.marginX - needs.framesWidth;
+    long const height = needs.client.cy - 2 * needs.marginY - needs.spacing - needs.statusHeight - needs.panelHeight -
                         needs.captionHeight - needs.dividerGap;
     return CSize(std::clamp<int>(width / 2, 0, needs.leastBeside),
                  std::clamp<int>(height / 2, 0, needs.captionHeight + needs.listHeight * kept_list_part / whole));
@@ -44,16 +44,16 @@ CSize LeastListPane(MainLayoutNeeds const & needs)
 MainLayout LayOutMain(MainLayoutNeeds const & needs)
 {
     MainLayout layout;
-    auto const left = needs.marginX;
+    int const left = needs.marginX;
     auto const right = std::max<int>(needs.client.cx - needs.marginX, left);
     auto const statusBottom = std::max<int>(needs.client.cy - needs.marginY, 0);
-    auto const statusTop = std::max(statusBottom - needs.statusHeight, 0);
-    auto const top = needs.marginY;
-    auto const bottom = std::max(statusTop - needs.spacing, top);
+    int const statusTop = std::max(statusBottom - needs.statusHeight, 0);
+    int const top = needs.marginY;
+    int const bottom = std::max(statusTop - needs.spacing, top);
     layout.status = CRect(left, statusTop, right, statusBottom);
     layout.border = CRect(left, top, needs.client.cx - right, needs.client.cy - bottom);
-    auto const most = right - left - needs.dividerGap - needs.leastBeside;
-    auto const width = std::min(needs.framesWidth, std::max(most, 0));
+    int const most = right - left - needs.dividerGap - needs.leastBeside;
+    int const width = std::min(needs.framesWidth, std::max(most, 0));
     if (width > 0)
     {
         layout.frames = CRect(right - width, top, right, bottom);
@@ -65,7 +65,7 @@ MainLayout LayOutMain(MainLayoutNeeds const & needs)
 
 PaneHeights DefaultPanes(MainLayoutNeeds const & needs)
 {
-    auto const growth = needs.client.cy - LeastMainArea(needs, 0).cy;
+    long const growth = needs.client.cy - LeastMainArea(needs, 0).cy;
     PaneHeights heights;
     heights.measures = needs.panelHeight + needs.captionHeight;
     if (growth < 0)

@@ -41,9 +41,9 @@ NotesStore::NotesStore(std::filesystem::path file, std::function<void()> notify,
       m_notify(std::move(notify)),
       m_delay(delay)
 {
-    if (auto const text = ReadWholeFile(m_file))
+    if (std::optional<std::string> const text = ReadWholeFile(m_file))
     {
-        auto reading = ReadNotes(*text);
+        NotesReading reading = ReadNotes(*text);
         m_notes = std::move(reading.notes);
         m_repair = reading.damaged;
     }
@@ -62,7 +62,7 @@ NotesStore::~NotesStore()
 
 RecordingNotes NotesStore::Of(std::filesystem::path const & recording) const
 {
-    auto const key = NotesKey(NotesPath(recording));
+    std::wstring const key = NotesKey(NotesPath(recording));
     std::lock_guard const lock(m_mutex);
     auto const found = m_notes.find(key);
     return found != m_notes.end() ? found->second.notes : RecordingNotes();
@@ -70,8 +70,8 @@ RecordingNotes NotesStore::Of(std::filesystem::path const & recording) const
 
 void NotesStore::Set(std::filesystem::path const & recording, RecordingNotes const & notes)
 {
-    auto path = NotesPath(recording);
-    auto const key = NotesKey(path);
+    std::wstring path = NotesPath(recording);
+    std::wstring const key = NotesKey(path);
     {
         std::lock_guard const lock(m_mutex);
         auto const found = m_notes.find(key);
@@ -95,7 +95,7 @@ bool NotesStore::Flush()
     {
         return true;
     }
-    auto const before = m_attempts;
+    int const before = m_attempts;
     m_hurry = true;
     m_wake.notify_all();
     m_done.wait(lock, [this, before] { return m_attempts != before; });
@@ -105,12 +105,12 @@ bool NotesStore::Flush()
 void NotesStore::Refresh()
 {
     Flush();
-    auto const text = ReadWholeFile(m_file);
+    std::optional<std::string> const text = ReadWholeFile(m_file);
     if (!text)
     {
         return;
     }
-    auto reading = ReadNotes(*text);
+    NotesReading reading = ReadNotes(*text);
     std::lock_guard const lock(m_mutex);
     m_notes = std::move(reading.notes);
     m_repair = reading.damaged;
@@ -154,7 +154,7 @@ void NotesStore::Run()
         m_hurry = false;
         m_writing = true;
         auto changes = std::exchange(m_changes, {});
-        auto const last = m_stop;
+        bool const last = m_stop;
         lock.unlock();
         std::optional<NotesByKey> stored;
         try
@@ -167,7 +167,7 @@ void NotesStore::Run()
         }
         lock.lock();
         m_writing = false;
-        auto const failed = !stored;
+        bool const failed = !stored;
         if (stored)
         {
             m_notes = std::move(*stored);
@@ -181,7 +181,7 @@ void NotesStore::Run()
             m_changes.merge(changes);
         }
         ++m_attempts;
-        auto const turned = std::exchange(m_failed, failed) != failed;
+        bool const turned = std::exchange(m_failed, failed) != failed;
         m_done.notify_all();
         if (failed && last)
         {
@@ -201,15 +201,15 @@ std::optional<NotesByKey> NotesStore::Merge(NotesByKey const & changes) const
 {
     std::error_code error;
     std::filesystem::create_directories(m_file.parent_path(), error);
-    auto lockFile = m_file;
+    std::filesystem::path lockFile = m_file;
     lockFile += ".lock";
     FileLock const lock(lockFile);
-    auto const text = lock.IsHeld() ? ReadWholeFile(m_file) : std::nullopt;
+    std::optional<std::string> const text = lock.IsHeld() ? ReadWholeFile(m_file) : std::nullopt;
     if (!text)
     {
         return std::nullopt;
     }
-    auto reading = ReadNotes(*text);
+    NotesReading reading = ReadNotes(*text);
     if (reading.damaged && !ReplaceWholeFile(DamagedName(m_file), *text))
     {
         return std::nullopt;

@@ -1,8 +1,6 @@
 #pragma once
 // Keeps what the user says about recordings in a file that several programs may share.
 
-#include "logic/RecordingNotes.h"
-
 #include <chrono>
 #include <condition_variable>
 #include <filesystem>
@@ -10,6 +8,8 @@
 #include <mutex>
 #include <optional>
 #include <thread>
+
+#include "logic/RecordingNotes.h"
 
 namespace workbench
 {

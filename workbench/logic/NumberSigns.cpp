@@ -40,7 +40,7 @@ std::wstring Grouped(std::wstring_view digits, NumberSigns const & signs)
 {
     std::wstring text;
     std::size_t group = 0;
-    auto left = digits.size();
+    std::size_t left = digits.size();
     while (group < signs.groups.size() && signs.groups[group] > 0 &&
            left > static_cast<std::size_t>(signs.groups[group]))
     {
@@ -77,7 +77,7 @@ std::size_t GroupingAt(std::wstring_view text, NumberSigns const & signs)
 /// Whether just the digits of a group follow, up to another sign or the end.
 bool GroupFollows(std::wstring_view text, NumberSigns const & signs)
 {
-    auto const digits = std::ranges::find_if_not(text, IsDigit) - text.begin();
+    long long const digits = std::ranges::find_if_not(text, IsDigit) - text.begin();
     return digits > 0 && std::ranges::find(signs.groups, static_cast<int>(digits)) != signs.groups.end();
 }
 
@@ -86,7 +86,7 @@ bool GroupFollows(std::wstring_view text, NumberSigns const & signs)
 std::vector<int> GroupsOf(std::wstring_view description)
 {
     std::vector<int> groups;
-    for (auto const character : description)
+    for (wchar_t const character : description)
     {
         if (IsDigit(character))
         {
@@ -118,21 +118,21 @@ NumberSigns PresentNumberSigns()
 
 std::wstring WithSigns(std::wstring_view plain, bool grouped)
 {
-    auto const shared = SignsInUse();
-    auto const & signs = *shared;
+    SharedSigns const shared = SignsInUse();
+    NumberSigns const & signs = *shared;
     std::wstring text;
     text.reserve(plain.size());
     for (std::size_t place = 0; place < plain.size();)
     {
-        auto const followsDigit = place > 0 && IsDigit(plain[place - 1]);
-        auto const digitFollows = place + 1 < plain.size() && IsDigit(plain[place + 1]);
-        auto const infinityFollows = place + 1 < plain.size() && plain[place + 1] == L'\u221E';
+        bool const followsDigit = place > 0 && IsDigit(plain[place - 1]);
+        bool const digitFollows = place + 1 < plain.size() && IsDigit(plain[place + 1]);
+        bool const infinityFollows = place + 1 < plain.size() && plain[place + 1] == L'\u221E';
         if (IsDigit(plain[place]))
         {
-            auto const rest = plain.substr(place);
-            auto const digits =
+            std::wstring_view const rest = plain.substr(place);
+            std::wstring_view const digits =
                 rest.substr(0, static_cast<std::size_t>(std::ranges::find_if_not(rest, IsDigit) - rest.begin()));
-            auto const isDecimals = place > 0 && plain[place - 1] == L'.';
+            bool const isDecimals = place > 0 && plain[place - 1] == L'.';
             if (grouped && !isDecimals)
             {
                 text += Grouped(digits, signs);
@@ -163,14 +163,14 @@ std::wstring WithSigns(std::wstring_view plain, bool grouped)
 
 std::wstring WithoutSigns(std::wstring_view text)
 {
-    auto const shared = SignsInUse();
-    auto const & signs = *shared;
+    SharedSigns const shared = SignsInUse();
+    NumberSigns const & signs = *shared;
     std::wstring plain;
     while (!text.empty())
     {
-        auto const followsDigit = !plain.empty() && IsDigit(plain.back());
+        bool const followsDigit = !plain.empty() && IsDigit(plain.back());
         auto const taken = [&text](std::wstring_view sign) {
-            auto const found = StartsWith(text, sign) && text.size() > sign.size() && IsDigit(text[sign.size()]);
+            bool const found = StartsWith(text, sign) && text.size() > sign.size() && IsDigit(text[sign.size()]);
             text.remove_prefix(found ? sign.size() : 0);
             return found;
         };
@@ -198,7 +198,7 @@ std::wstring WithoutSigns(std::wstring_view text)
 
 std::optional<double> ParseNumber(std::wstring_view typed)
 {
-    auto const signs = PresentNumberSigns();
+    NumberSigns const signs = PresentNumberSigns();
     while (!typed.empty() && IsBlank(typed.front()))
     {
         typed.remove_prefix(1);
@@ -208,7 +208,7 @@ std::optional<double> ParseNumber(std::wstring_view typed)
         typed.remove_suffix(1);
     }
     std::string plain;
-    for (auto const & minus : {signs.negative, std::wstring(L"-"), std::wstring(L"\u2212")})
+    for (std::wstring const & minus : {signs.negative, std::wstring(L"-"), std::wstring(L"\u2212")})
     {
         if (plain.empty() && StartsWith(typed, minus))
         {
@@ -216,19 +216,19 @@ std::optional<double> ParseNumber(std::wstring_view typed)
             typed.remove_prefix(minus.size());
         }
     }
-    auto hasPoint = false;
-    auto hasGroups = false;
+    bool hasPoint = false;
+    bool hasGroups = false;
     while (!typed.empty())
     {
-        auto const followsDigit = !plain.empty() && plain.back() >= '0' && plain.back() <= '9';
+        bool const followsDigit = !plain.empty() && plain.back() >= '0' && plain.back() <= '9';
         if (IsDigit(typed.front()))
         {
             plain += static_cast<char>(typed.front());
             typed.remove_prefix(1);
             continue;
         }
-        auto const decimal = StartsWith(typed, signs.decimal) ? signs.decimal.size() : 0;
-        auto const grouping = GroupingAt(typed, signs);
+        std::size_t const decimal = StartsWith(typed, signs.decimal) ? signs.decimal.size() : 0;
+        std::size_t const grouping = GroupingAt(typed, signs);
         if (grouping > 0 && followsDigit && !hasPoint && decimal == 0 && GroupFollows(typed.substr(grouping), signs) &&
             plain.find_first_not_of("-0") != std::string::npos)
         {
@@ -246,7 +246,7 @@ std::optional<double> ParseNumber(std::wstring_view typed)
         typed.remove_prefix(point);
     }
     double number = 0;
-    auto const * const end = plain.data() + plain.size();
+    char const * const end = plain.data() + plain.size();
     auto const [stop, error] = std::from_chars(plain.data(), end, number, std::chars_format::fixed);
     return error == std::errc() && stop == end ? std::optional(number) : std::nullopt;
 }

@@ -26,7 +26,7 @@ PlayStart Player::Play(std::unique_ptr<ByteSource> source, FrameRange const & st
     {
         return PlayStart::unreadable;
     }
-    auto device = m_makeDevice();
+    std::unique_ptr<AudioDevice> device = m_makeDevice();
     if (device == nullptr || !device->Open(stream->SampleRate(), stream->Channels()))
     {
         return PlayStart::no_device;

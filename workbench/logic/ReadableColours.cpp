@@ -26,7 +26,7 @@ constexpr double least_row_contrast = 1.7;
 
 double Linear(int component)
 {
-    auto const part = component / 255.0;
+    double const part = component / 255.0;
     return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
 }
 
@@ -35,7 +35,7 @@ template <class Fits> std::optional<COLORREF> FirstOnTheWay(COLORREF from, COLOR
 {
     for (int step = 0; step <= steps; ++step)
     {
-        if (auto const mixed = MixedColour(from, to, static_cast<double>(step) / steps); fits(mixed))
+        if (COLORREF const mixed = MixedColour(from, to, static_cast<double>(step) / steps); fits(mixed))
         {
             return mixed;
         }
@@ -71,7 +71,7 @@ COLORREF FarthestColour(COLORREF ground)
 
 COLORREF ReadableColour(COLORREF colour, COLORREF ground, double contrast)
 {
-    auto const farthest = FarthestColour(ground);
+    COLORREF const farthest = FarthestColour(ground);
     auto const fits = [=](COLORREF mixed) { return ContrastRatio(mixed, ground) >= contrast; };
     return FirstOnTheWay(colour, farthest, fits).value_or(farthest);
 }

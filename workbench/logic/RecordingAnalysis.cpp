@@ -1,10 +1,10 @@
 #include "logic/RecordingAnalysis.h"
 
-#include "logic/TextFormat.h"
-#include "logic/Texts.h"
-
 #include <algorithm>
 #include <utility>
+
+#include "logic/TextFormat.h"
+#include "logic/Texts.h"
 
 namespace workbench
 {
@@ -61,7 +61,7 @@ bool RecordingAnalyser::Step()
     {
         return false;
     }
-    auto const frames = m_reader->ReadFrames(m_samples);
+    std::size_t const frames = m_reader->ReadFrames(m_samples);
     auto const samples = std::span<double const>(m_samples).first(frames * m_reader->Info().channels);
     m_levels.Add(samples);
     m_loudness->Add(samples);

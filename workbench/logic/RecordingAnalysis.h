@@ -1,18 +1,18 @@
 #pragma once
 // Everything the workbench knows about one recording, and the reading of it in small steps.
 
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
 #include "logic/FileFacts.h"
 #include "logic/LevelMeter.h"
 #include "logic/Loudness.h"
 #include "logic/ToneMeter.h"
 #include "logic/Waveform.h"
 #include "logic/WavReader.h"
-
-#include <filesystem>
-#include <memory>
-#include <optional>
-#include <string>
-#include <vector>
 
 namespace workbench
 {

@@ -31,7 +31,7 @@ std::vector<DetailLine> DescribeRecording(std::filesystem::path const & path, Re
     lines.push_back({Text(L"Folder"), path.parent_path().wstring()});
     if (analysis.file.size)
     {
-        auto const bytes = *analysis.file.size;
+        std::size_t const bytes = *analysis.file.size;
         lines.push_back({Text(L"Size"), FormatThousands(bytes) + L' ' + (bytes == 1 ? Text(L"byte") : Text(L"bytes"))});
     }
     if (!date.empty())
@@ -40,7 +40,7 @@ std::vector<DetailLine> DescribeRecording(std::filesystem::path const & path, Re
     }
     if (!analysis.problem)
     {
-        auto const & info = analysis.info;
+        RecordingInfo const & info = analysis.info;
         lines.push_back({Text(L"Format"), FormatCoding(info)});
         lines.push_back({Text(L"Channels"), std::to_wstring(info.channels)});
         lines.push_back({Text(L"Sample rate"), FormatSampleRate(info.sampleRate)});

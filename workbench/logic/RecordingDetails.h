@@ -1,11 +1,11 @@
 #pragma once
 // Everything about one recording as lines of text.
 
-#include "logic/RecordingAnalysis.h"
-
 #include <filesystem>
 #include <string>
 #include <vector>
+
+#include "logic/RecordingAnalysis.h"
 
 namespace workbench
 {

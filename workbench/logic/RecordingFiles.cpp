@@ -18,7 +18,7 @@ using NativeText = std::filesystem::path::string_type;
 /// valid text in any other.
 NativeText LowerCase(NativeText text)
 {
-    for (auto & c : text)
+    for (NativeText::value_type & c : text)
     {
         if (c >= 'A' && c <= 'Z')
         {
@@ -60,9 +60,9 @@ void SortByName(std::vector<std::filesystem::path> & paths)
     };
     std::vector<Named> named;
     named.reserve(paths.size());
-    for (auto & path : paths)
+    for (std::filesystem::path & path : paths)
     {
-        auto key = LowerCase(path.filename().native());
+        NativeText key = LowerCase(path.filename().native());
         named.push_back({std::move(key), std::move(path)});
     }
     std::ranges::sort(named, [](Named const & a, Named const & b) {
@@ -81,14 +81,14 @@ FoundRecordings FindRecordings(std::span<std::filesystem::path const> targets, s
 {
     FoundRecordings result;
     std::unordered_set<NativeText> seen;
-    for (auto const & target : targets)
+    for (std::filesystem::path const & target : targets)
     {
         std::error_code error;
         std::vector<std::filesystem::path> files;
-        auto const kind = std::filesystem::status(target, error).type();
+        std::filesystem::file_type const kind = std::filesystem::status(target, error).type();
         if (kind == std::filesystem::file_type::directory)
         {
-            auto const read = RecordingsInFolder(target, giveUp, files);
+            bool const read = RecordingsInFolder(target, giveUp, files);
             (read ? result.folders : result.missing).push_back(target);
         }
         else if (kind == std::filesystem::file_type::not_found && !HasRecordingExtension(target))
@@ -99,7 +99,7 @@ FoundRecordings FindRecordings(std::span<std::filesystem::path const> targets, s
         {
             files.push_back(target);
         }
-        for (auto & file : files)
+        for (std::filesystem::path & file : files)
         {
             if (seen.insert(file.native()).second)
             {

@@ -1,12 +1,12 @@
 #pragma once
 // Finds the recordings that a list of folders and files stands for.
 
-#include "logic/FileFacts.h"
-
 #include <filesystem>
 #include <functional>
 #include <span>
 #include <vector>
+
+#include "logic/FileFacts.h"
 
 namespace workbench
 {

@@ -66,7 +66,7 @@ std::wstring SearchedText(std::filesystem::path const & file, std::wstring_view 
 
 FilterMatch::FilterMatch(RecordingFilter filter) : m_filter(std::move(filter))
 {
-    auto const text = FoldedText(m_filter.words);
+    std::wstring const text = FoldedText(m_filter.words);
     for (auto begin = text.begin(); begin != text.end();)
     {
         begin = std::find_if_not(begin, text.end(), IsBlank);
@@ -102,12 +102,12 @@ std::wstring NaturalText(std::wstring_view text)
         {
             ++i;
         }
-        auto const begin = i;
+        std::size_t const begin = i;
         while (i < text.size() && IsDigit(text[i]))
         {
             ++i;
         }
-        auto const digits = std::min(i - begin, most_digits);
+        std::size_t const digits = std::min(i - begin, most_digits);
         natural += static_cast<wchar_t>(L'0' + std::min(digits, first_long_number));
         if (digits >= first_long_number)
         {

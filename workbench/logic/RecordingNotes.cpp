@@ -113,12 +113,12 @@ std::optional<char32_t> TakeCodePoint(std::string_view & text)
         return std::nullopt;
     }
     auto const lead = static_cast<unsigned char>(text.front());
-    auto const length = lead < 0x80   ? 1U
-                        : lead < 0xC2 ? 0U
-                        : lead < 0xE0 ? 2U
-                        : lead < 0xF0 ? 3U
-                        : lead < 0xF5 ? 4U
-                                      : 0U;
+    unsigned int const length = lead < 0x80   ? 1U
+                                : lead < 0xC2 ? 0U
+                                : lead < 0xE0 ? 2U
+                                : lead < 0xF0 ? 3U
+                                : lead < 0xF5 ? 4U
+                                              : 0U;
     if (length == 0 || text.size() < length)
     {
         return std::nullopt;
@@ -149,7 +149,7 @@ std::optional<std::wstring> Unescaped(std::string_view text)
     wide.reserve(text.size());
     while (!text.empty())
     {
-        auto code = TakeCodePoint(text);
+        std::optional<char32_t> code = TakeCodePoint(text);
         if (code == U'\\')
         {
             code = TakeCodePoint(text);
@@ -171,7 +171,7 @@ std::optional<std::wstring> Unescaped(std::string_view text)
 std::uint32_t CheckSum(std::string_view text)
 {
     std::uint32_t sum = 2166136261U;
-    for (auto const c : text)
+    for (char const c : text)
     {
         sum = (sum ^ static_cast<unsigned char>(c)) * 16777619U;
     }
@@ -181,8 +181,8 @@ std::uint32_t CheckSum(std::string_view text)
 /// The text up to the next separator, which it is taken from with it.
 std::string_view TakeField(std::string_view & text)
 {
-    auto const end = std::min(text.find(field_separator), text.size());
-    auto const field = text.substr(0, end);
+    std::size_t const end = std::min(text.find(field_separator), text.size());
+    std::string_view const field = text.substr(0, end);
     text.remove_prefix(std::min(end + 1, text.size()));
     return field;
 }
@@ -196,16 +196,16 @@ template <typename Number> std::optional<Number> ReadNumber(std::string_view tex
 
 std::optional<NotedRecording> ReadLine(std::string_view line)
 {
-    auto const sum = TakeField(line);
+    std::string_view const sum = TakeField(line);
     if (sum.size() != sum_length || ReadNumber<std::uint32_t>(sum, 16) != CheckSum(line))
     {
         return std::nullopt;
     }
-    auto const marks = TakeField(line);
+    std::string_view const marks = TakeField(line);
     auto const has = [marks](char mark) { return marks.find(mark) != marks.npos; };
     auto const rating = ReadNumber<int>(TakeField(line), 10);
-    auto path = Unescaped(TakeField(line));
-    auto comment = Unescaped(line);
+    std::optional<std::wstring> path = Unescaped(TakeField(line));
+    std::optional<std::wstring> comment = Unescaped(line);
     if (!rating || *rating < 0 || *rating > most_rating || !path || path->empty() || !comment)
     {
         return std::nullopt;
@@ -215,7 +215,7 @@ std::optional<NotedRecording> ReadLine(std::string_view line)
 
 void PutLine(std::string & text, NotedRecording const & recording)
 {
-    auto const begin = text.size();
+    std::size_t const begin = text.size();
     text.append(sum_length, '0');
     text += field_separator;
     text += recording.notes.checked ? "m" : "";
@@ -226,7 +226,7 @@ void PutLine(std::string & text, NotedRecording const & recording)
     PutUtf8(text, recording.path);
     text += field_separator;
     PutUtf8(text, recording.notes.comment);
-    auto const sum = CheckSum(std::string_view(text).substr(begin + sum_length + 1));
+    std::uint32_t const sum = CheckSum(std::string_view(text).substr(begin + sum_length + 1));
     for (std::size_t i = 0; i < sum_length; ++i)
     {
         text[begin + i] = "0123456789abcdef"[sum >> (4 * (sum_length - 1 - i)) & 0xF];
@@ -238,8 +238,8 @@ void PutLine(std::string & text, NotedRecording const & recording)
 bool IsNormal(std::filesystem::path const & path)
 {
     using Char = std::filesystem::path::value_type;
-    auto const & text = path.native();
-    constexpr auto separator = std::filesystem::path::preferred_separator;
+    std::filesystem::path::string_type const & text = path.native();
+    constexpr wchar_t separator = std::filesystem::path::preferred_separator;
     for (std::size_t i = 0; i < text.size(); ++i)
     {
         if (text[i] == Char('/') && separator != Char('/'))
@@ -247,7 +247,7 @@ bool IsNormal(std::filesystem::path const & path)
             return false;
         }
         // The names of servers begin with two.
-        auto const server = i == 1 && text[i] == separator && separator != Char('/');
+        bool const server = i == 1 && text[i] == separator && separator != Char('/');
         if (i > 0 && text[i - 1] == separator && !server && (text[i] == separator || text[i] == Char('.')))
         {
             return false;
@@ -288,7 +288,7 @@ std::wstring NotesPath(std::filesystem::path const & recording)
         return WideText(recording);
     }
     std::error_code error;
-    auto path = recording.is_absolute() ? recording : std::filesystem::absolute(recording, error);
+    std::filesystem::path path = recording.is_absolute() ? recording : std::filesystem::absolute(recording, error);
     if (error)
     {
         path = recording;
@@ -298,8 +298,8 @@ std::wstring NotesPath(std::filesystem::path const & recording)
 
 std::wstring NotesKey(std::wstring path)
 {
-    auto plain = true;
-    for (auto & c : path)
+    bool plain = true;
+    for (wchar_t & c : path)
     {
         if (c >= L'a' && c <= L'z')
         {
@@ -369,10 +369,10 @@ NotesReading ReadNotes(std::string_view text)
     {
         return reading;
     }
-    for (auto first = true; !text.empty(); first = false)
+    for (bool first = true; !text.empty(); first = false)
     {
-        auto const end = std::min(text.find('\n'), text.size());
-        auto line = text.substr(0, end);
+        std::size_t const end = std::min(text.find('\n'), text.size());
+        std::string_view line = text.substr(0, end);
         text.remove_prefix(std::min(end + 1, text.size()));
         if (line.ends_with('\r'))
         {
@@ -382,9 +382,9 @@ NotesReading ReadNotes(std::string_view text)
         {
             continue;
         }
-        if (auto recording = ReadLine(line))
+        if (std::optional<NotedRecording> recording = ReadLine(line))
         {
-            auto const key = NotesKey(recording->path);
+            std::wstring const key = NotesKey(recording->path);
             PutNotes(reading.notes, key, std::move(*recording));
             reading.damaged = reading.damaged || first;
         }

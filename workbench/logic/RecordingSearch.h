@@ -1,14 +1,14 @@
 #pragma once
 // Finds recordings on a thread of its own, so that windows stay alive meanwhile.
 
-#include "logic/RecordingFiles.h"
-
 #include <atomic>
 #include <filesystem>
 #include <functional>
 #include <optional>
 #include <thread>
 #include <vector>
+
+#include "logic/RecordingFiles.h"
 
 namespace workbench
 {

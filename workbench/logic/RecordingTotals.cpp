@@ -43,7 +43,7 @@ void RecordingTotals::SetState(std::size_t line, State state, std::uint64_t mill
     {
         return;
     }
-    auto & changed = m_lines[line];
+    Line & changed = m_lines[line];
     Count(changed, false);
     changed.state = state;
     changed.milliseconds = milliseconds;
@@ -57,7 +57,7 @@ void RecordingTotals::SetChecked(std::size_t line, bool checked)
     {
         return;
     }
-    auto & changed = m_lines[line];
+    Line & changed = m_lines[line];
     Count(changed, false);
     changed.checked = checked;
     Count(changed, true);

@@ -4,9 +4,9 @@
 #include <cstddef>
 #include <utility>
 
-#include "logic/TableText.h"
 #include "logic/TextFormat.h"
 #include "logic/Texts.h"
+#include "logic/TextTable.h"
 
 namespace workbench
 {
@@ -43,7 +43,7 @@ std::string Ascii(std::wstring_view text)
 {
     std::string ascii;
     ascii.reserve(text.size());
-    for (auto const character : text)
+    for (wchar_t const character : text)
     {
         ascii += static_cast<char>(character);
     }
@@ -64,14 +64,14 @@ TextTable OverviewOf(std::span<ReportedRecording const> recordings)
                      {Text(L"Crest (dB)"), true},     {Text(L"Loudness (LUFS)"), true}, {Text(L"Frequency (Hz)"), true},
                      {Text(L"Distortion (%)"), true}, {Text(L"Rating"), false},         {Text(L"Comment"), false},
                      {Text(L"Status"), false}};
-    for (auto const & recording : recordings)
+    for (ReportedRecording const & recording : recordings)
     {
-        auto & row = table.rows.emplace_back(table.columns.size());
+        std::vector<std::wstring> & row = table.rows.emplace_back(table.columns.size());
         row.front() = recording.file.filename().wstring();
         auto const & analysis = recording.analysis;
         if (analysis && !analysis->problem)
         {
-            auto const & info = analysis->info;
+            RecordingInfo const & info = analysis->info;
             row = {row.front(),
                    FormatDuration(info.frames, info.sampleRate),
                    std::to_wstring(info.channels),
@@ -108,9 +108,9 @@ std::wstring FoldersOf(std::span<ReportedRecording const> recordings)
 {
     std::vector<std::filesystem::path> folders;
     std::wstring text;
-    for (auto const & recording : recordings)
+    for (ReportedRecording const & recording : recordings)
     {
-        auto const folder = recording.file.parent_path();
+        std::filesystem::path const folder = recording.file.parent_path();
         if (std::ranges::find(folders, folder) != folders.end())
         {
             continue;
@@ -125,7 +125,7 @@ std::wstring FoldersOf(std::span<ReportedRecording const> recordings)
 
 std::string ReportBegin(ReportHead const & head, std::span<ReportedRecording const> recordings)
 {
-    auto const & title = head.title;
+    std::wstring const & title = head.title;
     auto page = "<!DOCTYPE html>\r\n<html lang=" + Ascii(HtmlValue(head.language)) + ">\r\n<head>\r\n";
     page += "<meta charset=\"utf-8\">\r\n"
             "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\r\n";
@@ -160,8 +160,8 @@ std::string ReportSection(ReportedRecording const & recording, std::span<ReportP
     {
         html += LabelledLines(lines);
     }
-    auto page = Ascii(html);
-    for (auto const & picture : pictures)
+    std::string page = Ascii(html);
+    for (ReportPicture const & picture : pictures)
     {
         if (!picture.png.empty())
         {
@@ -182,7 +182,7 @@ std::string ReportEnd()
 std::wstring ReportFileName(std::filesystem::path const & folder, int year, int month, int day)
 {
     auto const digits = [](int number, std::size_t count) {
-        auto const text = std::to_wstring(number);
+        std::wstring const text = std::to_wstring(number);
         return std::wstring(count > text.size() ? count - text.size() : 0, L'0') + text;
     };
     auto const name = folder.filename().wstring();
@@ -201,7 +201,7 @@ std::string Base64(std::string_view bytes)
     };
     for (std::size_t place = 0; place < bytes.size(); place += 3)
     {
-        auto const group = at(place) << 16 | at(place + 1) << 8 | at(place + 2);
+        unsigned int const group = at(place) << 16 | at(place + 1) << 8 | at(place + 2);
         text += digits[group >> 18];
         text += digits[group >> 12 & digit_mask];
         text += place + 1 < bytes.size() ? digits[group >> 6 & digit_mask] : '=';

@@ -1,10 +1,6 @@
 #pragma once
 // A report about recordings as one web page, which has its pictures in it.
 
-#include "logic/RecordingAnalysis.h"
-#include "logic/RecordingDetails.h"
-#include "logic/RecordingNotes.h"
-
 #include <cstdint>
 #include <filesystem>
 #include <memory>
@@ -12,6 +8,10 @@
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "logic/RecordingAnalysis.h"
+#include "logic/RecordingDetails.h"
+#include "logic/RecordingNotes.h"
 
 namespace workbench
 {

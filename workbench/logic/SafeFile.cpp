@@ -11,9 +11,9 @@
 #include <utility>
 
 #ifdef _WIN32
+#include <windows.h>
 #include <io.h>
 #include <stdlib.h>
-#include <windows.h>
 #else
 #include <fcntl.h>
 #include <sys/file.h>
@@ -112,7 +112,7 @@ bool Commit(std::FILE * file)
 std::optional<std::string> ReadWholeFile(std::filesystem::path const & file)
 {
     std::error_code error;
-    auto const status = std::filesystem::status(file, error);
+    std::filesystem::file_status const status = std::filesystem::status(file, error);
     if (status.type() == std::filesystem::file_type::not_found)
     {
         return std::string();
@@ -135,7 +135,7 @@ std::optional<std::string> ReadWholeFile(std::filesystem::path const & file)
 bool ReplaceWholeFile(std::filesystem::path const & file, std::string_view contents, unsigned long * error)
 {
     FileDraft draft(file);
-    auto const written = draft.Append(contents) && draft.Finish();
+    bool const written = draft.Append(contents) && draft.Finish();
     if (error != nullptr)
     {
         *error = draft.Error();
@@ -149,7 +149,7 @@ unsigned long WriteObstacle(std::filesystem::path const & file, std::uintmax_t b
     {
         return 0;
     }
-    auto probe = file;
+    std::filesystem::path probe = file;
     probe += ".probe";
     FileDraft draft(probe);
     if (!draft.Append(std::string(probe_length, '\0')))
@@ -157,7 +157,7 @@ unsigned long WriteObstacle(std::filesystem::path const & file, std::uintmax_t b
         return draft.Error();
     }
     std::error_code error;
-    auto const space = std::filesystem::space(file.parent_path(), error);
+    std::filesystem::space_info const space = std::filesystem::space(file.parent_path(), error);
     return !error && space.available < bytes ? error_disk_full : 0;
 }
 
@@ -214,7 +214,7 @@ bool FileDraft::Finish()
         std::filesystem::remove(m_draft, error);
         return false;
     }
-    auto const moved = Retry(move_tries, [&] {
+    bool const moved = Retry(move_tries, [&] {
         std::filesystem::rename(m_draft, m_file, error);
         return !error || error == std::errc::is_a_directory || error == std::errc::no_such_file_or_directory;
     });
@@ -235,7 +235,7 @@ FileLock::FileLock(std::filesystem::path const & file) : m_handle(INVALID_HANDLE
     Retry(lock_tries, [&] {
         m_handle = ::CreateFileW(file.c_str(), GENERIC_WRITE, 0, nullptr, OPEN_ALWAYS,
                                  FILE_ATTRIBUTE_NORMAL | FILE_FLAG_DELETE_ON_CLOSE, nullptr);
-        auto const error = m_handle == INVALID_HANDLE_VALUE ? ::GetLastError() : ERROR_SUCCESS;
+        unsigned long const error = m_handle == INVALID_HANDLE_VALUE ? ::GetLastError() : ERROR_SUCCESS;
         return error != ERROR_SHARING_VIOLATION && error != ERROR_ACCESS_DENIED;
     });
 }

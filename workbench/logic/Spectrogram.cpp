@@ -27,8 +27,8 @@ std::uint64_t Scale(std::uint64_t a, std::uint64_t b, std::uint64_t c)
 /// The points that fall on place `at` of `places`, both ends within; at least one.
 std::pair<std::size_t, std::size_t> PointsOf(std::size_t at, std::size_t places, std::size_t points)
 {
-    auto const first = at * points / places;
-    auto const end = (at + 1) * points / places;
+    std::size_t const first = at * points / places;
+    std::size_t const end = (at + 1) * points / places;
     return {first, std::max(end, first + 1) - 1};
 }
 
@@ -36,7 +36,7 @@ std::pair<std::size_t, std::size_t> PointsOf(std::size_t at, std::size_t places,
 
 int ScaleEntry(double decibels)
 {
-    auto const entry = std::floor((decibels - lowest_scale_level) / decibels_per_entry);
+    double const entry = std::floor((decibels - lowest_scale_level) / decibels_per_entry);
     return static_cast<int>(std::clamp(entry, 0.0, static_cast<double>(scale_entries - 1)));
 }
 
@@ -74,7 +74,7 @@ std::size_t Spectrogram::ColumnOfFrame(std::uint64_t frame) const
     {
         return 0;
     }
-    auto const window = std::min((frame - std::min(frame, m_first)) / m_hop, m_windows - 1);
+    std::size_t const window = std::min((frame - std::min(frame, m_first)) / m_hop, m_windows - 1);
     return static_cast<std::size_t>(Scale(window, m_columns, m_windows));
 }
 
@@ -82,9 +82,9 @@ std::uint8_t Spectrogram::Highest(std::size_t firstColumn, std::size_t lastColum
                                   std::size_t lastRow) const
 {
     std::uint8_t highest = 0;
-    for (auto column = firstColumn; column <= lastColumn; ++column)
+    for (std::size_t column = firstColumn; column <= lastColumn; ++column)
     {
-        auto const * const entries = m_entries.data() + column * m_rows;
+        unsigned char const * const entries = m_entries.data() + column * m_rows;
         highest = std::max(highest, *std::max_element(entries + firstRow, entries + lastRow + 1));
     }
     return highest;
@@ -124,14 +124,14 @@ std::vector<std::uint8_t> Spectrogram::Picture(std::size_t width, std::size_t he
     for (std::size_t x = 0; x < width; ++x)
     {
         // By frames, since the last window may reach beyond the end.
-        auto const firstFrame = stretch.first + Scale(stretch.Length(), x, width);
-        auto const endFrame = std::max(stretch.first + Scale(stretch.Length(), x + 1, width), firstFrame + 1);
+        std::size_t const firstFrame = stretch.first + Scale(stretch.Length(), x, width);
+        std::size_t const endFrame = std::max(stretch.first + Scale(stretch.Length(), x + 1, width), firstFrame + 1);
         if (endFrame <= m_first || firstFrame >= m_first + m_frames)
         {
             continue;
         }
-        auto const firstColumn = ColumnOfFrame(firstFrame);
-        auto const lastColumn = ColumnOfFrame(endFrame - 1);
+        std::size_t const firstColumn = ColumnOfFrame(firstFrame);
+        std::size_t const lastColumn = ColumnOfFrame(endFrame - 1);
         for (std::size_t line = 0; line < height; ++line)
         {
             auto const [firstRow, lastRow] = rows[line];
@@ -151,7 +151,7 @@ SpectrogramBuilder::SpectrogramBuilder(std::size_t channels, std::uint32_t sampl
     {
         return;
     }
-    auto const size = m_fft.Size();
+    std::size_t const size = m_fft.Size();
     m_result.m_sampleRate = sampleRate;
     m_result.m_first = first;
     m_result.m_frames = frames;
@@ -164,11 +164,11 @@ SpectrogramBuilder::SpectrogramBuilder(std::size_t channels, std::uint32_t sampl
     m_result.m_rows = size / 2 + 1;
     m_result.m_entries.resize(m_result.m_columns * m_result.m_rows);
 
-    auto sum = 0.0;
+    double sum = 0.0;
     for (std::size_t i = 0; i < size; ++i)
     {
         auto const angle = 2.0 * std::numbers::pi * static_cast<double>(i) / static_cast<double>(size);
-        auto const weight = 0.5 - 0.5 * std::cos(angle);
+        double const weight = 0.5 - 0.5 * std::cos(angle);
         m_weights.push_back(static_cast<float>(weight));
         sum += weight;
     }
@@ -189,13 +189,13 @@ void SpectrogramBuilder::Add(std::span<double const> samples)
 {
     auto frames = std::min<std::uint64_t>(samples.size() / m_channels, m_framesLeft);
     m_framesLeft -= frames;
-    auto const * from = samples.data();
+    double const * from = samples.data();
     while (frames > 0)
     {
         auto const count = static_cast<std::size_t>(std::min<std::uint64_t>(frames, m_fft.Size() - m_filled));
         for (std::size_t lane = 0; lane < m_lanes; ++lane)
         {
-            auto * const to = m_samples[lane].data() + m_filled;
+            float * const to = m_samples[lane].data() + m_filled;
             for (std::size_t i = 0; i < count; ++i)
             {
                 to[i] = static_cast<float>(from[i * m_channels + lane]);
@@ -214,7 +214,7 @@ void SpectrogramBuilder::Add(std::span<double const> samples)
 void SpectrogramBuilder::TransformWindows()
 {
     auto const hop = static_cast<std::size_t>(m_result.m_hop);
-    for (auto & samples : m_samples)
+    for (std::vector<float> & samples : m_samples)
     {
         Take(samples, m_nextWindow);
         std::copy(samples.begin() + static_cast<std::ptrdiff_t>(hop), samples.end(), samples.begin());
@@ -225,7 +225,7 @@ void SpectrogramBuilder::TransformWindows()
 
 void SpectrogramBuilder::Take(std::span<float const> samples, std::uint64_t window)
 {
-    auto & part = m_waiting ? m_imaginary : m_real;
+    std::vector<float> & part = m_waiting ? m_imaginary : m_real;
     for (std::size_t i = 0; i < samples.size(); ++i)
     {
         part[i] = samples[i] * m_weights[i];
@@ -246,15 +246,15 @@ void SpectrogramBuilder::TransformPair(bool both)
         std::fill(m_imaginary.begin(), m_imaginary.end(), 0.0F);
     }
     m_fft.Transform(m_real, m_imaginary);
-    auto const size = m_fft.Size();
+    std::size_t const size = m_fft.Size();
     for (std::size_t row = 0; row < m_result.m_rows; ++row)
     {
         // The even part of the transform is the real signal's, the odd part the imaginary one's.
-        auto const mirror = (size - row) % size;
-        auto const evenReal = m_real[row] + m_real[mirror];
-        auto const evenImaginary = m_imaginary[row] - m_imaginary[mirror];
-        auto const oddReal = m_real[row] - m_real[mirror];
-        auto const oddImaginary = m_imaginary[row] + m_imaginary[mirror];
+        std::size_t const mirror = (size - row) % size;
+        float const evenReal = m_real[row] + m_real[mirror];
+        float const evenImaginary = m_imaginary[row] - m_imaginary[mirror];
+        float const oddReal = m_real[row] - m_real[mirror];
+        float const oddImaginary = m_imaginary[row] + m_imaginary[mirror];
         m_firstPower[row] = (evenReal * evenReal + evenImaginary * evenImaginary) / 4.0F;
         m_secondPower[row] = (oddReal * oddReal + oddImaginary * oddImaginary) / 4.0F;
     }
@@ -285,7 +285,7 @@ void SpectrogramBuilder::FinishColumn()
     for (std::size_t row = 0; row < m_result.m_rows; ++row)
     {
         // Silence is minus infinity, which falls on the lowest entry.
-        auto const level = 10.0 * std::log10(m_power[row] / m_fullScalePower);
+        double const level = 10.0 * std::log10(m_power[row] / m_fullScalePower);
         m_result.m_entries[m_column * m_result.m_rows + row] = static_cast<std::uint8_t>(ScaleEntry(level));
         m_power[row] = 0.0F;
     }
@@ -296,10 +296,10 @@ Spectrogram SpectrogramBuilder::Finish()
     if (m_result.m_columns > 0)
     {
         // Silence up to the end of the last window that has samples.
-        auto const reached = m_result.m_frames - m_framesLeft;
+        std::size_t const reached = m_result.m_frames - m_framesLeft;
         while (m_nextWindow * m_result.m_hop < reached)
         {
-            for (auto & samples : m_samples)
+            for (std::vector<float> & samples : m_samples)
             {
                 std::fill(samples.begin() + static_cast<std::ptrdiff_t>(m_filled), samples.end(), 0.0F);
             }
@@ -324,7 +324,7 @@ SpectrogramAnalyser::SpectrogramAnalyser(std::unique_ptr<ByteSource> source, Spe
         return;
     }
     m_reader.emplace(std::move(std::get<WavReader>(opened)));
-    auto const & info = m_reader->Info();
+    RecordingInfo const & info = m_reader->Info();
     FrameRange read{0, info.frames};
     if (stretch)
     {

@@ -6,11 +6,6 @@
 // loudest of the windows and channels that fall on it, so that a short click is not lost in a long recording. Levels
 // are in dBFS of a sine: one of full scale, 1.0 in the samples, has 0 dBFS.
 
-#include "logic/Axis.h"
-#include "logic/Fft.h"
-#include "logic/TimeWindow.h"
-#include "logic/WavReader.h"
-
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
@@ -18,6 +13,11 @@
 #include <optional>
 #include <span>
 #include <vector>
+
+#include "logic/Axis.h"
+#include "logic/Fft.h"
+#include "logic/TimeWindow.h"
+#include "logic/WavReader.h"
 
 namespace workbench
 {

@@ -1,14 +1,14 @@
 #pragma once
 // Computes one spectrogram on a thread of its own, so that windows stay alive meanwhile.
 
-#include "logic/Spectrogram.h"
-
 #include <atomic>
 #include <filesystem>
 #include <functional>
 #include <memory>
 #include <optional>
 #include <thread>
+
+#include "logic/Spectrogram.h"
 
 namespace workbench
 {

@@ -20,7 +20,7 @@ std::vector<std::wstring_view> Split(std::wstring_view text, wchar_t separator)
     std::vector<std::wstring_view> parts;
     for (std::size_t begin = 0; begin < text.size();)
     {
-        auto const end = std::min(text.find(separator, begin), text.size());
+        std::size_t const end = std::min(text.find(separator, begin), text.size());
         if (end > begin)
         {
             parts.push_back(text.substr(begin, end - begin));
@@ -32,7 +32,7 @@ std::vector<std::wstring_view> Split(std::wstring_view text, wchar_t separator)
 
 std::wstring LowerCase(std::wstring text)
 {
-    for (auto & character : text)
+    for (wchar_t & character : text)
     {
         character = static_cast<wchar_t>(std::towlower(static_cast<std::wint_t>(character)));
     }
@@ -44,7 +44,7 @@ std::wstring LowerCase(std::wstring text)
 std::vector<std::filesystem::path> FoldersOf(std::wstring_view text)
 {
     std::vector<std::filesystem::path> folders;
-    for (auto const part : Split(text, folder_separator))
+    for (std::wstring_view const part : Split(text, folder_separator))
     {
         folders.emplace_back(std::wstring(part));
     }
@@ -54,7 +54,7 @@ std::vector<std::filesystem::path> FoldersOf(std::wstring_view text)
 std::wstring FolderText(std::vector<std::filesystem::path> const & folders)
 {
     std::wstring text;
-    for (auto const & folder : folders)
+    for (std::filesystem::path const & folder : folders)
     {
         text += (text.empty() ? L"" : std::wstring(1, folder_separator)) + folder.wstring();
     }
@@ -74,7 +74,7 @@ std::wstring PathKey(std::filesystem::path const & path)
 
 void PutFirst(std::vector<std::filesystem::path> & folders, std::filesystem::path const & folder)
 {
-    auto const first = folder; // it may be one of them
+    std::filesystem::path const first = folder; // it may be one of them
     std::erase_if(folders, [&first](auto const & other) { return IsSameFolder(other, first); });
     folders.insert(folders.begin(), first);
     if (folders.size() > most_recent_folders)
@@ -90,8 +90,8 @@ bool IsSameFolder(std::filesystem::path const & a, std::filesystem::path const &
 
 bool IsInFolder(std::filesystem::path const & path, std::filesystem::path const & folder)
 {
-    auto const inner = PathKey(path);
-    auto const outer = PathKey(folder);
+    std::wstring const inner = PathKey(path);
+    std::wstring const outer = PathKey(folder);
     return inner.starts_with(outer) &&
            (inner.size() == outer.size() || inner[outer.size()] == L'\\' || outer.ends_with(L'\\'));
 }
@@ -99,14 +99,14 @@ bool IsInFolder(std::filesystem::path const & path, std::filesystem::path const 
 std::set<int> NumbersOf(std::wstring_view text, int end)
 {
     std::set<int> numbers;
-    for (auto const part : Split(text, number_separator))
+    for (std::wstring_view const part : Split(text, number_separator))
     {
         auto const isDigit = [](wchar_t character) { return character >= L'0' && character <= L'9'; };
         if (part.size() > longest_number || !std::ranges::all_of(part, isDigit))
         {
             continue;
         }
-        auto const number = std::stoi(std::wstring(part));
+        int const number = std::stoi(std::wstring(part));
         if (number < end)
         {
             numbers.insert(number);
@@ -118,7 +118,7 @@ std::set<int> NumbersOf(std::wstring_view text, int end)
 std::wstring NumberText(std::set<int> const & numbers)
 {
     std::wstring text;
-    for (auto const number : numbers)
+    for (int const number : numbers)
     {
         text += (text.empty() ? L"" : std::wstring(1, number_separator)) + std::to_wstring(number);
     }
@@ -132,12 +132,12 @@ std::wstring RecentItemText(int number, std::filesystem::path const & path)
     auto text = path.wstring();
     if (text.size() > most_characters)
     {
-        auto const rest = text.size() - (most_characters - from_begin);
-        auto const part = text.find_first_of(L"\\/", rest);
+        std::size_t const rest = text.size() - (most_characters - from_begin);
+        std::size_t const part = text.find_first_of(L"\\/", rest);
         text = text.substr(0, from_begin) + L"..." + text.substr(part == text.npos ? rest : part);
     }
     auto item = L'&' + std::to_wstring(number) + L' ';
-    for (auto const character : text)
+    for (wchar_t const character : text)
     {
         item.append(character == L'&' ? 2 : 1, character);
     }
@@ -154,11 +154,11 @@ std::vector<int> OrderOf(std::wstring_view text, int end)
             order.push_back(number);
         }
     };
-    for (auto number = 0; stream >> number;)
+    for (int number = 0; stream >> number;)
     {
         put(number);
     }
-    for (auto number = 0; number < end; ++number)
+    for (int number = 0; number < end; ++number)
     {
         put(number);
     }
@@ -168,7 +168,7 @@ std::vector<int> OrderOf(std::wstring_view text, int end)
 std::wstring OrderText(std::vector<int> const & order)
 {
     std::wstring text;
-    for (auto const number : order)
+    for (int const number : order)
     {
         text += (text.empty() ? L"" : L" ") + std::to_wstring(number);
     }

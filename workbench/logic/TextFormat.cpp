@@ -40,7 +40,7 @@ std::wstring FormatStretch(std::size_t samples, std::uint32_t sampleRate)
 
 std::wstring PlainLevel(double decibels)
 {
-    auto const tenths = std::round(decibels * 10.0);
+    double const tenths = std::round(decibels * 10.0);
     wchar_t text[64];
     // Adding zero turns a negative zero into a plain one.
     std::swprintf(text, std::size(text), L"%.1f", tenths / 10.0 + 0.0);
@@ -58,7 +58,7 @@ std::wstring FormatDifference(double decibels, double reference)
     {
         return L"-";
     }
-    auto text = PlainLevel(decibels - reference);
+    std::wstring text = PlainLevel(decibels - reference);
     if (text.front() != L'-' && text != L"0.0")
     {
         text.insert(text.begin(), L'+');

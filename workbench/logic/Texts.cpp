@@ -314,7 +314,7 @@ constexpr Entry all_entries[] = {
 
 std::wstring_view English(wchar_t const * const * entry)
 {
-    return entry[static_cast<std::size_t>(Language::English)];
+    return entry[static_cast<std::size_t>(Language::english)];
 }
 
 /// The entries in the order of their English texts.
@@ -338,7 +338,7 @@ LanguageFacts const * FindLanguage(unsigned short languageId)
     return found == std::end(language_facts) ? nullptr : found;
 }
 
-std::atomic<Language> s_language = Language::English;
+std::atomic<Language> s_language = Language::english;
 
 } // namespace
 
@@ -350,7 +350,7 @@ bool SpeaksLanguage(unsigned short languageId)
 Language LanguageOf(unsigned short languageId)
 {
     auto const * const facts = FindLanguage(languageId);
-    return facts != nullptr ? static_cast<Language>(facts - language_facts) : Language::English;
+    return facts != nullptr ? static_cast<Language>(facts - language_facts) : Language::english;
 }
 
 void SetLanguage(Language language)
@@ -366,11 +366,11 @@ Language PresentLanguage()
 wchar_t const * Text(wchar_t const * english)
 {
     auto const language = s_language.load();
-    if (language == Language::English)
+    if (language == Language::english)
     {
         return english;
     }
-    auto const & entries = Catalogue();
+    std::vector<wchar_t const * const *> const & entries = Catalogue();
     std::wstring_view const wanted(english);
     auto const found = std::ranges::lower_bound(entries, wanted, {}, English);
     if (found == entries.end() || English(*found) != wanted)

@@ -10,9 +10,9 @@ namespace workbench
 /// A language of the workbench. Its number is its place in language_facts and its column in the catalogue.
 enum class Language
 {
-    English,
-    German,
-    Spanish
+    english,
+    german,
+    spanish
 };
 
 /// What there is to know of a language.

@@ -78,7 +78,7 @@ void TimeWindow::Reveal(std::uint64_t frame, double margin)
     {
         return;
     }
-    auto const isAhead = frame < m_shown.first;
+    bool const isAhead = frame < m_shown.first;
     auto const length = static_cast<double>(m_shown.Length());
     double const room = std::floor(std::clamp(margin, 0.0, 0.5) * length);
     auto const place = static_cast<double>(std::min(frame, m_frames - 1));

@@ -20,7 +20,7 @@ std::wstring WithNumber(wchar_t const * text, std::size_t number)
 {
     std::wstring result(text);
     constexpr std::wstring_view mark = L"%s";
-    if (auto const place = result.find(mark); place != std::wstring::npos)
+    if (std::size_t const place = result.find(mark); place != std::wstring::npos)
     {
         result.replace(place, mark.size(), FormatThousands(number));
     }

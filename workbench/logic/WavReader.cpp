@@ -1,7 +1,5 @@
 #include "logic/WavReader.h"
 
-#include "logic/Texts.h"
-
 #include <algorithm>
 #include <array>
 #include <bit>
@@ -9,6 +7,8 @@
 #include <cstring>
 #include <cwchar>
 #include <optional>
+
+#include "logic/Texts.h"
 
 namespace workbench
 {
@@ -82,7 +82,7 @@ std::optional<Format> ParseFormat(std::span<std::byte const> chunk)
         {
             return std::nullopt;
         }
-        auto const * const subFormat = &chunk[sub_format_offset];
+        std::byte const * const subFormat = &chunk[sub_format_offset];
         if (std::memcmp(subFormat + 2, sub_format_tail.data(), sub_format_tail.size()) == 0)
         {
             format.tag = LittleEndian16(subFormat);
@@ -107,7 +107,7 @@ std::variant<RecordingInfo, ReadProblem> CheckFormat(Format const & format)
     info.sampleRate = format.sampleRate;
     info.bitsPerSample = format.bitsPerSample;
     info.bytesPerSample = static_cast<std::uint16_t>(format.frameBytes / format.channels);
-    auto const containerBits = 8u * info.bytesPerSample;
+    unsigned int const containerBits = 8u * info.bytesPerSample;
     if (format.tag == tag_float)
     {
         if (format.bitsPerSample != 32 && format.bitsPerSample != 64)
@@ -168,25 +168,25 @@ struct Chunks
 Chunks FindChunks(ByteSource & source, std::uint32_t riffSize)
 {
     Chunks found;
-    auto const fileSize = source.Size();
+    std::uint64_t const fileSize = source.Size();
     std::uint64_t offset = riff_header_bytes;
     for (int i = 0; i < maximum_chunks && !(found.dataOffset && (found.format || found.formatTooShort)); ++i)
     {
         std::array<std::byte, chunk_header_bytes> header;
-        auto const headerBytes = source.Read(offset, header);
+        std::size_t const headerBytes = source.Read(offset, header);
         if (headerBytes < header.size())
         {
             // A file that its own header calls complete has just no more chunks.
             found.ranOut = headerBytes > 0 || riffSize + std::uint64_t{chunk_header_bytes} > fileSize;
             break;
         }
-        auto const size = LittleEndian32(&header[4]);
-        auto const body = offset + chunk_header_bytes;
-        auto const rest = fileSize - std::min(body, fileSize);
+        std::uint32_t const size = LittleEndian32(&header[4]);
+        std::size_t const body = offset + chunk_header_bytes;
+        std::size_t const rest = fileSize - std::min(body, fileSize);
         if (HasId(header.data(), "data") && !found.dataOffset)
         {
             // Recorders that cannot go back to their header leave one of these sizes.
-            auto const openEnded = size == unknown_size ||
+            bool const openEnded = size == unknown_size ||
                                    (size == 0 && (riffSize == unknown_size || riffSize + chunk_header_bytes <= body));
             found.dataOffset = body;
             found.announcedBytes = openEnded ? rest : size;
@@ -199,7 +199,7 @@ Chunks FindChunks(ByteSource & source, std::uint32_t riffSize)
         {
             std::array<std::byte, extensible_format_bytes> bytes;
             auto const wanted = std::min<std::size_t>(size, bytes.size());
-            auto const got = source.Read(body, std::span(bytes).first(wanted));
+            std::size_t const got = source.Read(body, std::span(bytes).first(wanted));
             if (got < wanted)
             {
                 found.ranOut = true;
@@ -267,7 +267,7 @@ std::variant<WavReader, ReadProblem> WavReader::Open(std::unique_ptr<ByteSource>
         return ReadProblem{ReadFault::empty};
     }
     std::array<std::byte, riff_header_bytes> header{};
-    auto const headerBytes = source->Read(0, header);
+    std::size_t const headerBytes = source->Read(0, header);
     if (headerBytes < 4 || !HasId(header.data(), "RIFF"))
     {
         if (headerBytes >= 4 && HasId(header.data(), "RIFX"))
@@ -288,7 +288,7 @@ std::variant<WavReader, ReadProblem> WavReader::Open(std::unique_ptr<ByteSource>
     {
         return ReadProblem{ReadFault::not_wav};
     }
-    auto const chunks = FindChunks(*source, LittleEndian32(&header[4]));
+    Chunks const chunks = FindChunks(*source, LittleEndian32(&header[4]));
     if (!chunks.format || !chunks.dataOffset)
     {
         return ReadProblem{chunks.ranOut && !chunks.formatTooShort ? ReadFault::cut_off : ReadFault::damaged_header};
@@ -300,7 +300,7 @@ std::variant<WavReader, ReadProblem> WavReader::Open(std::unique_ptr<ByteSource>
     }
     auto info = std::get<RecordingInfo>(checked);
     auto const frameBytes = std::uint64_t{info.channels} * info.bytesPerSample;
-    auto const present = source->Size() - std::min(*chunks.dataOffset, source->Size());
+    std::size_t const present = source->Size() - std::min(*chunks.dataOffset, source->Size());
     info.announcedFrames = chunks.announcedBytes / frameBytes;
     info.frames = std::min(chunks.announcedBytes, present) / frameBytes;
     if (info.frames == 0)
@@ -335,12 +335,12 @@ std::size_t WavReader::ReadFrames(std::span<double> samples)
     std::size_t done = 0;
     while (done < wanted)
     {
-        auto const frames = std::min(wanted - done, framesPerBlock);
+        std::size_t const frames = std::min(wanted - done, framesPerBlock);
         m_block.resize(frames * frameBytes);
-        auto const gotFrames = m_source->Read(m_position, m_block) / frameBytes;
+        std::size_t const gotFrames = m_source->Read(m_position, m_block) / frameBytes;
         for (std::size_t i = 0; i < gotFrames * channels; ++i)
         {
-            auto value = DecodeSample(&m_block[i * m_info.bytesPerSample], m_info);
+            double value = DecodeSample(&m_block[i * m_info.bytesPerSample], m_info);
             if (!(std::abs(value) <= sample_limit))
             {
                 value = 0.0;

@@ -1,14 +1,14 @@
 #pragma once
 // Reads RIFF/WAVE recordings: integer PCM of 8, 16, 24 and 32 bits, IEEE float of 32 and 64 bits, any channel count.
 
-#include "logic/ByteSource.h"
-
 #include <cstdint>
 #include <memory>
 #include <span>
 #include <string>
 #include <variant>
 #include <vector>
+
+#include "logic/ByteSource.h"
 
 namespace workbench
 {

@@ -34,7 +34,7 @@ std::size_t Waveform::Bytes() const
     for (auto const & levels : m_lanes)
     {
         bytes += sizeof(decltype(m_lanes)::value_type);
-        for (auto const & level : levels)
+        for (std::vector<MinMax> const & level : levels)
         {
             bytes += sizeof(decltype(m_lanes)::value_type::value_type) + level.capacity() * sizeof(MinMax);
         }
@@ -48,11 +48,11 @@ MinMax Waveform::Range(std::size_t lane, std::uint64_t first, std::uint64_t end)
     {
         return {};
     }
-    auto const last = std::min(std::max(end, first + 1), m_frames) - 1;
+    std::size_t const last = std::min(std::max(end, first + 1), m_frames) - 1;
     auto from = static_cast<std::size_t>(first / m_framesPerBucket);
     auto to = static_cast<std::size_t>(last / m_framesPerBucket) + 1;
-    auto result = m_lanes[lane][0][from];
-    for (auto const & level : m_lanes[lane])
+    MinMax result = m_lanes[lane][0][from];
+    for (std::vector<MinMax> const & level : m_lanes[lane])
     {
         if (from >= to)
         {
@@ -81,8 +81,8 @@ std::vector<MinMax> Waveform::Columns(std::size_t lane, std::size_t width, Frame
 {
     std::vector<MinMax> columns(width);
     // Whole frames and the remainder apart, so that the product below stays small.
-    auto const whole = width > 0 ? range.Length() / width : 0;
-    auto const remainder = width > 0 ? range.Length() % width : 0;
+    std::size_t const whole = width > 0 ? range.Length() / width : 0;
+    std::size_t const remainder = width > 0 ? range.Length() % width : 0;
     auto const edge = [&](std::size_t column) { return range.first + column * whole + column * remainder / width; };
     for (std::size_t column = 0; column < width; ++column)
     {
@@ -102,7 +102,7 @@ void WaveformBuilder::StartBucket()
 {
     if (m_buckets[0].size() == m_mostBuckets)
     {
-        for (auto & lane : m_buckets)
+        for (std::vector<MinMax> & lane : m_buckets)
         {
             lane = Halve(lane);
         }
@@ -141,7 +141,7 @@ Waveform WaveformBuilder::Finish()
     Waveform waveform;
     waveform.m_frames = m_frames;
     waveform.m_framesPerBucket = m_framesPerBucket;
-    for (auto & buckets : m_buckets)
+    for (std::vector<MinMax> & buckets : m_buckets)
     {
         auto & levels = waveform.m_lanes.emplace_back();
         levels.push_back(std::move(buckets));

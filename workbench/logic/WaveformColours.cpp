@@ -28,7 +28,7 @@ int DigitOf(wchar_t character)
     {
         return character - L'0';
     }
-    auto const letter = character | 0x20;
+    int const letter = character | 0x20;
     return letter >= L'a' && letter <= L'f' ? static_cast<int>(letter - L'a') + 10 : -1;
 }
 
@@ -36,7 +36,7 @@ int DigitOf(wchar_t character)
 
 COLORREF TraceColour(WaveformColours const & colours, std::size_t channel)
 {
-    auto const place = channel % (std::size(traces) + 1);
+    std::size_t const place = channel % (std::size(traces) + 1);
     return place == 0 ? colours.trace : ReadableColour(traces[place - 1], colours.background, trace_contrast);
 }
 
@@ -70,9 +70,9 @@ std::optional<COLORREF> ColourOf(std::wstring_view text)
         return std::nullopt;
     }
     int value = 0;
-    for (auto const character : text.substr(1))
+    for (wchar_t const character : text.substr(1))
     {
-        auto const digit = DigitOf(character);
+        int const digit = DigitOf(character);
         if (digit < 0)
         {
             return std::nullopt;

@@ -101,10 +101,10 @@ bool WaveformDetail::OpenFile()
 
 double WaveformDetail::Amplitude(FrameRange const & wanted)
 {
-    auto const & info = m_analysis->info;
+    RecordingInfo const & info = m_analysis->info;
     FrameRange const range{std::min(wanted.first, info.frames), std::min(wanted.end, info.frames)};
     Waveform const & overview = m_analysis->waveform;
-    auto amplitude = 0.0;
+    double amplitude = 0.0;
     try
     {
         // Nothing of what is kept for pictures goes for it.
@@ -116,7 +116,7 @@ double WaveformDetail::Amplitude(FrameRange const & wanted)
             {
                 for (std::size_t i = 0; i < samples.size(); ++i)
                 {
-                    auto const isShown = i % info.channels < overview.Lanes();
+                    bool const isShown = i % info.channels < overview.Lanes();
                     amplitude = std::max(amplitude, isShown ? std::fabs(samples[i]) : 0.0);
                 }
                 return amplitude;
@@ -129,7 +129,7 @@ double WaveformDetail::Amplitude(FrameRange const & wanted)
     }
     for (std::size_t lane = 0; lane < overview.Lanes() && !range.IsEmpty(); ++lane)
     {
-        auto const found = overview.Range(lane, range.first, range.end);
+        MinMax const found = overview.Range(lane, range.first, range.end);
         amplitude = std::max(
             {amplitude, std::fabs(static_cast<double>(found.least)), std::fabs(static_cast<double>(found.greatest))});
     }
@@ -145,7 +145,7 @@ bool WaveformDetail::Read(FrameRange const & range)
     }
     try
     {
-        auto const & info = m_analysis->info;
+        RecordingInfo const & info = m_analysis->info;
         if (!OpenFile())
         {
             return false;
@@ -217,11 +217,11 @@ void WaveformDetail::Refine()
 {
     try
     {
-        auto const & info = m_analysis->info;
+        RecordingInfo const & info = m_analysis->info;
         std::size_t const lanes = std::max<std::size_t>(m_analysis->waveform.Lanes(), 1);
         WaveformBuilder builder(info.channels, most_buckets / lanes);
         std::vector<double> samples(SamplesAtOnce(info.channels));
-        auto reader = OpenSame(m_path, info);
+        std::optional<WavReader> reader = OpenSame(m_path, info);
         for (std::size_t frames = 1; reader && frames > 0 && !m_stop;)
         {
             frames = reader->ReadFrames(samples);

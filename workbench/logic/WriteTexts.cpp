@@ -30,7 +30,7 @@ std::wstring WriteErrorText(unsigned long error)
 
 std::wstring WriteFailureText(wchar_t const * heading, std::filesystem::path const & file, unsigned long error)
 {
-    auto const reason = WriteErrorText(error);
+    std::wstring const reason = WriteErrorText(error);
     return heading + (L"\n\n" + file.wstring()) + (reason.empty() ? L"" : L": ") + reason;
 }
 

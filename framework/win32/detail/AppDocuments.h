@@ -1,10 +1,10 @@
 #pragma once
 // What an application knows of documents. Inside framework.dll only.
 
-#include "../afxadv.h"
-
 #include <memory>
 #include <vector>
+
+#include "../afxadv.h"
 
 namespace framework
 {

@@ -1,11 +1,11 @@
 #pragma once
 // Handles of objects that may be missing: a null object has a null handle.
 
+#include <commctrl.h>
+
 #include "ControlMessage.h"
 #include "imagelist.h"
 #include "wnd.h"
-
-#include <commctrl.h>
 
 namespace framework
 {

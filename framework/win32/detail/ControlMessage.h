@@ -2,6 +2,7 @@
 // Sending a control its messages with typed arguments and results.
 
 #include <afx.h>
+
 #include <type_traits>
 
 namespace framework

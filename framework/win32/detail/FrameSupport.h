@@ -1,8 +1,8 @@
 #pragma once
 // What frames, views, splitters and documents share. Inside framework.dll only.
 
-#include <afxwin.h>
 #include <afxext.h>
+#include <afxwin.h>
 
 namespace framework
 {

@@ -1,13 +1,13 @@
 #pragma once
 // How a message becomes the call of a handler of the documented type. The macros of message maps name what is here.
 
+#include <bit>
+#include <type_traits>
+
 #include "detail/cmdtarget.h"
 #include "detail/gdi.h"
 #include "detail/menu.h"
 #include "detail/wnd.h"
-
-#include <bit>
-#include <type_traits>
 
 namespace framework
 {

@@ -24,7 +24,7 @@ class FRAMEWORK_API AFX_MODULE_STATE
 public:
     AFX_MODULE_STATE();
     explicit AFX_MODULE_STATE(HINSTANCE hInstance);
-    ~AFX_MODULE_STATE();
+    ~AFX_MODULE_STATE() = default;
     AFX_MODULE_STATE(const AFX_MODULE_STATE &) = delete;
     AFX_MODULE_STATE & operator=(const AFX_MODULE_STATE &) = delete;
 

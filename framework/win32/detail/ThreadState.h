@@ -1,9 +1,9 @@
 #pragma once
 // What the framework keeps for each thread. Inside framework.dll only.
 
-#include "HandleMap.h"
-
 #include <afxwin.h>
+
+#include "HandleMap.h"
 
 class CToolTipCtrl;
 

@@ -1,8 +1,8 @@
 #pragma once
 // Threads and the application. Included by afxwin.h, after the windows.
 
-#include "ModuleState.h"
 #include "cmdtarget.h"
+#include "ModuleState.h"
 
 class CCommandLineInfo;
 class CDocTemplate;

@@ -1,10 +1,10 @@
 #pragma once
 // Tab control, status bar, tool bar and rebar.
 
+#include <uxtheme.h>
+
 #include "ControlHandles.h"
 #include "tooltipctrl.h"
-
-#include <uxtheme.h>
 
 class FRAMEWORK_API CTabCtrl : public CWnd
 {

@@ -3,7 +3,6 @@
 
 #include <afx.h>
 #include <atltypes.h>
-
 #include <windows.h>
 
 #include "FrameworkExport.h"

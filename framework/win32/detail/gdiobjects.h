@@ -3,9 +3,7 @@
 
 #include <afx.h>
 #include <atltypes.h>
-
 #include <windows.h>
-
 #include <commctrl.h>
 
 #include "FrameworkExport.h"

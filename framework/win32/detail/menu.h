@@ -2,7 +2,6 @@
 // Menus.
 
 #include <afx.h>
-
 #include <windows.h>
 
 #include "FrameworkExport.h"

@@ -2,7 +2,6 @@
 // Property sheets and their pages. Included by afxdlgs.h.
 
 #include <afxwin.h>
-
 #include <prsht.h>
 
 #include <memory>

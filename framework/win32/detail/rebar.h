@@ -1,9 +1,9 @@
 #pragma once
 // Bars of bands. Included by afxext.h.
 
-#include "controlbar.h"
-
 #include <afxcmn.h>
+
+#include "controlbar.h"
 
 /// A bar of bands that the user can move, each with a window: a tool bar, a dialog bar or a control.
 class FRAMEWORK_API CReBar : public CControlBar

@@ -1,9 +1,9 @@
 #pragma once
 // Status bars. Included by afxext.h.
 
-#include "controlbar.h"
-
 #include <afxcmn.h>
+
+#include "controlbar.h"
 
 // Styles of panes
 #define SBPS_NORMAL 0x0000

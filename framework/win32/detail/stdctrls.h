@@ -1,10 +1,10 @@
 #pragma once
 // The controls that the system's own window classes offer.
 
+#include <commctrl.h>
+
 #include "ControlMessage.h"
 #include "wnd.h"
-
-#include <commctrl.h>
 
 class CImageList;
 

@@ -1,9 +1,9 @@
 #pragma once
 // Tool bars. Included by afxext.h.
 
-#include "controlbar.h"
-
 #include <afxcmn.h>
+
+#include "controlbar.h"
 
 // Styles of a tool bar's buttons: the control's style below, its state above. A button is enabled without
 // TBBS_DISABLED.

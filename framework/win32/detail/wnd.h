@@ -1,10 +1,10 @@
 #pragma once
 // CWnd: the object behind a window handle. Included by afxwin.h, after the command targets and the GDI classes.
 
-#include "cmdtarget.h"
-
 #include <commctrl.h>
 #include <shellapi.h>
+
+#include "cmdtarget.h"
 
 // SDK macros that would change the names of members.
 #undef GetNextWindow

@@ -15,7 +15,8 @@ int main(int argc, char ** argv)
     for (int argument = 1; argument < argc; ++argument)
     {
         std::error_code error;
-        for (auto const & file : std::filesystem::recursive_directory_iterator(argv[argument], error))
+        for (std::filesystem::directory_entry const & file :
+             std::filesystem::recursive_directory_iterator(argv[argument], error))
         {
             if (!file.is_regular_file())
                 continue;

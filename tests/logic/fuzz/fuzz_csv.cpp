@@ -1,9 +1,9 @@
 // Reads any text as CSV, writes what was read, and reads that again.
 
-#include "list/table/CsvText.h"
-
 #include <cstdint>
 #include <cstdlib>
+
+#include "list/table/CsvText.h"
 
 namespace
 {

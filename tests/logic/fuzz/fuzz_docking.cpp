@@ -41,9 +41,9 @@ void Use(framework::DockLayout & layout)
         layout.Show(pane, true);
     }
     CRect const rect(0, 0, 640, 480);
-    for (auto const & group : layout.Arrange(0, rect).groups)
+    for (framework::DockPlan::Group const & group : layout.Arrange(0, rect).groups)
         Require(group.rect.left >= 0 && group.rect.top >= 0 && group.rect.right <= 640 && group.rect.bottom <= 480);
-    for (auto const & frame : layout.Frames())
+    for (framework::DockLayout::Frame const & frame : layout.Frames())
         layout.Arrange(frame.id, rect);
     for (UINT const pane : panes)
     {

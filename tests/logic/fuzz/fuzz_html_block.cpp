@@ -1,13 +1,12 @@
 // The clipboard's HTML block from any text and in memory of any size, read again by the block's own offsets.
 
-#include "clipboard/HtmlBlock.h"
-
-#include "clipboard_HtmlBlockReader.h"
-
 #include <cstdint>
 #include <cstdlib>
 #include <string>
 #include <vector>
+
+#include "clipboard/HtmlBlock.h"
+#include "clipboard_HtmlBlockReader.h"
 
 namespace
 {
@@ -31,7 +30,7 @@ void CheckBlock(std::wstring const & html)
     Require(block.size() == HtmlBlock::SizeOf(html));
     Require(block.back() == '\0');
     std::string const text(block.data());
-    auto const reading = html_block::Read(text);
+    std::optional<html_block::Reading> const reading = html_block::Read(text);
     bool const hasOwnTags = html.find(L"html>") != std::wstring::npos ||
                             html.find(L"Fragment -->") != std::wstring::npos ||
                             html.find(L"<body>") != std::wstring::npos;

@@ -1,10 +1,10 @@
 // Reads any text as a number, and shows what it has read: that must be the same when it is read again.
 
-#include "list/table/TableText.h"
-
 #include <cmath>
 #include <cstdint>
 #include <cstdlib>
+
+#include "list/table/TableText.h"
 
 namespace
 {

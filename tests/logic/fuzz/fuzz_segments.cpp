@@ -136,7 +136,7 @@ void Paint(CDigiChar const & character, const double (&rect)[4], bool asCurves, 
 
 void PaintText(Input input, CBezierFitCache & cache)
 {
-    unsigned long const style = input.Take<std::uint32_t>();
+    auto const style = input.Take<std::uint32_t>();
     double sides[4];
     for (double & side : sides)
         side = input.Take<double>();

@@ -48,10 +48,10 @@ void Require(bool condition)
 
 void CheckParsing(std::u16string const & name)
 {
-    auto const parsed = ParseValueName(name);
+    std::optional<KeyAndIndex> const parsed = ParseValueName(name);
     if (!parsed)
         return;
-    auto const again = ValueName(parsed->key, parsed->index);
+    std::optional<std::u16string> const again = ValueName(parsed->key, parsed->index);
     Require(again.has_value());
     Require(Folded(*again) == Folded(name));
     Require(ParseValueName(*again) == parsed);
@@ -60,7 +60,7 @@ void CheckParsing(std::u16string const & name)
 
 void CheckRoundTrip(KeyAndIndex const & pair)
 {
-    auto const name = ValueName(pair.key, pair.index);
+    std::optional<std::u16string> const name = ValueName(pair.key, pair.index);
     if (!name)
     {
         Require(pair.key.size() * 5 + pair.key.size() / 4 + 32 > max_length);
@@ -78,7 +78,7 @@ void CheckRoundTrip(KeyAndIndex const & pair)
         if ((other.key[at] | 0x20) < u'a' || (other.key[at] | 0x20) > u'z')
             continue;
         other.key[at] = static_cast<char16_t>(other.key[at] ^ 0x20);
-        auto const otherName = ValueName(other.key, other.index);
+        std::optional<std::u16string> const otherName = ValueName(other.key, other.index);
         Require(!otherName || Folded(*otherName) != Folded(*name));
         break;
     }

@@ -1,13 +1,13 @@
 // Feeds arbitrary bytes to the WAV reader and checks what it promises about any file.
 
-#include "logic/LevelMeter.h"
-#include "logic/Waveform.h"
-#include "logic/WavReader.h"
-
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
+
+#include "logic/LevelMeter.h"
+#include "logic/Waveform.h"
+#include "logic/WavReader.h"
 
 namespace
 {
@@ -34,7 +34,7 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const * data, std::size_t siz
         return 0;
     }
     auto & reader = std::get<WavReader>(opened);
-    auto const info = reader.Info();
+    workbench::RecordingInfo const info = reader.Info();
     Require(info.channels > 0 && info.sampleRate > 0 && info.frames > 0 && info.frames <= info.announcedFrames);
     Require(info.frames * info.channels * info.bytesPerSample <= size);
 
@@ -42,10 +42,10 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const * data, std::size_t siz
     LevelMeter meter;
     WaveformBuilder builder(info.channels);
     std::uint64_t frames = 0;
-    while (auto const count = reader.ReadFrames(samples))
+    while (std::size_t const count = reader.ReadFrames(samples))
     {
         auto const read = std::span<double const>(samples).first(count * info.channels);
-        for (auto const sample : read)
+        for (double const sample : read)
         {
             Require(std::abs(sample) <= WavReader::sample_limit);
         }
@@ -55,15 +55,15 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const * data, std::size_t siz
     }
     Require(frames == info.frames);
     Require(reader.InvalidSamples() <= frames * info.channels);
-    auto const levels = meter.Result();
+    workbench::Levels const levels = meter.Result();
     Require(levels.rms <= levels.peak + 1e-9);
 
-    auto const waveform = builder.Finish();
+    workbench::Waveform const waveform = builder.Finish();
     Require(waveform.Frames() == frames);
-    auto const width = 1 + size % 700;
-    auto const columns = waveform.Columns(waveform.Lanes() - 1, width);
+    std::size_t const width = 1 + size % 700;
+    std::vector<MinMax> const columns = waveform.Columns(waveform.Lanes() - 1, width);
     Require(columns.size() == width);
-    for (auto const & column : columns)
+    for (workbench::MinMax const & column : columns)
     {
         Require(column.least <= column.greatest);
     }

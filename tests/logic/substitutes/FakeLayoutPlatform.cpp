@@ -169,7 +169,7 @@ HWND FakeLayoutPlatform::NextWindow(HWND window)
     Window * const found = Find(window);
     if (found == nullptr || found->parent == nullptr)
         return nullptr;
-    auto const & siblings = found->parent->children;
+    std::vector<Window *> const & siblings = found->parent->children;
     auto const next = std::next(std::find(siblings.begin(), siblings.end(), found));
     return next == siblings.end() ? nullptr : (*next)->handle;
 }
@@ -195,7 +195,7 @@ void FakeLayoutPlatform::MoveDialog(CWnd & dialog, int left, int top, int width,
 void FakeLayoutPlatform::Invalidate(HWND window)
 {
     // As the system does nothing for a window that has ended.
-    auto const * const found = Find(window);
+    Window const * const found = Find(window);
     if (recording && found != nullptr)
         Log("Invalidate " + std::to_string(found->number));
 }

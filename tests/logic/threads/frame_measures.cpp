@@ -66,7 +66,7 @@ TEST(FrameMeasuresThreads, RowsAreReadSortedAndToldWhileOthersAreMeasured)
         TableValue value;
         while (!stop)
         {
-            auto const count = table->RowCount();
+            TableRow const count = table->RowCount();
             for (unsigned int column = 0; count > 0 && column < FrameTable::column_count; ++column)
                 ASSERT_TRUE(table->Read(count - 1, column, value));
             ASSERT_FALSE(table->Read(no_table_row, 0, value));

@@ -72,11 +72,13 @@ TEST(TableThreads, NothingThatIsToldGetsLost)
     std::atomic<int> telling{teller_count};
     std::vector<std::thread> tellers;
     for (TableRow teller = 0; teller < teller_count; ++teller)
+    {
         tellers.emplace_back([feed, teller, &telling] {
             for (TableRow row = 0; row < rows_a_teller; ++row)
                 feed->RowsChanged(2 * (row * teller_count + teller), 2 * (row * teller_count + teller));
             --telling;
         });
+    }
     std::vector<bool> told(std::size_t{2} * rows_a_teller * teller_count);
     bool overflow = false;
     for (;;)
@@ -87,8 +89,10 @@ TEST(TableThreads, NothingThatIsToldGetsLost)
             TableChanges const changes = feed->Take();
             overflow = overflow || changes.anyValue;
             for (TableRowRange const & each : changes.changed)
+            {
                 for (TableRow row = each.first; row <= each.last; ++row)
                     told[row] = true;
+            }
         }
         else if (last)
         {
@@ -99,8 +103,10 @@ TEST(TableThreads, NothingThatIsToldGetsLost)
         each.join();
     EXPECT_TRUE(feed->Take().IsEmpty());
     if (!overflow)
+    {
         for (std::size_t row = 0; row < told.size(); row += 2)
             ASSERT_TRUE(told[row]) << row;
+    }
 }
 
 TEST(TableThreads, TheLastValuesAreRightAtTheEnd)
@@ -116,6 +122,7 @@ TEST(TableThreads, TheLastValuesAreRightAtTheEnd)
     std::atomic<int> telling{teller_count};
     std::vector<std::thread> tellers;
     for (unsigned int teller = 0; teller < teller_count; ++teller)
+    {
         tellers.emplace_back([source, feed, teller, &telling] {
             unsigned int random = teller + 1;
             for (int i = 0; i < 20000; ++i)
@@ -135,6 +142,7 @@ TEST(TableThreads, TheLastValuesAreRightAtTheEnd)
             }
             --telling;
         });
+    }
     std::shared_ptr<TableOrderTask> task;
     std::thread worker;
     for (;;)
@@ -192,7 +200,7 @@ TEST(TableThreads, ASourceMayEndWhileItIsSorted)
             source->Append((i * 7919) % 30011);
         TableModel model = ModelOf(source);
         model.SetSort({{0, false}});
-        auto const task = model.BeginOrder();
+        std::shared_ptr<TableOrderTask> const task = model.BeginOrder();
         std::thread worker([task] { task->Run(); });
         while (task->Progress().Done() < round * 50 && !task->Finished())
             std::this_thread::yield();
@@ -213,7 +221,7 @@ TEST(TableThreads, ATaskIsStoppedFromOutside)
         source->Append((i * 7919LL) % 200003);
     TableModel model = ModelOf(source);
     model.SetSort({{0, false}});
-    auto const task = model.BeginOrder();
+    std::shared_ptr<TableOrderTask> const task = model.BeginOrder();
     std::thread worker([task] { task->Run(); });
     while (task->Progress().Done() == 0 && !task->Finished())
         std::this_thread::yield();

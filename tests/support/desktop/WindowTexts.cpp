@@ -19,7 +19,7 @@ std::string Utf8(wchar_t const * text)
     char bytes[4096] = "";
     ::WideCharToMultiByte(CP_UTF8, 0, text, -1, bytes, sizeof bytes, nullptr, nullptr);
     std::string line(bytes);
-    for (auto & character : line)
+    for (char & character : line)
         character = character == '\n' || character == '\r' ? ' ' : character;
     return line;
 }

@@ -16,7 +16,15 @@
 #include <vector>
 
 #include "Bitmap.h"
+#include "controls/ColorButton.h"
+#include "controls/ComboBoxX.h"
+#include "controls/FreeIconButton.h"
+#include "controls/LevelSliderCtrl.h"
+#include "controls/ListBoxX.h"
+#include "controls/XEditBrowseCtrl.h"
+#include "controls/XTreeCtrl.h"
 #include "DialogTemplate.h"
+#include "frame/RegisteredMessages.h"
 #include "GdiHandleCount.h"
 #include "ImportPatch.h"
 #include "Input.h"
@@ -25,14 +33,6 @@
 #include "Pump.h"
 #include "ScopedWindow.h"
 #include "TestApp.h"
-#include "controls/ColorButton.h"
-#include "controls/ComboBoxX.h"
-#include "controls/FreeIconButton.h"
-#include "controls/LevelSliderCtrl.h"
-#include "controls/ListBoxX.h"
-#include "controls/XEditBrowseCtrl.h"
-#include "controls/XTreeCtrl.h"
-#include "frame/RegisteredMessages.h"
 
 namespace outside::controls
 {

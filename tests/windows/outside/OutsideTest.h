@@ -13,8 +13,8 @@
 #include <utility>
 #include <vector>
 
-#include "PrintValues.h"
 #include "frame/PreferenceStore.h"
+#include "PrintValues.h"
 #include "windows/FensterManager.h"
 #include "windows/MainFrmInterface.h"
 #include "windows/StandaloneFrameUser.h"

@@ -1,11 +1,11 @@
 // The browse edit, with the system's file dialog driven as a user would, and with a substitute that tells what the
 // dialog was given.
 
-#include "ControlTest.h"
-
 #include <clocale>
 #include <cwchar>
 #include <type_traits>
+
+#include "ControlTest.h"
 
 namespace outside::controls
 {
@@ -73,7 +73,7 @@ class OutsideBrowse : public testing::Test
 protected:
     void SetUp() override
     {
-        Make(m_field);
+        Make(m_browse);
         ::CreateDirectoryW(folder.c_str(), nullptr);
         for (wchar_t const * const name : {L"\\a.txt", L"\\b.txt", L"\\c.dat"})
             ::CloseHandle(::CreateFileW((folder + name).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));
@@ -82,8 +82,8 @@ protected:
     void TearDown() override
     {
         m_host.hook = nullptr;
-        if (m_field.GetSafeHwnd() != nullptr)
-            m_field.DestroyWindow();
+        if (m_browse.GetSafeHwnd() != nullptr)
+            m_browse.DestroyWindow();
     }
     void Make(Field & field, int width = 200, DWORD style = WS_VISIBLE | WS_BORDER)
     {
@@ -93,7 +93,7 @@ protected:
     {
         tests::PumpPosted();
         std::vector<std::pair<WPARAM, LPARAM>> events;
-        for (auto const & each : m_host.Of(WM_XEDITBROWSE_COMPLETED))
+        for (Host::Seen const & each : m_host.Of(WM_XEDITBROWSE_COMPLETED))
             events.push_back({each.wParam, each.lParam});
         m_host.seen.clear();
         return events;
@@ -110,7 +110,7 @@ protected:
         return CPoint((client.right + window.right) / 2, window.CenterPoint().y);
     }
     Host m_host;
-    Field m_field;
+    Field m_browse;
     tests::LaterActions m_actions;
 };
 
@@ -140,7 +140,7 @@ TEST_F(OutsideBrowse, ClassMapAndDefaults)
     EXPECT_FALSE(f.m_selectionChanged);
     EXPECT_EQ(f.m_dropHeightFactor, 1.1f);
     EXPECT_EQ(f.m_notifyTag, 0u);
-    auto const entries = EntriesOf(Field::GetThisMessageMap());
+    std::vector<MapEntry> const entries = EntriesOf(Field::GetThisMessageMap());
     EXPECT_EQ(entries.size(), 2u);
     EXPECT_TRUE(Handles(entries, WM_SIZE));
     EXPECT_TRUE(Handles(entries, 1053));
@@ -161,41 +161,41 @@ TEST_F(OutsideBrowse, FieldsInOrder)
 
 TEST_F(OutsideBrowse, PreparingForFiles)
 {
-    EXPECT_EQ(m_field.GetMode(), CMFCEditBrowseCtrl::BrowseMode_None);
-    m_field.PrepareFileSaveAsBrowser(L"Text|*.txt||", L"txt", L"C:\\");
-    EXPECT_EQ(m_field.m_openDialog, 0);
-    EXPECT_EQ(W(m_field.m_filter), L"Text|*.txt||");
-    EXPECT_EQ(std::wstring(m_field.m_defaultExtension), L"txt");
-    EXPECT_EQ(std::wstring(m_field.m_initialDirectory), L"C:\\");
-    EXPECT_NE(m_field.GetMode(), CMFCEditBrowseCtrl::BrowseMode_None);
-    EXPECT_FALSE(m_field.m_idNameMode);
-    m_field.PrepareFileSaveAsBrowser(L"All|*.*||", nullptr, nullptr);
-    EXPECT_EQ(W(m_field.m_filter), L"All|*.*||");
-    EXPECT_EQ(std::wstring(m_field.m_defaultExtension), L"txt");
-    EXPECT_EQ(std::wstring(m_field.m_initialDirectory), L"C:\\");
-    m_field.PrepareFileOpenBrowser(L"Data|*.dat||", L"dat", L"D:\\x");
-    EXPECT_EQ(m_field.m_openDialog, 1);
-    EXPECT_EQ(W(m_field.m_filter), L"Data|*.dat||");
-    EXPECT_EQ(std::wstring(m_field.m_defaultExtension), L"dat");
-    EXPECT_EQ(std::wstring(m_field.m_initialDirectory), L"D:\\x");
-    m_field.PrepareFileOpenBrowser(L"", L"", L"");
-    EXPECT_EQ(std::wstring(m_field.m_defaultExtension), L"");
-    m_field.SetDefaultFilename(L"name.txt");
-    EXPECT_EQ(std::wstring(m_field.m_defaultFilename), L"name.txt");
+    EXPECT_EQ(m_browse.GetMode(), CMFCEditBrowseCtrl::BrowseMode_None);
+    m_browse.PrepareFileSaveAsBrowser(L"Text|*.txt||", L"txt", L"C:\\");
+    EXPECT_EQ(m_browse.m_openDialog, 0);
+    EXPECT_EQ(W(m_browse.m_filter), L"Text|*.txt||");
+    EXPECT_EQ(std::wstring(m_browse.m_defaultExtension), L"txt");
+    EXPECT_EQ(std::wstring(m_browse.m_initialDirectory), L"C:\\");
+    EXPECT_NE(m_browse.GetMode(), CMFCEditBrowseCtrl::BrowseMode_None);
+    EXPECT_FALSE(m_browse.m_idNameMode);
+    m_browse.PrepareFileSaveAsBrowser(L"All|*.*||", nullptr, nullptr);
+    EXPECT_EQ(W(m_browse.m_filter), L"All|*.*||");
+    EXPECT_EQ(std::wstring(m_browse.m_defaultExtension), L"txt");
+    EXPECT_EQ(std::wstring(m_browse.m_initialDirectory), L"C:\\");
+    m_browse.PrepareFileOpenBrowser(L"Data|*.dat||", L"dat", L"D:\\x");
+    EXPECT_EQ(m_browse.m_openDialog, 1);
+    EXPECT_EQ(W(m_browse.m_filter), L"Data|*.dat||");
+    EXPECT_EQ(std::wstring(m_browse.m_defaultExtension), L"dat");
+    EXPECT_EQ(std::wstring(m_browse.m_initialDirectory), L"D:\\x");
+    m_browse.PrepareFileOpenBrowser(L"", L"", L"");
+    EXPECT_EQ(std::wstring(m_browse.m_defaultExtension), L"");
+    m_browse.SetDefaultFilename(L"name.txt");
+    EXPECT_EQ(std::wstring(m_browse.m_defaultFilename), L"name.txt");
     std::wstring const longest(259, L'x');
-    m_field.SetDefaultFilename(longest.c_str());
-    EXPECT_EQ(std::wstring(m_field.m_defaultFilename), longest);
-    m_field.SetDlgTitle(L"title");
-    EXPECT_EQ(W(m_field.m_dlgTitle), L"title");
-    m_field.SetAdditionalFileFlags(1);
-    m_field.SetAdditionalFileFlags(0x100);
-    m_field.SetAdditionalFileFlags(0);
-    EXPECT_EQ(m_field.m_additionalFileFlags, 0x101u);
-    m_field.SetNotifyTag(0xFFFFFFFF);
-    EXPECT_EQ(m_field.m_notifyTag, 0xFFFFFFFFu);
-    m_field.PrepareIdNameBrowser();
-    m_field.PrepareFileOpenBrowser(L"", L"", L"");
-    EXPECT_TRUE(m_field.m_idNameMode);
+    m_browse.SetDefaultFilename(longest.c_str());
+    EXPECT_EQ(std::wstring(m_browse.m_defaultFilename), longest);
+    m_browse.SetDlgTitle(L"title");
+    EXPECT_EQ(W(m_browse.m_dlgTitle), L"title");
+    m_browse.SetAdditionalFileFlags(1);
+    m_browse.SetAdditionalFileFlags(0x100);
+    m_browse.SetAdditionalFileFlags(0);
+    EXPECT_EQ(m_browse.m_additionalFileFlags, 0x101u);
+    m_browse.SetNotifyTag(0xFFFFFFFF);
+    EXPECT_EQ(m_browse.m_notifyTag, 0xFFFFFFFFu);
+    m_browse.PrepareIdNameBrowser();
+    m_browse.PrepareFileOpenBrowser(L"", L"", L"");
+    EXPECT_TRUE(m_browse.m_idNameMode);
 }
 
 TEST_F(OutsideBrowse, ButtonShowsTheModulesIcon)
@@ -219,13 +219,13 @@ TEST_F(OutsideBrowse, ButtonShowsTheModulesIcon)
         }
         return pixels;
     };
-    m_field.EnableBrowseButton(TRUE, L"");
-    auto const plain = shot(m_field);
-    m_field.PrepareFileOpenBrowser(L"", L"", L"");
-    auto const open = shot(m_field);
+    m_browse.EnableBrowseButton(TRUE, L"");
+    auto const plain = shot(m_browse);
+    m_browse.PrepareFileOpenBrowser(L"", L"", L"");
+    auto const open = shot(m_browse);
     EXPECT_NE(open, plain);
-    m_field.PrepareFileSaveAsBrowser(L"", L"", L"");
-    EXPECT_EQ(shot(m_field), open);
+    m_browse.PrepareFileSaveAsBrowser(L"", L"", L"");
+    EXPECT_EQ(shot(m_browse), open);
     Field other;
     ASSERT_TRUE(other.Create(WS_CHILD | WS_VISIBLE | WS_BORDER, CRect(20, 60, 220, 84), m_host, 10));
     other.PrepareIdNameBrowser();
@@ -236,30 +236,30 @@ TEST_F(OutsideBrowse, ButtonShowsTheModulesIcon)
 TEST_F(OutsideBrowse, ResourceHandleIsRestored)
 {
     HINSTANCE const before = ::AfxGetResourceHandle();
-    m_field.PrepareFileOpenBrowser(L"", L"", L"");
+    m_browse.PrepareFileOpenBrowser(L"", L"", L"");
     EXPECT_EQ(::AfxGetResourceHandle(), before);
-    m_field.PrepareFileSaveAsBrowser(L"", L"", L"");
+    m_browse.PrepareFileSaveAsBrowser(L"", L"", L"");
     EXPECT_EQ(::AfxGetResourceHandle(), before);
-    m_field.PrepareIdNameBrowser();
-    m_field.AddItem(1, L"a");
-    m_field.SetSelectionAll();
-    m_field.UpdateSelectionText();
+    m_browse.PrepareIdNameBrowser();
+    m_browse.AddItem(1, L"a");
+    m_browse.SetSelectionAll();
+    m_browse.UpdateSelectionText();
     EXPECT_EQ(::AfxGetResourceHandle(), before);
 }
 
 TEST_F(OutsideBrowse, MessageAndBrowseNowCallTheHook)
 {
-    m_field.pass = false;
-    EXPECT_EQ(m_field.SendMessage(1053, 1, 2), 0);
-    EXPECT_EQ(m_field.browses, 1);
-    m_field.BrowseNow();
-    EXPECT_EQ(m_field.browses, 1);
+    m_browse.pass = false;
+    EXPECT_EQ(m_browse.SendMessage(1053, 1, 2), 0);
+    EXPECT_EQ(m_browse.browses, 1);
+    m_browse.BrowseNow();
+    EXPECT_EQ(m_browse.browses, 1);
     tests::PumpPosted();
-    EXPECT_EQ(m_field.browses, 2);
-    m_field.PrepareFileOpenBrowser(L"", L"", L"");
+    EXPECT_EQ(m_browse.browses, 2);
+    m_browse.PrepareFileOpenBrowser(L"", L"", L"");
     ASSERT_TRUE(tests::BringToFront(m_host));
-    tests::Click(ButtonCentre(m_field));
-    EXPECT_TRUE(tests::PumpUntil([&] { return m_field.browses == 3; }, std::chrono::seconds(20)));
+    tests::Click(ButtonCentre(m_browse));
+    EXPECT_TRUE(tests::PumpUntil([&] { return m_browse.browses == 3; }, std::chrono::seconds(20)));
     Field none;
     none.BrowseNow();
 }
@@ -267,15 +267,15 @@ TEST_F(OutsideBrowse, MessageAndBrowseNowCallTheHook)
 TEST_F(OutsideBrowse, NotifyParentPostsTagAndValue)
 {
     m_host.seen.clear();
-    m_field.NotifyParent(5, -6);
+    m_browse.NotifyParent(5, -6);
     EXPECT_EQ(m_host.Count(WM_XEDITBROWSE_COMPLETED), 0);
     EXPECT_EQ(Completed(), (EventList{{5, -6}}));
     Host owner;
-    m_field.SetOwner(&owner);
-    m_field.NotifyParent(7, 0);
+    m_browse.SetOwner(&owner);
+    m_browse.NotifyParent(7, 0);
     EXPECT_EQ(Completed(), (EventList{{7, 0}}));
     EXPECT_EQ(owner.Count(WM_XEDITBROWSE_COMPLETED), 0);
-    m_field.SetOwner(nullptr);
+    m_browse.SetOwner(nullptr);
     Field none;
     none.NotifyParent(1, 2);
 }
@@ -384,32 +384,32 @@ TEST_F(OutsideBrowse, FlagsOfTheDialog)
 TEST_F(OutsideBrowse, WhatTheDialogIsGiven)
 {
     FakeDialog fake;
-    m_field.PrepareFileOpenBrowser(L"Text|*.txt|All|*.*||", L"txt", folder.c_str());
-    m_field.SetDlgTitle(L"The title");
-    m_field.OnBrowse();
+    m_browse.PrepareFileOpenBrowser(L"Text|*.txt|All|*.*||", L"txt", folder.c_str());
+    m_browse.SetDlgTitle(L"The title");
+    m_browse.OnBrowse();
     ASSERT_EQ(fake.opens, 1);
     EXPECT_EQ(fake.title, L"The title");
     EXPECT_EQ(fake.directory, folder);
     EXPECT_EQ(fake.extension, L"txt");
     EXPECT_EQ(fake.filter, L"Text|*.txt|All|*.*|");
     EXPECT_EQ(fake.last.nMaxFile, 64000u);
-    EXPECT_TRUE(fake.last.hwndOwner == m_field.m_hWnd || fake.last.hwndOwner == m_host.m_hWnd);
-    m_field.PrepareFileOpenBrowser(L"", L"", L"");
-    m_field.OnBrowse();
+    EXPECT_TRUE(fake.last.hwndOwner == m_browse.m_hWnd || fake.last.hwndOwner == m_host.m_hWnd);
+    m_browse.PrepareFileOpenBrowser(L"", L"", L"");
+    m_browse.OnBrowse();
     EXPECT_EQ(fake.extension, L"(null)");
 }
 
 TEST_F(OutsideBrowse, TheFileBufferIsSharedAndNeverCleared)
 {
     FakeDialog fake;
-    m_field.PrepareFileOpenBrowser(L"", L"", L"");
+    m_browse.PrepareFileOpenBrowser(L"", L"", L"");
     fake.ok = true;
     fake.answer = folder + L"\\a.txt";
-    m_field.OnBrowse();
+    m_browse.OnBrowse();
     wchar_t const * const buffer = fake.last.lpstrFile;
-    EXPECT_EQ(TextOf(m_field), folder + L"\\a.txt");
+    EXPECT_EQ(TextOf(m_browse), folder + L"\\a.txt");
     fake.ok = false;
-    m_field.OnBrowse();
+    m_browse.OnBrowse();
     EXPECT_EQ(fake.last.lpstrFile, buffer);
     EXPECT_EQ(fake.file, folder + L"\\a.txt");
     Field other;
@@ -425,12 +425,12 @@ TEST_F(OutsideBrowse, TheFileBufferIsSharedAndNeverCleared)
 TEST_F(OutsideBrowse, NumericLocaleIsResetWhateverTheResult)
 {
     FakeDialog fake;
-    m_field.PrepareFileOpenBrowser(L"", L"", L"");
+    m_browse.PrepareFileOpenBrowser(L"", L"", L"");
     for (bool const ok : {false, true})
     {
         fake.ok = ok;
         fake.answer = folder + L"\\a.txt";
-        m_field.OnBrowse();
+        m_browse.OnBrowse();
         EXPECT_NE(fake.numericBefore, "C");
         EXPECT_STREQ(std::setlocale(LC_NUMERIC, nullptr), "C");
     }
@@ -439,20 +439,20 @@ TEST_F(OutsideBrowse, NumericLocaleIsResetWhateverTheResult)
 TEST_F(OutsideBrowse, ChosenAndCancelled)
 {
     FakeDialog fake;
-    m_field.PrepareFileOpenBrowser(L"", L"", L"");
-    m_field.SetNotifyTag(77);
-    m_field.SetWindowText(L"before");
+    m_browse.PrepareFileOpenBrowser(L"", L"", L"");
+    m_browse.SetNotifyTag(77);
+    m_browse.SetWindowText(L"before");
     m_host.seen.clear();
-    m_field.OnBrowse();
+    m_browse.OnBrowse();
     EXPECT_TRUE(Completed().empty());
-    EXPECT_EQ(TextOf(m_field), L"before");
+    EXPECT_EQ(TextOf(m_browse), L"before");
     fake.ok = true;
     fake.answer = folder + L"\\b.txt";
-    m_field.OnBrowse();
-    EXPECT_EQ(TextOf(m_field), folder + L"\\b.txt");
+    m_browse.OnBrowse();
+    EXPECT_EQ(TextOf(m_browse), folder + L"\\b.txt");
     EXPECT_EQ(Completed(), (EventList{{77, 0}}));
-    EXPECT_FALSE(m_field.SelectionChanged());
-    EXPECT_TRUE(m_field.m_pathList.IsEmpty());
+    EXPECT_FALSE(m_browse.SelectionChanged());
+    EXPECT_TRUE(m_browse.m_pathList.IsEmpty());
 }
 
 std::vector<std::wstring> Paths(CStringList const & list)
@@ -467,40 +467,40 @@ using PathList = std::vector<std::wstring>;
 TEST_F(OutsideBrowse, MultipleChoice)
 {
     FakeDialog fake;
-    m_field.PrepareFileOpenBrowser(L"", L"", L"");
-    m_field.m_multiSelect = true;
-    m_field.SetNotifyTag(3);
+    m_browse.PrepareFileOpenBrowser(L"", L"", L"");
+    m_browse.m_multiSelect = true;
+    m_browse.SetNotifyTag(3);
     fake.ok = true;
     m_host.seen.clear();
     std::wstring const zero(1, L'\0');
     fake.answer = folder + zero + L"a.txt" + zero + L"missing.txt" + zero + L"c.dat";
-    m_field.OnBrowse();
-    EXPECT_EQ(Paths(m_field.m_pathList), (PathList{folder + L"\\a.txt", folder + L"\\c.dat"}));
+    m_browse.OnBrowse();
+    EXPECT_EQ(Paths(m_browse.m_pathList), (PathList{folder + L"\\a.txt", folder + L"\\c.dat"}));
     EXPECT_EQ(Completed(), (EventList{{3, 0}}));
     // Of what is not asked to exist nothing is left out.
-    m_field.m_fileMustExist = false;
-    m_field.OnBrowse();
-    EXPECT_EQ(Paths(m_field.m_pathList),
+    m_browse.m_fileMustExist = false;
+    m_browse.OnBrowse();
+    EXPECT_EQ(Paths(m_browse.m_pathList),
               (PathList{folder + L"\\a.txt", folder + L"\\missing.txt", folder + L"\\c.dat"}));
     EXPECT_EQ(Completed(), (EventList{{3, 0}}));
     // None that exists: the field has been written, but nobody is told.
-    m_field.m_fileMustExist = true;
+    m_browse.m_fileMustExist = true;
     fake.answer = folder + zero + L"m1.txt" + zero + L"m2.txt";
-    m_field.SetWindowText(L"x");
-    m_field.OnBrowse();
-    EXPECT_TRUE(m_field.m_pathList.IsEmpty());
+    m_browse.SetWindowText(L"x");
+    m_browse.OnBrowse();
+    EXPECT_TRUE(m_browse.m_pathList.IsEmpty());
     EXPECT_TRUE(Completed().empty());
-    EXPECT_NE(TextOf(m_field), L"x");
+    EXPECT_NE(TextOf(m_browse), L"x");
     // One alone.
     fake.answer = folder + L"\\b.txt";
-    m_field.OnBrowse();
-    EXPECT_EQ(Paths(m_field.m_pathList), (PathList{folder + L"\\b.txt"}));
-    EXPECT_EQ(TextOf(m_field), folder + L"\\b.txt");
+    m_browse.OnBrowse();
+    EXPECT_EQ(Paths(m_browse.m_pathList), (PathList{folder + L"\\b.txt"}));
+    EXPECT_EQ(TextOf(m_browse), folder + L"\\b.txt");
     EXPECT_EQ(Completed(), (EventList{{3, 0}}));
     // Cancelled: the last choice stays.
     fake.ok = false;
-    m_field.OnBrowse();
-    EXPECT_EQ(m_field.m_pathList.GetCount(), 1);
+    m_browse.OnBrowse();
+    EXPECT_EQ(m_browse.m_pathList.GetCount(), 1);
     EXPECT_TRUE(Completed().empty());
 }
 
@@ -577,9 +577,9 @@ void TypeName(std::wstring const & name)
 
 TEST_F(OutsideBrowse, RealDialogNameTypedAndConfirmed)
 {
-    m_field.PrepareFileOpenBrowser(L"Text|*.txt||", L"txt", folder.c_str());
-    m_field.SetDlgTitle(L"Choose it");
-    m_field.SetNotifyTag(12);
+    m_browse.PrepareFileOpenBrowser(L"Text|*.txt||", L"txt", folder.c_str());
+    m_browse.SetDlgTitle(L"Choose it");
+    m_browse.SetNotifyTag(12);
     wchar_t directory[MAX_PATH] = {}, after[MAX_PATH] = {};
     ::GetCurrentDirectoryW(MAX_PATH, directory);
     m_host.seen.clear();
@@ -591,9 +591,9 @@ TEST_F(OutsideBrowse, RealDialogNameTypedAndConfirmed)
             tests::Key(VK_RETURN);
         },
         FileDialogIsUp);
-    m_field.OnBrowse();
+    m_browse.OnBrowse();
     EXPECT_EQ(title, L"Choose it");
-    EXPECT_EQ(TextOf(m_field), folder + L"\\a.txt");
+    EXPECT_EQ(TextOf(m_browse), folder + L"\\a.txt");
     EXPECT_EQ(Completed(), (EventList{{12, 0}}));
     ::GetCurrentDirectoryW(MAX_PATH, after);
     EXPECT_EQ(std::wstring(directory), std::wstring(after));
@@ -621,7 +621,7 @@ TEST_F(OutsideBrowse, RealDialogNameTypedAndConfirmed)
 
 TEST_F(OutsideBrowse, RealDialogOpenedByClickOnTheButton)
 {
-    m_field.PrepareFileOpenBrowser(L"Text|*.txt||", L"txt", folder.c_str());
+    m_browse.PrepareFileOpenBrowser(L"Text|*.txt||", L"txt", folder.c_str());
     ASSERT_TRUE(tests::BringToFront(m_host));
     m_host.seen.clear();
     m_actions.Add(
@@ -630,29 +630,29 @@ TEST_F(OutsideBrowse, RealDialogOpenedByClickOnTheButton)
             tests::Key(VK_RETURN);
         },
         FileDialogIsUp);
-    tests::Click(ButtonCentre(m_field));
-    EXPECT_TRUE(tests::PumpUntil([&] { return TextOf(m_field) == folder + L"\\b.txt"; }, std::chrono::seconds(60)));
+    tests::Click(ButtonCentre(m_browse));
+    EXPECT_TRUE(tests::PumpUntil([&] { return TextOf(m_browse) == folder + L"\\b.txt"; }, std::chrono::seconds(60)));
     EXPECT_EQ(Completed(), (EventList{{0, 0}}));
 }
 
 TEST_F(OutsideBrowse, RealDialogSaveAsAddsTheExtension)
 {
-    m_field.PrepareFileSaveAsBrowser(L"Text|*.txt||", L"txt", folder.c_str());
+    m_browse.PrepareFileSaveAsBrowser(L"Text|*.txt||", L"txt", folder.c_str());
     m_actions.Add(
         [&] {
             TypeName(folder + L"\\new");
             tests::Key(VK_RETURN);
         },
         FileDialogIsUp);
-    m_field.OnBrowse();
-    EXPECT_EQ(TextOf(m_field), folder + L"\\new.txt");
+    m_browse.OnBrowse();
+    EXPECT_EQ(TextOf(m_browse), folder + L"\\new.txt");
     EXPECT_EQ(::GetFileAttributesW((folder + L"\\new.txt").c_str()), INVALID_FILE_ATTRIBUTES);
 }
 
 TEST_F(OutsideBrowse, RealDialogOfSeveralFiles)
 {
-    m_field.PrepareFileOpenBrowser(L"All|*.*||", L"", folder.c_str());
-    m_field.m_multiSelect = true;
+    m_browse.PrepareFileOpenBrowser(L"All|*.*||", L"", folder.c_str());
+    m_browse.m_multiSelect = true;
     m_actions.Add(
         [&] {
             TypeName(L"\"a.txt\" \"c.dat\"");
@@ -660,8 +660,8 @@ TEST_F(OutsideBrowse, RealDialogOfSeveralFiles)
         },
         FileDialogIsUp);
     m_host.seen.clear();
-    m_field.OnBrowse();
-    EXPECT_EQ(Paths(m_field.m_pathList), (PathList{folder + L"\\a.txt", folder + L"\\c.dat"}));
+    m_browse.OnBrowse();
+    EXPECT_EQ(Paths(m_browse.m_pathList), (PathList{folder + L"\\a.txt", folder + L"\\c.dat"}));
     EXPECT_EQ(Completed(), (EventList{{0, 0}}));
 }
 
@@ -680,8 +680,8 @@ HWND Box(HWND fileDialog)
 
 TEST_F(OutsideBrowse, RealDialogAsksBeforeOverwriting)
 {
-    m_field.PrepareFileSaveAsBrowser(L"Text|*.txt||", L"txt", folder.c_str());
-    m_field.SetWindowText(L"stays");
+    m_browse.PrepareFileSaveAsBrowser(L"Text|*.txt||", L"txt", folder.c_str());
+    m_browse.SetWindowText(L"stays");
     HWND dialog = nullptr;
     bool asked = false;
     m_actions.Add(
@@ -705,25 +705,25 @@ TEST_F(OutsideBrowse, RealDialogAsksBeforeOverwriting)
         },
         [&] { return Box(dialog) == nullptr; });
     m_host.seen.clear();
-    m_field.OnBrowse();
+    m_browse.OnBrowse();
     EXPECT_TRUE(asked);
-    EXPECT_EQ(TextOf(m_field), L"stays");
+    EXPECT_EQ(TextOf(m_browse), L"stays");
     EXPECT_TRUE(Completed().empty());
-    m_field.m_overwritePrompt = false;
+    m_browse.m_overwritePrompt = false;
     m_actions.Add(
         [&] {
             TypeName(folder + L"\\a.txt");
             tests::Key(VK_RETURN);
         },
         FileDialogIsUp);
-    m_field.OnBrowse();
-    EXPECT_EQ(TextOf(m_field), folder + L"\\a.txt");
+    m_browse.OnBrowse();
+    EXPECT_EQ(TextOf(m_browse), folder + L"\\a.txt");
     EXPECT_EQ(Completed().size(), 1u);
 }
 
 TEST_F(OutsideBrowse, RealDialogRefusesAFileThatIsNotThere)
 {
-    m_field.PrepareFileOpenBrowser(L"Text|*.txt||", L"txt", folder.c_str());
+    m_browse.PrepareFileOpenBrowser(L"Text|*.txt||", L"txt", folder.c_str());
     HWND dialog = nullptr;
     bool refused = false;
     m_actions.Add(
@@ -746,18 +746,18 @@ TEST_F(OutsideBrowse, RealDialogRefusesAFileThatIsNotThere)
         },
         [&] { return Box(dialog) == nullptr; });
     m_host.seen.clear();
-    m_field.OnBrowse();
+    m_browse.OnBrowse();
     EXPECT_TRUE(refused);
     EXPECT_TRUE(Completed().empty());
-    m_field.m_fileMustExist = false;
+    m_browse.m_fileMustExist = false;
     m_actions.Add(
         [&] {
             TypeName(folder + L"\\new.txt");
             tests::Key(VK_RETURN);
         },
         FileDialogIsUp);
-    m_field.OnBrowse();
-    EXPECT_EQ(TextOf(m_field), folder + L"\\new.txt");
+    m_browse.OnBrowse();
+    EXPECT_EQ(TextOf(m_browse), folder + L"\\new.txt");
     EXPECT_EQ(Completed().size(), 1u);
 }
 
@@ -784,17 +784,17 @@ public:
         m_template.Add(L"Edit", L"", 33, CRect(5, 5, 100, 19), WS_TABSTOP);
         InitModalIndirect(m_template.Get(), parent);
     }
-    Field m_field;
+    Field m_browse;
     bool m_visibleAtBrowse = false;
 
 protected:
     BOOL OnInitDialog() override
     {
         CDialogEx::OnInitDialog();
-        m_field.SubclassDlgItem(33, this);
-        m_field.AddItem(1, L"one");
-        m_field.PrepareIdNameBrowser();
-        m_field.BrowseNow();
+        m_browse.SubclassDlgItem(33, this);
+        m_browse.AddItem(1, L"one");
+        m_browse.PrepareIdNameBrowser();
+        m_browse.BrowseNow();
         return TRUE;
     }
 
@@ -809,13 +809,15 @@ TEST_F(OutsideBrowse, BrowseNowFromADialogsInitialisation)
     m_actions.Add(
         [&] {
             dialog.m_visibleAtBrowse = dialog.IsWindowVisible() != FALSE;
-            dialog.m_field.m_dialog.PostMessage(WM_COMMAND, IDCANCEL);
+            dialog.m_browse.m_dialog.PostMessage(WM_COMMAND, IDCANCEL);
         },
-        [&] { return dialog.m_field.m_dialog.GetSafeHwnd() != nullptr && dialog.m_field.m_dialog.IsWindowVisible(); });
-    m_actions.Add([&] { dialog.EndDialog(IDOK); }, [&] { return dialog.m_field.m_dialog.GetSafeHwnd() == nullptr; });
+        [&] {
+            return dialog.m_browse.m_dialog.GetSafeHwnd() != nullptr && dialog.m_browse.m_dialog.IsWindowVisible();
+        });
+    m_actions.Add([&] { dialog.EndDialog(IDOK); }, [&] { return dialog.m_browse.m_dialog.GetSafeHwnd() == nullptr; });
     dialog.DoModal();
     EXPECT_TRUE(dialog.m_visibleAtBrowse);
-    EXPECT_EQ(dialog.m_field.browses, 1);
+    EXPECT_EQ(dialog.m_browse.browses, 1);
 }
 
 // --- Texts of a selection ---
@@ -863,19 +865,19 @@ class OutsideBrowseText : public OutsideBrowse
 protected:
     void Check(Map const & map, Ids const & ids)
     {
-        m_field.SetTheMap(map);
-        m_field.SetSelection(ids);
-        m_field.UpdateSelectionText();
-        EXPECT_EQ(TextOf(m_field), Expected(m_field, map, ids));
+        m_browse.SetTheMap(map);
+        m_browse.SetSelection(ids);
+        m_browse.UpdateSelectionText();
+        EXPECT_EQ(TextOf(m_browse), Expected(m_browse, map, ids));
     }
 };
 
 TEST_F(OutsideBrowseText, AsDefined)
 {
-    m_field.PrepareIdNameBrowser();
-    EXPECT_EQ(TextOf(m_field), L"\u2015\u2015");
-    EXPECT_TRUE(m_field.m_idNameMode);
-    EXPECT_NE(m_field.GetMode(), CMFCEditBrowseCtrl::BrowseMode_None);
+    m_browse.PrepareIdNameBrowser();
+    EXPECT_EQ(TextOf(m_browse), L"\u2015\u2015");
+    EXPECT_TRUE(m_browse.m_idNameMode);
+    EXPECT_NE(m_browse.GetMode(), CMFCEditBrowseCtrl::BrowseMode_None);
     Map const map{{1, L"A"}, {2, L"B"}, {3, L"name three"}, {4, L"another long name"}, {5, CString(L'w', 100)},
                   {6, L""}};
     for (Ids const & ids : {Ids{},
@@ -902,49 +904,49 @@ TEST_F(OutsideBrowseText, AsDefined)
         Check(map, ids);
         Check(Map{}, ids);
     }
-    m_field.SetTheMap(map);
-    m_field.SetSelection(Ids{1, 2});
-    m_field.UpdateSelectionText();
-    EXPECT_EQ(TextOf(m_field), L"A, B");
-    m_field.SetSelection(Ids{1, 5});
-    m_field.UpdateSelectionText();
-    EXPECT_EQ(TextOf(m_field), L"A, \u2026");
-    m_field.SetSelection(99);
-    m_field.UpdateSelectionText();
-    EXPECT_EQ(TextOf(m_field), L"");
-    m_field.ResetTheMap();
-    m_field.UpdateSelectionText();
-    EXPECT_EQ(TextOf(m_field), L"\u2015\u2015");
-    m_field.AddItem(1, L"one");
-    m_field.AddItem(1, L"uno");
-    m_field.SetSelection(1);
-    m_field.UpdateSelectionText();
-    EXPECT_EQ(TextOf(m_field), L"one");
-    m_field.SetSelectionAll();
-    EXPECT_EQ(TextOf(m_field), L"one");
-    EXPECT_EQ(m_field.TheSelection(), (Ids{-1}));
-    m_field.UpdateSelectionText();
-    std::wstring const all = TextOf(m_field);
+    m_browse.SetTheMap(map);
+    m_browse.SetSelection(Ids{1, 2});
+    m_browse.UpdateSelectionText();
+    EXPECT_EQ(TextOf(m_browse), L"A, B");
+    m_browse.SetSelection(Ids{1, 5});
+    m_browse.UpdateSelectionText();
+    EXPECT_EQ(TextOf(m_browse), L"A, \u2026");
+    m_browse.SetSelection(99);
+    m_browse.UpdateSelectionText();
+    EXPECT_EQ(TextOf(m_browse), L"");
+    m_browse.ResetTheMap();
+    m_browse.UpdateSelectionText();
+    EXPECT_EQ(TextOf(m_browse), L"\u2015\u2015");
+    m_browse.AddItem(1, L"one");
+    m_browse.AddItem(1, L"uno");
+    m_browse.SetSelection(1);
+    m_browse.UpdateSelectionText();
+    EXPECT_EQ(TextOf(m_browse), L"one");
+    m_browse.SetSelectionAll();
+    EXPECT_EQ(TextOf(m_browse), L"one");
+    EXPECT_EQ(m_browse.TheSelection(), (Ids{-1}));
+    m_browse.UpdateSelectionText();
+    std::wstring const all = TextOf(m_browse);
     EXPECT_TRUE(all == L"(alle)" || all == L"(all)" || all == L"(todos)");
-    m_field.SetSelectionNone();
-    EXPECT_TRUE(m_field.TheSelection().empty());
-    EXPECT_EQ(TextOf(m_field), all);
-    m_field.UpdateSelectionText();
-    EXPECT_EQ(TextOf(m_field), L"\u2015\u2015");
+    m_browse.SetSelectionNone();
+    EXPECT_TRUE(m_browse.TheSelection().empty());
+    EXPECT_EQ(TextOf(m_browse), all);
+    m_browse.UpdateSelectionText();
+    EXPECT_EQ(TextOf(m_browse), L"\u2015\u2015");
 }
 
 TEST_F(OutsideBrowseText, ExactlyAtTheLimitTheNameStillFits)
 {
-    m_field.PrepareIdNameBrowser();
+    m_browse.PrepareIdNameBrowser();
     Map const map{{1, L"first"}, {2, L"second"}};
-    int const need = WidthInFont(m_field, L"first, ") + WidthInFont(m_field, L"second");
+    int const need = WidthInFont(m_browse, L"first, ") + WidthInFont(m_browse, L"second");
     for (int const more : {-1, 0, 1})
     {
-        m_field.SetWindowPos(nullptr, 0, 0, need + 50 + more, 24, SWP_NOMOVE | SWP_NOZORDER);
-        m_field.SetTheMap(map);
-        m_field.SetSelection(Ids{1, 2});
-        m_field.UpdateSelectionText();
-        EXPECT_EQ(TextOf(m_field), more < 0 ? L"first, \u2026" : L"first, second") << more;
+        m_browse.SetWindowPos(nullptr, 0, 0, need + 50 + more, 24, SWP_NOMOVE | SWP_NOZORDER);
+        m_browse.SetTheMap(map);
+        m_browse.SetSelection(Ids{1, 2});
+        m_browse.UpdateSelectionText();
+        EXPECT_EQ(TextOf(m_browse), more < 0 ? L"first, \u2026" : L"first, second") << more;
     }
 }
 
@@ -952,8 +954,8 @@ TEST_F(OutsideBrowseText, InTheFieldsFontAndForAnyWidth)
 {
     CFont big;
     big.CreatePointFont(160, L"Tahoma");
-    m_field.SetFont(&big);
-    m_field.PrepareIdNameBrowser();
+    m_browse.SetFont(&big);
+    m_browse.PrepareIdNameBrowser();
     Map map;
     for (int i = 0; i < 20; ++i)
     {
@@ -966,41 +968,41 @@ TEST_F(OutsideBrowseText, InTheFieldsFontAndForAnyWidth)
         ids.insert(i);
     for (int const width : {10, 49, 50, 51, 100, 137, 200, 333, 500, 2000})
     {
-        m_field.SetWindowPos(nullptr, 0, 0, width, 24, SWP_NOMOVE | SWP_NOZORDER);
+        m_browse.SetWindowPos(nullptr, 0, 0, width, 24, SWP_NOMOVE | SWP_NOZORDER);
         Check(map, ids);
     }
 }
 
 TEST_F(OutsideBrowseText, SizingRebuildsTheTextInIdNameModeAlone)
 {
-    m_field.SetTheMap(Map{{1, L"first"}, {2, CString(L'w', 12)}});
-    m_field.SetSelection(Ids{1, 2});
-    m_field.SetWindowText(L"mine");
-    m_field.SetWindowPos(nullptr, 0, 0, 300, 24, SWP_NOMOVE | SWP_NOZORDER);
-    EXPECT_EQ(TextOf(m_field), L"mine");
-    m_field.PrepareIdNameBrowser();
-    m_field.SetWindowPos(nullptr, 0, 0, 100, 24, SWP_NOMOVE | SWP_NOZORDER);
-    EXPECT_EQ(TextOf(m_field), L"first, \u2026");
-    m_field.SetWindowPos(nullptr, 0, 0, 600, 24, SWP_NOMOVE | SWP_NOZORDER);
-    EXPECT_EQ(TextOf(m_field), L"first, wwwwwwwwwwww");
+    m_browse.SetTheMap(Map{{1, L"first"}, {2, CString(L'w', 12)}});
+    m_browse.SetSelection(Ids{1, 2});
+    m_browse.SetWindowText(L"mine");
+    m_browse.SetWindowPos(nullptr, 0, 0, 300, 24, SWP_NOMOVE | SWP_NOZORDER);
+    EXPECT_EQ(TextOf(m_browse), L"mine");
+    m_browse.PrepareIdNameBrowser();
+    m_browse.SetWindowPos(nullptr, 0, 0, 100, 24, SWP_NOMOVE | SWP_NOZORDER);
+    EXPECT_EQ(TextOf(m_browse), L"first, \u2026");
+    m_browse.SetWindowPos(nullptr, 0, 0, 600, 24, SWP_NOMOVE | SWP_NOZORDER);
+    EXPECT_EQ(TextOf(m_browse), L"first, wwwwwwwwwwww");
 }
 
 TEST_F(OutsideBrowseText, WrittenOnlyWhenItDiffers)
 {
-    m_field.PrepareIdNameBrowser();
-    m_field.SetTheMap(Map{{1, L"one"}});
-    m_field.SetSelection(1);
+    m_browse.PrepareIdNameBrowser();
+    m_browse.SetTheMap(Map{{1, L"one"}});
+    m_browse.SetSelection(1);
     tests::MessageRecorder recorder({WM_SETTEXT});
-    recorder.Watch(m_field.m_hWnd, "field");
-    m_field.UpdateSelectionText();
+    recorder.Watch(m_browse.m_hWnd, "field");
+    m_browse.UpdateSelectionText();
     EXPECT_EQ(recorder.Count("field", WM_SETTEXT), 1);
-    m_field.UpdateSelectionText();
+    m_browse.UpdateSelectionText();
     EXPECT_EQ(recorder.Count("field", WM_SETTEXT), 1);
 }
 
 TEST_F(OutsideBrowseText, FiveThousandAndWithoutAWindow)
 {
-    m_field.PrepareIdNameBrowser();
+    m_browse.PrepareIdNameBrowser();
     Map map;
     Ids ids;
     for (int i = 0; i < 5000; ++i)
@@ -1025,9 +1027,9 @@ protected:
     void SetUp() override
     {
         OutsideBrowse::SetUp();
-        m_field.SetTheMap(Map{{1, L"one"}, {2, L"two"}, {3, L"three"}});
-        m_field.PrepareIdNameBrowser();
-        m_field.SetNotifyTag(31);
+        m_browse.SetTheMap(Map{{1, L"one"}, {2, L"two"}, {3, L"three"}});
+        m_browse.PrepareIdNameBrowser();
+        m_browse.SetNotifyTag(31);
         ASSERT_TRUE(tests::BringToFront(m_host));
         m_host.seen.clear();
     }
@@ -1036,7 +1038,7 @@ protected:
         return field.m_dialog.GetSafeHwnd() != nullptr && field.m_dialog.IsWindowVisible() &&
                static_cast<Multi &>(field.m_dialog.m_control).m_controlsCreated;
     }
-    Multi & Inner() { return static_cast<Multi &>(m_field.m_dialog.m_control); }
+    Multi & Inner() { return static_cast<Multi &>(m_browse.m_dialog.m_control); }
 };
 
 TEST_F(OutsideBrowseDrop, PlaceOfTheDropDown)
@@ -1080,12 +1082,12 @@ TEST_F(OutsideBrowseDrop, RealClickTickAndOk)
             Inner().m_list.GetItemRect(1, label, LVIR_LABEL);
             tests::Click(tests::ClientPoint(Inner().m_list, CPoint(label.left + 3, label.CenterPoint().y)));
         },
-        [&] { return Open(m_field); });
+        [&] { return Open(m_browse); });
     m_actions.Add([&] { tests::Click(tests::Centre(Inner().m_ok)); }, [&] { return Inner().m_list.GetCheck(1) == 1; });
-    tests::Click(ButtonCentre(m_field));
-    ASSERT_TRUE(tests::PumpUntil([&] { return m_field.SelectionChanged(); }, std::chrono::seconds(60)));
-    EXPECT_EQ(m_field.TheSelection(), (Ids{2}));
-    EXPECT_EQ(TextOf(m_field), L"two");
+    tests::Click(ButtonCentre(m_browse));
+    ASSERT_TRUE(tests::PumpUntil([&] { return m_browse.SelectionChanged(); }, std::chrono::seconds(60)));
+    EXPECT_EQ(m_browse.TheSelection(), (Ids{2}));
+    EXPECT_EQ(TextOf(m_browse), L"two");
     EXPECT_EQ(Completed(), (EventList{{31, 0}}));
     // Cancelled: what was accepted before counts no more as changed.
     m_actions.Add(
@@ -1093,39 +1095,39 @@ TEST_F(OutsideBrowseDrop, RealClickTickAndOk)
             Inner().m_list.SetCheck(0, TRUE);
             tests::Click(tests::Centre(Inner().m_cancel));
         },
-        [&] { return Open(m_field); });
-    m_field.OnBrowse();
-    EXPECT_FALSE(m_field.SelectionChanged());
-    EXPECT_EQ(m_field.TheSelection(), (Ids{2}));
-    EXPECT_EQ(TextOf(m_field), L"two");
+        [&] { return Open(m_browse); });
+    m_browse.OnBrowse();
+    EXPECT_FALSE(m_browse.SelectionChanged());
+    EXPECT_EQ(m_browse.TheSelection(), (Ids{2}));
+    EXPECT_EQ(TextOf(m_browse), L"two");
     EXPECT_TRUE(Completed().empty());
     // All ticked: the text for all.
-    m_actions.Add([&] { tests::Click(tests::Centre(Inner().m_selectAll)); }, [&] { return Open(m_field); });
+    m_actions.Add([&] { tests::Click(tests::Centre(Inner().m_selectAll)); }, [&] { return Open(m_browse); });
     m_actions.Add([&] { tests::Key(VK_RETURN); },
-                  [&] { return m_field.m_dialog.m_control.TheSelection().size() == 4; });
-    m_field.OnBrowse();
-    EXPECT_EQ(m_field.TheSelection(), (Ids{-1, 1, 2, 3}));
-    EXPECT_EQ(TextOf(m_field), W(ToolkitString(13)));
-    EXPECT_TRUE(m_field.SelectionChanged());
-    m_field.SelectionAcknowledged();
-    EXPECT_FALSE(m_field.SelectionChanged());
+                  [&] { return m_browse.m_dialog.m_control.TheSelection().size() == 4; });
+    m_browse.OnBrowse();
+    EXPECT_EQ(m_browse.TheSelection(), (Ids{-1, 1, 2, 3}));
+    EXPECT_EQ(TextOf(m_browse), W(ToolkitString(13)));
+    EXPECT_TRUE(m_browse.SelectionChanged());
+    m_browse.SelectionAcknowledged();
+    EXPECT_FALSE(m_browse.SelectionChanged());
 }
 
 TEST_F(OutsideBrowseDrop, DropDownStartsWithTheFieldsSelection)
 {
-    m_field.SetSelection(Ids{1, 3});
+    m_browse.SetSelection(Ids{1, 3});
     std::wstring rows;
     m_actions.Add(
         [&] {
             for (int i = 0; i < Inner().m_list.GetItemCount(); ++i)
                 rows += W(Inner().m_list.GetItemText(i, 0)) + (Inner().m_list.GetCheck(i) != 0 ? L"+ " : L" ");
-            m_field.m_dialog.PostMessage(WM_COMMAND, IDOK);
+            m_browse.m_dialog.PostMessage(WM_COMMAND, IDOK);
         },
-        [&] { return Open(m_field); });
-    m_field.ShowIdNameBrowser();
+        [&] { return Open(m_browse); });
+    m_browse.ShowIdNameBrowser();
     EXPECT_EQ(rows, L"one+ three+ two ");
-    EXPECT_TRUE(m_field.SelectionChanged());
-    EXPECT_EQ(TextOf(m_field), L"one, three");
+    EXPECT_TRUE(m_browse.SelectionChanged());
+    EXPECT_EQ(TextOf(m_browse), L"one, three");
     // It tells nobody by itself.
     EXPECT_TRUE(Completed().empty());
 }
@@ -1167,18 +1169,18 @@ TEST_F(OutsideBrowseDrop, FieldEndsWhileTheDropDownIsOpen)
 
 TEST_F(OutsideBrowseDrop, EmptyMapDrop)
 {
-    m_field.ResetTheMap();
-    m_field.SetSelection(Ids{1});
+    m_browse.ResetTheMap();
+    m_browse.SetSelection(Ids{1});
     m_actions.Add(
         [&] {
             Inner().m_list.SetCheck(0, TRUE);
-            m_field.m_dialog.PostMessage(WM_COMMAND, IDOK);
+            m_browse.m_dialog.PostMessage(WM_COMMAND, IDOK);
         },
-        [&] { return Open(m_field); });
-    m_field.OnBrowse();
-    EXPECT_TRUE(m_field.TheSelection().empty());
-    EXPECT_TRUE(m_field.SelectionChanged());
-    EXPECT_EQ(TextOf(m_field), L"\u2015\u2015");
+        [&] { return Open(m_browse); });
+    m_browse.OnBrowse();
+    EXPECT_TRUE(m_browse.TheSelection().empty());
+    EXPECT_TRUE(m_browse.SelectionChanged());
+    EXPECT_EQ(TextOf(m_browse), L"\u2015\u2015");
     EXPECT_EQ(Completed(), (EventList{{31, 0}}));
 }
 } // namespace

@@ -1,8 +1,8 @@
 // The colour button: its paint is compared with a painter written after the definition.
 
-#include "ControlTest.h"
-
 #include <type_traits>
+
+#include "ControlTest.h"
 
 namespace outside::controls
 {
@@ -155,7 +155,7 @@ TEST_F(OutsideColorButton, Shape)
                                   &m_button.m_disabledIcon, &m_button.m_iconSize};
     for (std::size_t i = 1; i < std::size(order); ++i)
         EXPECT_LT(order[i - 1], order[i]);
-    auto const entries = EntriesOf(Button::GetThisMessageMap());
+    std::vector<MapEntry> const entries = EntriesOf(Button::GetThisMessageMap());
     EXPECT_TRUE(Handles(entries, WM_MOUSEMOVE));
     EXPECT_TRUE(Handles(entries, WM_TIMER));
     EXPECT_EQ(entries.size(), 2u);

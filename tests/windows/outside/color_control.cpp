@@ -1,8 +1,8 @@
 // The colour set of a control.
 
-#include "ControlTest.h"
-
 #include <type_traits>
+
+#include "ControlTest.h"
 
 namespace outside::controls
 {

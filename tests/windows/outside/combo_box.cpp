@@ -37,7 +37,7 @@ protected:
 std::map<int, CString> Map(std::initializer_list<std::pair<int const, wchar_t const *>> items)
 {
     std::map<int, CString> map;
-    for (auto const & each : items)
+    for (std::pair<int const, wchar_t const *> const & each : items)
         map[each.first] = each.second;
     return map;
 }
@@ -84,11 +84,11 @@ TEST_F(OutsideCombo, DefaultsAndMap)
                                   &c.m_autoComplete, &c.m_completeNow, &c.m_autoFit};
     for (std::size_t i = 1; i < std::size(order); ++i)
         EXPECT_LT(order[i - 1], order[i]);
-    auto const entries = EntriesOf(Combo::GetThisMessageMap());
+    std::vector<MapEntry> const entries = EntriesOf(Combo::GetThisMessageMap());
     EXPECT_TRUE(Handles(entries, WM_MOUSEMOVE));
     EXPECT_TRUE(Handles(entries, WM_TIMER));
     bool update = false;
-    for (auto const & each : entries)
+    for (MapEntry const & each : entries)
         update = update || each.code == CBN_EDITUPDATE;
     EXPECT_TRUE(update);
     EXPECT_EQ(entries.size(), 3u);
@@ -611,7 +611,7 @@ protected:
     tests::ReceivedMessage const * Last(UINT message) const
     {
         tests::ReceivedMessage const * found = nullptr;
-        for (auto const & each : m_recorder.Received())
+        for (tests::ReceivedMessage const & each : m_recorder.Received())
         {
             if (each.message == message)
                 found = &each;
@@ -661,7 +661,7 @@ TEST_F(OutsideComboTip, TooWideATextShowsTheTipOverTheText)
     EXPECT_EQ(Last(TTM_SETTIPTEXTCOLOR)->wParam, ::GetSysColor(COLOR_HIGHLIGHTTEXT));
     // The order in which it is told.
     std::vector<UINT> order;
-    for (auto const & each : m_recorder.Received())
+    for (tests::ReceivedMessage const & each : m_recorder.Received())
         order.push_back(each.message);
     EXPECT_EQ(order, (std::vector<UINT>{TTM_SETTIPBKCOLOR, TTM_SETTIPTEXTCOLOR, TTM_UPDATETIPTEXTW, TTM_TRACKPOSITION,
                                         TTM_TRACKACTIVATE}));

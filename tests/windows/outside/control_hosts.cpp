@@ -1,7 +1,6 @@
 // Hosts that end a control from inside its notifications, and controls without a parent.
 
 #include "ControlTest.h"
-
 #include "GuardedHeap.h"
 
 namespace outside::controls

@@ -1,8 +1,8 @@
 // Texts of the multiselect in the three languages, and the stored template of its dialog.
 
-#include "ControlTest.h"
-
 #include <cstring>
+
+#include "ControlTest.h"
 
 namespace outside::controls
 {

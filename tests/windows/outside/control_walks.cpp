@@ -1,11 +1,11 @@
 // Random walks beside plain models of what the controls must do. Seeds are fixed.
 
-#include "ControlTest.h"
-
 #include <algorithm>
 #include <list>
 #include <memory>
 #include <random>
+
+#include "ControlTest.h"
 
 namespace outside::controls
 {
@@ -52,12 +52,12 @@ public:
     {
         if (self)
             all.push_back(&node);
-        for (auto const & child : node.children)
+        for (std::unique_ptr<Node> const & child : node.children)
             Collect(*child, all);
     }
     void Give(Node & node)
     {
-        for (auto const & child : node.children)
+        for (std::unique_ptr<Node> const & child : node.children)
             Give(*child);
         node.children.clear();
         auto const at = std::find(inUse.begin(), inUse.end(), node.record);
@@ -183,7 +183,7 @@ void WalkTree(unsigned seed)
                 break;
             case 12: {
                 std::vector<Node *> reach;
-                auto & siblings = node.parent->children;
+                std::vector<std::unique_ptr<Node>> & siblings = node.parent->children;
                 auto at =
                     std::find_if(siblings.begin(), siblings.end(), [&](auto const & e) { return e.get() == &node; });
                 for (; at != siblings.end(); ++at)
@@ -218,7 +218,7 @@ void WalkTree(unsigned seed)
             }
             case 14: {
                 HTREEITEM expected = nullptr;
-                for (auto const & child : node.children)
+                for (std::unique_ptr<Node> const & child : node.children)
                 {
                     if (expected == nullptr && Match(*child, type, id, asked, text, exact))
                         expected = child->handle;
@@ -230,14 +230,14 @@ void WalkTree(unsigned seed)
             case 16: {
                 tree.DeleteTreeItem(node.handle);
                 model.Give(node);
-                auto & siblings = node.parent->children;
+                std::vector<std::unique_ptr<Node>> & siblings = node.parent->children;
                 siblings.erase(
                     std::find_if(siblings.begin(), siblings.end(), [&](auto const & e) { return e.get() == &node; }));
                 break;
             }
             case 17:
                 tree.DeleteAllSubItems(node.handle);
-                for (auto const & child : node.children)
+                for (std::unique_ptr<Node> const & child : node.children)
                     model.Give(*child);
                 node.children.clear();
                 break;
@@ -318,7 +318,7 @@ TEST(OutsideRandom, Multiselect)
             map[id] = name.c_str();
         }
         Ids selection;
-        for (auto const & each : map)
+        for (std::pair<int const, CString> const & each : map)
         {
             if (below(2) == 0)
                 selection.insert(each.first);
@@ -343,7 +343,7 @@ TEST(OutsideRandom, Multiselect)
         std::vector<Row> first, second, rows;
         for (auto const & [id, name] : map)
             (grouped && selection.count(id) != 0 ? first : second).push_back({id, W(name)});
-        for (auto * const group : {&first, &second})
+        for (std::vector<Row> * const group : {&first, &second})
         {
             if (sorted && !ids)
             {
@@ -497,12 +497,12 @@ TEST(OutsideRandom, ComboAndListBox)
                 values.push_back(-1);
                 Map with = map;
                 list.FillItems(std::list<CString>{L"\u2014"}, -1, true);
-                for (auto const & each : map)
+                for (std::pair<int const, CString> const & each : map)
                     list.AddItem(each.second, each.first);
             }
             else
                 list.FillItems(map);
-            for (auto const & each : map)
+            for (std::pair<int const, CString> const & each : map)
                 values.push_back(each.first);
             selected = -1;
             break;

@@ -1,11 +1,10 @@
 // Frames without a document, as their users see them.
 
-#include "OutsideTest.h"
-
 #include <algorithm>
 #include <memory>
 #include <type_traits>
 
+#include "OutsideTest.h"
 #include "Pump.h"
 #include "TestApp.h"
 

@@ -1,9 +1,9 @@
 // Icon button and level slider: paint compared with painters written after the definition.
 
-#include "ControlTest.h"
-
 #include <algorithm>
 #include <cstdlib>
+
+#include "ControlTest.h"
 
 namespace outside::controls
 {
@@ -224,7 +224,7 @@ TEST(OutsideLevelSlider, RuntimeClassAndMap)
 {
     EXPECT_STREQ(RUNTIME_CLASS(CLevelSliderCtrl)->m_lpszClassName, "CLevelSliderCtrl");
     EXPECT_EQ(CLevelSliderCtrl::classCLevelSliderCtrl.m_pfnGetBaseClass(), RUNTIME_CLASS(CSliderCtrl));
-    auto const entries = EntriesOf(Slider::GetThisMessageMap());
+    std::vector<MapEntry> const entries = EntriesOf(Slider::GetThisMessageMap());
     ASSERT_EQ(entries.size(), 1u);
     EXPECT_EQ(entries[0].code & 0xFFFF, static_cast<UINT>(NM_CUSTOMDRAW) & 0xFFFF);
 }

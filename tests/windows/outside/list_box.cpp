@@ -1,8 +1,8 @@
 // The extended list box.
 
-#include "ControlTest.h"
-
 #include <cstring>
+
+#include "ControlTest.h"
 
 namespace outside::controls
 {
@@ -18,7 +18,7 @@ public:
 std::map<int, CString> Map(std::initializer_list<std::pair<int const, wchar_t const *>> items)
 {
     std::map<int, CString> map;
-    for (auto const & each : items)
+    for (std::pair<int const, wchar_t const *> const & each : items)
         map[each.first] = each.second;
     return map;
 }
@@ -52,10 +52,10 @@ protected:
 
 TEST_F(OutsideListBox, MessageMap)
 {
-    auto const entries = EntriesOf(List::GetThisMessageMap());
+    std::vector<MapEntry> const entries = EntriesOf(List::GetThisMessageMap());
     ASSERT_EQ(entries.size(), 2u);
     bool wide = false, narrow = false;
-    for (auto const & each : entries)
+    for (MapEntry const & each : entries)
     {
         EXPECT_EQ(each.message, static_cast<UINT>(WM_NOTIFY));
         EXPECT_EQ(each.first, 0u);

@@ -1,7 +1,5 @@
 // What a main frame keeps: panes by identifier, dynamic commands, marked popups.
 
-#include "OutsideTest.h"
-
 #include <afxpopupmenu.h>
 #include <afxtoolbarmenubutton.h>
 
@@ -10,6 +8,7 @@
 #include <set>
 #include <type_traits>
 
+#include "OutsideTest.h"
 #include "Pump.h"
 #include "TestApp.h"
 

@@ -1,9 +1,9 @@
 // The id-name multiselect: list, composite control, dialog.
 
-#include "ControlTest.h"
-
 #include <algorithm>
 #include <type_traits>
+
+#include "ControlTest.h"
 
 namespace outside::controls
 {
@@ -62,41 +62,41 @@ class OutsideMultiselect : public testing::Test
 protected:
     void Make(CRect const & rect = CRect(10, 10, 212, 212), DWORD style = WS_VISIBLE)
     {
-        ASSERT_TRUE(m_multi.Create(L"Button1", WS_CHILD | style, rect, m_host, 1016));
+        ASSERT_TRUE(m_multiselect.Create(L"Button1", WS_CHILD | style, rect, m_host, 1016));
     }
     void TearDown() override
     {
         m_host.hook = nullptr;
-        if (m_multi.GetSafeHwnd() != nullptr)
-            m_multi.DestroyWindow();
+        if (m_multiselect.GetSafeHwnd() != nullptr)
+            m_multiselect.DestroyWindow();
     }
     std::wstring Rows()
     {
         std::wstring all;
-        for (int i = 0; i < m_multi.m_list.GetItemCount(); ++i)
-            all += W(m_multi.m_list.GetItemText(i, 0)) + (m_multi.m_list.GetCheck(i) == 1 ? L"+ " : L" ");
+        for (int i = 0; i < m_multiselect.m_list.GetItemCount(); ++i)
+            all += W(m_multiselect.m_list.GetItemText(i, 0)) + (m_multiselect.m_list.GetCheck(i) == 1 ? L"+ " : L" ");
         return all;
     }
     CRect PlaceOf(CWnd & window)
     {
         CRect rect;
         window.GetWindowRect(rect);
-        m_multi.ScreenToClient(rect);
+        m_multiselect.ScreenToClient(rect);
         return rect;
     }
-    void Fill() { m_multi.SetTheMap(Map{{1, L"d"}, {2, L"b"}, {3, L"c"}, {4, L"a"}}); }
+    void Fill() { m_multiselect.SetTheMap(Map{{1, L"d"}, {2, L"b"}, {3, L"c"}, {4, L"a"}}); }
     std::vector<std::pair<WPARAM, LPARAM>> Events()
     {
         tests::PumpPosted();
         std::vector<std::pair<WPARAM, LPARAM>> events;
-        for (auto const & each : m_host.Of(WM_IDNAME_MULTISELECT_EVENT))
+        for (Host::Seen const & each : m_host.Of(WM_IDNAME_MULTISELECT_EVENT))
             events.push_back({each.wParam, each.lParam});
         m_host.seen.clear();
         return events;
     }
     using EventList = std::vector<std::pair<WPARAM, LPARAM>>;
     Host m_host;
-    Multi m_multi;
+    Multi m_multiselect;
 };
 
 TEST_F(OutsideMultiselect, ClassesMapsAndDefaults)
@@ -109,33 +109,33 @@ TEST_F(OutsideMultiselect, ClassesMapsAndDefaults)
     EXPECT_STREQ(RUNTIME_CLASS(CIdNameMultiselectDlg)->m_lpszClassName, "CIdNameMultiselectDlg");
     EXPECT_EQ(CIdNameMultiselectDlg::classCIdNameMultiselectDlg.m_pfnGetBaseClass(), RUNTIME_CLASS(CDialogEx));
     EXPECT_EQ(WM_IDNAME_MULTISELECT_EVENT, ::RegisterWindowMessageW(L"WM_IDNAME_MULTISELECT_EVENT"));
-    EXPECT_TRUE(m_multi.m_theMap.empty());
-    EXPECT_TRUE(m_multi.m_theSelection.empty());
-    EXPECT_FALSE(m_multi.m_selectionRetrieved);
-    EXPECT_FALSE(m_multi.m_okCancel);
-    EXPECT_TRUE(m_multi.m_grouped);
-    EXPECT_FALSE(m_multi.m_sorted);
-    EXPECT_FALSE(m_multi.m_showIds);
-    EXPECT_TRUE(m_multi.m_emptyMapMessage.IsEmpty());
-    EXPECT_FALSE(m_multi.m_controlsCreated);
-    void const * const order[] = {&m_multi.m_theMap,
-                                  &m_multi.m_theSelection,
-                                  &m_multi.m_selectionRetrieved,
-                                  &m_multi.m_okCancel,
-                                  &m_multi.m_grouped,
-                                  &m_multi.m_sorted,
-                                  &m_multi.m_showIds,
-                                  &m_multi.m_emptyMapMessage,
-                                  &m_multi.m_controlsCreated,
-                                  &m_multi.m_list,
-                                  &m_multi.m_selectAll,
-                                  &m_multi.m_selectNone,
-                                  &m_multi.m_cancel,
-                                  &m_multi.m_ok,
-                                  &m_multi.m_toolTip};
+    EXPECT_TRUE(m_multiselect.m_theMap.empty());
+    EXPECT_TRUE(m_multiselect.m_theSelection.empty());
+    EXPECT_FALSE(m_multiselect.m_selectionRetrieved);
+    EXPECT_FALSE(m_multiselect.m_okCancel);
+    EXPECT_TRUE(m_multiselect.m_grouped);
+    EXPECT_FALSE(m_multiselect.m_sorted);
+    EXPECT_FALSE(m_multiselect.m_showIds);
+    EXPECT_TRUE(m_multiselect.m_emptyMapMessage.IsEmpty());
+    EXPECT_FALSE(m_multiselect.m_controlsCreated);
+    void const * const order[] = {&m_multiselect.m_theMap,
+                                  &m_multiselect.m_theSelection,
+                                  &m_multiselect.m_selectionRetrieved,
+                                  &m_multiselect.m_okCancel,
+                                  &m_multiselect.m_grouped,
+                                  &m_multiselect.m_sorted,
+                                  &m_multiselect.m_showIds,
+                                  &m_multiselect.m_emptyMapMessage,
+                                  &m_multiselect.m_controlsCreated,
+                                  &m_multiselect.m_list,
+                                  &m_multiselect.m_selectAll,
+                                  &m_multiselect.m_selectNone,
+                                  &m_multiselect.m_cancel,
+                                  &m_multiselect.m_ok,
+                                  &m_multiselect.m_toolTip};
     for (std::size_t i = 1; i < std::size(order); ++i)
         EXPECT_LT(order[i - 1], order[i]) << i;
-    auto const entries = EntriesOf(Multi::GetThisMessageMap());
+    std::vector<MapEntry> const entries = EntriesOf(Multi::GetThisMessageMap());
     EXPECT_TRUE(Handles(entries, WM_SIZE));
     EXPECT_TRUE(Handles(entries, WM_DESTROY));
     EXPECT_TRUE(Handles(entries, 32802));
@@ -146,83 +146,83 @@ TEST_F(OutsideMultiselect, ClassesMapsAndDefaults)
         })) << id;
     }
     EXPECT_EQ(entries.size(), 7u);
-    auto const rows = EntriesOf(RowList::GetThisMessageMap());
+    std::vector<MapEntry> const rows = EntriesOf(RowList::GetThisMessageMap());
     ASSERT_EQ(rows.size(), 1u);
     EXPECT_EQ(rows[0].message, static_cast<UINT>(WM_LBUTTONDOWN));
 }
 
 TEST_F(OutsideMultiselect, DataWithoutAWindow)
 {
-    m_multi.AddItem(3, L"three");
-    m_multi.AddItem(3, L"other");
-    m_multi.AddItem(1, L"one");
-    EXPECT_EQ(m_multi.TheMap().size(), 2u);
-    EXPECT_EQ(W(m_multi.GetName(3)), L"three");
-    EXPECT_EQ(W(m_multi.GetName(99)), L"");
-    EXPECT_EQ(&m_multi.GetName(99), &m_multi.GetName(98));
+    m_multiselect.AddItem(3, L"three");
+    m_multiselect.AddItem(3, L"other");
+    m_multiselect.AddItem(1, L"one");
+    EXPECT_EQ(m_multiselect.TheMap().size(), 2u);
+    EXPECT_EQ(W(m_multiselect.GetName(3)), L"three");
+    EXPECT_EQ(W(m_multiselect.GetName(99)), L"");
+    EXPECT_EQ(&m_multiselect.GetName(99), &m_multiselect.GetName(98));
     Multi other;
-    EXPECT_EQ(&other.GetName(5), &m_multi.GetName(98));
-    m_multi.SetTheMap(Map{{7, L"x"}});
-    EXPECT_EQ(m_multi.TheMap().size(), 1u);
-    m_multi.ResetTheMap();
-    EXPECT_TRUE(m_multi.TheMap().empty());
-    m_multi.SetSelection(Ids{1, 2});
-    EXPECT_EQ(m_multi.TheSelection(), (Ids{1, 2}));
-    m_multi.SetSelection(5);
-    EXPECT_EQ(m_multi.TheSelection(), (Ids{5}));
-    m_multi.SetSelectionAll();
-    EXPECT_EQ(m_multi.TheSelection(), (Ids{-1}));
-    m_multi.SetSelectionNone();
-    EXPECT_TRUE(m_multi.TheSelection().empty());
-    m_multi.ShowIds(true);
-    m_multi.ShowGroupedSelection(false);
-    m_multi.SortAlphabetically(true);
-    m_multi.EnableOkCancel();
-    m_multi.SetEmptyMapMessage(L"nothing");
-    EXPECT_TRUE(m_multi.m_showIds);
-    EXPECT_FALSE(m_multi.m_grouped);
-    EXPECT_TRUE(m_multi.m_sorted);
-    EXPECT_TRUE(m_multi.m_okCancel);
-    EXPECT_EQ(W(m_multi.m_emptyMapMessage), L"nothing");
-    EXPECT_FALSE(m_multi.SelectionRetrieved());
-    m_multi.RefreshContent();
-    m_multi.RefreshSelection();
+    EXPECT_EQ(&other.GetName(5), &m_multiselect.GetName(98));
+    m_multiselect.SetTheMap(Map{{7, L"x"}});
+    EXPECT_EQ(m_multiselect.TheMap().size(), 1u);
+    m_multiselect.ResetTheMap();
+    EXPECT_TRUE(m_multiselect.TheMap().empty());
+    m_multiselect.SetSelection(Ids{1, 2});
+    EXPECT_EQ(m_multiselect.TheSelection(), (Ids{1, 2}));
+    m_multiselect.SetSelection(5);
+    EXPECT_EQ(m_multiselect.TheSelection(), (Ids{5}));
+    m_multiselect.SetSelectionAll();
+    EXPECT_EQ(m_multiselect.TheSelection(), (Ids{-1}));
+    m_multiselect.SetSelectionNone();
+    EXPECT_TRUE(m_multiselect.TheSelection().empty());
+    m_multiselect.ShowIds(true);
+    m_multiselect.ShowGroupedSelection(false);
+    m_multiselect.SortAlphabetically(true);
+    m_multiselect.EnableOkCancel();
+    m_multiselect.SetEmptyMapMessage(L"nothing");
+    EXPECT_TRUE(m_multiselect.m_showIds);
+    EXPECT_FALSE(m_multiselect.m_grouped);
+    EXPECT_TRUE(m_multiselect.m_sorted);
+    EXPECT_TRUE(m_multiselect.m_okCancel);
+    EXPECT_EQ(W(m_multiselect.m_emptyMapMessage), L"nothing");
+    EXPECT_FALSE(m_multiselect.SelectionRetrieved());
+    m_multiselect.RefreshContent();
+    m_multiselect.RefreshSelection();
 }
 
 TEST_F(OutsideMultiselect, RefreshContentWithoutAWindowDoesNothingAtAll)
 {
-    m_multi.m_selectionRetrieved = true;
-    m_multi.RefreshContent();
-    EXPECT_TRUE(m_multi.SelectionRetrieved());
+    m_multiselect.m_selectionRetrieved = true;
+    m_multiselect.RefreshContent();
+    EXPECT_TRUE(m_multiselect.SelectionRetrieved());
 }
 
 TEST_F(OutsideMultiselect, RetrieveSelectionOfAnEmptyMapWithoutAWindow)
 {
-    m_multi.SetSelection(3);
-    m_multi.RetrieveSelection();
-    EXPECT_TRUE(m_multi.SelectionRetrieved());
-    EXPECT_TRUE(m_multi.TheSelection().empty());
+    m_multiselect.SetSelection(3);
+    m_multiselect.RetrieveSelection();
+    EXPECT_TRUE(m_multiselect.SelectionRetrieved());
+    EXPECT_TRUE(m_multiselect.TheSelection().empty());
 }
 
 TEST_F(OutsideMultiselect, RetrieveSelectionWithoutAWindowDropsWhatWasSelected)
 {
     Fill();
-    m_multi.SetSelection(3);
-    m_multi.RetrieveSelection();
-    EXPECT_TRUE(m_multi.SelectionRetrieved());
-    EXPECT_EQ(m_multi.TheSelection().count(3), 0u);
+    m_multiselect.SetSelection(3);
+    m_multiselect.RetrieveSelection();
+    EXPECT_TRUE(m_multiselect.SelectionRetrieved());
+    EXPECT_EQ(m_multiselect.TheSelection().count(3), 0u);
 }
 
 TEST_F(OutsideMultiselect, RefreshSelectionWithoutAWindowClearsTheFlag)
 {
-    m_multi.m_selectionRetrieved = true;
-    m_multi.RefreshSelection();
-    EXPECT_FALSE(m_multi.SelectionRetrieved());
+    m_multiselect.m_selectionRetrieved = true;
+    m_multiselect.RefreshSelection();
+    EXPECT_FALSE(m_multiselect.SelectionRetrieved());
     Fill();
-    m_multi.OnSelectAll();
-    EXPECT_EQ(m_multi.TheSelection(), (Ids{-1, 1, 2, 3, 4}));
-    m_multi.OnSelectNone();
-    EXPECT_TRUE(m_multi.TheSelection().empty());
+    m_multiselect.OnSelectAll();
+    EXPECT_EQ(m_multiselect.TheSelection(), (Ids{-1, 1, 2, 3, 4}));
+    m_multiselect.OnSelectNone();
+    EXPECT_TRUE(m_multiselect.TheSelection().empty());
 }
 
 TEST_F(OutsideMultiselect, WindowAndChildren)
@@ -230,13 +230,13 @@ TEST_F(OutsideMultiselect, WindowAndChildren)
     HINSTANCE const resources = ::AfxGetResourceHandle();
     Make();
     EXPECT_EQ(::AfxGetResourceHandle(), resources);
-    EXPECT_EQ(m_multi.GetStyle() & 0xF, 11u);
-    ASSERT_TRUE(m_multi.m_controlsCreated);
-    CListCtrl & list = m_multi.m_list;
+    EXPECT_EQ(m_multiselect.GetStyle() & 0xF, 11u);
+    ASSERT_TRUE(m_multiselect.m_controlsCreated);
+    CListCtrl & list = m_multiselect.m_list;
     EXPECT_EQ(list.GetDlgCtrlID(), 32802);
     EXPECT_EQ(list.GetStyle() & (WS_CHILD | WS_VISIBLE | LVS_TYPEMASK | LVS_NOCOLUMNHEADER), 0x50004003u);
     EXPECT_EQ(list.GetExtendedStyle() & 0x144u, 0x144u);
-    EXPECT_EQ(list.GetParent(), &m_multi);
+    EXPECT_EQ(list.GetParent(), &m_multiselect);
     LVCOLUMNW column = {};
     wchar_t name[100] = {};
     column.mask = LVCF_TEXT | LVCF_FMT;
@@ -256,17 +256,17 @@ TEST_F(OutsideMultiselect, WindowAndChildren)
         int icon;
         bool visible;
     };
-    for (Row const & row :
-         {Row{m_multi.m_selectAll, 32803, L"Alle wählen", 126, true},
-          Row{m_multi.m_selectNone, 32804, L"Alle abwählen", 127, true},
-          Row{m_multi.m_cancel, 32805, L"Abbruch", 129, false}, Row{m_multi.m_ok, 32806, L"OK", 128, false}})
+    for (Row const & row : {Row{m_multiselect.m_selectAll, 32803, L"Alle wählen", 126, true},
+                            Row{m_multiselect.m_selectNone, 32804, L"Alle abwählen", 127, true},
+                            Row{m_multiselect.m_cancel, 32805, L"Abbruch", 129, false},
+                            Row{m_multiselect.m_ok, 32806, L"OK", 128, false}})
     {
         EXPECT_EQ(row.button.GetDlgCtrlID(), row.id);
         EXPECT_EQ(TextOf(row.button), row.text);
         EXPECT_EQ((row.button.GetStyle() & WS_VISIBLE) != 0, row.visible) << row.id;
         EXPECT_EQ(row.button.GetStyle() & (WS_CHILD | BS_ICON | 0xF), static_cast<DWORD>(WS_CHILD | BS_ICON)) << row.id;
         EXPECT_NE(row.button.GetIcon(), nullptr) << row.id;
-        EXPECT_EQ(row.button.GetParent(), &m_multi);
+        EXPECT_EQ(row.button.GetParent(), &m_multiselect);
     }
 }
 
@@ -289,10 +289,10 @@ TEST_F(OutsideMultiselect, ButtonIconsAreThoseOfTheModule)
         CButton & button;
         int icon;
     };
-    for (Row const & row : {Row{m_multi.m_selectAll, 126}, Row{m_multi.m_selectNone, 127}, Row{m_multi.m_cancel, 129},
-                            Row{m_multi.m_ok, 128}})
+    for (Row const & row : {Row{m_multiselect.m_selectAll, 126}, Row{m_multiselect.m_selectNone, 127},
+                            Row{m_multiselect.m_cancel, 129}, Row{m_multiselect.m_ok, 128}})
     {
-        auto const mine = pixels(row.button.GetIcon());
+        std::vector<COLORREF> const mine = pixels(row.button.GetIcon());
         auto const big = static_cast<HICON>(::LoadImageW(Toolkit(), MAKEINTRESOURCEW(row.icon), IMAGE_ICON, 32, 32, 0));
         auto const small =
             static_cast<HICON>(::LoadImageW(Toolkit(), MAKEINTRESOURCEW(row.icon), IMAGE_ICON, 16, 16, 0));
@@ -313,9 +313,10 @@ TEST_F(OutsideMultiselect, ButtonIconsAreNoHigherThanTheirButtonsWhereIconsAreLa
 {
     tests::ImportPatch const patch(L"instrument_ui.dll", "GetSystemMetrics", &MetricsOfLargeIcons);
     ASSERT_TRUE(patch.Done());
-    m_multi.EnableOkCancel();
+    m_multiselect.EnableOkCancel();
     Make();
-    for (CButton * const button : {&m_multi.m_selectAll, &m_multi.m_selectNone, &m_multi.m_cancel, &m_multi.m_ok})
+    for (CButton * const button :
+         {&m_multiselect.m_selectAll, &m_multiselect.m_selectNone, &m_multiselect.m_cancel, &m_multiselect.m_ok})
     {
         CRect client;
         button->GetClientRect(client);
@@ -334,7 +335,7 @@ TEST_F(OutsideMultiselect, ButtonIconsAreNoHigherThanTheirButtonsWhereIconsAreLa
 TEST_F(OutsideMultiselect, ToolTips)
 {
     Make();
-    CToolTipCtrl & tip = m_multi.m_toolTip;
+    CToolTipCtrl & tip = m_multiselect.m_toolTip;
     ASSERT_NE(tip.GetSafeHwnd(), nullptr);
     EXPECT_EQ(tip.GetToolCount(), 4);
     struct Row
@@ -342,8 +343,8 @@ TEST_F(OutsideMultiselect, ToolTips)
         CWnd & button;
         UINT id;
     };
-    for (Row const & row :
-         {Row{m_multi.m_selectAll, 9}, Row{m_multi.m_selectNone, 10}, Row{m_multi.m_cancel, 12}, Row{m_multi.m_ok, 11}})
+    for (Row const & row : {Row{m_multiselect.m_selectAll, 9}, Row{m_multiselect.m_selectNone, 10},
+                            Row{m_multiselect.m_cancel, 12}, Row{m_multiselect.m_ok, 11}})
     {
         CString text;
         tip.GetText(text, &row.button);
@@ -374,36 +375,38 @@ TEST_F(OutsideMultiselect, Geometry)
     Make();
     for (int const width : {202, 203, 207, 300, 151})
     {
-        m_multi.SetWindowPos(nullptr, 0, 0, width, 180, SWP_NOMOVE | SWP_NOZORDER);
+        m_multiselect.SetWindowPos(nullptr, 0, 0, width, 180, SWP_NOMOVE | SWP_NOZORDER);
         CRect client;
-        m_multi.GetClientRect(client);
-        ExpectGeometry(client, false, PlaceOf(m_multi.m_list), PlaceOf(m_multi.m_selectAll),
-                       PlaceOf(m_multi.m_selectNone), PlaceOf(m_multi.m_cancel), PlaceOf(m_multi.m_ok));
+        m_multiselect.GetClientRect(client);
+        ExpectGeometry(client, false, PlaceOf(m_multiselect.m_list), PlaceOf(m_multiselect.m_selectAll),
+                       PlaceOf(m_multiselect.m_selectNone), PlaceOf(m_multiselect.m_cancel),
+                       PlaceOf(m_multiselect.m_ok));
     }
-    m_multi.EnableOkCancel();
-    EXPECT_EQ(m_multi.m_ok.GetStyle() & WS_VISIBLE, 0u);
+    m_multiselect.EnableOkCancel();
+    EXPECT_EQ(m_multiselect.m_ok.GetStyle() & WS_VISIBLE, 0u);
     for (int const width : {202, 203, 207, 300, 151})
     {
-        m_multi.SetWindowPos(nullptr, 0, 0, width, 181, SWP_NOMOVE | SWP_NOZORDER);
+        m_multiselect.SetWindowPos(nullptr, 0, 0, width, 181, SWP_NOMOVE | SWP_NOZORDER);
         CRect client;
-        m_multi.GetClientRect(client);
-        ExpectGeometry(client, true, PlaceOf(m_multi.m_list), PlaceOf(m_multi.m_selectAll),
-                       PlaceOf(m_multi.m_selectNone), PlaceOf(m_multi.m_cancel), PlaceOf(m_multi.m_ok));
-        EXPECT_NE(m_multi.m_ok.GetStyle() & WS_VISIBLE, 0u);
-        EXPECT_NE(m_multi.m_cancel.GetStyle() & WS_VISIBLE, 0u);
+        m_multiselect.GetClientRect(client);
+        ExpectGeometry(client, true, PlaceOf(m_multiselect.m_list), PlaceOf(m_multiselect.m_selectAll),
+                       PlaceOf(m_multiselect.m_selectNone), PlaceOf(m_multiselect.m_cancel),
+                       PlaceOf(m_multiselect.m_ok));
+        EXPECT_NE(m_multiselect.m_ok.GetStyle() & WS_VISIBLE, 0u);
+        EXPECT_NE(m_multiselect.m_cancel.GetStyle() & WS_VISIBLE, 0u);
     }
 }
 
 TEST_F(OutsideMultiselect, GeometryAtCreationWithOkAndCancel)
 {
-    m_multi.EnableOkCancel();
+    m_multiselect.EnableOkCancel();
     Make(CRect(10, 10, 211, 199));
     CRect client;
-    m_multi.GetClientRect(client);
-    ExpectGeometry(client, true, PlaceOf(m_multi.m_list), PlaceOf(m_multi.m_selectAll), PlaceOf(m_multi.m_selectNone),
-                   PlaceOf(m_multi.m_cancel), PlaceOf(m_multi.m_ok));
-    EXPECT_NE(m_multi.m_ok.GetStyle() & WS_VISIBLE, 0u);
-    EXPECT_EQ(m_multi.m_ok.GetStyle() & (WS_CHILD | BS_ICON), static_cast<DWORD>(WS_CHILD | BS_ICON));
+    m_multiselect.GetClientRect(client);
+    ExpectGeometry(client, true, PlaceOf(m_multiselect.m_list), PlaceOf(m_multiselect.m_selectAll),
+                   PlaceOf(m_multiselect.m_selectNone), PlaceOf(m_multiselect.m_cancel), PlaceOf(m_multiselect.m_ok));
+    EXPECT_NE(m_multiselect.m_ok.GetStyle() & WS_VISIBLE, 0u);
+    EXPECT_EQ(m_multiselect.m_ok.GetStyle() & (WS_CHILD | BS_ICON), static_cast<DWORD>(WS_CHILD | BS_ICON));
 }
 
 class EdgedButton : public CButton
@@ -423,7 +426,7 @@ TEST_F(OutsideMultiselect, StaticEdgeOfACreatedOne)
     EdgedButton plain;
     plain.Create(L"x", WS_CHILD, CRect(0, 0, 50, 50), m_host, 3);
     Make();
-    EXPECT_EQ(m_multi.GetExStyle() & WS_EX_STATICEDGE, plain.GetExStyle() & WS_EX_STATICEDGE);
+    EXPECT_EQ(m_multiselect.GetExStyle() & WS_EX_STATICEDGE, plain.GetExStyle() & WS_EX_STATICEDGE);
     plain.DestroyWindow();
 }
 
@@ -431,8 +434,8 @@ TEST_F(OutsideMultiselect, StaticEdgeOfASubclassedOne)
 {
     ::CreateWindowW(L"BUTTON", L"Button1", WS_CHILD, 10, 10, 200, 200, m_host.m_hWnd, reinterpret_cast<HMENU>(1016),
                     nullptr, nullptr);
-    ASSERT_TRUE(m_multi.SubclassDlgItem(1016, m_host));
-    EXPECT_NE(m_multi.GetExStyle() & WS_EX_STATICEDGE, 0u);
+    ASSERT_TRUE(m_multiselect.SubclassDlgItem(1016, m_host));
+    EXPECT_NE(m_multiselect.GetExStyle() & WS_EX_STATICEDGE, 0u);
 }
 
 TEST_F(OutsideMultiselect, SubclassedButtonCreatesAtItsFirstPaint)
@@ -440,59 +443,59 @@ TEST_F(OutsideMultiselect, SubclassedButtonCreatesAtItsFirstPaint)
     ::CreateWindowW(L"BUTTON", L"Button1", WS_CHILD | WS_VISIBLE, 10, 10, 200, 200, m_host.m_hWnd,
                     reinterpret_cast<HMENU>(1016), nullptr, nullptr);
     Fill();
-    ASSERT_TRUE(m_multi.SubclassDlgItem(1016, m_host));
-    EXPECT_EQ(m_multi.GetStyle() & 0xF, 11u);
-    EXPECT_FALSE(m_multi.m_controlsCreated);
-    m_multi.RefreshContent();
-    m_multi.Invalidate();
-    m_multi.UpdateWindow();
-    EXPECT_TRUE(m_multi.m_controlsCreated);
+    ASSERT_TRUE(m_multiselect.SubclassDlgItem(1016, m_host));
+    EXPECT_EQ(m_multiselect.GetStyle() & 0xF, 11u);
+    EXPECT_FALSE(m_multiselect.m_controlsCreated);
+    m_multiselect.RefreshContent();
+    m_multiselect.Invalidate();
+    m_multiselect.UpdateWindow();
+    EXPECT_TRUE(m_multiselect.m_controlsCreated);
     EXPECT_EQ(Rows(), L"d b c a ");
     // In the item's rectangle as it is; a size shrinks it by a pixel.
     CRect item;
-    m_multi.GetClientRect(item);
-    EXPECT_EQ(PlaceOf(m_multi.m_list), CRect(item.left, item.top, item.right, item.bottom - 22));
-    EXPECT_EQ(PlaceOf(m_multi.m_selectAll),
+    m_multiselect.GetClientRect(item);
+    EXPECT_EQ(PlaceOf(m_multiselect.m_list), CRect(item.left, item.top, item.right, item.bottom - 22));
+    EXPECT_EQ(PlaceOf(m_multiselect.m_selectAll),
               CRect(item.left, item.bottom - 21, item.left + 2 * (item.Width() / 4), item.bottom));
-    m_multi.SetWindowPos(nullptr, 0, 0, 220, 200, SWP_NOMOVE | SWP_NOZORDER);
-    m_multi.GetClientRect(item);
-    EXPECT_EQ(PlaceOf(m_multi.m_list), CRect(1, 1, item.right - 1, item.bottom - 23));
+    m_multiselect.SetWindowPos(nullptr, 0, 0, 220, 200, SWP_NOMOVE | SWP_NOZORDER);
+    m_multiselect.GetClientRect(item);
+    EXPECT_EQ(PlaceOf(m_multiselect.m_list), CRect(1, 1, item.right - 1, item.bottom - 23));
 }
 
 TEST_F(OutsideMultiselect, SubclassedButtonCreatesAtItsFirstSize)
 {
     ::CreateWindowW(L"BUTTON", L"Button1", WS_CHILD, 10, 10, 200, 200, m_host.m_hWnd, reinterpret_cast<HMENU>(1016),
                     nullptr, nullptr);
-    ASSERT_TRUE(m_multi.SubclassDlgItem(1016, m_host));
-    EXPECT_FALSE(m_multi.m_controlsCreated);
-    m_multi.SetWindowPos(nullptr, 0, 0, 210, 190, SWP_NOMOVE | SWP_NOZORDER);
-    EXPECT_TRUE(m_multi.m_controlsCreated);
+    ASSERT_TRUE(m_multiselect.SubclassDlgItem(1016, m_host));
+    EXPECT_FALSE(m_multiselect.m_controlsCreated);
+    m_multiselect.SetWindowPos(nullptr, 0, 0, 210, 190, SWP_NOMOVE | SWP_NOZORDER);
+    EXPECT_TRUE(m_multiselect.m_controlsCreated);
 }
 
 TEST_F(OutsideMultiselect, DestroyedDataSurvivesAndItCanBeMadeAgain)
 {
     Fill();
-    m_multi.SetSelection(2);
+    m_multiselect.SetSelection(2);
     Make();
-    HWND const list = m_multi.m_list.m_hWnd;
-    m_multi.DestroyWindow();
-    EXPECT_FALSE(m_multi.m_controlsCreated);
+    HWND const list = m_multiselect.m_list.m_hWnd;
+    m_multiselect.DestroyWindow();
+    EXPECT_FALSE(m_multiselect.m_controlsCreated);
     EXPECT_FALSE(::IsWindow(list));
-    EXPECT_EQ(m_multi.m_list.GetSafeHwnd(), nullptr);
-    EXPECT_EQ(m_multi.m_ok.GetSafeHwnd(), nullptr);
-    EXPECT_EQ(m_multi.TheMap().size(), 4u);
-    EXPECT_EQ(m_multi.TheSelection(), (Ids{2}));
+    EXPECT_EQ(m_multiselect.m_list.GetSafeHwnd(), nullptr);
+    EXPECT_EQ(m_multiselect.m_ok.GetSafeHwnd(), nullptr);
+    EXPECT_EQ(m_multiselect.TheMap().size(), 4u);
+    EXPECT_EQ(m_multiselect.TheSelection(), (Ids{2}));
     Make();
-    EXPECT_TRUE(m_multi.m_controlsCreated);
+    EXPECT_TRUE(m_multiselect.m_controlsCreated);
     EXPECT_EQ(Rows(), L"b+ d c a ");
-    EXPECT_EQ(m_multi.m_toolTip.GetToolCount(), 4);
+    EXPECT_EQ(m_multiselect.m_toolTip.GetToolCount(), 4);
 }
 
 TEST_F(OutsideMultiselect, OwnEmptyMessageSurvivesTheCreation)
 {
-    m_multi.SetEmptyMapMessage(L"nothing here");
+    m_multiselect.SetEmptyMapMessage(L"nothing here");
     Make();
-    EXPECT_EQ(W(m_multi.m_list.GetItemText(0, 0)), L"nothing here");
+    EXPECT_EQ(W(m_multiselect.m_list.GetItemText(0, 0)), L"nothing here");
 }
 
 TEST_F(OutsideMultiselect, OrderOfRows)
@@ -500,160 +503,160 @@ TEST_F(OutsideMultiselect, OrderOfRows)
     Fill();
     Make();
     EXPECT_EQ(Rows(), L"d b c a ");
-    m_multi.SetSelection(Ids{3, 4});
+    m_multiselect.SetSelection(Ids{3, 4});
     EXPECT_EQ(Rows(), L"d b c a ");
-    m_multi.RefreshContent();
+    m_multiselect.RefreshContent();
     EXPECT_EQ(Rows(), L"c+ a+ d b ");
-    m_multi.SortAlphabetically(true);
-    m_multi.RefreshContent();
+    m_multiselect.SortAlphabetically(true);
+    m_multiselect.RefreshContent();
     EXPECT_EQ(Rows(), L"a+ c+ b d ");
-    m_multi.ShowGroupedSelection(false);
-    m_multi.RefreshContent();
+    m_multiselect.ShowGroupedSelection(false);
+    m_multiselect.RefreshContent();
     EXPECT_EQ(Rows(), L"a+ b c+ d ");
-    m_multi.SortAlphabetically(false);
-    m_multi.RefreshContent();
+    m_multiselect.SortAlphabetically(false);
+    m_multiselect.RefreshContent();
     EXPECT_EQ(Rows(), L"d b c+ a+ ");
-    m_multi.ShowIds(true);
-    m_multi.SortAlphabetically(true);
-    m_multi.RefreshContent();
+    m_multiselect.ShowIds(true);
+    m_multiselect.SortAlphabetically(true);
+    m_multiselect.RefreshContent();
     EXPECT_EQ(Rows(), L"1: d 2: b 3: c+ 4: a+ ");
-    m_multi.ShowGroupedSelection(true);
-    m_multi.RefreshContent();
+    m_multiselect.ShowGroupedSelection(true);
+    m_multiselect.RefreshContent();
     EXPECT_EQ(Rows(), L"3: c+ 4: a+ 1: d 2: b ");
-    m_multi.SetSelectionAll();
-    m_multi.RefreshContent();
+    m_multiselect.SetSelectionAll();
+    m_multiselect.RefreshContent();
     EXPECT_EQ(Rows(), L"1: d+ 2: b+ 3: c+ 4: a+ ");
-    m_multi.ShowIds(false);
-    m_multi.SortAlphabetically(false);
-    m_multi.RefreshContent();
+    m_multiselect.ShowIds(false);
+    m_multiselect.SortAlphabetically(false);
+    m_multiselect.RefreshContent();
     EXPECT_EQ(Rows(), L"d+ b+ c+ a+ ");
     for (int row = 0; row < 4; ++row)
-        EXPECT_EQ(static_cast<int>(m_multi.m_list.GetItemData(row)), row + 1);
+        EXPECT_EQ(static_cast<int>(m_multiselect.m_list.GetItemData(row)), row + 1);
     // The sentinel beside ids: those are grouped, all are ticked.
-    m_multi.SetSelection(Ids{-1, 4});
-    m_multi.RefreshContent();
+    m_multiselect.SetSelection(Ids{-1, 4});
+    m_multiselect.RefreshContent();
     EXPECT_EQ(Rows(), L"a+ d+ b+ c+ ");
 }
 
 TEST_F(OutsideMultiselect, SortsByCodePointAndKeepsEqualNamesInTurn)
 {
-    m_multi.SortAlphabetically(true);
-    m_multi.SetTheMap(Map{{1, L"b"}, {2, L"B"}, {3, L"ä"}, {4, L"a"}, {5, L"b"}, {6, L"Z"}, {7, L""}});
+    m_multiselect.SortAlphabetically(true);
+    m_multiselect.SetTheMap(Map{{1, L"b"}, {2, L"B"}, {3, L"ä"}, {4, L"a"}, {5, L"b"}, {6, L"Z"}, {7, L""}});
     Make();
     EXPECT_EQ(Rows(), L" B Z a b b ä ");
-    EXPECT_EQ(static_cast<int>(m_multi.m_list.GetItemData(4)), 1);
-    EXPECT_EQ(static_cast<int>(m_multi.m_list.GetItemData(5)), 5);
+    EXPECT_EQ(static_cast<int>(m_multiselect.m_list.GetItemData(4)), 1);
+    EXPECT_EQ(static_cast<int>(m_multiselect.m_list.GetItemData(5)), 5);
 }
 
 TEST_F(OutsideMultiselect, NegativeAndLongIdsAndNames)
 {
-    m_multi.SetTheMap(Map{{-20, L"minus"}, {INT_MAX, L"most"}, {INT_MIN, L"least"}, {0, CString(L'n', 1000)}});
-    m_multi.SetSelection(Ids{-20, INT_MIN});
+    m_multiselect.SetTheMap(Map{{-20, L"minus"}, {INT_MAX, L"most"}, {INT_MIN, L"least"}, {0, CString(L'n', 1000)}});
+    m_multiselect.SetSelection(Ids{-20, INT_MIN});
     Make();
-    EXPECT_EQ(static_cast<int>(m_multi.m_list.GetItemData(0)), INT_MIN);
-    EXPECT_EQ(m_multi.m_list.GetCheck(0), 1);
-    m_multi.RetrieveSelection();
-    EXPECT_EQ(m_multi.TheSelection(), (Ids{INT_MIN, -20}));
-    m_multi.ShowIds(true);
-    m_multi.RefreshContent();
-    EXPECT_EQ(W(m_multi.m_list.GetItemText(0, 0)), L"-2147483648: least");
-    EXPECT_EQ(W(m_multi.m_list.GetItemText(1, 0)), L"-20: minus");
-    EXPECT_EQ(W(m_multi.m_list.GetItemText(2, 0)).substr(0, 499), L"0: " + std::wstring(496, L'n'));
-    EXPECT_LE(m_multi.m_list.GetItemText(2, 0).GetLength(), 499);
-    EXPECT_EQ(W(m_multi.m_list.GetItemText(3, 0)), L"2147483647: most");
+    EXPECT_EQ(static_cast<int>(m_multiselect.m_list.GetItemData(0)), INT_MIN);
+    EXPECT_EQ(m_multiselect.m_list.GetCheck(0), 1);
+    m_multiselect.RetrieveSelection();
+    EXPECT_EQ(m_multiselect.TheSelection(), (Ids{INT_MIN, -20}));
+    m_multiselect.ShowIds(true);
+    m_multiselect.RefreshContent();
+    EXPECT_EQ(W(m_multiselect.m_list.GetItemText(0, 0)), L"-2147483648: least");
+    EXPECT_EQ(W(m_multiselect.m_list.GetItemText(1, 0)), L"-20: minus");
+    EXPECT_EQ(W(m_multiselect.m_list.GetItemText(2, 0)).substr(0, 499), L"0: " + std::wstring(496, L'n'));
+    EXPECT_LE(m_multiselect.m_list.GetItemText(2, 0).GetLength(), 499);
+    EXPECT_EQ(W(m_multiselect.m_list.GetItemText(3, 0)), L"2147483647: most");
 }
 
 TEST_F(OutsideMultiselect, NamesWithFormatCharacters)
 {
-    m_multi.SetTheMap(Map{{1, L"100 %s %d %n"}});
-    m_multi.ShowIds(true);
+    m_multiselect.SetTheMap(Map{{1, L"100 %s %d %n"}});
+    m_multiselect.ShowIds(true);
     Make();
-    EXPECT_EQ(W(m_multi.m_list.GetItemText(0, 0)), L"1: 100 %s %d %n");
+    EXPECT_EQ(W(m_multiselect.m_list.GetItemText(0, 0)), L"1: 100 %s %d %n");
 }
 
 TEST_F(OutsideMultiselect, ItemEintragenScansFromItsGroup)
 {
     Fill();
     Make();
-    m_multi.m_list.DeleteAllItems();
-    m_multi.SortAlphabetically(true);
-    m_multi.ItemEintragen(1, L"m", 0);
-    m_multi.ItemEintragen(2, L"c", 0);
+    m_multiselect.m_list.DeleteAllItems();
+    m_multiselect.SortAlphabetically(true);
+    m_multiselect.ItemEintragen(1, L"m", 0);
+    m_multiselect.ItemEintragen(2, L"c", 0);
     EXPECT_EQ(Rows(), L"c m ");
-    m_multi.ItemEintragen(3, L"a", 2);
+    m_multiselect.ItemEintragen(3, L"a", 2);
     EXPECT_EQ(Rows(), L"c m a ");
-    m_multi.ItemEintragen(4, L"b", 1);
+    m_multiselect.ItemEintragen(4, L"b", 1);
     EXPECT_EQ(Rows(), L"c b m a ");
-    m_multi.ShowIds(true);
-    m_multi.ItemEintragen(5, L"a", 0);
+    m_multiselect.ShowIds(true);
+    m_multiselect.ItemEintragen(5, L"a", 0);
     EXPECT_EQ(Rows(), L"c b m a 5: a ");
-    EXPECT_EQ(static_cast<int>(m_multi.m_list.GetItemData(4)), 5);
+    EXPECT_EQ(static_cast<int>(m_multiselect.m_list.GetItemData(4)), 5);
 }
 
 TEST_F(OutsideMultiselect, ReadingTheTicksBack)
 {
     Fill();
     Make();
-    m_multi.m_list.SetCheck(0, TRUE);
-    m_multi.m_list.SetCheck(2, TRUE);
-    EXPECT_TRUE(m_multi.TheSelection().empty());
-    m_multi.RetrieveSelection();
-    EXPECT_EQ(m_multi.TheSelection(), (Ids{1, 3}));
-    EXPECT_TRUE(m_multi.SelectionRetrieved());
+    m_multiselect.m_list.SetCheck(0, TRUE);
+    m_multiselect.m_list.SetCheck(2, TRUE);
+    EXPECT_TRUE(m_multiselect.TheSelection().empty());
+    m_multiselect.RetrieveSelection();
+    EXPECT_EQ(m_multiselect.TheSelection(), (Ids{1, 3}));
+    EXPECT_TRUE(m_multiselect.SelectionRetrieved());
     for (int i = 0; i < 4; ++i)
-        m_multi.m_list.SetCheck(i, TRUE);
-    m_multi.RetrieveSelection();
-    EXPECT_EQ(m_multi.TheSelection(), (Ids{-1, 1, 2, 3, 4}));
-    m_multi.m_list.SetCheck(3, FALSE);
-    m_multi.RetrieveSelection();
-    EXPECT_EQ(m_multi.TheSelection(), (Ids{1, 2, 3}));
-    m_multi.SetSelection(Ids{2, 99});
-    m_multi.RefreshSelection();
-    EXPECT_FALSE(m_multi.SelectionRetrieved());
+        m_multiselect.m_list.SetCheck(i, TRUE);
+    m_multiselect.RetrieveSelection();
+    EXPECT_EQ(m_multiselect.TheSelection(), (Ids{-1, 1, 2, 3, 4}));
+    m_multiselect.m_list.SetCheck(3, FALSE);
+    m_multiselect.RetrieveSelection();
+    EXPECT_EQ(m_multiselect.TheSelection(), (Ids{1, 2, 3}));
+    m_multiselect.SetSelection(Ids{2, 99});
+    m_multiselect.RefreshSelection();
+    EXPECT_FALSE(m_multiselect.SelectionRetrieved());
     EXPECT_EQ(Rows(), L"d b+ c a ");
-    m_multi.RetrieveSelection();
-    EXPECT_EQ(m_multi.TheSelection(), (Ids{2}));
-    m_multi.RefreshContent();
-    EXPECT_FALSE(m_multi.SelectionRetrieved());
-    m_multi.SetSelection(Ids{-1, 77});
-    m_multi.RefreshSelection();
-    m_multi.RetrieveSelection();
-    EXPECT_EQ(m_multi.TheSelection(), (Ids{-1, 1, 2, 3, 4}));
+    m_multiselect.RetrieveSelection();
+    EXPECT_EQ(m_multiselect.TheSelection(), (Ids{2}));
+    m_multiselect.RefreshContent();
+    EXPECT_FALSE(m_multiselect.SelectionRetrieved());
+    m_multiselect.SetSelection(Ids{-1, 77});
+    m_multiselect.RefreshSelection();
+    m_multiselect.RetrieveSelection();
+    EXPECT_EQ(m_multiselect.TheSelection(), (Ids{-1, 1, 2, 3, 4}));
 }
 
 TEST_F(OutsideMultiselect, SettersTouchNoWindow)
 {
     Fill();
     Make();
-    m_multi.SetTheMap(Map{{9, L"nine"}});
-    m_multi.AddItem(10, L"ten");
-    m_multi.SetSelectionAll();
-    m_multi.ShowIds(true);
+    m_multiselect.SetTheMap(Map{{9, L"nine"}});
+    m_multiselect.AddItem(10, L"ten");
+    m_multiselect.SetSelectionAll();
+    m_multiselect.ShowIds(true);
     EXPECT_EQ(Rows(), L"d b c a ");
-    m_multi.ResetTheMap();
+    m_multiselect.ResetTheMap();
     EXPECT_EQ(Rows(), L"d b c a ");
     // With an empty map nothing is read.
-    m_multi.m_list.SetCheck(1, TRUE);
-    m_multi.RetrieveSelection();
-    EXPECT_TRUE(m_multi.TheSelection().empty());
+    m_multiselect.m_list.SetCheck(1, TRUE);
+    m_multiselect.RetrieveSelection();
+    EXPECT_TRUE(m_multiselect.TheSelection().empty());
 }
 
 TEST_F(OutsideMultiselect, AllAndNone)
 {
     Fill();
     Make();
-    m_multi.OnSelectAll();
-    EXPECT_EQ(m_multi.TheSelection(), (Ids{-1, 1, 2, 3, 4}));
+    m_multiselect.OnSelectAll();
+    EXPECT_EQ(m_multiselect.TheSelection(), (Ids{-1, 1, 2, 3, 4}));
     EXPECT_EQ(Rows(), L"d+ b+ c+ a+ ");
-    m_multi.OnSelectNone();
-    EXPECT_TRUE(m_multi.TheSelection().empty());
+    m_multiselect.OnSelectNone();
+    EXPECT_TRUE(m_multiselect.TheSelection().empty());
     EXPECT_EQ(Rows(), L"d b c a ");
-    m_multi.SendMessage(WM_COMMAND, MAKEWPARAM(32803, BN_CLICKED),
-                        reinterpret_cast<LPARAM>(m_multi.m_selectAll.m_hWnd));
-    EXPECT_EQ(m_multi.TheSelection(), (Ids{-1, 1, 2, 3, 4}));
-    m_multi.SendMessage(WM_COMMAND, MAKEWPARAM(32804, BN_CLICKED),
-                        reinterpret_cast<LPARAM>(m_multi.m_selectNone.m_hWnd));
-    EXPECT_TRUE(m_multi.TheSelection().empty());
+    m_multiselect.SendMessage(WM_COMMAND, MAKEWPARAM(32803, BN_CLICKED),
+                              reinterpret_cast<LPARAM>(m_multiselect.m_selectAll.m_hWnd));
+    EXPECT_EQ(m_multiselect.TheSelection(), (Ids{-1, 1, 2, 3, 4}));
+    m_multiselect.SendMessage(WM_COMMAND, MAKEWPARAM(32804, BN_CLICKED),
+                              reinterpret_cast<LPARAM>(m_multiselect.m_selectNone.m_hWnd));
+    EXPECT_TRUE(m_multiselect.TheSelection().empty());
     EXPECT_TRUE(Events().empty());
 }
 
@@ -661,40 +664,40 @@ TEST_F(OutsideMultiselect, Events)
 {
     Fill();
     Make();
-    m_multi.m_list.SetCheck(1, TRUE);
+    m_multiselect.m_list.SetCheck(1, TRUE);
     m_host.seen.clear();
-    m_multi.OnOkButton();
+    m_multiselect.OnOkButton();
     EXPECT_EQ(m_host.Count(WM_IDNAME_MULTISELECT_EVENT), 0);
-    EXPECT_EQ(m_multi.TheSelection(), (Ids{2}));
+    EXPECT_EQ(m_multiselect.TheSelection(), (Ids{2}));
     EXPECT_EQ(Events(), (EventList{{1, 0}}));
-    m_multi.m_list.SetCheck(2, TRUE);
-    m_multi.OnCancelButton();
-    EXPECT_EQ(m_multi.TheSelection(), (Ids{2}));
+    m_multiselect.m_list.SetCheck(2, TRUE);
+    m_multiselect.OnCancelButton();
+    EXPECT_EQ(m_multiselect.TheSelection(), (Ids{2}));
     EXPECT_EQ(Events(), (EventList{{2, 0}}));
-    EXPECT_EQ(m_multi.SendMessage(32802, 6, 44), 1);
+    EXPECT_EQ(m_multiselect.SendMessage(32802, 6, 44), 1);
     EXPECT_EQ(Events(), (EventList{{6, 44}}));
-    EXPECT_EQ(m_multi.OnListCtrlMessageMessage(17, -5), 1);
+    EXPECT_EQ(m_multiselect.OnListCtrlMessageMessage(17, -5), 1);
     EXPECT_EQ(Events(), (EventList{{17, -5}}));
-    m_multi.SendMessageToParent(3, 4);
+    m_multiselect.SendMessageToParent(3, 4);
     EXPECT_EQ(Events(), (EventList{{3, 4}}));
 }
 
 TEST_F(OutsideMultiselect, RealClicksOnButtons)
 {
     Fill();
-    m_multi.EnableOkCancel();
+    m_multiselect.EnableOkCancel();
     Make();
     ASSERT_TRUE(tests::BringToFront(m_host));
     m_host.seen.clear();
-    tests::Click(tests::Centre(m_multi.m_selectAll));
-    EXPECT_TRUE(tests::PumpUntil([&] { return m_multi.TheSelection().size() == 5; }, std::chrono::seconds(20)));
-    tests::Click(tests::Centre(m_multi.m_selectNone));
-    EXPECT_TRUE(tests::PumpUntil([&] { return m_multi.TheSelection().empty(); }, std::chrono::seconds(20)));
-    tests::Click(tests::Centre(m_multi.m_ok));
+    tests::Click(tests::Centre(m_multiselect.m_selectAll));
+    EXPECT_TRUE(tests::PumpUntil([&] { return m_multiselect.TheSelection().size() == 5; }, std::chrono::seconds(20)));
+    tests::Click(tests::Centre(m_multiselect.m_selectNone));
+    EXPECT_TRUE(tests::PumpUntil([&] { return m_multiselect.TheSelection().empty(); }, std::chrono::seconds(20)));
+    tests::Click(tests::Centre(m_multiselect.m_ok));
     EXPECT_TRUE(
         tests::PumpUntil([&] { return m_host.Count(WM_IDNAME_MULTISELECT_EVENT) == 1; }, std::chrono::seconds(20)));
     EXPECT_EQ(Events(), (EventList{{1, 0}}));
-    tests::Click(tests::Centre(m_multi.m_cancel));
+    tests::Click(tests::Centre(m_multiselect.m_cancel));
     EXPECT_TRUE(
         tests::PumpUntil([&] { return m_host.Count(WM_IDNAME_MULTISELECT_EVENT) == 1; }, std::chrono::seconds(20)));
     EXPECT_EQ(Events(), (EventList{{2, 0}}));
@@ -707,39 +710,39 @@ TEST_F(OutsideMultiselect, RealClicksOnRows)
     ASSERT_TRUE(tests::BringToFront(m_host));
     m_host.seen.clear();
     CRect label, whole;
-    m_multi.m_list.GetItemRect(1, label, LVIR_LABEL);
-    m_multi.m_list.GetItemRect(1, whole, LVIR_BOUNDS);
-    tests::Click(tests::ClientPoint(m_multi.m_list, CPoint(label.left + 3, label.CenterPoint().y)));
+    m_multiselect.m_list.GetItemRect(1, label, LVIR_LABEL);
+    m_multiselect.m_list.GetItemRect(1, whole, LVIR_BOUNDS);
+    tests::Click(tests::ClientPoint(m_multiselect.m_list, CPoint(label.left + 3, label.CenterPoint().y)));
     EXPECT_TRUE(
         tests::PumpUntil([&] { return m_host.Count(WM_IDNAME_MULTISELECT_EVENT) == 1; }, std::chrono::seconds(20)));
     EXPECT_EQ(Events(), (EventList{{6, 2}}));
-    EXPECT_EQ(m_multi.m_list.GetCheck(1), 1);
+    EXPECT_EQ(m_multiselect.m_list.GetCheck(1), 1);
     // The press on a label goes no further: the row is not selected.
-    EXPECT_EQ(m_multi.m_list.GetItemState(1, LVIS_SELECTED), 0u);
+    EXPECT_EQ(m_multiselect.m_list.GetItemState(1, LVIS_SELECTED), 0u);
     CPoint box(-1, -1);
     for (int x = whole.left; x < label.left; ++x)
     {
         UINT flags = 0;
         CPoint const at(x, whole.CenterPoint().y);
-        if (m_multi.m_list.HitTest(at, &flags) == 1 && (flags & LVHT_ONITEMSTATEICON) != 0 &&
+        if (m_multiselect.m_list.HitTest(at, &flags) == 1 && (flags & LVHT_ONITEMSTATEICON) != 0 &&
             (flags & LVHT_ONITEMLABEL) == 0)
             box = at + CPoint(3, 0);
         if (box.x >= 0)
             break;
     }
     ASSERT_GE(box.x, 0);
-    tests::Click(tests::ClientPoint(m_multi.m_list, box));
+    tests::Click(tests::ClientPoint(m_multiselect.m_list, box));
     EXPECT_TRUE(
         tests::PumpUntil([&] { return m_host.Count(WM_IDNAME_MULTISELECT_EVENT) == 1; }, std::chrono::seconds(20)));
     EXPECT_EQ(Events(), (EventList{{6, 2}}));
-    EXPECT_TRUE(tests::PumpUntil([&] { return m_multi.m_list.GetCheck(1) == 0; }, std::chrono::seconds(20)));
+    EXPECT_TRUE(tests::PumpUntil([&] { return m_multiselect.m_list.GetCheck(1) == 0; }, std::chrono::seconds(20)));
     // Beside the rows nothing is told.
     CRect client;
-    m_multi.m_list.GetClientRect(client);
-    tests::Click(tests::ClientPoint(m_multi.m_list, CPoint(client.right - 4, client.bottom - 4)));
+    m_multiselect.m_list.GetClientRect(client);
+    tests::Click(tests::ClientPoint(m_multiselect.m_list, CPoint(client.right - 4, client.bottom - 4)));
     tests::PumpFor(std::chrono::milliseconds(100));
     EXPECT_TRUE(Events().empty());
-    EXPECT_EQ(m_multi.TheSelection(), Ids{});
+    EXPECT_EQ(m_multiselect.TheSelection(), Ids{});
 }
 
 TEST_F(OutsideMultiselect, RealClickOnTheRowOfAnEmptyMap)
@@ -748,14 +751,14 @@ TEST_F(OutsideMultiselect, RealClickOnTheRowOfAnEmptyMap)
     ASSERT_TRUE(tests::BringToFront(m_host));
     m_host.seen.clear();
     CRect label;
-    m_multi.m_list.GetItemRect(0, label, LVIR_LABEL);
-    tests::Click(tests::ClientPoint(m_multi.m_list, CPoint(label.left + 3, label.CenterPoint().y)));
+    m_multiselect.m_list.GetItemRect(0, label, LVIR_LABEL);
+    tests::Click(tests::ClientPoint(m_multiselect.m_list, CPoint(label.left + 3, label.CenterPoint().y)));
     EXPECT_TRUE(
         tests::PumpUntil([&] { return m_host.Count(WM_IDNAME_MULTISELECT_EVENT) == 1; }, std::chrono::seconds(20)));
     EXPECT_EQ(Events(), (EventList{{6, -1}}));
-    EXPECT_EQ(m_multi.m_list.GetCheck(0), 1);
-    m_multi.RetrieveSelection();
-    EXPECT_TRUE(m_multi.TheSelection().empty());
+    EXPECT_EQ(m_multiselect.m_list.GetCheck(0), 1);
+    m_multiselect.RetrieveSelection();
+    EXPECT_TRUE(m_multiselect.TheSelection().empty());
 }
 
 TEST_F(OutsideMultiselect, FiveThousandItems)
@@ -770,39 +773,40 @@ TEST_F(OutsideMultiselect, FiveThousandItems)
         if (i % 3 == 0)
             chosen.insert(i);
     }
-    m_multi.SetTheMap(map);
-    m_multi.SetSelection(chosen);
-    m_multi.SortAlphabetically(true);
+    m_multiselect.SetTheMap(map);
+    m_multiselect.SetSelection(chosen);
+    m_multiselect.SortAlphabetically(true);
     Make(CRect(10, 10, 212, 212), 0);
-    ASSERT_EQ(m_multi.m_list.GetItemCount(), 5000);
+    ASSERT_EQ(m_multiselect.m_list.GetItemCount(), 5000);
     int const group = static_cast<int>(chosen.size());
     for (int row = 0; row < 5000; ++row)
     {
-        ASSERT_EQ(m_multi.m_list.GetCheck(row), row < group ? 1 : 0) << row;
+        ASSERT_EQ(m_multiselect.m_list.GetCheck(row), row < group ? 1 : 0) << row;
         if (row > 0 && row != group)
         {
-            ASSERT_LT(W(m_multi.m_list.GetItemText(row - 1, 0)), W(m_multi.m_list.GetItemText(row, 0))) << row;
+            ASSERT_LT(W(m_multiselect.m_list.GetItemText(row - 1, 0)), W(m_multiselect.m_list.GetItemText(row, 0)))
+                << row;
         }
     }
-    m_multi.RetrieveSelection();
-    EXPECT_EQ(m_multi.TheSelection(), chosen);
-    m_multi.OnSelectAll();
-    m_multi.RetrieveSelection();
-    EXPECT_EQ(m_multi.TheSelection().size(), 5001u);
+    m_multiselect.RetrieveSelection();
+    EXPECT_EQ(m_multiselect.TheSelection(), chosen);
+    m_multiselect.OnSelectAll();
+    m_multiselect.RetrieveSelection();
+    EXPECT_EQ(m_multiselect.TheSelection().size(), 5001u);
 }
 
 TEST_F(OutsideMultiselect, OnlyATickOfExactlyOneCounts)
 {
     Fill();
     Make();
-    m_multi.m_list.SetCheck(0, TRUE);
-    m_multi.m_list.SetItemState(1, INDEXTOSTATEIMAGEMASK(3), LVIS_STATEIMAGEMASK);
-    ASSERT_EQ(ListView_GetCheckState(m_multi.m_list.m_hWnd, 1), 2u);
-    EXPECT_EQ(m_multi.m_list.GetCheck(1), 2);
-    m_multi.m_list.SetCheck(2, TRUE);
-    m_multi.m_list.SetCheck(3, TRUE);
-    m_multi.RetrieveSelection();
-    EXPECT_EQ(m_multi.TheSelection(), (Ids{1, 3, 4}));
+    m_multiselect.m_list.SetCheck(0, TRUE);
+    m_multiselect.m_list.SetItemState(1, INDEXTOSTATEIMAGEMASK(3), LVIS_STATEIMAGEMASK);
+    ASSERT_EQ(ListView_GetCheckState(m_multiselect.m_list.m_hWnd, 1), 2u);
+    EXPECT_EQ(m_multiselect.m_list.GetCheck(1), 2);
+    m_multiselect.m_list.SetCheck(2, TRUE);
+    m_multiselect.m_list.SetCheck(3, TRUE);
+    m_multiselect.RetrieveSelection();
+    EXPECT_EQ(m_multiselect.TheSelection(), (Ids{1, 3, 4}));
 }
 
 TEST_F(OutsideMultiselect, TinyOnes)
@@ -811,8 +815,8 @@ TEST_F(OutsideMultiselect, TinyOnes)
     for (CSize const size : {CSize(0, 0), CSize(1, 1), CSize(2, 30), CSize(30, 2), CSize(10, 22)})
     {
         Make(CRect(CPoint(10, 10), size));
-        m_multi.SetWindowPos(nullptr, 0, 0, size.cx + 1, size.cy, SWP_NOMOVE | SWP_NOZORDER);
-        m_multi.DestroyWindow();
+        m_multiselect.SetWindowPos(nullptr, 0, 0, size.cx + 1, size.cy, SWP_NOMOVE | SWP_NOZORDER);
+        m_multiselect.DestroyWindow();
     }
 }
 
@@ -820,14 +824,14 @@ TEST_F(OutsideMultiselect, RealPointerBringsTheTipOfAButton)
 {
     Make();
     ASSERT_TRUE(tests::BringToFront(m_host));
-    m_multi.m_toolTip.SetDelayTime(TTDT_INITIAL, 1);
-    ASSERT_TRUE(tests::MoveMouse(tests::Centre(m_multi.m_selectAll) + CPoint(-4, 0)));
-    ASSERT_TRUE(tests::MoveMouse(tests::Centre(m_multi.m_selectAll)));
+    m_multiselect.m_toolTip.SetDelayTime(TTDT_INITIAL, 1);
+    ASSERT_TRUE(tests::MoveMouse(tests::Centre(m_multiselect.m_selectAll) + CPoint(-4, 0)));
+    ASSERT_TRUE(tests::MoveMouse(tests::Centre(m_multiselect.m_selectAll)));
     EXPECT_TRUE(
-        tests::PumpUntil([&] { return m_multi.m_toolTip.IsWindowVisible() != FALSE; }, std::chrono::seconds(20)));
+        tests::PumpUntil([&] { return m_multiselect.m_toolTip.IsWindowVisible() != FALSE; }, std::chrono::seconds(20)));
     ASSERT_TRUE(tests::MoveMouse(tests::ClientPoint(m_host, {300, 250})));
     EXPECT_TRUE(
-        tests::PumpUntil([&] { return m_multi.m_toolTip.IsWindowVisible() == FALSE; }, std::chrono::seconds(20)));
+        tests::PumpUntil([&] { return m_multiselect.m_toolTip.IsWindowVisible() == FALSE; }, std::chrono::seconds(20)));
 }
 
 TEST_F(OutsideMultiselect, ListByItself)
@@ -953,7 +957,7 @@ TEST_F(OutsideMultiselectDialog, FieldsAndMap)
     CIdNameMultiselectDlg plain;
     EXPECT_TRUE(plain.m_placement.IsRectEmpty());
     EXPECT_TRUE(Inner(plain).m_okCancel);
-    auto const entries = EntriesOf(Dialog::GetThisMessageMap());
+    std::vector<MapEntry> const entries = EntriesOf(Dialog::GetThisMessageMap());
     EXPECT_EQ(entries.size(), 2u);
     EXPECT_TRUE(Handles(entries, WM_SIZE));
     EXPECT_TRUE(std::any_of(entries.begin(), entries.end(),

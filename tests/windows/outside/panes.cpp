@@ -1,11 +1,10 @@
 // Panes with one view, and what was a frame and becomes a pane.
 
-#include "OutsideTest.h"
-
 #include <afxpaneframewnd.h>
 
 #include <memory>
 
+#include "OutsideTest.h"
 #include "Pump.h"
 #include "TestApp.h"
 #include "windows/StandaloneFrameMigrationHelper.h"

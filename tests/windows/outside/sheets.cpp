@@ -11,16 +11,16 @@
 #include <memory>
 #include <vector>
 
-#include "MessageRecorder.h"
-#include "OutsideTest.h"
-#include "Pump.h"
-#include "ScopedWindow.h"
-#include "TestApp.h"
 #include "dialogs/Dialog3d.h"
 #include "dialogs/PropertyPage3d.h"
 #include "dialogs/PropertySheet3d.h"
 #include "layout/Edges.h"
+#include "MessageRecorder.h"
 #include "outside_resource.h"
+#include "OutsideTest.h"
+#include "Pump.h"
+#include "ScopedWindow.h"
+#include "TestApp.h"
 
 namespace outside
 {
@@ -982,8 +982,10 @@ TEST_F(OutsideSheet, OwnChildrenFollowByAllFourWays)
     CButton child[4];
     sheet.m_onInit = [&] {
         for (int index = 0; index < 4; ++index)
+        {
             child[index].Create(L"c", WS_CHILD | WS_VISIBLE, CRect(2 + 20 * index, 2, 12 + 20 * index, 12), &sheet,
                                 IDC_OUTSIDE_OWN + 50 + index);
+        }
         sheet.D3dLayoutChild(IDC_OUTSIDE_OWN + 50, CEdges::TOP_RIGHT(), nullptr);
         sheet.D3dLayoutChild(IDC_OUTSIDE_OWN + 51, CRect(0, 0, 5000, 0), nullptr);
         sheet.D3dLayoutChild(&child[2], CEdges::BOTTOM_LEFT(), nullptr);

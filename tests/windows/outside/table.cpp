@@ -1,8 +1,5 @@
 // The table of any number of rows.
 
-#include "ControlTest.h"
-#include "OutsideTest.h"
-
 #include <atomic>
 #include <cmath>
 #include <limits>
@@ -10,7 +7,9 @@
 #include <mutex>
 #include <thread>
 
+#include "ControlTest.h"
 #include "list/table/XTableCtrl.h"
+#include "OutsideTest.h"
 
 namespace outside::controls
 {

@@ -1,11 +1,11 @@
 // The tree control.
 
-#include "ControlTest.h"
-
 #include <algorithm>
 #include <iterator>
 #include <set>
 #include <type_traits>
+
+#include "ControlTest.h"
 
 namespace outside::controls
 {
@@ -98,7 +98,7 @@ TEST_F(OutsideTree, RecordLayoutAndDefaults)
     EXPECT_EQ(m_tree.m_keyFlags, 0u);
     EXPECT_STREQ(RUNTIME_CLASS(CXTreeCtrl)->m_lpszClassName, "CXTreeCtrl");
     EXPECT_EQ(CXTreeCtrl::classCXTreeCtrl.m_pfnGetBaseClass(), RUNTIME_CLASS(CTreeCtrl));
-    auto const entries = EntriesOf(Tree::GetThisMessageMap());
+    std::vector<MapEntry> const entries = EntriesOf(Tree::GetThisMessageMap());
     EXPECT_TRUE(Handles(entries, WM_LBUTTONDBLCLK));
     EXPECT_EQ(entries.size(), 1u);
     EXPECT_EQ(WM_XTREECTRL_DBLCLK, ::RegisterWindowMessageW(L"WM_XTREECTRL_DBLCLK"));

@@ -1,17 +1,16 @@
 #!/usr/bin/env python3
 """Writes public_functions.cpp: a program that uses every public function and variable that the public headers declare.
 
-It reads the headers as they are formatted here; the list's headers are not among them. Run it after a change of a public
-declaration:
-
-    tests/windows/package/make_public_functions.py
+It reads the headers as they are formatted here. Run it after a change of a public declaration, without arguments.
 """
+import argparse
 import pathlib
 import re
+import sys
 
 here = pathlib.Path(__file__).resolve().parent
 toolkit = here.parents[2] / "toolkit"
-EXCLUDED = ("list/", "frame/LifeWatch.h")
+EXCLUDED = ("frame/LifeWatch.h",)
 CALLABLES = {}  # types with parentheses, by the word that stands for them
 TYPES = {}  # nested types of classes, by their last name
 
@@ -32,7 +31,8 @@ def cleaned(text):
     text = re.sub(r"//.*", "", text)
     text = re.sub(r"^\s*#.*$", "", text, flags=re.M)
     text = re.sub(r"^\s*DECLARE_\w+\(.*\)$", "", text, flags=re.M)
-    return re.sub(r"std::function<[^<>]*>", hidden, text)
+    text = re.sub(r"(\w+) \(\*(\w+)\)(\([^()]*\))", r"std::type_identity_t<\1 (*)\3> \2", text)
+    return re.sub(r"std::(?:function|type_identity_t)<[^<>]*>", hidden, text)
 
 
 def hidden(found):
@@ -105,7 +105,8 @@ def lines_of(scope, body, inside_class, out):
             text = re.sub(rf"(?<!::)\b{kind}\b", full, text)
         return text
 
-    abstract = inside_class and re.search(r"=\s*0\s*;", body)
+    # A member that begins with 0 is no pure function.
+    abstract = inside_class and re.search(r"\)[^;{}=]*=\s*0\s*;", body)
     name_of_class = scope.split("::")[-1] if inside_class else None
     constructors = 0
     for statement in statements(body):
@@ -125,6 +126,8 @@ def lines_of(scope, body, inside_class, out):
         if re.match(r"(enum|using|friend|template|class \w+$|struct \w+$|typedef|static_assert)\b", statement):
             continue
         function = FUNCTION.match(statement)
+        if function and " = " in function.group("before"):  # a variable with its first value
+            continue
         if not function:
             variable = re.match(r"(?:extern |static )+.*?(\w+)(?:\[\w+\])?$", statement, re.S)
             if variable and "constexpr" not in statement:
@@ -160,6 +163,12 @@ def lines_of(scope, body, inside_class, out):
 
 
 def main():
+    parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
+    parser.add_argument("--output", type=pathlib.Path, default=here / "public_functions.cpp",
+                        help="the file to write instead of the one beside this program")
+    parser.add_argument("--check", action="store_true",
+                        help="write nothing, and fail where the file has something else than would be written")
+    options = parser.parse_args()
     out = []
     for header in headers():
         lines_of("", cleaned((toolkit / header).read_text()), False, [])  # learns the nested types
@@ -169,16 +178,20 @@ def main():
         if lines:
             out += [f"\n    // {header}"] + lines
     includes = "\n".join(f'#include "{header}"' for header in headers() if header != "instrument_ui.h")
-    (here / "public_functions.cpp").write_text(
+    text = (
         "// Written by make_public_functions.py. Uses what the public headers declare, so that a function that the module\n"
         "// does not export keeps this program from being linked.\n\n"
         "// clang-format off\n"
-        '#include "instrument_ui.h"\n\n' + includes + "\n\n#include <utility>\n\n"
+        '#include "instrument_ui.h"\n\n' + includes + "\n\n#include <type_traits>\n#include <utility>\n\n"
         "using namespace registry_settings;\nusing namespace xtree;\n\nnamespace\n{\n"
         "/// Keeps the compiler from leaving it out.\n"
         "template <typename T> void Use(T used)\n{\n    [[maybe_unused]] static T volatile place;\n    place = used;\n}\n\n"
         "void UseAll()\n{\n" + shown("\n".join(out)).lstrip("\n") + "\n}\n} // namespace\n\n"
         "int main()\n{\n    UseAll();\n    return 0;\n}\n")
+    if not options.check:
+        options.output.write_text(text)
+    elif options.output.read_text() != text:
+        sys.exit(f"{options.output} is not of the present headers; {pathlib.Path(__file__).name} writes it anew")
     print(sum(line.startswith("    Use") for line in out), "uses")
 
 

@@ -34,6 +34,17 @@
 #include "frame/RegisteredMessages.h"
 #include "layout/DialogResizer.h"
 #include "layout/Edges.h"
+#include "list/XHeaderCtrl.h"
+#include "list/XListCellKind.h"
+#include "list/XListCtrl.h"
+#include "list/XListCtrlData.h"
+#include "list/table/NumberFormat.h"
+#include "list/table/TableFeed.h"
+#include "list/table/TableForms.h"
+#include "list/table/TableOrder.h"
+#include "list/table/TableSource.h"
+#include "list/table/TableText.h"
+#include "list/table/XTableCtrl.h"
 #include "segments/ColorScheme.h"
 #include "segments/DigiStatic.h"
 #include "segments/DigiStyle.h"
@@ -50,6 +61,7 @@
 #include "windows/StandaloneFrameUser.h"
 #include "windows/StandaloneFrameWnd.h"
 
+#include <type_traits>
 #include <utility>
 
 using namespace registry_settings;
@@ -256,6 +268,7 @@ void UseAll()
     Use(+[](CXEditBrowseCtrl & object) -> void { return object.CXEditBrowseCtrl::OnBrowse(); });
 
     // controls/XTreeCtrl.h
+    Use(+[]() { delete new CXTreeCtrl(); });
     Use(+[](CXTreeCtrl & object, wchar_t const * a0, HTREEITEM a1, HTREEITEM a2, int a3) -> HTREEITEM { return object.CXTreeCtrl::InsertTreeItem(std::forward<wchar_t const *>(a0), std::forward<HTREEITEM>(a1), std::forward<HTREEITEM>(a2), std::forward<int>(a3)); });
     Use(+[](CXTreeCtrl & object, wchar_t const * a0, int a1, int a2, HTREEITEM a3, HTREEITEM a4, int a5) -> HTREEITEM { return object.CXTreeCtrl::InsertTreeItem(std::forward<wchar_t const *>(a0), std::forward<int>(a1), std::forward<int>(a2), std::forward<HTREEITEM>(a3), std::forward<HTREEITEM>(a4), std::forward<int>(a5)); });
     Use(+[](CXTreeCtrl & object, wchar_t const * a0, int a1, int a2, HTREEITEM a3, int a4, int a5, HTREEITEM a6, int a7) -> HTREEITEM { return object.CXTreeCtrl::InsertTreeItem(std::forward<wchar_t const *>(a0), std::forward<int>(a1), std::forward<int>(a2), std::forward<HTREEITEM>(a3), std::forward<int>(a4), std::forward<int>(a5), std::forward<HTREEITEM>(a6), std::forward<int>(a7)); });
@@ -359,6 +372,7 @@ void UseAll()
     Use(+[](CDialogFade & object) -> std::optional<std::uint8_t> { return object.CDialogFade::Tick(); });
     Use(+[](CDialogFade const & object) -> int { return object.CDialogFade::Target(); });
     Use(+[](CDialogFade const & object) -> int { return object.CDialogFade::Step(); });
+    Use(+[] { delete new CDialogFade; });
 
     // dialogs/FolderDialog.h
     Use(+[](HWND__ * a0) { delete new CFolderDialog(std::forward<HWND__ *>(a0)); });
@@ -483,6 +497,290 @@ void UseAll()
     Use(+[]() -> CEdges { return CEdges::BOTTOM_CENTER(); });
     Use(+[](CEdges const & object, CEdges const & a0) -> bool { return object.CEdges::operator&(std::forward<CEdges const &>(a0)); });
     Use(+[](CEdges const & object, CEdges const & a0) -> CEdges { return object.CEdges::operator|(std::forward<CEdges const &>(a0)); });
+
+    // list/XHeaderCtrl.h
+    Use(+[]() { delete new CXHeaderCtrl(); });
+    Use(+[](CXHeaderCtrl & object, CXListCtrl * a0) -> void { return object.CXHeaderCtrl::SetList(std::forward<CXListCtrl *>(a0)); });
+    Use(+[](CXHeaderCtrl & object, unsigned int a0) -> void { return object.CXHeaderCtrl::SetAlignment(std::forward<unsigned int>(a0)); });
+    Use(+[](CXHeaderCtrl & object, COLORREF a0) -> void { return object.CXHeaderCtrl::SetTextColor(std::forward<COLORREF>(a0)); });
+    Use(+[](CXHeaderCtrl & object, bool a0) -> void { return object.CXHeaderCtrl::SetUseImageList(std::forward<bool>(a0)); });
+    Use(+[](CXHeaderCtrl & object) -> void { return object.CXHeaderCtrl::SetDirectColumnClick(); });
+    Use(+[](CXHeaderCtrl const & object) -> int { return object.CXHeaderCtrl::GetSpacing(); });
+    Use(+[](CXHeaderCtrl & object, UINT a0) -> BOOL { return object.CXHeaderCtrl::SetDpi(std::forward<UINT>(a0)); });
+    Use(+[](CXHeaderCtrl const & object) -> UINT { return object.CXHeaderCtrl::GetDpi(); });
+    Use(+[](CXHeaderCtrl & object, LPDRAWITEMSTRUCT a0) -> void { return object.CXHeaderCtrl::DrawHeaderItem(std::forward<LPDRAWITEMSTRUCT>(a0)); });
+    Use(+[](CXHeaderCtrl & object, CDC * a0, CRect a1, LPHDITEM a2) -> void { return object.CXHeaderCtrl::DrawHeaderItem(std::forward<CDC *>(a0), std::forward<CRect>(a1), std::forward<LPHDITEM>(a2)); });
+
+    // list/XListCellKind.h
+    Use(+[] { delete new CXListCellKind::Change; });
+    Use(+[](CXListCellKind & object, XLISTCTRLDATA & a0, CRect const & a1, CPoint a2) -> std::optional<CXListCellKind::Change> { return object.CXListCellKind::Press(std::forward<XLISTCTRLDATA &>(a0), std::forward<CRect const &>(a1), std::forward<CPoint>(a2)); });
+    Use(+[](CXListCellKind & object, XLISTCTRLDATA & a0, unsigned int a1) -> std::optional<CXListCellKind::Change> { return object.CXListCellKind::Key(std::forward<XLISTCTRLDATA &>(a0), std::forward<unsigned int>(a1)); });
+    Use(+[](CXListCellKind const & object, XLISTCTRLDATA const & a0) -> std::optional<long long> { return object.CXListCellKind::SortValue(std::forward<XLISTCTRLDATA const &>(a0)); });
+    Use(+[](CXListCellKind const & object, XLISTCTRLDATA const & a0) -> std::optional<CString> { return object.CXListCellKind::ExportText(std::forward<XLISTCTRLDATA const &>(a0)); });
+
+    // list/XListCtrl.h
+    Use(+[]() { delete new CXListCtrl(); });
+    Use(+[](CXListCtrl & object, wchar_t const * a0, int a1, int a2) -> int { return object.CXListCtrl::AddColumn(std::forward<wchar_t const *>(a0), std::forward<int>(a1), std::forward<int>(a2)); });
+    Use(+[](CXListCtrl & object, int a0, wchar_t const * a1, int a2, int a3, int a4) -> int { return object.CXListCtrl::InsertColumn(std::forward<int>(a0), std::forward<wchar_t const *>(a1), std::forward<int>(a2), std::forward<int>(a3), std::forward<int>(a4)); });
+    Use(+[](CXListCtrl const & object) -> int { return object.CXListCtrl::GetColumnCount(); });
+    Use(+[](CXListCtrl & object) -> void { return object.CXListCtrl::DeleteAllColumns(); });
+    Use(+[](CXListCtrl & object, int a0, int a1) -> int { return object.CXListCtrl::SetColumnWidth(std::forward<int>(a0), std::forward<int>(a1)); });
+    Use(+[](CXListCtrl & object, int a0) -> void { return object.CXListCtrl::AutosizeColumnWidth(std::forward<int>(a0)); });
+    Use(+[](CXListCtrl & object, int a0, wchar_t const * a1, COLORREF a2, COLORREF a3, void const * a4, long long a5) -> int { return object.CXListCtrl::InsertItem(std::forward<int>(a0), std::forward<wchar_t const *>(a1), std::forward<COLORREF>(a2), std::forward<COLORREF>(a3), std::forward<void const *>(a4), std::forward<long long>(a5)); });
+    Use(+[](CXListCtrl & object, int a0, wchar_t const * a1, void const * a2, long long a3) -> int { return object.CXListCtrl::InsertItem(std::forward<int>(a0), std::forward<wchar_t const *>(a1), std::forward<void const *>(a2), std::forward<long long>(a3)); });
+    Use(+[](CXListCtrl & object, wchar_t const * a0, void const * a1, long long a2) -> int { return object.CXListCtrl::AddItem(std::forward<wchar_t const *>(a0), std::forward<void const *>(a1), std::forward<long long>(a2)); });
+    Use(+[](CXListCtrl & object, LVITEMW const * a0) -> int { return object.CXListCtrl::InsertItem(std::forward<LVITEMW const *>(a0)); });
+    Use(+[](CXListCtrl & object, int a0) -> int { return object.CXListCtrl::DeleteItem(std::forward<int>(a0)); });
+    Use(+[](CXListCtrl & object) -> int { return object.CXListCtrl::DeleteAllItems(); });
+    Use(+[](CXListCtrl & object, bool a0) -> void { return object.CXListCtrl::SetBatchInsertMode(std::forward<bool>(a0)); });
+    Use(+[](CXListCtrl & object, bool a0) -> void { return object.CXListCtrl::EnableAll(std::forward<bool>(a0)); });
+    Use(+[](CXListCtrl & object, bool a0) -> void { return object.CXListCtrl::DisableAll(std::forward<bool>(a0)); });
+    Use(+[](CXListCtrl const & object, int a0) -> int { return object.CXListCtrl::GetCurSel(std::forward<int>(a0)); });
+    Use(+[](CXListCtrl const & object) -> int { return object.CXListCtrl::GetSelectedItem(); });
+    Use(+[](CXListCtrl const & object, int a0) -> int { return object.CXListCtrl::GetSelectedItemAfter(std::forward<int>(a0)); });
+    Use(+[](CXListCtrl & object, int a0, bool a1) -> bool { return object.CXListCtrl::SetCurSel(std::forward<int>(a0), std::forward<bool>(a1)); });
+    Use(+[](CXListCtrl & object) -> void { return object.CXListCtrl::SetNoSelection(); });
+    Use(+[](CXListCtrl & object, int a0, int a1, wchar_t const * a2) -> bool { return object.CXListCtrl::SetItemText(std::forward<int>(a0), std::forward<int>(a1), std::forward<wchar_t const *>(a2)); });
+    Use(+[](CXListCtrl & object, int a0, int a1, wchar_t const * a2, COLORREF a3, COLORREF a4) -> bool { return object.CXListCtrl::SetItemText(std::forward<int>(a0), std::forward<int>(a1), std::forward<wchar_t const *>(a2), std::forward<COLORREF>(a3), std::forward<COLORREF>(a4)); });
+    Use(+[](CXListCtrl & object, int a0, int a1, int a2) -> bool { return object.CXListCtrl::SetItemText(std::forward<int>(a0), std::forward<int>(a1), std::forward<int>(a2)); });
+    Use(+[](CXListCtrl & object, int a0, int a1, float a2, wchar_t const * a3) -> bool { return object.CXListCtrl::SetItemText(std::forward<int>(a0), std::forward<int>(a1), std::forward<float>(a2), std::forward<wchar_t const *>(a3)); });
+    Use(+[](CXListCtrl & object, int a0, int a1, float a2, wchar_t const * a3) -> bool { return object.CXListCtrl::SetItemFloatVal(std::forward<int>(a0), std::forward<int>(a1), std::forward<float>(a2), std::forward<wchar_t const *>(a3)); });
+    Use(+[](CXListCtrl & object, int a0, int a1, CTime a2) -> bool { return object.CXListCtrl::SetItemDatetime(std::forward<int>(a0), std::forward<int>(a1), std::forward<CTime>(a2)); });
+    Use(+[](CXListCtrl & object, LVITEMW const * a0) -> int { return object.CXListCtrl::SetItem(std::forward<LVITEMW const *>(a0)); });
+    Use(+[](CXListCtrl & object, int a0, int a1, int a2) -> bool { return object.CXListCtrl::SetItemImage(std::forward<int>(a0), std::forward<int>(a1), std::forward<int>(a2)); });
+    Use(+[](CXListCtrl & object, int a0, int a1, bool a2) -> bool { return object.CXListCtrl::SetEdit(std::forward<int>(a0), std::forward<int>(a1), std::forward<bool>(a2)); });
+    Use(+[](CXListCtrl & object, int a0, int a1, bool a2, bool a3) -> bool { return object.CXListCtrl::SetHyperlink(std::forward<int>(a0), std::forward<int>(a1), std::forward<bool>(a2), std::forward<bool>(a3)); });
+    Use(+[](CXListCtrl & object, int a0, int a1, bool a2, wchar_t const * a3) -> bool { return object.CXListCtrl::SetProgress(std::forward<int>(a0), std::forward<int>(a1), std::forward<bool>(a2), std::forward<wchar_t const *>(a3)); });
+    Use(+[](CXListCtrl & object, int a0, int a1, int a2, int a3) -> void { return object.CXListCtrl::UpdateProgress(std::forward<int>(a0), std::forward<int>(a1), std::forward<int>(a2), std::forward<int>(a3)); });
+    Use(+[](CXListCtrl & object, int a0, int a1) -> void { return object.CXListCtrl::DeleteProgress(std::forward<int>(a0), std::forward<int>(a1)); });
+    Use(+[](CXListCtrl & object, int a0, int a1, std::function<void(int, int, CDC *, CRect const &)> a2) -> bool { return object.CXListCtrl::SetCustomDraw(std::forward<int>(a0), std::forward<int>(a1), std::forward<std::function<void(int, int, CDC *, CRect const &)>>(a2)); });
+    Use(+[](CXListCtrl & object, int a0, int a1) -> void { return object.CXListCtrl::UpdateCustomDraw(std::forward<int>(a0), std::forward<int>(a1)); });
+    Use(+[](CXListCtrl & object, int a0, int a1) -> void { return object.CXListCtrl::RemoveCustomDraw(std::forward<int>(a0), std::forward<int>(a1)); });
+    Use(+[](CXListCtrl & object, int a0, int a1, std::shared_ptr<CXListCellKind> a2) -> bool { return object.CXListCtrl::SetCellKind(std::forward<int>(a0), std::forward<int>(a1), std::forward<std::shared_ptr<CXListCellKind>>(a2)); });
+    Use(+[](CXListCtrl const & object, int a0, int a1) -> std::shared_ptr<CXListCellKind> { return object.CXListCtrl::GetCellKind(std::forward<int>(a0), std::forward<int>(a1)); });
+    Use(+[](CXListCtrl & object, int a0, int a1, std::map<int, wchar_t const *> const & a2, int a3, int a4) -> bool { return object.CXListCtrl::SetComboBox(std::forward<int>(a0), std::forward<int>(a1), std::forward<std::map<int, wchar_t const *> const &>(a2), std::forward<int>(a3), std::forward<int>(a4)); });
+    Use(+[](CXListCtrl & object, int a0, int a1, std::map<int, CString> const * a2, int a3, int a4) -> bool { return object.CXListCtrl::SetComboBox(std::forward<int>(a0), std::forward<int>(a1), std::forward<std::map<int, CString> const *>(a2), std::forward<int>(a3), std::forward<int>(a4)); });
+    Use(+[](CXListCtrl & object, int a0, int a1, int a2, int a3) -> bool { return object.CXListCtrl::SetComboBoxGlobalStrings(std::forward<int>(a0), std::forward<int>(a1), std::forward<int>(a2), std::forward<int>(a3)); });
+    Use(+[](CXListCtrl & object, int a0, int a1, bool a2, int a3) -> bool { return object.CXListCtrl::SetComboStyle(std::forward<int>(a0), std::forward<int>(a1), std::forward<bool>(a2), std::forward<int>(a3)); });
+    Use(+[](CXListCtrl & object, int a0, int a1, int a2) -> bool { return object.CXListCtrl::SetComboSelection(std::forward<int>(a0), std::forward<int>(a1), std::forward<int>(a2)); });
+    Use(+[](CXListCtrl & object, int a0, int a1, CString const & a2) -> bool { return object.CXListCtrl::SetComboSelection(std::forward<int>(a0), std::forward<int>(a1), std::forward<CString const &>(a2)); });
+    Use(+[](CXListCtrl const & object, int a0, int a1) -> int { return object.CXListCtrl::GetComboCurSel(std::forward<int>(a0), std::forward<int>(a1)); });
+    Use(+[](CXListCtrl & object, int a0, int a1) -> CString { return object.CXListCtrl::GetComboText(std::forward<int>(a0), std::forward<int>(a1)); });
+    Use(+[](CXListCtrl & object) -> void { return object.CXListCtrl::GlobalComboStringsReset(); });
+    Use(+[](CXListCtrl & object, int a0, CString const & a1) -> void { return object.CXListCtrl::GlobalComboStringsInsert(std::forward<int>(a0), std::forward<CString const &>(a1)); });
+    Use(+[](CXListCtrl const & object, CString const & a0, int a1) -> int { return object.CXListCtrl::GlobalComboStringsGetId(std::forward<CString const &>(a0), std::forward<int>(a1)); });
+    Use(+[](CXListCtrl const & object, int a0) -> wchar_t const * { return object.CXListCtrl::GlobalComboStringsGetText(std::forward<int>(a0)); });
+    Use(+[](CXListCtrl const & object, int a0, int a1) -> bool { return object.CXListCtrl::IsValidItem(std::forward<int>(a0), std::forward<int>(a1)); });
+    Use(+[](CXListCtrl & object, int a0) -> XLISTCTRLDATA * { return object.CXListCtrl::GetRowData(std::forward<int>(a0)); });
+    Use(+[](CXListCtrl const & object, int a0) -> XLISTCTRLDATA const * { return object.CXListCtrl::GetRowData(std::forward<int>(a0)); });
+    Use(+[](CXListCtrl & object, int a0, int a1) -> XLISTCTRLDATA * { return object.CXListCtrl::GetRowItemData(std::forward<int>(a0), std::forward<int>(a1)); });
+    Use(+[](CXListCtrl const & object, int a0, int a1) -> XLISTCTRLDATA const * { return object.CXListCtrl::GetRowItemData(std::forward<int>(a0), std::forward<int>(a1)); });
+    Use(+[](CXListCtrl & object, int a0, int a1) -> XLISTCTRLDATA * { return object.CXListCtrl::GetRowItemDataDirect(std::forward<int>(a0), std::forward<int>(a1)); });
+    Use(+[](CXListCtrl & object, int a0, long long a1) -> bool { return object.CXListCtrl::SetItemData(std::forward<int>(a0), std::forward<long long>(a1)); });
+    Use(+[](CXListCtrl & object, int a0, int a1) -> bool { return object.CXListCtrl::SetItemData(std::forward<int>(a0), std::forward<int>(a1)); });
+    Use(+[](CXListCtrl & object, int a0, unsigned int a1) -> bool { return object.CXListCtrl::SetItemData(std::forward<int>(a0), std::forward<unsigned int>(a1)); });
+    Use(+[](CXListCtrl & object, int a0, long a1) -> bool { return object.CXListCtrl::SetItemData(std::forward<int>(a0), std::forward<long>(a1)); });
+    Use(+[](CXListCtrl & object, int a0, unsigned long a1) -> bool { return object.CXListCtrl::SetItemData(std::forward<int>(a0), std::forward<unsigned long>(a1)); });
+    Use(+[](CXListCtrl & object, int a0, unsigned long long a1) -> bool { return object.CXListCtrl::SetItemData(std::forward<int>(a0), std::forward<unsigned long long>(a1)); });
+    Use(+[](CXListCtrl & object, int a0, int a1, int a2) -> bool { return object.CXListCtrl::SetItemData(std::forward<int>(a0), std::forward<int>(a1), std::forward<int>(a2)); });
+    Use(+[](CXListCtrl const & object, int a0) -> long long { return object.CXListCtrl::GetItemData64(std::forward<int>(a0)); });
+    Use(+[](CXListCtrl const & object, int a0) -> int { return object.CXListCtrl::GetItemData(std::forward<int>(a0)); });
+    Use(+[](CXListCtrl const & object, int a0) -> int { return object.CXListCtrl::GetItemData2(std::forward<int>(a0)); });
+    Use(+[](CXListCtrl & object, int a0, void const * a1) -> bool { return object.CXListCtrl::SetItemDataPtr(std::forward<int>(a0), std::forward<void const *>(a1)); });
+    Use(+[](CXListCtrl const & object, int a0) -> void * { return object.CXListCtrl::GetItemDataPtr(std::forward<int>(a0)); });
+    Use(+[](CXListCtrl & object, int a0, int const * a1) -> bool { return object.CXListCtrl::SetItemIdx8(std::forward<int>(a0), std::forward<int const *>(a1)); });
+    Use(+[](CXListCtrl const & object, int a0, int * a1) -> bool { return object.CXListCtrl::GetItemIdx8(std::forward<int>(a0), std::forward<int *>(a1)); });
+    Use(+[](CXListCtrl & object, int a0, int const * a1) -> bool { return object.CXListCtrl::SetItemClavis(std::forward<int>(a0), std::forward<int const *>(a1)); });
+    Use(+[](CXListCtrl const & object, int a0, int * a1) -> bool { return object.CXListCtrl::GetItemClavis(std::forward<int>(a0), std::forward<int *>(a1)); });
+    Use(+[](CXListCtrl const & object, long long a0) -> int { return object.CXListCtrl::FindDataItem(std::forward<long long>(a0)); });
+    Use(+[](CXListCtrl const & object, int a0) -> int { return object.CXListCtrl::FindDataItem(std::forward<int>(a0)); });
+    Use(+[](CXListCtrl const & object, unsigned int a0) -> int { return object.CXListCtrl::FindDataItem(std::forward<unsigned int>(a0)); });
+    Use(+[](CXListCtrl const & object, long a0) -> int { return object.CXListCtrl::FindDataItem(std::forward<long>(a0)); });
+    Use(+[](CXListCtrl const & object, unsigned long a0) -> int { return object.CXListCtrl::FindDataItem(std::forward<unsigned long>(a0)); });
+    Use(+[](CXListCtrl const & object, unsigned long long a0) -> int { return object.CXListCtrl::FindDataItem(std::forward<unsigned long long>(a0)); });
+    Use(+[](CXListCtrl const & object, void const * a0) -> int { return object.CXListCtrl::FindDataItemPtr(std::forward<void const *>(a0)); });
+    Use(+[](CXListCtrl const & object, int const * a0) -> int { return object.CXListCtrl::FindDataItemClavis(std::forward<int const *>(a0)); });
+    Use(+[](CXListCtrl const & object, long long a0) -> long long { return object.CXListCtrl::GetSelectedItemData(std::forward<long long>(a0)); });
+    Use(+[](CXListCtrl const & object) -> void * { return object.CXListCtrl::GetSelectedItemDataPtr(); });
+    Use(+[](CXListCtrl & object, int a0, int a1, unsigned int a2, bool a3) -> void { return object.CXListCtrl::SetItemProperty(std::forward<int>(a0), std::forward<int>(a1), std::forward<unsigned int>(a2), std::forward<bool>(a3)); });
+    Use(+[](CXListCtrl const & object, int a0, int a1, unsigned int a2) -> bool { return object.CXListCtrl::GetItemProperty(std::forward<int>(a0), std::forward<int>(a1), std::forward<unsigned int>(a2)); });
+    Use(+[](CXListCtrl & object, int a0, unsigned int a1, bool a2) -> void { return object.CXListCtrl::SetRowProperty(std::forward<int>(a0), std::forward<unsigned int>(a1), std::forward<bool>(a2)); });
+    Use(+[](CXListCtrl & object, int a0, int a1, bool a2) -> bool { return object.CXListCtrl::SetBold(std::forward<int>(a0), std::forward<int>(a1), std::forward<bool>(a2)); });
+    Use(+[](CXListCtrl const & object, int a0, int a1) -> bool { return object.CXListCtrl::GetBold(std::forward<int>(a0), std::forward<int>(a1)); });
+    Use(+[](CXListCtrl & object, int a0, int a1, bool a2) -> void { return object.CXListCtrl::SetModified(std::forward<int>(a0), std::forward<int>(a1), std::forward<bool>(a2)); });
+    Use(+[](CXListCtrl const & object, int a0, int a1) -> bool { return object.CXListCtrl::GetModified(std::forward<int>(a0), std::forward<int>(a1)); });
+    Use(+[](CXListCtrl & object, int a0, int a1, bool a2) -> bool { return object.CXListCtrl::SetEnabled(std::forward<int>(a0), std::forward<int>(a1), std::forward<bool>(a2)); });
+    Use(+[](CXListCtrl & object, int a0, bool a1) -> bool { return object.CXListCtrl::SetEnabled(std::forward<int>(a0), std::forward<bool>(a1)); });
+    Use(+[](CXListCtrl const & object, int a0, int a1) -> bool { return object.CXListCtrl::GetEnabled(std::forward<int>(a0), std::forward<int>(a1)); });
+    Use(+[](CXListCtrl const & object, int a0) -> bool { return object.CXListCtrl::GetEnabled(std::forward<int>(a0)); });
+    Use(+[](CXListCtrl & object, int a0, int a1, unsigned int a2) -> void { return object.CXListCtrl::SetItemValueType(std::forward<int>(a0), std::forward<int>(a1), std::forward<unsigned int>(a2)); });
+    Use(+[](CXListCtrl & object, int a0, int a1) -> unsigned int { return object.CXListCtrl::GetItemValueType(std::forward<int>(a0), std::forward<int>(a1)); });
+    Use(+[](CXListCtrl & object, int a0, COLORREF a1, COLORREF a2) -> void { return object.CXListCtrl::SetRowColors(std::forward<int>(a0), std::forward<COLORREF>(a1), std::forward<COLORREF>(a2)); });
+    Use(+[](CXListCtrl & object, int a0, int a1, COLORREF a2, COLORREF a3, COLORREF a4) -> void { return object.CXListCtrl::SetItemColors(std::forward<int>(a0), std::forward<int>(a1), std::forward<COLORREF>(a2), std::forward<COLORREF>(a3), std::forward<COLORREF>(a4)); });
+    Use(+[](CXListCtrl const & object, int a0, int a1, COLORREF & a2, COLORREF & a3) -> bool { return object.CXListCtrl::GetItemColors(std::forward<int>(a0), std::forward<int>(a1), std::forward<COLORREF &>(a2), std::forward<COLORREF &>(a3)); });
+    Use(+[](CXListCtrl & object, int a0, int a1, int a2) -> bool { return object.CXListCtrl::SetCheckbox(std::forward<int>(a0), std::forward<int>(a1), std::forward<int>(a2)); });
+    Use(+[](CXListCtrl const & object, int a0, int a1) -> int { return object.CXListCtrl::GetCheckbox(std::forward<int>(a0), std::forward<int>(a1)); });
+    Use(+[](CXListCtrl const & object, int a0, int a1) -> int { return object.CXListCtrl::GetItemCheckedState(std::forward<int>(a0), std::forward<int>(a1)); });
+    Use(+[](CXListCtrl & object, int a0, int a1, int a2) -> void { return object.CXListCtrl::SetItemCheckedState(std::forward<int>(a0), std::forward<int>(a1), std::forward<int>(a2)); });
+    Use(+[](CXListCtrl & object, int a0, int a1, int a2) -> bool { return object.CXListCtrl::SetRadioButton(std::forward<int>(a0), std::forward<int>(a1), std::forward<int>(a2)); });
+    Use(+[](CXListCtrl const & object, int a0, int a1) -> bool { return object.CXListCtrl::GetItemRadioOn(std::forward<int>(a0), std::forward<int>(a1)); });
+    Use(+[](CXListCtrl const & object, int a0) -> int { return object.CXListCtrl::GetActiveRadioItem(std::forward<int>(a0)); });
+    Use(+[](CXListCtrl const & object, int a0, int a1) -> unsigned long long { return object.CXListCtrl::CountCheckedItems(std::forward<int>(a0), std::forward<int>(a1)); });
+    Use(+[](CXListCtrl & object, long a0) -> void { return object.CXListCtrl::SetDisplayStyle(std::forward<long>(a0)); });
+    Use(+[](CXListCtrl & object) -> long { return object.CXListCtrl::GetDisplayStyle(); });
+    Use(+[](CXListCtrl & object) -> void { return object.CXListCtrl::SetFullRowSelect(); });
+    Use(+[](CXListCtrl & object) -> void { return object.CXListCtrl::SetHoverSelection(); });
+    Use(+[](CXListCtrl & object) -> void { return object.CXListCtrl::SetWithCheckboxes(); });
+    Use(+[](CXListCtrl & object) -> void { return object.CXListCtrl::SetWithGridlines(); });
+    Use(+[](CXListCtrl & object, bool a0) -> bool { return object.CXListCtrl::SetEllipsis(std::forward<bool>(a0)); });
+    Use(+[](CXListCtrl const & object) -> bool { return object.CXListCtrl::GetEllipsis(); });
+    Use(+[](CXListCtrl & object, int a0) -> void { return object.CXListCtrl::SetCellPadding(std::forward<int>(a0)); });
+    Use(+[](CXListCtrl const & object) -> int { return object.CXListCtrl::GetCellPadding(); });
+    Use(+[](CXListCtrl & object, CString const & a0) -> void { return object.CXListCtrl::SetEmptyListText(std::forward<CString const &>(a0)); });
+    Use(+[](CXListCtrl & object) -> void { return object.CXListCtrl::SetEmptyListTextDefault(); });
+    Use(+[](CXListCtrl & object, bool a0) -> void { return object.CXListCtrl::SetListModified(std::forward<bool>(a0)); });
+    Use(+[](CXListCtrl const & object) -> bool { return object.CXListCtrl::GetListModified(); });
+    Use(+[](CXListCtrl & object, UINT a0) -> BOOL { return object.CXListCtrl::SetDpi(std::forward<UINT>(a0)); });
+    Use(+[](CXListCtrl const & object) -> UINT { return object.CXListCtrl::GetDpi(); });
+    Use(+[](CXListCtrl & object, BOOL a0) -> void { return object.CXListCtrl::FollowDpi(std::forward<BOOL>(a0)); });
+    Use(+[](CXListCtrl & object, int a0, int a1) -> void { return object.CXListCtrl::UpdateSubItem(std::forward<int>(a0), std::forward<int>(a1)); });
+    Use(+[](CXListCtrl const & object, int a0, int a1, int a2, CRect & a3) -> bool { return object.CXListCtrl::GetSubItemRect(std::forward<int>(a0), std::forward<int>(a1), std::forward<int>(a2), std::forward<CRect &>(a3)); });
+    Use(+[](CXListCtrl & object, unsigned int a0) -> void { return object.CXListCtrl::SetHeaderAlignment(std::forward<unsigned int>(a0)); });
+    Use(+[](CXListCtrl & object, COLORREF a0) -> void { return object.CXListCtrl::SetHeaderTextColor(std::forward<COLORREF>(a0)); });
+    Use(+[](CXListCtrl & object, bool a0) -> void { return object.CXListCtrl::SetHeaderUseImageList(std::forward<bool>(a0)); });
+    Use(+[](CXListCtrl & object) -> void { return object.CXListCtrl::SetHeaderDirectColumnClick(); });
+    Use(+[](CXListCtrl & object, bool a0) -> void { return object.CXListCtrl::SetHeaderAutoCheckbox(std::forward<bool>(a0)); });
+    Use(+[](CXListCtrl & object, int a0, int a1) -> bool { return object.CXListCtrl::SetHeaderCheckedState(std::forward<int>(a0), std::forward<int>(a1)); });
+    Use(+[](CXListCtrl const & object, int a0) -> int { return object.CXListCtrl::GetHeaderCheckedState(std::forward<int>(a0)); });
+    Use(+[](CXListCtrl & object) -> void { return object.CXListCtrl::SetHeaderRemoveAllMarks(); });
+    Use(+[](CXListCtrl & object, int a0, bool a1, bool a2, std::type_identity_t<int (*)(long long, long long, long long)> a3) -> void { return object.CXListCtrl::SortByColumn(std::forward<int>(a0), std::forward<bool>(a1), std::forward<bool>(a2), std::forward<std::type_identity_t<int (*)(long long, long long, long long)>>(a3)); });
+    Use(+[](CXListCtrl & object) -> void { return object.CXListCtrl::EnableDragAndDrop(); });
+    Use(+[](CXListCtrl & object, bool a0, int a1, int a2, int a3, int a4) -> bool { return object.CXListCtrl::ExportToClipboard(std::forward<bool>(a0), std::forward<int>(a1), std::forward<int>(a2), std::forward<int>(a3), std::forward<int>(a4)); });
+    Use(+[](CXListCtrl & object, bool a0) -> void { return object.CXListCtrl::EnableCellCursor(std::forward<bool>(a0)); });
+    Use(+[](CXListCtrl const & object) -> bool { return object.CXListCtrl::HasCellCursor(); });
+    Use(+[](CXListCtrl const & object) -> std::pair<int, int> { return object.CXListCtrl::GetCellCursor(); });
+    Use(+[](CXListCtrl & object, int a0, int a1) -> bool { return object.CXListCtrl::SetCellCursor(std::forward<int>(a0), std::forward<int>(a1)); });
+    Use(+[](CXListCtrl & object, int a0, int a1, unsigned int a2) -> void { return object.CXListCtrl::OnItemStateChange(std::forward<int>(a0), std::forward<int>(a1), std::forward<unsigned int>(a2)); });
+    Use(+[](CXListCtrl & object, int a0) -> void { return object.CXListCtrl::OnHeaderColumnClick(std::forward<int>(a0)); });
+    Use(+[](CXListCtrl & object, CPoint const & a0, int & a1) -> int { return object.CXListCtrl::GetPointItem(std::forward<CPoint const &>(a0), std::forward<int &>(a1)); });
+    Use(+[](CXListCtrl & object) -> CMenu & { return object.CXListCtrl::PopUpMenu(); });
+    Use(+[](CXListCtrl & object) -> void { return object.CXListCtrl::EnableItemToolTipps(); });
+    Use(+[](CXListCtrl & object, wchar_t const * a0) -> void { return object.CXListCtrl::SetDefaultToolTipText(std::forward<wchar_t const *>(a0)); });
+    Use(+[](CXListCtrl & object, int a0, int a1, wchar_t const * a2) -> bool { return object.CXListCtrl::SetItemToolTipText(std::forward<int>(a0), std::forward<int>(a1), std::forward<wchar_t const *>(a2)); });
+    Use(+[](CXListCtrl & object, int a0, int a1) -> CString { return object.CXListCtrl::GetItemToolTipText(std::forward<int>(a0), std::forward<int>(a1)); });
+    Use(+[](CXListCtrl & object) -> void { return object.CXListCtrl::DeleteAllToolTips(); });
+    Use(+[](CXListCtrl const & object, CPoint a0, TOOLINFO * a1) -> INT_PTR { return object.CXListCtrl::OnToolHitTest(std::forward<CPoint>(a0), std::forward<TOOLINFO *>(a1)); });
+
+    // list/XListCtrlData.h
+    Use(+[](XLISTCTRLDATA & object) -> void { return object.XLISTCTRLDATA::Recycle(); });
+    Use(+[](XLISTCTRLDATA & object) -> void { return object.XLISTCTRLDATA::MakePlain(); });
+    Use(+[](XLISTCTRLDATA & object, int a0) -> void { return object.XLISTCTRLDATA::MakeCheck(std::forward<int>(a0)); });
+    Use(+[](XLISTCTRLDATA & object) -> void { return object.XLISTCTRLDATA::MakeEdit(); });
+    Use(+[](XLISTCTRLDATA & object) -> void { return object.XLISTCTRLDATA::MakeLink(); });
+    Use(+[](XLISTCTRLDATA & object) -> void { return object.XLISTCTRLDATA::MakeProgress(); });
+    Use(+[](XLISTCTRLDATA & object) -> void { return object.XLISTCTRLDATA::MakeCombo(); });
+    Use(+[] { delete new XLISTCTRLDATA; });
+
+    // list/table/NumberFormat.h
+    Use(+[] { delete new NumberFormat; });
+    Use(+[](std::wstring & a0, long long a1, NumberFormat const & a2, wchar_t a3) -> std::size_t { return ::ShowWhole(std::forward<std::wstring &>(a0), std::forward<long long>(a1), std::forward<NumberFormat const &>(a2), std::forward<wchar_t>(a3)); });
+    Use(+[](std::wstring_view a0, NumberFormat const & a1, wchar_t a2) -> std::optional<long long> { return ::ParseWhole(std::forward<std::wstring_view>(a0), std::forward<NumberFormat const &>(a1), std::forward<wchar_t>(a2)); });
+    Use(+[](std::wstring_view a0) -> std::wstring_view { return ::Trimmed(std::forward<std::wstring_view>(a0)); });
+
+    // list/table/TableFeed.h
+    Use(+[] { delete new TableRowRange; });
+    Use(+[](TableChanges const & object) -> bool { return object.TableChanges::IsEmpty(); });
+    Use(+[] { delete new TableChanges; });
+    Use(+[](std::shared_ptr<TableWaker> a0) { delete new TableFeed(std::forward<std::shared_ptr<TableWaker>>(a0)); });
+    Use(+[](TableFeed & object, TableRow a0, TableRow a1) -> void { return object.TableFeed::RowsChanged(std::forward<TableRow>(a0), std::forward<TableRow>(a1)); });
+    Use(+[](TableFeed & object, TableRow a0) -> void { return object.TableFeed::RowsAppended(std::forward<TableRow>(a0)); });
+    Use(+[](TableFeed & object) -> void { return object.TableFeed::AllChanged(); });
+    Use(+[](TableFeed & object) -> TableChanges { return object.TableFeed::Take(); });
+    Use(+[](std::vector<TableRowRange> & a0) -> void { return ::JoinRanges(std::forward<std::vector<TableRowRange> &>(a0)); });
+
+    // list/table/TableForms.h
+    Use(+[] { delete new TableRefused; });
+    Use(+[] { delete new TablePasteReport; });
+
+    // list/table/TableOrder.h
+    Use(+[] { delete new TableSortColumn; });
+    Use(+[] { delete new TableFilter::TextPart; });
+    Use(+[] { delete new TableFilter::RangePart; });
+    Use(+[](TableFilter const & object) -> bool { return object.TableFilter::IsEmpty(); });
+    Use(+[] { delete new TableFilter; });
+
+    // list/table/TableSource.h
+    Use(+[](TableValue const & object) -> TableKind { return object.TableValue::Kind(); });
+    Use(+[](TableValue const & object) -> std::wstring const & { return object.TableValue::Text(); });
+    Use(+[](TableValue const & object) -> long long { return object.TableValue::Whole(); });
+    Use(+[](TableValue const & object) -> double { return object.TableValue::Number(); });
+    Use(+[](TableValue & object) -> void { return object.TableValue::SetBlank(); });
+    Use(+[](TableValue & object, std::wstring_view a0) -> void { return object.TableValue::SetText(std::forward<std::wstring_view>(a0)); });
+    Use(+[](TableValue & object, long long a0) -> void { return object.TableValue::SetWhole(std::forward<long long>(a0)); });
+    Use(+[](TableValue & object, long long a0) -> void { return object.TableValue::SetTime(std::forward<long long>(a0)); });
+    Use(+[](TableValue & object, bool a0) -> void { return object.TableValue::SetTick(std::forward<bool>(a0)); });
+    Use(+[](TableValue & object, double a0) -> void { return object.TableValue::SetProgress(std::forward<double>(a0)); });
+    Use(+[](TableValue & object, std::wstring_view a0) -> void { return object.TableValue::SetLink(std::forward<std::wstring_view>(a0)); });
+    Use(+[] { delete new TableValue; });
+    Use(+[](TableSource const & object, TableRow a0) -> TableKey { return object.TableSource::Key(std::forward<TableRow>(a0)); });
+    Use(+[](TableSource const & object, TableKey a0) -> TableRow { return object.TableSource::RowOfKey(std::forward<TableKey>(a0)); });
+    Use(+[](TableSource & object, TableRow a0, unsigned int a1, TableValue const & a2) -> bool { return object.TableSource::Write(std::forward<TableRow>(a0), std::forward<unsigned int>(a1), std::forward<TableValue const &>(a2)); });
+
+    // list/table/TableText.h
+    Use(+[] { delete new TableColumn; });
+    Use(+[] { delete new TableLocale; });
+    Use(+[] { delete new TableLooks; });
+    Use(+[](TableColumn const & a0) -> std::wstring { return ::TitleOf(std::forward<TableColumn const &>(a0)); });
+    Use(+[](TableColumn const & a0) -> std::wstring const & { return ::NameOf(std::forward<TableColumn const &>(a0)); });
+    Use(+[](std::wstring & a0, TableValue const & a1, TableColumn const & a2, TableLocale const & a3) -> std::size_t { return ::ShowValue(std::forward<std::wstring &>(a0), std::forward<TableValue const &>(a1), std::forward<TableColumn const &>(a2), std::forward<TableLocale const &>(a3)); });
+    Use(+[](TableValue & a0, std::wstring_view a1, TableColumn const & a2, TableLocale const & a3) -> bool { return ::ParseValue(std::forward<TableValue &>(a0), std::forward<std::wstring_view>(a1), std::forward<TableColumn const &>(a2), std::forward<TableLocale const &>(a3)); });
+    Use(+[](std::wstring & a0, TableValue const & a1) -> void { return ::PlainValue(std::forward<std::wstring &>(a0), std::forward<TableValue const &>(a1)); });
+    Use(+[](long long a0, int a1) -> std::wstring { return ::PlainTime(std::forward<long long>(a0), std::forward<int>(a1)); });
+    Use(+[](std::wstring_view a0) -> std::optional<long long> { return ::ParsePlainTime(std::forward<std::wstring_view>(a0)); });
+
+    // list/table/XTableCtrl.h
+    Use(+[]() { delete new CXTableCtrl(); });
+    Use(+[](CXTableCtrl & object, DWORD a0, RECT const & a1, CWnd * a2, UINT a3) -> BOOL { return object.CXTableCtrl::Create(std::forward<DWORD>(a0), std::forward<RECT const &>(a1), std::forward<CWnd *>(a2), std::forward<UINT>(a3)); });
+    Use(+[](CXTableCtrl & object, std::shared_ptr<TableSource> const & a0) -> void { return object.CXTableCtrl::SetSource(std::forward<std::shared_ptr<TableSource> const &>(a0)); });
+    Use(+[](CXTableCtrl & object, TableLocale a0) -> void { return object.CXTableCtrl::SetTableLocale(std::forward<TableLocale>(a0)); });
+    Use(+[](CXTableCtrl & object, unsigned int a0) -> void { return object.CXTableCtrl::SetFrozenColumns(std::forward<unsigned int>(a0)); });
+    Use(+[](CXTableCtrl const & object) -> std::shared_ptr<TableFeed> const & { return object.CXTableCtrl::Feed(); });
+    Use(+[](CXTableCtrl & object, std::vector<TableSortColumn> a0) -> void { return object.CXTableCtrl::SortBy(std::forward<std::vector<TableSortColumn>>(a0)); });
+    Use(+[](CXTableCtrl const & object) -> std::vector<TableSortColumn> const & { return object.CXTableCtrl::SortColumns(); });
+    Use(+[](CXTableCtrl & object, TableFilter a0) -> void { return object.CXTableCtrl::SetRowFilter(std::forward<TableFilter>(a0)); });
+    Use(+[](CXTableCtrl const & object) -> bool { return object.CXTableCtrl::IsOrdering(); });
+    Use(+[](CXTableCtrl const & object) -> int { return object.CXTableCtrl::OrderProgress(); });
+    Use(+[](CXTableCtrl & object) -> void { return object.CXTableCtrl::StopOrdering(); });
+    Use(+[](CXTableCtrl const & object) -> TableRow { return object.CXTableCtrl::RowsShown(); });
+    Use(+[](CXTableCtrl const & object, TableRow a0) -> TableRow { return object.CXTableCtrl::RowAt(std::forward<TableRow>(a0)); });
+    Use(+[](CXTableCtrl const & object, TableRow a0) -> TableRow { return object.CXTableCtrl::PositionOf(std::forward<TableRow>(a0)); });
+    Use(+[](CXTableCtrl const & object) -> std::vector<TableRow> { return object.CXTableCtrl::SelectedRows(); });
+    Use(+[](CXTableCtrl const & object, TableRow a0) -> bool { return object.CXTableCtrl::IsRowSelected(std::forward<TableRow>(a0)); });
+    Use(+[](CXTableCtrl const & object) -> TableRow { return object.CXTableCtrl::FocusRow(); });
+    Use(+[](CXTableCtrl & object, TableRow a0) -> bool { return object.CXTableCtrl::GoToRow(std::forward<TableRow>(a0)); });
+    Use(+[](CXTableCtrl & object) -> void { return object.CXTableCtrl::SelectAllRows(); });
+    Use(+[](CXTableCtrl const & object, TableRow a0, unsigned int a1) -> std::wstring { return object.CXTableCtrl::ShownText(std::forward<TableRow>(a0), std::forward<unsigned int>(a1)); });
+    Use(+[](CXTableCtrl & object, bool a0) -> void { return object.CXTableCtrl::EnableCellCursor(std::forward<bool>(a0)); });
+    Use(+[](CXTableCtrl const & object) -> bool { return object.CXTableCtrl::HasCellCursor(); });
+    Use(+[](CXTableCtrl const & object) -> std::pair<TableRow, unsigned int> { return object.CXTableCtrl::GetCellCursor(); });
+    Use(+[](CXTableCtrl & object, TableRow a0, unsigned int a1) -> bool { return object.CXTableCtrl::SetCellCursor(std::forward<TableRow>(a0), std::forward<unsigned int>(a1)); });
+    Use(+[](CXTableCtrl const & object) -> std::vector<unsigned int> { return object.CXTableCtrl::ShownColumns(); });
+    Use(+[](CXTableCtrl & object, unsigned int a0, bool a1) -> bool { return object.CXTableCtrl::HideTableColumn(std::forward<unsigned int>(a0), std::forward<bool>(a1)); });
+    Use(+[](CXTableCtrl & object, unsigned int a0, unsigned int a1) -> void { return object.CXTableCtrl::MoveTableColumn(std::forward<unsigned int>(a0), std::forward<unsigned int>(a1)); });
+    Use(+[](CXTableCtrl & object, TableRow a0, unsigned int a1) -> bool { return object.CXTableCtrl::EditCell(std::forward<TableRow>(a0), std::forward<unsigned int>(a1)); });
+    Use(+[](CXTableCtrl const & object) -> bool { return object.CXTableCtrl::IsEditing(); });
+    Use(+[](CXTableCtrl & object, bool a0) -> bool { return object.CXTableCtrl::EndEdit(std::forward<bool>(a0)); });
+    Use(+[](CXTableCtrl & object, TableForm a0, bool a1, bool a2) -> bool { return object.CXTableCtrl::CopyRows(std::forward<TableForm>(a0), std::forward<bool>(a1), std::forward<bool>(a2)); });
+    Use(+[](CXTableCtrl & object, std::wstring const & a0, TableForm a1, bool a2) -> bool { return object.CXTableCtrl::ExportRows(std::forward<std::wstring const &>(a0), std::forward<TableForm>(a1), std::forward<bool>(a2)); });
+    Use(+[](CXTableCtrl const & object) -> bool { return object.CXTableCtrl::IsExporting(); });
+    Use(+[](CXTableCtrl const & object) -> int { return object.CXTableCtrl::ExportProgress(); });
+    Use(+[](CXTableCtrl & object) -> void { return object.CXTableCtrl::StopExport(); });
+    Use(+[](CXTableCtrl & object) -> TablePasteReport { return object.CXTableCtrl::PasteBlock(); });
+    Use(+[](CXTableCtrl & object, UINT a0) -> BOOL { return object.CXTableCtrl::SetDpi(std::forward<UINT>(a0)); });
+    Use(+[](CXTableCtrl const & object) -> UINT { return object.CXTableCtrl::GetDpi(); });
+    Use(+[](CXTableCtrl & object, BOOL a0) -> void { return object.CXTableCtrl::FollowDpi(std::forward<BOOL>(a0)); });
+    Use(+[](CXTableCtrl & object) -> void { return object.CXTableCtrl::UpdateNow(); });
+    Use(+[](CXTableCtrl const & object) -> unsigned long long { return object.CXTableCtrl::Repaints(); });
 
     // segments/DigiStatic.h
     Use(+[]() { delete new CDigiStatic(); });
@@ -624,6 +922,8 @@ void UseAll()
 
     // windows/SettingsTree.h
     Use(+[](registry_settings::registry_entry const & object, registry_entry const & a0) -> bool { return object.registry_settings::registry_entry::operator==(std::forward<registry_entry const &>(a0)); });
+    Use(+[] { delete new registry_settings::registry_entry; });
+    Use(+[] { delete new registry_settings::SettingsTree::counts_t; });
     Use(+[](SettingsTree & a0, registry_entry_list & a1) -> bool { return registry_settings::read_registry_tree(std::forward<SettingsTree &>(a0), std::forward<registry_entry_list &>(a1)); });
     Use(+[](SettingsTree & a0, registry_entry_list & a1) -> bool { return registry_settings::write_registry_tree(std::forward<SettingsTree &>(a0), std::forward<registry_entry_list &>(a1)); });
     Use(+[](SettingsTree & a0, std::u16string const & a1) -> bool { return registry_settings::delete_registry_tree(std::forward<SettingsTree &>(a0), std::forward<std::u16string const &>(a1)); });

@@ -1,9 +1,5 @@
 // A program's precompiled header for an older system, as a wizard made them. That it compiles is the test.
 
-#include <sdkddkver.h>
-
-#include <afxwin.h>
-
 #include <afxcmn.h>
 #include <afxdisp.h>
 #include <afxdlgs.h>
@@ -12,7 +8,9 @@
 #include <afxmt.h>
 #include <afxole.h>
 #include <afxtempl.h>
+#include <afxwin.h>
 #include <atlbase.h>
+#include <sdkddkver.h>
 
 class COldApp : public CWinApp
 {

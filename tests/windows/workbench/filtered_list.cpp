@@ -1,11 +1,5 @@
 // The workbench's list while it is filtered, and what the user did to it being undone.
 
-#include "Input.h"
-#include "Pump.h"
-#include "RecordingList.h"
-#include "ScopedWindow.h"
-#include "frame/RegisteredMessages.h"
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -15,6 +9,12 @@
 #include <random>
 #include <string>
 #include <vector>
+
+#include "frame/RegisteredMessages.h"
+#include "Input.h"
+#include "Pump.h"
+#include "RecordingList.h"
+#include "ScopedWindow.h"
 
 namespace
 {
@@ -106,7 +106,7 @@ TEST_F(FilteredRecordingList, LinesGoAndComeBackToTheirPlacesAsTheyWere)
     m_list.ChooseLine(5);
     m_list.SetReference(3);
     EndGesture();
-    auto const all = Rows();
+    Lines const all = Rows();
     Filter(L"rec_1");
     EXPECT_EQ(Rows(), (Lines{11, 10, 1}));
     EXPECT_EQ(m_list.ChosenLine(), -1);
@@ -193,12 +193,12 @@ TEST_F(FilteredRecordingList, MarkingAllMakesNoRowsThatAreStillMissing)
     ASSERT_LT(m_list.GetItemCount(), count);
     m_list.CheckAll(true);
     EXPECT_LT(m_list.GetItemCount(), count);
-    auto const readable = m_list.Totals().Lines() - m_list.Totals().Unreadable();
+    std::size_t const readable = m_list.Totals().Lines() - m_list.Totals().Unreadable();
     EXPECT_EQ(m_list.Totals().Checked(), readable);
     ASSERT_TRUE(tests::PumpUntil([&] { return m_list.GetItemCount() == count; }));
     for (int row = 0; row < count; ++row)
     {
-        auto const line = m_list.LineAt(row);
+        int const line = m_list.LineAt(row);
         ASSERT_EQ(m_list.GetCheckbox(row, CRecordingList::column_check) == XLC_CHECKED, line % 7 != 6) << line;
     }
     EndGesture();
@@ -246,7 +246,7 @@ protected:
     }
     Lines FirstOfOrder()
     {
-        auto lines = m_list.Order().lines;
+        std::vector<int> lines = m_list.Order().lines;
         lines.resize(static_cast<std::size_t>(m_list.GetCountPerPage()));
         return lines;
     }
@@ -326,12 +326,12 @@ TEST_F(RecordingListWithoutAllRows, AllAreSelectedAndMarked)
     EXPECT_EQ(m_list.ChosenLine(), 600);
     m_list.SendMessage(WM_KEYDOWN, VK_SPACE);
     EXPECT_TRUE(AreMissing());
-    auto const readable = m_list.Totals().Lines() - m_list.Totals().Unreadable();
+    std::size_t const readable = m_list.Totals().Lines() - m_list.Totals().Unreadable();
     EXPECT_EQ(m_list.Totals().Checked(), readable);
     ASSERT_TRUE(WaitForRows());
     EXPECT_EQ(m_list.SelectedLines(), All());
     EXPECT_EQ(m_list.ChosenLine(), 600);
-    for (auto const line : All())
+    for (int const line : All())
     {
         ASSERT_EQ(m_list.GetCheckbox(line, CRecordingList::column_check) == XLC_CHECKED, line % 7 != 6) << line;
     }
@@ -358,7 +358,7 @@ TEST_F(RecordingListWithoutAllRows, TypingFindsLinesThatAreStillToCome)
     m_list.ChooseLine(0);
     EndGesture();
     TakeRows();
-    for (auto const character : std::wstring(L"rec_9"))
+    for (wchar_t const character : std::wstring(L"rec_9"))
     {
         m_list.SendMessage(WM_CHAR, static_cast<WPARAM>(character));
     }
@@ -454,7 +454,7 @@ TEST_F(RecordingListWithManyNotes, MarksOutOfSightComeLater)
     EXPECT_TRUE(m_list.Undo());
     EXPECT_TRUE(tests::PumpUntil([this] { return Mark(last) == XLC_UNCHECKED; }));
     m_list.FinishRows();
-    for (auto const line : All())
+    for (int const line : All())
     {
         ASSERT_NE(Mark(line), XLC_CHECKED) << line;
     }
@@ -465,7 +465,7 @@ TEST_F(RecordingListWithManyNotes, AClickTurnsTheMarkThatIsStillToBeShown)
     m_list.CheckAll(true);
     ASSERT_EQ(Mark(last), XLC_UNCHECKED);
     m_list.EnsureVisible(last, FALSE);
-    auto const point = m_list.CellCentre(last, CRecordingList::column_check);
+    CPoint const point = m_list.CellCentre(last, CRecordingList::column_check);
     m_list.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(point.x, point.y));
     m_list.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(point.x, point.y));
     EXPECT_FALSE(m_list.IsChecked(last));
@@ -497,7 +497,7 @@ TEST_F(RecordingListWithManyNotes, TheHeaderMarksAllAndTakesTheMarksAgain)
         notice.iSubItem = CRecordingList::column_check;
         m_host.SendMessage(WM_NOTIFY, list_id, reinterpret_cast<LPARAM>(&notice));
     };
-    auto const readable = m_list.Totals().Lines() - m_list.Totals().Unreadable();
+    std::size_t const readable = m_list.Totals().Lines() - m_list.Totals().Unreadable();
     TakeRows();
     click();
     EXPECT_TRUE(AreMissing());
@@ -570,9 +570,10 @@ TEST_F(FilteredRecordingList, AWalkEndsWithTheLinesOfAPlainModel)
         }
         workbench::FilterMatch const match(m_list.Filter());
         Lines expected;
-        for (auto const line : m_list.Order().lines)
+        for (int const line : m_list.Order().lines)
         {
-            auto const text = workbench::SearchedText(L"C:\\recordings\\rec_" + std::to_wstring(line) + L".wav", L"");
+            std::wstring const text =
+                workbench::SearchedText(L"C:\\recordings\\rec_" + std::to_wstring(line) + L".wav", L"");
             if (match({text, false, 0, State::sound}))
             {
                 expected.push_back(line);
@@ -604,7 +605,7 @@ TEST_F(FilteredRecordingList, MeasuresSortByTheirValueAndAreHiddenAtFirst)
     EXPECT_EQ(Rows(), (Lines{4, 2, 0, 1, 3, 5, 6, 7}));
     m_list.SortLines(CRecordingList::column_crest, false);
     EXPECT_EQ(m_list.LineAt(0), 7);
-    auto const text = m_list.GetItemText(m_list.PlaceOf(2), CRecordingList::column_loudness);
+    CString const text = m_list.GetItemText(m_list.PlaceOf(2), CRecordingList::column_loudness);
     EXPECT_EQ(CString(text).Trim(), L"-22.0");
 }
 
@@ -612,7 +613,7 @@ TEST_F(FilteredRecordingList, TypingGoesToTheNextNameThatBeginsSo)
 {
     Show(12);
     m_list.ChooseLine(0);
-    for (auto const character : std::wstring(L"REC_11"))
+    for (wchar_t const character : std::wstring(L"REC_11"))
     {
         m_list.SendMessage(WM_CHAR, static_cast<WPARAM>(character));
     }

@@ -1,9 +1,5 @@
 // The workbench's list with many recordings: what happens once a line costs the same however many lines there are.
 
-#include "Pump.h"
-#include "RecordingList.h"
-#include "ScopedWindow.h"
-
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -12,6 +8,10 @@
 #include <memory>
 #include <string>
 #include <vector>
+
+#include "Pump.h"
+#include "RecordingList.h"
+#include "ScopedWindow.h"
 
 namespace
 {
@@ -98,7 +98,7 @@ protected:
         auto const messages = [&](int lines) {
             CountingList list;
             Fill(list, lines);
-            auto const count = list.Count([&] { work(list, lines); });
+            long const count = list.Count([&] { work(list, lines); });
             list.DestroyWindow();
             return static_cast<double>(count) / lines;
         };
@@ -142,10 +142,10 @@ TEST_F(LargeRecordingList, ATextThatManyLinesHaveIsMeasuredOnce)
 {
     CountingList list;
     Fill(list, few);
-    auto const fresh = list.Measured();
+    long const fresh = list.Measured();
     CRecordingList::Batch const batch(list);
     list.ShowAnalysis(0, Analysis(true));
-    auto const measured = list.Measured();
+    long const measured = list.Measured();
     EXPECT_GT(measured, fresh);
     for (int line = 1; line < few; ++line)
     {
@@ -168,11 +168,11 @@ TEST_F(LargeRecordingList, NamesAreMeasuredAsTheListViewMeasuresThem)
     }
     list.ShowFiles(files, std::vector<CRecordingList::Notes>(files.size()));
     tests::PumpPosted(100000);
-    auto const inBatch = list.GetColumnWidth(CRecordingList::column_name);
+    int const inBatch = list.GetColumnWidth(CRecordingList::column_name);
     EXPECT_GT(inBatch, list.GetStringWidth(L"WWWWWWWWWWWWWWWWWW.wav"));
     list.Rename(1, L"C:\\recordings\\WWWWWWWWWWWWWWWWWWWW.wav");
     tests::PumpPosted(100000);
-    auto const alone = list.GetColumnWidth(CRecordingList::column_name);
+    int const alone = list.GetColumnWidth(CRecordingList::column_name);
     EXPECT_EQ(alone - inBatch,
               list.GetStringWidth(L"WWWWWWWWWWWWWWWWWWWW.wav") - list.GetStringWidth(L"WWWWWWWWWWWWWWWWWW.wav"));
     list.DestroyWindow();
@@ -199,9 +199,9 @@ TEST_F(LargeRecordingList, SelectingAllAsksNoLineOutOfSight)
 {
     CountingList list;
     Fill(list, many);
-    auto const inSight = list.GetCountPerPage() + 1;
+    int const inSight = list.GetCountPerPage() + 1;
     // For each line in sight, painting included.
-    auto const most = 60 * inSight;
+    int const most = 60 * inSight;
     ASSERT_LT(most, many);
     EXPECT_LT(list.Count([&] {
         list.SetItemState(-1, LVIS_SELECTED, LVIS_SELECTED);
@@ -254,7 +254,7 @@ TEST_F(LargeRecordingList, MovingTheReferenceAsksNoLineForItsName)
     CountingList list;
     Fill(list, many);
     list.SetReference(3);
-    auto const count = list.Count([&] { list.ShowReference(); });
+    long const count = list.Count([&] { list.ShowReference(); });
     EXPECT_LT(count, 50);
     list.DestroyWindow();
 }
@@ -263,7 +263,7 @@ TEST_F(LargeRecordingList, AGestureOverAllLinesIsToldOnce)
 {
     CountingList list;
     Fill(list, few);
-    auto told = 0;
+    int told = 0;
     list.m_onChanged = [&told](unsigned) { ++told; };
     list.CheckAll(true);
     tests::PumpPosted(100000);
@@ -316,8 +316,8 @@ TEST_F(LargeRecordingList, AClickWithShiftSelectsUpToItAsTheListViewDoes)
     EXPECT_EQ(list.SelectedLines(), range(3, 20));
     click(200, MK_CONTROL);
     click(295, MK_CONTROL | MK_SHIFT);
-    auto both = range(3, 20);
-    auto const more = range(200, 295);
+    std::vector<int> both = range(3, 20);
+    std::vector<int> const more = range(200, 295);
     both.insert(both.end(), more.begin(), more.end());
     EXPECT_EQ(list.SelectedLines(), both) << "with Ctrl the others stay";
     list.DestroyWindow();
@@ -332,8 +332,8 @@ TEST_F(LargeRecordingList, ARangeByAClickPaintsNoRowByItself)
     CPoint const place = list.CellCentre(many - 1, CRecordingList::column_date);
     tests::PumpPosted(100000);
     list.UpdateWindow();
-    auto changes = 0;
-    auto painted = 0;
+    int changes = 0;
+    int painted = 0;
     list.m_onItemChanged = [&] {
         ++changes;
         painted += list.GetUpdateRect(nullptr) ? 1 : 0;
@@ -358,7 +358,7 @@ TEST_F(LargeRecordingList, FewManyAndAllLinesAreSelected)
     }
     list.SelectLines(all, 0);
     EXPECT_EQ(list.SelectedLines(), all);
-    auto fewer = all;
+    std::vector<int> fewer = all;
     fewer.erase(fewer.begin() + 17);
     list.SelectLines(fewer, 5);
     EXPECT_EQ(list.SelectedLines(), fewer);

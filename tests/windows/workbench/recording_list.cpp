@@ -1,16 +1,5 @@
 // The workbench's list of recordings: sorting by a click, dragging lines, and copies of them.
 
-#include "../clipboard_ClipboardTest.h"
-#include "DrawingScopes.h"
-#include "Input.h"
-#include "Pump.h"
-#include "RecordingCells.h"
-#include "RecordingList.h"
-#include "ScopedWindow.h"
-#include "StarRating.h"
-#include "frame/RegisteredMessages.h"
-#include "logic/ReadableColours.h"
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -20,6 +9,17 @@
 #include <memory>
 #include <string>
 #include <vector>
+
+#include "../clipboard_ClipboardTest.h"
+#include "DrawingScopes.h"
+#include "frame/RegisteredMessages.h"
+#include "Input.h"
+#include "logic/ReadableColours.h"
+#include "Pump.h"
+#include "RecordingCells.h"
+#include "RecordingList.h"
+#include "ScopedWindow.h"
+#include "StarRating.h"
 
 namespace
 {
@@ -81,7 +81,7 @@ protected:
     void Show()
     {
         std::vector<std::filesystem::path> files;
-        for (auto const & recording : recordings)
+        for (Recording const & recording : recordings)
         {
             files.push_back(std::filesystem::path(L"C:\\recordings") / recording.name);
         }
@@ -138,7 +138,7 @@ protected:
         CRect rect;
         m_list.GetItemRect(std::min(row, m_list.GetItemCount() - 1), &rect, LVIR_BOUNDS);
         CClientDC dc(&m_list);
-        auto const y = row < m_list.GetItemCount() ? rect.top : rect.bottom;
+        LONG const y = row < m_list.GetItemCount() ? rect.top : rect.bottom;
         return dc.GetPixel(rect.left + 40, y) == ::GetSysColor(COLOR_HIGHLIGHT) &&
                dc.GetPixel(rect.left + 300, y) == ::GetSysColor(COLOR_HIGHLIGHT);
     }
@@ -169,7 +169,7 @@ TEST_F(RecordingListTest, OtherTitlesLeaveTheColumnsTheirSides)
         }
         return formats;
     };
-    auto const before = sides();
+    std::vector<int> const before = sides();
     EXPECT_EQ(before[CRecordingList::column_duration], HDF_RIGHT);
     m_list.ShowTexts();
     EXPECT_EQ(sides(), before);
@@ -202,8 +202,9 @@ TEST_F(RecordingListTest, EveryColumnButTheCheckBoxesSorts)
 
 TEST_F(RecordingListTest, LinesWithoutAValueComeLastBothWays)
 {
-    for (auto const column : {CRecordingList::column_duration, CRecordingList::column_peak, CRecordingList::column_rms,
-                              CRecordingList::column_rating, CRecordingList::column_overview})
+    for (CRecordingList::Column const column :
+         {CRecordingList::column_duration, CRecordingList::column_peak, CRecordingList::column_rms,
+          CRecordingList::column_rating, CRecordingList::column_overview})
     {
         for (bool const ascending : {true, false})
         {
@@ -471,7 +472,7 @@ TEST_F(RecordingListTest, ATableSaysWhatTheCellsShow)
     notes.comment = L" with\ttab ";
     m_list.AppendFile(L"C:\\recordings\\not read.wav", notes);
     m_list.SetReference(1);
-    auto table = m_list.Table(CRecordingList::Lines::all, {});
+    workbench::RecordingTable table = m_list.Table(CRecordingList::Lines::all, {});
     ASSERT_EQ(table.Rows(), 6U);
     while (table.Table().rows.size() < table.Rows())
     {
@@ -617,8 +618,8 @@ TEST_F(RecordingListTest, RowsAndColumnsGrowWithTheResolution)
         list.DestroyWindow();
         return size;
     };
-    auto const usual = measure(96);
-    auto const high = measure(192);
+    CSize const usual = measure(96);
+    CSize const high = measure(192);
     EXPECT_NEAR(high.cy, 2 * usual.cy, 3);
     EXPECT_GE(high.cx, usual.cx * 3 / 2);
 }
@@ -647,7 +648,7 @@ TEST_F(RecordingListTest, MarksCanBeToldApartInAChosenLine)
     EXPECT_GE(workbench::ContrastRatio(background(), frame), least_contrast);
 
     // It is seen, and so are its marks, where the list has no focus.
-    auto const withFocus = background();
+    COLORREF const withFocus = background();
     tests::ScopedWindow other{CRect(600, 500, 800, 600)};
     ASSERT_TRUE(tests::BringToFront(other.m_hWnd));
     EXPECT_TRUE(tests::PumpUntil([&] { return background() != withFocus; }));
@@ -676,7 +677,7 @@ HWND VisibleToolTip()
 
 TEST_F(RecordingListTest, ThePathShowsInItsLineAndGoesWithIt)
 {
-    auto const point = tests::ClientPoint(m_list.m_hWnd, m_list.CellCentre(1, CRecordingList::column_name));
+    CPoint const point = tests::ClientPoint(m_list.m_hWnd, m_list.CellCentre(1, CRecordingList::column_name));
     ASSERT_TRUE(tests::MoveMouse(point));
     ASSERT_TRUE(tests::MoveMouse(point + CPoint(2, 1)));
     ASSERT_TRUE(tests::PumpUntil([] { return VisibleToolTip() != nullptr; }));

@@ -1,5 +1,7 @@
 // What the user sets in the workbench: stored and read back, also from a store that somebody has spoiled.
 
+#include "Settings.h"
+
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -7,9 +9,8 @@
 #include <set>
 #include <string>
 
-#include "Settings.h"
-#include "TestApp.h"
 #include "logic/Texts.h"
+#include "TestApp.h"
 
 using workbench::ReadSettings;
 using workbench::Settings;
@@ -46,7 +47,7 @@ private:
 
 TEST_F(WorkbenchSettings, AreThoseOfANewObjectAtFirst)
 {
-    auto const settings = ReadSettings();
+    Settings const settings = ReadSettings();
     EXPECT_TRUE(settings.fadeIn);
     EXPECT_TRUE(settings.dragByBackground);
     EXPECT_EQ(settings.inactiveOpacity, 50);
@@ -77,7 +78,7 @@ TEST_F(WorkbenchSettings, ComeBackAsTheyWereStored)
     settings.contrast = ControlColorSet::follow_system;
     ASSERT_TRUE(StoreSettings(settings));
     ASSERT_TRUE(workbench::StoreLanguage(1031));
-    auto const read = ReadSettings();
+    Settings const read = ReadSettings();
     EXPECT_FALSE(read.fadeIn);
     EXPECT_FALSE(read.dragByBackground);
     EXPECT_EQ(read.inactiveOpacity, 75);
@@ -117,7 +118,7 @@ TEST_F(WorkbenchSettings, AContrastThatCannotBeIsTheUsualOne)
 
 TEST_F(WorkbenchSettings, AnOpacityOutOfItsLimitsIsNotTaken)
 {
-    for (auto const * const value : {L"19", L"101", L"-5", L"0"})
+    for (wchar_t const * const value : {L"19", L"101", L"-5", L"0"})
     {
         Write(L"InactiveOpacity", value);
         EXPECT_EQ(ReadSettings().inactiveOpacity, 50) << value;
@@ -131,7 +132,7 @@ TEST_F(WorkbenchSettings, AnOpacityOutOfItsLimitsIsNotTaken)
 TEST_F(WorkbenchSettings, BadValuesAreAsInANewObject)
 {
     Settings const usual;
-    for (auto const * const entry : {L"TraceColour", L"BackgroundColour", L"GridColour", L"CursorColour"})
+    for (wchar_t const * const entry : {L"TraceColour", L"BackgroundColour", L"GridColour", L"CursorColour"})
     {
         Write(entry, L"blue");
         EXPECT_EQ(ReadSettings().waveform, usual.waveform) << entry;
@@ -139,7 +140,7 @@ TEST_F(WorkbenchSettings, BadValuesAreAsInANewObject)
     Write(L"CursorColour", L"#102030");
     EXPECT_EQ(ReadSettings().waveform.cursor, RGB(0x10, 0x20, 0x30)); // each for itself
     EXPECT_EQ(ReadSettings().waveform.trace, usual.waveform.trace);
-    for (auto const * const value : {L"7", L"-6", L"60", L"99999999", L"x"})
+    for (wchar_t const * const value : {L"7", L"-6", L"60", L"99999999", L"x"})
     {
         Write(L"Amplification", value);
         EXPECT_EQ(ReadSettings().amplification, 0) << value;
@@ -148,7 +149,7 @@ TEST_F(WorkbenchSettings, BadValuesAreAsInANewObject)
     EXPECT_EQ(ReadSettings().hiddenColumns, (std::set<int>{3, 7, 13, 14, 15, 16})); // the last ones are later ones
     Write(L"FolderPane", L"7");
     EXPECT_FALSE(ReadSettings().folderPane);
-    for (auto const * const value : {L"-5", L"3", L"100000"})
+    for (wchar_t const * const value : {L"-5", L"3", L"100000"})
     {
         Write(L"FolderPaneWidth", value);
         EXPECT_EQ(ReadSettings().folderPaneWidth, 0) << value;
@@ -185,7 +186,7 @@ TEST_F(WorkbenchSettings, TheOpacityBecomesAnAlpha)
 
 TEST_F(WorkbenchSettings, ALanguageChangesTextsAndResources)
 {
-    auto const locale = ::GetThreadLocale();
+    LCID const locale = ::GetThreadLocale();
     workbench::UseLanguage(1031);
     EXPECT_STREQ(workbench::Text(L"Settings"), L"Einstellungen");
     EXPECT_EQ(LANGIDFROMLCID(::GetThreadLocale()), 1031);

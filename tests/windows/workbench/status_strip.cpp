@@ -1,13 +1,12 @@
 // The line at the main window's lower edge.
 
-#include "StatusStrip.h"
-
-#include "ScopedWindow.h"
-
 #include <gtest/gtest.h>
 
 #include <string>
 #include <utility>
+
+#include "ScopedWindow.h"
+#include "StatusStrip.h"
 
 namespace
 {

@@ -5,11 +5,11 @@
 #include <string>
 #include <vector>
 
+#include "../../../workbench/resource.h"
 #include "Pump.h"
 #include "ScopedWindow.h"
 #include "TestApp.h"
 #include "WindowMenu.h"
-#include "../../../workbench/resource.h"
 
 namespace
 {

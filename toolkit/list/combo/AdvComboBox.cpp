@@ -219,7 +219,7 @@ void CAdvComboBox::MakeFont()
         return;
     // A window without a font shows its texts in the system's.
     HGDIOBJ font = ::GetStockObject(SYSTEM_FONT);
-    if (auto const parents = ::SendMessage(m_parentWindow, WM_GETFONT, 0, 0); parents != 0)
+    if (LRESULT const parents = ::SendMessage(m_parentWindow, WM_GETFONT, 0, 0); parents != 0)
         font = reinterpret_cast<HGDIOBJ>(parents);
     LOGFONT description = {};
     auto made = std::make_unique<CFont>();

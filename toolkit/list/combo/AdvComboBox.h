@@ -92,7 +92,6 @@ public:
     int SetItemHeight(int index, int height);
     /// ComboFlags; the next drop window follows them.
     void ModifyComboFlags(DWORD remove, DWORD add);
-    DWORD GetComboFlags() const { return m_comboFlags; }
     /// With fewer rows of room below the combo the drop window opens upwards.
     int GetMinVisible() const { return m_minVisible; }
     void SetMinVisible(int rows) { m_minVisible = rows; }

@@ -5,10 +5,10 @@
 #include "colours/ControlColors.h"
 #include "frame/GraphicsScopes.h"
 #include "layout/Resolution.h"
-#include "list/VisualStyles.h"
 #include "list/combo/AdvComboBoxWatch.h"
 #include "list/combo/AdvComboEdit.h"
 #include "list/combo/DropWnd.h"
+#include "list/VisualStyles.h"
 
 namespace XListCtrl
 {
@@ -59,9 +59,11 @@ void DrawArrowButton(CDC & dc, CRect const & button, bool pressed, bool enabled,
                   pressed ? colors.edgeHighlight : colors.edgeShadow);
     CPoint const middle = button.CenterPoint();
     for (int row = 0; row < half_width; ++row)
+    {
         dc.FillSolidRect(CRect(middle.x - half_width + 1 + row, middle.y - half_width / 2 + row,
                                middle.x + half_width - row, middle.y - half_width / 2 + row + 1),
                          enabled ? colors.buttonText : colors.disabled);
+    }
 }
 } // namespace
 

@@ -30,7 +30,7 @@ public:
 protected:
     accessible::Description DescribeSelf() override
     {
-        auto const facts = Facts();
+        accessible::ControlFacts const facts = Facts();
         CString shown;
         if (IsThere())
             m_combo.GetWindowText(shown);
@@ -83,7 +83,7 @@ public:
     accessible::Element Focused() override { return {IsThere() ? m_list.GetCurSel() : -1, -1}; }
     std::optional<accessible::Element> NextSelected(accessible::Element after) override
     {
-        auto const selected = Focused();
+        accessible::Element const selected = Focused();
         return selected.row > after.row ? std::optional(selected) : std::nullopt;
     }
 
@@ -91,7 +91,7 @@ protected:
     accessible::ItemRow Items() override { return {IsThere() ? m_list.GetCount() : 0, false}; }
     accessible::Description DescribeSelf() override
     {
-        auto facts = Facts();
+        accessible::ControlFacts facts = Facts();
         if (IsThere())
             facts.label = LabelOf(m_list.m_combo->m_hWnd);
         // The focus stays with the combo, while this list shows where it goes.

@@ -1,12 +1,13 @@
 #include "list/combo/ComboMoves.h"
 
+#include <afx.h>
+
 #include <algorithm>
 
 namespace XListCtrl::combo_moves
 {
 namespace
 {
-constexpr int wheel_step = 120;
 constexpr int rows_per_step = 3;
 
 // The window system's SB_ codes.
@@ -21,12 +22,12 @@ constexpr int thumb_track = 5;
 int WheelStep(int & collected, int delta)
 {
     collected += delta;
-    if (collected >= wheel_step)
+    if (collected >= WHEEL_DELTA)
     {
         collected = 0;
         return 1;
     }
-    if (collected <= -wheel_step)
+    if (collected <= -WHEEL_DELTA)
     {
         collected = 0;
         return -1;

@@ -1,7 +1,6 @@
 #include "list/combo/DropWnd.h"
 
 #include "colours/ControlColors.h"
-#include "list/VisualStyles.h"
 #include "frame/GraphicsScopes.h"
 #include "frame/WindowAlive.h"
 #include "layout/WindowDpi.h"
@@ -9,6 +8,7 @@
 #include "list/combo/DropListBox.h"
 #include "list/combo/DropPlacement.h"
 #include "list/combo/DropScrollBar.h"
+#include "list/VisualStyles.h"
 
 namespace XListCtrl
 {

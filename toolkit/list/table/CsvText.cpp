@@ -79,8 +79,10 @@ wchar_t GuessSeparator(std::wstring_view text)
     }
     std::size_t best = 2;
     for (std::size_t i = 2; i-- > 0;)
+    {
         if (counts[i] > counts[best] || (counts[i] == counts[best] && counts[i] != 0))
             best = i;
+    }
     return separators[best];
 }
 

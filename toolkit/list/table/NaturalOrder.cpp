@@ -15,8 +15,10 @@ constexpr std::array<unsigned char, 256> MakeBaseLetters()
     // From 0xC0 on, capitals and small letters in the same order.
     constexpr char bases[] = "aaaaaa\0ceeeeiiiidnooooo\0ouuuuy\0\0";
     for (unsigned int i = 0; i < 32; ++i)
+    {
         if (bases[i] != '\0')
             table[0xC0 + i] = table[0xE0 + i] = static_cast<unsigned char>(bases[i]);
+    }
     table[0xD7] = 0xD7;
     table[0xF7] = 0xF7;
     table[0xFF] = 'y';
@@ -65,8 +67,10 @@ wchar_t CapitalOf(wchar_t small)
     wchar_t const candidates[] = {static_cast<wchar_t>(code - 32), static_cast<wchar_t>(code - 1),
                                   static_cast<wchar_t>(code - 80)};
     for (wchar_t const each : candidates)
+    {
         if (code > 80 && FoldCase(each) == small)
             return each;
+    }
     return small;
 }
 } // namespace
@@ -197,8 +201,10 @@ wchar_t FoldCase(wchar_t character)
 TextSearch::TextSearch(std::wstring_view wanted, bool matchCase) : m_wanted(wanted), m_matchCase(matchCase)
 {
     if (!matchCase)
+    {
         for (wchar_t & each : m_wanted)
             each = Small(each);
+    }
     if (m_wanted.empty())
         return;
     m_first = m_wanted[0];
@@ -210,8 +216,10 @@ bool TextSearch::MatchesAt(wchar_t const * text) const
     if (m_matchCase)
         return std::wstring_view(text, m_wanted.size()) == m_wanted;
     for (std::size_t i = 0; i < m_wanted.size(); ++i)
+    {
         if (Small(text[i]) != m_wanted[i])
             return false;
+    }
     return true;
 }
 
@@ -223,7 +231,9 @@ bool TextSearch::IsIn(std::wstring_view text) const
         return false;
     wchar_t const * const end = text.data() + (text.size() - m_wanted.size()) + 1;
     for (wchar_t const * at = text.data(); at != end; ++at)
+    {
         if ((*at == m_first || *at == m_otherFirst) && MatchesAt(at))
             return true;
+    }
     return false;
 }

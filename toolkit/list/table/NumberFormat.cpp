@@ -40,8 +40,10 @@ Digits DigitsOf(double magnitude, int precision)
     Digits result;
     char const * at = text;
     for (; at != end.ptr && *at != 'e'; ++at)
+    {
         if (*at != '.')
             result.digits[result.count++] = *at;
+    }
     if (at != end.ptr)
     {
         ++at;
@@ -228,8 +230,10 @@ bool TakeWord(std::wstring_view & text, std::wstring_view word)
     if (text.size() < word.size())
         return false;
     for (std::size_t i = 0; i < word.size(); ++i)
+    {
         if ((text[i] | 0x20) != word[i])
             return false;
+    }
     text.remove_prefix(word.size());
     return true;
 }
@@ -310,8 +314,10 @@ std::optional<long long> FirstExponent(Found const & found)
 {
     std::size_t const point = std::min(found.digits.find('.'), found.digits.size());
     for (std::size_t i = 0; i < found.digits.size(); ++i)
+    {
         if (found.digits[i] != '0' && found.digits[i] != '.')
             return static_cast<long long>(point) - static_cast<long long>(i) - (i < point ? 1 : 0) + found.exponent;
+    }
     return std::nullopt;
 }
 

@@ -87,8 +87,10 @@ void TableColumnLayout::Move(unsigned int column, unsigned int shownPlace)
     m_order.erase(from);
     auto at = m_order.begin();
     for (unsigned int passed = 0; at != m_order.end(); ++at)
+    {
         if (!m_columns[*at].hidden && passed++ == shownPlace)
             break;
+    }
     m_order.insert(at, column);
 }
 

@@ -186,8 +186,10 @@ TablePasteReport PasteTable(TableModel const & model, std::vector<CsvRecord> con
     // Rows first: a check may change what is shown.
     std::vector<TableRow> rows;
     for (std::size_t line = 0; line < block.size(); ++line)
+    {
         rows.push_back(line < no_table_row - position ? model.RowAt(position + static_cast<TableRow>(line))
                                                       : no_table_row);
+    }
     for (std::size_t line = 0; line < block.size(); ++line)
     {
         TableRow const row = rows[line];

@@ -17,9 +17,12 @@ bool IsInRange(TableValue const & value, TableFilter::RangePart const & range)
         auto const number = static_cast<double>(value.Whole());
         return number >= range.least && number <= range.greatest;
     }
-    default:
-        return false;
+    case TableKind::blank:
+    case TableKind::text:
+    case TableKind::link:
+        break;
     }
+    return false;
 }
 } // namespace
 
@@ -43,8 +46,10 @@ bool TableRowFilter::Shows(TableAccess & access, TableRow row, unsigned int colu
 bool TableRowFilter::Passes(TableAccess & access, TableRow row)
 {
     for (TableFilter::RangePart const & range : m_filter.ranges)
+    {
         if (!access.Read(row, range.column, m_value) || !IsInRange(m_value, range))
             return false;
+    }
     for (std::size_t i = 0; i < m_searches.size(); ++i)
     {
         unsigned int const column = m_filter.texts[i].column;
@@ -75,8 +80,10 @@ bool FilterTableRows(TableAccess & access, TableRowFilter & filter, TableRow beg
         TableRow const next = begin + std::min(rows_at_a_time, end - begin);
         access.Progress().Work(next - begin);
         for (; begin != next; ++begin)
+        {
             if (filter.Passes(access, begin))
                 rows.push_back(begin);
+        }
         if (access.Stopped())
             return false;
     }

@@ -51,8 +51,10 @@ void PaintTitle(CDC & dc, HWND header, NMCUSTOMDRAW const & draw, ControlColors 
     dc.SetTextColor(former);
     dc.SetBkMode(mode);
     if (sorted)
+    {
         PaintSortMark(dc, CPoint(area.right + text_inset, area.CenterPoint().y - 2), (item.fmt & HDF_SORTDOWN) != 0,
                       pressed ? ink : colors.headerArrow);
+    }
 }
 
 /// What is right of the titles.

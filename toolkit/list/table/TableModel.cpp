@@ -19,12 +19,14 @@ std::size_t CutRanges(std::vector<TableRowRange> & ranges, TableRow count)
     std::size_t rows = 0;
     std::size_t kept = 0;
     for (TableRowRange const & each : ranges)
+    {
         if (each.first < count)
         {
             ranges[kept] = {each.first, std::min(each.last, count - 1)};
             rows += ranges[kept].last - std::size_t{ranges[kept].first} + 1;
             ++kept;
         }
+    }
     ranges.resize(kept);
     return rows;
 }
@@ -255,8 +257,10 @@ void TableModel::DropRowsFrom(TableRow count)
         return;
     std::size_t kept = 0;
     for (std::size_t i = 0; i < m_rows.size(); ++i)
+    {
         if (m_rows[i] < count)
             m_rows[kept++] = m_rows[i];
+    }
     m_rows.Resize(kept);
 }
 
@@ -443,8 +447,10 @@ void TableModel::SelectRange(TableRow from, TableRow to)
     std::vector<TableKey> keys;
     keys.reserve(std::min(to, size - 1) - std::size_t{from} + 1);
     for (TableRow position = from; position < size && position <= to; ++position)
+    {
         if (TableRow const row = RowAt(position); row < count)
             keys.push_back(source->Key(row));
+    }
     m_selected.Add(keys);
 }
 
@@ -463,8 +469,10 @@ std::vector<TableRow> TableModel::SelectedPositions() const
     TableRow const size = Size();
     TableRow const count = source->RowCount();
     for (TableRow position = 0; position < size; ++position)
+    {
         if (TableRow const row = RowAt(position); row < count && m_selected.Contains(source->Key(row)))
             positions.push_back(position);
+    }
     return positions;
 }
 
@@ -476,8 +484,10 @@ TableRow TableModel::NextSelected(TableRow from) const
     TableRow const size = Size();
     TableRow const count = source->RowCount();
     for (TableRow position = from; position < size; ++position)
+    {
         if (TableRow const row = RowAt(position); row < count && m_selected.Contains(source->Key(row)))
             return position;
+    }
     return nowhere;
 }
 

@@ -97,8 +97,6 @@ public:
 
     /// Positions.
     TableRow Size() const { return m_explicit ? static_cast<TableRow>(m_rows.size()) : m_count; }
-    /// The source's rows that are known of.
-    TableRow SourceRows() const { return m_count; }
     TableRow RowAt(TableRow position) const;
     /// Nowhere, if the row is not shown. Looks through all rows where they are sorted or chosen.
     TableRow PositionOf(TableRow row) const;

@@ -49,9 +49,15 @@ double NumberOf(TableValue const & value)
     case TableKind::floating:
     case TableKind::progress:
         return value.Number();
-    default:
-        return static_cast<double>(value.Whole());
+    case TableKind::blank:
+    case TableKind::text:
+    case TableKind::whole:
+    case TableKind::time:
+    case TableKind::tick:
+    case TableKind::link:
+        break;
     }
+    return static_cast<double>(value.Whole());
 }
 
 /// What NumberOf has left.

@@ -97,11 +97,13 @@ NumberFormat const & PercentFormat()
 bool ParseTick(TableValue & value, std::wstring_view text)
 {
     for (std::wstring_view const each : {L"x", L"X", L"1"})
+    {
         if (text == each)
         {
             value.SetTick(true);
             return true;
         }
+    }
     if (text != L"0")
         return false;
     value.SetTick(false);

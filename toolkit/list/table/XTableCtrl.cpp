@@ -1,10 +1,9 @@
-#include "list/table/XTableCtrlState.h"
-
 #include <thread>
 #include <utility>
 
 #include "frame/InternalMessages.h"
 #include "layout/WindowDpi.h"
+#include "list/table/XTableCtrlState.h"
 
 IMPLEMENT_DYNAMIC(CXTableCtrl, CListCtrl)
 
@@ -60,9 +59,6 @@ void table_threads::Run(std::function<void()> work)
 
 CXTableCtrl::CXTableCtrl() : m_state(std::make_shared<State>())
 {
-    m_state->linkCell.MakeLink();
-    m_state->barCell.MakeProgress();
-    m_state->barCell.progressShowText = true;
     m_state->look.palette = control_colors::Of(ControlColorSet::standard);
     TableLooks looks;
     looks.locale = SystemLocale();
@@ -112,9 +108,9 @@ void CXTableCtrl::OnDestroy()
 
 void CXTableCtrl::SetColumns(std::vector<TableColumn> columns, std::wstring const & name)
 {
-    LifeWatch const life(m_lifeSign);
+    Watch const watch(*this);
     CloseEdit();
-    if (life.Over())
+    if (!watch.IsThere())
         return;
     TableLooks looks;
     looks.columns = std::move(columns);
@@ -125,26 +121,26 @@ void CXTableCtrl::SetColumns(std::vector<TableColumn> columns, std::wstring cons
     m_state->layout.Reset(m_state->model.Looks().columns);
     LoadColumns();
     PrepareWindow();
-    if (!life.Over())
+    if (watch.IsThere())
         MakeNativeColumns();
 }
 
 void CXTableCtrl::SetSource(std::shared_ptr<TableSource> const & source)
 {
-    LifeWatch const life(m_lifeSign);
+    Watch const watch(*this);
     CloseEdit();
-    if (life.Over())
+    if (!watch.IsThere())
         return;
     // What was told of the former one is of no interest.
     m_state->feed->Take();
     m_state->model.SetSource(source);
     NoteOrder();
     SetNativeCount();
-    if (!life.Over() && m_hWnd != nullptr && RowsShown() != 0 && m_state->painting == 0)
+    if (watch.IsAlive() && RowsShown() != 0 && m_state->painting == 0)
         BringIntoView(0);
-    if (!life.Over())
+    if (watch.IsThere())
         WishOrder();
-    if (!life.Over())
+    if (watch.IsThere())
         RepaintRows();
 }
 
@@ -154,20 +150,20 @@ void CXTableCtrl::SetTableLocale(TableLocale locale)
     looks.locale = std::move(locale);
     m_state->ownLocale = true;
     m_state->model.SetLooks(std::move(looks));
-    LifeWatch const life(m_lifeSign);
+    Watch const watch(*this);
     WishOrder();
-    if (!life.Over())
+    if (watch.IsThere())
         RepaintRows();
 }
 
 void CXTableCtrl::OnSettingChange(UINT flags, LPCTSTR section)
 {
-    LifeWatch const life(m_lifeSign);
+    Watch const watch(*this);
     CListCtrl::OnSettingChange(flags, section);
-    if (life.Over() || m_state->ownLocale)
+    if (!watch.IsThere() || m_state->ownLocale)
         return;
     SetTableLocale(SystemLocale());
-    if (!life.Over())
+    if (watch.IsThere())
         m_state->ownLocale = false;
 }
 
@@ -179,9 +175,9 @@ std::shared_ptr<TableFeed> const & CXTableCtrl::Feed() const
 void CXTableCtrl::SortBy(std::vector<TableSortColumn> columns)
 {
     m_state->model.SetSort(std::move(columns));
-    LifeWatch const life(m_lifeSign);
+    Watch const watch(*this);
     ShowSortMarks();
-    if (!life.Over())
+    if (watch.IsThere())
         WishOrder();
 }
 
@@ -247,10 +243,10 @@ bool CXTableCtrl::GoToRow(TableRow row)
     table_input::Go(m_state->model, position, false, false);
     NoteSelection(position);
     NoteFocus();
-    LifeWatch const life(m_lifeSign);
+    Watch const watch(*this);
     if (m_hWnd != nullptr && m_state->painting == 0)
         BringIntoView(position);
-    if (!life.Over())
+    if (watch.IsThere())
         AfterSelection(false);
     return true;
 }
@@ -302,7 +298,7 @@ LRESULT CXTableCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     LRESULT result = 0;
     if (AnswerState(message, wParam, lParam, result))
         return result;
-    LifeWatch const life(m_lifeSign);
+    Watch const watch(*this);
     switch (message)
     {
     case WM_VSCROLL:
@@ -310,7 +306,7 @@ LRESULT CXTableCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     case WM_MOUSEWHEEL:
     case WM_MOUSEHWHEEL:
         // The user leaves the cell, unless its text is refused.
-        if (!TakeEdit() || life.Over() || m_hWnd == nullptr)
+        if (!TakeEdit() || !watch.IsAlive())
             return 0;
         break;
     case WM_CONTEXTMENU:
@@ -318,7 +314,7 @@ LRESULT CXTableCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
         {
             // By the keyboard: at the cell with the focus.
             CPoint const place = MenuPlace();
-            if (life.Over() || m_hWnd == nullptr)
+            if (!watch.IsAlive())
                 return 0;
             lParam = MAKELPARAM(place.x, place.y);
         }
@@ -348,7 +344,7 @@ LRESULT CXTableCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
         break;
     }
     result = CListCtrl::WindowProc(message, wParam, lParam);
-    if (life.Over() || m_hWnd == nullptr)
+    if (!watch.IsAlive())
         return result;
     switch (message)
     {

@@ -209,6 +209,7 @@ protected:
 private:
     struct State;
     class Waker;
+    class Watch;
     class AccessRows;
     class AccessTargetOfTable;
 
@@ -267,7 +268,7 @@ private:
     void ShowColumn(unsigned int column);
     void MoveFocusColumn(bool right);
     bool PressSpace();
-    bool ComeHere(LifeWatch const & life);
+    bool ComeHere(Watch const & watch);
     CPoint MenuPlace();
     void GoTo(TableRow position, bool shift, bool control);
     void AfterSelection(bool tell);

@@ -1,17 +1,15 @@
 // CXTableCtrl: what programs that read the screen see of the table, and what they are told.
 
-#include "list/table/XTableCtrlState.h"
-
 #include <oleacc.h>
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 #include "access/ControlTarget.h"
 #include "access/ListTarget.h"
-#include "frame/WindowAlive.h"
 #include "list/CellKind.h"
+#include "list/table/ValueCell.h"
+#include "list/table/XTableCtrlState.h"
 
 using accessible::Element;
 
@@ -22,7 +20,7 @@ using accessible::Element;
 class CXTableCtrl::AccessRows final : public AccessibleList
 {
 public:
-    explicit AccessRows(CXTableCtrl & table) : m_alive(table, table.m_lifeSign), m_table(table) {}
+    explicit AccessRows(CXTableCtrl & table) : m_alive(table), m_table(table) {}
 
     /// Null once it has ended, or its window has.
     CXTableCtrl * Table() const { return m_alive.IsAlive() ? &m_table : nullptr; }
@@ -38,19 +36,19 @@ public:
     {
         // The native list takes so many.
         constexpr TableRow most_rows = 100000000;
-        auto const state = Kept();
+        std::shared_ptr<State> const state = Kept();
         return state ? static_cast<int>(std::min(state->model.Size(), most_rows)) : 0;
     }
     int ColumnCount() const override
     {
-        auto const state = Kept();
+        std::shared_ptr<State> const state = Kept();
         return state ? static_cast<int>(state->shown.size()) : 0;
     }
     XLISTCTRLDATA const * Cell(int row, int col) const override;
     std::wstring Text(int row, int col) const override;
     std::wstring Title(int col) const override
     {
-        auto const state = Kept();
+        std::shared_ptr<State> const state = Kept();
         TableColumn const * const described = state ? state->Column(ColumnAt(*state, col)) : nullptr;
         return described != nullptr ? TitleOf(*described) : std::wstring();
     }
@@ -58,7 +56,7 @@ public:
     std::optional<CRect> CellRect(int row, int col) const override
     {
         CRect rect;
-        auto const state = Kept();
+        std::shared_ptr<State> const state = Kept();
         if (!state || !Table()->CellRect(static_cast<TableRow>(row), ColumnAt(*state, col), rect))
             return {};
         return rect;
@@ -80,7 +78,7 @@ public:
     {
         TableRow position = TableModel::nowhere;
         unsigned int column = State::no_column;
-        auto const state = Kept();
+        std::shared_ptr<State> const state = Kept();
         bool const found = state && Table()->HitCell(point, position, column);
         if (position == TableModel::nowhere)
             return {-1, -1};
@@ -92,19 +90,19 @@ public:
     bool IsMultiSelect() const override { return true; }
     int FocusedRow() const override
     {
-        auto const state = Kept();
+        std::shared_ptr<State> const state = Kept();
         TableRow const position = state ? state->model.FocusPosition() : TableModel::nowhere;
         return position == TableModel::nowhere ? -1 : static_cast<int>(position);
     }
     bool IsFocused(int row) const override
     {
-        auto const state = Kept();
+        std::shared_ptr<State> const state = Kept();
         TableRow const source = state ? state->model.RowAt(static_cast<TableRow>(row)) : no_table_row;
         return source != no_table_row && source == state->model.FocusRow();
     }
     int FocusedCol() const override
     {
-        auto const state = Kept();
+        std::shared_ptr<State> const state = Kept();
         if (!state || !state->cursor)
             return -1;
         auto const place = std::find(state->shown.begin(), state->shown.end(), m_table.CursorColumn());
@@ -113,18 +111,18 @@ public:
     int NextSelected(int after) const override;
     bool IsSelected(int row) const override
     {
-        auto const state = Kept();
+        std::shared_ptr<State> const state = Kept();
         return state && state->model.IsSelected(static_cast<TableRow>(row));
     }
     bool CanTick(int col) const override
     {
-        auto const state = Kept();
+        std::shared_ptr<State> const state = Kept();
         TableColumn const * const described = state ? state->Column(ColumnAt(*state, col)) : nullptr;
         return described != nullptr && described->editable;
     }
 
 private:
-    WindowAlive m_alive;
+    Watch m_alive;
     CXTableCtrl & m_table;
     /// What the cell would be in a report list.
     mutable XLISTCTRLDATA m_cell;
@@ -132,43 +130,24 @@ private:
 
 XLISTCTRLDATA const * CXTableCtrl::AccessRows::Cell(int row, int col) const
 {
-    auto const state = Kept();
+    std::shared_ptr<State> const state = Kept();
     unsigned int const column = state ? ColumnAt(*state, col) : State::no_column;
     if (column == State::no_column)
         return nullptr;
     bool const typed = m_table.IsTyped(column);
     TableValue value;
     state->model.Read(static_cast<TableRow>(row), column, value);
-    m_cell.properties = XLP_ENABLED;
-    m_cell.checkedState = XLC_NONE;
-    switch (value.Kind())
-    {
-    case TableKind::link:
-        m_cell.properties |= XLP_LINK;
-        return &m_cell;
-    case TableKind::tick:
-        m_cell.checkedState = value.Whole() != 0 ? XLC_CHECKED : XLC_UNCHECKED;
-        return &m_cell;
-    case TableKind::progress:
-        m_cell.properties |= XLP_PROGRESS;
-        m_cell.progressValue =
-            std::isfinite(value.Number()) ? static_cast<int>(std::clamp(value.Number(), 0.0, 100.0)) : 0;
-        break;
-    default:
-        break;
-    }
-    if (typed)
-        m_cell.properties |= XLP_EDIT;
+    MakeCellOf(value, typed, m_cell);
     return &m_cell;
 }
 
 std::wstring CXTableCtrl::AccessRows::Text(int row, int col) const
 {
-    auto const state = Kept();
+    std::shared_ptr<State> const state = Kept();
     unsigned int const column = state ? ColumnAt(*state, col) : State::no_column;
     if (column == State::no_column)
         return {};
-    auto const looks = state->model.SharedLooks();
+    std::shared_ptr<TableLooks const> const looks = state->model.SharedLooks();
     TableValue value;
     std::wstring text;
     // Of a tick a mark is shown.
@@ -182,7 +161,7 @@ std::wstring CXTableCtrl::AccessRows::Text(int row, int col) const
 CRect CXTableCtrl::AccessRows::SightRect(int col) const
 {
     CRect sight = ClientRect();
-    auto const state = Kept();
+    std::shared_ptr<State> const state = Kept();
     CHeaderCtrl * const header = state ? m_table.Titles() : nullptr;
     if (header == nullptr || Table() == nullptr)
         return sight;
@@ -201,7 +180,7 @@ CRect CXTableCtrl::AccessRows::SightRect(int col) const
 // Looks through all rows only where several are selected, or one that is not the focus.
 int CXTableCtrl::AccessRows::NextSelected(int after) const
 {
-    auto const state = Kept();
+    std::shared_ptr<State> const state = Kept();
     if (!state || state->model.SelectedKeys() == 0)
         return -1;
     TableRow next = TableModel::nowhere;
@@ -245,7 +224,7 @@ private:
 // What a click does, or where a click only leads there, a second one.
 bool CXTableCtrl::AccessTargetOfTable::Act(Element element)
 {
-    auto const state = m_rows.Kept();
+    std::shared_ptr<State> const state = m_rows.Kept();
     if (!element.IsCell() || !state || !m_rows.IsEnabled())
         return false;
     auto const position = static_cast<TableRow>(element.row);
@@ -270,7 +249,7 @@ bool CXTableCtrl::AccessTargetOfTable::Act(Element element)
 
 bool CXTableCtrl::AccessTargetOfTable::Select(Element element, long flags)
 {
-    auto const state = m_rows.Kept();
+    std::shared_ptr<State> const state = m_rows.Kept();
     if (!state || element.IsControl())
         return AccessTarget::Select(element, flags);
     constexpr long known = SELFLAG_TAKEFOCUS | SELFLAG_TAKESELECTION | SELFLAG_EXTENDSELECTION | SELFLAG_ADDSELECTION |
@@ -368,10 +347,9 @@ void CXTableCtrl::NoteOrder()
 
 void CXTableCtrl::TellNews()
 {
-    auto const state = m_state;
+    std::shared_ptr<State> const state = m_state;
     TableNews const news = std::exchange(state->news, {});
-    HWND const window = m_hWnd;
-    LifeWatch const life(m_lifeSign);
+    Watch const watch(*this);
     AccessRows const rows(*this);
     std::vector<std::pair<DWORD, Element>> events;
     // The table stands for what has moved since.
@@ -386,7 +364,7 @@ void CXTableCtrl::TellNews()
         events.emplace_back(EVENT_OBJECT_REORDER, Element{});
     if (news.values.AreSeveral())
         events.emplace_back(EVENT_OBJECT_VALUECHANGE, Element{});
-    if (auto const one = news.values.One())
+    if (std::optional<TableNewsPlaces::Place> const one = news.values.One())
     {
         Element const element = elementOf(*one);
         TableColumn const * const described = state->Column(one->column);
@@ -394,7 +372,7 @@ void CXTableCtrl::TellNews()
             events.emplace_back(EVENT_OBJECT_STATECHANGE, element);
         events.emplace_back(EVENT_OBJECT_VALUECHANGE, element);
     }
-    auto const chosen = news.selection.One();
+    std::optional<TableNewsPlaces::Place> const chosen = news.selection.One();
     if (Element const element = chosen ? elementOf(*chosen) : Element{}; element.IsRow())
     {
         bool const selected = rows.IsSelected(element.row);
@@ -413,6 +391,8 @@ void CXTableCtrl::TellNews()
     }
     // A listener within the process may end the table.
     for (auto const & [event, element] : events)
-        if (!life.Over() && m_hWnd == window)
-            TellOfEvent(event, window, element);
+    {
+        if (watch.IsAlive())
+            TellOfEvent(event, m_hWnd, element);
+    }
 }

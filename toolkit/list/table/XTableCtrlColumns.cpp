@@ -1,5 +1,3 @@
-#include "list/table/XTableCtrlState.h"
-
 #include <algorithm>
 #include <utility>
 
@@ -7,6 +5,8 @@
 #include "frame/PreferenceStore.h"
 #include "layout/WindowDpi.h"
 #include "list/table/TableHeaderPaint.h"
+#include "list/table/ValueCell.h"
+#include "list/table/XTableCtrlState.h"
 
 namespace
 {
@@ -20,19 +20,16 @@ constexpr int no_value = -1;
 
 int FormatOf(TableColumn const & column)
 {
-    switch (column.align)
+    switch (AlignmentOf(column, column.kind))
     {
-    case TableAlign::centre:
+    case CellAlign::left:
+        break;
+    case CellAlign::centre:
         return HDF_CENTER;
-    case TableAlign::right:
+    case CellAlign::right:
         return HDF_RIGHT;
-    case TableAlign::by_kind:
-        if (column.kind == TableKind::whole || column.kind == TableKind::floating)
-            return HDF_RIGHT;
-        return column.kind == TableKind::time ? HDF_CENTER : HDF_LEFT;
-    default:
-        return HDF_LEFT;
     }
+    return HDF_LEFT;
 }
 
 std::wstring KeyOf(std::wstring const & table, TableColumn const & column)
@@ -48,10 +45,10 @@ void CXTableCtrl::PrepareWindow()
         return;
     state.prepared = true;
     state.waker->SetWindow(m_hWnd);
-    LifeWatch const life(m_lifeSign);
+    Watch const watch(*this);
     if (state.followsDpi)
         SetDpi(window_dpi::Of(m_hWnd));
-    auto const mayGoOn = [&] { return !life.Over() && state.prepared; };
+    auto const mayGoOn = [&] { return watch.IsAlive() && state.prepared; };
     // What is typed into stays as it is while rows are painted.
     ModifyStyle(0, WS_CLIPCHILDREN);
     if (!mayGoOn())
@@ -82,7 +79,7 @@ void CXTableCtrl::MakeNativeColumns()
     state.shown = state.layout.Shown();
     if (!state.prepared)
         return;
-    LifeWatch const life(m_lifeSign);
+    Watch const watch(*this);
     KeepRowHeight();
     ++state.making;
     AskNative(WM_SETREDRAW, FALSE);
@@ -91,7 +88,7 @@ void CXTableCtrl::MakeNativeColumns()
     for (int count = header.GetItemCount(); count > static_cast<int>(state.shown.size()); --count)
         AskNative(LVM_DELETECOLUMN, static_cast<WPARAM>(count) - 1);
     // The host hears of each, and may have other columns made meanwhile.
-    for (std::size_t i = 0; !life.Over() && m_hWnd != nullptr && i < state.shown.size(); ++i)
+    for (std::size_t i = 0; watch.IsAlive() && i < state.shown.size(); ++i)
     {
         TableColumn const * const described = state.Column(state.shown[i]);
         if (described == nullptr)
@@ -105,14 +102,14 @@ void CXTableCtrl::MakeNativeColumns()
         bool const there = static_cast<int>(i) < header.GetItemCount();
         AskNative(there ? LVM_SETCOLUMNW : LVM_INSERTCOLUMNW, i, reinterpret_cast<LPARAM>(&column));
     }
-    if (life.Over())
+    if (!watch.IsThere())
         return;
     --state.making;
-    if (m_hWnd == nullptr)
+    if (!watch.IsAlive())
         return;
     AskNative(WM_SETREDRAW, TRUE);
     ShowSortMarks();
-    if (life.Over() || m_hWnd == nullptr)
+    if (!watch.IsAlive())
         return;
     Invalidate(FALSE);
     header.Invalidate(FALSE);
@@ -133,11 +130,11 @@ void CXTableCtrl::FollowNatively()
     if (MustWait())
         return;
     m_state->nativeWaits = false;
-    LifeWatch const life(m_lifeSign);
+    Watch const watch(*this);
     MakeNativeColumns();
-    if (!life.Over())
+    if (watch.IsThere())
         SetNativeCount();
-    if (!life.Over())
+    if (watch.IsThere())
         RepaintRows();
 }
 
@@ -146,7 +143,7 @@ void CXTableCtrl::ShowSortMarks()
     State & state = *m_state;
     if (!state.prepared)
         return;
-    LifeWatch const life(m_lifeSign);
+    Watch const watch(*this);
     ++state.making;
     CHeaderCtrl & header = *Titles();
     for (std::size_t i = 0; i < state.shown.size(); ++i)
@@ -161,14 +158,16 @@ void CXTableCtrl::ShowSortMarks()
         item.fmt &= ~(HDF_SORTUP | HDF_SORTDOWN | HDF_JUSTIFYMASK);
         item.fmt |= FormatOf(*state.Column(state.shown[i]));
         for (TableSortColumn const & each : state.model.Sort())
+        {
             if (each.column == state.shown[i])
                 item.fmt |= each.descending ? HDF_SORTDOWN : HDF_SORTUP;
+        }
         if (item.fmt == former)
             continue;
         header.SetItem(static_cast<int>(i), &item);
-        if (life.Over())
+        if (!watch.IsThere())
             return;
-        if (m_hWnd == nullptr)
+        if (!watch.IsAlive())
             break;
     }
     --state.making;
@@ -186,7 +185,7 @@ void CXTableCtrl::PlaceFrozenHeader()
     if (frozen == 0 && over.GetItemCount() == 0)
         return;
     CHeaderCtrl & header = *Titles();
-    LifeWatch const life(m_lifeSign);
+    Watch const watch(*this);
     ++state.making;
     for (int count = over.GetItemCount(); count > static_cast<int>(frozen); --count)
         over.DeleteItem(count - 1);
@@ -204,9 +203,9 @@ void CXTableCtrl::PlaceFrozenHeader()
             over.SetItem(static_cast<int>(i), &item);
         else
             over.InsertItem(static_cast<int>(i), &item);
-        if (life.Over())
+        if (!watch.IsThere())
             return;
-        if (over.m_hWnd == nullptr)
+        if (!watch.IsAlive() || over.m_hWnd == nullptr)
         {
             --state.making;
             return;
@@ -217,16 +216,16 @@ void CXTableCtrl::PlaceFrozenHeader()
     ScreenToClient(&place);
     over.SetWindowPos(&CWnd::wndTop, 0, place.top, width, place.Height(),
                       SWP_NOACTIVATE | (frozen != 0 ? SWP_SHOWWINDOW : SWP_HIDEWINDOW));
-    if (!life.Over())
+    if (watch.IsThere())
         --state.making;
 }
 
 void CXTableCtrl::SetFrozenColumns(unsigned int count)
 {
     m_state->layout.SetFrozen(count);
-    LifeWatch const life(m_lifeSign);
+    Watch const watch(*this);
     PlaceFrozenHeader();
-    if (!life.Over())
+    if (watch.IsThere())
         RepaintRows();
 }
 
@@ -276,9 +275,9 @@ bool CXTableCtrl::HideTableColumn(unsigned int column, bool hidden)
 {
     if (!m_state->layout.Hide(column, hidden))
         return false;
-    LifeWatch const life(m_lifeSign);
+    Watch const watch(*this);
     MakeNativeColumns();
-    if (!life.Over())
+    if (watch.IsThere())
         StoreColumn(column);
     return true;
 }
@@ -286,9 +285,9 @@ bool CXTableCtrl::HideTableColumn(unsigned int column, bool hidden)
 void CXTableCtrl::MoveTableColumn(unsigned int column, unsigned int place)
 {
     m_state->layout.Move(column, place);
-    LifeWatch const life(m_lifeSign);
+    Watch const watch(*this);
     MakeNativeColumns();
-    if (!life.Over())
+    if (watch.IsThere())
         StoreColumns();
 }
 
@@ -314,10 +313,10 @@ BOOL CXTableCtrl::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT * result)
     CHeaderCtrl * const native = Titles();
     if (native != nullptr && (header.hwndFrom == native->m_hWnd || header.hwndFrom == m_state->frozenHeader.m_hWnd))
     {
-        LifeWatch const life(m_lifeSign);
+        Watch const watch(*this);
         ++m_state->native;
         bool const done = OnHeaderNotify(header, result);
-        if (life.Over())
+        if (!watch.IsThere())
             return TRUE;
         EndNative();
         if (done)
@@ -347,8 +346,8 @@ bool CXTableCtrl::OnHeaderNotify(NMHDR const & header, LRESULT * result)
     case HDN_BEGINDRAG:
     case NM_RCLICK: {
         // The user leaves the cell, unless its text is refused.
-        LifeWatch const life(m_lifeSign);
-        if (!TakeEdit() || life.Over() || m_hWnd == nullptr)
+        Watch const watch(*this);
+        if (!TakeEdit() || !watch.IsAlive())
         {
             *result = TRUE;
             return true;
@@ -366,9 +365,9 @@ bool CXTableCtrl::OnHeaderNotify(NMHDR const & header, LRESULT * result)
         if (column == TableFilter::any_column || change.iButton != 0)
             return true;
         state.model.ClickTitle(column, ::GetKeyState(VK_SHIFT) < 0);
-        LifeWatch const life(m_lifeSign);
+        Watch const watch(*this);
         ShowSortMarks();
-        if (!life.Over())
+        if (watch.IsThere())
             WishOrder();
         return true;
     }
@@ -524,18 +523,18 @@ void CXTableCtrl::ShowColumnMenu(CPoint screen)
             title.insert(at, 1, L'&');
         menu.AppendMenu(flags, static_cast<UINT_PTR>(column) + 1, title.c_str());
     }
-    LifeWatch const life(m_lifeSign);
+    Watch const watch(*this);
     auto const command = static_cast<unsigned int>(
         menu.TrackPopupMenu(TPM_RETURNCMD | TPM_NONOTIFY | TPM_RIGHTBUTTON, screen.x, screen.y, this));
-    if (life.Over() || command == 0 || command > m_state->layout.Count())
+    if (!watch.IsThere() || command == 0 || command > m_state->layout.Count())
         return;
     HideTableColumn(command - 1, !m_state->layout.IsHidden(command - 1));
 }
 
 void CXTableCtrl::OnSize(UINT type, int width, int height)
 {
-    LifeWatch const life(m_lifeSign);
+    Watch const watch(*this);
     CListCtrl::OnSize(type, width, height);
-    if (!life.Over())
+    if (watch.IsThere())
         PlaceFrozenHeader();
 }

@@ -1,13 +1,12 @@
 // CXTableCtrl: the cell cursor. Its row is the one with the focus; its column is the one that keys meant before there
 // was a cursor, too.
 
-#include "list/table/XTableCtrlState.h"
-
 #include <algorithm>
 #include <limits>
 #include <utility>
 
 #include "list/CursorMoves.h"
+#include "list/table/XTableCtrlState.h"
 
 namespace
 {
@@ -57,10 +56,10 @@ bool CXTableCtrl::SetCellCursor(TableRow row, unsigned int column)
     bool const isShown = std::find(state.shown.begin(), state.shown.end(), column) != state.shown.end();
     if (!state.cursor || !isShown || state.model.PositionOf(row) == TableModel::nowhere)
         return false;
-    LifeWatch const life(m_lifeSign);
+    Watch const watch(*this);
     if (PutCursorColumn(column))
         GoToRow(row);
-    return !life.Over();
+    return watch.IsThere();
 }
 
 /// Where keys do something; State::no_column where the user has not chosen a cell and there is no cursor.
@@ -80,9 +79,9 @@ bool CXTableCtrl::PutCursorColumn(unsigned int column)
     NoteFocus();
     if (m_hWnd == nullptr || m_state->painting != 0)
         return true;
-    LifeWatch const life(m_lifeSign);
+    Watch const watch(*this);
     ShowColumn(column);
-    if (life.Over() || m_hWnd == nullptr)
+    if (!watch.IsAlive())
         return false;
     RepaintRows();
     return true;
@@ -174,7 +173,7 @@ std::optional<std::pair<TableRow, unsigned int>> CXTableCtrl::NextEditable(bool 
     };
     if (position == TableModel::nowhere || std::none_of(state.shown.begin(), state.shown.end(), isEditable))
         return {};
-    auto const next = cursor_moves::NextChangeable(
+    std::optional<cursor_moves::Place> const next = cursor_moves::NextChangeable(
         GridOf(state.model.Size(), state.shown), {static_cast<int>(position), static_cast<int>(CursorColumn())}, forth,
         [&isEditable](int, int column) { return isEditable(static_cast<unsigned int>(column)); });
     if (!next)
@@ -194,8 +193,8 @@ void CXTableCtrl::GoToNextEditable(std::pair<TableRow, unsigned int> const & nex
 /// Those shown, as wide as what is seen of them.
 void CXTableCtrl::FitColumns()
 {
-    LifeWatch const life(m_lifeSign);
-    for (unsigned int place = 0; !life.Over() && m_hWnd != nullptr && place < m_state->shown.size(); ++place)
+    Watch const watch(*this);
+    for (unsigned int place = 0; watch.IsAlive() && place < m_state->shown.size(); ++place)
         FitColumn(place);
 }
 

@@ -1,12 +1,12 @@
 // CXTableCtrl: the cell that is typed into. The edit stays with its cell by the row's key, wherever rows and columns
 // go.
 
-#include "list/table/XTableCtrlState.h"
-
 #include <algorithm>
 #include <utility>
 
 #include "frame/OwnTexts.h"
+#include "list/table/ValueCell.h"
+#include "list/table/XTableCtrlState.h"
 
 namespace
 {
@@ -21,11 +21,19 @@ constexpr int reason_width = 300;
 
 DWORD EditAlignment(TableColumn const & column)
 {
-    if (column.align == TableAlign::right)
+    // Times, in the middle otherwise, are typed from the left.
+    if (column.align == TableAlign::by_kind && column.kind == TableKind::time)
+        return ES_LEFT;
+    switch (AlignmentOf(column, column.kind))
+    {
+    case CellAlign::left:
+        break;
+    case CellAlign::centre:
+        return ES_CENTER;
+    case CellAlign::right:
         return ES_RIGHT;
-    if (column.align == TableAlign::by_kind && (column.kind == TableKind::whole || column.kind == TableKind::floating))
-        return ES_RIGHT;
-    return column.align == TableAlign::centre ? ES_CENTER : ES_LEFT;
+    }
+    return ES_LEFT;
 }
 
 /// What the user is told where nobody else says anything.
@@ -43,9 +51,13 @@ std::wstring OwnReason(TableRefused const & refused, TableColumn const * column)
         return ReadOwnText(OwnText::not_a_number);
     case TableKind::time:
         return ReadOwnText(OwnText::not_a_time);
-    default:
-        return ReadOwnText(OwnText::not_a_value);
+    case TableKind::blank:
+    case TableKind::text:
+    case TableKind::tick:
+    case TableKind::link:
+        break;
     }
+    return ReadOwnText(OwnText::not_a_value);
 }
 
 /// Of the edit, so that no host hears when it is shown.
@@ -94,10 +106,10 @@ bool CXTableCtrl::EndEdit(bool take)
 // typed: replaces what the cell shows; null for none.
 bool CXTableCtrl::OpenEdit(TableRow row, unsigned int column, wchar_t const * typed)
 {
-    auto const kept = m_state;
+    std::shared_ptr<State> const kept = m_state;
     State & state = *kept;
-    LifeWatch const life(m_lifeSign);
-    auto const mayGoOn = [&] { return !life.Over() && m_hWnd != nullptr && state.painting == 0; };
+    Watch const watch(*this);
+    auto const mayGoOn = [&] { return watch.IsAlive() && state.painting == 0; };
     if (!TakeEdit())
     {
         // The refused text comes first.
@@ -183,7 +195,7 @@ bool CXTableCtrl::TakeEdit()
         return true;
     }
 
-    LifeWatch const life(m_lifeSign);
+    Watch const watch(*this);
     // No second time within what is called here.
     editing->taking = true;
     TableRefused refused{0, 0, TableRefusal::not_readable, text, {}};
@@ -197,7 +209,7 @@ bool CXTableCtrl::TakeEdit()
         refused.reason = column.check(value);
         taken = refused.reason.empty();
     }
-    if (life.Over())
+    if (!watch.IsThere())
         return true;
     std::shared_ptr<TableSource> const source = editing->source.lock();
     TableRow const row = source && source == state.model.Source() ? source->RowOfKey(editing->key) : no_table_row;
@@ -214,11 +226,13 @@ bool CXTableCtrl::TakeEdit()
         if (taken)
             feed->RowsChanged(row, row);
     }
-    if (life.Over())
+    if (!watch.IsThere())
         return true;
     if (taken)
+    {
         NoteValue(state.model.FocusRow() == row ? state.model.FocusPosition() : state.model.PositionOf(row),
                   editing->column);
+    }
     editing->taking = false;
     // The host may have ended it, or opened another.
     if (state.editing != editing)
@@ -226,30 +240,30 @@ bool CXTableCtrl::TakeEdit()
     if (taken)
     {
         CloseEdit();
-        if (!life.Over() && m_hWnd != nullptr)
+        if (watch.IsAlive())
             UpdateNow();
         return true;
     }
     RefuseEdit(editing, refused, row);
-    return life.Over() || state.editing == nullptr;
+    return !watch.IsThere() || state.editing == nullptr;
 }
 
 /// The edit stays, and the user learns why; without its row it goes.
 void CXTableCtrl::RefuseEdit(std::shared_ptr<TableEditing> const & editing, TableRefused const & refused, TableRow row)
 {
-    LifeWatch const life(m_lifeSign);
+    Watch const watch(*this);
     bool const stays = refused.refusal != TableRefusal::no_such_row && refused.refusal != TableRefusal::not_editable;
     if (stays)
         editing->window->StayOpen();
     else
         CloseEdit();
-    if (life.Over())
+    if (!watch.IsThere())
         return;
     std::wstring reason = refused.reason;
     auto const callback = m_onEditRefused;
     if (callback)
         reason = callback(row, editing->column, refused);
-    if (!life.Over() && m_state->editing == editing)
+    if (watch.IsThere() && m_state->editing == editing)
         ShowReason(reason.empty() ? OwnReason(refused, m_state->Column(editing->column)) : std::move(reason));
 }
 
@@ -323,7 +337,7 @@ void CXTableCtrl::WishEditPlace()
 // The edit follows its cell. Where that is shown no more, it ends.
 void CXTableCtrl::PlaceEdit()
 {
-    auto const kept = m_state;
+    std::shared_ptr<State> const kept = m_state;
     State & state = *kept;
     std::shared_ptr<TableEditing> const editing = state.editing;
     if (!editing)
@@ -335,15 +349,15 @@ void CXTableCtrl::PlaceEdit()
     TableRow const row = source && source == state.model.Source() ? source->RowOfKey(editing->key) : no_table_row;
     TableRow const position = row == no_table_row ? TableModel::nowhere : state.model.PositionOf(row);
     CRect place;
-    LifeWatch const life(m_lifeSign);
+    Watch const watch(*this);
     bool const placed = position != TableModel::nowhere && editing->window->m_hWnd != nullptr &&
                         CellRect(position, editing->column, place);
     // Measuring a row, the native list may ask for it, of which the host hears.
-    if (life.Over() || m_hWnd == nullptr || state.editing != editing)
+    if (!watch.IsAlive() || state.editing != editing)
         return;
     if (!placed || editing->window->m_hWnd == nullptr)
     {
-        if (!TakeEdit() && !life.Over())
+        if (!TakeEdit() && watch.IsThere())
             CloseEdit();
         return;
     }
@@ -402,8 +416,8 @@ LRESULT CXTableCtrl::OnEditEnds(WPARAM, LPARAM)
     // Losing the focus leads nowhere.
     bool const byKey = editing->window->m_hWnd != nullptr && ::GetFocus() == editing->window->m_hWnd;
     CXTableEdit::Way const way = byKey ? editing->window->LastWay() : CXTableEdit::Way::stay;
-    LifeWatch const life(m_lifeSign);
-    if (TakeEdit() && !life.Over() && m_hWnd != nullptr && way != CXTableEdit::Way::stay)
+    Watch const watch(*this);
+    if (TakeEdit() && watch.IsAlive() && way != CXTableEdit::Way::stay)
         EditNext(editing->key, editing->column, way == CXTableEdit::Way::forth);
     return 0;
 }

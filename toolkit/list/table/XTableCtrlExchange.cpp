@@ -1,11 +1,10 @@
-#include "list/table/XTableCtrlState.h"
-
 #include <utility>
 
 #include "clipboard/Clipboard.h"
 #include "clipboard/HtmlBlock.h"
 #include "list/table/TableCopy.h"
 #include "list/table/TableFile.h"
+#include "list/table/XTableCtrlState.h"
 
 namespace
 {
@@ -117,9 +116,9 @@ TablePasteReport CXTableCtrl::PasteBlock()
 {
     State & state = *m_state;
     CString text;
-    LifeWatch const life(m_lifeSign);
+    Watch const watch(*this);
     // Whoever has what is there may be asked for it.
-    if (!Clipboard::StringFromClipboard(text) || text.IsEmpty() || life.Over())
+    if (!Clipboard::StringFromClipboard(text) || text.IsEmpty() || !watch.IsThere())
         return {};
     TableRow const position = state.model.FocusPosition();
     if (position == TableModel::nowhere)
@@ -134,10 +133,10 @@ TablePasteReport CXTableCtrl::PasteBlock()
     TablePasteReport report = PasteTable(state.model, ReadCsv(view, GuessSeparator(view)).records, position, columns);
     for (TableRowRange const & each : report.rows)
         feed->RowsChanged(each.first, each.last);
-    if (life.Over())
+    if (!watch.IsThere())
         return report;
     UpdateNow();
-    if (life.Over())
+    if (!watch.IsThere())
         return report;
     auto const callback = m_onPaste;
     if (callback)

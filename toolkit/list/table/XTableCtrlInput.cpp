@@ -1,6 +1,6 @@
-#include "list/table/XTableCtrlState.h"
-
 #include <algorithm>
+
+#include "list/table/XTableCtrlState.h"
 
 namespace
 {
@@ -50,11 +50,13 @@ bool CXTableCtrl::HitCell(CPoint point, TableRow & position, unsigned int & colu
     std::vector<CRect> rects;
     int const still = ColumnRects(rects);
     for (std::size_t i = 0; i < rects.size(); ++i)
+    {
         if (point.x >= rects[i].left && point.x < rects[i].right && (i < state.layout.Frozen() || point.x >= still))
         {
             column = state.shown[i];
             return true;
         }
+    }
     return false;
 }
 
@@ -115,9 +117,9 @@ void CXTableCtrl::MoveFocusColumn(bool right)
     else if (!right && present != state.shown.begin())
         state.focusColumn = *(present - 1);
     NoteFocus();
-    LifeWatch const life(m_lifeSign);
+    Watch const watch(*this);
     ShowColumn(state.focusColumn);
-    if (!life.Over())
+    if (watch.IsThere())
         RepaintRows();
 }
 
@@ -147,14 +149,14 @@ bool CXTableCtrl::PressSpace()
 CPoint CXTableCtrl::MenuPlace()
 {
     State & state = *m_state;
-    LifeWatch const life(m_lifeSign);
+    Watch const watch(*this);
     TableRow const row = state.model.FocusRow();
     TableRow position = state.model.FocusPosition();
     if (position != TableModel::nowhere)
         BringIntoView(position);
-    if (!life.Over() && m_hWnd != nullptr && state.cursor)
+    if (watch.IsAlive() && state.cursor)
         ShowColumn(CursorColumn());
-    if (life.Over() || m_hWnd == nullptr)
+    if (!watch.IsAlive())
         return CPoint(0, 0);
     CRect client(0, 0, 0, 0);
     GetClientRect(&client);
@@ -187,10 +189,10 @@ void CXTableCtrl::AfterSelection(bool tell)
 
 void CXTableCtrl::GoTo(TableRow position, bool shift, bool control)
 {
-    auto const kept = m_state;
-    LifeWatch const life(m_lifeSign);
+    std::shared_ptr<State> const kept = m_state;
+    Watch const watch(*this);
     table_input::Go(kept->model, position, shift, control);
-    if (life.Over())
+    if (!watch.IsThere())
         return;
     if (shift || !control)
         NoteSelection(shift ? TableModel::nowhere : position);
@@ -200,11 +202,11 @@ void CXTableCtrl::GoTo(TableRow position, bool shift, bool control)
 }
 
 /// For a press: takes the focus, but not from an edit whose text is refused. False if nothing more is to be done.
-bool CXTableCtrl::ComeHere(LifeWatch const & life)
+bool CXTableCtrl::ComeHere(Watch const & watch)
 {
     // Also where the edit has lost the focus before.
     bool const left = TakeEdit();
-    if (life.Over() || m_hWnd == nullptr)
+    if (!watch.IsAlive())
         return false;
     if (!left)
     {
@@ -213,13 +215,13 @@ bool CXTableCtrl::ComeHere(LifeWatch const & life)
         return false;
     }
     SetFocus();
-    return !life.Over() && m_hWnd != nullptr;
+    return watch.IsAlive();
 }
 
 void CXTableCtrl::OnLButtonDown(UINT flags, CPoint point)
 {
-    LifeWatch const life(m_lifeSign);
-    if (!ComeHere(life))
+    Watch const watch(*this);
+    if (!ComeHere(watch))
         return;
     TableRow position = 0;
     unsigned int column = 0;
@@ -248,15 +250,15 @@ void CXTableCtrl::OnLButtonDown(UINT flags, CPoint point)
     TableRow const row = m_state->model.RowAt(position);
     GoTo(position, shift, control);
     // The row that was pressed, wherever it stands by now.
-    if (!life.Over() && m_hWnd != nullptr && !shift && row == m_state->model.RowAt(position))
+    if (watch.IsAlive() && !shift && row == m_state->model.RowAt(position))
         PressCell(position, column);
 }
 
 void CXTableCtrl::OnRButtonDown(UINT flags, CPoint point)
 {
     static_cast<void>(flags);
-    LifeWatch const life(m_lifeSign);
-    if (!ComeHere(life))
+    Watch const watch(*this);
+    if (!ComeHere(watch))
         return;
     TableRow position = 0;
     unsigned int column = 0;
@@ -311,12 +313,12 @@ void CXTableCtrl::OnLButtonDblClk(UINT flags, CPoint point)
 
 void CXTableCtrl::PressCell(TableRow position, unsigned int column)
 {
-    auto const kept = m_state;
-    LifeWatch const life(m_lifeSign);
+    std::shared_ptr<State> const kept = m_state;
+    Watch const watch(*this);
     TableRow const row = kept->model.RowAt(position);
     TableColumn const * const described = kept->Column(column);
     TableValue value;
-    if (described == nullptr || !kept->model.ReadRow(row, column, value) || life.Over())
+    if (described == nullptr || !kept->model.ReadRow(row, column, value) || !watch.IsThere())
         return;
     if (value.Kind() == TableKind::link)
     {
@@ -330,9 +332,9 @@ void CXTableCtrl::PressCell(TableRow position, unsigned int column)
     std::shared_ptr<TableSource> const source = m_state->model.Source();
     auto const check = described->check;
     value.SetTick(value.Whole() == 0);
-    if (!source || (check && !check(value).empty()) || life.Over() || !source->Write(row, column, value))
+    if (!source || (check && !check(value).empty()) || !watch.IsThere() || !source->Write(row, column, value))
         return;
-    if (life.Over())
+    if (!watch.IsThere())
         return;
     if (m_state->model.RowAt(position) == row)
         NoteValue(position, column);
@@ -486,9 +488,9 @@ BOOL CXTableCtrl::OnFindItem(NMHDR * header, LRESULT * result)
 
 void CXTableCtrl::OnSetFocus(CWnd * former)
 {
-    LifeWatch const life(m_lifeSign);
+    Watch const watch(*this);
     CListCtrl::OnSetFocus(former);
-    if (life.Over())
+    if (!watch.IsThere())
         return;
     NoteFocus();
     RepaintRows();
@@ -496,9 +498,9 @@ void CXTableCtrl::OnSetFocus(CWnd * former)
 
 void CXTableCtrl::OnKillFocus(CWnd * next)
 {
-    LifeWatch const life(m_lifeSign);
+    Watch const watch(*this);
     CListCtrl::OnKillFocus(next);
-    if (!life.Over())
+    if (watch.IsThere())
         RepaintRows();
 }
 

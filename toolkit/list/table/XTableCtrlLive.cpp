@@ -1,7 +1,7 @@
-#include "list/table/XTableCtrlState.h"
-
 #include <algorithm>
 #include <utility>
+
+#include "list/table/XTableCtrlState.h"
 
 /// Where the user looks.
 struct CXTableCtrl::View
@@ -18,10 +18,10 @@ UINT CXTableCtrl::Waker::WakeMessage()
 
 void CXTableCtrl::OnWoken()
 {
-    LifeWatch const life(m_lifeSign);
+    Watch const watch(*this);
     if (m_state->task && m_state->task->Finished())
         TakeOrder();
-    if (life.Over() || m_hWnd == nullptr)
+    if (!watch.IsAlive())
         return;
     if (m_state->exporting && m_state->exporting->finished.load(std::memory_order_acquire))
     {
@@ -30,7 +30,7 @@ void CXTableCtrl::OnWoken()
         auto const callback = m_onExportEnd;
         if (callback)
             callback(whole);
-        if (life.Over() || m_hWnd == nullptr)
+        if (!watch.IsAlive())
             return;
     }
     if (m_state->repaintWaits)
@@ -79,7 +79,7 @@ void CXTableCtrl::UpdateNow()
 CXTableCtrl::View CXTableCtrl::PresentView() const
 {
     View view;
-    auto const kept = m_state;
+    std::shared_ptr<State> const kept = m_state;
     TableRow const size = kept->model.Size();
     if (m_hWnd == nullptr || size == 0)
         return view;
@@ -98,31 +98,31 @@ CXTableCtrl::View CXTableCtrl::PresentView() const
 // that was done.
 void CXTableCtrl::Follow(bool now)
 {
-    auto const kept = m_state;
+    std::shared_ptr<State> const kept = m_state;
     State & state = *kept;
-    LifeWatch const life(m_lifeSign);
+    Watch const watch(*this);
     View const before = PresentView();
-    if (life.Over())
+    if (!watch.IsThere())
         return;
     unsigned long long const time = ::GetTickCount64();
     bool const place = now || time - state.placed >= table_timers::place_interval;
     TableEffect const effect = state.model.Apply(state.feed->Take(), place);
-    if (life.Over())
+    if (!watch.IsThere())
         return;
     if (state.model.RowsWait())
         SetTimer(table_timers::place, table_timers::place_interval, nullptr);
     else
         state.placed = time;
     TakeEffect(effect, before);
-    if (life.Over() || m_hWnd == nullptr)
+    if (!watch.IsAlive())
         return;
     if (state.model.NeedsOrder() && !state.task && !state.orderStopped)
         WishOrder();
-    if (life.Over() || m_hWnd == nullptr)
+    if (!watch.IsAlive())
         return;
     if (m_state->painting == 0)
         UpdateWindow();
-    if (!life.Over())
+    if (watch.IsThere())
         m_state->pace.Painted(static_cast<long long>(::GetTickCount64()));
 }
 
@@ -134,10 +134,10 @@ void CXTableCtrl::TakeEffect(TableEffect const & effect, View const & before)
         NoteOrder();
     else if (effect.allValues)
         NoteValue(TableModel::nowhere, TableFilter::any_column);
-    LifeWatch const life(m_lifeSign);
+    Watch const watch(*this);
     if (effect.sizeChanged)
         SetNativeCount();
-    if (life.Over() || m_hWnd == nullptr)
+    if (!watch.IsAlive())
         return;
     if (m_state->painting != 0)
     {
@@ -151,9 +151,9 @@ void CXTableCtrl::TakeEffect(TableEffect const & effect, View const & before)
     }
     else if (effect.allMoved && before.focusSeen)
     {
-        auto const kept = m_state;
+        std::shared_ptr<State> const kept = m_state;
         TableRow const focus = kept->model.FocusPosition();
-        if (life.Over() || (focus != TableModel::nowhere && !BringIntoView(focus)))
+        if (!watch.IsThere() || (focus != TableModel::nowhere && !BringIntoView(focus)))
             return;
     }
     if (effect.allMoved || effect.allValues)
@@ -174,7 +174,7 @@ void CXTableCtrl::TakeEffect(TableEffect const & effect, View const & before)
         NoteValue(position, TableFilter::any_column);
         CRect rect = RowRect(position);
         // It may be asked for, of which the host hears.
-        if (life.Over() || m_hWnd == nullptr)
+        if (!watch.IsAlive())
             return;
         CRect client;
         GetClientRect(&client);
@@ -192,9 +192,9 @@ void CXTableCtrl::SetNativeCount()
     constexpr TableRow most_rows = 100000000;
     auto const former = static_cast<TableRow>(std::max<LRESULT>(AskNative(LVM_GETITEMCOUNT), 0));
     TableRow const size = std::min(m_state->model.Size(), most_rows);
-    LifeWatch const life(m_lifeSign);
+    Watch const watch(*this);
     AskNative(LVM_SETITEMCOUNT, size, LVSICF_NOINVALIDATEALL | LVSICF_NOSCROLL);
-    if (life.Over() || m_hWnd == nullptr)
+    if (!watch.IsAlive())
         return;
     // Rows that come or go out of sight are no matter.
     if (std::min(former, size) < TopPosition() + PageRows() + 1)
@@ -212,9 +212,9 @@ void CXTableCtrl::RepaintRows()
 // Few rows are put in order at once, many beside the window.
 void CXTableCtrl::WishOrder()
 {
-    auto const kept = m_state;
+    std::shared_ptr<State> const kept = m_state;
     State & state = *kept;
-    LifeWatch const life(m_lifeSign);
+    Watch const watch(*this);
     state.orderStopped = false;
     if (std::exchange(state.task, nullptr))
         ShowProgress();
@@ -223,8 +223,8 @@ void CXTableCtrl::WishOrder()
     if (m_hWnd == nullptr || !state.model.OrderTakesLong())
     {
         View const before = PresentView();
-        TableEffect const effect = life.Over() ? TableEffect() : state.model.FindOrder();
-        if (!life.Over())
+        TableEffect const effect = !watch.IsThere() ? TableEffect() : state.model.FindOrder();
+        if (watch.IsThere())
             TakeEffect(effect, before);
         return;
     }

@@ -1,11 +1,10 @@
 // CXTableCtrl: the native list below it. It is asked directly, past the messages that the host could hear: whoever asks
 // goes on with what was true before.
 
-#include "list/table/XTableCtrlState.h"
-
 #include <algorithm>
 
 #include "access/AccessObject.h"
+#include "list/table/XTableCtrlState.h"
 
 // All that the native list does goes through here. It stands no change of its columns and rows meanwhile; they wait.
 LRESULT CXTableCtrl::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
@@ -16,12 +15,14 @@ LRESULT CXTableCtrl::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
             return brush;
     }
     if (AsksForControl(message, lParam))
+    {
         if (LRESULT const answer = AnswerGetObject(wParam); answer != 0)
             return answer;
-    LifeWatch const life(m_lifeSign);
+    }
+    Watch const watch(*this);
     ++m_state->native;
     LRESULT const result = CListCtrl::DefWindowProc(message, wParam, lParam);
-    if (!life.Over())
+    if (watch.IsThere())
         EndNative();
     return result;
 }
@@ -68,9 +69,9 @@ CRect CXTableCtrl::RowRect(TableRow position) const
 /// The native list tells the host of its scrolling. False if the table is gone.
 bool CXTableCtrl::BringIntoView(TableRow position)
 {
-    LifeWatch const life(m_lifeSign);
+    Watch const watch(*this);
     AskNative(LVM_ENSUREVISIBLE, position, FALSE);
-    if (life.Over() || m_hWnd == nullptr)
+    if (!watch.IsAlive())
         return false;
     WishEditPlace();
     return true;
@@ -79,9 +80,9 @@ bool CXTableCtrl::BringIntoView(TableRow position)
 /// The same to the right, or to the left, by so many pixels.
 bool CXTableCtrl::ScrollSideways(int pixels)
 {
-    LifeWatch const life(m_lifeSign);
+    Watch const watch(*this);
     AskNative(LVM_SCROLL, static_cast<WPARAM>(pixels), 0);
-    if (life.Over() || m_hWnd == nullptr)
+    if (!watch.IsAlive())
         return false;
     // What stands still was moved along with the rest.
     if (m_state->layout.Frozen() != 0)

@@ -1,18 +1,13 @@
-#include "list/table/XTableCtrlState.h"
-
 #include <algorithm>
 #include <cmath>
 
 #include "frame/GraphicsScopes.h"
 #include "list/CheckMarks.h"
+#include "list/table/ValueCell.h"
+#include "list/table/XTableCtrlState.h"
 
 namespace
 {
-bool IsNumber(TableKind kind)
-{
-    return kind == TableKind::whole || kind == TableKind::floating;
-}
-
 /// Whether cells of the column may end at different distances from their decimal sign.
 bool HasDifferentTails(TableColumn const & column)
 {
@@ -22,22 +17,18 @@ bool HasDifferentTails(TableColumn const & column)
            (column.kind == TableKind::floating && column.format.style != NumberStyle::fixed);
 }
 
-UINT AlignmentOf(TableColumn const & column, TableKind kind)
+UINT TextFormatOf(CellAlign align)
 {
-    switch (column.align)
+    switch (align)
     {
-    case TableAlign::left:
-        return DT_LEFT;
-    case TableAlign::centre:
-        return DT_CENTER;
-    case TableAlign::right:
-        return DT_RIGHT;
-    case TableAlign::by_kind:
+    case CellAlign::left:
         break;
-    }
-    if (IsNumber(kind))
+    case CellAlign::centre:
+        return DT_CENTER;
+    case CellAlign::right:
         return DT_RIGHT;
-    return kind == TableKind::time ? DT_CENTER : DT_LEFT;
+    }
+    return DT_LEFT;
 }
 
 /// The ground of selected rows without the focus: the system's, unless nobody would see it.
@@ -130,12 +121,12 @@ void CXTableCtrl::MeasureDecimals(CDC & dc, TableRow first, TableRow last)
 
 void CXTableCtrl::OnPaint()
 {
-    LifeWatch const life(m_lifeSign);
+    Watch const watch(*this);
     ++m_state->repaints;
     PrepareLook();
     ++m_state->painting;
     Default();
-    if (life.Over())
+    if (!watch.IsThere())
         return;
     m_state->edges.clear();
     --m_state->painting;
@@ -177,7 +168,7 @@ void CXTableCtrl::PaintRow(CDC & dc, TableRow position)
     // What stands above the top row is erased, so a native list that shows a strip of the row there must not paint it.
     if (position < state.topPosition || state.edges.empty())
         return;
-    LifeWatch const life(m_lifeSign);
+    Watch const watch(*this);
     int const height = state.topRect.Height();
     int const top = state.topRect.top + static_cast<int>(position - state.topPosition) * height;
     TableRow const row = state.model.RowAt(position);
@@ -195,7 +186,7 @@ void CXTableCtrl::PaintRow(CDC & dc, TableRow position)
             if (rect.right <= std::max<LONG>(clip.left, state.frozenRight) || rect.left >= clip.right)
                 continue;
             PaintRowCell(dc, row, static_cast<unsigned int>(i), rect, selected);
-            if (life.Over() || state.edges.size() != count)
+            if (!watch.IsThere() || state.edges.size() != count)
                 return;
         }
     }
@@ -203,7 +194,7 @@ void CXTableCtrl::PaintRow(CDC & dc, TableRow position)
     {
         PaintRowCell(dc, row, static_cast<unsigned int>(i),
                      CRect(state.edges[i].left, top, state.edges[i].right, top + height), selected);
-        if (life.Over() || state.edges.size() != count)
+        if (!watch.IsThere() || state.edges.size() != count)
             return;
     }
     if (row != no_table_row && row == state.focusRow && state.focused)
@@ -252,34 +243,16 @@ void CXTableCtrl::PaintRowCell(CDC & dc, TableRow row, unsigned int index, CRect
     TableKind const kind = state.value.Kind();
     std::size_t const sign = ShowValue(state.text, state.value, *described, state.model.Looks().locale);
 
-    XLISTCTRLDATA * cell = &state.textCell;
-    COLORREF text = state.look.palette.windowText;
-    COLORREF background = state.look.palette.window;
-    switch (kind)
-    {
-    case TableKind::link:
-        cell = &state.linkCell;
-        text = state.look.palette.link;
-        break;
-    case TableKind::tick:
-        cell = &state.tickCell;
-        if (int const wanted = state.value.Whole() != 0 ? XLC_CHECKED : XLC_UNCHECKED; cell->checkedState != wanted)
-            cell->MakeCheck(wanted);
+    MakeCellOf(state.value, false, state.cell);
+    COLORREF text = kind == TableKind::link ? state.look.palette.link : state.look.palette.windowText;
+    COLORREF background = kind == TableKind::progress ? state.look.palette.tableBar : state.look.palette.window;
+    // Of a tick the mark is shown alone.
+    if (kind == TableKind::tick)
         state.text.clear();
-        break;
-    case TableKind::progress:
-        cell = &state.barCell;
-        cell->progressValue =
-            std::isfinite(state.value.Number()) ? static_cast<int>(std::clamp(state.value.Number(), 0.0, 100.0)) : 0;
-        background = state.look.palette.tableBar;
-        break;
-    default:
-        break;
-    }
-    LifeWatch const life(m_lifeSign);
+    Watch const watch(*this);
     COLORREF const usual[] = {text, background};
     GetCellColors(row, column, text, background);
-    if (life.Over() || index >= state.edges.size())
+    if (!watch.IsThere() || index >= state.edges.size())
         return;
     if (state.look.palette.adapts && text == usual[0] && background != usual[1])
         text = control_colors::TextOn(background, text, state.look.palette.window);
@@ -295,8 +268,8 @@ void CXTableCtrl::PaintRowCell(CDC & dc, TableRow row, unsigned int index, CRect
             background = InactiveSelection(state.look.palette);
         }
     }
-    CellPaint paint{dc, *cell, rect, text, background};
-    state.look.alignment = AlignmentOf(*described, kind);
+    CellPaint paint{dc, state.cell, rect, text, background};
+    state.look.alignment = TextFormatOf(AlignmentOf(*described, kind));
     if (IsNumber(kind) && state.edges[index].tail >= 0)
     {
         CSize size(0, 0);
@@ -378,8 +351,10 @@ BOOL CXTableCtrl::OnGetDispInfo(NMHDR * header, LRESULT * result)
     {
         std::wstring text;
         if (item.iSubItem >= 0 && static_cast<std::size_t>(item.iSubItem) < m_state->shown.size() && item.iItem >= 0)
+        {
             text = m_state->model.Text(static_cast<TableRow>(item.iItem),
                                        m_state->shown[static_cast<std::size_t>(item.iSubItem)]);
+        }
         ::lstrcpynW(item.pszText, text.c_str(), item.cchTextMax);
     }
     if ((item.mask & LVIF_IMAGE) != 0)
@@ -389,9 +364,9 @@ BOOL CXTableCtrl::OnGetDispInfo(NMHDR * header, LRESULT * result)
 
 void CXTableCtrl::OnSysColorChange()
 {
-    LifeWatch const life(m_lifeSign);
+    Watch const watch(*this);
     CListCtrl::OnSysColorChange();
-    if (life.Over())
+    if (!watch.IsThere())
         return;
     m_state->look.palette = control_colors::Of(ControlColorSet::standard);
     m_state->FollowSet(m_hWnd);

@@ -19,9 +19,9 @@ BOOL CXTableCtrl::SetDpi(UINT dpi)
         return TRUE;
     if (state.editing)
         state.editing->window->SetDpi(dpi);
-    LifeWatch const life(m_lifeSign);
+    Watch const watch(*this);
     MakeNativeColumns();
-    if (!life.Over())
+    if (watch.IsThere())
         RepaintRows();
     return TRUE;
 }

@@ -1,10 +1,9 @@
 #pragma once
 // What a table control has. Internal to the module.
 
-#include "list/table/XTableCtrl.h"
-
 #include <atomic>
 
+#include "frame/WindowAlive.h"
 #include "layout/Resolution.h"
 #include "list/CellPainters.h"
 #include "list/RowHeight.h"
@@ -13,7 +12,15 @@
 #include "list/table/TableModel.h"
 #include "list/table/TableNews.h"
 #include "list/table/TablePace.h"
+#include "list/table/XTableCtrl.h"
 #include "list/table/XTableEdit.h"
+
+/// Tells whether the table, and the window that it had, are still there.
+class CXTableCtrl::Watch : public WindowAlive
+{
+public:
+    explicit Watch(CXTableCtrl const & table) : WindowAlive(table, table.m_lifeSign) {}
+};
 
 /// Posts to the window from any thread; to none once that is gone.
 class CXTableCtrl::Waker : public TableWaker
@@ -112,7 +119,6 @@ struct CXTableCtrl::State
         int right = 0;
         /// The widest part behind the decimal sign among the cells seen; negative where it does not matter.
         int tail = -1;
-        UINT alignment = DT_LEFT;
     };
     /// For the length of one paint.
     std::vector<Edges> edges;
@@ -122,10 +128,8 @@ struct CXTableCtrl::State
     TableRow focusRow = no_table_row;
     TableRow topPosition = 0;
     CRect topRect;
-    XLISTCTRLDATA textCell;
-    XLISTCTRLDATA linkCell;
-    XLISTCTRLDATA tickCell;
-    XLISTCTRLDATA barCell;
+    /// That is being painted.
+    XLISTCTRLDATA cell;
     TableValue value;
     std::wstring text;
     unsigned long long repaints = 0;

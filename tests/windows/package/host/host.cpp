@@ -1,4 +1,5 @@
 #include <afxwin.h>
+
 #include "instrument_ui.h"
 
 class CHostApp : public CWinApp

@@ -1,9 +1,9 @@
 // A window with a tree, a list and an edit field side by side: notifications handled by the parent, by the control
 // itself (reflected), and by both; layout in WM_SIZE; a registered message; an image list.
 
-#include <afxwin.h>
 #include <afxcmn.h>
 #include <afxtempl.h>
+#include <afxwin.h>
 
 #include <iterator>
 

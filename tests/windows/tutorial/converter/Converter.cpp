@@ -3,10 +3,10 @@
 
 #include <afxwin.h>
 
+#include <vector>
+
 #include "../SelfTest.h"
 #include "resource.h"
-
-#include <vector>
 
 CSelfTest theSelfTest;
 

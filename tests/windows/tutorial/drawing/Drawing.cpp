@@ -2,11 +2,11 @@
 
 #include <afxwin.h>
 
-#include "../SelfTest.h"
-#include "resource.h"
-
 #include <memory>
 #include <vector>
+
+#include "../SelfTest.h"
+#include "resource.h"
 
 CSelfTest theSelfTest;
 
@@ -133,7 +133,7 @@ void CDrawingWindow::ShowCount()
 void CDrawingWindow::OnPaint()
 {
     CPaintDC dc(this);
-    for (auto const & stroke : m_strokes)
+    for (std::unique_ptr<CStroke> const & stroke : m_strokes)
         stroke->Draw(dc);
 }
 

@@ -2,10 +2,10 @@
 
 #include <afxwin.h>
 
+#include <memory>
+
 #include "../SelfTest.h"
 #include "Shapes.h"
-
-#include <memory>
 
 CSelfTest theSelfTest;
 

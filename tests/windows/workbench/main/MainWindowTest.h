@@ -10,15 +10,15 @@
 #include <memory>
 #include <string>
 
+#include "frame/PreferenceStore.h"
 #include "Graphics.h"
 #include "Input.h"
 #include "MainWindow.h"
 #include "MemoryPreferenceStore.h"
 #include "Pump.h"
+#include "resource.h"
 #include "Settings.h"
 #include "TestApp.h"
-#include "frame/PreferenceStore.h"
-#include "resource.h"
 
 namespace tests
 {
@@ -115,7 +115,7 @@ protected:
     {
         for (int i = 0; i < count; ++i)
         {
-            auto const number = std::to_string(i);
+            std::string const number = std::to_string(i);
             WriteRecording(m_folder / "recordings" / ("r" + std::string(5 - number.size(), '0') + number + ".wav"));
         }
         return m_folder / "recordings";
@@ -126,7 +126,7 @@ protected:
     }
     static int Widths(CRecordingList & list)
     {
-        auto sum = 0;
+        int sum = 0;
         for (int column = 0; column < CRecordingList::column_count; ++column)
         {
             sum += list.GetColumnWidth(column);

@@ -1,13 +1,12 @@
 // What takes long runs beside the window.
 
-#include "MainWindowTest.h"
+#include <shlobj.h>
 
 #include <atomic>
 #include <vector>
 
-#include <shlobj.h>
-
 #include "BusyDialog.h"
+#include "MainWindowTest.h"
 
 namespace
 {
@@ -21,7 +20,7 @@ class WorkbenchBusyDialog : public tests::MainWindowTest
 TEST_F(WorkbenchBusyDialog, DoesEachItemInOrderOnAThreadOfItsOwn)
 {
     std::vector<std::size_t> items;
-    auto thread = ::GetCurrentThreadId();
+    DWORD thread = ::GetCurrentThreadId();
     CBusyDialog dialog(*m_window, L"Counting", 50, [&](std::size_t item) {
         items.push_back(item);
         thread = ::GetCurrentThreadId();
@@ -56,7 +55,7 @@ TEST_F(WorkbenchBusyDialog, IsCancelledByEscapeWhenTheItemIsFinished)
             goOn = true;
         },
         [&] { return !dialog.GetDlgItem(IDCANCEL)->IsWindowEnabled(); });
-    auto const done = dialog.Run();
+    std::size_t const done = dialog.Run();
     EXPECT_FALSE(later.Failed());
     EXPECT_EQ(done, static_cast<std::size_t>(finished));
     EXPECT_LT(done, 1000U);

@@ -1,13 +1,12 @@
 // The sets of colours in all parts of the main window.
 
-#include "MainWindowTest.h"
-
 #include <initializer_list>
 #include <utility>
 #include <vector>
 
 #include "Bitmap.h"
 #include "colours/ControlColors.h"
+#include "MainWindowTest.h"
 
 namespace
 {
@@ -19,7 +18,7 @@ public:
     {
         for (auto & [index, colour] : m_former)
         {
-            auto const other = std::exchange(colour, ::GetSysColor(index));
+            unsigned long const other = std::exchange(colour, ::GetSysColor(index));
             ::SetSysColors(1, &index, &other);
         }
     }
@@ -51,7 +50,7 @@ protected:
     /// A good recording, and one that is cut off.
     void ShowTwo()
     {
-        auto const folder = Folder(1);
+        std::filesystem::path const folder = Folder(1);
         tests::WriteRecording(folder / "cut.wav", 48000, 4800);
         std::filesystem::resize_file(folder / "cut.wav", 2000);
         std::ofstream(folder / "zero.wav") << "no recording";
@@ -60,7 +59,7 @@ protected:
     }
     void Choose(ControlColorSet set)
     {
-        auto settings = workbench::ReadSettings();
+        workbench::Settings settings = workbench::ReadSettings();
         settings.contrast = set;
         m_window->SettingsSheet().m_onAccepted(settings);
         tests::PumpPosted();
@@ -84,17 +83,17 @@ TEST_F(WorkbenchColours, PlotsAndPanesTakeTheSetsColours)
     m_window->ShowFolders(true);
     List().SetFocus();
     tests::PumpPosted();
-    auto const dark = control_colors::Of(ControlColorSet::dark);
-    auto & waveform = *Part(IDC_AMPLIFICATION).GetParent();
-    auto & measures = Part(IDC_MEASURE_PANEL);
-    auto & frames = Part(IDC_FRAME_MEASURES);
-    for (auto * const plot : {&waveform, &Part(IDC_WAVEFORM), &Part(IDC_SPECTROGRAM)})
+    ControlColors const dark = control_colors::Of(ControlColorSet::dark);
+    CWnd & waveform = *Part(IDC_AMPLIFICATION).GetParent();
+    CWnd & measures = Part(IDC_MEASURE_PANEL);
+    CWnd & frames = Part(IDC_FRAME_MEASURES);
+    for (CWnd * const plot : {&waveform, &Part(IDC_WAVEFORM), &Part(IDC_SPECTROGRAM)})
     {
         EXPECT_EQ(Share(*plot, dark.window), 0) << plot->GetDlgCtrlID();
         EXPECT_GT(Share(*plot, ::GetSysColor(COLOR_WINDOW)), 10) << plot->GetDlgCtrlID();
     }
     Choose(ControlColorSet::dark);
-    for (auto * const plot : {&waveform, &Part(IDC_WAVEFORM), &Part(IDC_SPECTROGRAM)})
+    for (CWnd * const plot : {&waveform, &Part(IDC_WAVEFORM), &Part(IDC_SPECTROGRAM)})
     {
         EXPECT_GT(Share(*plot, dark.window), 10) << plot->GetDlgCtrlID();
         EXPECT_LT(Share(*plot, ::GetSysColor(COLOR_WINDOW)), 2) << plot->GetDlgCtrlID();
@@ -129,7 +128,7 @@ TEST_F(WorkbenchColours, TextsOfTheListFollowTheSystemsInHighContrast)
                                {COLOR_GRAYTEXT, RGB(63, 242, 63)}};
     m_window->SendMessage(WM_SYSCOLORCHANGE);
     tests::PumpPosted();
-    auto const now = control_colors::Of(ControlColorSet::high_contrast);
+    ControlColors const now = control_colors::Of(ControlColorSet::high_contrast);
     EXPECT_EQ(colour("doubtful", 0, CRecordingList::column_duration), std::pair(now.windowText, now.window));
     EXPECT_EQ(colour("unreadable", 2, CRecordingList::column_name), std::pair(now.disabled, now.window));
 }

@@ -1,9 +1,6 @@
 // The small controls of the workbench: what they do to its windows, what of it is remembered, and that they can be
 // closed at any time.
 
-#include "MainWindowTest.h"
-#include "RecordingCells.h"
-
 #include <algorithm>
 #include <fstream>
 #include <functional>
@@ -16,10 +13,13 @@
 
 #include "../../ImportPatch.h"
 #include "Bitmap.h"
-#include "GuardedHeap.h"
 #include "controls/ComboBoxX.h"
 #include "controls/IdNameMultiselectCtrl.h"
 #include "controls/XEditBrowseCtrl.h"
+#include "GuardedHeap.h"
+#include "logic/Texts.h"
+#include "MainWindowTest.h"
+#include "RecordingCells.h"
 
 namespace
 {
@@ -42,7 +42,7 @@ constexpr int dialogs_page = 4;
 /// The visible popup of the thread that was activated last, but for these windows; null if there is none.
 HWND OtherPopup(std::vector<HWND> const & known)
 {
-    auto const active = ::GetActiveWindow();
+    HWND const active = ::GetActiveWindow();
     return std::ranges::find(known, active) == known.end() ? active : nullptr;
 }
 
@@ -93,10 +93,10 @@ protected:
     COLORREF Ground()
     {
         Waveform().UpdateWindow();
-        auto const plot = Waveform().PlotPlace();
+        CRect const plot = Waveform().PlotPlace();
         CClientDC dc(&Waveform());
         std::map<COLORREF, int> counts;
-        for (auto y = plot.top + 1; y < plot.bottom - 1; ++y)
+        for (long y = plot.top + 1; y < plot.bottom - 1; ++y)
         {
             ++counts[dc.GetPixel(plot.left + 4, y)];
         }
@@ -106,9 +106,9 @@ protected:
     bool ShowsColour(COLORREF colour)
     {
         Waveform().UpdateWindow();
-        auto const plot = Waveform().PlotPlace();
+        CRect const plot = Waveform().PlotPlace();
         CClientDC dc(&Waveform());
-        for (auto y = plot.top; y < plot.bottom; ++y)
+        for (LONG y = plot.top; y < plot.bottom; ++y)
         {
             if (dc.GetPixel(plot.CenterPoint().x, y) == colour)
             {
@@ -126,13 +126,13 @@ protected:
     /// Presses a button of the settings and gives the colour in what that opens.
     void ChooseColour(int button, COLORREF colour)
     {
-        auto const settings = Sheet().m_hWnd;
+        HWND const settings = Sheet().m_hWnd;
         std::vector<HWND> const known{settings, m_window->m_hWnd, nullptr};
         tests::LaterActions later;
         auto const isOpen = [=] { return OtherPopup(known) != nullptr && ::GetDlgItem(OtherPopup(known), red_field); };
         later.Add(
             [=] {
-                auto const dialog = OtherPopup(known);
+                HWND const dialog = OtherPopup(known);
                 ::SetDlgItemInt(dialog, red_field, GetRValue(colour), FALSE);
                 ::SetDlgItemInt(dialog, green_field, GetGValue(colour), FALSE);
                 ::SetDlgItemInt(dialog, blue_field, GetBValue(colour), FALSE);
@@ -147,8 +147,8 @@ protected:
 
 TEST_F(WorkbenchControls, ColoursOfTheWaveformCountAtOnceAndAfterARestart)
 {
-    constexpr auto background = RGB(20, 90, 40);
-    constexpr auto trace = RGB(250, 220, 10);
+    constexpr COLORREF background = RGB(20, 90, 40);
+    constexpr COLORREF trace = RGB(250, 220, 10);
     Show(2);
     EXPECT_EQ(Ground(), WaveformColours().background);
     OpenSettings();
@@ -198,7 +198,7 @@ TEST_F(WorkbenchControls, TheSettingsComeBackAtTheirPlaceAndPage)
     CRect least;
     Sheet().GetWindowRect(&least);
     CRect const place(60, 40, 60 + least.Width() + 90, 40 + least.Height() + 50);
-    auto & folders = *Page(start_page).GetDlgItem(IDC_START_FOLDERS);
+    CWnd & folders = *Page(start_page).GetDlgItem(IDC_START_FOLDERS);
     CRect listBefore;
     folders.GetWindowRect(&listBefore);
     Sheet().MoveWindow(place);
@@ -218,7 +218,7 @@ TEST_F(WorkbenchControls, TheSettingsComeBackAtTheirPlaceAndPage)
     EXPECT_GT(columns.right, place.right - 60);
     tests::Key(VK_ESCAPE);
     ASSERT_TRUE(WaitUntilClosed());
-    for (auto const restart : {false, true})
+    for (bool const restart : {false, true})
     {
         if (restart)
         {
@@ -253,7 +253,7 @@ TEST_F(WorkbenchControls, SettingsWhoseStoredPlaceIsBeyondTheScreenComeBackOntoI
 TEST_F(WorkbenchControls, APageWhoseChoiceIsNoneIsNotLeft)
 {
     OpenSettings();
-    auto & page = Page(dialogs_page);
+    CWnd & page = Page(dialogs_page);
     EXPECT_FALSE(CanApply());
     page.GetDlgItem(IDC_OPACITY)->SetFocus();
     tests::Type(L"9");
@@ -295,7 +295,7 @@ TEST_F(WorkbenchControls, TheSettingsAreInTheLanguageThatWasChosen)
     Sheet().MoveWindow(place);
     m_window->CloseDialogs();
     ASSERT_TRUE(WaitUntilClosed());
-    auto const locale = ::GetThreadLocale();
+    LCID const locale = ::GetThreadLocale();
     workbench::UseLanguage(1031);
     OpenSettings();
     EXPECT_EQ(TextOf(Sheet()), L"Einstellungen");
@@ -338,7 +338,7 @@ TEST_F(WorkbenchControls, OnADarkGroundTheTabOfThePageIsDark)
 {
     DarkColours const dark;
     OpenSettings();
-    auto & tabs = *Sheet().GetTabControl();
+    CTabCtrl & tabs = *Sheet().GetTabControl();
     tests::PumpPosted();
     tabs.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
     CRect client;
@@ -353,7 +353,7 @@ TEST_F(WorkbenchControls, OnADarkGroundTheTabOfThePageIsDark)
 TEST_F(WorkbenchControls, TheSliderAndThePlotAreInStep)
 {
     Show(2);
-    auto & slider = Part(IDC_AMPLIFICATION);
+    CWnd & slider = Part(IDC_AMPLIFICATION);
     auto const position = [&slider] { return static_cast<int>(slider.SendMessage(TBM_GETPOS)); };
     ASSERT_TRUE(slider.IsWindowVisible());
     EXPECT_EQ(Waveform().Amplification(), 0);
@@ -407,7 +407,7 @@ TEST_F(WorkbenchControls, TheButtonAboveTheSliderIsAsLargeAsTheSystemDrawsIcons)
     EXPECT_EQ(place().Size(), CSize(::GetSystemMetrics(SM_CXICON), ::GetSystemMetrics(SM_CYICON)));
     tests::ImportPatch const patch(nullptr, "GetSystemMetrics", &MetricsOfLargeIcons);
     ASSERT_TRUE(patch.Done());
-    auto const & panel = *Part(IDC_FIT_AMPLIFICATION).GetParent();
+    CWnd const & panel = *Part(IDC_FIT_AMPLIFICATION).GetParent();
     CRect client;
     panel.GetClientRect(&client);
     ::SendMessageW(panel.m_hWnd, WM_SIZE, SIZE_RESTORED, MAKELPARAM(client.Width(), client.Height()));
@@ -417,7 +417,7 @@ TEST_F(WorkbenchControls, TheButtonAboveTheSliderIsAsLargeAsTheSystemDrawsIcons)
 TEST_F(WorkbenchControls, TheTreeOpensFoldersAndChoosesRecordings)
 {
     Show(3);
-    auto const folder = m_folder / "recordings";
+    std::filesystem::path const folder = m_folder / "recordings";
     fs::create_directories(folder / "inner");
     tests::WriteRecording(folder / "inner" / "deep.wav");
     ASSERT_FALSE(m_window->ShowsFolders());
@@ -425,9 +425,9 @@ TEST_F(WorkbenchControls, TheTreeOpensFoldersAndChoosesRecordings)
     ASSERT_TRUE(tests::PumpUntil([this] { return m_window->ShowsFolders() && Tree().IsWindowVisible(); }));
     EXPECT_EQ(CWnd::GetFocus(), &Tree());
     auto const filled = [&](fs::path const & which, int count) {
-        auto const item = Tree().FolderItem(which);
-        auto children = 0;
-        for (auto child = item != nullptr ? Tree().GetChildItem(item) : nullptr; child != nullptr;
+        HTREEITEM const item = Tree().FolderItem(which);
+        int children = 0;
+        for (HTREEITEM child = item != nullptr ? Tree().GetChildItem(item) : nullptr; child != nullptr;
              child = Tree().GetNextSiblingItem(child))
         {
             ++children;
@@ -435,8 +435,8 @@ TEST_F(WorkbenchControls, TheTreeOpensFoldersAndChoosesRecordings)
         return !Tree().IsBusy() && children == count;
     };
     ASSERT_TRUE(tests::PumpUntil([&] { return filled(folder, 4); }));
-    auto const item = Tree().FolderItem(folder);
-    auto const first = Tree().GetChildItem(item);
+    HTREEITEM const item = Tree().FolderItem(folder);
+    HTREEITEM const first = Tree().GetChildItem(item);
     EXPECT_EQ(Tree().PathOf(first), folder / "inner"); // folders come first
     auto const click = [this](HTREEITEM which) {
         Tree().EnsureVisible(which);
@@ -478,10 +478,10 @@ TEST_F(WorkbenchControls, TheTreeFollowsAReloadAndIsRemembered)
 {
     Show(40);
     m_window->ShowFolders(true);
-    auto const folder = m_folder / "recordings";
+    std::filesystem::path const folder = m_folder / "recordings";
     auto const names = [&] {
         std::vector<std::wstring> found;
-        for (auto item = Tree().GetChildItem(Tree().FolderItem(folder)); item != nullptr;
+        for (HTREEITEM item = Tree().GetChildItem(Tree().FolderItem(folder)); item != nullptr;
              item = Tree().GetNextSiblingItem(item))
         {
             found.push_back(Tree().GetItemText(item).GetString());
@@ -496,7 +496,7 @@ TEST_F(WorkbenchControls, TheTreeFollowsAReloadAndIsRemembered)
     fs::create_directories(folder / "z");
     m_window->SendMessage(WM_COMMAND, ID_RELOAD);
     ASSERT_TRUE(tests::PumpUntil([&] { return !Tree().IsBusy() && names().front() == L"z"; }));
-    auto const shown = names();
+    std::vector<std::wstring> const shown = names();
     ASSERT_EQ(shown.size(), 41U);
     EXPECT_EQ(shown[1], L"a.wav");
     EXPECT_EQ(shown[2], L"r00001.wav");
@@ -550,7 +550,7 @@ private:
                                       DWORD_PTR reference)
     {
         auto & watch = *reinterpret_cast<TreeWatch *>(reference);
-        auto const result = ::DefSubclassProc(window, message, wide, parameter);
+        LRESULT const result = ::DefSubclassProc(window, message, wide, parameter);
         if (message != TVM_GETNEXTITEM)
         {
             watch.m_tops.insert(watch.Top());
@@ -569,7 +569,7 @@ private:
 TEST_F(WorkbenchControls, AReloadMovesNothingInTheTree)
 {
     constexpr int folders = 5000;
-    auto const folder = m_folder / "recordings";
+    std::filesystem::path const folder = m_folder / "recordings";
     for (int i = 0; i < folders; ++i)
     {
         fs::create_directories(folder / ("f" + std::to_string(10000 + i)));
@@ -582,8 +582,8 @@ TEST_F(WorkbenchControls, AReloadMovesNothingInTheTree)
     List().ChooseLine(20);
     auto const shown = [&] { return Tree().PathOf(Tree().GetSelectedItem()) == folder / "r00020.wav"; };
     ASSERT_TRUE(tests::PumpUntil(shown));
-    auto const item = Tree().FolderItem(folder);
-    auto const middle = Tree().FolderItem(folder / "f12345");
+    HTREEITEM const item = Tree().FolderItem(folder);
+    HTREEITEM const middle = Tree().FolderItem(folder / "f12345");
     auto const reload = [&] {
         m_window->SendMessage(WM_COMMAND, ID_RELOAD);
         ASSERT_TRUE(WaitUntilRead());
@@ -628,7 +628,7 @@ TEST_F(WorkbenchControls, ContrastIsChosenInTheSettingsAndStays)
     auto const chosen = [this] { return control_colors::SetOf(List().m_hWnd); };
     EXPECT_EQ(chosen(), ControlColorSet::standard);
     OpenSettings();
-    auto & box = *Page(list_page).GetDlgItem(IDC_CONTRAST);
+    CWnd & box = *Page(list_page).GetDlgItem(IDC_CONTRAST);
     EXPECT_EQ(box.SendMessage(CB_GETCURSEL), 0);
     box.SendMessage(CB_SETCURSEL, 1);
     box.GetParent()->SendMessage(WM_COMMAND, MAKEWPARAM(IDC_CONTRAST, CBN_SELCHANGE),
@@ -647,7 +647,7 @@ TEST_F(WorkbenchControls, ContrastIsChosenInTheSettingsAndStays)
 
 TEST_F(WorkbenchControls, WhatIsUnreadableIsReadInTheDarkSet)
 {
-    auto const folder = Folder(1);
+    std::filesystem::path const folder = Folder(1);
     std::ofstream(folder / "zero.wav") << "no recording";
     m_window->ShowTargets({folder});
     ASSERT_TRUE(WaitUntilRead());
@@ -659,7 +659,7 @@ TEST_F(WorkbenchControls, WhatIsUnreadableIsReadInTheDarkSet)
     };
     EXPECT_GE(contrast(), control_colors::least_contrast);
     OpenSettings();
-    auto & box = *Page(list_page).GetDlgItem(IDC_CONTRAST);
+    CWnd & box = *Page(list_page).GetDlgItem(IDC_CONTRAST);
     box.SendMessage(CB_SETCURSEL, 1);
     box.GetParent()->SendMessage(WM_COMMAND, MAKEWPARAM(IDC_CONTRAST, CBN_SELCHANGE),
                                  reinterpret_cast<LPARAM>(box.m_hWnd));
@@ -705,7 +705,7 @@ TEST_F(WorkbenchControls, ColumnsAreChosenInADropDownOfTheSettings)
 {
     Show(2);
     OpenSettings();
-    auto & field = *Page(list_page).GetDlgItem(IDC_COLUMNS);
+    CWnd & field = *Page(list_page).GetDlgItem(IDC_COLUMNS);
     EXPECT_EQ(TextOf(field), L"Ref., Waveform, Duration, Channels, \u2026"); // not all: those of measures are hidden
     field.SetFocus();
     std::vector<HWND> const known{Sheet().m_hWnd, m_window->m_hWnd, nullptr};
@@ -733,7 +733,7 @@ TEST_F(WorkbenchControls, ColumnsAreChosenInADropDownOfTheSettings)
     Restart(2);
     EXPECT_EQ(List().GetColumnWidth(CRecordingList::column_channels), 0);
     // What does not show is not sorted, edited nor copied.
-    auto const table = List().Table(CRecordingList::Lines::all, List().HiddenColumns());
+    workbench::RecordingTable const table = List().Table(CRecordingList::Lines::all, List().HiddenColumns());
     EXPECT_FALSE(
         std::ranges::any_of(table.Table().columns, [](auto const & column) { return column.title == L"Channels"; }));
     List().SetHiddenColumns({CRecordingList::column_comment, CRecordingList::column_rating});
@@ -746,7 +746,7 @@ TEST_F(WorkbenchControls, TheSettingsHaveTheColumnsInTheOrderOfTheList)
 {
     Show(2);
     auto const moveToFront = [this](int column) {
-        auto & header = *List().GetHeaderCtrl();
+        CHeaderCtrl & header = *List().GetHeaderCtrl();
         CRect from;
         CRect to;
         header.GetItemRect(column, &from);
@@ -758,7 +758,7 @@ TEST_F(WorkbenchControls, TheSettingsHaveTheColumnsInTheOrderOfTheList)
     };
     moveToFront(CRecordingList::column_duration);
     OpenSettings();
-    auto & field = *Page(list_page).GetDlgItem(IDC_COLUMNS);
+    CWnd & field = *Page(list_page).GetDlgItem(IDC_COLUMNS);
     auto & order = *static_cast<CListBox *>(Page(list_page).GetDlgItem(IDC_COLUMN_ORDER));
     EXPECT_EQ(TextOf(field), L"Duration, Ref., Waveform, Channels, \u2026");
     // A line that is moved on the page moves in the drop-down, too, which says what the columns were chosen by.
@@ -773,7 +773,7 @@ TEST_F(WorkbenchControls, TheSettingsHaveTheColumnsInTheOrderOfTheList)
     tests::LaterActions later;
     later.Add(
         [&] {
-            for (auto row = 0; row < 15; ++row)
+            for (int row = 0; row < 15; ++row)
             {
                 wchar_t text[40] = L"";
                 ListView_GetItemText(list(), row, 0, text, 40);
@@ -831,7 +831,7 @@ TEST_F(WorkbenchControls, KeysAreHeardAfterApplying)
     Show(2);
     OpenSettings();
     Page(list_page).GetDlgItem(IDC_CELL_CURSOR)->SendMessage(BM_CLICK);
-    auto & apply = SheetButton(ID_APPLY_NOW);
+    CWnd & apply = SheetButton(ID_APPLY_NOW);
     ASSERT_TRUE(apply.IsWindowEnabled());
     apply.SetFocus();
     tests::Key(VK_SPACE);
@@ -875,7 +875,7 @@ TEST_F(WorkbenchControls, TheScaleHoldsFromTheNextStartOn)
 TEST_F(WorkbenchControls, ColumnsAreChosenAtTheTitles)
 {
     Show(2);
-    auto & header = *List().GetHeaderCtrl();
+    CHeaderCtrl & header = *List().GetHeaderCtrl();
     CRect title;
     header.GetItemRect(CRecordingList::column_date, &title);
     std::vector<HWND> const known{m_window->m_hWnd, nullptr};
@@ -883,7 +883,7 @@ TEST_F(WorkbenchControls, ColumnsAreChosenAtTheTitles)
     later.Add(
         [&] {
             // "select none", then OK.
-            auto const control = ::GetDlgItem(OtherPopup(known), 1016);
+            HWND const control = ::GetDlgItem(OtherPopup(known), 1016);
             ::SendMessageW(::GetDlgItem(control, 32804), BM_CLICK, 0, 0);
             ::PostMessageW(::GetDlgItem(control, 32806), BM_CLICK, 0, 0);
         },
@@ -900,7 +900,7 @@ TEST_F(WorkbenchControls, ColumnsAreChosenAtTheTitles)
 
 TEST_F(WorkbenchControls, AFolderIsOpenedByTheBeginningOfItsName)
 {
-    auto const folder = Folder(3);
+    std::filesystem::path const folder = Folder(3);
     std::vector<HWND> const known{m_window->m_hWnd, nullptr};
     auto const isOpen = [&] { return OtherPopup(known) != nullptr && ::GetDlgItem(OtherPopup(known), IDC_FOLDER); };
     {
@@ -957,7 +957,7 @@ TEST_F(WorkbenchControls, AFolderThatIsNoneIsNotOpened)
 TEST_F(WorkbenchControls, TheListIsExportedIntoAFile)
 {
     Show(3);
-    auto const file = m_folder / "list.txt";
+    std::filesystem::path const file = m_folder / "list.txt";
     std::vector<HWND> const known{m_window->m_hWnd, nullptr};
     auto const isOpen = [&] {
         return OtherPopup(known) != nullptr && ::GetDlgItem(OtherPopup(known), IDC_EXPORT_FILE);
@@ -980,7 +980,7 @@ TEST_F(WorkbenchControls, TheListIsExportedIntoAFile)
         return std::string(std::istreambuf_iterator<char>(stream), {});
     };
     exportTo(m_folder / "list", 0); // the extension comes by itself
-    auto const all = contents(file);
+    std::string const all = contents(file);
     EXPECT_TRUE(all.starts_with("\xEF\xBB\xBFName\t"));
     EXPECT_EQ(std::ranges::count(all, '\n'), 4);
     EXPECT_EQ(m_window->Settings().exportFile, file);
@@ -990,7 +990,7 @@ TEST_F(WorkbenchControls, TheListIsExportedIntoAFile)
     tests::App().Answer(IDYES);
     exportTo(file, 1);
     EXPECT_EQ(tests::App().TakeMessages().size(), 1U);
-    auto const chosen = contents(file);
+    std::string const chosen = contents(file);
     EXPECT_EQ(std::ranges::count(chosen, '\n'), 2);
     EXPECT_NE(chosen.find("r00001.wav"), std::string::npos);
     exportTo(m_folder / "list.html", 0);
@@ -998,14 +998,14 @@ TEST_F(WorkbenchControls, TheListIsExportedIntoAFile)
     // Why one cannot be written is said.
     auto const locale = ::GetThreadLocale();
     auto const gone = m_folder / "gone" / "list.txt";
-    for (auto const & [language, text] :
-         {std::pair{1033, std::pair{L"This file could not be written:\n\n", L": the folder is not there any more"}},
-          {1031, {L"Diese Datei lie\u00DF sich nicht schreiben:\n\n", L": der Ordner ist nicht mehr da"}},
-          {3082, {L"No se pudo escribir este archivo:\n\n", L": la carpeta ya no est\u00E1"}}})
+    for (auto const & language : workbench::language_facts)
     {
-        m_window->ChooseLanguage(static_cast<unsigned short>(language));
+        m_window->ChooseLanguage(language.id);
         exportTo(gone, 0);
-        EXPECT_EQ(tests::App().TakeMessages(), std::vector<std::wstring>{text.first + gone.wstring() + text.second});
+        EXPECT_EQ(tests::App().TakeMessages(),
+                  std::vector<std::wstring>{workbench::Text(L"This file could not be written:") +
+                                            (L"\n\n" + gone.wstring() + L": ") +
+                                            workbench::Text(L"the folder is not there any more")});
     }
     m_window->ChooseLanguage(1033);
     ::SetThreadLocale(locale);
@@ -1015,13 +1015,13 @@ TEST_F(WorkbenchControls, TheListIsExportedIntoAFile)
 
 TEST_F(WorkbenchControls, StartFoldersAreAddedAndRemoved)
 {
-    auto const folder = Folder(1);
+    std::filesystem::path const folder = Folder(1);
     OpenSettings();
-    auto & page = Page(start_page);
+    CWnd & page = Page(start_page);
     auto const count = [&] { return page.SendDlgItemMessage(IDC_START_FOLDERS, LB_GETCOUNT); };
     HWND const remove = page.GetDlgItem(IDC_REMOVE_FOLDER)->m_hWnd;
     EXPECT_FALSE(::IsWindowEnabled(remove));
-    auto & field = *page.GetDlgItem(IDC_NEW_FOLDER);
+    CWnd & field = *page.GetDlgItem(IDC_NEW_FOLDER);
     field.SetFocus();
     tests::Type(folder.wstring());
     ASSERT_TRUE(tests::PumpUntil([&] { return TextOf(field) == folder.wstring(); }));
@@ -1053,7 +1053,7 @@ protected:
         tests::GuardedHeap heap;
         known.push_back(nullptr);
         tests::LaterActions later;
-        auto const window = m_window->m_hWnd;
+        HWND const window = m_window->m_hWnd;
         later.Add([=] { ::SendMessageW(window, WM_CLOSE, 0, 0); }, [known] { return OtherPopup(known) != nullptr; });
         open();
         ASSERT_TRUE(tests::PumpUntil([&] { return later.Done() && !::IsWindow(window); }));
@@ -1071,7 +1071,7 @@ TEST_F(WorkbenchClosing, OfTheChoiceOfAColour)
 {
     Show(1);
     OpenSettings();
-    auto & button = *Page(waveform_page).GetDlgItem(IDC_COLOUR_FIRST);
+    CWnd & button = *Page(waveform_page).GetDlgItem(IDC_COLOUR_FIRST);
     CloseWhileOpen([&] { button.SendMessage(BM_CLICK); }, {Sheet().m_hWnd, m_window->m_hWnd});
 }
 
@@ -1109,7 +1109,7 @@ TEST_F(WorkbenchClosing, OfSavingAPicture)
 TEST_F(WorkbenchClosing, OfATreeThatIsBeingFilled)
 {
     m_window->ShowFolders(true);
-    auto const folder = Folder(300);
+    std::filesystem::path const folder = Folder(300);
     m_window->ShowTargets({folder});
     ASSERT_TRUE(tests::PumpUntil([this] { return Tree().IsBusy(); }));
     CloseWindow();

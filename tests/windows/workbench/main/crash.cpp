@@ -1,12 +1,12 @@
 // What the user did is there after the program has been killed.
 
-#include "MainWindowTest.h"
-
 #include <algorithm>
 #include <numeric>
 #include <random>
 #include <string>
 #include <vector>
+
+#include "MainWindowTest.h"
 
 namespace
 {
@@ -45,8 +45,8 @@ Expected After(int steps)
     Expected expected;
     for (int step = 0; step < steps; ++step)
     {
-        auto & notes = expected.notes[static_cast<std::size_t>(LineOf(step))];
-        auto & order = expected.order;
+        workbench::RecordingNotes & notes = expected.notes[static_cast<std::size_t>(LineOf(step))];
+        Lines & order = expected.order;
         switch (step % 5)
         {
         case 0:
@@ -118,7 +118,7 @@ protected:
     }
     void Change()
     {
-        auto const line = LineOf(m_step);
+        int const line = LineOf(m_step);
         List().ChooseLine(line);
         List().SetFocus();
         switch (m_step % 5)
@@ -231,10 +231,10 @@ TEST_F(WorkbenchCrash, ASecondAfterAChangeNothingIsLost)
     std::mt19937 random(11);
     for (int step = 0; step < kills; ++step)
     {
-        auto const process = Start(step);
+        PROCESS_INFORMATION const process = Start(step);
         ASSERT_NE(process.hProcess, nullptr);
         HANDLE const waits[] = {changed, process.hProcess};
-        auto const result = ::WaitForMultipleObjects(2, waits, FALSE, hang_limit);
+        DWORD const result = ::WaitForMultipleObjects(2, waits, FALSE, hang_limit);
         if (result == WAIT_OBJECT_0)
         {
             ::WaitForSingleObject(process.hProcess, kill_delay + random() % 100);
@@ -244,7 +244,7 @@ TEST_F(WorkbenchCrash, ASecondAfterAChangeNothingIsLost)
         Close(process);
         ASSERT_EQ(result, WAIT_OBJECT_0) << "the program of step " << step << " says above what it missed";
     }
-    auto const process = Start(kills);
+    PROCESS_INFORMATION const process = Start(kills);
     ::WaitForSingleObject(process.hProcess, hang_limit);
     DWORD code = 1;
     ::GetExitCodeProcess(process.hProcess, &code);

@@ -1,10 +1,10 @@
 // What is asked and said when recordings go to the trash; and recordings that cannot be read, which can go there, too.
 
-#include "MainWindowTest.h"
-
 #include <fstream>
 #include <string>
 #include <vector>
+
+#include "MainWindowTest.h"
 
 namespace
 {
@@ -18,7 +18,7 @@ protected:
     fs::path Recordings() const { return m_folder / "recordings"; }
     void ShowFolder(int count, bool withUnreadable = false)
     {
-        auto const folder = Folder(count);
+        std::filesystem::path const folder = Folder(count);
         if (withUnreadable)
         {
             std::ofstream(folder / "z.wav") << "no recording";
@@ -38,7 +38,7 @@ protected:
     {
         tests::App().Answer(IDNO);
         List().SendMessage(WM_KEYDOWN, VK_DELETE);
-        auto const messages = tests::App().TakeMessages();
+        std::vector<std::wstring> const messages = tests::App().TakeMessages();
         return messages.size() == 1 ? messages.front() : std::to_wstring(messages.size()) + L" messages";
     }
 };
@@ -64,12 +64,12 @@ TEST_F(WorkbenchDeleting, AnErrorSaysWhichFileAndWhy)
 {
     ShowFolder(3);
     List().SelectLines({0, 1}, 0);
-    auto const used = Recordings() / "r00001.wav";
-    auto * const handle = ::CreateFileW(used.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    std::filesystem::path const used = Recordings() / "r00001.wav";
+    HANDLE const handle = ::CreateFileW(used.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
     ASSERT_NE(handle, INVALID_HANDLE_VALUE);
     tests::App().Answer(IDYES);
     List().SendMessage(WM_KEYDOWN, VK_DELETE);
-    auto const messages = tests::App().TakeMessages();
+    std::vector<std::wstring> const messages = tests::App().TakeMessages();
     ::CloseHandle(handle);
     ASSERT_EQ(messages.size(), 2U);
     EXPECT_EQ(messages.back(), L"This file could not be moved to the trash:\n\n"
@@ -80,7 +80,7 @@ TEST_F(WorkbenchDeleting, AnErrorSaysWhichFileAndWhy)
 TEST_F(WorkbenchDeleting, ARecordingThatCannotBeReadIsChosenByAClick)
 {
     ShowFolder(2, true);
-    for (auto const column :
+    for (CRecordingList::Column const column :
          {CRecordingList::column_name, CRecordingList::column_duration, CRecordingList::column_status,
           CRecordingList::column_check, CRecordingList::column_comment, CRecordingList::column_rating})
     {

@@ -41,8 +41,8 @@ std::size_t BehindName(std::vector<unsigned char> const & dialog, std::size_t pl
 /// resolution, and without the style of a page.
 std::vector<unsigned char> Template(UINT id, WORD language, WORD points)
 {
-    auto const module = AfxGetInstanceHandle();
-    auto const resource = ::FindResourceExW(module, RT_DIALOG, MAKEINTRESOURCEW(id), language);
+    HINSTANCE const module = AfxGetInstanceHandle();
+    HRSRC const resource = ::FindResourceExW(module, RT_DIALOG, MAKEINTRESOURCEW(id), language);
     if (resource == nullptr)
     {
         return {};
@@ -53,15 +53,15 @@ std::vector<unsigned char> Template(UINT id, WORD language, WORD points)
     std::memcpy(&style, &dialog[style_offset], sizeof style);
     style = (style & ~static_cast<DWORD>(WS_CHILD)) | WS_POPUP;
     std::memcpy(&dialog[style_offset], &style, sizeof style);
-    auto const font = BehindName(dialog, BehindName(dialog, BehindName(dialog, menu_offset)));
+    std::size_t const font = BehindName(dialog, BehindName(dialog, BehindName(dialog, menu_offset)));
     std::memcpy(&dialog[font], &points, sizeof points);
     return dialog;
 }
 
 bool IsPage(UINT id, WORD language)
 {
-    auto const module = AfxGetInstanceHandle();
-    auto const resource = ::FindResourceExW(module, RT_DIALOG, MAKEINTRESOURCEW(id), language);
+    HINSTANCE const module = AfxGetInstanceHandle();
+    HRSRC const resource = ::FindResourceExW(module, RT_DIALOG, MAKEINTRESOURCEW(id), language);
     auto const * const bytes = static_cast<unsigned char const *>(::LockResource(::LoadResource(module, resource)));
     DWORD style = 0;
     std::memcpy(&style, bytes + style_offset, sizeof style);
@@ -96,7 +96,7 @@ struct Control
 std::vector<Control> Controls(HWND dialog)
 {
     std::vector<Control> controls;
-    for (auto child = ::GetWindow(dialog, GW_CHILD); child != nullptr; child = ::GetWindow(child, GW_HWNDNEXT))
+    for (HWND child = ::GetWindow(dialog, GW_CHILD); child != nullptr; child = ::GetWindow(child, GW_HWNDNEXT))
     {
         Control control{child, {}, {}, {}};
         ::GetWindowRect(child, &control.place);
@@ -115,7 +115,8 @@ std::vector<Control> Controls(HWND dialog)
 CSize TextSize(Control const & control, int width)
 {
     CClientDC dc(CWnd::FromHandle(control.window));
-    auto const former = ::SelectObject(dc, reinterpret_cast<HFONT>(::SendMessageW(control.window, WM_GETFONT, 0, 0)));
+    HGDIOBJ const former =
+        ::SelectObject(dc, reinterpret_cast<HFONT>(::SendMessageW(control.window, WM_GETFONT, 0, 0)));
     CRect rect(0, 0, width, 0);
     ::DrawTextW(dc, control.text.c_str(), -1, &rect, DT_CALCRECT | (width > 0 ? DT_WORDBREAK : DT_SINGLELINE));
     ::SelectObject(dc, former);
@@ -127,15 +128,15 @@ std::string Fault(Control const & control, int points)
 {
     if (control.kind == L"Button")
     {
-        auto const isBox = (::GetWindowLongW(control.window, GWL_STYLE) & BS_TYPEMASK) >= BS_CHECKBOX;
-        auto const extra = (isBox ? 20 : 6) * points / 8;
-        auto const needed = TextSize(control, 0).cx + extra;
+        bool const isBox = (::GetWindowLongW(control.window, GWL_STYLE) & BS_TYPEMASK) >= BS_CHECKBOX;
+        int const extra = (isBox ? 20 : 6) * points / 8;
+        long const needed = TextSize(control, 0).cx + extra;
         return needed > control.place.Width() ? "wants a width of " + std::to_string(needed) : "";
     }
-    auto const style = ::GetWindowLongW(control.window, GWL_STYLE) & SS_TYPEMASK;
+    long const style = ::GetWindowLongW(control.window, GWL_STYLE) & SS_TYPEMASK;
     if (control.kind == L"Static" && (style == SS_LEFT || style == SS_RIGHT || style == SS_CENTER))
     {
-        auto const needed = TextSize(control, control.place.Width());
+        CSize const needed = TextSize(control, control.place.Width());
         if (needed.cx > control.place.Width())
         {
             return "wants a width of " + std::to_string(needed.cx);
@@ -149,10 +150,10 @@ void ExpectFits(HWND dialog, std::string const & name, int points)
 {
     CRect client;
     ::GetClientRect(dialog, &client);
-    auto const controls = Controls(dialog);
+    std::vector<Control> const controls = Controls(dialog);
     for (std::size_t i = 0; i < controls.size(); ++i)
     {
-        auto const & control = controls[i];
+        Control const & control = controls[i];
         CString const label(control.text.c_str());
         auto const which = name + ", control " + std::to_string(i) + " \"" + std::string(CStringA(label)) + "\" of " +
                            std::to_string(control.place.Width()) + " x " + std::to_string(control.place.Height());
@@ -170,17 +171,17 @@ void ExpectFits(HWND dialog, std::string const & name, int points)
 
 TEST(WorkbenchDialogFit, NothingIsCutOffOrCoveredInAnyLanguageAt100To200Percent)
 {
-    auto const dialogs = Dialogs();
+    std::vector<UINT> const dialogs = Dialogs();
     ASSERT_GE(dialogs.size(), 12U);
-    for (auto const id : dialogs)
+    for (unsigned int const id : dialogs)
     {
-        for (auto const & language : workbench::language_facts)
+        for (workbench::LanguageFacts const & language : workbench::language_facts)
         {
             for (WORD const points : {8, 12, 16})
             {
                 auto const name = "dialog " + std::to_string(id) + ", language " + std::to_string(language.id) + ", " +
                                   std::to_string(points * 100 / 8) + " %";
-                auto const dialog = Template(id, language.id, points);
+                std::vector<unsigned char> const dialog = Template(id, language.id, points);
                 ASSERT_FALSE(dialog.empty()) << name;
                 auto const window = ::CreateDialogIndirectParamW(
                     AfxGetInstanceHandle(), reinterpret_cast<DLGTEMPLATE const *>(dialog.data()), nullptr,

@@ -1,10 +1,10 @@
 // Finding recordings, undoing what was done to them, and what is remembered of a folder.
 
-#include "MainWindowTest.h"
-
 #include <algorithm>
 #include <string>
 #include <vector>
+
+#include "MainWindowTest.h"
 
 namespace
 {
@@ -141,7 +141,7 @@ TEST_F(WorkbenchFinding, AFolderIsShownAsItWasThen)
     List().SelectLines({2, 5}, 5);
     ASSERT_TRUE(tests::PumpUntil([this] { return m_window->Waveform().ShowsRecording(); }));
     tests::PumpPosted();
-    auto marks = m_window->Waveform().Marks();
+    workbench::TimeMarks marks = m_window->Waveform().Marks();
     marks.window.Show({100, 200});
     marks.cursor = 150;
     m_window->Waveform().SetMarks(marks);

@@ -1,14 +1,14 @@
 // The list follows folders that change, and what was opened last.
 
-#include "MainWindowTest.h"
-#include "RecordingCells.h"
+#include <shlobj.h>
 
 #include <algorithm>
 #include <numeric>
 #include <string>
 #include <vector>
 
-#include <shlobj.h>
+#include "MainWindowTest.h"
+#include "RecordingCells.h"
 
 namespace
 {
@@ -44,7 +44,7 @@ protected:
     }
     std::wstring ChosenName()
     {
-        auto const row = List().PlaceOf(List().ChosenLine());
+        int const row = List().PlaceOf(List().ChosenLine());
         return row < 0 ? L"" : List().GetItemText(row, CRecordingList::column_name).GetString();
     }
 };
@@ -100,7 +100,7 @@ TEST_F(WorkbenchFollowing, AFileThatGrowsIsReadAgain)
     ShowFolder(2);
     List().ChooseLine(1);
     auto const duration = [this] { return List().GetItemText(1, CRecordingList::column_duration).Trim(); };
-    auto const before = duration();
+    CString const before = duration();
     tests::WriteRecording(Recordings() / "r00001.wav", 48000, 96000);
     ASSERT_TRUE(tests::PumpUntil([&] { return duration() == L"0:02.000"; }));
     EXPECT_NE(before, L"0:02.000");
@@ -113,7 +113,7 @@ TEST_F(WorkbenchFollowing, ARenamedFileKeepsWhatIsSaidAboutIt)
     ShowFolder(3);
     tests::WriteRecording(Recordings() / "r00001.wav", 48000, 777); // known by its size
     auto const isRead = [this] {
-        auto const row = List().PlaceOf(1);
+        int const row = List().PlaceOf(1);
         return !m_window->IsBusy() && List().GetItemText(row, CRecordingList::column_duration).Trim() == L"0:00.016";
     };
     ASSERT_TRUE(tests::PumpUntil(isRead));
@@ -134,7 +134,7 @@ TEST_F(WorkbenchFollowing, OrderAndPlaceStay)
     List().SortLines(CRecordingList::column_name, false);
     List().EnsureVisible(40, FALSE);
     tests::PumpPosted();
-    auto const top = List().GetItemText(List().GetTopIndex(), CRecordingList::column_name);
+    CString const top = List().GetItemText(List().GetTopIndex(), CRecordingList::column_name);
     ASSERT_GT(List().GetTopIndex(), 5);
     tests::WriteRecording(Recordings() / "z.wav");
     ASSERT_TRUE(tests::PumpUntil([this] { return List().GetItemCount() == 61 && !m_window->IsBusy(); }));
@@ -179,7 +179,7 @@ TEST_F(WorkbenchFollowing, WaitsWhileACommentIsWritten)
 TEST_F(WorkbenchFollowing, ManyFilesAtOnceKeepTheWindowAnswering)
 {
     ShowFolder(2);
-    auto const source = m_folder / "one.wav";
+    std::filesystem::path const source = m_folder / "one.wav";
     tests::WriteRecording(source);
     constexpr int count = 1500;
     for (int i = 0; i < count; ++i)
@@ -188,7 +188,7 @@ TEST_F(WorkbenchFollowing, ManyFilesAtOnceKeepTheWindowAnswering)
     }
     // Between two messages that the window posts to itself there is never a long time.
     ULONGLONG longest = 0;
-    auto last = ::GetTickCount64();
+    ULONGLONG last = ::GetTickCount64();
     ASSERT_TRUE(tests::PumpUntil(
         [&] {
             auto const now = ::GetTickCount64();
@@ -211,7 +211,7 @@ TEST_F(WorkbenchFollowing, ManySelectedOnesStaySelectedWhenSomeGo)
     Lines all(count - 1);
     std::iota(all.begin(), all.end(), 1);
     List().SelectLines(all, 20);
-    for (auto const * const name : {"r00000.wav", "r00003.wav", "r00030.wav"})
+    for (char const * const name : {"r00000.wav", "r00003.wav", "r00030.wav"})
     {
         fs::remove(Recordings() / name);
     }
@@ -246,7 +246,7 @@ TEST_F(WorkbenchFollowing, WhatWasOpenedLastIsInTheMenu)
     Folder(2);
     auto const drop = [this](std::vector<fs::path> const & paths) {
         std::wstring names;
-        for (auto const & path : paths)
+        for (std::filesystem::path const & path : paths)
         {
             names += path.wstring() + L'\0';
         }
@@ -259,7 +259,7 @@ TEST_F(WorkbenchFollowing, WhatWasOpenedLastIsInTheMenu)
         ::GlobalUnlock(memory);
         m_window->PostMessage(WM_DROPFILES, reinterpret_cast<WPARAM>(memory));
     };
-    auto const file = Recordings() / "r00001.wav";
+    std::filesystem::path const file = Recordings() / "r00001.wav";
     drop({Recordings()});
     ASSERT_TRUE(tests::PumpUntil([this] { return List().GetItemCount() == 2 && !m_window->IsBusy(); }));
     drop({file});
@@ -274,8 +274,8 @@ TEST_F(WorkbenchFollowing, WhatWasOpenedLastIsInTheMenu)
     tests::Key(L'F', {VK_MENU});
     ASSERT_TRUE(tests::PumpUntil([this] { return List().GetItemCount() == 2 && !m_window->IsBusy(); }));
     EXPECT_EQ(m_window->Settings().recentTargets, (std::vector<fs::path>{Recordings(), file}));
-    auto & menu = *m_window->GetMenu()->GetSubMenu(0);
-    auto const items = menu.GetMenuItemCount();
+    CMenu & menu = *m_window->GetMenu()->GetSubMenu(0);
+    UINT const items = menu.GetMenuItemCount();
     for (int i = 0; i < 2; ++i)
     {
         m_window->SendMessage(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(menu.m_hMenu), 0);
@@ -286,7 +286,7 @@ TEST_F(WorkbenchFollowing, WhatWasOpenedLastIsInTheMenu)
     fs::remove(file);
     ASSERT_TRUE(WaitFor({L"r00000.wav"}));
     m_window->SendMessage(WM_COMMAND, ID_RECENT_FIRST + 1);
-    auto const messages = tests::App().TakeMessages();
+    std::vector<std::wstring> const messages = tests::App().TakeMessages();
     ASSERT_EQ(messages.size(), 1U);
     EXPECT_EQ(messages.front().find(L"This is not there any more:"), 0U);
     EXPECT_EQ(m_window->Settings().recentTargets, std::vector<fs::path>{Recordings()});
@@ -297,7 +297,7 @@ TEST_F(WorkbenchFollowing, WhatWasOpenedLastIsInTheMenu)
 TEST_F(WorkbenchFollowing, ColumnsKeepTheirPlaces)
 {
     ShowFolder(1);
-    auto & header = *List().GetHeaderCtrl();
+    CHeaderCtrl & header = *List().GetHeaderCtrl();
     CRect name;
     CRect duration;
     header.GetItemRect(CRecordingList::column_name, &name);
@@ -306,7 +306,7 @@ TEST_F(WorkbenchFollowing, ColumnsKeepTheirPlaces)
                 tests::ClientPoint(header.m_hWnd, CPoint(name.left + 3, name.CenterPoint().y)));
     ASSERT_TRUE(tests::PumpUntil([this] { return List().ColumnOrder()[0] == CRecordingList::column_duration; }));
     tests::PumpPosted();
-    auto const order = List().ColumnOrder();
+    std::vector<int> const order = List().ColumnOrder();
     EXPECT_EQ(workbench::ReadColumnOrder(), order);
     EXPECT_EQ(List().SortedColumn(), -1) << "a drag is no click";
     // Cells and copies go along.
@@ -394,12 +394,12 @@ TEST_F(WorkbenchFollowing, ChosenRecordingsAreDraggedOut)
     tests::PumpPosted();
     tests::LaterActions later;
     auto const place = CPoint(1100, 250);
-    auto left = false;
+    bool left = false;
     later.Add([&] { tests::InjectMove(place + CPoint(3, 3)); },
               [&] { return left && ::GetCapture() != List().m_hWnd; });
     later.Add([&] { tests::InjectMove(place + CPoint(5, 5)); });
     // A busy system can lose one of the moves.
-    auto moves = 0;
+    int moves = 0;
     later.Add([] { tests::Release(); },
               [&] {
                   if (!files.m_entered)

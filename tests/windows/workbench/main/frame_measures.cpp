@@ -1,16 +1,15 @@
 // The analysis frames of the chosen recording: filled while they are measured, and linked to the plots by the cursor.
 
-#include "MainWindowTest.h"
-
 #include <afxcmn.h>
 
 #include <fstream>
 #include <vector>
 
 #include "Bitmap.h"
-#include "GuardedHeap.h"
 #include "clipboard/Clipboard.h"
+#include "GuardedHeap.h"
 #include "logic/Texts.h"
+#include "MainWindowTest.h"
 
 namespace
 {
@@ -22,7 +21,7 @@ constexpr std::uint64_t row_frames = 48; // from one row to the next
 class WorkbenchFrameMeasures : public tests::MainWindowTest
 {
 protected:
-    static constexpr auto part = CMainWindow::part_frame_measures;
+    static constexpr CMainWindow::Part part = CMainWindow::part_frame_measures;
 
     CFrameMeasuresPanel & Panel() { return m_window->FrameMeasures(); }
     CXTableCtrl & Table() { return Panel().Table(); }
@@ -37,9 +36,9 @@ protected:
     /// A silent recording of so many milliseconds, without a byte on the disk.
     void AddLong(char const * name, std::uint32_t milliseconds)
     {
-        auto const path = m_folder / "recordings" / name;
+        std::filesystem::path const path = m_folder / "recordings" / name;
         tests::WriteRecording(path, 48000, 0);
-        auto const bytes = milliseconds * 96;
+        unsigned int const bytes = milliseconds * 96;
         std::fstream file(path, std::ios::in | std::ios::out | std::ios::binary);
         for (auto const & [place, size] : {std::pair(4, bytes + 36), std::pair(40, bytes)})
         {
@@ -185,8 +184,8 @@ TEST_F(WorkbenchFrameMeasures, TheCursorOfThePlotsChoosesItsRow)
 TEST_F(WorkbenchFrameMeasures, AChosenRowKeepsWhatIsSelectedInThePlots)
 {
     ShowShort();
-    auto & plot = m_window->Waveform();
-    auto marks = plot.Marks();
+    CWaveformView & plot = m_window->Waveform();
+    workbench::TimeMarks marks = plot.Marks();
     marks.window.Show({100, 200});
     marks.other = 120;
     marks.cursor = 160;
@@ -200,7 +199,7 @@ TEST_F(WorkbenchFrameMeasures, AChosenRowKeepsWhatIsSelectedInThePlots)
     tests::Click(RowCentre(6));
     ASSERT_TRUE(tests::PumpUntil([this] { return Cursor() == 6 * row_frames; }));
     EXPECT_EQ(plot.Marks().Selection(), (workbench::FrameRange{120, 160}));
-    auto const shown = plot.Marks().window.Shown();
+    workbench::FrameRange const shown = plot.Marks().window.Shown();
     EXPECT_EQ(shown.Length(), 100U);
     EXPECT_GT(shown.end, 6 * row_frames + 5);
     EXPECT_LT(shown.end, 6 * row_frames + 20);
@@ -406,7 +405,7 @@ TEST_F(WorkbenchFrameMeasures, TheMenuOfTheRowsSelectsAndCopiesThem)
 TEST_F(WorkbenchFrameMeasures, AllRowsAreExportedAsCsv)
 {
     ShowShort();
-    auto const path = m_folder / "frames.csv";
+    std::filesystem::path const path = m_folder / "frames.csv";
     ASSERT_TRUE(Table().ExportRows(path.wstring(), TableForm::csv, false));
     ASSERT_TRUE(tests::PumpUntil([this] { return !Table().IsExporting(); }));
     std::ifstream file(path, std::ios::binary);
@@ -422,8 +421,8 @@ TEST_F(WorkbenchFrameMeasures, AllRowsAreExportedAsCsv)
 TEST_F(WorkbenchFrameMeasures, TheStatusLineSaysWhatHasBeenExported)
 {
     ShowShort();
-    auto const path = m_folder / "said.csv";
-    auto const before = std::filesystem::current_path();
+    std::filesystem::path const path = m_folder / "said.csv";
+    std::filesystem::path const before = std::filesystem::current_path();
     tests::LaterActions later;
     auto const dialog = [] { return ::FindWindowW(nullptr, L"Export Analysis Frames"); };
     later.Add(
@@ -442,7 +441,7 @@ TEST_F(WorkbenchFrameMeasures, TheStatusLineSaysWhatHasBeenExported)
 
 TEST_F(WorkbenchFrameMeasures, FollowTheLanguageAtOnce)
 {
-    auto const locale = ::GetThreadLocale();
+    LCID const locale = ::GetThreadLocale();
     ShowShort();
     Table().SortBy({{FrameTable::column_time, true}});
     m_window->ChooseLanguage(1031);
@@ -481,26 +480,29 @@ TEST_F(WorkbenchFrameMeasures, ColumnsAndPlaceComeBackAfterARestart)
 
 TEST_F(WorkbenchFrameMeasures, NothingIsCutOffInAnyLanguageOrResolution)
 {
-    auto const locale = ::GetThreadLocale();
-    for (auto const dots : {96, 144})
+    LCID const locale = ::GetThreadLocale();
+    for (int const dots : {96, 144})
     {
         CloseWindow();
         ForgetSettings();
         OpenWindow(dots);
         ShowShort();
-        for (auto const language : {1033, 1031, 3082})
+        for (auto const & language : workbench::language_facts)
         {
-            m_window->ChooseLanguage(static_cast<unsigned short>(language));
+            m_window->ChooseLanguage(language.id);
             CClientDC dc(&Table());
             CFont * const former = dc.SelectObject(Table().GetFont());
             auto const width = [&dc](std::wstring const & text) { return dc.GetTextExtent(text.c_str()).cx; };
             for (int place = 0; place < 6; ++place)
-                EXPECT_GE(Table().GetColumnWidth(place), width(Title(place)) + 34) << language << Title(place).c_str();
+            {
+                EXPECT_GE(Table().GetColumnWidth(place), width(Title(place)) + 34)
+                    << language.id << Title(place).c_str();
+            }
             for (auto const id : {IDC_FRAME_STATUS, IDC_FRAME_EXPORT})
             {
                 CRect place;
                 Control(id).GetWindowRect(&place);
-                EXPECT_GE(place.Width(), width(TextOf(Control(id)))) << language << ' ' << id;
+                EXPECT_GE(place.Width(), width(TextOf(Control(id)))) << language.id << ' ' << id;
             }
             // Also while an hour is measured.
             CString frames;
@@ -509,13 +511,13 @@ TEST_F(WorkbenchFrameMeasures, NothingIsCutOffInAnyLanguageOrResolution)
             measuring.Format(workbench::Text(L"measuring, %d %%"), 99);
             CRect status;
             Control(IDC_FRAME_STATUS).GetWindowRect(&status);
-            EXPECT_GE(status.Width(), width((frames + L"; " + measuring).GetString())) << language;
+            EXPECT_GE(status.Width(), width((frames + L"; " + measuring).GetString())) << language.id;
             measuring.Format(workbench::Text(L"windows of %s"), L"23.2 ms");
-            EXPECT_GE(status.Width(), width((frames + L"; " + measuring).GetString())) << language;
+            EXPECT_GE(status.Width(), width((frames + L"; " + measuring).GetString())) << language.id;
             dc.SelectObject(former);
             CRect inside;
             Panel().GetWindowRect(&inside);
-            for (auto * child = Panel().GetWindow(GW_CHILD); child != nullptr; child = child->GetWindow(GW_HWNDNEXT))
+            for (CWnd * child = Panel().GetWindow(GW_CHILD); child != nullptr; child = child->GetWindow(GW_HWNDNEXT))
             {
                 CRect place;
                 child->GetWindowRect(&place);

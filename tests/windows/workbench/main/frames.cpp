@@ -1,7 +1,5 @@
 // Waveforms in frames of their own: opening, what they show, where they stand, their coming back, and their end.
 
-#include "MainWindowTest.h"
-
 #include <algorithm>
 #include <array>
 #include <fstream>
@@ -9,6 +7,7 @@
 #include <vector>
 
 #include "GuardedHeap.h"
+#include "MainWindowTest.h"
 #include "WaveformPanelView.h"
 #include "windows/StandaloneFrameWnd.h"
 
@@ -36,7 +35,7 @@ protected:
     }
     CWaveformFrame & Only()
     {
-        auto const frames = Frames().Frames();
+        std::vector<CWaveformFrame *> const frames = Frames().Frames();
         return *frames.at(0);
     }
     CWaveformView & Waveform(std::size_t cell = 0) { return Only().Cell(cell)->Waveform(); }
@@ -50,7 +49,7 @@ protected:
     }
     std::vector<std::wstring> WindowMenu()
     {
-        auto & menu = *m_window->GetMenu()->GetSubMenu(static_cast<int>(m_window->GetMenu()->GetMenuItemCount()) - 2);
+        CMenu & menu = *m_window->GetMenu()->GetSubMenu(static_cast<int>(m_window->GetMenu()->GetMenuItemCount()) - 2);
         std::vector<std::wstring> items;
         for (UINT i = 0; i < menu.GetMenuItemCount(); ++i)
         {
@@ -70,7 +69,7 @@ protected:
 TEST_F(WorkbenchFrames, ARecordingOpensInAFrameBesideTheList)
 {
     Show(4);
-    auto const before = PlaceOf(List());
+    CRect const before = PlaceOf(List());
     EXPECT_FALSE(::IsWindowVisible(Area()));
     ASSERT_TRUE(m_window->ChooseRecording(2));
     tests::Key(L'N', {VK_CONTROL});
@@ -95,7 +94,7 @@ TEST_F(WorkbenchFrames, ARecordingOpensInAFrameBesideTheList)
     m_window->ShowInFrame(2);
     EXPECT_EQ(m_window->MDIGetActive(), Only().Frame());
     // With the last frame the room goes.
-    auto const menu = WindowMenu().size();
+    std::size_t const menu = WindowMenu().size();
     m_window->SendMessage(WM_COMMAND, ID_CLOSE_DIALOGS);
     ASSERT_TRUE(tests::PumpUntil([this] { return !Frames().AnyOpen() && !::IsWindowVisible(Area()); }));
     EXPECT_EQ(PlaceOf(List()), before);
@@ -147,9 +146,9 @@ TEST_F(WorkbenchFrames, ComeBackAtTheirPlacesWithTheirRecordings)
     ASSERT_TRUE(m_window->ShowInFrame(1));
     ASSERT_TRUE(m_window->CompareFour());
     Frames().Frames()[1]->Frame()->SendMessage(WM_CLOSE);
-    auto & frame = *Only().Frame();
+    CStandaloneFrameWnd & frame = *Only().Frame();
     frame.SetWindowPos(nullptr, 30, 40, 333, 222, SWP_NOZORDER);
-    auto const place = PlaceOf(frame);
+    CRect const place = PlaceOf(frame);
     CloseWindow();
     fs::remove(File(2));
     OpenWindow();
@@ -161,7 +160,7 @@ TEST_F(WorkbenchFrames, ComeBackAtTheirPlacesWithTheirRecordings)
     // No list of recordings is there yet.
     ASSERT_TRUE(WaitForFrames());
     EXPECT_TRUE(Waveform().ShowsRecording());
-    auto & grid = *Frames().Frames()[1];
+    CWaveformFrame & grid = *Frames().Frames()[1];
     EXPECT_TRUE(grid.Cell(0)->Waveform().ShowsRecording());
     EXPECT_FALSE(grid.Cell(2)->Waveform().ShowsRecording()); // its file has gone
     EXPECT_TRUE(grid.Cell(3)->Waveform().ShowsRecording());
@@ -207,10 +206,10 @@ TEST_F(WorkbenchFrames, TheirSettingsFollow)
     ASSERT_TRUE(m_window->ShowInFrame(0));
     auto const hasGround = [this](COLORREF colour) {
         Waveform().UpdateWindow();
-        auto const plot = Waveform().PlotPlace();
+        CRect const plot = Waveform().PlotPlace();
         CClientDC dc(&Waveform());
-        auto found = 0;
-        for (auto y = plot.top; y < plot.bottom; ++y)
+        int found = 0;
+        for (LONG y = plot.top; y < plot.bottom; ++y)
         {
             found += dc.GetPixel(plot.left + 4, y) == colour ? 1 : 0;
         }
@@ -260,7 +259,7 @@ TEST_F(WorkbenchFrames, TheFocusStaysWhereItWas)
     ASSERT_TRUE(tests::BringToFront(m_window->m_hWnd));
     // The frame's plot has had it since the frame opened.
     EXPECT_TRUE(tests::PumpUntil([this] { return CWnd::GetFocus() == &Waveform(); }));
-    auto const cursor = Waveform().Cursor();
+    std::optional<std::uint64_t> const cursor = Waveform().Cursor();
     tests::Key(VK_RIGHT);
     EXPECT_TRUE(tests::PumpUntil([&] { return Waveform().Cursor() != cursor; }));
     // A click into the list has it there, and a change of windows leaves it.
@@ -292,7 +291,7 @@ TEST_F(WorkbenchFrames, ThereIsAnEndToTheirNumber)
         ASSERT_TRUE(m_window->CompareFour());
     }
     EXPECT_FALSE(m_window->CompareFour());
-    for (auto const command : {ID_WINDOW_CASCADE, ID_WINDOW_TILE_HORZ, ID_WINDOW_TILE_VERT})
+    for (int const command : {ID_WINDOW_CASCADE, ID_WINDOW_TILE_HORZ, ID_WINDOW_TILE_VERT})
     {
         m_window->SendMessage(WM_COMMAND, static_cast<WPARAM>(command));
     }
@@ -309,7 +308,7 @@ protected:
     {
         tests::GuardedHeap heap;
         tests::LaterActions later;
-        auto const window = m_window->m_hWnd;
+        HWND const window = m_window->m_hWnd;
         later.Add([=] { ::SendMessageW(window, WM_CLOSE, 0, 0); }, when);
         act();
         ASSERT_TRUE(tests::PumpUntil([&] { return later.Done() && !::IsWindow(window); }));
@@ -343,7 +342,7 @@ TEST_F(WorkbenchFramesClosing, WhileOneIsDragged)
 {
     Show(5);
     ASSERT_TRUE(m_window->ShowInFrame(1));
-    auto & frame = *Only().Frame();
+    CStandaloneFrameWnd & frame = *Only().Frame();
     frame.SetWindowPos(nullptr, 20, 20, 300, 200, SWP_NOZORDER);
     tests::PumpPosted();
     CRect place;

@@ -1,12 +1,11 @@
 // The help and the box that tells about the program.
 
-#include "MainWindowTest.h"
-
 #include <set>
 #include <string>
 #include <vector>
 
 #include "logic/Texts.h"
+#include "MainWindowTest.h"
 
 namespace
 {
@@ -76,7 +75,7 @@ TEST_F(WorkbenchHelpWindow, F1TellsAboutTheListWhileARatingIsChosen)
 {
     m_window->ShowTargets({Folder(1)});
     ASSERT_TRUE(WaitUntilRead());
-    for (auto const opens : {false, true})
+    for (bool const opens : {false, true})
     {
         m_window->List().ChooseRating(0);
         ASSERT_NE(m_window->List().RatingCombo(), nullptr);
@@ -94,7 +93,7 @@ TEST_F(WorkbenchHelpWindow, F1TellsAboutTheListWhileARatingIsChosen)
 TEST_F(WorkbenchHelpWindow, ArrowsGoThroughTheTopicsAndEscapeClosesFromThePageToo)
 {
     ASSERT_TRUE(m_window->ShowHelp(HelpTopic::overview));
-    auto const first = Page();
+    std::wstring const first = Page();
     tests::Key(VK_DOWN);
     ASSERT_TRUE(tests::PumpUntil([&] { return Topic() == HelpTopic::list; }));
     EXPECT_NE(Page(), first);
@@ -105,19 +104,19 @@ TEST_F(WorkbenchHelpWindow, ArrowsGoThroughTheTopicsAndEscapeClosesFromThePageTo
 
 TEST_F(WorkbenchHelpWindow, EveryAcceleratorIsAmongTheKeysInEveryLanguage)
 {
-    auto const table = ::LoadAcceleratorsW(AfxGetInstanceHandle(), MAKEINTRESOURCEW(IDR_MAIN_FRAME));
+    HACCEL const table = ::LoadAcceleratorsW(AfxGetInstanceHandle(), MAKEINTRESOURCEW(IDR_MAIN_FRAME));
     std::vector<ACCEL> keys(static_cast<std::size_t>(::CopyAcceleratorTableW(table, nullptr, 0)));
     ::CopyAcceleratorTableW(table, keys.data(), static_cast<int>(keys.size()));
     ASSERT_GT(keys.size(), 20U);
-    for (auto const & language : workbench::language_facts)
+    for (workbench::LanguageFacts const & language : workbench::language_facts)
     {
         m_window->ChooseLanguage(language.id);
         ASSERT_TRUE(m_window->ShowHelp(HelpTopic::keys));
-        for (auto const & key : keys)
+        for (tagACCEL const & key : keys)
         {
             CString text;
             ASSERT_NE(m_window->GetMenu()->GetMenuString(key.cmd, text, MF_BYCOMMAND), 0) << key.cmd;
-            auto const tab = text.Find(L'\t');
+            int const tab = text.Find(L'\t');
             ASSERT_GT(tab, 0) << key.cmd;
             auto const line = L'\n' + std::wstring((text.Mid(tab + 1) + L'\t').GetString());
             EXPECT_NE(Page().find(line), std::wstring::npos) << key.cmd;
@@ -128,7 +127,7 @@ TEST_F(WorkbenchHelpWindow, EveryAcceleratorIsAmongTheKeysInEveryLanguage)
 TEST_F(WorkbenchHelpWindow, ItFollowsTheLanguage)
 {
     ASSERT_TRUE(m_window->ShowHelp(HelpTopic::measures));
-    auto const english = Page();
+    std::wstring const english = Page();
     m_window->ChooseLanguage(1031);
     CString title;
     m_window->Help().GetWindowText(title);
@@ -154,7 +153,7 @@ TEST_F(WorkbenchHelpWindow, IsThereInTheSettingsAndInModalDialogs)
     {
         HWND dialog = nullptr;
         auto wasTopic = HelpTopic::count;
-        auto wasBack = false;
+        bool wasBack = false;
         tests::LaterActions later;
         later.Add(
             [&] {
@@ -188,7 +187,7 @@ TEST_F(WorkbenchHelpWindow, TheBoxTellsNameAndVersionOfTheResources)
     tests::LaterActions later;
     later.Add(
         [&] {
-            for (auto const id : {IDC_ABOUT_NAME, IDC_ABOUT_VERSION, IDC_ABOUT_PARTS})
+            for (int const id : {IDC_ABOUT_NAME, IDC_ABOUT_VERSION, IDC_ABOUT_PARTS})
             {
                 CString text;
                 CWnd::GetActiveWindow()->GetDlgItemText(id, text);

@@ -1,7 +1,5 @@
 // The workbench by real keys alone: what the mouse can do is done without it, and looked at after each step.
 
-#include "MainWindowTest.h"
-
 #include <algorithm>
 #include <functional>
 #include <numeric>
@@ -9,6 +7,7 @@
 #include <vector>
 
 #include "clipboard/Clipboard.h"
+#include "MainWindowTest.h"
 
 namespace
 {
@@ -43,7 +42,7 @@ protected:
     void InMenuOf(WORD menu, std::vector<WORD> const & keys)
     {
         tests::LaterActions later;
-        for (auto const key : keys)
+        for (unsigned short const key : keys)
         {
             later.Add([key] { tests::Key(key); }, [] { return InMenu(); });
         }
@@ -96,13 +95,13 @@ protected:
     /// Whether the thread shows a window above all others that is no tip.
     static bool ShowsDropDown()
     {
-        auto shows = false;
+        bool shows = false;
         ::EnumThreadWindows(
             ::GetCurrentThreadId(),
             [](HWND window, LPARAM to) -> BOOL {
                 wchar_t name[40] = L"";
                 ::GetClassNameW(window, name, static_cast<int>(std::size(name)));
-                auto const isAbove = (::GetWindowLongW(window, GWL_EXSTYLE) & WS_EX_TOPMOST) != 0;
+                bool const isAbove = (::GetWindowLongW(window, GWL_EXSTYLE) & WS_EX_TOPMOST) != 0;
                 auto & found = *reinterpret_cast<bool *>(to);
                 found = found || (isAbove && ::IsWindowVisible(window) && ::lstrcmpiW(name, TOOLTIPS_CLASS) != 0);
                 return TRUE;
@@ -119,7 +118,7 @@ protected:
     /// Ctrl and Alt with an arrow, whichever of both is pressed first. Gives by how much the pane has grown.
     CSize Resize(CMainWindow::Part part, WORD arrow, bool altFirst = false)
     {
-        auto const before = PaneSize(part);
+        CSize const before = PaneSize(part);
         altFirst ? tests::Key(arrow, {VK_MENU, VK_CONTROL}) : tests::Key(arrow, {VK_CONTROL, VK_MENU});
         EXPECT_TRUE(tests::PumpUntil([&] { return PaneSize(part) != before; })) << part << ' ' << arrow;
         tests::PumpPosted();
@@ -284,24 +283,24 @@ TEST_F(WorkbenchByKeys, ThePlotsAreMeasuredSelectedZoomedAndAmplified)
 TEST_F(WorkbenchByKeys, EveryPaneIsShownHiddenAndReached)
 {
     ShowFolder(1);
-    for (auto index = 0; index < CMainWindow::part_count; ++index)
+    for (int index = 0; index < CMainWindow::part_count; ++index)
     {
         auto const part = static_cast<CMainWindow::Part>(index);
         auto const key = static_cast<WORD>(L'1' + index);
-        auto const before = m_window->ShowsPane(part);
+        bool const before = m_window->ShowsPane(part);
         tests::Key(key, {VK_CONTROL});
         EXPECT_TRUE(tests::PumpUntil([&] { return m_window->ShowsPane(part) != before; })) << index;
         tests::Key(key, {VK_CONTROL});
         EXPECT_TRUE(tests::PumpUntil([&] { return m_window->ShowsPane(part) == before; })) << index;
     }
     // All of them show; one key goes through them and comes back.
-    for (auto index = 0; index < CMainWindow::part_count; ++index)
+    for (int index = 0; index < CMainWindow::part_count; ++index)
     {
         m_window->ShowPane(static_cast<CMainWindow::Part>(index), true);
     }
     List().SetFocus();
     std::vector<HWND> seen;
-    for (auto step = 0; step < CMainWindow::part_count; ++step)
+    for (int step = 0; step < CMainWindow::part_count; ++step)
     {
         auto * const before = ::GetFocus();
         seen.push_back(before);
@@ -316,12 +315,12 @@ TEST_F(WorkbenchByKeys, EveryPaneIsShownHiddenAndReached)
 TEST_F(WorkbenchByKeys, ColumnsAreHiddenAndOrderedInTheSettings)
 {
     ShowFolder(1);
-    auto const before = List().ColumnOrder();
+    std::vector<int> const before = List().ColumnOrder();
     tests::Key(VK_OEM_COMMA, {VK_CONTROL});
-    auto & sheet = m_window->SettingsSheet();
+    CSettingsSheet & sheet = m_window->SettingsSheet();
     ASSERT_TRUE(
         tests::PumpUntil([&] { return sheet.GetSafeHwnd() != nullptr && ::GetActiveWindow() == sheet.m_hWnd; }));
-    for (auto page = 0; page < 3; ++page)
+    for (int page = 0; page < 3; ++page)
     {
         tests::Key(VK_TAB, {VK_CONTROL});
         ASSERT_TRUE(tests::PumpUntil([&] { return sheet.GetActiveIndex() == page + 1; }));
@@ -334,7 +333,7 @@ TEST_F(WorkbenchByKeys, ColumnsAreHiddenAndOrderedInTheSettings)
     tests::Key(VK_UP, {VK_MENU});
     tests::Key(VK_RETURN);
     ASSERT_TRUE(tests::PumpUntil([&] { return sheet.GetSafeHwnd() == nullptr; }));
-    auto wanted = before;
+    std::vector<int> wanted = before;
     std::swap(wanted[2], wanted[3]);
     EXPECT_EQ(List().ColumnOrder(), wanted);
     EXPECT_EQ(workbench::ReadColumnOrder(), wanted);
@@ -361,17 +360,17 @@ TEST_F(WorkbenchByKeys, PanesAreMadeLargerAndSmaller)
 {
     ShowFolder(1);
     m_window->ShowFolders(true);
-    auto const list = PaneSize(CMainWindow::part_list);
+    CSize const list = PaneSize(CMainWindow::part_list);
     // Each one takes from the list and gives to it, wherever it stands.
     Plot().SetFocus();
-    auto const taller = Resize(CMainWindow::part_waveform, VK_DOWN);
+    CSize const taller = Resize(CMainWindow::part_waveform, VK_DOWN);
     EXPECT_GT(taller.cy, 0);
     EXPECT_EQ(taller.cx, 0);
     EXPECT_EQ(PaneSize(CMainWindow::part_list), list - taller);
     EXPECT_EQ(Resize(CMainWindow::part_waveform, VK_UP, true), CSize(0, -taller.cy));
     EXPECT_EQ(PaneSize(CMainWindow::part_list), list);
     m_window->Folders().SetFocus();
-    auto const wider = Resize(CMainWindow::part_folders, VK_RIGHT, true);
+    CSize const wider = Resize(CMainWindow::part_folders, VK_RIGHT, true);
     EXPECT_GT(wider.cx, 0);
     EXPECT_EQ(PaneSize(CMainWindow::part_list), list - wider);
     EXPECT_EQ(Resize(CMainWindow::part_folders, VK_LEFT), CSize(-wider.cx, 0));
@@ -379,7 +378,7 @@ TEST_F(WorkbenchByKeys, PanesAreMadeLargerAndSmaller)
     EXPECT_EQ(Resize(CMainWindow::part_list, VK_LEFT), CSize(-wider.cx, 0));
     EXPECT_EQ(Resize(CMainWindow::part_list, VK_UP), CSize(0, -taller.cy));
     // From the menu, too.
-    auto const before = PaneSize(CMainWindow::part_list);
+    CSize const before = PaneSize(CMainWindow::part_list);
     InMenuOf(L'W', {L'W'});
     ASSERT_TRUE(tests::PumpUntil([&] { return PaneSize(CMainWindow::part_list) == before + CSize(wider.cx, 0); }));
     EXPECT_EQ(::GetFocus(), List().m_hWnd);
@@ -390,8 +389,8 @@ TEST_F(WorkbenchByKeys, SizesOfPanesAreThereAfterARestart)
     ShowFolder(1);
     Plot().SetFocus();
     Resize(CMainWindow::part_waveform, VK_DOWN);
-    auto const waveform = PaneSize(CMainWindow::part_waveform);
-    auto const list = PaneSize(CMainWindow::part_list);
+    CSize const waveform = PaneSize(CMainWindow::part_waveform);
+    CSize const list = PaneSize(CMainWindow::part_list);
     CloseWindow();
     OpenWindow();
     EXPECT_EQ(PaneSize(CMainWindow::part_waveform), waveform);
@@ -401,7 +400,7 @@ TEST_F(WorkbenchByKeys, SizesOfPanesAreThereAfterARestart)
 TEST_F(WorkbenchByKeys, PanesThatFloatOrStandInTabsAreMadeLargerToo)
 {
     ShowFolder(1);
-    auto & waveform = m_window->Pane(CMainWindow::part_waveform);
+    CDockableViewPane & waveform = m_window->Pane(CMainWindow::part_waveform);
     waveform.AttachToTabWnd(&m_window->Pane(CMainWindow::part_spectrogram), DM_SHOW, TRUE);
     tests::PumpPosted();
     Plot().SetFocus();
@@ -410,7 +409,7 @@ TEST_F(WorkbenchByKeys, PanesThatFloatOrStandInTabsAreMadeLargerToo)
     tests::PumpPosted();
     Plot().SetFocus();
     ASSERT_TRUE(tests::PumpUntil([this] { return ::GetFocus() == Plot().m_hWnd; }));
-    auto const wider = Resize(CMainWindow::part_waveform, VK_RIGHT);
+    CSize const wider = Resize(CMainWindow::part_waveform, VK_RIGHT);
     EXPECT_GT(wider.cx, 0);
     EXPECT_EQ(Resize(CMainWindow::part_waveform, VK_LEFT), CSize(-wider.cx, 0));
     EXPECT_GT(Resize(CMainWindow::part_waveform, VK_DOWN, true).cy, 0);
@@ -422,8 +421,8 @@ TEST_F(WorkbenchByKeys, TheRoomForFramesIsMadeWider)
     tests::Key(L'N', {VK_CONTROL});
     ASSERT_TRUE(tests::PumpUntil([this] { return m_window->Frames().AnyOpen(); }));
     ASSERT_TRUE(tests::PumpUntil([this] { return !::IsChild(m_window->Pane(CMainWindow::part_list), ::GetFocus()); }));
-    auto const list = PaneSize(CMainWindow::part_list);
-    auto const share = m_window->Settings().frameShare;
+    CSize const list = PaneSize(CMainWindow::part_list);
+    int const share = m_window->Settings().frameShare;
     EXPECT_LT(Resize(CMainWindow::part_list, VK_RIGHT).cx, 0) << "what the frames get";
     Resize(CMainWindow::part_list, VK_LEFT);
     EXPECT_EQ(PaneSize(CMainWindow::part_list), list);

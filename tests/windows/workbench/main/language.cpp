@@ -1,14 +1,15 @@
 // The choice of a language.
 
-#include "MainWindowTest.h"
-
 #include <algorithm>
 #include <functional>
+#include <set>
+#include <string>
 #include <vector>
 
 #include "LanguageDialog.h"
-#include "RecordingCells.h"
 #include "logic/Texts.h"
+#include "MainWindowTest.h"
+#include "RecordingCells.h"
 
 namespace
 {
@@ -53,7 +54,7 @@ protected:
         {
             later.Add(step, [&] { return dialog.GetSafeHwnd() != nullptr && dialog.IsWindowVisible(); });
         }
-        auto const result = dialog.DoModal();
+        INT_PTR const result = dialog.DoModal();
         EXPECT_FALSE(later.Failed());
         return result;
     }
@@ -69,15 +70,15 @@ TEST_F(WorkbenchLanguage, TheChoiceHasTheLanguagesOfTheWorkbenchAndNoOthers)
     CLanguageDialog dialog(1031, *m_window);
     std::vector<std::wstring> items;
     std::wstring chosen;
-    auto const result = Run(dialog, {[&] {
-                                items = Items(List(dialog));
-                                chosen = TextOf(List(dialog));
-                                dialog.PostMessage(WM_COMMAND, IDCANCEL);
-                            }});
+    INT_PTR const result = Run(dialog, {[&] {
+                                   items = Items(List(dialog));
+                                   chosen = TextOf(List(dialog));
+                                   dialog.PostMessage(WM_COMMAND, IDCANCEL);
+                               }});
     EXPECT_EQ(result, IDCANCEL);
     EXPECT_EQ(items.size(), 1 + workbench::language_count);
     EXPECT_EQ(items.front(), L"(Windows)");
-    for (auto const & facts : workbench::language_facts)
+    for (workbench::LanguageFacts const & facts : workbench::language_facts)
     {
         EXPECT_NE(std::find(items.begin(), items.end(), facts.name), items.end()) << facts.id;
     }
@@ -86,34 +87,38 @@ TEST_F(WorkbenchLanguage, TheChoiceHasTheLanguagesOfTheWorkbenchAndNoOthers)
 
 TEST_F(WorkbenchLanguage, TheChoiceSpeaksThePresentLanguage)
 {
-    for (auto const & [id, title] :
-         {std::pair{1033, L"Choose Display Language"}, {1031, L"Anzeigesprache w\u00E4hlen"}, {3082, L"Elegir idioma"}})
+    std::set<std::wstring> titles;
+    for (auto const & facts : workbench::language_facts)
     {
-        workbench::UseLanguage(static_cast<unsigned short>(id));
-        CLanguageDialog dialog(static_cast<unsigned short>(id), *m_window);
+        workbench::UseLanguage(facts.id);
+        CLanguageDialog dialog(facts.id, *m_window);
         std::wstring shown;
         Run(dialog, {[&] {
                 shown = TextOf(dialog);
                 dialog.PostMessage(WM_COMMAND, IDCANCEL);
             }});
-        EXPECT_EQ(shown, title);
+        EXPECT_EQ(shown, workbench::Text(L"Choose Display Language")) << facts.id;
+        titles.insert(shown);
     }
+    EXPECT_EQ(titles.size(), workbench::language_count);
+    EXPECT_TRUE(titles.contains(L"Choose Display Language"));
+    EXPECT_TRUE(titles.contains(L"Anzeigesprache w\u00E4hlen"));
 }
 
 TEST_F(WorkbenchLanguage, ATypedNameCountsAndAWrongOneIsToldOf)
 {
     CLanguageDialog dialog(1033, *m_window);
-    auto stillOpen = false;
+    bool stillOpen = false;
     auto const type = [&](wchar_t const * text) {
         ::SendMessageW(List(dialog), CB_SETCURSEL, static_cast<WPARAM>(-1), 0);
         ::SetWindowTextW(List(dialog), text);
         dialog.SendMessage(WM_COMMAND, IDOK);
     };
-    auto const result = Run(dialog, {[&] { type(L"Klingon"); },
-                                     [&] {
-                                         stillOpen = true;
-                                         type(L"Espa\u00F1ol");
-                                     }});
+    INT_PTR const result = Run(dialog, {[&] { type(L"Klingon"); },
+                                        [&] {
+                                            stillOpen = true;
+                                            type(L"Espa\u00F1ol");
+                                        }});
     EXPECT_EQ(result, IDOK);
     EXPECT_TRUE(stillOpen);
     EXPECT_EQ(tests::App().TakeMessages(), std::vector<std::wstring>{L"Choose one of the languages in the list."});
@@ -136,27 +141,27 @@ TEST_F(WorkbenchLanguage, TypedLettersChooseTheFirstThatBeginsWithThem)
     };
     std::vector<Field> seen;
     std::vector<std::wstring> items;
-    auto const result = Run(dialog, {[&] {
-                                         items = Items(List(dialog));
-                                         tests::Type(L"d");
-                                     },
-                                     [&] {
-                                         seen.push_back(field());
-                                         tests::Type(L"e");
-                                     },
-                                     [&] {
-                                         seen.push_back(field());
-                                         tests::Key(VK_BACK);
-                                     },
-                                     [&] {
-                                         seen.push_back(field());
-                                         tests::Key(VK_HOME, {VK_SHIFT});
-                                     },
-                                     [&] { tests::Type(L"es"); },
-                                     [&] {
-                                         seen.push_back(field());
-                                         tests::Key(VK_RETURN);
-                                     }});
+    INT_PTR const result = Run(dialog, {[&] {
+                                            items = Items(List(dialog));
+                                            tests::Type(L"d");
+                                        },
+                                        [&] {
+                                            seen.push_back(field());
+                                            tests::Type(L"e");
+                                        },
+                                        [&] {
+                                            seen.push_back(field());
+                                            tests::Key(VK_BACK);
+                                        },
+                                        [&] {
+                                            seen.push_back(field());
+                                            tests::Key(VK_HOME, {VK_SHIFT});
+                                        },
+                                        [&] { tests::Type(L"es"); },
+                                        [&] {
+                                            seen.push_back(field());
+                                            tests::Key(VK_RETURN);
+                                        }});
     EXPECT_EQ(result, IDOK);
     auto const place = [&](wchar_t const * name) {
         return static_cast<int>(std::ranges::find(items, name) - items.begin());
@@ -189,14 +194,14 @@ TEST_F(WorkbenchLanguage, ReachesTheLinesInSightAtOnceAndTheOthersSoon)
 {
     m_window->ShowTargets({Folder(300)});
     ASSERT_TRUE(WaitUntilRead());
-    auto & list = m_window->List();
+    CRecordingList & list = m_window->List();
     auto const rating = [&list](int row) {
         return std::wstring(list.GetItemText(row, CRecordingList::column_rating).GetString());
     };
     ASSERT_EQ(rating(299), L"Not rated");
     m_window->ChooseLanguage(1031);
     EXPECT_EQ(rating(0), L"Nicht bewertet");
-    auto table = list.Table(CRecordingList::Lines::all, {});
+    workbench::RecordingTable table = list.Table(CRecordingList::Lines::all, {});
     while (table.Table().rows.size() < table.Rows())
     {
         table.MakeRow();
@@ -222,16 +227,16 @@ TEST_F(WorkbenchLanguage, ReachesTheWindowsThatAreOpen)
     ASSERT_TRUE(m_window->ShowDetails(0));
     ASSERT_TRUE(m_window->ShowPreview());
     ASSERT_TRUE(m_window->ShowSettings());
-    auto & sheet = m_window->SettingsSheet();
+    CSettingsSheet & sheet = m_window->SettingsSheet();
     constexpr int spectrogram_page = 2;
     sheet.SetActivePage(spectrogram_page);
-    auto & page = *sheet.GetActivePage();
-    auto const scale = page.GetDlgItem(IDC_FREQUENCY_SCALE)->m_hWnd;
+    CPropertyPage & page = *sheet.GetActivePage();
+    HWND const scale = page.GetDlgItem(IDC_FREQUENCY_SCALE)->m_hWnd;
     ::SendMessageW(scale, CB_SETCURSEL, 1, 0);
     page.SendMessage(WM_COMMAND, MAKEWPARAM(IDC_FREQUENCY_SCALE, CBN_SELCHANGE), reinterpret_cast<LPARAM>(scale));
     auto const windowMenu = [this] {
         std::vector<std::wstring> texts;
-        auto & menu = *m_window->GetMenu()->GetSubMenu(5);
+        CMenu & menu = *m_window->GetMenu()->GetSubMenu(5);
         for (UINT place = 0; place < menu.GetMenuItemCount(); ++place)
         {
             CString text;
@@ -240,7 +245,7 @@ TEST_F(WorkbenchLanguage, ReachesTheWindowsThatAreOpen)
         }
         return texts;
     };
-    auto const before = windowMenu().size();
+    std::size_t const before = windowMenu().size();
 
     m_window->ChooseLanguage(1031);
     EXPECT_EQ(TextOf(m_window->Details()), L"Einzelheiten der Aufnahme");
@@ -261,7 +266,7 @@ TEST_F(WorkbenchLanguage, ReachesTheWindowsThatAreOpen)
     sheet.GetTabControl()->GetItem(4, &tab);
     EXPECT_STREQ(text, L"Dialoge");
     EXPECT_EQ(Items(scale), (std::vector<std::wstring>{L"Linear", L"Logarithmisch"}));
-    auto const menu = windowMenu();
+    std::vector<std::wstring> const menu = windowMenu();
     EXPECT_EQ(menu.size(), before);
     EXPECT_NE(std::ranges::find(menu, L"Einstellungen"), menu.end());
     EXPECT_NE(std::ranges::find(menu, L"Einzelheiten der Aufnahme"), menu.end());

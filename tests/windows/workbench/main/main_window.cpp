@@ -1,11 +1,10 @@
 // The workbench's main window: opening folders, giving up, dialogs, and what it remembers.
 
-#include "MainWindowTest.h"
-
 #include <vector>
 
 #include "frame/RegisteredMessages.h"
 #include "logic/NotesStore.h"
+#include "MainWindowTest.h"
 
 namespace
 {
@@ -16,7 +15,7 @@ using tests::WriteRecording;
 
 bool IsAbove(HWND upper, HWND lower)
 {
-    for (auto below = upper; below != nullptr; below = ::GetWindow(below, GW_HWNDNEXT))
+    for (HWND below = upper; below != nullptr; below = ::GetWindow(below, GW_HWNDNEXT))
     {
         if (below == lower)
         {
@@ -51,13 +50,13 @@ TEST_F(WorkbenchMainWindow, CanBeToldToStopReading)
     ASSERT_TRUE(tests::PumpUntil([this] { return !m_window->IsBusy(); }));
     EXPECT_FALSE(CancelShows());
     EXPECT_EQ(m_window->List().GetItemCount(), m_window->RecordingCount());
-    auto const & totals = m_window->List().Totals();
+    workbench::RecordingTotals const & totals = m_window->List().Totals();
     EXPECT_EQ(totals.Lines(), static_cast<std::size_t>(m_window->RecordingCount()));
     if (totals.Unread() > 0)
     {
         EXPECT_NE(Status().find(std::to_wstring(totals.Unread()) + L" not read"), std::wstring::npos);
         // One that was left out can still be read.
-        auto const left = m_window->RecordingCount() - 1;
+        int const left = m_window->RecordingCount() - 1;
         ASSERT_TRUE(m_window->ChooseRecording(left));
         m_window->SendMessage(WM_COMMAND, ID_READ_AGAIN);
         ASSERT_TRUE(WaitUntilRead());
@@ -67,7 +66,7 @@ TEST_F(WorkbenchMainWindow, CanBeToldToStopReading)
 
 TEST_F(WorkbenchMainWindow, StopsReadingWhenOtherRecordingsAreOpened)
 {
-    auto const folder = Folder(200);
+    std::filesystem::path const folder = Folder(200);
     m_window->ShowTargets({folder});
     ASSERT_TRUE(tests::PumpUntil([this] { return m_window->RecordingCount() > 0; }));
     m_window->ShowTargets({folder / "r00007.wav"});
@@ -79,7 +78,7 @@ TEST_F(WorkbenchMainWindow, StopsReadingWhenOtherRecordingsAreOpened)
 
 TEST_F(WorkbenchMainWindow, TellsOfAMissingFolder)
 {
-    auto const gone = m_folder / "gone";
+    std::filesystem::path const gone = m_folder / "gone";
     m_window->ShowTargets({gone});
     ASSERT_TRUE(WaitUntilRead());
     EXPECT_TRUE(tests::PumpUntil([&] { return Status().find(gone.wstring()) != std::wstring::npos; }));
@@ -105,11 +104,11 @@ TEST_F(WorkbenchMainWindow, ReloadsWithTheSameChoiceAndMarks)
 
 TEST_F(WorkbenchMainWindow, ReloadsInTheSameOrder)
 {
-    auto const folder = Folder(20);
+    std::filesystem::path const folder = Folder(20);
     WriteRecording(folder / "r00007.wav", 48000, 2000);
     m_window->ShowTargets({folder});
     ASSERT_TRUE(WaitUntilRead());
-    auto & list = m_window->List();
+    CRecordingList & list = m_window->List();
     list.SortLines(CRecordingList::column_duration, false);
     ASSERT_EQ(list.LineAt(0), 7);
     auto const sorted = [&list] {
@@ -141,15 +140,15 @@ TEST_F(WorkbenchMainWindow, AReloadThatFindsTheSameChangesNothingToBeSeen)
 {
     m_window->ShowTargets({Folder(40)});
     ASSERT_TRUE(tests::PumpUntil([this] { return !m_window->IsBusy() && !m_window->IsComputing(); }, read_limit));
-    auto & list = m_window->List();
+    CRecordingList & list = m_window->List();
     list.SortLines(CRecordingList::column_name, false);
     ASSERT_TRUE(m_window->ChooseRecording(25));
     tests::PumpPosted();
     ASSERT_TRUE(tests::PumpUntil([this] { return !m_window->IsComputing(); }, read_limit));
     list.EnsureVisible(39, FALSE);
-    auto const top = list.GetTopIndex();
+    int const top = list.GetTopIndex();
     m_window->SendMessage(WM_COMMAND, ID_RELOAD);
-    auto same = true;
+    bool same = true;
     auto const look = [&] {
         same = same && list.GetItemCount() == 40 && list.ChosenLine() == 25 && list.GetTopIndex() == top &&
                list.LineAt(0) == 39 && list.GetItemText(0, CRecordingList::column_status) == L"OK" &&
@@ -169,10 +168,10 @@ TEST_F(WorkbenchMainWindow, AReloadThatFindsTheSameChangesNothingToBeSeen)
 
 TEST_F(WorkbenchMainWindow, AReloadShowsWhatHasBecomeOfFiles)
 {
-    auto const folder = Folder(5);
+    std::filesystem::path const folder = Folder(5);
     m_window->ShowTargets({folder});
     ASSERT_TRUE(WaitUntilRead());
-    auto & list = m_window->List();
+    CRecordingList & list = m_window->List();
     auto const status = [&list](int line) {
         return std::wstring(list.GetItemText(list.PlaceOf(line), CRecordingList::column_status).GetString());
     };
@@ -233,7 +232,7 @@ TEST_F(WorkbenchMainWindow, ADialogWhoseStoredPlaceIsBeyondTheScreenComesBackOnt
     CRect work;
     ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
     CRect place;
-    auto & details = m_window->Details();
+    CDetailsDialog & details = m_window->Details();
     details.GetWindowRect(&place);
     details.SetWindowPos(nullptr, work.right - 80, work.bottom - 60, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
     details.SendMessage(WM_CLOSE);
@@ -273,7 +272,7 @@ TEST_F(WorkbenchMainWindow, AClickIntoItLeavesItsDialogsAbove)
 {
     m_window->ShowTargets({Folder(6)});
     ASSERT_TRUE(WaitUntilRead());
-    auto & list = m_window->List();
+    CRecordingList & list = m_window->List();
     ASSERT_TRUE(m_window->ShowPreview());
     ASSERT_TRUE(m_window->ShowDetails(0));
     CRect place;
@@ -287,7 +286,7 @@ TEST_F(WorkbenchMainWindow, AClickIntoItLeavesItsDialogsAbove)
     ASSERT_TRUE(tests::PumpUntil([&] { return ::GetForegroundWindow() == m_window->Details().m_hWnd; }));
     for (int row = 1; row < 4; ++row)
     {
-        auto const cell = list.CellCentre(row, CRecordingList::column_channels);
+        CPoint const cell = list.CellCentre(row, CRecordingList::column_channels);
         tests::Click(tests::ClientPoint(list.m_hWnd, cell));
         ASSERT_TRUE(tests::PumpUntil([&] { return list.ChosenLine() == row; }));
         tests::PumpFor(300ms); // the order must not change any more
@@ -308,7 +307,7 @@ TEST_F(WorkbenchMainWindow, AClickIntoItLeavesItsDialogsAbove)
 
 TEST_F(WorkbenchMainWindow, OpensNoDetailsOfAFileThatHasTakenAnothersPlace)
 {
-    auto const folder = Folder(3);
+    std::filesystem::path const folder = Folder(3);
     m_window->ShowTargets({folder});
     ASSERT_TRUE(WaitUntilRead());
     // The click is told of later; by then the row has another recording.
@@ -325,11 +324,11 @@ TEST_F(WorkbenchMainWindow, ATitleThatIsClickedGetsRoomForItsSortMark)
 {
     m_window->ShowTargets({Folder(3)});
     ASSERT_TRUE(WaitUntilRead());
-    auto & list = m_window->List();
-    auto & header = *list.GetHeaderCtrl();
+    CRecordingList & list = m_window->List();
+    CHeaderCtrl & header = *list.GetHeaderCtrl();
     CRect title;
     header.GetItemRect(CRecordingList::column_channels, &title);
-    auto const before = list.GetColumnWidth(CRecordingList::column_channels);
+    int const before = list.GetColumnWidth(CRecordingList::column_channels);
     tests::Click(tests::ClientPoint(header.m_hWnd, title.CenterPoint()));
     EXPECT_TRUE(tests::PumpUntil([&] { return list.GetColumnWidth(CRecordingList::column_channels) > before; }));
 }
@@ -354,16 +353,16 @@ TEST_F(WorkbenchMainWindow, RemembersTheWidthOfAColumn)
 {
     m_window->ShowTargets({Folder(3)});
     ASSERT_TRUE(WaitUntilRead());
-    auto & list = m_window->List();
-    auto & header = *list.GetHeaderCtrl();
+    CRecordingList & list = m_window->List();
+    CHeaderCtrl & header = *list.GetHeaderCtrl();
     CRect title;
     header.GetItemRect(CRecordingList::column_name, &title);
-    auto const before = list.GetColumnWidth(CRecordingList::column_name);
+    int const before = list.GetColumnWidth(CRecordingList::column_name);
     CPoint const divider(title.right - 1, title.CenterPoint().y);
     tests::Drag(tests::ClientPoint(header.m_hWnd, divider), tests::ClientPoint(header.m_hWnd, divider + CPoint(57, 0)));
     EXPECT_TRUE(tests::PumpUntil([&] { return list.UserWidths().contains(CRecordingList::column_name); }));
     tests::PumpPosted();
-    auto const set = list.GetColumnWidth(CRecordingList::column_name);
+    int const set = list.GetColumnWidth(CRecordingList::column_name);
     EXPECT_NEAR(set, before + 57, 2);
     // The others share what is left.
     EXPECT_TRUE(tests::PumpUntil([&] { return FillsItsWindow(list); })) << Widths(list);
@@ -682,7 +681,7 @@ TEST_F(WorkbenchRecordingNotes, LinesAreNotSortedUnderAnEditorByResults)
     List().SortLines(CRecordingList::column_duration, false);
     WriteRecording(File(3), 48000, 3000);
     OpenComment(3);
-    auto const place = List().PlaceOf(3);
+    int const place = List().PlaceOf(3);
     TypeComment(L"long");
     // The file is read again in the background.
     m_window->PostMessage(WM_COMMAND, ID_READ_AGAIN);

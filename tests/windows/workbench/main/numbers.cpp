@@ -1,11 +1,11 @@
 // Numbers follow the user's region.
 
-#include "MainWindowTest.h"
-
 #include <string>
 
 #include "DetailsDialog.h"
 #include "logic/NumberSigns.h"
+#include "logic/Texts.h"
+#include "MainWindowTest.h"
 
 namespace
 {
@@ -69,20 +69,20 @@ TEST_F(WorkbenchNumbers, AChangeOfTheRegionCountsAtOnceInTheListTheDetailsAndThe
 
 TEST_F(WorkbenchNumbers, TheHelpHasThemInEachLanguage)
 {
-    auto const locale = ::GetThreadLocale();
+    LCID const locale = ::GetThreadLocale();
     ASSERT_TRUE(m_window->Help().Show(workbench::HelpTopic::measures));
     auto const has = [this](wchar_t const * number) {
         CString text;
         m_window->Help().GetDlgItemText(IDC_HELP_PAGE, text);
         return text.Find(number) >= 0;
     };
-    for (auto const language : {1033, 1031, 3082})
+    for (auto const & language : workbench::language_facts)
     {
-        m_window->ChooseLanguage(static_cast<unsigned short>(language));
+        m_window->ChooseLanguage(language.id);
         ChangeRegion(L",", L".");
-        EXPECT_TRUE(has(L": -0,691 + 10")) << language;
+        EXPECT_TRUE(has(L": -0,691 + 10")) << language.id;
         ChangeRegion(L".", L",");
-        EXPECT_TRUE(has(L": -0.691 + 10")) << language;
+        EXPECT_TRUE(has(L": -0.691 + 10")) << language.id;
     }
     m_window->ChooseLanguage(1033);
     ::SetThreadLocale(locale);
@@ -91,7 +91,7 @@ TEST_F(WorkbenchNumbers, TheHelpHasThemInEachLanguage)
 
 TEST_F(WorkbenchNumbers, SortingIsByTheValues)
 {
-    auto const folder = Folder(0);
+    std::filesystem::path const folder = Folder(0);
     std::filesystem::create_directories(folder);
     tests::WriteRecording(folder / "a.wav", 96000);
     tests::WriteRecording(folder / "b.wav", 8000);

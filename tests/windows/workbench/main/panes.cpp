@@ -1,7 +1,5 @@
 // The parts of the main window that are panes: where they are at first, what the user does with them, and what is kept.
 
-#include "MainWindowTest.h"
-
 #include <afxcontrolbars.h>
 
 #include <algorithm>
@@ -11,6 +9,8 @@
 #include <vector>
 
 #include "GuardedHeap.h"
+#include "logic/Texts.h"
+#include "MainWindowTest.h"
 #include "WaveformPanelView.h"
 #include "windows/StandaloneFrameWnd.h"
 
@@ -32,7 +32,7 @@ protected:
     std::array<CRect, CMainWindow::part_count> Places()
     {
         std::array<CRect, CMainWindow::part_count> places;
-        for (auto part = 0; part < CMainWindow::part_count; ++part)
+        for (int part = 0; part < CMainWindow::part_count; ++part)
         {
             // One that is hidden is nowhere.
             if (m_window->ShowsPane(static_cast<Part>(part)))
@@ -101,11 +101,12 @@ protected:
 
 TEST_F(WorkbenchPanes, AreDockedBelowTheListAtFirst)
 {
-    auto const list = PlaceOf(m_window->List());
+    CRect const list = PlaceOf(m_window->List());
     EXPECT_GE(Place(CMainWindow::part_waveform).top, list.bottom);
     EXPECT_GE(Place(CMainWindow::part_spectrogram).top, Place(CMainWindow::part_waveform).bottom);
     EXPECT_GE(Place(CMainWindow::part_measures).top, Place(CMainWindow::part_spectrogram).bottom);
-    for (auto const part : {CMainWindow::part_waveform, CMainWindow::part_spectrogram, CMainWindow::part_measures})
+    for (CMainWindow::Part const part :
+         {CMainWindow::part_waveform, CMainWindow::part_spectrogram, CMainWindow::part_measures})
     {
         EXPECT_TRUE(Pane(part).IsDocked()) << part;
         EXPECT_TRUE(m_window->ShowsPane(part)) << part;
@@ -118,13 +119,13 @@ TEST_F(WorkbenchPanes, AreDockedBelowTheListAtFirst)
 
 TEST_F(WorkbenchPanes, AreHiddenAndBroughtBackByMenuAndKeys)
 {
-    auto const list = PlaceOf(m_window->List());
-    auto const waveform = Place(CMainWindow::part_waveform);
+    CRect const list = PlaceOf(m_window->List());
+    CRect const waveform = Place(CMainWindow::part_waveform);
     tests::Key(L'2', {VK_CONTROL});
     ASSERT_TRUE(tests::PumpUntil([this] { return !m_window->ShowsPane(CMainWindow::part_waveform); }));
     EXPECT_FALSE(m_window->Waveform().IsWindowVisible());
     EXPECT_GT(PlaceOf(m_window->List()).Height(), list.Height());
-    auto const bar = m_window->GetMenu();
+    CMenu * const bar = m_window->GetMenu();
     auto const & menu = *bar->GetSubMenu(static_cast<int>(bar->GetMenuItemCount()) - 2);
     CString text;
     menu.GetMenuString(1, text, MF_BYPOSITION);
@@ -156,7 +157,7 @@ TEST_F(WorkbenchPanes, ComeBackAfterARestartAndResetTheWayTheyWere)
 {
     m_window->ShowFolders(true);
     auto const first = Places();
-    auto const list = PlaceOf(m_window->List());
+    CRect const list = PlaceOf(m_window->List());
     CRect const floating(200, 150, 700, 450);
     ASSERT_TRUE(Pane(CMainWindow::part_waveform).FloatPane(floating));
     Pane(CMainWindow::part_measures).AttachToTabWnd(&Pane(CMainWindow::part_spectrogram), DM_SHOW, TRUE);
@@ -164,7 +165,7 @@ TEST_F(WorkbenchPanes, ComeBackAfterARestartAndResetTheWayTheyWere)
     tests::PumpPosted();
     ASSERT_TRUE(IsFloating(CMainWindow::part_waveform));
     auto const placed = Places();
-    for (auto round = 0; round < 2; ++round)
+    for (int round = 0; round < 2; ++round)
     {
         Restart();
         EXPECT_TRUE(IsFloating(CMainWindow::part_waveform));
@@ -187,12 +188,12 @@ TEST_F(WorkbenchPanes, ComeBackAfterARestartAndResetTheWayTheyWere)
 
 TEST_F(WorkbenchPanes, TheMeasuresShowTheirTextsWholeInEachLanguage)
 {
-    auto const locale = ::GetThreadLocale();
-    auto & pane = Pane(CMainWindow::part_measures);
+    LCID const locale = ::GetThreadLocale();
+    CDockableViewPane & pane = Pane(CMainWindow::part_measures);
     auto const check = [&](int language, wchar_t const * where) {
-        auto * const panel = pane.View()->GetWindow(GW_CHILD);
-        auto seen = 0;
-        for (auto * child = panel->GetWindow(GW_CHILD); child != nullptr; child = child->GetWindow(GW_HWNDNEXT))
+        CWnd * const panel = pane.View()->GetWindow(GW_CHILD);
+        int seen = 0;
+        for (CWnd * child = panel->GetWindow(GW_CHILD); child != nullptr; child = child->GetWindow(GW_HWNDNEXT))
         {
             wchar_t name[20] = L"";
             ::GetClassNameW(child->m_hWnd, name, static_cast<int>(std::size(name)));
@@ -213,17 +214,17 @@ TEST_F(WorkbenchPanes, TheMeasuresShowTheirTextsWholeInEachLanguage)
         }
         EXPECT_GE(seen, 3) << language << where;
     };
-    for (auto const language : {1033, 1031, 3082})
+    for (auto const & language : workbench::language_facts)
     {
-        m_window->ChooseLanguage(static_cast<unsigned short>(language));
-        check(language, L" docked ");
+        m_window->ChooseLanguage(language.id);
+        check(language.id, L" docked ");
     }
     ASSERT_TRUE(pane.FloatPane(CRect(100, 100, 600, 220)));
     tests::PumpPosted();
-    for (auto const language : {1033, 1031, 3082})
+    for (auto const & language : workbench::language_facts)
     {
-        m_window->ChooseLanguage(static_cast<unsigned short>(language));
-        check(language, L" floating ");
+        m_window->ChooseLanguage(language.id);
+        check(language.id, L" floating ");
     }
     m_window->ChooseLanguage(1033);
     ::SetThreadLocale(locale);
@@ -233,7 +234,7 @@ TEST_F(WorkbenchPanes, TheMeasuresShowTheirTextsWholeInEachLanguage)
 TEST_F(WorkbenchPanes, AreWhereTheyWereAfterAKill)
 {
     auto const move = [&](auto const & change) {
-        auto const before = Kept();
+        std::wstring const before = Kept();
         change();
         return tests::PumpUntil([&] { return Kept() != before; });
     };
@@ -250,7 +251,7 @@ TEST_F(WorkbenchPanes, AreWhereTheyWereAfterAKill)
     EXPECT_TRUE(IsFloating(CMainWindow::part_waveform));
 
     // Nothing is written while all stays where it is.
-    auto const kept = Kept();
+    std::wstring const kept = Kept();
     tests::PumpFor(std::chrono::milliseconds(1000));
     EXPECT_EQ(Kept(), kept);
 }
@@ -286,7 +287,7 @@ TEST_F(WorkbenchPanes, AFormerFrameFloatsAtItsPlaceOnce)
 
 TEST_F(WorkbenchPanes, AreDraggedOutAndBackByTheirCaptions)
 {
-    auto const docked = Place(CMainWindow::part_spectrogram);
+    CRect const docked = Place(CMainWindow::part_spectrogram);
     CPoint const caption(docked.left + 60, docked.top + 8);
     tests::Drag(caption, CPoint(docked.left + 300, docked.top - 120));
     ASSERT_TRUE(tests::PumpUntil([this] { return IsFloating(CMainWindow::part_spectrogram); }));
@@ -304,9 +305,9 @@ TEST_F(WorkbenchPanes, TheListIsOneOfThem)
     CString title;
     Pane(CMainWindow::part_list).GetWindowText(title);
     EXPECT_EQ(title, L"Recordings");
-    auto const docked = Place(CMainWindow::part_list);
-    auto const waveform = Place(CMainWindow::part_waveform);
-    auto const spectrogram = Place(CMainWindow::part_spectrogram);
+    CRect const docked = Place(CMainWindow::part_list);
+    CRect const waveform = Place(CMainWindow::part_waveform);
+    CRect const spectrogram = Place(CMainWindow::part_spectrogram);
     // Torn off, it leaves its room to what was beside it.
     ASSERT_TRUE(Pane(CMainWindow::part_list).FloatPane(CRect(200, 150, 900, 450)));
     EXPECT_TRUE(IsFloating(CMainWindow::part_list));
@@ -344,7 +345,7 @@ TEST_F(WorkbenchPanes, TheListTakesWhatGrows)
                           Place(CMainWindow::part_measures).Height()};
     };
     CRect window = PlaceOf(*m_window);
-    auto const list = Place(CMainWindow::part_list).Height();
+    int const list = Place(CMainWindow::part_list).Height();
     auto const others = heights();
     m_window->SetWindowPos(nullptr, 0, 0, window.Width(), window.Height() + 60, SWP_NOMOVE | SWP_NOZORDER);
     EXPECT_EQ(Place(CMainWindow::part_list).Height(), list + 60);
@@ -368,7 +369,7 @@ TEST_F(WorkbenchPanes, TheListKeepsSomeRowsOnASmallerScreenAndUnderADivider)
     Restart();
     EXPECT_GE(rows(), 3) << "restarted";
     // The divider below the list, all the way up.
-    auto const list = Place(CMainWindow::part_list);
+    CRect const list = Place(CMainWindow::part_list);
     tests::Drag(CPoint(list.CenterPoint().x, list.bottom + 2), CPoint(list.CenterPoint().x, list.top - 20));
     tests::PumpPosted();
     EXPECT_GE(rows(), 3) << "divider";
@@ -381,7 +382,7 @@ TEST_F(WorkbenchPanes, FramesAndTheirMeasuresLeaveTheListItsLeastWidth)
     m_window->SetWindowPos(nullptr, 0, 0, 1024, 600, SWP_NOZORDER);
     m_window->ShowPane(CMainWindow::part_frame_measures, true);
     tests::PumpPosted();
-    auto const wide = Place(CMainWindow::part_measures).Width();
+    int const wide = Place(CMainWindow::part_measures).Width();
     ASSERT_TRUE(m_window->ShowInFrame(0));
     ASSERT_TRUE(tests::PumpUntil([&] { return Place(CMainWindow::part_measures).Width() < wide; }));
     EXPECT_GE(Place(CMainWindow::part_list).Width(), 200);
@@ -416,7 +417,7 @@ TEST_F(WorkbenchPanes, KeysGoRoundThem)
     m_window->List().SetFocus();
     auto const goesTo = [](CWnd const & window) {
         return tests::PumpUntil([&] {
-            auto const focus = ::GetFocus();
+            HWND const focus = ::GetFocus();
             return focus == window.m_hWnd || ::IsChild(window.m_hWnd, focus);
         });
     };
@@ -441,12 +442,12 @@ TEST_F(WorkbenchPanes, KeysGoRoundThem)
     std::vector<HWND> reached;
     for (int turn = 0; turn < 12; ++turn)
     {
-        auto const focus = ::GetFocus();
+        HWND const focus = ::GetFocus();
         tests::Key(VK_TAB);
         ASSERT_TRUE(tests::PumpUntil([&] { return ::GetFocus() != focus; })) << turn;
         reached.push_back(::GetFocus());
     }
-    for (auto const part :
+    for (CMainWindow::Part const part :
          {CMainWindow::part_list, CMainWindow::part_waveform, CMainWindow::part_measures, CMainWindow::part_folders})
     {
         EXPECT_TRUE(std::ranges::any_of(reached, [&](HWND window) { return ::IsChild(Pane(part).m_hWnd, window); }))
@@ -459,13 +460,13 @@ TEST_F(WorkbenchPanes, TheWaveformThatHasTheFocusIsAmplified)
     m_window->ShowTargets({Folder(2)});
     ASSERT_TRUE(WaitUntilRead());
     ASSERT_TRUE(m_window->ShowInFrame(1));
-    auto & inFrame = m_window->Frames().Frames().at(0)->Cell(0)->Waveform();
+    CWaveformView & inFrame = m_window->Frames().Frames().at(0)->Cell(0)->Waveform();
     inFrame.SetFocus();
     tests::Key(VK_ADD, {VK_CONTROL});
     ASSERT_TRUE(tests::PumpUntil([&] { return inFrame.Amplification() > 0; }));
     EXPECT_EQ(m_window->Waveform().Amplification(), 0);
     m_window->List().SetFocus();
-    auto const kept = inFrame.Amplification();
+    int const kept = inFrame.Amplification();
     tests::Key(VK_ADD, {VK_CONTROL});
     ASSERT_TRUE(tests::PumpUntil([&] { return m_window->Waveform().Amplification() > 0; }));
     EXPECT_EQ(inFrame.Amplification(), kept);
@@ -473,16 +474,16 @@ TEST_F(WorkbenchPanes, TheWaveformThatHasTheFocusIsAmplified)
 
 TEST_F(WorkbenchPanes, MeasuresAreWholeBesideFramesAndClearOfTheCaption)
 {
-    auto & panel = *m_window->GetDescendantWindow(IDC_MEASURE_PANEL);
+    CWnd & panel = *m_window->GetDescendantWindow(IDC_MEASURE_PANEL);
     auto const check = [&] {
         CRect const inside = PlaceOf(panel);
-        for (auto * child = panel.GetWindow(GW_CHILD); child != nullptr; child = child->GetWindow(GW_HWNDNEXT))
+        for (CWnd * child = panel.GetWindow(GW_CHILD); child != nullptr; child = child->GetWindow(GW_HWNDNEXT))
         {
             if (!child->IsWindowVisible())
             {
                 continue;
             }
-            auto const place = PlaceOf(*child);
+            CRect const place = PlaceOf(*child);
             EXPECT_GT(place.top, inside.top) << child->GetDlgCtrlID();
             EXPECT_LE(place.right, inside.right) << child->GetDlgCtrlID();
             EXPECT_GT(place.Width(), 20) << child->GetDlgCtrlID();
@@ -491,7 +492,7 @@ TEST_F(WorkbenchPanes, MeasuresAreWholeBesideFramesAndClearOfTheCaption)
     check();
     m_window->ShowTargets({Folder(1)});
     ASSERT_TRUE(WaitUntilRead());
-    auto const wide = PlaceOf(panel).Width();
+    int const wide = PlaceOf(panel).Width();
     ASSERT_TRUE(m_window->ShowInFrame(0));
     ASSERT_TRUE(tests::PumpUntil([&] { return PlaceOf(panel).Width() < wide; }));
     check();
@@ -509,12 +510,12 @@ TEST_F(WorkbenchPanes, ALayoutOfASmallerResolutionFitsAGreaterOne)
     ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
     auto const onScreen = [&](CWnd const & window) {
         CRect common;
-        auto const place = PlaceOf(window);
+        CRect const place = PlaceOf(window);
         return common.IntersectRect(place, work) && common == place;
     };
     EXPECT_TRUE(onScreen(*m_window));
     EXPECT_TRUE(onScreen(*Pane(CMainWindow::part_waveform).GetParent()));
-    for (auto part = 0; part < CMainWindow::part_count; ++part)
+    for (int part = 0; part < CMainWindow::part_count; ++part)
     {
         EXPECT_TRUE(!m_window->ShowsPane(static_cast<Part>(part)) || onScreen(Pane(static_cast<Part>(part)))) << part;
     }
@@ -525,7 +526,7 @@ TEST_F(WorkbenchPanes, ALayoutOfASmallerResolutionFitsAGreaterOne)
 
 TEST_F(WorkbenchPanes, FollowTheLanguageAtOnce)
 {
-    auto const locale = ::GetThreadLocale();
+    LCID const locale = ::GetThreadLocale();
     auto const item = [this](int menu, UINT place) {
         CString text;
         m_window->GetMenu()->GetSubMenu(menu)->GetMenuString(place, text, MF_BYPOSITION);
@@ -536,7 +537,7 @@ TEST_F(WorkbenchPanes, FollowTheLanguageAtOnce)
         m_window->GetMenu()->GetMenuString(place, text, MF_BYPOSITION);
         return std::wstring(text.GetString());
     };
-    auto const folder = Folder(1);
+    std::filesystem::path const folder = Folder(1);
     std::ofstream(folder / "zero.wav") << "no recording";
     m_window->ShowTargets({folder});
     ASSERT_TRUE(WaitUntilRead());
@@ -544,9 +545,9 @@ TEST_F(WorkbenchPanes, FollowTheLanguageAtOnce)
     auto const cell = [this](int line, int column) {
         return std::wstring(m_window->List().GetItemText(m_window->List().PlaceOf(line), column));
     };
-    auto const problem = cell(1, CRecordingList::column_status);
-    auto const rating = cell(0, CRecordingList::column_rating);
-    auto const count = m_window->GetMenu()->GetSubMenu(5)->GetMenuItemCount();
+    std::wstring const problem = cell(1, CRecordingList::column_status);
+    std::wstring const rating = cell(0, CRecordingList::column_rating);
+    UINT const count = m_window->GetMenu()->GetSubMenu(5)->GetMenuItemCount();
     m_window->ChooseLanguage(1031);
     EXPECT_EQ(name(0), L"&Datei");
     EXPECT_EQ(name(5), L"Fen&ster");
@@ -588,7 +589,7 @@ protected:
     {
         tests::GuardedHeap heap;
         tests::LaterActions later;
-        auto const window = m_window->m_hWnd;
+        HWND const window = m_window->m_hWnd;
         later.Add([=] { ::SendMessageW(window, WM_CLOSE, 0, 0); }, when);
         act();
         ASSERT_TRUE(tests::PumpUntil([&] { return later.Done() && !::IsWindow(window); }));
@@ -612,7 +613,7 @@ TEST_F(WorkbenchPanesClosing, WhileOneFloats)
 
 TEST_F(WorkbenchPanesClosing, WhileOneIsDragged)
 {
-    auto const docked = Place(CMainWindow::part_spectrogram);
+    CRect const docked = Place(CMainWindow::part_spectrogram);
     CPoint const caption(docked.left + 60, docked.top + 8);
     tests::MoveMouse(caption);
     CloseWithin(

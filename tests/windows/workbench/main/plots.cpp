@@ -3,27 +3,26 @@
 #include <afxcmn.h>
 #include <afxwin.h>
 
-#include "DrawingScopes.h"
-#include "Graphics.h"
-#include "PictureCopy.h"
-#include "PlotParts.h"
-#include "Playing.h"
-#include "SpectrogramView.h"
-#include "WaveformPanel.h"
-#include "WaveformView.h"
-#include "resource.h"
-
-#include "../../../logic/workbench_WavBuilder.h"
-#include "Bitmap.h"
-#include "Pump.h"
-#include "ScopedWindow.h"
-
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <fstream>
 #include <numbers>
 #include <random>
+
+#include "../../../logic/workbench_WavBuilder.h"
+#include "Bitmap.h"
+#include "DrawingScopes.h"
+#include "Graphics.h"
+#include "PictureCopy.h"
+#include "Playing.h"
+#include "PlotParts.h"
+#include "Pump.h"
+#include "resource.h"
+#include "ScopedWindow.h"
+#include "SpectrogramView.h"
+#include "WaveformPanel.h"
+#include "WaveformView.h"
 
 namespace
 {
@@ -45,7 +44,8 @@ std::filesystem::path WriteTone(std::size_t frames, char const * name)
                                                std::sin(2 * std::numbers::pi * 1000 * static_cast<double>(i) / 48000));
     }
     auto const file = wav::File().Chunk("fmt ", wav::Format(1, 1, 48000, 2, 16)).Chunk("data", wav::Samples16(samples));
-    auto path = std::filesystem::temp_directory_path() / (std::to_string(::GetCurrentProcessId()) + "_" + name);
+    std::filesystem::path path =
+        std::filesystem::temp_directory_path() / (std::to_string(::GetCurrentProcessId()) + "_" + name);
     std::ofstream stream(path, std::ios::binary);
     stream.write(reinterpret_cast<char const *>(file.Content().data()),
                  static_cast<std::streamsize>(file.Content().size()));
@@ -284,10 +284,10 @@ TEST_F(WaveformPlot, TakesTheSlidersRoomInANarrowPanel)
     CWaveformPanel panel;
     ASSERT_TRUE(panel.CreatePanel(m_host, view_id + 1, metrics));
     panel.View().ShowRecording(L"Tone", m_analysis, m_path);
-    auto const & slider = *panel.GetDlgItem(IDC_AMPLIFICATION);
+    CWnd const & slider = *panel.GetDlgItem(IDC_AMPLIFICATION);
     panel.MoveWindow(0, 0, view_width, view_height);
     EXPECT_TRUE(slider.IsWindowVisible());
-    auto narrow = metrics.X(25);
+    int narrow = metrics.X(25);
     {
         CClientDC dc(&panel);
         workbench::FontScope const font(dc, metrics.Font());
@@ -344,8 +344,10 @@ TEST_F(WaveformPlot, SingleSamplesAreSeen)
     COLORREF const trace = workbench::TraceColour({}, 0);
     auto const has = [&](int x, int top, int bottom) {
         for (int y = top; y < bottom; ++y)
+        {
             if (canvas.Pixel(x, y) == trace)
                 return true;
+        }
         return false;
     };
     int const quarter = inside.Width() / 4;
@@ -417,7 +419,7 @@ TEST_F(SpectrogramPlot, ReadsTheTonesLevel)
         m_view.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(view_width - 110, y));
         m_view.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(view_width - 110, y));
         std::wstring const reading = m_view.Reading();
-        auto const at = reading.rfind(L", ");
+        std::size_t const at = reading.rfind(L", ");
         int const level =
             at == std::wstring::npos || reading[at + 2] == L'<' ? -1000 : std::stoi(reading.substr(at + 2));
         if (level > best)
@@ -427,7 +429,7 @@ TEST_F(SpectrogramPlot, ReadsTheTonesLevel)
         }
     }
     EXPECT_GE(best, -9);
-    auto const hertz = loudest.substr(loudest.find(L", ") + 2);
+    std::wstring const hertz = loudest.substr(loudest.find(L", ") + 2);
     double const frequency =
         hertz[1] == L',' ? 1000.0 * std::stod(hertz) + std::stod(hertz.substr(2)) : std::stod(hertz);
     EXPECT_NEAR(frequency, 1000.0, 150.0) << loudest;

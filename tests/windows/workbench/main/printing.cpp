@@ -1,11 +1,11 @@
 // The page of the preview, and printing it.
 
-#include "MainWindowTest.h"
+#include "Printing.h"
 
 #include <winspool.h>
 
 #include "../../ImportPatch.h"
-#include "Printing.h"
+#include "MainWindowTest.h"
 
 namespace
 {
@@ -30,7 +30,7 @@ TEST_F(WorkbenchPrinting, APageIsDrawnInItsOwnSizeAndPlayedIntoItsPlace)
     ASSERT_TRUE(memory.CreateCompatibleDC(&screen));
     CBitmap bitmap;
     ASSERT_TRUE(bitmap.CreateCompatibleBitmap(&screen, 300, 200));
-    auto * const former = memory.SelectObject(&bitmap);
+    CBitmap * const former = memory.SelectObject(&bitmap);
     memory.FillSolidRect(CRect(0, 0, 300, 200), RGB(255, 255, 255));
     CSize drawn(0, 0);
     EXPECT_TRUE(
@@ -51,7 +51,7 @@ TEST_F(WorkbenchPrinting, APageIsDrawnInItsOwnSizeAndPlayedIntoItsPlace)
 
 TEST_F(WorkbenchPrinting, APageHasTheProportionsOfPaperWithinItsMargins)
 {
-    auto const size = workbench::PageSize();
+    CSize const size = workbench::PageSize();
     EXPECT_NEAR(static_cast<double>(size.cx) / size.cy, 273.0 / 186.0, 0.01);
     EXPECT_GT(size.cx, 800);
 }

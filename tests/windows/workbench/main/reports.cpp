@@ -1,12 +1,11 @@
 // Reports about the marked recordings.
 
-#include "MainWindowTest.h"
-
 #include <algorithm>
 #include <string>
 #include <vector>
 
 #include "logic/SafeFile.h"
+#include "MainWindowTest.h"
 
 namespace
 {
@@ -18,10 +17,10 @@ std::string Decoded(std::string_view text)
     constexpr std::string_view digits = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
     std::string bytes;
     unsigned bits = 0;
-    auto count = 0;
-    for (auto const character : text)
+    int count = 0;
+    for (char const character : text)
     {
-        auto const digit = digits.find(character);
+        std::size_t const digit = digits.find(character);
         if (digit == digits.npos)
         {
             break;
@@ -60,7 +59,7 @@ protected:
     static std::size_t Count(std::string const & page, std::string_view text)
     {
         std::size_t count = 0;
-        for (auto place = page.find(text); place != page.npos; place = page.find(text, place + 1))
+        for (std::size_t place = page.find(text); place != page.npos; place = page.find(text, place + 1))
         {
             ++count;
         }
@@ -82,7 +81,7 @@ TEST_F(WorkbenchReport, HasTheMarkedRecordingsInTheOrderOfTheList)
     ASSERT_TRUE(m_window->WriteReport(m_file));
     EXPECT_FALSE(fs::exists(m_file)) << "it is written beside the window";
     ASSERT_TRUE(WaitUntilWritten());
-    auto const page = Page();
+    std::string const page = Page();
     EXPECT_EQ(Count(page, "<section>"), 3U);
     EXPECT_LT(page.find("<h2>r00003.wav"), page.find("<h2>r00001.wav"));
     EXPECT_LT(page.find("<h2>r00001.wav"), page.find("<h2>r00000.wav"));
@@ -97,13 +96,13 @@ TEST_F(WorkbenchReport, ItsPicturesAreWhatTheViewsShow)
     ShowMarked(1, {0});
     ASSERT_TRUE(m_window->WriteReport(m_file));
     ASSERT_TRUE(WaitUntilWritten());
-    auto const page = Page();
+    std::string const page = Page();
     constexpr std::string_view begin = "data:image/png;base64,";
     std::size_t pictures = 0;
-    for (auto place = page.find(begin); place != page.npos; place = page.find(begin, place + 1))
+    for (std::size_t place = page.find(begin); place != page.npos; place = page.find(begin, place + 1))
     {
-        auto const png = Decoded(std::string_view(page).substr(place + begin.size()));
-        auto const file = m_folder / ("picture" + std::to_string(pictures++) + ".png");
+        std::string const png = Decoded(std::string_view(page).substr(place + begin.size()));
+        std::filesystem::path const file = m_folder / ("picture" + std::to_string(pictures++) + ".png");
         std::ofstream(file, std::ios::binary) << png;
         Gdiplus::Bitmap picture(file.c_str());
         ASSERT_EQ(picture.GetLastStatus(), Gdiplus::Ok);
@@ -111,7 +110,7 @@ TEST_F(WorkbenchReport, ItsPicturesAreWhatTheViewsShow)
         Gdiplus::Color pixel;
         picture.GetPixel(0, 0, &pixel);
         EXPECT_EQ(pixel.ToCOLORREF(), RGB(255, 255, 255)) << "white paper";
-        auto other = 0;
+        int other = 0;
         for (UINT i = 0; i < picture.GetWidth() * picture.GetHeight(); i += 7)
         {
             picture.GetPixel(static_cast<INT>(i % picture.GetWidth()), static_cast<INT>(i / picture.GetWidth()),
@@ -182,7 +181,7 @@ TEST_F(WorkbenchReport, SaysWhatCannotBeWritten)
     ASSERT_TRUE(m_window->WriteReport(m_file));
     ASSERT_TRUE(WaitUntilWritten());
     EXPECT_TRUE(fs::is_directory(m_file));
-    auto const messages = tests::App().TakeMessages();
+    std::vector<std::wstring> const messages = tests::App().TakeMessages();
     ASSERT_EQ(messages.size(), 1U);
     EXPECT_EQ(messages.front(),
               L"This file could not be written:\n\n" + m_file.wstring() + L": you have no permission for it");
@@ -194,7 +193,7 @@ TEST_F(WorkbenchReport, IsOfferedForMarkedRecordingsAlone)
 {
     ShowMarked(2, {1});
     auto const offered = [this] {
-        auto & file = *m_window->GetMenu()->GetSubMenu(0);
+        CMenu & file = *m_window->GetMenu()->GetSubMenu(0);
         m_window->SendMessage(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(file.m_hMenu), 0);
         return (file.GetMenuState(ID_WRITE_REPORT, MF_BYCOMMAND) & MF_GRAYED) == 0;
     };

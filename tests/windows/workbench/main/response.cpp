@@ -1,10 +1,10 @@
 // The main window answers while it does what takes long. How soon is measured by the benchmark, as times on a busy
 // machine say nothing.
 
-#include "MainWindowTest.h"
-
 #include <atomic>
 #include <thread>
+
+#include "MainWindowTest.h"
 
 namespace
 {
@@ -51,11 +51,11 @@ class ResponseWatchTest : public tests::MainWindowTest
 
 TEST_F(ResponseWatchTest, TheWindowAnswersWhileItListsAndReads)
 {
-    auto const folder = Folder(300);
+    std::filesystem::path const folder = Folder(300);
     ResponseWatch const watch(m_window->m_hWnd);
     m_window->ShowTargets({folder});
-    auto const before = watch.Answers();
-    auto answered = 0;
+    int const before = watch.Answers();
+    int answered = 0;
     EXPECT_TRUE(tests::PumpUntil(
         [&] {
             answered = m_window->IsBusy() ? watch.Answers() - before : answered;

@@ -1,12 +1,11 @@
 // What the controls of the settings show is whole in each language; the keys that a box has.
 
-#include "MainWindowTest.h"
-
 #include <algorithm>
 #include <string>
 #include <vector>
 
 #include "logic/Texts.h"
+#include "MainWindowTest.h"
 
 namespace
 {
@@ -39,7 +38,7 @@ protected:
     static std::vector<DWORD_PTR> ItemsOf(CListBox const & box)
     {
         std::vector<DWORD_PTR> items;
-        for (auto place = 0; place < box.GetCount(); ++place)
+        for (int place = 0; place < box.GetCount(); ++place)
         {
             items.push_back(box.GetItemData(place));
         }
@@ -59,15 +58,15 @@ private:
 
 TEST_F(WorkbenchSettingsFit, EachChoiceOfABoxIsShownWhole)
 {
-    for (auto const & language : workbench::language_facts)
+    for (workbench::LanguageFacts const & language : workbench::language_facts)
     {
         m_window->ChooseLanguage(language.id);
-        auto boxes = 0;
-        for (auto page = 0; page < 5; ++page)
+        int boxes = 0;
+        for (int page = 0; page < 5; ++page)
         {
             ASSERT_NO_FATAL_FAILURE(OpenSettings(page));
-            auto * const shown = Sheet().GetPage(page);
-            for (auto * child = shown->GetWindow(GW_CHILD); child != nullptr; child = child->GetWindow(GW_HWNDNEXT))
+            CPropertyPage * const shown = Sheet().GetPage(page);
+            for (CWnd * child = shown->GetWindow(GW_CHILD); child != nullptr; child = child->GetWindow(GW_HWNDNEXT))
             {
                 COMBOBOXINFO info{};
                 info.cbSize = sizeof info;
@@ -79,8 +78,8 @@ TEST_F(WorkbenchSettingsFit, EachChoiceOfABoxIsShownWhole)
                 }
                 auto & box = *static_cast<CComboBox *>(child);
                 CClientDC dc(&box);
-                auto * const former = dc.SelectObject(box.GetFont());
-                for (auto item = 0; item < box.GetCount(); ++item)
+                CFont * const former = dc.SelectObject(box.GetFont());
+                for (int item = 0; item < box.GetCount(); ++item)
                 {
                     CString text;
                     box.GetLBText(item, text);
@@ -99,11 +98,11 @@ TEST_F(WorkbenchSettingsFit, EachChoiceOfABoxIsShownWhole)
 TEST_F(WorkbenchSettingsFit, TheOrderShowsWholeColumnsClearOfWhatIsBelow)
 {
     ASSERT_NO_FATAL_FAILURE(OpenSettings(list_page));
-    auto & order = Order();
+    CListBox & order = Order();
     ASSERT_GT(order.GetCount(), 10);
     CRect inside;
     order.GetClientRect(&inside);
-    auto const height = order.GetItemHeight(0);
+    int const height = order.GetItemHeight(0);
     EXPECT_EQ(inside.Height() % height, 0) << inside.Height() << " for lines of " << height;
     EXPECT_GE(inside.Height() / height, 5);
     EXPECT_LT(PlaceOf(order).bottom, PlaceOf(*Sheet().GetPage(list_page)->GetDlgItem(IDC_CONTRAST)).top);
@@ -112,10 +111,10 @@ TEST_F(WorkbenchSettingsFit, TheOrderShowsWholeColumnsClearOfWhatIsBelow)
 TEST_F(WorkbenchSettingsFit, AltWithAnArrowMovesTheColumnAndOpensNoMenu)
 {
     ASSERT_NO_FATAL_FAILURE(OpenSettings(list_page));
-    auto & order = Order();
+    CListBox & order = Order();
     order.SetFocus();
     order.SetCurSel(2);
-    auto moved = ItemsOf(order);
+    std::vector<DWORD_PTR> moved = ItemsOf(order);
     std::swap(moved[2], moved[3]);
     tests::Key(VK_DOWN, {VK_MENU});
     ASSERT_TRUE(tests::PumpUntil([&] { return ItemsOf(order) == moved; }));

@@ -1,6 +1,6 @@
-#include <afxwin.h>
-
 #include "frame/CoreLibrary.h"
+
+#include <afxwin.h>
 
 namespace
 {

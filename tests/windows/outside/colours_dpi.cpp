@@ -1,8 +1,5 @@
 // Sets of colours, resolutions, and the table for keyboards and for programs that read the screen.
 
-#include "ControlTest.h"
-#include "OutsideTest.h"
-
 #include <oleacc.h>
 
 #include <array>
@@ -10,11 +7,13 @@
 #include <memory>
 #include <random>
 
-#include "GuardedHeap.h"
 #include "colours/ControlColors.h"
 #include "controls/IdNameMultiselectCtrl.h"
-#include "list/XListCtrl.h"
+#include "ControlTest.h"
+#include "GuardedHeap.h"
 #include "list/table/XTableCtrl.h"
+#include "list/XListCtrl.h"
+#include "OutsideTest.h"
 
 // Google Test prints them.
 static void PrintTo(ControlColorSet set, std::ostream * out)
@@ -428,11 +427,11 @@ TEST_F(OutsideColorsPaint, TheStandardSetAfterOthersIsWhatItWasToThePixel)
     m_list.SetCurSel(0, true);
     m_list.SetFocus();
     m_list.Invalidate(); // a native list may leave the first pixels of a row when its selection changes
-    auto const before = Shot(m_host);
+    std::unique_ptr<Canvas> const before = Shot(m_host);
     for (ControlColorSet const set : {ControlColorSet::dark, ControlColorSet::high_contrast})
     {
         ASSERT_TRUE(control_colors::UseFor(m_host.m_hWnd, set));
-        auto const other = Shot(m_host);
+        std::unique_ptr<Canvas> const other = Shot(m_host);
         if (set == ControlColorSet::dark)
         {
             EXPECT_FALSE(tests::SamePixels(*before, *other));
@@ -458,7 +457,7 @@ TEST_F(OutsideColorsPaint, TextsAreReadableInEveryState)
             {
                 for (int row = 0; row < 6; ++row)
                     m_list.CListCtrl::SetItemState(row, row == selected ? LVIS_SELECTED : 0, LVIS_SELECTED);
-                auto const shot = Shot(m_list);
+                std::unique_ptr<Canvas> const shot = Shot(m_list);
                 for (int row = 0; row < 5; ++row)
                 {
                     for (int col = 0; col < 3; ++col)
@@ -475,7 +474,7 @@ TEST_F(OutsideColorsPaint, TextsAreReadableInEveryState)
             }
         }
         CHeaderCtrl & header = *m_list.GetHeaderCtrl();
-        auto const shot = Shot(header);
+        std::unique_ptr<Canvas> const shot = Shot(header);
         for (int col = 0; col < 3; ++col)
         {
             CRect rect;
@@ -486,7 +485,7 @@ TEST_F(OutsideColorsPaint, TextsAreReadableInEveryState)
         for (BOOL const enabled : {TRUE, FALSE})
         {
             m_button.EnableWindow(enabled);
-            auto const button = Shot(m_button);
+            std::unique_ptr<Canvas> const button = Shot(m_button);
             CRect rect(0, 0, button->Width(), button->Height());
             rect.DeflateRect(8, 8);
             EXPECT_GE(SeenContrast(*button, rect), least) << "button " << enabled;
@@ -501,9 +500,9 @@ TEST_F(OutsideColorsPaint, AHostsOwnColoursStay)
     m_button.SetColors(CColorControl::White, CColorControl::Red);
     m_slider.Invalidate();
     m_button.Invalidate();
-    auto const slider = Shot(m_slider);
-    auto const button = Shot(m_button);
-    auto const list = Shot(m_list);
+    std::unique_ptr<Canvas> const slider = Shot(m_slider);
+    std::unique_ptr<Canvas> const button = Shot(m_button);
+    std::unique_ptr<Canvas> const list = Shot(m_list);
     CRect const cell = Cell(3, 1);
     CRect channel;
     m_slider.GetChannelRect(channel);
@@ -521,7 +520,7 @@ TEST_F(OutsideColorsPaint, AHostsOwnColoursStay)
         EXPECT_TRUE(m_list.GetItemColors(0, 0, text, ground));
         EXPECT_EQ(text, plainText);
         EXPECT_EQ(ground, plainGround);
-        auto const painted = Shot(m_list);
+        std::unique_ptr<Canvas> const painted = Shot(m_list);
         int others = 0;
         for (int y = cell.top + 1; y < cell.bottom - 1; ++y)
         {
@@ -532,14 +531,14 @@ TEST_F(OutsideColorsPaint, AHostsOwnColoursStay)
         EXPECT_EQ(GroundOf(*painted, cell), own_ground);
         CRect const blank(5, Cell(5, 0).bottom + 5, 300, Cell(5, 0).bottom + 15);
         EXPECT_EQ(GroundOf(*painted, blank), control_colors::Of(m_list.m_hWnd).window);
-        auto const level = Shot(m_slider);
+        std::unique_ptr<Canvas> const level = Shot(m_slider);
         for (int x = channel.left + 3; x < channel.right - 3; x += 5)
         {
             EXPECT_EQ(level->Pixel(x, channel.CenterPoint().y), slider->Pixel(x, channel.CenterPoint().y))
                 << "slider at " << x;
         }
         // The edges are no choice of the host's.
-        auto const pushed = Shot(m_button);
+        std::unique_ptr<Canvas> const pushed = Shot(m_button);
         int strange = 0;
         for (int y = 3; y < button->Height() - 3; ++y)
         {
@@ -566,7 +565,7 @@ TEST_F(OutsideColorsPaint, ATextOfNobodysIsReadableOnAHostsGround)
     for (ControlColorSet const set : {ControlColorSet::dark, ControlColorSet::high_contrast})
     {
         ASSERT_TRUE(control_colors::UseFor(m_host.m_hWnd, set));
-        auto const shot = Shot(m_list);
+        std::unique_ptr<Canvas> const shot = Shot(m_list);
         for (int row = 0; row < 4; ++row)
         {
             CRect rect = Cell(row, 0);
@@ -595,7 +594,7 @@ TEST_F(OutsideColorsPaint, AButtonsCaptionIsReadableOnAHostsGround)
             for (BOOL const enabled : {TRUE, FALSE})
             {
                 button.EnableWindow(enabled);
-                auto const shot = Shot(button);
+                std::unique_ptr<Canvas> const shot = Shot(button);
                 CRect rect(0, 0, shot->Width(), shot->Height());
                 rect.DeflateRect(8, 8);
                 EXPECT_EQ(GroundOf(*shot, rect), ground) << "enabled " << enabled << ", set " << static_cast<int>(set);
@@ -622,7 +621,7 @@ TEST_F(OutsideColorsPaint, AChoiceWithinAPaintSendsNoMessage)
     m_list.UpdateWindow();
     EXPECT_GE(calls, 1);
     EXPECT_EQ(sent, 0u);
-    auto const shot = Shot(m_list);
+    std::unique_ptr<Canvas> const shot = Shot(m_list);
     EXPECT_EQ(GroundOf(*shot, CRect(5, Cell(5, 0).bottom + 3, 300, Cell(5, 0).bottom + 15)),
               control_colors::Dark().window);
     EXPECT_EQ(GroundOf(*shot, Cell(0, 1)), control_colors::Dark().window) << "painted before the choice, and anew";
@@ -687,7 +686,7 @@ TEST_F(OutsideColorsDpi, OnlyResolutionsFrom48To960AreTaken)
     ASSERT_TRUE(table.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 50, 50), m_host, 10));
     ASSERT_TRUE(icon.Create(L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 50, 50), m_host, 11));
     ASSERT_TRUE(combo.Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWNLIST, CRect(0, 0, 50, 50), m_host, 12));
-    auto const before = WidthsOf(m_list);
+    widths_t const before = WidthsOf(m_list);
     int const height = RowHeight(m_list);
     ExpectLimits(m_list, "list");
     ExpectLimits(table, "table");
@@ -742,7 +741,7 @@ TEST_F(OutsideColorsDpi, AColumnThatWasSizedMeanwhileKeepsWhatItWasGiven)
 
 TEST_F(OutsideColorsDpi, RowsFollowAndAreAsBeforeAtTheEnd)
 {
-    auto const before = Shot(m_host);
+    std::unique_ptr<Canvas> const before = Shot(m_host);
     int const height = RowHeight(m_list);
     int last = height;
     CImageList * const states = m_list.CListCtrl::GetImageList(LVSIL_STATE);

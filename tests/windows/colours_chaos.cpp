@@ -1,18 +1,17 @@
 // Hosts that choose other sets whenever they are called, most of all while something is painted.
 
-#include "colors_ColorsTest.h"
-
-#include "Bitmap.h"
-#include "GuardedHeap.h"
-#include "ListTestHost.h"
-#include "Pump.h"
-#include "controls/LevelSliderCtrl.h"
-#include "list/XListCellKind.h"
-#include "table_TableTest.h"
-
 #include <map>
 #include <memory>
 #include <random>
+
+#include "Bitmap.h"
+#include "colours_ColorsTest.h"
+#include "controls/LevelSliderCtrl.h"
+#include "GuardedHeap.h"
+#include "list/XListCellKind.h"
+#include "ListTestHost.h"
+#include "Pump.h"
+#include "table_TableTest.h"
 
 namespace
 {
@@ -86,7 +85,7 @@ private:
 class ColorsChaos : public testing::TestWithParam<unsigned int>
 {
 protected:
-    colors_tests::ProcessChoice m_restored;
+    colours_tests::ProcessChoice m_restored;
 };
 } // namespace
 

@@ -3,19 +3,18 @@
 #include <afxcmn.h>
 #include <afxwin.h>
 
-#include "SpectrogramView.h"
-
-#include "../logic/workbench_WavBuilder.h"
-#include "Bitmap.h"
-#include "GdiHandleCount.h"
-#include "Pump.h"
-#include "ScopedWindow.h"
-
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <fstream>
 #include <numbers>
+
+#include "../../logic/workbench_WavBuilder.h"
+#include "Bitmap.h"
+#include "GdiHandleCount.h"
+#include "Pump.h"
+#include "ScopedWindow.h"
+#include "SpectrogramView.h"
 
 namespace
 {
@@ -36,8 +35,10 @@ int EntryOf(COLORREF colour)
 {
     auto const colours = TestColours();
     for (std::size_t i = 0; i < workbench::scale_entries; ++i)
+    {
         if (colours[i] == colour)
             return static_cast<int>(i);
+    }
     return -1;
 }
 
@@ -48,7 +49,8 @@ std::filesystem::path WriteRecording(std::size_t frames, char const * name = "ha
     for (std::size_t i = frames / 2; i < frames; ++i)
         samples[i] = static_cast<std::int16_t>(32767 * std::sin(std::numbers::pi / 4 * static_cast<double>(i)));
     auto const file = wav::File().Chunk("fmt ", wav::Format(1, 1, 48000, 2, 16)).Chunk("data", wav::Samples16(samples));
-    auto path = std::filesystem::temp_directory_path() / (std::to_string(::GetCurrentProcessId()) + "_" + name);
+    std::filesystem::path path =
+        std::filesystem::temp_directory_path() / (std::to_string(::GetCurrentProcessId()) + "_" + name);
     std::ofstream stream(path, std::ios::binary);
     stream.write(reinterpret_cast<char const *>(file.Content().data()),
                  static_cast<std::streamsize>(file.Content().size()));
@@ -237,7 +239,7 @@ TEST_F(SpectrogramView, TheProgressBarStaysInTheMiddle)
 
 TEST_F(SpectrogramView, AnotherRecordingTakesThePlaceOfTheOneBeingComputed)
 {
-    auto const longPath = WriteRecording(12'000'000, "long.wav");
+    std::filesystem::path const longPath = WriteRecording(12'000'000, "long.wav");
     m_view.ShowRecording(L"Long", longPath);
     ShowAndWait(48000);
     tests::Canvas canvas(500, 300);
@@ -370,8 +372,10 @@ TEST_F(SpectrogramView, ScalesWithTheMappingMode)
     int differentNeighbours = 0;
     int const left = (large.left + 3) / 2 * 2;
     for (int x = left; x + 1 < large.right - 2; x += 2)
+    {
         for (int y = large.top + 4; y < large.bottom - 4; ++y)
             differentNeighbours += twice.Pixel(x, y) != twice.Pixel(x + 1, y) ? 1 : 0;
+    }
     EXPECT_GT(differentNeighbours, 20);
 }
 

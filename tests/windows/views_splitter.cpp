@@ -1,6 +1,6 @@
 // Splitters on real windows.
 
-#include "frames_FramesTest.h"
+#include "views_FramesTest.h"
 
 using frames::TestView;
 

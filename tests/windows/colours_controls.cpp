@@ -1,17 +1,16 @@
 // Header, table, edit frame, slider and colour button in the sets of colours.
 
-#include "colors_ColorsTest.h"
+#include <memory>
 
 #include "Bitmap.h"
-#include "GdiHandleCount.h"
-#include "ListTestHost.h"
-#include "Pump.h"
+#include "colours_ColorsTest.h"
 #include "controls/ColorButton.h"
 #include "controls/LevelSliderCtrl.h"
+#include "GdiHandleCount.h"
 #include "list_HeaderTest.h"
+#include "ListTestHost.h"
+#include "Pump.h"
 #include "table_TableTest.h"
-
-#include <memory>
 
 namespace
 {
@@ -44,7 +43,7 @@ TEST_F(ColorsHeader, TitlesAndMarksAreTheSets)
     Add(30, XHC_CHECKED);
     Add(30, XHC_MIXED);
     Add(30, XHC_SORT_ASCENDING);
-    for (ControlColorSet const set : colors_tests::adapting_sets)
+    for (ControlColorSet const set : colours_tests::adapting_sets)
     {
         SCOPED_TRACE(testing::PrintToString(set));
         control_colors::UseFor(m_host.m_hWnd, set);
@@ -85,7 +84,7 @@ protected:
     CRect CellRect(TableRow row, int place) const
     {
         CRect rect(0, 0, 0, 0);
-        table->GetItemRect(static_cast<int>(row), &rect, LVIR_BOUNDS);
+        m_table->GetItemRect(static_cast<int>(row), &rect, LVIR_BOUNDS);
         CRect const title = TitleRect(place);
         return CRect(title.left, rect.top, title.right, rect.bottom);
     }
@@ -93,13 +92,13 @@ protected:
 
 TEST_F(ColorsTable, CellsAndTitlesAreTheSets)
 {
-    auto const before = ShotOf(*table);
-    for (ControlColorSet const set : colors_tests::adapting_sets)
+    auto const before = ShotOf(*m_table);
+    for (ControlColorSet const set : colours_tests::adapting_sets)
     {
         SCOPED_TRACE(testing::PrintToString(set));
-        control_colors::UseFor(parent.m_hWnd, set);
+        control_colors::UseFor(m_host.m_hWnd, set);
         ControlColors const colors = control_colors::Of(set);
-        auto const shot = ShotOf(*table);
+        auto const shot = ShotOf(*m_table);
         CRect const name = CellRect(1, 0);
         EXPECT_EQ(shot->Pixel(name.right - 3, name.bottom - 2), colors.window);
         EXPECT_GT(shot->Count(colors.windowText, name), 5);
@@ -111,29 +110,29 @@ TEST_F(ColorsTable, CellsAndTitlesAreTheSets)
         EXPECT_EQ(shot->Pixel(title.right - 4, title.top + 3), colors.headerFace);
         EXPECT_GT(shot->Count(colors.headerText, title), 5);
     }
-    control_colors::UseFor(parent.m_hWnd, ControlColorSet::standard);
-    EXPECT_TRUE(SamePixels(*ShotOf(*table), *before));
+    control_colors::UseFor(m_host.m_hWnd, ControlColorSet::standard);
+    EXPECT_TRUE(SamePixels(*ShotOf(*m_table), *before));
 }
 
 TEST_F(ColorsTable, SelectionsAreTheSets)
 {
-    control_colors::UseFor(parent.m_hWnd, ControlColorSet::dark);
+    control_colors::UseFor(m_host.m_hWnd, ControlColorSet::dark);
     ControlColors const colors = control_colors::Dark();
-    table->SetFocus();
+    m_table->SetFocus();
     Press(1, 1);
     CRect const name = CellRect(1, 0);
-    EXPECT_EQ(ShotOf(*table)->Pixel(name.right - 3, name.bottom - 4), colors.selection);
-    parent.SetFocus();
-    EXPECT_EQ(ShotOf(*table)->Pixel(name.right - 3, name.bottom - 4), colors.inactiveSelection);
+    EXPECT_EQ(ShotOf(*m_table)->Pixel(name.right - 3, name.bottom - 4), colors.selection);
+    m_host.SetFocus();
+    EXPECT_EQ(ShotOf(*m_table)->Pixel(name.right - 3, name.bottom - 4), colors.inactiveSelection);
 }
 
 TEST_F(ColorsTable, TextIsReadOnTheHostsGround)
 {
-    table->m_columnColours = true;
-    control_colors::UseFor(parent.m_hWnd, ControlColorSet::dark);
+    m_table->m_columnColours = true;
+    control_colors::UseFor(m_host.m_hWnd, ControlColorSet::dark);
     ControlColors const colors = control_colors::Dark();
     COLORREF const ground = tests::TestTable::Colour(0);
-    auto const shot = ShotOf(*table);
+    auto const shot = ShotOf(*m_table);
     CRect const name = CellRect(1, 0);
     EXPECT_EQ(shot->Pixel(name.right - 3, name.bottom - 2), ground);
     EXPECT_GT(shot->Count(control_colors::MarkOn(ground, colors.windowText, colors.window), name), 5);
@@ -152,7 +151,7 @@ TEST(ColorsEdit, EditOverACellIsTheSets)
     ::SendMessageW(edit, EM_SETSEL, 3, 3);
     tests::PumpPosted();
     ControlColors const colors = control_colors::Dark();
-    auto const shot = ShotOf(host.list);
+    std::unique_ptr<Canvas> const shot = ShotOf(host.list);
     CRect rect;
     ::GetWindowRect(edit, &rect);
     host.list.ScreenToClient(&rect);
@@ -189,12 +188,12 @@ TEST_F(ColorsSlider, WhatNobodyHasChosenIsTheSets)
 {
     COLORREF const face = ::GetSysColor(COLOR_BTNFACE);
     auto const before = ShotOf(m_slider);
-    for (ControlColorSet const set : colors_tests::adapting_sets)
+    for (ControlColorSet const set : colours_tests::adapting_sets)
     {
         SCOPED_TRACE(testing::PrintToString(set));
         control_colors::UseFor(m_host.m_hWnd, set);
         ControlColors const colors = control_colors::Of(set);
-        auto const shot = ShotOf(m_slider);
+        std::unique_ptr<Canvas> const shot = ShotOf(m_slider);
         EXPECT_EQ(m_slider.m_mainColor, colors.sliderMain);
         EXPECT_EQ(m_slider.m_secondColor, colors.sliderSecond);
         EXPECT_FALSE(SamePixels(*shot, *before));
@@ -227,7 +226,7 @@ TEST_F(ColorsSlider, ChangesLeaveNoHandles)
         }
     };
     change();
-    auto const before = tests::GdiHandleCount();
+    int const before = tests::GdiHandleCount();
     for (int i = 0; i < 20; ++i)
         change();
     EXPECT_EQ(tests::GdiHandleCount(), before);
@@ -252,17 +251,17 @@ protected:
 
 TEST_F(ColorsButton, ButtonIsReadable)
 {
-    auto const before = ShotOf(m_button);
+    std::unique_ptr<Canvas> const before = ShotOf(m_button);
     for (bool const framed : {true, false})
     {
         m_button.DrawFrame(framed);
         control_colors::UseFor(m_host.m_hWnd, ControlColorSet::dark);
         ControlColors const colors = control_colors::Dark();
-        auto const shot = ShotOf(m_button);
+        std::unique_ptr<Canvas> const shot = ShotOf(m_button);
         EXPECT_EQ(shot->Pixel(8, 8), colors.face);
         EXPECT_GT(shot->Count(colors.buttonText), 10);
         m_button.EnableWindow(FALSE);
-        auto const disabled = ShotOf(m_button);
+        std::unique_ptr<Canvas> const disabled = ShotOf(m_button);
         EXPECT_EQ(disabled->Pixel(8, 8), colors.face);
         EXPECT_GT(disabled->Count(colors.buttonDisabled), 10);
         m_button.EnableWindow(TRUE);
@@ -272,11 +271,31 @@ TEST_F(ColorsButton, ButtonIsReadable)
     EXPECT_TRUE(SamePixels(*ShotOf(m_button), *before));
 }
 
+TEST_F(ColorsButton, FrameWhilePointedAtIsTheSetsUnlessTheHostHasChosenIt)
+{
+    m_button.DrawFrame(false);
+    m_button.DrawFocusFrame(true);
+    m_button.SetRolloverDelay(USER_TIMER_MAXIMUM); // it stays hot, wherever the mouse is
+    m_button.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(5, 5));
+    EXPECT_EQ(ShotOf(m_button)->Pixel(0, 0), RGB(0, 255, 0));
+    for (auto const set : {ControlColorSet::dark, ControlColorSet::high_contrast})
+    {
+        control_colors::UseFor(m_host.m_hWnd, set);
+        ControlColors const colors = control_colors::Of(m_button.m_hWnd);
+        auto const shot = ShotOf(m_button);
+        EXPECT_EQ(shot->Pixel(0, 0), colors.buttonHotFrame);
+        EXPECT_EQ(shot->Pixel(width - 1, height - 1), colors.buttonHotFrame);
+        EXPECT_EQ(shot->Pixel(1, 1), colors.face) << "the ground stays";
+    }
+    m_button.SetHotFgColor(RGB(200, 0, 200));
+    EXPECT_EQ(ShotOf(m_button)->Pixel(0, 0), RGB(200, 0, 200));
+}
+
 TEST_F(ColorsButton, ColoursOfTheHostStay)
 {
     m_button.SetBgColor(yellow);
     control_colors::UseFor(m_host.m_hWnd, ControlColorSet::dark);
-    auto shot = ShotOf(m_button);
+    std::unique_ptr<Canvas> shot = ShotOf(m_button);
     EXPECT_EQ(shot->Pixel(8, 8), yellow);
     // A text that nobody has chosen is read on it.
     EXPECT_GT(shot->Count(control_colors::Dark().window), 10);

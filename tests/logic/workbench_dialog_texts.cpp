@@ -1,11 +1,11 @@
 // The texts of dialog templates.
 
-#include "logic/DialogTemplate.h"
-
 #include <gtest/gtest.h>
 
 #include <string_view>
 #include <vector>
+
+#include "logic/DialogTexts.h"
 
 namespace
 {
@@ -16,7 +16,7 @@ class Template
 public:
     Template & Words(std::initializer_list<unsigned> words)
     {
-        for (auto const word : words)
+        for (unsigned int const word : words)
         {
             m_bytes.push_back(static_cast<std::byte>(word & 0xFF));
             m_bytes.push_back(static_cast<std::byte>(word >> 8 & 0xFF));
@@ -25,7 +25,7 @@ public:
     }
     Template & Text(std::wstring_view text)
     {
-        for (auto const character : text)
+        for (wchar_t const character : text)
         {
             Words({static_cast<unsigned>(character)});
         }
@@ -54,11 +54,11 @@ private:
 
 } // namespace
 
-TEST(WorkbenchDialogTemplate, HasItsCaptionAndTheTextsOfItsControls)
+TEST(WorkbenchDialogTexts, HasItsCaptionAndTheTextsOfItsControls)
 {
     Template made;
     made.Head(0x40, 3, L"Title").Control(2, L"Cancel").Control(0xFFFF, L"&Label:", {1, 2, 3}).Control(1000, L"");
-    auto const texts = workbench::ReadDialogTexts(made.Bytes());
+    std::optional<workbench::DialogTexts> const texts = workbench::ReadDialogTexts(made.Bytes());
     ASSERT_TRUE(texts);
     EXPECT_EQ(texts->caption, L"Title");
     ASSERT_EQ(texts->controls.size(), 3U);
@@ -69,18 +69,18 @@ TEST(WorkbenchDialogTemplate, HasItsCaptionAndTheTextsOfItsControls)
     EXPECT_EQ(texts->controls[2].text, L"");
 }
 
-TEST(WorkbenchDialogTemplate, ANumberInPlaceOfATextIsNone)
+TEST(WorkbenchDialogTexts, ANumberInPlaceOfATextIsNone)
 {
     Template made;
     made.Words({1, 0xFFFF, 0, 0, 0, 0, 0, 0, 1, 0, 0, 100, 50}).Words({0xFFFF, 7}).Text(L"own class").Text(L"Title");
     made.Control(3, L"");
-    auto const texts = workbench::ReadDialogTexts(made.Bytes());
+    std::optional<workbench::DialogTexts> const texts = workbench::ReadDialogTexts(made.Bytes());
     ASSERT_TRUE(texts);
     EXPECT_EQ(texts->caption, L"Title");
     EXPECT_EQ(texts->controls.front().id, 3U);
 }
 
-TEST(WorkbenchDialogTemplate, WhatIsNoneOrCutOffGivesNothing)
+TEST(WorkbenchDialogTexts, WhatIsNoneOrCutOffGivesNothing)
 {
     EXPECT_FALSE(workbench::ReadDialogTexts({}));
     EXPECT_FALSE(workbench::ReadDialogTexts(Template().Words({0x10, 0, 1, 1}).Bytes()));

@@ -14,7 +14,7 @@ inline void PrintTo(ControlColorSet set, std::ostream * out)
     *out << names[static_cast<int>(set)];
 }
 
-namespace colors_tests
+namespace colours_tests
 {
 /// Takes the process's choice back at the end.
 class ProcessChoice
@@ -29,4 +29,4 @@ public:
 
 /// The sets that adapt.
 inline constexpr ControlColorSet adapting_sets[] = {ControlColorSet::dark, ControlColorSet::high_contrast};
-} // namespace colors_tests
+} // namespace colours_tests

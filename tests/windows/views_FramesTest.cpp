@@ -1,4 +1,4 @@
-#include "frames_FramesTest.h"
+#include "views_FramesTest.h"
 
 namespace frames
 {

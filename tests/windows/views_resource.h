@@ -1,5 +1,5 @@
 #pragma once
-// Identifiers of the resources in frames.rc.
+// Identifiers of the resources in views.rc.
 
 #define IDR_MAIN 500
 #define IDR_CHILD 501

@@ -1,11 +1,11 @@
 // Tables as plain text and as HTML.
 
-#include "logic/TableText.h"
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <random>
+
+#include "logic/TextTable.h"
 
 namespace
 {
@@ -23,7 +23,7 @@ std::wstring HtmlOf(std::wstring const & text)
     std::wstring const before =
         L"<table border=\"1\">\r\n<tr><th align=\"left\">t</th></tr>\r\n<tr><td align=\"left\">";
     std::wstring const after = L"</td></tr>\r\n</table>";
-    auto const html = HtmlTable({{{L"t", false}}, {{text}}});
+    std::wstring const html = HtmlTable({{{L"t", false}}, {{text}}});
     if (html.size() < before.size() + after.size() || html.substr(0, before.size()) != before ||
         html.substr(html.size() - after.size()) != after)
     {
@@ -111,7 +111,7 @@ TEST(HtmlTableText, IsAsciiForAnyText)
         {
             text += static_cast<wchar_t>(random() % 2 == 0 ? random() % 0x80 : random() % 0x10000);
         }
-        auto const html = HtmlOf(text);
+        std::wstring const html = HtmlOf(text);
         EXPECT_TRUE(std::ranges::all_of(html, [](wchar_t c) { return c >= L' ' && c < 0x7F; }));
         EXPECT_EQ(html.find(L"not a table"), std::wstring::npos);
     }

@@ -1,4 +1,4 @@
-#include "logic/DialogTemplate.h"
+#include "logic/DialogTexts.h"
 
 #include <utility>
 
@@ -42,7 +42,7 @@ public:
     /// A text, or nothing where a number stands.
     std::wstring Text()
     {
-        auto character = Word();
+        std::uint16_t character = Word();
         if (character == ordinal_mark)
         {
             Word();
@@ -72,8 +72,8 @@ std::optional<DialogTexts> ReadDialogTexts(std::span<std::byte const> bytes)
         return std::nullopt;
     }
     reader.Skip(8); // help, extended style
-    auto const style = reader.DoubleWord();
-    auto const count = reader.Word();
+    std::uint32_t const style = reader.DoubleWord();
+    std::uint16_t const count = reader.Word();
     reader.Skip(8); // place
     reader.Text();  // menu
     reader.Text();  // class

@@ -1,7 +1,6 @@
 // Who is painted in which set, and who hears of it.
 
-#include "colors_ColorsTest.h"
-
+#include "colours_ColorsTest.h"
 #include "ImportPatch.h"
 #include "ListTestHost.h"
 #include "Pump.h"
@@ -9,7 +8,7 @@
 
 namespace
 {
-using colors_tests::ProcessChoice;
+using colours_tests::ProcessChoice;
 
 constexpr ControlColorSet standard = ControlColorSet::standard;
 constexpr ControlColorSet dark = ControlColorSet::dark;

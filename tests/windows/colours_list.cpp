@@ -1,13 +1,12 @@
 // The report list and its cells in the sets of colours.
 
-#include "colors_ColorsTest.h"
-
-#include "Bitmap.h"
-#include "Pump.h"
-#include "list_PaintTest.h"
-
 #include <functional>
 #include <memory>
+
+#include "Bitmap.h"
+#include "colours_ColorsTest.h"
+#include "list_PaintTest.h"
+#include "Pump.h"
 
 namespace
 {
@@ -30,7 +29,7 @@ protected:
     /// Calls the check for every set that adapts, with its colours.
     void InEachSet(std::function<void(ControlColors const &)> const & check)
     {
-        for (ControlColorSet const set : colors_tests::adapting_sets)
+        for (ControlColorSet const set : colours_tests::adapting_sets)
         {
             SCOPED_TRACE(testing::PrintToString(set));
             Choose(set);
@@ -235,7 +234,7 @@ TEST_F(ColorsList, WashIsWhatTheHostHasChosenItFor)
     m_list.SetItemText(1, 1, L"HH");
     m_list.SetItemColors(1, 1, 0, RGB(255, 255, 255), RGB(200, 220, 255));
     Paint(1, 1);
-    auto const before = Copy(Cell(1, 1));
+    std::unique_ptr<tests::Canvas> const before = Copy(Cell(1, 1));
     InEachSet([&, this](ControlColors const &) {
         Paint(1, 1);
         EXPECT_TRUE(SamePixels(*Copy(Cell(1, 1)), *before));
@@ -271,12 +270,14 @@ TEST_F(ColorsList, BackInTheStandardSetNothingIsLeft)
     auto const paintAll = [this] {
         m_canvas.Fill(untouched);
         for (int row = 0; row < 4; ++row)
+        {
             for (int col = 0; col < 3; ++col)
                 PaintOver(row, col);
+        }
         return Copy(CRect(0, 0, m_canvas.Width(), m_canvas.Height()));
     };
     auto const before = paintAll();
-    for (ControlColorSet const set : colors_tests::adapting_sets)
+    for (ControlColorSet const set : colours_tests::adapting_sets)
         Choose(set);
     EXPECT_FALSE(SamePixels(*paintAll(), *before));
     Choose(ControlColorSet::standard);

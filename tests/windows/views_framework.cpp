@@ -1,8 +1,8 @@
 // The framework's frames, documents and templates on real windows.
 
-#include "frames_FramesTest.h"
-
 #include <afxadv.h>
+
+#include "views_FramesTest.h"
 
 using frames::g_log;
 using frames::TestChild;

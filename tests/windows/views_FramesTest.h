@@ -1,9 +1,9 @@
 #pragma once
 // What the tests of frames share: a main frame, documents, views.
 
-#include <afxwin.h>
 #include <afxcontrolbars.h>
 #include <afxext.h>
+#include <afxwin.h>
 
 #include <gtest/gtest.h>
 
@@ -14,7 +14,7 @@
 #include "MemoryPreferenceStore.h"
 #include "Pump.h"
 #include "TestApp.h"
-#include "frames_resource.h"
+#include "views_resource.h"
 #include "windows/FensterManager.h"
 
 namespace frames

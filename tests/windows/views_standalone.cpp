@@ -1,12 +1,11 @@
 // Stand-alone frames on real windows.
 
-#include "frames_FramesTest.h"
+#include <memory>
 
 #include "MessageRecorder.h"
+#include "views_FramesTest.h"
 #include "windows/StandaloneFrameUser.h"
 #include "windows/StandaloneFrameWnd.h"
-
-#include <memory>
 
 using frames::g_log;
 using frames::TestView;

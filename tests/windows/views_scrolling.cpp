@@ -1,8 +1,8 @@
 // Views that scroll, and views that are a control or a dialog template.
 
-#include "frames_FramesTest.h"
-
 #include <afxcview.h>
+
+#include "views_FramesTest.h"
 
 namespace
 {

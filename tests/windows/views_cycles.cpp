@@ -1,10 +1,9 @@
 // Frames and documents that are opened and closed many times leave nothing behind.
 
-#include "frames_FramesTest.h"
-
 #include "GdiHandleCount.h"
 #include "GuardedHeap.h"
 #include "ThreadWindows.h"
+#include "views_FramesTest.h"
 #include "windows/StandaloneFrameUser.h"
 #include "windows/StandaloneFrameWnd.h"
 

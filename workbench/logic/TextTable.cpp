@@ -1,4 +1,4 @@
-#include "TableText.h"
+#include "logic/TextTable.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -82,7 +82,7 @@ void AppendHtml(std::wstring & html, std::wstring_view text)
 {
     for (std::size_t place = 0; place < text.size();)
     {
-        auto const begin = place;
+        std::size_t const begin = place;
         while (place < text.size() && IsPlainHtml(text[place]))
         {
             ++place;
@@ -92,7 +92,7 @@ void AppendHtml(std::wstring & html, std::wstring_view text)
         {
             return;
         }
-        auto const character = NextCharacter(text, place);
+        char32_t const character = NextCharacter(text, place);
         switch (character)
         {
         case U'&':
@@ -140,7 +140,7 @@ void AppendCell(std::wstring & html, std::wstring_view tag, TextTable::Column co
 
 void AppendPlain(std::wstring & plain, std::wstring_view text)
 {
-    for (auto const c : text)
+    for (wchar_t const c : text)
     {
         plain += c == L'\t' || c == L'\r' || c == L'\n' ? L' ' : c;
     }
@@ -165,7 +165,7 @@ std::wstring PlainTable(TextTable const & table)
         plain += row_end;
     };
     appendLine(table.columns, [](TextTable::Column const & column) -> std::wstring const & { return column.title; });
-    for (auto const & row : table.rows)
+    for (std::vector<std::wstring> const & row : table.rows)
     {
         appendLine(row, [](std::wstring const & text) -> std::wstring const & { return text; });
     }
@@ -183,7 +183,7 @@ std::wstring CsvTable(TextTable const & table)
             return;
         }
         csv += L'"';
-        for (auto const character : text)
+        for (wchar_t const character : text)
         {
             csv.append(character == L'"' ? 2 : 1, character);
         }
@@ -194,7 +194,7 @@ std::wstring CsvTable(TextTable const & table)
         append(table.columns[i].title, i == 0);
     }
     csv += row_end;
-    for (auto const & row : table.rows)
+    for (std::vector<std::wstring> const & row : table.rows)
     {
         for (std::size_t i = 0; i < table.columns.size(); ++i)
         {
@@ -208,14 +208,14 @@ std::wstring CsvTable(TextTable const & table)
 
 std::wstring HtmlTable(TextTable const & table, HtmlUse use)
 {
-    auto const inParts = use == HtmlUse::own_page; // a title that printers repeat on each page
+    bool const inParts = use == HtmlUse::own_page; // a title that printers repeat on each page
     std::wstring html = inParts ? L"<table>\r\n<thead>\r\n<tr>" : L"<table border=\"1\">\r\n<tr>";
-    for (auto const & column : table.columns)
+    for (TextTable::Column const & column : table.columns)
     {
         AppendCell(html, L"th", column, column.title, use);
     }
     html += inParts ? L"</tr>\r\n</thead>\r\n<tbody>\r\n" : L"</tr>\r\n";
-    for (auto const & row : table.rows)
+    for (std::vector<std::wstring> const & row : table.rows)
     {
         html += L"<tr>";
         for (std::size_t i = 0; i < row.size() && i < table.columns.size(); ++i)
@@ -239,7 +239,7 @@ std::wstring HtmlValue(std::wstring_view text)
     std::wstring inOneLine(text);
     std::ranges::replace(inOneLine, L'\n', L' ');
     std::wstring value = L"\"";
-    for (auto const character : HtmlText(inOneLine))
+    for (wchar_t const character : HtmlText(inOneLine))
     {
         value += character == L'"' ? std::wstring(L"&quot;") : std::wstring(1, character);
     }
@@ -249,24 +249,24 @@ std::wstring HtmlValue(std::wstring_view text)
 std::string TableFile(TextTable const & table, std::filesystem::path const & file)
 {
     auto extension = file.extension().wstring();
-    for (auto & character : extension)
+    for (wchar_t & character : extension)
     {
         character = character >= L'A' && character <= L'Z' ? static_cast<wchar_t>(character | 0x20) : character;
     }
     if (extension == L".html" || extension == L".htm")
     {
         std::string page = "<!DOCTYPE html>\r\n<html><head><meta charset=\"utf-8\"></head><body>\r\n";
-        for (auto const character : HtmlTable(table))
+        for (wchar_t const character : HtmlTable(table))
         {
             page += static_cast<char>(character); // plain ASCII
         }
         return page + "\r\n</body></html>\r\n";
     }
-    auto const wide = extension == L".csv" ? CsvTable(table) : PlainTable(table);
+    std::wstring const wide = extension == L".csv" ? CsvTable(table) : PlainTable(table);
     std::string text = utf8_mark;
     for (std::size_t place = 0; place < wide.size();)
     {
-        auto const character = NextCharacter(wide, place);
+        char32_t const character = NextCharacter(wide, place);
         AppendUtf8(text, character != 0 ? character : U'?');
     }
     return text;
