@@ -163,7 +163,7 @@ protected:
     }
 
 private:
-    static constexpr INT_PTR MinimumGrowth = 4;
+    static constexpr INT_PTR least_growth = 4;
 
     // Moves the bytes of elements to places that hold none, which may overlap with their old ones. No constructor or
     // assignment runs.
@@ -194,7 +194,7 @@ private:
         if (needed <= m_capacity)
             return;
         INT_PTR const half = m_size / 2;
-        INT_PTR const growth = m_growBy > 0 ? m_growBy : half < MinimumGrowth ? MinimumGrowth : half;
+        INT_PTR const growth = m_growBy > 0 ? m_growBy : half < least_growth ? least_growth : half;
         INT_PTR const least = m_data == nullptr ? m_growBy : m_capacity + growth;
         Reallocate(needed > least ? needed : least);
     }

@@ -16,30 +16,30 @@ namespace framework
 {
 enum class DockSide : std::uint8_t
 {
-    Left,
-    Top,
-    Right,
-    Bottom
+    left,
+    top,
+    right,
+    bottom
 };
 
 enum class DockPlace : std::uint8_t
 {
-    None,     // it has not been placed yet
-    Docked,   // in the frame
-    Floating, // in a floating frame
-    Folded    // in the strip at a side of the frame
+    none,     // it has not been placed yet
+    docked,   // in the frame
+    floating, // in a floating frame
+    folded    // in the strip at a side of the frame
 };
 
 /// A pane as the layout knows it.
 struct DockPane
 {
-    DockPlace place = DockPlace::None;
+    DockPlace place = DockPlace::none;
     bool visible = true;
     bool present = true; // it has a window; a stored pane may still wait for its own
     CSize minSize{0, 0};
     CSize size{200, 150};        // of its place when it was docked last
     CRect floatRect{0, 0, 0, 0}; // of its frame when it floated last
-    DockSide foldSide = DockSide::Left;
+    DockSide foldSide = DockSide::left;
 };
 
 /// A part of the space: some panes that share a place by tabs, the centre, or parts beside or above each other.
@@ -47,12 +47,12 @@ struct DockNode
 {
     enum class Kind : std::uint8_t
     {
-        Tabs,
-        Split,
-        Centre
+        tabs,
+        split,
+        centre
     };
 
-    Kind kind = Kind::Tabs;
+    Kind kind = Kind::tabs;
     bool across = false; // of a split: its parts are beside each other, not above
     UINT id = 0;         // unique in its layout; not stored
     int extent = 0;      // wanted along the split that it is in

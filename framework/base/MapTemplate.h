@@ -103,7 +103,7 @@ public:
     void PrepareToLoad(DWORD_PTR count)
     {
         constexpr DWORD_PTR most = 1U << 24;
-        if (m_count == 0 && m_hashSize == DefaultHashSize && count > DefaultHashSize)
+        if (m_count == 0 && m_hashSize == default_hash_size && count > default_hash_size)
             InitHashTable(static_cast<UINT>(count < most ? count : most) | 1U, FALSE);
     }
 
@@ -122,7 +122,7 @@ protected:
     MapStorage() = default;
 
 private:
-    static constexpr UINT DefaultHashSize = 17;
+    static constexpr UINT default_hash_size = 17;
 
     struct Node
     {
@@ -181,7 +181,7 @@ private:
     Node * Following(Node * node) const { return node->next != nullptr ? node->next : FirstFrom(node->bucket + 1); }
 
     Node ** m_buckets = nullptr;
-    UINT m_hashSize = DefaultHashSize;
+    UINT m_hashSize = default_hash_size;
     INT_PTR m_count = 0;
 };
 

@@ -287,6 +287,7 @@ private:
 extern FRAMEWORK_API CDumpContext afxDump;
 
 #if defined(_WIN32)
+/// The module to load one string of the string tables from, as AfxFindResourceHandle; null if no module has it.
 FRAMEWORK_API HINSTANCE AFXAPI AfxFindStringResourceHandle(UINT nID);
 FRAMEWORK_API int AFXAPI AfxMessageBox(LPCTSTR lpszText, UINT nType = MB_OK, UINT nIDHelp = 0);
 FRAMEWORK_API int AFXAPI AfxMessageBox(UINT nIDPrompt, UINT nType = MB_OK, UINT nIDHelp = static_cast<UINT>(-1));

@@ -175,7 +175,7 @@ public:
     void AppendChar(XCHAR ch)
     {
         int const oldLength = GetLength();
-        if (oldLength == MaxLength)
+        if (oldLength == max_length)
             AtlThrow(E_OUTOFMEMORY);
         PrepareWrite(oldLength + 1);
         m_pszData[oldLength] = ch;
@@ -325,7 +325,7 @@ public:
     }
 
 private:
-    static constexpr int MaxLength = 0x7ffffff0 / static_cast<int>(sizeof(XCHAR));
+    static constexpr int max_length = 0x7ffffff0 / static_cast<int>(sizeof(XCHAR));
 
     // Remembers where in the string's own buffer a source lies, since writing may move the buffer.
     class Keep
@@ -379,7 +379,7 @@ private:
     {
         if (length < 0)
             AtlThrow(E_INVALIDARG);
-        if (length > MaxLength)
+        if (length > max_length)
             AtlThrow(E_OUTOFMEMORY);
         CStringData * const old = Data();
         int const needed = length > old->nDataLength ? length : old->nDataLength;
@@ -398,7 +398,7 @@ private:
             if (old->IsLocked())
                 AtlThrow(E_INVALIDARG);
             int const half = old->nAllocLength / 2;
-            int const grown = half > MaxLength - old->nAllocLength ? MaxLength : old->nAllocLength + half;
+            int const grown = half > max_length - old->nAllocLength ? max_length : old->nAllocLength + half;
             CStringData * const larger =
                 old->pStringMgr->Reallocate(old, grown > needed ? grown : needed, sizeof(XCHAR));
             if (larger == nullptr)
@@ -418,7 +418,7 @@ private:
         if (length == 0)
             return;
         int const oldLength = GetLength();
-        if (length > MaxLength - oldLength)
+        if (length > max_length - oldLength)
             AtlThrow(E_OUTOFMEMORY);
         Keep const own(*this, source);
         PrepareWrite(oldLength + length);

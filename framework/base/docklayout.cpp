@@ -14,12 +14,12 @@ constexpr int unknown_extent = 100; // of what has never been laid out
 
 bool IsAcross(DockSide side)
 {
-    return side == DockSide::Left || side == DockSide::Right;
+    return side == DockSide::left || side == DockSide::right;
 }
 
 bool IsBefore(DockSide side)
 {
-    return side == DockSide::Left || side == DockSide::Top;
+    return side == DockSide::left || side == DockSide::top;
 }
 
 int Along(CSize size, bool across)
@@ -58,7 +58,7 @@ DockNode * FindNode(DockNode & node, UINT id)
 
 DockNode const * FindCentre(DockNode const & node)
 {
-    if (node.kind == DockNode::Kind::Centre)
+    if (node.kind == DockNode::Kind::centre)
         return &node;
     for (DockNode const & child : node.children)
     {
@@ -71,9 +71,9 @@ DockNode const * FindCentre(DockNode const & node)
 /// Takes panes out, then what is empty. False if nothing is left.
 bool Prune(DockNode & node, std::vector<UINT> const & panes)
 {
-    if (node.kind == DockNode::Kind::Centre)
+    if (node.kind == DockNode::Kind::centre)
         return true;
-    if (node.kind == DockNode::Kind::Tabs)
+    if (node.kind == DockNode::Kind::tabs)
     {
         std::erase_if(node.panes, [&](UINT pane) { return Contains(panes, pane); });
         if (node.panes.empty())
@@ -105,7 +105,7 @@ void Normalise(DockNode & node)
     std::vector<DockNode> children;
     for (DockNode & child : node.children)
     {
-        if (child.kind != DockNode::Kind::Split || child.across != node.across)
+        if (child.kind != DockNode::Kind::split || child.across != node.across)
         {
             children.push_back(std::move(child));
             continue;
@@ -122,7 +122,7 @@ void Normalise(DockNode & node)
         }
     }
     node.children = std::move(children);
-    if (node.kind == DockNode::Kind::Split && node.children.size() == 1)
+    if (node.kind == DockNode::Kind::split && node.children.size() == 1)
     {
         DockNode only = std::move(node.children.front());
         only.extent = node.extent;
@@ -257,16 +257,16 @@ bool FindSide(DockNode const & node, UINT pane, DockSide & side)
     if (own == centre)
         return FindSide(node.children[static_cast<size_t>(own)], pane, side);
     if (node.across)
-        side = own < centre ? DockSide::Left : DockSide::Right;
+        side = own < centre ? DockSide::left : DockSide::right;
     else
-        side = own < centre ? DockSide::Top : DockSide::Bottom;
+        side = own < centre ? DockSide::top : DockSide::bottom;
     return true;
 }
 } // namespace
 
 DockLayout::DockLayout()
 {
-    m_root.kind = DockNode::Kind::Centre;
+    m_root.kind = DockNode::Kind::centre;
     m_root.id = NewId();
 }
 
@@ -359,7 +359,7 @@ DockLayout::Frame const * DockLayout::FindFrame(UINT frame) const
 UINT DockLayout::FrameOf(UINT pane) const
 {
     DockPane const * const known = Find(pane);
-    if (known == nullptr || known->place != DockPlace::Floating)
+    if (known == nullptr || known->place != DockPlace::floating)
         return 0;
     for (Frame const & frame : m_frames)
     {
@@ -384,7 +384,7 @@ std::vector<UINT> DockLayout::Folded(DockSide side) const
 DockNode const * DockLayout::GroupOf(UINT pane) const
 {
     DockPane const * const known = Find(pane);
-    return known != nullptr && known->place != DockPlace::None ? GroupWith(pane, known->place == DockPlace::Floating)
+    return known != nullptr && known->place != DockPlace::none ? GroupWith(pane, known->place == DockPlace::floating)
                                                                : nullptr;
 }
 
@@ -416,12 +416,12 @@ std::vector<UINT> DockLayout::ShownIn(UINT frame) const
 bool DockLayout::IsShown(UINT pane) const
 {
     DockPane const * const known = Find(pane);
-    return known != nullptr && known->place != DockPlace::None && known->visible && known->present;
+    return known != nullptr && known->place != DockPlace::none && known->visible && known->present;
 }
 
 bool DockLayout::IsActiveIn(UINT pane, bool floating) const
 {
-    return IsShown(pane) && Find(pane)->place == (floating ? DockPlace::Floating : DockPlace::Docked);
+    return IsShown(pane) && Find(pane)->place == (floating ? DockPlace::floating : DockPlace::docked);
 }
 
 bool DockLayout::HasDockedPlace(UINT pane) const
@@ -436,7 +436,7 @@ bool DockLayout::HasFloatingPlace(UINT pane) const
 
 DockSide DockLayout::SideOf(UINT pane) const
 {
-    DockSide side = DockSide::Left;
+    DockSide side = DockSide::left;
     FindSide(m_root, pane, side);
     return side;
 }
@@ -512,7 +512,7 @@ bool DockLayout::InsertBeside(DockNode & place, UINT beside, DockSide side, Dock
 {
     bool const across = IsAcross(side);
     bool const before = IsBefore(side);
-    bool const along = place.kind == DockNode::Kind::Split && place.across == across;
+    bool const along = place.kind == DockNode::Kind::split && place.across == across;
     if (place.id == beside)
     {
         if (along)
@@ -524,7 +524,7 @@ bool DockLayout::InsertBeside(DockNode & place, UINT beside, DockSide side, Dock
         }
         int const length = Along(place.arranged, across);
         DockNode split;
-        split.kind = DockNode::Kind::Split;
+        split.kind = DockNode::Kind::split;
         split.across = across;
         split.id = NewId();
         split.extent = place.extent;
@@ -575,16 +575,16 @@ bool DockLayout::DockAtSide(DockContent const & content, DockSide side, bool out
     UINT const beside = outer ? m_root.id : FindCentre(m_root)->id;
     InsertBeside(m_root, beside, side, *node, extent);
     Normalise(m_root);
-    Settle(panes, DockPlace::Docked);
+    Settle(panes, DockPlace::docked);
     return true;
 }
 
 bool DockLayout::DockBeside(DockContent const & content, UINT target, DockSide side, int extent)
 {
     DockPane const * const known = Find(target);
-    if (known == nullptr || known->place == DockPlace::None)
+    if (known == nullptr || known->place == DockPlace::none)
         return false;
-    bool const floating = known->place == DockPlace::Floating;
+    bool const floating = known->place == DockPlace::floating;
     std::vector<UINT> panes;
     std::optional<DockNode> node = Take(content, panes);
     if (!node || Contains(panes, target) || GroupWith(target, floating) == nullptr)
@@ -613,17 +613,17 @@ bool DockLayout::DockBeside(DockContent const & content, UINT target, DockSide s
             }
         }
     }
-    Settle(panes, floating ? DockPlace::Floating : DockPlace::Docked);
+    Settle(panes, floating ? DockPlace::floating : DockPlace::docked);
     return true;
 }
 
 bool DockLayout::DockAsTab(DockContent const & content, UINT target, int index)
 {
     DockPane const * const known = Find(target);
-    if (known == nullptr || known->place == DockPlace::None)
+    if (known == nullptr || known->place == DockPlace::none)
         return false;
     DockPlace const place = known->place;
-    bool const floating = place == DockPlace::Floating;
+    bool const floating = place == DockPlace::floating;
     std::vector<UINT> panes;
     if (!Take(content, panes) || Contains(panes, target) || GroupWith(target, floating) == nullptr)
         return false;
@@ -650,7 +650,7 @@ bool DockLayout::DockAsTab(DockContent const & content, UINT target, int index)
     group.active = panes.front();
     DockSide const side = known->foldSide;
     Settle(panes, place);
-    if (place == DockPlace::Folded)
+    if (place == DockPlace::folded)
     {
         for (UINT const pane : panes)
         {
@@ -684,7 +684,7 @@ bool DockLayout::Float(DockContent const & content, CRect const & rect)
     }
     DropFloating(panes);
     m_frames.push_back(Frame{NewId(), rect, std::move(node)});
-    Settle(panes, DockPlace::Floating);
+    Settle(panes, DockPlace::floating);
     return true;
 }
 
@@ -694,7 +694,7 @@ bool DockLayout::DockBack(DockContent const & content)
     if (!Take(content, panes) ||
         !std::all_of(panes.begin(), panes.end(), [&](UINT pane) { return HasDockedPlace(pane); }))
         return false;
-    Settle(panes, DockPlace::Docked);
+    Settle(panes, DockPlace::docked);
     GroupWith(panes.front(), false)->active = panes.front();
     return true;
 }
@@ -711,7 +711,7 @@ bool DockLayout::FloatBack(DockContent const & content)
     });
     if (together)
     {
-        Settle(panes, DockPlace::Floating);
+        Settle(panes, DockPlace::floating);
         GroupWith(panes.front(), true)->active = panes.front();
         return true;
     }
@@ -731,8 +731,8 @@ bool DockLayout::Show(UINT pane, bool show)
 bool DockLayout::Activate(UINT pane)
 {
     DockPane const * const known = Find(pane);
-    DockNode * const group = known != nullptr && known->place != DockPlace::None
-                                 ? GroupWith(pane, known->place == DockPlace::Floating)
+    DockNode * const group = known != nullptr && known->place != DockPlace::none
+                                 ? GroupWith(pane, known->place == DockPlace::floating)
                                  : nullptr;
     if (group == nullptr)
         return false;
@@ -744,7 +744,7 @@ bool DockLayout::Fold(UINT pane, bool fold, std::optional<DockSide> side)
 {
     DockPane const * const known = Find(pane);
     DockNode * const group = GroupWith(pane, false);
-    DockPlace const from = fold ? DockPlace::Docked : DockPlace::Folded;
+    DockPlace const from = fold ? DockPlace::docked : DockPlace::folded;
     if (known == nullptr || group == nullptr || known->place != from)
         return false;
     DockSide const to = side.value_or(SideOf(pane));
@@ -755,11 +755,11 @@ bool DockLayout::Fold(UINT pane, bool fold, std::optional<DockSide> side)
             continue;
         if (!fold)
         {
-            one.place = DockPlace::Docked;
+            one.place = DockPlace::docked;
             std::erase(m_folded, other);
             continue;
         }
-        one.place = DockPlace::Folded;
+        one.place = DockPlace::folded;
         one.foldSide = to;
         if (group->arranged.cx > 0 && group->arranged.cy > 0)
             one.size = group->arranged;
@@ -789,7 +789,7 @@ void DockLayout::Measure(DockNode & node, bool floating)
     node.shown = false;
     node.hasCentre = false;
     node.stretched = false;
-    if (node.kind == DockNode::Kind::Centre)
+    if (node.kind == DockNode::Kind::centre)
     {
         node.shown = metrics.centreShown;
         node.hasCentre = true;
@@ -835,12 +835,12 @@ void DockLayout::Measure(DockNode & node, bool floating)
 void DockLayout::Place(DockNode & node, CRect const & rect, DockPlan & plan, bool floating)
 {
     node.arranged = rect.Size();
-    if (node.kind == DockNode::Kind::Centre)
+    if (node.kind == DockNode::Kind::centre)
     {
         plan.centre = rect;
         return;
     }
-    if (node.kind == DockNode::Kind::Tabs)
+    if (node.kind == DockNode::Kind::tabs)
     {
         DockPlan::Group group{node.id, rect, {}, 0};
         for (UINT const pane : node.panes)
@@ -912,7 +912,7 @@ int DockLayout::MoveDivider(UINT frame, CRect const & rect, UINT split, int inde
     Arrange(frame, rect);
     DockNode * const tree = Tree(frame);
     DockNode * const node = tree != nullptr ? FindNode(*tree, split) : nullptr;
-    if (node == nullptr || node->kind != DockNode::Kind::Split || index < 0 ||
+    if (node == nullptr || node->kind != DockNode::Kind::split || index < 0 ||
         static_cast<size_t>(index) >= node->children.size())
         return 0;
     DockNode & before = node->children[static_cast<size_t>(index)];

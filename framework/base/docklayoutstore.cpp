@@ -163,21 +163,21 @@ struct DockLayoutStore
         {
             node.children.push_back(ReadNode(depth + 1));
             DockNode const & child = node.children.back();
-            if (child.kind == DockNode::Kind::Split && child.across == node.across)
+            if (child.kind == DockNode::Kind::split && child.across == node.across)
                 reader.Fail();
         }
         switch (node.kind)
         {
-        case DockNode::Kind::Tabs:
+        case DockNode::Kind::tabs:
             if (panes == 0 || children != 0 || node.across ||
                 std::find(node.panes.begin(), node.panes.end(), node.active) == node.panes.end())
                 reader.Fail();
             break;
-        case DockNode::Kind::Split:
+        case DockNode::Kind::split:
             if (panes != 0 || children < 2 || node.active != 0)
                 reader.Fail();
             break;
-        case DockNode::Kind::Centre:
+        case DockNode::Kind::centre:
             ++centres;
             if (panes != 0 || children != 0 || node.across || node.active != 0)
                 reader.Fail();
@@ -276,10 +276,10 @@ std::optional<DockLayout> DockLayout::Load(std::span<std::uint8_t const> bytes)
     // What a pane says of its place must be so.
     for (auto const & [id, pane] : layout.m_panes)
     {
-        bool const folds = pane.place == DockPlace::Folded;
+        bool const folds = pane.place == DockPlace::folded;
         if (folds != inStrip.contains(id) ||
-            ((folds || pane.place == DockPlace::Docked) && !layout.HasDockedPlace(id)) ||
-            (pane.place == DockPlace::Floating && !layout.HasFloatingPlace(id)))
+            ((folds || pane.place == DockPlace::docked) && !layout.HasDockedPlace(id)) ||
+            (pane.place == DockPlace::floating && !layout.HasFloatingPlace(id)))
             return std::nullopt;
     }
     if (!reader.Sound() || !reader.AtEnd())

@@ -99,7 +99,7 @@ void framework::DrawMark(CDC & dc, CRect const & rect, Mark mark, COLORREF colou
     std::vector<POINT> points;
     switch (mark)
     {
-    case Mark::Check: {
+    case Mark::check: {
         // Two strokes, the second twice as long.
         for (int step = 0; step <= 3 * size; ++step)
         {
@@ -109,7 +109,7 @@ void framework::DrawMark(CDC & dc, CRect const & rect, Mark mark, COLORREF colou
         }
         return;
     }
-    case Mark::Bullet: {
+    case Mark::bullet: {
         CBrush brush(colour);
         HGDIOBJ const oldBrush = ::SelectObject(dc.m_hDC, brush.m_hObject);
         HGDIOBJ const oldPen = ::SelectObject(dc.m_hDC, ::GetStockObject(NULL_PEN));
@@ -118,15 +118,15 @@ void framework::DrawMark(CDC & dc, CRect const & rect, Mark mark, COLORREF colou
         ::SelectObject(dc.m_hDC, oldBrush);
         return;
     }
-    case Mark::ArrowRight:
+    case Mark::arrow_right:
         for (int step = 0; step <= size; ++step)
             dc.FillSolidRect(middle.x - size / 2 + step, middle.y - (size - step), 1, 2 * (size - step) + 1, colour);
         return;
-    case Mark::ArrowDown:
+    case Mark::arrow_down:
         for (int step = 0; step <= size; ++step)
             dc.FillSolidRect(middle.x - (size - step), middle.y - size / 2 + step, 2 * (size - step) + 1, 1, colour);
         return;
-    case Mark::ArrowUp:
+    case Mark::arrow_up:
         for (int step = 0; step <= size; ++step)
             dc.FillSolidRect(middle.x - (size - step), middle.y + size / 2 - step, 2 * (size - step) + 1, 1, colour);
         return;

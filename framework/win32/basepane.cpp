@@ -592,10 +592,10 @@ BOOL CPane::DockToFrameWindow(DWORD dwAlignment, LPCRECT lpRect, DWORD, CBasePan
     DockHost * const host = DockHost::Of(GetDockSiteFrameWnd());
     if (host == nullptr || (alignment & GetEnabledAlignment() & host->sides) == 0)
         return FALSE;
-    framework::DockSide const side = framework::SideOf(alignment, framework::DockSide::Top);
+    framework::DockSide const side = framework::SideOf(alignment, framework::DockSide::top);
     if (auto * const dockable = DYNAMIC_DOWNCAST(CDockablePane, this))
     {
-        bool const across = side == framework::DockSide::Left || side == framework::DockSide::Right;
+        bool const across = side == framework::DockSide::left || side == framework::DockSide::right;
         CRect const wanted = lpRect != nullptr ? CRect(lpRect) : CRect(0, 0, 0, 0);
         return host->Dock(*dockable, side, bOuterEdge != FALSE, across ? wanted.Width() : wanted.Height());
     }

@@ -63,7 +63,7 @@ CControlBar::CControlBar()
       m_sizeShown(0, 0),
       m_count(0),
       m_alive(nullptr),
-      m_delay(Delay::None),
+      m_delay(Delay::none),
       m_flyBy(-1),
       m_flyByWaiting(false)
 {
@@ -254,19 +254,19 @@ void CControlBar::Arrange(DWORD) {}
 
 bool CControlBar::IsToBeVisible() const
 {
-    if (m_delay != Delay::None)
-        return m_delay == Delay::Show;
+    if (m_delay != Delay::none)
+        return m_delay == Delay::show;
     return (GetStyle() & WS_VISIBLE) != 0;
 }
 
 void CControlBar::DelayShow(BOOL bShow)
 {
-    m_delay = Delay::None;
+    m_delay = Delay::none;
     bool const visible = (GetStyle() & WS_VISIBLE) != 0;
     if (bShow && !visible)
-        m_delay = Delay::Show;
+        m_delay = Delay::show;
     else if (!bShow && visible)
-        m_delay = Delay::Hide;
+        m_delay = Delay::hide;
 }
 
 DWORD CControlBar::LayoutMode(bool stretch) const
@@ -285,10 +285,10 @@ LRESULT CControlBar::HandleSizeParent(WPARAM, LPARAM lParam)
 {
     auto & layout = *reinterpret_cast<AFX_SIZEPARENTPARAMS *>(lParam);
     bool const visible = IsToBeVisible();
-    if (layout.hDWP != nullptr && m_delay != Delay::None)
+    if (layout.hDWP != nullptr && m_delay != Delay::none)
     {
         UINT const show = visible ? SWP_SHOWWINDOW : SWP_HIDEWINDOW;
-        m_delay = Delay::None;
+        m_delay = Delay::none;
         layout.hDWP = ::DeferWindowPos(layout.hDWP, m_hWnd, nullptr, 0, 0, 0, 0,
                                        show | SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
     }
@@ -397,10 +397,10 @@ LRESULT CControlBar::HandleIdleUpdate(WPARAM wParam, LPARAM)
 {
     WindowGuard const guard(this);
     // A bar that its parent doesn't lay out is shown or hidden here.
-    if (m_delay != Delay::None)
+    if (m_delay != Delay::none)
     {
-        bool const show = m_delay == Delay::Show;
-        m_delay = Delay::None;
+        bool const show = m_delay == Delay::show;
+        m_delay = Delay::none;
         if (show != ((GetStyle() & WS_VISIBLE) != 0))
             ShowWindow(show ? SW_SHOWNA : SW_HIDE);
         if (!guard.Alive())

@@ -24,7 +24,7 @@ template <class T> void ValidateInteger(CDataExchange * pDX, T value, T minimum,
     from.Format(format, minimum);
     CString to;
     to.Format(format, maximum);
-    FailWithPrompt(*pDX, Prompt::IntegerRange, {from, to});
+    FailWithPrompt(*pDX, Prompt::integer_range, {from, to});
 }
 
 void ValidateReal(CDataExchange * pDX, double value, double minimum, double maximum, int digits)
@@ -41,7 +41,7 @@ void ValidateReal(CDataExchange * pDX, double value, double minimum, double maxi
     from.Format(_T("%.*g"), digits, minimum);
     CString to;
     to.Format(_T("%.*g"), digits, maximum);
-    FailWithPrompt(*pDX, Prompt::RealRange, {from, to});
+    FailWithPrompt(*pDX, Prompt::real_range, {from, to});
 }
 } // namespace
 } // namespace framework
@@ -126,7 +126,7 @@ void AFXAPI DDV_MaxChars(CDataExchange * pDX, CString const & value, int nChars)
             return;
         CString limit;
         limit.Format(_T("%d"), nChars);
-        framework::FailWithPrompt(*pDX, Prompt::StringSize, {limit});
+        framework::FailWithPrompt(*pDX, Prompt::string_size, {limit});
         return;
     }
     HWND const control = framework::DataExchangeAccess::LastControl(*pDX);

@@ -57,21 +57,21 @@ LPCTSTR EnglishPrompt(Prompt prompt)
 {
     switch (prompt)
     {
-    case Prompt::ParseInteger:
+    case Prompt::parse_integer:
         return _T("Please enter an integer.");
-    case Prompt::ParseReal:
+    case Prompt::parse_real:
         return _T("Please enter a number.");
-    case Prompt::IntegerRange:
+    case Prompt::integer_range:
         return _T("Please enter an integer between %1 and %2.");
-    case Prompt::RealRange:
+    case Prompt::real_range:
         return _T("Please enter a number between %1 and %2.");
-    case Prompt::StringSize:
+    case Prompt::string_size:
         return _T("Please enter no more than %1 characters.");
-    case Prompt::RadioButton:
+    case Prompt::radio_button:
         return _T("Please select a button.");
-    case Prompt::ParseByte:
+    case Prompt::parse_byte:
         return _T("Please enter an integer between 0 and 255.");
-    case Prompt::ParseUnsigned:
+    case Prompt::parse_unsigned:
         return _T("Please enter a positive integer.");
     }
     return _T("");
@@ -128,7 +128,7 @@ template <class T> void ExchangeSigned(CDataExchange * pDX, int nIDC, T & value)
     if (!ParseSigned(TextOf(control), parsed) || parsed < std::numeric_limits<T>::min() ||
         parsed > std::numeric_limits<T>::max())
     {
-        FailWithPrompt(*pDX, Prompt::ParseInteger);
+        FailWithPrompt(*pDX, Prompt::parse_integer);
     }
     value = static_cast<T>(parsed);
 }
@@ -163,7 +163,7 @@ template <class T> void ExchangeReal(CDataExchange * pDX, int nIDC, T & value, i
     if (!ParseReal(TextOf(control), parsed) || parsed > std::numeric_limits<T>::max() ||
         parsed < std::numeric_limits<T>::lowest())
     {
-        FailWithPrompt(*pDX, Prompt::ParseReal);
+        FailWithPrompt(*pDX, Prompt::parse_real);
     }
     value = static_cast<T>(parsed);
 }
@@ -225,7 +225,7 @@ void AFXAPI DDX_Control(CDataExchange * pDX, int nIDC, CWnd & rControl)
 
 void AFXAPI DDX_Text(CDataExchange * pDX, int nIDC, BYTE & value)
 {
-    framework::ExchangeUnsigned(pDX, nIDC, value, Prompt::ParseByte);
+    framework::ExchangeUnsigned(pDX, nIDC, value, Prompt::parse_byte);
 }
 
 void AFXAPI DDX_Text(CDataExchange * pDX, int nIDC, short & value)
@@ -240,7 +240,7 @@ void AFXAPI DDX_Text(CDataExchange * pDX, int nIDC, int & value)
 
 void AFXAPI DDX_Text(CDataExchange * pDX, int nIDC, UINT & value)
 {
-    framework::ExchangeUnsigned(pDX, nIDC, value, Prompt::ParseUnsigned);
+    framework::ExchangeUnsigned(pDX, nIDC, value, Prompt::parse_unsigned);
 }
 
 void AFXAPI DDX_Text(CDataExchange * pDX, int nIDC, long & value)
@@ -250,7 +250,7 @@ void AFXAPI DDX_Text(CDataExchange * pDX, int nIDC, long & value)
 
 void AFXAPI DDX_Text(CDataExchange * pDX, int nIDC, DWORD & value)
 {
-    framework::ExchangeUnsigned(pDX, nIDC, value, Prompt::ParseUnsigned);
+    framework::ExchangeUnsigned(pDX, nIDC, value, Prompt::parse_unsigned);
 }
 
 void AFXAPI DDX_Text(CDataExchange * pDX, int nIDC, CString & value)

@@ -168,8 +168,8 @@ BOOL CDockablePane::DockToWindow(CDockablePane * pTargetWindow, DWORD dwAlignmen
     WindowGuard const guard(this);
     if (m_host != pTargetWindow->m_host && !pTargetWindow->m_host->Register(*this))
         return FALSE;
-    framework::DockSide const side = framework::SideOf(dwAlignment, framework::DockSide::Left);
-    bool const across = side == framework::DockSide::Left || side == framework::DockSide::Right;
+    framework::DockSide const side = framework::SideOf(dwAlignment, framework::DockSide::left);
+    bool const across = side == framework::DockSide::left || side == framework::DockSide::right;
     int extent = 0;
     if (lpRect != nullptr)
         extent = across ? lpRect->right - lpRect->left : lpRect->bottom - lpRect->top;
@@ -234,7 +234,7 @@ CMFCAutoHideBar * CDockablePane::SetAutoHideMode(BOOL bMode, DWORD dwAlignment, 
         return nullptr;
     std::optional<framework::DockSide> side;
     if ((dwAlignment & CBRS_ALIGN_ANY) != 0)
-        side = framework::SideOf(dwAlignment, framework::DockSide::Left);
+        side = framework::SideOf(dwAlignment, framework::DockSide::left);
     WindowGuard const guard(this);
     DockHost::Life const life(*m_host);
     DockHost & host = *m_host;
@@ -264,7 +264,7 @@ void CDockablePane::OnSlide(BOOL) {}
 BOOL CDockablePane::IsAutoHideMode() const
 {
     framework::DockPane const * const pane = m_host != nullptr ? m_host->Layout().Find(m_dockId) : nullptr;
-    return pane != nullptr && pane->place == framework::DockPlace::Folded;
+    return pane != nullptr && pane->place == framework::DockPlace::folded;
 }
 
 BOOL CDockablePane::HasAutoHideMode() const
@@ -337,7 +337,7 @@ BOOL CDockablePane::IsResizable() const
 BOOL CDockablePane::IsVisible() const
 {
     framework::DockPane const * const pane = m_host != nullptr ? m_host->Layout().Find(m_dockId) : nullptr;
-    if (pane == nullptr || pane->place == framework::DockPlace::None)
+    if (pane == nullptr || pane->place == framework::DockPlace::none)
         return CPane::IsVisible();
     return pane->visible;
 }
@@ -451,7 +451,7 @@ void CDockablePane::OnNcLButtonDown(UINT, CPoint point)
     if (!guard.Alive() || m_host != &host)
         return;
     framework::DockPane const * const known = host.Layout().Find(host.FrontOf(*this));
-    if (known == nullptr || known->place == framework::DockPlace::Folded || known->place == framework::DockPlace::None)
+    if (known == nullptr || known->place == framework::DockPlace::folded || known->place == framework::DockPlace::none)
         return;
     host.BeginDrag(framework::DockContent(host.DraggedWith(*this)), point);
 }

@@ -12,7 +12,7 @@
 
 namespace framework
 {
-UINT const arrangeMessage = ::RegisterWindowMessage(L"FrameworkArrangePanes");
+UINT const arrange_message = ::RegisterWindowMessage(L"FrameworkArrangePanes");
 
 namespace
 {
@@ -38,7 +38,7 @@ bool Shows(HWND window)
 void DockHost::ArrangeSoon()
 {
     if (!m_ending && m_frame.m_hWnd != nullptr)
-        m_frame.PostMessage(arrangeMessage);
+        m_frame.PostMessage(arrange_message);
 }
 
 void DockHost::Lock(bool lock)
@@ -265,8 +265,8 @@ bool DockHost::HideRest()
         DockPane const * const known = m_layout.Find(id);
         if (pane == nullptr || known == nullptr)
             return false;
-        bool const folded = known->place == DockPlace::Folded;
-        if (known->place == DockPlace::None || (known->visible && !folded))
+        bool const folded = known->place == DockPlace::folded;
+        if (known->place == DockPlace::none || (known->visible && !folded))
             continue;
         CWnd * const parent = ParentOf(m_layout.FrameOf(id));
         if (parent == nullptr || !Adopt(*pane, *parent))
@@ -479,7 +479,7 @@ bool DockHost::ArrangeTabs(CTabbedPane & tabbed, DockPlan::Group const & group)
 bool DockHost::PlaceStrips(CRect & space, std::vector<WINDOWPOS> & moves)
 {
     Life const life(*this);
-    for (DockSide const side : {DockSide::Left, DockSide::Top, DockSide::Right, DockSide::Bottom})
+    for (DockSide const side : {DockSide::left, DockSide::top, DockSide::right, DockSide::bottom})
     {
         CMFCAutoHideBar *& strip = m_strips[static_cast<size_t>(side)];
         std::vector<UINT> const folded = m_layout.Folded(side);
@@ -505,20 +505,20 @@ bool DockHost::PlaceStrips(CRect & space, std::vector<WINDOWPOS> & moves)
                 return false;
         }
         CRect rect(space);
-        bool const across = side == DockSide::Left || side == DockSide::Right;
+        bool const across = side == DockSide::left || side == DockSide::right;
         int const thickness = std::min(m_sizes.strip, across ? rect.Width() : rect.Height());
         switch (side)
         {
-        case DockSide::Left:
+        case DockSide::left:
             rect.right = space.left = rect.left + thickness;
             break;
-        case DockSide::Top:
+        case DockSide::top:
             rect.bottom = space.top = rect.top + thickness;
             break;
-        case DockSide::Right:
+        case DockSide::right:
             rect.left = space.right = rect.right - thickness;
             break;
-        case DockSide::Bottom:
+        case DockSide::bottom:
             rect.top = space.bottom = rect.bottom - thickness;
             break;
         }
@@ -662,7 +662,7 @@ bool DockHost::PlaceSlid()
 {
     CDockablePane * const pane = Pane(m_slid);
     DockPane const * const known = m_layout.Find(m_slid);
-    if (pane == nullptr || known == nullptr || known->place != DockPlace::Folded)
+    if (pane == nullptr || known == nullptr || known->place != DockPlace::folded)
     {
         m_slid = 0;
         return true;
@@ -677,16 +677,16 @@ bool DockHost::PlaceSlid()
         std::min(rect.Height(), std::max<int>(std::min<int>(known->size.cy, rect.Height() / 2), least.cy));
     switch (known->foldSide)
     {
-    case DockSide::Left:
+    case DockSide::left:
         rect.right = rect.left + width;
         break;
-    case DockSide::Top:
+    case DockSide::top:
         rect.bottom = rect.top + height;
         break;
-    case DockSide::Right:
+    case DockSide::right:
         rect.left = rect.right - width;
         break;
-    case DockSide::Bottom:
+    case DockSide::bottom:
         rect.top = rect.bottom - height;
         break;
     }

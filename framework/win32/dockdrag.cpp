@@ -43,7 +43,7 @@ bool DockDrag::Start(Kind kind, CPoint screen)
     m_start = screen;
     m_moved = false;
     m_landing = DockLanding();
-    m_shape = DockLanding::Kind::None;
+    m_shape = DockLanding::Kind::none;
     withKeys = this;
     m_keys = ::SetWindowsHookEx(WH_KEYBOARD, OnKey, nullptr, ::GetCurrentThreadId());
     return true;
@@ -51,7 +51,7 @@ bool DockDrag::Start(Kind kind, CPoint screen)
 
 void DockDrag::StartPanes(DockContent const & content, CPoint screen)
 {
-    if (!Start(Kind::Panes, screen))
+    if (!Start(Kind::panes, screen))
         return;
     m_content = content;
     CRect rect(screen, CSize(0, 0));
@@ -70,7 +70,7 @@ void DockDrag::StartPanes(DockContent const & content, CPoint screen)
 
 void DockDrag::StartDivider(CPaneDivider & divider, CPoint screen)
 {
-    if (!Start(Kind::Divider, screen))
+    if (!Start(Kind::divider, screen))
         return;
     m_divider = &divider;
     ::SetCursor(::LoadCursor(nullptr, divider.IsHorizontal() ? IDC_SIZENS : IDC_SIZEWE));
@@ -79,7 +79,7 @@ void DockDrag::StartDivider(CPaneDivider & divider, CPoint screen)
 
 void DockDrag::StartButton(CDockablePane & pane, UINT hit)
 {
-    if (!Start(Kind::Button, CursorPosition()))
+    if (!Start(Kind::button, CursorPosition()))
         return;
     m_button = pane.m_hWnd;
     m_hit = hit;
@@ -88,15 +88,15 @@ void DockDrag::StartButton(CDockablePane & pane, UINT hit)
 
 void DockDrag::PaneEnds(UINT pane)
 {
-    bool const moved = m_kind == Kind::Panes && m_content.frame == 0 &&
+    bool const moved = m_kind == Kind::panes && m_content.frame == 0 &&
                        std::find(m_content.panes.begin(), m_content.panes.end(), pane) != m_content.panes.end();
-    if (moved || m_kind == Kind::Divider)
+    if (moved || m_kind == Kind::divider)
         Cancel();
 }
 
 void DockDrag::Stop()
 {
-    m_kind = Kind::None;
+    m_kind = Kind::none;
     m_divider = nullptr;
     if (m_keys != nullptr)
         ::UnhookWindowsHookEx(std::exchange(m_keys, nullptr));
@@ -178,19 +178,19 @@ CRect DockDrag::DividerAt(CPoint screen) const
 
 void DockDrag::Follow(CPoint screen)
 {
-    if (m_kind == Kind::None || m_kind == Kind::Button)
+    if (m_kind == Kind::none || m_kind == Kind::button)
         return;
     if (!m_moved && std::abs(screen.x - m_start.x) < ::GetSystemMetrics(SM_CXDRAG) &&
         std::abs(screen.y - m_start.y) < ::GetSystemMetrics(SM_CYDRAG))
         return;
     m_moved = true;
-    if (m_kind == Kind::Divider)
+    if (m_kind == Kind::divider)
     {
-        ShowAt(DividerAt(screen), DockLanding::Kind::None);
+        ShowAt(DividerAt(screen), DockLanding::Kind::none);
         return;
     }
     m_landing = m_host.FindLanding(m_content, screen, m_grip, ::GetKeyState(VK_CONTROL) < 0);
-    if (m_landing.kind == DockLanding::Kind::None)
+    if (m_landing.kind == DockLanding::Kind::none)
         ::ShowWindow(m_hWnd, SW_HIDE);
     else
         ShowAt(m_landing.rect, m_landing.kind);
@@ -206,12 +206,12 @@ void DockDrag::ShowAt(CRect const & rect, DockLanding::Kind shape)
     CRect const whole(CPoint(0, 0), rect.Size());
     int const line = std::max(2, m_host.Sizes().gap);
     HRGN const region = ::CreateRectRgn(0, 0, whole.right, whole.bottom);
-    if (shape != DockLanding::Kind::None)
+    if (shape != DockLanding::Kind::none)
     {
         CRect body(whole);
         int const tab = std::min(m_host.Sizes().tabs, whole.Height() / 3);
         HRGN const part = ::CreateRectRgn(0, 0, 0, 0);
-        if (shape == DockLanding::Kind::Tab)
+        if (shape == DockLanding::Kind::tab)
         {
             // With a tab at its lower edge.
             body.bottom -= tab;
@@ -235,7 +235,7 @@ void DockDrag::ShowAt(CRect const & rect, DockLanding::Kind shape)
 void DockDrag::Finish(CPoint screen)
 {
     Kind const kind = m_kind;
-    if (kind == Kind::None)
+    if (kind == Kind::none)
         return;
     Follow(screen);
     bool const moved = m_moved;
@@ -249,15 +249,15 @@ void DockDrag::Finish(CPoint screen)
     Stop();
     switch (kind)
     {
-    case Kind::Panes:
+    case Kind::panes:
         if (moved)
             host.Land(content, landing);
         break;
-    case Kind::Divider:
+    case Kind::divider:
         if (moved && divider != nullptr)
             host.MoveDivider(*divider, divider->IsHorizontal() ? offset.y : offset.x);
         break;
-    case Kind::Button: {
+    case Kind::button: {
         auto * const pane = DYNAMIC_DOWNCAST(CDockablePane, CWnd::FromHandlePermanent(button));
         if (pane != nullptr && static_cast<UINT>(pane->HitTest(screen)) == hit)
             pane->OnPressButtons(hit);

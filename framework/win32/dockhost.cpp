@@ -54,13 +54,13 @@ CString TitleOf(CDockablePane const & pane)
 DockSide SideOf(DWORD alignment, DockSide otherwise)
 {
     if ((alignment & CBRS_ALIGN_LEFT) != 0)
-        return DockSide::Left;
+        return DockSide::left;
     if ((alignment & CBRS_ALIGN_TOP) != 0)
-        return DockSide::Top;
+        return DockSide::top;
     if ((alignment & CBRS_ALIGN_RIGHT) != 0)
-        return DockSide::Right;
+        return DockSide::right;
     if ((alignment & CBRS_ALIGN_BOTTOM) != 0)
-        return DockSide::Bottom;
+        return DockSide::bottom;
     return otherwise;
 }
 
@@ -68,11 +68,11 @@ DWORD AlignmentOf(DockSide side)
 {
     switch (side)
     {
-    case DockSide::Left:
+    case DockSide::left:
         return CBRS_ALIGN_LEFT;
-    case DockSide::Top:
+    case DockSide::top:
         return CBRS_ALIGN_TOP;
-    case DockSide::Right:
+    case DockSide::right:
         return CBRS_ALIGN_RIGHT;
     default:
         return CBRS_ALIGN_BOTTOM;
@@ -217,7 +217,7 @@ bool DockHost::Register(CDockablePane & pane)
     m_panes[id] = &pane;
     bool const stored = m_layout.Find(id) != nullptr;
     DockPane const & known = m_layout.AddPane(id, LeastSize(pane, m_sizes), pane.m_defaultSize);
-    if (stored && known.place != DockPlace::None)
+    if (stored && known.place != DockPlace::none)
     {
         pane.m_restored = true;
         pane.m_recentVisible = known.visible;
@@ -463,10 +463,10 @@ void DockHost::Toggle(DockContent const & content)
     if (known == nullptr)
         return;
     Life const life(*this);
-    bool const floats = known->place == DockPlace::Floating;
+    bool const floats = known->place == DockPlace::floating;
     if (!floats)
     {
-        if (!first->CanFloat() || known->place != DockPlace::Docked)
+        if (!first->CanFloat() || known->place != DockPlace::docked)
             return;
         CRect rect;
         ::GetWindowRect(::GetParent(first->m_hWnd) == m_frame.m_hWnd ? first->m_hWnd : ::GetParent(first->m_hWnd),
@@ -481,7 +481,7 @@ void DockHost::Toggle(DockContent const & content)
     {
         CBasePane * target = nullptr;
         DockSide const side = SideOf(first->GetPaneStyle() & sides & first->GetEnabledAlignment(),
-                                     SideOf(sides & first->GetEnabledAlignment(), DockSide::Left));
+                                     SideOf(sides & first->GetEnabledAlignment(), DockSide::left));
         if ((sides & first->GetEnabledAlignment() & CBRS_ALIGN_ANY) == 0 ||
             !first->OnBeforeDock(&target, nullptr, DM_DBL_CLICK) || !life)
             return;
@@ -501,7 +501,7 @@ void DockHost::Show(CDockablePane & pane, bool show, bool activate)
         return;
     pane.m_recentVisible = show;
     Life const life(*this);
-    if (known->place == DockPlace::None)
+    if (known->place == DockPlace::none)
     {
         // It has no place to be shown at but where it is.
         m_layout.Show(id, show);
@@ -527,7 +527,7 @@ void DockHost::Activate(UINT id, bool focus)
         return;
     Life const life(*this);
     m_layout.Activate(id);
-    if (known->place == DockPlace::Folded)
+    if (known->place == DockPlace::folded)
         SlideOut(id);
     else
         Arrange();
@@ -576,7 +576,7 @@ void DockHost::SlideOut(UINT id)
 {
     DockPane const * const known = m_layout.Find(id);
     CDockablePane * const pane = Pane(id);
-    if (known == nullptr || pane == nullptr || known->place != DockPlace::Folded)
+    if (known == nullptr || pane == nullptr || known->place != DockPlace::folded)
         return;
     Life const life(*this);
     m_layout.Show(id, true);
@@ -734,7 +734,7 @@ void DockHost::TitleChanged(CDockablePane & pane)
     DockPane const * const known = m_layout.Find(pane.m_dockId);
     if (known == nullptr)
         return;
-    if (known->place == DockPlace::Folded && Strip(known->foldSide) != nullptr)
+    if (known->place == DockPlace::folded && Strip(known->foldSide) != nullptr)
         Strip(known->foldSide)->Invalidate();
     if (CPaneFrameWnd * const mini = MiniFrame(m_layout.FrameOf(pane.m_dockId)))
         ChangeWindowText(mini->m_hWnd, mini->GetCaptionText());

@@ -194,8 +194,8 @@ void CDockingManager::DockPane(CBasePane * pBar, UINT nDockBarID, LPCRECT lpRect
     }
     if (alignment == 0)
         alignment = dockable->GetPaneStyle() & CBRS_ALIGN_ANY;
-    DockSide const side = framework::SideOf(alignment, DockSide::Left);
-    bool const across = side == DockSide::Left || side == DockSide::Right;
+    DockSide const side = framework::SideOf(alignment, DockSide::left);
+    bool const across = side == DockSide::left || side == DockSide::right;
     m_host->Dock(*dockable, side, false, across ? wanted.Width() : wanted.Height());
 }
 

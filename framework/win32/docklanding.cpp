@@ -66,10 +66,10 @@ DWORD DockHost::Enabled(DockContent const & content) const
 static std::optional<DockSide> NearEdge(CRect const & rect, CPoint point, int most)
 {
     int const zone = std::min({most, rect.Width() / 3, rect.Height() / 3});
-    std::pair<int, DockSide> const distances[] = {{point.x - rect.left, DockSide::Left},
-                                                  {point.y - rect.top, DockSide::Top},
-                                                  {rect.right - 1 - point.x, DockSide::Right},
-                                                  {rect.bottom - 1 - point.y, DockSide::Bottom}};
+    std::pair<int, DockSide> const distances[] = {{point.x - rect.left, DockSide::left},
+                                                  {point.y - rect.top, DockSide::top},
+                                                  {rect.right - 1 - point.x, DockSide::right},
+                                                  {rect.bottom - 1 - point.y, DockSide::bottom}};
     std::pair<int, DockSide> const * const nearest =
         std::min_element(std::begin(distances), std::end(distances),
                          [](auto const & one, auto const & other) { return one.first < other.first; });
@@ -117,7 +117,7 @@ DockLanding DockHost::FindLanding(DockContent const & content, CPoint screen, CP
             *over == 0 ? NearEdge(space, point, m_sizes.sensitivity / 3) : std::nullopt;
         if (side && (enabled & AlignmentOf(*side)) != 0)
         {
-            landing.kind = DockLanding::Kind::Side;
+            landing.kind = DockLanding::Kind::side;
             landing.side = *side;
             landing.outer = true;
         }
@@ -125,7 +125,7 @@ DockLanding DockHost::FindLanding(DockContent const & content, CPoint screen, CP
         {
             bool const singleFloat = *over != 0 && plan.groups.size() == 1;
             bool const onFrameCaption = singleFloat && point.y < space.top;
-            if (landing.kind != DockLanding::Kind::None || (!group.rect.PtInRect(point) && !onFrameCaption) ||
+            if (landing.kind != DockLanding::Kind::none || (!group.rect.PtInRect(point) && !onFrameCaption) ||
                 enabled == 0)
                 continue;
             bool const itself = std::find(moved.begin(), moved.end(), group.active) != moved.end() ||
@@ -144,7 +144,7 @@ DockLanding DockHost::FindLanding(DockContent const & content, CPoint screen, CP
             landing.target = *other;
             if ((caption && !itself) || strip.PtInRect(point))
             {
-                landing.kind = DockLanding::Kind::Tab;
+                landing.kind = DockLanding::Kind::tab;
                 if (CTabbedPane * const tabbed = strip.PtInRect(point) ? Tabbed(group.id) : nullptr)
                     landing.index = TabIndexAt(*tabbed, screen, moved);
                 break;
@@ -152,24 +152,24 @@ DockLanding DockHost::FindLanding(DockContent const & content, CPoint screen, CP
             if (std::optional<DockSide> const edge =
                     NearEdge(group.rect, point, std::max(2 * m_sizes.sensitivity, group.rect.Width() / 5)))
             {
-                landing.kind = DockLanding::Kind::Beside;
+                landing.kind = DockLanding::Kind::beside;
                 landing.side = *edge;
             }
             break;
         }
         // A frame whose centre doesn't show is all centre while no pane is docked.
         CRect const centre = plan.centre.value_or(*over == 0 && plan.groups.empty() ? space : CRect(0, 0, 0, 0));
-        if (landing.kind == DockLanding::Kind::None && centre.PtInRect(point))
+        if (landing.kind == DockLanding::Kind::none && centre.PtInRect(point))
         {
             std::optional<DockSide> const inner = NearEdge(centre, point, 2 * m_sizes.sensitivity);
             if (inner && (enabled & AlignmentOf(*inner)) != 0)
             {
-                landing.kind = DockLanding::Kind::Side;
+                landing.kind = DockLanding::Kind::side;
                 landing.side = *inner;
             }
         }
     }
-    if (landing.kind != DockLanding::Kind::None)
+    if (landing.kind != DockLanding::Kind::none)
     {
         // What it would be is worked out on a copy.
         DockLayout would = m_layout;
@@ -192,7 +192,7 @@ DockLanding DockHost::FindLanding(DockContent const & content, CPoint screen, CP
     }
     if (!first->CanFloat())
         return landing;
-    landing.kind = DockLanding::Kind::Float;
+    landing.kind = DockLanding::Kind::floating;
     CRect rect = m_layout.Find(moved.front())->floatRect;
     if (content.frame != 0)
         rect = m_layout.FindFrame(content.frame)->rect;
@@ -225,13 +225,13 @@ bool DockHost::Apply(DockLayout & layout, DockContent const & content, DockLandi
 {
     switch (landing.kind)
     {
-    case DockLanding::Kind::Float:
+    case DockLanding::Kind::floating:
         return layout.Float(content, landing.rect);
-    case DockLanding::Kind::Side:
+    case DockLanding::Kind::side:
         return layout.DockAtSide(content, landing.side, landing.outer);
-    case DockLanding::Kind::Beside:
+    case DockLanding::Kind::beside:
         return layout.DockBeside(content, landing.target, landing.side);
-    case DockLanding::Kind::Tab:
+    case DockLanding::Kind::tab:
         return layout.DockAsTab(content, landing.target, landing.index);
     default:
         return false;
@@ -241,10 +241,10 @@ bool DockHost::Apply(DockLayout & layout, DockContent const & content, DockLandi
 void DockHost::Land(DockContent const & content, DockLanding const & landing)
 {
     std::vector<UINT> const moved = PanesOf(content);
-    if (landing.kind == DockLanding::Kind::None || moved.empty())
+    if (landing.kind == DockLanding::Kind::none || moved.empty())
         return;
     Life const life(*this);
-    bool const floats = landing.kind == DockLanding::Kind::Float;
+    bool const floats = landing.kind == DockLanding::Kind::floating;
     DockLanding wanted = landing;
     for (UINT const id : moved)
     {

@@ -31,7 +31,7 @@ std::vector<std::uint8_t> DockHost::Save()
             continue;
         DockPane & known = stored.AddPane(id, CSize(0, 0), CSize(0, 0));
         known.visible = bar->IsPaneVisible() != FALSE;
-        known.foldSide = SideOf(bar->GetCurrentAlignment(), DockSide::Top);
+        known.foldSide = SideOf(bar->GetCurrentAlignment(), DockSide::top);
     }
     return stored.Save();
 }
@@ -48,7 +48,7 @@ bool DockHost::Load(std::vector<std::uint8_t> const & bytes, std::function<bool(
     for (auto const & [id, pane] : m_panes)
     {
         DockPane const present = *m_layout.Find(id);
-        bool const known = loaded->Find(id) != nullptr && loaded->Find(id)->place != DockPlace::None;
+        bool const known = loaded->Find(id) != nullptr && loaded->Find(id)->place != DockPlace::none;
         DockPane & stored = loaded->AddPane(id, present.minSize, present.size);
         pane->m_restored = known;
         if (known)
@@ -56,9 +56,9 @@ bool DockHost::Load(std::vector<std::uint8_t> const & bytes, std::function<bool(
             pane->m_recentVisible = stored.visible;
             continue;
         }
-        if (present.place == DockPlace::Floating)
+        if (present.place == DockPlace::floating)
             loaded->Float(id, present.floatRect);
-        else if (present.place != DockPlace::None)
+        else if (present.place != DockPlace::none)
             loaded->DockAtSide(id, m_layout.SideOf(id), false, 0);
         loaded->Show(id, present.visible);
     }
@@ -77,7 +77,7 @@ bool DockHost::Load(std::vector<std::uint8_t> const & bytes, std::function<bool(
                                                !bar->IsKindOf(RUNTIME_CLASS(CMFCAutoHideBar))
                                            ? m_layout.Find(static_cast<WORD>(bar->GetDlgCtrlID()))
                                            : nullptr;
-        if (known != nullptr && known->place == DockPlace::None)
+        if (known != nullptr && known->place == DockPlace::none)
             bars.emplace_back(bar, *known);
     }
     for (auto const & [bar, known] : bars)

@@ -73,7 +73,7 @@ void CFrameWnd::ShowControlBar(CControlBar * pBar, BOOL bShow, BOOL bDelay)
         return;
     }
     WindowGuard const guard(this);
-    pBar->m_delay = CControlBar::Delay::None;
+    pBar->m_delay = CControlBar::Delay::none;
     pBar->SetWindowPos(nullptr, 0, 0, 0, 0,
                        SWP_NOZORDER | SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE |
                            (bShow ? SWP_SHOWWINDOW : SWP_HIDEWINDOW));

@@ -20,7 +20,7 @@ BEGIN_MESSAGE_MAP(CMDIFrameWndEx, CMDIFrameWnd)
     ON_MESSAGE(WM_IDLEUPDATECMDUI, &CMDIFrameWndEx::HandleIdleUpdate)
     ON_MESSAGE(WM_DISPLAYCHANGE, &CMDIFrameWndEx::HandleSettingChange)
     ON_MESSAGE(WM_SETTINGCHANGE, &CMDIFrameWndEx::HandleSettingChange)
-    ON_REGISTERED_MESSAGE(framework::arrangeMessage, &CMDIFrameWndEx::HandleArrange)
+    ON_REGISTERED_MESSAGE(framework::arrange_message, &CMDIFrameWndEx::HandleArrange)
 END_MESSAGE_MAP()
 // clang-format on
 
@@ -259,7 +259,7 @@ BEGIN_MESSAGE_MAP(CFrameWndEx, CFrameWnd)
     ON_MESSAGE(WM_IDLEUPDATECMDUI, &CFrameWndEx::HandleIdleUpdate)
     ON_MESSAGE(WM_DISPLAYCHANGE, &CFrameWndEx::HandleSettingChange)
     ON_MESSAGE(WM_SETTINGCHANGE, &CFrameWndEx::HandleSettingChange)
-    ON_REGISTERED_MESSAGE(framework::arrangeMessage, &CFrameWndEx::HandleArrange)
+    ON_REGISTERED_MESSAGE(framework::arrange_message, &CFrameWndEx::HandleArrange)
 END_MESSAGE_MAP()
 // clang-format on
 

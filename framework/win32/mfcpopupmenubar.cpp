@@ -327,8 +327,8 @@ void CMFCPopupMenuBar::DoPaint(CDC * pDC)
     if (!IsScrolled())
         return;
     auto const colour = [](bool more) { return ::GetSysColor(more ? COLOR_MENUTEXT : COLOR_GRAYTEXT); };
-    framework::DrawMark(*pDC, StripRect(true), framework::Mark::ArrowUp, colour(m_offset > 0));
-    framework::DrawMark(*pDC, StripRect(false), framework::Mark::ArrowDown, colour(m_offset + m_visible < GetCount()));
+    framework::DrawMark(*pDC, StripRect(true), framework::Mark::arrow_up, colour(m_offset > 0));
+    framework::DrawMark(*pDC, StripRect(false), framework::Mark::arrow_down, colour(m_offset + m_visible < GetCount()));
 }
 
 // Choosing

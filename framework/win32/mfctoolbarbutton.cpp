@@ -593,7 +593,7 @@ void CMFCToolBarMenuButton::OnDraw(CDC * pDC, const CRect & rect, CMFCToolBarIma
     if (arrow)
     {
         CRect const place(face.right, rect.top, rect.right, rect.bottom);
-        DrawMark(*pDC, place, Mark::ArrowDown,
+        DrawMark(*pDC, place, Mark::arrow_down,
                  ::GetSysColor((m_nStyle & TBBS_DISABLED) != 0 ? COLOR_GRAYTEXT : COLOR_BTNTEXT));
     }
 }
@@ -635,7 +635,7 @@ void CMFCToolBarMenuButton::DrawItem(CDC & dc, CRect const & rect, CMFCToolBarIm
         images->Draw(&dc, at.x, at.y, m_iImage, FALSE, disabled);
     }
     else if (checked)
-        DrawMark(dc, mark, m_radio ? Mark::Bullet : Mark::Check, colour);
+        DrawMark(dc, mark, m_radio ? Mark::bullet : Mark::check, colour);
     dc.SetBkMode(TRANSPARENT);
     dc.SetTextColor(colour);
     CFont bold;
@@ -664,7 +664,7 @@ void CMFCToolBarMenuButton::DrawItem(CDC & dc, CRect const & rect, CMFCToolBarIm
         ::SelectObject(dc.m_hDC, previous);
     if (HasMenu())
     {
-        DrawMark(dc, CRect(rect.right - Scaled(arrow_width), rect.top, rect.right, rect.bottom), Mark::ArrowRight,
+        DrawMark(dc, CRect(rect.right - Scaled(arrow_width), rect.top, rect.right, rect.bottom), Mark::arrow_right,
                  colour);
     }
 }

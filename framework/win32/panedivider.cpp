@@ -273,7 +273,7 @@ std::vector<std::pair<UINT, CRect>> framework::StripButtons(CMFCAutoHideBar & st
     CClientDC dc(&strip);
     CFont * const former = SelectPaneFont(dc);
     int place = host->Sizes().gap;
-    for (UINT const id : host->Layout().Folded(SideOf(strip.GetCurrentAlignment(), DockSide::Left)))
+    for (UINT const id : host->Layout().Folded(SideOf(strip.GetCurrentAlignment(), DockSide::left)))
     {
         CDockablePane const * const pane = host->Pane(id);
         if (pane == nullptr)

@@ -46,9 +46,9 @@ bool ShowPaneMenu(CDockablePane & pane, CPoint screen)
     UINT const id = host != nullptr ? host->FrontOf(pane) : 0;
     CDockablePane * const front = host != nullptr ? host->Pane(id) : nullptr;
     DockPane const * const known = front != nullptr ? host->Layout().Find(id) : nullptr;
-    if (known == nullptr || known->place == DockPlace::None)
+    if (known == nullptr || known->place == DockPlace::none)
         return false;
-    bool const folded = known->place == DockPlace::Folded;
+    bool const folded = known->place == DockPlace::folded;
     CMenu menu;
     if (!menu.CreatePopupMenu())
         return false;
@@ -56,8 +56,8 @@ bool ShowPaneMenu(CDockablePane & pane, CPoint screen)
         menu.AppendMenu(MF_STRING | (enabled ? MF_ENABLED : MF_GRAYED) | (checked ? MF_CHECKED : MF_UNCHECKED), command,
                         TextOf(command));
     };
-    append(command_float, known->place == DockPlace::Docked && front->CanFloat());
-    append(command_dock, known->place == DockPlace::Floating && host->sides != 0);
+    append(command_float, known->place == DockPlace::docked && front->CanFloat());
+    append(command_dock, known->place == DockPlace::floating && host->sides != 0);
     append(command_fold, folded || front->CanAutoHide(), folded);
     append(command_hide, front->CanBeClosed() != FALSE);
     DockHost::Life const life(*host);

@@ -182,7 +182,7 @@ CPreviewView::CPreviewView()
       m_printWindow(nullptr),
       m_oldView(nullptr),
       m_barWindow(nullptr),
-      m_zoom(Zoom::Out),
+      m_zoom(Zoom::pages),
       m_count(1),
       m_first(1),
       m_ending(false),
@@ -309,7 +309,7 @@ bool CPreviewView::ShowFrom(UINT first)
     WindowGuard const guard(this);
     CWaitCursor wait;
     std::vector<Page> pages;
-    UINT const count = m_zoom == Zoom::Out ? m_count : 1;
+    UINT const count = m_zoom == Zoom::pages ? m_count : 1;
     for (UINT number = first; number < first + count; ++number)
     {
         Page page;
@@ -340,7 +340,7 @@ bool CPreviewView::ShowFrom(UINT first)
 bool CPreviewView::HasNext() const
 {
     return !m_pages.empty() && m_info != nullptr && m_pages.back().number < m_info->GetMaxPage() &&
-           m_pages.size() == (m_zoom == Zoom::Out ? m_count : 1);
+           m_pages.size() == (m_zoom == Zoom::pages ? m_count : 1);
 }
 
 /// The paper on the screen.
@@ -353,15 +353,15 @@ CSize CPreviewView::PageSize(Zoom zoom, CSize room) const
         std::max(::MulDiv(paper.cx, ::GetDeviceCaps(screen, LOGPIXELSX), ::GetDeviceCaps(device, LOGPIXELSX)), 1),
         std::max(::MulDiv(paper.cy, ::GetDeviceCaps(screen, LOGPIXELSY), ::GetDeviceCaps(device, LOGPIXELSY)), 1));
     ::ReleaseDC(nullptr, screen);
-    if (zoom == Zoom::In)
+    if (zoom == Zoom::paper)
         return real;
-    int const count = zoom == Zoom::Out ? static_cast<int>(m_count) : 1;
+    int const count = zoom == Zoom::pages ? static_cast<int>(m_count) : 1;
     CSize const free(std::max<int>((room.cx - (count + 1) * margin) / count, 1),
                      std::max<int>(room.cy - 2 * margin, 1));
     bool const wide = static_cast<long long>(real.cx) * free.cy > static_cast<long long>(free.cx) * real.cy;
     CSize const whole = wide ? CSize(free.cx, std::max(::MulDiv(real.cy, free.cx, real.cx), 1))
                              : CSize(std::max(::MulDiv(real.cx, free.cy, real.cy), 1), free.cy);
-    if (zoom == Zoom::Out)
+    if (zoom == Zoom::pages)
         return whole;
     return CSize((whole.cx + real.cx) / 2, (whole.cy + real.cy) / 2);
 }
@@ -374,7 +374,7 @@ void CPreviewView::LayOut()
     WindowGuard const guard(this);
     CSize const room = WindowWithoutBars();
     CSize const size = PageSize(m_zoom, room);
-    int const count = m_zoom == Zoom::Out ? static_cast<int>(m_count) : 1;
+    int const count = m_zoom == Zoom::pages ? static_cast<int>(m_count) : 1;
     CSize const total(count * (size.cx + margin) + margin, size.cy + 2 * margin);
     SetScrollSizes(MM_TEXT, total);
     if (!guard.Alive())
@@ -530,7 +530,7 @@ void CPreviewView::ZoomTo(Zoom zoom, CPoint const * point)
     }
     m_zoom = zoom;
     WindowGuard const guard(this);
-    if (!ShowFrom(number) || m_zoom == Zoom::Out)
+    if (!ShowFrom(number) || m_zoom == Zoom::pages)
         return;
     CRect client;
     GetClientRect(&client);
@@ -545,14 +545,14 @@ void CPreviewView::ZoomTo(Zoom zoom, CPoint const * point)
 
 void CPreviewView::ZoomIn()
 {
-    if (m_zoom != Zoom::In)
-        ZoomTo(m_zoom == Zoom::Out ? Zoom::Middle : Zoom::In, nullptr);
+    if (m_zoom != Zoom::paper)
+        ZoomTo(m_zoom == Zoom::pages ? Zoom::middle : Zoom::paper, nullptr);
 }
 
 void CPreviewView::ZoomOut()
 {
-    if (m_zoom != Zoom::Out)
-        ZoomTo(m_zoom == Zoom::In ? Zoom::Middle : Zoom::Out, nullptr);
+    if (m_zoom != Zoom::pages)
+        ZoomTo(m_zoom == Zoom::paper ? Zoom::middle : Zoom::pages, nullptr);
 }
 
 void CPreviewView::OnLButtonDown(UINT, CPoint point)
@@ -562,7 +562,7 @@ void CPreviewView::OnLButtonDown(UINT, CPoint point)
                                     [&](Page const & page) { return page.place.PtInRect(place) != FALSE; });
     if (!onPage)
         return;
-    Zoom const next = m_zoom == Zoom::Out ? Zoom::Middle : m_zoom == Zoom::Middle ? Zoom::In : Zoom::Out;
+    Zoom const next = m_zoom == Zoom::pages ? Zoom::middle : m_zoom == Zoom::middle ? Zoom::paper : Zoom::pages;
     ZoomTo(next, &point);
 }
 
@@ -611,16 +611,16 @@ void CPreviewView::UpdatePrevious(CCmdUI * state)
 
 void CPreviewView::UpdateNumberOfPages(CCmdUI * state)
 {
-    state->Enable(m_zoom == Zoom::Out && m_info != nullptr && m_info->GetMaxPage() > m_info->GetMinPage());
+    state->Enable(m_zoom == Zoom::pages && m_info != nullptr && m_info->GetMaxPage() > m_info->GetMinPage());
     state->SetText(framework::MessageText(m_count == 1 ? AFX_IDS_TWOPAGE : AFX_IDS_ONEPAGE));
 }
 
 void CPreviewView::UpdateZoomIn(CCmdUI * state)
 {
-    state->Enable(m_zoom != Zoom::In);
+    state->Enable(m_zoom != Zoom::paper);
 }
 
 void CPreviewView::UpdateZoomOut(CCmdUI * state)
 {
-    state->Enable(m_zoom != Zoom::Out);
+    state->Enable(m_zoom != Zoom::pages);
 }

@@ -33,18 +33,18 @@ BOOL CWnd::PreTranslateMessage(MSG * pMsg)
 int CWnd::RunModalLoop(DWORD dwFlags)
 {
     ASSERT(::IsWindow(m_hWnd));
-    ASSERT((m_nFlags & framework::WndModalLoop) == 0);
+    ASSERT((m_nFlags & framework::wnd_modal_loop) == 0);
     bool showWhenIdle = (dwFlags & MLF_SHOWONIDLE) != 0 && (GetStyle() & WS_VISIBLE) == 0;
     HWND const parent = ::GetParent(m_hWnd);
     MSG & message = framework::CurrentThreadState().pumpedMessage;
-    m_nFlags |= framework::WndModalLoop | framework::WndContinueModal;
+    m_nFlags |= framework::wnd_modal_loop | framework::wnd_continue_modal;
     auto const show = [this, &showWhenIdle] {
         showWhenIdle = false;
         ShowWindow(SW_SHOWNORMAL);
         UpdateWindow();
     };
     auto const finish = [this] {
-        m_nFlags &= ~static_cast<UINT>(framework::WndModalLoop | framework::WndContinueModal);
+        m_nFlags &= ~static_cast<UINT>(framework::wnd_modal_loop | framework::wnd_continue_modal);
         return m_nModalResult;
     };
     bool idle = true;
@@ -71,7 +71,7 @@ int CWnd::RunModalLoop(DWORD dwFlags)
             if (!AfxPumpMessage())
             {
                 AfxPostQuitMessage(static_cast<int>(message.wParam)); // the outer loops end, too
-                m_nFlags &= ~static_cast<UINT>(framework::WndModalLoop | framework::WndContinueModal);
+                m_nFlags &= ~static_cast<UINT>(framework::wnd_modal_loop | framework::wnd_continue_modal);
                 return -1;
             }
             if (showWhenIdle && (message.message == system_timer_message || message.message == WM_SYSKEYDOWN))
@@ -89,16 +89,16 @@ int CWnd::RunModalLoop(DWORD dwFlags)
 
 BOOL CWnd::ContinueModal()
 {
-    return (m_nFlags & framework::WndContinueModal) != 0;
+    return (m_nFlags & framework::wnd_continue_modal) != 0;
 }
 
 void CWnd::EndModalLoop(int nResult)
 {
     ASSERT(::IsWindow(m_hWnd));
     m_nModalResult = nResult;
-    if ((m_nFlags & framework::WndContinueModal) == 0)
+    if ((m_nFlags & framework::wnd_continue_modal) == 0)
         return;
-    m_nFlags &= ~static_cast<UINT>(framework::WndContinueModal);
+    m_nFlags &= ~static_cast<UINT>(framework::wnd_continue_modal);
     PostMessage(WM_NULL); // wakes the loop
 }
 

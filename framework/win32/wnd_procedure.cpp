@@ -158,7 +158,7 @@ void CWnd::OnNcDestroy()
         if (thread->m_pActiveWnd == this)
             thread->m_pActiveWnd = nullptr;
     }
-    SetToolTipFlag(FALSE, framework::WndToolTips | framework::WndTrackingToolTips);
+    SetToolTipFlag(FALSE, framework::wnd_tool_tips | framework::wnd_tracking_tool_tips);
 
     LONG_PTR const procedure = ::GetWindowLongPtr(m_hWnd, GWLP_WNDPROC);
     Default();

@@ -6,7 +6,7 @@
 
 namespace
 {
-constexpr UINT both_flags = framework::WndToolTips | framework::WndTrackingToolTips;
+constexpr UINT both_flags = framework::wnd_tool_tips | framework::wnd_tracking_tool_tips;
 
 bool IsMove(UINT message)
 {
@@ -143,12 +143,12 @@ BOOL CWnd::SetToolTipFlag(BOOL bEnable, UINT flag)
 
 BOOL CWnd::EnableToolTips(BOOL bEnable)
 {
-    return SetToolTipFlag(bEnable, framework::WndToolTips);
+    return SetToolTipFlag(bEnable, framework::wnd_tool_tips);
 }
 
 BOOL CWnd::EnableTrackingToolTips(BOOL bEnable)
 {
-    return SetToolTipFlag(bEnable, framework::WndTrackingToolTips);
+    return SetToolTipFlag(bEnable, framework::wnd_tracking_tool_tips);
 }
 
 void PASCAL CWnd::CancelToolTips(BOOL)
@@ -164,7 +164,7 @@ void CWnd::FilterToolTipMessage(MSG * pMsg)
     if (!IsMove(pMsg->message) || !NoButtonIsDown())
     {
         bool const ends = IsKey(pMsg->message) || IsPress(pMsg->message);
-        if ((m_nFlags & framework::WndToolTips) != 0 && ends)
+        if ((m_nFlags & framework::wnd_tool_tips) != 0 && ends)
             CancelToolTips(IsKey(pMsg->message));
         return;
     }
@@ -190,7 +190,7 @@ void CWnd::FilterToolTipMessage(MSG * pMsg)
     TOOLINFO tool{};
     tool.cbSize = sizeof tool;
     INT_PTR const hit = OnToolHitTest(point, &tool);
-    bool const tracking = (m_nFlags & framework::WndTrackingToolTips) != 0;
+    bool const tracking = (m_nFlags & framework::wnd_tracking_tool_tips) != 0;
     if (hit == state.toolTipHit && state.toolTipWindow == this)
     {
         if (hit == -1)

@@ -99,21 +99,21 @@ inline void CheckTree(DockNode const & node, int & centres, std::set<UINT> & ids
     ASSERT_TRUE(ids.insert(node.id).second);
     switch (node.kind)
     {
-    case DockNode::Kind::Tabs:
+    case DockNode::Kind::tabs:
         ASSERT_FALSE(node.panes.empty());
         ASSERT_NE(std::find(node.panes.begin(), node.panes.end(), node.active), node.panes.end());
         ASSERT_TRUE(node.children.empty());
         break;
-    case DockNode::Kind::Centre:
+    case DockNode::Kind::centre:
         ++centres;
         ASSERT_TRUE(node.children.empty() && node.panes.empty());
         break;
-    case DockNode::Kind::Split:
+    case DockNode::Kind::split:
         ASSERT_GE(node.children.size(), 2u);
         ASSERT_TRUE(node.panes.empty());
         for (DockNode const & child : node.children)
         {
-            ASSERT_FALSE(child.kind == DockNode::Kind::Split && child.across == node.across);
+            ASSERT_FALSE(child.kind == DockNode::Kind::split && child.across == node.across);
             ASSERT_GE(child.extent, 0);
             ASSERT_NO_FATAL_FAILURE(CheckTree(child, centres, ids));
         }
@@ -137,21 +137,21 @@ inline void CheckLayout(DockLayout const & layout)
     }
     for (auto const & [id, pane] : layout.Panes())
     {
-        if (pane.place == DockPlace::Docked || pane.place == DockPlace::Folded)
+        if (pane.place == DockPlace::docked || pane.place == DockPlace::folded)
         {
             ASSERT_TRUE(layout.HasDockedPlace(id));
         }
-        if (pane.place == DockPlace::Floating)
+        if (pane.place == DockPlace::floating)
         {
             ASSERT_NE(layout.FrameOf(id), 0u);
         }
         bool inStrip = false;
-        for (DockSide const side : {DockSide::Left, DockSide::Top, DockSide::Right, DockSide::Bottom})
+        for (DockSide const side : {DockSide::left, DockSide::top, DockSide::right, DockSide::bottom})
         {
             std::vector<UINT> const folded = layout.Folded(side);
             inStrip = inStrip || std::find(folded.begin(), folded.end(), id) != folded.end();
         }
-        ASSERT_EQ(inStrip, pane.place == DockPlace::Folded && pane.visible && pane.present);
+        ASSERT_EQ(inStrip, pane.place == DockPlace::folded && pane.visible && pane.present);
     }
 }
 } // namespace docking_tests

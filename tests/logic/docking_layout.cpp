@@ -44,11 +44,11 @@ TEST(DockLayout, TheRoomOfACentreThatDoesNotShowGoesToWhatIsNextToIt)
     DockLayout layout = WithPanes(3);
     layout.metrics.centreShown = false;
     EXPECT_FALSE(layout.Arrange(0, frame_rect).centre);
-    layout.DockAtSide(1, DockSide::Left, false, 200);
+    layout.DockAtSide(1, DockSide::left, false, 200);
     EXPECT_EQ(layout.Arrange(0, frame_rect).groups.at(0).rect, frame_rect);
-    layout.DockAtSide(2, DockSide::Bottom, false, 150);
+    layout.DockAtSide(2, DockSide::bottom, false, 150);
     EXPECT_EQ(RectOf(layout.Arrange(0, frame_rect), 2), CRect(200 + layout.metrics.divider, 0, 1000, 700));
-    layout.DockAtSide(3, DockSide::Top, false, 120);
+    layout.DockAtSide(3, DockSide::top, false, 120);
     for (int const width : {1000, 1400, 900})
     {
         CRect const rect(0, 0, width, 700);
@@ -76,8 +76,8 @@ TEST(DockLayout, TheRoomOfACentreThatDoesNotShowGoesToWhatIsNextToIt)
 TEST(DockLayout, APaneTakesItsSizeAtEachSide)
 {
     for (auto const & [side, wanted] :
-         {std::pair(DockSide::Left, CRect(0, 0, 200, 700)), std::pair(DockSide::Right, CRect(800, 0, 1000, 700)),
-          std::pair(DockSide::Top, CRect(0, 0, 1000, 150)), std::pair(DockSide::Bottom, CRect(0, 550, 1000, 700))})
+         {std::pair(DockSide::left, CRect(0, 0, 200, 700)), std::pair(DockSide::right, CRect(800, 0, 1000, 700)),
+          std::pair(DockSide::top, CRect(0, 0, 1000, 150)), std::pair(DockSide::bottom, CRect(0, 550, 1000, 700))})
     {
         DockLayout layout = WithPanes(1);
         ASSERT_TRUE(layout.DockAtSide(1, side, false));
@@ -89,9 +89,9 @@ TEST(DockLayout, APaneTakesItsSizeAtEachSide)
 TEST(DockLayout, TheSecondPaneAtASideLiesFurtherInAndOneAtTheOuterEdgeBeforeAll)
 {
     DockLayout layout = WithPanes(3);
-    layout.DockAtSide(1, DockSide::Left, false, 100);
-    layout.DockAtSide(2, DockSide::Left, false, 120);
-    layout.DockAtSide(3, DockSide::Bottom, true, 90);
+    layout.DockAtSide(1, DockSide::left, false, 100);
+    layout.DockAtSide(2, DockSide::left, false, 120);
+    layout.DockAtSide(3, DockSide::bottom, true, 90);
     DockPlan const plan = layout.Arrange(0, frame_rect);
     EXPECT_EQ(RectOf(plan, 1), CRect(0, 0, 100, 606));
     EXPECT_EQ(RectOf(plan, 2), CRect(104, 0, 224, 606));
@@ -102,9 +102,9 @@ TEST(DockLayout, TheSecondPaneAtASideLiesFurtherInAndOneAtTheOuterEdgeBeforeAll)
 TEST(DockLayout, BesideAPaneHalfOfItsPlaceIsTaken)
 {
     DockLayout layout = WithPanes(2);
-    layout.DockAtSide(1, DockSide::Left, false);
+    layout.DockAtSide(1, DockSide::left, false);
     layout.Arrange(0, frame_rect);
-    ASSERT_TRUE(layout.DockBeside(2, 1, DockSide::Bottom));
+    ASSERT_TRUE(layout.DockBeside(2, 1, DockSide::bottom));
     DockPlan const plan = layout.Arrange(0, frame_rect);
     EXPECT_EQ(RectOf(plan, 1), CRect(0, 0, 200, 348));
     EXPECT_EQ(RectOf(plan, 2), CRect(0, 352, 200, 700));
@@ -113,18 +113,18 @@ TEST(DockLayout, BesideAPaneHalfOfItsPlaceIsTaken)
 TEST(DockLayout, APaneIsNotDockedBesideItselfNorBesideOneWithoutAPlace)
 {
     DockLayout layout = WithPanes(2);
-    layout.DockAtSide(1, DockSide::Left, false);
-    EXPECT_FALSE(layout.DockBeside(1, 1, DockSide::Left));
+    layout.DockAtSide(1, DockSide::left, false);
+    EXPECT_FALSE(layout.DockBeside(1, 1, DockSide::left));
     EXPECT_FALSE(layout.DockAsTab(1, 1));
-    EXPECT_FALSE(layout.DockBeside(1, 2, DockSide::Left));
-    EXPECT_FALSE(layout.DockBeside(2, 77, DockSide::Left));
-    EXPECT_FALSE(layout.DockAtSide(77, DockSide::Left, false));
+    EXPECT_FALSE(layout.DockBeside(1, 2, DockSide::left));
+    EXPECT_FALSE(layout.DockBeside(2, 77, DockSide::left));
+    EXPECT_FALSE(layout.DockAtSide(77, DockSide::left, false));
 }
 
 TEST(DockLayout, TabsShareAPlaceAndTheNewOneIsInFront)
 {
     DockLayout layout = WithPanes(3);
-    layout.DockAtSide(1, DockSide::Left, false);
+    layout.DockAtSide(1, DockSide::left, false);
     ASSERT_TRUE(layout.DockAsTab(2, 1));
     ASSERT_TRUE(layout.DockAsTab(3, 1, 0));
     DockPlan plan = layout.Arrange(0, frame_rect);
@@ -140,9 +140,9 @@ TEST(DockLayout, TabsShareAPlaceAndTheNewOneIsInFront)
 TEST(DockLayout, AHiddenPaneComesBackToItsPlace)
 {
     DockLayout layout = WithPanes(3);
-    layout.DockAtSide(1, DockSide::Left, false, 100);
-    layout.DockBeside(2, 1, DockSide::Bottom);
-    layout.DockBeside(3, 2, DockSide::Right);
+    layout.DockAtSide(1, DockSide::left, false, 100);
+    layout.DockBeside(2, 1, DockSide::bottom);
+    layout.DockBeside(3, 2, DockSide::right);
     DockPlan const before = layout.Arrange(0, frame_rect);
     layout.Show(1, false);
     layout.Show(3, false);
@@ -157,10 +157,10 @@ TEST(DockLayout, AHiddenPaneComesBackToItsPlace)
 TEST(DockLayout, AFloatingPaneComesBackAndFloatsAgainWhereItWas)
 {
     DockLayout layout = WithPanes(2);
-    layout.DockAtSide(1, DockSide::Left, false, 100);
+    layout.DockAtSide(1, DockSide::left, false, 100);
     layout.DockAsTab(2, 1);
     ASSERT_TRUE(layout.Float(2, CRect(300, 300, 500, 450)));
-    EXPECT_EQ(layout.Find(2)->place, DockPlace::Floating);
+    EXPECT_EQ(layout.Find(2)->place, DockPlace::floating);
     UINT const frame = layout.FrameOf(2);
     EXPECT_EQ(layout.FindFrame(frame)->rect, CRect(300, 300, 500, 450));
     EXPECT_EQ(layout.Together(1), (std::vector<UINT>{1, 2}));
@@ -174,8 +174,8 @@ TEST(DockLayout, AFloatingPaneComesBackAndFloatsAgainWhereItWas)
 TEST(DockLayout, TabsThatFloatedAloneFloatTogether)
 {
     DockLayout layout = WithPanes(2);
-    layout.DockAtSide(1, DockSide::Left, false, 100);
-    layout.DockAtSide(2, DockSide::Left, false, 100);
+    layout.DockAtSide(1, DockSide::left, false, 100);
+    layout.DockAtSide(2, DockSide::left, false, 100);
     for (UINT const pane : {1u, 2u})
     {
         ASSERT_TRUE(layout.Float(pane, CRect(300, 300, 500, 450)));
@@ -192,12 +192,12 @@ TEST(DockLayout, TabsThatFloatedAloneFloatTogether)
 TEST(DockLayout, AFloatingFrameDocksWithItsShape)
 {
     DockLayout layout = WithPanes(4);
-    layout.DockAtSide(1, DockSide::Left, false, 100);
+    layout.DockAtSide(1, DockSide::left, false, 100);
     layout.Float(2, CRect(0, 0, 204, 100));
     layout.Arrange(layout.FrameOf(2), CRect(0, 0, 204, 100));
-    layout.DockBeside(3, 2, DockSide::Right);
+    layout.DockBeside(3, 2, DockSide::right);
     layout.DockAsTab(4, 3);
-    ASSERT_TRUE(layout.DockBeside(DockContent::Frame(layout.FrameOf(2)), 1, DockSide::Bottom));
+    ASSERT_TRUE(layout.DockBeside(DockContent::Frame(layout.FrameOf(2)), 1, DockSide::bottom));
     DockPlan const plan = layout.Arrange(0, frame_rect);
     EXPECT_EQ(RectOf(plan, 2).top, RectOf(plan, 3).top);
     EXPECT_EQ(RectOf(plan, 3), RectOf(plan, 4));
@@ -207,24 +207,24 @@ TEST(DockLayout, AFloatingFrameDocksWithItsShape)
 TEST(DockLayout, FoldingTakesAllTabsOfAPlaceToTheStripAndBack)
 {
     DockLayout layout = WithPanes(3);
-    layout.DockAtSide(1, DockSide::Right, false);
+    layout.DockAtSide(1, DockSide::right, false);
     layout.DockAsTab(2, 1);
-    layout.DockAtSide(3, DockSide::Bottom, false);
+    layout.DockAtSide(3, DockSide::bottom, false);
     DockPlan const before = layout.Arrange(0, frame_rect);
     ASSERT_TRUE(layout.Fold(2, true));
-    EXPECT_EQ(layout.Folded(DockSide::Right), (std::vector<UINT>{1, 2}));
+    EXPECT_EQ(layout.Folded(DockSide::right), (std::vector<UINT>{1, 2}));
     EXPECT_EQ(layout.Arrange(0, frame_rect).groups.size(), 1u);
     EXPECT_FALSE(layout.Fold(2, true));
     ASSERT_TRUE(layout.Fold(2, false));
-    EXPECT_TRUE(layout.Folded(DockSide::Right).empty());
+    EXPECT_TRUE(layout.Folded(DockSide::right).empty());
     EXPECT_EQ(RectOf(layout.Arrange(0, frame_rect), 1), RectOf(before, 1));
 }
 
 TEST(DockLayout, ADividerMovesAsFarAsTheLeastSizesAllow)
 {
     DockLayout layout = WithPanes(2);
-    layout.DockAtSide(1, DockSide::Left, false, 100);
-    layout.DockAtSide(2, DockSide::Right, false, 100);
+    layout.DockAtSide(1, DockSide::left, false, 100);
+    layout.DockAtSide(2, DockSide::right, false, 100);
     DockPlan plan = layout.Arrange(0, frame_rect);
     ASSERT_EQ(plan.dividers.size(), 2u);
     framework::DockPlan::Divider const divider = plan.dividers[0];
@@ -240,11 +240,11 @@ TEST(DockLayout, ADividerMovesAsFarAsTheLeastSizesAllow)
 TEST(DockLayout, AFrameThatGetsSmallAndLargeAgainIsAsBefore)
 {
     DockLayout layout = WithPanes(5);
-    layout.DockAtSide(1, DockSide::Left, false, 300);
-    layout.DockAtSide(2, DockSide::Right, false, 400);
-    layout.DockBeside(3, 1, DockSide::Bottom);
-    layout.DockBeside(4, 3, DockSide::Bottom);
-    layout.DockAtSide(5, DockSide::Top, true);
+    layout.DockAtSide(1, DockSide::left, false, 300);
+    layout.DockAtSide(2, DockSide::right, false, 400);
+    layout.DockBeside(3, 1, DockSide::bottom);
+    layout.DockBeside(4, 3, DockSide::bottom);
+    layout.DockAtSide(5, DockSide::top, true);
     DockPlan const before = layout.Arrange(0, frame_rect);
     for (int width = 1000; width >= 0; width -= 37)
         CheckPlan(layout, layout.Arrange(0, CRect(0, 0, width, width * 7 / 10)), CRect(0, 0, width, width * 7 / 10), 0);
@@ -256,8 +256,8 @@ TEST(DockLayout, AFrameThatGetsSmallAndLargeAgainIsAsBefore)
 TEST(DockLayout, APaneWithoutAWindowKeepsItsPlace)
 {
     DockLayout layout = WithPanes(2);
-    layout.DockAtSide(1, DockSide::Left, false, 100);
-    layout.DockBeside(2, 1, DockSide::Bottom);
+    layout.DockAtSide(1, DockSide::left, false, 100);
+    layout.DockBeside(2, 1, DockSide::bottom);
     DockPlan const before = layout.Arrange(0, frame_rect);
     layout.LeavePane(2);
     EXPECT_EQ(RectOf(layout.Arrange(0, frame_rect), 1), CRect(0, 0, 100, 700));
@@ -374,8 +374,8 @@ TEST(DockLayout, ManyOperationsLeaveASoundLayout)
 TEST(DockLayoutStore, DamagedBytesGiveNoLayout)
 {
     DockLayout layout = WithPanes(5);
-    layout.DockAtSide(1, DockSide::Left, false);
-    layout.DockBeside(2, 1, DockSide::Bottom);
+    layout.DockAtSide(1, DockSide::left, false);
+    layout.DockBeside(2, 1, DockSide::bottom);
     layout.DockAsTab(3, 2);
     layout.Float(4, CRect(1, 2, 3, 4));
     layout.Fold(1, true);
@@ -395,8 +395,8 @@ TEST(DockLayoutStore, DamagedBytesGiveNoLayout)
 TEST(DockLayoutStore, NoMixOfTwoStoredLayoutsIsTaken)
 {
     DockLayout layout = WithPanes(5);
-    layout.DockAtSide(1, DockSide::Left, false, 300);
-    layout.DockBeside(2, 1, DockSide::Bottom);
+    layout.DockAtSide(1, DockSide::left, false, 300);
+    layout.DockBeside(2, 1, DockSide::bottom);
     layout.Float(4, CRect(1, 2, 300, 400));
     std::vector<std::vector<std::uint8_t>> stored{layout.Save()};
     layout.Float(4, CRect(60, 70, 310, 400)); // as many bytes
@@ -435,8 +435,8 @@ TEST(DockLayoutStore, NoMixOfTwoStoredLayoutsIsTaken)
 TEST(DockLayoutStore, AStoredLayoutWaitsForItsPanes)
 {
     DockLayout layout = WithPanes(2);
-    layout.DockAtSide(1, DockSide::Left, false, 100);
-    layout.DockBeside(2, 1, DockSide::Bottom);
+    layout.DockAtSide(1, DockSide::left, false, 100);
+    layout.DockBeside(2, 1, DockSide::bottom);
     DockPlan const before = layout.Arrange(0, frame_rect);
     auto stored = DockLayout::Load(layout.Save());
     ASSERT_TRUE(stored);

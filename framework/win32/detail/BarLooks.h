@@ -36,11 +36,11 @@ private:
 
 enum class Mark
 {
-    Check,
-    Bullet,
-    ArrowRight,
-    ArrowDown,
-    ArrowUp
+    check,
+    bullet,
+    arrow_right,
+    arrow_down,
+    arrow_up
 };
 /// A mark in the middle of the rectangle.
 void DrawMark(CDC & dc, CRect const & rect, Mark mark, COLORREF colour);

@@ -13,11 +13,9 @@ template <class To, class From> To MessageValue(From value)
         return value;
     else if constexpr (std::is_null_pointer_v<From>)
         return To{};
-    else if constexpr (std::is_pointer_v<From> && std::is_function_v<std::remove_pointer_t<From>>)
-        return reinterpret_cast<To>(value);
-    else if constexpr (std::is_pointer_v<From>)
+    else if constexpr (std::is_pointer_v<From> && !std::is_function_v<std::remove_pointer_t<From>>)
         return reinterpret_cast<To>(const_cast<std::remove_cv_t<std::remove_pointer_t<From>> *>(value));
-    else if constexpr (std::is_pointer_v<To>)
+    else if constexpr (std::is_pointer_v<From> || std::is_pointer_v<To>)
         return reinterpret_cast<To>(value);
     else
         return static_cast<To>(value);

@@ -17,14 +17,14 @@ struct DataExchangeAccess
 /// Numbers of the prompts, as resources of the program may replace them.
 enum class Prompt : UINT
 {
-    ParseInteger = 0xF110,
-    ParseReal = 0xF111,
-    IntegerRange = 0xF112,
-    RealRange = 0xF113,
-    StringSize = 0xF114,
-    RadioButton = 0xF115,
-    ParseByte = 0xF116,
-    ParseUnsigned = 0xF117
+    parse_integer = 0xF110,
+    parse_real = 0xF111,
+    integer_range = 0xF112,
+    real_range = 0xF113,
+    string_size = 0xF114,
+    radio_button = 0xF115,
+    parse_byte = 0xF116,
+    parse_unsigned = 0xF117
 };
 
 /// The prompt with %1, %2 replaced: the program's string resource of this number if there is one, else English.

@@ -20,7 +20,7 @@ public:
     void StartButton(CDockablePane & pane, UINT hit);
     /// Ends it without effect.
     void Cancel();
-    bool Running() const { return m_kind != Kind::None; }
+    bool Running() const { return m_kind != Kind::none; }
     void PaneEnds(UINT pane);
 
 protected:
@@ -29,10 +29,10 @@ protected:
 private:
     enum class Kind
     {
-        None,
-        Panes,
-        Divider,
-        Button
+        none,
+        panes,
+        divider,
+        button
     };
 
     bool Start(Kind kind, CPoint screen);
@@ -44,7 +44,7 @@ private:
     static LRESULT CALLBACK OnKey(int code, WPARAM wParam, LPARAM lParam);
 
     DockHost & m_host;
-    Kind m_kind = Kind::None;
+    Kind m_kind = Kind::none;
     DockContent m_content{UINT{0}};
     CPaneDivider * m_divider = nullptr;
     HWND m_button = nullptr; // the window whose caption has it
@@ -54,7 +54,7 @@ private:
     bool m_moved = false;
     DockLanding m_landing;
     CRect m_shown{0, 0, 0, 0};
-    DockLanding::Kind m_shape = DockLanding::Kind::None;
+    DockLanding::Kind m_shape = DockLanding::Kind::none;
     HHOOK m_keys = nullptr;
 };
 } // namespace framework

@@ -20,7 +20,7 @@ namespace framework
 class DockDrag;
 
 constexpr UINT first_own_id = 0x10000;    // of panes whose identifier another has
-extern UINT const arrangeMessage;         // to a frame: its panes are laid out anew
+extern UINT const arrange_message;        // to a frame: its panes are laid out anew
 constexpr UINT_PTR slide_watch_timer = 2; // of a strip, while a pane of it is shown
 
 /// Sizes that follow from the system's fonts and their resolution.
@@ -40,15 +40,15 @@ struct DockLanding
 {
     enum class Kind
     {
-        None,
-        Float,
-        Side,
-        Beside,
-        Tab
+        none,
+        floating,
+        side,
+        beside,
+        tab
     };
 
-    Kind kind = Kind::None;
-    DockSide side = DockSide::Left;
+    Kind kind = Kind::none;
+    DockSide side = DockSide::left;
     bool outer = false;
     UINT target = 0;
     int index = -1;

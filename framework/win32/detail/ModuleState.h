@@ -82,8 +82,6 @@ FRAMEWORK_API void AFXAPI AfxSetResourceHandle(HINSTANCE hInstResource);
 /// The module to load a resource from: the current resource handle if it has it, then the extension modules in order,
 /// then the framework itself; if none has it, the current resource handle.
 FRAMEWORK_API HINSTANCE AFXAPI AfxFindResourceHandle(LPCTSTR lpszName, LPCTSTR lpszType);
-/// The same for one string of the string tables. Null if no module has it.
-FRAMEWORK_API HINSTANCE AFXAPI AfxFindStringResourceHandle(UINT nID);
 FRAMEWORK_API int AFXAPI AfxLoadString(UINT nIDS, LPTSTR lpszBuf, UINT nMaxBuf = 256);
 
 FRAMEWORK_API HINSTANCE AFXAPI AfxLoadLibrary(LPCTSTR lpszModuleName);

@@ -7,11 +7,11 @@ namespace framework
 {
 enum WndFlags : UINT
 {
-    WndToolTips = 0x0001,
-    WndTrackingToolTips = 0x0002,
-    WndModalLoop = 0x0010,
-    WndContinueModal = 0x0020,
-    WndOwnedByTemporaryMap = 0x0100
+    wnd_tool_tips = 0x0001,
+    wnd_tracking_tool_tips = 0x0002,
+    wnd_modal_loop = 0x0010,
+    wnd_continue_modal = 0x0020,
+    wnd_owned_by_temporary_map = 0x0100
 };
 
 struct WndAccess

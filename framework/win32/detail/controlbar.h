@@ -108,9 +108,9 @@ private:
 
     enum class Delay
     {
-        None,
-        Show,
-        Hide
+        none,
+        show,
+        hide
     };
 
     /// Puts the contents so as the mode wants it, before the bar is asked for its size in that mode.

@@ -33,9 +33,9 @@ private:
 
     enum class Zoom
     {
-        Out, // whole pages
-        Middle,
-        In // as large as on paper
+        pages, // whole ones
+        middle,
+        paper // as large as on it
     };
     /// A page as it was printed.
     struct Page

@@ -49,7 +49,7 @@ void Use(framework::DockLayout & layout)
     {
         layout.DockBack(pane);
         layout.Fold(pane, true);
-        layout.DockAtSide(pane, DockSide::Bottom, true);
+        layout.DockAtSide(pane, DockSide::bottom, true);
     }
     Require(panes.empty() || DockLayout::Load(layout.Save()).has_value());
 }
