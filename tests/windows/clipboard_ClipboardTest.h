@@ -58,7 +58,7 @@ protected:
         if (memory == nullptr)
             return {};
         auto const * const bytes = static_cast<char const *>(::GlobalLock(memory));
-        std::vector<char> const result(bytes, bytes + ::GlobalSize(memory));
+        std::vector<char> result(bytes, bytes + ::GlobalSize(memory));
         ::GlobalUnlock(memory);
         return result;
     }

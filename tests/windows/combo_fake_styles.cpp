@@ -18,7 +18,7 @@ CVisualStyles & VisualStyles()
 
 CVisualStyles::CVisualStyles(wchar_t const *) : m_library(nullptr) {}
 
-CVisualStyles::~CVisualStyles() = default;
+CVisualStyles::~CVisualStyles() {}
 
 int CVisualStyles::IsStyledPaintingOn() const
 {

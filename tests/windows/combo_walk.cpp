@@ -113,7 +113,7 @@ public:
         if (items.empty())
             return;
         long long const from = selected < 0 || selected >= Count() ? 0 : selected;
-        Select(std::clamp(from + 10 * direction, 0LL, static_cast<long long>(Count() - 1)));
+        Select(std::clamp(from + 10LL * direction, 0LL, static_cast<long long>(Count() - 1)));
     }
     void PageInList(int direction, int top, int visible)
     {

@@ -61,7 +61,7 @@ protected:
 class MultiselectDialog : public testing::Test
 {
 protected:
-    INT_PTR Run(CIdNameMultiselectDlg & dialog, std::function<void(tests::MultiselectParts const &)> action)
+    INT_PTR Run(CIdNameMultiselectDlg & dialog, std::function<void(tests::MultiselectParts const &)> const & action)
     {
         INT_PTR result = 0;
         tests::DoInDialog(

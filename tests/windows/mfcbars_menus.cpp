@@ -6,8 +6,6 @@
 
 namespace
 {
-using mfcbars::BarFrame;
-
 class MfcMenus : public mfcbars::MfcBarTest
 {
 protected:

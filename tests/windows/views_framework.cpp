@@ -7,7 +7,6 @@
 using frames::g_log;
 using frames::TestChild;
 using frames::TestDocument;
-using frames::TestMain;
 using frames::TestView;
 
 namespace

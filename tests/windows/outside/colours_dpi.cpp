@@ -997,7 +997,7 @@ protected:
     }
     static std::wstring Take(BSTR text)
     {
-        std::wstring const copy(text != nullptr ? text : L"");
+        std::wstring copy(text != nullptr ? text : L"");
         ::SysFreeString(text);
         return copy;
     }

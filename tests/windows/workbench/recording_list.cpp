@@ -461,7 +461,7 @@ TEST_F(RecordingListTest, ATableSaysWhatTheCellsShow)
 {
     Show();
     auto damaged = std::make_shared<RecordingAnalysis>(*AnalysisOf(recordings[3]));
-    damaged->info.announcedFrames = 100 * rate;
+    damaged->info.announcedFrames = std::uint64_t{100} * rate;
     damaged->loudness = -23.05;
     damaged->tone.frequency = 1234.5;
     damaged->tone.distortion = 0.00123;
@@ -505,7 +505,7 @@ TEST_F(RecordingListTest, TheReferencesNameFitsInBold)
     m_list.ShowReference();
     CClientDC dc(&m_list);
     workbench::FontScope const font(dc, m_metrics.BoldFont());
-    auto const needed = dc.GetTextExtent(m_list.GetItemText(0, CRecordingList::column_name)).cx;
+    LONG const needed = dc.GetTextExtent(m_list.GetItemText(0, CRecordingList::column_name)).cx;
     EXPECT_GE(m_list.GetColumnWidth(CRecordingList::column_name), needed + 2 * m_list.GetCellPadding());
 }
 
@@ -522,7 +522,7 @@ TEST_F(RecordingListTest, TheReferencesNameFitsInBoldAtAnotherResolution)
     list.ShowReference();
     CClientDC dc(&list);
     workbench::FontScope const font(dc, metrics.BoldFont());
-    auto const needed = dc.GetTextExtent(list.GetItemText(0, CRecordingList::column_name)).cx;
+    LONG const needed = dc.GetTextExtent(list.GetItemText(0, CRecordingList::column_name)).cx;
     EXPECT_GE(list.GetColumnWidth(CRecordingList::column_name), needed + 2 * metrics.Scaled(5)); // with its padding
 }
 
