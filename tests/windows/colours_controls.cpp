@@ -92,13 +92,13 @@ protected:
 
 TEST_F(ColorsTable, CellsAndTitlesAreTheSets)
 {
-    auto const before = ShotOf(*m_table);
+    std::unique_ptr<Canvas> const before = ShotOf(*m_table);
     for (ControlColorSet const set : colours_tests::adapting_sets)
     {
         SCOPED_TRACE(testing::PrintToString(set));
         control_colors::UseFor(m_host.m_hWnd, set);
         ControlColors const colors = control_colors::Of(set);
-        auto const shot = ShotOf(*m_table);
+        std::unique_ptr<Canvas> const shot = ShotOf(*m_table);
         CRect const name = CellRect(1, 0);
         EXPECT_EQ(shot->Pixel(name.right - 3, name.bottom - 2), colors.window);
         EXPECT_GT(shot->Count(colors.windowText, name), 5);
@@ -132,7 +132,7 @@ TEST_F(ColorsTable, TextIsReadOnTheHostsGround)
     control_colors::UseFor(m_host.m_hWnd, ControlColorSet::dark);
     ControlColors const colors = control_colors::Dark();
     COLORREF const ground = tests::TestTable::Colour(0);
-    auto const shot = ShotOf(*m_table);
+    std::unique_ptr<Canvas> const shot = ShotOf(*m_table);
     CRect const name = CellRect(1, 0);
     EXPECT_EQ(shot->Pixel(name.right - 3, name.bottom - 2), ground);
     EXPECT_GT(shot->Count(control_colors::MarkOn(ground, colors.windowText, colors.window), name), 5);
@@ -187,7 +187,7 @@ protected:
 TEST_F(ColorsSlider, WhatNobodyHasChosenIsTheSets)
 {
     COLORREF const face = ::GetSysColor(COLOR_BTNFACE);
-    auto const before = ShotOf(m_slider);
+    std::unique_ptr<Canvas> const before = ShotOf(m_slider);
     for (ControlColorSet const set : colours_tests::adapting_sets)
     {
         SCOPED_TRACE(testing::PrintToString(set));
@@ -278,11 +278,11 @@ TEST_F(ColorsButton, FrameWhilePointedAtIsTheSetsUnlessTheHostHasChosenIt)
     m_button.SetRolloverDelay(USER_TIMER_MAXIMUM); // it stays hot, wherever the mouse is
     m_button.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(5, 5));
     EXPECT_EQ(ShotOf(m_button)->Pixel(0, 0), RGB(0, 255, 0));
-    for (auto const set : {ControlColorSet::dark, ControlColorSet::high_contrast})
+    for (ControlColorSet const set : {ControlColorSet::dark, ControlColorSet::high_contrast})
     {
         control_colors::UseFor(m_host.m_hWnd, set);
         ControlColors const colors = control_colors::Of(m_button.m_hWnd);
-        auto const shot = ShotOf(m_button);
+        std::unique_ptr<Canvas> const shot = ShotOf(m_button);
         EXPECT_EQ(shot->Pixel(0, 0), colors.buttonHotFrame);
         EXPECT_EQ(shot->Pixel(width - 1, height - 1), colors.buttonHotFrame);
         EXPECT_EQ(shot->Pixel(1, 1), colors.face) << "the ground stays";

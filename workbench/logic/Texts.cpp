@@ -349,7 +349,7 @@ bool SpeaksLanguage(unsigned short languageId)
 
 Language LanguageOf(unsigned short languageId)
 {
-    auto const * const facts = FindLanguage(languageId);
+    LanguageFacts const * const facts = FindLanguage(languageId);
     return facts != nullptr ? static_cast<Language>(facts - language_facts) : Language::english;
 }
 
@@ -365,7 +365,7 @@ Language PresentLanguage()
 
 wchar_t const * Text(wchar_t const * english)
 {
-    auto const language = s_language.load();
+    Language const language = s_language.load();
     if (language == Language::english)
     {
         return english;

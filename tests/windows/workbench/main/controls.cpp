@@ -996,9 +996,9 @@ TEST_F(WorkbenchControls, TheListIsExportedIntoAFile)
     exportTo(m_folder / "list.html", 0);
     EXPECT_TRUE(contents(m_folder / "list.html").starts_with("<!DOCTYPE html>"));
     // Why one cannot be written is said.
-    auto const locale = ::GetThreadLocale();
-    auto const gone = m_folder / "gone" / "list.txt";
-    for (auto const & language : workbench::language_facts)
+    LCID const locale = ::GetThreadLocale();
+    std::filesystem::path const gone = m_folder / "gone" / "list.txt";
+    for (workbench::LanguageFacts const & language : workbench::language_facts)
     {
         m_window->ChooseLanguage(language.id);
         exportTo(gone, 0);

@@ -487,7 +487,7 @@ TEST_F(WorkbenchFrameMeasures, NothingIsCutOffInAnyLanguageOrResolution)
         ForgetSettings();
         OpenWindow(dots);
         ShowShort();
-        for (auto const & language : workbench::language_facts)
+        for (workbench::LanguageFacts const & language : workbench::language_facts)
         {
             m_window->ChooseLanguage(language.id);
             CClientDC dc(&Table());
@@ -498,7 +498,7 @@ TEST_F(WorkbenchFrameMeasures, NothingIsCutOffInAnyLanguageOrResolution)
                 EXPECT_GE(Table().GetColumnWidth(place), width(Title(place)) + 34)
                     << language.id << Title(place).c_str();
             }
-            for (auto const id : {IDC_FRAME_STATUS, IDC_FRAME_EXPORT})
+            for (int const id : {IDC_FRAME_STATUS, IDC_FRAME_EXPORT})
             {
                 CRect place;
                 Control(id).GetWindowRect(&place);

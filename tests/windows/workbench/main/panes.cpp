@@ -214,14 +214,14 @@ TEST_F(WorkbenchPanes, TheMeasuresShowTheirTextsWholeInEachLanguage)
         }
         EXPECT_GE(seen, 3) << language << where;
     };
-    for (auto const & language : workbench::language_facts)
+    for (workbench::LanguageFacts const & language : workbench::language_facts)
     {
         m_window->ChooseLanguage(language.id);
         check(language.id, L" docked ");
     }
     ASSERT_TRUE(pane.FloatPane(CRect(100, 100, 600, 220)));
     tests::PumpPosted();
-    for (auto const & language : workbench::language_facts)
+    for (workbench::LanguageFacts const & language : workbench::language_facts)
     {
         m_window->ChooseLanguage(language.id);
         check(language.id, L" floating ");
