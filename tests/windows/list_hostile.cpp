@@ -634,8 +634,8 @@ TEST_F(AskedByItsEdit, ForItsColoursItMayEndItAndAnother)
     EXPECT_EQ(tests::OpenEditOf(m_list), nullptr);
 }
 
-/// Does something once, where it is asked for its font.
-class ListAskedForItsFont : public tests::GuardedList
+/// Does something once, where it gets the message, and answers that itself then.
+template <UINT asked, LRESULT answer> class ListThatActs : public tests::GuardedList
 {
 public:
     std::function<void()> m_act;
@@ -643,13 +643,15 @@ public:
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
-        auto const act = message == WM_GETFONT ? std::exchange(m_act, {}) : nullptr;
+        auto const act = message == asked ? std::exchange(m_act, {}) : nullptr;
         if (!act)
             return GuardedList::WindowProc(message, wParam, lParam);
         act();
-        return 0;
+        return answer;
     }
 };
+using ListAskedForItsFont = ListThatActs<WM_GETFONT, 0>;
+using ListAskedForACell = ListThatActs<LVM_GETSUBITEMRECT, 1>; // for a cell's place
 
 TEST(ListWithoutRows, MayEndWhileItsTextIsPainted)
 {
@@ -664,23 +666,6 @@ TEST(ListWithoutRows, MayEndWhileItsTextIsPainted)
     ::RedrawWindow(list->m_hWnd, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
     EXPECT_EQ(list, nullptr) << "it was asked";
 }
-
-/// Does something once, where it is asked for a cell's place.
-class ListAskedForACell : public tests::GuardedList
-{
-public:
-    std::function<void()> m_act;
-
-protected:
-    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
-    {
-        auto const act = message == LVM_GETSUBITEMRECT ? std::exchange(m_act, {}) : nullptr;
-        if (!act)
-            return GuardedList::WindowProc(message, wParam, lParam);
-        act();
-        return 1;
-    }
-};
 
 /// A list that its host deletes in the question where the cell stands that is to be painted anew.
 class DeletedAtARepaint : public testing::Test
